@@ -1,0 +1,25 @@
+# SPDX-License-Identifier: MIT
+#
+# Every library from outside, found in one place. tools/packages lists the packages that hold them.
+find_package(PkgConfig REQUIRED)
+find_package(Boost 1.74 REQUIRED)
+find_package(Threads REQUIRED)
+
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
+pkg_check_modules(XCB_INPUT REQUIRED IMPORTED_TARGET xcb-xinput)
+pkg_check_modules(XCB_XTEST REQUIRED IMPORTED_TARGET xcb-xtest)
+pkg_check_modules(XCB_XKB REQUIRED IMPORTED_TARGET xcb-xkb)
+pkg_check_modules(XCB_RECORD REQUIRED IMPORTED_TARGET xcb-record)
+pkg_check_modules(XKBCOMMON REQUIRED IMPORTED_TARGET xkbcommon)
+pkg_check_modules(XKBCOMMON_X11 REQUIRED IMPORTED_TARGET xkbcommon-x11)
+pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0)
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus)
+
+if(KEYRILL_BUILD_TESTS)
+    find_package(GTest REQUIRED)
+    include(GoogleTest)
+endif()
+if(KEYRILL_BUILD_BENCH)
+    find_package(benchmark REQUIRED)
+endif()

@@ -1,0 +1,82 @@
+# SPDX-License-Identifier: MIT
+#
+# A room is one folder of the floor plan and one library. Its public headers are shown to others through a
+# view: a folder of links that holds those headers and nothing else. A room gets the views of the rooms that
+# it names in USES and of what these use in turn, so an include of a room above does not compile.
+
+set(KEYRILL_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual)
+
+# Compile options that all targets of the project share.
+function(keyrill_compile_options target)
+    target_compile_features(${target} PUBLIC cxx_std_20)
+    target_compile_options(${target} PRIVATE ${KEYRILL_WARNINGS} $<$<BOOL:${KEYRILL_WERROR}>:-Werror>)
+    if(KEYRILL_SANITIZE)
+        target_compile_options(${target} PRIVATE -fsanitize=${KEYRILL_SANITIZE} -fno-omit-frame-pointer
+                                                 -fno-sanitize-recover=all)
+        target_link_options(${target} PRIVATE -fsanitize=${KEYRILL_SANITIZE})
+    endif()
+    # A link that is out of date would show others a header that is gone.
+    set_target_properties(${target} PROPERTIES AUTOMOC OFF)
+endfunction()
+
+# Links each of the headers of `folder` into `view`, under the folder's own name.
+function(keyrill_view view folder)
+    foreach(header IN LISTS ARGN)
+        set(link "${view}/${folder}/${header}")
+        get_filename_component(parent "${link}" DIRECTORY)
+        file(MAKE_DIRECTORY "${parent}")
+        file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}/${header}" "${link}" SYMBOLIC)
+    endforeach()
+endfunction()
+
+# keyrill_room(keyrill_core FOLDER core HEADERS Action.h ... SOURCES Action.cpp ... PRIVATE_HEADERS ...
+#              USES keyrill_platform Boost::headers PRIVATE_USES XCB::XCB)
+# Every public header is also compiled alone.
+function(keyrill_room target)
+    cmake_parse_arguments(room "" "FOLDER" "HEADERS;PRIVATE_HEADERS;SOURCES;USES;PRIVATE_USES" ${ARGN})
+    set(view "${PROJECT_BINARY_DIR}/view/${target}")
+    file(REMOVE_RECURSE "${view}" "${view}_private")
+    keyrill_view("${view}" "${room_FOLDER}" ${room_HEADERS})
+    keyrill_view("${view}_private" "${room_FOLDER}" ${room_PRIVATE_HEADERS})
+
+    set(alone "")
+    foreach(header IN LISTS room_HEADERS)
+        string(MAKE_C_IDENTIFIER "${header}" name)
+        set(source "${CMAKE_CURRENT_BINARY_DIR}/alone/${name}.cpp")
+        file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"${room_FOLDER}/${header}\"\n")
+        list(APPEND alone "${source}")
+    endforeach()
+
+    if(room_SOURCES)
+        add_library(${target} STATIC ${room_SOURCES})
+        keyrill_compile_options(${target})
+        target_include_directories(${target} PUBLIC "${view}" PRIVATE "${view}_private")
+        target_link_libraries(${target} PUBLIC ${room_USES} PRIVATE ${room_PRIVATE_USES})
+    else()
+        add_library(${target} INTERFACE)
+        target_compile_features(${target} INTERFACE cxx_std_20)
+        target_include_directories(${target} INTERFACE "${view}")
+        target_link_libraries(${target} INTERFACE ${room_USES})
+    endif()
+
+    if(KEYRILL_BUILD_TESTS AND alone)
+        add_library(${target}_headers_alone OBJECT ${alone})
+        keyrill_compile_options(${target}_headers_alone)
+        set_target_properties(${target}_headers_alone PROPERTIES CXX_CLANG_TIDY "")
+        target_link_libraries(${target}_headers_alone PRIVATE ${target})
+    endif()
+endfunction()
+
+# keyrill_test(core_test LABEL unit SOURCES ... USES ...): one GoogleTest program for a folder, each test of it
+# a test of its own.
+function(keyrill_test target)
+    cmake_parse_arguments(test "" "LABEL;TIMEOUT" "SOURCES;USES;PROPERTIES" ${ARGN})
+    if(NOT test_TIMEOUT)
+        set(test_TIMEOUT 60)
+    endif()
+    add_executable(${target} ${test_SOURCES})
+    keyrill_compile_options(${target})
+    target_link_libraries(${target} PRIVATE ${test_USES} GTest::gtest GTest::gtest_main)
+    gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60
+        PROPERTIES LABELS ${test_LABEL} TIMEOUT ${test_TIMEOUT} ${test_PROPERTIES})
+endfunction()

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+#include "platform/KeyEvent.h"
+#include "platform/Result.h"
+
+/// The keyboard events of every application, in the order in which the user made them.
+///
+/// - A held key gives one key-down and as many auto-repeats as the focused application got. Redundant presses
+///   and releases give nothing.
+/// - Modifier, lock and level-chooser keys are never key-downs. A modifier change comes before the key-down
+///   that follows it; its mask passes through 0 only when all modifier keys are up.
+/// - Locks are never reported at rest. Just before a key-down the mask is reported that types the same
+///   character with locks off, after it the held modifiers again. Where that mask would be 0 while a modifier
+///   key is down, Caps Lock alone (0x0400) is reported in its place: it shifts nothing but A to Z.
+/// - The press, the repeats and the release of a registered hot key are not delivered; the modifier changes
+///   around it are.
+/// - One order with the hot keys: before a hot key is dispatched, all events up to its press are delivered.
+/// - While the screen is locked no key press is delivered.
+/// - What the user does while a script runs is kept and delivered in order after the run.
+///
+/// The handler runs on the main thread and may run a script; it is never entered twice at a time.
+class EventMonitor {
+  public:
+    using Handler = std::function<void(const KeyEvent&)>;
+
+    virtual ~EventMonitor() = default;
+
+    /// Starts delivering to `handler`; a second call replaces it. Fails where the desktop shows no foreign
+    /// key events.
+    virtual Result<void> install(Handler handler) = 0;
+
+    /// While a question of the program's own is open: key presses are not delivered and hot keys are dropped,
+    /// modifier changes go on.
+    virtual void setWithheld(bool withheld) = 0;
+
+    /// Whether the strokes of a running script are delivered after the run like the user's own. Set while a
+    /// macro is being recorded; off at first.
+    virtual void setKeepsOwnStrokes(bool keeps) = 0;
+};

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "platform/Result.h"
+
+/// The number under which a hot key is registered and reported, 1 or more.
+using HotKeyId = std::uint32_t;
+
+/// A wish for a global hot key.
+struct HotKeyRequest {
+    HotKeyId id = 0;
+    /// For messages, as the user knows it ("play").
+    std::string name;
+    /// See platform/KeyCodes.h; keycode::none asks for nothing and leaves the hot key unset.
+    std::uint32_t keyCode = 0;
+    /// See platform/Modifiers.h; function key and Caps Lock are ignored.
+    std::uint32_t modifiers = 0;
+    /// Whether a press while a script runs also ends the playback.
+    bool cancelsPlayback = false;
+};
+
+/// How far a request has come. `changed` means registered, but as another combination than asked for.
+enum class HotKeyStatus { unset, pending, registered, changed, refused };
+
+struct HotKeyState {
+    HotKeyStatus status = HotKeyStatus::unset;
+    /// Set while refused: its message names the combination and who holds it, as far as known.
+    std::optional<Error> error;
+};
+
+/// Global hot keys: a combination is taken from all applications and its presses and releases come here.
+///
+/// A held hot key presses once. Its release is known by the key alone, whatever the modifiers are by then.
+/// Lock states do not matter. Of two hot keys with one combination the first keeps it, the second is refused.
+/// A change of the keyboard layout moves the grabs along. Strokes of a running script never fire a hot key;
+/// the user's presses during a run come after it, in one order with the monitor's events.
+class HotKeys {
+  public:
+    using Handler = std::function<void(HotKeyId)>;
+    using Observer = std::function<void(HotKeyId, const HotKeyState&)>;
+
+    virtual ~HotKeys() = default;
+
+    /// Who is told of presses and releases; a second call replaces both.
+    virtual void install(Handler pressed, Handler released) = 0;
+
+    /// Who is told of every change of a state, also of those that come later; at most one.
+    virtual void observe(Observer observer) = 0;
+
+    /// Asks for a combination, in place of what the id had. The answer may come later, by way of the
+    /// observer.
+    virtual void request(const HotKeyRequest& request) = 0;
+
+    /// Gives the combination of the id free; an id without one is ignored.
+    virtual void withdraw(HotKeyId id) = 0;
+
+    virtual HotKeyState state(HotKeyId id) const = 0;
+
+    /// The window system's time stamp of the latest press, 0 before the first: what a window that is raised
+    /// because of it shows as its permission to take the focus.
+    virtual std::uint32_t lastPressTime() const = 0;
+};

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "platform/Result.h"
+
+/// What became of a step of a run: go on, or the user has asked to stop.
+enum class RunState { going, cancelled };
+
+/// What a script presses with `key down` and releases with `key up`: one modifier (a bit of
+/// platform/Modifiers.h), or a key by its code, or the keys that type a text (UTF-8).
+struct HeldModifier {
+    std::uint32_t modifier = 0;
+};
+struct HeldCode {
+    std::uint32_t keyCode = 0;
+};
+struct HeldText {
+    std::string text;
+};
+using HeldKey = std::variant<HeldModifier, HeldCode, HeldText>;
+
+/// Presses keys for one run of a script, and holds every rule about hands, locks and cancelling, so that the
+/// script language knows nothing of the window system.
+///
+/// Nothing is touched before the first step that presses a key. What the script says is what arrives: keys
+/// and locks that would change it are put out of the way, and locks are put back when the session is
+/// destroyed. So are keys that were pressed and not released. Once a step has answered `cancelled` or an
+/// error, all later ones do the same and press nothing.
+class InjectionSession {
+  public:
+    virtual ~InjectionSession() = default;
+
+    /// Modifiers down, key down, key up, modifiers up. A code without a key plays nothing; the power key is
+    /// an error.
+    virtual Result<RunState> stroke(std::uint32_t keyCode, std::uint32_t modifiers) = 0;
+
+    /// Types the characters of a UTF-8 text, the modifiers held over each. Line feed and carriage return are
+    /// Return, the two together one Return; tab is Tab. A character that cannot be typed is an error that
+    /// names it.
+    virtual Result<RunState> text(std::string_view text, std::uint32_t modifiers) = 0;
+
+    virtual Result<RunState> keyDown(const HeldKey& key) = 0;
+    virtual Result<RunState> keyUp(const HeldKey& key) = 0;
+
+    /// Waits. Pauses of one run are paced from deadline to deadline, so that the time that strokes take does
+    /// not add up; zero and negative pauses return at once, huge ones wait until cancelled.
+    virtual Result<RunState> pause(double seconds) = 0;
+};
+
+/// What is known of a run before it starts.
+struct InjectionPlan {
+    /// Texts that the script is going to type, UTF-8, in order; may be incomplete. All their characters are
+    /// made ready at once.
+    std::vector<std::string> texts;
+};
+
+/// The way to press keys in whatever application has the focus.
+class KeyInjector {
+  public:
+    virtual ~KeyInjector() = default;
+
+    /// A session for one run; there is at most one at a time. Fails with a hint where this desktop lets no
+    /// keys be pressed.
+    virtual Result<std::unique_ptr<InjectionSession>> open(const InjectionPlan& plan) = 0;
+
+    /// A play command starts: forgets an earlier wish to stop.
+    virtual void startPlayback() = 0;
+
+    /// Whether the user has asked to stop since the playback started: Escape held for 0.3 s, or a hot key
+    /// that cancels playback.
+    virtual bool isCancelled() = 0;
+};

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "platform/Clock.h"
+
+/// What the injector needs of the event manager while a run lasts: the one who presses keys and the one who
+/// watches them work on different connections of one process and one thread.
+///
+/// Key codes are X key codes (evdev + 8).
+class RunWatch {
+  public:
+    virtual ~RunWatch() = default;
+
+    /// From the first stroke of a run to its end nothing is dispatched: what the user does is kept in order
+    /// and dispatched by the event loop afterwards.
+    virtual void runStarts() = 0;
+    virtual void runEnds() = 0;
+
+    /// Announces one XTEST event before it is sent. The raw event that matches it, and a hot key press that
+    /// it triggers, are known as the run's own by count.
+    virtual void expectOwnKey(std::uint8_t keycode, bool press) = 0;
+
+    /// A descriptor that is readable when drain() has something to read (it may also be readable without).
+    virtual int fileDescriptor() const = 0;
+    /// Reads and sorts what has come without dispatching anything. Also what xcb has already buffered.
+    virtual void drain() = 0;
+
+    /// A play command starts: forgets an earlier wish to stop.
+    virtual void startPlayback() = 0;
+    /// Whether the user has asked to stop since then: a hot key that cancels, or Escape of a real keyboard
+    /// held for 0.3 s. As of the last drain(), and of the clock.
+    virtual bool isCancelled() const = 0;
+    /// When a held Escape will have become a wish to stop; empty while it is up.
+    virtual std::optional<Clock::Time> cancelDeadline() const = 0;
+
+    /// Whether a modifier or level-chooser key has gone down on a real keyboard since the last call; the run
+    /// releases it before its next stroke.
+    virtual bool takeModifierPress() = 0;
+
+    /// Ends the active grab that a hot key which is still held gives its connection, which would swallow all
+    /// strokes. The release of the hot key is still reported, from the raw events.
+    virtual void endHotKeyGrab() = 0;
+
+    /// Gives a registered combination free while a stroke of the run passes, so that it reaches the
+    /// application, and takes it back. Locks are not part of `modifiers` (X modifier bits). False, and
+    /// nothing done, if the combination is none of ours.
+    virtual bool liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) = 0;
+    virtual void restoreHotKey() = 0;
+};

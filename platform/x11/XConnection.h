@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+#include "platform/Result.h"
+
+/// Frees what xcb allocated with malloc: replies, events, errors.
+struct XFree {
+    void operator()(void* memory) const { std::free(memory); }
+};
+template <typename Reply>
+using XReply = std::unique_ptr<Reply, XFree>;
+
+/// An own connection to the X server. Each duty has one, since what a connection selects and grabs changes
+/// what it is sent: a connection that grabs loses its raw releases, one that injects must get no events.
+class XConnection {
+  public:
+    /// Connects to `display`, or to $DISPLAY if it is empty. The error names the display.
+    static Result<XConnection> open(const std::string& display = {});
+
+    xcb_connection_t* get() const { return m_connection.get(); }
+    operator xcb_connection_t*() const { return m_connection.get(); }
+    xcb_window_t root() const { return m_root; }
+    int fileDescriptor() const { return xcb_get_file_descriptor(m_connection.get()); }
+    /// True once the server is gone or has thrown us out; nothing can be asked any more.
+    bool isBroken() const { return xcb_connection_has_error(m_connection.get()) != 0; }
+
+    /// Flushes and waits until the server has worked off all requests; all events that these and earlier
+    /// device events caused are in the queue afterwards.
+    void roundTrip() const;
+
+    /// The atom of a name, made if missing.
+    xcb_atom_t atom(const std::string& name) const;
+
+  private:
+    struct Disconnect {
+        void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+    };
+    using Handle = std::unique_ptr<xcb_connection_t, Disconnect>;
+
+    XConnection(Handle connection, xcb_window_t root);
+
+    Handle m_connection;
+    xcb_window_t m_root;
+};
