@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "core/KeyCode.h"
+
+#include <string_view>
+#include <utility>
+
+#include "core/createShared.h"
+#include "platform/Modifiers.h"
+
+namespace actionpack {
+namespace {
+
+bool isUpperCaseLetter(char character) { return character >= 'A' && character <= 'Z'; }
+
+/// What a modifier is called in each rendering, in the order in which both write them.
+struct Rendering {
+    std::uint32_t modifier;
+    const char* word;
+    const char* symbol;
+};
+
+constexpr Rendering renderings[] = {
+    {modifier::command, "command down", "⌘"},
+    {modifier::shift, "shift down", "⇧"},
+    {modifier::option, "option down", "⌥"},
+    {modifier::control, "control down", "⌃"},
+};
+
+std::uint32_t scriptModifiers(std::uint32_t modifiers, char character) {
+    const bool capsLockShifts = (modifiers & modifier::capsLock) != 0 && isUpperCaseLetter(character);
+    return capsLockShifts ? modifiers | modifier::shift : modifiers;
+}
+
+std::uint32_t displayModifiers(std::uint32_t modifiers, char character) {
+    return isUpperCaseLetter(character) ? modifiers & ~modifier::shift : modifiers;
+}
+
+std::string joined(std::uint32_t modifiers, const char* Rendering::*text, std::string_view separator) {
+    std::string result;
+    for (const Rendering& rendering : renderings) {
+        if ((modifiers & rendering.modifier) == 0) continue;
+        if (!result.empty()) result += separator;
+        result += rendering.*text;
+    }
+    return result;
+}
+
+}  // namespace
+
+KeyCode::KeyCode(std::uint32_t keyCode, std::string keyName, char character)
+    : m_keyCode(keyCode), m_keyName(std::move(keyName)), m_character(character) {}
+
+std::string KeyCode::scriptLine() const {
+    return "\tkey code (" + std::to_string(m_keyCode) + ") using {" +
+           joined(scriptModifiers(modifiers(), m_character), &Rendering::word, ", ") + "}\n";
+}
+
+std::string KeyCode::displayText() const {
+    const std::string symbols = joined(displayModifiers(modifiers(), m_character), &Rendering::symbol, "+");
+    return symbols.empty() ? m_keyName : "<" + symbols + "+" + m_keyName + ">";
+}
+
+boost::shared_ptr<KeyCode> createKeyCode(const std::uint32_t& keyCode, const std::string& keyName,
+                                         const char& character) {
+    return createShared<KeyCode>(keyCode, keyName, character);
+}
+
+}  // namespace actionpack

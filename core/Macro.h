@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <boost/smart_ptr/shared_ptr.hpp>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "core/Action.h"
+
+/// A recorded or loaded sequence of actions. Made and numbered by MacroManager, held by boost::shared_ptr.
+///
+/// A loaded macro has a script text and no actions. Rendering an empty action pointer ends the process.
+class Macro {
+  public:
+    Macro() = default;
+    Macro(const Macro&) = delete;
+    Macro& operator=(const Macro&) = delete;
+
+    /// 1 or more once the manager has given it; 0 before.
+    int macroId() const { return m_macroId; }
+    void setMacroId(int macroId) { m_macroId = macroId; }
+
+    /// Whether there are no actions; true for a loaded macro.
+    bool isEmpty() const { return m_actions.empty(); }
+
+    /// Appends at the end, without a limit and without rendering anything.
+    void addAction(const boost::shared_ptr<Action>& action) { m_actions.push_back(action); }
+
+    /// Takes the text as it stands for the script; an empty one makes the next script() build it afresh.
+    void setScript(const std::string& script) { m_script = script; }
+
+    /// The script that plays the macro, built at the first call and then kept for good: actions that are
+    /// added later do not appear in it.
+    std::string script() const;
+
+    /// For a menu item, UTF-8: the texts of all actions, or of the first and last ten around "..." where
+    /// there are more than twenty.
+    std::string displayText() const;
+
+    /// The texts of all actions, UTF-8. The reference is good until the next call of a non-const member.
+    ///
+    /// Why a reference: it is asked for after each recorded key, and must cost no more as the macro grows, so
+    /// only the actions added since the last call are rendered and appended to the text that is kept.
+    const std::string& fullDisplayText() const;
+
+  private:
+    std::string buildScript() const;
+    std::string rangeText(std::size_t first, std::size_t last) const;
+
+    std::vector<boost::shared_ptr<Action>> m_actions;
+    int m_macroId = 0;
+
+    /// Empty while not built.
+    mutable std::string m_script;
+    /// The texts of the first m_renderedActions actions.
+    mutable std::string m_fullText;
+    mutable std::size_t m_renderedActions = 0;
+};
