@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+/// A top-level window's number in the window system.
+using WindowId = std::uint32_t;
+
+/// What the toolkit cannot do with windows: take the focus with the permission of a hot key, and know when it
+/// has really gone to somebody else.
+class Windows {
+  public:
+    static constexpr WindowId none = 0;
+
+    virtual ~Windows() = default;
+
+    /// Gives the focus to a window of ours that has just been shown, and remembers who had it. `userTime` is
+    /// the window system's time stamp of what the user did to open it (HotKeys::lastPressTime()), 0 for now.
+    virtual void activate(WindowId window, std::uint32_t userTime) = 0;
+
+    /// Waits, 0.5 s at most, until the focus is where keys should go: `hidden`, a window of ours that has
+    /// just been hidden, is off the screen, another window is the active one and holds the focus. Without a
+    /// window manager nobody passes the focus on; then it is given back to the window that had it before
+    /// activate(). `none` for `hidden` if no window was hidden.
+    ///
+    /// Why: keys that are sent at once after a window was hidden are lost.
+    virtual void awaitFocusElsewhere(WindowId hidden) = 0;
+};
