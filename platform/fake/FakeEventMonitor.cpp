@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "platform/fake/FakeEventMonitor.h"
+
+#include <utility>
+
+Result<void> FakeEventMonitor::install(Handler handler) {
+    if (m_nextError) return *std::exchange(m_nextError, std::nullopt);
+    m_handler = std::move(handler);
+    return {};
+}
+
+void FakeEventMonitor::reportKeyPress(KeyEvent event, std::uint32_t shape) {
+    if (m_desktop.isScreenLocked()) return;
+    event.modifiers = shape;
+    m_desktop.post([this, event, held = m_heldModifiers] {
+        if (m_desktop.isWithheld()) return;
+        if (event.modifiers != held) deliverModifiers(event.modifiers);
+        deliver(event);
+        if (event.modifiers != held) deliverModifiers(held);
+    });
+}
+
+void FakeEventMonitor::reportKeyUp(const KeyEvent& event) {
+    m_desktop.post([this, event] { deliver(event); });
+}
+
+void FakeEventMonitor::reportModifiers(std::uint32_t held) {
+    if (held == std::exchange(m_heldModifiers, held)) return;
+    m_desktop.post([this, held] { deliverModifiers(held); });
+}
+
+void FakeEventMonitor::reportOwnStroke(const KeyEvent& event) {
+    if (!m_keepsOwnStrokes) return;
+    const std::uint32_t held = m_heldModifiers;
+    reportModifiers(event.modifiers);
+    reportKeyPress(event, event.modifiers);
+    reportKeyUp({KeyEventKind::keyUp, event.keyCode, event.character, event.modifiers});
+    reportModifiers(held);
+}
+
+void FakeEventMonitor::deliver(const KeyEvent& event) const {
+    if (m_handler) m_handler(event);
+}
+
+void FakeEventMonitor::deliverModifiers(std::uint32_t mask) const {
+    deliver({KeyEventKind::modifiersChanged, 0, 0, mask});
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "platform/EventMonitor.h"
+#include "platform/fake/FakeDesktop.h"
+
+/// Delivers what the fake keyboard tells it.
+class FakeEventMonitor : public EventMonitor {
+  public:
+    explicit FakeEventMonitor(FakeDesktop& desktop) : m_desktop(desktop) {}
+
+    Result<void> install(Handler handler) override;
+    void setWithheld(bool withheld) override { m_desktop.setWithheld(withheld); }
+    void setKeepsOwnStrokes(bool keeps) override { m_keepsOwnStrokes = keeps; }
+
+    /// The next install() answers the error and installs nothing.
+    void failNextCall(const Error& error) { m_nextError = error; }
+
+    /// A key goes down or repeats: `shape` is the mask that types its character with locks off. Not while
+    /// key presses are withheld or the screen is locked.
+    void reportKeyPress(KeyEvent event, std::uint32_t shape);
+    void reportKeyUp(const KeyEvent& event);
+    /// The held modifiers; nothing is delivered if they are as before.
+    void reportModifiers(std::uint32_t held);
+    /// A whole stroke of a running script.
+    void reportOwnStroke(const KeyEvent& event);
+
+    bool keepsOwnStrokes() const { return m_keepsOwnStrokes; }
+
+  private:
+    void deliver(const KeyEvent& event) const;
+    void deliverModifiers(std::uint32_t mask) const;
+
+    FakeDesktop& m_desktop;
+    Handler m_handler;
+    bool m_keepsOwnStrokes = false;
+    std::uint32_t m_heldModifiers = 0;
+    std::optional<Error> m_nextError;
+};

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "platform/fake/FakeScriptingService.h"
+
+void FakeScriptingService::startPlayback() {
+    ++m_playbacksStarted;
+    m_desktop.startPlayback();
+}
+
+void FakeScriptingService::run(const std::string& source) {
+    if (m_desktop.isRunning()) return;
+    m_runs.push_back(source);
+    if (m_nextError) {
+        m_nextError.reset();
+        return;
+    }
+    const FakeDesktop::Run run(m_desktop);
+    if (m_hook) m_hook();
+}
