@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <algorithm>
+
+#include "contracts/KeyboardContract.h"
+
+/// What platform/EventMonitor.h promises.
+class EventMonitorContract : public KeyboardContract {};
+
+TEST_P(EventMonitorContract, aKeyGivesADownWithItsCharacterAndAnUp) {
+    tap(contractkey::a);
+    EXPECT_EQ(delivered(), (Log{"down 0 a", "up 0"}));
+}
+
+TEST_P(EventMonitorContract, keysThatOverlapKeepTheirOrder) {
+    press({contractkey::a, contractkey::s});
+    release({contractkey::a, contractkey::s});
+    EXPECT_EQ(delivered(), (Log{"down 0 a", "down 1 s", "up 0", "up 1"}));
+}
+
+TEST_P(EventMonitorContract, shiftChangesTheMaskBeforeTheKeyAndTheCharacter) {
+    press({contractkey::shift});
+    tap(contractkey::a);
+    tap(contractkey::one);
+    release({contractkey::shift});
+    EXPECT_EQ(delivered(),
+              (Log{"modifiers 0x200", "down 0 A", "up 0", "down 18 !", "up 18", "modifiers 0x0"}));
+}
+
+TEST_P(EventMonitorContract, eachModifierHasItsBit) {
+    const std::vector<std::pair<std::uint32_t, std::string>> rows = {
+        {contractkey::super, "modifiers 0x100"},
+        {contractkey::shift, "modifiers 0x200"},
+        {contractkey::alt, "modifiers 0x800"},
+        {contractkey::control, "modifiers 0x1000"}};
+    for (const auto& [keyCode, words] : rows) {
+        tap(keyCode);
+        EXPECT_EQ(delivered(), (Log{words, "modifiers 0x0"})) << keyCode;
+    }
+}
+
+TEST_P(EventMonitorContract, controlAltAndSuperDoNotChangeTheCharacter) {
+    for (const std::uint32_t modifierKey : {contractkey::control, contractkey::alt, contractkey::super}) {
+        press({modifierKey});
+        tap(contractkey::a);
+        release({modifierKey});
+        EXPECT_EQ(deliveredWithout("modifiers"), (Log{"down 0 a", "up 0"})) << modifierKey;
+    }
+}
+
+TEST_P(EventMonitorContract, theMaskGrowsAndShrinksWithTheKeysAndIsZeroOnlyAtTheEnd) {
+    press({contractkey::control, contractkey::shift, contractkey::super});
+    release({contractkey::shift, contractkey::control, contractkey::super});
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x1000", "modifiers 0x1200", "modifiers 0x1300",
+                                "modifiers 0x1100", "modifiers 0x100", "modifiers 0x0"}));
+}
+
+TEST_P(EventMonitorContract, theSecondKeyOfAModifierChangesNothing) {
+    press({contractkey::shift, contractkey::rightShift});
+    release({contractkey::shift, contractkey::rightShift});
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x200", "modifiers 0x0"}));
+}
+
+TEST_P(EventMonitorContract, aHeldKeyGivesOneDownAndItsRepeats) {
+    world().holdUntilRepeats(contractkey::a, 3);
+    release({contractkey::a});
+    const Log log = delivered();
+    ASSERT_GE(log.size(), 5U);
+    EXPECT_EQ(log.front(), "down 0 a");
+    EXPECT_EQ(log.back(), "up 0");
+    EXPECT_EQ(static_cast<std::size_t>(std::count(log.begin(), log.end(), "repeat 0 a")), log.size() - 2);
+}
+
+TEST_P(EventMonitorContract, keysThatTypeNothingHaveNoCharacter) {
+    tap(contractkey::f5);
+    tap(contractkey::arrowUp);
+    EXPECT_EQ(delivered(), (Log{"down 96", "up 96", "down 126", "up 126"}));
+}
+
+TEST_P(EventMonitorContract, capsLockIsNotSeenAtRest) {
+    world().setCapsLock(true);
+    const Log log = delivered();
+    EXPECT_EQ(std::count_if(log.begin(), log.end(), [](const auto& line) { return line != "modifiers 0x0"; }),
+              0);
+}
+
+TEST_P(EventMonitorContract, aLetterUnderCapsLockIsReportedUnderThatMaskAlone) {
+    world().setCapsLock(true);
+    delivered();
+    tap(contractkey::a);
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x400", "down 0 A", "modifiers 0x0", "up 0"}));
+}
+
+TEST_P(EventMonitorContract, capsLockDoesNotTouchADigit) {
+    world().setCapsLock(true);
+    delivered();
+    tap(contractkey::one);
+    EXPECT_EQ(delivered(), (Log{"down 18 1", "up 18"}));
+}
+
+TEST_P(EventMonitorContract, shiftUnderCapsLockTypesASmallLetterAndTheMaskStaysAboveZero) {
+    world().setCapsLock(true);
+    delivered();
+    press({contractkey::shift});
+    tap(contractkey::a);
+    release({contractkey::shift});
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x200", "modifiers 0x400", "down 0 a", "modifiers 0x200", "up 0",
+                                "modifiers 0x0"}));
+}
+
+TEST_P(EventMonitorContract, controlAndShiftUnderCapsLockLeaveControl) {
+    world().setCapsLock(true);
+    delivered();
+    press({contractkey::control, contractkey::shift});
+    tap(contractkey::a);
+    release({contractkey::shift, contractkey::control});
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x1000", "modifiers 0x1200", "modifiers 0x1000", "down 0 a",
+                                "modifiers 0x1200", "up 0", "modifiers 0x1000", "modifiers 0x0"}));
+}
+
+TEST_P(EventMonitorContract, whileWithheldOnlyModifierChangesGoOn) {
+    world().monitor().setWithheld(true);
+    press({contractkey::shift});
+    tap(contractkey::a);
+    release({contractkey::shift});
+    EXPECT_EQ(deliveredWithout("up"), (Log{"modifiers 0x200", "modifiers 0x0"}));
+
+    world().monitor().setWithheld(false);
+    tap(contractkey::s);
+    EXPECT_EQ(delivered(), (Log{"down 1 s", "up 1"}));
+}
+
+TEST_P(EventMonitorContract, aSecondInstallReplacesTheHandler) {
+    int events = 0;
+    ASSERT_TRUE(world().monitor().install([&events](const KeyEvent&) { ++events; }));
+    tap(contractkey::a);
+    EXPECT_EQ(delivered(), Log{});
+    EXPECT_EQ(events, 2);
+    ASSERT_TRUE(world().monitor().install({}));
+}
