@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "core/Macro.h"
+
+#include "LocaleTest.h"
+#include "core/Delay.h"
+#include "core/KeyCode.h"
+#include "core/createShared.h"
+
+namespace {
+
+class MacroTest : public LocaleTest {
+  protected:
+    /// Appends plain key presses with the names "1,", "2,", ...
+    void addNumbered(int count) {
+        for (int number = 1; number <= count; ++number) {
+            macro.addAction(actionpack::createKeyCode(0, std::to_string(number) + ",", 'a'));
+        }
+    }
+
+    void addExample() {
+        const auto press = actionpack::createKeyCode(1, "s", 's');
+        press->setModifiers(0x0100);
+        macro.addAction(press);
+        macro.addAction(actionpack::createDelay(0.5));
+        macro.addAction(actionpack::createKeyCode(0, "a", 'a'));
+    }
+
+    Macro macro;
+};
+KEYRILL_IN_BOTH_LOCALES(MacroTest);
+
+constexpr const char* exampleScript =
+    "tell application \"System Events\"\n"
+    "\tkey code (1) using {command down}\n"
+    "delay 0.01\n"
+    "\tdelay 0.5\n"
+    "delay 0.01\n"
+    "\tkey code (0) using {}\n"
+    "delay 0.01\n"
+    "end tell\n";
+
+TEST_P(MacroTest, startsEmptyAndWithoutANumber) {
+    EXPECT_TRUE(macro.isEmpty());
+    EXPECT_EQ(macro.macroId(), 0);
+    EXPECT_EQ(macro.displayText(), "");
+    EXPECT_EQ(macro.fullDisplayText(), "");
+}
+
+TEST_P(MacroTest, writesEachActionAndAPauseAfterIt) {
+    addExample();
+    EXPECT_FALSE(macro.isEmpty());
+    EXPECT_EQ(macro.script(), exampleScript);
+}
+
+TEST_P(MacroTest, showsAllActionsWithNothingBetween) {
+    addExample();
+    EXPECT_EQ(macro.displayText(), "<⌘+s><⌛ 0.50>a");
+    EXPECT_EQ(macro.fullDisplayText(), "<⌘+s><⌛ 0.50>a");
+}
+
+TEST_P(MacroTest, hasAScriptWithoutActionsToo) {
+    EXPECT_EQ(macro.script(), "tell application \"System Events\"\nend tell\n");
+}
+
+TEST_P(MacroTest, keepsItsFirstScriptForGood) {
+    addExample();
+    ASSERT_EQ(macro.script(), exampleScript);
+    addNumbered(1);
+    EXPECT_EQ(macro.script(), exampleScript);
+}
+
+TEST_P(MacroTest, keepsTheScriptOfNoActionsToo) {
+    const std::string first = macro.script();
+    addNumbered(1);
+    EXPECT_EQ(macro.script(), first);
+}
+
+TEST_P(MacroTest, givesALoadedTextBackAsItStands) {
+    macro.setScript("keystroke \"x\"");
+    EXPECT_TRUE(macro.isEmpty());
+    EXPECT_EQ(macro.displayText(), "");
+    EXPECT_EQ(macro.fullDisplayText(), "");
+    EXPECT_EQ(macro.script(), "keystroke \"x\"");
+}
+
+TEST_P(MacroTest, prefersALoadedTextToItsActions) {
+    addExample();
+    macro.setScript("beep\n");
+    EXPECT_EQ(macro.script(), "beep\n");
+    EXPECT_EQ(macro.displayText(), "<⌘+s><⌛ 0.50>a");
+}
+
+TEST_P(MacroTest, buildsItsScriptAfreshAfterAnEmptyText) {
+    EXPECT_EQ(macro.script(), "tell application \"System Events\"\nend tell\n");
+    addExample();
+    macro.setScript("");
+    EXPECT_EQ(macro.script(), exampleScript);
+}
+
+TEST_P(MacroTest, showsTwentyActionsWhole) {
+    addNumbered(20);
+    EXPECT_EQ(macro.displayText(), "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,");
+}
+
+TEST_P(MacroTest, leavesTheEleventhOfTwentyOneOut) {
+    addNumbered(21);
+    EXPECT_EQ(macro.displayText(), "1,2,3,4,5,6,7,8,9,10,...12,13,14,15,16,17,18,19,20,21,");
+}
+
+TEST_P(MacroTest, showsTheEdgesOfManyActions) {
+    addNumbered(1000);
+    EXPECT_EQ(macro.displayText(), "1,2,3,4,5,6,7,8,9,10,...991,992,993,994,995,996,997,998,999,1000,");
+}
+
+TEST_P(MacroTest, showsManyActionsWholeInTheFullText) {
+    addNumbered(21);
+    EXPECT_EQ(macro.fullDisplayText(), "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21,");
+}
+
+TEST_P(MacroTest, takesANumber) {
+    macro.setMacroId(7);
+    EXPECT_EQ(macro.macroId(), 7);
+}
+
+/// An action that counts how often its texts are asked for.
+class CountingAction : public Action {
+  public:
+    explicit CountingAction(int& renderings) : m_renderings(renderings) {}
+    std::string scriptLine() const override { return ++m_renderings, "\tbeep\n"; }
+    std::string displayText() const override { return ++m_renderings, "x"; }
+
+  private:
+    int& m_renderings;
+};
+
+class MacroCostTest : public testing::Test {
+  protected:
+    void add(int count) {
+        for (int n = 0; n < count; ++n) macro.addAction(createShared<CountingAction>(renderings));
+    }
+
+    int renderings = 0;
+    Macro macro;
+};
+
+TEST_F(MacroCostTest, rendersNothingWhenAnActionIsAdded) {
+    add(100);
+    EXPECT_EQ(renderings, 0);
+}
+
+TEST_F(MacroCostTest, rendersEachActionOnceForTheFullText) {
+    add(1);
+    EXPECT_EQ(macro.fullDisplayText(), "x");
+    add(2);
+    EXPECT_EQ(macro.fullDisplayText(), "xxx");
+    EXPECT_EQ(macro.fullDisplayText(), "xxx");
+    EXPECT_EQ(renderings, 3);
+}
+
+TEST_F(MacroCostTest, rendersOnlyTheTwentyActionsThatTheMenuShows) {
+    add(100);
+    EXPECT_EQ(macro.displayText(), "xxxxxxxxxx...xxxxxxxxxx");
+    EXPECT_EQ(renderings, 20);
+}
+
+TEST_F(MacroCostTest, rendersTheScriptOnce) {
+    add(3);
+    EXPECT_EQ(macro.script(), macro.script());
+    EXPECT_EQ(renderings, 3);
+}
+
+TEST(MacroLifeTest, releasesItsActions) {
+    const boost::shared_ptr<Action> action = actionpack::createDelay(1);
+    {
+        Macro macro;
+        macro.addAction(action);
+        EXPECT_EQ(action.use_count(), 2);
+    }
+    EXPECT_EQ(action.use_count(), 1);
+}
+
+}  // namespace
