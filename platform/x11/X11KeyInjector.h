@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/KeyInjector.h"
+
+class Clock;
+class RunWatch;
+
+/// Presses keys on an X11 display through XTEST.
+///
+/// A run releases the keys that the user holds, clears the locks that would change what arrives, and puts the
+/// locks back at its end. Before its first stroke the guard is started, a program that releases what is still
+/// down should this process die in the middle of a stroke; without the guard nothing is played.
+///
+/// The watch and the clock must outlive the injector; all of it lives on one thread. Destroying the injector
+/// takes the characters back that were put on unused keys, at the earliest 100 ms after the last of them was
+/// typed.
+class X11KeyInjector final : public KeyInjector {
+  public:
+    struct Options {
+        /// The display to press keys on; $DISPLAY if empty.
+        std::string display = {};
+        /// The guard program; looked for beside the running program and where it is installed if empty.
+        std::string guard = {};
+        /// Where the mark of a lasting run is kept; $XDG_RUNTIME_DIR if empty. Without either there is no
+        /// mark.
+        std::string runtimeFolder = {};
+    };
+
+    X11KeyInjector(RunWatch& watch, Clock& clock);
+    X11KeyInjector(RunWatch& watch, Clock& clock, Options options);
+    ~X11KeyInjector() override;
+
+    /// Connects, checks that keys can be pressed here, and clears away what an earlier process left that was
+    /// killed: keys held down, characters on unused keys. For the start of the program; open() does it if it
+    /// has not been done.
+    Result<void> start();
+
+    Result<std::unique_ptr<InjectionSession>> open(const InjectionPlan& plan) override;
+    void startPlayback() override;
+    bool isCancelled() override;
+
+    /// Ends the run that lasts, and all later ones before their first stroke: the process is about to end.
+    /// Async-signal-safe, so that handlers of SIGTERM, SIGINT and SIGHUP may call it; they must not end the
+    /// process themselves, since what is down is released as the session unwinds.
+    void interrupt() noexcept;
+
+  private:
+    struct Parts;
+
+    RunWatch& m_watch;
+    Clock& m_clock;
+    Options m_options;
+    std::unique_ptr<Parts> m_parts;
+};
