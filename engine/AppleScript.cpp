@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "engine/AppleScript.h"
+
+#include "engine/EngineState.h"
+#include "platform/EventMonitor.h"
+#include "platform/ScriptingService.h"
+#include "platform/Services.h"
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param): a run has a text of its own.
+void AppleScript::runAppleScript(std::string text) {
+    services().eventMonitor.setKeepsOwnStrokes(engineState().recordingMacro != nullptr);
+    services().scripting.run(text);
+}

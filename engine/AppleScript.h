@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+/// The way to run a script text.
+class AppleScript {
+  public:
+    /// Compiles the text afresh and runs it to its end; an error in it is not told to anybody. Strokes of the
+    /// run are recorded like the user's own while a macro is being recorded.
+    static void runAppleScript(std::string text);
+};

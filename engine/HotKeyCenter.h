@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "platform/HotKeys.h"
+
+/// One of the four global hot keys.
+struct HotKeyRow {
+    /// Its key in the preference table, and in the settings with "Code" and "Flags" behind it.
+    std::string_view name;
+    HotKeyId id = 0;
+    /// Four characters; nothing looks at it.
+    std::string_view signature;
+    /// What a press and a release do; null is nothing.
+    void (*pressed)() = nullptr;
+    void (*released)() = nullptr;
+    /// Whether a press during a playback also ends it.
+    bool cancelsPlayback = false;
+};
+
+/// All rows in the order in which they are registered: record, stop, play, multiplePlay.
+const std::array<HotKeyRow, 4>& hotKeyRows();
+
+/// Presses and releases of hot keys become commands from now on.
+void installHotKeyHandlers();
+
+/// Gives each row's combination free and asks for the one that the preference table holds. What became of it
+/// is for services().hotKeys to tell; a refused row is inert until the next call.
+void registerHotKeys();
+
+/// Run the command of the id, unless hot keys are disabled; an unknown id is nothing.
+void onHotKeyPressed(HotKeyId id);
+void onHotKeyReleased(HotKeyId id);

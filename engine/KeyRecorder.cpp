@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "engine/KeyRecorder.h"
+
+#include <algorithm>
+#include <string>
+
+#include "core/Delay.h"
+#include "core/KeyCode.h"
+#include "core/KeyNames.h"
+#include "engine/EngineState.h"
+#include "engine/HotKeyCenter.h"
+#include "engine/MacroPlayer.h"
+#include "engine/SharedController.h"
+#include "platform/Clock.h"
+#include "platform/EventMonitor.h"
+#include "platform/Services.h"
+
+namespace {
+
+bool isSmallLetter(char character) { return character >= 'a' && character <= 'z'; }
+
+char toSmallLetter(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+/// What a key press shows as: its key's name, but as typed for small letters and the space.
+std::string shownName(const KeyEvent& event) {
+    std::string name = keyNameForKeyCode(static_cast<short>(event.keyCode));
+    if (event.character == ' ') return " ";
+    if (isSmallLetter(event.character)) std::transform(name.begin(), name.end(), name.begin(), toSmallLetter);
+    return name;
+}
+
+/// Adds the action to the macro being recorded and shows the macro.
+void append(const boost::shared_ptr<Action>& action) {
+    const boost::shared_ptr<Macro> macro = engineState().recordingMacro;
+    macro->addAction(action);
+    if (SharedController* controller = sharedController()) {
+        controller->setMacroString(macro->fullDisplayText());
+    }
+    restartLastEventTime();
+}
+
+void handleKeyPress(const KeyEvent& event) {
+    // The name is asked for also when nothing is recorded.
+    const std::string name = shownName(event);
+    const EngineState& state = engineState();
+    if (!state.recordingMacro) return;
+    const auto action = actionpack::createKeyCode(event.keyCode, name, event.character);
+    // Not the event's own mask: what counts is what the last modifier change said.
+    action->setModifiers(state.currentModifiers);
+    append(action);
+}
+
+void handleModifiersChanged(std::uint32_t modifiers) {
+    EngineState& state = engineState();
+    state.currentModifiers = modifiers;
+    state.modifiersDown = modifiers != 0;
+    if (state.modifiersDown || !state.playPending) return;
+    state.playPending = false;
+    if (state.currentMacro) playTimes(1);
+}
+
+}  // namespace
+
+void installKeyRecorder() {
+    static_cast<void>(services().eventMonitor.install(handleKeyEvent));
+    registerHotKeys();
+}
+
+void handleKeyEvent(const KeyEvent& event) {
+    switch (event.kind) {
+        case KeyEventKind::keyDown:
+        case KeyEventKind::autoRepeat:
+            handleKeyPress(event);
+            break;
+        case KeyEventKind::modifiersChanged:
+            handleModifiersChanged(event.modifiers);
+            break;
+        case KeyEventKind::keyUp:
+            break;
+    }
+}
+
+void saveDelayToNow() {
+    const auto& last = engineState().lastEventTime;
+    if (!last) return;
+    append(actionpack::createDelay(Clock::Seconds(services().clock.now() - *last).count()));
+}
+
+void restartLastEventTime() { engineState().lastEventTime = services().clock.now(); }

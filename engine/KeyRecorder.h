@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/KeyEvent.h"
+
+/// Listens to the event monitor from now on and registers the hot keys. Whether the desktop lets us listen is
+/// checked at start-up, not here.
+void installKeyRecorder();
+
+/// A key press or repeat becomes an action of the macro being recorded, with the modifiers of the last
+/// modifier change; a modifier change is noted, and the one to no modifiers starts a play that waits for it.
+/// Key releases are nothing.
+void handleKeyEvent(const KeyEvent& event);
+
+/// Adds the time since the start of the recording, the last recorded key or the last saved pause as a pause,
+/// in seconds as they were. Nothing before the first recording; ends the process if nothing is recorded.
+void saveDelayToNow();
+
+/// The next saved pause is measured from now.
+void restartLastEventTime();

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+// The commands, whether they come from a hot key or from the menu. None of them tells the user anything.
+//
+// | state     | command                  | what happens                              | next state |
+// | idle      | toggleRecording          | a new macro, showRecordingGui             | recording  |
+// | idle      | stopRecording            | nothing                                   | idle       |
+// | recording | toggle- or stopRecording | a macro with actions becomes the current  | idle       |
+// |           |                          | one; hideRecordingGui                     |            |
+// | any       | requestPlay              | plays once, now or when the last modifier | unchanged  |
+// |           |                          | key goes up                               |            |
+// | any       | promptMultiplePlay       | showMultiplePlayGui                       | unchanged  |
+// | any       | playTimes                | plays now                                 | unchanged  |
+
+/// Starts a recording, or ends the one in progress.
+void toggleRecording();
+
+/// Ends the recording in progress. One without actions is dropped, and the current macro stays.
+void stopRecording();
+
+/// Forgets what is being recorded, while the recording itself goes on until it is stopped: the user has left
+/// it for the download page.
+void cancelRecording();
+
+/// Plays the current macro once as soon as no modifier key is down; nothing without one. Requests that wait
+/// do not add up. `count` is noted and has no effect.
+void requestPlay(std::uint32_t count);
+
+/// Asks how many times to play.
+void promptMultiplePlay();
+
+/// Plays the current macro so often, none for 0 and below, with 0.01 s after each run. Returns after the last
+/// run, or after the one in which the user has asked to stop. Ends the process if there is no current macro.
+void playTimes(std::int32_t count);
+
+/// The number that a text begins with: blanks, a sign, digits, cut to the range of the type ("2x" is 2).
+/// Anything else is 0. Independent of the locale.
+std::int32_t playCountFromText(std::string_view text);
