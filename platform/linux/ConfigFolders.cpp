@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/ConfigFolders.h"
+
+#include <glib.h>
+
+#include <sstream>
+
+namespace {
+
+bool isAbsolute(const std::string& path) { return !path.empty() && path.front() == '/'; }
+
+std::vector<std::string> absolutePaths(const std::string& colonSeparated) {
+    std::vector<std::string> paths;
+    std::istringstream list(colonSeparated);
+    for (std::string path; std::getline(list, path, ':');) {
+        if (isAbsolute(path)) paths.push_back(path);
+    }
+    return paths;
+}
+
+}  // namespace
+
+ConfigFolders configFolders(const Environment& environment, const std::string& home) {
+    ConfigFolders folders;
+    const std::string user = environment("XDG_CONFIG_HOME");
+    folders.user = isAbsolute(user) ? user : home + "/.config";
+    const std::string system = environment("XDG_CONFIG_DIRS");
+    folders.system = system.empty() ? std::vector<std::string>{"/etc/xdg"} : absolutePaths(system);
+    return folders;
+}
+
+ConfigFolders configFoldersOfProcess() {
+    const auto environment = [](const std::string& name) {
+        const char* value = g_getenv(name.c_str());
+        return std::string(value != nullptr ? value : "");
+    };
+    return configFolders(environment, g_get_home_dir());
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// Where configuration files lie, by the XDG Base Directory Specification 0.8. Absolute paths without a
+/// trailing slash of their own; they need not exist.
+struct ConfigFolders {
+    /// The user's own.
+    std::string user;
+    /// The system's, the most important first; may be empty.
+    std::vector<std::string> system;
+
+    friend bool operator==(const ConfigFolders&, const ConfigFolders&) = default;
+};
+
+/// The value of an environment variable; empty if it is unset.
+using Environment = std::function<std::string(const std::string& name)>;
+
+/// By XDG_CONFIG_HOME (default ~/.config) and XDG_CONFIG_DIRS (default /etc/xdg). Relative paths in them are
+/// ignored. `home` is the user's home folder.
+ConfigFolders configFolders(const Environment& environment, const std::string& home);
+
+/// The same for this process: its environment and its user's home.
+ConfigFolders configFoldersOfProcess();

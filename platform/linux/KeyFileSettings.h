@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Result.h"
+#include "platform/SettingsStore.h"
+#include "platform/linux/ConfigFolders.h"
+
+struct _GKeyFile;
+
+/// Settings in key files, keyrill/keyrill.conf in each of the configuration folders: the user's own first,
+/// then the system's in their order. The first file that has a key gives its value.
+///
+/// Format: that of the Desktop Entry Specification, group [Settings]; integers in decimal, booleans "true"
+/// and "false". Read once, by the constructor; a file that is not there is no problem.
+class KeyFileSettings : public SettingsStore {
+  public:
+    explicit KeyFileSettings(const ConfigFolders& folders);
+
+    /// Also 0 for an integer beyond 64 bits.
+    std::optional<std::int64_t> integer(const std::string& key) const override;
+
+    /// The first file, in order of reading, that is there and could not be read, and why. What it holds
+    /// counts as absent; the other files count.
+    const std::optional<Error>& problem() const { return m_problem; }
+
+  private:
+    struct Free {
+        void operator()(_GKeyFile* file) const;
+    };
+    using KeyFile = std::unique_ptr<_GKeyFile, Free>;
+
+    static Result<KeyFile> read(const std::string& path);
+    void addDomain(const std::string& folder);
+
+    /// The most important first.
+    std::vector<KeyFile> m_domains;
+    std::optional<Error> m_problem;
+};
