@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/Word.h"
+
+#include <array>
+#include <cstddef>
+
+namespace script {
+namespace {
+
+struct Row {
+    Word word;
+    WordKind kind;
+    std::string_view spelling;
+};
+
+constexpr auto words = std::to_array<Row>({
+    {Word::about, WordKind::reserved, "about"},
+    {Word::above, WordKind::reserved, "above"},
+    {Word::activate, WordKind::reserved, "activate"},
+    {Word::after, WordKind::reserved, "after"},
+    {Word::against, WordKind::reserved, "against"},
+    {Word::app, WordKind::special, "app"},
+    {Word::application, WordKind::special, "application"},
+    {Word::around, WordKind::reserved, "around"},
+    {Word::as, WordKind::reserved, "as"},
+    {Word::at, WordKind::reserved, "at"},
+    {Word::back, WordKind::reserved, "back"},
+    {Word::beep, WordKind::reserved, "beep"},
+    {Word::before, WordKind::reserved, "before"},
+    {Word::beginning, WordKind::reserved, "beginning"},
+    {Word::behind, WordKind::reserved, "behind"},
+    {Word::below, WordKind::reserved, "below"},
+    {Word::beneath, WordKind::reserved, "beneath"},
+    {Word::beside, WordKind::reserved, "beside"},
+    {Word::between, WordKind::reserved, "between"},
+    {Word::but, WordKind::reserved, "but"},
+    {Word::by, WordKind::reserved, "by"},
+    {Word::code, WordKind::term, "code"},
+    {Word::command, WordKind::term, "command"},
+    {Word::considering, WordKind::reserved, "considering"},
+    {Word::contain, WordKind::reserved, "contain"},
+    {Word::contains, WordKind::reserved, "contains"},
+    {Word::continueWord, WordKind::reserved, "continue"},
+    {Word::control, WordKind::term, "control"},
+    {Word::copy, WordKind::reserved, "copy"},
+    {Word::delay, WordKind::special, "delay"},
+    {Word::display, WordKind::reserved, "display"},
+    {Word::div, WordKind::reserved, "div"},
+    {Word::doWord, WordKind::special, "do"},
+    {Word::does, WordKind::reserved, "does"},
+    {Word::down, WordKind::term, "down"},
+    {Word::eighth, WordKind::reserved, "eighth"},
+    {Word::elseWord, WordKind::reserved, "else"},
+    {Word::end, WordKind::reserved, "end"},
+    {Word::equal, WordKind::reserved, "equal"},
+    {Word::equals, WordKind::reserved, "equals"},
+    {Word::error, WordKind::reserved, "error"},
+    {Word::every, WordKind::reserved, "every"},
+    {Word::exit, WordKind::reserved, "exit"},
+    {Word::falseWord, WordKind::reserved, "false"},
+    {Word::fifth, WordKind::reserved, "fifth"},
+    {Word::first, WordKind::reserved, "first"},
+    {Word::forWord, WordKind::reserved, "for"},
+    {Word::fourth, WordKind::reserved, "fourth"},
+    {Word::from, WordKind::reserved, "from"},
+    {Word::front, WordKind::reserved, "front"},
+    {Word::get, WordKind::reserved, "get"},
+    {Word::given, WordKind::reserved, "given"},
+    {Word::global, WordKind::reserved, "global"},
+    {Word::id, WordKind::special, "id"},
+    {Word::ifWord, WordKind::reserved, "if"},
+    {Word::ignoring, WordKind::reserved, "ignoring"},
+    {Word::in, WordKind::reserved, "in"},
+    {Word::into, WordKind::reserved, "into"},
+    {Word::is, WordKind::reserved, "is"},
+    {Word::it, WordKind::reserved, "it"},
+    {Word::its, WordKind::reserved, "its"},
+    {Word::key, WordKind::term, "key"},
+    {Word::keystroke, WordKind::term, "keystroke"},
+    {Word::last, WordKind::reserved, "last"},
+    {Word::linefeed, WordKind::special, "linefeed"},
+    {Word::load, WordKind::special, "load"},
+    {Word::local, WordKind::reserved, "local"},
+    {Word::log, WordKind::reserved, "log"},
+    {Word::me, WordKind::reserved, "me"},
+    {Word::middle, WordKind::reserved, "middle"},
+    {Word::mod, WordKind::reserved, "mod"},
+    {Word::my, WordKind::reserved, "my"},
+    {Word::ninth, WordKind::reserved, "ninth"},
+    {Word::notWord, WordKind::reserved, "not"},
+    {Word::of, WordKind::reserved, "of"},
+    {Word::on, WordKind::reserved, "on"},
+    {Word::onto, WordKind::reserved, "onto"},
+    {Word::option, WordKind::term, "option"},
+    {Word::orWord, WordKind::reserved, "or"},
+    {Word::over, WordKind::reserved, "over"},
+    {Word::process, WordKind::term, "process"},
+    {Word::prop, WordKind::reserved, "prop"},
+    {Word::property, WordKind::reserved, "property"},
+    {Word::put, WordKind::reserved, "put"},
+    {Word::quote, WordKind::special, "quote"},
+    {Word::ref, WordKind::reserved, "ref"},
+    {Word::reference, WordKind::reserved, "reference"},
+    {Word::repeat, WordKind::reserved, "repeat"},
+    {Word::returnWord, WordKind::reserved, "return"},
+    {Word::returning, WordKind::reserved, "returning"},
+    {Word::run, WordKind::special, "run"},
+    {Word::say, WordKind::reserved, "say"},
+    {Word::script, WordKind::reserved, "script"},
+    {Word::second, WordKind::reserved, "second"},
+    {Word::set, WordKind::reserved, "set"},
+    {Word::seventh, WordKind::reserved, "seventh"},
+    {Word::shell, WordKind::special, "shell"},
+    {Word::shift, WordKind::term, "shift"},
+    {Word::since, WordKind::reserved, "since"},
+    {Word::sixth, WordKind::reserved, "sixth"},
+    {Word::some, WordKind::reserved, "some"},
+    {Word::space, WordKind::special, "space"},
+    {Word::tab, WordKind::special, "tab"},
+    {Word::tell, WordKind::reserved, "tell"},
+    {Word::tenth, WordKind::reserved, "tenth"},
+    {Word::that, WordKind::reserved, "that"},
+    {Word::the, WordKind::reserved, "the"},
+    {Word::then, WordKind::reserved, "then"},
+    {Word::third, WordKind::reserved, "third"},
+    {Word::through, WordKind::reserved, "through"},
+    {Word::thru, WordKind::reserved, "thru"},
+    {Word::timeout, WordKind::reserved, "timeout"},
+    {Word::times, WordKind::reserved, "times"},
+    {Word::to, WordKind::reserved, "to"},
+    {Word::transaction, WordKind::reserved, "transaction"},
+    {Word::trueWord, WordKind::reserved, "true"},
+    {Word::tryWord, WordKind::reserved, "try"},
+    {Word::until, WordKind::reserved, "until"},
+    {Word::up, WordKind::term, "up"},
+    {Word::use, WordKind::reserved, "use"},
+    {Word::usingWord, WordKind::special, "using"},
+    {Word::where, WordKind::reserved, "where"},
+    {Word::whileWord, WordKind::reserved, "while"},
+    {Word::whose, WordKind::reserved, "whose"},
+    {Word::with, WordKind::reserved, "with"},
+    {Word::without, WordKind::reserved, "without"},
+});
+
+constexpr bool isSorted() {
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (static_cast<std::size_t>(words[i].word) != i + 1) return false;
+    }
+    return true;
+}
+static_assert(isSorted(), "a word's row is found by its number");
+
+/// Lower case for letters; digits stay, and no two characters of an identifier fall together.
+constexpr char lowered(char c) { return static_cast<char>(static_cast<unsigned char>(c) | 0x20U); }
+
+constexpr std::size_t slotCount = 512;
+static_assert(words.size() * 2 < slotCount, "a crowded table is slow to search");
+
+constexpr std::size_t slotOf(std::string_view text) {
+    std::uint32_t hash = 2166136261U;
+    for (const char c : text) hash = (hash ^ static_cast<unsigned char>(lowered(c))) * 16777619U;
+    return (hash ^ (hash >> 16U)) % slotCount;
+}
+
+constexpr std::array<Word, slotCount> hashed() {
+    std::array<Word, slotCount> slots{};
+    for (const Row& row : words) {
+        std::size_t slot = slotOf(row.spelling);
+        while (slots[slot] != Word::none) slot = (slot + 1) % slotCount;
+        slots[slot] = row.word;
+    }
+    return slots;
+}
+
+constexpr std::array<Word, slotCount> slots = hashed();
+
+const Row& rowOf(Word word) { return words[static_cast<std::size_t>(word) - 1]; }
+
+bool equalIgnoringCase(std::string_view text, std::string_view spelling) {
+    if (text.size() != spelling.size()) return false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (lowered(text[i]) != spelling[i]) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+Word wordOf(std::string_view text) {
+    std::size_t slot = slotOf(text);
+    while (slots[slot] != Word::none && !equalIgnoringCase(text, rowOf(slots[slot]).spelling)) {
+        slot = (slot + 1) % slotCount;
+    }
+    return slots[slot];
+}
+
+WordKind kindOf(Word word) { return rowOf(word).kind; }
+
+std::string_view spellingOf(Word word) { return rowOf(word).spelling; }
+
+}  // namespace script

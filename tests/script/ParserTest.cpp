@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/Parser.h"
+
+#include <gtest/gtest.h>
+
+#include "Printed.h"
+
+namespace {
+
+struct Row {
+    const char* what;
+    std::string source;
+    std::string tree;
+};
+
+std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.what; }
+
+/// Sources as they stand.
+class ParserTest : public testing::TestWithParam<Row> {};
+
+TEST_P(ParserTest, readsIntoATree) { EXPECT_EQ(printedTree(GetParam().source), GetParam().tree); }
+
+/// One line inside a tell block.
+class StatementTest : public testing::TestWithParam<Row> {};
+
+TEST_P(StatementTest, readsIntoATree) {
+    const std::string source = "tell application \"System Events\"\n" + GetParam().source + "\nend tell\n";
+    EXPECT_EQ(printedTree(source), "(tell system-events System Events " + GetParam().tree + ")");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Tell, ParserTest,
+    testing::Values(Row{"nothing", "", ""}, Row{"blank lines and comments", "\n\n-- a\n(* b *)\n", ""},
+                    Row{"a block", "tell application \"System Events\"\n\tdelay 1\nend tell\n",
+                        "(tell system-events System Events (delay 1))"},
+                    Row{"one line", "tell app \"System Events\" to keystroke \"a\"",
+                        "(tell system-events System Events (keystroke \"a\"))"},
+                    Row{"the word after end may be left out", "tell app \"System Events\"\nend",
+                        "(tell system-events System Events)"},
+                    Row{"case never matters",
+                        "TELL Application \"system events\"\nKEY CODE 1 Using {COMMAND DOWN}\nEND Tell",
+                        "(tell system-events system events (key-code 1 (list command-down)))"},
+                    Row{"by identifier", "tell application id \"com.apple.SystemEvents\" to keystroke \"a\"",
+                        "(tell system-events com.apple.SystemEvents (keystroke \"a\"))"},
+                    Row{"a process inside",
+                        "tell app \"System Events\"\ntell process \"P\"\nkey code 1\nend tell\nend tell",
+                        "(tell system-events System Events (tell (process \"P\") (key-code 1)))"},
+                    Row{"a process in one line",
+                        "tell app \"System Events\" to tell application process \"P\" to key code 1",
+                        "(tell system-events System Events (tell (process \"P\") (key-code 1)))"},
+                    Row{"another application", "tell application \"Other\"\ndelay\nend tell",
+                        "(tell application Other (delay))"},
+                    Row{"the is filler", "tell the the application \"System Events\"\nkeystroke the tab\nend",
+                        "(tell system-events System Events (keystroke \"\t\"))"},
+                    Row{"terms are names outside", "keystroke", "(evaluate name keystroke)"},
+                    Row{"terms are names after the block", "tell app \"System Events\"\nend\nshift",
+                        "(tell system-events System Events) (evaluate name shift)"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Commands, StatementTest,
+    testing::Values(
+        Row{"key code", "key code 36", "(key-code 36)"},
+        Row{"key code in parentheses without modifiers", "\tkey code (36) using {}", "(key-code 36 (list))"},
+        Row{"key code with modifiers",
+            "key code 0 using {command down, shift down, option down, control down}",
+            "(key-code 0 (list command-down shift-down option-down control-down))"},
+        Row{"one modifier without braces", "key code 0 using shift down", "(key-code 0 shift-down)"},
+        Row{"a modifier without down", "key code 0 using {command}", "(key-code 0 (list command))"},
+        Row{"a list of codes", "key code {0, 11} using command down", "(key-code (list 0 11) command-down)"},
+        Row{"free blanks", "key  code\t1 using{command  down}", "(key-code 1 (list command-down))"},
+        Row{"joined lines", "key code 1 ¬  \n\t\tusing {command down}", "(key-code 1 (list command-down))"},
+        Row{"keystroke", "keystroke \"a\\tb\" using {shift down}", "(keystroke \"a\tb\" (list shift-down))"},
+        Row{"keystroke of a number", "keystroke 1", "(keystroke 1)"},
+        Row{"keystroke of a constant", "keystroke return using command down",
+            "(keystroke \"\r\" command-down)"},
+        Row{"key down of a modifier key", "key down shift", "(key-down shift)"},
+        Row{"key up of a list", "key up {shift down, control}", "(key-up (list shift-down control))"},
+        Row{"key down of a code", "key down 49", "(key-down 49)"},
+        Row{"delay", "delay 0.5", "(delay real 0.5)"}, Row{"delay without a time", "delay", "(delay)"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Loops, ParserTest,
+    testing::Values(Row{"a count", "repeat 2 times\ndelay\nend repeat", "(repeat-times 2 (delay))"},
+                    Row{"times may be left out", "repeat 2\nend", "(repeat-times 2)"},
+                    Row{"for ever", "repeat\nexit repeat\nend repeat", "(repeat (exit))"},
+                    Row{"one in another", "repeat 2 times\nrepeat\nexit\nend\nexit repeat\nend",
+                        "(repeat-times 2 (repeat (exit)) (exit))"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Expressions, StatementTest,
+    testing::Values(Row{"times binds tighter than plus", "delay 1 + 2 * 3", "(delay (+ 1 (* 2 3)))"},
+                    Row{"parentheses come first", "delay (1 + 2) * 3", "(delay (* (+ 1 2) 3))"},
+                    Row{"minus groups from the left", "delay 2 - 1 - 1", "(delay (- (- 2 1) 1))"},
+                    Row{"power groups from the right", "delay 2 ^ 3 ^ 2", "(delay (^ 2 (^ 3 2)))"},
+                    Row{"a sign binds tighter than power", "delay -2 ^ 2", "(delay (^ (negate 2) 2))"},
+                    Row{"a sign after an operator", "delay 2 * -3 + 1", "(delay (+ (* 2 (negate 3)) 1))"},
+                    Row{"signs in a row", "delay - - + 3", "(delay (negate (negate 3)))"},
+                    Row{"joining is the loosest", "keystroke 1 + 2 & 3 * 4 & \"a\"",
+                        "(keystroke (& (& (+ 1 2) (* 3 4)) \"a\"))"},
+                    Row{"operators that are words", "delay 7 div 2 mod 3", "(delay (mod (div 7 2) 3))"},
+                    Row{"the division sign", "delay 6 ÷ 4 / 2", "(delay (/ (/ 6 4) 2))"},
+                    Row{"lists in lists", "{1, {}, {\"a\", -1}}",
+                        "(evaluate (list 1 (list) (list \"a\" (negate 1))))"},
+                    Row{"the largest whole number", "delay 536870911", "(delay 536870911)"},
+                    Row{"beyond it numbers are reals", "delay 536870912", "(delay real 5.36871e+08)"},
+                    Row{"a whole exponent form is real", "delay 1e2", "(delay real 100)"},
+                    Row{"names", "keystroke foo & |b c|", "(keystroke (& name foo name |b c|))"}));
+
+}  // namespace
