@@ -89,15 +89,9 @@ std::string characterForKeyCodeAndCarbonFlags(std::uint16_t keyCode, std::uint32
 }
 
 std::uint32_t carbonToCocoaFlags(std::uint32_t carbonFlags) {
-    static constexpr std::array<std::pair<std::uint32_t, std::uint32_t>, 5> pairs = {
-        {{modifier::command, controlflag::command},
-         {modifier::option, controlflag::option},
-         {modifier::control, controlflag::control},
-         {modifier::shift, controlflag::shift},
-         {modifier::functionKey, controlflag::functionKey}}};
     std::uint32_t flags = 0;
-    for (const auto& [carbon, cocoa] : pairs) {
-        if ((carbonFlags & carbon) != 0) flags |= cocoa;
+    for (const ModifierPair& pair : modifierPairs) {
+        if ((carbonFlags & pair.modifier) != 0) flags |= pair.controlFlag;
     }
     return flags;
 }

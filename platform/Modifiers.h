@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 /// Modifier masks as hot keys, key events and actions carry them. Settings and shortcut fields use the other
@@ -22,3 +23,18 @@ inline constexpr std::uint32_t option = 0x080000;
 inline constexpr std::uint32_t command = 0x100000;
 inline constexpr std::uint32_t functionKey = 0x800000;
 }  // namespace controlflag
+
+/// A modifier in both encodings.
+struct ModifierPair {
+    std::uint32_t modifier = 0;
+    std::uint32_t controlFlag = 0;
+};
+
+/// All modifiers that have both; Caps Lock has no control flag.
+inline constexpr std::array<ModifierPair, 5> modifierPairs = {{
+    {modifier::command, controlflag::command},
+    {modifier::option, controlflag::option},
+    {modifier::control, controlflag::control},
+    {modifier::shift, controlflag::shift},
+    {modifier::functionKey, controlflag::functionKey},
+}};

@@ -1,24 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "prefs/Settings.h"
 
-#include <array>
 #include <string>
-#include <utility>
 
 #include "platform/Modifiers.h"
 #include "platform/SettingsStore.h"
 #include "prefs/PreferenceManager.h"
 
 std::uint32_t hotKeyFlags(std::uint32_t controlFlags) {
-    static constexpr std::array<std::pair<std::uint32_t, std::uint32_t>, 5> pairs = {
-        {{controlflag::command, modifier::command},
-         {controlflag::option, modifier::option},
-         {controlflag::control, modifier::control},
-         {controlflag::shift, modifier::shift},
-         {controlflag::functionKey, modifier::functionKey}}};
     std::uint32_t flags = 0;
-    for (const auto& [control, hotKey] : pairs) {
-        if ((controlFlags & control) != 0) flags |= hotKey;
+    for (const ModifierPair& pair : modifierPairs) {
+        if ((controlFlags & pair.controlFlag) != 0) flags |= pair.modifier;
     }
     return flags;
 }

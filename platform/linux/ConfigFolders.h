@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-/// Where configuration files lie, by the XDG Base Directory Specification 0.8. Absolute paths without a
-/// trailing slash of their own; they need not exist.
+/// Where configuration files lie, by the XDG base directory standard, version 0.8. Absolute paths; they need
+/// not exist.
 struct ConfigFolders {
     /// The user's own.
     std::string user;

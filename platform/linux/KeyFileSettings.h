@@ -15,7 +15,7 @@ struct _GKeyFile;
 /// Settings in key files, keyrill/keyrill.conf in each of the configuration folders: the user's own first,
 /// then the system's in their order. The first file that has a key gives its value.
 ///
-/// Format: that of the Desktop Entry Specification, group [Settings]; integers in decimal, booleans "true"
+/// Format: that of the desktop entry standard, group [Settings]; integers in decimal, booleans "true"
 /// and "false". Read once, by the constructor; a file that is not there is no problem.
 class KeyFileSettings : public SettingsStore {
   public:
