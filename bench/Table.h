@@ -17,7 +17,7 @@ struct TableRow {
 /// Prints a row of the table that bench/run heads: what | ours | beside | ratio ours/beside | aim.
 inline void printRow(const TableRow& row) {
     std::printf("| %-44s | %12.5g %-12s | %-28s %12.5g | %9.4f | %s\n", row.what.c_str(), row.ours,
-                row.unit.c_str(), row.yardstick.c_str(), row.theirs, row.theirs == 0 ? 0 : row.ours / row.theirs,
-                row.aim.c_str());
+                row.unit.c_str(), row.yardstick.c_str(), row.theirs,
+                row.theirs == 0 ? 0 : row.ours / row.theirs, row.aim.c_str());
     std::fflush(stdout);
 }

@@ -30,6 +30,8 @@ std::string Delay::displayText() const {
     return "<⌛ " + formatted(m_seconds, std::chars_format::fixed, decimals) + ">";
 }
 
-boost::shared_ptr<Delay> createDelay(const double& seconds) { return createShared<Delay>(seconds); }
-
 }  // namespace actionpack
+
+boost::shared_ptr<actionpack::Delay> createDelay(const double& seconds) {
+    return createShared<actionpack::Delay>(seconds);
+}

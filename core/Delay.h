@@ -24,7 +24,7 @@ class Delay : public Action {
     double m_seconds;
 };
 
-/// A pause in a shared pointer. Throws as createShared does.
-boost::shared_ptr<Delay> createDelay(const double& seconds);
-
 }  // namespace actionpack
+
+/// A pause in a shared pointer. Throws as createShared does.
+boost::shared_ptr<actionpack::Delay> createDelay(const double& seconds);

@@ -60,9 +60,9 @@ std::string KeyCode::displayText() const {
     return symbols.empty() ? m_keyName : "<" + symbols + "+" + m_keyName + ">";
 }
 
-boost::shared_ptr<KeyCode> createKeyCode(const std::uint32_t& keyCode, const std::string& keyName,
-                                         const char& character) {
-    return createShared<KeyCode>(keyCode, keyName, character);
-}
-
 }  // namespace actionpack
+
+boost::shared_ptr<actionpack::KeyCode> createKeyCode(const std::uint32_t& keyCode, const std::string& keyName,
+                                                     const char& character) {
+    return createShared<actionpack::KeyCode>(keyCode, keyName, character);
+}

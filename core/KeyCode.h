@@ -32,8 +32,8 @@ class KeyCode : public Action {
     char m_character;
 };
 
-/// A key press without modifiers; set them right afterwards. Throws as createShared does.
-boost::shared_ptr<KeyCode> createKeyCode(const std::uint32_t& keyCode, const std::string& keyName,
-                                         const char& character);
-
 }  // namespace actionpack
+
+/// A key press without modifiers; set them right afterwards. Throws as createShared does.
+boost::shared_ptr<actionpack::KeyCode> createKeyCode(const std::uint32_t& keyCode, const std::string& keyName,
+                                                     const char& character);

@@ -46,7 +46,7 @@ void handleKeyPress(const KeyEvent& event) {
     const std::string name = shownName(event);
     const EngineState& state = engineState();
     if (!state.recordingMacro) return;
-    const auto action = actionpack::createKeyCode(event.keyCode, name, event.character);
+    const auto action = createKeyCode(event.keyCode, name, event.character);
     // Not the event's own mask: what counts is what the last modifier change said.
     action->setModifiers(state.currentModifiers);
     append(action);
@@ -85,7 +85,7 @@ void handleKeyEvent(const KeyEvent& event) {
 void saveDelayToNow() {
     const auto& last = engineState().lastEventTime;
     if (!last) return;
-    append(actionpack::createDelay(Clock::Seconds(services().clock.now() - *last).count()));
+    append(createDelay(Clock::Seconds(services().clock.now() - *last).count()));
 }
 
 void restartLastEventTime() { engineState().lastEventTime = services().clock.now(); }

@@ -27,7 +27,7 @@ TEST(AssertionDeathTest, stopsTheUseOfAnUnknownMacro) {
 }
 
 TEST(AssertionDeathTest, stopsTheResetOfAPointerToItself) {
-    boost::shared_ptr<Action> action = actionpack::createKeyCode(0, "a", 'a');
+    boost::shared_ptr<Action> action = createKeyCode(0, "a", 'a');
     EXPECT_EXIT(action.reset(action.get()), testing::KilledBySignal(SIGABRT), "p == 0 \\|\\| p != px");
 }
 

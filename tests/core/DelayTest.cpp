@@ -10,8 +10,8 @@ namespace {
 class DelayTest : public LocaleTest {};
 KEYRILL_IN_BOTH_LOCALES(DelayTest);
 
-std::string scriptLine(double seconds) { return actionpack::createDelay(seconds)->scriptLine(); }
-std::string displayText(double seconds) { return actionpack::createDelay(seconds)->displayText(); }
+std::string scriptLine(double seconds) { return createDelay(seconds)->scriptLine(); }
+std::string displayText(double seconds) { return createDelay(seconds)->displayText(); }
 
 TEST_P(DelayTest, writesAtMostSixSignificantDigits) {
     EXPECT_EQ(scriptLine(0.5), "\tdelay 0.5\n");
@@ -52,7 +52,7 @@ TEST_P(DelayTest, rendersTheLongestNumberWhole) {
 }
 
 TEST_P(DelayTest, doesNotMindItsModifiers) {
-    const auto delay = actionpack::createDelay(0.5);
+    const auto delay = createDelay(0.5);
     delay->setModifiers(0x1F00);
     EXPECT_EQ(delay->scriptLine(), "\tdelay 0.5\n");
     EXPECT_EQ(delay->displayText(), "<⌛ 0.50>");

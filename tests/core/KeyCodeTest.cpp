@@ -18,7 +18,7 @@ struct Press {
 };
 
 boost::shared_ptr<Action> create(const Press& press) {
-    auto action = actionpack::createKeyCode(press.keyCode, press.keyName, press.character);
+    auto action = createKeyCode(press.keyCode, press.keyName, press.character);
     action->setModifiers(press.modifiers);
     return action;
 }
@@ -27,8 +27,8 @@ std::string scriptLine(const Press& press) { return create(press)->scriptLine();
 std::string displayText(const Press& press) { return create(press)->displayText(); }
 
 TEST_P(KeyCodeTest, hasNoModifiersAtFirst) {
-    EXPECT_EQ(actionpack::createKeyCode(36, "↩", '\r')->modifiers(), 0U);
-    EXPECT_EQ(actionpack::createKeyCode(36, "↩", '\r')->scriptLine(), "\tkey code (36) using {}\n");
+    EXPECT_EQ(createKeyCode(36, "↩", '\r')->modifiers(), 0U);
+    EXPECT_EQ(createKeyCode(36, "↩", '\r')->scriptLine(), "\tkey code (36) using {}\n");
 }
 
 TEST_P(KeyCodeTest, keepsTheWholeMask) {

@@ -46,7 +46,7 @@ TEST_F(MacroManagerTest, replacesTheEmptyEntryWhenItsNumberComes) {
 TEST_F(MacroManagerTest, givesTheSameMacroEachTimeWithItsScript) {
     const auto macro = MacroManager::createMacro();
     const std::string script = macro->script();
-    macro->addAction(actionpack::createKeyCode(0, "a", 'a'));
+    macro->addAction(createKeyCode(0, "a", 'a'));
     EXPECT_EQ(MacroManager::macro(1), macro);
     EXPECT_EQ(MacroManager::macro(1).get(), macro.get());
     EXPECT_EQ(MacroManager::macro(1)->script(), script);
@@ -58,7 +58,7 @@ TEST_F(MacroManagerTest, keepsMacrosThatNobodyElseHolds) {
 }
 
 TEST_F(MacroManagerTest, numbersALoadedMacroLikeARecordedOne) {
-    MacroManager::createMacro()->addAction(actionpack::createKeyCode(0, "a", 'a'));
+    MacroManager::createMacro()->addAction(createKeyCode(0, "a", 'a'));
     const auto loaded = MacroManager::createMacro();
     loaded->setScript("beep\n");
     EXPECT_EQ(loaded->macroId(), 2);

@@ -13,16 +13,16 @@ class MacroTest : public LocaleTest {
     /// Appends plain key presses with the names "1,", "2,", ...
     void addNumbered(int count) {
         for (int number = 1; number <= count; ++number) {
-            macro.addAction(actionpack::createKeyCode(0, std::to_string(number) + ",", 'a'));
+            macro.addAction(createKeyCode(0, std::to_string(number) + ",", 'a'));
         }
     }
 
     void addExample() {
-        const auto press = actionpack::createKeyCode(1, "s", 's');
+        const auto press = createKeyCode(1, "s", 's');
         press->setModifiers(0x0100);
         macro.addAction(press);
-        macro.addAction(actionpack::createDelay(0.5));
-        macro.addAction(actionpack::createKeyCode(0, "a", 'a'));
+        macro.addAction(createDelay(0.5));
+        macro.addAction(createKeyCode(0, "a", 'a'));
     }
 
     Macro macro;
@@ -170,7 +170,7 @@ TEST_F(MacroCostTest, rendersTheScriptOnce) {
 }
 
 TEST(MacroLifeTest, releasesItsActions) {
-    const boost::shared_ptr<Action> action = actionpack::createDelay(1);
+    const boost::shared_ptr<Action> action = createDelay(1);
     {
         Macro macro;
         macro.addAction(action);
