@@ -19,12 +19,12 @@ BEGIN {
     room("prefs/", "^(prefs|core|platform)/[A-Za-z]+\\.h$", standard "|^boost/", "")
     room("engine/", "^(engine|prefs|core|platform)/[A-Za-z]+\\.h$", standard "|^boost/", "")
     room("app/", "^app/|^(engine|prefs|core|platform)/[A-Za-z]+\\.h$", "", "^(xcb/|X11/|xkbcommon/|wayland)")
-    # The one place that chooses backends.
-    room("app/main.cpp", "^(app|engine|prefs|core|platform)/", "", "^(xcb/|X11/|xkbcommon/|wayland)")
+    # The one place that chooses backends and joins everything; programs are made of it.
+    room("app/program/", "^(app|engine|prefs|core|platform)/", "", "^(xcb/|X11/|xkbcommon/|wayland)")
 
     mayCallServices = "^(core/KeyNames|engine/(HotKeyCenter|AppleScript|MacroPlayer|KeyRecorder))\\.cpp$" \
                       "|^app/|^platform/Services\\.|^(tests|bench|fuzz)/"
-    mayInstallServices = "^app/main\\.cpp$|^platform/Services\\.|^(tests|bench|fuzz)/"
+    mayInstallServices = "^app/program/|^platform/Services\\.|^(tests|bench|fuzz)/"
     isCode = "\\.(h|cpp|c)$"
     isBuildFile = "(^|/)CMakeLists\\.txt$|\\.cmake$"
     isSource = isCode "|" isBuildFile "|\\.(inc|sh|py|awk|conf)$|(^|/)\\.clang-(format|tidy)$"
@@ -81,7 +81,7 @@ function checkCode(    code) {
         breach(FNR, "services() is called; take a reference in the constructor")
     }
     if (code ~ /(^|[^A-Za-z0-9_])ServicesScope([^A-Za-z0-9_]|$)/ && file !~ mayInstallServices) {
-        breach(FNR, "services are installed by main and tests alone")
+        breach(FNR, "services are installed by programs and tests alone")
     }
     if (code ~ /std::shared_ptr/ && file ~ /^(core|prefs|engine|app)\//) {
         breach(FNR, "std::shared_ptr; the model's pointer is boost::shared_ptr")

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+/// The picture of the multiple-play prompt: a dark panel with a repetition mark at its left.
+class MultiplePlayView : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// The width that the mark takes at the left.
+    static constexpr int markWidth = 48;
+
+    using QWidget::QWidget;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+};

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "app/MultiplePlayWindow.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "app/MultiplePlayView.h"
+#include "app/OverlayPanel.h"
+
+namespace {
+constexpr int margin = 14;
+constexpr int fieldWidth = 90;
+}  // namespace
+
+MultiplePlayWindow::MultiplePlayWindow()
+    : QWidget(nullptr, Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+      m_timesText(new QLineEdit(QStringLiteral("1"))),
+      m_playButton(new QPushButton) {
+    // The window is activated by other means, with the permission of the hot key that opened it.
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setWindowTitle(tr("Play Multiple Times"));
+
+    auto* view = new MultiplePlayView(this);
+    auto* windowLayout = new QHBoxLayout(this);
+    windowLayout->setContentsMargins(0, 0, 0, 0);
+    windowLayout->addWidget(view);
+
+    auto* label = new QLabel(tr("&Times to play:"));
+    label->setBuddy(m_timesText);
+    label->setStyleSheet(QStringLiteral("color: white"));
+    m_timesText->setFixedWidth(fieldWidth);
+    auto* viewLayout = new QHBoxLayout(view);
+    viewLayout->setContentsMargins(MultiplePlayView::markWidth, margin, margin, margin);
+    viewLayout->addWidget(label);
+    viewLayout->addWidget(m_timesText);
+    viewLayout->addWidget(m_playButton);
+
+    connect(m_timesText, &QLineEdit::returnPressed, this, &MultiplePlayWindow::confirm);
+    connect(m_playButton, &QPushButton::clicked, this, &MultiplePlayWindow::confirm);
+    setPlays(true);
+}
+
+void MultiplePlayWindow::setPlays(bool plays) {
+    m_plays = plays;
+    m_playButton->setEnabled(plays);
+    m_playButton->setText(plays ? tr("&Play") : tr("No macro yet"));
+    adjustSize();
+}
+
+void MultiplePlayWindow::focusTimesText() {
+    m_timesText->setFocus();
+    m_timesText->selectAll();
+}
+
+QString MultiplePlayWindow::timesText() const { return m_timesText->text(); }
+
+void MultiplePlayWindow::confirm() {
+    if (m_plays) emit confirmed();
+}
+
+void MultiplePlayWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        emit dismissed();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void MultiplePlayWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    emit dismissed();
+}
+
+void MultiplePlayWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    shapeAsOverlayPanel(*this);
+}

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+class QLineEdit;
+class QPushButton;
+
+/// The prompt that asks how many times to play.
+class MultiplePlayWindow : public QWidget {
+    Q_OBJECT
+
+  public:
+    MultiplePlayWindow();
+
+    /// Whether the button and Return play; the button says so if not.
+    void setPlays(bool plays);
+
+    /// The field gets the keys, its text is selected.
+    void focusTimesText();
+    QString timesText() const;
+
+  signals:
+    void confirmed();
+    void dismissed();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void confirm();
+
+    QLineEdit* m_timesText;
+    QPushButton* m_playButton;
+    bool m_plays = true;
+};

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "app/RecorderWindow.h"
+
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QScreen>
+
+#include "app/MacroText.h"
+#include "app/OverlayPanel.h"
+#include "app/OverlayPlacement.h"
+#include "app/RecorderView.h"
+
+namespace {
+constexpr QSize overlaySize{420, 60};
+constexpr int rightMargin = 16;
+}  // namespace
+
+RecorderWindow::RecorderWindow()
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                           Qt::BypassWindowManagerHint | Qt::WindowTransparentForInput |
+                           Qt::WindowDoesNotAcceptFocus),
+      m_macroText(new MacroText) {
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setWindowTitle(tr("Keyrill recording"));
+
+    auto* view = new RecorderView(this);
+    auto* windowLayout = new QHBoxLayout(this);
+    windowLayout->setContentsMargins(0, 0, 0, 0);
+    windowLayout->addWidget(view);
+    auto* viewLayout = new QHBoxLayout(view);
+    viewLayout->setContentsMargins(RecorderView::markWidth, 0, rightMargin, 0);
+    viewLayout->addWidget(m_macroText);
+    QFont font = m_macroText->font();
+    font.setPointSizeF(font.pointSizeF() * 1.4);
+    m_macroText->setFont(font);
+    connect(m_macroText, &MacroText::refreshed, this, &QWidget::raise);
+    resize(overlaySize);
+}
+
+void RecorderWindow::place() {
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const OverlayOrigin origin = overlayOrigin({screen.width(), screen.height()}, {width(), height()});
+    // The formula counts upwards from the lower left corner, the window system downwards from the upper left.
+    move(screen.x() + origin.x, screen.y() + screen.height() - origin.y - height());
+}
+
+void RecorderWindow::setMacroString(const std::string& text) { m_macroText->setText(text); }
+
+void RecorderWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    shapeAsOverlayPanel(*this);
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSocketNotifier>
+
+#include "app/AppController.h"
+#include "app/TrayStatusItem.h"
+#include "app/program/TerminationSignals.h"
+
+class X11Backends;
+
+/// The program around the controller: joins it with the backends and both with the toolkit's event loop.
+/// Needs a QApplication; start-up itself happens once the loop runs.
+class Program {
+  public:
+    explicit Program(X11Backends& backends);
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    AppController& controller() { return m_controller; }
+
+  private:
+    TrayStatusItem m_statusItem;
+    AppController m_controller;
+    TerminationSignals m_signals;
+    QSocketNotifier m_trayReadable;
+};
