@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/KeyCode.h"
+#include "core/MacroManager.h"
+#include "engine/EngineState.h"
+#include "platform/Services.h"
+#include "platform/fake/FakePlatform.h"
+#include "prefs/PreferenceManager.h"
+
+/// The engine on the fake platform, with all state of the process fresh before and after.
+class EngineTest : public testing::Test {
+  protected:
+    EngineTest() { reset(); }
+    ~EngineTest() override { reset(); }
+
+    FakePlatform& platform() { return m_platform; }
+    EngineState& state() { return engineState(); }
+
+    void setHotKey(const std::string& name, std::int16_t code, std::uint32_t flags) {
+        utils::PreferenceManager::setCode(name, code);
+        utils::PreferenceManager::setFlags(name, flags);
+    }
+
+    /// A macro that plays the text, as loaded from a file.
+    static boost::shared_ptr<Macro> macroWithScript(const std::string& script) {
+        auto macro = MacroManager::createMacro();
+        macro->setScript(script);
+        return macro;
+    }
+
+    /// All texts that were run, in order.
+    const std::vector<std::string>& runs() const { return m_platform.scripting.runs(); }
+
+    /// The preference table is marked, so that the next clearMarks() is seen.
+    static void markTable() { utils::PreferenceManager::setMarked("record", true); }
+    static bool tableIsMarked() { return utils::PreferenceManager::isMarked("record"); }
+
+  private:
+    static void reset() {
+        engineState() = EngineState{};
+        MacroManager::instance().reset();
+        utils::PreferenceManager::instance().reset();
+    }
+
+    FakePlatform m_platform;
+    ServicesScope m_services{m_platform.services};
+};

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "engine/HotKeyCenter.h"
+
+#include "engine/EngineTest.h"
+#include "engine/FakeController.h"
+#include "platform/Modifiers.h"
+
+namespace {
+
+class HotKeyCenterTest : public EngineTest {
+  protected:
+    using Calls = std::vector<std::string>;
+    using Messages = FakeController::Messages;
+
+    HotKeyStatus status(HotKeyId id) { return platform().hotKeys.state(id).status; }
+
+    FakeController gui;
+
+  private:
+    SharedControllerScope m_scope{gui};
+};
+
+TEST_F(HotKeyCenterTest, hasFourRowsInTheirOrder) {
+    std::vector<std::string> rows;
+    for (const HotKeyRow& row : hotKeyRows()) {
+        rows.push_back(std::string(row.name) + ' ' + std::to_string(row.id) + ' ' +
+                       std::string(row.signature));
+    }
+    EXPECT_EQ(rows, (std::vector<std::string>{"record 1 kyl1", "stop 2 kyl2", "play 3 kyl3",
+                                              "multiplePlay 4 kyl4"}));
+}
+
+TEST_F(HotKeyCenterTest, withdrawsAndRequestsEachRowInOrder) {
+    setHotKey("record", 15, modifier::control | modifier::command);
+    setHotKey("stop", 1, modifier::functionKey | modifier::shift);
+    setHotKey("play", 0, 0);
+    registerHotKeys();
+    EXPECT_EQ(platform().hotKeys.calls(),
+              (Calls{"withdraw 1", "request 1 15 0x1100", "withdraw 2", "request 2 1 0x800200", "withdraw 3",
+                     "request 3 0 0x0", "withdraw 4", "request 4 -1 0x0"}));
+}
+
+TEST_F(HotKeyCenterTest, widensTheCodeWithItsSign) {
+    setHotKey("record", -2, 0);
+    registerHotKeys();
+    EXPECT_EQ(platform().hotKeys.calls()[1], "request 1 -2 0x0");
+}
+
+TEST_F(HotKeyCenterTest, namesThatAreMissingComeIntoTheTable) {
+    registerHotKeys();
+    EXPECT_EQ(utils::PreferenceManager::instance()->entryCount(), 4U);
+    for (const HotKeyRow& row : hotKeyRows()) EXPECT_EQ(status(row.id), HotKeyStatus::unset) << row.name;
+}
+
+TEST_F(HotKeyCenterTest, aRowWithoutAKeyLosesItsHotKeyAndTheOthersKeepTheirs) {
+    setHotKey("record", 15, modifier::control);
+    setHotKey("stop", 1, modifier::control);
+    setHotKey("play", 35, modifier::control);
+    setHotKey("multiplePlay", 46, modifier::control);
+    registerHotKeys();
+    setHotKey("stop", -1, 0);
+    registerHotKeys();
+    EXPECT_EQ(platform().hotKeys.registered(),
+              (std::map<HotKeyId, std::pair<std::uint32_t, std::uint32_t>>{
+                  {1, {15, modifier::control}}, {3, {35, modifier::control}}, {4, {46, modifier::control}}}));
+}
+
+TEST_F(HotKeyCenterTest, aRefusedRowIsInertAndTheOldCombinationIsGone) {
+    setHotKey("record", 15, modifier::control);
+    registerHotKeys();
+    platform().hotKeys.otherProgramHolds(46, modifier::control);
+    setHotKey("record", 46, modifier::control);
+    registerHotKeys();
+    EXPECT_EQ(status(1), HotKeyStatus::refused);
+    EXPECT_TRUE(platform().hotKeys.registered().empty());
+}
+
+TEST_F(HotKeyCenterTest, oneCombinationUnderTwoNamesIsTheFirstRows) {
+    setHotKey("stop", 1, modifier::control);
+    setHotKey("play", 1, modifier::control);
+    registerHotKeys();
+    EXPECT_EQ(status(2), HotKeyStatus::registered);
+    EXPECT_EQ(status(3), HotKeyStatus::refused);
+}
+
+TEST_F(HotKeyCenterTest, onlyTheStopRowCancelsAPlayback) {
+    std::vector<HotKeyId> cancelling;
+    setHotKey("record", 15, 0);
+    setHotKey("stop", 1, 0);
+    setHotKey("play", 35, 0);
+    setHotKey("multiplePlay", 46, 0);
+    registerHotKeys();
+    for (const auto& [id, combination] : platform().hotKeys.registered()) {
+        platform().scripting.startPlayback();
+        platform().scripting.duringEachRun(
+            [this, code = combination.first] { platform().keyboard.userPresses(code); });
+        platform().scripting.run("");
+        if (platform().scripting.isCancelled()) cancelling.push_back(id);
+    }
+    EXPECT_EQ(cancelling, std::vector<HotKeyId>{2});
+}
+
+TEST_F(HotKeyCenterTest, recordAndMultiplePlayActOnPressAndStopToo) {
+    onHotKeyPressed(1);
+    onHotKeyPressed(2);
+    onHotKeyPressed(4);
+    EXPECT_EQ(gui.messages(), (Messages{"showRecordingGui", "hideRecordingGui", "showMultiplePlayGui"}));
+}
+
+TEST_F(HotKeyCenterTest, playActsOnRelease) {
+    state().currentMacro = macroWithScript("beep");
+    onHotKeyPressed(3);
+    EXPECT_EQ(runs().size(), 0U);
+    onHotKeyReleased(3);
+    EXPECT_EQ(runs().size(), 1U);
+    EXPECT_EQ(state().pendingPlayCount, 1U);
+}
+
+TEST_F(HotKeyCenterTest, allOtherPressesAndReleasesAreNothing) {
+    state().currentMacro = macroWithScript("beep");
+    for (const HotKeyId id : {0U, 5U, 0xFFFFFFFFU}) onHotKeyPressed(id);
+    for (const HotKeyId id : {0U, 1U, 2U, 4U, 5U, 0xFFFFFFFFU}) onHotKeyReleased(id);
+    EXPECT_EQ(gui.messages(), Messages{});
+    EXPECT_EQ(runs().size(), 0U);
+}
+
+TEST_F(HotKeyCenterTest, disabledHotKeysDoNothingButStayRegistered) {
+    state().currentMacro = macroWithScript("beep");
+    setHotKey("record", 15, 0);
+    registerHotKeys();
+    state().hotKeysEnabled = false;
+    for (const HotKeyId id : {1U, 2U, 3U, 4U}) {
+        onHotKeyPressed(id);
+        onHotKeyReleased(id);
+    }
+    EXPECT_EQ(gui.messages(), Messages{});
+    EXPECT_EQ(runs().size(), 0U);
+    EXPECT_EQ(status(1), HotKeyStatus::registered);
+}
+
+TEST_F(HotKeyCenterTest, installedHandlersHearTheKeyboard) {
+    setHotKey("record", 15, 0);
+    registerHotKeys();
+    installHotKeyHandlers();
+    platform().keyboard.userPresses(15);
+    EXPECT_TRUE(state().recording);
+}
+
+}  // namespace

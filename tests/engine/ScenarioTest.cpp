@@ -1,0 +1,333 @@
+// SPDX-License-Identifier: MIT
+#include "engine/Scenario.h"
+
+namespace {
+
+using ScenarioTest = Scenario;
+using ScenarioDeathTest = Scenario;
+
+TEST_F(ScenarioTest, recordTypeStopPlayPlaysWhatWasTypedAndNotTheHotKeys) {
+    recordTyping("a b\n");
+    EXPECT_EQ(currentMacro(), "a b↩");
+    user.strikesPlay();
+    EXPECT_EQ(runs(), (std::vector<std::string>{"tell application \"System Events\"\n"
+                                                "\tkey code (0) using {}\ndelay 0.01\n"
+                                                "\tkey code (49) using {}\ndelay 0.01\n"
+                                                "\tkey code (11) using {}\ndelay 0.01\n"
+                                                "\tkey code (36) using {}\ndelay 0.01\n"
+                                                "end tell\n"}));
+}
+
+TEST_F(ScenarioTest, theRecordHotKeyEndsTheRecordingThatItStarted) {
+    user.strikesRecord();
+    user.types("a");
+    user.strikesRecord();
+    EXPECT_FALSE(isRecording());
+    EXPECT_EQ(currentMacro(), "a");
+}
+
+TEST_F(ScenarioTest, shiftedAndChordedKeysAreRecordedWithTheirModifiers) {
+    user.strikesRecord();
+    user.strikes({key::Shift, key::A});
+    user.strikes({key::Super, key::S});
+    user.strikes({key::Ctrl, key::Alt, key::F5});
+    EXPECT_EQ(overlay(), "A<⌘+s><⌥+⌃+F5>");
+}
+
+TEST_F(ScenarioTest, aLetterTypedWithCapsLockIsRecordedAsAShiftedOne) {
+    user.strikes({key::CapsLock});
+    recordTyping("a");
+    EXPECT_EQ(currentMacro(), "A");
+    user.strikesPlay();
+    EXPECT_EQ(runs(),
+              (std::vector<std::string>{"tell application \"System Events\"\n"
+                                        "\tkey code (0) using {shift down}\ndelay 0.01\nend tell\n"}));
+}
+
+TEST_F(ScenarioTest, aLetterTypedWithCapsLockAndShiftIsRecordedAsASmallOne) {
+    user.strikes({key::CapsLock});
+    user.strikesRecord();
+    user.strikes({key::Shift, key::A});
+    user.strikesStop();
+    EXPECT_EQ(currentMacro(), "a");
+    user.strikesPlay();
+    EXPECT_EQ(runs(), (std::vector<std::string>{"tell application \"System Events\"\n"
+                                                "\tkey code (0) using {}\ndelay 0.01\nend tell\n"}));
+}
+
+TEST_F(ScenarioTest, capsLockDoesNotHoldBackAPlay) {
+    recordTyping("a");
+    user.strikes({key::CapsLock});
+    user.strikesPlay();
+    EXPECT_EQ(scriptsRun(), 1U);
+}
+
+TEST_F(ScenarioTest, aHeldKeyIsRecordedOncePerRepeat) {
+    user.strikesRecord();
+    user.holds(key::A, 3);
+    user.releases(key::A);
+    EXPECT_EQ(overlay(), "aaaa");
+}
+
+TEST_F(ScenarioTest, pausesAreRecordedOnDemand) {
+    user.strikesRecord();
+    user.waits(1.5);
+    menu.savesPause();
+    user.types("a");
+    user.waits(0.25);
+    menu.savesPause();
+    EXPECT_EQ(overlay(), "<⌛ 1.50>a<⌛ 0.25>");
+}
+
+TEST_F(ScenarioTest, holdingThePlayCombinationPlaysNothing) {
+    recordTyping("a");
+    user.presses(key::Ctrl, key::Super, key::P);
+    user.holds(key::P, 10);
+    EXPECT_EQ(scriptsRun(), 0U);
+}
+
+TEST_F(ScenarioTest, holdPlayCombinationReleaseKeyReleaseModifiersPlaysOnce) {
+    recordTyping("a");
+    user.presses(key::Ctrl, key::Super);
+    user.holds(key::P, 3);
+    user.releases(key::P);
+    EXPECT_EQ(scriptsRun(), 0U);
+    user.releases(key::Super);
+    EXPECT_EQ(scriptsRun(), 0U);
+    user.releases(key::Ctrl);
+    EXPECT_EQ(scriptsRun(), 1U);
+}
+
+TEST_F(ScenarioTest, releaseModifiersFirstThenThePlayKeyPlaysOnce) {
+    recordTyping("a");
+    user.presses(key::Ctrl, key::Super, key::P);
+    user.releases(key::Ctrl, key::Super);
+    EXPECT_EQ(scriptsRun(), 0U);
+    user.releases(key::P);
+    EXPECT_EQ(scriptsRun(), 1U);
+}
+
+TEST_F(ScenarioTest, pressPlayTwiceBeforeLettingGoOfCtrlPlaysOnce) {
+    recordTyping("a");
+    user.presses(key::Ctrl, key::Super);
+    user.strikes({key::P});
+    user.strikes({key::P});
+    user.releases(key::Super, key::Ctrl);
+    EXPECT_EQ(scriptsRun(), 1U);
+}
+
+TEST_F(ScenarioTest, playFromTheMenuDoesNotWaitForModifiers) {
+    recordTyping("a");
+    user.presses(key::Shift);
+    menu.plays();
+    EXPECT_EQ(scriptsRun(), 1U);
+}
+
+TEST_F(ScenarioTest, aPendingPlayIsReleasedAlsoDuringARecording) {
+    recordTyping("a");
+    user.presses(key::Ctrl, key::Super);
+    user.strikes({key::P});
+    user.strikes({key::R});
+    EXPECT_TRUE(isRecording());
+    EXPECT_EQ(scriptsRun(), 0U);
+    user.releases(key::Super, key::Ctrl);
+    EXPECT_EQ(scriptsRun(), 1U);
+    EXPECT_TRUE(isRecording());
+}
+
+TEST_F(ScenarioTest, theStrokesOfAPlayDuringARecordingAreRecorded) {
+    recordTyping("a");
+    platform().scripting.duringEachRun([this] { platform().keyboard.scriptStrikes(key::A, 0); });
+    user.strikesRecord();
+    user.types("b");
+    user.strikesPlay();
+    user.types("b");
+    EXPECT_EQ(overlay(), "bab");
+}
+
+TEST_F(ScenarioTest, theStrokesOfAnyOtherPlayAreNot) {
+    recordTyping("a");
+    platform().scripting.duringEachRun([this] { platform().keyboard.scriptStrikes(key::A, 0); });
+    user.strikesPlay();
+    recordTyping("b");
+    EXPECT_EQ(currentMacro(), "b");
+}
+
+TEST_F(ScenarioTest, aMacroMayPlayAHotKeyAndFiresNothing) {
+    recordTyping("a");
+    gui.takeMessages();
+    platform().scripting.duringEachRun(
+        [this] { platform().keyboard.scriptStrikes(key::R, modifier::control | modifier::command); });
+    user.strikesPlay();
+    EXPECT_EQ(gui.messages(), FakeController::Messages{});
+    EXPECT_FALSE(isRecording());
+}
+
+TEST_F(ScenarioTest, aHotKeyPressedWhileAMacroPlaysActsAfterTheLastRun) {
+    recordTyping("a");
+    std::size_t runsWhenItActed = 0;
+    platform().scripting.duringEachRun([&] {
+        EXPECT_FALSE(isRecording());
+        if (scriptsRun() == 1) user.strikesRecord();
+        runsWhenItActed = scriptsRun();
+    });
+    prompt.isConfirmedWith("3");
+    EXPECT_EQ(runsWhenItActed, 3U);
+    EXPECT_TRUE(isRecording());
+}
+
+TEST_F(ScenarioTest, whatIsTypedWhileAMacroPlaysDuringARecordingIsRecordedInOrder) {
+    recordTyping("a");
+    user.strikesRecord();
+    platform().scripting.duringEachRun([this] { user.types("x"); });
+    user.strikesPlay();
+    user.types("b");
+    EXPECT_EQ(overlay(), "xb");
+}
+
+TEST_F(ScenarioTest, theStopHotKeyEndsThePlayback) {
+    recordTyping("a");
+    platform().scripting.duringEachRun([this] {
+        if (scriptsRun() == 2) user.strikesStop();
+    });
+    prompt.isConfirmedWith("100");
+    EXPECT_EQ(scriptsRun(), 2U);
+}
+
+TEST_F(ScenarioTest, escapeHeldForThreeTenthsOfASecondEndsThePlayback) {
+    recordTyping("a");
+    platform().scripting.duringEachRun([this] {
+        if (scriptsRun() == 1) user.presses(key::Escape);
+        user.waits(0.14);
+    });
+    prompt.isConfirmedWith("100");
+    EXPECT_EQ(scriptsRun(), 3U);
+}
+
+TEST_F(ScenarioTest, escapeOutsideAPlaybackIsAnOrdinaryKey) {
+    user.strikesRecord();
+    user.presses(key::Escape);
+    user.waits(1);
+    user.releases(key::Escape);
+    user.strikesStop();
+    EXPECT_EQ(currentMacro(), "⎋");
+    prompt.isConfirmedWith("2");
+    EXPECT_EQ(scriptsRun(), 2U);
+}
+
+TEST_F(ScenarioTest, thePromptPlaysAsOftenAsItSays) {
+    recordTyping("a");
+    prompt.isConfirmedWith("3");
+    EXPECT_EQ(scriptsRun(), 3U);
+    prompt.isConfirmedWith("2x");
+    EXPECT_EQ(scriptsRun(), 5U);
+    for (const char* text : {"0", "-2", "abc", ""}) prompt.isConfirmedWith(text);
+    EXPECT_EQ(scriptsRun(), 5U);
+}
+
+TEST_F(ScenarioTest, aScriptThatFailsStopsNoRepetition) {
+    recordTyping("a");
+    platform().scripting.failNextCall({"System Events got an error.", ""});
+    prompt.isConfirmedWith("2");
+    EXPECT_EQ(scriptsRun(), 2U);
+}
+
+TEST_F(ScenarioTest, anEmptyRecordingLeavesCurrentMacroAndHistory) {
+    recordTyping("a");
+    recordTyping("");
+    EXPECT_EQ(currentMacro(), "a");
+    EXPECT_EQ(gui.history().size(), 1U);
+}
+
+TEST_F(ScenarioTest, aLongRecordingHasAShortTitleAndAFullOverlay) {
+    recordTyping("abcdefghijklmnopqrstu");
+    EXPECT_EQ(currentMacro(), "abcdefghij...lmnopqrstu");
+    EXPECT_EQ(overlay(), "abcdefghijklmnopqrstu");
+}
+
+TEST_F(ScenarioTest, whilePreferencesAreOpenHotKeysAreSwallowedAndTheMenuWorks) {
+    recordTyping("a");
+    gui.takeMessages();
+    state().hotKeysEnabled = false;
+    user.strikesRecord();
+    user.strikesStop();
+    user.strikesPlay();
+    user.strikesMultiplePlay();
+    EXPECT_EQ(gui.messages(), FakeController::Messages{});
+    EXPECT_EQ(scriptsRun(), 0U);
+
+    menu.records();
+    user.strikesRecord();
+    user.types("b");
+    menu.stops();
+    menu.plays();
+    EXPECT_EQ(currentMacro(), "b");
+    EXPECT_EQ(scriptsRun(), 1U);
+}
+
+TEST_F(ScenarioTest, keysOutsideARecordingChangeOnlyTheModifiers) {
+    user.presses(key::Shift, key::A);
+    EXPECT_EQ(state().currentModifiers, modifier::shift);
+    EXPECT_EQ(gui.messages(), FakeController::Messages{});
+    user.releases(key::A, key::Shift);
+    EXPECT_EQ(state().currentModifiers, 0U);
+}
+
+TEST_F(ScenarioTest, savingPreferencesWithoutChangesRegistersAllFourAgain) {
+    const auto before = platform().hotKeys.registered();
+    registerHotKeys();
+    EXPECT_EQ(before.size(), 4U);
+    EXPECT_EQ(platform().hotKeys.registered(), before);
+    EXPECT_EQ(platform().hotKeys.calls().size(), 16U);
+    user.strikesRecord();
+    EXPECT_TRUE(isRecording());
+}
+
+TEST_F(ScenarioTest, whileAQuestionIsOpenNothingIsRecordedAndHotKeysAreDropped) {
+    user.strikesRecord();
+    platform().eventMonitor.setWithheld(true);
+    user.types("a");
+    user.strikesStop();
+    platform().eventMonitor.setWithheld(false);
+    user.types("b");
+    EXPECT_TRUE(isRecording());
+    EXPECT_EQ(overlay(), "b");
+}
+
+TEST_F(ScenarioTest, whileTheScreenIsLockedNothingIsRecorded) {
+    user.strikesRecord();
+    platform().keyboard.lockScreen(true);
+    user.types("secret");
+    platform().keyboard.lockScreen(false);
+    user.types("a");
+    EXPECT_EQ(overlay(), "a");
+}
+
+TEST_F(ScenarioTest, afterTheUpdateNoticeWasFollowedStopPutsTheMenuBack) {
+    recordTyping("a");
+    gui.takeMessages();
+    gui.setFollowsUpdateNotice(true);
+    user.strikesRecord();
+    user.types("b");
+    user.strikesStop();
+    EXPECT_EQ(gui.messages(), (FakeController::Messages{"showRecordingGui", "hideRecordingGui"}));
+    EXPECT_EQ(currentMacro(), "a");
+}
+
+TEST_F(ScenarioTest, playWithoutAMacroIsNothing) {
+    user.strikesPlay();
+    EXPECT_EQ(scriptsRun(), 0U);
+    EXPECT_FALSE(state().playPending);
+}
+
+TEST_F(ScenarioDeathTest, playFromTheMenuAfterAnEmptyRecordingEndsTheProcess) {
+    user.strikesRecord();
+    user.strikesStop();
+    EXPECT_DEATH(menu.plays(), "px != 0");
+}
+
+TEST_F(ScenarioDeathTest, aPromptWithoutAMacroEndsTheProcess) {
+    EXPECT_DEATH(prompt.isConfirmedWith("3"), "px != 0");
+}
+
+}  // namespace
