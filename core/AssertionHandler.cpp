@@ -7,15 +7,14 @@
 // defined for all targets.
 namespace boost {
 
-void assertion_failed(const char* expression, const char* function, const char* file, long line) {
-    std::fprintf(stderr, "%s:%ld: %s: assertion failed: %s\n", file, line, function, expression);
+void assertion_failed(const char* expr, const char* function, const char* file, long line) {
+    std::fprintf(stderr, "%s:%ld: %s: assertion failed: %s\n", file, line, function, expr);
     std::abort();
 }
 
-void assertion_failed_msg(const char* expression, const char* message, const char* function, const char* file,
+void assertion_failed_msg(const char* expr, const char* msg, const char* function, const char* file,
                           long line) {
-    std::fprintf(stderr, "%s:%ld: %s: assertion failed: %s (%s)\n", file, line, function, expression,
-                 message);
+    std::fprintf(stderr, "%s:%ld: %s: assertion failed: %s (%s)\n", file, line, function, expr, msg);
     std::abort();
 }
 

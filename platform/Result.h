@@ -20,7 +20,10 @@ struct Error {
 template <typename Value = void>
 class [[nodiscard]] Result {
   public:
+    // Implicit, so that a function returns a value or an error as it is.
+    // NOLINTNEXTLINE(google-explicit-constructor)
     Result(Value value) : m_content(std::in_place_index<0>, std::move(value)) {}
+    // NOLINTNEXTLINE(google-explicit-constructor)
     Result(Error error) : m_content(std::in_place_index<1>, std::move(error)) {}
 
     explicit operator bool() const { return m_content.index() == 0; }
@@ -45,6 +48,7 @@ template <>
 class [[nodiscard]] Result<void> {
   public:
     Result() = default;
+    // NOLINTNEXTLINE(google-explicit-constructor)
     Result(Error error) : m_content(std::in_place_index<1>, std::move(error)) {}
 
     explicit operator bool() const { return m_content.index() == 0; }

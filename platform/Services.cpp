@@ -6,8 +6,9 @@
 #include <utility>
 
 namespace {
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): what the scopes are there for
 Services* installed = nullptr;
-}
+}  // namespace
 
 ServicesScope::ServicesScope(Services& services) : m_previous(std::exchange(installed, &services)) {}
 

@@ -4,7 +4,9 @@
 #include <glib.h>
 
 #include <charconv>
+#include <memory>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -20,6 +22,16 @@ struct FreeError {
     void operator()(GError* error) const { g_error_free(error); }
 };
 using Failure = std::unique_ptr<GError, FreeError>;
+
+struct FreeTexts {
+    void operator()(char** texts) const { g_strfreev(texts); }
+};
+using Texts = std::unique_ptr<char*, FreeTexts>;
+
+struct FreeKeyFile {
+    void operator()(GKeyFile* file) const { g_key_file_free(file); }
+};
+using KeyFile = std::unique_ptr<GKeyFile, FreeKeyFile>;
 
 std::string_view trimmed(std::string_view text) {
     constexpr std::string_view blanks = " \t\r";
@@ -37,43 +49,19 @@ std::int64_t integerFrom(std::string_view text) {
     return error == std::errc() && stop == end ? value : 0;
 }
 
-}  // namespace
-
-void KeyFileSettings::Free::operator()(_GKeyFile* file) const { g_key_file_free(file); }
-
-KeyFileSettings::KeyFileSettings(const ConfigFolders& folders) {
-    addDomain(folders.user);
-    for (const std::string& folder : folders.system) addDomain(folder);
-}
-
-std::optional<std::int64_t> KeyFileSettings::integer(const std::string& key) const {
-    for (const KeyFile& domain : m_domains) {
-        const Text value(g_key_file_get_value(domain.get(), group, key.c_str(), nullptr));
-        if (value) return integerFrom(trimmed(value.get()));
-    }
-    return std::nullopt;
-}
-
-void KeyFileSettings::addDomain(const std::string& folder) {
-    auto file = read(folder + fileName);
-    if (!file) {
-        if (!m_problem) m_problem = file.error();
-    } else if (file.value()) {
-        m_domains.push_back(std::move(file).value());
-    }
+bool isAbsence(const GError& error) {
+    return error.domain == G_FILE_ERROR &&
+           (error.code == G_FILE_ERROR_NOENT || error.code == G_FILE_ERROR_NOTDIR);
 }
 
 /// Null where there is no such file.
-Result<KeyFileSettings::KeyFile> KeyFileSettings::read(const std::string& path) {
+Result<KeyFile> read(const std::string& path) {
     char* content = nullptr;
     gsize length = 0;
     GError* error = nullptr;
     if (g_file_get_contents(path.c_str(), &content, &length, &error) == FALSE) {
         const Failure failure(error);
-        if (g_error_matches(error, G_FILE_ERROR, G_FILE_ERROR_NOENT) != FALSE ||
-            g_error_matches(error, G_FILE_ERROR, G_FILE_ERROR_NOTDIR) != FALSE) {
-            return KeyFile();
-        }
+        if (isAbsence(*failure)) return KeyFile();
         return Error{"The settings file " + path + " cannot be read: " + failure->message,
                      "Check who may read the file."};
     }
@@ -85,4 +73,32 @@ Result<KeyFileSettings::KeyFile> KeyFileSettings::read(const std::string& path) 
                      "Correct the file or remove it."};
     }
     return file;
+}
+
+}  // namespace
+
+KeyFileSettings::KeyFileSettings(const ConfigFolders& folders) {
+    std::vector<std::string> all = {folders.user};
+    all.insert(all.end(), folders.system.begin(), folders.system.end());
+    for (const std::string& folder : all) {
+        const Result<> added = addDomain(folder);
+        if (!added && !m_problem) m_problem = added.error();
+    }
+}
+
+std::optional<std::int64_t> KeyFileSettings::integer(const std::string& key) const {
+    const auto value = m_values.find(key);
+    return value != m_values.end() ? std::optional(value->second) : std::nullopt;
+}
+
+Result<> KeyFileSettings::addDomain(const std::string& folder) {
+    auto file = read(folder + fileName);
+    if (!file) return file.error();
+    if (!file.value()) return {};
+    const Texts keys(g_key_file_get_keys(file.value().get(), group, nullptr, nullptr));
+    for (char** key = keys.get(); key != nullptr && *key != nullptr; ++key) {
+        const Text value(g_key_file_get_value(file.value().get(), group, *key, nullptr));
+        m_values.emplace(*key, integerFrom(trimmed(value.get())));
+    }
+    return {};
 }

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
+#include <map>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "platform/Result.h"
 #include "platform/SettingsStore.h"
 #include "platform/linux/ConfigFolders.h"
-
-struct _GKeyFile;
 
 /// Settings in key files, keyrill/keyrill.conf in each of the configuration folders: the user's own first,
 /// then the system's in their order. The first file that has a key gives its value.
@@ -29,15 +26,9 @@ class KeyFileSettings : public SettingsStore {
     const std::optional<Error>& problem() const { return m_problem; }
 
   private:
-    struct Free {
-        void operator()(_GKeyFile* file) const;
-    };
-    using KeyFile = std::unique_ptr<_GKeyFile, Free>;
+    /// Adds what the folder's file has and no earlier one had.
+    Result<> addDomain(const std::string& folder);
 
-    static Result<KeyFile> read(const std::string& path);
-    void addDomain(const std::string& folder);
-
-    /// The most important first.
-    std::vector<KeyFile> m_domains;
+    std::map<std::string, std::int64_t> m_values;
     std::optional<Error> m_problem;
 };

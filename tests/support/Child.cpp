@@ -14,8 +14,6 @@
 #include <stdexcept>
 #include <thread>
 
-extern char** environ;
-
 namespace {
 
 std::vector<std::string> environmentWith(const std::map<std::string, std::string>& changes) {
@@ -25,13 +23,14 @@ std::vector<std::string> environmentWith(const std::map<std::string, std::string
         if (!changes.contains(text.substr(0, text.find('=')))) result.push_back(text);
     }
     for (const auto& [name, value] : changes) {
-        if (!value.empty()) result.push_back(name + "=" + value);
+        if (!value.empty()) result.emplace_back(name).append("=").append(value);
     }
     return result;
 }
 
 std::vector<char*> pointersTo(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string& text : texts) pointers.push_back(text.data());
     pointers.push_back(nullptr);
     return pointers;
@@ -83,7 +82,7 @@ std::string outputOf(const std::vector<std::string>& command,
     const TemporaryFolder folder;
     Child child(command, {.environment = environment, .outputFile = folder.file("output")});
     const int status = child.wait();
-    const std::string output = contentOf(folder.file("output"));
+    std::string output = contentOf(folder.file("output"));
     EXPECT_EQ(status, 0) << command.front() << ": " << output;
     return output;
 }

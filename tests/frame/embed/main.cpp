@@ -6,6 +6,6 @@
 
 int main() {
     Macro macro;
-    macro.addAction(actionpack::createKeyCode(0, "a", 'a'));
+    macro.addAction(createKeyCode(0, "a", 'a'));
     std::fputs(macro.script().c_str(), stdout);
 }
