@@ -2,6 +2,7 @@
 #include "core/KeyNames.h"
 
 #include <array>
+#include <memory>
 #include <utility>
 
 #include "core/KeyCodeTransformer.h"
@@ -27,8 +28,8 @@ std::string textsOf(const std::array<FlagText, size>& table, std::uint32_t flags
 }
 
 /// Empty until the first name is asked for, then filled for good.
-std::optional<KeyCodeTransformer>& transformerSlot() {
-    static std::optional<KeyCodeTransformer> transformer;
+std::unique_ptr<const KeyCodeTransformer>& transformerSlot() {
+    static std::unique_ptr<const KeyCodeTransformer> transformer;
     return transformer;
 }
 
@@ -47,15 +48,13 @@ std::string translated(const std::string& key) {
 std::string keyNameForKeyCode(short keyCode) {
     auto& transformer = transformerSlot();
     if (!transformer) {
-        transformer.emplace([]() -> const KeyboardLayout& { return services().keyboardLayout; });
+        transformer = std::make_unique<const KeyCodeTransformer>(
+            []() -> const KeyboardLayout& { return services().keyboardLayout; });
     }
     return transformer->transformedValue(keyCode);
 }
 
-const KeyCodeTransformer* keyCodeTransformer() {
-    const auto& transformer = transformerSlot();
-    return transformer ? &*transformer : nullptr;
-}
+const KeyCodeTransformer* keyCodeTransformer() { return transformerSlot().get(); }
 
 std::string modifierSymbolsForCocoaFlags(std::uint32_t flags) {
     static constexpr std::array<FlagText, 4> symbols = {{{controlflag::control, "⌃"},
