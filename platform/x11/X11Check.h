@@ -5,6 +5,12 @@
 
 #include "platform/Result.h"
 
+class XConnection;
+
 /// Whether the X server of `display` ($DISPLAY if empty) lets this program see and press keys: XInput 2.2,
-/// XTEST and XKB. The error names what is missing.
+/// XKB and XTEST. The error names what is missing.
 Result<void> checkX11Access(const std::string& display = {});
+
+/// The part of it that seeing keys needs. Also announces to the server that this connection speaks XInput 2.2
+/// and XKB, without which it gets no such events.
+Result<void> checkKeyEventAccess(const XConnection& connection);
