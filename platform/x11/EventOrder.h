@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+#include "platform/x11/HotKeyGrabs.h"
+#include "platform/x11/HotKeyTable.h"
+#include "platform/x11/KeyInterpreter.h"
+#include "platform/x11/OwnStrokes.h"
+#include "platform/x11/RawKeySource.h"
+#include "platform/x11/RepeatSource.h"
+
+/// Makes one order of what comes on the three connections, that of the server, and has it interpreted.
+///
+/// The raw events set the order: each has its place in it. A hot key is a raw press that the grabbing
+/// connection got too, a repeat is put before the first raw event that came after it. A round trip on a
+/// connection brings all that the server has already done there, so that nothing is decided too early.
+class EventOrder {
+  public:
+    /// All outlive this; `repeats` may be null.
+    struct Streams {
+        RawKeySource& raw;
+        HotKeyGrabs& grabs;
+        RepeatSource* repeats;
+    };
+    struct Rules {
+        HotKeyTable& hotKeys;
+        OwnStrokes& own;
+        CancelWatch& cancel;
+        KeyboardState& keyboard;
+    };
+    EventOrder(const Streams& streams, const Rules& rules, KeyInterpreter& interpreter,
+               std::function<void()> keymapTouched);
+
+    /// Reads all that has come and interprets it. Leaves nothing in the connections' own queues.
+    void workOff();
+    /// The same with all that the server has done until now.
+    void catchUp();
+
+    void setMuted(bool muted) { m_muted = muted; }
+
+  private:
+    void workOffRawEvents();
+    void workOffRepeats();
+    void workOffLatePresses();
+
+    void handle(const RawKey& key);
+    void handle(const StateChange& change);
+    void handle(const KeymapTouched&);
+    void handle(const KeyboardGone& gone);
+
+    bool takeRepeatPair(const RawKey& release);
+    KeyOrigin originOf(const RawKey& press, bool own);
+    std::optional<GrabbedPress> claim(const RawKey& press);
+    bool comesAgain(const RawKey& press);
+    void handleLate(const GrabbedPress& press);
+    void deliverRepeatsBefore(const RawKey& key);
+    void noteHotKey(HotKeyId id);
+
+    Streams m_streams;
+    Rules m_rules;
+    KeyInterpreter& m_interpreter;
+    std::function<void()> m_keymapTouched;
+    ServerTime m_lastTime = 0;
+    bool m_muted = false;
+};

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "platform/HotKeys.h"
+#include "platform/x11/MaskShaper.h"
+#include "platform/x11/MonitorEvents.h"
+
+/// What is known of a key that is down.
+struct HeldKey {
+    /// The real modifiers that it holds; 0 for ordinary keys.
+    xkb_mod_mask_t modifiers = 0;
+    bool isModifierKey = false;
+    /// What its press was reported as; empty if it was not. Its release and repeats are reported alike.
+    std::optional<std::uint32_t> reportedCode;
+    /// The hot key that its press was, if any, and whether that was reported.
+    std::optional<HotKeyId> hotKey;
+    bool hotKeyReported = false;
+    /// A stroke of the running script that is not to be seen.
+    bool hidden = false;
+    ServerTime pressTime = 0;
+};
+
+/// The keys that are down, those of each keyboard for itself: the server lets a second keyboard press a key
+/// that is down on the first.
+class HeldKeys {
+  public:
+    /// Stands for all keyboards: keys that were down from the beginning.
+    static constexpr std::uint16_t anySource = 0;
+
+    bool isDown(const RawKey& key) const { return m_keys.contains({key.source, key.keycode}); }
+    bool canRelease(const RawKey& key) const {
+        return isDown(key) || m_keys.contains({anySource, key.keycode});
+    }
+
+    HeldKey& press(const RawKey& key) {
+        m_keys.erase({anySource, key.keycode});
+        HeldKey& held = m_keys[{key.source, key.keycode}];
+        held = {};
+        held.pressTime = key.time;
+        return held;
+    }
+
+    /// Takes the key out; empty if it was not down.
+    std::optional<HeldKey> release(const RawKey& key) {
+        auto held = m_keys.find({key.source, key.keycode});
+        if (held == m_keys.end()) held = m_keys.find({anySource, key.keycode});
+        if (held == m_keys.end()) return std::nullopt;
+        const HeldKey result = held->second;
+        m_keys.erase(held);
+        return result;
+    }
+
+    /// The key on whichever keyboard it is down; null if on none.
+    HeldKey* find(std::uint8_t keycode) {
+        for (auto& [place, held] : m_keys) {
+            if (place.second == keycode) return &held;
+        }
+        return nullptr;
+    }
+
+    std::vector<std::uint8_t> keycodesOf(std::uint16_t source) const {
+        std::vector<std::uint8_t> keycodes;
+        for (const auto& [place, held] : m_keys) {
+            if (place.first == source) keycodes.push_back(place.second);
+        }
+        return keycodes;
+    }
+
+    /// The real modifiers held by keys that are not hidden.
+    xkb_mod_mask_t modifiers() const {
+        xkb_mod_mask_t result = 0;
+        for (const auto& [place, held] : m_keys) result |= held.hidden ? 0 : held.modifiers;
+        return result;
+    }
+
+    /// Whether a key that repeats has been down since before `time`.
+    bool mayHaveRepeated(ServerTime time) const {
+        for (const auto& [place, held] : m_keys) {
+            if (!held.isModifierKey && millisecondsAfter(time, held.pressTime) > 0) return true;
+        }
+        return false;
+    }
+
+  private:
+    std::map<std::pair<std::uint16_t, std::uint8_t>, HeldKey> m_keys;
+};

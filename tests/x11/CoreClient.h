@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/x11/XConnection.h"
+
+/// An application as simple as can be: a window that has the focus and gets core key events.
+class CoreClient {
+  public:
+    struct KeyEvent {
+        bool press;
+        std::uint8_t keycode;
+        std::uint16_t state;
+        std::uint32_t time;
+    };
+
+    /// Returns with the focus on its window.
+    explicit CoreClient(const std::string& display);
+
+    /// All key events so far, oldest first. A repeat is a release and a press at one time.
+    const std::vector<KeyEvent>& events();
+    /// How often the key was pressed on its own so far: presses that follow a release of the same time.
+    int repeats(std::uint8_t keycode);
+    int presses(std::uint8_t keycode);
+
+    /// The combination for this client alone; false if somebody has it.
+    bool grabKey(std::uint8_t keycode, std::uint16_t modifiers) const;
+    void grabKeyboard() const;
+    void ungrabKeyboard() const;
+
+    xcb_window_t window() const { return m_window; }
+
+  private:
+    XConnection m_connection;
+    xcb_window_t m_window = 0;
+    std::vector<KeyEvent> m_events;
+};

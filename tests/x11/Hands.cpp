@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "x11/Hands.h"
+
+#include <xcb/xtest.h>
+#include <xkbcommon/xkbcommon-x11.h>
+
+#include <stdexcept>
+#include <vector>
+
+// The C header names a structure member "explicit".
+#define explicit explicit_
+#include <xcb/xkb.h>
+#undef explicit
+
+namespace {
+
+XConnection connect(const std::string& display) {
+    Result<XConnection> connection = XConnection::open(display);
+    if (!connection) throw std::runtime_error(connection.error().message);
+    return std::move(connection).value();
+}
+
+}  // namespace
+
+Hands::Hands(const std::string& display) : m_connection(connect(display)) {
+    if (xkb_x11_setup_xkb_extension(m_connection, XKB_X11_MIN_MAJOR_XKB_VERSION,
+                                    XKB_X11_MIN_MINOR_XKB_VERSION, XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS,
+                                    nullptr, nullptr, nullptr, nullptr) != 1) {
+        throw std::runtime_error("no XKB");
+    }
+}
+
+void Hands::tap(std::uint8_t keycode) const {
+    press(keycode);
+    release(keycode);
+}
+
+void Hands::stroke(std::initializer_list<std::uint8_t> keycodes) const {
+    const std::vector<std::uint8_t> keys(keycodes);
+    for (auto key = keys.begin(); key != keys.end(); ++key) press(*key);
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key) release(*key);
+}
+
+void Hands::finish() const {
+    // The first reply may be written before what the server has for others.
+    m_connection.roundTrip();
+    m_connection.roundTrip();
+}
+
+void Hands::lock(std::uint8_t modifiers, bool on) const {
+    xcb_xkb_latch_lock_state(m_connection, XCB_XKB_ID_USE_CORE_KBD, modifiers, on ? modifiers : 0, 0, 0, 0, 0,
+                             0);
+}
+
+void Hands::lockGroup(std::uint8_t group) const {
+    xcb_xkb_latch_lock_state(m_connection, XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, group, 0, 0, 0);
+}
+
+void Hands::fake(std::uint8_t keycode, bool down) const {
+    xcb_test_fake_input(m_connection, down ? XCB_KEY_PRESS : XCB_KEY_RELEASE, keycode, XCB_CURRENT_TIME,
+                        m_connection.root(), 0, 0, 0);
+}
