@@ -4,8 +4,9 @@
 #include <utility>
 
 namespace {
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): what the scope is there for
 SharedController* installed = nullptr;
-}
+}  // namespace
 
 SharedControllerScope::SharedControllerScope(SharedController& controller)
     : m_previous(std::exchange(installed, &controller)) {}

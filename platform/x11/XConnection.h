@@ -24,6 +24,8 @@ class XConnection {
     static Result<XConnection> open(const std::string& display = {});
 
     xcb_connection_t* get() const { return m_connection.get(); }
+    /// Implicit, because every function of xcb takes it.
+    // NOLINTNEXTLINE(google-explicit-constructor)
     operator xcb_connection_t*() const { return m_connection.get(); }
     xcb_window_t root() const { return m_root; }
     int fileDescriptor() const { return xcb_get_file_descriptor(m_connection.get()); }

@@ -98,7 +98,7 @@ std::string leaf(const script::Tree& tree, const Node& node) {
 
 std::string printedNode(const script::Tree& tree, NodeId id) {
     const Node& node = tree.at(id);
-    if (const std::string text = leaf(tree, node); !text.empty()) return text;
+    if (std::string text = leaf(tree, node); !text.empty()) return text;
     std::string out = "(";
     out += node.kind == NodeKind::binary ? operatorName(node.detail) : formName(node.kind);
     for (NodeId child = node.firstChild; child != script::noNode; child = tree.at(child).nextSibling) {
