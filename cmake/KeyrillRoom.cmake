@@ -13,7 +13,9 @@ endif()
 # Compile options that all targets of the project share.
 function(keyrill_compile_options target)
     target_compile_features(${target} PUBLIC cxx_std_20)
-    target_compile_options(${target} PRIVATE ${KEYRILL_WARNINGS} $<$<BOOL:${KEYRILL_WERROR}>:-Werror>)
+    # xcb's header of XKB has a member called "explicit", which its users rename by a macro.
+    target_compile_options(${target} PRIVATE ${KEYRILL_WARNINGS} $<$<BOOL:${KEYRILL_WERROR}>:-Werror>
+                                             $<$<CXX_COMPILER_ID:Clang>:-Wno-keyword-macro>)
     if(KEYRILL_SANITIZE)
         target_compile_options(${target} PRIVATE -fsanitize=${KEYRILL_SANITIZE} -fno-omit-frame-pointer
                                                  -fno-sanitize-recover=all)

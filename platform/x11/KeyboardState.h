@@ -45,8 +45,8 @@ class KeyboardState {
   private:
     /// A change that was foreseen and that the server has not confirmed yet.
     struct Foreseen {
-        std::uint8_t keycode;
-        bool press;
+        std::uint8_t keycode = 0;
+        bool press = false;
         XkbComponents components;
     };
 

@@ -37,7 +37,7 @@ void Hands::tap(std::uint8_t keycode) const {
 
 void Hands::stroke(std::initializer_list<std::uint8_t> keycodes) const {
     const std::vector<std::uint8_t> keys(keycodes);
-    for (auto key = keys.begin(); key != keys.end(); ++key) press(*key);
+    for (const std::uint8_t key : keys) press(key);
     for (auto key = keys.rbegin(); key != keys.rend(); ++key) release(*key);
 }
 
