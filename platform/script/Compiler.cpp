@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/Compiler.h"
+
+#include <optional>
+#include <utility>
+
+#include "platform/script/CodeGenerator.h"
+#include "platform/script/Encoding.h"
+#include "platform/script/Parser.h"
+
+namespace script {
+namespace {
+
+std::optional<ScriptError> unreadable(const std::string& source) {
+    if (source.size() > maxSourceSize) {
+        return ScriptError{errornumber::syntax, "Expected at most 16 MiB of script but found more.", {}};
+    }
+    const std::optional<std::size_t> invalid = invalidUtf8(source);
+    if (!invalid) return std::nullopt;
+    return ScriptError{errornumber::syntax, "Expected text in UTF-8 but found another byte.",
+                       locate(source, *invalid)};
+}
+
+}  // namespace
+
+std::variant<Program, ScriptError> compile(std::string source) {
+    if (std::optional<ScriptError> error = unreadable(source)) return *std::move(error);
+    Parser parser(source);
+    const Tree& tree = parser.parse();
+    if (parser.error()) return *parser.error();
+    Program program = CodeGenerator(tree, source).generate();
+    program.source = std::move(source);
+    return program;
+}
+
+}  // namespace script

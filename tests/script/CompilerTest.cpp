@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/Compiler.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+script::ScriptError errorOf(std::string source) {
+    const auto compiled = script::compile(std::move(source));
+    const auto* error = std::get_if<script::ScriptError>(&compiled);
+    return error == nullptr ? script::ScriptError{} : *error;
+}
+
+TEST(CompilerTest, sourcesAreBounded) {
+    EXPECT_EQ(errorOf(std::string(script::maxSourceSize, '\n')), script::ScriptError{});
+    EXPECT_EQ(errorOf(std::string(script::maxSourceSize + 1, '\n')),
+              (script::ScriptError{-2741, "Expected at most 16 MiB of script but found more.", {1, 1}}));
+}
+
+TEST(CompilerTest, bytesThatAreNoTextAreAnError) {
+    EXPECT_EQ(errorOf("delay 1\n\"a\xFF\""),
+              (script::ScriptError{-2741, "Expected text in UTF-8 but found another byte.", {2, 3}}));
+}
+
+TEST(CompilerTest, aProgramIsOnItsOwn) {
+    std::string source = "tell app \"System Events\"\nkeystroke \"é\" & \"b\\n\"\nkey down \"w\"\nend";
+    auto compiled = script::compile(source);
+    source.assign(source.size(), 'x');
+    const auto program = std::get<script::Program>(std::move(compiled));
+    EXPECT_EQ(program.typedTexts, (std::vector<std::string>{"é", "b\n", "w"}));
+}
+
+}  // namespace

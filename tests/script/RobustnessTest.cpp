@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+//
+// Scripts that somebody else may have written, cut off and damaged: each compiles or is refused, at once.
+#include <gtest/gtest.h>
+
+#include "Traced.h"
+#include "platform/script/Compiler.h"
+
+namespace {
+
+const std::string sample =
+    "-- a macro\n(* with (* all *) *)\ntell the application \"System Events\"\n\tkey code (36) using {}\n"
+    "delay 0.01\n\tkey code {1, 2.5e0} ¬\n\tusing {command down, shift}\n"
+    "\tkeystroke \"h\\\"é\" & return & 3 div 2\n\trepeat 2 times\n\t\tkey down {\"w\", 49}\n\t\texit repeat\n"
+    "\tend repeat\n\ttell process |a b| to delay -1 + 2 * (3 ^ 2)\nend tell\n";
+
+/// Compiles or is refused with a message and a place within the source.
+void expectAnAnswer(const std::string& source) {
+    const auto compiled = script::compile(source);
+    const auto* error = std::get_if<script::ScriptError>(&compiled);
+    if (error == nullptr) return;
+    EXPECT_NE(error->number, 0) << source;
+    EXPECT_FALSE(error->message.empty()) << source;
+    EXPECT_GE(error->location.line, 1U);
+}
+
+TEST(RobustnessTest, theSampleItselfCompiles) {
+    const auto compiled = script::compile(sample);
+    const auto* error = std::get_if<script::ScriptError>(&compiled);
+    EXPECT_EQ(error, nullptr) << (error == nullptr ? "" : error->message);
+}
+
+TEST(RobustnessTest, everyBeginningOfAScriptGetsAnAnswer) {
+    for (std::size_t length = 0; length < sample.size(); ++length) expectAnAnswer(sample.substr(0, length));
+}
+
+TEST(RobustnessTest, everyEndOfAScriptGetsAnAnswer) {
+    for (std::size_t start = 0; start < sample.size(); ++start) expectAnAnswer(sample.substr(start));
+}
+
+TEST(RobustnessTest, everyDamagedByteGetsAnAnswer) {
+    for (std::size_t position = 0; position < sample.size(); ++position) {
+        for (const char replacement : std::string("\0\n\"\\|(){}*-.e9a¬\xFF", 18)) {
+            std::string damaged = sample;
+            damaged[position] = replacement;
+            expectAnAnswer(damaged);
+        }
+    }
+}
+
+TEST(RobustnessTest, everyMissingByteGetsAnAnswer) {
+    for (std::size_t position = 0; position < sample.size(); ++position) {
+        expectAnAnswer(sample.substr(0, position) + sample.substr(position + 1));
+    }
+}
+
+}  // namespace

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "Traced.h"
+
+#include <sstream>
+#include <variant>
+
+#include "platform/script/Compiler.h"
+#include "platform/script/Machine.h"
+#include "platform/script/TraceInjector.h"
+
+namespace {
+
+std::string printed(const script::ScriptWarning& warning) {
+    return std::to_string(warning.location.line) + ":" + std::to_string(warning.location.column) + " " +
+           warning.message;
+}
+
+}  // namespace
+
+Traced traced(const std::string& source) {
+    Traced result;
+    const auto compiled = script::compile(source);
+    if (const auto* error = std::get_if<script::ScriptError>(&compiled)) {
+        result.phase = Traced::Phase::compile;
+        result.error = *error;
+        return result;
+    }
+    const auto& program = std::get<script::Program>(compiled);
+    for (const auto& warning : program.warnings) result.warnings.push_back(printed(warning));
+    std::ostringstream events;
+    script::TraceInjector injector(events);
+    script::Machine machine(program, injector);
+    machine.onWarning([&](const auto& warning) { result.warnings.push_back(printed(warning)); });
+    const script::RunResult run = machine.run();
+    result.events = events.str();
+    if (run.error) {
+        result.phase = Traced::Phase::run;
+        result.error = *run.error;
+    }
+    return result;
+}
+
+std::string told(const std::string& lines) {
+    const Traced result = traced("tell application \"System Events\"\n" + lines + "\nend tell\n");
+    if (result.phase == Traced::Phase::none) return result.events;
+    return result.events + std::to_string(result.error.number) + " " + result.error.message;
+}
