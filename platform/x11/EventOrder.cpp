@@ -65,6 +65,7 @@ void EventOrder::handle(const RawKey& key) {
     m_lastTime = key.time;
     const bool own = m_rules.own.take(key);
     if (!key.press && takeRepeatPair(key)) return m_interpreter.repeat(key.keycode);
+    if (!key.press && m_interpreter.held().isHotKey(key.keycode)) m_hotKeyReleases[key.keycode] = key.time;
     const KeyOrigin origin = key.press ? originOf(key, own) : KeyOrigin{.own = own};
     if (!origin.hotKey && !m_interpreter.matters(key)) return;
     deliverRepeatsBefore(key);
@@ -140,8 +141,14 @@ bool EventOrder::comesAgain(const RawKey& press) {
 
 void EventOrder::handleLate(const GrabbedPress& press) {
     const std::optional<HotKeyId> id = m_rules.hotKeys.find(press.keycode, press.modifiers);
-    if (!id) return;
+    if (!id || isRepeat(press)) return;
     m_interpreter.lateHotKey(*id, press.keycode, press.time);
+}
+
+bool EventOrder::isRepeat(const GrabbedPress& press) const {
+    if (m_interpreter.held().isHotKey(press.keycode)) return true;
+    const auto released = m_hotKeyReleases.find(press.keycode);
+    return released != m_hotKeyReleases.end() && millisecondsAfter(press.time, released->second) <= 0;
 }
 
 void EventOrder::deliverRepeatsBefore(const RawKey& key) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 
 #include "platform/x11/HotKeyGrabs.h"
 #include "platform/x11/HotKeyTable.h"
@@ -56,11 +57,14 @@ class EventOrder {
     void handleLate(const GrabbedPress& press);
     void deliverRepeatsBefore(const RawKey& key);
     void noteHotKey(HotKeyId id);
+    bool isRepeat(const GrabbedPress& press) const;
 
     Streams m_streams;
     Rules m_rules;
     KeyInterpreter& m_interpreter;
     std::function<void()> m_keymapTouched;
     ServerTime m_lastTime = 0;
+    /// When each key that was a hot key was released last; presses before are its repeats.
+    std::map<std::uint8_t, ServerTime> m_hotKeyReleases;
     bool m_muted = false;
 };

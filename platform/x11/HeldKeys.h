@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -62,6 +63,12 @@ class HeldKeys {
             if (place.second == keycode) return &held;
         }
         return nullptr;
+    }
+
+    bool isHotKey(std::uint8_t keycode) const {
+        return std::any_of(m_keys.begin(), m_keys.end(), [keycode](const auto& entry) {
+            return entry.first.second == keycode && entry.second.hotKey;
+        });
     }
 
     std::vector<std::uint8_t> keycodesOf(std::uint16_t source) const {

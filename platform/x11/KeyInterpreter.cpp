@@ -77,8 +77,7 @@ void KeyInterpreter::repeat(std::uint8_t keycode) {
 
 void KeyInterpreter::lateHotKey(HotKeyId id, std::uint8_t keycode, ServerTime time) {
     HeldKey* held = m_held.find(keycode);
-    // Presses of a key that is down are its repeats.
-    if (m_muted || (held != nullptr && held->hotKey)) return;
+    if (m_muted) return;
     m_deliveries.emplace_back(HotKeyEvent{id, true, time});
     if (held == nullptr) {
         m_deliveries.emplace_back(HotKeyEvent{id, false, time});

@@ -51,12 +51,14 @@ class Shaper {
           m_typed(symbol(modifiers & ~commandMask())) {}
 
     TypedKey result(bool modifierHeld) const {
-        const bool digit = keycode::isKeypadDigit(m_baseCode);
+        const bool keypad = keycode::isKeypadDigit(m_baseCode);
+        const bool digit = keypad && typesTheSame(symbol(unlocked() | m_masks.numLock), m_typed);
         const std::optional<bool> shift = shiftThatTypesTheSame(digit ? m_masks.numLock : 0);
-        TypedKey key{.keyCode = choosers() | (digit && !shift ? navigationCode() : m_baseCode),
+        TypedKey key{.keyCode = choosers() | (keypad && !digit ? navigationCode() : m_baseCode),
                      .character = asciiOf(m_typed),
                      .modifiers = m_keymap.reported(m_modifiers & commandMask())};
-        key.modifiers |= shiftBits(shift.value_or(shiftHeld()), key.character);
+        const bool typedByBase = !keypad || digit;
+        key.modifiers |= shiftBits(typedByBase ? shift.value_or(shiftHeld()) : shiftHeld(), key.character);
         if (key.modifiers == 0 && modifierHeld) key.modifiers = modifier::capsLock;
         return key;
     }
@@ -73,9 +75,13 @@ class Shaper {
         return m_keymap.symbol(m_keycode, modifiers, m_layout);
     }
 
+    /// The level choosers that are in force.
+    xkb_mod_mask_t unlocked() const {
+        return m_modifiers & ~(commandMask() | m_masks.locks() | m_masks.shift);
+    }
+
     bool types(bool shift, xkb_mod_mask_t locks) const {
-        const xkb_mod_mask_t unlocked = m_modifiers & ~(commandMask() | m_masks.locks() | m_masks.shift);
-        return typesTheSame(symbol(unlocked | locks | (shift ? m_masks.shift : 0)), m_typed);
+        return typesTheSame(symbol(unlocked() | locks | (shift ? m_masks.shift : 0)), m_typed);
     }
 
     std::optional<bool> shiftThatTypesTheSame(xkb_mod_mask_t locks) const {
