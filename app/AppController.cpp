@@ -183,6 +183,10 @@ void AppController::runMacro(QObject* sender) {
     AppleScript::runAppleScript(script);
 }
 
+QWidget* AppController::overlayWindow() const { return m_recorderWindow.get(); }
+
+QWidget* AppController::promptWindow() const { return m_multiplePlayWindow.get(); }
+
 void AppController::fadeInPanel(QWidget* window, double alpha) { fadeIn(*window, alpha); }
 
 void AppController::fadeOutPanel(QWidget* window) { fadeOut(*window); }

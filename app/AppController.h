@@ -73,9 +73,9 @@ class AppController : public QObject, public SharedController {
     StatusItem& statusItem;
     StatusMenu statusMenu;
 
-    /// Null until first shown.
-    const std::unique_ptr<RecorderWindow>& recorderWindow() const { return m_recorderWindow; }
-    const std::unique_ptr<MultiplePlayWindow>& multiplePlayWindow() const { return m_multiplePlayWindow; }
+    /// The windows as such; null until first shown.
+    QWidget* overlayWindow() const;
+    QWidget* promptWindow() const;
 
   private:
     void connectMenu();

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include <QPropertyAnimation>
+
+#include "app/AppTest.h"
+#include "app/MacroMenuItem.h"
+#include "engine/MacroPlayer.h"
+#include "platform/Modifiers.h"
+
+namespace {
+
+constexpr std::uint32_t returnKey = 36;
+constexpr std::uint32_t escapeKey = 53;
+
+class AppControllerTest : public AppTest {
+  protected:
+    void recordKey(std::uint32_t keyCode) {
+        controller.recordMacro(nullptr);
+        type(keyCode);
+        controller.stopMacro(nullptr);
+    }
+
+    QList<QAction*> history() const { return controller.statusMenu.historyMenu->actions(); }
+};
+
+TEST_F(AppControllerTest, startsWithTheBusyImageAndOnlyRecordToChoose) {
+    controller.awakeFromNib();
+    EXPECT_EQ(statusItem.shownMenu, &controller.statusMenu);
+    EXPECT_EQ(statusItem.shownImage, StatusImage::busy);
+    EXPECT_EQ(menu(), "Start Recording, -, [History], -, Quit");
+}
+
+TEST_F(AppControllerTest, showsTheNormalImageAfterTheSplash) {
+    controller.awakeFromNib();
+    controller.runSplash();
+    EXPECT_EQ(statusItem.shownImage, StatusImage::normal);
+}
+
+TEST_F(AppControllerTest, registersTheHotKeysOfTheSettings) {
+    platform().settings.put("playCode", 35);
+    platform().settings.put("playFlags", controlflag::control | controlflag::command);
+    controller.awakeFromNib();
+    const std::map<HotKeyId, std::pair<std::uint32_t, std::uint32_t>> expected = {
+        {3, {35, modifier::control | modifier::command}}};
+    EXPECT_EQ(platform().hotKeys.registered(), expected);
+}
+
+TEST_F(AppControllerTest, showsWhichHotKeyIsRefusedAndWhy) {
+    platform().hotKeys.otherProgramHolds(35, modifier::control);
+    platform().settings.put("playCode", 35);
+    platform().settings.put("playFlags", controlflag::control);
+    controller.awakeFromNib();
+    EXPECT_EQ(statusItem.shownNotice, platform().hotKeys.state(3).error->message);
+}
+
+TEST_F(AppControllerTest, showsStopAndSavePauseWhileRecording) {
+    controller.recordMacro(nullptr);
+    EXPECT_EQ(menu(), "Stop Recording, Save Pause, -, [History], -, Quit");
+}
+
+TEST_F(AppControllerTest, offersPlayingWhenAMacroWasRecorded) {
+    recordKey(returnKey);
+    EXPECT_EQ(menu(), "Start Recording, Play, Play Multiple Times..., -, History, -, Quit");
+}
+
+TEST_F(AppControllerTest, greysPlayingAfterAnEmptyRecording) {
+    controller.recordMacro(nullptr);
+    controller.stopMacro(nullptr);
+    EXPECT_EQ(menu(), "Start Recording, [Play], [Play Multiple Times...], -, [History], -, Quit");
+}
+
+TEST_F(AppControllerTest, filesTheNewestMacroOnTop) {
+    recordKey(returnKey);
+    recordKey(escapeKey);
+    ASSERT_EQ(history().size(), 2);
+    EXPECT_EQ(history().at(0)->text().toStdString(), MacroManager::macro(2)->displayText());
+    EXPECT_EQ(history().at(1)->text().toStdString(), MacroManager::macro(1)->displayText());
+}
+
+TEST_F(AppControllerTest, playsAnOlderMacroFromTheHistoryAndMakesItTheCurrentOne) {
+    recordKey(returnKey);
+    recordKey(escapeKey);
+    history().at(1)->trigger();
+    EXPECT_EQ(state().currentMacro, MacroManager::macro(1));
+    EXPECT_EQ(runs(), std::vector<std::string>{MacroManager::macro(1)->script()});
+    EXPECT_EQ(windows.calls, std::vector<std::string>{"await"});
+}
+
+TEST_F(AppControllerTest, runsNothingForASenderThatIsNoMacroMenuItem) {
+    recordKey(returnKey);
+    controller.runMacro(controller.statusMenu.playMenuItem);
+    EXPECT_TRUE(runs().empty());
+}
+
+TEST_F(AppControllerTest, playsFromTheMenuOnceTheFocusIsBack) {
+    recordKey(returnKey);
+    controller.playMacro(nullptr);
+    EXPECT_EQ(windows.calls, std::vector<std::string>{"await"});
+    EXPECT_EQ(runs().size(), 1U);
+}
+
+TEST_F(AppControllerTest, savesThePauseSinceTheRecordingStarted) {
+    controller.recordMacro(nullptr);
+    platform().clock.advance(Clock::Seconds(1.5));
+    controller.statusMenu.saveDelayMenuItem->trigger();
+    controller.stopMacro(nullptr);
+    EXPECT_NE(state().currentMacro->script().find("delay 1.5\n"), std::string::npos)
+        << state().currentMacro->script();
+}
+
+TEST_F(AppControllerTest, refreshesTheScriptingServiceWithAnEmptyScript) {
+    controller.refreshAppleScript();
+    EXPECT_EQ(runs(), std::vector<std::string>{""});
+}
+
+TEST_F(AppControllerTest, opensThePromptWithThePermissionOfTheHotKey) {
+    controller.showMultiplePlayGui();
+    EXPECT_TRUE(controller.promptWindow()->isVisible());
+    EXPECT_EQ(windows.calls,
+              std::vector<std::string>{"activate " + std::to_string(platform().hotKeys.lastPressTime())});
+}
+
+TEST_F(AppControllerTest, fadesInFromNothing) {
+    QWidget window;
+    window.setWindowOpacity(1);
+    controller.fadeInPanel(&window, 0.9);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.windowOpacity(), 0);
+    auto* fade = window.findChild<QPropertyAnimation*>();
+    ASSERT_NE(fade, nullptr);
+    EXPECT_EQ(fade->duration(), 350);
+    EXPECT_EQ(fade->endValue().toDouble(), 0.9);
+}
+
+TEST_F(AppControllerTest, hidesAtOnceWhenFadingOut) {
+    QWidget window;
+    controller.fadeInPanel(&window, 0.9);
+    controller.fadeOutPanel(&window);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(AppControllerTest, hidesTheStandInWindowAndBringsItBack) {
+    QWidget standIn;
+    standIn.show();
+    statusItem.standIn = &standIn;
+    controller.hide();
+    EXPECT_FALSE(standIn.isVisible());
+    controller.unhide();
+    EXPECT_TRUE(standIn.isVisible());
+}
+
+TEST_F(AppControllerTest, leavesAHiddenStandInWindowHidden) {
+    QWidget standIn;
+    statusItem.standIn = &standIn;
+    controller.hide();
+    controller.unhide();
+    EXPECT_FALSE(standIn.isVisible());
+}
+
+}  // namespace
