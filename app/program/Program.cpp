@@ -5,14 +5,26 @@
 
 #include "app/program/X11Backends.h"
 #include "platform/x11/X11DockingTray.h"
+#include "platform/x11/X11EventManager.h"
+#include "platform/x11/X11KeyInjector.h"
+
+namespace {
+
+// A run does not return to the event loop before its end, so a signal has to end it first.
+void interruptRun(void* injector) { static_cast<X11KeyInjector*>(injector)->interrupt(); }
+
+}  // namespace
 
 Program::Program(X11Backends& backends)
     : m_statusItem(backends.dockingTray()),
       m_controller(backends.services(), backends.windows(), m_statusItem),
-      m_signals([](void*) {}, nullptr),
+      m_signals(interruptRun, &backends.keyInjector()),
+      m_eventsReadable(backends.eventManager().fileDescriptor(), QSocketNotifier::Read),
       m_trayReadable(backends.dockingTray().fileDescriptor(), QSocketNotifier::Read) {
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_signals, &TerminationSignals::received, &m_controller, &AppController::kill);
+    QObject::connect(&m_eventsReadable, &QSocketNotifier::activated,
+                     [&manager = backends.eventManager()] { manager.dispatch(); });
     QObject::connect(&m_trayReadable, &QSocketNotifier::activated,
                      [&tray = backends.dockingTray()] { tray.dispatch(); });
     QTimer::singleShot(0, &m_controller, &AppController::awakeFromNib);

@@ -23,5 +23,6 @@ class Program {
     TrayStatusItem m_statusItem;
     AppController m_controller;
     TerminationSignals m_signals;
+    QSocketNotifier m_eventsReadable;
     QSocketNotifier m_trayReadable;
 };

@@ -7,35 +7,53 @@
 #include "platform/fake/FakePlatform.h"
 #include "platform/linux/KeyFileSettings.h"
 #include "platform/linux/SteadyClock.h"
+#include "platform/x11/X11Check.h"
 #include "platform/x11/X11DockingTray.h"
+#include "platform/x11/X11EventManager.h"
+#include "platform/x11/X11KeyInjector.h"
+#include "platform/x11/X11KeyboardLayout.h"
 #include "platform/x11/X11Windows.h"
 
 struct X11Backends::Parts {
-    Parts(XConnection trayConnection, XConnection windowConnection)
-        : windows(std::move(windowConnection), clock), dockingTray(std::move(trayConnection)) {}
+    Parts(std::unique_ptr<SteadyClock> steadyClock, std::unique_ptr<X11EventManager> manager,
+          XConnection trayConnection, XConnection windowConnection)
+        : clock(std::move(steadyClock)),
+          eventManager(std::move(manager)),
+          windows(std::move(windowConnection), *clock),
+          dockingTray(std::move(trayConnection)) {}
 
-    SteadyClock clock;
-    FakePlatform fake;
+    std::unique_ptr<SteadyClock> clock;
     KeyFileSettings settings{configFoldersOfProcess()};
+    std::unique_ptr<X11EventManager> eventManager;
+    X11KeyboardLayout keyboardLayout{*eventManager};
+    X11KeyInjector keyInjector{eventManager->runWatch(), *clock};
+    FakePlatform fake;
     X11Windows windows;
     X11DockingTray dockingTray;
-    Services services{.clock = clock,
-                      .eventMonitor = fake.eventMonitor,
-                      .hotKeys = fake.hotKeys,
-                      .keyboardLayout = fake.keyboardLayout,
-                      .keyInjector = fake.keyInjector,
+    Services services{.clock = *clock,
+                      .eventMonitor = *eventManager,
+                      .hotKeys = *eventManager,
+                      .keyboardLayout = keyboardLayout,
+                      .keyInjector = keyInjector,
                       .scripting = fake.scripting,
                       .settings = settings};
     ServicesScope scope{services};
 };
 
 Result<std::unique_ptr<X11Backends>> X11Backends::open() {
-    Result<XConnection> trayConnection = XConnection::open();
+    const auto access = checkX11Access();
+    if (!access) return access.error();
+    auto clock = std::make_unique<SteadyClock>();
+    auto manager = X11EventManager::open(*clock);
+    if (!manager) return manager.error();
+    auto trayConnection = XConnection::open();
     if (!trayConnection) return trayConnection.error();
-    Result<XConnection> windowConnection = XConnection::open();
+    auto windowConnection = XConnection::open();
     if (!windowConnection) return windowConnection.error();
-    return std::unique_ptr<X11Backends>(new X11Backends(
-        std::make_unique<Parts>(std::move(trayConnection).value(), std::move(windowConnection).value())));
+    auto parts =
+        std::make_unique<Parts>(std::move(clock), std::move(manager).value(),
+                                std::move(trayConnection).value(), std::move(windowConnection).value());
+    return std::unique_ptr<X11Backends>(new X11Backends(std::move(parts)));
 }
 
 X11Backends::X11Backends(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
@@ -43,4 +61,6 @@ X11Backends::~X11Backends() = default;
 
 Services& X11Backends::services() { return m_parts->services; }
 Windows& X11Backends::windows() { return m_parts->windows; }
+X11EventManager& X11Backends::eventManager() { return *m_parts->eventManager; }
 X11DockingTray& X11Backends::dockingTray() { return m_parts->dockingTray; }
+X11KeyInjector& X11Backends::keyInjector() { return m_parts->keyInjector; }

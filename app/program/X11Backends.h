@@ -5,7 +5,6 @@
 
 #include "platform/Result.h"
 
-class DockingTray;
 class Windows;
 class X11DockingTray;
 class X11EventManager;
