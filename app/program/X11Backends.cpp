@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "platform/Services.h"
-#include "platform/fake/FakePlatform.h"
 #include "platform/linux/KeyFileSettings.h"
 #include "platform/linux/SteadyClock.h"
+#include "platform/script/ScriptRunner.h"
 #include "platform/x11/X11Check.h"
 #include "platform/x11/X11DockingTray.h"
 #include "platform/x11/X11EventManager.h"
@@ -27,7 +27,7 @@ struct X11Backends::Parts {
     std::unique_ptr<X11EventManager> eventManager;
     X11KeyboardLayout keyboardLayout{*eventManager};
     X11KeyInjector keyInjector{eventManager->runWatch(), *clock};
-    FakePlatform fake;
+    script::ScriptRunner scripting{keyInjector};
     X11Windows windows;
     X11DockingTray dockingTray;
     Services services{.clock = *clock,
@@ -35,7 +35,7 @@ struct X11Backends::Parts {
                       .hotKeys = *eventManager,
                       .keyboardLayout = keyboardLayout,
                       .keyInjector = keyInjector,
-                      .scripting = fake.scripting,
+                      .scripting = scripting,
                       .settings = settings};
     ServicesScope scope{services};
 };
