@@ -2,28 +2,34 @@
 #include "app/AppTest.h"
 
 #include <QApplication>
+#include <array>
+#include <memory>
 
 #include "engine/KeyRecorder.h"
 
 namespace {
 
-/// Widgets need one before them; it lasts until the process ends.
-void makeApplication() {
-    static int argc = 1;
-    static char name[] = "app_test";
-    static char* argv[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static const QApplication application(argc, argv);
-}
+/// Widgets need an application before them, and it has to end before the process does.
+class WithApplication : public testing::Environment {
+  public:
+    void SetUp() override {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        m_application = std::make_unique<QApplication>(m_argc, m_argv.data());
+    }
+    void TearDown() override { m_application.reset(); }
 
-FakePlatform& afterApplication(FakePlatform& platform) {
-    makeApplication();
-    return platform;
-}
+  private:
+    std::string m_name = "app_test";
+    int m_argc = 1;
+    std::array<char*, 2> m_argv{m_name.data(), nullptr};
+    std::unique_ptr<QApplication> m_application;
+};
+
+const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new WithApplication);
 
 }  // namespace
 
-AppTest::AppTest() : controller(afterApplication(platform()).services, windows, statusItem) {}
+AppTest::AppTest() : controller(platform().services, windows, statusItem) {}
 
 std::string AppTest::menu() const {
     QStringList titles;
