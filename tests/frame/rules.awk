@@ -19,6 +19,9 @@ BEGIN {
     room("prefs/", "^(prefs|core|platform)/[A-Za-z]+\\.h$", standard "|^boost/", "")
     room("engine/", "^(engine|prefs|core|platform)/[A-Za-z]+\\.h$", standard "|^boost/", "")
     room("app/", "^app/|^(engine|prefs|core|platform)/[A-Za-z]+\\.h$", "", "^(xcb/|X11/|xkbcommon/|wayland)")
+    # A program of its own, without a toolkit.
+    room("app/script/", "^app/script/|^platform/((script|linux|x11)/)?[A-Za-z0-9]+\\.h$", "",
+         "^(Q|boost/|xcb/|X11/|xkbcommon/|wayland)")
     # The one place that chooses backends and joins everything; programs are made of it.
     room("app/program/", "^(app|engine|prefs|core|platform)/", "", "^(xcb/|X11/|xkbcommon/|wayland)")
 

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "app/script/Playback.h"
+
+#include <signal.h>
+
+#include <array>
+#include <utility>
+
+#include "platform/linux/SteadyClock.h"
+#include "platform/x11/X11EventManager.h"
+#include "platform/x11/X11KeyInjector.h"
+
+namespace {
+
+constexpr std::array<int, 3> signalNumbers{SIGINT, SIGTERM, SIGHUP};
+
+// A signal handler sees nothing but globals.
+X11KeyInjector* interrupted = nullptr;
+volatile sig_atomic_t received = 0;
+
+void handleSignal(int number) {
+    received = number;
+    if (interrupted != nullptr) interrupted->interrupt();
+}
+
+void setHandlers(void (*handler)(int)) {
+    struct sigaction action {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    for (const int number : signalNumbers) sigaction(number, &action, nullptr);
+}
+
+class X11Playback final : public Playback {
+  public:
+    X11Playback(std::unique_ptr<SteadyClock> clock, std::unique_ptr<X11EventManager> events)
+        : m_clock(std::move(clock)), m_events(std::move(events)), m_injector(m_events->runWatch(), *m_clock) {
+        interrupted = &m_injector;
+        setHandlers(handleSignal);
+    }
+    /// A signal that comes this late is let through: nothing is held any more.
+    ~X11Playback() override {
+        setHandlers(SIG_DFL);
+        interrupted = nullptr;
+    }
+    X11Playback(const X11Playback&) = delete;
+    X11Playback& operator=(const X11Playback&) = delete;
+
+    KeyInjector& injector() override { return m_injector; }
+    int signalNumber() const override { return received; }
+
+  private:
+    std::unique_ptr<SteadyClock> m_clock;
+    std::unique_ptr<X11EventManager> m_events;
+    X11KeyInjector m_injector;
+};
+
+}  // namespace
+
+Result<std::unique_ptr<Playback>> Playback::make() {
+    auto clock = std::make_unique<SteadyClock>();
+    Result<std::unique_ptr<X11EventManager>> events = X11EventManager::open(*clock);
+    if (!events) return events.error();
+    return std::unique_ptr<Playback>(
+        std::make_unique<X11Playback>(std::move(clock), std::move(events).value()));
+}

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+//
+// The program keyrill-script as its users see it.
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "support/Child.h"
+
+namespace {
+
+struct Outcome {
+    int status = -1;
+    std::string output;
+    std::string errors;
+};
+
+class ToolTest : public testing::Test {
+  protected:
+    /// Runs the program in the folder that holds "script", with standard input from a file of this name.
+    Outcome run(const std::string& arguments, const std::string& input = "/dev/null") {
+        const std::string command = "cd " + m_folder.path() +
+                                    " && exec env -u DISPLAY " KEYRILL_SCRIPT_TOOL " " + arguments + " <" +
+                                    input + " >out 2>err";
+        Child child({"sh", "-c", command});
+        const int status = child.wait();
+        return {status, contentOf(m_folder.file("out")), contentOf(m_folder.file("err"))};
+    }
+
+    void write(const std::string& content) {
+        std::ofstream(m_folder.file("script"), std::ios::binary) << content;
+    }
+
+    TemporaryFolder m_folder;
+};
+
+constexpr const char* usage = "Usage: keyrill-script check FILE";
+
+TEST_F(ToolTest, checkSaysNothingOfAGoodScript) {
+    write("tell application \"System Events\" to keystroke \"a\"\n");
+    const Outcome outcome = run("check script");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, "");
+}
+
+TEST_F(ToolTest, checkNamesPlaceMessageAndNumberOfASyntaxError) {
+    write("tell application \"System Events\"\n\tkey code 1\n");
+    const Outcome outcome = run("check script");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "script:3:1: syntax error: Expected “end” but found end of script. (-2741)\n");
+}
+
+TEST_F(ToolTest, checkWarnsOfExtensionCodes) {
+    write("tell application \"System Events\"\n\tkey code {36, 4279}\nend tell\n");
+    const Outcome outcome = run("check script");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.errors,
+              "script:2:16: warning: Key code 4279 is an extension, which only Keyrill plays.\n");
+}
+
+TEST_F(ToolTest, tracePrintsWhatWouldBeDone) {
+    write(
+        "tell application \"System Events\"\n\tkey code 36 using {shift down, command down}\n"
+        "\tkeystroke \"hello\"\n\tdelay 0.5\n\tkey down shift\n\tkey up shift\nend tell\n");
+    const Outcome outcome = run("trace script");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output,
+              "[\"key\",36,[\"command\",\"shift\"]]\n[\"text\",\"hello\",[]]\n[\"delay\",0.5]\n"
+              "[\"keydown\",\"shift\",[]]\n[\"keyup\",\"shift\",[]]\n");
+    EXPECT_EQ(outcome.errors, "");
+}
+
+TEST_F(ToolTest, traceEndsAtAnExecutionError) {
+    write("tell application \"System Events\"\n\tkey code 1\n\tdelay \"abc\"\n\tkey code 2\nend tell\n");
+    const Outcome outcome = run("trace script");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "[\"key\",1,[]]\n");
+    EXPECT_EQ(outcome.errors, "script:3:2: execution error: Can’t make \"abc\" into type number. (-1700)\n");
+}
+
+TEST_F(ToolTest, traceWaitsForNoPause) {
+    write("delay 3600\n");
+    EXPECT_EQ(run("trace script").output, "[\"delay\",3600]\n");
+}
+
+TEST_F(ToolTest, readsStandardInput) {
+    write("delay +");
+    EXPECT_EQ(run("check -", "script").errors,
+              "-:1:8: syntax error: Expected expression but found end of script. (-2741)\n");
+}
+
+TEST_F(ToolTest, readsFilesOfOlderEditors) {
+    write("tell application \"System Events\" to \xC2\rkeystroke \"\x8E\"\r");
+    EXPECT_EQ(run("trace script").output, "[\"text\",\"é\",[]]\n");
+}
+
+TEST_F(ToolTest, aFileThatCannotBeReadIsAnError) {
+    const Outcome missing = run("check missing");
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_EQ(missing.errors, "keyrill-script: missing: No such file or directory\n");
+    EXPECT_EQ(run("trace .").errors, "keyrill-script: .: Is a directory\n");
+}
+
+TEST_F(ToolTest, runNeedsADisplayAndSaysSoInOneLine) {
+    write("tell application \"System Events\" to keystroke \"a\"\n");
+    const Outcome outcome = run("run script");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors.rfind("keyrill-script: ", 0), 0U) << outcome.errors;
+    EXPECT_EQ(outcome.errors.find('\n'), outcome.errors.size() - 1) << outcome.errors;
+}
+
+TEST_F(ToolTest, anUnknownCommandShowsTheUsage) {
+    for (const char* arguments : {"", "check", "play script", "check a b"}) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, 1) << arguments;
+        EXPECT_EQ(outcome.errors.rfind(usage, 0), 0U) << arguments;
+    }
+}
+
+TEST_F(ToolTest, helpAndVersionGoToStandardOutput) {
+    EXPECT_EQ(run("--help").output.rfind(usage, 0), 0U);
+    const Outcome version = run("--version");
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.output.rfind("keyrill-script ", 0), 0U);
+}
+
+}  // namespace
