@@ -3,26 +3,84 @@
 
 #include <utility>
 
-#include "platform/x11/RunInterrupt.h"
-#include "platform/x11/RunWatch.h"
+#include "platform/x11/X11InjectionSession.h"
+
+namespace {
+
+std::string environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+/// What is made when the display is first needed.
+struct DisplayParts {
+    DisplayParts(InjectionConnection injection, std::unique_ptr<KeymapWatch> watch, Clock& clock)
+        : connection(std::move(injection)),
+          keymap(std::move(watch)),
+          binder(connection, *keymap, clock),
+          grab(keymap->connection(), clock) {}
+
+    InjectionConnection connection;
+    std::unique_ptr<KeymapWatch> keymap;
+    KeyBinder binder;
+    GrabWait grab;
+};
+
+}  // namespace
 
 struct X11KeyInjector::Parts {
+    explicit Parts(const Options& options)
+        : mark(PlayingMark::fileFor(options.runtimeFolder, options.display)),
+          guard(options.guard, options.display, mark.file()) {}
+
     RunInterrupt interrupt;
+    PlayingMark mark;
+    GuardLink guard;
+    std::unique_ptr<DisplayParts> display;
+    bool hasSession = false;
 };
 
 X11KeyInjector::X11KeyInjector(RunWatch& watch, Clock& clock) : X11KeyInjector(watch, clock, Options()) {}
 
 X11KeyInjector::X11KeyInjector(RunWatch& watch, Clock& clock, Options options)
-    : m_watch(watch), m_clock(clock), m_options(std::move(options)), m_parts(std::make_unique<Parts>()) {}
+    : m_watch(watch), m_clock(clock), m_options(std::move(options)) {
+    if (m_options.display.empty()) m_options.display = environment("DISPLAY");
+    if (m_options.runtimeFolder.empty()) m_options.runtimeFolder = environment("XDG_RUNTIME_DIR");
+    m_parts = std::make_unique<Parts>(m_options);
+}
 
 X11KeyInjector::~X11KeyInjector() = default;
 
-Result<void> X11KeyInjector::start() { return Error{"No keys can be pressed on this display yet.", {}}; }
+Result<void> X11KeyInjector::start() {
+    if (m_parts->display) return {};
+    auto connection = InjectionConnection::open(m_options.display, m_watch);
+    if (!connection) return connection.error();
+    auto keymap = KeymapWatch::open(m_options.display);
+    if (!keymap) return keymap.error();
+    m_parts->display =
+        std::make_unique<DisplayParts>(std::move(connection).value(), std::move(keymap).value(), m_clock);
+    if (m_parts->mark.takeStale()) releaseXtestKeys(m_parts->display->connection.get());
+    m_parts->display->binder.clearLeftovers();
+    return {};
+}
 
-Result<std::unique_ptr<InjectionSession>> X11KeyInjector::open(const InjectionPlan&) {
-    auto started = start();
+Result<std::unique_ptr<InjectionSession>> X11KeyInjector::open(const InjectionPlan& plan) {
+    if (m_parts->hasSession) return Error{"A script is running already.", "Wait for its end."};
+    const auto started = start();
     if (!started) return started.error();
-    return Error{"No keys can be pressed on this display yet.", {}};
+    m_parts->hasSession = true;
+    DisplayParts& display = *m_parts->display;
+    const InjectionTools tools{.watch = m_watch,
+                               .clock = m_clock,
+                               .interrupt = m_parts->interrupt,
+                               .mark = m_parts->mark,
+                               .guard = m_parts->guard,
+                               .connection = display.connection,
+                               .keymap = *display.keymap,
+                               .binder = display.binder,
+                               .grab = display.grab};
+    return std::unique_ptr<InjectionSession>(std::make_unique<X11InjectionSession>(
+        tools, plan, [parts = m_parts.get()] { parts->hasSession = false; }));
 }
 
 void X11KeyInjector::startPlayback() { m_watch.startPlayback(); }

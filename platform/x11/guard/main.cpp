@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+//
+// keyrill-guard DISPLAY MARK: lets go of the keys that a player left down when it died.
+//
+// Standard input is a packet socket whose other end only the player holds, so that its end, however it comes,
+// is seen here. If the player was in the middle of a run, the keys that XTEST keyboards hold are released,
+// locks and group put back as the player found them, and the file MARK (none if empty) removed. The program
+// is deaf to the signals that end a session's programs, or it would go before the player does.
+#include <sys/socket.h>
+#include <unistd.h>
+#include <xcb/xinput.h>
+#include <xcb/xtest.h>
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <span>
+#include <thread>
+
+#include "platform/x11/SlaveKeyboards.h"
+#include "platform/x11/XConnection.h"
+#include "platform/x11/XcbXkb.h"
+#include "platform/x11/guard/GuardMessage.h"
+
+namespace {
+
+/// The server may still be working off what the dead player had sent.
+constexpr int rounds = 5;
+constexpr std::chrono::milliseconds betweenRounds{2};
+constexpr std::uint8_t allModifiers = 0xFF;
+
+void standAside() {
+    setsid();
+    for (const int number : {SIGTERM, SIGINT, SIGHUP, SIGPIPE}) std::signal(number, SIG_IGN);
+    close_range(STDERR_FILENO + 1, ~0U, 0);
+}
+
+bool startExtensions(xcb_connection_t* connection) {
+    const auto* test = xcb_get_extension_data(connection, &xcb_test_id);
+    if (test == nullptr || test->present == 0) return false;
+    const XReply<xcb_xkb_use_extension_reply_t> keyboard(
+        xcb_xkb_use_extension_reply(connection, xcb_xkb_use_extension(connection, 1, 0), nullptr));
+    const XReply<xcb_input_xi_query_version_reply_t> input(
+        xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
+    return keyboard && keyboard->supported != 0 && input;
+}
+
+/// The player's last word before its end.
+GuardMessage listen() {
+    GuardMessage last;
+    for (;;) {
+        GuardMessage message;
+        const ssize_t size = recv(STDIN_FILENO, &message, sizeof message, 0);
+        if (size == static_cast<ssize_t>(sizeof message)) last = message;
+        if (size == 0 || (size < 0 && errno != EINTR)) return last;
+    }
+}
+
+void cleanUp(xcb_connection_t* connection, const GuardMessage& last) {
+    for (int round = 0; round < rounds; ++round) {
+        if (round > 0) std::this_thread::sleep_for(betweenRounds);
+        xcb_xkb_latch_lock_state(connection, XCB_XKB_ID_USE_CORE_KBD, allModifiers, last.lockedModifiers, 1,
+                                 last.lockedGroup, 0, 0, 0);
+        releaseXtestKeys(connection);
+    }
+}
+
+}  // namespace
+
+int main(int count, char** values) {
+    const std::span arguments(values, static_cast<std::size_t>(count));
+    if (arguments.size() != 3) {
+        std::fputs("usage: keyrill-guard DISPLAY MARK (started by keyrill, not by hand)\n", stderr);
+        return 2;
+    }
+    standAside();
+    const auto connection = XConnection::open(arguments[1]);
+    if (!connection || !startExtensions(connection.value())) return 1;
+    if (send(STDIN_FILENO, &guardReady, sizeof guardReady, MSG_NOSIGNAL) != sizeof guardReady) return 1;
+    const GuardMessage last = listen();
+    if (last.kind != GuardMessage::Kind::running) return 0;
+    cleanUp(connection.value(), last);
+    const std::string mark = arguments[2];
+    if (!mark.empty()) unlink(mark.c_str());
+    return 0;
+}

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "x11/InjectorTest.h"
+
+#include <sstream>
+#include <stdexcept>
+
+InjectorOnDisplay::InjectorOnDisplay(const std::string& display) : m_display(display) {
+    auto manager = X11EventManager::open(m_clock, display);
+    if (!manager) throw std::runtime_error(manager.error().message);
+    m_manager = std::move(manager).value();
+    begin();
+}
+
+void InjectorOnDisplay::begin() {
+    m_injector = std::make_unique<X11KeyInjector>(
+        m_manager->runWatch(), m_clock,
+        X11KeyInjector::Options{
+            .display = m_display, .guard = KEYRILL_GUARD, .runtimeFolder = m_folder.path()});
+    const auto started = m_injector->start();
+    if (!started) throw std::runtime_error(started.error().message);
+}
+
+std::unique_ptr<InjectionSession> InjectorOnDisplay::run(const InjectionPlan& plan) {
+    auto session = m_injector->open(plan);
+    if (!session) throw std::runtime_error(session.error().message);
+    return std::move(session).value();
+}
+
+std::string InjectorTest::command(const std::vector<std::string>& words) const {
+    return outputOf(words, {{"DISPLAY", display()}});
+}
+
+std::string wordsOf(const Result<RunState>& result) {
+    if (!result) return result.error().message;
+    return result.value() == RunState::going ? "going" : "cancelled";
+}
+
+std::vector<std::string> wordsOf(const std::vector<CoreClient::KeyEvent>& events) {
+    std::vector<std::string> lines;
+    for (const auto& event : events) {
+        std::ostringstream line;
+        line << (event.press ? "press " : "release ") << int{event.keycode} << " 0x" << std::hex
+             << event.state;
+        lines.push_back(line.str());
+    }
+    return lines;
+}

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "x11/KeyboardProbe.h"
+
+#include <xcb/xinput.h>
+
+#include <set>
+#include <sstream>
+#include <stdexcept>
+
+// The C header names a structure member "explicit".
+#define explicit explicit_
+#include <xcb/xkb.h>
+#undef explicit
+
+namespace {
+
+XConnection connect(const std::string& display) {
+    Result<XConnection> connection = XConnection::open(display);
+    if (!connection) throw std::runtime_error(connection.error().message);
+    return std::move(connection).value();
+}
+
+void collect(const std::uint8_t* bits, std::set<int>& keys) {
+    for (int keycode = 8; keycode < 256; ++keycode) {
+        if ((bits[keycode / 8] >> (keycode % 8) & 1) != 0) keys.insert(keycode);
+    }
+}
+
+void collectOfDevice(xcb_connection_t* connection, std::uint8_t device, std::set<int>& keys) {
+    const XReply<xcb_input_query_device_state_reply_t> reply(xcb_input_query_device_state_reply(
+        connection, xcb_input_query_device_state(connection, device), nullptr));
+    if (!reply) return;
+    auto input = xcb_input_query_device_state_classes_iterator(reply.get());
+    for (; input.rem > 0; xcb_input_input_state_next(&input)) {
+        if (input.data->class_id != XCB_INPUT_INPUT_CLASS_KEY) continue;
+        collect(reinterpret_cast<const xcb_input_key_state_t*>(input.data)->keys, keys);
+    }
+}
+
+std::set<int> keysDown(xcb_connection_t* connection) {
+    std::set<int> keys;
+    const XReply<xcb_query_keymap_reply_t> core(
+        xcb_query_keymap_reply(connection, xcb_query_keymap(connection), nullptr));
+    collect(core->keys, keys);
+    const XReply<xcb_input_xi_query_device_reply_t> devices(xcb_input_xi_query_device_reply(
+        connection, xcb_input_xi_query_device(connection, XCB_INPUT_DEVICE_ALL), nullptr));
+    auto info = xcb_input_xi_query_device_infos_iterator(devices.get());
+    for (; info.rem > 0; xcb_input_xi_device_info_next(&info)) {
+        if (info.data->type != XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD) continue;
+        collectOfDevice(connection, static_cast<std::uint8_t>(info.data->deviceid), keys);
+    }
+    return keys;
+}
+
+XReply<xcb_xkb_get_state_reply_t> stateOf(xcb_connection_t* connection) {
+    return XReply<xcb_xkb_get_state_reply_t>(
+        xcb_xkb_get_state_reply(connection, xcb_xkb_get_state(connection, XCB_XKB_ID_USE_CORE_KBD), nullptr));
+}
+
+}  // namespace
+
+KeyboardProbe::KeyboardProbe(const std::string& display) : m_connection(connect(display)) {
+    const XReply<xcb_xkb_use_extension_reply_t> keyboard(
+        xcb_xkb_use_extension_reply(m_connection, xcb_xkb_use_extension(m_connection, 1, 0), nullptr));
+    const XReply<xcb_input_xi_query_version_reply_t> input(xcb_input_xi_query_version_reply(
+        m_connection, xcb_input_xi_query_version(m_connection, 2, 2), nullptr));
+    if (!keyboard || !input) throw std::runtime_error("no XKB or no XInput");
+}
+
+std::string KeyboardProbe::held() const {
+    m_connection.roundTrip();
+    std::ostringstream words;
+    words << "keys:";
+    for (const int keycode : keysDown(m_connection)) words << ' ' << keycode;
+    const auto state = stateOf(m_connection);
+    words << ", modifiers: 0x" << std::hex << int{state->baseMods};
+    return words.str();
+}
+
+std::string KeyboardProbe::words() const {
+    std::ostringstream words;
+    words << held() << ", locked: 0x" << std::hex << int{locked()} << ", group: " << int{group()};
+    return words.str();
+}
+
+std::uint8_t KeyboardProbe::locked() const { return stateOf(m_connection)->lockedMods; }
+
+std::uint8_t KeyboardProbe::group() const {
+    return static_cast<std::uint8_t>(stateOf(m_connection)->lockedGroup);
+}
+
+bool KeyboardProbe::hasProperty(const std::string& name) const {
+    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        m_connection,
+        xcb_get_property(m_connection, 0, m_connection.root(), m_connection.atom(name), XCB_ATOM_ANY, 0, 1),
+        nullptr));
+    return reply && reply->type != XCB_ATOM_NONE;
+}

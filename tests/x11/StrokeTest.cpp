@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: MIT
+#include <filesystem>
+#include <fstream>
+
+#include "platform/Modifiers.h"
+#include "x11/Hands.h"
+#include "x11/InjectorTest.h"
+
+namespace {
+
+namespace key {
+constexpr std::uint32_t a = 0;
+constexpr std::uint32_t p = 35;
+constexpr std::uint32_t keypadOne = 83;
+constexpr std::uint32_t power = 127;
+constexpr std::uint32_t showDesktop = 161;
+constexpr std::uint32_t shift = 56;
+}  // namespace key
+
+constexpr std::uint8_t lockBit = 0x02;
+constexpr std::uint8_t numLockBit = 0x10;
+
+using Lines = std::vector<std::string>;
+
+/// What an application gets of strokes.
+class StrokeTest : public InjectorTest {
+  protected:
+    Lines received() { return wordsOf(m_client.events()); }
+
+  private:
+    CoreClient m_client{display()};
+};
+
+TEST_F(StrokeTest, aKeyGoesDownAndUp) {
+    EXPECT_EQ(wordsOf(run()->stroke(key::a, 0)), "going");
+    EXPECT_EQ(received(), (Lines{"press 38 0x0", "release 38 0x0"}));
+}
+
+TEST_F(StrokeTest, modifiersGoDownBeforeAndUpAfterInTheOtherOrder) {
+    ASSERT_TRUE(run()->stroke(key::a, modifier::control | modifier::command));
+    EXPECT_EQ(received(), (Lines{"press 37 0x0", "press 133 0x4", "press 38 0x44", "release 38 0x44",
+                                 "release 133 0x44", "release 37 0x4"}));
+}
+
+TEST_F(StrokeTest, eachModifierIsTheOneOfTheKeymap) {
+    const auto session = run();
+    const std::vector<std::pair<std::uint32_t, std::string>> rows = {{modifier::shift, "press 38 0x1"},
+                                                                     {modifier::control, "press 38 0x4"},
+                                                                     {modifier::option, "press 38 0x8"},
+                                                                     {modifier::command, "press 38 0x40"}};
+    for (const auto& [modifiers, words] : rows) {
+        const std::size_t before = received().size();
+        ASSERT_TRUE(session->stroke(key::a, modifiers));
+        EXPECT_EQ(received().at(before + 1), words);
+    }
+}
+
+TEST_F(StrokeTest, swappedAltAndSuperKeysAreFollowed) {
+    command({"setxkbmap", "us", "-option", "altwin:swap_lalt_lwin"});
+    ASSERT_TRUE(run()->stroke(key::a, modifier::option));
+    EXPECT_EQ(received().at(0), "press 133 0x0");
+    EXPECT_EQ(received().at(1), "press 38 0x8");
+}
+
+TEST_F(StrokeTest, theThirdLevelChooserIsHeldForItsCodes) {
+    command({"setxkbmap", "de"});
+    ASSERT_TRUE(run()->stroke(0x200 + 12, 0));
+    EXPECT_EQ(received(), (Lines{"press 108 0x0", "press 24 0x80", "release 24 0x80", "release 108 0x80"}));
+}
+
+TEST_F(StrokeTest, aCodeWithoutAKeyPlaysNothing) {
+    EXPECT_EQ(wordsOf(run()->stroke(key::showDesktop, modifier::shift)), "going");
+    EXPECT_EQ(received(), Lines{});
+}
+
+TEST_F(StrokeTest, thePowerKeyIsRefusedAndEndsTheRun) {
+    const auto session = run();
+    EXPECT_EQ(wordsOf(session->stroke(key::power, 0)), "The power key cannot be pressed by a script.");
+    EXPECT_EQ(wordsOf(session->stroke(key::a, 0)), "The power key cannot be pressed by a script.");
+    EXPECT_EQ(received(), Lines{});
+}
+
+TEST_F(StrokeTest, aKeypadDigitSetsNumLockForItsStrokeAndPutsItBack) {
+    ASSERT_TRUE(run()->stroke(key::keypadOne, 0));
+    EXPECT_EQ(received(), (Lines{"press 87 0x10", "release 87 0x10"}));
+    EXPECT_EQ(probe().locked(), 0);
+}
+
+TEST_F(StrokeTest, aKeypadDigitLeavesNumLockOnWhereItWas) {
+    command({"xdotool", "key", "Num_Lock"});
+    ASSERT_EQ(probe().locked(), numLockBit);
+    const std::size_t before = received().size();
+    ASSERT_TRUE(run()->stroke(key::keypadOne, 0));
+    EXPECT_EQ(received().at(before), "press 87 0x10");
+    EXPECT_EQ(probe().locked(), numLockBit);
+}
+
+TEST_F(StrokeTest, capsLockDoesNotTouchAStrokeAndIsOnAgainAfterwards) {
+    command({"xdotool", "key", "Caps_Lock"});
+    ASSERT_EQ(probe().locked(), lockBit);
+    const std::size_t before = received().size();
+    {
+        const auto session = run();
+        ASSERT_TRUE(session->stroke(key::a, 0));
+        EXPECT_EQ(received().at(before), "press 38 0x0");
+        EXPECT_EQ(probe().locked(), 0);
+    }
+    EXPECT_EQ(probe().locked(), lockBit);
+}
+
+TEST_F(StrokeTest, aLockThatTheUserSwitchesInTheRunIsHisAfterwards) {
+    {
+        const auto session = run();
+        ASSERT_TRUE(session->stroke(key::a, 0));
+        command({"xdotool", "key", "Caps_Lock"});
+        const std::size_t before = received().size();
+        ASSERT_TRUE(session->stroke(key::a, 0));
+        EXPECT_EQ(received().at(before), "press 38 0x0");
+    }
+    EXPECT_EQ(probe().locked(), lockBit);
+}
+
+TEST_F(StrokeTest, aHeldKeyStaysDownForLaterStrokesUntilItIsReleased) {
+    const auto session = run();
+    ASSERT_TRUE(session->keyDown(HeldModifier{modifier::shift}));
+    ASSERT_TRUE(session->stroke(key::a, modifier::shift));
+    ASSERT_TRUE(session->keyUp(HeldModifier{modifier::shift}));
+    EXPECT_EQ(received(), (Lines{"press 50 0x0", "press 38 0x1", "release 38 0x1", "release 50 0x1"}));
+}
+
+TEST_F(StrokeTest, aHeldCapitalHoldsShiftToo) {
+    const auto session = run();
+    ASSERT_TRUE(session->keyDown(HeldText{"A"}));
+    EXPECT_EQ(probe().held(), "keys: 38 50, modifiers: 0x1");
+    ASSERT_TRUE(session->keyUp(HeldText{"A"}));
+    EXPECT_EQ(probe().held(), "keys:, modifiers: 0x0");
+}
+
+TEST_F(StrokeTest, whatIsNotReleasedIsReleasedAtTheEndOfTheRun) {
+    {
+        const auto session = run();
+        ASSERT_TRUE(session->keyDown(HeldModifier{modifier::control}));
+        ASSERT_TRUE(session->keyDown(HeldCode{key::a}));
+        EXPECT_EQ(probe().held(), "keys: 37 38, modifiers: 0x4");
+    }
+    EXPECT_EQ(probe().held(), "keys:, modifiers: 0x0");
+}
+
+TEST_F(StrokeTest, heldKeysAreReleasedAfterAnError) {
+    {
+        const auto session = run();
+        ASSERT_TRUE(session->keyDown(HeldModifier{modifier::control}));
+        EXPECT_FALSE(session->stroke(key::power, 0));
+    }
+    EXPECT_EQ(probe().held(), "keys:, modifiers: 0x0");
+}
+
+TEST_F(StrokeTest, aReleaseOfWhatIsNotHeldDoesNothing) {
+    ASSERT_TRUE(run()->keyUp(HeldModifier{modifier::shift}));
+    EXPECT_EQ(received(), Lines{});
+}
+
+TEST_F(StrokeTest, aRunWithoutStrokesTouchesNothing) {
+    command({"xdotool", "key", "Caps_Lock", "keydown", "shift"});
+    const std::string before = probe().words();
+    EXPECT_EQ(wordsOf(run()->pause(0.01)), "going");
+    EXPECT_EQ(probe().words(), before);
+    EXPECT_TRUE(std::filesystem::is_empty(program().runtimeFolder().path()));
+}
+
+TEST_F(StrokeTest, modifiersHeldByAnotherProgramAreReleasedOnceAndNotPressedAgain) {
+    command({"xdotool", "keydown", "ctrl"});
+    const std::size_t before = received().size();
+    ASSERT_TRUE(run()->stroke(key::a, 0));
+    const Lines lines = received();
+    EXPECT_EQ(Lines(lines.begin() + static_cast<std::ptrdiff_t>(before), lines.end()),
+              (Lines{"release 37 0x4", "press 38 0x0", "release 38 0x0"}));
+    EXPECT_EQ(probe().held(), "keys:, modifiers: 0x0");
+}
+
+TEST_F(StrokeTest, onlyOneRunIsOpenAtATime) {
+    auto first = run();
+    const auto second = program().injector().open({});
+    ASSERT_FALSE(second);
+    EXPECT_EQ(second.error().message, "A script is running already.");
+    first.reset();
+    EXPECT_TRUE(program().injector().open({}));
+}
+
+TEST_F(StrokeTest, anotherProgramsGrabIsAnErrorAfterHalfASecond) {
+    CoreClient other(display());
+    other.grabKeyboard();
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(wordsOf(run()->stroke(key::a, 0)),
+              "Another program holds the keyboard, so that no keys can be pressed.");
+    const std::chrono::duration<double> lasted = std::chrono::steady_clock::now() - begin;
+    EXPECT_GE(lasted.count(), 0.5);
+    EXPECT_LT(lasted.count(), 0.7);
+    other.ungrabKeyboard();
+    EXPECT_EQ(wordsOf(run()->stroke(key::a, 0)), "going");
+}
+
+TEST_F(StrokeTest, aHotKeyOfOursReachesTheApplicationAndFiresNothing) {
+    int pressed = 0;
+    program().manager().install([&pressed](HotKeyId) { ++pressed; }, [](HotKeyId) {});
+    program().manager().request({.id = 3,
+                                 .name = "play",
+                                 .keyCode = key::p,
+                                 .modifiers = modifier::control,
+                                 .cancelsPlayback = true});
+    EXPECT_EQ(wordsOf(run()->stroke(key::p, modifier::control)), "going");
+    EXPECT_EQ(received(), (Lines{"press 37 0x0", "press 33 0x4", "release 33 0x4", "release 37 0x4"}));
+    program().manager().dispatch();
+    EXPECT_EQ(pressed, 0);
+    command({"xdotool", "key", "ctrl+p"});
+    EXPECT_TRUE(eventually([&] {
+        program().manager().dispatch();
+        return pressed == 1;
+    }));
+}
+
+TEST_F(StrokeTest, anInterruptEndsTheRunWithinAPauseAndForGood) {
+    const auto session = run();
+    ASSERT_TRUE(session->keyDown(HeldModifier{modifier::control}));
+    program().injector().interrupt();
+    EXPECT_EQ(wordsOf(session->pause(1e300)), "cancelled");
+    EXPECT_EQ(wordsOf(session->stroke(key::a, 0)), "cancelled");
+    EXPECT_TRUE(program().injector().isCancelled());
+}
+
+TEST_F(StrokeTest, aMarkThatNobodyLocksHasTheNextStartReleaseWhatXtestHolds) {
+    const std::string folder = program().runtimeFolder().path() + "/keyrill";
+    command({"xdotool", "keydown", "a", "keydown", "shift"});
+    ASSERT_EQ(probe().held(), "keys: 38 50, modifiers: 0x1");
+    program().end();
+    program().begin();
+    ASSERT_EQ(probe().held(), "keys: 38 50, modifiers: 0x1");
+
+    program().end();
+    std::filesystem::create_directory(folder);
+    std::ofstream(folder + "/playing-" + display()).close();
+    program().begin();
+    EXPECT_EQ(probe().held(), "keys:, modifiers: 0x0");
+    EXPECT_TRUE(std::filesystem::is_empty(folder));
+}
+
+TEST_F(StrokeTest, nothingIsPlayedWithoutAGuard) {
+    X11KeyInjector injector(program().manager().runWatch(), program().clock(),
+                            {.display = display(), .guard = "/nonexistent/guard", .runtimeFolder = {}});
+    auto session = injector.open({});
+    ASSERT_TRUE(session);
+    EXPECT_EQ(wordsOf(session.value()->stroke(key::a, 0)),
+              "The guard program \"/nonexistent/guard\", which releases keys after a crash, could not be "
+              "started.");
+    EXPECT_EQ(received(), Lines{});
+}
+
+}  // namespace
