@@ -64,10 +64,7 @@ void CodeGenerator::tell(const Node& node) {
 
 void CodeGenerator::command(Operation operation, const Node& node) {
     const NodeId modifiers = m_tree.at(node.firstChild).nextSibling;
-    if (modifiers != noNode) {
-        expression(modifiers);
-        warnOfModifiers(modifiers);
-    }
+    if (modifiers != noNode) expression(modifiers);
     const std::size_t firstText = position();
     expression(node.firstChild);
     if (operation != Operation::keyCode) {
@@ -78,6 +75,7 @@ void CodeGenerator::command(Operation operation, const Node& node) {
         }
     }
     if (operation != Operation::keystroke) warnOfCodes(node.firstChild);
+    if (modifiers != noNode) warnOfModifiers(modifiers);
     emit(operation, node, 0, modifiers == noNode ? 0 : 1);
 }
 
@@ -185,7 +183,8 @@ void CodeGenerator::warnOfModifiers(NodeId modifiers) {
 }
 
 void CodeGenerator::warn(const Node& node, std::string message) {
-    m_program.warnings.push_back({std::move(message), locate(m_source, node.offset)});
+    if (m_program.warnings.size() >= maxWarnings) return;
+    m_program.warnings.push_back({std::move(message), m_locator.at(node.offset)});
 }
 
 }  // namespace script

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -16,7 +17,10 @@ namespace script {
 /// A statement leaves the stack as it found it, but for the counters of the loops around it.
 class CodeGenerator {
   public:
-    CodeGenerator(const Tree& tree, std::string_view source) : m_tree(tree), m_source(source) {}
+    /// More are left out: nobody reads them.
+    static constexpr std::size_t maxWarnings = 1000;
+
+    CodeGenerator(const Tree& tree, std::string_view source) : m_tree(tree), m_locator(source) {}
 
     /// Called once. The program's source is left empty.
     Program generate();
@@ -39,7 +43,7 @@ class CodeGenerator {
     void warn(const Node& node, std::string message);
 
     const Tree& m_tree;
-    std::string_view m_source;
+    Locator m_locator;
     Program m_program;
     /// Jumps out of the innermost loop, whose target is not known yet.
     std::vector<std::uint32_t> m_exits;

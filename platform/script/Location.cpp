@@ -11,20 +11,23 @@ bool startsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC
 
 }  // namespace
 
-Location locate(std::string_view source, std::size_t offset) {
-    const std::string_view before = source.substr(0, std::min(offset, source.size()));
-    Location place;
-    for (std::size_t i = 0; i < before.size(); ++i) {
-        const bool carriageReturn = before[i] == '\r';
-        const bool pair = carriageReturn && i + 1 < source.size() && source[i + 1] == '\n';
-        if (before[i] == '\n' || (carriageReturn && !pair)) {
-            ++place.line;
-            place.column = 1;
-        } else if (startsCharacter(before[i])) {
-            ++place.column;
-        }
+Location Locator::at(std::size_t offset) {
+    if (offset < m_position) *this = Locator(m_source);
+    const std::size_t end = std::min(offset, m_source.size());
+    while (m_position < end) step();
+    return m_place;
+}
+
+void Locator::step() {
+    const char c = m_source[m_position++];
+    const bool carriageReturn = c == '\r';
+    const bool pair = carriageReturn && m_position < m_source.size() && m_source[m_position] == '\n';
+    if (c == '\n' || (carriageReturn && !pair)) {
+        ++m_place.line;
+        m_place.column = 1;
+    } else if (startsCharacter(c)) {
+        ++m_place.column;
     }
-    return place;
 }
 
 }  // namespace script

@@ -16,8 +16,25 @@ struct Location {
     friend bool operator==(const Location&, const Location&) = default;
 };
 
-/// The place of the byte at `offset`, which may be the source's size. Linear in the offset: tokens and nodes
-/// carry offsets, and places are made only for messages.
-Location locate(std::string_view source, std::size_t offset);
+/// Finds the places of bytes. Tokens and nodes carry offsets, and places are made only for messages.
+class Locator {
+  public:
+    /// The source outlives the locator.
+    explicit Locator(std::string_view source) : m_source(source) {}
+
+    /// The place of the byte at `offset`, at most the source's size. Goes on from the last place, so that
+    /// places asked for in the order of the source cost one walk through it.
+    Location at(std::size_t offset);
+
+  private:
+    void step();
+
+    std::string_view m_source;
+    std::size_t m_position = 0;
+    Location m_place;
+};
+
+/// The place of one byte.
+inline Location locate(std::string_view source, std::size_t offset) { return Locator(source).at(offset); }
 
 }  // namespace script

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <ostream>
 
 #include "platform/Modifiers.h"
@@ -45,10 +46,15 @@ std::string json(std::string_view text) {
     return out + "\"";
 }
 
-/// The shortest form that reads back as the same number.
+/// The fewest digits that read back as the same number; an exponent only where there would be many zeros.
 std::string json(double number) {
+    constexpr double small = 1e-4;
+    constexpr double large = 1e15;
+    const double magnitude = std::abs(number);
+    const bool fixed = magnitude == 0 || (magnitude >= small && magnitude < large);
     std::array<char, 32> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
+    const auto format = fixed ? std::chars_format::fixed : std::chars_format::scientific;
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, format);
     return {buffer.data(), result.ptr};
 }
 

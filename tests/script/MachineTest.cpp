@@ -71,8 +71,8 @@ INSTANTIATE_TEST_SUITE_P(Holding, MachineTest,
 INSTANTIATE_TEST_SUITE_P(
     Delay, MachineTest,
     testing::Values(
-        Row{"as asked", "delay 0.01\ndelay 2\ndelay 1e-05\ndelay 1.23457e+06",
-            "[\"delay\",0.01]\n[\"delay\",2]\n[\"delay\",1e-05]\n[\"delay\",1234570]\n"},
+        Row{"as asked", "delay 0.01\ndelay 2\ndelay 1e-05\ndelay 1.23457e+06\ndelay 1e300",
+            "[\"delay\",0.01]\n[\"delay\",2]\n[\"delay\",1e-05]\n[\"delay\",1234570]\n[\"delay\",1e+300]\n"},
         Row{"without a time", "delay", "[\"delay\",0]\n"}, Row{"negative", "delay -1", "[\"delay\",-1]\n"},
         Row{"numeric text", "delay \"0.5\"", "[\"delay\",0.5]\n"},
         Row{"text with a comma", "delay \"0,5\"", "-1700 Can’t make \"0,5\" into type number."},
@@ -135,10 +135,18 @@ TEST(MachineTest, theCompilerWarnsOfWhatIsWrittenAndTheRunOfWhatItMeets) {
     const Traced result =
         traced("tell app \"System Events\"\nkey code 4279\nkey code {66} using command\nend");
     EXPECT_EQ(result.warnings, (Lines{"2:10 Key code 4279 is an extension, which only Keyrill plays.",
-                                      "3:21 “command” is taken as “command down”.",
                                       "3:11 Key code 66 has no key; nothing is pressed.",
+                                      "3:21 “command” is taken as “command down”.",
                                       "3:1 “command” is taken as “command down”.",
                                       "3:1 Key code 66 has no key; nothing is pressed."}));
+}
+
+TEST(MachineTest, warningsAreBounded) {
+    std::string codes = "66";
+    for (int i = 0; i < 2000; ++i) codes += ",66";
+    EXPECT_EQ(
+        traced("tell app \"System Events\" to repeat 0 times\nkey code {" + codes + "}\nend").warnings.size(),
+        1000U);
 }
 
 TEST(MachineTest, aRunWarnsOnceOfOnePlace) {

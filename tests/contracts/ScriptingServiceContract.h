@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "contracts/ScriptingWorld.h"
+#include "platform/ScriptingService.h"
+
+/// What platform/ScriptingService.h promises, told by the text that an application got.
+class ScriptingServiceContract : public testing::TestWithParam<ScriptingWorldFactory> {
+  protected:
+    void SetUp() override {
+        m_world = GetParam()();
+        ASSERT_NE(m_world, nullptr);
+        scripting().startPlayback();
+    }
+
+    ScriptingWorld& world() { return *m_world; }
+    ScriptingService& scripting() { return m_world->scripting(); }
+
+    /// Runs lines inside `tell application "System Events"`.
+    void tell(const std::string& lines) {
+        scripting().run("tell application \"System Events\"\n" + lines + "\nend tell\n");
+    }
+
+  private:
+    std::unique_ptr<ScriptingWorld> m_world;
+};
+
+TEST_P(ScriptingServiceContract, aRunTypesWhatItsScriptSaysBeforeItReturns) {
+    tell("keystroke \"ab\"\nkey code 8");
+    EXPECT_EQ(world().typed(), "abc");
+}
+
+TEST_P(ScriptingServiceContract, runsComeOneAfterTheOther) {
+    tell("keystroke \"ab\"");
+    tell("keystroke \"cd\"");
+    EXPECT_EQ(world().typed(), "abcd");
+}
+
+TEST_P(ScriptingServiceContract, anEmptyScriptDoesNothing) {
+    scripting().run("");
+    EXPECT_EQ(world().typed(), "");
+    EXPECT_FALSE(scripting().isCancelled());
+}
+
+TEST_P(ScriptingServiceContract, aScriptThatDoesNotCompileTypesNothingAndTheNextOnePlays) {
+    tell("keystroke \"ab\"\nrepeat");
+    tell("keystroke \"cd\"");
+    EXPECT_EQ(world().typed(), "cd");
+}
+
+TEST_P(ScriptingServiceContract, anErrorEndsARunAndTheNextOnePlays) {
+    tell("keystroke \"ab\"\ndelay \"x\"\nkeystroke \"cd\"");
+    tell("keystroke \"ef\"");
+    EXPECT_EQ(world().typed(), "abef");
+}
+
+TEST_P(ScriptingServiceContract, aPlaybackIsNotCancelledUntilTheUserAsks) {
+    tell("keystroke \"ab\"");
+    EXPECT_FALSE(scripting().isCancelled());
+    world().userAsksToStop();
+    EXPECT_TRUE(scripting().isCancelled());
+}
+
+TEST_P(ScriptingServiceContract, aCancelledPlaybackTypesNothingMore) {
+    world().userAsksToStop();
+    tell("keystroke \"ab\"");
+    EXPECT_EQ(world().typed(), "");
+}
+
+TEST_P(ScriptingServiceContract, aCancelledLoopEndsThoughItPressesNothing) {
+    world().userAsksToStop();
+    scripting().run("repeat\nend repeat");
+    EXPECT_TRUE(scripting().isCancelled());
+}
+
+TEST_P(ScriptingServiceContract, theNextPlaybackForgetsTheWishToStop) {
+    world().userAsksToStop();
+    scripting().startPlayback();
+    EXPECT_FALSE(scripting().isCancelled());
+    tell("keystroke \"ab\"");
+    EXPECT_EQ(world().typed(), "ab");
+}

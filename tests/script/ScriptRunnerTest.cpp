@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/ScriptRunner.h"
+
+#include <gtest/gtest.h>
+
+#include "RecordingInjector.h"
+#include "contracts/ScriptingServiceContract.h"
+#include "platform/fake/FakePlatform.h"
+#include "platform/script/Compiler.h"
+#include "platform/script/Machine.h"
+
+namespace {
+
+using Calls = std::vector<std::string>;
+
+class ScriptRunnerTest : public testing::Test {
+  protected:
+    void tell(const std::string& lines) {
+        m_runner.run("tell application \"System Events\"\n" + lines + "\nend tell\n");
+    }
+    /// The result that the runner does not tell.
+    script::RunResult resultOf(const std::string& lines) {
+        const auto compiled =
+            script::compile("tell application \"System Events\"\n" + lines + "\nend tell\n");
+        return script::Machine(std::get<script::Program>(compiled), m_injector).run();
+    }
+
+    RecordingInjector m_injector;
+    script::ScriptRunner m_runner{m_injector};
+};
+
+TEST_F(ScriptRunnerTest, aScriptWithoutStrokesAndPausesOpensNoSession) {
+    m_runner.run("");
+    tell("1 + 1\nrepeat 3 times\nend\nkeystroke \"\"\nkey code 66");
+    EXPECT_EQ(m_injector.calls, Calls());
+}
+
+TEST_F(ScriptRunnerTest, aScriptThatDoesNotCompileOpensNoSession) {
+    tell("key code 1\nkey code");
+    EXPECT_EQ(m_injector.calls, Calls());
+}
+
+TEST_F(ScriptRunnerTest, oneSessionServesTheRunAndEndsWithIt) {
+    tell("key code 1\ndelay 0.1\nkeystroke \"ab\"\nkey down shift\nkey up shift");
+    EXPECT_EQ(m_injector.calls, (Calls{"open", "key 1", "pause", "text ab", "down", "up", "close"}));
+}
+
+TEST_F(ScriptRunnerTest, theSessionEndsAfterAnErrorToo) {
+    tell("key down shift\ndelay \"x\"\nkey code 1");
+    EXPECT_EQ(m_injector.calls, (Calls{"open", "down", "close"}));
+}
+
+TEST_F(ScriptRunnerTest, allLiteralTextsArePlannedBeforeTheFirstStroke) {
+    tell("key code 1\nkeystroke \"é\" & \"b\" & 1\nrepeat 0 times\nkeystroke {\"ü\"}\nend\nkey down \"w\"");
+    EXPECT_EQ(m_injector.plannedTexts, (Calls{"é", "b", "ü", "w"}));
+}
+
+TEST_F(ScriptRunnerTest, aRunInsideARunDoesNothing) {
+    m_injector.duringEachStep = [this] { tell("key code 2"); };
+    tell("key code 1");
+    EXPECT_EQ(m_injector.calls, (Calls{"open", "key 1", "close"}));
+    m_injector.duringEachStep = [] {};
+    tell("key code 3");
+    EXPECT_EQ(m_injector.calls.at(4), "key 3");
+}
+
+TEST_F(ScriptRunnerTest, aStopEndsTheRunAtTheNextStep) {
+    m_injector.duringEachStep = [this] { m_injector.cancelled = true; };
+    const script::RunResult result = resultOf("key code {1, 2}\nkey code 3");
+    EXPECT_EQ(result.end, script::RunEnd::cancelled);
+    EXPECT_EQ(result.error, (script::ScriptError{-128, "User canceled.", {2, 1}}));
+    EXPECT_EQ(m_injector.calls, (Calls{"open", "key 1", "close"}));
+}
+
+TEST_F(ScriptRunnerTest, aStopEndsALoopThatDoesNothing) {
+    int asked = 0;
+    m_injector.whenAsked = [&] { m_injector.cancelled = ++asked == 1000; };
+    const script::RunResult result = resultOf("repeat\nend repeat");
+    EXPECT_EQ(result.end, script::RunEnd::cancelled);
+    EXPECT_EQ(asked, 1000);
+}
+
+TEST_F(ScriptRunnerTest, anErrorOfTheInjectorIsAnErrorOfTheRun) {
+    m_injector.stepError = "No key types “é”.";
+    const script::RunResult result = resultOf("keystroke \"é\"");
+    EXPECT_EQ(result.end, script::RunEnd::failed);
+    EXPECT_EQ(result.error, (script::ScriptError{
+                                -10000, "System Events got an error: No key types “é”. Do this.", {2, 1}}));
+}
+
+TEST_F(ScriptRunnerTest, aDesktopThatLetsNoKeysBePressedIsAnErrorOfTheRun) {
+    m_injector.openError = "The server has no XTEST.";
+    const script::RunResult result = resultOf("delay 1");
+    EXPECT_EQ(result.end, script::RunEnd::failed);
+    EXPECT_EQ(result.error,
+              (script::ScriptError{1002, "System Events got an error: The server has no XTEST.", {2, 1}}));
+}
+
+TEST_F(ScriptRunnerTest, playbackIsTheInjectorsMatter) {
+    m_injector.cancelled = true;
+    EXPECT_TRUE(m_runner.isCancelled());
+    m_runner.startPlayback();
+    EXPECT_FALSE(m_runner.isCancelled());
+}
+
+/// What a line written by the run means for the application in front.
+std::string typedBy(const std::string& step) {
+    if (step.starts_with("text ")) return step.substr(5);
+    return step == "key 8" ? "c" : "";
+}
+
+class RecordingWorld : public ScriptingWorld {
+  public:
+    ScriptingService& scripting() override { return m_runner; }
+    std::string typed() override {
+        std::string text;
+        for (const std::string& call : m_injector.calls) text += typedBy(call);
+        return text;
+    }
+    void userAsksToStop() override { m_injector.cancelled = true; }
+
+  private:
+    RecordingInjector m_injector;
+    script::ScriptRunner m_runner{m_injector};
+};
+
+class FakeWorld : public ScriptingWorld {
+  public:
+    ScriptingService& scripting() override { return m_runner; }
+    std::string typed() override {
+        std::string text;
+        for (const std::string& step : m_platform.keyInjector.postedKeys()) text += typedBy(step);
+        return text;
+    }
+    void userAsksToStop() override { m_platform.keyInjector.userCancels(); }
+
+  private:
+    FakePlatform m_platform;
+    script::ScriptRunner m_runner{m_platform.keyInjector};
+};
+
+template <typename World>
+std::unique_ptr<ScriptingWorld> makeWorld() {
+    return std::make_unique<World>();
+}
+
+INSTANTIATE_TEST_SUITE_P(Recording, ScriptingServiceContract, testing::Values(&makeWorld<RecordingWorld>));
+INSTANTIATE_TEST_SUITE_P(Fake, ScriptingServiceContract, testing::Values(&makeWorld<FakeWorld>));
+
+}  // namespace
