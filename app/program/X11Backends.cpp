@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/program/X11Backends.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <utility>
 
 #include "platform/Services.h"
@@ -40,6 +42,11 @@ struct X11Backends::Parts {
     ServicesScope scope{services};
 };
 
+int reportFailure(const Error& error) {
+    std::fprintf(stderr, "keyrill: %s %s\n", error.message.c_str(), error.hint.c_str());
+    return EXIT_FAILURE;
+}
+
 Result<std::unique_ptr<X11Backends>> X11Backends::open() {
     const auto access = checkX11Access();
     if (!access) return access.error();
@@ -53,6 +60,8 @@ Result<std::unique_ptr<X11Backends>> X11Backends::open() {
     auto parts =
         std::make_unique<Parts>(std::move(clock), std::move(manager).value(),
                                 std::move(trayConnection).value(), std::move(windowConnection).value());
+    // The toolkit would prefer a Wayland display that is offered too.
+    setenv("QT_QPA_PLATFORM", "xcb", 1);
     return std::unique_ptr<X11Backends>(new X11Backends(std::move(parts)));
 }
 

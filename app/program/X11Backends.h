@@ -11,11 +11,14 @@ class X11EventManager;
 class X11KeyInjector;
 struct Services;
 
+/// Says in one line on standard error why the program cannot start; the exit status.
+int reportFailure(const Error& error);
+
 /// What stands behind each service in an X11 session, installed for the life of the object.
 class X11Backends {
   public:
     /// Fails where there is no X server, or one that shows or takes no key events. Nothing of the toolkit is
-    /// needed yet.
+    /// needed yet; it will use the same X server.
     static Result<std::unique_ptr<X11Backends>> open();
     ~X11Backends();
     X11Backends(const X11Backends&) = delete;

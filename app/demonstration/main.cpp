@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include <QApplication>
+#include <QTimer>
+#include <cstdio>
+
+#include "app/program/Program.h"
+#include "app/program/X11Backends.h"
+#include "core/Macro.h"
+#include "engine/SharedController.h"
+
+// The program as it is, which in addition prints when it is ready and the script of each recording, for
+// tools/demonstrate and the desktop tests.
+
+namespace {
+
+/// Passes everything on to the real controller.
+class PrintingController : public SharedController {
+  public:
+    explicit PrintingController(SharedController& controller) : m_controller(controller) {}
+
+    void setMacroString(const std::string& text) override { m_controller.setMacroString(text); }
+    void showRecordingGui() override { m_controller.showRecordingGui(); }
+    void hideRecordingGui() override { m_controller.hideRecordingGui(); }
+    void showMultiplePlayGui() override { m_controller.showMultiplePlayGui(); }
+
+    void addMacro(const boost::shared_ptr<Macro>& macro) override {
+        m_controller.addMacro(macro);
+        std::printf("-- recorded\n%s-- end\n", macro->script().c_str());
+        std::fflush(stdout);
+    }
+
+  private:
+    SharedController& m_controller;
+};
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    const auto backends = X11Backends::open();
+    if (!backends) return reportFailure(backends.error());
+    const QApplication application(argc, argv);
+    Program program(*backends.value());
+    PrintingController printing(program.controller());
+    const SharedControllerScope scope(printing);
+    // Queued behind the start-up.
+    QTimer::singleShot(0, [] {
+        std::puts("-- ready");
+        std::fflush(stdout);
+    });
+    return QApplication::exec();
+}
