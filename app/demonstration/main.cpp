@@ -2,14 +2,17 @@
 #include <QApplication>
 #include <QTimer>
 #include <cstdio>
+#include <fstream>
+#include <sstream>
 
 #include "app/program/Program.h"
 #include "app/program/X11Backends.h"
-#include "core/Macro.h"
+#include "core/MacroManager.h"
+#include "engine/EngineState.h"
 #include "engine/SharedController.h"
 
 // The program as it is, which in addition prints when it is ready and the script of each recording, for
-// tools/demonstrate and the desktop tests.
+// tools/demonstrate and the desktop tests. Given a file, it starts with the script in it to play.
 
 namespace {
 
@@ -33,6 +36,14 @@ class PrintingController : public SharedController {
     SharedController& m_controller;
 };
 
+void loadScript(const char* file) {
+    std::ifstream stream(file, std::ios::binary);
+    std::ostringstream content;
+    content << stream.rdbuf();
+    engineState().currentMacro = MacroManager::createMacro();
+    engineState().currentMacro->setScript(content.str());
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -42,6 +53,7 @@ int main(int argc, char* argv[]) {
     Program program(*backends.value());
     PrintingController printing(program.controller());
     const SharedControllerScope scope(printing);
+    if (argc > 1) loadScript(argv[1]);
     // Queued behind the start-up.
     QTimer::singleShot(0, [] {
         std::puts("-- ready");

@@ -60,6 +60,8 @@ Result<std::unique_ptr<X11Backends>> X11Backends::open() {
     auto parts =
         std::make_unique<Parts>(std::move(clock), std::move(manager).value(),
                                 std::move(trayConnection).value(), std::move(windowConnection).value());
+    const auto started = parts->keyInjector.start();
+    if (!started) return started.error();
     // The toolkit would prefer a Wayland display that is offered too.
     setenv("QT_QPA_PLATFORM", "xcb", 1);
     return std::unique_ptr<X11Backends>(new X11Backends(std::move(parts)));
