@@ -11,7 +11,8 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view noBreakSpace = "\xC2\xA0";
 constexpr std::string_view continuation = "¬";
 
-enum class Class : unsigned char { other, letter, digit };
+/// `gap` are the bytes with which something may begin that gives no token.
+enum class Class : unsigned char { other, letter, digit, gap };
 
 constexpr std::array<Class, 256> classes = [] {
     std::array<Class, 256> table{};
@@ -19,12 +20,15 @@ constexpr std::array<Class, 256> classes = [] {
     for (std::size_t c = 'A'; c <= 'Z'; ++c) table[c] = Class::letter;
     for (std::size_t c = '0'; c <= '9'; ++c) table[c] = Class::digit;
     table['_'] = Class::letter;
+    for (const char c : {' ', '\t', '#', '-', '(', noBreakSpace.front(), continuation.front()}) {
+        table[static_cast<unsigned char>(c)] = Class::gap;
+    }
     return table;
 }();
 
 Class classOf(char c) { return classes[static_cast<unsigned char>(c)]; }
 bool isDigit(char c) { return classOf(c) == Class::digit; }
-bool isWordCharacter(char c) { return classOf(c) != Class::other; }
+bool isWordCharacter(char c) { return classOf(c) == Class::letter || isDigit(c); }
 bool isLineEnd(char c) { return c == '\n' || c == '\r'; }
 
 struct Symbol {
@@ -97,7 +101,7 @@ Token Lexer::take(TokenKind kind, std::size_t length, Word word) {
 
 /// Skips all that gives no token. A gap that does not end is a token.
 std::optional<Token> Lexer::skipGap() {
-    while (m_position < m_source.size()) {
+    while (m_position < m_source.size() && classOf(m_source[m_position]) == Class::gap) {
         const std::size_t start = m_position;
         const char c = m_source[m_position];
         if (skipBlank()) continue;
@@ -123,7 +127,7 @@ bool Lexer::skipBlank() {
         ++m_position;
         return true;
     }
-    if (!startsWith(noBreakSpace)) return false;
+    if (c != noBreakSpace.front() || !startsWith(noBreakSpace)) return false;
     m_position += noBreakSpace.size();
     return true;
 }
@@ -208,8 +212,9 @@ Token Lexer::text() {
 }
 
 Token Lexer::symbol() {
-    for (const Symbol& symbol : symbols) {
-        if (startsWith(symbol.spelling)) return take(symbol.kind, symbol.spelling.size());
+    for (const Symbol& candidate : symbols) {
+        if (candidate.spelling.front() != m_source[m_position]) continue;
+        if (startsWith(candidate.spelling)) return take(candidate.kind, candidate.spelling.size());
     }
     return take(TokenKind::unknown, characterLength(m_source[m_position]));
 }
