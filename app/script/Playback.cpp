@@ -14,13 +14,21 @@ namespace {
 
 constexpr std::array<int, 3> signalNumbers{SIGINT, SIGTERM, SIGHUP};
 
-// A signal handler sees nothing but globals.
-X11KeyInjector* interrupted = nullptr;
-volatile sig_atomic_t received = 0;
+/// What the signal handler knows: it is given nothing but the number.
+struct Known {
+    X11KeyInjector* injector = nullptr;
+    volatile sig_atomic_t received = 0;
+};
+
+/// Made without code, so that there is nothing to wait for inside the handler.
+Known& known() {
+    static constinit Known instance;
+    return instance;
+}
 
 void handleSignal(int number) {
-    received = number;
-    if (interrupted != nullptr) interrupted->interrupt();
+    known().received = number;
+    if (known().injector != nullptr) known().injector->interrupt();
 }
 
 void setHandlers(void (*handler)(int)) {
@@ -34,19 +42,19 @@ class X11Playback final : public Playback {
   public:
     X11Playback(std::unique_ptr<SteadyClock> clock, std::unique_ptr<X11EventManager> events)
         : m_clock(std::move(clock)), m_events(std::move(events)), m_injector(m_events->runWatch(), *m_clock) {
-        interrupted = &m_injector;
+        known().injector = &m_injector;
         setHandlers(handleSignal);
     }
     /// A signal that comes this late is let through: nothing is held any more.
     ~X11Playback() override {
         setHandlers(SIG_DFL);
-        interrupted = nullptr;
+        known().injector = nullptr;
     }
     X11Playback(const X11Playback&) = delete;
     X11Playback& operator=(const X11Playback&) = delete;
 
     KeyInjector& injector() override { return m_injector; }
-    int signalNumber() const override { return received; }
+    int signalNumber() const override { return known().received; }
 
   private:
     std::unique_ptr<SteadyClock> m_clock;
