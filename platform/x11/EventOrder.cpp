@@ -18,7 +18,14 @@ void EventOrder::workOff() {
         workOffRawEvents();
         workOffRepeats();
         workOffLatePresses();
-    } while (m_streams.raw.read() || m_streams.grabs.read());
+    } while (m_streams.raw.read() || m_streams.grabs.read() || hasRepeats());
+}
+
+bool EventOrder::hasRepeats() const {
+    if (m_streams.repeats == nullptr) return false;
+    return m_streams.repeats->queue().hasAny([this](const KeyRepeat& repeat) {
+        return m_interpreter.held().mayRepeat(repeat.keycode, repeat.time);
+    });
 }
 
 void EventOrder::catchUp() {
@@ -37,14 +44,12 @@ void EventOrder::workOffRawEvents() {
 }
 
 void EventOrder::workOffRepeats() {
-    if (m_streams.repeats == nullptr) return;
+    if (!hasRepeats()) return;
     RepeatQueue& queue = m_streams.repeats->queue();
     const std::uint64_t known = queue.count();
-    if (queue.hasRepeats()) {
-        m_streams.raw.catchUp();
-        workOffRawEvents();
-    }
-    for (const std::uint8_t keycode : queue.takeUpTo(known)) m_interpreter.repeat(keycode);
+    m_streams.raw.catchUp();
+    workOffRawEvents();
+    deliverRepeats(queue.takeUpTo(known));
 }
 
 void EventOrder::workOffLatePresses() {
@@ -64,7 +69,10 @@ void EventOrder::workOffLatePresses() {
 void EventOrder::handle(const RawKey& key) {
     m_lastTime = key.time;
     const bool own = m_rules.own.take(key);
-    if (!key.press && takeRepeatPair(key)) return m_interpreter.repeat(key.keycode);
+    if (!key.press && takeRepeatPair(key)) {
+        deliverRepeatsBefore(key);
+        return m_interpreter.repeatByKeyboard(key);
+    }
     if (!key.press && m_interpreter.held().isHotKey(key.keycode)) m_hotKeyReleases[key.keycode] = key.time;
     const KeyOrigin origin = key.press ? originOf(key, own) : KeyOrigin{.own = own};
     if (!origin.hotKey && !m_interpreter.matters(key)) return;
@@ -78,6 +86,8 @@ void EventOrder::handle(const StateChange& change) {
 }
 
 void EventOrder::handle(const KeymapTouched&) { m_keymapTouched(); }
+
+void EventOrder::handle(const RepeatDelay& delay) { m_interpreter.setRepeatDelay(delay.milliseconds); }
 
 void EventOrder::handle(const KeyboardGone& gone) { m_interpreter.keyboardGone(gone.source, m_lastTime); }
 
@@ -154,9 +164,11 @@ bool EventOrder::isRepeat(const GrabbedPress& press) const {
 void EventOrder::deliverRepeatsBefore(const RawKey& key) {
     if (m_streams.repeats == nullptr) return;
     if (m_interpreter.held().mayHaveRepeated(key.time)) m_streams.repeats->catchUp();
-    for (const std::uint8_t keycode : m_streams.repeats->queue().takeBefore(key)) {
-        m_interpreter.repeat(keycode);
-    }
+    deliverRepeats(m_streams.repeats->queue().takeBefore(key));
+}
+
+void EventOrder::deliverRepeats(const std::vector<KeyRepeat>& repeats) {
+    for (const KeyRepeat& repeat : repeats) m_interpreter.repeat(repeat.keycode, repeat.time);
 }
 
 void EventOrder::noteHotKey(HotKeyId id) {

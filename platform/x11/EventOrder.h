@@ -41,6 +41,7 @@ class EventOrder {
     void setMuted(bool muted) { m_muted = muted; }
 
   private:
+    bool hasRepeats() const;
     void workOffRawEvents();
     void workOffRepeats();
     void workOffLatePresses();
@@ -49,6 +50,7 @@ class EventOrder {
     void handle(const StateChange& change);
     void handle(const KeymapTouched&);
     void handle(const KeyboardGone& gone);
+    void handle(const RepeatDelay& delay);
 
     bool takeRepeatPair(const RawKey& release);
     KeyOrigin originOf(const RawKey& press, bool own);
@@ -56,6 +58,7 @@ class EventOrder {
     bool comesAgain(const RawKey& press);
     void handleLate(const GrabbedPress& press);
     void deliverRepeatsBefore(const RawKey& key);
+    void deliverRepeats(const std::vector<KeyRepeat>& repeats);
     void noteHotKey(HotKeyId id);
     bool isRepeat(const GrabbedPress& press) const;
 

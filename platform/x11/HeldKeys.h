@@ -24,6 +24,7 @@ struct HeldKey {
     bool hotKeyReported = false;
     /// A stroke of the running script that is not to be seen.
     bool hidden = false;
+    /// Of the press, or of the last repeat that came as raw events.
     ServerTime pressTime = 0;
 };
 
@@ -86,14 +87,30 @@ class HeldKeys {
         return result;
     }
 
-    /// Whether a key that repeats has been down since before `time`.
-    bool mayHaveRepeated(ServerTime time) const {
-        for (const auto& [place, held] : m_keys) {
-            if (!held.isModifierKey && millisecondsAfter(time, held.pressTime) > 0) return true;
-        }
-        return false;
+    /// Whether the key may repeat at that time: it has been down for the delay before repeats.
+    bool mayRepeat(std::uint8_t keycode, ServerTime time) const {
+        return std::any_of(m_keys.begin(), m_keys.end(), [&](const auto& entry) {
+            return entry.first.second == keycode && hasBeenDownForDelay(entry.second, time);
+        });
     }
 
+    /// Whether any key may have repeated until then.
+    bool mayHaveRepeated(ServerTime time) const {
+        return std::any_of(m_keys.begin(), m_keys.end(), [&](const auto& entry) {
+            return !entry.second.isModifierKey && hasBeenDownForDelay(entry.second, time);
+        });
+    }
+
+    /// How long a key is held before it repeats, in milliseconds.
+    void setRepeatDelay(std::int32_t delay) { m_repeatDelay = delay; }
+
   private:
+    bool hasBeenDownForDelay(const HeldKey& held, ServerTime time) const {
+        // The server counts in other clock ticks than it stamps.
+        constexpr std::int32_t rounding = 2;
+        return millisecondsAfter(time, held.pressTime) >= std::max(1, m_repeatDelay - rounding);
+    }
+
+    std::int32_t m_repeatDelay = 1;
     std::map<std::pair<std::uint16_t, std::uint8_t>, HeldKey> m_keys;
 };

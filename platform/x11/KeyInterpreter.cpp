@@ -69,10 +69,19 @@ void KeyInterpreter::release(const RawKey& key, const HeldKey& held) {
     }
 }
 
-void KeyInterpreter::repeat(std::uint8_t keycode) {
-    const HeldKey* held = m_held.find(keycode);
-    if (held == nullptr || !held->reportedCode || m_muted) return;
-    reportPress(KeyEventKind::autoRepeat, typedBy(keycode));
+void KeyInterpreter::repeat(std::uint8_t keycode, ServerTime time) {
+    if (m_held.mayRepeat(keycode, time)) reportRepeat(*m_held.find(keycode), keycode);
+}
+
+void KeyInterpreter::repeatByKeyboard(const RawKey& key) {
+    HeldKey* held = m_held.find(key.keycode);
+    if (held == nullptr) return;
+    held->pressTime = key.time;
+    reportRepeat(*held, key.keycode);
+}
+
+void KeyInterpreter::reportRepeat(const HeldKey& held, std::uint8_t keycode) {
+    if (held.reportedCode && !m_muted) reportPress(KeyEventKind::autoRepeat, typedBy(keycode));
 }
 
 void KeyInterpreter::lateHotKey(HotKeyId id, std::uint8_t keycode, ServerTime time) {

@@ -45,8 +45,11 @@ class KeyInterpreter {
     const HeldKeys& held() const { return m_held; }
 
     void key(const RawKey& key, const KeyOrigin& origin);
-    /// The key repeats on its own.
-    void repeat(std::uint8_t keycode);
+    /// The server repeats the key; nothing if it is not down for long enough.
+    void repeat(std::uint8_t keycode, ServerTime time);
+    /// The keyboard itself repeats the key that is down.
+    void repeatByKeyboard(const RawKey& key);
+    void setRepeatDelay(std::int32_t milliseconds) { m_held.setRepeatDelay(milliseconds); }
     /// A hot key whose raw press has passed as an ordinary one.
     void lateHotKey(HotKeyId id, std::uint8_t keycode, ServerTime time);
     void keyboardGone(std::uint16_t source, ServerTime time);
@@ -70,6 +73,7 @@ class KeyInterpreter {
     void pressHotKey(const RawKey& key, HeldKey& held, HotKeyId id);
     void pressOrdinary(const RawKey& key, HeldKey& held);
     void watchEscape(const RawKey& key);
+    void reportRepeat(const HeldKey& held, std::uint8_t keycode);
     void reportPress(KeyEventKind kind, const TypedKey& typed);
     void reportModifiers(std::uint32_t mask);
     std::uint32_t heldMask() const;

@@ -42,4 +42,9 @@ struct KeyboardGone {
     std::uint16_t source = 0;
 };
 
-using MonitorEvent = std::variant<RawKey, StateChange, KeymapTouched, KeyboardGone>;
+/// How long a key is held before the server repeats it.
+struct RepeatDelay {
+    std::int32_t milliseconds = 0;
+};
+
+using MonitorEvent = std::variant<RawKey, StateChange, KeymapTouched, KeyboardGone, RepeatDelay>;

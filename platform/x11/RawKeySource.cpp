@@ -10,7 +10,8 @@
 namespace {
 
 constexpr std::uint16_t watchedKeyboardEvents =
-    XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY | XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
+    XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY | XCB_XKB_EVENT_TYPE_STATE_NOTIFY |
+    XCB_XKB_EVENT_TYPE_CONTROLS_NOTIFY;
 constexpr std::uint16_t allMapParts = 0xFF;
 
 template <typename Event>
@@ -38,6 +39,7 @@ Result<void> RawKeySource::setUp() {
     selectInputEvents();
     selectKeyboardEvents();
     m_connection.roundTrip();
+    noteRepeatDelay();
     return {};
 }
 
@@ -132,6 +134,8 @@ void RawKeySource::decodeKeyboardEvent(const xcb_generic_event_t& event) {
     const std::uint8_t kind = event.pad0;
     if (kind == XCB_XKB_NEW_KEYBOARD_NOTIFY || kind == XCB_XKB_MAP_NOTIFY) {
         m_events.emplace_back(KeymapTouched{});
+    } else if (kind == XCB_XKB_CONTROLS_NOTIFY) {
+        noteRepeatDelay();
     } else if (kind == XCB_XKB_STATE_NOTIFY) {
         const auto& state = as<xcb_xkb_state_notify_event_t>(event);
         m_events.emplace_back(
@@ -144,6 +148,12 @@ void RawKeySource::decodeKeyboardEvent(const xcb_generic_event_t& event) {
                         .keycode = state.keycode,
                         .press = state.eventType == XCB_KEY_PRESS});
     }
+}
+
+void RawKeySource::noteRepeatDelay() {
+    const XReply<xcb_xkb_get_controls_reply_t> controls(xcb_xkb_get_controls_reply(
+        m_connection, xcb_xkb_get_controls(m_connection, XCB_XKB_ID_USE_CORE_KBD), nullptr));
+    if (controls) m_events.emplace_back(RepeatDelay{controls->repeatDelay});
 }
 
 bool RawKeySource::isSynthetic(std::uint16_t source) {

@@ -44,6 +44,7 @@ class RawKeySource {
     void decodeInputEvent(const xcb_generic_event_t& event);
     void decodeHierarchy(const xcb_generic_event_t& event);
     void decodeKeyboardEvent(const xcb_generic_event_t& event);
+    void noteRepeatDelay();
     bool isSynthetic(std::uint16_t source);
 
     XConnection m_connection;

@@ -19,35 +19,37 @@ constexpr std::size_t eventSize = 32;
 }  // namespace
 
 void RepeatQueue::add(std::uint8_t keycode, bool press, ServerTime time) {
-    m_entries.push_back({keycode, press, press && m_down[keycode], time});
+    m_entries.push_back({{keycode, time}, press, press && m_down[keycode]});
     m_down[keycode] = press;
 }
 
-bool RepeatQueue::hasRepeats() const {
-    return std::any_of(m_entries.begin(), m_entries.end(), [](const Entry& entry) { return entry.repeat; });
+bool RepeatQueue::hasAny(const Condition& condition) const {
+    return std::any_of(m_entries.begin(), m_entries.end(),
+                       [&](const Entry& entry) { return entry.isRepeat && condition(entry.what); });
 }
 
-std::vector<std::uint8_t> RepeatQueue::takeBefore(const RawKey& key) {
-    const auto mark = std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry& entry) {
-        return !entry.repeat && entry.keycode == key.keycode && entry.press == key.press &&
-               entry.time == key.time;
-    });
-    if (mark != m_entries.end()) return takeFirst(static_cast<std::size_t>(mark - m_entries.begin()) + 1);
-    // The core event has not been made yet or never will be; only time tells.
+std::vector<KeyRepeat> RepeatQueue::takeBefore(const RawKey& key) {
     const auto later = std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry& entry) {
-        return millisecondsAfter(entry.time, key.time) >= 0;
+        return millisecondsAfter(entry.what.time, key.time) > 0;
     });
-    return takeFirst(static_cast<std::size_t>(later - m_entries.begin()));
+    const auto mark = std::find_if(m_entries.begin(), later, [&](const Entry& entry) {
+        return !entry.isRepeat && entry.press == key.press && entry.what == KeyRepeat{key.keycode, key.time};
+    });
+    if (mark != later) return takeFirst(static_cast<std::size_t>(mark - m_entries.begin()) + 1);
+    // The core event has not been made yet or never will be; only time tells.
+    const auto sameTime = std::find_if(m_entries.begin(), later,
+                                       [&](const Entry& entry) { return entry.what.time == key.time; });
+    return takeFirst(static_cast<std::size_t>(sameTime - m_entries.begin()));
 }
 
-std::vector<std::uint8_t> RepeatQueue::takeUpTo(std::uint64_t count) {
+std::vector<KeyRepeat> RepeatQueue::takeUpTo(std::uint64_t count) {
     return takeFirst(count > m_taken ? static_cast<std::size_t>(count - m_taken) : 0);
 }
 
-std::vector<std::uint8_t> RepeatQueue::takeFirst(std::size_t count) {
-    std::vector<std::uint8_t> repeats;
+std::vector<KeyRepeat> RepeatQueue::takeFirst(std::size_t count) {
+    std::vector<KeyRepeat> repeats;
     for (; count > 0; --count) {
-        if (m_entries.front().repeat) repeats.push_back(m_entries.front().keycode);
+        if (m_entries.front().isRepeat) repeats.push_back(m_entries.front().what);
         m_entries.pop_front();
         ++m_taken;
     }

@@ -4,6 +4,7 @@
 #include <bitset>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,29 +12,38 @@
 #include "platform/x11/MonitorEvents.h"
 #include "platform/x11/XConnection.h"
 
-/// What the keyboard's core events say: which presses are auto-repeats. A first press or a release is kept
-/// only as the mark of its place between the repeats.
+/// A key of the core keyboard goes down again without having gone up.
+struct KeyRepeat {
+    std::uint8_t keycode = 0;
+    ServerTime time = 0;
+
+    friend bool operator==(const KeyRepeat&, const KeyRepeat&) = default;
+};
+
+/// The keyboard's core events in their order. The repeats among them are taken; a first press or a release is
+/// kept only as the mark of the place of its raw event.
 class RepeatQueue {
   public:
+    using Condition = std::function<bool(const KeyRepeat&)>;
+
     void add(std::uint8_t keycode, bool press, ServerTime time);
 
-    bool hasRepeats() const;
-    /// Takes the key codes of the repeats that came before this raw event.
-    std::vector<std::uint8_t> takeBefore(const RawKey& key);
-    /// Takes those of the first entries, as many as count() has once told, and forgets their marks.
-    std::vector<std::uint8_t> takeUpTo(std::uint64_t count);
-    /// How many entries there have ever been.
+    bool hasAny(const Condition& condition) const;
+    /// Takes the repeats that came before this raw event.
+    std::vector<KeyRepeat> takeBefore(const RawKey& key);
+    /// Takes those among the first events, as many as count() has once told.
+    std::vector<KeyRepeat> takeUpTo(std::uint64_t count);
+    /// How many events there have ever been.
     std::uint64_t count() const { return m_taken + m_entries.size(); }
 
   private:
     struct Entry {
-        std::uint8_t keycode;
+        KeyRepeat what;
         bool press;
-        bool repeat;
-        ServerTime time;
+        bool isRepeat;
     };
 
-    std::vector<std::uint8_t> takeFirst(std::size_t count);
+    std::vector<KeyRepeat> takeFirst(std::size_t count);
 
     std::deque<Entry> m_entries;
     std::uint64_t m_taken = 0;

@@ -130,13 +130,21 @@ void X11EventManager::Parts::runEnds() {
     kick();
 }
 
-void X11EventManager::Parts::endHotKeyGrab() { m_grabs->endActiveGrab(); }
-
-bool X11EventManager::Parts::liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) {
-    return m_hotKeys.lift(keycode, modifiers);
+void X11EventManager::Parts::endHotKeyGrab() {
+    m_grabs->endActiveGrab();
+    kick();
 }
 
-void X11EventManager::Parts::restoreHotKey() { m_hotKeys.restore(); }
+bool X11EventManager::Parts::liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) {
+    const bool lifted = m_hotKeys.lift(keycode, modifiers);
+    kick();
+    return lifted;
+}
+
+void X11EventManager::Parts::restoreHotKey() {
+    m_hotKeys.restore();
+    kick();
+}
 
 void X11EventManager::Parts::setHotKeyHandlers(HotKeys::Handler pressed, HotKeys::Handler released) {
     m_pressed = std::move(pressed);

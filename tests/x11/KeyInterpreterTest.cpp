@@ -70,19 +70,30 @@ TEST_F(KeyInterpreterTest, aKeyboardThatIsUnpluggedReleasesItsKeys) {
 }
 
 TEST_F(KeyInterpreterTest, aRepeatOfAKeyThatIsUpIsNothing) {
-    m_interpreter.repeat(a);
+    m_interpreter.repeat(a, 90);
     press(a);
-    m_interpreter.repeat(a);
+    m_interpreter.repeat(a, 150);
     release(a);
-    m_interpreter.repeat(a);
+    m_interpreter.repeat(a, 210);
     EXPECT_EQ(keyEvents(), (std::vector{aDown, KeyEvent{KeyEventKind::autoRepeat, 0, 'a', 0}, aUp}));
+}
+
+TEST_F(KeyInterpreterTest, nothingRepeatsBeforeTheDelay) {
+    m_interpreter.setRepeatDelay(250);
+    press(a);
+    EXPECT_FALSE(m_interpreter.held().mayHaveRepeated(340));
+    m_interpreter.repeat(a, 340);
+    EXPECT_EQ(keyEvents(), std::vector{aDown});
+    EXPECT_TRUE(m_interpreter.held().mayHaveRepeated(350));
+    m_interpreter.repeat(a, 350);
+    EXPECT_EQ(keyEvents(), (std::vector{KeyEvent{KeyEventKind::autoRepeat, 0, 'a', 0}}));
 }
 
 TEST_F(KeyInterpreterTest, aPressThatWasNotReportedHasNoRelease) {
     m_interpreter.setMuted(true);
     press(a);
     m_interpreter.setMuted(false);
-    m_interpreter.repeat(a);
+    m_interpreter.repeat(a, 150);
     release(a);
     EXPECT_EQ(keyEvents(), std::vector<KeyEvent>{});
 }
@@ -113,7 +124,7 @@ TEST_F(KeyInterpreterTest, escapeReadLateCountsByTheServersTime) {
     EXPECT_TRUE(m_cancel.isCancelled());
 }
 
-TEST(RepeatQueueTest, repeatsAreTakenBeforeTheEventThatFollowsThem) {
+TEST(RepeatQueueTest, givesTheRepeatsBeforeARawEvent) {
     RepeatQueue queue;
     queue.add(a, true, 100);
     queue.add(a, true, 600);
@@ -121,19 +132,31 @@ TEST(RepeatQueueTest, repeatsAreTakenBeforeTheEventThatFollowsThem) {
     queue.add(shift, true, 630);
     queue.add(a, true, 660);
     EXPECT_EQ(queue.takeBefore({.keycode = shift, .press = true, .time = 630}),
-              (std::vector<std::uint8_t>{a, a}));
-    EXPECT_TRUE(queue.hasRepeats());
-    EXPECT_EQ(queue.takeUpTo(queue.count()), (std::vector<std::uint8_t>{a}));
+              (std::vector<KeyRepeat>{{a, 600}, {a, 630}}));
+    EXPECT_TRUE(queue.hasAny([](const KeyRepeat& repeat) { return repeat.time == 660; }));
+    EXPECT_EQ(queue.takeUpTo(queue.count()), (std::vector<KeyRepeat>{{a, 660}}));
+    EXPECT_FALSE(queue.hasAny([](const KeyRepeat&) { return true; }));
 }
 
-TEST(RepeatQueueTest, withoutAMarkTimeTellsWhatCameBefore) {
+TEST(RepeatQueueTest, takesUpToWhatWasKnownOnce) {
+    RepeatQueue queue;
+    queue.add(a, true, 100);
+    queue.add(a, true, 600);
+    const std::uint64_t known = queue.count();
+    queue.add(a, true, 630);
+    EXPECT_EQ(queue.takeUpTo(known), (std::vector<KeyRepeat>{{a, 600}}));
+    EXPECT_EQ(queue.takeUpTo(known), std::vector<KeyRepeat>{});
+}
+
+TEST(RepeatQueueTest, withoutItsMarkTimeTellsWhatCameBefore) {
     RepeatQueue queue;
     queue.add(a, true, 0xFFFFFF00U);
     queue.add(a, true, 0xFFFFFFF0U);
     queue.add(a, true, 10);
-    EXPECT_EQ(queue.takeBefore({.keycode = shift, .press = true, .time = 5}), (std::vector<std::uint8_t>{a}));
+    EXPECT_EQ(queue.takeBefore({.keycode = shift, .press = true, .time = 5}),
+              (std::vector<KeyRepeat>{{a, 0xFFFFFFF0U}}));
     EXPECT_EQ(queue.takeBefore({.keycode = shift, .press = true, .time = 11}),
-              (std::vector<std::uint8_t>{a}));
+              (std::vector<KeyRepeat>{{a, 10}}));
 }
 
 TEST(KeyGrabTest, hasAVariantForEachSetOfLocks) {

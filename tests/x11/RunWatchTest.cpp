@@ -280,7 +280,7 @@ TEST_F(RunWatchTest, aLayoutChangedDuringARunIsFollowed) {
     EXPECT_TRUE(loopUntilLine("down 12 a 0x0"));
 }
 
-TEST_F(RunWatchTest, aRealKeyThatRepeatsThroughTheNestedServerIsOneDownAndRepeats) {
+TEST_F(RunWatchTest, pairsOfReleaseAndPressAtOneTimeAreRepeats) {
     CoreClient application(servers().display());
     user().press(xkey::a);
     ASSERT_TRUE(eventually([&] {
@@ -289,8 +289,11 @@ TEST_F(RunWatchTest, aRealKeyThatRepeatsThroughTheNestedServerIsOneDownAndRepeat
     }));
     user().release(xkey::a);
     ASSERT_TRUE(loopUntilLine("up 0"));
-    EXPECT_EQ(std::count(log().begin(), log().end(), "down 0 a 0x0"), 1);
-    EXPECT_EQ(std::count(log().begin(), log().end(), "repeat 0 a 0x0"), application.presses(xkey::a) - 1);
+    // A slow machine may pass a pair on with two times; then it is a release and a press for everybody.
+    const long downs = std::count(log().begin(), log().end(), "down 0 a 0x0");
+    const long repeats = std::count(log().begin(), log().end(), "repeat 0 a 0x0");
+    EXPECT_EQ(repeats, application.repeats(xkey::a));
+    EXPECT_EQ(downs + repeats, application.presses(xkey::a));
 }
 
 class WithoutRecordTest : public RunWatchTest {
