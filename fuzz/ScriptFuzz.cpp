@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+//
+// A script file from a stranger: decoded, compiled, and run for a bounded number of steps.
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <utility>
+#include <variant>
+
+#include "platform/KeyInjector.h"
+#include "platform/script/Compiler.h"
+#include "platform/script/Encoding.h"
+#include "platform/script/Machine.h"
+
+namespace {
+
+constexpr int maxSteps = 1000;
+
+/// Lets the user stop the run after a while, since scripts may loop for ever.
+class BoundedInjector : public KeyInjector {
+  public:
+    Result<std::unique_ptr<InjectionSession>> open(const InjectionPlan& plan) override;
+    void startPlayback() override {}
+    bool isCancelled() override { return ++m_steps > maxSteps; }
+
+  private:
+    int m_steps = 0;
+};
+
+class BoundedSession : public InjectionSession {
+  public:
+    explicit BoundedSession(BoundedInjector& injector) : m_injector(injector) {}
+
+    Result<RunState> stroke(std::uint32_t keyCode, std::uint32_t /*modifiers*/) override {
+        if (keyCode > 0xFFFF) std::abort();
+        return step();
+    }
+    Result<RunState> text(std::string_view text, std::uint32_t /*modifiers*/) override {
+        if (text.empty() || script::invalidUtf8(text)) std::abort();
+        return step();
+    }
+    Result<RunState> keyDown(const HeldKey& /*key*/) override { return step(); }
+    Result<RunState> keyUp(const HeldKey& /*key*/) override { return step(); }
+    Result<RunState> pause(double /*seconds*/) override { return step(); }
+
+  private:
+    Result<RunState> step() { return m_injector.isCancelled() ? RunState::cancelled : RunState::going; }
+
+    BoundedInjector& m_injector;
+};
+
+Result<std::unique_ptr<InjectionSession>> BoundedInjector::open(const InjectionPlan& /*plan*/) {
+    return std::unique_ptr<InjectionSession>(std::make_unique<BoundedSession>(*this));
+}
+
+/// Every error has a number, words that can be shown, and a place.
+void check(const script::ScriptError& error) {
+    if (error.number == 0 || error.message.empty() || script::invalidUtf8(error.message)) std::abort();
+    if (error.location.line == 0 || error.location.column == 0) std::abort();
+}
+
+}  // namespace
+
+// NOLINTNEXTLINE(readability-identifier-naming): the name that the fuzzer calls
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    std::string source = script::decodedScript(std::string(data, data + size));
+    if (script::invalidUtf8(source)) std::abort();
+    const auto compiled = script::compile(std::move(source));
+    if (const auto* error = std::get_if<script::ScriptError>(&compiled)) {
+        check(*error);
+        return 0;
+    }
+    BoundedInjector injector;
+    script::Machine machine(std::get<script::Program>(compiled), injector);
+    machine.onWarning([](const script::ScriptWarning& warning) {
+        if (warning.message.empty()) std::abort();
+    });
+    const script::RunResult result = machine.run();
+    if (result.error) check(*result.error);
+    return 0;
+}
