@@ -1,13 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "contracts/EventMonitorContract.h"
 #include "contracts/HotKeysContract.h"
+#include "contracts/KeyboardLayoutContract.h"
+#include "platform/x11/X11KeyboardLayout.h"
 #include "x11/X11World.h"
 
 namespace {
 
+class X11LayoutWorld : public KeyboardLayoutWorld {
+  public:
+    KeyboardLayout& layout() override { return m_layout; }
+
+  private:
+    X11World m_world;
+    X11KeyboardLayout m_layout{m_world.manager()};
+};
+
 std::unique_ptr<KeyboardWorld> makeWorld() { return std::make_unique<X11World>(); }
+std::unique_ptr<KeyboardLayoutWorld> makeLayoutWorld() { return std::make_unique<X11LayoutWorld>(); }
 
 }  // namespace
 
 INSTANTIATE_TEST_SUITE_P(X11, EventMonitorContract, testing::Values(&makeWorld));
 INSTANTIATE_TEST_SUITE_P(X11, HotKeysContract, testing::Values(&makeWorld));
+INSTANTIATE_TEST_SUITE_P(X11, KeyboardLayoutContract, testing::Values(&makeLayoutWorld));
