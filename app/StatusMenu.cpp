@@ -15,6 +15,7 @@ void applyTo(QAction* item, const MenuItemState& state) {
 QString menuTitle(QString text) { return text.replace(u'&', QStringLiteral("&&")); }
 
 StatusMenu::StatusMenu() {
+    setWindowTitle(tr("Keyrill menu"));
     recordMenuItem = addAction(menuTitle(tr("Start Recording")));
     stopMenuItem = addAction(menuTitle(tr("Stop Recording")));
     saveDelayMenuItem = addAction(menuTitle(tr("Save Pause")));

@@ -21,6 +21,8 @@ Program::Program(X11Backends& backends)
       m_signals(interruptRun, &backends.keyInjector()),
       m_eventsReadable(backends.eventManager().fileDescriptor(), QSocketNotifier::Read),
       m_trayReadable(backends.dockingTray().fileDescriptor(), QSocketNotifier::Read) {
+    QApplication::setApplicationName(QStringLiteral("keyrill"));
+    QApplication::setDesktopFileName(QStringLiteral("example.orlen.Keyrill"));
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_signals, &TerminationSignals::received, &m_controller, &AppController::kill);
     QObject::connect(&m_eventsReadable, &QSocketNotifier::activated,

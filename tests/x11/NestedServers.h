@@ -16,6 +16,8 @@ class NestedServers {
     explicit NestedServers(const std::vector<std::string>& options = {});
 
     const std::string& display() const { return m_inner->display(); }
+    /// Where the real keyboard is.
+    const std::string& outerDisplay() const { return m_outer.display(); }
     /// The user's hands at the real keyboard.
     const Hands& user() const { return *m_user; }
     /// Another program at the inner server.

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/DesktopTest.h"
+#include "x11/NestedServers.h"
+
+namespace {
+
+/// A million repetitions are played; the user, at a keyboard that is none of XTEST's, ends them.
+class CancelTest : public testing::Test {
+  protected:
+    static constexpr std::chrono::milliseconds bound{500};
+
+    CancelTest() {
+        // One press, one Escape.
+        outputOf({"xset", "r", "off"}, {{"DISPLAY", servers.outerDisplay()}});
+        desktop.run({"xdotool", "key", "ctrl+super+m"});
+        EXPECT_TRUE(eventually([this] { return desktop.shows(title::prompt); }));
+        EXPECT_TRUE(eventually([this] {
+            return desktop.run({"xdotool", "getwindowfocus", "-f"}) == desktop.window(title::prompt) + "\n";
+        }));
+        desktop.run({"xdotool", "type", "1000000"});
+        desktop.run({"xdotool", "key", "Return"});
+        terminal.awaitBytes(20);
+    }
+
+    /// What the terminal receives after the bound, a full stop from another program included.
+    std::string receivedAfterTheBound() const {
+        const auto end = std::chrono::steady_clock::now() + bound;
+        eventually([end] { return std::chrono::steady_clock::now() >= end; });
+        const std::size_t sofar = terminal.received().size();
+        servers.program().tap(key::period);
+        servers.program().finish();
+        EXPECT_TRUE(eventually([this] { return terminal.received().ends_with('.'); }));
+        return terminal.received().substr(sofar);
+    }
+
+    NestedServers servers;
+    Desktop desktop{servers.display()};
+    Terminal terminal{desktop};
+    Keyrill keyrill{desktop, "tell application \"System Events\" to key code 0\n"};
+};
+
+TEST_F(CancelTest, aHeldEscapeEndsAMillionRepetitions) {
+    servers.user().press(key::escape);
+    servers.finish();
+    EXPECT_EQ(receivedAfterTheBound(), ".");
+    servers.user().release(key::escape);
+    servers.finish();
+    EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
+}
+
+TEST_F(CancelTest, theStopCombinationEndsAMillionRepetitions) {
+    servers.user().press(key::control);
+    servers.user().press(key::super);
+    servers.user().tap(key::s);
+    servers.user().release(key::super);
+    servers.user().release(key::control);
+    servers.finish();
+    EXPECT_EQ(receivedAfterTheBound(), ".");
+    EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
+}
+
+}  // namespace

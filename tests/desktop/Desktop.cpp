@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/Desktop.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+#include "platform/x11/XConnection.h"
+
+namespace {
+
+constexpr const char* terminalTitle = "Terminal";
+
+void awaitOrThrow(const std::string& what, const std::function<bool()>& condition) {
+    if (!eventually(condition, std::chrono::seconds(20)))
+        throw std::runtime_error("waited in vain for " + what);
+}
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) lines.push_back(line);
+    return lines;
+}
+
+std::vector<std::string> commandFor(const Desktop& desktop, const std::string& script) {
+    if (script.empty()) return {KEYRILL_PROGRAM};
+    const std::string file = desktop.file("script");
+    std::ofstream(file, std::ios::binary) << script;
+    return {KEYRILL_PROGRAM, file};
+}
+
+}  // namespace
+
+Desktop::Desktop() : m_server(std::make_unique<XServer>()), m_display(m_server->display()) { makeHome(); }
+
+Desktop::Desktop(const std::string& display) : m_display(display) { makeHome(); }
+
+void Desktop::makeHome() {
+    const std::filesystem::path presets = m_folder.file("presets");
+    std::filesystem::create_directories(presets / "keyrill");
+    std::filesystem::copy_file(KEYRILL_PRESETS, presets / "keyrill/keyrill.conf");
+    std::filesystem::create_directories(m_folder.file("home"));
+    mkdir(m_folder.file("runtime").c_str(), 0700);
+    m_environment = {{"DISPLAY", m_display},
+                     {"HOME", m_folder.file("home")},
+                     {"XDG_RUNTIME_DIR", m_folder.file("runtime")},
+                     {"XDG_CONFIG_DIRS", presets},
+                     {"XDG_CONFIG_HOME", ""},
+                     {"XDG_DATA_HOME", ""},
+                     {"XDG_CURRENT_DESKTOP", ""},
+                     {"WAYLAND_DISPLAY", ""},
+                     {"LC_ALL", "C.UTF-8"},
+                     {"DBUS_SESSION_BUS_ADDRESS", "disabled:"}};
+}
+
+Child::Options Desktop::options(const std::string& log) const {
+    return {.environment = m_environment, .outputFile = m_folder.file(log)};
+}
+
+void Desktop::startWindowManager() {
+    m_manager =
+        std::make_unique<Child>(std::vector<std::string>{"openbox", "--sm-disable"}, options("openbox.log"));
+    awaitOrThrow("the window manager", [this] {
+        return run({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}).find("0x") != std::string::npos;
+    });
+}
+
+void Desktop::startTray() {
+    m_tray =
+        std::make_unique<Child>(std::vector<std::string>{"trayer", "--edge", "bottom", "--align", "right",
+                                                         "--height", "28", "--widthtype", "request"},
+                                options("trayer.log"));
+}
+
+std::string Desktop::run(const std::vector<std::string>& command) const {
+    return outputOf(command, m_environment);
+}
+
+bool Desktop::succeeds(const std::vector<std::string>& command) const {
+    return Child(command, options("command.log")).wait() == 0;
+}
+
+std::string Desktop::window(const std::string& title) const {
+    const TemporaryFolder folder;
+    // The output of a client that may find nothing, or a window that has gone by now.
+    const auto outputOfClient = [&](const std::vector<std::string>& command, const std::string& file) {
+        Child client(command, {.environment = m_environment, .outputFile = folder.file(file)});
+        client.wait();
+        return contentOf(folder.file(file));
+    };
+    for (const std::string& number :
+         linesOf(outputOfClient({"xdotool", "search", "--onlyvisible", "--class", "^keyrill$"}, "windows"))) {
+        // The search complains about windows that go while it looks.
+        if (number.find_first_not_of("0123456789") != std::string::npos) continue;
+        const std::string description = outputOfClient({"xwininfo", "-id", number}, number);
+        if (description.find("\"" + title + "\"\n") != std::string::npos) return number;
+    }
+    return {};
+}
+
+bool Desktop::isHotKeyTaken(std::uint8_t keycode) const {
+    const auto connection = XConnection::open(m_display);
+    const XConnection& server = connection.value();
+    // Nobody else may try while the key is ours.
+    xcb_grab_server(server);
+    const auto grab = xcb_grab_key_checked(server, 0, server.root(), XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_4,
+                                           keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const XReply<xcb_generic_error_t> refused(xcb_request_check(server, grab));
+    return refused != nullptr;
+}
+
+std::string Desktop::colourAt(int x, int y) const {
+    const std::string picture = m_folder.file("screen.png");
+    run({"import", "-window", "root", picture});
+    const std::string point = "%[hex:u.p{" + std::to_string(x) + "," + std::to_string(y) + "}]";
+    return "#" + run({"convert", picture, "-format", point, "info:"}).substr(0, 6);
+}
+
+void Desktop::setLayout(const std::vector<std::string>& layoutOptions) const {
+    std::vector<std::string> command = {"setxkbmap"};
+    command.insert(command.end(), layoutOptions.begin(), layoutOptions.end());
+    run(command);
+}
+
+std::vector<std::string> Desktop::keysDown() const {
+    std::vector<std::string> down;
+    for (const std::string& device : linesOf(run({"xinput", "list", "--short"}))) {
+        if (device.find("slave  keyboard") == std::string::npos) continue;
+        const std::size_t start = device.find("id=") + 3;
+        const std::string id = device.substr(start, device.find_first_not_of("0123456789", start) - start);
+        for (const std::string& line : linesOf(run({"xinput", "query-state", id}))) {
+            const std::size_t key = line.find("key[");
+            if (key == std::string::npos || line.find("]=down") == std::string::npos) continue;
+            down.push_back(id + " " + line.substr(key + 4, line.find(']') - key - 4));
+        }
+    }
+    return down;
+}
+
+Terminal::Terminal(const Desktop& desktop)
+    : m_desktop(desktop),
+      m_file(desktop.file("received")),
+      // Neither control characters nor full lines mean anything to the line discipline.
+      m_child({"xterm", "-fa", "DejaVu Sans Mono", "-fs", "10", "-u8", "-T", terminalTitle, "-e", "sh", "-c",
+               "stty raw -echo; touch '" + m_file + "'; exec cat >'" + m_file + "'"},
+              desktop.options("xterm.log")) {
+    awaitOrThrow("the terminal", [this] { return std::filesystem::exists(m_file); });
+    std::string window =
+        m_desktop.run({"xdotool", "search", "--sync", "--onlyvisible", "--name", terminalTitle});
+    m_window = window.substr(0, window.find('\n'));
+    focus();
+}
+
+void Terminal::focus() const {
+    m_desktop.run({"xdotool", "windowfocus", "--sync", m_window});
+    awaitOrThrow("the focus", [this] { return hasFocus(); });
+}
+
+bool Terminal::hasFocus() const {
+    return m_desktop.run({"xdotool", "getwindowfocus", "-f"}) == m_window + "\n";
+}
+
+std::string Terminal::received() const { return contentOf(m_file); }
+
+std::string Terminal::awaitBytes(std::size_t count, std::chrono::milliseconds deadline) const {
+    EXPECT_TRUE(eventually([&] { return std::filesystem::file_size(m_file) >= count; }, deadline))
+        << "received so far: " << received();
+    return received();
+}
+
+Keyrill::Keyrill(const Desktop& desktop, const std::string& script)
+    : m_log(desktop.file("keyrill.log")),
+      m_child(commandFor(desktop, script), desktop.options("keyrill.log")) {
+    awaitOrThrow("Keyrill", [this] { return output().find("-- ready\n") != std::string::npos; });
+}
+
+std::string Keyrill::output() const { return contentOf(m_log); }
+
+std::string Keyrill::script(std::size_t number) const {
+    const std::string beginning = "-- recorded\n";
+    const std::string end = "-- end\n";
+    std::string found;
+    awaitOrThrow("the script of a recording", [&] {
+        const std::string text = output();
+        std::size_t start = 0;
+        for (std::size_t i = 0; i < number; ++i) {
+            start = text.find(beginning, start);
+            if (start == std::string::npos) return false;
+            start += beginning.size();
+        }
+        const std::size_t stop = text.find(end, start);
+        if (stop == std::string::npos) return false;
+        found = text.substr(start, stop - start);
+        return true;
+    });
+    return found;
+}
+
+std::size_t Keyrill::keyLines(const std::string& script) {
+    std::size_t count = 0;
+    for (const std::string& line : linesOf(script))
+        count += line.find("key code (") != std::string::npos ? 1 : 0;
+    return count;
+}

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/DesktopTest.h"
+#include "x11/RepeatCount.h"
+
+namespace {
+
+class HeldKeysTest : public DesktopTest {
+  protected:
+    HeldKeysTest() { desktop.run({"xset", "r", "rate", "100", "50"}); }
+
+    /// How many recordings have ended.
+    std::size_t recordings() const {
+        const std::string output = keyrill.output();
+        std::size_t count = 0;
+        for (std::size_t at = 0; (at = output.find("-- end\n", at)) != std::string::npos; ++at) ++count;
+        return count;
+    }
+
+    /// Holds Ctrl+Super+key until it has repeated a few times.
+    void hold(std::uint8_t keycode) const {
+        RepeatCount count(desktop.display(), keycode);
+        hands.press(key::control);
+        hands.press(key::super);
+        hands.press(keycode);
+        hands.finish();
+        EXPECT_TRUE(eventually([&] { return count.presses() >= 5; }));
+        hands.release(keycode);
+        hands.release(key::super);
+        hands.release(key::control);
+        hands.finish();
+    }
+
+    Hands hands{desktop.display()};
+    Terminal terminal{desktop};
+    Keyrill keyrill{desktop};
+};
+
+TEST_F(HeldKeysTest, recordsAsManyPressesAsTheTerminalGot) {
+    record();
+    hands.press(key::a);
+    hands.flush();
+    terminal.awaitBytes(5);
+    hands.release(key::a);
+    hands.tap(key::period);
+    hands.finish();
+    ASSERT_TRUE(eventually([this] { return terminal.received().ends_with('.'); }));
+    stop();
+    EXPECT_EQ(Keyrill::keyLines(keyrill.script()), terminal.received().size());
+}
+
+TEST_F(HeldKeysTest, aHeldRecordKeyStartsOneRecording) {
+    hold(key::r);
+    press("a");
+    stop();
+    EXPECT_EQ(Keyrill::keyLines(keyrill.script()), 1U);
+    EXPECT_EQ(recordings(), 1U);
+}
+
+TEST_F(HeldKeysTest, aHeldStopKeyEndsTheRecordingOnce) {
+    record();
+    press("a");
+    hold(key::s);
+    EXPECT_EQ(Keyrill::keyLines(keyrill.script()), 1U);
+    record();
+    press("b");
+    stop();
+    EXPECT_EQ(Keyrill::keyLines(keyrill.script(2)), 1U);
+    EXPECT_EQ(recordings(), 2U);
+}
+
+}  // namespace

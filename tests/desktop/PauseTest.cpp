@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include <cmath>
+
+#include "desktop/DesktopTest.h"
+#include "desktop/StatusMenuClicks.h"
+#include "x11/CoreClient.h"
+
+namespace {
+
+using Milliseconds = std::chrono::milliseconds;
+
+/// Lets the user's hands rest.
+void pauseFor(Milliseconds duration) {
+    const auto end = std::chrono::steady_clock::now() + duration;
+    eventually([end] { return std::chrono::steady_clock::now() >= end; });
+}
+
+TEST(PauseTest, aSavedPauseIsPlayedAsLongAsItWas) {
+    Desktop desktop;
+    desktop.startWindowManager();
+    desktop.startTray();
+    const Keyrill keyrill(desktop);
+    StatusMenuClicks menu(desktop);
+    CoreClient client(desktop.display());
+    const Hands hands(desktop.display());
+
+    hands.stroke({key::control, key::super, key::r});
+    hands.tap(key::a);
+    hands.finish();
+    const auto typed = std::chrono::steady_clock::now();
+    pauseFor(Milliseconds(700));
+    menu.open();
+    const auto beforeClick = std::chrono::steady_clock::now();
+    menu.choose(2);
+    const auto afterClick = std::chrono::steady_clock::now();
+    hands.tap(key::b);
+    hands.stroke({key::control, key::super, key::s});
+    hands.finish();
+
+    const std::string script = keyrill.script();
+    const std::size_t first = script.find("delay ", script.find("delay 0.01\n") + 1);
+    ASSERT_NE(first, std::string::npos);
+    const Milliseconds saved(std::lround(1000 * std::stod(script.substr(first + 6))));
+    EXPECT_GE(saved, std::chrono::duration_cast<Milliseconds>(beforeClick - typed) - Milliseconds(20));
+    EXPECT_LE(saved, std::chrono::duration_cast<Milliseconds>(afterClick - typed) + Milliseconds(20));
+
+    const std::size_t before = client.events().size();
+    hands.stroke({key::control, key::super, key::p});
+    hands.finish();
+    std::vector<std::uint32_t> presses;
+    ASSERT_TRUE(eventually([&] {
+        presses.clear();
+        for (std::size_t i = before; i < client.events().size(); ++i) {
+            const CoreClient::KeyEvent& event = client.events()[i];
+            if (event.press && (event.keycode == key::a || event.keycode == key::b))
+                presses.push_back(event.time);
+        }
+        return presses.size() == 2;
+    }));
+    // Between the keys lie the saved pause and the short one that follows each key and each pause.
+    const Milliseconds played(presses[1] - presses[0]);
+    EXPECT_NEAR(static_cast<double>(played.count()), static_cast<double>(saved.count()) + 20, 20);
+}
+
+}  // namespace

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include <signal.h>
+
+#include <algorithm>
+
+#include "desktop/DesktopTest.h"
+
+namespace {
+
+TEST(StartUpTest, withoutADisplayItSaysSoInOneLine) {
+    const TemporaryFolder folder;
+    Child keyrill({KEYRILL_PRODUCT}, {.environment = {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}},
+                                      .outputFile = folder.file("output")});
+    EXPECT_EQ(keyrill.wait(), 1);
+    const std::string output = contentOf(folder.file("output"));
+    EXPECT_EQ(output,
+              "keyrill: The X server of display \"\" cannot be reached. Start the program inside a desktop "
+              "session, or set DISPLAY to a running X server.\n");
+}
+
+class SignalTest : public testing::TestWithParam<int> {};
+
+TEST_P(SignalTest, endsItWithStatusZero) {
+    const Desktop desktop;
+    Child keyrill({KEYRILL_PRODUCT}, desktop.options("product.log"));
+    const Hands hands(desktop.display());
+    // The program that holds the hot key is ready.
+    ASSERT_TRUE(eventually([&] { return desktop.isHotKeyTaken(key::m); }));
+    keyrill.signal(GetParam());
+    EXPECT_EQ(keyrill.wait(std::chrono::seconds(5)), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Signals, SignalTest, testing::Values(SIGTERM, SIGINT, SIGHUP));
+
+TEST(DemonstrationTest, recordsAndPlaysTheSame) {
+    const TemporaryFolder folder;
+    const std::string output =
+        outputOf({std::string(KEYRILL_TOOLS) + "/demonstrate", KEYRILL_PROGRAM, folder.file("picture.png")});
+    EXPECT_NE(output.find("\nIdentical.\n"), std::string::npos) << output;
+    EXPECT_EQ(outputOf({"identify", "-format", "%wx%h", folder.file("picture.png")}), "1280x800");
+}
+
+}  // namespace
