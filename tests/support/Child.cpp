@@ -39,7 +39,9 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts) {
 }  // namespace
 
 Child::Child(const std::vector<std::string>& command, const Options& options) {
-    std::vector<std::string> arguments = command;
+    // Also a test program that is killed takes its children along; the process becomes the command itself.
+    std::vector<std::string> arguments = {"setpriv", "--pdeathsig", "KILL", "--"};
+    arguments.insert(arguments.end(), command.begin(), command.end());
     std::vector<std::string> environment = environmentWith(options.environment);
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
@@ -48,7 +50,7 @@ Child::Child(const std::vector<std::string>& command, const Options& options) {
                                          O_WRONLY | O_CREAT | O_APPEND, 0600);
         posix_spawn_file_actions_adddup2(&actions, STDOUT_FILENO, STDERR_FILENO);
     }
-    const int error = posix_spawnp(&m_pid, command.front().c_str(), &actions, nullptr,
+    const int error = posix_spawnp(&m_pid, arguments.front().c_str(), &actions, nullptr,
                                    pointersTo(arguments).data(), pointersTo(environment).data());
     posix_spawn_file_actions_destroy(&actions);
     if (error != 0) throw std::runtime_error("cannot start " + command.front());

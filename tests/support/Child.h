@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-/// A program that a test starts and that ends with it at the latest. Found on PATH.
+/// A program that a test starts and that ends with it at the latest, however the test ends. Found on PATH;
+/// one that is not there ends with status 127.
 class Child {
   public:
     struct Options {
