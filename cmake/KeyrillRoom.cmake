@@ -9,6 +9,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     # GCC 12 sees overlapping copies in the concatenation of strings that there are not (GCC bug 105651).
     list(APPEND KEYRILL_WARNINGS -Wno-restrict)
 endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND KEYRILL_SANITIZE)
+    # Instrumented code hides from GCC what has been initialised; its manual warns of false warnings then.
+    list(APPEND KEYRILL_WARNINGS -Wno-maybe-uninitialized)
+endif()
 
 # Compile options that all targets of the project share.
 function(keyrill_compile_options target)
