@@ -17,6 +17,29 @@ constexpr xkb_mod_mask_t realModifiers = 0xFF;
 constexpr auto allModifiers = static_cast<xkb_state_component>(
     XKB_STATE_MODS_DEPRESSED | XKB_STATE_MODS_LATCHED | XKB_STATE_MODS_LOCKED);
 
+/// What a key is for, by what it is called in the keymap.
+struct Role {
+    xkb_keysym_t symbol;
+    xkb_mod_mask_t ModifierMasks::*mask;
+};
+constexpr std::array<Role, 17> roles = {{{XKB_KEY_Shift_L, &ModifierMasks::shift},
+                                         {XKB_KEY_Shift_R, &ModifierMasks::shift},
+                                         {XKB_KEY_Control_L, &ModifierMasks::control},
+                                         {XKB_KEY_Control_R, &ModifierMasks::control},
+                                         {XKB_KEY_Alt_L, &ModifierMasks::option},
+                                         {XKB_KEY_Alt_R, &ModifierMasks::option},
+                                         {XKB_KEY_Super_L, &ModifierMasks::command},
+                                         {XKB_KEY_Super_R, &ModifierMasks::command},
+                                         {XKB_KEY_Caps_Lock, &ModifierMasks::capsLock},
+                                         {XKB_KEY_Num_Lock, &ModifierMasks::numLock},
+                                         {XKB_KEY_Scroll_Lock, &ModifierMasks::scrollLock},
+                                         {XKB_KEY_ISO_Level3_Shift, &ModifierMasks::thirdLevel},
+                                         {XKB_KEY_ISO_Level3_Latch, &ModifierMasks::thirdLevel},
+                                         {XKB_KEY_ISO_Level3_Lock, &ModifierMasks::thirdLevel},
+                                         {XKB_KEY_ISO_Level5_Shift, &ModifierMasks::fifthLevel},
+                                         {XKB_KEY_ISO_Level5_Latch, &ModifierMasks::fifthLevel},
+                                         {XKB_KEY_ISO_Level5_Lock, &ModifierMasks::fifthLevel}}};
+
 xkb_mod_mask_t maskOf(xkb_keymap* keymap, const char* name) {
     const xkb_mod_index_t index = xkb_keymap_mod_get_index(keymap, name);
     return index == XKB_MOD_INVALID ? 0 : xkb_mod_mask_t{1} << index;
@@ -86,49 +109,10 @@ void Keymap::tryKey(std::uint8_t keycode, xkb_layout_index_t layout) {
 }
 
 void Keymap::noteRole(xkb_keysym_t symbol, xkb_mod_mask_t modifiers) {
-    switch (symbol) {
-        case XKB_KEY_Shift_L:
-        case XKB_KEY_Shift_R:
-            m_masks.shift |= modifiers;
-            break;
-        case XKB_KEY_Control_L:
-        case XKB_KEY_Control_R:
-            m_masks.control |= modifiers;
-            break;
-        case XKB_KEY_Alt_L:
-        case XKB_KEY_Alt_R:
-            m_masks.option |= modifiers;
-            break;
-        case XKB_KEY_Meta_L:
-        case XKB_KEY_Meta_R:
-            m_meta |= modifiers;
-            break;
-        case XKB_KEY_Super_L:
-        case XKB_KEY_Super_R:
-            m_masks.command |= modifiers;
-            break;
-        case XKB_KEY_Caps_Lock:
-            m_masks.capsLock |= modifiers;
-            break;
-        case XKB_KEY_Num_Lock:
-            m_masks.numLock |= modifiers;
-            break;
-        case XKB_KEY_Scroll_Lock:
-            m_masks.scrollLock |= modifiers;
-            break;
-        case XKB_KEY_ISO_Level3_Shift:
-        case XKB_KEY_ISO_Level3_Latch:
-        case XKB_KEY_ISO_Level3_Lock:
-            m_masks.thirdLevel |= modifiers;
-            break;
-        case XKB_KEY_ISO_Level5_Shift:
-        case XKB_KEY_ISO_Level5_Latch:
-        case XKB_KEY_ISO_Level5_Lock:
-            m_masks.fifthLevel |= modifiers;
-            break;
-        default:
-            break;
+    for (const Role& role : roles) {
+        if (role.symbol == symbol) m_masks.*role.mask |= modifiers;
     }
+    if (symbol == XKB_KEY_Meta_L || symbol == XKB_KEY_Meta_R) m_meta |= modifiers;
 }
 
 const Keymap::KeyEffect& Keymap::effect(std::uint8_t keycode, xkb_layout_index_t layout) const {
