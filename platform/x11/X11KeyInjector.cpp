@@ -83,7 +83,11 @@ Result<std::unique_ptr<InjectionSession>> X11KeyInjector::open(const InjectionPl
         tools, plan, [parts = m_parts.get()] { parts->hasSession = false; }));
 }
 
-void X11KeyInjector::startPlayback() { m_watch.startPlayback(); }
+void X11KeyInjector::startPlayback() {
+    // What has come but was not read belongs to what was before.
+    m_watch.drain();
+    m_watch.startPlayback();
+}
 
 bool X11KeyInjector::isCancelled() {
     m_watch.drain();

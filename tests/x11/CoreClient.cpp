@@ -35,6 +35,7 @@ const std::vector<CoreClient::KeyEvent>& CoreClient::events() {
     m_connection.roundTrip();
     while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
         const int type = event->response_type & 0x7F;
+        if (type == XCB_MAPPING_NOTIFY) ++m_mappingChanges;
         if (type != XCB_KEY_PRESS && type != XCB_KEY_RELEASE) continue;
         const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(*event);
         m_events.push_back({type == XCB_KEY_PRESS, key.detail, key.state, key.time});
@@ -58,6 +59,11 @@ int CoreClient::presses(std::uint8_t keycode) {
     return static_cast<int>(std::count_if(all.begin(), all.end(), [keycode](const KeyEvent& event) {
         return event.press && event.keycode == keycode;
     }));
+}
+
+int CoreClient::mappingChanges() {
+    events();
+    return m_mappingChanges;
 }
 
 bool CoreClient::grabKey(std::uint8_t keycode, std::uint16_t modifiers) const {

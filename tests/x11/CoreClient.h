@@ -26,6 +26,9 @@ class CoreClient {
     int repeats(std::uint8_t keycode);
     int presses(std::uint8_t keycode);
 
+    /// How often the server has told of a changed keymap so far.
+    int mappingChanges();
+
     /// The combination for this client alone; false if somebody has it.
     bool grabKey(std::uint8_t keycode, std::uint16_t modifiers) const;
     void grabKeyboard() const;
@@ -37,4 +40,5 @@ class CoreClient {
     XConnection m_connection;
     xcb_window_t m_window = 0;
     std::vector<KeyEvent> m_events;
+    int m_mappingChanges = 0;
 };

@@ -244,6 +244,13 @@ TEST_F(StrokeTest, aMarkThatNobodyLocksHasTheNextStartReleaseWhatXtestHolds) {
     EXPECT_TRUE(std::filesystem::is_empty(folder));
 }
 
+TEST_F(StrokeTest, anEndBetweenTwoRunsReleasesNothingThatOthersHold) {
+    ASSERT_TRUE(run()->stroke(key::a, 0));
+    command({"xdotool", "keydown", "shift"});
+    program().end();
+    EXPECT_EQ(probe().held(), "keys: 50, modifiers: 0x1");
+}
+
 TEST_F(StrokeTest, nothingIsPlayedWithoutAGuard) {
     X11KeyInjector injector(program().manager().runWatch(), program().clock(),
                             {.display = display(), .guard = "/nonexistent/guard", .runtimeFolder = {}});

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+
+#include "platform/Modifiers.h"
+#include "x11/Hands.h"
+#include "x11/InjectorTest.h"
+
+namespace {
+
+constexpr std::uint8_t lockBit = 0x02;
+constexpr const char* record = "_KEYRILL_BOUND_KEYS";
+
+/// What a terminal gets of texts.
+class TextTest : public InjectorTest {
+  protected:
+    /// Types the text into a terminal; what arrives there.
+    std::string typedInto(const std::string& text) {
+        terminal();
+        const auto result = run({.texts = {text}})->text(text, 0);
+        EXPECT_EQ(wordsOf(result), "going");
+        return terminal().typed(text.size());
+    }
+    Terminal& terminal() {
+        if (!m_terminal) m_terminal.emplace(display());
+        return *m_terminal;
+    }
+    /// The server's whole keymap as text.
+    std::string keymap() const { return command({"xkbcomp", display(), "-"}) + command({"xmodmap", "-pke"}); }
+    /// The first `count` ideographs, none of them twice.
+    static std::string ideographs(int count) {
+        std::string text;
+        for (int index = 0; index < count; ++index) {
+            const int code = 0x4E00 + index;
+            text += static_cast<char>(0xE0 | code >> 12);
+            text += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+            text += static_cast<char>(0x80 | (code & 0x3F));
+        }
+        return text;
+    }
+
+  private:
+    std::optional<Terminal> m_terminal;
+};
+
+TEST_F(TextTest, allOfAsciiArrives) {
+    std::string text;
+    for (char character = ' '; character <= '~'; ++character) text += character;
+    EXPECT_EQ(typedInto(text + "\t\n"), text + "\t\n");
+}
+
+TEST_F(TextTest, lineEndsOfAnyKindAreOneReturnEach) {
+    terminal();
+    ASSERT_TRUE(run()->text("a\r\nb\nc\rd\n\ne", 0));
+    EXPECT_EQ(terminal().typed(10), "a\nb\nc\nd\n\ne");
+}
+
+TEST_F(TextTest, charactersOfNoLayoutArrive) {
+    EXPECT_EQ(typedInto("née 5 € 漢字 😀 ß жук né"), "née 5 € 漢字 😀 ß жук né");
+}
+
+TEST_F(TextTest, theGermanLayoutTypesItsOwnCharacters) {
+    command({"setxkbmap", "de"});
+    const std::string before = keymap();
+    EXPECT_EQ(typedInto("Zü ÄÖß @ € {[]} \\ ~ | µ"), "Zü ÄÖß @ € {[]} \\ ~ | µ");
+    EXPECT_EQ(keymap(), before);
+}
+
+TEST_F(TextTest, bothGroupsOfTwoLayoutsAreUsedFromEither) {
+    command({"setxkbmap", "us,ru"});
+    const std::string before = keymap();
+    const std::string text = "Hello Привет, two два 2\n";
+    EXPECT_EQ(typedInto(text), text);
+    EXPECT_EQ(probe().group(), 0);
+    const Hands user(display());
+    user.lockGroup(1);
+    user.finish();
+    ASSERT_EQ(probe().group(), 1);
+    ASSERT_TRUE(run()->text(text, 0));
+    EXPECT_EQ(terminal().typed(2 * text.size()), text + text);
+    EXPECT_EQ(probe().group(), 1);
+    EXPECT_EQ(keymap(), before);
+}
+
+TEST_F(TextTest, capsLockIsOutOfTheWayAndOnAgain) {
+    command({"xdotool", "key", "Caps_Lock"});
+    EXPECT_EQ(typedInto("Hello é漢 WORLD"), "Hello é漢 WORLD");
+    EXPECT_EQ(probe().locked(), lockBit);
+}
+
+TEST_F(TextTest, numLockChangesNothing) {
+    command({"xdotool", "key", "Num_Lock"});
+    EXPECT_EQ(typedInto("123 .,+-*/= é"), "123 .,+-*/= é");
+}
+
+TEST_F(TextTest, modifiersAreHeldOverEachCharacter) {
+    terminal();
+    ASSERT_TRUE(run()->text("ab", modifier::control));
+    ASSERT_TRUE(run()->text("c", modifier::shift));
+    EXPECT_EQ(terminal().typed(3),
+              "\x01\x02"
+              "C");
+}
+
+TEST_F(TextTest, aTextOf30000CharactersArrivesWhole) {
+    std::string text;
+    for (int line = 0; line < 500; ++line) {
+        text += "The Quick brown fox jumps over 13 lazy dogs; again & again\n";
+    }
+    EXPECT_EQ(typedInto(text), text);
+}
+
+TEST_F(TextTest, moreDifferentCharactersThanUnusedKeysArriveWhole) {
+    const std::string text = ideographs(300);
+    EXPECT_EQ(typedInto(text), text);
+}
+
+TEST_F(TextTest, manyNewCharactersAreOneChangeOfTheKeymap) {
+    CoreClient client(display());
+    const int before = client.mappingChanges();
+    const std::string text = ideographs(60);
+    auto session = run({.texts = {text}});
+    ASSERT_TRUE(session->text(text, 0));
+    ASSERT_TRUE(session->text(text, 0));
+    session.reset();
+    const int once = client.mappingChanges() - before;
+    EXPECT_GE(once, 1);
+    EXPECT_LE(once, 4);
+    ASSERT_TRUE(run()->text(text, 0));
+    EXPECT_EQ(client.mappingChanges() - before, once);
+}
+
+TEST_F(TextTest, theKeymapIsAsBeforeWhenTheProgramHasEnded) {
+    const std::string before = keymap();
+    const std::string text = ideographs(70) + "é";
+    EXPECT_EQ(typedInto(text), text);
+    EXPECT_NE(keymap(), before);
+    EXPECT_TRUE(probe().hasProperty(record));
+    program().end();
+    EXPECT_EQ(keymap(), before);
+    EXPECT_FALSE(probe().hasProperty(record));
+}
+
+TEST_F(TextTest, theTextTypedLastArrivesThoughTheProgramEndsAtOnce) {
+    terminal();
+    ASSERT_TRUE(run()->text("漢字é", 0));
+    program().end();
+    EXPECT_EQ(terminal().typed(8), "漢字é");
+}
+
+TEST_F(TextTest, aKeymapSetByTheUserForgetsWhatWasBound) {
+    EXPECT_EQ(typedInto("é漢"), "é漢");
+    command({"setxkbmap", "fr"});
+    const std::string before = keymap();
+    ASSERT_TRUE(run()->text("é漢字", 0));
+    EXPECT_EQ(terminal().typed(13), "é漢é漢字");
+    program().end();
+    EXPECT_EQ(keymap(), before);
+}
+
+TEST_F(TextTest, aTextThatIsNotUtf8IsAnErrorAndTypesNothing) {
+    EXPECT_EQ(wordsOf(run()->text("ab\xC3(", 0)), "The text to type is not UTF-8 at byte 3.");
+}
+
+TEST_F(TextTest, aCharacterThatNoKeyCanHaveIsNamed) {
+    terminal();
+    EXPECT_EQ(wordsOf(run()->text("ab\x01", 0)),
+              "The character U+0001 cannot be typed with this keyboard layout.");
+    EXPECT_EQ(wordsOf(run()->text("c", 0)), "going");
+    EXPECT_EQ(terminal().typed(1), "c");
+}
+
+TEST_F(TextTest, aMacroOf2000StrokesArrivesWhole) {
+    std::string expected;
+    terminal();
+    const auto session = run();
+    const std::vector<std::pair<std::uint32_t, char>> keys = {{0, 'a'},  {1, 's'},  {2, 'd'},   {3, 'f'},
+                                                              {18, '1'}, {49, ' '}, {36, '\n'}, {12, 'q'}};
+    for (std::size_t index = 0; index < 2000; ++index) {
+        const auto& [code, character] = keys[index % keys.size()];
+        ASSERT_TRUE(session->stroke(code, 0));
+        expected += character;
+    }
+    EXPECT_EQ(terminal().typed(2000), expected);
+}
+
+}  // namespace

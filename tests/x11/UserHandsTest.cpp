@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Modifiers.h"
+#include "x11/InjectorTest.h"
+#include "x11/NestedServers.h"
+
+namespace {
+
+namespace user {
+constexpr std::uint8_t escape = 9;
+constexpr std::uint8_t control = 37;
+constexpr std::uint8_t shift = 50;
+constexpr std::uint8_t p = 33;
+}  // namespace user
+
+/// Runs while a user has his hands on a real keyboard.
+class UserHandsTest : public testing::Test {
+  protected:
+    const Hands& user() const { return m_servers.user(); }
+    InjectorOnDisplay& program() { return m_program; }
+    const KeyboardProbe& probe() const { return m_probe; }
+    const std::string& display() const { return m_servers.display(); }
+    void finish() const { m_servers.finish(); }
+    void waitFor(const std::string& held) {
+        ASSERT_TRUE(eventually([&] { return probe().held() == held; })) << probe().held();
+    }
+
+    static constexpr const char* row = "the quick brown fox\n";
+
+  private:
+    NestedServers m_servers;
+    InjectorOnDisplay m_program{m_servers.display()};
+    KeyboardProbe m_probe{m_servers.display()};
+};
+
+TEST_F(UserHandsTest, aHeldControlDoesNotTaintTheRunAndDoesNotStick) {
+    const Terminal terminal(display());
+    user().press(user::control);
+    finish();
+    waitFor("keys: 37, modifiers: 0x4");
+    std::string expected;
+    for (int line = 0; line < 20; ++line) {
+        ASSERT_TRUE(program().run()->text(row, 0));
+        expected += row;
+    }
+    EXPECT_EQ(terminal.typed(expected.size()), expected);
+    user().release(user::control);
+    finish();
+    waitFor("keys:, modifiers: 0x0");
+}
+
+TEST_F(UserHandsTest, aShiftPressedInTheRunDoesNotTaintTheStrokesAfterIt) {
+    const Terminal terminal(display());
+    const auto session = program().run();
+    std::string expected;
+    for (int stroke = 0; stroke < 60; ++stroke) {
+        // What is in flight when the user presses is his as well as ours.
+        finish();
+        if (stroke % 20 == 10) user().press(user::shift);
+        if (stroke % 20 == 15) user().release(user::shift);
+        finish();
+        ASSERT_TRUE(session->pause(0.005));
+        ASSERT_TRUE(session->stroke(0, 0));
+        expected += 'a';
+    }
+    EXPECT_EQ(terminal.typed(expected.size()), expected);
+    EXPECT_EQ(probe().held(), "keys:, modifiers: 0x0");
+}
+
+TEST_F(UserHandsTest, aHotKeyThatIsStillHeldDoesNotSwallowTheStrokes) {
+    CoreClient client(display());
+    int pressed = 0;
+    program().manager().install([&pressed](HotKeyId) { ++pressed; }, [](HotKeyId) {});
+    program().manager().request(
+        {.id = 3, .name = "play", .keyCode = 35, .modifiers = modifier::control, .cancelsPlayback = false});
+    user().press(user::control);
+    user().press(user::p);
+    finish();
+    ASSERT_TRUE(eventually([&] {
+        program().manager().dispatch();
+        return pressed == 1;
+    }));
+    const int before = client.presses(38);
+    EXPECT_EQ(wordsOf(program().run()->stroke(0, 0)), "going");
+    EXPECT_EQ(client.presses(38), before + 1);
+    EXPECT_EQ(wordsOf(client.events()).back(), "release 38 0x0");
+}
+
+TEST_F(UserHandsTest, escapeHeldForThreeTenthsOfASecondEndsTheRunWithinAPause) {
+    const auto session = program().run();
+    ASSERT_TRUE(session->stroke(0, 0));
+    user().press(user::escape);
+    finish();
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(wordsOf(session->pause(5)), "cancelled");
+    const std::chrono::duration<double> lasted = std::chrono::steady_clock::now() - begin;
+    EXPECT_LT(lasted.count(), 0.4);
+    EXPECT_EQ(wordsOf(session->stroke(0, 0)), "cancelled");
+    EXPECT_TRUE(program().injector().isCancelled());
+    user().release(user::escape);
+    finish();
+    waitFor("keys:, modifiers: 0x0");
+    program().injector().startPlayback();
+    EXPECT_FALSE(program().injector().isCancelled());
+}
+
+TEST_F(UserHandsTest, aShortEscapeAndTheScriptsOwnEndNothing) {
+    const auto session = program().run();
+    user().tap(user::escape);
+    finish();
+    EXPECT_EQ(wordsOf(session->pause(0.4)), "going");
+    ASSERT_TRUE(session->keyDown(HeldCode{53}));
+    EXPECT_EQ(wordsOf(session->pause(0.4)), "going");
+}
+
+}  // namespace
