@@ -90,10 +90,30 @@ Result<void> RepeatSource::start() {
     range.device_events = {XCB_KEY_PRESS, XCB_KEY_RELEASE};
     const auto created = xcb_record_create_context_checked(m_control, m_context, 0, 1, 1, &everybody, &range);
     if (const XReply<xcb_generic_error_t> error{xcb_request_check(m_control, created)}) return missing;
+    enable();
+    return {};
+}
+
+void RepeatSource::enable() {
     m_sequence = xcb_record_enable_context(m_data, m_context).sequence;
     xcb_flush(m_data);
     m_recording = true;
-    return {};
+}
+
+void RepeatSource::pause() {
+    if (!m_recording) return;
+    xcb_record_disable_context(m_control, m_context);
+    m_paused = true;
+    catchUp();
+}
+
+void RepeatSource::resume() {
+    if (!m_paused) return;
+    m_paused = false;
+    // The end of the old recording comes before anything of the new one.
+    read();
+    m_queue.forgetKeysDown();
+    enable();
 }
 
 void RepeatSource::read() {

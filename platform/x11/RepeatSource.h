@@ -28,6 +28,9 @@ class RepeatQueue {
 
     void add(std::uint8_t keycode, bool press, ServerTime time);
 
+    /// No key counts as down: what happened to them was not seen.
+    void forgetKeysDown() { m_down.reset(); }
+
     bool hasAny(const Condition& condition) const;
     /// Takes the repeats that came before this raw event.
     std::vector<KeyRepeat> takeBefore(const RawKey& key);
@@ -72,17 +75,25 @@ class RepeatSource {
     /// Waits until all that the server has recorded so far is in the queue.
     void catchUp();
     /// False once the server has ended the recording.
-    bool isRecording() const { return m_recording; }
+    bool isRecording() const { return m_recording || m_paused; }
+
+    /// Between the two nothing is recorded. Why: where a client dies while the server has many records to
+    /// send, the server (X.Org 21.1) writes them in the middle of a walk along its list of clients with
+    /// output, changes the list and walks for ever. What it has recorded so far is in the queue afterwards.
+    void pause();
+    void resume();
 
   private:
     RepeatSource(XConnection control, XConnection data);
 
     Result<void> start();
+    void enable();
 
     XConnection m_control;
     XConnection m_data;
     std::uint32_t m_context = 0;
     unsigned m_sequence = 0;
     bool m_recording = false;
+    bool m_paused = false;
     RepeatQueue m_queue;
 };

@@ -123,8 +123,14 @@ void X11EventManager::Parts::followKeymap() {
     m_order.workOff();
 }
 
+void X11EventManager::Parts::runStarts() {
+    if (m_repeats) m_repeats->pause();
+    m_running = true;
+}
+
 void X11EventManager::Parts::runEnds() {
     catchUp();
+    if (m_repeats) m_repeats->resume();
     m_own.forget();
     m_running = false;
     kick();

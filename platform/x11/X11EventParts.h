@@ -20,7 +20,7 @@ class X11EventManager::Parts final : public RunWatch {
     bool isBroken() const;
 
     // RunWatch
-    void runStarts() override { m_running = true; }
+    void runStarts() override;
     void runEnds() override;
     void expectOwnKey(std::uint8_t keycode, bool press) override { m_own.expect(keycode, press); }
     int fileDescriptor() const override { return m_wakeups.fileDescriptor(); }
