@@ -12,6 +12,9 @@
 
 namespace {
 
+constexpr int maxTries = 100;
+constexpr useconds_t betweenTries = 2000;
+
 bool lock(int descriptor) { return flock(descriptor, LOCK_EX | LOCK_NB) == 0; }
 
 }  // namespace
@@ -30,8 +33,18 @@ std::string PlayingMark::fileFor(const std::string& folder, const std::string& d
 void PlayingMark::set() {
     if (m_file.empty() || m_descriptor >= 0) return;
     mkdir(std::filesystem::path(m_file).parent_path().c_str(), 0700);
+    for (int tries = 0; tries < maxTries && !tryToSet(); ++tries) usleep(betweenTries);
+}
+
+/// False if it is worth trying again.
+bool PlayingMark::tryToSet() {
     m_descriptor = open(m_file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    if (m_descriptor >= 0 && !lock(m_descriptor)) close(std::exchange(m_descriptor, -1));
+    if (m_descriptor < 0) return true;
+    // The file may have been removed by its last owner between the two calls.
+    struct stat state {};
+    if (lock(m_descriptor) && fstat(m_descriptor, &state) == 0 && state.st_nlink > 0) return true;
+    close(std::exchange(m_descriptor, -1));
+    return false;
 }
 
 void PlayingMark::clear() {

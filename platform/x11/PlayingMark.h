@@ -27,6 +27,8 @@ class PlayingMark {
     bool takeStale();
 
   private:
+    bool tryToSet();
+
     std::string m_file;
     int m_descriptor = -1;
 };

@@ -5,7 +5,6 @@
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
-#include "platform/x11/XkbPointers.h"
 
 namespace {
 
@@ -41,24 +40,6 @@ Result<std::uint8_t> planChoosers(const ModifierMasks& masks, const ModifierKeys
     return bitsOf(roles, keys, keyCode & keycode::choosers);
 }
 
-bool typesDigit(xkb_keymap* keymap, std::uint8_t keycode, std::uint8_t modifiers, std::uint8_t locks) {
-    const XkbStatePointer state(xkb_state_new(keymap));
-    xkb_state_update_mask(state.get(), modifiers, 0, locks, 0, 0, 0);
-    const xkb_keysym_t symbol = xkb_state_key_get_one_sym(state.get(), keycode);
-    return (symbol >= XKB_KEY_KP_0 && symbol <= XKB_KEY_KP_9) || symbol == XKB_KEY_KP_Decimal ||
-           symbol == XKB_KEY_KP_Separator;
-}
-
-/// Num Lock on, or off where the modifiers of the stroke turn its effect round.
-void setNumLock(xkb_keymap* keymap, const ModifierMasks& masks, Stroke& stroke) {
-    const bool onTypesDigit = typesDigit(keymap, stroke.keycode, stroke.modifiers, masks.numLock);
-    const bool offTypesDigit = typesDigit(keymap, stroke.keycode, stroke.modifiers, 0);
-    stroke.lockMask = static_cast<std::uint8_t>(stroke.lockMask | masks.numLock);
-    if (onTypesDigit || !offTypesDigit) {
-        stroke.lockValues = static_cast<std::uint8_t>(stroke.lockValues | masks.numLock);
-    }
-}
-
 std::uint8_t keycodeFor(xkb_keymap* keymap, std::uint32_t keyCode) {
     const auto evdev = keycode::evdevFor(keyCode);
     if (!evdev) return 0;
@@ -92,6 +73,9 @@ Result<Stroke> planStroke(xkb_keymap* keymap, const ModifierMasks& masks, const 
     if (!choosers) return choosers.error();
     stroke.modifiers = static_cast<std::uint8_t>(held.value() | choosers.value());
     if ((modifiers & modifier::capsLock) != 0) stroke.lockMask = stroke.lockValues = ModifierMasks::lock;
-    if (keycode::isKeypadDigit(keyCode & ~keycode::choosers)) setNumLock(keymap, masks, stroke);
+    if (keycode::isKeypadDigit(keyCode & ~keycode::choosers)) {
+        stroke.lockMask = static_cast<std::uint8_t>(stroke.lockMask | masks.numLock);
+        stroke.lockValues = static_cast<std::uint8_t>(stroke.lockValues | masks.numLock);
+    }
     return stroke;
 }

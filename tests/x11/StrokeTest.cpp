@@ -219,6 +219,25 @@ TEST_F(StrokeTest, aHotKeyOfOursReachesTheApplicationAndFiresNothing) {
     }));
 }
 
+TEST_F(StrokeTest, aHotKeyThatCancelsEndsTheRunUntilTheNextPlayback) {
+    program().manager().request({.id = 2,
+                                 .name = "stop",
+                                 .keyCode = 1,
+                                 .modifiers = modifier::control | modifier::command,
+                                 .cancelsPlayback = true});
+    auto session = run();
+    ASSERT_TRUE(session->stroke(key::a, 0));
+    command({"xdotool", "key", "ctrl+super+s"});
+    EXPECT_EQ(wordsOf(session->pause(3600)), "cancelled");
+    EXPECT_EQ(wordsOf(session->stroke(key::a, 0)), "cancelled");
+    EXPECT_EQ(wordsOf(session->text("a", 0)), "cancelled");
+    EXPECT_EQ(wordsOf(session->keyDown(HeldCode{key::a})), "cancelled");
+    session.reset();
+    program().injector().startPlayback();
+    EXPECT_FALSE(program().injector().isCancelled());
+    EXPECT_EQ(wordsOf(run()->stroke(key::a, 0)), "going");
+}
+
 TEST_F(StrokeTest, anInterruptEndsTheRunWithinAPauseAndForGood) {
     const auto session = run();
     ASSERT_TRUE(session->keyDown(HeldModifier{modifier::control}));

@@ -6,6 +6,8 @@
 // is seen here. If the player was in the middle of a run, the keys that XTEST keyboards hold are released,
 // locks and group put back as the player found them, and the file MARK (none if empty) removed. The program
 // is deaf to the signals that end a session's programs, or it would go before the player does.
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/socket.h>
 #include <unistd.h>
 #include <xcb/xinput.h>
@@ -57,9 +59,13 @@ GuardMessage listen() {
     }
 }
 
-void cleanUp(xcb_connection_t* connection, const GuardMessage& last) {
+/// `mark` is locked while there is work, so that the next player waits; this process's end unlocks it.
+void cleanUp(xcb_connection_t* connection, const GuardMessage& last, int mark) {
+    bool isLocked = false;
     for (int round = 0; round < rounds; ++round) {
         if (round > 0) std::this_thread::sleep_for(betweenRounds);
+        // The dead player's files are closed one after the other, the mark perhaps after the socket.
+        isLocked = isLocked || flock(mark, LOCK_EX | LOCK_NB) == 0;
         xcb_xkb_latch_lock_state(connection, XCB_XKB_ID_USE_CORE_KBD, allModifiers, last.lockedModifiers, 1,
                                  last.lockedGroup, 0, 0, 0);
         releaseXtestKeys(connection);
@@ -80,8 +86,8 @@ int main(int count, char** values) {
     if (send(STDIN_FILENO, &guardReady, sizeof guardReady, MSG_NOSIGNAL) != sizeof guardReady) return 1;
     const GuardMessage last = listen();
     if (last.kind != GuardMessage::Kind::running) return 0;
-    cleanUp(connection.value(), last);
-    const std::string mark = arguments[2];
-    if (!mark.empty()) unlink(mark.c_str());
+    const int mark = open(arguments[2], O_RDWR | O_CLOEXEC | O_NOFOLLOW);
+    cleanUp(connection.value(), last, mark);
+    if (mark >= 0) unlink(arguments[2]);
     return 0;
 }
