@@ -44,6 +44,15 @@ class KillTest : public testing::Test {
         return *m_player;
     }
 
+    /// A player that holds Control and a key, which the server has taken in.
+    Child& startHolding() {
+        Child& player = start("hold");
+        EXPECT_TRUE(eventually([this] {
+            return m_probe.words() == "keys: 37 38, modifiers: 0x4, locked: 0x0, group: 0";
+        })) << m_probe.words();
+        return player;
+    }
+
     pid_t guardOf(const Child& player) const {
         const std::string pid = std::to_string(player.pid());
         pid_t guard = 0;
@@ -120,16 +129,14 @@ TEST_F(KillTest, strokesWithoutCareAndGuardLeaveKeysDownWhichThisTestSees) {
 }
 
 TEST_F(KillTest, heldKeysGoUpAfterADeath) {
-    Child& player = start("hold");
-    ASSERT_EQ(probe().words(), "keys: 37 38, modifiers: 0x4, locked: 0x0, group: 0");
+    Child& player = startHolding();
     killAndWait(player);
     EXPECT_EQ(probe().words(), asBefore);
 }
 
 TEST_F(KillTest, heldKeysGoUpAndLocksBackOnEachSignalThatAsksToEnd) {
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
-        Child& player = start("hold");
-        ASSERT_EQ(probe().words(), "keys: 37 38, modifiers: 0x4, locked: 0x0, group: 0");
+        Child& player = startHolding();
         player.signal(number);
         EXPECT_EQ(player.wait(std::chrono::seconds(2)), 0);
         EXPECT_EQ(probe().words(), asBefore) << number;
@@ -137,14 +144,14 @@ TEST_F(KillTest, heldKeysGoUpAndLocksBackOnEachSignalThatAsksToEnd) {
 }
 
 TEST_F(KillTest, theGuardIsDeafToTheSignalsThatEndASession) {
-    Child& player = start("hold");
+    Child& player = startHolding();
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) ASSERT_EQ(kill(guardOf(player), number), 0);
     killAndWait(player);
     EXPECT_EQ(probe().words(), asBefore);
 }
 
 TEST_F(KillTest, theNextStartClearsUpAfterADeathOfBoth) {
-    Child& player = start("hold");
+    Child& player = startHolding();
     const pid_t guard = guardOf(player);
     ASSERT_EQ(kill(guard, SIGKILL), 0);
     player.signal(SIGKILL);
