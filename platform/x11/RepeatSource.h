@@ -42,8 +42,8 @@ class RepeatQueue {
   private:
     struct Entry {
         KeyRepeat what;
-        bool press;
-        bool isRepeat;
+        bool press = false;
+        bool isRepeat = false;
     };
 
     std::vector<KeyRepeat> takeFirst(std::size_t count);

@@ -7,9 +7,9 @@
 
 #include "x11/NamedKeymap.h"
 
-void PrintTo(const TypedKey& key, std::ostream* stream) {
-    *stream << "{" << key.keyCode << ", " << static_cast<int>(key.character) << ", 0x" << std::hex
-            << key.modifiers << "}";
+std::ostream& operator<<(std::ostream& stream, const TypedKey& key) {
+    return stream << "{" << key.keyCode << ", " << static_cast<int>(key.character) << ", 0x" << std::hex
+                  << key.modifiers << "}";
 }
 
 namespace {
