@@ -23,10 +23,6 @@ function(keyrill_compile_options target)
     if(KEYRILL_SANITIZE)
         target_compile_options(${target} PRIVATE -fsanitize=${KEYRILL_SANITIZE} -fno-omit-frame-pointer
                                                  -fno-sanitize-recover=all)
-        if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-            # The checks that sanitizers insert hide from GCC that a member was set (its manual says so).
-            target_compile_options(${target} PRIVATE -Wno-maybe-uninitialized)
-        endif()
         target_link_options(${target} PRIVATE -fsanitize=${KEYRILL_SANITIZE})
     endif()
     # A link that is out of date would show others a header that is gone.
