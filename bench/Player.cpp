@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "Player.h"
+
+#include <stdexcept>
+
+namespace {
+
+template <typename Value>
+Value valueOf(Result<Value> result) {
+    if (!result) throw std::runtime_error(result.error().message);
+    return std::move(result).value();
+}
+
+}  // namespace
+
+Player::Player(const std::string& display)
+    : m_manager(valueOf(X11EventManager::open(m_clock, display))),
+      m_injector(std::make_unique<X11KeyInjector>(
+          m_manager->runWatch(), m_clock,
+          X11KeyInjector::Options{
+              .display = display, .guard = KEYRILL_GUARD, .runtimeFolder = m_folder.path()})) {}
+
+std::unique_ptr<InjectionSession> Player::run(const InjectionPlan& plan) {
+    return valueOf(m_injector->open(plan));
+}
+
+void expectGoing(const Result<RunState>& step) {
+    if (!step) throw std::runtime_error(step.error().message);
+    if (step.value() != RunState::going) throw std::runtime_error("the run was cancelled");
+}

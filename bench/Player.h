@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/KeyInjector.h"
+#include "platform/linux/SteadyClock.h"
+#include "platform/x11/X11EventManager.h"
+#include "platform/x11/X11KeyInjector.h"
+#include "support/Child.h"
+
+/// The injector of the program on a display, watched by the event manager as it is there.
+class Player {
+  public:
+    explicit Player(const std::string& display);
+
+    /// A new run. What fails ends the program.
+    std::unique_ptr<InjectionSession> run(const InjectionPlan& plan = {});
+
+  private:
+    TemporaryFolder m_folder;
+    SteadyClock m_clock;
+    std::unique_ptr<X11EventManager> m_manager;
+    std::unique_ptr<X11KeyInjector> m_injector;
+};
+
+/// Ends the program with the error's message unless the step of a run was taken.
+void expectGoing(const Result<RunState>& step);
+
+/// Seconds that a piece of work takes.
+template <typename Work>
+double secondsOf(const Work& work) {
+    const auto begin = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
