@@ -179,7 +179,7 @@ ModifierMasks readModifierMasks(xcb_connection_t* connection) {
     const auto masks = readVirtualModifiers(connection);
     const auto names = readVirtualModifierNames(connection);
     const auto named = [&](const char* name) {
-        const auto place = std::find(names.begin(), names.end(), name);
+        const auto* const place = std::find(names.begin(), names.end(), name);
         return place == names.end() ? std::uint8_t{0}
                                     : masks[static_cast<std::size_t>(place - names.begin())];
     };

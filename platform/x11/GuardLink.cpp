@@ -13,8 +13,6 @@
 #include <filesystem>
 #include <utility>
 
-extern char** environ;
-
 namespace {
 
 constexpr const char* guardName = "keyrill-guard";

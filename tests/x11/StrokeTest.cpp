@@ -270,6 +270,20 @@ TEST_F(StrokeTest, anEndBetweenTwoRunsReleasesNothingThatOthersHold) {
     EXPECT_EQ(probe().held(), "keys: 50, modifiers: 0x1");
 }
 
+TEST(InjectorStartTest, aServerWithoutXtestIsAnErrorWithAHint) {
+    const XServer server(
+        {"Xvfb", "-screen", "0", "640x480x24", "-nolisten", "tcp", "-noreset", "-extension", "XTEST"});
+    SteadyClock clock;
+    const auto manager = X11EventManager::open(clock, server.display());
+    ASSERT_TRUE(manager);
+    X11KeyInjector injector(manager.value()->runWatch(), clock,
+                            {.display = server.display(), .guard = KEYRILL_GUARD, .runtimeFolder = {}});
+    const auto session = injector.open({});
+    ASSERT_FALSE(session);
+    EXPECT_EQ(session.error().message, "The X server has no XTEST, so that no keys can be pressed here.");
+    EXPECT_NE(session.error().hint, "");
+}
+
 TEST_F(StrokeTest, nothingIsPlayedWithoutAGuard) {
     X11KeyInjector injector(program().manager().runWatch(), program().clock(),
                             {.display = display(), .guard = "/nonexistent/guard", .runtimeFolder = {}});

@@ -157,6 +157,21 @@ TEST_F(TextTest, aKeymapSetByTheUserForgetsWhatWasBound) {
     EXPECT_EQ(keymap(), before);
 }
 
+TEST_F(TextTest, keyboardsOfDifferentLayoutsKeepTheirOwn) {
+    std::string device = command({"xinput", "list", "--id-only", "Xvfb keyboard"});
+    std::erase(device, '\n');
+    command({"setxkbmap", "-device", device, "de"});
+    const auto german = [&] { return command({"xkbcomp", "-i", device, display(), "-"}); };
+    const std::string before = german();
+    ASSERT_NE(before.find("odiaeresis"), std::string::npos);
+    EXPECT_EQ(typedInto("z; Ã© æ¼¢"), "z; Ã© æ¼¢");
+    const std::string during = german();
+    EXPECT_NE(during.find("odiaeresis"), std::string::npos);
+    EXPECT_NE(during.find("ISO_Level3_Shift"), std::string::npos);
+    program().end();
+    EXPECT_EQ(german(), before);
+}
+
 TEST_F(TextTest, aTextThatIsNotUtf8IsAnErrorAndTypesNothing) {
     EXPECT_EQ(wordsOf(run()->text("ab\xC3(", 0)), "The text to type is not UTF-8 at byte 3.");
 }
