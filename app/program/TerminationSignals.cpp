@@ -13,9 +13,11 @@ namespace {
 constexpr std::array<int, 3> signalNumbers{SIGTERM, SIGINT, SIGHUP};
 
 // A signal handler sees nothing but globals.
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables)
 TerminationSignals::AtOnce atOnceFunction = nullptr;
 void* atOnceContext = nullptr;
 int writeEnd = -1;
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
 void handleSignal(int /*number*/) {
     const int savedError = errno;

@@ -36,7 +36,7 @@ class FakeWindows : public Windows {
         calls.push_back("activate " + std::to_string(userTime));
     }
     void awaitFocusElsewhere(WindowId hidden) override {
-        calls.push_back(hidden == none ? "await" : "await hidden");
+        calls.emplace_back(hidden == none ? "await" : "await hidden");
     }
 
     std::vector<std::string> calls;

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 #include "platform/x11/XConnection.h"
 
@@ -38,7 +39,7 @@ std::vector<std::string> commandFor(const Desktop& desktop, const std::string& s
 
 Desktop::Desktop() : m_server(std::make_unique<XServer>()), m_display(m_server->display()) { makeHome(); }
 
-Desktop::Desktop(const std::string& display) : m_display(display) { makeHome(); }
+Desktop::Desktop(std::string display) : m_display(std::move(display)) { makeHome(); }
 
 void Desktop::makeHome() {
     const std::filesystem::path presets = m_folder.file("presets");

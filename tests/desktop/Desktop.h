@@ -25,7 +25,7 @@ class Desktop {
     /// With a server of its own.
     Desktop();
     /// On a display that outlives it.
-    explicit Desktop(const std::string& display);
+    explicit Desktop(std::string display);
 
     void startWindowManager();
     /// A tray that icons dock into, at the lower right corner.
