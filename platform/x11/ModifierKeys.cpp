@@ -60,10 +60,10 @@ void ModifierKeys::examine(xkb_keymap* keymap, std::uint8_t keycode) {
 }
 
 std::uint8_t ModifierKeys::keyFor(std::uint8_t bit) const {
-    const auto usual = std::find_if(usualKeys.begin(), usualKeys.end(),
-                                    [&](std::uint8_t keycode) { return m_momentary[keycode] == bit; });
+    const auto* const usual = std::find_if(usualKeys.begin(), usualKeys.end(),
+                                           [&](std::uint8_t keycode) { return m_momentary[keycode] == bit; });
     if (usual != usualKeys.end()) return *usual;
-    const auto any = std::find(m_momentary.begin(), m_momentary.end(), bit);
+    const auto* const any = std::find(m_momentary.begin(), m_momentary.end(), bit);
     return any == m_momentary.end() ? std::uint8_t{0} : static_cast<std::uint8_t>(any - m_momentary.begin());
 }
 

@@ -17,8 +17,8 @@ struct Role {
 };
 
 /// The bits of those roles whose flag is set, or an error that names the one which no key holds.
-template <std::size_t Count>
-Result<std::uint8_t> bitsOf(const std::array<Role, Count>& roles, const ModifierKeys& keys,
+template <std::size_t count>
+Result<std::uint8_t> bitsOf(const std::array<Role, count>& roles, const ModifierKeys& keys,
                             std::uint32_t flags) {
     std::uint8_t bits = 0;
     for (const Role& role : roles) {

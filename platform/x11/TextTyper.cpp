@@ -80,10 +80,10 @@ Result<RunState> TextTyper::type(std::span<const char32_t> characters, const Str
         std::vector<char32_t> wanted;
         const std::size_t size = fittingPart(characters, group, wanted);
         if (!wanted.empty()) {
-            const auto bound = bind(wanted);
+            auto bound = bind(wanted);
             if (!bound || bound.value() == RunState::cancelled) return bound;
         }
-        const auto typed = typePart(characters.first(size), around, held, check);
+        auto typed = typePart(characters.first(size), around, held, check);
         if (!typed || typed.value() == RunState::cancelled) return typed;
         characters = characters.subspan(size);
     }

@@ -22,10 +22,10 @@ bool isGoing(const Result<RunState>& result) { return result && result.value() =
 
 }  // namespace
 
-X11InjectionSession::X11InjectionSession(const InjectionTools& tools, const InjectionPlan& plan,
+X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionPlan plan,
                                          std::function<void()> ended)
     : m_tools(tools),
-      m_plan(plan),
+      m_plan(std::move(plan)),
       m_whenEnded(std::move(ended)),
       m_waiter(tools.clock, tools.watch, tools.interrupt, xcb_get_file_descriptor(tools.connection.get())),
       m_pacer(tools.clock, m_waiter),
@@ -66,7 +66,7 @@ Result<RunState> X11InjectionSession::begin() {
     m_hasBegun = true;
     m_tools.watch.runStarts();
     m_tools.watch.endHotKeyGrab();
-    const auto isFree = m_tools.grab.untilFree(m_waiter);
+    auto isFree = m_tools.grab.untilFree(m_waiter);
     if (!isGoing(isFree)) return isFree;
     return settle();
 }
@@ -89,7 +89,7 @@ Result<InputState> X11InjectionSession::check() {
 
 Result<RunState> X11InjectionSession::ready() {
     if (!m_hasBegun) {
-        const auto begun = begin();
+        auto begun = begin();
         if (!isGoing(begun)) return begun;
     }
     if (m_waiter.look() == RunState::cancelled) return RunState::cancelled;
@@ -110,7 +110,7 @@ Result<RunState> X11InjectionSession::stroke(std::uint32_t keyCode, std::uint32_
 }
 
 Result<RunState> X11InjectionSession::play(const Stroke& stroke) {
-    const auto isReady = ready();
+    auto isReady = ready();
     if (!isGoing(isReady)) return isReady;
     const ModifierKeys& keys = m_tools.keymap.keymap().keys();
     const auto sent = m_sender.send(keys, stroke, heldKeys());
@@ -135,9 +135,9 @@ Result<RunState> X11InjectionSession::type(std::string_view text, std::uint32_t 
     if (!held) return held.error();
     Stroke around{.modifiers = held.value()};
     if ((modifiers & modifier::capsLock) != 0) around.lockMask = around.lockValues = ModifierMasks::lock;
-    const auto isReady = ready();
+    auto isReady = ready();
     if (!isGoing(isReady)) return isReady;
-    const auto prepared = prepareTexts();
+    auto prepared = prepareTexts();
     if (!isGoing(prepared)) return prepared;
     return m_typer.type(characters.value(), around, heldKeys(), [this] { return check(); });
 }
@@ -186,12 +186,12 @@ Result<RunState> X11InjectionSession::keyDown(const HeldKey& key) {
     return step([&]() -> Result<RunState> {
         const auto followed = followKeymap();
         if (!followed) return followed.error();
-        const auto isReady = ready();
+        auto isReady = ready();
         if (!isGoing(isReady)) return isReady;
         const auto strokes = strokesOf(key);
         if (!strokes) return strokes.error();
         for (const Stroke& stroke : strokes.value()) {
-            const auto held = hold(stroke);
+            auto held = hold(stroke);
             if (!isGoing(held)) return held;
         }
         return RunState::going;
@@ -201,7 +201,7 @@ Result<RunState> X11InjectionSession::keyDown(const HeldKey& key) {
 Result<RunState> X11InjectionSession::hold(const Stroke& stroke) {
     const KeycodeSet held = heldKeys();
     if (stroke.keycode == 0 || held[stroke.keycode]) return RunState::going;
-    const auto isReady = ready();
+    auto isReady = ready();
     if (!isGoing(isReady)) return isReady;
     const ModifierKeys& keys = m_tools.keymap.keymap().keys();
     m_held.push_back({stroke.keycode, m_sender.hold(keys, stroke, held)});
@@ -216,7 +216,7 @@ Result<RunState> X11InjectionSession::keyUp(const HeldKey& key) {
     return step([&]() -> Result<RunState> {
         // What the run does not hold is not released: it may be the user's own.
         if (m_held.empty()) return m_waiter.look();
-        const auto isReady = ready();
+        auto isReady = ready();
         if (!isGoing(isReady)) return isReady;
         const auto strokes = strokesOf(key);
         if (!strokes) return strokes.error();

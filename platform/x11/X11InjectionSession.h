@@ -24,7 +24,7 @@ struct InjectionTools {
 /// and locks are taken over. Its end, which is that of the object, undoes what is left.
 class X11InjectionSession final : public InjectionSession {
   public:
-    X11InjectionSession(const InjectionTools& tools, const InjectionPlan& plan, std::function<void()> ended);
+    X11InjectionSession(const InjectionTools& tools, InjectionPlan plan, std::function<void()> ended);
     ~X11InjectionSession() override;
     X11InjectionSession(const X11InjectionSession&) = delete;
     X11InjectionSession& operator=(const X11InjectionSession&) = delete;

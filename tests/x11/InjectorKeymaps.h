@@ -17,5 +17,5 @@ inline InjectorKeymap injectorKeymap(const std::string& layout, const std::strin
     const xkb_rule_names names{"evdev", "pc105", layout.c_str(), "", options.c_str()};
     XkbKeymapPointer keymap(xkb_keymap_new_from_names(context.get(), &names, XKB_KEYMAP_COMPILE_NO_FLAGS));
     if (!keymap) throw std::runtime_error("no layout " + layout);
-    return InjectorKeymap(std::move(keymap), evdevMasks, excluded);
+    return {std::move(keymap), evdevMasks, excluded};
 }

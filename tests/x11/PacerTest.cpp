@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -66,14 +67,14 @@ TEST_F(PacerTest, theFirstPauseOfARunWithoutStrokesCountsFromItself) {
 }
 
 TEST_F(PacerTest, whatIsNoTimeReturnsAtOnce) {
-    for (const double seconds : {0.0, -1.0, double{-INFINITY}, std::nan("")}) {
+    for (const double seconds : {0.0, -1.0, -std::numeric_limits<double>::infinity(), std::nan("")}) {
         EXPECT_EQ(pacer.pause(seconds), RunState::going);
     }
     EXPECT_EQ(desktop.elapsed().count(), 0);
 }
 
 TEST_F(PacerTest, whatIsBeyondTheClockLastsUntilCancelled) {
-    for (const double seconds : {1e10, 1e300, double{INFINITY}}) {
+    for (const double seconds : {1e10, 1e300, std::numeric_limits<double>::infinity()}) {
         EXPECT_EQ(pacer.pause(seconds), RunState::cancelled) << seconds;
     }
 }
