@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// What one more key costs a macro of 100, 10,000 and 100,000 keys: from the event to the text of the overlay.
+// What one more key costs a macro of 100, 10,000 and 100,000 keys, and what the dearest of a million costs:
+// from the event to the text of the overlay.
+#include <algorithm>
 #include <chrono>
 #include <string>
+#include <vector>
 
 #include "Table.h"
 #include "core/Macro.h"
@@ -40,6 +43,24 @@ double microsecondsPerKey(int length) {
     return elapsed.count() / measuredKeys;
 }
 
+/// A key that the system took the processor away from tells nothing, and does not come again where the
+/// macro's own costs do: each key's cost is the lowest of a few recordings.
+double dearestOf(int keys) {
+    constexpr int recordings = 5;
+    using Cost = std::chrono::duration<double, std::micro>;
+    std::vector<Cost> costs(static_cast<std::size_t>(keys), Cost::max());
+    for (int recording = 0; recording < recordings; ++recording) {
+        toggleRecording();
+        for (Cost& cost : costs) {
+            const auto begin = std::chrono::steady_clock::now();
+            handleKeyEvent(letterA);
+            cost = std::min<Cost>(cost, std::chrono::steady_clock::now() - begin);
+        }
+        stopRecording();
+    }
+    return std::max_element(costs.begin(), costs.end())->count();
+}
+
 }  // namespace
 
 int main() {
@@ -51,4 +72,6 @@ int main() {
         printRow({"recorded key, macro of " + std::to_string(length), microsecondsPerKey(length), "allowed",
                   microsecondsAllowed, "us", "ratio <= 1"});
     }
+    printRow({"the dearest of 1,000,000 recorded keys", dearestOf(1'000'000), "allowed", microsecondsAllowed,
+              "us", "ratio <= 1"});
 }

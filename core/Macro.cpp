@@ -15,9 +15,9 @@ std::string Macro::displayText() const {
 
 const std::string& Macro::fullDisplayText() const {
     for (; m_renderedActions < m_actions.size(); ++m_renderedActions) {
-        m_fullText += m_actions[m_renderedActions]->displayText();
+        m_fullText.append(m_actions[m_renderedActions]->displayText());
     }
-    return m_fullText;
+    return m_fullText.text();
 }
 
 std::string Macro::buildScript() const {

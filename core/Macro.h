@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <boost/container/deque.hpp>
 #include <boost/smart_ptr/shared_ptr.hpp>
 #include <cstddef>
 #include <string>
-#include <vector>
 
 #include "core/Action.h"
+#include "core/AppendedText.h"
 
 /// A recorded or loaded sequence of actions. Made and numbered by MacroManager, held by boost::shared_ptr.
 ///
@@ -48,12 +49,15 @@ class Macro {
     std::string buildScript() const;
     std::string rangeText(std::size_t first, std::size_t last) const;
 
-    std::vector<boost::shared_ptr<Action>> m_actions;
+    /// In blocks, because a vector would move all of them now and then, at the cost of one key press; in
+    /// large ones, because a deque moves its list of blocks.
+    using Blocks = boost::container::deque_options_t<boost::container::block_size<4096U>>;
+    boost::container::deque<boost::shared_ptr<Action>, void, Blocks> m_actions;
     int m_macroId = 0;
 
     /// Empty while not built.
     mutable std::string m_script;
     /// The texts of the first m_renderedActions actions.
-    mutable std::string m_fullText;
+    mutable AppendedText m_fullText;
     mutable std::size_t m_renderedActions = 0;
 };
