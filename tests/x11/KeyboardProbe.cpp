@@ -7,6 +7,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "support/Child.h"
+
 // The C header names a structure member "explicit".
 #define explicit explicit_
 #include <xcb/xkb.h>
@@ -75,6 +77,11 @@ std::string KeyboardProbe::held() const {
     const auto state = stateOf(m_connection);
     words << ", modifiers: 0x" << std::hex << int{state->baseMods};
     return words.str();
+}
+
+std::string KeyboardProbe::awaitHeld(const std::string& expected) const {
+    eventually([&] { return held() == expected; });
+    return held();
 }
 
 std::string KeyboardProbe::words() const {

@@ -16,6 +16,8 @@ class KeyboardProbe {
     std::string words() const;
     /// The same without locks and group.
     std::string held() const;
+    /// Waits until this is held, or a while without: what another client has sent may still be on its way.
+    std::string awaitHeld(const std::string& expected) const;
     std::uint8_t locked() const;
     std::uint8_t group() const;
 

@@ -35,18 +35,18 @@ class KillTest : public testing::Test {
         m_hands.finish();
     }
 
-    Child& start(const std::string& how) {
+    Child& start(const std::string& how, const std::string& guard = KEYRILL_GUARD) {
         const std::string log = m_folder.file("log" + std::to_string(++m_players));
         m_player = std::make_unique<Child>(
-            std::vector<std::string>{KEYRILL_PLAYER, m_server.display(), m_folder.path(), how},
+            std::vector<std::string>{KEYRILL_PLAYER, m_server.display(), m_folder.path(), how, guard},
             Child::Options{.environment = {}, .outputFile = log});
         EXPECT_TRUE(eventually([&] { return contentOf(log).starts_with("playing"); })) << contentOf(log);
         return *m_player;
     }
 
     /// A player that holds Control and a key, which the server has taken in.
-    Child& startHolding() {
-        Child& player = start("hold");
+    Child& startHolding(const std::string& guard = KEYRILL_GUARD) {
+        Child& player = start("hold", guard);
         EXPECT_TRUE(eventually([this] {
             return m_probe.words() == "keys: 37 38, modifiers: 0x4, locked: 0x0, group: 0";
         })) << m_probe.words();
@@ -72,12 +72,12 @@ class KillTest : public testing::Test {
     }
 
     /// Kills that many players at random moments; after how many of them something was not as before.
-    int killsThatLeaveSomething(const std::string& how, int kills) {
+    int killsThatLeaveSomething(const std::string& how, int kills, const std::string& guard = KEYRILL_GUARD) {
         std::mt19937 random(20261121);
         std::uniform_int_distribution<int> microseconds(0, 30000);
         int left = 0;
         for (int kill = 0; kill < kills; ++kill) {
-            Child& player = start(how);
+            Child& player = start(how, guard);
             const auto until =
                 std::chrono::steady_clock::now() + std::chrono::microseconds(microseconds(random));
             while (std::chrono::steady_clock::now() < until) continue;
@@ -126,6 +126,17 @@ TEST_F(KillTest, textsThatAreKilledAtAnyInstantLeaveNothing) {
 
 TEST_F(KillTest, strokesWithoutCareAndGuardLeaveKeysDownWhichThisTestSees) {
     EXPECT_GT(killsThatLeaveSomething("careless", numberOfKills()), 0);
+}
+
+TEST_F(KillTest, strokesAndTextsWithAnIdleGuardLeaveSomethingWhichThisTestSees) {
+    EXPECT_GT(killsThatLeaveSomething("strokes", 5, KEYRILL_IDLE_GUARD), 0);
+    EXPECT_GT(killsThatLeaveSomething("text", 5, KEYRILL_IDLE_GUARD), 0);
+}
+
+TEST_F(KillTest, heldKeysStayDownWithAnIdleGuard) {
+    Child& player = startHolding(KEYRILL_IDLE_GUARD);
+    killAndWait(player);
+    EXPECT_EQ(probe().words(), "keys: 37 38, modifiers: 0x4, locked: 0x0, group: 0");
 }
 
 TEST_F(KillTest, heldKeysGoUpAfterADeath) {

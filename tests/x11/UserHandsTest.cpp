@@ -20,9 +20,7 @@ class UserHandsTest : public testing::Test {
     const KeyboardProbe& probe() const { return m_probe; }
     const std::string& display() const { return m_servers.display(); }
     void finish() const { m_servers.finish(); }
-    void waitFor(const std::string& held) {
-        ASSERT_TRUE(eventually([&] { return probe().held() == held; })) << probe().held();
-    }
+    void waitFor(const std::string& held) { ASSERT_EQ(probe().awaitHeld(held), held); }
 
     static constexpr const char* row = "the quick brown fox\n";
 
@@ -63,7 +61,7 @@ TEST_F(UserHandsTest, aShiftPressedInTheRunDoesNotTaintTheStrokesAfterIt) {
         expected += 'a';
     }
     EXPECT_EQ(terminal.typed(expected.size()), expected);
-    EXPECT_EQ(probe().held(), "keys:, modifiers: 0x0");
+    waitFor("keys:, modifiers: 0x0");
 }
 
 TEST_F(UserHandsTest, aHotKeyThatIsStillHeldDoesNotSwallowTheStrokes) {

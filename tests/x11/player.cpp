@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// player DISPLAY FOLDER HOW: plays for ever, for tests that kill it. It writes a line when it has begun.
+// player DISPLAY FOLDER HOW [GUARD]: plays for ever, for tests that kill it. It writes a line when it has
+// begun. GUARD is the guard program, where it is not the real one.
 //
 //   strokes   a key with four modifiers each 0.1 ms
 //   text      a long text, over and over
@@ -81,12 +82,13 @@ void hold(InjectionSession& session) {
     }
 }
 
-int play(const std::string& display, const std::string& folder, std::string_view how) {
+int play(const std::string& display, const std::string& folder, std::string_view how,
+         const std::string& guard) {
     SteadyClock clock;
     const auto manager = X11EventManager::open(clock, display);
     if (!manager) return 1;
     X11KeyInjector injector(manager.value()->runWatch(), clock,
-                            {.display = display, .guard = KEYRILL_GUARD, .runtimeFolder = folder});
+                            {.display = display, .guard = guard, .runtimeFolder = folder});
     playing = &injector;
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) std::signal(number, handle);
     const auto started = injector.start();
@@ -102,7 +104,8 @@ int play(const std::string& display, const std::string& folder, std::string_view
 
 int main(int count, char** values) {
     const std::span arguments(values, static_cast<std::size_t>(count));
-    if (arguments.size() != 4) return 2;
+    if (arguments.size() != 4 && arguments.size() != 5) return 2;
     if (std::string_view(arguments[3]) == "careless") playCarelessly(arguments[1]);
-    return play(arguments[1], arguments[2], arguments[3]);
+    return play(arguments[1], arguments[2], arguments[3],
+                arguments.size() == 5 ? arguments[4] : KEYRILL_GUARD);
 }
