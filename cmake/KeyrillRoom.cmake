@@ -77,8 +77,9 @@ function(keyrill_room target)
     endif()
 endfunction()
 
-# keyrill_test(core_test LABEL unit SOURCES ... USES ...): one GoogleTest program for a folder, each test of it
-# a test of its own.
+# keyrill_test(core_test LABEL unit SOURCES ... USES ...): one GoogleTest program for a folder. The tests of a
+# desktop program are run each for itself, with displays of their own; a unit program is run whole, because to
+# start it takes longer than all of its tests.
 function(keyrill_test target)
     cmake_parse_arguments(test "" "LABEL;TIMEOUT" "SOURCES;USES;PROPERTIES" ${ARGN})
     if(NOT test_TIMEOUT)
@@ -87,6 +88,11 @@ function(keyrill_test target)
     add_executable(${target} ${test_SOURCES})
     keyrill_compile_options(${target})
     target_link_libraries(${target} PRIVATE ${test_USES} GTest::gtest GTest::gtest_main)
-    gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60
-        PROPERTIES LABELS ${test_LABEL} TIMEOUT ${test_TIMEOUT} ${test_PROPERTIES})
+    set(properties LABELS ${test_LABEL} TIMEOUT ${test_TIMEOUT} ${test_PROPERTIES})
+    if(test_LABEL STREQUAL "unit")
+        add_test(NAME ${target} COMMAND ${target})
+        set_tests_properties(${target} PROPERTIES ${properties})
+    else()
+        gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
+    endif()
 endfunction()
