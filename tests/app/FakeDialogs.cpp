@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "app/FakeDialogs.h"
+
+#include <utility>
+
+AlertAnswer FakeDialogs::runAlert(const AlertText& text) {
+    alerts.push_back(text);
+    happen();
+    if (m_answers.empty()) return AlertAnswer::alternateButton;
+    const AlertAnswer answer = m_answers.front();
+    m_answers.pop();
+    return answer;
+}
+
+void FakeDialogs::beginSheet(QWidget& panel, const AlertText& text, DidEnd didEnd) {
+    sheets.push_back({&panel, text, static_cast<bool>(didEnd)});
+    m_didEnd = std::move(didEnd);
+}
+
+void FakeDialogs::endSheet(AlertAnswer answer) {
+    if (const DidEnd didEnd = std::exchange(m_didEnd, nullptr)) didEnd(answer);
+}
+
+QString FakeDialogs::runSavePanel(const QString& folder) {
+    filePanels.push_back(QStringLiteral("save ") + folder);
+    return takeFile();
+}
+
+QString FakeDialogs::runOpenPanel(const QString& folder) {
+    filePanels.push_back(QStringLiteral("open ") + folder);
+    return takeFile();
+}
+
+QString FakeDialogs::takeFile() {
+    happen();
+    if (m_files.empty()) return {};
+    const QString file = m_files.front();
+    m_files.pop();
+    return file;
+}
+
+void FakeDialogs::happen() const {
+    if (m_hook) m_hook();
+}
