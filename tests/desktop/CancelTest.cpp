@@ -19,23 +19,23 @@ class CancelTest : public testing::Test {
         }));
         desktop.run({"xdotool", "type", "1000000"});
         desktop.run({"xdotool", "key", "Return"});
-        terminal.awaitBytes(20);
+        terminal.typed(20);
     }
 
     /// What the terminal receives after the bound, a full stop from another program included.
     std::string receivedAfterTheBound() const {
         const auto end = std::chrono::steady_clock::now() + bound;
         eventually([end] { return std::chrono::steady_clock::now() >= end; });
-        const std::size_t sofar = terminal.received().size();
+        const std::size_t sofar = terminal.typed().size();
         servers.program().tap(key::period);
         servers.program().finish();
-        EXPECT_TRUE(eventually([this] { return terminal.received().ends_with('.'); }));
-        return terminal.received().substr(sofar);
+        EXPECT_TRUE(eventually([this] { return terminal.typed().ends_with('.'); }));
+        return terminal.typed().substr(sofar);
     }
 
     NestedServers servers;
     Desktop desktop{servers.display()};
-    Terminal terminal{desktop};
+    Terminal terminal{desktop.display()};
     Keyrill keyrill{desktop, "tell application \"System Events\" to key code 0\n"};
 };
 

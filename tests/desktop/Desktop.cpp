@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr const char* terminalTitle = "Terminal";
-
 void awaitOrThrow(const std::string& what, const std::function<bool()>& condition) {
     if (!eventually(condition, std::chrono::seconds(20)))
         throw std::runtime_error("waited in vain for " + what);
@@ -141,37 +139,6 @@ std::vector<std::string> Desktop::keysDown() const {
         }
     }
     return down;
-}
-
-Terminal::Terminal(const Desktop& desktop)
-    : m_desktop(desktop),
-      m_file(desktop.file("received")),
-      // Neither control characters nor full lines mean anything to the line discipline.
-      m_child({"xterm", "-fa", "DejaVu Sans Mono", "-fs", "10", "-u8", "-T", terminalTitle, "-e", "sh", "-c",
-               "stty raw -echo; touch '" + m_file + "'; exec cat >'" + m_file + "'"},
-              desktop.options("xterm.log")) {
-    awaitOrThrow("the terminal", [this] { return std::filesystem::exists(m_file); });
-    std::string window =
-        m_desktop.run({"xdotool", "search", "--sync", "--onlyvisible", "--name", terminalTitle});
-    m_window = window.substr(0, window.find('\n'));
-    focus();
-}
-
-void Terminal::focus() const {
-    m_desktop.run({"xdotool", "windowfocus", "--sync", m_window});
-    awaitOrThrow("the focus", [this] { return hasFocus(); });
-}
-
-bool Terminal::hasFocus() const {
-    return m_desktop.run({"xdotool", "getwindowfocus", "-f"}) == m_window + "\n";
-}
-
-std::string Terminal::received() const { return contentOf(m_file); }
-
-std::string Terminal::awaitBytes(std::size_t count, std::chrono::milliseconds deadline) const {
-    EXPECT_TRUE(eventually([&] { return std::filesystem::file_size(m_file) >= count; }, deadline))
-        << "received so far: " << received();
-    return received();
 }
 
 Keyrill::Keyrill(const Desktop& desktop, const std::string& script)

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "support/Child.h"
+#include "support/Terminal.h"
 #include "support/XServer.h"
 
 /// The titles of the program's windows.
@@ -64,26 +65,6 @@ class Desktop {
     std::map<std::string, std::string> m_environment;
     std::unique_ptr<Child> m_manager;
     std::unique_ptr<Child> m_tray;
-};
-
-/// xterm, which writes each byte that it gets into a file. It has the focus when constructed.
-class Terminal {
-  public:
-    explicit Terminal(const Desktop& desktop);
-
-    std::string received() const;
-    /// Waits until that much, or more, has been received; the whole.
-    std::string awaitBytes(std::size_t count,
-                           std::chrono::milliseconds deadline = std::chrono::seconds(20)) const;
-    void focus() const;
-    /// Whether the input focus is here.
-    bool hasFocus() const;
-
-  private:
-    const Desktop& m_desktop;
-    std::string m_file;
-    Child m_child;
-    std::string m_window;
 };
 
 /// The program under test, ready for hot keys when constructed.

@@ -31,7 +31,7 @@ class HeldKeysTest : public DesktopTest {
     }
 
     Hands hands{desktop.display()};
-    Terminal terminal{desktop};
+    Terminal terminal{desktop.display()};
     Keyrill keyrill{desktop};
 };
 
@@ -39,13 +39,13 @@ TEST_F(HeldKeysTest, recordsAsManyPressesAsTheTerminalGot) {
     record();
     hands.press(key::a);
     hands.flush();
-    terminal.awaitBytes(5);
+    terminal.typed(5);
     hands.release(key::a);
     hands.tap(key::period);
     hands.finish();
-    ASSERT_TRUE(eventually([this] { return terminal.received().ends_with('.'); }));
+    ASSERT_TRUE(eventually([this] { return terminal.typed().ends_with('.'); }));
     stop();
-    EXPECT_EQ(Keyrill::keyLines(keyrill.script()), terminal.received().size());
+    EXPECT_EQ(Keyrill::keyLines(keyrill.script()), terminal.typed().size());
 }
 
 TEST_F(HeldKeysTest, aHeldRecordKeyStartsOneRecording) {

@@ -35,7 +35,7 @@ class LayoutTest : public DesktopTest, public testing::WithParamInterface<Keyboa
     }
 
     Hands hands{desktop.display()};
-    Terminal terminal{desktop};
+    Terminal terminal{desktop.display()};
     Keyrill keyrill{desktop};
 };
 
@@ -44,19 +44,19 @@ TEST_P(LayoutTest, playsWhatWasTyped) {
     press("F12");
     // F12 shows that all keys before it have come.
     const std::string end = "\x1b[24~";
-    ASSERT_TRUE(eventually([&] { return terminal.received().ends_with(end); }));
-    const std::string typed = terminal.received().substr(0, terminal.received().size() - end.size());
+    ASSERT_TRUE(eventually([&] { return terminal.typed().ends_with(end); }));
+    const std::string typed = terminal.typed().substr(0, terminal.typed().size() - end.size());
 
     record();
     typeKeys();
     stop();
     keyrill.script();
-    ASSERT_EQ(terminal.awaitBytes(2 * typed.size() + end.size()), typed + end + typed);
+    ASSERT_EQ(terminal.typed(2 * typed.size() + end.size()), typed + end + typed);
     play();
-    EXPECT_EQ(terminal.awaitBytes(3 * typed.size() + end.size()), typed + end + typed + typed);
+    EXPECT_EQ(terminal.typed(3 * typed.size() + end.size()), typed + end + typed + typed);
     press("Caps_Lock");
     play();
-    EXPECT_EQ(terminal.awaitBytes(4 * typed.size() + end.size()), typed + end + typed + typed + typed);
+    EXPECT_EQ(terminal.typed(4 * typed.size() + end.size()), typed + end + typed + typed + typed);
 }
 
 std::string nameOf(const testing::TestParamInfo<Keyboard>& info) { return info.param.name; }

@@ -5,7 +5,7 @@ namespace {
 
 class LongMacroTest : public DesktopTest {
   protected:
-    Terminal terminal{desktop};
+    Terminal terminal{desktop.display()};
     Keyrill keyrill{desktop};
     Hands hands{desktop.display()};
 };
@@ -15,12 +15,12 @@ TEST_F(LongMacroTest, aMacroOfTwentyThousandKeysArrivesWhole) {
     constexpr std::size_t count = 20'000;
     for (std::size_t i = 0; i < count; ++i) hands.tap(static_cast<std::uint8_t>(38 + i % 9));
     hands.finish();
-    const std::string typed = terminal.awaitBytes(count, std::chrono::seconds(60));
+    const std::string typed = terminal.typed(count, std::chrono::seconds(60));
     stop();
     EXPECT_EQ(Keyrill::keyLines(keyrill.script()), count);
     play();
     // Each key is followed by a pause of 10 ms.
-    EXPECT_TRUE(terminal.awaitBytes(2 * count, std::chrono::seconds(400)) == typed + typed);
+    EXPECT_TRUE(terminal.typed(2 * count, std::chrono::seconds(400)) == typed + typed);
 }
 
 }  // namespace

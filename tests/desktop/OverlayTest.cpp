@@ -5,7 +5,7 @@ namespace {
 
 class OverlayTest : public DesktopTest {
   protected:
-    Terminal terminal{desktop};
+    Terminal terminal{desktop.display()};
     Keyrill keyrill{desktop};
 };
 
@@ -25,7 +25,7 @@ TEST_F(OverlayTest, leavesTheFocusAndTheClicksToOthers) {
     record();
     ASSERT_TRUE(eventually([this] { return desktop.shows(title::overlay); }));
     press("x");
-    EXPECT_EQ(terminal.awaitBytes(1), "x");
+    EXPECT_EQ(terminal.typed(1), "x");
     desktop.run({"xdotool", "mousemove", std::to_string(markX), std::to_string(markY)});
     const std::string under = desktop.run({"xdotool", "getmouselocation", "--shell"});
     EXPECT_EQ(under.find("WINDOW=" + desktop.window(title::overlay)), std::string::npos) << under;

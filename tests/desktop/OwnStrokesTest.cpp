@@ -9,7 +9,7 @@ namespace {
 
 class OwnStrokesTest : public DesktopTest {
   protected:
-    Terminal terminal{desktop};
+    Terminal terminal{desktop.display()};
 };
 
 TEST_F(OwnStrokesTest, aScriptThatTypesThePlayCombinationIsPlayedOnceAndEnds) {
@@ -22,10 +22,10 @@ TEST_F(OwnStrokesTest, aScriptThatTypesThePlayCombinationIsPlayedOnceAndEnds) {
     play();
     // Control+P reaches the terminal as a control character of its own, or with Super as an escape sequence;
     // what counts is that a and b come once.
-    ASSERT_TRUE(eventually([this] { return terminal.received().ends_with('b'); }));
+    ASSERT_TRUE(eventually([this] { return terminal.typed().ends_with('b'); }));
     press("period");
-    ASSERT_TRUE(eventually([this] { return terminal.received().ends_with('.'); }));
-    const std::string received = terminal.received();
+    ASSERT_TRUE(eventually([this] { return terminal.typed().ends_with('.'); }));
+    const std::string received = terminal.typed();
     EXPECT_EQ(std::count(received.begin(), received.end(), 'a'), 1) << received;
     EXPECT_EQ(std::count(received.begin(), received.end(), 'b'), 1) << received;
     EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
@@ -39,7 +39,7 @@ TEST_F(OwnStrokesTest, aTerminatedRunReleasesWhatItHolds) {
                     "\tdelay 1000\n"
                     "end tell\n");
     play();
-    EXPECT_EQ(terminal.awaitBytes(1), "a");
+    EXPECT_EQ(terminal.typed(1), "a");
     ASSERT_TRUE(eventually([this] { return !desktop.keysDown().empty(); }));
     keyrill.child().signal(SIGTERM);
     EXPECT_EQ(keyrill.child().wait(std::chrono::seconds(5)), 0);

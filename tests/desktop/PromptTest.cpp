@@ -25,36 +25,36 @@ class PromptTest : public testing::TestWithParam<bool> {
 };
 
 TEST_P(PromptTest, playsAsOftenAsItIsTold) {
-    const Terminal terminal(desktop);
+    const Terminal terminal(desktop.display());
     const Keyrill keyrill(desktop, script);
     openPrompt();
     press("3");
     press("Return");
-    EXPECT_EQ(terminal.awaitBytes(3), "aaa");
+    EXPECT_EQ(terminal.typed(3), "aaa");
     press("period");
-    EXPECT_EQ(terminal.awaitBytes(4), "aaa.");
+    EXPECT_EQ(terminal.typed(4), "aaa.");
     EXPECT_TRUE(terminal.hasFocus());
     EXPECT_FALSE(desktop.shows(title::prompt));
 }
 
 TEST_P(PromptTest, escapeClosesItWithoutPlaying) {
-    const Terminal terminal(desktop);
+    const Terminal terminal(desktop.display());
     const Keyrill keyrill(desktop, script);
     openPrompt();
     press("Escape");
     EXPECT_TRUE(eventually([&] { return !desktop.shows(title::prompt) && terminal.hasFocus(); }));
     press("period");
-    EXPECT_EQ(terminal.awaitBytes(1), ".");
+    EXPECT_EQ(terminal.typed(1), ".");
 }
 
 TEST_P(PromptTest, staysWhileThereIsNothingToPlay) {
-    const Terminal terminal(desktop);
+    const Terminal terminal(desktop.display());
     const Keyrill keyrill(desktop);
     openPrompt();
     press("Return");
     press("Escape");
     EXPECT_TRUE(eventually([&] { return !desktop.shows(title::prompt); }));
-    EXPECT_EQ(terminal.received(), "");
+    EXPECT_EQ(terminal.typed(), "");
 }
 
 std::string nameOf(const testing::TestParamInfo<bool>& info) { return info.param ? "managed" : "unmanaged"; }

@@ -5,27 +5,27 @@ namespace {
 
 class RecordAndPlayTest : public DesktopTest {
   protected:
-    Terminal terminal{desktop};
+    Terminal terminal{desktop.display()};
     Keyrill keyrill{desktop};
     Hands hands{desktop.display()};
 };
 
-const std::string typedText = "Hello, World 42!\r\x1b[D\x1b[A";
+const std::string typedText = "Hello, World 42!\n\x1b[D\x1b[A";
 
 TEST_F(RecordAndPlayTest, theTerminalReceivesThePlayedKeysAsTheyWereTyped) {
     record();
     desktop.run({"xdotool", "type", "Hello, World 42!"});
     desktop.run({"xdotool", "key", "Return", "Left", "Up", "BackSpace"});
     // Backspace is one byte, which one is the terminal's choice.
-    const std::string typed = terminal.awaitBytes(typedText.size() + 1);
+    const std::string typed = terminal.typed(typedText.size() + 1);
     EXPECT_EQ(typed.substr(0, typedText.size()), typedText);
     stop();
     EXPECT_EQ(Keyrill::keyLines(keyrill.script()), 20U);
 
     play();
-    terminal.awaitBytes(2 * typed.size());
+    terminal.typed(2 * typed.size());
     press("period");
-    EXPECT_EQ(terminal.awaitBytes(2 * typed.size() + 1), typed + typed + ".");
+    EXPECT_EQ(terminal.typed(2 * typed.size() + 1), typed + typed + ".");
 }
 
 TEST_F(RecordAndPlayTest, theScriptHoldsNothingOfTheHotKeys) {
@@ -44,9 +44,9 @@ TEST_F(RecordAndPlayTest, aPlayLeavesNoKeyDownAndNoLockChanged) {
     stop();
     keyrill.script();
     play();
-    EXPECT_EQ(terminal.awaitBytes(2), "AA");
+    EXPECT_EQ(terminal.typed(2), "AA");
     press("period");
-    terminal.awaitBytes(3);
+    terminal.typed(3);
     EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
     EXPECT_TRUE(isLocked("Num Lock"));
     EXPECT_FALSE(isLocked("Caps Lock"));
@@ -83,11 +83,11 @@ TEST_F(RecordAndPlayTest, aMacroOfTwoThousandKeysArrivesWhole) {
     constexpr std::size_t count = 2000;
     for (std::size_t i = 0; i < count; ++i) hands.tap(static_cast<std::uint8_t>(38 + i % 9));
     hands.finish();
-    const std::string typed = terminal.awaitBytes(count);
+    const std::string typed = terminal.typed(count);
     stop();
     keyrill.script();
     play();
-    EXPECT_EQ(terminal.awaitBytes(2 * count, std::chrono::seconds(50)), typed + typed);
+    EXPECT_EQ(terminal.typed(2 * count, std::chrono::seconds(50)), typed + typed);
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ TEST_F(TrayTest, theIconIsInTheTray) {
 }
 
 TEST_F(TrayTest, aWindowStandsInUntilATrayComesAndWhenItGoes) {
-    const Terminal terminal(desktop);
+    const Terminal terminal(desktop.display());
     const Keyrill keyrill(desktop);
     EXPECT_TRUE(comes(title::control));
     EXPECT_TRUE(terminal.hasFocus());
@@ -39,20 +39,20 @@ TEST_F(TrayTest, aWindowStandsInUntilATrayComesAndWhenItGoes) {
 
 TEST_F(TrayTest, recordsAndPlaysByTheMenu) {
     desktop.startTray();
-    const Terminal terminal(desktop);
+    const Terminal terminal(desktop.display());
     const Keyrill keyrill(desktop);
     StatusMenuClicks menu(desktop);
     menu.open();
     menu.choose(1);
     EXPECT_TRUE(comes(title::overlay));
     press("x");
-    terminal.awaitBytes(1);
+    terminal.typed(1);
     menu.open();
     menu.choose(1);
     EXPECT_TRUE(goes(title::overlay));
     menu.open();
     menu.choose(2);
-    EXPECT_EQ(terminal.awaitBytes(2), "xx");
+    EXPECT_EQ(terminal.typed(2), "xx");
 }
 
 TEST_F(TrayTest, quitsByTheMenu) {

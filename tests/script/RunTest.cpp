@@ -7,9 +7,9 @@
 #include <fstream>
 
 #include "support/Child.h"
+#include "support/Terminal.h"
 #include "support/XServer.h"
 #include "x11/KeyboardProbe.h"
-#include "x11/Terminal.h"
 
 namespace {
 

@@ -7,9 +7,9 @@
 #include "platform/script/ScriptRunner.h"
 #include "platform/x11/X11EventManager.h"
 #include "platform/x11/X11KeyInjector.h"
+#include "support/Terminal.h"
 #include "support/XServer.h"
 #include "x11/Hands.h"
-#include "x11/Terminal.h"
 
 namespace {
 

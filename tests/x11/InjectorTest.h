@@ -8,10 +8,10 @@
 #include "platform/linux/SteadyClock.h"
 #include "platform/x11/X11EventManager.h"
 #include "platform/x11/X11KeyInjector.h"
+#include "support/Terminal.h"
 #include "support/XServer.h"
 #include "x11/CoreClient.h"
 #include "x11/KeyboardProbe.h"
-#include "x11/Terminal.h"
 
 /// The injector on a display, with the event manager as it is in the program.
 class InjectorOnDisplay {
