@@ -29,28 +29,29 @@ function(keyrill_compile_options target)
     set_target_properties(${target} PROPERTIES AUTOMOC OFF)
 endfunction()
 
-# Links each of the headers of `folder` into `view`, under the folder's own name.
-function(keyrill_view view folder)
+# Links each of the headers, which lie in `from`, into `view`, under the name of their folder.
+function(keyrill_view view folder from)
     foreach(header IN LISTS ARGN)
         set(link "${view}/${folder}/${header}")
         get_filename_component(parent "${link}" DIRECTORY)
         file(MAKE_DIRECTORY "${parent}")
-        file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}/${header}" "${link}" SYMBOLIC)
+        file(CREATE_LINK "${from}/${header}" "${link}" SYMBOLIC)
     endforeach()
 endfunction()
 
 # keyrill_room(keyrill_core FOLDER core HEADERS Action.h ... SOURCES Action.cpp ... PRIVATE_HEADERS ...
-#              USES keyrill_platform Boost::headers PRIVATE_USES XCB::XCB)
-# Every public header is also compiled alone.
+#              GENERATED_HEADERS ... USES keyrill_platform Boost::headers PRIVATE_USES XCB::XCB)
+# Generated headers are public and lie in the binary folder. Every public header is also compiled alone.
 function(keyrill_room target)
-    cmake_parse_arguments(room "" "FOLDER" "HEADERS;PRIVATE_HEADERS;SOURCES;USES;PRIVATE_USES" ${ARGN})
+    cmake_parse_arguments(room "" "FOLDER" "HEADERS;GENERATED_HEADERS;PRIVATE_HEADERS;SOURCES;USES;PRIVATE_USES" ${ARGN})
     set(view "${PROJECT_BINARY_DIR}/view/${target}")
     file(REMOVE_RECURSE "${view}" "${view}_private")
-    keyrill_view("${view}" "${room_FOLDER}" ${room_HEADERS})
-    keyrill_view("${view}_private" "${room_FOLDER}" ${room_PRIVATE_HEADERS})
+    keyrill_view("${view}" "${room_FOLDER}" "${CMAKE_CURRENT_SOURCE_DIR}" ${room_HEADERS})
+    keyrill_view("${view}" "${room_FOLDER}" "${CMAKE_CURRENT_BINARY_DIR}" ${room_GENERATED_HEADERS})
+    keyrill_view("${view}_private" "${room_FOLDER}" "${CMAKE_CURRENT_SOURCE_DIR}" ${room_PRIVATE_HEADERS})
 
     set(alone "")
-    foreach(header IN LISTS room_HEADERS)
+    foreach(header IN LISTS room_HEADERS room_GENERATED_HEADERS)
         string(MAKE_C_IDENTIFIER "${header}" name)
         set(source "${CMAKE_CURRENT_BINARY_DIR}/alone/${name}.cpp")
         file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"${room_FOLDER}/${header}\"\n")

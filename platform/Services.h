@@ -6,8 +6,16 @@ class EventMonitor;
 class HotKeys;
 class KeyboardLayout;
 class KeyInjector;
+class LoginItems;
+class MacroFiles;
+class Notifications;
+class ScreenLock;
 class ScriptingService;
+class SessionCheck;
 class SettingsStore;
+class SystemFacts;
+class UpdateService;
+class Workspace;
 
 /// What the program asks of the desktop. All of it lives on the main thread and outlives the scope below.
 struct Services {
@@ -18,6 +26,15 @@ struct Services {
     KeyInjector& keyInjector;
     ScriptingService& scripting;
     SettingsStore& settings;
+    LoginItems& loginItems;
+    Workspace& workspace;
+    SystemFacts& systemFacts;
+    /// Never finds anything in a build without the update check (platform/Features.h).
+    UpdateService& updateService;
+    MacroFiles& macroFiles;
+    Notifications& notifications;
+    ScreenLock& screenLock;
+    SessionCheck& sessionCheck;
 };
 
 /// Installs the services for the life of the scope. Scopes nest; the inner one counts.

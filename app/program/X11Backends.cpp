@@ -7,6 +7,7 @@
 
 #include "platform/Services.h"
 #include "platform/linux/KeyFileSettings.h"
+#include "platform/linux/PendingServices.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/script/ScriptRunner.h"
 #include "platform/x11/X11Check.h"
@@ -14,6 +15,7 @@
 #include "platform/x11/X11EventManager.h"
 #include "platform/x11/X11KeyInjector.h"
 #include "platform/x11/X11KeyboardLayout.h"
+#include "platform/x11/X11SessionCheck.h"
 #include "platform/x11/X11Windows.h"
 
 struct X11Backends::Parts {
@@ -32,13 +34,29 @@ struct X11Backends::Parts {
     script::ScriptRunner scripting{keyInjector};
     X11Windows windows;
     X11DockingTray dockingTray;
+    pending::LoginItems loginItems;
+    pending::Workspace workspace;
+    pending::SystemFacts systemFacts;
+    pending::UpdateService updateService;
+    pending::MacroFiles macroFiles;
+    pending::Notifications notifications;
+    pending::ScreenLock screenLock;
+    X11SessionCheck sessionCheck{X11SessionCheck::sessionOfProcess()};
     Services services{.clock = *clock,
                       .eventMonitor = *eventManager,
                       .hotKeys = *eventManager,
                       .keyboardLayout = keyboardLayout,
                       .keyInjector = keyInjector,
                       .scripting = scripting,
-                      .settings = settings};
+                      .settings = settings,
+                      .loginItems = loginItems,
+                      .workspace = workspace,
+                      .systemFacts = systemFacts,
+                      .updateService = updateService,
+                      .macroFiles = macroFiles,
+                      .notifications = notifications,
+                      .screenLock = screenLock,
+                      .sessionCheck = sessionCheck};
     ServicesScope scope{services};
 };
 

@@ -8,4 +8,23 @@ FakePlatform::FakePlatform()
       keyboard(desktop, eventMonitor, hotKeys),
       keyInjector(desktop, keyboard, clock),
       scripting(desktop),
-      services{clock, eventMonitor, hotKeys, keyboardLayout, keyInjector, scripting, settings} {}
+      screenLock(desktop),
+      services(servicesWith(keyboardLayout)) {}
+
+Services FakePlatform::servicesWith(KeyboardLayout& layout) {
+    return {.clock = clock,
+            .eventMonitor = eventMonitor,
+            .hotKeys = hotKeys,
+            .keyboardLayout = layout,
+            .keyInjector = keyInjector,
+            .scripting = scripting,
+            .settings = settings,
+            .loginItems = loginItems,
+            .workspace = workspace,
+            .systemFacts = systemFacts,
+            .updateService = updateService,
+            .macroFiles = macroFiles,
+            .notifications = notifications,
+            .screenLock = screenLock,
+            .sessionCheck = sessionCheck};
+}

@@ -9,14 +9,25 @@
 #include "platform/fake/FakeKeyInjector.h"
 #include "platform/fake/FakeKeyboard.h"
 #include "platform/fake/FakeKeyboardLayout.h"
+#include "platform/fake/FakeLoginItems.h"
+#include "platform/fake/FakeMacroFiles.h"
+#include "platform/fake/FakeNotifications.h"
+#include "platform/fake/FakeScreenLock.h"
 #include "platform/fake/FakeScriptingService.h"
+#include "platform/fake/FakeSessionCheck.h"
 #include "platform/fake/FakeSettingsStore.h"
+#include "platform/fake/FakeSystemFacts.h"
+#include "platform/fake/FakeUpdateService.h"
+#include "platform/fake/FakeWorkspace.h"
 
 /// One of each fake service, joined as on a real desktop. Not installed: see ServicesScope.
 struct FakePlatform {
     FakePlatform();
     FakePlatform(const FakePlatform&) = delete;
     FakePlatform& operator=(const FakePlatform&) = delete;
+
+    /// The same services with another layout.
+    Services servicesWith(KeyboardLayout& layout);
 
     FakeClock clock;
     FakeDesktop desktop;
@@ -27,5 +38,13 @@ struct FakePlatform {
     FakeKeyInjector keyInjector;
     FakeScriptingService scripting;
     FakeSettingsStore settings;
+    FakeLoginItems loginItems;
+    FakeWorkspace workspace;
+    FakeSystemFacts systemFacts;
+    FakeUpdateService updateService;
+    FakeMacroFiles macroFiles;
+    FakeNotifications notifications;
+    FakeScreenLock screenLock;
+    FakeSessionCheck sessionCheck;
     Services services;
 };

@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/Result.h"
 #include "platform/SettingsStore.h"
@@ -20,6 +21,10 @@ class KeyFileSettings : public SettingsStore {
 
     /// Also 0 for an integer beyond 64 bits.
     std::optional<std::int64_t> integer(const std::string& key) const override;
+    void setInteger(const std::string& key, std::int64_t value) override { m_values[key] = value; }
+    void setBool(const std::string& key, bool value) override { m_values[key] = value ? 1 : 0; }
+    Result<> synchronize() override { return Error{"This build cannot store settings yet.", ""}; }
+    std::optional<Error> takeFault() override { return std::exchange(m_problem, std::nullopt); }
 
     /// The first file, in order of reading, that is there and could not be read, and why. What it holds
     /// counts as absent; the other files count.

@@ -16,6 +16,8 @@ bool has(const XConnection& connection, xcb_extension_t& extension) {
     return reply != nullptr && reply->present != 0;
 }
 
+}  // namespace
+
 Result<void> checkXInput(const XConnection& connection) {
     const std::string needed = "The X server must have XInput 2.2 or newer";
     if (!has(connection, xcb_input_id)) return Error{needed + ", but has no XInput.", hint};
@@ -36,7 +38,10 @@ Result<void> checkXkb(const XConnection& connection) {
     return Error{"The X server must have the XKB extension, but it cannot be used.", hint};
 }
 
-}  // namespace
+Result<void> checkXTest(const XConnection& connection) {
+    if (has(connection, xcb_test_id)) return {};
+    return Error{"The X server must have the XTEST extension, but it has not.", hint};
+}
 
 Result<void> checkKeyEventAccess(const XConnection& connection) {
     Result<void> input = checkXInput(connection);
@@ -47,7 +52,5 @@ Result<void> checkX11Access(const std::string& display) {
     const Result<XConnection> connection = XConnection::open(display);
     if (!connection) return connection.error();
     Result<void> events = checkKeyEventAccess(connection.value());
-    if (!events) return events;
-    if (has(connection.value(), xcb_test_id)) return {};
-    return Error{"The X server must have the XTEST extension, but it has not.", hint};
+    return events ? checkXTest(connection.value()) : events;
 }

@@ -14,3 +14,10 @@ Result<void> checkX11Access(const std::string& display = {});
 /// The part of it that seeing keys needs. Also announces to the server that this connection speaks XInput 2.2
 /// and XKB, without which it gets no such events.
 Result<void> checkKeyEventAccess(const XConnection& connection);
+
+/// Whether there is XInput 2.2; announces it, too.
+Result<void> checkXInput(const XConnection& connection);
+/// Whether there is XKB; announces it, too.
+Result<void> checkXkb(const XConnection& connection);
+/// Whether there is XTEST.
+Result<void> checkXTest(const XConnection& connection);

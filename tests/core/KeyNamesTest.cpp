@@ -114,8 +114,7 @@ class EchoLayout : public KeyboardLayout {
 class EchoedKeyNamesTest : public KeyNamesTest {
   private:
     EchoLayout m_layout;
-    Services m_services{platform.clock,       platform.eventMonitor, platform.hotKeys, m_layout,
-                        platform.keyInjector, platform.scripting,    platform.settings};
+    Services m_services = platform.servicesWith(m_layout);
     ServicesScope m_scope{m_services};
 };
 

@@ -4,7 +4,7 @@
 
 BEGIN {
     standard = "^[a-z_]+$"
-    common = "^platform/[A-Za-z]+\\.h$"
+    common = "^platform/[A-Za-z0-9]+\\.h$"
     generated = "^[A-Za-z]+\\.(inc|moc)$"
 
     # folder; what it may include in quotes; what it may, and may not, include in angle brackets. The longest

@@ -7,7 +7,7 @@
 #include <string>
 #include <tuple>
 
-#include "platform/SettingsStore.h"
+#include "platform/fake/FakeSettingsStore.h"
 #include "prefs/KeyCombo.h"
 #include "prefs/PreferenceManager.h"
 
@@ -15,17 +15,11 @@ namespace {
 
 using utils::PreferenceManager;
 
-class MapStore : public SettingsStore {
+class MapStore : public FakeSettingsStore {
   public:
-    explicit MapStore(std::map<std::string, std::int64_t> values) : m_values(std::move(values)) {}
-
-    std::optional<std::int64_t> integer(const std::string& key) const override {
-        const auto value = m_values.find(key);
-        return value != m_values.end() ? std::optional(value->second) : std::nullopt;
+    explicit MapStore(const std::map<std::string, std::int64_t>& values) {
+        for (const auto& [key, value] : values) put(key, value);
     }
-
-  private:
-    std::map<std::string, std::int64_t> m_values;
 };
 
 class SettingsTest : public testing::Test {

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "platform/AsciiText.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <string>
+
+#include "platform/Utf8.h"
+
+namespace {
+
+std::string hexadecimal(const char* prefix, int digits, std::uint32_t number) {
+    std::string text(32, '\0');
+    const int length = std::snprintf(text.data(), text.size(), "%s%0*X", prefix, digits, number);
+    text.resize(static_cast<std::size_t>(length));
+    return text;
+}
+
+std::string nameOf(std::string_view rest, const Utf8Character& character) {
+    if (!character.code) return "the byte " + hexadecimal("0x", 2, static_cast<std::uint8_t>(rest.front()));
+    std::string name = "the character ";
+    // Controls (U+0080 to U+009F) would be invisible.
+    if (*character.code >= 0xA0) name.append("\"").append(rest.substr(0, character.length)).append("\" ");
+    return name + "(" + hexadecimal("U+", 4, *character.code) + ")";
+}
+
+}  // namespace
+
+Result<> checkAscii(std::string_view text) {
+    const auto isAscii = [](char character) { return static_cast<std::uint8_t>(character) < 0x80; };
+    const auto found = std::find_if_not(text.begin(), text.end(), isAscii);
+    if (found == text.end()) return {};
+    const auto before = text.substr(0, static_cast<std::size_t>(found - text.begin()));
+    const auto line = std::count(before.begin(), before.end(), '\n') + 1;
+    const auto column = before.size() - (before.rfind('\n') + 1) + 1;
+    const std::string_view rest = text.substr(before.size());
+    return Error{"Line " + std::to_string(line) + " has " + nameOf(rest, firstCharacter(rest)) +
+                     " at place " + std::to_string(column) + ", and a macro file can hold ASCII only.",
+                 "Replace the character in the macro."};
+}

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Utf8.h"
+
+namespace {
+
+struct Form {
+    std::uint8_t mask;
+    std::uint8_t mark;
+    std::uint32_t least;
+};
+
+/// By length less one.
+constexpr Form forms[] = {{0x80, 0x00, 0}, {0xE0, 0xC0, 0x80}, {0xF0, 0xE0, 0x800}, {0xF8, 0xF0, 0x10000}};
+
+constexpr Utf8Character none{std::nullopt, 1};
+
+Utf8Character decoded(std::string_view text, const Form& form, std::size_t length) {
+    if (text.size() < length) return none;
+    std::uint32_t code = static_cast<std::uint8_t>(text.front()) & static_cast<std::uint8_t>(~form.mask);
+    for (const char next : text.substr(1, length - 1)) {
+        const auto byte = static_cast<std::uint8_t>(next);
+        if ((byte & 0xC0U) != 0x80U) return none;
+        code = code << 6U | (byte & 0x3FU);
+    }
+    const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
+    if (code < form.least || code > 0x10FFFF || isSurrogate) return none;
+    return {code, length};
+}
+
+}  // namespace
+
+Utf8Character firstCharacter(std::string_view text) {
+    const auto first = static_cast<std::uint8_t>(text.front());
+    std::size_t length = 0;
+    for (const Form& form : forms) {
+        ++length;
+        if ((first & form.mask) == form.mark) return decoded(text, form, length);
+    }
+    return none;
+}

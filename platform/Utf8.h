@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+/// A character of a text in UTF-8.
+struct Utf8Character {
+    /// Empty for a byte that begins no character there; the length is 1 then.
+    std::optional<std::uint32_t> code;
+    /// In bytes, 1 to 4.
+    std::size_t length;
+
+    friend bool operator==(const Utf8Character&, const Utf8Character&) = default;
+};
+
+/// The first character of a text that is not empty. Overlong forms, surrogates and codes above 0x10FFFF are
+/// no characters (RFC 3629).
+Utf8Character firstCharacter(std::string_view text);

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "platform/fake/FakeMacroFiles.h"
+
+#include "platform/AsciiText.h"
+
+std::string FakeMacroFiles::prepareFolder() {
+    ++m_preparations;
+    return folder;
+}
+
+Result<std::string> FakeMacroFiles::read(const std::string& path) const {
+    if (const auto error = m_nextError.take()) return *error;
+    const auto file = m_files.find(path);
+    if (file == m_files.end()) {
+        return Error{"The file " + path + " cannot be read: No such file or directory",
+                     "Check that the file is there and who may read it."};
+    }
+    return file->second;
+}
+
+Result<> FakeMacroFiles::write(const std::string& path, std::string_view text) {
+    if (const auto error = m_nextError.take()) return *error;
+    const Result<> ascii = checkAscii(text);
+    if (ascii) m_files[path] = text;
+    return ascii;
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "platform/MacroFiles.h"
+#include "platform/fake/NextError.h"
+
+/// Files in memory. Their texts are UTF-8.
+class FakeMacroFiles : public MacroFiles {
+  public:
+    static constexpr const char* folder = "/home/user/.local/share/keyrill";
+
+    std::string prepareFolder() override;
+    Result<std::string> read(const std::string& path) const override;
+    Result<> write(const std::string& path, std::string_view text) override;
+
+    /// A file that the user has put there.
+    void put(const std::string& path, const std::string& text) { m_files[path] = text; }
+    /// By path.
+    const std::map<std::string, std::string>& files() const { return m_files; }
+    /// How often the folder was prepared.
+    int preparations() const { return m_preparations; }
+    /// The next read or write fails; the file stays as it was.
+    void failNextCall(const Error& error) { m_nextError.set(error); }
+
+  private:
+    std::map<std::string, std::string> m_files;
+    int m_preparations = 0;
+    mutable NextError m_nextError;
+};

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "platform/SessionCheck.h"
+
+/// An X11 session, by its server's extensions. Each question opens a connection of its own.
+class X11SessionCheck : public SessionCheck {
+  public:
+    /// What the environment says of the session; empty where it says nothing.
+    struct Session {
+        /// DISPLAY
+        std::string display;
+        /// WAYLAND_DISPLAY
+        std::string waylandDisplay;
+    };
+    static Session sessionOfProcess();
+
+    explicit X11SessionCheck(Session session) : m_session(std::move(session)) {}
+
+    /// An X server that is reached and has XInput 2.2.
+    Result<> version() const override;
+    /// XKB and XTEST.
+    Result<> access() const override;
+    /// Also where the X server is one within a Wayland session (its extension XWAYLAND).
+    bool seesOnlySomeWindows() const override;
+
+  private:
+    Session m_session;
+};
