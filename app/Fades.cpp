@@ -5,28 +5,24 @@
 #include <QWidget>
 
 namespace {
-
 constexpr int durationInMilliseconds = 350;
 const QString fadeName = QStringLiteral("fade");
-
-void stopFade(QWidget& window) {
-    delete window.findChild<QPropertyAnimation*>(fadeName, Qt::FindDirectChildrenOnly);
-}
-
 }  // namespace
 
-void fadeIn(QWidget& window, double alpha) {
-    stopFade(window);
-    window.setWindowOpacity(0);
-    window.show();
+void setAlpha(QWidget& window, double alpha) {
+    endFade(window);
+    window.setWindowOpacity(alpha);
+}
+
+void animateAlpha(QWidget& window, double alpha) {
+    endFade(window);
     auto* fade = new QPropertyAnimation(&window, "windowOpacity", &window);
     fade->setObjectName(fadeName);
     fade->setDuration(durationInMilliseconds);
-    fade->setEndValue(alpha);
+    fade->setEndValue(static_cast<double>(static_cast<float>(alpha)));
     fade->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
-void fadeOut(QWidget& window) {
-    stopFade(window);
-    window.hide();
+void endFade(QWidget& window) {
+    delete window.findChild<QPropertyAnimation*>(fadeName, Qt::FindDirectChildrenOnly);
 }

@@ -3,8 +3,13 @@
 
 class QWidget;
 
-/// Shows the window at once, first fully transparent, and lets it become opaque up to `alpha` within 0.35 s.
-void fadeIn(QWidget& window, double alpha);
+// A window has at most one running fade; each of these ends it first.
 
-/// Hides the window at once, whatever its fade has come to.
-void fadeOut(QWidget& window);
+/// Sets the opacity at once.
+void setAlpha(QWidget& window, double alpha);
+
+/// Lets the opacity become `alpha` within 0.35 s. It is kept in single precision.
+void animateAlpha(QWidget& window, double alpha);
+
+/// Leaves the opacity as it is by now.
+void endFade(QWidget& window);

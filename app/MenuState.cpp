@@ -2,12 +2,19 @@
 #include "app/MenuState.h"
 
 MenuState menuState(const MenuFacts& facts) {
-    const MenuItemState playing{.visible = facts.hasStopped && !facts.recording, .enabled = facts.hasMacro};
-    return {.record = {.visible = !facts.recording},
-            .stop = {.visible = facts.recording},
-            .saveDelay = {.visible = facts.overlayShown},
+    const bool open = !facts.gateShut;
+    const bool filesAllowed = open && !facts.overlayShown;
+    const MenuItemState playing{.visible = facts.hasStopped && !facts.recording,
+                                .enabled = open && facts.hasMacro};
+    return {.record = {.visible = !facts.recording, .enabled = open},
+            .stop = {.visible = facts.recording, .enabled = open},
+            .saveDelay = {.visible = facts.overlayShown, .enabled = open},
             .play = playing,
             .multiplePlay = playing,
-            .history = {.enabled = facts.hasHistory},
-            .promptPlays = facts.hasMacro};
+            .history = {.enabled = open && facts.hasHistory},
+            .saveMacro = {.visible = facts.hasStopped, .enabled = filesAllowed && facts.hasMacro},
+            .loadMacro = {.enabled = filesAllowed},
+            .others = {.enabled = open},
+            .promptPlays = facts.hasMacro,
+            .overlayVisible = facts.overlayShown && !facts.screenLocked};
 }

@@ -23,4 +23,6 @@ class StatusItem {
     /// The ordinary window that stands in for the item where the desktop has no place for one; null while
     /// there is none.
     virtual QWidget* window() = 0;
+    /// Shows such a window, in front of all others, also where there is a place for the item.
+    virtual void showWindow() = 0;
 };

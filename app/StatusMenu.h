@@ -9,6 +9,7 @@ struct MenuState;
 QString menuTitle(QString text);
 
 /// The status item's menu. The controller connects the items; what they look like comes from a MenuState.
+/// Until the first one, everything is shown.
 class StatusMenu : public QMenu {
     Q_OBJECT
 
@@ -17,11 +18,29 @@ class StatusMenu : public QMenu {
 
     void apply(const MenuState& state);
 
-    QAction* recordMenuItem;
-    QAction* stopMenuItem;
-    QAction* saveDelayMenuItem;
-    QAction* playMenuItem;
-    QAction* multiplePlayMenuItem;
-    QMenu* historyMenu;
-    QAction* quitMenuItem;
+    QAction* recordMenuItem = nullptr;
+    QAction* stopMenuItem = nullptr;
+    QAction* saveDelayMenuItem = nullptr;
+    QAction* playMenuItem = nullptr;
+    QAction* multiplePlayMenuItem = nullptr;
+    QMenu* historyMenu = nullptr;
+    QAction* saveMacroMenuItem = nullptr;
+    QAction* loadMacroMenuItem = nullptr;
+    QAction* preferencesMenuItem = nullptr;
+    QMenu* helpMenu = nullptr;
+    QAction* documentationMenuItem = nullptr;
+    QAction* forumMenuItem = nullptr;
+    QAction* keyrillWebsiteMenuItem = nullptr;
+    QAction* orlenWebsiteMenuItem = nullptr;
+    QAction* supportMenuItem = nullptr;
+    QAction* feedbackMenuItem = nullptr;
+    QAction* bugMenuItem = nullptr;
+    /// Null in builds without the update check.
+    QAction* updateMenuItem = nullptr;
+    QAction* aboutMenuItem = nullptr;
+    QAction* quitMenuItem = nullptr;
+
+  private:
+    void addMacroItems();
+    void addHelpMenu();
 };

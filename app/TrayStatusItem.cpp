@@ -40,9 +40,18 @@ void TrayStatusItem::setNotice(const QString& notice) {
 
 QWidget* TrayStatusItem::window() { return m_window.get(); }
 
+void TrayStatusItem::showWindow() {
+    if (m_menu == nullptr) return;
+    if (!m_window) showControlWindow();
+    if (m_window->isMinimized()) m_window->showNormal();
+    m_window->show();
+    m_window->raise();
+}
+
 void TrayStatusItem::followTray() {
     if (m_menu == nullptr) return;
     if (!m_gate.isPresent()) {
+        if (m_window) m_window->setStandsIn(true);
         m_withoutTray.start();
         return;
     }
@@ -72,7 +81,8 @@ void TrayStatusItem::updateIcon() {
 }
 
 void TrayStatusItem::showControlWindow() {
-    m_window = std::make_unique<ControlWindow>(*m_menu);
+    if (!m_window) m_window = std::make_unique<ControlWindow>(*m_menu);
     m_window->setNotice(m_notice);
+    m_window->setStandsIn(!m_gate.isPresent());
     m_window->show();
 }

@@ -23,6 +23,7 @@ class TrayStatusItem : public QObject, public StatusItem {
     void setImage(StatusImage image) override;
     void setNotice(const QString& notice) override;
     QWidget* window() override;
+    void showWindow() override;
 
   private:
     void followTray();

@@ -17,7 +17,7 @@ void interruptRun(void* injector) { static_cast<X11KeyInjector*>(injector)->inte
 
 Program::Program(X11Backends& backends)
     : m_statusItem(backends.dockingTray()),
-      m_controller(backends.services(), backends.windows(), m_statusItem),
+      m_controller(backends.services(), backends.windows(), m_statusItem, m_dialogs),
       m_signals(interruptRun, &backends.keyInjector()),
       m_eventsReadable(backends.eventManager().fileDescriptor(), QSocketNotifier::Read),
       m_trayReadable(backends.dockingTray().fileDescriptor(), QSocketNotifier::Read) {

@@ -5,6 +5,7 @@
 
 #include "app/AppController.h"
 #include "app/TrayStatusItem.h"
+#include "app/program/PlainDialogs.h"
 #include "app/program/TerminationSignals.h"
 
 class X11Backends;
@@ -21,6 +22,7 @@ class Program {
 
   private:
     TrayStatusItem m_statusItem;
+    PlainDialogs m_dialogs;
     AppController m_controller;
     TerminationSignals m_signals;
     QSocketNotifier m_eventsReadable;

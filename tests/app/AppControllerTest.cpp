@@ -3,6 +3,7 @@
 
 #include "app/AppTest.h"
 #include "app/MacroMenuItem.h"
+#include "app/MultiplePlayWindow.h"
 #include "engine/MacroPlayer.h"
 #include "platform/Modifiers.h"
 
@@ -26,7 +27,7 @@ TEST_F(AppControllerTest, startsWithTheBusyImageAndOnlyRecordToChoose) {
     controller.awakeFromNib();
     EXPECT_EQ(statusItem.shownMenu, &controller.statusMenu);
     EXPECT_EQ(statusItem.shownImage, StatusImage::busy);
-    EXPECT_EQ(menu(), "Start Recording, -, [History], -, Quit");
+    EXPECT_EQ(menu(), "Start Recording, -, [History], Load Macro..., -, Preferences..., Help, -, Quit");
 }
 
 TEST_F(AppControllerTest, showsTheNormalImageAfterTheSplash) {
@@ -54,18 +55,24 @@ TEST_F(AppControllerTest, showsWhichHotKeyIsRefusedAndWhy) {
 
 TEST_F(AppControllerTest, showsStopAndSavePauseWhileRecording) {
     controller.recordMacro(nullptr);
-    EXPECT_EQ(menu(), "Stop Recording, Save Pause, -, [History], -, Quit");
+    EXPECT_EQ(menu(),
+              "Stop Recording, Save Pause, -, [History], [Load Macro...], -, Preferences..., Help, -, Quit");
 }
 
 TEST_F(AppControllerTest, offersPlayingWhenAMacroWasRecorded) {
     recordKey(returnKey);
-    EXPECT_EQ(menu(), "Start Recording, Play, Play Multiple Times..., -, History, -, Quit");
+    EXPECT_EQ(menu(),
+              "Start Recording, Play, Play Multiple Times..., -, History, Save Macro..., Load Macro..., -, "
+              "Preferences..., Help, -, Quit");
 }
 
 TEST_F(AppControllerTest, greysPlayingAfterAnEmptyRecording) {
     controller.recordMacro(nullptr);
     controller.stopMacro(nullptr);
-    EXPECT_EQ(menu(), "Start Recording, [Play], [Play Multiple Times...], -, [History], -, Quit");
+    EXPECT_EQ(
+        menu(),
+        "Start Recording, [Play], [Play Multiple Times...], -, [History], [Save Macro...], Load Macro..., -, "
+        "Preferences..., Help, -, Quit");
 }
 
 TEST_F(AppControllerTest, filesTheNewestMacroOnTop) {
@@ -114,7 +121,7 @@ TEST_F(AppControllerTest, refreshesTheScriptingServiceWithAnEmptyScript) {
 
 TEST_F(AppControllerTest, opensThePromptWithThePermissionOfTheHotKey) {
     controller.showMultiplePlayGui();
-    EXPECT_TRUE(controller.promptWindow()->isVisible());
+    EXPECT_TRUE(controller.multiplePlayWindow()->isVisible());
     EXPECT_EQ(windows.calls,
               std::vector<std::string>{"activate " + std::to_string(platform().hotKeys.lastPressTime())});
 }
@@ -128,7 +135,7 @@ TEST_F(AppControllerTest, fadesInFromNothing) {
     auto* fade = window.findChild<QPropertyAnimation*>();
     ASSERT_NE(fade, nullptr);
     EXPECT_EQ(fade->duration(), 350);
-    EXPECT_EQ(fade->endValue().toDouble(), 0.9);
+    EXPECT_FLOAT_EQ(fade->endValue().toFloat(), 0.9F);
 }
 
 TEST_F(AppControllerTest, hidesAtOnceWhenFadingOut) {

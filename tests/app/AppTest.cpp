@@ -29,7 +29,7 @@ const testing::Environment* const environment = testing::AddGlobalTestEnvironmen
 
 }  // namespace
 
-AppTest::AppTest() : controller(platform().services, windows, statusItem) {}
+AppTest::AppTest() : controller(platform().services, windows, statusItem, dialogs) {}
 
 std::string AppTest::menu() const {
     QStringList titles;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/AppController.h"
+#include "app/FakeDialogs.h"
 #include "app/StatusItem.h"
 #include "engine/EngineTest.h"
 #include "platform/Windows.h"
@@ -22,11 +23,13 @@ class FakeStatusItem : public StatusItem {
     void setImage(StatusImage image) override { shownImage = image; }
     void setNotice(const QString& notice) override { shownNotice = notice.toStdString(); }
     QWidget* window() override { return standIn; }
+    void showWindow() override { ++windowRequests; }
 
     QMenu* shownMenu = nullptr;
     std::optional<StatusImage> shownImage;
     std::string shownNotice;
     QWidget* standIn = nullptr;
+    int windowRequests = 0;
 };
 
 /// A window system that remembers what it is asked for: "activate 77", "await hidden", "await".
@@ -54,5 +57,6 @@ class AppTest : public EngineTest {
 
     FakeStatusItem statusItem;
     FakeWindows windows;
+    FakeDialogs dialogs;
     AppController controller;
 };

@@ -13,7 +13,7 @@ AlertAnswer FakeDialogs::runAlert(const AlertText& text) {
 }
 
 void FakeDialogs::beginSheet(QWidget& panel, const AlertText& text, DidEnd didEnd) {
-    sheets.push_back({&panel, text, static_cast<bool>(didEnd)});
+    sheets.push_back({&panel, text});
     m_didEnd = std::move(didEnd);
 }
 

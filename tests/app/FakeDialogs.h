@@ -28,7 +28,6 @@ class FakeDialogs : public Dialogs {
     struct Sheet {
         QWidget* panel = nullptr;
         AlertText text;
-        bool reports = false;
     };
     std::vector<Sheet> sheets;
     /// The folders in which file panels were opened: "save /folder", "open /folder".

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "app/AppTest.h"
+#include "app/MultiplePlayWindow.h"
 
 namespace {
 
@@ -12,7 +13,7 @@ namespace {
 class MultiplePlayTest : public AppTest {
   protected:
     void open() { controller.showMultiplePlayGui(); }
-    QWidget& prompt() const { return *controller.promptWindow(); }
+    QWidget& prompt() const { return *controller.multiplePlayWindow(); }
     QLineEdit& field() const { return *prompt().findChild<QLineEdit*>(); }
     QPushButton& button() const { return *prompt().findChild<QPushButton*>(); }
 

@@ -43,7 +43,10 @@ void Desktop::makeHome() {
     const std::filesystem::path presets = m_folder.file("presets");
     std::filesystem::create_directories(presets / "keyrill");
     std::filesystem::copy_file(KEYRILL_PRESETS, presets / "keyrill/keyrill.conf");
-    std::filesystem::create_directories(m_folder.file("home"));
+    const std::filesystem::path settings = m_folder.file("home/.config/keyrill");
+    std::filesystem::create_directories(settings);
+    // Nobody is greeted.
+    std::ofstream(settings / "keyrill.conf") << "[Settings]\nnotFirstRun=true\n";
     mkdir(m_folder.file("runtime").c_str(), 0700);
     m_environment = {{"DISPLAY", m_display},
                      {"HOME", m_folder.file("home")},

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "app/Gate.h"
+
+#include <utility>
+
+#include "engine/EngineState.h"
+#include "platform/EventMonitor.h"
+
+Gate::Gate(EventMonitor& monitor, std::function<void()> changed)
+    : m_monitor(monitor), m_changed(std::move(changed)) {}
+
+void Gate::questionOpens() {
+    const bool wasOpen = isOpen();
+    ++m_questions;
+    follow(wasOpen);
+}
+
+void Gate::questionCloses() {
+    const bool wasOpen = isOpen();
+    --m_questions;
+    follow(wasOpen);
+}
+
+void Gate::setLocked(bool locked) {
+    if (m_locked == locked) return;
+    const bool wasOpen = isOpen();
+    m_locked = locked;
+    follow(wasOpen);
+}
+
+void Gate::follow(bool wasOpen) {
+    if (wasOpen != isOpen()) {
+        m_monitor.setWithheld(!isOpen());
+        if (!isOpen()) engineState().playPending = false;
+    }
+    m_changed();
+}

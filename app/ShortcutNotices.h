@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <array>
+
+#include "platform/HotKeys.h"
+#include "prefs/KeyCombo.h"
+
+/// One of the four shortcuts, as its field and the hot-key registry have it.
+struct ShortcutFacts {
+    /// What the field holds.
+    KeyCombo field;
+    /// What was asked of the registry last, in control flags.
+    KeyCombo asked;
+    /// What became of that.
+    HotKeyState state;
+};
+
+/// In the order record, stop, play, multiplePlay.
+using AllShortcutFacts = std::array<ShortcutFacts, 4>;
+using ShortcutNoticeTexts = std::array<QString, 4>;
+
+/// What stands beside each field, empty for nothing: why a combination does not work; that one which was
+/// cleared goes on working; which cleared one another has to wait for.
+ShortcutNoticeTexts shortcutNotices(const AllShortcutFacts& facts);
