@@ -64,7 +64,7 @@ X11EventManager::Parts::Parts(const Clock& clock, Opened opened)
 }
 
 void X11EventManager::Parts::dispatch() {
-    drain();
+    read();
     if (m_dispatching || m_running) return;
     const FlagScope dispatching(m_dispatching);
     std::deque<Delivery>& deliveries = m_interpreter.deliveries();
@@ -76,6 +76,12 @@ void X11EventManager::Parts::dispatch() {
 }
 
 void X11EventManager::Parts::drain() {
+    read();
+    // Between two runs, and after the last, nothing else would tell the loop of what was read in passing.
+    if (!m_running && !m_interpreter.deliveries().empty()) kick();
+}
+
+void X11EventManager::Parts::read() {
     m_wakeups.takeKick();
     if (isBroken()) return giveUp();
     m_order.workOff();

@@ -57,6 +57,7 @@ class X11EventManager::Parts final : public RunWatch {
     };
     Parts(const Clock& clock, Opened opened);
 
+    void read();
     void catchUp();
     void mute();
     void followKeymap();

@@ -270,6 +270,16 @@ TEST_F(RunWatchTest, theDescriptorIsReadableAfterTheRunIfSomethingWasKept) {
     EXPECT_EQ(poll(&descriptor, 1, 0), 1);
 }
 
+TEST_F(RunWatchTest, theDescriptorIsReadableAfterADrainBesideARunThatReadSomething) {
+    manager().dispatch();
+    program().tap(xkey::a);
+    program().finish();
+    watch().drain();
+    pollfd descriptor{manager().fileDescriptor(), POLLIN, 0};
+    EXPECT_EQ(poll(&descriptor, 1, 0), 1);
+    EXPECT_TRUE(loopUntilLine("up 0"));
+}
+
 TEST_F(RunWatchTest, aLayoutChangedDuringARunIsFollowed) {
     watch().runStarts();
     outputOf({"setxkbmap", "-layout", "fr"}, {{"DISPLAY", servers().display()}});
