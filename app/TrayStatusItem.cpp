@@ -65,7 +65,9 @@ void TrayStatusItem::makeIcon() {
     m_icon->setContextMenu(m_menu);
     connect(m_icon.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
-                if (reason == QSystemTrayIcon::Trigger) m_menu->popup(QCursor::pos());
+                // A second click soon after the first is a double click to the toolkit.
+                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+                    m_menu->popup(QCursor::pos());
             });
     updateIcon();
     m_icon->show();
