@@ -13,10 +13,8 @@ class CancelTest : public testing::Test {
         // One press, one Escape.
         outputOf({"xset", "r", "off"}, {{"DISPLAY", servers.outerDisplay()}});
         desktop.run({"xdotool", "key", "ctrl+super+m"});
-        EXPECT_TRUE(eventually([this] { return desktop.shows(title::prompt); }));
-        EXPECT_TRUE(eventually([this] {
-            return desktop.run({"xdotool", "getwindowfocus", "-f"}) == desktop.window(title::prompt) + "\n";
-        }));
+        const ScreenWindow prompt = desktop.awaitWindow(title::prompt);
+        EXPECT_TRUE(eventually([&] { return desktop.hasFocus(prompt); }));
         desktop.run({"xdotool", "type", "1000000"});
         desktop.run({"xdotool", "key", "Return"});
         terminal.typed(20);

@@ -2,6 +2,7 @@
 #include "desktop/Desktop.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
 #include <sys/stat.h>
 
 #include <filesystem>
@@ -35,21 +36,23 @@ std::vector<std::string> commandFor(const Desktop& desktop, const std::string& s
 
 }  // namespace
 
-Desktop::Desktop() : m_server(std::make_unique<XServer>()), m_display(m_server->display()) { makeHome(); }
+Desktop::Desktop()
+    : m_server(std::make_unique<XServer>()), m_display(m_server->display()), m_screen(m_display) {
+    makeHome();
+}
 
-Desktop::Desktop(std::string display) : m_display(std::move(display)) { makeHome(); }
+Desktop::Desktop(std::string display) : m_display(std::move(display)), m_screen(m_display) { makeHome(); }
 
 void Desktop::makeHome() {
     const std::filesystem::path presets = m_folder.file("presets");
     std::filesystem::create_directories(presets / "keyrill");
     std::filesystem::copy_file(KEYRILL_PRESETS, presets / "keyrill/keyrill.conf");
-    const std::filesystem::path settings = m_folder.file("home/.config/keyrill");
-    std::filesystem::create_directories(settings);
+    std::filesystem::create_directories(m_folder.file("host"));
     // Nobody is greeted.
-    std::ofstream(settings / "keyrill.conf") << "[Settings]\nnotFirstRun=true\n";
+    writeSettings("notFirstRun=true\n");
     mkdir(m_folder.file("runtime").c_str(), 0700);
     m_environment = {{"DISPLAY", m_display},
-                     {"HOME", m_folder.file("home")},
+                     {"HOME", home()},
                      {"XDG_RUNTIME_DIR", m_folder.file("runtime")},
                      {"XDG_CONFIG_DIRS", presets},
                      {"XDG_CONFIG_HOME", ""},
@@ -60,23 +63,68 @@ void Desktop::makeHome() {
                      {"DBUS_SESSION_BUS_ADDRESS", "disabled:"}};
 }
 
+void Desktop::writeSettings(const std::string& lines) const {
+    const std::filesystem::path folder = home() + "/.config/keyrill";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "keyrill.conf") << "[Settings]\n" << lines;
+}
+
 Child::Options Desktop::options(const std::string& log) const {
     return {.environment = m_environment, .outputFile = m_folder.file(log)};
 }
 
-void Desktop::startWindowManager() {
-    m_manager =
-        std::make_unique<Child>(std::vector<std::string>{"openbox", "--sm-disable"}, options("openbox.log"));
+Child::Options Desktop::hostOptions(const std::string& log) const {
+    Child::Options result = options(log);
+    result.environment["HOME"] = m_folder.file("host");
+    result.environment["XDG_CONFIG_DIRS"] = "";
+    // Toolkits look for assistive technology, which none is there.
+    result.environment["NO_AT_BRIDGE"] = "1";
+    return result;
+}
+
+SessionBus& Desktop::startBus() {
+    m_bus = std::make_unique<SessionBus>(hostOptions("bus.log").environment);
+    m_environment["DBUS_SESSION_BUS_ADDRESS"] = m_bus->address();
+    return *m_bus;
+}
+
+void Desktop::startWindowManager(WindowManager manager) {
+    if (manager == WindowManager::none) return;
+    if (manager == WindowManager::xfwm4 && !m_bus) startBus();
+    const std::vector<std::string> command = manager == WindowManager::openbox
+                                                 ? std::vector<std::string>{"openbox", "--sm-disable"}
+                                                 : std::vector<std::string>{"xfwm4", "--compositor=off"};
+    m_manager = std::make_unique<Child>(command, hostOptions("manager.log"));
     awaitOrThrow("the window manager", [this] {
         return run({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}).find("0x") != std::string::npos;
     });
 }
 
-void Desktop::startTray() {
-    m_tray =
-        std::make_unique<Child>(std::vector<std::string>{"trayer", "--edge", "bottom", "--align", "right",
-                                                         "--height", "28", "--widthtype", "request"},
-                                options("trayer.log"));
+void Desktop::startCompositor() {
+    m_compositor = std::make_unique<Child>(
+        std::vector<std::string>{"picom", "--backend", "xrender", "--config", "/dev/null"},
+        hostOptions("compositor.log"));
+    awaitOrThrow("the compositor", [this] { return m_screen.isOwned("_NET_WM_CM_S0"); });
+}
+
+TrayHost& Desktop::startTray(TrayKind kind) {
+    if (kind == TrayKind::statusNotifier) {
+        if (!m_bus) startBus();
+        m_bus->letIn("org.xfce.Xfconf");
+        const std::filesystem::path folder = m_folder.file("host/.config/xfce4/xfconf/xfce-perchannel-xml");
+        std::filesystem::create_directories(folder);
+        std::ofstream(folder / "xfce4-panel.xml") << TrayHost::panelSettings();
+    }
+    m_tray = std::make_unique<TrayHost>(kind, hostOptions("tray.log"), m_screen);
+    return *m_tray;
+}
+
+void Desktop::killTray() {
+    m_tray->program().signal(SIGKILL);
+    m_tray->program().wait();
+    m_tray.reset();
+    // Helpers of the tray end a moment later.
+    awaitOrThrow("the tray's end", [this] { return !m_screen.isOwned("_NET_SYSTEM_TRAY_S0"); });
 }
 
 std::string Desktop::run(const std::vector<std::string>& command) const {
@@ -87,22 +135,10 @@ bool Desktop::succeeds(const std::vector<std::string>& command) const {
     return Child(command, options("command.log")).wait() == 0;
 }
 
-std::string Desktop::window(const std::string& title) const {
-    const TemporaryFolder folder;
-    // The output of a client that may find nothing, or a window that has gone by now.
-    const auto outputOfClient = [&](const std::vector<std::string>& command, const std::string& file) {
-        Child client(command, {.environment = m_environment, .outputFile = folder.file(file)});
-        client.wait();
-        return contentOf(folder.file(file));
-    };
-    for (const std::string& number :
-         linesOf(outputOfClient({"xdotool", "search", "--onlyvisible", "--class", "^keyrill$"}, "windows"))) {
-        // The search complains about windows that go while it looks.
-        if (number.find_first_not_of("0123456789") != std::string::npos) continue;
-        const std::string description = outputOfClient({"xwininfo", "-id", number}, number);
-        if (description.find("\"" + title + "\"\n") != std::string::npos) return number;
-    }
-    return {};
+ScreenWindow Desktop::awaitWindow(const std::string& title) const {
+    std::optional<ScreenWindow> found;
+    awaitOrThrow("the window " + title, [&] { return (found = window(title)).has_value(); });
+    return *found;
 }
 
 bool Desktop::isHotKeyTaken(std::uint8_t keycode) const {
@@ -116,12 +152,11 @@ bool Desktop::isHotKeyTaken(std::uint8_t keycode) const {
     return refused != nullptr;
 }
 
-std::string Desktop::colourAt(int x, int y) const {
-    const std::string picture = m_folder.file("screen.png");
-    run({"import", "-window", "root", picture});
-    const std::string point = "%[hex:u.p{" + std::to_string(x) + "," + std::to_string(y) + "}]";
-    return "#" + run({"convert", picture, "-format", point, "info:"}).substr(0, 6);
+void Desktop::click(int x, int y, int button) const {
+    run({"xdotool", "mousemove", std::to_string(x), std::to_string(y), "click", std::to_string(button)});
 }
+
+void Desktop::press(const std::string& combination) const { run({"xdotool", "key", combination}); }
 
 void Desktop::setLayout(const std::vector<std::string>& layoutOptions) const {
     std::vector<std::string> command = {"setxkbmap"};

@@ -3,9 +3,13 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "desktop/Screen.h"
+#include "desktop/SessionBus.h"
+#include "desktop/TrayHost.h"
 #include "support/Child.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"
@@ -19,8 +23,11 @@ inline constexpr const char* overlay = "Keyrill recording";
 inline constexpr const char* prompt = "Play Multiple Times";
 }  // namespace title
 
+enum class WindowManager { none, openbox, xfwm4 };
+
 /// A desktop of its own for one test: a home folder with the preset hot keys, and on a display a window
-/// manager, a tray and whatever programs the test starts.
+/// manager, a tray and whatever programs the test starts. There is a session bus only where the test, the
+/// window manager or the tray asks for one.
 class Desktop {
   public:
     /// With a server of its own.
@@ -28,10 +35,18 @@ class Desktop {
     /// On a display that outlives it.
     explicit Desktop(std::string display);
 
-    void startWindowManager();
-    /// A tray that icons dock into, at the lower right corner.
-    void startTray();
+    SessionBus& startBus();
+    SessionBus& bus() { return *m_bus; }
+    void startWindowManager(WindowManager manager = WindowManager::openbox);
+    Child& windowManager() { return *m_manager; }
+    /// Translucent windows become so.
+    void startCompositor();
+    /// At the lower edge.
+    TrayHost& startTray(TrayKind kind = TrayKind::docking);
     void endTray() { m_tray.reset(); }
+    /// Ends it without a word.
+    void killTray();
+    const TrayHost& tray() const { return *m_tray; }
 
     /// Runs a client to its end and gives its output.
     std::string run(const std::vector<std::string>& command) const;
@@ -39,16 +54,29 @@ class Desktop {
     /// Status 0.
     bool succeeds(const std::vector<std::string>& command) const;
 
-    /// The number of the window on the screen that has this title; empty if there is none.
-    std::string window(const std::string& title) const;
-    bool shows(const std::string& title) const { return !window(title).empty(); }
+    const Screen& screen() const { return m_screen; }
+    /// The program's window that has this title, if it is on the screen.
+    std::optional<ScreenWindow> window(const std::string& title) const {
+        return m_screen.find("keyrill", title);
+    }
+    bool shows(const std::string& title) const { return window(title).has_value(); }
+    /// Waits for a window of the program.
+    ScreenWindow awaitWindow(const std::string& title) const;
+    bool hasFocus(const ScreenWindow& window) const { return m_screen.focus() == window.number; }
     /// Whether a program holds Ctrl+Super+key, by its X key code.
     bool isHotKeyTaken(std::uint8_t keycode) const;
-    /// "#RRGGBB" of a point of the screen.
-    std::string colourAt(int x, int y) const;
+    std::string colourAt(int x, int y) const { return m_screen.colourAt(x, y); }
+    void click(int x, int y, int button = 1) const;
+    void press(const std::string& combination) const;
 
     const std::string& display() const { return m_display; }
+    /// A file of the test's own, outside of the home folder.
     std::string file(const std::string& name) const { return m_folder.file(name); }
+    std::string home() const { return m_folder.file("home"); }
+    /// Replaces the settings, which say nothing but that this is not the first run.
+    void writeSettings(const std::string& lines) const;
+    /// For programs that are started from now on; an empty value unsets.
+    void setEnvironment(const std::string& name, const std::string& value) { m_environment[name] = value; }
 
     /// One setxkbmap option line: {"-layout", "us,ru"}.
     void setLayout(const std::vector<std::string>& options) const;
@@ -58,13 +86,18 @@ class Desktop {
 
   private:
     void makeHome();
+    /// For the desktop's own programs, which keep their files apart from the program's.
+    Child::Options hostOptions(const std::string& log) const;
 
     TemporaryFolder m_folder;
     std::unique_ptr<XServer> m_server;
     std::string m_display;
+    Screen m_screen;
     std::map<std::string, std::string> m_environment;
+    std::unique_ptr<SessionBus> m_bus;
     std::unique_ptr<Child> m_manager;
-    std::unique_ptr<Child> m_tray;
+    std::unique_ptr<Child> m_compositor;
+    std::unique_ptr<TrayHost> m_tray;
 };
 
 /// The program under test, ready for hot keys when constructed.

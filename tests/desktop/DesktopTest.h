@@ -23,12 +23,23 @@ inline constexpr std::uint8_t p = 33;
 inline constexpr std::uint8_t m = 58;
 }  // namespace key
 
+inline std::string nameOf(TrayKind kind) { return kind == TrayKind::docking ? "docking" : "statusNotifier"; }
+inline std::string nameOf(WindowManager manager) {
+    if (manager == WindowManager::none) return "unmanaged";
+    return manager == WindowManager::openbox ? "openbox" : "xfwm4";
+}
+/// The last argument of INSTANTIATE_TEST_SUITE_P.
+template <typename Parameter>
+std::string nameOfParameter(const testing::TestParamInfo<Parameter>& info) {
+    return nameOf(info.param);
+}
+
 /// A desktop with a window manager and a terminal that is typed into.
 class DesktopTest : public testing::Test {
   protected:
     DesktopTest() { desktop.startWindowManager(); }
 
-    void press(const std::string& combination) const { desktop.run({"xdotool", "key", combination}); }
+    void press(const std::string& combination) const { desktop.press(combination); }
     void record() const { press("ctrl+super+r"); }
     void stop() const { press("ctrl+super+s"); }
     void play() const { press("ctrl+super+p"); }

@@ -1,46 +1,84 @@
 // SPDX-License-Identifier: MIT
+#include <regex>
+#include <tuple>
+
 #include "desktop/DesktopTest.h"
 
 namespace {
 
-class OverlayTest : public DesktopTest {
+/// Under each window manager, with a compositor and without, at the usual scale and at twice of it; over a
+/// terminal that fills the screen.
+class OverlayTest : public testing::TestWithParam<std::tuple<WindowManager, bool, int>> {
   protected:
-    Terminal terminal{desktop.display()};
-    Keyrill keyrill{desktop};
+    OverlayTest() {
+        desktop.startWindowManager(std::get<0>(GetParam()));
+        if (std::get<1>(GetParam())) desktop.startCompositor();
+        desktop.setEnvironment("QT_SCALE_FACTOR", std::to_string(scale()));
+        terminal.emplace(desktop.display(), Terminal::Options{.xterm = {"-fullscreen", "-bg", "yellow"},
+                                                              .typesMouseButtons = true});
+        keyrill.emplace(desktop);
+    }
+
+    static int scale() { return std::get<2>(GetParam()); }
+    /// Whether something is painted over the terminal at the overlay's left.
+    bool isOnTop(const ScreenWindow& overlay) const {
+        return desktop.colourAt(overlay.x + overlay.height / 2, overlay.middleY()) != "#FFFF00";
+    }
+    /// What has been typed, the mouse's buttons left out, and these alone.
+    std::string typedText() const { return std::regex_replace(terminal->typed(), buttons, ""); }
+    std::string typedButtons() const {
+        const std::string typed = terminal->typed();
+        std::string result;
+        for (std::sregex_iterator at(typed.begin(), typed.end(), buttons), end; at != end; ++at)
+            result += (*at)[1];
+        return result;
+    }
+
+    const std::regex buttons{"\x1b\\[<0;[0-9]+;[0-9]+([Mm])"};
+    Desktop desktop;
+    std::optional<Terminal> terminal;
+    std::optional<Keyrill> keyrill;
 };
 
-// 420 by 60, 10 from the right and 30 from the top of a screen of 1280 by 800: its left edge is at 850, and
-// the recording mark lies 24 behind it, at half its height.
-constexpr int markX = 874;
-constexpr int markY = 60;
-
-TEST_F(OverlayTest, showsTheRecordingMarkWhileRecording) {
-    record();
-    EXPECT_TRUE(eventually([this] { return desktop.colourAt(markX, markY) == "#E5484D"; }));
-    stop();
-    EXPECT_TRUE(eventually([this] { return desktop.colourAt(markX, markY) == "#000000"; }));
+TEST_P(OverlayTest, leavesKeysAndClicksToWhatLiesBelow) {
+    const std::string text = "the quick brown fox jumps over the lazy dog";
+    desktop.press("ctrl+super+r");
+    // While the overlay fades in, and while it is clicked on.
+    Child hands({"xdotool", "type", "--delay", "10", text}, desktop.options("hands.log"));
+    const ScreenWindow overlay = desktop.awaitWindow(title::overlay);
+    EXPECT_EQ(overlay.x + overlay.width, 1280 - 10 * scale());
+    EXPECT_EQ(overlay.y, 30 * scale());
+    desktop.click(overlay.middleX(), overlay.middleY());
+    EXPECT_EQ(hands.wait(), 0);
+    EXPECT_TRUE(eventually([&] { return isOnTop(overlay); }));
+    EXPECT_TRUE(terminal->hasFocus());
+    desktop.press("ctrl+super+s");
+    desktop.run({"xdotool", "type", "--delay", "0", text});
+    EXPECT_TRUE(eventually([&] { return typedText() == text + text; })) << typedText();
+    EXPECT_TRUE(eventually([&] { return typedButtons() == "Mm"; })) << typedButtons();
+    EXPECT_TRUE(terminal->hasFocus());
+    EXPECT_TRUE(eventually([&] { return !desktop.shows(title::overlay) && !isOnTop(overlay); }));
+    EXPECT_EQ(Keyrill::keyLines(keyrill->script()), text.size());
 }
 
-TEST_F(OverlayTest, leavesTheFocusAndTheClicksToOthers) {
-    record();
-    ASSERT_TRUE(eventually([this] { return desktop.shows(title::overlay); }));
-    press("x");
-    EXPECT_EQ(terminal.typed(1), "x");
-    desktop.run({"xdotool", "mousemove", std::to_string(markX), std::to_string(markY)});
-    const std::string under = desktop.run({"xdotool", "getmouselocation", "--shell"});
-    EXPECT_EQ(under.find("WINDOW=" + desktop.window(title::overlay)), std::string::npos) << under;
-    EXPECT_TRUE(terminal.hasFocus());
+TEST_P(OverlayTest, comesUpAgainWithEachKey) {
+    desktop.press("ctrl+super+r");
+    const ScreenWindow overlay = desktop.awaitWindow(title::overlay);
+    EXPECT_TRUE(eventually([&] { return isOnTop(overlay); }));
+    desktop.run({"xdotool", "windowraise", terminal->window()});
+    desktop.press("x");
+    EXPECT_TRUE(eventually([&] { return isOnTop(overlay); }));
+    EXPECT_EQ(terminal->typed(1), "x");
 }
 
-TEST_F(OverlayTest, liesAboveAFullscreenWindow) {
-    const std::string window = desktop.run({"xdotool", "getactivewindow"});
-    record();
-    ASSERT_TRUE(eventually([this] { return desktop.shows(title::overlay); }));
-    desktop.run({"xdotool", "key", "alt+F11"});
-    desktop.run({"xdotool", "windowsize", "--sync", window.substr(0, window.find('\n')), "100%", "100%"});
-    desktop.run({"xdotool", "windowmove", window.substr(0, window.find('\n')), "0", "0"});
-    press("x");
-    EXPECT_TRUE(eventually([this] { return desktop.colourAt(markX, markY) == "#E5484D"; }));
+std::string nameOfDesktop(const testing::TestParamInfo<std::tuple<WindowManager, bool, int>>& info) {
+    const auto& [manager, composited, scale] = info.param;
+    return nameOf(manager) + (composited ? "Composited" : "") + std::to_string(scale) + "x";
 }
+
+INSTANTIATE_TEST_SUITE_P(Desktops, OverlayTest,
+                         testing::Combine(testing::Values(WindowManager::openbox, WindowManager::xfwm4),
+                                          testing::Bool(), testing::Values(1, 2)),
+                         nameOfDesktop);
 
 }  // namespace

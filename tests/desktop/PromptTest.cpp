@@ -5,60 +5,69 @@ namespace {
 
 constexpr const char* script = "tell application \"System Events\" to key code 0\n";
 
-class PromptTest : public testing::TestWithParam<bool> {
+/// The prompt, called by its hot key while a terminal is being typed into.
+class PromptTest : public testing::TestWithParam<WindowManager> {
   protected:
     PromptTest() {
-        if (GetParam()) desktop.startWindowManager();
+        desktop.startWindowManager(GetParam());
+        bystander.emplace(desktop.display());
+        terminal.emplace(desktop.display());
     }
 
-    void press(const std::string& combination) const { desktop.run({"xdotool", "key", combination}); }
-    bool promptHasFocus() const {
-        const std::string prompt = desktop.window(title::prompt);
-        return !prompt.empty() && desktop.run({"xdotool", "getwindowfocus", "-f"}) == prompt + "\n";
-    }
     void openPrompt() const {
-        press("ctrl+super+m");
-        ASSERT_TRUE(eventually([this] { return promptHasFocus(); }));
+        desktop.press("ctrl+super+m");
+        const ScreenWindow prompt = desktop.awaitWindow(title::prompt);
+        ASSERT_TRUE(eventually([&] { return desktop.hasFocus(prompt); }));
+    }
+    /// Types a count and Return, and waits until the prompt is gone.
+    void playTimes(const std::string& count) const {
+        openPrompt();
+        desktop.run({"xdotool", "type", "--", count});
+        desktop.press("Return");
+        ASSERT_TRUE(eventually([&] { return !desktop.shows(title::prompt) && terminal->hasFocus(); }));
     }
 
     Desktop desktop;
+    /// Does not have the focus.
+    std::optional<Terminal> bystander;
+    std::optional<Terminal> terminal;
 };
 
 TEST_P(PromptTest, playsAsOftenAsItIsTold) {
-    const Terminal terminal(desktop.display());
     const Keyrill keyrill(desktop, script);
-    openPrompt();
-    press("3");
-    press("Return");
-    EXPECT_EQ(terminal.typed(3), "aaa");
-    press("period");
-    EXPECT_EQ(terminal.typed(4), "aaa.");
-    EXPECT_TRUE(terminal.hasFocus());
-    EXPECT_FALSE(desktop.shows(title::prompt));
+    desktop.press("x");
+    EXPECT_EQ(terminal->typed(1), "x");
+    playTimes("3");
+    EXPECT_EQ(terminal->typed(4), "xaaa");
+    for (const char* none : {"0", "-2", "abc"}) playTimes(none);
+    playTimes("2x");
+    EXPECT_EQ(terminal->typed(6), "xaaaaa");
+    desktop.press("period");
+    EXPECT_EQ(terminal->typed(7), "xaaaaa.");
+    EXPECT_EQ(bystander->typed(), "");
 }
 
 TEST_P(PromptTest, escapeClosesItWithoutPlaying) {
-    const Terminal terminal(desktop.display());
     const Keyrill keyrill(desktop, script);
     openPrompt();
-    press("Escape");
-    EXPECT_TRUE(eventually([&] { return !desktop.shows(title::prompt) && terminal.hasFocus(); }));
-    press("period");
-    EXPECT_EQ(terminal.typed(1), ".");
+    desktop.press("Escape");
+    EXPECT_TRUE(eventually([&] { return !desktop.shows(title::prompt) && terminal->hasFocus(); }));
+    desktop.press("period");
+    EXPECT_EQ(terminal->typed(1), ".");
 }
 
 TEST_P(PromptTest, staysWhileThereIsNothingToPlay) {
-    const Terminal terminal(desktop.display());
     const Keyrill keyrill(desktop);
     openPrompt();
-    press("Return");
-    press("Escape");
-    EXPECT_TRUE(eventually([&] { return !desktop.shows(title::prompt); }));
-    EXPECT_EQ(terminal.typed(), "");
+    desktop.press("Return");
+    desktop.press("Escape");
+    EXPECT_TRUE(eventually([&] { return !desktop.shows(title::prompt) && terminal->hasFocus(); }));
+    desktop.press("period");
+    EXPECT_EQ(terminal->typed(1), ".");
 }
 
-std::string nameOf(const testing::TestParamInfo<bool>& info) { return info.param ? "managed" : "unmanaged"; }
-
-INSTANTIATE_TEST_SUITE_P(WindowManager, PromptTest, testing::Bool(), nameOf);
+INSTANTIATE_TEST_SUITE_P(WindowManagers, PromptTest,
+                         testing::Values(WindowManager::none, WindowManager::openbox, WindowManager::xfwm4),
+                         nameOfParameter<WindowManager>);
 
 }  // namespace

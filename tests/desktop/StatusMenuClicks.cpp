@@ -5,47 +5,62 @@
 
 namespace {
 
-/// The number behind "NAME=" in the lines of xdotool getwindowgeometry --shell.
-int numberOf(const std::string& lines, const std::string& name) {
-    return std::stoi(lines.substr(lines.find("\n" + name + "=") + name.size() + 2));
-}
+/// What is known of a menu's looks: the height of an entry, and of the space above the first.
+struct MenuLooks {
+    int entryHeight;
+    int frame;
+};
+constexpr MenuLooks own{20, 2};
+constexpr MenuLooks drawnByTray{24, 5};
 
-/// What is known of the menu's looks: the height of an entry, and of the space above the first.
-constexpr int entryHeight = 20;
-constexpr int frame = 2;
+constexpr std::size_t fewestColours = 4;
 
 }  // namespace
 
 StatusMenuClicks::StatusMenuClicks(const Desktop& desktop) : m_desktop(desktop) {
-    if (!eventually([this] { return !(m_icon = m_desktop.window(title::trayIcon)).empty(); })) {
-        throw std::runtime_error("no icon in the tray");
-    }
+    const auto isPainted = [this] {
+        const std::optional<ScreenWindow> icon = m_desktop.tray().icon();
+        // Nobody clicks at a place where nothing is to be seen yet.
+        if (!icon || m_desktop.screen().colours(*icon) < fewestColours) return false;
+        m_icon = *icon;
+        return true;
+    };
+    if (!eventually(isPainted)) throw std::runtime_error("no icon in the tray");
 }
 
 void StatusMenuClicks::open() {
-    const Area icon = areaOf(m_icon);
-    click(icon.x + icon.width / 2, icon.y + icon.height / 2);
-    if (!eventually([this] { return !(m_menu = m_desktop.window(title::menu)).empty(); })) {
+    m_desktop.click(m_icon.middleX(), m_icon.middleY(), isDrawnByTray() ? 3 : 1);
+    std::optional<ScreenWindow> opened;
+    if (!eventually([&] { return (opened = menu()).has_value() && m_desktop.screen().isKeyboardGrabbed(); }))
         throw std::runtime_error("no menu");
-    }
+    m_menu = *opened;
 }
 
-void StatusMenuClicks::choose(int entry) { chooseAt(frame + entryHeight * (2 * entry - 1) / 2); }
+std::optional<ScreenWindow> StatusMenuClicks::menu() const {
+    return isDrawnByTray() ? m_desktop.tray().ownMenu() : m_desktop.window(title::menu);
+}
 
-void StatusMenuClicks::chooseLast() { chooseAt(areaOf(m_menu).height - frame - entryHeight / 2); }
+void StatusMenuClicks::choose(int entry) {
+    const MenuLooks looks = isDrawnByTray() ? drawnByTray : own;
+    chooseAt(looks.frame + looks.entryHeight * (2 * entry - 1) / 2);
+}
+
+void StatusMenuClicks::chooseLast() {
+    const MenuLooks looks = isDrawnByTray() ? drawnByTray : own;
+    chooseAt(m_menu.height - looks.frame - looks.entryHeight / 2);
+}
+
+void StatusMenuClicks::chooseByKeys(int entry) {
+    for (int i = 0; i < entry; ++i) m_desktop.press("Down");
+    m_desktop.press("Return");
+    awaitClosed();
+}
 
 void StatusMenuClicks::chooseAt(int y) {
-    const Area menu = areaOf(m_menu);
-    click(menu.x + menu.width / 2, menu.y + y);
-    if (!eventually([this] { return !m_desktop.shows(title::menu); }))
-        throw std::runtime_error("the menu stays");
+    m_desktop.click(m_menu.middleX(), m_menu.y + y);
+    awaitClosed();
 }
 
-StatusMenuClicks::Area StatusMenuClicks::areaOf(const std::string& window) const {
-    const std::string lines = m_desktop.run({"xdotool", "getwindowgeometry", "--shell", window});
-    return {numberOf(lines, "X"), numberOf(lines, "Y"), numberOf(lines, "WIDTH"), numberOf(lines, "HEIGHT")};
-}
-
-void StatusMenuClicks::click(int x, int y) const {
-    m_desktop.run({"xdotool", "mousemove", std::to_string(x), std::to_string(y), "click", "1"});
+void StatusMenuClicks::awaitClosed() const {
+    if (!eventually([this] { return !isOpen(); })) throw std::runtime_error("the menu stays");
 }

@@ -5,7 +5,8 @@
 
 #include "desktop/Desktop.h"
 
-/// The user's mouse at the program's icon in the tray.
+/// The user's mouse at the program's icon in the tray. A tray of status notifier items draws the menu itself
+/// when the icon is clicked with the right button; else the menu is the program's own.
 class StatusMenuClicks {
   public:
     /// Waits until the icon is in the tray.
@@ -17,19 +18,18 @@ class StatusMenuClicks {
     /// menu is closed.
     void choose(int entry);
     void chooseLast();
+    /// The same by arrow keys and Return; the n-th of those entries that can be chosen.
+    void chooseByKeys(int entry);
+
+    bool isOpen() const { return menu().has_value(); }
 
   private:
-    struct Area {
-        int x = 0;
-        int y = 0;
-        int width = 0;
-        int height = 0;
-    };
-    Area areaOf(const std::string& window) const;
+    bool isDrawnByTray() const { return m_desktop.tray().kind() == TrayKind::statusNotifier; }
+    std::optional<ScreenWindow> menu() const;
     void chooseAt(int y);
-    void click(int x, int y) const;
+    void awaitClosed() const;
 
     const Desktop& m_desktop;
-    std::string m_icon;
-    std::string m_menu;
+    ScreenWindow m_icon;
+    ScreenWindow m_menu;
 };

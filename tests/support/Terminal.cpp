@@ -6,15 +6,18 @@
 #include <filesystem>
 #include <stdexcept>
 
-Terminal::Terminal(const std::string& display, const std::vector<std::string>& options)
+Terminal::Terminal(const std::string& display, const Options& options)
     : m_environment{{"DISPLAY", display}, {"HOME", m_folder.path()}, {"LC_ALL", "C.UTF-8"}} {
     // Of several terminals each has a title of its own.
     const std::string title = std::filesystem::path(m_folder.path()).filename().string();
     const std::string file = m_folder.file("typed");
     std::vector<std::string> command = {"xterm", "-u8", "-fa", "DejaVu Sans Mono", "-fs", "10", "-T", title};
-    command.insert(command.end(), options.begin(), options.end());
+    command.insert(command.end(), options.xterm.begin(), options.xterm.end());
+    // Button events in SGR form, as xterm's control sequences name it.
+    const std::string mouse = options.typesMouseButtons ? "printf '\\033[?1000h\\033[?1006h'; " : "";
     command.insert(command.end(),
-                   {"-e", "sh", "-c", "stty raw -echo icrnl; : > '" + file + "'; exec cat > '" + file + "'"});
+                   {"-e", "sh", "-c",
+                    "stty raw -echo icrnl; " + mouse + ": > '" + file + "'; exec cat > '" + file + "'"});
     m_program = std::make_unique<Child>(
         command, Child::Options{.environment = m_environment, .outputFile = m_folder.file("log")});
     if (!eventually([&] { return std::filesystem::exists(file); }, std::chrono::seconds(20))) {

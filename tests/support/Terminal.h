@@ -11,8 +11,16 @@
 /// mean anything to it; Return is a line feed. It has the focus when constructed.
 class Terminal {
   public:
-    /// `options` are further ones of xterm's, such as {"-geometry", "80x24+0+0"}.
-    explicit Terminal(const std::string& display, const std::vector<std::string>& options = {});
+    struct Options {
+        /// Further ones of xterm's, such as {"-geometry", "80x24+0+0"}.
+        std::vector<std::string> xterm = {};
+        /// Mouse buttons are typed too: "\x1b[<0;12;3M" for a press in column 12 of line 3, with an "m" at
+        /// its end for the release.
+        bool typesMouseButtons = false;
+    };
+
+    explicit Terminal(const std::string& display) : Terminal(display, Options()) {}
+    Terminal(const std::string& display, const Options& options);
 
     /// What has been typed so far, UTF-8.
     std::string typed() const { return contentOf(m_folder.file("typed")); }
