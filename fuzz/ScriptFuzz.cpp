@@ -7,9 +7,10 @@
 #include <utility>
 #include <variant>
 
+#include "platform/Encoding.h"
 #include "platform/KeyInjector.h"
+#include "platform/Utf8.h"
 #include "platform/script/Compiler.h"
-#include "platform/script/Encoding.h"
 #include "platform/script/Machine.h"
 
 namespace {
@@ -36,7 +37,7 @@ class BoundedSession : public InjectionSession {
         return step();
     }
     Result<RunState> text(std::string_view text, std::uint32_t /*modifiers*/) override {
-        if (text.empty() || script::invalidUtf8(text)) std::abort();
+        if (text.empty() || invalidUtf8(text)) std::abort();
         return step();
     }
     Result<RunState> keyDown(const HeldKey& /*key*/) override { return step(); }
@@ -55,7 +56,7 @@ Result<std::unique_ptr<InjectionSession>> BoundedInjector::open(const InjectionP
 
 /// Every error has a number, words that can be shown, and a place.
 void check(const script::ScriptError& error) {
-    if (error.number == 0 || error.message.empty() || script::invalidUtf8(error.message)) std::abort();
+    if (error.number == 0 || error.message.empty() || invalidUtf8(error.message)) std::abort();
     if (error.location.line == 0 || error.location.column == 0) std::abort();
 }
 
@@ -63,8 +64,8 @@ void check(const script::ScriptError& error) {
 
 // NOLINTNEXTLINE(readability-identifier-naming): the name that the fuzzer calls
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    std::string source = script::decodedScript(std::string(data, data + size));
-    if (script::invalidUtf8(source)) std::abort();
+    std::string source = decodedText(std::string(data, data + size));
+    if (invalidUtf8(source)) std::abort();
     const auto compiled = script::compile(std::move(source));
     if (const auto* error = std::get_if<script::ScriptError>(&compiled)) {
         check(*error);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Utf8.h"
 
+#include <cstring>
+
 namespace {
 
 struct Form {
@@ -27,6 +29,17 @@ Utf8Character decoded(std::string_view text, const Form& form, std::size_t lengt
     return {code, length};
 }
 
+/// Texts are nearly all ASCII: eight bytes at a time.
+std::size_t skipAscii(std::string_view bytes, std::size_t position) {
+    std::uint64_t eight = 0;
+    while (position + sizeof eight <= bytes.size()) {
+        std::memcpy(&eight, bytes.data() + position, sizeof eight);
+        if ((eight & 0x8080808080808080U) != 0) break;
+        position += sizeof eight;
+    }
+    return position;
+}
+
 }  // namespace
 
 Utf8Character firstCharacter(std::string_view text) {
@@ -37,4 +50,15 @@ Utf8Character firstCharacter(std::string_view text) {
         if ((first & form.mask) == form.mark) return decoded(text, form, length);
     }
     return none;
+}
+
+std::optional<std::size_t> invalidUtf8(std::string_view bytes) {
+    std::size_t position = skipAscii(bytes, 0);
+    while (position < bytes.size()) {
+        const Utf8Character character = firstCharacter(bytes.substr(position));
+        if (!character.code) return position;
+        position += character.length;
+        if (character.length == 1) position = skipAscii(bytes, position);
+    }
+    return std::nullopt;
 }

@@ -19,3 +19,6 @@ struct Utf8Character {
 /// The first character of a text that is not empty. Overlong forms, surrogates and codes above 0x10FFFF are
 /// no characters (RFC 3629).
 Utf8Character firstCharacter(std::string_view text);
+
+/// The offset of the first byte that begins no character; empty if all is UTF-8.
+std::optional<std::size_t> invalidUtf8(std::string_view bytes);

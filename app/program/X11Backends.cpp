@@ -5,9 +5,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "app/program/LinuxServices.h"
 #include "platform/Services.h"
-#include "platform/linux/KeyFileSettings.h"
-#include "platform/linux/PendingServices.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/script/ScriptRunner.h"
 #include "platform/x11/X11Check.h"
@@ -27,20 +26,13 @@ struct X11Backends::Parts {
           dockingTray(std::move(trayConnection)) {}
 
     std::unique_ptr<SteadyClock> clock;
-    KeyFileSettings settings{configFoldersOfProcess()};
     std::unique_ptr<X11EventManager> eventManager;
     X11KeyboardLayout keyboardLayout{*eventManager};
     X11KeyInjector keyInjector{eventManager->runWatch(), *clock};
     script::ScriptRunner scripting{keyInjector};
     X11Windows windows;
     X11DockingTray dockingTray;
-    pending::LoginItems loginItems;
-    pending::Workspace workspace;
-    pending::SystemFacts systemFacts;
-    pending::UpdateService updateService;
-    pending::MacroFiles macroFiles;
-    pending::Notifications notifications;
-    pending::ScreenLock screenLock;
+    LinuxServices neutral;
     X11SessionCheck sessionCheck{X11SessionCheck::sessionOfProcess()};
     Services services{.clock = *clock,
                       .eventMonitor = *eventManager,
@@ -48,14 +40,14 @@ struct X11Backends::Parts {
                       .keyboardLayout = keyboardLayout,
                       .keyInjector = keyInjector,
                       .scripting = scripting,
-                      .settings = settings,
-                      .loginItems = loginItems,
-                      .workspace = workspace,
-                      .systemFacts = systemFacts,
-                      .updateService = updateService,
-                      .macroFiles = macroFiles,
-                      .notifications = notifications,
-                      .screenLock = screenLock,
+                      .settings = neutral.settings,
+                      .loginItems = neutral.loginItems,
+                      .workspace = neutral.workspace,
+                      .systemFacts = neutral.systemFacts,
+                      .updateService = neutral.updateService,
+                      .macroFiles = neutral.macroFiles,
+                      .notifications = neutral.notifications,
+                      .screenLock = neutral.screenLock,
                       .sessionCheck = sessionCheck};
     ServicesScope scope{services};
 };

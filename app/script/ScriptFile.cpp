@@ -8,8 +8,8 @@
 #include <cerrno>
 #include <cstring>
 
+#include "platform/Encoding.h"
 #include "platform/script/Compiler.h"
-#include "platform/script/Encoding.h"
 
 namespace {
 
@@ -45,5 +45,5 @@ Result<std::string> readScript(const std::string& file) {
         if (count > 0) bytes.append(buffer.data(), static_cast<std::size_t>(count));
         if (count < 0 && errno != EINTR) return systemError();
     }
-    return script::decodedScript(std::move(bytes));
+    return decodedText(std::move(bytes));
 }

@@ -29,10 +29,18 @@ ConfigFolders configFolders(const Environment& environment, const std::string& h
     return folders;
 }
 
-ConfigFolders configFoldersOfProcess() {
-    const auto environment = [](const std::string& name) {
+ConfigFolders configFoldersOfProcess() { return configFolders(environmentOfProcess(), homeOfProcess()); }
+
+std::string userDataFolder(const Environment& environment, const std::string& home) {
+    const std::string user = environment("XDG_DATA_HOME");
+    return isAbsolute(user) ? user : home + "/.local/share";
+}
+
+Environment environmentOfProcess() {
+    return [](const std::string& name) {
         const char* value = g_getenv(name.c_str());
         return std::string(value != nullptr ? value : "");
     };
-    return configFolders(environment, g_get_home_dir());
 }
+
+std::string homeOfProcess() { return g_get_home_dir(); }

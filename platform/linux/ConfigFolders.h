@@ -25,3 +25,12 @@ ConfigFolders configFolders(const Environment& environment, const std::string& h
 
 /// The same for this process: its environment and its user's home.
 ConfigFolders configFoldersOfProcess();
+
+/// Where the user's data lie, by the same standard: XDG_DATA_HOME (default ~/.local/share), ignored where it
+/// is relative. An absolute path; it need not exist.
+std::string userDataFolder(const Environment& environment, const std::string& home);
+
+/// The variables of this process.
+Environment environmentOfProcess();
+/// The user's home folder, absolute.
+std::string homeOfProcess();

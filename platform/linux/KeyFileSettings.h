@@ -1,39 +1,65 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "platform/Result.h"
 #include "platform/SettingsStore.h"
 #include "platform/linux/ConfigFolders.h"
 
+class KeyFile;
+
 /// Settings in key files, keyrill/keyrill.conf in each of the configuration folders: the user's own first,
-/// then the system's in their order. The first file that has a key gives its value.
+/// then the system's in their order. The first file that has a key gives its value; only the user's is
+/// written.
 ///
 /// Format: that of the desktop entry standard, group [Settings]; integers in decimal, booleans "true"
-/// and "false". Read once, by the constructor; a file that is not there is no problem.
+/// and "false". Read once, by the constructor; a file that is not there is no fault. A user's file that
+/// cannot be read is renamed to keyrill.conf.bad-TIME (UTC), and what a killed run left beside it is removed.
+/// Before a write the file is read again, so that what others changed in it meanwhile is kept.
+///
+/// Modes: 0600 for the file, 0700 for a folder that has to be made.
 class KeyFileSettings : public SettingsStore {
   public:
-    explicit KeyFileSettings(const ConfigFolders& folders);
+    /// `awaitTurnEnd` is called with the first set of each turn of the event loop; endTurn() has to follow.
+    explicit KeyFileSettings(const ConfigFolders& folders, std::function<void()> awaitTurnEnd = {});
+    /// Stores what is not stored yet.
+    ~KeyFileSettings() override;
+    KeyFileSettings(const KeyFileSettings&) = delete;
+    KeyFileSettings& operator=(const KeyFileSettings&) = delete;
 
     /// Also 0 for an integer beyond 64 bits.
     std::optional<std::int64_t> integer(const std::string& key) const override;
-    void setInteger(const std::string& key, std::int64_t value) override { m_values[key] = value; }
-    void setBool(const std::string& key, bool value) override { m_values[key] = value ? 1 : 0; }
-    Result<> synchronize() override { return Error{"This build cannot store settings yet.", ""}; }
-    std::optional<Error> takeFault() override { return std::exchange(m_problem, std::nullopt); }
+    void setInteger(const std::string& key, std::int64_t value) override;
+    void setBool(const std::string& key, bool value) override;
+    Result<> synchronize() override;
+    std::optional<Error> takeFault() override;
 
-    /// The first file, in order of reading, that is there and could not be read, and why. What it holds
-    /// counts as absent; the other files count.
-    const std::optional<Error>& problem() const { return m_problem; }
+    /// Stores what was set in this turn of the loop, unless that was done or tried. A failure is a fault; one
+    /// that lasts is told once.
+    void endTurn();
 
   private:
-    /// Adds what the folder's file has and no earlier one had.
-    Result<> addDomain(const std::string& folder);
+    void set(const std::string& key, std::int64_t value, const std::string& text);
+    Result<> store();
+    /// The user's file as it is now, empty where there is none and after it had to be put aside, which is a
+    /// fault. Fails where it cannot even be put aside.
+    Result<KeyFile> readUsersFile();
+    Result<> putAside(const Error& fault);
+    /// Adds what a file has and no earlier one had.
+    void add(const KeyFile& file);
 
+    std::string m_path;
+    std::function<void()> m_awaitTurnEnd;
     std::map<std::string, std::int64_t> m_values;
-    std::optional<Error> m_problem;
+    /// What was set, as it is written, since the last write that succeeded.
+    std::map<std::string, std::string> m_unstored;
+    /// Something was set since the last try to write.
+    bool m_isDue = false;
+    std::deque<Error> m_faults;
+    std::optional<Error> m_lastFailure;
 };

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "platform/LoginItems.h"
-#include "platform/MacroFiles.h"
 #include "platform/Notifications.h"
 #include "platform/ScreenLock.h"
 #include "platform/SystemFacts.h"
@@ -38,13 +37,6 @@ class SystemFacts : public ::SystemFacts {
 class UpdateService : public ::UpdateService {
   public:
     bool isNewerThan(std::string_view /*runningVersion*/) override { return false; }
-};
-
-class MacroFiles : public ::MacroFiles {
-  public:
-    std::string prepareFolder() override { return "/"; }
-    Result<std::string> read(const std::string& /*path*/) const override { return error(); }
-    Result<> write(const std::string& /*path*/, std::string_view /*text*/) override { return error(); }
 };
 
 class Notifications : public ::Notifications {

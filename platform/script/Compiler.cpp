@@ -4,8 +4,8 @@
 #include <optional>
 #include <utility>
 
+#include "platform/Utf8.h"
 #include "platform/script/CodeGenerator.h"
-#include "platform/script/Encoding.h"
 #include "platform/script/Parser.h"
 
 namespace script {

@@ -43,4 +43,14 @@ TEST(ConfigFoldersTest, ofTheProcessFollowItsEnvironment) {
     EXPECT_EQ(folders, (ConfigFolders{"/nowhere/config", {"/nowhere/xdg"}}));
 }
 
+TEST(UserDataFolderTest, followsTheStandard) {
+    const auto folderFor = [](const std::string& variable) {
+        return userDataFolder(
+            [&](const std::string& name) { return name == "XDG_DATA_HOME" ? variable : ""; }, "/home/ann");
+    };
+    EXPECT_EQ(folderFor(""), "/home/ann/.local/share");
+    EXPECT_EQ(folderFor("/d"), "/d");
+    EXPECT_EQ(folderFor("d"), "/home/ann/.local/share");
+}
+
 }  // namespace

@@ -27,21 +27,28 @@ class KeyFileSettingsTest : public testing::Test {
         return settings().integer("key");
     }
 
-    KeyFileSettings settings() const {
-        return KeyFileSettings({folder.file("user"), {folder.file("first"), folder.file("second")}});
+    KeyFileSettings settings() const { return KeyFileSettings(folders()); }
+    ConfigFolders folders() const {
+        return {folder.file("user"), {folder.file("first"), folder.file("second")}};
     }
 
-    std::string problem() const {
-        const auto problem = settings().problem();
-        return problem ? problem->message : "none";
+    /// What is wrong at the start, one message a line, without their causes.
+    std::string faults() const {
+        KeyFileSettings store(folders());
+        std::string all;
+        while (const auto fault = store.takeFault()) {
+            EXPECT_NE(fault->hint, "");
+            all += fault->message.substr(0, fault->message.find(": ")) + "\n";
+        }
+        return all;
     }
 
     TemporaryFolder folder;
 };
 
-TEST_F(KeyFileSettingsTest, hasNothingAndNoProblemWithoutFiles) {
+TEST_F(KeyFileSettingsTest, hasNothingAndNoFaultWithoutFiles) {
     EXPECT_EQ(settings().integer("recordCode"), std::nullopt);
-    EXPECT_EQ(problem(), "none");
+    EXPECT_EQ(faults(), "");
 }
 
 TEST_F(KeyFileSettingsTest, readsIntegers) {
@@ -76,7 +83,7 @@ TEST_F(KeyFileSettingsTest, takesAFileWithoutItsGroupForEmpty) {
     write("first", "# nothing\n");
     write("second", "[Settings]\nkey=2\n");
     EXPECT_EQ(settings().integer("key"), 2);
-    EXPECT_EQ(problem(), "none");
+    EXPECT_EQ(faults(), "");
 }
 
 TEST_F(KeyFileSettingsTest, prefersTheUsersValueThenTheFirstFolders) {
@@ -95,40 +102,38 @@ TEST_F(KeyFileSettingsTest, prefersAnUnparsableValueToALowerOne) {
     EXPECT_EQ(settings().integer("a"), 0);
 }
 
-TEST_F(KeyFileSettingsTest, reportsAFileThatIsNoKeyFile) {
-    write("user", "[Settings]\na=1\nnonsense\n");
-    write("first", "[Settings]\na=2\n");
-    EXPECT_EQ(problem().substr(0, problem().find(": ")),
-              "The settings file " + fileOf("user") + " is not a key file");
-    EXPECT_NE(settings().problem()->hint, "");
+TEST_F(KeyFileSettingsTest, reportsASystemFileThatIsNoKeyFile) {
+    write("first", "[Settings]\na=1\nnonsense\n");
+    write("second", "[Settings]\na=2\n");
+    EXPECT_EQ(faults(), "The settings file " + fileOf("first") + " is not a key file\n");
     EXPECT_EQ(settings().integer("a"), 2);
 }
 
-TEST_F(KeyFileSettingsTest, reportsAFileThatCannotBeRead) {
+TEST_F(KeyFileSettingsTest, reportsASystemFileThatCannotBeRead) {
     std::filesystem::create_directories(fileOf("first"));
     write("second", "[Settings]\na=2\n");
-    EXPECT_EQ(problem().substr(0, problem().find(": ")),
-              "The settings file " + fileOf("first") + " cannot be read");
+    EXPECT_EQ(faults(), "The settings file " + fileOf("first") + " cannot be read\n");
     EXPECT_EQ(settings().integer("a"), 2);
 }
 
-TEST_F(KeyFileSettingsTest, reportsTheUsersFileFirst) {
+TEST_F(KeyFileSettingsTest, reportsEveryFaultOnceTheUsersFileFirst) {
     write("user", "nonsense");
     write("first", "nonsense");
-    EXPECT_NE(problem().find(fileOf("user")), std::string::npos);
+    EXPECT_EQ(faults(), "The settings file " + fileOf("user") + " is not a key file\n" +
+                            "The settings file " + fileOf("first") + " is not a key file\n");
 }
 
 TEST_F(KeyFileSettingsTest, takesAFileInPlaceOfTheFolderForNoFile) {
     std::ofstream(folder.file("user")) << "x";
-    EXPECT_EQ(problem(), "none");
+    EXPECT_EQ(faults(), "");
 }
 
 TEST(PresetsTest, areWhatTheProgramDocuments) {
     const TemporaryFolder folder;
     std::filesystem::create_directories(folder.file("keyrill"));
     std::filesystem::copy_file(KEYRILL_PRESETS, folder.file("keyrill/keyrill.conf"));
-    const KeyFileSettings settings({folder.file("user"), {folder.path()}});
-    EXPECT_EQ(settings.problem(), std::nullopt);
+    KeyFileSettings settings({folder.file("user"), {folder.path()}});
+    EXPECT_EQ(settings.takeFault(), std::nullopt);
     EXPECT_EQ(settings.integer("recordCode"), 15);
     EXPECT_EQ(settings.integer("stopCode"), 1);
     EXPECT_EQ(settings.integer("playCode"), 35);

@@ -32,4 +32,15 @@ TEST(Utf8Test, takesNothingElseForACharacter) {
     }
 }
 
+TEST(Utf8Test, findsTheFirstByteThatIsNone) {
+    EXPECT_EQ(invalidUtf8("plain text of some length, é, 日本, 😀"), std::nullopt);
+    EXPECT_EQ(invalidUtf8("eight bytes \x80"), 12U);
+    EXPECT_EQ(invalidUtf8("\xC0\x80"), 0U);          // overlong
+    EXPECT_EQ(invalidUtf8("a\xE0\x9F\xBF"), 1U);     // overlong
+    EXPECT_EQ(invalidUtf8("\xED\xA0\x80"), 0U);      // a surrogate
+    EXPECT_EQ(invalidUtf8("\xF4\x90\x80\x80"), 0U);  // beyond U+10FFFF
+    EXPECT_EQ(invalidUtf8("ab\xE2\x82"), 2U);        // cut off
+    EXPECT_EQ(invalidUtf8("\xF0\x9F\x98\x80\xFF"), 4U);
+}
+
 }  // namespace

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/Encoding.h"
+#include "platform/Encoding.h"
 
 #include <array>
 #include <cstdint>
-#include <cstring>
+#include <string_view>
 
-namespace script {
+#include "platform/Utf8.h"
+
 namespace {
 
 constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
@@ -29,49 +30,6 @@ constexpr std::array<char16_t, 128> macRoman = {
 
 constexpr std::uint32_t byteAt(std::string_view bytes, std::size_t position) {
     return position < bytes.size() ? static_cast<unsigned char>(bytes[position]) : 0U;
-}
-
-/// What the first byte of a character says: how long it is, and what the second byte may be.
-struct Lead {
-    std::size_t length;
-    std::uint32_t secondFirst;
-    std::uint32_t secondLast;
-};
-
-constexpr Lead leadOf(std::uint32_t byte) {
-    if (byte < 0x80) return {1, 0, 0};
-    if (byte < 0xC2) return {0, 0, 0};
-    if (byte < 0xE0) return {2, 0x80, 0xBF};
-    if (byte == 0xE0) return {3, 0xA0, 0xBF};
-    if (byte == 0xED) return {3, 0x80, 0x9F};
-    if (byte < 0xF0) return {3, 0x80, 0xBF};
-    if (byte == 0xF0) return {4, 0x90, 0xBF};
-    if (byte < 0xF4) return {4, 0x80, 0xBF};
-    if (byte == 0xF4) return {4, 0x80, 0x8F};
-    return {0, 0, 0};
-}
-
-/// The length of the valid character at a position; 0 if there is none.
-std::size_t characterAt(std::string_view bytes, std::size_t position) {
-    const Lead lead = leadOf(byteAt(bytes, position));
-    if (lead.length < 2) return lead.length;
-    const std::uint32_t second = byteAt(bytes, position + 1);
-    if (second < lead.secondFirst || second > lead.secondLast) return 0;
-    for (std::size_t i = 2; i < lead.length; ++i) {
-        if ((byteAt(bytes, position + i) & 0xC0U) != 0x80U) return 0;
-    }
-    return lead.length;
-}
-
-/// Scripts are nearly all ASCII: eight bytes at a time.
-std::size_t skipAscii(std::string_view bytes, std::size_t position) {
-    std::uint64_t eight = 0;
-    while (position + sizeof eight <= bytes.size()) {
-        std::memcpy(&eight, bytes.data() + position, sizeof eight);
-        if ((eight & 0x8080808080808080U) != 0) break;
-        position += sizeof eight;
-    }
-    return position;
 }
 
 void append(std::string& out, char32_t character) {
@@ -129,17 +87,7 @@ std::string fromUtf16(std::string_view bytes, bool bigEndian) {
 
 }  // namespace
 
-std::optional<std::size_t> invalidUtf8(std::string_view bytes) {
-    std::size_t position = skipAscii(bytes, 0);
-    while (position < bytes.size()) {
-        const std::size_t length = characterAt(bytes, position);
-        if (length == 0) return position;
-        position = length == 1 ? skipAscii(bytes, position + 1) : position + length;
-    }
-    return std::nullopt;
-}
-
-std::string decodedScript(std::string bytes) {
+std::string decodedText(std::string bytes) {
     const std::string_view view = bytes;
     if (view.starts_with(littleEndianMark)) return fromUtf16(view.substr(littleEndianMark.size()), false);
     if (view.starts_with(bigEndianMark)) return fromUtf16(view.substr(bigEndianMark.size()), true);
@@ -147,5 +95,3 @@ std::string decodedScript(std::string bytes) {
     if (view.starts_with(utf8Mark)) bytes.erase(0, utf8Mark.size());
     return bytes;
 }
-
-}  // namespace script

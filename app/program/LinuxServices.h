@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTimer>
+
+#include "platform/linux/KeyFileSettings.h"
+#include "platform/linux/LocalMacroFiles.h"
+#include "platform/linux/PendingServices.h"
+
+/// The services that are the same in every session, joined with the event loop. Can be made before the loop.
+struct LinuxServices {
+    LinuxServices();
+    LinuxServices(const LinuxServices&) = delete;
+    LinuxServices& operator=(const LinuxServices&) = delete;
+
+    QTimer turnEnd;
+    KeyFileSettings settings;
+    pending::LoginItems loginItems;
+    pending::Workspace workspace;
+    pending::SystemFacts systemFacts;
+    pending::UpdateService updateService;
+    LocalMacroFiles macroFiles;
+    pending::Notifications notifications;
+    pending::ScreenLock screenLock;
+};

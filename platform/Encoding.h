@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+/// The content of a text file as UTF-8 without a byte order mark. A mark decides (UTF-8, UTF-16 of either
+/// byte order); else bytes that are valid UTF-8 are that, and all others are MacRoman, in which older editors
+/// wrote. Never fails: what is broken in UTF-16 becomes U+FFFD.
+std::string decodedText(std::string bytes);

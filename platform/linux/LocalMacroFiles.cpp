@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LocalMacroFiles.h"
+
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <utility>
+
+#include "platform/AsciiText.h"
+#include "platform/Encoding.h"
+#include "platform/linux/GLibPointers.h"
+#include "platform/linux/WholeFile.h"
+
+LocalMacroFiles::LocalMacroFiles(std::string home, std::string dataFolder)
+    : m_home(std::move(home)), m_dataFolder(std::move(dataFolder)) {}
+
+std::string LocalMacroFiles::prepareFolder() {
+    const std::string support = m_home + "/Library/Application Support";
+    std::error_code ignored;
+    if (std::filesystem::is_directory(support, ignored)) {
+        const std::string folder = support + "/Keyrill";
+        mkdir(folder.c_str(), 0777);
+        return folder;
+    }
+    const std::string folder = m_dataFolder + "/keyrill";
+    // For the user alone, as the standard asks.
+    g_mkdir_with_parents(folder.c_str(), 0700);
+    return folder;
+}
+
+Result<std::string> LocalMacroFiles::read(const std::string& path) const {
+    auto content = WholeFile(path).read();
+    if (!content) return content.error();
+    return decodedText(std::move(content).value());
+}
+
+Result<> LocalMacroFiles::write(const std::string& path, std::string_view text) {
+    Result<> ascii = checkAscii(text);
+    return ascii ? WholeFile(path).write(text) : ascii;
+}

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <sys/types.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/Result.h"
+
+/// A file that is read and written as one piece.
+class WholeFile {
+  public:
+    /// `kind` is the noun of its errors: "The KIND PATH cannot be read: CAUSE".
+    explicit WholeFile(std::string path, std::string kind = "file");
+
+    /// Where the path leads: links are followed, also one whose target is not there; the path itself where
+    /// they lead nowhere.
+    std::string target() const;
+
+    /// Whether there is nothing to read: neither a file nor anything else.
+    bool isAbsent() const;
+
+    /// The content. Fails for all that is not a regular file, and above 64 MiB.
+    Result<std::string> read() const;
+
+    /// Replaces the content: once it returns, that is on the disk; whatever goes wrong, a crash of the
+    /// machine among it, the old file is there as it was. Links stay.
+    ///
+    /// `mode` is the file's from now on; without one a file keeps its own, and a new one gets 0600. Fails for
+    /// all that is not a regular file, and for one that is write-protected.
+    Result<> write(std::string_view content, std::optional<mode_t> mode = std::nullopt) const;
+
+    /// Removes what killed writers left beside the file. Not while another process writes it.
+    void removeLeftovers() const;
+
+  private:
+    Error cannot(const std::string& verb, const std::string& cause) const;
+
+    std::string m_path;
+    std::string m_kind;
+};

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/WholeFile.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "support/Child.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class WholeFileTest : public testing::Test {
+  protected:
+    static mode_t modeOf(const std::string& path) {
+        struct stat status {};
+        return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
+    }
+    std::string writeError(const std::string& path) const {
+        return WholeFile(path).write("new").error().message;
+    }
+    std::string readError(const std::string& path) const { return WholeFile(path).read().error().message; }
+
+    TemporaryFolder folder;
+    const std::string file = folder.file("file");
+};
+
+TEST_F(WholeFileTest, isReadByteForByte) {
+    const std::string bytes("a\0\xFF\r\n", 5);
+    std::ofstream(file) << bytes;
+    EXPECT_EQ(WholeFile(file).read().value(), bytes);
+    EXPECT_TRUE(WholeFile(file).write(bytes + bytes));
+    EXPECT_EQ(contentOf(file), bytes + bytes);
+}
+
+TEST_F(WholeFileTest, newIsForTheUserAlone) {
+    EXPECT_TRUE(WholeFile(file).write("new"));
+    EXPECT_EQ(modeOf(file), 0600U);
+}
+
+TEST_F(WholeFileTest, keepsItsMode) {
+    std::ofstream(file) << "old";
+    for (const mode_t mode : {0600U, 0640U, 0666U, 0755U}) {
+        fs::permissions(file, static_cast<fs::perms>(mode));
+        const mode_t umaskBefore = umask(077);
+        EXPECT_TRUE(WholeFile(file).write("new"));
+        umask(umaskBefore);
+        EXPECT_EQ(modeOf(file), mode);
+    }
+}
+
+TEST_F(WholeFileTest, getsTheModeThatIsAskedFor) {
+    std::ofstream(file) << "old";
+    EXPECT_TRUE(WholeFile(file).write("new", 0640));
+    EXPECT_EQ(modeOf(file), 0640U);
+}
+
+TEST_F(WholeFileTest, isWrittenThroughLinksThatStay) {
+    fs::create_directories(folder.file("there"));
+    fs::create_symlink("there/middle", folder.file("link"));
+    fs::create_symlink(folder.file("there/target"), folder.file("there/middle"));
+    for (const std::string text : {"first, when the target is not there", "then over it"}) {
+        EXPECT_TRUE(WholeFile(folder.file("link")).write(text));
+        EXPECT_TRUE(fs::is_symlink(folder.file("link")));
+        EXPECT_TRUE(fs::is_symlink(folder.file("there/middle")));
+        EXPECT_FALSE(fs::is_symlink(folder.file("there/target")));
+        EXPECT_EQ(contentOf(folder.file("there/target")), text);
+    }
+}
+
+TEST_F(WholeFileTest, isNotWrittenThroughACircleOfLinks) {
+    fs::create_symlink("b", folder.file("a"));
+    fs::create_symlink("a", folder.file("b"));
+    EXPECT_EQ(readError(folder.file("a")),
+              "The file " + folder.file("a") + " cannot be read: Too many levels of symbolic links");
+    EXPECT_EQ(writeError(folder.file("a")),
+              "The file " + folder.file("a") + " cannot be written: Too many levels of symbolic links");
+    EXPECT_TRUE(fs::is_symlink(folder.file("a")));
+}
+
+TEST_F(WholeFileTest, leavesNothingBesideItself) {
+    EXPECT_TRUE(WholeFile(file).write("new"));
+    EXPECT_TRUE(WholeFile(file).write("newer"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1);
+}
+
+TEST_F(WholeFileTest, tellsThatItIsNotThere) {
+    EXPECT_TRUE(WholeFile(file).isAbsent());
+    EXPECT_EQ(readError(file), "The file " + file + " cannot be read: No such file or directory");
+    EXPECT_EQ(writeError(folder.file("no/file")),
+              "The file " + folder.file("no/file") + " cannot be written: No such file or directory");
+}
+
+TEST_F(WholeFileTest, refusesAllThatIsNoFile) {
+    const std::string pipe = folder.file("pipe");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(readError(folder.path()), "The file " + folder.path() + " cannot be read: It is a folder");
+    EXPECT_EQ(writeError(folder.path()), "The file " + folder.path() + " cannot be written: It is a folder");
+    EXPECT_EQ(readError(pipe), "The file " + pipe + " cannot be read: It is not a regular file");
+    EXPECT_EQ(writeError(pipe), "The file " + pipe + " cannot be written: It is not a regular file");
+    EXPECT_EQ(writeError("/dev/null"), "The file /dev/null cannot be written: It is not a regular file");
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+TEST_F(WholeFileTest, refusesTheEndlessAndTheHuge) {
+    std::ofstream(file) << "";
+    fs::resize_file(file, 64 * 1024 * 1024 + 1);
+    EXPECT_EQ(readError(file), "The file " + file + " cannot be read: It is larger than 64 MiB");
+}
+
+TEST_F(WholeFileTest, callsItselfWhatItIs) {
+    EXPECT_EQ(WholeFile(file, "settings file").read().error().message,
+              "The settings file " + file + " cannot be read: No such file or directory");
+}
+
+}  // namespace
