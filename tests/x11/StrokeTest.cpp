@@ -14,7 +14,6 @@ constexpr std::uint32_t p = 35;
 constexpr std::uint32_t keypadOne = 83;
 constexpr std::uint32_t power = 127;
 constexpr std::uint32_t showDesktop = 161;
-constexpr std::uint32_t shift = 56;
 }  // namespace key
 
 constexpr std::uint8_t lockBit = 0x02;
