@@ -1,10 +1,83 @@
 // SPDX-License-Identifier: MIT
 #include "app/AboutPanel.h"
 
+#include <QGridLayout>
 #include <QLabel>
-#include <QVBoxLayout>
+#include <QPushButton>
+#include <array>
 
-AboutPanel::AboutPanel() : Panel(tr("About Keyrill")) {
+#include "app/PanelText.h"
+
+namespace {
+
+struct Library {
+    const char* name;
+    const char* licence;
+};
+
+/// What the program is linked with, and under which terms.
+constexpr Library libraries[] = {{"Qt 6", "LGPL 3"},
+                                 {"GLib", "LGPL 2.1 or later"},
+                                 {"libxcb, libxkbcommon", "MIT"},
+#ifdef KEYRILL_UPDATE_CHECK
+                                 {"libcurl", "curl licence"},
+#endif
+                                 {"Boost", "Boost Software License 1.0"}};
+
+}  // namespace
+
+AboutPanel::AboutPanel()
+    : Panel(tr("About Keyrill")),
+      m_documentationButton(new QPushButton(tr("&Documentation"))),
+      m_productPageButton(new QPushButton(tr("&Product Page"))),
+      m_makersWebsiteButton(new QPushButton(tr("&Maker's Website"))) {
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel(tr("Keyrill is free software under the MIT licence.")));
+    layout->addLayout(makeGreeting());
+    layout->addSpacing(layout->spacing());
+    layout->addWidget(makeHeading(tr("Built with")));
+    layout->addLayout(makeLibraries());
+    layout->addSpacing(2 * layout->spacing());
+    layout->addLayout(makeButtons());
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QLayout* AboutPanel::makeGreeting() {
+    auto* words = new QVBoxLayout;
+    words->addWidget(makeTitle(QStringLiteral("Keyrill")));
+    words->addWidget(makeParagraph(tr("Version %1").arg(QStringLiteral(KEYRILL_VERSION))));
+    words->addWidget(makeParagraph(tr("Records the keys you press and presses them again.")));
+    words->addSpacing(words->spacing());
+    words->addWidget(
+        makeParagraph(tr("Copyright © 2026 the Keyrill authors. Free software under the MIT licence, "
+                         "without any warranty.")));
+    auto* layout = new QHBoxLayout;
+    layout->addWidget(makeProgramIcon(), 0, Qt::AlignTop);
+    layout->addSpacing(layout->spacing());
+    layout->addLayout(words, 1);
+    return layout;
+}
+
+QLayout* AboutPanel::makeLibraries() {
+    auto* grid = new QGridLayout;
+    grid->setColumnStretch(1, 1);
+    grid->setHorizontalSpacing(2 * grid->horizontalSpacing());
+    for (const Library& library : libraries) {
+        const int row = grid->rowCount();
+        grid->addWidget(new QLabel(QString::fromLatin1(library.name)), row, 0);
+        grid->addWidget(new QLabel(QString::fromLatin1(library.licence)), row, 1);
+    }
+    return grid;
+}
+
+QLayout* AboutPanel::makeButtons() {
+    auto* closeButton = new QPushButton(tr("&Close"));
+    closeButton->setDefault(true);
+    connect(closeButton, &QPushButton::clicked, this, &QWidget::close);
+    auto* layout = new QHBoxLayout;
+    for (QPushButton* page : {m_documentationButton, m_productPageButton, m_makersWebsiteButton})
+        layout->addWidget(page);
+    layout->addStretch();
+    layout->addWidget(closeButton);
+    closeButton->setFocus();
+    return layout;
 }

@@ -3,17 +3,26 @@
 
 #include <QPainter>
 
-#include "app/OverlayPanel.h"
+MultiplePlayView::MultiplePlayView(const QString& folder, QWidget* parent) : QWidget(parent) {
+    loadImage(folder);
+}
+
+void MultiplePlayView::loadImage(const QString& folder) {
+    m_image = PictureReference(folder, QStringLiteral("multiplePlay"));
+}
 
 void MultiplePlayView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    paintOverlayPanel(painter, rect());
-    // Two play marks, one behind the other.
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0x4c, 0xc3, 0x8a));
-    const qreal middle = height() / 2.0;
-    for (const qreal x : {14.0, 26.0}) {
-        const QPointF triangle[] = {{x, middle - 9}, {x + 11, middle}, {x, middle + 9}};
-        painter.drawPolygon(triangle, 3);
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    painter.fillRect(rect(), Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    drawImage(painter);
+}
+
+void MultiplePlayView::drawImage(QPainter& painter) const {
+    if (isRightToLeft()) {
+        painter.translate(width(), 0);
+        painter.scale(-1, 1);
     }
+    painter.drawPixmap(0, 0, m_image.pixmap(size(), devicePixelRatioF()));
 }

@@ -13,6 +13,8 @@ class MultiplePlayWindow : public QWidget {
 
   public:
     MultiplePlayWindow();
+    /// With its picture from that folder.
+    explicit MultiplePlayWindow(const QString& folder);
 
     /// Whether the button and Return play; the button says so if not.
     void setPlays(bool plays);
@@ -31,6 +33,7 @@ class MultiplePlayWindow : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void addControls(QWidget& view);
     void confirm();
 
     QLineEdit* m_timesText;

@@ -3,6 +3,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPushButton>
 
 Panel::Panel(const QString& title) { setWindowTitle(title); }
 
@@ -14,7 +15,22 @@ void Panel::closeEvent(QCloseEvent* event) {
 void Panel::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Cancel)) {
         close();
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        pressButton();
     } else {
         QWidget::keyPressEvent(event);
+    }
+}
+
+// The toolkit does this in its dialogs only.
+void Panel::pressButton() {
+    if (auto* focused = qobject_cast<QPushButton*>(focusWidget())) {
+        focused->click();
+        return;
+    }
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+        if (!button->isDefault()) continue;
+        button->click();
+        return;
     }
 }

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QWidget>
 
-/// An ordinary window of the program, closed by its frame or by Escape. It belongs to nobody and is kept when
-/// closed.
+/// An ordinary window of the program. The frame, Escape or a button of its own closes it; it is kept then, to
+/// be shown again. Return presses the button that has the focus, else the default one.
 class Panel : public QWidget {
     Q_OBJECT
 
@@ -19,4 +19,7 @@ class Panel : public QWidget {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void pressButton();
 };

@@ -3,13 +3,20 @@
 
 #include <QPainter>
 
-#include "app/OverlayPanel.h"
+RecorderView::RecorderView(const QString& folder, QWidget* parent) : QWidget(parent) { loadImage(folder); }
+
+void RecorderView::loadImage(const QString& folder) {
+    m_image = PictureReference(folder, QStringLiteral("recording"));
+}
 
 void RecorderView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    paintOverlayPanel(painter, rect());
-    constexpr qreal radius = 9;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0xe5, 0x48, 0x4d));
-    painter.drawEllipse(QPointF(markWidth / 2.0, height() / 2.0), radius, radius);
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    painter.fillRect(rect(), Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    drawImage(painter);
+}
+
+void RecorderView::drawImage(QPainter& painter) const {
+    painter.drawPixmap(0, 0, m_image.pixmap(size(), devicePixelRatioF()));
 }

@@ -5,26 +5,31 @@
 #include <QHBoxLayout>
 #include <QScreen>
 
+#include "app/DataFolder.h"
 #include "app/MacroText.h"
 #include "app/OverlayPanel.h"
 #include "app/OverlayPlacement.h"
 #include "app/RecorderView.h"
 
 namespace {
-constexpr QSize overlaySize{420, 60};
 constexpr int rightMargin = 16;
 }  // namespace
 
-RecorderWindow::RecorderWindow()
+RecorderWindow::RecorderWindow() : RecorderWindow(dataFolder()) {}
+
+RecorderWindow::RecorderWindow(const QString& folder)
     : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                            Qt::BypassWindowManagerHint | Qt::WindowTransparentForInput |
                            Qt::WindowDoesNotAcceptFocus),
       m_macroText(new MacroText) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_TranslucentBackground);
+    // Keys are a sequence in time, written as they are in the manual, whatever the language.
+    setLayoutDirection(Qt::LeftToRight);
     setWindowTitle(tr("Keyrill recording"));
 
-    auto* view = new RecorderView(this);
+    auto* view = new RecorderView(folder, this);
     auto* windowLayout = new QHBoxLayout(this);
     windowLayout->setContentsMargins(0, 0, 0, 0);
     windowLayout->addWidget(view);
@@ -35,7 +40,7 @@ RecorderWindow::RecorderWindow()
     font.setPointSizeF(font.pointSizeF() * 1.4);
     m_macroText->setFont(font);
     connect(m_macroText, &MacroText::refreshed, this, &QWidget::raise);
-    resize(overlaySize);
+    resize(RecorderView::pictureSize);
 }
 
 void RecorderWindow::place() {

@@ -14,6 +14,8 @@ class RecorderWindow : public QWidget {
 
   public:
     RecorderWindow();
+    /// With its picture from that folder.
+    explicit RecorderWindow(const QString& folder);
 
     /// Moves to the upper right corner of the primary screen.
     void place();

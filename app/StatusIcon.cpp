@@ -29,6 +29,37 @@ QPainterPath dots() {
     return path;
 }
 
+/// A filled circle on a key cap.
+QPainterPath circle() {
+    QPainterPath path;
+    path.addEllipse(QPointF(8, 8), 2.5, 2.5);
+    return path;
+}
+
+QPainterPath signOf(StatusImage image) {
+    switch (image) {
+        case StatusImage::busy:
+            return dots();
+        case StatusImage::recording:
+            return circle();
+        case StatusImage::normal:
+            break;
+    }
+    return letter();
+}
+
+QString nameOf(StatusImage image) {
+    switch (image) {
+        case StatusImage::busy:
+            return QStringLiteral("example.orlen.Keyrill-busy-symbolic");
+        case StatusImage::recording:
+            return QStringLiteral("example.orlen.Keyrill-recording-symbolic");
+        case StatusImage::normal:
+            break;
+    }
+    return QStringLiteral("example.orlen.Keyrill-symbolic");
+}
+
 QPixmap statusPixmap(StatusImage image, int size) {
     QPixmap pixmap(size, size);
     pixmap.fill(Qt::transparent);
@@ -38,9 +69,9 @@ QPixmap statusPixmap(StatusImage image, int size) {
     painter.setPen(QPen(QColor(0xf2, 0xf2, 0xf2), 1));
     painter.setBrush(QColor(0x2b, 0x30, 0x3b));
     painter.drawRoundedRect(QRectF(1, 1, 14, 14), 3, 3);
-    painter.setBrush(Qt::NoBrush);
+    painter.setBrush(image == StatusImage::recording ? QBrush(Qt::white) : QBrush(Qt::NoBrush));
     painter.setPen(QPen(Qt::white, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(image == StatusImage::busy ? dots() : letter());
+    painter.drawPath(signOf(image));
     return pixmap;
 }
 
@@ -53,7 +84,5 @@ QIcon builtInStatusIcon(StatusImage image) {
 }
 
 QIcon themedStatusIcon(StatusImage image) {
-    const QString name = image == StatusImage::busy ? QStringLiteral("example.orlen.Keyrill-busy-symbolic")
-                                                    : QStringLiteral("example.orlen.Keyrill-symbolic");
-    return QIcon::fromTheme(name, builtInStatusIcon(image));
+    return QIcon::fromTheme(nameOf(image), builtInStatusIcon(image));
 }

@@ -6,7 +6,7 @@
 class QMenu;
 class QWidget;
 
-enum class StatusImage { busy, normal };
+enum class StatusImage { busy, normal, recording };
 
 /// The program's place in the desktop: an image with a menu.
 class StatusItem {

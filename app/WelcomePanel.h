@@ -3,6 +3,9 @@
 
 #include "app/Panel.h"
 
+class QGridLayout;
+class QLayout;
+class ShortcutModel;
 struct PreferencesModel;
 
 /// Greets the user at the first start: what the program does, the four combinations as they are set, the way
@@ -13,4 +16,10 @@ class WelcomePanel : public Panel {
   public:
     /// The model outlives the panel.
     explicit WelcomePanel(const PreferencesModel& model);
+
+  private:
+    QLayout* makeGreeting();
+    QLayout* makeSteps(const PreferencesModel& model);
+    QLayout* makeCombinations(const PreferencesModel& model);
+    void addCombination(QGridLayout& grid, const ShortcutModel& shortcut, const QString& meaning);
 };

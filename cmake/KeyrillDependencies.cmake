@@ -14,6 +14,9 @@ pkg_check_modules(XKBCOMMON REQUIRED IMPORTED_TARGET xkbcommon)
 pkg_check_modules(XKBCOMMON_X11 REQUIRED IMPORTED_TARGET xkbcommon-x11)
 pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0)
 
+# Draws the PNGs of icons and pictures.
+find_program(RSVG_CONVERT rsvg-convert REQUIRED)
+
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus)
 
 if(KEYRILL_BUILD_TESTS)

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "app/ProgramIcon.h"
+
+#include "app/DataFolder.h"
+#include "app/StatusIcon.h"
+
+QIcon programIcon() {
+    return QIcon::fromTheme(QStringLiteral("example.orlen.Keyrill"), builtInStatusIcon(StatusImage::normal));
+}
+
+void findOwnIcons() {
+    QStringList paths = QIcon::themeSearchPaths();
+    if (paths.contains(iconsFolder())) return;
+    QIcon::setThemeSearchPaths(paths << iconsFolder());
+}

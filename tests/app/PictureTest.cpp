@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <filesystem>
+
+#include "app/MultiplePlayView.h"
+#include "app/PictureReference.h"
+#include "app/RecorderView.h"
+#include "app/SplashAnimation.h"
+#include "app/SplashWindow.h"
+#include "app/StatusIcon.h"
+#include "support/Child.h"
+
+namespace {
+
+const QString pictures = QStringLiteral(KEYRILL_PICTURES);
+
+/// What the view paints on a ground that shines through.
+template <typename View>
+QImage painted(const QString& folder, Qt::LayoutDirection direction = Qt::LeftToRight) {
+    View view(folder);
+    view.setAttribute(Qt::WA_TranslucentBackground);
+    view.setLayoutDirection(direction);
+    view.resize(View::pictureSize);
+    QImage image(view.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    view.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    return image;
+}
+
+bool isBlank(const QImage& image) {
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y).alpha() != 0) return false;
+        }
+    }
+    return true;
+}
+
+TEST(RecorderViewTest, drawsItsPicture) {
+    const QImage image = painted<RecorderView>(pictures);
+    EXPECT_EQ(image.pixelColor(24, 30).name(), QStringLiteral("#e5484d"));
+    EXPECT_EQ(image.pixelColor(200, 30).name(), QStringLiteral("#1e222a"));
+    EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "round corners";
+}
+
+TEST(RecorderViewTest, isBlankWithoutItsPicture) {
+    EXPECT_TRUE(isBlank(painted<RecorderView>(QStringLiteral("/nowhere"))));
+}
+
+TEST(MultiplePlayViewTest, drawsItsPictureWhereItsLineBegins) {
+    const QString mark = QStringLiteral("#4cc38a");
+    EXPECT_EQ(painted<MultiplePlayView>(pictures).pixelColor(18, 30).name(), mark);
+    EXPECT_EQ(painted<MultiplePlayView>(pictures, Qt::RightToLeft).pixelColor(420 - 18, 30).name(), mark);
+}
+
+TEST(MultiplePlayViewTest, isBlankWithoutItsPicture) {
+    EXPECT_TRUE(isBlank(painted<MultiplePlayView>(QStringLiteral("/nowhere"))));
+}
+
+TEST(PictureReferenceTest, isReadWhenItIsDrawn) {
+    const TemporaryFolder folder;
+    const PictureReference picture(QString::fromStdString(folder.path()), QStringLiteral("recording"));
+    std::filesystem::copy_file(KEYRILL_PICTURES "/recording.svg", folder.file("recording.svg"));
+    EXPECT_FALSE(picture.pixmap({420, 60}, 1).isNull());
+}
+
+TEST(PictureReferenceTest, takesThePngWhereThereIsNoSvg) {
+    const TemporaryFolder folder;
+    std::filesystem::copy_file(KEYRILL_PICTURES "/recording.png", folder.file("recording.png"));
+    const PictureReference picture(QString::fromStdString(folder.path()), QStringLiteral("recording"));
+    EXPECT_EQ(picture.pixmap({420, 60}, 1).toImage().pixelColor(24, 30).name(), QStringLiteral("#e5484d"));
+}
+
+TEST(PictureReferenceTest, isSharpOnScreensOfAnyDensity) {
+    const PictureReference picture(pictures, QStringLiteral("recording"));
+    for (const qreal ratio : {1.0, 1.5, 2.0}) {
+        const QPixmap pixmap = picture.pixmap({420, 60}, ratio);
+        EXPECT_EQ(pixmap.size(), QSize(420, 60) * ratio);
+        EXPECT_EQ(pixmap.deviceIndependentSize(), QSizeF(420, 60));
+    }
+}
+
+TEST(SplashWindowTest, stopsItsAnimation) {
+    SplashWindow splash(pictures);
+    EXPECT_FALSE(splash.splashAnim().isRendering());
+    splash.show();
+    EXPECT_TRUE(splash.splashAnim().isRendering());
+    splash.splashAnim().stopRendering();
+    EXPECT_FALSE(splash.splashAnim().isRendering());
+}
+
+TEST(StatusIconTest, differsInShapeForEachState) {
+    // Shapes without colours: what panels paint in one colour of their own.
+    const auto shape = [](const char* name) {
+        return QIcon(QStringLiteral(KEYRILL_ICONS "/symbolic/apps/example.orlen.Keyrill") +
+                     QLatin1String(name))
+            .pixmap(22)
+            .toImage()
+            .convertToFormat(QImage::Format_Alpha8);
+    };
+    const QImage normal = shape("-symbolic.svg");
+    const QImage busy = shape("-busy-symbolic.svg");
+    const QImage recording = shape("-recording-symbolic.svg");
+    ASSERT_FALSE(normal.isNull() || busy.isNull() || recording.isNull());
+    EXPECT_NE(normal, busy);
+    EXPECT_NE(normal, recording);
+    EXPECT_NE(busy, recording);
+}
+
+TEST(StatusIconTest, isThereWithoutATheme) {
+    QList<QImage> drawn;
+    for (const StatusImage image : {StatusImage::busy, StatusImage::normal, StatusImage::recording})
+        drawn.append(themedStatusIcon(image).pixmap(22).toImage());
+    EXPECT_NE(drawn[0], drawn[1]);
+    EXPECT_NE(drawn[1], drawn[2]);
+    EXPECT_NE(drawn[0], drawn[2]);
+}
+
+}  // namespace

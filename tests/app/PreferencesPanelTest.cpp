@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "app/PreferencesPanel.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+
+#include "app/NoticeLine.h"
+#include "app/PreferencesModel.h"
+#include "app/SRRecorderControl.h"
+#include "engine/EngineTest.h"
+
+namespace {
+
+class PreferencesPanelTest : public EngineTest {
+  protected:
+    SRRecorderControl& field(const char* name) {
+        for (auto* field : panel.findChildren<SRRecorderControl*>()) {
+            if (field->accessibleName() == QLatin1String(name)) return *field;
+        }
+        throw std::runtime_error(name);
+    }
+    QCheckBox& box(const char* text) {
+        for (auto* box : panel.findChildren<QCheckBox*>()) {
+            if (box->text().remove(u'&') == QLatin1String(text)) return *box;
+        }
+        throw std::runtime_error(text);
+    }
+    std::vector<std::string> notices() {
+        std::vector<std::string> shown;
+        for (auto* line : panel.findChildren<NoticeLine*>()) {
+            if (line->isVisible()) shown.push_back(line->notice().toStdString());
+        }
+        return shown;
+    }
+
+    /// After the layout has followed what is shown.
+    int height() {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        return panel.height();
+    }
+
+    PreferencesModel model;
+    PreferencesPanel panel{model};
+};
+
+TEST_F(PreferencesPanelTest, showsTheFourShortcuts) {
+    EXPECT_EQ(field("Start recording").displayText().toStdString(), "Ctrl+Super+R");
+    EXPECT_EQ(field("Stop recording").displayText().toStdString(), "Ctrl+Super+S");
+    EXPECT_EQ(field("Play").displayText().toStdString(), "Ctrl+Super+P");
+    EXPECT_EQ(field("Play multiple times").displayText().toStdString(), "Ctrl+Super+M");
+}
+
+TEST_F(PreferencesPanelTest, labelsEachFieldWithAMnemonicOfItsOwn) {
+    QSet<QChar> mnemonics;
+    int fields = 0;
+    for (const auto* label : panel.findChildren<QLabel*>()) {
+        if (qobject_cast<SRRecorderControl*>(label->buddy()) != nullptr) ++fields;
+        const qsizetype mark = label->buddy() == nullptr ? -1 : label->text().indexOf(u'&');
+        if (mark >= 0) mnemonics.insert(label->text().at(mark + 1).toLower());
+    }
+    for (const auto* button : panel.findChildren<QAbstractButton*>()) {
+        const qsizetype mark = button->text().indexOf(u'&');
+        if (mark >= 0) mnemonics.insert(button->text().at(mark + 1).toLower());
+    }
+    EXPECT_EQ(fields, 4);
+    EXPECT_EQ(mnemonics.size(), 8) << "four fields, two boxes, two buttons";
+}
+
+TEST_F(PreferencesPanelTest, showsAndSetsTheOptions) {
+    model.launchOnLogin.setOn(true);
+    EXPECT_TRUE(box("Start Keyrill when I log in").isChecked());
+    box("Start Keyrill when I log in").click();
+    EXPECT_FALSE(model.launchOnLogin.isOn());
+    box("Check for updates when Keyrill starts").click();
+    EXPECT_TRUE(model.checkForUpdatesOnLaunch.isOn());
+}
+
+TEST_F(PreferencesPanelTest, showsNoticesBelowTheirFields) {
+    panel.show();
+    EXPECT_TRUE(notices().empty());
+    const int heightWithout = height();
+    model.play.setNotice(QStringLiteral("held by <b>another</b> program"));
+    EXPECT_EQ(notices(), std::vector<std::string>{"held by <b>another</b> program"});
+    EXPECT_GT(height(), heightWithout);
+    model.play.setNotice({});
+    EXPECT_TRUE(notices().empty());
+    EXPECT_EQ(height(), heightWithout);
+}
+
+TEST_F(PreferencesPanelTest, showsNothingOfTheUpdateCheckWhereThereIsNone) {
+    PreferencesModel without;
+    without.offersUpdateCheck = false;
+    PreferencesPanel other(without);
+    other.show();
+    EXPECT_FALSE(other.checkForUpdatesNowButton()->isVisible());
+    QStringList shown;
+    for (const auto* box : other.findChildren<QCheckBox*>()) {
+        if (box->isVisible()) shown.append(box->text());
+    }
+    EXPECT_EQ(shown, QStringList(QStringLiteral("Start Keyrill when I log &in")));
+}
+
+TEST_F(PreferencesPanelTest, leadsTheFocusThroughAllControlsInTheirOrder) {
+    panel.show();
+    QStringList order;
+    QWidget* const first = &field("Start recording");
+    for (QWidget* widget = first; order.isEmpty() || widget != first; widget = widget->nextInFocusChain()) {
+        if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+        const auto* button = qobject_cast<QAbstractButton*>(widget);
+        order.append(button == nullptr ? widget->accessibleName() : button->text().remove(u'&'));
+    }
+    EXPECT_EQ(order.join(QLatin1Char('|')).toStdString(),
+              "Start recording|Stop recording|Play|Play multiple times|Start Keyrill when I log in|"
+              "Check for updates when Keyrill starts|Check Now|Close");
+}
+
+}  // namespace
