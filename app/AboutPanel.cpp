@@ -4,25 +4,31 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <array>
+#include <string_view>
 
 #include "app/PanelText.h"
+#include "platform/Features.h"
 
 namespace {
 
 struct Library {
-    const char* name;
-    const char* licence;
+    std::string_view name;
+    std::string_view licence;
 };
+
+/// Not in builds without the update check.
+constexpr std::string_view updateLibrary = "libcurl";
 
 /// What the program is linked with, and under which terms.
 constexpr Library libraries[] = {{"Qt 6", "LGPL 3"},
                                  {"GLib", "LGPL 2.1 or later"},
                                  {"libxcb, libxkbcommon", "MIT"},
-#ifdef KEYRILL_UPDATE_CHECK
-                                 {"libcurl", "curl licence"},
-#endif
+                                 {updateLibrary, "curl licence"},
                                  {"Boost", "Boost Software License 1.0"}};
+
+QString textOf(std::string_view text) {
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 }  // namespace
 
@@ -62,9 +68,10 @@ QLayout* AboutPanel::makeLibraries() {
     grid->setColumnStretch(1, 1);
     grid->setHorizontalSpacing(2 * grid->horizontalSpacing());
     for (const Library& library : libraries) {
+        if (!features::updateCheck && library.name == updateLibrary) continue;
         const int row = grid->rowCount();
-        grid->addWidget(new QLabel(QString::fromLatin1(library.name)), row, 0);
-        grid->addWidget(new QLabel(QString::fromLatin1(library.licence)), row, 1);
+        grid->addWidget(new QLabel(textOf(library.name)), row, 0);
+        grid->addWidget(new QLabel(textOf(library.licence)), row, 1);
     }
     return grid;
 }

@@ -17,8 +17,12 @@
 AboutPanel& AppController::builtAboutPanel() {
     if (!m_aboutPanel) {
         m_aboutPanel = std::make_unique<AboutPanel>();
-        connect(m_aboutPanel.get(), &AboutPanel::pageRequested, this,
-                [this](const QString& address) { openPage(address.toStdString()); });
+        const auto connectButton = [this](QPushButton* button, void (AppController::*page)(QObject*)) {
+            connect(button, &QPushButton::clicked, this, [this, button, page] { (this->*page)(button); });
+        };
+        connectButton(m_aboutPanel->documentationButton(), &AppController::openDocumentation);
+        connectButton(m_aboutPanel->productPageButton(), &AppController::openKeyrillWebsite);
+        connectButton(m_aboutPanel->makersWebsiteButton(), &AppController::openOrlenWebsite);
     }
     return *m_aboutPanel;
 }

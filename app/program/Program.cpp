@@ -4,6 +4,7 @@
 #include <QApplication>
 
 #include "app/program/X11Backends.h"
+#include "platform/Windows.h"
 #include "platform/x11/X11DockingTray.h"
 #include "platform/x11/X11EventManager.h"
 #include "platform/x11/X11KeyInjector.h"
@@ -17,6 +18,9 @@ void interruptRun(void* injector) { static_cast<X11KeyInjector*>(injector)->inte
 
 Program::Program(X11Backends& backends)
     : m_statusItem(backends.dockingTray()),
+      m_dialogs([&windows = backends.windows()](QWidget& window) {
+          windows.activate(static_cast<WindowId>(window.winId()), 0);
+      }),
       m_controller(backends.services(), backends.windows(), m_statusItem, m_dialogs),
       m_signals(interruptRun, &backends.keyInjector()),
       m_eventsReadable(backends.eventManager().fileDescriptor(), QSocketNotifier::Read),

@@ -4,8 +4,8 @@
 #include <QSocketNotifier>
 
 #include "app/AppController.h"
+#include "app/QtDialogs.h"
 #include "app/TrayStatusItem.h"
-#include "app/program/PlainDialogs.h"
 #include "app/program/TerminationSignals.h"
 
 class X11Backends;
@@ -22,7 +22,7 @@ class Program {
 
   private:
     TrayStatusItem m_statusItem;
-    PlainDialogs m_dialogs;
+    QtDialogs m_dialogs;
     AppController m_controller;
     TerminationSignals m_signals;
     QSocketNotifier m_eventsReadable;
