@@ -5,6 +5,7 @@
 
 LinuxServices::LinuxServices()
     : settings(configFoldersOfProcess(), [this] { turnEnd.start(); }),
+      loginItems(configFoldersOfProcess(), programOfProcess()),
       macroFiles(homeOfProcess(), userDataFolder(environmentOfProcess(), homeOfProcess())) {
     turnEnd.setSingleShot(true);
     turnEnd.setInterval(0);

@@ -3,9 +3,12 @@
 
 #include <QTimer>
 
+#include "platform/linux/AutostartEntry.h"
 #include "platform/linux/KeyFileSettings.h"
 #include "platform/linux/LocalMacroFiles.h"
+#include "platform/linux/MachineFacts.h"
 #include "platform/linux/PendingServices.h"
+#include "platform/linux/XdgWorkspace.h"
 
 /// The services that are the same in every session, joined with the event loop. Can be made before the loop.
 struct LinuxServices {
@@ -15,9 +18,9 @@ struct LinuxServices {
 
     QTimer turnEnd;
     KeyFileSettings settings;
-    pending::LoginItems loginItems;
-    pending::Workspace workspace;
-    pending::SystemFacts systemFacts;
+    AutostartEntry loginItems;
+    XdgWorkspace workspace;
+    MachineFacts systemFacts;
     pending::UpdateService updateService;
     LocalMacroFiles macroFiles;
     pending::Notifications notifications;

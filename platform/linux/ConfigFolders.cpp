@@ -3,6 +3,7 @@
 
 #include <glib.h>
 
+#include <filesystem>
 #include <sstream>
 
 namespace {
@@ -44,3 +45,9 @@ Environment environmentOfProcess() {
 }
 
 std::string homeOfProcess() { return g_get_home_dir(); }
+
+std::string programOfProcess() {
+    const std::string image = environmentOfProcess()("APPIMAGE");
+    if (isAbsolute(image)) return image;
+    return std::filesystem::read_symlink("/proc/self/exe");
+}

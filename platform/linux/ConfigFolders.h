@@ -34,3 +34,6 @@ std::string userDataFolder(const Environment& environment, const std::string& ho
 Environment environmentOfProcess();
 /// The user's home folder, absolute.
 std::string homeOfProcess();
+/// The path of the file that this process runs, absolute; of the whole image where it runs from one
+/// (APPIMAGE).
+std::string programOfProcess();
