@@ -35,6 +35,7 @@ class Desktop {
     /// On a display that outlives it.
     explicit Desktop(std::string display);
 
+    Child& server() { return m_server->program(); }
     SessionBus& startBus();
     SessionBus& bus() { return *m_bus; }
     void startWindowManager(WindowManager manager = WindowManager::openbox);

@@ -50,9 +50,9 @@ void StatusMenuClicks::chooseLast() {
     chooseAt(m_menu.height - looks.frame - looks.entryHeight / 2);
 }
 
-void StatusMenuClicks::chooseByKeys(int entry) {
+void StatusMenuClicks::chooseByKeys(int entry, const std::vector<std::string>& then) {
     for (int i = 0; i < entry; ++i) m_desktop.press("Down");
-    m_desktop.press("Return");
+    for (const std::string& key : then) m_desktop.press(key);
     awaitClosed();
 }
 

@@ -18,8 +18,8 @@ class StatusMenuClicks {
     /// menu is closed.
     void choose(int entry);
     void chooseLast();
-    /// The same by arrow keys and Return; the n-th of those entries that can be chosen.
-    void chooseByKeys(int entry);
+    /// The same by arrow keys, for the n-th of those entries that can be chosen; then the further keys.
+    void chooseByKeys(int entry, const std::vector<std::string>& then = {"Return"});
 
     bool isOpen() const { return menu().has_value(); }
 

@@ -19,6 +19,7 @@ class XServer {
     /// ":N"
     const std::string& display() const { return m_display; }
     pid_t pid() const { return m_server->pid(); }
+    Child& program() { return *m_server; }
 
   private:
     TemporaryFolder m_folder;

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include <tuple>
+
+#include "desktop/DesktopTest.h"
+#include "desktop/StatusMenuClicks.h"
+
+namespace {
+
+// The entries that can be seen once something has been recorded.
+constexpr int playEntry = 2;
+constexpr int multiplePlayEntry = 3;
+constexpr int historyEntry = 4;
+
+/// The menu of a tray of each kind under each window manager, while a terminal is being typed into.
+class MenuTest : public testing::TestWithParam<std::tuple<TrayKind, WindowManager>> {
+  protected:
+    MenuTest() {
+        desktop.startWindowManager(std::get<1>(GetParam()));
+        desktop.startTray(std::get<0>(GetParam()));
+        bystander.emplace(desktop.display());
+        terminal.emplace(desktop.display());
+        keyrill.emplace(desktop);
+        menu.emplace(desktop);
+    }
+
+    void record(const std::string& key) {
+        desktop.press("ctrl+super+r");
+        desktop.press(key);
+        desktop.press("ctrl+super+s");
+        keyrill->script(++recordings);
+    }
+    /// Waits until everything has been typed that was, and then that.
+    void expectTyped(const std::string& text) {
+        typed += text;
+        EXPECT_EQ(terminal->typed(typed.size()), typed);
+    }
+    void answerPrompt(const std::string& count) const {
+        const ScreenWindow prompt = desktop.awaitWindow(title::prompt);
+        ASSERT_TRUE(eventually([&] { return desktop.hasFocus(prompt); }));
+        desktop.press(count);
+        desktop.press("Return");
+    }
+
+    Desktop desktop;
+    /// Does not have the focus.
+    std::optional<Terminal> bystander;
+    std::optional<Terminal> terminal;
+    std::optional<Keyrill> keyrill;
+    std::optional<StatusMenuClicks> menu;
+    std::size_t recordings = 0;
+    std::string typed;
+};
+
+TEST_P(MenuTest, whatIsPlayedReachesTheWindowThatWasTypedInto) {
+    record("x");
+    expectTyped("x");
+    menu->open();
+    menu->choose(playEntry);
+    expectTyped("x");
+    menu->open();
+    menu->chooseByKeys(playEntry);
+    expectTyped("x");
+    menu->open();
+    menu->choose(multiplePlayEntry);
+    answerPrompt("2");
+    expectTyped("xx");
+    menu->open();
+    menu->chooseByKeys(multiplePlayEntry);
+    answerPrompt("3");
+    expectTyped("xxx");
+    desktop.press("period");
+    expectTyped(".");
+    EXPECT_EQ(bystander->typed(), "");
+}
+
+TEST_P(MenuTest, theOldestOfThreeRecordingsIsPlayedAndBecomesTheCurrentOne) {
+    for (const char* key : {"a", "b", "c"}) record(key);
+    expectTyped("abc");
+    desktop.press("ctrl+super+p");
+    expectTyped("c");
+    menu->open();
+    menu->chooseByKeys(historyEntry, {"Right", "Down", "Down", "Return"});
+    expectTyped("a");
+    desktop.press("ctrl+super+p");
+    expectTyped("a");
+    desktop.press("ctrl+super+m");
+    answerPrompt("2");
+    expectTyped("aa");
+    menu->open();
+    menu->chooseByKeys(historyEntry, {"Right", "Down", "Return"});
+    expectTyped("b");
+    menu->open();
+    menu->choose(playEntry);
+    expectTyped("b");
+    EXPECT_EQ(bystander->typed(), "");
+}
+
+std::string nameOfDesktop(const testing::TestParamInfo<std::tuple<TrayKind, WindowManager>>& info) {
+    return nameOf(std::get<0>(info.param)) + "Under" + nameOf(std::get<1>(info.param));
+}
+
+INSTANTIATE_TEST_SUITE_P(Desktops, MenuTest,
+                         testing::Combine(testing::Values(TrayKind::docking, TrayKind::statusNotifier),
+                                          testing::Values(WindowManager::openbox, WindowManager::xfwm4)),
+                         nameOfDesktop);
+
+}  // namespace
