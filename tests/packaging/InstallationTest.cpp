@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <regex>
+
+#include "platform/Addresses.h"
+#include "support/Child.h"
+
+namespace {
+
+class InstallationTest : public testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        stage = new TemporaryFolder;
+        outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER}, {{"DESTDIR", stage->path()}});
+    }
+    static void TearDownTestSuite() { delete stage; }
+
+    /// A path below the prefix as it is in the stage.
+    static std::string installed(const std::string& path) {
+        return stage->path() + KEYRILL_PREFIX + "/" + path;
+    }
+    static bool isInstalled(const std::string& path) { return std::filesystem::exists(installed(path)); }
+
+    // Shared, because an installation takes a second.
+    static TemporaryFolder* stage;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+};
+
+TemporaryFolder* InstallationTest::stage = nullptr;
+
+const std::string id = "example.orlen.Keyrill";
+
+TEST_F(InstallationTest, holdsThePrograms) {
+    EXPECT_TRUE(isInstalled("bin/keyrill"));
+    EXPECT_TRUE(isInstalled("bin/keyrill-script"));
+    EXPECT_TRUE(isInstalled("libexec/keyrill/keyrill-guard"));
+    EXPECT_FALSE(isInstalled("bin/keyrill-demonstration"));
+}
+
+TEST_F(InstallationTest, theMenuEntryIsValidAndComplete) {
+    const std::string file = installed("share/applications/" + id + ".desktop");
+    EXPECT_EQ(outputOf({"desktop-file-validate", "--warn-kde", file}), "");
+    const std::string entry = contentOf(file);
+    EXPECT_NE(entry.find("\nExec=keyrill %f\n"), std::string::npos);
+    EXPECT_NE(entry.find("\nMimeType=application/x-keyrill-macro;\n"), std::string::npos);
+    EXPECT_NE(entry.find("\nIcon=" + id + "\n"), std::string::npos);
+}
+
+TEST_F(InstallationTest, theSoftwareCentresPageIsValidAndOfThisVersion) {
+    const std::string file = installed("share/metainfo/" + id + ".metainfo.xml");
+    outputOf({"appstreamcli", "validate", "--no-net", file});
+    EXPECT_NE(contentOf(file).find("<release version=\"" KEYRILL_VERSION "\""), std::string::npos);
+}
+
+TEST_F(InstallationTest, macroFilesAreKnownByTheirNameAndAreText) {
+    const TemporaryFolder home;
+    const std::map<std::string, std::string> environment = {
+        {"HOME", home.path()},
+        {"XDG_DATA_HOME", home.path()},
+        {"XDG_DATA_DIRS", installed("share") + ":/usr/share"}};
+    outputOf({"update-mime-database", installed("share/mime")}, environment);
+    for (const char* name : {"typed.keyrill", "TYPED.KEYRILL"}) {
+        std::ofstream(home.file(name)) << "tell application \"System Events\" to key code 0\n";
+        const std::string facts =
+            outputOf({"gio", "info", "-a", "standard::content-type", home.file(name)}, environment);
+        EXPECT_NE(facts.find("standard::content-type: application/x-keyrill-macro\n"), std::string::npos)
+            << facts;
+    }
+    EXPECT_NE(contentOf(installed("share/mime/subclasses")).find("application/x-keyrill-macro text/plain\n"),
+              std::string::npos);
+}
+
+TEST_F(InstallationTest, theManualPagesAreWellFormed) {
+    for (const auto& page : std::filesystem::directory_iterator(installed("share/man/man1"))) {
+        EXPECT_EQ(outputOf({"mandoc", "-T", "lint", "-W", "warning", page.path()}), "");
+    }
+    EXPECT_TRUE(isInstalled("share/man/man1/keyrill.1"));
+}
+
+TEST_F(InstallationTest, theDocumentationThatTheMenuOpensIsThere) {
+    const std::string page(addresses::documentationPage);
+    ASSERT_TRUE(page.starts_with("file://")) << page;
+    EXPECT_TRUE(std::filesystem::exists(stage->path() + page.substr(7))) << page;
+}
+
+TEST_F(InstallationTest, theManualIsWellFormedAndItsLinksLeadSomewhere) {
+    const std::filesystem::path folder = stage->path() + std::string(addresses::documentationPage).substr(7);
+    const std::string manual = contentOf(folder);
+    outputOf({"python3", "-c", "import sys, xml.dom.minidom as dom; dom.parse(sys.argv[1])", folder});
+    const std::regex link("(?:href|src)=\"([^\"]*)\"");
+    int links = 0;
+    for (std::sregex_iterator at(manual.begin(), manual.end(), link), end; at != end; ++at, ++links) {
+        const std::string target = (*at)[1];
+        if (target.starts_with('#')) {
+            EXPECT_NE(manual.find("id=\"" + target.substr(1) + "\""), std::string::npos) << target;
+        } else {
+            EXPECT_TRUE(std::filesystem::exists(folder.parent_path() / target)) << target;
+        }
+    }
+    EXPECT_GE(links, 10);
+}
+
+}  // namespace
