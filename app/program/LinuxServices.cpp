@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/program/LinuxServices.h"
 
+#include "platform/Addresses.h"
 #include "platform/linux/ConfigFolders.h"
+#include "platform/linux/UpdateCheck.h"
 
 LinuxServices::LinuxServices()
     : settings(configFoldersOfProcess(), [this] { turnEnd.start(); }),
       loginItems(configFoldersOfProcess(), programOfProcess()),
+      updateService(makeUpdateService({.url = std::string(addresses::updateServiceUrl)})),
       macroFiles(homeOfProcess(), userDataFolder(environmentOfProcess(), homeOfProcess())) {
     turnEnd.setSingleShot(true);
     turnEnd.setInterval(0);

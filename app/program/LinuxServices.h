@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QTimer>
+#include <memory>
 
+#include "platform/UpdateService.h"
 #include "platform/linux/AutostartEntry.h"
 #include "platform/linux/KeyFileSettings.h"
 #include "platform/linux/LocalMacroFiles.h"
@@ -21,7 +23,7 @@ struct LinuxServices {
     AutostartEntry loginItems;
     XdgWorkspace workspace;
     MachineFacts systemFacts;
-    pending::UpdateService updateService;
+    std::unique_ptr<UpdateService> updateService;
     LocalMacroFiles macroFiles;
     pending::Notifications notifications;
     pending::ScreenLock screenLock;

@@ -44,7 +44,7 @@ struct X11Backends::Parts {
                       .loginItems = neutral.loginItems,
                       .workspace = neutral.workspace,
                       .systemFacts = neutral.systemFacts,
-                      .updateService = neutral.updateService,
+                      .updateService = *neutral.updateService,
                       .macroFiles = neutral.macroFiles,
                       .notifications = neutral.notifications,
                       .screenLock = neutral.screenLock,

@@ -3,15 +3,9 @@
 
 #include "platform/Notifications.h"
 #include "platform/ScreenLock.h"
-#include "platform/UpdateService.h"
 
 /// What this backend does not provide yet. Each call says so; nothing is pretended.
 namespace pending {
-
-class UpdateService : public ::UpdateService {
-  public:
-    bool isNewerThan(std::string_view /*runningVersion*/) override { return false; }
-};
 
 class Notifications : public ::Notifications {
   public:
