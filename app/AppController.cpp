@@ -62,6 +62,7 @@ void AppController::awakeFromNib() {
     m_services.hotKeys.observe([this](HotKeyId id, const HotKeyState& state) { noteHotKey(id, state); });
     installHotKeyHandlers();
     if (!checkAccess()) return;
+    m_isAwake = true;
     updateMenu();
     installKeyRecorder();
     activateBusyStatusMenu();

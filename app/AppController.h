@@ -156,6 +156,8 @@ class AppController : public QObject, public SharedController {
     RecorderWindow* recorderWindow() const { return m_recorderWindow.get(); }
     MultiplePlayWindow* multiplePlayWindow() const { return m_multiplePlayWindow.get(); }
     SplashWindow* splashWindow() const { return m_splashWindow.get(); }
+    /// Nothing shows it yet.
+    SplashWindow& builtSplashWindow();
     PreferencesPanel* preferencesWindow() const { return m_preferencesWindow.get(); }
     AboutPanel* aboutPanel() const { return m_aboutPanel.get(); }
     WelcomePanel* welcomePanel() const { return m_welcomePanel.get(); }
@@ -174,7 +176,7 @@ class AppController : public QObject, public SharedController {
     bool runPreferencesOnLaunch = false;
     bool runCheckForUpdates = false;
     /// Fires runSplash(), once.
-    QTimer timer;
+    QTimer timer{this};
 
   private:
     using Action = void (AppController::*)(QObject*);
@@ -235,8 +237,10 @@ class AppController : public QObject, public SharedController {
     std::vector<QPointer<QWidget>> m_hidden;
     std::map<HotKeyId, std::string> m_refusedHotKeys;
     std::vector<AlertText> m_toldSaveFailures;
-    QTimer m_refreshTimer;
-    QTimer m_killTimer;
+    QTimer m_refreshTimer{this};
+    QTimer m_killTimer{this};
+    /// Whether the session is one to work in: the menu follows the state from then on.
+    bool m_isAwake = false;
     /// Whether the prompt is being opened from a menu, not by its hot key.
     bool m_openedFromMenu = false;
 };

@@ -106,6 +106,7 @@ void AppController::updateMenu() {
 void AppController::followGate() {
     m_facts.gateShut = !m_gate.isOpen();
     m_facts.screenLocked = m_gate.isLocked();
-    updateMenu();
+    // An alert that ends the start-up leaves the menu as it is.
+    if (m_isAwake) updateMenu();
     if (m_recorderWindow) m_recorderWindow->setVisible(menuState(m_facts).overlayVisible);
 }

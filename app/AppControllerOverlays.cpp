@@ -126,6 +126,11 @@ void AppController::runSplash() {
     tellFaults();
 }
 
+SplashWindow& AppController::builtSplashWindow() {
+    if (!m_splashWindow) m_splashWindow = std::make_unique<SplashWindow>();
+    return *m_splashWindow;
+}
+
 void AppController::hideSplashScreen() {
     if (!m_splashWindow) return;
     m_splashWindow->hide();

@@ -2,6 +2,7 @@
 #include "app/AppTest.h"
 
 #include <QApplication>
+#include <QPropertyAnimation>
 #include <array>
 #include <memory>
 
@@ -42,3 +43,12 @@ std::string AppTest::menu() const {
 }
 
 void AppTest::type(std::uint32_t keyCode) { handleKeyEvent({KeyEventKind::keyDown, keyCode, 0, 0}); }
+
+float AppTest::fadeEnd(const QWidget& window) {
+    const auto* fade = window.findChild<QPropertyAnimation*>();
+    return fade != nullptr ? fade->endValue().toFloat() : -1;
+}
+
+bool AppTest::isFadingIn(const QWidget& window) {
+    return window.isVisible() && window.windowOpacity() == 0 && fadeEnd(window) > 0;
+}

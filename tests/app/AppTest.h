@@ -55,6 +55,11 @@ class AppTest : public EngineTest {
 
     static void type(std::uint32_t keyCode);
 
+    /// The opacity that the window's running fade leads to.
+    static float fadeEnd(const QWidget& window);
+    /// Whether a running fade started from nothing.
+    static bool isFadingIn(const QWidget& window);
+
     FakeStatusItem statusItem;
     FakeWindows windows;
     FakeDialogs dialogs;

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "app/Gate.h"
+
+#include <QPushButton>
+
+#include "app/AppTest.h"
+#include "app/GatedDialogs.h"
+#include "app/MultiplePlayWindow.h"
+#include "app/PreferencesPanel.h"
+#include "app/RecorderWindow.h"
+
+namespace {
+
+constexpr std::uint32_t aKey = 0;
+constexpr std::uint32_t shiftKey = 56;
+constexpr std::uint32_t f1 = 122;
+constexpr std::uint32_t f2 = 120;
+
+/// The controller with record on F1 and play on F2, and a user who acts while a question is open.
+class GateTest : public AppTest {
+  protected:
+    GateTest() {
+        put("record", f1, 0);
+        put("play", f2, 0x20000);
+        platform().settings.put("notFirstRun", 1);
+        controller.awakeFromNib();
+    }
+
+    void put(const std::string& name, std::uint32_t code, std::uint32_t flags) {
+        platform().settings.put(name + "Code", code);
+        platform().settings.put(name + "Flags", flags);
+    }
+    void strikes(std::uint32_t keyCode) {
+        platform().keyboard.userPresses(keyCode);
+        platform().keyboard.userReleases(keyCode);
+    }
+    /// A question that stays open while the user acts.
+    void askWhile(const std::function<void()>& acts) {
+        dialogs.whileOpen(acts);
+        controller.statusMenu.updateMenuItem->trigger();
+        ASSERT_EQ(dialogs.alerts.size(), 1U);
+    }
+    std::string recorded() { return state().recordingMacro ? state().recordingMacro->displayText() : "-"; }
+};
+
+TEST_F(GateTest, recordsNothingOfWhatIsTypedIntoAQuestion) {
+    controller.recordMacro(nullptr);
+    strikes(aKey);
+    const std::string before = recorded();
+    askWhile([this] { strikes(aKey); });
+    EXPECT_EQ(recorded(), before);
+    strikes(aKey);
+    EXPECT_NE(recorded(), before);
+}
+
+TEST_F(GateTest, dropsHotKeysWhileAQuestionIsOpen) {
+    askWhile([this] { strikes(f1); });
+    EXPECT_FALSE(state().recording);
+    strikes(f1);
+    EXPECT_TRUE(state().recording);
+}
+
+TEST_F(GateTest, followsModifiersWhileAQuestionIsOpen) {
+    platform().keyboard.userPresses(shiftKey);
+    askWhile([this] {
+        EXPECT_TRUE(state().modifiersDown);
+        platform().keyboard.userReleases(shiftKey);
+        EXPECT_FALSE(state().modifiersDown);
+    });
+}
+
+TEST_F(GateTest, dropsAPlayThatWaitsForModifiersWhenAQuestionOpens) {
+    state().currentMacro = macroWithScript("script");
+    platform().keyboard.userPresses(shiftKey);
+    strikes(f2);
+    EXPECT_TRUE(state().playPending);
+    askWhile([this] { platform().keyboard.userReleases(shiftKey); });
+    EXPECT_TRUE(runs().empty());
+    EXPECT_FALSE(state().playPending);
+}
+
+TEST_F(GateTest, dropsTheMenusCommandsWhileAQuestionIsOpen) {
+    state().currentMacro = macroWithScript("script");
+    controller.recordMacro(nullptr);
+    type(aKey);
+    controller.stopMacro(nullptr);
+    askWhile([this] {
+        const StatusMenu& items = controller.statusMenu;
+        for (QAction* item :
+             {items.recordMenuItem, items.playMenuItem, items.multiplePlayMenuItem, items.saveMacroMenuItem,
+              items.loadMacroMenuItem, items.preferencesMenuItem, items.updateMenuItem, items.aboutMenuItem,
+              items.historyMenu->actions().first()}) {
+            item->trigger();
+        }
+    });
+    EXPECT_FALSE(state().recording);
+    EXPECT_TRUE(runs().empty());
+    EXPECT_TRUE(dialogs.filePanels.empty());
+    EXPECT_EQ(controller.multiplePlayWindow(), nullptr);
+    EXPECT_EQ(controller.aboutPanel(), nullptr);
+    EXPECT_TRUE(state().hotKeysEnabled);
+}
+
+TEST_F(GateTest, greysTheMenuButForQuitWhileAQuestionIsOpen) {
+    const std::string before = menu();
+    std::string meanwhile;
+    askWhile([&] { meanwhile = menu(); });
+    EXPECT_EQ(meanwhile,
+              "[Start Recording], -, [History], [Load Macro...], -, [Preferences...], [Help], -, Quit");
+    EXPECT_EQ(menu(), before);
+}
+
+TEST_F(GateTest, playsNothingFromThePromptWhileAQuestionIsOpen) {
+    state().currentMacro = macroWithScript("script");
+    controller.showMultiplePlayGui();
+    askWhile([this] { emit controller.multiplePlayWindow()->confirmed(); });
+    EXPECT_TRUE(runs().empty());
+    emit controller.multiplePlayWindow()->confirmed();
+    EXPECT_EQ(runs().size(), 1U);
+}
+
+TEST_F(GateTest, isShutUntilASheetIsAnswered) {
+    controller.showPreferences(nullptr);
+    state().hotKeysEnabled = true;
+    controller.checkForUpdatesNowButton()->click();
+    strikes(f1);
+    EXPECT_FALSE(state().recording);
+    dialogs.endSheet(AlertAnswer::defaultButton);
+    strikes(f1);
+    EXPECT_TRUE(state().recording);
+}
+
+TEST_F(GateTest, isShutWhileAFileIsChosen) {
+    dialogs.whileOpen([this] { strikes(f1); });
+    controller.loadMacro(nullptr);
+    EXPECT_FALSE(state().recording);
+    strikes(f1);
+    EXPECT_TRUE(state().recording);
+}
+
+TEST_F(GateTest, leavesTheSwitchOfTheHotKeysAlone) {
+    askWhile([this] { EXPECT_TRUE(state().hotKeysEnabled); });
+    platform().screenLock.userLocksScreen();
+    EXPECT_TRUE(state().hotKeysEnabled);
+}
+
+// The lock
+
+TEST_F(GateTest, recordsNothingAndHidesTheOverlayWhileTheScreenIsLocked) {
+    controller.recordMacro(nullptr);
+    const std::string before = recorded();
+    platform().screenLock.userLocksScreen();
+    EXPECT_FALSE(controller.recorderWindow()->isVisible());
+    strikes(aKey);
+    strikes(f1);
+    EXPECT_EQ(recorded(), before);
+    EXPECT_TRUE(state().recording);
+    platform().screenLock.userUnlocksScreen();
+    EXPECT_TRUE(controller.recorderWindow()->isVisible());
+    strikes(aKey);
+    EXPECT_NE(recorded(), before);
+}
+
+TEST_F(GateTest, doesNotShowTheOverlayAtTheUnlockWithoutARecording) {
+    controller.recordMacro(nullptr);
+    controller.stopMacro(nullptr);
+    platform().screenLock.userLocksScreen();
+    platform().screenLock.userUnlocksScreen();
+    EXPECT_FALSE(controller.recorderWindow()->isVisible());
+}
+
+TEST_F(GateTest, dropsAPlayThatWaitsWhenTheScreenIsLocked) {
+    state().currentMacro = macroWithScript("script");
+    platform().keyboard.userPresses(shiftKey);
+    strikes(f2);
+    platform().screenLock.userLocksScreen();
+    platform().keyboard.userReleases(shiftKey);
+    EXPECT_TRUE(runs().empty());
+}
+
+TEST_F(GateTest, staysShutWhenTheScreenIsUnlockedBehindAQuestion) {
+    askWhile([this] {
+        platform().screenLock.userLocksScreen();
+        platform().screenLock.userUnlocksScreen();
+        strikes(f1);
+        EXPECT_FALSE(state().recording);
+    });
+}
+
+TEST_F(GateTest, forgetsNoPlayThatIsRequestedWhileItIsOpen) {
+    state().currentMacro = macroWithScript("script");
+    platform().keyboard.userPresses(shiftKey);
+    strikes(f2);
+    platform().keyboard.userReleases(shiftKey);
+    EXPECT_EQ(runs().size(), 1U);
+}
+
+}  // namespace

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include <QPropertyAnimation>
+
+#include "app/AppTest.h"
+#include "app/MultiplePlayWindow.h"
+#include "app/PreferencesPanel.h"
+#include "app/RecorderWindow.h"
+#include "app/SplashAnimation.h"
+#include "app/SplashWindow.h"
+#include "platform/Addresses.h"
+
+namespace {
+
+constexpr std::uint32_t returnKey = 36;
+
+class OverlaysTest : public AppTest {
+  protected:
+    QWidget& overlay() const { return *controller.recorderWindow(); }
+    void findUpdateAtStart() {
+        platform().updateService.makerPublishes("99.0");
+        controller.backgroundCheckForUpdates();
+    }
+    std::string shownItems() const {
+        const StatusMenu& items = controller.statusMenu;
+        std::string shown;
+        for (const QAction* item : {items.recordMenuItem, items.stopMenuItem, items.saveDelayMenuItem,
+                                    items.playMenuItem, items.multiplePlayMenuItem}) {
+            if (item->isVisible()) shown += (shown.empty() ? "" : ", ") + item->text().toStdString();
+        }
+        return shown;
+    }
+};
+
+// Fades
+
+TEST_F(OverlaysTest, startsEachFadeInFromNothing) {
+    QWidget window;
+    window.setWindowOpacity(1);
+    window.show();
+    controller.fadeInPanel(&window, 0.9);
+    EXPECT_TRUE(isFadingIn(window));
+    const auto* fade = window.findChild<QPropertyAnimation*>();
+    EXPECT_EQ(fade->duration(), 350);
+    EXPECT_FLOAT_EQ(fadeEnd(window), 0.9F);
+}
+
+TEST_F(OverlaysTest, hasOneFadeAtATime) {
+    QWidget window;
+    controller.fadeInPanel(&window, 0.9);
+    controller.fadeInPanel(&window, 0.8);
+    EXPECT_EQ(window.findChildren<QPropertyAnimation*>().size(), 1);
+    EXPECT_FLOAT_EQ(fadeEnd(window), 0.8F);
+}
+
+TEST_F(OverlaysTest, hidesInTheSameCallWhenFadingOut) {
+    QWidget window;
+    controller.fadeInPanel(&window, 0.9);
+    controller.fadeOutPanel(&window);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(window.findChild<QPropertyAnimation*>(), nullptr);
+}
+
+TEST_F(OverlaysTest, leadsToNothingWhenAnimatingOut) {
+    QWidget window;
+    window.show();
+    controller.animatePanelOut(&window);
+    EXPECT_EQ(fadeEnd(window), 0);
+    controller.alphaZero(&window);
+    EXPECT_EQ(window.windowOpacity(), 0);
+    EXPECT_EQ(window.findChild<QPropertyAnimation*>(), nullptr);
+}
+
+TEST_F(OverlaysTest, bringsAMinimisedWindowBackWhenFadingIn) {
+    QWidget window;
+    window.showMinimized();
+    controller.fadeInPanel(&window, 0.9);
+    EXPECT_FALSE(window.isMinimized());
+}
+
+// Recording
+
+TEST_F(OverlaysTest, fadesTheOverlayInWhenARecordingStarts) {
+    controller.recordMacro(nullptr);
+    EXPECT_TRUE(isFadingIn(overlay()));
+    EXPECT_FLOAT_EQ(fadeEnd(overlay()), 0.8F);
+    EXPECT_EQ(state().lastEventTime, platform().clock.now());
+}
+
+TEST_F(OverlaysTest, takesTheOverlayAwayWhenTheRecordingEnds) {
+    controller.recordMacro(nullptr);
+    controller.stopMacro(nullptr);
+    EXPECT_FALSE(overlay().isVisible());
+}
+
+TEST_F(OverlaysTest, leavesTheOverlayWhenTheOtherWindowsAreHidden) {
+    controller.recordMacro(nullptr);
+    controller.hide();
+    EXPECT_TRUE(overlay().isVisible());
+}
+
+// The update question
+
+TEST_F(OverlaysTest, opensTheDownloadPageInPlaceOfARecording) {
+    findUpdateAtStart();
+    dialogs.answerNextAlert(AlertAnswer::defaultButton);
+    controller.recordMacro(nullptr);
+    EXPECT_EQ(platform().workspace.openedUrls(),
+              std::vector<std::string>{std::string(addresses::downloadPage)});
+    EXPECT_EQ(controller.recorderWindow(), nullptr);
+    EXPECT_EQ(shownItems(), "Stop Recording");
+    EXPECT_FALSE(state().recordingMacro);
+    EXPECT_FALSE(controller.checkForUpdateCompleted);
+    EXPECT_FALSE(controller.updateAvailable);
+}
+
+TEST_F(OverlaysTest, putsTheMenuBackWithTheNextStopAfterTheDownload) {
+    findUpdateAtStart();
+    dialogs.answerNextAlert(AlertAnswer::defaultButton);
+    controller.recordMacro(nullptr);
+    type(returnKey);
+    controller.stopMacro(nullptr);
+    EXPECT_EQ(shownItems(), "Start Recording, Play, Play Multiple Times...");
+    EXPECT_FALSE(state().currentMacro);
+    controller.recordMacro(nullptr);
+    EXPECT_EQ(dialogs.alerts.size(), 1U);
+    EXPECT_TRUE(overlay().isVisible());
+}
+
+TEST_F(OverlaysTest, goesOnRecordingWhenTheDownloadIsDeclined) {
+    findUpdateAtStart();
+    controller.recordMacro(nullptr);
+    EXPECT_TRUE(overlay().isVisible());
+    EXPECT_EQ(shownItems(), "Stop Recording, Save Pause");
+    EXPECT_TRUE(platform().workspace.openedUrls().empty());
+}
+
+// Hiding and bringing back
+
+TEST_F(OverlaysTest, hidesThePanelsThatAreShownDuringAMultiplePlayAndBringsThemBack) {
+    state().currentMacro = macroWithScript("script");
+    controller.showPreferences(nullptr);
+    controller.showMultiplePlayGui();
+    bool visibleMeanwhile = true;
+    platform().scripting.duringEachRun(
+        [&] { visibleMeanwhile = controller.preferencesWindow()->isVisible(); });
+    windows.calls.clear();
+    controller.doMultiplePlay(nullptr);
+    EXPECT_FALSE(visibleMeanwhile);
+    EXPECT_TRUE(controller.preferencesWindow()->isVisible());
+    EXPECT_FALSE(controller.multiplePlayWindow()->isVisible());
+    // Back without the focus, and nothing has been closed: hot keys are still off, nothing is saved.
+    EXPECT_EQ(windows.calls, std::vector<std::string>{"await hidden"});
+    EXPECT_FALSE(controller.preferencesWindow()->testAttribute(Qt::WA_ShowWithoutActivating));
+    EXPECT_FALSE(state().hotKeysEnabled);
+    EXPECT_TRUE(platform().settings.keysSet().empty());
+}
+
+TEST_F(OverlaysTest, leavesAMinimisedPanelMinimised) {
+    controller.showPreferences(nullptr);
+    controller.preferencesWindow()->showMinimized();
+    controller.hide();
+    controller.unhide();
+    EXPECT_TRUE(controller.preferencesWindow()->isMinimized());
+}
+
+// Splash
+
+TEST_F(OverlaysTest, hidesTheSplashWindowAndStopsItsAnimation) {
+    controller.hideSplashScreen();
+    EXPECT_EQ(controller.splashWindow(), nullptr);
+    SplashWindow& splash = controller.builtSplashWindow();
+    splash.show();
+    EXPECT_TRUE(splash.splashAnim().isRendering());
+    controller.hideSplashScreen();
+    EXPECT_FALSE(splash.isVisible());
+    EXPECT_FALSE(splash.splashAnim().isRendering());
+}
+
+}  // namespace
