@@ -12,6 +12,8 @@ struct Traced {
 
     /// One JSON array a line.
     std::string events;
+    /// The value of the last statement, as a script would spell it; empty if it has none.
+    std::string value;
     /// Where it failed, if it did.
     Phase phase = Phase::none;
     script::ScriptError error;
