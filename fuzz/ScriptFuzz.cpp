@@ -72,7 +72,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     BoundedInjector injector;
-    script::Machine machine(std::get<script::Program>(compiled), injector);
+    script::SilentDesktop desktop;
+    script::NoDialogs dialogs;
+    script::Machine machine(std::get<script::Program>(compiled), {injector, desktop, dialogs});
     machine.onWarning([](const script::ScriptWarning& warning) {
         if (warning.message.empty()) std::abort();
     });

@@ -13,6 +13,7 @@
 #include "platform/script/Compiler.h"
 #include "platform/script/Machine.h"
 #include "platform/script/TraceInjector.h"
+#include "platform/script/TraceServices.h"
 
 namespace {
 
@@ -52,8 +53,9 @@ std::optional<script::Program> compiled(const std::string& file) {
     return std::get<script::Program>(std::move(result));
 }
 
-int run(const std::string& file, const script::Program& program, KeyInjector& injector) {
-    script::Machine machine(program, injector);
+int run(const std::string& file, const script::Program& program, const script::MachineServices& services) {
+    script::Machine machine(program, services);
+    machine.onLog([](const std::string& line) { std::cerr << line << "\n"; });
     machine.onWarning([&](const script::ScriptWarning& warning) { report(file, warning); });
     const script::RunResult result = machine.run();
     std::cout.flush();
@@ -75,7 +77,9 @@ int traceScript(const std::string& file) {
     const std::optional<script::Program> program = compiled(file);
     if (!program) return failed;
     script::TraceInjector injector(std::cout);
-    return run(file, *program, injector);
+    script::TraceDesktop desktop(std::cout);
+    script::TraceDialogs dialogs(std::cout);
+    return run(file, *program, {injector, desktop, dialogs});
 }
 
 int runScript(const std::string& file) {
@@ -84,7 +88,9 @@ int runScript(const std::string& file) {
     Result<std::unique_ptr<Playback>> playback = Playback::make();
     if (!playback) return report("", playback.error());
     playback.value()->injector().startPlayback();
-    const int status = run(file, *program, playback.value()->injector());
+    script::SilentDesktop desktop;
+    script::NoDialogs dialogs;
+    const int status = run(file, *program, {playback.value()->injector(), desktop, dialogs});
     const int signalNumber = playback.value()->signalNumber();
     playback.value().reset();
     // Whoever waits for this process is told how it ended.

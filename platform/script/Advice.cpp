@@ -2,7 +2,7 @@
 #include "platform/script/Advice.h"
 
 #include "platform/KeyCodes.h"
-#include "platform/script/Coercion.h"
+#include "platform/script/Spelling.h"
 
 namespace script {
 
@@ -19,7 +19,7 @@ std::string noKeyAdvice(std::uint32_t code) {
 }
 
 std::string modifierAdvice(const Modifier& modifier) {
-    const std::string name = textOf(Value{modifier});
+    const std::string name = constantText(modifier);
     return "“" + name + "” is taken as “" + name + " down”.";
 }
 

@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "platform/script/Coercion.h"
-#include "platform/script/ExpressionParser.h"
-#include "platform/script/Node.h"
+#include "platform/script/Dates.h"
 #include "platform/script/ScriptError.h"
+#include "platform/script/Spelling.h"
 
 namespace script {
 namespace {
@@ -24,18 +24,17 @@ Failure tooLarge() { return {errornumber::tooLarge, "The result of a numeric ope
 std::optional<Number> numeric(const Value& value) {
     const std::optional<double> number = numberOf(value);
     if (!number) return std::nullopt;
-    if (const auto* list = value.as<List>()) return numeric(list->front());
-    const auto* text = value.as<std::string>();
+    const List* list = value.list();
+    if (list != nullptr) return numeric(list->front());
+    const std::string* text = value.text();
     const bool wholeText = text != nullptr && text->find_first_of(".eE") == std::string::npos;
-    return Number{*number, wholeText || value.as<std::int64_t>() != nullptr};
+    return Number{*number, wholeText || value.is<std::int64_t>()};
 }
 
 /// A result; a whole one that is out of range is a real.
 Fallible<Value> result(double value, bool whole) {
     if (!std::isfinite(value)) return tooLarge();
-    if (whole && std::abs(value) <= static_cast<double>(maxInteger))
-        return Value{static_cast<std::int64_t>(value)};
-    return Value{value};
+    return numberValue(value, whole);
 }
 
 bool divides(BinaryOperator operation) {
@@ -64,26 +63,52 @@ Fallible<Value> calculate(BinaryOperator operation, Number left, Number right) {
     }
 }
 
-Fallible<Value> joinedText(std::string text, const std::string& addition) {
-    if (text.size() + addition.size() > maxTextSize) return tooLarge();
-    return Value{std::move(text += addition)};
+Fallible<Value> joinedText(const std::string& text, const std::string& addition) {
+    if (text.size() + addition.size() > maxTextSize) return outOfMemory();
+    std::string both;
+    both.reserve(text.size() + addition.size());
+    both += text;
+    both += addition;
+    return Value{std::move(both)};
 }
 
-Fallible<Value> joined(Value left, const Value& right) {
-    if (left.as<std::string>() != nullptr) {
-        return joinedText(std::get<std::string>(std::move(left.content)), textOf(right));
+/// What both have is taken from the left one.
+Value joinedRecord(const RecordBody& left, RecordBody& right) {
+    const auto both = makeShared<RecordBody>(left.fields);
+    for (const Field& field : right.fields) {
+        if (both->find(*field.name) == nullptr) both->fields.push_back(field);
     }
-    List items = itemsOf(std::move(left));
-    const List additions = itemsOf(right);
-    if (items.size() + additions.size() > maxListItems) return tooLarge();
-    items.insert(items.end(), additions.begin(), additions.end());
-    return Value{std::move(items)};
+    return Value{both};
+}
+
+/// A date and seconds, or the seconds between two dates; empty where no date is calculated with.
+std::optional<Fallible<Value>> calculatedDate(BinaryOperator operation, const Value& left,
+                                              const Value& right) {
+    const DateBody* date = left.date();
+    const bool adds = operation == BinaryOperator::plus;
+    if (date == nullptr || (!adds && operation != BinaryOperator::minus)) return std::nullopt;
+    if (!adds && right.date() != nullptr) {
+        return numberValue(static_cast<double>(date->seconds - right.date()->seconds), true);
+    }
+    const std::optional<double> seconds = numberOf(right);
+    if (!seconds) return cannotMake(right, "number");
+    constexpr double longest = 1e12;
+    if (std::abs(*seconds) > longest) return tooLarge();
+    const std::int64_t moment = date->seconds + std::llround(adds ? *seconds : -*seconds);
+    if (!isMoment(moment)) return tooLarge();
+    return Value{makeShared<DateBody>(moment)};
 }
 
 }  // namespace
 
-Fallible<Value> evaluate(BinaryOperator operation, Value left, const Value& right) {
-    if (operation == BinaryOperator::join) return joined(std::move(left), right);
+Fallible<Value> calculated(BinaryOperator operation, const Value& left, const Value& right) {
+    const auto* one = left.as<std::int64_t>();
+    const auto* other = right.as<std::int64_t>();
+    // What nearly all calculations are.
+    if (one != nullptr && other != nullptr && operation == BinaryOperator::plus) {
+        return numberValue(static_cast<double>(*one + *other), true);
+    }
+    if (auto date = calculatedDate(operation, left, right)) return *std::move(date);
     const std::optional<Number> leftNumber = numeric(left);
     if (!leftNumber) return cannotMake(left, "number");
     const std::optional<Number> rightNumber = numeric(right);
@@ -92,6 +117,21 @@ Fallible<Value> evaluate(BinaryOperator operation, Value left, const Value& righ
         return Failure{errornumber::divisionByZero, "Can’t divide " + spelled(left) + " by zero."};
     }
     return calculate(operation, *leftNumber, *rightNumber);
+}
+
+Fallible<Value> joined(const Value& left, const Value& right, std::string_view delimiter) {
+    if (const std::string* text = left.text()) {
+        const Fallible<std::string> addition = textOf(right, delimiter);
+        if (const auto* failure = std::get_if<Failure>(&addition)) return *failure;
+        return joinedText(*text, std::get<std::string>(addition));
+    }
+    if (left.record() != nullptr && right.record() != nullptr)
+        return joinedRecord(*left.record(), *right.record());
+    List items = itemsOf(left);
+    const List additions = itemsOf(right);
+    if (items.size() + additions.size() > maxListItems) return outOfMemory();
+    items.insert(items.end(), additions.begin(), additions.end());
+    return Value{std::move(items)};
 }
 
 Fallible<Value> negated(const Value& value) {

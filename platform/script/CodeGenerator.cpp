@@ -2,189 +2,193 @@
 #include "platform/script/CodeGenerator.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
-
-#include "platform/script/Advice.h"
 
 namespace script {
 
 Program CodeGenerator::generate() {
-    m_program.instructions.reserve(m_tree.nodes.size());
-    m_program.reals = m_tree.reals;
-    m_program.texts.assign(m_tree.texts.begin(), m_tree.texts.end());
-    statements(m_tree.at(0).firstChild);
-    return std::move(m_program);
-}
-
-void CodeGenerator::emit(Operation operation, const Node& node, std::uint32_t operand, std::uint8_t detail) {
-    m_program.instructions.push_back({operation, detail, operand, node.offset});
-}
-
-void CodeGenerator::statements(NodeId first) {
-    for (NodeId id = first; id != noNode; id = m_tree.at(id).nextSibling) statement(id);
-}
-
-void CodeGenerator::statement(NodeId id) {
-    const Node& node = m_tree.at(id);
-    switch (node.kind) {
-        case NodeKind::tell:
-            return tell(node);
-        case NodeKind::keyCode:
-            return command(Operation::keyCode, node);
-        case NodeKind::keystroke:
-            return command(Operation::keystroke, node);
-        case NodeKind::keyDown:
-            return command(Operation::keyDown, node);
-        case NodeKind::keyUp:
-            return command(Operation::keyUp, node);
-        case NodeKind::delay:
-            return delay(node);
-        case NodeKind::repeat:
-        case NodeKind::repeatTimes:
-            return repeat(node);
-        case NodeKind::exitRepeat:
-            m_exits.push_back(position());
-            return emit(Operation::jump, node);
-        default:
-            expression(node.firstChild);
-            return emit(Operation::drop, node);
+    Program& program = m_out.program();
+    program.instructions.reserve(m_tree.nodes.size());
+    program.reals = m_tree.reals;
+    program.texts.reserve(m_tree.texts.size());
+    for (const std::string_view text : m_tree.texts) program.texts.emplace_back(std::string(text));
+    collect();
+    runPart();
+    for (NodeId id = m_tree.at(0).firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
+        const Node& node = m_tree.at(id);
+        if (node.kind == NodeKind::handler && !isRun(node)) handler(node);
     }
+    program.globals = m_out.script().names();
+    return std::move(program);
 }
 
-void CodeGenerator::tell(const Node& node) {
-    const Node& target = m_tree.at(node.firstChild);
-    if (target.kind == NodeKind::process) {
-        expression(target.firstChild);
-        emit(Operation::drop, target);
-    } else if (target.detail == 0) {
-        emit(Operation::reachApplication, target, target.value);
-    }
-    statements(target.nextSibling);
-}
+bool CodeGenerator::isRun(const Node& node) const { return &m_tree.names.at(node.value) == &names::run; }
 
-void CodeGenerator::command(Operation operation, const Node& node) {
-    const NodeId modifiers = m_tree.at(node.firstChild).nextSibling;
-    if (modifiers != noNode) expression(modifiers);
-    const std::size_t firstText = position();
-    expression(node.firstChild);
-    if (operation != Operation::keyCode) {
-        for (std::size_t i = firstText; i < position(); ++i) {
-            const Instruction& instruction = m_program.instructions[i];
-            if (instruction.operation != Operation::pushText) continue;
-            m_program.typedTexts.push_back(m_program.texts[instruction.operand]);
+/// Properties, handlers and what is global are known wherever they stand.
+void CodeGenerator::collect() {
+    for (NodeId id = m_tree.at(0).firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
+        const Node& node = m_tree.at(id);
+        if (node.kind == NodeKind::property) {
+            collectProperty(node);
+        } else if (node.kind == NodeKind::handler) {
+            collectHandler(node);
+        } else {
+            if (node.kind != NodeKind::declareGlobal && node.kind != NodeKind::declareLocal &&
+                m_loose == nullptr) {
+                m_loose = &node;
+            }
+            checkRun();
         }
+        collectGlobals(id, false);
     }
-    if (operation != Operation::keystroke) warnOfCodes(node.firstChild);
-    if (modifiers != noNode) warnOfModifiers(modifiers);
-    emit(operation, node, 0, modifiers == noNode ? 0 : 1);
 }
 
-void CodeGenerator::delay(const Node& node) {
-    if (node.firstChild == noNode) {
-        emit(Operation::pushInteger, node);
+void CodeGenerator::collectProperty(const Node& node) {
+    if (!m_properties.emplace(node.value, node.offset).second) {
+        m_out.fail(errornumber::propertyTwice,
+                   "The " + m_tree.names.at(node.value).spelling + " property is specified more than once.",
+                   node.offset);
+    }
+    m_out.script().makeVisible(node.value);
+    m_out.script().slotOf(node.value);
+}
+
+/// Of one statement and what is in it, handlers aside.
+void CodeGenerator::collectGlobals(NodeId first, bool insideHandler) {
+    const Node& node = m_tree.at(first);
+    if (node.kind == NodeKind::declareGlobal) {
+        for (NodeId id = node.firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
+            const NameId name = m_tree.at(id).value;
+            if (insideHandler) {
+                m_sharedWithRun.push_back(name);
+            } else {
+                m_out.script().makeVisible(name);
+            }
+        }
+        return;
+    }
+    const bool holdsStatements = node.kind == NodeKind::handler || node.kind == NodeKind::block ||
+                                 node.kind == NodeKind::tell || node.kind == NodeKind::ifThen ||
+                                 node.kind == NodeKind::tryBlock || node.kind == NodeKind::onError ||
+                                 node.kind == NodeKind::considering || node.kind == NodeKind::timeout ||
+                                 (node.kind >= NodeKind::repeat && node.kind <= NodeKind::repeatIn);
+    if (!holdsStatements) return;
+    const bool inside = insideHandler || (node.kind == NodeKind::handler && !isRun(node));
+    for (NodeId id = node.firstChild; id != noNode; id = m_tree.at(id).nextSibling)
+        collectGlobals(id, inside);
+}
+
+void CodeGenerator::collectHandler(const Node& node) {
+    if (isRun(node)) {
+        if (m_run != nullptr) m_loose = &node;
+        m_run = m_run == nullptr ? &node : m_run;
+        return checkRun();
+    }
+    if (m_handlers.emplace(node.value, node.offset).second) return;
+    m_out.fail(errornumber::handlerTwice,
+               "The " + m_tree.names.at(node.value).spelling + " handler is specified more than once.",
+               node.offset);
+}
+
+/// The run handler and statements outside of handlers exclude each other.
+void CodeGenerator::checkRun() {
+    if (m_run == nullptr || m_loose == nullptr) return;
+    m_out.fail(errornumber::handlerTwice, "The run handler is specified more than once.",
+               std::max(m_run->offset, m_loose->offset));
+}
+
+void CodeGenerator::runPart() {
+    Scope scope(m_out.script());
+    m_out.setScope(scope);
+    for (const NameId name : m_sharedWithRun) scope.declareGlobal(name);
+    const Node& root = m_tree.at(0);
+    m_out.emit(Operation::enter, root);
+    for (NodeId id = root.firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
+        const Node& node = m_tree.at(id);
+        if (node.kind != NodeKind::property) continue;
+        m_statements.expressions().expression(node.firstChild);
+        m_out.emit(Operation::storeGlobal, node, m_out.script().slotOf(node.value));
+    }
+    if (m_run != nullptr) {
+        NodeId body = m_run->firstChild;
+        if (m_tree.at(body).kind == NodeKind::parameter) {
+            m_out.emit(Operation::pushList, *m_run);
+            m_statements.expressions().assign(m_tree.at(body).firstChild, *m_run);
+            body = m_tree.at(body).nextSibling;
+        }
+        m_statements.statements(m_tree.at(body).firstChild);
     } else {
-        expression(node.firstChild);
-    }
-    emit(Operation::delay, node);
-}
-
-/// The counter lies on the stack while the loop runs; whichever way the loop ends, it is dropped there.
-void CodeGenerator::repeat(const Node& node) {
-    const bool counted = node.kind == NodeKind::repeatTimes;
-    NodeId body = node.firstChild;
-    if (counted) {
-        expression(node.firstChild);
-        emit(Operation::makeCount, m_tree.at(node.firstChild));
-        body = m_tree.at(node.firstChild).nextSibling;
-    }
-    std::vector<std::uint32_t> outerExits = std::exchange(m_exits, {});
-    const std::uint32_t start = position();
-    if (counted) {
-        m_exits.push_back(start);
-        emit(Operation::countDown, node);
-    }
-    statements(body);
-    emit(Operation::jumpBack, node, start);
-    for (const std::uint32_t exit : m_exits) m_program.instructions[exit].operand = position();
-    m_exits = std::move(outerExits);
-    if (counted) emit(Operation::drop, node);
-}
-
-void CodeGenerator::expression(NodeId id) {
-    const Node& node = m_tree.at(id);
-    switch (node.kind) {
-        case NodeKind::integer:
-            return emit(Operation::pushInteger, node, node.value);
-        case NodeKind::real:
-            return emit(Operation::pushReal, node, node.value);
-        case NodeKind::text:
-            return emit(Operation::pushText, node, node.value);
-        case NodeKind::modifierDown:
-            return emit(Operation::pushModifier, node, node.value, 1);
-        case NodeKind::modifierKey:
-            return emit(Operation::pushModifier, node, node.value, 0);
-        case NodeKind::name:
-            return emit(Operation::pushVariable, node, node.value);
-        case NodeKind::list:
-            return list(node);
-        case NodeKind::negation:
-            expression(node.firstChild);
-            return emit(Operation::negate, node);
-        default:
-            return binary(id);
-    }
-}
-
-void CodeGenerator::list(const Node& node) {
-    std::uint32_t count = 0;
-    for (NodeId item = node.firstChild; item != noNode; item = m_tree.at(item).nextSibling) {
-        expression(item);
-        ++count;
-    }
-    emit(Operation::pushList, node, count);
-}
-
-/// A chain of operators leans to the left, however long it is: it is walked down and back, not descended by
-/// recursion.
-void CodeGenerator::binary(NodeId id) {
-    std::vector<NodeId> chain;
-    NodeId leftmost = id;
-    while (m_tree.at(leftmost).kind == NodeKind::binary) {
-        chain.push_back(leftmost);
-        leftmost = m_tree.at(leftmost).firstChild;
-    }
-    expression(leftmost);
-    std::for_each(chain.rbegin(), chain.rend(), [&](NodeId link) {
-        const Node& node = m_tree.at(link);
-        expression(m_tree.at(node.firstChild).nextSibling);
-        emit(Operation::binary, node, 0, node.detail);
-    });
-}
-
-void CodeGenerator::warnOfCodes(NodeId codes) {
-    const Node& node = m_tree.at(codes);
-    if (node.kind == NodeKind::integer) {
-        if (auto advice = codeAdvice(node.value); !advice.empty()) warn(node, std::move(advice));
-    } else if (node.kind == NodeKind::list) {
-        for (NodeId item = node.firstChild; item != noNode; item = m_tree.at(item).nextSibling)
-            warnOfCodes(item);
-    }
-}
-
-void CodeGenerator::warnOfModifiers(NodeId modifiers) {
-    const Node& node = m_tree.at(modifiers);
-    if (node.kind == NodeKind::modifierKey) {
-        warn(node, modifierAdvice({node.value, false}));
-    } else if (node.kind == NodeKind::list) {
-        for (NodeId item = node.firstChild; item != noNode; item = m_tree.at(item).nextSibling) {
-            warnOfModifiers(item);
+        for (NodeId id = root.firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
+            const NodeKind kind = m_tree.at(id).kind;
+            if (kind != NodeKind::property && kind != NodeKind::handler) m_statements.statement(id);
         }
     }
+    finish(Handler{}, scope, 0);
 }
 
-void CodeGenerator::warn(const Node& node, std::string message) {
-    if (m_program.warnings.size() >= maxWarnings) return;
-    m_program.warnings.push_back({std::move(message), m_locator.at(node.offset)});
+void CodeGenerator::handler(const Node& node) {
+    Scope scope(m_out.script());
+    m_out.setScope(scope);
+    Handler handler;
+    handler.name = node.value;
+    handler.isLabelled = node.detail != 0;
+    handler.start = m_out.position();
+    const std::uint32_t enter = m_out.position();
+    m_out.emit(Operation::enter, node);
+    parameters(node, handler, scope);
+    NodeId body = node.firstChild;
+    while (m_tree.at(body).kind == NodeKind::parameter) body = m_tree.at(body).nextSibling;
+    m_statements.statements(m_tree.at(body).firstChild);
+    finish(std::move(handler), scope, enter);
+}
+
+/// The slots of all parameters come first; those that are lists of names are then taken apart.
+void CodeGenerator::parameters(const Node& node, Handler& handler, Scope& scope) {
+    std::vector<NameId> seen;
+    std::vector<std::pair<std::uint32_t, const Node*>> patterns;
+    for (NodeId id = node.firstChild; m_tree.at(id).kind == NodeKind::parameter;
+         id = m_tree.at(id).nextSibling) {
+        const Node& pattern = m_tree.at(m_tree.at(id).firstChild);
+        parameterName(m_tree.at(id).firstChild, seen);
+        handler.labels.push_back(m_tree.at(id).value);
+        if (pattern.kind == NodeKind::name) {
+            handler.parameterNames.push_back(pattern.value);
+            scope.addParameter(pattern.value);
+        } else {
+            handler.parameterNames.push_back(0);
+            patterns.emplace_back(scope.addHidden(), &m_tree.at(id));
+        }
+    }
+    for (const NameId name : seen) scope.declareLocal(name);
+    for (const auto& [slot, parameter] : patterns) {
+        m_out.emit(Operation::loadLocal, *parameter, slot);
+        m_statements.expressions().assign(parameter->firstChild, *parameter);
+    }
+}
+
+void CodeGenerator::parameterName(NodeId pattern, std::vector<NameId>& seen) {
+    const Node& node = m_tree.at(pattern);
+    if (node.kind == NodeKind::list) {
+        for (NodeId id = node.firstChild; id != noNode; id = m_tree.at(id).nextSibling)
+            parameterName(id, seen);
+        return;
+    }
+    if (std::find(seen.begin(), seen.end(), node.value) != seen.end()) {
+        m_out.fail(errornumber::parameterTwice,
+                   "The " + m_tree.names.at(node.value).spelling + " parameter is specified more than once.",
+                   node.offset);
+    }
+    seen.push_back(node.value);
+}
+
+/// A handler that comes to its end gives the value of its last statement.
+void CodeGenerator::finish(Handler handler, const Scope& scope, std::uint32_t enter) {
+    const Node& root = m_tree.at(0);
+    m_out.emit(Operation::returnValue, root, 0, 1);
+    m_out.program().instructions[enter].operand = static_cast<std::uint32_t>(scope.variables().size());
+    handler.variables = scope.variables();
+    m_out.program().handlers.push_back(std::move(handler));
 }
 
 }  // namespace script

@@ -1,52 +1,49 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <string>
 #include <string_view>
-#include <vector>
+#include <unordered_map>
 
-#include "platform/script/Node.h"
-#include "platform/script/Program.h"
+#include "platform/script/Emitter.h"
+#include "platform/script/StatementGenerator.h"
 
 namespace script {
 
-/// Turns a tree without errors into instructions.
+/// Turns a tree without errors of syntax into a program.
 ///
-/// A statement leaves the stack as it found it, but for the counters of the loops around it.
+/// First come the properties' values and what runs, then the handlers, each behind the other.
 class CodeGenerator {
   public:
-    /// More are left out: nobody reads them.
-    static constexpr std::size_t maxWarnings = 1000;
+    CodeGenerator(const Tree& tree, std::string_view source)
+        : m_tree(tree), m_out(tree, source), m_statements(m_out) {}
 
-    CodeGenerator(const Tree& tree, std::string_view source) : m_tree(tree), m_locator(source) {}
-
-    /// Called once. The program's source is left empty.
+    /// Called once. The program's source and names are left empty.
     Program generate();
+    /// What is wrong with names that a parser does not know of.
+    const std::optional<ScriptError>& error() const { return m_out.error(); }
 
   private:
-    void statements(NodeId first);
-    void statement(NodeId id);
-    void tell(const Node& node);
-    void command(Operation operation, const Node& node);
-    void delay(const Node& node);
-    void repeat(const Node& node);
-    void expression(NodeId id);
-    void list(const Node& node);
-    void binary(NodeId id);
-    void emit(Operation operation, const Node& node, std::uint32_t operand = 0, std::uint8_t detail = 0);
-    std::uint32_t position() const { return static_cast<std::uint32_t>(m_program.instructions.size()); }
-
-    void warnOfCodes(NodeId codes);
-    void warnOfModifiers(NodeId modifiers);
-    void warn(const Node& node, std::string message);
+    void collect();
+    void collectProperty(const Node& node);
+    void collectGlobals(NodeId first, bool insideHandler);
+    void collectHandler(const Node& node);
+    void checkRun();
+    void runPart();
+    void handler(const Node& node);
+    void parameters(const Node& node, Handler& handler, Scope& scope);
+    void parameterName(NodeId pattern, std::vector<NameId>& seen);
+    void finish(Handler handler, const Scope& scope, std::uint32_t enter);
+    bool isRun(const Node& node) const;
 
     const Tree& m_tree;
-    Locator m_locator;
-    Program m_program;
-    /// Jumps out of the innermost loop, whose target is not known yet.
-    std::vector<std::uint32_t> m_exits;
+    Emitter m_out;
+    StatementGenerator m_statements;
+    std::unordered_map<NameId, std::uint32_t> m_properties;
+    std::unordered_map<NameId, std::uint32_t> m_handlers;
+    /// Declared global in handlers, and so in what runs.
+    std::vector<NameId> m_sharedWithRun;
+    const Node* m_run = nullptr;
+    const Node* m_loose = nullptr;
 };
 
 }  // namespace script

@@ -11,26 +11,39 @@
 /// Values as other types. Empty where the value cannot be one. A list of one item is whatever the item is.
 namespace script {
 
+/// The most bytes that a text that a script makes may have, and the most items of a list.
+inline constexpr std::size_t maxTextSize = 16U << 20U;
+inline constexpr std::size_t maxListItems = 100000;
+
+/// "Out of memory." (-108)
+Failure outOfMemory();
+
 /// Numbers, and texts that read as a number.
 std::optional<double> numberOf(const Value& value);
 
 /// Numbers likewise, rounded with halves away from zero; 32 bits at most.
 std::optional<std::int32_t> integerOf(const Value& value);
 
-/// Numbers, constants by their names, lists with their items side by side.
-std::string textOf(const Value& value);
+/// A number as a value: whole if it is meant to be whole and within maxInteger.
+Value numberValue(double number, bool whole);
 
-/// The items of a list; another value is its own only item.
-List itemsOf(Value value);
+/// What a condition may be: true, false, 1 and 0.
+std::optional<bool> conditionOf(const Value& value);
 
-/// A real as text: at least one decimal, up to 12 digits, with an exponent from 10000 up and from 0.0001 down
-/// (1.231654E+4).
-std::string realText(double value);
+/// Numbers, constants by their names, lists with their items one behind the other, the delimiter between.
+/// Fails with -1700 for records, references that lead nowhere and targets.
+Fallible<std::string> textOf(const Value& value, std::string_view delimiter = "");
 
-/// As a script would spell it, for messages: texts in quotes, lists in braces.
-std::string spelled(const Value& value);
+/// The items of a list, the values of a record; another value is its own only item.
+List itemsOf(const Value& value);
 
-/// "Can’t make VALUE into type TYPE." (-1700)
-Failure cannotMake(const Value& value, std::string_view type);
+/// What stands behind a reference; the value itself if it is none.
+Fallible<Value> resolved(Value value);
+
+/// `value as TYPE`. Fails with -1700.
+Fallible<Value> coerced(const Value& value, Type type, std::string_view delimiter);
+
+/// What `class of` gives.
+Type typeOf(const Value& value);
 
 }  // namespace script

@@ -26,9 +26,12 @@ std::optional<ScriptError> unreadable(const std::string& source) {
 std::variant<Program, ScriptError> compile(std::string source) {
     if (std::optional<ScriptError> error = unreadable(source)) return *std::move(error);
     Parser parser(source);
-    const Tree& tree = parser.parse();
+    Tree& tree = parser.parse();
     if (parser.error()) return *parser.error();
-    Program program = CodeGenerator(tree, source).generate();
+    CodeGenerator generator(tree, source);
+    Program program = generator.generate();
+    if (generator.error()) return *generator.error();
+    program.names = std::move(tree.names);
     program.source = std::move(source);
     return program;
 }

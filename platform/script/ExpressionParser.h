@@ -7,42 +7,64 @@
 
 namespace script {
 
-/// The most items that a list may have.
-inline constexpr std::uint32_t maxListItems = 100000;
+class TermParser;
 
 /// Reads expressions into a tree. After an error the node returned is any node.
 ///
-/// expression = unary { operator unary }, by the precedence table
-/// unary      = ( + | - ) unary | primary
-/// primary    = number | text | name | ( expression ) | list | constant
+/// expression = [not] unary { operator unary | as class }, by the precedence table
+/// unary      = ( + | - ) unary | reference
+/// reference  = primary { 's member }
+/// primary    = number | text | ( expression ) | list | record | term
 /// list       = { [expression {, expression}] }
-/// constant   = return | tab | space | linefeed | quote
-///            | ( command | control | option | shift ) [down], where the dictionary is in force
+/// record     = { name : expression {, name : expression} }
+///
+/// What begins with a word is a term, which TermParser reads.
 class ExpressionParser {
   public:
-    ExpressionParser(TokenStream& tokens, Tree& tree) : m_tokens(tokens), m_tree(tree) {}
+    ExpressionParser(TokenStream& tokens, Tree& tree, TermParser& terms)
+        : m_tokens(tokens), m_tree(tree), m_terms(terms) {}
 
     /// The longest expression that begins here.
     NodeId expression() { return operation(0); }
 
+    /// An expression in which `as` with one of the words that a command asks for behind it is left alone.
+    NodeId expressionBefore(bool commandHasAs);
+
+    /// What `of` stands before: an operand without operators.
+    NodeId reference();
+
+    /// What stands behind `item`: a number, a text, a name, or an expression in parentheses.
+    NodeId index();
+    bool isAtIndex() const;
+
     /// A text literal and nothing else.
     NodeId textLiteral();
+    NodeId number();
+    NodeId parenthesised();
 
   private:
+    NodeId operand();
     NodeId operation(int minimumLevel);
+    NodeId coercion(NodeId left);
+    NodeId className();
+    NodeId classNames();
     NodeId unary();
+    NodeId sign(std::uint32_t offset);
     NodeId primary();
-    NodeId wordPrimary();
-    NodeId number();
     NodeId real();
-    NodeId list();
-    NodeId parenthesised();
-    NodeId name();
-    NodeId textConstant();
-    NodeId modifierConstant();
+    NodeId listOrRecord();
+    bool isAtField() const;
+    void items(NodeId list);
+    void fields(NodeId record);
+    std::uint32_t fieldName();
 
     TokenStream& m_tokens;
     Tree& m_tree;
+    TermParser& m_terms;
+    /// The most properties that a record may have: each is compared with all others.
+    static constexpr std::size_t maxFields = 1000;
+
+    bool m_leavesAs = false;
 };
 
 }  // namespace script

@@ -166,9 +166,12 @@ bool Lexer::skipContinuation() {
     return skipLineEnd();
 }
 
+/// Also "isn't" and "doesn't", the only words with an apostrophe.
 Token Lexer::word() {
     std::size_t end = m_position + 1;
     while (end < m_source.size() && isWordCharacter(m_source[end])) ++end;
+    const Word whole = wordOf(m_source.substr(m_position, end - m_position + 2));
+    if (whole == Word::isnt || whole == Word::doesnt) end += 2;
     const std::size_t length = end - m_position;
     return take(TokenKind::identifier, length, wordOf(m_source.substr(m_position, length)));
 }

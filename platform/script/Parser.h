@@ -4,17 +4,22 @@
 #include <optional>
 #include <string_view>
 
-#include "platform/script/ExpressionParser.h"
 #include "platform/script/Node.h"
+#include "platform/script/StatementParser.h"
+#include "platform/script/TermParser.h"
 #include "platform/script/TokenStream.h"
 
 namespace script {
 
 /// Reads a script into a tree.
 ///
-/// script    = { [statement] NL }
-/// statement = tell | key code | keystroke | key down | key up | delay | repeat | exit | expression
-/// block     = NL { [statement] NL } end [word of the block]
+/// script    = { [statement | handler | property] NL }
+/// property  = ( property | prop ) name : expression
+/// handler   = ( on | to ) name parameters NL statements end [name]
+///           | on run [name | { name {, name} }] NL statements end [run]
+/// parameters= ( [pattern {, pattern}] )
+///           | [preposition pattern] ... [given label : pattern {, label : pattern}]
+/// pattern   = name | { pattern {, pattern} }
 ///
 /// The words of the keyboard commands and modifiers are known inside `tell application "System Events"` only;
 /// elsewhere they are names. A script nests at most Nesting::maxDepth levels, and maxTells of `tell`.
@@ -26,35 +31,27 @@ class Parser {
     explicit Parser(std::string_view source);
 
     /// Reads all; called once. After an error the tree is of no use.
-    const Tree& parse();
+    Tree& parse();
     const std::optional<ScriptError>& error() const { return m_tokens.error(); }
 
   private:
-    NodeId statement();
-    NodeId tell();
-    NodeId target();
-    NodeId application();
-    NodeId process();
-    void tellBody(ChildList& children);
-    NodeId keyCode();
-    NodeId keystroke();
-    NodeId holding(NodeKind kind);
-    void usingClause(ChildList& children);
-    NodeId delay();
-    NodeId repeat();
-    NodeId exitRepeat();
-    NodeId evaluate();
-    bool refuseForbidden();
-    void block(ChildList& children, Word word);
-    void statementsToEnd(ChildList& children);
-    void endOf(Word word);
-    void endStatement();
+    NodeId topLevel();
+    bool isAtProperty() const;
+    bool isAtHandler() const;
+    NodeId property();
+    NodeId handler();
+    bool handlerName(NodeId handler);
+    void runParameters(ChildList& children);
+    void positionalParameters(ChildList& children);
+    void labelledParameters(ChildList& children);
+    NodeId parameter(NameId label);
+    NodeId pattern();
+    void handlerEnd(std::string_view name);
 
     Tree m_tree;
     TokenStream m_tokens;
-    ExpressionParser m_expressions;
-    int m_tells = 0;
-    int m_loops = 0;
+    TermParser m_terms;
+    StatementParser m_statements;
 };
 
 }  // namespace script

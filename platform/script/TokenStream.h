@@ -22,6 +22,8 @@ class TokenStream {
 
     const Token& current() const { return m_current; }
     const Token& ahead() const { return m_ahead; }
+    /// The token so many behind the current one.
+    Token peek(int count) const;
     std::uint32_t offset() const { return offsetOf(m_current); }
     std::uint32_t offsetOf(const Token& token) const;
 
@@ -30,19 +32,30 @@ class TokenStream {
     bool isAt(Word word) const { return m_current.is(word) && means(word); }
     /// Whether the current two tokens are a term of two words.
     bool isAt(Word first, Word second) const { return isAt(first) && m_ahead.is(second) && means(second); }
+    /// Whether the tokens from the one so many behind the current one on are these words, in lower case and
+    /// with one blank between them.
+    bool isAtTerm(std::string_view words, int from = 0) const;
     bool isAtLineEnd() const { return isAt(TokenKind::endOfLine) || isAt(TokenKind::endOfScript); }
 
     void advance();
     bool accept(TokenKind kind);
     bool accept(Word word);
     bool accept(Word first, Word second);
+    bool acceptTerm(std::string_view words);
     /// `the` means nothing and may stand before any noun, also more than once.
     void skipFiller();
+
+    /// What an error says of the current token: "number", "“end tell”".
+    std::string describe() const { return describeCurrent(); }
+    /// Whether the word may stand behind `end`.
+    static bool namesBlock(Word word);
 
     /// Fails with "Expected WHAT but found ...".
     void expected(std::string_view what);
     void fail(int number, std::string message) { fail(number, std::move(message), offset()); }
     void fail(int number, std::string message, std::size_t offset);
+    /// Fails because what begins at the offset, which lies behind, cannot be set.
+    void refuseTarget(std::uint32_t offset);
     bool failed() const { return m_error.has_value(); }
     const std::optional<ScriptError>& error() const { return m_error; }
 
@@ -56,8 +69,9 @@ class TokenStream {
   private:
     friend class Nesting;
 
-    std::string describeCurrent() const;
-    std::string describeWord() const;
+    std::string describeCurrent() const { return describe(m_current, m_ahead); }
+    std::string describe(const Token& token, const Token& ahead) const;
+    std::string describeWord(const Token& token, const Token& ahead) const;
     void refuseFault();
 
     std::string_view m_source;

@@ -7,6 +7,7 @@
 #include <ostream>
 
 #include "platform/Modifiers.h"
+#include "platform/script/TraceServices.h"
 
 namespace script {
 namespace {
@@ -20,31 +21,6 @@ constexpr auto names = std::to_array<Name>({{modifier::command, "command"},
                                             {modifier::control, "control"},
                                             {modifier::option, "option"},
                                             {modifier::shift, "shift"}});
-
-std::string escaped(char c) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    const auto byte = static_cast<unsigned char>(c);
-    switch (c) {
-        case '"':
-        case '\\':
-            return {'\\', c};
-        case '\n':
-            return "\\n";
-        case '\r':
-            return "\\r";
-        case '\t':
-            return "\\t";
-        default:
-            if (byte >= 0x20) return {c};
-            return std::string("\\u00") + digits[byte >> 4U] + digits[byte & 0xFU];
-    }
-}
-
-std::string json(std::string_view text) {
-    std::string out = "\"";
-    for (const char c : text) out += escaped(c);
-    return out + "\"";
-}
 
 /// The fewest digits that read back as the same number; an exponent only where there would be many zeros.
 std::string json(double number) {
@@ -62,7 +38,7 @@ std::string modifierNames(std::uint32_t modifiers) {
     std::string out = "[";
     for (const Name& row : names) {
         if ((modifiers & row.modifier) == 0) continue;
-        out += (out.size() > 1 ? "," : "") + json(row.name);
+        out += (out.size() > 1 ? "," : "") + jsonText(row.name);
     }
     return out + "]";
 }
@@ -73,7 +49,7 @@ struct HeldJson {
         return list.substr(1, list.size() - 2);
     }
     std::string operator()(const HeldCode& held) const { return std::to_string(held.keyCode); }
-    std::string operator()(const HeldText& held) const { return json(held.text); }
+    std::string operator()(const HeldText& held) const { return jsonText(held.text); }
 };
 
 class TraceSession : public InjectionSession {
@@ -84,7 +60,7 @@ class TraceSession : public InjectionSession {
         return print("key", std::to_string(keyCode) + "," + modifierNames(modifiers));
     }
     Result<RunState> text(std::string_view text, std::uint32_t modifiers) override {
-        return print("text", json(text) + "," + modifierNames(modifiers));
+        return print("text", jsonText(text) + "," + modifierNames(modifiers));
     }
     Result<RunState> keyDown(const HeldKey& key) override {
         return print("keydown", std::visit(HeldJson(), key) + ",[]");

@@ -104,6 +104,6 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"the largest whole number", "delay 536870911", "(delay 536870911)"},
                     Row{"beyond it numbers are reals", "delay 536870912", "(delay real 5.36871e+08)"},
                     Row{"a whole exponent form is real", "delay 1e2", "(delay real 100)"},
-                    Row{"names", "keystroke foo & |b c|", "(keystroke (& name foo name |b c|))"}));
+                    Row{"names", "keystroke foo & |b c|", "(keystroke (& name foo name b c))"}));
 
 }  // namespace

@@ -22,7 +22,9 @@ class ScriptRunnerTest : public testing::Test {
     script::RunResult resultOf(const std::string& lines) {
         const auto compiled =
             script::compile("tell application \"System Events\"\n" + lines + "\nend tell\n");
-        return script::Machine(std::get<script::Program>(compiled), m_injector).run();
+        script::SilentDesktop desktop;
+        script::NoDialogs dialogs;
+        return script::Machine(std::get<script::Program>(compiled), {m_injector, desktop, dialogs}).run();
     }
 
     RecordingInjector m_injector;

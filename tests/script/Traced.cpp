@@ -7,6 +7,7 @@
 #include "platform/script/Compiler.h"
 #include "platform/script/Machine.h"
 #include "platform/script/TraceInjector.h"
+#include "platform/script/TraceServices.h"
 
 namespace {
 
@@ -29,10 +30,13 @@ Traced traced(const std::string& source) {
     for (const auto& warning : program.warnings) result.warnings.push_back(printed(warning));
     std::ostringstream events;
     script::TraceInjector injector(events);
-    script::Machine machine(program, injector);
+    script::TraceDesktop desktop(events);
+    script::TraceDialogs dialogs(events);
+    script::Machine machine(program, {injector, desktop, dialogs});
     machine.onWarning([&](const auto& warning) { result.warnings.push_back(printed(warning)); });
     const script::RunResult run = machine.run();
     result.events = events.str();
+    result.value = run.value;
     if (run.error) {
         result.phase = Traced::Phase::run;
         result.error = *run.error;

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/script/Node.h"
+#include "platform/script/TokenStream.h"
+
+namespace script {
+
+class TermParser;
+
+/// Reads calls of handlers.
+///
+/// call = name ( [expression {, expression}] )
+///      | name [preposition expression] ... [given label : expression {, label : expression}]
+///
+/// The second form is read behind names of handlers only that are written so.
+class CallParser {
+  public:
+    CallParser(TokenStream& tokens, Tree& tree, TermParser& terms, std::string_view source)
+        : m_tokens(tokens), m_tree(tree), m_terms(terms), m_source(source) {}
+
+    NodeId positional();
+    NodeId labelled();
+    /// Whether the script has a handler of the name that is not called with parentheses.
+    bool isLabelledHandler(std::string_view name);
+
+    /// Labels that handlers may have without `given`.
+    static bool isLabelWord(Word word);
+    /// The label here, moving behind it: a preposition of one or two words.
+    NameId labelHere();
+
+  private:
+    void labelledArguments(NodeId call);
+    NodeId argument(NameId label);
+    void findLabelled();
+
+    TokenStream& m_tokens;
+    Tree& m_tree;
+    TermParser& m_terms;
+    std::string_view m_source;
+    /// The handlers that are called with labels; read from the source when the first may be met.
+    std::optional<std::vector<std::string>> m_labelled;
+};
+
+}  // namespace script

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// What is known of characters, by tables of this program: no locale changes it.
+namespace script {
+
+/// Lower case for Latin, Greek, Cyrillic and Armenian letters.
+char32_t lowered(char32_t character);
+
+/// Without its accents, for Latin and Greek letters and the Cyrillic ones that have some; 0 for an accent
+/// that is a character of its own.
+char32_t withoutAccents(char32_t character);
+
+bool isHyphen(char32_t character);
+bool isPunctuation(char32_t character);
+bool isWhiteSpace(char32_t character);
+/// Letters, digits and all else that stands within words.
+bool isWordCharacter(char32_t character);
+
+}  // namespace script

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/CommandParser.h"
+
+#include <algorithm>
+#include <string>
+
+#include "platform/script/Scoped.h"
+#include "platform/script/TermParser.h"
+#include "platform/script/Terms.h"
+
+namespace script {
+namespace {
+
+std::size_t wordCount(std::string_view words) {
+    return static_cast<std::size_t>(std::count(words.begin(), words.end(), ' ')) + 1;
+}
+
+/// “a”, “b” or “c”
+std::string alternatives(const std::vector<std::string_view>& words) {
+    std::string out;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (i > 0) out += i + 1 == words.size() ? " or " : ", ";
+        out += "“" + std::string(words[i]) + "”";
+    }
+    return out;
+}
+
+}  // namespace
+
+bool CommandParser::isAtCommand() const {
+    const std::optional<std::uint32_t> index = commandHere(m_tokens);
+    if (!index) return false;
+    const Command& command = *commands()[*index];
+    const auto words = static_cast<int>(wordCount(command.name));
+    if (words > 1) return true;
+    const Token& next = m_tokens.ahead();
+    if (next.is(TokenKind::colon) || next.is(TokenKind::equal) || next.is(TokenKind::possessive))
+        return false;
+    if (command.isTerm || command.direct != Command::Direct::required) return true;
+    switch (next.kind) {
+        case TokenKind::identifier:
+            return next.is(Word::none) || next.is(Word::notWord) || next.is(Word::my) ||
+                   (command.takesOf && next.is(Word::of)) || next.is(Word::the) || next.is(Word::every) ||
+                   kindOf(next.word) != WordKind::reserved || next.is(Word::it) || next.is(Word::me) ||
+                   next.is(Word::returnWord) || next.is(Word::trueWord) || next.is(Word::falseWord);
+        case TokenKind::number:
+        case TokenKind::text:
+        case TokenKind::leftParenthesis:
+        case TokenKind::leftBrace:
+        case TokenKind::minus:
+            return !(command.takesOf && next.is(TokenKind::minus));
+        default:
+            return false;
+    }
+}
+
+NodeId CommandParser::command() {
+    const std::uint32_t index = *commandHere(m_tokens);
+    const Command& command = *commands()[index];
+    const NodeId node = m_tree.add(NodeKind::command, m_tokens.offset(), index);
+    for (std::size_t i = wordCount(command.name); i > 0; --i) m_tokens.advance();
+    ChildList children(m_tree, node);
+    if (command.takesOf) m_tokens.accept(Word::of);
+    if (const NodeId value = direct(command); value != noNode) {
+        m_tree.nodes[node].detail = 1;
+        children.append(value);
+    }
+    parameters(command, children);
+    return node;
+}
+
+/// `noNode` where none stands.
+NodeId CommandParser::direct(const Command& command) {
+    if (command.direct == Command::Direct::none) return noNode;
+    if (command.direct == Command::Direct::optional) {
+        const TokenKind kind = m_tokens.current().kind;
+        const bool ends = m_tokens.isAtLineEnd() || kind == TokenKind::rightParenthesis ||
+                          kind == TokenKind::rightBrace || kind == TokenKind::comma ||
+                          parameterHere(command) ||
+                          (kind != TokenKind::minus && binaryOperator(m_tokens) != nullptr);
+        if (ends || m_tokens.isAt(Word::as)) return noNode;
+    }
+    const bool allowsIn = m_terms.allowsIn() && !hasParameter(command, "in");
+    const bool before = m_terms.allowsIn();
+    m_terms.setAllowsIn(allowsIn);
+    const NodeId value = m_terms.expressions().expressionBefore(hasParameter(command, "as"));
+    m_terms.setAllowsIn(before);
+    return value;
+}
+
+bool CommandParser::hasParameter(const Command& command, std::string_view label) const {
+    return std::any_of(command.parameters.begin(), command.parameters.end(),
+                       [&](const Parameter& parameter) { return parameter.label == label; });
+}
+
+std::optional<std::uint32_t> CommandParser::parameterHere(const Command& command) const {
+    for (std::uint32_t i = 0; i < command.parameters.size(); ++i) {
+        if (m_tokens.isAtTerm(command.parameters[i].label)) return i;
+    }
+    return std::nullopt;
+}
+
+void CommandParser::parameters(const Command& command, ChildList& children) {
+    std::uint32_t given = 0;
+    m_tokens.skipFiller();
+    while (const std::optional<std::uint32_t> index = parameterHere(command)) {
+        const Parameter& parameter = command.parameters[*index];
+        if ((given & (1U << *index)) != 0) {
+            m_tokens.fail(errornumber::parameterTwice,
+                          "The " + std::string(parameter.label) + " parameter is specified more than once.");
+        }
+        given |= 1U << *index;
+        const NodeId argument = m_tree.add(NodeKind::argument, m_tokens.offset(), *index);
+        for (std::size_t i = wordCount(parameter.label); i > 0; --i) m_tokens.advance();
+        ChildList(m_tree, argument).append(parameterValue(parameter, command));
+        children.append(argument);
+        m_tokens.skipFiller();
+    }
+    isIncompleteLabel(command);
+}
+
+/// `default 5`: the first word of labels without the second one.
+bool CommandParser::isIncompleteLabel(const Command& command) {
+    if (!m_tokens.current().is(Word::none) || !m_tokens.isAt(TokenKind::identifier)) return false;
+    std::vector<std::string_view> seconds;
+    for (const Parameter& parameter : command.parameters) {
+        const std::size_t blank = parameter.label.find(' ');
+        if (blank == std::string_view::npos || !m_tokens.isAtTerm(parameter.label.substr(0, blank))) continue;
+        seconds.push_back(parameter.label.substr(blank + 1));
+    }
+    if (seconds.empty()) return false;
+    m_tokens.advance();
+    m_tokens.expected(alternatives(seconds));
+    return true;
+}
+
+NodeId CommandParser::parameterValue(const Parameter& parameter, const Command& command) {
+    m_tokens.skipFiller();
+    if (parameter.takesClass) return className();
+    if (!parameter.choices.empty()) {
+        if (const NodeId node = chosen(parameter); node != noNode || m_tokens.failed()) return node;
+    }
+    return m_terms.expressions().expressionBefore(hasParameter(command, "as"));
+}
+
+/// One of the words as text; `noNode` where none of them stands and a value may.
+NodeId CommandParser::chosen(const Parameter& parameter) {
+    const std::uint32_t offset = m_tokens.offset();
+    for (const std::string_view words : parameter.choices) {
+        if (m_tokens.acceptTerm(words)) return m_tree.add(NodeKind::text, offset, m_tree.addText(words));
+    }
+    if (!parameter.takesValue) m_tokens.expected(alternatives(parameter.choices));
+    return noNode;
+}
+
+NodeId CommandParser::className() {
+    const NodeId node = m_tree.add(NodeKind::known, m_tokens.offset());
+    if (m_tokens.isAtTerm("unicode text")) m_tokens.advance();
+    const auto term = m_tokens.isAt(TokenKind::identifier) ? findTerm(m_tokens.current().text) : std::nullopt;
+    if (!term || knownTerm(*term).kind != KnownTerm::Kind::type) {
+        m_tokens.expected("class name");
+        return node;
+    }
+    m_tree.nodes[node].detail = *term;
+    m_tree.nodes[node].value = m_terms.nameHere();
+    return node;
+}
+
+}  // namespace script

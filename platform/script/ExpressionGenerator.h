@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/script/Emitter.h"
+
+namespace script {
+
+struct Command;
+
+/// Emits code for expressions, which leaves the value on the stack, and for setting, which takes it off.
+class ExpressionGenerator {
+  public:
+    explicit ExpressionGenerator(Emitter& out) : m_out(out), m_tree(out.tree()) {}
+
+    /// Leaves a value; fails when it runs where there is none.
+    void expression(NodeId id);
+    /// Leaves a value or nothing: for a statement that is an expression.
+    void statementValue(NodeId id);
+    /// Takes the value and puts it into what the node names. Errors name the place of the statement.
+    void assign(NodeId target, const Node& statement);
+    void assignName(NameId name, const Node& node);
+    void load(NameId name, const Node& node);
+
+  private:
+    bool leaf(const Node& node);
+    bool target(const Node& node);
+    void items(const Node& node, Operation operation);
+    void record(const Node& node);
+    void binary(NodeId id);
+    void shortCircuit(const Node& node);
+    void coercion(const Node& node);
+    void known(const Node& node);
+    void element(const Node& node, Operation operation);
+    void container(NodeId id, const Node& node);
+    void textBetween(const Node& node);
+    void property(const Node& node);
+    void referenceTo(const Node& node);
+    void call(const Node& node, bool hasTarget);
+    void command(const Node& node);
+    void planTexts(std::uint32_t from);
+    void warnOf(const Command& command, NodeId direct);
+    void warnOfCodes(NodeId codes);
+    void warnOfModifiers(NodeId modifiers);
+
+    void assignElement(const Node& node, const Node& statement);
+    void assignPattern(const Node& node, const Node& statement);
+
+    Emitter& m_out;
+    const Tree& m_tree;
+};
+
+}  // namespace script

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "platform/script/Value.h"
+
+namespace script {
+
+/// A word that means a value wherever no variable has its name: a class, a number, a month, a weekday.
+struct KnownTerm {
+    enum class Kind : std::uint8_t { type, integer, real, month, weekday };
+
+    std::string_view spelling;
+    Kind kind = Kind::type;
+    Type type = Type::anything;
+    int number = 0;
+};
+
+/// The index of the term with this spelling, in any case; empty if there is none.
+std::optional<std::uint8_t> findTerm(std::string_view spelling);
+const KnownTerm& knownTerm(std::uint8_t index);
+Value valueOf(const KnownTerm& term);
+
+/// A word that names elements: `item`, `words`.
+struct ElementTerm {
+    std::string_view spelling;
+    ElementKind kind = ElementKind::item;
+    bool isPlural = false;
+    Type type = Type::anything;  ///< of the kind `typed`
+};
+
+/// Null if the word names no elements.
+const ElementTerm* findElementTerm(std::string_view spelling);
+
+}  // namespace script

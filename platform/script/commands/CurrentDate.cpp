@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/commands/All.h"
+
+#include <ctime>
+
+#include "platform/script/Dates.h"
+
+namespace script {
+namespace {
+
+Fallible<Value> perform(CommandStage& /*stage*/, const Arguments& /*arguments*/) {
+    const std::time_t now = std::time(nullptr);
+    std::tm parts{};
+    localtime_r(&now, &parts);
+    return Value{makeShared<DateBody>(momentOf(
+        {parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min, parts.tm_sec}))};
+}
+
+}  // namespace
+
+const Command& currentDateCommand() {
+    static const Command command{.name = "current date",
+                                 .perform = perform,
+                                 .manual = R"(current date
+
+The date and time of now. A date has the properties `year`, `month`, `day`, `weekday`, `hours`, `minutes`, `seconds`,
+`time`, `date string` and `time string`; seconds can be added to it, and a date taken from it.)",
+                                 .examples = R"(class of (current date) => date
+(current date) > date "2020-01-01" => true)"};
+    return command;
+}
+
+}  // namespace script

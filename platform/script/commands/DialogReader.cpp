@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/commands/DialogReader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/script/Coercion.h"
+#include "platform/script/ScriptError.h"
+#include "platform/script/Spelling.h"
+#include "platform/script/commands/Playing.h"
+
+namespace script {
+
+void DialogReader::fail(Failure failure) {
+    if (!m_failure) m_failure = std::move(failure);
+}
+
+std::string DialogReader::text(const Value* given) {
+    if (given == nullptr) return "";
+    Fallible<std::string> text = textOf(*given);
+    if (auto* failure = std::get_if<Failure>(&text)) {
+        fail(std::move(*failure));
+        return "";
+    }
+    return std::get<std::string>(std::move(text));
+}
+
+bool DialogReader::truth(const Value* given) {
+    if (given == nullptr) return false;
+    const std::optional<bool> truth = conditionOf(*given);
+    if (!truth) fail(cannotMake(*given, "boolean"));
+    return truth.value_or(false);
+}
+
+double DialogReader::number(const Value* given) {
+    if (given == nullptr) return 0;
+    const std::optional<double> number = numberOf(*given);
+    if (!number) fail(cannotMake(*given, "number"));
+    return std::max(0.0, number.value_or(0));
+}
+
+void DialogReader::readButtons(unsigned parameter, std::vector<std::string> usual) {
+    const Value* given = m_arguments.parameter(parameter);
+    if (given == nullptr) {
+        m_dialog.buttons = std::move(usual);
+        return;
+    }
+    constexpr std::size_t most = 3;
+    for (const Value& item : itemsOf(*given)) m_dialog.buttons.push_back(text(&item));
+    if (m_dialog.buttons.empty() || m_dialog.buttons.size() > most) {
+        fail(cannotMake(*given, "list of button names"));
+    }
+}
+
+void DialogReader::readButton(unsigned parameter, std::optional<std::size_t>& target) {
+    const Value* given = m_arguments.parameter(parameter);
+    if (given == nullptr || m_failure) return;
+    const auto& buttons = m_dialog.buttons;
+    const std::string* name = given->text();
+    std::size_t place = buttons.size();
+    if (name != nullptr) {
+        place = static_cast<std::size_t>(std::find(buttons.begin(), buttons.end(), *name) - buttons.begin());
+    } else if (const auto number = integerOf(*given); number && *number > 0) {
+        place = static_cast<std::size_t>(*number - 1);
+    }
+    if (place >= buttons.size()) return fail(cannotGet("button " + spelled(*given)));
+    target = place;
+}
+
+Fallible<Value> DialogReader::ask(CommandStage& stage,
+                                  Value (*answered)(const ScriptDialog& dialog, const ScriptAnswer& answer)) {
+    if (m_failure) return *std::move(m_failure);
+    const Result<ScriptAnswer> answer = stage.dialogs().ask(m_dialog);
+    if (auto wish = stage.stopWish()) return *std::move(wish);
+    if (!answer) return desktopFailure(answer.error());
+    if (answer.value().button && answer.value().button == m_dialog.cancelButton) {
+        return Failure{errornumber::userCancelled, "User canceled."};
+    }
+    return answered(m_dialog, answer.value());
+}
+
+}  // namespace script

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/commands/All.h"
+
+#include <utility>
+#include <variant>
+
+#include "platform/script/Coercion.h"
+#include "platform/script/commands/Playing.h"
+
+namespace script {
+namespace {
+
+Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
+    auto mask = modifierMask(stage, arguments.parameter(0));
+    if (auto* failure = std::get_if<Failure>(&mask)) return std::move(*failure);
+    // All codes are read before the first is pressed.
+    std::vector<std::uint32_t> codes;
+    for (const Value& item : itemsOf(*arguments.direct())) {
+        Fallible<Value> value = resolved(item);
+        if (failureOf(value) != nullptr) return value;
+        auto code = keyCodeOf(std::get<Value>(value));
+        if (auto* failure = std::get_if<Failure>(&code)) return std::move(*failure);
+        if (isPlayable(stage, std::get<std::uint32_t>(code))) codes.push_back(std::get<std::uint32_t>(code));
+    }
+    for (const std::uint32_t code : codes) {
+        auto failure = stage.play(
+            [&](InjectionSession& session) { return session.stroke(code, std::get<std::uint32_t>(mask)); });
+        if (failure) return *std::move(failure);
+    }
+    return Value();
+}
+
+}  // namespace
+
+const Command& keyCodeCommand() {
+    static const Command command{
+        .name = "key code",
+        .isTerm = true,
+        .direct = Command::Direct::required,
+        .plays = Command::Plays::codes,
+        .parameters = {{"using"}},
+        .perform = perform,
+        .manual = R"(key code CODE [using MODIFIERS]
+
+Presses the key with a number, or the keys of a list, one after another. The number names a place on the keyboard, whatever
+letter is printed there. MODIFIERS is `command down`, `control down`, `option down` or `shift down`, or a list of these;
+they are held while the key is pressed and come up afterwards. Known inside `tell application "System Events"` only.)",
+        .examples = R"(tell application "System Events" to key code 36 -> ["key",36,[]]
+tell application "System Events" to key code {0, 11} using {shift down, command down} -> ["key",0,["command","shift"]] ["key",11,["command","shift"]])"};
+    return command;
+}
+
+}  // namespace script

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/commands/All.h"
+
+#include <string>
+#include <utility>
+#include <variant>
+
+#include "platform/script/Coercion.h"
+#include "platform/script/commands/Playing.h"
+
+namespace script {
+namespace {
+
+Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
+    Fallible<std::string> text = textOf(*arguments.direct(), stage.rules().joint());
+    if (auto* failure = std::get_if<Failure>(&text)) return std::move(*failure);
+    auto mask = modifierMask(stage, arguments.parameter(0));
+    if (auto* failure = std::get_if<Failure>(&mask)) return std::move(*failure);
+    const std::string& typed = std::get<std::string>(text);
+    if (typed.empty()) return Value();
+    return outcomeOf(stage.play(
+        [&](InjectionSession& session) { return session.text(typed, std::get<std::uint32_t>(mask)); }));
+}
+
+}  // namespace
+
+const Command& keystrokeCommand() {
+    static const Command command{
+        .name = "keystroke",
+        .isTerm = true,
+        .direct = Command::Direct::required,
+        .plays = Command::Plays::texts,
+        .parameters = {{"using"}},
+        .perform = perform,
+        .manual = R"(keystroke TEXT [using MODIFIERS]
+
+Types a text, character by character, in whatever application is in front. `return` and `linefeed` press Return, `tab`
+presses Tab. What is no text is typed as one: a number, a list. MODIFIERS are held over every character. Known inside
+`tell application "System Events"` only.)",
+        .examples = R"(tell application "System Events" to keystroke "Hello" & return -> ["text","Hello\r",[]]
+tell application "System Events" to keystroke "s" using command down -> ["text","s",["command"]])"};
+    return command;
+}
+
+}  // namespace script

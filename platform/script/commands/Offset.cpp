@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/commands/All.h"
+
+#include <string>
+
+#include "platform/script/Coercion.h"
+#include "platform/script/ScriptError.h"
+#include "platform/script/TextRules.h"
+
+namespace script {
+namespace {
+
+Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
+    if (arguments.parameter(0) == nullptr) {
+        return Failure{errornumber::missingParameter, "Some parameter is missing for offset."};
+    }
+    const Fallible<std::string> part = textOf(*arguments.direct());
+    if (const auto* failure = std::get_if<Failure>(&part)) return *failure;
+    const Fallible<std::string> whole = textOf(*arguments.parameter(0));
+    if (const auto* failure = std::get_if<Failure>(&whole)) return *failure;
+    const std::string& text = std::get<std::string>(whole);
+    const auto found = findText(text, std::get<std::string>(part), 0, stage.rules());
+    if (!found || std::get<std::string>(part).empty()) return Value{std::int64_t{0}};
+    std::int64_t place = 1;
+    for (std::size_t position = 0; position < found->begin; ++place) takeCharacter(text, position);
+    return Value{place};
+}
+
+}  // namespace
+
+const Command& offsetCommand() {
+    static const Command command{.name = "offset of",
+                                 .direct = Command::Direct::required,
+                                 .parameters = {{"in"}},
+                                 .perform = perform,
+                                 .manual = R"(offset of PART in TEXT
+
+Where a text first stands in another one, counted in characters from 1; 0 if it does not.)",
+                                 .examples = R"(offset of "b" in "abc" => 2
+offset of "x" in "abc" => 0)"};
+    return command;
+}
+
+}  // namespace script

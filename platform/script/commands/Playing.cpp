@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/commands/Playing.h"
+
+#include <utility>
+
+#include "platform/KeyCodes.h"
+#include "platform/script/Advice.h"
+#include "platform/script/Coercion.h"
+#include "platform/script/ScriptError.h"
+#include "platform/script/Spelling.h"
+
+namespace script {
+namespace {
+
+constexpr std::int32_t maxKeyCode = 65535;
+/// The power key under its extension code.
+constexpr std::uint32_t evdevPower = 116;
+
+bool isPower(std::uint32_t code) {
+    const std::uint32_t base = code & ~keycode::choosers;
+    return base == keycode::power || base == keycode::evdevBase + evdevPower;
+}
+
+/// Empty for a key that does not exist and for empty text.
+std::variant<std::optional<HeldKey>, Failure> heldKey(CommandStage& stage, const Value& value) {
+    if (const auto* constant = value.as<Modifier>())
+        return std::optional<HeldKey>(HeldModifier{constant->modifier});
+    if (const std::string* text = value.text()) {
+        if (text->empty()) return std::optional<HeldKey>();
+        return std::optional<HeldKey>(HeldText{*text});
+    }
+    auto code = keyCodeOf(value);
+    if (auto* failure = std::get_if<Failure>(&code)) return std::move(*failure);
+    if (!isPlayable(stage, std::get<std::uint32_t>(code))) return std::optional<HeldKey>();
+    return std::optional<HeldKey>(HeldCode{std::get<std::uint32_t>(code)});
+}
+
+}  // namespace
+
+std::variant<std::uint32_t, Failure> modifierMask(CommandStage& stage, const Value* given) {
+    std::uint32_t mask = 0;
+    if (given == nullptr) return mask;
+    for (const Value& item : itemsOf(*given)) {
+        Fallible<Value> value = resolved(item);
+        if (auto* failure = std::get_if<Failure>(&value)) return std::move(*failure);
+        const auto* constant = std::get<Value>(value).as<Modifier>();
+        if (constant == nullptr) return cannotMake(std::get<Value>(value), "modifier");
+        if (!constant->down) stage.warn(modifierAdvice(*constant));
+        mask |= constant->modifier;
+    }
+    return mask;
+}
+
+std::variant<std::uint32_t, Failure> keyCodeOf(const Value& value) {
+    const std::optional<std::int32_t> code = integerOf(value);
+    if (!code) return cannotMake(value, "integer");
+    if (*code < 0 || *code > maxKeyCode) return cannotMake(value, "key code");
+    if (isPower(static_cast<std::uint32_t>(*code))) {
+        return Failure{errornumber::handlerFailed,
+                       "System Events got an error: the power key is never pressed by a script."};
+    }
+    return static_cast<std::uint32_t>(*code);
+}
+
+bool isPlayable(CommandStage& stage, std::uint32_t code) {
+    if (keycode::evdevFor(code)) return true;
+    stage.warn(noKeyAdvice(code));
+    return false;
+}
+
+Fallible<Value> hold(CommandStage& stage, const Value& keys, bool down) {
+    std::vector<HeldKey> held;
+    for (const Value& item : itemsOf(keys)) {
+        Fallible<Value> value = resolved(item);
+        if (auto* failure = std::get_if<Failure>(&value)) return std::move(*failure);
+        auto key = heldKey(stage, std::get<Value>(value));
+        if (auto* failure = std::get_if<Failure>(&key)) return std::move(*failure);
+        auto& found = std::get<std::optional<HeldKey>>(key);
+        if (found) held.push_back(*std::move(found));
+    }
+    for (const HeldKey& key : held) {
+        auto failure = stage.play(
+            [&](InjectionSession& session) { return down ? session.keyDown(key) : session.keyUp(key); });
+        if (failure) return *std::move(failure);
+    }
+    return Value();
+}
+
+Fallible<Value> outcomeOf(std::optional<Failure> failure) {
+    if (failure) return *std::move(failure);
+    return Value();
+}
+
+Failure desktopFailure(const Error& error) {
+    return {errornumber::handlerFailed, "System Events got an error: " + error.message, error.hint};
+}
+
+}  // namespace script

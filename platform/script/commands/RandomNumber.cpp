@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/commands/All.h"
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+#include <random>
+#include <utility>
+#include <variant>
+
+#include "platform/script/Coercion.h"
+#include "platform/script/Spelling.h"
+
+namespace script {
+namespace {
+
+/// A limit; 0 where it was left out.
+struct Limit {
+    double value = 0;
+    bool isWhole = true;
+};
+
+std::variant<Limit, Failure> limitOf(const Value* given) {
+    if (given == nullptr) return Limit();
+    const std::optional<double> number = numberOf(*given);
+    if (!number) return cannotMake(*given, "number");
+    return Limit{*number, !given->is<double>()};
+}
+
+/// Between the limits; of whole ones both are possible.
+Value chosen(std::mt19937_64& source, Limit from, Limit to) {
+    if (from.value > to.value) std::swap(from, to);
+    if (from.isWhole && to.isWhole) {
+        constexpr double most = 1e15;
+        const auto first = static_cast<std::int64_t>(std::max(from.value, -most));
+        const auto last = static_cast<std::int64_t>(std::min(to.value, most));
+        return numberValue(static_cast<double>(std::uniform_int_distribution(first, last)(source)), true);
+    }
+    const double part = std::generate_canonical<double, 53>(source);
+    return Value{from.value * (1 - part) + to.value * part};
+}
+
+Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
+    auto direct = limitOf(arguments.direct());
+    if (auto* failure = std::get_if<Failure>(&direct)) return std::move(*failure);
+    auto from = limitOf(arguments.parameter(0));
+    if (auto* failure = std::get_if<Failure>(&from)) return std::move(*failure);
+    auto to = limitOf(arguments.parameter(1));
+    if (auto* failure = std::get_if<Failure>(&to)) return std::move(*failure);
+    if (const Value* seed = arguments.parameter(2)) {
+        const std::optional<double> number = numberOf(*seed);
+        if (!number) return cannotMake(*seed, "number");
+        if (*number != 0) stage.random().seed(std::hash<double>()(*number));
+    }
+    const bool hasLimits = arguments.direct() != nullptr || arguments.parameter(0) != nullptr ||
+                           arguments.parameter(1) != nullptr;
+    if (!hasLimits) return chosen(stage.random(), Limit(), Limit{1, false});
+    const bool isDirect = arguments.parameter(1) == nullptr && arguments.direct() != nullptr;
+    return chosen(stage.random(), std::get<Limit>(from), std::get<Limit>(isDirect ? direct : to));
+}
+
+}  // namespace
+
+const Command& randomNumberCommand() {
+    static const Command command{
+        .name = "random number",
+        .direct = Command::Direct::optional,
+        .parameters = {{"from"}, {"to"}, {"with seed"}},
+        .perform = perform,
+        .manual = R"(random number [LIMIT] [from NUMBER] [to NUMBER] [with seed NUMBER]
+
+A number by chance: without limits a real from 0 to 1, with whole limits a whole number, both limits being possible. The same
+seed gives the same numbers again.)",
+        .examples = R"(random number from 5 to 5 => 5
+(random number 10 with seed 4) = (random number 10 with seed 4) => true)"};
+    return command;
+}
+
+}  // namespace script
