@@ -6,10 +6,12 @@
 
 #include "platform/UpdateService.h"
 #include "platform/linux/AutostartEntry.h"
+#include "platform/linux/BusLoop.h"
+#include "platform/linux/BusNotifications.h"
+#include "platform/linux/BusScreenLock.h"
 #include "platform/linux/KeyFileSettings.h"
 #include "platform/linux/LocalMacroFiles.h"
 #include "platform/linux/MachineFacts.h"
-#include "platform/linux/PendingServices.h"
 #include "platform/linux/XdgWorkspace.h"
 
 /// The services that are the same in every session, joined with the event loop. Can be made before the loop.
@@ -25,6 +27,7 @@ struct LinuxServices {
     MachineFacts systemFacts;
     std::unique_ptr<UpdateService> updateService;
     LocalMacroFiles macroFiles;
-    pending::Notifications notifications;
-    pending::ScreenLock screenLock;
+    BusLoop busLoop;
+    BusNotifications notifications;
+    BusScreenLock screenLock;
 };

@@ -5,6 +5,7 @@
 
 #include "app/program/X11Backends.h"
 #include "platform/Windows.h"
+#include "platform/linux/BusLoop.h"
 #include "platform/x11/X11DockingTray.h"
 #include "platform/x11/X11EventManager.h"
 #include "platform/x11/X11KeyInjector.h"
@@ -24,7 +25,8 @@ Program::Program(X11Backends& backends)
       m_controller(backends.services(), backends.windows(), m_statusItem, m_dialogs),
       m_signals(interruptRun, &backends.keyInjector()),
       m_eventsReadable(backends.eventManager().fileDescriptor(), QSocketNotifier::Read),
-      m_trayReadable(backends.dockingTray().fileDescriptor(), QSocketNotifier::Read) {
+      m_trayReadable(backends.dockingTray().fileDescriptor(), QSocketNotifier::Read),
+      m_busesReadable(backends.busLoop().fileDescriptor(), QSocketNotifier::Read) {
     QApplication::setApplicationName(QStringLiteral("keyrill"));
     QApplication::setDesktopFileName(QStringLiteral("example.orlen.Keyrill"));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -33,5 +35,7 @@ Program::Program(X11Backends& backends)
                      [&manager = backends.eventManager()] { manager.dispatch(); });
     QObject::connect(&m_trayReadable, &QSocketNotifier::activated,
                      [&tray = backends.dockingTray()] { tray.dispatch(); });
+    QObject::connect(&m_busesReadable, &QSocketNotifier::activated,
+                     [&buses = backends.busLoop()] { buses.dispatch(); });
     QTimer::singleShot(0, &m_controller, &AppController::awakeFromNib);
 }

@@ -27,4 +27,5 @@ class Program {
     TerminationSignals m_signals;
     QSocketNotifier m_eventsReadable;
     QSocketNotifier m_trayReadable;
+    QSocketNotifier m_busesReadable;
 };

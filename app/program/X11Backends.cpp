@@ -84,4 +84,5 @@ Services& X11Backends::services() { return m_parts->services; }
 Windows& X11Backends::windows() { return m_parts->windows; }
 X11EventManager& X11Backends::eventManager() { return *m_parts->eventManager; }
 X11DockingTray& X11Backends::dockingTray() { return m_parts->dockingTray; }
+BusLoop& X11Backends::busLoop() { return m_parts->neutral.busLoop; }
 X11KeyInjector& X11Backends::keyInjector() { return m_parts->keyInjector; }

@@ -5,6 +5,7 @@
 
 #include "platform/Result.h"
 
+class BusLoop;
 class Windows;
 class X11DockingTray;
 class X11EventManager;
@@ -30,6 +31,7 @@ class X11Backends {
     // What the event loop has to serve.
     X11EventManager& eventManager();
     X11DockingTray& dockingTray();
+    BusLoop& busLoop();
     /// To be interrupted by signals.
     X11KeyInjector& keyInjector();
 

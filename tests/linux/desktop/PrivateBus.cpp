@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "linux/desktop/PrivateBus.h"
+
+#include <sys/stat.h>
+
+#include <fstream>
+#include <stdexcept>
+
+namespace {
+
+void awaitLine(const std::string& log, Child& process) {
+    const auto hasLine = [&] { return contentOf(log).find('\n') != std::string::npos; };
+    eventually([&] { return hasLine() || !process.isRunning(); });
+    if (!hasLine()) throw std::runtime_error("nothing was started: " + contentOf(log));
+}
+
+}  // namespace
+
+PrivateBus::PrivateBus() {
+    std::ofstream(m_folder.file("config"))
+        << "<busconfig><type>session</type><listen>unix:dir=" << m_folder.path() << "</listen>"
+        << "<auth>EXTERNAL</auth><policy context=\"default\"><allow send_destination=\"*\" "
+           "eavesdrop=\"true\"/>"
+        << "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>";
+    const std::string log = m_folder.file("log");
+    m_daemon = std::make_unique<Child>(std::vector<std::string>{"dbus-daemon", "--nofork", "--print-address",
+                                                                "--config-file=" + m_folder.file("config")},
+                                       Child::Options{.outputFile = log});
+    awaitLine(log, *m_daemon);
+    m_address = contentOf(log).substr(0, contentOf(log).find('\n'));
+}
+
+StandIn::StandIn(const PrivateBus& bus, const std::vector<std::string>& services)
+    : m_pipe(m_folder.file("commands")), m_log(m_folder.file("log")) {
+    if (mkfifo(m_pipe.c_str(), 0600) != 0) throw std::runtime_error("no pipe can be made");
+    std::vector<std::string> command = {KEYRILL_BUS_STANDIN, bus.address(), m_pipe};
+    command.insert(command.end(), services.begin(), services.end());
+    m_process = std::make_unique<Child>(command, Child::Options{.outputFile = m_log});
+    awaitLine(m_log, *m_process);
+}
+
+void StandIn::obey(const std::string& command) const { std::ofstream(m_pipe) << command << std::endl; }
