@@ -66,12 +66,12 @@ QLayout* AboutPanel::makeGreeting() {
 QLayout* AboutPanel::makeLibraries() {
     auto* grid = new QGridLayout;
     grid->setColumnStretch(1, 1);
-    grid->setHorizontalSpacing(2 * grid->horizontalSpacing());
+    grid->setHorizontalSpacing(4 * grid->spacing());
     for (const Library& library : libraries) {
         if (!features::updateCheck && library.name == updateLibrary) continue;
         const int row = grid->rowCount();
-        grid->addWidget(new QLabel(textOf(library.name)), row, 0);
-        grid->addWidget(new QLabel(textOf(library.licence)), row, 1);
+        grid->addWidget(makeLine(textOf(library.name)), row, 0);
+        grid->addWidget(makeLine(textOf(library.licence)), row, 1);
     }
     return grid;
 }

@@ -8,6 +8,7 @@
 #include <QStyle>
 
 #include "app/PanelText.h"
+#include "app/ProgramIcon.h"
 
 namespace {
 
@@ -31,6 +32,7 @@ QString literal(QString text) { return text.replace(u'&', QStringLiteral("&&"));
 
 AlertDialog::AlertDialog(const AlertText& text, QWidget* parent) : QDialog(parent) {
     setWindowTitle(text.title);
+    setWindowIcon(programIcon());
     auto* sign = new QLabel;
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
     sign->setPixmap(style()->standardIcon(signOf(text.kind)).pixmap(size));

@@ -2,29 +2,33 @@
 #include "app/ControlWindow.h"
 
 #include <QCloseEvent>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/StatusIcon.h"
+#include "app/NoticeLine.h"
+#include "app/PanelText.h"
+#include "app/ProgramIcon.h"
 
-ControlWindow::ControlWindow(QMenu& menu) : m_advice(new QLabel(this)), m_notice(new QLabel(this)) {
+ControlWindow::ControlWindow(QMenu& menu) : m_advice(makeLine({})), m_notice(new NoticeLine(this)) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setWindowFlag(Qt::WindowDoesNotAcceptFocus);
     setWindowTitle(tr("Keyrill"));
-    setWindowIcon(builtInStatusIcon(StatusImage::normal));
+    setWindowIcon(programIcon());
 
-    m_notice->setWordWrap(true);
-    m_notice->setTextFormat(Qt::PlainText);
-    m_notice->hide();
-    auto* button = new QPushButton(tr("Keyrill"), this);
+    auto* button = new QPushButton(tr("Keyrill &menu"), this);
     button->setMenu(&menu);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_advice);
-    layout->addWidget(m_notice);
-    layout->addWidget(button, 0, Qt::AlignLeft);
+    auto* words = new QVBoxLayout;
+    words->addWidget(m_advice);
+    words->addWidget(m_notice);
+    words->addWidget(button, 0, Qt::AlignLeading);
+    auto* layout = new QHBoxLayout(this);
+    layout->addWidget(makeProgramIcon(), 0, Qt::AlignTop);
+    layout->addLayout(words, 1);
+    // The window grows and shrinks with its notice.
+    layout->setSizeConstraint(QLayout::SetFixedSize);
     setStandsIn(true);
 }
 
@@ -34,10 +38,7 @@ void ControlWindow::setStandsIn(bool standsIn) {
                                : tr("Keyrill is running; its menu is in the tray too."));
 }
 
-void ControlWindow::setNotice(const QString& notice) {
-    m_notice->setText(notice);
-    m_notice->setVisible(!notice.isEmpty());
-}
+void ControlWindow::setNotice(const QString& notice) { m_notice->setNotice(notice); }
 
 void ControlWindow::closeEvent(QCloseEvent* event) {
     if (!m_standsIn) return QWidget::closeEvent(event);

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+class NoticeLine;
 class QLabel;
 class QMenu;
 
@@ -24,6 +25,6 @@ class ControlWindow : public QWidget {
 
   private:
     QLabel* m_advice;
-    QLabel* m_notice;
+    NoticeLine* m_notice;
     bool m_standsIn = true;
 };

@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QSettings>
 
+#include "app/ProgramIcon.h"
+
 namespace {
 
 const QString suffix = QStringLiteral("keyrill");
@@ -32,6 +34,8 @@ QString withSuffix(const QString& name, const QDir& folder) {
 MacroFilePanel::MacroFilePanel(Kind kind, const QString& folder) {
     keepNoSettings();
     setOption(DontUseNativeDialog, !isSandboxed());
+    setWindowIcon(programIcon());
+    setViewMode(List);
     setDirectory(folder);
     setNameFilter(tr("Keyrill macros (*.%1)").arg(suffix));
     setDefaultSuffix(suffix);

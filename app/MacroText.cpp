@@ -51,6 +51,7 @@ void MacroText::frameEnds() {
 void MacroText::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setPen(Qt::white);
+    painter.setLayoutDirection(layoutDirection());
     const QString visible = fontMetrics().elidedText(m_text, Qt::ElideLeft, width());
     painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, visible);
 }

@@ -5,7 +5,12 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
-Panel::Panel(const QString& title) { setWindowTitle(title); }
+#include "app/ProgramIcon.h"
+
+Panel::Panel(const QString& title) {
+    setWindowTitle(title);
+    setWindowIcon(programIcon());
+}
 
 void Panel::closeEvent(QCloseEvent* event) {
     QWidget::closeEvent(event);

@@ -13,14 +13,8 @@ constexpr int iconSize = 64;
 /// In widths of a lower case letter.
 constexpr int paragraphWidth = 62;
 
-QLabel* makeLabel(const QString& text) {
-    auto* label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
 QLabel* makeBold(const QString& text, double scale) {
-    QLabel* label = makeLabel(text);
+    QLabel* label = makeLine(text);
     QFont font = label->font();
     font.setBold(true);
     font.setPointSizeF(font.pointSizeF() * scale);
@@ -29,6 +23,15 @@ QLabel* makeBold(const QString& text, double scale) {
 }
 
 }  // namespace
+
+QLabel* makeLine(const QString& text) {
+    auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    // Else a text in another script than the panel's would go to the other side.
+    const Qt::Alignment leading = QGuiApplication::isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    label->setAlignment(leading | Qt::AlignAbsolute | Qt::AlignVCenter);
+    return label;
+}
 
 QLabel* makeProgramIcon() {
     auto* label = new QLabel;
@@ -42,14 +45,14 @@ QLabel* makeTitle(const QString& text) { return makeBold(text, 1.6); }
 QLabel* makeHeading(const QString& text) { return makeBold(text, 1); }
 
 QLabel* makeParagraph(const QString& text) {
-    QLabel* label = makeLabel(text);
+    QLabel* label = makeLine(text);
     label->setWordWrap(true);
     label->setMinimumWidth(label->fontMetrics().averageCharWidth() * paragraphWidth);
     return label;
 }
 
 QLabel* makeKeyCap(const QString& combination) {
-    QLabel* label = makeLabel(combination);
+    QLabel* label = makeLine(combination);
     label->setFrameShape(QFrame::StyledPanel);
     label->setMargin(2);
     label->setAlignment(Qt::AlignCenter);

@@ -13,6 +13,8 @@ QLabel* makeProgramIcon();
 QLabel* makeTitle(const QString& text);
 /// Above a group of controls.
 QLabel* makeHeading(const QString& text);
+/// One line.
+QLabel* makeLine(const QString& text);
 /// Several lines, as wide as reads well.
 QLabel* makeParagraph(const QString& text);
 /// A combination, framed as a key is.

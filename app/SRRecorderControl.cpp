@@ -21,12 +21,14 @@ namespace {
 
 constexpr std::chrono::seconds patience{5};
 constexpr int padding = 6;
+constexpr int buttonIcon = 14;
 constexpr std::uint32_t allFlags =
     controlflag::control | controlflag::option | controlflag::shift | controlflag::command;
 
 QToolButton* makeClearButton(const QString& name, QWidget* field) {
     auto* button = new QToolButton(field);
     button->setAutoRaise(true);
+    button->setIconSize(QSize(buttonIcon, buttonIcon));
     button->setFocusPolicy(Qt::NoFocus);  // Backspace does it
     button->setCursor(Qt::ArrowCursor);
     button->setIcon(button->style()->standardIcon(QStyle::SP_LineEditClearButton));
@@ -47,7 +49,7 @@ SRRecorderControl::SRRecorderControl(ShortcutModel& model, const QString& name, 
     setAttribute(Qt::WA_Hover);
 
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(2, 2, 2, 2);
+    layout->setContentsMargins(2, 0, 2, 0);
     layout->addStretch();
     layout->addWidget(m_clearButton);
 
@@ -199,6 +201,16 @@ void SRRecorderControl::showValue() {
     update();
 }
 
+// The mark of the recorder overlay, where the button is otherwise.
+void SRRecorderControl::paintRecordingMark(QPainter& painter) const {
+    constexpr int diameter = 10;
+    const QRect logical(width() - 2 * padding - diameter, (height() - diameter) / 2, diameter, diameter);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0xe5, 0x48, 0x4d));
+    painter.drawEllipse(QStyle::visualRect(layoutDirection(), rect(), logical));
+}
+
 QSize SRRecorderControl::sizeHint() const {
     const QString longest = modifiersText(allFlags) + QStringLiteral("Page Down");
     const QSize text(fontMetrics().horizontalAdvance(longest) + 2 * padding,
@@ -221,9 +233,14 @@ void SRRecorderControl::paintEvent(QPaintEvent* /*event*/) {
 
     const bool isHint = isRecording() || m_model.keyCombo().code == -1;
     painter.setPen(palette().color(isHint ? QPalette::PlaceholderText : QPalette::Text));
-    const int end = m_clearButton->isVisible() ? m_clearButton->width() : 0;
+    const int end = m_clearButton->isVisible() || isRecording() ? m_clearButton->sizeHint().width() : 0;
     const QRect logical = rect().adjusted(padding, 0, -padding - end, 0);
     const QRect area = QStyle::visualRect(layoutDirection(), rect(), logical);
     const QString text = fontMetrics().elidedText(displayText(), Qt::ElideRight, area.width());
-    painter.drawText(area, Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine, text);
+    // A combination is written from left to right in every language.
+    painter.setLayoutDirection(isHint ? layoutDirection() : Qt::LeftToRight);
+    const Qt::Alignment leading = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
+    painter.drawText(
+        area, static_cast<int>(leading | Qt::AlignVCenter | Qt::AlignAbsolute) | Qt::TextSingleLine, text);
+    if (isRecording()) paintRecordingMark(painter);
 }

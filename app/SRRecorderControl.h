@@ -62,6 +62,7 @@ class SRRecorderControl : public QWidget {
     void endRecording();
     void enter(State state);
     void showValue();
+    void paintRecordingMark(QPainter& painter) const;
 
     ShortcutModel& m_model;
     QToolButton* m_clearButton;

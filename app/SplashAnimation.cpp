@@ -3,11 +3,14 @@
 
 #include <QPainter>
 #include <chrono>
+#include <string_view>
 
 namespace {
 
 constexpr std::chrono::milliseconds frame{40};
-constexpr int keys = 5;
+/// What is written on the keys.
+constexpr std::string_view letters = "KEYRILL";
+constexpr auto keys = static_cast<int>(letters.size());
 constexpr int keySize = 36;
 constexpr int gap = 8;
 constexpr int millisecondsPerKey = 240;
@@ -41,11 +44,16 @@ void SplashAnimation::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const auto pressed = static_cast<int>(m_shown / millisecondsPerKey % keys);
+    QFont font = painter.font();
+    font.setBold(true);
+    painter.setFont(font);
     for (int key = 0; key < keys; ++key) {
         const bool isPressed = key == pressed;
+        const QRect cap(key * (keySize + gap), isPressed ? pressDepth : 0, keySize, keySize);
         painter.setPen(Qt::NoPen);
         painter.setBrush(isPressed ? QColor(0x4c, 0xc3, 0x8a) : QColor(0xf2, 0xf2, 0xf2));
-        const int top = isPressed ? pressDepth : 0;
-        painter.drawRoundedRect(QRect(key * (keySize + gap), top, keySize, keySize), 7, 7);
+        painter.drawRoundedRect(cap, 7, 7);
+        painter.setPen(QColor(0x1e, 0x22, 0x2a));
+        painter.drawText(cap, Qt::AlignCenter, QString(QLatin1Char(letters[static_cast<std::size_t>(key)])));
     }
 }

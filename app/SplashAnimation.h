@@ -5,7 +5,8 @@
 #include <QTimer>
 #include <QWidget>
 
-/// A row of keys that are pressed one after the other, again and again, while it is shown.
+/// The program's name on a row of keys that are pressed one after the other, again and again, while it is
+/// shown.
 class SplashAnimation : public QWidget {
     Q_OBJECT
 

@@ -24,7 +24,7 @@ void follow(const ShortcutModel& shortcut, QLabel* label, Text text) {
 
 void addStep(QGridLayout& steps, QLabel* text) {
     const int row = steps.rowCount();
-    auto* number = new QLabel(WelcomePanel::tr("%1.").arg(row));
+    auto* number = makeLine(WelcomePanel::tr("%1.").arg(row));
     steps.addWidget(number, row, 0, Qt::AlignTop | Qt::AlignTrailing);
     steps.addWidget(text, row, 1);
 }
@@ -70,8 +70,8 @@ QLayout* WelcomePanel::makeSteps(const PreferencesModel& model) {
     QLabel* record = makeParagraph({});
     follow(model.record, record, [](const QString& combination) {
         return combination.isEmpty()
-                   ? tr("Choose Start Recording in Keyrill's menu, then type.")
-                   : tr("Press %1, or choose Start Recording in Keyrill's menu, then type.").arg(combination);
+                   ? tr("Choose Start Recording in Keyrill's menu. Then type.")
+                   : tr("Press %1, or choose Start Recording in Keyrill's menu. Then type.").arg(combination);
     });
     addStep(*steps, record);
     QLabel* stop = makeParagraph({});
@@ -82,9 +82,8 @@ QLayout* WelcomePanel::makeSteps(const PreferencesModel& model) {
     addStep(*steps, stop);
     QLabel* play = makeParagraph({});
     follow(model.play, play, [](const QString& combination) {
-        return combination.isEmpty()
-                   ? tr("Click where the keys should go and choose Play.")
-                   : tr("Click where the keys should go and press %1: they come again.").arg(combination);
+        return combination.isEmpty() ? tr("Click where the keys should go and choose Play.")
+                                     : tr("Click where the keys should go and press %1.").arg(combination);
     });
     addStep(*steps, play);
     return steps;
@@ -106,5 +105,5 @@ void WelcomePanel::addCombination(QGridLayout& grid, const ShortcutModel& shortc
     follow(shortcut, cap,
            [](const QString& combination) { return combination.isEmpty() ? tr("Not set") : combination; });
     grid.addWidget(cap, row, 0);
-    grid.addWidget(new QLabel(meaning), row, 1);
+    grid.addWidget(makeLine(meaning), row, 1);
 }

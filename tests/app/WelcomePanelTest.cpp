@@ -39,7 +39,7 @@ TEST_F(WelcomePanelTest, followsTheCombinations) {
 TEST_F(WelcomePanelTest, leadsToTheMenuWhereNoCombinationIsSet) {
     model.record.setKeyCombo({});
     EXPECT_TRUE(
-        wordsOf(panel).contains(QStringLiteral("Choose Start Recording in Keyrill's menu, then type.")));
+        wordsOf(panel).contains(QStringLiteral("Choose Start Recording in Keyrill's menu. Then type.")));
 }
 
 TEST_F(WelcomePanelTest, closesByItsButtonAsByItsFrame) {

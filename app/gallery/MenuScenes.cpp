@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include "app/MenuState.h"
+#include "app/StatusIcon.h"
+#include "app/StatusMenu.h"
+#include "app/gallery/Camera.h"
+#include "app/gallery/Scenes.h"
+
+namespace {
+
+constexpr QPoint place{80, 80};
+
+void takeMenu(Camera& camera, StatusMenu& menu, const MenuFacts& facts, const char* name) {
+    menu.apply(menuState(facts));
+    menu.popup(place);
+    camera.takeShown({&menu}, QLatin1String(name));
+    menu.hide();
+}
+
+void takeSubmenu(Camera& camera, StatusMenu& menu, QMenu& submenu, const char* name) {
+    menu.popup(place);
+    menu.setActiveAction(submenu.menuAction());
+    Camera::settle();
+    camera.takeShown({&menu, &submenu}, QLatin1String(name));
+    menu.hide();
+}
+
+/// The icons as themes have them and as they are drawn without, on light and on dark panels.
+void takeIcons(Camera& camera) {
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    for (const QColor ground : {QColor(0xf0, 0xf0, 0xf0), QColor(0x20, 0x20, 0x20)}) {
+        auto* row = new QWidget;
+        QPalette palette(ground);
+        palette.setColor(QPalette::Window, ground);
+        row->setPalette(palette);
+        row->setAutoFillBackground(true);
+        auto* icons = new QHBoxLayout(row);
+        for (const StatusImage image : {StatusImage::normal, StatusImage::busy, StatusImage::recording}) {
+            // Panels colour the theme's icons; as they are, they are for light ones.
+            QList<QIcon> shown{builtInStatusIcon(image)};
+            if (ground.lightness() > 128) shown.prepend(themedStatusIcon(image));
+            for (const QIcon& icon : shown) {
+                auto* label = new QLabel;
+                label->setPixmap(icon.pixmap(QSize(22, 22), label->devicePixelRatioF()));
+                icons->addWidget(label);
+            }
+        }
+        layout->addWidget(row);
+    }
+    camera.take(window, QStringLiteral("status-icons"));
+}
+
+}  // namespace
+
+void takeMenus(Camera& camera) {
+    StatusMenu menu;
+    takeMenu(camera, menu, {}, "menu-start");
+    takeMenu(camera, menu, {.recording = true, .overlayShown = true}, "menu-recording");
+    for (const char* title : {"⌘A ⌘C ⇥ ⌘V", "⇧H E L L O & B Y E", "F5 W A I T"})
+        menu.historyMenu->addAction(menuTitle(QString::fromUtf8(title)));
+    takeMenu(camera, menu, {.hasStopped = true, .hasMacro = true, .hasHistory = true}, "menu");
+    takeSubmenu(camera, menu, *menu.historyMenu, "menu-history");
+    takeSubmenu(camera, menu, *menu.helpMenu, "menu-help");
+    takeIcons(camera);
+}

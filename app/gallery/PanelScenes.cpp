@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "app/AboutPanel.h"
+#include "app/ControlWindow.h"
+#include "app/MultiplePlayWindow.h"
+#include "app/PreferencesModel.h"
+#include "app/PreferencesPanel.h"
+#include "app/RecorderWindow.h"
+#include "app/SRRecorderControl.h"
+#include "app/SplashAnimation.h"
+#include "app/SplashWindow.h"
+#include "app/StatusMenu.h"
+#include "app/WelcomePanel.h"
+#include "app/gallery/Camera.h"
+#include "app/gallery/Scenes.h"
+
+namespace {
+
+constexpr double overlayAlpha = 0.8;
+
+void takePreferences(Camera& camera) {
+    PreferencesModel model;
+    model.launchOnLogin.setOn(true);
+    PreferencesPanel panel(model);
+    camera.take(panel, QStringLiteral("preferences"));
+    model.play.setNotice(QStringLiteral("\"Ctrl+Super+P\" is held by another program."));
+    model.multiplePlay.setKeyCombo({});
+    camera.takeShown({&panel}, QStringLiteral("preferences-notice"));
+    panel.findChildren<SRRecorderControl*>().at(1)->startRecording();
+    camera.takeShown({&panel}, QStringLiteral("preferences-recording"));
+}
+
+void takeOverlay(Camera& camera) {
+    RecorderWindow overlay;
+    overlay.setWindowOpacity(overlayAlpha);
+    overlay.setMacroString("⇧H E L L O ⇥ W O R L D ↩");
+    camera.take(overlay, QStringLiteral("overlay"));
+    std::string text;
+    for (int i = 0; i < 5000; ++i) text += "⌃⇧← Page Down A ";
+    overlay.setMacroString(text);
+    camera.takeShown({&overlay}, QStringLiteral("overlay-long"));
+}
+
+void takePrompt(Camera& camera) {
+    MultiplePlayWindow prompt;
+    prompt.setWindowOpacity(overlayAlpha);
+    prompt.focusTimesText();
+    camera.take(prompt, QStringLiteral("prompt"));
+    prompt.setPlays(false);
+    camera.takeShown({&prompt}, QStringLiteral("prompt-no-macro"));
+}
+
+void takeControlWindow(Camera& camera) {
+    StatusMenu menu;
+    ControlWindow window(menu);
+    camera.take(window, QStringLiteral("control-window"));
+    window.setStandsIn(false);
+    camera.takeShown({&window}, QStringLiteral("control-window-second-start"));
+    window.setNotice(QStringLiteral("\"Ctrl+Super+P\" is held by another program."));
+    camera.takeShown({&window}, QStringLiteral("control-window-notice"));
+}
+
+}  // namespace
+
+void takePanels(Camera& camera) {
+    const PreferencesModel model;
+    WelcomePanel welcome(model);
+    camera.take(welcome, QStringLiteral("welcome"));
+    welcome.hide();
+    takePreferences(camera);
+    AboutPanel about;
+    camera.take(about, QStringLiteral("about"));
+    about.hide();
+    SplashWindow splash;
+    splash.show();
+    splash.splashAnim().stopRendering();
+    camera.take(splash, QStringLiteral("splash"));
+    splash.hide();
+    takeOverlay(camera);
+    takePrompt(camera);
+    takeControlWindow(camera);
+}
