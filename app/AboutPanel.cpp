@@ -66,7 +66,8 @@ QLayout* AboutPanel::makeGreeting() {
 QLayout* AboutPanel::makeLibraries() {
     auto* grid = new QGridLayout;
     grid->setColumnStretch(1, 1);
-    grid->setHorizontalSpacing(4 * grid->spacing());
+    constexpr int columnGap = 24;
+    grid->setHorizontalSpacing(columnGap);
     for (const Library& library : libraries) {
         if (!features::updateCheck && library.name == updateLibrary) continue;
         const int row = grid->rowCount();

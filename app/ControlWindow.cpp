@@ -12,6 +12,10 @@
 #include "app/PanelText.h"
 #include "app/ProgramIcon.h"
 
+namespace {
+constexpr int arrowGap = 16;
+}  // namespace
+
 ControlWindow::ControlWindow(QMenu& menu) : m_advice(makeLine({})), m_notice(new NoticeLine(this)) {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setWindowFlag(Qt::WindowDoesNotAcceptFocus);
@@ -20,6 +24,8 @@ ControlWindow::ControlWindow(QMenu& menu) : m_advice(makeLine({})), m_notice(new
 
     auto* button = new QPushButton(tr("Keyrill &menu"), this);
     button->setMenu(&menu);
+    // The style leaves no room before the arrow.
+    button->setMinimumWidth(button->sizeHint().width() + arrowGap);
     auto* words = new QVBoxLayout;
     words->addWidget(m_advice);
     words->addWidget(m_notice);

@@ -5,12 +5,13 @@
 #include <QLabel>
 #include <QStyle>
 
-NoticeLine::NoticeLine(QWidget* parent) : QWidget(parent), m_text(new QLabel) {
+#include "app/PanelText.h"
+
+NoticeLine::NoticeLine(QWidget* parent) : QWidget(parent), m_text(makeLine({})) {
     auto* sign = new QLabel;
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
     sign->setAccessibleName(tr("Warning"));
-    m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
 
     auto* layout = new QHBoxLayout(this);

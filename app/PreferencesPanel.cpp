@@ -43,6 +43,7 @@ PreferencesPanel::PreferencesPanel(PreferencesModel& model)
     // The panel grows and shrinks with its notices.
     layout->setSizeConstraint(QLayout::SetFixedSize);
     setTabOrder(m_checkForUpdatesNowButton, closeButton);
+    findChild<SRRecorderControl*>()->setFocus();
 }
 
 QLayout* PreferencesPanel::makeShortcuts(PreferencesModel& model) {
