@@ -27,6 +27,13 @@ std::vector<std::string> linesOf(const std::string& text) {
     return lines;
 }
 
+/// A program that is started again has a log of its own.
+std::string unusedName(const Desktop& desktop, const std::string& name) {
+    int number = 1;
+    while (std::filesystem::exists(desktop.file(name + std::to_string(number)))) ++number;
+    return name + std::to_string(number);
+}
+
 std::vector<std::string> commandFor(const Desktop& desktop, const std::string& script) {
     if (script.empty()) return {KEYRILL_PROGRAM};
     const std::string file = desktop.file("script");
@@ -180,8 +187,8 @@ std::vector<std::string> Desktop::keysDown() const {
 }
 
 Keyrill::Keyrill(const Desktop& desktop, const std::string& script)
-    : m_log(desktop.file("keyrill.log")),
-      m_child(commandFor(desktop, script), desktop.options("keyrill.log")) {
+    : m_log(desktop.file(unusedName(desktop, "keyrill.log"))),
+      m_child(commandFor(desktop, script), desktop.options(std::filesystem::path(m_log).filename())) {
     awaitOrThrow("Keyrill", [this] { return output().find("-- ready\n") != std::string::npos; });
 }
 

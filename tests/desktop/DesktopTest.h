@@ -44,6 +44,26 @@ class DesktopTest : public testing::Test {
     void stop() const { press("ctrl+super+s"); }
     void play() const { press("ctrl+super+p"); }
 
+    /// A window that has been painted has many more.
+    static constexpr std::size_t fewestColours = 20;
+
+    /// Makes the window manager give one of the program's windows the focus.
+    void giveFocus(const char* title) const {
+        const ScreenWindow window = desktop.awaitWindow(title);
+        desktop.run({"xdotool", "windowactivate", std::to_string(window.number)});
+        // Painted, it also knows that it has the focus. The manager may have moved it meanwhile.
+        ASSERT_TRUE(eventually([&] {
+            const std::optional<ScreenWindow> now = desktop.window(title);
+            return now && desktop.hasFocus(*now) && desktop.screen().colours(*now) > fewestColours;
+        }));
+    }
+    /// Closes a window by the window manager's key.
+    void close(const char* title) const {
+        giveFocus(title);
+        press("alt+F4");
+        ASSERT_TRUE(eventually([&] { return !desktop.shows(title); }));
+    }
+
     /// Whether that lock's light is on.
     bool isLocked(const std::string& lock) const {
         return desktop.run({"xset", "q"}).find(lock + ":   on") != std::string::npos ||

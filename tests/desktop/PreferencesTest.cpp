@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include <filesystem>
+#include <map>
+#include <sstream>
+
+#include "desktop/DesktopTest.h"
+#include "desktop/StatusMenuClicks.h"
+
+namespace {
+
+/// The program with a tray, its preferences opened by the user and closed by the window manager's key.
+class PreferencesTest : public DesktopTest {
+  protected:
+    PreferencesTest() { desktop.startTray(); }
+
+    void start() { keyrill.emplace(desktop); }
+    void restart() {
+        keyrill.reset();
+        start();
+    }
+    void openPreferences() const {
+        StatusMenuClicks menu(desktop);
+        menu.open();
+        // Above Quit and Help.
+        menu.chooseByKeys(0, {"Up", "Up", "Up", "Return"});
+        giveFocus(title::preferences);
+    }
+    /// The stored settings, by name.
+    std::map<std::string, std::string> settings() const {
+        std::istringstream lines(contentOf(desktop.home() + "/.config/keyrill/keyrill.conf"));
+        std::map<std::string, std::string> found;
+        for (std::string line; std::getline(lines, line);) {
+            const std::size_t sign = line.find('=');
+            if (sign != std::string::npos) found[line.substr(0, sign)] = line.substr(sign + 1);
+        }
+        return found;
+    }
+    bool isStored(const std::string& name, const std::string& value) const {
+        return eventually([&] { return settings()[name] == value; });
+    }
+    bool overlayComes() const {
+        return eventually([this] { return desktop.shows(title::overlay); });
+    }
+
+    std::optional<Keyrill> keyrill;
+};
+
+/// The preset combinations as they are stored: Ctrl+Super with R, S, P, M.
+const std::map<std::string, std::string> presets = {{"recordCode", "15"},
+                                                    {"recordFlags", "1310720"},
+                                                    {"stopCode", "1"},
+                                                    {"stopFlags", "1310720"},
+                                                    {"playCode", "35"},
+                                                    {"playFlags", "1310720"},
+                                                    {"multiplePlayCode", "46"},
+                                                    {"multiplePlayFlags", "1310720"},
+                                                    {"checkForUpdatesOnLaunch", "false"},
+                                                    {"launchOnLogin", "false"},
+                                                    {"notFirstRun", "true"}};
+
+TEST_F(PreferencesTest, theFirstRunGreetsAndLeadsToThePreferencesAndTheSecondDoesNot) {
+    std::filesystem::remove_all(desktop.home() + "/.config");
+    start();
+    EXPECT_TRUE(desktop.isHotKeyTaken(key::r));
+    close(title::welcome);
+    EXPECT_TRUE(isStored("notFirstRun", "true"));
+    EXPECT_EQ(settings().size(), 1U);
+    close(title::preferences);
+    EXPECT_EQ(settings(), presets);
+    record();
+    EXPECT_TRUE(overlayComes());
+
+    restart();
+    record();
+    EXPECT_TRUE(overlayComes());
+    EXPECT_FALSE(desktop.shows(title::welcome));
+}
+
+TEST_F(PreferencesTest, aStoredZeroIsAFirstRun) {
+    desktop.writeSettings("notFirstRun=0\n");
+    start();
+    close(title::welcome);
+    desktop.awaitWindow(title::preferences);
+    EXPECT_TRUE(isStored("notFirstRun", "true"));
+}
+
+TEST_F(PreferencesTest, withoutPresetsTheFieldsBecomeTheHotKeysWhenThePanelCloses) {
+    std::filesystem::remove_all(desktop.home() + "/.config");
+    std::filesystem::create_directories(desktop.file("empty"));
+    desktop.setEnvironment("XDG_CONFIG_DIRS", desktop.file("empty"));
+    start();
+    desktop.awaitWindow(title::welcome);
+    for (const std::uint8_t keycode : {key::r, key::s, key::p, key::m})
+        EXPECT_FALSE(desktop.isHotKeyTaken(keycode));
+    close(title::welcome);
+    close(title::preferences);
+    EXPECT_EQ(settings(), presets);
+    for (const std::uint8_t keycode : {key::r, key::s, key::p, key::m})
+        EXPECT_TRUE(desktop.isHotKeyTaken(keycode));
+}
+
+TEST_F(PreferencesTest, aClearedCombinationWorksUntilTheNextStart) {
+    start();
+    openPreferences();
+    press("alt+s");
+    press("BackSpace");
+    EXPECT_TRUE(isStored("stopCode", "-1"));
+    EXPECT_EQ(settings()["stopFlags"], "0");
+    close(title::preferences);
+    record();
+    EXPECT_TRUE(overlayComes());
+    stop();
+    EXPECT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
+
+    restart();
+    EXPECT_FALSE(desktop.isHotKeyTaken(key::s));
+    EXPECT_TRUE(desktop.isHotKeyTaken(key::r));
+}
+
+TEST_F(PreferencesTest, aCombinationIsTakenFromTheShortcutThatHadIt) {
+    start();
+    openPreferences();
+    press("alt+s");
+    press("space");
+    press("ctrl+super+r");
+    EXPECT_TRUE(isStored("stopCode", "15"));
+    EXPECT_EQ(settings()["stopFlags"], "1310720");
+    EXPECT_EQ(settings()["recordCode"], "-1");
+    close(title::preferences);
+    // Until the next start the combination is known under both names, and the first keeps it.
+    record();
+    EXPECT_TRUE(overlayComes());
+    record();
+    EXPECT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
+
+    restart();
+    EXPECT_TRUE(desktop.isHotKeyTaken(key::r));
+    EXPECT_FALSE(desktop.isHotKeyTaken(key::s));
+    record();
+    // What comes after it has been worked off.
+    press("ctrl+super+m");
+    desktop.awaitWindow(title::prompt);
+    EXPECT_FALSE(desktop.shows(title::overlay));
+}
+
+TEST_F(PreferencesTest, whileTheyAreOpenHotKeysDoNothing) {
+    const Terminal terminal(desktop.display());
+    start();
+    openPreferences();
+    terminal.focus();
+    record();
+    press("x");
+    EXPECT_EQ(terminal.typed(1), "x");
+    close(title::preferences);
+    // Had the first press begun a recording, this one would end it.
+    record();
+    EXPECT_TRUE(overlayComes());
+}
+
+}  // namespace
