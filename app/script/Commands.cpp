@@ -9,8 +9,11 @@
 #include <variant>
 
 #include "app/script/Playback.h"
+#include "app/script/Report.h"
 #include "app/script/ScriptFile.h"
+#include "app/script/TerminalDialogs.h"
 #include "platform/script/Compiler.h"
+#include "platform/script/Formatter.h"
 #include "platform/script/Machine.h"
 #include "platform/script/TraceInjector.h"
 #include "platform/script/TraceServices.h"
@@ -20,80 +23,99 @@ namespace {
 constexpr int succeeded = 0;
 constexpr int failed = 1;
 
-std::ostream& at(const std::string& file, const script::Location& place) {
-    return std::cerr << file << ":" << place.line << ":" << place.column << ": ";
-}
+/// A script and the words in which it is spoken of.
+struct Source {
+    std::string name;
+    std::string text;
+};
 
-void report(const std::string& file, const char* kind, const script::ScriptError& error) {
-    at(file, error.location) << kind << " error: " << error.message << " (" << error.number << ")\n";
-}
-
-void report(const std::string& file, const script::ScriptWarning& warning) {
-    at(file, warning.location) << "warning: " << warning.message << "\n";
-}
-
-int report(const std::string& subject, const Error& error) {
-    std::cerr << "keyrill-script: " << subject << error.message
-              << (error.hint.empty() ? "" : " " + error.hint) << "\n";
-    return failed;
+/// Empty after an error, which has been told.
+std::optional<Source> sourceOf(const ScriptInput& input) {
+    if (!input.lines.empty()) {
+        Source source{"-e", ""};
+        for (const std::string& line : input.lines) source.text += line + "\n";
+        return source;
+    }
+    Result<std::string> text = readScript(input.file);
+    if (text) return Source{input.file, std::move(text).value()};
+    reportError(input.file + ": ", text.error());
+    return std::nullopt;
 }
 
 /// Empty after an error, which has been told.
-std::optional<script::Program> compiled(const std::string& file) {
-    Result<std::string> source = readScript(file);
-    if (!source) {
-        report(file + ": ", source.error());
-        return std::nullopt;
-    }
-    auto result = script::compile(std::move(source).value());
+std::optional<script::Program> compiled(const Source& source) {
+    auto result = script::compile(source.text);
     if (const auto* error = std::get_if<script::ScriptError>(&result)) {
-        report(file, "syntax", *error);
+        Report(source.name, source.text).syntaxError(*error);
         return std::nullopt;
     }
     return std::get<script::Program>(std::move(result));
 }
 
-int run(const std::string& file, const script::Program& program, const script::MachineServices& services) {
+script::RunResult run(const Source& source, const script::Program& program,
+                      const script::MachineServices& services) {
+    const Report report(source.name, source.text);
     script::Machine machine(program, services);
+    machine.onWarning([&](const script::ScriptWarning& warning) { report.warning(warning); });
     machine.onLog([](const std::string& line) { std::cerr << line << "\n"; });
-    machine.onWarning([&](const script::ScriptWarning& warning) { report(file, warning); });
-    const script::RunResult result = machine.run();
+    script::RunResult result = machine.run();
     std::cout.flush();
-    if (!result.error) return succeeded;
-    report(file, "execution", *result.error);
-    return failed;
+    if (result.error) report.executionError(*result.error);
+    return result;
 }
+
+int statusOf(const script::RunResult& result) { return result.error ? failed : succeeded; }
 
 }  // namespace
 
-int checkScript(const std::string& file) {
-    const std::optional<script::Program> program = compiled(file);
+int checkScript(const ScriptInput& input) {
+    const std::optional<Source> source = sourceOf(input);
+    const std::optional<script::Program> program = source ? compiled(*source) : std::nullopt;
     if (!program) return failed;
-    for (const script::ScriptWarning& warning : program->warnings) report(file, warning);
+    const Report report(source->name, source->text);
+    for (const script::ScriptWarning& warning : program->warnings) report.warning(warning);
     return succeeded;
 }
 
-int traceScript(const std::string& file) {
-    const std::optional<script::Program> program = compiled(file);
+int traceScript(const ScriptInput& input) {
+    const std::optional<Source> source = sourceOf(input);
+    const std::optional<script::Program> program = source ? compiled(*source) : std::nullopt;
     if (!program) return failed;
     script::TraceInjector injector(std::cout);
     script::TraceDesktop desktop(std::cout);
     script::TraceDialogs dialogs(std::cout);
-    return run(file, *program, {injector, desktop, dialogs});
+    return statusOf(run(*source, *program, {injector, desktop, dialogs}));
 }
 
-int runScript(const std::string& file) {
-    const std::optional<script::Program> program = compiled(file);
+int formatScript(const ScriptInput& input) {
+    const std::optional<Source> source = sourceOf(input);
+    if (!source) return failed;
+    const auto text = script::formatted(source->text);
+    if (const auto* error = std::get_if<script::ScriptError>(&text)) {
+        Report(source->name, source->text).syntaxError(*error);
+        return failed;
+    }
+    std::cout << std::get<std::string>(text) << std::flush;
+    return std::cout ? succeeded : failed;
+}
+
+int runScript(const ScriptInput& input) {
+    const std::optional<Source> source = sourceOf(input);
+    const std::optional<script::Program> program = source ? compiled(*source) : std::nullopt;
     if (!program) return failed;
     Result<std::unique_ptr<Playback>> playback = Playback::make();
-    if (!playback) return report("", playback.error());
+    if (!playback) {
+        reportError("", playback.error());
+        return failed;
+    }
     playback.value()->injector().startPlayback();
-    script::SilentDesktop desktop;
-    script::NoDialogs dialogs;
-    const int status = run(file, *program, {playback.value()->injector(), desktop, dialogs});
+    TerminalDialogs dialogs;
+    const script::RunResult result =
+        run(*source, *program, {playback.value()->injector(), playback.value()->desktop(), dialogs});
+    if (!input.lines.empty() && !result.value.empty()) std::cout << result.value << std::endl;
     const int signalNumber = playback.value()->signalNumber();
     playback.value().reset();
     // Whoever waits for this process is told how it ended.
     if (signalNumber != 0) raise(signalNumber);
-    return status;
+    return statusOf(result);
 }

@@ -2,19 +2,26 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
-/// The commands of the program. Each reads a file ("-" is standard input), tells on standard error what is
-/// wrong with it, and gives the exit status: 0, or 1 after an error.
-///
-/// FILE:LINE:COL: syntax error: MESSAGE (NUMBER)
-/// FILE:LINE:COL: execution error: MESSAGE (NUMBER)
-/// FILE:LINE:COL: warning: MESSAGE
+/// What a command is given: a file ("-" is standard input), or the lines of a script.
+struct ScriptInput {
+    std::string file;
+    std::vector<std::string> lines;  ///< of -e, instead of a file
+};
+
+/// The commands of the program. Each tells on standard error what is wrong (see Report), and gives the exit
+/// status: 0, or 1 after an error.
 
 /// Compiles, and warns of what only this program understands.
-int checkScript(const std::string& file);
+int checkScript(const ScriptInput& input);
 
 /// Prints what would be done, one JSON array a line, without pauses.
-int traceScript(const std::string& file);
+int traceScript(const ScriptInput& input);
 
-/// Presses the keys. A signal that ends the run ends the process, once nothing is held any more.
-int runScript(const std::string& file);
+/// Presses the keys. A signal that ends the run ends the process, once nothing is held any more. Of -e the
+/// value of the last line is printed.
+int runScript(const ScriptInput& input);
+
+/// Prints the script in one layout.
+int formatScript(const ScriptInput& input);

@@ -9,6 +9,7 @@
 #include "platform/linux/SteadyClock.h"
 #include "platform/x11/X11EventManager.h"
 #include "platform/x11/X11KeyInjector.h"
+#include "platform/x11/X11ScriptDesktop.h"
 
 namespace {
 
@@ -40,8 +41,12 @@ void setHandlers(void (*handler)(int)) {
 
 class X11Playback final : public Playback {
   public:
-    X11Playback(std::unique_ptr<SteadyClock> clock, std::unique_ptr<X11EventManager> events)
-        : m_clock(std::move(clock)), m_events(std::move(events)), m_injector(m_events->runWatch(), *m_clock) {
+    X11Playback(std::unique_ptr<SteadyClock> clock, std::unique_ptr<X11EventManager> events,
+                std::unique_ptr<X11ScriptDesktop> desktop)
+        : m_clock(std::move(clock)),
+          m_events(std::move(events)),
+          m_desktop(std::move(desktop)),
+          m_injector(m_events->runWatch(), *m_clock) {
         known().injector = &m_injector;
         setHandlers(handleSignal);
     }
@@ -54,11 +59,13 @@ class X11Playback final : public Playback {
     X11Playback& operator=(const X11Playback&) = delete;
 
     KeyInjector& injector() override { return m_injector; }
+    ScriptDesktop& desktop() override { return *m_desktop; }
     int signalNumber() const override { return known().received; }
 
   private:
     std::unique_ptr<SteadyClock> m_clock;
     std::unique_ptr<X11EventManager> m_events;
+    std::unique_ptr<X11ScriptDesktop> m_desktop;
     X11KeyInjector m_injector;
 };
 
@@ -68,6 +75,8 @@ Result<std::unique_ptr<Playback>> Playback::make() {
     auto clock = std::make_unique<SteadyClock>();
     Result<std::unique_ptr<X11EventManager>> events = X11EventManager::open(*clock);
     if (!events) return events.error();
-    return std::unique_ptr<Playback>(
-        std::make_unique<X11Playback>(std::move(clock), std::move(events).value()));
+    auto desktop = X11ScriptDesktop::open(*clock);
+    if (!desktop) return desktop.error();
+    return std::unique_ptr<Playback>(std::make_unique<X11Playback>(
+        std::move(clock), std::move(events).value(), std::move(desktop).value()));
 }

@@ -5,6 +5,7 @@
 
 #include "platform/KeyInjector.h"
 #include "platform/Result.h"
+#include "platform/ScriptDesktop.h"
 
 /// The way to press keys in the session that the program was started in, for the length of one run.
 ///
@@ -20,6 +21,7 @@ class Playback {
     Playback& operator=(const Playback&) = delete;
 
     virtual KeyInjector& injector() = 0;
+    virtual ScriptDesktop& desktop() = 0;
     /// The signal that ended the run; 0 if none came.
     virtual int signalNumber() const = 0;
 };

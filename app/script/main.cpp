@@ -1,46 +1,74 @@
 // SPDX-License-Identifier: MIT
 //
-// keyrill-script: checks, traces and plays scripts.
+// keyrill-script: checks, traces, formats and plays scripts.
 #include <algorithm>
 #include <array>
 #include <iostream>
+#include <optional>
 #include <string_view>
+#include <vector>
 
 #include "app/script/Commands.h"
+#include "platform/script/LanguageReference.h"
 
 namespace {
 
 struct Command {
     std::string_view name;
-    int (*perform)(const std::string& file);
+    int (*perform)(const ScriptInput& input);
 };
 
-constexpr auto commands =
-    std::to_array<Command>({{"check", checkScript}, {"run", runScript}, {"trace", traceScript}});
+constexpr auto commands = std::to_array<Command>(
+    {{"check", checkScript}, {"run", runScript}, {"trace", traceScript}, {"format", formatScript}});
 
 constexpr std::string_view usage =
     "Usage: keyrill-script check FILE   compile, and say what is wrong\n"
     "       keyrill-script run FILE     press the keys\n"
     "       keyrill-script trace FILE   print what would be done, one JSON array a line\n"
+    "       keyrill-script format FILE  print the script in one layout\n"
+    "       keyrill-script reference    print the reference of the language\n"
     "       keyrill-script --help | --version\n"
-    "FILE - is standard input.\n";
+    "FILE - is standard input; -e LINE, once or more, gives the script itself.\n";
+
+/// Empty if the arguments are neither a file nor lines.
+std::optional<ScriptInput> inputOf(const std::vector<std::string_view>& arguments) {
+    ScriptInput input;
+    if (arguments.size() == 1 && arguments.front() != "-e") {
+        input.file = arguments.front();
+        return input;
+    }
+    for (std::size_t i = 0; i + 1 < arguments.size(); i += 2) {
+        if (arguments[i] != "-e") return std::nullopt;
+        input.lines.emplace_back(arguments[i + 1]);
+    }
+    if (input.lines.empty() || arguments.size() % 2 != 0) return std::nullopt;
+    return input;
+}
 
 }  // namespace
 
 int main(int count, char** values) {
     std::ios::sync_with_stdio(false);
-    const std::string_view first = count > 1 ? values[1] : "";
-    if (count == 2 && first == "--help") {
+    const std::vector<std::string_view> arguments(values + std::min(count, 1), values + count);
+    const std::string_view first = arguments.empty() ? "" : arguments.front();
+    if (arguments.size() == 1 && first == "--help") {
         std::cout << usage;
         return 0;
     }
-    if (count == 2 && first == "--version") {
+    if (arguments.size() == 1 && first == "reference") {
+        std::cout << script::languageReference();
+        return 0;
+    }
+    if (arguments.size() == 1 && first == "--version") {
         std::cout << "keyrill-script " KEYRILL_VERSION "\n";
         return 0;
     }
     const auto* command = std::find_if(commands.begin(), commands.end(),
                                        [&](const Command& candidate) { return candidate.name == first; });
-    if (count == 3 && command != commands.end()) return command->perform(values[2]);
+    if (command != commands.end()) {
+        const auto input = inputOf({arguments.begin() + 1, arguments.end()});
+        if (input) return command->perform(*input);
+    }
     std::cerr << usage;
     return 1;
 }

@@ -6,6 +6,7 @@
 
 #include "platform/Utf8.h"
 #include "platform/script/CodeGenerator.h"
+#include "platform/script/Hints.h"
 #include "platform/script/Parser.h"
 
 namespace script {
@@ -27,7 +28,11 @@ std::variant<Program, ScriptError> compile(std::string source) {
     if (std::optional<ScriptError> error = unreadable(source)) return *std::move(error);
     Parser parser(source);
     Tree& tree = parser.parse();
-    if (parser.error()) return *parser.error();
+    if (parser.error()) {
+        ScriptError error = *parser.error();
+        error.hint = syntaxHint(error, tree, source);
+        return error;
+    }
     CodeGenerator generator(tree, source);
     Program program = generator.generate();
     if (generator.error()) return *generator.error();

@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "Traced.h"
 #include "platform/script/Location.h"
 
 namespace {
@@ -99,7 +100,48 @@ void readFile(const std::filesystem::path& path, std::vector<FileCase>& rows) {
     }
 }
 
+std::string eventsOf(const Traced& result) {
+    std::string events = result.events;
+    if (!events.empty()) events.pop_back();
+    for (char& c : events) c = c == '\n' ? ' ' : c;
+    return events;
+}
+
+std::string placeOf(const Traced& result) {
+    return std::to_string(result.error.location.line) + ":" + std::to_string(result.error.location.column);
+}
+
 }  // namespace
+
+std::string outcomeOf(const FileCase& row) {
+    const Traced result = traced(row.source);
+    const bool failed = result.phase != Traced::Phase::none;
+    if (failed) {
+        const std::string arrow = result.phase == Traced::Phase::compile ? "=? " : "=! ";
+        const std::string place = row.place.empty() ? "" : placeOf(result) + " ";
+        const std::string events = row.events.empty() ? "" : eventsOf(result) + " ";
+        return events + arrow + place + std::to_string(result.error.number) + " " + result.error.message;
+    }
+    if (row.kind == FileCase::Kind::events) return "-> " + eventsOf(result);
+    return "=> " + onOneLine(result.value);
+}
+
+std::string expectationOf(const FileCase& row) {
+    const std::string place = row.place.empty() ? "" : row.place + " ";
+    const std::string events = row.events.empty() ? "" : row.events + " ";
+    switch (row.kind) {
+        case FileCase::Kind::value:
+            return "=> " + row.expected;
+        case FileCase::Kind::events:
+            return "-> " + row.events;
+        case FileCase::Kind::runError:
+            return events + "=! " + place + row.expected;
+        default:
+            return "=? " + place + row.expected;
+    }
+}
+
+FileCase caseOf(const std::string& line) { return readCase(line, false); }
 
 std::ostream& operator<<(std::ostream& out, const FileCase& row) { return out << row.name; }
 

@@ -19,6 +19,13 @@ struct FileCase {
 
 std::ostream& operator<<(std::ostream& out, const FileCase& row);
 
+/// The case that a line holds, outside of a tell block.
+FileCase caseOf(const std::string& line);
+
+/// What came of a script, in the words of the case, and what was to come of it.
+std::string outcomeOf(const FileCase& row);
+std::string expectationOf(const FileCase& row);
+
 /// All cases of all files of the folder, in the files' order.
 std::vector<FileCase> readCaseFiles(const std::string& folder);
 

@@ -49,7 +49,9 @@ TEST_F(RunTest, typesIntoTheApplicationInFront) {
 TEST_F(RunTest, anErrorIsToldAndEndsTheRun) {
     const auto program = play("keystroke \"ab\"\ndelay \"x\"\nkeystroke \"cd\"");
     EXPECT_EQ(program->wait(), 1);
-    EXPECT_EQ(output(), script() + ":3:1: execution error: Can’t make \"x\" into type number. (-1700)\n");
+    EXPECT_EQ(output(), script() +
+                            ":3:1: execution error: Can’t make \"x\" into type number. (-1700)\n"
+                            "delay \"x\"\n^\n");
     EXPECT_EQ(terminal().typed(2), "ab");
 }
 

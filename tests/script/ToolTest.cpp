@@ -48,7 +48,9 @@ TEST_F(ToolTest, checkNamesPlaceMessageAndNumberOfASyntaxError) {
     write("tell application \"System Events\"\n\tkey code 1\n");
     const Outcome outcome = run("check script");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.errors, "script:3:1: syntax error: Expected “end” but found end of script. (-2741)\n");
+    EXPECT_EQ(outcome.errors,
+              "script:3:1: syntax error: Expected “end” but found end of script. (-2741)\n"
+              "Hint: The block that begins in line 1 has no “end” of its own.\n");
 }
 
 TEST_F(ToolTest, checkWarnsOfExtensionCodes) {
@@ -76,7 +78,9 @@ TEST_F(ToolTest, traceEndsAtAnExecutionError) {
     const Outcome outcome = run("trace script");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.output, "[\"key\",1,[]]\n");
-    EXPECT_EQ(outcome.errors, "script:3:2: execution error: Can’t make \"abc\" into type number. (-1700)\n");
+    EXPECT_EQ(outcome.errors,
+              "script:3:2: execution error: Can’t make \"abc\" into type number. (-1700)\n"
+              "\tdelay \"abc\"\n\t^\n");
 }
 
 TEST_F(ToolTest, traceWaitsForNoPause) {
@@ -87,7 +91,8 @@ TEST_F(ToolTest, traceWaitsForNoPause) {
 TEST_F(ToolTest, readsStandardInput) {
     write("delay +");
     EXPECT_EQ(run("check -", "script").errors,
-              "-:1:8: syntax error: Expected expression but found end of script. (-2741)\n");
+              "-:1:8: syntax error: Expected expression but found end of script. (-2741)\n"
+              "delay +\n       ^\n");
 }
 
 TEST_F(ToolTest, readsFilesOfOlderEditors) {
@@ -117,6 +122,27 @@ TEST_F(ToolTest, anUnknownCommandShowsTheUsage) {
         EXPECT_EQ(outcome.status, 1) << arguments;
         EXPECT_EQ(outcome.errors.rfind(usage, 0), 0U) << arguments;
     }
+}
+
+TEST_F(ToolTest, linesCanBeGivenInsteadOfAFile) {
+    EXPECT_EQ(run("trace -e 'set x to 1' -e 'delay x + 1'").output, "[\"delay\",2]\n");
+    EXPECT_EQ(
+        run("check -e 'delay +'").errors,
+        "-e:1:8: syntax error: Expected expression but found end of line. (-2741)\ndelay +\n       ^\n");
+    EXPECT_EQ(run("trace -e").errors.rfind(usage, 0), 0U);
+}
+
+TEST_F(ToolTest, formatPrintsOneLayout) {
+    write("if true then\ndelay 1\nend");
+    EXPECT_EQ(run("format script").output, "if true then\n\tdelay 1\nend\n");
+    write("if");
+    EXPECT_EQ(run("format script").status, 1);
+}
+
+TEST_F(ToolTest, theLogGoesToStandardErrors) {
+    const Outcome outcome = run("trace -e 'log {1, 2}'");
+    EXPECT_EQ(outcome.errors, "(*{1, 2}*)\n");
+    EXPECT_EQ(outcome.output, "");
 }
 
 TEST_F(ToolTest, helpAndVersionGoToStandardOutput) {

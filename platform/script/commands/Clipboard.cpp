@@ -28,8 +28,8 @@ const Command& clipboardCommand() {
                                  .manual = R"(the clipboard [as CLASS]
 
 The text in the clipboard, which is empty if there is none.)",
-                                 .examples = R"(set the clipboard to "abc"\nthe clipboard => "abc"
-set the clipboard to "5"\n(the clipboard as integer) + 1 => 6)"};
+                                 .examples = R"(set the clipboard to "abc"↵the clipboard => "abc"
+set the clipboard to "5"↵(the clipboard as integer) + 1 => 6)"};
     return command;
 }
 

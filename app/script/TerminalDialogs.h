@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ScriptDialogs.h"
+
+/// Asks on the terminal that the program runs in, in lines of text; without one nobody can be asked.
+///
+///   Go on?
+///   1 Cancel   2 OK (Return)
+///   >
+///
+/// A number or the name of a button presses it; an empty line the default button. Where an answer is asked
+/// for, it stands on a line of its own before. The end of input is the cancel button.
+class TerminalDialogs : public ScriptDialogs {
+  public:
+    Result<ScriptAnswer> ask(const ScriptDialog& dialog) override;
+    Result<void> notify(const ScriptNotification& notification) override;
+};

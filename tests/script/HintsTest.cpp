@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+//
+// What errors say beside the language's own words.
+#include <gtest/gtest.h>
+
+#include "Traced.h"
+
+namespace {
+
+struct Row {
+    const char* what;
+    const char* source;
+    const char* hint;
+};
+
+std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.what; }
+
+class HintsTest : public testing::TestWithParam<Row> {};
+
+TEST_P(HintsTest, helpsWithAUsualSlip) { EXPECT_EQ(traced(GetParam().source).error.hint, GetParam().hint); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Slips, HintsTest,
+    testing::Values(
+        Row{"curly quotes", "set x to “a”", "Put straight quotes (\") in place of the curly ones."},
+        Row{"single quotes", "set x to 'a'", "Text stands between straight double quotes (\")."},
+        Row{"a forgotten end", "tell app \"System Events\"\nrepeat 2 times\nkey code 1\nend tell",
+            "The block that begins in line 2 has no “end” of its own."},
+        Row{"a forgotten end at the end", "if true then\nrepeat\nend repeat\n",
+            "The block that begins in line 1 has no “end” of its own."},
+        Row{"keystroke outside", "keystroke \"a\"",
+            "The keyboard commands stand inside “tell application \"System Events\"” … “end tell”."},
+        Row{"key code outside", "\tkey code 5",
+            "The keyboard commands stand inside “tell application \"System Events\"” … “end tell”."},
+        Row{"else in one line", "if true then 1 else 2",
+            "An “if” in one line has no “else”; write it in lines, with “end if”."},
+        Row{"another language's unequal", "1 != 2", "“Not equal” is written ≠ or /=."},
+        Row{"another language's equal", "1 == 2", "“Equal” is written with one =."},
+        Row{"another language's assignment", "set x = 5", "A variable is set with “to”: set x to 5."},
+        Row{"semicolons", "delay 1; delay 2", "Each statement has a line of its own."},
+        Row{"an unknown class", "5 as banana",
+            "Behind “as” stands a class: text, integer, real, number, boolean, list, record, date."},
+        Row{"my forgotten", "on f()\nend f\ntell app \"System Events\" to f()",
+            "Inside “tell” the script’s own handlers are called with “my”: my f(…)."},
+        Row{"nothing to say", "error \"x\"", ""}));
+
+}  // namespace

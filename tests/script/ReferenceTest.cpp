@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+//
+// What the commands tell of themselves: true, whole and printed.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "CaseFile.h"
+#include "platform/script/Command.h"
+#include "platform/script/LanguageReference.h"
+
+namespace {
+
+class CommandTest : public testing::TestWithParam<const script::Command*> {};
+
+TEST_P(CommandTest, doesWhatItsExamplesSay) {
+    std::istringstream examples{std::string(GetParam()->examples)};
+    int count = 0;
+    for (std::string line; std::getline(examples, line); ++count) {
+        const FileCase row = caseOf(line);
+        EXPECT_EQ(outcomeOf(row), expectationOf(row)) << row.source;
+    }
+    EXPECT_GT(count, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, CommandTest, testing::ValuesIn(script::commands()), [](const auto& row) {
+    std::string name(row.param->name);
+    for (char& c : name) c = c == ' ' ? '_' : c;
+    return name;
+});
+
+TEST(ReferenceTest, theFileInTheDocumentsIsUpToDate) {
+    std::ifstream file(LANGUAGE_REFERENCE);
+    std::stringstream content;
+    content << file.rdbuf();
+    EXPECT_EQ(content.str(), script::languageReference()) << "print it with: keyrill-script reference";
+}
+
+TEST(ReferenceTest, everyCommandHasAManualButForSynonyms) {
+    for (const script::Command* command : script::commands()) {
+        if (command->name == "number of") continue;
+        EXPECT_NE(command->manual.find("\n\n"), std::string_view::npos) << command->name;
+    }
+}
+
+}  // namespace
