@@ -47,9 +47,11 @@ void loadScript(const char* file) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    const auto display = chooseX11Display();
+    if (!display) return reportFailure(display.error());
+    const QApplication application(argc, argv);
     const auto backends = X11Backends::open();
     if (!backends) return reportFailure(backends.error());
-    const QApplication application(argc, argv);
     Program program(*backends.value());
     PrintingController printing(program.controller());
     const SharedControllerScope scope(printing);

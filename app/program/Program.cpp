@@ -3,6 +3,7 @@
 
 #include <QApplication>
 
+#include "app/program/ProgramInstance.h"
 #include "app/program/X11Backends.h"
 #include "platform/Windows.h"
 #include "platform/linux/BusLoop.h"
@@ -13,7 +14,9 @@
 namespace {
 
 // A run does not return to the event loop before its end, so a signal has to end it first.
-void interruptRun(void* injector) { static_cast<X11KeyInjector*>(injector)->interrupt(); }
+void interruptRun(void* injector) {
+    if (injector != nullptr) static_cast<X11KeyInjector*>(injector)->interrupt();
+}
 
 }  // namespace
 
@@ -23,19 +26,38 @@ Program::Program(X11Backends& backends)
           windows.activate(static_cast<WindowId>(window.winId()), 0);
       }),
       m_controller(backends.services(), backends.windows(), m_statusItem, m_dialogs),
-      m_signals(interruptRun, &backends.keyInjector()),
-      m_eventsReadable(backends.eventManager().fileDescriptor(), QSocketNotifier::Read),
+      m_signals(interruptRun, backends.keyInjector()),
       m_trayReadable(backends.dockingTray().fileDescriptor(), QSocketNotifier::Read),
       m_busesReadable(backends.busLoop().fileDescriptor(), QSocketNotifier::Read) {
     QApplication::setApplicationName(QStringLiteral("keyrill"));
     QApplication::setDesktopFileName(QStringLiteral("example.orlen.Keyrill"));
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_signals, &TerminationSignals::received, &m_controller, &AppController::kill);
-    QObject::connect(&m_eventsReadable, &QSocketNotifier::activated,
-                     [&manager = backends.eventManager()] { manager.dispatch(); });
+    if (backends.eventManager() != nullptr) watchEvents(*backends.eventManager());
     QObject::connect(&m_trayReadable, &QSocketNotifier::activated,
                      [&tray = backends.dockingTray()] { tray.dispatch(); });
     QObject::connect(&m_busesReadable, &QSocketNotifier::activated,
                      [&buses = backends.busLoop()] { buses.dispatch(); });
     QTimer::singleShot(0, &m_controller, &AppController::awakeFromNib);
+}
+
+void Program::watchEvents(X11EventManager& manager) {
+    m_eventsReadable = std::make_unique<QSocketNotifier>(manager.fileDescriptor(), QSocketNotifier::Read);
+    QObject::connect(m_eventsReadable.get(), &QSocketNotifier::activated, &m_controller, [this, &manager] {
+        manager.dispatch();
+        // The server is gone, and all windows with it.
+        if (manager.isBroken()) m_controller.kill();
+    });
+}
+
+void Program::follow(const ProgramInstance& instance) {
+    QObject::connect(&instance, &ProgramInstance::activated, &m_controller,
+                     &AppController::showControlWindow);
+    QObject::connect(&instance, &ProgramInstance::fileOpened, &m_controller, &AppController::openMacroFile);
+}
+
+void Program::openFiles(const QStringList& files) {
+    for (const QString& file : files) {
+        QTimer::singleShot(0, &m_controller, [this, file] { m_controller.openMacroFile(file); });
+    }
 }

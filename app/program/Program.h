@@ -2,13 +2,17 @@
 #pragma once
 
 #include <QSocketNotifier>
+#include <QStringList>
+#include <memory>
 
 #include "app/AppController.h"
 #include "app/QtDialogs.h"
 #include "app/TrayStatusItem.h"
 #include "app/program/TerminationSignals.h"
 
+class ProgramInstance;
 class X11Backends;
+class X11EventManager;
 
 /// The program around the controller: joins it with the backends and both with the toolkit's event loop.
 /// Needs a QApplication; start-up itself happens once the loop runs.
@@ -20,12 +24,19 @@ class Program {
 
     AppController& controller() { return m_controller; }
 
+    /// Takes what other starts hand over.
+    void follow(const ProgramInstance& instance);
+    /// Opens macro files once the start-up is through; absolute paths.
+    void openFiles(const QStringList& files);
+
   private:
+    void watchEvents(X11EventManager& manager);
+
     TrayStatusItem m_statusItem;
     QtDialogs m_dialogs;
     AppController m_controller;
     TerminationSignals m_signals;
-    QSocketNotifier m_eventsReadable;
+    std::unique_ptr<QSocketNotifier> m_eventsReadable;
     QSocketNotifier m_trayReadable;
     QSocketNotifier m_busesReadable;
 };

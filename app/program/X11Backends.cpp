@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/program/LinuxServices.h"
+#include "app/program/UnavailableKeys.h"
 #include "platform/Services.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/script/ScriptRunner.h"
@@ -17,27 +18,61 @@
 #include "platform/x11/X11SessionCheck.h"
 #include "platform/x11/X11Windows.h"
 
+namespace {
+
+/// What has to do with keys, in a session that shows and takes them.
+struct X11Keys {
+    X11Keys(std::unique_ptr<X11EventManager> manager, Clock& clock)
+        : eventManager(std::move(manager)), keyInjector(eventManager->runWatch(), clock) {}
+
+    std::unique_ptr<X11EventManager> eventManager;
+    X11KeyboardLayout keyboardLayout{*eventManager};
+    X11KeyInjector keyInjector;
+};
+
+Result<std::unique_ptr<X11Keys>> openKeys(Clock& clock) {
+    const auto access = checkX11Access();
+    if (!access) return access.error();
+    auto manager = X11EventManager::open(clock);
+    if (!manager) return manager.error();
+    auto keys = std::make_unique<X11Keys>(std::move(manager).value(), clock);
+    const auto started = keys->keyInjector.start();
+    if (!started) return started.error();
+    return keys;
+}
+
+template <typename Service>
+Service& oneOf(Service* available, Service& otherwise) {
+    return available != nullptr ? *available : otherwise;
+}
+
+}  // namespace
+
 struct X11Backends::Parts {
-    Parts(std::unique_ptr<SteadyClock> steadyClock, std::unique_ptr<X11EventManager> manager,
+    Parts(std::unique_ptr<SteadyClock> steadyClock, Result<std::unique_ptr<X11Keys>> openedKeys,
           XConnection trayConnection, XConnection windowConnection)
         : clock(std::move(steadyClock)),
-          eventManager(std::move(manager)),
+          unavailable(openedKeys ? Error() : openedKeys.error()),
+          keys(openedKeys ? std::move(openedKeys).value() : nullptr),
           windows(std::move(windowConnection), *clock),
           dockingTray(std::move(trayConnection)) {}
 
     std::unique_ptr<SteadyClock> clock;
-    std::unique_ptr<X11EventManager> eventManager;
-    X11KeyboardLayout keyboardLayout{*eventManager};
-    X11KeyInjector keyInjector{eventManager->runWatch(), *clock};
+    UnavailableKeys unavailable;
+    std::unique_ptr<X11Keys> keys;
+    KeyInjector& keyInjector =
+        oneOf<KeyInjector>(keys ? &keys->keyInjector : nullptr, unavailable.keyInjector);
     script::ScriptRunner scripting{keyInjector};
     X11Windows windows;
     X11DockingTray dockingTray;
     LinuxServices neutral;
     X11SessionCheck sessionCheck{X11SessionCheck::sessionOfProcess()};
+    X11EventManager* const eventManager = keys ? keys->eventManager.get() : nullptr;
     Services services{.clock = *clock,
-                      .eventMonitor = *eventManager,
-                      .hotKeys = *eventManager,
-                      .keyboardLayout = keyboardLayout,
+                      .eventMonitor = oneOf<EventMonitor>(eventManager, unavailable.eventMonitor),
+                      .hotKeys = oneOf<HotKeys>(eventManager, unavailable.hotKeys),
+                      .keyboardLayout = oneOf<KeyboardLayout>(keys ? &keys->keyboardLayout : nullptr,
+                                                              unavailable.keyboardLayout),
                       .keyInjector = keyInjector,
                       .scripting = scripting,
                       .settings = neutral.settings,
@@ -57,24 +92,27 @@ int reportFailure(const Error& error) {
     return EXIT_FAILURE;
 }
 
+Result<void> chooseX11Display() {
+    const auto connection = XConnection::open();
+    if (!connection) return connection.error();
+    // The toolkit would prefer a Wayland display that is offered too.
+    setenv("QT_QPA_PLATFORM", "xcb", 1);
+    return {};
+}
+
 Result<std::unique_ptr<X11Backends>> X11Backends::open() {
-    const auto access = checkX11Access();
-    if (!access) return access.error();
-    auto clock = std::make_unique<SteadyClock>();
-    auto manager = X11EventManager::open(*clock);
-    if (!manager) return manager.error();
     auto trayConnection = XConnection::open();
     if (!trayConnection) return trayConnection.error();
     auto windowConnection = XConnection::open();
     if (!windowConnection) return windowConnection.error();
-    auto parts =
-        std::make_unique<Parts>(std::move(clock), std::move(manager).value(),
-                                std::move(trayConnection).value(), std::move(windowConnection).value());
-    const auto started = parts->keyInjector.start();
-    if (!started) return started.error();
-    // The toolkit would prefer a Wayland display that is offered too.
-    setenv("QT_QPA_PLATFORM", "xcb", 1);
-    return std::unique_ptr<X11Backends>(new X11Backends(std::move(parts)));
+    auto clock = std::make_unique<SteadyClock>();
+    auto keys = openKeys(*clock);
+    const X11SessionCheck check(X11SessionCheck::sessionOfProcess());
+    // What the start-up finds out is told there.
+    if (!keys && check.version() && check.access()) return keys.error();
+    return std::unique_ptr<X11Backends>(new X11Backends(
+        std::make_unique<Parts>(std::move(clock), std::move(keys), std::move(trayConnection).value(),
+                                std::move(windowConnection).value())));
 }
 
 X11Backends::X11Backends(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
@@ -82,7 +120,8 @@ X11Backends::~X11Backends() = default;
 
 Services& X11Backends::services() { return m_parts->services; }
 Windows& X11Backends::windows() { return m_parts->windows; }
-X11EventManager& X11Backends::eventManager() { return *m_parts->eventManager; }
+X11EventManager* X11Backends::eventManager() { return m_parts->eventManager; }
 X11DockingTray& X11Backends::dockingTray() { return m_parts->dockingTray; }
 BusLoop& X11Backends::busLoop() { return m_parts->neutral.busLoop; }
-X11KeyInjector& X11Backends::keyInjector() { return m_parts->keyInjector; }
+
+X11KeyInjector* X11Backends::keyInjector() { return m_parts->keys ? &m_parts->keys->keyInjector : nullptr; }

@@ -15,11 +15,15 @@ struct Services;
 /// Says in one line on standard error why the program cannot start; the exit status.
 int reportFailure(const Error& error);
 
+/// Whether there is an X server to show anything on. Nothing of the toolkit is needed; it is told to use that
+/// server.
+Result<void> chooseX11Display();
+
 /// What stands behind each service in an X11 session, installed for the life of the object.
 class X11Backends {
   public:
-    /// Fails where there is no X server, or one that shows or takes no key events. Nothing of the toolkit is
-    /// needed yet; it will use the same X server.
+    /// Needs a QApplication. In a session that shows and takes no keys the services that have to do with keys
+    /// answer with errors, so that the program can tell the user; fails where not even a window can be shown.
     static Result<std::unique_ptr<X11Backends>> open();
     ~X11Backends();
     X11Backends(const X11Backends&) = delete;
@@ -28,12 +32,13 @@ class X11Backends {
     Services& services();
     Windows& windows();
 
-    // What the event loop has to serve.
-    X11EventManager& eventManager();
+    // What the event loop has to serve. Null in a session without keys.
+    X11EventManager* eventManager();
+    /// To be interrupted by signals.
+    X11KeyInjector* keyInjector();
+
     X11DockingTray& dockingTray();
     BusLoop& busLoop();
-    /// To be interrupted by signals.
-    X11KeyInjector& keyInjector();
 
   private:
     struct Parts;

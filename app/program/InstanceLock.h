@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+/// A file that one process at a time has locked. The system takes the lock back however that process ends;
+/// the file stays.
+class InstanceLock {
+  public:
+    /// `folder` is the user's runtime folder, empty for none: then nothing can be locked and every process
+    /// gets the lock.
+    explicit InstanceLock(const std::string& folder);
+    ~InstanceLock();
+    InstanceLock(const InstanceLock&) = delete;
+    InstanceLock& operator=(const InstanceLock&) = delete;
+
+    /// False while another process has the lock.
+    bool isOurs() const { return m_isOurs; }
+
+  private:
+    int m_descriptor = -1;
+    bool m_isOurs = true;
+};
