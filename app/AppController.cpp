@@ -63,6 +63,8 @@ void AppController::awakeFromNib() {
     installHotKeyHandlers();
     if (!checkAccess()) return;
     m_isAwake = true;
+    m_sessionHint = sessionHint();
+    updateStatusNotice();
     updateMenu();
     installKeyRecorder();
     activateBusyStatusMenu();
@@ -114,6 +116,13 @@ void AppController::tellFaults() {
     }
 }
 
+QString AppController::sessionHint() const {
+    if (!m_services.sessionCheck.seesOnlySomeWindows()) return {};
+    return tr(
+        "In this session Keyrill sees and reaches only the windows of X11 programs. The manual says more "
+        "under \"Configuration\".");
+}
+
 // QCoreApplication::quit() would close each window first, and a window could refuse.
 void AppController::kill() { QCoreApplication::exit(0); }
 
@@ -122,6 +131,7 @@ void AppController::refreshAppleScript() { m_services.scripting.run(""); }
 WelcomePanel& AppController::builtWelcomePanel() {
     if (!m_welcomePanel) {
         m_welcomePanel = std::make_unique<WelcomePanel>(preferences);
+        m_welcomePanel->setHint(m_sessionHint);
         connect(m_welcomePanel.get(), &Panel::willClose, this, &AppController::welcomePanelWillClose);
     }
     return *m_welcomePanel;

@@ -193,6 +193,8 @@ class AppController : public QObject, public SharedController {
     void perform(Action action, QObject* sender);
     void updateMenu();
     void updateStatusNotice();
+    /// What the user should know of this session; empty for nothing.
+    QString sessionHint() const;
     void followGate();
 
     MultiplePlayWindow& builtMultiplePlayWindow();
@@ -235,6 +237,7 @@ class AppController : public QObject, public SharedController {
     std::unique_ptr<AboutPanel> m_aboutPanel;
     std::unique_ptr<WelcomePanel> m_welcomePanel;
     std::vector<QPointer<QWidget>> m_hidden;
+    QString m_sessionHint;
     std::map<HotKeyId, std::string> m_refusedHotKeys;
     std::vector<AlertText> m_toldSaveFailures;
     QTimer m_refreshTimer{this};

@@ -140,6 +140,7 @@ void AppController::noteHotKey(HotKeyId id, const HotKeyState& state) {
 void AppController::updateStatusNotice() {
     QStringList lines;
     for (const auto& [refused, message] : m_refusedHotKeys) lines.append(QString::fromStdString(message));
+    if (!m_sessionHint.isEmpty()) lines.append(m_sessionHint);
     statusItem.setNotice(lines.join(QLatin1Char('\n')));
 }
 

@@ -1,15 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "app/Panel.h"
 
+#include <QBoxLayout>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPushButton>
+
+#include "app/NoticeLine.h"
 
 #include "app/ProgramIcon.h"
 
 Panel::Panel(const QString& title) {
     setWindowTitle(title);
     setWindowIcon(programIcon());
+}
+
+void Panel::setHint(const QString& hint) {
+    if (m_hint == nullptr && !hint.isEmpty()) {
+        m_hint = new NoticeLine(this);
+        if (auto* box = qobject_cast<QBoxLayout*>(layout())) box->insertWidget(0, m_hint);
+    }
+    if (m_hint != nullptr) m_hint->setNotice(hint);
 }
 
 void Panel::closeEvent(QCloseEvent* event) {

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QWidget>
 
+class NoticeLine;
+
 /// An ordinary window of the program. The frame, Escape or a button of its own closes it; it is kept then, to
 /// be shown again. Return presses the button that has the focus, else the default one.
 class Panel : public QWidget {
@@ -11,6 +13,9 @@ class Panel : public QWidget {
 
   public:
     explicit Panel(const QString& title);
+
+    /// Says something at the panel's top that is none of its own matters. Empty takes it away.
+    void setHint(const QString& hint);
 
   signals:
     /// An accepted close event: the user closes the panel. Never when it is merely hidden or minimised.
@@ -22,4 +27,6 @@ class Panel : public QWidget {
 
   private:
     void pressButton();
+
+    NoticeLine* m_hint = nullptr;
 };

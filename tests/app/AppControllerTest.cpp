@@ -163,4 +163,60 @@ TEST_F(AppControllerTest, leavesAHiddenStandInWindowHidden) {
     EXPECT_FALSE(standIn.isVisible());
 }
 
+TEST_F(AppControllerTest, tellsTwoMacrosOfTheSameTextApart) {
+    recordKey(returnKey);
+    recordKey(returnKey);
+    ASSERT_EQ(history().at(0)->text(), history().at(1)->text());
+    MacroManager::macro(1)->setScript("first");
+    MacroManager::macro(2)->setScript("second");
+    history().at(1)->trigger();
+    history().at(0)->trigger();
+    EXPECT_EQ(runs(), (std::vector<std::string>{"first", "second"}));
+}
+
+TEST_F(AppControllerTest, filesThreeRecordingsWithTheLastOnTop) {
+    for (const std::uint32_t key : {returnKey, escapeKey, returnKey}) recordKey(key);
+    std::vector<int> numbers;
+    for (const QAction* item : history()) {
+        numbers.push_back(static_cast<const MacroMenuItem*>(item)->macroId());
+    }
+    EXPECT_EQ(numbers, (std::vector<int>{3, 2, 1}));
+}
+
+TEST_F(AppControllerTest, filesNoEmptyRecordingAndOffersPlayingAllTheSame) {
+    recordKey(returnKey);
+    controller.recordMacro(nullptr);
+    controller.stopMacro(nullptr);
+    EXPECT_EQ(history().size(), 1);
+    EXPECT_TRUE(controller.statusMenu.playMenuItem->isVisible());
+    EXPECT_TRUE(controller.statusMenu.multiplePlayMenuItem->isVisible());
+    EXPECT_TRUE(controller.statusMenu.saveMacroMenuItem->isVisible());
+}
+
+TEST_F(AppControllerTest, leavesSaveAsItWasWhenARecordingStarts) {
+    controller.awakeFromNib();
+    controller.recordMacro(nullptr);
+    EXPECT_FALSE(controller.statusMenu.saveMacroMenuItem->isVisible());
+    controller.stopMacro(nullptr);
+    controller.recordMacro(nullptr);
+    EXPECT_TRUE(controller.statusMenu.saveMacroMenuItem->isVisible());
+}
+
+TEST_F(AppControllerTest, showsAnAmpersandOfATitleAsItIs) {
+    const MacroMenuItem item(QStringLiteral("a&b"));
+    EXPECT_EQ(item.text(), "a&&b");
+    EXPECT_EQ(item.macroId(), 0);
+}
+
+TEST_F(AppControllerTest, hasTheHelpMenuInItsOrder) {
+    QStringList titles;
+    for (const QAction* item : controller.statusMenu.helpMenu->actions()) {
+        titles.append(item->isSeparator() ? QStringLiteral("-") : item->text());
+    }
+    EXPECT_EQ(
+        titles.join(QStringLiteral(", ")).toStdString(),
+        "Documentation, Forum, Product Page, Maker's Website, -, Get Support, Send Feedback, Report a Bug, "
+        "-, Check for Updates..., About Keyrill");
+}
+
 }  // namespace

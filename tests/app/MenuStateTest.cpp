@@ -54,6 +54,40 @@ TEST(MenuStateTest, greysPlayingWhileThereIsNothingToPlay) {
     EXPECT_TRUE(with.promptPlays);
 }
 
+TEST(MenuStateTest, showsSaveFromTheFirstStopOn) {
+    EXPECT_FALSE(menuState({}).saveMacro.visible);
+    EXPECT_FALSE(menuState({.recording = true}).saveMacro.visible);
+    EXPECT_TRUE(menuState({.hasStopped = true}).saveMacro.visible);
+    EXPECT_TRUE(menuState({.recording = true, .hasStopped = true}).saveMacro.visible);
+}
+
+TEST(MenuStateTest, greysSaveWithoutAMacroAndBothFileItemsWhileRecording) {
+    EXPECT_FALSE(menuState({.hasStopped = true}).saveMacro.enabled);
+    EXPECT_TRUE(menuState({.hasStopped = true, .hasMacro = true}).saveMacro.enabled);
+    const MenuState recording = menuState({.recording = true, .overlayShown = true, .hasMacro = true});
+    EXPECT_FALSE(recording.saveMacro.enabled);
+    EXPECT_FALSE(recording.loadMacro.enabled);
+    EXPECT_TRUE(menuState({}).loadMacro.enabled);
+}
+
+TEST(MenuStateTest, greysEverythingWhileTheGateIsShut) {
+    const MenuState state =
+        menuState({.hasStopped = true, .hasMacro = true, .hasHistory = true, .gateShut = true});
+    for (const MenuItemState& item :
+         {state.record, state.stop, state.saveDelay, state.play, state.multiplePlay, state.history,
+          state.saveMacro, state.loadMacro, state.others}) {
+        EXPECT_FALSE(item.enabled);
+    }
+    // The prompt would say that there is nothing to play.
+    EXPECT_TRUE(state.promptPlays);
+}
+
+TEST(MenuStateTest, hidesTheOverlayWhileTheScreenIsLocked) {
+    EXPECT_FALSE(menuState({}).overlayVisible);
+    EXPECT_TRUE(menuState({.overlayShown = true}).overlayVisible);
+    EXPECT_FALSE(menuState({.overlayShown = true, .screenLocked = true}).overlayVisible);
+}
+
 TEST(MenuStateTest, greysTheHistoryWhileItIsEmpty) {
     EXPECT_EQ(menuState({}).history, (MenuItemState{.visible = true, .enabled = false}));
     EXPECT_EQ(menuState({.hasHistory = true}).history, (MenuItemState{.visible = true, .enabled = true}));

@@ -4,6 +4,7 @@
 
 #include "app/AppTest.h"
 #include "app/Journal.h"
+#include "app/NoticeLine.h"
 #include "app/PreferencesPanel.h"
 #include "app/RunLoop.h"
 #include "app/WelcomePanel.h"
@@ -245,6 +246,22 @@ TEST_F(StartUpTest, showsTheControlWindowWhenStartedOnceMore) {
     controller.awakeFromNib();
     controller.showControlWindow();
     EXPECT_EQ(statusItem.windowRequests, 1);
+}
+
+TEST_F(StartUpTest, saysInTheFirstWindowThatNotAllWindowsAreSeen) {
+    platform().sessionCheck.hideSomeWindows();
+    controller.awakeFromNib();
+    const auto hints = controller.welcomePanel()->findChildren<NoticeLine*>();
+    ASSERT_EQ(hints.size(), 1);
+    EXPECT_TRUE(
+        hints.first()->notice().startsWith("In this session Keyrill sees and reaches only the windows"));
+    EXPECT_EQ(statusItem.shownNotice, hints.first()->notice().toStdString());
+}
+
+TEST_F(StartUpTest, saysNothingWhereAllWindowsAreSeen) {
+    controller.awakeFromNib();
+    EXPECT_TRUE(controller.welcomePanel()->findChildren<NoticeLine*>().isEmpty());
+    EXPECT_EQ(statusItem.shownNotice, "");
 }
 
 }  // namespace
