@@ -5,9 +5,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
-#include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/MenuButton.h"
 #include "app/NoticeLine.h"
 #include "app/PanelText.h"
 #include "app/ProgramIcon.h"
@@ -22,8 +22,7 @@ ControlWindow::ControlWindow(QMenu& menu) : m_advice(makeLine({})), m_notice(new
     setWindowTitle(tr("Keyrill"));
     setWindowIcon(programIcon());
 
-    auto* button = new QPushButton(tr("Keyrill &menu"), this);
-    button->setMenu(&menu);
+    auto* button = new MenuButton(tr("Keyrill &menu"), menu, this);
     // The style leaves no room before the arrow.
     button->setMinimumWidth(button->sizeHint().width() + arrowGap);
     auto* words = new QVBoxLayout;

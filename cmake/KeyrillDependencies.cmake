@@ -24,6 +24,8 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus)
 
 if(KEYRILL_BUILD_TESTS)
     find_package(GTest REQUIRED)
+    pkg_check_modules(ATSPI REQUIRED IMPORTED_TARGET atspi-2)
+    pkg_check_modules(GOBJECT REQUIRED IMPORTED_TARGET gobject-2.0)
     include(GoogleTest)
 endif()
 if(KEYRILL_BUILD_BENCH)
