@@ -11,7 +11,7 @@ struct Utf8Character {
     /// Empty for a byte that begins no character there; the length is 1 then.
     std::optional<std::uint32_t> code;
     /// In bytes, 1 to 4.
-    std::size_t length;
+    std::size_t length = 1;
 
     friend bool operator==(const Utf8Character&, const Utf8Character&) = default;
 };

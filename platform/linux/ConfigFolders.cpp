@@ -47,7 +47,7 @@ Environment environmentOfProcess() {
 std::string homeOfProcess() { return g_get_home_dir(); }
 
 std::string programOfProcess() {
-    const std::string image = environmentOfProcess()("APPIMAGE");
+    std::string image = environmentOfProcess()("APPIMAGE");
     if (isAbsolute(image)) return image;
     return std::filesystem::read_symlink("/proc/self/exe");
 }

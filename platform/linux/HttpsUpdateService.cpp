@@ -14,7 +14,7 @@ namespace {
 
 constexpr long connectMilliseconds = 2000;
 constexpr long wholeMilliseconds = 4000;
-constexpr std::size_t greatestAnswer = 64 * 1024;
+constexpr std::size_t greatestAnswer = std::size_t{64} * 1024;
 constexpr long mostRedirects = 5;
 
 struct EndTransfer {
