@@ -29,9 +29,9 @@ std::string nameOf(std::string_view rest, const Utf8Character& character) {
 
 Result<> checkAscii(std::string_view text) {
     const auto isAscii = [](char character) { return static_cast<std::uint8_t>(character) < 0x80; };
-    const auto found = std::find_if_not(text.begin(), text.end(), isAscii);
-    if (found == text.end()) return {};
-    const auto before = text.substr(0, static_cast<std::size_t>(found - text.begin()));
+    const auto length = std::find_if_not(text.begin(), text.end(), isAscii) - text.begin();
+    const std::string_view before = text.substr(0, static_cast<std::size_t>(length));
+    if (before.size() == text.size()) return {};
     const auto line = std::count(before.begin(), before.end(), '\n') + 1;
     const auto column = before.size() - (before.rfind('\n') + 1) + 1;
     const std::string_view rest = text.substr(before.size());
