@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include <signal.h>
+
+#include <algorithm>
+#include <fstream>
+#include <memory>
+
+#include "desktop/DesktopTest.h"
+
+namespace {
+
+/// Several starts of the program in one session, with a session bus or without one.
+class InstanceTest : public testing::TestWithParam<bool> {
+  protected:
+    InstanceTest() {
+        if (GetParam()) desktop.startBus();
+        desktop.startWindowManager();
+    }
+
+    std::unique_ptr<Child> start(const std::vector<std::string>& arguments = {}) {
+        std::vector<std::string> command = {KEYRILL_PRODUCT};
+        command.insert(command.end(), arguments.begin(), arguments.end());
+        return std::make_unique<Child>(command, desktop.options("start" + std::to_string(++m_starts)));
+    }
+    void awaitReady() {
+        ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(key::m); }));
+    }
+
+    Desktop desktop;
+
+  private:
+    int m_starts = 0;
+};
+
+TEST_P(InstanceTest, eightStartsAtOnceEndInOneProgram) {
+    std::vector<std::unique_ptr<Child>> starts(8);
+    std::generate(starts.begin(), starts.end(), [this] { return start(); });
+    const auto running = [&starts] {
+        return std::count_if(starts.begin(), starts.end(),
+                             [](const std::unique_ptr<Child>& program) { return program->isRunning(); });
+    };
+    ASSERT_TRUE(eventually([&running] { return running() == 1; }));
+    awaitReady();
+    EXPECT_EQ(running(), 1);
+    for (const auto& program : starts) {
+        if (program->isRunning()) continue;
+        EXPECT_EQ(program->wait(), 0);
+    }
+}
+
+TEST_P(InstanceTest, aSecondStartWithoutAFileEndsAndLeavesTheFirstAtWork) {
+    const auto first = start();
+    awaitReady();
+    EXPECT_EQ(start()->wait(std::chrono::seconds(5)), 0);
+    EXPECT_TRUE(first->isRunning());
+    EXPECT_TRUE(desktop.isHotKeyTaken(key::m));
+}
+
+TEST_P(InstanceTest, theNextStartAfterAKilledProgramRuns) {
+    const auto first = start();
+    awaitReady();
+    first->signal(SIGKILL);
+    first->wait();
+    const auto second = start();
+    awaitReady();
+    EXPECT_TRUE(second->isRunning());
+}
+
+INSTANTIATE_TEST_SUITE_P(Buses, InstanceTest, testing::Bool(),
+                         [](const auto& bus) { return std::string(bus.param ? "withABus" : "withoutABus"); });
+
+class HandOverTest : public DesktopTest {
+  protected:
+    HandOverTest() {
+        desktop.startBus();
+        std::ofstream(file) << "tell application \"System Events\" to keystroke \"loaded\"\n";
+    }
+
+    int startAndWait(const std::vector<std::string>& arguments) {
+        std::vector<std::string> command = {KEYRILL_PRODUCT};
+        command.insert(command.end(), arguments.begin(), arguments.end());
+        Child program(command, desktop.options("second"));
+        return program.wait(std::chrono::seconds(5));
+    }
+
+    // A name that has to be escaped on the way.
+    const std::string file = desktop.file("a b%20#\xC3\xA9.keyrill");
+};
+
+TEST_F(HandOverTest, aSecondStartsFileIsLoadedAndNotPlayed) {
+    Child first({KEYRILL_PRODUCT}, desktop.options("first"));
+    ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(key::m); }));
+    const Terminal terminal(desktop.display());
+    EXPECT_EQ(startAndWait({file}), 0);
+    press("x");
+    EXPECT_EQ(terminal.typed(1), "x");
+    play();
+    EXPECT_EQ(terminal.typed(7), "xloaded");
+    EXPECT_TRUE(first.isRunning());
+}
+
+TEST_F(HandOverTest, anArgumentsFileIsLoadedAndNotPlayed) {
+    Child first({KEYRILL_PRODUCT, file}, desktop.options("first"));
+    ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(key::m); }));
+    const Terminal terminal(desktop.display());
+    press("x");
+    EXPECT_EQ(terminal.typed(1), "x");
+    play();
+    EXPECT_EQ(terminal.typed(7), "xloaded");
+}
+
+TEST_F(HandOverTest, aSecondStartShowsTheControlWindowBesideATray) {
+    desktop.startTray();
+    Child first({KEYRILL_PRODUCT}, desktop.options("first"));
+    ASSERT_TRUE(eventually([this] { return desktop.tray().icon().has_value(); }));
+    EXPECT_FALSE(desktop.shows(title::control));
+    EXPECT_EQ(startAndWait({}), 0);
+    desktop.awaitWindow(title::control);
+}
+
+}  // namespace
