@@ -111,7 +111,7 @@ std::optional<Error> KeyFileSettings::takeFault() {
 void KeyFileSettings::endTurn() {
     if (!m_isDue) return;
     const std::optional<Error> before = m_lastFailure;
-    const Result<> stored = synchronize();
+    const Result<> stored = KeyFileSettings::synchronize();
     if (!stored && stored.error() != before) m_faults.push_back(stored.error());
 }
 

@@ -18,11 +18,11 @@ std::string LocalMacroFiles::prepareFolder() {
     const std::string support = m_home + "/Library/Application Support";
     std::error_code ignored;
     if (std::filesystem::is_directory(support, ignored)) {
-        const std::string folder = support + "/Keyrill";
+        std::string folder = support + "/Keyrill";
         mkdir(folder.c_str(), 0777);
         return folder;
     }
-    const std::string folder = m_dataFolder + "/keyrill";
+    std::string folder = m_dataFolder + "/keyrill";
     // For the user alone, as the standard asks.
     g_mkdir_with_parents(folder.c_str(), 0700);
     return folder;

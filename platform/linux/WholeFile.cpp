@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr off_t greatestSize = 64 * 1024 * 1024;
+constexpr off_t greatestSize = off_t{64} * 1024 * 1024;
 constexpr mode_t modeOfNewFiles = 0600;
 
 std::string systemsCause() { return std::strerror(errno); }
