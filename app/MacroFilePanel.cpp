@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/MacroFilePanel.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QSettings>
 
+#include "app/MacroFileName.h"
 #include "app/ProgramIcon.h"
 
 namespace {
-
-const QString suffix = QStringLiteral("keyrill");
 
 /// The toolkit's own dialog would keep sizes and visited folders in a file of the user's.
 void keepNoSettings() {
@@ -21,14 +19,6 @@ bool isSandboxed() {
     return QFileInfo::exists(QStringLiteral("/.flatpak-info")) || qEnvironmentVariableIsSet("SNAP");
 }
 
-/// The name with its suffix; as it is where it names a folder to go to.
-QString withSuffix(const QString& name, const QDir& folder) {
-    const bool isFolder = name.isEmpty() || name.endsWith(u'/') || name == QStringLiteral("~") ||
-                          QFileInfo(folder, name).isDir();
-    const bool hasSuffix = name.endsWith(u'.' + suffix, Qt::CaseInsensitive);
-    return isFolder || hasSuffix ? name : name + u'.' + suffix;
-}
-
 }  // namespace
 
 MacroFilePanel::MacroFilePanel(Kind kind, const QString& folder) {
@@ -37,8 +27,8 @@ MacroFilePanel::MacroFilePanel(Kind kind, const QString& folder) {
     setWindowIcon(programIcon());
     setViewMode(List);
     setDirectory(folder);
-    setNameFilter(tr("Keyrill macros (*.%1)").arg(suffix));
-    setDefaultSuffix(suffix);
+    setNameFilter(tr("Keyrill macros (*.%1)").arg(QLatin1String(macroSuffix)));
+    setDefaultSuffix(QLatin1String(macroSuffix));
     if (kind == Kind::save) {
         setWindowTitle(tr("Save Macro"));
         setAcceptMode(AcceptSave);
@@ -54,6 +44,7 @@ QString MacroFilePanel::path() const { return selectedFiles().value(0); }
 
 void MacroFilePanel::accept() {
     auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (acceptMode() == AcceptSave && name != nullptr) name->setText(withSuffix(name->text(), directory()));
+    if (acceptMode() == AcceptSave && name != nullptr)
+        name->setText(macroFileName(name->text(), directory()));
     QFileDialog::accept();
 }

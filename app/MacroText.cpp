@@ -10,6 +10,8 @@ namespace {
 constexpr std::chrono::milliseconds frame{16};
 /// More bytes than fit into a line of any font that can be read.
 constexpr std::size_t keptBytes = 1024;
+/// The characters at the end that are laid out first, and doubled until they fill the line.
+constexpr qsizetype firstTried = 32;
 
 std::string_view endOf(std::string_view text) {
     if (text.size() <= keptBytes) return text;
@@ -48,10 +50,19 @@ void MacroText::frameEnds() {
     if (m_waiting) refresh();
 }
 
+QString MacroText::visibleText() const {
+    const QFontMetrics metrics = fontMetrics();
+    qsizetype length = firstTried;
+    while (length < m_text.size() && metrics.horizontalAdvance(m_text.right(length)) <= width()) length *= 2;
+    QString tail = m_text.right(length);
+    // Half of a character says nothing.
+    if (!tail.isEmpty() && tail.front().isLowSurrogate()) tail.remove(0, 1);
+    return metrics.elidedText(tail, Qt::ElideLeft, width());
+}
+
 void MacroText::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setPen(Qt::white);
     painter.setLayoutDirection(layoutDirection());
-    const QString visible = fontMetrics().elidedText(m_text, Qt::ElideLeft, width());
-    painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, visible);
+    painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, visibleText());
 }

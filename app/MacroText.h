@@ -26,6 +26,8 @@ class MacroText : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    /// As much of the end as fits, with an ellipsis where it was cut.
+    QString visibleText() const;
     void refresh();
     void frameEnds();
 

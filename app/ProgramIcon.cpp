@@ -5,6 +5,7 @@
 #include "app/StatusIcon.h"
 
 QIcon programIcon() {
+    findOwnIcons();
     return QIcon::fromTheme(QStringLiteral("example.orlen.Keyrill"), builtInStatusIcon(StatusImage::normal));
 }
 

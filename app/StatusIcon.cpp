@@ -5,6 +5,8 @@
 #include <QPainterPath>
 #include <QPixmap>
 
+#include "app/ProgramIcon.h"
+
 namespace {
 
 /// All drawing is on a grid of 16 by 16.
@@ -84,5 +86,6 @@ QIcon builtInStatusIcon(StatusImage image) {
 }
 
 QIcon themedStatusIcon(StatusImage image) {
+    findOwnIcons();
     return QIcon::fromTheme(nameOf(image), builtInStatusIcon(image));
 }

@@ -8,7 +8,7 @@
 #include "Player.h"
 #include "Table.h"
 #include "support/XServer.h"
-#include "x11/Terminal.h"
+#include "support/Terminal.h"
 
 namespace {
 

@@ -4,7 +4,6 @@
 #include <QStyleFactory>
 #include <QTimer>
 
-#include "app/ProgramIcon.h"
 #include "app/gallery/Camera.h"
 #include "app/gallery/Palettes.h"
 #include "app/gallery/Scenes.h"
@@ -23,7 +22,6 @@ int main(int argc, char* argv[]) {
     if (arguments.contains(QStringLiteral("--rtl"))) QApplication::setLayoutDirection(Qt::RightToLeft);
     QApplication::setCursorFlashTime(0);
     QApplication::setQuitOnLastWindowClosed(false);
-    findOwnIcons();
 
     const QString folder = arguments.at(1);
     QDir().mkpath(folder);

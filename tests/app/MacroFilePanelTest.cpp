@@ -58,14 +58,6 @@ class MacroFilePanelTest : public testing::Test {
     QString question;
 };
 
-TEST_F(MacroFilePanelTest, addsTheSuffixWhereItIsMissing) {
-    EXPECT_EQ(savedAs(QStringLiteral("hello")), inFolder("hello.keyrill"));
-    EXPECT_EQ(savedAs(QStringLiteral("my.macro")), inFolder("my.macro.keyrill"));
-    EXPECT_EQ(savedAs(QStringLiteral("hello.keyrill")), inFolder("hello.keyrill"));
-    EXPECT_EQ(savedAs(QStringLiteral("HELLO.KEYRILL")), inFolder("HELLO.KEYRILL"));
-    EXPECT_EQ(savedAs(QStringLiteral("two words")), inFolder("two words.keyrill"));
-}
-
 TEST_F(MacroFilePanelTest, asksBeforeAFileIsReplacedThatHasTheSuffix) {
     makeFile("taken.keyrill");
     QTimer::singleShot(0, [this] { refuse(); });
@@ -73,13 +65,11 @@ TEST_F(MacroFilePanelTest, asksBeforeAFileIsReplacedThatHasTheSuffix) {
     EXPECT_TRUE(question.contains(QStringLiteral("taken.keyrill"))) << question.toStdString();
 }
 
-TEST_F(MacroFilePanelTest, asksNothingForANewFileBesideOneWithoutTheSuffix) {
-    makeFile("taken");
-    EXPECT_EQ(savedAs(QStringLiteral("taken")), inFolder("taken.keyrill"));
-}
-
-TEST_F(MacroFilePanelTest, knowsTheHomeFolder) {
+TEST_F(MacroFilePanelTest, savesInTheHomeFolderAndLeavesNoSettingsBehind) {
+    qputenv("XDG_CONFIG_HOME", folder.file("config").c_str());
     EXPECT_EQ(savedAs(QStringLiteral("~/kept")), QDir::homePath() + QStringLiteral("/kept.keyrill"));
+    qunsetenv("XDG_CONFIG_HOME");
+    EXPECT_FALSE(std::filesystem::exists(folder.file("config")));
 }
 
 TEST_F(MacroFilePanelTest, loadsAFileThatIsThere) {
@@ -93,13 +83,6 @@ TEST_F(MacroFilePanelTest, showsMacrosAndFoldersOnly) {
     const MacroFilePanel panel(MacroFilePanel::Kind::open, folderPath());
     EXPECT_EQ(panel.nameFilters(), QStringList(QStringLiteral("Keyrill macros (*.keyrill)")));
     EXPECT_EQ(panel.directory().absolutePath(), folderPath());
-}
-
-TEST_F(MacroFilePanelTest, leavesNoSettingsBehind) {
-    qputenv("XDG_CONFIG_HOME", folder.file("config").c_str());
-    savedAs(QStringLiteral("hello"));
-    qunsetenv("XDG_CONFIG_HOME");
-    EXPECT_FALSE(std::filesystem::exists(folder.file("config")));
 }
 
 }  // namespace
