@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int maxSteps = 1000;
+constexpr int maxSteps = 40;
 
 /// Lets the user stop the run after a while, since scripts may loop for ever.
 class BoundedInjector : public KeyInjector {

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+//
+// The scripts that fuzzing starts from and those that it found: each gets an answer.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "RecordingInjector.h"
+#include "platform/Encoding.h"
+#include "platform/script/Compiler.h"
+#include "platform/script/Formatter.h"
+#include "platform/script/Machine.h"
+#include "support/Child.h"
+
+namespace {
+
+/// A run that goes on for long is stopped.
+void runBounded(const script::Program& program) {
+    int asked = 0;
+    RecordingInjector injector;
+    injector.whenAsked = [&] { injector.cancelled = ++asked > 5; };
+    injector.duringEachStep = [&] { injector.cancelled = injector.calls.size() > 1000; };
+    script::SilentDesktop desktop;
+    script::NoDialogs dialogs;
+    const script::RunResult result = script::Machine(program, {injector, desktop, dialogs}).run();
+    if (result.error) {
+        EXPECT_NE(result.error->number, 0);
+    }
+}
+
+void expectAnAnswer(const std::string& bytes) {
+    const std::string source = decodedText(bytes);
+    const auto compiled = script::compile(source);
+    if (const auto* program = std::get_if<script::Program>(&compiled)) return runBounded(*program);
+    EXPECT_NE(std::get<script::ScriptError>(compiled).number, 0);
+}
+
+TEST(CorpusTest, everyScriptGetsAnAnswerAndKeepsItsLayout) {
+    int count = 0;
+    for (const char* folder : {FUZZ_FOLDER "/seeds", FUZZ_FOLDER "/corpus"}) {
+        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+            SCOPED_TRACE(entry.path());
+            const std::string bytes = contentOf(entry.path());
+            expectAnAnswer(bytes);
+            const auto once = script::formatted(decodedText(bytes));
+            if (const auto* text = std::get_if<std::string>(&once)) {
+                EXPECT_EQ(std::get<std::string>(script::formatted(*text)), *text);
+            }
+            ++count;
+        }
+    }
+    EXPECT_GE(count, 3);
+}
+
+}  // namespace

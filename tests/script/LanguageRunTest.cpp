@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+//
+// Whole scripts by keyrill-script run, judged by a terminal and by other programs at the same server.
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "platform/linux/SteadyClock.h"
+#include "platform/x11/X11ScriptDesktop.h"
+#include "support/Child.h"
+#include "support/Terminal.h"
+#include "support/XServer.h"
+#include "x11/NestedServers.h"
+
+namespace {
+
+/// The program, playing a script on a display.
+class Play {
+  public:
+    Play(const std::string& display, const std::string& script) {
+        std::ofstream(m_folder.file("script")) << script;
+        m_program = std::make_unique<Child>(
+            std::vector<std::string>{KEYRILL_SCRIPT_TOOL, "run", m_folder.file("script")},
+            Child::Options{.environment = {{"DISPLAY", display}, {"XDG_RUNTIME_DIR", m_folder.path()}},
+                           .outputFile = m_folder.file("output")});
+    }
+
+    Child& program() { return *m_program; }
+    std::string output() const { return contentOf(m_folder.file("output")); }
+
+  private:
+    TemporaryFolder m_folder;
+    std::unique_ptr<Child> m_program;
+};
+
+constexpr const char* everything = R"(property greeting : "Grüße, "
+
+on greet(who)
+	tell application "System Events"
+		keystroke greeting & who & return
+	end tell
+end greet
+
+tell application "System Events"
+	repeat with who in {"Ann 😀", "Борис", "Ελένη", "日本"}
+		my greet(contents of who)
+		delay 0.01
+	end repeat
+	considering case
+		if "a" = "A" then keystroke "wrong"
+	end considering
+	try
+		key code "none"
+	on error number n
+		keystroke n as text
+	end try
+	key code 36 -- Return
+end tell
+)";
+
+TEST(LanguageRunTest, aScriptTypesExactlyItsText) {
+    const XServer server;
+    const Terminal terminal(server.display());
+    Play play(server.display(), everything);
+    EXPECT_EQ(play.program().wait(), 0) << play.output();
+    const std::string expected = "Grüße, Ann 😀\nGrüße, Борис\nGrüße, Ελένη\nGrüße, 日本\n-1700\n";
+    EXPECT_EQ(terminal.typed(expected.size()), expected);
+    EXPECT_EQ(play.output(), "");
+}
+
+class CancelInLoopTest : public testing::TestWithParam<const char*> {};
+
+/// X key code of Escape.
+constexpr std::uint8_t escape = 9;
+
+TEST_P(CancelInLoopTest, escapeOnTheRealKeyboardEndsIt) {
+    const NestedServers servers;
+    const Terminal terminal(servers.display());
+    Play play(servers.display(), GetParam());
+    ASSERT_EQ(terminal.typed(1), "a") << play.output();
+    using Clock = std::chrono::steady_clock;
+    servers.user().press(escape);
+    servers.finish();
+    const auto pressed = Clock::now();
+    EXPECT_EQ(play.program().wait(), 1);
+    const std::chrono::duration<double> elapsed = Clock::now() - pressed;
+    servers.user().release(escape);
+    EXPECT_NE(play.output().find("execution error: User canceled. (-128)"), std::string::npos)
+        << play.output();
+    // Held for 0.3 s it counts.
+    EXPECT_LT(elapsed.count(), 0.3 + 0.5);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Loops, CancelInLoopTest,
+    testing::Values("tell application \"System Events\" to keystroke \"a\"\nrepeat\nend repeat\n",
+                    "tell application \"System Events\" to keystroke \"a\"\nset n to 0\nrepeat\ntry\n"
+                    "set n to n + 1\nerror \"x\"\non error\nset n to 0\nend try\nend repeat\n",
+                    "on f(n)\nif n = 0 then return 0\nreturn f(n - 1)\nend f\n"
+                    "tell application \"System Events\" to keystroke \"a\"\nrepeat\nf(100)\nend repeat\n",
+                    "tell application \"System Events\"\nkeystroke \"a\"\nrepeat\ndelay 0.05\nend repeat\n"
+                    "end tell\n"));
+
+TEST(ScriptDesktopTest, whatIsSetIsWhatAnotherProgramGets) {
+    const XServer server;
+    SteadyClock clock;
+    auto ours = X11ScriptDesktop::open(clock, server.display());
+    auto theirs = X11ScriptDesktop::open(clock, server.display());
+    ASSERT_TRUE(ours && theirs);
+    EXPECT_EQ(theirs.value()->clipboard().value(), "");
+    ASSERT_TRUE(ours.value()->setClipboard("Grüße 😀"));
+    EXPECT_EQ(theirs.value()->clipboard().value(), "Grüße 😀");
+    EXPECT_EQ(ours.value()->clipboard().value(), "Grüße 😀");
+    ASSERT_TRUE(theirs.value()->setClipboard("b"));
+    EXPECT_TRUE(eventually([&] { return ours.value()->clipboard().value() == "b"; }));
+}
+
+TEST(ScriptDesktopTest, aPasteTypedRightBehindFindsTheClipboard) {
+    const XServer server;
+    const Terminal terminal(
+        server.display(),
+        {.xterm = {"-xrm", "XTerm*VT100.translations: #override Ctrl<Key>v: insert-selection(CLIPBOARD)"}});
+    Play play(server.display(),
+              "set the clipboard to \"pasted é\"\ntell application \"System Events\"\n"
+              "keystroke \"v\" using control down\ndelay 0.5\nend tell\n");
+    EXPECT_EQ(play.program().wait(), 0) << play.output();
+    EXPECT_EQ(terminal.typed(9), "pasted é");
+}
+
+}  // namespace
