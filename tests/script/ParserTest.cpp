@@ -106,4 +106,46 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"a whole exponent form is real", "delay 1e2", "(delay real 100)"},
                     Row{"names", "keystroke foo & |b c|", "(keystroke (& name foo name b c))"}));
 
+INSTANTIATE_TEST_SUITE_P(
+    Statements, ParserTest,
+    testing::Values(
+        Row{"set", "set x to 1", "(set name x 1)"},
+        Row{"a pattern", "set {a, b} to c", "(set (list name a name b) name c)"},
+        Row{"copy", "copy 1 to x", "(copy name x 1)"},
+        Row{"if", "if a then\nb\nelse if c\nd\nelse\ne\nend",
+            "(if name a (do (evaluate name b)) name c (do (evaluate name d)) (do (evaluate name e)))"},
+        Row{"if in one line", "if a then return 1", "(if name a (do (return 1)))"},
+        Row{"while", "repeat while a\nend", "(repeat-while name a)"},
+        Row{"until", "repeat until a\nend", "(repeat-until name a)"},
+        Row{"a range", "repeat with i from 1 to 9 by 2\nend", "(repeat-from i 1 9 2)"},
+        Row{"a list", "repeat with x in {1}\nend", "(repeat-in x (list 1))"},
+        Row{"try", "try\na\non error m number n\nb\nend",
+            "(try (do (evaluate name a)) (on-error (part name m) (part name n) (evaluate name b)))"},
+        Row{"error", "error \"a\" number 5", "(error (part \"a\") (part 5))"},
+        Row{"a handler", "on f(a, b)\nreturn a\nend f",
+            "(handler f (parameter name a) (parameter name b) (return name a))"},
+        Row{"a property", "property p : 5", "(property p 5)"},
+        Row{"names for the whole script", "global a, b", "(global name a name b)"},
+        Row{"considering", "considering case\na\nend", "(considering (evaluate name a))"},
+        Row{"timeout", "with timeout of 5 seconds\na\nend timeout", "(timeout 5 (evaluate name a))"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Terms, ParserTest,
+    testing::Values(
+        Row{"a call", "f(1, x)", "(evaluate (call f 1 name x))"},
+        Row{"a call of the script's own", "my f(1)", "(evaluate (call-to me (call f 1)))"},
+        Row{"an element", "item 2 of L", "(evaluate (item 2 name L))"},
+        Row{"a range of elements", "items 2 thru 3 of L", "(evaluate (range-item 2 3 name L))"},
+        Row{"an ordinal", "last word of t", "(evaluate (word (negate 1) name t))"},
+        Row{"a possessive", "x's item 2", "(evaluate (item 2 name x))"},
+        Row{"of groups from the right", "a of b of c", "(evaluate (property-of a (property-of b name c)))"},
+        Row{"as goes on behind its class", "1 + 2 as text & \"x\"", "(evaluate (& (as text (+ 1 2)) \"x\"))"},
+        Row{"joining binds tighter than as", "\"x\" & n as text", "(evaluate (as text (& \"x\" name n)))"},
+        Row{"not is looser than equal", "not a = b", "(evaluate (not (= name a name b)))"},
+        Row{"and is tighter than or", "a or b and c", "(evaluate (or name a (and name b name c)))"},
+        Row{"operators of several words", "a is not in b", "(evaluate (not (in name a name b)))"},
+        Row{"the longest operator counts", "a is less than or equal to b", "(evaluate (<= name a name b))"},
+        Row{"a command's parameters", "random number from 1 to 6", "(random-number 1 6)"},
+        Row{"a record", "{a:1, b:x}", "(evaluate (record (field a 1) (field b name x)))"}));
+
 }  // namespace
