@@ -12,17 +12,14 @@
 #include "app/RecorderWindow.h"
 #include "app/SplashWindow.h"
 #include "app/WelcomePanel.h"
-#include "engine/EngineState.h"
 #include "engine/HotKeyCenter.h"
 #include "engine/KeyRecorder.h"
-#include "platform/Addresses.h"
 #include "platform/Features.h"
 #include "platform/ScreenLock.h"
 #include "platform/ScriptingService.h"
 #include "platform/Services.h"
 #include "platform/SessionCheck.h"
 #include "platform/SettingsStore.h"
-#include "platform/Workspace.h"
 #include "prefs/Settings.h"
 
 namespace {

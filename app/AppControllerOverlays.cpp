@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QGuiApplication>
 #include <QScreen>
-#include <algorithm>
 
 #include "app/AboutPanel.h"
 #include "app/AlertTexts.h"

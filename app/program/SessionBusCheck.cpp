@@ -6,6 +6,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
@@ -47,7 +48,7 @@ std::string valueOf(std::string_view address, std::string_view key) {
 
 /// The socket's name in the form of the system: an abstract one begins with a zero byte.
 std::string socketName(const std::string& address) {
-    const std::string path = valueOf(address, "path");
+    std::string path = valueOf(address, "path");
     if (!path.empty()) return path;
     const std::string abstractName = valueOf(address, "abstract");
     return abstractName.empty() ? std::string() : '\0' + abstractName;

@@ -6,6 +6,7 @@
 #include "app/AppTest.h"
 #include "app/Journal.h"
 #include "app/PreferencesPanel.h"
+#include "platform/Features.h"
 
 namespace {
 
@@ -105,12 +106,24 @@ TEST_F(SaveOrderTest, writesInThisOrder) {
     controller.stopShortcutText.setKeyCombo({});
     controller.launchOnLoginButton.setOn(true);
     controller.savePreferences(nullptr);
-    EXPECT_EQ(journal, (Journal{"write recordCode 15", "write recordFlags 1310720", "write stopCode -1",
-                                "write stopFlags 0", "write playCode 35", "write playFlags 1310720",
-                                "write multiplePlayCode 46", "write multiplePlayFlags 1310720",
-                                "write checkForUpdatesOnLaunch false", "write launchOnLogin true",
-                                "login item on", "synchronize", "register record", "register stop",
-                                "register play", "register multiplePlay"}));
+    Journal expected = {"write recordCode 15",       "write recordFlags 1310720",
+                        "write stopCode -1",         "write stopFlags 0",
+                        "write playCode 35",         "write playFlags 1310720",
+                        "write multiplePlayCode 46", "write multiplePlayFlags 1310720"};
+    if (features::updateCheck) expected.emplace_back("write checkForUpdatesOnLaunch false");
+    for (const char* entry : {"write launchOnLogin true", "login item on", "synchronize", "register record",
+                              "register stop", "register play", "register multiplePlay"}) {
+        expected.emplace_back(entry);
+    }
+    EXPECT_EQ(journal, expected);
+}
+
+TEST_F(PreferencesTest, leavesTheStoredSwitchOfAnUpdateCheckThatItDoesNotOffer) {
+    platform().settings.put("checkForUpdatesOnLaunch", 1);
+    controller.preferences.offersUpdateCheck = false;
+    controller.savePreferences(nullptr);
+    EXPECT_EQ(stored("checkForUpdatesOnLaunch"), 1);
+    EXPECT_EQ(stored("recordCode"), 15);
 }
 
 TEST_F(PreferencesTest, writesTheFileOnce) {
@@ -208,13 +221,13 @@ TEST_F(PreferencesTest, switchesHotKeysOffWhileThePanelIsOpen) {
 
 TEST_F(PreferencesTest, savesWhenThePanelClosesButNotWhenItIsHidden) {
     controller.showPreferences(nullptr);
-    controller.checkForUpdatesOnLaunchButton.setOn(true);
+    controller.launchOnLoginButton.setOn(true);
     controller.preferencesWindow()->hide();
     EXPECT_EQ(platform().settings.writes(), 0);
     EXPECT_FALSE(state().hotKeysEnabled);
     controller.preferencesWindow()->show();
     controller.preferencesWindow()->close();
-    EXPECT_EQ(stored("checkForUpdatesOnLaunch"), 1);
+    EXPECT_EQ(stored("launchOnLogin"), 1);
     EXPECT_TRUE(state().hotKeysEnabled);
 }
 

@@ -203,17 +203,6 @@ TEST_F(StartUpTest, opensThePreferencesEachTimeThatTheWelcomePanelCloses) {
     }
 }
 
-TEST_F(StartUpTest, checksForUpdatesOnlyWhenTheSettingIsThereAndNotZero) {
-    controller.awakeFromNib();
-    EXPECT_FALSE(controller.runCheckForUpdates);
-    platform().settings.put("checkForUpdatesOnLaunch", 0);
-    controller.awakeFromNib();
-    EXPECT_FALSE(controller.runCheckForUpdates);
-    platform().settings.put("checkForUpdatesOnLaunch", 2);
-    controller.awakeFromNib();
-    EXPECT_TRUE(controller.runCheckForUpdates);
-}
-
 TEST_F(StartUpTest, replacesWhatWasRegisteredBeforeTheSettingsWereRead) {
     platform().settings.put("recordCode", 15);
     platform().settings.put("recordFlags", 0x140000);
