@@ -54,7 +54,8 @@ class DesktopTest : public testing::Test {
         // Painted, it also knows that it has the focus. The manager may have moved it meanwhile.
         ASSERT_TRUE(eventually([&] {
             const std::optional<ScreenWindow> now = desktop.window(title);
-            return now && desktop.hasFocus(*now) && desktop.screen().colours(*now) > fewestColours;
+            return now && desktop.hasFocus(*now) && desktop.screen().activeWindow() == now->number &&
+                   desktop.screen().colours(*now) > fewestColours;
         }));
     }
     /// Closes a window by the window manager's key.

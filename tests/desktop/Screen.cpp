@@ -25,6 +25,7 @@ bool hasWord(const std::string& words, const std::string& word) {
 Screen::Screen(const std::string& display)
     : m_connection(XConnection::open(display).value()),
       m_name(m_connection.atom("_NET_WM_NAME")),
+      m_active(m_connection.atom("_NET_ACTIVE_WINDOW")),
       m_unmapped(xcb_generate_id(m_connection)) {
     xcb_create_window(m_connection, 0, m_unmapped, m_connection.root(), -1, -1, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
@@ -81,6 +82,14 @@ std::uint32_t Screen::focus() const {
     const XReply<xcb_get_input_focus_reply_t> reply(
         xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
     return reply->focus;
+}
+
+std::uint32_t Screen::activeWindow() const {
+    const auto question =
+        xcb_get_property(m_connection, 0, m_connection.root(), m_active, XCB_ATOM_WINDOW, 0, 1);
+    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection, question, nullptr));
+    if (!reply || reply->value_len != 1) return XCB_WINDOW_NONE;
+    return *static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
 }
 
 // A window that is not on the screen gets no grab, but an answer that tells of another's.

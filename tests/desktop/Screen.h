@@ -41,6 +41,8 @@ class Screen {
 
     /// Who gets the keys.
     std::uint32_t focus() const;
+    /// Which window the window manager takes for the active one; 0 if none.
+    std::uint32_t activeWindow() const;
     /// Whether a client has all keys for itself, as open menus have. Nobody notices the question.
     bool isKeyboardGrabbed() const;
     /// Whether a selection has an owner; trays and compositors are found by theirs.
@@ -53,5 +55,6 @@ class Screen {
 
     XConnection m_connection;
     xcb_atom_t m_name;
+    xcb_atom_t m_active;
     xcb_window_t m_unmapped;
 };

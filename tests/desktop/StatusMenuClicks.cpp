@@ -18,21 +18,30 @@ constexpr std::size_t fewestColours = 4;
 }  // namespace
 
 StatusMenuClicks::StatusMenuClicks(const Desktop& desktop) : m_desktop(desktop) {
-    const auto isPainted = [this] {
-        const std::optional<ScreenWindow> icon = m_desktop.tray().icon();
-        // Nobody clicks at a place where nothing is to be seen yet.
-        if (!icon || m_desktop.screen().colours(*icon) < fewestColours) return false;
-        m_icon = *icon;
-        return true;
-    };
-    if (!eventually(isPainted)) throw std::runtime_error("no icon in the tray");
+    if (!eventually([this] { return icon().has_value(); })) throw std::runtime_error("no icon in the tray");
+}
+
+std::optional<ScreenWindow> StatusMenuClicks::icon() const {
+    const std::optional<ScreenWindow> found = m_desktop.tray().icon();
+    // Nobody clicks at a place where nothing is to be seen yet.
+    return found && m_desktop.screen().colours(*found) >= fewestColours ? found : std::nullopt;
 }
 
 void StatusMenuClicks::open() {
-    m_desktop.click(m_icon.middleX(), m_icon.middleY(), isDrawnByTray() ? 3 : 1);
+    std::optional<ScreenWindow> clicked;
     std::optional<ScreenWindow> opened;
-    if (!eventually([&] { return (opened = menu()).has_value() && m_desktop.screen().isKeyboardGrabbed(); }))
-        throw std::runtime_error("no menu");
+    // Trays move their icons while they settle; a click beside is one for nobody.
+    const auto clickWhereItIs = [&] {
+        opened = menu();
+        if (opened && m_desktop.screen().isKeyboardGrabbed()) return true;
+        const std::optional<ScreenWindow> now = icon();
+        if (!opened && now && (!clicked || now->x != clicked->x || now->y != clicked->y)) {
+            clicked = now;
+            m_desktop.click(now->middleX(), now->middleY(), isDrawnByTray() ? 3 : 1);
+        }
+        return false;
+    };
+    if (!eventually(clickWhereItIs)) throw std::runtime_error("no menu");
     m_menu = *opened;
 }
 

@@ -25,11 +25,11 @@ class StatusMenuClicks {
 
   private:
     bool isDrawnByTray() const { return m_desktop.tray().kind() == TrayKind::statusNotifier; }
+    std::optional<ScreenWindow> icon() const;
     std::optional<ScreenWindow> menu() const;
     void chooseAt(int y);
     void awaitClosed() const;
 
     const Desktop& m_desktop;
-    ScreenWindow m_icon;
     ScreenWindow m_menu;
 };
