@@ -10,9 +10,13 @@
 #include "core/MacroManager.h"
 #include "engine/EngineState.h"
 #include "engine/SharedController.h"
+#include "platform/linux/UpdateCheck.h"
 
 // The program as it is, which in addition prints when it is ready and the script of each recording, for
-// tools/demonstrate and the desktop tests. Given a file, it starts with the script in it to play.
+// tools/demonstrate and the desktop tests.
+//
+// keyrill-demonstration [--updates URL AUTHORITIES] [SCRIPT]: starts with the script in that file to play;
+// asks that URL for the newest version and believes those authorities.
 
 namespace {
 
@@ -36,7 +40,15 @@ class PrintingController : public SharedController {
     SharedController& m_controller;
 };
 
-void loadScript(const char* file) {
+/// Takes what it needs from the arguments.
+Result<std::unique_ptr<X11Backends>> openBackends(QStringList& arguments) {
+    if (arguments.value(0) != QStringLiteral("--updates")) return X11Backends::open();
+    const UpdateSource updates{arguments.value(1).toStdString(), arguments.value(2).toStdString()};
+    arguments = arguments.mid(3);
+    return X11Backends::open(updates);
+}
+
+void loadScript(const std::string& file) {
     std::ifstream stream(file, std::ios::binary);
     std::ostringstream content;
     content << stream.rdbuf();
@@ -50,12 +62,13 @@ int main(int argc, char* argv[]) {
     const auto display = chooseX11Display();
     if (!display) return reportFailure(display.error());
     const QApplication application(argc, argv);
-    const auto backends = X11Backends::open();
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    const auto backends = openBackends(arguments);
     if (!backends) return reportFailure(backends.error());
     Program program(*backends.value());
     PrintingController printing(program.controller());
     const SharedControllerScope scope(printing);
-    if (argc > 1) loadScript(argv[1]);
+    if (!arguments.isEmpty()) loadScript(arguments.first().toStdString());
     // Queued behind the start-up.
     QTimer::singleShot(0, [] {
         std::puts("-- ready");

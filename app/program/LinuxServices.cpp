@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/program/LinuxServices.h"
 
-#include "platform/Addresses.h"
 #include "platform/linux/BusAddresses.h"
 #include "platform/linux/ConfigFolders.h"
-#include "platform/linux/UpdateCheck.h"
 
-LinuxServices::LinuxServices()
+LinuxServices::LinuxServices(const UpdateSource& updates)
     : settings(configFoldersOfProcess(), [this] { turnEnd.start(); }),
       loginItems(configFoldersOfProcess(), programOfProcess()),
-      updateService(makeUpdateService({.url = std::string(addresses::updateServiceUrl)})),
+      updateService(makeUpdateService(updates)),
       macroFiles(homeOfProcess(), userDataFolder(environmentOfProcess(), homeOfProcess())),
       notifications(busLoop, busAddresses(environmentOfProcess()).session),
       screenLock(busLoop, busAddresses(environmentOfProcess()), environmentOfProcess()("XDG_SESSION_ID")) {

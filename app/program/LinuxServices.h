@@ -12,11 +12,12 @@
 #include "platform/linux/KeyFileSettings.h"
 #include "platform/linux/LocalMacroFiles.h"
 #include "platform/linux/MachineFacts.h"
+#include "platform/linux/UpdateCheck.h"
 #include "platform/linux/XdgWorkspace.h"
 
 /// The services that are the same in every session, joined with the event loop. Can be made before the loop.
 struct LinuxServices {
-    LinuxServices();
+    explicit LinuxServices(const UpdateSource& updates);
     LinuxServices(const LinuxServices&) = delete;
     LinuxServices& operator=(const LinuxServices&) = delete;
 

@@ -7,6 +7,7 @@
 
 #include "app/program/LinuxServices.h"
 #include "app/program/UnavailableKeys.h"
+#include "platform/Addresses.h"
 #include "platform/Services.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/script/ScriptRunner.h"
@@ -50,12 +51,13 @@ Service& oneOf(Service* available, Service& otherwise) {
 
 struct X11Backends::Parts {
     Parts(std::unique_ptr<SteadyClock> steadyClock, Result<std::unique_ptr<X11Keys>> openedKeys,
-          XConnection trayConnection, XConnection windowConnection)
+          XConnection trayConnection, XConnection windowConnection, const UpdateSource& updates)
         : clock(std::move(steadyClock)),
           unavailable(openedKeys ? Error() : openedKeys.error()),
           keys(openedKeys ? std::move(openedKeys).value() : nullptr),
           windows(std::move(windowConnection), *clock),
-          dockingTray(std::move(trayConnection)) {}
+          dockingTray(std::move(trayConnection)),
+          neutral(updates) {}
 
     std::unique_ptr<SteadyClock> clock;
     UnavailableKeys unavailable;
@@ -101,6 +103,10 @@ Result<void> chooseX11Display() {
 }
 
 Result<std::unique_ptr<X11Backends>> X11Backends::open() {
+    return open({.url = std::string(addresses::updateServiceUrl)});
+}
+
+Result<std::unique_ptr<X11Backends>> X11Backends::open(const UpdateSource& updates) {
     auto trayConnection = XConnection::open();
     if (!trayConnection) return trayConnection.error();
     auto windowConnection = XConnection::open();
@@ -112,7 +118,7 @@ Result<std::unique_ptr<X11Backends>> X11Backends::open() {
     if (!keys && check.version() && check.access()) return keys.error();
     return std::unique_ptr<X11Backends>(new X11Backends(
         std::make_unique<Parts>(std::move(clock), std::move(keys), std::move(trayConnection).value(),
-                                std::move(windowConnection).value())));
+                                std::move(windowConnection).value(), updates)));
 }
 
 X11Backends::X11Backends(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}

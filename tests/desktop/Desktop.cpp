@@ -34,11 +34,17 @@ std::string unusedName(const Desktop& desktop, const std::string& name) {
     return name + std::to_string(number);
 }
 
-std::vector<std::string> commandFor(const Desktop& desktop, const std::string& script) {
-    if (script.empty()) return {KEYRILL_PROGRAM};
+std::vector<std::string> commandWith(const std::vector<std::string>& arguments) {
+    std::vector<std::string> command = {KEYRILL_PROGRAM};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    return command;
+}
+
+std::vector<std::string> argumentsFor(const Desktop& desktop, const std::string& script) {
+    if (script.empty()) return {};
     const std::string file = desktop.file("script");
     std::ofstream(file, std::ios::binary) << script;
-    return {KEYRILL_PROGRAM, file};
+    return {file};
 }
 
 }  // namespace
@@ -187,8 +193,11 @@ std::vector<std::string> Desktop::keysDown() const {
 }
 
 Keyrill::Keyrill(const Desktop& desktop, const std::string& script)
+    : Keyrill(desktop, argumentsFor(desktop, script)) {}
+
+Keyrill::Keyrill(const Desktop& desktop, const std::vector<std::string>& arguments)
     : m_log(desktop.file(unusedName(desktop, "keyrill.log"))),
-      m_child(commandFor(desktop, script), desktop.options(std::filesystem::path(m_log).filename())) {
+      m_child(commandWith(arguments), desktop.options(std::filesystem::path(m_log).filename())) {
     awaitOrThrow("Keyrill", [this] { return output().find("-- ready\n") != std::string::npos; });
 }
 

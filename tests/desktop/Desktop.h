@@ -110,6 +110,7 @@ class Keyrill {
   public:
     /// With the text as the script to play, if it is not empty.
     explicit Keyrill(const Desktop& desktop, const std::string& script = {});
+    Keyrill(const Desktop& desktop, const std::vector<std::string>& arguments);
 
     Child& child() { return m_child; }
     std::string output() const;

@@ -10,46 +10,12 @@
 #include <sstream>
 
 #include "linux/desktop/HungResolver.h"
+#include "support/Certificates.h"
 #include "support/Child.h"
 
 namespace {
 
 using std::chrono::seconds;
-
-/// An authority's certificate, and one by which it vouches for "localhost". Made once for all tests.
-class Certificates {
-  public:
-    Certificates() {
-        make("authority", {"-subj", "/CN=Test authority"});
-        make("server",
-             {"-subj", "/CN=localhost", "-addext", "subjectAltName=DNS:localhost", "-addext",
-              "basicConstraints=CA:FALSE", "-CA", path("authority.pem"), "-CAkey", path("authority.key")});
-        make("stranger", {"-subj", "/CN=Another authority"});
-    }
-    std::string path(const std::string& name) const { return m_folder.file(name); }
-
-  private:
-    void make(const std::string& name, const std::vector<std::string>& more) const {
-        std::vector<std::string> command = {"openssl",
-                                            "req",
-                                            "-x509",
-                                            "-newkey",
-                                            "ec",
-                                            "-pkeyopt",
-                                            "ec_paramgen_curve:prime256v1",
-                                            "-nodes",
-                                            "-days",
-                                            "2",
-                                            "-keyout",
-                                            path(name + ".key"),
-                                            "-out",
-                                            path(name + ".pem")};
-        command.insert(command.end(), more.begin(), more.end());
-        outputOf(command);
-    }
-
-    TemporaryFolder m_folder;
-};
 
 class UpdateCheckTest : public testing::Test {
   protected:

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/DesktopTest.h"
+#include "x11/NestedServers.h"
+
+namespace {
+
+/// The program at a server that lets nobody press keys; its user has a real keyboard.
+class AlertTest : public testing::Test {
+  protected:
+    AlertTest() {
+        desktop.startWindowManager();
+        // Nobody's hot key tells here that the program is ready.
+        program.emplace(std::vector<std::string>{KEYRILL_PRODUCT}, desktop.options("product.log"));
+        std::optional<ScreenWindow> alert;
+        EXPECT_TRUE(eventually([&] {
+            alert = desktop.window(title);
+            return alert && desktop.hasFocus(*alert) && desktop.screen().activeWindow() == alert->number;
+        }));
+    }
+
+    static constexpr const char* title = "The X server must have the XTEST extension, but it has not.";
+    static constexpr std::uint8_t keyReturn = 36;
+
+    NestedServers servers{{"-extension", "XTEST"}};
+    Desktop desktop{servers.display()};
+    std::optional<Child> program;
+};
+
+TEST_F(AlertTest, quitEndsTheProgram) {
+    servers.user().tap(key::escape);
+    servers.user().finish();
+    EXPECT_EQ(program->wait(), 0);
+}
+
+TEST_F(AlertTest, theDocumentationIsOpenedAndThenTheProgramEnds) {
+    servers.user().tap(keyReturn);
+    servers.user().finish();
+    EXPECT_EQ(program->wait(), 0);
+}
+
+}  // namespace
