@@ -44,9 +44,16 @@ std::map<std::string, std::string> environmentFor(const XServer& server, const s
             {"QT_QPA_PLATFORM", "xcb"}};
 }
 
+/// The greeting of the first start is no part of later ones.
+void greetNobody(const std::string& home) {
+    std::filesystem::create_directories(home + "/config/keyrill");
+    std::ofstream(home + "/config/keyrill/keyrill.conf") << "[Settings]\nnotFirstRun=true\n";
+}
+
 Start startOnce(const std::string& program) {
     const XServer server;
     const TemporaryFolder home;
+    greetNobody(home.path());
     TrayHost host(server.display());
     const auto begin = std::chrono::steady_clock::now();
     const Child child({program}, {.environment = environmentFor(server, home.path())});

@@ -7,8 +7,8 @@
 
 #include "Player.h"
 #include "Table.h"
-#include "support/XServer.h"
 #include "support/Terminal.h"
+#include "support/XServer.h"
 
 namespace {
 

@@ -61,6 +61,8 @@ class DesktopTest : public testing::Test {
     /// Closes a window by the window manager's key.
     void close(const char* title) const {
         giveFocus(title);
+        // A shortcut field holds all keys until the last one is let go.
+        ASSERT_TRUE(eventually([this] { return !desktop.screen().isKeyboardGrabbed(); }));
         press("alt+F4");
         ASSERT_TRUE(eventually([&] { return !desktop.shows(title); }));
     }
