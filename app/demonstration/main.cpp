@@ -10,7 +10,6 @@
 #include "core/MacroManager.h"
 #include "engine/EngineState.h"
 #include "engine/SharedController.h"
-#include "platform/linux/UpdateCheck.h"
 
 // The program as it is, which in addition prints when it is ready and the script of each recording, for
 // tools/demonstrate and the desktop tests.
@@ -43,9 +42,10 @@ class PrintingController : public SharedController {
 /// Takes what it needs from the arguments.
 Result<std::unique_ptr<X11Backends>> openBackends(QStringList& arguments) {
     if (arguments.value(0) != QStringLiteral("--updates")) return X11Backends::open();
-    const UpdateSource updates{arguments.value(1).toStdString(), arguments.value(2).toStdString()};
+    const std::string url = arguments.value(1).toStdString();
+    const std::string authorities = arguments.value(2).toStdString();
     arguments = arguments.mid(3);
-    return X11Backends::open(updates);
+    return X11Backends::open(url, authorities);
 }
 
 void loadScript(const std::string& file) {

@@ -103,10 +103,11 @@ Result<void> chooseX11Display() {
 }
 
 Result<std::unique_ptr<X11Backends>> X11Backends::open() {
-    return open({.url = std::string(addresses::updateServiceUrl)});
+    return open(std::string(addresses::updateServiceUrl), {});
 }
 
-Result<std::unique_ptr<X11Backends>> X11Backends::open(const UpdateSource& updates) {
+Result<std::unique_ptr<X11Backends>> X11Backends::open(const std::string& updateUrl,
+                                                       const std::string& authorities) {
     auto trayConnection = XConnection::open();
     if (!trayConnection) return trayConnection.error();
     auto windowConnection = XConnection::open();
@@ -118,7 +119,7 @@ Result<std::unique_ptr<X11Backends>> X11Backends::open(const UpdateSource& updat
     if (!keys && check.version() && check.access()) return keys.error();
     return std::unique_ptr<X11Backends>(new X11Backends(
         std::make_unique<Parts>(std::move(clock), std::move(keys), std::move(trayConnection).value(),
-                                std::move(windowConnection).value(), updates)));
+                                std::move(windowConnection).value(), UpdateSource{updateUrl, authorities})));
 }
 
 X11Backends::X11Backends(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "platform/Result.h"
 
@@ -11,7 +12,6 @@ class X11DockingTray;
 class X11EventManager;
 class X11KeyInjector;
 struct Services;
-struct UpdateSource;
 
 /// Says in one line on standard error why the program cannot start; the exit status.
 int reportFailure(const Error& error);
@@ -26,8 +26,10 @@ class X11Backends {
     /// Needs a QApplication. In a session that shows and takes no keys the services that have to do with keys
     /// answer with errors, so that the program can tell the user; fails where not even a window can be shown.
     static Result<std::unique_ptr<X11Backends>> open();
-    /// The same, with another place to ask for the newest version.
-    static Result<std::unique_ptr<X11Backends>> open(const UpdateSource& updates);
+    /// The same, with another place to ask for the newest version and a file with the certificates of the
+    /// authorities that count there.
+    static Result<std::unique_ptr<X11Backends>> open(const std::string& updateUrl,
+                                                     const std::string& authorities);
     ~X11Backends();
     X11Backends(const X11Backends&) = delete;
     X11Backends& operator=(const X11Backends&) = delete;
