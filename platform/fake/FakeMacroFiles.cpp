@@ -20,7 +20,7 @@ Result<std::string> FakeMacroFiles::read(const std::string& path) const {
 
 Result<> FakeMacroFiles::write(const std::string& path, std::string_view text) {
     if (const auto error = m_nextError.take()) return *error;
-    const Result<> ascii = checkAscii(text);
+    Result<> ascii = checkAscii(text);
     if (ascii) m_files[path] = text;
     return ascii;
 }

@@ -30,9 +30,12 @@ HungResolver::~HungResolver() {
     ended.notify_all();
 }
 
-/// Stands before the C library's own.
-extern "C" __attribute__((visibility("default"))) int getaddrinfo(const char* node, const char* service,
-                                                                  const addrinfo* hints, addrinfo** result) {
+/// Stands before the C library's own, for all that is linked into this program.
+extern "C" __attribute__((visibility("default"))) int resolve(const char* node, const char* service,
+                                                              const addrinfo* hints,
+                                                              addrinfo** result) __asm__("getaddrinfo");
+
+int resolve(const char* node, const char* service, const addrinfo* hints, addrinfo** result) {
     if (node != nullptr && std::string_view(node) == "hung.example") {
         std::unique_lock lock(mutex);
         ended.wait(lock, [] { return !isHung; });
