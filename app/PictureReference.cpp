@@ -9,7 +9,7 @@ QImage readPicture(const QString& path, QSize size) {
     for (const char* ending : {".svg", ".png"}) {
         QImageReader reader(path + QLatin1String(ending));
         reader.setScaledSize(size);
-        const QImage image = reader.read();
+        QImage image = reader.read();
         if (!image.isNull()) return image;
     }
     return {};
