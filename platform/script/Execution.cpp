@@ -72,7 +72,7 @@ Value Execution::popResolved() {
     Fallible<Value> found = resolved(std::move(value));
     if (auto* failure = std::get_if<Failure>(&found)) {
         fail(std::move(*failure));
-        return Value();
+        return {};
     }
     return std::get<Value>(std::move(found));
 }
@@ -141,7 +141,7 @@ void Execution::enterHandler(std::uint32_t index, std::size_t arguments) {
 
 /// What the handler had begun is undone.
 void Execution::leaveHandler(Value value) {
-    if (m_frames.size() == 1) return finish(std::move(value));
+    if (m_frames.size() == 1) return finish(value);
     const Frame frame = std::move(m_frames.back());
     m_frames.pop_back();
     m_stack.resize(frame.base);
@@ -152,7 +152,7 @@ void Execution::leaveHandler(Value value) {
     push(std::move(value));
 }
 
-void Execution::finish(Value value) { m_result = RunResult{RunEnd::finished, std::nullopt, spelled(value)}; }
+void Execution::finish(const Value& value) { m_result = RunResult{RunEnd::finished, std::nullopt, spelled(value)}; }
 
 void Execution::pushTry(std::uint32_t target) {
     m_tries.push_back({target, m_frames.size(), m_stack.size(), m_targets.size(), m_attributes.size()});

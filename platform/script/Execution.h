@@ -129,7 +129,7 @@ class Execution : public CommandStage {
 
   private:
     void unwind();
-    void finish(Value value);
+    void finish(const Value& value);
 
     const Program& m_program;
     MachineServices m_services;

@@ -134,7 +134,7 @@ struct ListBody : Counted {
 };
 
 struct Field {
-    const Name* name;
+    const Name* name = nullptr;
     Value value;
 };
 
