@@ -43,11 +43,9 @@ Program::Program(X11Backends& backends)
 
 void Program::watchEvents(X11EventManager& manager) {
     m_eventsReadable = std::make_unique<QSocketNotifier>(manager.fileDescriptor(), QSocketNotifier::Read);
-    QObject::connect(m_eventsReadable.get(), &QSocketNotifier::activated, &m_controller, [this, &manager] {
-        manager.dispatch();
-        // The server is gone, and all windows with it.
-        if (manager.isBroken()) m_controller.kill();
-    });
+    // A server that is gone is the toolkit's to notice: it says so and ends the program.
+    QObject::connect(m_eventsReadable.get(), &QSocketNotifier::activated, &m_controller,
+                     [&manager] { manager.dispatch(); });
 }
 
 void Program::follow(const ProgramInstance& instance) {
