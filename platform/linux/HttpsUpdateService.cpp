@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// The update service over libcurl.
+// The update service over libcurl. The library is loaded by the first check: with the two dozen libraries that it
+// needs in turn it would slow down every start, and most never check.
 #include <curl/curl.h>
+#include <dlfcn.h>
 
 #include <optional>
 #include <string_view>
@@ -17,8 +19,41 @@ constexpr long wholeMilliseconds = 4000;
 constexpr std::size_t greatestAnswer = std::size_t{64} * 1024;
 constexpr long mostRedirects = 5;
 
+/// The functions of the loaded library; it stays for the life of the process.
+struct Curl {
+    decltype(&curl_global_init) globalInit = nullptr;
+    decltype(&curl_easy_init) init = nullptr;
+    decltype(&curl_easy_setopt) setOption = nullptr;
+    decltype(&curl_easy_perform) perform = nullptr;
+    decltype(&curl_easy_cleanup) cleanup = nullptr;
+    /// Whether all of them are there and have been made ready.
+    bool isReady = false;
+};
+
+template <typename Function>
+bool find(void* library, const char* name, Function& function) {
+    function = reinterpret_cast<Function>(dlsym(library, name));
+    return function != nullptr;
+}
+
+Curl loadCurl() {
+    Curl curl;
+    void* library = dlopen("libcurl.so.4", RTLD_NOW | RTLD_LOCAL);
+    curl.isReady =
+        library != nullptr && find(library, "curl_global_init", curl.globalInit) &&
+        find(library, "curl_easy_init", curl.init) && find(library, "curl_easy_setopt", curl.setOption) &&
+        find(library, "curl_easy_perform", curl.perform) &&
+        find(library, "curl_easy_cleanup", curl.cleanup) && curl.globalInit(CURL_GLOBAL_DEFAULT) == CURLE_OK;
+    return curl;
+}
+
+const Curl& theCurl() {
+    static const Curl curl = loadCurl();
+    return curl;
+}
+
 struct EndTransfer {
-    void operator()(CURL* transfer) const { curl_easy_cleanup(transfer); }
+    void operator()(CURL* transfer) const { theCurl().cleanup(transfer); }
 };
 using Transfer = std::unique_ptr<CURL, EndTransfer>;
 
@@ -33,33 +68,34 @@ std::size_t take(const char* data, std::size_t one, std::size_t size, void* answ
 void setLimits(CURL* transfer) {
     // Timeouts by signals would meet other threads; and a resolver that hangs must not be waited for at the
     // end.
-    curl_easy_setopt(transfer, CURLOPT_NOSIGNAL, 1L);
-    curl_easy_setopt(transfer, CURLOPT_QUICK_EXIT, 1L);
-    curl_easy_setopt(transfer, CURLOPT_CONNECTTIMEOUT_MS, connectMilliseconds);
-    curl_easy_setopt(transfer, CURLOPT_TIMEOUT_MS, wholeMilliseconds);
-    curl_easy_setopt(transfer, CURLOPT_MAXREDIRS, mostRedirects);
+    theCurl().setOption(transfer, CURLOPT_NOSIGNAL, 1L);
+    theCurl().setOption(transfer, CURLOPT_QUICK_EXIT, 1L);
+    theCurl().setOption(transfer, CURLOPT_CONNECTTIMEOUT_MS, connectMilliseconds);
+    theCurl().setOption(transfer, CURLOPT_TIMEOUT_MS, wholeMilliseconds);
+    theCurl().setOption(transfer, CURLOPT_MAXREDIRS, mostRedirects);
 }
 
 void setSafety(CURL* transfer, const UpdateSource& source) {
-    curl_easy_setopt(transfer, CURLOPT_PROTOCOLS_STR, "https");
-    curl_easy_setopt(transfer, CURLOPT_REDIR_PROTOCOLS_STR, "https");
-    curl_easy_setopt(transfer, CURLOPT_SSLVERSION, static_cast<long>(CURL_SSLVERSION_TLSv1_2));
-    if (!source.authorities.empty()) curl_easy_setopt(transfer, CURLOPT_CAINFO, source.authorities.c_str());
-    curl_easy_setopt(transfer, CURLOPT_USERAGENT, "Keyrill");
+    theCurl().setOption(transfer, CURLOPT_PROTOCOLS_STR, "https");
+    theCurl().setOption(transfer, CURLOPT_REDIR_PROTOCOLS_STR, "https");
+    theCurl().setOption(transfer, CURLOPT_SSLVERSION, static_cast<long>(CURL_SSLVERSION_TLSv1_2));
+    if (!source.authorities.empty())
+        theCurl().setOption(transfer, CURLOPT_CAINFO, source.authorities.c_str());
+    theCurl().setOption(transfer, CURLOPT_USERAGENT, "Keyrill");
 }
 
 std::optional<std::string> answerFrom(const UpdateSource& source) {
-    const Transfer transfer(curl_easy_init());
+    const Transfer transfer(theCurl().init());
     if (!transfer) return std::nullopt;
     std::string answer;
     setLimits(transfer.get());
     setSafety(transfer.get(), source);
-    curl_easy_setopt(transfer.get(), CURLOPT_URL, source.url.c_str());
-    curl_easy_setopt(transfer.get(), CURLOPT_FOLLOWLOCATION, 1L);
-    curl_easy_setopt(transfer.get(), CURLOPT_FAILONERROR, 1L);
-    curl_easy_setopt(transfer.get(), CURLOPT_WRITEFUNCTION, take);
-    curl_easy_setopt(transfer.get(), CURLOPT_WRITEDATA, &answer);
-    if (curl_easy_perform(transfer.get()) != CURLE_OK) return std::nullopt;
+    theCurl().setOption(transfer.get(), CURLOPT_URL, source.url.c_str());
+    theCurl().setOption(transfer.get(), CURLOPT_FOLLOWLOCATION, 1L);
+    theCurl().setOption(transfer.get(), CURLOPT_FAILONERROR, 1L);
+    theCurl().setOption(transfer.get(), CURLOPT_WRITEFUNCTION, take);
+    theCurl().setOption(transfer.get(), CURLOPT_WRITEDATA, &answer);
+    if (theCurl().perform(transfer.get()) != CURLE_OK) return std::nullopt;
     return answer;
 }
 
@@ -75,9 +111,7 @@ class HttpsUpdateService : public UpdateService {
     explicit HttpsUpdateService(UpdateSource source) : m_source(std::move(source)) {}
 
     bool isNewerThan(std::string_view runningVersion) override {
-        // Here, because most starts of the program never come here.
-        static const bool isReady = curl_global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
-        if (!isReady) return false;
+        if (!theCurl().isReady) return false;
         const auto answer = answerFrom(m_source);
         return answer && isNewerVersion(trimmed(*answer), runningVersion);
     }
