@@ -19,9 +19,8 @@ void awaitLine(const std::string& log, Child& process) {
 PrivateBus::PrivateBus() {
     std::ofstream(m_folder.file("config"))
         << "<busconfig><type>session</type><listen>unix:dir=" << m_folder.path() << "</listen>"
-        << "<auth>EXTERNAL</auth><policy context=\"default\"><allow send_destination=\"*\" "
-           "eavesdrop=\"true\"/>"
-        << "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>";
+        << "<auth>EXTERNAL</auth><policy context='default'><allow send_destination='*' eavesdrop='true'/>"
+        << "<allow eavesdrop='true'/><allow own='*'/></policy></busconfig>";
     const std::string log = m_folder.file("log");
     m_daemon = std::make_unique<Child>(std::vector<std::string>{"dbus-daemon", "--nofork", "--print-address",
                                                                 "--config-file=" + m_folder.file("config")},
