@@ -85,11 +85,11 @@ TEST_F(ScreenLockTest, isLockedAsLongAsOneOfBothSaysSo) {
     const StandIn login(systemBus, {"login"});
     const StandIn saver(sessionBus, {"saver"});
     login.obey("hint 1");
-    saver.obey("active 1");
     BusScreenLock lock(loop, both);
     BusScreenLock saverOnly(loop, {.session = sessionBus.address(), .system = ""});
-    ASSERT_TRUE(becomes(saverOnly, true));
     ASSERT_TRUE(becomes(lock, true));
+    saver.obey("active 1");
+    ASSERT_TRUE(becomes(saverOnly, true));
     saver.obey("active 0");
     ASSERT_TRUE(becomes(saverOnly, false));
     EXPECT_TRUE(lock.isLocked());
