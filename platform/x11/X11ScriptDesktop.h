@@ -28,7 +28,7 @@ class X11ScriptDesktop : public ScriptDesktop {
   private:
     /// The window that lies highest of those that the window manager knows.
     xcb_window_t findWindow(std::string_view name) const;
-    bool isOf(xcb_window_t window, const std::string& lowered) const;
+    bool isOf(xcb_window_t window, const std::string& name) const;
     std::vector<xcb_window_t> windows(xcb_atom_t list) const;
 
     XConnection m_connection;

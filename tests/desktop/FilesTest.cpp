@@ -8,6 +8,7 @@
 namespace {
 
 // The entries that can be chosen once something has been recorded.
+constexpr int historyEntry = 4;
 constexpr int saveEntry = 5;
 constexpr int loadEntry = 6;
 
@@ -109,6 +110,18 @@ TEST_F(FilesTest, aSavedMacroIsLoadedAndPlayedAgain) {
     EXPECT_EQ(terminal->typed(3), "xyx");
     chooseFile(saveEntry, title::savePanel, "again");
     EXPECT_TRUE(isSaved("again.keyrill", script));
+}
+
+TEST_F(FilesTest, theMacroChosenFromTheHistoryIsTheOneThatIsSaved) {
+    close(title::welcome);
+    close(title::preferences);
+    const std::string oldest = recordKey("x");
+    for (const char* key : {"y", "z"}) recordKey(key);
+    menu->open();
+    menu->chooseByKeys(historyEntry, {"Right", "Down", "Down", "Return"});
+    EXPECT_EQ(terminal->typed(4), "xyzx");
+    chooseFile(saveEntry, title::savePanel, "oldest");
+    EXPECT_TRUE(isSaved("oldest.keyrill", oldest));
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     if (const auto* failure = std::get_if<Failure>(&part)) return *failure;
     const Fallible<std::string> whole = textOf(*arguments.parameter(0));
     if (const auto* failure = std::get_if<Failure>(&whole)) return *failure;
-    const std::string& text = std::get<std::string>(whole);
+    const auto& text = std::get<std::string>(whole);
     const auto found = findText(text, std::get<std::string>(part), 0, stage.rules());
     if (!found || std::get<std::string>(part).empty()) return Value{std::int64_t{0}};
     std::int64_t place = 1;
