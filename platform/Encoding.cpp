@@ -32,33 +32,12 @@ constexpr std::uint32_t byteAt(std::string_view bytes, std::size_t position) {
     return position < bytes.size() ? static_cast<unsigned char>(bytes[position]) : 0U;
 }
 
-void append(std::string& out, char32_t character) {
-    const auto tail = [&](unsigned shift) {
-        out += static_cast<char>(0x80U | ((character >> shift) & 0x3FU));
-    };
-    if (character < 0x80) {
-        out += static_cast<char>(character);
-    } else if (character < 0x800) {
-        out += static_cast<char>(0xC0U | (character >> 6U));
-        tail(0);
-    } else if (character < 0x10000) {
-        out += static_cast<char>(0xE0U | (character >> 12U));
-        tail(6);
-        tail(0);
-    } else {
-        out += static_cast<char>(0xF0U | (character >> 18U));
-        tail(12);
-        tail(6);
-        tail(0);
-    }
-}
-
 std::string fromMacRoman(std::string_view bytes) {
     std::string out;
     out.reserve(bytes.size() + bytes.size() / 8);
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
-        append(out, byte < 0x80 ? byte : macRoman[byte - 0x80U]);
+        appendUtf8(out, byte < 0x80 ? byte : macRoman[byte - 0x80U]);
     }
     return out;
 }
@@ -75,11 +54,11 @@ std::string fromUtf16(std::string_view bytes, bool bigEndian) {
         const std::uint32_t unit = unitAt(i);
         const std::uint32_t following = i + 3 < bytes.size() ? unitAt(i + 2) : 0;
         if (isWithin(unit, 0xD800) && isWithin(following, 0xDC00)) {
-            append(out, 0x10000U + ((unit & 0x3FFU) << 10U) + (following & 0x3FFU));
+            appendUtf8(out, 0x10000U + ((unit & 0x3FFU) << 10U) + (following & 0x3FFU));
             i += 2;
         } else {
             const bool broken = i + 1 >= bytes.size() || (unit & 0xF800U) == 0xD800U;
-            append(out, broken ? replacement : unit);
+            appendUtf8(out, broken ? replacement : unit);
         }
     }
     return out;

@@ -20,9 +20,8 @@ Utf8Character decoded(std::string_view text, const Form& form, std::size_t lengt
     if (text.size() < length) return none;
     std::uint32_t code = static_cast<std::uint8_t>(text.front()) & static_cast<std::uint8_t>(~form.mask);
     for (const char next : text.substr(1, length - 1)) {
-        const auto byte = static_cast<std::uint8_t>(next);
-        if ((byte & 0xC0U) != 0x80U) return none;
-        code = code << 6U | (byte & 0x3FU);
+        if (!isUtf8Continuation(next)) return none;
+        code = code << 6U | (static_cast<std::uint8_t>(next) & 0x3FU);
     }
     const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
     if (code < form.least || code > 0x10FFFF || isSurrogate) return none;
@@ -61,4 +60,17 @@ std::optional<std::size_t> invalidUtf8(std::string_view bytes) {
         if (character.length == 1) position = skipAscii(bytes, position);
     }
     return std::nullopt;
+}
+
+void appendUtf8(std::string& text, char32_t code) {
+    const auto part = [&](unsigned shift) { return static_cast<char>(0x80U | ((code >> shift) & 0x3FU)); };
+    if (code < 0x80) {
+        text += static_cast<char>(code);
+    } else if (code < 0x800) {
+        text += {static_cast<char>(0xC0U | (code >> 6U)), part(0)};
+    } else if (code < 0x10000) {
+        text += {static_cast<char>(0xE0U | (code >> 12U)), part(6), part(0)};
+    } else {
+        text += {static_cast<char>(0xF0U | (code >> 18U)), part(12), part(6), part(0)};
+    }
 }

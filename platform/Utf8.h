@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 /// A character of a text in UTF-8.
@@ -16,9 +17,15 @@ struct Utf8Character {
     friend bool operator==(const Utf8Character&, const Utf8Character&) = default;
 };
 
+/// Whether the byte is the second or a later one of a character.
+constexpr bool isUtf8Continuation(char byte) { return (static_cast<std::uint8_t>(byte) & 0xC0U) == 0x80U; }
+
 /// The first character of a text that is not empty. Overlong forms, surrogates and codes above 0x10FFFF are
 /// no characters (RFC 3629).
 Utf8Character firstCharacter(std::string_view text);
 
 /// The offset of the first byte that begins no character; empty if all is UTF-8.
 std::optional<std::size_t> invalidUtf8(std::string_view bytes);
+
+/// Appends a character by its code, at most 0x10FFFF.
+void appendUtf8(std::string& text, char32_t code);

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <iostream>
 
+#include "platform/Utf8.h"
+
 namespace {
 
 constexpr std::size_t widestLine = 200;
@@ -18,13 +20,11 @@ std::string_view lineOf(std::string_view source, std::uint32_t number) {
     return source.substr(begin, source.find_first_of("\r\n", begin) - begin);
 }
 
-bool beginsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }
-
 /// As wide as so many characters of the line: tabs stay, all else is blank.
 std::string indentation(std::string_view line, std::uint32_t characters) {
     std::string out;
     for (const char c : line) {
-        if (!beginsCharacter(c)) continue;
+        if (isUtf8Continuation(c)) continue;
         if (characters-- == 0) break;
         out += c == '\t' ? '\t' : ' ';
     }

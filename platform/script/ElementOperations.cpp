@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Operations on what lies in lists, records and texts.
+#include "platform/Utf8.h"
 #include "platform/script/Coercion.h"
 #include "platform/script/Elements.h"
 #include "platform/script/Execution.h"
@@ -160,7 +161,7 @@ void characterId(Execution& run, const Instruction& /*unused*/) {
         const std::optional<std::int32_t> point = integerOf(item);
         if (!point) return run.fail(cannotMake(item, "integer"));
         if (!isCharacter(*point)) return run.fail(cannotGet("character id " + spelled(item)));
-        appendCharacter(text, static_cast<char32_t>(*point));
+        appendUtf8(text, static_cast<char32_t>(*point));
     }
     run.push(Value{std::move(text)});
 }

@@ -3,13 +3,9 @@
 
 #include <algorithm>
 
+#include "platform/Utf8.h"
+
 namespace script {
-namespace {
-
-/// Continuation bytes of UTF-8 are no characters of their own.
-bool startsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
-
-}  // namespace
 
 Location Locator::at(std::size_t offset) {
     if (offset < m_position) *this = Locator(m_source);
@@ -25,7 +21,7 @@ void Locator::step() {
     if (c == '\n' || (carriageReturn && !pair)) {
         ++m_place.line;
         m_place.column = 1;
-    } else if (startsCharacter(c)) {
+    } else if (!isUtf8Continuation(c)) {
         ++m_place.column;
     }
 }

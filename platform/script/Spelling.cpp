@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "platform/Modifiers.h"
+#include "platform/Utf8.h"
 #include "platform/script/Dates.h"
 #include "platform/script/ScriptError.h"
 
@@ -51,7 +52,7 @@ class Speller {
     std::string take() {
         if (m_out.size() <= maxSpelling) return std::move(m_out);
         std::size_t end = maxSpelling;
-        while ((static_cast<unsigned char>(m_out[end]) & 0xC0U) == 0x80U) --end;
+        while (isUtf8Continuation(m_out[end])) --end;
         return m_out.substr(0, end) + "…";
     }
 

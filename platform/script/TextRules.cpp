@@ -202,19 +202,4 @@ char32_t takeCharacter(std::string_view text, std::size_t& position) {
     return character;
 }
 
-void appendCharacter(std::string& text, char32_t character) {
-    const auto part = [&](unsigned shift) {
-        return static_cast<char>(0x80U | ((character >> shift) & 0x3FU));
-    };
-    if (character < 0x80) {
-        text += static_cast<char>(character);
-    } else if (character < 0x800) {
-        text += {static_cast<char>(0xC0U | (character >> 6U)), part(0)};
-    } else if (character < 0x10000) {
-        text += {static_cast<char>(0xE0U | (character >> 12U)), part(6), part(0)};
-    } else {
-        text += {static_cast<char>(0xF0U | (character >> 18U)), part(12), part(6), part(0)};
-    }
-}
-
 }  // namespace script

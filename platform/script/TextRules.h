@@ -54,6 +54,5 @@ std::vector<Stretch> textItemsOf(std::string_view text, const TextRules& rules);
 
 /// The character that begins at the byte; moves behind it. The text is valid UTF-8.
 char32_t takeCharacter(std::string_view text, std::size_t& position);
-void appendCharacter(std::string& text, char32_t character);
 
 }  // namespace script
