@@ -3,35 +3,14 @@
 // Whole scripts by keyrill-script run, judged by a terminal and by other programs at the same server.
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "platform/linux/SteadyClock.h"
 #include "platform/x11/X11ScriptDesktop.h"
-#include "support/Child.h"
+#include "script/Play.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"
 #include "x11/NestedServers.h"
 
 namespace {
-
-/// The program, playing a script on a display.
-class Play {
-  public:
-    Play(const std::string& display, const std::string& script) {
-        std::ofstream(m_folder.file("script")) << script;
-        m_program = std::make_unique<Child>(
-            std::vector<std::string>{KEYRILL_SCRIPT_TOOL, "run", m_folder.file("script")},
-            Child::Options{.environment = {{"DISPLAY", display}, {"XDG_RUNTIME_DIR", m_folder.path()}},
-                           .outputFile = m_folder.file("output")});
-    }
-
-    Child& program() { return *m_program; }
-    std::string output() const { return contentOf(m_folder.file("output")); }
-
-  private:
-    TemporaryFolder m_folder;
-    std::unique_ptr<Child> m_program;
-};
 
 constexpr const char* everything = R"(property greeting : "Grüße, "
 

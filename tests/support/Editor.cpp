@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "support/Editor.h"
+
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+namespace {
+
+/// Without helpfulness: the file holds what was typed, no indentation and no last line of the editor's own.
+void plainTyping(const std::string& home) {
+    std::filesystem::create_directories(home + "/.config/featherpad");
+    std::ofstream(home + "/.config/featherpad/fp.conf") << "[text]\nnoIndent=true\nappendEmptyLine=false\n";
+}
+
+std::vector<std::string> commandFor(Editor::Toolkit toolkit, const std::string& file) {
+    if (toolkit == Editor::Toolkit::gtk) return {"mousepad", "--disable-server", file};
+    return {"featherpad", "--standalone", file};
+}
+
+}  // namespace
+
+Editor::Editor(const std::string& display, Toolkit toolkit, const Options& options)
+    : m_environment{{"DISPLAY", display},
+                    {"HOME", m_folder.path()},
+                    {"XDG_CONFIG_HOME", ""},
+                    {"XDG_RUNTIME_DIR", m_folder.path()},
+                    {"LC_ALL", "C.UTF-8"},
+                    {"DBUS_SESSION_BUS_ADDRESS", "disabled:"},
+                    {"GSETTINGS_BACKEND", "memory"},
+                    {"NO_AT_BRIDGE", "1"},
+                    {"GTK_IM_MODULE", ""},
+                    {"QT_IM_MODULE", ""},
+                    {"XMODIFIERS", ""}} {
+    for (const auto& [name, value] : options.environment) m_environment[name] = value;
+    plainTyping(m_folder.path());
+    // Of several editors each has a file, and so a title, of its own.
+    const std::string title = std::filesystem::path(m_folder.path()).filename().string() + options.suffix;
+    m_file = m_folder.file(title);
+    std::ofstream(m_file).flush();
+    m_program = std::make_unique<Child>(
+        commandFor(toolkit, m_file),
+        Child::Options{.environment = m_environment, .outputFile = m_folder.file("log")});
+    const std::string windows = run({"xdotool", "search", "--sync", "--onlyvisible", "--name", title});
+    m_window = windows.substr(0, windows.find('\n'));
+    focus();
+}
+
+std::string Editor::saved(const std::string& expected, std::chrono::milliseconds deadline) const {
+    eventually([&] { return saved() == expected; }, deadline);
+    return saved();
+}
+
+void Editor::focus() const {
+    run({"xdotool", "windowfocus", "--sync", m_window});
+    if (!eventually([this] { return hasFocus(); })) throw std::runtime_error("the editor gets no focus");
+}
+
+// A toolkit may hand the focus on to a window inside its own.
+bool Editor::hasFocus() const { return run({"xdotool", "getwindowfocus"}) == m_window + "\n"; }
+
+std::string Editor::run(const std::vector<std::string>& command) const {
+    return outputOf(command, m_environment);
+}
