@@ -4,14 +4,14 @@
 #include <QCoreApplication>
 #include <chrono>
 
-#include "app/AboutPanel.h"
-#include "app/AlertTexts.h"
-#include "app/Alphas.h"
-#include "app/MultiplePlayWindow.h"
-#include "app/PreferencesPanel.h"
-#include "app/RecorderWindow.h"
-#include "app/SplashWindow.h"
-#include "app/WelcomePanel.h"
+#include "app/dialogs/AlertTexts.h"
+#include "app/overlay/Alphas.h"
+#include "app/overlay/MultiplePlayWindow.h"
+#include "app/overlay/RecorderWindow.h"
+#include "app/overlay/SplashWindow.h"
+#include "app/panels/AboutPanel.h"
+#include "app/panels/PreferencesPanel.h"
+#include "app/panels/WelcomePanel.h"
 #include "engine/HotKeyCenter.h"
 #include "engine/KeyRecorder.h"
 #include "platform/Features.h"

@@ -15,11 +15,11 @@
 #include <vector>
 
 #include "app/Gate.h"
-#include "app/GatedDialogs.h"
-#include "app/MenuState.h"
 #include "app/PreferencesModel.h"
-#include "app/StatusItem.h"
-#include "app/StatusMenu.h"
+#include "app/dialogs/GatedDialogs.h"
+#include "app/tray/MenuState.h"
+#include "app/tray/StatusItem.h"
+#include "app/tray/StatusMenu.h"
 #include "engine/SharedController.h"
 #include "platform/HotKeys.h"
 #include "platform/Result.h"

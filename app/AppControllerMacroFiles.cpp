@@ -2,10 +2,10 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "app/AlertTexts.h"
 #include "app/AppController.h"
 #include "app/CombinationText.h"
 #include "app/TildeExpansion.h"
+#include "app/dialogs/AlertTexts.h"
 #include "core/MacroManager.h"
 #include "engine/EngineState.h"
 #include "platform/MacroFiles.h"

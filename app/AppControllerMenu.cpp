@@ -3,9 +3,9 @@
 #include <cstring>
 
 #include "app/AppController.h"
-#include "app/MacroMenuItem.h"
-#include "app/MultiplePlayWindow.h"
-#include "app/RecorderWindow.h"
+#include "app/overlay/MultiplePlayWindow.h"
+#include "app/overlay/RecorderWindow.h"
+#include "app/tray/MacroMenuItem.h"
 #include "core/MacroManager.h"
 #include "engine/AppleScript.h"
 #include "engine/EngineState.h"

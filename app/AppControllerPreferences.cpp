@@ -2,11 +2,11 @@
 #include <QPushButton>
 #include <algorithm>
 
-#include "app/AlertTexts.h"
 #include "app/AppController.h"
 #include "app/IsShown.h"
-#include "app/PreferencesPanel.h"
 #include "app/ShortcutNotices.h"
+#include "app/dialogs/AlertTexts.h"
+#include "app/panels/PreferencesPanel.h"
 #include "core/KeyNames.h"
 #include "engine/EngineState.h"
 #include "engine/HotKeyCenter.h"

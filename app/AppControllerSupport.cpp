@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <QPushButton>
 
-#include "app/AboutPanel.h"
-#include "app/AlertTexts.h"
 #include "app/AppController.h"
 #include "app/BugReport.h"
 #include "app/IsShown.h"
-#include "app/PreferencesPanel.h"
+#include "app/dialogs/AlertTexts.h"
+#include "app/panels/AboutPanel.h"
+#include "app/panels/PreferencesPanel.h"
 #include "platform/Addresses.h"
 #include "platform/MailUrl.h"
 #include "platform/Services.h"

@@ -2,7 +2,7 @@
 #include "app/ProgramIcon.h"
 
 #include "app/DataFolder.h"
-#include "app/StatusIcon.h"
+#include "app/tray/StatusIcon.h"
 
 QIcon programIcon() {
     findOwnIcons();

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "Table.h"
-#include "app/RecorderWindow.h"
+#include "app/overlay/RecorderWindow.h"
 
 namespace {
 

@@ -7,13 +7,13 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "app/AlertSheet.h"
-#include "app/AlertTexts.h"
-#include "app/MacroFilePanel.h"
 #include "app/PreferencesModel.h"
-#include "app/PreferencesPanel.h"
+#include "app/dialogs/AlertSheet.h"
+#include "app/dialogs/AlertTexts.h"
+#include "app/dialogs/MacroFilePanel.h"
 #include "app/gallery/Camera.h"
 #include "app/gallery/Scenes.h"
+#include "app/panels/PreferencesPanel.h"
 
 namespace {
 

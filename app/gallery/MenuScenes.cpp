@@ -2,11 +2,11 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
-#include "app/MenuState.h"
-#include "app/StatusIcon.h"
-#include "app/StatusMenu.h"
 #include "app/gallery/Camera.h"
 #include "app/gallery/Scenes.h"
+#include "app/tray/MenuState.h"
+#include "app/tray/StatusIcon.h"
+#include "app/tray/StatusMenu.h"
 
 namespace {
 

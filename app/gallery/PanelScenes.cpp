@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "app/AboutPanel.h"
-#include "app/ControlWindow.h"
-#include "app/MultiplePlayWindow.h"
 #include "app/PreferencesModel.h"
-#include "app/PreferencesPanel.h"
-#include "app/RecorderWindow.h"
-#include "app/SRRecorderControl.h"
-#include "app/SplashAnimation.h"
-#include "app/SplashWindow.h"
-#include "app/StatusMenu.h"
-#include "app/WelcomePanel.h"
 #include "app/gallery/Camera.h"
 #include "app/gallery/Scenes.h"
+#include "app/overlay/MultiplePlayWindow.h"
+#include "app/overlay/RecorderWindow.h"
+#include "app/overlay/SplashAnimation.h"
+#include "app/overlay/SplashWindow.h"
+#include "app/panels/AboutPanel.h"
+#include "app/panels/PreferencesPanel.h"
+#include "app/panels/SRRecorderControl.h"
+#include "app/panels/WelcomePanel.h"
+#include "app/tray/ControlWindow.h"
+#include "app/tray/StatusMenu.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <memory>
 
 #include "app/AppController.h"
-#include "app/QtDialogs.h"
-#include "app/TrayStatusItem.h"
+#include "app/dialogs/QtDialogs.h"
 #include "app/program/TerminationSignals.h"
+#include "app/tray/TrayStatusItem.h"
 
 class ProgramInstance;
 class X11Backends;

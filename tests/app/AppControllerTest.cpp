@@ -2,8 +2,8 @@
 #include <QPropertyAnimation>
 
 #include "app/AppTest.h"
-#include "app/MacroMenuItem.h"
-#include "app/MultiplePlayWindow.h"
+#include "app/overlay/MultiplePlayWindow.h"
+#include "app/tray/MacroMenuItem.h"
 #include "engine/MacroPlayer.h"
 #include "platform/Features.h"
 #include "platform/Modifiers.h"

@@ -9,7 +9,7 @@
 
 #include "app/AppController.h"
 #include "app/FakeDialogs.h"
-#include "app/StatusItem.h"
+#include "app/tray/StatusItem.h"
 #include "engine/EngineTest.h"
 #include "platform/Windows.h"
 

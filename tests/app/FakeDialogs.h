@@ -5,7 +5,7 @@
 #include <queue>
 #include <vector>
 
-#include "app/Dialogs.h"
+#include "app/dialogs/Dialogs.h"
 
 /// Answers questions with what a test has queued and remembers them. A question without a queued answer is
 /// cancelled: alternate button, no file.

@@ -4,10 +4,10 @@
 #include <QPushButton>
 
 #include "app/AppTest.h"
-#include "app/GatedDialogs.h"
-#include "app/MultiplePlayWindow.h"
-#include "app/PreferencesPanel.h"
-#include "app/RecorderWindow.h"
+#include "app/dialogs/GatedDialogs.h"
+#include "app/overlay/MultiplePlayWindow.h"
+#include "app/overlay/RecorderWindow.h"
+#include "app/panels/PreferencesPanel.h"
 
 namespace {
 

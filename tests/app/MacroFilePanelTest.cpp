@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/MacroFilePanel.h"
+#include "app/dialogs/MacroFilePanel.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "app/QtDialogs.h"
+#include "app/dialogs/QtDialogs.h"
 #include "support/Child.h"
 
 namespace {

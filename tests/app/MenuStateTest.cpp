@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/MenuState.h"
+#include "app/tray/MenuState.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include <QPushButton>
 
 #include "app/AppTest.h"
-#include "app/MultiplePlayWindow.h"
+#include "app/overlay/MultiplePlayWindow.h"
 
 namespace {
 

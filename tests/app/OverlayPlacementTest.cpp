@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/OverlayPlacement.h"
+#include "app/overlay/OverlayPlacement.h"
 
 #include <gtest/gtest.h>
 

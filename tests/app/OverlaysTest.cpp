@@ -2,11 +2,11 @@
 #include <QPropertyAnimation>
 
 #include "app/AppTest.h"
-#include "app/MultiplePlayWindow.h"
-#include "app/PreferencesPanel.h"
-#include "app/RecorderWindow.h"
-#include "app/SplashAnimation.h"
-#include "app/SplashWindow.h"
+#include "app/overlay/MultiplePlayWindow.h"
+#include "app/overlay/RecorderWindow.h"
+#include "app/overlay/SplashAnimation.h"
+#include "app/overlay/SplashWindow.h"
+#include "app/panels/PreferencesPanel.h"
 #include "platform/Addresses.h"
 
 namespace {

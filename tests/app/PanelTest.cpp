@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/Panel.h"
+#include "app/panels/Panel.h"
 
 #include <gtest/gtest.h>
 

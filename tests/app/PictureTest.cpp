@@ -4,12 +4,12 @@
 #include <QApplication>
 #include <filesystem>
 
-#include "app/MultiplePlayView.h"
-#include "app/PictureReference.h"
-#include "app/RecorderView.h"
-#include "app/SplashAnimation.h"
-#include "app/SplashWindow.h"
-#include "app/StatusIcon.h"
+#include "app/overlay/MultiplePlayView.h"
+#include "app/overlay/PictureReference.h"
+#include "app/overlay/RecorderView.h"
+#include "app/overlay/SplashAnimation.h"
+#include "app/overlay/SplashWindow.h"
+#include "app/tray/StatusIcon.h"
 #include "support/Child.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/PreferencesPanel.h"
+#include "app/panels/PreferencesPanel.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -8,9 +8,9 @@
 #include <QPushButton>
 #include <QSet>
 
-#include "app/NoticeLine.h"
 #include "app/PreferencesModel.h"
-#include "app/SRRecorderControl.h"
+#include "app/panels/NoticeLine.h"
+#include "app/panels/SRRecorderControl.h"
 #include "engine/EngineTest.h"
 
 namespace {

@@ -5,7 +5,7 @@
 
 #include "app/AppTest.h"
 #include "app/Journal.h"
-#include "app/PreferencesPanel.h"
+#include "app/panels/PreferencesPanel.h"
 #include "platform/Features.h"
 
 namespace {

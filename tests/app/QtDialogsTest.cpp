@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/QtDialogs.h"
+#include "app/dialogs/QtDialogs.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "app/AlertSheet.h"
+#include "app/dialogs/AlertSheet.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "app/SRRecorderControl.h"
 #include "app/ShortcutModel.h"
+#include "app/panels/SRRecorderControl.h"
 #include "engine/EngineTest.h"
 #include "platform/Modifiers.h"
 

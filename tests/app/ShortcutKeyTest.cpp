@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/ShortcutKey.h"
+#include "app/panels/ShortcutKey.h"
 
 #include <gtest/gtest.h>
 

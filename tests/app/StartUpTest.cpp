@@ -4,10 +4,10 @@
 
 #include "app/AppTest.h"
 #include "app/Journal.h"
-#include "app/NoticeLine.h"
-#include "app/PreferencesPanel.h"
 #include "app/RunLoop.h"
-#include "app/WelcomePanel.h"
+#include "app/panels/NoticeLine.h"
+#include "app/panels/PreferencesPanel.h"
+#include "app/panels/WelcomePanel.h"
 #include "platform/Addresses.h"
 
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <QPushButton>
 
-#include "app/AboutPanel.h"
 #include "app/AppTest.h"
 #include "app/BugReport.h"
+#include "app/panels/AboutPanel.h"
 #include "platform/Addresses.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include <QPushButton>
 
 #include "app/AppTest.h"
-#include "app/PreferencesPanel.h"
+#include "app/panels/PreferencesPanel.h"
 #include "platform/Addresses.h"
 
 namespace {

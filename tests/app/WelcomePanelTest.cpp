@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "app/WelcomePanel.h"
+#include "app/panels/WelcomePanel.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
-#include "app/AboutPanel.h"
 #include "app/PreferencesModel.h"
+#include "app/panels/AboutPanel.h"
 #include "engine/EngineTest.h"
 
 namespace {

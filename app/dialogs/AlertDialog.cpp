@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "app/dialogs/AlertDialog.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+
+#include "app/ProgramIcon.h"
+#include "app/panels/PanelText.h"
+
+namespace {
+
+QStyle::StandardPixmap signOf(AlertText::Kind kind) {
+    switch (kind) {
+        case AlertText::Kind::stop:
+        case AlertText::Kind::critical:
+            return QStyle::SP_MessageBoxCritical;
+        case AlertText::Kind::warning:
+            return QStyle::SP_MessageBoxWarning;
+        case AlertText::Kind::informational:
+            break;
+    }
+    return QStyle::SP_MessageBoxInformation;
+}
+
+/// A single "&" would mark a mnemonic.
+QString literal(QString text) { return text.replace(u'&', QStringLiteral("&&")); }
+
+}  // namespace
+
+AlertDialog::AlertDialog(const AlertText& text, QWidget* parent) : QDialog(parent) {
+    setWindowTitle(text.title);
+    setWindowIcon(programIcon());
+    auto* sign = new QLabel;
+    const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+    sign->setPixmap(style()->standardIcon(signOf(text.kind)).pixmap(size));
+
+    auto* words = new QVBoxLayout;
+    words->addWidget(makeHeading(text.title));
+    if (!text.message.isEmpty()) words->addWidget(makeParagraph(text.message));
+    auto* upper = new QHBoxLayout;
+    upper->addWidget(sign, 0, Qt::AlignTop);
+    upper->addSpacing(upper->spacing());
+    upper->addLayout(words, 1);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(upper);
+    layout->addSpacing(layout->spacing());
+    layout->addWidget(makeButtons(text));
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QWidget* AlertDialog::makeButtons(const AlertText& text) {
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(literal(text.defaultButton), QDialogButtonBox::AcceptRole)->setDefault(true);
+    if (!text.alternateButton.isEmpty())
+        buttons->addButton(literal(text.alternateButton), QDialogButtonBox::RejectRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    return buttons;
+}
+
+AlertAnswer AlertDialog::answer() const {
+    return result() == Accepted ? AlertAnswer::defaultButton : AlertAnswer::alternateButton;
+}

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "app/dialogs/AlertTexts.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("Alerts", text); }
+
+/// What is wrong and, in a paragraph of its own, what to do.
+QString explained(const Error& error) {
+    const QString message = QString::fromStdString(error.message);
+    return error.hint.empty() ? message
+                              : message + QStringLiteral("\n\n") + QString::fromStdString(error.hint);
+}
+
+AlertText warning(const QString& title, const Error& error) {
+    return {.kind = AlertText::Kind::warning,
+            .title = title,
+            .message = explained(error),
+            .defaultButton = tr("OK")};
+}
+
+QString nameOf(const QString& path) { return QFileInfo(path).fileName(); }
+
+AlertText updateAlert(const QString& yes, const QString& no) {
+    return {.kind = AlertText::Kind::informational,
+            .title = tr("Keyrill Update Available"),
+            .message = tr("There is a new update available for Keyrill, would you like to download it now?"),
+            .defaultButton = yes,
+            .alternateButton = no};
+}
+
+}  // namespace
+
+namespace alerts {
+
+AlertText sessionTooOld(const Error& error) {
+    return {.kind = AlertText::Kind::stop,
+            .title = QString::fromStdString(error.message),
+            .message = QString::fromStdString(error.hint),
+            .defaultButton = tr("OK")};
+}
+
+AlertText noAccess(const Error& error) {
+    const QString hint = error.hint.empty() ? QString() : QString::fromStdString(error.hint) + u' ';
+    return {.kind = AlertText::Kind::critical,
+            .title = QString::fromStdString(error.message),
+            .message = tr("Keyrill requires that programs can see and press keys in this session. ") + hint +
+                       tr("Please see the 'Configuration' section of the documentation for more "
+                          "information.\n\nKeyrill must close, please restart it once this is possible.\n"),
+            .defaultButton = tr("Open Documentation now"),
+            .alternateButton = tr("Quit")};
+}
+
+AlertText updateAvailable() { return updateAlert(tr("YES"), tr("NO")); }
+
+AlertText updateAvailableSheet() { return updateAlert(tr("Yes"), tr("No")); }
+
+AlertText noUpdate() {
+    return {.kind = AlertText::Kind::informational,
+            .title = tr("No Update Available"),
+            .message = tr("You're currently running the latest version of Keyrill"),
+            .defaultButton = tr("OK")};
+}
+
+AlertText macroNotSaved(const QString& path, const Error& error) {
+    return warning(tr("The macro was not saved as \"%1\".").arg(nameOf(path)), error);
+}
+
+AlertText macroNotLoaded(const QString& path, const Error& error) {
+    return warning(tr("No macro was loaded from \"%1\".").arg(nameOf(path)), error);
+}
+
+AlertText settingsNotSaved(const Error& error) { return warning(tr("Your settings were not saved."), error); }
+
+AlertText loginItemNotSet(const Error& error) {
+    return warning(tr("Whether Keyrill starts when you log in could not be changed."), error);
+}
+
+AlertText settingsFault(const Error& error) {
+    return warning(tr("Something is wrong with your settings."), error);
+}
+
+}  // namespace alerts

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/dialogs/Dialogs.h"
+#include "platform/Result.h"
+
+// What the program says in alerts, word for word. An error's own words follow where there is one.
+
+namespace alerts {
+
+/// The session is of a kind or an age that the program cannot work in.
+AlertText sessionTooOld(const Error& error);
+/// Keys can be seen or pressed by nobody here; the default button leads to the documentation.
+AlertText noAccess(const Error& error);
+
+/// As an alert of its own.
+AlertText updateAvailable();
+/// As a sheet: the buttons are written otherwise.
+AlertText updateAvailableSheet();
+AlertText noUpdate();
+
+AlertText macroNotSaved(const QString& path, const Error& error);
+AlertText macroNotLoaded(const QString& path, const Error& error);
+AlertText settingsNotSaved(const Error& error);
+AlertText loginItemNotSet(const Error& error);
+/// Of the settings, found behind the user's back.
+AlertText settingsFault(const Error& error);
+
+}  // namespace alerts

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "app/dialogs/QtDialogs.h"
+
+#include <QTimer>
+#include <utility>
+
+#include "app/dialogs/AlertSheet.h"
+#include "app/dialogs/MacroFilePanel.h"
+
+QtDialogs::QtDialogs(Activate activate) : m_activate(std::move(activate)) {}
+
+AlertAnswer QtDialogs::runAlert(const AlertText& text) {
+    AlertDialog alert(text);
+    // It has no window of the program to lie above.
+    alert.setWindowFlag(Qt::WindowStaysOnTopHint);
+    run(alert);
+    return alert.answer();
+}
+
+void QtDialogs::beginSheet(QWidget& panel, const AlertText& text, DidEnd didEnd) {
+    auto* sheet = new AlertSheet(panel, text, std::move(didEnd));
+    sheet->open();
+}
+
+QString QtDialogs::runSavePanel(const QString& folder) {
+    MacroFilePanel panel(MacroFilePanel::Kind::save, folder);
+    return run(panel) == QDialog::Accepted ? panel.path() : QString();
+}
+
+QString QtDialogs::runOpenPanel(const QString& folder) {
+    MacroFilePanel panel(MacroFilePanel::Kind::open, folder);
+    return run(panel) == QDialog::Accepted ? panel.path() : QString();
+}
+
+int QtDialogs::run(QDialog& dialog) const {
+    // Once the loop of the dialog runs, its window is there.
+    if (m_activate) QTimer::singleShot(0, &dialog, [this, &dialog] { m_activate(dialog); });
+    return dialog.exec();
+}

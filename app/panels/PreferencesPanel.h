@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/panels/Panel.h"
+
+class QFormLayout;
+class QLayout;
+class QPushButton;
+class QVBoxLayout;
+class ShortcutModel;
+struct PreferencesModel;
+
+/// The panel of the four shortcuts and the options. It shows and changes the model, which outlives it, and
+/// does nothing else.
+class PreferencesPanel : public Panel {
+    Q_OBJECT
+
+  public:
+    explicit PreferencesPanel(PreferencesModel& model);
+
+    /// Pressed by the user to have the update check answered in any case. It is there, but not shown, in
+    /// builds without that check.
+    QPushButton* checkForUpdatesNowButton() const { return m_checkForUpdatesNowButton; }
+
+  private:
+    QLayout* makeShortcuts(PreferencesModel& model);
+    void addShortcut(QFormLayout& form, ShortcutModel& shortcut, const QString& label, const QString& name);
+    QLayout* makeOptions(PreferencesModel& model);
+
+    QPushButton* m_checkForUpdatesNowButton;
+};

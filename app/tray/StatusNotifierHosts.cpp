@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "app/tray/StatusNotifierHosts.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+
+namespace {
+const QString service = QStringLiteral("org.kde.StatusNotifierWatcher");
+const QString path = QStringLiteral("/StatusNotifierWatcher");
+}  // namespace
+
+StatusNotifierHosts::StatusNotifierHosts()
+    : m_bus(QDBusConnection::sessionBus()),
+      m_watcher(service, m_bus,
+                QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration) {
+    if (!hasBus()) return;
+    connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, this, &StatusNotifierHosts::ask);
+    connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] { setPresent(false); });
+    connectSignal(QStringLiteral("StatusNotifierHostRegistered"));
+    connectSignal(QStringLiteral("StatusNotifierHostUnregistered"));
+    ask();
+}
+
+void StatusNotifierHosts::connectSignal(const QString& name) {
+    m_bus.connect(service, path, service, name, this, SLOT(ask()));
+}
+
+void StatusNotifierHosts::ask() {
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    question << service << QStringLiteral("IsStatusNotifierHostRegistered");
+    // A question is no reason to start a watcher.
+    question.setAutoStartService(false);
+    auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        const QDBusPendingReply<QDBusVariant> reply = *answer;
+        answer->deleteLater();
+        setPresent(reply.isValid() && reply.value().variant().toBool());
+    });
+}
+
+void StatusNotifierHosts::setPresent(bool present) {
+    if (m_present == present) return;
+    m_present = present;
+    emit changed();
+}

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "app/tray/TrayStatusItem.h"
+
+#include <QCursor>
+#include <QMenu>
+#include <chrono>
+
+#include "app/tray/ControlWindow.h"
+#include "app/tray/StatusIcon.h"
+
+namespace {
+constexpr std::chrono::seconds patience{3};
+}  // namespace
+
+TrayStatusItem::TrayStatusItem(DockingTray& dockingTray) : m_gate(dockingTray) {
+    connect(&m_gate, &TrayGate::changed, this, &TrayStatusItem::followTray);
+    m_withoutTray.setSingleShot(true);
+    m_withoutTray.setInterval(patience);
+    connect(&m_withoutTray, &QTimer::timeout, this, &TrayStatusItem::showControlWindow);
+}
+
+TrayStatusItem::~TrayStatusItem() = default;
+
+void TrayStatusItem::show(QMenu& menu, StatusImage image) {
+    m_menu = &menu;
+    m_image = image;
+    followTray();
+}
+
+void TrayStatusItem::setImage(StatusImage image) {
+    m_image = image;
+    updateIcon();
+}
+
+void TrayStatusItem::setNotice(const QString& notice) {
+    m_notice = notice;
+    updateIcon();
+    if (m_window) m_window->setNotice(notice);
+}
+
+QWidget* TrayStatusItem::window() { return m_window.get(); }
+
+void TrayStatusItem::showWindow() {
+    if (m_menu == nullptr) return;
+    if (!m_window) showControlWindow();
+    if (m_window->isMinimized()) m_window->showNormal();
+    m_window->show();
+    m_window->raise();
+}
+
+void TrayStatusItem::followTray() {
+    if (m_menu == nullptr) return;
+    if (!m_gate.isPresent()) {
+        if (m_window) m_window->setStandsIn(true);
+        m_withoutTray.start();
+        return;
+    }
+    m_withoutTray.stop();
+    if (m_window) m_window.release()->deleteLater();
+    if (!m_icon) makeIcon();
+}
+
+void TrayStatusItem::makeIcon() {
+    m_icon = std::make_unique<QSystemTrayIcon>();
+    m_icon->setContextMenu(m_menu);
+    connect(m_icon.get(), &QSystemTrayIcon::activated, this,
+            [this](QSystemTrayIcon::ActivationReason reason) {
+                // A second click soon after the first is a double click to the toolkit.
+                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+                    m_menu->popup(QCursor::pos());
+            });
+    updateIcon();
+    m_icon->show();
+}
+
+void TrayStatusItem::updateIcon() {
+    if (!m_icon) return;
+    // A docked icon is shown as it is, black on black if need be: only hosts colour symbolic icons.
+    const bool colours = m_gate.kind() == TrayKind::statusNotifier;
+    m_icon->setIcon(colours ? themedStatusIcon(m_image) : builtInStatusIcon(m_image));
+    const QString name = tr("Keyrill");
+    m_icon->setToolTip(m_notice.isEmpty() ? name : name + QLatin1Char('\n') + m_notice);
+}
+
+void TrayStatusItem::showControlWindow() {
+    if (!m_window) m_window = std::make_unique<ControlWindow>(*m_menu);
+    m_window->setNotice(m_notice);
+    m_window->setStandsIn(!m_gate.isPresent());
+    m_window->show();
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QSystemTrayIcon>
+#include <QTimer>
+#include <memory>
+
+#include "app/tray/StatusItem.h"
+#include "app/tray/TrayGate.h"
+
+class ControlWindow;
+
+/// The status item as an icon in the tray; while there has been no tray for 3 s, as a small window.
+class TrayStatusItem : public QObject, public StatusItem {
+    Q_OBJECT
+
+  public:
+    explicit TrayStatusItem(DockingTray& dockingTray);
+    ~TrayStatusItem() override;
+
+    void show(QMenu& menu, StatusImage image) override;
+    void setImage(StatusImage image) override;
+    void setNotice(const QString& notice) override;
+    QWidget* window() override;
+    void showWindow() override;
+
+  private:
+    void followTray();
+    void makeIcon();
+    void updateIcon();
+    void showControlWindow();
+
+    TrayGate m_gate;
+    QTimer m_withoutTray;
+    std::unique_ptr<QSystemTrayIcon> m_icon;
+    std::unique_ptr<ControlWindow> m_window;
+    QMenu* m_menu = nullptr;
+    StatusImage m_image = StatusImage::busy;
+    QString m_notice;
+};
