@@ -1,30 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QWidget>
+#include "app/overlay/PictureView.h"
 
-#include "app/overlay/PictureReference.h"
-
-/// The picture of the recorder overlay: a dark panel with a recording mark at its left.
-/// Where its file is missing there is nothing but what lies behind the window.
-class RecorderView : public QWidget {
-    Q_OBJECT
-
+/// The picture of the recorder overlay. Its recording mark is at the left in every language, as the keys that
+/// are shown beside it run from left to right.
+class RecorderView : public PictureView {
   public:
-    /// The width that the mark takes.
-    static constexpr int markWidth = 48;
-    /// The size that the picture is drawn for; a view that its content makes larger stretches it.
-    static constexpr QSize pictureSize{420, 60};
-
-    /// The folder of the picture.
-    explicit RecorderView(const QString& folder, QWidget* parent = nullptr);
-
-  protected:
-    void paintEvent(QPaintEvent* event) override;
-
-  private:
-    void loadImage(const QString& folder);
-    void drawImage(QPainter& painter) const;
-
-    PictureReference m_image;
+    explicit RecorderView(const QString& folder, QWidget* parent = nullptr)
+        : PictureView(folder, QStringLiteral("recording"), parent) {}
 };

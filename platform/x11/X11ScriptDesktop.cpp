@@ -34,9 +34,9 @@ Result<std::unique_ptr<X11ScriptDesktop>> X11ScriptDesktop::open(Clock& clock, c
 X11ScriptDesktop::X11ScriptDesktop(XConnection connection, XConnection server, XConnection client,
                                    Clock& clock)
     : m_connection(std::move(connection)),
+      m_focus(m_connection),
       m_clipboard(std::move(server), std::move(client)),
       m_clock(clock),
-      m_activeWindow(m_connection.atom("_NET_ACTIVE_WINDOW")),
       m_stacking(m_connection.atom("_NET_CLIENT_LIST_STACKING")),
       m_clients(m_connection.atom("_NET_CLIENT_LIST")) {}
 
@@ -85,22 +85,10 @@ Result<void> X11ScriptDesktop::activate(std::string_view name) {
     const xcb_window_t window = findWindow(name);
     if (window == XCB_WINDOW_NONE)
         return Error{"No window of “" + std::string(name) + "” is open.", "Start it first."};
-    constexpr std::uint32_t fromPager = 2;
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = window;
-    message.type = m_activeWindow;
-    message.data.data32[0] = fromPager;
-    xcb_send_event(m_connection, 0, m_connection.root(),
-                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                   reinterpret_cast<const char*>(&message));
+    m_focus.request(window, WindowFocus::Source::pager, 0);
     m_connection.roundTrip();
     const Clock::Time end = m_clock.now() + longestWait;
-    const auto isActive = [&] {
-        const std::vector<xcb_window_t> active = windows(m_activeWindow);
-        return !active.empty() && active.front() == window;
-    };
+    const auto isActive = [&] { return m_focus.activeWindow() == window && m_focus.isIn(window); };
     while (!isActive() && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
     return {};
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/ScriptDesktop.h"
+#include "platform/x11/WindowFocus.h"
 #include "platform/x11/X11Clipboard.h"
 #include "platform/x11/XConnection.h"
 
@@ -32,9 +33,9 @@ class X11ScriptDesktop : public ScriptDesktop {
     std::vector<xcb_window_t> windows(xcb_atom_t list) const;
 
     XConnection m_connection;
+    WindowFocus m_focus;
     X11Clipboard m_clipboard;
     Clock& m_clock;
-    xcb_atom_t m_activeWindow;
     xcb_atom_t m_stacking;
     xcb_atom_t m_clients;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Windows.h"
+#include "platform/x11/WindowFocus.h"
 #include "platform/x11/XConnection.h"
 
 class Clock;
@@ -20,20 +21,14 @@ class X11Windows : public Windows {
     bool isFocusElsewhere(WindowId hidden) const;
     void giveFocusBack(WindowId hidden) const;
 
-    xcb_window_t focusHolder() const;
-    xcb_window_t parentOf(xcb_window_t window) const;
-    bool holdsFocus(xcb_window_t window) const;
     bool isOnScreen(xcb_window_t window) const;
-    /// The first value of a 32-bit property; 0 if there is none.
-    std::uint32_t property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const;
 
     void setUserTime(WindowId window, std::uint32_t time) const;
-    void askForActivation(WindowId window, std::uint32_t time) const;
     std::uint32_t serverTime() const;
 
     XConnection m_connection;
+    WindowFocus m_focus;
     Clock& m_clock;
-    xcb_atom_t m_activeWindow;
     xcb_atom_t m_managerCheck;
     xcb_atom_t m_userTime;
     xcb_atom_t m_userTimeWindow;

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "app/overlay/PictureView.h"
+
+#include <QPainter>
+
+PictureView::PictureView(const QString& folder, const QString& name, QWidget* parent) : QWidget(parent) {
+    loadImage(folder, name);
+}
+
+void PictureView::loadImage(const QString& folder, const QString& name) {
+    m_image = PictureReference(folder, name);
+}
+
+void PictureView::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    painter.fillRect(rect(), Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    drawImage(painter);
+}
+
+void PictureView::drawImage(QPainter& painter) const {
+    painter.drawPixmap(0, 0, m_image.pixmap(size(), devicePixelRatioF()));
+}
