@@ -73,11 +73,12 @@ Fallible<Value> joinedText(const std::string& text, const std::string& addition)
 }
 
 /// What both have is taken from the left one.
-Value joinedRecord(const RecordBody& left, RecordBody& right) {
+Fallible<Value> joinedRecord(const RecordBody& left, RecordBody& right) {
     const auto both = makeShared<RecordBody>(left.fields);
     for (const Field& field : right.fields) {
-        if (both->find(*field.name) == nullptr) both->fields.push_back(field);
+        if (both->find(*field.name) == nullptr) both->add(field);
     }
+    if (both->fields.size() > maxFields) return outOfMemory();
     return Value{both};
 }
 

@@ -53,7 +53,7 @@ void callHandler(Execution& run, const Call& call, std::uint32_t index) {
                          spelledArguments(run, call.count) + " doesn’t match the parameters " +
                              spelledParameters(run, handler) + " for " + run.name(call.name).spelling + "."});
     }
-    if (run.goesOn()) run.enterHandler(index, handler.labels.size());
+    run.enterHandler(index, handler.labels.size());
 }
 
 /// -1708, with a hint where the script itself has the handler.
@@ -112,8 +112,7 @@ void returnValue(Execution& run, const Instruction& here) {
 
 /// The parameters lie on the stack already; the other variables have no values yet.
 void enter(Execution& run, const Instruction& here) {
-    const std::size_t parameters = run.handler().labels.size();
-    for (std::size_t i = parameters; i < here.operand; ++i) run.push(Value());
+    run.addVariables(here.operand - run.handler().labels.size());
 }
 
 }  // namespace

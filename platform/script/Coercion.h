@@ -11,9 +11,11 @@
 /// Values as other types. Empty where the value cannot be one. A list of one item is whatever the item is.
 namespace script {
 
-/// The most bytes that a text that a script makes may have, and the most items of a list.
+/// The most bytes that a text that a script makes may have, the most items of a list, and the most properties
+/// of a record, which are looked up one after another.
 inline constexpr std::size_t maxTextSize = 16U << 20U;
 inline constexpr std::size_t maxListItems = 100000;
+inline constexpr std::size_t maxFields = 1000;
 
 /// "Out of memory." (-108)
 Failure outOfMemory();

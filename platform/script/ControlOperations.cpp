@@ -16,11 +16,6 @@ std::int64_t& counter(Value& value) { return std::get<std::int64_t>(value.conten
 
 void jump(Execution& run, const Instruction& here) { run.jump(here.operand); }
 
-/// A loop that neither presses nor waits can be stopped here only.
-void jumpBack(Execution& run, const Instruction& here) {
-    if (run.goesOn()) run.jump(here.operand);
-}
-
 void jumpIfFalse(Execution& run, const Instruction& here) {
     const Value value = run.popResolved();
     if (run.hasFailed()) return;
@@ -149,7 +144,6 @@ void addControlOperations(OperationTable& table) {
         table[static_cast<std::size_t>(operation)] = perform;
     };
     add(Operation::jump, jump);
-    add(Operation::jumpBack, jumpBack);
     add(Operation::jumpIfFalse, jumpIfFalse);
     add(Operation::makeCount, makeCount);
     add(Operation::countDown, countDown);

@@ -28,7 +28,8 @@ Execution::Execution(const Program& program, const MachineServices& services)
       m_globals(program.globals.size()),
       m_me(makeShared<TargetBody>(TargetBody::Kind::script, Text(""))),
       m_random(std::random_device{}()),
-      m_memoryBefore(HeldMemory::bytes()) {
+      m_memoryBefore(HeldMemory::bytes()),
+      m_locator(program.source) {
     m_frames.emplace_back();
 }
 
@@ -54,6 +55,7 @@ RunResult Execution::run() {
         ++m_work;
         table[static_cast<std::size_t>(instruction.operation)](*this, instruction);
         if (held - m_memoryBefore > maxMemory && held > m_memoryBefore && !m_failure) fail(outOfMemory());
+        if (m_work >= workBetweenQuestions && !m_failure) askWhetherToStop();
         if (m_failure) unwind();
     }
     m_session.reset();
@@ -110,13 +112,9 @@ Value* Execution::findGlobal(const Name& wanted) {
     return nullptr;
 }
 
-bool Execution::goesOn() {
-    if (m_work < workBetweenQuestions) return true;
+void Execution::askWhetherToStop() {
     m_work = 0;
-    std::optional<Failure> wish = stopWish();
-    if (!wish) return true;
-    fail(*std::move(wish));
-    return false;
+    if (std::optional<Failure> wish = stopWish()) fail(*std::move(wish));
 }
 
 std::optional<Failure> Execution::stopWish() {
@@ -139,6 +137,11 @@ void Execution::enterHandler(std::uint32_t index, std::size_t arguments) {
     jump(m_program.handlers[index].start);
 }
 
+void Execution::addVariables(std::size_t count) {
+    if (m_stack.size() + count > maxStack) return fail({errornumber::stackOverflow, "Stack overflow."});
+    m_stack.resize(m_stack.size() + count);
+}
+
 /// What the handler had begun is undone.
 void Execution::leaveHandler(Value value) {
     if (m_frames.size() == 1) return finish(value);
@@ -152,7 +155,9 @@ void Execution::leaveHandler(Value value) {
     push(std::move(value));
 }
 
-void Execution::finish(const Value& value) { m_result = RunResult{RunEnd::finished, std::nullopt, spelled(value)}; }
+void Execution::finish(const Value& value) {
+    m_result = RunResult{RunEnd::finished, std::nullopt, spelled(value)};
+}
 
 void Execution::pushTry(std::uint32_t target) {
     m_tries.push_back({target, m_frames.size(), m_stack.size(), m_targets.size(), m_attributes.size()});
@@ -242,8 +247,9 @@ std::optional<Failure> Execution::play(const Step& step) {
 }
 
 void Execution::warn(std::string message) {
-    if (!m_warningHandler || !m_warned.emplace(m_offset, message).second) return;
-    m_warningHandler({std::move(message), locate(m_program.source, m_offset)});
+    if (!m_warningHandler || m_warned.size() == maxWarnings) return;
+    if (!m_warned.emplace(m_offset, message).second) return;
+    m_warningHandler({std::move(message), m_locator.at(m_offset)});
 }
 
 void Execution::log(std::string line) {

@@ -47,8 +47,12 @@ struct Try {
 class Execution : public CommandStage {
   public:
     static constexpr std::size_t maxFrames = 1000;
+    /// How many values may lie on the stack when a handler begins, its own variables among them.
+    static constexpr std::size_t maxStack = 500000;
     /// What the values of a run may hold at one time, in bytes.
     static constexpr std::size_t maxMemory = 256U << 20U;
+    /// More warnings are left out: nobody reads them.
+    static constexpr std::size_t maxWarnings = 1000;
 
     Execution(const Program& program, const MachineServices& services);
     ~Execution() override;
@@ -88,12 +92,12 @@ class Execution : public CommandStage {
 
     // Control.
     void jump(std::uint32_t target) { m_next = target; }
-    /// Asks from time to time whether the user wants to stop.
-    bool goesOn();
     /// What is done beside the instruction itself counts as work, too.
     void work(std::size_t amount) { m_work += amount; }
     /// The arguments lie on top of the stack already.
     void enterHandler(std::uint32_t index, std::size_t arguments);
+    /// Variables without a value yet, behind the arguments.
+    void addVariables(std::size_t count);
     void leaveHandler(Value value);
     void pushTry(std::uint32_t target);
     void popTry() { m_tries.pop_back(); }
@@ -128,6 +132,7 @@ class Execution : public CommandStage {
     const Value& target() const override;
 
   private:
+    void askWhetherToStop();
     void unwind();
     void finish(const Value& value);
 
@@ -157,6 +162,7 @@ class Execution : public CommandStage {
     std::vector<Value> m_containers;
     std::size_t m_containersAllowed = 1024;
     std::set<std::pair<std::uint32_t, std::string>> m_warned;
+    Locator m_locator;
     std::optional<RunResult> m_result;
 };
 

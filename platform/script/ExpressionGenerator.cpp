@@ -22,13 +22,59 @@ bool isShortCircuit(const Node& node) {
 
 void ExpressionGenerator::expression(NodeId id) {
     statementValue(id);
-    const NodeKind kind = m_tree.at(id).kind;
-    const bool mayBeNothing = kind == NodeKind::call || kind == NodeKind::callTo || kind == NodeKind::command;
-    if (mayBeNothing) m_out.emit(Operation::requireValue, m_tree.at(id));
+    requireValue(m_tree.at(id));
+}
+
+void ExpressionGenerator::requireValue(const Node& node) {
+    const bool mayBeNothing =
+        node.kind == NodeKind::call || node.kind == NodeKind::callTo || node.kind == NodeKind::command;
+    if (mayBeNothing) m_out.emit(Operation::requireValue, node);
 }
 
 void ExpressionGenerator::statementValue(NodeId id) {
-    const Node& node = m_tree.at(id);
+    const std::size_t outer = m_begun.size();
+    for (NodeId part = id; part != noNode; part = firstPart(m_tree.at(part))) m_begun.push_back(part);
+    for (;;) {
+        const Node& node = m_tree.at(m_begun.back());
+        m_begun.pop_back();
+        behindFirstPart(node);
+        if (m_begun.size() == outer) return;
+        requireValue(node);
+    }
+}
+
+/// What is worked out before all else that the node needs; `noNode` if nothing is.
+NodeId ExpressionGenerator::firstPart(const Node& node) const {
+    switch (node.kind) {
+        case NodeKind::binary:
+        case NodeKind::callTo:
+        case NodeKind::characterId:
+        case NodeKind::coercion:
+        case NodeKind::contentsOf:
+        case NodeKind::inversion:
+        case NodeKind::negation:
+        case NodeKind::process:
+        case NodeKind::propertyOf:
+            return node.firstChild;
+        case NodeKind::element:
+            return containerOf(node);
+        case NodeKind::textBetween:
+            return m_tree.at(m_tree.at(node.firstChild).nextSibling).nextSibling;
+        default:
+            return noNode;
+    }
+}
+
+/// The last child; `noNode` for `it`.
+NodeId ExpressionGenerator::containerOf(const Node& element) const {
+    if ((element.value & elementnode::hasContainer) == 0) return noNode;
+    NodeId id = element.firstChild;
+    while (m_tree.at(id).nextSibling != noNode) id = m_tree.at(id).nextSibling;
+    return id;
+}
+
+/// The node itself, where its first part is on the stack already.
+void ExpressionGenerator::behindFirstPart(const Node& node) {
     if (leaf(node) || target(node)) return;
     switch (node.kind) {
         case NodeKind::list:
@@ -36,10 +82,8 @@ void ExpressionGenerator::statementValue(NodeId id) {
         case NodeKind::record:
             return record(node);
         case NodeKind::negation:
-            expression(node.firstChild);
             return m_out.emit(Operation::negate, node);
         case NodeKind::inversion:
-            expression(node.firstChild);
             return m_out.emit(Operation::invert, node);
         case NodeKind::coercion:
             return coercion(node);
@@ -48,24 +92,21 @@ void ExpressionGenerator::statementValue(NodeId id) {
         case NodeKind::textBetween:
             return textBetween(node);
         case NodeKind::propertyOf:
-            return property(node);
+            return m_out.emit(Operation::getProperty, node, node.value);
         case NodeKind::referenceTo:
             return referenceTo(node);
         case NodeKind::contentsOf:
-            expression(node.firstChild);
             return m_out.emit(Operation::getContents, node);
         case NodeKind::characterId:
-            expression(node.firstChild);
             return m_out.emit(Operation::characterId, node);
         case NodeKind::call:
             return call(node, false);
         case NodeKind::callTo:
-            expression(node.firstChild);
             return call(m_tree.at(m_tree.at(node.firstChild).nextSibling), true);
         case NodeKind::command:
             return command(node);
         default:
-            return binary(id);
+            return binary(node);
     }
 }
 
@@ -124,7 +165,6 @@ bool ExpressionGenerator::target(const Node& node) {
             m_out.emit(Operation::pushApplication, node, node.value, node.detail);
             return true;
         case NodeKind::process:
-            expression(node.firstChild);
             m_out.emit(Operation::makeProcess, node);
             return true;
         default:
@@ -163,22 +203,10 @@ void ExpressionGenerator::record(const Node& node) {
     m_out.emit(Operation::pushRecord, node, static_cast<std::uint32_t>(shapes.size() - 1));
 }
 
-/// A chain of operators leans to the left, however long it is: it is walked down and back, not descended by
-/// recursion.
-void ExpressionGenerator::binary(NodeId id) {
-    std::vector<NodeId> chain;
-    NodeId leftmost = id;
-    while (m_tree.at(leftmost).kind == NodeKind::binary) {
-        chain.push_back(leftmost);
-        leftmost = m_tree.at(leftmost).firstChild;
-    }
-    expression(leftmost);
-    std::for_each(chain.rbegin(), chain.rend(), [&](NodeId link) {
-        const Node& node = m_tree.at(link);
-        if (isShortCircuit(node)) return shortCircuit(node);
-        expression(m_tree.at(node.firstChild).nextSibling);
-        m_out.emit(Operation::binary, node, 0, node.detail);
-    });
+void ExpressionGenerator::binary(const Node& node) {
+    if (isShortCircuit(node)) return shortCircuit(node);
+    expression(m_tree.at(node.firstChild).nextSibling);
+    m_out.emit(Operation::binary, node, 0, node.detail);
 }
 
 /// The right side is not looked at where the left one decides.
@@ -192,7 +220,6 @@ void ExpressionGenerator::shortCircuit(const Node& node) {
 }
 
 void ExpressionGenerator::coercion(const Node& node) {
-    expression(node.firstChild);
     if (node.value == 0) return m_out.emit(Operation::coerce, node, 0, node.detail);
     std::vector<Type> types;
     const Node& list = m_tree.at(m_tree.at(node.firstChild).nextSibling);
@@ -204,44 +231,32 @@ void ExpressionGenerator::coercion(const Node& node) {
     m_out.emit(Operation::coerceAny, node, static_cast<std::uint32_t>(typeLists.size() - 1));
 }
 
-/// The container, or `it` where there is none.
-void ExpressionGenerator::container(NodeId id, const Node& node) {
-    if (id == noNode) return m_out.emit(Operation::pushIt, node);
-    expression(id);
-}
-
+/// An element without a container is one of `it`.
 void ExpressionGenerator::element(const Node& node, Operation operation) {
     const bool isBare = (node.value & elementnode::isBare) != 0;
     const NameId name = node.value >> elementnode::nameShift;
     if (isBare && operation == Operation::getElement && m_out.scope().knows(name)) return load(name, node);
-    std::vector<NodeId> children;
-    for (NodeId id = node.firstChild; id != noNode; id = m_tree.at(id).nextSibling) children.push_back(id);
-    const bool hasContainer = (node.value & elementnode::hasContainer) != 0;
-    container(hasContainer ? children.back() : noNode, node);
-    if (hasContainer) children.pop_back();
-    for (const NodeId index : children) expression(index);
+    const NodeId container = containerOf(node);
+    if (container == noNode) m_out.emit(Operation::pushIt, node);
+    for (NodeId id = node.firstChild; id != container; id = m_tree.at(id).nextSibling) expression(id);
     m_out.emit(operation, node, isBare ? 0 : name, node.detail);
 }
 
 void ExpressionGenerator::textBetween(const Node& node) {
     const Node& first = m_tree.at(node.firstChild);
     const Node& last = m_tree.at(first.nextSibling);
-    container(last.nextSibling, node);
+    if (last.nextSibling == noNode) m_out.emit(Operation::pushIt, node);
     expression(first.firstChild);
     expression(last.firstChild);
     m_out.emit(Operation::textBetween, node, first.detail | (std::uint32_t{last.detail} << 8U));
 }
 
-void ExpressionGenerator::property(const Node& node) {
-    expression(node.firstChild);
-    m_out.emit(Operation::getProperty, node, node.value);
-}
-
 /// A reference to an element is kept as one; of all else the value is taken.
 void ExpressionGenerator::referenceTo(const Node& node) {
     const Node& what = m_tree.at(node.firstChild);
-    if (what.kind == NodeKind::element) return element(what, Operation::makeReference);
-    expression(node.firstChild);
+    if (what.kind != NodeKind::element) return expression(node.firstChild);
+    if (const NodeId container = containerOf(what); container != noNode) expression(container);
+    element(what, Operation::makeReference);
 }
 
 void ExpressionGenerator::call(const Node& node, bool hasTarget) {
@@ -349,6 +364,7 @@ void ExpressionGenerator::assignName(NameId name, const Node& node) {
 void ExpressionGenerator::assignElement(const Node& node, const Node& statement) {
     if ((node.value & elementnode::isBare) != 0)
         return assignName(node.value >> elementnode::nameShift, statement);
+    if (const NodeId container = containerOf(node); container != noNode) expression(container);
     Node here = node;
     here.offset = statement.offset;
     element(here, Operation::setElement);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <vector>
+
 #include "platform/script/Emitter.h"
 
 namespace script {
@@ -8,6 +10,10 @@ namespace script {
 struct Command;
 
 /// Emits code for expressions, which leaves the value on the stack, and for setting, which takes it off.
+///
+/// A line may chain as many operators, coercions and members as fit into a script. Each holds the one before
+/// it as its first part, so first parts are walked down and back, and never descended by recursion; all
+/// others lie no deeper than the parser lets them.
 class ExpressionGenerator {
   public:
     explicit ExpressionGenerator(Emitter& out) : m_out(out), m_tree(out.tree()) {}
@@ -22,18 +28,20 @@ class ExpressionGenerator {
     void load(NameId name, const Node& node);
 
   private:
+    NodeId firstPart(const Node& node) const;
+    NodeId containerOf(const Node& element) const;
+    void behindFirstPart(const Node& node);
+    void requireValue(const Node& node);
     bool leaf(const Node& node);
     bool target(const Node& node);
     void items(const Node& node, Operation operation);
     void record(const Node& node);
-    void binary(NodeId id);
+    void binary(const Node& node);
     void shortCircuit(const Node& node);
     void coercion(const Node& node);
     void known(const Node& node);
     void element(const Node& node, Operation operation);
-    void container(NodeId id, const Node& node);
     void textBetween(const Node& node);
-    void property(const Node& node);
     void referenceTo(const Node& node);
     void call(const Node& node, bool hasTarget);
     void command(const Node& node);
@@ -47,6 +55,8 @@ class ExpressionGenerator {
 
     Emitter& m_out;
     const Tree& m_tree;
+    /// The nodes whose first parts are being worked on, the innermost last.
+    std::vector<NodeId> m_begun;
 };
 
 }  // namespace script

@@ -169,6 +169,7 @@ NodeId ExpressionParser::index() {
         case TokenKind::leftParenthesis:
             return parenthesised();
         case TokenKind::minus: {
+            const Nesting nesting(m_tokens);
             m_tokens.advance();
             const NodeId node = m_tree.add(NodeKind::negation, offset);
             ChildList(m_tree, node).append(index());

@@ -61,9 +61,6 @@ class ExpressionParser {
     TokenStream& m_tokens;
     Tree& m_tree;
     TermParser& m_terms;
-    /// The most properties that a record may have: each is compared with all others.
-    static constexpr std::size_t maxFields = 1000;
-
     bool m_leavesAs = false;
 };
 

@@ -69,7 +69,6 @@ enum class Operation : std::uint8_t {
     enter,        ///< begins a handler [how many variables it has]
 
     jump,         ///< [target]
-    jumpBack,     ///< the end of a loop's body: the user may have asked to stop [target]
     jumpIfFalse,  ///< takes a condition [target]
     makeCount,    ///< replaces the top by a whole number
     countDown,    ///< lowers the top by one, or jumps if it is below 1 [target]

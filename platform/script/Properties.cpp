@@ -26,18 +26,24 @@ Found ofList(const List& list, const Name& name) {
     return std::nullopt;
 }
 
-Found ofText(const Value& value, const std::string& text, const Name& name) {
+/// The code points of the characters of a text, or the one of its only character.
+Fallible<Value> idOf(const std::string& text) {
+    List points;
+    for (std::size_t position = 0; position < text.size();) {
+        if (points.size() == maxListItems) return outOfMemory();
+        points.push_back(whole(takeCharacter(text, position)));
+    }
+    if (points.size() == 1) return points.front();
+    return Value{std::move(points)};
+}
+
+Found ofText(const Value& value, const Name& name) {
     if (&name == &names::length) {
         const auto count = countElements(value, {ElementKind::character}, TextRules());
         return whole(static_cast<std::int64_t>(count.value_or(0)));
     }
     if (&name == &names::textProperty) return value;
-    if (&name != &names::id) return std::nullopt;
-    List points;
-    std::size_t position = 0;
-    while (position < text.size()) points.push_back(whole(takeCharacter(text, position)));
-    if (points.size() == 1) return points.front();
-    return Value{std::move(points)};
+    return std::nullopt;
 }
 
 Found ofDate(std::int64_t moment, const Name& name) {
@@ -64,7 +70,7 @@ Found find(const Value& container, const Name& name) {
     }
     if (&name == &names::classProperty) return Value{typeOf(container)};
     if (const List* list = container.list()) return ofList(*list, name);
-    if (const std::string* text = container.text()) return ofText(container, *text, name);
+    if (container.text() != nullptr) return ofText(container, name);
     if (const DateBody* date = container.date()) return ofDate(date->seconds, name);
     const TargetBody* target = container.target();
     if (target != nullptr && &name == &names::nameProperty && target->kind != TargetBody::Kind::script) {
@@ -114,6 +120,7 @@ std::optional<Failure> addToList(const Shared<ListBody>& list, bool atEnd, const
 }  // namespace
 
 Fallible<Value> propertyOf(const Value& container, const Name& name) {
+    if (container.text() != nullptr && &name == &names::id) return idOf(*container.text());
     if (Found found = find(container, name)) return *std::move(found);
     return cannotGet(spelledName(name) + " of " + spelled(container));
 }

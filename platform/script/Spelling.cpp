@@ -8,6 +8,7 @@
 #include "platform/Modifiers.h"
 #include "platform/Utf8.h"
 #include "platform/script/Dates.h"
+#include "platform/script/Scoped.h"
 #include "platform/script/ScriptError.h"
 
 namespace script {
@@ -15,6 +16,7 @@ namespace {
 
 constexpr int significantDigits = 12;
 constexpr std::size_t maxSpelling = 4096;
+constexpr int maxDepth = 500;
 
 /// A real as its digits without trailing zeros, and the power of ten of the first digit.
 struct Digits {
@@ -58,6 +60,11 @@ class Speller {
 
     void add(const Value& value) {
         if (m_out.size() > maxSpelling) return;
+        const Scoped<int> depth(m_depth, m_depth + 1);
+        if (m_depth > maxDepth) {
+            m_out += "…";
+            return;
+        }
         std::visit([this](const auto& content) { spell(content); }, value.content);
     }
 
@@ -82,6 +89,7 @@ class Speller {
     void quote(const std::string& text);
 
     std::string m_out;
+    int m_depth = 0;
 };
 
 void Speller::spell(const Shared<ListBody>& list) {

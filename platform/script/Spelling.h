@@ -16,7 +16,7 @@ std::string constantText(const Modifier& constant);
 std::string constantText(const CalendarName& constant);
 
 /// As a script would spell it, for messages and results: texts in quotes, lists in braces. What is longer
-/// than a few thousand bytes is cut off with "…".
+/// than a few thousand bytes, or nested some hundred times, is cut off with "…".
 std::string spelled(const Value& value);
 
 /// As spelled in front of its container: "item 2", "text 2 thru 3", "some word".

@@ -88,7 +88,7 @@ void StatementGenerator::ifThen(const Node& node) {
 void StatementGenerator::loop(const Node& node, NodeId body, std::uint32_t start) {
     const Scoped<std::size_t> openInLoop(m_openInLoop, m_open.size());
     block(body);
-    m_out.emit(Operation::jumpBack, node, start);
+    m_out.emit(Operation::jump, node, start);
 }
 
 void StatementGenerator::repeatForEver(const Node& node) {

@@ -69,6 +69,11 @@ Value* RecordBody::find(const Name& name) {
     return found == fields.end() ? nullptr : &found->value;
 }
 
+void RecordBody::add(Field field) {
+    fields.push_back(std::move(field));
+    memory.resize(fields.capacity() * sizeof(Field) + sizeof(RecordBody));
+}
+
 ReferenceBody::ReferenceBody(Value whole, Element part) : container(std::move(whole)), element(part) {}
 
 }  // namespace script

@@ -142,6 +142,7 @@ struct RecordBody : Counted {
     explicit RecordBody(std::vector<Field> content);
     /// Null if there is no such field.
     Value* find(const Name& name);
+    void add(Field field);
     std::vector<Field> fields;
     HeldMemory memory;
 };

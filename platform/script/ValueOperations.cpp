@@ -93,6 +93,12 @@ void drop(Execution& run, const Instruction& /*unused*/) { run.drop(); }
 class DeepCopy {
   public:
     bool isTooDeep() const { return m_isTooDeep; }
+    /// Calls the function with each copy, if some of them may hold themselves.
+    template <typename Function>
+    void forEachOfCycles(const Function& function) const {
+        if (!m_isShared) return;
+        for (const auto& [original, copy] : m_copies) function(copy);
+    }
 
     Value operator()(const Value& value) {
         if (value.list() != nullptr) return copied(value, value.as<Shared<ListBody>>()->get());
@@ -106,7 +112,10 @@ class DeepCopy {
 
     Value copied(const Value& value, const Counted* body) {
         const auto known = m_copies.find(body);
-        if (known != m_copies.end()) return known->second;
+        if (known != m_copies.end()) {
+            m_isShared = true;
+            return known->second;
+        }
         if (++m_depth > maxDepth) m_isTooDeep = true;
         Value copy =
             value.list() != nullptr ? Value{List()} : Value{makeShared<RecordBody>(std::vector<Field>())};
@@ -122,7 +131,7 @@ class DeepCopy {
             (*copy.as<Shared<ListBody>>())->didChange();
         } else {
             for (const Field& field : value.record()->fields) {
-                copy.record()->fields.push_back({field.name, (*this)(field.value)});
+                copy.record()->add({field.name, (*this)(field.value)});
             }
         }
     }
@@ -130,6 +139,7 @@ class DeepCopy {
     std::unordered_map<const Counted*, Value> m_copies;
     int m_depth = 0;
     bool m_isTooDeep = false;
+    bool m_isShared = false;
 };
 
 void deepCopy(Execution& run, const Instruction& /*unused*/) {
@@ -137,7 +147,7 @@ void deepCopy(Execution& run, const Instruction& /*unused*/) {
     if (run.hasFailed()) return;
     DeepCopy copy;
     run.push(copy(value));
-    if (value.list() != nullptr || value.record() != nullptr) run.holdsContainer(run.top());
+    copy.forEachOfCycles([&](const Value& container) { run.holdsContainer(container); });
     if (copy.isTooDeep()) run.fail({errornumber::stackOverflow, "Stack overflow."});
 }
 
