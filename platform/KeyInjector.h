@@ -76,4 +76,12 @@ class KeyInjector {
     /// Whether the user has asked to stop since the playback started: Escape held for 0.3 s, or a hot key
     /// that cancels playback.
     virtual bool isCancelled() = 0;
+
+    /// Ends the playback as if the user had asked for it. Nothing where keys are only noted down.
+    virtual void stopPlayback() {}
+
+    /// The user gets the keyboard back in the middle of a run, to answer a question: locks are as he had
+    /// them, what the run holds is up. The next step that presses a key takes over again, and holds again
+    /// what was held. Nothing where no session is open.
+    virtual void rest() {}
 };

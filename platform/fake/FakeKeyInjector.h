@@ -19,9 +19,11 @@ class FakeKeyInjector : public KeyInjector {
     Result<std::unique_ptr<InjectionSession>> open(const InjectionPlan& plan) override;
     void startPlayback() override { m_desktop.startPlayback(); }
     bool isCancelled() override { return m_desktop.isCancelled(); }
+    void stopPlayback() override { m_desktop.cancelPlayback(); }
+    void rest() override { m_posted.emplace_back("rest"); }
 
     /// Everything that was pressed, one step each: "key 36 command shift", "text hello", "down shift",
-    /// "up 36", "pause 0.5". Modifiers come in the order command, control, option, shift.
+    /// "up 36", "pause 0.5", "rest". Modifiers come in the order command, control, option, shift.
     const std::vector<std::string>& postedKeys() const { return m_posted; }
     /// The next open() or the next step answers the error.
     void failNextCall(const Error& error) { m_nextError = error; }

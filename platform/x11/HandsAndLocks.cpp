@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/HandsAndLocks.h"
 
+#include <utility>
+
 namespace {
 
 constexpr std::uint8_t allModifiers = 0xFF;
@@ -119,7 +121,7 @@ Result<void> HandsAndLocks::adopt() {
 }
 
 void HandsAndLocks::giveBack() {
-    if (!m_hasTakenOver) return;
+    if (!std::exchange(m_hasTakenOver, false)) return;
     const auto state = m_connection.synchronise();
     if (!state) return;
     m_afterwards ^= static_cast<std::uint8_t>(state.value().locked ^ m_current);

@@ -31,7 +31,7 @@ class HandsAndLocks {
     /// Takes the locks as they are for the run's own doing: after a stroke of a lock key.
     Result<void> adopt();
 
-    /// Nothing happens if takeOver() was not called.
+    /// Nothing happens unless takeOver() was called, and called since the last time.
     void giveBack();
 
   private:

@@ -30,6 +30,8 @@ class RunWatch {
 
     /// A play command starts: forgets an earlier wish to stop.
     virtual void startPlayback() = 0;
+    /// The program itself wishes to stop.
+    virtual void stopPlayback() = 0;
     /// Whether the user has asked to stop since then: a hot key that cancels, or Escape of a real keyboard
     /// held for 0.3 s. As of the last drain(), and of the clock.
     virtual bool isCancelled() const = 0;

@@ -26,6 +26,7 @@ class X11EventManager::Parts final : public RunWatch {
     int fileDescriptor() const override { return m_wakeups.fileDescriptor(); }
     void drain() override;
     void startPlayback() override { m_cancel.start(); }
+    void stopPlayback() override { m_cancel.cancel(); }
     bool isCancelled() const override { return m_cancel.isCancelled(); }
     std::optional<Clock::Time> cancelDeadline() const override { return m_cancel.deadline(); }
     bool takeModifierPress() override { return m_interpreter.takeModifierPress(); }

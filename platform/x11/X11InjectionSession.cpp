@@ -35,14 +35,21 @@ X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionP
 
 X11InjectionSession::~X11InjectionSession() {
     if (m_hasBegun) {
-        while (!m_held.empty()) letGo(m_held.back().keycode);
-        m_hands.giveBack();
+        rest();
         m_tools.watch.runEnds();
-        // A guard that has gone in the meantime has nothing left to do.
-        [[maybe_unused]] const auto told = m_tools.guard.tell({});
-        m_tools.mark.clear();
     }
     m_whenEnded();
+}
+
+void X11InjectionSession::rest() {
+    if (!m_hasBegun || m_rests) return;
+    m_rests = true;
+    std::for_each(m_held.rbegin(), m_held.rend(), [this](const Held& held) { releaseKeysOf(held); });
+    m_tools.connection.flush();
+    m_hands.giveBack();
+    // A guard that has gone in the meantime has nothing left to do.
+    [[maybe_unused]] const auto told = m_tools.guard.tell({});
+    m_tools.mark.clear();
 }
 
 Result<RunState> X11InjectionSession::step(const Step& body) {
@@ -63,8 +70,9 @@ Result<RunState> X11InjectionSession::begin() {
     const auto told = m_tools.guard.tell({});
     if (!told) return told.error();
     m_tools.mark.set();
+    if (!m_hasBegun) m_tools.watch.runStarts();
     m_hasBegun = true;
-    m_tools.watch.runStarts();
+    m_rests = false;
     m_tools.watch.endHotKeyGrab();
     auto isFree = m_tools.grab.untilFree(m_waiter);
     if (!isGoing(isFree)) return isFree;
@@ -81,6 +89,17 @@ Result<RunState> X11InjectionSession::settle() {
     return RunState::going;
 }
 
+/// Its keys go down again in the order in which they were pressed.
+Result<RunState> X11InjectionSession::resume() {
+    auto begun = begin();
+    if (!isGoing(begun)) return begun;
+    for (const Held& held : m_held) {
+        for (const std::uint8_t keycode : held.pressed) m_tools.connection.press(keycode);
+    }
+    m_tools.connection.flush();
+    return begun;
+}
+
 Result<InputState> X11InjectionSession::check() {
     auto state = m_hands.check(m_tools.keymap, heldKeys());
     if (state) m_state = state.value();
@@ -88,8 +107,8 @@ Result<InputState> X11InjectionSession::check() {
 }
 
 Result<RunState> X11InjectionSession::ready() {
-    if (!m_hasBegun) {
-        auto begun = begin();
+    if (!m_hasBegun || m_rests) {
+        auto begun = resume();
         if (!isGoing(begun)) return begun;
     }
     if (m_waiter.look() == RunState::cancelled) return RunState::cancelled;
@@ -231,10 +250,14 @@ void X11InjectionSession::letGo(std::uint8_t keycode) {
     const auto held =
         std::find_if(m_held.begin(), m_held.end(), [&](const Held& one) { return one.keycode == keycode; });
     if (held == m_held.end()) return;
-    std::for_each(held->pressed.rbegin(), held->pressed.rend(),
-                  [&](std::uint8_t pressed) { m_tools.connection.release(pressed); });
+    releaseKeysOf(*held);
     m_held.erase(held);
     m_tools.connection.flush();
+}
+
+void X11InjectionSession::releaseKeysOf(const Held& held) {
+    std::for_each(held.pressed.rbegin(), held.pressed.rend(),
+                  [this](std::uint8_t keycode) { m_tools.connection.release(keycode); });
 }
 
 KeycodeSet X11InjectionSession::heldKeys() const {

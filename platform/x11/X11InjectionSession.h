@@ -21,7 +21,8 @@ struct InjectionTools {
 };
 
 /// One run. The first step that presses a key begins it: the mark is set, the keyboard is waited for, hands
-/// and locks are taken over. Its end, which is that of the object, undoes what is left.
+/// and locks are taken over. So does the first one after a rest. Its end, which is that of the object, undoes
+/// what is left.
 class X11InjectionSession final : public InjectionSession {
   public:
     X11InjectionSession(const InjectionTools& tools, InjectionPlan plan, std::function<void()> ended);
@@ -35,6 +36,9 @@ class X11InjectionSession final : public InjectionSession {
     Result<RunState> keyUp(const HeldKey& key) override;
     Result<RunState> pause(double seconds) override;
 
+    /// KeyInjector::rest(). What the user does is still kept for after the run.
+    void rest();
+
   private:
     /// What one `key down` has pressed: the key, after the modifiers that it needed.
     struct Held {
@@ -47,6 +51,7 @@ class X11InjectionSession final : public InjectionSession {
     Result<RunState> step(const Step& body);
     Result<void> followKeymap();
     Result<RunState> begin();
+    Result<RunState> resume();
     Result<RunState> settle();
     Result<InputState> check();
     /// Begins if that has not been done, looks whether the user wishes to stop, and brings hands and locks in
@@ -59,6 +64,7 @@ class X11InjectionSession final : public InjectionSession {
     Result<std::vector<Stroke>> strokesOf(const HeldKey& key);
     Result<RunState> hold(const Stroke& stroke);
     void letGo(std::uint8_t keycode);
+    void releaseKeysOf(const Held& held);
     KeycodeSet heldKeys() const;
 
     InjectionTools m_tools;
@@ -72,6 +78,7 @@ class X11InjectionSession final : public InjectionSession {
     std::vector<Held> m_held;
     InputState m_state;
     bool m_hasBegun = false;
+    bool m_rests = false;
     bool m_isPrepared = false;
     std::optional<Result<RunState>> m_end;
 };

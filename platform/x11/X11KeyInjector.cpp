@@ -37,7 +37,7 @@ struct X11KeyInjector::Parts {
     PlayingMark mark;
     GuardLink guard;
     std::unique_ptr<DisplayParts> display;
-    bool hasSession = false;
+    X11InjectionSession* session = nullptr;
 };
 
 X11KeyInjector::X11KeyInjector(RunWatch& watch, Clock& clock) : X11KeyInjector(watch, clock, Options()) {}
@@ -65,10 +65,9 @@ Result<void> X11KeyInjector::start() {
 }
 
 Result<std::unique_ptr<InjectionSession>> X11KeyInjector::open(const InjectionPlan& plan) {
-    if (m_parts->hasSession) return Error{"A script is running already.", "Wait for its end."};
+    if (m_parts->session != nullptr) return Error{"A script is running already.", "Wait for its end."};
     const auto started = start();
     if (!started) return started.error();
-    m_parts->hasSession = true;
     DisplayParts& display = *m_parts->display;
     const InjectionTools tools{.watch = m_watch,
                                .clock = m_clock,
@@ -79,8 +78,10 @@ Result<std::unique_ptr<InjectionSession>> X11KeyInjector::open(const InjectionPl
                                .keymap = *display.keymap,
                                .binder = display.binder,
                                .grab = display.grab};
-    return std::unique_ptr<InjectionSession>(std::make_unique<X11InjectionSession>(
-        tools, plan, [parts = m_parts.get()] { parts->hasSession = false; }));
+    auto session = std::make_unique<X11InjectionSession>(
+        tools, plan, [parts = m_parts.get()] { parts->session = nullptr; });
+    m_parts->session = session.get();
+    return std::unique_ptr<InjectionSession>(std::move(session));
 }
 
 void X11KeyInjector::startPlayback() {
@@ -92,6 +93,12 @@ void X11KeyInjector::startPlayback() {
 bool X11KeyInjector::isCancelled() {
     m_watch.drain();
     return m_parts->interrupt.isRaised() || m_watch.isCancelled();
+}
+
+void X11KeyInjector::stopPlayback() { m_watch.stopPlayback(); }
+
+void X11KeyInjector::rest() {
+    if (m_parts->session != nullptr) m_parts->session->rest();
 }
 
 void X11KeyInjector::interrupt() noexcept { m_parts->interrupt.raise(); }

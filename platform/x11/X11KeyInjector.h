@@ -42,6 +42,8 @@ class X11KeyInjector final : public KeyInjector {
     Result<std::unique_ptr<InjectionSession>> open(const InjectionPlan& plan) override;
     void startPlayback() override;
     bool isCancelled() override;
+    void stopPlayback() override;
+    void rest() override;
 
     /// Ends the run that lasts, and all later ones before their first stroke: the process is about to end.
     /// Async-signal-safe, so that handlers of SIGTERM, SIGINT and SIGHUP may call it; they must not end the

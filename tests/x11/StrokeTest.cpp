@@ -10,6 +10,7 @@ namespace {
 
 namespace key {
 constexpr std::uint32_t a = 0;
+constexpr std::uint32_t b = 11;
 constexpr std::uint32_t p = 35;
 constexpr std::uint32_t keypadOne = 83;
 constexpr std::uint32_t power = 127;
@@ -159,6 +160,49 @@ TEST_F(StrokeTest, heldKeysAreReleasedAfterAnError) {
         EXPECT_FALSE(session->stroke(key::power, 0));
     }
     EXPECT_EQ(probe().held(), "keys:, modifiers: 0x0");
+}
+
+TEST_F(StrokeTest, aRestGivesTheKeyboardBackAndTheNextStrokeTakesItAgain) {
+    command({"xdotool", "key", "Caps_Lock"});
+    const std::string before = probe().words();
+    auto session = run();
+    ASSERT_TRUE(session->keyDown(HeldModifier{modifier::shift}));
+    ASSERT_TRUE(session->keyDown(HeldCode{key::b}));
+    const std::string during = probe().words();
+    ASSERT_NE(during, before);
+    program().injector().rest();
+    EXPECT_EQ(probe().words(), before);
+    ASSERT_TRUE(session->stroke(key::a, 0));
+    EXPECT_EQ(probe().words(), during);
+    EXPECT_EQ(received().back(), "release 38 0x1");
+    session.reset();
+    EXPECT_EQ(probe().words(), before);
+}
+
+TEST_F(StrokeTest, aRunThatEndsAtRestLeavesTheKeyboardAsItIs) {
+    auto session = run();
+    ASSERT_TRUE(session->keyDown(HeldModifier{modifier::shift}));
+    program().injector().rest();
+    command({"xdotool", "key", "Caps_Lock"});
+    command({"xdotool", "keydown", "Shift_L"});
+    const std::string before = probe().words();
+    session.reset();
+    EXPECT_EQ(probe().words(), before);
+}
+
+TEST_F(StrokeTest, betweenRunsThereIsNothingToRest) {
+    command({"xdotool", "keydown", "Shift_L"});
+    program().injector().rest();
+    EXPECT_EQ(probe().held(), "keys: 50, modifiers: 0x1");
+}
+
+TEST_F(StrokeTest, theProgramItselfCanEndThePlayback) {
+    program().injector().startPlayback();
+    program().injector().stopPlayback();
+    EXPECT_TRUE(program().injector().isCancelled());
+    EXPECT_EQ(wordsOf(run()->stroke(key::a, 0)), "cancelled");
+    program().injector().startPlayback();
+    EXPECT_EQ(wordsOf(run()->stroke(key::a, 0)), "going");
 }
 
 TEST_F(StrokeTest, aReleaseOfWhatIsNotHeldDoesNothing) {
