@@ -37,6 +37,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_windows(windows),
       m_gate(services.eventMonitor, [this] { followGate(); }),
       m_dialogs(dialogs, m_gate),
+      m_scriptQuestions(m_dialogs, services.keyInjector, services.notifications),
       m_shared(*this) {
     preferences.offersUpdateCheck = features::updateCheck;
     timer.setSingleShot(true);

@@ -17,6 +17,7 @@
 #include "app/Gate.h"
 #include "app/PreferencesModel.h"
 #include "app/dialogs/GatedDialogs.h"
+#include "app/dialogs/ScriptQuestions.h"
 #include "app/tray/MenuState.h"
 #include "app/tray/StatusItem.h"
 #include "app/tray/StatusMenu.h"
@@ -139,6 +140,11 @@ class AppController : public QObject, public SharedController {
     std::int32_t processorClockSpeed() const;
     std::uint32_t countProcessors() const;
 
+    // Scripts
+
+    /// How scripts ask and tell.
+    ScriptDialogs& scriptDialogs() { return m_scriptQuestions; }
+
     // Outlets; windows are null until first shown.
 
     StatusItem& statusItem;
@@ -228,6 +234,7 @@ class AppController : public QObject, public SharedController {
     Windows& m_windows;
     Gate m_gate;
     GatedDialogs m_dialogs;
+    ScriptQuestions m_scriptQuestions;
     SharedControllerScope m_shared;
     MenuFacts m_facts;
     std::unique_ptr<RecorderWindow> m_recorderWindow;

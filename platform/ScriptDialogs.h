@@ -15,16 +15,16 @@ struct ScriptDialog {
 
     Kind kind = Kind::dialog;
     std::string text;
-    std::string message;  ///< the smaller text below; of alerts only
-    std::string title;
+    std::string message = {};  ///< the smaller text below; of alerts only
+    std::string title = {};
     Icon icon = Icon::none;
     /// One to three, in the order in which they are named, which is from left to right.
     std::vector<std::string> buttons;
     /// Indices into buttons. Return presses the default button, Escape the cancel button.
-    std::optional<std::size_t> defaultButton;
-    std::optional<std::size_t> cancelButton;
+    std::optional<std::size_t> defaultButton = {};
+    std::optional<std::size_t> cancelButton = {};
     /// With an answer there is a field for text.
-    std::optional<std::string> defaultAnswer;
+    std::optional<std::string> defaultAnswer = {};
     bool hidesAnswer = false;
     /// In seconds; 0 waits for ever.
     double givingUpAfter = 0;
@@ -39,7 +39,7 @@ struct ScriptAnswer {
 
 struct ScriptNotification {
     std::string text;
-    std::string title;
+    std::string title = {};
     std::string subtitle;
 };
 

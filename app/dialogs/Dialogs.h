@@ -3,6 +3,9 @@
 
 #include <QString>
 #include <functional>
+#include <optional>
+
+#include "platform/ScriptDialogs.h"
 
 class QWidget;
 
@@ -43,4 +46,8 @@ class Dialogs {
     /// question whether to replace a file.
     virtual QString runSavePanel(const QString& folder) = 0;
     virtual QString runOpenPanel(const QString& folder) = 0;
+
+    /// Asks a script's question and returns with the answer, once the focus is elsewhere again. Empty if the
+    /// window went without one: the program is about to end, or the user wishes to end the playback.
+    virtual std::optional<ScriptAnswer> runScriptDialog(const ScriptDialog& dialog) = 0;
 };

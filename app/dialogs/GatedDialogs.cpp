@@ -43,3 +43,8 @@ QString GatedDialogs::runOpenPanel(const QString& folder) {
     const Question question(m_gate);
     return m_dialogs.runOpenPanel(folder);
 }
+
+std::optional<ScriptAnswer> GatedDialogs::runScriptDialog(const ScriptDialog& dialog) {
+    const Question question(m_gate);
+    return m_dialogs.runScriptDialog(dialog);
+}

@@ -6,8 +6,9 @@
 
 #include "app/dialogs/AlertSheet.h"
 #include "app/dialogs/MacroFilePanel.h"
+#include "app/dialogs/ScriptDialogWindow.h"
 
-QtDialogs::QtDialogs(Activate activate) : m_activate(std::move(activate)) {}
+QtDialogs::QtDialogs(Focus focus) : m_focus(std::move(focus)) {}
 
 AlertAnswer QtDialogs::runAlert(const AlertText& text) {
     AlertDialog alert(text);
@@ -32,8 +33,17 @@ QString QtDialogs::runOpenPanel(const QString& folder) {
     return run(panel) == QDialog::Accepted ? panel.path() : QString();
 }
 
+std::optional<ScriptAnswer> QtDialogs::runScriptDialog(const ScriptDialog& dialog) {
+    ScriptDialogWindow window(dialog);
+    window.setWindowFlag(Qt::WindowStaysOnTopHint);
+    run(window);
+    window.hide();
+    if (m_focus.awaitElsewhere) m_focus.awaitElsewhere(window);
+    return window.answer();
+}
+
 int QtDialogs::run(QDialog& dialog) const {
     // Once the loop of the dialog runs, its window is there.
-    if (m_activate) QTimer::singleShot(0, &dialog, [this, &dialog] { m_activate(dialog); });
+    if (m_focus.take) QTimer::singleShot(0, &dialog, [this, &dialog] { m_focus.take(dialog); });
     return dialog.exec();
 }

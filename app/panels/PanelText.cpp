@@ -11,7 +11,7 @@ namespace {
 
 constexpr int iconSize = 64;
 /// In widths of a lower case letter.
-constexpr int paragraphWidth = 62;
+constexpr int lettersOfLine = 62;
 
 QLabel* makeBold(const QString& text, double scale) {
     QLabel* label = makeLine(text);
@@ -47,9 +47,11 @@ QLabel* makeHeading(const QString& text) { return makeBold(text, 1); }
 QLabel* makeParagraph(const QString& text) {
     QLabel* label = makeLine(text);
     label->setWordWrap(true);
-    label->setMinimumWidth(label->fontMetrics().averageCharWidth() * paragraphWidth);
+    label->setMinimumWidth(paragraphWidth(*label));
     return label;
 }
+
+int paragraphWidth(const QLabel& label) { return label.fontMetrics().averageCharWidth() * lettersOfLine; }
 
 QLabel* makeKeyCap(const QString& combination) {
     QLabel* label = makeLine(combination);

@@ -17,5 +17,7 @@ QLabel* makeHeading(const QString& text);
 QLabel* makeLine(const QString& text);
 /// Several lines, as wide as reads well.
 QLabel* makeParagraph(const QString& text);
+/// How wide that is, with the label's font.
+int paragraphWidth(const QLabel& label);
 /// A combination, framed as a key is.
 QLabel* makeKeyCap(const QString& combination);

@@ -7,6 +7,7 @@
 #include "app/program/X11Backends.h"
 #include "platform/Windows.h"
 #include "platform/linux/BusLoop.h"
+#include "platform/script/ScriptRunner.h"
 #include "platform/x11/X11DockingTray.h"
 #include "platform/x11/X11EventManager.h"
 #include "platform/x11/X11KeyInjector.h"
@@ -18,17 +19,23 @@ void interruptRun(void* injector) {
     if (injector != nullptr) static_cast<X11KeyInjector*>(injector)->interrupt();
 }
 
+QtDialogs::Focus focusOf(Windows& windows) {
+    const auto idOf = [](QWidget& window) { return static_cast<WindowId>(window.winId()); };
+    return {
+        .take = [&windows, idOf](QWidget& window) { windows.activate(idOf(window), 0); },
+        .awaitElsewhere = [&windows, idOf](QWidget& hidden) { windows.awaitFocusElsewhere(idOf(hidden)); }};
+}
+
 }  // namespace
 
 Program::Program(X11Backends& backends)
     : m_statusItem(backends.dockingTray()),
-      m_dialogs([&windows = backends.windows()](QWidget& window) {
-          windows.activate(static_cast<WindowId>(window.winId()), 0);
-      }),
+      m_dialogs(focusOf(backends.windows())),
       m_controller(backends.services(), backends.windows(), m_statusItem, m_dialogs),
       m_signals(interruptRun, backends.keyInjector()),
       m_trayReadable(backends.dockingTray().fileDescriptor(), QSocketNotifier::Read),
       m_busesReadable(backends.busLoop().fileDescriptor(), QSocketNotifier::Read) {
+    backends.scripting().askThrough(m_controller.scriptDialogs());
     QApplication::setApplicationName(QStringLiteral("keyrill"));
     QApplication::setDesktopFileName(QStringLiteral("example.orlen.Keyrill"));
     QApplication::setQuitOnLastWindowClosed(false);

@@ -12,6 +12,9 @@ class X11DockingTray;
 class X11EventManager;
 class X11KeyInjector;
 struct Services;
+namespace script {
+class ScriptRunner;
+}
 
 /// Says in one line on standard error why the program cannot start; the exit status.
 int reportFailure(const Error& error);
@@ -35,6 +38,7 @@ class X11Backends {
     X11Backends& operator=(const X11Backends&) = delete;
 
     Services& services();
+    script::ScriptRunner& scripting();
     Windows& windows();
 
     // What the event loop has to serve. Null in a session without keys.

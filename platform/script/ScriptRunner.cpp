@@ -13,7 +13,8 @@ void ScriptRunner::run(const std::string& source) {
     if (m_running) return;
     const Scoped<bool> running(m_running, true);
     const std::variant<Program, ScriptError> compiled = compile(source);
-    if (const auto* program = std::get_if<Program>(&compiled)) Machine(*program, m_services).run();
+    const auto* program = std::get_if<Program>(&compiled);
+    if (program != nullptr) Machine(*program, {m_injector, m_desktop, *m_dialogs}).run();
 }
 
 }  // namespace script

@@ -12,20 +12,21 @@ namespace script {
 /// The program's own view of the language: compiles and runs, and reports nothing.
 class ScriptRunner : public ScriptingService {
   public:
-    /// Keys only: nobody hears the bell or is asked, and the clipboard is a variable. The injector outlives
-    /// the runner.
-    explicit ScriptRunner(KeyInjector& injector) : m_services{injector, m_silent, m_noDialogs} {}
-    /// All of them outlive the runner.
-    explicit ScriptRunner(const MachineServices& services) : m_services(services) {}
+    /// Both outlive the runner. Nobody can be asked.
+    ScriptRunner(KeyInjector& injector, ScriptDesktop& desktop) : m_injector(injector), m_desktop(desktop) {}
 
-    void startPlayback() override { m_services.injector.startPlayback(); }
+    /// From now on scripts can ask. `dialogs` outlives the last run.
+    void askThrough(ScriptDialogs& dialogs) { m_dialogs = &dialogs; }
+
+    void startPlayback() override { m_injector.startPlayback(); }
     void run(const std::string& source) override;
-    bool isCancelled() override { return m_services.injector.isCancelled(); }
+    bool isCancelled() override { return m_injector.isCancelled(); }
 
   private:
-    SilentDesktop m_silent;
+    KeyInjector& m_injector;
+    ScriptDesktop& m_desktop;
     NoDialogs m_noDialogs;
-    MachineServices m_services;
+    ScriptDialogs* m_dialogs = &m_noDialogs;
     bool m_running = false;
 };
 

@@ -31,6 +31,15 @@ QString FakeDialogs::runOpenPanel(const QString& folder) {
     return takeFile();
 }
 
+std::optional<ScriptAnswer> FakeDialogs::runScriptDialog(const ScriptDialog& dialog) {
+    scriptTexts.push_back(dialog.text);
+    happen();
+    if (m_scriptAnswers.empty()) return std::nullopt;
+    ScriptAnswer answer = std::move(m_scriptAnswers.front());
+    m_scriptAnswers.pop();
+    return answer;
+}
+
 QString FakeDialogs::takeFile() {
     happen();
     if (m_files.empty()) return {};

@@ -90,11 +90,11 @@ TEST(RunAlertTest, hasOneButtonWhereThereIsNoAlternative) {
 
 TEST(RunAlertTest, activatesTheWindowThatIsOnTheScreen) {
     QWidget* activated = nullptr;
-    QtDialogs dialogs([&activated](QWidget& window) {
+    QtDialogs dialogs({.take = [&activated](QWidget& window) {
         EXPECT_TRUE(window.isVisible());
         activated = &window;
         window.close();
-    });
+    }});
     dialogs.runAlert(question);
     EXPECT_NE(activated, nullptr);
 }

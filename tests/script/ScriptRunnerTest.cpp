@@ -28,7 +28,8 @@ class ScriptRunnerTest : public testing::Test {
     }
 
     RecordingInjector m_injector;
-    script::ScriptRunner m_runner{m_injector};
+    script::SilentDesktop m_desktop;
+    script::ScriptRunner m_runner{m_injector, m_desktop};
 };
 
 TEST_F(ScriptRunnerTest, aScriptWithoutStrokesAndPausesOpensNoSession) {
@@ -98,6 +99,22 @@ TEST_F(ScriptRunnerTest, aDesktopThatLetsNoKeysBePressedIsAnErrorOfTheRun) {
               (script::ScriptError{1002, "System Events got an error: The server has no XTEST.", {2, 1}}));
 }
 
+/// Answers whatever is asked with the second button.
+class SecondButton : public script::NoDialogs {
+  public:
+    Result<ScriptAnswer> ask(const ScriptDialog& /*dialog*/) override { return ScriptAnswer{1, ""}; }
+};
+
+TEST_F(ScriptRunnerTest, scriptsAskThroughTheDialogsThatTheyAreGiven) {
+    const std::string lines = "display dialog \"Go on?\"\nkey code 0";
+    tell(lines);
+    EXPECT_EQ(m_injector.calls, Calls());
+    SecondButton dialogs;
+    m_runner.askThrough(dialogs);
+    tell(lines);
+    EXPECT_EQ(m_injector.calls, Calls({"open", "key 0", "close"}));
+}
+
 TEST_F(ScriptRunnerTest, playbackIsTheInjectorsMatter) {
     m_injector.cancelled = true;
     EXPECT_TRUE(m_runner.isCancelled());
@@ -123,7 +140,8 @@ class RecordingWorld : public ScriptingWorld {
 
   private:
     RecordingInjector m_injector;
-    script::ScriptRunner m_runner{m_injector};
+    script::SilentDesktop m_desktop;
+    script::ScriptRunner m_runner{m_injector, m_desktop};
 };
 
 class FakeWorld : public ScriptingWorld {
@@ -138,7 +156,8 @@ class FakeWorld : public ScriptingWorld {
 
   private:
     FakePlatform m_platform;
-    script::ScriptRunner m_runner{m_platform.keyInjector};
+    script::SilentDesktop m_desktop;
+    script::ScriptRunner m_runner{m_platform.keyInjector, m_desktop};
 };
 
 template <typename World>

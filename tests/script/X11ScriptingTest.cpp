@@ -68,7 +68,8 @@ class X11ScriptingWorld : public ScriptingWorld {
         m_manager->runWatch(),
         m_clock,
         {.display = m_server.display(), .guard = KEYRILL_GUARD, .runtimeFolder = m_runtimeFolder.path()}};
-    script::ScriptRunner m_runner{m_injector};
+    script::SilentDesktop m_desktop;
+    script::ScriptRunner m_runner{m_injector, m_desktop};
 };
 
 std::unique_ptr<ScriptingWorld> makeWorld() { return std::make_unique<X11ScriptingWorld>(); }
