@@ -20,6 +20,9 @@
 namespace {
 
 constexpr std::chrono::seconds patience{5};
+/// A repeat is a release and a press. The toolkit takes the release for the key's own where it has not yet
+/// read the press, which follows at once.
+constexpr std::chrono::milliseconds repeatGap{50};
 constexpr int padding = 6;
 constexpr int buttonIcon = 14;
 constexpr std::uint32_t allFlags =
@@ -53,11 +56,7 @@ SRRecorderControl::SRRecorderControl(ShortcutModel& model, const QString& name, 
     layout->addStretch();
     layout->addWidget(m_clearButton);
 
-    m_patience.setParent(this);
-    m_patience.setObjectName(QStringLiteral("patience"));
-    m_patience.setSingleShot(true);
-    m_patience.setInterval(patience);
-    connect(&m_patience, &QTimer::timeout, this, &SRRecorderControl::endRecording);
+    makeTimers();
     connect(m_clearButton, &QToolButton::clicked, this, &SRRecorderControl::clear);
     connect(&m_model, &ShortcutModel::changed, this, &SRRecorderControl::showValue);
     connect(&m_model, &ShortcutModel::keyComboDidChange, this, &SRRecorderControl::showValue);
@@ -65,6 +64,18 @@ SRRecorderControl::SRRecorderControl(ShortcutModel& model, const QString& name, 
 }
 
 SRRecorderControl::~SRRecorderControl() = default;
+
+void SRRecorderControl::makeTimers() {
+    m_patience.setObjectName(QStringLiteral("patience"));
+    m_patience.setInterval(patience);
+    m_repeatGap.setObjectName(QStringLiteral("repeatGap"));
+    m_repeatGap.setInterval(repeatGap);
+    for (QTimer* timer : {&m_patience, &m_repeatGap}) {
+        timer->setParent(this);
+        timer->setSingleShot(true);
+        connect(timer, &QTimer::timeout, this, &SRRecorderControl::endRecording);
+    }
+}
 
 void SRRecorderControl::startRecording() {
     setFocus(Qt::OtherFocusReason);
@@ -77,6 +88,7 @@ void SRRecorderControl::startRecording() {
 
 void SRRecorderControl::endRecording() {
     m_patience.stop();
+    m_repeatGap.stop();
     m_keyboard.reset();
     enter(State::idle);
 }
@@ -129,6 +141,7 @@ bool SRRecorderControl::pressWhileIdle(const QKeyEvent& press) {
 }
 
 bool SRRecorderControl::pressWhileRecording(const QKeyEvent& press) {
+    if (m_state == State::releasing && press.nativeScanCode() == m_takenScanCode) m_repeatGap.stop();
     if (press.isAutoRepeat() || m_state == State::releasing) return true;
     m_heldModifiers = modifiersAfter(press);
     const ShortcutKey meaning = shortcutKey(press);
@@ -158,7 +171,7 @@ bool SRRecorderControl::pressWhileRecording(const QKeyEvent& press) {
 void SRRecorderControl::release(const QKeyEvent& release) {
     if (release.isAutoRepeat() || m_state == State::idle) return;
     if (m_state == State::releasing && release.nativeScanCode() == m_takenScanCode) {
-        endRecording();
+        m_repeatGap.start();
         return;
     }
     m_heldModifiers = modifiersAfter(release);

@@ -18,7 +18,8 @@ class ShortcutModel;
 /// | idle      | recording | click, Space, Return, the assistive action "Press"                            |
 /// | recording | idle      | Escape, Tab, a second click, loss of the focus, 5 s                           |
 /// | recording | releasing | a combination or Backspace, which is taken                                    |
-/// | releasing | idle      | the release of its key, loss of the focus, 5 s since recording began          |
+/// | releasing | idle      | the release of its key that no repeat follows, loss of the focus, 5 s since   |
+/// |           |           | recording began                                                              |
 ///
 /// From recording on the field holds the whole keyboard, so that what is a hot key of any program can be
 /// typed into it; while releasing it still does, or repeats of the key would fire that hot key.
@@ -61,6 +62,7 @@ class SRRecorderControl : public QWidget {
     void clear();
     void endRecording();
     void enter(State state);
+    void makeTimers();
     void showValue();
     void paintRecordingMark(QPainter& painter) const;
 
@@ -69,6 +71,7 @@ class SRRecorderControl : public QWidget {
     State m_state = State::idle;
     std::unique_ptr<KeyboardHold> m_keyboard;
     QTimer m_patience;
+    QTimer m_repeatGap;
     Qt::KeyboardModifiers m_heldModifiers;
     bool m_needsModifier = false;  ///< the last key typed something
     quint32 m_takenScanCode = 0;

@@ -11,11 +11,7 @@ class AlertTest : public testing::Test {
         desktop.startWindowManager();
         // Nobody's hot key tells here that the program is ready.
         program.emplace(std::vector<std::string>{KEYRILL_PRODUCT}, desktop.options("product.log"));
-        std::optional<ScreenWindow> alert;
-        EXPECT_TRUE(eventually([&] {
-            alert = desktop.window(title);
-            return alert && desktop.hasFocus(*alert) && desktop.screen().activeWindow() == alert->number;
-        }));
+        desktop.awaitFocus("The X server must have the XTEST extension, but it has not.");
     }
 
     /// The exit status. The program is silent while its alert is open, so nobody but this wakes the inner
@@ -28,7 +24,6 @@ class AlertTest : public testing::Test {
         return program->wait();
     }
 
-    static constexpr const char* title = "The X server must have the XTEST extension, but it has not.";
     static constexpr std::uint8_t keyReturn = 36;
 
     NestedServers servers{{"-extension", "XTEST"}};

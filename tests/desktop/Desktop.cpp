@@ -154,6 +154,18 @@ ScreenWindow Desktop::awaitWindow(const std::string& title) const {
     return *found;
 }
 
+ScreenWindow Desktop::awaitFocus(const std::string& title) const {
+    // A window that has been painted has many more.
+    constexpr std::size_t fewestColours = 20;
+    std::optional<ScreenWindow> found;
+    awaitOrThrow("the focus on " + title, [&] {
+        found = window(title);
+        return found && hasFocus(*found) && m_screen.activeWindow() == found->number &&
+               m_screen.colours(*found) > fewestColours;
+    });
+    return *found;
+}
+
 bool Desktop::isHotKeyTaken(std::uint8_t keycode) const {
     const auto connection = XConnection::open(m_display);
     const XConnection& server = connection.value();

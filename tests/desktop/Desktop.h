@@ -67,6 +67,9 @@ class Desktop {
     bool shows(const std::string& title) const { return window(title).has_value(); }
     /// Waits for a window of the program.
     ScreenWindow awaitWindow(const std::string& title) const;
+    /// Waits until a window of the program has the focus and is painted, so that it also knows of it. Where
+    /// it is then: the manager may have moved it meanwhile.
+    ScreenWindow awaitFocus(const std::string& title) const;
     bool hasFocus(const ScreenWindow& window) const { return m_screen.focus() == window.number; }
     /// Whether a program holds Ctrl+Super+key, by its X key code.
     bool isHotKeyTaken(std::uint8_t keycode) const;

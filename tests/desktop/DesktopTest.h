@@ -44,19 +44,11 @@ class DesktopTest : public testing::Test {
     void stop() const { press("ctrl+super+s"); }
     void play() const { press("ctrl+super+p"); }
 
-    /// A window that has been painted has many more.
-    static constexpr std::size_t fewestColours = 20;
-
     /// Makes the window manager give one of the program's windows the focus.
     void giveFocus(const char* title) const {
         const ScreenWindow window = desktop.awaitWindow(title);
         desktop.run({"xdotool", "windowactivate", std::to_string(window.number)});
-        // Painted, it also knows that it has the focus. The manager may have moved it meanwhile.
-        ASSERT_TRUE(eventually([&] {
-            const std::optional<ScreenWindow> now = desktop.window(title);
-            return now && desktop.hasFocus(*now) && desktop.screen().activeWindow() == now->number &&
-                   desktop.screen().colours(*now) > fewestColours;
-        }));
+        desktop.awaitFocus(title);
     }
     /// Closes a window by the window manager's key.
     void close(const char* title) const {

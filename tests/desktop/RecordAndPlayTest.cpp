@@ -87,7 +87,7 @@ TEST_F(RecordAndPlayTest, aMacroOfTwoThousandKeysArrivesWhole) {
     stop();
     keyrill.script();
     play();
-    EXPECT_EQ(terminal.typed(2 * count, std::chrono::seconds(50)), typed + typed);
+    EXPECT_EQ(terminal.typed(2 * count, std::chrono::seconds(90)), typed + typed);
 }
 
 }  // namespace

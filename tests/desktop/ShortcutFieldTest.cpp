@@ -13,15 +13,11 @@ class ShortcutFieldTest : public testing::Test {
         desktop.startTray();
         desktop.writeSettings("");
         keyrill.emplace(desktop);
-        awaitFocus("Welcome to Keyrill");
+        desktop.awaitFocus("Welcome to Keyrill");
         desktop.press("Return");
-        awaitFocus("Keyrill Preferences");
+        panel = desktop.awaitFocus("Keyrill Preferences");
     }
 
-    void awaitFocus(const char* title) {
-        panel = desktop.awaitWindow(title);
-        ASSERT_TRUE(eventually([this] { return desktop.hasFocus(panel); })) << title;
-    }
     bool holdsKeyboard() const { return desktop.screen().isKeyboardGrabbed(); }
     /// The first field has the focus when the panel opens.
     void startRecording() {
