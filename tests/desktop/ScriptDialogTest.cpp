@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: MIT
+#include <signal.h>
+
+#include "desktop/DesktopTest.h"
+#include "x11/NestedServers.h"
+
+namespace {
+
+constexpr const char* question = "Weekly & <i>report</i>";
+
+std::string toSystemEvents(const std::string& lines) {
+    return "tell application \"System Events\"\n" + lines + "end tell\n";
+}
+
+/// A macro that asks, played by its hot key while a terminal is being typed into.
+class ScriptDialogTest : public testing::TestWithParam<WindowManager> {
+  protected:
+    ScriptDialogTest() {
+        desktop.startWindowManager(GetParam());
+        bystander.emplace(desktop.display());
+        terminal.emplace(desktop.display());
+    }
+    ~ScriptDialogTest() override {
+        EXPECT_EQ(bystander->typed(), "");
+        EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
+    }
+    ScriptDialogTest(const ScriptDialogTest&) = delete;
+    ScriptDialogTest& operator=(const ScriptDialogTest&) = delete;
+
+    void awaitQuestion() const {
+        const ScreenWindow window = desktop.awaitWindow(question);
+        ASSERT_TRUE(eventually([&] { return desktop.hasFocus(window); }));
+    }
+    /// The hot key; waits until the first question is there.
+    void play() const {
+        desktop.press("ctrl+super+p");
+        awaitQuestion();
+    }
+    void expectTyped(const std::string& text) const { EXPECT_EQ(terminal->typed(text.size()), text); }
+    /// What a key of another program's adds, behind all that came before.
+    void expectTypedInTheEnd(const std::string& text) const {
+        expectTyped(text);
+        ASSERT_TRUE(eventually([this] { return !desktop.shows(question) && terminal->hasFocus(); }));
+        desktop.press("period");
+        expectTyped(text + ".");
+    }
+
+    Desktop desktop;
+    /// Does not have the focus.
+    std::optional<Terminal> bystander;
+    std::optional<Terminal> terminal;
+};
+
+TEST_P(ScriptDialogTest, whatTheUserAnswersIsTypedWhereHeWas) {
+    const Keyrill keyrill(desktop,
+                          toSystemEvents("keystroke \"a\"\n"
+                                         "set x to text returned of (display dialog \"Who?\" default answer "
+                                         "\"nobody\" with title \"Weekly & <i>report</i>\")\n"
+                                         "keystroke \"[\" & x & \"]\"\n"));
+    play();
+    expectTyped("a");
+    desktop.run({"xdotool", "type", "Ann 7"});
+    desktop.press("Return");
+    expectTypedInTheEnd("a[Ann 7]");
+}
+
+TEST_P(ScriptDialogTest, hotKeysDoNothingWhileAQuestionIsOpen) {
+    const Keyrill keyrill(desktop,
+                          toSystemEvents("keystroke \"a\"\n"
+                                         "display dialog \"Go on?\" with title \"Weekly & <i>report</i>\"\n"
+                                         "keystroke \"b\"\n"));
+    play();
+    for (const char* hotKey : {"ctrl+super+r", "ctrl+super+p", "ctrl+super+m", "ctrl+super+s"}) {
+        desktop.press(hotKey);
+    }
+    desktop.press("Return");
+    expectTypedInTheEnd("ab");
+    EXPECT_FALSE(desktop.shows(title::overlay));
+    EXPECT_FALSE(desktop.shows(title::prompt));
+    desktop.press("ctrl+super+r");
+    desktop.awaitWindow(title::overlay);
+}
+
+TEST_P(ScriptDialogTest, escapeEndsTheMacroSilentlyAndTheNextPlayWorks) {
+    const Keyrill keyrill(desktop,
+                          toSystemEvents("keystroke \"a\"\n"
+                                         "display dialog \"Go on?\" with title \"Weekly & <i>report</i>\"\n"
+                                         "keystroke \"b\"\n"));
+    play();
+    desktop.press("Escape");
+    expectTypedInTheEnd("a");
+    play();
+    desktop.press("Return");
+    expectTypedInTheEnd("a.ab");
+    EXPECT_EQ(keyrill.output(), "-- ready\n");
+}
+
+TEST_P(ScriptDialogTest, aCancelThatTheScriptExpectsDoesNotEndIt) {
+    const Keyrill keyrill(desktop,
+                          toSystemEvents("try\n"
+                                         "display dialog \"Go on?\" with title \"Weekly & <i>report</i>\"\n"
+                                         "on error message number n\n"
+                                         "keystroke n as text\n"
+                                         "end try\n"));
+    play();
+    desktop.press("Escape");
+    expectTypedInTheEnd("-128");
+}
+
+TEST_P(ScriptDialogTest, givesUpAfterItsTime) {
+    const Keyrill keyrill(
+        desktop, toSystemEvents("keystroke \"a\"\n"
+                                "set r to display dialog \"Go on?\" with title \"Weekly & <i>report</i>\" "
+                                "giving up after 0.5\n"
+                                "keystroke gave up of r as text\n"));
+    play();
+    expectTypedInTheEnd("atrue");
+}
+
+TEST_P(ScriptDialogTest, anAlertAnswersWithTheButtonThatWasPressed) {
+    const Keyrill keyrill(
+        desktop, toSystemEvents("set r to display alert \"Weekly & <i>report</i>\" message \"Done.\" "
+                                "buttons {\"Left\", \"Middle\", \"Right\"}\n"
+                                "keystroke button returned of r\n"));
+    desktop.press("ctrl+super+p");
+    const ScreenWindow window = desktop.awaitWindow("Keyrill Macro");
+    ASSERT_TRUE(eventually([&] { return desktop.hasFocus(window); }));
+    for (const char* keys : {"shift+Tab", "shift+Tab", "space"}) desktop.press(keys);
+    ASSERT_TRUE(eventually([&] { return !desktop.shows("Keyrill Macro"); }));
+    expectTypedInTheEnd("Left");
+}
+
+TEST_P(ScriptDialogTest, whatTheMacroHoldsIsUpWhileTheUserAnswers) {
+    const Keyrill keyrill(desktop,
+                          toSystemEvents("key down shift\n"
+                                         "key code 0\n"
+                                         "set x to text returned of (display dialog \"Who?\" default answer "
+                                         "\"\" with title \"Weekly & <i>report</i>\")\n"
+                                         "key code 11\n"
+                                         "key up shift\n"
+                                         "keystroke x\n"));
+    play();
+    EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
+    desktop.run({"xdotool", "type", "ann"});
+    desktop.press("Return");
+    expectTypedInTheEnd("ABann");
+}
+
+TEST_P(ScriptDialogTest, aHeldEscapeEndsAMacroThatAsksForEver) {
+    const Keyrill keyrill(
+        desktop, toSystemEvents("repeat\n"
+                                "try\n"
+                                "keystroke \"a\"\n"
+                                "display dialog \"Go on?\" buttons {\"Go on\"} default button 1 with title "
+                                "\"Weekly & <i>report</i>\"\n"
+                                "end try\n"
+                                "end repeat\n"));
+    play();
+    expectTyped("a");
+    desktop.press("Escape");
+    awaitQuestion();
+    desktop.press("Return");
+    expectTyped("aa");
+    awaitQuestion();
+    desktop.run({"xdotool", "keydown", "Escape"});
+    ASSERT_TRUE(eventually([this] { return !desktop.shows(question); }));
+    desktop.run({"xdotool", "keyup", "Escape"});
+    // A release alone types nothing.
+    expectTypedInTheEnd("aa");
+}
+
+TEST_P(ScriptDialogTest, theProgramEndsWithAQuestionOpen) {
+    Keyrill keyrill(desktop,
+                    toSystemEvents("key down shift\n"
+                                   "repeat\n"
+                                   "try\n"
+                                   "keystroke \"a\"\n"
+                                   "display dialog \"Go on?\" with title \"Weekly & <i>report</i>\"\n"
+                                   "end try\n"
+                                   "end repeat\n"));
+    play();
+    keyrill.child().signal(SIGTERM);
+    EXPECT_EQ(keyrill.child().wait(std::chrono::seconds(5)), 0);
+    EXPECT_EQ(terminal->typed(1), "A");
+}
+
+INSTANTIATE_TEST_SUITE_P(Manager, ScriptDialogTest,
+                         testing::Values(WindowManager::openbox, WindowManager::xfwm4, WindowManager::none),
+                         nameOfParameter<WindowManager>);
+
+/// A question that a user with a real keyboard answers.
+class AnsweredByHandTest : public testing::Test {
+  protected:
+    AnsweredByHandTest() {
+        desktop.startWindowManager();
+        terminal.emplace(desktop.display());
+        keyrill.emplace(desktop,
+                        toSystemEvents("try\n"
+                                       "display dialog \"Go on?\" with title \"Weekly & <i>report</i>\"\n"
+                                       "keystroke \"yes\"\n"
+                                       "on error\n"
+                                       "keystroke \"no\"\n"
+                                       "end try\n"));
+        desktop.run({"xdotool", "key", "ctrl+super+p"});
+        const ScreenWindow window = desktop.awaitWindow(question);
+        EXPECT_TRUE(eventually([&] { return desktop.hasFocus(window); }));
+    }
+
+    NestedServers servers;
+    Desktop desktop{servers.display()};
+    std::optional<Terminal> terminal;
+    std::optional<Keyrill> keyrill;
+};
+
+TEST_F(AnsweredByHandTest, aTappedEscapeBelongsToTheQuestion) {
+    servers.user().tap(key::escape);
+    servers.finish();
+    EXPECT_EQ(terminal->typed(2), "no");
+}
+
+TEST_F(AnsweredByHandTest, theStopCombinationIsDropped) {
+    constexpr std::uint8_t keyReturn = 36;
+    servers.user().press(key::control);
+    servers.user().press(key::super);
+    servers.user().tap(key::s);
+    servers.user().release(key::super);
+    servers.user().release(key::control);
+    servers.user().tap(keyReturn);
+    servers.finish();
+    EXPECT_EQ(terminal->typed(3), "yes");
+}
+
+}  // namespace

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include <fstream>
+
+#include "desktop/DesktopTest.h"
+#include "desktop/StatusMenuClicks.h"
+
+namespace {
+
+/// Macros in files, which the product plays and keyrill-script explains.
+class ScriptMacroTest : public DesktopTest {
+  protected:
+    ScriptMacroTest() {
+        desktop.startBus();
+        terminal.emplace(desktop.display());
+    }
+
+    std::string fileWith(const std::string& name, const std::string& script) const {
+        std::ofstream(desktop.file(name)) << script;
+        return desktop.file(name);
+    }
+    /// The first start is the program; a later one hands its file over.
+    void load(const std::string& file) {
+        if (product) {
+            Child second({KEYRILL_PRODUCT, file}, desktop.options("second.log"));
+            ASSERT_EQ(second.wait(), 0);
+            return;
+        }
+        product.emplace(std::vector<std::string>{KEYRILL_PRODUCT, file}, desktop.options("product.log"));
+        ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(key::m); }));
+    }
+    std::string output() const { return contentOf(desktop.file("product.log")); }
+
+    struct Told {
+        int status = 0;
+        std::string output;
+
+        friend bool operator==(const Told&, const Told&) = default;
+        friend void PrintTo(const Told& told, std::ostream* out) {
+            *out << told.status << "\n" << told.output;
+        }
+    };
+    /// What keyrill-script says of a file that it is to play.
+    Told runByTool(const std::string& file) const {
+        Child tool({KEYRILL_SCRIPT_TOOL, "run", file}, desktop.options("tool.log"));
+        const int status = tool.wait();
+        return {status, contentOf(desktop.file("tool.log"))};
+    }
+
+    std::optional<Terminal> terminal;
+    std::optional<Child> product;
+};
+
+TEST_F(ScriptMacroTest, aRecordedMacroThatWasEditedByHandTypesWhatItSays) {
+    std::string recorded;
+    {
+        desktop.startTray();
+        Keyrill keyrill(desktop);
+        record();
+        desktop.run({"xdotool", "type", "ab"});
+        stop();
+        recorded = keyrill.script();
+        StatusMenuClicks menu(desktop);
+        menu.open();
+        constexpr int saveEntry = 5;
+        menu.chooseByKeys(saveEntry);
+        giveFocus(title::savePanel);
+        desktop.run({"xdotool", "type", "typed"});
+        press("Return");
+        ASSERT_TRUE(eventually(
+            [&] { return contentOf(desktop.home() + "/.local/share/keyrill/typed.keyrill") == recorded; }));
+    }
+    ASSERT_EQ(terminal->typed(2), "ab");
+    const std::string file =
+        fileWith("edited.keyrill",
+                 "-- what the program has written is in the handler\n"
+                 "on again()\n" +
+                     recorded +
+                     "end again\n"
+                     "set who to text returned of (display dialog \"Who is it?\" default answer "
+                     "\"\" with title \"Question\")\n"
+                     "repeat 3 times\n"
+                     "\tagain()\n"
+                     "end repeat\n"
+                     "tell application \"System Events\"\n"
+                     "\tkeystroke \" für \" & who & return\n"
+                     "\tdelay 0.01\n"
+                     "end tell\n");
+    load(file);
+    ASSERT_TRUE(terminal->hasFocus());
+    play();
+    const ScreenWindow question = desktop.awaitWindow("Question");
+    ASSERT_TRUE(eventually([&] { return desktop.hasFocus(question); }));
+    desktop.run({"xdotool", "type", "Ann & Bob"});
+    press("Return");
+    const std::string expected = "abababab für Ann & Bob\n";
+    EXPECT_EQ(terminal->typed(expected.size()), expected);
+    press("period");
+    EXPECT_EQ(terminal->typed(expected.size() + 1), expected + ".");
+    EXPECT_EQ(output(), "");
+}
+
+TEST_F(ScriptMacroTest, anErrorOfTheCompilerIsSilentInTheProgramAndLoudInTheTool) {
+    const std::string file = fileWith("wrong.keyrill",
+                                      "tell application \"System Events\"\n"
+                                      "\tkeystroke \"never\"\n"
+                                      "\tkeystroke “quoted”\n"
+                                      "end tell\n");
+    load(file);
+    ASSERT_TRUE(terminal->hasFocus());
+    play();
+    load(fileWith("right.keyrill", "tell application \"System Events\" to keystroke \"right\"\n"));
+    play();
+    EXPECT_EQ(terminal->typed(5), "right");
+    EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
+    EXPECT_EQ(output(), "");
+
+    const Told told = runByTool(file);
+    EXPECT_EQ(told.status, 1);
+    EXPECT_TRUE(told.output.starts_with(file + ":3:12: syntax error: ")) << told.output;
+    EXPECT_NE(told.output.find("(-2741)\n\tkeystroke “quoted”\n\t          ^\n"), std::string::npos)
+        << told.output;
+    EXPECT_EQ(terminal->typed(), "right");
+}
+
+TEST_F(ScriptMacroTest, anErrorOfTheRunIsSilentInTheProgramAndLoudInTheTool) {
+    const std::string file = fileWith("wrong.keyrill",
+                                      "tell application \"System Events\"\n"
+                                      "\tkey down {shift, control}\n"
+                                      "\tkey up control\n"
+                                      "\tkeystroke \"ab\"\n"
+                                      "\tkeystroke item 3 of {\"x\", \"y\"}\n"
+                                      "\tkeystroke \"never\"\n"
+                                      "end tell\n");
+    load(file);
+    ASSERT_TRUE(terminal->hasFocus());
+    play();
+    EXPECT_EQ(terminal->typed(2), "AB");
+    EXPECT_TRUE(eventually([this] { return desktop.keysDown().empty(); }));
+    load(fileWith("right.keyrill", "tell application \"System Events\" to keystroke \"right\"\n"));
+    play();
+    EXPECT_EQ(terminal->typed(7), "ABright");
+    EXPECT_EQ(output(), "");
+
+    EXPECT_EQ(runByTool(file),
+              (Told{1, file + ":5:12: execution error: Can’t get item 3 of {\"x\", \"y\"}. (-1728)\n"
+                              "\tkeystroke item 3 of {\"x\", \"y\"}\n"
+                              "\t          ^\n"}));
+    EXPECT_EQ(terminal->typed(9), "ABrightAB");
+    EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
+}
+
+}  // namespace
