@@ -10,6 +10,22 @@ namespace {
 /// A type that every XKB map has at this place: Shift selects its second level.
 constexpr std::uint8_t twoLevelType = 1;
 constexpr std::uint8_t firstUsableKeycode = 9;
+/// What a program that does not answer holds up: a run in the middle of its text, and the end of the program.
+constexpr std::chrono::milliseconds longestMidway{2000};
+constexpr std::chrono::milliseconds longestAtEnd{1000};
+
+/// Nothing ends it early.
+class PlainWait final : public RunWait {
+  public:
+    explicit PlainWait(Clock& clock) : m_clock(clock) {}
+    RunState waitUntil(Clock::Time deadline) override {
+        m_clock.sleepFor(deadline - m_clock.now());
+        return RunState::going;
+    }
+
+  private:
+    Clock& m_clock;
+};
 
 std::uint32_t symbolOf(char32_t character) { return xkb_utf32_to_keysym(character); }
 
@@ -51,12 +67,20 @@ KeycodeSet keysIn(const std::vector<BoundKey>& keys) {
 
 }  // namespace
 
-KeyBinder::KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Clock& clock)
-    : m_connection(connection), m_keymap(keymap), m_clock(clock), m_record(keymap.connection()) {}
+KeyBinder::KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Receivers& receivers, Clock& clock)
+    : m_connection(connection),
+      m_keymap(keymap),
+      m_receivers(receivers),
+      m_clock(clock),
+      m_record(keymap.connection()) {}
 
 KeyBinder::~KeyBinder() {
     if (m_slots.bindings().empty()) return;
-    if (const auto rested = m_slots.restUntil()) m_clock.sleepFor(*rested - m_clock.now());
+    if (const auto rested = m_slots.restUntil()) {
+        PlainWait wait(m_clock);
+        wait.waitUntil(*rested);
+        m_receivers.await(wait, longestAtEnd);
+    }
     takeBack();
 }
 
@@ -128,6 +152,16 @@ void KeyBinder::recheck() {
 SpareSlots::Plan KeyBinder::plan(const std::vector<char32_t>& wanted) {
     if (capacity() == 0) return {};
     return m_slots.plan(wanted);
+}
+
+void KeyBinder::noteReader() {
+    if (!m_slots.bindings().empty()) m_receivers.note();
+}
+
+RunState KeyBinder::awaitReaders(const SpareSlots::Plan& plan, RunWait& wait) {
+    if (!plan.notBefore) return RunState::going;
+    if (wait.waitUntil(*plan.notBefore) == RunState::cancelled) return RunState::cancelled;
+    return m_receivers.await(wait, longestMidway);
 }
 
 Result<void> KeyBinder::bind(const SpareSlots::Plan& plan) {

@@ -4,6 +4,7 @@
 #include "platform/x11/BoundKeysRecord.h"
 #include "platform/x11/InjectionConnection.h"
 #include "platform/x11/KeymapWatch.h"
+#include "platform/x11/Receivers.h"
 #include "platform/x11/SpareSlots.h"
 
 /// Puts characters that no layout types on unused keys of the keymap.
@@ -14,8 +15,8 @@
 /// keyboard's map would overwrite theirs.
 class KeyBinder {
   public:
-    KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Clock& clock);
-    /// Takes everything back, when the last character typed has rested.
+    KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Receivers& receivers, Clock& clock);
+    /// Takes everything back, when the last character typed has been read.
     ~KeyBinder();
     KeyBinder(const KeyBinder&) = delete;
     KeyBinder& operator=(const KeyBinder&) = delete;
@@ -26,6 +27,8 @@ class KeyBinder {
     /// After the keymap was read again: forgets everything if a bound key has become something else.
     void recheck();
 
+    /// Whoever gets the keys now is about to be typed into.
+    void noteReader();
     std::optional<Stroke> find(char32_t character) const;
     void markUsed(char32_t character) { m_slots.markUsed(character, m_clock.now()); }
     /// Characters that can lie bound at the same time; 0 where the keymap has no unused key.
@@ -33,6 +36,8 @@ class KeyBinder {
 
     /// What bind() would do, and from when on it may.
     SpareSlots::Plan plan(const std::vector<char32_t>& wanted);
+    /// Waits until it may: the moment has come, and whoever was typed into has read what the keys were.
+    RunState awaitReaders(const SpareSlots::Plan& plan, RunWait& wait);
     /// Fails if the server refuses the new map.
     Result<void> bind(const SpareSlots::Plan& plan);
 
@@ -51,6 +56,7 @@ class KeyBinder {
 
     InjectionConnection& m_connection;
     KeymapWatch& m_keymap;
+    Receivers& m_receivers;
     Clock& m_clock;
     BoundKeysRecord m_record;
     SpareSlots m_slots;

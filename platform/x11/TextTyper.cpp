@@ -38,9 +38,7 @@ std::size_t TextTyper::fittingPart(std::span<const char32_t> characters, std::ui
 
 Result<RunState> TextTyper::bind(const std::vector<char32_t>& wanted) {
     const auto plan = m_binder.plan(wanted);
-    if (plan.notBefore && m_waiter.waitUntil(*plan.notBefore) == RunState::cancelled) {
-        return RunState::cancelled;
-    }
+    if (m_binder.awaitReaders(plan, m_waiter) == RunState::cancelled) return RunState::cancelled;
     const auto bound = m_binder.bind(plan);
     if (!bound) return bound.error();
     return RunState::going;
@@ -65,6 +63,7 @@ Result<Stroke> TextTyper::strokeFor(char32_t character, std::uint8_t group) {
         const auto bound = bind({character});
         if (!bound) return bound.error();
     }
+    m_binder.noteReader();
     m_binder.markUsed(character);
     return find(character, group).value_or(Stroke{});
 }
@@ -99,6 +98,7 @@ Result<RunState> TextTyper::typePart(std::span<const char32_t> characters, const
         const auto state = check();
         if (!state) return state.error();
         m_sender.meet(state.value());
+        m_binder.noteReader();
         for (; at < characters.size(); ++at) {
             Stroke stroke = find(characters[at], state.value().lockedGroup).value_or(Stroke{});
             stroke.modifiers = static_cast<std::uint8_t>(stroke.modifiers | around.modifiers);

@@ -14,14 +14,17 @@ std::string environment(const char* name) {
 
 /// What is made when the display is first needed.
 struct DisplayParts {
-    DisplayParts(InjectionConnection injection, std::unique_ptr<KeymapWatch> watch, Clock& clock)
+    DisplayParts(InjectionConnection injection, std::unique_ptr<KeymapWatch> watch, XConnection asking,
+                 Clock& clock)
         : connection(std::move(injection)),
           keymap(std::move(watch)),
-          binder(connection, *keymap, clock),
+          receivers(std::move(asking), clock),
+          binder(connection, *keymap, receivers, clock),
           grab(keymap->connection(), clock) {}
 
     InjectionConnection connection;
     std::unique_ptr<KeymapWatch> keymap;
+    Receivers receivers;
     KeyBinder binder;
     GrabWait grab;
 };
@@ -57,8 +60,10 @@ Result<void> X11KeyInjector::start() {
     if (!connection) return connection.error();
     auto keymap = KeymapWatch::open(m_options.display);
     if (!keymap) return keymap.error();
-    m_parts->display =
-        std::make_unique<DisplayParts>(std::move(connection).value(), std::move(keymap).value(), m_clock);
+    auto asking = XConnection::open(m_options.display);
+    if (!asking) return asking.error();
+    m_parts->display = std::make_unique<DisplayParts>(
+        std::move(connection).value(), std::move(keymap).value(), std::move(asking).value(), m_clock);
     if (m_parts->mark.takeStale()) releaseXtestKeys(m_parts->display->connection.get());
     m_parts->display->binder.clearLeftovers();
     return {};

@@ -33,6 +33,7 @@ class Editor {
     bool hasFocus() const;
     /// Its window's number.
     const std::string& window() const { return m_window; }
+    pid_t pid() const { return m_program->pid(); }
 
   private:
     std::string run(const std::vector<std::string>& command) const;
