@@ -12,7 +12,7 @@ namespace script {
 namespace {
 
 struct Attribute {
-    std::string_view words;
+    Phrase words;
     std::uint8_t bit;  ///< 0 for what has no effect
 };
 

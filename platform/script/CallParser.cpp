@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/CallParser.h"
 
-#include <algorithm>
+#include <string>
 
 #include "platform/script/TermParser.h"
 
@@ -96,16 +96,16 @@ NameId CallParser::labelHere() {
     return m_tree.names.intern(both);
 }
 
-bool CallParser::isLabelledHandler(std::string_view name) {
+bool CallParser::isLabelledHandler(const Token& name) {
     if (!m_labelled) findLabelled();
-    if (m_labelled->empty()) return false;
-    return std::find(m_labelled->begin(), m_labelled->end(), asciiLowered(name)) != m_labelled->end();
+    return m_labelled->knows(name.text, name.hash);
 }
 
 void CallParser::findLabelled() {
     m_labelled.emplace();
     Lexer lexer(m_source);
-    Token former{TokenKind::endOfLine, Word::none, {}};
+    Token former;
+    former.kind = TokenKind::endOfLine;
     for (Token token = lexer.next(); !token.is(TokenKind::endOfScript); token = lexer.next()) {
         const bool begins = former.is(TokenKind::endOfLine) && (token.is(Word::on) || token.is(Word::to));
         former = token;
@@ -113,7 +113,7 @@ void CallParser::findLabelled() {
         const Token handler = lexer.next();
         former = lexer.next();
         const bool isLabelled = former.is(Word::of) || former.is(Word::given) || isLabelWord(former.word);
-        if (isLabelled && !handler.is(Word::error)) m_labelled->push_back(asciiLowered(handler.text));
+        if (isLabelled && !handler.is(Word::error)) m_labelled->intern(handler.text, handler.hash);
     }
 }
 

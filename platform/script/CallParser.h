@@ -2,9 +2,7 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/script/Node.h"
 #include "platform/script/TokenStream.h"
@@ -27,7 +25,7 @@ class CallParser {
     NodeId positional();
     NodeId labelled();
     /// Whether the script has a handler of the name that is not called with parentheses.
-    bool isLabelledHandler(std::string_view name);
+    bool isLabelledHandler(const Token& name);
 
     /// Labels that handlers may have without `given`.
     static bool isLabelWord(Word word);
@@ -44,7 +42,7 @@ class CallParser {
     TermParser& m_terms;
     std::string_view m_source;
     /// The handlers that are called with labels; read from the source when the first may be met.
-    std::optional<std::vector<std::string>> m_labelled;
+    std::optional<NameTable> m_labelled;
 };
 
 }  // namespace script

@@ -1,32 +1,36 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/Command.h"
 
-#include <string>
-#include <unordered_map>
+#include <algorithm>
+#include <array>
 
-#include "platform/script/Name.h"
 #include "platform/script/commands/All.h"
 
 namespace script {
 namespace {
 
-using Indices = std::vector<std::uint32_t>;
-
-/// The indices of the commands that begin with a word.
-const Indices* beginningWith(std::string_view word) {
-    static const std::unordered_map<std::string, Indices> byFirstWord = [] {
-        std::unordered_map<std::string, Indices> map;
+/// The commands by the first words of their names, those with more words first.
+class CommandIndex {
+  public:
+    CommandIndex() {
         for (std::uint32_t i = 0; i < commands().size(); ++i) {
-            const std::string_view name = commands()[i]->name;
-            map[std::string(name.substr(0, name.find(' ')))].push_back(i);
+            Indices& indices = m_byFirstWord[commands()[i]->name.firstHash() % m_byFirstWord.size()];
+            const auto behind = std::find_if(indices.begin(), indices.end(), [&](std::uint32_t other) {
+                return commands()[other]->name.wordCount() < commands()[i]->name.wordCount();
+            });
+            indices.insert(behind, i);
         }
-        return map;
-    }();
-    constexpr std::size_t longest = 10;
-    if (word.size() > longest) return nullptr;
-    const auto found = byFirstWord.find(asciiLowered(word));
-    return found == byFirstWord.end() ? nullptr : &found->second;
-}
+    }
+
+    using Indices = std::vector<std::uint32_t>;
+    /// Those that may begin with a word of that hash.
+    const Indices& beginningWith(std::uint32_t hash) const {
+        return m_byFirstWord[hash % m_byFirstWord.size()];
+    }
+
+  private:
+    std::array<Indices, 128> m_byFirstWord;
+};
 
 }  // namespace
 
@@ -43,17 +47,13 @@ const std::vector<const Command*>& commands() {
 }
 
 std::optional<std::uint32_t> commandHere(const TokenStream& tokens) {
-    if (!tokens.isAt(TokenKind::identifier)) return std::nullopt;
-    const Indices* candidates = beginningWith(tokens.current().text);
-    if (candidates == nullptr) return std::nullopt;
-    std::optional<std::uint32_t> longest;
-    for (const std::uint32_t index : *candidates) {
-        const Command& command = *commands()[index];
+    static const CommandIndex index;
+    for (const std::uint32_t candidate : index.beginningWith(tokens.current().hash)) {
+        const Command& command = *commands()[candidate];
         if (command.isTerm && !tokens.knowsTerms()) continue;
-        if (longest && command.name.size() <= commands()[*longest]->name.size()) continue;
-        if (tokens.isAtTerm(command.name)) longest = index;
+        if (tokens.isAtTerm(command.name)) return candidate;
     }
-    return longest;
+    return std::nullopt;
 }
 
 }  // namespace script

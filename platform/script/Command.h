@@ -62,10 +62,10 @@ class Arguments {
 
 /// What a command may be given behind a word or two.
 struct Parameter {
-    std::string_view label;  ///< in lower case, one blank between words
+    Phrase label;
     /// If there are any, one of these words stands behind the label, or an expression where `takesValue`; the
     /// argument is then the words as text.
-    std::vector<std::string_view> choices = {};
+    std::vector<Phrase> choices = {};
     bool takesValue = true;
     /// A class name stands behind the label; the argument is the class.
     bool takesClass = false;
@@ -78,14 +78,15 @@ struct Command {
     /// What the direct argument makes the keyboard do, so that the compiler can plan and warn.
     enum class Plays : std::uint8_t { nothing, codes, texts, keys };
 
-    std::string_view name;  ///< in lower case, one blank between words
+    Phrase name;
     /// Known inside `tell application "System Events"` only.
     bool isTerm = false;
     Direct direct = Direct::none;
     Plays plays = Plays::nothing;
     /// `of` may stand before the direct argument.
     bool takesOf = false;
-    std::vector<Parameter> parameters = {};  ///< at most 20
+    static constexpr std::size_t maxParameters = 20;
+    std::vector<Parameter> parameters = {};  ///< at most maxParameters
     Fallible<Value> (*perform)(CommandStage& stage, const Arguments& arguments) = nullptr;
     /// Its part of the language reference: a line that shows how it is written, an empty line, paragraphs.
     std::string_view manual = {};

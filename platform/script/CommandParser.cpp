@@ -11,10 +11,6 @@
 namespace script {
 namespace {
 
-std::size_t wordCount(std::string_view words) {
-    return static_cast<std::size_t>(std::count(words.begin(), words.end(), ' ')) + 1;
-}
-
 /// “a”, “b” or “c”
 std::string alternatives(const std::vector<std::string_view>& words) {
     std::string out;
@@ -27,12 +23,14 @@ std::string alternatives(const std::vector<std::string_view>& words) {
 
 }  // namespace
 
-bool CommandParser::isAtCommand() const {
-    const std::optional<std::uint32_t> index = commandHere(m_tokens);
-    if (!index) return false;
-    const Command& command = *commands()[*index];
-    const auto words = static_cast<int>(wordCount(command.name));
-    if (words > 1) return true;
+std::optional<std::uint32_t> CommandParser::commandHere() const {
+    const std::optional<std::uint32_t> index = script::commandHere(m_tokens);
+    return index && isMeant(*commands()[*index]) ? index : std::nullopt;
+}
+
+/// Commands of one word may be names as well.
+bool CommandParser::isMeant(const Command& command) const {
+    if (command.name.wordCount() > 1) return true;
     const Token& next = m_tokens.ahead();
     if (next.is(TokenKind::colon) || next.is(TokenKind::equal) || next.is(TokenKind::possessive))
         return false;
@@ -54,11 +52,10 @@ bool CommandParser::isAtCommand() const {
     }
 }
 
-NodeId CommandParser::command() {
-    const std::uint32_t index = *commandHere(m_tokens);
+NodeId CommandParser::command(std::uint32_t index) {
     const Command& command = *commands()[index];
     const NodeId node = m_tree.add(NodeKind::command, m_tokens.offset(), index);
-    for (std::size_t i = wordCount(command.name); i > 0; --i) m_tokens.advance();
+    m_tokens.advance(command.name.wordCount());
     ChildList children(m_tree, node);
     if (command.takesOf) m_tokens.accept(Word::of);
     if (const NodeId value = direct(command); value != noNode) {
@@ -88,9 +85,11 @@ NodeId CommandParser::direct(const Command& command) {
     return value;
 }
 
-bool CommandParser::hasParameter(const Command& command, std::string_view label) const {
-    return std::any_of(command.parameters.begin(), command.parameters.end(),
-                       [&](const Parameter& parameter) { return parameter.label == label; });
+bool CommandParser::hasParameter(const Command& command, const Phrase& label) {
+    return std::any_of(command.parameters.begin(), command.parameters.end(), [&](const Parameter& parameter) {
+        return parameter.label.firstHash() == label.firstHash() &&
+               parameter.label.spelling() == label.spelling();
+    });
 }
 
 std::optional<std::uint32_t> CommandParser::parameterHere(const Command& command) const {
@@ -106,32 +105,30 @@ void CommandParser::parameters(const Command& command, ChildList& children) {
     while (const std::optional<std::uint32_t> index = parameterHere(command)) {
         const Parameter& parameter = command.parameters[*index];
         if ((given & (1U << *index)) != 0) {
-            m_tokens.fail(errornumber::parameterTwice,
-                          "The " + std::string(parameter.label) + " parameter is specified more than once.");
+            m_tokens.fail(errornumber::parameterTwice, "The " + std::string(parameter.label.spelling()) +
+                                                           " parameter is specified more than once.");
         }
         given |= 1U << *index;
         const NodeId argument = m_tree.add(NodeKind::argument, m_tokens.offset(), *index);
-        for (std::size_t i = wordCount(parameter.label); i > 0; --i) m_tokens.advance();
+        m_tokens.advance(parameter.label.wordCount());
         ChildList(m_tree, argument).append(parameterValue(parameter, command));
         children.append(argument);
         m_tokens.skipFiller();
     }
-    isIncompleteLabel(command);
+    refuseIncompleteLabel(command);
 }
 
 /// `default 5`: the first word of labels without the second one.
-bool CommandParser::isIncompleteLabel(const Command& command) {
-    if (!m_tokens.current().is(Word::none) || !m_tokens.isAt(TokenKind::identifier)) return false;
+void CommandParser::refuseIncompleteLabel(const Command& command) {
+    if (!m_tokens.current().is(Word::none) || !m_tokens.isAt(TokenKind::identifier)) return;
     std::vector<std::string_view> seconds;
     for (const Parameter& parameter : command.parameters) {
-        const std::size_t blank = parameter.label.find(' ');
-        if (blank == std::string_view::npos || !m_tokens.isAtTerm(parameter.label.substr(0, blank))) continue;
-        seconds.push_back(parameter.label.substr(blank + 1));
+        if (parameter.label.wordCount() < 2 || !m_tokens.isAtFirstWordOf(parameter.label)) continue;
+        seconds.push_back(parameter.label.rest());
     }
-    if (seconds.empty()) return false;
+    if (seconds.empty()) return;
     m_tokens.advance();
     m_tokens.expected(alternatives(seconds));
-    return true;
 }
 
 NodeId CommandParser::parameterValue(const Parameter& parameter, const Command& command) {
@@ -146,17 +143,21 @@ NodeId CommandParser::parameterValue(const Parameter& parameter, const Command& 
 /// One of the words as text; `noNode` where none of them stands and a value may.
 NodeId CommandParser::chosen(const Parameter& parameter) {
     const std::uint32_t offset = m_tokens.offset();
-    for (const std::string_view words : parameter.choices) {
-        if (m_tokens.acceptTerm(words)) return m_tree.add(NodeKind::text, offset, m_tree.addText(words));
+    for (const Phrase& words : parameter.choices) {
+        if (!m_tokens.acceptTerm(words)) continue;
+        return m_tree.add(NodeKind::text, offset, m_tree.addText(words.spelling()));
     }
-    if (!parameter.takesValue) m_tokens.expected(alternatives(parameter.choices));
+    if (parameter.takesValue) return noNode;
+    std::vector<std::string_view> spellings;
+    for (const Phrase& words : parameter.choices) spellings.push_back(words.spelling());
+    m_tokens.expected(alternatives(spellings));
     return noNode;
 }
 
 NodeId CommandParser::className() {
     const NodeId node = m_tree.add(NodeKind::known, m_tokens.offset());
     if (m_tokens.isAtTerm("unicode text")) m_tokens.advance();
-    const auto term = m_tokens.isAt(TokenKind::identifier) ? findTerm(m_tokens.current().text) : std::nullopt;
+    const auto term = m_tokens.isAt(TokenKind::identifier) ? findTerm(m_tokens.current()) : std::nullopt;
     if (!term || knownTerm(*term).kind != KnownTerm::Kind::type) {
         m_tokens.expected("class name");
         return node;

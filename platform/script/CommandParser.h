@@ -19,19 +19,21 @@ class CommandParser {
     CommandParser(TokenStream& tokens, Tree& tree, TermParser& terms)
         : m_tokens(tokens), m_tree(tree), m_terms(terms) {}
 
-    /// Not where a name of the same spelling is meant: `round = 2`.
-    bool isAtCommand() const;
-    NodeId command();
+    /// The index of the command that stands here; empty where a name of the same spelling is meant: `round =
+    /// 2`.
+    std::optional<std::uint32_t> commandHere() const;
+    NodeId command(std::uint32_t index);
 
   private:
+    bool isMeant(const Command& command) const;
     NodeId direct(const Command& command);
     std::optional<std::uint32_t> parameterHere(const Command& command) const;
     void parameters(const Command& command, ChildList& children);
     NodeId parameterValue(const Parameter& parameter, const Command& command);
     NodeId chosen(const Parameter& parameter);
     NodeId className();
-    bool isIncompleteLabel(const Command& command);
-    bool hasParameter(const Command& command, std::string_view label) const;
+    void refuseIncompleteLabel(const Command& command);
+    static bool hasParameter(const Command& command, const Phrase& label);
 
     TokenStream& m_tokens;
     Tree& m_tree;

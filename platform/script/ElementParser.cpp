@@ -1,39 +1,41 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/ElementParser.h"
 
-#include <algorithm>
-#include <array>
-
 #include "platform/script/TermParser.h"
 
 namespace script {
 namespace {
 
-struct Ordinal {
-    Word word;
-    int number;
-};
-
-constexpr auto ordinals = std::to_array<Ordinal>({
-    {Word::first, 1},
-    {Word::second, 2},
-    {Word::third, 3},
-    {Word::fourth, 4},
-    {Word::fifth, 5},
-    {Word::sixth, 6},
-    {Word::seventh, 7},
-    {Word::eighth, 8},
-    {Word::ninth, 9},
-    {Word::tenth, 10},
-    {Word::last, -1},
-    {Word::front, 1},
-    {Word::back, -1},
-});
-
-const Ordinal* ordinalOf(Word word) {
-    const auto* row = std::find_if(ordinals.begin(), ordinals.end(),
-                                   [&](const Ordinal& candidate) { return candidate.word == word; });
-    return row == ordinals.end() ? nullptr : row;
+/// The index that an ordinal means, from the end if it is negative; 0 for other words.
+int ordinalOf(Word word) {
+    switch (word) {
+        case Word::first:
+        case Word::front:
+            return 1;
+        case Word::second:
+            return 2;
+        case Word::third:
+            return 3;
+        case Word::fourth:
+            return 4;
+        case Word::fifth:
+            return 5;
+        case Word::sixth:
+            return 6;
+        case Word::seventh:
+            return 7;
+        case Word::eighth:
+            return 8;
+        case Word::ninth:
+            return 9;
+        case Word::tenth:
+            return 10;
+        case Word::last:
+        case Word::back:
+            return -1;
+        default:
+            return 0;
+    }
 }
 
 bool isFormWord(Word word) { return word == Word::some || word == Word::middle || word == Word::every; }
@@ -44,7 +46,7 @@ std::optional<ElementParser::Kind> ElementParser::kindHere() const {
     if (m_tokens.isAtTerm("text item")) return Kind{ElementKind::textItem, Type::anything, false, 2};
     if (m_tokens.isAtTerm("text items")) return Kind{ElementKind::textItem, Type::anything, true, 2};
     if (!m_tokens.isAt(TokenKind::identifier)) return std::nullopt;
-    const ElementTerm* term = findElementTerm(m_tokens.current().text);
+    const ElementTerm* term = findElementTerm(m_tokens.current());
     if (term == nullptr) return std::nullopt;
     return Kind{term->kind, term->type, term->isPlural, 1};
 }
@@ -61,7 +63,7 @@ bool ElementParser::isAtTextRange() const {
 
 bool ElementParser::isAtElement() const {
     const Word word = m_tokens.current().word;
-    if (ordinalOf(word) != nullptr || isFormWord(word)) return true;
+    if (ordinalOf(word) != 0 || isFormWord(word)) return true;
     if (word == Word::beginning || word == Word::end)
         return m_tokens.ahead().is(Word::of) || word == Word::beginning;
     if (word != Word::none) return false;
@@ -104,7 +106,7 @@ NodeId ElementParser::ordinal(std::uint32_t offset, NodeId index, ElementForm fo
 
 NodeId ElementParser::part() {
     const Word word = m_tokens.current().word;
-    if (ordinalOf(word) != nullptr) return ordinalWord();
+    if (ordinalOf(word) != 0) return ordinalWord();
     if (word == Word::some) return formWord(ElementForm::some);
     if (word == Word::middle) return formWord(ElementForm::middle);
     if (word == Word::every) return formWord(ElementForm::every);
@@ -115,7 +117,7 @@ NodeId ElementParser::part() {
 
 NodeId ElementParser::ordinalWord() {
     const std::uint32_t offset = m_tokens.offset();
-    const int number = ordinalOf(m_tokens.current().word)->number;
+    const int number = ordinalOf(m_tokens.current().word);
     m_tokens.advance();
     NodeId index =
         m_tree.add(NodeKind::integer, offset, static_cast<std::uint32_t>(number < 0 ? -number : number));
@@ -139,7 +141,7 @@ NodeId ElementParser::ordinalPart(std::uint32_t offset, NodeId index, ElementFor
         m_tokens.expected("class name");
         return noNode;
     }
-    for (int i = 0; i < kind->words; ++i) m_tokens.advance();
+    m_tokens.advance(kind->words);
     const NodeId node = make(offset, *kind, form);
     ChildList(m_tree, node).append(index);
     return node;
@@ -155,7 +157,7 @@ NodeId ElementParser::endPart() {
 NodeId ElementParser::kindPart(const Kind& kind) {
     const std::uint32_t offset = m_tokens.offset();
     const std::string_view word = m_tokens.current().text;
-    for (int i = 0; i < kind.words; ++i) m_tokens.advance();
+    m_tokens.advance(kind.words);
     if (!kind.isPlural) {
         const NodeId node = make(offset, kind, ElementForm::index);
         ChildList(m_tree, node).append(m_terms.expressions().index());

@@ -42,7 +42,7 @@ class ElementParser {
         ElementKind kind = ElementKind::item;
         Type type = Type::anything;
         bool isPlural = false;
-        int words = 1;
+        std::size_t words = 1;
     };
 
     std::optional<Kind> kindHere() const;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/ExpressionGenerator.h"
 
-#include <algorithm>
+#include <array>
 #include <vector>
 
 #include "platform/script/Advice.h"
@@ -276,7 +276,7 @@ void ExpressionGenerator::command(const Node& node) {
     const Command& command = *commands()[node.value];
     std::uint32_t mask = 0;
     NodeId next = node.firstChild;
-    std::vector<NodeId> given(command.parameters.size(), noNode);
+    std::array<NodeId, Command::maxParameters> given{};
     if (node.detail != 0) {
         mask = 1;
         const std::uint32_t start = m_out.position();
@@ -287,7 +287,7 @@ void ExpressionGenerator::command(const Node& node) {
         next = m_tree.at(next).nextSibling;
     }
     for (; next != noNode; next = m_tree.at(next).nextSibling) given[m_tree.at(next).value] = next;
-    for (std::uint32_t i = 0; i < given.size(); ++i) {
+    for (std::uint32_t i = 0; i < command.parameters.size(); ++i) {
         if (given[i] == noNode) continue;
         const NodeId value = m_tree.at(given[i]).firstChild;
         if (command.plays != Command::Plays::nothing) warnOfModifiers(value);

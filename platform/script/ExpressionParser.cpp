@@ -34,7 +34,7 @@ NodeId ExpressionParser::operation(int minimumLevel) {
         if (row == nullptr || row->level < minimumLevel || row->level > highestLevel) return left;
         NodeId node = m_tree.add(NodeKind::binary, m_tokens.offset());
         m_tree.nodes[node].detail = static_cast<std::uint8_t>(row->operation);
-        skipOperator(m_tokens, *row);
+        m_tokens.advance(row->spelling.wordCount());
         ChildList operands(m_tree, node);
         operands.append(left);
         operands.append(operation(row->grouping == Grouping::right ? row->level : row->level + 1));
@@ -70,7 +70,7 @@ NodeId ExpressionParser::className() {
     const NodeId node = m_tree.add(NodeKind::coercion, m_tokens.offset());
     std::optional<std::uint8_t> term;
     if (m_tokens.isAtTerm("unicode text")) m_tokens.advance();
-    if (m_tokens.isAt(TokenKind::identifier)) term = findTerm(m_tokens.current().text);
+    if (m_tokens.isAt(TokenKind::identifier)) term = findTerm(m_tokens.current());
     if (!term || knownTerm(*term).kind != KnownTerm::Kind::type) {
         m_tokens.expected("class name");
         return node;

@@ -70,7 +70,7 @@ bool endsValue(const Token& token) {
         case TokenKind::rightBrace:
             return true;
         case TokenKind::identifier:
-            if (token.is(Word::none)) return findElementTerm(token.text) == nullptr;
+            if (token.is(Word::none)) return findElementTerm(token) == nullptr;
             if (token.is(Word::id)) return false;
             return kindOf(token.word) != WordKind::reserved || token.is(Word::it) || token.is(Word::me) ||
                    token.is(Word::trueWord) || token.is(Word::falseWord) || token.is(Word::returnWord);
@@ -210,8 +210,8 @@ class Layout {
 
     static bool isCommandWord(const Token& token) {
         return std::any_of(commands().begin(), commands().end(), [&](const Command* command) {
-            return command->name == asciiLowered(token.text) && command->direct != Command::Direct::none &&
-                   !command->takesOf;
+            return command->name.wordCount() == 1 && command->name.hasWord(0, token) &&
+                   command->direct != Command::Direct::none && !command->takesOf;
         });
     }
 

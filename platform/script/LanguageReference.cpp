@@ -117,7 +117,8 @@ std::string section(const Command& command) {
     const std::string_view manual = command.manual;
     const std::size_t blank = manual.find("\n\n");
     std::string out =
-        "\n### " + std::string(command.name == "clipboard to" ? "set the clipboard" : command.name);
+        "\n### " + std::string(command.name.spelling() == "clipboard to" ? "set the clipboard"
+                                                                         : command.name.spelling());
     out += "\n\n" + indented(manual.substr(0, blank)) + "\n" + std::string(manual.substr(blank + 2)) + "\n\n";
     std::string examples(command.examples);
     constexpr std::string_view lineEnd = "↵";

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 namespace script {
 namespace {
@@ -11,8 +12,8 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view noBreakSpace = "\xC2\xA0";
 constexpr std::string_view continuation = "¬";
 
-/// `gap` are the bytes with which something may begin that gives no token.
-enum class Class : unsigned char { other, letter, digit, gap };
+/// `gap` are the bytes with which something may begin that gives no token, blanks aside.
+enum class Class : unsigned char { other, letter, digit, blank, lineEnd, gap };
 
 constexpr std::array<Class, 256> classes = [] {
     std::array<Class, 256> table{};
@@ -20,7 +21,9 @@ constexpr std::array<Class, 256> classes = [] {
     for (std::size_t c = 'A'; c <= 'Z'; ++c) table[c] = Class::letter;
     for (std::size_t c = '0'; c <= '9'; ++c) table[c] = Class::digit;
     table['_'] = Class::letter;
-    for (const char c : {' ', '\t', '#', '-', '(', noBreakSpace.front(), continuation.front()}) {
+    for (const char c : {' ', '\t'}) table[static_cast<unsigned char>(c)] = Class::blank;
+    for (const char c : {'\n', '\r'}) table[static_cast<unsigned char>(c)] = Class::lineEnd;
+    for (const char c : {'#', '-', '(', noBreakSpace.front(), continuation.front()}) {
         table[static_cast<unsigned char>(c)] = Class::gap;
     }
     return table;
@@ -29,14 +32,14 @@ constexpr std::array<Class, 256> classes = [] {
 Class classOf(char c) { return classes[static_cast<unsigned char>(c)]; }
 bool isDigit(char c) { return classOf(c) == Class::digit; }
 bool isWordCharacter(char c) { return classOf(c) == Class::letter || isDigit(c); }
-bool isLineEnd(char c) { return c == '\n' || c == '\r'; }
+bool isLineEnd(char c) { return classOf(c) == Class::lineEnd; }
 
 struct Symbol {
     std::string_view spelling;
     TokenKind kind;
 };
 
-/// Where one spelling begins another, the longer stands first.
+/// Those that begin with the same byte stand together, and of two that begin alike the longer one first.
 constexpr auto symbols = std::to_array<Symbol>({
     {"(", TokenKind::leftParenthesis},
     {")", TokenKind::rightParenthesis},
@@ -51,21 +54,32 @@ constexpr auto symbols = std::to_array<Symbol>({
     {"*", TokenKind::star},
     {"/=", TokenKind::notEqual},
     {"/", TokenKind::slash},
-    {"÷", TokenKind::slash},
     {"^", TokenKind::caret},
     {"=", TokenKind::equal},
-    {"≠", TokenKind::notEqual},
     {"<=", TokenKind::lessEqual},
-    {"≤", TokenKind::lessEqual},
     {"<", TokenKind::less},
     {">=", TokenKind::greaterEqual},
-    {"≥", TokenKind::greaterEqual},
     {">", TokenKind::greater},
     {"«", TokenKind::rawCode},
     {"»", TokenKind::rawCode},
+    {"÷", TokenKind::slash},
+    {"≠", TokenKind::notEqual},
+    {"≤", TokenKind::lessEqual},
+    {"≥", TokenKind::greaterEqual},
     {"《", TokenKind::rawCode},
     {"》", TokenKind::rawCode},
 });
+
+/// By byte, the first symbol that begins with it; past the end for none.
+constexpr std::array<std::uint8_t, 256> firstSymbols = [] {
+    std::array<std::uint8_t, 256> table{};
+    table.fill(symbols.size());
+    for (std::size_t row = symbols.size(); row > 0; --row) {
+        table[static_cast<unsigned char>(symbols[row - 1].spelling.front())] =
+            static_cast<std::uint8_t>(row - 1);
+    }
+    return table;
+}();
 
 /// The bytes of the UTF-8 character that `first` begins.
 std::size_t characterLength(char first) {
@@ -82,41 +96,63 @@ Lexer::Lexer(std::string_view source) : m_source(source) {
 }
 
 Token Lexer::next() {
-    if (const std::optional<Token> fault = skipGap()) return *fault;
-    if (m_position >= m_source.size()) return take(TokenKind::endOfScript, 0);
-    const char c = m_source[m_position];
-    if (classOf(c) == Class::letter) return word();
-    if (isDigit(c) || (c == '.' && isDigit(at(m_position + 1)))) return number();
-    if (isLineEnd(c)) return take(TokenKind::endOfLine, c == '\r' && at(m_position + 1) == '\n' ? 2 : 1);
-    if (c == '"') return text();
-    if (c == '|') return barredName();
-    return symbol();
+    while (m_position < m_source.size()) {
+        const char c = m_source[m_position];
+        switch (classOf(c)) {
+            case Class::blank:
+                ++m_position;
+                break;
+            case Class::letter:
+                return word();
+            case Class::digit:
+                return number();
+            case Class::lineEnd:
+                return take(TokenKind::endOfLine, lineEndLength());
+            case Class::gap: {
+                const std::size_t start = m_position;
+                const std::optional<Token> fault = skipGap();
+                if (fault) return *fault;
+                if (m_position == start) return symbol();
+                break;
+            }
+            case Class::other:
+                if (c == '"') return text();
+                if (c == '|') return barredName();
+                if (c == '.' && isDigit(at(m_position + 1))) return number();
+                return symbol();
+        }
+    }
+    return take(TokenKind::endOfScript, 0);
 }
 
-Token Lexer::take(TokenKind kind, std::size_t length, Word word) {
+Token Lexer::take(TokenKind kind, std::size_t length) {
     const std::string_view text = m_source.substr(m_position, length);
     m_position += text.size();
-    return {kind, word, text};
+    return {kind, Word::none, 0, text};
 }
 
-/// Skips all that gives no token. A gap that does not end is a token.
+Token Lexer::takeWord(std::size_t length, std::uint32_t hash) {
+    Token token = take(TokenKind::identifier, length);
+    token.word = wordOf(token.text, hash);
+    token.hash = hash;
+    return token;
+}
+
+/// Skips a comment, a continuation or a no-break space, if one is here. One that does not end is a token.
 std::optional<Token> Lexer::skipGap() {
-    while (m_position < m_source.size() && classOf(m_source[m_position]) == Class::gap) {
+    const char c = m_source[m_position];
+    const char following = at(m_position + 1);
+    if (c == '#' || (c == '-' && following == '-')) {
+        skipLine();
+    } else if (c == '(' && following == '*') {
+        if (!skipBlockComment()) return take(TokenKind::openComment, 0);
+    } else if (startsWith(continuation)) {
         const std::size_t start = m_position;
-        const char c = m_source[m_position];
-        if (skipBlank()) continue;
-        if (c == '#' || (c == '-' && at(m_position + 1) == '-')) {
-            skipLine();
-        } else if (c == '(' && at(m_position + 1) == '*') {
-            if (skipBlockComment()) continue;
-            return take(TokenKind::openComment, 0);
-        } else if (startsWith(continuation)) {
-            if (skipContinuation()) continue;
-            m_position = start;
-            return take(TokenKind::strayContinuation, continuation.size());
-        } else {
-            break;
-        }
+        if (skipContinuation()) return std::nullopt;
+        m_position = start;
+        return take(TokenKind::strayContinuation, continuation.size());
+    } else {
+        skipBlank();
     }
     return std::nullopt;
 }
@@ -153,8 +189,12 @@ bool Lexer::skipBlockComment() {
 bool Lexer::skipLineEnd() {
     if (m_position >= m_source.size()) return true;
     if (!isLineEnd(m_source[m_position])) return false;
-    m_position += m_source[m_position] == '\r' && at(m_position + 1) == '\n' ? 2 : 1;
+    m_position += lineEndLength();
     return true;
+}
+
+std::size_t Lexer::lineEndLength() const {
+    return m_source[m_position] == '\r' && at(m_position + 1) == '\n' ? 2 : 1;
 }
 
 /// The sign, blanks, perhaps a comment, and one line end; false if something else stands there.
@@ -168,12 +208,16 @@ bool Lexer::skipContinuation() {
 
 /// Also "isn't" and "doesn't", the only words with an apostrophe.
 Token Lexer::word() {
-    std::size_t end = m_position + 1;
-    while (end < m_source.size() && isWordCharacter(m_source[end])) ++end;
-    const Word whole = wordOf(m_source.substr(m_position, end - m_position + 2));
-    if (whole == Word::isnt || whole == Word::doesnt) end += 2;
+    SpellingHash hash;
+    std::size_t end = m_position;
+    while (end < m_source.size() && isWordCharacter(m_source[end])) hash.add(m_source[end++]);
     const std::size_t length = end - m_position;
-    return take(TokenKind::identifier, length, wordOf(m_source.substr(m_position, length)));
+    if (at(end) == '\'' && end + 1 < m_source.size()) {
+        const std::string_view whole = m_source.substr(m_position, length + 2);
+        const std::uint32_t wholeHash = SpellingHash(whole).value();
+        if (wordOf(whole, wholeHash) != Word::none) return takeWord(length + 2, wholeHash);
+    }
+    return takeWord(length, hash.value());
 }
 
 /// Between bars all characters but line ends make a name; a bar or backslash needs a backslash.
@@ -183,7 +227,9 @@ Token Lexer::barredName() {
         end += m_source[end] == '\\' && end + 1 < m_source.size() && !isLineEnd(m_source[end + 1]) ? 2 : 1;
     }
     if (at(end) != '|') return take(TokenKind::unknown, 1);
-    return take(TokenKind::identifier, end + 1 - m_position);
+    Token name = take(TokenKind::identifier, end + 1 - m_position);
+    name.hash = SpellingHash(name.text).value();
+    return name;
 }
 
 /// Digits, perhaps a point and digits, perhaps an exponent with digits. The sign is an operator.
@@ -207,19 +253,21 @@ Token Lexer::text() {
         end = m_source.find_first_of("\"\\", end + 2);
     }
     if (end == std::string_view::npos) {
-        const Token fault{TokenKind::openText, Word::none, m_source.substr(m_position)};
-        m_position = m_source.size();
-        return fault;
+        return take(TokenKind::openText, m_source.size() - m_position);
     }
     return take(TokenKind::text, end + 1 - m_position);
 }
 
 Token Lexer::symbol() {
-    for (const Symbol& candidate : symbols) {
-        if (candidate.spelling.front() != m_source[m_position]) continue;
-        if (startsWith(candidate.spelling)) return take(candidate.kind, candidate.spelling.size());
+    const char first = m_source[m_position];
+    for (std::size_t row = firstSymbols[static_cast<unsigned char>(first)];
+         row < symbols.size() && symbols[row].spelling.front() == first; ++row) {
+        const Symbol& candidate = symbols[row];
+        if (candidate.spelling.size() == 1 || startsWith(candidate.spelling)) {
+            return take(candidate.kind, candidate.spelling.size());
+        }
     }
-    return take(TokenKind::unknown, characterLength(m_source[m_position]));
+    return take(TokenKind::unknown, characterLength(first));
 }
 
 }  // namespace script

@@ -26,13 +26,15 @@ class Lexer {
     bool startsWith(std::string_view prefix) const {
         return m_source.compare(m_position, prefix.size(), prefix) == 0;
     }
-    Token take(TokenKind kind, std::size_t length, Word word = Word::none);
+    Token take(TokenKind kind, std::size_t length);
+    Token takeWord(std::size_t length, std::uint32_t hash);
 
     std::optional<Token> skipGap();
     bool skipBlank();
     void skipLine();
     bool skipBlockComment();
     bool skipLineEnd();
+    std::size_t lineEndLength() const;
     bool skipContinuation();
 
     Token word();

@@ -10,20 +10,23 @@ namespace script {
 Location Locator::at(std::size_t offset) {
     if (offset < m_position) *this = Locator(m_source);
     const std::size_t end = std::min(offset, m_source.size());
-    while (m_position < end) step();
+    std::uint32_t column = m_place.column;
+    for (; m_position < end; ++m_position) {
+        const char c = m_source[m_position];
+        if (c == '\n' || (c == '\r' && !isPair(m_position))) {
+            ++m_place.line;
+            column = 1;
+        } else if (!isUtf8Continuation(c)) {
+            ++column;
+        }
+    }
+    m_place.column = column;
     return m_place;
 }
 
-void Locator::step() {
-    const char c = m_source[m_position++];
-    const bool carriageReturn = c == '\r';
-    const bool pair = carriageReturn && m_position < m_source.size() && m_source[m_position] == '\n';
-    if (c == '\n' || (carriageReturn && !pair)) {
-        ++m_place.line;
-        m_place.column = 1;
-    } else if (!isUtf8Continuation(c)) {
-        ++m_place.column;
-    }
+/// CR LF ends one line, at its LF.
+bool Locator::isPair(std::size_t position) const {
+    return position + 1 < m_source.size() && m_source[position + 1] == '\n';
 }
 
 }  // namespace script

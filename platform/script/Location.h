@@ -27,7 +27,7 @@ class Locator {
     Location at(std::size_t offset);
 
   private:
-    void step();
+    bool isPair(std::size_t position) const;
 
     std::string_view m_source;
     std::size_t m_position = 0;

@@ -5,8 +5,9 @@
 #include <deque>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
+
+#include "platform/script/Word.h"
 
 namespace script {
 
@@ -45,8 +46,8 @@ extern const Name time;
 extern const Name timeString;
 extern const Name weekday;
 extern const Name year;
-/// The one of these with the spelling in lower case; null if there is none.
-const Name* find(std::string_view lowered);
+/// The one of these with the spelling; null if there is none. Case does not matter.
+const Name* find(std::string_view spelling);
 }  // namespace names
 
 /// An index into a NameTable.
@@ -56,7 +57,7 @@ using NameId = std::uint32_t;
 class NameTable {
   public:
     /// Number 0 stands for no name.
-    NameTable() { intern(""); }
+    NameTable();
     NameTable(NameTable&&) = default;
     NameTable& operator=(NameTable&&) = default;
     NameTable(const NameTable&) = delete;
@@ -64,13 +65,28 @@ class NameTable {
     ~NameTable() = default;
 
     /// The name with this spelling; case does not matter.
-    NameId intern(std::string_view spelling);
+    NameId intern(std::string_view spelling) { return intern(spelling, SpellingHash(spelling).value()); }
+    /// The hash is that of the spelling.
+    NameId intern(std::string_view spelling, std::uint32_t hash);
+    /// Whether it has such a name already.
+    bool knows(std::string_view spelling, std::uint32_t hash) const {
+        return m_slots[slotOf(spelling, hash)] != 0;
+    }
     /// Lives as long as the table, also when that is moved.
-    const Name& at(NameId id) const { return *m_byId[id]; }
+    const Name& at(NameId id) const { return *m_byId[id].name; }
 
   private:
-    std::unordered_map<std::string, NameId> m_byKey;
-    std::vector<const Name*> m_byId;
+    struct Entry {
+        const Name* name = nullptr;
+        std::uint32_t hash = 0;
+    };
+
+    std::size_t slotOf(std::string_view spelling, std::uint32_t hash) const;
+    void grow();
+
+    std::vector<Entry> m_byId;
+    /// Where a name may be by its hash, or else in the next slot that is taken; at most half of them are.
+    std::vector<NameId> m_slots;
     std::deque<Name> m_own;
 };
 

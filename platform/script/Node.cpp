@@ -5,15 +5,6 @@
 
 namespace script {
 
-NodeId Tree::add(NodeKind kind, std::uint32_t offset, std::uint32_t value) {
-    Node node;
-    node.kind = kind;
-    node.offset = offset;
-    node.value = value;
-    nodes.push_back(node);
-    return static_cast<NodeId>(nodes.size() - 1);
-}
-
 std::uint32_t Tree::addText(std::string_view text) {
     texts.push_back(text);
     return static_cast<std::uint32_t>(texts.size() - 1);

@@ -124,7 +124,10 @@ struct Tree {
     std::vector<BlockMark> blocks;
 
     const Node& at(NodeId id) const { return nodes[id]; }
-    NodeId add(NodeKind kind, std::uint32_t offset, std::uint32_t value = 0);
+    NodeId add(NodeKind kind, std::uint32_t offset, std::uint32_t value = 0) {
+        nodes.push_back({kind, 0, offset, value, noNode, noNode});
+        return static_cast<NodeId>(nodes.size() - 1);
+    }
     std::uint32_t addText(std::string_view text);
     std::uint32_t addDecoded(std::string text);
     std::uint32_t addReal(double value);

@@ -2,8 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
-#include <string_view>
 
 #include "platform/script/TokenStream.h"
 
@@ -36,11 +34,13 @@ enum class Grouping : std::uint8_t { left, right, none };
 
 /// A row of the precedence table: what the operator looks like, how tightly it binds and how it groups.
 struct OperatorRow {
-    std::string_view spelling;  ///< words with one blank between them, or a sign
+    Phrase spelling;
     BinaryOperator operation;
     bool isNegated;
     int level;  ///< higher binds tighter
     Grouping grouping;
+    /// Of an operator that is a sign, however that is spelled.
+    TokenKind sign = TokenKind::identifier;
 };
 
 /// Binds tighter than every binary operator: -2 ^ 2 is 4.
@@ -49,10 +49,7 @@ inline constexpr int unaryLevel = 100;
 inline constexpr int coercionLevel = 50;
 inline constexpr int notLevel = 30;
 
-/// The operator with the longest spelling that stands at the current token; null if none does.
+/// The operator with the most words that stands at the current token; null if none does.
 const OperatorRow* binaryOperator(const TokenStream& tokens);
-
-/// Moves behind the operator.
-void skipOperator(TokenStream& tokens, const OperatorRow& row);
 
 }  // namespace script

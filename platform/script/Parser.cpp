@@ -4,7 +4,10 @@
 namespace script {
 
 Parser::Parser(std::string_view source)
-    : m_tokens(source), m_terms(m_tokens, m_tree, source), m_statements(m_tokens, m_tree, m_terms) {}
+    : m_tokens(source), m_terms(m_tokens, m_tree, source), m_statements(m_tokens, m_tree, m_terms) {
+    constexpr std::size_t bytesANode = 5;  // as macros mostly have
+    m_tree.nodes.reserve(source.size() / bytesANode);
+}
 
 Tree& Parser::parse() {
     const NodeId root = m_tree.add(NodeKind::script, 0);

@@ -10,7 +10,7 @@ namespace script {
 namespace {
 
 struct PartWord {
-    std::string_view words;
+    Phrase words;
     ErrorPart part;
 };
 

@@ -38,10 +38,10 @@ constexpr auto modifierWords = std::to_array<ModifierWord>({
     {Word::shift, modifier::shift},
 });
 
-constexpr auto longProperties = std::to_array<std::string_view>(
-    {"button returned", "text returned", "gave up", "date string", "time string"});
+constexpr auto longProperties =
+    std::to_array<Phrase>({"button returned", "text returned", "gave up", "date string", "time string"});
 
-constexpr auto refusedCommands = std::to_array<std::string_view>(
+constexpr auto refusedCommands = std::to_array<Phrase>(
     {"do shell script", "run script", "load script", "store script", "open location", "say"});
 
 template <typename Table>
@@ -74,14 +74,14 @@ NodeId TermParser::term() {
     if (m_tokens.isAtTerm("a reference") || m_tokens.isAt(Word::ref) || m_tokens.isAt(Word::reference)) {
         return referenceTo();
     }
-    if (!m_readsTarget && m_commands.isAtCommand()) return m_commands.command();
+    if (const auto command = commandHere()) return m_commands.command(*command);
     const Word word = m_tokens.current().word;
     if (word == Word::display && m_tokens.ahead().is(TokenKind::identifier)) {
         m_tokens.advance();
         m_tokens.expected("“dialog”, “alert” or “notification”");
         return noNode;
     }
-    if (word == Word::script) return known(*findTerm("script"));
+    if (word == Word::script) return known(scriptTerm());
     if ((word == Word::application || word == Word::app) && m_tokens.ahead().is(TokenKind::text)) {
         return application();
     }
@@ -102,6 +102,10 @@ NodeId TermParser::term() {
         return noNode;
     }
     return nameTerm();
+}
+
+std::optional<std::uint32_t> TermParser::commandHere() const {
+    return m_readsTarget ? std::nullopt : m_commands.commandHere();
 }
 
 /// Words with one meaning of their own; `noNode` for all others.
@@ -147,7 +151,7 @@ NodeId TermParser::member(NodeId container) {
     if (m_tokens.isAtTerm("text item delimiters")) return delimiters();
     if (m_elements.isAtElement()) return m_elements.elementOf(container);
     const bool isCall = m_tokens.ahead().is(TokenKind::leftParenthesis);
-    if (isCall || m_calls.isLabelledHandler(m_tokens.current().text)) {
+    if (isCall || m_calls.isLabelledHandler(m_tokens.current())) {
         return ofOwner(container, isCall ? m_calls.positional() : m_calls.labelled());
     }
     const NodeId node = m_tree.add(
@@ -194,7 +198,7 @@ NodeId TermParser::wordTerm() {
     if (m_tokens.isAtTerm("character id")) return m_elements.characterId();
     if (m_tokens.isAtTerm("a reference") || m_tokens.isAtTerm("a ref")) return referenceTo();
     if (refuseForbidden()) return noNode;
-    if (!m_readsTarget && m_commands.isAtCommand()) return m_commands.command();
+    if (const auto command = commandHere()) return m_commands.command(*command);
     if (m_elements.isAtElement()) return m_elements.element();
     if (m_tokens.isAtTerm("unicode text")) m_tokens.advance();
     const bool isProperty = m_tokens.ahead().is(Word::of) || m_tokens.ahead().is(TokenKind::leftParenthesis);
@@ -202,7 +206,7 @@ NodeId TermParser::wordTerm() {
     if (m_tokens.isAtTerm("date") && m_tokens.ahead().is(TokenKind::text)) return dateLiteral();
     if (m_tokens.isAtTerm("applescript")) return leaf(NodeKind::appleScript);
     if (m_tokens.isAtTerm("result")) return leaf(NodeKind::result);
-    if (const auto index = findTerm(m_tokens.current().text)) return known(*index);
+    if (const auto index = findTerm(m_tokens.current())) return known(*index);
     return nameTerm();
 }
 
@@ -240,7 +244,7 @@ NodeId TermParser::nameTerm() {
     }
     const bool mayBeLabelled = CallParser::isLabelWord(m_tokens.ahead().word) ||
                                m_tokens.ahead().is(Word::given) || m_tokens.ahead().is(Word::of);
-    if (mayBeLabelled && m_calls.isLabelledHandler(m_tokens.current().text)) return m_calls.labelled();
+    if (mayBeLabelled && m_calls.isLabelledHandler(m_tokens.current())) return m_calls.labelled();
     if (m_tokens.ahead().is(Word::of) || longPropertyHere(m_tokens)) return property();
     return plainName();
 }
@@ -266,19 +270,19 @@ NodeId TermParser::plainName() {
 bool TermParser::longPropertyHere(const TokenStream& tokens) {
     if (!tokens.current().is(Word::none) || !tokens.ahead().is(TokenKind::identifier)) return false;
     return std::any_of(longProperties.begin(), longProperties.end(),
-                       [&](std::string_view name) { return tokens.isAtTerm(name); });
+                       [&](const Phrase& name) { return tokens.isAtTerm(name); });
 }
 
 NameId TermParser::nameHere() {
-    const std::string_view text = m_tokens.current().text;
+    const Token token = m_tokens.current();
+    const std::string_view text = token.text;
     if (longPropertyHere(m_tokens)) {
         const std::string both = std::string(text) + " " + std::string(m_tokens.ahead().text);
-        m_tokens.advance();
-        m_tokens.advance();
+        m_tokens.advance(2);
         return m_tree.names.intern(both);
     }
     m_tokens.advance();
-    if (text.empty() || text.front() != '|') return m_tree.names.intern(text);
+    if (token.hash != 0 && text.front() != '|') return m_tree.names.intern(text, token.hash);
     std::string name;
     for (std::size_t i = 1; i + 1 < text.size(); ++i) {
         if (text[i] == '\\') ++i;
@@ -344,13 +348,13 @@ NodeId TermParser::numberedOrdinal() {
 
 /// Why: people pass macros on to each other. A macro presses keys; it does not run programs.
 bool TermParser::refuseForbidden() {
-    for (const std::string_view command : refusedCommands) {
+    for (const Phrase& command : refusedCommands) {
         if (!m_tokens.isAtTerm(command)) continue;
-        const bool isName = command == "say" && !m_tokens.ahead().is(TokenKind::text) &&
+        const bool isName = command.wordCount() == 1 && !m_tokens.ahead().is(TokenKind::text) &&
                             !m_tokens.ahead().is(TokenKind::identifier);
         if (isName) continue;
-        m_tokens.fail(errornumber::syntax,
-                      "“" + std::string(command) + "” is refused: a macro can press keys and nothing else.");
+        m_tokens.fail(errornumber::syntax, "“" + std::string(command.spelling()) +
+                                               "” is refused: a macro can press keys and nothing else.");
         return true;
     }
     return false;

@@ -57,6 +57,7 @@ class TermParser {
     CallParser& calls() { return m_calls; }
 
   private:
+    std::optional<std::uint32_t> commandHere() const;
     NodeId constantTerm();
     std::optional<NodeId> textConstant();
     NodeId leaf(NodeKind kind, std::uint32_t value = 0);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/Terms.h"
 
-#include <algorithm>
 #include <array>
-#include <cstddef>
 #include <numbers>
+
+#include "platform/script/SpellingIndex.h"
 
 namespace script {
 namespace {
@@ -83,23 +83,21 @@ constexpr auto elementTerms = std::to_array<ElementTerm>({
     {"dates", ElementKind::typed, true, Type::date},
 });
 
-template <typename Table>
-auto find(const Table& table, std::string_view spelling) -> decltype(table.data()) {
-    const auto* row = std::find_if(table.begin(), table.end(), [&](const auto& candidate) {
-        // Most words are told by their length and first letter.
-        return candidate.spelling.size() == spelling.size() &&
-               (candidate.spelling.front() | 0x20) == (spelling.front() | 0x20) &&
-               asciiLowered(candidate.spelling) == asciiLowered(spelling);
-    });
-    return row == table.end() ? nullptr : row;
-}
+constexpr SpellingIndex termIndex(terms);
+constexpr SpellingIndex elementIndex(elementTerms);
+
+std::uint8_t indexOf(const KnownTerm& term) { return static_cast<std::uint8_t>(&term - terms.data()); }
 
 }  // namespace
 
-std::optional<std::uint8_t> findTerm(std::string_view spelling) {
-    const KnownTerm* row = find(terms, spelling);
-    if (row == nullptr) return std::nullopt;
-    return static_cast<std::uint8_t>(row - terms.data());
+std::optional<std::uint8_t> findTerm(const Token& identifier) {
+    const KnownTerm* row = termIndex.find(identifier.text, identifier.hash);
+    return row == nullptr ? std::nullopt : std::optional(indexOf(*row));
+}
+
+std::uint8_t scriptTerm() {
+    constexpr std::string_view spelling = "script";
+    return indexOf(*termIndex.find(spelling, SpellingHash(spelling).value()));
 }
 
 const KnownTerm& knownTerm(std::uint8_t index) { return terms[index]; }
@@ -120,6 +118,8 @@ Value valueOf(const KnownTerm& term) {
     }
 }
 
-const ElementTerm* findElementTerm(std::string_view spelling) { return find(elementTerms, spelling); }
+const ElementTerm* findElementTerm(const Token& identifier) {
+    return elementIndex.find(identifier.text, identifier.hash);
+}
 
 }  // namespace script

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "platform/script/Token.h"
 #include "platform/script/Value.h"
 
 namespace script {
@@ -19,8 +20,10 @@ struct KnownTerm {
     int number = 0;
 };
 
-/// The index of the term with this spelling, in any case; empty if there is none.
-std::optional<std::uint8_t> findTerm(std::string_view spelling);
+/// The index of the term that the identifier spells; empty if it spells none.
+std::optional<std::uint8_t> findTerm(const Token& identifier);
+/// The index of the class `script`.
+std::uint8_t scriptTerm();
 const KnownTerm& knownTerm(std::uint8_t index);
 Value valueOf(const KnownTerm& term);
 
@@ -32,7 +35,7 @@ struct ElementTerm {
     Type type = Type::anything;  ///< of the kind `typed`
 };
 
-/// Null if the word names no elements.
-const ElementTerm* findElementTerm(std::string_view spelling);
+/// Null if the identifier names no elements.
+const ElementTerm* findElementTerm(const Token& identifier);
 
 }  // namespace script

@@ -38,6 +38,8 @@ enum class TokenKind : std::uint8_t {
     openText,           ///< a text that never ends
     openComment,        ///< a block comment that never ends
     strayContinuation,  ///< ¬ with something after it on its line
+
+    firstFault = rawCode,  ///< it and those behind it are wrong wherever they stand
 };
 
 /// A token is a view of the source, which must outlive it.
@@ -45,6 +47,8 @@ struct Token {
     TokenKind kind = TokenKind::endOfScript;
     /// Set for identifiers that the language knows.
     Word word = Word::none;
+    /// The SpellingHash of an identifier; 0 for all others.
+    std::uint32_t hash = 0;
     /// The token as it stands; an empty view at its place for the end of the script.
     std::string_view text;
 

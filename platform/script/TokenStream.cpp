@@ -9,14 +9,6 @@ namespace {
 
 std::string quoted(std::string_view text) { return "“" + std::string(text) + "”"; }
 
-/// The second text is in lower case.
-bool equalIgnoringCase(std::string_view text, std::string_view lowered) {
-    return text.size() == lowered.size() &&
-           std::equal(text.begin(), text.end(), lowered.begin(), [](char c, char other) {
-               return (c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c) == other;
-           });
-}
-
 bool isCurlyQuote(std::string_view text) {
     return text == "“" || text == "”" || text == "‘" || text == "’" || text == "„";
 }
@@ -30,8 +22,8 @@ bool TokenStream::namesBlock(Word word) {
 }
 
 TokenStream::TokenStream(std::string_view source) : m_source(source), m_lexer(source) {
-    m_current = m_lexer.next();
-    m_ahead = m_lexer.next();
+    m_window[m_count++] = m_lexer.next();
+    m_window[m_count++] = m_lexer.next();
     refuseFault();
 }
 
@@ -41,60 +33,29 @@ std::uint32_t TokenStream::offsetOf(const Token& token) const {
 
 void TokenStream::advance() {
     if (failed()) return;
-    m_current = m_ahead;
-    m_ahead = m_lexer.next();
-    refuseFault();
+    m_first = (m_first + 1) % windowSize;
+    if (--m_count < 2) m_window[(m_first + m_count++) % windowSize] = m_lexer.next();
+    if (current().kind >= TokenKind::firstFault) refuseFault();
 }
 
-Token TokenStream::peek(int count) const {
-    if (count == 0) return m_current;
-    if (count == 1 || failed()) return m_ahead;
-    Lexer lexer = m_lexer;
-    Token token = lexer.next();
-    for (int i = 2; i < count; ++i) token = lexer.next();
-    return token;
+void TokenStream::advance(std::size_t count) {
+    for (; count > 0; --count) advance();
 }
 
-bool TokenStream::isAtTerm(std::string_view words, int from) const {
-    for (int i = from; !words.empty(); ++i) {
-        const std::size_t end = std::min(words.find(' '), words.size());
-        const Token token = peek(i);
-        if (!token.is(TokenKind::identifier) || !equalIgnoringCase(token.text, words.substr(0, end)))
-            return false;
-        words.remove_prefix(std::min(end + 1, words.size()));
+const Token& TokenStream::peek(std::size_t count) const {
+    while (m_count <= count) m_window[(m_first + m_count++) % windowSize] = m_lexer.next();
+    return m_window[(m_first + count) % windowSize];
+}
+
+/// No further than the words are found: what stands behind them may not be a token.
+bool TokenStream::isAtWords(const Phrase& words, std::size_t from) const {
+    for (std::size_t i = 0; i < words.wordCount(); ++i) {
+        if (!words.hasWord(i, peek(from + i))) return false;
     }
     return true;
 }
 
-bool TokenStream::acceptTerm(std::string_view words) {
-    if (!isAtTerm(words)) return false;
-    for (auto count = std::count(words.begin(), words.end(), ' '); count >= 0; --count) advance();
-    return true;
-}
-
-bool TokenStream::accept(TokenKind kind) {
-    if (!isAt(kind)) return false;
-    advance();
-    return true;
-}
-
-bool TokenStream::accept(Word word) {
-    if (!isAt(word)) return false;
-    advance();
-    return true;
-}
-
-bool TokenStream::accept(Word first, Word second) {
-    if (!isAt(first, second)) return false;
-    advance();
-    advance();
-    return true;
-}
-
-void TokenStream::skipFiller() {
-    while (accept(Word::the)) {
-    }
-}
+bool TokenStream::acceptTerm(const Phrase& words) { return isAtTerm(words) && skip(words.wordCount()); }
 
 void TokenStream::expected(std::string_view what) {
     fail(errornumber::syntax, "Expected " + std::string(what) + " but found " + describeCurrent() + ".");
@@ -103,8 +64,8 @@ void TokenStream::expected(std::string_view what) {
 void TokenStream::fail(int number, std::string message, std::size_t offset) {
     if (failed()) return;
     m_error = ScriptError{number, std::move(message), locate(m_source, offset)};
-    m_current = Token{TokenKind::endOfScript, Word::none, m_source.substr(m_source.size())};
-    m_ahead = m_current;
+    m_window.fill(Token{TokenKind::endOfScript, Word::none, 0, m_source.substr(m_source.size())});
+    m_count = windowSize;
 }
 
 /// Tokens that are wrong wherever they stand.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -8,6 +9,7 @@
 #include <string_view>
 
 #include "platform/script/Lexer.h"
+#include "platform/script/Phrase.h"
 #include "platform/script/ScriptError.h"
 
 namespace script {
@@ -20,30 +22,37 @@ class TokenStream {
   public:
     explicit TokenStream(std::string_view source);
 
-    const Token& current() const { return m_current; }
-    const Token& ahead() const { return m_ahead; }
-    /// The token so many behind the current one.
-    Token peek(int count) const;
-    std::uint32_t offset() const { return offsetOf(m_current); }
+    const Token& current() const { return m_window[m_first]; }
+    const Token& ahead() const { return m_window[(m_first + 1) % windowSize]; }
+    /// The token so many behind the current one, at most maxAhead.
+    const Token& peek(std::size_t count) const;
+    std::uint32_t offset() const { return offsetOf(current()); }
     std::uint32_t offsetOf(const Token& token) const;
 
-    bool isAt(TokenKind kind) const { return m_current.is(kind); }
+    bool isAt(TokenKind kind) const { return current().is(kind); }
     /// Whether the current token is that word in a meaning that it has here.
-    bool isAt(Word word) const { return m_current.is(word) && means(word); }
+    bool isAt(Word word) const { return current().is(word) && means(word); }
     /// Whether the current two tokens are a term of two words.
-    bool isAt(Word first, Word second) const { return isAt(first) && m_ahead.is(second) && means(second); }
-    /// Whether the tokens from the one so many behind the current one on are these words, in lower case and
-    /// with one blank between them.
-    bool isAtTerm(std::string_view words, int from = 0) const;
+    bool isAt(Word first, Word second) const { return isAt(first) && ahead().is(second) && means(second); }
+    /// Whether the tokens from the one so many behind the current one on are these words.
+    bool isAtTerm(const Phrase& words, std::size_t from = 0) const {
+        return peek(from).hash == words.firstHash() && isAtWords(words, from);
+    }
+    /// Whether the first word of the term stands here, whatever follows.
+    bool isAtFirstWordOf(const Phrase& words) const { return words.hasWord(0, current()); }
     bool isAtLineEnd() const { return isAt(TokenKind::endOfLine) || isAt(TokenKind::endOfScript); }
 
     void advance();
-    bool accept(TokenKind kind);
-    bool accept(Word word);
-    bool accept(Word first, Word second);
-    bool acceptTerm(std::string_view words);
+    void advance(std::size_t count);
+    bool accept(TokenKind kind) { return isAt(kind) && skip(1); }
+    bool accept(Word word) { return isAt(word) && skip(1); }
+    bool accept(Word first, Word second) { return isAt(first, second) && skip(2); }
+    bool acceptTerm(const Phrase& words);
     /// `the` means nothing and may stand before any noun, also more than once.
-    void skipFiller();
+    void skipFiller() {
+        while (accept(Word::the)) {
+        }
+    }
 
     /// What an error says of the current token: "number", "“end tell”".
     std::string describe() const { return describeCurrent(); }
@@ -69,15 +78,26 @@ class TokenStream {
   private:
     friend class Nesting;
 
-    std::string describeCurrent() const { return describe(m_current, m_ahead); }
+    static constexpr std::size_t maxAhead = Phrase::maxWords;
+    static constexpr std::size_t windowSize = maxAhead + 1;
+
+    bool skip(std::size_t count) {
+        advance(count);
+        return true;
+    }
+    bool isAtWords(const Phrase& words, std::size_t from) const;
+    std::string describeCurrent() const { return describe(current(), ahead()); }
     std::string describe(const Token& token, const Token& ahead) const;
     std::string describeWord(const Token& token, const Token& ahead) const;
     void refuseFault();
 
     std::string_view m_source;
-    Lexer m_lexer;
-    Token m_current;
-    Token m_ahead;
+    /// Tokens further ahead are read when somebody looks at them, which is no change of the stream.
+    mutable Lexer m_lexer;
+    /// A ring: m_count tokens from m_first on, at least the current one and the one behind it.
+    mutable std::array<Token, windowSize> m_window;
+    mutable std::size_t m_count = 0;
+    std::size_t m_first = 0;
     std::optional<ScriptError> m_error;
     bool m_knowsTerms = false;
     int m_depth = 0;

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 
+#include "platform/script/SpellingIndex.h"
+
 namespace script {
 namespace {
 
@@ -168,48 +170,15 @@ constexpr bool isSorted() {
 }
 static_assert(isSorted(), "a word's row is found by its number");
 
-/// Lower case for letters; digits and the apostrophe stay, and no two characters of a word fall together.
-constexpr char lowered(char c) { return static_cast<char>(static_cast<unsigned char>(c) | 0x20U); }
-
-constexpr std::size_t slotCount = 512;
-static_assert(words.size() * 2 < slotCount, "a crowded table is slow to search");
-
-constexpr std::size_t slotOf(std::string_view text) {
-    std::uint32_t hash = 2166136261U;
-    for (const char c : text) hash = (hash ^ static_cast<unsigned char>(lowered(c))) * 16777619U;
-    return (hash ^ (hash >> 16U)) % slotCount;
-}
-
-constexpr std::array<Word, slotCount> hashed() {
-    std::array<Word, slotCount> slots{};
-    for (const Row& row : words) {
-        std::size_t slot = slotOf(row.spelling);
-        while (slots[slot] != Word::none) slot = (slot + 1) % slotCount;
-        slots[slot] = row.word;
-    }
-    return slots;
-}
-
-constexpr std::array<Word, slotCount> slots = hashed();
+constexpr SpellingIndex index(words);
 
 const Row& rowOf(Word word) { return words[static_cast<std::size_t>(word) - 1]; }
 
-bool equalIgnoringCase(std::string_view text, std::string_view spelling) {
-    if (text.size() != spelling.size()) return false;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (lowered(text[i]) != spelling[i]) return false;
-    }
-    return true;
-}
-
 }  // namespace
 
-Word wordOf(std::string_view text) {
-    std::size_t slot = slotOf(text);
-    while (slots[slot] != Word::none && !equalIgnoringCase(text, rowOf(slots[slot]).spelling)) {
-        slot = (slot + 1) % slotCount;
-    }
-    return slots[slot];
+Word wordOf(std::string_view text, std::uint32_t hash) {
+    const Row* row = index.find(text, hash);
+    return row == nullptr ? Word::none : row->word;
 }
 
 WordKind kindOf(Word word) { return rowOf(word).kind; }

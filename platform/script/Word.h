@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -167,9 +168,41 @@ enum class WordKind : std::uint8_t {
     term,
 };
 
-/// The word with this spelling; `none` if the language has none such. `text` holds ASCII letters, digits and
-/// underscores only.
-Word wordOf(std::string_view text);
+/// A number made from a spelling; case does not matter. Different spellings mostly have different numbers.
+class SpellingHash {
+  public:
+    constexpr SpellingHash() = default;
+    constexpr explicit SpellingHash(std::string_view text) {
+        for (const char c : text) add(c);
+    }
+
+    constexpr void add(char c) { m_value = (m_value ^ folded(c)) * 16777619U; }
+    constexpr std::uint32_t value() const { return m_value ^ (m_value >> 16U); }
+
+  private:
+    /// Lower case for letters. A few signs fall together, which a hash may do.
+    static constexpr std::uint32_t folded(char c) { return static_cast<unsigned char>(c) | 0x20U; }
+
+    std::uint32_t m_value = 2166136261U;
+};
+
+/// Whether the spellings differ in the case of ASCII letters at most.
+constexpr bool equalIgnoringCase(std::string_view left, std::string_view right) {
+    if (left.size() != right.size()) return false;
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        const char one = left[i];
+        const char other = right[i];
+        if (one == other) continue;
+        const auto letter = static_cast<char>(static_cast<unsigned char>(one) | 0x20U);
+        const bool sameLetter = letter == static_cast<char>(static_cast<unsigned char>(other) | 0x20U);
+        if (!sameLetter || letter < 'a' || letter > 'z') return false;
+    }
+    return true;
+}
+
+/// The word with this spelling; `none` if the language has none such. The hash is that of the text.
+Word wordOf(std::string_view text, std::uint32_t hash);
+inline Word wordOf(std::string_view text) { return wordOf(text, SpellingHash(text).value()); }
 
 /// The kind of a word other than `none`.
 WordKind kindOf(Word word);

@@ -136,7 +136,7 @@ std::string headOf(const script::Tree& tree, const Node& node) {
         case NodeKind::coercion:
             return "as " + std::string(script::typeName(static_cast<script::Type>(node.detail)));
         case NodeKind::command: {
-            std::string command(script::commands()[node.value]->name);
+            std::string command(script::commands()[node.value]->name.spelling());
             for (char& c : command) c = c == ' ' ? '-' : c;
             return command;
         }

@@ -25,7 +25,7 @@ TEST_P(CommandTest, doesWhatItsExamplesSay) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, CommandTest, testing::ValuesIn(script::commands()), [](const auto& row) {
-    std::string name(row.param->name);
+    std::string name(row.param->name.spelling());
     for (char& c : name) c = c == ' ' ? '_' : c;
     return name;
 });
@@ -39,8 +39,8 @@ TEST(ReferenceTest, theFileInTheDocumentsIsUpToDate) {
 
 TEST(ReferenceTest, everyCommandHasAManualButForSynonyms) {
     for (const script::Command* command : script::commands()) {
-        if (command->name == "number of") continue;
-        EXPECT_NE(command->manual.find("\n\n"), std::string_view::npos) << command->name;
+        if (command->name.spelling() == "number of") continue;
+        EXPECT_NE(command->manual.find("\n\n"), std::string_view::npos) << command->name.spelling();
     }
 }
 
