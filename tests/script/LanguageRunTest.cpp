@@ -8,7 +8,6 @@
 #include "script/Play.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"
-#include "x11/NestedServers.h"
 
 namespace {
 
@@ -46,39 +45,6 @@ TEST(LanguageRunTest, aScriptTypesExactlyItsText) {
     EXPECT_EQ(terminal.typed(expected.size()), expected);
     EXPECT_EQ(play.output(), "");
 }
-
-class CancelInLoopTest : public testing::TestWithParam<const char*> {};
-
-/// X key code of Escape.
-constexpr std::uint8_t escape = 9;
-
-TEST_P(CancelInLoopTest, escapeOnTheRealKeyboardEndsIt) {
-    const NestedServers servers;
-    const Terminal terminal(servers.display());
-    Play play(servers.display(), GetParam());
-    ASSERT_EQ(terminal.typed(1), "a") << play.output();
-    using Clock = std::chrono::steady_clock;
-    servers.user().press(escape);
-    servers.finish();
-    const auto pressed = Clock::now();
-    EXPECT_EQ(play.program().wait(), 1);
-    const std::chrono::duration<double> elapsed = Clock::now() - pressed;
-    servers.user().release(escape);
-    EXPECT_NE(play.output().find("execution error: User canceled. (-128)"), std::string::npos)
-        << play.output();
-    // Held for 0.3 s it counts.
-    EXPECT_LT(elapsed.count(), 0.3 + 0.5);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Loops, CancelInLoopTest,
-    testing::Values("tell application \"System Events\" to keystroke \"a\"\nrepeat\nend repeat\n",
-                    "tell application \"System Events\" to keystroke \"a\"\nset n to 0\nrepeat\ntry\n"
-                    "set n to n + 1\nerror \"x\"\non error\nset n to 0\nend try\nend repeat\n",
-                    "on f(n)\nif n = 0 then return 0\nreturn f(n - 1)\nend f\n"
-                    "tell application \"System Events\" to keystroke \"a\"\nrepeat\nf(100)\nend repeat\n",
-                    "tell application \"System Events\"\nkeystroke \"a\"\nrepeat\ndelay 0.05\nend repeat\n"
-                    "end tell\n"));
 
 TEST(ScriptDesktopTest, whatIsSetIsWhatAnotherProgramGets) {
     const XServer server;

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+//
+// What scripts do beside pressing keys: they bring windows to the front, sound the bell, fill the clipboard.
+// And a script file that the tray program plays.
+#include "desktop/DesktopTest.h"
+#include "script/FieldScript.h"
+#include "script/Play.h"
+#include "support/Editor.h"
+#include "x11/Bell.h"
+
+namespace {
+
+class ActivateTest : public testing::TestWithParam<std::tuple<WindowManager, const char*>> {
+  protected:
+    ActivateTest() { desktop.startWindowManager(std::get<WindowManager>(GetParam())); }
+
+    /// Two windows in the same place are one above the other.
+    static Terminal::Options at(const std::string& windowClass) {
+        return {.xterm = {"-class", windowClass, "-geometry", "60x20+100+100"}};
+    }
+    bool isAbove(const Terminal& upper, const Terminal& lower) const {
+        const auto windows = desktop.screen().windows();
+        const auto place = [&](const Terminal& terminal) {
+            return std::find_if(windows.begin(), windows.end(), [&](const ScreenWindow& window) {
+                return std::to_string(window.number) == terminal.window();
+            });
+        };
+        return place(upper) > place(lower);
+    }
+
+    Desktop desktop;
+};
+
+TEST_P(ActivateTest, theCoveredWindowComesToTheFrontAndGetsTheKeys) {
+    const Terminal covered(desktop.display(), at("Covered"));
+    const Terminal front(desktop.display(), at("Front"));
+    desktop.run({"xdotool", "windowactivate", "--sync", front.window()});
+    ASSERT_TRUE(eventually([&] { return isAbove(front, covered) && front.hasFocus(); }));
+    Play play(desktop.display(), std::string(std::get<const char*>(GetParam())) +
+                                     "\ntell application \"System Events\" to keystroke \"behind\"\n");
+    EXPECT_EQ(play.program().wait(), 0) << play.output();
+    EXPECT_EQ(covered.typed(6), "behind");
+    EXPECT_EQ(front.typed(), "");
+    EXPECT_TRUE(eventually([&] { return isAbove(covered, front); }));
+    EXPECT_EQ(std::to_string(desktop.screen().activeWindow()), covered.window());
+}
+
+INSTANTIATE_TEST_SUITE_P(Managers, ActivateTest,
+                         testing::Combine(testing::Values(WindowManager::openbox, WindowManager::xfwm4),
+                                          testing::Values("tell application \"Covered\" to activate",
+                                                          "activate application \"covered\"")),
+                         [](const auto& condition) {
+                             return nameOf(std::get<WindowManager>(condition.param)) +
+                                    (std::get<const char*>(condition.param)[0] == 't' ? "Told" : "Named");
+                         });
+
+TEST(BeepTest, anotherProgramHearsEachBell) {
+    const Desktop desktop;
+    Bell bell(desktop.display());
+    Play play(desktop.display(), "beep 3\nbeep\n");
+    EXPECT_EQ(play.program().wait(), 0) << play.output();
+    EXPECT_EQ(bell.rung(), 4);
+}
+
+class PasteTest : public testing::TestWithParam<Editor::Toolkit> {};
+
+// What is saved by a key right behind would be without it: programs ask for the clipboard and go on.
+TEST_P(PasteTest, aPasteTypedRightBehindFindsTheClipboard) {
+    const Desktop desktop;
+    const Editor editor(desktop.display(), GetParam());
+    Play play(desktop.display(),
+              "tell application \"System Events\"\nkeystroke \"a\"\n"
+              "set the clipboard to \"Größe 日本 😀\" & linefeed\nkeystroke \"v\" using control down\n"
+              "delay 0.5\nkeystroke \"z\"\nkeystroke \"s\" using control down\nend tell\n");
+    EXPECT_EQ(play.program().wait(), 0) << play.output();
+    const std::string expected = "aGröße 日本 😀\nz";
+    EXPECT_EQ(editor.saved(expected), expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Toolkits, PasteTest, testing::Values(Editor::Toolkit::gtk, Editor::Toolkit::qt),
+                         [](const auto& toolkit) {
+                             return toolkit.param == Editor::Toolkit::gtk ? "gtk" : "qt";
+                         });
+
+class PlayedFileTest : public DesktopTest, public testing::WithParamInterface<Editor::Toolkit> {};
+
+TEST_P(PlayedFileTest, theHotKeyPlaysItIntoAField) {
+    const Keyrill keyrill(desktop, std::string(fieldscript::source));
+    const Editor editor(desktop.display(), GetParam());
+    play();
+    EXPECT_EQ(editor.saved(fieldscript::inField()), fieldscript::inField());
+    EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
+}
+
+INSTANTIATE_TEST_SUITE_P(Toolkits, PlayedFileTest, testing::Values(Editor::Toolkit::gtk, Editor::Toolkit::qt),
+                         [](const auto& toolkit) {
+                             return toolkit.param == Editor::Toolkit::gtk ? "gtk" : "qt";
+                         });
+
+}  // namespace
