@@ -74,7 +74,8 @@ class KeyInjector {
     virtual void startPlayback() = 0;
 
     /// Whether the user has asked to stop since the playback started: Escape held for 0.3 s, or a hot key
-    /// that cancels playback.
+    /// that cancels playback. So it is when the desktop is gone, or a script that presses nothing any more
+    /// would outlive it.
     virtual bool isCancelled() = 0;
 
     /// Ends the playback as if the user had asked for it. Nothing where keys are only noted down.

@@ -60,8 +60,11 @@ script::RunResult run(const Source& source, const script::Program& program,
     machine.onLog([](const std::string& line) { std::cerr << line << "\n"; });
     script::RunResult result = machine.run();
     std::cout.flush();
-    if (result.error) report.executionError(*result.error);
     return result;
+}
+
+void tell(const Source& source, const script::RunResult& result) {
+    if (result.error) Report(source.name, source.text).executionError(*result.error);
 }
 
 int statusOf(const script::RunResult& result) { return result.error ? failed : succeeded; }
@@ -84,7 +87,9 @@ int traceScript(const ScriptInput& input) {
     script::TraceInjector injector(std::cout);
     script::TraceDesktop desktop(std::cout);
     script::TraceDialogs dialogs(std::cout);
-    return statusOf(run(*source, *program, {injector, desktop, dialogs}));
+    const script::RunResult result = run(*source, *program, {injector, desktop, dialogs});
+    tell(*source, result);
+    return statusOf(result);
 }
 
 int formatScript(const ScriptInput& input) {
@@ -112,6 +117,11 @@ int runScript(const ScriptInput& input) {
     TerminalDialogs dialogs;
     const script::RunResult result =
         run(*source, *program, {playback.value()->injector(), playback.value()->desktop(), dialogs});
+    if (result.end == script::RunEnd::cancelled && playback.value()->isLost()) {
+        reportError("", {"The X server is gone.", ""});
+    } else {
+        tell(*source, result);
+    }
     if (!input.lines.empty() && !result.value.empty()) std::cout << result.value << std::endl;
     const int signalNumber = playback.value()->signalNumber();
     playback.value().reset();

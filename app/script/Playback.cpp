@@ -61,6 +61,7 @@ class X11Playback final : public Playback {
     KeyInjector& injector() override { return m_injector; }
     ScriptDesktop& desktop() override { return *m_desktop; }
     int signalNumber() const override { return known().received; }
+    bool isLost() const override { return m_events->isBroken(); }
 
   private:
     std::unique_ptr<SteadyClock> m_clock;

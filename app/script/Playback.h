@@ -24,4 +24,6 @@ class Playback {
     virtual ScriptDesktop& desktop() = 0;
     /// The signal that ended the run; 0 if none came.
     virtual int signalNumber() const = 0;
+    /// Whether the session is gone, which ends the run as a wish of the user's does.
+    virtual bool isLost() const = 0;
 };

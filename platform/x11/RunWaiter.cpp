@@ -21,7 +21,7 @@ timespec timeTo(Clock::Time until, Clock::Time now) {
 
 RunState RunWaiter::look() {
     m_watch.drain();
-    const bool ends = m_isLost || m_interrupt.isRaised() || m_watch.isCancelled();
+    const bool ends = m_isLost || m_watch.isLost() || m_interrupt.isRaised() || m_watch.isCancelled();
     return ends ? RunState::cancelled : RunState::going;
 }
 

@@ -35,6 +35,8 @@ class RunWatch {
     /// Whether the user has asked to stop since then: a hot key that cancels, or Escape of a real keyboard
     /// held for 0.3 s. As of the last drain(), and of the clock.
     virtual bool isCancelled() const = 0;
+    /// Whether the X server is gone. As of the last drain().
+    virtual bool isLost() const = 0;
     /// When a held Escape will have become a wish to stop; empty while it is up.
     virtual std::optional<Clock::Time> cancelDeadline() const = 0;
 

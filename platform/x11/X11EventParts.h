@@ -28,6 +28,7 @@ class X11EventManager::Parts final : public RunWatch {
     void startPlayback() override { m_cancel.start(); }
     void stopPlayback() override { m_cancel.cancel(); }
     bool isCancelled() const override { return m_cancel.isCancelled(); }
+    bool isLost() const override { return isBroken(); }
     std::optional<Clock::Time> cancelDeadline() const override { return m_cancel.deadline(); }
     bool takeModifierPress() override { return m_interpreter.takeModifierPress(); }
     void endHotKeyGrab() override;

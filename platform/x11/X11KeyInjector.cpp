@@ -97,7 +97,7 @@ void X11KeyInjector::startPlayback() {
 
 bool X11KeyInjector::isCancelled() {
     m_watch.drain();
-    return m_parts->interrupt.isRaised() || m_watch.isCancelled();
+    return m_parts->interrupt.isRaised() || m_watch.isCancelled() || m_watch.isLost();
 }
 
 void X11KeyInjector::stopPlayback() { m_watch.stopPlayback(); }
