@@ -51,6 +51,18 @@ Utf8Character firstCharacter(std::string_view text) {
     return none;
 }
 
+char32_t takeCharacter(std::string_view text, std::size_t& position) {
+    const auto first = static_cast<unsigned char>(text[position++]);
+    if (first < 0x80U) return first;
+    int more = 1;
+    if (first >= 0xE0U) more = first >= 0xF0U ? 3 : 2;
+    char32_t character = first & (0x3FU >> static_cast<unsigned>(more));
+    for (; more > 0 && position < text.size(); --more) {
+        character = (character << 6U) | (static_cast<unsigned char>(text[position++]) & 0x3FU);
+    }
+    return character;
+}
+
 std::optional<std::size_t> invalidUtf8(std::string_view bytes) {
     std::size_t position = skipAscii(bytes, 0);
     while (position < bytes.size()) {

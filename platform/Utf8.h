@@ -24,6 +24,10 @@ constexpr bool isUtf8Continuation(char byte) { return (static_cast<std::uint8_t>
 /// no characters (RFC 3629).
 Utf8Character firstCharacter(std::string_view text);
 
+/// The code of the character that begins at a byte of a text that is known to be UTF-8, and moves behind it.
+/// Quicker, because nothing is checked but the end of the text.
+char32_t takeCharacter(std::string_view text, std::size_t& position);
+
 /// The offset of the first byte that begins no character; empty if all is UTF-8.
 std::optional<std::size_t> invalidUtf8(std::string_view bytes);
 

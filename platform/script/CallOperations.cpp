@@ -71,20 +71,16 @@ Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) 
 void call(Execution& run, const Instruction& here) {
     const Call& what = run.program().calls[here.operand];
     const Value target = here.detail != 0 ? *(run.topValues(what.count + 1)) : run.target();
-    const auto& handlers = run.program().handlers;
-    const auto found = std::find_if(handlers.begin() + 1, handlers.end(),
-                                    [&](const Handler& handler) { return handler.name == what.name; });
     const bool isScript = target.target() != nullptr && target.target()->kind == TargetBody::Kind::script;
-    if (!isScript || found == handlers.end()) {
-        return run.fail(
-            notUnderstood(target, run.name(what.name).spelling, !isScript && found != handlers.end()));
+    if (!isScript || what.handler == 0) {
+        return run.fail(notUnderstood(target, run.name(what.name).spelling, !isScript && what.handler != 0));
     }
     if (here.detail != 0) {
         List arguments = run.popList(what.count);
         run.drop();
         for (Value& argument : arguments) run.push(std::move(argument));
     }
-    callHandler(run, what, static_cast<std::uint32_t>(found - handlers.begin()));
+    callHandler(run, what, what.handler);
 }
 
 void command(Execution& run, const Instruction& here) {

@@ -15,7 +15,9 @@ NodeId CallParser::positional() {
     m_terms.setAllowsIn(true);
     ChildList arguments(m_tree, node);
     if (!m_tokens.accept(TokenKind::rightParenthesis)) {
+        std::uint32_t count = 0;
         do {
+            countParameter(count);
             arguments.append(argument(0));
         } while (m_tokens.accept(TokenKind::comma));
         if (!m_tokens.accept(TokenKind::rightParenthesis)) m_tokens.expected("“,” or “)”");
@@ -40,17 +42,26 @@ NodeId CallParser::labelled() {
 
 void CallParser::labelledArguments(NodeId call) {
     ChildList arguments(m_tree, call);
+    std::uint32_t count = 0;
     while (m_tokens.isAt(Word::of) || isLabelWord(m_tokens.current().word)) {
+        countParameter(count);
         const NameId label = labelHere();
         arguments.append(argument(label));
     }
     if (!m_tokens.accept(Word::given)) return;
     do {
         if (!m_terms.expectName()) return;
+        countParameter(count);
         const NameId label = m_terms.nameHere();
         if (!m_tokens.accept(TokenKind::colon)) m_tokens.expected("“:”");
         arguments.append(argument(label));
     } while (m_tokens.accept(TokenKind::comma));
+}
+
+void CallParser::countParameter(std::uint32_t& count) {
+    if (++count <= maxParameters) return;
+    m_tokens.fail(errornumber::syntax,
+                  "Expected at most " + std::to_string(maxParameters) + " parameters but found more.");
 }
 
 bool CallParser::isLabelWord(Word word) {

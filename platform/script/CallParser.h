@@ -22,6 +22,9 @@ class CallParser {
     CallParser(TokenStream& tokens, Tree& tree, TermParser& terms, std::string_view source)
         : m_tokens(tokens), m_tree(tree), m_terms(terms), m_source(source) {}
 
+    /// The most parameters of a handler, and arguments of a call: labels are compared one with another.
+    static constexpr std::uint32_t maxParameters = 1000;
+
     NodeId positional();
     NodeId labelled();
     /// Whether the script has a handler of the name that is not called with parentheses.
@@ -31,6 +34,9 @@ class CallParser {
     static bool isLabelWord(Word word);
     /// The label here, moving behind it: a preposition of one or two words.
     NameId labelHere();
+
+    /// Fails where there are more than that.
+    void countParameter(std::uint32_t& count);
 
   private:
     void labelledArguments(NodeId call);

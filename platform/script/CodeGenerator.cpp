@@ -19,6 +19,7 @@ Program CodeGenerator::generate() {
         const Node& node = m_tree.at(id);
         if (node.kind == NodeKind::handler && !isRun(node)) handler(node);
     }
+    resolveCalls();
     program.globals = m_out.script().names();
     return std::move(program);
 }
@@ -145,7 +146,7 @@ void CodeGenerator::handler(const Node& node) {
 
 /// The slots of all parameters come first; those that are lists of names are then taken apart.
 void CodeGenerator::parameters(const Node& node, Handler& handler, Scope& scope) {
-    std::vector<NameId> seen;
+    std::set<NameId> seen;
     std::vector<std::pair<std::uint32_t, const Node*>> patterns;
     for (NodeId id = node.firstChild; m_tree.at(id).kind == NodeKind::parameter;
          id = m_tree.at(id).nextSibling) {
@@ -167,19 +168,29 @@ void CodeGenerator::parameters(const Node& node, Handler& handler, Scope& scope)
     }
 }
 
-void CodeGenerator::parameterName(NodeId pattern, std::vector<NameId>& seen) {
+void CodeGenerator::parameterName(NodeId pattern, std::set<NameId>& seen) {
     const Node& node = m_tree.at(pattern);
     if (node.kind == NodeKind::list) {
         for (NodeId id = node.firstChild; id != noNode; id = m_tree.at(id).nextSibling)
             parameterName(id, seen);
         return;
     }
-    if (std::find(seen.begin(), seen.end(), node.value) != seen.end()) {
+    if (!seen.insert(node.value).second) {
         m_out.fail(errornumber::parameterTwice,
                    "The " + m_tree.names.at(node.value).spelling + " parameter is specified more than once.",
                    node.offset);
     }
-    seen.push_back(node.value);
+}
+
+/// Handlers may be called before they stand.
+void CodeGenerator::resolveCalls() {
+    Program& program = m_out.program();
+    std::unordered_map<NameId, std::uint32_t> indices;
+    for (std::uint32_t i = 1; i < program.handlers.size(); ++i) indices.emplace(program.handlers[i].name, i);
+    for (Call& call : program.calls) {
+        const auto found = indices.find(call.name);
+        if (found != indices.end()) call.handler = found->second;
+    }
 }
 
 /// A handler that comes to its end gives the value of its last statement.

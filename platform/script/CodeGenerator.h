@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <set>
 #include <string_view>
 #include <unordered_map>
 
@@ -31,7 +32,8 @@ class CodeGenerator {
     void runPart();
     void handler(const Node& node);
     void parameters(const Node& node, Handler& handler, Scope& scope);
-    void parameterName(NodeId pattern, std::vector<NameId>& seen);
+    void parameterName(NodeId pattern, std::set<NameId>& seen);
+    void resolveCalls();
     void finish(Handler handler, const Scope& scope, std::uint32_t enter);
     bool isRun(const Node& node) const;
 

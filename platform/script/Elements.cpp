@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "platform/Utf8.h"
 #include "platform/script/Characters.h"
 #include "platform/script/Coercion.h"
 #include "platform/script/Spelling.h"

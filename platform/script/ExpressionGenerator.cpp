@@ -260,7 +260,7 @@ void ExpressionGenerator::referenceTo(const Node& node) {
 }
 
 void ExpressionGenerator::call(const Node& node, bool hasTarget) {
-    Call call{node.value, node.detail != 0, {}, 0};
+    Call call{node.value, node.detail != 0};
     for (NodeId id = node.firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
         expression(m_tree.at(id).firstChild);
         call.labels.push_back(m_tree.at(id).value);

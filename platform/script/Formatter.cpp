@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "platform/script/Command.h"
@@ -140,6 +141,8 @@ class Layout {
     }
 
     void endLine() {
+        // A line that is joined with an empty one stays apart from what follows.
+        if (std::exchange(m_isJoined, false)) m_line += '\n';
         // At most one empty line in a row, and none at the beginning.
         const bool isSpare = m_line.empty() && (m_out.empty() || m_out.ends_with("\n\n"));
         if (!isSpare) m_out += m_line + "\n";
@@ -155,6 +158,7 @@ class Layout {
             begin(static_cast<std::size_t>(between.data() - m_source.data()) +
                   static_cast<std::size_t>(piece.text.empty() ? 0 : piece.text.data() - between.data()));
             if (piece.kind == Piece::Kind::continuation) {
+                breakJoined();
                 separate();
                 m_line += continuationSign;
                 m_isJoined = true;

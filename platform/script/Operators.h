@@ -35,10 +35,10 @@ enum class Grouping : std::uint8_t { left, right, none };
 /// A row of the precedence table: what the operator looks like, how tightly it binds and how it groups.
 struct OperatorRow {
     Phrase spelling;
-    BinaryOperator operation;
-    bool isNegated;
-    int level;  ///< higher binds tighter
-    Grouping grouping;
+    BinaryOperator operation = BinaryOperator::power;
+    bool isNegated = false;
+    int level = 0;  ///< higher binds tighter
+    Grouping grouping = Grouping::left;
     /// Of an operator that is a sign, however that is spelled.
     TokenKind sign = TokenKind::identifier;
 };

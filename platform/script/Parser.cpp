@@ -78,20 +78,25 @@ void Parser::runParameters(ChildList& children) {
 void Parser::positionalParameters(ChildList& children) {
     m_tokens.advance();
     if (m_tokens.accept(TokenKind::rightParenthesis)) return;
+    std::uint32_t count = 0;
     do {
+        m_terms.calls().countParameter(count);
         children.append(parameter(0));
     } while (m_tokens.accept(TokenKind::comma));
     if (!m_tokens.accept(TokenKind::rightParenthesis)) m_tokens.expected("“,” or “)”");
 }
 
 void Parser::labelledParameters(ChildList& children) {
+    std::uint32_t count = 0;
     while (m_tokens.isAt(Word::of) || CallParser::isLabelWord(m_tokens.current().word)) {
+        m_terms.calls().countParameter(count);
         const NameId label = m_terms.calls().labelHere();
         children.append(parameter(label));
     }
     if (!m_tokens.accept(Word::given)) return;
     do {
         if (!m_terms.expectName()) return;
+        m_terms.calls().countParameter(count);
         const NameId label = m_terms.nameHere();
         if (!m_tokens.accept(TokenKind::colon)) m_tokens.expected("“:”");
         children.append(parameter(label));

@@ -115,8 +115,9 @@ struct Handler {
 struct Call {
     NameId name = 0;
     bool isLabelled = false;
-    std::vector<NameId> labels;  ///< one for each argument
+    std::vector<NameId> labels = {};  ///< one for each argument
     std::uint32_t count = 0;
+    std::uint32_t handler = 0;  ///< its index; 0, which is never called, if the script has none
 };
 
 /// A compiled script, on its own: the source is kept for the places of errors.

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/Utf8.h"
 #include "platform/script/Coercion.h"
 #include "platform/script/Dates.h"
 #include "platform/script/Elements.h"
@@ -84,12 +85,12 @@ struct DatePart {
     std::int64_t CalendarParts::*part;
 };
 
-const std::array<DatePart, 6> dateParts{{{&names::year, &CalendarParts::year},
-                                         {&names::month, &CalendarParts::month},
-                                         {&names::day, &CalendarParts::day},
-                                         {&names::hours, &CalendarParts::hours},
-                                         {&names::minutes, &CalendarParts::minutes},
-                                         {&names::seconds, &CalendarParts::seconds}}};
+constexpr std::array<DatePart, 6> dateParts{{{&names::year, &CalendarParts::year},
+                                             {&names::month, &CalendarParts::month},
+                                             {&names::day, &CalendarParts::day},
+                                             {&names::hours, &CalendarParts::hours},
+                                             {&names::minutes, &CalendarParts::minutes},
+                                             {&names::seconds, &CalendarParts::seconds}}};
 
 /// False if the date has no such part, or would leave the calendar.
 bool setDatePart(DateBody& date, const Name& name, std::int64_t number) {

@@ -12,11 +12,11 @@ namespace script {
 
 /// Finds rows of a table by their member `spelling`, in any case of letters. Made when compiling; the table
 /// outlives it.
-template <typename Row, std::size_t Count>
+template <typename Row, std::size_t count>
 class SpellingIndex {
   public:
-    constexpr explicit SpellingIndex(const std::array<Row, Count>& rows) : m_rows(rows) {
-        for (std::size_t row = 0; row < Count; ++row) {
+    constexpr explicit SpellingIndex(const std::array<Row, count>& rows) : m_rows(rows) {
+        for (std::size_t row = 0; row < count; ++row) {
             std::size_t slot = slotOf(SpellingHash(rows[row].spelling).value());
             while (m_slots[slot] != 0) slot = (slot + 1) % slotCount;
             m_slots[slot] = static_cast<std::uint8_t>(row + 1);
@@ -33,13 +33,13 @@ class SpellingIndex {
     }
 
   private:
-    static_assert(Count < 256, "a slot holds the row in one byte");
+    static_assert(count < 256, "a slot holds the row in one byte");
 
     /// A crowded table is slow to search.
     static constexpr std::size_t slotCount = 1024;
     static constexpr std::size_t slotOf(std::uint32_t hash) { return hash % slotCount; }
 
-    const std::array<Row, Count>& m_rows;
+    const std::array<Row, count>& m_rows;
     /// The row and one more; 0 is empty.
     std::array<std::uint8_t, slotCount> m_slots{};
 };

@@ -4,16 +4,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Utf8.h"
 #include "platform/script/Characters.h"
 
 namespace script {
 namespace {
-
-/// A text as it is compared: what is ignored is left out, and each character remembers where it stood.
-struct Folded {
-    std::u32string characters;
-    std::vector<std::size_t> offsets;  ///< one more than characters: the end
-};
 
 bool isIgnored(char32_t character, const TextRules& rules) {
     if (!rules.considers(attribute::hyphens) && isHyphen(character)) return true;
@@ -21,20 +16,50 @@ bool isIgnored(char32_t character, const TextRules& rules) {
     return !rules.considers(attribute::whiteSpace) && isWhiteSpace(character);
 }
 
+/// Reads a text as it is compared: what is ignored is left out.
+class FoldedReader {
+  public:
+    FoldedReader(std::string_view text, const TextRules& rules) : m_text(text), m_rules(rules) {}
+
+    /// Moves to the next character that counts; false at the end.
+    bool next() {
+        while (m_position < m_text.size()) {
+            m_offset = m_position;
+            m_character = takeCharacter(m_text, m_position);
+            if (isIgnored(m_character, m_rules)) continue;
+            if (!m_rules.considers(attribute::letterCase)) m_character = lowered(m_character);
+            if (!m_rules.considers(attribute::diacriticals)) m_character = withoutAccents(m_character);
+            if (m_character != 0) return true;
+        }
+        return false;
+    }
+
+    char32_t character() const { return m_character; }
+    /// Where it stands in the text.
+    std::size_t offset() const { return m_offset; }
+
+  private:
+    std::string_view m_text;
+    const TextRules& m_rules;
+    std::size_t m_position = 0;
+    std::size_t m_offset = 0;
+    char32_t m_character = 0;
+};
+
+/// A whole text as it is compared; each character remembers where it stood.
+struct Folded {
+    std::u32string characters;
+    std::vector<std::size_t> offsets;  ///< one more than characters: the end
+};
+
 Folded folded(std::string_view text, const TextRules& rules) {
     Folded result;
     result.characters.reserve(text.size());
     result.offsets.reserve(text.size() + 1);
-    std::size_t position = 0;
-    while (position < text.size()) {
-        const std::size_t start = position;
-        char32_t character = takeCharacter(text, position);
-        if (isIgnored(character, rules)) continue;
-        if (!rules.considers(attribute::letterCase)) character = lowered(character);
-        if (!rules.considers(attribute::diacriticals)) character = withoutAccents(character);
-        if (character == 0) continue;
-        result.characters += character;
-        result.offsets.push_back(start);
+    FoldedReader reader(text, rules);
+    while (reader.next()) {
+        result.characters += reader.character();
+        result.offsets.push_back(reader.offset());
     }
     result.offsets.push_back(text.size());
     return result;
@@ -145,10 +170,17 @@ class DelimiterFinder {
 }  // namespace
 
 int compareTexts(std::string_view left, std::string_view right, const TextRules& rules) {
-    const std::u32string one = folded(left, rules).characters;
-    const std::u32string other = folded(right, rules).characters;
-    if (rules.considers(attribute::numericStrings)) return compareNumeric(one, other);
-    return one.compare(other);
+    if (rules.considers(attribute::numericStrings)) {
+        return compareNumeric(folded(left, rules).characters, folded(right, rules).characters);
+    }
+    FoldedReader one(left, rules);
+    FoldedReader other(right, rules);
+    for (;;) {
+        const bool hasOne = one.next();
+        const bool hasOther = other.next();
+        if (!hasOne || !hasOther) return static_cast<int>(hasOne) - static_cast<int>(hasOther);
+        if (one.character() != other.character()) return sign(one.character() < other.character());
+    }
 }
 
 std::optional<Stretch> findText(std::string_view text, std::string_view part, std::size_t from,
@@ -161,9 +193,12 @@ std::optional<Stretch> findText(std::string_view text, std::string_view part, st
 }
 
 bool textStartsWith(std::string_view text, std::string_view part, const TextRules& rules) {
-    const std::u32string whole = folded(text, rules).characters;
-    const std::u32string beginning = folded(part, rules).characters;
-    return whole.compare(0, beginning.size(), beginning) == 0;
+    FoldedReader whole(text, rules);
+    FoldedReader beginning(part, rules);
+    while (beginning.next()) {
+        if (!whole.next() || whole.character() != beginning.character()) return false;
+    }
+    return true;
 }
 
 bool textEndsWith(std::string_view text, std::string_view part, const TextRules& rules) {
@@ -188,18 +223,6 @@ std::vector<Stretch> textItemsOf(std::string_view text, const TextRules& rules) 
     }
     items.push_back({start, text.size()});
     return items;
-}
-
-char32_t takeCharacter(std::string_view text, std::size_t& position) {
-    const auto first = static_cast<unsigned char>(text[position++]);
-    if (first < 0x80U) return first;
-    int more = 1;
-    if (first >= 0xE0U) more = first >= 0xF0U ? 3 : 2;
-    char32_t character = first & (0x3FU >> static_cast<unsigned>(more));
-    for (; more > 0 && position < text.size(); --more) {
-        character = (character << 6U) | (static_cast<unsigned char>(text[position++]) & 0x3FU);
-    }
-    return character;
 }
 
 }  // namespace script

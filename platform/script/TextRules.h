@@ -52,7 +52,4 @@ bool textEndsWith(std::string_view text, std::string_view part, const TextRules&
 /// Where the text items of a text lie.
 std::vector<Stretch> textItemsOf(std::string_view text, const TextRules& rules);
 
-/// The character that begins at the byte; moves behind it. The text is valid UTF-8.
-char32_t takeCharacter(std::string_view text, std::size_t& position);
-
 }  // namespace script

@@ -168,6 +168,29 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"many", "repeat 5000 times\nset x to {1}\nset end of x to x\nend\n1", "1"}),
     nameOf);
 
+/// As many of them, numbered, with commas between.
+std::string listed(int count, const std::string& name, const std::string& behind = "") {
+    std::string text;
+    for (int i = 0; i < count; ++i) text += (i > 0 ? ", " : "") + name + std::to_string(i) + behind;
+    return text;
+}
+
+const std::string tooManyParameters = "-2741 Expected at most 1000 parameters but found more.";
+
+INSTANTIATE_TEST_SUITE_P(
+    Parameters, BoundsTest,
+    testing::Values(Row{"asManyAsMayBe",
+                        "on f(" + listed(1000, "a") + ")\na999\nend\nf(" + listed(1000, "") + ")", "999"},
+                    Row{"tooMany", "on f(" + listed(1001, "a") + ")\nend", tooManyParameters},
+                    Row{"tooManyLabelled", "on f given " + listed(1001, "l", ":x") + "\nend",
+                        tooManyParameters},
+                    Row{"tooManyArguments", "f(" + listed(1001, "") + ")", tooManyParameters},
+                    Row{"namesInAPattern", "on f({" + listed(20000, "a") + "})\na1\nend\nf({7, 8, 9})",
+                        "-1728 Can’t get item 4 of {7, 8, 9}."},
+                    Row{"namesInAPatternTwice", "on f({" + listed(20000, "a") + ", a5})\nend",
+                        "-2750 The a5 parameter is specified more than once."}),
+    nameOf);
+
 /// How deep handlers call each other, and how large texts and lists become.
 INSTANTIATE_TEST_SUITE_P(
     Growth, BoundsTest,

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "platform/Utf8.h"
 #include "platform/script/Coercion.h"
 #include "platform/script/ScriptError.h"
 #include "platform/script/TextRules.h"
