@@ -52,7 +52,10 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
     connectMenu();
 }
 
-AppController::~AppController() = default;
+AppController::~AppController() {
+    // A sheet that is still open is answered when its panel goes, and answers need the whole controller.
+    m_preferencesWindow.reset();
+}
 
 // What observes the closing of panels is connected where they are built.
 void AppController::awakeFromNib() {

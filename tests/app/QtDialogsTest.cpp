@@ -109,10 +109,11 @@ class SheetTest : public testing::Test {
     }
     ~SheetTest() override { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
+    std::vector<AlertAnswer> answers;
+    // An open sheet answers when its panel goes.
     std::unique_ptr<QWidget> panel = std::make_unique<QWidget>();
     QtDialogs dialogs;
     AlertSheet* sheet = nullptr;
-    std::vector<AlertAnswer> answers;
 };
 
 TEST_F(SheetTest, blocksItsPanelOnlyAndReturnsAtOnce) {
