@@ -57,8 +57,9 @@ Result<ScriptAnswer> TerminalDialogs::ask(const ScriptDialog& dialog) {
 
 Result<void> TerminalDialogs::notify(const ScriptNotification& notification) {
     std::fstream terminal("/dev/tty");
-    if (terminal)
+    if (terminal) {
         terminal << notification.title << (notification.title.empty() ? "" : ": ") << notification.text
                  << "\n";
+    }
     return {};
 }

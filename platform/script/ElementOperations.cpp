@@ -56,9 +56,13 @@ bool choose(Execution& run, const Value& container, Element& element) {
     return true;
 }
 
-std::size_t sizeOf(const Value& value) {
-    const auto* text = value.as<Text>();
-    return text == nullptr || text->isAscii() ? 0 : text->str().size() / 16;
+/// Texts are cut up to find an element, unless each character has one byte; of lists what is asked for is
+/// copied.
+void workFor(Execution& run, const Value& container, const Element& element) {
+    const auto* text = container.as<Text>();
+    if (text != nullptr && !text->isAscii()) return run.work(text->str().size() / 16);
+    const bool isOne = element.form == ElementForm::index || element.form == ElementForm::middle;
+    if (!isOne || element.kind == ElementKind::typed) run.workOn(container);
 }
 
 void getElement(Execution& run, const Instruction& here) {
@@ -66,7 +70,7 @@ void getElement(Execution& run, const Instruction& here) {
     if (!takeIndices(run, element)) return;
     const Value container = run.popResolved();
     if (run.hasFailed() || !choose(run, container, element)) return;
-    run.work(sizeOf(container));
+    workFor(run, container, element);
     if (container.target() != nullptr && container.target()->kind == TargetBody::Kind::script) {
         return run.fail(cannotGet(spelled(element)));
     }
@@ -112,6 +116,7 @@ void getProperty(Execution& run, const Instruction& here) {
     const Name& name = run.name(here.operand);
     const Value container = run.popResolved();
     if (run.hasFailed()) return;
+    if (&name != &names::length && &name != &names::beginning && &name != &names::end) run.workOn(container);
     if (!isScript(container) || &name == &names::classProperty)
         return run.pushOrFail(propertyOf(container, name));
     const Value* variable = run.findGlobal(name);
@@ -130,6 +135,7 @@ void setPropertyOperation(Execution& run, const Instruction& here) {
         *variable = value;
         return;
     }
+    if (&name == &names::beginning) run.workOn(container);
     if (std::optional<Failure> failure = setProperty(container, name, value))
         return run.fail(*std::move(failure));
     if (isContainer(value)) run.holdsContainer(container);

@@ -112,6 +112,11 @@ Value* Execution::findGlobal(const Name& wanted) {
     return nullptr;
 }
 
+void Execution::workOn(const Value& value) {
+    if (const std::string* text = value.text()) m_work += text->size() / 64;
+    if (const List* list = value.list()) m_work += list->size() / 4;
+}
+
 void Execution::askWhetherToStop() {
     m_work = 0;
     if (std::optional<Failure> wish = stopWish()) fail(*std::move(wish));

@@ -94,6 +94,8 @@ class Execution : public CommandStage {
     void jump(std::uint32_t target) { m_next = target; }
     /// What is done beside the instruction itself counts as work, too.
     void work(std::size_t amount) { m_work += amount; }
+    /// All of a value is looked at or copied.
+    void workOn(const Value& value);
     /// The arguments lie on top of the stack already.
     void enterHandler(std::uint32_t index, std::size_t arguments);
     /// Variables without a value yet, behind the arguments.

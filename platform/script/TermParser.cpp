@@ -71,37 +71,31 @@ NodeId TermParser::term() {
     if (const NodeId node = constantTerm(); node != noNode) return node;
     if (m_elements.isAtElement()) return m_elements.element();
     if (m_tokens.failed() || refuseForbidden()) return noNode;
-    if (m_tokens.isAtTerm("a reference") || m_tokens.isAt(Word::ref) || m_tokens.isAt(Word::reference)) {
-        return referenceTo();
-    }
+    if (m_tokens.isAt(Word::ref) || m_tokens.isAt(Word::reference)) return referenceTo();
     if (const auto command = commandHere()) return m_commands.command(*command);
+    if (refuseIncompleteCommand()) return noNode;
     const Word word = m_tokens.current().word;
-    if (word == Word::display && m_tokens.ahead().is(TokenKind::identifier)) {
-        m_tokens.advance();
-        m_tokens.expected("“dialog”, “alert” or “notification”");
-        return noNode;
-    }
     if (word == Word::script) return known(scriptTerm());
-    if ((word == Word::application || word == Word::app) && m_tokens.ahead().is(TokenKind::text)) {
-        return application();
-    }
-    if ((word == Word::application || word == Word::app) && m_tokens.isAtTerm("id", 1)) return application();
+    if (isAtApplication()) return application();
     if (isAtProcess()) return process();
-    if (m_tokens.means(word) && kindOf(word) == WordKind::reserved) {
-        m_tokens.expected("expression");
-        return noNode;
-    }
-    if (m_tokens.means(word) && find(modifierWords, word) != nullptr) return modifierConstant();
-    if (m_tokens.means(word) && kindOf(word) == WordKind::term) {
-        if (m_tokens.isAt(Word::key)) {
-            m_tokens.advance();
-            m_tokens.expected("“code”, “down” or “up”");
-        } else {
-            m_tokens.expected("expression");
-        }
-        return noNode;
-    }
-    return nameTerm();
+    if (!m_tokens.means(word) || kindOf(word) == WordKind::special) return nameTerm();
+    if (find(modifierWords, word) != nullptr) return modifierConstant();
+    m_tokens.expected("expression");
+    return noNode;
+}
+
+bool TermParser::isAtApplication() const {
+    if (!m_tokens.isAt(Word::application) && !m_tokens.isAt(Word::app)) return false;
+    return m_tokens.ahead().is(TokenKind::text) || m_tokens.isAtTerm("id", 1);
+}
+
+/// The first word of commands, and none of their second ones behind it.
+bool TermParser::refuseIncompleteCommand() {
+    const bool isKey = m_tokens.isAt(Word::key);
+    if (!isKey && !(m_tokens.isAt(Word::display) && m_tokens.ahead().is(TokenKind::identifier))) return false;
+    m_tokens.advance();
+    m_tokens.expected(isKey ? "“code”, “down” or “up”" : "“dialog”, “alert” or “notification”");
+    return true;
 }
 
 std::optional<std::uint32_t> TermParser::commandHere() const {

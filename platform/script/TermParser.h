@@ -72,7 +72,9 @@ class TermParser {
     NodeId property();
     NodeId contents();
     NodeId delimiters();
+    bool isAtApplication() const;
     bool refuseForbidden();
+    bool refuseIncompleteCommand();
 
     TokenStream& m_tokens;
     Tree& m_tree;

@@ -145,6 +145,7 @@ class DeepCopy {
 void deepCopy(Execution& run, const Instruction& /*unused*/) {
     const Value value = run.popResolved();
     if (run.hasFailed()) return;
+    run.workOn(value);
     DeepCopy copy;
     run.push(copy(value));
     copy.forEachOfCycles([&](const Value& container) { run.holdsContainer(container); });
@@ -217,19 +218,13 @@ Fallible<Value> evaluated(BinaryOperator operation, const Value& left, const Val
     }
 }
 
-/// What an operation on values of these sizes costs beside a plain one.
-std::size_t sizeOf(const Value& value) {
-    if (const std::string* text = value.text()) return text->size() / 64;
-    if (const List* list = value.list()) return list->size() / 4;
-    return 0;
-}
-
 void binary(Execution& run, const Instruction& here) {
     const auto operation = static_cast<BinaryOperator>(here.detail);
     // References are compared as what they are.
     if (operation != BinaryOperator::equal && !run.resolveTop(2)) return;
     Fallible<Value> outcome = evaluated(operation, run.top(1), run.top(), run.textRules());
-    run.work(sizeOf(run.top(1)) + sizeOf(run.top()));
+    run.workOn(run.top(1));
+    run.workOn(run.top());
     if (auto* failure = std::get_if<Failure>(&outcome)) return run.fail(std::move(*failure));
     run.drop();
     run.top() = std::get<Value>(std::move(outcome));
@@ -239,6 +234,7 @@ void coerce(Execution& run, const Instruction& here) {
     const auto type = static_cast<Type>(here.detail);
     if (type == Type::reference) return;
     const Value value = run.popResolved();
+    run.workOn(value);
     if (!run.hasFailed()) run.pushOrFail(coerced(value, type, run.textRules().joint()));
 }
 

@@ -171,7 +171,10 @@ INSTANTIATE_TEST_SUITE_P(
 /// As many of them, numbered, with commas between.
 std::string listed(int count, const std::string& name, const std::string& behind = "") {
     std::string text;
-    for (int i = 0; i < count; ++i) text += (i > 0 ? ", " : "") + name + std::to_string(i) + behind;
+    for (int i = 0; i < count; ++i) {
+        if (i > 0) text += ", ";
+        text.append(name).append(std::to_string(i)).append(behind);
+    }
     return text;
 }
 

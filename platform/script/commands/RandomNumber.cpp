@@ -36,7 +36,7 @@ Value chosen(std::mt19937_64& source, Limit from, Limit to) {
         const auto last = static_cast<std::int64_t>(std::min(to.value, most));
         return numberValue(static_cast<double>(std::uniform_int_distribution(first, last)(source)), true);
     }
-    const double part = std::generate_canonical<double, 53>(source);
+    const auto part = std::generate_canonical<double, 53>(source);
     return Value{from.value * (1 - part) + to.value * part};
 }
 
