@@ -130,7 +130,7 @@ Result<std::unique_ptr<X11Backends>> X11Backends::open(const std::string& update
 }
 
 X11Backends::X11Backends(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
-X11Backends::~X11Backends() = default;
+X11Backends::~X11Backends() { m_parts->scriptDesktop->clipboardOfScripts().handOver(); }
 
 Services& X11Backends::services() { return m_parts->services; }
 script::ScriptRunner& X11Backends::scripting() { return m_parts->scripting; }

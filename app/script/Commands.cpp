@@ -114,7 +114,7 @@ int runScript(const ScriptInput& input) {
         return failed;
     }
     playback.value()->injector().startPlayback();
-    TerminalDialogs dialogs;
+    TerminalDialogs dialogs(playback.value()->injector());
     const script::RunResult result =
         run(*source, *program, {playback.value()->injector(), playback.value()->desktop(), dialogs});
     if (result.end == script::RunEnd::cancelled && playback.value()->isLost()) {
@@ -123,6 +123,7 @@ int runScript(const ScriptInput& input) {
         tell(*source, result);
     }
     if (!input.lines.empty() && !result.value.empty()) std::cout << result.value << std::endl;
+    playback.value()->leaveClipboard();
     const int signalNumber = playback.value()->signalNumber();
     playback.value().reset();
     // Whoever waits for this process is told how it ended.

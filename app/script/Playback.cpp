@@ -60,6 +60,7 @@ class X11Playback final : public Playback {
 
     KeyInjector& injector() override { return m_injector; }
     ScriptDesktop& desktop() override { return *m_desktop; }
+    void leaveClipboard() override { m_desktop->clipboardOfScripts().leave(); }
     int signalNumber() const override { return known().received; }
     bool isLost() const override { return m_events->isBroken(); }
 

@@ -22,6 +22,8 @@ class Playback {
 
     virtual KeyInjector& injector() = 0;
     virtual ScriptDesktop& desktop() = 0;
+    /// What a run has put into the clipboard is to outlive this process.
+    virtual void leaveClipboard() = 0;
     /// The signal that ended the run; 0 if none came.
     virtual int signalNumber() const = 0;
     /// Whether the session is gone, which ends the run as a wish of the user's does.

@@ -34,6 +34,7 @@ std::optional<std::size_t> buttonOf(const ScriptDialog& dialog, const std::strin
 Result<ScriptAnswer> TerminalDialogs::ask(const ScriptDialog& dialog) {
     std::fstream terminal("/dev/tty");
     if (!terminal) return Error{"No dialog can be shown here.", "Run the script in a terminal."};
+    m_injector.rest();
     if (!dialog.title.empty()) terminal << dialog.title << "\n";
     terminal << dialog.text << "\n";
     if (!dialog.message.empty()) terminal << dialog.message << "\n";

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/KeyInjector.h"
 #include "platform/ScriptDialogs.h"
 
 /// Asks on the terminal that the program runs in, in lines of text; without one nobody can be asked.
@@ -10,9 +11,16 @@
 ///   >
 ///
 /// A number or the name of a button presses it; an empty line the default button. Where an answer is asked
-/// for, it stands on a line of its own before. The end of input is the cancel button.
+/// for, it stands on a line of its own before. The end of input is the cancel button. The run leaves the
+/// keyboard to the user meanwhile.
 class TerminalDialogs : public ScriptDialogs {
   public:
+    /// The injector outlives the object.
+    explicit TerminalDialogs(KeyInjector& injector) : m_injector(injector) {}
+
     Result<ScriptAnswer> ask(const ScriptDialog& dialog) override;
     Result<void> notify(const ScriptNotification& notification) override;
+
+  private:
+    KeyInjector& m_injector;
 };

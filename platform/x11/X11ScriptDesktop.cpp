@@ -23,19 +23,13 @@ std::string lowered(std::string_view text) {
 Result<std::unique_ptr<X11ScriptDesktop>> X11ScriptDesktop::open(Clock& clock, const std::string& display) {
     auto connection = XConnection::open(display);
     if (!connection) return connection.error();
-    auto server = XConnection::open(display);
-    if (!server) return server.error();
-    auto client = XConnection::open(display);
-    if (!client) return client.error();
-    return std::make_unique<X11ScriptDesktop>(std::move(connection).value(), std::move(server).value(),
-                                              std::move(client).value(), clock);
+    return std::make_unique<X11ScriptDesktop>(std::move(connection).value(), display, clock);
 }
 
-X11ScriptDesktop::X11ScriptDesktop(XConnection connection, XConnection server, XConnection client,
-                                   Clock& clock)
+X11ScriptDesktop::X11ScriptDesktop(XConnection connection, const std::string& display, Clock& clock)
     : m_connection(std::move(connection)),
       m_focus(m_connection),
-      m_clipboard(std::move(server), std::move(client)),
+      m_clipboard(display),
       m_clock(clock),
       m_stacking(m_connection.atom("_NET_CLIENT_LIST_STACKING")),
       m_clients(m_connection.atom("_NET_CLIENT_LIST")) {}

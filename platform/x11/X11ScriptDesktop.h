@@ -18,13 +18,16 @@ class X11ScriptDesktop : public ScriptDesktop {
     /// On the display, or on $DISPLAY if it is empty. The clock outlives the object.
     static Result<std::unique_ptr<X11ScriptDesktop>> open(Clock& clock, const std::string& display = {});
 
-    X11ScriptDesktop(XConnection connection, XConnection server, XConnection client, Clock& clock);
+    X11ScriptDesktop(XConnection connection, const std::string& display, Clock& clock);
 
     Result<void> beep(int count) override;
     Result<void> setClipboard(std::string_view text) override { return m_clipboard.set(text); }
     Result<std::string> clipboard() override { return m_clipboard.text(); }
     bool hasApplication(std::string_view name) override { return findWindow(name) != XCB_WINDOW_NONE; }
     Result<void> activate(std::string_view name) override;
+
+    /// What scripts have put into the clipboard, as it can be kept beyond the end of the process.
+    X11Clipboard& clipboardOfScripts() { return m_clipboard; }
 
   private:
     /// The window that lies highest of those that the window manager knows.
