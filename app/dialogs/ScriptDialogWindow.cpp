@@ -13,8 +13,8 @@
 #include <chrono>
 #include <limits>
 
-#include "app/panels/PanelText.h"
 #include "app/ProgramIcon.h"
+#include "app/panels/PanelText.h"
 
 namespace {
 
@@ -85,7 +85,7 @@ QLabel* wrapped(QLabel* label) {
 
 /// The widget itself, or where it is too tall what scrolls it.
 QWidget* scrolled(QWidget* words, int tallest) {
-    const QSize size = words->layout()->totalSizeHint();
+    const QSize size = words->layout()->totalSizeHint().expandedTo(words->minimumSize());
     if (size.height() <= tallest) return words;
     auto* area = new QScrollArea;
     area->setWidget(words);
@@ -100,6 +100,7 @@ QWidget* scrolled(QWidget* words, int tallest) {
 ScriptDialogWindow::ScriptDialogWindow(const ScriptDialog& dialog) : m_cancelButton(dialog.cancelButton) {
     setWindowTitle(dialog.title.empty() ? tr("Keyrill Macro") : shown(dialog.title).simplified());
     setWindowIcon(programIcon());
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     setWindowFlag(Qt::WindowCloseButtonHint, m_cancelButton.has_value());
     m_heldEscape.setSingleShot(true);
     connect(&m_heldEscape, &QTimer::timeout, this, [this] { done(Rejected); });
@@ -127,9 +128,12 @@ QWidget* ScriptDialogWindow::makeWords(const ScriptDialog& dialog) const {
     layout->setContentsMargins({});
     const bool isAlert = dialog.kind == ScriptDialog::Kind::alert;
     const QString text = shown(dialog.text);
-    layout->addWidget(wrapped(isAlert ? makeHeading(text) : makeLine(text)));
+    QLabel* label = wrapped(isAlert ? makeHeading(text) : makeLine(text));
+    layout->addWidget(label);
     if (!dialog.message.empty()) layout->addWidget(wrapped(makeLine(shown(dialog.message))));
     layout->addStretch();
+    // A title and an answer have to fit as well.
+    words->setMinimumWidth(paragraphWidth(*label) * 2 / 3);
     return words;
 }
 
@@ -148,14 +152,13 @@ QWidget* ScriptDialogWindow::makeButtons(const ScriptDialog& dialog) {
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins({});
-    if (isLeftToRight()) layout->addStretch();
+    layout->addStretch();
     auto* buttons = new QHBoxLayout;
     buttons->setDirection(isLeftToRight() ? QBoxLayout::LeftToRight : QBoxLayout::RightToLeft);
     for (std::size_t place = 0; place < dialog.buttons.size(); ++place) {
         buttons->addWidget(makeButton(dialog, place));
     }
     layout->addLayout(buttons);
-    if (isRightToLeft()) layout->addStretch();
     return row;
 }
 

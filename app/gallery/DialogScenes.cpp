@@ -11,6 +11,7 @@
 #include "app/dialogs/AlertSheet.h"
 #include "app/dialogs/AlertTexts.h"
 #include "app/dialogs/MacroFilePanel.h"
+#include "app/dialogs/ScriptDialogWindow.h"
 #include "app/gallery/Camera.h"
 #include "app/gallery/Scenes.h"
 #include "app/panels/PreferencesPanel.h"
@@ -32,6 +33,49 @@ void takeSheet(Camera& camera, const AlertText& text, const char* name) {
     sheet.setAttribute(Qt::WA_DeleteOnClose, false);
     sheet.open();
     camera.takeShown({&panel, &sheet}, QLatin1String(name));
+}
+
+void takeScriptDialog(Camera& camera, const ScriptDialog& dialog, const char* name) {
+    ScriptDialogWindow window(dialog);
+    camera.take(window, QLatin1String(name));
+}
+
+void takeScriptDialogs(Camera& camera) {
+    takeScriptDialog(camera,
+                     {.text = "Who is it for?",
+                      .title = "Weekly report",
+                      .buttons = {"Cancel", "OK"},
+                      .defaultButton = 1,
+                      .cancelButton = 0,
+                      .defaultAnswer = "Ann & Bob"},
+                     "script-dialog");
+    takeScriptDialog(
+        camera,
+        {.text = "This replaces the <b>whole</b> table in the window that you are in, from its first "
+                 "line to the last one. Go on?\n\nNothing can be undone & nothing is asked again.",
+         .icon = ScriptDialog::Icon::caution,
+         .buttons = {"Stop", "Only this line", "Go on"},
+         .defaultButton = 2,
+         .cancelButton = 0},
+        "script-dialog-icon");
+    takeScriptDialog(camera,
+                     {.text = "Password:",
+                      .buttons = {"Cancel", "OK"},
+                      .defaultButton = 1,
+                      .cancelButton = 0,
+                      .defaultAnswer = "secret",
+                      .hidesAnswer = true},
+                     "script-dialog-hidden");
+    takeScriptDialog(camera,
+                     {.kind = ScriptDialog::Kind::alert,
+                      .text = "The table is full",
+                      .message = "120 lines were typed, 3 were left out.",
+                      .buttons = {"OK"},
+                      .defaultButton = 0},
+                     "script-alert");
+    std::string lines;
+    for (int line = 1; line <= 200; ++line) lines += "Line " + std::to_string(line) + "\n";
+    takeScriptDialog(camera, {.text = lines, .buttons = {"OK"}, .defaultButton = 0}, "script-dialog-long");
 }
 
 void takeFilePanel(Camera& camera, MacroFilePanel::Kind kind, const QString& folder, const char* name) {
@@ -71,6 +115,8 @@ void takeDialogs(Camera& camera) {
               "alert-not-saved");
     takeSheet(camera, alerts::updateAvailableSheet(), "sheet-update");
     takeSheet(camera, alerts::noUpdate(), "sheet-no-update");
+
+    takeScriptDialogs(camera);
 
     const QTemporaryDir home;
     const QDir folder(home.path() + QStringLiteral("/keyrill"));
