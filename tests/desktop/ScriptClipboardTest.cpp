@@ -154,9 +154,9 @@ TEST_P(SettingsDaemonTest, nobodyStaysInTheBackgroundWhenItHasTheText) {
 INSTANTIATE_TEST_SUITE_P(Xfce, SettingsDaemonTest, testing::Values("xfsettingsd"), nameOfManager);
 
 /// Programs that paste by Ctrl+V.
-class PasteTest : public ScriptClipboardTest, public testing::WithParamInterface<Editor::Toolkit> {};
+class EditorPasteTest : public ScriptClipboardTest, public testing::WithParamInterface<Editor::Toolkit> {};
 
-TEST_P(PasteTest, aPasteTypedRightAfterwardsFindsIt) {
+TEST_P(EditorPasteTest, aPasteTypedRightAfterwardsFindsIt) {
     const Editor editor(desktop.display(), GetParam());
     const Keyrill keyrill(desktop,
                           std::string("set the clipboard to \"") + text +
@@ -171,6 +171,6 @@ TEST_P(PasteTest, aPasteTypedRightAfterwardsFindsIt) {
     EXPECT_EQ(pasted(), text);
 }
 
-INSTANTIATE_TEST_SUITE_P(Toolkit, PasteTest, testing::Values(Editor::Toolkit::gtk, Editor::Toolkit::qt));
+INSTANTIATE_TEST_SUITE_P(Toolkit, EditorPasteTest, testing::Values(Editor::Toolkit::gtk, Editor::Toolkit::qt));
 
 }  // namespace
