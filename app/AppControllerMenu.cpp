@@ -15,6 +15,7 @@
 #include "platform/Services.h"
 
 void AppController::connectMenu() {
+    connect(&statusMenu, &StatusMenu::shown, this, [this](bool open) { m_gate.setMenuOpen(open); });
     connectItem(statusMenu.recordMenuItem, &AppController::recordMacro);
     connectItem(statusMenu.stopMenuItem, &AppController::stopMacro);
     connectItem(statusMenu.saveDelayMenuItem, &AppController::saveDelayToNow);

@@ -28,9 +28,15 @@ void Gate::setLocked(bool locked) {
     follow(wasOpen);
 }
 
+void Gate::setMenuOpen(bool open) {
+    if (std::exchange(m_menuOpen, open) != open) withhold();
+}
+
+void Gate::withhold() { m_monitor.setWithheld(!isOpen() || m_menuOpen); }
+
 void Gate::follow(bool wasOpen) {
     if (wasOpen != isOpen()) {
-        m_monitor.setWithheld(!isOpen());
+        withhold();
         if (!isOpen()) engineState().playPending = false;
     }
     m_changed();

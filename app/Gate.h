@@ -24,11 +24,17 @@ class Gate {
     void questionCloses();
     void setLocked(bool locked);
 
+    /// While the program's own menu is open key presses and hot keys are the menu's; the commands that are
+    /// chosen in it are carried out all the same.
+    void setMenuOpen(bool open);
+
   private:
     void follow(bool wasOpen);
+    void withhold();
 
     EventMonitor& m_monitor;
     std::function<void()> m_changed;
     int m_questions = 0;
     bool m_locked = false;
+    bool m_menuOpen = false;
 };

@@ -59,6 +59,16 @@ void StatusMenu::addHelpMenu() {
     aboutMenuItem = helpMenu->addAction(menuTitle(tr("About Keyrill")));
 }
 
+void StatusMenu::showEvent(QShowEvent* event) {
+    QMenu::showEvent(event);
+    emit shown(true);
+}
+
+void StatusMenu::hideEvent(QHideEvent* event) {
+    QMenu::hideEvent(event);
+    emit shown(false);
+}
+
 void StatusMenu::apply(const MenuState& state) {
     applyTo(saveMacroMenuItem, state.saveMacro);
     applyTo(saveDelayMenuItem, state.saveDelay);

@@ -18,6 +18,12 @@ class StatusMenu : public QMenu {
 
     void apply(const MenuState& state);
 
+  signals:
+    /// The program's own menu window is on the screen, or no more. Nothing of a menu that the tray draws: not
+    /// every tray says when it closes one.
+    void shown(bool open);
+
+  public:
     QAction* recordMenuItem = nullptr;
     QAction* stopMenuItem = nullptr;
     QAction* saveDelayMenuItem = nullptr;
@@ -39,6 +45,10 @@ class StatusMenu : public QMenu {
     QAction* updateMenuItem = nullptr;
     QAction* aboutMenuItem = nullptr;
     QAction* quitMenuItem = nullptr;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
   private:
     void addMacroItems();

@@ -144,6 +144,31 @@ TEST_F(GateTest, leavesTheSwitchOfTheHotKeysAlone) {
     EXPECT_TRUE(state().hotKeysEnabled);
 }
 
+TEST_F(GateTest, recordsNothingOfWhatIsTypedIntoTheMenu) {
+    controller.recordMacro(nullptr);
+    strikes(aKey);
+    const std::string before = recorded();
+    controller.statusMenu.popup(QPoint());
+    strikes(aKey);
+    strikes(f1);
+    EXPECT_EQ(recorded(), before);
+    controller.statusMenu.saveDelayMenuItem->trigger();
+    EXPECT_NE(recorded(), before);
+    controller.statusMenu.hide();
+    const std::string paused = recorded();
+    strikes(aKey);
+    EXPECT_NE(recorded(), paused);
+}
+
+TEST_F(GateTest, staysShutWhenTheMenuClosesBehindAQuestion) {
+    controller.statusMenu.popup(QPoint());
+    askWhile([this] {
+        controller.statusMenu.hide();
+        strikes(f1);
+        EXPECT_FALSE(state().recording);
+    });
+}
+
 // The lock
 
 TEST_F(GateTest, recordsNothingAndHidesTheOverlayWhileTheScreenIsLocked) {

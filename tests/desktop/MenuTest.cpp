@@ -95,6 +95,37 @@ TEST_P(MenuTest, theOldestOfThreeRecordingsIsPlayedAndBecomesTheCurrentOne) {
     EXPECT_EQ(bystander->typed(), "");
 }
 
+/// The program's own menu, which holds the keyboard while it is open.
+class OwnMenuTest : public DesktopTest {
+  protected:
+    /// The entries that can be chosen while recording.
+    static constexpr int pauseEntry = 2;
+
+    OwnMenuTest() { desktop.startTray(TrayKind::docking); }
+};
+
+TEST_F(OwnMenuTest, itsKeysAreNotRecorded) {
+    const Terminal terminal(desktop.display());
+    const Keyrill keyrill(desktop);
+    StatusMenuClicks menu(desktop);
+    record();
+    press("x");
+    menu.open();
+    menu.chooseByKeys(pauseEntry);
+    press("y");
+    menu.open();
+    for (const char* key : {"Down", "Down", "Up", "Escape"}) press(key);
+    ASSERT_TRUE(eventually([&] { return !menu.isOpen(); }));
+    press("z");
+    stop();
+    const std::string script = keyrill.script();
+    EXPECT_EQ(Keyrill::keyLines(script), 3U) << script;
+    EXPECT_NE(script.find("delay"), std::string::npos) << script;
+    EXPECT_EQ(terminal.typed(3), "xyz");
+    press("ctrl+super+r");
+    desktop.awaitWindow(title::overlay);
+}
+
 std::string nameOfDesktop(const testing::TestParamInfo<std::tuple<TrayKind, WindowManager>>& info) {
     return nameOf(std::get<0>(info.param)) + "Under" + nameOf(std::get<1>(info.param));
 }
