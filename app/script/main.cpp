@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/script/Commands.h"
+#include "app/script/Report.h"
 #include "platform/script/LanguageReference.h"
 
 namespace {
@@ -30,11 +31,14 @@ constexpr std::string_view usage =
     "       keyrill-script --help | --version\n"
     "FILE - is standard input; -e LINE, once or more, gives the script itself.\n";
 
-/// Empty if the arguments are neither a file nor lines.
+/// Empty if the arguments are neither a file nor lines. Behind `--` a file may begin with a minus.
 std::optional<ScriptInput> inputOf(const std::vector<std::string_view>& arguments) {
     ScriptInput input;
-    if (arguments.size() == 1 && arguments.front() != "-e") {
-        input.file = arguments.front();
+    const bool endsOptions = arguments.size() == 2 && arguments.front() == "--";
+    const bool isFile =
+        arguments.size() == 1 && (arguments.front().substr(0, 1) != "-" || arguments.front() == "-");
+    if (endsOptions || isFile) {
+        input.file = arguments.back();
         return input;
     }
     for (std::size_t i = 0; i + 1 < arguments.size(); i += 2) {
@@ -45,13 +49,10 @@ std::optional<ScriptInput> inputOf(const std::vector<std::string_view>& argument
     return input;
 }
 
-}  // namespace
-
-int main(int count, char** values) {
-    std::ios::sync_with_stdio(false);
-    const std::vector<std::string_view> arguments(values + std::min(count, 1), values + count);
+int perform(const std::vector<std::string_view>& arguments) {
     const std::string_view first = arguments.empty() ? "" : arguments.front();
-    if (arguments.size() == 1 && first == "--help") {
+    const bool asksHelp = arguments.size() == 2 && arguments.back() == "--help";
+    if (asksHelp || (arguments.size() == 1 && first == "--help")) {
         std::cout << usage;
         return 0;
     }
@@ -70,5 +71,15 @@ int main(int count, char** values) {
         if (input) return command->perform(*input);
     }
     std::cerr << usage;
+    return 1;
+}
+
+}  // namespace
+
+int main(int count, char** values) {
+    std::ios::sync_with_stdio(false);
+    const int status = perform({values + std::min(count, 1), values + count});
+    if (std::cout.flush()) return status;
+    reportError("", Error{"Standard output cannot be written.", ""});
     return 1;
 }

@@ -18,10 +18,11 @@ struct Outcome {
 class ToolTest : public testing::Test {
   protected:
     /// Runs the program in the folder that holds "script", with standard input from a file of this name.
-    Outcome run(const std::string& arguments, const std::string& input = "/dev/null") {
+    Outcome run(const std::string& arguments, const std::string& input = "/dev/null",
+                const std::string& output = "out") {
         const std::string command = "cd " + m_folder.path() +
                                     " && exec env -u DISPLAY " KEYRILL_SCRIPT_TOOL " " + arguments + " <" +
-                                    input + " >out 2>err";
+                                    input + " >" + output + " 2>err";
         Child child({"sh", "-c", command});
         const int status = child.wait();
         return {status, contentOf(m_folder.file("out")), contentOf(m_folder.file("err"))};
@@ -145,7 +146,43 @@ TEST_F(ToolTest, theLogGoesToStandardErrors) {
     EXPECT_EQ(outcome.output, "");
 }
 
+TEST_F(ToolTest, theCaretStandsBelowWideAndCombinedCharacters) {
+    write("\tset x to \"日本😀e\xcc\x81\" & foo\n");
+    const Outcome outcome = run("trace script");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors,
+              "script:1:21: execution error: The variable foo is not defined. (-2753)\n"
+              "\tset x to \"日本😀e\xcc\x81\" & foo\n"
+              "\t                     ^\n");
+}
+
+TEST_F(ToolTest, aLineIsShownWithoutControlCharacters) {
+    write("delay 1\x1b[31m");
+    EXPECT_EQ(run("check script").errors,
+              "script:1:8: syntax error: Expected end of line but found unknown token. (-2741)\n"
+              "delay 1 [31m\n"
+              "       ^\n");
+}
+
+TEST_F(ToolTest, aFullDeviceIsAnError) {
+    for (const char* arguments : {"trace -e 'delay 1'", "format -e 'delay 1'", "reference", "--help"}) {
+        const Outcome outcome = run(arguments, "/dev/null", "/dev/full");
+        EXPECT_EQ(outcome.status, 1) << arguments;
+        EXPECT_EQ(outcome.errors, "keyrill-script: Standard output cannot be written.\n");
+    }
+}
+
+TEST_F(ToolTest, optionsAreNoFilesButBehindTwoMinusSigns) {
+    const Outcome unknown = run("trace -x");
+    EXPECT_EQ(unknown.status, 1);
+    EXPECT_EQ(unknown.errors.rfind(usage, 0), 0U);
+    write("delay 1\n");
+    EXPECT_EQ(run("trace -- script").output, "[\"delay\",1]\n");
+    EXPECT_EQ(run("trace -- -none").errors, "keyrill-script: -none: No such file or directory\n");
+}
+
 TEST_F(ToolTest, helpAndVersionGoToStandardOutput) {
+    EXPECT_EQ(run("trace --help").output.rfind(usage, 0), 0U);
     EXPECT_EQ(run("--help").output.rfind(usage, 0), 0U);
     const Outcome version = run("--version");
     EXPECT_EQ(version.status, 0);
