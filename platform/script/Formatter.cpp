@@ -21,6 +21,7 @@ constexpr std::string_view noBreakSpace = "\xC2\xA0";
 struct Piece {
     enum class Kind { comment, continuation } kind;
     std::string_view text;  ///< of a comment, with its signs
+    bool isBehindLineEnd;   ///< which stands between the piece and the former one
 };
 
 std::size_t endOfBlockComment(std::string_view text) {
@@ -43,19 +44,26 @@ std::string_view withoutBlanksBehind(std::string_view text) {
 /// What lies between two tokens, cut up.
 std::vector<Piece> piecesOf(std::string_view gap) {
     std::vector<Piece> pieces;
+    bool isBehindLineEnd = false;
+    const auto add = [&](Piece::Kind kind, std::string_view text) {
+        pieces.push_back({kind, text, isBehindLineEnd});
+        isBehindLineEnd = false;
+    };
     while (!gap.empty()) {
         std::size_t length = 1;
         if (gap.starts_with("(*")) {
             length = endOfBlockComment(gap);
-            pieces.push_back({Piece::Kind::comment, gap.substr(0, length)});
+            add(Piece::Kind::comment, gap.substr(0, length));
         } else if (gap.starts_with("--") || gap.front() == '#') {
             length = std::min(gap.find_first_of("\r\n"), gap.size());
-            pieces.push_back({Piece::Kind::comment, withoutBlanksBehind(gap.substr(0, length))});
+            add(Piece::Kind::comment, withoutBlanksBehind(gap.substr(0, length)));
         } else if (gap.starts_with(continuationSign)) {
             length = continuationSign.size();
-            pieces.push_back({Piece::Kind::continuation, {}});
+            add(Piece::Kind::continuation, {});
         } else if (gap.starts_with(noBreakSpace)) {
             length = noBreakSpace.size();
+        } else if (gap.front() == '\r' || gap.front() == '\n') {
+            isBehindLineEnd = true;
         }
         gap.remove_prefix(length);
     }
@@ -162,7 +170,7 @@ class Layout {
                 separate();
                 m_line += continuationSign;
                 m_isJoined = true;
-            } else if (m_isJoined && piece.text.front() != '(') {
+            } else if (m_isJoined && !piece.isBehindLineEnd) {
                 m_line += " " + std::string(piece.text);
             } else {
                 breakJoined();

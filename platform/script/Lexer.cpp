@@ -197,10 +197,10 @@ std::size_t Lexer::lineEndLength() const {
     return m_source[m_position] == '\r' && at(m_position + 1) == '\n' ? 2 : 1;
 }
 
-/// The sign, blanks, perhaps a comment, and one line end; false if something else stands there.
+/// The sign, blanks and comments, and one line end; false if something else stands there.
 bool Lexer::skipContinuation() {
     m_position += continuation.size();
-    while (skipBlank()) {
+    while (skipBlank() || (startsWith("(*") && skipBlockComment())) {
     }
     if (at(m_position) == '#' || startsWith("--")) skipLine();
     return skipLineEnd();
