@@ -5,7 +5,7 @@
 #include <array>
 #include <iostream>
 
-#include "platform/script/TextRules.h"
+#include "platform/Utf8.h"
 
 namespace {
 
@@ -69,7 +69,7 @@ std::string shown(std::string_view line) {
 std::string indentation(std::string_view line, std::uint32_t characters) {
     std::string out;
     for (std::size_t position = 0; position < line.size() && characters > 0; --characters) {
-        const char32_t character = script::takeCharacter(line, position);
+        const char32_t character = takeCharacter(line, position);
         out += character == '\t' ? "\t" : std::string(columnsOf(character), ' ');
     }
     return out;

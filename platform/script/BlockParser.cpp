@@ -6,6 +6,7 @@
 #include "platform/script/Parser.h"
 #include "platform/script/Scoped.h"
 #include "platform/script/StatementParser.h"
+#include "platform/script/SystemEvents.h"
 #include "platform/script/TextRules.h"
 
 namespace script {
@@ -94,10 +95,21 @@ NodeId BlockParser::tell() {
     return node;
 }
 
+/// `tell [application] process "X" of application "System Events"`: the dictionary stands behind its word.
+bool BlockParser::namesProcessOfSystemEvents() const {
+    const int start = m_tokens.current().is(Word::application) ? 1 : 0;
+    if (!m_tokens.peek(start).is(Word::process) || !m_tokens.peek(start + 2).is(Word::of)) return false;
+    const Token owner = m_tokens.peek(start + 3);
+    const std::string_view name = m_tokens.peek(start + 4).text;
+    return (owner.is(Word::application) || owner.is(Word::app)) && name.size() > 2 &&
+           isSystemEvents(name.substr(1, name.size() - 2), false);
+}
+
 /// An application's own dictionary, or none, is in force behind it.
 NodeId BlockParser::tellTarget() {
     m_tokens.skipFiller();
     const bool readsApplication = m_tokens.isAt(Word::application) || m_tokens.isAt(Word::app);
+    if (namesProcessOfSystemEvents()) m_tokens.setKnowsTerms(true);
     if (readsApplication && !m_terms.isAtProcess()) {
         const NodeId target = m_terms.application();
         if (!m_tokens.failed()) m_tokens.setKnowsTerms(m_tree.at(target).detail != 0);

@@ -35,6 +35,7 @@ class BlockParser {
   private:
     NodeId tell();
     NodeId tellTarget();
+    bool namesProcessOfSystemEvents() const;
     NodeId ifThen();
     void elseParts(ChildList& children);
     NodeId repeat();

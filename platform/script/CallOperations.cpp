@@ -60,7 +60,9 @@ void callHandler(Execution& run, const Call& call, std::uint32_t index) {
 Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) {
     const TargetBody* body = target.target();
     const bool isScript = body != nullptr && body->kind == TargetBody::Kind::script;
-    const std::string prefix = body != nullptr && !isScript ? "System Events got an error: " : "";
+    const bool isOther = body != nullptr && body->kind == TargetBody::Kind::application;
+    const std::string speaker = isOther ? std::string(body->name.str()) : "System Events";
+    const std::string prefix = body != nullptr && !isScript ? speaker + " got an error: " : "";
     Failure failure{errornumber::notUnderstood,
                     prefix + spelled(target) + " doesn’t understand the “" + name + "” message."};
     if (isOwn)

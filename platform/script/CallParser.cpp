@@ -48,14 +48,30 @@ void CallParser::labelledArguments(NodeId call) {
         const NameId label = labelHere();
         arguments.append(argument(label));
     }
-    if (!m_tokens.accept(Word::given)) return;
+    if (m_tokens.accept(Word::given)) {
+        do {
+            if (!m_terms.expectName()) return;
+            countParameter(count);
+            const NameId label = m_terms.nameHere();
+            if (!m_tokens.accept(TokenKind::colon)) m_tokens.expected("“:”");
+            arguments.append(argument(label));
+        } while (m_tokens.accept(TokenKind::comma));
+    }
+    while (m_tokens.isAt(Word::with) || m_tokens.isAt(Word::without)) truths(arguments, count);
+}
+
+/// ( with | without ) label {( , | and ) label}: true or false for each.
+void CallParser::truths(ChildList& arguments, std::uint32_t& count) {
+    const std::uint32_t truth = m_tokens.isAt(Word::with) ? 1 : 0;
+    m_tokens.advance();
     do {
         if (!m_terms.expectName()) return;
         countParameter(count);
-        const NameId label = m_terms.nameHere();
-        if (!m_tokens.accept(TokenKind::colon)) m_tokens.expected("“:”");
-        arguments.append(argument(label));
-    } while (m_tokens.accept(TokenKind::comma));
+        const std::uint32_t offset = m_tokens.offset();
+        const NodeId node = m_tree.add(NodeKind::argument, offset, m_terms.nameHere());
+        ChildList(m_tree, node).append(m_tree.add(NodeKind::truth, offset, truth));
+        arguments.append(node);
+    } while (m_tokens.accept(TokenKind::comma) || m_tokens.accept(Word::andWord));
 }
 
 void CallParser::countParameter(std::uint32_t& count) {
@@ -99,6 +115,7 @@ bool CallParser::isLabelWord(Word word) {
 NameId CallParser::labelHere() {
     const Token first = m_tokens.current();
     m_tokens.advance();
+    if (first.is(Word::thru)) return m_tree.names.intern("through");
     const bool isLong =
         first.is(Word::apart) || first.is(Word::aside) || first.is(Word::instead) || first.is(Word::out);
     if (!isLong) return m_tree.names.intern(first.text);

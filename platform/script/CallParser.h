@@ -40,6 +40,7 @@ class CallParser {
 
   private:
     void labelledArguments(NodeId call);
+    void truths(ChildList& arguments, std::uint32_t& count);
     NodeId argument(NameId label);
     void findLabelled();
 

@@ -152,7 +152,12 @@ void CodeGenerator::parameters(const Node& node, Handler& handler, Scope& scope)
          id = m_tree.at(id).nextSibling) {
         const Node& pattern = m_tree.at(m_tree.at(id).firstChild);
         parameterName(m_tree.at(id).firstChild, seen);
-        handler.labels.push_back(m_tree.at(id).value);
+        const NameId label = m_tree.at(id).value;
+        const auto& labels = handler.labels;
+        if (label != 0 && std::find(labels.begin(), labels.end(), label) != labels.end()) {
+            failTwice(label, m_tree.at(id).offset);
+        }
+        handler.labels.push_back(label);
         if (pattern.kind == NodeKind::name) {
             handler.parameterNames.push_back(pattern.value);
             scope.addParameter(pattern.value);
@@ -175,11 +180,7 @@ void CodeGenerator::parameterName(NodeId pattern, std::set<NameId>& seen) {
             parameterName(id, seen);
         return;
     }
-    if (!seen.insert(node.value).second) {
-        m_out.fail(errornumber::parameterTwice,
-                   "The " + m_tree.names.at(node.value).spelling + " parameter is specified more than once.",
-                   node.offset);
-    }
+    if (!seen.insert(node.value).second) failTwice(node.value, node.offset);
 }
 
 /// Handlers may be called before they stand.
@@ -191,6 +192,12 @@ void CodeGenerator::resolveCalls() {
         const auto found = indices.find(call.name);
         if (found != indices.end()) call.handler = found->second;
     }
+}
+
+void CodeGenerator::failTwice(NameId parameter, std::uint32_t offset) {
+    m_out.fail(errornumber::parameterTwice,
+               "The " + m_tree.names.at(parameter).spelling + " parameter is specified more than once.",
+               offset);
 }
 
 /// A handler that comes to its end gives the value of its last statement.

@@ -32,6 +32,7 @@ class CodeGenerator {
     void runPart();
     void handler(const Node& node);
     void parameters(const Node& node, Handler& handler, Scope& scope);
+    void failTwice(NameId parameter, std::uint32_t offset);
     void parameterName(NodeId pattern, std::set<NameId>& seen);
     void resolveCalls();
     void finish(Handler handler, const Scope& scope, std::uint32_t enter);

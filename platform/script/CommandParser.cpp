@@ -77,6 +77,10 @@ NodeId CommandParser::direct(const Command& command) {
                           (kind != TokenKind::minus && binaryOperator(m_tokens) != nullptr);
         if (ends || m_tokens.isAt(Word::as)) return noNode;
     }
+    if (command.isTerm && parameterHere(command)) {
+        m_tokens.expected("expression");
+        return noNode;
+    }
     const bool allowsIn = m_terms.allowsIn() && !hasParameter(command, "in");
     const bool before = m_terms.allowsIn();
     m_terms.setAllowsIn(allowsIn);
@@ -99,15 +103,11 @@ std::optional<std::uint32_t> CommandParser::parameterHere(const Command& command
     return std::nullopt;
 }
 
-void CommandParser::parameters(const Command& command, ChildList& children) {
-    std::uint32_t given = 0;
+void CommandParser::parameters(const Command& command, ChildList& children, std::uint32_t given) {
     m_tokens.skipFiller();
     while (const std::optional<std::uint32_t> index = parameterHere(command)) {
         const Parameter& parameter = command.parameters[*index];
-        if ((given & (1U << *index)) != 0) {
-            m_tokens.fail(errornumber::parameterTwice, "The " + std::string(parameter.label.spelling()) +
-                                                           " parameter is specified more than once.");
-        }
+        if ((given & (1U << *index)) != 0) failTwice(parameter.label.spelling());
         given |= 1U << *index;
         const NodeId argument = m_tree.add(NodeKind::argument, m_tokens.offset(), *index);
         m_tokens.advance(parameter.label.wordCount());
@@ -115,7 +115,31 @@ void CommandParser::parameters(const Command& command, ChildList& children) {
         children.append(argument);
         m_tokens.skipFiller();
     }
+    if (!m_tokens.failed() && truth(command, given, children)) return parameters(command, children, given);
     refuseIncompleteLabel(command);
+}
+
+/// `with hidden answer`, `without hidden answer`: true or false for the parameter. False if none stands here.
+bool CommandParser::truth(const Command& command, std::uint32_t& given, ChildList& children) {
+    if (!m_tokens.isAt(Word::with) && !m_tokens.isAt(Word::without)) return false;
+    for (std::uint32_t i = 0; i < command.parameters.size(); ++i) {
+        const Phrase& label = command.parameters[i].label;
+        if (!m_tokens.isAtTerm(label, 1)) continue;
+        if ((given & (1U << i)) != 0) failTwice(label.spelling());
+        given |= 1U << i;
+        const NodeId argument = m_tree.add(NodeKind::argument, m_tokens.offset(), i);
+        const std::uint32_t value = m_tokens.isAt(Word::with) ? 1 : 0;
+        ChildList(m_tree, argument).append(m_tree.add(NodeKind::truth, m_tokens.offset(), value));
+        children.append(argument);
+        m_tokens.advance(label.wordCount() + 1);
+        return true;
+    }
+    return false;
+}
+
+void CommandParser::failTwice(std::string_view label) {
+    m_tokens.fail(errornumber::parameterTwice,
+                  "The " + std::string(label) + " parameter is specified more than once.");
 }
 
 /// `default 5`: the first word of labels without the second one.

@@ -28,7 +28,9 @@ class CommandParser {
     bool isMeant(const Command& command) const;
     NodeId direct(const Command& command);
     std::optional<std::uint32_t> parameterHere(const Command& command) const;
-    void parameters(const Command& command, ChildList& children);
+    void parameters(const Command& command, ChildList& children, std::uint32_t given = 0);
+    bool truth(const Command& command, std::uint32_t& given, ChildList& children);
+    void failTwice(std::string_view label);
     NodeId parameterValue(const Parameter& parameter, const Command& command);
     NodeId chosen(const Parameter& parameter);
     NodeId className();

@@ -84,12 +84,16 @@ bool ElementParser::isAtElement() const {
 
 NodeId ElementParser::make(std::uint32_t offset, const Kind& kind, ElementForm form) {
     const NodeId node = m_tree.add(NodeKind::element, offset);
-    m_tree.nodes[node].detail = static_cast<std::uint8_t>(
-        (static_cast<unsigned>(kind.kind) << elementnode::kindShift) | static_cast<unsigned>(form));
+    setForm(node, kind, form);
     if (kind.kind == ElementKind::typed) {
         m_tree.nodes[node].value = static_cast<std::uint32_t>(kind.type) << elementnode::nameShift;
     }
     return node;
+}
+
+void ElementParser::setForm(NodeId node, const Kind& kind, ElementForm form) {
+    m_tree.nodes[node].detail = static_cast<std::uint8_t>(
+        (static_cast<unsigned>(kind.kind) << elementnode::kindShift) | static_cast<unsigned>(form));
 }
 
 NodeId ElementParser::element() { return withContainer(part()); }
@@ -160,7 +164,12 @@ NodeId ElementParser::kindPart(const Kind& kind) {
     m_tokens.advance(kind.words);
     if (!kind.isPlural) {
         const NodeId node = make(offset, kind, ElementForm::index);
-        ChildList(m_tree, node).append(m_terms.expressions().index());
+        ChildList children(m_tree, node);
+        children.append(m_terms.expressions().index());
+        if (m_tokens.accept(Word::thru) || m_tokens.accept(Word::through)) {
+            setForm(node, kind, ElementForm::range);
+            children.append(m_terms.expressions().index());
+        }
         return node;
     }
     const NodeId node = make(offset, kind, ElementForm::every);
@@ -172,9 +181,7 @@ NodeId ElementParser::kindPart(const Kind& kind) {
         }
         return node;
     }
-    m_tree.nodes[node].detail =
-        static_cast<std::uint8_t>((static_cast<unsigned>(kind.kind) << elementnode::kindShift) |
-                                  static_cast<unsigned>(ElementForm::range));
+    setForm(node, kind, ElementForm::range);
     ChildList children(m_tree, node);
     children.append(m_terms.expressions().index());
     if (isLong) {

@@ -56,6 +56,7 @@ class ElementParser {
     NodeId textPart();
     NodeId bound();
     NodeId make(std::uint32_t offset, const Kind& kind, ElementForm form);
+    void setForm(NodeId node, const Kind& kind, ElementForm form);
     NodeId withContainer(NodeId node);
     void setContainer(NodeId node, NodeId container);
 

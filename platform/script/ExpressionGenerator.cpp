@@ -46,6 +46,7 @@ void ExpressionGenerator::statementValue(NodeId id) {
 /// What is worked out before all else that the node needs; `noNode` if nothing is.
 NodeId ExpressionGenerator::firstPart(const Node& node) const {
     switch (node.kind) {
+        case NodeKind::application:
         case NodeKind::binary:
         case NodeKind::callTo:
         case NodeKind::characterId:
@@ -162,7 +163,11 @@ bool ExpressionGenerator::target(const Node& node) {
             m_out.emit(Operation::pushIt, node);
             return true;
         case NodeKind::application:
-            m_out.emit(Operation::pushApplication, node, node.value, node.detail);
+            if (node.firstChild != noNode) {
+                m_out.emit(Operation::makeApplication, node);
+            } else {
+                m_out.emit(Operation::pushApplication, node, node.value, node.detail);
+            }
             return true;
         case NodeKind::process:
             m_out.emit(Operation::makeProcess, node);

@@ -54,7 +54,7 @@ enum class NodeKind : std::uint8_t {
     result,        ///< []
     delimiters,    ///< [] text item delimiters
     appleScript,   ///< []
-    application,   ///< [] value: name in texts; detail: 1 if it is System Events
+    application,   ///< [] value: name in texts; detail: 1 if it is System Events. Or [name], without both
     process,       ///< [name]
     list,          ///< [items]
     record,        ///< [fields]

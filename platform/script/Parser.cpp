@@ -72,7 +72,7 @@ bool Parser::handlerName(NodeId handler) {
 
 /// run takes its arguments as one list.
 void Parser::runParameters(ChildList& children) {
-    if (!m_tokens.isAtLineEnd()) children.append(parameter(0));
+    if (!m_tokens.isAtLineEnd()) children.append(parameter(0, m_tokens.offset()));
 }
 
 void Parser::positionalParameters(ChildList& children) {
@@ -81,7 +81,7 @@ void Parser::positionalParameters(ChildList& children) {
     std::uint32_t count = 0;
     do {
         m_terms.calls().countParameter(count);
-        children.append(parameter(0));
+        children.append(parameter(0, m_tokens.offset()));
     } while (m_tokens.accept(TokenKind::comma));
     if (!m_tokens.accept(TokenKind::rightParenthesis)) m_tokens.expected("“,” or “)”");
 }
@@ -90,22 +90,24 @@ void Parser::labelledParameters(ChildList& children) {
     std::uint32_t count = 0;
     while (m_tokens.isAt(Word::of) || CallParser::isLabelWord(m_tokens.current().word)) {
         m_terms.calls().countParameter(count);
+        const std::uint32_t offset = m_tokens.offset();
         const NameId label = m_terms.calls().labelHere();
-        children.append(parameter(label));
+        children.append(parameter(label, offset));
     }
     if (!m_tokens.accept(Word::given)) return;
     do {
         if (!m_terms.expectName()) return;
         m_terms.calls().countParameter(count);
+        const std::uint32_t offset = m_tokens.offset();
         const NameId label = m_terms.nameHere();
         if (!m_tokens.accept(TokenKind::colon)) m_tokens.expected("“:”");
-        children.append(parameter(label));
+        children.append(parameter(label, offset));
     } while (m_tokens.accept(TokenKind::comma));
 }
 
-NodeId Parser::parameter(NameId label) {
+NodeId Parser::parameter(NameId label, std::uint32_t offset) {
     m_tokens.skipFiller();
-    const NodeId node = m_tree.add(NodeKind::parameter, m_tokens.offset(), label);
+    const NodeId node = m_tree.add(NodeKind::parameter, offset, label);
     ChildList(m_tree, node).append(pattern());
     return node;
 }

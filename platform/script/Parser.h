@@ -44,7 +44,7 @@ class Parser {
     void runParameters(ChildList& children);
     void positionalParameters(ChildList& children);
     void labelledParameters(ChildList& children);
-    NodeId parameter(NameId label);
+    NodeId parameter(NameId label, std::uint32_t offset);
     NodeId pattern();
     void handlerEnd(std::string_view name);
 

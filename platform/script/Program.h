@@ -28,13 +28,14 @@ enum class Operation : std::uint8_t {
     pushResult,
     pushApplication,  ///< [index of the name into texts; 1 if it is System Events]
     pushDelimiters,
-    makeProcess,  ///< takes the name
-    pushList,     ///< takes items, the last one on top [their count]
-    pushRecord,   ///< takes values likewise [index into shapes]
-    loadLocal,    ///< [slot]
-    loadGlobal,   ///< [slot]
-    storeLocal,   ///< takes the value [slot]
-    storeGlobal,  ///< takes the value [slot]
+    makeApplication,  ///< takes the name
+    makeProcess,      ///< takes the name
+    pushList,         ///< takes items, the last one on top [their count]
+    pushRecord,       ///< takes values likewise [index into shapes]
+    loadLocal,        ///< [slot]
+    loadGlobal,       ///< [slot]
+    storeLocal,       ///< takes the value [slot]
+    storeGlobal,      ///< takes the value [slot]
     duplicate,
     drop,
     deepCopy,   ///< replaces the top by a copy that shares nothing

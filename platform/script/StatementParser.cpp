@@ -135,8 +135,7 @@ NodeId StatementParser::setClipboard(std::uint32_t offset) {
 }
 
 NodeId StatementParser::copy(Word preposition) {
-    const NodeId node =
-        m_tree.add(preposition == Word::to ? NodeKind::copy : NodeKind::set, m_tokens.offset());
+    const NodeId node = m_tree.add(NodeKind::copy, m_tokens.offset());
     m_tokens.advance();
     const NodeId value = m_terms.expressions().expression();
     if (!m_tokens.accept(preposition)) m_tokens.expected(preposition == Word::to ? "“to”" : "“into”");
@@ -185,13 +184,24 @@ bool StatementParser::isSettable(NodeId node) const {
     }
 }
 
+bool StatementParser::isOperatorAhead() const {
+    constexpr std::array signs{TokenKind::ampersand, TokenKind::equal,        TokenKind::notEqual,
+                               TokenKind::less,      TokenKind::lessEqual,    TokenKind::greater,
+                               TokenKind::star,      TokenKind::greaterEqual, TokenKind::slash,
+                               TokenKind::caret};
+    static constexpr std::array<Phrase, 19> words{
+        "is",     "isn't",  "as",    "and",  "or",    "contains", "does", "doesn't", "equals", "equal",
+        "begins", "starts", "start", "ends", "comes", "div",      "mod",  "greater", "less"};
+    const Token& next = m_tokens.ahead();
+    if (std::find(signs.begin(), signs.end(), next.kind) != signs.end()) return true;
+    return next.is(TokenKind::identifier) && std::any_of(words.begin(), words.end(), [&](const Phrase& word) {
+               return m_tokens.isAtTerm(word, 1);
+           });
+}
+
 /// `return` is the text constant where an operator follows that begins no expression.
 NodeId StatementParser::returnValue() {
-    const TokenKind next = m_tokens.ahead().kind;
-    const bool isConstant = next == TokenKind::ampersand || next == TokenKind::equal ||
-                            next == TokenKind::notEqual || m_tokens.isAtTerm("is", 1) ||
-                            m_tokens.isAtTerm("as", 1);
-    if (isConstant) return evaluate();
+    if (isOperatorAhead()) return evaluate();
     const NodeId node = m_tree.add(NodeKind::returnValue, m_tokens.offset());
     m_tokens.advance();
     if (!m_tokens.isAtLineEnd()) ChildList(m_tree, node).append(m_terms.expressions().expression());

@@ -59,6 +59,7 @@ class StatementParser {
     NodeId set();
     NodeId copy(Word preposition);
     bool isSettable(NodeId node) const;
+    bool isOperatorAhead() const;
     NodeId returnValue();
     NodeId raise();
     NodeId exitRepeat();

@@ -75,18 +75,13 @@ NodeId TermParser::term() {
     if (const auto command = commandHere()) return m_commands.command(*command);
     if (refuseIncompleteCommand()) return noNode;
     const Word word = m_tokens.current().word;
-    if (word == Word::script) return known(scriptTerm());
+    if (word == Word::script && !m_readsTarget) return known(scriptTerm());
     if (isAtApplication()) return application();
     if (isAtProcess()) return process();
     if (!m_tokens.means(word) || kindOf(word) == WordKind::special) return nameTerm();
     if (find(modifierWords, word) != nullptr) return modifierConstant();
     m_tokens.expected("expression");
     return noNode;
-}
-
-bool TermParser::isAtApplication() const {
-    if (!m_tokens.isAt(Word::application) && !m_tokens.isAt(Word::app)) return false;
-    return m_tokens.ahead().is(TokenKind::text) || m_tokens.isAtTerm("id", 1);
 }
 
 /// The first word of commands, and none of their second ones behind it.
@@ -185,8 +180,9 @@ NodeId TermParser::modifierConstant() {
 NodeId TermParser::wordTerm() {
     if (m_tokens.current().text.front() == '|') return nameTerm();
     if (m_tokens.isAtTerm("missing value")) {
+        const NodeId node = leaf(NodeKind::missingValue);
         m_tokens.advance();
-        return leaf(NodeKind::missingValue);
+        return node;
     }
     if (m_tokens.isAtTerm("text item delimiters")) return delimiters();
     if (m_tokens.isAtTerm("character id")) return m_elements.characterId();
@@ -237,7 +233,8 @@ NodeId TermParser::nameTerm() {
         return ofOwner(m_expressions.reference(), node);
     }
     const bool mayBeLabelled = CallParser::isLabelWord(m_tokens.ahead().word) ||
-                               m_tokens.ahead().is(Word::given) || m_tokens.ahead().is(Word::of);
+                               m_tokens.ahead().is(Word::given) || m_tokens.ahead().is(Word::of) ||
+                               m_tokens.ahead().is(Word::with) || m_tokens.ahead().is(Word::without);
     if (mayBeLabelled && m_calls.isLabelledHandler(m_tokens.current())) return m_calls.labelled();
     if (m_tokens.ahead().is(Word::of) || longPropertyHere(m_tokens)) return property();
     return plainName();
@@ -294,10 +291,24 @@ bool TermParser::expectName() {
     return isName;
 }
 
-/// application = ( application | app ) [id] text
+/// By itself, and where a sign or a word of the language follows, it is a class or a name.
+bool TermParser::isAtApplication() const {
+    const Token& next = m_tokens.ahead();
+    return (m_tokens.isAt(Word::application) || m_tokens.isAt(Word::app)) &&
+           (next.is(TokenKind::text) || m_tokens.isAtTerm("id", 1) ||
+            (next.is(TokenKind::identifier) && next.is(Word::none)));
+}
+
+/// application = ( application | app ) [id] text | ( application | app ) ( name | "(" expression ")" )
 NodeId TermParser::application() {
     const std::uint32_t offset = m_tokens.offset();
     m_tokens.advance();
+    const bool isName = m_tokens.isAt(TokenKind::identifier) && m_tokens.current().is(Word::none);
+    if (isName || m_tokens.isAt(TokenKind::leftParenthesis)) {
+        const NodeId node = m_tree.add(NodeKind::application, offset);
+        ChildList(m_tree, node).append(m_expressions.index());
+        return node;
+    }
     const bool byIdentifier = m_tokens.accept(Word::id);
     const NodeId literal = m_expressions.textLiteral();
     if (m_tokens.failed()) return noNode;
@@ -314,12 +325,19 @@ bool TermParser::isAtProcess() const {
                                             ahead == TokenKind::leftParenthesis);
 }
 
-/// process = [application] process reference. Keys go to whatever is in front, whoever is told.
+/// process = [application] process reference [of application]. Keys go to whatever is in front, whoever is
+/// told.
 NodeId TermParser::process() {
     const NodeId node = m_tree.add(NodeKind::process, m_tokens.offset());
     m_tokens.accept(Word::application);
     m_tokens.advance();
     ChildList(m_tree, node).append(m_expressions.reference());
+    const bool isOwned =
+        m_tokens.isAt(Word::of) && (m_tokens.ahead().is(Word::application) || m_tokens.ahead().is(Word::app));
+    if (isOwned) {
+        m_tokens.advance();
+        application();
+    }
     return node;
 }
 

@@ -42,6 +42,7 @@ class TermParser {
     NodeId application();
     NodeId process();
     bool isAtProcess() const;
+    bool isAtApplication() const;
 
     /// `1st`, `2nd`
     bool isAtNumberedOrdinal() const;
@@ -72,7 +73,6 @@ class TermParser {
     NodeId property();
     NodeId contents();
     NodeId delimiters();
-    bool isAtApplication() const;
     bool refuseForbidden();
     bool refuseIncompleteCommand();
 

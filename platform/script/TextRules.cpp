@@ -134,6 +134,16 @@ class Finder {
     std::vector<std::size_t> m_borders;
 };
 
+std::vector<Stretch> charactersOf(std::string_view text) {
+    std::vector<Stretch> characters;
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t start = position;
+        takeCharacter(text, position);
+        characters.push_back({start, position});
+    }
+    return characters;
+}
+
 /// The nearest of several delimiters: each remembers where it comes next, so that all of them together walk
 /// the text once each.
 class DelimiterFinder {
@@ -144,6 +154,9 @@ class DelimiterFinder {
             if (finder.length() > 0) m_rows.push_back({std::move(finder), 0, false});
         }
     }
+
+    /// Whether there is nothing to be found: no delimiter, or empty ones.
+    bool isEmpty() const { return m_rows.empty(); }
 
     /// Where the next delimiter begins and ends, in characters; false if there is none.
     bool next(std::size_t from, Stretch& found) {
@@ -212,6 +225,7 @@ std::vector<Stretch> textItemsOf(std::string_view text, const TextRules& rules) 
     if (text.empty()) return items;
     const Folded whole = folded(text, rules);
     DelimiterFinder delimiters(whole.characters, rules);
+    if (delimiters.isEmpty()) return charactersOf(text);
     std::size_t start = 0;
     Stretch found;
     for (std::size_t from = 0; delimiters.next(from, found); from = found.end) {

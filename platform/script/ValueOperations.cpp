@@ -9,6 +9,7 @@
 #include "platform/script/Execution.h"
 #include "platform/script/OperationTable.h"
 #include "platform/script/Spelling.h"
+#include "platform/script/SystemEvents.h"
 #include "platform/script/Terms.h"
 
 namespace script {
@@ -42,13 +43,21 @@ void pushApplication(Execution& run, const Instruction& here) {
     run.push(Value{makeShared<TargetBody>(kind, run.program().texts[here.operand])});
 }
 
-void makeProcess(Execution& run, const Instruction& /*unused*/) {
+void makeNamed(Execution& run, TargetBody::Kind kind) {
     const Value name = run.popResolved();
+    if (run.hasFailed()) return;
     Fallible<std::string> text = textOf(name);
     if (auto* failure = std::get_if<Failure>(&text)) return run.fail(std::move(*failure));
-    run.push(Value{
-        makeShared<TargetBody>(TargetBody::Kind::process, Text(std::get<std::string>(std::move(text))))});
+    const auto& spelled = std::get<std::string>(text);
+    const bool isApplication = kind == TargetBody::Kind::application;
+    if (isApplication && isSystemEvents(spelled, false)) kind = TargetBody::Kind::systemEvents;
+    run.push(Value{makeShared<TargetBody>(kind, Text(spelled))});
 }
+
+void makeApplication(Execution& run, const Instruction& /*unused*/) {
+    makeNamed(run, TargetBody::Kind::application);
+}
+void makeProcess(Execution& run, const Instruction& /*unused*/) { makeNamed(run, TargetBody::Kind::process); }
 
 void pushList(Execution& run, const Instruction& here) {
     run.work(here.operand);
@@ -289,6 +298,7 @@ void addValueOperations(OperationTable& table) {
     add(Operation::pushResult, pushResult);
     add(Operation::pushApplication, pushApplication);
     add(Operation::pushDelimiters, pushDelimiters);
+    add(Operation::makeApplication, makeApplication);
     add(Operation::makeProcess, makeProcess);
     add(Operation::pushList, pushList);
     add(Operation::pushRecord, pushRecord);

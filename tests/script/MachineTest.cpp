@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include "RecordingInjector.h"
 #include "Traced.h"
+#include "platform/script/Compiler.h"
+#include "platform/script/MachineServices.h"
 
 namespace {
 
@@ -110,8 +113,23 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Row{"a process", "tell process \"P\" to key code 1", "[\"key\",1,[]]\n"},
                     Row{"a process without a name", "tell process foo to key code 1",
                         "-2753 The variable foo is not defined."},
-                    Row{"an application that is not there", "key code 1\ntell app \"Other\" to delay",
-                        "[\"key\",1,[]]\n-1728 Can’t get application \"Other\"."}));
+                    Row{"an application that may be there", "key code 1\ntell app \"Other\" to delay",
+                        "[\"key\",1,[]]\n[\"delay\",0]\n"}));
+
+TEST(MachineTest, anApplicationThatIsNotThereFailsWhereItIsTold) {
+    for (const char* source : {"delay\ntell app \"Other\" to delay", "\ntell app \"Other\" to activate"}) {
+        const auto compiled = script::compile(source);
+        RecordingInjector injector;
+        script::SilentDesktop desktop;
+        script::NoDialogs dialogs;
+        script::Machine machine(std::get<script::Program>(compiled), {injector, desktop, dialogs});
+        const script::RunResult result = machine.run();
+        ASSERT_TRUE(result.error) << source;
+        EXPECT_EQ(result.error->number, -1728);
+        EXPECT_EQ(result.error->message, "Can’t get application \"Other\".");
+        EXPECT_EQ(result.error->location.line, 2U);
+    }
+}
 
 TEST(MachineTest, errorsNameTheirPlace) {
     const Traced result = traced("tell app \"System Events\"\n\tdelay 1\n\tdelay 1 + \"x\"\nend");

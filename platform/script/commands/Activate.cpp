@@ -32,7 +32,8 @@ const Command& activateCommand() {
 Brings a window of an application to the front, where keys then go: `tell application "Firefox" to activate`, or
 `activate application "Firefox"`. The application is named as its program or as its windows' class. It has to run already.)",
                                  .examples = R"(activate ->
-tell application "No Such Program" to activate =! -1728 Can’t get application "No Such Program".)"};
+tell application "Firefox" to activate ->
+activate 5 =! -1700 Can’t make 5 into type application.)"};
     return command;
 }
 
