@@ -53,9 +53,13 @@ std::string Editor::saved(const std::string& expected, std::chrono::milliseconds
     return saved();
 }
 
+// A window that is not quite on the screen refuses the focus; it is given again until it is taken.
 void Editor::focus() const {
-    run({"xdotool", "windowfocus", "--sync", m_window});
-    if (!eventually([this] { return hasFocus(); })) throw std::runtime_error("the editor gets no focus");
+    const auto take = [this] {
+        run({"xdotool", "windowfocus", m_window});
+        return hasFocus();
+    };
+    if (!eventually(take)) throw std::runtime_error("the editor gets no focus");
 }
 
 // A toolkit may hand the focus on to a window inside its own.
