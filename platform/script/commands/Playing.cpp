@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/commands/Playing.h"
 
+#include <string_view>
 #include <utility>
 
 #include "platform/KeyCodes.h"
+#include "platform/Utf8.h"
 #include "platform/script/Advice.h"
 #include "platform/script/Coercion.h"
 #include "platform/script/ScriptError.h"
@@ -21,18 +23,25 @@ bool isPower(std::uint32_t code) {
     return base == keycode::power || base == keycode::evdevBase + evdevPower;
 }
 
-/// Empty for a key that does not exist and for empty text.
-std::variant<std::optional<HeldKey>, Failure> heldKey(CommandStage& stage, const Value& value) {
-    if (const auto* constant = value.as<Modifier>())
-        return std::optional<HeldKey>(HeldModifier{constant->modifier});
+/// Adds what `value` names: nothing for a key that does not exist, of a text each character's key.
+std::optional<Failure> addHeldKeys(CommandStage& stage, const Value& value, std::vector<HeldKey>& held) {
+    if (const auto* constant = value.as<Modifier>()) {
+        held.emplace_back(HeldModifier{constant->modifier});
+        return std::nullopt;
+    }
     if (const std::string* text = value.text()) {
-        if (text->empty()) return std::optional<HeldKey>();
-        return std::optional<HeldKey>(HeldText{*text});
+        for (std::string_view left = *text; !left.empty();) {
+            const std::size_t length = firstCharacter(left).length;
+            held.emplace_back(HeldText{std::string(left.substr(0, length))});
+            left.remove_prefix(length);
+        }
+        return std::nullopt;
     }
     auto code = keyCodeOf(value);
     if (auto* failure = std::get_if<Failure>(&code)) return std::move(*failure);
-    if (!isPlayable(stage, std::get<std::uint32_t>(code))) return std::optional<HeldKey>();
-    return std::optional<HeldKey>(HeldCode{std::get<std::uint32_t>(code)});
+    const auto number = std::get<std::uint32_t>(code);
+    if (isPlayable(stage, number)) held.emplace_back(HeldCode{number});
+    return std::nullopt;
 }
 
 }  // namespace
@@ -73,10 +82,8 @@ Fallible<Value> hold(CommandStage& stage, const Value& keys, bool down) {
     for (const Value& item : itemsOf(keys)) {
         Fallible<Value> value = resolved(item);
         if (auto* failure = std::get_if<Failure>(&value)) return std::move(*failure);
-        auto key = heldKey(stage, std::get<Value>(value));
-        if (auto* failure = std::get_if<Failure>(&key)) return std::move(*failure);
-        auto& found = std::get<std::optional<HeldKey>>(key);
-        if (found) held.push_back(*std::move(found));
+        auto failure = addHeldKeys(stage, std::get<Value>(value), held);
+        if (failure) return *std::move(failure);
     }
     for (const HeldKey& key : held) {
         auto failure = stage.play(
