@@ -3,7 +3,7 @@
 
 #include "platform/x11/XConnection.h"
 
-/// The names of the selection CLIPBOARD (ICCCM 2, section 2; Clipboard Manager specification 0.1).
+/// The names of the selection CLIPBOARD (ICCCM 2, section 2; Clipboard Manager standard 0.1).
 struct SelectionAtoms {
     explicit SelectionAtoms(const XConnection& connection)
         : clipboard(connection.atom("CLIPBOARD")),
