@@ -5,7 +5,7 @@
 #include <QDBusServiceWatcher>
 #include <QObject>
 
-/// Watches the session bus for a host of status notifier items (StatusNotifierItem specification,
+/// Watches the session bus for a host of status notifier items (StatusNotifierItem standard,
 /// "StatusNotifierWatcher"), without a blocking call. No session bus: no host.
 ///
 /// The watcher's name alone means little: only its property says whether anybody shows the items.
