@@ -14,6 +14,10 @@ std::string toSystemEvents(const std::string& lines) {
 
 /// A macro that asks, played by its hot key while a terminal is being typed into.
 class ScriptDialogTest : public testing::TestWithParam<WindowManager> {
+  public:
+    ScriptDialogTest(const ScriptDialogTest&) = delete;
+    ScriptDialogTest& operator=(const ScriptDialogTest&) = delete;
+
   protected:
     ScriptDialogTest() {
         desktop.startWindowManager(GetParam());
@@ -24,8 +28,6 @@ class ScriptDialogTest : public testing::TestWithParam<WindowManager> {
         EXPECT_EQ(bystander->typed(), "");
         EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
     }
-    ScriptDialogTest(const ScriptDialogTest&) = delete;
-    ScriptDialogTest& operator=(const ScriptDialogTest&) = delete;
 
     void awaitQuestion() const {
         const ScreenWindow window = desktop.awaitWindow(question);

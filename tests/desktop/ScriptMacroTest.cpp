@@ -35,8 +35,8 @@ class ScriptMacroTest : public DesktopTest {
         std::string output;
 
         friend bool operator==(const Told&, const Told&) = default;
-        friend void PrintTo(const Told& told, std::ostream* out) {
-            *out << told.status << "\n" << told.output;
+        friend std::ostream& operator<<(std::ostream& out, const Told& told) {
+            return out << told.status << "\n" << told.output;
         }
     };
     /// What keyrill-script says of a file that it is to play.
