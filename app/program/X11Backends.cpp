@@ -52,12 +52,10 @@ Service& oneOf(Service* available, Service& otherwise) {
 
 struct X11Backends::Parts {
     Parts(std::unique_ptr<SteadyClock> steadyClock, Result<std::unique_ptr<X11Keys>> openedKeys,
-          std::unique_ptr<X11ScriptDesktop> desktopForScripts, XConnection trayConnection,
-          XConnection windowConnection, const UpdateSource& updates)
+          XConnection trayConnection, XConnection windowConnection, const UpdateSource& updates)
         : clock(std::move(steadyClock)),
           unavailable(openedKeys ? Error() : openedKeys.error()),
           keys(openedKeys ? std::move(openedKeys).value() : nullptr),
-          scriptDesktop(std::move(desktopForScripts)),
           windows(std::move(windowConnection), *clock),
           dockingTray(std::move(trayConnection)),
           neutral(updates) {}
@@ -67,8 +65,8 @@ struct X11Backends::Parts {
     std::unique_ptr<X11Keys> keys;
     KeyInjector& keyInjector =
         oneOf<KeyInjector>(keys ? &keys->keyInjector : nullptr, unavailable.keyInjector);
-    std::unique_ptr<X11ScriptDesktop> scriptDesktop;
-    script::ScriptRunner scripting{keyInjector, *scriptDesktop};
+    X11ScriptDesktop scriptDesktop{*clock};
+    script::ScriptRunner scripting{keyInjector, scriptDesktop};
     X11Windows windows;
     X11DockingTray dockingTray;
     LinuxServices neutral;
@@ -117,20 +115,17 @@ Result<std::unique_ptr<X11Backends>> X11Backends::open(const std::string& update
     auto windowConnection = XConnection::open();
     if (!windowConnection) return windowConnection.error();
     auto clock = std::make_unique<SteadyClock>();
-    auto scriptDesktop = X11ScriptDesktop::open(*clock);
-    if (!scriptDesktop) return scriptDesktop.error();
     auto keys = openKeys(*clock);
     const X11SessionCheck check(X11SessionCheck::sessionOfProcess());
     // What the start-up finds out is told there.
     if (!keys && check.version() && check.access()) return keys.error();
     return std::unique_ptr<X11Backends>(new X11Backends(
-        std::make_unique<Parts>(std::move(clock), std::move(keys), std::move(scriptDesktop).value(),
-                                std::move(trayConnection).value(), std::move(windowConnection).value(),
-                                UpdateSource{updateUrl, authorities})));
+        std::make_unique<Parts>(std::move(clock), std::move(keys), std::move(trayConnection).value(),
+                                std::move(windowConnection).value(), UpdateSource{updateUrl, authorities})));
 }
 
 X11Backends::X11Backends(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
-X11Backends::~X11Backends() { m_parts->scriptDesktop->clipboardOfScripts().handOver(); }
+X11Backends::~X11Backends() { m_parts->scriptDesktop.clipboardOfScripts().handOver(); }
 
 Services& X11Backends::services() { return m_parts->services; }
 script::ScriptRunner& X11Backends::scripting() { return m_parts->scripting; }

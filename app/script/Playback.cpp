@@ -41,12 +41,8 @@ void setHandlers(void (*handler)(int)) {
 
 class X11Playback final : public Playback {
   public:
-    X11Playback(std::unique_ptr<SteadyClock> clock, std::unique_ptr<X11EventManager> events,
-                std::unique_ptr<X11ScriptDesktop> desktop)
-        : m_clock(std::move(clock)),
-          m_events(std::move(events)),
-          m_desktop(std::move(desktop)),
-          m_injector(m_events->runWatch(), *m_clock) {
+    X11Playback(std::unique_ptr<SteadyClock> clock, std::unique_ptr<X11EventManager> events)
+        : m_clock(std::move(clock)), m_events(std::move(events)), m_injector(m_events->runWatch(), *m_clock) {
         known().injector = &m_injector;
         setHandlers(handleSignal);
     }
@@ -59,15 +55,15 @@ class X11Playback final : public Playback {
     X11Playback& operator=(const X11Playback&) = delete;
 
     KeyInjector& injector() override { return m_injector; }
-    ScriptDesktop& desktop() override { return *m_desktop; }
-    void leaveClipboard() override { m_desktop->clipboardOfScripts().leave(); }
+    ScriptDesktop& desktop() override { return m_desktop; }
+    void leaveClipboard() override { m_desktop.clipboardOfScripts().leave(); }
     int signalNumber() const override { return known().received; }
     bool isLost() const override { return m_events->isBroken(); }
 
   private:
     std::unique_ptr<SteadyClock> m_clock;
     std::unique_ptr<X11EventManager> m_events;
-    std::unique_ptr<X11ScriptDesktop> m_desktop;
+    X11ScriptDesktop m_desktop{*m_clock};
     X11KeyInjector m_injector;
 };
 
@@ -77,8 +73,6 @@ Result<std::unique_ptr<Playback>> Playback::make() {
     auto clock = std::make_unique<SteadyClock>();
     Result<std::unique_ptr<X11EventManager>> events = X11EventManager::open(*clock);
     if (!events) return events.error();
-    auto desktop = X11ScriptDesktop::open(*clock);
-    if (!desktop) return desktop.error();
-    return std::unique_ptr<Playback>(std::make_unique<X11Playback>(
-        std::move(clock), std::move(events).value(), std::move(desktop).value()));
+    return std::unique_ptr<Playback>(
+        std::make_unique<X11Playback>(std::move(clock), std::move(events).value()));
 }

@@ -34,25 +34,40 @@ std::optional<ProcessState> stateOf(pid_t process) {
 
 }  // namespace
 
-Receivers::Receivers(XConnection connection, const Clock& clock)
-    : m_connection(std::move(connection)),
-      m_clock(clock),
-      m_protocols(m_connection.atom("WM_PROTOCOLS")),
-      m_ping(m_connection.atom("_NET_WM_PING")),
-      m_process(m_connection.atom("_NET_WM_PID")) {}
+struct Receivers::Server {
+    explicit Server(XConnection opened) : connection(std::move(opened)) {}
 
-void Receivers::note() { m_noted.insert(focused()); }
+    XConnection connection;
+    xcb_atom_t protocols = connection.atom("WM_PROTOCOLS");
+    xcb_atom_t ping = connection.atom("_NET_WM_PING");
+    xcb_atom_t process = connection.atom("_NET_WM_PID");
+};
+
+Receivers::Receivers(std::string display, const Clock& clock)
+    : m_display(std::move(display)), m_clock(clock) {}
+Receivers::~Receivers() = default;
+
+bool Receivers::open() {
+    if (m_server) return true;
+    auto connection = XConnection::open(m_display);
+    if (connection) m_server = std::make_unique<Server>(std::move(connection).value());
+    return m_server != nullptr;
+}
+
+void Receivers::note() {
+    if (open()) m_noted.insert(focused());
+}
 
 /// Where the focus follows the pointer, the window below it.
 xcb_window_t Receivers::focused() const {
     const XReply<xcb_get_input_focus_reply_t> reply(
-        xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+        xcb_get_input_focus_reply(m_server->connection, xcb_get_input_focus(m_server->connection), nullptr));
     if (!reply || reply->focus == XCB_WINDOW_NONE) return XCB_WINDOW_NONE;
     if (reply->focus != XCB_INPUT_FOCUS_POINTER_ROOT) return reply->focus;
-    xcb_window_t window = m_connection.root();
+    xcb_window_t window = m_server->connection.root();
     for (;;) {
-        const XReply<xcb_query_pointer_reply_t> pointer(
-            xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, window), nullptr));
+        const XReply<xcb_query_pointer_reply_t> pointer(xcb_query_pointer_reply(
+            m_server->connection, xcb_query_pointer(m_server->connection, window), nullptr));
         if (!pointer || pointer->child == XCB_WINDOW_NONE) return window;
         window = pointer->child;
     }
@@ -61,10 +76,10 @@ xcb_window_t Receivers::focused() const {
 /// The window and those that it lies in, without the root.
 std::vector<xcb_window_t> Receivers::lineOf(xcb_window_t window) const {
     std::vector<xcb_window_t> line;
-    while (window != XCB_WINDOW_NONE && window != m_connection.root()) {
+    while (window != XCB_WINDOW_NONE && window != m_server->connection.root()) {
         line.push_back(window);
-        const XReply<xcb_query_tree_reply_t> tree(
-            xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
+        const XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
+            m_server->connection, xcb_query_tree(m_server->connection, window), nullptr));
         if (!tree) break;
         window = tree->parent;
     }
@@ -74,7 +89,8 @@ std::vector<xcb_window_t> Receivers::lineOf(xcb_window_t window) const {
 std::vector<std::uint32_t> Receivers::property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const {
     constexpr std::uint32_t most = 64;
     const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_connection, xcb_get_property(m_connection, 0, window, name, type, 0, most), nullptr));
+        m_server->connection, xcb_get_property(m_server->connection, 0, window, name, type, 0, most),
+        nullptr));
     if (!reply || reply->format != 32) return {};
     const auto* first = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
     return {first, first + reply->value_len};
@@ -85,11 +101,11 @@ std::vector<std::uint32_t> Receivers::property(xcb_window_t window, xcb_atom_t n
 std::optional<Receivers::Receiver> Receivers::find(xcb_window_t window) const {
     std::optional<Receiver> byProcess;
     for (const xcb_window_t one : lineOf(window)) {
-        const auto process = property(one, m_process, XCB_ATOM_CARDINAL);
+        const auto process = property(one, m_server->process, XCB_ATOM_CARDINAL);
         const pid_t id = process.empty() ? 0 : static_cast<pid_t>(process.front());
         if (id == getpid()) return std::nullopt;
-        const auto protocols = property(one, m_protocols, XCB_ATOM_ATOM);
-        if (std::find(protocols.begin(), protocols.end(), m_ping) != protocols.end()) {
+        const auto protocols = property(one, m_server->protocols, XCB_ATOM_ATOM);
+        if (std::find(protocols.begin(), protocols.end(), m_server->ping) != protocols.end()) {
             return Receiver{.window = one, .answersPings = true};
         }
         if (id != 0 && !byProcess) byProcess = Receiver{.window = one, .process = id};
@@ -113,7 +129,7 @@ std::vector<Receivers::Receiver> Receivers::all() const {
 void Receivers::selectAnswers(bool on) const {
     const std::uint32_t mask =
         on ? XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_STRUCTURE_NOTIFY : XCB_EVENT_MASK_NO_EVENT;
-    xcb_change_window_attributes(m_connection, m_connection.root(), XCB_CW_EVENT_MASK, &mask);
+    xcb_change_window_attributes(m_server->connection, m_server->connection.root(), XCB_CW_EVENT_MASK, &mask);
 }
 
 void Receivers::ping(const Receiver& receiver) const {
@@ -121,19 +137,19 @@ void Receivers::ping(const Receiver& receiver) const {
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
     message.window = receiver.window;
-    message.type = m_protocols;
-    message.data.data32[0] = m_ping;
+    message.type = m_server->protocols;
+    message.data.data32[0] = m_server->ping;
     message.data.data32[1] = m_stamp;
     message.data.data32[2] = receiver.window;
-    xcb_send_event(m_connection, 0, receiver.window, XCB_EVENT_MASK_NO_EVENT,
+    xcb_send_event(m_server->connection, 0, receiver.window, XCB_EVENT_MASK_NO_EVENT,
                    reinterpret_cast<const char*>(&message));
 }
 
 void Receivers::readAnswers(std::vector<Receiver>& receivers) {
-    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
+    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_server->connection)}) {
         if ((event->response_type & 0x7F) != XCB_CLIENT_MESSAGE) continue;
         const auto& message = reinterpret_cast<const xcb_client_message_event_t&>(*event);
-        if (message.type != m_protocols || message.data.data32[0] != m_ping) continue;
+        if (message.type != m_server->protocols || message.data.data32[0] != m_server->ping) continue;
         if (message.data.data32[1] != m_stamp) continue;
         for (Receiver& receiver : receivers) {
             if (receiver.answersPings && receiver.window == message.data.data32[2]) receiver.isDone = true;
@@ -175,13 +191,13 @@ RunState Receivers::await(RunWait& wait, std::chrono::milliseconds longest) {
     for (const Receiver& receiver : receivers) {
         if (receiver.answersPings) ping(receiver);
     }
-    m_connection.roundTrip();
+    m_server->connection.roundTrip();
     RunState state = RunState::going;
     while (state == RunState::going && !areDone(receivers) && m_clock.now() < end) {
         state = wait.waitUntil(m_clock.now() + betweenLooks);
     }
     selectAnswers(false);
-    xcb_flush(m_connection);
+    xcb_flush(m_server->connection);
     for (const Receiver& receiver : receivers) {
         if (!receiver.isDone && state == RunState::going) m_silent.insert(receiver.window);
     }

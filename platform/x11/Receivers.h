@@ -3,8 +3,10 @@
 
 #include <sys/types.h>
 
+#include <memory>
 #include <optional>
 #include <set>
+#include <string>
 #include <vector>
 
 #include "platform/x11/Pacer.h"
@@ -19,8 +21,13 @@
 /// process is watched: one that has slept a while has nothing left to read.
 class Receivers {
   public:
-    /// The connection is this object's own: it is sent what happens to all windows while answers are awaited.
-    Receivers(XConnection connection, const Clock& clock);
+    /// Of the display, or of $DISPLAY if it is empty, over a connection of its own, as it is sent what
+    /// happens to all windows while answers are awaited. It is opened at the first use, which few runs come
+    /// to; while it cannot be, nobody is asked.
+    Receivers(std::string display, const Clock& clock);
+    ~Receivers();
+    Receivers(const Receivers&) = delete;
+    Receivers& operator=(const Receivers&) = delete;
 
     /// Whoever gets the keys now is one.
     void note();
@@ -41,6 +48,9 @@ class Receivers {
         bool isDone = false;
     };
 
+    struct Server;
+
+    bool open();
     xcb_window_t focused() const;
     std::vector<xcb_window_t> lineOf(xcb_window_t window) const;
     std::vector<std::uint32_t> property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const;
@@ -52,11 +62,9 @@ class Receivers {
     void look(Receiver& receiver) const;
     bool areDone(std::vector<Receiver>& receivers);
 
-    XConnection m_connection;
+    std::string m_display;
     const Clock& m_clock;
-    xcb_atom_t m_protocols;
-    xcb_atom_t m_ping;
-    xcb_atom_t m_process;
+    std::unique_ptr<const Server> m_server;
     std::set<xcb_window_t> m_noted;
     std::set<xcb_window_t> m_silent;
     /// What tells this round's answers from older ones.

@@ -14,11 +14,11 @@ std::string environment(const char* name) {
 
 /// What is made when the display is first needed.
 struct DisplayParts {
-    DisplayParts(InjectionConnection injection, std::unique_ptr<KeymapWatch> watch, XConnection asking,
-                 Clock& clock)
+    DisplayParts(InjectionConnection injection, std::unique_ptr<KeymapWatch> watch,
+                 const std::string& display, Clock& clock)
         : connection(std::move(injection)),
           keymap(std::move(watch)),
-          receivers(std::move(asking), clock),
+          receivers(display, clock),
           binder(connection, *keymap, receivers, clock),
           grab(keymap->connection(), clock) {}
 
@@ -60,10 +60,8 @@ Result<void> X11KeyInjector::start() {
     if (!connection) return connection.error();
     auto keymap = KeymapWatch::open(m_options.display);
     if (!keymap) return keymap.error();
-    auto asking = XConnection::open(m_options.display);
-    if (!asking) return asking.error();
-    m_parts->display = std::make_unique<DisplayParts>(
-        std::move(connection).value(), std::move(keymap).value(), std::move(asking).value(), m_clock);
+    m_parts->display = std::make_unique<DisplayParts>(std::move(connection).value(),
+                                                      std::move(keymap).value(), m_options.display, m_clock);
     if (m_parts->mark.takeStale()) releaseXtestKeys(m_parts->display->connection.get());
     m_parts->display->binder.clearLeftovers();
     return {};

@@ -49,15 +49,14 @@ TEST(LanguageRunTest, aScriptTypesExactlyItsText) {
 TEST(ScriptDesktopTest, whatIsSetIsWhatAnotherProgramGets) {
     const XServer server;
     SteadyClock clock;
-    auto ours = X11ScriptDesktop::open(clock, server.display());
-    auto theirs = X11ScriptDesktop::open(clock, server.display());
-    ASSERT_TRUE(ours && theirs);
-    EXPECT_EQ(theirs.value()->clipboard().value(), "");
-    ASSERT_TRUE(ours.value()->setClipboard("Grüße 😀"));
-    EXPECT_EQ(theirs.value()->clipboard().value(), "Grüße 😀");
-    EXPECT_EQ(ours.value()->clipboard().value(), "Grüße 😀");
-    ASSERT_TRUE(theirs.value()->setClipboard("b"));
-    EXPECT_TRUE(eventually([&] { return ours.value()->clipboard().value() == "b"; }));
+    X11ScriptDesktop ours(clock, server.display());
+    X11ScriptDesktop theirs(clock, server.display());
+    EXPECT_EQ(theirs.clipboard().value(), "");
+    ASSERT_TRUE(ours.setClipboard("Grüße 😀"));
+    EXPECT_EQ(theirs.clipboard().value(), "Grüße 😀");
+    EXPECT_EQ(ours.clipboard().value(), "Grüße 😀");
+    ASSERT_TRUE(theirs.setClipboard("b"));
+    EXPECT_TRUE(eventually([&] { return ours.clipboard().value() == "b"; }));
 }
 
 TEST(ScriptDesktopTest, aPasteTypedRightBehindFindsTheClipboard) {
