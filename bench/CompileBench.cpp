@@ -12,7 +12,7 @@
 #include <string>
 
 #include "Table.h"
-#include "platform/script/Compiler.h"
+#include "platform/script/code/Compiler.h"
 
 namespace {
 

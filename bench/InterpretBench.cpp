@@ -11,8 +11,8 @@
 #include <variant>
 
 #include "Table.h"
-#include "platform/script/Compiler.h"
-#include "platform/script/Machine.h"
+#include "platform/script/code/Compiler.h"
+#include "platform/script/run/Machine.h"
 
 namespace {
 

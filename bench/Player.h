@@ -6,8 +6,8 @@
 
 #include "platform/KeyInjector.h"
 #include "platform/linux/SteadyClock.h"
-#include "platform/x11/X11EventManager.h"
-#include "platform/x11/X11KeyInjector.h"
+#include "platform/x11/press/X11KeyInjector.h"
+#include "platform/x11/watch/X11EventManager.h"
 #include "support/Child.h"
 
 /// The injector of the program on a display, watched by the event manager as it is there.

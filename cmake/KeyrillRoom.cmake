@@ -39,6 +39,24 @@ function(keyrill_view view folder from)
     endforeach()
 endfunction()
 
+# Shows that whoever uses the target can include each of the headers first.
+function(keyrill_compile_alone target folder)
+    if(NOT KEYRILL_BUILD_TESTS OR NOT ARGN)
+        return()
+    endif()
+    set(alone "")
+    foreach(header IN LISTS ARGN)
+        string(MAKE_C_IDENTIFIER "${header}" name)
+        set(source "${CMAKE_CURRENT_BINARY_DIR}/alone/${name}.cpp")
+        file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"${folder}/${header}\"\n")
+        list(APPEND alone "${source}")
+    endforeach()
+    add_library(${target}_headers_alone OBJECT ${alone})
+    keyrill_compile_options(${target}_headers_alone)
+    set_target_properties(${target}_headers_alone PROPERTIES CXX_CLANG_TIDY "")
+    target_link_libraries(${target}_headers_alone PRIVATE ${target})
+endfunction()
+
 # keyrill_room(keyrill_core FOLDER core HEADERS Action.h ... SOURCES Action.cpp ... PRIVATE_HEADERS ...
 #              GENERATED_HEADERS ... USES keyrill_platform Boost::headers PRIVATE_USES XCB::XCB)
 # Generated headers are public and lie in the binary folder. Every public header is also compiled alone.
@@ -50,19 +68,13 @@ function(keyrill_room target)
     keyrill_view("${view}" "${room_FOLDER}" "${CMAKE_CURRENT_BINARY_DIR}" ${room_GENERATED_HEADERS})
     keyrill_view("${view}_private" "${room_FOLDER}" "${CMAKE_CURRENT_SOURCE_DIR}" ${room_PRIVATE_HEADERS})
 
-    set(alone "")
-    foreach(header IN LISTS room_HEADERS room_GENERATED_HEADERS)
-        string(MAKE_C_IDENTIFIER "${header}" name)
-        set(source "${CMAKE_CURRENT_BINARY_DIR}/alone/${name}.cpp")
-        file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"${room_FOLDER}/${header}\"\n")
-        list(APPEND alone "${source}")
-    endforeach()
-
     if(room_SOURCES)
         add_library(${target} STATIC ${room_SOURCES})
         keyrill_compile_options(${target})
         target_include_directories(${target} PUBLIC "${view}" PRIVATE "${view}_private")
         target_link_libraries(${target} PUBLIC ${room_USES} PRIVATE ${room_PRIVATE_USES})
+        # For keyrill_inside.
+        set_target_properties(${target} PROPERTIES KEYRILL_PRIVATE_USES "${room_PRIVATE_USES}")
     else()
         add_library(${target} INTERFACE)
         target_compile_features(${target} INTERFACE cxx_std_20)
@@ -70,25 +82,58 @@ function(keyrill_room target)
         target_link_libraries(${target} INTERFACE ${room_USES})
     endif()
 
-    if(KEYRILL_BUILD_TESTS AND alone)
-        add_library(${target}_headers_alone OBJECT ${alone})
-        keyrill_compile_options(${target}_headers_alone)
-        set_target_properties(${target}_headers_alone PROPERTIES CXX_CLANG_TIDY "")
-        target_link_libraries(${target}_headers_alone PRIVATE ${target})
-    endif()
+    keyrill_compile_alone(${target} ${room_FOLDER} ${room_HEADERS} ${room_GENERATED_HEADERS})
 endfunction()
 
-# keyrill_test(core_test LABEL unit SOURCES ... USES ...): one GoogleTest program for a folder. The tests of a
+# keyrill_house(keyrill_script FOLDER platform/script SHOWS run/ScriptRunner.h ... USES keyrill_platform
+#               ROOMS keyrill_script_run ...)
+# Several rooms as one library: whoever uses it sees the headers that it shows, and links the rooms.
+function(keyrill_house target)
+    cmake_parse_arguments(house "" "FOLDER" "SHOWS;USES;ROOMS" ${ARGN})
+    set(view "${PROJECT_BINARY_DIR}/view/${target}")
+    file(REMOVE_RECURSE "${view}")
+    keyrill_view("${view}" "${house_FOLDER}" "${CMAKE_CURRENT_SOURCE_DIR}" ${house_SHOWS})
+    add_library(${target} INTERFACE)
+    target_include_directories(${target} INTERFACE "${view}")
+    list(TRANSFORM house_ROOMS REPLACE "(.+)" "$<LINK_ONLY:\\1>")
+    target_link_libraries(${target} INTERFACE ${house_USES} ${house_ROOMS})
+    keyrill_compile_alone(${target} ${house_FOLDER} ${house_SHOWS})
+endfunction()
+
+# keyrill_own_view(keyrill_script_tool FOLDER cli HEADERS Report.h ...): a program's own headers, for itself.
+function(keyrill_own_view target)
+    cmake_parse_arguments(own "" "FOLDER" "HEADERS" ${ARGN})
+    set(view "${PROJECT_BINARY_DIR}/view/${target}")
+    file(REMOVE_RECURSE "${view}")
+    keyrill_view("${view}" "${own_FOLDER}" "${CMAKE_CURRENT_SOURCE_DIR}" ${own_HEADERS})
+    target_include_directories(${target} PRIVATE "${view}")
+endfunction()
+
+# keyrill_inside(core_test keyrill_x11_watch ...): shows a test what those rooms see themselves.
+function(keyrill_inside target)
+    foreach(room IN LISTS ARGN)
+        get_target_property(uses ${room} KEYRILL_PRIVATE_USES)
+        if(NOT uses)
+            set(uses "")
+        endif()
+        target_link_libraries(${target} PRIVATE ${room} ${uses})
+        target_include_directories(${target} PRIVATE "${PROJECT_BINARY_DIR}/view/${room}"
+                                                     "${PROJECT_BINARY_DIR}/view/${room}_private")
+    endforeach()
+endfunction()
+
+# keyrill_test(core_test LABEL unit SOURCES ... USES ... INSIDE keyrill_core): one GoogleTest program for a folder. The tests of a
 # desktop program are run each for itself, with displays of their own; a unit program is run whole, because to
 # start it takes longer than all of its tests.
 function(keyrill_test target)
-    cmake_parse_arguments(test "" "LABEL;TIMEOUT" "SOURCES;USES;PROPERTIES" ${ARGN})
+    cmake_parse_arguments(test "" "LABEL;TIMEOUT" "SOURCES;USES;INSIDE;PROPERTIES" ${ARGN})
     if(NOT test_TIMEOUT)
         set(test_TIMEOUT 60)
     endif()
     add_executable(${target} ${test_SOURCES})
     keyrill_compile_options(${target})
     target_link_libraries(${target} PRIVATE ${test_USES} GTest::gtest GTest::gtest_main)
+    keyrill_inside(${target} ${test_INSIDE})
     set(properties LABELS ${test_LABEL} TIMEOUT ${test_TIMEOUT} ${test_PROPERTIES})
     if(test_LABEL STREQUAL "unit")
         add_test(NAME ${target} COMMAND ${target})

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "platform/Encoding.h"
-#include "platform/script/Lexer.h"
+#include "platform/script/source/Lexer.h"
 
 // NOLINTNEXTLINE(readability-identifier-naming): the name that the fuzzer calls
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -7,8 +7,8 @@
 #include <variant>
 
 #include "platform/Encoding.h"
-#include "platform/script/Compiler.h"
-#include "platform/script/Formatter.h"
+#include "platform/script/code/Compiler.h"
+#include "platform/script/syntax/Formatter.h"
 
 // NOLINTNEXTLINE(readability-identifier-naming): the name that the fuzzer calls
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

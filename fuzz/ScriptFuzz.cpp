@@ -10,8 +10,8 @@
 #include "platform/Encoding.h"
 #include "platform/KeyInjector.h"
 #include "platform/Utf8.h"
-#include "platform/script/Compiler.h"
-#include "platform/script/Machine.h"
+#include "platform/script/code/Compiler.h"
+#include "platform/script/run/Machine.h"
 
 namespace {
 

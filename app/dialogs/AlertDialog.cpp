@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <QStyle>
 
-#include "app/ProgramIcon.h"
-#include "app/panels/PanelText.h"
+#include "app/icons/ProgramIcon.h"
+#include "app/widgets/PanelText.h"
 
 namespace {
 

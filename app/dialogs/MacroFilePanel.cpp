@@ -5,8 +5,8 @@
 #include <QLineEdit>
 #include <QSettings>
 
-#include "app/MacroFileName.h"
-#include "app/ProgramIcon.h"
+#include "app/dialogs/MacroFileName.h"
+#include "app/icons/ProgramIcon.h"
 
 namespace {
 

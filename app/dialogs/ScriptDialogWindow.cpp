@@ -13,8 +13,8 @@
 #include <chrono>
 #include <limits>
 
-#include "app/ProgramIcon.h"
-#include "app/panels/PanelText.h"
+#include "app/icons/ProgramIcon.h"
+#include "app/widgets/PanelText.h"
 
 namespace {
 

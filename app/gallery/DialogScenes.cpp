@@ -7,7 +7,6 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "app/PreferencesModel.h"
 #include "app/dialogs/AlertSheet.h"
 #include "app/dialogs/AlertTexts.h"
 #include "app/dialogs/MacroFilePanel.h"
@@ -15,6 +14,7 @@
 #include "app/gallery/Camera.h"
 #include "app/gallery/Scenes.h"
 #include "app/panels/PreferencesPanel.h"
+#include "app/shortcuts/PreferencesModel.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 
 #include "app/gallery/Camera.h"
 #include "app/gallery/Scenes.h"
+#include "app/icons/StatusIcon.h"
 #include "app/tray/MenuState.h"
-#include "app/tray/StatusIcon.h"
 #include "app/tray/StatusMenu.h"
 
 namespace {

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "app/PreferencesModel.h"
 #include "app/gallery/Camera.h"
 #include "app/gallery/Scenes.h"
 #include "app/overlay/MultiplePlayWindow.h"
@@ -8,8 +7,9 @@
 #include "app/overlay/SplashWindow.h"
 #include "app/panels/AboutPanel.h"
 #include "app/panels/PreferencesPanel.h"
-#include "app/panels/SRRecorderControl.h"
 #include "app/panels/WelcomePanel.h"
+#include "app/shortcuts/PreferencesModel.h"
+#include "app/shortcuts/SRRecorderControl.h"
 #include "app/tray/ControlWindow.h"
 #include "app/tray/StatusMenu.h"
 

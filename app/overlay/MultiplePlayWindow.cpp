@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "app/DataFolder.h"
+#include "app/icons/DataFolder.h"
 #include "app/overlay/MultiplePlayView.h"
 #include "app/overlay/OverlayPanel.h"
 

@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-#include "app/overlay/PictureReference.h"
+#include "app/icons/PictureReference.h"
 
 /// The picture behind a translucent window: a dark panel with a mark where its line begins. Where the
 /// picture's file is missing there is nothing but what lies behind the window.

@@ -5,8 +5,8 @@
 #include <QHBoxLayout>
 #include <QScreen>
 
-#include "app/DataFolder.h"
-#include "app/MacroText.h"
+#include "app/icons/DataFolder.h"
+#include "app/overlay/MacroText.h"
 #include "app/overlay/OverlayPanel.h"
 #include "app/overlay/OverlayPlacement.h"
 #include "app/overlay/RecorderView.h"

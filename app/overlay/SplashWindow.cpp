@@ -5,10 +5,10 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "app/DataFolder.h"
+#include "app/icons/DataFolder.h"
 #include "app/overlay/OverlayPanel.h"
 #include "app/overlay/SplashAnimation.h"
-#include "app/panels/PanelText.h"
+#include "app/widgets/PanelText.h"
 
 SplashWindow::SplashWindow() : SplashWindow(dataFolder()) {}
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/overlay/PictureReference.h"
-#include "app/panels/Panel.h"
+#include "app/icons/PictureReference.h"
+#include "app/widgets/Panel.h"
 
 class SplashAnimation;
 

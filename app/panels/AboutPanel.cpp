@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <string_view>
 
-#include "app/panels/PanelText.h"
+#include "app/widgets/PanelText.h"
 #include "platform/Features.h"
 
 namespace {

@@ -7,10 +7,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/PreferencesModel.h"
-#include "app/panels/NoticeLine.h"
-#include "app/panels/PanelText.h"
-#include "app/panels/SRRecorderControl.h"
+#include "app/shortcuts/PreferencesModel.h"
+#include "app/shortcuts/SRRecorderControl.h"
+#include "app/widgets/NoticeLine.h"
+#include "app/widgets/PanelText.h"
 
 namespace {
 

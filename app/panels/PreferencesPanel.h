@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/panels/Panel.h"
+#include "app/widgets/Panel.h"
 
 class QFormLayout;
 class QLayout;

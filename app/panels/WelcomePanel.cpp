@@ -5,9 +5,9 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "app/CombinationText.h"
-#include "app/PreferencesModel.h"
-#include "app/panels/PanelText.h"
+#include "app/shortcuts/CombinationText.h"
+#include "app/shortcuts/PreferencesModel.h"
+#include "app/widgets/PanelText.h"
 
 namespace {
 

@@ -7,10 +7,10 @@
 #include "app/program/X11Backends.h"
 #include "platform/Windows.h"
 #include "platform/linux/BusLoop.h"
-#include "platform/script/ScriptRunner.h"
-#include "platform/x11/X11DockingTray.h"
-#include "platform/x11/X11EventManager.h"
-#include "platform/x11/X11KeyInjector.h"
+#include "platform/script/run/ScriptRunner.h"
+#include "platform/x11/press/X11KeyInjector.h"
+#include "platform/x11/watch/X11EventManager.h"
+#include "platform/x11/windows/X11DockingTray.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <memory>
 
-#include "app/AppController.h"
+#include "app/controller/AppController.h"
 #include "app/dialogs/QtDialogs.h"
 #include "app/program/TerminationSignals.h"
 #include "app/tray/TrayStatusItem.h"

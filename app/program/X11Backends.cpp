@@ -6,19 +6,19 @@
 #include <utility>
 
 #include "app/program/LinuxServices.h"
-#include "app/program/UnavailableKeys.h"
 #include "platform/Addresses.h"
 #include "platform/Services.h"
 #include "platform/linux/SteadyClock.h"
-#include "platform/script/ScriptRunner.h"
-#include "platform/x11/X11Check.h"
-#include "platform/x11/X11DockingTray.h"
-#include "platform/x11/X11EventManager.h"
-#include "platform/x11/X11KeyInjector.h"
-#include "platform/x11/X11KeyboardLayout.h"
-#include "platform/x11/X11ScriptDesktop.h"
-#include "platform/x11/X11SessionCheck.h"
-#include "platform/x11/X11Windows.h"
+#include "platform/none/UnavailableKeys.h"
+#include "platform/script/run/ScriptRunner.h"
+#include "platform/x11/press/X11KeyInjector.h"
+#include "platform/x11/server/X11Check.h"
+#include "platform/x11/server/X11SessionCheck.h"
+#include "platform/x11/watch/X11EventManager.h"
+#include "platform/x11/watch/X11KeyboardLayout.h"
+#include "platform/x11/windows/X11DockingTray.h"
+#include "platform/x11/windows/X11ScriptDesktop.h"
+#include "platform/x11/windows/X11Windows.h"
 
 namespace {
 

@@ -7,10 +7,10 @@
 #include <QMenu>
 #include <QVBoxLayout>
 
-#include "app/ProgramIcon.h"
-#include "app/panels/NoticeLine.h"
-#include "app/panels/PanelText.h"
+#include "app/icons/ProgramIcon.h"
 #include "app/tray/MenuButton.h"
+#include "app/widgets/NoticeLine.h"
+#include "app/widgets/PanelText.h"
 
 namespace {
 constexpr int arrowGap = 16;

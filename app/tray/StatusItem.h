@@ -3,10 +3,10 @@
 
 #include <QString>
 
+#include "app/icons/StatusImage.h"
+
 class QMenu;
 class QWidget;
-
-enum class StatusImage { busy, normal, recording };
 
 /// The program's place in the desktop: an image with a menu.
 class StatusItem {

@@ -5,8 +5,8 @@
 #include <QMenu>
 #include <chrono>
 
+#include "app/icons/StatusIcon.h"
 #include "app/tray/ControlWindow.h"
-#include "app/tray/StatusIcon.h"
 
 namespace {
 constexpr std::chrono::seconds patience{3};

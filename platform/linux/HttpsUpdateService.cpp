@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The update service over libcurl. The library is loaded by the first check: with the two dozen libraries that it
-// needs in turn it would slow down every start, and most never check.
+// The update service over libcurl. The library is loaded by the first check: with the two dozen libraries
+// that it needs in turn it would slow down every start, and most never check.
 #include <curl/curl.h>
 #include <dlfcn.h>
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "app/AppController.h"
 #include "app/FakeDialogs.h"
+#include "app/controller/AppController.h"
 #include "app/tray/StatusItem.h"
 #include "engine/EngineTest.h"
 #include "platform/Windows.h"

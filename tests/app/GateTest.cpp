@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "app/Gate.h"
+#include "app/controller/Gate.h"
 
 #include <QPushButton>
 
 #include "app/AppTest.h"
-#include "app/dialogs/GatedDialogs.h"
+#include "app/controller/GatedDialogs.h"
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/RecorderWindow.h"
 #include "app/panels/PreferencesPanel.h"

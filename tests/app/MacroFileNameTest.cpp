@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/MacroFileName.h"
+#include "app/dialogs/MacroFileName.h"
 
 #include <gtest/gtest.h>
 

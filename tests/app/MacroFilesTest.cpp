@@ -2,7 +2,7 @@
 #include <QDir>
 
 #include "app/AppTest.h"
-#include "app/TildeExpansion.h"
+#include "app/controller/TildeExpansion.h"
 
 namespace {
 

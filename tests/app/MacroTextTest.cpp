@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/MacroText.h"
+#include "app/overlay/MacroText.h"
 
 #include <gtest/gtest.h>
 

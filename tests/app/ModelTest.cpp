@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "app/PreferencesModel.h"
+#include "app/shortcuts/PreferencesModel.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/panels/Panel.h"
+#include "app/widgets/Panel.h"
 
 #include <gtest/gtest.h>
 

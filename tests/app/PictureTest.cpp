@@ -4,12 +4,12 @@
 #include <QApplication>
 #include <filesystem>
 
+#include "app/icons/PictureReference.h"
+#include "app/icons/StatusIcon.h"
 #include "app/overlay/MultiplePlayView.h"
-#include "app/overlay/PictureReference.h"
 #include "app/overlay/RecorderView.h"
 #include "app/overlay/SplashAnimation.h"
 #include "app/overlay/SplashWindow.h"
-#include "app/tray/StatusIcon.h"
 #include "support/Child.h"
 
 namespace {

@@ -8,9 +8,9 @@
 #include <QPushButton>
 #include <QSet>
 
-#include "app/PreferencesModel.h"
-#include "app/panels/NoticeLine.h"
-#include "app/panels/SRRecorderControl.h"
+#include "app/shortcuts/PreferencesModel.h"
+#include "app/shortcuts/SRRecorderControl.h"
+#include "app/widgets/NoticeLine.h"
 #include "engine/EngineTest.h"
 
 namespace {

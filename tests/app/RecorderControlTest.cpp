@@ -6,8 +6,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "app/ShortcutModel.h"
-#include "app/panels/SRRecorderControl.h"
+#include "app/shortcuts/SRRecorderControl.h"
+#include "app/shortcuts/ShortcutModel.h"
 #include "engine/EngineTest.h"
 #include "platform/Modifiers.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/panels/ShortcutKey.h"
+#include "app/shortcuts/ShortcutKey.h"
 
 #include <gtest/gtest.h>
 

@@ -5,9 +5,9 @@
 #include "app/AppTest.h"
 #include "app/Journal.h"
 #include "app/RunLoop.h"
-#include "app/panels/NoticeLine.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/panels/WelcomePanel.h"
+#include "app/widgets/NoticeLine.h"
 #include "platform/Addresses.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include <QPushButton>
 
 #include "app/AppTest.h"
-#include "app/BugReport.h"
+#include "app/controller/BugReport.h"
 #include "app/panels/AboutPanel.h"
 #include "platform/Addresses.h"
 

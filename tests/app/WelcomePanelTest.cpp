@@ -6,8 +6,8 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "app/PreferencesModel.h"
 #include "app/panels/AboutPanel.h"
+#include "app/shortcuts/PreferencesModel.h"
 #include "engine/EngineTest.h"
 
 namespace {

@@ -11,7 +11,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "platform/x11/XConnection.h"
+#include "platform/x11/server/XConnection.h"
 
 namespace {
 

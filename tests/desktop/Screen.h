@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/x11/XConnection.h"
+#include "platform/x11/server/XConnection.h"
 
 /// A window that can be seen, as far as others do not cover it.
 struct ScreenWindow {

@@ -171,6 +171,7 @@ TEST_P(EditorPasteTest, aPasteTypedRightAfterwardsFindsIt) {
     EXPECT_EQ(pasted(), text);
 }
 
-INSTANTIATE_TEST_SUITE_P(Toolkit, EditorPasteTest, testing::Values(Editor::Toolkit::gtk, Editor::Toolkit::qt));
+INSTANTIATE_TEST_SUITE_P(Toolkit, EditorPasteTest,
+                         testing::Values(Editor::Toolkit::gtk, Editor::Toolkit::qt));
 
 }  // namespace

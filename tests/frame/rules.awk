@@ -4,27 +4,61 @@
 
 BEGIN {
     standard = "^[a-z_]+$"
-    common = "^platform/[A-Za-z0-9]+\\.h$"
     generated = "^[A-Za-z]+\\.(inc|moc)$"
 
-    # folder; what it may include in quotes; what it may, and may not, include in angle brackets. The longest
-    # folder that a file's path begins with counts; files elsewhere (tests, measurements) include what they like.
-    room("platform/", common, standard, "")
-    room("platform/fake/", common "|^platform/fake/", standard, "")
-    room("platform/script/", common "|^platform/script/", standard, "")
-    room("platform/linux/", common "|^platform/linux/", "", "^(Q|boost/|xcb/|X11/|xkbcommon/|wayland)")
-    room("platform/x11/", common "|^platform/x11/", "", "^(Q|boost/|wayland)")
-    room("platform/wayland/", common "|^platform/wayland/", "", "^(Q|boost/|xcb/|X11/)")
-    room("core/", "^(core|platform)/[A-Za-z]+\\.h$", standard "|^boost/", "")
-    room("prefs/", "^(prefs|core|platform)/[A-Za-z]+\\.h$", standard "|^boost/", "")
-    room("engine/", "^(engine|prefs|core|platform)/[A-Za-z]+\\.h$", standard "|^boost/", "")
-    room("app/", "^app/|^(engine|prefs|core|platform)/[A-Za-z]+\\.h$", "", "^(xcb/|X11/|xkbcommon/|wayland)")
-    # A program of its own, without a toolkit.
-    room("app/script/", "^app/script/|^platform/((script|linux|x11)/)?[A-Za-z0-9]+\\.h$", "",
-         "^(Q|boost/|xcb/|X11/|xkbcommon/|wayland)")
-    # The one place that chooses backends and joins everything; programs are made of it.
-    room("app/program/", "^(app|engine|prefs|core|platform)/", "", "^(xcb/|X11/|xkbcommon/|wayland)")
+    # A room is a folder: the folders whose headers it may include beside its own; what it may, and may not,
+    # include in angle brackets. Files elsewhere (tests, measurements) include what they like.
+    x11Shown = "platform/x11/press platform/x11/server platform/x11/watch platform/x11/windows"
+    foreign = "^(Q|boost/|xcb/|X11/|xkbcommon/|wayland)"
+    room("platform", "", standard, "")
+    room("platform/fake", "platform", standard, "")
+    room("platform/none", "platform", standard, "")
+    room("platform/keymap", "platform", standard "|^xkbcommon/xkbcommon\\.h$", "")
+    room("platform/monitor", "platform platform/keymap", standard "|^xkbcommon/xkbcommon\\.h$", "")
+    room("platform/run", "platform", "", foreign)
+    room("platform/linux", "platform", "", foreign)
 
+    below = "platform"
+    storey("platform/script/source")
+    storey("platform/script/values")
+    storey("platform/script/commands")
+    storey("platform/script/syntax")
+    storey("platform/script/code")
+    storey("platform/script/run")
+
+    x11("server", "platform")
+    x11("keymap", "platform platform/keymap platform/x11/server")
+    x11("guard", "platform platform/x11/server")
+    x11("clipboard", "platform platform/x11/server")
+    x11("windows", "platform platform/run platform/x11/clipboard platform/x11/server")
+    x11("watch", "platform platform/keymap platform/monitor platform/run platform/x11/keymap platform/x11/server")
+    x11("press", "platform platform/keymap platform/run platform/x11/guard platform/x11/keymap" \
+                 " platform/x11/server platform/x11/windows")
+
+    room("core", "platform", standard "|^boost/", "")
+    room("prefs", "core platform", standard "|^boost/", "")
+    room("engine", "prefs core platform", standard "|^boost/", "")
+
+    app("icons", "")
+    app("widgets", "app/icons")
+    app("shortcuts", "prefs core platform")
+    app("dialogs", "app/icons app/widgets platform")
+    app("overlay", "app/icons app/widgets")
+    app("panels", "app/shortcuts app/widgets platform")
+    app("tray", "app/icons app/widgets platform")
+    app("controller", "app/dialogs app/overlay app/panels app/shortcuts app/tray app/widgets" \
+                      " engine prefs core platform")
+    # The one place that chooses backends and joins everything; programs are made of it.
+    app("program", "app/controller app/dialogs app/tray platform platform/linux platform/none" \
+                   " platform/script/run " x11Shown)
+    app("demonstration", "app/program engine core")
+    app("gallery", "app/program app/dialogs app/icons app/overlay app/panels app/shortcuts app/tray")
+    room("app", "app/program", "", "^(boost/|xcb/|X11/|xkbcommon/|wayland)")
+    # A program of its own, without a toolkit.
+    room("cli", "platform platform/linux platform/script/run platform/script/code platform/script/syntax" \
+                " platform/script/commands platform/script/source " x11Shown, "", foreign)
+
+    ofRooms = "^(app|cli|core|engine|library|platform|prefs)/"
     mayCallServices = "^(core/KeyNames|engine/(HotKeyCenter|AppleScript|MacroPlayer|KeyRecorder))\\.cpp$" \
                       "|^app/|^platform/Services\\.|^(tests|bench|fuzz)/"
     mayInstallServices = "^app/program/|^platform/Services\\.|^(tests|bench|fuzz)/"
@@ -35,18 +69,28 @@ BEGIN {
                     "|[Tt]he specificatio[n]|[Ww]orktre[e]|/wor[k]/|/tmp/w[t]|[Ii]ssu[e] [0-9]"
 }
 
-function room(folder, quoted, angled, refused) {
-    quotedOf[folder] = quoted
+function room(folder, uses, angled, refused) {
+    usesOf[folder] = " " folder " " uses " "
     angledOf[folder] = angled
     refusedOf[folder] = refused
 }
 
-function roomOf(path,    folder, best) {
-    best = ""
-    for (folder in quotedOf) {
-        if (index(path, folder) == 1 && length(folder) > length(best)) best = folder
-    }
-    return best
+# A room that may use all those named before it in this way.
+function storey(folder) {
+    room(folder, below, standard, "")
+    below = below " " folder
+}
+
+function x11(name, uses) {
+    room("platform/x11/" name, uses, "", "^(Q|boost/|wayland)")
+}
+
+function app(name, uses) {
+    room("app/" name, uses, "", "^(xcb/|X11/|xkbcommon/|wayland)")
+}
+
+function folderOf(path) {
+    return path ~ /\// ? substr(path, 1, match(path, /\/[^\/]*$/) - 1) : ""
 }
 
 function breach(line, rule) {
@@ -62,17 +106,19 @@ function checkInclude(    name) {
     name = $0
     sub(/^[ \t]*#[ \t]*include[ \t]*/, "", name)
     if (name ~ /^["<][^">]*\.\.\//) breach(FNR, "an include names a folder above")
-    if (folder == "") return
+    if (!(folder in usesOf)) return
     if (name ~ /^"/) {
         sub(/^"/, "", name)
         sub(/".*$/, "", name)
-        if (name !~ quotedOf[folder] && name !~ generated) breach(FNR, folder " may not include " name)
+        if (!index(usesOf[folder], " " folderOf(name) " ") && name !~ generated) {
+            breach(FNR, folder "/ may not include " name)
+        }
     } else if (name ~ /^</) {
         sub(/^</, "", name)
         sub(/>.*$/, "", name)
         if ((angledOf[folder] != "" && name !~ angledOf[folder]) ||
             (refusedOf[folder] != "" && name ~ refusedOf[folder])) {
-            breach(FNR, folder " may not include <" name ">")
+            breach(FNR, folder "/ may not include <" name ">")
         }
     }
 }
@@ -94,7 +140,8 @@ function checkCode(    code) {
 FNR == 1 {
     if (file != "") endFile()
     file = FILENAME
-    folder = roomOf(file)
+    folder = folderOf(file)
+    if (file ~ isCode && file ~ ofRooms && !(folder in usesOf)) breach(1, "no room of the table is called " folder)
     needsLicence = file ~ isSource || /^#!/
     hasLicence = 0
 }

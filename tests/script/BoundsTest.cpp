@@ -7,9 +7,9 @@
 #include "RecordingInjector.h"
 #include "SmallStack.h"
 #include "Traced.h"
-#include "platform/script/Compiler.h"
-#include "platform/script/Formatter.h"
-#include "platform/script/Machine.h"
+#include "platform/script/code/Compiler.h"
+#include "platform/script/run/Machine.h"
+#include "platform/script/syntax/Formatter.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "Traced.h"
-#include "platform/script/Location.h"
+#include "platform/script/source/Location.h"
 
 namespace {
 

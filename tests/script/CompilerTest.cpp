@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/Compiler.h"
+#include "platform/script/code/Compiler.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/Formatter.h"
+#include "platform/script/syntax/Formatter.h"
 
 #include <gtest/gtest.h>
 

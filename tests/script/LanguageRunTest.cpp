@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/SteadyClock.h"
-#include "platform/x11/X11ScriptDesktop.h"
+#include "platform/x11/windows/X11ScriptDesktop.h"
 #include "script/Play.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/Lexer.h"
+#include "platform/script/source/Lexer.h"
 
 #include <gtest/gtest.h>
 

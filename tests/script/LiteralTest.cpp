@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/Literal.h"
+#include "platform/script/source/Literal.h"
 
 #include <gtest/gtest.h>
 

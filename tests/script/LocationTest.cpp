@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/Location.h"
+#include "platform/script/source/Location.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/Machine.h"
+#include "platform/script/run/Machine.h"
 
 #include <gtest/gtest.h>
 
 #include "RecordingInjector.h"
 #include "Traced.h"
-#include "platform/script/Compiler.h"
-#include "platform/script/MachineServices.h"
+#include "platform/script/code/Compiler.h"
+#include "platform/script/run/MachineServices.h"
 
 namespace {
 

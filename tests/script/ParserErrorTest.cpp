@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "Printed.h"
-#include "platform/script/Parser.h"
+#include "platform/script/syntax/Parser.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/Parser.h"
+#include "platform/script/syntax/Parser.h"
 
 #include <gtest/gtest.h>
 

@@ -5,10 +5,10 @@
 #include <sstream>
 
 #include "platform/Modifiers.h"
-#include "platform/script/Command.h"
-#include "platform/script/Lexer.h"
-#include "platform/script/Operators.h"
-#include "platform/script/Parser.h"
+#include "platform/script/commands/Command.h"
+#include "platform/script/source/Lexer.h"
+#include "platform/script/syntax/Operators.h"
+#include "platform/script/syntax/Parser.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <sstream>
 
 #include "CaseFile.h"
-#include "platform/script/Command.h"
-#include "platform/script/LanguageReference.h"
+#include "platform/script/commands/Command.h"
+#include "platform/script/commands/LanguageReference.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "Traced.h"
-#include "platform/script/Compiler.h"
+#include "platform/script/code/Compiler.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/ScriptRunner.h"
+#include "platform/script/run/ScriptRunner.h"
 
 #include <gtest/gtest.h>
 
 #include "RecordingInjector.h"
 #include "contracts/ScriptingServiceContract.h"
 #include "platform/fake/FakePlatform.h"
-#include "platform/script/Compiler.h"
-#include "platform/script/Machine.h"
+#include "platform/script/code/Compiler.h"
+#include "platform/script/run/Machine.h"
 
 namespace {
 

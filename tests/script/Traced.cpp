@@ -4,10 +4,10 @@
 #include <sstream>
 #include <variant>
 
-#include "platform/script/Compiler.h"
-#include "platform/script/Machine.h"
-#include "platform/script/TraceInjector.h"
-#include "platform/script/TraceServices.h"
+#include "platform/script/code/Compiler.h"
+#include "platform/script/run/Machine.h"
+#include "platform/script/run/TraceInjector.h"
+#include "platform/script/run/TraceServices.h"
 
 namespace {
 

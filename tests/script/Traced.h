@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/script/ScriptError.h"
+#include "platform/script/source/ScriptError.h"
 
 /// What a script would do.
 struct Traced {

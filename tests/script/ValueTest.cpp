@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/Value.h"
+#include "platform/script/values/Value.h"
 
 #include <gtest/gtest.h>
 
 #include "platform/Modifiers.h"
-#include "platform/script/Arithmetic.h"
-#include "platform/script/Coercion.h"
-#include "platform/script/Spelling.h"
+#include "platform/script/values/Arithmetic.h"
+#include "platform/script/values/Coercion.h"
+#include "platform/script/values/Spelling.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/Word.h"
+#include "platform/script/source/Word.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/x11/XConnection.h"
+#include "platform/x11/server/XConnection.h"
 
 /// A client that hears the keyboard's bell.
 class Bell {

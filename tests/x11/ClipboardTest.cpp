@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/X11Clipboard.h"
+#include "platform/x11/clipboard/X11Clipboard.h"
 
 #include <gtest/gtest.h>
 

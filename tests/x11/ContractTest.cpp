@@ -2,7 +2,7 @@
 #include "contracts/EventMonitorContract.h"
 #include "contracts/HotKeysContract.h"
 #include "contracts/KeyboardLayoutContract.h"
-#include "platform/x11/X11KeyboardLayout.h"
+#include "platform/x11/watch/X11KeyboardLayout.h"
 #include "x11/X11World.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/x11/XConnection.h"
+#include "platform/x11/server/XConnection.h"
 
 /// An application as simple as can be: a window that has the focus and gets core key events.
 class CoreClient {

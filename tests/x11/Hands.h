@@ -5,7 +5,7 @@
 #include <initializer_list>
 #include <string>
 
-#include "platform/x11/XConnection.h"
+#include "platform/x11/server/XConnection.h"
 
 /// Another program at the same X server that presses keys by XTEST and changes locks and groups. Key codes
 /// are X key codes.

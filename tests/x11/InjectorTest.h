@@ -6,8 +6,8 @@
 #include <optional>
 
 #include "platform/linux/SteadyClock.h"
-#include "platform/x11/X11EventManager.h"
-#include "platform/x11/X11KeyInjector.h"
+#include "platform/x11/press/X11KeyInjector.h"
+#include "platform/x11/watch/X11EventManager.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"
 #include "x11/CoreClient.h"

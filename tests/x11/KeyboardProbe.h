@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/x11/XConnection.h"
+#include "platform/x11/server/XConnection.h"
 
 /// A client that asks the server about the keyboard, and does nothing else.
 class KeyboardProbe {

@@ -2,8 +2,8 @@
 #include <sstream>
 
 #include "platform/KeyCodes.h"
-#include "platform/x11/X11Check.h"
-#include "platform/x11/X11KeyboardLayout.h"
+#include "platform/x11/server/X11Check.h"
+#include "platform/x11/watch/X11KeyboardLayout.h"
 #include "x11/X11Test.h"
 
 namespace {

@@ -22,9 +22,9 @@ class NestedServers {
     const Hands& user() const { return *m_user; }
     /// Another program at the inner server.
     const Hands& program() const { return *m_program; }
-    /// Waits until what the user did has arrived inside and has been told to everybody. A key that comes while
-    /// the inner server paints waits there until a client asks for something: where no other client does, this
-    /// is called again and again.
+    /// Waits until what the user did has arrived inside and has been told to everybody. A key that comes
+    /// while the inner server paints waits there until a client asks for something: where no other client
+    /// does, this is called again and again.
     void finish() const;
 
   private:

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/x11/XConnection.h"
+#include "platform/x11/server/XConnection.h"
 
 /// Counts, by a RECORD context of its own, how often a key has gone down on the core keyboard, whoever gets
 /// it.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/RunWatch.h"
+#include "platform/run/RunWatch.h"
 
 #include <gtest/gtest.h>
 #include <poll.h>
@@ -7,7 +7,7 @@
 #include <functional>
 
 #include "platform/Modifiers.h"
-#include "platform/x11/KeyboardState.h"
+#include "platform/keymap/KeyboardState.h"
 #include "x11/NestedServers.h"
 #include "x11/X11Test.h"
 

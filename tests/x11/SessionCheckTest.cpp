@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/X11SessionCheck.h"
+#include "platform/x11/server/X11SessionCheck.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/SpareSlots.h"
+#include "platform/x11/press/SpareSlots.h"
 
 #include <gtest/gtest.h>
 

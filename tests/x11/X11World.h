@@ -8,7 +8,7 @@
 
 #include "contracts/KeyboardWorld.h"
 #include "platform/linux/SteadyClock.h"
-#include "platform/x11/X11EventManager.h"
+#include "platform/x11/watch/X11EventManager.h"
 #include "support/XServer.h"
 #include "x11/CoreClient.h"
 #include "x11/Hands.h"

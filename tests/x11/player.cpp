@@ -20,8 +20,8 @@
 
 #include "platform/Modifiers.h"
 #include "platform/linux/SteadyClock.h"
-#include "platform/x11/X11EventManager.h"
-#include "platform/x11/X11KeyInjector.h"
+#include "platform/x11/press/X11KeyInjector.h"
+#include "platform/x11/watch/X11EventManager.h"
 
 namespace {
 

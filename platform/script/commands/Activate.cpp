@@ -2,8 +2,8 @@
 #include "platform/script/commands/All.h"
 
 #include "platform/ScriptDesktop.h"
-#include "platform/script/Spelling.h"
 #include "platform/script/commands/Playing.h"
+#include "platform/script/values/Spelling.h"
 
 namespace script {
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/script/Command.h"
+#include "platform/script/commands/Command.h"
 
 /// One function for each command, in the file of its name.
 namespace script {

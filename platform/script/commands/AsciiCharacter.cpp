@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/script/Coercion.h"
-#include "platform/script/Spelling.h"
+#include "platform/script/values/Coercion.h"
+#include "platform/script/values/Spelling.h"
 
 namespace script {
 namespace {

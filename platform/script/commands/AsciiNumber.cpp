@@ -4,8 +4,8 @@
 #include <string>
 
 #include "platform/Utf8.h"
-#include "platform/script/Coercion.h"
-#include "platform/script/TextRules.h"
+#include "platform/script/values/Coercion.h"
+#include "platform/script/values/TextRules.h"
 
 namespace script {
 namespace {

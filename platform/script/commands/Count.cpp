@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/commands/All.h"
 
-#include "platform/script/Elements.h"
+#include "platform/script/values/Elements.h"
 
 namespace script {
 namespace {

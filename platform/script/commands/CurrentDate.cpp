@@ -3,7 +3,7 @@
 
 #include <ctime>
 
-#include "platform/script/Dates.h"
+#include "platform/script/values/Dates.h"
 
 namespace script {
 namespace {

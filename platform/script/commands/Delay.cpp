@@ -3,9 +3,9 @@
 
 #include <optional>
 
-#include "platform/script/Coercion.h"
-#include "platform/script/Spelling.h"
 #include "platform/script/commands/Playing.h"
+#include "platform/script/values/Coercion.h"
+#include "platform/script/values/Spelling.h"
 
 namespace script {
 namespace {

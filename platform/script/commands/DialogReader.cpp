@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/script/Coercion.h"
-#include "platform/script/ScriptError.h"
-#include "platform/script/Spelling.h"
 #include "platform/script/commands/Playing.h"
+#include "platform/script/source/ScriptError.h"
+#include "platform/script/values/Coercion.h"
+#include "platform/script/values/Spelling.h"
 
 namespace script {
 

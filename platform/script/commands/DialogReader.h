@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/ScriptDialogs.h"
-#include "platform/script/Command.h"
+#include "platform/script/commands/Command.h"
 
 namespace script {
 

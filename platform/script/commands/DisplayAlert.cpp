@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "platform/ScriptDialogs.h"
-#include "platform/script/Coercion.h"
 #include "platform/script/commands/DialogReader.h"
+#include "platform/script/values/Coercion.h"
 
 namespace script {
 namespace {

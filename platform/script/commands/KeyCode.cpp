@@ -4,8 +4,8 @@
 #include <utility>
 #include <variant>
 
-#include "platform/script/Coercion.h"
 #include "platform/script/commands/Playing.h"
+#include "platform/script/values/Coercion.h"
 
 namespace script {
 namespace {

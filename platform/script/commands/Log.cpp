@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/commands/All.h"
 
-#include "platform/script/Spelling.h"
+#include "platform/script/values/Spelling.h"
 
 namespace script {
 namespace {

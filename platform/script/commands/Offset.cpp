@@ -4,9 +4,9 @@
 #include <string>
 
 #include "platform/Utf8.h"
-#include "platform/script/Coercion.h"
-#include "platform/script/ScriptError.h"
-#include "platform/script/TextRules.h"
+#include "platform/script/source/ScriptError.h"
+#include "platform/script/values/Coercion.h"
+#include "platform/script/values/TextRules.h"
 
 namespace script {
 namespace {

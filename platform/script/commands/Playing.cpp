@@ -6,10 +6,10 @@
 
 #include "platform/KeyCodes.h"
 #include "platform/Utf8.h"
-#include "platform/script/Advice.h"
-#include "platform/script/Coercion.h"
-#include "platform/script/ScriptError.h"
-#include "platform/script/Spelling.h"
+#include "platform/script/commands/Advice.h"
+#include "platform/script/source/ScriptError.h"
+#include "platform/script/values/Coercion.h"
+#include "platform/script/values/Spelling.h"
 
 namespace script {
 namespace {

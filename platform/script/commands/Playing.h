@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "platform/KeyInjector.h"
-#include "platform/script/Command.h"
+#include "platform/script/commands/Command.h"
 
 /// What the keyboard commands share.
 namespace script {

@@ -8,8 +8,8 @@
 #include <utility>
 #include <variant>
 
-#include "platform/script/Coercion.h"
-#include "platform/script/Spelling.h"
+#include "platform/script/values/Coercion.h"
+#include "platform/script/values/Spelling.h"
 
 namespace script {
 namespace {

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string_view>
 
-#include "platform/script/Coercion.h"
-#include "platform/script/Spelling.h"
+#include "platform/script/values/Coercion.h"
+#include "platform/script/values/Spelling.h"
 
 namespace script {
 namespace {

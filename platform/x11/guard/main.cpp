@@ -20,10 +20,10 @@
 #include <span>
 #include <thread>
 
-#include "platform/x11/SlaveKeyboards.h"
-#include "platform/x11/XConnection.h"
-#include "platform/x11/XcbXkb.h"
 #include "platform/x11/guard/GuardMessage.h"
+#include "platform/x11/server/SlaveKeyboards.h"
+#include "platform/x11/server/XConnection.h"
+#include "platform/x11/server/XcbXkb.h"
 
 namespace {
 

@@ -1,7 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "app/TildeExpansion.h"
-
-QString withTildeExpanded(const QString& path, const QString& home) {
-    if (path == QLatin1String("~") || path.startsWith(QLatin1String("~/"))) return home + path.mid(1);
-    return path;
-}

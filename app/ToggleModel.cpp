@@ -1,8 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "app/ToggleModel.h"
-
-void ToggleModel::setOn(bool on) {
-    if (m_on == on) return;
-    m_on = on;
-    emit changed();
-}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "app/controller/ScriptQuestions.h"
+
+#include <optional>
+#include <string>
+
+#include "app/dialogs/Dialogs.h"
+#include "platform/KeyInjector.h"
+#include "platform/Notifications.h"
+
+Result<ScriptAnswer> ScriptQuestions::ask(const ScriptDialog& dialog) {
+    m_injector.rest();
+    std::optional<ScriptAnswer> answer = m_dialogs.runScriptDialog(dialog);
+    if (answer) return *std::move(answer);
+    m_injector.stopPlayback();
+    return Error{"The question was not answered.", ""};
+}
+
+Result<void> ScriptQuestions::notify(const ScriptNotification& notification) {
+    std::string text = notification.subtitle;
+    if (!text.empty() && !notification.text.empty()) text += '\n';
+    text += notification.text;
+    m_notifications.post(notification.title.empty() ? "Keyrill" : notification.title, text);
+    return {};
+}

@@ -1,0 +1,5 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// What the status item shows of the program.
+enum class StatusImage { busy, normal, recording };

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Commands.h"
+
+#include <signal.h>
+
+#include <iostream>
+#include <optional>
+#include <utility>
+#include <variant>
+
+#include "cli/Playback.h"
+#include "cli/Report.h"
+#include "cli/ScriptFile.h"
+#include "cli/TerminalDialogs.h"
+#include "platform/script/code/Compiler.h"
+#include "platform/script/run/Machine.h"
+#include "platform/script/run/TraceInjector.h"
+#include "platform/script/run/TraceServices.h"
+#include "platform/script/syntax/Formatter.h"
+
+namespace {
+
+constexpr int succeeded = 0;
+constexpr int failed = 1;
+
+/// A script and the words in which it is spoken of.
+struct Source {
+    std::string name;
+    std::string text;
+};
+
+/// Empty after an error, which has been told.
+std::optional<Source> sourceOf(const ScriptInput& input) {
+    if (!input.lines.empty()) {
+        Source source{"-e", ""};
+        for (const std::string& line : input.lines) source.text += line + "\n";
+        return source;
+    }
+    Result<std::string> text = readScript(input.file);
+    if (text) return Source{input.file, std::move(text).value()};
+    reportError(input.file + ": ", text.error());
+    return std::nullopt;
+}
+
+/// Empty after an error, which has been told.
+std::optional<script::Program> compiled(const Source& source) {
+    auto result = script::compile(source.text);
+    if (const auto* error = std::get_if<script::ScriptError>(&result)) {
+        Report(source.name, source.text).syntaxError(*error);
+        return std::nullopt;
+    }
+    return std::get<script::Program>(std::move(result));
+}
+
+script::RunResult run(const Source& source, const script::Program& program,
+                      const script::MachineServices& services) {
+    const Report report(source.name, source.text);
+    script::Machine machine(program, services);
+    machine.onWarning([&](const script::ScriptWarning& warning) { report.warning(warning); });
+    machine.onLog([](const std::string& line) { std::cerr << line << "\n"; });
+    script::RunResult result = machine.run();
+    std::cout.flush();
+    return result;
+}
+
+void tell(const Source& source, const script::RunResult& result) {
+    if (result.error) Report(source.name, source.text).executionError(*result.error);
+}
+
+int statusOf(const script::RunResult& result) { return result.error ? failed : succeeded; }
+
+}  // namespace
+
+int checkScript(const ScriptInput& input) {
+    const std::optional<Source> source = sourceOf(input);
+    const std::optional<script::Program> program = source ? compiled(*source) : std::nullopt;
+    if (!program) return failed;
+    const Report report(source->name, source->text);
+    for (const script::ScriptWarning& warning : program->warnings) report.warning(warning);
+    return succeeded;
+}
+
+int traceScript(const ScriptInput& input) {
+    const std::optional<Source> source = sourceOf(input);
+    const std::optional<script::Program> program = source ? compiled(*source) : std::nullopt;
+    if (!program) return failed;
+    script::TraceInjector injector(std::cout);
+    script::TraceDesktop desktop(std::cout);
+    script::TraceDialogs dialogs(std::cout);
+    const script::RunResult result = run(*source, *program, {injector, desktop, dialogs});
+    tell(*source, result);
+    return statusOf(result);
+}
+
+int formatScript(const ScriptInput& input) {
+    const std::optional<Source> source = sourceOf(input);
+    if (!source) return failed;
+    const auto text = script::formatted(source->text);
+    if (const auto* error = std::get_if<script::ScriptError>(&text)) {
+        Report(source->name, source->text).syntaxError(*error);
+        return failed;
+    }
+    std::cout << std::get<std::string>(text) << std::flush;
+    return std::cout ? succeeded : failed;
+}
+
+int runScript(const ScriptInput& input) {
+    const std::optional<Source> source = sourceOf(input);
+    const std::optional<script::Program> program = source ? compiled(*source) : std::nullopt;
+    if (!program) return failed;
+    Result<std::unique_ptr<Playback>> playback = Playback::make();
+    if (!playback) {
+        reportError("", playback.error());
+        return failed;
+    }
+    playback.value()->injector().startPlayback();
+    TerminalDialogs dialogs(playback.value()->injector());
+    const script::RunResult result =
+        run(*source, *program, {playback.value()->injector(), playback.value()->desktop(), dialogs});
+    if (result.end == script::RunEnd::cancelled && playback.value()->isLost()) {
+        reportError("", {"The X server is gone.", ""});
+    } else {
+        tell(*source, result);
+    }
+    if (!input.lines.empty() && !result.value.empty()) std::cout << result.value << std::endl;
+    playback.value()->leaveClipboard();
+    const int signalNumber = playback.value()->signalNumber();
+    playback.value().reset();
+    // Whoever waits for this process is told how it ended.
+    if (signalNumber != 0) raise(signalNumber);
+    return statusOf(result);
+}

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "platform/keymap/MaskShaper.h"
+
+#include <array>
+#include <optional>
+
+#include "platform/KeyCodes.h"
+#include "platform/Modifiers.h"
+
+namespace {
+
+constexpr std::uint8_t evdevOffset = 8;
+
+/// The keys of the navigation block, by what the keypad types without Num Lock.
+struct NavigationKey {
+    xkb_keysym_t symbol;
+    std::uint32_t keyCode;
+};
+constexpr std::array<NavigationKey, 10> navigationKeys = {{{XKB_KEY_KP_Insert, 114},
+                                                           {XKB_KEY_KP_Home, 115},
+                                                           {XKB_KEY_KP_Page_Up, 116},
+                                                           {XKB_KEY_KP_Delete, 117},
+                                                           {XKB_KEY_KP_End, 119},
+                                                           {XKB_KEY_KP_Page_Down, 121},
+                                                           {XKB_KEY_KP_Left, 123},
+                                                           {XKB_KEY_KP_Right, 124},
+                                                           {XKB_KEY_KP_Down, 125},
+                                                           {XKB_KEY_KP_Up, 126}}};
+
+bool typesTheSame(xkb_keysym_t one, xkb_keysym_t other) {
+    if (one == other) return true;
+    const std::uint32_t character = xkb_keysym_to_utf32(one);
+    return character != 0 && character == xkb_keysym_to_utf32(other);
+}
+
+char asciiOf(xkb_keysym_t symbol) {
+    const std::uint32_t character = xkb_keysym_to_utf32(symbol);
+    return character < 0x80 ? static_cast<char>(character) : '\0';
+}
+
+/// One press, looked at from all sides.
+class Shaper {
+  public:
+    Shaper(const Keymap& keymap, std::uint8_t keycode, xkb_mod_mask_t modifiers, xkb_layout_index_t layout)
+        : m_keymap(keymap),
+          m_masks(keymap.masks()),
+          m_keycode(keycode),
+          m_layout(layout),
+          m_modifiers(modifiers),
+          m_baseCode(keycode::fromEvdev(static_cast<std::uint16_t>(keycode - evdevOffset))),
+          m_typed(symbol(modifiers & ~commandMask())) {}
+
+    TypedKey result(bool modifierHeld) const {
+        const bool keypad = keycode::isKeypadDigit(m_baseCode);
+        const bool digit = keypad && typesTheSame(symbol(unlocked() | m_masks.numLock), m_typed);
+        const std::optional<bool> shift = shiftThatTypesTheSame(digit ? m_masks.numLock : 0);
+        TypedKey key{.keyCode = choosers() | (keypad && !digit ? navigationCode() : m_baseCode),
+                     .character = asciiOf(m_typed),
+                     .modifiers = m_keymap.reported(m_modifiers & commandMask())};
+        const bool typedByBase = !keypad || digit;
+        key.modifiers |= shiftBits(typedByBase ? shift.value_or(shiftHeld()) : shiftHeld(), key.character);
+        if (key.modifiers == 0 && modifierHeld) key.modifiers = modifier::capsLock;
+        return key;
+    }
+
+  private:
+    /// Control, Alt and Super, as far as they do not choose a level too.
+    xkb_mod_mask_t commandMask() const {
+        return (m_masks.control | m_masks.option | m_masks.command) &
+               ~(m_masks.shift | m_masks.locks() | m_masks.thirdLevel | m_masks.fifthLevel);
+    }
+    bool shiftHeld() const { return (m_modifiers & m_masks.shift) != 0; }
+
+    xkb_keysym_t symbol(xkb_mod_mask_t modifiers) const {
+        return m_keymap.symbol(m_keycode, modifiers, m_layout);
+    }
+
+    /// The level choosers that are in force.
+    xkb_mod_mask_t unlocked() const {
+        return m_modifiers & ~(commandMask() | m_masks.locks() | m_masks.shift);
+    }
+
+    bool types(bool shift, xkb_mod_mask_t locks) const {
+        return typesTheSame(symbol(unlocked() | locks | (shift ? m_masks.shift : 0)), m_typed);
+    }
+
+    std::optional<bool> shiftThatTypesTheSame(xkb_mod_mask_t locks) const {
+        if (types(shiftHeld(), locks)) return shiftHeld();
+        if (types(!shiftHeld(), locks)) return !shiftHeld();
+        return std::nullopt;
+    }
+
+    std::uint32_t shiftBits(bool shift, char character) const {
+        if (!shift) return 0;
+        const bool byCapsLock = !shiftHeld() && character >= 'A' && character <= 'Z';
+        return byCapsLock ? modifier::capsLock : modifier::shift;
+    }
+
+    std::uint32_t choosers() const {
+        return ((m_modifiers & m_masks.thirdLevel) != 0 ? keycode::thirdLevel : 0) |
+               ((m_modifiers & m_masks.fifthLevel) != 0 ? keycode::fifthLevel : 0);
+    }
+
+    std::uint32_t navigationCode() const {
+        for (const NavigationKey& key : navigationKeys) {
+            if (key.symbol == m_typed) return key.keyCode;
+        }
+        return keycode::evdevBase + m_keycode - evdevOffset;
+    }
+
+    const Keymap& m_keymap;
+    const ModifierMasks& m_masks;
+    std::uint8_t m_keycode;
+    xkb_layout_index_t m_layout;
+    xkb_mod_mask_t m_modifiers;
+    std::uint32_t m_baseCode;
+    xkb_keysym_t m_typed;
+};
+
+}  // namespace
+
+TypedKey shapeKey(const Keymap& keymap, std::uint8_t keycode, xkb_mod_mask_t modifiers,
+                  xkb_layout_index_t layout, bool modifierHeld) {
+    return Shaper(keymap, keycode, modifiers, layout).result(modifierHeld);
+}

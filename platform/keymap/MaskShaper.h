@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+#include "platform/keymap/Keymap.h"
+
+/// What a key press is reported as.
+struct TypedKey {
+    std::uint32_t keyCode = 0;
+    /// The ASCII character typed, 0 if none.
+    char character = 0;
+    /// The mask with which a keyboard without locks types the same with that key code.
+    std::uint32_t modifiers = 0;
+
+    friend bool operator==(const TypedKey&, const TypedKey&) = default;
+};
+
+/// The report of a press of `keycode` (evdev + 8) while the real modifiers `modifiers` (held, latched and
+/// locked) and the group `layout` are in force. `modifierHeld` tells whether a modifier key is down: the mask
+/// is not 0 then.
+///
+/// - Shift is added or dropped where Caps Lock turned a letter round; for A to Z Caps Lock itself stands in
+/// for
+///   the Shift that is added. With Control, Alt or Super the combination counts, not the letter.
+/// - A keypad digit that was typed keeps its code, which always means the digit; without Num Lock the key is
+///   reported as the navigation key that was typed.
+/// - Level choosers go into the code.
+TypedKey shapeKey(const Keymap& keymap, std::uint8_t keycode, xkb_mod_mask_t modifiers,
+                  xkb_layout_index_t layout, bool modifierHeld);

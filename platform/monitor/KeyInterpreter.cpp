@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "platform/monitor/KeyInterpreter.h"
+
+namespace {
+
+/// Escape by its position (evdev 1), as the manual calls it.
+constexpr std::uint8_t escapeKeycode = 9;
+
+}  // namespace
+
+void KeyInterpreter::key(const RawKey& key, const KeyOrigin& origin) {
+    if (key.press) {
+        if (m_held.isDown(key) && !origin.hotKey) return;
+        press(key, origin);
+    } else if (const std::optional<HeldKey> held = m_held.release(key)) {
+        release(key, *held);
+    }
+}
+
+void KeyInterpreter::press(const RawKey& key, const KeyOrigin& origin) {
+    const bool isModifierKey = m_keyboard.keymap().isModifierKey(key.keycode, m_keyboard.layout());
+    watchEscape(key);
+    HeldKey& held = m_held.press(key);
+    held.isModifierKey = isModifierKey;
+    held.hidden = origin.own && !m_keepsOwn;
+    if (isModifierKey) {
+        pressModifier(key, held);
+    } else if (origin.hotKey && !origin.own) {
+        pressHotKey(key, held, *origin.hotKey);
+    } else if (held.hidden || origin.grabbed) {
+        m_keyboard.feed(key.keycode, true);
+    } else {
+        pressOrdinary(key, held);
+    }
+}
+
+void KeyInterpreter::pressModifier(const RawKey& key, HeldKey& held) {
+    held.modifiers = m_keyboard.keymap().keyModifiers(key.keycode, m_keyboard.layout()) &
+                     ~m_keyboard.keymap().masks().locks();
+    m_keyboard.feed(key.keycode, true);
+    if (!key.synthetic) m_modifierPressed = true;
+    if (!held.hidden) reportModifiers(heldMask());
+}
+
+void KeyInterpreter::pressHotKey(const RawKey& key, HeldKey& held, HotKeyId id) {
+    m_keyboard.feed(key.keycode, true);
+    held.hotKey = id;
+    held.hotKeyReported = !m_muted;
+    if (!m_muted) m_deliveries.emplace_back(HotKeyEvent{id, true, key.time});
+}
+
+void KeyInterpreter::pressOrdinary(const RawKey& key, HeldKey& held) {
+    const TypedKey typed = typedBy(key.keycode);
+    m_keyboard.feed(key.keycode, true);
+    if (m_muted) return;
+    held.reportedCode = typed.keyCode;
+    reportPress(KeyEventKind::keyDown, typed);
+}
+
+void KeyInterpreter::release(const RawKey& key, const HeldKey& held) {
+    watchEscape(key);
+    m_keyboard.feed(key.keycode, false);
+    if (held.isModifierKey) {
+        if (!held.hidden) reportModifiers(heldMask());
+    } else if (held.hotKey) {
+        if (held.hotKeyReported) m_deliveries.emplace_back(HotKeyEvent{*held.hotKey, false, key.time});
+    } else if (held.reportedCode) {
+        m_deliveries.emplace_back(KeyEvent{KeyEventKind::keyUp, *held.reportedCode, 0, m_reportedMask});
+    }
+}
+
+void KeyInterpreter::repeat(std::uint8_t keycode, ServerTime time) {
+    if (m_held.mayRepeat(keycode, time)) reportRepeat(*m_held.find(keycode), keycode);
+}
+
+void KeyInterpreter::repeatByKeyboard(const RawKey& key) {
+    HeldKey* held = m_held.find(key.keycode);
+    if (held == nullptr) return;
+    held->pressTime = key.time;
+    reportRepeat(*held, key.keycode);
+}
+
+void KeyInterpreter::reportRepeat(const HeldKey& held, std::uint8_t keycode) {
+    if (held.reportedCode && !m_muted) reportPress(KeyEventKind::autoRepeat, typedBy(keycode));
+}
+
+void KeyInterpreter::lateHotKey(HotKeyId id, std::uint8_t keycode, ServerTime time) {
+    HeldKey* held = m_held.find(keycode);
+    if (m_muted) return;
+    m_deliveries.emplace_back(HotKeyEvent{id, true, time});
+    if (held == nullptr) {
+        m_deliveries.emplace_back(HotKeyEvent{id, false, time});
+    } else {
+        held->hotKey = id;
+        held->hotKeyReported = true;
+    }
+}
+
+void KeyInterpreter::keyboardGone(std::uint16_t source, ServerTime time) {
+    for (const std::uint8_t keycode : m_held.keycodesOf(source)) {
+        key({.keycode = keycode, .press = false, .source = source, .time = time}, {});
+    }
+    m_cancel.keyboardGone(source);
+}
+
+void KeyInterpreter::startWith(const std::vector<std::uint8_t>& keycodes) {
+    for (const std::uint8_t keycode : keycodes) {
+        HeldKey& held = m_held.press({.keycode = keycode, .press = true, .source = HeldKeys::anySource});
+        held.isModifierKey = m_keyboard.keymap().isModifierKey(keycode, m_keyboard.layout());
+        held.modifiers = m_keyboard.keymap().keyModifiers(keycode, m_keyboard.layout()) &
+                         ~m_keyboard.keymap().masks().locks();
+    }
+    reportModifiers(heldMask());
+}
+
+void KeyInterpreter::watchEscape(const RawKey& key) {
+    if (key.keycode != escapeKeycode || key.synthetic) return;
+    key.press ? m_cancel.escapePressed(key) : m_cancel.escapeReleased(key);
+}
+
+void KeyInterpreter::reportPress(KeyEventKind kind, const TypedKey& typed) {
+    reportModifiers(typed.modifiers);
+    m_deliveries.emplace_back(KeyEvent{kind, typed.keyCode, typed.character, typed.modifiers});
+    reportModifiers(heldMask());
+}
+
+void KeyInterpreter::reportModifiers(std::uint32_t mask) {
+    if (mask == m_reportedMask) return;
+    m_reportedMask = mask;
+    m_deliveries.emplace_back(KeyEvent{KeyEventKind::modifiersChanged, 0, 0, mask});
+}
+
+std::uint32_t KeyInterpreter::heldMask() const { return m_keyboard.keymap().reported(m_held.modifiers()); }
+
+TypedKey KeyInterpreter::typedBy(std::uint8_t keycode) const {
+    return shapeKey(m_keyboard.keymap(), keycode, m_keyboard.modifiers(), m_keyboard.layout(),
+                    heldMask() != 0);
+}

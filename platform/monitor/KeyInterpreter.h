@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <deque>
+#include <variant>
+
+#include "platform/HotKeys.h"
+#include "platform/KeyEvent.h"
+#include "platform/keymap/KeyboardState.h"
+#include "platform/monitor/CancelWatch.h"
+#include "platform/monitor/HeldKeys.h"
+
+/// A hot key was pressed or released.
+struct HotKeyEvent {
+    HotKeyId id = 0;
+    bool press = false;
+    ServerTime time = 0;
+
+    friend bool operator==(const HotKeyEvent&, const HotKeyEvent&) = default;
+};
+
+using Delivery = std::variant<KeyEvent, HotKeyEvent>;
+
+/// What is known of a raw event besides itself.
+struct KeyOrigin {
+    /// A stroke of the running script.
+    bool own = false;
+    /// Our grab took the press from the applications.
+    bool grabbed = false;
+    /// The hot key that the press is, if any.
+    std::optional<HotKeyId> hotKey = std::nullopt;
+};
+
+/// Makes what is delivered of what the keyboards did: the meaning of each raw event, given all before it.
+///
+/// Needs no X server. Events are given in the server's order.
+class KeyInterpreter {
+  public:
+    /// Both outlive this.
+    KeyInterpreter(KeyboardState& keyboard, CancelWatch& cancel) : m_keyboard(keyboard), m_cancel(cancel) {}
+
+    /// Whether the event changes anything: a press of a key that is down and a release of one that is up do
+    /// not.
+    bool matters(const RawKey& key) const { return key.press ? !m_held.isDown(key) : m_held.canRelease(key); }
+    const HeldKeys& held() const { return m_held; }
+
+    void key(const RawKey& key, const KeyOrigin& origin);
+    /// The server repeats the key; nothing if it is not down for long enough.
+    void repeat(std::uint8_t keycode, ServerTime time);
+    /// The keyboard itself repeats the key that is down.
+    void repeatByKeyboard(const RawKey& key);
+    void setRepeatDelay(std::int32_t milliseconds) { m_held.setRepeatDelay(milliseconds); }
+    /// A hot key whose raw press has passed as an ordinary one.
+    void lateHotKey(HotKeyId id, std::uint8_t keycode, ServerTime time);
+    void keyboardGone(std::uint16_t source, ServerTime time);
+    /// The keys that are down before the first event.
+    void startWith(const std::vector<std::uint8_t>& keycodes);
+
+    /// While true, presses and hot keys are dropped.
+    void setMuted(bool muted) { m_muted = muted; }
+    void setKeepsOwnStrokes(bool keeps) { m_keepsOwn = keeps; }
+
+    /// Whether a modifier key has gone down on a real keyboard since the last call.
+    bool takeModifierPress() { return std::exchange(m_modifierPressed, false); }
+
+    /// What is to be delivered, oldest first.
+    std::deque<Delivery>& deliveries() { return m_deliveries; }
+
+  private:
+    void press(const RawKey& key, const KeyOrigin& origin);
+    void release(const RawKey& key, const HeldKey& held);
+    void pressModifier(const RawKey& key, HeldKey& held);
+    void pressHotKey(const RawKey& key, HeldKey& held, HotKeyId id);
+    void pressOrdinary(const RawKey& key, HeldKey& held);
+    void watchEscape(const RawKey& key);
+    void reportRepeat(const HeldKey& held, std::uint8_t keycode);
+    void reportPress(KeyEventKind kind, const TypedKey& typed);
+    void reportModifiers(std::uint32_t mask);
+    std::uint32_t heldMask() const;
+    TypedKey typedBy(std::uint8_t keycode) const;
+
+    KeyboardState& m_keyboard;
+    CancelWatch& m_cancel;
+    HeldKeys m_held;
+    std::deque<Delivery> m_deliveries;
+    std::uint32_t m_reportedMask = 0;
+    bool m_muted = false;
+    bool m_keepsOwn = false;
+    bool m_modifierPressed = false;
+};

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/KeyInjector.h"
+
+/// Waits until a moment, or until the user wishes to stop.
+class RunWait {
+  public:
+    virtual ~RunWait() = default;
+    virtual RunState waitUntil(Clock::Time deadline) = 0;
+};

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "platform/run/RunWaiter.h"
+
+#include <poll.h>
+
+#include <algorithm>
+#include <array>
+#include <ctime>
+
+namespace {
+
+/// As the kernel takes it; zero if the moment has passed.
+timespec timeTo(Clock::Time until, Clock::Time now) {
+    const auto left = std::max(Clock::Time::duration::zero(), until - now);
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(left);
+    const auto rest = std::chrono::duration_cast<std::chrono::nanoseconds>(left - seconds);
+    return timespec{.tv_sec = seconds.count(), .tv_nsec = rest.count()};
+}
+
+}  // namespace
+
+RunState RunWaiter::look() {
+    m_watch.drain();
+    const bool ends = m_isLost || m_watch.isLost() || m_interrupt.isRaised() || m_watch.isCancelled();
+    return ends ? RunState::cancelled : RunState::going;
+}
+
+RunState RunWaiter::waitUntil(Clock::Time deadline) {
+    for (;;) {
+        // Before the wait as well: xcb may have read what the descriptor no longer shows.
+        if (look() == RunState::cancelled) return RunState::cancelled;
+        if (m_clock.now() >= deadline) return RunState::going;
+        block(std::min(deadline, m_watch.cancelDeadline().value_or(deadline)));
+    }
+}
+
+void RunWaiter::block(Clock::Time until) {
+    std::array<pollfd, 3> entries{};
+    entries[0] = {.fd = m_watch.fileDescriptor(), .events = POLLIN, .revents = 0};
+    entries[1] = {.fd = m_interrupt.fileDescriptor(), .events = POLLIN, .revents = 0};
+    entries[2] = {.fd = m_server, .events = 0, .revents = 0};
+    const timespec left = timeTo(until, m_clock.now());
+    ppoll(entries.data(), entries.size(), &left, nullptr);
+    m_isLost = (entries[2].revents & (POLLHUP | POLLERR)) != 0;
+}

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/run/RunInterrupt.h"
+#include "platform/run/RunWait.h"
+#include "platform/run/RunWatch.h"
+
+/// The only place where a run blocks: one ppoll that serves the watch, the interrupt and the moment at which
+/// a held Escape becomes a wish to stop.
+class RunWaiter final : public RunWait {
+  public:
+    /// `server` is the descriptor of a connection to the X server, looked at for its end only.
+    RunWaiter(const Clock& clock, RunWatch& watch, const RunInterrupt& interrupt, int server)
+        : m_clock(clock), m_watch(watch), m_interrupt(interrupt), m_server(server) {}
+
+    RunState waitUntil(Clock::Time deadline) override;
+
+    /// Reads what the user has done, and whether it means to stop. So does a lost X server.
+    RunState look();
+
+  private:
+    void block(Clock::Time until);
+
+    const Clock& m_clock;
+    RunWatch& m_watch;
+    const RunInterrupt& m_interrupt;
+    int m_server;
+    bool m_isLost = false;
+};

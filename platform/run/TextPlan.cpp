@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "platform/run/TextPlan.h"
+
+#include <array>
+#include <cstdio>
+#include <string>
+
+#include "platform/Utf8.h"
+
+namespace {
+
+constexpr char32_t carriageReturn = U'\r';
+
+}  // namespace
+
+Result<std::vector<char32_t>> charactersOf(std::string_view text) {
+    std::vector<char32_t> characters;
+    characters.reserve(text.size());
+    bool isAfterReturn = false;
+    for (std::size_t position = 0; position < text.size();) {
+        const Utf8Character next = firstCharacter(text.substr(position));
+        if (!next.code) {
+            return Error{"The text to type is not UTF-8 at byte " + std::to_string(position + 1) + ".",
+                         "Save the script as UTF-8."};
+        }
+        position += next.length;
+        const char32_t character = *next.code;
+        const bool isSecondHalf = isAfterReturn && character == U'\n';
+        isAfterReturn = character == carriageReturn;
+        if (!isSecondHalf) characters.push_back(character == U'\n' ? carriageReturn : character);
+    }
+    return characters;
+}
+
+std::string nameOf(char32_t character) {
+    std::array<char, 16> code{};
+    std::snprintf(code.data(), code.size(), "U+%04X", static_cast<unsigned>(character));
+    const bool isControl = character < 0x20 || character == 0x7F;
+    if (isControl || character > 0x10FFFF) return code.data();
+    std::string shown;
+    appendUtf8(shown, character);
+    return "\"" + shown + "\" (" + code.data() + ")";
+}

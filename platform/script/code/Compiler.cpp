@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/code/Compiler.h"
+
+#include <optional>
+#include <utility>
+
+#include "platform/Utf8.h"
+#include "platform/script/code/CodeGenerator.h"
+#include "platform/script/syntax/Hints.h"
+#include "platform/script/syntax/Parser.h"
+
+namespace script {
+namespace {
+
+std::optional<ScriptError> unreadable(const std::string& source) {
+    if (source.size() > maxSourceSize) {
+        return ScriptError{errornumber::syntax, "Expected at most 16 MiB of script but found more.", {}};
+    }
+    const std::optional<std::size_t> invalid = invalidUtf8(source);
+    if (!invalid) return std::nullopt;
+    return ScriptError{errornumber::syntax, "Expected text in UTF-8 but found another byte.",
+                       locate(source, *invalid)};
+}
+
+}  // namespace
+
+std::variant<Program, ScriptError> compile(std::string source) {
+    if (std::optional<ScriptError> error = unreadable(source)) return *std::move(error);
+    Parser parser(source);
+    Tree& tree = parser.parse();
+    if (parser.error()) {
+        ScriptError error = *parser.error();
+        error.hint = syntaxHint(error, tree, source);
+        return error;
+    }
+    CodeGenerator generator(tree, source);
+    Program program = generator.generate();
+    if (generator.error()) return *generator.error();
+    program.names = std::move(tree.names);
+    program.source = std::move(source);
+    return program;
+}
+
+}  // namespace script

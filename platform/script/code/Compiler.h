@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <variant>
+
+#include "platform/script/code/Program.h"
+#include "platform/script/source/ScriptError.h"
+
+namespace script {
+
+/// The largest source that is compiled, in bytes.
+inline constexpr std::size_t maxSourceSize = 16U << 20U;
+
+/// Compiles a script in UTF-8. An error is the first one of the script.
+std::variant<Program, ScriptError> compile(std::string source);
+
+}  // namespace script

@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/code/StatementGenerator.h"
+
+#include <utility>
+
+#include "platform/script/source/Scoped.h"
+#include "platform/script/syntax/Operators.h"
+
+namespace script {
+
+void StatementGenerator::statements(NodeId first) {
+    for (NodeId id = first; id != noNode; id = m_tree.at(id).nextSibling) statement(id);
+}
+
+void StatementGenerator::statement(NodeId id) {
+    const Node& node = m_tree.at(id);
+    switch (node.kind) {
+        case NodeKind::tell:
+            return tell(node);
+        case NodeKind::ifThen:
+            return ifThen(node);
+        case NodeKind::repeat:
+            return repeatForEver(node);
+        case NodeKind::repeatTimes:
+            return repeatTimes(node);
+        case NodeKind::repeatWhile:
+            return repeatWhile(node);
+        case NodeKind::repeatRange:
+            return repeatRange(node);
+        case NodeKind::repeatIn:
+            return repeatIn(node);
+        case NodeKind::exitRepeat:
+            return exitRepeat(node);
+        case NodeKind::tryBlock:
+            return tryBlock(node);
+        case NodeKind::raise:
+            return raise(node);
+        case NodeKind::returnValue:
+            return returnValue(node);
+        case NodeKind::set:
+        case NodeKind::copy:
+            return set(node);
+        case NodeKind::declareGlobal:
+        case NodeKind::declareLocal:
+            return declare(node);
+        case NodeKind::considering:
+            return considering(node);
+        case NodeKind::timeout:
+            return timeout(node);
+        case NodeKind::block:
+            return statements(node.firstChild);
+        default:
+            return evaluate(node);
+    }
+}
+
+void StatementGenerator::close(const Node& node) {
+    m_out.emit(m_open.back(), node);
+    m_open.pop_back();
+}
+
+void StatementGenerator::tell(const Node& node) {
+    m_expressions.expression(node.firstChild);
+    m_out.emit(Operation::pushTarget, m_tree.at(node.firstChild));
+    open(Operation::popTarget);
+    block(m_tree.at(node.firstChild).nextSibling);
+    close(node);
+}
+
+void StatementGenerator::ifThen(const Node& node) {
+    std::vector<std::uint32_t> ends;
+    NodeId id = node.firstChild;
+    while (m_tree.at(id).nextSibling != noNode) {
+        m_expressions.expression(id);
+        const std::uint32_t next = m_out.emitJump(Operation::jumpIfFalse, m_tree.at(id));
+        const NodeId body = m_tree.at(id).nextSibling;
+        block(body);
+        id = m_tree.at(body).nextSibling;
+        if (id != noNode) ends.push_back(m_out.emitJump(Operation::jump, node));
+        m_out.land(next);
+        if (id == noNode) break;
+    }
+    if (id != noNode) block(id);
+    for (const std::uint32_t end : ends) m_out.land(end);
+}
+
+/// The body and the jump back to its start; all exits lead behind it.
+void StatementGenerator::loop(const Node& node, NodeId body, std::uint32_t start) {
+    const Scoped<std::size_t> openInLoop(m_openInLoop, m_open.size());
+    block(body);
+    m_out.emit(Operation::jump, node, start);
+}
+
+void StatementGenerator::repeatForEver(const Node& node) {
+    std::vector<std::uint32_t> outerExits = std::exchange(m_exits, {});
+    loop(node, node.firstChild, m_out.position());
+    for (const std::uint32_t exit : m_exits) m_out.land(exit);
+    m_exits = std::move(outerExits);
+}
+
+/// The counter lies on the stack while the loop runs; whichever way the loop ends, it is dropped there.
+void StatementGenerator::repeatTimes(const Node& node) {
+    std::vector<std::uint32_t> outerExits = std::exchange(m_exits, {});
+    wholeNumber(node.firstChild);
+    const std::uint32_t start = m_out.position();
+    m_exits.push_back(m_out.emitJump(Operation::countDown, node));
+    loop(node, m_tree.at(node.firstChild).nextSibling, start);
+    for (const std::uint32_t exit : m_exits) m_out.land(exit);
+    m_exits = std::move(outerExits);
+    m_out.emit(Operation::drop, node);
+}
+
+void StatementGenerator::repeatWhile(const Node& node) {
+    std::vector<std::uint32_t> outerExits = std::exchange(m_exits, {});
+    const std::uint32_t start = m_out.position();
+    const Node& condition = m_tree.at(node.firstChild);
+    m_expressions.expression(node.firstChild);
+    const std::uint32_t leave = m_out.emitJump(Operation::jumpIfFalse, condition);
+    if (node.detail != 0) {
+        // The other way round: true leaves.
+        const std::uint32_t enter = leave;
+        m_exits.push_back(m_out.emitJump(Operation::jump, condition));
+        m_out.land(enter);
+    } else {
+        m_exits.push_back(leave);
+    }
+    loop(node, condition.nextSibling, start);
+    for (const std::uint32_t exit : m_exits) m_out.land(exit);
+    m_exits = std::move(outerExits);
+}
+
+void StatementGenerator::wholeNumber(NodeId id) {
+    m_expressions.expression(id);
+    m_out.emit(Operation::makeCount, m_tree.at(id));
+}
+
+/// The next number, the last one and the step lie on the stack.
+void StatementGenerator::repeatRange(const Node& node) {
+    std::vector<std::uint32_t> outerExits = std::exchange(m_exits, {});
+    const NodeId from = node.firstChild;
+    const NodeId to = m_tree.at(from).nextSibling;
+    NodeId body = m_tree.at(to).nextSibling;
+    wholeNumber(from);
+    wholeNumber(to);
+    if (m_tree.at(body).nextSibling != noNode) {
+        wholeNumber(body);
+        body = m_tree.at(body).nextSibling;
+    } else {
+        m_out.emit(Operation::pushInteger, node, 1);
+    }
+    m_out.emit(Operation::beginRange, node);
+    const std::uint32_t start = m_out.position();
+    m_exits.push_back(m_out.emitJump(Operation::nextInRange, node));
+    m_expressions.assignName(node.value, node);
+    loop(node, body, start);
+    for (const std::uint32_t exit : m_exits) m_out.land(exit);
+    m_exits = std::move(outerExits);
+    for (int i = 0; i < 3; ++i) m_out.emit(Operation::drop, node);
+}
+
+/// The list, how many items it had, and how many are done lie on the stack.
+void StatementGenerator::repeatIn(const Node& node) {
+    std::vector<std::uint32_t> outerExits = std::exchange(m_exits, {});
+    m_expressions.expression(node.firstChild);
+    m_out.emit(Operation::beginList, m_tree.at(node.firstChild));
+    const std::uint32_t start = m_out.position();
+    m_exits.push_back(m_out.emitJump(Operation::nextInList, node));
+    m_expressions.assignName(node.value, node);
+    loop(node, m_tree.at(node.firstChild).nextSibling, start);
+    for (const std::uint32_t exit : m_exits) m_out.land(exit);
+    m_exits = std::move(outerExits);
+    for (int i = 0; i < 3; ++i) m_out.emit(Operation::drop, node);
+}
+
+/// What was begun inside the loop is undone first.
+void StatementGenerator::exitRepeat(const Node& node) {
+    for (std::size_t i = m_open.size(); i > m_openInLoop; --i) m_out.emit(m_open[i - 1], node);
+    m_exits.push_back(m_out.emitJump(Operation::jump, node));
+}
+
+void StatementGenerator::tryBlock(const Node& node) {
+    const NodeId body = node.firstChild;
+    const std::uint32_t begin = m_out.emitJump(Operation::pushTry, node);
+    open(Operation::popTry);
+    block(body);
+    close(node);
+    const std::uint32_t end = m_out.emitJump(Operation::jump, node);
+    m_out.land(begin);
+    const NodeId handler = m_tree.at(body).nextSibling;
+    if (handler != noNode) {
+        onError(m_tree.at(handler));
+    } else {
+        m_out.emit(Operation::clearResult, node);
+    }
+    m_out.land(end);
+}
+
+void StatementGenerator::onError(const Node& node) {
+    std::vector<std::uint32_t> mismatches;
+    NodeId id = node.firstChild;
+    for (; m_tree.at(id).kind == NodeKind::errorPart; id = m_tree.at(id).nextSibling) {
+        errorPart(m_tree.at(id), mismatches);
+    }
+    block(id);
+    if (mismatches.empty()) return;
+    const std::uint32_t end = m_out.emitJump(Operation::jump, node);
+    for (const std::uint32_t mismatch : mismatches) m_out.land(mismatch);
+    m_out.emit(Operation::rethrow, node);
+    m_out.land(end);
+}
+
+/// Put into a variable, or compared with a value.
+void StatementGenerator::errorPart(const Node& node, std::vector<std::uint32_t>& mismatches) {
+    m_out.emit(Operation::pushErrorPart, node, 0, node.detail);
+    const NodeKind kind = m_tree.at(node.firstChild).kind;
+    const bool isValue = kind == NodeKind::integer || kind == NodeKind::real || kind == NodeKind::text ||
+                         kind == NodeKind::negation;
+    if (!isValue) return m_expressions.assign(node.firstChild, node);
+    m_expressions.expression(node.firstChild);
+    m_out.emit(Operation::binary, node, 0, static_cast<std::uint8_t>(BinaryOperator::equal));
+    mismatches.push_back(m_out.emitJump(Operation::jumpIfFalse, node));
+}
+
+void StatementGenerator::raise(const Node& node) {
+    std::uint8_t parts = 0;
+    for (unsigned part = 0; part <= static_cast<unsigned>(ErrorPart::to); ++part) {
+        for (NodeId id = node.firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
+            if (m_tree.at(id).detail != part || (parts & (1U << part)) != 0) continue;
+            m_expressions.expression(m_tree.at(id).firstChild);
+            if (part == static_cast<unsigned>(ErrorPart::number)) {
+                m_out.emit(Operation::makeCount, m_tree.at(m_tree.at(id).firstChild));
+            }
+            parts = static_cast<std::uint8_t>(parts | (1U << part));
+        }
+    }
+    m_out.emit(Operation::raise, node, 0, parts);
+}
+
+void StatementGenerator::returnValue(const Node& node) {
+    if (node.firstChild == noNode) {
+        m_out.emit(Operation::pushNothing, node);
+    } else {
+        m_expressions.expression(node.firstChild);
+    }
+    m_out.emit(Operation::returnValue, node);
+}
+
+/// The value comes first, so that names can change places.
+void StatementGenerator::set(const Node& node) {
+    m_expressions.expression(m_tree.at(node.firstChild).nextSibling);
+    if (node.kind == NodeKind::copy) m_out.emit(Operation::deepCopy, node);
+    m_out.emit(Operation::duplicate, node);
+    m_expressions.assign(node.firstChild, node);
+    m_out.emit(Operation::setResult, node);
+}
+
+void StatementGenerator::evaluate(const Node& node) {
+    m_expressions.statementValue(node.firstChild);
+    m_out.emit(Operation::setResult, node);
+}
+
+void StatementGenerator::declare(const Node& node) {
+    const bool isGlobal = node.kind == NodeKind::declareGlobal;
+    for (NodeId id = node.firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
+        const Node& name = m_tree.at(id);
+        const bool declared =
+            isGlobal ? m_out.scope().declareGlobal(name.value) : m_out.scope().declareLocal(name.value);
+        if (declared) continue;
+        m_out.fail(
+            errornumber::localAndGlobal,
+            "Can’t declare " + m_tree.names.at(name.value).spelling + " as both a local and global variable.",
+            name.offset);
+    }
+}
+
+void StatementGenerator::considering(const Node& node) {
+    m_out.emit(Operation::pushAttributes, node, node.value);
+    open(Operation::popAttributes);
+    block(node.firstChild);
+    close(node);
+}
+
+void StatementGenerator::timeout(const Node& node) {
+    m_expressions.expression(node.firstChild);
+    m_out.emit(Operation::expectNumber, m_tree.at(node.firstChild));
+    block(m_tree.at(node.firstChild).nextSibling);
+}
+
+}  // namespace script

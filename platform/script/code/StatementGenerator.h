@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+#include "platform/script/code/ExpressionGenerator.h"
+
+namespace script {
+
+/// Emits code for statements. A statement leaves the stack as it found it, but for what the loops around it
+/// keep there.
+class StatementGenerator {
+  public:
+    explicit StatementGenerator(Emitter& out) : m_out(out), m_tree(out.tree()), m_expressions(out) {}
+
+    void statements(NodeId first);
+    void statement(NodeId id);
+    ExpressionGenerator& expressions() { return m_expressions; }
+
+  private:
+    void tell(const Node& node);
+    void ifThen(const Node& node);
+    void block(NodeId id) { statements(m_tree.at(id).firstChild); }
+    void loop(const Node& node, NodeId body, std::uint32_t start);
+    void repeatForEver(const Node& node);
+    void repeatTimes(const Node& node);
+    void repeatWhile(const Node& node);
+    void repeatRange(const Node& node);
+    void repeatIn(const Node& node);
+    void wholeNumber(NodeId id);
+    void exitRepeat(const Node& node);
+    void tryBlock(const Node& node);
+    void onError(const Node& node);
+    void errorPart(const Node& node, std::vector<std::uint32_t>& mismatches);
+    void raise(const Node& node);
+    void returnValue(const Node& node);
+    void set(const Node& node);
+    void evaluate(const Node& node);
+    void declare(const Node& node);
+    void considering(const Node& node);
+    void timeout(const Node& node);
+
+    /// What has to be undone by a jump out of the loop.
+    void open(Operation undo) { m_open.push_back(undo); }
+    void close(const Node& node);
+
+    Emitter& m_out;
+    const Tree& m_tree;
+    ExpressionGenerator m_expressions;
+    /// Jumps out of the innermost loop, whose target is not known yet.
+    std::vector<std::uint32_t> m_exits;
+    std::vector<Operation> m_open;
+    std::size_t m_openInLoop = 0;
+};
+
+}  // namespace script

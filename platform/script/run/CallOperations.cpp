@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+//
+// Operations that call handlers and commands.
+#include <algorithm>
+
+#include "platform/script/commands/Command.h"
+#include "platform/script/run/Execution.h"
+#include "platform/script/run/OperationTable.h"
+#include "platform/script/values/Spelling.h"
+
+namespace script {
+namespace {
+
+/// `{1, "a"}`: what a handler was called with.
+std::string spelledArguments(Execution& run, std::size_t count) {
+    const Value* first = run.topValues(count);
+    return spelled(Value{List(first, first + count)});
+}
+
+std::string spelledParameters(const Execution& run, const Handler& handler) {
+    std::string out = "{";
+    for (const NameId name : handler.parameterNames) {
+        out += (out.size() > 1 ? ", " : "") + spelledName(run.name(name));
+    }
+    return out + "}";
+}
+
+/// Puts the arguments into the order of the parameters; false after a failure.
+bool orderByLabels(Execution& run, const Call& call, const Handler& handler) {
+    Value* first = run.topValues(call.count);
+    const List given(first, first + call.count);
+    List ordered;
+    for (const NameId label : handler.labels) {
+        const auto found = std::find(call.labels.begin(), call.labels.end(), label);
+        if (found == call.labels.end()) {
+            run.fail({errornumber::missingParameter,
+                      "Some parameter is missing for " + run.name(call.name).spelling + "."});
+            return false;
+        }
+        ordered.push_back(given[static_cast<std::size_t>(found - call.labels.begin())]);
+    }
+    run.popList(call.count);
+    for (Value& value : ordered) run.push(std::move(value));
+    return true;
+}
+
+void callHandler(Execution& run, const Call& call, std::uint32_t index) {
+    const Handler& handler = run.program().handlers[index];
+    if (call.isLabelled && handler.isLabelled) {
+        if (!orderByLabels(run, call, handler)) return;
+    } else if (call.count != handler.labels.size() || handler.isLabelled) {
+        return run.fail({errornumber::wrongParameters,
+                         spelledArguments(run, call.count) + " doesn’t match the parameters " +
+                             spelledParameters(run, handler) + " for " + run.name(call.name).spelling + "."});
+    }
+    run.enterHandler(index, handler.labels.size());
+}
+
+/// -1708, with a hint where the script itself has the handler.
+Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) {
+    const TargetBody* body = target.target();
+    const bool isScript = body != nullptr && body->kind == TargetBody::Kind::script;
+    const bool isOther = body != nullptr && body->kind == TargetBody::Kind::application;
+    const std::string speaker = isOther ? std::string(body->name.str()) : "System Events";
+    const std::string prefix = body != nullptr && !isScript ? speaker + " got an error: " : "";
+    Failure failure{errornumber::notUnderstood,
+                    prefix + spelled(target) + " doesn’t understand the “" + name + "” message."};
+    if (isOwn)
+        failure.hint = "Inside “tell” the script’s own handlers are called with “my”: my " + name + "(…).";
+    return failure;
+}
+
+void call(Execution& run, const Instruction& here) {
+    const Call& what = run.program().calls[here.operand];
+    const Value target = here.detail != 0 ? *(run.topValues(what.count + 1)) : run.target();
+    const bool isScript = target.target() != nullptr && target.target()->kind == TargetBody::Kind::script;
+    if (!isScript || what.handler == 0) {
+        return run.fail(notUnderstood(target, run.name(what.name).spelling, !isScript && what.handler != 0));
+    }
+    if (here.detail != 0) {
+        List arguments = run.popList(what.count);
+        run.drop();
+        for (Value& argument : arguments) run.push(std::move(argument));
+    }
+    callHandler(run, what, what.handler);
+}
+
+void command(Execution& run, const Instruction& here) {
+    const Command& what = *commands()[here.operand & 0xFFU];
+    const std::uint32_t mask = here.operand >> 8U;
+    std::size_t count = 0;
+    for (std::uint32_t bits = mask; bits != 0; bits &= bits - 1) ++count;
+    if (!run.resolveTop(count)) return;
+    Fallible<Value> outcome = what.perform(run, Arguments(run.topValues(count), mask));
+    run.popList(count);
+    run.pushOrFail(std::move(outcome));
+}
+
+void requireValue(Execution& run, const Instruction& /*unused*/) {
+    if (!run.top().is<Nothing>()) return;
+    run.fail({errornumber::noResult, "No result was returned for some argument of this expression."});
+}
+
+void setResult(Execution& run, const Instruction& /*unused*/) { run.frame().result = run.pop(); }
+void clearResult(Execution& run, const Instruction& /*unused*/) { run.frame().result = Value(); }
+
+void returnValue(Execution& run, const Instruction& here) {
+    run.leaveHandler(here.detail != 0 ? run.frame().result : run.pop());
+}
+
+/// The parameters lie on the stack already; the other variables have no values yet.
+void enter(Execution& run, const Instruction& here) {
+    run.addVariables(here.operand - run.handler().labels.size());
+}
+
+}  // namespace
+
+const Value* Arguments::at(unsigned bit) const {
+    if ((m_mask & (1U << bit)) == 0) return nullptr;
+    std::size_t index = 0;
+    for (unsigned i = 0; i < bit; ++i) index += (m_mask >> i) & 1U;
+    return m_values + index;
+}
+
+void addCallOperations(OperationTable& table) {
+    const auto add = [&](Operation operation, Perform perform) {
+        table[static_cast<std::size_t>(operation)] = perform;
+    };
+    add(Operation::call, call);
+    add(Operation::command, command);
+    add(Operation::requireValue, requireValue);
+    add(Operation::setResult, setResult);
+    add(Operation::clearResult, clearResult);
+    add(Operation::returnValue, returnValue);
+    add(Operation::enter, enter);
+}
+
+}  // namespace script

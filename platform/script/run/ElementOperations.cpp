@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: MIT
+//
+// Operations on what lies in lists, records and texts.
+#include "platform/Utf8.h"
+#include "platform/script/run/Execution.h"
+#include "platform/script/run/OperationTable.h"
+#include "platform/script/syntax/Node.h"
+#include "platform/script/values/Coercion.h"
+#include "platform/script/values/Elements.h"
+#include "platform/script/values/Properties.h"
+#include "platform/script/values/Spelling.h"
+
+namespace script {
+namespace {
+
+Element elementFrom(std::uint32_t detail, std::uint32_t type) {
+    Element element;
+    element.kind = static_cast<ElementKind>(detail >> elementnode::kindShift);
+    element.form = static_cast<ElementForm>(detail & elementnode::formMask);
+    element.type = static_cast<Type>(type);
+    return element;
+}
+
+std::size_t indexCount(const Element& element) {
+    if (element.form == ElementForm::range) return 2;
+    return element.form == ElementForm::index ? 1 : 0;
+}
+
+/// Takes the indices off the stack; false after a failure.
+bool takeIndices(Execution& run, Element& element) {
+    const std::size_t count = indexCount(element);
+    if (!run.resolveTop(count)) return false;
+    for (std::size_t i = count; i > 0; --i) {
+        const Value value = run.pop();
+        const std::optional<std::int32_t> index = integerOf(value);
+        if (!index) {
+            run.fail(cannotMake(value, "integer"));
+            return false;
+        }
+        (i == 2 ? element.last : element.first) = *index;
+    }
+    return true;
+}
+
+/// `some` is an index by chance; false where there is nothing to choose from.
+bool choose(Execution& run, const Value& container, Element& element) {
+    if (element.form != ElementForm::some) return true;
+    const auto count = countElements(container, element, run.textRules());
+    if (!count || *count == 0) {
+        run.fail(cannotGet(spelled(element) + " of " + spelled(container)));
+        return false;
+    }
+    std::uniform_int_distribution<std::size_t> places(1, *count);
+    element.form = ElementForm::index;
+    element.first = static_cast<std::int32_t>(places(run.random()));
+    return true;
+}
+
+/// Texts are cut up to find an element, unless each character has one byte; of lists what is asked for is
+/// copied.
+void workFor(Execution& run, const Value& container, const Element& element) {
+    const auto* text = container.as<Text>();
+    if (text != nullptr && !text->isAscii()) return run.work(text->str().size() / 16);
+    const bool isOne = element.form == ElementForm::index || element.form == ElementForm::middle;
+    if (!isOne || element.kind == ElementKind::typed) run.workOn(container);
+}
+
+void getElement(Execution& run, const Instruction& here) {
+    Element element = elementFrom(here.detail, here.operand);
+    if (!takeIndices(run, element)) return;
+    const Value container = run.popResolved();
+    if (run.hasFailed() || !choose(run, container, element)) return;
+    workFor(run, container, element);
+    if (container.target() != nullptr && container.target()->kind == TargetBody::Kind::script) {
+        return run.fail(cannotGet(spelled(element)));
+    }
+    run.pushOrFail(elementOf(container, element, run.textRules()));
+}
+
+void makeReference(Execution& run, const Instruction& here) {
+    Element element = elementFrom(here.detail, here.operand);
+    if (!takeIndices(run, element)) return;
+    const Value container = run.popResolved();
+    if (run.hasFailed() || !choose(run, container, element)) return;
+    run.push(Value{makeShared<ReferenceBody>(container, element)});
+}
+
+bool isContainer(const Value& value) {
+    return value.list() != nullptr || value.record() != nullptr || value.reference() != nullptr;
+}
+
+void setElementOperation(Execution& run, const Instruction& here) {
+    Element element = elementFrom(here.detail, here.operand);
+    if (!takeIndices(run, element)) return;
+    const Value container = run.popResolved();
+    if (run.hasFailed() || !choose(run, container, element)) return;
+    const Value value = run.pop();
+    if (std::optional<Failure> failure = setElement(container, element, value))
+        return run.fail(*std::move(failure));
+    if (isContainer(value)) run.holdsContainer(container);
+}
+
+void textBetweenOperation(Execution& run, const Instruction& here) {
+    Element last = elementFrom((here.operand >> 8U) & 0xFFU, 0);
+    Element first = elementFrom(here.operand & 0xFFU, 0);
+    if (!takeIndices(run, last) || !takeIndices(run, first)) return;
+    const Value container = run.popResolved();
+    if (!run.hasFailed()) run.pushOrFail(textBetween(container, first, last, run.textRules()));
+}
+
+bool isScript(const Value& value) {
+    return value.target() != nullptr && value.target()->kind == TargetBody::Kind::script;
+}
+
+void getProperty(Execution& run, const Instruction& here) {
+    const Name& name = run.name(here.operand);
+    const Value container = run.popResolved();
+    if (run.hasFailed()) return;
+    if (&name != &names::length && &name != &names::beginning && &name != &names::end) run.workOn(container);
+    if (!isScript(container) || &name == &names::classProperty)
+        return run.pushOrFail(propertyOf(container, name));
+    const Value* variable = run.findGlobal(name);
+    if (variable == nullptr || variable->is<Nothing>()) return run.fail(cannotGet(spelledName(name)));
+    run.push(Value(*variable));
+}
+
+void setPropertyOperation(Execution& run, const Instruction& here) {
+    const Name& name = run.name(here.operand);
+    const Value container = run.popResolved();
+    if (run.hasFailed()) return;
+    const Value value = run.pop();
+    if (isScript(container)) {
+        Value* variable = run.findGlobal(name);
+        if (variable == nullptr) return run.fail(cannotSet(spelledName(name), value));
+        *variable = value;
+        return;
+    }
+    if (&name == &names::beginning) run.workOn(container);
+    if (std::optional<Failure> failure = setProperty(container, name, value))
+        return run.fail(*std::move(failure));
+    if (isContainer(value)) run.holdsContainer(container);
+}
+
+void getContents(Execution& run, const Instruction& /*unused*/) { run.resolveTop(1); }
+
+void setContents(Execution& run, const Instruction& /*unused*/) {
+    const Value reference = run.pop();
+    const Value value = run.pop();
+    const ReferenceBody* body = reference.reference();
+    if (body == nullptr) return run.fail(cannotSet("contents of " + spelled(reference), value));
+    Fallible<Value> container = resolved(body->container);
+    if (auto* failure = std::get_if<Failure>(&container)) return run.fail(std::move(*failure));
+    std::optional<Failure> failure = setElement(std::get<Value>(container), body->element, value);
+    if (failure) return run.fail(*std::move(failure));
+    if (isContainer(value)) run.holdsContainer(std::get<Value>(container));
+}
+
+bool isCharacter(std::int32_t point) {
+    return point > 0 && point <= 0x10FFFF && (point < 0xD800 || point > 0xDFFF);
+}
+
+void characterId(Execution& run, const Instruction& /*unused*/) {
+    const Value value = run.popResolved();
+    if (run.hasFailed()) return;
+    std::string text;
+    for (const Value& item : itemsOf(value)) {
+        const std::optional<std::int32_t> point = integerOf(item);
+        if (!point) return run.fail(cannotMake(item, "integer"));
+        if (!isCharacter(*point)) return run.fail(cannotGet("character id " + spelled(item)));
+        appendUtf8(text, static_cast<char32_t>(*point));
+    }
+    run.push(Value{std::move(text)});
+}
+
+/// Part of what a pattern takes apart.
+void pick(Execution& run, const Instruction& here) {
+    if (!run.resolveTop(1)) return;
+    Element element;
+    element.first = static_cast<std::int32_t>(here.operand);
+    run.pushOrFail(elementOf(run.top(), element, run.textRules()));
+}
+
+void pickField(Execution& run, const Instruction& here) {
+    if (!run.resolveTop(1)) return;
+    run.pushOrFail(propertyOf(run.top(), run.name(here.operand)));
+}
+
+}  // namespace
+
+void addElementOperations(OperationTable& table) {
+    const auto add = [&](Operation operation, Perform perform) {
+        table[static_cast<std::size_t>(operation)] = perform;
+    };
+    add(Operation::getElement, getElement);
+    add(Operation::setElement, setElementOperation);
+    add(Operation::makeReference, makeReference);
+    add(Operation::textBetween, textBetweenOperation);
+    add(Operation::getProperty, getProperty);
+    add(Operation::setProperty, setPropertyOperation);
+    add(Operation::getContents, getContents);
+    add(Operation::setContents, setContents);
+    add(Operation::characterId, characterId);
+    add(Operation::pick, pick);
+    add(Operation::pickField, pickField);
+}
+
+}  // namespace script

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/run/ScriptRunner.h"
+
+#include <variant>
+
+#include "platform/script/code/Compiler.h"
+#include "platform/script/run/Machine.h"
+#include "platform/script/source/Scoped.h"
+
+namespace script {
+
+void ScriptRunner::run(const std::string& source) {
+    if (m_running) return;
+    const Scoped<bool> running(m_running, true);
+    const std::variant<Program, ScriptError> compiled = compile(source);
+    const auto* program = std::get_if<Program>(&compiled);
+    if (program != nullptr) Machine(*program, {m_injector, m_desktop, *m_dialogs}).run();
+}
+
+}  // namespace script

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/source/Location.h"
+
+#include <algorithm>
+
+#include "platform/Utf8.h"
+
+namespace script {
+
+Location Locator::at(std::size_t offset) {
+    if (offset < m_position) *this = Locator(m_source);
+    const std::size_t end = std::min(offset, m_source.size());
+    std::uint32_t column = m_place.column;
+    for (; m_position < end; ++m_position) {
+        const char c = m_source[m_position];
+        if (c == '\n' || (c == '\r' && !isPair(m_position))) {
+            ++m_place.line;
+            column = 1;
+        } else if (!isUtf8Continuation(c)) {
+            ++column;
+        }
+    }
+    m_place.column = column;
+    return m_place;
+}
+
+/// CR LF ends one line, at its LF.
+bool Locator::isPair(std::size_t position) const {
+    return position + 1 < m_source.size() && m_source[position + 1] == '\n';
+}
+
+}  // namespace script

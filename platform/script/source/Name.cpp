@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/source/Name.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/script/source/Word.h"
+
+namespace script {
+namespace {
+
+/// A power of two, as are all its doubles.
+constexpr std::size_t firstSlots = 64;
+
+}  // namespace
+
+namespace names {
+
+const Name beginning{"beginning"};
+const Name buttonReturned{"button returned"};
+const Name classProperty{"class"};
+const Name contents{"contents"};
+const Name date{"date"};
+const Name dateString{"date string"};
+const Name day{"day"};
+const Name end{"end"};
+const Name frontmost{"frontmost"};
+const Name gaveUp{"gave up"};
+const Name hours{"hours"};
+const Name id{"id"};
+const Name length{"length"};
+const Name minutes{"minutes"};
+const Name month{"month"};
+const Name nameProperty{"name"};
+const Name rest{"rest"};
+const Name reverse{"reverse"};
+const Name run{"run"};
+const Name seconds{"seconds"};
+const Name textProperty{"text"};
+const Name textReturned{"text returned"};
+const Name time{"time"};
+const Name timeString{"time string"};
+const Name weekday{"weekday"};
+const Name year{"year"};
+
+const Name* find(std::string_view spelling) {
+    static const std::array<const Name*, 26> all{
+        &beginning,    &buttonReturned, &classProperty, &contents, &date, &dateString, &day,
+        &end,          &frontmost,      &gaveUp,        &hours,    &id,   &length,     &minutes,
+        &month,        &nameProperty,   &rest,          &reverse,  &run,  &seconds,    &textProperty,
+        &textReturned, &time,           &timeString,    &weekday,  &year};
+    const auto* found = std::find_if(all.begin(), all.end(), [&](const Name* name) {
+        return equalIgnoringCase(name->spelling, spelling);
+    });
+    return found == all.end() ? nullptr : *found;
+}
+
+}  // namespace names
+
+NameTable::NameTable() : m_slots(firstSlots) {
+    m_own.push_back({""});
+    m_byId.push_back({&m_own.back(), 0});
+}
+
+NameId NameTable::intern(std::string_view spelling, std::uint32_t hash) {
+    if (spelling.empty()) return 0;
+    std::size_t slot = slotOf(spelling, hash);
+    if (m_slots[slot] != 0) return m_slots[slot];
+    const Name* name = names::find(spelling);
+    if (name == nullptr) {
+        m_own.push_back({std::string(spelling)});
+        name = &m_own.back();
+    }
+    const auto id = static_cast<NameId>(m_byId.size());
+    m_byId.push_back({name, hash});
+    m_slots[slot] = id;
+    if (m_byId.size() * 2 > m_slots.size()) grow();
+    return id;
+}
+
+/// The slot of the name, or the free one that it would take.
+std::size_t NameTable::slotOf(std::string_view spelling, std::uint32_t hash) const {
+    const std::size_t mask = m_slots.size() - 1;
+    std::size_t slot = hash & mask;
+    for (; m_slots[slot] != 0; slot = (slot + 1) & mask) {
+        const Entry& entry = m_byId[m_slots[slot]];
+        if (entry.hash == hash && equalIgnoringCase(entry.name->spelling, spelling)) break;
+    }
+    return slot;
+}
+
+void NameTable::grow() {
+    m_slots.assign(m_slots.size() * 2, 0);
+    for (NameId id = 1; id < m_byId.size(); ++id) {
+        m_slots[slotOf(m_byId[id].name->spelling, m_byId[id].hash)] = id;
+    }
+}
+
+std::string asciiLowered(std::string_view text) {
+    std::string lowered(text);
+    for (char& c : lowered) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    }
+    return lowered;
+}
+
+std::string spelledName(const Name& name) {
+    const std::string& text = name.spelling;
+    const bool isWord =
+        !text.empty() && (text.front() < '0' || text.front() > '9') &&
+        std::all_of(text.begin(), text.end(), [](char c) {
+            return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+        });
+    const Word word = isWord ? wordOf(text) : Word::none;
+    const bool isOwn = names::find(text) == &name;
+    if (isOwn || (isWord && (word == Word::none || kindOf(word) != WordKind::reserved))) return text;
+    std::string barred = "|";
+    for (const char c : text) {
+        if (c == '|' || c == '\\') barred += '\\';
+        barred += c;
+    }
+    return barred + "|";
+}
+
+}  // namespace script

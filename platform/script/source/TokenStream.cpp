@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/source/TokenStream.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace script {
+namespace {
+
+std::string quoted(std::string_view text) { return "“" + std::string(text) + "”"; }
+
+bool isCurlyQuote(std::string_view text) {
+    return text == "“" || text == "”" || text == "‘" || text == "’" || text == "„";
+}
+
+}  // namespace
+
+bool TokenStream::namesBlock(Word word) {
+    return word == Word::tell || word == Word::repeat || word == Word::ifWord || word == Word::tryWord ||
+           word == Word::error || word == Word::considering || word == Word::ignoring ||
+           word == Word::timeout || word == Word::usingWord;
+}
+
+TokenStream::TokenStream(std::string_view source) : m_source(source), m_lexer(source) {
+    m_window[m_count++] = m_lexer.next();
+    m_window[m_count++] = m_lexer.next();
+    refuseFault();
+}
+
+std::uint32_t TokenStream::offsetOf(const Token& token) const {
+    return static_cast<std::uint32_t>(token.text.data() - m_source.data());
+}
+
+void TokenStream::advance() {
+    if (failed()) return;
+    m_first = (m_first + 1) % windowSize;
+    if (--m_count < 2) m_window[(m_first + m_count++) % windowSize] = m_lexer.next();
+    if (current().kind >= TokenKind::firstFault) refuseFault();
+}
+
+void TokenStream::advance(std::size_t count) {
+    for (; count > 0; --count) advance();
+}
+
+const Token& TokenStream::peek(std::size_t count) const {
+    while (m_count <= count) m_window[(m_first + m_count++) % windowSize] = m_lexer.next();
+    return m_window[(m_first + count) % windowSize];
+}
+
+/// No further than the words are found: what stands behind them may not be a token.
+bool TokenStream::isAtWords(const Phrase& words, std::size_t from) const {
+    for (std::size_t i = 0; i < words.wordCount(); ++i) {
+        if (!words.hasWord(i, peek(from + i))) return false;
+    }
+    return true;
+}
+
+bool TokenStream::acceptTerm(const Phrase& words) { return isAtTerm(words) && skip(words.wordCount()); }
+
+void TokenStream::expected(std::string_view what) {
+    fail(errornumber::syntax, "Expected " + std::string(what) + " but found " + describeCurrent() + ".");
+}
+
+void TokenStream::fail(int number, std::string message, std::size_t offset) {
+    if (failed()) return;
+    m_error = ScriptError{number, std::move(message), locate(m_source, offset)};
+    m_window.fill(Token{TokenKind::endOfScript, Word::none, 0, m_source.substr(m_source.size())});
+    m_count = windowSize;
+}
+
+/// Tokens that are wrong wherever they stand.
+void TokenStream::refuseFault() {
+    if (isAt(TokenKind::openText)) {
+        fail(errornumber::syntax, "Expected “\"” but found end of script.");
+    } else if (isAt(TokenKind::openComment)) {
+        fail(errornumber::syntax, "Expected “*)” but found end of script.");
+    } else if (isAt(TokenKind::rawCode)) {
+        fail(errornumber::syntax, "Raw codes («…») are not supported.");
+    } else if (isAt(TokenKind::strayContinuation)) {
+        fail(errornumber::syntax, "Expected end of line after “¬”.");
+    }
+}
+
+std::string TokenStream::describe(const Token& token, const Token& ahead) const {
+    switch (token.kind) {
+        case TokenKind::endOfScript:
+            return "end of script";
+        case TokenKind::endOfLine:
+            return "end of line";
+        case TokenKind::identifier:
+            return describeWord(token, ahead);
+        case TokenKind::number:
+            return "number";
+        case TokenKind::text:
+            return quoted("\"");
+        case TokenKind::unknown:
+            if (!isCurlyQuote(token.text)) return "unknown token";
+            return "unknown token " + std::string(token.text) + " (text stands between straight quotes)";
+        default:
+            return quoted(token.text);
+    }
+}
+
+std::string TokenStream::describeWord(const Token& token, const Token& ahead) const {
+    const Word word = token.word;
+    if (word == Word::none || !means(word) || kindOf(word) == WordKind::special) return "identifier";
+    if (word == Word::end && namesBlock(ahead.word)) {
+        return quoted("end " + std::string(spellingOf(ahead.word)));
+    }
+    return quoted(spellingOf(word));
+}
+
+void TokenStream::refuseTarget(std::uint32_t offset) {
+    Lexer lexer(m_source.substr(offset));
+    const Token token = lexer.next();
+    fail(errornumber::syntax, "Expected variable name but found " + describe(token, lexer.next()) + ".",
+         offset);
+}
+
+Nesting::Nesting(TokenStream& tokens) : m_tokens(tokens) {
+    if (++m_tokens.m_depth <= maxDepth) return;
+    m_tokens.fail(errornumber::syntax,
+                  "Expected at most " + std::to_string(maxDepth) + " levels of nesting but found more.");
+}
+
+}  // namespace script

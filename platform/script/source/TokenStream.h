@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/script/source/Lexer.h"
+#include "platform/script/source/Phrase.h"
+#include "platform/script/source/ScriptError.h"
+
+namespace script {
+
+/// The parser's view of a script: the current token, the one after it, and the first error.
+///
+/// An error ends the stream: from then on every token is the end of the script, so that whoever reads on
+/// finds nothing to read and comes back, and later complaints are not heard.
+class TokenStream {
+  public:
+    explicit TokenStream(std::string_view source);
+
+    const Token& current() const { return m_window[m_first]; }
+    const Token& ahead() const { return m_window[(m_first + 1) % windowSize]; }
+    /// The token so many behind the current one, at most maxAhead.
+    const Token& peek(std::size_t count) const;
+    std::uint32_t offset() const { return offsetOf(current()); }
+    std::uint32_t offsetOf(const Token& token) const;
+
+    bool isAt(TokenKind kind) const { return current().is(kind); }
+    /// Whether the current token is that word in a meaning that it has here.
+    bool isAt(Word word) const { return current().is(word) && means(word); }
+    /// Whether the current two tokens are a term of two words.
+    bool isAt(Word first, Word second) const { return isAt(first) && ahead().is(second) && means(second); }
+    /// Whether the tokens from the one so many behind the current one on are these words.
+    bool isAtTerm(const Phrase& words, std::size_t from = 0) const {
+        return peek(from).hash == words.firstHash() && isAtWords(words, from);
+    }
+    /// Whether the first word of the term stands here, whatever follows.
+    bool isAtFirstWordOf(const Phrase& words) const { return words.hasWord(0, current()); }
+    bool isAtLineEnd() const { return isAt(TokenKind::endOfLine) || isAt(TokenKind::endOfScript); }
+
+    void advance();
+    void advance(std::size_t count);
+    bool accept(TokenKind kind) { return isAt(kind) && skip(1); }
+    bool accept(Word word) { return isAt(word) && skip(1); }
+    bool accept(Word first, Word second) { return isAt(first, second) && skip(2); }
+    bool acceptTerm(const Phrase& words);
+    /// `the` means nothing and may stand before any noun, also more than once.
+    void skipFiller() {
+        while (accept(Word::the)) {
+        }
+    }
+
+    /// What an error says of the current token: "number", "“end tell”".
+    std::string describe() const { return describeCurrent(); }
+    /// Whether the word may stand behind `end`.
+    static bool namesBlock(Word word);
+
+    /// Fails with "Expected WHAT but found ...".
+    void expected(std::string_view what);
+    void fail(int number, std::string message) { fail(number, std::move(message), offset()); }
+    void fail(int number, std::string message, std::size_t offset);
+    /// Fails because what begins at the offset, which lies behind, cannot be set.
+    void refuseTarget(std::uint32_t offset);
+    bool failed() const { return m_error.has_value(); }
+    const std::optional<ScriptError>& error() const { return m_error; }
+
+    /// Whether the dictionary of System Events is in force.
+    bool knowsTerms() const { return m_knowsTerms; }
+    void setKnowsTerms(bool knows) { m_knowsTerms = knows; }
+
+    /// Whether the word is taken as the language's own here, not as a name.
+    bool means(Word word) const { return kindOf(word) != WordKind::term || m_knowsTerms; }
+
+  private:
+    friend class Nesting;
+
+    static constexpr std::size_t maxAhead = Phrase::maxWords;
+    static constexpr std::size_t windowSize = maxAhead + 1;
+
+    bool skip(std::size_t count) {
+        advance(count);
+        return true;
+    }
+    bool isAtWords(const Phrase& words, std::size_t from) const;
+    std::string describeCurrent() const { return describe(current(), ahead()); }
+    std::string describe(const Token& token, const Token& ahead) const;
+    std::string describeWord(const Token& token, const Token& ahead) const;
+    void refuseFault();
+
+    std::string_view m_source;
+    /// Tokens further ahead are read when somebody looks at them, which is no change of the stream.
+    mutable Lexer m_lexer;
+    /// A ring: m_count tokens from m_first on, at least the current one and the one behind it.
+    mutable std::array<Token, windowSize> m_window;
+    mutable std::size_t m_count = 0;
+    std::size_t m_first = 0;
+    std::optional<ScriptError> m_error;
+    bool m_knowsTerms = false;
+    int m_depth = 0;
+};
+
+/// One level of nesting for its lifetime. The parser descends by recursion, so its depth is bounded: a script
+/// cannot overflow the stack.
+class Nesting {
+  public:
+    static constexpr int maxDepth = 200;
+
+    /// Fails the stream at the bound.
+    explicit Nesting(TokenStream& tokens);
+    ~Nesting() { --m_tokens.m_depth; }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+
+  private:
+    TokenStream& m_tokens;
+};
+
+}  // namespace script

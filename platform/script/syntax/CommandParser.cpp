@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/syntax/CommandParser.h"
+
+#include <algorithm>
+#include <string>
+
+#include "platform/script/source/Scoped.h"
+#include "platform/script/syntax/TermParser.h"
+#include "platform/script/values/Terms.h"
+
+namespace script {
+namespace {
+
+/// “a”, “b” or “c”
+std::string alternatives(const std::vector<std::string_view>& words) {
+    std::string out;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (i > 0) out += i + 1 == words.size() ? " or " : ", ";
+        out += "“" + std::string(words[i]) + "”";
+    }
+    return out;
+}
+
+}  // namespace
+
+std::optional<std::uint32_t> CommandParser::commandHere() const {
+    const std::optional<std::uint32_t> index = script::commandHere(m_tokens);
+    return index && isMeant(*commands()[*index]) ? index : std::nullopt;
+}
+
+/// Commands of one word may be names as well.
+bool CommandParser::isMeant(const Command& command) const {
+    if (command.name.wordCount() > 1) return true;
+    const Token& next = m_tokens.ahead();
+    if (next.is(TokenKind::colon) || next.is(TokenKind::equal) || next.is(TokenKind::possessive))
+        return false;
+    if (command.isTerm || command.direct != Command::Direct::required) return true;
+    switch (next.kind) {
+        case TokenKind::identifier:
+            return next.is(Word::none) || next.is(Word::notWord) || next.is(Word::my) ||
+                   (command.takesOf && next.is(Word::of)) || next.is(Word::the) || next.is(Word::every) ||
+                   kindOf(next.word) != WordKind::reserved || next.is(Word::it) || next.is(Word::me) ||
+                   next.is(Word::returnWord) || next.is(Word::trueWord) || next.is(Word::falseWord);
+        case TokenKind::number:
+        case TokenKind::text:
+        case TokenKind::leftParenthesis:
+        case TokenKind::leftBrace:
+        case TokenKind::minus:
+            return !(command.takesOf && next.is(TokenKind::minus));
+        default:
+            return false;
+    }
+}
+
+NodeId CommandParser::command(std::uint32_t index) {
+    const Command& command = *commands()[index];
+    const NodeId node = m_tree.add(NodeKind::command, m_tokens.offset(), index);
+    m_tokens.advance(command.name.wordCount());
+    ChildList children(m_tree, node);
+    if (command.takesOf) m_tokens.accept(Word::of);
+    if (const NodeId value = direct(command); value != noNode) {
+        m_tree.nodes[node].detail = 1;
+        children.append(value);
+    }
+    parameters(command, children);
+    return node;
+}
+
+/// `noNode` where none stands.
+NodeId CommandParser::direct(const Command& command) {
+    if (command.direct == Command::Direct::none) return noNode;
+    if (command.direct == Command::Direct::optional) {
+        const TokenKind kind = m_tokens.current().kind;
+        const bool ends = m_tokens.isAtLineEnd() || kind == TokenKind::rightParenthesis ||
+                          kind == TokenKind::rightBrace || kind == TokenKind::comma ||
+                          parameterHere(command) ||
+                          (kind != TokenKind::minus && binaryOperator(m_tokens) != nullptr);
+        if (ends || m_tokens.isAt(Word::as)) return noNode;
+    }
+    if (command.isTerm && parameterHere(command)) {
+        m_tokens.expected("expression");
+        return noNode;
+    }
+    const bool allowsIn = m_terms.allowsIn() && !hasParameter(command, "in");
+    const bool before = m_terms.allowsIn();
+    m_terms.setAllowsIn(allowsIn);
+    const NodeId value = m_terms.expressions().expressionBefore(hasParameter(command, "as"));
+    m_terms.setAllowsIn(before);
+    return value;
+}
+
+bool CommandParser::hasParameter(const Command& command, const Phrase& label) {
+    return std::any_of(command.parameters.begin(), command.parameters.end(), [&](const Parameter& parameter) {
+        return parameter.label.firstHash() == label.firstHash() &&
+               parameter.label.spelling() == label.spelling();
+    });
+}
+
+std::optional<std::uint32_t> CommandParser::parameterHere(const Command& command) const {
+    for (std::uint32_t i = 0; i < command.parameters.size(); ++i) {
+        if (m_tokens.isAtTerm(command.parameters[i].label)) return i;
+    }
+    return std::nullopt;
+}
+
+void CommandParser::parameters(const Command& command, ChildList& children, std::uint32_t given) {
+    m_tokens.skipFiller();
+    while (const std::optional<std::uint32_t> index = parameterHere(command)) {
+        const Parameter& parameter = command.parameters[*index];
+        if ((given & (1U << *index)) != 0) failTwice(parameter.label.spelling());
+        given |= 1U << *index;
+        const NodeId argument = m_tree.add(NodeKind::argument, m_tokens.offset(), *index);
+        m_tokens.advance(parameter.label.wordCount());
+        ChildList(m_tree, argument).append(parameterValue(parameter, command));
+        children.append(argument);
+        m_tokens.skipFiller();
+    }
+    if (!m_tokens.failed() && truth(command, given, children)) return parameters(command, children, given);
+    refuseIncompleteLabel(command);
+}
+
+/// `with hidden answer`, `without hidden answer`: true or false for the parameter. False if none stands here.
+bool CommandParser::truth(const Command& command, std::uint32_t& given, ChildList& children) {
+    if (!m_tokens.isAt(Word::with) && !m_tokens.isAt(Word::without)) return false;
+    for (std::uint32_t i = 0; i < command.parameters.size(); ++i) {
+        const Phrase& label = command.parameters[i].label;
+        if (!m_tokens.isAtTerm(label, 1)) continue;
+        if ((given & (1U << i)) != 0) failTwice(label.spelling());
+        given |= 1U << i;
+        const NodeId argument = m_tree.add(NodeKind::argument, m_tokens.offset(), i);
+        const std::uint32_t value = m_tokens.isAt(Word::with) ? 1 : 0;
+        ChildList(m_tree, argument).append(m_tree.add(NodeKind::truth, m_tokens.offset(), value));
+        children.append(argument);
+        m_tokens.advance(label.wordCount() + 1);
+        return true;
+    }
+    return false;
+}
+
+void CommandParser::failTwice(std::string_view label) {
+    m_tokens.fail(errornumber::parameterTwice,
+                  "The " + std::string(label) + " parameter is specified more than once.");
+}
+
+/// `default 5`: the first word of labels without the second one.
+void CommandParser::refuseIncompleteLabel(const Command& command) {
+    if (!m_tokens.current().is(Word::none) || !m_tokens.isAt(TokenKind::identifier)) return;
+    std::vector<std::string_view> seconds;
+    for (const Parameter& parameter : command.parameters) {
+        if (parameter.label.wordCount() < 2 || !m_tokens.isAtFirstWordOf(parameter.label)) continue;
+        seconds.push_back(parameter.label.rest());
+    }
+    if (seconds.empty()) return;
+    m_tokens.advance();
+    m_tokens.expected(alternatives(seconds));
+}
+
+NodeId CommandParser::parameterValue(const Parameter& parameter, const Command& command) {
+    m_tokens.skipFiller();
+    if (parameter.takesClass) return className();
+    if (!parameter.choices.empty()) {
+        if (const NodeId node = chosen(parameter); node != noNode || m_tokens.failed()) return node;
+    }
+    return m_terms.expressions().expressionBefore(hasParameter(command, "as"));
+}
+
+/// One of the words as text; `noNode` where none of them stands and a value may.
+NodeId CommandParser::chosen(const Parameter& parameter) {
+    const std::uint32_t offset = m_tokens.offset();
+    for (const Phrase& words : parameter.choices) {
+        if (!m_tokens.acceptTerm(words)) continue;
+        return m_tree.add(NodeKind::text, offset, m_tree.addText(words.spelling()));
+    }
+    if (parameter.takesValue) return noNode;
+    std::vector<std::string_view> spellings;
+    for (const Phrase& words : parameter.choices) spellings.push_back(words.spelling());
+    m_tokens.expected(alternatives(spellings));
+    return noNode;
+}
+
+NodeId CommandParser::className() {
+    const NodeId node = m_tree.add(NodeKind::known, m_tokens.offset());
+    if (m_tokens.isAtTerm("unicode text")) m_tokens.advance();
+    const auto term = m_tokens.isAt(TokenKind::identifier) ? findTerm(m_tokens.current()) : std::nullopt;
+    if (!term || knownTerm(*term).kind != KnownTerm::Kind::type) {
+        m_tokens.expected("class name");
+        return node;
+    }
+    m_tree.nodes[node].detail = *term;
+    m_tree.nodes[node].value = m_terms.nameHere();
+    return node;
+}
+
+}  // namespace script

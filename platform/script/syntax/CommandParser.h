@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+
+#include "platform/script/commands/Command.h"
+#include "platform/script/source/TokenStream.h"
+#include "platform/script/syntax/Node.h"
+
+namespace script {
+
+class TermParser;
+
+/// Reads commands: their name, the direct argument, and parameters in any order.
+///
+/// command = name [[of] expression] { label ( expression | one of its words | class ) }
+class CommandParser {
+  public:
+    CommandParser(TokenStream& tokens, Tree& tree, TermParser& terms)
+        : m_tokens(tokens), m_tree(tree), m_terms(terms) {}
+
+    /// The index of the command that stands here; empty where a name of the same spelling is meant: `round =
+    /// 2`.
+    std::optional<std::uint32_t> commandHere() const;
+    NodeId command(std::uint32_t index);
+
+  private:
+    bool isMeant(const Command& command) const;
+    NodeId direct(const Command& command);
+    std::optional<std::uint32_t> parameterHere(const Command& command) const;
+    void parameters(const Command& command, ChildList& children, std::uint32_t given = 0);
+    bool truth(const Command& command, std::uint32_t& given, ChildList& children);
+    void failTwice(std::string_view label);
+    NodeId parameterValue(const Parameter& parameter, const Command& command);
+    NodeId chosen(const Parameter& parameter);
+    NodeId className();
+    void refuseIncompleteLabel(const Command& command);
+    static bool hasParameter(const Command& command, const Phrase& label);
+
+    TokenStream& m_tokens;
+    Tree& m_tree;
+    TermParser& m_terms;
+};
+
+}  // namespace script

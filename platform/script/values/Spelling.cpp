@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+#include "platform/script/values/Spelling.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "platform/Modifiers.h"
+#include "platform/Utf8.h"
+#include "platform/script/source/Scoped.h"
+#include "platform/script/source/ScriptError.h"
+#include "platform/script/values/Dates.h"
+
+namespace script {
+namespace {
+
+constexpr int significantDigits = 12;
+constexpr std::size_t maxSpelling = 4096;
+constexpr int maxDepth = 500;
+
+/// A real as its digits without trailing zeros, and the power of ten of the first digit.
+struct Digits {
+    std::string digits;
+    int exponent = 0;
+};
+
+Digits digitsOf(double magnitude) {
+    std::array<char, 32> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                      std::chars_format::scientific, significantDigits - 1);
+    const std::string_view text(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
+    const std::size_t mark = text.find('e');
+    Digits found;
+    found.digits = std::string(1, text.front()) + std::string(text.substr(2, mark - 2));
+    found.digits.erase(found.digits.find_last_not_of('0') + 1);
+    if (found.digits.empty()) found.digits = "0";
+    const std::size_t first = text[mark + 1] == '+' ? mark + 2 : mark + 1;
+    std::from_chars(text.data() + first, text.data() + text.size(), found.exponent);
+    return found;
+}
+
+/// `digits` with the point behind the first `whole` ones, filled with zeros on both sides.
+std::string pointed(const std::string& digits, int whole) {
+    std::string text = digits;
+    if (whole < 1) text.insert(0, static_cast<std::size_t>(1 - whole), '0');
+    const auto point = static_cast<std::size_t>(whole < 1 ? 1 : whole);
+    if (text.size() <= point) text.append(point + 1 - text.size(), '0');
+    return text.insert(point, 1, '.');
+}
+
+/// Appends the spelling of values until there is enough of it.
+class Speller {
+  public:
+    std::string take() {
+        if (m_out.size() <= maxSpelling) return std::move(m_out);
+        std::size_t end = maxSpelling;
+        while (isUtf8Continuation(m_out[end])) --end;
+        return m_out.substr(0, end) + "…";
+    }
+
+    void add(const Value& value) {
+        if (m_out.size() > maxSpelling) return;
+        const Scoped<int> depth(m_depth, m_depth + 1);
+        if (m_depth > maxDepth) {
+            m_out += "…";
+            return;
+        }
+        std::visit([this](const auto& content) { spell(content); }, value.content);
+    }
+
+  private:
+    void spell(Nothing /*unused*/) {}
+    void spell(Missing /*unused*/) { m_out += "missing value"; }
+    void spell(bool value) { m_out += value ? "true" : "false"; }
+    void spell(std::int64_t value) { m_out += std::to_string(value); }
+    void spell(double value) { m_out += realText(value); }
+    void spell(const Text& text) { quote(text.str()); }
+    void spell(const Modifier& constant) { m_out += constantText(constant); }
+    void spell(const CalendarName& constant) { m_out += constantText(constant); }
+    void spell(Type type) { m_out += type == Type::text ? "text" : typeName(type); }
+    void spell(const Shared<ListBody>& list);
+    void spell(const Shared<RecordBody>& record);
+    void spell(const Shared<DateBody>& date) { m_out += "date \"" + dateText(date->seconds) + "\""; }
+    void spell(const Shared<ReferenceBody>& reference) {
+        m_out += spelled(reference->element) + " of ";
+        add(reference->container);
+    }
+    void spell(const Shared<TargetBody>& target);
+    void quote(const std::string& text);
+
+    std::string m_out;
+    int m_depth = 0;
+};
+
+void Speller::spell(const Shared<ListBody>& list) {
+    m_out += "{";
+    bool isFirst = true;
+    for (const Value& item : list->items) {
+        if (m_out.size() > maxSpelling) return;
+        if (!std::exchange(isFirst, false)) m_out += ", ";
+        add(item);
+    }
+    m_out += "}";
+}
+
+void Speller::spell(const Shared<RecordBody>& record) {
+    m_out += "{";
+    bool isFirst = true;
+    for (const Field& field : record->fields) {
+        if (m_out.size() > maxSpelling) return;
+        if (!std::exchange(isFirst, false)) m_out += ", ";
+        m_out += spelledName(*field.name) + ":";
+        add(field.value);
+    }
+    m_out += "}";
+}
+
+void Speller::spell(const Shared<TargetBody>& target) {
+    switch (target->kind) {
+        case TargetBody::Kind::script:
+            m_out += "«script»";
+            return;
+        case TargetBody::Kind::process:
+            m_out += "process ";
+            break;
+        default:
+            m_out += "application ";
+            break;
+    }
+    quote(target->name.str());
+}
+
+void Speller::quote(const std::string& text) {
+    m_out += '"';
+    for (const char c : text) {
+        if (m_out.size() > maxSpelling + 8) return;
+        if (c == '"' || c == '\\') m_out += '\\';
+        m_out += c;
+    }
+    m_out += '"';
+}
+
+std::string_view kindName(const Element& element) {
+    constexpr std::array<std::string_view, 7> kindNames{"item",      "character", "word", "paragraph",
+                                                        "text item", "text",      ""};
+    if (element.kind == ElementKind::typed) return typeName(element.type);
+    return kindNames[static_cast<std::size_t>(element.kind)];
+}
+
+}  // namespace
+
+std::string realText(double value) {
+    constexpr double large = 10000;
+    constexpr double small = 0.0001;
+    const double magnitude = std::abs(value);
+    const std::string sign = value < 0 ? "-" : "";
+    const Digits found = digitsOf(magnitude);
+    if (magnitude == 0 || (magnitude > small && magnitude < large)) {
+        return sign + pointed(found.digits, found.exponent + 1);
+    }
+    return sign + pointed(found.digits, 1) + "E" + (found.exponent < 0 ? "" : "+") +
+           std::to_string(found.exponent);
+}
+
+std::string constantText(const Modifier& constant) {
+    std::string name;
+    switch (constant.modifier) {
+        case modifier::command:
+            name = "command";
+            break;
+        case modifier::control:
+            name = "control";
+            break;
+        case modifier::option:
+            name = "option";
+            break;
+        default:
+            name = "shift";
+            break;
+    }
+    return constant.down ? name + " down" : name;
+}
+
+std::string constantText(const CalendarName& constant) {
+    return std::string(constant.kind == CalendarName::Kind::month ? monthName(constant.number)
+                                                                  : weekdayName(constant.number));
+}
+
+std::string spelled(const Value& value) {
+    Speller speller;
+    speller.add(value);
+    return speller.take();
+}
+
+std::string spelled(const Element& element) {
+    const std::string kind(kindName(element));
+    const std::string first = std::to_string(element.first);
+    switch (element.form) {
+        case ElementForm::index:
+            return kind + " " + first;
+        case ElementForm::range:
+            return kind + (element.kind == ElementKind::text ? " " : "s ") + first + " thru " +
+                   std::to_string(element.last);
+        case ElementForm::some:
+            return "some " + kind;
+        case ElementForm::middle:
+            return "middle " + kind;
+        default:
+            return "every " + kind;
+    }
+}
+
+Failure cannotMake(const Value& value, std::string_view type) {
+    return {errornumber::cannotCoerce,
+            "Can’t make " + spelled(value) + " into type " + std::string(type) + "."};
+}
+
+Failure cannotGet(const std::string& what) { return {errornumber::noSuchObject, "Can’t get " + what + "."}; }
+
+Failure cannotSet(const std::string& what, const Value& value) {
+    return {errornumber::cannotSet, "Can’t set " + what + " to " + spelled(value) + "."};
+}
+
+}  // namespace script

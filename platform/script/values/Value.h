@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "platform/script/source/Name.h"
+#include "platform/script/values/Shared.h"
+
+namespace script {
+
+/// No value: a variable that was never set, a statement that gives none.
+struct Nothing {
+    friend bool operator==(Nothing, Nothing) = default;
+};
+
+/// `missing value`.
+struct Missing {
+    friend bool operator==(Missing, Missing) = default;
+};
+
+/// `command down`, or `command` as the name of the key.
+struct Modifier {
+    std::uint32_t modifier = 0;  ///< one bit of platform/Modifiers.h
+    bool down = false;
+
+    friend bool operator==(const Modifier&, const Modifier&) = default;
+};
+
+/// A month (January is 1) or a weekday (Sunday is 1).
+struct CalendarName {
+    enum class Kind : std::uint8_t { month, weekday } kind = Kind::month;
+    std::uint8_t number = 1;
+
+    friend bool operator==(const CalendarName&, const CalendarName&) = default;
+};
+
+/// The classes of values, and those that only coercions know.
+enum class Type : std::uint8_t {
+    integer,
+    real,
+    number,
+    text,
+    boolean,
+    list,
+    record,
+    date,
+    classType,
+    constant,
+    reference,
+    script,
+    application,
+    process,
+    month,
+    weekday,
+    item,
+    anything,
+};
+
+/// "integer"; "class" for classType.
+std::string_view typeName(Type type);
+
+/// Immutable UTF-8 text, shared by its owners.
+class Text {
+  public:
+    explicit Text(std::string text);
+
+    const std::string& str() const { return m_body->text; }
+    /// Whether all characters are single bytes, so that they are counted at once.
+    bool isAscii() const { return m_body->isAscii; }
+
+  private:
+    struct Body : Counted {
+        explicit Body(std::string content);
+        std::string text;
+        bool isAscii;
+        HeldMemory memory;
+    };
+    Shared<Body> m_body;
+};
+
+struct Value;
+struct ListBody;
+struct RecordBody;
+struct DateBody;
+struct ReferenceBody;
+struct TargetBody;
+using List = std::vector<Value>;
+
+/// What an expression gives: a whole number within maxInteger, a real (finite), a text, a constant, a class,
+/// or an object, which its owners share.
+struct Value {
+    using Content = std::variant<Nothing, Missing, bool, std::int64_t, double, Text, Modifier, CalendarName,
+                                 Type, Shared<ListBody>, Shared<RecordBody>, Shared<DateBody>,
+                                 Shared<ReferenceBody>, Shared<TargetBody>>;
+
+    Value() = default;
+    /// Of one of the types above and of no other, so that nothing is converted on the way.
+    template <typename Alternative>
+    explicit Value(Alternative value) : content(std::in_place_type<Alternative>, std::move(value)) {}
+    explicit Value(std::string text) : Value(Text(std::move(text))) {}
+    explicit Value(List items);
+
+    Content content;
+
+    template <typename Alternative>
+    const Alternative* as() const {
+        return std::get_if<Alternative>(&content);
+    }
+    template <typename Alternative>
+    bool is() const {
+        return std::holds_alternative<Alternative>(content);
+    }
+    /// Null if the value is no text.
+    const std::string* text() const;
+    /// Null if the value is no list.
+    List* list() const;
+    RecordBody* record() const;
+    DateBody* date() const;
+    ReferenceBody* reference() const;
+    TargetBody* target() const;
+};
+
+struct ListBody : Counted {
+    explicit ListBody(List content);
+    /// To be called after the items were changed.
+    void didChange();
+    List items;
+    HeldMemory memory;
+};
+
+struct Field {
+    const Name* name = nullptr;
+    Value value;
+};
+
+struct RecordBody : Counted {
+    explicit RecordBody(std::vector<Field> content);
+    /// Null if there is no such field.
+    Value* find(const Name& name);
+    void add(Field field);
+    std::vector<Field> fields;
+    HeldMemory memory;
+};
+
+/// A moment of the calendar, in seconds since 1970 began in this time zone.
+struct DateBody : Counted {
+    explicit DateBody(std::int64_t moment) : seconds(moment) {}
+    std::int64_t seconds;
+};
+
+/// The ways to name elements.
+enum class ElementKind : std::uint8_t { item, character, word, paragraph, textItem, text, typed };
+enum class ElementForm : std::uint8_t { index, middle, some, every, range };
+
+/// Elements within their container, as `item 2`.
+struct Element {
+    ElementKind kind = ElementKind::item;
+    ElementForm form = ElementForm::index;
+    Type type = Type::anything;  ///< of the kind `typed`: the class of the elements
+    std::int32_t first = 0;      ///< from 1, negative from the end
+    std::int32_t last = 0;       ///< of a range
+};
+
+/// `item 2 of L` that was kept and not yet looked up.
+struct ReferenceBody : Counted {
+    ReferenceBody(Value whole, Element part);
+    Value container;
+    Element element;
+};
+
+/// What `tell` can address and `me` and `it` can be.
+struct TargetBody : Counted {
+    enum class Kind : std::uint8_t { script, systemEvents, application, process };
+    TargetBody(Kind which, Text what) : kind(which), name(std::move(what)) {}
+    Kind kind;
+    Text name;
+};
+
+/// Why a step of a run failed; the place is added by who knows it.
+struct Failure {
+    int number = 0;
+    std::string message;
+    std::string hint = {};
+    /// What `error` was given beside them, or nothing.
+    Value from = {};
+    Value partialResult = {};
+    Value to = {};
+    /// Whether the user asked to stop, which no script can catch.
+    bool isCancel = false;
+};
+
+/// A value or a failure.
+template <typename Type>
+using Fallible = std::variant<Type, Failure>;
+
+inline const Failure* failureOf(const Fallible<Value>& outcome) { return std::get_if<Failure>(&outcome); }
+
+}  // namespace script

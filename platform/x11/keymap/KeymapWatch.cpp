@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/keymap/KeymapWatch.h"
+
+#include <xcb/xinput.h>
+#include <xkbcommon/xkbcommon-x11.h>
+
+#include <algorithm>
+
+#include "platform/x11/server/XcbXkb.h"
+
+namespace {
+
+constexpr std::uint16_t watchedEvents =
+    XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
+constexpr std::uint16_t watchedParts = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS |
+                                       XCB_XKB_MAP_PART_MODIFIER_MAP | XCB_XKB_MAP_PART_KEY_ACTIONS |
+                                       XCB_XKB_MAP_PART_VIRTUAL_MODS | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
+
+Error unreadable() {
+    return Error{"The keymap of the X server cannot be read.", "Set a keyboard layout, then play again."};
+}
+
+/// Whether two maps differ in anything but the keys of `own`.
+bool differ(const DeviceMap& left, const DeviceMap& right, const KeycodeSet& own) {
+    if (left.types != right.types || left.firstKeycode != right.firstKeycode) return true;
+    for (std::size_t keycode = 0; keycode < left.keys.size(); ++keycode) {
+        if (!own[keycode] && left.keys[keycode] != right.keys[keycode]) return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+KeymapWatch::KeymapWatch(XConnection connection)
+    : m_connection(std::move(connection)), m_context(xkb_context_new(XKB_CONTEXT_NO_FLAGS)) {}
+
+Result<std::unique_ptr<KeymapWatch>> KeymapWatch::open(const std::string& display) {
+    auto connection = XConnection::open(display);
+    if (!connection) return connection.error();
+    std::unique_ptr<KeymapWatch> watch(new KeymapWatch(std::move(connection).value()));
+    const int isStarted =
+        xkb_x11_setup_xkb_extension(watch->m_connection, 1, 0, XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr,
+                                    nullptr, &watch->m_firstEvent, nullptr);
+    watch->m_coreDevice = xkb_x11_get_core_keyboard_device_id(watch->m_connection);
+    if (isStarted == 0 || watch->m_coreDevice < 0 || !watch->m_context) return unreadable();
+    const XReply<xcb_input_xi_query_version_reply_t> input(xcb_input_xi_query_version_reply(
+        watch->m_connection, xcb_input_xi_query_version(watch->m_connection, 2, 2), nullptr));
+    xcb_xkb_select_events(watch->m_connection, XCB_XKB_ID_USE_CORE_KBD, watchedEvents, 0, watchedEvents,
+                          watchedParts, watchedParts, nullptr);
+    const auto read = watch->read();
+    if (!read) return read.error();
+    return watch;
+}
+
+Result<void> KeymapWatch::read() {
+    auto map = readDeviceMap(m_connection, XCB_XKB_ID_USE_CORE_KBD);
+    XkbKeymapPointer keymap(xkb_x11_keymap_new_from_device(m_context.get(), m_connection, m_coreDevice,
+                                                           XKB_KEYMAP_COMPILE_NO_FLAGS));
+    if (!map || !keymap) return unreadable();
+    m_map = std::move(*map);
+    m_actions = readActions(m_connection);
+    m_keymap =
+        std::make_unique<InjectorKeymap>(std::move(keymap), readModifierMasks(m_connection), m_ownKeys);
+    return {};
+}
+
+Result<bool> KeymapWatch::refresh(bool thorough) {
+    if (!takeNotices(thorough)) return false;
+    auto map = readDeviceMap(m_connection, XCB_XKB_ID_USE_CORE_KBD);
+    if (!map) return unreadable();
+    const bool isNew = differ(*map, m_map, m_ownKeys) || readActions(m_connection) != m_actions;
+    m_map = std::move(*map);
+    if (isNew) {
+        const auto read = this->read();
+        if (!read) return read.error();
+    }
+    return true;
+}
+
+bool KeymapWatch::takeNotices(bool thorough) {
+    if (thorough) m_connection.roundTrip();
+    bool hasNotice = false;
+    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
+        if ((event->response_type & 0x7F) == m_firstEvent) hasNotice = true;
+    }
+    return hasNotice;
+}
+
+void KeymapWatch::setOwnKeys(const KeycodeSet& keys) { m_ownKeys = keys; }
+
+std::vector<SlaveKeyboard> KeymapWatch::slaves() const {
+    auto keyboards = slaveKeyboards(m_connection);
+    keyboards.erase(std::remove_if(keyboards.begin(), keyboards.end(),
+                                   [&](const SlaveKeyboard& one) { return one.master != m_coreDevice; }),
+                    keyboards.end());
+    return keyboards;
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include "platform/keymap/InjectorKeymap.h"
+#include "platform/x11/keymap/DeviceMap.h"
+#include "platform/x11/server/SlaveKeyboards.h"
+#include "platform/x11/server/XConnection.h"
+
+/// The keymap of the core keyboard, kept up with its changes, and the connection on which it is read.
+///
+/// The server tells of a new keymap each time that another keyboard speaks, mostly with nothing new in it;
+/// the maps are compared before anything is made anew.
+class KeymapWatch {
+  public:
+    /// Fails with a hint where the keymap cannot be read.
+    static Result<std::unique_ptr<KeymapWatch>> open(const std::string& display);
+
+    /// Looks whether the server has told of a change; true if the map was read again, new or not. With
+    /// `thorough` a round trip makes sure that everything up to now is seen.
+    Result<bool> refresh(bool thorough);
+
+    const InjectorKeymap& keymap() const { return *m_keymap; }
+    /// The core keyboard's map.
+    const DeviceMap& map() const { return m_map; }
+    const XConnection& connection() const { return m_connection; }
+
+    /// Keys whose meaning is our own: they are left out of the keymap, and changes of them make nothing anew.
+    void setOwnKeys(const KeycodeSet& keys);
+
+    /// The keyboards below the core keyboard.
+    std::vector<SlaveKeyboard> slaves() const;
+
+  private:
+    explicit KeymapWatch(XConnection connection);
+
+    Result<void> read();
+    bool takeNotices(bool thorough);
+
+    XConnection m_connection;
+    XkbContextPointer m_context;
+    std::uint8_t m_firstEvent = 0;
+    std::int32_t m_coreDevice = -1;
+    KeycodeSet m_ownKeys;
+    DeviceMap m_map;
+    std::vector<std::byte> m_actions;
+    std::unique_ptr<InjectorKeymap> m_keymap;
+};

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/press/HandsAndLocks.h"
+
+#include <utility>
+
+namespace {
+
+constexpr std::uint8_t allModifiers = 0xFF;
+
+std::uint8_t without(std::uint8_t bits, std::uint8_t removed) {
+    return static_cast<std::uint8_t>(bits & ~removed);
+}
+
+std::uint8_t heldModifiers(const ModifierKeys& keys, const KeycodeSet& held) {
+    unsigned modifiers = 0;
+    for (std::size_t keycode = 0; keycode < held.size(); ++keycode) {
+        if (held[keycode]) modifiers |= keys.heldBy(static_cast<std::uint8_t>(keycode));
+    }
+    return static_cast<std::uint8_t>(modifiers);
+}
+
+/// The keys of `among` that hold one of the modifiers.
+KeycodeSet holdersOf(const ModifierKeys& keys, std::uint8_t modifiers, const KeycodeSet& among) {
+    KeycodeSet holders;
+    for (std::size_t keycode = 0; keycode < among.size(); ++keycode) {
+        holders[keycode] =
+            among[keycode] && (keys.heldBy(static_cast<std::uint8_t>(keycode)) & modifiers) != 0;
+    }
+    return holders;
+}
+
+void releaseAll(InjectionConnection& connection, const KeycodeSet& keys) {
+    for (std::size_t keycode = 0; keycode < keys.size(); ++keycode) {
+        if (keys[keycode]) connection.release(static_cast<std::uint8_t>(keycode));
+    }
+}
+
+}  // namespace
+
+Result<bool> HandsAndLocks::takeOver(const KeymapWatch& keymap) {
+    const auto state = m_connection.synchronise();
+    if (!state) return state.error();
+    const InjectorKeymap& map = keymap.keymap();
+    m_afterwards = state.value().locked;
+    const auto told = tellGuard(state.value().lockedGroup);
+    if (!told) return told.error();
+    m_hasTakenOver = true;
+    m_watch.takeModifierPress();
+    KeycodeSet down = keysDown(keymap);
+    if (state.value().base != 0) down |= holdersOf(map.keys(), state.value().base, KeycodeSet().set());
+    releaseAll(m_connection, down);
+    const std::uint8_t inTheWay = without(state.value().locked, map.masks().numLock);
+    if (inTheWay != 0) m_connection.lockModifiers(inTheWay, 0);
+    if (state.value().latched != 0 || state.value().hasOtherGroup) m_connection.clearLatches();
+    m_current = without(state.value().locked, inTheWay);
+    const auto done = m_connection.synchronise();
+    if (!done) return done.error();
+    return down.any();
+}
+
+Result<InputState> HandsAndLocks::check(const KeymapWatch& keymap, const KeycodeSet& held) {
+    auto state = m_connection.synchronise();
+    if (!state) return state;
+    const bool isRepaired = repair(keymap, held, state.value());
+    const auto told = tellGuard(state.value().lockedGroup);
+    if (!told) return told.error();
+    return isRepaired ? m_connection.synchronise() : state;
+}
+
+/// Queues what has to be done; true if there is something.
+bool HandsAndLocks::repair(const KeymapWatch& keymap, const KeycodeSet& held, const InputState& state) {
+    const InjectorKeymap& map = keymap.keymap();
+    const std::uint8_t own = held.any() ? heldModifiers(map.keys(), held) : std::uint8_t{0};
+    const std::uint8_t foreign = without(state.base, own);
+    const std::uint8_t undone = without(own, state.base);
+    const bool hasPress = m_watch.takeModifierPress();
+    bool isDone = changeLocksBack(state.locked, map.masks().numLock);
+    if (state.latched != 0) m_connection.clearLatches();
+    if (foreign != 0 || state.hasOtherGroup || hasPress) {
+        release(keymap, foreign, held);
+        isDone = true;
+    }
+    for (std::size_t keycode = 0; undone != 0 && keycode < held.size(); ++keycode) {
+        const auto code = static_cast<std::uint8_t>(keycode);
+        if (!held[keycode] || (map.keys().heldBy(code) & undone) == 0) continue;
+        m_connection.release(code);
+        m_connection.press(code);
+        isDone = true;
+    }
+    return isDone || state.latched != 0;
+}
+
+/// Releases the modifier keys that are down on a keyboard; where none is seen to be, all that hold the
+/// modifiers.
+void HandsAndLocks::release(const KeymapWatch& keymap, std::uint8_t modifiers, const KeycodeSet& held) {
+    const ModifierKeys& keys = keymap.keymap().keys();
+    const KeycodeSet down = holdersOf(keys, allModifiers, keysDown(keymap)) & ~held;
+    releaseAll(m_connection, down);
+    if (holdersOf(keys, modifiers, down).none()) {
+        releaseAll(m_connection, holdersOf(keys, modifiers, ~held));
+    }
+    m_connection.clearLatches();
+}
+
+bool HandsAndLocks::changeLocksBack(std::uint8_t locked, std::uint8_t numLock) {
+    const auto changed = static_cast<std::uint8_t>(locked ^ m_current);
+    if (changed == 0) return false;
+    m_afterwards ^= changed;
+    // Num Lock changes no stroke but a keypad digit's, which sets it for itself.
+    m_current ^= static_cast<std::uint8_t>(changed & numLock);
+    const std::uint8_t back = without(changed, numLock);
+    if (back != 0) m_connection.lockModifiers(back, m_current);
+    return back != 0;
+}
+
+Result<void> HandsAndLocks::adopt() {
+    const auto state = m_connection.synchronise();
+    if (!state) return state.error();
+    m_current = state.value().locked;
+    return {};
+}
+
+void HandsAndLocks::giveBack() {
+    if (!std::exchange(m_hasTakenOver, false)) return;
+    const auto state = m_connection.synchronise();
+    if (!state) return;
+    m_afterwards ^= static_cast<std::uint8_t>(state.value().locked ^ m_current);
+    if (state.value().locked != m_afterwards) m_connection.lockModifiers(allModifiers, m_afterwards);
+    // The state is of no use any more, but with it all of it has been worked off.
+    [[maybe_unused]] const auto ignored = m_connection.synchronise();
+}
+
+Result<void> HandsAndLocks::tellGuard(std::uint8_t group) {
+    return m_guard.tell(
+        {.kind = GuardMessage::Kind::running, .lockedModifiers = m_afterwards, .lockedGroup = group});
+}
+
+KeycodeSet HandsAndLocks::keysDown(const KeymapWatch& keymap) const {
+    KeycodeSet down;
+    for (const SlaveKeyboard& keyboard : keymap.slaves()) down |= keysDownOn(m_connection.get(), keyboard);
+    return down;
+}

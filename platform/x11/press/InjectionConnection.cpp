@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/press/InjectionConnection.h"
+
+#include <xcb/xinput.h>
+#include <xcb/xtest.h>
+
+#include "platform/x11/server/XcbXkb.h"
+
+namespace {
+
+bool hasExtension(xcb_connection_t* connection, xcb_extension_t* extension) {
+    const xcb_query_extension_reply_t* data = xcb_get_extension_data(connection, extension);
+    return data != nullptr && data->present != 0;
+}
+
+bool startXkb(xcb_connection_t* connection) {
+    if (!hasExtension(connection, &xcb_xkb_id)) return false;
+    const XReply<xcb_xkb_use_extension_reply_t> reply(
+        xcb_xkb_use_extension_reply(connection, xcb_xkb_use_extension(connection, 1, 0), nullptr));
+    return reply && reply->supported != 0;
+}
+
+bool startInput(xcb_connection_t* connection) {
+    if (!hasExtension(connection, &xcb_input_id)) return false;
+    const XReply<xcb_input_xi_query_version_reply_t> reply(
+        xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
+    return reply && (reply->major_version > 2 || (reply->major_version == 2 && reply->minor_version >= 2));
+}
+
+Error missing(const std::string& extension) {
+    return Error{"The X server has no " + extension + ", so that no keys can be pressed here.",
+                 "Log in to a session whose X server has the extension enabled."};
+}
+
+}  // namespace
+
+Result<InjectionConnection> InjectionConnection::open(const std::string& display, RunWatch& watch) {
+    auto connection = XConnection::open(display);
+    if (!connection) return connection.error();
+    // Asked now, or the question would stand in the middle of the first stroke.
+    if (!hasExtension(connection.value(), &xcb_test_id)) return missing("XTEST");
+    if (!startXkb(connection.value())) return missing("XKB");
+    if (!startInput(connection.value())) return missing("XInput 2.2");
+    return InjectionConnection(std::move(connection).value(), watch);
+}
+
+void InjectionConnection::press(std::uint8_t keycode) { fake(keycode, true); }
+
+void InjectionConnection::release(std::uint8_t keycode) { fake(keycode, false); }
+
+void InjectionConnection::fake(std::uint8_t keycode, bool press) {
+    m_watch->expectOwnKey(keycode, press);
+    const std::uint8_t type = press ? XCB_KEY_PRESS : XCB_KEY_RELEASE;
+    xcb_test_fake_input(get(), type, keycode, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+    m_queued += keyEventSize;
+}
+
+void InjectionConnection::lockModifiers(std::uint8_t mask, std::uint8_t values) {
+    xcb_xkb_latch_lock_state(get(), XCB_XKB_ID_USE_CORE_KBD, mask, values, 0, 0, 0, 0, 0);
+    m_queued += lockSize;
+}
+
+void InjectionConnection::lockGroup(std::uint8_t group) {
+    xcb_xkb_latch_lock_state(get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, group, 0, 0, 0);
+    m_queued += lockSize;
+}
+
+void InjectionConnection::clearLatches() {
+    xcb_xkb_latch_lock_state(get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 0, 0, 0xFF, 1, 0);
+    m_queued += lockSize;
+}
+
+void InjectionConnection::flush() {
+    xcb_flush(get());
+    m_queued = 0;
+}
+
+Result<InputState> InjectionConnection::synchronise() {
+    flush();
+    const XReply<xcb_xkb_get_state_reply_t> reply(
+        xcb_xkb_get_state_reply(get(), xcb_xkb_get_state(get(), XCB_XKB_ID_USE_CORE_KBD), nullptr));
+    if (!reply) return Error{"The connection to the X server was lost.", "Log in again."};
+    // Nothing is selected, but some events are sent to everybody; they would pile up.
+    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_queued_event(get())}) continue;
+    return InputState{.base = reply->baseMods,
+                      .latched = reply->latchedMods,
+                      .locked = reply->lockedMods,
+                      .lockedGroup = static_cast<std::uint8_t>(reply->lockedGroup),
+                      .hasOtherGroup = reply->baseGroup != 0 || reply->latchedGroup != 0};
+}

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/run/RunWatch.h"
+#include "platform/x11/press/InputState.h"
+#include "platform/x11/server/XConnection.h"
+
+/// The connection on which keys are pressed.
+///
+/// Why it is one of its own and selects no events: a server that finds this client dead while it writes it an
+/// event drops the requests that are still to be worked off, and a key that was pressed by those before them
+/// stays down. For the same reason strokes leave whole: what belongs together is queued between two calls of
+/// reserve() or flush(), and xcb never has to cut its queue.
+class InjectionConnection {
+  public:
+    /// Fails with a hint where the server lacks XTEST, XKB or XInput 2.2.
+    static Result<InjectionConnection> open(const std::string& display, RunWatch& watch);
+
+    /// What xcb sends in one piece, and what is safe between two round trips.
+    static constexpr std::size_t capacity = 16384;
+    static constexpr std::size_t keyEventSize = 36;
+    static constexpr std::size_t lockSize = 16;
+
+    /// Whether that much more can be queued before the next flush.
+    bool hasRoomFor(std::size_t bytes) const { return m_queued + bytes <= capacity; }
+
+    /// Queued, and announced to the watch.
+    void press(std::uint8_t keycode);
+    void release(std::uint8_t keycode);
+    /// Queued. Of the bits in `mask` those in `values` are locked, the others unlocked.
+    void lockModifiers(std::uint8_t mask, std::uint8_t values);
+    void lockGroup(std::uint8_t group);
+    void clearLatches();
+
+    void flush();
+    /// Flushes, waits until the server has worked all of it off, and tells the state then. Fails when the
+    /// connection is lost.
+    Result<InputState> synchronise();
+
+    xcb_connection_t* get() const { return m_connection.get(); }
+    xcb_window_t root() const { return m_connection.root(); }
+
+  private:
+    InjectionConnection(XConnection connection, RunWatch& watch)
+        : m_connection(std::move(connection)), m_watch(&watch) {}
+
+    void fake(std::uint8_t keycode, bool press);
+
+    XConnection m_connection;
+    RunWatch* m_watch;
+    std::size_t m_queued = 0;
+};

@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/press/KeyBinder.h"
+
+#include <algorithm>
+
+#include "platform/x11/server/XcbXkb.h"
+
+namespace {
+
+/// A type that every XKB map has at this place: Shift selects its second level.
+constexpr std::uint8_t twoLevelType = 1;
+constexpr std::uint8_t firstUsableKeycode = 9;
+/// What a program that does not answer holds up: a run in the middle of its text, and the end of the program.
+constexpr std::chrono::milliseconds longestMidway{2000};
+constexpr std::chrono::milliseconds longestAtEnd{1000};
+
+/// Nothing ends it early.
+class PlainWait final : public RunWait {
+  public:
+    explicit PlainWait(Clock& clock) : m_clock(clock) {}
+    RunState waitUntil(Clock::Time deadline) override {
+        m_clock.sleepFor(deadline - m_clock.now());
+        return RunState::going;
+    }
+
+  private:
+    Clock& m_clock;
+};
+
+std::uint32_t symbolOf(char32_t character) { return xkb_utf32_to_keysym(character); }
+
+BoundKey recordOf(const SpareBinding& binding) {
+    return {
+        .keycode = binding.slot.keycode, .level = binding.slot.level, .symbol = symbolOf(binding.character)};
+}
+
+/// Whether the key types anything, and nothing but what `keys` say.
+bool isAsRecorded(const KeySymbols& key, std::uint8_t keycode, const std::vector<BoundKey>& keys) {
+    bool hasSymbol = false;
+    for (std::size_t level = 0; level < key.symbols.size(); ++level) {
+        const std::uint32_t symbol = key.symbols[level];
+        if (symbol == XKB_KEY_NoSymbol) continue;
+        hasSymbol = true;
+        const BoundKey found{keycode, static_cast<std::uint8_t>(level), symbol};
+        if (std::find(keys.begin(), keys.end(), found) == keys.end()) return false;
+    }
+    return hasSymbol;
+}
+
+/// Empties those keys of the map that type what `keys` say, and tells which.
+KeycodeSet emptyRecorded(DeviceMap& map, const std::vector<BoundKey>& keys) {
+    KeycodeSet emptied;
+    for (const BoundKey& recorded : keys) {
+        KeySymbols& key = map.keys[recorded.keycode];
+        if (!isAsRecorded(key, recorded.keycode, keys)) continue;
+        key = KeySymbols{};
+        emptied.set(recorded.keycode);
+    }
+    return emptied;
+}
+
+KeycodeSet keysIn(const std::vector<BoundKey>& keys) {
+    KeycodeSet set;
+    for (const BoundKey& key : keys) set.set(key.keycode);
+    return set;
+}
+
+}  // namespace
+
+KeyBinder::KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Receivers& receivers, Clock& clock)
+    : m_connection(connection),
+      m_keymap(keymap),
+      m_receivers(receivers),
+      m_clock(clock),
+      m_record(keymap.connection()) {}
+
+KeyBinder::~KeyBinder() {
+    if (m_slots.bindings().empty()) return;
+    if (const auto rested = m_slots.restUntil()) {
+        PlainWait wait(m_clock);
+        wait.waitUntil(*rested);
+        m_receivers.await(wait, longestAtEnd);
+    }
+    takeBack();
+}
+
+std::vector<KeyBinder::Target> KeyBinder::targets() const {
+    std::vector<Target> targets;
+    for (const SlaveKeyboard& keyboard : m_keymap.slaves()) {
+        auto map = readDeviceMap(m_keymap.connection(), keyboard.device);
+        if (map) targets.push_back({keyboard.device, std::move(*map)});
+    }
+    const auto isEqual = [&](const Target& target) { return target.map == m_keymap.map(); };
+    if (!std::all_of(targets.begin(), targets.end(), isEqual)) return targets;
+    std::vector<Target> core;
+    core.push_back({XCB_XKB_ID_USE_CORE_KBD, m_keymap.map()});
+    return core;
+}
+
+/// Finds the unused keys, and how many levels one can have.
+void KeyBinder::survey() {
+    const auto targets = this->targets();
+    const std::uint8_t levelThree = m_keymap.keymap().masks().levelThree;
+    const bool canChoose = m_keymap.keymap().keys().canHold(levelThree);
+    const bool hasFour = canChoose && std::all_of(targets.begin(), targets.end(), [&](const Target& target) {
+                             return fourLevelType(target.map, levelThree).has_value();
+                         });
+    m_levels = hasFour ? 4 : 2;
+    std::vector<std::uint8_t> spares;
+    KeycodeSet set;
+    const DeviceMap& map = m_keymap.map();
+    for (unsigned keycode = std::max(firstUsableKeycode, map.firstKeycode); keycode <= map.lastKeycode;
+         ++keycode) {
+        const auto isUnused = [&](const Target& target) { return target.map.keys[keycode].isUnused(); };
+        if (!map.keys[keycode].isUnused()) continue;
+        if (!std::all_of(targets.begin(), targets.end(), isUnused)) continue;
+        spares.push_back(static_cast<std::uint8_t>(keycode));
+        set.set(keycode);
+    }
+    m_slots.reset(spares, m_levels);
+    m_keymap.setOwnKeys(set);
+}
+
+std::size_t KeyBinder::capacity() {
+    if (m_slots.capacity() == 0) survey();
+    return m_slots.capacity();
+}
+
+std::optional<Stroke> KeyBinder::find(char32_t character) const {
+    const auto slot = m_slots.find(character);
+    if (!slot) return std::nullopt;
+    unsigned modifiers = 0;
+    if ((slot->level & 1U) != 0) modifiers |= ModifierMasks::shift;
+    if ((slot->level & 2U) != 0) modifiers |= m_keymap.keymap().masks().levelThree;
+    return Stroke{.keycode = slot->keycode, .modifiers = static_cast<std::uint8_t>(modifiers)};
+}
+
+void KeyBinder::recheck() {
+    const DeviceMap& map = m_keymap.map();
+    for (const SpareBinding& binding : m_slots.bindings()) {
+        const auto& symbols = map.keys[binding.slot.keycode].symbols;
+        const std::size_t level = binding.slot.level;
+        if (level < symbols.size() && symbols[level] == symbolOf(binding.character)) continue;
+        // Another keymap: what of ours is left in it is no longer known to be ours.
+        m_slots.reset({}, 0);
+        m_keymap.setOwnKeys({});
+        return;
+    }
+    if (m_slots.bindings().empty()) m_slots.reset({}, 0);
+}
+
+SpareSlots::Plan KeyBinder::plan(const std::vector<char32_t>& wanted) {
+    if (capacity() == 0) return {};
+    return m_slots.plan(wanted);
+}
+
+void KeyBinder::noteReader() {
+    if (!m_slots.bindings().empty()) m_receivers.note();
+}
+
+RunState KeyBinder::awaitReaders(const SpareSlots::Plan& plan, RunWait& wait) {
+    if (!plan.notBefore) return RunState::going;
+    if (wait.waitUntil(*plan.notBefore) == RunState::cancelled) return RunState::cancelled;
+    return m_receivers.await(wait, longestMidway);
+}
+
+Result<void> KeyBinder::bind(const SpareSlots::Plan& plan) {
+    if (plan.bindings.empty()) return {};
+    std::vector<BoundKey> record = m_record.read();
+    for (const SpareBinding& binding : plan.bindings) record.push_back(recordOf(binding));
+    m_record.own();
+    m_record.write(record);
+    auto targets = this->targets();
+    KeycodeSet changed;
+    for (const SpareBinding& binding : plan.bindings) {
+        changed.set(binding.slot.keycode);
+        for (Target& target : targets) put(target.map, binding);
+    }
+    if (!write(targets, changed)) {
+        return Error{"The X server refuses to put characters on unused keys.",
+                     "Use characters of the keyboard layout, or set another layout."};
+    }
+    m_slots.apply(plan);
+    const auto refreshed = m_keymap.refresh(true);
+    if (!refreshed) return refreshed.error();
+    return {};
+}
+
+void KeyBinder::put(DeviceMap& map, const SpareBinding& binding) const {
+    KeySymbols& key = map.keys[binding.slot.keycode];
+    if (key.symbols.size() != m_levels) {
+        const auto four = fourLevelType(map, m_keymap.keymap().masks().levelThree);
+        const std::uint8_t type = m_levels == 4 ? four.value_or(twoLevelType) : twoLevelType;
+        key = KeySymbols{.types = {type, type, type, type}, .groupInfo = 1, .width = m_levels, .symbols = {}};
+        key.symbols.assign(m_levels, XKB_KEY_NoSymbol);
+    }
+    key.symbols[binding.slot.level] = symbolOf(binding.character);
+}
+
+/// One request for each target, over the range that holds all the keys.
+bool KeyBinder::write(std::vector<Target>& targets, const KeycodeSet& keys) const {
+    std::uint8_t first = 0;
+    std::uint8_t last = 0;
+    for (std::size_t keycode = keys.size(); keycode-- > 0;) {
+        if (!keys[keycode]) continue;
+        first = static_cast<std::uint8_t>(keycode);
+        if (last == 0) last = first;
+    }
+    if (last == 0) return true;
+    return std::all_of(targets.begin(), targets.end(), [&](const Target& target) {
+        return writeKeySymbols(m_connection.get(), target.device, target.map, first, last);
+    });
+}
+
+void KeyBinder::clearLeftovers() {
+    const auto record = m_record.read();
+    if (record.empty() || m_record.hasOwner()) return;
+    auto targets = this->targets();
+    KeycodeSet changed;
+    for (Target& target : targets) changed |= emptyRecorded(target.map, record);
+    write(targets, changed);
+    m_record.write({});
+    [[maybe_unused]] const auto seen = m_keymap.refresh(true);
+}
+
+/// As above, but what is recorded by other living processes stays.
+void KeyBinder::takeBack() {
+    if (const auto refreshed = m_keymap.refresh(true); !refreshed) return;
+    std::vector<BoundKey> own;
+    for (const SpareBinding& binding : m_slots.bindings()) own.push_back(recordOf(binding));
+    const KeycodeSet ownKeys = keysIn(own);
+    auto targets = this->targets();
+    KeycodeSet changed;
+    for (Target& target : targets) changed |= emptyRecorded(target.map, own);
+    write(targets, changed);
+    auto record = m_record.read();
+    record.erase(std::remove_if(record.begin(), record.end(),
+                                [&](const BoundKey& key) { return ownKeys[key.keycode]; }),
+                 record.end());
+    m_record.write(record);
+}

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/x11/keymap/KeymapWatch.h"
+#include "platform/x11/press/BoundKeysRecord.h"
+#include "platform/x11/press/InjectionConnection.h"
+#include "platform/x11/press/SpareSlots.h"
+#include "platform/x11/windows/Receivers.h"
+
+/// Puts characters that no layout types on unused keys of the keymap.
+///
+/// All that are wanted are bound in one request, since each change of the keymap makes every program read it
+/// again, and window managers take their grabs anew. What is bound stays bound for the next text. The request
+/// goes to the core keyboard, or to each keyboard with its own keys where their maps differ: the core
+/// keyboard's map would overwrite theirs.
+class KeyBinder {
+  public:
+    KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Receivers& receivers, Clock& clock);
+    /// Takes everything back, when the last character typed has been read.
+    ~KeyBinder();
+    KeyBinder(const KeyBinder&) = delete;
+    KeyBinder& operator=(const KeyBinder&) = delete;
+
+    /// Takes back what a dead process has left, as far as the keys still are as it left them.
+    void clearLeftovers();
+
+    /// After the keymap was read again: forgets everything if a bound key has become something else.
+    void recheck();
+
+    /// Whoever gets the keys now is about to be typed into.
+    void noteReader();
+    std::optional<Stroke> find(char32_t character) const;
+    void markUsed(char32_t character) { m_slots.markUsed(character, m_clock.now()); }
+    /// Characters that can lie bound at the same time; 0 where the keymap has no unused key.
+    std::size_t capacity();
+
+    /// What bind() would do, and from when on it may.
+    SpareSlots::Plan plan(const std::vector<char32_t>& wanted);
+    /// Waits until it may: the moment has come, and whoever was typed into has read what the keys were.
+    RunState awaitReaders(const SpareSlots::Plan& plan, RunWait& wait);
+    /// Fails if the server refuses the new map.
+    Result<void> bind(const SpareSlots::Plan& plan);
+
+  private:
+    /// One device that is written, with its map.
+    struct Target {
+        std::uint16_t device = 0;
+        DeviceMap map;
+    };
+
+    void survey();
+    std::vector<Target> targets() const;
+    bool write(std::vector<Target>& targets, const KeycodeSet& keys) const;
+    void put(DeviceMap& map, const SpareBinding& binding) const;
+    void takeBack();
+
+    InjectionConnection& m_connection;
+    KeymapWatch& m_keymap;
+    Receivers& m_receivers;
+    Clock& m_clock;
+    BoundKeysRecord m_record;
+    SpareSlots m_slots;
+    std::uint8_t m_levels = 0;
+};

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/keymap/InjectorKeymap.h"
+#include "platform/x11/press/InjectionConnection.h"
+
+/// Turns strokes into key events, locks and groups around them included.
+class StrokeSender {
+  public:
+    StrokeSender(InjectionConnection& connection, RunWatch& watch)
+        : m_connection(connection), m_watch(watch) {}
+
+    /// The state that the next strokes meet. The locked group is the one that home() goes back to.
+    void meet(const InputState& state);
+
+    /// What the stroke, and going home after it, takes of the connection's queue at most.
+    static std::size_t sizeOf(const Stroke& stroke);
+
+    /// Queues a stroke; the modifiers that the keys in `held` hold are down already. One that is a hot key of
+    /// ours is let through to the application, and has been sent when the call returns.
+    Result<void> send(const ModifierKeys& keys, const Stroke& stroke, const KeycodeSet& held);
+
+    /// Queues the presses of a stroke without their releases. The keys that went down, in order.
+    std::vector<std::uint8_t> hold(const ModifierKeys& keys, const Stroke& stroke, const KeycodeSet& held);
+
+    /// Queues the way back to the group that was locked at first.
+    void home() { lockGroup(m_homeGroup); }
+
+  private:
+    void lockGroup(std::uint8_t group);
+    void setLocks(const Stroke& stroke);
+    void resetLocks(const Stroke& stroke);
+
+    InjectionConnection& m_connection;
+    RunWatch& m_watch;
+    std::uint8_t m_locked = 0;
+    std::uint8_t m_homeGroup = 0;
+    std::uint8_t m_group = 0;
+};

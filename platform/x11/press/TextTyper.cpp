@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/press/TextTyper.h"
+
+#include <unordered_set>
+
+#include "platform/keymap/Bindable.h"
+#include "platform/run/TextPlan.h"
+
+std::optional<Stroke> TextTyper::find(char32_t character, std::uint8_t group) const {
+    if (auto stroke = m_keymap.keymap().characters().find(character, group)) return stroke;
+    return m_binder.find(character);
+}
+
+Result<void> TextTyper::refuseUntypable(std::span<const char32_t> characters, std::uint8_t group) {
+    std::unordered_set<char32_t> passed;
+    for (const char32_t character : characters) {
+        if (!passed.insert(character).second || find(character, group)) continue;
+        if (isBindable(character) && m_binder.capacity() > 0) continue;
+        return Error{"The character " + nameOf(character) + " cannot be typed with this keyboard layout.",
+                     "Take it out of the text, or set a layout that has it."};
+    }
+    return {};
+}
+
+/// How many characters from the front can be typed without binding a key twice, and which of them are on no
+/// layout.
+std::size_t TextTyper::fittingPart(std::span<const char32_t> characters, std::uint8_t group,
+                                   std::vector<char32_t>& unbound) {
+    std::unordered_set<char32_t> seen;
+    for (std::size_t at = 0; at < characters.size(); ++at) {
+        const char32_t character = characters[at];
+        if (seen.contains(character) || m_keymap.keymap().characters().find(character, group)) continue;
+        if (unbound.size() == m_binder.capacity()) return at;
+        seen.insert(character);
+        unbound.push_back(character);
+    }
+    return characters.size();
+}
+
+Result<RunState> TextTyper::bind(const std::vector<char32_t>& wanted) {
+    const auto plan = m_binder.plan(wanted);
+    if (m_binder.awaitReaders(plan, m_waiter) == RunState::cancelled) return RunState::cancelled;
+    const auto bound = m_binder.bind(plan);
+    if (!bound) return bound.error();
+    return RunState::going;
+}
+
+Result<RunState> TextTyper::prepare(std::span<const char32_t> characters, std::uint8_t group) {
+    std::vector<char32_t> bindable;
+    for (const char32_t character : characters) {
+        if (isBindable(character) || m_keymap.keymap().characters().find(character, group)) {
+            bindable.push_back(character);
+        }
+    }
+    std::vector<char32_t> wanted;
+    fittingPart(bindable, group, wanted);
+    return wanted.empty() ? RunState::going : bind(wanted);
+}
+
+Result<Stroke> TextTyper::strokeFor(char32_t character, std::uint8_t group) {
+    const auto refused = refuseUntypable(std::span(&character, 1), group);
+    if (!refused) return refused.error();
+    if (!find(character, group)) {
+        const auto bound = bind({character});
+        if (!bound) return bound.error();
+    }
+    m_binder.noteReader();
+    m_binder.markUsed(character);
+    return find(character, group).value_or(Stroke{});
+}
+
+Result<RunState> TextTyper::type(std::span<const char32_t> characters, const Stroke& around,
+                                 const KeycodeSet& held, const Check& check) {
+    const auto state = check();
+    if (!state) return state.error();
+    const std::uint8_t group = state.value().lockedGroup;
+    const auto refused = refuseUntypable(characters, group);
+    if (!refused) return refused.error();
+    while (!characters.empty()) {
+        std::vector<char32_t> wanted;
+        const std::size_t size = fittingPart(characters, group, wanted);
+        if (!wanted.empty()) {
+            auto bound = bind(wanted);
+            if (!bound || bound.value() == RunState::cancelled) return bound;
+        }
+        auto typed = typePart(characters.first(size), around, held, check);
+        if (!typed || typed.value() == RunState::cancelled) return typed;
+        characters = characters.subspan(size);
+    }
+    return RunState::going;
+}
+
+Result<RunState> TextTyper::typePart(std::span<const char32_t> characters, const Stroke& around,
+                                     const KeycodeSet& held, const Check& check) {
+    const ModifierKeys& keys = m_keymap.keymap().keys();
+    std::size_t at = 0;
+    while (at < characters.size()) {
+        if (m_waiter.look() == RunState::cancelled) return RunState::cancelled;
+        const auto state = check();
+        if (!state) return state.error();
+        m_sender.meet(state.value());
+        m_binder.noteReader();
+        for (; at < characters.size(); ++at) {
+            Stroke stroke = find(characters[at], state.value().lockedGroup).value_or(Stroke{});
+            stroke.modifiers = static_cast<std::uint8_t>(stroke.modifiers | around.modifiers);
+            stroke.lockMask = around.lockMask;
+            stroke.lockValues = around.lockValues;
+            if (!m_connection.hasRoomFor(StrokeSender::sizeOf(stroke))) break;
+            const auto sent = m_sender.send(keys, stroke, held);
+            if (!sent) return sent.error();
+            m_binder.markUsed(characters[at]);
+        }
+        m_sender.home();
+        m_connection.flush();
+    }
+    return RunState::going;
+}

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <span>
+
+#include "platform/run/RunWaiter.h"
+#include "platform/x11/press/HandsAndLocks.h"
+#include "platform/x11/press/KeyBinder.h"
+#include "platform/x11/press/StrokeSender.h"
+
+/// Types texts: what the current layout has by its keys, what another layout has with its group locked, all
+/// else by keys that are bound to it. Up to InjectionConnection::capacity bytes go between two round trips.
+class TextTyper {
+  public:
+    TextTyper(InjectionConnection& connection, KeymapWatch& keymap, KeyBinder& binder, StrokeSender& sender,
+              RunWaiter& waiter)
+        : m_connection(connection), m_keymap(keymap), m_binder(binder), m_sender(sender), m_waiter(waiter) {}
+
+    /// Before each part that goes out whole: brings hands and locks in order and tells the state.
+    using Check = std::function<Result<InputState>()>;
+
+    /// Types the characters with further X modifier bits and locks held over each. Fails before the first one
+    /// if one of them cannot be typed; the message names it.
+    Result<RunState> type(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held,
+                          const Check& check);
+
+    /// Puts those characters on keys that need it, as many as have room: a text that is typed later finds
+    /// them there.
+    Result<RunState> prepare(std::span<const char32_t> characters, std::uint8_t group);
+
+    /// The stroke of a character, bound first if need be; waits until it may be.
+    Result<Stroke> strokeFor(char32_t character, std::uint8_t group);
+
+  private:
+    std::optional<Stroke> find(char32_t character, std::uint8_t group) const;
+    Result<void> refuseUntypable(std::span<const char32_t> characters, std::uint8_t group);
+    std::size_t fittingPart(std::span<const char32_t> characters, std::uint8_t group,
+                            std::vector<char32_t>& unbound);
+    Result<RunState> bind(const std::vector<char32_t>& wanted);
+    Result<RunState> typePart(std::span<const char32_t> characters, const Stroke& around,
+                              const KeycodeSet& held, const Check& check);
+
+    InjectionConnection& m_connection;
+    KeymapWatch& m_keymap;
+    KeyBinder& m_binder;
+    StrokeSender& m_sender;
+    RunWaiter& m_waiter;
+};

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+#include "platform/run/Pacer.h"
+#include "platform/x11/guard/PlayingMark.h"
+#include "platform/x11/press/GrabWait.h"
+#include "platform/x11/press/TextTyper.h"
+
+/// What lasts from run to run, as a session uses it.
+struct InjectionTools {
+    RunWatch& watch;
+    Clock& clock;
+    const RunInterrupt& interrupt;
+    PlayingMark& mark;
+    GuardLink& guard;
+    InjectionConnection& connection;
+    KeymapWatch& keymap;
+    KeyBinder& binder;
+    GrabWait& grab;
+};
+
+/// One run. The first step that presses a key begins it: the mark is set, the keyboard is waited for, hands
+/// and locks are taken over. So does the first one after a rest. Its end, which is that of the object, undoes
+/// what is left.
+class X11InjectionSession final : public InjectionSession {
+  public:
+    X11InjectionSession(const InjectionTools& tools, InjectionPlan plan, std::function<void()> ended);
+    ~X11InjectionSession() override;
+    X11InjectionSession(const X11InjectionSession&) = delete;
+    X11InjectionSession& operator=(const X11InjectionSession&) = delete;
+
+    Result<RunState> stroke(std::uint32_t keyCode, std::uint32_t modifiers) override;
+    Result<RunState> text(std::string_view text, std::uint32_t modifiers) override;
+    Result<RunState> keyDown(const HeldKey& key) override;
+    Result<RunState> keyUp(const HeldKey& key) override;
+    Result<RunState> pause(double seconds) override;
+
+    /// KeyInjector::rest(). What the user does is still kept for after the run.
+    void rest();
+
+  private:
+    /// What one `key down` has pressed: the key, after the modifiers that it needed.
+    struct Held {
+        std::uint8_t keycode = 0;
+        std::vector<std::uint8_t> pressed;
+    };
+    using Step = std::function<Result<RunState>()>;
+
+    /// Runs a step unless the run has ended, and remembers if it ends the run.
+    Result<RunState> step(const Step& body);
+    Result<void> followKeymap();
+    Result<RunState> begin();
+    Result<RunState> resume();
+    Result<RunState> settle();
+    Result<InputState> check();
+    /// Begins if that has not been done, looks whether the user wishes to stop, and brings hands and locks in
+    /// order.
+    Result<RunState> ready();
+
+    Result<RunState> play(const Stroke& stroke);
+    Result<RunState> type(std::string_view text, std::uint32_t modifiers);
+    Result<RunState> prepareTexts();
+    Result<std::vector<Stroke>> strokesOf(const HeldKey& key);
+    Result<RunState> hold(const Stroke& stroke);
+    void letGo(std::uint8_t keycode);
+    void releaseKeysOf(const Held& held);
+    KeycodeSet heldKeys() const;
+
+    InjectionTools m_tools;
+    InjectionPlan m_plan;
+    std::function<void()> m_whenEnded;
+    RunWaiter m_waiter;
+    Pacer m_pacer;
+    HandsAndLocks m_hands;
+    StrokeSender m_sender;
+    TextTyper m_typer;
+    std::vector<Held> m_held;
+    InputState m_state;
+    bool m_hasBegun = false;
+    bool m_rests = false;
+    bool m_isPrepared = false;
+    std::optional<Result<RunState>> m_end;
+};

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/server/XConnection.h"
+
+namespace {
+
+std::string displayName(const std::string& display) {
+    if (!display.empty()) return display;
+    const char* fromEnvironment = std::getenv("DISPLAY");
+    return fromEnvironment == nullptr ? "" : fromEnvironment;
+}
+
+}  // namespace
+
+Result<XConnection> XConnection::open(const std::string& display) {
+    int screen = 0;
+    Handle handle(xcb_connect(display.empty() ? nullptr : display.c_str(), &screen));
+    if (xcb_connection_has_error(handle.get()) != 0) {
+        return Error{"The X server of display \"" + displayName(display) + "\" cannot be reached.",
+                     "Start the program inside a desktop session, or set DISPLAY to a running X server."};
+    }
+    auto screens = xcb_setup_roots_iterator(xcb_get_setup(handle.get()));
+    for (; screen > 0 && screens.rem > 1; --screen) xcb_screen_next(&screens);
+    const xcb_window_t root = screens.data->root;
+    return XConnection(std::move(handle), root);
+}
+
+XConnection::XConnection(Handle connection, xcb_window_t root)
+    : m_connection(std::move(connection)), m_root(root) {}
+
+void XConnection::roundTrip() const {
+    const XReply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(get(), xcb_get_input_focus(get()), nullptr));
+}
+
+xcb_atom_t XConnection::atom(const std::string& name) const {
+    const auto length = static_cast<std::uint16_t>(name.size());
+    const XReply<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(get(), xcb_intern_atom(get(), 0, length, name.c_str()), nullptr));
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}

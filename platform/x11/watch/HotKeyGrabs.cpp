@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/watch/HotKeyGrabs.h"
+
+#include <xkbcommon/xkbcommon-x11.h>
+
+#include "platform/x11/server/X11Check.h"
+#include "platform/x11/server/XcbXkb.h"
+
+namespace {
+
+constexpr std::uint16_t allModifiers = 0xFF;
+
+std::string reason(const xcb_generic_error_t& error) {
+    if (error.error_code == XCB_ACCESS) return "another program holds it";
+    return "the X server refuses it with error " + std::to_string(error.error_code);
+}
+
+}  // namespace
+
+std::vector<std::uint16_t> KeyGrab::variants() const {
+    const auto variable = static_cast<std::uint16_t>(locks & ~modifiers);
+    std::vector<std::uint16_t> result;
+    // All subsets of the locks' bits, the empty one first.
+    std::uint16_t subset = 0;
+    do {
+        result.push_back(modifiers | subset);
+        subset = static_cast<std::uint16_t>((subset - variable) & variable);
+    } while (subset != 0);
+    return result;
+}
+
+bool KeyGrab::matches(std::uint8_t pressedKeycode, std::uint16_t pressedModifiers) const {
+    const auto variable = static_cast<std::uint16_t>(locks & ~modifiers);
+    return keycode == pressedKeycode && ((pressedModifiers ^ modifiers) & allModifiers & ~variable) == 0;
+}
+
+bool KeyGrab::collidesWith(const KeyGrab& other) const {
+    return keycode == other.keycode && ((modifiers ^ other.modifiers) & ~(locks & other.locks)) == 0;
+}
+
+Result<std::unique_ptr<HotKeyGrabs>> HotKeyGrabs::open(const std::string& display) {
+    Result<XConnection> connection = XConnection::open(display);
+    if (!connection) return connection.error();
+    std::unique_ptr<HotKeyGrabs> grabs(new HotKeyGrabs(std::move(connection).value()));
+    const Result<void> usable = checkKeyEventAccess(grabs->m_connection);
+    if (!usable) return usable.error();
+    // Without it a held key would come as pairs of releases and presses.
+    constexpr std::uint32_t flag = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
+    xcb_xkb_per_client_flags(grabs->m_connection, XCB_XKB_ID_USE_CORE_KBD, flag, flag, 0, 0, 0);
+    return grabs;
+}
+
+std::optional<std::string> HotKeyGrabs::grab(const KeyGrab& grab) {
+    std::vector<xcb_void_cookie_t> cookies;
+    for (const std::uint16_t modifiers : grab.variants()) {
+        cookies.push_back(xcb_grab_key_checked(m_connection, 0, m_connection.root(), modifiers, grab.keycode,
+                                               XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+    }
+    std::optional<std::string> failure;
+    for (const xcb_void_cookie_t cookie : cookies) {
+        const XReply<xcb_generic_error_t> error(xcb_request_check(m_connection, cookie));
+        if (error && !failure) failure = reason(*error);
+    }
+    if (!failure && m_connection.isBroken()) failure = "the X server is gone";
+    if (failure) release(grab);
+    return failure;
+}
+
+void HotKeyGrabs::release(const KeyGrab& grab) {
+    for (const std::uint16_t modifiers : grab.variants()) {
+        xcb_ungrab_key(m_connection, grab.keycode, m_connection.root(), modifiers);
+    }
+    m_connection.roundTrip();
+}
+
+void HotKeyGrabs::endActiveGrab() {
+    xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
+    m_connection.roundTrip();
+}
+
+bool HotKeyGrabs::read() {
+    const std::size_t before = m_presses.size();
+    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
+        if ((event->response_type & 0x7F) != XCB_KEY_PRESS) continue;
+        const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(*event);
+        m_presses.push_back(
+            {key.detail, static_cast<std::uint16_t>(key.state & allModifiers), key.time, ++m_lastNumber});
+    }
+    return m_presses.size() != before;
+}
+
+void HotKeyGrabs::catchUp() {
+    m_connection.roundTrip();
+    read();
+}
+
+bool HotKeyGrabs::hasKeycode(unsigned keycode) const {
+    const xcb_setup_t* setup = xcb_get_setup(m_connection);
+    return keycode >= setup->min_keycode && keycode <= setup->max_keycode;
+}

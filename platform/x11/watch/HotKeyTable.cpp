@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/watch/HotKeyTable.h"
+
+#include <algorithm>
+
+#include "platform/KeyCodes.h"
+#include "platform/Modifiers.h"
+#include "platform/keymap/KeyLabels.h"
+
+namespace {
+
+constexpr unsigned evdevOffset = 8;
+const char* const chooseAnother = "Choose another combination.";
+const char* const freeIt = "Choose another combination, or free it in the program that holds it.";
+
+}  // namespace
+
+void HotKeyTable::request(const HotKeyRequest& request) {
+    Row& row = m_rows[request.id];
+    freeRow(row);
+    row.request = request;
+    row.waits = false;
+    if (request.keyCode == keycode::none) {
+        settle(row, {});
+    } else {
+        tryRow(row);
+    }
+    tryWaitingRows();
+}
+
+void HotKeyTable::withdraw(HotKeyId id) {
+    const auto row = m_rows.find(id);
+    if (row == m_rows.end()) return;
+    freeRow(row->second);
+    row->second.waits = false;
+    settle(row->second, {});
+    m_rows.erase(row);
+    tryWaitingRows();
+}
+
+HotKeyState HotKeyTable::state(HotKeyId id) const {
+    const auto row = m_rows.find(id);
+    return row == m_rows.end() ? HotKeyState{} : row->second.state;
+}
+
+std::optional<HotKeyId> HotKeyTable::find(std::uint8_t keycode, std::uint16_t modifiers) const {
+    for (const auto& [id, row] : m_rows) {
+        if (row.grab && row.grab->matches(keycode, modifiers)) return id;
+    }
+    return std::nullopt;
+}
+
+bool HotKeyTable::usesKeycode(std::uint8_t keycode) const {
+    return std::any_of(m_rows.begin(), m_rows.end(), [&](const auto& entry) {
+        return entry.second.grab && entry.second.grab->keycode == keycode;
+    });
+}
+
+bool HotKeyTable::cancelsPlayback(HotKeyId id) const {
+    const auto row = m_rows.find(id);
+    return row != m_rows.end() && row->second.request.cancelsPlayback;
+}
+
+void HotKeyTable::followKeymap() {
+    std::vector<Row*> moved;
+    for (auto& [id, row] : m_rows) {
+        if (row.request.keyCode == keycode::none) continue;
+        const Result<KeyGrab> grab = grabFor(row.request);
+        const bool same = grab ? row.grab == grab.value() : !row.grab;
+        if (!same) moved.push_back(&row);
+    }
+    // All are given free first: two may have changed places.
+    for (Row* row : moved) freeRow(*row);
+    for (Row* row : moved) tryRow(*row);
+}
+
+bool HotKeyTable::lift(std::uint8_t keycode, std::uint16_t modifiers) {
+    const std::optional<HotKeyId> id = find(keycode, modifiers);
+    if (!id) return false;
+    m_grabs.release(*m_rows[*id].grab);
+    m_lifted = id;
+    return true;
+}
+
+void HotKeyTable::restore() {
+    if (!m_lifted) return;
+    const auto row = m_rows.find(*m_lifted);
+    m_lifted.reset();
+    if (row != m_rows.end() && row->second.grab) tryRow(row->second);
+}
+
+void HotKeyTable::tryRow(Row& row) {
+    row.grab.reset();
+    row.waits = false;
+    const Result<KeyGrab> grab = grabFor(row.request);
+    if (!grab) return refuse(row, grab.error().message, grab.error().hint);
+    if (const Row* holder = holderOf(grab.value())) {
+        row.waits = true;
+        return refuse(row, "it is used for " + holder->request.name, chooseAnother);
+    }
+    if (const auto failure = m_grabs.grab(grab.value())) return refuse(row, *failure, freeIt);
+    row.grab = grab.value();
+    settle(row, {HotKeyStatus::registered, std::nullopt});
+}
+
+void HotKeyTable::freeRow(Row& row) {
+    if (row.grab) m_grabs.release(*row.grab);
+    row.grab.reset();
+}
+
+void HotKeyTable::tryWaitingRows() {
+    for (auto& [id, row] : m_rows) {
+        if (!row.waits) continue;
+        const Result<KeyGrab> grab = grabFor(row.request);
+        if (grab && holderOf(grab.value()) == nullptr) tryRow(row);
+    }
+}
+
+void HotKeyTable::refuse(Row& row, const std::string& why, const std::string& hint) {
+    settle(row, {HotKeyStatus::refused, Error{combinationText(row.request) + " cannot be used for " +
+                                                  row.request.name + ": " + why + ".",
+                                              hint}});
+}
+
+void HotKeyTable::settle(Row& row, HotKeyState state) {
+    const bool changed = row.state.status != state.status || row.state.error != state.error;
+    row.state = std::move(state);
+    if (changed && m_observer) m_observer(row.request.id, row.state);
+}
+
+Result<KeyGrab> HotKeyTable::grabFor(const HotKeyRequest& request) const {
+    const std::optional<std::uint16_t> evdev = keycode::evdevFor(request.keyCode);
+    if (!evdev || !m_grabs.hasKeycode(*evdev + evdevOffset)) {
+        return Error{"this desktop has no such key", chooseAnother};
+    }
+    const Keymap& keymap = m_keyboard.keymap();
+    const ModifierMasks& masks = keymap.masks();
+    const std::optional<xkb_mod_mask_t> modifiers = keymap.real(request.modifiers);
+    if (!modifiers) return Error{"the keyboard layout lacks one of the modifier keys", chooseAnother};
+    const xkb_mod_mask_t choosers = ((request.keyCode & keycode::thirdLevel) != 0 ? masks.thirdLevel : 0) |
+                                    ((request.keyCode & keycode::fifthLevel) != 0 ? masks.fifthLevel : 0);
+    return KeyGrab{.keycode = static_cast<std::uint8_t>(*evdev + evdevOffset),
+                   .modifiers = static_cast<std::uint16_t>(*modifiers | choosers),
+                   .locks = static_cast<std::uint16_t>(masks.locks())};
+}
+
+const HotKeyTable::Row* HotKeyTable::holderOf(const KeyGrab& grab) const {
+    for (const auto& [id, row] : m_rows) {
+        if (row.grab && row.grab->collidesWith(grab)) return &row;
+    }
+    return nullptr;
+}
+
+std::string HotKeyTable::combinationText(const HotKeyRequest& request) const {
+    std::string text;
+    if ((request.modifiers & modifier::control) != 0) text += "Ctrl+";
+    if ((request.modifiers & modifier::option) != 0) text += "Alt+";
+    if ((request.modifiers & modifier::shift) != 0) text += "Shift+";
+    if ((request.modifiers & modifier::command) != 0) text += "Super+";
+    return text + keyLabel(m_keyboard.keymap(), m_keyboard.layout(), request.keyCode);
+}

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+
+#include "platform/HotKeys.h"
+#include "platform/keymap/KeyboardState.h"
+#include "platform/x11/watch/HotKeyGrabs.h"
+
+/// Which hot key has which combination, what became of each request, and the grabs that follow from it.
+class HotKeyTable {
+  public:
+    /// Both outlive this.
+    HotKeyTable(HotKeyGrabs& grabs, const KeyboardState& keyboard) : m_grabs(grabs), m_keyboard(keyboard) {}
+
+    void observe(HotKeys::Observer observer) { m_observer = std::move(observer); }
+    void request(const HotKeyRequest& request);
+    void withdraw(HotKeyId id);
+    HotKeyState state(HotKeyId id) const;
+
+    /// The hot key that is pressed with this key and these real modifiers, if any.
+    std::optional<HotKeyId> find(std::uint8_t keycode, std::uint16_t modifiers) const;
+    bool usesKeycode(std::uint8_t keycode) const;
+    bool cancelsPlayback(HotKeyId id) const;
+
+    /// Moves the grabs whose key or modifiers are others in the new keymap.
+    void followKeymap();
+
+    /// See RunWatch.
+    bool lift(std::uint8_t keycode, std::uint16_t modifiers);
+    void restore();
+
+  private:
+    struct Row {
+        HotKeyRequest request;
+        std::optional<KeyGrab> grab;
+        HotKeyState state;
+        /// Refused since another row has the combination; it is tried again when one is given free.
+        bool waits = false;
+    };
+
+    void tryRow(Row& row);
+    void freeRow(Row& row);
+    void tryWaitingRows();
+    void refuse(Row& row, const std::string& why, const std::string& hint);
+    void settle(Row& row, HotKeyState state);
+    /// The grab of a request, or why there can be none.
+    Result<KeyGrab> grabFor(const HotKeyRequest& request) const;
+    const Row* holderOf(const KeyGrab& grab) const;
+    std::string combinationText(const HotKeyRequest& request) const;
+
+    HotKeyGrabs& m_grabs;
+    const KeyboardState& m_keyboard;
+    HotKeys::Observer m_observer;
+    std::map<HotKeyId, Row> m_rows;
+    std::optional<HotKeyId> m_lifted;
+};

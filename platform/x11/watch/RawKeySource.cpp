@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/watch/RawKeySource.h"
+
+#include <xcb/xinput.h>
+#include <xkbcommon/xkbcommon-x11.h>
+
+#include "platform/x11/server/X11Check.h"
+#include "platform/x11/server/XcbXkb.h"
+
+namespace {
+
+constexpr std::uint16_t watchedKeyboardEvents =
+    XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY | XCB_XKB_EVENT_TYPE_STATE_NOTIFY |
+    XCB_XKB_EVENT_TYPE_CONTROLS_NOTIFY;
+constexpr std::uint16_t allMapParts = 0xFF;
+
+template <typename Event>
+const Event& as(const xcb_generic_event_t& event) {
+    return reinterpret_cast<const Event&>(event);
+}
+
+}  // namespace
+
+Result<std::unique_ptr<RawKeySource>> RawKeySource::open(const std::string& display) {
+    Result<XConnection> connection = XConnection::open(display);
+    if (!connection) return connection.error();
+    std::unique_ptr<RawKeySource> source(new RawKeySource(std::move(connection).value()));
+    const Result<void> done = source->setUp();
+    if (!done) return done.error();
+    return source;
+}
+
+Result<void> RawKeySource::setUp() {
+    Result<void> usable = checkKeyEventAccess(m_connection);
+    if (!usable) return usable;
+    m_inputOpcode = xcb_get_extension_data(m_connection, &xcb_input_id)->major_opcode;
+    m_keyboardEvent = xcb_get_extension_data(m_connection, &xcb_xkb_id)->first_event;
+    m_syntheticMark = m_connection.atom("XTEST Device");
+    selectInputEvents();
+    selectKeyboardEvents();
+    m_connection.roundTrip();
+    noteRepeatDelay();
+    return {};
+}
+
+void RawKeySource::selectInputEvents() const {
+    struct Selection {
+        xcb_input_event_mask_t header;
+        std::uint32_t mask;
+    };
+    const Selection keys{{XCB_INPUT_DEVICE_ALL_MASTER, 1},
+                         XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE};
+    const Selection devices{{XCB_INPUT_DEVICE_ALL, 1}, XCB_INPUT_XI_EVENT_MASK_HIERARCHY};
+    xcb_input_xi_select_events(m_connection, m_connection.root(), 1, &keys.header);
+    xcb_input_xi_select_events(m_connection, m_connection.root(), 1, &devices.header);
+}
+
+void RawKeySource::selectKeyboardEvents() const {
+    xcb_xkb_select_events(m_connection, XCB_XKB_ID_USE_CORE_KBD, watchedKeyboardEvents, 0,
+                          watchedKeyboardEvents, allMapParts, allMapParts, nullptr);
+}
+
+bool RawKeySource::read() {
+    const std::size_t before = m_events.size();
+    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) decode(*event);
+    return m_events.size() != before;
+}
+
+void RawKeySource::catchUp() {
+    m_connection.roundTrip();
+    read();
+}
+
+XkbComponents RawKeySource::components() const {
+    const XReply<xcb_xkb_get_state_reply_t> state(xcb_xkb_get_state_reply(
+        m_connection, xcb_xkb_get_state(m_connection, XCB_XKB_ID_USE_CORE_KBD), nullptr));
+    if (!state) return {};
+    return {.depressed = state->baseMods,
+            .latched = state->latchedMods,
+            .locked = state->lockedMods,
+            .baseLayout = static_cast<xkb_layout_index_t>(state->baseGroup),
+            .latchedLayout = static_cast<xkb_layout_index_t>(state->latchedGroup),
+            .lockedLayout = state->lockedGroup};
+}
+
+std::vector<std::uint8_t> RawKeySource::keysDown() const {
+    const XReply<xcb_query_keymap_reply_t> reply(
+        xcb_query_keymap_reply(m_connection, xcb_query_keymap(m_connection), nullptr));
+    std::vector<std::uint8_t> keycodes;
+    for (unsigned keycode = 8; reply && keycode < 256; ++keycode) {
+        const bool down = (reply->keys[keycode / 8] >> (keycode % 8) & 1) != 0;
+        if (down) keycodes.push_back(static_cast<std::uint8_t>(keycode));
+    }
+    return keycodes;
+}
+
+void RawKeySource::decode(const xcb_generic_event_t& event) {
+    const auto type = static_cast<std::uint8_t>(event.response_type & 0x7F);
+    if (type == XCB_GE_GENERIC && as<xcb_ge_generic_event_t>(event).extension == m_inputOpcode) {
+        decodeInputEvent(event);
+    } else if (type == m_keyboardEvent) {
+        decodeKeyboardEvent(event);
+    }
+}
+
+void RawKeySource::decodeInputEvent(const xcb_generic_event_t& event) {
+    const std::uint16_t kind = as<xcb_ge_generic_event_t>(event).event_type;
+    if (kind == XCB_INPUT_HIERARCHY) return decodeHierarchy(event);
+    if (kind != XCB_INPUT_RAW_KEY_PRESS && kind != XCB_INPUT_RAW_KEY_RELEASE) return;
+    const auto& key = as<xcb_input_raw_key_press_event_t>(event);
+    // Repeats come from RECORD, which has them for all servers.
+    if ((key.flags & XCB_INPUT_KEY_EVENT_FLAGS_KEY_REPEAT) != 0 || key.detail > 255) return;
+    m_events.emplace_back(RawKey{.keycode = static_cast<std::uint8_t>(key.detail),
+                                 .press = kind == XCB_INPUT_RAW_KEY_PRESS,
+                                 .source = key.sourceid,
+                                 .synthetic = isSynthetic(key.sourceid),
+                                 .time = key.time});
+}
+
+void RawKeySource::decodeHierarchy(const xcb_generic_event_t& event) {
+    constexpr std::uint32_t gone = XCB_INPUT_HIERARCHY_MASK_SLAVE_REMOVED |
+                                   XCB_INPUT_HIERARCHY_MASK_MASTER_REMOVED |
+                                   XCB_INPUT_HIERARCHY_MASK_DEVICE_DISABLED;
+    const auto& hierarchy = as<xcb_input_hierarchy_event_t>(event);
+    m_synthetic.clear();
+    const xcb_input_hierarchy_info_t* infos = xcb_input_hierarchy_infos(&hierarchy);
+    for (int i = 0; i < xcb_input_hierarchy_infos_length(&hierarchy); ++i) {
+        if ((infos[i].flags & gone) != 0) m_events.emplace_back(KeyboardGone{infos[i].deviceid});
+    }
+}
+
+void RawKeySource::decodeKeyboardEvent(const xcb_generic_event_t& event) {
+    // The kind stands where other events have a detail.
+    const std::uint8_t kind = event.pad0;
+    if (kind == XCB_XKB_NEW_KEYBOARD_NOTIFY || kind == XCB_XKB_MAP_NOTIFY) {
+        m_events.emplace_back(KeymapTouched{});
+    } else if (kind == XCB_XKB_CONTROLS_NOTIFY) {
+        noteRepeatDelay();
+    } else if (kind == XCB_XKB_STATE_NOTIFY) {
+        const auto& state = as<xcb_xkb_state_notify_event_t>(event);
+        m_events.emplace_back(
+            StateChange{.components = {.depressed = state.baseMods,
+                                       .latched = state.latchedMods,
+                                       .locked = state.lockedMods,
+                                       .baseLayout = static_cast<xkb_layout_index_t>(state.baseGroup),
+                                       .latchedLayout = static_cast<xkb_layout_index_t>(state.latchedGroup),
+                                       .lockedLayout = state.lockedGroup},
+                        .keycode = state.keycode,
+                        .press = state.eventType == XCB_KEY_PRESS});
+    }
+}
+
+void RawKeySource::noteRepeatDelay() {
+    const XReply<xcb_xkb_get_controls_reply_t> controls(xcb_xkb_get_controls_reply(
+        m_connection, xcb_xkb_get_controls(m_connection, XCB_XKB_ID_USE_CORE_KBD), nullptr));
+    if (controls) m_events.emplace_back(RepeatDelay{controls->repeatDelay});
+}
+
+bool RawKeySource::isSynthetic(std::uint16_t source) {
+    const auto known = m_synthetic.find(source);
+    if (known != m_synthetic.end()) return known->second;
+    const XReply<xcb_input_xi_get_property_reply_t> mark(xcb_input_xi_get_property_reply(
+        m_connection,
+        xcb_input_xi_get_property(m_connection, source, 0, m_syntheticMark, XCB_GET_PROPERTY_TYPE_ANY, 0, 1),
+        nullptr));
+    const bool synthetic = mark && mark->type != XCB_ATOM_NONE;
+    m_synthetic.emplace(source, synthetic);
+    return synthetic;
+}

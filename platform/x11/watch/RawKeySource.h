@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <deque>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/monitor/MonitorEvents.h"
+#include "platform/x11/keymap/ServerKeymap.h"
+#include "platform/x11/server/XConnection.h"
+
+/// The connection that watches: the keys of all keyboards (XInput 2.2 raw events, which no grab of another
+/// program hides) and the state and the map of the core keyboard (XKB).
+///
+/// The server sends both on this one connection in the order in which it works them off.
+class RawKeySource {
+  public:
+    /// Starts watching. Fails where the server cannot be reached or lacks XInput 2.2 or XKB.
+    static Result<std::unique_ptr<RawKeySource>> open(const std::string& display);
+
+    const XConnection& connection() const { return m_connection; }
+    /// The events read and not yet taken, oldest first.
+    std::deque<MonitorEvent>& events() { return m_events; }
+
+    /// Takes over what has come, without waiting; true if that is anything.
+    bool read();
+    /// Waits until all that the server has done so far is in events().
+    void catchUp();
+
+    /// Keymap and state of now.
+    Result<std::unique_ptr<Keymap>> keymap() const { return keymapOfServer(m_connection); }
+    XkbComponents components() const;
+    /// The keys that are down on the core keyboard, ascending.
+    std::vector<std::uint8_t> keysDown() const;
+
+  private:
+    explicit RawKeySource(XConnection connection) : m_connection(std::move(connection)) {}
+
+    Result<void> setUp();
+    void selectInputEvents() const;
+    void selectKeyboardEvents() const;
+    void decode(const xcb_generic_event_t& event);
+    void decodeInputEvent(const xcb_generic_event_t& event);
+    void decodeHierarchy(const xcb_generic_event_t& event);
+    void decodeKeyboardEvent(const xcb_generic_event_t& event);
+    void noteRepeatDelay();
+    bool isSynthetic(std::uint16_t source);
+
+    XConnection m_connection;
+    std::uint8_t m_inputOpcode = 0;
+    std::uint8_t m_keyboardEvent = 0;
+    xcb_atom_t m_syntheticMark = XCB_ATOM_NONE;
+    std::map<std::uint16_t, bool> m_synthetic;
+    std::deque<MonitorEvent> m_events;
+};

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/watch/Wakeups.h"
+
+#include <sys/epoll.h>
+#include <sys/eventfd.h>
+#include <sys/timerfd.h>
+#include <unistd.h>
+
+#include <cstdint>
+
+Wakeups::Wakeups()
+    : m_epoll(epoll_create1(EPOLL_CLOEXEC)),
+      m_event(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
+      m_timer(timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK)) {
+    watch(m_event);
+    watch(m_timer);
+}
+
+Wakeups::~Wakeups() {
+    for (const int descriptor : {m_timer, m_event, m_epoll}) {
+        if (descriptor >= 0) close(descriptor);
+    }
+}
+
+void Wakeups::watch(int fileDescriptor) const {
+    epoll_event event{};
+    event.events = EPOLLIN;
+    event.data.fd = fileDescriptor;
+    epoll_ctl(m_epoll, EPOLL_CTL_ADD, fileDescriptor, &event);
+}
+
+void Wakeups::unwatch(int fileDescriptor) const {
+    epoll_ctl(m_epoll, EPOLL_CTL_DEL, fileDescriptor, nullptr);
+}
+
+void Wakeups::kick() const {
+    // Fails only when the counter is full, which is a kick too.
+    static_cast<void>(eventfd_write(m_event, 1));
+}
+
+void Wakeups::takeKick() const {
+    eventfd_t count = 0;
+    static_cast<void>(eventfd_read(m_event, &count));
+}
+
+void Wakeups::startTimer(std::chrono::milliseconds duration) {
+    if (m_timerRuns) return;
+    itimerspec spec{};
+    spec.it_value.tv_sec = duration.count() / 1000;
+    spec.it_value.tv_nsec = duration.count() % 1000 * 1'000'000;
+    m_timerRuns = timerfd_settime(m_timer, 0, &spec, nullptr) == 0;
+}
+
+bool Wakeups::takeTimer() {
+    std::uint64_t expirations = 0;
+    if (read(m_timer, &expirations, sizeof expirations) != sizeof expirations) return false;
+    m_timerRuns = false;
+    return true;
+}

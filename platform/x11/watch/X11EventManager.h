@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/Clock.h"
+#include "platform/EventMonitor.h"
+#include "platform/HotKeys.h"
+#include "platform/Result.h"
+
+class KeyboardState;
+class RunWatch;
+
+/// The keyboard as the X server shows it: the monitor of all key events and the global hot keys.
+///
+/// Why one object: their order is one, that of server time. The events of the two come on connections of
+/// their own, since one that holds grabs is not sent the raw releases of the keys that it grabs.
+///
+/// Nothing seen is logged or kept. Lives on one thread; `clock` outlives it.
+class X11EventManager final : public EventMonitor, public HotKeys {
+  public:
+    /// Connects to `display`, or to $DISPLAY if it is empty. Fails where the server cannot be reached or
+    /// lacks XInput 2.2 or XKB.
+    static Result<std::unique_ptr<X11EventManager>> open(const Clock& clock, const std::string& display = {});
+    ~X11EventManager() override;
+    X11EventManager(const X11EventManager&) = delete;
+    X11EventManager& operator=(const X11EventManager&) = delete;
+
+    /// For the event loop: readable when dispatch() has something to do, also when that is already in memory.
+    int fileDescriptor() const;
+    /// Delivers everything that has come. Called again from within a handler it reads and keeps, and the
+    /// outer call delivers. Does nothing while a run lasts.
+    void dispatch();
+
+    /// True once the server is gone: nothing comes any more, the descriptor is never readable again.
+    bool isBroken() const;
+    /// What does not work though the rest does: a server without RECORD shows no auto-repeats.
+    const std::optional<Error>& problem() const;
+
+    /// While the screen is locked neither key presses nor hot keys are delivered, modifier changes go on.
+    void setScreenLocked(bool locked);
+
+    /// What the injector needs while a run lasts (platform/run/RunWatch.h).
+    RunWatch& runWatch();
+    /// The keyboard's map and state as of the last event read.
+    const KeyboardState& keyboard() const;
+
+    // EventMonitor
+    Result<void> install(EventMonitor::Handler handler) override;
+    void setWithheld(bool withheld) override;
+    void setKeepsOwnStrokes(bool keeps) override;
+
+    // HotKeys
+    void install(HotKeys::Handler pressed, HotKeys::Handler released) override;
+    void observe(Observer observer) override;
+    void request(const HotKeyRequest& request) override;
+    void withdraw(HotKeyId id) override;
+    HotKeyState state(HotKeyId id) const override;
+    std::uint32_t lastPressTime() const override;
+
+  private:
+    class Parts;
+    explicit X11EventManager(std::unique_ptr<Parts> parts);
+
+    std::unique_ptr<Parts> m_parts;
+};

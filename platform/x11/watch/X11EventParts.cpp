@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/watch/X11EventParts.h"
+
+#include <chrono>
+
+namespace {
+
+constexpr std::chrono::milliseconds keymapDebounce{20};
+
+/// True for the life of the scope.
+class FlagScope {
+  public:
+    explicit FlagScope(bool& flag) : m_flag(flag) { m_flag = true; }
+    ~FlagScope() { m_flag = false; }
+    FlagScope(const FlagScope&) = delete;
+    FlagScope& operator=(const FlagScope&) = delete;
+
+  private:
+    bool& m_flag;
+};
+
+}  // namespace
+
+Result<std::unique_ptr<X11EventManager::Parts>> X11EventManager::Parts::open(const Clock& clock,
+                                                                             const std::string& display) {
+    Opened opened;
+    Result<std::unique_ptr<RawKeySource>> raw = RawKeySource::open(display);
+    if (!raw) return raw.error();
+    Result<std::unique_ptr<HotKeyGrabs>> grabs = HotKeyGrabs::open(display);
+    if (!grabs) return grabs.error();
+    Result<std::unique_ptr<Keymap>> keymap = raw.value()->keymap();
+    if (!keymap) return keymap.error();
+    opened.raw = std::move(raw).value();
+    opened.grabs = std::move(grabs).value();
+    opened.keymap = std::move(keymap).value();
+    Result<std::unique_ptr<RepeatSource>> repeats = RepeatSource::open(display);
+    if (repeats) {
+        opened.repeats = std::move(repeats).value();
+    } else {
+        opened.problem = repeats.error();
+    }
+    return std::unique_ptr<Parts>(new Parts(clock, std::move(opened)));
+}
+
+X11EventManager::Parts::Parts(const Clock& clock, Opened opened)
+    : m_raw(std::move(opened.raw)),
+      m_grabs(std::move(opened.grabs)),
+      m_repeats(std::move(opened.repeats)),
+      m_problem(std::move(opened.problem)),
+      m_keyboard(std::move(opened.keymap), m_raw->components()),
+      m_cancel(clock),
+      m_hotKeys(*m_grabs, m_keyboard),
+      m_interpreter(m_keyboard, m_cancel),
+      m_order({*m_raw, *m_grabs, m_repeats.get()}, {m_hotKeys, m_own, m_cancel, m_keyboard}, m_interpreter,
+              [this] { m_wakeups.startTimer(keymapDebounce); }) {
+    m_wakeups.watch(m_raw->connection().fileDescriptor());
+    m_wakeups.watch(m_grabs->connection().fileDescriptor());
+    if (m_repeats) {
+        m_wakeups.watch(m_repeats->control().fileDescriptor());
+        m_wakeups.watch(m_repeats->data().fileDescriptor());
+    }
+    m_interpreter.startWith(m_raw->keysDown());
+    kick();
+}
+
+void X11EventManager::Parts::dispatch() {
+    read();
+    if (m_dispatching || m_running) return;
+    const FlagScope dispatching(m_dispatching);
+    std::deque<Delivery>& deliveries = m_interpreter.deliveries();
+    while (!deliveries.empty()) {
+        const Delivery delivery = deliveries.front();
+        deliveries.pop_front();
+        std::visit([this](const auto& event) { deliver(event); }, delivery);
+    }
+}
+
+void X11EventManager::Parts::drain() {
+    read();
+    // Between two runs, and after the last, nothing else would tell the loop of what was read in passing.
+    if (!m_running && !m_interpreter.deliveries().empty()) kick();
+}
+
+void X11EventManager::Parts::read() {
+    m_wakeups.takeKick();
+    if (isBroken()) return giveUp();
+    m_order.workOff();
+    if (m_wakeups.takeTimer()) followKeymap();
+    watchRepeats();
+}
+
+bool X11EventManager::Parts::isBroken() const {
+    return m_raw->connection().isBroken() || m_grabs->connection().isBroken();
+}
+
+/// A dead connection is readable for ever.
+void X11EventManager::Parts::giveUp() {
+    if (std::exchange(m_gaveUp, true)) return;
+    m_wakeups.unwatch(m_raw->connection().fileDescriptor());
+    m_wakeups.unwatch(m_grabs->connection().fileDescriptor());
+    if (m_repeats) {
+        m_wakeups.unwatch(m_repeats->control().fileDescriptor());
+        m_wakeups.unwatch(m_repeats->data().fileDescriptor());
+    }
+}
+
+void X11EventManager::Parts::watchRepeats() {
+    if (!m_repeats || m_problem || m_repeats->isRecording()) return;
+    m_problem = Error{"Auto-repeats of held keys can no longer be recorded: the X server has ended it.", ""};
+    m_wakeups.unwatch(m_repeats->control().fileDescriptor());
+    m_wakeups.unwatch(m_repeats->data().fileDescriptor());
+}
+
+void X11EventManager::Parts::catchUp() {
+    if (isBroken()) return;
+    m_order.catchUp();
+    kick();
+}
+
+void X11EventManager::Parts::followKeymap() {
+    Result<std::unique_ptr<Keymap>> keymap = m_raw->keymap();
+    // What cannot be read now will be announced again when it is there.
+    if (!keymap || keymap.value()->fingerprint() == m_keyboard.keymap().fingerprint()) return;
+    m_keyboard.replaceKeymap(std::move(keymap).value());
+    const XkbComponents components = m_raw->components();
+    // Events that have come meanwhile tell the rest themselves.
+    if (!m_raw->read()) m_keyboard.adopt(components);
+    m_hotKeys.followKeymap();
+    m_order.workOff();
+}
+
+void X11EventManager::Parts::runStarts() {
+    if (m_repeats) m_repeats->pause();
+    m_running = true;
+}
+
+void X11EventManager::Parts::runEnds() {
+    catchUp();
+    if (m_repeats) m_repeats->resume();
+    m_own.forget();
+    m_running = false;
+    kick();
+}
+
+void X11EventManager::Parts::endHotKeyGrab() {
+    m_grabs->endActiveGrab();
+    kick();
+}
+
+bool X11EventManager::Parts::liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) {
+    const bool lifted = m_hotKeys.lift(keycode, modifiers);
+    kick();
+    return lifted;
+}
+
+void X11EventManager::Parts::restoreHotKey() {
+    m_hotKeys.restore();
+    kick();
+}
+
+void X11EventManager::Parts::setHotKeyHandlers(HotKeys::Handler pressed, HotKeys::Handler released) {
+    m_pressed = std::move(pressed);
+    m_released = std::move(released);
+}
+
+// What was pressed before a switch is judged by what held then.
+
+void X11EventManager::Parts::setWithheld(bool withheld) {
+    catchUp();
+    m_withheld = withheld;
+    mute();
+}
+
+void X11EventManager::Parts::setScreenLocked(bool locked) {
+    catchUp();
+    m_screenLocked = locked;
+    mute();
+}
+
+void X11EventManager::Parts::setKeepsOwnStrokes(bool keeps) {
+    catchUp();
+    m_interpreter.setKeepsOwnStrokes(keeps);
+}
+
+void X11EventManager::Parts::mute() {
+    const bool muted = m_withheld || m_screenLocked;
+    m_interpreter.setMuted(muted);
+    m_order.setMuted(muted);
+}
+
+void X11EventManager::Parts::deliver(const KeyEvent& event) {
+    // A copy: the handler may be replaced from within.
+    const EventMonitor::Handler handler = m_handler;
+    if (handler) handler(event);
+}
+
+void X11EventManager::Parts::deliver(const HotKeyEvent& event) {
+    if (event.press) m_lastPressTime = event.time;
+    const HotKeys::Handler handler = event.press ? m_pressed : m_released;
+    if (handler) handler(event.id);
+}

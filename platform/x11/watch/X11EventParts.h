@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/EventMonitor.h"
+#include "platform/run/RunWatch.h"
+#include "platform/x11/watch/EventOrder.h"
+#include "platform/x11/watch/Wakeups.h"
+#include "platform/x11/watch/X11EventManager.h"
+
+/// What X11EventManager is made of, joined.
+class X11EventManager::Parts final : public RunWatch {
+  public:
+    static Result<std::unique_ptr<Parts>> open(const Clock& clock, const std::string& display);
+
+    void dispatch();
+    bool isBroken() const;
+
+    // RunWatch
+    void runStarts() override;
+    void runEnds() override;
+    void expectOwnKey(std::uint8_t keycode, bool press) override { m_own.expect(keycode, press); }
+    int fileDescriptor() const override { return m_wakeups.fileDescriptor(); }
+    void drain() override;
+    void startPlayback() override { m_cancel.start(); }
+    void stopPlayback() override { m_cancel.cancel(); }
+    bool isCancelled() const override { return m_cancel.isCancelled(); }
+    bool isLost() const override { return isBroken(); }
+    std::optional<Clock::Time> cancelDeadline() const override { return m_cancel.deadline(); }
+    bool takeModifierPress() override { return m_interpreter.takeModifierPress(); }
+    void endHotKeyGrab() override;
+    bool liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) override;
+    void restoreHotKey() override;
+
+    HotKeyTable& hotKeys() { return m_hotKeys; }
+    const HotKeyTable& hotKeys() const { return m_hotKeys; }
+    const KeyboardState& keyboard() const { return m_keyboard; }
+    const std::optional<Error>& problem() const { return m_problem; }
+    std::uint32_t lastPressTime() const { return m_lastPressTime; }
+
+    void setHandler(EventMonitor::Handler handler) { m_handler = std::move(handler); }
+    void setHotKeyHandlers(HotKeys::Handler pressed, HotKeys::Handler released);
+    void setWithheld(bool withheld);
+    void setScreenLocked(bool locked);
+    void setKeepsOwnStrokes(bool keeps);
+    /// Something may have been read in passing; the loop is to look.
+    void kick() { m_wakeups.kick(); }
+
+  private:
+    struct Opened {
+        std::unique_ptr<RawKeySource> raw;
+        std::unique_ptr<HotKeyGrabs> grabs;
+        std::unique_ptr<RepeatSource> repeats;
+        std::unique_ptr<Keymap> keymap;
+        std::optional<Error> problem;
+    };
+    Parts(const Clock& clock, Opened opened);
+
+    void read();
+    void catchUp();
+    void mute();
+    void followKeymap();
+    void watchRepeats();
+    void giveUp();
+    void deliver(const KeyEvent& event);
+    void deliver(const HotKeyEvent& event);
+
+    std::unique_ptr<RawKeySource> m_raw;
+    std::unique_ptr<HotKeyGrabs> m_grabs;
+    std::unique_ptr<RepeatSource> m_repeats;
+    std::optional<Error> m_problem;
+    KeyboardState m_keyboard;
+    CancelWatch m_cancel;
+    OwnStrokes m_own;
+    HotKeyTable m_hotKeys;
+    KeyInterpreter m_interpreter;
+    EventOrder m_order;
+    Wakeups m_wakeups;
+
+    EventMonitor::Handler m_handler;
+    HotKeys::Handler m_pressed;
+    HotKeys::Handler m_released;
+    std::uint32_t m_lastPressTime = 0;
+    bool m_withheld = false;
+    bool m_screenLocked = false;
+    bool m_running = false;
+    bool m_dispatching = false;
+    bool m_gaveUp = false;
+};

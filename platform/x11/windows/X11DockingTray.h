@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/DockingTray.h"
+#include "platform/x11/server/XConnection.h"
+
+/// Watches the owner of the selection _NET_SYSTEM_TRAY_S0 (System Tray Protocol 0.4, "Locating the system
+/// tray") on a connection of its own: a new owner announces itself with a MANAGER message to the root window,
+/// the end of one shows as the end of its window.
+class X11DockingTray : public DockingTray {
+  public:
+    explicit X11DockingTray(XConnection connection);
+
+    bool isPresent() const override { return m_owner != XCB_WINDOW_NONE; }
+    void observe(std::function<void()> changed) override { m_changed = std::move(changed); }
+
+    /// Readable when dispatch() has something to read.
+    int fileDescriptor() const { return m_connection.fileDescriptor(); }
+    void dispatch();
+
+  private:
+    void findOwner();
+    xcb_window_t askForOwner() const;
+    bool concernsTray(const xcb_generic_event_t& event) const;
+
+    XConnection m_connection;
+    xcb_atom_t m_selection;
+    xcb_atom_t m_manager;
+    xcb_window_t m_owner = XCB_WINDOW_NONE;
+    std::function<void()> m_changed;
+};

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Windows.h"
+#include "platform/x11/server/XConnection.h"
+#include "platform/x11/windows/WindowFocus.h"
+
+class Clock;
+
+/// Windows by way of the Extended Window Manager Hints 1.5, on a connection of its own, so that it can wait
+/// without the toolkit's event loop.
+class X11Windows : public Windows {
+  public:
+    X11Windows(XConnection connection, Clock& clock);
+
+    void activate(WindowId window, std::uint32_t userTime) override;
+    void awaitFocusElsewhere(WindowId hidden) override;
+
+  private:
+    bool hasWindowManager() const;
+    bool isFocusElsewhere(WindowId hidden) const;
+    void giveFocusBack(WindowId hidden) const;
+
+    bool isOnScreen(xcb_window_t window) const;
+
+    void setUserTime(WindowId window, std::uint32_t time) const;
+    std::uint32_t serverTime() const;
+
+    XConnection m_connection;
+    WindowFocus m_focus;
+    Clock& m_clock;
+    xcb_atom_t m_managerCheck;
+    xcb_atom_t m_userTime;
+    xcb_atom_t m_userTimeWindow;
+    xcb_window_t m_own;
+    xcb_window_t m_focusBefore = XCB_WINDOW_NONE;
+};

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "platform/monitor/KeyInterpreter.h"
+
+#include <gtest/gtest.h>
+
+#include "keymap/NamedKeymap.h"
+
+namespace {
+
+class ClockAtRest final : public Clock {
+  public:
+    Time now() const override { return {}; }
+    void sleepFor(Seconds) override {}
+};
+
+constexpr std::uint16_t laptop = 6;
+constexpr std::uint16_t desk = 7;
+constexpr std::uint8_t a = 38;
+constexpr std::uint8_t shift = 50;
+constexpr std::uint8_t escape = 9;
+
+class KeyInterpreterTest : public testing::Test {
+  protected:
+    void press(std::uint8_t keycode, std::uint16_t source = laptop, const KeyOrigin& origin = {}) {
+        m_interpreter.key({.keycode = keycode, .press = true, .source = source, .time = 100}, origin);
+    }
+    void release(std::uint8_t keycode, std::uint16_t source = laptop, ServerTime time = 200) {
+        m_interpreter.key({.keycode = keycode, .press = false, .source = source, .time = time}, {});
+    }
+    std::vector<KeyEvent> keyEvents() {
+        std::vector<KeyEvent> events;
+        for (const Delivery& delivery : m_interpreter.deliveries()) {
+            if (const auto* event = std::get_if<KeyEvent>(&delivery)) events.push_back(*event);
+        }
+        m_interpreter.deliveries().clear();
+        return events;
+    }
+
+    ClockAtRest m_clock;
+    KeyboardState m_keyboard{namedKeymap("us"), {}};
+    CancelWatch m_cancel{m_clock};
+    KeyInterpreter m_interpreter{m_keyboard, m_cancel};
+};
+
+constexpr KeyEvent aDown{KeyEventKind::keyDown, 0, 'a', 0};
+constexpr KeyEvent aUp{KeyEventKind::keyUp, 0, 0, 0};
+
+TEST_F(KeyInterpreterTest, eachKeyboardHasKeysOfItsOwn) {
+    press(a, laptop);
+    press(a, laptop);
+    press(a, desk);
+    release(a, laptop);
+    release(a, laptop);
+    release(a, desk);
+    EXPECT_EQ(keyEvents(), (std::vector{aDown, aDown, aUp, aUp}));
+}
+
+TEST_F(KeyInterpreterTest, aKeyboardThatIsUnpluggedReleasesItsKeys) {
+    press(shift, desk);
+    press(a, desk);
+    keyEvents();
+    m_interpreter.keyboardGone(desk, 300);
+    const auto events = keyEvents();
+    EXPECT_EQ(events.size(), 2U);
+    EXPECT_EQ(events.back().modifiers & 0x200U, 0U);
+    EXPECT_FALSE(m_interpreter.held().mayHaveRepeated(1000));
+}
+
+TEST_F(KeyInterpreterTest, aRepeatOfAKeyThatIsUpIsNothing) {
+    m_interpreter.repeat(a, 90);
+    press(a);
+    m_interpreter.repeat(a, 150);
+    release(a);
+    m_interpreter.repeat(a, 210);
+    EXPECT_EQ(keyEvents(), (std::vector{aDown, KeyEvent{KeyEventKind::autoRepeat, 0, 'a', 0}, aUp}));
+}
+
+TEST_F(KeyInterpreterTest, nothingRepeatsBeforeTheDelay) {
+    m_interpreter.setRepeatDelay(250);
+    press(a);
+    EXPECT_FALSE(m_interpreter.held().mayHaveRepeated(340));
+    m_interpreter.repeat(a, 340);
+    EXPECT_EQ(keyEvents(), std::vector{aDown});
+    EXPECT_TRUE(m_interpreter.held().mayHaveRepeated(350));
+    m_interpreter.repeat(a, 350);
+    EXPECT_EQ(keyEvents(), (std::vector{KeyEvent{KeyEventKind::autoRepeat, 0, 'a', 0}}));
+}
+
+TEST_F(KeyInterpreterTest, aPressThatWasNotReportedHasNoRelease) {
+    m_interpreter.setMuted(true);
+    press(a);
+    m_interpreter.setMuted(false);
+    m_interpreter.repeat(a, 150);
+    release(a);
+    EXPECT_EQ(keyEvents(), std::vector<KeyEvent>{});
+}
+
+TEST_F(KeyInterpreterTest, aHotKeyThatWasDroppedHasNoRelease) {
+    m_interpreter.setMuted(true);
+    press(a, laptop, {.own = false, .grabbed = true, .hotKey = 2});
+    m_interpreter.setMuted(false);
+    release(a);
+    EXPECT_TRUE(m_interpreter.deliveries().empty());
+}
+
+TEST_F(KeyInterpreterTest, aHotKeyAfterItsRawPressPassedIsStillPressedAndReleased) {
+    press(a);
+    keyEvents();
+    m_interpreter.lateHotKey(2, a, 100);
+    release(a);
+    EXPECT_EQ(m_interpreter.deliveries(),
+              (std::deque<Delivery>{HotKeyEvent{2, true, 100}, HotKeyEvent{2, false, 200}}));
+}
+
+TEST_F(KeyInterpreterTest, escapeReadLateCountsByTheServersTime) {
+    press(escape);
+    release(escape, laptop, 100 + 299);
+    EXPECT_FALSE(m_cancel.isCancelled());
+    press(escape);
+    release(escape, laptop, 100 + 300);
+    EXPECT_TRUE(m_cancel.isCancelled());
+}
+
+}  // namespace
