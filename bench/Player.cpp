@@ -14,10 +14,10 @@ Value valueOf(Result<Value> result) {
 }  // namespace
 
 Player::Player(const std::string& display)
-    : m_manager(valueOf(X11EventManager::open(m_clock, display))),
-      m_injector(std::make_unique<X11KeyInjector>(
+    : m_manager(valueOf(x11::X11EventManager::open(m_clock, display))),
+      m_injector(std::make_unique<x11::X11KeyInjector>(
           m_manager->runWatch(), m_clock,
-          X11KeyInjector::Options{
+          x11::X11KeyInjector::Options{
               .display = display, .guard = KEYRILL_GUARD, .runtimeFolder = m_folder.path()})) {}
 
 std::unique_ptr<InjectionSession> Player::run(const InjectionPlan& plan) {

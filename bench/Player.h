@@ -21,8 +21,8 @@ class Player {
   private:
     TemporaryFolder m_folder;
     SteadyClock m_clock;
-    std::unique_ptr<X11EventManager> m_manager;
-    std::unique_ptr<X11KeyInjector> m_injector;
+    std::unique_ptr<x11::X11EventManager> m_manager;
+    std::unique_ptr<x11::X11KeyInjector> m_injector;
 };
 
 /// Ends the program with the error's message unless the step of a run was taken.

@@ -17,7 +17,7 @@ constexpr std::array<int, 3> signalNumbers{SIGINT, SIGTERM, SIGHUP};
 
 /// What the signal handler knows: it is given nothing but the number.
 struct Known {
-    X11KeyInjector* injector = nullptr;
+    x11::X11KeyInjector* injector = nullptr;
     volatile sig_atomic_t received = 0;
 };
 
@@ -41,7 +41,7 @@ void setHandlers(void (*handler)(int)) {
 
 class X11Playback final : public Playback {
   public:
-    X11Playback(std::unique_ptr<SteadyClock> clock, std::unique_ptr<X11EventManager> events)
+    X11Playback(std::unique_ptr<SteadyClock> clock, std::unique_ptr<x11::X11EventManager> events)
         : m_clock(std::move(clock)), m_events(std::move(events)), m_injector(m_events->runWatch(), *m_clock) {
         known().injector = &m_injector;
         setHandlers(handleSignal);
@@ -62,16 +62,16 @@ class X11Playback final : public Playback {
 
   private:
     std::unique_ptr<SteadyClock> m_clock;
-    std::unique_ptr<X11EventManager> m_events;
-    X11ScriptDesktop m_desktop{*m_clock};
-    X11KeyInjector m_injector;
+    std::unique_ptr<x11::X11EventManager> m_events;
+    x11::X11ScriptDesktop m_desktop{*m_clock};
+    x11::X11KeyInjector m_injector;
 };
 
 }  // namespace
 
 Result<std::unique_ptr<Playback>> Playback::make() {
     auto clock = std::make_unique<SteadyClock>();
-    Result<std::unique_ptr<X11EventManager>> events = X11EventManager::open(*clock);
+    Result<std::unique_ptr<x11::X11EventManager>> events = x11::X11EventManager::open(*clock);
     if (!events) return events.error();
     return std::unique_ptr<Playback>(
         std::make_unique<X11Playback>(std::move(clock), std::move(events).value()));

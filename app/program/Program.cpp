@@ -16,7 +16,7 @@ namespace {
 
 // A run does not return to the event loop before its end, so a signal has to end it first.
 void interruptRun(void* injector) {
-    if (injector != nullptr) static_cast<X11KeyInjector*>(injector)->interrupt();
+    if (injector != nullptr) static_cast<x11::X11KeyInjector*>(injector)->interrupt();
 }
 
 QtDialogs::Focus focusOf(Windows& windows) {
@@ -48,7 +48,7 @@ Program::Program(X11Backends& backends)
     QTimer::singleShot(0, &m_controller, &AppController::awakeFromNib);
 }
 
-void Program::watchEvents(X11EventManager& manager) {
+void Program::watchEvents(x11::X11EventManager& manager) {
     m_eventsReadable = std::make_unique<QSocketNotifier>(manager.fileDescriptor(), QSocketNotifier::Read);
     // A server that is gone is the toolkit's to notice: it says so and ends the program.
     QObject::connect(m_eventsReadable.get(), &QSocketNotifier::activated, &m_controller,

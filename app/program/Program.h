@@ -12,7 +12,9 @@
 
 class ProgramInstance;
 class X11Backends;
+namespace x11 {
 class X11EventManager;
+}
 
 /// The program around the controller: joins it with the backends and both with the toolkit's event loop.
 /// Needs a QApplication; start-up itself happens once the loop runs.
@@ -30,7 +32,7 @@ class Program {
     void openFiles(const QStringList& files);
 
   private:
-    void watchEvents(X11EventManager& manager);
+    void watchEvents(x11::X11EventManager& manager);
 
     TrayStatusItem m_statusItem;
     QtDialogs m_dialogs;

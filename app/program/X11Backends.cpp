@@ -24,18 +24,18 @@ namespace {
 
 /// What has to do with keys, in a session that shows and takes them.
 struct X11Keys {
-    X11Keys(std::unique_ptr<X11EventManager> manager, Clock& clock)
+    X11Keys(std::unique_ptr<x11::X11EventManager> manager, Clock& clock)
         : eventManager(std::move(manager)), keyInjector(eventManager->runWatch(), clock) {}
 
-    std::unique_ptr<X11EventManager> eventManager;
-    X11KeyboardLayout keyboardLayout{*eventManager};
-    X11KeyInjector keyInjector;
+    std::unique_ptr<x11::X11EventManager> eventManager;
+    x11::X11KeyboardLayout keyboardLayout{*eventManager};
+    x11::X11KeyInjector keyInjector;
 };
 
 Result<std::unique_ptr<X11Keys>> openKeys(Clock& clock) {
-    const auto access = checkX11Access();
+    const auto access = x11::checkX11Access();
     if (!access) return access.error();
-    auto manager = X11EventManager::open(clock);
+    auto manager = x11::X11EventManager::open(clock);
     if (!manager) return manager.error();
     auto keys = std::make_unique<X11Keys>(std::move(manager).value(), clock);
     const auto started = keys->keyInjector.start();
@@ -52,7 +52,7 @@ Service& oneOf(Service* available, Service& otherwise) {
 
 struct X11Backends::Parts {
     Parts(std::unique_ptr<SteadyClock> steadyClock, Result<std::unique_ptr<X11Keys>> openedKeys,
-          XConnection trayConnection, XConnection windowConnection, const UpdateSource& updates)
+          x11::XConnection trayConnection, x11::XConnection windowConnection, const UpdateSource& updates)
         : clock(std::move(steadyClock)),
           unavailable(openedKeys ? Error() : openedKeys.error()),
           keys(openedKeys ? std::move(openedKeys).value() : nullptr),
@@ -65,13 +65,13 @@ struct X11Backends::Parts {
     std::unique_ptr<X11Keys> keys;
     KeyInjector& keyInjector =
         oneOf<KeyInjector>(keys ? &keys->keyInjector : nullptr, unavailable.keyInjector);
-    X11ScriptDesktop scriptDesktop{*clock};
+    x11::X11ScriptDesktop scriptDesktop{*clock};
     script::ScriptRunner scripting{keyInjector, scriptDesktop};
-    X11Windows windows;
-    X11DockingTray dockingTray;
+    x11::X11Windows windows;
+    x11::X11DockingTray dockingTray;
     LinuxServices neutral;
-    X11SessionCheck sessionCheck{X11SessionCheck::sessionOfProcess()};
-    X11EventManager* const eventManager = keys ? keys->eventManager.get() : nullptr;
+    x11::X11SessionCheck sessionCheck{x11::X11SessionCheck::sessionOfProcess()};
+    x11::X11EventManager* const eventManager = keys ? keys->eventManager.get() : nullptr;
     Services services{.clock = *clock,
                       .eventMonitor = oneOf<EventMonitor>(eventManager, unavailable.eventMonitor),
                       .hotKeys = oneOf<HotKeys>(eventManager, unavailable.hotKeys),
@@ -97,7 +97,7 @@ int reportFailure(const Error& error) {
 }
 
 Result<void> chooseX11Display() {
-    const auto connection = XConnection::open();
+    const auto connection = x11::XConnection::open();
     if (!connection) return connection.error();
     // The toolkit would prefer a Wayland display that is offered too.
     setenv("QT_QPA_PLATFORM", "xcb", 1);
@@ -110,13 +110,13 @@ Result<std::unique_ptr<X11Backends>> X11Backends::open() {
 
 Result<std::unique_ptr<X11Backends>> X11Backends::open(const std::string& updateUrl,
                                                        const std::string& authorities) {
-    auto trayConnection = XConnection::open();
+    auto trayConnection = x11::XConnection::open();
     if (!trayConnection) return trayConnection.error();
-    auto windowConnection = XConnection::open();
+    auto windowConnection = x11::XConnection::open();
     if (!windowConnection) return windowConnection.error();
     auto clock = std::make_unique<SteadyClock>();
     auto keys = openKeys(*clock);
-    const X11SessionCheck check(X11SessionCheck::sessionOfProcess());
+    const x11::X11SessionCheck check(x11::X11SessionCheck::sessionOfProcess());
     // What the start-up finds out is told there.
     if (!keys && check.version() && check.access()) return keys.error();
     return std::unique_ptr<X11Backends>(new X11Backends(
@@ -130,8 +130,10 @@ X11Backends::~X11Backends() { m_parts->scriptDesktop.clipboardOfScripts().handOv
 Services& X11Backends::services() { return m_parts->services; }
 script::ScriptRunner& X11Backends::scripting() { return m_parts->scripting; }
 Windows& X11Backends::windows() { return m_parts->windows; }
-X11EventManager* X11Backends::eventManager() { return m_parts->eventManager; }
-X11DockingTray& X11Backends::dockingTray() { return m_parts->dockingTray; }
+x11::X11EventManager* X11Backends::eventManager() { return m_parts->eventManager; }
+x11::X11DockingTray& X11Backends::dockingTray() { return m_parts->dockingTray; }
 BusLoop& X11Backends::busLoop() { return m_parts->neutral.busLoop; }
 
-X11KeyInjector* X11Backends::keyInjector() { return m_parts->keys ? &m_parts->keys->keyInjector : nullptr; }
+x11::X11KeyInjector* X11Backends::keyInjector() {
+    return m_parts->keys ? &m_parts->keys->keyInjector : nullptr;
+}

@@ -8,10 +8,12 @@
 
 class BusLoop;
 class Windows;
+struct Services;
+namespace x11 {
 class X11DockingTray;
 class X11EventManager;
 class X11KeyInjector;
-struct Services;
+}
 namespace script {
 class ScriptRunner;
 }
@@ -42,11 +44,11 @@ class X11Backends {
     Windows& windows();
 
     // What the event loop has to serve. Null in a session without keys.
-    X11EventManager* eventManager();
+    x11::X11EventManager* eventManager();
     /// To be interrupted by signals.
-    X11KeyInjector* keyInjector();
+    x11::X11KeyInjector* keyInjector();
 
-    X11DockingTray& dockingTray();
+    x11::X11DockingTray& dockingTray();
     BusLoop& busLoop();
 
   private:

@@ -167,13 +167,13 @@ ScreenWindow Desktop::awaitFocus(const std::string& title) const {
 }
 
 bool Desktop::isHotKeyTaken(std::uint8_t keycode) const {
-    const auto connection = XConnection::open(m_display);
-    const XConnection& server = connection.value();
+    const auto connection = x11::XConnection::open(m_display);
+    const x11::XConnection& server = connection.value();
     // Nobody else may try while the key is ours.
     xcb_grab_server(server);
     const auto grab = xcb_grab_key_checked(server, 0, server.root(), XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_4,
                                            keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    const XReply<xcb_generic_error_t> refused(xcb_request_check(server, grab));
+    const x11::XReply<xcb_generic_error_t> refused(xcb_request_check(server, grab));
     return refused != nullptr;
 }
 

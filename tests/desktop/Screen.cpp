@@ -23,7 +23,7 @@ bool hasWord(const std::string& words, const std::string& word) {
 }  // namespace
 
 Screen::Screen(const std::string& display)
-    : m_connection(XConnection::open(display).value()),
+    : m_connection(x11::XConnection::open(display).value()),
       m_name(m_connection.atom("_NET_WM_NAME")),
       m_active(m_connection.atom("_NET_ACTIVE_WINDOW")),
       m_unmapped(xcb_generate_id(m_connection)) {
@@ -66,7 +66,7 @@ std::vector<std::uint32_t> Screen::pixels(int x, int y, int width, int height) c
         xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_connection.root(),
                       static_cast<std::int16_t>(x), static_cast<std::int16_t>(y),
                       static_cast<std::uint16_t>(width), static_cast<std::uint16_t>(height), allPlanes);
-    const XReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(m_connection, question, nullptr));
+    const x11::XReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(m_connection, question, nullptr));
     if (!reply) return {};
     const std::uint8_t* bytes = xcb_get_image_data(reply.get());
     std::vector<std::uint32_t> found(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
@@ -79,7 +79,7 @@ std::vector<std::uint32_t> Screen::pixels(int x, int y, int width, int height) c
 }
 
 std::uint32_t Screen::focus() const {
-    const XReply<xcb_get_input_focus_reply_t> reply(
+    const x11::XReply<xcb_get_input_focus_reply_t> reply(
         xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
     return reply->focus;
 }
@@ -87,7 +87,8 @@ std::uint32_t Screen::focus() const {
 std::uint32_t Screen::activeWindow() const {
     const auto question =
         xcb_get_property(m_connection, 0, m_connection.root(), m_active, XCB_ATOM_WINDOW, 0, 1);
-    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection, question, nullptr));
+    const x11::XReply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection, question, nullptr));
     if (!reply || reply->value_len != 1) return XCB_WINDOW_NONE;
     return *static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
 }
@@ -96,13 +97,14 @@ std::uint32_t Screen::activeWindow() const {
 bool Screen::isKeyboardGrabbed() const {
     const auto question = xcb_grab_keyboard(m_connection, 0, m_unmapped, XCB_CURRENT_TIME,
                                             XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    const XReply<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(m_connection, question, nullptr));
+    const x11::XReply<xcb_grab_keyboard_reply_t> reply(
+        xcb_grab_keyboard_reply(m_connection, question, nullptr));
     return reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
 }
 
 bool Screen::isOwned(const std::string& selection) const {
     const auto question = xcb_get_selection_owner(m_connection, m_connection.atom(selection));
-    const XReply<xcb_get_selection_owner_reply_t> reply(
+    const x11::XReply<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(m_connection, question, nullptr));
     return reply->owner != XCB_WINDOW_NONE;
 }
@@ -112,10 +114,10 @@ void Screen::collect(xcb_window_t window, int x, int y, std::vector<ScreenWindow
     const auto treeQuestion = xcb_query_tree(m_connection, window);
     const auto stateQuestion = xcb_get_window_attributes(m_connection, window);
     const auto placeQuestion = xcb_get_geometry(m_connection, window);
-    const XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(m_connection, treeQuestion, nullptr));
-    const XReply<xcb_get_window_attributes_reply_t> state(
+    const x11::XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(m_connection, treeQuestion, nullptr));
+    const x11::XReply<xcb_get_window_attributes_reply_t> state(
         xcb_get_window_attributes_reply(m_connection, stateQuestion, nullptr));
-    const XReply<xcb_get_geometry_reply_t> place(
+    const x11::XReply<xcb_get_geometry_reply_t> place(
         xcb_get_geometry_reply(m_connection, placeQuestion, nullptr));
     if (!tree || !state || !place || state->map_state != XCB_MAP_STATE_VIEWABLE) return;
 
@@ -135,7 +137,8 @@ std::string Screen::text(xcb_window_t window, xcb_atom_t property) const {
     constexpr std::uint32_t longest = 256;
     const auto question =
         xcb_get_property(m_connection, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, longest);
-    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection, question, nullptr));
+    const x11::XReply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection, question, nullptr));
     if (!reply || reply->format != 8) return {};
     const auto length = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
     std::string result(static_cast<const char*>(xcb_get_property_value(reply.get())), length);

@@ -53,7 +53,7 @@ class Screen {
     void collect(xcb_window_t window, int x, int y, std::vector<ScreenWindow>& found) const;
     std::string text(xcb_window_t window, xcb_atom_t property) const;
 
-    XConnection m_connection;
+    x11::XConnection m_connection;
     xcb_atom_t m_name;
     xcb_atom_t m_active;
     xcb_window_t m_unmapped;

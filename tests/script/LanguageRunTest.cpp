@@ -49,8 +49,8 @@ TEST(LanguageRunTest, aScriptTypesExactlyItsText) {
 TEST(ScriptDesktopTest, whatIsSetIsWhatAnotherProgramGets) {
     const XServer server;
     SteadyClock clock;
-    X11ScriptDesktop ours(clock, server.display());
-    X11ScriptDesktop theirs(clock, server.display());
+    x11::X11ScriptDesktop ours(clock, server.display());
+    x11::X11ScriptDesktop theirs(clock, server.display());
     EXPECT_EQ(theirs.clipboard().value(), "");
     ASSERT_TRUE(ours.setClipboard("Grüße 😀"));
     EXPECT_EQ(theirs.clipboard().value(), "Grüße 😀");

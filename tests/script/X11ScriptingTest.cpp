@@ -19,8 +19,8 @@ constexpr std::uint8_t superKey = 133;
 constexpr std::uint8_t sKey = 39;
 constexpr std::uint8_t zKey = 52;
 
-std::unique_ptr<X11EventManager> openManager(const Clock& clock, const std::string& display) {
-    auto manager = X11EventManager::open(clock, display);
+std::unique_ptr<x11::X11EventManager> openManager(const Clock& clock, const std::string& display) {
+    auto manager = x11::X11EventManager::open(clock, display);
     if (!manager) throw std::runtime_error(manager.error().message);
     return std::move(manager).value();
 }
@@ -63,8 +63,8 @@ class X11ScriptingWorld : public ScriptingWorld {
     Terminal m_terminal{m_server.display()};
     Hands m_hands{m_server.display()};
     SteadyClock m_clock;
-    std::unique_ptr<X11EventManager> m_manager = openManager(m_clock, m_server.display());
-    X11KeyInjector m_injector{
+    std::unique_ptr<x11::X11EventManager> m_manager = openManager(m_clock, m_server.display());
+    x11::X11KeyInjector m_injector{
         m_manager->runWatch(),
         m_clock,
         {.display = m_server.display(), .guard = KEYRILL_GUARD, .runtimeFolder = m_runtimeFolder.path()}};

@@ -8,8 +8,8 @@
 #include <xcb/xkb.h>
 #undef explicit
 
-Bell::Bell(const std::string& display) : m_connection(XConnection::open(display).value()) {
-    const XReply<xcb_xkb_use_extension_reply_t> reply(
+Bell::Bell(const std::string& display) : m_connection(x11::XConnection::open(display).value()) {
+    const x11::XReply<xcb_xkb_use_extension_reply_t> reply(
         xcb_xkb_use_extension_reply(m_connection, xcb_xkb_use_extension(m_connection, 1, 0), nullptr));
     if (!reply) throw std::runtime_error("no XKB");
     m_firstEvent = xcb_get_extension_data(m_connection, &xcb_xkb_id)->first_event;
@@ -21,7 +21,7 @@ Bell::Bell(const std::string& display) : m_connection(XConnection::open(display)
 int Bell::rung() {
     m_connection.roundTrip();
     int count = 0;
-    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
+    while (const x11::XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
         // All of XKB's events have one number; which it is stands behind it.
         if ((event->response_type & 0x7F) == m_firstEvent && event->pad0 == XCB_XKB_BELL_NOTIFY) ++count;
     }

@@ -14,6 +14,6 @@ class Bell {
     int rung();
 
   private:
-    XConnection m_connection;
+    x11::XConnection m_connection;
     std::uint8_t m_firstEvent = 0;
 };

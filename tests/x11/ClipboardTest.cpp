@@ -58,10 +58,10 @@ class ClipboardTest : public testing::Test {
     std::optional<Child> m_copied;
 
   protected:
-    X11Clipboard clipboard{m_server.display()};
+    x11::X11Clipboard clipboard{m_server.display()};
 };
 
-std::string textOf(X11Clipboard& clipboard) {
+std::string textOf(x11::X11Clipboard& clipboard) {
     const auto text = clipboard.text();
     return text ? text.value() : "error: " + text.error().message;
 }

@@ -13,7 +13,7 @@ class X11LayoutWorld : public KeyboardLayoutWorld {
 
   private:
     X11World m_world;
-    X11KeyboardLayout m_layout{m_world.manager()};
+    x11::X11KeyboardLayout m_layout{m_world.manager()};
 };
 
 std::unique_ptr<KeyboardWorld> makeWorld() { return std::make_unique<X11World>(); }

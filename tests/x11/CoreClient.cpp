@@ -8,8 +8,8 @@
 
 namespace {
 
-XConnection connect(const std::string& display) {
-    Result<XConnection> connection = XConnection::open(display);
+x11::XConnection connect(const std::string& display) {
+    Result<x11::XConnection> connection = x11::XConnection::open(display);
     if (!connection) throw std::runtime_error(connection.error().message);
     return std::move(connection).value();
 }
@@ -24,7 +24,7 @@ CoreClient::CoreClient(const std::string& display) : m_connection(connect(displa
     xcb_map_window(m_connection, m_window);
     const bool focused = eventually([this] {
         xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_window, XCB_CURRENT_TIME);
-        const XReply<xcb_get_input_focus_reply_t> reply(
+        const x11::XReply<xcb_get_input_focus_reply_t> reply(
             xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
         return reply && reply->focus == m_window;
     });
@@ -33,7 +33,7 @@ CoreClient::CoreClient(const std::string& display) : m_connection(connect(displa
 
 const std::vector<CoreClient::KeyEvent>& CoreClient::events() {
     m_connection.roundTrip();
-    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
+    while (const x11::XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
         const int type = event->response_type & 0x7F;
         if (type == XCB_MAPPING_NOTIFY) ++m_mappingChanges;
         if (type != XCB_KEY_PRESS && type != XCB_KEY_RELEASE) continue;
@@ -67,14 +67,14 @@ int CoreClient::mappingChanges() {
 }
 
 bool CoreClient::grabKey(std::uint8_t keycode, std::uint16_t modifiers) const {
-    const XReply<xcb_generic_error_t> error(xcb_request_check(
+    const x11::XReply<xcb_generic_error_t> error(xcb_request_check(
         m_connection, xcb_grab_key_checked(m_connection, 0, m_connection.root(), modifiers, keycode,
                                            XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC)));
     return !error;
 }
 
 void CoreClient::grabKeyboard() const {
-    const XReply<xcb_grab_keyboard_reply_t> reply(
+    const x11::XReply<xcb_grab_keyboard_reply_t> reply(
         xcb_grab_keyboard_reply(m_connection,
                                 xcb_grab_keyboard(m_connection, 0, m_window, XCB_CURRENT_TIME,
                                                   XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),

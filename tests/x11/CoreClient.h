@@ -37,7 +37,7 @@ class CoreClient {
     xcb_window_t window() const { return m_window; }
 
   private:
-    XConnection m_connection;
+    x11::XConnection m_connection;
     xcb_window_t m_window = 0;
     std::vector<KeyEvent> m_events;
     int m_mappingChanges = 0;

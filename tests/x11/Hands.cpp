@@ -14,8 +14,8 @@
 
 namespace {
 
-XConnection connect(const std::string& display) {
-    Result<XConnection> connection = XConnection::open(display);
+x11::XConnection connect(const std::string& display) {
+    Result<x11::XConnection> connection = x11::XConnection::open(display);
     if (!connection) throw std::runtime_error(connection.error().message);
     return std::move(connection).value();
 }

@@ -27,10 +27,10 @@ class Hands {
     void lock(std::uint8_t modifiers, bool on) const;
     void lockGroup(std::uint8_t group) const;
 
-    const XConnection& connection() const { return m_connection; }
+    const x11::XConnection& connection() const { return m_connection; }
 
   private:
     void fake(std::uint8_t keycode, bool down) const;
 
-    XConnection m_connection;
+    x11::XConnection m_connection;
 };

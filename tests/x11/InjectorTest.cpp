@@ -5,16 +5,16 @@
 #include <stdexcept>
 
 InjectorOnDisplay::InjectorOnDisplay(const std::string& display) : m_display(display) {
-    auto manager = X11EventManager::open(m_clock, display);
+    auto manager = x11::X11EventManager::open(m_clock, display);
     if (!manager) throw std::runtime_error(manager.error().message);
     m_manager = std::move(manager).value();
     begin();
 }
 
 void InjectorOnDisplay::begin() {
-    m_injector = std::make_unique<X11KeyInjector>(
+    m_injector = std::make_unique<x11::X11KeyInjector>(
         m_manager->runWatch(), m_clock,
-        X11KeyInjector::Options{
+        x11::X11KeyInjector::Options{
             .display = m_display, .guard = KEYRILL_GUARD, .runtimeFolder = m_folder.path()});
     const auto started = m_injector->start();
     if (!started) throw std::runtime_error(started.error().message);

@@ -18,8 +18,8 @@ class InjectorOnDisplay {
   public:
     explicit InjectorOnDisplay(const std::string& display);
 
-    X11KeyInjector& injector() { return *m_injector; }
-    X11EventManager& manager() { return *m_manager; }
+    x11::X11KeyInjector& injector() { return *m_injector; }
+    x11::X11EventManager& manager() { return *m_manager; }
     const TemporaryFolder& runtimeFolder() const { return m_folder; }
     Clock& clock() { return m_clock; }
 
@@ -33,8 +33,8 @@ class InjectorOnDisplay {
     std::string m_display;
     TemporaryFolder m_folder;
     SteadyClock m_clock;
-    std::unique_ptr<X11EventManager> m_manager;
-    std::unique_ptr<X11KeyInjector> m_injector;
+    std::unique_ptr<x11::X11EventManager> m_manager;
+    std::unique_ptr<x11::X11KeyInjector> m_injector;
 };
 
 /// A private X server with the injector under test.

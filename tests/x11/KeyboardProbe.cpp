@@ -16,8 +16,8 @@
 
 namespace {
 
-XConnection connect(const std::string& display) {
-    Result<XConnection> connection = XConnection::open(display);
+x11::XConnection connect(const std::string& display) {
+    Result<x11::XConnection> connection = x11::XConnection::open(display);
     if (!connection) throw std::runtime_error(connection.error().message);
     return std::move(connection).value();
 }
@@ -29,7 +29,7 @@ void collect(const std::uint8_t* bits, std::set<int>& keys) {
 }
 
 void collectOfDevice(xcb_connection_t* connection, std::uint8_t device, std::set<int>& keys) {
-    const XReply<xcb_input_query_device_state_reply_t> reply(xcb_input_query_device_state_reply(
+    const x11::XReply<xcb_input_query_device_state_reply_t> reply(xcb_input_query_device_state_reply(
         connection, xcb_input_query_device_state(connection, device), nullptr));
     if (!reply) return;
     auto input = xcb_input_query_device_state_classes_iterator(reply.get());
@@ -41,10 +41,10 @@ void collectOfDevice(xcb_connection_t* connection, std::uint8_t device, std::set
 
 std::set<int> keysDown(xcb_connection_t* connection) {
     std::set<int> keys;
-    const XReply<xcb_query_keymap_reply_t> core(
+    const x11::XReply<xcb_query_keymap_reply_t> core(
         xcb_query_keymap_reply(connection, xcb_query_keymap(connection), nullptr));
     collect(core->keys, keys);
-    const XReply<xcb_input_xi_query_device_reply_t> devices(xcb_input_xi_query_device_reply(
+    const x11::XReply<xcb_input_xi_query_device_reply_t> devices(xcb_input_xi_query_device_reply(
         connection, xcb_input_xi_query_device(connection, XCB_INPUT_DEVICE_ALL), nullptr));
     auto info = xcb_input_xi_query_device_infos_iterator(devices.get());
     for (; info.rem > 0; xcb_input_xi_device_info_next(&info)) {
@@ -54,17 +54,17 @@ std::set<int> keysDown(xcb_connection_t* connection) {
     return keys;
 }
 
-XReply<xcb_xkb_get_state_reply_t> stateOf(xcb_connection_t* connection) {
-    return XReply<xcb_xkb_get_state_reply_t>(
+x11::XReply<xcb_xkb_get_state_reply_t> stateOf(xcb_connection_t* connection) {
+    return x11::XReply<xcb_xkb_get_state_reply_t>(
         xcb_xkb_get_state_reply(connection, xcb_xkb_get_state(connection, XCB_XKB_ID_USE_CORE_KBD), nullptr));
 }
 
 }  // namespace
 
 KeyboardProbe::KeyboardProbe(const std::string& display) : m_connection(connect(display)) {
-    const XReply<xcb_xkb_use_extension_reply_t> keyboard(
+    const x11::XReply<xcb_xkb_use_extension_reply_t> keyboard(
         xcb_xkb_use_extension_reply(m_connection, xcb_xkb_use_extension(m_connection, 1, 0), nullptr));
-    const XReply<xcb_input_xi_query_version_reply_t> input(xcb_input_xi_query_version_reply(
+    const x11::XReply<xcb_input_xi_query_version_reply_t> input(xcb_input_xi_query_version_reply(
         m_connection, xcb_input_xi_query_version(m_connection, 2, 2), nullptr));
     if (!keyboard || !input) throw std::runtime_error("no XKB or no XInput");
 }
@@ -97,7 +97,7 @@ std::uint8_t KeyboardProbe::group() const {
 }
 
 bool KeyboardProbe::hasProperty(const std::string& name) const {
-    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+    const x11::XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
         m_connection,
         xcb_get_property(m_connection, 0, m_connection.root(), m_connection.atom(name), XCB_ATOM_ANY, 0, 1),
         nullptr));

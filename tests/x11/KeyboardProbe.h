@@ -24,8 +24,8 @@ class KeyboardProbe {
     /// A property of the root window is there.
     bool hasProperty(const std::string& name) const;
 
-    const XConnection& connection() const { return m_connection; }
+    const x11::XConnection& connection() const { return m_connection; }
 
   private:
-    XConnection m_connection;
+    x11::XConnection m_connection;
 };

@@ -20,7 +20,7 @@ class X11LayoutTest : public X11Test {
 
     std::map<std::string, std::string> environment() { return {{"DISPLAY", world().display()}}; }
 
-    X11KeyboardLayout m_layout{world().manager()};
+    x11::X11KeyboardLayout m_layout{world().manager()};
 };
 
 TEST_F(X11LayoutTest, aChangeOfTheLayoutIsFollowed) {
@@ -131,15 +131,15 @@ TEST_F(X11LayoutTest, aCharacterIsWhatTheKeyTypesWithShift) {
 }
 
 TEST_F(X11LayoutTest, theServerIsFoundUsable) {
-    EXPECT_TRUE(checkX11Access(world().display()));
-    EXPECT_EQ(checkX11Access(":9999").error().message,
+    EXPECT_TRUE(x11::checkX11Access(world().display()));
+    EXPECT_EQ(x11::checkX11Access(":9999").error().message,
               "The X server of display \":9999\" cannot be reached.");
 }
 
 TEST(X11CheckTest, aMissingExtensionIsNamed) {
     const XServer server(
         {"Xvfb", "-screen", "0", "320x200x24", "-nolisten", "tcp", "-noreset", "-extension", "XTEST"});
-    EXPECT_EQ(checkX11Access(server.display()).error().message,
+    EXPECT_EQ(x11::checkX11Access(server.display()).error().message,
               "The X server must have the XTEST extension, but it has not.");
 }
 

@@ -154,7 +154,7 @@ TEST_F(OrderTest, keysThatAreDownAtTheStartCount) {
     hands().press(xkey::shift);
     hands().finish();
     SteadyClock clock;
-    auto late = X11EventManager::open(clock, world().display());
+    auto late = x11::X11EventManager::open(clock, world().display());
     ASSERT_TRUE(late);
     Log seen;
     ASSERT_TRUE(late.value()->install([&](const KeyEvent& event) { seen.push_back(wordsFor(event)); }));

@@ -10,8 +10,8 @@
 
 namespace {
 
-XConnection connect(const std::string& display) {
-    Result<XConnection> connection = XConnection::open(display);
+x11::XConnection connect(const std::string& display) {
+    Result<x11::XConnection> connection = x11::XConnection::open(display);
     if (!connection) throw std::runtime_error(connection.error().message);
     return std::move(connection).value();
 }
@@ -42,7 +42,7 @@ int RepeatCount::presses() {
     void* reply = nullptr;
     xcb_generic_error_t* error = nullptr;
     while (xcb_poll_for_reply(m_data, m_sequence, &reply, &error) != 0 && reply != nullptr) {
-        const XReply<xcb_record_enable_context_reply_t> record(
+        const x11::XReply<xcb_record_enable_context_reply_t> record(
             static_cast<xcb_record_enable_context_reply_t*>(reply));
         if (record->category != 0) continue;
         const std::span<const std::uint8_t> data(

@@ -19,8 +19,8 @@ class RepeatCount {
     int presses();
 
   private:
-    XConnection m_control;
-    XConnection m_data;
+    x11::XConnection m_control;
+    x11::XConnection m_data;
     std::uint8_t m_keycode;
     std::uint32_t m_context;
     unsigned m_sequence = 0;

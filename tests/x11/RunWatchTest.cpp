@@ -30,7 +30,7 @@ class RunWatchTest : public testing::Test {
     using Log = std::vector<std::string>;
 
     explicit RunWatchTest(const std::vector<std::string>& options = {}) : m_servers(options) {
-        auto manager = X11EventManager::open(m_clock, m_servers.display());
+        auto manager = x11::X11EventManager::open(m_clock, m_servers.display());
         EXPECT_TRUE(manager);
         m_manager = std::move(manager).value();
         EXPECT_TRUE(m_manager->install([this](const KeyEvent& event) { note(wordsFor(event)); }));
@@ -44,7 +44,7 @@ class RunWatchTest : public testing::Test {
     }
 
     RunWatch& watch() { return m_manager->runWatch(); }
-    X11EventManager& manager() { return *m_manager; }
+    x11::X11EventManager& manager() { return *m_manager; }
     StandingClock& clock() { return m_clock; }
     const Hands& user() const { return m_servers.user(); }
     const Hands& program() const { return m_servers.program(); }
@@ -86,7 +86,7 @@ class RunWatchTest : public testing::Test {
 
     NestedServers m_servers;
     StandingClock m_clock;
-    std::unique_ptr<X11EventManager> m_manager;
+    std::unique_ptr<x11::X11EventManager> m_manager;
     Log m_log;
 };
 

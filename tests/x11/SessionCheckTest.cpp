@@ -18,7 +18,7 @@ std::vector<std::string> serverWithout(const std::string& extension) {
 
 TEST(X11SessionCheckTest, isContentWithAWholeServer) {
     const XServer server(plainServer);
-    const X11SessionCheck check({server.display(), ""});
+    const x11::X11SessionCheck check({server.display(), ""});
     EXPECT_TRUE(check.version());
     EXPECT_TRUE(check.access());
     EXPECT_FALSE(check.seesOnlySomeWindows());
@@ -26,20 +26,20 @@ TEST(X11SessionCheckTest, isContentWithAWholeServer) {
 
 TEST(X11SessionCheckTest, namesTheExtensionThatAccessLacks) {
     const XServer server(serverWithout("XTEST"));
-    const X11SessionCheck check({server.display(), ""});
+    const x11::X11SessionCheck check({server.display(), ""});
     EXPECT_TRUE(check.version());
     EXPECT_EQ(check.access().error().message, "The X server must have the XTEST extension, but it has not.");
 }
 
 TEST(X11SessionCheckTest, namesTheKindOfSessionThatItFound) {
-    EXPECT_EQ(X11SessionCheck({"", ""}).version().error().message,
+    EXPECT_EQ(x11::X11SessionCheck({"", ""}).version().error().message,
               "An X11 session is needed, and this is no desktop session.");
-    EXPECT_EQ(X11SessionCheck({"", "wayland-0"}).version().error().message,
+    EXPECT_EQ(x11::X11SessionCheck({"", "wayland-0"}).version().error().message,
               "An X11 session is needed, and this is a Wayland session without an X server.");
 }
 
 TEST(X11SessionCheckTest, namesTheDisplayThatIsNotThere) {
-    const X11SessionCheck check({":9999", ""});
+    const x11::X11SessionCheck check({":9999", ""});
     const std::string message = "The X server of display \":9999\" cannot be reached.";
     EXPECT_EQ(check.version().error().message, message);
     EXPECT_EQ(check.access().error().message, message);
@@ -48,7 +48,7 @@ TEST(X11SessionCheckTest, namesTheDisplayThatIsNotThere) {
 
 TEST(X11SessionCheckTest, seesOnlySomeWindowsWithinWayland) {
     const XServer server(plainServer);
-    EXPECT_TRUE(X11SessionCheck({server.display(), "wayland-0"}).seesOnlySomeWindows());
+    EXPECT_TRUE(x11::X11SessionCheck({server.display(), "wayland-0"}).seesOnlySomeWindows());
 }
 
 }  // namespace

@@ -324,10 +324,10 @@ TEST(InjectorStartTest, aServerWithoutXtestIsAnErrorWithAHint) {
     const XServer server(
         {"Xvfb", "-screen", "0", "640x480x24", "-nolisten", "tcp", "-noreset", "-extension", "XTEST"});
     SteadyClock clock;
-    const auto manager = X11EventManager::open(clock, server.display());
+    const auto manager = x11::X11EventManager::open(clock, server.display());
     ASSERT_TRUE(manager);
-    X11KeyInjector injector(manager.value()->runWatch(), clock,
-                            {.display = server.display(), .guard = KEYRILL_GUARD, .runtimeFolder = {}});
+    x11::X11KeyInjector injector(manager.value()->runWatch(), clock,
+                                 {.display = server.display(), .guard = KEYRILL_GUARD, .runtimeFolder = {}});
     const auto session = injector.open({});
     ASSERT_FALSE(session);
     EXPECT_EQ(session.error().message, "The X server has no XTEST, so that no keys can be pressed here.");
@@ -335,8 +335,8 @@ TEST(InjectorStartTest, aServerWithoutXtestIsAnErrorWithAHint) {
 }
 
 TEST_F(StrokeTest, nothingIsPlayedWithoutAGuard) {
-    X11KeyInjector injector(program().manager().runWatch(), program().clock(),
-                            {.display = display(), .guard = "/nonexistent/guard", .runtimeFolder = {}});
+    x11::X11KeyInjector injector(program().manager().runWatch(), program().clock(),
+                                 {.display = display(), .guard = "/nonexistent/guard", .runtimeFolder = {}});
     auto session = injector.open({});
     ASSERT_TRUE(session);
     EXPECT_EQ(wordsOf(session.value()->stroke(key::a, 0)),

@@ -32,7 +32,7 @@ std::uint8_t keycodeFor(std::uint32_t keyCode) {
 
 X11World::X11World() : m_hands(m_server.display()) {
     outputOf({"xset", "r", "rate", "150", "50"}, {{"DISPLAY", display()}});
-    auto manager = X11EventManager::open(m_clock, display());
+    auto manager = x11::X11EventManager::open(m_clock, display());
     if (!manager) throw std::runtime_error(manager.error().message);
     m_manager = std::move(manager).value();
 }

@@ -21,7 +21,7 @@ class X11World final : public KeyboardWorld {
 
     EventMonitor& monitor() override { return *m_manager; }
     HotKeys& hotKeys() override { return *m_manager; }
-    X11EventManager& manager() { return *m_manager; }
+    x11::X11EventManager& manager() { return *m_manager; }
     const Hands& hands() const { return m_hands; }
     const std::string& display() const { return m_server.display(); }
     const XServer& server() const { return m_server; }
@@ -40,7 +40,7 @@ class X11World final : public KeyboardWorld {
     XServer m_server;
     Hands m_hands;
     SteadyClock m_clock;
-    std::unique_ptr<X11EventManager> m_manager;
+    std::unique_ptr<x11::X11EventManager> m_manager;
     std::set<std::uint32_t> m_down;
     std::vector<std::unique_ptr<CoreClient>> m_others;
 };

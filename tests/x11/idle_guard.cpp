@@ -10,7 +10,8 @@
 #include "platform/x11/guard/GuardMessage.h"
 
 int main() {
-    if (send(STDIN_FILENO, &guardReady, sizeof guardReady, MSG_NOSIGNAL) != sizeof guardReady) return 1;
+    if (send(STDIN_FILENO, &x11::guardReady, sizeof x11::guardReady, MSG_NOSIGNAL) != sizeof x11::guardReady)
+        return 1;
     std::array<char, 64> message{};
     while (recv(STDIN_FILENO, message.data(), message.size(), 0) > 0) continue;
 }

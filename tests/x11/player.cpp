@@ -28,7 +28,7 @@ namespace {
 constexpr double gap = 0.0001;
 
 // What the handler of a signal can reach.
-X11KeyInjector* playing = nullptr;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+x11::X11KeyInjector* playing = nullptr;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 void handle(int /*signal*/) { playing->interrupt(); }
 
@@ -85,10 +85,10 @@ void hold(InjectionSession& session) {
 int play(const std::string& display, const std::string& folder, std::string_view how,
          const std::string& guard) {
     SteadyClock clock;
-    const auto manager = X11EventManager::open(clock, display);
+    const auto manager = x11::X11EventManager::open(clock, display);
     if (!manager) return 1;
-    X11KeyInjector injector(manager.value()->runWatch(), clock,
-                            {.display = display, .guard = guard, .runtimeFolder = folder});
+    x11::X11KeyInjector injector(manager.value()->runWatch(), clock,
+                                 {.display = display, .guard = guard, .runtimeFolder = folder});
     playing = &injector;
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) std::signal(number, handle);
     const auto started = injector.start();

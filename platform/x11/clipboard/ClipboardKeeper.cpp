@@ -14,6 +14,8 @@
 
 #include "platform/x11/clipboard/SelectionOwner.h"
 
+namespace x11 {
+
 namespace {
 
 constexpr int longestStart = 2000;  // milliseconds
@@ -90,3 +92,5 @@ void keepInBackground(const std::string& display, const std::string& text, xcb_t
     close(ends[0]);
     while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) continue;
 }
+
+}  // namespace x11

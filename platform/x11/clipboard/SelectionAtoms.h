@@ -3,6 +3,8 @@
 
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 /// The names of the selection CLIPBOARD (ICCCM 2, section 2; Clipboard Manager standard 0.1).
 struct SelectionAtoms {
     explicit SelectionAtoms(const XConnection& connection)
@@ -35,3 +37,5 @@ struct SelectionAtoms {
     /// Where answers to our own questions are put.
     xcb_atom_t answer;
 };
+
+}  // namespace x11

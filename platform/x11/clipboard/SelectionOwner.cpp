@@ -7,6 +7,8 @@
 
 #include "platform/Utf8.h"
 
+namespace x11 {
+
 namespace {
 
 /// Far below what any server takes in one request.
@@ -191,3 +193,5 @@ void SelectionOwner::ignore(xcb_window_t requestor) {
     const std::uint32_t mask = XCB_EVENT_MASK_NO_EVENT;
     if (!isNeeded) xcb_change_window_attributes(m_connection, requestor, XCB_CW_EVENT_MASK, &mask);
 }
+
+}  // namespace x11

@@ -8,6 +8,8 @@
 
 #include "platform/x11/clipboard/SelectionAtoms.h"
 
+namespace x11 {
+
 /// Owns the selection CLIPBOARD and gives its text to whoever asks, in the forms of ICCCM 2, section 2.6.2,
 /// and as UTF-8. A long text goes piece by piece (section 2.7.2), so that no server's longest request bounds
 /// it.
@@ -63,3 +65,5 @@ class SelectionOwner {
     bool m_isOwner = false;
     std::vector<Transfer> m_transfers;
 };
+
+}  // namespace x11

@@ -9,6 +9,8 @@
 #include "platform/Utf8.h"
 #include "platform/x11/clipboard/SelectionOwner.h"
 
+namespace x11 {
+
 namespace {
 
 constexpr std::chrono::milliseconds longestSilence{1000};
@@ -144,3 +146,5 @@ SelectionReader::Piece SelectionReader::take() const {
     return {reply->type,
             std::string(bytes, static_cast<std::size_t>(xcb_get_property_value_length(reply.get())))};
 }
+
+}  // namespace x11

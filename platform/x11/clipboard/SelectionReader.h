@@ -9,6 +9,8 @@
 #include "platform/Result.h"
 #include "platform/x11/clipboard/SelectionAtoms.h"
 
+namespace x11 {
+
 /// Asks other clients about the selection CLIPBOARD (ICCCM 2, section 2.4), also for texts that come piece by
 /// piece. Nobody is waited for longer than a second without a sign of life.
 class SelectionReader {
@@ -55,3 +57,5 @@ class SelectionReader {
     SelectionAtoms m_atoms;
     xcb_window_t m_window;
 };
+
+}  // namespace x11

@@ -17,6 +17,8 @@
 #include "platform/x11/clipboard/SelectionOwner.h"
 #include "platform/x11/clipboard/SelectionReader.h"
 
+namespace x11 {
+
 namespace {
 constexpr std::chrono::seconds longestFetch{2};
 constexpr std::chrono::milliseconds betweenLooks{2};
@@ -130,3 +132,5 @@ void X11Clipboard::leave() {
         std::this_thread::sleep_for(betweenLooks);
     }
 }
+
+}  // namespace x11

@@ -7,6 +7,8 @@
 
 #include "platform/Result.h"
 
+namespace x11 {
+
 /// The selection CLIPBOARD (ICCCM 2, section 2), owned by a window of ours and served by a thread of its own,
 /// so that a paste finds it while a script runs and as long as the process lives.
 ///
@@ -41,3 +43,5 @@ class X11Clipboard {
     std::string m_display;
     std::unique_ptr<Parts> m_parts;
 };
+
+}  // namespace x11

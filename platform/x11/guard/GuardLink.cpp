@@ -13,6 +13,8 @@
 #include <filesystem>
 #include <utility>
 
+namespace x11 {
+
 namespace {
 
 constexpr const char* guardName = "keyrill-guard";
@@ -139,3 +141,5 @@ void GuardLink::end() {
     kill(process, SIGKILL);
     waitpid(process, nullptr, 0);
 }
+
+}  // namespace x11

@@ -9,6 +9,8 @@
 #include "platform/Result.h"
 #include "platform/x11/guard/GuardMessage.h"
 
+namespace x11 {
+
 /// The guard program, and the line to it whose end it acts on. One guard serves all runs of a process.
 class GuardLink {
   public:
@@ -36,3 +38,5 @@ class GuardLink {
     pid_t m_process = -1;
     std::optional<GuardMessage> m_told;
 };
+
+}  // namespace x11

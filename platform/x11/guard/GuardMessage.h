@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+namespace x11 {
+
 /// What the injector tells its guard, one packet each. Both are built together and run on one machine, so
 /// that the record goes over as it lies in memory.
 struct GuardMessage {
@@ -21,3 +23,5 @@ struct GuardMessage {
 
 /// What the guard says once when it can do its work.
 inline constexpr char guardReady = 'r';
+
+}  // namespace x11

@@ -10,6 +10,8 @@
 #include <filesystem>
 #include <utility>
 
+namespace x11 {
+
 namespace {
 
 constexpr int maxTries = 100;
@@ -62,3 +64,5 @@ bool PlayingMark::takeStale() {
     close(descriptor);
     return isStale;
 }
+
+}  // namespace x11

@@ -3,6 +3,8 @@
 
 #include <string>
 
+namespace x11 {
+
 /// A file that stands, locked, while keys are being pressed. One that stands and is not locked tells the next
 /// start that both the player and its guard died in a run.
 class PlayingMark {
@@ -32,3 +34,5 @@ class PlayingMark {
     std::string m_file;
     int m_descriptor = -1;
 };
+
+}  // namespace x11

@@ -41,18 +41,18 @@ void standAside() {
 bool startExtensions(xcb_connection_t* connection) {
     const auto* test = xcb_get_extension_data(connection, &xcb_test_id);
     if (test == nullptr || test->present == 0) return false;
-    const XReply<xcb_xkb_use_extension_reply_t> keyboard(
+    const x11::XReply<xcb_xkb_use_extension_reply_t> keyboard(
         xcb_xkb_use_extension_reply(connection, xcb_xkb_use_extension(connection, 1, 0), nullptr));
-    const XReply<xcb_input_xi_query_version_reply_t> input(
+    const x11::XReply<xcb_input_xi_query_version_reply_t> input(
         xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
     return keyboard && keyboard->supported != 0 && input;
 }
 
 /// The player's last word before its end.
-GuardMessage listen() {
-    GuardMessage last;
+x11::GuardMessage listen() {
+    x11::GuardMessage last;
     for (;;) {
-        GuardMessage message;
+        x11::GuardMessage message;
         const ssize_t size = recv(STDIN_FILENO, &message, sizeof message, 0);
         if (size == static_cast<ssize_t>(sizeof message)) last = message;
         if (size == 0 || (size < 0 && errno != EINTR)) return last;
@@ -60,7 +60,7 @@ GuardMessage listen() {
 }
 
 /// `mark` is locked while there is work, so that the next player waits; this process's end unlocks it.
-void cleanUp(xcb_connection_t* connection, const GuardMessage& last, int mark) {
+void cleanUp(xcb_connection_t* connection, const x11::GuardMessage& last, int mark) {
     bool isLocked = false;
     for (int round = 0; round < rounds; ++round) {
         if (round > 0) std::this_thread::sleep_for(betweenRounds);
@@ -68,7 +68,7 @@ void cleanUp(xcb_connection_t* connection, const GuardMessage& last, int mark) {
         isLocked = isLocked || flock(mark, LOCK_EX | LOCK_NB) == 0;
         xcb_xkb_latch_lock_state(connection, XCB_XKB_ID_USE_CORE_KBD, allModifiers, last.lockedModifiers, 1,
                                  last.lockedGroup, 0, 0, 0);
-        releaseXtestKeys(connection);
+        x11::releaseXtestKeys(connection);
     }
 }
 
@@ -81,11 +81,12 @@ int main(int count, char** values) {
         return 2;
     }
     standAside();
-    const auto connection = XConnection::open(arguments[1]);
+    const auto connection = x11::XConnection::open(arguments[1]);
     if (!connection || !startExtensions(connection.value())) return 1;
-    if (send(STDIN_FILENO, &guardReady, sizeof guardReady, MSG_NOSIGNAL) != sizeof guardReady) return 1;
-    const GuardMessage last = listen();
-    if (last.kind != GuardMessage::Kind::running) return 0;
+    if (send(STDIN_FILENO, &x11::guardReady, sizeof x11::guardReady, MSG_NOSIGNAL) != sizeof x11::guardReady)
+        return 1;
+    const x11::GuardMessage last = listen();
+    if (last.kind != x11::GuardMessage::Kind::running) return 0;
     const int mark = open(arguments[2], O_RDWR | O_CLOEXEC | O_NOFOLLOW);
     cleanUp(connection.value(), last, mark);
     if (mark >= 0) unlink(arguments[2]);

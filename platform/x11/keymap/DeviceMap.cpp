@@ -10,6 +10,8 @@
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/server/XcbXkb.h"
 
+namespace x11 {
+
 namespace {
 
 constexpr std::uint16_t typesAndSymbols = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS;
@@ -207,3 +209,5 @@ std::optional<std::uint8_t> fourLevelType(const DeviceMap& map, std::uint8_t lev
     if (place == map.types.end()) return std::nullopt;
     return static_cast<std::uint8_t>(place - map.types.begin());
 }
+
+}  // namespace x11

@@ -11,6 +11,8 @@
 
 #include "platform/keymap/ModifierKeys.h"
 
+namespace x11 {
+
 /// A key type of an XKB map: which modifiers select which level.
 struct KeyType {
     struct Entry {
@@ -66,3 +68,5 @@ ModifierMasks readModifierMasks(xcb_connection_t* connection);
 /// The type that selects level 1 by Shift, level 2 by the third-level chooser and level 3 by both; empty if
 /// there is none.
 std::optional<std::uint8_t> fourLevelType(const DeviceMap& map, std::uint8_t levelThree);
+
+}  // namespace x11

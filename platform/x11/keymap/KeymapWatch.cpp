@@ -8,6 +8,8 @@
 
 #include "platform/x11/server/XcbXkb.h"
 
+namespace x11 {
+
 namespace {
 
 constexpr std::uint16_t watchedEvents =
@@ -95,3 +97,5 @@ std::vector<SlaveKeyboard> KeymapWatch::slaves() const {
                     keyboards.end());
     return keyboards;
 }
+
+}  // namespace x11

@@ -10,6 +10,8 @@
 #include "platform/x11/server/SlaveKeyboards.h"
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 /// The keymap of the core keyboard, kept up with its changes, and the connection on which it is read.
 ///
 /// The server tells of a new keymap each time that another keyboard speaks, mostly with nothing new in it;
@@ -49,3 +51,5 @@ class KeymapWatch {
     std::vector<std::byte> m_actions;
     std::unique_ptr<InjectorKeymap> m_keymap;
 };
+
+}  // namespace x11

@@ -5,6 +5,8 @@
 
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 Result<std::unique_ptr<Keymap>> keymapOfServer(const XConnection& connection) {
     const XkbHandle<xkb_context> context(xkb_context_new(XKB_CONTEXT_NO_DEFAULT_INCLUDES));
     const Error unreadable{"The keymap of the X server cannot be read.",
@@ -18,3 +20,5 @@ Result<std::unique_ptr<Keymap>> keymapOfServer(const XConnection& connection) {
     if (!keymap) return unreadable;
     return std::make_unique<Keymap>(std::move(keymap));
 }
+
+}  // namespace x11

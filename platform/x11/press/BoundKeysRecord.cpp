@@ -3,6 +3,8 @@
 
 #include <span>
 
+namespace x11 {
+
 namespace {
 
 constexpr const char* name = "_KEYRILL_BOUND_KEYS";
@@ -62,3 +64,5 @@ void BoundKeysRecord::write(const std::vector<BoundKey>& keys) const {
     }
     m_connection.roundTrip();
 }
+
+}  // namespace x11

@@ -5,6 +5,8 @@
 
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 /// A symbol on a level of a key.
 struct BoundKey {
     std::uint8_t keycode = 0;
@@ -35,3 +37,5 @@ class BoundKeysRecord {
     xcb_atom_t m_atom;
     xcb_window_t m_window;
 };
+
+}  // namespace x11

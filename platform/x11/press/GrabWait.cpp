@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/press/GrabWait.h"
 
+namespace x11 {
+
 namespace {
 
 constexpr std::chrono::milliseconds limit{500};
@@ -38,3 +40,5 @@ Result<RunState> GrabWait::untilFree(RunWaiter& waiter) const {
     }
     return RunState::going;
 }
+
+}  // namespace x11

@@ -4,6 +4,8 @@
 #include "platform/run/RunWaiter.h"
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 /// Finds out whether another client holds the keyboard, and waits until it does not.
 ///
 /// The question is a grab of a window that is never mapped. It is refused either way: as already grabbed, or
@@ -22,3 +24,5 @@ class GrabWait {
     const Clock& m_clock;
     xcb_window_t m_window;
 };
+
+}  // namespace x11

@@ -3,6 +3,8 @@
 
 #include <utility>
 
+namespace x11 {
+
 namespace {
 
 constexpr std::uint8_t allModifiers = 0xFF;
@@ -140,3 +142,5 @@ KeycodeSet HandsAndLocks::keysDown(const KeymapWatch& keymap) const {
     for (const SlaveKeyboard& keyboard : keymap.slaves()) down |= keysDownOn(m_connection.get(), keyboard);
     return down;
 }
+
+}  // namespace x11

@@ -5,6 +5,8 @@
 #include "platform/x11/keymap/KeymapWatch.h"
 #include "platform/x11/press/InjectionConnection.h"
 
+namespace x11 {
+
 /// Keeps what the user's hands and the locks do away from the strokes of one run.
 ///
 /// - At the start every key that is down on a keyboard is released by XTEST; locks except Num Lock are
@@ -49,3 +51,5 @@ class HandsAndLocks {
     std::uint8_t m_current = 0;
     std::uint8_t m_afterwards = 0;
 };
+
+}  // namespace x11

@@ -6,6 +6,8 @@
 
 #include "platform/x11/server/XcbXkb.h"
 
+namespace x11 {
+
 namespace {
 
 bool hasExtension(xcb_connection_t* connection, xcb_extension_t* extension) {
@@ -88,3 +90,5 @@ Result<InputState> InjectionConnection::synchronise() {
                       .lockedGroup = static_cast<std::uint8_t>(reply->lockedGroup),
                       .hasOtherGroup = reply->baseGroup != 0 || reply->latchedGroup != 0};
 }
+
+}  // namespace x11

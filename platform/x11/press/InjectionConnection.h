@@ -5,6 +5,8 @@
 #include "platform/x11/press/InputState.h"
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 /// The connection on which keys are pressed.
 ///
 /// Why it is one of its own and selects no events: a server that finds this client dead while it writes it an
@@ -50,3 +52,5 @@ class InjectionConnection {
     RunWatch* m_watch;
     std::size_t m_queued = 0;
 };
+
+}  // namespace x11

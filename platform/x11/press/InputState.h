@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+namespace x11 {
+
 /// The core keyboard's state at one moment: modifier bits by where they come from, and groups.
 struct InputState {
     std::uint8_t base = 0;
@@ -14,3 +16,5 @@ struct InputState {
 
     friend bool operator==(const InputState&, const InputState&) = default;
 };
+
+}  // namespace x11

@@ -5,6 +5,8 @@
 
 #include "platform/x11/server/XcbXkb.h"
 
+namespace x11 {
+
 namespace {
 
 /// A type that every XKB map has at this place: Shift selects its second level.
@@ -239,3 +241,5 @@ void KeyBinder::takeBack() {
                  record.end());
     m_record.write(record);
 }
+
+}  // namespace x11

@@ -7,6 +7,8 @@
 #include "platform/x11/press/SpareSlots.h"
 #include "platform/x11/windows/Receivers.h"
 
+namespace x11 {
+
 /// Puts characters that no layout types on unused keys of the keymap.
 ///
 /// All that are wanted are bound in one request, since each change of the keymap makes every program read it
@@ -62,3 +64,5 @@ class KeyBinder {
     SpareSlots m_slots;
     std::uint8_t m_levels = 0;
 };
+
+}  // namespace x11

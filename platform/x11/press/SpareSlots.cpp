@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+namespace x11 {
+
 void SpareSlots::reset(const std::vector<std::uint8_t>& keycodes, std::uint8_t levels) {
     m_entries.clear();
     m_index.clear();
@@ -80,3 +82,5 @@ void SpareSlots::apply(const Plan& plan) {
         m_index[binding.character] = static_cast<std::size_t>(entry - m_entries.begin());
     }
 }
+
+}  // namespace x11

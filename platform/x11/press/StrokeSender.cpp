@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <bit>
 
+namespace x11 {
+
 namespace {
 
 std::uint8_t modifiersHeldBy(const ModifierKeys& keys, const KeycodeSet& held) {
@@ -85,3 +87,5 @@ void StrokeSender::resetLocks(const Stroke& stroke) {
     const auto change = static_cast<std::uint8_t>((m_locked ^ stroke.lockValues) & stroke.lockMask);
     if (change != 0) m_connection.lockModifiers(change, m_locked);
 }
+
+}  // namespace x11

@@ -4,6 +4,8 @@
 #include "platform/keymap/InjectorKeymap.h"
 #include "platform/x11/press/InjectionConnection.h"
 
+namespace x11 {
+
 /// Turns strokes into key events, locks and groups around them included.
 class StrokeSender {
   public:
@@ -37,3 +39,5 @@ class StrokeSender {
     std::uint8_t m_homeGroup = 0;
     std::uint8_t m_group = 0;
 };
+
+}  // namespace x11

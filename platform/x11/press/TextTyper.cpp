@@ -6,6 +6,8 @@
 #include "platform/keymap/Bindable.h"
 #include "platform/run/TextPlan.h"
 
+namespace x11 {
+
 std::optional<Stroke> TextTyper::find(char32_t character, std::uint8_t group) const {
     if (auto stroke = m_keymap.keymap().characters().find(character, group)) return stroke;
     return m_binder.find(character);
@@ -115,3 +117,5 @@ Result<RunState> TextTyper::typePart(std::span<const char32_t> characters, const
     }
     return RunState::going;
 }
+
+}  // namespace x11

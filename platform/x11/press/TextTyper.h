@@ -9,6 +9,8 @@
 #include "platform/x11/press/KeyBinder.h"
 #include "platform/x11/press/StrokeSender.h"
 
+namespace x11 {
+
 /// Types texts: what the current layout has by its keys, what another layout has with its group locked, all
 /// else by keys that are bound to it. Up to InjectionConnection::capacity bytes go between two round trips.
 class TextTyper {
@@ -47,3 +49,5 @@ class TextTyper {
     StrokeSender& m_sender;
     RunWaiter& m_waiter;
 };
+
+}  // namespace x11

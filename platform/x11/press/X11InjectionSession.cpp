@@ -6,6 +6,8 @@
 #include "platform/Modifiers.h"
 #include "platform/run/TextPlan.h"
 
+namespace x11 {
+
 namespace {
 
 /// What applications need to take in that the user's keys are up.
@@ -271,3 +273,5 @@ KeycodeSet X11InjectionSession::heldKeys() const {
 Result<RunState> X11InjectionSession::pause(double seconds) {
     return step([&]() -> Result<RunState> { return m_pacer.pause(seconds); });
 }
+
+}  // namespace x11

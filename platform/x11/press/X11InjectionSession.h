@@ -8,6 +8,8 @@
 #include "platform/x11/press/GrabWait.h"
 #include "platform/x11/press/TextTyper.h"
 
+namespace x11 {
+
 /// What lasts from run to run, as a session uses it.
 struct InjectionTools {
     RunWatch& watch;
@@ -83,3 +85,5 @@ class X11InjectionSession final : public InjectionSession {
     bool m_isPrepared = false;
     std::optional<Result<RunState>> m_end;
 };
+
+}  // namespace x11

@@ -5,6 +5,8 @@
 
 #include "platform/x11/press/X11InjectionSession.h"
 
+namespace x11 {
+
 namespace {
 
 std::string environment(const char* name) {
@@ -105,3 +107,5 @@ void X11KeyInjector::rest() {
 }
 
 void X11KeyInjector::interrupt() noexcept { m_parts->interrupt.raise(); }
+
+}  // namespace x11

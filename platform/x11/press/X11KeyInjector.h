@@ -9,6 +9,8 @@
 class Clock;
 class RunWatch;
 
+namespace x11 {
+
 /// Presses keys on an X11 display through XTEST.
 ///
 /// A run releases the keys that the user holds, clears the locks that would change what arrives, and puts the
@@ -58,3 +60,5 @@ class X11KeyInjector final : public KeyInjector {
     Options m_options;
     std::unique_ptr<Parts> m_parts;
 };
+
+}  // namespace x11

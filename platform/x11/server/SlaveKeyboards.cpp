@@ -8,6 +8,8 @@
 
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 namespace {
 
 /// The driver's own mark; the devices' names are not fixed.
@@ -85,3 +87,5 @@ int releaseXtestKeys(xcb_connection_t* connection) {
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
     return released;
 }
+
+}  // namespace x11

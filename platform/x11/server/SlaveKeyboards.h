@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace x11 {
+
 /// One keyboard below a master keyboard: a real one, or the one through which XTEST speaks.
 struct SlaveKeyboard {
     std::uint16_t device = 0;
@@ -24,3 +26,5 @@ std::bitset<256> keysDownOn(xcb_connection_t* connection, const SlaveKeyboard& k
 /// Releases what the XTEST keyboards hold down, and nothing else, and waits until it is done. The number of
 /// keys released.
 int releaseXtestKeys(xcb_connection_t* connection);
+
+}  // namespace x11

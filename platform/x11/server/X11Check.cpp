@@ -7,6 +7,8 @@
 
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 namespace {
 
 const char* const hint = "Use a newer X server, or switch the extension on in its settings.";
@@ -54,3 +56,5 @@ Result<void> checkX11Access(const std::string& display) {
     Result<void> events = checkKeyEventAccess(connection.value());
     return events ? checkXTest(connection.value()) : events;
 }
+
+}  // namespace x11

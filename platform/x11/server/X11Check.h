@@ -5,6 +5,8 @@
 
 #include "platform/Result.h"
 
+namespace x11 {
+
 class XConnection;
 
 /// Whether the X server of `display` ($DISPLAY if empty) lets this program see and press keys: XInput 2.2,
@@ -21,3 +23,5 @@ Result<void> checkXInput(const XConnection& connection);
 Result<void> checkXkb(const XConnection& connection);
 /// Whether there is XTEST.
 Result<void> checkXTest(const XConnection& connection);
+
+}  // namespace x11

@@ -6,6 +6,8 @@
 #include "platform/x11/server/X11Check.h"
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 namespace {
 
 std::string environment(const char* name) {
@@ -50,3 +52,5 @@ bool X11SessionCheck::seesOnlySomeWindows() const {
     const Result<XConnection> connection = XConnection::open(m_session.display);
     return connection && isWithinWayland(connection.value());
 }
+
+}  // namespace x11

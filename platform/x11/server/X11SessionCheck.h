@@ -5,6 +5,8 @@
 
 #include "platform/SessionCheck.h"
 
+namespace x11 {
+
 /// An X11 session, by its server's extensions. Each question opens a connection of its own.
 class X11SessionCheck : public SessionCheck {
   public:
@@ -29,3 +31,5 @@ class X11SessionCheck : public SessionCheck {
   private:
     Session m_session;
 };
+
+}  // namespace x11

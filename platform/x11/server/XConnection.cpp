@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 namespace {
 
 std::string displayName(const std::string& display) {
@@ -38,3 +40,5 @@ xcb_atom_t XConnection::atom(const std::string& name) const {
         xcb_intern_atom_reply(get(), xcb_intern_atom(get(), 0, length, name.c_str()), nullptr));
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
+
+}  // namespace x11

@@ -9,6 +9,8 @@
 
 #include "platform/Result.h"
 
+namespace x11 {
+
 /// Frees what xcb allocated with malloc: replies, events, errors.
 struct XFree {
     void operator()(void* memory) const { std::free(memory); }
@@ -50,3 +52,5 @@ class XConnection {
     Handle m_connection;
     xcb_window_t m_root;
 };
+
+}  // namespace x11

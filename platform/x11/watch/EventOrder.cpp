@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+namespace x11 {
+
 EventOrder::EventOrder(const Streams& streams, const Rules& rules, KeyInterpreter& interpreter,
                        std::function<void()> keymapTouched)
     : m_streams(streams),
@@ -174,3 +176,5 @@ void EventOrder::deliverRepeats(const std::vector<KeyRepeat>& repeats) {
 void EventOrder::noteHotKey(HotKeyId id) {
     if (!m_muted && m_rules.hotKeys.cancelsPlayback(id)) m_rules.cancel.cancel();
 }
+
+}  // namespace x11

@@ -11,6 +11,8 @@
 #include "platform/x11/watch/RawKeySource.h"
 #include "platform/x11/watch/RepeatSource.h"
 
+namespace x11 {
+
 /// Makes one order of what comes on the three connections, that of the server, and has it interpreted.
 ///
 /// The raw events set the order: each has its place in it. A hot key is a raw press that the grabbing
@@ -71,3 +73,5 @@ class EventOrder {
     std::map<std::uint8_t, ServerTime> m_hotKeyReleases;
     bool m_muted = false;
 };
+
+}  // namespace x11

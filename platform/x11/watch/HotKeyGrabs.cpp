@@ -6,6 +6,8 @@
 #include "platform/x11/server/X11Check.h"
 #include "platform/x11/server/XcbXkb.h"
 
+namespace x11 {
+
 namespace {
 
 constexpr std::uint16_t allModifiers = 0xFF;
@@ -98,3 +100,5 @@ bool HotKeyGrabs::hasKeycode(unsigned keycode) const {
     const xcb_setup_t* setup = xcb_get_setup(m_connection);
     return keycode >= setup->min_keycode && keycode <= setup->max_keycode;
 }
+
+}  // namespace x11

@@ -11,6 +11,8 @@
 #include "platform/monitor/MonitorEvents.h"
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 /// A combination as the server takes it.
 struct KeyGrab {
     std::uint8_t keycode = 0;
@@ -64,3 +66,5 @@ class HotKeyGrabs {
     std::deque<GrabbedPress> m_presses;
     std::uint64_t m_lastNumber = 0;
 };
+
+}  // namespace x11

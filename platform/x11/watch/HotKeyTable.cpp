@@ -7,6 +7,8 @@
 #include "platform/Modifiers.h"
 #include "platform/keymap/KeyLabels.h"
 
+namespace x11 {
+
 namespace {
 
 constexpr unsigned evdevOffset = 8;
@@ -159,3 +161,5 @@ std::string HotKeyTable::combinationText(const HotKeyRequest& request) const {
     if ((request.modifiers & modifier::command) != 0) text += "Super+";
     return text + keyLabel(m_keyboard.keymap(), m_keyboard.layout(), request.keyCode);
 }
+
+}  // namespace x11

@@ -10,6 +10,8 @@
 #include "platform/keymap/KeyboardState.h"
 #include "platform/x11/watch/HotKeyGrabs.h"
 
+namespace x11 {
+
 /// Which hot key has which combination, what became of each request, and the grabs that follow from it.
 class HotKeyTable {
   public:
@@ -58,3 +60,5 @@ class HotKeyTable {
     std::map<HotKeyId, Row> m_rows;
     std::optional<HotKeyId> m_lifted;
 };
+
+}  // namespace x11

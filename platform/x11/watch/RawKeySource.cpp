@@ -7,6 +7,8 @@
 #include "platform/x11/server/X11Check.h"
 #include "platform/x11/server/XcbXkb.h"
 
+namespace x11 {
+
 namespace {
 
 constexpr std::uint16_t watchedKeyboardEvents =
@@ -167,3 +169,5 @@ bool RawKeySource::isSynthetic(std::uint16_t source) {
     m_synthetic.emplace(source, synthetic);
     return synthetic;
 }
+
+}  // namespace x11

@@ -11,6 +11,8 @@
 #include "platform/x11/keymap/ServerKeymap.h"
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 /// The connection that watches: the keys of all keyboards (XInput 2.2 raw events, which no grab of another
 /// program hides) and the state and the map of the core keyboard (XKB).
 ///
@@ -55,3 +57,5 @@ class RawKeySource {
     std::map<std::uint16_t, bool> m_synthetic;
     std::deque<MonitorEvent> m_events;
 };
+
+}  // namespace x11

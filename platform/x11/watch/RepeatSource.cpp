@@ -8,6 +8,8 @@
 #include <cstring>
 #include <iterator>
 
+namespace x11 {
+
 namespace {
 
 /// Categories of replies (RECORD protocol, RecordEnableContext).
@@ -143,3 +145,5 @@ void RepeatSource::catchUp() {
     m_control.roundTrip();
     read();
 }
+
+}  // namespace x11

@@ -12,6 +12,8 @@
 #include "platform/monitor/MonitorEvents.h"
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 /// A key of the core keyboard goes down again without having gone up.
 struct KeyRepeat {
     std::uint8_t keycode = 0;
@@ -97,3 +99,5 @@ class RepeatSource {
     bool m_paused = false;
     RepeatQueue m_queue;
 };
+
+}  // namespace x11

@@ -8,6 +8,8 @@
 
 #include <cstdint>
 
+namespace x11 {
+
 Wakeups::Wakeups()
     : m_epoll(epoll_create1(EPOLL_CLOEXEC)),
       m_event(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
@@ -57,3 +59,5 @@ bool Wakeups::takeTimer() {
     m_timerRuns = false;
     return true;
 }
+
+}  // namespace x11

@@ -3,6 +3,8 @@
 
 #include <chrono>
 
+namespace x11 {
+
 /// One descriptor for an event loop in place of many: connections, a kick for what is already in memory, and
 /// a timer.
 class Wakeups {
@@ -33,3 +35,5 @@ class Wakeups {
     int m_timer;
     bool m_timerRuns = false;
 };
+
+}  // namespace x11

@@ -3,6 +3,8 @@
 
 #include "platform/x11/watch/X11EventParts.h"
 
+namespace x11 {
+
 Result<std::unique_ptr<X11EventManager>> X11EventManager::open(const Clock& clock,
                                                                const std::string& display) {
     Result<std::unique_ptr<Parts>> parts = Parts::open(clock, display);
@@ -47,3 +49,5 @@ void X11EventManager::withdraw(HotKeyId id) {
 
 HotKeyState X11EventManager::state(HotKeyId id) const { return m_parts->hotKeys().state(id); }
 std::uint32_t X11EventManager::lastPressTime() const { return m_parts->lastPressTime(); }
+
+}  // namespace x11

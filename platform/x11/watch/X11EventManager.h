@@ -14,6 +14,8 @@
 class KeyboardState;
 class RunWatch;
 
+namespace x11 {
+
 /// The keyboard as the X server shows it: the monitor of all key events and the global hot keys.
 ///
 /// Why one object: their order is one, that of server time. The events of the two come on connections of
@@ -67,3 +69,5 @@ class X11EventManager final : public EventMonitor, public HotKeys {
 
     std::unique_ptr<Parts> m_parts;
 };
+
+}  // namespace x11

@@ -3,6 +3,8 @@
 
 #include <chrono>
 
+namespace x11 {
+
 namespace {
 
 constexpr std::chrono::milliseconds keymapDebounce{20};
@@ -199,3 +201,5 @@ void X11EventManager::Parts::deliver(const HotKeyEvent& event) {
     const HotKeys::Handler handler = event.press ? m_pressed : m_released;
     if (handler) handler(event.id);
 }
+
+}  // namespace x11

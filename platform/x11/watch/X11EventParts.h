@@ -11,6 +11,8 @@
 #include "platform/x11/watch/Wakeups.h"
 #include "platform/x11/watch/X11EventManager.h"
 
+namespace x11 {
+
 /// What X11EventManager is made of, joined.
 class X11EventManager::Parts final : public RunWatch {
   public:
@@ -90,3 +92,5 @@ class X11EventManager::Parts final : public RunWatch {
     bool m_dispatching = false;
     bool m_gaveUp = false;
 };
+
+}  // namespace x11

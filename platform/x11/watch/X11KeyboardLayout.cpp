@@ -5,6 +5,8 @@
 #include "platform/keymap/KeyboardState.h"
 #include "platform/x11/watch/X11EventManager.h"
 
+namespace x11 {
+
 std::string X11KeyboardLayout::keyName(std::uint32_t keyCode) const {
     const KeyboardState& keyboard = m_manager.keyboard();
     return keyLabel(keyboard.keymap(), keyboard.layout(), keyCode);
@@ -18,3 +20,5 @@ Result<std::string> X11KeyboardLayout::character(std::uint32_t keyCode, bool shi
     if (!text.empty()) return text;
     return Error{"The key " + keyName(keyCode) + " types no character.", ""};
 }
+
+}  // namespace x11

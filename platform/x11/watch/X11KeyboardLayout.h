@@ -3,6 +3,8 @@
 
 #include "platform/KeyboardLayout.h"
 
+namespace x11 {
+
 class X11EventManager;
 
 /// Names and characters of the keys as the X server's current keymap and group have them.
@@ -17,3 +19,5 @@ class X11KeyboardLayout final : public KeyboardLayout {
   private:
     const X11EventManager& m_manager;
 };
+
+}  // namespace x11

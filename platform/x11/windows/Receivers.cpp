@@ -8,6 +8,8 @@
 #include <string>
 #include <utility>
 
+namespace x11 {
+
 namespace {
 
 constexpr std::chrono::milliseconds betweenLooks{2};
@@ -203,3 +205,5 @@ RunState Receivers::await(RunWait& wait, std::chrono::milliseconds longest) {
     }
     return state;
 }
+
+}  // namespace x11

@@ -12,6 +12,8 @@
 #include "platform/run/RunWait.h"
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 /// The windows that are typed into, and whether their programs have taken in what was typed.
 ///
 /// Why: a program looks a key up when it comes to it, in the keymap that it has by then. On a busy machine
@@ -70,3 +72,5 @@ class Receivers {
     /// What tells this round's answers from older ones.
     std::uint32_t m_stamp = 0;
 };
+
+}  // namespace x11

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/windows/WindowFocus.h"
 
+namespace x11 {
+
 WindowFocus::WindowFocus(const XConnection& connection)
     : m_connection(connection), m_activeWindow(connection.atom("_NET_ACTIVE_WINDOW")) {}
 
@@ -49,3 +51,5 @@ std::uint32_t propertyOf(const XConnection& connection, xcb_window_t window, xcb
     if (!reply || reply->format != 32 || reply->value_len == 0) return 0;
     return *static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
 }
+
+}  // namespace x11

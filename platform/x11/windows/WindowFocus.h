@@ -5,6 +5,8 @@
 
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 /// Which window has the focus, by the server's account and by the window manager's, and how a manager is
 /// asked to give it to another (Extended Window Manager Hints 1.5, _NET_ACTIVE_WINDOW).
 ///
@@ -39,3 +41,5 @@ class WindowFocus {
 /// The first value of a 32-bit property; 0 if there is none.
 std::uint32_t propertyOf(const XConnection& connection, xcb_window_t window, xcb_atom_t name,
                          xcb_atom_t type);
+
+}  // namespace x11

@@ -3,6 +3,8 @@
 
 #include <utility>
 
+namespace x11 {
+
 X11DockingTray::X11DockingTray(XConnection connection)
     : m_connection(std::move(connection)),
       m_selection(m_connection.atom("_NET_SYSTEM_TRAY_S0")),
@@ -52,3 +54,5 @@ bool X11DockingTray::concernsTray(const xcb_generic_event_t& event) const {
             return false;
     }
 }
+
+}  // namespace x11

@@ -4,6 +4,8 @@
 #include "platform/DockingTray.h"
 #include "platform/x11/server/XConnection.h"
 
+namespace x11 {
+
 /// Watches the owner of the selection _NET_SYSTEM_TRAY_S0 (System Tray Protocol 0.4, "Locating the system
 /// tray") on a connection of its own: a new owner announces itself with a MANAGER message to the root window,
 /// the end of one shows as the end of its window.
@@ -29,3 +31,5 @@ class X11DockingTray : public DockingTray {
     xcb_window_t m_owner = XCB_WINDOW_NONE;
     std::function<void()> m_changed;
 };
+
+}  // namespace x11

@@ -10,6 +10,8 @@
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/windows/WindowFocus.h"
 
+namespace x11 {
+
 namespace {
 
 constexpr std::chrono::milliseconds longestWait{500};
@@ -113,3 +115,5 @@ Result<void> X11ScriptDesktop::activate(std::string_view name) {
     while (!isActive() && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
     return {};
 }
+
+}  // namespace x11

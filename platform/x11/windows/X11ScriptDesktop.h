@@ -9,6 +9,8 @@
 
 class Clock;
 
+namespace x11 {
+
 /// The bell, the selection CLIPBOARD, and windows by way of the Extended Window Manager Hints 1.5.
 class X11ScriptDesktop : public ScriptDesktop {
   public:
@@ -39,3 +41,5 @@ class X11ScriptDesktop : public ScriptDesktop {
     X11Clipboard m_clipboard;
     std::unique_ptr<const Server> m_server;
 };
+
+}  // namespace x11

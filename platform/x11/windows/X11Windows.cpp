@@ -5,6 +5,8 @@
 
 #include "platform/Clock.h"
 
+namespace x11 {
+
 namespace {
 constexpr std::chrono::milliseconds longestWait{500};
 constexpr std::chrono::microseconds betweenLooks{500};
@@ -87,3 +89,5 @@ std::uint32_t X11Windows::serverTime() const {
     }
     return time;
 }
+
+}  // namespace x11

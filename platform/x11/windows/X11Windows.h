@@ -7,6 +7,8 @@
 
 class Clock;
 
+namespace x11 {
+
 /// Windows by way of the Extended Window Manager Hints 1.5, on a connection of its own, so that it can wait
 /// without the toolkit's event loop.
 class X11Windows : public Windows {
@@ -35,3 +37,5 @@ class X11Windows : public Windows {
     xcb_window_t m_own;
     xcb_window_t m_focusBefore = XCB_WINDOW_NONE;
 };
+
+}  // namespace x11
