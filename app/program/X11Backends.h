@@ -13,7 +13,7 @@ namespace x11 {
 class X11DockingTray;
 class X11EventManager;
 class X11KeyInjector;
-}
+}  // namespace x11
 namespace script {
 class ScriptRunner;
 }
