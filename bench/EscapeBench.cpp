@@ -6,9 +6,9 @@
 #include <stdexcept>
 
 #include "Table.h"
-#include "script/Play.h"
+#include "cli/Play.h"
+#include "display/NestedServers.h"
 #include "support/Terminal.h"
-#include "x11/NestedServers.h"
 
 namespace {
 

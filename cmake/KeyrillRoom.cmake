@@ -122,9 +122,9 @@ function(keyrill_inside target)
     endforeach()
 endfunction()
 
-# keyrill_test(core_test LABEL unit SOURCES ... USES ... INSIDE keyrill_core): one GoogleTest program for a folder. The tests of a
-# desktop program are run each for itself, with displays of their own; a unit program is run whole, because to
-# start it takes longer than all of its tests.
+# keyrill_test(core_test LABEL unit SOURCES ... USES ... INSIDE keyrill_core): one GoogleTest program for a folder or,
+# with what keyrill_test_room adds, for a house. The tests of a desktop program are run each for itself, with displays
+# of their own; a unit program is run whole, because to start it takes longer than all of its tests.
 function(keyrill_test target)
     cmake_parse_arguments(test "" "LABEL;TIMEOUT" "SOURCES;USES;INSIDE;PROPERTIES" ${ARGN})
     if(NOT test_TIMEOUT)
@@ -141,4 +141,11 @@ function(keyrill_test target)
     else()
         gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
     endif()
+endfunction()
+
+# keyrill_test_room(app_test SOURCES MenuStateTest.cpp INSIDE keyrill_app_tray): adds a room's tests to its house's program.
+function(keyrill_test_room target)
+    cmake_parse_arguments(room "" "" "SOURCES;INSIDE" ${ARGN})
+    target_sources(${target} PRIVATE ${room_SOURCES})
+    keyrill_inside(${target} ${room_INSIDE})
 endfunction()

@@ -3,10 +3,10 @@
 // The user, at a keyboard that is none of XTEST's, ends scripts that would go on for ever.
 #include <gtest/gtest.h>
 
-#include "script/Play.h"
+#include "cli/Play.h"
+#include "display/KeyboardProbe.h"
+#include "display/NestedServers.h"
 #include "support/Terminal.h"
-#include "x11/KeyboardProbe.h"
-#include "x11/NestedServers.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <iostream>
 #include <vector>
 
-#include "script/FieldScript.h"
-#include "script/Play.h"
+#include "cli/FieldScript.h"
+#include "cli/Play.h"
 #include "support/Editor.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"

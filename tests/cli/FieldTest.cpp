@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
-#include "script/FieldScript.h"
-#include "script/Play.h"
+#include "cli/FieldScript.h"
+#include "cli/Play.h"
 #include "support/Editor.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"

@@ -11,9 +11,9 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "script/Play.h"
+#include "cli/Play.h"
+#include "display/KeyboardProbe.h"
 #include "support/XServer.h"
-#include "x11/KeyboardProbe.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 // Whole scripts by keyrill-script run, judged by a terminal and by other programs at the same server.
 #include <gtest/gtest.h>
 
+#include "cli/Play.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/x11/windows/X11ScriptDesktop.h"
-#include "script/Play.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"
 

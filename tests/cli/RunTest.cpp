@@ -6,10 +6,10 @@
 
 #include <fstream>
 
+#include "display/KeyboardProbe.h"
 #include "support/Child.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"
-#include "x11/KeyboardProbe.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/DesktopTest.h"
-#include "x11/NestedServers.h"
+#include "display/NestedServers.h"
 
 namespace {
 

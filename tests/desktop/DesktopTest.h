@@ -6,7 +6,7 @@
 #include <string>
 
 #include "desktop/Desktop.h"
-#include "x11/Hands.h"
+#include "display/Hands.h"
 
 /// X key codes of a keyboard with evdev codes.
 namespace key {

@@ -4,7 +4,7 @@
 
 #include "desktop/DesktopTest.h"
 #include "desktop/StatusMenuClicks.h"
-#include "x11/CoreClient.h"
+#include "display/CoreClient.h"
 
 namespace {
 

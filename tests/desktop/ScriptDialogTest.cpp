@@ -2,7 +2,7 @@
 #include <signal.h>
 
 #include "desktop/DesktopTest.h"
-#include "x11/NestedServers.h"
+#include "display/NestedServers.h"
 
 namespace {
 

@@ -2,11 +2,11 @@
 //
 // What scripts do beside pressing keys: they bring windows to the front, sound the bell, fill the clipboard.
 // And a script file that the tray program plays.
+#include "cli/FieldScript.h"
+#include "cli/Play.h"
 #include "desktop/DesktopTest.h"
-#include "script/FieldScript.h"
-#include "script/Play.h"
+#include "display/Bell.h"
 #include "support/Editor.h"
-#include "x11/Bell.h"
 
 namespace {
 

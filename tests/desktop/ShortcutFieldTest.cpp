@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/DesktopTest.h"
-#include "x11/RepeatCount.h"
+#include "display/RepeatCount.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "x11/Bell.h"
+#include "display/Bell.h"
 
 #include <stdexcept>
 

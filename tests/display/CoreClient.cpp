@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "x11/CoreClient.h"
+#include "display/CoreClient.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "x11/Hands.h"
+#include "display/Hands.h"
 
 #include <xcb/xtest.h>
 #include <xkbcommon/xkbcommon-x11.h>

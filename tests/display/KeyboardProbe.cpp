@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "x11/KeyboardProbe.h"
+#include "display/KeyboardProbe.h"
 
 #include <xcb/xinput.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "x11/NestedServers.h"
+#include "display/NestedServers.h"
 
 namespace {
 

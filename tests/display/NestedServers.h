@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "display/Hands.h"
 #include "support/XServer.h"
-#include "x11/Hands.h"
 
 /// A server inside the window of another one. What is pressed outside arrives inside as the keys of a real
 /// keyboard: on a device that is none of XTEST's.

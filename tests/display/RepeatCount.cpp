@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "x11/RepeatCount.h"
+#include "display/RepeatCount.h"
 
 #include <xcb/record.h>
 #include <xcb/xcbext.h>

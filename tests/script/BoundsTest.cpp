@@ -4,12 +4,12 @@
 // number, on a stack of a megabyte.
 #include <gtest/gtest.h>
 
-#include "RecordingInjector.h"
-#include "SmallStack.h"
-#include "Traced.h"
 #include "platform/script/code/Compiler.h"
 #include "platform/script/run/Machine.h"
 #include "platform/script/syntax/Formatter.h"
+#include "script/RecordingInjector.h"
+#include "script/SmallStack.h"
+#include "script/Traced.h"
 
 namespace {
 

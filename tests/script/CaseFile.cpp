@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "CaseFile.h"
+#include "script/CaseFile.h"
 
 #include <algorithm>
 #include <array>
@@ -8,8 +8,8 @@
 #include <stdexcept>
 #include <utility>
 
-#include "Traced.h"
 #include "platform/script/source/Location.h"
+#include "script/Traced.h"
 
 namespace {
 

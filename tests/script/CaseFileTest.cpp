@@ -3,7 +3,7 @@
 // The cases of cases/*.cases.
 #include <gtest/gtest.h>
 
-#include "CaseFile.h"
+#include "script/CaseFile.h"
 
 namespace {
 

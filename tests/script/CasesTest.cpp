@@ -9,7 +9,7 @@
 #include <QJsonObject>
 #include <set>
 
-#include "Traced.h"
+#include "script/Traced.h"
 
 namespace {
 

@@ -5,11 +5,11 @@
 
 #include <filesystem>
 
-#include "RecordingInjector.h"
 #include "platform/Encoding.h"
 #include "platform/script/code/Compiler.h"
 #include "platform/script/run/Machine.h"
 #include "platform/script/syntax/Formatter.h"
+#include "script/RecordingInjector.h"
 #include "support/Child.h"
 
 namespace {

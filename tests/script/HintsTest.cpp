@@ -3,7 +3,7 @@
 // What errors say beside the language's own words.
 #include <gtest/gtest.h>
 
-#include "Traced.h"
+#include "script/Traced.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Printed.h"
+#include "script/Printed.h"
 
 #include <map>
 #include <sstream>

@@ -3,12 +3,12 @@
 // The round trip: what a recorded macro writes is what the language plays.
 #include <gtest/gtest.h>
 
-#include "Traced.h"
 #include "core/Delay.h"
 #include "core/KeyCode.h"
 #include "core/Macro.h"
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
+#include "script/Traced.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "RecordingInjector.h"
+#include "script/RecordingInjector.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 // Scripts that somebody else may have written, cut off and damaged: each compiles or is refused, at once.
 #include <gtest/gtest.h>
 
-#include "Traced.h"
 #include "platform/script/code/Compiler.h"
+#include "script/Traced.h"
 
 namespace {
 

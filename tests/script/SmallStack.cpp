@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "SmallStack.h"
+#include "script/SmallStack.h"
 
 #include <pthread.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Traced.h"
+#include "script/Traced.h"
 
 #include <sstream>
 #include <variant>

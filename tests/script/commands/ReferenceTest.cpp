@@ -6,9 +6,9 @@
 #include <fstream>
 #include <sstream>
 
-#include "CaseFile.h"
 #include "platform/script/commands/Command.h"
 #include "platform/script/commands/LanguageReference.h"
+#include "script/CaseFile.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include "RecordingInjector.h"
-#include "Traced.h"
 #include "platform/script/code/Compiler.h"
 #include "platform/script/run/MachineServices.h"
+#include "script/RecordingInjector.h"
+#include "script/Traced.h"
 
 namespace {
 

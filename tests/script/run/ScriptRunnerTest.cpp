@@ -3,11 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include "RecordingInjector.h"
 #include "contracts/ScriptingServiceContract.h"
 #include "platform/fake/FakePlatform.h"
 #include "platform/script/code/Compiler.h"
 #include "platform/script/run/Machine.h"
+#include "script/RecordingInjector.h"
 
 namespace {
 

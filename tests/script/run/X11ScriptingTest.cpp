@@ -2,6 +2,7 @@
 #include <stdexcept>
 
 #include "contracts/ScriptingServiceContract.h"
+#include "display/Hands.h"
 #include "platform/Modifiers.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/script/run/ScriptRunner.h"
@@ -9,7 +10,6 @@
 #include "platform/x11/watch/X11EventManager.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"
-#include "x11/Hands.h"
 
 namespace {
 

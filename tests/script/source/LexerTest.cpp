@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Printed.h"
+#include "script/Printed.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "CaseFile.h"
-#include "Traced.h"
+#include "script/CaseFile.h"
+#include "script/Traced.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "Printed.h"
 #include "platform/script/syntax/Parser.h"
+#include "script/Printed.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <random>
 #include <sstream>
 
-#include "x11/Hands.h"
-#include "x11/InjectorTest.h"
+#include "display/Hands.h"
+#include "x11/press/InjectorTest.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "contracts/KeyInjectorContract.h"
-#include "x11/InjectorTest.h"
+#include "x11/press/InjectorTest.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "x11/InjectorTest.h"
+#include "x11/press/InjectorTest.h"
 
 #include <sstream>
 #include <stdexcept>

@@ -5,13 +5,13 @@
 
 #include <optional>
 
+#include "display/CoreClient.h"
+#include "display/KeyboardProbe.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/x11/press/X11KeyInjector.h"
 #include "platform/x11/watch/X11EventManager.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"
-#include "x11/CoreClient.h"
-#include "x11/KeyboardProbe.h"
 
 /// The injector on a display, with the event manager as it is in the program.
 class InjectorOnDisplay {

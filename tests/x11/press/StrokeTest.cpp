@@ -2,9 +2,9 @@
 #include <filesystem>
 #include <fstream>
 
+#include "display/Hands.h"
 #include "platform/Modifiers.h"
-#include "x11/Hands.h"
-#include "x11/InjectorTest.h"
+#include "x11/press/InjectorTest.h"
 
 namespace {
 

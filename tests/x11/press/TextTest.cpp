@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
+#include "display/Hands.h"
 #include "platform/Modifiers.h"
-#include "x11/Hands.h"
-#include "x11/InjectorTest.h"
+#include "x11/press/InjectorTest.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "display/NestedServers.h"
 #include "platform/Modifiers.h"
-#include "x11/InjectorTest.h"
-#include "x11/NestedServers.h"
+#include "x11/press/InjectorTest.h"
 
 namespace {
 

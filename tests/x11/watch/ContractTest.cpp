@@ -3,7 +3,7 @@
 #include "contracts/HotKeysContract.h"
 #include "contracts/KeyboardLayoutContract.h"
 #include "platform/x11/watch/X11KeyboardLayout.h"
-#include "x11/X11World.h"
+#include "x11/watch/X11World.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
-#include "x11/X11Test.h"
+#include "x11/watch/X11Test.h"
 
 namespace {
 

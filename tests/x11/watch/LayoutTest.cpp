@@ -4,7 +4,7 @@
 #include "platform/KeyCodes.h"
 #include "platform/x11/server/X11Check.h"
 #include "platform/x11/watch/X11KeyboardLayout.h"
-#include "x11/X11Test.h"
+#include "x11/watch/X11Test.h"
 
 namespace {
 

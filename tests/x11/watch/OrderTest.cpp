@@ -6,7 +6,7 @@
 #include <future>
 
 #include "platform/Modifiers.h"
-#include "x11/X11Test.h"
+#include "x11/watch/X11Test.h"
 
 namespace {
 

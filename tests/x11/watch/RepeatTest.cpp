@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "x11/X11Test.h"
+#include "x11/watch/X11Test.h"
 
 namespace {
 

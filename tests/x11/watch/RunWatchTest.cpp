@@ -6,10 +6,10 @@
 
 #include <functional>
 
+#include "display/NestedServers.h"
 #include "platform/Modifiers.h"
 #include "platform/keymap/KeyboardState.h"
-#include "x11/NestedServers.h"
-#include "x11/X11Test.h"
+#include "x11/watch/X11Test.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "x11/X11Test.h"
+#include "x11/watch/X11Test.h"
 
 #include <poll.h>
 

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "x11/X11World.h"
+#include "x11/watch/X11World.h"
 
 /// X key codes of a keyboard with evdev codes.
 namespace xkey {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "x11/X11World.h"
+#include "x11/watch/X11World.h"
 
 #include <gtest/gtest.h>
 #include <poll.h>
 
 #include <stdexcept>
 
+#include "display/RepeatCount.h"
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
-#include "x11/RepeatCount.h"
 
 namespace {
 

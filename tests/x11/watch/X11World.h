@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "contracts/KeyboardWorld.h"
+#include "display/CoreClient.h"
+#include "display/Hands.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/x11/watch/X11EventManager.h"
 #include "support/XServer.h"
-#include "x11/CoreClient.h"
-#include "x11/Hands.h"
 
 /// A private X server with the manager under test, and another program that presses keys.
 class X11World final : public KeyboardWorld {
