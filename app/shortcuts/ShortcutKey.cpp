@@ -6,10 +6,9 @@
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
+#include "platform/XkbCodes.h"
 
 namespace {
-
-constexpr quint32 evdevToX = 8;
 
 struct ModifierFlag {
     Qt::KeyboardModifier modifier;
@@ -73,8 +72,8 @@ ShortcutKey shortcutKey(const QKeyEvent& press) {
 
 KeyCombo keyComboOf(const QKeyEvent& press) {
     const quint32 scanCode = press.nativeScanCode();
-    if (scanCode <= evdevToX || scanCode > keycode::maxEvdev + evdevToX) return {};
-    const std::uint32_t code = keycode::fromEvdev(static_cast<std::uint16_t>(scanCode - evdevToX));
+    if (scanCode <= xkbcode::first || scanCode > xkbcode::last) return {};
+    const std::uint32_t code = keycode::fromEvdev(xkbcode::toEvdev(scanCode));
     return {.flags = controlFlagsOf(press.modifiers()), .code = static_cast<std::int16_t>(code)};
 }
 

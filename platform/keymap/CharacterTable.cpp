@@ -8,6 +8,7 @@
 #include <tuple>
 
 #include "platform/KeyCodes.h"
+#include "platform/XkbCodes.h"
 #include "platform/keymap/XkbPointers.h"
 
 namespace {
@@ -15,7 +16,6 @@ namespace {
 /// Groups that X can lock.
 constexpr xkb_layout_index_t maxLayouts = 4;
 constexpr std::size_t maxMasks = 16;
-constexpr xkb_keycode_t evdevOffset = 8;
 
 /// Fills the characters of one layout.
 class LayoutReader {
@@ -76,9 +76,8 @@ class LayoutReader {
     }
 
     static std::tuple<bool, int, std::uint8_t> rank(const Stroke& stroke) {
-        const auto evdev = static_cast<std::uint16_t>(stroke.keycode - evdevOffset);
-        return {keycode::fromEvdev(evdev) >= keycode::evdevBase, std::popcount(stroke.modifiers),
-                stroke.keycode};
+        return {keycode::fromEvdev(xkbcode::toEvdev(stroke.keycode)) >= keycode::evdevBase,
+                std::popcount(stroke.modifiers), stroke.keycode};
     }
 
     xkb_keymap* m_keymap;
@@ -92,12 +91,12 @@ CharacterTable::CharacterTable(xkb_keymap* keymap, const ModifierMasks& masks, c
                                const KeycodeSet& excluded) {
     const LayoutReader reader(keymap, masks, keys);
     const auto layouts = std::min(maxLayouts, xkb_keymap_num_layouts(keymap));
-    const auto last = std::min<xkb_keycode_t>(255, xkb_keymap_max_keycode(keymap));
+    const auto last = std::min<xkb_keycode_t>(xkbcode::last, xkb_keymap_max_keycode(keymap));
     const XkbStatePointer state(xkb_state_new(keymap));
     for (xkb_layout_index_t group = 0; group < layouts; ++group) {
         Layout& characters = m_layouts.emplace_back();
         xkb_state_update_mask(state.get(), 0, 0, 0, 0, 0, group);
-        for (auto keycode = std::max<xkb_keycode_t>(evdevOffset + 1, xkb_keymap_min_keycode(keymap));
+        for (auto keycode = std::max<xkb_keycode_t>(xkbcode::first + 1, xkb_keymap_min_keycode(keymap));
              keycode <= last; ++keycode) {
             // A key with fewer groups than the keymap has its own rule for the others.
             const auto layout = xkb_state_key_get_layout(state.get(), keycode);

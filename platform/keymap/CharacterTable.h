@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <bitset>
 #include <optional>
 #include <unordered_map>
 #include <vector>
 
+#include "platform/keymap/KeycodeSet.h"
 #include "platform/keymap/ModifierKeys.h"
 #include "platform/keymap/Stroke.h"
-
-/// Key codes that a table leaves out.
-using KeycodeSet = std::bitset<256>;
 
 /// Where a keymap's layouts type each character.
 ///

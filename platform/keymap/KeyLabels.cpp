@@ -7,11 +7,10 @@
 #include <string_view>
 
 #include "platform/KeyCodes.h"
+#include "platform/XkbCodes.h"
 #include "platform/keymap/LabelTables.h"
 
 namespace {
-
-constexpr unsigned evdevOffset = 8;
 
 /// Control characters, blanks and invisible marks would leave a label empty to the eye.
 bool isPrintable(std::uint32_t character) {
@@ -73,9 +72,9 @@ struct Key {
 
 Key keyOf(const Keymap& keymap, std::uint32_t keyCode) {
     const std::uint32_t baseCode = keyCode & ~keycode::choosers;
-    const unsigned evdev = keycode::evdevFor(baseCode).value_or(0);
+    const auto evdev = keycode::evdevFor(baseCode);
     const ModifierMasks& masks = keymap.masks();
-    return {baseCode, static_cast<std::uint8_t>(evdev == 0 ? 0 : evdev + evdevOffset),
+    return {baseCode, evdev ? xkbcode::fromEvdev(*evdev) : std::uint8_t{0},
             ((keyCode & keycode::thirdLevel) != 0 ? masks.thirdLevel : 0) |
                 ((keyCode & keycode::fifthLevel) != 0 ? masks.fifthLevel : 0)};
 }

@@ -6,18 +6,7 @@
 #include <memory>
 
 #include "platform/keymap/Keymap.h"
-
-/// The parts that make up the modifiers and the group of a keyboard (X Keyboard Extension, "Keyboard State").
-struct XkbComponents {
-    xkb_mod_mask_t depressed = 0;
-    xkb_mod_mask_t latched = 0;
-    xkb_mod_mask_t locked = 0;
-    xkb_layout_index_t baseLayout = 0;
-    xkb_layout_index_t latchedLayout = 0;
-    xkb_layout_index_t lockedLayout = 0;
-
-    friend bool operator==(const XkbComponents&, const XkbComponents&) = default;
-};
+#include "platform/keymap/XkbComponents.h"
 
 /// The keyboard's map and its modifiers and group at the moment of the event that is being worked on.
 ///
@@ -51,6 +40,6 @@ class KeyboardState {
     };
 
     std::unique_ptr<Keymap> m_keymap;
-    XkbHandle<xkb_state> m_state;
+    XkbStatePointer m_state;
     std::deque<Foreseen> m_foreseen;
 };

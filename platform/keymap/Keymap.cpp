@@ -60,7 +60,7 @@ std::size_t fingerprintOf(xkb_keymap* keymap) {
 
 }  // namespace
 
-Keymap::Keymap(XkbHandle<xkb_keymap> keymap)
+Keymap::Keymap(XkbKeymapPointer keymap)
     : m_keymap(std::move(keymap)), m_scratch(xkb_state_new(get())), m_fingerprint(fingerprintOf(get())) {
     m_effects.resize(std::max<std::size_t>(1, xkb_keymap_num_layouts(get())));
     const xkb_keycode_t last = std::min<xkb_keycode_t>(255, xkb_keymap_max_keycode(get()));
@@ -81,7 +81,7 @@ Keymap::Keymap(XkbHandle<xkb_keymap> keymap)
 
 void Keymap::tryKey(std::uint8_t keycode, xkb_layout_index_t layout) {
     if (xkb_keymap_num_layouts_for_key(get(), keycode) == 0) return;
-    const XkbHandle<xkb_state> state(xkb_state_new(get()));
+    const XkbStatePointer state(xkb_state_new(get()));
     xkb_state_update_mask(state.get(), 0, 0, 0, 0, 0, layout);
     const xkb_keysym_t symbol = xkb_state_key_get_one_sym(state.get(), keycode);
     xkb_state_update_key(state.get(), keycode, XKB_KEY_DOWN);

@@ -9,13 +9,7 @@
 #include <optional>
 #include <vector>
 
-struct XkbUnref {
-    void operator()(xkb_context* context) const { xkb_context_unref(context); }
-    void operator()(xkb_keymap* keymap) const { xkb_keymap_unref(keymap); }
-    void operator()(xkb_state* state) const { xkb_state_unref(state); }
-};
-template <typename Object>
-using XkbHandle = std::unique_ptr<Object, XkbUnref>;
+#include "platform/keymap/XkbPointers.h"
 
 /// The real modifiers (X modifier bits) that the keys of each kind set in a keymap; 0 where it has no such
 /// key.
@@ -39,7 +33,7 @@ struct ModifierMasks {
 /// state of its own shows it, whatever the rules and options of the layout are.
 class Keymap {
   public:
-    explicit Keymap(XkbHandle<xkb_keymap> keymap);
+    explicit Keymap(XkbKeymapPointer keymap);
 
     xkb_keymap* get() const { return m_keymap.get(); }
     const ModifierMasks& masks() const { return m_masks; }
@@ -71,8 +65,8 @@ class Keymap {
     void noteRole(xkb_keysym_t symbol, xkb_mod_mask_t modifiers);
     const KeyEffect& effect(std::uint8_t keycode, xkb_layout_index_t layout) const;
 
-    XkbHandle<xkb_keymap> m_keymap;
-    XkbHandle<xkb_state> m_scratch;
+    XkbKeymapPointer m_keymap;
+    XkbStatePointer m_scratch;
     ModifierMasks m_masks;
     xkb_mod_mask_t m_meta = 0;
     std::vector<LayoutEffects> m_effects;

@@ -6,10 +6,9 @@
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
+#include "platform/XkbCodes.h"
 
 namespace {
-
-constexpr std::uint8_t evdevOffset = 8;
 
 /// The keys of the navigation block, by what the keypad types without Num Lock.
 struct NavigationKey {
@@ -47,7 +46,7 @@ class Shaper {
           m_keycode(keycode),
           m_layout(layout),
           m_modifiers(modifiers),
-          m_baseCode(keycode::fromEvdev(static_cast<std::uint16_t>(keycode - evdevOffset))),
+          m_baseCode(keycode::fromEvdev(xkbcode::toEvdev(keycode))),
           m_typed(symbol(modifiers & ~commandMask())) {}
 
     TypedKey result(bool modifierHeld) const {
@@ -105,7 +104,7 @@ class Shaper {
         for (const NavigationKey& key : navigationKeys) {
             if (key.symbol == m_typed) return key.keyCode;
         }
-        return keycode::evdevBase + m_keycode - evdevOffset;
+        return keycode::evdevBase + xkbcode::toEvdev(m_keycode);
     }
 
     const Keymap& m_keymap;

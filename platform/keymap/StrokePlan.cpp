@@ -5,10 +5,9 @@
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
+#include "platform/XkbCodes.h"
 
 namespace {
-
-constexpr std::uint8_t evdevOffset = 8;
 
 struct Role {
     std::uint32_t flag;
@@ -43,7 +42,7 @@ Result<std::uint8_t> planChoosers(const ModifierMasks& masks, const ModifierKeys
 std::uint8_t keycodeFor(xkb_keymap* keymap, std::uint32_t keyCode) {
     const auto evdev = keycode::evdevFor(keyCode);
     if (!evdev) return 0;
-    const xkb_keycode_t keycode = *evdev + evdevOffset;
+    const xkb_keycode_t keycode = xkbcode::fromEvdev(*evdev);
     if (keycode < xkb_keymap_min_keycode(keymap) || keycode > xkb_keymap_max_keycode(keymap)) return 0;
     return static_cast<std::uint8_t>(keycode);
 }

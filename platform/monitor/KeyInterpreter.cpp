@@ -12,7 +12,7 @@ void KeyInterpreter::key(const RawKey& key, const KeyOrigin& origin) {
     if (key.press) {
         if (m_held.isDown(key) && !origin.hotKey) return;
         press(key, origin);
-    } else if (const std::optional<HeldKey> held = m_held.release(key)) {
+    } else if (const std::optional<DownKey> held = m_held.release(key)) {
         release(key, *held);
     }
 }
@@ -20,7 +20,7 @@ void KeyInterpreter::key(const RawKey& key, const KeyOrigin& origin) {
 void KeyInterpreter::press(const RawKey& key, const KeyOrigin& origin) {
     const bool isModifierKey = m_keyboard.keymap().isModifierKey(key.keycode, m_keyboard.layout());
     watchEscape(key);
-    HeldKey& held = m_held.press(key);
+    DownKey& held = m_held.press(key);
     held.isModifierKey = isModifierKey;
     held.hidden = origin.own && !m_keepsOwn;
     if (isModifierKey) {
@@ -34,7 +34,7 @@ void KeyInterpreter::press(const RawKey& key, const KeyOrigin& origin) {
     }
 }
 
-void KeyInterpreter::pressModifier(const RawKey& key, HeldKey& held) {
+void KeyInterpreter::pressModifier(const RawKey& key, DownKey& held) {
     held.modifiers = m_keyboard.keymap().keyModifiers(key.keycode, m_keyboard.layout()) &
                      ~m_keyboard.keymap().masks().locks();
     m_keyboard.feed(key.keycode, true);
@@ -42,14 +42,14 @@ void KeyInterpreter::pressModifier(const RawKey& key, HeldKey& held) {
     if (!held.hidden) reportModifiers(heldMask());
 }
 
-void KeyInterpreter::pressHotKey(const RawKey& key, HeldKey& held, HotKeyId id) {
+void KeyInterpreter::pressHotKey(const RawKey& key, DownKey& held, HotKeyId id) {
     m_keyboard.feed(key.keycode, true);
     held.hotKey = id;
     held.hotKeyReported = !m_muted;
     if (!m_muted) m_deliveries.emplace_back(HotKeyEvent{id, true, key.time});
 }
 
-void KeyInterpreter::pressOrdinary(const RawKey& key, HeldKey& held) {
+void KeyInterpreter::pressOrdinary(const RawKey& key, DownKey& held) {
     const TypedKey typed = typedBy(key.keycode);
     m_keyboard.feed(key.keycode, true);
     if (m_muted) return;
@@ -57,7 +57,7 @@ void KeyInterpreter::pressOrdinary(const RawKey& key, HeldKey& held) {
     reportPress(KeyEventKind::keyDown, typed);
 }
 
-void KeyInterpreter::release(const RawKey& key, const HeldKey& held) {
+void KeyInterpreter::release(const RawKey& key, const DownKey& held) {
     watchEscape(key);
     m_keyboard.feed(key.keycode, false);
     if (held.isModifierKey) {
@@ -74,18 +74,18 @@ void KeyInterpreter::repeat(std::uint8_t keycode, ServerTime time) {
 }
 
 void KeyInterpreter::repeatByKeyboard(const RawKey& key) {
-    HeldKey* held = m_held.find(key.keycode);
+    DownKey* held = m_held.find(key.keycode);
     if (held == nullptr) return;
     held->pressTime = key.time;
     reportRepeat(*held, key.keycode);
 }
 
-void KeyInterpreter::reportRepeat(const HeldKey& held, std::uint8_t keycode) {
+void KeyInterpreter::reportRepeat(const DownKey& held, std::uint8_t keycode) {
     if (held.reportedCode && !m_muted) reportPress(KeyEventKind::autoRepeat, typedBy(keycode));
 }
 
 void KeyInterpreter::lateHotKey(HotKeyId id, std::uint8_t keycode, ServerTime time) {
-    HeldKey* held = m_held.find(keycode);
+    DownKey* held = m_held.find(keycode);
     if (m_muted) return;
     m_deliveries.emplace_back(HotKeyEvent{id, true, time});
     if (held == nullptr) {
@@ -105,7 +105,7 @@ void KeyInterpreter::keyboardGone(std::uint16_t source, ServerTime time) {
 
 void KeyInterpreter::startWith(const std::vector<std::uint8_t>& keycodes) {
     for (const std::uint8_t keycode : keycodes) {
-        HeldKey& held = m_held.press({.keycode = keycode, .press = true, .source = HeldKeys::anySource});
+        DownKey& held = m_held.press({.keycode = keycode, .press = true, .source = DownKeys::anySource});
         held.isModifierKey = m_keyboard.keymap().isModifierKey(keycode, m_keyboard.layout());
         held.modifiers = m_keyboard.keymap().keyModifiers(keycode, m_keyboard.layout()) &
                          ~m_keyboard.keymap().masks().locks();

@@ -8,7 +8,7 @@
 #include "platform/KeyEvent.h"
 #include "platform/keymap/KeyboardState.h"
 #include "platform/monitor/CancelWatch.h"
-#include "platform/monitor/HeldKeys.h"
+#include "platform/monitor/DownKeys.h"
 
 /// A hot key was pressed or released.
 struct HotKeyEvent {
@@ -42,7 +42,7 @@ class KeyInterpreter {
     /// Whether the event changes anything: a press of a key that is down and a release of one that is up do
     /// not.
     bool matters(const RawKey& key) const { return key.press ? !m_held.isDown(key) : m_held.canRelease(key); }
-    const HeldKeys& held() const { return m_held; }
+    const DownKeys& held() const { return m_held; }
 
     void key(const RawKey& key, const KeyOrigin& origin);
     /// The server repeats the key; nothing if it is not down for long enough.
@@ -68,12 +68,12 @@ class KeyInterpreter {
 
   private:
     void press(const RawKey& key, const KeyOrigin& origin);
-    void release(const RawKey& key, const HeldKey& held);
-    void pressModifier(const RawKey& key, HeldKey& held);
-    void pressHotKey(const RawKey& key, HeldKey& held, HotKeyId id);
-    void pressOrdinary(const RawKey& key, HeldKey& held);
+    void release(const RawKey& key, const DownKey& held);
+    void pressModifier(const RawKey& key, DownKey& held);
+    void pressHotKey(const RawKey& key, DownKey& held, HotKeyId id);
+    void pressOrdinary(const RawKey& key, DownKey& held);
     void watchEscape(const RawKey& key);
-    void reportRepeat(const HeldKey& held, std::uint8_t keycode);
+    void reportRepeat(const DownKey& held, std::uint8_t keycode);
     void reportPress(KeyEventKind kind, const TypedKey& typed);
     void reportModifiers(std::uint32_t mask);
     std::uint32_t heldMask() const;
@@ -81,7 +81,7 @@ class KeyInterpreter {
 
     KeyboardState& m_keyboard;
     CancelWatch& m_cancel;
-    HeldKeys m_held;
+    DownKeys m_held;
     std::deque<Delivery> m_deliveries;
     std::uint32_t m_reportedMask = 0;
     bool m_muted = false;

@@ -5,13 +5,13 @@
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
+#include "platform/XkbCodes.h"
 #include "platform/keymap/KeyLabels.h"
 
 namespace x11 {
 
 namespace {
 
-constexpr unsigned evdevOffset = 8;
 const char* const chooseAnother = "Choose another combination.";
 const char* const freeIt = "Choose another combination, or free it in the program that holds it.";
 
@@ -132,7 +132,7 @@ void HotKeyTable::settle(Row& row, HotKeyState state) {
 
 Result<KeyGrab> HotKeyTable::grabFor(const HotKeyRequest& request) const {
     const std::optional<std::uint16_t> evdev = keycode::evdevFor(request.keyCode);
-    if (!evdev || !m_grabs.hasKeycode(*evdev + evdevOffset)) {
+    if (!evdev || !m_grabs.hasKeycode(xkbcode::fromEvdev(*evdev))) {
         return Error{"this desktop has no such key", chooseAnother};
     }
     const Keymap& keymap = m_keyboard.keymap();
@@ -141,7 +141,7 @@ Result<KeyGrab> HotKeyTable::grabFor(const HotKeyRequest& request) const {
     if (!modifiers) return Error{"the keyboard layout lacks one of the modifier keys", chooseAnother};
     const xkb_mod_mask_t choosers = ((request.keyCode & keycode::thirdLevel) != 0 ? masks.thirdLevel : 0) |
                                     ((request.keyCode & keycode::fifthLevel) != 0 ? masks.fifthLevel : 0);
-    return KeyGrab{.keycode = static_cast<std::uint8_t>(*evdev + evdevOffset),
+    return KeyGrab{.keycode = xkbcode::fromEvdev(*evdev),
                    .modifiers = static_cast<std::uint16_t>(*modifiers | choosers),
                    .locks = static_cast<std::uint16_t>(masks.locks())};
 }

@@ -2,6 +2,7 @@
 #include <sstream>
 
 #include "platform/KeyCodes.h"
+#include "platform/XkbCodes.h"
 #include "platform/x11/server/X11Check.h"
 #include "platform/x11/watch/X11KeyboardLayout.h"
 #include "x11/watch/X11Test.h"
@@ -113,7 +114,7 @@ TEST_F(X11LayoutTest, letterKeysAreCalledWhatTheServersToolShows) {
         for (const auto& [keycode, symbol] : symbolsByXmodmap(world().display())) {
             if (symbol.size() != 1 || keycode > 255) continue;
             const char expected = static_cast<char>(std::toupper(static_cast<unsigned char>(symbol[0])));
-            const auto evdev = static_cast<std::uint16_t>(keycode - 8);
+            const auto evdev = xkbcode::toEvdev(keycode);
             EXPECT_EQ(m_layout.keyName(keycode::fromEvdev(evdev)), std::string(1, expected))
                 << layout << keycode;
             ++compared;

@@ -9,6 +9,7 @@
 #include "display/RepeatCount.h"
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
+#include "platform/XkbCodes.h"
 
 namespace {
 
@@ -27,7 +28,7 @@ unsigned pcModifiers(std::uint32_t modifiers) {
 }  // namespace
 
 std::uint8_t keycodeFor(std::uint32_t keyCode) {
-    return static_cast<std::uint8_t>(keycode::evdevFor(keyCode).value() + 8);
+    return xkbcode::fromEvdev(keycode::evdevFor(keyCode).value());
 }
 
 X11World::X11World() : m_hands(m_server.display()) {

@@ -13,7 +13,7 @@
 #include "platform/monitor/MonitorEvents.h"
 
 /// What is known of a key that is down.
-struct HeldKey {
+struct DownKey {
     /// The real modifiers that it holds; 0 for ordinary keys.
     xkb_mod_mask_t modifiers = 0;
     bool isModifierKey = false;
@@ -30,7 +30,7 @@ struct HeldKey {
 
 /// The keys that are down, those of each keyboard for itself: the server lets a second keyboard press a key
 /// that is down on the first.
-class HeldKeys {
+class DownKeys {
   public:
     /// Stands for all keyboards: keys that were down from the beginning.
     static constexpr std::uint16_t anySource = 0;
@@ -40,26 +40,26 @@ class HeldKeys {
         return isDown(key) || m_keys.contains({anySource, key.keycode});
     }
 
-    HeldKey& press(const RawKey& key) {
+    DownKey& press(const RawKey& key) {
         m_keys.erase({anySource, key.keycode});
-        HeldKey& held = m_keys[{key.source, key.keycode}];
+        DownKey& held = m_keys[{key.source, key.keycode}];
         held = {};
         held.pressTime = key.time;
         return held;
     }
 
     /// Takes the key out; empty if it was not down.
-    std::optional<HeldKey> release(const RawKey& key) {
+    std::optional<DownKey> release(const RawKey& key) {
         auto held = m_keys.find({key.source, key.keycode});
         if (held == m_keys.end()) held = m_keys.find({anySource, key.keycode});
         if (held == m_keys.end()) return std::nullopt;
-        const HeldKey result = held->second;
+        const DownKey result = held->second;
         m_keys.erase(held);
         return result;
     }
 
     /// The key on whichever keyboard it is down; null if on none.
-    HeldKey* find(std::uint8_t keycode) {
+    DownKey* find(std::uint8_t keycode) {
         for (auto& [place, held] : m_keys) {
             if (place.second == keycode) return &held;
         }
@@ -105,12 +105,12 @@ class HeldKeys {
     void setRepeatDelay(std::int32_t delay) { m_repeatDelay = delay; }
 
   private:
-    bool hasBeenDownForDelay(const HeldKey& held, ServerTime time) const {
+    bool hasBeenDownForDelay(const DownKey& held, ServerTime time) const {
         // The server counts in other clock ticks than it stamps.
         constexpr std::int32_t rounding = 2;
         return millisecondsAfter(time, held.pressTime) >= std::max(1, m_repeatDelay - rounding);
     }
 
     std::int32_t m_repeatDelay = 1;
-    std::map<std::pair<std::uint16_t, std::uint8_t>, HeldKey> m_keys;
+    std::map<std::pair<std::uint16_t, std::uint8_t>, DownKey> m_keys;
 };
