@@ -20,8 +20,8 @@ constexpr std::size_t maxMasks = 16;
 /// Fills the characters of one layout.
 class LayoutReader {
   public:
-    LayoutReader(xkb_keymap* keymap, const ModifierMasks& masks, const ModifierKeys& keys)
-        : m_keymap(keymap), m_masks(masks), m_keys(keys) {}
+    explicit LayoutReader(const Keymap& keymap)
+        : m_keymap(keymap.get()), m_masks(keymap.masks()), m_keys(keymap.keys()) {}
 
     /// What the key types while `layout` of its own is in force, as strokes of the group `group`.
     void read(xkb_keycode_t keycode, xkb_layout_index_t layout, std::int8_t group,
@@ -59,18 +59,16 @@ class LayoutReader {
     }
 
     /// The fewest modifiers that select the level.
-    std::optional<std::uint8_t> modifiersFor(xkb_keycode_t keycode, xkb_layout_index_t layout,
-                                             xkb_level_index_t level) const {
+    std::optional<xkb_mod_mask_t> modifiersFor(xkb_keycode_t keycode, xkb_layout_index_t layout,
+                                               xkb_level_index_t level) const {
         std::array<xkb_mod_mask_t, maxMasks> masks{};
         const auto count =
             xkb_keymap_key_get_mods_for_level(m_keymap, keycode, layout, level, masks.data(), masks.size());
-        const auto usable =
-            static_cast<xkb_mod_mask_t>(ModifierMasks::shift | m_masks.levelThree | m_masks.levelFive);
-        std::optional<std::uint8_t> best;
+        const xkb_mod_mask_t usable = m_masks.shift | m_masks.thirdLevel | m_masks.fifthLevel;
+        std::optional<xkb_mod_mask_t> best;
         for (const auto mask : std::span(masks).first(count)) {
-            const auto modifiers = static_cast<std::uint8_t>(mask);
-            if ((mask & ~usable) != 0 || (mask != 0 && !m_keys.canHold(modifiers))) continue;
-            if (!best || std::popcount(modifiers) < std::popcount(*best)) best = modifiers;
+            if ((mask & ~usable) != 0 || (mask != 0 && !m_keys.canHold(mask))) continue;
+            if (!best || std::popcount(mask) < std::popcount(*best)) best = mask;
         }
         return best;
     }
@@ -87,16 +85,16 @@ class LayoutReader {
 
 }  // namespace
 
-CharacterTable::CharacterTable(xkb_keymap* keymap, const ModifierMasks& masks, const ModifierKeys& keys,
-                               const KeycodeSet& excluded) {
-    const LayoutReader reader(keymap, masks, keys);
-    const auto layouts = std::min(maxLayouts, xkb_keymap_num_layouts(keymap));
-    const auto last = std::min<xkb_keycode_t>(xkbcode::last, xkb_keymap_max_keycode(keymap));
-    const XkbStatePointer state(xkb_state_new(keymap));
+CharacterTable::CharacterTable(const Keymap& keymap, const KeycodeSet& excluded) {
+    const LayoutReader reader(keymap);
+    xkb_keymap* const map = keymap.get();
+    const auto layouts = std::min(maxLayouts, xkb_keymap_num_layouts(map));
+    const auto last = std::min<xkb_keycode_t>(xkbcode::last, xkb_keymap_max_keycode(map));
+    const XkbStatePointer state(xkb_state_new(map));
     for (xkb_layout_index_t group = 0; group < layouts; ++group) {
         Layout& characters = m_layouts.emplace_back();
         xkb_state_update_mask(state.get(), 0, 0, 0, 0, 0, group);
-        for (auto keycode = std::max<xkb_keycode_t>(xkbcode::first + 1, xkb_keymap_min_keycode(keymap));
+        for (auto keycode = std::max<xkb_keycode_t>(xkbcode::first + 1, xkb_keymap_min_keycode(map));
              keycode <= last; ++keycode) {
             // A key with fewer groups than the keymap has its own rule for the others.
             const auto layout = xkb_state_key_get_layout(state.get(), keycode);
@@ -107,7 +105,7 @@ CharacterTable::CharacterTable(xkb_keymap* keymap, const ModifierMasks& masks, c
     }
 }
 
-std::optional<Stroke> CharacterTable::find(char32_t character, std::uint8_t group) const {
+std::optional<Stroke> CharacterTable::find(char32_t character, xkb_layout_index_t group) const {
     const char32_t typed = character == U'\n' ? U'\r' : character;
     const auto inLayout = [&](std::size_t index) -> std::optional<Stroke> {
         if (index >= m_layouts.size()) return std::nullopt;

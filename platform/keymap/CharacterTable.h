@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/keymap/KeycodeSet.h"
-#include "platform/keymap/ModifierKeys.h"
+#include "platform/keymap/Keymap.h"
 #include "platform/keymap/Stroke.h"
 
 /// Where a keymap's layouts type each character.
@@ -16,12 +16,12 @@
 /// than Shift and the level choosers.
 class CharacterTable {
   public:
-    CharacterTable(xkb_keymap* keymap, const ModifierMasks& masks, const ModifierKeys& keys,
-                   const KeycodeSet& excluded);
+    /// `excluded` are keys to leave out, whatever they type now.
+    explicit CharacterTable(const Keymap& keymap, const KeycodeSet& excluded = {});
 
     /// The stroke that types the character in this group, or in the first other group that can; its group is
     /// set in both cases. Line feed is Return.
-    std::optional<Stroke> find(char32_t character, std::uint8_t group) const;
+    std::optional<Stroke> find(char32_t character, xkb_layout_index_t group) const;
 
   private:
     using Layout = std::unordered_map<char32_t, Stroke>;

@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "platform/KeyCodes.h"
-#include "platform/XkbCodes.h"
 #include "platform/keymap/LabelTables.h"
 
 namespace {
@@ -72,11 +71,7 @@ struct Key {
 
 Key keyOf(const Keymap& keymap, std::uint32_t keyCode) {
     const std::uint32_t baseCode = keyCode & ~keycode::choosers;
-    const auto evdev = keycode::evdevFor(baseCode);
-    const ModifierMasks& masks = keymap.masks();
-    return {baseCode, evdev ? xkbcode::fromEvdev(*evdev) : std::uint8_t{0},
-            ((keyCode & keycode::thirdLevel) != 0 ? masks.thirdLevel : 0) |
-                ((keyCode & keycode::fifthLevel) != 0 ? masks.fifthLevel : 0)};
+    return {baseCode, keymap.keycodeFor(baseCode), keymap.realChoosers(keyCode)};
 }
 
 std::string labelAt(const Keymap& keymap, xkb_layout_index_t layout, const Key& key,

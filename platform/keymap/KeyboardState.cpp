@@ -20,14 +20,14 @@ xkb_layout_index_t KeyboardState::layout() const {
 }
 
 xkb_mod_mask_t KeyboardState::modifiers() const {
-    return xkb_state_serialize_mods(m_state.get(), XKB_STATE_MODS_EFFECTIVE) & 0xFFU;
+    return xkb_state_serialize_mods(m_state.get(), XKB_STATE_MODS_EFFECTIVE) & realModifiers;
 }
 
 XkbComponents KeyboardState::components() const {
     xkb_state* state = m_state.get();
-    return {.depressed = xkb_state_serialize_mods(state, XKB_STATE_MODS_DEPRESSED) & 0xFFU,
-            .latched = xkb_state_serialize_mods(state, XKB_STATE_MODS_LATCHED) & 0xFFU,
-            .locked = xkb_state_serialize_mods(state, XKB_STATE_MODS_LOCKED) & 0xFFU,
+    return {.depressed = xkb_state_serialize_mods(state, XKB_STATE_MODS_DEPRESSED) & realModifiers,
+            .latched = xkb_state_serialize_mods(state, XKB_STATE_MODS_LATCHED) & realModifiers,
+            .locked = xkb_state_serialize_mods(state, XKB_STATE_MODS_LOCKED) & realModifiers,
             .baseLayout = xkb_state_serialize_layout(state, XKB_STATE_LAYOUT_DEPRESSED),
             .latchedLayout = xkb_state_serialize_layout(state, XKB_STATE_LAYOUT_LATCHED),
             .lockedLayout = xkb_state_serialize_layout(state, XKB_STATE_LAYOUT_LOCKED)};

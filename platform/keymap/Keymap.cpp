@@ -1,54 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "platform/keymap/Keymap.h"
 
-#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <functional>
+#include <memory>
+#include <string>
 #include <string_view>
 
+#include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
+#include "platform/XkbCodes.h"
 
 namespace {
 
-constexpr xkb_mod_mask_t realModifiers = 0xFF;
-constexpr auto allModifiers = static_cast<xkb_state_component>(
-    XKB_STATE_MODS_DEPRESSED | XKB_STATE_MODS_LATCHED | XKB_STATE_MODS_LOCKED);
-
-/// What a key is for, by what it is called in the keymap.
+/// A bit of ours, the modifiers that stand for it, and what it is called where no key holds it.
 struct Role {
-    xkb_keysym_t symbol;
+    std::uint32_t flag;
     xkb_mod_mask_t ModifierMasks::*mask;
+    const char* name;
 };
-constexpr std::array<Role, 17> roles = {{{XKB_KEY_Shift_L, &ModifierMasks::shift},
-                                         {XKB_KEY_Shift_R, &ModifierMasks::shift},
-                                         {XKB_KEY_Control_L, &ModifierMasks::control},
-                                         {XKB_KEY_Control_R, &ModifierMasks::control},
-                                         {XKB_KEY_Alt_L, &ModifierMasks::option},
-                                         {XKB_KEY_Alt_R, &ModifierMasks::option},
-                                         {XKB_KEY_Super_L, &ModifierMasks::command},
-                                         {XKB_KEY_Super_R, &ModifierMasks::command},
-                                         {XKB_KEY_Caps_Lock, &ModifierMasks::capsLock},
-                                         {XKB_KEY_Num_Lock, &ModifierMasks::numLock},
-                                         {XKB_KEY_Scroll_Lock, &ModifierMasks::scrollLock},
-                                         {XKB_KEY_ISO_Level3_Shift, &ModifierMasks::thirdLevel},
-                                         {XKB_KEY_ISO_Level3_Latch, &ModifierMasks::thirdLevel},
-                                         {XKB_KEY_ISO_Level3_Lock, &ModifierMasks::thirdLevel},
-                                         {XKB_KEY_ISO_Level5_Shift, &ModifierMasks::fifthLevel},
-                                         {XKB_KEY_ISO_Level5_Latch, &ModifierMasks::fifthLevel},
-                                         {XKB_KEY_ISO_Level5_Lock, &ModifierMasks::fifthLevel}}};
-
-xkb_mod_mask_t maskOf(xkb_keymap* keymap, const char* name) {
-    const xkb_mod_index_t index = xkb_keymap_mod_get_index(keymap, name);
-    return index == XKB_MOD_INVALID ? 0 : xkb_mod_mask_t{1} << index;
-}
-
-/// Also where the keymap gives such a key no effect.
-bool isModifierSymbol(xkb_keysym_t symbol) {
-    return (symbol >= XKB_KEY_Shift_L && symbol <= XKB_KEY_Hyper_R) ||
-           (symbol >= XKB_KEY_ISO_Lock && symbol <= XKB_KEY_ISO_Level3_Lock) ||
-           (symbol >= XKB_KEY_ISO_Level5_Shift && symbol <= XKB_KEY_ISO_Level5_Lock) ||
-           symbol == XKB_KEY_Num_Lock;
-}
+constexpr std::array<Role, 4> modifierRoles = {{{modifier::command, &ModifierMasks::command, "Super"},
+                                                {modifier::control, &ModifierMasks::control, "Control"},
+                                                {modifier::option, &ModifierMasks::option, "Alt"},
+                                                {modifier::shift, &ModifierMasks::shift, "Shift"}}};
+constexpr std::array<Role, 2> chooserRoles = {
+    {{keycode::thirdLevel, &ModifierMasks::thirdLevel, "the third level (AltGr)"},
+     {keycode::fifthLevel, &ModifierMasks::fifthLevel, "the fifth level"}}};
 
 std::size_t fingerprintOf(xkb_keymap* keymap) {
     struct Free {
@@ -58,57 +36,48 @@ std::size_t fingerprintOf(xkb_keymap* keymap) {
     return text ? std::hash<std::string_view>{}(text.get()) : 0;
 }
 
+template <typename Roles>
+std::uint32_t flagsOf(const Roles& roles, const ModifierMasks& masks, xkb_mod_mask_t modifiers) {
+    std::uint32_t flags = 0;
+    for (const Role& role : roles) {
+        if ((modifiers & masks.*role.mask) != 0) flags |= role.flag;
+    }
+    return flags;
+}
+
+template <typename Roles>
+xkb_mod_mask_t masksOf(const Roles& roles, const ModifierMasks& masks, std::uint32_t flags) {
+    xkb_mod_mask_t modifiers = 0;
+    for (const Role& role : roles) {
+        if ((flags & role.flag) != 0) modifiers |= masks.*role.mask;
+    }
+    return modifiers;
+}
+
+/// What the first of the flags that no key holds is called; null if all are held.
+template <typename Roles>
+const char* missing(const Roles& roles, const Keymap& keymap, std::uint32_t flags) {
+    for (const Role& role : roles) {
+        if ((flags & role.flag) != 0 && !keymap.keys().canHold(keymap.masks().*role.mask)) return role.name;
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 Keymap::Keymap(XkbKeymapPointer keymap)
-    : m_keymap(std::move(keymap)), m_scratch(xkb_state_new(get())), m_fingerprint(fingerprintOf(get())) {
-    m_effects.resize(std::max<std::size_t>(1, xkb_keymap_num_layouts(get())));
-    const xkb_keycode_t last = std::min<xkb_keycode_t>(255, xkb_keymap_max_keycode(get()));
-    for (xkb_layout_index_t layout = 0; layout < m_effects.size(); ++layout) {
-        for (xkb_keycode_t keycode = xkb_keymap_min_keycode(get()); keycode <= last; ++keycode) {
-            tryKey(static_cast<std::uint8_t>(keycode), layout);
-        }
-    }
-    if (m_masks.option == 0) m_masks.option = m_meta;
-    m_masks.shift |= maskOf(get(), XKB_MOD_NAME_SHIFT);
-    m_masks.control |= maskOf(get(), XKB_MOD_NAME_CTRL);
-    // Caps Lock may be made a locking Shift; then it is one.
-    const xkb_mod_mask_t held = m_masks.shift | m_masks.control | m_masks.option | m_masks.command;
-    m_masks.capsLock = (m_masks.capsLock | maskOf(get(), XKB_MOD_NAME_CAPS)) & ~held;
-    m_masks.numLock &= ~held;
-    m_masks.scrollLock &= ~held;
-}
+    : m_keymap(std::move(keymap)),
+      m_keys(get()),
+      m_masks(findModifierMasks(get(), m_keys)),
+      m_scratch(xkb_state_new(get())),
+      m_fingerprint(fingerprintOf(get())) {}
 
-void Keymap::tryKey(std::uint8_t keycode, xkb_layout_index_t layout) {
-    if (xkb_keymap_num_layouts_for_key(get(), keycode) == 0) return;
-    const XkbStatePointer state(xkb_state_new(get()));
-    xkb_state_update_mask(state.get(), 0, 0, 0, 0, 0, layout);
-    const xkb_keysym_t symbol = xkb_state_key_get_one_sym(state.get(), keycode);
-    xkb_state_update_key(state.get(), keycode, XKB_KEY_DOWN);
-    KeyEffect& effect = m_effects[layout][keycode];
-    effect.modifiers = xkb_state_serialize_mods(state.get(), allModifiers) & realModifiers;
-    effect.isModifierKey = effect.modifiers != 0 || isModifierSymbol(symbol);
-    noteRole(symbol, effect.modifiers);
-}
-
-void Keymap::noteRole(xkb_keysym_t symbol, xkb_mod_mask_t modifiers) {
-    for (const Role& role : roles) {
-        if (role.symbol == symbol) m_masks.*role.mask |= modifiers;
-    }
-    if (symbol == XKB_KEY_Meta_L || symbol == XKB_KEY_Meta_R) m_meta |= modifiers;
-}
-
-const Keymap::KeyEffect& Keymap::effect(std::uint8_t keycode, xkb_layout_index_t layout) const {
-    // A key with fewer groups than the keymap was tried in each all the same; only the index must exist.
-    return m_effects[std::min<std::size_t>(layout, m_effects.size() - 1)][keycode];
-}
-
-xkb_mod_mask_t Keymap::keyModifiers(std::uint8_t keycode, xkb_layout_index_t layout) const {
-    return effect(keycode, layout).modifiers;
-}
-
-bool Keymap::isModifierKey(std::uint8_t keycode, xkb_layout_index_t layout) const {
-    return effect(keycode, layout).isModifierKey;
+std::uint8_t Keymap::keycodeFor(std::uint32_t keyCode) const {
+    const auto evdev = keycode::evdevFor(keyCode);
+    if (!evdev) return 0;
+    const std::uint8_t keycode = xkbcode::fromEvdev(*evdev);
+    if (keycode < xkb_keymap_min_keycode(get()) || keycode > xkb_keymap_max_keycode(get())) return 0;
+    return keycode;
 }
 
 xkb_keysym_t Keymap::symbol(std::uint8_t keycode, xkb_mod_mask_t modifiers, xkb_layout_index_t layout) const {
@@ -117,22 +86,23 @@ xkb_keysym_t Keymap::symbol(std::uint8_t keycode, xkb_mod_mask_t modifiers, xkb_
 }
 
 std::uint32_t Keymap::reported(xkb_mod_mask_t modifiers) const {
-    std::uint32_t result = 0;
-    if ((modifiers & m_masks.command) != 0) result |= modifier::command;
-    if ((modifiers & m_masks.shift) != 0) result |= modifier::shift;
-    if ((modifiers & m_masks.option) != 0) result |= modifier::option;
-    if ((modifiers & m_masks.control) != 0) result |= modifier::control;
-    return result;
+    return flagsOf(modifierRoles, m_masks, modifiers);
 }
 
-std::optional<xkb_mod_mask_t> Keymap::real(std::uint32_t reported) const {
-    xkb_mod_mask_t result = 0;
-    const auto add = [&](std::uint32_t bit, xkb_mod_mask_t mask) {
-        if ((reported & bit) == 0) return true;
-        result |= mask;
-        return mask != 0;
-    };
-    const bool complete = add(modifier::command, m_masks.command) && add(modifier::shift, m_masks.shift) &&
-                          add(modifier::option, m_masks.option) && add(modifier::control, m_masks.control);
-    return complete ? std::optional(result) : std::nullopt;
+std::uint32_t Keymap::reportedChoosers(xkb_mod_mask_t modifiers) const {
+    return flagsOf(chooserRoles, m_masks, modifiers);
+}
+
+xkb_mod_mask_t Keymap::realChoosers(std::uint32_t keyCode) const {
+    return masksOf(chooserRoles, m_masks, keyCode);
+}
+
+Result<xkb_mod_mask_t> Keymap::real(std::uint32_t modifiers, std::uint32_t keyCode) const {
+    const char* name = missing(modifierRoles, *this, modifiers);
+    if (name == nullptr) name = missing(chooserRoles, *this, keyCode);
+    if (name != nullptr) {
+        return Error{std::string("The keyboard layout has no key for ") + name + ".",
+                     "Choose a keyboard layout that has one."};
+    }
+    return masksOf(modifierRoles, m_masks, modifiers) | realChoosers(keyCode);
 }

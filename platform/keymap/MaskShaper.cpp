@@ -53,7 +53,8 @@ class Shaper {
         const bool keypad = keycode::isKeypadDigit(m_baseCode);
         const bool digit = keypad && typesTheSame(symbol(unlocked() | m_masks.numLock), m_typed);
         const std::optional<bool> shift = shiftThatTypesTheSame(digit ? m_masks.numLock : 0);
-        TypedKey key{.keyCode = choosers() | (keypad && !digit ? navigationCode() : m_baseCode),
+        TypedKey key{.keyCode = m_keymap.reportedChoosers(m_modifiers) |
+                                (keypad && !digit ? navigationCode() : m_baseCode),
                      .character = asciiOf(m_typed),
                      .modifiers = m_keymap.reported(m_modifiers & commandMask())};
         const bool typedByBase = !keypad || digit;
@@ -93,11 +94,6 @@ class Shaper {
         if (!shift) return 0;
         const bool byCapsLock = !shiftHeld() && character >= 'A' && character <= 'Z';
         return byCapsLock ? modifier::capsLock : modifier::shift;
-    }
-
-    std::uint32_t choosers() const {
-        return ((m_modifiers & m_masks.thirdLevel) != 0 ? keycode::thirdLevel : 0) |
-               ((m_modifiers & m_masks.fifthLevel) != 0 ? keycode::fifthLevel : 0);
     }
 
     std::uint32_t navigationCode() const {

@@ -3,74 +3,87 @@
 
 #include <algorithm>
 
+#include "platform/XkbCodes.h"
+#include "platform/keymap/ModifierMasks.h"
 #include "platform/keymap/XkbPointers.h"
 
 namespace {
 
-constexpr std::uint32_t realModifiers = 0xFF;
-
-/// Left Shift, Control, Alt and Super and the right Alt that is AltGr, where a keyboard has them. A bit is
-/// held by one of these if the keymap says so; otherwise by the lowest key that it gives it.
+/// Left Shift, Control, Alt and Super and the right Alt that is AltGr, where a keyboard has them. A modifier
+/// is held by one of these if the keymap says so; otherwise by the lowest key that sets it.
 constexpr std::array<std::uint8_t, 5> usualKeys = {50, 37, 64, 133, 108};
 
-struct Effect {
-    std::uint8_t held = 0;
-    bool isMomentary = false;
-    bool isLock = false;
-};
-
-std::uint8_t modifiersOf(xkb_state* state, xkb_state_component component) {
-    return static_cast<std::uint8_t>(xkb_state_serialize_mods(state, component) & realModifiers);
+xkb_mod_mask_t modifiersOf(xkb_state* state, xkb_state_component component) {
+    return xkb_state_serialize_mods(state, component) & realModifiers;
 }
 
-Effect effectOf(xkb_keymap* keymap, std::uint8_t keycode, xkb_layout_index_t layout) {
-    const XkbStatePointer state(xkb_state_new(keymap));
-    xkb_state_update_mask(state.get(), 0, 0, 0, 0, 0, layout);
-    xkb_state_update_key(state.get(), keycode, XKB_KEY_DOWN);
-    Effect effect;
-    effect.held = modifiersOf(state.get(), XKB_STATE_MODS_DEPRESSED);
-    const bool moves = xkb_state_serialize_layout(state.get(), XKB_STATE_LAYOUT_EFFECTIVE) != layout;
-    xkb_state_update_key(state.get(), keycode, XKB_KEY_UP);
-    effect.isLock = modifiersOf(state.get(), XKB_STATE_MODS_EFFECTIVE) != 0;
-    effect.isMomentary = !moves && !effect.isLock;
-    return effect;
+/// Also where the keymap gives such a key no effect.
+bool isModifierSymbol(xkb_keysym_t symbol) {
+    return (symbol >= XKB_KEY_Shift_L && symbol <= XKB_KEY_Hyper_R) ||
+           (symbol >= XKB_KEY_ISO_Lock && symbol <= XKB_KEY_ISO_Level3_Lock) ||
+           (symbol >= XKB_KEY_ISO_Level5_Shift && symbol <= XKB_KEY_ISO_Level5_Lock) ||
+           symbol == XKB_KEY_Num_Lock;
 }
 
 }  // namespace
 
-ModifierKeys::ModifierKeys(xkb_keymap* keymap) {
-    const auto last = std::min<xkb_keycode_t>(255, xkb_keymap_max_keycode(keymap));
+ModifierKeys::ModifierKeys(xkb_keymap* keymap)
+    : m_effects(std::max<std::size_t>(1, xkb_keymap_num_layouts(keymap))) {
+    const auto last = std::min<xkb_keycode_t>(xkbcode::last, xkb_keymap_max_keycode(keymap));
     for (auto keycode = xkb_keymap_min_keycode(keymap); keycode <= last; ++keycode) {
-        if (xkb_keymap_num_layouts_for_key(keymap, keycode) > 0) {
-            examine(keymap, static_cast<std::uint8_t>(keycode));
+        if (xkb_keymap_num_layouts_for_key(keymap, keycode) == 0) continue;
+        // A key with fewer groups than the keymap has its own rule for the others; trying follows it.
+        for (xkb_layout_index_t layout = 0; layout < m_effects.size(); ++layout) {
+            tryKey(keymap, static_cast<std::uint8_t>(keycode), layout);
         }
     }
 }
 
-void ModifierKeys::examine(xkb_keymap* keymap, std::uint8_t keycode) {
-    const auto layouts = xkb_keymap_num_layouts_for_key(keymap, keycode);
-    for (xkb_layout_index_t layout = 0; layout < layouts; ++layout) {
-        const Effect effect = effectOf(keymap, keycode, layout);
-        const std::uint8_t momentary = effect.isMomentary ? effect.held : std::uint8_t{0};
-        if (layout == 0) m_momentary[keycode] = momentary;
-        if (m_momentary[keycode] != momentary) m_momentary[keycode] = 0;
-        if (effect.isLock) m_locks.set(keycode);
-        m_held[keycode] = static_cast<std::uint8_t>(m_held[keycode] | effect.held);
-    }
+void ModifierKeys::tryKey(xkb_keymap* keymap, std::uint8_t keycode, xkb_layout_index_t layout) {
+    const XkbStatePointer state(xkb_state_new(keymap));
+    xkb_state_update_mask(state.get(), 0, 0, 0, 0, 0, layout);
+    const xkb_keysym_t symbol = xkb_state_key_get_one_sym(state.get(), keycode);
+
+    xkb_state_update_key(state.get(), keycode, XKB_KEY_DOWN);
+    Effect& effect = m_effects[layout][keycode];
+    effect.set = modifiersOf(state.get(), XKB_STATE_MODS_EFFECTIVE);
+    effect.isModifierKey = effect.set != 0 || isModifierSymbol(symbol);
+    const xkb_mod_mask_t held = modifiersOf(state.get(), XKB_STATE_MODS_DEPRESSED);
+    const bool moves = xkb_state_serialize_layout(state.get(), XKB_STATE_LAYOUT_EFFECTIVE) != layout;
+
+    xkb_state_update_key(state.get(), keycode, XKB_KEY_UP);
+    const bool isLock = modifiersOf(state.get(), XKB_STATE_MODS_EFFECTIVE) != 0;
+    const xkb_mod_mask_t momentary = moves || isLock ? 0 : held;
+    if (layout == 0) m_momentary[keycode] = momentary;
+    if (m_momentary[keycode] != momentary) m_momentary[keycode] = 0;
+    if (isLock) m_locks.set(keycode);
+    m_held[keycode] |= held;
 }
 
-std::uint8_t ModifierKeys::keyFor(std::uint8_t bit) const {
-    const auto* const usual = std::find_if(usualKeys.begin(), usualKeys.end(),
-                                           [&](std::uint8_t keycode) { return m_momentary[keycode] == bit; });
+const ModifierKeys::Effect& ModifierKeys::effect(std::uint8_t keycode, xkb_layout_index_t layout) const {
+    return m_effects[std::min<std::size_t>(layout, m_effects.size() - 1)][keycode];
+}
+
+xkb_mod_mask_t ModifierKeys::setBy(std::uint8_t keycode, xkb_layout_index_t layout) const {
+    return effect(keycode, layout).set;
+}
+
+bool ModifierKeys::isModifierKey(std::uint8_t keycode, xkb_layout_index_t layout) const {
+    return effect(keycode, layout).isModifierKey;
+}
+
+std::uint8_t ModifierKeys::keyFor(xkb_mod_mask_t modifier) const {
+    const auto* const usual = std::find_if(usualKeys.begin(), usualKeys.end(), [&](std::uint8_t keycode) {
+        return m_momentary[keycode] == modifier;
+    });
     if (usual != usualKeys.end()) return *usual;
-    const auto* const any = std::find(m_momentary.begin(), m_momentary.end(), bit);
+    const auto* const any = std::find(m_momentary.begin(), m_momentary.end(), modifier);
     return any == m_momentary.end() ? std::uint8_t{0} : static_cast<std::uint8_t>(any - m_momentary.begin());
 }
 
-bool ModifierKeys::canHold(std::uint8_t mask) const {
-    for (int bit = 0; bit < 8; ++bit) {
-        const auto single = static_cast<std::uint8_t>(mask & (1U << bit));
-        if (single != 0 && keyFor(single) == 0) return false;
+bool ModifierKeys::canHold(xkb_mod_mask_t mask) const {
+    for (xkb_mod_mask_t modifier = 1; modifier <= realModifiers; modifier <<= 1U) {
+        if ((mask & modifier) != 0 && keyFor(modifier) == 0) return false;
     }
     return mask != 0;
 }

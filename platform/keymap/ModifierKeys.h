@@ -6,45 +6,47 @@
 #include <array>
 #include <bitset>
 #include <cstdint>
+#include <vector>
 
-/// Which X modifier bits stand for what. Shift, Lock and Control are fixed by the X protocol; the others are
-/// the keymap's virtual modifiers Alt, Super, NumLock, LevelThree and LevelFive, 0 where it has none.
-struct ModifierMasks {
-    static constexpr std::uint8_t shift = 0x01;
-    static constexpr std::uint8_t lock = 0x02;
-    static constexpr std::uint8_t control = 0x04;
-    std::uint8_t option = 0;
-    std::uint8_t command = 0;
-    std::uint8_t numLock = 0;
-    std::uint8_t levelThree = 0;
-    std::uint8_t levelFive = 0;
-
-    friend bool operator==(const ModifierMasks&, const ModifierMasks&) = default;
-};
-
-/// The keys that hold modifiers down, found by trying every key of a keymap: an option that swaps or moves
-/// modifier keys is followed.
+/// What each key of a keymap does to the modifiers (real ones, see ModifierMasks.h).
+///
+/// Why by trying: virtual modifiers may lie on any real ones and any key may set them; pressing each key on a
+/// state of its own shows it, whatever the rules and options of the layout are.
 class ModifierKeys {
   public:
     explicit ModifierKeys(xkb_keymap* keymap);
 
-    /// The key that holds exactly this one bit in every layout, the usual position of a keyboard first; 0 if
-    /// there is none.
-    std::uint8_t keyFor(std::uint8_t bit) const;
-    /// Whether each bit of `mask`, which must not be 0, has a key.
-    bool canHold(std::uint8_t mask) const;
+    /// The modifiers that the key sets in a layout when it is pressed with nothing else down, locks included.
+    xkb_mod_mask_t setBy(std::uint8_t keycode, xkb_layout_index_t layout) const;
+    /// True for modifier, lock and level-chooser keys; keys that switch the group are ordinary ones.
+    bool isModifierKey(std::uint8_t keycode, xkb_layout_index_t layout) const;
 
-    /// The bits that the key holds while it is down, of all layouts together.
-    std::uint8_t heldBy(std::uint8_t keycode) const { return m_held[keycode]; }
+    /// The key that holds exactly this one modifier in every layout, the usual position of a keyboard first;
+    /// 0 if there is none.
+    std::uint8_t keyFor(xkb_mod_mask_t modifier) const;
+    /// Whether each modifier of `mask`, which must not be 0, has such a key.
+    bool canHold(xkb_mod_mask_t mask) const;
+
+    /// The modifiers that the key holds while it is down, of all layouts together.
+    xkb_mod_mask_t heldBy(std::uint8_t keycode) const { return m_held[keycode]; }
 
     /// Whether a stroke of the key leaves a lock or a latch behind.
     bool isLock(std::uint8_t keycode) const { return m_locks[keycode]; }
 
   private:
-    void examine(xkb_keymap* keymap, std::uint8_t keycode);
+    struct Effect {
+        xkb_mod_mask_t set = 0;
+        bool isModifierKey = false;
+    };
+    using LayoutEffects = std::array<Effect, 256>;
 
-    std::array<std::uint8_t, 256> m_held{};
-    /// The bits held where they are the same in all layouts and nothing is left of them afterwards; else 0.
-    std::array<std::uint8_t, 256> m_momentary{};
+    void tryKey(xkb_keymap* keymap, std::uint8_t keycode, xkb_layout_index_t layout);
+    const Effect& effect(std::uint8_t keycode, xkb_layout_index_t layout) const;
+
+    std::vector<LayoutEffects> m_effects;
+    std::array<xkb_mod_mask_t, 256> m_held{};
+    /// The modifiers held where they are the same in all layouts and nothing is left of them afterwards; else
+    /// 0.
+    std::array<xkb_mod_mask_t, 256> m_momentary{};
     std::bitset<256> m_locks;
 };

@@ -18,7 +18,7 @@ void KeyInterpreter::key(const RawKey& key, const KeyOrigin& origin) {
 }
 
 void KeyInterpreter::press(const RawKey& key, const KeyOrigin& origin) {
-    const bool isModifierKey = m_keyboard.keymap().isModifierKey(key.keycode, m_keyboard.layout());
+    const bool isModifierKey = m_keyboard.keymap().keys().isModifierKey(key.keycode, m_keyboard.layout());
     watchEscape(key);
     DownKey& held = m_held.press(key);
     held.isModifierKey = isModifierKey;
@@ -35,7 +35,7 @@ void KeyInterpreter::press(const RawKey& key, const KeyOrigin& origin) {
 }
 
 void KeyInterpreter::pressModifier(const RawKey& key, DownKey& held) {
-    held.modifiers = m_keyboard.keymap().keyModifiers(key.keycode, m_keyboard.layout()) &
+    held.modifiers = m_keyboard.keymap().keys().setBy(key.keycode, m_keyboard.layout()) &
                      ~m_keyboard.keymap().masks().locks();
     m_keyboard.feed(key.keycode, true);
     if (!key.synthetic) m_modifierPressed = true;
@@ -106,8 +106,8 @@ void KeyInterpreter::keyboardGone(std::uint16_t source, ServerTime time) {
 void KeyInterpreter::startWith(const std::vector<std::uint8_t>& keycodes) {
     for (const std::uint8_t keycode : keycodes) {
         DownKey& held = m_held.press({.keycode = keycode, .press = true, .source = DownKeys::anySource});
-        held.isModifierKey = m_keyboard.keymap().isModifierKey(keycode, m_keyboard.layout());
-        held.modifiers = m_keyboard.keymap().keyModifiers(keycode, m_keyboard.layout()) &
+        held.isModifierKey = m_keyboard.keymap().keys().isModifierKey(keycode, m_keyboard.layout());
+        held.modifiers = m_keyboard.keymap().keys().setBy(keycode, m_keyboard.layout()) &
                          ~m_keyboard.keymap().masks().locks();
     }
     reportModifiers(heldMask());

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstring>
 #include <span>
-#include <string>
 
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/server/XcbXkb.h"
@@ -17,7 +16,6 @@ namespace {
 constexpr std::uint16_t typesAndSymbols = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_PART_KEY_SYMS;
 constexpr std::uint16_t actionParts = XCB_XKB_MAP_PART_KEY_ACTIONS | XCB_XKB_MAP_PART_MODIFIER_MAP |
                                       XCB_XKB_MAP_PART_VIRTUAL_MODS | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
-constexpr unsigned virtualModifierCount = 16;
 
 /// Takes one record after the other out of a reply; short data fails every later take.
 class Reader {
@@ -102,40 +100,6 @@ void appendKey(std::vector<std::byte>& bytes, const KeySymbols& key) {
     append(bytes, key.symbols.data(), key.symbols.size() * sizeof(std::uint32_t));
 }
 
-/// The X modifier bits of each of the 16 virtual modifiers.
-std::array<std::uint8_t, virtualModifierCount> readVirtualModifiers(xcb_connection_t* connection) {
-    std::array<std::uint8_t, virtualModifierCount> masks{};
-    const auto reply = wholeParts(connection, XCB_XKB_ID_USE_CORE_KBD, XCB_XKB_MAP_PART_VIRTUAL_MODS);
-    if (!reply) return masks;
-    Reader reader = bodyOf(*reply);
-    for (unsigned index = 0; index < virtualModifierCount; ++index) {
-        if ((reply->virtualMods >> index & 1U) != 0) masks[index] = reader.take<std::uint8_t>();
-    }
-    return masks;
-}
-
-std::array<std::string, virtualModifierCount> readVirtualModifierNames(xcb_connection_t* connection) {
-    std::array<std::string, virtualModifierCount> names;
-    const XReply<xcb_xkb_get_names_reply_t> reply(xcb_xkb_get_names_reply(
-        connection,
-        xcb_xkb_get_names(connection, XCB_XKB_ID_USE_CORE_KBD, XCB_XKB_NAME_DETAIL_VIRTUAL_MOD_NAMES),
-        nullptr));
-    if (!reply) return names;
-    Reader reader = bodyOf(*reply);
-    for (unsigned index = 0; index < virtualModifierCount; ++index) {
-        if ((reply->virtualMods >> index & 1U) == 0) continue;
-        const auto atom = reader.take<xcb_atom_t>();
-        if (atom == XCB_ATOM_NONE) continue;
-        const XReply<xcb_get_atom_name_reply_t> name(
-            xcb_get_atom_name_reply(connection, xcb_get_atom_name(connection, atom), nullptr));
-        if (name) {
-            names[index].assign(xcb_get_atom_name_name(name.get()),
-                                static_cast<std::size_t>(xcb_get_atom_name_name_length(name.get())));
-        }
-    }
-    return names;
-}
-
 }  // namespace
 
 std::optional<DeviceMap> readDeviceMap(xcb_connection_t* connection, std::uint16_t device) {
@@ -177,30 +141,15 @@ std::vector<std::byte> readActions(xcb_connection_t* connection) {
     return bytes;
 }
 
-ModifierMasks readModifierMasks(xcb_connection_t* connection) {
-    const auto masks = readVirtualModifiers(connection);
-    const auto names = readVirtualModifierNames(connection);
-    const auto named = [&](const char* name) {
-        const auto* const place = std::find(names.begin(), names.end(), name);
-        return place == names.end() ? std::uint8_t{0}
-                                    : masks[static_cast<std::size_t>(place - names.begin())];
-    };
-    return ModifierMasks{.option = named("Alt"),
-                         .command = named("Super"),
-                         .numLock = named("NumLock"),
-                         .levelThree = named("LevelThree"),
-                         .levelFive = named("LevelFive")};
-}
-
-std::optional<std::uint8_t> fourLevelType(const DeviceMap& map, std::uint8_t levelThree) {
-    if (levelThree == 0) return std::nullopt;
-    const auto both = static_cast<std::uint8_t>(ModifierMasks::shift | levelThree);
+std::optional<std::uint8_t> fourLevelType(const DeviceMap& map, const ModifierMasks& masks) {
+    if (masks.thirdLevel == 0) return std::nullopt;
+    const xkb_mod_mask_t both = masks.shift | masks.thirdLevel;
     const auto fits = [&](const KeyType& type) {
         if (type.levels != 4 || type.modifiers != both) return false;
         std::array<bool, 4> selected = {true, false, false, false};
         for (const auto& entry : type.entries) {
-            if (entry.modifiers == ModifierMasks::shift) selected[1] = entry.level == 1;
-            if (entry.modifiers == levelThree) selected[2] = entry.level == 2;
+            if (entry.modifiers == masks.shift) selected[1] = entry.level == 1;
+            if (entry.modifiers == masks.thirdLevel) selected[2] = entry.level == 2;
             if (entry.modifiers == both) selected[3] = entry.level == 3;
         }
         return std::all_of(selected.begin(), selected.end(), [](bool is) { return is; });

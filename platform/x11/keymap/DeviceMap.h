@@ -9,7 +9,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/keymap/ModifierKeys.h"
+#include "platform/keymap/ModifierMasks.h"
 
 namespace x11 {
 
@@ -62,11 +62,8 @@ bool writeKeySymbols(xcb_connection_t* connection, std::uint16_t device, const D
 /// What the core keyboard's keys do beside typing, as the server writes it: of use for comparing only.
 std::vector<std::byte> readActions(xcb_connection_t* connection);
 
-/// The keymap's virtual modifiers as X modifier bits.
-ModifierMasks readModifierMasks(xcb_connection_t* connection);
-
 /// The type that selects level 1 by Shift, level 2 by the third-level chooser and level 3 by both; empty if
 /// there is none.
-std::optional<std::uint8_t> fourLevelType(const DeviceMap& map, std::uint8_t levelThree);
+std::optional<std::uint8_t> fourLevelType(const DeviceMap& map, const ModifierMasks& masks);
 
 }  // namespace x11

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "platform/x11/keymap/ServerKeymap.h"
 #include "platform/x11/server/XcbXkb.h"
 
 namespace x11 {
@@ -18,10 +19,6 @@ constexpr std::uint16_t watchedParts = XCB_XKB_MAP_PART_KEY_TYPES | XCB_XKB_MAP_
                                        XCB_XKB_MAP_PART_MODIFIER_MAP | XCB_XKB_MAP_PART_KEY_ACTIONS |
                                        XCB_XKB_MAP_PART_VIRTUAL_MODS | XCB_XKB_MAP_PART_VIRTUAL_MOD_MAP;
 
-Error unreadable() {
-    return Error{"The keymap of the X server cannot be read.", "Set a keyboard layout, then play again."};
-}
-
 /// Whether two maps differ in anything but the keys of `own`.
 bool differ(const DeviceMap& left, const DeviceMap& right, const KeycodeSet& own) {
     if (left.types != right.types || left.firstKeycode != right.firstKeycode) return true;
@@ -33,8 +30,7 @@ bool differ(const DeviceMap& left, const DeviceMap& right, const KeycodeSet& own
 
 }  // namespace
 
-KeymapWatch::KeymapWatch(XConnection connection)
-    : m_connection(std::move(connection)), m_context(xkb_context_new(XKB_CONTEXT_NO_FLAGS)) {}
+KeymapWatch::KeymapWatch(XConnection connection) : m_connection(std::move(connection)) {}
 
 Result<std::unique_ptr<KeymapWatch>> KeymapWatch::open(const std::string& display) {
     auto connection = XConnection::open(display);
@@ -44,7 +40,7 @@ Result<std::unique_ptr<KeymapWatch>> KeymapWatch::open(const std::string& displa
         xkb_x11_setup_xkb_extension(watch->m_connection, 1, 0, XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr,
                                     nullptr, &watch->m_firstEvent, nullptr);
     watch->m_coreDevice = xkb_x11_get_core_keyboard_device_id(watch->m_connection);
-    if (isStarted == 0 || watch->m_coreDevice < 0 || !watch->m_context) return unreadable();
+    if (isStarted == 0 || watch->m_coreDevice < 0) return unreadableKeymap();
     const XReply<xcb_input_xi_query_version_reply_t> input(xcb_input_xi_query_version_reply(
         watch->m_connection, xcb_input_xi_query_version(watch->m_connection, 2, 2), nullptr));
     xcb_xkb_select_events(watch->m_connection, XCB_XKB_ID_USE_CORE_KBD, watchedEvents, 0, watchedEvents,
@@ -56,20 +52,20 @@ Result<std::unique_ptr<KeymapWatch>> KeymapWatch::open(const std::string& displa
 
 Result<void> KeymapWatch::read() {
     auto map = readDeviceMap(m_connection, XCB_XKB_ID_USE_CORE_KBD);
-    XkbKeymapPointer keymap(xkb_x11_keymap_new_from_device(m_context.get(), m_connection, m_coreDevice,
-                                                           XKB_KEYMAP_COMPILE_NO_FLAGS));
-    if (!map || !keymap) return unreadable();
+    if (!map) return unreadableKeymap();
+    auto keymap = keymapOfServer(m_connection);
+    if (!keymap) return keymap.error();
     m_map = std::move(*map);
     m_actions = readActions(m_connection);
-    m_keymap =
-        std::make_unique<InjectorKeymap>(std::move(keymap), readModifierMasks(m_connection), m_ownKeys);
+    m_keymap = std::move(keymap).value();
+    m_characters = CharacterTable(*m_keymap, m_ownKeys);
     return {};
 }
 
 Result<bool> KeymapWatch::refresh(bool thorough) {
     if (!takeNotices(thorough)) return false;
     auto map = readDeviceMap(m_connection, XCB_XKB_ID_USE_CORE_KBD);
-    if (!map) return unreadable();
+    if (!map) return unreadableKeymap();
     const bool isNew = differ(*map, m_map, m_ownKeys) || readActions(m_connection) != m_actions;
     m_map = std::move(*map);
     if (isNew) {

@@ -3,9 +3,10 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <vector>
 
-#include "platform/keymap/InjectorKeymap.h"
+#include "platform/keymap/CharacterTable.h"
 #include "platform/x11/keymap/DeviceMap.h"
 #include "platform/x11/server/SlaveKeyboards.h"
 #include "platform/x11/server/XConnection.h"
@@ -25,12 +26,15 @@ class KeymapWatch {
     /// `thorough` a round trip makes sure that everything up to now is seen.
     Result<bool> refresh(bool thorough);
 
-    const InjectorKeymap& keymap() const { return *m_keymap; }
+    const Keymap& keymap() const { return *m_keymap; }
+    /// Where the keymap types each character.
+    const CharacterTable& characters() const { return *m_characters; }
     /// The core keyboard's map.
     const DeviceMap& map() const { return m_map; }
     const XConnection& connection() const { return m_connection; }
 
-    /// Keys whose meaning is our own: they are left out of the keymap, and changes of them make nothing anew.
+    /// Keys whose meaning is our own: they are left out of characters(), and changes of them make nothing
+    /// anew.
     void setOwnKeys(const KeycodeSet& keys);
 
     /// The keyboards below the core keyboard.
@@ -43,13 +47,13 @@ class KeymapWatch {
     bool takeNotices(bool thorough);
 
     XConnection m_connection;
-    XkbContextPointer m_context;
     std::uint8_t m_firstEvent = 0;
     std::int32_t m_coreDevice = -1;
     KeycodeSet m_ownKeys;
     DeviceMap m_map;
     std::vector<std::byte> m_actions;
-    std::unique_ptr<InjectorKeymap> m_keymap;
+    std::unique_ptr<Keymap> m_keymap;
+    std::optional<CharacterTable> m_characters;
 };
 
 }  // namespace x11

@@ -7,22 +7,16 @@ namespace x11 {
 
 namespace {
 
-constexpr std::uint8_t allModifiers = 0xFF;
-
-std::uint8_t without(std::uint8_t bits, std::uint8_t removed) {
-    return static_cast<std::uint8_t>(bits & ~removed);
-}
-
-std::uint8_t heldModifiers(const ModifierKeys& keys, const KeycodeSet& held) {
-    unsigned modifiers = 0;
+xkb_mod_mask_t heldModifiers(const ModifierKeys& keys, const KeycodeSet& held) {
+    xkb_mod_mask_t modifiers = 0;
     for (std::size_t keycode = 0; keycode < held.size(); ++keycode) {
         if (held[keycode]) modifiers |= keys.heldBy(static_cast<std::uint8_t>(keycode));
     }
-    return static_cast<std::uint8_t>(modifiers);
+    return modifiers;
 }
 
 /// The keys of `among` that hold one of the modifiers.
-KeycodeSet holdersOf(const ModifierKeys& keys, std::uint8_t modifiers, const KeycodeSet& among) {
+KeycodeSet holdersOf(const ModifierKeys& keys, xkb_mod_mask_t modifiers, const KeycodeSet& among) {
     KeycodeSet holders;
     for (std::size_t keycode = 0; keycode < among.size(); ++keycode) {
         holders[keycode] =
@@ -42,43 +36,44 @@ void releaseAll(InjectionConnection& connection, const KeycodeSet& keys) {
 Result<bool> HandsAndLocks::takeOver(const KeymapWatch& keymap) {
     const auto state = m_connection.synchronise();
     if (!state) return state.error();
-    const InjectorKeymap& map = keymap.keymap();
+    const Keymap& map = keymap.keymap();
     m_afterwards = state.value().locked;
-    const auto told = tellGuard(state.value().lockedGroup);
+    const auto told = tellGuard(state.value().lockedLayout);
     if (!told) return told.error();
     m_hasTakenOver = true;
     m_watch.takeModifierPress();
     KeycodeSet down = keysDown(keymap);
-    if (state.value().base != 0) down |= holdersOf(map.keys(), state.value().base, KeycodeSet().set());
+    const xkb_mod_mask_t held = state.value().depressed;
+    if (held != 0) down |= holdersOf(map.keys(), held, KeycodeSet().set());
     releaseAll(m_connection, down);
-    const std::uint8_t inTheWay = without(state.value().locked, map.masks().numLock);
+    const xkb_mod_mask_t inTheWay = state.value().locked & ~map.masks().numLock;
     if (inTheWay != 0) m_connection.lockModifiers(inTheWay, 0);
-    if (state.value().latched != 0 || state.value().hasOtherGroup) m_connection.clearLatches();
-    m_current = without(state.value().locked, inTheWay);
+    if (state.value().latched != 0 || state.value().movesLayout()) m_connection.clearLatches();
+    m_current = state.value().locked & ~inTheWay;
     const auto done = m_connection.synchronise();
     if (!done) return done.error();
     return down.any();
 }
 
-Result<InputState> HandsAndLocks::check(const KeymapWatch& keymap, const KeycodeSet& held) {
+Result<XkbComponents> HandsAndLocks::check(const KeymapWatch& keymap, const KeycodeSet& held) {
     auto state = m_connection.synchronise();
     if (!state) return state;
     const bool isRepaired = repair(keymap, held, state.value());
-    const auto told = tellGuard(state.value().lockedGroup);
+    const auto told = tellGuard(state.value().lockedLayout);
     if (!told) return told.error();
     return isRepaired ? m_connection.synchronise() : state;
 }
 
 /// Queues what has to be done; true if there is something.
-bool HandsAndLocks::repair(const KeymapWatch& keymap, const KeycodeSet& held, const InputState& state) {
-    const InjectorKeymap& map = keymap.keymap();
-    const std::uint8_t own = held.any() ? heldModifiers(map.keys(), held) : std::uint8_t{0};
-    const std::uint8_t foreign = without(state.base, own);
-    const std::uint8_t undone = without(own, state.base);
+bool HandsAndLocks::repair(const KeymapWatch& keymap, const KeycodeSet& held, const XkbComponents& state) {
+    const Keymap& map = keymap.keymap();
+    const xkb_mod_mask_t own = held.any() ? heldModifiers(map.keys(), held) : 0;
+    const xkb_mod_mask_t foreign = state.depressed & ~own;
+    const xkb_mod_mask_t undone = own & ~state.depressed;
     const bool hasPress = m_watch.takeModifierPress();
     bool isDone = changeLocksBack(state.locked, map.masks().numLock);
     if (state.latched != 0) m_connection.clearLatches();
-    if (foreign != 0 || state.hasOtherGroup || hasPress) {
+    if (foreign != 0 || state.movesLayout() || hasPress) {
         release(keymap, foreign, held);
         isDone = true;
     }
@@ -94,9 +89,9 @@ bool HandsAndLocks::repair(const KeymapWatch& keymap, const KeycodeSet& held, co
 
 /// Releases the modifier keys that are down on a keyboard; where none is seen to be, all that hold the
 /// modifiers.
-void HandsAndLocks::release(const KeymapWatch& keymap, std::uint8_t modifiers, const KeycodeSet& held) {
+void HandsAndLocks::release(const KeymapWatch& keymap, xkb_mod_mask_t modifiers, const KeycodeSet& held) {
     const ModifierKeys& keys = keymap.keymap().keys();
-    const KeycodeSet down = holdersOf(keys, allModifiers, keysDown(keymap)) & ~held;
+    const KeycodeSet down = holdersOf(keys, realModifiers, keysDown(keymap)) & ~held;
     releaseAll(m_connection, down);
     if (holdersOf(keys, modifiers, down).none()) {
         releaseAll(m_connection, holdersOf(keys, modifiers, ~held));
@@ -104,13 +99,13 @@ void HandsAndLocks::release(const KeymapWatch& keymap, std::uint8_t modifiers, c
     m_connection.clearLatches();
 }
 
-bool HandsAndLocks::changeLocksBack(std::uint8_t locked, std::uint8_t numLock) {
-    const auto changed = static_cast<std::uint8_t>(locked ^ m_current);
+bool HandsAndLocks::changeLocksBack(xkb_mod_mask_t locked, xkb_mod_mask_t numLock) {
+    const xkb_mod_mask_t changed = locked ^ m_current;
     if (changed == 0) return false;
     m_afterwards ^= changed;
     // Num Lock changes no stroke but a keypad digit's, which sets it for itself.
-    m_current ^= static_cast<std::uint8_t>(changed & numLock);
-    const std::uint8_t back = without(changed, numLock);
+    m_current ^= changed & numLock;
+    const xkb_mod_mask_t back = changed & ~numLock;
     if (back != 0) m_connection.lockModifiers(back, m_current);
     return back != 0;
 }
@@ -126,15 +121,16 @@ void HandsAndLocks::giveBack() {
     if (!std::exchange(m_hasTakenOver, false)) return;
     const auto state = m_connection.synchronise();
     if (!state) return;
-    m_afterwards ^= static_cast<std::uint8_t>(state.value().locked ^ m_current);
-    if (state.value().locked != m_afterwards) m_connection.lockModifiers(allModifiers, m_afterwards);
+    m_afterwards ^= state.value().locked ^ m_current;
+    if (state.value().locked != m_afterwards) m_connection.lockModifiers(realModifiers, m_afterwards);
     // The state is of no use any more, but with it all of it has been worked off.
     [[maybe_unused]] const auto ignored = m_connection.synchronise();
 }
 
-Result<void> HandsAndLocks::tellGuard(std::uint8_t group) {
-    return m_guard.tell(
-        {.kind = GuardMessage::Kind::running, .lockedModifiers = m_afterwards, .lockedGroup = group});
+Result<void> HandsAndLocks::tellGuard(xkb_layout_index_t group) {
+    return m_guard.tell({.kind = GuardMessage::Kind::running,
+                         .lockedModifiers = static_cast<std::uint8_t>(m_afterwards),
+                         .lockedGroup = static_cast<std::uint8_t>(group)});
 }
 
 KeycodeSet HandsAndLocks::keysDown(const KeymapWatch& keymap) const {

@@ -28,7 +28,7 @@ class HandsAndLocks {
     /// Brings everything in order before a stroke and tells the state then; a round trip. `held` are the keys
     /// that the run itself holds down, which are pressed again where the user's release has undone them. The
     /// locked group must be the user's own.
-    Result<InputState> check(const KeymapWatch& keymap, const KeycodeSet& held);
+    Result<XkbComponents> check(const KeymapWatch& keymap, const KeycodeSet& held);
 
     /// Takes the locks as they are for the run's own doing: after a stroke of a lock key.
     Result<void> adopt();
@@ -37,19 +37,19 @@ class HandsAndLocks {
     void giveBack();
 
   private:
-    Result<void> tellGuard(std::uint8_t group);
+    Result<void> tellGuard(xkb_layout_index_t group);
     KeycodeSet keysDown(const KeymapWatch& keymap) const;
-    void release(const KeymapWatch& keymap, std::uint8_t modifiers, const KeycodeSet& held);
-    bool changeLocksBack(std::uint8_t locked, std::uint8_t numLock);
-    bool repair(const KeymapWatch& keymap, const KeycodeSet& held, const InputState& state);
+    void release(const KeymapWatch& keymap, xkb_mod_mask_t modifiers, const KeycodeSet& held);
+    bool changeLocksBack(xkb_mod_mask_t locked, xkb_mod_mask_t numLock);
+    bool repair(const KeymapWatch& keymap, const KeycodeSet& held, const XkbComponents& state);
 
     InjectionConnection& m_connection;
     GuardLink& m_guard;
     RunWatch& m_watch;
     bool m_hasTakenOver = false;
     /// The locks as they are during the run, and as they are to be after it.
-    std::uint8_t m_current = 0;
-    std::uint8_t m_afterwards = 0;
+    xkb_mod_mask_t m_current = 0;
+    xkb_mod_mask_t m_afterwards = 0;
 };
 
 }  // namespace x11

@@ -57,13 +57,15 @@ void InjectionConnection::fake(std::uint8_t keycode, bool press) {
     m_queued += keyEventSize;
 }
 
-void InjectionConnection::lockModifiers(std::uint8_t mask, std::uint8_t values) {
-    xcb_xkb_latch_lock_state(get(), XCB_XKB_ID_USE_CORE_KBD, mask, values, 0, 0, 0, 0, 0);
+void InjectionConnection::lockModifiers(xkb_mod_mask_t mask, xkb_mod_mask_t values) {
+    xcb_xkb_latch_lock_state(get(), XCB_XKB_ID_USE_CORE_KBD, static_cast<std::uint8_t>(mask),
+                             static_cast<std::uint8_t>(values), 0, 0, 0, 0, 0);
     m_queued += lockSize;
 }
 
-void InjectionConnection::lockGroup(std::uint8_t group) {
-    xcb_xkb_latch_lock_state(get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, group, 0, 0, 0);
+void InjectionConnection::lockGroup(xkb_layout_index_t group) {
+    xcb_xkb_latch_lock_state(get(), XCB_XKB_ID_USE_CORE_KBD, 0, 0, 1, static_cast<std::uint8_t>(group), 0, 0,
+                             0);
     m_queued += lockSize;
 }
 
@@ -77,18 +79,13 @@ void InjectionConnection::flush() {
     m_queued = 0;
 }
 
-Result<InputState> InjectionConnection::synchronise() {
+Result<XkbComponents> InjectionConnection::synchronise() {
     flush();
-    const XReply<xcb_xkb_get_state_reply_t> reply(
-        xcb_xkb_get_state_reply(get(), xcb_xkb_get_state(get(), XCB_XKB_ID_USE_CORE_KBD), nullptr));
-    if (!reply) return Error{"The connection to the X server was lost.", "Log in again."};
+    const auto state = stateOfServer(get());
+    if (!state) return Error{"The connection to the X server was lost.", "Log in again."};
     // Nothing is selected, but some events are sent to everybody; they would pile up.
     while (const XReply<xcb_generic_event_t> event{xcb_poll_for_queued_event(get())}) continue;
-    return InputState{.base = reply->baseMods,
-                      .latched = reply->latchedMods,
-                      .locked = reply->lockedMods,
-                      .lockedGroup = static_cast<std::uint8_t>(reply->lockedGroup),
-                      .hasOtherGroup = reply->baseGroup != 0 || reply->latchedGroup != 0};
+    return *state;
 }
 
 }  // namespace x11

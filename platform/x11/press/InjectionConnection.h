@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/run/RunWatch.h"
-#include "platform/x11/press/InputState.h"
+#include "platform/x11/keymap/ServerKeymap.h"
 #include "platform/x11/server/XConnection.h"
 
 namespace x11 {
@@ -29,15 +29,15 @@ class InjectionConnection {
     /// Queued, and announced to the watch.
     void press(std::uint8_t keycode);
     void release(std::uint8_t keycode);
-    /// Queued. Of the bits in `mask` those in `values` are locked, the others unlocked.
-    void lockModifiers(std::uint8_t mask, std::uint8_t values);
-    void lockGroup(std::uint8_t group);
+    /// Queued. Of the real modifiers in `mask` those in `values` are locked, the others unlocked.
+    void lockModifiers(xkb_mod_mask_t mask, xkb_mod_mask_t values);
+    void lockGroup(xkb_layout_index_t group);
     void clearLatches();
 
     void flush();
     /// Flushes, waits until the server has worked all of it off, and tells the state then. Fails when the
     /// connection is lost.
-    Result<InputState> synchronise();
+    Result<XkbComponents> synchronise();
 
     xcb_connection_t* get() const { return m_connection.get(); }
     xcb_window_t root() const { return m_connection.root(); }

@@ -102,10 +102,10 @@ std::vector<KeyBinder::Target> KeyBinder::targets() const {
 /// Finds the unused keys, and how many levels one can have.
 void KeyBinder::survey() {
     const auto targets = this->targets();
-    const std::uint8_t levelThree = m_keymap.keymap().masks().levelThree;
-    const bool canChoose = m_keymap.keymap().keys().canHold(levelThree);
+    const ModifierMasks& masks = m_keymap.keymap().masks();
+    const bool canChoose = m_keymap.keymap().keys().canHold(masks.thirdLevel);
     const bool hasFour = canChoose && std::all_of(targets.begin(), targets.end(), [&](const Target& target) {
-                             return fourLevelType(target.map, levelThree).has_value();
+                             return fourLevelType(target.map, masks).has_value();
                          });
     m_levels = hasFour ? 4 : 2;
     std::vector<std::uint8_t> spares;
@@ -131,10 +131,11 @@ std::size_t KeyBinder::capacity() {
 std::optional<Stroke> KeyBinder::find(char32_t character) const {
     const auto slot = m_slots.find(character);
     if (!slot) return std::nullopt;
-    unsigned modifiers = 0;
-    if ((slot->level & 1U) != 0) modifiers |= ModifierMasks::shift;
-    if ((slot->level & 2U) != 0) modifiers |= m_keymap.keymap().masks().levelThree;
-    return Stroke{.keycode = slot->keycode, .modifiers = static_cast<std::uint8_t>(modifiers)};
+    const ModifierMasks& masks = m_keymap.keymap().masks();
+    Stroke stroke{.keycode = slot->keycode};
+    if ((slot->level & 1U) != 0) stroke.modifiers |= masks.shift;
+    if ((slot->level & 2U) != 0) stroke.modifiers |= masks.thirdLevel;
+    return stroke;
 }
 
 void KeyBinder::recheck() {
@@ -191,7 +192,7 @@ Result<void> KeyBinder::bind(const SpareSlots::Plan& plan) {
 void KeyBinder::put(DeviceMap& map, const SpareBinding& binding) const {
     KeySymbols& key = map.keys[binding.slot.keycode];
     if (key.symbols.size() != m_levels) {
-        const auto four = fourLevelType(map, m_keymap.keymap().masks().levelThree);
+        const auto four = fourLevelType(map, m_keymap.keymap().masks());
         const std::uint8_t type = m_levels == 4 ? four.value_or(twoLevelType) : twoLevelType;
         key = KeySymbols{.types = {type, type, type, type}, .groupInfo = 1, .width = m_levels, .symbols = {}};
         key.symbols.assign(m_levels, XKB_KEY_NoSymbol);

@@ -4,24 +4,26 @@
 #include <algorithm>
 #include <bit>
 
+#include "platform/keymap/ModifierMasks.h"
+
 namespace x11 {
 
 namespace {
 
-std::uint8_t modifiersHeldBy(const ModifierKeys& keys, const KeycodeSet& held) {
-    unsigned modifiers = 0;
+xkb_mod_mask_t modifiersHeldBy(const ModifierKeys& keys, const KeycodeSet& held) {
+    xkb_mod_mask_t modifiers = 0;
     for (std::size_t keycode = 0; held.any() && keycode < held.size(); ++keycode) {
         if (held[keycode]) modifiers |= keys.heldBy(static_cast<std::uint8_t>(keycode));
     }
-    return static_cast<std::uint8_t>(modifiers);
+    return modifiers;
 }
 
 /// The keys for the modifiers that are not down yet.
-std::vector<std::uint8_t> missingKeys(const ModifierKeys& keys, const Stroke& stroke, std::uint8_t down) {
+std::vector<std::uint8_t> missingKeys(const ModifierKeys& keys, const Stroke& stroke, xkb_mod_mask_t down) {
     std::vector<std::uint8_t> missing;
-    for (unsigned bit = 1; bit <= 0x80U; bit <<= 1U) {
+    for (xkb_mod_mask_t bit = 1; bit <= realModifiers; bit <<= 1U) {
         if ((stroke.modifiers & ~down & bit) == 0) continue;
-        const std::uint8_t keycode = keys.keyFor(static_cast<std::uint8_t>(bit));
+        const std::uint8_t keycode = keys.keyFor(bit);
         if (keycode != stroke.keycode) missing.push_back(keycode);
     }
     return missing;
@@ -29,9 +31,9 @@ std::vector<std::uint8_t> missingKeys(const ModifierKeys& keys, const Stroke& st
 
 }  // namespace
 
-void StrokeSender::meet(const InputState& state) {
+void StrokeSender::meet(const XkbComponents& state) {
     m_locked = state.locked;
-    m_homeGroup = m_group = state.lockedGroup;
+    m_homeGroup = m_group = state.lockedLayout;
 }
 
 std::size_t StrokeSender::sizeOf(const Stroke& stroke) {
@@ -42,7 +44,7 @@ std::size_t StrokeSender::sizeOf(const Stroke& stroke) {
 }
 
 Result<void> StrokeSender::send(const ModifierKeys& keys, const Stroke& stroke, const KeycodeSet& held) {
-    const std::uint8_t down = modifiersHeldBy(keys, held);
+    const xkb_mod_mask_t down = modifiersHeldBy(keys, held);
     const auto modifiers = missingKeys(keys, stroke, down);
     const bool isLifted =
         m_watch.liftHotKey(stroke.keycode, static_cast<std::uint16_t>(stroke.modifiers | down));
@@ -71,20 +73,20 @@ std::vector<std::uint8_t> StrokeSender::hold(const ModifierKeys& keys, const Str
     return pressed;
 }
 
-void StrokeSender::lockGroup(std::uint8_t group) {
+void StrokeSender::lockGroup(xkb_layout_index_t group) {
     if (group == m_group) return;
     m_connection.lockGroup(group);
     m_group = group;
 }
 
 void StrokeSender::setLocks(const Stroke& stroke) {
-    if (stroke.group >= 0) lockGroup(static_cast<std::uint8_t>(stroke.group));
-    const auto change = static_cast<std::uint8_t>((m_locked ^ stroke.lockValues) & stroke.lockMask);
+    if (stroke.group >= 0) lockGroup(static_cast<xkb_layout_index_t>(stroke.group));
+    const xkb_mod_mask_t change = (m_locked ^ stroke.lockValues) & stroke.lockMask;
     if (change != 0) m_connection.lockModifiers(change, stroke.lockValues);
 }
 
 void StrokeSender::resetLocks(const Stroke& stroke) {
-    const auto change = static_cast<std::uint8_t>((m_locked ^ stroke.lockValues) & stroke.lockMask);
+    const xkb_mod_mask_t change = (m_locked ^ stroke.lockValues) & stroke.lockMask;
     if (change != 0) m_connection.lockModifiers(change, m_locked);
 }
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/keymap/InjectorKeymap.h"
+#include "platform/keymap/KeycodeSet.h"
+#include "platform/keymap/ModifierKeys.h"
+#include "platform/keymap/Stroke.h"
 #include "platform/x11/press/InjectionConnection.h"
 
 namespace x11 {
@@ -13,7 +15,7 @@ class StrokeSender {
         : m_connection(connection), m_watch(watch) {}
 
     /// The state that the next strokes meet. The locked group is the one that home() goes back to.
-    void meet(const InputState& state);
+    void meet(const XkbComponents& state);
 
     /// What the stroke, and going home after it, takes of the connection's queue at most.
     static std::size_t sizeOf(const Stroke& stroke);
@@ -29,15 +31,15 @@ class StrokeSender {
     void home() { lockGroup(m_homeGroup); }
 
   private:
-    void lockGroup(std::uint8_t group);
+    void lockGroup(xkb_layout_index_t group);
     void setLocks(const Stroke& stroke);
     void resetLocks(const Stroke& stroke);
 
     InjectionConnection& m_connection;
     RunWatch& m_watch;
-    std::uint8_t m_locked = 0;
-    std::uint8_t m_homeGroup = 0;
-    std::uint8_t m_group = 0;
+    xkb_mod_mask_t m_locked = 0;
+    xkb_layout_index_t m_homeGroup = 0;
+    xkb_layout_index_t m_group = 0;
 };
 
 }  // namespace x11

@@ -8,12 +8,12 @@
 
 namespace x11 {
 
-std::optional<Stroke> TextTyper::find(char32_t character, std::uint8_t group) const {
-    if (auto stroke = m_keymap.keymap().characters().find(character, group)) return stroke;
+std::optional<Stroke> TextTyper::find(char32_t character, xkb_layout_index_t group) const {
+    if (auto stroke = m_keymap.characters().find(character, group)) return stroke;
     return m_binder.find(character);
 }
 
-Result<void> TextTyper::refuseUntypable(std::span<const char32_t> characters, std::uint8_t group) {
+Result<void> TextTyper::refuseUntypable(std::span<const char32_t> characters, xkb_layout_index_t group) {
     std::unordered_set<char32_t> passed;
     for (const char32_t character : characters) {
         if (!passed.insert(character).second || find(character, group)) continue;
@@ -26,12 +26,12 @@ Result<void> TextTyper::refuseUntypable(std::span<const char32_t> characters, st
 
 /// How many characters from the front can be typed without binding a key twice, and which of them are on no
 /// layout.
-std::size_t TextTyper::fittingPart(std::span<const char32_t> characters, std::uint8_t group,
+std::size_t TextTyper::fittingPart(std::span<const char32_t> characters, xkb_layout_index_t group,
                                    std::vector<char32_t>& unbound) {
     std::unordered_set<char32_t> seen;
     for (std::size_t at = 0; at < characters.size(); ++at) {
         const char32_t character = characters[at];
-        if (seen.contains(character) || m_keymap.keymap().characters().find(character, group)) continue;
+        if (seen.contains(character) || m_keymap.characters().find(character, group)) continue;
         if (unbound.size() == m_binder.capacity()) return at;
         seen.insert(character);
         unbound.push_back(character);
@@ -47,10 +47,10 @@ Result<RunState> TextTyper::bind(const std::vector<char32_t>& wanted) {
     return RunState::going;
 }
 
-Result<RunState> TextTyper::prepare(std::span<const char32_t> characters, std::uint8_t group) {
+Result<RunState> TextTyper::prepare(std::span<const char32_t> characters, xkb_layout_index_t group) {
     std::vector<char32_t> bindable;
     for (const char32_t character : characters) {
-        if (isBindable(character) || m_keymap.keymap().characters().find(character, group)) {
+        if (isBindable(character) || m_keymap.characters().find(character, group)) {
             bindable.push_back(character);
         }
     }
@@ -59,7 +59,7 @@ Result<RunState> TextTyper::prepare(std::span<const char32_t> characters, std::u
     return wanted.empty() ? RunState::going : bind(wanted);
 }
 
-Result<Stroke> TextTyper::strokeFor(char32_t character, std::uint8_t group) {
+Result<Stroke> TextTyper::strokeFor(char32_t character, xkb_layout_index_t group) {
     const auto refused = refuseUntypable(std::span(&character, 1), group);
     if (!refused) return refused.error();
     if (!find(character, group)) {
@@ -75,7 +75,7 @@ Result<RunState> TextTyper::type(std::span<const char32_t> characters, const Str
                                  const KeycodeSet& held, const Check& check) {
     const auto state = check();
     if (!state) return state.error();
-    const std::uint8_t group = state.value().lockedGroup;
+    const xkb_layout_index_t group = state.value().lockedLayout;
     const auto refused = refuseUntypable(characters, group);
     if (!refused) return refused.error();
     while (!characters.empty()) {
@@ -103,8 +103,8 @@ Result<RunState> TextTyper::typePart(std::span<const char32_t> characters, const
         m_sender.meet(state.value());
         m_binder.noteReader();
         for (; at < characters.size(); ++at) {
-            Stroke stroke = find(characters[at], state.value().lockedGroup).value_or(Stroke{});
-            stroke.modifiers = static_cast<std::uint8_t>(stroke.modifiers | around.modifiers);
+            Stroke stroke = find(characters[at], state.value().lockedLayout).value_or(Stroke{});
+            stroke.modifiers |= around.modifiers;
             stroke.lockMask = around.lockMask;
             stroke.lockValues = around.lockValues;
             if (!m_connection.hasRoomFor(StrokeSender::sizeOf(stroke))) break;

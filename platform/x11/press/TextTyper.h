@@ -20,7 +20,7 @@ class TextTyper {
         : m_connection(connection), m_keymap(keymap), m_binder(binder), m_sender(sender), m_waiter(waiter) {}
 
     /// Before each part that goes out whole: brings hands and locks in order and tells the state.
-    using Check = std::function<Result<InputState>()>;
+    using Check = std::function<Result<XkbComponents>()>;
 
     /// Types the characters with further X modifier bits and locks held over each. Fails before the first one
     /// if one of them cannot be typed; the message names it.
@@ -29,15 +29,15 @@ class TextTyper {
 
     /// Puts those characters on keys that need it, as many as have room: a text that is typed later finds
     /// them there.
-    Result<RunState> prepare(std::span<const char32_t> characters, std::uint8_t group);
+    Result<RunState> prepare(std::span<const char32_t> characters, xkb_layout_index_t group);
 
     /// The stroke of a character, bound first if need be; waits until it may be.
-    Result<Stroke> strokeFor(char32_t character, std::uint8_t group);
+    Result<Stroke> strokeFor(char32_t character, xkb_layout_index_t group);
 
   private:
-    std::optional<Stroke> find(char32_t character, std::uint8_t group) const;
-    Result<void> refuseUntypable(std::span<const char32_t> characters, std::uint8_t group);
-    std::size_t fittingPart(std::span<const char32_t> characters, std::uint8_t group,
+    std::optional<Stroke> find(char32_t character, xkb_layout_index_t group) const;
+    Result<void> refuseUntypable(std::span<const char32_t> characters, xkb_layout_index_t group);
+    std::size_t fittingPart(std::span<const char32_t> characters, xkb_layout_index_t group,
                             std::vector<char32_t>& unbound);
     Result<RunState> bind(const std::vector<char32_t>& wanted);
     Result<RunState> typePart(std::span<const char32_t> characters, const Stroke& around,

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "platform/Modifiers.h"
+#include "platform/keymap/StrokePlan.h"
 #include "platform/run/TextPlan.h"
 
 namespace x11 {
@@ -102,7 +102,7 @@ Result<RunState> X11InjectionSession::resume() {
     return begun;
 }
 
-Result<InputState> X11InjectionSession::check() {
+Result<XkbComponents> X11InjectionSession::check() {
     auto state = m_hands.check(m_tools.keymap, heldKeys());
     if (state) m_state = state.value();
     return state;
@@ -124,7 +124,7 @@ Result<RunState> X11InjectionSession::stroke(std::uint32_t keyCode, std::uint32_
     return step([&]() -> Result<RunState> {
         const auto followed = followKeymap();
         if (!followed) return followed.error();
-        const auto stroke = m_tools.keymap.keymap().stroke(keyCode, modifiers);
+        const auto stroke = planStroke(m_tools.keymap.keymap(), keyCode, modifiers);
         if (!stroke) return stroke.error();
         return stroke.value().keycode == 0 ? m_waiter.look() : play(stroke.value());
     });
@@ -152,15 +152,13 @@ Result<RunState> X11InjectionSession::type(std::string_view text, std::uint32_t 
     if (characters.value().empty()) return m_waiter.look();
     const auto followed = followKeymap();
     if (!followed) return followed.error();
-    const auto held = m_tools.keymap.keymap().modifiers(modifiers);
-    if (!held) return held.error();
-    Stroke around{.modifiers = held.value()};
-    if ((modifiers & modifier::capsLock) != 0) around.lockMask = around.lockValues = ModifierMasks::lock;
+    const auto around = planModifiers(m_tools.keymap.keymap(), modifiers);
+    if (!around) return around.error();
     auto isReady = ready();
     if (!isGoing(isReady)) return isReady;
     auto prepared = prepareTexts();
     if (!isGoing(prepared)) return prepared;
-    return m_typer.type(characters.value(), around, heldKeys(), [this] { return check(); });
+    return m_typer.type(characters.value(), around.value(), heldKeys(), [this] { return check(); });
 }
 
 /// What the plan tells of texts that are still to come; what in it cannot be typed is an error only there.
@@ -172,17 +170,17 @@ Result<RunState> X11InjectionSession::prepareTexts() {
         const auto characters = charactersOf(text);
         if (characters) all.insert(all.end(), characters.value().begin(), characters.value().end());
     }
-    return m_typer.prepare(all, m_state.lockedGroup);
+    return m_typer.prepare(all, m_state.lockedLayout);
 }
 
 Result<std::vector<Stroke>> X11InjectionSession::strokesOf(const HeldKey& key) {
-    const InjectorKeymap& map = m_tools.keymap.keymap();
+    const Keymap& map = m_tools.keymap.keymap();
     using Strokes = Result<std::vector<Stroke>>;
     const auto single = [](const Result<Stroke>& stroke) -> Strokes {
         return stroke ? Strokes(std::vector{stroke.value()}) : stroke.error();
     };
     const auto ofModifier = [&](const HeldModifier& held) -> Strokes {
-        const auto bits = map.modifiers(held.modifier);
+        const auto bits = map.real(held.modifier);
         if (!bits) return bits.error();
         return std::vector{Stroke{.keycode = map.keys().keyFor(bits.value())}};
     };
@@ -191,14 +189,14 @@ Result<std::vector<Stroke>> X11InjectionSession::strokesOf(const HeldKey& key) {
         if (!characters) return characters.error();
         std::vector<Stroke> strokes;
         for (const char32_t character : characters.value()) {
-            const auto stroke = m_typer.strokeFor(character, m_state.lockedGroup);
+            const auto stroke = m_typer.strokeFor(character, m_state.lockedLayout);
             if (!stroke) return stroke.error();
             strokes.push_back(stroke.value());
         }
         return strokes;
     };
     return std::visit(
-        Overloaded{ofModifier, [&](const HeldCode& held) { return single(map.stroke(held.keyCode, 0)); },
+        Overloaded{ofModifier, [&](const HeldCode& held) { return single(planStroke(map, held.keyCode, 0)); },
                    ofText},
         key);
 }

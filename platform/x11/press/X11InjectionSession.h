@@ -56,7 +56,7 @@ class X11InjectionSession final : public InjectionSession {
     Result<RunState> begin();
     Result<RunState> resume();
     Result<RunState> settle();
-    Result<InputState> check();
+    Result<XkbComponents> check();
     /// Begins if that has not been done, looks whether the user wishes to stop, and brings hands and locks in
     /// order.
     Result<RunState> ready();
@@ -79,7 +79,7 @@ class X11InjectionSession final : public InjectionSession {
     StrokeSender m_sender;
     TextTyper m_typer;
     std::vector<Held> m_held;
-    InputState m_state;
+    XkbComponents m_state;
     bool m_hasBegun = false;
     bool m_rests = false;
     bool m_isPrepared = false;

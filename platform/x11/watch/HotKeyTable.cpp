@@ -2,10 +2,10 @@
 #include "platform/x11/watch/HotKeyTable.h"
 
 #include <algorithm>
+#include <cctype>
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
-#include "platform/XkbCodes.h"
 #include "platform/keymap/KeyLabels.h"
 
 namespace x11 {
@@ -14,6 +14,13 @@ namespace {
 
 const char* const chooseAnother = "Choose another combination.";
 const char* const freeIt = "Choose another combination, or free it in the program that holds it.";
+
+/// A message as the end of another sentence.
+std::string clauseOf(std::string sentence) {
+    sentence.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(sentence.front())));
+    sentence.pop_back();
+    return sentence;
+}
 
 }  // namespace
 
@@ -131,19 +138,14 @@ void HotKeyTable::settle(Row& row, HotKeyState state) {
 }
 
 Result<KeyGrab> HotKeyTable::grabFor(const HotKeyRequest& request) const {
-    const std::optional<std::uint16_t> evdev = keycode::evdevFor(request.keyCode);
-    if (!evdev || !m_grabs.hasKeycode(xkbcode::fromEvdev(*evdev))) {
-        return Error{"this desktop has no such key", chooseAnother};
-    }
     const Keymap& keymap = m_keyboard.keymap();
-    const ModifierMasks& masks = keymap.masks();
-    const std::optional<xkb_mod_mask_t> modifiers = keymap.real(request.modifiers);
-    if (!modifiers) return Error{"the keyboard layout lacks one of the modifier keys", chooseAnother};
-    const xkb_mod_mask_t choosers = ((request.keyCode & keycode::thirdLevel) != 0 ? masks.thirdLevel : 0) |
-                                    ((request.keyCode & keycode::fifthLevel) != 0 ? masks.fifthLevel : 0);
-    return KeyGrab{.keycode = xkbcode::fromEvdev(*evdev),
-                   .modifiers = static_cast<std::uint16_t>(*modifiers | choosers),
-                   .locks = static_cast<std::uint16_t>(masks.locks())};
+    const std::uint8_t keycode = keymap.keycodeFor(request.keyCode);
+    if (keycode == 0) return Error{"this desktop has no such key", chooseAnother};
+    const auto modifiers = keymap.real(request.modifiers, request.keyCode);
+    if (!modifiers) return Error{clauseOf(modifiers.error().message), chooseAnother};
+    return KeyGrab{.keycode = keycode,
+                   .modifiers = static_cast<std::uint16_t>(modifiers.value()),
+                   .locks = static_cast<std::uint16_t>(keymap.masks().locks())};
 }
 
 const HotKeyTable::Row* HotKeyTable::holderOf(const KeyGrab& grab) const {

@@ -73,18 +73,6 @@ void RawKeySource::catchUp() {
     read();
 }
 
-XkbComponents RawKeySource::components() const {
-    const XReply<xcb_xkb_get_state_reply_t> state(xcb_xkb_get_state_reply(
-        m_connection, xcb_xkb_get_state(m_connection, XCB_XKB_ID_USE_CORE_KBD), nullptr));
-    if (!state) return {};
-    return {.depressed = state->baseMods,
-            .latched = state->latchedMods,
-            .locked = state->lockedMods,
-            .baseLayout = static_cast<xkb_layout_index_t>(state->baseGroup),
-            .latchedLayout = static_cast<xkb_layout_index_t>(state->latchedGroup),
-            .lockedLayout = state->lockedGroup};
-}
-
 std::vector<std::uint8_t> RawKeySource::keysDown() const {
     const XReply<xcb_query_keymap_reply_t> reply(
         xcb_query_keymap_reply(m_connection, xcb_query_keymap(m_connection), nullptr));
@@ -140,15 +128,9 @@ void RawKeySource::decodeKeyboardEvent(const xcb_generic_event_t& event) {
         noteRepeatDelay();
     } else if (kind == XCB_XKB_STATE_NOTIFY) {
         const auto& state = as<xcb_xkb_state_notify_event_t>(event);
-        m_events.emplace_back(
-            StateChange{.components = {.depressed = state.baseMods,
-                                       .latched = state.latchedMods,
-                                       .locked = state.lockedMods,
-                                       .baseLayout = static_cast<xkb_layout_index_t>(state.baseGroup),
-                                       .latchedLayout = static_cast<xkb_layout_index_t>(state.latchedGroup),
-                                       .lockedLayout = state.lockedGroup},
-                        .keycode = state.keycode,
-                        .press = state.eventType == XCB_KEY_PRESS});
+        m_events.emplace_back(StateChange{.components = componentsOf(state),
+                                          .keycode = state.keycode,
+                                          .press = state.eventType == XCB_KEY_PRESS});
     }
 }
 

@@ -33,7 +33,7 @@ class RawKeySource {
 
     /// Keymap and state of now.
     Result<std::unique_ptr<Keymap>> keymap() const { return keymapOfServer(m_connection); }
-    XkbComponents components() const;
+    XkbComponents components() const { return stateOfServer(m_connection).value_or(XkbComponents{}); }
     /// The keys that are down on the core keyboard, ascending.
     std::vector<std::uint8_t> keysDown() const;
 
