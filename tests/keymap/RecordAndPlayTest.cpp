@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+// What is recorded of a key is what is pressed when it is played: MaskShaper and StrokePlan on one keymap.
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <vector>
+
+#include "keymap/NamedKeymap.h"
+#include "platform/KeyCodes.h"
+#include "platform/XkbCodes.h"
+#include "platform/keymap/MaskShaper.h"
+#include "platform/keymap/StrokePlan.h"
+
+namespace {
+
+struct Layout {
+    const char* name;
+    const char* options = "";
+};
+
+void PrintTo(const Layout& layout, std::ostream* stream) { *stream << layout.name << ' ' << layout.options; }
+
+class RecordAndPlayTest : public testing::TestWithParam<Layout> {
+  protected:
+    /// The modifiers that a hand can hold in this keymap, each by its own key.
+    std::vector<xkb_mod_mask_t> holdable(const std::vector<xkb_mod_mask_t>& masks) const {
+        std::vector<xkb_mod_mask_t> combinations{0};
+        for (const xkb_mod_mask_t mask : masks) {
+            if (!m_keymap->keys().canHold(mask)) continue;
+            for (std::size_t i = combinations.size(); i-- > 0;) combinations.push_back(combinations[i] | mask);
+        }
+        return combinations;
+    }
+    std::vector<xkb_mod_mask_t> choosers() const {
+        const ModifierMasks& masks = m_keymap->masks();
+        return holdable({masks.shift, masks.thirdLevel, masks.fifthLevel});
+    }
+    std::vector<xkb_mod_mask_t> commands() const {
+        const ModifierMasks& masks = m_keymap->masks();
+        return holdable({masks.control, masks.option, masks.command});
+    }
+
+    Result<Stroke> played(std::uint8_t keycode, xkb_mod_mask_t modifiers, xkb_layout_index_t layout) const {
+        const bool held = m_keymap->reported(modifiers) != 0;
+        const TypedKey typed = shapeKey(*m_keymap, keycode, modifiers, layout, held);
+        return planStroke(*m_keymap, typed.keyCode, typed.modifiers);
+    }
+
+    template <typename Check>
+    void forEachKey(const Check& check) const {
+        for (xkb_layout_index_t layout = 0; layout < xkb_keymap_num_layouts(m_keymap->get()); ++layout) {
+            for (std::uint16_t keycode = xkbcode::first + 1; keycode <= xkbcode::last; ++keycode) {
+                const auto key = static_cast<std::uint8_t>(keycode);
+                if (!isOrdinary(key, layout)) continue;
+                SCOPED_TRACE(testing::Message() << "key " << keycode << " layout " << layout);
+                check(key, layout);
+                if (HasFailure()) return;
+            }
+        }
+    }
+
+    std::unique_ptr<Keymap> m_keymap = namedKeymap(GetParam().name, GetParam().options);
+
+  private:
+    /// A key that is recorded as itself: not one of those that share a code with another, nor the power key.
+    bool isOrdinary(std::uint8_t key, xkb_layout_index_t layout) const {
+        const std::uint32_t code = keycode::fromEvdev(xkbcode::toEvdev(key));
+        return !m_keymap->keys().isModifierKey(key, layout) && m_keymap->keycodeFor(code) == key;
+    }
+};
+
+TEST_P(RecordAndPlayTest, everyKeyAndLevelIsPressedAsItWasTyped) {
+    forEachKey([this](std::uint8_t key, xkb_layout_index_t layout) {
+        if (keycode::isKeypadDigit(keycode::fromEvdev(xkbcode::toEvdev(key)))) return;
+        for (const xkb_mod_mask_t chooser : choosers()) {
+            for (const xkb_mod_mask_t command : commands()) {
+                const auto stroke = played(key, chooser | command, layout);
+                ASSERT_TRUE(stroke) << stroke.error().message;
+                EXPECT_EQ(stroke.value(), (Stroke{.keycode = key, .modifiers = chooser | command}));
+            }
+        }
+    });
+}
+
+TEST_P(RecordAndPlayTest, aCapitalLetterOfCapsLockIsTypedByItsStroke) {
+    const xkb_mod_mask_t capsLock = m_keymap->masks().capsLock;
+    forEachKey([&](std::uint8_t key, xkb_layout_index_t layout) {
+        const xkb_keysym_t symbol = m_keymap->symbol(key, capsLock, layout);
+        if (symbol < XKB_KEY_A || symbol > XKB_KEY_Z) return;
+        const auto stroke = played(key, capsLock, layout);
+        ASSERT_TRUE(stroke) << stroke.error().message;
+        const Stroke& pressed = stroke.value();
+        EXPECT_EQ(m_keymap->symbol(pressed.keycode, pressed.modifiers | pressed.lockValues, layout), symbol);
+    });
+}
+
+TEST_P(RecordAndPlayTest, aKeypadDigitIsPressedUnderNumLock) {
+    const xkb_mod_mask_t numLock = m_keymap->masks().numLock;
+    forEachKey([&](std::uint8_t key, xkb_layout_index_t layout) {
+        if (!keycode::isKeypadDigit(keycode::fromEvdev(xkbcode::toEvdev(key)))) return;
+        const auto digit = played(key, numLock, layout);
+        ASSERT_TRUE(digit);
+        EXPECT_EQ(digit.value(), (Stroke{.keycode = key, .lockMask = numLock, .lockValues = numLock}));
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Layouts, RecordAndPlayTest,
+                         testing::Values(Layout{"us"}, Layout{"de"}, Layout{"fr"}, Layout{"de(neo)"},
+                                         Layout{"fr(bepo)"}, Layout{"jp"}, Layout{"us,ru"}, Layout{"cz"},
+                                         Layout{"gr"}, Layout{"gb"}, Layout{"br"}, Layout{"ca(multix)"},
+                                         Layout{"us", "altwin:swap_alt_win"}, Layout{"us", "altwin:meta_win"},
+                                         Layout{"us", "altwin:alt_win"}, Layout{"de", "lv3:caps_switch"},
+                                         Layout{"us", "lv5:ralt_switch_lock"}, Layout{"us", "ctrl:swapcaps"},
+                                         Layout{"us", "caps:shiftlock"}, Layout{"de(neo)", "altwin:meta_win"}));
+
+}  // namespace
