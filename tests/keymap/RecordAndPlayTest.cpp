@@ -27,7 +27,8 @@ class RecordAndPlayTest : public testing::TestWithParam<Layout> {
         std::vector<xkb_mod_mask_t> combinations{0};
         for (const xkb_mod_mask_t mask : masks) {
             if (!m_keymap->keys().canHold(mask)) continue;
-            for (std::size_t i = combinations.size(); i-- > 0;) combinations.push_back(combinations[i] | mask);
+            for (std::size_t i = combinations.size(); i-- > 0;)
+                combinations.push_back(combinations[i] | mask);
         }
         return combinations;
     }
@@ -111,6 +112,7 @@ INSTANTIATE_TEST_SUITE_P(Layouts, RecordAndPlayTest,
                                          Layout{"us", "altwin:swap_alt_win"}, Layout{"us", "altwin:meta_win"},
                                          Layout{"us", "altwin:alt_win"}, Layout{"de", "lv3:caps_switch"},
                                          Layout{"us", "lv5:ralt_switch_lock"}, Layout{"us", "ctrl:swapcaps"},
-                                         Layout{"us", "caps:shiftlock"}, Layout{"de(neo)", "altwin:meta_win"}));
+                                         Layout{"us", "caps:shiftlock"},
+                                         Layout{"de(neo)", "altwin:meta_win"}));
 
 }  // namespace

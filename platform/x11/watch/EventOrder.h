@@ -4,10 +4,10 @@
 #include <functional>
 #include <map>
 
+#include "platform/monitor/HotKeyTable.h"
 #include "platform/monitor/KeyInterpreter.h"
 #include "platform/monitor/OwnStrokes.h"
 #include "platform/x11/watch/HotKeyGrabs.h"
-#include "platform/x11/watch/HotKeyTable.h"
 #include "platform/x11/watch/RawKeySource.h"
 #include "platform/x11/watch/RepeatSource.h"
 

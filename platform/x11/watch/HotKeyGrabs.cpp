@@ -19,27 +19,6 @@ std::string reason(const xcb_generic_error_t& error) {
 
 }  // namespace
 
-std::vector<std::uint16_t> KeyGrab::variants() const {
-    const auto variable = static_cast<std::uint16_t>(locks & ~modifiers);
-    std::vector<std::uint16_t> result;
-    // All subsets of the locks' bits, the empty one first.
-    std::uint16_t subset = 0;
-    do {
-        result.push_back(modifiers | subset);
-        subset = static_cast<std::uint16_t>((subset - variable) & variable);
-    } while (subset != 0);
-    return result;
-}
-
-bool KeyGrab::matches(std::uint8_t pressedKeycode, std::uint16_t pressedModifiers) const {
-    const auto variable = static_cast<std::uint16_t>(locks & ~modifiers);
-    return keycode == pressedKeycode && ((pressedModifiers ^ modifiers) & allModifiers & ~variable) == 0;
-}
-
-bool KeyGrab::collidesWith(const KeyGrab& other) const {
-    return keycode == other.keycode && ((modifiers ^ other.modifiers) & ~(locks & other.locks)) == 0;
-}
-
 Result<std::unique_ptr<HotKeyGrabs>> HotKeyGrabs::open(const std::string& display) {
     Result<XConnection> connection = XConnection::open(display);
     if (!connection) return connection.error();
@@ -94,11 +73,6 @@ bool HotKeyGrabs::read() {
 void HotKeyGrabs::catchUp() {
     m_connection.roundTrip();
     read();
-}
-
-bool HotKeyGrabs::hasKeycode(unsigned keycode) const {
-    const xcb_setup_t* setup = xcb_get_setup(m_connection);
-    return keycode >= setup->min_keycode && keycode <= setup->max_keycode;
 }
 
 }  // namespace x11

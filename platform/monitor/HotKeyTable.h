@@ -8,15 +8,13 @@
 
 #include "platform/HotKeys.h"
 #include "platform/keymap/KeyboardState.h"
-#include "platform/x11/watch/HotKeyGrabs.h"
-
-namespace x11 {
+#include "platform/monitor/KeyGrabber.h"
 
 /// Which hot key has which combination, what became of each request, and the grabs that follow from it.
 class HotKeyTable {
   public:
     /// Both outlive this.
-    HotKeyTable(HotKeyGrabs& grabs, const KeyboardState& keyboard) : m_grabs(grabs), m_keyboard(keyboard) {}
+    HotKeyTable(KeyGrabber& grabs, const KeyboardState& keyboard) : m_grabs(grabs), m_keyboard(keyboard) {}
 
     void observe(HotKeys::Observer observer) { m_observer = std::move(observer); }
     void request(const HotKeyRequest& request);
@@ -54,11 +52,9 @@ class HotKeyTable {
     const Row* holderOf(const KeyGrab& grab) const;
     std::string combinationText(const HotKeyRequest& request) const;
 
-    HotKeyGrabs& m_grabs;
+    KeyGrabber& m_grabs;
     const KeyboardState& m_keyboard;
     HotKeys::Observer m_observer;
     std::map<HotKeyId, Row> m_rows;
     std::optional<HotKeyId> m_lifted;
 };
-
-}  // namespace x11

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/watch/HotKeyTable.h"
+#include "platform/monitor/HotKeyTable.h"
 
 #include <algorithm>
 #include <cctype>
@@ -7,8 +7,6 @@
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
 #include "platform/keymap/KeyLabels.h"
-
-namespace x11 {
 
 namespace {
 
@@ -163,5 +161,3 @@ std::string HotKeyTable::combinationText(const HotKeyRequest& request) const {
     if ((request.modifiers & modifier::command) != 0) text += "Super+";
     return text + keyLabel(m_keyboard.keymap(), m_keyboard.layout(), request.keyCode);
 }
-
-}  // namespace x11

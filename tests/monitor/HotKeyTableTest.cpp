@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "platform/monitor/HotKeyTable.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <ostream>
+
+#include "keymap/NamedKeymap.h"
+#include "platform/KeyCodes.h"
+#include "platform/Modifiers.h"
+
+void PrintTo(const KeyGrab& grab, std::ostream* stream) {
+    *stream << "key " << int{grab.keycode} << std::hex << " modifiers 0x" << grab.modifiers << " locks 0x"
+            << grab.locks << std::dec;
+}
+
+namespace {
+
+constexpr std::uint32_t codeOfR = 15;
+constexpr std::uint8_t keyOfR = 27;
+constexpr HotKeyId record = 1;
+constexpr HotKeyId play = 2;
+
+/// Keeps account of what is held, some of it by another program.
+class Grabber final : public KeyGrabber {
+  public:
+    std::optional<std::string> grab(const KeyGrab& grab) override {
+        if (otherProgramHasAll) return "another program holds it";
+        held.push_back(grab);
+        return std::nullopt;
+    }
+    void release(const KeyGrab& grab) override {
+        held.erase(std::remove(held.begin(), held.end(), grab), held.end());
+    }
+
+    std::vector<KeyGrab> held;
+    bool otherProgramHasAll = false;
+};
+
+class HotKeyTableTest : public testing::Test {
+  protected:
+    static HotKeyRequest asked(HotKeyId id, std::uint32_t modifiers = modifier::control | modifier::command,
+                               std::uint32_t keyCode = codeOfR) {
+        return {
+            .id = id, .name = id == record ? "record" : "play", .keyCode = keyCode, .modifiers = modifiers};
+    }
+    void changeKeymap(const std::string& layout, const std::string& options) {
+        m_keyboard.replaceKeymap(namedKeymap(layout, options));
+        m_table.followKeymap();
+    }
+    /// Why a request was refused; empty if it was not.
+    std::string refusal(HotKeyId id) const {
+        const HotKeyState state = m_table.state(id);
+        return state.error ? state.error->message : std::string();
+    }
+
+    const KeyGrab m_controlSuperR{.keycode = keyOfR, .modifiers = 0x44, .locks = 0x12};
+    Grabber m_grabber;
+    KeyboardState m_keyboard{namedKeymap("us"), {}};
+    HotKeyTable m_table{m_grabber, m_keyboard};
+};
+
+TEST_F(HotKeyTableTest, aRequestIsAGrabByTheKeymapsOwnModifiers) {
+    m_table.request(asked(record));
+    EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::registered);
+    EXPECT_EQ(m_table.find(keyOfR, 0x44 | 0x02), record);
+    EXPECT_EQ(m_table.find(keyOfR, 0x04), std::nullopt);
+}
+
+TEST_F(HotKeyTableTest, aLevelChooserIsPartOfTheCombination) {
+    m_table.request(asked(record, 0, keycode::thirdLevel + codeOfR));
+    EXPECT_EQ(m_grabber.held, (std::vector{KeyGrab{.keycode = keyOfR, .modifiers = 0x80, .locks = 0x12}}));
+}
+
+TEST_F(HotKeyTableTest, aWithdrawnCombinationIsGivenFree) {
+    m_table.request(asked(record));
+    m_table.withdraw(record);
+    EXPECT_TRUE(m_grabber.held.empty());
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::unset);
+}
+
+TEST_F(HotKeyTableTest, whatAnotherProgramHoldsIsRefused) {
+    m_grabber.otherProgramHasAll = true;
+    m_table.request(asked(record));
+    EXPECT_EQ(refusal(record), "Ctrl+Super+R cannot be used for record: another program holds it.");
+}
+
+TEST_F(HotKeyTableTest, theFirstOfTwoKeepsACombinationAndTheSecondGetsItAfterwards) {
+    m_table.request(asked(record));
+    m_table.request(asked(play));
+    EXPECT_EQ(refusal(play), "Ctrl+Super+R cannot be used for play: it is used for record.");
+    m_table.withdraw(record);
+    EXPECT_EQ(m_table.state(play).status, HotKeyStatus::registered);
+    EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
+}
+
+TEST_F(HotKeyTableTest, aKeyThatNoKeyboardHasIsRefused) {
+    constexpr std::uint32_t showDesktop = 161;
+    m_table.request(asked(record, 0, showDesktop));
+    EXPECT_EQ(refusal(record), "Show Desktop cannot be used for record: this desktop has no such key.");
+}
+
+TEST_F(HotKeyTableTest, aModifierWithoutAKeyIsNamed) {
+    changeKeymap("us", "altwin:alt_win");
+    m_table.request(asked(record));
+    EXPECT_EQ(refusal(record),
+              "Ctrl+Super+R cannot be used for record: the keyboard layout has no key for Super.");
+    EXPECT_TRUE(m_grabber.held.empty());
+}
+
+TEST_F(HotKeyTableTest, aChooserWithoutAKeyIsNamed) {
+    m_table.request(asked(record, 0, keycode::fifthLevel + codeOfR));
+    EXPECT_EQ(refusal(record),
+              "R cannot be used for record: the keyboard layout has no key for the fifth level.");
+    EXPECT_TRUE(m_grabber.held.empty());
+}
+
+TEST_F(HotKeyTableTest, followsTheKeymap) {
+    m_table.request(asked(record));
+    changeKeymap("us", "altwin:alt_win");
+    EXPECT_TRUE(m_grabber.held.empty());
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::refused);
+    changeKeymap("de", "altwin:swap_alt_win");
+    EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::registered);
+}
+
+TEST_F(HotKeyTableTest, aLiftedCombinationIsFreeUntilItIsRestored) {
+    m_table.request(asked(record));
+    EXPECT_FALSE(m_table.lift(keyOfR, 0x04));
+    EXPECT_TRUE(m_table.lift(keyOfR, 0x44));
+    EXPECT_TRUE(m_grabber.held.empty());
+    m_table.restore();
+    EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
+}
+
+TEST_F(HotKeyTableTest, tellsOfEachChangeOnce) {
+    std::vector<HotKeyStatus> seen;
+    m_table.observe([&](HotKeyId, const HotKeyState& state) { seen.push_back(state.status); });
+    m_table.request(asked(record));
+    m_table.request(asked(record));
+    m_table.withdraw(record);
+    EXPECT_EQ(seen, (std::vector{HotKeyStatus::registered, HotKeyStatus::unset}));
+}
+
+}  // namespace
