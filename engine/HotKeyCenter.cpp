@@ -13,13 +13,42 @@ namespace {
 
 void requestPlayOnce() { requestPlay(1); }
 
-constexpr std::array<HotKeyRow, 4> rows = {
-    HotKeyRow{.name = "record", .id = 1, .signature = "kyl1", .pressed = toggleRecording},
-    HotKeyRow{
-        .name = "stop", .id = 2, .signature = "kyl2", .pressed = stopRecording, .cancelsPlayback = true},
-    HotKeyRow{.name = "play", .id = 3, .signature = "kyl3", .released = requestPlayOnce},
-    HotKeyRow{.name = "multiplePlay", .id = 4, .signature = "kyl4", .pressed = promptMultiplePlay},
+/// What the shortcut of that name does.
+struct Command {
+    std::string_view name;
+    void (*pressed)() = nullptr;
+    void (*released)() = nullptr;
+    bool cancelsPlayback = false;
 };
+
+constexpr std::array commands = {
+    Command{.name = "record", .pressed = toggleRecording},
+    Command{.name = "stop", .pressed = stopRecording, .cancelsPlayback = true},
+    Command{.name = "play", .released = requestPlayOnce},
+    Command{.name = "multiplePlay", .pressed = promptMultiplePlay},
+};
+static_assert(commands.size() == shortcutRows.size());
+
+/// A shortcut and the command of its name; without one it does not compile.
+consteval HotKeyRow rowFor(const ShortcutRow& shortcut) {
+    std::size_t index = 0;
+    while (commands.at(index).name != shortcut.name) ++index;
+    const Command& command = commands.at(index);
+    return {.name = shortcut.name,
+            .id = shortcut.id,
+            .signature = shortcut.signature,
+            .pressed = command.pressed,
+            .released = command.released,
+            .cancelsPlayback = command.cancelsPlayback};
+}
+
+consteval std::array<HotKeyRow, shortcutRows.size()> allRows() {
+    std::array<HotKeyRow, shortcutRows.size()> all;
+    std::transform(shortcutRows.begin(), shortcutRows.end(), all.begin(), rowFor);
+    return all;
+}
+
+constexpr std::array<HotKeyRow, shortcutRows.size()> rows = allRows();
 
 /// With its sign, so that -1 becomes keycode::none.
 std::uint32_t widened(std::int16_t code) { return static_cast<std::uint32_t>(std::int32_t{code}); }
@@ -40,7 +69,7 @@ void dispatch(HotKeyId id, void (*HotKeyRow::*command)()) {
 
 }  // namespace
 
-const std::array<HotKeyRow, 4>& hotKeyRows() { return rows; }
+const std::array<HotKeyRow, shortcutRows.size()>& hotKeyRows() { return rows; }
 
 void installHotKeyHandlers() { services().hotKeys.install(onHotKeyPressed, onHotKeyReleased); }
 

@@ -5,13 +5,12 @@
 #include <string_view>
 
 #include "platform/HotKeys.h"
+#include "prefs/Shortcuts.h"
 
-/// One of the four global hot keys.
+/// One of the global hot keys: a shortcut (prefs/Shortcuts.h) and its command.
 struct HotKeyRow {
-    /// Its key in the preference table, and in the settings with "Code" and "Flags" behind it.
     std::string_view name;
     HotKeyId id = 0;
-    /// Four characters; nothing looks at it.
     std::string_view signature;
     /// What a press and a release do; null is nothing.
     void (*pressed)() = nullptr;
@@ -20,8 +19,8 @@ struct HotKeyRow {
     bool cancelsPlayback = false;
 };
 
-/// All rows in the order in which they are registered: record, stop, play, multiplePlay.
-const std::array<HotKeyRow, 4>& hotKeyRows();
+/// All rows, in the order of shortcutRows, in which they are registered.
+const std::array<HotKeyRow, shortcutRows.size()>& hotKeyRows();
 
 /// Presses and releases of hot keys become commands from now on.
 void installHotKeyHandlers();

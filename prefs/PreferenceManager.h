@@ -18,7 +18,7 @@ struct PreferenceEntry {
 
 namespace utils {
 
-/// The table from hot-key name ("record", "stop", "play", "multiplePlay") to combination, in memory only.
+/// The table from hot-key name (prefs/Shortcuts.h) to combination, in memory only.
 ///
 /// Names are bytes: case matters. Looking a missing name up puts a default entry in; entries never go. All
 /// operations work on the one table of the process, which is made at first use. Main thread only.

@@ -22,8 +22,8 @@ std::optional<KeyCombo> storedShortcut(const SettingsStore& store, const std::st
     return KeyCombo{.flags = static_cast<std::uint32_t>(*flags), .code = static_cast<std::int16_t>(*code)};
 }
 
-bool isStoredOn(const SettingsStore& store, const std::string& key) {
-    return store.integer(key).value_or(0) != 0;
+bool isStoredOn(const SettingsStore& store, const std::string& key, bool initially) {
+    return store.integer(key).value_or(initially ? 1 : 0) != 0;
 }
 
 void setHotKey(const std::string& name, KeyCombo shortcut) {
@@ -32,25 +32,24 @@ void setHotKey(const std::string& name, KeyCombo shortcut) {
 }
 
 void loadHotKeys(const SettingsStore& store) {
-    for (const std::string name : shortcutNames) {
+    for (const ShortcutRow& row : shortcutRows) {
+        const std::string name(row.name);
         if (const auto shortcut = storedShortcut(store, name)) setHotKey(name, *shortcut);
     }
 }
 
 void keepHotKeys(const PreferenceValues& values) {
-    for (std::size_t i = 0; i < shortcutNames.size(); ++i) {
-        if (values.shortcuts[i].code != KeyCombo().code) setHotKey(shortcutNames[i], values.shortcuts[i]);
+    for (std::size_t i = 0; i < shortcutRows.size(); ++i) {
+        const KeyCombo& shortcut = values.shortcuts[i];
+        if (shortcut.code != KeyCombo().code) setHotKey(std::string(shortcutRows[i].name), shortcut);
     }
 }
 
 void storePreferences(SettingsStore& store, const PreferenceValues& values) {
-    for (std::size_t i = 0; i < shortcutNames.size(); ++i) {
-        const std::string name = shortcutNames[i];
+    for (std::size_t i = 0; i < shortcutRows.size(); ++i) {
+        const std::string name(shortcutRows[i].name);
         store.setInteger(name + "Code", values.shortcuts[i].code);
         store.setInteger(name + "Flags", values.shortcuts[i].flags);
     }
-    if (values.checkForUpdatesOnLaunch) {
-        store.setBool("checkForUpdatesOnLaunch", *values.checkForUpdatesOnLaunch);
-    }
-    store.setBool("launchOnLogin", values.launchOnLogin);
+    for (const ToggleValue& toggle : values.toggles) store.setBool(toggle.key, toggle.on);
 }

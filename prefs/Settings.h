@@ -5,24 +5,28 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "prefs/KeyCombo.h"
+#include "prefs/Shortcuts.h"
 
 class SettingsStore;
 
 // Between the store, where combinations lie as NAMECode and NAMEFlags in control flags, and the preference
 // table, which holds them as hot keys are registered. Nothing here is kept between calls.
 
-/// The shortcuts' names in the preference table, in the order in which they are loaded and stored.
-inline constexpr std::array<const char*, 4> shortcutNames = {"record", "stop", "play", "multiplePlay"};
+/// A check box's key in the store, and its state.
+struct ToggleValue {
+    std::string key;
+    bool on = false;
+};
 
 /// What the preferences panel holds.
 struct PreferenceValues {
-    /// In the order of shortcutNames, in control flags.
-    std::array<KeyCombo, shortcutNames.size()> shortcuts;
-    /// Empty in builds without the update check: what is stored stays.
-    std::optional<bool> checkForUpdatesOnLaunch;
-    bool launchOnLogin = false;
+    /// In the order of shortcutRows, in control flags.
+    std::array<KeyCombo, shortcutRows.size()> shortcuts;
+    /// In the order in which they are stored. What is stored of others stays.
+    std::vector<ToggleValue> toggles;
 };
 
 /// A mask of `controlflag` bits as `modifier` bits (platform/Modifiers.h); other bits are dropped.
@@ -32,8 +36,8 @@ std::uint32_t hotKeyFlags(std::uint32_t controlFlags);
 /// missing.
 std::optional<KeyCombo> storedShortcut(const SettingsStore& store, const std::string& name);
 
-/// Whether the key is there and not 0.
-bool isStoredOn(const SettingsStore& store, const std::string& key);
+/// Whether the key is there and not 0; `initially` where it is not there.
+bool isStoredOn(const SettingsStore& store, const std::string& key, bool initially = false);
 
 /// Puts a combination in control flags into the preference table, also the empty one.
 void setHotKey(const std::string& name, KeyCombo shortcut);

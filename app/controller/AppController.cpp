@@ -45,9 +45,9 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
     connect(&timer, &QTimer::timeout, this, &AppController::runSplash);
     connect(&m_killTimer, &QTimer::timeout, this, &AppController::kill);
     connect(&m_refreshTimer, &QTimer::timeout, this, &AppController::refreshAppleScript);
-    for (ShortcutModel* shortcut : shortcutModels()) {
-        connect(shortcut, &ShortcutModel::keyComboDidChange, this,
-                [this, shortcut] { shortcutRecorderKeyComboDidChange(shortcut); });
+    for (ShortcutModel& shortcut : preferences.shortcuts) {
+        connect(&shortcut, &ShortcutModel::keyComboDidChange, this,
+                [this, &shortcut] { shortcutRecorderKeyComboDidChange(&shortcut); });
     }
     connectMenu();
 }

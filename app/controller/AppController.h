@@ -5,7 +5,6 @@
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
-#include <array>
 #include <boost/smart_ptr/shared_ptr.hpp>
 #include <cstdint>
 #include <map>
@@ -108,7 +107,7 @@ class AppController : public QObject, public SharedController {
     void installRunAtLogin(bool enable);
     void showPreferences(QObject* sender);
     void preferencesWillClose();
-    /// The user has changed the combination of one of the four shortcuts.
+    /// The user has changed the combination of one of the shortcuts.
     void shortcutRecorderKeyComboDidChange(ShortcutModel* recorder);
 
     // Macro files
@@ -216,8 +215,6 @@ class AppController : public QObject, public SharedController {
     std::vector<QWidget*> ordinaryWindows() const;
     bool downloadsUpdateInstead();
 
-    /// In the order of shortcutNames.
-    std::array<ShortcutModel*, 4> shortcutModels();
     PreferenceValues preferenceValues() const;
     void emptyOthersEqualTo(const ShortcutModel& recorder);
     void noteHotKey(HotKeyId id, const HotKeyState& state);

@@ -18,10 +18,10 @@
 
 namespace {
 
-/// In which order the other fields are compared with a changed one; numbers in the order record, stop, play,
-/// multiplePlay.
-constexpr std::array<std::array<std::size_t, 3>, 4> conflictOrder = {
-    {{1, 2, 3}, {0, 2, 3}, {1, 0, 3}, {0, 1, 2}}};
+/// Empties the model if it is another one with the same combination.
+void emptyIfEqual(ShortcutModel& model, const ShortcutModel& changed) {
+    if (&model != &changed && model.keyCombo() == changed.keyCombo()) model.setKeyCombo({});
+}
 
 /// What the preference table holds under the name, in control flags.
 KeyCombo tableCombination(const std::string& name) {
@@ -31,27 +31,27 @@ KeyCombo tableCombination(const std::string& name) {
 
 }  // namespace
 
-std::array<ShortcutModel*, 4> AppController::shortcutModels() {
-    return {&recordShortcutText, &stopShortcutText, &playShortcutText, &multiplePlayShortcutText};
-}
-
 void AppController::syncPreferencesDefaults() {
     loadHotKeys(m_services.settings);
-    const std::array<ShortcutModel*, 4> models = shortcutModels();
-    for (std::size_t i = 0; i < models.size(); ++i) {
-        const std::optional<KeyCombo> stored = storedShortcut(m_services.settings, shortcutNames[i]);
-        if (stored) models[i]->setKeyCombo(*stored);
+    for (std::size_t i = 0; i < shortcutRows.size(); ++i) {
+        const auto stored = storedShortcut(m_services.settings, std::string(shortcutRows[i].name));
+        if (stored) preferences.shortcuts[i].setKeyCombo(*stored);
     }
-    checkForUpdatesOnLaunchButton.setOn(isStoredOn(m_services.settings, "checkForUpdatesOnLaunch"));
-    launchOnLoginButton.setOn(isStoredOn(m_services.settings, "launchOnLogin"));
+    for (std::size_t i = 0; i < toggleRows.size(); ++i) {
+        const ToggleRow& row = toggleRows[i];
+        preferences.toggles[i].setOn(isStoredOn(m_services.settings, row.key, row.initiallyOn));
+    }
 }
 
 PreferenceValues AppController::preferenceValues() const {
-    PreferenceValues values{.shortcuts = {recordShortcutText.keyCombo(), stopShortcutText.keyCombo(),
-                                          playShortcutText.keyCombo(), multiplePlayShortcutText.keyCombo()},
-                            .checkForUpdatesOnLaunch = std::nullopt,
-                            .launchOnLogin = launchOnLoginButton.isOn()};
-    if (preferences.offersUpdateCheck) values.checkForUpdatesOnLaunch = checkForUpdatesOnLaunchButton.isOn();
+    PreferenceValues values;
+    std::transform(preferences.shortcuts.begin(), preferences.shortcuts.end(), values.shortcuts.begin(),
+                   [](const ShortcutModel& model) { return model.keyCombo(); });
+    for (std::size_t i = 0; i < toggleRows.size(); ++i) {
+        const ToggleModel& model = preferences.toggles[i];
+        if (&model == &preferences.checkForUpdatesOnLaunch && !preferences.offersUpdateCheck) continue;
+        values.toggles.push_back({toggleRows[i].key, model.isOn()});
+    }
     return values;
 }
 
@@ -59,7 +59,7 @@ void AppController::savePreferences(QObject* /*sender*/) {
     const PreferenceValues values = preferenceValues();
     keepHotKeys(values);
     storePreferences(m_services.settings, values);
-    installRunAtLogin(values.launchOnLogin);
+    installRunAtLogin(launchOnLoginButton.isOn());
     const Result<> saved = m_services.settings.synchronize();
     if (!saved) tellSaveFailure(alerts::settingsNotSaved(saved.error()));
     registerHotKeys();
@@ -117,14 +117,10 @@ void AppController::shortcutRecorderKeyComboDidChange(ShortcutModel* recorder) {
     savePreferences(nullptr);
 }
 
-// The most recent assignment wins, and nobody is asked.
+// The most recent assignment wins, and nobody is asked. In the table's order, but Stop yields to Play first.
 void AppController::emptyOthersEqualTo(const ShortcutModel& recorder) {
-    const std::array<ShortcutModel*, 4> models = shortcutModels();
-    const auto* changed = std::find(models.begin(), models.end(), &recorder);
-    const auto index = static_cast<std::size_t>(changed - models.begin());
-    for (const std::size_t other : conflictOrder.at(index)) {
-        if (models[other]->keyCombo() == recorder.keyCombo()) models[other]->setKeyCombo({});
-    }
+    if (&recorder == &playShortcutText) emptyIfEqual(stopShortcutText, recorder);
+    for (ShortcutModel& other : preferences.shortcuts) emptyIfEqual(other, recorder);
 }
 
 void AppController::noteHotKey(HotKeyId id, const HotKeyState& state) {
@@ -145,14 +141,13 @@ void AppController::updateStatusNotice() {
 }
 
 void AppController::updateNotices() {
-    const std::array<ShortcutModel*, 4> models = shortcutModels();
     AllShortcutFacts facts;
-    for (std::size_t i = 0; i < models.size(); ++i) {
-        const HotKeyRow& row = hotKeyRows()[i];
-        facts[i] = {.field = models[i]->keyCombo(),
+    for (std::size_t i = 0; i < shortcutRows.size(); ++i) {
+        const ShortcutRow& row = shortcutRows[i];
+        facts[i] = {.field = preferences.shortcuts[i].keyCombo(),
                     .asked = tableCombination(std::string(row.name)),
                     .state = m_services.hotKeys.state(row.id)};
     }
     const ShortcutNoticeTexts texts = shortcutNotices(facts);
-    for (std::size_t i = 0; i < models.size(); ++i) models[i]->setNotice(texts[i]);
+    for (std::size_t i = 0; i < texts.size(); ++i) preferences.shortcuts[i].setNotice(texts[i]);
 }

@@ -5,12 +5,11 @@
 #include <algorithm>
 
 #include "app/shortcuts/CombinationText.h"
+#include "app/shortcuts/ShortcutTitles.h"
 
 namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("ShortcutNotices", text); }
-
-std::array<QString, 4> commandNames() { return {tr("Record"), tr("Stop"), tr("Play"), tr("Multiple Play")}; }
 
 bool works(const ShortcutFacts& shortcut) {
     return shortcut.state.status == HotKeyStatus::registered ||
@@ -28,7 +27,7 @@ QString refusal(const ShortcutFacts& refused, const AllShortcutFacts& all) {
     });
     if (holder != all.end()) {
         const auto index = static_cast<std::size_t>(holder - all.begin());
-        return tr("Still used by %1 until Keyrill restarts.").arg(commandNames().at(index));
+        return tr("Still used by %1 until Keyrill restarts.").arg(shortcutTitles(index).command);
     }
     return refused.state.error ? QString::fromStdString(refused.state.error->message) : QString();
 }

@@ -6,8 +6,9 @@
 
 #include "platform/HotKeys.h"
 #include "prefs/KeyCombo.h"
+#include "prefs/Shortcuts.h"
 
-/// One of the four shortcuts, as its field and the hot-key registry have it.
+/// A shortcut, as its field and the hot-key registry have it.
 struct ShortcutFacts {
     /// What the field holds.
     KeyCombo field;
@@ -17,9 +18,9 @@ struct ShortcutFacts {
     HotKeyState state;
 };
 
-/// In the order record, stop, play, multiplePlay.
-using AllShortcutFacts = std::array<ShortcutFacts, 4>;
-using ShortcutNoticeTexts = std::array<QString, 4>;
+/// In the order of shortcutRows.
+using AllShortcutFacts = std::array<ShortcutFacts, shortcutRows.size()>;
+using ShortcutNoticeTexts = std::array<QString, shortcutRows.size()>;
 
 /// What stands beside each field, empty for nothing: why a combination does not work; that one which was
 /// cleared goes on working; which cleared one another has to wait for.

@@ -2,6 +2,7 @@
 #include "app/panels/PreferencesPanel.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -9,13 +10,18 @@
 
 #include "app/shortcuts/PreferencesModel.h"
 #include "app/shortcuts/SRRecorderControl.h"
+#include "app/shortcuts/ShortcutTitles.h"
 #include "app/widgets/NoticeLine.h"
 #include "app/widgets/PanelText.h"
 
 namespace {
 
-QCheckBox* makeCheckBox(ToggleModel& model, const QString& text) {
-    auto* box = new QCheckBox(text);
+/// Comes last and has the button beside it.
+constexpr std::size_t updateToggle = toggleIndex("checkForUpdatesOnLaunch");
+
+QCheckBox* makeCheckBox(PreferencesModel& preferences, std::size_t index) {
+    ToggleModel& model = preferences.toggles.at(index);
+    auto* box = new QCheckBox(QCoreApplication::translate(togglesContext, toggleRows.at(index).title));
     box->setChecked(model.isOn());
     QObject::connect(box, &QCheckBox::toggled, &model, &ToggleModel::setOn);
     QObject::connect(&model, &ToggleModel::changed, box, [box, &model] { box->setChecked(model.isOn()); });
@@ -50,17 +56,14 @@ QLayout* PreferencesPanel::makeShortcuts(PreferencesModel& model) {
     auto* form = new QFormLayout;
     form->setLabelAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    addShortcut(*form, model.record, tr("Start &recording:"), tr("Start recording"));
-    addShortcut(*form, model.stop, tr("&Stop recording:"), tr("Stop recording"));
-    addShortcut(*form, model.play, tr("&Play:"), tr("Play"));
-    addShortcut(*form, model.multiplePlay, tr("Play &multiple times:"), tr("Play multiple times"));
+    for (std::size_t i = 0; i < model.shortcuts.size(); ++i)
+        addShortcut(*form, model.shortcuts[i], shortcutTitles(i));
     return form;
 }
 
-void PreferencesPanel::addShortcut(QFormLayout& form, ShortcutModel& shortcut, const QString& label,
-                                   const QString& name) {
-    auto* field = new SRRecorderControl(shortcut, name, this);
-    form.addRow(label, field);
+void PreferencesPanel::addShortcut(QFormLayout& form, ShortcutModel& shortcut, const ShortcutTitles& titles) {
+    auto* field = new SRRecorderControl(shortcut, titles.meaning, this);
+    form.addRow(titles.label, field);
     auto* notice = new NoticeLine(this);
     const auto showNotice = [&form, notice, &shortcut] {
         notice->setNotice(shortcut.notice());
@@ -74,14 +77,20 @@ void PreferencesPanel::addShortcut(QFormLayout& form, ShortcutModel& shortcut, c
 
 QLayout* PreferencesPanel::makeOptions(PreferencesModel& model) {
     auto* layout = new QVBoxLayout;
-    layout->addWidget(makeCheckBox(model.launchOnLogin, tr("Start Keyrill when I log &in")));
+    for (std::size_t i = 0; i < model.toggles.size(); ++i) {
+        if (i != updateToggle) layout->addWidget(makeCheckBox(model, i));
+    }
+    layout->addLayout(makeUpdateOption(model));
+    return layout;
+}
+
+QLayout* PreferencesPanel::makeUpdateOption(PreferencesModel& model) {
     auto* updates = new QHBoxLayout;
-    auto* box = makeCheckBox(model.checkForUpdatesOnLaunch, tr("Check for &updates when Keyrill starts"));
+    auto* box = makeCheckBox(model, updateToggle);
     updates->addWidget(box);
     updates->addStretch();
     updates->addWidget(m_checkForUpdatesNowButton);
     box->setVisible(model.offersUpdateCheck);
     m_checkForUpdatesNowButton->setVisible(model.offersUpdateCheck);
-    layout->addLayout(updates);
-    return layout;
+    return updates;
 }

@@ -9,8 +9,9 @@ class QPushButton;
 class QVBoxLayout;
 class ShortcutModel;
 struct PreferencesModel;
+struct ShortcutTitles;
 
-/// The panel of the four shortcuts and the options. It shows and changes the model, which outlives it, and
+/// The panel of the shortcuts and the options. It shows and changes the model, which outlives it, and
 /// does nothing else.
 class PreferencesPanel : public Panel {
     Q_OBJECT
@@ -24,8 +25,9 @@ class PreferencesPanel : public Panel {
 
   private:
     QLayout* makeShortcuts(PreferencesModel& model);
-    void addShortcut(QFormLayout& form, ShortcutModel& shortcut, const QString& label, const QString& name);
+    void addShortcut(QFormLayout& form, ShortcutModel& shortcut, const ShortcutTitles& titles);
     QLayout* makeOptions(PreferencesModel& model);
+    QLayout* makeUpdateOption(PreferencesModel& model);
 
     QPushButton* m_checkForUpdatesNowButton;
 };

@@ -7,6 +7,7 @@
 
 #include "app/shortcuts/CombinationText.h"
 #include "app/shortcuts/PreferencesModel.h"
+#include "app/shortcuts/ShortcutTitles.h"
 #include "app/widgets/PanelText.h"
 
 namespace {
@@ -92,10 +93,8 @@ QLayout* WelcomePanel::makeSteps(const PreferencesModel& model) {
 QLayout* WelcomePanel::makeCombinations(const PreferencesModel& model) {
     auto* grid = new QGridLayout;
     grid->setColumnStretch(2, 1);
-    addCombination(*grid, model.record, tr("Start recording"));
-    addCombination(*grid, model.stop, tr("Stop recording"));
-    addCombination(*grid, model.play, tr("Play"));
-    addCombination(*grid, model.multiplePlay, tr("Play multiple times"));
+    for (std::size_t i = 0; i < model.shortcuts.size(); ++i)
+        addCombination(*grid, model.shortcuts[i], shortcutTitles(i).meaning);
     return grid;
 }
 

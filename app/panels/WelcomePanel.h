@@ -8,7 +8,7 @@ class QLayout;
 class ShortcutModel;
 struct PreferencesModel;
 
-/// Greets the user at the first start: what the program does, the four combinations as they are set, the way
+/// Greets the user at the first start: what the program does, the combinations as they are set, the way
 /// to a first macro. Its button closes it as the frame does.
 class WelcomePanel : public Panel {
     Q_OBJECT

@@ -1,25 +1,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
+#include <array>
 
 #include "app/shortcuts/ShortcutModel.h"
 #include "app/shortcuts/ToggleModel.h"
-#include "platform/Modifiers.h"
-
-/// A shortcut as the program comes with it: the key with Control and Super.
-constexpr KeyCombo initialKeyCombo(std::int16_t code) {
-    return {.flags = controlflag::control | controlflag::command, .code = code};
-}
+#include "app/shortcuts/Toggles.h"
+#include "prefs/Shortcuts.h"
 
 /// What the preferences panel shows, also while there is no panel.
 struct PreferencesModel {
-    ShortcutModel record{initialKeyCombo(15)};
-    ShortcutModel stop{initialKeyCombo(1)};
-    ShortcutModel play{initialKeyCombo(35)};
-    ShortcutModel multiplePlay{initialKeyCombo(46)};
-    ToggleModel launchOnLogin;
-    ToggleModel checkForUpdatesOnLaunch;
-    /// False in builds without the update check: nothing of it is shown.
+    PreferencesModel();
+
+    /// In the order of shortcutRows.
+    std::array<ShortcutModel, shortcutRows.size()> shortcuts;
+    /// In the order of toggleRows.
+    std::array<ToggleModel, toggleRows.size()> toggles;
+
+    // Those that are spoken of by name.
+    ShortcutModel& record = shortcuts[shortcutIndex("record")];
+    ShortcutModel& stop = shortcuts[shortcutIndex("stop")];
+    ShortcutModel& play = shortcuts[shortcutIndex("play")];
+    ShortcutModel& multiplePlay = shortcuts[shortcutIndex("multiplePlay")];
+    ToggleModel& launchOnLogin = toggles[toggleIndex("launchOnLogin")];
+    ToggleModel& checkForUpdatesOnLaunch = toggles[toggleIndex("checkForUpdatesOnLaunch")];
+
+    /// False in builds without the update check: nothing of it is shown or stored.
     bool offersUpdateCheck = true;
 };

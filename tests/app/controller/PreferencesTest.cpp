@@ -106,15 +106,20 @@ TEST_F(SaveOrderTest, writesInThisOrder) {
     controller.stopShortcutText.setKeyCombo({});
     controller.launchOnLoginButton.setOn(true);
     controller.savePreferences(nullptr);
-    Journal expected = {"write recordCode 15",       "write recordFlags 1310720",
-                        "write stopCode -1",         "write stopFlags 0",
-                        "write playCode 35",         "write playFlags 1310720",
-                        "write multiplePlayCode 46", "write multiplePlayFlags 1310720"};
-    if (features::updateCheck) expected.emplace_back("write checkForUpdatesOnLaunch false");
-    for (const char* entry : {"write launchOnLogin true", "login item on", "synchronize", "register record",
-                              "register stop", "register play", "register multiplePlay"}) {
-        expected.emplace_back(entry);
+    Journal expected;
+    for (const ShortcutRow& row : shortcutRows) {
+        const KeyCombo saved = row.name == "stop" ? KeyCombo() : row.preset;
+        expected.push_back("write " + std::string(row.name) + "Code " + std::to_string(saved.code));
+        expected.push_back("write " + std::string(row.name) + "Flags " + std::to_string(saved.flags));
     }
+    for (const ToggleRow& row : toggleRows) {
+        const std::string key = row.key;
+        const bool on = key == "launchOnLogin" || row.initiallyOn;
+        if (key == "checkForUpdatesOnLaunch" && !features::updateCheck) continue;
+        expected.push_back("write " + key + (on ? " true" : " false"));
+    }
+    expected.insert(expected.end(), {"login item on", "synchronize"});
+    for (const ShortcutRow& row : shortcutRows) expected.push_back("register " + std::string(row.name));
     EXPECT_EQ(journal, expected);
 }
 

@@ -71,8 +71,8 @@ class StartUpOrderTest : public EngineTest {
 };
 
 TEST_F(StartUpOrderTest, asksThePlatformInThisOrder) {
-    const Journal registerAll = {"register record", "register stop", "register play",
-                                 "register multiplePlay"};
+    Journal registerAll;
+    for (const ShortcutRow& row : shortcutRows) registerAll.push_back("register " + std::string(row.name));
     Journal expected = {"check version", "install hot-key handlers", "check access", "install monitor"};
     expected.insert(expected.end(), registerAll.begin(), registerAll.end());
     expected.emplace_back("show status item");

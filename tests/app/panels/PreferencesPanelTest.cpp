@@ -10,6 +10,7 @@
 
 #include "app/shortcuts/PreferencesModel.h"
 #include "app/shortcuts/SRRecorderControl.h"
+#include "app/shortcuts/ShortcutTitles.h"
 #include "app/widgets/NoticeLine.h"
 #include "engine/EngineTest.h"
 
@@ -66,8 +67,8 @@ TEST_F(PreferencesPanelTest, labelsEachFieldWithAMnemonicOfItsOwn) {
         const qsizetype mark = button->text().indexOf(u'&');
         if (mark >= 0) mnemonics.insert(button->text().at(mark + 1).toLower());
     }
-    EXPECT_EQ(fields, 4);
-    EXPECT_EQ(mnemonics.size(), 8) << "four fields, two boxes, two buttons";
+    EXPECT_EQ(fields, shortcutRows.size());
+    EXPECT_EQ(mnemonics.size(), shortcutRows.size() + toggleRows.size() + 2) << "fields, boxes, two buttons";
 }
 
 TEST_F(PreferencesPanelTest, showsAndSetsTheOptions) {
@@ -113,9 +114,15 @@ TEST_F(PreferencesPanelTest, leadsTheFocusThroughAllControlsInTheirOrder) {
         const auto* button = qobject_cast<QAbstractButton*>(widget);
         order.append(button == nullptr ? widget->accessibleName() : button->text().remove(u'&'));
     }
-    EXPECT_EQ(order.join(QLatin1Char('|')).toStdString(),
-              "Start recording|Stop recording|Play|Play multiple times|Start Keyrill when I log in|"
-              "Check for updates when Keyrill starts|Check Now|Close");
+    QStringList expected;
+    for (std::size_t i = 0; i < shortcutRows.size(); ++i) expected.append(shortcutTitles(i).meaning);
+    for (const ToggleRow& row : toggleRows) {
+        if (&row != &toggleRows[toggleIndex("checkForUpdatesOnLaunch")])
+            expected.append(QString::fromLatin1(row.title).remove(u'&'));
+    }
+    expected.append({QStringLiteral("Check for updates when Keyrill starts"), QStringLiteral("Check Now"),
+                     QStringLiteral("Close")});
+    EXPECT_EQ(order.join(QLatin1Char('|')).toStdString(), expected.join(QLatin1Char('|')).toStdString());
 }
 
 }  // namespace

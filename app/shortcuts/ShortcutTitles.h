@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <cstddef>
+
+/// How a shortcut is called on the screen.
+struct ShortcutTitles {
+    /// Beside its field, with a mnemonic that no other control of the preferences has.
+    QString label;
+    /// What it does, as a sentence would go on.
+    QString meaning;
+    /// Its command in a notice about another shortcut.
+    QString command;
+};
+
+/// Of the shortcut with that index in shortcutRows, in the user's language.
+ShortcutTitles shortcutTitles(std::size_t index);
