@@ -2,12 +2,12 @@
 #include "app/controller/AppController.h"
 
 #include <QCoreApplication>
+#include <QPushButton>
 #include <chrono>
 
 #include "app/dialogs/AlertTexts.h"
 #include "app/overlay/Alphas.h"
 #include "app/overlay/MultiplePlayWindow.h"
-#include "app/overlay/RecorderWindow.h"
 #include "app/overlay/SplashWindow.h"
 #include "app/panels/AboutPanel.h"
 #include "app/panels/PreferencesPanel.h"
@@ -29,32 +29,91 @@ constexpr std::chrono::seconds refreshInterval{30};
 /// What the documentation gets to be seen before the program goes.
 constexpr std::chrono::seconds killDelay{1};
 
+struct MenuAction {
+    QAction* StatusMenu::*item;
+    AppController::Action action;
+};
+
+constexpr MenuAction menuActions[] = {
+    {&StatusMenu::recordMenuItem, &AppController::recordMacro},
+    {&StatusMenu::stopMenuItem, &AppController::stopMacro},
+    {&StatusMenu::saveDelayMenuItem, &AppController::saveDelayToNow},
+    {&StatusMenu::playMenuItem, &AppController::playMacro},
+    {&StatusMenu::multiplePlayMenuItem, &AppController::multiPlayMacro},
+    {&StatusMenu::saveMacroMenuItem, &AppController::saveMacro},
+    {&StatusMenu::loadMacroMenuItem, &AppController::loadMacro},
+    {&StatusMenu::preferencesMenuItem, &AppController::showPreferences},
+    {&StatusMenu::documentationMenuItem, &AppController::openDocumentation},
+    {&StatusMenu::forumMenuItem, &AppController::openForum},
+    {&StatusMenu::keyrillWebsiteMenuItem, &AppController::openKeyrillWebsite},
+    {&StatusMenu::orlenWebsiteMenuItem, &AppController::openOrlenWebsite},
+    {&StatusMenu::supportMenuItem, &AppController::getSupport},
+    {&StatusMenu::feedbackMenuItem, &AppController::sendFeedback},
+    {&StatusMenu::bugMenuItem, &AppController::reportABug},
+    {&StatusMenu::aboutMenuItem, &AppController::aboutKeyrill},
+};
+
 }  // namespace
 
 AppController::AppController(Services& services, Windows& windows, StatusItem& item, Dialogs& dialogs)
-    : statusItem(item),
-      m_services(services),
-      m_windows(windows),
+    : m_services(services),
+      m_statusNotice(item),
       m_gate(services.eventMonitor, [this] { followGate(); }),
       m_dialogs(dialogs, m_gate),
       m_scriptQuestions(m_dialogs, services.keyInjector, services.notifications),
-      m_shared(*this) {
-    preferences.offersUpdateCheck = features::updateCheck;
+      m_shared(*this),
+      m_stage(windows, [this] { return ordinaryWindows(); }),
+      m_menuDesk(item, [this](const MenuState& state) { m_overlayDesk.setPromptPlays(state.promptPlays); }),
+      m_overlayDesk(m_stage, services.clock, services.hotKeys),
+      m_updateDesk(services.updateService, services.workspace, m_dialogs),
+      m_helpDesk(services.workspace, services.systemFacts, m_stage),
+      m_filesDesk(services.macroFiles, services.notifications, m_dialogs, m_gate, m_stage,
+                  [this] { m_menuDesk.update(); }),
+      m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, m_dialogs, m_stage),
+      statusItem(item) {
     timer.setSingleShot(true);
     m_killTimer.setSingleShot(true);
     connect(&timer, &QTimer::timeout, this, &AppController::runSplash);
     connect(&m_killTimer, &QTimer::timeout, this, &AppController::kill);
     connect(&m_refreshTimer, &QTimer::timeout, this, &AppController::refreshAppleScript);
-    for (ShortcutModel& shortcut : preferences.shortcuts) {
-        connect(&shortcut, &ShortcutModel::keyComboDidChange, this,
-                [this, &shortcut] { shortcutRecorderKeyComboDidChange(&shortcut); });
-    }
+    connectDesks();
     connectMenu();
 }
 
 AppController::~AppController() {
     // A sheet that is still open is answered when its panel goes, and answers need the whole controller.
-    m_preferencesWindow.reset();
+    m_preferencesDesk.removePanel();
+}
+
+void AppController::connectDesks() {
+    connect(&m_preferencesDesk, &PreferencesDesk::willClose, this, &AppController::preferencesWillClose);
+    connect(&m_preferencesDesk, &PreferencesDesk::checkForUpdatesNowPressed, this,
+            [this] { perform(&AppController::checkForUpdates, checkForUpdatesNowButton()); });
+    for (ShortcutModel& shortcut : preferences.shortcuts) {
+        connect(&shortcut, &ShortcutModel::keyComboDidChange, this,
+                [this, &shortcut] { shortcutRecorderKeyComboDidChange(&shortcut); });
+    }
+    connect(&m_overlayDesk, &OverlayDesk::promptConfirmed, this,
+            [this] { perform(&AppController::doMultiplePlay, multiplePlayWindow()); });
+}
+
+void AppController::connectMenu() {
+    connect(&statusMenu, &StatusMenu::shown, this, [this](bool open) { m_gate.setMenuOpen(open); });
+    for (const MenuAction& row : menuActions) connectItem(statusMenu.*row.item, row.action);
+    if (statusMenu.updateMenuItem != nullptr) {
+        // As if the button had been pressed: whoever asks is to get an answer.
+        connect(statusMenu.updateMenuItem, &QAction::triggered, this,
+                [this] { perform(&AppController::checkForUpdates, checkForUpdatesNowButton()); });
+    }
+    connect(statusMenu.quitMenuItem, &QAction::triggered, this, &AppController::kill);
+}
+
+void AppController::connectItem(QAction* item, Action action) {
+    connect(item, &QAction::triggered, this, [this, item, action] { perform(action, item); });
+}
+
+void AppController::perform(Action action, QObject* sender) {
+    if (m_gate.isOpen()) (this->*action)(sender);
 }
 
 // What observes the closing of panels is connected where they are built.
@@ -64,9 +123,8 @@ void AppController::awakeFromNib() {
     installHotKeyHandlers();
     if (!checkAccess()) return;
     m_isAwake = true;
-    m_sessionHint = sessionHint();
-    updateStatusNotice();
-    updateMenu();
+    m_statusNotice.setHint(sessionHint());
+    m_menuDesk.update();
     installKeyRecorder();
     activateBusyStatusMenu();
     syncPreferencesDefaults();
@@ -124,23 +182,28 @@ QString AppController::sessionHint() const {
         "under \"Configuration\".");
 }
 
-// QCoreApplication::quit() would close each window first, and a window could refuse.
-void AppController::kill() { QCoreApplication::exit(0); }
-
-void AppController::refreshAppleScript() { m_services.scripting.run(""); }
-
 WelcomePanel& AppController::builtWelcomePanel() {
     if (!m_welcomePanel) {
         m_welcomePanel = std::make_unique<WelcomePanel>(preferences);
-        m_welcomePanel->setHint(m_sessionHint);
+        m_welcomePanel->setHint(m_statusNotice.hint());
         connect(m_welcomePanel.get(), &Panel::willClose, this, &AppController::welcomePanelWillClose);
     }
     return *m_welcomePanel;
 }
 
-void AppController::welcomePanelWillClose() {
-    fadeOutPanel(m_welcomePanel.get());
-    if (runPreferencesOnLaunch) showPreferences(nullptr);
+void AppController::followGate() {
+    m_menuDesk.follow(m_gate);
+    // An alert that ends the start-up leaves the menu as it is.
+    if (m_isAwake) m_menuDesk.update();
+    m_overlayDesk.setRecorderVisible(m_menuDesk.state().overlayVisible);
 }
 
-void AppController::showControlWindow() { statusItem.showWindow(); }
+void AppController::noteHotKey(HotKeyId id, const HotKeyState& state) {
+    m_statusNotice.noteHotKey(id, state);
+    m_preferencesDesk.updateNotices();
+}
+
+std::vector<QWidget*> AppController::ordinaryWindows() const {
+    return {multiplePlayWindow(), preferencesWindow(), aboutPanel(),
+            welcomePanel(),       splashWindow(),      statusItem.window()};
+}

@@ -3,52 +3,47 @@
 
 #include <QImage>
 #include <QObject>
-#include <QPointer>
 #include <QTimer>
 #include <boost/smart_ptr/shared_ptr.hpp>
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "app/controller/FilesDesk.h"
 #include "app/controller/Gate.h"
 #include "app/controller/GatedDialogs.h"
+#include "app/controller/HelpDesk.h"
+#include "app/controller/MenuDesk.h"
+#include "app/controller/OverlayDesk.h"
+#include "app/controller/PreferencesDesk.h"
 #include "app/controller/ScriptQuestions.h"
-#include "app/shortcuts/PreferencesModel.h"
-#include "app/tray/MenuState.h"
-#include "app/tray/StatusItem.h"
-#include "app/tray/StatusMenu.h"
+#include "app/controller/Stage.h"
+#include "app/controller/StatusNotice.h"
+#include "app/controller/UpdateDesk.h"
 #include "engine/SharedController.h"
 #include "platform/HotKeys.h"
 #include "platform/Result.h"
 
-class AboutPanel;
-class MultiplePlayWindow;
-class Panel;
-class PreferencesPanel;
-class QPushButton;
-class QWidget;
-class RecorderWindow;
-class SplashWindow;
 class WelcomePanel;
 class Windows;
-struct PreferenceValues;
 struct Services;
 
 /// The one controller: joins engine, settings and desktop with the menu and the windows, and is the only one
 /// to know both sides. The engine reaches it from its construction on. Main thread only.
 ///
+/// What there is to do and to know of one theme lies on a desk; the controller passes its operations on, and
+/// does itself what takes several desks. No desk knows another.
+///
 /// Actions take their sender and, but for runMacro() and checkForUpdates(), ignore it; where the program
-/// calls one itself it passes null. Windows are built when first shown and kept. The source files are by
-/// theme: AppController.cpp start-up and end, ...Menu.cpp, ...Overlays.cpp, ...Preferences.cpp,
-/// ...MacroFiles.cpp,
-/// ...Support.cpp.
+/// calls one itself it passes null. Windows are built when first shown and kept.
 class AppController : public QObject, public SharedController {
     Q_OBJECT
 
   public:
+    using Action = void (AppController::*)(QObject*);
+
     /// All outlive the controller.
     AppController(Services& services, Windows& windows, StatusItem& item, Dialogs& dialogs);
     ~AppController() override;
@@ -144,110 +139,86 @@ class AppController : public QObject, public SharedController {
     /// How scripts ask and tell.
     ScriptDialogs& scriptDialogs() { return m_scriptQuestions; }
 
+  private:
+    Services& m_services;
+    StatusNotice m_statusNotice;
+    Gate m_gate;
+    GatedDialogs m_dialogs;
+    ScriptQuestions m_scriptQuestions;
+    SharedControllerScope m_shared;
+    Stage m_stage;
+    MenuDesk m_menuDesk;
+    OverlayDesk m_overlayDesk;
+    UpdateDesk m_updateDesk;
+    HelpDesk m_helpDesk;
+    FilesDesk m_filesDesk;
+    PreferencesDesk m_preferencesDesk;
+    std::unique_ptr<WelcomePanel> m_welcomePanel;
+
+  public:
     // Outlets; windows are null until first shown.
 
     StatusItem& statusItem;
-    StatusImage statusImage = StatusImage::busy;
+    StatusImage& statusImage = m_menuDesk.image;
     /// Nothing shows it.
     QImage logoImage;
-    StatusMenu statusMenu;
-    PreferencesModel preferences;
+    StatusMenu& statusMenu = m_menuDesk.menu;
+    PreferencesModel& preferences = m_preferencesDesk.model;
     ShortcutModel& recordShortcutText = preferences.record;
     ShortcutModel& stopShortcutText = preferences.stop;
     ShortcutModel& playShortcutText = preferences.play;
     ShortcutModel& multiplePlayShortcutText = preferences.multiplePlay;
     ToggleModel& launchOnLoginButton = preferences.launchOnLogin;
     ToggleModel& checkForUpdatesOnLaunchButton = preferences.checkForUpdatesOnLaunch;
-    RecorderWindow* recorderWindow() const { return m_recorderWindow.get(); }
-    MultiplePlayWindow* multiplePlayWindow() const { return m_multiplePlayWindow.get(); }
-    SplashWindow* splashWindow() const { return m_splashWindow.get(); }
+    RecorderWindow* recorderWindow() const { return m_overlayDesk.recorder(); }
+    MultiplePlayWindow* multiplePlayWindow() const { return m_overlayDesk.prompt(); }
+    SplashWindow* splashWindow() const { return m_overlayDesk.splash(); }
     /// Nothing shows it yet.
-    SplashWindow& builtSplashWindow();
-    PreferencesPanel* preferencesWindow() const { return m_preferencesWindow.get(); }
-    AboutPanel* aboutPanel() const { return m_aboutPanel.get(); }
+    SplashWindow& builtSplashWindow() { return m_overlayDesk.builtSplash(); }
+    PreferencesPanel* preferencesWindow() const { return m_preferencesDesk.panel(); }
+    AboutPanel* aboutPanel() const { return m_helpDesk.aboutPanel(); }
     WelcomePanel* welcomePanel() const { return m_welcomePanel.get(); }
-    /// Builds the preferences panel if need be; null in builds without the update check.
-    QPushButton* checkForUpdatesNowButton();
+    /// Builds the preferences panel if need be; not shown in builds without the update check.
+    QPushButton* checkForUpdatesNowButton() { return m_preferencesDesk.checkForUpdatesNowButton(); }
 
     // Flags
 
     /// Leaves out the timer of runSplash(); nothing sets it.
     bool noSplash = false;
     /// The check at start-up has been made and its answer not been shown.
-    bool checkForUpdateCompleted = false;
+    bool& checkForUpdateCompleted = m_updateDesk.hasChecked;
     /// That check found a newer version.
-    bool updateAvailable = false;
+    bool& updateAvailable = m_updateDesk.hasFound;
     /// This is the first run: after the welcome panel come the preferences.
     bool runPreferencesOnLaunch = false;
-    bool runCheckForUpdates = false;
+    bool& runCheckForUpdates = m_updateDesk.checksAtStartUp;
     /// Fires runSplash(), once.
     QTimer timer{this};
 
   private:
-    using Action = void (AppController::*)(QObject*);
+    // Start-up
 
+    void connectDesks();
+    void connectMenu();
+    void connectItem(QAction* item, Action action);
     bool checkSystemVersion();
     bool checkAccess();
     void noteFirstRun();
     void watchScreenLock();
     void tellFaults();
-
-    void connectMenu();
-    void connectItem(QAction* item, Action action);
-    /// An action that the user chose, wherever; nothing while the gate is shut.
-    void perform(Action action, QObject* sender);
-    void updateMenu();
-    void updateStatusNotice();
     /// What the user should know of this session; empty for nothing.
     QString sessionHint() const;
-    void followGate();
-
-    MultiplePlayWindow& builtMultiplePlayWindow();
-    PreferencesPanel& builtPreferencesWindow();
     WelcomePanel& builtWelcomePanel();
-    AboutPanel& builtAboutPanel();
-    /// Fades a panel in, in front of the windows of other programs.
-    void presentPanel(Panel& panel);
-    void dismissMultiplePlay();
-    /// Waits until keys reach the application that the user was in; `hidden` is a window of ours, or null.
-    void awaitFocusElsewhere(const QWidget* hidden);
+
+    /// An action that the user chose, wherever; nothing while the gate is shut.
+    void perform(Action action, QObject* sender);
+    void followGate();
+    void noteHotKey(HotKeyId id, const HotKeyState& state);
     /// What hide() takes off the screen; with nulls.
     std::vector<QWidget*> ordinaryWindows() const;
-    bool downloadsUpdateInstead();
 
-    PreferenceValues preferenceValues() const;
-    void emptyOthersEqualTo(const ShortcutModel& recorder);
-    void noteHotKey(HotKeyId id, const HotKeyState& state);
-    void updateNotices();
-    /// Tells why something could not be saved; the same only once each time that the panel is opened.
-    void tellSaveFailure(const AlertText& alert);
-
-    QString playAdvice() const;
-    void openPage(std::string_view url);
-    /// Shows the answer of an update check as a sheet.
-    void tellUpdateOnPreferences(bool available);
-
-    Services& m_services;
-    Windows& m_windows;
-    Gate m_gate;
-    GatedDialogs m_dialogs;
-    ScriptQuestions m_scriptQuestions;
-    SharedControllerScope m_shared;
-    MenuFacts m_facts;
-    std::unique_ptr<RecorderWindow> m_recorderWindow;
-    std::unique_ptr<MultiplePlayWindow> m_multiplePlayWindow;
-    std::unique_ptr<SplashWindow> m_splashWindow;
-    std::unique_ptr<PreferencesPanel> m_preferencesWindow;
-    std::unique_ptr<AboutPanel> m_aboutPanel;
-    std::unique_ptr<WelcomePanel> m_welcomePanel;
-    std::vector<QPointer<QWidget>> m_hidden;
-    QString m_sessionHint;
-    std::map<HotKeyId, std::string> m_refusedHotKeys;
-    std::vector<AlertText> m_toldSaveFailures;
     QTimer m_refreshTimer{this};
     QTimer m_killTimer{this};
     /// Whether the session is one to work in: the menu follows the state from then on.
     bool m_isAwake = false;
-    /// Whether the prompt is being opened from a menu, not by its hot key.
-    bool m_openedFromMenu = false;
 };

@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include <QCoreApplication>
+#include <cstring>
+
+#include "app/controller/AppController.h"
+#include "app/controller/BugReport.h"
+#include "app/overlay/Fades.h"
+#include "app/panels/PreferencesPanel.h"
+#include "app/panels/WelcomePanel.h"
+#include "app/tray/MacroMenuItem.h"
+#include "core/MacroManager.h"
+#include "engine/AppleScript.h"
+#include "engine/EngineState.h"
+#include "engine/KeyRecorder.h"
+#include "engine/MacroPlayer.h"
+#include "platform/ScriptingService.h"
+#include "platform/Services.h"
+#include "platform/SystemFacts.h"
+
+// What the menu, the engine and the desktop may ask of the controller, in the header's order.
+
+// Start-up and end
+
+// QCoreApplication::quit() would close each window first, and a window could refuse.
+void AppController::kill() { QCoreApplication::exit(0); }
+
+void AppController::refreshAppleScript() { m_services.scripting.run(""); }
+
+void AppController::welcomePanelWillClose() {
+    fadeOutPanel(m_welcomePanel.get());
+    if (runPreferencesOnLaunch) showPreferences(nullptr);
+}
+
+void AppController::openMacroFile(const QString& path) {
+    m_filesDesk.open(path, playShortcutText.keyCombo());
+}
+
+void AppController::showControlWindow() { statusItem.showWindow(); }
+
+// Status item and menus
+
+void AppController::activateBusyStatusMenu() { m_menuDesk.showBusy(); }
+
+void AppController::activateStatusMenu() { m_menuDesk.showNormal(); }
+
+void AppController::addMacro(const boost::shared_ptr<Macro>& macro) {
+    connectItem(m_menuDesk.addToHistory(*macro), &AppController::runMacro);
+}
+
+void AppController::setMacroString(const std::string& text) { m_overlayDesk.setMacroString(text); }
+
+void AppController::runMacro(QObject* sender) {
+    if (std::strcmp(sender->metaObject()->className(), "MacroMenuItem") != 0) return;
+    const boost::shared_ptr<Macro> macro =
+        MacroManager::macro(static_cast<MacroMenuItem*>(sender)->macroId());
+    engineState().currentMacro = macro;
+    const std::string script = macro->script();
+    m_menuDesk.update();
+    m_stage.awaitFocusElsewhere(nullptr);
+    m_services.scripting.startPlayback();
+    AppleScript::runAppleScript(script);
+}
+
+void AppController::recordMacro(QObject* /*sender*/) { toggleRecording(); }
+
+void AppController::stopMacro(QObject* /*sender*/) { stopRecording(); }
+
+void AppController::saveDelayToNow(QObject* /*sender*/) { ::saveDelayToNow(); }
+
+void AppController::playMacro(QObject* /*sender*/) {
+    m_stage.awaitFocusElsewhere(nullptr);
+    playTimes(1);
+}
+
+void AppController::multiPlayMacro(QObject* /*sender*/) {
+    m_overlayDesk.opensFromMenu = true;
+    promptMultiplePlay();
+    m_overlayDesk.opensFromMenu = false;
+}
+
+// Overlays, splash and fades
+
+void AppController::showRecordingGui() {
+    m_menuDesk.recordingBegins();
+    if (m_updateDesk.offerFound()) {
+        cancelRecording();
+        return;
+    }
+    m_overlayDesk.showRecorder();
+    m_menuDesk.overlayIsShown();
+    restartLastEventTime();
+}
+
+void AppController::hideRecordingGui() {
+    m_menuDesk.recordingEnds();
+    m_overlayDesk.hideRecorder();
+}
+
+void AppController::showMultiplePlayGui() {
+    m_menuDesk.update();
+    m_overlayDesk.showPrompt(m_menuDesk.state().promptPlays);
+}
+
+void AppController::doMultiplePlay(QObject* /*sender*/) {
+    playTimes(m_overlayDesk.leaveToPlay());
+    unhide();
+}
+
+void AppController::runSplash() {
+    if (runCheckForUpdates) backgroundCheckForUpdates();
+    activateStatusMenu();
+    tellFaults();
+}
+
+void AppController::hideSplashScreen() { m_overlayDesk.hideSplash(); }
+
+void AppController::fadeInPanel(QWidget* window, double alpha) { m_stage.fadeIn(*window, alpha); }
+
+void AppController::fadeOutPanel(QWidget* window) { m_stage.fadeOut(*window); }
+
+void AppController::animatePanelIn(QWidget* window, double alpha) { m_stage.animateIn(*window, alpha); }
+
+void AppController::animatePanelOut(QWidget* window) { animateAlpha(*window, 0); }
+
+void AppController::alphaZero(QWidget* window) { setAlpha(*window, 0); }
+
+void AppController::hide() { m_stage.hide(); }
+
+void AppController::unhide() { m_stage.unhide(); }
+
+// Preferences
+
+void AppController::syncPreferencesDefaults() { m_preferencesDesk.load(); }
+
+void AppController::savePreferences(QObject* /*sender*/) { m_preferencesDesk.save(); }
+
+void AppController::installRunAtLogin(bool enable) { m_preferencesDesk.installLoginItem(enable); }
+
+void AppController::showPreferences(QObject* /*sender*/) { m_preferencesDesk.open(); }
+
+void AppController::preferencesWillClose() { m_preferencesDesk.close(); }
+
+void AppController::shortcutRecorderKeyComboDidChange(ShortcutModel* recorder) {
+    m_preferencesDesk.takeShortcut(*recorder);
+}
+
+// Macro files
+
+void AppController::saveMacro(QObject* /*sender*/) {
+    if (!m_menuDesk.isOverlayShown()) m_filesDesk.save();
+}
+
+void AppController::loadMacro(QObject* /*sender*/) {
+    if (!m_menuDesk.isOverlayShown()) m_filesDesk.load();
+}
+
+bool AppController::loadInMacroFromFile(const QString& path) { return m_filesDesk.loadFrom(path); }
+
+// Support
+
+void AppController::aboutKeyrill(QObject* /*sender*/) { m_helpDesk.showAbout(); }
+
+void AppController::getSupport(QObject* /*sender*/) { m_helpDesk.askForSupport(); }
+
+void AppController::sendFeedback(QObject* /*sender*/) { m_helpDesk.sendFeedback(); }
+
+void AppController::reportABug(QObject* /*sender*/) { m_helpDesk.reportABug(); }
+
+void AppController::openOrlenWebsite(QObject* /*sender*/) { m_helpDesk.openMakersWebsite(); }
+
+void AppController::openForum(QObject* /*sender*/) { m_helpDesk.openForum(); }
+
+void AppController::openKeyrillWebsite(QObject* /*sender*/) { m_helpDesk.openProductPage(); }
+
+void AppController::openDocumentation(QObject* /*sender*/) { m_helpDesk.openDocumentation(); }
+
+void AppController::checkForUpdates(QObject* sender) {
+    m_updateDesk.checkNow(m_preferencesDesk.shownPanel(), m_preferencesDesk.isCheckForUpdatesNowButton(sender));
+}
+
+void AppController::updateCheckSheetDidEnd(AlertAnswer answer) { m_updateDesk.downloadIf(answer); }
+
+void AppController::backgroundCheckForUpdates() {
+    m_updateDesk.checkSilently();
+    activateStatusMenu();
+}
+
+bool AppController::doCheckForUpdate() { return m_updateDesk.askForNewer(); }
+
+void AppController::sendEmail(std::string_view address, std::string_view subject, std::string_view body) {
+    m_helpDesk.sendEmail(address, subject, body);
+}
+
+std::string AppController::systemVersionString() const { return m_services.systemFacts.systemVersion(); }
+
+std::string AppController::machineType() const { return ::machineType(m_services.systemFacts); }
+
+std::int32_t AppController::processorClockSpeed() const { return m_services.systemFacts.processorClock(); }
+
+std::uint32_t AppController::countProcessors() const { return m_services.systemFacts.processors(); }

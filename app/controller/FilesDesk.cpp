@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "app/controller/FilesDesk.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <utility>
+
+#include "app/controller/Gate.h"
+#include "app/controller/Stage.h"
+#include "app/controller/TildeExpansion.h"
+#include "app/dialogs/AlertTexts.h"
+#include "app/dialogs/Dialogs.h"
+#include "app/shortcuts/CombinationText.h"
+#include "core/MacroManager.h"
+#include "engine/EngineState.h"
+#include "platform/MacroFiles.h"
+#include "platform/Notifications.h"
+#include "prefs/KeyCombo.h"
+
+FilesDesk::FilesDesk(MacroFiles& files, Notifications& notifications, Dialogs& dialogs, const Gate& gate,
+                     Stage& stage, std::function<void()> macroChanged)
+    : m_files(files),
+      m_notifications(notifications),
+      m_dialogs(dialogs),
+      m_gate(gate),
+      m_stage(stage),
+      m_macroChanged(std::move(macroChanged)) {}
+
+void FilesDesk::save() {
+    if (!engineState().currentMacro) return;
+    m_stage.unhide();
+    const QString folder = QString::fromStdString(m_files.prepareFolder());
+    const QString path = withTildeExpanded(m_dialogs.runSavePanel(folder), QDir::homePath());
+    if (path.isEmpty() || !engineState().currentMacro) return;
+    const std::string script = engineState().currentMacro->script();
+    const Result<> written = m_files.write(path.toStdString(), script);
+    if (!written) m_dialogs.runAlert(alerts::macroNotSaved(path, written.error()));
+}
+
+void FilesDesk::load() {
+    m_stage.unhide();
+    const QString folder = QString::fromStdString(m_files.prepareFolder());
+    const QString path = withTildeExpanded(m_dialogs.runOpenPanel(folder), QDir::homePath());
+    if (!path.isEmpty()) loadFrom(path);
+}
+
+bool FilesDesk::loadFrom(const QString& path) {
+    const Result<std::string> text = m_files.read(path.toStdString());
+    if (!text) {
+        m_dialogs.runAlert(alerts::macroNotLoaded(path, text.error()));
+        return false;
+    }
+    engineState().currentMacro = MacroManager::createMacro();
+    engineState().currentMacro->setScript(text.value());
+    m_macroChanged();
+    return true;
+}
+
+void FilesDesk::open(const QString& path, KeyCombo play) {
+    const QString name = QFileInfo(path).fileName();
+    if (engineState().recording) {
+        post(tr("\"%1\" was not loaded").arg(name), tr("A macro is being recorded. Stop recording first."));
+    } else if (!m_gate.isOpen()) {
+        post(tr("\"%1\" was not loaded").arg(name), tr("Answer Keyrill's question first."));
+    } else if (loadFrom(path)) {
+        const QString combination = combinationText(play);
+        post(tr("\"%1\" is loaded").arg(name),
+             combination.isEmpty() ? tr("Choose a shortcut for Play in the preferences to play it.")
+                                   : tr("Press %1 to play it.").arg(combination));
+    }
+}
+
+void FilesDesk::post(const QString& title, const QString& text) {
+    m_notifications.post(title.toStdString(), text.toStdString());
+}

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "app/controller/Stage.h"
+
+#include "app/overlay/Alphas.h"
+#include "app/overlay/Fades.h"
+#include "app/widgets/IsShown.h"
+#include "platform/Windows.h"
+
+namespace {
+
+WindowId windowIdOf(const QWidget& window) { return static_cast<WindowId>(window.winId()); }
+
+void showWithoutFocus(QWidget& window) {
+    const bool quietly = window.testAttribute(Qt::WA_ShowWithoutActivating);
+    window.setAttribute(Qt::WA_ShowWithoutActivating);
+    window.show();
+    window.setAttribute(Qt::WA_ShowWithoutActivating, quietly);
+}
+
+}  // namespace
+
+void Stage::fadeIn(QWidget& window, double alpha) {
+    setAlpha(window, 0);
+    animateIn(window, alpha);
+}
+
+void Stage::animateIn(QWidget& window, double alpha) {
+    if (window.isMinimized()) {
+        window.showNormal();
+    } else {
+        window.show();
+    }
+    animateAlpha(window, alpha);
+}
+
+void Stage::fadeOut(QWidget& window) {
+    animateAlpha(window, 0);
+    window.hide();
+    endFade(window);
+}
+
+void Stage::present(QWidget& panel) {
+    unhide();
+    fadeIn(panel, panelAlpha);
+    panel.raise();
+    activate(panel, 0);
+}
+
+void Stage::activate(QWidget& window, std::uint32_t userTime) {
+    m_windows.activate(windowIdOf(window), userTime);
+}
+
+void Stage::awaitFocusElsewhere(const QWidget* hidden) {
+    m_windows.awaitFocusElsewhere(hidden == nullptr ? Windows::none : windowIdOf(*hidden));
+}
+
+void Stage::hide() {
+    for (QWidget* window : m_ordinaryWindows()) {
+        if (!isShown(window)) continue;
+        window->hide();
+        m_hidden.emplace_back(window);
+    }
+}
+
+void Stage::unhide() {
+    for (const QPointer<QWidget>& window : m_hidden) {
+        if (window) showWithoutFocus(*window);
+    }
+    m_hidden.clear();
+}
