@@ -175,7 +175,8 @@ void AppController::openKeyrillWebsite(QObject* /*sender*/) { m_helpDesk.openPro
 void AppController::openDocumentation(QObject* /*sender*/) { m_helpDesk.openDocumentation(); }
 
 void AppController::checkForUpdates(QObject* sender) {
-    m_updateDesk.checkNow(m_preferencesDesk.shownPanel(), m_preferencesDesk.isCheckForUpdatesNowButton(sender));
+    m_updateDesk.checkNow(m_preferencesDesk.shownPanel(),
+                          m_preferencesDesk.isCheckForUpdatesNowButton(sender));
 }
 
 void AppController::updateCheckSheetDidEnd(AlertAnswer answer) { m_updateDesk.downloadIf(answer); }

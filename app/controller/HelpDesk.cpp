@@ -19,7 +19,8 @@ AboutPanel& HelpDesk::builtAboutPanel() {
     if (!m_aboutPanel) {
         m_aboutPanel = std::make_unique<AboutPanel>();
         const auto connectButton = [this](QPushButton* button, void (HelpDesk::*page)()) {
-            QObject::connect(button, &QPushButton::clicked, m_aboutPanel.get(), [this, page] { (this->*page)(); });
+            QObject::connect(button, &QPushButton::clicked, m_aboutPanel.get(),
+                             [this, page] { (this->*page)(); });
         };
         connectButton(m_aboutPanel->documentationButton(), &HelpDesk::openDocumentation);
         connectButton(m_aboutPanel->productPageButton(), &HelpDesk::openProductPage);
@@ -34,9 +35,7 @@ void HelpDesk::askForSupport() { sendEmail(addresses::supportAddress, "Support",
 
 void HelpDesk::sendFeedback() { sendEmail(addresses::feedbackAddress, "Keyrill Feedback", ""); }
 
-void HelpDesk::reportABug() {
-    sendEmail(addresses::bugReportAddress, "Keyrill Bug", bugReportBody(m_facts));
-}
+void HelpDesk::reportABug() { sendEmail(addresses::bugReportAddress, "Keyrill Bug", bugReportBody(m_facts)); }
 
 void HelpDesk::openMakersWebsite() { openPage(m_workspace, addresses::makersWebsite); }
 

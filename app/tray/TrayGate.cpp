@@ -11,15 +11,15 @@ constexpr std::chrono::milliseconds waitForHosts{500};
 }  // namespace
 
 TrayGate::TrayGate(DockingTray& dockingTray) : m_dockingTray(dockingTray) {
-    m_dockingTray.observe([this] { look(); });
-    connect(&m_hosts, &StatusNotifierHosts::changed, this, &TrayGate::look);
-    connect(&m_preferHosts, &QTimer::timeout, this, &TrayGate::look);
+    m_dockingTray.observe([this] { followTrays(); });
+    connect(&m_hosts, &StatusNotifierHosts::changed, this, &TrayGate::followTrays);
+    connect(&m_preferHosts, &QTimer::timeout, this, &TrayGate::followTrays);
     m_preferHosts.setSingleShot(true);
     m_preferHosts.start(m_hosts.hasBus() ? waitForHosts : std::chrono::milliseconds(0));
 }
 
-void TrayGate::look() {
-    if (m_kind == TrayKind::none) settle();
+void TrayGate::followTrays() {
+    if (m_kind == TrayKind::none) settleKind();
     const bool present = m_kind == TrayKind::statusNotifier
                              ? m_hosts.isPresent()
                              : m_kind == TrayKind::docking && m_dockingTray.isPresent();
@@ -28,7 +28,7 @@ void TrayGate::look() {
     emit changed();
 }
 
-void TrayGate::settle() {
+void TrayGate::settleKind() {
     if (m_hosts.isPresent()) {
         m_kind = TrayKind::statusNotifier;
     } else if (m_dockingTray.isPresent() && !m_preferHosts.isActive()) {

@@ -31,8 +31,8 @@ class TrayGate : public QObject {
     void changed();
 
   private:
-    void look();
-    void settle();
+    void followTrays();
+    void settleKind();
 
     DockingTray& m_dockingTray;
     StatusNotifierHosts m_hosts;

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include "app/controller/Stage.h"
+
+#include "app/AppTest.h"
+#include "app/widgets/IsShown.h"
+
+namespace {
+
+TEST(StageTest, bringsBackWhatItHasHiddenAndNothingElse) {
+    QWidget shown;
+    QWidget hidden;
+    shown.show();
+    FakeWindows windows;
+    Stage stage(windows, [&] { return std::vector<QWidget*>{&shown, nullptr, &hidden}; });
+    stage.hide();
+    EXPECT_FALSE(isShown(&shown));
+    stage.unhide();
+    EXPECT_TRUE(isShown(&shown));
+    EXPECT_FALSE(isShown(&hidden));
+}
+
+}  // namespace
