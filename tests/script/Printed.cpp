@@ -170,7 +170,7 @@ std::string leaf(const script::Tree& tree, const Node& node) {
         case NodeKind::name:
             out << "name " << tree.names.at(node.value).spelling;
             break;
-        case NodeKind::known:
+        case NodeKind::predefined:
             out << "known " << tree.names.at(node.value).spelling;
             break;
         case NodeKind::truth:

@@ -138,8 +138,8 @@ bool ExpressionGenerator::leaf(const Node& node) {
         case NodeKind::name:
             load(node.value, node);
             return true;
-        case NodeKind::known:
-            known(node);
+        case NodeKind::predefined:
+            predefined(node);
             return true;
         case NodeKind::result:
             m_out.emit(Operation::pushResult, node);
@@ -183,9 +183,9 @@ void ExpressionGenerator::load(NameId name, const Node& node) {
 }
 
 /// A class, unless there is a variable of that name.
-void ExpressionGenerator::known(const Node& node) {
+void ExpressionGenerator::predefined(const Node& node) {
     if (m_out.scope().knows(node.value)) return load(node.value, node);
-    m_out.emit(Operation::pushKnown, node, 0, node.detail);
+    m_out.emit(Operation::pushPredefined, node, 0, node.detail);
 }
 
 void ExpressionGenerator::items(const Node& node, Operation operation) {
@@ -342,7 +342,7 @@ void ExpressionGenerator::assign(NodeId target, const Node& statement) {
     const Node& node = m_tree.at(target);
     switch (node.kind) {
         case NodeKind::name:
-        case NodeKind::known:
+        case NodeKind::predefined:
             return assignName(node.value, statement);
         case NodeKind::result:
             return m_out.emit(Operation::setResult, statement);

@@ -39,7 +39,7 @@ class ExpressionGenerator {
     void binary(const Node& node);
     void shortCircuit(const Node& node);
     void coercion(const Node& node);
-    void known(const Node& node);
+    void predefined(const Node& node);
     void element(const Node& node, Operation operation);
     void textBetween(const Node& node);
     void referenceTo(const Node& node);

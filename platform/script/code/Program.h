@@ -17,12 +17,12 @@ namespace script {
 enum class Operation : std::uint8_t {
     pushNothing,
     pushMissing,
-    pushTruth,     ///< [0 or 1]
-    pushInteger,   ///< [the number]
-    pushReal,      ///< [index into reals]
-    pushText,      ///< [index into texts]
-    pushModifier,  ///< [bit of platform/Modifiers.h; 1 for `command down`, 0 for `command`]
-    pushKnown,     ///< [-; index of a KnownTerm]
+    pushTruth,       ///< [0 or 1]
+    pushInteger,     ///< [the number]
+    pushReal,        ///< [index into reals]
+    pushText,        ///< [index into texts]
+    pushModifier,    ///< [bit of platform/Modifiers.h; 1 for `command down`, 0 for `command`]
+    pushPredefined,  ///< [-; index of a PredefinedName]
     pushMe,
     pushIt,
     pushResult,

@@ -3,7 +3,7 @@
 
 #include "platform/ScriptDesktop.h"
 #include "platform/script/commands/Playing.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {
@@ -15,7 +15,7 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     // The script and its keyboard have no windows.
     if (target->kind == TargetBody::Kind::script || target->kind == TargetBody::Kind::systemEvents)
         return Value();
-    if (!stage.desktop().hasApplication(target->name.str())) return cannotGet(spelled(who));
+    if (!stage.desktop().hasApplication(target->name.str())) return cannotGet(sourceForm(who));
     const Result<void> raised = stage.desktop().activate(target->name.str());
     if (!raised) return desktopFailure(raised.error());
     return Value();

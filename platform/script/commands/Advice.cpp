@@ -2,7 +2,7 @@
 #include "platform/script/commands/Advice.h"
 
 #include "platform/KeyCodes.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 

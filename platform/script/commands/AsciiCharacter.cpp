@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/script/values/Coercion.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {
@@ -15,7 +15,7 @@ Fallible<Value> perform(CommandStage& /*stage*/, const Arguments& arguments) {
     const std::optional<std::int32_t> code = integerOf(value);
     constexpr std::int32_t last = 127;
     if (!code) return cannotMake(value, "integer");
-    if (*code < 1 || *code > last) return cannotGet("ASCII character " + spelled(value));
+    if (*code < 1 || *code > last) return cannotGet("ASCII character " + sourceForm(value));
     return Value{std::string(1, static_cast<char>(*code))};
 }
 

@@ -50,8 +50,8 @@ std::optional<std::uint32_t> commandHere(const TokenStream& tokens) {
     static const CommandIndex index;
     for (const std::uint32_t candidate : index.beginningWith(tokens.current().hash)) {
         const Command& command = *commands()[candidate];
-        if (command.isTerm && !tokens.knowsTerms()) continue;
-        if (tokens.isAtTerm(command.name)) return candidate;
+        if (command.isOfDictionary && !tokens.knowsDictionary()) continue;
+        if (tokens.isAtPhrase(command.name)) return candidate;
     }
     return std::nullopt;
 }

@@ -80,7 +80,7 @@ struct Command {
 
     Phrase name;
     /// Known inside `tell application "System Events"` only.
-    bool isTerm = false;
+    bool isOfDictionary = false;
     Direct direct = Direct::none;
     Plays plays = Plays::nothing;
     /// `of` may stand before the direct argument.

@@ -5,7 +5,7 @@
 
 #include "platform/script/commands/Playing.h"
 #include "platform/script/values/Coercion.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {

@@ -7,7 +7,7 @@
 #include "platform/script/commands/Playing.h"
 #include "platform/script/source/ScriptError.h"
 #include "platform/script/values/Coercion.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 
@@ -63,7 +63,7 @@ void DialogReader::readButton(unsigned parameter, std::optional<std::size_t>& ta
     } else if (const auto number = integerOf(*given); number && *number > 0) {
         place = static_cast<std::size_t>(*number - 1);
     }
-    if (place >= buttons.size()) return fail(cannotGet("button " + spelled(*given)));
+    if (place >= buttons.size()) return fail(cannotGet("button " + sourceForm(*given)));
     target = place;
 }
 

@@ -35,7 +35,7 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
 const Command& keyCodeCommand() {
     static const Command command{
         .name = "key code",
-        .isTerm = true,
+        .isOfDictionary = true,
         .direct = Command::Direct::required,
         .plays = Command::Plays::codes,
         .parameters = {{"using"}},

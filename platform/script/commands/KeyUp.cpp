@@ -15,7 +15,7 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
 const Command& keyUpCommand() {
     static const Command command{
         .name = "key up",
-        .isTerm = true,
+        .isOfDictionary = true,
         .direct = Command::Direct::required,
         .plays = Command::Plays::keys,
         .perform = perform,

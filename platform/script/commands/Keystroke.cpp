@@ -27,7 +27,7 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
 const Command& keystrokeCommand() {
     static const Command command{
         .name = "keystroke",
-        .isTerm = true,
+        .isOfDictionary = true,
         .direct = Command::Direct::required,
         .plays = Command::Plays::texts,
         .parameters = {{"using"}},

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/commands/All.h"
 
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {
 
 Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     const Value& value = *arguments.direct();
-    stage.log("(*" + (value.text() == nullptr ? spelled(value) : *value.text()) + "*)");
+    stage.log("(*" + (value.text() == nullptr ? sourceForm(value) : *value.text()) + "*)");
     return Value();
 }
 

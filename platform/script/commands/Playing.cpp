@@ -9,7 +9,7 @@
 #include "platform/script/commands/Advice.h"
 #include "platform/script/source/ScriptError.h"
 #include "platform/script/values/Coercion.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {

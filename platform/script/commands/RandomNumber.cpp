@@ -9,7 +9,7 @@
 #include <variant>
 
 #include "platform/script/values/Coercion.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {

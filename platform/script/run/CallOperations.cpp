@@ -6,7 +6,7 @@
 #include "platform/script/commands/Command.h"
 #include "platform/script/run/Execution.h"
 #include "platform/script/run/OperationTable.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {
@@ -14,13 +14,13 @@ namespace {
 /// `{1, "a"}`: what a handler was called with.
 std::string spelledArguments(Execution& run, std::size_t count) {
     const Value* first = run.topValues(count);
-    return spelled(Value{List(first, first + count)});
+    return sourceForm(Value{List(first, first + count)});
 }
 
 std::string spelledParameters(const Execution& run, const Handler& handler) {
     std::string out = "{";
     for (const NameId name : handler.parameterNames) {
-        out += (out.size() > 1 ? ", " : "") + spelledName(run.name(name));
+        out += (out.size() > 1 ? ", " : "") + sourceForm(run.name(name));
     }
     return out + "}";
 }
@@ -64,7 +64,7 @@ Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) 
     const std::string speaker = isOther ? std::string(body->name.str()) : "System Events";
     const std::string prefix = body != nullptr && !isScript ? speaker + " got an error: " : "";
     Failure failure{errornumber::notUnderstood,
-                    prefix + spelled(target) + " doesn’t understand the “" + name + "” message."};
+                    prefix + sourceForm(target) + " doesn’t understand the “" + name + "” message."};
     if (isOwn)
         failure.hint = "Inside “tell” the script’s own handlers are called with “my”: my " + name + "(…).";
     return failure;

@@ -7,7 +7,7 @@
 #include "platform/script/syntax/Node.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/Elements.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {
@@ -128,7 +128,7 @@ void pushTarget(Execution& run, const Instruction& /*unused*/) {
     const TargetBody* target = value.target();
     const bool isApplication = target != nullptr && target->kind == TargetBody::Kind::application;
     if (isApplication && !run.desktop().hasApplication(target->name.str())) {
-        return run.fail(cannotGet(spelled(value)));
+        return run.fail(cannotGet(sourceForm(value)));
     }
     run.pushTarget(std::move(value));
 }

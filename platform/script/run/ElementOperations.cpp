@@ -8,7 +8,7 @@
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/Elements.h"
 #include "platform/script/values/Properties.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {
@@ -47,7 +47,7 @@ bool choose(Execution& run, const Value& container, Element& element) {
     if (element.form != ElementForm::some) return true;
     const auto count = countElements(container, element, run.textRules());
     if (!count || *count == 0) {
-        run.fail(cannotGet(spelled(element) + " of " + spelled(container)));
+        run.fail(cannotGet(sourceForm(element) + " of " + sourceForm(container)));
         return false;
     }
     std::uniform_int_distribution<std::size_t> places(1, *count);
@@ -72,7 +72,7 @@ void getElement(Execution& run, const Instruction& here) {
     if (run.hasFailed() || !choose(run, container, element)) return;
     workFor(run, container, element);
     if (container.target() != nullptr && container.target()->kind == TargetBody::Kind::script) {
-        return run.fail(cannotGet(spelled(element)));
+        return run.fail(cannotGet(sourceForm(element)));
     }
     run.pushOrFail(elementOf(container, element, run.textRules()));
 }
@@ -120,7 +120,7 @@ void getProperty(Execution& run, const Instruction& here) {
     if (!isScript(container) || &name == &names::classProperty)
         return run.pushOrFail(propertyOf(container, name));
     const Value* variable = run.findGlobal(name);
-    if (variable == nullptr || variable->is<Nothing>()) return run.fail(cannotGet(spelledName(name)));
+    if (variable == nullptr || variable->is<Nothing>()) return run.fail(cannotGet(sourceForm(name)));
     run.push(Value(*variable));
 }
 
@@ -131,7 +131,7 @@ void setPropertyOperation(Execution& run, const Instruction& here) {
     const Value value = run.pop();
     if (isScript(container)) {
         Value* variable = run.findGlobal(name);
-        if (variable == nullptr) return run.fail(cannotSet(spelledName(name), value));
+        if (variable == nullptr) return run.fail(cannotSet(sourceForm(name), value));
         *variable = value;
         return;
     }
@@ -147,7 +147,7 @@ void setContents(Execution& run, const Instruction& /*unused*/) {
     const Value reference = run.pop();
     const Value value = run.pop();
     const ReferenceBody* body = reference.reference();
-    if (body == nullptr) return run.fail(cannotSet("contents of " + spelled(reference), value));
+    if (body == nullptr) return run.fail(cannotSet("contents of " + sourceForm(reference), value));
     Fallible<Value> container = resolved(body->container);
     if (auto* failure = std::get_if<Failure>(&container)) return run.fail(std::move(*failure));
     std::optional<Failure> failure = setElement(std::get<Value>(container), body->element, value);
@@ -166,7 +166,7 @@ void characterId(Execution& run, const Instruction& /*unused*/) {
     for (const Value& item : itemsOf(value)) {
         const std::optional<std::int32_t> point = integerOf(item);
         if (!point) return run.fail(cannotMake(item, "integer"));
-        if (!isCharacter(*point)) return run.fail(cannotGet("character id " + spelled(item)));
+        if (!isCharacter(*point)) return run.fail(cannotGet("character id " + sourceForm(item)));
         appendUtf8(text, static_cast<char32_t>(*point));
     }
     run.push(Value{std::move(text)});

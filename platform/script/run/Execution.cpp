@@ -6,7 +6,7 @@
 
 #include "platform/script/run/OperationTable.h"
 #include "platform/script/values/Coercion.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {
@@ -161,7 +161,7 @@ void Execution::leaveHandler(Value value) {
 }
 
 void Execution::finish(const Value& value) {
-    m_result = RunResult{RunEnd::finished, std::nullopt, spelled(value)};
+    m_result = RunResult{RunEnd::finished, std::nullopt, sourceForm(value)};
 }
 
 void Execution::pushTry(std::uint32_t target) {

@@ -9,8 +9,8 @@
 #include "platform/script/values/Arithmetic.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/Comparison.h"
-#include "platform/script/values/Spelling.h"
-#include "platform/script/values/Terms.h"
+#include "platform/script/values/PredefinedNames.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {
@@ -24,7 +24,9 @@ void pushText(Execution& run, const Instruction& here) { run.push(Value{run.prog
 void pushModifier(Execution& run, const Instruction& here) {
     run.push(Value{Modifier{here.operand, here.detail != 0}});
 }
-void pushKnown(Execution& run, const Instruction& here) { run.push(valueOf(knownTerm(here.detail))); }
+void pushPredefined(Execution& run, const Instruction& here) {
+    run.push(valueOf(predefinedName(here.detail)));
+}
 void pushMe(Execution& run, const Instruction& /*unused*/) { run.push(run.me()); }
 void pushIt(Execution& run, const Instruction& /*unused*/) { run.push(run.target()); }
 void pushDelimiters(Execution& run, const Instruction& /*unused*/) { run.push(run.delimiters()); }
@@ -292,7 +294,7 @@ void addValueOperations(OperationTable& table) {
     add(Operation::pushReal, pushReal);
     add(Operation::pushText, pushText);
     add(Operation::pushModifier, pushModifier);
-    add(Operation::pushKnown, pushKnown);
+    add(Operation::pushPredefined, pushPredefined);
     add(Operation::pushMe, pushMe);
     add(Operation::pushIt, pushIt);
     add(Operation::pushResult, pushResult);

@@ -104,7 +104,7 @@ std::string asciiLowered(std::string_view text) {
     return lowered;
 }
 
-std::string spelledName(const Name& name) {
+std::string sourceForm(const Name& name) {
     const std::string& text = name.spelling;
     const bool isWord =
         !text.empty() && (text.front() < '0' || text.front() > '9') &&

@@ -94,6 +94,6 @@ class NameTable {
 std::string asciiLowered(std::string_view text);
 
 /// As a script would spell it: in bars where it is no plain word.
-std::string spelledName(const Name& name);
+std::string sourceForm(const Name& name);
 
 }  // namespace script

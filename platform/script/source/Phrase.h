@@ -12,12 +12,12 @@
 
 namespace script {
 
-/// A term of one word or several, made when compiling so that tokens are compared with it at once.
+/// One word or several in a row, made when compiling so that tokens are compared with it at once.
 class Phrase {
   public:
     static constexpr std::size_t maxWords = 7;
 
-    /// In lower case, one blank between words, at most 255 bytes. Not explicit: a parser asks for terms as
+    /// In lower case, one blank between words, at most 255 bytes. Not explicit: a parser asks for words as
     /// they are spelled.
     // NOLINTNEXTLINE(google-explicit-constructor)
     consteval Phrase(const char* spelling) : m_spelling(spelling) {

@@ -55,7 +55,7 @@ bool TokenStream::isAtWords(const Phrase& words, std::size_t from) const {
     return true;
 }
 
-bool TokenStream::acceptTerm(const Phrase& words) { return isAtTerm(words) && skip(words.wordCount()); }
+bool TokenStream::acceptPhrase(const Phrase& words) { return isAtPhrase(words) && skip(words.wordCount()); }
 
 void TokenStream::expected(std::string_view what) {
     fail(errornumber::syntax, "Expected " + std::string(what) + " but found " + describeCurrent() + ".");

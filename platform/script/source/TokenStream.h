@@ -32,13 +32,13 @@ class TokenStream {
     bool isAt(TokenKind kind) const { return current().is(kind); }
     /// Whether the current token is that word in a meaning that it has here.
     bool isAt(Word word) const { return current().is(word) && means(word); }
-    /// Whether the current two tokens are a term of two words.
+    /// Whether the current two tokens are these two words.
     bool isAt(Word first, Word second) const { return isAt(first) && ahead().is(second) && means(second); }
     /// Whether the tokens from the one so many behind the current one on are these words.
-    bool isAtTerm(const Phrase& words, std::size_t from = 0) const {
+    bool isAtPhrase(const Phrase& words, std::size_t from = 0) const {
         return peek(from).hash == words.firstHash() && isAtWords(words, from);
     }
-    /// Whether the first word of the term stands here, whatever follows.
+    /// Whether the first of the words stands here, whatever follows.
     bool isAtFirstWordOf(const Phrase& words) const { return words.hasWord(0, current()); }
     bool isAtLineEnd() const { return isAt(TokenKind::endOfLine) || isAt(TokenKind::endOfScript); }
 
@@ -47,7 +47,7 @@ class TokenStream {
     bool accept(TokenKind kind) { return isAt(kind) && skip(1); }
     bool accept(Word word) { return isAt(word) && skip(1); }
     bool accept(Word first, Word second) { return isAt(first, second) && skip(2); }
-    bool acceptTerm(const Phrase& words);
+    bool acceptPhrase(const Phrase& words);
     /// `the` means nothing and may stand before any noun, also more than once.
     void skipFiller() {
         while (accept(Word::the)) {
@@ -69,11 +69,11 @@ class TokenStream {
     const std::optional<ScriptError>& error() const { return m_error; }
 
     /// Whether the dictionary of System Events is in force.
-    bool knowsTerms() const { return m_knowsTerms; }
-    void setKnowsTerms(bool knows) { m_knowsTerms = knows; }
+    bool knowsDictionary() const { return m_knowsDictionary; }
+    void setKnowsDictionary(bool knows) { m_knowsDictionary = knows; }
 
     /// Whether the word is taken as the language's own here, not as a name.
-    bool means(Word word) const { return kindOf(word) != WordKind::term || m_knowsTerms; }
+    bool means(Word word) const { return kindOf(word) != WordKind::dictionary || m_knowsDictionary; }
 
   private:
     friend class Nesting;
@@ -99,7 +99,7 @@ class TokenStream {
     mutable std::size_t m_count = 0;
     std::size_t m_first = 0;
     std::optional<ScriptError> m_error;
-    bool m_knowsTerms = false;
+    bool m_knowsDictionary = false;
     int m_depth = 0;
 };
 

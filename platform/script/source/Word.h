@@ -165,7 +165,7 @@ enum class WordKind : std::uint8_t {
     /// Where the grammar asks for it; a name elsewhere.
     special,
     /// Where the dictionary of System Events is in force; a name elsewhere.
-    term,
+    dictionary,
 };
 
 /// A number made from a spelling; case does not matter. Different spellings mostly have different numbers.

@@ -80,7 +80,7 @@ NodeId BlockParser::tell() {
         m_tokens.fail(errornumber::tellTooDeep, "Tell statements are nested too deeply.");
     }
     m_tokens.advance();
-    const bool knewTerms = m_tokens.knowsTerms();
+    const bool knewDictionary = m_tokens.knowsDictionary();
     ChildList children(m_tree, node);
     children.append(tellTarget());
     if (m_tokens.accept(Word::to)) {
@@ -91,7 +91,7 @@ NodeId BlockParser::tell() {
         children.append(body());
         m_statements.acceptEnd(Word::tell);
     }
-    m_tokens.setKnowsTerms(knewTerms);
+    m_tokens.setKnowsDictionary(knewDictionary);
     return node;
 }
 
@@ -109,20 +109,20 @@ bool BlockParser::namesProcessOfSystemEvents() const {
 NodeId BlockParser::tellTarget() {
     m_tokens.skipFiller();
     const bool readsApplication = m_tokens.isAt(Word::application) || m_tokens.isAt(Word::app);
-    if (namesProcessOfSystemEvents()) m_tokens.setKnowsTerms(true);
-    if (readsApplication && !m_terms.isAtProcess()) {
-        const NodeId target = m_terms.application();
-        if (!m_tokens.failed()) m_tokens.setKnowsTerms(m_tree.at(target).detail != 0);
+    if (namesProcessOfSystemEvents()) m_tokens.setKnowsDictionary(true);
+    if (readsApplication && !m_primaries.isAtProcess()) {
+        const NodeId target = m_primaries.application();
+        if (!m_tokens.failed()) m_tokens.setKnowsDictionary(m_tree.at(target).detail != 0);
         return target;
     }
-    return m_terms.expressions().expression();
+    return m_primaries.expressions().expression();
 }
 
 NodeId BlockParser::ifThen() {
     const NodeId node = m_tree.add(NodeKind::ifThen, m_tokens.offset());
     m_tokens.advance();
     ChildList children(m_tree, node);
-    children.append(m_terms.expressions().expression());
+    children.append(m_primaries.expressions().expression());
     const bool hasThen = m_tokens.accept(Word::then);
     if (!m_tokens.isAtLineEnd()) {
         if (!hasThen) m_tokens.expected("“then”");
@@ -141,7 +141,7 @@ void BlockParser::elseParts(ChildList& children) {
     while (m_tokens.accept(Word::elseWord)) {
         const bool isLast = !m_tokens.accept(Word::ifWord);
         if (!isLast) {
-            children.append(m_terms.expressions().expression());
+            children.append(m_primaries.expressions().expression());
             m_tokens.accept(Word::then);
         }
         children.append(body());
@@ -158,12 +158,12 @@ NodeId BlockParser::repeat() {
         m_tokens.advance();
         m_tree.nodes[node].kind = NodeKind::repeatWhile;
         m_tree.nodes[node].detail = isUntil ? 1 : 0;
-        children.append(m_terms.expressions().expression());
+        children.append(m_primaries.expressions().expression());
     } else if (m_tokens.accept(Word::with)) {
         repeatWith(node, children);
     } else if (!m_tokens.isAtLineEnd()) {
         m_tree.nodes[node].kind = NodeKind::repeatTimes;
-        children.append(m_terms.expressions().expression());
+        children.append(m_primaries.expressions().expression());
         m_tokens.accept(Word::times);
     }
     const Scoped<int> loops(m_statements.surroundings().loops, m_statements.surroundings().loops + 1);
@@ -174,11 +174,11 @@ NodeId BlockParser::repeat() {
 
 void BlockParser::repeatWith(NodeId node, ChildList& children) {
     m_tokens.skipFiller();
-    if (!m_terms.expectName()) return;
-    m_tree.nodes[node].value = m_terms.nameHere();
+    if (!m_primaries.expectName()) return;
+    m_tree.nodes[node].value = m_primaries.nameHere();
     if (m_tokens.accept(Word::in)) {
         m_tree.nodes[node].kind = NodeKind::repeatIn;
-        children.append(m_terms.expressions().expression());
+        children.append(m_primaries.expressions().expression());
         return;
     }
     m_tree.nodes[node].kind = NodeKind::repeatRange;
@@ -186,10 +186,10 @@ void BlockParser::repeatWith(NodeId node, ChildList& children) {
         m_tokens.expected("“from” or “in”");
         return;
     }
-    children.append(m_terms.expressions().expression());
+    children.append(m_primaries.expressions().expression());
     if (!m_tokens.accept(Word::to)) m_tokens.expected("“to”");
-    children.append(m_terms.expressions().expression());
-    if (m_tokens.accept(Word::by)) children.append(m_terms.expressions().expression());
+    children.append(m_primaries.expressions().expression());
+    if (m_tokens.accept(Word::by)) children.append(m_primaries.expressions().expression());
 }
 
 NodeId BlockParser::tryBlock() {
@@ -214,7 +214,7 @@ NodeId BlockParser::onError() {
 NodeId BlockParser::errorTarget() {
     const bool isValue =
         m_tokens.isAt(TokenKind::number) || m_tokens.isAt(TokenKind::text) || m_tokens.isAt(TokenKind::minus);
-    return isValue ? m_terms.expressions().index() : m_statements.target();
+    return isValue ? m_primaries.expressions().index() : m_statements.target();
 }
 
 NodeId BlockParser::considering() {
@@ -253,7 +253,7 @@ std::uint32_t BlockParser::attributes(std::uint32_t others) {
 
 std::uint32_t BlockParser::attributeHere() {
     for (const Attribute& row : textAttributes) {
-        if (m_tokens.acceptTerm(row.words)) return row.bit;
+        if (m_tokens.acceptPhrase(row.words)) return row.bit;
     }
     m_tokens.expected(attributeList);
     return 0;
@@ -265,8 +265,8 @@ NodeId BlockParser::timeout() {
     if (!m_tokens.accept(Word::timeout)) m_tokens.expected("“timeout”");
     m_tokens.accept(Word::of);
     ChildList children(m_tree, node);
-    children.append(m_terms.expressions().expression());
-    if (!m_tokens.acceptTerm("seconds") && !m_tokens.acceptTerm("second")) m_tokens.expected("“seconds”");
+    children.append(m_primaries.expressions().expression());
+    if (!m_tokens.acceptPhrase("seconds") && !m_tokens.acceptPhrase("second")) m_tokens.expected("“seconds”");
     children.append(body());
     m_statements.acceptEnd(Word::timeout);
     return node;
@@ -275,18 +275,18 @@ NodeId BlockParser::timeout() {
 /// The block alone: there is nothing to do when it runs.
 NodeId BlockParser::usingTerms() {
     m_tokens.advance();
-    if (!m_tokens.acceptTerm("terms from")) m_tokens.expected("“terms from”");
-    const bool knewTerms = m_tokens.knowsTerms();
+    if (!m_tokens.acceptPhrase("terms from")) m_tokens.expected("“terms from”");
+    const bool knewDictionary = m_tokens.knowsDictionary();
     m_tokens.skipFiller();
     if (m_tokens.isAt(Word::application) || m_tokens.isAt(Word::app)) {
-        const NodeId application = m_terms.application();
-        if (!m_tokens.failed() && m_tree.at(application).detail != 0) m_tokens.setKnowsTerms(true);
+        const NodeId application = m_primaries.application();
+        if (!m_tokens.failed() && m_tree.at(application).detail != 0) m_tokens.setKnowsDictionary(true);
     } else {
         m_tokens.expected("“application”");
     }
     const NodeId block = body();
-    if (m_statements.acceptEnd(Word::usingWord)) m_tokens.acceptTerm("terms from");
-    m_tokens.setKnowsTerms(knewTerms);
+    if (m_statements.acceptEnd(Word::usingWord)) m_tokens.acceptPhrase("terms from");
+    m_tokens.setKnowsDictionary(knewDictionary);
     return block;
 }
 

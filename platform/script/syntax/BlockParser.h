@@ -3,7 +3,7 @@
 
 #include "platform/script/source/TokenStream.h"
 #include "platform/script/syntax/Node.h"
-#include "platform/script/syntax/TermParser.h"
+#include "platform/script/syntax/PrimaryParser.h"
 
 namespace script {
 
@@ -23,8 +23,8 @@ class StatementParser;
 /// using       = using terms from application NL block
 class BlockParser {
   public:
-    BlockParser(TokenStream& tokens, Tree& tree, TermParser& terms, StatementParser& statements)
-        : m_tokens(tokens), m_tree(tree), m_terms(terms), m_statements(statements) {}
+    BlockParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries, StatementParser& statements)
+        : m_tokens(tokens), m_tree(tree), m_primaries(primaries), m_statements(statements) {}
 
     bool isAtBlock() const;
     NodeId statement();
@@ -51,7 +51,7 @@ class BlockParser {
 
     TokenStream& m_tokens;
     Tree& m_tree;
-    TermParser& m_terms;
+    PrimaryParser& m_primaries;
     StatementParser& m_statements;
 };
 

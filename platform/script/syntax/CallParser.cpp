@@ -3,16 +3,16 @@
 
 #include <string>
 
-#include "platform/script/syntax/TermParser.h"
+#include "platform/script/syntax/PrimaryParser.h"
 
 namespace script {
 
 NodeId CallParser::positional() {
     const NodeId node = m_tree.add(NodeKind::call, m_tokens.offset());
-    m_tree.nodes[node].value = m_terms.nameHere();
+    m_tree.nodes[node].value = m_primaries.nameHere();
     m_tokens.advance();
-    const bool allowsIn = m_terms.allowsIn();
-    m_terms.setAllowsIn(true);
+    const bool allowsIn = m_primaries.allowsIn();
+    m_primaries.setAllowsIn(true);
     ChildList arguments(m_tree, node);
     if (!m_tokens.accept(TokenKind::rightParenthesis)) {
         std::uint32_t count = 0;
@@ -22,20 +22,20 @@ NodeId CallParser::positional() {
         } while (m_tokens.accept(TokenKind::comma));
         if (!m_tokens.accept(TokenKind::rightParenthesis)) m_tokens.expected("“,” or “)”");
     }
-    m_terms.setAllowsIn(allowsIn);
+    m_primaries.setAllowsIn(allowsIn);
     return node;
 }
 
 NodeId CallParser::argument(NameId label) {
     const NodeId node = m_tree.add(NodeKind::argument, m_tokens.offset(), label);
-    ChildList(m_tree, node).append(m_terms.expressions().expression());
+    ChildList(m_tree, node).append(m_primaries.expressions().expression());
     return node;
 }
 
 NodeId CallParser::labelled() {
     const NodeId node = m_tree.add(NodeKind::call, m_tokens.offset());
     m_tree.nodes[node].detail = 1;
-    m_tree.nodes[node].value = m_terms.nameHere();
+    m_tree.nodes[node].value = m_primaries.nameHere();
     labelledArguments(node);
     return node;
 }
@@ -50,9 +50,9 @@ void CallParser::labelledArguments(NodeId call) {
     }
     if (m_tokens.accept(Word::given)) {
         do {
-            if (!m_terms.expectName()) return;
+            if (!m_primaries.expectName()) return;
             countParameter(count);
-            const NameId label = m_terms.nameHere();
+            const NameId label = m_primaries.nameHere();
             if (!m_tokens.accept(TokenKind::colon)) m_tokens.expected("“:”");
             arguments.append(argument(label));
         } while (m_tokens.accept(TokenKind::comma));
@@ -65,10 +65,10 @@ void CallParser::truths(ChildList& arguments, std::uint32_t& count) {
     const std::uint32_t truth = m_tokens.isAt(Word::with) ? 1 : 0;
     m_tokens.advance();
     do {
-        if (!m_terms.expectName()) return;
+        if (!m_primaries.expectName()) return;
         countParameter(count);
         const std::uint32_t offset = m_tokens.offset();
-        const NodeId node = m_tree.add(NodeKind::argument, offset, m_terms.nameHere());
+        const NodeId node = m_tree.add(NodeKind::argument, offset, m_primaries.nameHere());
         ChildList(m_tree, node).append(m_tree.add(NodeKind::truth, offset, truth));
         arguments.append(node);
     } while (m_tokens.accept(TokenKind::comma) || m_tokens.accept(Word::andWord));

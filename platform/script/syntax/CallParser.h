@@ -9,7 +9,7 @@
 
 namespace script {
 
-class TermParser;
+class PrimaryParser;
 
 /// Reads calls of handlers.
 ///
@@ -19,8 +19,8 @@ class TermParser;
 /// The second form is read behind names of handlers only that are written so.
 class CallParser {
   public:
-    CallParser(TokenStream& tokens, Tree& tree, TermParser& terms, std::string_view source)
-        : m_tokens(tokens), m_tree(tree), m_terms(terms), m_source(source) {}
+    CallParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries, std::string_view source)
+        : m_tokens(tokens), m_tree(tree), m_primaries(primaries), m_source(source) {}
 
     /// The most parameters of a handler, and arguments of a call: labels are compared one with another.
     static constexpr std::uint32_t maxParameters = 1000;
@@ -46,7 +46,7 @@ class CallParser {
 
     TokenStream& m_tokens;
     Tree& m_tree;
-    TermParser& m_terms;
+    PrimaryParser& m_primaries;
     std::string_view m_source;
     /// The handlers that are called with labels; read from the source when the first may be met.
     std::optional<NameTable> m_labelled;

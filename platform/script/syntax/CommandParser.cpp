@@ -5,8 +5,8 @@
 #include <string>
 
 #include "platform/script/source/Scoped.h"
-#include "platform/script/syntax/TermParser.h"
-#include "platform/script/values/Terms.h"
+#include "platform/script/syntax/PrimaryParser.h"
+#include "platform/script/values/PredefinedNames.h"
 
 namespace script {
 namespace {
@@ -34,7 +34,7 @@ bool CommandParser::isMeant(const Command& command) const {
     const Token& next = m_tokens.ahead();
     if (next.is(TokenKind::colon) || next.is(TokenKind::equal) || next.is(TokenKind::possessive))
         return false;
-    if (command.isTerm || command.direct != Command::Direct::required) return true;
+    if (command.isOfDictionary || command.direct != Command::Direct::required) return true;
     switch (next.kind) {
         case TokenKind::identifier:
             return next.is(Word::none) || next.is(Word::notWord) || next.is(Word::my) ||
@@ -77,15 +77,15 @@ NodeId CommandParser::direct(const Command& command) {
                           (kind != TokenKind::minus && binaryOperator(m_tokens) != nullptr);
         if (ends || m_tokens.isAt(Word::as)) return noNode;
     }
-    if (command.isTerm && parameterHere(command)) {
+    if (command.isOfDictionary && parameterHere(command)) {
         m_tokens.expected("expression");
         return noNode;
     }
-    const bool allowsIn = m_terms.allowsIn() && !hasParameter(command, "in");
-    const bool before = m_terms.allowsIn();
-    m_terms.setAllowsIn(allowsIn);
-    const NodeId value = m_terms.expressions().expressionBefore(hasParameter(command, "as"));
-    m_terms.setAllowsIn(before);
+    const bool allowsIn = m_primaries.allowsIn() && !hasParameter(command, "in");
+    const bool before = m_primaries.allowsIn();
+    m_primaries.setAllowsIn(allowsIn);
+    const NodeId value = m_primaries.expressions().expressionBefore(hasParameter(command, "as"));
+    m_primaries.setAllowsIn(before);
     return value;
 }
 
@@ -98,7 +98,7 @@ bool CommandParser::hasParameter(const Command& command, const Phrase& label) {
 
 std::optional<std::uint32_t> CommandParser::parameterHere(const Command& command) const {
     for (std::uint32_t i = 0; i < command.parameters.size(); ++i) {
-        if (m_tokens.isAtTerm(command.parameters[i].label)) return i;
+        if (m_tokens.isAtPhrase(command.parameters[i].label)) return i;
     }
     return std::nullopt;
 }
@@ -124,7 +124,7 @@ bool CommandParser::truth(const Command& command, std::uint32_t& given, ChildLis
     if (!m_tokens.isAt(Word::with) && !m_tokens.isAt(Word::without)) return false;
     for (std::uint32_t i = 0; i < command.parameters.size(); ++i) {
         const Phrase& label = command.parameters[i].label;
-        if (!m_tokens.isAtTerm(label, 1)) continue;
+        if (!m_tokens.isAtPhrase(label, 1)) continue;
         if ((given & (1U << i)) != 0) failTwice(label.spelling());
         given |= 1U << i;
         const NodeId argument = m_tree.add(NodeKind::argument, m_tokens.offset(), i);
@@ -161,14 +161,14 @@ NodeId CommandParser::parameterValue(const Parameter& parameter, const Command& 
     if (!parameter.choices.empty()) {
         if (const NodeId node = chosen(parameter); node != noNode || m_tokens.failed()) return node;
     }
-    return m_terms.expressions().expressionBefore(hasParameter(command, "as"));
+    return m_primaries.expressions().expressionBefore(hasParameter(command, "as"));
 }
 
 /// One of the words as text; `noNode` where none of them stands and a value may.
 NodeId CommandParser::chosen(const Parameter& parameter) {
     const std::uint32_t offset = m_tokens.offset();
     for (const Phrase& words : parameter.choices) {
-        if (!m_tokens.acceptTerm(words)) continue;
+        if (!m_tokens.acceptPhrase(words)) continue;
         return m_tree.add(NodeKind::text, offset, m_tree.addText(words.spelling()));
     }
     if (parameter.takesValue) return noNode;
@@ -179,15 +179,16 @@ NodeId CommandParser::chosen(const Parameter& parameter) {
 }
 
 NodeId CommandParser::className() {
-    const NodeId node = m_tree.add(NodeKind::known, m_tokens.offset());
-    if (m_tokens.isAtTerm("unicode text")) m_tokens.advance();
-    const auto term = m_tokens.isAt(TokenKind::identifier) ? findTerm(m_tokens.current()) : std::nullopt;
-    if (!term || knownTerm(*term).kind != KnownTerm::Kind::type) {
+    const NodeId node = m_tree.add(NodeKind::predefined, m_tokens.offset());
+    if (m_tokens.isAtPhrase("unicode text")) m_tokens.advance();
+    const auto name =
+        m_tokens.isAt(TokenKind::identifier) ? findPredefinedName(m_tokens.current()) : std::nullopt;
+    if (!name || predefinedName(*name).kind != PredefinedName::Kind::type) {
         m_tokens.expected("class name");
         return node;
     }
-    m_tree.nodes[node].detail = *term;
-    m_tree.nodes[node].value = m_terms.nameHere();
+    m_tree.nodes[node].detail = *name;
+    m_tree.nodes[node].value = m_primaries.nameHere();
     return node;
 }
 

@@ -9,15 +9,15 @@
 
 namespace script {
 
-class TermParser;
+class PrimaryParser;
 
 /// Reads commands: their name, the direct argument, and parameters in any order.
 ///
 /// command = name [[of] expression] { label ( expression | one of its words | class ) }
 class CommandParser {
   public:
-    CommandParser(TokenStream& tokens, Tree& tree, TermParser& terms)
-        : m_tokens(tokens), m_tree(tree), m_terms(terms) {}
+    CommandParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries)
+        : m_tokens(tokens), m_tree(tree), m_primaries(primaries) {}
 
     /// The index of the command that stands here; empty where a name of the same spelling is meant: `round =
     /// 2`.
@@ -39,7 +39,7 @@ class CommandParser {
 
     TokenStream& m_tokens;
     Tree& m_tree;
-    TermParser& m_terms;
+    PrimaryParser& m_primaries;
 };
 
 }  // namespace script

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/syntax/ElementParser.h"
 
-#include "platform/script/syntax/TermParser.h"
+#include "platform/script/syntax/PrimaryParser.h"
 
 namespace script {
 namespace {
@@ -43,16 +43,16 @@ bool isFormWord(Word word) { return word == Word::some || word == Word::middle |
 }  // namespace
 
 std::optional<ElementParser::Kind> ElementParser::kindHere() const {
-    if (m_tokens.isAtTerm("text item")) return Kind{ElementKind::textItem, Type::anything, false, 2};
-    if (m_tokens.isAtTerm("text items")) return Kind{ElementKind::textItem, Type::anything, true, 2};
+    if (m_tokens.isAtPhrase("text item")) return Kind{ElementKind::textItem, Type::anything, false, 2};
+    if (m_tokens.isAtPhrase("text items")) return Kind{ElementKind::textItem, Type::anything, true, 2};
     if (!m_tokens.isAt(TokenKind::identifier)) return std::nullopt;
-    const ElementTerm* term = findElementTerm(m_tokens.current());
-    if (term == nullptr) return std::nullopt;
-    return Kind{term->kind, term->type, term->isPlural, 1};
+    const ElementName* name = findElementName(m_tokens.current());
+    if (name == nullptr) return std::nullopt;
+    return Kind{name->kind, name->type, name->isPlural, 1};
 }
 
 bool ElementParser::isAtTextRange() const {
-    if (!m_tokens.isAtTerm("text") || m_tokens.isAtTerm("text item") || m_tokens.isAtTerm("text items"))
+    if (!m_tokens.isAtPhrase("text") || m_tokens.isAtPhrase("text item") || m_tokens.isAtPhrase("text items"))
         return false;
     const Token& next = m_tokens.ahead();
     return next.is(TokenKind::number) || next.is(TokenKind::minus) || next.is(TokenKind::leftParenthesis) ||
@@ -154,7 +154,7 @@ NodeId ElementParser::ordinalPart(std::uint32_t offset, NodeId index, ElementFor
 /// `beginning of x` is item 1 to look at and another thing to set.
 NodeId ElementParser::endPart() {
     const NodeId node = m_tree.add(NodeKind::propertyOf, m_tokens.offset());
-    m_tree.nodes[node].value = m_terms.nameHere();
+    m_tree.nodes[node].value = m_primaries.nameHere();
     return node;
 }
 
@@ -165,16 +165,16 @@ NodeId ElementParser::kindPart(const Kind& kind) {
     if (!kind.isPlural) {
         const NodeId node = make(offset, kind, ElementForm::index);
         ChildList children(m_tree, node);
-        children.append(m_terms.expressions().index());
+        children.append(m_primaries.expressions().index());
         if (m_tokens.accept(Word::thru) || m_tokens.accept(Word::through)) {
             setForm(node, kind, ElementForm::range);
-            children.append(m_terms.expressions().index());
+            children.append(m_primaries.expressions().index());
         }
         return node;
     }
     const NodeId node = make(offset, kind, ElementForm::every);
     const bool isLong = m_tokens.accept(Word::from);
-    if (!isLong && !m_terms.expressions().isAtIndex()) {
+    if (!isLong && !m_primaries.expressions().isAtIndex()) {
         if (kind.kind != ElementKind::typed && kind.words == 1) {
             m_tree.nodes[node].value =
                 elementnode::isBare | (m_tree.names.intern(word) << elementnode::nameShift);
@@ -183,13 +183,13 @@ NodeId ElementParser::kindPart(const Kind& kind) {
     }
     setForm(node, kind, ElementForm::range);
     ChildList children(m_tree, node);
-    children.append(m_terms.expressions().index());
+    children.append(m_primaries.expressions().index());
     if (isLong) {
         if (!m_tokens.accept(Word::to)) m_tokens.expected("“to”");
     } else if (!m_tokens.accept(Word::thru) && !m_tokens.accept(Word::through)) {
         m_tokens.expected("“thru”");
     }
-    children.append(m_terms.expressions().index());
+    children.append(m_primaries.expressions().index());
     return node;
 }
 
@@ -209,9 +209,9 @@ NodeId ElementParser::textPart() {
     }
     const NodeId node = make(offset, text, ElementForm::range);
     ChildList children(m_tree, node);
-    children.append(m_terms.expressions().index());
+    children.append(m_primaries.expressions().index());
     if (!m_tokens.accept(Word::thru) && !m_tokens.accept(Word::through)) m_tokens.expected("“thru”");
-    children.append(m_terms.expressions().index());
+    children.append(m_primaries.expressions().index());
     return node;
 }
 
@@ -220,18 +220,18 @@ NodeId ElementParser::bound() {
     const std::uint32_t offset = m_tokens.offset();
     if (!kind || kind->isPlural) {
         const NodeId node = make(offset, {ElementKind::character}, ElementForm::index);
-        ChildList(m_tree, node).append(m_terms.expressions().index());
+        ChildList(m_tree, node).append(m_primaries.expressions().index());
         return node;
     }
     return kindPart(*kind);
 }
 
 NodeId ElementParser::withContainer(NodeId node) {
-    const bool found = m_tokens.isAt(Word::of) || (m_terms.allowsIn() && m_tokens.isAt(Word::in));
+    const bool found = m_tokens.isAt(Word::of) || (m_primaries.allowsIn() && m_tokens.isAt(Word::in));
     if (m_tokens.failed()) return node;
     if (found) {
         m_tokens.advance();
-        setContainer(node, m_terms.expressions().reference());
+        setContainer(node, m_primaries.expressions().reference());
     } else if (m_tree.at(node).kind == NodeKind::propertyOf) {
         m_tokens.expected("“of”");
     }
@@ -251,10 +251,10 @@ void ElementParser::setContainer(NodeId node, NodeId container) {
 
 NodeId ElementParser::characterId() {
     const NodeId node = m_tree.add(NodeKind::characterId, m_tokens.offset());
-    m_tokens.acceptTerm("character id");
-    const bool isIndex = m_terms.expressions().isAtIndex();
+    m_tokens.acceptPhrase("character id");
+    const bool isIndex = m_primaries.expressions().isAtIndex();
     ChildList(m_tree, node)
-        .append(isIndex ? m_terms.expressions().index() : m_terms.expressions().reference());
+        .append(isIndex ? m_primaries.expressions().index() : m_primaries.expressions().reference());
     return node;
 }
 

@@ -5,11 +5,11 @@
 
 #include "platform/script/source/TokenStream.h"
 #include "platform/script/syntax/Node.h"
-#include "platform/script/values/Terms.h"
+#include "platform/script/values/ElementNames.h"
 
 namespace script {
 
-class TermParser;
+class PrimaryParser;
 
 /// Reads elements of lists and texts.
 ///
@@ -22,8 +22,8 @@ class TermParser;
 /// ordinal   = first ... tenth | last | front | back | NUMBER ( st | nd | rd | th )
 class ElementParser {
   public:
-    ElementParser(TokenStream& tokens, Tree& tree, TermParser& terms)
-        : m_tokens(tokens), m_tree(tree), m_terms(terms) {}
+    ElementParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries)
+        : m_tokens(tokens), m_tree(tree), m_primaries(primaries) {}
 
     bool isAtElement() const;
     /// With its container, which is `it` where none stands.
@@ -62,7 +62,7 @@ class ElementParser {
 
     TokenStream& m_tokens;
     Tree& m_tree;
-    TermParser& m_terms;
+    PrimaryParser& m_primaries;
 };
 
 }  // namespace script

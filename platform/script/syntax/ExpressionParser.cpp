@@ -8,10 +8,10 @@
 
 #include "platform/script/source/Literal.h"
 #include "platform/script/source/Scoped.h"
-#include "platform/script/syntax/TermParser.h"
+#include "platform/script/syntax/PrimaryParser.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/MaxInteger.h"
-#include "platform/script/values/Terms.h"
+#include "platform/script/values/PredefinedNames.h"
 
 namespace script {
 
@@ -69,14 +69,14 @@ NodeId ExpressionParser::coercion(NodeId left) {
 /// A node whose detail is the class.
 NodeId ExpressionParser::className() {
     const NodeId node = m_tree.add(NodeKind::coercion, m_tokens.offset());
-    std::optional<std::uint8_t> term;
-    if (m_tokens.isAtTerm("unicode text")) m_tokens.advance();
-    if (m_tokens.isAt(TokenKind::identifier)) term = findTerm(m_tokens.current());
-    if (!term || knownTerm(*term).kind != KnownTerm::Kind::type) {
+    std::optional<std::uint8_t> name;
+    if (m_tokens.isAtPhrase("unicode text")) m_tokens.advance();
+    if (m_tokens.isAt(TokenKind::identifier)) name = findPredefinedName(m_tokens.current());
+    if (!name || predefinedName(*name).kind != PredefinedName::Kind::type) {
         m_tokens.expected("class name");
         return node;
     }
-    m_tree.nodes[node].detail = static_cast<std::uint8_t>(knownTerm(*term).type);
+    m_tree.nodes[node].detail = static_cast<std::uint8_t>(predefinedName(*name).type);
     m_tokens.advance();
     return node;
 }
@@ -117,7 +117,7 @@ NodeId ExpressionParser::reference() {
 
 NodeId ExpressionParser::operand() {
     NodeId node = primary();
-    while (m_tokens.accept(TokenKind::possessive)) node = m_terms.member(node);
+    while (m_tokens.accept(TokenKind::possessive)) node = m_primaries.member(node);
     return node;
 }
 
@@ -125,7 +125,7 @@ NodeId ExpressionParser::primary() {
     m_tokens.skipFiller();
     switch (m_tokens.current().kind) {
         case TokenKind::number:
-            return m_terms.isAtNumberedOrdinal() ? m_terms.numberedOrdinal() : number();
+            return m_primaries.isAtNumberedOrdinal() ? m_primaries.numberedOrdinal() : number();
         case TokenKind::text:
             return textLiteral();
         case TokenKind::leftParenthesis:
@@ -133,7 +133,7 @@ NodeId ExpressionParser::primary() {
         case TokenKind::leftBrace:
             return listOrRecord();
         case TokenKind::identifier:
-            return m_terms.term();
+            return m_primaries.named();
         default:
             m_tokens.expected("expression");
             return noNode;
@@ -177,7 +177,7 @@ NodeId ExpressionParser::index() {
             return node;
         }
         default:
-            if (isAtIndex()) return m_terms.plainName();
+            if (isAtIndex()) return m_primaries.plainName();
             m_tokens.expected("expression");
             return noNode;
     }
@@ -246,7 +246,7 @@ NodeId ExpressionParser::listOrRecord() {
 bool ExpressionParser::isAtField() const {
     if (!m_tokens.isAt(TokenKind::identifier)) return false;
     return m_tokens.ahead().is(TokenKind::colon) ||
-           (TermParser::longPropertyHere(m_tokens) && m_tokens.peek(2).is(TokenKind::colon));
+           (PrimaryParser::longPropertyHere(m_tokens) && m_tokens.peek(2).is(TokenKind::colon));
 }
 
 void ExpressionParser::items(NodeId list) {
@@ -288,7 +288,7 @@ std::uint32_t ExpressionParser::fieldName() {
         m_tokens.expected("identifier");
         return 0;
     }
-    const std::uint32_t name = m_terms.nameHere();
+    const std::uint32_t name = m_primaries.nameHere();
     if (!m_tokens.accept(TokenKind::colon)) m_tokens.expected("“:”");
     return name;
 }

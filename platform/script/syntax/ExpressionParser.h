@@ -7,22 +7,22 @@
 
 namespace script {
 
-class TermParser;
+class PrimaryParser;
 
 /// Reads expressions into a tree. After an error the node returned is any node.
 ///
 /// expression = [not] unary { operator unary | as class }, by the precedence table
 /// unary      = ( + | - ) unary | reference
 /// reference  = primary { 's member }
-/// primary    = number | text | ( expression ) | list | record | term
+/// primary    = number | text | ( expression ) | list | record | named
 /// list       = { [expression {, expression}] }
 /// record     = { name : expression {, name : expression} }
 ///
-/// What begins with a word is a term, which TermParser reads.
+/// What begins with a word is `named`, which PrimaryParser reads.
 class ExpressionParser {
   public:
-    ExpressionParser(TokenStream& tokens, Tree& tree, TermParser& terms)
-        : m_tokens(tokens), m_tree(tree), m_terms(terms) {}
+    ExpressionParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries)
+        : m_tokens(tokens), m_tree(tree), m_primaries(primaries) {}
 
     /// The longest expression that begins here.
     NodeId expression() { return operation(0); }
@@ -60,7 +60,7 @@ class ExpressionParser {
 
     TokenStream& m_tokens;
     Tree& m_tree;
-    TermParser& m_terms;
+    PrimaryParser& m_primaries;
     bool m_leavesAs = false;
 };
 

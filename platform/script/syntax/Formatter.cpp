@@ -9,7 +9,7 @@
 #include "platform/script/commands/Command.h"
 #include "platform/script/source/Lexer.h"
 #include "platform/script/syntax/Parser.h"
-#include "platform/script/values/Terms.h"
+#include "platform/script/values/ElementNames.h"
 
 namespace script {
 namespace {
@@ -79,7 +79,7 @@ bool endsValue(const Token& token) {
         case TokenKind::rightBrace:
             return true;
         case TokenKind::identifier:
-            if (token.is(Word::none)) return findElementTerm(token) == nullptr;
+            if (token.is(Word::none)) return findElementName(token) == nullptr;
             if (token.is(Word::id)) return false;
             return kindOf(token.word) != WordKind::reserved || token.is(Word::it) || token.is(Word::me) ||
                    token.is(Word::trueWord) || token.is(Word::falseWord) || token.is(Word::returnWord);

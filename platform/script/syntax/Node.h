@@ -47,7 +47,7 @@ enum class NodeKind : std::uint8_t {
     missingValue,  ///< []
     modifierDown,  ///< [] `command down`; value: bit of platform/Modifiers.h
     modifierKey,   ///< [] `command`; value: likewise
-    known,         ///< [] value: name; detail: index of its KnownTerm
+    predefined,    ///< [] value: name; detail: index of its PredefinedName
     name,          ///< [] value: name
     me,            ///< []
     it,            ///< []

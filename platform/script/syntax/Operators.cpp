@@ -149,7 +149,7 @@ const OperatorRow* binaryOperator(const TokenStream& tokens) {
     if (!token.is(TokenKind::identifier)) return operatorIndex.ofSign(token.kind);
     if (token.is(Word::none)) return nullptr;
     const OperatorRow* row = operatorIndex.firstOf(token.hash);
-    while (row != nullptr && !tokens.isAtTerm(row->spelling)) row = operatorIndex.nextOf(*row);
+    while (row != nullptr && !tokens.isAtPhrase(row->spelling)) row = operatorIndex.nextOf(*row);
     return row;
 }
 

@@ -4,7 +4,7 @@
 namespace script {
 
 Parser::Parser(std::string_view source)
-    : m_tokens(source), m_terms(m_tokens, m_tree, source), m_statements(m_tokens, m_tree, m_terms) {
+    : m_tokens(source), m_primaries(m_tokens, m_tree, source), m_statements(m_tokens, m_tree, m_primaries) {
     constexpr std::size_t bytesANode = 5;  // as macros mostly have
     m_tree.nodes.reserve(source.size() / bytesANode);
 }
@@ -34,10 +34,10 @@ NodeId Parser::property() {
     const NodeId node = m_tree.add(NodeKind::property, m_tokens.offset());
     m_tokens.advance();
     m_tree.nodes[node].offset = m_tokens.offset();
-    if (!m_terms.expectName()) return node;
-    m_tree.nodes[node].value = m_terms.nameHere();
+    if (!m_primaries.expectName()) return node;
+    m_tree.nodes[node].value = m_primaries.nameHere();
     if (!m_tokens.accept(TokenKind::colon)) m_tokens.expected("“:”");
-    ChildList(m_tree, node).append(m_terms.expressions().expression());
+    ChildList(m_tree, node).append(m_primaries.expressions().expression());
     return node;
 }
 
@@ -65,8 +65,8 @@ NodeId Parser::handler() {
 }
 
 bool Parser::handlerName(NodeId handler) {
-    if (!m_terms.expectName()) return false;
-    m_tree.nodes[handler].value = m_terms.nameHere();
+    if (!m_primaries.expectName()) return false;
+    m_tree.nodes[handler].value = m_primaries.nameHere();
     return true;
 }
 
@@ -80,7 +80,7 @@ void Parser::positionalParameters(ChildList& children) {
     if (m_tokens.accept(TokenKind::rightParenthesis)) return;
     std::uint32_t count = 0;
     do {
-        m_terms.calls().countParameter(count);
+        m_primaries.calls().countParameter(count);
         children.append(parameter(0, m_tokens.offset()));
     } while (m_tokens.accept(TokenKind::comma));
     if (!m_tokens.accept(TokenKind::rightParenthesis)) m_tokens.expected("“,” or “)”");
@@ -89,17 +89,17 @@ void Parser::positionalParameters(ChildList& children) {
 void Parser::labelledParameters(ChildList& children) {
     std::uint32_t count = 0;
     while (m_tokens.isAt(Word::of) || CallParser::isLabelWord(m_tokens.current().word)) {
-        m_terms.calls().countParameter(count);
+        m_primaries.calls().countParameter(count);
         const std::uint32_t offset = m_tokens.offset();
-        const NameId label = m_terms.calls().labelHere();
+        const NameId label = m_primaries.calls().labelHere();
         children.append(parameter(label, offset));
     }
     if (!m_tokens.accept(Word::given)) return;
     do {
-        if (!m_terms.expectName()) return;
-        m_terms.calls().countParameter(count);
+        if (!m_primaries.expectName()) return;
+        m_primaries.calls().countParameter(count);
         const std::uint32_t offset = m_tokens.offset();
-        const NameId label = m_terms.nameHere();
+        const NameId label = m_primaries.nameHere();
         if (!m_tokens.accept(TokenKind::colon)) m_tokens.expected("“:”");
         children.append(parameter(label, offset));
     } while (m_tokens.accept(TokenKind::comma));
@@ -115,7 +115,7 @@ NodeId Parser::parameter(NameId label, std::uint32_t offset) {
 NodeId Parser::pattern() {
     const Nesting nesting(m_tokens);
     if (!m_tokens.isAt(TokenKind::leftBrace)) {
-        return m_terms.expectName() ? m_terms.plainName() : noNode;
+        return m_primaries.expectName() ? m_primaries.plainName() : noNode;
     }
     const NodeId node = m_tree.add(NodeKind::list, m_tokens.offset());
     ChildList items(m_tree, node);

@@ -6,8 +6,8 @@
 
 #include "platform/script/source/TokenStream.h"
 #include "platform/script/syntax/Node.h"
+#include "platform/script/syntax/PrimaryParser.h"
 #include "platform/script/syntax/StatementParser.h"
-#include "platform/script/syntax/TermParser.h"
 
 namespace script {
 
@@ -50,7 +50,7 @@ class Parser {
 
     Tree m_tree;
     TokenStream m_tokens;
-    TermParser m_terms;
+    PrimaryParser m_primaries;
     StatementParser m_statements;
 };
 

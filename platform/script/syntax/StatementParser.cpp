@@ -21,8 +21,8 @@ constexpr auto partWords = std::to_array<PartWord>({{"number", ErrorPart::number
 
 }  // namespace
 
-StatementParser::StatementParser(TokenStream& tokens, Tree& tree, TermParser& terms)
-    : m_tokens(tokens), m_tree(tree), m_terms(terms), m_blocks(tokens, tree, terms, *this) {}
+StatementParser::StatementParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries)
+    : m_tokens(tokens), m_tree(tree), m_primaries(primaries), m_blocks(tokens, tree, primaries, *this) {}
 
 /// `end of x` is no end.
 bool StatementParser::isAtBlockEnd() const {
@@ -114,12 +114,12 @@ NodeId StatementParser::set() {
     const std::uint32_t offset = m_tokens.offset();
     m_tokens.advance();
     m_tokens.skipFiller();
-    if (m_tokens.isAtTerm("clipboard to")) return setClipboard(offset);
+    if (m_tokens.isAtPhrase("clipboard to")) return setClipboard(offset);
     const NodeId node = m_tree.add(NodeKind::set, offset);
     ChildList children(m_tree, node);
     children.append(target());
     if (!m_tokens.accept(Word::to)) m_tokens.expected("“to”");
-    children.append(m_terms.expressions().expression());
+    children.append(m_primaries.expressions().expression());
     return node;
 }
 
@@ -129,15 +129,15 @@ NodeId StatementParser::setClipboard(std::uint32_t offset) {
     const NodeId command = m_tree.add(NodeKind::command, offset, *commandHere(m_tokens));
     ChildList(m_tree, statement).append(command);
     m_tree.nodes[command].detail = 1;
-    m_tokens.acceptTerm("clipboard to");
-    ChildList(m_tree, command).append(m_terms.expressions().expression());
+    m_tokens.acceptPhrase("clipboard to");
+    ChildList(m_tree, command).append(m_primaries.expressions().expression());
     return statement;
 }
 
 NodeId StatementParser::copy(Word preposition) {
     const NodeId node = m_tree.add(NodeKind::copy, m_tokens.offset());
     m_tokens.advance();
-    const NodeId value = m_terms.expressions().expression();
+    const NodeId value = m_primaries.expressions().expression();
     if (!m_tokens.accept(preposition)) m_tokens.expected(preposition == Word::to ? "“to”" : "“into”");
     ChildList children(m_tree, node);
     children.append(target());
@@ -150,9 +150,9 @@ NodeId StatementParser::target() {
     const Token first = m_tokens.current();
     const std::string found = m_tokens.describe();
     const std::uint32_t offset = m_tokens.offset();
-    m_terms.setReadsTarget(true);
-    const NodeId node = m_terms.expressions().reference();
-    m_terms.setReadsTarget(false);
+    m_primaries.setReadsTarget(true);
+    const NodeId node = m_primaries.expressions().reference();
+    m_primaries.setReadsTarget(false);
     if (m_tokens.failed()) return node;
     if (!isSettable(node)) {
         m_tokens.fail(errornumber::syntax, "Expected variable name but found " + found + ".", offset);
@@ -170,7 +170,7 @@ NodeId StatementParser::target() {
 bool StatementParser::isSettable(NodeId node) const {
     switch (m_tree.at(node).kind) {
         case NodeKind::name:
-        case NodeKind::known:
+        case NodeKind::predefined:
         case NodeKind::element:
         case NodeKind::propertyOf:
         case NodeKind::contentsOf:
@@ -195,7 +195,7 @@ bool StatementParser::isOperatorAhead() const {
     const Token& next = m_tokens.ahead();
     if (std::find(signs.begin(), signs.end(), next.kind) != signs.end()) return true;
     return next.is(TokenKind::identifier) && std::any_of(words.begin(), words.end(), [&](const Phrase& word) {
-               return m_tokens.isAtTerm(word, 1);
+               return m_tokens.isAtPhrase(word, 1);
            });
 }
 
@@ -204,7 +204,7 @@ NodeId StatementParser::returnValue() {
     if (isOperatorAhead()) return evaluate();
     const NodeId node = m_tree.add(NodeKind::returnValue, m_tokens.offset());
     m_tokens.advance();
-    if (!m_tokens.isAtLineEnd()) ChildList(m_tree, node).append(m_terms.expressions().expression());
+    if (!m_tokens.isAtLineEnd()) ChildList(m_tree, node).append(m_primaries.expressions().expression());
     return node;
 }
 
@@ -221,18 +221,18 @@ void StatementParser::errorParts(ChildList& children, bool areTargets) {
         const NodeId node = m_tree.add(NodeKind::errorPart, m_tokens.offset());
         m_tree.nodes[node].detail = static_cast<std::uint8_t>(part);
         ChildList(m_tree, node)
-            .append(areTargets ? m_blocks.errorTarget() : m_terms.expressions().expression());
+            .append(areTargets ? m_blocks.errorTarget() : m_primaries.expressions().expression());
         children.append(node);
     };
     const auto partHere = [&] {
         const auto* row = std::find_if(partWords.begin(), partWords.end(), [&](const PartWord& candidate) {
-            return m_tokens.isAtTerm(candidate.words);
+            return m_tokens.isAtPhrase(candidate.words);
         });
         return row == partWords.end() ? nullptr : row;
     };
     if (!m_tokens.isAtLineEnd() && partHere() == nullptr) add(ErrorPart::message);
     while (const PartWord* row = partHere()) {
-        m_tokens.acceptTerm(row->words);
+        m_tokens.acceptPhrase(row->words);
         add(row->part);
     }
 }
@@ -253,15 +253,15 @@ NodeId StatementParser::declaration(NodeKind kind) {
     m_tokens.advance();
     ChildList names(m_tree, node);
     do {
-        if (!m_terms.expectName()) return node;
-        names.append(m_terms.plainName());
+        if (!m_primaries.expectName()) return node;
+        names.append(m_primaries.plainName());
     } while (m_tokens.accept(TokenKind::comma));
     return node;
 }
 
 NodeId StatementParser::evaluate() {
     const NodeId node = m_tree.add(NodeKind::evaluate, m_tokens.offset());
-    ChildList(m_tree, node).append(m_terms.expressions().expression());
+    ChildList(m_tree, node).append(m_primaries.expressions().expression());
     return node;
 }
 

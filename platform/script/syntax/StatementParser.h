@@ -4,7 +4,7 @@
 #include "platform/script/source/TokenStream.h"
 #include "platform/script/syntax/BlockParser.h"
 #include "platform/script/syntax/Node.h"
-#include "platform/script/syntax/TermParser.h"
+#include "platform/script/syntax/PrimaryParser.h"
 
 namespace script {
 
@@ -19,7 +19,7 @@ namespace script {
 /// exit      = exit [repeat]
 class StatementParser {
   public:
-    StatementParser(TokenStream& tokens, Tree& tree, TermParser& terms);
+    StatementParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries);
 
     NodeId statement();
     /// Statements up to the word that ends or divides the block, which stays.
@@ -70,7 +70,7 @@ class StatementParser {
 
     TokenStream& m_tokens;
     Tree& m_tree;
-    TermParser& m_terms;
+    PrimaryParser& m_primaries;
     BlockParser m_blocks;
     Surroundings m_surroundings;
 };

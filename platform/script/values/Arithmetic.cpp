@@ -8,7 +8,7 @@
 #include "platform/script/source/ScriptError.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/Dates.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {
@@ -115,7 +115,7 @@ Fallible<Value> calculated(BinaryOperator operation, const Value& left, const Va
     const std::optional<Number> rightNumber = numeric(right);
     if (!rightNumber) return cannotMake(right, "number");
     if (divides(operation) && rightNumber->value == 0) {
-        return Failure{errornumber::divisionByZero, "Can’t divide " + spelled(left) + " by zero."};
+        return Failure{errornumber::divisionByZero, "Can’t divide " + sourceForm(left) + " by zero."};
     }
     return calculate(operation, *leftNumber, *rightNumber);
 }

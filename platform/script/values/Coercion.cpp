@@ -11,7 +11,7 @@
 #include "platform/script/values/Dates.h"
 #include "platform/script/values/Elements.h"
 #include "platform/script/values/MaxInteger.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {

@@ -7,13 +7,13 @@
 #include "platform/Utf8.h"
 #include "platform/script/values/Characters.h"
 #include "platform/script/values/Coercion.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {
 
 Failure cannotGetElement(const Value& container, const Element& element) {
-    return cannotGet(spelled(element) + " of " + spelled(container));
+    return cannotGet(sourceForm(element) + " of " + sourceForm(container));
 }
 
 std::vector<Stretch> charactersOf(std::string_view text) {
@@ -181,7 +181,7 @@ std::optional<Failure> setElement(const Value& container, const Element& element
     List* list = container.list();
     if (list == nullptr || element.kind != ElementKind::item) {
         if (container.text() == nullptr) return cannotGetElement(container, element);
-        return cannotSet(spelled(element) + " of " + spelled(container), value);
+        return cannotSet(sourceForm(element) + " of " + sourceForm(container), value);
     }
     Element all = element;
     if (element.form == ElementForm::every) {
@@ -197,7 +197,7 @@ std::optional<Failure> setElement(const Value& container, const Element& element
     }
     const List* values = value.list();
     if (values == nullptr || values->size() < places->last - places->first + 1) {
-        return cannotSet(spelled(element) + " of " + spelled(container), value);
+        return cannotSet(sourceForm(element) + " of " + sourceForm(container), value);
     }
     std::copy_n(List(*values).begin(), places->last - places->first + 1,
                 list->begin() + static_cast<std::ptrdiff_t>(places->first));

@@ -8,7 +8,7 @@
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/Dates.h"
 #include "platform/script/values/Elements.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace script {
 namespace {
@@ -123,7 +123,7 @@ std::optional<Failure> addToList(const Shared<ListBody>& list, bool atEnd, const
 Fallible<Value> propertyOf(const Value& container, const Name& name) {
     if (container.text() != nullptr && &name == &names::id) return idOf(*container.text());
     if (Found found = find(container, name)) return *std::move(found);
-    return cannotGet(spelledName(name) + " of " + spelled(container));
+    return cannotGet(sourceForm(name) + " of " + sourceForm(container));
 }
 
 std::optional<Failure> setProperty(const Value& container, const Name& name, const Value& value) {
@@ -143,7 +143,7 @@ std::optional<Failure> setProperty(const Value& container, const Name& name, con
     }
     // Which application is in front is not for the script to say.
     if (container.target() != nullptr && &name == &names::frontmost) return std::nullopt;
-    return cannotSet(spelledName(name) + " of " + spelled(container), value);
+    return cannotSet(sourceForm(name) + " of " + sourceForm(container), value);
 }
 
 }  // namespace script

@@ -34,8 +34,8 @@ TEST(WordTest, namesAreNoWords) {
 }
 
 TEST(WordTest, keyboardWordsBelongToTheDictionary) {
-    EXPECT_EQ(script::kindOf(Word::keystroke), script::WordKind::term);
-    EXPECT_EQ(script::kindOf(Word::command), script::WordKind::term);
+    EXPECT_EQ(script::kindOf(Word::keystroke), script::WordKind::dictionary);
+    EXPECT_EQ(script::kindOf(Word::command), script::WordKind::dictionary);
     EXPECT_EQ(script::kindOf(Word::tell), script::WordKind::reserved);
     EXPECT_EQ(script::kindOf(Word::delay), script::WordKind::special);
 }

@@ -6,7 +6,7 @@
 #include "platform/Modifiers.h"
 #include "platform/script/values/Arithmetic.h"
 #include "platform/script/values/Coercion.h"
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 namespace {
 
@@ -23,7 +23,7 @@ std::string result(const script::Fallible<Value>& outcome) {
     if (const auto* failure = std::get_if<script::Failure>(&outcome)) {
         return std::to_string(failure->number) + " " + failure->message;
     }
-    return script::spelled(std::get<Value>(outcome));
+    return script::sourceForm(std::get<Value>(outcome));
 }
 
 std::string result(const Value& left, BinaryOperator operation, const Value& right) {
@@ -62,8 +62,9 @@ TEST(CoercionTest, aListOfOneIsItsItem) {
 TEST(CoercionTest, valuesAreSpelledAsInAScript) {
     const Value constant{script::Modifier{modifier::option, true}};
     const Value key{script::Modifier{modifier::control, false}};
-    EXPECT_EQ(script::spelled(Value{List{integer(1), text("a\"b"), real(2), constant, key, Value{List{}}}}),
-              "{1, \"a\\\"b\", 2.0, option down, control, {}}");
+    EXPECT_EQ(
+        script::sourceForm(Value{List{integer(1), text("a\"b"), real(2), constant, key, Value{List{}}}}),
+        "{1, \"a\\\"b\", 2.0, option down, control, {}}");
 }
 
 TEST(ArithmeticTest, wholeNumbersStayWholeWithinTheirRange) {

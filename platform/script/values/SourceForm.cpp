@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/values/Spelling.h"
+#include "platform/script/values/SourceForm.h"
 
 #include <array>
 #include <charconv>
@@ -15,7 +15,7 @@ namespace script {
 namespace {
 
 constexpr int significantDigits = 12;
-constexpr std::size_t maxSpelling = 4096;
+constexpr std::size_t maxLength = 4096;
 constexpr int maxDepth = 500;
 
 /// A real as its digits without trailing zeros, and the power of ten of the first digit.
@@ -48,74 +48,74 @@ std::string pointed(const std::string& digits, int whole) {
     return text.insert(point, 1, '.');
 }
 
-/// Appends the spelling of values until there is enough of it.
-class Speller {
+/// Appends the source form of values until there is enough of it.
+class SourceWriter {
   public:
     std::string take() {
-        if (m_out.size() <= maxSpelling) return std::move(m_out);
-        std::size_t end = maxSpelling;
+        if (m_out.size() <= maxLength) return std::move(m_out);
+        std::size_t end = maxLength;
         while (isUtf8Continuation(m_out[end])) --end;
         return m_out.substr(0, end) + "…";
     }
 
     void add(const Value& value) {
-        if (m_out.size() > maxSpelling) return;
+        if (m_out.size() > maxLength) return;
         const Scoped<int> depth(m_depth, m_depth + 1);
         if (m_depth > maxDepth) {
             m_out += "…";
             return;
         }
-        std::visit([this](const auto& content) { spell(content); }, value.content);
+        std::visit([this](const auto& content) { write(content); }, value.content);
     }
 
   private:
-    void spell(Nothing /*unused*/) {}
-    void spell(Missing /*unused*/) { m_out += "missing value"; }
-    void spell(bool value) { m_out += value ? "true" : "false"; }
-    void spell(std::int64_t value) { m_out += std::to_string(value); }
-    void spell(double value) { m_out += realText(value); }
-    void spell(const Text& text) { quote(text.str()); }
-    void spell(const Modifier& constant) { m_out += constantText(constant); }
-    void spell(const CalendarName& constant) { m_out += constantText(constant); }
-    void spell(Type type) { m_out += type == Type::text ? "text" : typeName(type); }
-    void spell(const Shared<ListBody>& list);
-    void spell(const Shared<RecordBody>& record);
-    void spell(const Shared<DateBody>& date) { m_out += "date \"" + dateText(date->seconds) + "\""; }
-    void spell(const Shared<ReferenceBody>& reference) {
-        m_out += spelled(reference->element) + " of ";
+    void write(Nothing /*unused*/) {}
+    void write(Missing /*unused*/) { m_out += "missing value"; }
+    void write(bool value) { m_out += value ? "true" : "false"; }
+    void write(std::int64_t value) { m_out += std::to_string(value); }
+    void write(double value) { m_out += realText(value); }
+    void write(const Text& text) { quote(text.str()); }
+    void write(const Modifier& constant) { m_out += constantText(constant); }
+    void write(const CalendarName& constant) { m_out += constantText(constant); }
+    void write(Type type) { m_out += type == Type::text ? "text" : typeName(type); }
+    void write(const Shared<ListBody>& list);
+    void write(const Shared<RecordBody>& record);
+    void write(const Shared<DateBody>& date) { m_out += "date \"" + dateText(date->seconds) + "\""; }
+    void write(const Shared<ReferenceBody>& reference) {
+        m_out += sourceForm(reference->element) + " of ";
         add(reference->container);
     }
-    void spell(const Shared<TargetBody>& target);
+    void write(const Shared<TargetBody>& target);
     void quote(const std::string& text);
 
     std::string m_out;
     int m_depth = 0;
 };
 
-void Speller::spell(const Shared<ListBody>& list) {
+void SourceWriter::write(const Shared<ListBody>& list) {
     m_out += "{";
     bool isFirst = true;
     for (const Value& item : list->items) {
-        if (m_out.size() > maxSpelling) return;
+        if (m_out.size() > maxLength) return;
         if (!std::exchange(isFirst, false)) m_out += ", ";
         add(item);
     }
     m_out += "}";
 }
 
-void Speller::spell(const Shared<RecordBody>& record) {
+void SourceWriter::write(const Shared<RecordBody>& record) {
     m_out += "{";
     bool isFirst = true;
     for (const Field& field : record->fields) {
-        if (m_out.size() > maxSpelling) return;
+        if (m_out.size() > maxLength) return;
         if (!std::exchange(isFirst, false)) m_out += ", ";
-        m_out += spelledName(*field.name) + ":";
+        m_out += sourceForm(*field.name) + ":";
         add(field.value);
     }
     m_out += "}";
 }
 
-void Speller::spell(const Shared<TargetBody>& target) {
+void SourceWriter::write(const Shared<TargetBody>& target) {
     switch (target->kind) {
         case TargetBody::Kind::script:
             m_out += "«script»";
@@ -130,10 +130,10 @@ void Speller::spell(const Shared<TargetBody>& target) {
     quote(target->name.str());
 }
 
-void Speller::quote(const std::string& text) {
+void SourceWriter::quote(const std::string& text) {
     m_out += '"';
     for (const char c : text) {
-        if (m_out.size() > maxSpelling + 8) return;
+        if (m_out.size() > maxLength + 8) return;
         if (c == '"' || c == '\\') m_out += '\\';
         m_out += c;
     }
@@ -186,13 +186,13 @@ std::string constantText(const CalendarName& constant) {
                                                                   : weekdayName(constant.number));
 }
 
-std::string spelled(const Value& value) {
-    Speller speller;
-    speller.add(value);
-    return speller.take();
+std::string sourceForm(const Value& value) {
+    SourceWriter writer;
+    writer.add(value);
+    return writer.take();
 }
 
-std::string spelled(const Element& element) {
+std::string sourceForm(const Element& element) {
     const std::string kind(kindName(element));
     const std::string first = std::to_string(element.first);
     switch (element.form) {
@@ -212,13 +212,13 @@ std::string spelled(const Element& element) {
 
 Failure cannotMake(const Value& value, std::string_view type) {
     return {errornumber::cannotCoerce,
-            "Can’t make " + spelled(value) + " into type " + std::string(type) + "."};
+            "Can’t make " + sourceForm(value) + " into type " + std::string(type) + "."};
 }
 
 Failure cannotGet(const std::string& what) { return {errornumber::noSuchObject, "Can’t get " + what + "."}; }
 
 Failure cannotSet(const std::string& what, const Value& value) {
-    return {errornumber::cannotSet, "Can’t set " + what + " to " + spelled(value) + "."};
+    return {errornumber::cannotSet, "Can’t set " + what + " to " + sourceForm(value) + "."};
 }
 
 }  // namespace script

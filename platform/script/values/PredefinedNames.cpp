@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/values/Terms.h"
+#include "platform/script/values/PredefinedNames.h"
 
 #include <array>
 #include <numbers>
@@ -9,9 +9,9 @@
 namespace script {
 namespace {
 
-using Kind = KnownTerm::Kind;
+using Kind = PredefinedName::Kind;
 
-constexpr auto terms = std::to_array<KnownTerm>({
+constexpr auto predefinedNames = std::to_array<PredefinedName>({
     {"integer", Kind::type, Type::integer},
     {"real", Kind::type, Type::real},
     {"number", Kind::type, Type::number},
@@ -56,57 +56,31 @@ constexpr auto terms = std::to_array<KnownTerm>({
     {"Saturday", Kind::weekday, Type::anything, 7},
 });
 
-constexpr auto elementTerms = std::to_array<ElementTerm>({
-    {"item", ElementKind::item, false},
-    {"items", ElementKind::item, true},
-    {"character", ElementKind::character, false},
-    {"characters", ElementKind::character, true},
-    {"word", ElementKind::word, false},
-    {"words", ElementKind::word, true},
-    {"paragraph", ElementKind::paragraph, false},
-    {"paragraphs", ElementKind::paragraph, true},
-    {"integer", ElementKind::typed, false, Type::integer},
-    {"integers", ElementKind::typed, true, Type::integer},
-    {"real", ElementKind::typed, false, Type::real},
-    {"reals", ElementKind::typed, true, Type::real},
-    {"number", ElementKind::typed, false, Type::number},
-    {"numbers", ElementKind::typed, true, Type::number},
-    {"string", ElementKind::typed, false, Type::text},
-    {"strings", ElementKind::typed, true, Type::text},
-    {"boolean", ElementKind::typed, false, Type::boolean},
-    {"booleans", ElementKind::typed, true, Type::boolean},
-    {"list", ElementKind::typed, false, Type::list},
-    {"lists", ElementKind::typed, true, Type::list},
-    {"record", ElementKind::typed, false, Type::record},
-    {"records", ElementKind::typed, true, Type::record},
-    {"date", ElementKind::typed, false, Type::date},
-    {"dates", ElementKind::typed, true, Type::date},
-});
+constexpr SpellingIndex predefinedIndex(predefinedNames);
 
-constexpr SpellingIndex termIndex(terms);
-constexpr SpellingIndex elementIndex(elementTerms);
-
-std::uint8_t indexOf(const KnownTerm& term) { return static_cast<std::uint8_t>(&term - terms.data()); }
+std::uint8_t indexOf(const PredefinedName& name) {
+    return static_cast<std::uint8_t>(&name - predefinedNames.data());
+}
 
 }  // namespace
 
-std::optional<std::uint8_t> findTerm(const Token& identifier) {
-    const KnownTerm* row = termIndex.find(identifier.text, identifier.hash);
+std::optional<std::uint8_t> findPredefinedName(const Token& identifier) {
+    const PredefinedName* row = predefinedIndex.find(identifier.text, identifier.hash);
     return row == nullptr ? std::nullopt : std::optional(indexOf(*row));
 }
 
-std::uint8_t scriptTerm() {
+std::uint8_t scriptClass() {
     constexpr std::string_view spelling = "script";
-    return indexOf(*termIndex.find(spelling, SpellingHash(spelling).value()));
+    return indexOf(*predefinedIndex.find(spelling, SpellingHash(spelling).value()));
 }
 
-const KnownTerm& knownTerm(std::uint8_t index) { return terms[index]; }
+const PredefinedName& predefinedName(std::uint8_t index) { return predefinedNames[index]; }
 
-Value valueOf(const KnownTerm& term) {
-    const auto number = static_cast<std::uint8_t>(term.number);
-    switch (term.kind) {
+Value valueOf(const PredefinedName& name) {
+    const auto number = static_cast<std::uint8_t>(name.number);
+    switch (name.kind) {
         case Kind::integer:
-            return Value{std::int64_t{term.number}};
+            return Value{std::int64_t{name.number}};
         case Kind::real:
             return Value{std::numbers::pi};
         case Kind::month:
@@ -114,12 +88,8 @@ Value valueOf(const KnownTerm& term) {
         case Kind::weekday:
             return Value{CalendarName{CalendarName::Kind::weekday, number}};
         default:
-            return Value{term.type};
+            return Value{name.type};
     }
-}
-
-const ElementTerm* findElementTerm(const Token& identifier) {
-    return elementIndex.find(identifier.text, identifier.hash);
 }
 
 }  // namespace script

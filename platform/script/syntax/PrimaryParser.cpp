@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/syntax/TermParser.h"
+#include "platform/script/syntax/PrimaryParser.h"
 
 #include <algorithm>
 #include <array>
@@ -8,7 +8,7 @@
 #include "platform/Modifiers.h"
 #include "platform/script/source/Literal.h"
 #include "platform/script/source/SystemEvents.h"
-#include "platform/script/values/Terms.h"
+#include "platform/script/values/PredefinedNames.h"
 
 namespace script {
 namespace {
@@ -52,7 +52,7 @@ auto find(const Table& table, Word word) -> decltype(table.data()) {
 
 }  // namespace
 
-TermParser::TermParser(TokenStream& tokens, Tree& tree, std::string_view source)
+PrimaryParser::PrimaryParser(TokenStream& tokens, Tree& tree, std::string_view source)
     : m_tokens(tokens),
       m_tree(tree),
       m_expressions(tokens, tree, *this),
@@ -60,32 +60,32 @@ TermParser::TermParser(TokenStream& tokens, Tree& tree, std::string_view source)
       m_commands(tokens, tree, *this),
       m_calls(tokens, tree, *this, source) {}
 
-NodeId TermParser::leaf(NodeKind kind, std::uint32_t value) {
+NodeId PrimaryParser::leaf(NodeKind kind, std::uint32_t value) {
     const NodeId node = m_tree.add(kind, m_tokens.offset(), value);
     m_tokens.advance();
     return node;
 }
 
-NodeId TermParser::term() {
-    if (m_tokens.current().is(Word::none)) return wordTerm();
-    if (const NodeId node = constantTerm(); node != noNode) return node;
+NodeId PrimaryParser::named() {
+    if (m_tokens.current().is(Word::none)) return namedByScript();
+    if (const NodeId node = constant(); node != noNode) return node;
     if (m_elements.isAtElement()) return m_elements.element();
     if (m_tokens.failed() || refuseForbidden()) return noNode;
     if (m_tokens.isAt(Word::ref) || m_tokens.isAt(Word::reference)) return referenceTo();
     if (const auto command = commandHere()) return m_commands.command(*command);
     if (refuseIncompleteCommand()) return noNode;
     const Word word = m_tokens.current().word;
-    if (word == Word::script && !m_readsTarget) return known(scriptTerm());
+    if (word == Word::script && !m_readsTarget) return predefined(scriptClass());
     if (isAtApplication()) return application();
     if (isAtProcess()) return process();
-    if (!m_tokens.means(word) || kindOf(word) == WordKind::special) return nameTerm();
+    if (!m_tokens.means(word) || kindOf(word) == WordKind::special) return nameOrCall();
     if (find(modifierWords, word) != nullptr) return modifierConstant();
     m_tokens.expected("expression");
     return noNode;
 }
 
 /// The first word of commands, and none of their second ones behind it.
-bool TermParser::refuseIncompleteCommand() {
+bool PrimaryParser::refuseIncompleteCommand() {
     const bool isKey = m_tokens.isAt(Word::key);
     if (!isKey && !(m_tokens.isAt(Word::display) && m_tokens.ahead().is(TokenKind::identifier))) return false;
     m_tokens.advance();
@@ -93,12 +93,12 @@ bool TermParser::refuseIncompleteCommand() {
     return true;
 }
 
-std::optional<std::uint32_t> TermParser::commandHere() const {
+std::optional<std::uint32_t> PrimaryParser::commandHere() const {
     return m_readsTarget ? std::nullopt : m_commands.commandHere();
 }
 
 /// Words with one meaning of their own; `noNode` for all others.
-NodeId TermParser::constantTerm() {
+NodeId PrimaryParser::constant() {
     if (const auto constant = textConstant()) return *constant;
     switch (m_tokens.current().word) {
         case Word::trueWord:
@@ -118,39 +118,39 @@ NodeId TermParser::constantTerm() {
     }
 }
 
-std::optional<NodeId> TermParser::textConstant() {
+std::optional<NodeId> PrimaryParser::textConstant() {
     const TextConstant* constant = find(textConstants, m_tokens.current().word);
     if (constant == nullptr) return std::nullopt;
     return leaf(NodeKind::text, m_tree.addText(constant->text));
 }
 
 /// `my f()` is `f() of me`.
-NodeId TermParser::prefixed(NodeKind owner) {
+NodeId PrimaryParser::prefixed(NodeKind owner) {
     const NodeId ownerNode = m_tree.add(owner, m_tokens.offset());
     m_tokens.advance();
     return member(ownerNode);
 }
 
-NodeId TermParser::member(NodeId container) {
+NodeId PrimaryParser::member(NodeId container) {
     m_tokens.skipFiller();
     if (!m_tokens.isAt(TokenKind::identifier)) {
         m_tokens.expected("identifier");
         return noNode;
     }
-    if (m_tokens.isAtTerm("text item delimiters")) return delimiters();
+    if (m_tokens.isAtPhrase("text item delimiters")) return delimiters();
     if (m_elements.isAtElement()) return m_elements.elementOf(container);
     const bool isCall = m_tokens.ahead().is(TokenKind::leftParenthesis);
     if (isCall || m_calls.isLabelledHandler(m_tokens.current())) {
         return ofOwner(container, isCall ? m_calls.positional() : m_calls.labelled());
     }
     const NodeId node = m_tree.add(
-        m_tokens.isAtTerm("contents") ? NodeKind::contentsOf : NodeKind::propertyOf, m_tokens.offset());
+        m_tokens.isAtPhrase("contents") ? NodeKind::contentsOf : NodeKind::propertyOf, m_tokens.offset());
     m_tree.nodes[node].value = nameHere();
     ChildList(m_tree, node).append(container);
     return node;
 }
 
-NodeId TermParser::ofOwner(NodeId owner, NodeId memberNode) {
+NodeId PrimaryParser::ofOwner(NodeId owner, NodeId memberNode) {
     const NodeId node = m_tree.add(NodeKind::callTo, m_tree.at(memberNode).offset);
     ChildList children(m_tree, node);
     children.append(owner);
@@ -159,9 +159,9 @@ NodeId TermParser::ofOwner(NodeId owner, NodeId memberNode) {
 }
 
 /// referenceTo = ( a reference to | a ref to | reference to | ref [to] ) reference
-NodeId TermParser::referenceTo() {
+NodeId PrimaryParser::referenceTo() {
     const NodeId node = m_tree.add(NodeKind::referenceTo, m_tokens.offset());
-    m_tokens.acceptTerm("a");
+    m_tokens.acceptPhrase("a");
     const bool isShort = m_tokens.isAt(Word::ref);
     m_tokens.advance();
     if (!m_tokens.accept(Word::to) && !isShort) m_tokens.expected("“to”");
@@ -169,7 +169,7 @@ NodeId TermParser::referenceTo() {
     return node;
 }
 
-NodeId TermParser::modifierConstant() {
+NodeId PrimaryParser::modifierConstant() {
     const ModifierWord* row = find(modifierWords, m_tokens.current().word);
     const NodeId node = leaf(NodeKind::modifierKey, row->modifier);
     if (m_tokens.accept(Word::down)) m_tree.nodes[node].kind = NodeKind::modifierDown;
@@ -177,37 +177,37 @@ NodeId TermParser::modifierConstant() {
 }
 
 /// What begins with a word that is no word of the language by itself.
-NodeId TermParser::wordTerm() {
-    if (m_tokens.current().text.front() == '|') return nameTerm();
-    if (m_tokens.isAtTerm("missing value")) {
+NodeId PrimaryParser::namedByScript() {
+    if (m_tokens.current().text.front() == '|') return nameOrCall();
+    if (m_tokens.isAtPhrase("missing value")) {
         const NodeId node = leaf(NodeKind::missingValue);
         m_tokens.advance();
         return node;
     }
-    if (m_tokens.isAtTerm("text item delimiters")) return delimiters();
-    if (m_tokens.isAtTerm("character id")) return m_elements.characterId();
-    if (m_tokens.isAtTerm("a reference") || m_tokens.isAtTerm("a ref")) return referenceTo();
+    if (m_tokens.isAtPhrase("text item delimiters")) return delimiters();
+    if (m_tokens.isAtPhrase("character id")) return m_elements.characterId();
+    if (m_tokens.isAtPhrase("a reference") || m_tokens.isAtPhrase("a ref")) return referenceTo();
     if (refuseForbidden()) return noNode;
     if (const auto command = commandHere()) return m_commands.command(*command);
     if (m_elements.isAtElement()) return m_elements.element();
-    if (m_tokens.isAtTerm("unicode text")) m_tokens.advance();
+    if (m_tokens.isAtPhrase("unicode text")) m_tokens.advance();
     const bool isProperty = m_tokens.ahead().is(Word::of) || m_tokens.ahead().is(TokenKind::leftParenthesis);
-    if (isProperty || longPropertyHere(m_tokens)) return nameTerm();
-    if (m_tokens.isAtTerm("date") && m_tokens.ahead().is(TokenKind::text)) return dateLiteral();
-    if (m_tokens.isAtTerm("applescript")) return leaf(NodeKind::appleScript);
-    if (m_tokens.isAtTerm("result")) return leaf(NodeKind::result);
-    if (const auto index = findTerm(m_tokens.current())) return known(*index);
-    return nameTerm();
+    if (isProperty || longPropertyHere(m_tokens)) return nameOrCall();
+    if (m_tokens.isAtPhrase("date") && m_tokens.ahead().is(TokenKind::text)) return dateLiteral();
+    if (m_tokens.isAtPhrase("applescript")) return leaf(NodeKind::appleScript);
+    if (m_tokens.isAtPhrase("result")) return leaf(NodeKind::result);
+    if (const auto index = findPredefinedName(m_tokens.current())) return predefined(*index);
+    return nameOrCall();
 }
 
-NodeId TermParser::known(std::uint8_t index) {
-    const NodeId node = m_tree.add(NodeKind::known, m_tokens.offset());
+NodeId PrimaryParser::predefined(std::uint8_t index) {
+    const NodeId node = m_tree.add(NodeKind::predefined, m_tokens.offset());
     m_tree.nodes[node].detail = index;
     m_tree.nodes[node].value = nameHere();
     return node;
 }
 
-NodeId TermParser::dateLiteral() {
+NodeId PrimaryParser::dateLiteral() {
     const NodeId node = m_tree.add(NodeKind::coercion, m_tokens.offset());
     m_tokens.advance();
     m_tree.nodes[node].detail = static_cast<std::uint8_t>(Type::date);
@@ -215,9 +215,9 @@ NodeId TermParser::dateLiteral() {
     return node;
 }
 
-NodeId TermParser::delimiters() {
+NodeId PrimaryParser::delimiters() {
     const NodeId node = m_tree.add(NodeKind::delimiters, m_tokens.offset());
-    m_tokens.acceptTerm("text item delimiters");
+    m_tokens.acceptPhrase("text item delimiters");
     if (m_tokens.isAt(Word::of)) {
         m_tokens.advance();
         m_expressions.reference();
@@ -226,7 +226,7 @@ NodeId TermParser::delimiters() {
 }
 
 /// A name, what it is called with, or a property and what it belongs to.
-NodeId TermParser::nameTerm() {
+NodeId PrimaryParser::nameOrCall() {
     if (m_tokens.ahead().is(TokenKind::leftParenthesis)) {
         const NodeId node = m_calls.positional();
         if (!m_tokens.accept(Word::of)) return node;
@@ -240,9 +240,9 @@ NodeId TermParser::nameTerm() {
     return plainName();
 }
 
-NodeId TermParser::property() {
+NodeId PrimaryParser::property() {
     const NodeId node = m_tree.add(
-        m_tokens.isAtTerm("contents") ? NodeKind::contentsOf : NodeKind::propertyOf, m_tokens.offset());
+        m_tokens.isAtPhrase("contents") ? NodeKind::contentsOf : NodeKind::propertyOf, m_tokens.offset());
     m_tree.nodes[node].value = nameHere();
     if (!m_tokens.accept(Word::of)) {
         ChildList(m_tree, node).append(m_tree.add(NodeKind::it, m_tokens.offset()));
@@ -252,19 +252,19 @@ NodeId TermParser::property() {
     return node;
 }
 
-NodeId TermParser::plainName() {
+NodeId PrimaryParser::plainName() {
     const NodeId node = m_tree.add(NodeKind::name, m_tokens.offset());
     m_tree.nodes[node].value = nameHere();
     return node;
 }
 
-bool TermParser::longPropertyHere(const TokenStream& tokens) {
+bool PrimaryParser::longPropertyHere(const TokenStream& tokens) {
     if (!tokens.current().is(Word::none) || !tokens.ahead().is(TokenKind::identifier)) return false;
     return std::any_of(longProperties.begin(), longProperties.end(),
-                       [&](const Phrase& name) { return tokens.isAtTerm(name); });
+                       [&](const Phrase& name) { return tokens.isAtPhrase(name); });
 }
 
-NameId TermParser::nameHere() {
+NameId PrimaryParser::nameHere() {
     const Token token = m_tokens.current();
     const std::string_view text = token.text;
     if (longPropertyHere(m_tokens)) {
@@ -282,7 +282,7 @@ NameId TermParser::nameHere() {
     return m_tree.names.intern(name);
 }
 
-bool TermParser::expectName() {
+bool PrimaryParser::expectName() {
     const Token& token = m_tokens.current();
     const bool isName =
         token.is(TokenKind::identifier) &&
@@ -292,15 +292,15 @@ bool TermParser::expectName() {
 }
 
 /// By itself, and where a sign or a word of the language follows, it is a class or a name.
-bool TermParser::isAtApplication() const {
+bool PrimaryParser::isAtApplication() const {
     const Token& next = m_tokens.ahead();
     return (m_tokens.isAt(Word::application) || m_tokens.isAt(Word::app)) &&
-           (next.is(TokenKind::text) || m_tokens.isAtTerm("id", 1) ||
+           (next.is(TokenKind::text) || m_tokens.isAtPhrase("id", 1) ||
             (next.is(TokenKind::identifier) && next.is(Word::none)));
 }
 
 /// application = ( application | app ) [id] text | ( application | app ) ( name | "(" expression ")" )
-NodeId TermParser::application() {
+NodeId PrimaryParser::application() {
     const std::uint32_t offset = m_tokens.offset();
     m_tokens.advance();
     const bool isName = m_tokens.isAt(TokenKind::identifier) && m_tokens.current().is(Word::none);
@@ -318,7 +318,7 @@ NodeId TermParser::application() {
     return node;
 }
 
-bool TermParser::isAtProcess() const {
+bool PrimaryParser::isAtProcess() const {
     if (m_tokens.isAt(Word::application, Word::process)) return true;
     const TokenKind ahead = m_tokens.ahead().kind;
     return m_tokens.isAt(Word::process) && (ahead == TokenKind::text || ahead == TokenKind::identifier ||
@@ -327,7 +327,7 @@ bool TermParser::isAtProcess() const {
 
 /// process = [application] process reference [of application]. Keys go to whatever is in front, whoever is
 /// told.
-NodeId TermParser::process() {
+NodeId PrimaryParser::process() {
     const NodeId node = m_tree.add(NodeKind::process, m_tokens.offset());
     m_tokens.accept(Word::application);
     m_tokens.advance();
@@ -341,17 +341,17 @@ NodeId TermParser::process() {
     return node;
 }
 
-bool TermParser::isAtNumberedOrdinal() const {
+bool PrimaryParser::isAtNumberedOrdinal() const {
     const Token& number = m_tokens.current();
     const Token& suffix = m_tokens.ahead();
     if (!suffix.is(TokenKind::identifier) || suffix.text.data() != number.text.data() + number.text.size()) {
         return false;
     }
-    return m_tokens.isAtTerm("st", 1) || m_tokens.isAtTerm("nd", 1) || m_tokens.isAtTerm("rd", 1) ||
-           m_tokens.isAtTerm("th", 1);
+    return m_tokens.isAtPhrase("st", 1) || m_tokens.isAtPhrase("nd", 1) || m_tokens.isAtPhrase("rd", 1) ||
+           m_tokens.isAtPhrase("th", 1);
 }
 
-NodeId TermParser::numberedOrdinal() {
+NodeId PrimaryParser::numberedOrdinal() {
     const std::uint32_t offset = m_tokens.offset();
     const NodeId index = m_expressions.number();
     m_tokens.advance();
@@ -359,9 +359,9 @@ NodeId TermParser::numberedOrdinal() {
 }
 
 /// Why: people pass macros on to each other. A macro presses keys; it does not run programs.
-bool TermParser::refuseForbidden() {
+bool PrimaryParser::refuseForbidden() {
     for (const Phrase& command : refusedCommands) {
-        if (!m_tokens.isAtTerm(command)) continue;
+        if (!m_tokens.isAtPhrase(command)) continue;
         const bool isName = command.wordCount() == 1 && !m_tokens.ahead().is(TokenKind::text) &&
                             !m_tokens.ahead().is(TokenKind::identifier);
         if (isName) continue;

@@ -17,10 +17,10 @@ std::string constantText(const CalendarName& constant);
 
 /// As a script would spell it, for messages and results: texts in quotes, lists in braces. What is longer
 /// than a few thousand bytes, or nested some hundred times, is cut off with "…".
-std::string spelled(const Value& value);
+std::string sourceForm(const Value& value);
 
 /// As spelled in front of its container: "item 2", "text 2 thru 3", "some word".
-std::string spelled(const Element& element);
+std::string sourceForm(const Element& element);
 
 /// "Can’t make VALUE into type TYPE." (-1700)
 Failure cannotMake(const Value& value, std::string_view type);

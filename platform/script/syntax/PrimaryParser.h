@@ -16,17 +16,17 @@ namespace script {
 
 /// Reads what begins with a word where an expression stands.
 ///
-/// term     = constant | target | command | element | my member | its member | [a] reference to reference
+/// named    = constant | target | command | element | my member | its member | [a] reference to reference
 ///          | call [of reference] | name of reference | name
 /// member   = element | call | name
-class TermParser {
+class PrimaryParser {
   public:
-    TermParser(TokenStream& tokens, Tree& tree, std::string_view source);
+    PrimaryParser(TokenStream& tokens, Tree& tree, std::string_view source);
 
     ExpressionParser& expressions() { return m_expressions; }
     ElementParser& elements() { return m_elements; }
 
-    NodeId term();
+    NodeId named();
     /// Behind 's: a member of the node.
     NodeId member(NodeId container);
 
@@ -59,17 +59,17 @@ class TermParser {
 
   private:
     std::optional<std::uint32_t> commandHere() const;
-    NodeId constantTerm();
+    NodeId constant();
     std::optional<NodeId> textConstant();
     NodeId leaf(NodeKind kind, std::uint32_t value = 0);
     NodeId prefixed(NodeKind owner);
     NodeId ofOwner(NodeId owner, NodeId memberNode);
     NodeId referenceTo();
     NodeId modifierConstant();
-    NodeId wordTerm();
-    NodeId known(std::uint8_t index);
+    NodeId namedByScript();
+    NodeId predefined(std::uint8_t index);
     NodeId dateLiteral();
-    NodeId nameTerm();
+    NodeId nameOrCall();
     NodeId property();
     NodeId contents();
     NodeId delimiters();
