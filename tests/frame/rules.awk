@@ -20,7 +20,7 @@ BEGIN {
 
     below = "platform"
     storey("platform/script/source")
-    storey("platform/script/values")
+    storey("platform/script/values", "|^glib\\.h$")
     storey("platform/script/commands")
     storey("platform/script/syntax")
     storey("platform/script/code")
@@ -75,9 +75,10 @@ function room(folder, uses, angled, refused) {
     refusedOf[folder] = refused
 }
 
-# A room that may use all those named before it in this way.
-function storey(folder) {
-    room(folder, below, standard, "")
+# A room that may use all those named before it in this way, and what it may include in angle brackets beside the
+# standard library.
+function storey(folder, angled) {
+    room(folder, below, standard angled, "")
     below = below " " folder
 }
 

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// What is known of characters, by tables of this program: no locale changes it.
+/// What is known of characters; no locale changes it.
 namespace script {
 
-/// Lower case for Latin, Greek, Cyrillic and Armenian letters.
+/// Lower case, where that is one character.
 char32_t lowered(char32_t character);
 
-/// Without its accents, for Latin and Greek letters and the Cyrillic ones that have some; 0 for an accent
-/// that is a character of its own.
+/// A letter without its accents or its stroke; 0 for an accent that is a character of its own.
 char32_t withoutAccents(char32_t character);
 
 bool isHyphen(char32_t character);
