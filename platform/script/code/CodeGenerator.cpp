@@ -5,6 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/script/source/Wording.h"
+
 namespace script {
 
 Program CodeGenerator::generate() {
@@ -47,8 +49,7 @@ void CodeGenerator::collect() {
 
 void CodeGenerator::collectProperty(const Node& node) {
     if (!m_properties.emplace(node.value, node.offset).second) {
-        m_out.fail(errornumber::propertyTwice,
-                   "The " + m_tree.names.at(node.value).spelling + " property is specified more than once.",
+        m_out.fail(errornumber::propertyTwice, givenTwice(m_tree.names.at(node.value).spelling, "property"),
                    node.offset);
     }
     m_out.script().makeVisible(node.value);
@@ -87,15 +88,14 @@ void CodeGenerator::collectHandler(const Node& node) {
         return checkRun();
     }
     if (m_handlers.emplace(node.value, node.offset).second) return;
-    m_out.fail(errornumber::handlerTwice,
-               "The " + m_tree.names.at(node.value).spelling + " handler is specified more than once.",
+    m_out.fail(errornumber::handlerTwice, givenTwice(m_tree.names.at(node.value).spelling, "handler"),
                node.offset);
 }
 
 /// The run handler and statements outside of handlers exclude each other.
 void CodeGenerator::checkRun() {
     if (m_run == nullptr || m_loose == nullptr) return;
-    m_out.fail(errornumber::handlerTwice, "The run handler is specified more than once.",
+    m_out.fail(errornumber::handlerTwice, givenTwice("run", "handler"),
                std::max(m_run->offset, m_loose->offset));
 }
 
@@ -195,8 +195,7 @@ void CodeGenerator::resolveCalls() {
 }
 
 void CodeGenerator::failTwice(NameId parameter, std::uint32_t offset) {
-    m_out.fail(errornumber::parameterTwice,
-               "The " + m_tree.names.at(parameter).spelling + " parameter is specified more than once.",
+    m_out.fail(errornumber::parameterTwice, givenTwice(m_tree.names.at(parameter).spelling, "parameter"),
                offset);
 }
 

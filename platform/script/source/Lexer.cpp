@@ -5,12 +5,10 @@
 #include <array>
 #include <cstdint>
 
+#include "platform/script/source/Trivia.h"
+
 namespace script {
 namespace {
-
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-constexpr std::string_view noBreakSpace = "\xC2\xA0";
-constexpr std::string_view continuation = "¬";
 
 /// `gap` are the bytes with which something may begin that gives no token, blanks aside.
 enum class Class : unsigned char { other, letter, digit, blank, lineEnd, gap };
@@ -23,7 +21,7 @@ constexpr std::array<Class, 256> classes = [] {
     table['_'] = Class::letter;
     for (const char c : {' ', '\t'}) table[static_cast<unsigned char>(c)] = Class::blank;
     for (const char c : {'\n', '\r'}) table[static_cast<unsigned char>(c)] = Class::lineEnd;
-    for (const char c : {'#', '-', '(', noBreakSpace.front(), continuation.front()}) {
+    for (const char c : {'#', '-', '(', noBreakSpace.front(), continuationSign.front()}) {
         table[static_cast<unsigned char>(c)] = Class::gap;
     }
     return table;
@@ -32,7 +30,6 @@ constexpr std::array<Class, 256> classes = [] {
 Class classOf(char c) { return classes[static_cast<unsigned char>(c)]; }
 bool isDigit(char c) { return classOf(c) == Class::digit; }
 bool isWordCharacter(char c) { return classOf(c) == Class::letter || isDigit(c); }
-bool isLineEnd(char c) { return classOf(c) == Class::lineEnd; }
 
 struct Symbol {
     std::string_view spelling;
@@ -107,7 +104,7 @@ Token Lexer::next() {
             case Class::digit:
                 return number();
             case Class::lineEnd:
-                return take(TokenKind::endOfLine, lineEndLength());
+                return take(TokenKind::endOfLine, lineEndLength(rest()));
             case Class::gap: {
                 const std::size_t start = m_position;
                 const std::optional<Token> fault = skipGap();
@@ -146,11 +143,11 @@ std::optional<Token> Lexer::skipGap() {
         skipLine();
     } else if (c == '(' && following == '*') {
         if (!skipBlockComment()) return take(TokenKind::openComment, 0);
-    } else if (startsWith(continuation)) {
+    } else if (startsWith(continuationSign)) {
         const std::size_t start = m_position;
         if (skipContinuation()) return std::nullopt;
         m_position = start;
-        return take(TokenKind::strayContinuation, continuation.size());
+        return take(TokenKind::strayContinuation, continuationSign.size());
     } else {
         skipBlank();
     }
@@ -169,40 +166,28 @@ bool Lexer::skipBlank() {
 }
 
 /// To the line end, which stays.
-void Lexer::skipLine() { m_position = std::min(m_source.find_first_of("\r\n", m_position), m_source.size()); }
+void Lexer::skipLine() { m_position += lineLength(rest()); }
 
-/// Only `(*` and `*)` count inside; false if the comment never ends.
+/// Goes to the end of the script and is false if the comment never ends.
 bool Lexer::skipBlockComment() {
-    std::size_t depth = 0;
-    while (m_position < m_source.size()) {
-        const char c = m_source[m_position];
-        const char following = at(m_position + 1);
-        const bool opens = c == '(' && following == '*';
-        const bool closes = c == '*' && following == ')';
-        m_position += opens || closes ? 2 : 1;
-        if (opens) ++depth;
-        if (closes && --depth == 0) return true;
-    }
-    return false;
+    const std::size_t length = blockCommentLength(rest());
+    m_position = length == std::string_view::npos ? m_source.size() : m_position + length;
+    return length != std::string_view::npos;
 }
 
 bool Lexer::skipLineEnd() {
     if (m_position >= m_source.size()) return true;
     if (!isLineEnd(m_source[m_position])) return false;
-    m_position += lineEndLength();
+    m_position += lineEndLength(rest());
     return true;
-}
-
-std::size_t Lexer::lineEndLength() const {
-    return m_source[m_position] == '\r' && at(m_position + 1) == '\n' ? 2 : 1;
 }
 
 /// The sign, blanks and comments, and one line end; false if something else stands there.
 bool Lexer::skipContinuation() {
-    m_position += continuation.size();
+    m_position += continuationSign.size();
     while (skipBlank() || (startsWith("(*") && skipBlockComment())) {
     }
-    if (at(m_position) == '#' || startsWith("--")) skipLine();
+    if (beginsLineComment(rest())) skipLine();
     return skipLineEnd();
 }
 
@@ -268,6 +253,12 @@ Token Lexer::symbol() {
         }
     }
     return take(TokenKind::unknown, characterLength(first));
+}
+
+std::string_view spellingOf(TokenKind kind) {
+    const auto* row = std::find_if(symbols.begin(), symbols.end(),
+                                   [&](const Symbol& symbol) { return symbol.kind == kind; });
+    return row == symbols.end() ? "" : row->spelling;
 }
 
 }  // namespace script

@@ -23,6 +23,7 @@ class Lexer {
 
   private:
     char at(std::size_t position) const { return position < m_source.size() ? m_source[position] : '\0'; }
+    std::string_view rest() const { return m_source.substr(m_position); }
     bool startsWith(std::string_view prefix) const {
         return m_source.compare(m_position, prefix.size(), prefix) == 0;
     }
@@ -34,7 +35,6 @@ class Lexer {
     void skipLine();
     bool skipBlockComment();
     bool skipLineEnd();
-    std::size_t lineEndLength() const;
     bool skipContinuation();
 
     Token word();
@@ -46,5 +46,8 @@ class Lexer {
     std::string_view m_source;
     std::size_t m_position = 0;
 };
+
+/// How a sign is written; empty for tokens of all other kinds.
+std::string_view spellingOf(TokenKind kind);
 
 }  // namespace script

@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/script/source/Wording.h"
+
 namespace script {
 namespace {
-
-std::string quoted(std::string_view text) { return "“" + std::string(text) + "”"; }
 
 bool isCurlyQuote(std::string_view text) {
     return text == "“" || text == "”" || text == "‘" || text == "’" || text == "„";
@@ -61,6 +61,43 @@ void TokenStream::expected(std::string_view what) {
     fail(errornumber::syntax, "Expected " + std::string(what) + " but found " + describeCurrent() + ".");
 }
 
+bool TokenStream::expect(Word word) {
+    if (accept(word)) return true;
+    expected(quoted(spellingOf(word)));
+    return false;
+}
+
+bool TokenStream::expect(TokenKind sign) {
+    if (accept(sign)) return true;
+    expected(quoted(spellingOf(sign)));
+    return false;
+}
+
+bool TokenStream::expect(const Phrase& words) {
+    if (acceptPhrase(words)) return true;
+    expected(quoted(words.spelling()));
+    return false;
+}
+
+bool TokenStream::expectListEnd(TokenKind bracket) {
+    if (accept(bracket)) return true;
+    expected(alternatives({spellingOf(TokenKind::comma), spellingOf(bracket)}));
+    return false;
+}
+
+void TokenStream::expectLineEnd() {
+    if (!isAtLineEnd()) expected("end of line");
+}
+
+void TokenStream::expectedAtMost(std::size_t count, std::string_view what) {
+    fail(errornumber::syntax,
+         "Expected at most " + std::to_string(count) + " " + std::string(what) + " but found more.");
+}
+
+void TokenStream::refuseTarget(std::string_view found, std::uint32_t offset) {
+    fail(errornumber::syntax, "Expected variable name but found " + std::string(found) + ".", offset);
+}
+
 void TokenStream::fail(int number, std::string message, std::size_t offset) {
     if (failed()) return;
     m_error = ScriptError{number, std::move(message), locate(m_source, offset)};
@@ -110,17 +147,10 @@ std::string TokenStream::describeWord(const Token& token, const Token& ahead) co
     return quoted(spellingOf(word));
 }
 
-void TokenStream::refuseTarget(std::uint32_t offset) {
+std::string TokenStream::describeAt(std::uint32_t offset) const {
     Lexer lexer(m_source.substr(offset));
     const Token token = lexer.next();
-    fail(errornumber::syntax, "Expected variable name but found " + describe(token, lexer.next()) + ".",
-         offset);
-}
-
-Nesting::Nesting(TokenStream& tokens) : m_tokens(tokens) {
-    if (++m_tokens.m_depth <= maxDepth) return;
-    m_tokens.fail(errornumber::syntax,
-                  "Expected at most " + std::to_string(maxDepth) + " levels of nesting but found more.");
+    return describe(token, lexer.next());
 }
 
 }  // namespace script

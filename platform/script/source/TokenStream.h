@@ -61,14 +61,25 @@ class TokenStream {
 
     /// Fails with "Expected WHAT but found ...".
     void expected(std::string_view what);
+    /// Fails unless it stands here, and moves behind it.
+    bool expect(Word word);
+    bool expect(TokenKind sign);
+    bool expect(const Phrase& words);
+    /// The bracket, behind items with commas between them.
+    bool expectListEnd(TokenKind bracket);
+    void expectLineEnd();
+    /// Fails with "Expected at most COUNT WHAT but found more.".
+    void expectedAtMost(std::size_t count, std::string_view what);
+    /// Fails with "Expected variable name but found FOUND.".
+    void refuseTarget(std::string_view found, std::uint32_t offset);
     void fail(int number, std::string message) { fail(number, std::move(message), offset()); }
     void fail(int number, std::string message, std::size_t offset);
-    /// Fails because what begins at the offset, which lies behind, cannot be set.
-    void refuseTarget(std::uint32_t offset);
+    /// What an error says of the token at an offset, which lies behind.
+    std::string describeAt(std::uint32_t offset) const;
     bool failed() const { return m_error.has_value(); }
     const std::optional<ScriptError>& error() const { return m_error; }
 
-    /// Whether the dictionary of System Events is in force.
+    /// Whether the dictionary of System Events is in force, as the parsers' scopes say.
     bool knowsDictionary() const { return m_knowsDictionary; }
     void setKnowsDictionary(bool knows) { m_knowsDictionary = knows; }
 
@@ -76,8 +87,6 @@ class TokenStream {
     bool means(Word word) const { return kindOf(word) != WordKind::dictionary || m_knowsDictionary; }
 
   private:
-    friend class Nesting;
-
     static constexpr std::size_t maxAhead = Phrase::maxWords;
     static constexpr std::size_t windowSize = maxAhead + 1;
 
@@ -100,23 +109,6 @@ class TokenStream {
     std::size_t m_first = 0;
     std::optional<ScriptError> m_error;
     bool m_knowsDictionary = false;
-    int m_depth = 0;
-};
-
-/// One level of nesting for its lifetime. The parser descends by recursion, so its depth is bounded: a script
-/// cannot overflow the stack.
-class Nesting {
-  public:
-    static constexpr int maxDepth = 200;
-
-    /// Fails the stream at the bound.
-    explicit Nesting(TokenStream& tokens);
-    ~Nesting() { --m_tokens.m_depth; }
-    Nesting(const Nesting&) = delete;
-    Nesting& operator=(const Nesting&) = delete;
-
-  private:
-    TokenStream& m_tokens;
 };
 
 }  // namespace script

@@ -3,10 +3,7 @@
 
 #include <array>
 
-#include "platform/script/source/Scoped.h"
-#include "platform/script/source/SystemEvents.h"
-#include "platform/script/syntax/Parser.h"
-#include "platform/script/syntax/StatementParser.h"
+#include "platform/script/syntax/Grammar.h"
 #include "platform/script/values/TextRules.h"
 
 namespace script {
@@ -69,71 +66,56 @@ NodeId BlockParser::statement() {
 
 /// A block behind its head, whose line ends here.
 NodeId BlockParser::body() {
-    if (!m_tokens.isAtLineEnd()) m_tokens.expected("end of line");
-    return m_statements.block();
+    m_tokens.expectLineEnd();
+    return m_grammar.statements.block();
 }
 
 NodeId BlockParser::tell() {
-    const NodeId node = m_tree.add(NodeKind::tell, m_tokens.offset());
-    const Scoped<int> tells(m_statements.surroundings().tells, m_statements.surroundings().tells + 1);
-    if (m_statements.surroundings().tells > Parser::maxTells) {
-        m_tokens.fail(errornumber::tellTooDeep, "Tell statements are nested too deeply.");
-    }
-    m_tokens.advance();
-    const bool knewDictionary = m_tokens.knowsDictionary();
+    TellScope scope(m_context);
+    const NodeId node = take(NodeKind::tell);
     ChildList children(m_tree, node);
-    children.append(tellTarget());
+    children.append(tellTarget(scope));
     if (m_tokens.accept(Word::to)) {
-        const NodeId block = m_tree.add(NodeKind::block, m_tokens.offset());
-        ChildList(m_tree, block).append(m_statements.statement());
-        children.append(block);
+        children.append(statementBlock());
     } else {
         children.append(body());
-        m_statements.acceptEnd(Word::tell);
+        m_grammar.statements.acceptEnd(Word::tell);
     }
-    m_tokens.setKnowsDictionary(knewDictionary);
     return node;
 }
 
-/// `tell [application] process "X" of application "System Events"`: the dictionary stands behind its word.
-bool BlockParser::namesProcessOfSystemEvents() const {
-    const int start = m_tokens.current().is(Word::application) ? 1 : 0;
-    if (!m_tokens.peek(start).is(Word::process) || !m_tokens.peek(start + 2).is(Word::of)) return false;
-    const Token owner = m_tokens.peek(start + 3);
-    const std::string_view name = m_tokens.peek(start + 4).text;
-    return (owner.is(Word::application) || owner.is(Word::app)) && name.size() > 2 &&
-           isSystemEvents(name.substr(1, name.size() - 2), false);
+/// An application's own dictionary, or none, is in force behind it.
+NodeId BlockParser::tellTarget(TellScope& scope) {
+    m_tokens.skipFiller();
+    ApplicationParser& applications = m_grammar.applications;
+    const bool readsApplication = applications.isAtApplicationWord();
+    if (applications.isAtProcessOfSystemEvents()) scope.setKnown(true);
+    if (!readsApplication || applications.isAtProcess()) return expression();
+    const NodeId target = applications.application();
+    if (!m_tokens.failed()) scope.setKnown(m_tree.at(target).detail != 0);
+    return target;
 }
 
-/// An application's own dictionary, or none, is in force behind it.
-NodeId BlockParser::tellTarget() {
-    m_tokens.skipFiller();
-    const bool readsApplication = m_tokens.isAt(Word::application) || m_tokens.isAt(Word::app);
-    if (namesProcessOfSystemEvents()) m_tokens.setKnowsDictionary(true);
-    if (readsApplication && !m_primaries.isAtProcess()) {
-        const NodeId target = m_primaries.application();
-        if (!m_tokens.failed()) m_tokens.setKnowsDictionary(m_tree.at(target).detail != 0);
-        return target;
-    }
-    return m_primaries.expressions().expression();
+/// A block of the one statement that stands here.
+NodeId BlockParser::statementBlock() {
+    const NodeId block = m_tree.add(NodeKind::block, m_tokens.offset());
+    ChildList(m_tree, block).append(m_grammar.statements.statement());
+    return block;
 }
 
 NodeId BlockParser::ifThen() {
-    const NodeId node = m_tree.add(NodeKind::ifThen, m_tokens.offset());
-    m_tokens.advance();
+    const NodeId node = take(NodeKind::ifThen);
     ChildList children(m_tree, node);
-    children.append(m_primaries.expressions().expression());
+    children.append(expression());
     const bool hasThen = m_tokens.accept(Word::then);
     if (!m_tokens.isAtLineEnd()) {
         if (!hasThen) m_tokens.expected("“then”");
-        const NodeId block = m_tree.add(NodeKind::block, m_tokens.offset());
-        ChildList(m_tree, block).append(m_statements.statement());
-        children.append(block);
+        children.append(statementBlock());
         return node;
     }
     children.append(body());
     elseParts(children);
-    m_statements.acceptEnd(Word::ifWord);
+    m_grammar.statements.acceptEnd(Word::ifWord);
     return node;
 }
 
@@ -141,7 +123,7 @@ void BlockParser::elseParts(ChildList& children) {
     while (m_tokens.accept(Word::elseWord)) {
         const bool isLast = !m_tokens.accept(Word::ifWord);
         if (!isLast) {
-            children.append(m_primaries.expressions().expression());
+            children.append(expression());
             m_tokens.accept(Word::then);
         }
         children.append(body());
@@ -150,35 +132,34 @@ void BlockParser::elseParts(ChildList& children) {
 }
 
 NodeId BlockParser::repeat() {
-    const NodeId node = m_tree.add(NodeKind::repeat, m_tokens.offset());
-    m_tokens.advance();
+    const NodeId node = take(NodeKind::repeat);
     ChildList children(m_tree, node);
     const bool isUntil = m_tokens.isAt(Word::until);
     if (isUntil || m_tokens.isAt(Word::whileWord)) {
         m_tokens.advance();
         m_tree.nodes[node].kind = NodeKind::repeatWhile;
         m_tree.nodes[node].detail = isUntil ? 1 : 0;
-        children.append(m_primaries.expressions().expression());
+        children.append(expression());
     } else if (m_tokens.accept(Word::with)) {
         repeatWith(node, children);
     } else if (!m_tokens.isAtLineEnd()) {
         m_tree.nodes[node].kind = NodeKind::repeatTimes;
-        children.append(m_primaries.expressions().expression());
+        children.append(expression());
         m_tokens.accept(Word::times);
     }
-    const Scoped<int> loops(m_statements.surroundings().loops, m_statements.surroundings().loops + 1);
+    const LoopScope loop(m_context);
     children.append(body());
-    m_statements.acceptEnd(Word::repeat);
+    m_grammar.statements.acceptEnd(Word::repeat);
     return node;
 }
 
 void BlockParser::repeatWith(NodeId node, ChildList& children) {
     m_tokens.skipFiller();
-    if (!m_primaries.expectName()) return;
-    m_tree.nodes[node].value = m_primaries.nameHere();
+    if (!m_grammar.names.expectName()) return;
+    m_tree.nodes[node].value = m_grammar.names.nameHere();
     if (m_tokens.accept(Word::in)) {
         m_tree.nodes[node].kind = NodeKind::repeatIn;
-        children.append(m_primaries.expressions().expression());
+        children.append(expression());
         return;
     }
     m_tree.nodes[node].kind = NodeKind::repeatRange;
@@ -186,19 +167,18 @@ void BlockParser::repeatWith(NodeId node, ChildList& children) {
         m_tokens.expected("“from” or “in”");
         return;
     }
-    children.append(m_primaries.expressions().expression());
-    if (!m_tokens.accept(Word::to)) m_tokens.expected("“to”");
-    children.append(m_primaries.expressions().expression());
-    if (m_tokens.accept(Word::by)) children.append(m_primaries.expressions().expression());
+    children.append(expression());
+    m_tokens.expect(Word::to);
+    children.append(expression());
+    if (m_tokens.accept(Word::by)) children.append(expression());
 }
 
 NodeId BlockParser::tryBlock() {
-    const NodeId node = m_tree.add(NodeKind::tryBlock, m_tokens.offset());
-    m_tokens.advance();
+    const NodeId node = take(NodeKind::tryBlock);
     ChildList children(m_tree, node);
     children.append(body());
     if (m_tokens.isAt(Word::on, Word::error)) children.append(onError());
-    m_statements.acceptEnd(m_tokens.ahead().is(Word::error) ? Word::error : Word::tryWord);
+    m_grammar.statements.acceptEnd(m_tokens.ahead().is(Word::error) ? Word::error : Word::tryWord);
     return node;
 }
 
@@ -206,7 +186,7 @@ NodeId BlockParser::onError() {
     const NodeId node = m_tree.add(NodeKind::onError, m_tokens.offset());
     m_tokens.accept(Word::on, Word::error);
     ChildList children(m_tree, node);
-    m_statements.errorParts(children, true);
+    m_grammar.statements.errorParts(children, true);
     children.append(body());
     return node;
 }
@@ -214,7 +194,7 @@ NodeId BlockParser::onError() {
 NodeId BlockParser::errorTarget() {
     const bool isValue =
         m_tokens.isAt(TokenKind::number) || m_tokens.isAt(TokenKind::text) || m_tokens.isAt(TokenKind::minus);
-    return isValue ? m_primaries.expressions().index() : m_statements.target();
+    return isValue ? m_grammar.primaries.index() : m_grammar.statements.target();
 }
 
 NodeId BlockParser::considering() {
@@ -225,14 +205,12 @@ NodeId BlockParser::considering() {
     const std::uint32_t first = attributes(0);
     std::uint32_t others = 0;
     if (m_tokens.accept(Word::but)) {
-        if (!m_tokens.accept(considers ? Word::ignoring : Word::considering)) {
-            m_tokens.expected(considers ? "“ignoring”" : "“considering”");
-        }
+        m_tokens.expect(considers ? Word::ignoring : Word::considering);
         others = attributes(first);
     }
     m_tree.nodes[node].value = considers ? first | (others << 8U) : others | (first << 8U);
     ChildList(m_tree, node).append(body());
-    m_statements.acceptEnd(word);
+    m_grammar.statements.acceptEnd(word);
     return node;
 }
 
@@ -260,33 +238,31 @@ std::uint32_t BlockParser::attributeHere() {
 }
 
 NodeId BlockParser::timeout() {
-    const NodeId node = m_tree.add(NodeKind::timeout, m_tokens.offset());
-    m_tokens.advance();
-    if (!m_tokens.accept(Word::timeout)) m_tokens.expected("“timeout”");
+    const NodeId node = take(NodeKind::timeout);
+    m_tokens.expect(Word::timeout);
     m_tokens.accept(Word::of);
     ChildList children(m_tree, node);
-    children.append(m_primaries.expressions().expression());
-    if (!m_tokens.acceptPhrase("seconds") && !m_tokens.acceptPhrase("second")) m_tokens.expected("“seconds”");
+    children.append(expression());
+    if (!m_tokens.acceptPhrase("second")) m_tokens.expect("seconds");
     children.append(body());
-    m_statements.acceptEnd(Word::timeout);
+    m_grammar.statements.acceptEnd(Word::timeout);
     return node;
 }
 
 /// The block alone: there is nothing to do when it runs.
 NodeId BlockParser::usingTerms() {
     m_tokens.advance();
-    if (!m_tokens.acceptPhrase("terms from")) m_tokens.expected("“terms from”");
-    const bool knewDictionary = m_tokens.knowsDictionary();
+    m_tokens.expect("terms from");
+    DictionaryScope scope(m_context);
     m_tokens.skipFiller();
-    if (m_tokens.isAt(Word::application) || m_tokens.isAt(Word::app)) {
-        const NodeId application = m_primaries.application();
-        if (!m_tokens.failed() && m_tree.at(application).detail != 0) m_tokens.setKnowsDictionary(true);
+    if (m_grammar.applications.isAtApplicationWord()) {
+        const NodeId application = m_grammar.applications.application();
+        if (!m_tokens.failed() && m_tree.at(application).detail != 0) scope.setKnown(true);
     } else {
         m_tokens.expected("“application”");
     }
     const NodeId block = body();
-    if (m_statements.acceptEnd(Word::usingWord)) m_tokens.acceptPhrase("terms from");
-    m_tokens.setKnowsDictionary(knewDictionary);
+    if (m_grammar.statements.acceptEnd(Word::usingWord)) m_tokens.acceptPhrase("terms from");
     return block;
 }
 

@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/script/source/TokenStream.h"
-#include "platform/script/syntax/Node.h"
-#include "platform/script/syntax/PrimaryParser.h"
+#include "platform/script/syntax/SubParser.h"
 
 namespace script {
-
-class StatementParser;
 
 /// Reads the statements that hold others. Each is ended by `end` and, or not, its first word.
 ///
@@ -21,10 +17,9 @@ class StatementParser;
 ///               [but ( ignoring | considering ) attribute { ( , | and ) attribute }] NL block
 /// timeout     = with timeout [of] expression ( seconds | second ) NL block
 /// using       = using terms from application NL block
-class BlockParser {
+class BlockParser : public SubParser {
   public:
-    BlockParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries, StatementParser& statements)
-        : m_tokens(tokens), m_tree(tree), m_primaries(primaries), m_statements(statements) {}
+    using SubParser::SubParser;
 
     bool isAtBlock() const;
     NodeId statement();
@@ -34,8 +29,7 @@ class BlockParser {
 
   private:
     NodeId tell();
-    NodeId tellTarget();
-    bool namesProcessOfSystemEvents() const;
+    NodeId tellTarget(TellScope& scope);
     NodeId ifThen();
     void elseParts(ChildList& children);
     NodeId repeat();
@@ -48,11 +42,7 @@ class BlockParser {
     NodeId timeout();
     NodeId usingTerms();
     NodeId body();
-
-    TokenStream& m_tokens;
-    Tree& m_tree;
-    PrimaryParser& m_primaries;
-    StatementParser& m_statements;
+    NodeId statementBlock();
 };
 
 }  // namespace script

@@ -3,16 +3,15 @@
 
 #include <string>
 
-#include "platform/script/syntax/PrimaryParser.h"
+#include "platform/script/syntax/Grammar.h"
 
 namespace script {
 
 NodeId CallParser::positional() {
     const NodeId node = m_tree.add(NodeKind::call, m_tokens.offset());
-    m_tree.nodes[node].value = m_primaries.nameHere();
+    m_tree.nodes[node].value = m_grammar.names.nameHere();
     m_tokens.advance();
-    const bool allowsIn = m_primaries.allowsIn();
-    m_primaries.setAllowsIn(true);
+    const CallScope scope(m_context);
     ChildList arguments(m_tree, node);
     if (!m_tokens.accept(TokenKind::rightParenthesis)) {
         std::uint32_t count = 0;
@@ -20,22 +19,21 @@ NodeId CallParser::positional() {
             countParameter(count);
             arguments.append(argument(0));
         } while (m_tokens.accept(TokenKind::comma));
-        if (!m_tokens.accept(TokenKind::rightParenthesis)) m_tokens.expected("“,” or “)”");
+        m_tokens.expectListEnd(TokenKind::rightParenthesis);
     }
-    m_primaries.setAllowsIn(allowsIn);
     return node;
 }
 
 NodeId CallParser::argument(NameId label) {
     const NodeId node = m_tree.add(NodeKind::argument, m_tokens.offset(), label);
-    ChildList(m_tree, node).append(m_primaries.expressions().expression());
+    ChildList(m_tree, node).append(expression());
     return node;
 }
 
 NodeId CallParser::labelled() {
     const NodeId node = m_tree.add(NodeKind::call, m_tokens.offset());
     m_tree.nodes[node].detail = 1;
-    m_tree.nodes[node].value = m_primaries.nameHere();
+    m_tree.nodes[node].value = m_grammar.names.nameHere();
     labelledArguments(node);
     return node;
 }
@@ -50,10 +48,10 @@ void CallParser::labelledArguments(NodeId call) {
     }
     if (m_tokens.accept(Word::given)) {
         do {
-            if (!m_primaries.expectName()) return;
+            if (!m_grammar.names.expectName()) return;
             countParameter(count);
-            const NameId label = m_primaries.nameHere();
-            if (!m_tokens.accept(TokenKind::colon)) m_tokens.expected("“:”");
+            const NameId label = m_grammar.names.nameHere();
+            m_tokens.expect(TokenKind::colon);
             arguments.append(argument(label));
         } while (m_tokens.accept(TokenKind::comma));
     }
@@ -65,19 +63,17 @@ void CallParser::truths(ChildList& arguments, std::uint32_t& count) {
     const std::uint32_t truth = m_tokens.isAt(Word::with) ? 1 : 0;
     m_tokens.advance();
     do {
-        if (!m_primaries.expectName()) return;
+        if (!m_grammar.names.expectName()) return;
         countParameter(count);
         const std::uint32_t offset = m_tokens.offset();
-        const NodeId node = m_tree.add(NodeKind::argument, offset, m_primaries.nameHere());
+        const NodeId node = m_tree.add(NodeKind::argument, offset, m_grammar.names.nameHere());
         ChildList(m_tree, node).append(m_tree.add(NodeKind::truth, offset, truth));
         arguments.append(node);
     } while (m_tokens.accept(TokenKind::comma) || m_tokens.accept(Word::andWord));
 }
 
 void CallParser::countParameter(std::uint32_t& count) {
-    if (++count <= maxParameters) return;
-    m_tokens.fail(errornumber::syntax,
-                  "Expected at most " + std::to_string(maxParameters) + " parameters but found more.");
+    if (++count > maxParameters) m_tokens.expectedAtMost(maxParameters, "parameters");
 }
 
 bool CallParser::isLabelWord(Word word) {
@@ -131,7 +127,7 @@ bool CallParser::isLabelledHandler(const Token& name) {
 
 void CallParser::findLabelled() {
     m_labelled.emplace();
-    Lexer lexer(m_source);
+    Lexer lexer(m_context.source());
     Token former;
     former.kind = TokenKind::endOfLine;
     for (Token token = lexer.next(); !token.is(TokenKind::endOfScript); token = lexer.next()) {

@@ -4,12 +4,9 @@
 #include <optional>
 #include <string_view>
 
-#include "platform/script/source/TokenStream.h"
-#include "platform/script/syntax/Node.h"
+#include "platform/script/syntax/SubParser.h"
 
 namespace script {
-
-class PrimaryParser;
 
 /// Reads calls of handlers.
 ///
@@ -17,10 +14,9 @@ class PrimaryParser;
 ///      | name [preposition expression] ... [given label : expression {, label : expression}]
 ///
 /// The second form is read behind names of handlers only that are written so.
-class CallParser {
+class CallParser : public SubParser {
   public:
-    CallParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries, std::string_view source)
-        : m_tokens(tokens), m_tree(tree), m_primaries(primaries), m_source(source) {}
+    using SubParser::SubParser;
 
     /// The most parameters of a handler, and arguments of a call: labels are compared one with another.
     static constexpr std::uint32_t maxParameters = 1000;
@@ -43,11 +39,6 @@ class CallParser {
     void truths(ChildList& arguments, std::uint32_t& count);
     NodeId argument(NameId label);
     void findLabelled();
-
-    TokenStream& m_tokens;
-    Tree& m_tree;
-    PrimaryParser& m_primaries;
-    std::string_view m_source;
     /// The handlers that are called with labels; read from the source when the first may be met.
     std::optional<NameTable> m_labelled;
 };

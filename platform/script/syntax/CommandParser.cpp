@@ -4,25 +4,11 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/script/source/Scoped.h"
-#include "platform/script/syntax/PrimaryParser.h"
-#include "platform/script/values/PredefinedNames.h"
+#include "platform/script/source/Wording.h"
+#include "platform/script/syntax/Grammar.h"
+#include "platform/script/syntax/Operators.h"
 
 namespace script {
-namespace {
-
-/// “a”, “b” or “c”
-std::string alternatives(const std::vector<std::string_view>& words) {
-    std::string out;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        if (i > 0) out += i + 1 == words.size() ? " or " : ", ";
-        out += "“" + std::string(words[i]) + "”";
-    }
-    return out;
-}
-
-}  // namespace
-
 std::optional<std::uint32_t> CommandParser::commandHere() const {
     const std::optional<std::uint32_t> index = script::commandHere(m_tokens);
     return index && isMeant(*commands()[*index]) ? index : std::nullopt;
@@ -35,6 +21,11 @@ bool CommandParser::isMeant(const Command& command) const {
     if (next.is(TokenKind::colon) || next.is(TokenKind::equal) || next.is(TokenKind::possessive))
         return false;
     if (command.isOfDictionary || command.direct != Command::Direct::required) return true;
+    return mayBeginArgument(command, next);
+}
+
+/// Of a command whose name might be one of the script as well.
+bool CommandParser::mayBeginArgument(const Command& command, const Token& next) {
     switch (next.kind) {
         case TokenKind::identifier:
             return next.is(Word::none) || next.is(Word::notWord) || next.is(Word::my) ||
@@ -81,12 +72,9 @@ NodeId CommandParser::direct(const Command& command) {
         m_tokens.expected("expression");
         return noNode;
     }
-    const bool allowsIn = m_primaries.allowsIn() && !hasParameter(command, "in");
-    const bool before = m_primaries.allowsIn();
-    m_primaries.setAllowsIn(allowsIn);
-    const NodeId value = m_primaries.expressions().expressionBefore(hasParameter(command, "as"));
-    m_primaries.setAllowsIn(before);
-    return value;
+    const ArgumentScope scope(m_context,
+                              {.in = hasParameter(command, "in"), .as = hasParameter(command, "as")});
+    return expression();
 }
 
 bool CommandParser::hasParameter(const Command& command, const Phrase& label) {
@@ -138,8 +126,7 @@ bool CommandParser::truth(const Command& command, std::uint32_t& given, ChildLis
 }
 
 void CommandParser::failTwice(std::string_view label) {
-    m_tokens.fail(errornumber::parameterTwice,
-                  "The " + std::string(label) + " parameter is specified more than once.");
+    m_tokens.fail(errornumber::parameterTwice, givenTwice(label, "parameter"));
 }
 
 /// `default 5`: the first word of labels without the second one.
@@ -161,7 +148,8 @@ NodeId CommandParser::parameterValue(const Parameter& parameter, const Command& 
     if (!parameter.choices.empty()) {
         if (const NodeId node = chosen(parameter); node != noNode || m_tokens.failed()) return node;
     }
-    return m_primaries.expressions().expressionBefore(hasParameter(command, "as"));
+    const ArgumentScope scope(m_context, {.as = hasParameter(command, "as")});
+    return expression();
 }
 
 /// One of the words as text; `noNode` where none of them stands and a value may.
@@ -179,16 +167,11 @@ NodeId CommandParser::chosen(const Parameter& parameter) {
 }
 
 NodeId CommandParser::className() {
-    const NodeId node = m_tree.add(NodeKind::predefined, m_tokens.offset());
-    if (m_tokens.isAtPhrase("unicode text")) m_tokens.advance();
-    const auto name =
-        m_tokens.isAt(TokenKind::identifier) ? findPredefinedName(m_tokens.current()) : std::nullopt;
-    if (!name || predefinedName(*name).kind != PredefinedName::Kind::type) {
-        m_tokens.expected("class name");
-        return node;
-    }
-    m_tree.nodes[node].detail = *name;
-    m_tree.nodes[node].value = m_primaries.nameHere();
+    const std::uint32_t offset = m_tokens.offset();
+    const std::optional<std::uint8_t> index = m_grammar.names.expectClass();
+    if (!index) return noNode;
+    const NodeId node = m_grammar.names.predefined(*index);
+    m_tree.nodes[node].offset = offset;
     return node;
 }
 

@@ -4,20 +4,16 @@
 #include <optional>
 
 #include "platform/script/commands/Command.h"
-#include "platform/script/source/TokenStream.h"
-#include "platform/script/syntax/Node.h"
+#include "platform/script/syntax/SubParser.h"
 
 namespace script {
-
-class PrimaryParser;
 
 /// Reads commands: their name, the direct argument, and parameters in any order.
 ///
 /// command = name [[of] expression] { label ( expression | one of its words | class ) }
-class CommandParser {
+class CommandParser : public SubParser {
   public:
-    CommandParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries)
-        : m_tokens(tokens), m_tree(tree), m_primaries(primaries) {}
+    using SubParser::SubParser;
 
     /// The index of the command that stands here; empty where a name of the same spelling is meant: `round =
     /// 2`.
@@ -26,6 +22,7 @@ class CommandParser {
 
   private:
     bool isMeant(const Command& command) const;
+    static bool mayBeginArgument(const Command& command, const Token& next);
     NodeId direct(const Command& command);
     std::optional<std::uint32_t> parameterHere(const Command& command) const;
     void parameters(const Command& command, ChildList& children, std::uint32_t given = 0);
@@ -36,10 +33,6 @@ class CommandParser {
     NodeId className();
     void refuseIncompleteLabel(const Command& command);
     static bool hasParameter(const Command& command, const Phrase& label);
-
-    TokenStream& m_tokens;
-    Tree& m_tree;
-    PrimaryParser& m_primaries;
 };
 
 }  // namespace script

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/syntax/ElementParser.h"
 
-#include "platform/script/syntax/PrimaryParser.h"
+#include "platform/script/syntax/Grammar.h"
 
 namespace script {
 namespace {
@@ -154,44 +154,54 @@ NodeId ElementParser::ordinalPart(std::uint32_t offset, NodeId index, ElementFor
 /// `beginning of x` is item 1 to look at and another thing to set.
 NodeId ElementParser::endPart() {
     const NodeId node = m_tree.add(NodeKind::propertyOf, m_tokens.offset());
-    m_tree.nodes[node].value = m_primaries.nameHere();
+    m_tree.nodes[node].value = m_grammar.names.nameHere();
     return node;
 }
 
-NodeId ElementParser::kindPart(const Kind& kind) {
-    const std::uint32_t offset = m_tokens.offset();
-    const std::string_view word = m_tokens.current().text;
+NodeId ElementParser::kindPart(const Kind& kind) { return kind.isPlural ? pluralPart(kind) : onePart(kind); }
+
+/// item 1, item 1 thru 2
+NodeId ElementParser::onePart(const Kind& kind) {
+    const NodeId node = make(m_tokens.offset(), kind, ElementForm::index);
     m_tokens.advance(kind.words);
-    if (!kind.isPlural) {
-        const NodeId node = make(offset, kind, ElementForm::index);
-        ChildList children(m_tree, node);
-        children.append(m_primaries.expressions().index());
-        if (m_tokens.accept(Word::thru) || m_tokens.accept(Word::through)) {
-            setForm(node, kind, ElementForm::range);
-            children.append(m_primaries.expressions().index());
-        }
-        return node;
-    }
-    const NodeId node = make(offset, kind, ElementForm::every);
-    const bool isLong = m_tokens.accept(Word::from);
-    if (!isLong && !m_primaries.expressions().isAtIndex()) {
-        if (kind.kind != ElementKind::typed && kind.words == 1) {
-            m_tree.nodes[node].value =
-                elementnode::isBare | (m_tree.names.intern(word) << elementnode::nameShift);
-        }
-        return node;
-    }
-    setForm(node, kind, ElementForm::range);
     ChildList children(m_tree, node);
-    children.append(m_primaries.expressions().index());
-    if (isLong) {
-        if (!m_tokens.accept(Word::to)) m_tokens.expected("“to”");
-    } else if (!m_tokens.accept(Word::thru) && !m_tokens.accept(Word::through)) {
-        m_tokens.expected("“thru”");
+    children.append(m_grammar.primaries.index());
+    if (acceptThru()) {
+        setForm(node, kind, ElementForm::range);
+        children.append(m_grammar.primaries.index());
     }
-    children.append(m_primaries.expressions().index());
     return node;
 }
+
+/// items, items 1 thru 2, items from 1 to 2
+NodeId ElementParser::pluralPart(const Kind& kind) {
+    const std::string_view word = m_tokens.current().text;
+    const NodeId node = make(m_tokens.offset(), kind, ElementForm::every);
+    m_tokens.advance(kind.words);
+    if (m_tokens.isAt(Word::from) || m_grammar.primaries.isAtIndex()) {
+        setForm(node, kind, ElementForm::range);
+        range(node);
+    } else if (kind.kind != ElementKind::typed && kind.words == 1) {
+        m_tree.nodes[node].value =
+            elementnode::isBare | (m_tree.names.intern(word) << elementnode::nameShift);
+    }
+    return node;
+}
+
+/// Its two indices: [from] index ( to | thru | through ) index
+void ElementParser::range(NodeId node) {
+    const bool isLong = m_tokens.accept(Word::from);
+    ChildList children(m_tree, node);
+    children.append(m_grammar.primaries.index());
+    if (isLong) {
+        m_tokens.expect(Word::to);
+    } else if (!acceptThru()) {
+        m_tokens.expect(Word::thru);
+    }
+    children.append(m_grammar.primaries.index());
+}
+
+bool ElementParser::acceptThru() { return m_tokens.accept(Word::thru) || m_tokens.accept(Word::through); }
 
 /// text thru, text from ... to, and `text of x`, which is the text itself
 NodeId ElementParser::textPart() {
@@ -199,19 +209,18 @@ NodeId ElementParser::textPart() {
     const Kind text{ElementKind::text};
     m_tokens.advance();
     if (m_tokens.isAt(Word::of)) return make(offset, text, ElementForm::every);
-    if (m_tokens.accept(Word::from)) {
-        const NodeId node = m_tree.add(NodeKind::textBetween, offset);
-        ChildList children(m_tree, node);
-        children.append(bound());
-        if (!m_tokens.accept(Word::to)) m_tokens.expected("“to”");
-        children.append(bound());
-        return node;
-    }
+    if (m_tokens.accept(Word::from)) return textBetween(offset);
     const NodeId node = make(offset, text, ElementForm::range);
+    range(node);
+    return node;
+}
+
+NodeId ElementParser::textBetween(std::uint32_t offset) {
+    const NodeId node = m_tree.add(NodeKind::textBetween, offset);
     ChildList children(m_tree, node);
-    children.append(m_primaries.expressions().index());
-    if (!m_tokens.accept(Word::thru) && !m_tokens.accept(Word::through)) m_tokens.expected("“thru”");
-    children.append(m_primaries.expressions().index());
+    children.append(bound());
+    m_tokens.expect(Word::to);
+    children.append(bound());
     return node;
 }
 
@@ -220,18 +229,18 @@ NodeId ElementParser::bound() {
     const std::uint32_t offset = m_tokens.offset();
     if (!kind || kind->isPlural) {
         const NodeId node = make(offset, {ElementKind::character}, ElementForm::index);
-        ChildList(m_tree, node).append(m_primaries.expressions().index());
+        ChildList(m_tree, node).append(m_grammar.primaries.index());
         return node;
     }
     return kindPart(*kind);
 }
 
 NodeId ElementParser::withContainer(NodeId node) {
-    const bool found = m_tokens.isAt(Word::of) || (m_primaries.allowsIn() && m_tokens.isAt(Word::in));
+    const bool found = m_tokens.isAt(Word::of) || (!m_context.inIsLabel() && m_tokens.isAt(Word::in));
     if (m_tokens.failed()) return node;
     if (found) {
         m_tokens.advance();
-        setContainer(node, m_primaries.expressions().reference());
+        setContainer(node, m_grammar.expressions.reference());
     } else if (m_tree.at(node).kind == NodeKind::propertyOf) {
         m_tokens.expected("“of”");
     }
@@ -252,9 +261,8 @@ void ElementParser::setContainer(NodeId node, NodeId container) {
 NodeId ElementParser::characterId() {
     const NodeId node = m_tree.add(NodeKind::characterId, m_tokens.offset());
     m_tokens.acceptPhrase("character id");
-    const bool isIndex = m_primaries.expressions().isAtIndex();
-    ChildList(m_tree, node)
-        .append(isIndex ? m_primaries.expressions().index() : m_primaries.expressions().reference());
+    const bool isIndex = m_grammar.primaries.isAtIndex();
+    ChildList(m_tree, node).append(isIndex ? m_grammar.primaries.index() : m_grammar.expressions.reference());
     return node;
 }
 

@@ -3,13 +3,10 @@
 
 #include <optional>
 
-#include "platform/script/source/TokenStream.h"
-#include "platform/script/syntax/Node.h"
+#include "platform/script/syntax/SubParser.h"
 #include "platform/script/values/ElementNames.h"
 
 namespace script {
-
-class PrimaryParser;
 
 /// Reads elements of lists and texts.
 ///
@@ -20,10 +17,9 @@ class PrimaryParser;
 ///           | ( beginning | end )
 /// bound     = kind index | index
 /// ordinal   = first ... tenth | last | front | back | NUMBER ( st | nd | rd | th )
-class ElementParser {
+class ElementParser : public SubParser {
   public:
-    ElementParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries)
-        : m_tokens(tokens), m_tree(tree), m_primaries(primaries) {}
+    using SubParser::SubParser;
 
     bool isAtElement() const;
     /// With its container, which is `it` where none stands.
@@ -52,17 +48,18 @@ class ElementParser {
     NodeId ordinalWord();
     NodeId formWord(ElementForm form);
     NodeId kindPart(const Kind& kind);
+    NodeId onePart(const Kind& kind);
+    NodeId pluralPart(const Kind& kind);
     NodeId endPart();
     NodeId textPart();
+    NodeId textBetween(std::uint32_t offset);
+    bool acceptThru();
+    void range(NodeId node);
     NodeId bound();
     NodeId make(std::uint32_t offset, const Kind& kind, ElementForm form);
     void setForm(NodeId node, const Kind& kind, ElementForm form);
     NodeId withContainer(NodeId node);
     void setContainer(NodeId node, NodeId container);
-
-    TokenStream& m_tokens;
-    Tree& m_tree;
-    PrimaryParser& m_primaries;
 };
 
 }  // namespace script

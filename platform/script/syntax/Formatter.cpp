@@ -8,14 +8,12 @@
 
 #include "platform/script/commands/Command.h"
 #include "platform/script/source/Lexer.h"
+#include "platform/script/source/Trivia.h"
 #include "platform/script/syntax/Parser.h"
 #include "platform/script/values/ElementNames.h"
 
 namespace script {
 namespace {
-
-constexpr std::string_view continuationSign = "¬";
-constexpr std::string_view noBreakSpace = "\xC2\xA0";
 
 /// Something between two tokens that is no blank.
 struct Piece {
@@ -23,18 +21,6 @@ struct Piece {
     std::string_view text;  ///< of a comment, with its signs
     bool isBehindLineEnd;   ///< which stands between the piece and the former one
 };
-
-std::size_t endOfBlockComment(std::string_view text) {
-    std::size_t depth = 0;
-    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
-        const std::string_view two = text.substr(i, 2);
-        if (two != "(*" && two != "*)") continue;
-        depth = two == "(*" ? depth + 1 : depth - 1;
-        ++i;
-        if (depth == 0) return i + 1;
-    }
-    return text.size();
-}
 
 std::string_view withoutBlanksBehind(std::string_view text) {
     const std::size_t last = text.find_last_not_of(" \t");
@@ -52,17 +38,17 @@ std::vector<Piece> piecesOf(std::string_view gap) {
     while (!gap.empty()) {
         std::size_t length = 1;
         if (gap.starts_with("(*")) {
-            length = endOfBlockComment(gap);
+            length = std::min(blockCommentLength(gap), gap.size());
             add(Piece::Kind::comment, gap.substr(0, length));
-        } else if (gap.starts_with("--") || gap.front() == '#') {
-            length = std::min(gap.find_first_of("\r\n"), gap.size());
+        } else if (beginsLineComment(gap)) {
+            length = lineLength(gap);
             add(Piece::Kind::comment, withoutBlanksBehind(gap.substr(0, length)));
         } else if (gap.starts_with(continuationSign)) {
             length = continuationSign.size();
             add(Piece::Kind::continuation, {});
         } else if (gap.starts_with(noBreakSpace)) {
             length = noBreakSpace.size();
-        } else if (gap.front() == '\r' || gap.front() == '\n') {
+        } else if (isLineEnd(gap.front())) {
             isBehindLineEnd = true;
         }
         gap.remove_prefix(length);
@@ -230,8 +216,19 @@ class Layout {
     bool needsBlank(const Token& token) const {
         if (m_needsBlank) return true;
         if (!m_former) return false;
-        const Token& former = *m_former;
-        if (m_isSign) return former.is(token.kind) && token.is(TokenKind::minus);
+        if (m_isSign) return m_former->is(token.kind) && token.is(TokenKind::minus);
+        if (isWrittenAsItWas(token)) return m_hasGap;
+        return wantsBlankBefore(token) && wantsBlankBehind(*m_former);
+    }
+
+    /// A call, and what stands directly behind a number.
+    bool isWrittenAsItWas(const Token& token) const {
+        const bool isCall = token.is(TokenKind::leftParenthesis) && m_former->is(TokenKind::identifier) &&
+                            m_former->is(Word::none);
+        return isCall || (token.is(TokenKind::identifier) && m_former->is(TokenKind::number));
+    }
+
+    bool wantsBlankBefore(const Token& token) const {
         switch (token.kind) {
             case TokenKind::rightParenthesis:
             case TokenKind::rightBrace:
@@ -240,16 +237,12 @@ class Layout {
                 return false;
             case TokenKind::colon:
                 return m_isProperty;
-            case TokenKind::leftParenthesis:
-                // A call is written as it was.
-                if (former.is(TokenKind::identifier) && former.is(Word::none)) return m_hasGap;
-                break;
-            case TokenKind::identifier:
-                if (former.is(TokenKind::number)) return m_hasGap;
-                break;
             default:
-                break;
+                return true;
         }
+    }
+
+    bool wantsBlankBehind(const Token& former) const {
         if (former.is(TokenKind::colon)) return m_isProperty;
         return !former.is(TokenKind::leftParenthesis) && !former.is(TokenKind::leftBrace);
     }
@@ -275,7 +268,6 @@ class Layout {
 }  // namespace
 
 std::variant<std::string, ScriptError> formatted(std::string_view source) {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     if (source.starts_with(byteOrderMark)) source.remove_prefix(byteOrderMark.size());
     Parser parser(source);
     const Tree& tree = parser.parse();

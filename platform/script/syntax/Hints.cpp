@@ -5,6 +5,8 @@
 #include <array>
 #include <vector>
 
+#include "platform/script/source/Trivia.h"
+
 namespace script {
 namespace {
 
@@ -12,11 +14,10 @@ namespace {
 std::string_view lineOf(const ScriptError& error, std::string_view source) {
     std::size_t begin = 0;
     for (std::uint32_t line = 1; line < error.location.line; ++line) {
-        begin = std::min(source.find_first_of("\r\n", begin), source.size());
-        begin += source.substr(begin, 2) == "\r\n" ? 2 : 1;
-        begin = std::min(begin, source.size());
+        begin += lineLength(source.substr(begin));
+        begin = std::min(begin + lineEndLength(source.substr(begin)), source.size());
     }
-    const std::string_view line = source.substr(begin, source.find_first_of("\r\n", begin) - begin);
+    const std::string_view line = source.substr(begin, lineLength(source.substr(begin)));
     return line.substr(std::min(line.find_first_not_of(" \t"), line.size()));
 }
 

@@ -153,4 +153,17 @@ const OperatorRow* binaryOperator(const TokenStream& tokens) {
     return row;
 }
 
+bool isOperatorAhead(const TokenStream& tokens) {
+    const Token& token = tokens.ahead();
+    if (token.is(Word::as)) return true;
+    // What may begin an expression, or is a verb that stands behind others only.
+    const bool isDoubtful = token.is(TokenKind::plus) || token.is(TokenKind::minus) || token.is(Word::end) ||
+                            token.is(Word::begin) || token.is(Word::contain);
+    if (isDoubtful) return false;
+    if (!token.is(TokenKind::identifier)) return operatorIndex.ofSign(token.kind) != nullptr;
+    const OperatorRow* row = operatorIndex.firstOf(token.hash);
+    while (row != nullptr && !row->spelling.hasWord(0, token)) row = operatorIndex.nextOf(*row);
+    return row != nullptr;
+}
+
 }  // namespace script

@@ -31,4 +31,7 @@ inline constexpr int notLevel = 30;
 /// The operator with the most words that stands at the current token; null if none does.
 const OperatorRow* binaryOperator(const TokenStream& tokens);
 
+/// Whether the token behind the current one begins an operator, or is `as`, and can begin no expression.
+bool isOperatorAhead(const TokenStream& tokens);
+
 }  // namespace script

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/script/source/Scoped.h"
+#include "platform/script/syntax/Forbidden.h"
+#include "platform/script/syntax/Grammar.h"
+#include "platform/script/syntax/Operators.h"
 
 namespace script {
 namespace {
@@ -21,9 +23,6 @@ constexpr auto partWords = std::to_array<PartWord>({{"number", ErrorPart::number
 
 }  // namespace
 
-StatementParser::StatementParser(TokenStream& tokens, Tree& tree, PrimaryParser& primaries)
-    : m_tokens(tokens), m_tree(tree), m_primaries(primaries), m_blocks(tokens, tree, primaries, *this) {}
-
 /// `end of x` is no end.
 bool StatementParser::isAtBlockEnd() const {
     if (m_tokens.isAt(TokenKind::endOfScript) || m_tokens.isAt(Word::elseWord)) return true;
@@ -33,23 +32,19 @@ bool StatementParser::isAtBlockEnd() const {
 
 NodeId StatementParser::block() {
     const NodeId node = m_tree.add(NodeKind::block, m_tokens.offset());
-    m_tree.blocks.push_back({m_tokens.offset(), 1});
+    const BlockScope scope(m_context);
     ChildList children(m_tree, node);
     while (!isAtBlockEnd()) {
         if (m_tokens.accept(TokenKind::endOfLine)) continue;
         children.append(statement());
         endStatement();
     }
-    m_tree.blocks.push_back({m_tokens.offset(), -1});
     return node;
 }
 
 void StatementParser::endStatement() {
-    if (m_tokens.isAtLineEnd()) {
-        m_tokens.accept(TokenKind::endOfLine);
-    } else {
-        m_tokens.expected("end of line");
-    }
+    m_tokens.expectLineEnd();
+    m_tokens.accept(TokenKind::endOfLine);
 }
 
 bool StatementParser::acceptEnd(Word word) {
@@ -65,7 +60,7 @@ bool StatementParser::acceptEnd(Word word) {
 }
 
 NodeId StatementParser::statement() {
-    const Nesting nesting(m_tokens);
+    const NestingScope nesting(m_context);
     m_tokens.skipFiller();
     switch (m_tokens.current().word) {
         case Word::set:
@@ -90,24 +85,12 @@ NodeId StatementParser::statement() {
         case Word::use:
         case Word::script:
         case Word::transaction:
-            if (refuseForbidden()) return noNode;
+            if (refuseForbiddenStatement(m_tokens)) return noNode;
             return evaluate();
         default:
-            if (m_blocks.isAtBlock()) return m_blocks.statement();
+            if (m_grammar.blocks.isAtBlock()) return m_grammar.blocks.statement();
             return evaluate();
     }
-}
-
-bool StatementParser::refuseForbidden() {
-    if (m_tokens.isAt(Word::use)) {
-        m_tokens.fail(errornumber::syntax, "“use” is refused: a macro can press keys and nothing else.");
-        return true;
-    }
-    if (m_tokens.isAt(Word::script) && m_tokens.ahead().is(TokenKind::identifier)) {
-        m_tokens.fail(errornumber::syntax, "“script” is refused: a macro is one script.");
-        return true;
-    }
-    return false;
 }
 
 NodeId StatementParser::set() {
@@ -118,8 +101,8 @@ NodeId StatementParser::set() {
     const NodeId node = m_tree.add(NodeKind::set, offset);
     ChildList children(m_tree, node);
     children.append(target());
-    if (!m_tokens.accept(Word::to)) m_tokens.expected("“to”");
-    children.append(m_primaries.expressions().expression());
+    m_tokens.expect(Word::to);
+    children.append(expression());
     return node;
 }
 
@@ -130,15 +113,14 @@ NodeId StatementParser::setClipboard(std::uint32_t offset) {
     ChildList(m_tree, statement).append(command);
     m_tree.nodes[command].detail = 1;
     m_tokens.acceptPhrase("clipboard to");
-    ChildList(m_tree, command).append(m_primaries.expressions().expression());
+    ChildList(m_tree, command).append(expression());
     return statement;
 }
 
 NodeId StatementParser::copy(Word preposition) {
-    const NodeId node = m_tree.add(NodeKind::copy, m_tokens.offset());
-    m_tokens.advance();
-    const NodeId value = m_primaries.expressions().expression();
-    if (!m_tokens.accept(preposition)) m_tokens.expected(preposition == Word::to ? "“to”" : "“into”");
+    const NodeId node = take(NodeKind::copy);
+    const NodeId value = expression();
+    m_tokens.expect(preposition);
     ChildList children(m_tree, node);
     children.append(target());
     children.append(value);
@@ -147,24 +129,32 @@ NodeId StatementParser::copy(Word preposition) {
 
 NodeId StatementParser::target() {
     m_tokens.skipFiller();
-    const Token first = m_tokens.current();
+    const bool isPattern = m_tokens.isAt(TokenKind::leftBrace);
     const std::string found = m_tokens.describe();
     const std::uint32_t offset = m_tokens.offset();
-    m_primaries.setReadsTarget(true);
-    const NodeId node = m_primaries.expressions().reference();
-    m_primaries.setReadsTarget(false);
+    const NodeId node = reference();
     if (m_tokens.failed()) return node;
     if (!isSettable(node)) {
-        m_tokens.fail(errornumber::syntax, "Expected variable name but found " + found + ".", offset);
-    } else if (first.is(TokenKind::leftBrace)) {
-        for (NodeId item = m_tree.at(node).firstChild; item != noNode; item = m_tree.at(item).nextSibling) {
-            const NodeId inner = m_tree.at(item).kind == NodeKind::field ? m_tree.at(item).firstChild : item;
-            if (isSettable(inner)) continue;
-            m_tokens.refuseTarget(m_tree.at(inner).offset);
-            break;
-        }
+        m_tokens.refuseTarget(found, offset);
+    } else if (isPattern) {
+        refuseItems(node);
     }
     return node;
+}
+
+NodeId StatementParser::reference() {
+    const TargetScope scope(m_context);
+    return m_grammar.expressions.reference();
+}
+
+/// Of a list or record of targets, those that are none.
+void StatementParser::refuseItems(NodeId list) {
+    for (NodeId item = m_tree.at(list).firstChild; item != noNode; item = m_tree.at(item).nextSibling) {
+        const NodeId inner = m_tree.at(item).kind == NodeKind::field ? m_tree.at(item).firstChild : item;
+        if (isSettable(inner)) continue;
+        const std::uint32_t offset = m_tree.at(inner).offset;
+        return m_tokens.refuseTarget(m_tokens.describeAt(offset), offset);
+    }
 }
 
 bool StatementParser::isSettable(NodeId node) const {
@@ -184,33 +174,16 @@ bool StatementParser::isSettable(NodeId node) const {
     }
 }
 
-bool StatementParser::isOperatorAhead() const {
-    constexpr std::array signs{TokenKind::ampersand, TokenKind::equal,        TokenKind::notEqual,
-                               TokenKind::less,      TokenKind::lessEqual,    TokenKind::greater,
-                               TokenKind::star,      TokenKind::greaterEqual, TokenKind::slash,
-                               TokenKind::caret};
-    static constexpr std::array<Phrase, 19> words{
-        "is",     "isn't",  "as",    "and",  "or",    "contains", "does", "doesn't", "equals", "equal",
-        "begins", "starts", "start", "ends", "comes", "div",      "mod",  "greater", "less"};
-    const Token& next = m_tokens.ahead();
-    if (std::find(signs.begin(), signs.end(), next.kind) != signs.end()) return true;
-    return next.is(TokenKind::identifier) && std::any_of(words.begin(), words.end(), [&](const Phrase& word) {
-               return m_tokens.isAtPhrase(word, 1);
-           });
-}
-
 /// `return` is the text constant where an operator follows that begins no expression.
 NodeId StatementParser::returnValue() {
-    if (isOperatorAhead()) return evaluate();
-    const NodeId node = m_tree.add(NodeKind::returnValue, m_tokens.offset());
-    m_tokens.advance();
-    if (!m_tokens.isAtLineEnd()) ChildList(m_tree, node).append(m_primaries.expressions().expression());
+    if (isOperatorAhead(m_tokens)) return evaluate();
+    const NodeId node = take(NodeKind::returnValue);
+    if (!m_tokens.isAtLineEnd()) ChildList(m_tree, node).append(expression());
     return node;
 }
 
 NodeId StatementParser::raise() {
-    const NodeId node = m_tree.add(NodeKind::raise, m_tokens.offset());
-    m_tokens.advance();
+    const NodeId node = take(NodeKind::raise);
     ChildList children(m_tree, node);
     errorParts(children, false);
     return node;
@@ -220,8 +193,7 @@ void StatementParser::errorParts(ChildList& children, bool areTargets) {
     const auto add = [&](ErrorPart part) {
         const NodeId node = m_tree.add(NodeKind::errorPart, m_tokens.offset());
         m_tree.nodes[node].detail = static_cast<std::uint8_t>(part);
-        ChildList(m_tree, node)
-            .append(areTargets ? m_blocks.errorTarget() : m_primaries.expressions().expression());
+        ChildList(m_tree, node).append(areTargets ? m_grammar.blocks.errorTarget() : expression());
         children.append(node);
     };
     const auto partHere = [&] {
@@ -240,7 +212,7 @@ void StatementParser::errorParts(ChildList& children, bool areTargets) {
 /// exit = exit [repeat], inside a loop
 NodeId StatementParser::exitRepeat() {
     const NodeId node = m_tree.add(NodeKind::exitRepeat, m_tokens.offset());
-    if (m_surroundings.loops == 0) {
+    if (!m_context.isInLoop()) {
         m_tokens.fail(errornumber::exitOutsideRepeat, "Exit statement was not in a repeat loop.");
     }
     m_tokens.advance();
@@ -253,15 +225,15 @@ NodeId StatementParser::declaration(NodeKind kind) {
     m_tokens.advance();
     ChildList names(m_tree, node);
     do {
-        if (!m_primaries.expectName()) return node;
-        names.append(m_primaries.plainName());
+        if (!m_grammar.names.expectName()) return node;
+        names.append(m_grammar.names.plainName());
     } while (m_tokens.accept(TokenKind::comma));
     return node;
 }
 
 NodeId StatementParser::evaluate() {
     const NodeId node = m_tree.add(NodeKind::evaluate, m_tokens.offset());
-    ChildList(m_tree, node).append(m_primaries.expressions().expression());
+    ChildList(m_tree, node).append(expression());
     return node;
 }
 
