@@ -4,8 +4,7 @@
 #include <array>
 #include <vector>
 
-#include "platform/script/commands/Advice.h"
-#include "platform/script/commands/Command.h"
+#include "platform/script/code/CommandGenerator.h"
 #include "platform/script/syntax/Operators.h"
 
 namespace script {
@@ -17,6 +16,25 @@ bool isShortCircuit(const Node& node) {
     return node.kind == NodeKind::binary &&
            (operatorOf(node) == BinaryOperator::both || operatorOf(node) == BinaryOperator::either);
 }
+
+/// A node without parts, whose value is the operand.
+struct Leaf {
+    NodeKind kind;
+    Operation operation;
+    std::uint8_t detail = 0;
+};
+
+constexpr auto leaves = std::to_array<Leaf>({
+    {NodeKind::integer, Operation::pushInteger},
+    {NodeKind::text, Operation::pushText},
+    {NodeKind::truth, Operation::pushTruth},
+    {NodeKind::real, Operation::pushReal},
+    {NodeKind::missingValue, Operation::pushMissing},
+    {NodeKind::modifierDown, Operation::pushModifier, 1},
+    {NodeKind::modifierKey, Operation::pushModifier, 0},
+    {NodeKind::result, Operation::pushResult},
+    {NodeKind::delimiters, Operation::pushDelimiters},
+});
 
 }  // namespace
 
@@ -105,7 +123,7 @@ void ExpressionGenerator::behindFirstPart(const Node& node) {
         case NodeKind::callTo:
             return call(m_tree.at(m_tree.at(node.firstChild).nextSibling), true);
         case NodeKind::command:
-            return command(node);
+            return CommandGenerator(m_out, *this).command(node);
         default:
             return binary(node);
     }
@@ -113,43 +131,19 @@ void ExpressionGenerator::behindFirstPart(const Node& node) {
 
 /// What one instruction gives.
 bool ExpressionGenerator::leaf(const Node& node) {
-    switch (node.kind) {
-        case NodeKind::integer:
-            m_out.emit(Operation::pushInteger, node, node.value);
-            return true;
-        case NodeKind::real:
-            m_out.emit(Operation::pushReal, node, node.value);
-            return true;
-        case NodeKind::text:
-            m_out.emit(Operation::pushText, node, node.value);
-            return true;
-        case NodeKind::truth:
-            m_out.emit(Operation::pushTruth, node, node.value);
-            return true;
-        case NodeKind::missingValue:
-            m_out.emit(Operation::pushMissing, node);
-            return true;
-        case NodeKind::modifierDown:
-            m_out.emit(Operation::pushModifier, node, node.value, 1);
-            return true;
-        case NodeKind::modifierKey:
-            m_out.emit(Operation::pushModifier, node, node.value, 0);
-            return true;
-        case NodeKind::name:
-            load(node.value, node);
-            return true;
-        case NodeKind::predefined:
-            predefined(node);
-            return true;
-        case NodeKind::result:
-            m_out.emit(Operation::pushResult, node);
-            return true;
-        case NodeKind::delimiters:
-            m_out.emit(Operation::pushDelimiters, node);
-            return true;
-        default:
-            return false;
+    if (node.kind == NodeKind::name) {
+        load(node.value, node);
+        return true;
     }
+    if (node.kind == NodeKind::predefined) {
+        predefined(node);
+        return true;
+    }
+    const auto* row = std::find_if(leaves.begin(), leaves.end(),
+                                   [&](const Leaf& candidate) { return candidate.kind == node.kind; });
+    if (row == leaves.end()) return false;
+    m_out.emit(row->operation, node, node.value, row->detail);
+    return true;
 }
 
 /// What `tell` may address.
@@ -274,68 +268,6 @@ void ExpressionGenerator::call(const Node& node, bool hasTarget) {
     auto& calls = m_out.program().calls;
     calls.push_back(std::move(call));
     m_out.emit(Operation::call, node, static_cast<std::uint32_t>(calls.size() - 1), hasTarget ? 1 : 0);
-}
-
-/// Arguments lie on the stack in the order of the command's table, the direct one first.
-void ExpressionGenerator::command(const Node& node) {
-    const Command& command = *commands()[node.value];
-    std::uint32_t mask = 0;
-    NodeId next = node.firstChild;
-    std::array<NodeId, Command::maxParameters> given{};
-    if (node.detail != 0) {
-        mask = 1;
-        const std::uint32_t start = m_out.position();
-        expression(next);
-        const bool types = command.plays == Command::Plays::texts || command.plays == Command::Plays::keys;
-        if (types) planTexts(start);
-        warnOf(command, next);
-        next = m_tree.at(next).nextSibling;
-    }
-    for (; next != noNode; next = m_tree.at(next).nextSibling) given[m_tree.at(next).value] = next;
-    for (std::uint32_t i = 0; i < command.parameters.size(); ++i) {
-        if (given[i] == noNode) continue;
-        const NodeId value = m_tree.at(given[i]).firstChild;
-        if (command.plays != Command::Plays::nothing) warnOfModifiers(value);
-        expression(value);
-        mask |= 2U << i;
-    }
-    m_out.emit(Operation::command, node, node.value | (mask << 8U));
-}
-
-/// The literal texts of what was just emitted.
-void ExpressionGenerator::planTexts(std::uint32_t from) {
-    Program& program = m_out.program();
-    for (std::uint32_t i = from; i < m_out.position(); ++i) {
-        const Instruction& instruction = program.instructions[i];
-        if (instruction.operation != Operation::pushText) continue;
-        program.typedTexts.push_back(program.texts[instruction.operand].str());
-    }
-}
-
-void ExpressionGenerator::warnOf(const Command& command, NodeId direct) {
-    if (command.plays == Command::Plays::codes || command.plays == Command::Plays::keys) warnOfCodes(direct);
-}
-
-void ExpressionGenerator::warnOfCodes(NodeId codes) {
-    const Node& node = m_tree.at(codes);
-    if (node.kind == NodeKind::integer) {
-        if (auto advice = codeAdvice(node.value); !advice.empty()) m_out.warn(node, std::move(advice));
-    } else if (node.kind == NodeKind::list) {
-        for (NodeId item = node.firstChild; item != noNode; item = m_tree.at(item).nextSibling) {
-            warnOfCodes(item);
-        }
-    }
-}
-
-void ExpressionGenerator::warnOfModifiers(NodeId modifiers) {
-    const Node& node = m_tree.at(modifiers);
-    if (node.kind == NodeKind::modifierKey) {
-        m_out.warn(node, modifierAdvice({node.value, false}));
-    } else if (node.kind == NodeKind::list) {
-        for (NodeId item = node.firstChild; item != noNode; item = m_tree.at(item).nextSibling) {
-            warnOfModifiers(item);
-        }
-    }
 }
 
 void ExpressionGenerator::assign(NodeId target, const Node& statement) {

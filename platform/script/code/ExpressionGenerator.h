@@ -7,8 +7,6 @@
 
 namespace script {
 
-struct Command;
-
 /// Emits code for expressions, which leaves the value on the stack, and for setting, which takes it off.
 ///
 /// A line may chain as many operators, coercions and members as fit into a script. Each holds the one before
@@ -44,11 +42,6 @@ class ExpressionGenerator {
     void textBetween(const Node& node);
     void referenceTo(const Node& node);
     void call(const Node& node, bool hasTarget);
-    void command(const Node& node);
-    void planTexts(std::uint32_t from);
-    void warnOf(const Command& command, NodeId direct);
-    void warnOfCodes(NodeId codes);
-    void warnOfModifiers(NodeId modifiers);
 
     void assignElement(const Node& node, const Node& statement);
     void assignPattern(const Node& node, const Node& statement);

@@ -8,6 +8,45 @@
 
 namespace script {
 
+/// A loop while its code is emitted: at its end, all jumps out of it lead there.
+class StatementGenerator::LoopScope {
+  public:
+    explicit LoopScope(StatementGenerator& generator)
+        : m_generator(generator),
+          m_outerExits(std::exchange(generator.m_exits, {})),
+          m_undoneOutside(generator.m_undoneOutsideLoop, generator.m_undone.size()) {}
+    ~LoopScope() {
+        for (const std::uint32_t exit : m_generator.m_exits) m_generator.m_out.land(exit);
+        m_generator.m_exits = std::move(m_outerExits);
+    }
+    LoopScope(const LoopScope&) = delete;
+    LoopScope& operator=(const LoopScope&) = delete;
+
+  private:
+    StatementGenerator& m_generator;
+    std::vector<std::uint32_t> m_outerExits;
+    Scoped<std::size_t> m_undoneOutside;
+};
+
+/// What is begun here is undone at the end of the scope, and by jumps out of a loop around it.
+class StatementGenerator::UndoneScope {
+  public:
+    UndoneScope(StatementGenerator& generator, const Node& node, Operation undo)
+        : m_generator(generator), m_node(node) {
+        m_generator.m_undone.push_back(undo);
+    }
+    ~UndoneScope() {
+        m_generator.m_out.emit(m_generator.m_undone.back(), m_node);
+        m_generator.m_undone.pop_back();
+    }
+    UndoneScope(const UndoneScope&) = delete;
+    UndoneScope& operator=(const UndoneScope&) = delete;
+
+  private:
+    StatementGenerator& m_generator;
+    const Node& m_node;
+};
+
 void StatementGenerator::statements(NodeId first) {
     for (NodeId id = first; id != noNode; id = m_tree.at(id).nextSibling) statement(id);
 }
@@ -54,17 +93,11 @@ void StatementGenerator::statement(NodeId id) {
     }
 }
 
-void StatementGenerator::close(const Node& node) {
-    m_out.emit(m_open.back(), node);
-    m_open.pop_back();
-}
-
 void StatementGenerator::tell(const Node& node) {
     m_expressions.expression(node.firstChild);
     m_out.emit(Operation::pushTarget, m_tree.at(node.firstChild));
-    open(Operation::popTarget);
+    const UndoneScope target(*this, node, Operation::popTarget);
     block(m_tree.at(node.firstChild).nextSibling);
-    close(node);
 }
 
 void StatementGenerator::ifThen(const Node& node) {
@@ -84,34 +117,36 @@ void StatementGenerator::ifThen(const Node& node) {
     for (const std::uint32_t end : ends) m_out.land(end);
 }
 
-/// The body and the jump back to its start; all exits lead behind it.
+/// The body and the jump back to its start.
 void StatementGenerator::loop(const Node& node, NodeId body, std::uint32_t start) {
-    const Scoped<std::size_t> openInLoop(m_openInLoop, m_open.size());
     block(body);
     m_out.emit(Operation::jump, node, start);
 }
 
-void StatementGenerator::repeatForEver(const Node& node) {
-    std::vector<std::uint32_t> outerExits = std::exchange(m_exits, {});
-    loop(node, node.firstChild, m_out.position());
-    for (const std::uint32_t exit : m_exits) m_out.land(exit);
-    m_exits = std::move(outerExits);
+/// What a loop kept on the stack: whichever way the loop ends, it is dropped there.
+void StatementGenerator::drop(const Node& node, int count) {
+    for (int i = 0; i < count; ++i) m_out.emit(Operation::drop, node);
 }
 
-/// The counter lies on the stack while the loop runs; whichever way the loop ends, it is dropped there.
+void StatementGenerator::repeatForEver(const Node& node) {
+    const LoopScope scope(*this);
+    loop(node, node.firstChild, m_out.position());
+}
+
+/// The counter lies on the stack while the loop runs.
 void StatementGenerator::repeatTimes(const Node& node) {
-    std::vector<std::uint32_t> outerExits = std::exchange(m_exits, {});
-    wholeNumber(node.firstChild);
-    const std::uint32_t start = m_out.position();
-    m_exits.push_back(m_out.emitJump(Operation::countDown, node));
-    loop(node, m_tree.at(node.firstChild).nextSibling, start);
-    for (const std::uint32_t exit : m_exits) m_out.land(exit);
-    m_exits = std::move(outerExits);
-    m_out.emit(Operation::drop, node);
+    {
+        const LoopScope scope(*this);
+        wholeNumber(node.firstChild);
+        const std::uint32_t start = m_out.position();
+        m_exits.push_back(m_out.emitJump(Operation::countDown, node));
+        loop(node, m_tree.at(node.firstChild).nextSibling, start);
+    }
+    drop(node, 1);
 }
 
 void StatementGenerator::repeatWhile(const Node& node) {
-    std::vector<std::uint32_t> outerExits = std::exchange(m_exits, {});
+    const LoopScope scope(*this);
     const std::uint32_t start = m_out.position();
     const Node& condition = m_tree.at(node.firstChild);
     m_expressions.expression(node.firstChild);
@@ -125,8 +160,6 @@ void StatementGenerator::repeatWhile(const Node& node) {
         m_exits.push_back(leave);
     }
     loop(node, condition.nextSibling, start);
-    for (const std::uint32_t exit : m_exits) m_out.land(exit);
-    m_exits = std::move(outerExits);
 }
 
 void StatementGenerator::wholeNumber(NodeId id) {
@@ -136,7 +169,19 @@ void StatementGenerator::wholeNumber(NodeId id) {
 
 /// The next number, the last one and the step lie on the stack.
 void StatementGenerator::repeatRange(const Node& node) {
-    std::vector<std::uint32_t> outerExits = std::exchange(m_exits, {});
+    const NodeId body = range(node);
+    {
+        const LoopScope scope(*this);
+        const std::uint32_t start = m_out.position();
+        m_exits.push_back(m_out.emitJump(Operation::nextInRange, node));
+        m_expressions.assignName(node.value, node);
+        loop(node, body, start);
+    }
+    drop(node, 3);
+}
+
+/// From, to and step; the body behind them.
+NodeId StatementGenerator::range(const Node& node) {
     const NodeId from = node.firstChild;
     const NodeId to = m_tree.at(from).nextSibling;
     NodeId body = m_tree.at(to).nextSibling;
@@ -149,41 +194,36 @@ void StatementGenerator::repeatRange(const Node& node) {
         m_out.emit(Operation::pushInteger, node, 1);
     }
     m_out.emit(Operation::beginRange, node);
-    const std::uint32_t start = m_out.position();
-    m_exits.push_back(m_out.emitJump(Operation::nextInRange, node));
-    m_expressions.assignName(node.value, node);
-    loop(node, body, start);
-    for (const std::uint32_t exit : m_exits) m_out.land(exit);
-    m_exits = std::move(outerExits);
-    for (int i = 0; i < 3; ++i) m_out.emit(Operation::drop, node);
+    return body;
 }
 
 /// The list, how many items it had, and how many are done lie on the stack.
 void StatementGenerator::repeatIn(const Node& node) {
-    std::vector<std::uint32_t> outerExits = std::exchange(m_exits, {});
     m_expressions.expression(node.firstChild);
     m_out.emit(Operation::beginList, m_tree.at(node.firstChild));
-    const std::uint32_t start = m_out.position();
-    m_exits.push_back(m_out.emitJump(Operation::nextInList, node));
-    m_expressions.assignName(node.value, node);
-    loop(node, m_tree.at(node.firstChild).nextSibling, start);
-    for (const std::uint32_t exit : m_exits) m_out.land(exit);
-    m_exits = std::move(outerExits);
-    for (int i = 0; i < 3; ++i) m_out.emit(Operation::drop, node);
+    {
+        const LoopScope scope(*this);
+        const std::uint32_t start = m_out.position();
+        m_exits.push_back(m_out.emitJump(Operation::nextInList, node));
+        m_expressions.assignName(node.value, node);
+        loop(node, m_tree.at(node.firstChild).nextSibling, start);
+    }
+    drop(node, 3);
 }
 
 /// What was begun inside the loop is undone first.
 void StatementGenerator::exitRepeat(const Node& node) {
-    for (std::size_t i = m_open.size(); i > m_openInLoop; --i) m_out.emit(m_open[i - 1], node);
+    for (std::size_t i = m_undone.size(); i > m_undoneOutsideLoop; --i) m_out.emit(m_undone[i - 1], node);
     m_exits.push_back(m_out.emitJump(Operation::jump, node));
 }
 
 void StatementGenerator::tryBlock(const Node& node) {
     const NodeId body = node.firstChild;
     const std::uint32_t begin = m_out.emitJump(Operation::pushTry, node);
-    open(Operation::popTry);
-    block(body);
-    close(node);
+    {
+        const UndoneScope attempt(*this, node, Operation::popTry);
+        block(body);
+    }
     const std::uint32_t end = m_out.emitJump(Operation::jump, node);
     m_out.land(begin);
     const NodeId handler = m_tree.at(body).nextSibling;
@@ -275,9 +315,8 @@ void StatementGenerator::declare(const Node& node) {
 
 void StatementGenerator::considering(const Node& node) {
     m_out.emit(Operation::pushAttributes, node, node.value);
-    open(Operation::popAttributes);
+    const UndoneScope attributes(*this, node, Operation::popAttributes);
     block(node.firstChild);
-    close(node);
 }
 
 void StatementGenerator::timeout(const Node& node) {

@@ -21,11 +21,16 @@ class StatementGenerator {
     void tell(const Node& node);
     void ifThen(const Node& node);
     void block(NodeId id) { statements(m_tree.at(id).firstChild); }
+    class LoopScope;
+    class UndoneScope;
+
     void loop(const Node& node, NodeId body, std::uint32_t start);
+    void drop(const Node& node, int count);
     void repeatForEver(const Node& node);
     void repeatTimes(const Node& node);
     void repeatWhile(const Node& node);
     void repeatRange(const Node& node);
+    NodeId range(const Node& node);
     void repeatIn(const Node& node);
     void wholeNumber(NodeId id);
     void exitRepeat(const Node& node);
@@ -40,17 +45,15 @@ class StatementGenerator {
     void considering(const Node& node);
     void timeout(const Node& node);
 
-    /// What has to be undone by a jump out of the loop.
-    void open(Operation undo) { m_open.push_back(undo); }
-    void close(const Node& node);
-
     Emitter& m_out;
     const Tree& m_tree;
     ExpressionGenerator m_expressions;
     /// Jumps out of the innermost loop, whose target is not known yet.
     std::vector<std::uint32_t> m_exits;
-    std::vector<Operation> m_open;
-    std::size_t m_openInLoop = 0;
+    /// What is begun here, by the operations that undo it; a jump out of the loop undoes what stands behind
+    /// the first so many.
+    std::vector<Operation> m_undone;
+    std::size_t m_undoneOutsideLoop = 0;
 };
 
 }  // namespace script

@@ -5,8 +5,8 @@
 
 namespace script {
 
-// What AppleScript has and scripts may not do here. People pass macros on to each other: a macro presses keys;
-// it does not run programs.
+// What AppleScript has and scripts may not do here. People pass macros on to each other: a macro presses
+// keys; it does not run programs.
 
 /// Fails where a command stands that is forbidden: `do shell script`.
 bool refuseForbiddenCommand(TokenStream& tokens);
