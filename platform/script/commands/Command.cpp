@@ -34,6 +34,13 @@ class CommandIndex {
 
 }  // namespace
 
+const Value* Arguments::at(unsigned bit) const {
+    if ((m_mask & (1U << bit)) == 0) return nullptr;
+    std::size_t index = 0;
+    for (unsigned i = 0; i < bit; ++i) index += (m_mask >> i) & 1U;
+    return m_values + index;
+}
+
 const std::vector<const Command*>& commands() {
     static const std::vector<const Command*> all{
         &keyCodeCommand(),        &keystrokeCommand(),    &keyDownCommand(),

@@ -115,13 +115,6 @@ void enter(Execution& run, const Instruction& here) {
 
 }  // namespace
 
-const Value* Arguments::at(unsigned bit) const {
-    if ((m_mask & (1U << bit)) == 0) return nullptr;
-    std::size_t index = 0;
-    for (unsigned i = 0; i < bit; ++i) index += (m_mask >> i) & 1U;
-    return m_values + index;
-}
-
 void addCallOperations(OperationTable& table) {
     const auto add = [&](Operation operation, Perform perform) {
         table[static_cast<std::size_t>(operation)] = perform;
