@@ -8,6 +8,7 @@
 #include "Table.h"
 #include "cli/Play.h"
 #include "display/NestedServers.h"
+#include "support/Keys.h"
 #include "support/Terminal.h"
 
 namespace {
@@ -16,7 +17,6 @@ constexpr int rounds = 10;
 /// Escape counts when it has been held so long.
 constexpr double held = 0.3;
 constexpr double aim = 0.5;
-constexpr std::uint8_t escape = 9;
 
 double secondsToEnd(const std::string& script) {
     const NestedServers servers;
@@ -24,7 +24,7 @@ double secondsToEnd(const std::string& script) {
     Play play(servers.display(), script);
     if (!eventually([&] { return !terminal.typed().empty(); })) throw std::runtime_error(play.output());
     const auto pressed = std::chrono::steady_clock::now();
-    servers.user().press(escape);
+    servers.user().press(xkey::escape);
     const bool ended = eventually([&] {
         servers.finish();
         return !play.program().isRunning();

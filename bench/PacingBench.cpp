@@ -6,22 +6,22 @@
 
 #include "Player.h"
 #include "Table.h"
+#include "support/Keys.h"
 #include "support/XServer.h"
 
 namespace {
 
 constexpr int strokes = 1000;
 constexpr double pauseSeconds = 0.01;
-constexpr std::uint32_t keyA = 0;
 
 double secondsOfOurs(const std::string& display) {
     Player player(display);
     const auto session = player.run();
     // The first stroke takes the keyboard over and starts the guard; the pace begins after it.
-    expectGoing(session->stroke(keyA, 0));
+    expectGoing(session->stroke(key::a, 0));
     return secondsOf([&] {
         for (int stroke = 0; stroke < strokes; ++stroke) {
-            expectGoing(session->stroke(keyA, 0));
+            expectGoing(session->stroke(key::a, 0));
             expectGoing(session->pause(pauseSeconds));
         }
     });

@@ -6,12 +6,11 @@
 #include "cli/Play.h"
 #include "display/KeyboardProbe.h"
 #include "display/NestedServers.h"
+#include "support/Keys.h"
 #include "support/Terminal.h"
 
 namespace {
 
-/// X key code.
-constexpr std::uint8_t escape = 9;
 /// Escape counts when it has been held for 0.3 s, and then within 0.5 s; the rest is for machines that have
 /// more to do.
 constexpr std::chrono::seconds generous{5};
@@ -44,9 +43,9 @@ TEST_P(EscapeTest, aHeldEscapeEndsTheScriptAndLeavesNoKeyDown) {
     Play play(servers.display(), GetParam().script);
     ASSERT_EQ(terminal.typed(1).substr(0, 1), "a") << play.output();
     ASSERT_TRUE(eventually([&] { return (probe.held() != before) == GetParam().holdsKeys; }));
-    servers.user().press(escape);
+    servers.user().press(xkey::escape);
     EXPECT_TRUE(ends(play.program()));
-    servers.user().release(escape);
+    servers.user().release(xkey::escape);
     servers.finish();
     EXPECT_EQ(play.program().wait(), 1);
     EXPECT_NE(play.output().find("execution error: User canceled. (-128)"), std::string::npos)

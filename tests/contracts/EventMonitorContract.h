@@ -9,31 +9,30 @@
 class EventMonitorContract : public KeyboardContract {};
 
 TEST_P(EventMonitorContract, aKeyGivesADownWithItsCharacterAndAnUp) {
-    tap(contractkey::a);
+    tap(key::a);
     EXPECT_EQ(delivered(), (Log{"down 0 a", "up 0"}));
 }
 
 TEST_P(EventMonitorContract, keysThatOverlapKeepTheirOrder) {
-    press({contractkey::a, contractkey::s});
-    release({contractkey::a, contractkey::s});
+    press({key::a, key::s});
+    release({key::a, key::s});
     EXPECT_EQ(delivered(), (Log{"down 0 a", "down 1 s", "up 0", "up 1"}));
 }
 
 TEST_P(EventMonitorContract, shiftChangesTheMaskBeforeTheKeyAndTheCharacter) {
-    press({contractkey::shift});
-    tap(contractkey::a);
-    tap(contractkey::one);
-    release({contractkey::shift});
+    press({key::shift});
+    tap(key::a);
+    tap(key::one);
+    release({key::shift});
     EXPECT_EQ(delivered(),
               (Log{"modifiers 0x200", "down 0 A", "up 0", "down 18 !", "up 18", "modifiers 0x0"}));
 }
 
 TEST_P(EventMonitorContract, eachModifierHasItsBit) {
-    const std::vector<std::pair<std::uint32_t, std::string>> rows = {
-        {contractkey::super, "modifiers 0x100"},
-        {contractkey::shift, "modifiers 0x200"},
-        {contractkey::alt, "modifiers 0x800"},
-        {contractkey::control, "modifiers 0x1000"}};
+    const std::vector<std::pair<std::uint32_t, std::string>> rows = {{key::super, "modifiers 0x100"},
+                                                                     {key::shift, "modifiers 0x200"},
+                                                                     {key::alt, "modifiers 0x800"},
+                                                                     {key::control, "modifiers 0x1000"}};
     for (const auto& [keyCode, words] : rows) {
         tap(keyCode);
         EXPECT_EQ(delivered(), (Log{words, "modifiers 0x0"})) << keyCode;
@@ -41,30 +40,30 @@ TEST_P(EventMonitorContract, eachModifierHasItsBit) {
 }
 
 TEST_P(EventMonitorContract, controlAltAndSuperDoNotChangeTheCharacter) {
-    for (const std::uint32_t modifierKey : {contractkey::control, contractkey::alt, contractkey::super}) {
+    for (const std::uint32_t modifierKey : {key::control, key::alt, key::super}) {
         press({modifierKey});
-        tap(contractkey::a);
+        tap(key::a);
         release({modifierKey});
         EXPECT_EQ(deliveredWithout("modifiers"), (Log{"down 0 a", "up 0"})) << modifierKey;
     }
 }
 
 TEST_P(EventMonitorContract, theMaskGrowsAndShrinksWithTheKeysAndIsZeroOnlyAtTheEnd) {
-    press({contractkey::control, contractkey::shift, contractkey::super});
-    release({contractkey::shift, contractkey::control, contractkey::super});
+    press({key::control, key::shift, key::super});
+    release({key::shift, key::control, key::super});
     EXPECT_EQ(delivered(), (Log{"modifiers 0x1000", "modifiers 0x1200", "modifiers 0x1300",
                                 "modifiers 0x1100", "modifiers 0x100", "modifiers 0x0"}));
 }
 
 TEST_P(EventMonitorContract, theSecondKeyOfAModifierChangesNothing) {
-    press({contractkey::shift, contractkey::rightShift});
-    release({contractkey::shift, contractkey::rightShift});
+    press({key::shift, key::rightShift});
+    release({key::shift, key::rightShift});
     EXPECT_EQ(delivered(), (Log{"modifiers 0x200", "modifiers 0x0"}));
 }
 
 TEST_P(EventMonitorContract, aHeldKeyGivesOneDownAndItsRepeats) {
-    world().holdUntilRepeats(contractkey::a, 3);
-    release({contractkey::a});
+    world().holdUntilRepeats(key::a, 3);
+    release({key::a});
     const Log log = delivered();
     ASSERT_GE(log.size(), 5U);
     EXPECT_EQ(log.front(), "down 0 a");
@@ -73,8 +72,8 @@ TEST_P(EventMonitorContract, aHeldKeyGivesOneDownAndItsRepeats) {
 }
 
 TEST_P(EventMonitorContract, keysThatTypeNothingHaveNoCharacter) {
-    tap(contractkey::f5);
-    tap(contractkey::arrowUp);
+    tap(key::f5);
+    tap(key::arrowUp);
     EXPECT_EQ(delivered(), (Log{"down 96", "up 96", "down 126", "up 126"}));
 }
 
@@ -88,23 +87,23 @@ TEST_P(EventMonitorContract, capsLockIsNotSeenAtRest) {
 TEST_P(EventMonitorContract, aLetterUnderCapsLockIsReportedUnderThatMaskAlone) {
     world().setCapsLock(true);
     delivered();
-    tap(contractkey::a);
+    tap(key::a);
     EXPECT_EQ(delivered(), (Log{"modifiers 0x400", "down 0 A", "modifiers 0x0", "up 0"}));
 }
 
 TEST_P(EventMonitorContract, capsLockDoesNotTouchADigit) {
     world().setCapsLock(true);
     delivered();
-    tap(contractkey::one);
+    tap(key::one);
     EXPECT_EQ(delivered(), (Log{"down 18 1", "up 18"}));
 }
 
 TEST_P(EventMonitorContract, shiftUnderCapsLockTypesASmallLetterAndTheMaskStaysAboveZero) {
     world().setCapsLock(true);
     delivered();
-    press({contractkey::shift});
-    tap(contractkey::a);
-    release({contractkey::shift});
+    press({key::shift});
+    tap(key::a);
+    release({key::shift});
     EXPECT_EQ(delivered(), (Log{"modifiers 0x200", "modifiers 0x400", "down 0 a", "modifiers 0x200", "up 0",
                                 "modifiers 0x0"}));
 }
@@ -112,29 +111,29 @@ TEST_P(EventMonitorContract, shiftUnderCapsLockTypesASmallLetterAndTheMaskStaysA
 TEST_P(EventMonitorContract, controlAndShiftUnderCapsLockLeaveControl) {
     world().setCapsLock(true);
     delivered();
-    press({contractkey::control, contractkey::shift});
-    tap(contractkey::a);
-    release({contractkey::shift, contractkey::control});
+    press({key::control, key::shift});
+    tap(key::a);
+    release({key::shift, key::control});
     EXPECT_EQ(delivered(), (Log{"modifiers 0x1000", "modifiers 0x1200", "modifiers 0x1000", "down 0 a",
                                 "modifiers 0x1200", "up 0", "modifiers 0x1000", "modifiers 0x0"}));
 }
 
 TEST_P(EventMonitorContract, whileWithheldOnlyModifierChangesGoOn) {
     world().monitor().setWithheld(true);
-    press({contractkey::shift});
-    tap(contractkey::a);
-    release({contractkey::shift});
+    press({key::shift});
+    tap(key::a);
+    release({key::shift});
     EXPECT_EQ(deliveredWithout("up"), (Log{"modifiers 0x200", "modifiers 0x0"}));
 
     world().monitor().setWithheld(false);
-    tap(contractkey::s);
+    tap(key::s);
     EXPECT_EQ(delivered(), (Log{"down 1 s", "up 1"}));
 }
 
 TEST_P(EventMonitorContract, aSecondInstallReplacesTheHandler) {
     int events = 0;
     ASSERT_TRUE(world().monitor().install([&events](const KeyEvent&) { ++events; }));
-    tap(contractkey::a);
+    tap(key::a);
     EXPECT_EQ(delivered(), Log{});
     EXPECT_EQ(events, 2);
     ASSERT_TRUE(world().monitor().install({}));

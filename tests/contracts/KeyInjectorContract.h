@@ -8,6 +8,7 @@
 
 #include "platform/KeyInjector.h"
 #include "platform/Modifiers.h"
+#include "support/Keys.h"
 
 /// A desktop with a US layout and one application in front that takes text. No lock is on and no key down.
 class KeyInjectorWorld {
@@ -26,11 +27,6 @@ using KeyInjectorWorldFactory = std::unique_ptr<KeyInjectorWorld> (*)();
 /// What platform/KeyInjector.h promises, told by the text that the application got.
 class KeyInjectorContract : public testing::TestWithParam<KeyInjectorWorldFactory> {
   protected:
-    static constexpr std::uint32_t keyA = 0;
-    static constexpr std::uint32_t keyB = 11;
-    static constexpr std::uint32_t powerKey = 127;
-    static constexpr std::uint32_t noKey = 66;
-
     void SetUp() override {
         m_world = GetParam()();
         ASSERT_NE(m_world, nullptr);
@@ -59,46 +55,48 @@ class KeyInjectorContract : public testing::TestWithParam<KeyInjectorWorldFactor
 
 TEST_P(KeyInjectorContract, strokesAndTextArriveInOrder) {
     auto session = open();
-    EXPECT_TRUE(isGoing(session->stroke(keyA, 0)));
+    EXPECT_TRUE(isGoing(session->stroke(key::a, 0)));
     EXPECT_TRUE(isGoing(session->text("bc D!", 0)));
-    EXPECT_TRUE(isGoing(session->stroke(keyB, modifier::shift)));
+    EXPECT_TRUE(isGoing(session->stroke(key::b, modifier::shift)));
     EXPECT_EQ(world().typed(7), "abc D!B");
 }
 
 TEST_P(KeyInjectorContract, aCodeWithoutAKeyPlaysNothing) {
-    EXPECT_TRUE(isGoing(open()->stroke(noKey, 0)));
+    EXPECT_TRUE(isGoing(open()->stroke(key::unassigned, 0)));
     EXPECT_EQ(typedAndZ(), "z");
 }
 
 TEST_P(KeyInjectorContract, thePowerKeyIsAnErrorAndEndsTheRun) {
     auto session = open();
-    const auto refused = session->stroke(powerKey, 0);
+    const auto refused = session->stroke(key::power, 0);
     ASSERT_FALSE(refused);
     EXPECT_NE(refused.error().message, "");
-    const auto later = session->stroke(keyA, 0);
+    const auto later = session->stroke(key::a, 0);
     ASSERT_FALSE(later);
     EXPECT_EQ(later.error(), refused.error());
     session.reset();
     EXPECT_EQ(typedAndZ(), "z");
 }
 
-TEST_P(KeyInjectorContract, thePowerKeyIsNotHeldEither) { EXPECT_FALSE(open()->keyDown(HeldCode{powerKey})); }
+TEST_P(KeyInjectorContract, thePowerKeyIsNotHeldEither) {
+    EXPECT_FALSE(open()->keyDown(HeldCode{key::power}));
+}
 
 TEST_P(KeyInjectorContract, aHeldModifierHoldsUntilItIsReleased) {
     auto session = open();
     ASSERT_TRUE(isGoing(session->keyDown(HeldModifier{modifier::shift})));
-    EXPECT_TRUE(isGoing(session->stroke(keyA, 0)));
+    EXPECT_TRUE(isGoing(session->stroke(key::a, 0)));
     ASSERT_TRUE(isGoing(session->keyUp(HeldModifier{modifier::shift})));
-    EXPECT_TRUE(isGoing(session->stroke(keyB, 0)));
+    EXPECT_TRUE(isGoing(session->stroke(key::b, 0)));
     EXPECT_EQ(world().typed(2), "Ab");
 }
 
 TEST_P(KeyInjectorContract, theEndOfARunReleasesWhatIsHeld) {
     auto session = open();
     ASSERT_TRUE(isGoing(session->keyDown(HeldModifier{modifier::shift})));
-    EXPECT_TRUE(isGoing(session->stroke(keyA, 0)));
+    EXPECT_TRUE(isGoing(session->stroke(key::a, 0)));
     session.reset();
-    EXPECT_TRUE(isGoing(open()->stroke(keyB, 0)));
+    EXPECT_TRUE(isGoing(open()->stroke(key::b, 0)));
     EXPECT_EQ(world().typed(2), "Ab");
 }
 

@@ -13,24 +13,7 @@
 #include "platform/EventMonitor.h"
 #include "platform/HotKeys.h"
 #include "platform/Modifiers.h"
-
-/// Keys that the contracts press.
-namespace contractkey {
-inline constexpr std::uint32_t a = 0;
-inline constexpr std::uint32_t s = 1;
-inline constexpr std::uint32_t r = 15;
-inline constexpr std::uint32_t one = 18;
-inline constexpr std::uint32_t p = 35;
-inline constexpr std::uint32_t returnKey = 36;
-inline constexpr std::uint32_t space = 49;
-inline constexpr std::uint32_t super = 55;
-inline constexpr std::uint32_t shift = 56;
-inline constexpr std::uint32_t alt = 58;
-inline constexpr std::uint32_t control = 59;
-inline constexpr std::uint32_t rightShift = 60;
-inline constexpr std::uint32_t f5 = 96;
-inline constexpr std::uint32_t arrowUp = 126;
-}  // namespace contractkey
+#include "support/Keys.h"
 
 /// Watches everything that a keyboard delivers, as one list of words in the order of delivery: "down 0 a",
 /// "repeat 0 a", "up 0", "modifiers 0x200", "pressed 3", "released 3". The character stands only where it can

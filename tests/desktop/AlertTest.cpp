@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/DesktopTest.h"
 #include "display/NestedServers.h"
+#include "support/Keys.h"
 
 namespace {
 
@@ -24,20 +25,18 @@ class AlertTest : public testing::Test {
         return program->wait();
     }
 
-    static constexpr std::uint8_t keyReturn = 36;
-
     NestedServers servers{{"-extension", "XTEST"}};
     Desktop desktop{servers.display()};
     std::optional<Child> program;
 };
 
 TEST_F(AlertTest, quitEndsTheProgram) {
-    servers.user().tap(key::escape);
+    servers.user().tap(xkey::escape);
     EXPECT_EQ(awaitEnd(), 0);
 }
 
 TEST_F(AlertTest, theDocumentationIsOpenedAndThenTheProgramEnds) {
-    servers.user().tap(keyReturn);
+    servers.user().tap(xkey::returnKey);
     EXPECT_EQ(awaitEnd(), 0);
 }
 

@@ -25,7 +25,7 @@ class CancelTest : public testing::Test {
         const auto end = std::chrono::steady_clock::now() + bound;
         eventually([end] { return std::chrono::steady_clock::now() >= end; });
         const std::size_t sofar = terminal.typed().size();
-        servers.program().tap(key::period);
+        servers.program().tap(xkey::period);
         servers.program().finish();
         EXPECT_TRUE(eventually([this] { return terminal.typed().ends_with('.'); }));
         return terminal.typed().substr(sofar);
@@ -38,20 +38,20 @@ class CancelTest : public testing::Test {
 };
 
 TEST_F(CancelTest, aHeldEscapeEndsAMillionRepetitions) {
-    servers.user().press(key::escape);
+    servers.user().press(xkey::escape);
     servers.finish();
     EXPECT_EQ(receivedAfterTheBound(), ".");
-    servers.user().release(key::escape);
+    servers.user().release(xkey::escape);
     servers.finish();
     EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
 }
 
 TEST_F(CancelTest, theStopCombinationEndsAMillionRepetitions) {
-    servers.user().press(key::control);
-    servers.user().press(key::super);
-    servers.user().tap(key::s);
-    servers.user().release(key::super);
-    servers.user().release(key::control);
+    servers.user().press(xkey::control);
+    servers.user().press(xkey::super);
+    servers.user().tap(xkey::s);
+    servers.user().release(xkey::super);
+    servers.user().release(xkey::control);
     servers.finish();
     EXPECT_EQ(receivedAfterTheBound(), ".");
     EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());

@@ -7,21 +7,7 @@
 
 #include "desktop/Desktop.h"
 #include "display/Hands.h"
-
-/// X key codes of a keyboard with evdev codes.
-namespace key {
-inline constexpr std::uint8_t a = 38;
-inline constexpr std::uint8_t b = 56;
-inline constexpr std::uint8_t escape = 9;
-inline constexpr std::uint8_t period = 60;
-inline constexpr std::uint8_t shift = 50;
-inline constexpr std::uint8_t control = 37;
-inline constexpr std::uint8_t super = 133;
-inline constexpr std::uint8_t r = 27;
-inline constexpr std::uint8_t s = 39;
-inline constexpr std::uint8_t p = 33;
-inline constexpr std::uint8_t m = 58;
-}  // namespace key
+#include "support/Keys.h"
 
 inline std::string nameOf(TrayKind kind) { return kind == TrayKind::docking ? "docking" : "statusNotifier"; }
 inline std::string nameOf(WindowManager manager) {

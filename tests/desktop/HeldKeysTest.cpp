@@ -19,14 +19,14 @@ class HeldKeysTest : public DesktopTest {
     /// Holds Ctrl+Super+key until it has repeated a few times.
     void hold(std::uint8_t keycode) const {
         RepeatCount count(desktop.display(), keycode);
-        hands.press(key::control);
-        hands.press(key::super);
+        hands.press(xkey::control);
+        hands.press(xkey::super);
         hands.press(keycode);
         hands.finish();
         EXPECT_TRUE(eventually([&] { return count.presses() >= 5; }));
         hands.release(keycode);
-        hands.release(key::super);
-        hands.release(key::control);
+        hands.release(xkey::super);
+        hands.release(xkey::control);
         hands.finish();
     }
 
@@ -37,11 +37,11 @@ class HeldKeysTest : public DesktopTest {
 
 TEST_F(HeldKeysTest, recordsAsManyPressesAsTheTerminalGot) {
     record();
-    hands.press(key::a);
+    hands.press(xkey::a);
     hands.flush();
     terminal.typed(5);
-    hands.release(key::a);
-    hands.tap(key::period);
+    hands.release(xkey::a);
+    hands.tap(xkey::period);
     hands.finish();
     ASSERT_TRUE(eventually([this] { return terminal.typed().ends_with('.'); }));
     stop();
@@ -49,7 +49,7 @@ TEST_F(HeldKeysTest, recordsAsManyPressesAsTheTerminalGot) {
 }
 
 TEST_F(HeldKeysTest, aHeldRecordKeyStartsOneRecording) {
-    hold(key::r);
+    hold(xkey::r);
     press("a");
     stop();
     EXPECT_EQ(Keyrill::keyLines(keyrill.script()), 1U);
@@ -59,7 +59,7 @@ TEST_F(HeldKeysTest, aHeldRecordKeyStartsOneRecording) {
 TEST_F(HeldKeysTest, aHeldStopKeyEndsTheRecordingOnce) {
     record();
     press("a");
-    hold(key::s);
+    hold(xkey::s);
     EXPECT_EQ(Keyrill::keyLines(keyrill.script()), 1U);
     record();
     press("b");

@@ -23,7 +23,7 @@ class InstanceTest : public testing::TestWithParam<bool> {
         return std::make_unique<Child>(command, desktop.options("start" + std::to_string(++m_starts)));
     }
     void awaitReady() {
-        ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(key::m); }));
+        ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     }
 
     Desktop desktop;
@@ -53,7 +53,7 @@ TEST_P(InstanceTest, aSecondStartWithoutAFileEndsAndLeavesTheFirstAtWork) {
     awaitReady();
     EXPECT_EQ(start()->wait(std::chrono::seconds(5)), 0);
     EXPECT_TRUE(first->isRunning());
-    EXPECT_TRUE(desktop.isHotKeyTaken(key::m));
+    EXPECT_TRUE(desktop.isHotKeyTaken(xkey::m));
 }
 
 TEST_P(InstanceTest, theNextStartAfterAKilledProgramRuns) {
@@ -89,7 +89,7 @@ class HandOverTest : public DesktopTest {
 
 TEST_F(HandOverTest, aSecondStartsFileIsLoadedAndNotPlayed) {
     Child first({KEYRILL_PRODUCT}, desktop.options("first"));
-    ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(key::m); }));
+    ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     const Terminal terminal(desktop.display());
     EXPECT_EQ(startAndWait({file}), 0);
     press("x");
@@ -101,7 +101,7 @@ TEST_F(HandOverTest, aSecondStartsFileIsLoadedAndNotPlayed) {
 
 TEST_F(HandOverTest, anArgumentsFileIsLoadedAndNotPlayed) {
     Child first({KEYRILL_PRODUCT, file}, desktop.options("first"));
-    ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(key::m); }));
+    ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     const Terminal terminal(desktop.display());
     press("x");
     EXPECT_EQ(terminal.typed(1), "x");

@@ -28,7 +28,7 @@ class LayoutTest : public DesktopTest, public testing::WithParamInterface<Keyboa
     void typeKeys() const {
         for (const std::uint8_t keycode : std::vector<std::uint8_t>{38, 29, 52, 10, 15, 47, 61}) {
             hands.tap(keycode);
-            hands.stroke({key::shift, keycode});
+            hands.stroke({xkey::shift, keycode});
         }
         for (const std::uint8_t keycode : std::vector<std::uint8_t>{79, 88, 91}) hands.tap(keycode);
         hands.finish();

@@ -13,7 +13,7 @@ class LongMacroTest : public DesktopTest {
 TEST_F(LongMacroTest, aMacroOfTwentyThousandKeysArrivesWhole) {
     record();
     constexpr std::size_t count = 20'000;
-    for (std::size_t i = 0; i < count; ++i) hands.tap(static_cast<std::uint8_t>(38 + i % 9));
+    for (std::size_t i = 0; i < count; ++i) hands.tap(static_cast<std::uint8_t>(xkey::a + i % 9));
     hands.finish();
     const std::string typed = terminal.typed(count, std::chrono::seconds(60));
     stop();

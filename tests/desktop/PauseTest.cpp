@@ -19,14 +19,14 @@ void pauseFor(Milliseconds duration) {
 /// Plays, and tells by the server's clock how long after A the B is pressed.
 Milliseconds playedPause(CoreClient& client, const Hands& hands) {
     const std::size_t before = client.events().size();
-    hands.stroke({key::control, key::super, key::p});
+    hands.stroke({xkey::control, xkey::super, xkey::p});
     hands.finish();
     std::vector<std::uint32_t> presses;
     EXPECT_TRUE(eventually([&] {
         presses.clear();
         for (std::size_t i = before; i < client.events().size(); ++i) {
             const CoreClient::KeyEvent& event = client.events()[i];
-            if (event.press && (event.keycode == key::a || event.keycode == key::b))
+            if (event.press && (event.keycode == xkey::a || event.keycode == xkey::b))
                 presses.push_back(event.time);
         }
         return presses.size() == 2;
@@ -43,8 +43,8 @@ TEST(PauseTest, aSavedPauseIsPlayedAsLongAsItWas) {
     CoreClient client(desktop.display());
     const Hands hands(desktop.display());
 
-    hands.stroke({key::control, key::super, key::r});
-    hands.tap(key::a);
+    hands.stroke({xkey::control, xkey::super, xkey::r});
+    hands.tap(xkey::a);
     hands.finish();
     const auto typed = std::chrono::steady_clock::now();
     pauseFor(Milliseconds(700));
@@ -52,8 +52,8 @@ TEST(PauseTest, aSavedPauseIsPlayedAsLongAsItWas) {
     const auto beforeClick = std::chrono::steady_clock::now();
     menu.choose(2);
     const auto afterClick = std::chrono::steady_clock::now();
-    hands.tap(key::b);
-    hands.stroke({key::control, key::super, key::s});
+    hands.tap(xkey::b);
+    hands.stroke({xkey::control, xkey::super, xkey::s});
     hands.finish();
 
     const std::string script = keyrill.script();

@@ -64,7 +64,7 @@ class PreferencesTest : public DesktopTest {
 TEST_F(PreferencesTest, theFirstRunGreetsAndLeadsToThePreferencesAndTheSecondDoesNot) {
     std::filesystem::remove_all(desktop.home() + "/.config");
     start();
-    EXPECT_TRUE(desktop.isHotKeyTaken(key::r));
+    EXPECT_TRUE(desktop.isHotKeyTaken(xkey::r));
     close(title::welcome);
     EXPECT_TRUE(isStored("notFirstRun", "true"));
     EXPECT_EQ(settings().size(), 1U);
@@ -93,12 +93,12 @@ TEST_F(PreferencesTest, withoutPresetsTheFieldsBecomeTheHotKeysWhenThePanelClose
     desktop.setEnvironment("XDG_CONFIG_DIRS", desktop.file("empty"));
     start();
     desktop.awaitWindow(title::welcome);
-    for (const std::uint8_t keycode : {key::r, key::s, key::p, key::m})
+    for (const std::uint8_t keycode : {xkey::r, xkey::s, xkey::p, xkey::m})
         EXPECT_FALSE(desktop.isHotKeyTaken(keycode));
     close(title::welcome);
     close(title::preferences);
     expectThePresets();
-    for (const std::uint8_t keycode : {key::r, key::s, key::p, key::m})
+    for (const std::uint8_t keycode : {xkey::r, xkey::s, xkey::p, xkey::m})
         EXPECT_TRUE(desktop.isHotKeyTaken(keycode));
 }
 
@@ -116,8 +116,8 @@ TEST_F(PreferencesTest, aClearedCombinationWorksUntilTheNextStart) {
     EXPECT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
 
     restart();
-    EXPECT_FALSE(desktop.isHotKeyTaken(key::s));
-    EXPECT_TRUE(desktop.isHotKeyTaken(key::r));
+    EXPECT_FALSE(desktop.isHotKeyTaken(xkey::s));
+    EXPECT_TRUE(desktop.isHotKeyTaken(xkey::r));
 }
 
 TEST_F(PreferencesTest, aCombinationIsTakenFromTheShortcutThatHadIt) {
@@ -137,8 +137,8 @@ TEST_F(PreferencesTest, aCombinationIsTakenFromTheShortcutThatHadIt) {
     EXPECT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
 
     restart();
-    EXPECT_TRUE(desktop.isHotKeyTaken(key::r));
-    EXPECT_FALSE(desktop.isHotKeyTaken(key::s));
+    EXPECT_TRUE(desktop.isHotKeyTaken(xkey::r));
+    EXPECT_FALSE(desktop.isHotKeyTaken(xkey::s));
     record();
     // What comes after it has been worked off.
     press("ctrl+super+m");

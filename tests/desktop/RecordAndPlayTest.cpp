@@ -81,7 +81,7 @@ TEST_F(RecordAndPlayTest, twentyThousandKeysFlatOutAreRecordedInOrder) {
 TEST_F(RecordAndPlayTest, aMacroOfTwoThousandKeysArrivesWhole) {
     record();
     constexpr std::size_t count = 2000;
-    for (std::size_t i = 0; i < count; ++i) hands.tap(static_cast<std::uint8_t>(38 + i % 9));
+    for (std::size_t i = 0; i < count; ++i) hands.tap(static_cast<std::uint8_t>(xkey::a + i % 9));
     hands.finish();
     const std::string typed = terminal.typed(count);
     stop();

@@ -3,6 +3,7 @@
 
 #include "desktop/DesktopTest.h"
 #include "display/NestedServers.h"
+#include "support/Keys.h"
 
 namespace {
 
@@ -215,19 +216,18 @@ class AnsweredByHandTest : public testing::Test {
 };
 
 TEST_F(AnsweredByHandTest, aTappedEscapeBelongsToTheQuestion) {
-    servers.user().tap(key::escape);
+    servers.user().tap(xkey::escape);
     servers.finish();
     EXPECT_EQ(terminal->typed(2), "no");
 }
 
 TEST_F(AnsweredByHandTest, theStopCombinationIsDropped) {
-    constexpr std::uint8_t keyReturn = 36;
-    servers.user().press(key::control);
-    servers.user().press(key::super);
-    servers.user().tap(key::s);
-    servers.user().release(key::super);
-    servers.user().release(key::control);
-    servers.user().tap(keyReturn);
+    servers.user().press(xkey::control);
+    servers.user().press(xkey::super);
+    servers.user().tap(xkey::s);
+    servers.user().release(xkey::super);
+    servers.user().release(xkey::control);
+    servers.user().tap(xkey::returnKey);
     servers.finish();
     EXPECT_EQ(terminal->typed(3), "yes");
 }

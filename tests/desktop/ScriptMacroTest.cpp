@@ -26,7 +26,7 @@ class ScriptMacroTest : public DesktopTest {
             return;
         }
         product.emplace(std::vector<std::string>{KEYRILL_PRODUCT, file}, desktop.options("product.log"));
-        ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(key::m); }));
+        ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     }
     std::string output() const { return contentOf(desktop.file("product.log")); }
 

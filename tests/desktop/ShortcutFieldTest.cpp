@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/DesktopTest.h"
 #include "display/RepeatCount.h"
+#include "support/Keys.h"
 
 namespace {
 
@@ -42,7 +43,7 @@ class ShortcutFieldTest : public testing::Test {
 };
 
 TEST_F(ShortcutFieldTest, takesACombinationThatIsAHotKeyNow) {
-    ASSERT_TRUE(desktop.isHotKeyTaken(key::p));
+    ASSERT_TRUE(desktop.isHotKeyTaken(xkey::p));
     startRecording();
     desktop.press("ctrl+super+p");
     expectSettings("recordCode=35");
@@ -53,8 +54,7 @@ TEST_F(ShortcutFieldTest, takesACombinationThatIsAHotKeyNow) {
 }
 
 TEST_F(ShortcutFieldTest, takesAKeyOfTheWindowManagerAndKeepsItWhileItRepeats) {
-    constexpr std::uint8_t keyF4 = 70;
-    RepeatCount repeats(desktop.display(), keyF4);
+    RepeatCount repeats(desktop.display(), xkey::f4);
     startRecording();
     // The window manager closes windows with it. Held down, it would get the repeats.
     desktop.run({"xdotool", "keydown", "Alt_L", "keydown", "F4"});

@@ -25,7 +25,7 @@ TEST_P(SignalTest, endsItWithStatusZero) {
     Child keyrill({KEYRILL_PRODUCT}, desktop.options("product.log"));
     const Hands hands(desktop.display());
     // The program that holds the hot key is ready.
-    ASSERT_TRUE(eventually([&] { return desktop.isHotKeyTaken(key::m); }));
+    ASSERT_TRUE(eventually([&] { return desktop.isHotKeyTaken(xkey::m); }));
     keyrill.signal(GetParam());
     EXPECT_EQ(keyrill.wait(std::chrono::seconds(5)), 0);
 }

@@ -8,25 +8,7 @@
 #include "engine/FakeController.h"
 #include "engine/HotKeyCenter.h"
 #include "platform/Modifiers.h"
-
-/// Keys by what is printed on them.
-namespace key {
-inline constexpr std::uint32_t A = 0;
-inline constexpr std::uint32_t S = 1;
-inline constexpr std::uint32_t B = 11;
-inline constexpr std::uint32_t R = 15;
-inline constexpr std::uint32_t P = 35;
-inline constexpr std::uint32_t Return = 36;
-inline constexpr std::uint32_t M = 46;
-inline constexpr std::uint32_t Space = 49;
-inline constexpr std::uint32_t Escape = 53;
-inline constexpr std::uint32_t Super = 55;
-inline constexpr std::uint32_t Shift = 56;
-inline constexpr std::uint32_t CapsLock = 57;
-inline constexpr std::uint32_t Alt = 58;
-inline constexpr std::uint32_t Ctrl = 59;
-inline constexpr std::uint32_t F5 = 96;
-}  // namespace key
+#include "support/Keys.h"
 
 /// Somebody at the keyboard.
 class User {
@@ -60,10 +42,10 @@ class User {
     void waits(double seconds) { m_platform.clock.advance(Clock::Seconds(seconds)); }
 
     // The preset combinations.
-    void strikesRecord() { strikes({key::Ctrl, key::Super, key::R}); }
-    void strikesStop() { strikes({key::Ctrl, key::Super, key::S}); }
-    void strikesPlay() { strikes({key::Ctrl, key::Super, key::P}); }
-    void strikesMultiplePlay() { strikes({key::Ctrl, key::Super, key::M}); }
+    void strikesRecord() { strikes({key::control, key::super, key::r}); }
+    void strikesStop() { strikes({key::control, key::super, key::s}); }
+    void strikesPlay() { strikes({key::control, key::super, key::p}); }
+    void strikesMultiplePlay() { strikes({key::control, key::super, key::m}); }
 
   private:
     FakePlatform& m_platform;
@@ -111,10 +93,10 @@ class Scenario : public EngineTest {
   protected:
     Scenario() {
         constexpr std::uint32_t controlSuper = modifier::control | modifier::command;
-        setHotKey("record", key::R, controlSuper);
-        setHotKey("stop", key::S, controlSuper);
-        setHotKey("play", key::P, controlSuper);
-        setHotKey("multiplePlay", key::M, controlSuper);
+        setHotKey("record", key::r, controlSuper);
+        setHotKey("stop", key::s, controlSuper);
+        setHotKey("play", key::p, controlSuper);
+        setHotKey("multiplePlay", key::m, controlSuper);
         installHotKeyHandlers();
         installKeyRecorder();
     }

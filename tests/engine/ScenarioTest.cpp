@@ -28,14 +28,14 @@ TEST_F(ScenarioTest, theRecordHotKeyEndsTheRecordingThatItStarted) {
 
 TEST_F(ScenarioTest, shiftedAndChordedKeysAreRecordedWithTheirModifiers) {
     user.strikesRecord();
-    user.strikes({key::Shift, key::A});
-    user.strikes({key::Super, key::S});
-    user.strikes({key::Ctrl, key::Alt, key::F5});
+    user.strikes({key::shift, key::a});
+    user.strikes({key::super, key::s});
+    user.strikes({key::control, key::alt, key::f5});
     EXPECT_EQ(overlay(), "A<⌘+s><⌥+⌃+F5>");
 }
 
 TEST_F(ScenarioTest, aLetterTypedWithCapsLockIsRecordedAsAShiftedOne) {
-    user.strikes({key::CapsLock});
+    user.strikes({key::capsLock});
     recordTyping("a");
     EXPECT_EQ(currentMacro(), "A");
     user.strikesPlay();
@@ -45,9 +45,9 @@ TEST_F(ScenarioTest, aLetterTypedWithCapsLockIsRecordedAsAShiftedOne) {
 }
 
 TEST_F(ScenarioTest, aLetterTypedWithCapsLockAndShiftIsRecordedAsASmallOne) {
-    user.strikes({key::CapsLock});
+    user.strikes({key::capsLock});
     user.strikesRecord();
-    user.strikes({key::Shift, key::A});
+    user.strikes({key::shift, key::a});
     user.strikesStop();
     EXPECT_EQ(currentMacro(), "a");
     user.strikesPlay();
@@ -57,15 +57,15 @@ TEST_F(ScenarioTest, aLetterTypedWithCapsLockAndShiftIsRecordedAsASmallOne) {
 
 TEST_F(ScenarioTest, capsLockDoesNotHoldBackAPlay) {
     recordTyping("a");
-    user.strikes({key::CapsLock});
+    user.strikes({key::capsLock});
     user.strikesPlay();
     EXPECT_EQ(scriptsRun(), 1U);
 }
 
 TEST_F(ScenarioTest, aHeldKeyIsRecordedOncePerRepeat) {
     user.strikesRecord();
-    user.holds(key::A, 3);
-    user.releases(key::A);
+    user.holds(key::a, 3);
+    user.releases(key::a);
     EXPECT_EQ(overlay(), "aaaa");
 }
 
@@ -81,63 +81,63 @@ TEST_F(ScenarioTest, pausesAreRecordedOnDemand) {
 
 TEST_F(ScenarioTest, holdingThePlayCombinationPlaysNothing) {
     recordTyping("a");
-    user.presses(key::Ctrl, key::Super, key::P);
-    user.holds(key::P, 10);
+    user.presses(key::control, key::super, key::p);
+    user.holds(key::p, 10);
     EXPECT_EQ(scriptsRun(), 0U);
 }
 
 TEST_F(ScenarioTest, holdPlayCombinationReleaseKeyReleaseModifiersPlaysOnce) {
     recordTyping("a");
-    user.presses(key::Ctrl, key::Super);
-    user.holds(key::P, 3);
-    user.releases(key::P);
+    user.presses(key::control, key::super);
+    user.holds(key::p, 3);
+    user.releases(key::p);
     EXPECT_EQ(scriptsRun(), 0U);
-    user.releases(key::Super);
+    user.releases(key::super);
     EXPECT_EQ(scriptsRun(), 0U);
-    user.releases(key::Ctrl);
+    user.releases(key::control);
     EXPECT_EQ(scriptsRun(), 1U);
 }
 
 TEST_F(ScenarioTest, releaseModifiersFirstThenThePlayKeyPlaysOnce) {
     recordTyping("a");
-    user.presses(key::Ctrl, key::Super, key::P);
-    user.releases(key::Ctrl, key::Super);
+    user.presses(key::control, key::super, key::p);
+    user.releases(key::control, key::super);
     EXPECT_EQ(scriptsRun(), 0U);
-    user.releases(key::P);
+    user.releases(key::p);
     EXPECT_EQ(scriptsRun(), 1U);
 }
 
 TEST_F(ScenarioTest, pressPlayTwiceBeforeLettingGoOfCtrlPlaysOnce) {
     recordTyping("a");
-    user.presses(key::Ctrl, key::Super);
-    user.strikes({key::P});
-    user.strikes({key::P});
-    user.releases(key::Super, key::Ctrl);
+    user.presses(key::control, key::super);
+    user.strikes({key::p});
+    user.strikes({key::p});
+    user.releases(key::super, key::control);
     EXPECT_EQ(scriptsRun(), 1U);
 }
 
 TEST_F(ScenarioTest, playFromTheMenuDoesNotWaitForModifiers) {
     recordTyping("a");
-    user.presses(key::Shift);
+    user.presses(key::shift);
     menu.plays();
     EXPECT_EQ(scriptsRun(), 1U);
 }
 
 TEST_F(ScenarioTest, aPendingPlayIsReleasedAlsoDuringARecording) {
     recordTyping("a");
-    user.presses(key::Ctrl, key::Super);
-    user.strikes({key::P});
-    user.strikes({key::R});
+    user.presses(key::control, key::super);
+    user.strikes({key::p});
+    user.strikes({key::r});
     EXPECT_TRUE(isRecording());
     EXPECT_EQ(scriptsRun(), 0U);
-    user.releases(key::Super, key::Ctrl);
+    user.releases(key::super, key::control);
     EXPECT_EQ(scriptsRun(), 1U);
     EXPECT_TRUE(isRecording());
 }
 
 TEST_F(ScenarioTest, theStrokesOfAPlayDuringARecordingAreRecorded) {
     recordTyping("a");
-    platform().scripting.duringEachRun([this] { platform().keyboard.scriptStrikes(key::A, 0); });
+    platform().scripting.duringEachRun([this] { platform().keyboard.scriptStrikes(key::a, 0); });
     user.strikesRecord();
     user.types("b");
     user.strikesPlay();
@@ -147,7 +147,7 @@ TEST_F(ScenarioTest, theStrokesOfAPlayDuringARecordingAreRecorded) {
 
 TEST_F(ScenarioTest, theStrokesOfAnyOtherPlayAreNot) {
     recordTyping("a");
-    platform().scripting.duringEachRun([this] { platform().keyboard.scriptStrikes(key::A, 0); });
+    platform().scripting.duringEachRun([this] { platform().keyboard.scriptStrikes(key::a, 0); });
     user.strikesPlay();
     recordTyping("b");
     EXPECT_EQ(currentMacro(), "b");
@@ -157,7 +157,7 @@ TEST_F(ScenarioTest, aMacroMayPlayAHotKeyAndFiresNothing) {
     recordTyping("a");
     gui.takeMessages();
     platform().scripting.duringEachRun(
-        [this] { platform().keyboard.scriptStrikes(key::R, modifier::control | modifier::command); });
+        [this] { platform().keyboard.scriptStrikes(key::r, modifier::control | modifier::command); });
     user.strikesPlay();
     EXPECT_EQ(gui.messages(), FakeController::Messages{});
     EXPECT_FALSE(isRecording());
@@ -197,7 +197,7 @@ TEST_F(ScenarioTest, theStopHotKeyEndsThePlayback) {
 TEST_F(ScenarioTest, escapeHeldForThreeTenthsOfASecondEndsThePlayback) {
     recordTyping("a");
     platform().scripting.duringEachRun([this] {
-        if (scriptsRun() == 1) user.presses(key::Escape);
+        if (scriptsRun() == 1) user.presses(key::escape);
         user.waits(0.14);
     });
     prompt.isConfirmedWith("100");
@@ -206,9 +206,9 @@ TEST_F(ScenarioTest, escapeHeldForThreeTenthsOfASecondEndsThePlayback) {
 
 TEST_F(ScenarioTest, escapeOutsideAPlaybackIsAnOrdinaryKey) {
     user.strikesRecord();
-    user.presses(key::Escape);
+    user.presses(key::escape);
     user.waits(1);
-    user.releases(key::Escape);
+    user.releases(key::escape);
     user.strikesStop();
     EXPECT_EQ(currentMacro(), "⎋");
     prompt.isConfirmedWith("2");
@@ -266,10 +266,10 @@ TEST_F(ScenarioTest, whilePreferencesAreOpenHotKeysAreSwallowedAndTheMenuWorks) 
 }
 
 TEST_F(ScenarioTest, keysOutsideARecordingChangeOnlyTheModifiers) {
-    user.presses(key::Shift, key::A);
+    user.presses(key::shift, key::a);
     EXPECT_EQ(state().currentModifiers, modifier::shift);
     EXPECT_EQ(gui.messages(), FakeController::Messages{});
-    user.releases(key::A, key::Shift);
+    user.releases(key::a, key::shift);
     EXPECT_EQ(state().currentModifiers, 0U);
 }
 

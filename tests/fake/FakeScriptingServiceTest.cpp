@@ -5,12 +5,9 @@
 
 #include "platform/Modifiers.h"
 #include "platform/fake/FakePlatform.h"
+#include "support/Keys.h"
 
 namespace {
-
-constexpr std::uint32_t keyA = 0;
-constexpr std::uint32_t keyF5 = 96;
-constexpr std::uint32_t escape = 53;
 
 class FakeScriptingServiceTest : public testing::Test {
   protected:
@@ -46,19 +43,19 @@ TEST_F(FakeScriptingServiceTest, aRunInsideARunDoesNothing) {
 }
 
 TEST_F(FakeScriptingServiceTest, whatTheUserDoesDuringARunComesAfterIt) {
-    m_platform.hotKeys.request({1, "record", keyF5, 0, false});
+    m_platform.hotKeys.request({1, "record", key::f5, 0, false});
     scripting().duringEachRun([this] {
-        user().userPresses(keyA);
-        user().userPresses(keyF5);
+        user().userPresses(key::a);
+        user().userPresses(key::f5);
         m_log.push_back("run ends");
     });
     scripting().run("");
-    user().userReleases(keyA);
+    user().userReleases(key::a);
     EXPECT_EQ(m_log, (Log{"run ends", "down 0", "pressed 1"}));
 }
 
 TEST_F(FakeScriptingServiceTest, strokesOfTheScriptAreNotTheUsersUnlessKept) {
-    scripting().duringEachRun([this] { user().scriptStrikes(keyA, 0); });
+    scripting().duringEachRun([this] { user().scriptStrikes(key::a, 0); });
     scripting().run("");
     m_platform.desktop.turnLoop();
     EXPECT_EQ(m_log, Log{});
@@ -70,20 +67,20 @@ TEST_F(FakeScriptingServiceTest, strokesOfTheScriptAreNotTheUsersUnlessKept) {
 }
 
 TEST_F(FakeScriptingServiceTest, strokesOfTheScriptFireNoHotKey) {
-    m_platform.hotKeys.request({1, "record", keyF5, 0, false});
-    scripting().duringEachRun([this] { user().scriptStrikes(keyF5, 0); });
+    m_platform.hotKeys.request({1, "record", key::f5, 0, false});
+    scripting().duringEachRun([this] { user().scriptStrikes(key::f5, 0); });
     scripting().run("");
     m_platform.desktop.turnLoop();
     EXPECT_EQ(m_log, Log{});
 }
 
 TEST_F(FakeScriptingServiceTest, aHotKeyThatCancelsEndsThePlayback) {
-    m_platform.hotKeys.request({2, "stop", keyF5, 0, true});
+    m_platform.hotKeys.request({2, "stop", key::f5, 0, true});
     scripting().startPlayback();
-    user().userPresses(keyF5);
-    user().userReleases(keyF5);
+    user().userPresses(key::f5);
+    user().userReleases(key::f5);
     EXPECT_FALSE(scripting().isCancelled());
-    scripting().duringEachRun([this] { user().userPresses(keyF5); });
+    scripting().duringEachRun([this] { user().userPresses(key::f5); });
     scripting().run("");
     EXPECT_TRUE(scripting().isCancelled());
     scripting().startPlayback();
@@ -92,7 +89,7 @@ TEST_F(FakeScriptingServiceTest, aHotKeyThatCancelsEndsThePlayback) {
 
 TEST_F(FakeScriptingServiceTest, escapeCancelsOnceItIsHeldForThreeTenthsOfASecond) {
     scripting().startPlayback();
-    user().userPresses(escape);
+    user().userPresses(key::escape);
     m_platform.clock.advance(Clock::Seconds(0.29));
     EXPECT_FALSE(scripting().isCancelled());
     m_platform.clock.advance(Clock::Seconds(0.01));
@@ -101,17 +98,17 @@ TEST_F(FakeScriptingServiceTest, escapeCancelsOnceItIsHeldForThreeTenthsOfASecon
 
 TEST_F(FakeScriptingServiceTest, escapeTypedShortlyDoesNotCancel) {
     scripting().startPlayback();
-    user().userPresses(escape);
-    user().userReleases(escape);
+    user().userPresses(key::escape);
+    user().userReleases(key::escape);
     m_platform.clock.advance(Clock::Seconds(1));
     EXPECT_FALSE(scripting().isCancelled());
 }
 
 TEST_F(FakeScriptingServiceTest, nothingOfALockedScreenIsDelivered) {
-    m_platform.hotKeys.request({1, "record", keyF5, 0, false});
+    m_platform.hotKeys.request({1, "record", key::f5, 0, false});
     user().lockScreen(true);
-    user().userPresses(keyA);
-    user().userPresses(keyF5);
+    user().userPresses(key::a);
+    user().userPresses(key::f5);
     EXPECT_EQ(m_log, Log{});
 }
 

@@ -6,16 +6,9 @@
 #include "keymap/NamedKeymap.h"
 #include "platform/Modifiers.h"
 #include "platform/keymap/KeyboardState.h"
+#include "support/Keys.h"
 
 namespace {
-
-constexpr std::uint8_t capsKey = 66;
-constexpr std::uint8_t numKey = 77;
-constexpr std::uint8_t scrollKey = 78;
-constexpr std::uint8_t shiftKey = 50;
-constexpr std::uint8_t altKey = 64;
-constexpr std::uint8_t altGrKey = 108;
-constexpr std::uint8_t superKey = 133;
 
 TEST(KeymapTest, findsTheModifiersOfAnOrdinaryKeyboard) {
     const auto keymap = namedKeymap("de");
@@ -32,24 +25,24 @@ TEST(KeymapTest, findsTheModifiersOfAnOrdinaryKeyboard) {
 
 TEST(KeymapTest, aKeyIsAModifierByWhatItDoes) {
     const auto plain = namedKeymap("us");
-    for (const std::uint8_t key : {capsKey, numKey, shiftKey, altKey, superKey}) {
+    for (const std::uint8_t key : {xkey::capsLock, xkey::numLock, xkey::shift, xkey::alt, xkey::super}) {
         EXPECT_TRUE(plain->keys().isModifierKey(key, 0)) << int{key};
     }
-    EXPECT_FALSE(plain->keys().isModifierKey(38, 0));
-    EXPECT_FALSE(plain->keys().isModifierKey(scrollKey, 0));
-    EXPECT_FALSE(namedKeymap("us", "caps:escape")->keys().isModifierKey(capsKey, 0));
-    EXPECT_EQ(namedKeymap("us", "ctrl:nocaps")->keys().setBy(capsKey, 0), 0x04U);
-    EXPECT_EQ(namedKeymap("de")->keys().setBy(altGrKey, 0), 0x80U);
+    EXPECT_FALSE(plain->keys().isModifierKey(xkey::a, 0));
+    EXPECT_FALSE(plain->keys().isModifierKey(xkey::scrollLock, 0));
+    EXPECT_FALSE(namedKeymap("us", "caps:escape")->keys().isModifierKey(xkey::capsLock, 0));
+    EXPECT_EQ(namedKeymap("us", "ctrl:nocaps")->keys().setBy(xkey::capsLock, 0), 0x04U);
+    EXPECT_EQ(namedKeymap("de")->keys().setBy(xkey::altGr, 0), 0x80U);
 }
 
 TEST(KeymapTest, keysThatSwitchTheGroupAreOrdinaryOnes) {
-    EXPECT_FALSE(namedKeymap("us,ru", "grp:caps_toggle")->keys().isModifierKey(capsKey, 0));
+    EXPECT_FALSE(namedKeymap("us,ru", "grp:caps_toggle")->keys().isModifierKey(xkey::capsLock, 0));
 }
 
 TEST(KeymapTest, swappedModifiersAreFound) {
     const auto keymap = namedKeymap("us", "altwin:swap_alt_win");
-    EXPECT_EQ(keymap->reported(keymap->keys().setBy(altKey, 0)), modifier::command);
-    EXPECT_EQ(keymap->reported(keymap->keys().setBy(superKey, 0)), modifier::option);
+    EXPECT_EQ(keymap->reported(keymap->keys().setBy(xkey::alt, 0)), modifier::command);
+    EXPECT_EQ(keymap->reported(keymap->keys().setBy(xkey::super, 0)), modifier::option);
 }
 
 TEST(KeymapTest, aMaskThereAndBackIsTheSame) {
@@ -67,28 +60,28 @@ TEST(KeymapTest, equalKeymapsHaveEqualFingerprints) {
 
 TEST(KeyboardStateTest, foreseesWhatTheServerWillSay) {
     KeyboardState state(namedKeymap("us"), {});
-    state.feed(shiftKey, true);
+    state.feed(xkey::shift, true);
     EXPECT_EQ(state.modifiers(), 0x01U);
-    state.confirm({.depressed = 0x01}, shiftKey, true);
+    state.confirm({.depressed = 0x01}, xkey::shift, true);
     EXPECT_EQ(state.modifiers(), 0x01U);
-    state.feed(shiftKey, false);
+    state.feed(xkey::shift, false);
     EXPECT_EQ(state.modifiers(), 0U);
 }
 
 TEST(KeyboardStateTest, anOldConfirmationDoesNotUndoWhatCameSince) {
     KeyboardState state(namedKeymap("us"), {});
-    state.feed(shiftKey, true);
-    state.feed(shiftKey, false);
-    state.confirm({.depressed = 0x01}, shiftKey, true);
+    state.feed(xkey::shift, true);
+    state.feed(xkey::shift, false);
+    state.confirm({.depressed = 0x01}, xkey::shift, true);
     EXPECT_EQ(state.modifiers(), 0U);
-    state.confirm({}, shiftKey, false);
+    state.confirm({}, xkey::shift, false);
     EXPECT_EQ(state.modifiers(), 0U);
 }
 
 TEST(KeyboardStateTest, theServerIsRightWhereItSaysOtherwise) {
     KeyboardState state(namedKeymap("us,ru"), {});
-    state.feed(shiftKey, true);
-    state.confirm({.depressed = 0x05}, shiftKey, true);
+    state.feed(xkey::shift, true);
+    state.confirm({.depressed = 0x05}, xkey::shift, true);
     EXPECT_EQ(state.modifiers(), 0x05U);
     state.confirm({.locked = 0x02, .lockedLayout = 1}, 0, false);
     EXPECT_EQ(state.modifiers(), 0x02U);

@@ -5,10 +5,9 @@
 
 #include "keymap/NamedKeymap.h"
 #include "platform/Modifiers.h"
+#include "support/Keys.h"
 
 namespace {
-
-constexpr std::uint32_t keypadOne = 83;
 
 TEST(StrokePlanTest, aCodeIsItsPositionWhateverTheLayout) {
     EXPECT_EQ(planStroke(*namedKeymap("us"), 12, 0).value(), (Stroke{.keycode = 24}));
@@ -63,7 +62,7 @@ TEST(StrokePlanTest, thePowerKeyIsRefusedWithEveryChooser) {
 
 TEST(StrokePlanTest, aKeypadDigitNeedsNumLock) {
     const auto us = namedKeymap("us");
-    EXPECT_EQ(planStroke(*us, keypadOne, 0).value(),
+    EXPECT_EQ(planStroke(*us, key::keypadOne, 0).value(),
               (Stroke{.keycode = 87, .lockMask = 0x10, .lockValues = 0x10}));
 }
 

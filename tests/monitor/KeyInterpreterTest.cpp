@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "keymap/NamedKeymap.h"
+#include "support/Keys.h"
 
 namespace {
 
@@ -15,9 +16,6 @@ class ClockAtRest final : public Clock {
 
 constexpr std::uint16_t laptop = 6;
 constexpr std::uint16_t desk = 7;
-constexpr std::uint8_t a = 38;
-constexpr std::uint8_t shift = 50;
-constexpr std::uint8_t escape = 9;
 
 class KeyInterpreterTest : public testing::Test {
   protected:
@@ -46,18 +44,18 @@ constexpr KeyEvent aDown{KeyEventKind::keyDown, 0, 'a', 0};
 constexpr KeyEvent aUp{KeyEventKind::keyUp, 0, 0, 0};
 
 TEST_F(KeyInterpreterTest, eachKeyboardHasKeysOfItsOwn) {
-    press(a, laptop);
-    press(a, laptop);
-    press(a, desk);
-    release(a, laptop);
-    release(a, laptop);
-    release(a, desk);
+    press(xkey::a, laptop);
+    press(xkey::a, laptop);
+    press(xkey::a, desk);
+    release(xkey::a, laptop);
+    release(xkey::a, laptop);
+    release(xkey::a, desk);
     EXPECT_EQ(keyEvents(), (std::vector{aDown, aDown, aUp, aUp}));
 }
 
 TEST_F(KeyInterpreterTest, aKeyboardThatIsUnpluggedReleasesItsKeys) {
-    press(shift, desk);
-    press(a, desk);
+    press(xkey::shift, desk);
+    press(xkey::a, desk);
     keyEvents();
     m_interpreter.keyboardGone(desk, 300);
     const auto events = keyEvents();
@@ -67,57 +65,57 @@ TEST_F(KeyInterpreterTest, aKeyboardThatIsUnpluggedReleasesItsKeys) {
 }
 
 TEST_F(KeyInterpreterTest, aRepeatOfAKeyThatIsUpIsNothing) {
-    m_interpreter.repeat(a, 90);
-    press(a);
-    m_interpreter.repeat(a, 150);
-    release(a);
-    m_interpreter.repeat(a, 210);
+    m_interpreter.repeat(xkey::a, 90);
+    press(xkey::a);
+    m_interpreter.repeat(xkey::a, 150);
+    release(xkey::a);
+    m_interpreter.repeat(xkey::a, 210);
     EXPECT_EQ(keyEvents(), (std::vector{aDown, KeyEvent{KeyEventKind::autoRepeat, 0, 'a', 0}, aUp}));
 }
 
 TEST_F(KeyInterpreterTest, nothingRepeatsBeforeTheDelay) {
     m_interpreter.setRepeatDelay(250);
-    press(a);
+    press(xkey::a);
     EXPECT_FALSE(m_interpreter.held().mayHaveRepeated(340));
-    m_interpreter.repeat(a, 340);
+    m_interpreter.repeat(xkey::a, 340);
     EXPECT_EQ(keyEvents(), std::vector{aDown});
     EXPECT_TRUE(m_interpreter.held().mayHaveRepeated(350));
-    m_interpreter.repeat(a, 350);
+    m_interpreter.repeat(xkey::a, 350);
     EXPECT_EQ(keyEvents(), (std::vector{KeyEvent{KeyEventKind::autoRepeat, 0, 'a', 0}}));
 }
 
 TEST_F(KeyInterpreterTest, aPressThatWasNotReportedHasNoRelease) {
     m_interpreter.setMuted(true);
-    press(a);
+    press(xkey::a);
     m_interpreter.setMuted(false);
-    m_interpreter.repeat(a, 150);
-    release(a);
+    m_interpreter.repeat(xkey::a, 150);
+    release(xkey::a);
     EXPECT_EQ(keyEvents(), std::vector<KeyEvent>{});
 }
 
 TEST_F(KeyInterpreterTest, aHotKeyThatWasDroppedHasNoRelease) {
     m_interpreter.setMuted(true);
-    press(a, laptop, {.own = false, .grabbed = true, .hotKey = 2});
+    press(xkey::a, laptop, {.own = false, .grabbed = true, .hotKey = 2});
     m_interpreter.setMuted(false);
-    release(a);
+    release(xkey::a);
     EXPECT_TRUE(m_interpreter.deliveries().empty());
 }
 
 TEST_F(KeyInterpreterTest, aHotKeyAfterItsRawPressPassedIsStillPressedAndReleased) {
-    press(a);
+    press(xkey::a);
     keyEvents();
-    m_interpreter.lateHotKey(2, a, 100);
-    release(a);
+    m_interpreter.lateHotKey(2, xkey::a, 100);
+    release(xkey::a);
     EXPECT_EQ(m_interpreter.deliveries(),
               (std::deque<Delivery>{HotKeyEvent{2, true, 100}, HotKeyEvent{2, false, 200}}));
 }
 
 TEST_F(KeyInterpreterTest, escapeReadLateCountsByTheServersTime) {
-    press(escape);
-    release(escape, laptop, 100 + 299);
+    press(xkey::escape);
+    release(xkey::escape, laptop, 100 + 299);
     EXPECT_FALSE(m_cancel.isCancelled());
-    press(escape);
-    release(escape, laptop, 100 + 300);
+    press(xkey::escape);
+    release(xkey::escape, laptop, 100 + 300);
     EXPECT_TRUE(m_cancel.isCancelled());
 }
 

@@ -3,15 +3,15 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+#include "support/Keys.h"
 
-constexpr std::uint8_t a = 38;
+namespace {
 
 TEST(OwnStrokesTest, areKnownByCount) {
     OwnStrokes own;
-    own.expect(a, true);
-    own.expect(a, true);
-    const RawKey pressed{.keycode = a, .press = true, .source = 5, .synthetic = true, .time = 0};
+    own.expect(xkey::a, true);
+    own.expect(xkey::a, true);
+    const RawKey pressed{.keycode = xkey::a, .press = true, .source = 5, .synthetic = true, .time = 0};
     RawKey real = pressed;
     real.synthetic = false;
     EXPECT_FALSE(own.take(real));

@@ -5,6 +5,8 @@
 
 #include <set>
 
+#include "support/Keys.h"
+
 namespace {
 
 TEST(KeyCodesTest, tableIsWholeAndAscending) {
@@ -31,10 +33,9 @@ TEST(KeyCodesTest, rowsAbove127ArePlayedAndNeverRecorded) {
 }
 
 TEST(KeyCodesTest, keysWithoutACodeOfTheirOwnAreExtensions) {
-    constexpr std::uint16_t keyF13 = 183;
-    EXPECT_EQ(keycode::fromEvdev(keyF13), 0x1000U + keyF13);
-    EXPECT_EQ(keycode::evdevFor(0x1000 + keyF13), keyF13);
-    EXPECT_TRUE(keycode::isExtension(0x1000 + keyF13));
+    EXPECT_EQ(keycode::fromEvdev(evdevkey::f13), 0x1000U + evdevkey::f13);
+    EXPECT_EQ(keycode::evdevFor(0x1000 + evdevkey::f13), evdevkey::f13);
+    EXPECT_TRUE(keycode::isExtension(0x1000 + evdevkey::f13));
     EXPECT_TRUE(keycode::isExtension(0x200 + 12));
     EXPECT_FALSE(keycode::isExtension(12));
 }

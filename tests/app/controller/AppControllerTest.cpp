@@ -7,11 +7,9 @@
 #include "engine/MacroPlayer.h"
 #include "platform/Features.h"
 #include "platform/Modifiers.h"
+#include "support/Keys.h"
 
 namespace {
-
-constexpr std::uint32_t returnKey = 36;
-constexpr std::uint32_t escapeKey = 53;
 
 class AppControllerTest : public AppTest {
   protected:
@@ -61,7 +59,7 @@ TEST_F(AppControllerTest, showsStopAndSavePauseWhileRecording) {
 }
 
 TEST_F(AppControllerTest, offersPlayingWhenAMacroWasRecorded) {
-    recordKey(returnKey);
+    recordKey(key::returnKey);
     EXPECT_EQ(menu(),
               "Start Recording, Play, Play Multiple Times..., -, History, Save Macro..., Load Macro..., -, "
               "Preferences..., Help, -, Quit");
@@ -77,16 +75,16 @@ TEST_F(AppControllerTest, greysPlayingAfterAnEmptyRecording) {
 }
 
 TEST_F(AppControllerTest, filesTheNewestMacroOnTop) {
-    recordKey(returnKey);
-    recordKey(escapeKey);
+    recordKey(key::returnKey);
+    recordKey(key::escape);
     ASSERT_EQ(history().size(), 2);
     EXPECT_EQ(history().at(0)->text().toStdString(), MacroManager::macro(2)->displayText());
     EXPECT_EQ(history().at(1)->text().toStdString(), MacroManager::macro(1)->displayText());
 }
 
 TEST_F(AppControllerTest, playsAnOlderMacroFromTheHistoryAndMakesItTheCurrentOne) {
-    recordKey(returnKey);
-    recordKey(escapeKey);
+    recordKey(key::returnKey);
+    recordKey(key::escape);
     history().at(1)->trigger();
     EXPECT_EQ(state().currentMacro, MacroManager::macro(1));
     EXPECT_EQ(runs(), std::vector<std::string>{MacroManager::macro(1)->script()});
@@ -94,13 +92,13 @@ TEST_F(AppControllerTest, playsAnOlderMacroFromTheHistoryAndMakesItTheCurrentOne
 }
 
 TEST_F(AppControllerTest, runsNothingForASenderThatIsNoMacroMenuItem) {
-    recordKey(returnKey);
+    recordKey(key::returnKey);
     controller.runMacro(controller.statusMenu.playMenuItem);
     EXPECT_TRUE(runs().empty());
 }
 
 TEST_F(AppControllerTest, playsFromTheMenuOnceTheFocusIsBack) {
-    recordKey(returnKey);
+    recordKey(key::returnKey);
     controller.playMacro(nullptr);
     EXPECT_EQ(windows.calls, std::vector<std::string>{"await"});
     EXPECT_EQ(runs().size(), 1U);
@@ -165,8 +163,8 @@ TEST_F(AppControllerTest, leavesAHiddenStandInWindowHidden) {
 }
 
 TEST_F(AppControllerTest, tellsTwoMacrosOfTheSameTextApart) {
-    recordKey(returnKey);
-    recordKey(returnKey);
+    recordKey(key::returnKey);
+    recordKey(key::returnKey);
     ASSERT_EQ(history().at(0)->text(), history().at(1)->text());
     MacroManager::macro(1)->setScript("first");
     MacroManager::macro(2)->setScript("second");
@@ -176,7 +174,7 @@ TEST_F(AppControllerTest, tellsTwoMacrosOfTheSameTextApart) {
 }
 
 TEST_F(AppControllerTest, filesThreeRecordingsWithTheLastOnTop) {
-    for (const std::uint32_t key : {returnKey, escapeKey, returnKey}) recordKey(key);
+    for (const std::uint32_t code : {key::returnKey, key::escape, key::returnKey}) recordKey(code);
     std::vector<int> numbers;
     for (const QAction* item : history()) {
         numbers.push_back(static_cast<const MacroMenuItem*>(item)->macroId());
@@ -185,7 +183,7 @@ TEST_F(AppControllerTest, filesThreeRecordingsWithTheLastOnTop) {
 }
 
 TEST_F(AppControllerTest, filesNoEmptyRecordingAndOffersPlayingAllTheSame) {
-    recordKey(returnKey);
+    recordKey(key::returnKey);
     controller.recordMacro(nullptr);
     controller.stopMacro(nullptr);
     EXPECT_EQ(history().size(), 1);

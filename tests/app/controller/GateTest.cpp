@@ -8,20 +8,16 @@
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/RecorderWindow.h"
 #include "app/panels/PreferencesPanel.h"
+#include "support/Keys.h"
 
 namespace {
-
-constexpr std::uint32_t aKey = 0;
-constexpr std::uint32_t shiftKey = 56;
-constexpr std::uint32_t f1 = 122;
-constexpr std::uint32_t f2 = 120;
 
 /// The controller with record on F1 and play on F2, and a user who acts while a question is open.
 class GateTest : public AppTest {
   protected:
     GateTest() {
-        put("record", f1, 0);
-        put("play", f2, 0x20000);
+        put("record", key::f1, 0);
+        put("play", key::f2, 0x20000);
         platform().settings.put("notFirstRun", 1);
         controller.awakeFromNib();
     }
@@ -46,36 +42,36 @@ class GateTest : public AppTest {
 
 TEST_F(GateTest, recordsNothingOfWhatIsTypedIntoAQuestion) {
     controller.recordMacro(nullptr);
-    strikes(aKey);
+    strikes(key::a);
     const std::string before = recorded();
-    askWhile([this] { strikes(aKey); });
+    askWhile([this] { strikes(key::a); });
     EXPECT_EQ(recorded(), before);
-    strikes(aKey);
+    strikes(key::a);
     EXPECT_NE(recorded(), before);
 }
 
 TEST_F(GateTest, dropsHotKeysWhileAQuestionIsOpen) {
-    askWhile([this] { strikes(f1); });
+    askWhile([this] { strikes(key::f1); });
     EXPECT_FALSE(state().recording);
-    strikes(f1);
+    strikes(key::f1);
     EXPECT_TRUE(state().recording);
 }
 
 TEST_F(GateTest, followsModifiersWhileAQuestionIsOpen) {
-    platform().keyboard.userPresses(shiftKey);
+    platform().keyboard.userPresses(key::shift);
     askWhile([this] {
         EXPECT_TRUE(state().modifiersDown);
-        platform().keyboard.userReleases(shiftKey);
+        platform().keyboard.userReleases(key::shift);
         EXPECT_FALSE(state().modifiersDown);
     });
 }
 
 TEST_F(GateTest, dropsAPlayThatWaitsForModifiersWhenAQuestionOpens) {
     state().currentMacro = macroWithScript("script");
-    platform().keyboard.userPresses(shiftKey);
-    strikes(f2);
+    platform().keyboard.userPresses(key::shift);
+    strikes(key::f2);
     EXPECT_TRUE(state().playPending);
-    askWhile([this] { platform().keyboard.userReleases(shiftKey); });
+    askWhile([this] { platform().keyboard.userReleases(key::shift); });
     EXPECT_TRUE(runs().empty());
     EXPECT_FALSE(state().playPending);
 }
@@ -83,7 +79,7 @@ TEST_F(GateTest, dropsAPlayThatWaitsForModifiersWhenAQuestionOpens) {
 TEST_F(GateTest, dropsTheMenusCommandsWhileAQuestionIsOpen) {
     state().currentMacro = macroWithScript("script");
     controller.recordMacro(nullptr);
-    type(aKey);
+    type(key::a);
     controller.stopMacro(nullptr);
     askWhile([this] {
         const StatusMenu& items = controller.statusMenu;
@@ -123,18 +119,18 @@ TEST_F(GateTest, isShutUntilASheetIsAnswered) {
     controller.showPreferences(nullptr);
     state().hotKeysEnabled = true;
     controller.checkForUpdatesNowButton()->click();
-    strikes(f1);
+    strikes(key::f1);
     EXPECT_FALSE(state().recording);
     dialogs.endSheet(AlertAnswer::defaultButton);
-    strikes(f1);
+    strikes(key::f1);
     EXPECT_TRUE(state().recording);
 }
 
 TEST_F(GateTest, isShutWhileAFileIsChosen) {
-    dialogs.whileOpen([this] { strikes(f1); });
+    dialogs.whileOpen([this] { strikes(key::f1); });
     controller.loadMacro(nullptr);
     EXPECT_FALSE(state().recording);
-    strikes(f1);
+    strikes(key::f1);
     EXPECT_TRUE(state().recording);
 }
 
@@ -146,17 +142,17 @@ TEST_F(GateTest, leavesTheSwitchOfTheHotKeysAlone) {
 
 TEST_F(GateTest, recordsNothingOfWhatIsTypedIntoTheMenu) {
     controller.recordMacro(nullptr);
-    strikes(aKey);
+    strikes(key::a);
     const std::string before = recorded();
     controller.statusMenu.popup(QPoint());
-    strikes(aKey);
-    strikes(f1);
+    strikes(key::a);
+    strikes(key::f1);
     EXPECT_EQ(recorded(), before);
     controller.statusMenu.saveDelayMenuItem->trigger();
     EXPECT_NE(recorded(), before);
     controller.statusMenu.hide();
     const std::string paused = recorded();
-    strikes(aKey);
+    strikes(key::a);
     EXPECT_NE(recorded(), paused);
 }
 
@@ -164,7 +160,7 @@ TEST_F(GateTest, staysShutWhenTheMenuClosesBehindAQuestion) {
     controller.statusMenu.popup(QPoint());
     askWhile([this] {
         controller.statusMenu.hide();
-        strikes(f1);
+        strikes(key::f1);
         EXPECT_FALSE(state().recording);
     });
 }
@@ -176,13 +172,13 @@ TEST_F(GateTest, recordsNothingAndHidesTheOverlayWhileTheScreenIsLocked) {
     const std::string before = recorded();
     platform().screenLock.userLocksScreen();
     EXPECT_FALSE(controller.recorderWindow()->isVisible());
-    strikes(aKey);
-    strikes(f1);
+    strikes(key::a);
+    strikes(key::f1);
     EXPECT_EQ(recorded(), before);
     EXPECT_TRUE(state().recording);
     platform().screenLock.userUnlocksScreen();
     EXPECT_TRUE(controller.recorderWindow()->isVisible());
-    strikes(aKey);
+    strikes(key::a);
     EXPECT_NE(recorded(), before);
 }
 
@@ -196,10 +192,10 @@ TEST_F(GateTest, doesNotShowTheOverlayAtTheUnlockWithoutARecording) {
 
 TEST_F(GateTest, dropsAPlayThatWaitsWhenTheScreenIsLocked) {
     state().currentMacro = macroWithScript("script");
-    platform().keyboard.userPresses(shiftKey);
-    strikes(f2);
+    platform().keyboard.userPresses(key::shift);
+    strikes(key::f2);
     platform().screenLock.userLocksScreen();
-    platform().keyboard.userReleases(shiftKey);
+    platform().keyboard.userReleases(key::shift);
     EXPECT_TRUE(runs().empty());
 }
 
@@ -207,16 +203,16 @@ TEST_F(GateTest, staysShutWhenTheScreenIsUnlockedBehindAQuestion) {
     askWhile([this] {
         platform().screenLock.userLocksScreen();
         platform().screenLock.userUnlocksScreen();
-        strikes(f1);
+        strikes(key::f1);
         EXPECT_FALSE(state().recording);
     });
 }
 
 TEST_F(GateTest, forgetsNoPlayThatIsRequestedWhileItIsOpen) {
     state().currentMacro = macroWithScript("script");
-    platform().keyboard.userPresses(shiftKey);
-    strikes(f2);
-    platform().keyboard.userReleases(shiftKey);
+    platform().keyboard.userPresses(key::shift);
+    strikes(key::f2);
+    platform().keyboard.userReleases(key::shift);
     EXPECT_EQ(runs().size(), 1U);
 }
 

@@ -3,10 +3,10 @@
 
 #include "app/AppTest.h"
 #include "app/controller/TildeExpansion.h"
+#include "support/Keys.h"
 
 namespace {
 
-constexpr std::uint32_t returnKey = 36;
 const QString folder = QString::fromLatin1(FakeMacroFiles::folder);
 const QString file = folder + "/greeting.keyrill";
 
@@ -17,7 +17,7 @@ class MacroFilesTest : public AppTest {
 
     void recordKey() {
         controller.recordMacro(nullptr);
-        type(returnKey);
+        type(key::returnKey);
         controller.stopMacro(nullptr);
     }
     void save() {

@@ -8,10 +8,9 @@
 #include "app/overlay/SplashWindow.h"
 #include "app/panels/PreferencesPanel.h"
 #include "platform/Addresses.h"
+#include "support/Keys.h"
 
 namespace {
-
-constexpr std::uint32_t returnKey = 36;
 
 class OverlaysTest : public AppTest {
   protected:
@@ -117,7 +116,7 @@ TEST_F(OverlaysTest, putsTheMenuBackWithTheNextStopAfterTheDownload) {
     findUpdateAtStart();
     dialogs.answerNextAlert(AlertAnswer::defaultButton);
     controller.recordMacro(nullptr);
-    type(returnKey);
+    type(key::returnKey);
     controller.stopMacro(nullptr);
     EXPECT_EQ(shownItems(), "Start Recording, Play, Play Multiple Times...");
     EXPECT_FALSE(state().currentMacro);

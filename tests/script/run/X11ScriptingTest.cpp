@@ -8,16 +8,11 @@
 #include "platform/script/run/ScriptRunner.h"
 #include "platform/x11/press/X11KeyInjector.h"
 #include "platform/x11/watch/X11EventManager.h"
+#include "support/Keys.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"
 
 namespace {
-
-// X key codes.
-constexpr std::uint8_t controlKey = 37;
-constexpr std::uint8_t superKey = 133;
-constexpr std::uint8_t sKey = 39;
-constexpr std::uint8_t zKey = 52;
 
 std::unique_ptr<x11::X11EventManager> openManager(const Clock& clock, const std::string& display) {
     auto manager = x11::X11EventManager::open(clock, display);
@@ -40,7 +35,7 @@ class X11ScriptingWorld : public ScriptingWorld {
 
     /// A letter of another program's comes behind all that came before.
     std::string typed() override {
-        m_hands.tap(zKey);
+        m_hands.tap(xkey::z);
         m_hands.finish();
         if (!eventually([&] { return m_terminal.typed().find('z') != std::string::npos; })) {
             throw std::runtime_error("the terminal gets nothing");
@@ -50,7 +45,7 @@ class X11ScriptingWorld : public ScriptingWorld {
     }
 
     void userAsksToStop() override {
-        m_hands.stroke({controlKey, superKey, sKey});
+        m_hands.stroke({xkey::control, xkey::super, xkey::s});
         m_hands.finish();
         if (!eventually([&] { return m_runner.isCancelled(); })) {
             throw std::runtime_error("the wish to stop does not arrive");

@@ -6,11 +6,11 @@
 #include <sstream>
 
 #include "display/Hands.h"
+#include "support/Keys.h"
 #include "x11/press/InjectorTest.h"
 
 namespace {
 
-constexpr std::uint8_t lockBit = 0x02;
 /// How soon after the player's death all must be as before, on a machine that has nothing else to do.
 constexpr std::chrono::milliseconds promise{50};
 
@@ -31,7 +31,7 @@ void pass(std::chrono::milliseconds time) {
 class KillTest : public testing::Test {
   protected:
     KillTest() : m_probe(m_server.display()), m_hands(m_server.display()) {
-        m_hands.lock(lockBit, true);
+        m_hands.lock(xmask::capsLock, true);
         m_hands.finish();
     }
 
@@ -94,7 +94,7 @@ class KillTest : public testing::Test {
         for (unsigned keycode = 9; keycode < 256; ++keycode)
             m_hands.release(static_cast<std::uint8_t>(keycode));
         m_hands.lock(0xFF, false);
-        m_hands.lock(lockBit, true);
+        m_hands.lock(xmask::capsLock, true);
         m_hands.lockGroup(0);
         m_hands.finish();
     }

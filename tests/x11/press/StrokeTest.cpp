@@ -4,21 +4,10 @@
 
 #include "display/Hands.h"
 #include "platform/Modifiers.h"
+#include "support/Keys.h"
 #include "x11/press/InjectorTest.h"
 
 namespace {
-
-namespace key {
-constexpr std::uint32_t a = 0;
-constexpr std::uint32_t b = 11;
-constexpr std::uint32_t p = 35;
-constexpr std::uint32_t keypadOne = 83;
-constexpr std::uint32_t power = 127;
-constexpr std::uint32_t showDesktop = 161;
-}  // namespace key
-
-constexpr std::uint8_t lockBit = 0x02;
-constexpr std::uint8_t numLockBit = 0x10;
 
 using Lines = std::vector<std::string>;
 
@@ -95,16 +84,16 @@ TEST_F(StrokeTest, aKeypadDigitSetsNumLockForItsStrokeAndPutsItBack) {
 
 TEST_F(StrokeTest, aKeypadDigitLeavesNumLockOnWhereItWas) {
     command({"xdotool", "key", "Num_Lock"});
-    ASSERT_EQ(probe().locked(), numLockBit);
+    ASSERT_EQ(probe().locked(), xmask::numLock);
     const std::size_t before = received().size();
     ASSERT_TRUE(run()->stroke(key::keypadOne, 0));
     EXPECT_EQ(received().at(before), "press 87 0x10");
-    EXPECT_EQ(probe().locked(), numLockBit);
+    EXPECT_EQ(probe().locked(), xmask::numLock);
 }
 
 TEST_F(StrokeTest, capsLockDoesNotTouchAStrokeAndIsOnAgainAfterwards) {
     command({"xdotool", "key", "Caps_Lock"});
-    ASSERT_EQ(probe().locked(), lockBit);
+    ASSERT_EQ(probe().locked(), xmask::capsLock);
     const std::size_t before = received().size();
     {
         const auto session = run();
@@ -112,7 +101,7 @@ TEST_F(StrokeTest, capsLockDoesNotTouchAStrokeAndIsOnAgainAfterwards) {
         EXPECT_EQ(received(before + 1).at(before), "press 38 0x0");
         EXPECT_EQ(probe().locked(), 0);
     }
-    EXPECT_EQ(probe().locked(), lockBit);
+    EXPECT_EQ(probe().locked(), xmask::capsLock);
 }
 
 TEST_F(StrokeTest, aLockThatTheUserSwitchesInTheRunIsHisAfterwards) {
@@ -124,7 +113,7 @@ TEST_F(StrokeTest, aLockThatTheUserSwitchesInTheRunIsHisAfterwards) {
         ASSERT_TRUE(session->stroke(key::a, 0));
         EXPECT_EQ(received(before + 1).at(before), "press 38 0x0");
     }
-    EXPECT_EQ(probe().locked(), lockBit);
+    EXPECT_EQ(probe().locked(), xmask::capsLock);
 }
 
 TEST_F(StrokeTest, aHeldKeyStaysDownForLaterStrokesUntilItIsReleased) {

@@ -3,11 +3,11 @@
 
 #include "display/Hands.h"
 #include "platform/Modifiers.h"
+#include "support/Keys.h"
 #include "x11/press/InjectorTest.h"
 
 namespace {
 
-constexpr std::uint8_t lockBit = 0x02;
 constexpr const char* record = "_KEYRILL_BOUND_KEYS";
 
 /// What a terminal gets of texts.
@@ -84,7 +84,7 @@ TEST_F(TextTest, bothGroupsOfTwoLayoutsAreUsedFromEither) {
 TEST_F(TextTest, capsLockIsOutOfTheWayAndOnAgain) {
     command({"xdotool", "key", "Caps_Lock"});
     EXPECT_EQ(typedInto("Hello é漢 WORLD"), "Hello é漢 WORLD");
-    EXPECT_EQ(probe().locked(), lockBit);
+    EXPECT_EQ(probe().locked(), xmask::capsLock);
 }
 
 TEST_F(TextTest, numLockChangesNothing) {

@@ -1,16 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "display/NestedServers.h"
 #include "platform/Modifiers.h"
+#include "support/Keys.h"
 #include "x11/press/InjectorTest.h"
 
 namespace {
-
-namespace user {
-constexpr std::uint8_t escape = 9;
-constexpr std::uint8_t control = 37;
-constexpr std::uint8_t shift = 50;
-constexpr std::uint8_t p = 33;
-}  // namespace user
 
 /// Runs while a user has his hands on a real keyboard.
 class UserHandsTest : public testing::Test {
@@ -32,7 +26,7 @@ class UserHandsTest : public testing::Test {
 
 TEST_F(UserHandsTest, aHeldControlDoesNotTaintTheRunAndDoesNotStick) {
     const Terminal terminal(display());
-    user().press(user::control);
+    user().press(xkey::control);
     finish();
     waitFor("keys: 37, modifiers: 0x4");
     std::string expected;
@@ -41,7 +35,7 @@ TEST_F(UserHandsTest, aHeldControlDoesNotTaintTheRunAndDoesNotStick) {
         expected += row;
     }
     EXPECT_EQ(terminal.typed(expected.size()), expected);
-    user().release(user::control);
+    user().release(xkey::control);
     finish();
     waitFor("keys:, modifiers: 0x0");
 }
@@ -53,8 +47,8 @@ TEST_F(UserHandsTest, aShiftPressedInTheRunDoesNotTaintTheStrokesAfterIt) {
     for (int stroke = 0; stroke < 60; ++stroke) {
         // What is in flight when the user presses is his as well as ours.
         finish();
-        if (stroke % 20 == 10) user().press(user::shift);
-        if (stroke % 20 == 15) user().release(user::shift);
+        if (stroke % 20 == 10) user().press(xkey::shift);
+        if (stroke % 20 == 15) user().release(xkey::shift);
         finish();
         ASSERT_TRUE(session->pause(0.005));
         ASSERT_TRUE(session->stroke(0, 0));
@@ -70,23 +64,23 @@ TEST_F(UserHandsTest, aHotKeyThatIsStillHeldDoesNotSwallowTheStrokes) {
     program().manager().install([&pressed](HotKeyId) { ++pressed; }, [](HotKeyId) {});
     program().manager().request(
         {.id = 3, .name = "play", .keyCode = 35, .modifiers = modifier::control, .cancelsPlayback = false});
-    user().press(user::control);
-    user().press(user::p);
+    user().press(xkey::control);
+    user().press(xkey::p);
     finish();
     ASSERT_TRUE(eventually([&] {
         program().manager().dispatch();
         return pressed == 1;
     }));
-    const int before = client.presses(38);
+    const int before = client.presses(xkey::a);
     EXPECT_EQ(wordsOf(program().run()->stroke(0, 0)), "going");
-    EXPECT_EQ(client.presses(38), before + 1);
+    EXPECT_EQ(client.presses(xkey::a), before + 1);
     EXPECT_EQ(wordsOf(client.events()).back(), "release 38 0x0");
 }
 
 TEST_F(UserHandsTest, escapeHeldForThreeTenthsOfASecondEndsTheRunWithinAPause) {
     const auto session = program().run();
     ASSERT_TRUE(session->stroke(0, 0));
-    user().press(user::escape);
+    user().press(xkey::escape);
     finish();
     const auto begin = std::chrono::steady_clock::now();
     EXPECT_EQ(wordsOf(session->pause(5)), "cancelled");
@@ -94,7 +88,7 @@ TEST_F(UserHandsTest, escapeHeldForThreeTenthsOfASecondEndsTheRunWithinAPause) {
     EXPECT_LT(lasted.count(), 0.4);
     EXPECT_EQ(wordsOf(session->stroke(0, 0)), "cancelled");
     EXPECT_TRUE(program().injector().isCancelled());
-    user().release(user::escape);
+    user().release(xkey::escape);
     finish();
     waitFor("keys:, modifiers: 0x0");
     program().injector().startPlayback();
@@ -103,7 +97,7 @@ TEST_F(UserHandsTest, escapeHeldForThreeTenthsOfASecondEndsTheRunWithinAPause) {
 
 TEST_F(UserHandsTest, aShortEscapeAndTheScriptsOwnEndNothing) {
     const auto session = program().run();
-    user().tap(user::escape);
+    user().tap(xkey::escape);
     finish();
     EXPECT_EQ(wordsOf(session->pause(0.4)), "going");
     ASSERT_TRUE(session->keyDown(HeldCode{53}));

@@ -75,8 +75,8 @@ TEST_F(X11HotKeysTest, aHeldHotKeyFiresOnceHoweverOftenItRepeats) {
     request(3, "play", 35);
     hands().press(xkey::control);
     hands().press(xkey::super);
-    world().holdUntilRepeats(35, 5);
-    world().release(35);
+    world().holdUntilRepeats(key::p, 5);
+    world().release(key::p);
     hands().release(xkey::control);
     hands().release(xkey::super);
     EXPECT_EQ(delivered(),

@@ -10,11 +10,9 @@
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
 #include "platform/XkbCodes.h"
+#include "support/Keys.h"
 
 namespace {
-
-/// Bits of the default modifier map (setxkbmap's pc keyboards).
-constexpr std::uint8_t lockBit = 0x02;
 
 unsigned pcModifiers(std::uint32_t modifiers) {
     unsigned result = 0;
@@ -64,7 +62,7 @@ void X11World::holdUntilRepeats(std::uint32_t keyCode, int atLeast) {
 }
 
 void X11World::setCapsLock(bool on) {
-    m_hands.lock(lockBit, on);
+    m_hands.lock(xmask::capsLock, on);
     m_hands.flush();
 }
 
