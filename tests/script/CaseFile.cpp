@@ -73,8 +73,8 @@ FileCase readCase(std::string line, bool insideTell) {
     if (row.kind == FileCase::Kind::events) {
         row.events = row.expected;
         if (findArrow(row.expected, "=!") != std::string::npos) {
-            std::tie(row.kind, row.expected) = takeExpectation(row.events);
-            row.events = trimmed(row.events);
+            std::tie(row.kind, row.expected) = takeExpectation(*row.events);
+            row.events = trimmed(*row.events);
         }
     }
     for (const auto& [sign, meant] : signs) line = replaced(line, sign, meant);
@@ -119,7 +119,7 @@ std::string outcomeOf(const FileCase& row) {
     if (failed) {
         const std::string arrow = result.phase == Traced::Phase::compile ? "=? " : "=! ";
         const std::string place = row.place.empty() ? "" : placeOf(result) + " ";
-        const std::string events = row.events.empty() ? "" : eventsOf(result) + " ";
+        const std::string events = row.events ? eventsOf(result) + " " : "";
         return events + arrow + place + std::to_string(result.error.number) + " " + result.error.message;
     }
     if (row.kind == FileCase::Kind::events) return "-> " + eventsOf(result);
@@ -128,12 +128,12 @@ std::string outcomeOf(const FileCase& row) {
 
 std::string expectationOf(const FileCase& row) {
     const std::string place = row.place.empty() ? "" : row.place + " ";
-    const std::string events = row.events.empty() ? "" : row.events + " ";
+    const std::string events = row.events ? *row.events + " " : "";
     switch (row.kind) {
         case FileCase::Kind::value:
             return "=> " + row.expected;
         case FileCase::Kind::events:
-            return "-> " + row.events;
+            return "-> " + row.events.value_or("");
         case FileCase::Kind::runError:
             return events + "=! " + place + row.expected;
         default:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,8 +14,9 @@ struct FileCase {
     std::string source;
     Kind kind = Kind::value;
     std::string expected;  ///< the value, or "NUMBER MESSAGE"
-    std::string events;    ///< those before a run error, or all
-    std::string place;     ///< "LINE:COLUMN" of the mark; empty without one
+    std::optional<std::string>
+        events;         ///< those before a run error, or all; none where the case does not tell
+    std::string place;  ///< "LINE:COLUMN" of the mark; empty without one
 };
 
 std::ostream& operator<<(std::ostream& out, const FileCase& row);

@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-/// The keys that tests press, by their positions on a PC keyboard: a namespace for each way to count them. The values
-/// are written out, because what the code under test computes is judged by them.
+/// The keys that tests press, by their positions on a PC keyboard: a namespace for each way to count them.
+/// The values are written out, because what the code under test computes is judged by them.
 
 /// Key codes of our own, as platform/KeyCodes.h numbers positions.
 namespace key {
