@@ -11,16 +11,6 @@ namespace {
 
 constexpr std::size_t widestLine = 200;
 
-/// The line, without its end.
-std::string_view lineOf(std::string_view source, std::uint32_t number) {
-    std::size_t begin = 0;
-    for (std::uint32_t line = 1; line < number && begin < source.size(); ++line) {
-        const std::size_t end = std::min(source.find_first_of("\r\n", begin), source.size());
-        begin = std::min(end + (source.substr(end, 2) == "\r\n" ? 2 : 1), source.size());
-    }
-    return source.substr(begin, source.find_first_of("\r\n", begin) - begin);
-}
-
 struct Columns {
     char32_t first;
     char32_t last;
@@ -80,7 +70,7 @@ std::string indentation(std::string_view line, std::uint32_t characters) {
 void Report::tell(const char* kind, const script::ScriptError& error) const {
     std::cerr << m_file << ":" << error.location.line << ":" << error.location.column << ": " << kind
               << " error: " << error.message << " (" << error.number << ")\n";
-    const std::string_view line = lineOf(m_source, error.location.line);
+    const std::string_view line = script::lineOf(m_source, error.location.line);
     if (!line.empty() && line.size() <= widestLine) {
         std::cerr << shown(line) << "\n" << indentation(line, error.location.column - 1) << "^\n";
     }

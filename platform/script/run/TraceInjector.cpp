@@ -6,21 +6,11 @@
 #include <cmath>
 #include <ostream>
 
-#include "platform/Modifiers.h"
 #include "platform/script/run/TraceServices.h"
+#include "platform/script/values/ModifierWords.h"
 
 namespace script {
 namespace {
-
-struct Name {
-    std::uint32_t modifier;
-    std::string_view name;
-};
-
-constexpr auto names = std::to_array<Name>({{modifier::command, "command"},
-                                            {modifier::control, "control"},
-                                            {modifier::option, "option"},
-                                            {modifier::shift, "shift"}});
 
 /// The fewest digits that read back as the same number; an exponent only where there would be many zeros.
 std::string json(double number) {
@@ -36,9 +26,9 @@ std::string json(double number) {
 
 std::string modifierNames(std::uint32_t modifiers) {
     std::string out = "[";
-    for (const Name& row : names) {
+    for (const ModifierWord& row : modifierWords) {
         if ((modifiers & row.modifier) == 0) continue;
-        out += (out.size() > 1 ? "," : "") + jsonText(row.name);
+        out += (out.size() > 1 ? "," : "") + jsonText(spellingOf(row.word));
     }
     return out + "]";
 }

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/Utf8.h"
+#include "platform/script/source/Trivia.h"
 
 namespace script {
 
@@ -27,6 +28,14 @@ Location Locator::at(std::size_t offset) {
 /// CR LF ends one line, at its LF.
 bool Locator::isPair(std::size_t position) const {
     return position + 1 < m_source.size() && m_source[position + 1] == '\n';
+}
+
+std::string_view lineOf(std::string_view source, std::uint32_t number) {
+    for (std::uint32_t line = 1; line < number && !source.empty(); ++line) {
+        source.remove_prefix(lineLength(source));
+        source.remove_prefix(std::min(lineEndLength(source), source.size()));
+    }
+    return source.substr(0, lineLength(source));
 }
 
 }  // namespace script

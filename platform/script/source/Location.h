@@ -37,4 +37,7 @@ class Locator {
 /// The place of one byte.
 inline Location locate(std::string_view source, std::size_t offset) { return Locator(source).at(offset); }
 
+/// The line with that number, without its end; empty behind the last one.
+std::string_view lineOf(std::string_view source, std::uint32_t number);
+
 }  // namespace script

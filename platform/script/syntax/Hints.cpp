@@ -5,19 +5,10 @@
 #include <array>
 #include <vector>
 
-#include "platform/script/source/Trivia.h"
-
 namespace script {
 namespace {
 
-/// The line of the error, without blanks before it.
-std::string_view lineOf(const ScriptError& error, std::string_view source) {
-    std::size_t begin = 0;
-    for (std::uint32_t line = 1; line < error.location.line; ++line) {
-        begin += lineLength(source.substr(begin));
-        begin = std::min(begin + lineEndLength(source.substr(begin)), source.size());
-    }
-    const std::string_view line = source.substr(begin, lineLength(source.substr(begin)));
+std::string_view withoutBlanksBefore(std::string_view line) {
     return line.substr(std::min(line.find_first_not_of(" \t"), line.size()));
 }
 
@@ -82,7 +73,7 @@ std::string syntaxHint(const ScriptError& error, const Tree& tree, std::string_v
         if (line > 0)
             return "The block that begins in line " + std::to_string(line) + " has no “end” of its own.";
     }
-    const std::string_view line = lineOf(error, source);
+    const std::string_view line = withoutBlanksBefore(lineOf(source, error.location.line));
     const std::string lowered = asciiLowered(line.substr(0, 20));
     for (const Slip& slip : slips) {
         if (error.message.find(slip.inMessage) == std::string::npos) continue;

@@ -7,9 +7,9 @@
 #include <optional>
 #include <utility>
 
-#include "platform/Modifiers.h"
 #include "platform/script/source/Literal.h"
 #include "platform/script/values/MaxInteger.h"
+#include "platform/script/values/ModifierWords.h"
 #include "platform/script/values/Value.h"
 
 namespace script {
@@ -26,18 +26,6 @@ constexpr auto textConstants = std::to_array<TextConstant>({
     {Word::returnWord, "\r"},
     {Word::space, " "},
     {Word::tab, "\t"},
-});
-
-struct ModifierWord {
-    Word word;
-    std::uint32_t modifier;
-};
-
-constexpr auto modifierWords = std::to_array<ModifierWord>({
-    {Word::command, modifier::command},
-    {Word::control, modifier::control},
-    {Word::option, modifier::option},
-    {Word::shift, modifier::shift},
 });
 
 template <typename Table>

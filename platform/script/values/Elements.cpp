@@ -16,18 +16,6 @@ Failure cannotGetElement(const Value& container, const Element& element) {
     return cannotGet(sourceForm(element) + " of " + sourceForm(container));
 }
 
-std::vector<Stretch> charactersOf(std::string_view text) {
-    std::vector<Stretch> found;
-    found.reserve(text.size());
-    std::size_t position = 0;
-    while (position < text.size()) {
-        const std::size_t start = position;
-        takeCharacter(text, position);
-        found.push_back({start, position});
-    }
-    return found;
-}
-
 /// An apostrophe or a point stands within a word where the word goes on behind it.
 bool joinsWord(std::string_view text, char32_t character, std::size_t behind) {
     const bool mayJoin = character == U'\'' || character == U'.' || character == 0x2019;

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/values/SourceForm.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 
-#include "platform/Modifiers.h"
 #include "platform/Utf8.h"
 #include "platform/script/source/Scoped.h"
 #include "platform/script/source/ScriptError.h"
 #include "platform/script/values/Dates.h"
+#include "platform/script/values/ModifierWords.h"
 
 namespace script {
 namespace {
@@ -163,21 +164,10 @@ std::string realText(double value) {
 }
 
 std::string constantText(const Modifier& constant) {
-    std::string name;
-    switch (constant.modifier) {
-        case modifier::command:
-            name = "command";
-            break;
-        case modifier::control:
-            name = "control";
-            break;
-        case modifier::option:
-            name = "option";
-            break;
-        default:
-            name = "shift";
-            break;
-    }
+    const auto* row = std::find_if(modifierWords.begin(), modifierWords.end(), [&](const ModifierWord& word) {
+        return word.modifier == constant.modifier;
+    });
+    const std::string name(row == modifierWords.end() ? "" : spellingOf(row->word));
     return constant.down ? name + " down" : name;
 }
 

@@ -134,16 +134,6 @@ class Finder {
     std::vector<std::size_t> m_borders;
 };
 
-std::vector<Stretch> charactersOf(std::string_view text) {
-    std::vector<Stretch> characters;
-    for (std::size_t position = 0; position < text.size();) {
-        const std::size_t start = position;
-        takeCharacter(text, position);
-        characters.push_back({start, position});
-    }
-    return characters;
-}
-
 /// The nearest of several delimiters: each remembers where it comes next, so that all of them together walk
 /// the text once each.
 class DelimiterFinder {
@@ -181,6 +171,17 @@ class DelimiterFinder {
 };
 
 }  // namespace
+
+std::vector<Stretch> charactersOf(std::string_view text) {
+    std::vector<Stretch> characters;
+    characters.reserve(text.size());
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t start = position;
+        takeCharacter(text, position);
+        characters.push_back({start, position});
+    }
+    return characters;
+}
 
 int compareTexts(std::string_view left, std::string_view right, const TextRules& rules) {
     if (rules.considers(attribute::numericStrings)) {

@@ -39,6 +39,9 @@ struct Stretch {
     std::size_t end = 0;
 };
 
+/// Where the characters of a text lie.
+std::vector<Stretch> charactersOf(std::string_view text);
+
 /// Below 0, 0 or above 0. What is ignored does not count.
 int compareTexts(std::string_view left, std::string_view right, const TextRules& rules);
 
