@@ -12,7 +12,7 @@
 
 #include "Table.h"
 #include "platform/script/code/Compiler.h"
-#include "platform/script/run/Machine.h"
+#include "platform/script/run/Run.h"
 
 namespace {
 
@@ -70,9 +70,10 @@ std::pair<double, double> measured(const Loop& loop) {
     ListeningInjector injector;
     script::SilentDesktop desktop;
     script::NoDialogs dialogs;
-    script::Machine machine(std::get<script::Program>(program), {injector, desktop, dialogs});
     const Clock::time_point begin = Clock::now();
-    if (machine.run().end != script::RunEnd::finished) std::abort();
+    const script::RunResult result =
+        script::run(std::get<script::Program>(program), {injector, desktop, dialogs});
+    if (result.end != script::RunEnd::finished) std::abort();
     const double nanoseconds = std::chrono::duration<double, std::nano>(Clock::now() - begin).count();
     return {nanoseconds / rounds, injector.longestMilliseconds()};
 }

@@ -13,7 +13,7 @@
 #include "cli/ScriptFile.h"
 #include "cli/TerminalDialogs.h"
 #include "platform/script/code/Compiler.h"
-#include "platform/script/run/Machine.h"
+#include "platform/script/run/Run.h"
 #include "platform/script/run/TraceInjector.h"
 #include "platform/script/run/TraceServices.h"
 #include "platform/script/syntax/Formatter.h"
@@ -55,10 +55,10 @@ std::optional<script::Program> compiled(const Source& source) {
 script::RunResult run(const Source& source, const script::Program& program,
                       const script::MachineServices& services) {
     const Report report(source.name, source.text);
-    script::Machine machine(program, services);
-    machine.onWarning([&](const script::ScriptWarning& warning) { report.warning(warning); });
-    machine.onLog([](const std::string& line) { std::cerr << line << "\n"; });
-    script::RunResult result = machine.run();
+    const script::RunListener listener = {
+        .onWarning = [&](const script::ScriptWarning& warning) { report.warning(warning); },
+        .onLog = [](const std::string& line) { std::cerr << line << "\n"; }};
+    script::RunResult result = script::run(program, services, listener);
     std::cout.flush();
     return result;
 }
@@ -76,7 +76,7 @@ int checkScript(const ScriptInput& input) {
     const std::optional<script::Program> program = source ? compiled(*source) : std::nullopt;
     if (!program) return failed;
     const Report report(source->name, source->text);
-    for (const script::ScriptWarning& warning : program->warnings) report.warning(warning);
+    for (const script::ScriptWarning& warning : program->warnings()) report.warning(warning);
     return succeeded;
 }
 

@@ -11,7 +11,7 @@
 #include "platform/KeyInjector.h"
 #include "platform/Utf8.h"
 #include "platform/script/code/Compiler.h"
-#include "platform/script/run/Machine.h"
+#include "platform/script/run/Run.h"
 
 namespace {
 
@@ -74,11 +74,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     BoundedInjector injector;
     script::SilentDesktop desktop;
     script::NoDialogs dialogs;
-    script::Machine machine(std::get<script::Program>(compiled), {injector, desktop, dialogs});
-    machine.onWarning([](const script::ScriptWarning& warning) {
+    const auto checkWarning = [](const script::ScriptWarning& warning) {
         if (warning.message.empty()) std::abort();
-    });
-    const script::RunResult result = machine.run();
+    };
+    const script::RunResult result = script::run(std::get<script::Program>(compiled),
+                                                 {injector, desktop, dialogs}, {.onWarning = checkWarning});
     if (result.error) check(*result.error);
     return 0;
 }

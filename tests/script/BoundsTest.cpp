@@ -5,8 +5,9 @@
 #include <gtest/gtest.h>
 
 #include "platform/script/code/Compiler.h"
-#include "platform/script/run/Machine.h"
+#include "platform/script/run/Run.h"
 #include "platform/script/syntax/Formatter.h"
+#include "platform/script/values/Shared.h"
 #include "script/RecordingInjector.h"
 #include "script/SmallStack.h"
 #include "script/Traced.h"
@@ -241,7 +242,7 @@ script::RunEnd endOfCancelled(const std::string& source) {
     injector.cancelled = true;
     script::SilentDesktop desktop;
     script::NoDialogs dialogs;
-    return script::Machine(std::get<script::Program>(program), {injector, desktop, dialogs}).run().end;
+    return script::run(std::get<script::Program>(program), {injector, desktop, dialogs}).end;
 }
 
 TEST(CancelBoundsTest, aScriptWithoutLoopsIsStoppedToo) {

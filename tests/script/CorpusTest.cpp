@@ -7,7 +7,7 @@
 
 #include "platform/Encoding.h"
 #include "platform/script/code/Compiler.h"
-#include "platform/script/run/Machine.h"
+#include "platform/script/run/Run.h"
 #include "platform/script/syntax/Formatter.h"
 #include "script/RecordingInjector.h"
 #include "support/Child.h"
@@ -22,7 +22,7 @@ void runBounded(const script::Program& program) {
     injector.duringEachStep = [&] { injector.cancelled = injector.calls.size() > 1000; };
     script::SilentDesktop desktop;
     script::NoDialogs dialogs;
-    const script::RunResult result = script::Machine(program, {injector, desktop, dialogs}).run();
+    const script::RunResult result = script::run(program, {injector, desktop, dialogs});
     if (result.error) {
         EXPECT_NE(result.error->number, 0);
     }

@@ -5,7 +5,7 @@
 #include <variant>
 
 #include "platform/script/code/Compiler.h"
-#include "platform/script/run/Machine.h"
+#include "platform/script/run/Run.h"
 #include "platform/script/run/TraceInjector.h"
 #include "platform/script/run/TraceServices.h"
 
@@ -27,14 +27,15 @@ Traced traced(const std::string& source) {
         return result;
     }
     const auto& program = std::get<script::Program>(compiled);
-    for (const auto& warning : program.warnings) result.warnings.push_back(printed(warning));
+    for (const auto& warning : program.warnings()) result.warnings.push_back(printed(warning));
     std::ostringstream events;
     script::TraceInjector injector(events);
     script::TraceDesktop desktop(events);
     script::TraceDialogs dialogs(events);
-    script::Machine machine(program, {injector, desktop, dialogs});
-    machine.onWarning([&](const auto& warning) { result.warnings.push_back(printed(warning)); });
-    const script::RunResult run = machine.run();
+    const auto note = [&](const script::ScriptWarning& warning) {
+        result.warnings.push_back(printed(warning));
+    };
+    const script::RunResult run = script::run(program, {injector, desktop, dialogs}, {.onWarning = note});
     result.events = events.str();
     result.value = run.value;
     if (run.error) {

@@ -9,12 +9,12 @@
 
 namespace script {
 
-Program CodeGenerator::generate() {
-    Program& program = m_out.program();
-    program.instructions.reserve(m_tree.nodes.size());
-    program.reals = m_tree.reals;
-    program.texts.reserve(m_tree.texts.size());
-    for (const std::string_view text : m_tree.texts) program.texts.emplace_back(std::string(text));
+Bytecode CodeGenerator::generate() {
+    Bytecode& code = m_out.code();
+    code.instructions.reserve(m_tree.nodes.size());
+    code.reals = m_tree.reals;
+    code.texts.reserve(m_tree.texts.size());
+    for (const std::string_view text : m_tree.texts) code.texts.emplace_back(std::string(text));
     collect();
     runPart();
     for (NodeId id = m_tree.at(0).firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
@@ -22,8 +22,8 @@ Program CodeGenerator::generate() {
         if (node.kind == NodeKind::handler && !isRun(node)) handler(node);
     }
     resolveCalls();
-    program.globals = m_out.script().names();
-    return std::move(program);
+    code.globals = m_out.script().names();
+    return std::move(code);
 }
 
 bool CodeGenerator::isRun(const Node& node) const { return &m_tree.names.at(node.value) == &names::run; }
@@ -185,10 +185,10 @@ void CodeGenerator::parameterName(NodeId pattern, std::set<NameId>& seen) {
 
 /// Handlers may be called before they stand.
 void CodeGenerator::resolveCalls() {
-    Program& program = m_out.program();
+    Bytecode& code = m_out.code();
     std::unordered_map<NameId, std::uint32_t> indices;
-    for (std::uint32_t i = 1; i < program.handlers.size(); ++i) indices.emplace(program.handlers[i].name, i);
-    for (Call& call : program.calls) {
+    for (std::uint32_t i = 1; i < code.handlers.size(); ++i) indices.emplace(code.handlers[i].name, i);
+    for (Call& call : code.calls) {
         const auto found = indices.find(call.name);
         if (found != indices.end()) call.handler = found->second;
     }
@@ -203,9 +203,9 @@ void CodeGenerator::failTwice(NameId parameter, std::uint32_t offset) {
 void CodeGenerator::finish(Handler handler, const Scope& scope, std::uint32_t enter) {
     const Node& root = m_tree.at(0);
     m_out.emit(Operation::returnValue, root, 0, 1);
-    m_out.program().instructions[enter].operand = static_cast<std::uint32_t>(scope.variables().size());
+    m_out.code().instructions[enter].operand = static_cast<std::uint32_t>(scope.variables().size());
     handler.variables = scope.variables();
-    m_out.program().handlers.push_back(std::move(handler));
+    m_out.code().handlers.push_back(std::move(handler));
 }
 
 }  // namespace script

@@ -10,7 +10,7 @@
 
 namespace script {
 
-/// Turns a tree without errors of syntax into a program.
+/// Turns a tree without errors of syntax into bytecode.
 ///
 /// First come the properties' values and what runs, then the handlers, each behind the other.
 class CodeGenerator {
@@ -18,8 +18,8 @@ class CodeGenerator {
     CodeGenerator(const Tree& tree, std::string_view source)
         : m_tree(tree), m_out(tree, source), m_statements(m_out) {}
 
-    /// Called once. The program's source and names are left empty.
-    Program generate();
+    /// Called once. Source and names are left empty.
+    Bytecode generate();
     /// What is wrong with names that a parser does not know of.
     const std::optional<ScriptError>& error() const { return m_out.error(); }
 

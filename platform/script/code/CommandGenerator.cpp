@@ -45,11 +45,11 @@ std::uint32_t CommandGenerator::parameters(NodeId first, const Command& command)
 
 /// The literal texts of what was just emitted.
 void CommandGenerator::planTexts(std::uint32_t from) {
-    Program& program = m_out.program();
+    Bytecode& code = m_out.code();
     for (std::uint32_t i = from; i < m_out.position(); ++i) {
-        const Instruction& instruction = program.instructions[i];
+        const Instruction& instruction = code.instructions[i];
         if (instruction.operation != Operation::pushText) continue;
-        program.typedTexts.push_back(program.texts[instruction.operand].str());
+        code.typedTexts.push_back(code.texts[instruction.operand].str());
     }
 }
 

@@ -34,11 +34,11 @@ std::variant<Program, ScriptError> compile(std::string source) {
         return error;
     }
     CodeGenerator generator(tree, source);
-    Program program = generator.generate();
+    Bytecode code = generator.generate();
     if (generator.error()) return *generator.error();
-    program.names = std::move(tree.names);
-    program.source = std::move(source);
-    return program;
+    code.names = std::move(tree.names);
+    code.source = std::move(source);
+    return Program(std::move(code));
 }
 
 }  // namespace script

@@ -6,8 +6,8 @@
 namespace script {
 
 void Emitter::warn(const Node& node, std::string message) {
-    if (m_program.warnings.size() >= maxWarnings) return;
-    m_program.warnings.push_back({std::move(message), m_locator.at(node.offset)});
+    if (m_code.warnings.size() >= maxWarnings) return;
+    m_code.warnings.push_back({std::move(message), m_locator.at(node.offset)});
 }
 
 void Emitter::fail(int number, std::string message, std::uint32_t offset) {

@@ -7,13 +7,13 @@
 #include <string>
 #include <string_view>
 
-#include "platform/script/code/Program.h"
+#include "platform/script/code/Bytecode.h"
 #include "platform/script/code/Scope.h"
 #include "platform/script/syntax/Node.h"
 
 namespace script {
 
-/// What the parts of the code generator share: the program as far as it is made, and the handler whose code
+/// What the parts of the code generator share: the bytecode as far as it is made, and the handler whose code
 /// is made.
 class Emitter {
   public:
@@ -23,22 +23,22 @@ class Emitter {
     Emitter(const Tree& tree, std::string_view source) : m_tree(tree), m_locator(source), m_source(source) {}
 
     const Tree& tree() const { return m_tree; }
-    Program& program() { return m_program; }
+    Bytecode& code() { return m_code; }
     ScriptVariables& script() { return m_script; }
     Scope& scope() { return *m_scope; }
     void setScope(Scope& scope) { m_scope = &scope; }
 
     void emit(Operation operation, const Node& node, std::uint32_t operand = 0, std::uint8_t detail = 0) {
-        m_program.instructions.push_back({operation, detail, operand, node.offset});
+        m_code.instructions.push_back({operation, detail, operand, node.offset});
     }
-    std::uint32_t position() const { return static_cast<std::uint32_t>(m_program.instructions.size()); }
+    std::uint32_t position() const { return static_cast<std::uint32_t>(m_code.instructions.size()); }
     /// Emits a jump whose target is not known yet; its place.
     std::uint32_t emitJump(Operation operation, const Node& node) {
         emit(operation, node);
         return position() - 1;
     }
     /// Makes the jump lead here.
-    void land(std::uint32_t jump) { m_program.instructions[jump].operand = position(); }
+    void land(std::uint32_t jump) { m_code.instructions[jump].operand = position(); }
 
     void warn(const Node& node, std::string message);
     /// Only the first one counts.
@@ -49,7 +49,7 @@ class Emitter {
     const Tree& m_tree;
     Locator m_locator;
     std::string_view m_source;
-    Program m_program;
+    Bytecode m_code;
     ScriptVariables m_script;
     Scope* m_scope = nullptr;
     std::optional<ScriptError> m_error;

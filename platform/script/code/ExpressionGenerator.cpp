@@ -197,7 +197,7 @@ void ExpressionGenerator::record(const Node& node) {
         expression(m_tree.at(field).firstChild);
         shape.push_back(m_tree.at(field).value);
     }
-    auto& shapes = m_out.program().shapes;
+    auto& shapes = m_out.code().shapes;
     shapes.push_back(std::move(shape));
     m_out.emit(Operation::pushRecord, node, static_cast<std::uint32_t>(shapes.size() - 1));
 }
@@ -225,7 +225,7 @@ void ExpressionGenerator::coercion(const Node& node) {
     for (NodeId type = list.firstChild; type != noNode; type = m_tree.at(type).nextSibling) {
         types.push_back(static_cast<Type>(m_tree.at(type).detail));
     }
-    auto& typeLists = m_out.program().typeLists;
+    auto& typeLists = m_out.code().typeLists;
     typeLists.push_back(std::move(types));
     m_out.emit(Operation::coerceAny, node, static_cast<std::uint32_t>(typeLists.size() - 1));
 }
@@ -265,7 +265,7 @@ void ExpressionGenerator::call(const Node& node, bool hasTarget) {
         call.labels.push_back(m_tree.at(id).value);
         ++call.count;
     }
-    auto& calls = m_out.program().calls;
+    auto& calls = m_out.code().calls;
     calls.push_back(std::move(call));
     m_out.emit(Operation::call, node, static_cast<std::uint32_t>(calls.size() - 1), hasTarget ? 1 : 0);
 }

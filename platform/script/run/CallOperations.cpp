@@ -45,7 +45,7 @@ bool orderByLabels(Execution& run, const Call& call, const Handler& handler) {
 }
 
 void callHandler(Execution& run, const Call& call, std::uint32_t index) {
-    const Handler& handler = run.program().handlers[index];
+    const Handler& handler = run.code().handlers[index];
     if (call.isLabelled && handler.isLabelled) {
         if (!orderByLabels(run, call, handler)) return;
     } else if (call.count != handler.labels.size() || handler.isLabelled) {
@@ -71,7 +71,7 @@ Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) 
 }
 
 void call(Execution& run, const Instruction& here) {
-    const Call& what = run.program().calls[here.operand];
+    const Call& what = run.code().calls[here.operand];
     const Value target = here.detail != 0 ? *(run.topValues(what.count + 1)) : run.target();
     const bool isScript = target.target() != nullptr && target.target()->kind == TargetBody::Kind::script;
     if (!isScript || what.handler == 0) {

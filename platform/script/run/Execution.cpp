@@ -22,14 +22,15 @@ const Counted* containerOf(const Value& value) {
 
 }  // namespace
 
-Execution::Execution(const Program& program, const MachineServices& services)
-    : m_program(program),
+Execution::Execution(const Bytecode& code, const MachineServices& services, RunListener listener)
+    : m_code(code),
       m_services(services),
-      m_globals(program.globals.size()),
+      m_listener(std::move(listener)),
+      m_globals(code.globals.size()),
       m_me(makeShared<TargetBody>(TargetBody::Kind::script, Text(""))),
       m_random(std::random_device{}()),
       m_memoryBefore(HeldMemory::bytes()),
-      m_locator(program.source) {
+      m_locator(code.source) {
     m_frames.emplace_back();
 }
 
@@ -46,11 +47,15 @@ Execution::~Execution() {
     }
 }
 
+RunResult run(const Program& program, const MachineServices& services, RunListener listener) {
+    return Execution(program.code(), services, std::move(listener)).run();
+}
+
 RunResult Execution::run() {
     const auto& table = operationTable();
     const std::size_t& held = HeldMemory::bytes();
     while (!m_result) {
-        const Instruction& instruction = m_program.instructions[m_next++];
+        const Instruction& instruction = m_code.instructions[m_next++];
         m_offset = instruction.offset;
         ++m_work;
         table[static_cast<std::size_t>(instruction.operation)](*this, instruction);
@@ -107,7 +112,7 @@ List Execution::popList(std::size_t count) {
 
 Value* Execution::findGlobal(const Name& wanted) {
     for (std::size_t slot = 0; slot < m_globals.size(); ++slot) {
-        if (&name(m_program.globals[slot]) == &wanted) return &m_globals[slot];
+        if (&name(m_code.globals[slot]) == &wanted) return &m_globals[slot];
     }
     return nullptr;
 }
@@ -139,7 +144,7 @@ void Execution::enterHandler(std::uint32_t index, std::size_t arguments) {
     frame.targets = m_targets.size();
     frame.attributes = m_attributes.size();
     m_frames.push_back(std::move(frame));
-    jump(m_program.handlers[index].start);
+    jump(m_code.handlers[index].start);
 }
 
 void Execution::addVariables(std::size_t count) {
@@ -196,7 +201,7 @@ void Execution::unwind() {
     if (m_tries.empty() || failure.isCancel) {
         m_result = RunResult{failure.isCancel ? RunEnd::cancelled : RunEnd::failed,
                              ScriptError{failure.number, std::move(failure.message),
-                                         locate(m_program.source, m_failureOffset), std::move(failure.hint)},
+                                         locate(m_code.source, m_failureOffset), std::move(failure.hint)},
                              ""};
         return;
     }
@@ -239,7 +244,7 @@ std::optional<Failure> Execution::play(const Step& step) {
         return Failure{number, "System Events got an error: " + error.message + hint};
     };
     if (m_session == nullptr) {
-        auto opened = m_services.injector.open({m_program.typedTexts});
+        auto opened = m_services.injector.open({m_code.typedTexts});
         if (!opened) return failed(errornumber::notAllowed, opened.error());
         m_session = std::move(opened).value();
     }
@@ -252,13 +257,13 @@ std::optional<Failure> Execution::play(const Step& step) {
 }
 
 void Execution::warn(std::string message) {
-    if (!m_warningHandler || m_warned.size() == maxWarnings) return;
+    if (!m_listener.onWarning || m_warned.size() == maxWarnings) return;
     if (!m_warned.emplace(m_offset, message).second) return;
-    m_warningHandler({std::move(message), m_locator.at(m_offset)});
+    m_listener.onWarning({std::move(message), m_locator.at(m_offset)});
 }
 
 void Execution::log(std::string line) {
-    if (m_logHandler) m_logHandler(line);
+    if (m_listener.onLog) m_listener.onLog(line);
 }
 
 }  // namespace script

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <random>
@@ -12,10 +11,9 @@
 #include <utility>
 #include <vector>
 
-#include "platform/script/code/Program.h"
+#include "platform/script/code/Bytecode.h"
 #include "platform/script/commands/Command.h"
-#include "platform/script/run/MachineServices.h"
-#include "platform/script/run/RunResult.h"
+#include "platform/script/run/Run.h"
 
 namespace script {
 
@@ -54,20 +52,16 @@ class Execution : public CommandStage {
     /// More warnings are left out: nobody reads them.
     static constexpr std::size_t maxWarnings = 1000;
 
-    Execution(const Program& program, const MachineServices& services);
+    /// Code and services outlive it.
+    Execution(const Bytecode& code, const MachineServices& services, RunListener listener);
     ~Execution() override;
     Execution(const Execution&) = delete;
     Execution& operator=(const Execution&) = delete;
 
-    using WarningHandler = std::function<void(const ScriptWarning&)>;
-    using LogHandler = std::function<void(const std::string&)>;
-    void onWarning(WarningHandler handler) { m_warningHandler = std::move(handler); }
-    void onLog(LogHandler handler) { m_logHandler = std::move(handler); }
-
     RunResult run();
 
-    const Program& program() const { return m_program; }
-    const Name& name(NameId id) const { return m_program.names.at(id); }
+    const Bytecode& code() const { return m_code; }
+    const Name& name(NameId id) const { return m_code.names.at(id); }
 
     // The stack of values.
     void push(Value value) { m_stack.push_back(std::move(value)); }
@@ -88,7 +82,7 @@ class Execution : public CommandStage {
     /// Null if the script has none of that name.
     Value* findGlobal(const Name& wanted);
     Frame& frame() { return m_frames.back(); }
-    const Handler& handler() const { return m_program.handlers[m_frames.back().handler]; }
+    const Handler& handler() const { return m_code.handlers[m_frames.back().handler]; }
 
     // Control.
     void jump(std::uint32_t target) { m_next = target; }
@@ -138,10 +132,9 @@ class Execution : public CommandStage {
     void unwind();
     void finish(const Value& value);
 
-    const Program& m_program;
+    const Bytecode& m_code;
     MachineServices m_services;
-    WarningHandler m_warningHandler;
-    LogHandler m_logHandler;
+    RunListener m_listener;
     std::unique_ptr<InjectionSession> m_session;
     std::vector<Value> m_stack;
     std::vector<Value> m_globals;

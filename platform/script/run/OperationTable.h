@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 
-#include "platform/script/code/Program.h"
+#include "platform/script/code/Bytecode.h"
 
 namespace script {
 

@@ -4,7 +4,7 @@
 #include <variant>
 
 #include "platform/script/code/Compiler.h"
-#include "platform/script/run/Machine.h"
+#include "platform/script/run/Run.h"
 #include "platform/script/source/Scoped.h"
 
 namespace script {
@@ -14,7 +14,7 @@ void ScriptRunner::run(const std::string& source) {
     const Scoped<bool> running(m_running, true);
     const std::variant<Program, ScriptError> compiled = compile(source);
     const auto* program = std::get_if<Program>(&compiled);
-    if (program != nullptr) Machine(*program, {m_injector, m_desktop, *m_dialogs}).run();
+    if (program != nullptr) script::run(*program, {m_injector, m_desktop, *m_dialogs});
 }
 
 }  // namespace script

@@ -19,8 +19,8 @@ void pushNothing(Execution& run, const Instruction& /*unused*/) { run.push(Value
 void pushMissing(Execution& run, const Instruction& /*unused*/) { run.push(Value{Missing()}); }
 void pushTruth(Execution& run, const Instruction& here) { run.push(Value{here.operand != 0}); }
 void pushInteger(Execution& run, const Instruction& here) { run.push(Value{std::int64_t{here.operand}}); }
-void pushReal(Execution& run, const Instruction& here) { run.push(Value{run.program().reals[here.operand]}); }
-void pushText(Execution& run, const Instruction& here) { run.push(Value{run.program().texts[here.operand]}); }
+void pushReal(Execution& run, const Instruction& here) { run.push(Value{run.code().reals[here.operand]}); }
+void pushText(Execution& run, const Instruction& here) { run.push(Value{run.code().texts[here.operand]}); }
 void pushModifier(Execution& run, const Instruction& here) {
     run.push(Value{Modifier{here.operand, here.detail != 0}});
 }
@@ -42,7 +42,7 @@ void pushResult(Execution& run, const Instruction& /*unused*/) {
 
 void pushApplication(Execution& run, const Instruction& here) {
     const auto kind = here.detail != 0 ? TargetBody::Kind::systemEvents : TargetBody::Kind::application;
-    run.push(Value{makeShared<TargetBody>(kind, run.program().texts[here.operand])});
+    run.push(Value{makeShared<TargetBody>(kind, run.code().texts[here.operand])});
 }
 
 void makeNamed(Execution& run, TargetBody::Kind kind) {
@@ -67,7 +67,7 @@ void pushList(Execution& run, const Instruction& here) {
 }
 
 void pushRecord(Execution& run, const Instruction& here) {
-    const std::vector<NameId>& shape = run.program().shapes[here.operand];
+    const std::vector<NameId>& shape = run.code().shapes[here.operand];
     List values = run.popList(shape.size());
     std::vector<Field> fields;
     fields.reserve(shape.size());
@@ -86,8 +86,7 @@ void loadLocal(Execution& run, const Instruction& here) {
 
 void loadGlobal(Execution& run, const Instruction& here) {
     const Value& value = run.global(here.operand);
-    if (value.is<Nothing>())
-        return failUndefined(run, run.name(run.program().globals[here.operand]).spelling);
+    if (value.is<Nothing>()) return failUndefined(run, run.name(run.code().globals[here.operand]).spelling);
     run.push(Value(value));
 }
 
@@ -253,7 +252,7 @@ void coerce(Execution& run, const Instruction& here) {
 void coerceAny(Execution& run, const Instruction& here) {
     const Value value = run.popResolved();
     if (run.hasFailed()) return;
-    const std::vector<Type>& types = run.program().typeLists[here.operand];
+    const std::vector<Type>& types = run.code().typeLists[here.operand];
     for (const Type type : types) {
         if (typeOf(value) == type) return run.push(value);
     }

@@ -28,7 +28,7 @@ TEST(CompilerTest, aProgramIsOnItsOwn) {
     auto compiled = script::compile(source);
     source.assign(source.size(), 'x');
     const auto program = std::get<script::Program>(std::move(compiled));
-    EXPECT_EQ(program.typedTexts, (std::vector<std::string>{"é", "b\n", "w"}));
+    EXPECT_EQ(program.typedTexts(), (std::vector<std::string>{"é", "b\n", "w"}));
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/script/run/Machine.h"
+#include "platform/script/run/Run.h"
 
 #include <gtest/gtest.h>
 
@@ -18,8 +18,8 @@ TEST(MachineTest, anApplicationThatIsNotThereFailsWhereItIsTold) {
         RecordingInjector injector;
         script::SilentDesktop desktop;
         script::NoDialogs dialogs;
-        script::Machine machine(std::get<script::Program>(compiled), {injector, desktop, dialogs});
-        const script::RunResult result = machine.run();
+        const script::RunResult result =
+            script::run(std::get<script::Program>(compiled), {injector, desktop, dialogs});
         ASSERT_TRUE(result.error) << source;
         EXPECT_EQ(result.error->number, -1728);
         EXPECT_EQ(result.error->message, "Can’t get application \"Other\".");

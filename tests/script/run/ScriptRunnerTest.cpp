@@ -6,7 +6,7 @@
 #include "contracts/ScriptingServiceContract.h"
 #include "platform/fake/FakePlatform.h"
 #include "platform/script/code/Compiler.h"
-#include "platform/script/run/Machine.h"
+#include "platform/script/run/Run.h"
 #include "script/RecordingInjector.h"
 
 namespace {
@@ -24,7 +24,7 @@ class ScriptRunnerTest : public testing::Test {
             script::compile("tell application \"System Events\"\n" + lines + "\nend tell\n");
         script::SilentDesktop desktop;
         script::NoDialogs dialogs;
-        return script::Machine(std::get<script::Program>(compiled), {m_injector, desktop, dialogs}).run();
+        return script::run(std::get<script::Program>(compiled), {m_injector, desktop, dialogs});
     }
 
     RecordingInjector m_injector;
