@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <bitset>
 #include <cstdint>
 
 /// The key codes of XKB keymaps, which X servers and toolkits count by: those of evdev, moved up since the
@@ -20,3 +21,6 @@ constexpr std::uint8_t fromEvdev(std::uint16_t evdev) {
 constexpr std::uint16_t toEvdev(std::uint32_t code) { return static_cast<std::uint16_t>(code - evdevOffset); }
 
 }  // namespace xkbcode
+
+/// Some keys, by their XKB key codes.
+using KeycodeSet = std::bitset<256>;

@@ -5,7 +5,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/keymap/KeycodeSet.h"
+#include "platform/XkbCodes.h"
 #include "platform/keymap/Keymap.h"
 #include "platform/keymap/Stroke.h"
 

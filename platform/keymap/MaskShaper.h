@@ -16,7 +16,7 @@ struct TypedKey {
     friend bool operator==(const TypedKey&, const TypedKey&) = default;
 };
 
-/// The report of a press of `keycode` (evdev + 8) while the real modifiers `modifiers` (held, latched and
+/// The report of a press of `keycode` (XKB) while the real modifiers `modifiers` (held, latched and
 /// locked) and the group `layout` are in force. `modifierHeld` tells whether a modifier key is down: the mask
 /// is not 0 then.
 ///

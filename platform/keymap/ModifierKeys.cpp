@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "platform/XkbCodes.h"
 #include "platform/keymap/ModifierMasks.h"
 #include "platform/keymap/XkbPointers.h"
 
@@ -79,6 +78,14 @@ std::uint8_t ModifierKeys::keyFor(xkb_mod_mask_t modifier) const {
     if (usual != usualKeys.end()) return *usual;
     const auto* const any = std::find(m_momentary.begin(), m_momentary.end(), modifier);
     return any == m_momentary.end() ? std::uint8_t{0} : static_cast<std::uint8_t>(any - m_momentary.begin());
+}
+
+xkb_mod_mask_t ModifierKeys::heldBy(const KeycodeSet& keycodes) const {
+    xkb_mod_mask_t modifiers = 0;
+    for (std::size_t keycode = 0; keycodes.any() && keycode < keycodes.size(); ++keycode) {
+        if (keycodes[keycode]) modifiers |= m_held[keycode];
+    }
+    return modifiers;
 }
 
 bool ModifierKeys::canHold(xkb_mod_mask_t mask) const {

@@ -4,9 +4,10 @@
 #include <xkbcommon/xkbcommon.h>
 
 #include <array>
-#include <bitset>
 #include <cstdint>
 #include <vector>
+
+#include "platform/XkbCodes.h"
 
 /// What each key of a keymap does to the modifiers (real ones, see ModifierMasks.h).
 ///
@@ -29,6 +30,8 @@ class ModifierKeys {
 
     /// The modifiers that the key holds while it is down, of all layouts together.
     xkb_mod_mask_t heldBy(std::uint8_t keycode) const { return m_held[keycode]; }
+    /// The same of several keys together.
+    xkb_mod_mask_t heldBy(const KeycodeSet& keycodes) const;
 
     /// Whether a stroke of the key leaves a lock or a latch behind.
     bool isLock(std::uint8_t keycode) const { return m_locks[keycode]; }
@@ -48,5 +51,5 @@ class ModifierKeys {
     /// The modifiers held where they are the same in all layouts and nothing is left of them afterwards; else
     /// 0.
     std::array<xkb_mod_mask_t, 256> m_momentary{};
-    std::bitset<256> m_locks;
+    KeycodeSet m_locks;
 };

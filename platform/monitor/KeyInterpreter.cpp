@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/monitor/KeyInterpreter.h"
 
+#include "platform/XkbCodes.h"
+
 namespace {
 
-/// Escape by its position (evdev 1), as the manual calls it.
-constexpr std::uint8_t escapeKeycode = 9;
+/// Escape by its position, as the manual calls it.
+constexpr std::uint8_t escapeKeycode = xkbcode::fromEvdev(1);
 
 }  // namespace
 

@@ -7,14 +7,6 @@ namespace x11 {
 
 namespace {
 
-xkb_mod_mask_t heldModifiers(const ModifierKeys& keys, const KeycodeSet& held) {
-    xkb_mod_mask_t modifiers = 0;
-    for (std::size_t keycode = 0; keycode < held.size(); ++keycode) {
-        if (held[keycode]) modifiers |= keys.heldBy(static_cast<std::uint8_t>(keycode));
-    }
-    return modifiers;
-}
-
 /// The keys of `among` that hold one of the modifiers.
 KeycodeSet holdersOf(const ModifierKeys& keys, xkb_mod_mask_t modifiers, const KeycodeSet& among) {
     KeycodeSet holders;
@@ -67,7 +59,7 @@ Result<XkbComponents> HandsAndLocks::check(const KeymapWatch& keymap, const Keyc
 /// Queues what has to be done; true if there is something.
 bool HandsAndLocks::repair(const KeymapWatch& keymap, const KeycodeSet& held, const XkbComponents& state) {
     const Keymap& map = keymap.keymap();
-    const xkb_mod_mask_t own = held.any() ? heldModifiers(map.keys(), held) : 0;
+    const xkb_mod_mask_t own = map.keys().heldBy(held);
     const xkb_mod_mask_t foreign = state.depressed & ~own;
     const xkb_mod_mask_t undone = own & ~state.depressed;
     const bool hasPress = m_watch.takeModifierPress();

@@ -10,14 +10,6 @@ namespace x11 {
 
 namespace {
 
-xkb_mod_mask_t modifiersHeldBy(const ModifierKeys& keys, const KeycodeSet& held) {
-    xkb_mod_mask_t modifiers = 0;
-    for (std::size_t keycode = 0; held.any() && keycode < held.size(); ++keycode) {
-        if (held[keycode]) modifiers |= keys.heldBy(static_cast<std::uint8_t>(keycode));
-    }
-    return modifiers;
-}
-
 /// The keys for the modifiers that are not down yet.
 std::vector<std::uint8_t> missingKeys(const ModifierKeys& keys, const Stroke& stroke, xkb_mod_mask_t down) {
     std::vector<std::uint8_t> missing;
@@ -44,7 +36,7 @@ std::size_t StrokeSender::sizeOf(const Stroke& stroke) {
 }
 
 Result<void> StrokeSender::send(const ModifierKeys& keys, const Stroke& stroke, const KeycodeSet& held) {
-    const xkb_mod_mask_t down = modifiersHeldBy(keys, held);
+    const xkb_mod_mask_t down = keys.heldBy(held);
     const auto modifiers = missingKeys(keys, stroke, down);
     const bool isLifted =
         m_watch.liftHotKey(stroke.keycode, static_cast<std::uint16_t>(stroke.modifiers | down));
@@ -65,7 +57,7 @@ Result<void> StrokeSender::send(const ModifierKeys& keys, const Stroke& stroke, 
 
 std::vector<std::uint8_t> StrokeSender::hold(const ModifierKeys& keys, const Stroke& stroke,
                                              const KeycodeSet& held) {
-    auto pressed = missingKeys(keys, stroke, modifiersHeldBy(keys, held));
+    auto pressed = missingKeys(keys, stroke, keys.heldBy(held));
     pressed.push_back(stroke.keycode);
     setLocks(stroke);
     for (const std::uint8_t keycode : pressed) m_connection.press(keycode);

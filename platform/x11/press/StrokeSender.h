@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/keymap/KeycodeSet.h"
+#include "platform/XkbCodes.h"
 #include "platform/keymap/ModifierKeys.h"
 #include "platform/keymap/Stroke.h"
 #include "platform/x11/press/InjectionConnection.h"
