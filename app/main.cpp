@@ -1,35 +1,58 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
 #include <QDir>
+#include <cstdio>
 
+#include "app/program/Backends.h"
+#include "app/program/CommandLine.h"
 #include "app/program/Program.h"
 #include "app/program/ProgramInstance.h"
 #include "app/program/SessionBusCheck.h"
-#include "app/program/X11Backends.h"
+#include "app/program/StartUp.h"
 
 namespace {
 
-/// The files on the command line, which is all that it can hold.
-QStringList filesToOpen() {
-    QStringList files = QCoreApplication::arguments().mid(1);
-    for (QString& file : files) file = QDir::current().absoluteFilePath(file);
-    return files;
+QStringList absolutePaths(const std::vector<std::string>& files) {
+    QStringList paths;
+    for (const std::string& file : files) {
+        paths.append(QDir::current().absoluteFilePath(QFile::decodeName(file.c_str())));
+    }
+    return paths;
+}
+
+/// The arguments that the toolkit has left over.
+std::vector<std::string> argumentsOfProgram() {
+    std::vector<std::string> arguments;
+    for (const QString& argument : QCoreApplication::arguments().mid(1)) {
+        arguments.push_back(QFile::encodeName(argument).toStdString());
+    }
+    return arguments;
+}
+
+int print(const std::string& text) {
+    return std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 }  // namespace
 
 // Nothing is touched before it is certain that this is the only one.
 int main(int argc, char* argv[]) {
-    const auto display = chooseX11Display();
-    if (!display) return reportFailure(display.error());
+    const CommandLine wishes = readCommandLine({argv + std::min(argc, 1), argv + argc});
+    if (wishes.wish == CommandLine::Wish::help) return print(usage(sessionKinds()));
+    if (wishes.wish == CommandLine::Wish::version) return print("keyrill " KEYRILL_VERSION "\n");
+    const auto session = enterSession(wishes.session);
+    if (!session) return reportFailure(session.error());
     avoidHangingSessionBus();
     const QApplication application(argc, argv);
+    const CommandLine line = readCommandLine(argumentsOfProgram());
+    const auto known = checkOptions(line);
+    if (!known) return reportFailure(known.error());
     ProgramInstance instance;
-    if (!instance.claim()) return instance.handOver(filesToOpen());
-    const auto backends = X11Backends::open();
+    if (!instance.claim()) return instance.handOver(absolutePaths(line.files));
+    const auto backends = Backends::open(session.value());
     if (!backends) return reportFailure(backends.error());
     Program program(*backends.value());
     program.follow(instance);
-    program.openFiles(filesToOpen());
+    program.openFiles(absolutePaths(line.files));
     return QApplication::exec();
 }

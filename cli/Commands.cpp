@@ -117,16 +117,15 @@ int runScript(const ScriptInput& input) {
     TerminalDialogs dialogs(playback.value()->injector());
     const script::RunResult result =
         run(*source, *program, {playback.value()->injector(), playback.value()->desktop(), dialogs});
-    if (result.end == script::RunEnd::cancelled && playback.value()->isLost()) {
-        reportError("", {"The X server is gone.", ""});
+    const auto connection = playback.value()->connection();
+    if (result.end == script::RunEnd::cancelled && !connection) {
+        reportError("", connection.error());
     } else {
         tell(*source, result);
     }
     if (!input.lines.empty() && !result.value.empty()) std::cout << result.value << std::endl;
-    playback.value()->leaveClipboard();
-    const int signalNumber = playback.value()->signalNumber();
     playback.value().reset();
     // Whoever waits for this process is told how it ended.
-    if (signalNumber != 0) raise(signalNumber);
+    if (Playback::signalNumber() != 0) raise(Playback::signalNumber());
     return statusOf(result);
 }

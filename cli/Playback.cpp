@@ -7,9 +7,7 @@
 #include <utility>
 
 #include "platform/linux/SteadyClock.h"
-#include "platform/x11/press/X11KeyInjector.h"
-#include "platform/x11/watch/X11EventManager.h"
-#include "platform/x11/windows/X11ScriptDesktop.h"
+#include "platform/sessions/Sessions.h"
 
 namespace {
 
@@ -17,7 +15,7 @@ constexpr std::array<int, 3> signalNumbers{SIGINT, SIGTERM, SIGHUP};
 
 /// What the signal handler knows: it is given nothing but the number.
 struct Known {
-    x11::X11KeyInjector* injector = nullptr;
+    Session* session = nullptr;
     volatile sig_atomic_t received = 0;
 };
 
@@ -29,7 +27,7 @@ Known& known() {
 
 void handleSignal(int number) {
     known().received = number;
-    if (known().injector != nullptr) known().injector->interrupt();
+    if (known().session != nullptr) known().session->interrupt();
 }
 
 void setHandlers(void (*handler)(int)) {
@@ -39,40 +37,28 @@ void setHandlers(void (*handler)(int)) {
     for (const int number : signalNumbers) sigaction(number, &action, nullptr);
 }
 
-class X11Playback final : public Playback {
-  public:
-    X11Playback(std::unique_ptr<SteadyClock> clock, std::unique_ptr<x11::X11EventManager> events)
-        : m_clock(std::move(clock)), m_events(std::move(events)), m_injector(m_events->runWatch(), *m_clock) {
-        known().injector = &m_injector;
-        setHandlers(handleSignal);
-    }
-    /// A signal that comes this late is let through: nothing is held any more.
-    ~X11Playback() override {
-        setHandlers(SIG_DFL);
-        known().injector = nullptr;
-    }
-    X11Playback(const X11Playback&) = delete;
-    X11Playback& operator=(const X11Playback&) = delete;
-
-    KeyInjector& injector() override { return m_injector; }
-    ScriptDesktop& desktop() override { return m_desktop; }
-    void leaveClipboard() override { m_desktop.clipboardOfScripts().leave(); }
-    int signalNumber() const override { return known().received; }
-    bool isLost() const override { return m_events->isBroken(); }
-
-  private:
-    std::unique_ptr<SteadyClock> m_clock;
-    std::unique_ptr<x11::X11EventManager> m_events;
-    x11::X11ScriptDesktop m_desktop{*m_clock};
-    x11::X11KeyInjector m_injector;
-};
-
 }  // namespace
 
 Result<std::unique_ptr<Playback>> Playback::make() {
+    const auto kind = chooseSession({});
+    if (!kind) return kind.error();
     auto clock = std::make_unique<SteadyClock>();
-    Result<std::unique_ptr<x11::X11EventManager>> events = x11::X11EventManager::open(*clock);
-    if (!events) return events.error();
-    return std::unique_ptr<Playback>(
-        std::make_unique<X11Playback>(std::move(clock), std::move(events).value()));
+    auto session = kind.value().open(*clock, SessionUse::scripts);
+    if (!session) return session.error();
+    return std::unique_ptr<Playback>(new Playback(std::move(clock), std::move(session).value()));
 }
+
+Playback::Playback(std::unique_ptr<Clock> clock, std::unique_ptr<Session> session)
+    : m_clock(std::move(clock)), m_session(std::move(session)) {
+    known().session = m_session.get();
+    setHandlers(handleSignal);
+}
+
+Playback::~Playback() {
+    // Nothing runs any more that could be ended.
+    known().session = nullptr;
+    m_session.reset();
+    setHandlers(SIG_DFL);
+}
+
+int Playback::signalNumber() { return known().received; }

@@ -3,9 +3,8 @@
 
 #include <memory>
 
-#include "platform/KeyInjector.h"
-#include "platform/Result.h"
-#include "platform/ScriptDesktop.h"
+#include "platform/Clock.h"
+#include "platform/Session.h"
 
 /// The way to press keys in the session that the program was started in, for the length of one run.
 ///
@@ -15,17 +14,21 @@ class Playback {
     /// Fails where there is no session in which keys can be pressed.
     static Result<std::unique_ptr<Playback>> make();
 
-    Playback() = default;
-    virtual ~Playback() = default;
+    /// Puts back what the run has changed, which no signal cuts short.
+    ~Playback();
     Playback(const Playback&) = delete;
     Playback& operator=(const Playback&) = delete;
 
-    virtual KeyInjector& injector() = 0;
-    virtual ScriptDesktop& desktop() = 0;
-    /// What a run has put into the clipboard is to outlive this process.
-    virtual void leaveClipboard() = 0;
-    /// The signal that ended the run; 0 if none came.
-    virtual int signalNumber() const = 0;
-    /// Whether the session is gone, which ends the run as a wish of the user's does.
-    virtual bool isLost() const = 0;
+    KeyInjector& injector() { return m_session->sessionServices().keyInjector; }
+    ScriptDesktop& desktop() { return m_session->sessionServices().scriptDesktop; }
+    /// The signal that came, also while the last object was destroyed; 0 if none came.
+    static int signalNumber();
+    /// Whether the session is still there; its end ends the run as a wish of the user's does.
+    Result<void> connection() const { return m_session->connection(); }
+
+  private:
+    Playback(std::unique_ptr<Clock> clock, std::unique_ptr<Session> session);
+
+    std::unique_ptr<Clock> m_clock;
+    std::unique_ptr<Session> m_session;
 };

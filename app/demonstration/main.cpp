@@ -5,8 +5,9 @@
 #include <fstream>
 #include <sstream>
 
+#include "app/program/Backends.h"
 #include "app/program/Program.h"
-#include "app/program/X11Backends.h"
+#include "app/program/StartUp.h"
 #include "core/MacroManager.h"
 #include "engine/EngineState.h"
 #include "engine/SharedController.h"
@@ -40,12 +41,12 @@ class PrintingController : public SharedController {
 };
 
 /// Takes what it needs from the arguments.
-Result<std::unique_ptr<X11Backends>> openBackends(QStringList& arguments) {
-    if (arguments.value(0) != QStringLiteral("--updates")) return X11Backends::open();
+Result<std::unique_ptr<Backends>> openBackends(const SessionKind& kind, QStringList& arguments) {
+    if (arguments.value(0) != QStringLiteral("--updates")) return Backends::open(kind);
     const std::string url = arguments.value(1).toStdString();
     const std::string authorities = arguments.value(2).toStdString();
     arguments = arguments.mid(3);
-    return X11Backends::open(url, authorities);
+    return Backends::open(kind, url, authorities);
 }
 
 void loadScript(const std::string& file) {
@@ -59,11 +60,11 @@ void loadScript(const std::string& file) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    const auto display = chooseX11Display();
-    if (!display) return reportFailure(display.error());
+    const auto session = enterSession();
+    if (!session) return reportFailure(session.error());
     const QApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments().mid(1);
-    const auto backends = openBackends(arguments);
+    const auto backends = openBackends(session.value(), arguments);
     if (!backends) return reportFailure(backends.error());
     Program program(*backends.value());
     PrintingController printing(program.controller());

@@ -7,14 +7,17 @@
 #include "app/gallery/Camera.h"
 #include "app/gallery/Palettes.h"
 #include "app/gallery/Scenes.h"
-#include "app/program/X11Backends.h"
+#include "app/program/Backends.h"
+#include "app/program/StartUp.h"
 
 // keyrill-gallery FOLDER [--dark] [--rtl]
 
 int main(int argc, char* argv[]) {
-    const auto backends = X11Backends::open();
-    if (!backends) return reportFailure(backends.error());
+    const auto session = enterSession();
+    if (!session) return reportFailure(session.error());
     QApplication application(argc, argv);
+    const auto backends = Backends::open(session.value());
+    if (!backends) return reportFailure(backends.error());
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 2) qFatal("usage: keyrill-gallery FOLDER [--dark] [--rtl]");
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));

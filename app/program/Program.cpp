@@ -3,21 +3,17 @@
 
 #include <QApplication>
 
+#include "app/program/Backends.h"
 #include "app/program/ProgramInstance.h"
-#include "app/program/X11Backends.h"
+#include "platform/EventSource.h"
+#include "platform/Session.h"
 #include "platform/Windows.h"
-#include "platform/linux/BusLoop.h"
 #include "platform/script/run/ScriptRunner.h"
-#include "platform/x11/press/X11KeyInjector.h"
-#include "platform/x11/watch/X11EventManager.h"
-#include "platform/x11/windows/X11DockingTray.h"
 
 namespace {
 
 // A run does not return to the event loop before its end, so a signal has to end it first.
-void interruptRun(void* injector) {
-    if (injector != nullptr) static_cast<x11::X11KeyInjector*>(injector)->interrupt();
-}
+void interruptRun(void* session) { static_cast<Session*>(session)->interrupt(); }
 
 QtDialogs::Focus focusOf(Windows& windows) {
     const auto idOf = [](QWidget& window) { return static_cast<WindowId>(window.winId()); };
@@ -28,31 +24,26 @@ QtDialogs::Focus focusOf(Windows& windows) {
 
 }  // namespace
 
-Program::Program(X11Backends& backends)
-    : m_statusItem(backends.dockingTray()),
-      m_dialogs(focusOf(backends.windows())),
-      m_controller(backends.services(), backends.windows(), m_statusItem, m_dialogs),
-      m_signals(interruptRun, backends.keyInjector()),
-      m_trayReadable(backends.dockingTray().fileDescriptor(), QSocketNotifier::Read),
-      m_busesReadable(backends.busLoop().fileDescriptor(), QSocketNotifier::Read) {
+Program::Program(Backends& backends)
+    : m_statusItem(backends.session().sessionServices().dockingTray),
+      m_dialogs(focusOf(backends.session().sessionServices().windows)),
+      m_controller(backends.services(), backends.session().sessionServices().windows, m_statusItem,
+                   m_dialogs),
+      m_signals(interruptRun, &backends.session()) {
     backends.scripting().askThrough(m_controller.scriptDialogs());
     QApplication::setApplicationName(QStringLiteral("keyrill"));
     QApplication::setDesktopFileName(QStringLiteral("example.orlen.Keyrill"));
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_signals, &TerminationSignals::received, &m_controller, &AppController::kill);
-    if (backends.eventManager() != nullptr) watchEvents(*backends.eventManager());
-    QObject::connect(&m_trayReadable, &QSocketNotifier::activated,
-                     [&tray = backends.dockingTray()] { tray.dispatch(); });
-    QObject::connect(&m_busesReadable, &QSocketNotifier::activated,
-                     [&buses = backends.busLoop()] { buses.dispatch(); });
+    for (EventSource* source : backends.eventSources()) serve(*source);
     QTimer::singleShot(0, &m_controller, &AppController::awakeFromNib);
 }
 
-void Program::watchEvents(x11::X11EventManager& manager) {
-    m_eventsReadable = std::make_unique<QSocketNotifier>(manager.fileDescriptor(), QSocketNotifier::Read);
+void Program::serve(EventSource& source) {
+    m_readable.push_back(std::make_unique<QSocketNotifier>(source.fileDescriptor(), QSocketNotifier::Read));
     // A server that is gone is the toolkit's to notice: it says so and ends the program.
-    QObject::connect(m_eventsReadable.get(), &QSocketNotifier::activated, &m_controller,
-                     [&manager] { manager.dispatch(); });
+    QObject::connect(m_readable.back().get(), &QSocketNotifier::activated, &m_controller,
+                     [&source] { source.dispatch(); });
 }
 
 void Program::follow(const ProgramInstance& instance) {

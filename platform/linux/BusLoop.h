@@ -5,21 +5,22 @@
 #include <memory>
 #include <vector>
 
-/// What the program hears on message buses, as a part of any event loop: while the file descriptor is
-/// readable, dispatch() has something to do.
+#include "platform/EventSource.h"
+
+/// What the program hears on message buses, as a part of any event loop.
 ///
 /// Why: the toolkit's own loop need not be GLib's.
-class BusLoop {
+class BusLoop final : public EventSource {
   public:
     BusLoop();
-    ~BusLoop();
+    ~BusLoop() override;
     BusLoop(const BusLoop&) = delete;
     BusLoop& operator=(const BusLoop&) = delete;
 
-    int fileDescriptor() const;
+    int fileDescriptor() const override;
 
     /// Takes in what has come, then lets the observers tell of it. Never waits.
-    void dispatch();
+    void dispatch() override;
 
     /// Takes in what has come and no more; for a state that is asked for beside the loop.
     void update() const;

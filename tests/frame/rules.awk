@@ -8,7 +8,6 @@ BEGIN {
 
     # A room is a folder: the folders whose headers it may include beside its own; what it may, and may not,
     # include in angle brackets. Files elsewhere (tests, measurements) include what they like.
-    x11Shown = "platform/x11/press platform/x11/server platform/x11/watch platform/x11/windows"
     foreign = "^(Q|boost/|xcb/|X11/|xkbcommon/|wayland)"
     room("platform", "", standard, "")
     room("platform/fake", "platform", standard, "")
@@ -34,6 +33,11 @@ BEGIN {
     x11("watch", "platform platform/keymap platform/monitor platform/run platform/x11/keymap platform/x11/server")
     x11("press", "platform platform/keymap platform/run platform/x11/guard platform/x11/keymap" \
                  " platform/x11/server platform/x11/windows")
+    room("platform/x11", "platform platform/none platform/x11/press platform/x11/server platform/x11/watch" \
+                         " platform/x11/windows", "", "^(Q|boost/|wayland)")
+
+    # The one list of sessions: nothing else that is no part of a session knows one.
+    room("platform/sessions", "platform platform/x11", "", foreign)
 
     room("core", "platform", standard "|^boost/", "")
     room("prefs", "core platform", standard "|^boost/", "")
@@ -48,15 +52,15 @@ BEGIN {
     app("tray", "app/icons app/widgets platform")
     app("controller", "app/dialogs app/overlay app/panels app/shortcuts app/tray app/widgets" \
                       " engine prefs core platform")
-    # The one place that chooses backends and joins everything; programs are made of it.
-    app("program", "app/controller app/dialogs app/tray platform platform/linux platform/none" \
-                   " platform/script/run " x11Shown)
+    # Joins the controller with services and event loop; programs are made of it.
+    app("program", "app/controller app/dialogs app/tray platform platform/linux platform/script/run" \
+                   " platform/sessions")
     app("demonstration", "app/program engine core")
     app("gallery", "app/program app/dialogs app/icons app/overlay app/panels app/shortcuts app/tray")
     room("app", "app/program", "", "^(boost/|xcb/|X11/|xkbcommon/|wayland)")
     # A program of its own, without a toolkit.
     room("cli", "platform platform/linux platform/script/run platform/script/code platform/script/syntax" \
-                " platform/script/commands platform/script/source " x11Shown, "", foreign)
+                " platform/script/commands platform/script/source platform/sessions", "", foreign)
 
     ofRooms = "^(app|cli|core|engine|library|platform|prefs)/"
     mayCallServices = "^(core/KeyNames|engine/(HotKeyCenter|AppleScript|MacroPlayer|KeyRecorder))\\.cpp$" \

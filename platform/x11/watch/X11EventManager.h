@@ -8,6 +8,7 @@
 
 #include "platform/Clock.h"
 #include "platform/EventMonitor.h"
+#include "platform/EventSource.h"
 #include "platform/HotKeys.h"
 #include "platform/Result.h"
 
@@ -22,7 +23,7 @@ namespace x11 {
 /// their own, since one that holds grabs is not sent the raw releases of the keys that it grabs.
 ///
 /// Nothing seen is logged or kept. Lives on one thread; `clock` outlives it.
-class X11EventManager final : public EventMonitor, public HotKeys {
+class X11EventManager final : public EventSource, public EventMonitor, public HotKeys {
   public:
     /// Connects to `display`, or to $DISPLAY if it is empty. Fails where the server cannot be reached or
     /// lacks XInput 2.2 or XKB.
@@ -32,10 +33,10 @@ class X11EventManager final : public EventMonitor, public HotKeys {
     X11EventManager& operator=(const X11EventManager&) = delete;
 
     /// For the event loop: readable when dispatch() has something to do, also when that is already in memory.
-    int fileDescriptor() const;
+    int fileDescriptor() const override;
     /// Delivers everything that has come. Called again from within a handler it reads and keeps, and the
     /// outer call delivers. Does nothing while a run lasts.
-    void dispatch();
+    void dispatch() override;
 
     /// True once the server is gone: nothing comes any more, the descriptor is never readable again.
     bool isBroken() const;

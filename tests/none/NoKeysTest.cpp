@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/none/UnavailableKeys.h"
+#include "platform/none/NoKeys.h"
 
 #include <gtest/gtest.h>
 
@@ -7,15 +7,15 @@ namespace {
 
 const Error why{"The X server has no XInput.", "Use another."};
 
-TEST(UnavailableKeysTest, answersEachRequestWithTheError) {
-    UnavailableKeys keys(why);
+TEST(NoKeysTest, answersEachRequestWithTheError) {
+    NoKeys keys(why);
     EXPECT_EQ(keys.eventMonitor.install({}).error(), why);
     EXPECT_EQ(keys.keyInjector.open({}).error(), why);
     EXPECT_EQ(keys.keyboardLayout.character(0, false, false).error(), why);
 }
 
-TEST(UnavailableKeysTest, refusesEachCombination) {
-    UnavailableKeys keys(why);
+TEST(NoKeysTest, refusesEachCombination) {
+    NoKeys keys(why);
     std::vector<HotKeyStatus> answers;
     keys.hotKeys.observe([&](HotKeyId id, const HotKeyState& state) {
         EXPECT_EQ(id, 3U);

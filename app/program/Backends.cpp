@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "app/program/Backends.h"
+
+#include <utility>
+
+#include "app/program/LinuxServices.h"
+#include "platform/Addresses.h"
+#include "platform/Services.h"
+#include "platform/Session.h"
+#include "platform/linux/SteadyClock.h"
+#include "platform/script/run/ScriptRunner.h"
+#include "platform/sessions/Sessions.h"
+
+struct Backends::Parts {
+    Parts(std::unique_ptr<SteadyClock> steadyClock, std::unique_ptr<Session> opened,
+          const UpdateSource& updates)
+        : clock(std::move(steadyClock)), session(std::move(opened)), neutral(updates) {}
+
+    std::unique_ptr<SteadyClock> clock;
+    std::unique_ptr<Session> session;
+    const SessionServices& own = session->sessionServices();
+    script::ScriptRunner scripting{own.keyInjector, own.scriptDesktop};
+    LinuxServices neutral;
+    Services services{.clock = *clock,
+                      .eventMonitor = own.eventMonitor,
+                      .hotKeys = own.hotKeys,
+                      .keyboardLayout = own.keyboardLayout,
+                      .keyInjector = own.keyInjector,
+                      .scripting = scripting,
+                      .settings = neutral.settings,
+                      .loginItems = neutral.loginItems,
+                      .workspace = neutral.workspace,
+                      .systemFacts = neutral.systemFacts,
+                      .updateService = *neutral.updateService,
+                      .macroFiles = neutral.macroFiles,
+                      .notifications = neutral.notifications,
+                      .screenLock = neutral.screenLock,
+                      .sessionCheck = own.sessionCheck};
+    ServicesScope scope{services};
+};
+
+Result<std::unique_ptr<Backends>> Backends::open(const SessionKind& kind) {
+    return open(kind, std::string(addresses::updateServiceUrl), {});
+}
+
+Result<std::unique_ptr<Backends>> Backends::open(const SessionKind& kind, const std::string& updateUrl,
+                                                 const std::string& authorities) {
+    auto clock = std::make_unique<SteadyClock>();
+    auto session = kind.open(*clock, SessionUse::desktop);
+    if (!session) return session.error();
+    return std::unique_ptr<Backends>(new Backends(std::make_unique<Parts>(
+        std::move(clock), std::move(session).value(), UpdateSource{updateUrl, authorities})));
+}
+
+Backends::Backends(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
+Backends::~Backends() = default;
+
+Services& Backends::services() { return m_parts->services; }
+Session& Backends::session() { return *m_parts->session; }
+script::ScriptRunner& Backends::scripting() { return m_parts->scripting; }
+
+std::vector<EventSource*> Backends::eventSources() {
+    std::vector<EventSource*> sources = m_parts->session->eventSources();
+    sources.push_back(&m_parts->neutral.busLoop);
+    return sources;
+}

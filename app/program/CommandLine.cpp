@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "app/program/CommandLine.h"
+
+#include <string_view>
+
+#include "platform/sessions/Sessions.h"
+
+namespace {
+
+constexpr std::string_view sessionOption = "--session=";
+
+void takeOption(CommandLine& line, const std::string& option) {
+    if (option == "--help") {
+        line.wish = CommandLine::Wish::help;
+    } else if (option == "--version") {
+        line.wish = CommandLine::Wish::version;
+    } else if (option.starts_with(sessionOption)) {
+        line.session = option.substr(sessionOption.size());
+    } else {
+        line.unknown.push_back(option);
+    }
+}
+
+}  // namespace
+
+CommandLine readCommandLine(const std::vector<std::string>& arguments) {
+    CommandLine line;
+    bool isBehindOptions = false;
+    for (const std::string& argument : arguments) {
+        if (isBehindOptions || argument.size() < 2 || argument.front() != '-') {
+            line.files.push_back(argument);
+        } else if (argument == "--") {
+            isBehindOptions = true;
+        } else {
+            takeOption(line, argument);
+        }
+    }
+    return line;
+}
+
+Result<void> checkOptions(const CommandLine& line) {
+    if (line.unknown.empty()) return {};
+    return Error{"There is no option \"" + line.unknown.front() + "\".", "keyrill --help lists them."};
+}
+
+std::string usage(std::span<const SessionKind> kinds) {
+    std::string text =
+        "Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs\n"
+        "       keyrill --help | --version\n"
+        "NAME is the kind of desktop session; without it the program finds out itself. There are:";
+    for (const SessionKind& kind : kinds) (text += ' ') += kind.name;
+    return text + "\n";
+}

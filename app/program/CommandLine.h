@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "platform/Result.h"
+
+struct SessionKind;
+
+/// What the program was started with.
+struct CommandLine {
+    enum class Wish {
+        start,
+        help,     ///< print how the program is called, and end
+        version,  ///< print the version, and end
+    };
+    Wish wish = Wish::start;
+    /// The kind of session, empty to find out.
+    std::string session = {};
+    /// As they were given, in the file system's encoding.
+    std::vector<std::string> files = {};
+    /// Options that are none of ours, in order. Some are the toolkit's, which takes them out when it starts.
+    std::vector<std::string> unknown = {};
+
+    friend bool operator==(const CommandLine&, const CommandLine&) = default;
+};
+
+/// Reads the arguments behind the program's name. Behind `--` a file may begin with a minus; a minus alone is
+/// a file.
+CommandLine readCommandLine(const std::vector<std::string>& arguments);
+
+/// Success if all options are known; else the error names the first one.
+Result<void> checkOptions(const CommandLine& line);
+
+/// How the program is called, lines with their ends.
+std::string usage(std::span<const SessionKind> kinds);

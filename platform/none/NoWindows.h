@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Windows.h"
+
+/// For programs that show no windows.
+class NoWindows final : public Windows {
+  public:
+    void activate(WindowId /*window*/, std::uint32_t /*userTime*/) override {}
+    void awaitFocusElsewhere(WindowId /*hidden*/) override {}
+};

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Session.h"
+
+namespace x11 {
+
+/// Whether there is an X server at $DISPLAY to show anything on.
+Result<void> checkDisplay();
+
+/// The session of the X server at $DISPLAY. For SessionUse::desktop it needs only that the server shows
+/// windows.
+Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use);
+
+}  // namespace x11

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "app/program/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/sessions/Sessions.h"
+
+namespace {
+
+TEST(CommandLineTest, withoutArgumentsTheProgramStarts) { EXPECT_EQ(readCommandLine({}), CommandLine{}); }
+
+TEST(CommandLineTest, whatIsNoOptionIsAFile) {
+    EXPECT_EQ(readCommandLine({"a.keyrill", "-", ""}).files,
+              (std::vector<std::string>{"a.keyrill", "-", ""}));
+}
+
+TEST(CommandLineTest, behindTwoMinusesEverythingIsAFile) {
+    const CommandLine line = readCommandLine({"--", "--help", "--session=x11"});
+    EXPECT_EQ(line.files, (std::vector<std::string>{"--help", "--session=x11"}));
+    EXPECT_EQ(line.wish, CommandLine::Wish::start);
+    EXPECT_EQ(line.session, "");
+}
+
+TEST(CommandLineTest, aSessionIsNamed) {
+    EXPECT_EQ(readCommandLine({"--session=x11", "a"}),
+              (CommandLine{.session = "x11", .files = {"a"}}));
+}
+
+TEST(CommandLineTest, helpAndVersionAreNoFiles) {
+    EXPECT_EQ(readCommandLine({"--help"}), (CommandLine{.wish = CommandLine::Wish::help}));
+    EXPECT_EQ(readCommandLine({"--version"}), (CommandLine{.wish = CommandLine::Wish::version}));
+}
+
+TEST(CommandLineTest, theFirstUnknownOptionIsNamed) {
+    const CommandLine line = readCommandLine({"-style", "a", "--sesion=x11"});
+    EXPECT_EQ(line.unknown, (std::vector<std::string>{"-style", "--sesion=x11"}));
+    EXPECT_EQ(checkOptions(line).error(),
+              (Error{"There is no option \"-style\".", "keyrill --help lists them."}));
+    EXPECT_TRUE(checkOptions(readCommandLine({"a"})));
+}
+
+TEST(CommandLineTest, theUsageListsTheSessions) {
+    EXPECT_NE(usage(sessionKinds()).find(" x11\n"), std::string::npos) << usage(sessionKinds());
+}
+
+}  // namespace

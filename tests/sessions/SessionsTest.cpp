@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "platform/sessions/Sessions.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <set>
+
+namespace {
+
+Result<void> isHere() { return {}; }
+Result<void> isNotHere() { return Error{"The display cannot be reached.", "Log in."}; }
+
+constexpr SessionKind near{.name = "near", .toolkit = "one", .check = isHere, .open = nullptr};
+constexpr SessionKind other{.name = "other", .toolkit = "two", .check = isHere, .open = nullptr};
+constexpr SessionKind far{.name = "far", .toolkit = "three", .check = isNotHere, .open = nullptr};
+
+TEST(SessionsTest, theFirstThatTheProcessWasStartedInIsTaken) {
+    const std::array kinds{far, near, other};
+    EXPECT_EQ(chooseSession("", kinds).value().name, "near");
+}
+
+TEST(SessionsTest, aNameOverrulesTheOrder) {
+    const std::array kinds{near, other};
+    EXPECT_EQ(chooseSession("other", kinds).value().name, "other");
+}
+
+TEST(SessionsTest, aNamedOneThatIsNotHereSaysWhatIsMissing) {
+    const std::array kinds{near, far};
+    EXPECT_EQ(chooseSession("far", kinds).error(), (Error{"The display cannot be reached.", "Log in."}));
+}
+
+TEST(SessionsTest, withoutAnySessionTheLastOneSaysWhatIsMissing) {
+    const std::array kinds{far};
+    EXPECT_EQ(chooseSession("", kinds).error(), (Error{"The display cannot be reached.", "Log in."}));
+}
+
+TEST(SessionsTest, anUnknownNameListsTheKnownOnes) {
+    const std::array kinds{near, far};
+    EXPECT_EQ(chooseSession("farr", kinds).error(), (Error{"There is no kind of session called \"farr\".",
+                                                           "Choose one of these: near, far."}));
+}
+
+TEST(SessionsTest, eachKindHasANameOfItsOwnAndAWayIn) {
+    std::set<std::string_view> names;
+    for (const SessionKind& kind : sessionKinds()) {
+        EXPECT_TRUE(names.insert(kind.name).second) << kind.name;
+        EXPECT_NE(kind.toolkit, nullptr) << kind.name;
+        EXPECT_NE(kind.check, nullptr) << kind.name;
+        EXPECT_NE(kind.open, nullptr) << kind.name;
+    }
+    EXPECT_TRUE(names.contains("x11"));
+}
+
+}  // namespace
