@@ -24,7 +24,8 @@ std::unique_ptr<InjectionSession> Player::run(const InjectionPlan& plan) {
     return valueOf(m_injector->open(plan));
 }
 
-void expectGoing(const Result<RunState>& step) {
-    if (!step) throw std::runtime_error(step.error().message);
-    if (step.value() != RunState::going) throw std::runtime_error("the run was cancelled");
+void expectGoing(const Step<>& step) {
+    if (step) return;
+    const Halt& halt = step.error();
+    throw std::runtime_error(halt.isCancelled() ? "the run was cancelled" : halt.error->message);
 }

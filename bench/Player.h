@@ -26,7 +26,7 @@ class Player {
 };
 
 /// Ends the program with the error's message unless the step of a run was taken.
-void expectGoing(const Result<RunState>& step);
+void expectGoing(const Step<>& step);
 
 /// Seconds that a piece of work takes.
 template <typename Work>

@@ -32,20 +32,20 @@ class BoundedSession : public InjectionSession {
   public:
     explicit BoundedSession(BoundedInjector& injector) : m_injector(injector) {}
 
-    Result<RunState> stroke(std::uint32_t keyCode, std::uint32_t /*modifiers*/) override {
+    Step<> stroke(std::uint32_t keyCode, std::uint32_t /*modifiers*/) override {
         if (keyCode > 0xFFFF) std::abort();
         return step();
     }
-    Result<RunState> text(std::string_view text, std::uint32_t /*modifiers*/) override {
+    Step<> text(std::string_view text, std::uint32_t /*modifiers*/) override {
         if (text.empty() || invalidUtf8(text)) std::abort();
         return step();
     }
-    Result<RunState> keyDown(const HeldKey& /*key*/) override { return step(); }
-    Result<RunState> keyUp(const HeldKey& /*key*/) override { return step(); }
-    Result<RunState> pause(double /*seconds*/) override { return step(); }
+    Step<> keyDown(const HeldKey& /*key*/) override { return step(); }
+    Step<> keyUp(const HeldKey& /*key*/) override { return step(); }
+    Step<> pause(double /*seconds*/) override { return step(); }
 
   private:
-    Result<RunState> step() { return m_injector.isCancelled() ? RunState::cancelled : RunState::going; }
+    Step<> step() { return m_injector.isCancelled() ? Step<>(Halt::cancelled()) : Step<>(); }
 
     BoundedInjector& m_injector;
 };

@@ -3,15 +3,39 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
 #include "platform/Result.h"
 
-/// What became of a step of a run: go on, or the user has asked to stop.
-enum class RunState { going, cancelled };
+/// Why a run goes no further: something has failed, or the user has asked to stop.
+struct Halt {
+    // Implicit, so that a step of a run fails with the error that it has met.
+    // NOLINTNEXTLINE(google-explicit-constructor)
+    Halt(Error failure) : error(std::move(failure)) {}
+
+    static Halt cancelled() { return {}; }
+    bool isCancelled() const { return !error; }
+
+    /// Empty if the user has asked to stop.
+    std::optional<Error> error;
+
+    friend bool operator==(const Halt&, const Halt&) = default;
+
+  private:
+    Halt() = default;
+};
+
+/// What became of a step of a run: done, or why the run halts. Whoever is given a halt takes no further step
+/// and hands it on:
+///
+///     if (const auto begun = begin(); !begun) return begun.error();
+template <typename Value = void>
+using Step = Result<Value, Halt>;
 
 /// What a script presses with `key down` and releases with `key up`: one modifier (a bit of
 /// platform/Modifiers.h), or a key by its code, or the keys that type a text (UTF-8).
@@ -31,27 +55,27 @@ using HeldKey = std::variant<HeldModifier, HeldCode, HeldText>;
 ///
 /// Nothing is touched before the first step that presses a key. What the script says is what arrives: keys
 /// and locks that would change it are put out of the way, and locks are put back when the session is
-/// destroyed. So are keys that were pressed and not released. Once a step has answered `cancelled` or an
-/// error, all later ones do the same and press nothing.
+/// destroyed. So are keys that were pressed and not released. Once a step has halted, all later ones answer
+/// the same and press nothing.
 class InjectionSession {
   public:
     virtual ~InjectionSession() = default;
 
     /// Modifiers down, key down, key up, modifiers up. A code without a key plays nothing; the power key is
     /// an error.
-    virtual Result<RunState> stroke(std::uint32_t keyCode, std::uint32_t modifiers) = 0;
+    virtual Step<> stroke(std::uint32_t keyCode, std::uint32_t modifiers) = 0;
 
     /// Types the characters of a UTF-8 text, the modifiers held over each. Line feed and carriage return are
     /// Return, the two together one Return; tab is Tab. A character that cannot be typed is an error that
     /// names it.
-    virtual Result<RunState> text(std::string_view text, std::uint32_t modifiers) = 0;
+    virtual Step<> text(std::string_view text, std::uint32_t modifiers) = 0;
 
-    virtual Result<RunState> keyDown(const HeldKey& key) = 0;
-    virtual Result<RunState> keyUp(const HeldKey& key) = 0;
+    virtual Step<> keyDown(const HeldKey& key) = 0;
+    virtual Step<> keyUp(const HeldKey& key) = 0;
 
     /// Waits. Pauses of one run are paced from deadline to deadline, so that the time that strokes take does
     /// not add up; zero and negative pauses return at once, huge ones wait until cancelled.
-    virtual Result<RunState> pause(double seconds) = 0;
+    virtual Step<> pause(double seconds) = 0;
 };
 
 /// What is known of a run before it starts.

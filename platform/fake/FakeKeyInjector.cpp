@@ -35,6 +35,8 @@ std::string nameOf(const HeldKey& key) {
 
 bool isPower(std::uint32_t keyCode) { return (keyCode & ~keycode::choosers) == keycode::power; }
 
+Error powerKeyRefused() { return {"The power key cannot be pressed by a script.", ""}; }
+
 }  // namespace
 
 class FakeKeyInjector::Session : public InjectionSession {
@@ -44,22 +46,20 @@ class FakeKeyInjector::Session : public InjectionSession {
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    Result<RunState> stroke(std::uint32_t keyCode, std::uint32_t modifiers) override;
-    Result<RunState> text(std::string_view text, std::uint32_t modifiers) override;
-    Result<RunState> keyDown(const HeldKey& key) override;
-    Result<RunState> keyUp(const HeldKey& key) override;
-    Result<RunState> pause(double seconds) override;
+    Step<> stroke(std::uint32_t keyCode, std::uint32_t modifiers) override;
+    Step<> text(std::string_view text, std::uint32_t modifiers) override;
+    Step<> keyDown(const HeldKey& key) override;
+    Step<> keyUp(const HeldKey& key) override;
+    Step<> pause(double seconds) override;
 
   private:
-    Result<RunState> state();
-    Result<RunState> press(const std::string& step);
-    Result<RunState> fail(const Error& error);
-    bool goesOn();
+    Step<> goOn();
+    Step<> halt(const Halt& why);
+    Step<> press(const std::string& step);
 
     FakeKeyInjector& m_injector;
     std::optional<FakeDesktop::Run> m_run;
-    std::optional<Error> m_error;
-    bool m_cancelled = false;
+    std::optional<Halt> m_halt;
     std::vector<std::string> m_held;
 };
 
@@ -70,71 +70,63 @@ FakeKeyInjector::Session::~Session() {
     m_injector.m_open = false;
 }
 
-Result<RunState> FakeKeyInjector::Session::state() {
-    if (m_error) return *m_error;
-    return m_cancelled ? RunState::cancelled : RunState::going;
+Step<> FakeKeyInjector::Session::goOn() {
+    if (m_halt) return *m_halt;
+    if (m_injector.m_nextError) return halt(*std::exchange(m_injector.m_nextError, std::nullopt));
+    if (m_injector.isCancelled()) return halt(Halt::cancelled());
+    return {};
 }
 
-bool FakeKeyInjector::Session::goesOn() {
-    if (m_error || m_cancelled) return false;
-    if (m_injector.m_nextError) m_error = std::exchange(m_injector.m_nextError, std::nullopt);
-    m_cancelled = m_injector.isCancelled();
-    return !m_error && !m_cancelled;
-}
-
-Result<RunState> FakeKeyInjector::Session::press(const std::string& step) {
+Step<> FakeKeyInjector::Session::press(const std::string& step) {
     if (!m_run) m_run.emplace(m_injector.m_desktop);
     m_injector.m_posted.push_back(step);
-    return RunState::going;
+    return {};
 }
 
-Result<RunState> FakeKeyInjector::Session::fail(const Error& error) {
-    m_error = error;
-    return error;
+Step<> FakeKeyInjector::Session::halt(const Halt& why) {
+    m_halt = why;
+    return why;
 }
 
-Result<RunState> FakeKeyInjector::Session::stroke(std::uint32_t keyCode, std::uint32_t modifiers) {
-    if (!goesOn()) return state();
-    if (isPower(keyCode)) return fail({"The power key cannot be pressed by a script.", ""});
-    if (!keycode::evdevFor(keyCode)) return RunState::going;
+Step<> FakeKeyInjector::Session::stroke(std::uint32_t keyCode, std::uint32_t modifiers) {
+    if (const auto going = goOn(); !going) return going;
+    if (isPower(keyCode)) return halt(powerKeyRefused());
+    if (!keycode::evdevFor(keyCode)) return {};
     auto result = press("key " + std::to_string(keyCode) + words(modifiers));
     m_injector.m_keyboard.scriptStrikes(keyCode, modifiers);
     return result;
 }
 
-Result<RunState> FakeKeyInjector::Session::text(std::string_view text, std::uint32_t modifiers) {
-    if (!goesOn()) return state();
-    if (text.empty()) return RunState::going;
+Step<> FakeKeyInjector::Session::text(std::string_view text, std::uint32_t modifiers) {
+    if (const auto going = goOn(); !going) return going;
+    if (text.empty()) return {};
     return press("text " + std::string(text) + words(modifiers));
 }
 
-Result<RunState> FakeKeyInjector::Session::keyDown(const HeldKey& key) {
-    if (!goesOn()) return state();
+Step<> FakeKeyInjector::Session::keyDown(const HeldKey& key) {
+    if (const auto going = goOn(); !going) return going;
     const auto* code = std::get_if<HeldCode>(&key);
-    if (code != nullptr && isPower(code->keyCode)) {
-        return fail({"The power key cannot be pressed by a script.", ""});
-    }
+    if (code != nullptr && isPower(code->keyCode)) return halt(powerKeyRefused());
     const std::string name = nameOf(key);
     if (std::find(m_held.begin(), m_held.end(), name) == m_held.end()) m_held.push_back(name);
     return press("down" + name);
 }
 
-Result<RunState> FakeKeyInjector::Session::keyUp(const HeldKey& key) {
-    if (!goesOn()) return state();
+Step<> FakeKeyInjector::Session::keyUp(const HeldKey& key) {
+    if (const auto going = goOn(); !going) return going;
     const std::string name = nameOf(key);
     m_held.erase(std::remove(m_held.begin(), m_held.end(), name), m_held.end());
     return press("up" + name);
 }
 
-Result<RunState> FakeKeyInjector::Session::pause(double seconds) {
-    if (!goesOn()) return state();
+Step<> FakeKeyInjector::Session::pause(double seconds) {
+    if (const auto going = goOn(); !going) return going;
     std::ostringstream step;
     step.imbue(std::locale::classic());
     step << "pause " << seconds;
     m_injector.m_posted.push_back(step.str());
     m_injector.m_clock.sleepFor(Clock::Seconds(seconds));
-    m_cancelled = m_injector.isCancelled();
-    return state();
+    return m_injector.isCancelled() ? halt(Halt::cancelled()) : Step<>();
 }
 
 Result<std::unique_ptr<InjectionSession>> FakeKeyInjector::open(const InjectionPlan& /*plan*/) {

@@ -18,8 +18,8 @@ void Pacer::begin() {
     if (!m_anchor) m_anchor = m_clock.now();
 }
 
-RunState Pacer::pause(double seconds) {
-    if (!(seconds > 0)) return RunState::going;
+Step<> Pacer::pause(double seconds) {
+    if (!(seconds > 0)) return {};
     begin();
     const Clock::Time now = m_clock.now();
     if (now - *m_anchor > maxLag) m_anchor = now;

@@ -18,7 +18,7 @@ class Pacer {
     void begin();
 
     /// Zero, negative durations and no numbers return at once; what is beyond the clock's range never ends.
-    RunState pause(double seconds);
+    Step<> pause(double seconds);
 
   private:
     const Clock& m_clock;

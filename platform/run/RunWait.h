@@ -8,5 +8,6 @@
 class RunWait {
   public:
     virtual ~RunWait() = default;
-    virtual RunState waitUntil(Clock::Time deadline) = 0;
+    /// Halts by the user's wish alone.
+    virtual Step<> waitUntil(Clock::Time deadline) = 0;
 };

@@ -19,17 +19,17 @@ timespec timeTo(Clock::Time until, Clock::Time now) {
 
 }  // namespace
 
-RunState RunWaiter::look() {
+Step<> RunWaiter::look() {
     m_watch.drain();
     const bool ends = m_isLost || m_watch.isLost() || m_interrupt.isRaised() || m_watch.isCancelled();
-    return ends ? RunState::cancelled : RunState::going;
+    return ends ? Step<>(Halt::cancelled()) : Step<>();
 }
 
-RunState RunWaiter::waitUntil(Clock::Time deadline) {
+Step<> RunWaiter::waitUntil(Clock::Time deadline) {
     for (;;) {
         // Before the wait as well: xcb may have read what the descriptor no longer shows.
-        if (look() == RunState::cancelled) return RunState::cancelled;
-        if (m_clock.now() >= deadline) return RunState::going;
+        if (const auto looked = look(); !looked) return looked;
+        if (m_clock.now() >= deadline) return {};
         block(std::min(deadline, m_watch.cancelDeadline().value_or(deadline)));
     }
 }

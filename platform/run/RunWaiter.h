@@ -13,10 +13,10 @@ class RunWaiter final : public RunWait {
     RunWaiter(const Clock& clock, RunWatch& watch, const RunInterrupt& interrupt, int server)
         : m_clock(clock), m_watch(watch), m_interrupt(interrupt), m_server(server) {}
 
-    RunState waitUntil(Clock::Time deadline) override;
+    Step<> waitUntil(Clock::Time deadline) override;
 
-    /// Reads what the user has done, and whether it means to stop. So does a lost X server.
-    RunState look();
+    /// Reads what the user has done, and halts if it means to stop. So does a lost X server.
+    Step<> look();
 
   private:
     void block(Clock::Time until);

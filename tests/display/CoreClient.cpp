@@ -86,3 +86,10 @@ void CoreClient::ungrabKeyboard() const {
     xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
     m_connection.roundTrip();
 }
+
+void CoreClient::claimToAnswerPings() const {
+    const xcb_atom_t ping = m_connection.atom("_NET_WM_PING");
+    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window, m_connection.atom("WM_PROTOCOLS"),
+                        XCB_ATOM_ATOM, 32, 1, &ping);
+    m_connection.roundTrip();
+}

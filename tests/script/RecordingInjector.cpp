@@ -12,23 +12,23 @@ class RecordingSession : public InjectionSession {
     RecordingSession(const RecordingSession&) = delete;
     RecordingSession& operator=(const RecordingSession&) = delete;
 
-    Result<RunState> stroke(std::uint32_t keyCode, std::uint32_t /*modifiers*/) override {
+    Step<> stroke(std::uint32_t keyCode, std::uint32_t /*modifiers*/) override {
         return step("key " + std::to_string(keyCode));
     }
-    Result<RunState> text(std::string_view text, std::uint32_t /*modifiers*/) override {
+    Step<> text(std::string_view text, std::uint32_t /*modifiers*/) override {
         return step("text " + std::string(text));
     }
-    Result<RunState> keyDown(const HeldKey& /*key*/) override { return step("down"); }
-    Result<RunState> keyUp(const HeldKey& /*key*/) override { return step("up"); }
-    Result<RunState> pause(double /*seconds*/) override { return step("pause"); }
+    Step<> keyDown(const HeldKey& /*key*/) override { return step("down"); }
+    Step<> keyUp(const HeldKey& /*key*/) override { return step("up"); }
+    Step<> pause(double /*seconds*/) override { return step("pause"); }
 
   private:
-    Result<RunState> step(const std::string& word) {
-        if (m_injector.cancelled) return RunState::cancelled;
+    Step<> step(const std::string& word) {
+        if (m_injector.cancelled) return Halt::cancelled();
         if (!m_injector.stepError.empty()) return Error{m_injector.stepError, "Do this."};
         m_injector.calls.push_back(word);
         m_injector.duringEachStep();
-        return RunState::going;
+        return {};
     }
 
     RecordingInjector& m_injector;

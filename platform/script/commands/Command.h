@@ -23,10 +23,10 @@ class CommandStage {
   public:
     virtual ~CommandStage() = default;
 
-    using Step = std::function<Result<RunState>(InjectionSession&)>;
+    using KeyStep = std::function<Step<>(InjectionSession&)>;
     /// Takes a step of the session, which is opened before the first one. What is wrong, if anything is; a
     /// wish to stop is a failure that no script can catch.
-    virtual std::optional<Failure> play(const Step& step) = 0;
+    virtual std::optional<Failure> play(const KeyStep& step) = 0;
 
     /// Tells something about the command once.
     virtual void warn(std::string message) = 0;

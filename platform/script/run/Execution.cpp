@@ -20,6 +20,12 @@ const Counted* containerOf(const Value& value) {
     return nullptr;
 }
 
+Failure userCancelled() {
+    Failure failure{errornumber::userCancelled, "User canceled."};
+    failure.isCancel = true;
+    return failure;
+}
+
 }  // namespace
 
 Execution::Execution(const Bytecode& code, const MachineServices& services, RunListener listener)
@@ -129,9 +135,7 @@ void Execution::askWhetherToStop() {
 
 std::optional<Failure> Execution::stopWish() {
     if (!m_services.injector.isCancelled()) return std::nullopt;
-    Failure failure{errornumber::userCancelled, "User canceled."};
-    failure.isCancel = true;
-    return failure;
+    return userCancelled();
 }
 
 void Execution::enterHandler(std::uint32_t index, std::size_t arguments) {
@@ -238,7 +242,7 @@ const Value& Execution::target() const {
     return m_targets.size() > m_frames.back().targets ? m_targets.back() : m_me;
 }
 
-std::optional<Failure> Execution::play(const Step& step) {
+std::optional<Failure> Execution::play(const KeyStep& step) {
     const auto failed = [](int number, const Error& error) {
         const std::string hint = error.hint.empty() ? "" : " " + error.hint;
         return Failure{number, "System Events got an error: " + error.message + hint};
@@ -248,12 +252,10 @@ std::optional<Failure> Execution::play(const Step& step) {
         if (!opened) return failed(errornumber::notAllowed, opened.error());
         m_session = std::move(opened).value();
     }
-    const Result<RunState> state = step(*m_session);
-    if (!state) return failed(errornumber::handlerFailed, state.error());
-    if (state.value() != RunState::cancelled) return std::nullopt;
-    Failure failure{errornumber::userCancelled, "User canceled."};
-    failure.isCancel = true;
-    return failure;
+    const auto taken = step(*m_session);
+    if (taken) return std::nullopt;
+    if (taken.error().isCancelled()) return userCancelled();
+    return failed(errornumber::handlerFailed, *taken.error().error);
 }
 
 void Execution::warn(std::string message) {

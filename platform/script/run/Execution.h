@@ -117,7 +117,7 @@ class Execution : public CommandStage {
     const Value& me() const { return m_me; }
 
     // CommandStage
-    std::optional<Failure> play(const Step& step) override;
+    std::optional<Failure> play(const KeyStep& step) override;
     void warn(std::string message) override;
     void log(std::string line) override;
     ScriptDesktop& desktop() override { return m_services.desktop; }

@@ -46,26 +46,26 @@ class TraceSession : public InjectionSession {
   public:
     explicit TraceSession(std::ostream& out) : m_out(out) {}
 
-    Result<RunState> stroke(std::uint32_t keyCode, std::uint32_t modifiers) override {
+    Step<> stroke(std::uint32_t keyCode, std::uint32_t modifiers) override {
         return print("key", std::to_string(keyCode) + "," + modifierNames(modifiers));
     }
-    Result<RunState> text(std::string_view text, std::uint32_t modifiers) override {
+    Step<> text(std::string_view text, std::uint32_t modifiers) override {
         return print("text", jsonText(text) + "," + modifierNames(modifiers));
     }
-    Result<RunState> keyDown(const HeldKey& key) override {
+    Step<> keyDown(const HeldKey& key) override {
         return print("keydown", std::visit(HeldJson(), key) + ",[]");
     }
-    Result<RunState> keyUp(const HeldKey& key) override {
+    Step<> keyUp(const HeldKey& key) override {
         return print("keyup", std::visit(HeldJson(), key) + ",[]");
     }
-    Result<RunState> pause(double seconds) override { return print("delay", json(seconds)); }
+    Step<> pause(double seconds) override { return print("delay", json(seconds)); }
 
   private:
     /// Nobody is there to read the rest once the stream is broken.
-    Result<RunState> print(std::string_view name, const std::string& rest) {
+    Step<> print(std::string_view name, const std::string& rest) {
         m_out << "[\"" << name << "\"," << rest << "]\n";
         if (!m_out) return Error{"the output cannot be written", ""};
-        return RunState::going;
+        return {};
     }
 
     std::ostream& m_out;

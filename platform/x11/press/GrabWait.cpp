@@ -27,18 +27,17 @@ bool GrabWait::isHeld() const {
     return reply && reply->status != XCB_GRAB_STATUS_NOT_VIEWABLE;
 }
 
-Result<RunState> GrabWait::untilFree(RunWaiter& waiter) const {
+Step<> GrabWait::untilFree(RunWaiter& waiter) const {
     const Clock::Time end = m_clock.now() + limit;
     while (isHeld()) {
         if (m_clock.now() >= end) {
             return Error{"Another program holds the keyboard, so that no keys can be pressed.",
                          "Close the menu, the question or the screen lock that is open, and play again."};
         }
-        if (waiter.waitUntil(m_clock.now() + betweenLooks) == RunState::cancelled) {
-            return RunState::cancelled;
-        }
+        const auto waited = waiter.waitUntil(m_clock.now() + betweenLooks);
+        if (!waited) return waited;
     }
-    return RunState::going;
+    return {};
 }
 
 }  // namespace x11

@@ -15,7 +15,7 @@ class GrabWait {
     GrabWait(const XConnection& connection, const Clock& clock);
 
     /// At most 0.5 s; fails with a hint if the keyboard is held even then.
-    Result<RunState> untilFree(RunWaiter& waiter) const;
+    Step<> untilFree(RunWaiter& waiter) const;
 
   private:
     bool isHeld() const;

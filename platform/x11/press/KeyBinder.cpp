@@ -20,9 +20,9 @@ constexpr std::chrono::milliseconds longestAtEnd{1000};
 class PlainWait final : public RunWait {
   public:
     explicit PlainWait(Clock& clock) : m_clock(clock) {}
-    RunState waitUntil(Clock::Time deadline) override {
+    Step<> waitUntil(Clock::Time deadline) override {
         m_clock.sleepFor(deadline - m_clock.now());
-        return RunState::going;
+        return {};
     }
 
   private:
@@ -80,8 +80,8 @@ KeyBinder::~KeyBinder() {
     if (m_slots.bindings().empty()) return;
     if (const auto rested = m_slots.restUntil()) {
         PlainWait wait(m_clock);
-        wait.waitUntil(*rested);
-        m_receivers.await(wait, longestAtEnd);
+        [[maybe_unused]] const auto waited = wait.waitUntil(*rested);
+        [[maybe_unused]] const auto haveRead = m_receivers.await(wait, longestAtEnd);
     }
     takeBack();
 }
@@ -161,9 +161,9 @@ void KeyBinder::noteReader() {
     if (!m_slots.bindings().empty()) m_receivers.note();
 }
 
-RunState KeyBinder::awaitReaders(const SpareSlots::Plan& plan, RunWait& wait) {
-    if (!plan.notBefore) return RunState::going;
-    if (wait.waitUntil(*plan.notBefore) == RunState::cancelled) return RunState::cancelled;
+Step<> KeyBinder::awaitReaders(const SpareSlots::Plan& plan, RunWait& wait) {
+    if (!plan.notBefore) return {};
+    if (const auto waited = wait.waitUntil(*plan.notBefore); !waited) return waited;
     return m_receivers.await(wait, longestMidway);
 }
 

@@ -39,7 +39,7 @@ class KeyBinder {
     /// What bind() would do, and from when on it may.
     SpareSlots::Plan plan(const std::vector<char32_t>& wanted);
     /// Waits until it may: the moment has come, and whoever was typed into has read what the keys were.
-    RunState awaitReaders(const SpareSlots::Plan& plan, RunWait& wait);
+    Step<> awaitReaders(const SpareSlots::Plan& plan, RunWait& wait);
     /// Fails if the server refuses the new map.
     Result<void> bind(const SpareSlots::Plan& plan);
 

@@ -39,15 +39,14 @@ std::size_t TextTyper::fittingPart(std::span<const char32_t> characters, xkb_lay
     return characters.size();
 }
 
-Result<RunState> TextTyper::bind(const std::vector<char32_t>& wanted) {
+Step<> TextTyper::bind(const std::vector<char32_t>& wanted) {
     const auto plan = m_binder.plan(wanted);
-    if (m_binder.awaitReaders(plan, m_waiter) == RunState::cancelled) return RunState::cancelled;
-    const auto bound = m_binder.bind(plan);
-    if (!bound) return bound.error();
-    return RunState::going;
+    if (const auto awaited = m_binder.awaitReaders(plan, m_waiter); !awaited) return awaited;
+    if (const auto bound = m_binder.bind(plan); !bound) return bound.error();
+    return {};
 }
 
-Result<RunState> TextTyper::prepare(std::span<const char32_t> characters, xkb_layout_index_t group) {
+Step<> TextTyper::prepare(std::span<const char32_t> characters, xkb_layout_index_t group) {
     std::vector<char32_t> bindable;
     for (const char32_t character : characters) {
         if (isBindable(character) || m_keymap.characters().find(character, group)) {
@@ -56,48 +55,45 @@ Result<RunState> TextTyper::prepare(std::span<const char32_t> characters, xkb_la
     }
     std::vector<char32_t> wanted;
     fittingPart(bindable, group, wanted);
-    return wanted.empty() ? RunState::going : bind(wanted);
+    return wanted.empty() ? Step<>() : bind(wanted);
 }
 
-Result<Stroke> TextTyper::strokeFor(char32_t character, xkb_layout_index_t group) {
-    const auto refused = refuseUntypable(std::span(&character, 1), group);
-    if (!refused) return refused.error();
+Step<Stroke> TextTyper::strokeFor(char32_t character, xkb_layout_index_t group) {
+    if (const auto typable = refuseUntypable(std::span(&character, 1), group); !typable) {
+        return typable.error();
+    }
     if (!find(character, group)) {
-        const auto bound = bind({character});
-        if (!bound) return bound.error();
+        if (const auto bound = bind({character}); !bound) return bound.error();
     }
     m_binder.noteReader();
     m_binder.markUsed(character);
     return find(character, group).value_or(Stroke{});
 }
 
-Result<RunState> TextTyper::type(std::span<const char32_t> characters, const Stroke& around,
-                                 const KeycodeSet& held, const Check& check) {
+Step<> TextTyper::type(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held,
+                       const Check& check) {
     const auto state = check();
     if (!state) return state.error();
     const xkb_layout_index_t group = state.value().lockedLayout;
-    const auto refused = refuseUntypable(characters, group);
-    if (!refused) return refused.error();
+    if (const auto typable = refuseUntypable(characters, group); !typable) return typable.error();
     while (!characters.empty()) {
         std::vector<char32_t> wanted;
         const std::size_t size = fittingPart(characters, group, wanted);
         if (!wanted.empty()) {
-            auto bound = bind(wanted);
-            if (!bound || bound.value() == RunState::cancelled) return bound;
+            if (const auto bound = bind(wanted); !bound) return bound;
         }
-        auto typed = typePart(characters.first(size), around, held, check);
-        if (!typed || typed.value() == RunState::cancelled) return typed;
+        if (const auto typed = typePart(characters.first(size), around, held, check); !typed) return typed;
         characters = characters.subspan(size);
     }
-    return RunState::going;
+    return {};
 }
 
-Result<RunState> TextTyper::typePart(std::span<const char32_t> characters, const Stroke& around,
-                                     const KeycodeSet& held, const Check& check) {
+Step<> TextTyper::typePart(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held,
+                           const Check& check) {
     const ModifierKeys& keys = m_keymap.keymap().keys();
     std::size_t at = 0;
     while (at < characters.size()) {
-        if (m_waiter.look() == RunState::cancelled) return RunState::cancelled;
+        if (const auto looked = m_waiter.look(); !looked) return looked;
         const auto state = check();
         if (!state) return state.error();
         m_sender.meet(state.value());
@@ -108,14 +104,13 @@ Result<RunState> TextTyper::typePart(std::span<const char32_t> characters, const
             stroke.lockMask = around.lockMask;
             stroke.lockValues = around.lockValues;
             if (!m_connection.hasRoomFor(StrokeSender::sizeOf(stroke))) break;
-            const auto sent = m_sender.send(keys, stroke, held);
-            if (!sent) return sent.error();
+            if (const auto sent = m_sender.send(keys, stroke, held); !sent) return sent.error();
             m_binder.markUsed(characters[at]);
         }
         m_sender.home();
         m_connection.flush();
     }
-    return RunState::going;
+    return {};
 }
 
 }  // namespace x11

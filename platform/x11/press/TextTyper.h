@@ -24,24 +24,24 @@ class TextTyper {
 
     /// Types the characters with further X modifier bits and locks held over each. Fails before the first one
     /// if one of them cannot be typed; the message names it.
-    Result<RunState> type(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held,
-                          const Check& check);
+    Step<> type(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held,
+                const Check& check);
 
     /// Puts those characters on keys that need it, as many as have room: a text that is typed later finds
     /// them there.
-    Result<RunState> prepare(std::span<const char32_t> characters, xkb_layout_index_t group);
+    Step<> prepare(std::span<const char32_t> characters, xkb_layout_index_t group);
 
     /// The stroke of a character, bound first if need be; waits until it may be.
-    Result<Stroke> strokeFor(char32_t character, xkb_layout_index_t group);
+    Step<Stroke> strokeFor(char32_t character, xkb_layout_index_t group);
 
   private:
     std::optional<Stroke> find(char32_t character, xkb_layout_index_t group) const;
     Result<void> refuseUntypable(std::span<const char32_t> characters, xkb_layout_index_t group);
     std::size_t fittingPart(std::span<const char32_t> characters, xkb_layout_index_t group,
                             std::vector<char32_t>& unbound);
-    Result<RunState> bind(const std::vector<char32_t>& wanted);
-    Result<RunState> typePart(std::span<const char32_t> characters, const Stroke& around,
-                              const KeycodeSet& held, const Check& check);
+    Step<> bind(const std::vector<char32_t>& wanted);
+    Step<> typePart(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held,
+                    const Check& check);
 
     InjectionConnection& m_connection;
     KeymapWatch& m_keymap;

@@ -13,15 +13,6 @@ namespace {
 /// What applications need to take in that the user's keys are up.
 constexpr std::chrono::milliseconds settleTime{10};
 
-template <typename... Cases>
-struct Overloaded : Cases... {
-    using Cases::operator()...;
-};
-template <typename... Cases>
-Overloaded(Cases...) -> Overloaded<Cases...>;
-
-bool isGoing(const Result<RunState>& result) { return result && result.value() == RunState::going; }
-
 }  // namespace
 
 X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionPlan plan,
@@ -54,11 +45,11 @@ void X11InjectionSession::rest() {
     m_tools.mark.clear();
 }
 
-Result<RunState> X11InjectionSession::step(const Step& body) {
-    if (m_end) return *m_end;
-    auto result = body();
-    if (!isGoing(result)) m_end = result;
-    return result;
+Step<> X11InjectionSession::take(const std::function<Step<>()>& step) {
+    if (m_halt) return *m_halt;
+    auto taken = step();
+    if (!taken) m_halt = taken.error();
+    return taken;
 }
 
 Result<void> X11InjectionSession::followKeymap() {
@@ -68,102 +59,97 @@ Result<void> X11InjectionSession::followKeymap() {
     return {};
 }
 
-Result<RunState> X11InjectionSession::begin() {
-    const auto told = m_tools.guard.tell({});
-    if (!told) return told.error();
+Step<> X11InjectionSession::begin() {
+    if (const auto told = m_tools.guard.tell({}); !told) return told.error();
     m_tools.mark.set();
     if (!m_hasBegun) m_tools.watch.runStarts();
     m_hasBegun = true;
     m_rests = false;
     m_tools.watch.endHotKeyGrab();
-    auto isFree = m_tools.grab.untilFree(m_waiter);
-    if (!isGoing(isFree)) return isFree;
-    return settle();
+    if (const auto freed = m_tools.grab.untilFree(m_waiter); !freed) return freed;
+    return takeOverHands();
 }
 
-Result<RunState> X11InjectionSession::settle() {
+Step<> X11InjectionSession::takeOverHands() {
     const auto isReleased = m_hands.takeOver(m_tools.keymap);
     if (!isReleased) return isReleased.error();
-    if (isReleased.value() && m_waiter.waitUntil(m_tools.clock.now() + settleTime) == RunState::cancelled) {
-        return RunState::cancelled;
+    if (isReleased.value()) {
+        const auto settled = m_waiter.waitUntil(m_tools.clock.now() + settleTime);
+        if (!settled) return settled;
     }
     m_pacer.begin();
-    return RunState::going;
+    return {};
 }
 
-/// Its keys go down again in the order in which they were pressed.
-Result<RunState> X11InjectionSession::resume() {
-    auto begun = begin();
-    if (!isGoing(begun)) return begun;
+/// After a rest, in the order in which they were pressed.
+void X11InjectionSession::pressHeldAgain() {
     for (const Held& held : m_held) {
         for (const std::uint8_t keycode : held.pressed) m_tools.connection.press(keycode);
     }
     m_tools.connection.flush();
-    return begun;
 }
 
-Result<XkbComponents> X11InjectionSession::check() {
+Result<XkbComponents> X11InjectionSession::checkHands() {
     auto state = m_hands.check(m_tools.keymap, heldKeys());
     if (state) m_state = state.value();
     return state;
 }
 
-Result<RunState> X11InjectionSession::ready() {
+Step<> X11InjectionSession::prepareStroke() {
     if (!m_hasBegun || m_rests) {
-        auto begun = resume();
-        if (!isGoing(begun)) return begun;
+        if (const auto begun = begin(); !begun) return begun;
+        pressHeldAgain();
     }
-    if (m_waiter.look() == RunState::cancelled) return RunState::cancelled;
-    const auto state = check();
+    if (const auto looked = m_waiter.look(); !looked) return looked;
+    const auto state = checkHands();
     if (!state) return state.error();
     m_sender.meet(state.value());
-    return RunState::going;
+    return {};
 }
 
-Result<RunState> X11InjectionSession::stroke(std::uint32_t keyCode, std::uint32_t modifiers) {
-    return step([&]() -> Result<RunState> {
-        const auto followed = followKeymap();
-        if (!followed) return followed.error();
+Step<> X11InjectionSession::stroke(std::uint32_t keyCode, std::uint32_t modifiers) {
+    return take([&]() -> Step<> {
+        if (const auto followed = followKeymap(); !followed) return followed.error();
         const auto stroke = planStroke(m_tools.keymap.keymap(), keyCode, modifiers);
         if (!stroke) return stroke.error();
         return stroke.value().keycode == 0 ? m_waiter.look() : play(stroke.value());
     });
 }
 
-Result<RunState> X11InjectionSession::play(const Stroke& stroke) {
-    auto isReady = ready();
-    if (!isGoing(isReady)) return isReady;
-    const ModifierKeys& keys = m_tools.keymap.keymap().keys();
-    const auto sent = m_sender.send(keys, stroke, heldKeys());
+Step<> X11InjectionSession::play(const Stroke& stroke) {
+    if (const auto prepared = prepareStroke(); !prepared) return prepared;
+    const auto sent = m_sender.send(m_tools.keymap.keymap().keys(), stroke, heldKeys());
     if (!sent) return sent.error();
     m_tools.connection.flush();
-    if (!keys.isLock(stroke.keycode)) return RunState::going;
-    const auto adopted = m_hands.adopt();
-    return adopted ? Result<RunState>(RunState::going) : adopted.error();
+    return adoptLocks(stroke.keycode);
 }
 
-Result<RunState> X11InjectionSession::text(std::string_view text, std::uint32_t modifiers) {
-    return step([&] { return type(text, modifiers); });
+/// What a stroke of a lock key has changed stays as it is now.
+Step<> X11InjectionSession::adoptLocks(std::uint8_t keycode) {
+    if (!m_tools.keymap.keymap().keys().isLock(keycode)) return {};
+    if (const auto adopted = m_hands.adopt(); !adopted) return adopted.error();
+    return {};
 }
 
-Result<RunState> X11InjectionSession::type(std::string_view text, std::uint32_t modifiers) {
+Step<> X11InjectionSession::text(std::string_view text, std::uint32_t modifiers) {
+    return take([&] { return type(text, modifiers); });
+}
+
+Step<> X11InjectionSession::type(std::string_view text, std::uint32_t modifiers) {
     const auto characters = charactersOf(text);
     if (!characters) return characters.error();
     if (characters.value().empty()) return m_waiter.look();
-    const auto followed = followKeymap();
-    if (!followed) return followed.error();
+    if (const auto followed = followKeymap(); !followed) return followed.error();
     const auto around = planModifiers(m_tools.keymap.keymap(), modifiers);
     if (!around) return around.error();
-    auto isReady = ready();
-    if (!isGoing(isReady)) return isReady;
-    auto prepared = prepareTexts();
-    if (!isGoing(prepared)) return prepared;
-    return m_typer.type(characters.value(), around.value(), heldKeys(), [this] { return check(); });
+    if (const auto prepared = prepareStroke(); !prepared) return prepared;
+    if (const auto prepared = prepareTexts(); !prepared) return prepared;
+    return m_typer.type(characters.value(), around.value(), heldKeys(), [this] { return checkHands(); });
 }
 
 /// What the plan tells of texts that are still to come; what in it cannot be typed is an error only there.
-Result<RunState> X11InjectionSession::prepareTexts() {
-    if (m_isPrepared) return RunState::going;
+Step<> X11InjectionSession::prepareTexts() {
+    if (m_isPrepared) return {};
     m_isPrepared = true;
     std::vector<char32_t> all;
     for (const std::string& text : m_plan.texts) {
@@ -173,76 +159,71 @@ Result<RunState> X11InjectionSession::prepareTexts() {
     return m_typer.prepare(all, m_state.lockedLayout);
 }
 
-Result<std::vector<Stroke>> X11InjectionSession::strokesOf(const HeldKey& key) {
-    const Keymap& map = m_tools.keymap.keymap();
-    using Strokes = Result<std::vector<Stroke>>;
-    const auto single = [](const Result<Stroke>& stroke) -> Strokes {
-        return stroke ? Strokes(std::vector{stroke.value()}) : stroke.error();
-    };
-    const auto ofModifier = [&](const HeldModifier& held) -> Strokes {
-        const auto bits = map.real(held.modifier);
-        if (!bits) return bits.error();
-        return std::vector{Stroke{.keycode = map.keys().keyFor(bits.value())}};
-    };
-    const auto ofText = [&](const HeldText& held) -> Strokes {
-        const auto characters = charactersOf(held.text);
-        if (!characters) return characters.error();
-        std::vector<Stroke> strokes;
-        for (const char32_t character : characters.value()) {
-            const auto stroke = m_typer.strokeFor(character, m_state.lockedLayout);
-            if (!stroke) return stroke.error();
-            strokes.push_back(stroke.value());
-        }
-        return strokes;
-    };
-    return std::visit(
-        Overloaded{ofModifier, [&](const HeldCode& held) { return single(planStroke(map, held.keyCode, 0)); },
-                   ofText},
-        key);
+X11InjectionSession::Strokes X11InjectionSession::strokesOf(const HeldKey& key) {
+    if (const auto* held = std::get_if<HeldModifier>(&key)) return strokesOfModifier(held->modifier);
+    if (const auto* held = std::get_if<HeldCode>(&key)) return strokesOfCode(held->keyCode);
+    return strokesOfText(std::get<HeldText>(key).text);
 }
 
-Result<RunState> X11InjectionSession::keyDown(const HeldKey& key) {
-    return step([&]() -> Result<RunState> {
-        const auto followed = followKeymap();
-        if (!followed) return followed.error();
-        auto isReady = ready();
-        if (!isGoing(isReady)) return isReady;
+X11InjectionSession::Strokes X11InjectionSession::strokesOfModifier(std::uint32_t modifier) const {
+    const Keymap& map = m_tools.keymap.keymap();
+    const auto bits = map.real(modifier);
+    if (!bits) return bits.error();
+    return std::vector{Stroke{.keycode = map.keys().keyFor(bits.value())}};
+}
+
+X11InjectionSession::Strokes X11InjectionSession::strokesOfCode(std::uint32_t keyCode) const {
+    const auto stroke = planStroke(m_tools.keymap.keymap(), keyCode, 0);
+    if (!stroke) return stroke.error();
+    return std::vector{stroke.value()};
+}
+
+X11InjectionSession::Strokes X11InjectionSession::strokesOfText(std::string_view text) {
+    const auto characters = charactersOf(text);
+    if (!characters) return characters.error();
+    std::vector<Stroke> strokes;
+    for (const char32_t character : characters.value()) {
+        const auto stroke = m_typer.strokeFor(character, m_state.lockedLayout);
+        if (!stroke) return stroke.error();
+        strokes.push_back(stroke.value());
+    }
+    return strokes;
+}
+
+Step<> X11InjectionSession::keyDown(const HeldKey& key) {
+    return take([&]() -> Step<> {
+        if (const auto followed = followKeymap(); !followed) return followed.error();
+        if (const auto prepared = prepareStroke(); !prepared) return prepared;
         const auto strokes = strokesOf(key);
         if (!strokes) return strokes.error();
         for (const Stroke& stroke : strokes.value()) {
-            auto held = hold(stroke);
-            if (!isGoing(held)) return held;
+            if (const auto held = hold(stroke); !held) return held;
         }
-        return RunState::going;
+        return {};
     });
 }
 
-Result<RunState> X11InjectionSession::hold(const Stroke& stroke) {
+Step<> X11InjectionSession::hold(const Stroke& stroke) {
     const KeycodeSet held = heldKeys();
-    if (stroke.keycode == 0 || held[stroke.keycode]) return RunState::going;
-    auto isReady = ready();
-    if (!isGoing(isReady)) return isReady;
-    const ModifierKeys& keys = m_tools.keymap.keymap().keys();
-    m_held.push_back({stroke.keycode, m_sender.hold(keys, stroke, held)});
+    if (stroke.keycode == 0 || held[stroke.keycode]) return {};
+    if (const auto prepared = prepareStroke(); !prepared) return prepared;
+    m_held.push_back({stroke.keycode, m_sender.hold(m_tools.keymap.keymap().keys(), stroke, held)});
     m_sender.home();
     m_tools.connection.flush();
-    if (!keys.isLock(stroke.keycode)) return RunState::going;
-    const auto adopted = m_hands.adopt();
-    return adopted ? Result<RunState>(RunState::going) : adopted.error();
+    return adoptLocks(stroke.keycode);
 }
 
-Result<RunState> X11InjectionSession::keyUp(const HeldKey& key) {
-    return step([&]() -> Result<RunState> {
+Step<> X11InjectionSession::keyUp(const HeldKey& key) {
+    return take([&]() -> Step<> {
         // What the run does not hold is not released: it may be the user's own.
         if (m_held.empty()) return m_waiter.look();
-        auto isReady = ready();
-        if (!isGoing(isReady)) return isReady;
+        if (const auto prepared = prepareStroke(); !prepared) return prepared;
         const auto strokes = strokesOf(key);
         if (!strokes) return strokes.error();
         for (auto stroke = strokes.value().rbegin(); stroke != strokes.value().rend(); ++stroke) {
             letGo(stroke->keycode);
         }
-        return RunState::going;
+        return {};
     });
 }
 
@@ -268,8 +249,8 @@ KeycodeSet X11InjectionSession::heldKeys() const {
     return keys;
 }
 
-Result<RunState> X11InjectionSession::pause(double seconds) {
-    return step([&]() -> Result<RunState> { return m_pacer.pause(seconds); });
+Step<> X11InjectionSession::pause(double seconds) {
+    return take([&] { return m_pacer.pause(seconds); });
 }
 
 }  // namespace x11

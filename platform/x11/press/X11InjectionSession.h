@@ -33,11 +33,11 @@ class X11InjectionSession final : public InjectionSession {
     X11InjectionSession(const X11InjectionSession&) = delete;
     X11InjectionSession& operator=(const X11InjectionSession&) = delete;
 
-    Result<RunState> stroke(std::uint32_t keyCode, std::uint32_t modifiers) override;
-    Result<RunState> text(std::string_view text, std::uint32_t modifiers) override;
-    Result<RunState> keyDown(const HeldKey& key) override;
-    Result<RunState> keyUp(const HeldKey& key) override;
-    Result<RunState> pause(double seconds) override;
+    Step<> stroke(std::uint32_t keyCode, std::uint32_t modifiers) override;
+    Step<> text(std::string_view text, std::uint32_t modifiers) override;
+    Step<> keyDown(const HeldKey& key) override;
+    Step<> keyUp(const HeldKey& key) override;
+    Step<> pause(double seconds) override;
 
     /// KeyInjector::rest(). What the user does is still kept for after the run.
     void rest();
@@ -48,24 +48,28 @@ class X11InjectionSession final : public InjectionSession {
         std::uint8_t keycode = 0;
         std::vector<std::uint8_t> pressed;
     };
-    using Step = std::function<Result<RunState>()>;
 
-    /// Runs a step unless the run has ended, and remembers if it ends the run.
-    Result<RunState> step(const Step& body);
+    /// Takes a step unless the run has halted, and remembers if it halts.
+    Step<> take(const std::function<Step<>()>& step);
     Result<void> followKeymap();
-    Result<RunState> begin();
-    Result<RunState> resume();
-    Result<RunState> settle();
-    Result<XkbComponents> check();
+    Step<> begin();
+    Step<> takeOverHands();
+    void pressHeldAgain();
+    Result<XkbComponents> checkHands();
     /// Begins if that has not been done, looks whether the user wishes to stop, and brings hands and locks in
     /// order.
-    Result<RunState> ready();
+    Step<> prepareStroke();
 
-    Result<RunState> play(const Stroke& stroke);
-    Result<RunState> type(std::string_view text, std::uint32_t modifiers);
-    Result<RunState> prepareTexts();
-    Result<std::vector<Stroke>> strokesOf(const HeldKey& key);
-    Result<RunState> hold(const Stroke& stroke);
+    Step<> play(const Stroke& stroke);
+    Step<> type(std::string_view text, std::uint32_t modifiers);
+    Step<> prepareTexts();
+    using Strokes = Step<std::vector<Stroke>>;
+    Strokes strokesOf(const HeldKey& key);
+    Strokes strokesOfModifier(std::uint32_t modifier) const;
+    Strokes strokesOfCode(std::uint32_t keyCode) const;
+    Strokes strokesOfText(std::string_view text);
+    Step<> hold(const Stroke& stroke);
+    Step<> adoptLocks(std::uint8_t keycode);
     void letGo(std::uint8_t keycode);
     void releaseKeysOf(const Held& held);
     KeycodeSet heldKeys() const;
@@ -83,7 +87,7 @@ class X11InjectionSession final : public InjectionSession {
     bool m_hasBegun = false;
     bool m_rests = false;
     bool m_isPrepared = false;
-    std::optional<Result<RunState>> m_end;
+    std::optional<Halt> m_halt;
 };
 
 }  // namespace x11

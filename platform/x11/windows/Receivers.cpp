@@ -180,11 +180,11 @@ bool Receivers::areDone(std::vector<Receiver>& receivers) {
     return std::all_of(receivers.begin(), receivers.end(), [](const Receiver& one) { return one.isDone; });
 }
 
-RunState Receivers::await(RunWait& wait, std::chrono::milliseconds longest) {
+Step<> Receivers::await(RunWait& wait, std::chrono::milliseconds longest) {
     note();
     auto receivers = all();
     m_noted.clear();
-    if (receivers.empty()) return RunState::going;
+    if (receivers.empty()) return {};
     const Clock::Time end = m_clock.now() + longest;
     // A time, as pings carry one; window managers take answers to pings of others for late ones.
     m_stamp = static_cast<std::uint32_t>(
@@ -194,16 +194,16 @@ RunState Receivers::await(RunWait& wait, std::chrono::milliseconds longest) {
         if (receiver.answersPings) ping(receiver);
     }
     m_server->connection.roundTrip();
-    RunState state = RunState::going;
-    while (state == RunState::going && !areDone(receivers) && m_clock.now() < end) {
-        state = wait.waitUntil(m_clock.now() + betweenLooks);
+    Step<> waited;
+    while (waited && !areDone(receivers) && m_clock.now() < end) {
+        waited = wait.waitUntil(m_clock.now() + betweenLooks);
     }
     selectAnswers(false);
     xcb_flush(m_server->connection);
     for (const Receiver& receiver : receivers) {
-        if (!receiver.isDone && state == RunState::going) m_silent.insert(receiver.window);
+        if (!receiver.isDone && waited) m_silent.insert(receiver.window);
     }
-    return state;
+    return waited;
 }
 
 }  // namespace x11

@@ -36,7 +36,7 @@ class Receivers {
 
     /// Waits until all that were noted, and whoever gets the keys now, have taken everything in; then none is
     /// noted any more. One that does not answer within `longest` is never waited for again.
-    RunState await(RunWait& wait, std::chrono::milliseconds longest);
+    Step<> await(RunWait& wait, std::chrono::milliseconds longest);
 
   private:
     /// A window whose program can be asked in one of the two ways.

@@ -32,9 +32,10 @@ x11::X11KeyInjector* playing = nullptr;  // NOLINT(cppcoreguidelines-avoid-non-c
 
 void handle(int /*signal*/) { playing->interrupt(); }
 
-bool goesOn(const Result<RunState>& result) {
-    if (!result) std::fprintf(stderr, "%s\n", result.error().message.c_str());
-    return result && result.value() == RunState::going;
+bool goesOn(const Step<>& step) {
+    if (!step && !step.error().isCancelled())
+        std::fprintf(stderr, "%s\n", step.error().error->message.c_str());
+    return bool(step);
 }
 
 void begun() {

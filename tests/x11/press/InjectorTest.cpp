@@ -30,9 +30,20 @@ std::string InjectorTest::command(const std::vector<std::string>& words) const {
     return outputOf(words, {{"DISPLAY", display()}});
 }
 
-std::string wordsOf(const Result<RunState>& result) {
-    if (!result) return result.error().message;
-    return result.value() == RunState::going ? "going" : "cancelled";
+std::string wordsOf(const Step<>& step) {
+    if (step) return "going";
+    return step.error().isCancelled() ? "cancelled" : step.error().error->message;
+}
+
+std::string ideographs(int count) {
+    std::string text;
+    for (int index = 0; index < count; ++index) {
+        const int code = 0x4E00 + index;
+        text += static_cast<char>(0xE0 | code >> 12);
+        text += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+        text += static_cast<char>(0x80 | (code & 0x3F));
+    }
+    return text;
 }
 
 std::vector<std::string> wordsOf(const std::vector<CoreClient::KeyEvent>& events) {

@@ -57,7 +57,10 @@ class InjectorTest : public testing::Test {
 };
 
 /// "going", "cancelled", or the error's message.
-std::string wordsOf(const Result<RunState>& result);
+std::string wordsOf(const Step<>& step);
+
+/// The first `count` ideographs of Unicode, none of them twice; no layout has them.
+std::string ideographs(int count);
 
 /// "press 38 0x4", "release 38 0x4": the key events of an application, with the state that they carry.
 std::vector<std::string> wordsOf(const std::vector<CoreClient::KeyEvent>& events);

@@ -26,17 +26,6 @@ class TextTest : public InjectorTest {
     }
     /// The server's whole keymap as text.
     std::string keymap() const { return command({"xkbcomp", display(), "-"}) + command({"xmodmap", "-pke"}); }
-    /// The first `count` ideographs, none of them twice.
-    static std::string ideographs(int count) {
-        std::string text;
-        for (int index = 0; index < count; ++index) {
-            const int code = 0x4E00 + index;
-            text += static_cast<char>(0xE0 | code >> 12);
-            text += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-            text += static_cast<char>(0x80 | (code & 0x3F));
-        }
-        return text;
-    }
 
   private:
     std::optional<Terminal> m_terminal;

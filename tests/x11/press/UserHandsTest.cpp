@@ -104,4 +104,19 @@ TEST_F(UserHandsTest, aShortEscapeAndTheScriptsOwnEndNothing) {
     EXPECT_EQ(wordsOf(session->pause(0.4)), "going");
 }
 
+TEST_F(UserHandsTest, escapeEndsAKeyDownWhoseCharacterWaitsForAKey) {
+    const auto session = program().run();
+    // No unused key is left, so that the next new character waits until all before it have been read.
+    ASSERT_TRUE(session->text(ideographs(300), 0));
+    CoreClient client(display());
+    client.claimToAnswerPings();
+    user().press(user::escape);
+    finish();
+    EXPECT_EQ(wordsOf(session->keyDown(HeldText{"\u6F22"})), "cancelled");
+    for (const auto& event : client.events()) EXPECT_EQ(event.keycode, user::escape);
+    user().release(user::escape);
+    finish();
+    waitFor("keys:, modifiers: 0x0");
+}
+
 }  // namespace
