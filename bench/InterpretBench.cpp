@@ -66,13 +66,12 @@ std::string scriptOf(const Loop& loop, int rounds) {
 std::pair<double, double> measured(const Loop& loop) {
     constexpr int rounds = 1000000;
     const auto program = script::compile(scriptOf(loop, rounds));
-    if (!std::holds_alternative<script::Program>(program)) std::abort();
+    if (!program) std::abort();
     ListeningInjector injector;
     script::SilentDesktop desktop;
     script::NoDialogs dialogs;
     const Clock::time_point begin = Clock::now();
-    const script::RunResult result =
-        script::run(std::get<script::Program>(program), {injector, desktop, dialogs});
+    const script::RunResult result = script::run(program.value(), {injector, desktop, dialogs});
     if (result.end != script::RunEnd::finished) std::abort();
     const double nanoseconds = std::chrono::duration<double, std::nano>(Clock::now() - begin).count();
     return {nanoseconds / rounds, injector.longestMilliseconds()};

@@ -6,7 +6,6 @@
 #include <iostream>
 #include <optional>
 #include <utility>
-#include <variant>
 
 #include "cli/Playback.h"
 #include "cli/Report.h"
@@ -45,11 +44,11 @@ std::optional<Source> sourceOf(const ScriptInput& input) {
 /// Empty after an error, which has been told.
 std::optional<script::Program> compiled(const Source& source) {
     auto result = script::compile(source.text);
-    if (const auto* error = std::get_if<script::ScriptError>(&result)) {
-        Report(source.name, source.text).syntaxError(*error);
+    if (!result) {
+        Report(source.name, source.text).syntaxError(result.error());
         return std::nullopt;
     }
-    return std::get<script::Program>(std::move(result));
+    return std::move(result).value();
 }
 
 script::RunResult run(const Source& source, const script::Program& program,
@@ -96,11 +95,11 @@ int formatScript(const ScriptInput& input) {
     const std::optional<Source> source = sourceOf(input);
     if (!source) return failed;
     const auto text = script::formatted(source->text);
-    if (const auto* error = std::get_if<script::ScriptError>(&text)) {
-        Report(source->name, source->text).syntaxError(*error);
+    if (!text) {
+        Report(source->name, source->text).syntaxError(text.error());
         return failed;
     }
-    std::cout << std::get<std::string>(text) << std::flush;
+    std::cout << text.value() << std::flush;
     return std::cout ? succeeded : failed;
 }
 

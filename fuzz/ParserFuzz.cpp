@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <cstdlib>
 #include <string>
-#include <variant>
 
 #include "platform/Encoding.h"
 #include "platform/script/code/Compiler.h"
@@ -14,16 +13,13 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string source = decodedText(std::string(data, data + size));
     const auto once = script::formatted(source);
-    const auto* text = std::get_if<std::string>(&once);
-    if (text == nullptr) {
-        const auto& error = std::get<script::ScriptError>(once);
-        if (error.number == 0 || error.message.empty()) std::abort();
+    if (!once) {
+        if (once.error().number == 0 || once.error().message.empty()) std::abort();
         return 0;
     }
-    const auto twice = script::formatted(*text);
-    const auto* again = std::get_if<std::string>(&twice);
-    if (again == nullptr || *again != *text) std::abort();
-    const bool compiles = std::holds_alternative<script::Program>(script::compile(source));
-    if (compiles != std::holds_alternative<script::Program>(script::compile(*text))) std::abort();
+    const auto twice = script::formatted(once.value());
+    if (!twice || twice.value() != once.value()) std::abort();
+    const bool compiles = bool(script::compile(source));
+    if (compiles != bool(script::compile(once.value()))) std::abort();
     return 0;
 }

@@ -5,7 +5,6 @@
 #include <cstdlib>
 #include <string>
 #include <utility>
-#include <variant>
 
 #include "platform/Encoding.h"
 #include "platform/KeyInjector.h"
@@ -67,8 +66,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string source = decodedText(std::string(data, data + size));
     if (invalidUtf8(source)) std::abort();
     const auto compiled = script::compile(std::move(source));
-    if (const auto* error = std::get_if<script::ScriptError>(&compiled)) {
-        check(*error);
+    if (!compiled) {
+        check(compiled.error());
         return 0;
     }
     BoundedInjector injector;
@@ -77,8 +76,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto checkWarning = [](const script::ScriptWarning& warning) {
         if (warning.message.empty()) std::abort();
     };
-    const script::RunResult result = script::run(std::get<script::Program>(compiled),
-                                                 {injector, desktop, dialogs}, {.onWarning = checkWarning});
+    const script::RunResult result =
+        script::run(compiled.value(), {injector, desktop, dialogs}, {.onWarning = checkWarning});
     if (result.error) check(*result.error);
     return 0;
 }

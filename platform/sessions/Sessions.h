@@ -23,5 +23,4 @@ std::span<const SessionKind> sessionKinds();
 
 /// The kind of that name, or without a name the first one that the process was started in. Fails for a name
 /// that there is not, and where the process was started in no such session; the hint lists the names.
-Result<SessionKind> chooseSession(std::string_view name,
-                                  std::span<const SessionKind> kinds = sessionKinds());
+Result<SessionKind> chooseSession(std::string_view name, std::span<const SessionKind> kinds = sessionKinds());

@@ -111,16 +111,16 @@ Service& oneOf(Service* available, Service& otherwise) {
 
 SessionServices X11Session::allServices() {
     X11EventManager* const manager = m_keys ? m_keys->eventManager.get() : nullptr;
-    return {.eventMonitor = oneOf<EventMonitor>(manager, m_noKeys.eventMonitor),
-            .hotKeys = oneOf<HotKeys>(manager, m_noKeys.hotKeys),
-            .keyboardLayout =
-                oneOf<KeyboardLayout>(m_keys ? &m_keys->keyboardLayout : nullptr, m_noKeys.keyboardLayout),
-            .keyInjector = oneOf<KeyInjector>(m_keys ? &m_keys->keyInjector : nullptr, m_noKeys.keyInjector),
-            .scriptDesktop = m_scriptDesktop,
-            .sessionCheck = m_sessionCheck,
-            .windows = oneOf<Windows>(m_surroundings ? &m_surroundings->windows : nullptr, m_noWindows),
-            .dockingTray =
-                oneOf<DockingTray>(m_surroundings ? &m_surroundings->dockingTray : nullptr, m_noTray)};
+    return {
+        .eventMonitor = oneOf<EventMonitor>(manager, m_noKeys.eventMonitor),
+        .hotKeys = oneOf<HotKeys>(manager, m_noKeys.hotKeys),
+        .keyboardLayout =
+            oneOf<KeyboardLayout>(m_keys ? &m_keys->keyboardLayout : nullptr, m_noKeys.keyboardLayout),
+        .keyInjector = oneOf<KeyInjector>(m_keys ? &m_keys->keyInjector : nullptr, m_noKeys.keyInjector),
+        .scriptDesktop = m_scriptDesktop,
+        .sessionCheck = m_sessionCheck,
+        .windows = oneOf<Windows>(m_surroundings ? &m_surroundings->windows : nullptr, m_noWindows),
+        .dockingTray = oneOf<DockingTray>(m_surroundings ? &m_surroundings->dockingTray : nullptr, m_noTray)};
 }
 
 std::vector<EventSource*> X11Session::eventSources() {
@@ -133,8 +133,8 @@ std::vector<EventSource*> X11Session::eventSources() {
 Result<std::unique_ptr<Session>> openForScripts(Clock& clock) {
     auto keys = openKeys(clock);
     if (!keys) return keys.error();
-    return std::unique_ptr<Session>(std::make_unique<X11Session>(clock, std::move(keys).value(), Error{},
-                                                                 nullptr, SessionUse::scripts));
+    return std::unique_ptr<Session>(
+        std::make_unique<X11Session>(clock, std::move(keys).value(), Error{}, nullptr, SessionUse::scripts));
 }
 
 Result<std::unique_ptr<Session>> openForDesktop(Clock& clock) {
@@ -149,9 +149,8 @@ Result<std::unique_ptr<Session>> openForDesktop(Clock& clock) {
     const X11SessionCheck check(X11SessionCheck::sessionOfProcess());
     // What the start-up finds out is told there.
     if (!keys && check.version() && check.access()) return why;
-    return std::unique_ptr<Session>(
-        std::make_unique<X11Session>(clock, keys ? std::move(keys).value() : nullptr, why,
-                                     std::move(surroundings), SessionUse::desktop));
+    return std::unique_ptr<Session>(std::make_unique<X11Session>(
+        clock, keys ? std::move(keys).value() : nullptr, why, std::move(surroundings), SessionUse::desktop));
 }
 
 }  // namespace

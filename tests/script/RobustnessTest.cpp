@@ -17,17 +17,16 @@ const std::string sample =
 /// Compiles or is refused with a message and a place within the source.
 void expectAnAnswer(const std::string& source) {
     const auto compiled = script::compile(source);
-    const auto* error = std::get_if<script::ScriptError>(&compiled);
-    if (error == nullptr) return;
-    EXPECT_NE(error->number, 0) << source;
-    EXPECT_FALSE(error->message.empty()) << source;
-    EXPECT_GE(error->location.line, 1U);
+    if (compiled) return;
+    const script::ScriptError& error = compiled.error();
+    EXPECT_NE(error.number, 0) << source;
+    EXPECT_FALSE(error.message.empty()) << source;
+    EXPECT_GE(error.location.line, 1U);
 }
 
 TEST(RobustnessTest, theSampleItselfCompiles) {
     const auto compiled = script::compile(sample);
-    const auto* error = std::get_if<script::ScriptError>(&compiled);
-    EXPECT_EQ(error, nullptr) << (error == nullptr ? "" : error->message);
+    EXPECT_TRUE(compiled) << compiled.error().message;
 }
 
 TEST(RobustnessTest, everyBeginningOfAScriptGetsAnAnswer) {

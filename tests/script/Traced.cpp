@@ -2,7 +2,6 @@
 #include "script/Traced.h"
 
 #include <sstream>
-#include <variant>
 
 #include "platform/script/code/Compiler.h"
 #include "platform/script/run/Run.h"
@@ -21,12 +20,12 @@ std::string printed(const script::ScriptWarning& warning) {
 Traced traced(const std::string& source) {
     Traced result;
     const auto compiled = script::compile(source);
-    if (const auto* error = std::get_if<script::ScriptError>(&compiled)) {
+    if (!compiled) {
         result.phase = Traced::Phase::compile;
-        result.error = *error;
+        result.error = compiled.error();
         return result;
     }
-    const auto& program = std::get<script::Program>(compiled);
+    const auto& program = compiled.value();
     for (const auto& warning : program.warnings()) result.warnings.push_back(printed(warning));
     std::ostringstream events;
     script::TraceInjector injector(events);

@@ -37,8 +37,8 @@ TEST(SessionsTest, withoutAnySessionTheLastOneSaysWhatIsMissing) {
 
 TEST(SessionsTest, anUnknownNameListsTheKnownOnes) {
     const std::array kinds{near, far};
-    EXPECT_EQ(chooseSession("farr", kinds).error(), (Error{"There is no kind of session called \"farr\".",
-                                                           "Choose one of these: near, far."}));
+    EXPECT_EQ(chooseSession("farr", kinds).error(),
+              (Error{"There is no kind of session called \"farr\".", "Choose one of these: near, far."}));
 }
 
 TEST(SessionsTest, eachKindHasANameOfItsOwnAndAWayIn) {

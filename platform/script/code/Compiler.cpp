@@ -12,20 +12,20 @@
 namespace script {
 namespace {
 
-std::optional<ScriptError> unreadable(const std::string& source) {
+Result<void, ScriptError> checkReadable(const std::string& source) {
     if (source.size() > maxSourceSize) {
         return ScriptError{errornumber::syntax, "Expected at most 16 MiB of script but found more.", {}};
     }
     const std::optional<std::size_t> invalid = invalidUtf8(source);
-    if (!invalid) return std::nullopt;
+    if (!invalid) return {};
     return ScriptError{errornumber::syntax, "Expected text in UTF-8 but found another byte.",
                        locate(source, *invalid)};
 }
 
 }  // namespace
 
-std::variant<Program, ScriptError> compile(std::string source) {
-    if (std::optional<ScriptError> error = unreadable(source)) return *std::move(error);
+Result<Program, ScriptError> compile(std::string source) {
+    if (auto readable = checkReadable(source); !readable) return std::move(readable).error();
     Parser parser(source);
     Tree& tree = parser.parse();
     if (parser.error()) {

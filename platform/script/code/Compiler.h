@@ -3,8 +3,8 @@
 
 #include <cstddef>
 #include <string>
-#include <variant>
 
+#include "platform/Result.h"
 #include "platform/script/code/Program.h"
 #include "platform/script/source/ScriptError.h"
 
@@ -14,6 +14,6 @@ namespace script {
 inline constexpr std::size_t maxSourceSize = 16U << 20U;
 
 /// Compiles a script in UTF-8. An error is the first one of the script.
-std::variant<Program, ScriptError> compile(std::string source);
+Result<Program, ScriptError> compile(std::string source);
 
 }  // namespace script

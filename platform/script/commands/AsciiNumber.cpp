@@ -12,10 +12,10 @@ namespace {
 
 Fallible<Value> perform(CommandStage& /*stage*/, const Arguments& arguments) {
     const Fallible<std::string> text = textOf(*arguments.direct());
-    if (const auto* failure = std::get_if<Failure>(&text)) return *failure;
-    if (std::get<std::string>(text).empty()) return Value{std::int64_t{0}};
+    if (!text) return text.error();
+    if (text.value().empty()) return Value{std::int64_t{0}};
     std::size_t position = 0;
-    return Value{static_cast<std::int64_t>(takeCharacter(std::get<std::string>(text), position))};
+    return Value{static_cast<std::int64_t>(takeCharacter(text.value(), position))};
 }
 
 }  // namespace

@@ -24,9 +24,9 @@ class CommandStage {
     virtual ~CommandStage() = default;
 
     using KeyStep = std::function<Step<>(InjectionSession&)>;
-    /// Takes a step of the session, which is opened before the first one. What is wrong, if anything is; a
-    /// wish to stop is a failure that no script can catch.
-    virtual std::optional<Failure> play(const KeyStep& step) = 0;
+    /// Takes a step of the session, which is opened before the first one. A wish to stop is a failure that no
+    /// script can catch.
+    virtual Fallible<> play(const KeyStep& step) = 0;
 
     /// Tells something about the command once.
     virtual void warn(std::string message) = 0;
@@ -35,8 +35,8 @@ class CommandStage {
 
     virtual ScriptDesktop& desktop() = 0;
     virtual ScriptDialogs& dialogs() = 0;
-    /// The wish to stop as a failure, if there is one.
-    virtual std::optional<Failure> stopWish() = 0;
+    /// Fails if the user wishes to stop.
+    virtual Fallible<> goOn() = 0;
     virtual const TextRules& rules() const = 0;
     virtual std::mt19937_64& random() = 0;
     /// What the innermost `tell` addresses.

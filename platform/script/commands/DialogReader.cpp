@@ -18,11 +18,11 @@ void DialogReader::fail(Failure failure) {
 std::string DialogReader::text(const Value* given) {
     if (given == nullptr) return "";
     Fallible<std::string> text = textOf(*given);
-    if (auto* failure = std::get_if<Failure>(&text)) {
-        fail(std::move(*failure));
+    if (!text) {
+        fail(std::move(text).error());
         return "";
     }
-    return std::get<std::string>(std::move(text));
+    return std::move(text).value();
 }
 
 bool DialogReader::truth(const Value* given) {
@@ -71,7 +71,7 @@ Fallible<Value> DialogReader::ask(CommandStage& stage,
                                   Value (*answered)(const ScriptDialog& dialog, const ScriptAnswer& answer)) {
     if (m_failure) return *std::move(m_failure);
     const Result<ScriptAnswer> answer = stage.dialogs().ask(m_dialog);
-    if (auto wish = stage.stopWish()) return *std::move(wish);
+    if (auto going = stage.goOn(); !going) return std::move(going).error();
     if (!answer) return desktopFailure(answer.error());
     if (answer.value().button && answer.value().button == m_dialog.cancelButton) {
         return Failure{errornumber::userCancelled, "User canceled."};

@@ -12,20 +12,20 @@ namespace {
 
 Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     auto mask = modifierMask(stage, arguments.parameter(0));
-    if (auto* failure = std::get_if<Failure>(&mask)) return std::move(*failure);
+    if (!mask) return std::move(mask).error();
     // All codes are read before the first is pressed.
     std::vector<std::uint32_t> codes;
     for (const Value& item : itemsOf(*arguments.direct())) {
         Fallible<Value> value = resolved(item);
-        if (failureOf(value) != nullptr) return value;
-        auto code = keyCodeOf(std::get<Value>(value));
-        if (auto* failure = std::get_if<Failure>(&code)) return std::move(*failure);
-        if (isPlayable(stage, std::get<std::uint32_t>(code))) codes.push_back(std::get<std::uint32_t>(code));
+        if (!value) return value;
+        auto code = keyCodeOf(value.value());
+        if (!code) return std::move(code).error();
+        if (isPlayable(stage, code.value())) codes.push_back(code.value());
     }
     for (const std::uint32_t code : codes) {
-        auto failure = stage.play(
-            [&](InjectionSession& session) { return session.stroke(code, std::get<std::uint32_t>(mask)); });
-        if (failure) return *std::move(failure);
+        auto played =
+            stage.play([&](InjectionSession& session) { return session.stroke(code, mask.value()); });
+        if (!played) return std::move(played).error();
     }
     return Value();
 }

@@ -13,13 +13,13 @@ namespace {
 
 Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     Fallible<std::string> text = textOf(*arguments.direct(), stage.rules().joint());
-    if (auto* failure = std::get_if<Failure>(&text)) return std::move(*failure);
+    if (!text) return std::move(text).error();
     auto mask = modifierMask(stage, arguments.parameter(0));
-    if (auto* failure = std::get_if<Failure>(&mask)) return std::move(*failure);
-    const std::string& typed = std::get<std::string>(text);
+    if (!mask) return std::move(mask).error();
+    const std::string& typed = text.value();
     if (typed.empty()) return Value();
-    return outcomeOf(stage.play(
-        [&](InjectionSession& session) { return session.text(typed, std::get<std::uint32_t>(mask)); }));
+    return outcomeOf(
+        stage.play([&](InjectionSession& session) { return session.text(typed, mask.value()); }));
 }
 
 }  // namespace

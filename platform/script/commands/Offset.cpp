@@ -16,12 +16,12 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
         return Failure{errornumber::missingParameter, "Some parameter is missing for offset."};
     }
     const Fallible<std::string> part = textOf(*arguments.direct());
-    if (const auto* failure = std::get_if<Failure>(&part)) return *failure;
+    if (!part) return part.error();
     const Fallible<std::string> whole = textOf(*arguments.parameter(0));
-    if (const auto* failure = std::get_if<Failure>(&whole)) return *failure;
-    const auto& text = std::get<std::string>(whole);
-    const auto found = findText(text, std::get<std::string>(part), 0, stage.rules());
-    if (!found || std::get<std::string>(part).empty()) return Value{std::int64_t{0}};
+    if (!whole) return whole.error();
+    const auto& text = whole.value();
+    const auto found = findText(text, part.value(), 0, stage.rules());
+    if (!found || part.value().empty()) return Value{std::int64_t{0}};
     std::int64_t place = 1;
     for (std::size_t position = 0; position < found->begin; ++place) takeCharacter(text, position);
     return Value{place};

@@ -24,10 +24,10 @@ bool isPower(std::uint32_t code) {
 }
 
 /// Adds what `value` names: nothing for a key that does not exist, of a text each character's key.
-std::optional<Failure> addHeldKeys(CommandStage& stage, const Value& value, std::vector<HeldKey>& held) {
+Fallible<> addHeldKeys(CommandStage& stage, const Value& value, std::vector<HeldKey>& held) {
     if (const auto* constant = value.as<Modifier>()) {
         held.emplace_back(HeldModifier{constant->modifier});
-        return std::nullopt;
+        return {};
     }
     if (const std::string* text = value.text()) {
         for (std::string_view left = *text; !left.empty();) {
@@ -35,32 +35,32 @@ std::optional<Failure> addHeldKeys(CommandStage& stage, const Value& value, std:
             held.emplace_back(HeldText{std::string(left.substr(0, length))});
             left.remove_prefix(length);
         }
-        return std::nullopt;
+        return {};
     }
     auto code = keyCodeOf(value);
-    if (auto* failure = std::get_if<Failure>(&code)) return std::move(*failure);
-    const auto number = std::get<std::uint32_t>(code);
+    if (!code) return std::move(code).error();
+    const auto number = code.value();
     if (isPlayable(stage, number)) held.emplace_back(HeldCode{number});
-    return std::nullopt;
+    return {};
 }
 
 }  // namespace
 
-std::variant<std::uint32_t, Failure> modifierMask(CommandStage& stage, const Value* given) {
+Fallible<std::uint32_t> modifierMask(CommandStage& stage, const Value* given) {
     std::uint32_t mask = 0;
     if (given == nullptr) return mask;
     for (const Value& item : itemsOf(*given)) {
         Fallible<Value> value = resolved(item);
-        if (auto* failure = std::get_if<Failure>(&value)) return std::move(*failure);
-        const auto* constant = std::get<Value>(value).as<Modifier>();
-        if (constant == nullptr) return cannotMake(std::get<Value>(value), "modifier");
+        if (!value) return std::move(value).error();
+        const auto* constant = value.value().as<Modifier>();
+        if (constant == nullptr) return cannotMake(value.value(), "modifier");
         if (!constant->down) stage.warn(modifierAdvice(*constant));
         mask |= constant->modifier;
     }
     return mask;
 }
 
-std::variant<std::uint32_t, Failure> keyCodeOf(const Value& value) {
+Fallible<std::uint32_t> keyCodeOf(const Value& value) {
     const std::optional<std::int32_t> code = integerOf(value);
     if (!code) return cannotMake(value, "integer");
     if (*code < 0 || *code > maxKeyCode) return cannotMake(value, "key code");
@@ -81,20 +81,20 @@ Fallible<Value> hold(CommandStage& stage, const Value& keys, bool down) {
     std::vector<HeldKey> held;
     for (const Value& item : itemsOf(keys)) {
         Fallible<Value> value = resolved(item);
-        if (auto* failure = std::get_if<Failure>(&value)) return std::move(*failure);
-        auto failure = addHeldKeys(stage, std::get<Value>(value), held);
-        if (failure) return *std::move(failure);
+        if (!value) return std::move(value).error();
+        auto added = addHeldKeys(stage, value.value(), held);
+        if (!added) return std::move(added).error();
     }
     for (const HeldKey& key : held) {
-        auto failure = stage.play(
+        auto played = stage.play(
             [&](InjectionSession& session) { return down ? session.keyDown(key) : session.keyUp(key); });
-        if (failure) return *std::move(failure);
+        if (!played) return std::move(played).error();
     }
     return Value();
 }
 
-Fallible<Value> outcomeOf(std::optional<Failure> failure) {
-    if (failure) return *std::move(failure);
+Fallible<Value> outcomeOf(Fallible<> step) {
+    if (!step) return std::move(step).error();
     return Value();
 }
 

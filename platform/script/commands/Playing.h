@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 
 #include "platform/KeyInjector.h"
 #include "platform/script/commands/Command.h"
@@ -11,10 +10,10 @@
 namespace script {
 
 /// The mask of modifiers that `using` gives; 0 where it was left out.
-std::variant<std::uint32_t, Failure> modifierMask(CommandStage& stage, const Value* given);
+Fallible<std::uint32_t> modifierMask(CommandStage& stage, const Value* given);
 
 /// A key code within the range that the language has. The power key is never pressed.
-std::variant<std::uint32_t, Failure> keyCodeOf(const Value& value);
+Fallible<std::uint32_t> keyCodeOf(const Value& value);
 
 /// Whether there is such a key; if not, that is told.
 bool isPlayable(CommandStage& stage, std::uint32_t code);
@@ -23,7 +22,7 @@ bool isPlayable(CommandStage& stage, std::uint32_t code);
 Fallible<Value> hold(CommandStage& stage, const Value& keys, bool down);
 
 /// The value nothing, or why a step failed.
-Fallible<Value> outcomeOf(std::optional<Failure> failure);
+Fallible<Value> outcomeOf(Fallible<> step);
 
 /// -10000 with what the desktop says.
 Failure desktopFailure(const Error& error);

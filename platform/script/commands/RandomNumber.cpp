@@ -20,7 +20,7 @@ struct Limit {
     bool isWhole = true;
 };
 
-std::variant<Limit, Failure> limitOf(const Value* given) {
+Fallible<Limit> limitOf(const Value* given) {
     if (given == nullptr) return Limit();
     const std::optional<double> number = numberOf(*given);
     if (!number) return cannotMake(*given, "number");
@@ -42,11 +42,11 @@ Value chosen(std::mt19937_64& source, Limit from, Limit to) {
 
 Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     auto direct = limitOf(arguments.direct());
-    if (auto* failure = std::get_if<Failure>(&direct)) return std::move(*failure);
+    if (!direct) return std::move(direct).error();
     auto from = limitOf(arguments.parameter(0));
-    if (auto* failure = std::get_if<Failure>(&from)) return std::move(*failure);
+    if (!from) return std::move(from).error();
     auto to = limitOf(arguments.parameter(1));
-    if (auto* failure = std::get_if<Failure>(&to)) return std::move(*failure);
+    if (!to) return std::move(to).error();
     if (const Value* seed = arguments.parameter(2)) {
         const std::optional<double> number = numberOf(*seed);
         if (!number) return cannotMake(*seed, "number");
@@ -56,7 +56,7 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
                            arguments.parameter(1) != nullptr;
     if (!hasLimits) return chosen(stage.random(), Limit(), Limit{1, false});
     const bool isDirect = arguments.parameter(1) == nullptr && arguments.direct() != nullptr;
-    return chosen(stage.random(), std::get<Limit>(from), std::get<Limit>(isDirect ? direct : to));
+    return chosen(stage.random(), from.value(), (isDirect ? direct : to).value());
 }
 
 }  // namespace

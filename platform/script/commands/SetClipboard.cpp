@@ -13,8 +13,8 @@ namespace {
 
 Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     Fallible<std::string> text = textOf(*arguments.direct(), stage.rules().joint());
-    if (auto* failure = std::get_if<Failure>(&text)) return std::move(*failure);
-    const Result<void> set = stage.desktop().setClipboard(std::get<std::string>(text));
+    if (!text) return std::move(text).error();
+    const Result<void> set = stage.desktop().setClipboard(text.value());
     if (!set) return desktopFailure(set.error());
     return Value();
 }

@@ -63,8 +63,8 @@ void beginList(Execution& run, const Instruction& /*unused*/) {
         Element every;
         every.form = ElementForm::every;
         Fallible<Value> characters = elementOf(value, every, run.textRules());
-        if (auto* failure = std::get_if<Failure>(&characters)) return run.fail(std::move(*failure));
-        value = std::get<Value>(std::move(characters));
+        if (!characters) return run.fail(std::move(characters).error());
+        value = std::move(characters).value();
     }
     run.push(std::move(value));
     run.push(Value{static_cast<std::int64_t>(*count)});
@@ -112,8 +112,8 @@ void raise(Execution& run, const Instruction& here) {
     if (has(ErrorPart::number)) run.drop();
     if (has(ErrorPart::message)) {
         Fallible<std::string> message = textOf(run.popResolved(), run.textRules().joint());
-        if (auto* wrong = std::get_if<Failure>(&message)) return run.fail(std::move(*wrong));
-        failure.message = std::get<std::string>(std::move(message));
+        if (!message) return run.fail(std::move(message).error());
+        failure.message = std::move(message).value();
     } else {
         failure.message = standardMessage(failure.number);
     }

@@ -95,8 +95,7 @@ void setElementOperation(Execution& run, const Instruction& here) {
     const Value container = run.popResolved();
     if (run.hasFailed() || !choose(run, container, element)) return;
     const Value value = run.pop();
-    if (std::optional<Failure> failure = setElement(container, element, value))
-        return run.fail(*std::move(failure));
+    if (auto set = setElement(container, element, value); !set) return run.fail(std::move(set).error());
     if (isContainer(value)) run.holdsContainer(container);
 }
 
@@ -136,8 +135,7 @@ void setPropertyOperation(Execution& run, const Instruction& here) {
         return;
     }
     if (&name == &names::beginning) run.workOn(container);
-    if (std::optional<Failure> failure = setProperty(container, name, value))
-        return run.fail(*std::move(failure));
+    if (auto set = setProperty(container, name, value); !set) return run.fail(std::move(set).error());
     if (isContainer(value)) run.holdsContainer(container);
 }
 
@@ -149,10 +147,10 @@ void setContents(Execution& run, const Instruction& /*unused*/) {
     const ReferenceBody* body = reference.reference();
     if (body == nullptr) return run.fail(cannotSet("contents of " + sourceForm(reference), value));
     Fallible<Value> container = resolved(body->container);
-    if (auto* failure = std::get_if<Failure>(&container)) return run.fail(std::move(*failure));
-    std::optional<Failure> failure = setElement(std::get<Value>(container), body->element, value);
-    if (failure) return run.fail(*std::move(failure));
-    if (isContainer(value)) run.holdsContainer(std::get<Value>(container));
+    if (!container) return run.fail(std::move(container).error());
+    auto set = setElement(container.value(), body->element, value);
+    if (!set) return run.fail(std::move(set).error());
+    if (isContainer(value)) run.holdsContainer(container.value());
 }
 
 bool isCharacter(std::int32_t point) {

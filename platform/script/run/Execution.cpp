@@ -83,11 +83,11 @@ Value Execution::popResolved() {
     Value value = pop();
     if (value.reference() == nullptr) return value;
     Fallible<Value> found = resolved(std::move(value));
-    if (auto* failure = std::get_if<Failure>(&found)) {
-        fail(std::move(*failure));
+    if (!found) {
+        fail(std::move(found).error());
         return {};
     }
-    return std::get<Value>(std::move(found));
+    return std::move(found).value();
 }
 
 bool Execution::resolveTop(std::size_t count) {
@@ -95,18 +95,18 @@ bool Execution::resolveTop(std::size_t count) {
         Value& value = top(depth);
         if (value.reference() == nullptr) continue;
         Fallible<Value> found = resolved(value);
-        if (auto* failure = std::get_if<Failure>(&found)) {
-            fail(std::move(*failure));
+        if (!found) {
+            fail(std::move(found).error());
             return false;
         }
-        value = std::get<Value>(std::move(found));
+        value = std::move(found).value();
     }
     return true;
 }
 
 void Execution::pushOrFail(Fallible<Value> outcome) {
-    if (auto* failure = std::get_if<Failure>(&outcome)) return fail(std::move(*failure));
-    push(std::get<Value>(std::move(outcome)));
+    if (!outcome) return fail(std::move(outcome).error());
+    push(std::move(outcome).value());
 }
 
 List Execution::popList(std::size_t count) {
@@ -130,12 +130,12 @@ void Execution::workOn(const Value& value) {
 
 void Execution::askWhetherToStop() {
     m_work = 0;
-    if (std::optional<Failure> wish = stopWish()) fail(*std::move(wish));
+    if (auto going = goOn(); !going) fail(std::move(going).error());
 }
 
-std::optional<Failure> Execution::stopWish() {
-    if (!m_services.injector.isCancelled()) return std::nullopt;
-    return userCancelled();
+Fallible<> Execution::goOn() {
+    if (m_services.injector.isCancelled()) return userCancelled();
+    return {};
 }
 
 void Execution::enterHandler(std::uint32_t index, std::size_t arguments) {
@@ -242,7 +242,7 @@ const Value& Execution::target() const {
     return m_targets.size() > m_frames.back().targets ? m_targets.back() : m_me;
 }
 
-std::optional<Failure> Execution::play(const KeyStep& step) {
+Fallible<> Execution::play(const KeyStep& step) {
     const auto failed = [](int number, const Error& error) {
         const std::string hint = error.hint.empty() ? "" : " " + error.hint;
         return Failure{number, "System Events got an error: " + error.message + hint};
@@ -253,7 +253,7 @@ std::optional<Failure> Execution::play(const KeyStep& step) {
         m_session = std::move(opened).value();
     }
     const auto taken = step(*m_session);
-    if (taken) return std::nullopt;
+    if (taken) return {};
     if (taken.error().isCancelled()) return userCancelled();
     return failed(errornumber::handlerFailed, *taken.error().error);
 }

@@ -117,12 +117,12 @@ class Execution : public CommandStage {
     const Value& me() const { return m_me; }
 
     // CommandStage
-    std::optional<Failure> play(const KeyStep& step) override;
+    Fallible<> play(const KeyStep& step) override;
     void warn(std::string message) override;
     void log(std::string line) override;
     ScriptDesktop& desktop() override { return m_services.desktop; }
     ScriptDialogs& dialogs() override { return m_services.dialogs; }
-    std::optional<Failure> stopWish() override;
+    Fallible<> goOn() override;
     const TextRules& rules() const override { return m_rules; }
     std::mt19937_64& random() override { return m_random; }
     const Value& target() const override;

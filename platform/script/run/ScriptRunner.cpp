@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/run/ScriptRunner.h"
 
-#include <variant>
-
 #include "platform/script/code/Compiler.h"
 #include "platform/script/run/Run.h"
 #include "platform/script/source/Scoped.h"
@@ -12,9 +10,8 @@ namespace script {
 void ScriptRunner::run(const std::string& source) {
     if (m_running) return;
     const Scoped<bool> running(m_running, true);
-    const std::variant<Program, ScriptError> compiled = compile(source);
-    const auto* program = std::get_if<Program>(&compiled);
-    if (program != nullptr) script::run(*program, {m_injector, m_desktop, *m_dialogs});
+    const auto program = compile(source);
+    if (program) script::run(program.value(), {m_injector, m_desktop, *m_dialogs});
 }
 
 }  // namespace script

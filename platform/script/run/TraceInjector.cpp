@@ -55,9 +55,7 @@ class TraceSession : public InjectionSession {
     Step<> keyDown(const HeldKey& key) override {
         return print("keydown", std::visit(HeldJson(), key) + ",[]");
     }
-    Step<> keyUp(const HeldKey& key) override {
-        return print("keyup", std::visit(HeldJson(), key) + ",[]");
-    }
+    Step<> keyUp(const HeldKey& key) override { return print("keyup", std::visit(HeldJson(), key) + ",[]"); }
     Step<> pause(double seconds) override { return print("delay", json(seconds)); }
 
   private:

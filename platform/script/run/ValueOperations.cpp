@@ -49,8 +49,8 @@ void makeNamed(Execution& run, TargetBody::Kind kind) {
     const Value name = run.popResolved();
     if (run.hasFailed()) return;
     Fallible<std::string> text = textOf(name);
-    if (auto* failure = std::get_if<Failure>(&text)) return run.fail(std::move(*failure));
-    const auto& spelled = std::get<std::string>(text);
+    if (!text) return run.fail(std::move(text).error());
+    const auto& spelled = text.value();
     const bool isApplication = kind == TargetBody::Kind::application;
     if (isApplication && isSystemEvents(spelled, false)) kind = TargetBody::Kind::systemEvents;
     run.push(Value{makeShared<TargetBody>(kind, Text(spelled))});
@@ -235,9 +235,9 @@ void binary(Execution& run, const Instruction& here) {
     Fallible<Value> outcome = evaluated(operation, run.top(1), run.top(), run.textRules());
     run.workOn(run.top(1));
     run.workOn(run.top());
-    if (auto* failure = std::get_if<Failure>(&outcome)) return run.fail(std::move(*failure));
+    if (!outcome) return run.fail(std::move(outcome).error());
     run.drop();
-    run.top() = std::get<Value>(std::move(outcome));
+    run.top() = std::move(outcome).value();
 }
 
 void coerce(Execution& run, const Instruction& here) {
@@ -258,7 +258,7 @@ void coerceAny(Execution& run, const Instruction& here) {
     }
     for (const Type type : types) {
         Fallible<Value> outcome = coerced(value, type, run.textRules().joint());
-        if (failureOf(outcome) == nullptr) return run.push(std::get<Value>(std::move(outcome)));
+        if (outcome) return run.push(std::move(outcome).value());
     }
     run.fail(cannotMake(value, typeName(types.front())));
 }

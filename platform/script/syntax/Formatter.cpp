@@ -267,7 +267,7 @@ class Layout {
 
 }  // namespace
 
-std::variant<std::string, ScriptError> formatted(std::string_view source) {
+Result<std::string, ScriptError> formatted(std::string_view source) {
     if (source.starts_with(byteOrderMark)) source.remove_prefix(byteOrderMark.size());
     Parser parser(source);
     const Tree& tree = parser.parse();

@@ -3,8 +3,8 @@
 
 #include <string>
 #include <string_view>
-#include <variant>
 
+#include "platform/Result.h"
 #include "platform/script/source/ScriptError.h"
 
 namespace script {
@@ -13,6 +13,6 @@ namespace script {
 /// most one empty line in a row, LF at the end of each line. Comments, texts and joined lines stay as they
 /// are, and so does the meaning. A script that cannot be parsed is an error. Formatting twice changes
 /// nothing.
-std::variant<std::string, ScriptError> formatted(std::string_view source);
+Result<std::string, ScriptError> formatted(std::string_view source);
 
 }  // namespace script

@@ -123,8 +123,8 @@ Fallible<Value> calculated(BinaryOperator operation, const Value& left, const Va
 Fallible<Value> joined(const Value& left, const Value& right, std::string_view delimiter) {
     if (const std::string* text = left.text()) {
         const Fallible<std::string> addition = textOf(right, delimiter);
-        if (const auto* failure = std::get_if<Failure>(&addition)) return *failure;
-        return joinedText(*text, std::get<std::string>(addition));
+        if (!addition) return addition.error();
+        return joinedText(*text, addition.value());
     }
     if (left.record() != nullptr && right.record() != nullptr)
         return joinedRecord(*left.record(), *right.record());

@@ -61,8 +61,8 @@ class Joiner {
     bool addReferenced(const Value& value) {
         if (++m_depth > maxDepth) return fail({errornumber::stackOverflow, "Stack overflow."});
         Fallible<Value> found = resolved(value);
-        if (const Failure* failure = failureOf(found)) return fail(*failure);
-        const bool added = add(std::get<Value>(found));
+        if (!found) return fail(std::move(found).error());
+        const bool added = add(found.value());
         --m_depth;
         return added;
     }
@@ -209,10 +209,10 @@ Fallible<Value> resolved(Value value) {
         if (depth == maxDepth) return Failure{errornumber::stackOverflow, "Stack overflow."};
         const ReferenceBody& reference = *value.reference();
         Fallible<Value> container = resolved(reference.container);
-        if (failureOf(container) != nullptr) return container;
-        Fallible<Value> found = elementOf(std::get<Value>(container), reference.element, TextRules());
-        if (failureOf(found) != nullptr) return found;
-        value = std::get<Value>(std::move(found));
+        if (!container) return container;
+        Fallible<Value> found = elementOf(container.value(), reference.element, TextRules());
+        if (!found) return found;
+        value = std::move(found).value();
     }
     return value;
 }
@@ -220,10 +220,11 @@ Fallible<Value> resolved(Value value) {
 Fallible<Value> coerced(const Value& value, Type type, std::string_view delimiter) {
     if (type == Type::text) {
         Fallible<std::string> text = textOf(value, delimiter);
-        if (const auto* failure = std::get_if<Failure>(&text)) {
-            return failure->number == errornumber::cannotCoerce ? cannotMake(value, "text") : *failure;
+        if (!text) {
+            const bool isWrongType = text.error().number == errornumber::cannotCoerce;
+            return isWrongType ? cannotMake(value, "text") : std::move(text).error();
         }
-        return Value{std::get<std::string>(std::move(text))};
+        return Value{std::move(text).value()};
     }
     if (std::optional<Value> found = asType(value, type)) return *std::move(found);
     const List* list = value.list();

@@ -169,8 +169,8 @@ Fallible<Value> areEqual(const Value& left, const Value& right, const TextRules&
 Fallible<Value> isOrdered(const Value& left, Ordering ordering, const Value& right, const TextRules& rules) {
     if (const std::string* text = left.text()) {
         const Fallible<std::string> other = textOf(right);
-        if (std::holds_alternative<Failure>(other)) return cannotMake(right, "text");
-        return Value{isOrderOf(ordering, compareTexts(*text, std::get<std::string>(other), rules))};
+        if (!other) return cannotMake(right, "text");
+        return Value{isOrderOf(ordering, compareTexts(*text, other.value(), rules))};
     }
     if (const DateBody* date = left.date()) {
         if (right.date() == nullptr) return cannotMake(right, "date");
@@ -196,8 +196,8 @@ Fallible<Value> holds(const Value& whole, Containment containment, const Value& 
     const std::string* text = whole.text();
     if (text == nullptr) return cannotMake(whole, "list");
     const Fallible<std::string> other = textOf(part);
-    if (std::holds_alternative<Failure>(other)) return cannotMake(part, "text");
-    return Value{textHolds(*text, containment, std::get<std::string>(other), rules)};
+    if (!other) return cannotMake(part, "text");
+    return Value{textHolds(*text, containment, other.value(), rules)};
 }
 
 }  // namespace script

@@ -165,7 +165,7 @@ Fallible<Value> elementOf(const Value& container, const Element& element, const 
     return cannotGetElement(container, element);
 }
 
-std::optional<Failure> setElement(const Value& container, const Element& element, const Value& value) {
+Fallible<> setElement(const Value& container, const Element& element, const Value& value) {
     List* list = container.list();
     if (list == nullptr || element.kind != ElementKind::item) {
         if (container.text() == nullptr) return cannotGetElement(container, element);
@@ -181,7 +181,7 @@ std::optional<Failure> setElement(const Value& container, const Element& element
     if (!places) return cannotGetElement(container, element);
     if (isSingle(element)) {
         (*list)[places->first] = value;
-        return std::nullopt;
+        return {};
     }
     const List* values = value.list();
     if (values == nullptr || values->size() < places->last - places->first + 1) {
@@ -189,7 +189,7 @@ std::optional<Failure> setElement(const Value& container, const Element& element
     }
     std::copy_n(List(*values).begin(), places->last - places->first + 1,
                 list->begin() + static_cast<std::ptrdiff_t>(places->first));
-    return std::nullopt;
+    return {};
 }
 
 std::optional<std::size_t> countElements(const Value& container, const Element& element,

@@ -13,8 +13,8 @@ namespace script {
 /// depends on chance (`some`) is made an index before. Fails with -1728 "Can’t get ITEM of VALUE."
 Fallible<Value> elementOf(const Value& container, const Element& element, const TextRules& rules);
 
-/// Puts a value in the place of an item of a list, or values in those of a range; what went wrong if it did.
-std::optional<Failure> setElement(const Value& container, const Element& element, const Value& value);
+/// Puts a value in the place of an item of a list, or values in those of a range.
+Fallible<> setElement(const Value& container, const Element& element, const Value& value);
 
 /// How many elements of the kind there are; empty if the value has none such.
 std::optional<std::size_t> countElements(const Value& container, const Element& element,

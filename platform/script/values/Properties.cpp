@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "platform/Utf8.h"
 #include "platform/script/values/Coercion.h"
@@ -111,11 +112,11 @@ bool setDatePart(DateBody& date, const Name& name, std::int64_t number) {
     return true;
 }
 
-std::optional<Failure> addToList(const Shared<ListBody>& list, bool atEnd, const Value& value) {
+Fallible<> addToList(const Shared<ListBody>& list, bool atEnd, const Value& value) {
     if (list->items.size() >= maxListItems) return outOfMemory();
     list->items.insert(atEnd ? list->items.end() : list->items.begin(), value);
     list->didChange();
-    return std::nullopt;
+    return {};
 }
 
 }  // namespace
@@ -126,11 +127,11 @@ Fallible<Value> propertyOf(const Value& container, const Name& name) {
     return cannotGet(sourceForm(name) + " of " + sourceForm(container));
 }
 
-std::optional<Failure> setProperty(const Value& container, const Name& name, const Value& value) {
+Fallible<> setProperty(const Value& container, const Name& name, const Value& value) {
     if (RecordBody* record = container.record()) {
         if (Value* field = record->find(name)) {
             *field = value;
-            return std::nullopt;
+            return {};
         }
     }
     const bool atEnd = &name == &names::end;
@@ -139,10 +140,10 @@ std::optional<Failure> setProperty(const Value& container, const Name& name, con
     if (DateBody* date = container.date()) {
         const auto* month = value.as<CalendarName>();
         const std::optional<std::int32_t> number = month == nullptr ? integerOf(value) : month->number;
-        if (number && setDatePart(*date, name, *number)) return std::nullopt;
+        if (number && setDatePart(*date, name, *number)) return {};
     }
     // Which application is in front is not for the script to say.
-    if (container.target() != nullptr && &name == &names::frontmost) return std::nullopt;
+    if (container.target() != nullptr && &name == &names::frontmost) return {};
     return cannotSet(sourceForm(name) + " of " + sourceForm(container), value);
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
-
 #include "platform/script/values/Value.h"
 
 namespace script {
@@ -11,7 +9,7 @@ namespace script {
 /// -1728 "Can’t get NAME of VALUE."
 Fallible<Value> propertyOf(const Value& container, const Name& name);
 
-/// What went wrong if it could not be set; -10006 "Can’t set NAME of CONTAINER to VALUE."
-std::optional<Failure> setProperty(const Value& container, const Name& name, const Value& value);
+/// Fails with -10006 "Can’t set NAME of CONTAINER to VALUE."
+Fallible<> setProperty(const Value& container, const Name& name, const Value& value);
 
 }  // namespace script

@@ -8,6 +8,7 @@
 #include <variant>
 #include <vector>
 
+#include "platform/Result.h"
 #include "platform/script/source/Name.h"
 #include "platform/script/values/Shared.h"
 
@@ -194,10 +195,8 @@ struct Failure {
     bool isCancel = false;
 };
 
-/// A value or a failure.
-template <typename Type>
-using Fallible = std::variant<Type, Failure>;
-
-inline const Failure* failureOf(const Fallible<Value>& outcome) { return std::get_if<Failure>(&outcome); }
+/// What a step of a run gives, or why it failed.
+template <typename Content = void>
+using Fallible = Result<Content, Failure>;
 
 }  // namespace script

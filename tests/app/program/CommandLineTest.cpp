@@ -22,8 +22,7 @@ TEST(CommandLineTest, behindTwoMinusesEverythingIsAFile) {
 }
 
 TEST(CommandLineTest, aSessionIsNamed) {
-    EXPECT_EQ(readCommandLine({"--session=x11", "a"}),
-              (CommandLine{.session = "x11", .files = {"a"}}));
+    EXPECT_EQ(readCommandLine({"--session=x11", "a"}), (CommandLine{.session = "x11", .files = {"a"}}));
 }
 
 TEST(CommandLineTest, helpAndVersionAreNoFiles) {

@@ -7,8 +7,7 @@ namespace {
 
 script::ScriptError errorOf(std::string source) {
     const auto compiled = script::compile(std::move(source));
-    const auto* error = std::get_if<script::ScriptError>(&compiled);
-    return error == nullptr ? script::ScriptError{} : *error;
+    return compiled ? script::ScriptError{} : compiled.error();
 }
 
 TEST(CompilerTest, sourcesAreBounded) {
@@ -27,7 +26,7 @@ TEST(CompilerTest, aProgramIsOnItsOwn) {
     std::string source = "tell app \"System Events\"\nkeystroke \"é\" & \"b\\n\"\nkey down \"w\"\nend";
     auto compiled = script::compile(source);
     source.assign(source.size(), 'x');
-    const auto program = std::get<script::Program>(std::move(compiled));
+    const auto program = std::move(compiled).value();
     EXPECT_EQ(program.typedTexts(), (std::vector<std::string>{"é", "b\n", "w"}));
 }
 

@@ -18,8 +18,7 @@ TEST(MachineTest, anApplicationThatIsNotThereFailsWhereItIsTold) {
         RecordingInjector injector;
         script::SilentDesktop desktop;
         script::NoDialogs dialogs;
-        const script::RunResult result =
-            script::run(std::get<script::Program>(compiled), {injector, desktop, dialogs});
+        const script::RunResult result = script::run(compiled.value(), {injector, desktop, dialogs});
         ASSERT_TRUE(result.error) << source;
         EXPECT_EQ(result.error->number, -1728);
         EXPECT_EQ(result.error->message, "Can’t get application \"Other\".");

@@ -24,7 +24,7 @@ class ScriptRunnerTest : public testing::Test {
             script::compile("tell application \"System Events\"\n" + lines + "\nend tell\n");
         script::SilentDesktop desktop;
         script::NoDialogs dialogs;
-        return script::run(std::get<script::Program>(compiled), {m_injector, desktop, dialogs});
+        return script::run(compiled.value(), {m_injector, desktop, dialogs});
     }
 
     RecordingInjector m_injector;

@@ -10,8 +10,7 @@ namespace {
 
 std::string format(const std::string& source) {
     const auto result = script::formatted(source);
-    const auto* text = std::get_if<std::string>(&result);
-    return text == nullptr ? "error: " + std::get<script::ScriptError>(result).message : *text;
+    return result ? result.value() : "error: " + result.error().message;
 }
 
 struct Row {
@@ -60,14 +59,14 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(LayoutOfCasesTest, formattingTwiceChangesNothingAndTheMeaningStays) {
     for (const FileCase& row : readCaseFiles(SCRIPT_CASE_FOLDER)) {
         const auto result = script::formatted(row.source);
-        const auto* once = std::get_if<std::string>(&result);
-        if (once == nullptr) continue;
-        EXPECT_EQ(format(*once), *once) << row.name;
+        if (!result) continue;
+        const std::string& once = result.value();
+        EXPECT_EQ(format(once), once) << row.name;
         const Traced before = traced(row.source);
-        const Traced after = traced(*once);
-        EXPECT_EQ(after.events, before.events) << row.name << "\n" << *once;
-        EXPECT_EQ(after.value, before.value) << row.name << "\n" << *once;
-        EXPECT_EQ(after.error.number, before.error.number) << row.name << "\n" << *once;
+        const Traced after = traced(once);
+        EXPECT_EQ(after.events, before.events) << row.name << "\n" << once;
+        EXPECT_EQ(after.value, before.value) << row.name << "\n" << once;
+        EXPECT_EQ(after.error.number, before.error.number) << row.name << "\n" << once;
     }
 }
 

@@ -20,10 +20,8 @@ Value text(const char* value) { return Value{std::string(value)}; }
 
 /// The spelled value, or the error's number and message.
 std::string result(const script::Fallible<Value>& outcome) {
-    if (const auto* failure = std::get_if<script::Failure>(&outcome)) {
-        return std::to_string(failure->number) + " " + failure->message;
-    }
-    return script::sourceForm(std::get<Value>(outcome));
+    if (outcome) return script::sourceForm(outcome.value());
+    return std::to_string(outcome.error().number) + " " + outcome.error().message;
 }
 
 std::string result(const Value& left, BinaryOperator operation, const Value& right) {
