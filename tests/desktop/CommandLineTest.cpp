@@ -35,7 +35,7 @@ class SessionOptionTest : public DesktopTest {};
 
 TEST_F(SessionOptionTest, aNamedSessionIsTheOneThatIsWorkedIn) {
     Child program({KEYRILL_PRODUCT, "--session=x11"}, desktop.options("start"));
-    EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(key::m); }));
+    EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     EXPECT_TRUE(program.isRunning());
 }
 

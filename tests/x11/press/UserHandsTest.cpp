@@ -110,11 +110,11 @@ TEST_F(UserHandsTest, escapeEndsAKeyDownWhoseCharacterWaitsForAKey) {
     ASSERT_TRUE(session->text(ideographs(300), 0));
     CoreClient client(display());
     client.claimToAnswerPings();
-    user().press(user::escape);
+    user().press(xkey::escape);
     finish();
     EXPECT_EQ(wordsOf(session->keyDown(HeldText{"\u6F22"})), "cancelled");
-    for (const auto& event : client.events()) EXPECT_EQ(event.keycode, user::escape);
-    user().release(user::escape);
+    for (const auto& event : client.events()) EXPECT_EQ(event.keycode, xkey::escape);
+    user().release(xkey::escape);
     finish();
     waitFor("keys:, modifiers: 0x0");
 }
