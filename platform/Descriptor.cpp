@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Descriptor.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+
+void Descriptor::reset(int number) {
+    const int former = std::exchange(m_number, number < 0 ? none : number);
+    if (former == none) return;
+    const int savedError = errno;
+    // Not tried again after a failure: the number is free by then, and may already be somebody else's.
+    close(former);
+    errno = savedError;
+}
