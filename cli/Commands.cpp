@@ -68,6 +68,12 @@ void tell(const Source& source, const script::RunResult& result) {
 
 int statusOf(const script::RunResult& result) { return result.error ? failed : succeeded; }
 
+/// Whoever waits for this process is told how it ended, also where the signal was ignored before.
+void endBySignal(int number) {
+    signal(number, SIG_DFL);
+    raise(number);
+}
+
 }  // namespace
 
 int checkScript(const ScriptInput& input) {
@@ -123,8 +129,7 @@ int runScript(const ScriptInput& input) {
         tell(*source, result);
     }
     if (!input.lines.empty() && !result.value.empty()) std::cout << result.value << std::endl;
-    playback.value().reset();
-    // Whoever waits for this process is told how it ended.
-    if (Playback::signalNumber() != 0) raise(Playback::signalNumber());
+    const int signalNumber = playback.value()->finish();
+    if (signalNumber != 0) endBySignal(signalNumber);
     return statusOf(result);
 }

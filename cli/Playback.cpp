@@ -1,43 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Playback.h"
 
-#include <signal.h>
-
-#include <array>
 #include <utility>
 
 #include "platform/linux/SteadyClock.h"
 #include "platform/sessions/Sessions.h"
-
-namespace {
-
-constexpr std::array<int, 3> signalNumbers{SIGINT, SIGTERM, SIGHUP};
-
-/// What the signal handler knows: it is given nothing but the number.
-struct Known {
-    Session* session = nullptr;
-    volatile sig_atomic_t received = 0;
-};
-
-/// Made without code, so that there is nothing to wait for inside the handler.
-Known& known() {
-    static constinit Known instance;
-    return instance;
-}
-
-void handleSignal(int number) {
-    known().received = number;
-    if (known().session != nullptr) known().session->interrupt();
-}
-
-void setHandlers(void (*handler)(int)) {
-    struct sigaction action {};
-    action.sa_handler = handler;
-    action.sa_flags = SA_RESTART;
-    for (const int number : signalNumbers) sigaction(number, &action, nullptr);
-}
-
-}  // namespace
 
 Result<std::unique_ptr<Playback>> Playback::make() {
     const auto kind = chooseSession({});
@@ -49,16 +16,15 @@ Result<std::unique_ptr<Playback>> Playback::make() {
 }
 
 Playback::Playback(std::unique_ptr<Clock> clock, std::unique_ptr<Session> session)
-    : m_clock(std::move(clock)), m_session(std::move(session)) {
-    known().session = m_session.get();
-    setHandlers(handleSignal);
+    : m_clock(std::move(clock)), m_session(std::move(session)) {}
+
+void Playback::interrupt(void* playback) {
+    Session* const session = static_cast<Playback*>(playback)->m_interruptible;
+    if (session != nullptr) session->interrupt();
 }
 
-Playback::~Playback() {
-    // Nothing runs any more that could be ended.
-    known().session = nullptr;
+int Playback::finish() {
+    m_interruptible = nullptr;
     m_session.reset();
-    setHandlers(SIG_DFL);
+    return m_signals.number();
 }
-
-int Playback::signalNumber() { return known().received; }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QObject>
-#include <array>
+#include <memory>
+
+class SignalCatcher;
 
 /// SIGTERM, SIGINT and SIGHUP as an event of the loop. At most one object at a time.
 class TerminationSignals : public QObject {
@@ -16,8 +18,9 @@ class TerminationSignals : public QObject {
     ~TerminationSignals() override;
 
   signals:
+    /// Once only: the program is about to end.
     void received();
 
   private:
-    std::array<int, 2> m_pipe{-1, -1};
+    std::unique_ptr<SignalCatcher> m_catcher;
 };
