@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "platform/x11/server/WindowTree.h"
 #include "support/Child.h"
 
 namespace {
@@ -24,21 +25,19 @@ CoreClient::CoreClient(const std::string& display) : m_connection(connect(displa
     xcb_map_window(m_connection, m_window);
     const bool focused = eventually([this] {
         xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_window, XCB_CURRENT_TIME);
-        const x11::XReply<xcb_get_input_focus_reply_t> reply(
-            xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
-        return reply && reply->focus == m_window;
+        return x11::WindowTree(m_connection).focus() == m_window;
     });
     if (!focused) throw std::runtime_error("the window got no focus");
 }
 
 const std::vector<CoreClient::KeyEvent>& CoreClient::events() {
     m_connection.roundTrip();
-    while (const x11::XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
-        const int type = event->response_type & 0x7F;
-        if (type == XCB_MAPPING_NOTIFY) ++m_mappingChanges;
-        if (type != XCB_KEY_PRESS && type != XCB_KEY_RELEASE) continue;
-        const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(*event);
-        m_events.push_back({type == XCB_KEY_PRESS, key.detail, key.state, key.time});
+    while (const x11::Event event = m_connection.nextEvent()) {
+        if (event.is(x11::mappingNotify)) ++m_mappingChanges;
+        // Both are laid out alike.
+        if (!event.is(x11::keyPress) && !event.is(x11::keyRelease)) continue;
+        const auto& key = event.body<xcb_key_press_event_t>();
+        m_events.push_back({event.is(x11::keyPress), key.detail, key.state, key.time});
     }
     return m_events;
 }

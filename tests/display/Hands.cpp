@@ -2,10 +2,11 @@
 #include "display/Hands.h"
 
 #include <xcb/xtest.h>
-#include <xkbcommon/xkbcommon-x11.h>
 
 #include <stdexcept>
 #include <vector>
+
+#include "platform/x11/server/Extensions.h"
 
 // The C header names a structure member "explicit".
 #define explicit explicit_
@@ -23,11 +24,7 @@ x11::XConnection connect(const std::string& display) {
 }  // namespace
 
 Hands::Hands(const std::string& display) : m_connection(connect(display)) {
-    if (xkb_x11_setup_xkb_extension(m_connection, XKB_X11_MIN_MAJOR_XKB_VERSION,
-                                    XKB_X11_MIN_MINOR_XKB_VERSION, XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS,
-                                    nullptr, nullptr, nullptr, nullptr) != 1) {
-        throw std::runtime_error("no XKB");
-    }
+    if (!x11::Extensions(m_connection).use({x11::Extension::keyboard})) throw std::runtime_error("no XKB");
 }
 
 void Hands::tap(std::uint8_t keycode) const {

@@ -7,6 +7,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "platform/x11/server/Extensions.h"
+#include "platform/x11/server/Property.h"
 #include "support/Child.h"
 
 // The C header names a structure member "explicit".
@@ -62,11 +64,8 @@ x11::XReply<xcb_xkb_get_state_reply_t> stateOf(xcb_connection_t* connection) {
 }  // namespace
 
 KeyboardProbe::KeyboardProbe(const std::string& display) : m_connection(connect(display)) {
-    const x11::XReply<xcb_xkb_use_extension_reply_t> keyboard(
-        xcb_xkb_use_extension_reply(m_connection, xcb_xkb_use_extension(m_connection, 1, 0), nullptr));
-    const x11::XReply<xcb_input_xi_query_version_reply_t> input(xcb_input_xi_query_version_reply(
-        m_connection, xcb_input_xi_query_version(m_connection, 2, 2), nullptr));
-    if (!keyboard || !input) throw std::runtime_error("no XKB or no XInput");
+    const auto usable = x11::Extensions(m_connection).use({x11::Extension::keyboard, x11::Extension::input});
+    if (!usable) throw std::runtime_error(usable.error().message);
 }
 
 std::string KeyboardProbe::held() const {
@@ -97,9 +96,5 @@ std::uint8_t KeyboardProbe::group() const {
 }
 
 bool KeyboardProbe::hasProperty(const std::string& name) const {
-    const x11::XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_connection,
-        xcb_get_property(m_connection, 0, m_connection.root(), m_connection.atom(name), XCB_ATOM_ANY, 0, 1),
-        nullptr));
-    return reply && reply->type != XCB_ATOM_NONE;
+    return x11::Property(m_connection, m_connection.root(), m_connection.atom(name)).exists();
 }

@@ -14,7 +14,8 @@ int opened() { return open("/dev/null", O_RDONLY | O_CLOEXEC); }
 bool isOpen(int number) { return fcntl(number, F_GETFD) >= 0; }
 
 static_assert(!std::is_copy_constructible_v<Descriptor> && !std::is_copy_assignable_v<Descriptor>);
-static_assert(std::is_nothrow_move_constructible_v<Descriptor> && std::is_nothrow_move_assignable_v<Descriptor>);
+static_assert(std::is_nothrow_move_constructible_v<Descriptor> &&
+              std::is_nothrow_move_assignable_v<Descriptor>);
 static_assert(!std::is_convertible_v<Descriptor, bool> && !std::is_convertible_v<int, Descriptor>);
 
 TEST(DescriptorTest, closesAtItsEnd) {
@@ -33,7 +34,7 @@ TEST(DescriptorTest, isEmptyAfterAFailedCall) {
     EXPECT_FALSE(Descriptor());
 }
 
-TEST(DescriptorTest, ownsZero) { 
+TEST(DescriptorTest, ownsZero) {
     Descriptor standardInput(STDIN_FILENO);
     EXPECT_TRUE(standardInput);
     EXPECT_EQ(standardInput.release(), STDIN_FILENO);

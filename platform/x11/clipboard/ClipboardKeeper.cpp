@@ -12,7 +12,9 @@
 #include <cstdlib>
 #include <utility>
 
+#include "platform/Descriptor.h"
 #include "platform/x11/clipboard/SelectionOwner.h"
+#include "platform/x11/server/HiddenWindow.h"
 
 namespace x11 {
 
@@ -34,29 +36,24 @@ void letGoOfTheParent(int file) {
     close_range(firstOwnFile + 1, ~0U, 0);
 }
 
-/// Asks a clipboard manager, if there is one, to fetch the text.
-void offerToManager(const XConnection& connection, const SelectionAtoms& atoms, xcb_timestamp_t time) {
-    const xcb_window_t window = xcb_generate_id(connection);
-    xcb_create_window(connection, 0, window, connection.root(), -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-                      XCB_COPY_FROM_PARENT, 0, nullptr);
-    SelectionOwner::nameForms(connection, atoms, window);
+/// Asks a clipboard manager, if there is one, to fetch the text; the answer comes to the window.
+void offerToManager(const XConnection& connection, const SelectionAtoms& atoms, const HiddenWindow& window,
+                    xcb_timestamp_t time) {
+    SelectionOwner::nameForms(connection, atoms, window.id());
     // Without one the server itself answers that nobody has it.
-    xcb_convert_selection(connection, window, atoms.manager, atoms.saveTargets, atoms.answer, time);
-    xcb_flush(connection);
+    xcb_convert_selection(connection, window.id(), atoms.manager, atoms.saveTargets, atoms.answer, time);
 }
 
-bool isFetched(const xcb_generic_event_t& event) {
-    constexpr std::uint8_t typeOfEvent = 0x7F;
-    return (event.response_type & typeOfEvent) == XCB_SELECTION_NOTIFY &&
-           reinterpret_cast<const xcb_selection_notify_event_t&>(event).property != XCB_ATOM_NONE;
+bool isFetched(const Event& event) {
+    const auto* notice = event.as(selectionNotify);
+    return notice != nullptr && notice->property != XCB_ATOM_NONE;
 }
 
 void serve(const XConnection& connection, SelectionOwner& owner) {
     while (owner.isOwner() || owner.isSending()) {
-        const XReply<xcb_generic_event_t> event{xcb_wait_for_event(connection)};
-        if (!event || isFetched(*event)) return;
-        owner.handle(*event);
-        xcb_flush(connection);
+        const Event event = connection.awaitEvent();
+        if (!event || isFetched(event)) return;
+        owner.handle(event);
     }
 }
 
@@ -67,7 +64,8 @@ void keep(const std::string& display, const std::string& text, xcb_timestamp_t t
     SelectionOwner owner(connection.value());
     if (!owner.own(text, time)) return;
     close(firstOwnFile);
-    offerToManager(connection.value(), SelectionAtoms(connection.value()), time);
+    const HiddenWindow window(connection.value());
+    offerToManager(connection.value(), SelectionAtoms(connection.value()), window, time);
     serve(connection.value(), owner);
 }
 
@@ -76,20 +74,21 @@ void keep(const std::string& display, const std::string& text, xcb_timestamp_t t
 void keepInBackground(const std::string& display, const std::string& text, xcb_timestamp_t time) {
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return;
+    const Descriptor ours(ends[0]);
+    Descriptor theirs(ends[1]);
     const pid_t child = fork();
     if (child == 0) {
         // A process between ends at once, so that nobody has to ask for the status of the one that stays.
         if (fork() == 0) {
-            letGoOfTheParent(ends[1]);
+            letGoOfTheParent(theirs.number());
             keep(display, text, time);
         }
         _exit(EXIT_SUCCESS);
     }
-    close(ends[1]);
+    theirs.reset();
     // It closes its end when it owns the selection, or when it has ended.
-    pollfd entry{ends[0], POLLIN, 0};
+    pollfd entry{ours.number(), POLLIN, 0};
     if (child > 0) poll(&entry, 1, longestStart);
-    close(ends[0]);
     while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) continue;
 }
 

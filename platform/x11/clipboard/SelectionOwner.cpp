@@ -2,10 +2,12 @@
 #include "platform/x11/clipboard/SelectionOwner.h"
 
 #include <algorithm>
-#include <array>
+#include <span>
+#include <string_view>
 #include <utility>
 
 #include "platform/Utf8.h"
+#include "platform/x11/server/Property.h"
 
 namespace x11 {
 
@@ -35,45 +37,26 @@ std::vector<xcb_atom_t> formsOf(const SelectionAtoms& atoms) {
 }  // namespace
 
 SelectionOwner::SelectionOwner(const XConnection& connection)
-    : m_connection(connection), m_atoms(connection), m_window(xcb_generate_id(connection)) {
-    xcb_create_window(m_connection, 0, m_window, m_connection.root(), -1, -1, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
-}
+    : m_connection(connection), m_atoms(connection), m_window(connection) {}
 
 bool SelectionOwner::own(std::string text, xcb_timestamp_t time) {
     m_text = std::make_shared<const std::string>(std::move(text));
     m_time = time;
-    xcb_set_selection_owner(m_connection, m_window, m_atoms.clipboard, time);
-    const XReply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
-        m_connection, xcb_get_selection_owner(m_connection, m_atoms.clipboard), nullptr));
-    m_isOwner = owner && owner->owner == m_window;
+    xcb_set_selection_owner(m_connection, m_window.id(), m_atoms.clipboard, time);
+    m_isOwner = m_connection.ownerOf(m_atoms.clipboard) == m_window.id();
     return m_isOwner;
 }
 
-bool SelectionOwner::isSending() {
-    forgetIdleTransfers();
-    return !m_transfers.empty();
+bool SelectionOwner::isSending() const {
+    return !std::all_of(m_transfers.begin(), m_transfers.end(), isIdle);
 }
 
-void SelectionOwner::handle(const xcb_generic_event_t& event) {
-    constexpr std::uint8_t sent = 0x80;
-    switch (event.response_type & static_cast<std::uint8_t>(~sent)) {
-        case XCB_SELECTION_CLEAR:
-            m_isOwner = false;
-            break;
-        case XCB_SELECTION_REQUEST:
-            answer(reinterpret_cast<const xcb_selection_request_event_t&>(event));
-            break;
-        case XCB_PROPERTY_NOTIFY:
-            propertyChanged(reinterpret_cast<const xcb_property_notify_event_t&>(event));
-            break;
-        case XCB_DESTROY_NOTIFY: {
-            const xcb_window_t gone = reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window;
-            std::erase_if(m_transfers, [gone](const Transfer& one) { return one.requestor == gone; });
-            break;
-        }
-        default:
-            break;
+void SelectionOwner::handle(const Event& event) {
+    if (event.is(selectionClear)) m_isOwner = false;
+    if (const auto* request = event.as(selectionRequest)) answer(*request);
+    if (const auto* change = event.as(propertyNotify)) propertyChanged(*change);
+    if (const auto* end = event.as(destroyNotify)) {
+        std::erase_if(m_transfers, [end](const Transfer& one) { return one.requestor == end->window; });
     }
 }
 
@@ -99,21 +82,18 @@ void SelectionOwner::answer(const xcb_selection_request_event_t& request) {
 
 void SelectionOwner::nameForms(const XConnection& connection, const SelectionAtoms& atoms,
                                xcb_window_t window) {
-    const std::vector<xcb_atom_t> forms = formsOf(atoms);
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, atoms.answer, XCB_ATOM_ATOM, 32,
-                        static_cast<std::uint32_t>(forms.size()), forms.data());
+    Property(connection, window, atoms.answer).write(XCB_ATOM_ATOM, formsOf(atoms));
 }
 
 bool SelectionOwner::convert(xcb_window_t requestor, xcb_atom_t target, xcb_atom_t property) {
     const std::vector<xcb_atom_t> forms = formsOf(m_atoms);
+    const Property answer(m_connection, requestor, property);
     if (target == m_atoms.targets) {
         std::vector<xcb_atom_t> all{m_atoms.targets, m_atoms.multiple, m_atoms.timestamp};
         all.insert(all.end(), forms.begin(), forms.end());
-        xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, requestor, property, XCB_ATOM_ATOM, 32,
-                            static_cast<std::uint32_t>(all.size()), all.data());
+        answer.write(XCB_ATOM_ATOM, all);
     } else if (target == m_atoms.timestamp) {
-        xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, requestor, property, XCB_ATOM_INTEGER, 32, 1,
-                            &m_time);
+        answer.write(XCB_ATOM_INTEGER, std::span(&m_time, 1));
     } else if (target == XCB_ATOM_STRING) {
         give(requestor, property, target, std::make_shared<const std::string>(latin1(*m_text)));
     } else if (std::find(forms.begin(), forms.end(), target) != forms.end()) {
@@ -128,34 +108,26 @@ bool SelectionOwner::convert(xcb_window_t requestor, xcb_atom_t target, xcb_atom
 /// The property holds pairs of target and property; what cannot be had loses its property there.
 bool SelectionOwner::convertAll(xcb_window_t requestor, xcb_atom_t property) {
     constexpr std::uint32_t most = 1024;
-    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_connection,
-        xcb_get_property(m_connection, 0, requestor, property, XCB_GET_PROPERTY_TYPE_ANY, 0, most), nullptr));
-    if (!reply || reply->format != 32 || reply->value_len % 2 != 0) return false;
-    const auto* first = static_cast<const xcb_atom_t*>(xcb_get_property_value(reply.get()));
-    std::vector<xcb_atom_t> pairs(first, first + reply->value_len);
+    const Property answer(m_connection, requestor, property);
+    std::vector<std::uint32_t> pairs = answer.numbers(XCB_GET_PROPERTY_TYPE_ANY, most);
+    if (pairs.empty() || pairs.size() % 2 != 0) return false;
     for (std::size_t i = 0; i < pairs.size(); i += 2) {
         if (pairs[i + 1] == XCB_ATOM_NONE || !convert(requestor, pairs[i], pairs[i + 1])) {
             pairs[i + 1] = XCB_ATOM_NONE;
         }
     }
-    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, requestor, property, m_atoms.atomPair, 32,
-                        static_cast<std::uint32_t>(pairs.size()), pairs.data());
+    answer.write(m_atoms.atomPair, pairs);
     return true;
 }
 
 void SelectionOwner::give(xcb_window_t requestor, xcb_atom_t property, xcb_atom_t type, const Text& text) {
-    if (text->size() <= pieceSize) {
-        xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, requestor, property, type, 8,
-                            static_cast<std::uint32_t>(text->size()), text->data());
-        return;
-    }
+    const Property answer(m_connection, requestor, property);
+    if (text->size() <= pieceSize) return answer.write(type, *text);
     // Each piece is asked for by deleting the one before, the first by deleting the announcement.
     const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     xcb_change_window_attributes(m_connection, requestor, XCB_CW_EVENT_MASK, &mask);
     const auto atLeast = static_cast<std::uint32_t>(text->size());
-    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, requestor, property, m_atoms.incremental, 32, 1,
-                        &atLeast);
+    answer.write(m_atoms.incremental, std::span(&atLeast, 1));
     std::erase_if(m_transfers, [&](const Transfer& one) {
         return one.requestor == requestor && one.property == property;
     });
@@ -173,19 +145,18 @@ void SelectionOwner::propertyChanged(const xcb_property_notify_event_t& event) {
 }
 
 bool SelectionOwner::sendNextPiece(Transfer& transfer) {
-    const std::size_t size = std::min(transfer.text->size() - transfer.sent, pieceSize);
-    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, transfer.requestor, transfer.property,
-                        transfer.type, 8, static_cast<std::uint32_t>(size),
-                        transfer.text->data() + transfer.sent);
-    transfer.sent += size;
+    const auto piece = std::string_view(*transfer.text).substr(transfer.sent, pieceSize);
+    Property(m_connection, transfer.requestor, transfer.property).write(transfer.type, piece);
+    transfer.sent += piece.size();
     transfer.lastStep = std::chrono::steady_clock::now();
-    return size > 0;
+    return !piece.empty();
 }
 
-void SelectionOwner::forgetIdleTransfers() {
-    const Moment oldest = std::chrono::steady_clock::now() - longestIdle;
-    std::erase_if(m_transfers, [oldest](const Transfer& one) { return one.lastStep < oldest; });
+bool SelectionOwner::isIdle(const Transfer& transfer) {
+    return transfer.lastStep < std::chrono::steady_clock::now() - longestIdle;
 }
+
+void SelectionOwner::forgetIdleTransfers() { std::erase_if(m_transfers, isIdle); }
 
 void SelectionOwner::ignore(xcb_window_t requestor) {
     const bool isNeeded = std::any_of(m_transfers.begin(), m_transfers.end(),

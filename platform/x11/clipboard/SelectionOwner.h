@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/x11/clipboard/SelectionAtoms.h"
+#include "platform/x11/server/HiddenWindow.h"
 
 namespace x11 {
 
@@ -27,9 +28,9 @@ class SelectionOwner {
     const std::string& text() const { return *m_text; }
     xcb_timestamp_t time() const { return m_time; }
     /// Whether somebody still fetches a long text piece by piece, also one that was owned before.
-    bool isSending();
+    bool isSending() const;
 
-    void handle(const xcb_generic_event_t& event);
+    void handle(const Event& event);
 
     /// Puts down, where an answer is expected, in which forms a clipboard manager can have the text.
     static void nameForms(const XConnection& connection, const SelectionAtoms& atoms, xcb_window_t window);
@@ -54,12 +55,13 @@ class SelectionOwner {
     void propertyChanged(const xcb_property_notify_event_t& event);
     /// False after the last piece, an empty one.
     bool sendNextPiece(Transfer& transfer);
+    static bool isIdle(const Transfer& transfer);
     void forgetIdleTransfers();
     void ignore(xcb_window_t requestor);
 
     const XConnection& m_connection;
     SelectionAtoms m_atoms;
-    xcb_window_t m_window;
+    HiddenWindow m_window;
     Text m_text = std::make_shared<const std::string>();
     xcb_timestamp_t m_time = XCB_CURRENT_TIME;
     bool m_isOwner = false;

@@ -14,7 +14,6 @@ namespace x11 {
 namespace {
 
 constexpr std::chrono::milliseconds longestSilence{1000};
-constexpr std::uint8_t typeOfEvent = 0x7F;
 
 std::string fromLatin1(std::string_view bytes) {
     std::string text;
@@ -25,11 +24,10 @@ std::string fromLatin1(std::string_view bytes) {
 }  // namespace
 
 SelectionReader::SelectionReader(const XConnection& connection)
-    : m_connection(connection), m_atoms(connection), m_window(xcb_generate_id(connection)) {
-    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_create_window(m_connection, 0, m_window, m_connection.root(), -1, -1, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &mask);
-}
+    : m_connection(connection),
+      m_atoms(connection),
+      m_window(connection, XCB_EVENT_MASK_PROPERTY_CHANGE),
+      m_clock(connection) {}
 
 Result<std::string> SelectionReader::text() {
     for (const xcb_atom_t form : formsToTry()) {
@@ -59,11 +57,11 @@ std::vector<xcb_atom_t> SelectionReader::formsToTry() {
 }
 
 SelectionReader::Answer SelectionReader::ask(xcb_atom_t target) {
-    xcb_delete_property(m_connection, m_window, m_atoms.answer);
+    answer().remove();
     const auto property = convert(m_atoms.clipboard, target);
     if (!property) return {Outcome::silent};
     if (*property == XCB_ATOM_NONE) return {Outcome::refused};
-    Piece whole = take();
+    Property::Content whole = take();
     if (whole.type == m_atoms.incremental) return collect();
     if (whole.bytes.size() > longestText) return {Outcome::tooLong};
     return {Outcome::given, std::move(whole.bytes)};
@@ -72,13 +70,12 @@ SelectionReader::Answer SelectionReader::ask(xcb_atom_t target) {
 /// With the announcement taken away the owner puts down the first piece; the last one is empty.
 SelectionReader::Answer SelectionReader::collect() {
     Answer answer{Outcome::given};
-    const auto isPiece = [this](const xcb_generic_event_t& event) {
-        if ((event.response_type & typeOfEvent) != XCB_PROPERTY_NOTIFY) return false;
-        const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
-        return change.atom == m_atoms.answer && change.state == XCB_PROPERTY_NEW_VALUE;
+    const auto isPiece = [this](const Event& event) {
+        const auto* change = event.as(propertyNotify);
+        return change != nullptr && change->atom == m_atoms.answer && change->state == XCB_PROPERTY_NEW_VALUE;
     };
     while (await(isPiece)) {
-        const Piece piece = take();
+        const Property::Content piece = take();
         // An event from before, whose piece has been taken already.
         if (piece.type == XCB_ATOM_NONE) continue;
         if (piece.bytes.empty()) return answer;
@@ -89,42 +86,34 @@ SelectionReader::Answer SelectionReader::collect() {
 }
 
 bool SelectionReader::handOver() {
-    const XReply<xcb_get_selection_owner_reply_t> manager(xcb_get_selection_owner_reply(
-        m_connection, xcb_get_selection_owner(m_connection, m_atoms.manager), nullptr));
-    if (!manager || manager->owner == XCB_WINDOW_NONE) return false;
-    SelectionOwner::nameForms(m_connection, m_atoms, m_window);
+    if (m_connection.ownerOf(m_atoms.manager) == XCB_WINDOW_NONE) return false;
+    SelectionOwner::nameForms(m_connection, m_atoms, m_window.id());
     return convert(m_atoms.manager, m_atoms.saveTargets).value_or(XCB_ATOM_NONE) != XCB_ATOM_NONE;
 }
 
-// The server stamps a change of a property, also one that appends nothing.
 xcb_timestamp_t SelectionReader::serverTime() {
-    xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_window, m_atoms.timestamp, XCB_ATOM_INTEGER, 32,
-                        0, nullptr);
-    const Event event = await([this](const xcb_generic_event_t& candidate) {
-        return (candidate.response_type & typeOfEvent) == XCB_PROPERTY_NOTIFY &&
-               reinterpret_cast<const xcb_property_notify_event_t&>(candidate).atom == m_atoms.timestamp;
-    });
-    return event ? reinterpret_cast<const xcb_property_notify_event_t&>(*event).time
-                 : static_cast<xcb_timestamp_t>(XCB_CURRENT_TIME);
+    m_clock.ask();
+    const Event event =
+        await([this](const Event& candidate) { return m_clock.answerIn(candidate).has_value(); });
+    return m_clock.answerIn(event).value_or(XCB_CURRENT_TIME);
 }
 
 std::optional<xcb_atom_t> SelectionReader::convert(xcb_atom_t selection, xcb_atom_t target) {
-    xcb_convert_selection(m_connection, m_window, selection, target, m_atoms.answer, serverTime());
-    const Event event = await([=](const xcb_generic_event_t& candidate) {
-        if ((candidate.response_type & typeOfEvent) != XCB_SELECTION_NOTIFY) return false;
-        const auto& notice = reinterpret_cast<const xcb_selection_notify_event_t&>(candidate);
-        return notice.selection == selection && notice.target == target;
+    xcb_convert_selection(m_connection, m_window.id(), selection, target, m_atoms.answer, serverTime());
+    const Event event = await([=](const Event& candidate) {
+        const auto* notice = candidate.as(selectionNotify);
+        return notice != nullptr && notice->selection == selection && notice->target == target;
     });
-    if (!event) return std::nullopt;
-    return reinterpret_cast<const xcb_selection_notify_event_t&>(*event).property;
+    const auto* notice = event.as(selectionNotify);
+    return notice != nullptr ? std::optional(notice->property) : std::nullopt;
 }
 
-SelectionReader::Event SelectionReader::await(const Wanted& wanted) {
+Event SelectionReader::await(const Wanted& wanted) {
     xcb_flush(m_connection);
     const auto end = std::chrono::steady_clock::now() + longestSilence;
     while (!m_connection.isBroken()) {
-        while (Event event{xcb_poll_for_event(m_connection)}) {
-            if (wanted(*event)) return event;
+        while (Event event = m_connection.nextEvent()) {
+            if (wanted(event)) return event;
         }
         const auto left =
             std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
@@ -132,19 +121,14 @@ SelectionReader::Event SelectionReader::await(const Wanted& wanted) {
         pollfd entry{m_connection.fileDescriptor(), POLLIN, 0};
         poll(&entry, 1, static_cast<int>(left.count()));
     }
-    return nullptr;
+    return {};
 }
 
-SelectionReader::Piece SelectionReader::take() const {
-    constexpr std::uint32_t mostWords = longestText / 4 + 1;
-    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_connection,
-        xcb_get_property(m_connection, 1, m_window, m_atoms.answer, XCB_GET_PROPERTY_TYPE_ANY, 0, mostWords),
-        nullptr));
-    if (!reply || reply->type == XCB_ATOM_NONE) return {};
-    const auto* bytes = static_cast<const char*>(xcb_get_property_value(reply.get()));
-    return {reply->type,
-            std::string(bytes, static_cast<std::size_t>(xcb_get_property_value_length(reply.get())))};
+Property SelectionReader::answer() const { return {m_connection, m_window.id(), m_atoms.answer}; }
+
+Property::Content SelectionReader::take() const {
+    // More than that is read, so that a text that is too long is seen to be.
+    return answer().take(longestText + 4);
 }
 
 }  // namespace x11

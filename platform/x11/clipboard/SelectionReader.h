@@ -8,6 +8,9 @@
 
 #include "platform/Result.h"
 #include "platform/x11/clipboard/SelectionAtoms.h"
+#include "platform/x11/server/HiddenWindow.h"
+#include "platform/x11/server/Property.h"
+#include "platform/x11/server/ServerClock.h"
 
 namespace x11 {
 
@@ -32,30 +35,27 @@ class SelectionReader {
     xcb_timestamp_t serverTime();
 
   private:
-    using Event = XReply<xcb_generic_event_t>;
-    using Wanted = std::function<bool(const xcb_generic_event_t& event)>;
+    using Wanted = std::function<bool(const Event& event)>;
     enum class Outcome { given, refused, silent, tooLong };
     struct Answer {
         Outcome outcome = Outcome::silent;
-        std::string bytes = {};
-    };
-    struct Piece {
-        xcb_atom_t type = XCB_ATOM_NONE;
         std::string bytes = {};
     };
 
     std::vector<xcb_atom_t> formsToTry();
     Answer ask(xcb_atom_t target);
     Answer collect();
-    /// Empty after the time.
+    /// None after the time.
     Event await(const Wanted& wanted);
     std::optional<xcb_atom_t> convert(xcb_atom_t selection, xcb_atom_t target);
-    /// Takes the answer's property away.
-    Piece take() const;
+    /// Where answers are put.
+    Property answer() const;
+    Property::Content take() const;
 
     const XConnection& m_connection;
     SelectionAtoms m_atoms;
-    xcb_window_t m_window;
+    HiddenWindow m_window;
+    ServerClock m_clock;
 };
 
 }  // namespace x11

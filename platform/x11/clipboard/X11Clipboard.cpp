@@ -13,6 +13,7 @@
 #include <thread>
 #include <utility>
 
+#include "platform/Descriptor.h"
 #include "platform/x11/clipboard/ClipboardKeeper.h"
 #include "platform/x11/clipboard/SelectionOwner.h"
 #include "platform/x11/clipboard/SelectionReader.h"
@@ -31,7 +32,6 @@ struct X11Clipboard::Parts {
         ends = true;
         wake();
         thread.join();
-        ::close(wakeup);
     }
     Parts(const Parts&) = delete;
     Parts& operator=(const Parts&) = delete;
@@ -42,25 +42,26 @@ struct X11Clipboard::Parts {
     std::mutex lock;
     SelectionOwner owner{server};  ///< under the lock
     std::atomic<bool> ends{false};
-    int wakeup = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    Descriptor wakeup{eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)};
     std::thread thread{[this] { serve(); }};
 
     void wake() const {
         const std::uint64_t one = 1;
-        [[maybe_unused]] const ssize_t written = ::write(wakeup, &one, sizeof one);
+        [[maybe_unused]] const ssize_t written = ::write(wakeup.number(), &one, sizeof one);
     }
 
     void serve() {
         while (!ends && !server.isBroken()) {
-            while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(server)}) {
+            while (const Event event = server.nextEvent()) {
                 const std::lock_guard guard(lock);
-                owner.handle(*event);
+                owner.handle(event);
             }
             xcb_flush(server);
-            std::array<pollfd, 2> entries{{{server.fileDescriptor(), POLLIN, 0}, {wakeup, POLLIN, 0}}};
+            std::array<pollfd, 2> entries{
+                {{server.fileDescriptor(), POLLIN, 0}, {wakeup.number(), POLLIN, 0}}};
             poll(entries.data(), entries.size(), -1);
             std::uint64_t count = 0;
-            [[maybe_unused]] const ssize_t size = ::read(wakeup, &count, sizeof count);
+            [[maybe_unused]] const ssize_t size = ::read(wakeup.number(), &count, sizeof count);
         }
     }
 

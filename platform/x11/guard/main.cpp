@@ -10,8 +10,6 @@
 #include <sys/file.h>
 #include <sys/socket.h>
 #include <unistd.h>
-#include <xcb/xinput.h>
-#include <xcb/xtest.h>
 
 #include <cerrno>
 #include <chrono>
@@ -20,7 +18,9 @@
 #include <span>
 #include <thread>
 
+#include "platform/Descriptor.h"
 #include "platform/x11/guard/GuardMessage.h"
+#include "platform/x11/server/Extensions.h"
 #include "platform/x11/server/SlaveKeyboards.h"
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/server/XcbXkb.h"
@@ -36,16 +36,6 @@ void standAside() {
     setsid();
     for (const int number : {SIGTERM, SIGINT, SIGHUP, SIGPIPE}) std::signal(number, SIG_IGN);
     close_range(STDERR_FILENO + 1, ~0U, 0);
-}
-
-bool startExtensions(xcb_connection_t* connection) {
-    const auto* test = xcb_get_extension_data(connection, &xcb_test_id);
-    if (test == nullptr || test->present == 0) return false;
-    const x11::XReply<xcb_xkb_use_extension_reply_t> keyboard(
-        xcb_xkb_use_extension_reply(connection, xcb_xkb_use_extension(connection, 1, 0), nullptr));
-    const x11::XReply<xcb_input_xi_query_version_reply_t> input(
-        xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
-    return keyboard && keyboard->supported != 0 && input;
 }
 
 /// The player's last word before its end.
@@ -82,13 +72,15 @@ int main(int count, char** values) {
     }
     standAside();
     const auto connection = x11::XConnection::open(arguments[1]);
-    if (!connection || !startExtensions(connection.value())) return 1;
+    if (!connection) return 1;
+    const x11::Extensions extensions(connection.value());
+    if (!extensions.use({x11::Extension::test, x11::Extension::keyboard, x11::Extension::input})) return 1;
     if (send(STDIN_FILENO, &x11::guardReady, sizeof x11::guardReady, MSG_NOSIGNAL) != sizeof x11::guardReady)
         return 1;
     const x11::GuardMessage last = listen();
     if (last.kind != x11::GuardMessage::Kind::running) return 0;
-    const int mark = open(arguments[2], O_RDWR | O_CLOEXEC | O_NOFOLLOW);
-    cleanUp(connection.value(), last, mark);
-    if (mark >= 0) unlink(arguments[2]);
+    const Descriptor mark(open(arguments[2], O_RDWR | O_CLOEXEC | O_NOFOLLOW));
+    cleanUp(connection.value(), last, mark.number());
+    if (mark) unlink(arguments[2]);
     return 0;
 }

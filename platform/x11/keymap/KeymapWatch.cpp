@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/keymap/KeymapWatch.h"
 
-#include <xcb/xinput.h>
 #include <xkbcommon/xkbcommon-x11.h>
 
 #include <algorithm>
 
 #include "platform/x11/keymap/ServerKeymap.h"
+#include "platform/x11/server/Extensions.h"
 #include "platform/x11/server/XcbXkb.h"
 
 namespace x11 {
@@ -36,13 +36,12 @@ Result<std::unique_ptr<KeymapWatch>> KeymapWatch::open(const std::string& displa
     auto connection = XConnection::open(display);
     if (!connection) return connection.error();
     std::unique_ptr<KeymapWatch> watch(new KeymapWatch(std::move(connection).value()));
-    const int isStarted =
-        xkb_x11_setup_xkb_extension(watch->m_connection, 1, 0, XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr,
-                                    nullptr, &watch->m_firstEvent, nullptr);
+    const Extensions extensions(watch->m_connection);
+    const auto usable = extensions.use({Extension::keyboard, Extension::input});
+    if (!usable) return usable.error();
+    watch->m_firstEvent = extensions.firstKeyboardEvent();
     watch->m_coreDevice = xkb_x11_get_core_keyboard_device_id(watch->m_connection);
-    if (isStarted == 0 || watch->m_coreDevice < 0) return unreadableKeymap();
-    const XReply<xcb_input_xi_query_version_reply_t> input(xcb_input_xi_query_version_reply(
-        watch->m_connection, xcb_input_xi_query_version(watch->m_connection, 2, 2), nullptr));
+    if (watch->m_coreDevice < 0) return unreadableKeymap();
     xcb_xkb_select_events(watch->m_connection, XCB_XKB_ID_USE_CORE_KBD, watchedEvents, 0, watchedEvents,
                           watchedParts, watchedParts, nullptr);
     const auto read = watch->read();
@@ -78,9 +77,7 @@ Result<bool> KeymapWatch::refresh(bool thorough) {
 bool KeymapWatch::takeNotices(bool thorough) {
     if (thorough) m_connection.roundTrip();
     bool hasNotice = false;
-    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
-        if ((event->response_type & 0x7F) == m_firstEvent) hasNotice = true;
-    }
+    while (const Event event = m_connection.nextEvent()) hasNotice = hasNotice || event.is(m_firstEvent);
     return hasNotice;
 }
 

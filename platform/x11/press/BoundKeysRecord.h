@@ -3,6 +3,8 @@
 
 #include <vector>
 
+#include "platform/x11/server/HiddenWindow.h"
+#include "platform/x11/server/Property.h"
 #include "platform/x11/server/XConnection.h"
 
 namespace x11 {
@@ -33,9 +35,11 @@ class BoundKeysRecord {
     void write(const std::vector<BoundKey>& keys) const;
 
   private:
+    Property property() const;
+
     const XConnection& m_connection;
     xcb_atom_t m_atom;
-    xcb_window_t m_window;
+    HiddenWindow m_window;
 };
 
 }  // namespace x11

@@ -11,17 +11,12 @@ constexpr std::chrono::milliseconds betweenLooks{2};
 }  // namespace
 
 GrabWait::GrabWait(const XConnection& connection, const Clock& clock)
-    : m_connection(connection), m_clock(clock), m_window(xcb_generate_id(connection)) {
-    const std::uint32_t overrideRedirect = 1;
-    xcb_create_window(connection, 0, m_window, connection.root(), -1, -1, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT,
-                      &overrideRedirect);
-}
+    : m_connection(connection), m_clock(clock), m_window(connection) {}
 
 bool GrabWait::isHeld() const {
     const XReply<xcb_grab_keyboard_reply_t> reply(
         xcb_grab_keyboard_reply(m_connection,
-                                xcb_grab_keyboard(m_connection, 0, m_window, XCB_CURRENT_TIME,
+                                xcb_grab_keyboard(m_connection, 0, m_window.id(), XCB_CURRENT_TIME,
                                                   XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
                                 nullptr));
     return reply && reply->status != XCB_GRAB_STATUS_NOT_VIEWABLE;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/run/RunWaiter.h"
+#include "platform/x11/server/HiddenWindow.h"
 #include "platform/x11/server/XConnection.h"
 
 namespace x11 {
@@ -22,7 +23,7 @@ class GrabWait {
 
     const XConnection& m_connection;
     const Clock& m_clock;
-    xcb_window_t m_window;
+    HiddenWindow m_window;
 };
 
 }  // namespace x11

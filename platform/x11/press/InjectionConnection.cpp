@@ -1,48 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/press/InjectionConnection.h"
 
-#include <xcb/xinput.h>
 #include <xcb/xtest.h>
 
+#include "platform/x11/server/Extensions.h"
 #include "platform/x11/server/XcbXkb.h"
 
 namespace x11 {
-
-namespace {
-
-bool hasExtension(xcb_connection_t* connection, xcb_extension_t* extension) {
-    const xcb_query_extension_reply_t* data = xcb_get_extension_data(connection, extension);
-    return data != nullptr && data->present != 0;
-}
-
-bool startXkb(xcb_connection_t* connection) {
-    if (!hasExtension(connection, &xcb_xkb_id)) return false;
-    const XReply<xcb_xkb_use_extension_reply_t> reply(
-        xcb_xkb_use_extension_reply(connection, xcb_xkb_use_extension(connection, 1, 0), nullptr));
-    return reply && reply->supported != 0;
-}
-
-bool startInput(xcb_connection_t* connection) {
-    if (!hasExtension(connection, &xcb_input_id)) return false;
-    const XReply<xcb_input_xi_query_version_reply_t> reply(
-        xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 2), nullptr));
-    return reply && (reply->major_version > 2 || (reply->major_version == 2 && reply->minor_version >= 2));
-}
-
-Error missing(const std::string& extension) {
-    return Error{"The X server has no " + extension + ", so that no keys can be pressed here.",
-                 "Log in to a session whose X server has the extension enabled."};
-}
-
-}  // namespace
 
 Result<InjectionConnection> InjectionConnection::open(const std::string& display, RunWatch& watch) {
     auto connection = XConnection::open(display);
     if (!connection) return connection.error();
     // Asked now, or the question would stand in the middle of the first stroke.
-    if (!hasExtension(connection.value(), &xcb_test_id)) return missing("XTEST");
-    if (!startXkb(connection.value())) return missing("XKB");
-    if (!startInput(connection.value())) return missing("XInput 2.2");
+    const auto usable =
+        Extensions(connection.value()).use({Extension::test, Extension::keyboard, Extension::input});
+    if (!usable) return usable.error();
     return InjectionConnection(std::move(connection).value(), watch);
 }
 
@@ -84,7 +56,7 @@ Result<XkbComponents> InjectionConnection::synchronise() {
     const auto state = stateOfServer(get());
     if (!state) return Error{"The connection to the X server was lost.", "Log in again."};
     // Nothing is selected, but some events are sent to everybody; they would pile up.
-    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_queued_event(get())}) continue;
+    while (const Event event{xcb_poll_for_queued_event(get())}) continue;
     return *state;
 }
 

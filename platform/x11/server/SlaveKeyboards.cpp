@@ -6,7 +6,7 @@
 
 #include <string_view>
 
-#include "platform/x11/server/XConnection.h"
+#include "platform/x11/server/XReply.h"
 
 namespace x11 {
 
@@ -14,21 +14,6 @@ namespace {
 
 /// The driver's own mark; the devices' names are not fixed.
 constexpr std::string_view xtestProperty = "XTEST Device";
-
-xcb_atom_t xtestAtom(xcb_connection_t* connection) {
-    const XReply<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection,
-                              xcb_intern_atom(connection, 1, static_cast<std::uint16_t>(xtestProperty.size()),
-                                              xtestProperty.data()),
-                              nullptr));
-    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
-}
-
-bool hasProperty(xcb_connection_t* connection, std::uint16_t device, xcb_atom_t property) {
-    const XReply<xcb_input_xi_get_property_reply_t> reply(xcb_input_xi_get_property_reply(
-        connection, xcb_input_xi_get_property(connection, device, 0, property, XCB_ATOM_ANY, 0, 1), nullptr));
-    return reply && reply->type != XCB_ATOM_NONE;
-}
 
 std::bitset<256> bitsOf(const xcb_input_key_state_t& state) {
     std::bitset<256> down;
@@ -40,19 +25,34 @@ std::bitset<256> bitsOf(const xcb_input_key_state_t& state) {
 
 }  // namespace
 
+xcb_atom_t xtestMark(xcb_connection_t* connection) {
+    const XReply<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(connection,
+                              xcb_intern_atom(connection, 1, static_cast<std::uint16_t>(xtestProperty.size()),
+                                              xtestProperty.data()),
+                              nullptr));
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+bool isXtest(xcb_connection_t* connection, std::uint16_t device, xcb_atom_t mark) {
+    if (mark == XCB_ATOM_NONE) return false;
+    const XReply<xcb_input_xi_get_property_reply_t> reply(xcb_input_xi_get_property_reply(
+        connection, xcb_input_xi_get_property(connection, device, 0, mark, XCB_ATOM_ANY, 0, 1), nullptr));
+    return reply && reply->type != XCB_ATOM_NONE;
+}
+
 std::vector<SlaveKeyboard> slaveKeyboards(xcb_connection_t* connection) {
     std::vector<SlaveKeyboard> keyboards;
-    const xcb_atom_t property = xtestAtom(connection);
+    const xcb_atom_t mark = xtestMark(connection);
     const XReply<xcb_input_xi_query_device_reply_t> reply(xcb_input_xi_query_device_reply(
         connection, xcb_input_xi_query_device(connection, XCB_INPUT_DEVICE_ALL), nullptr));
     if (!reply) return keyboards;
     for (auto info = xcb_input_xi_query_device_infos_iterator(reply.get()); info.rem > 0;
          xcb_input_xi_device_info_next(&info)) {
         if (info.data->type != XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD) continue;
-        keyboards.push_back(
-            {.device = info.data->deviceid,
-             .master = info.data->attachment,
-             .isXtest = property != XCB_ATOM_NONE && hasProperty(connection, info.data->deviceid, property)});
+        keyboards.push_back({.device = info.data->deviceid,
+                             .master = info.data->attachment,
+                             .isXtest = isXtest(connection, info.data->deviceid, mark)});
     }
     return keyboards;
 }

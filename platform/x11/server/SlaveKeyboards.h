@@ -16,6 +16,11 @@ struct SlaveKeyboard {
     bool isXtest = false;
 };
 
+/// What marks the devices through which XTEST speaks; XCB_ATOM_NONE if the server has none.
+xcb_atom_t xtestMark(xcb_connection_t* connection);
+/// Whether a device, a number of XInput's, has the mark.
+bool isXtest(xcb_connection_t* connection, std::uint16_t device, xcb_atom_t mark);
+
 /// All slave keyboards of the server. The connection must have announced XInput 2.
 std::vector<SlaveKeyboard> slaveKeyboards(xcb_connection_t* connection);
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/server/X11SessionCheck.h"
 
-#include <string_view>
+#include <cstdlib>
 
-#include "platform/x11/server/X11Check.h"
+#include "platform/x11/server/Extensions.h"
 #include "platform/x11/server/XConnection.h"
 
 namespace x11 {
@@ -13,13 +13,6 @@ namespace {
 std::string environment(const char* name) {
     const char* value = std::getenv(name);
     return value == nullptr ? "" : value;
-}
-
-bool isWithinWayland(const XConnection& connection) {
-    constexpr std::string_view name = "XWAYLAND";
-    const XReply<xcb_query_extension_reply_t> reply(xcb_query_extension_reply(
-        connection, xcb_query_extension(connection, name.size(), name.data()), nullptr));
-    return reply && reply->present != 0;
 }
 
 }  // namespace
@@ -37,20 +30,19 @@ Result<> X11SessionCheck::version() const {
     }
     const Result<XConnection> connection = XConnection::open(m_session.display);
     if (!connection) return connection.error();
-    return checkXInput(connection.value());
+    return Extensions(connection.value()).use({Extension::input});
 }
 
 Result<> X11SessionCheck::access() const {
     const Result<XConnection> connection = XConnection::open(m_session.display);
     if (!connection) return connection.error();
-    Result<> keys = checkXkb(connection.value());
-    return keys ? checkXTest(connection.value()) : keys;
+    return Extensions(connection.value()).use({Extension::keyboard, Extension::test});
 }
 
 bool X11SessionCheck::seesOnlySomeWindows() const {
     if (!m_session.waylandDisplay.empty()) return true;
     const Result<XConnection> connection = XConnection::open(m_session.display);
-    return connection && isWithinWayland(connection.value());
+    return connection && Extensions(connection.value()).has("XWAYLAND");
 }
 
 }  // namespace x11

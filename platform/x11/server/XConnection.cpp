@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/server/XConnection.h"
 
+#include <cstdlib>
+
 namespace x11 {
 
 namespace {
@@ -29,6 +31,11 @@ Result<XConnection> XConnection::open(const std::string& display) {
 XConnection::XConnection(Handle connection, xcb_window_t root)
     : m_connection(std::move(connection)), m_root(root) {}
 
+Event XConnection::awaitEvent() const {
+    xcb_flush(get());
+    return Event(xcb_wait_for_event(get()));
+}
+
 void XConnection::roundTrip() const {
     const XReply<xcb_get_input_focus_reply_t> reply(
         xcb_get_input_focus_reply(get(), xcb_get_input_focus(get()), nullptr));
@@ -39,6 +46,12 @@ xcb_atom_t XConnection::atom(const std::string& name) const {
     const XReply<xcb_intern_atom_reply_t> reply(
         xcb_intern_atom_reply(get(), xcb_intern_atom(get(), 0, length, name.c_str()), nullptr));
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+xcb_window_t XConnection::ownerOf(xcb_atom_t selection) const {
+    const XReply<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(get(), xcb_get_selection_owner(get(), selection), nullptr));
+    return reply ? reply->owner : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
 }
 
 }  // namespace x11

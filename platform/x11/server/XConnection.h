@@ -3,20 +3,14 @@
 
 #include <xcb/xcb.h>
 
-#include <cstdlib>
 #include <memory>
 #include <string>
 
 #include "platform/Result.h"
+#include "platform/x11/server/Event.h"
+#include "platform/x11/server/XReply.h"
 
 namespace x11 {
-
-/// Frees what xcb allocated with malloc: replies, events, errors.
-struct XFree {
-    void operator()(void* memory) const { std::free(memory); }
-};
-template <typename Reply>
-using XReply = std::unique_ptr<Reply, XFree>;
 
 /// An own connection to the X server. Each duty has one, since what a connection selects and grabs changes
 /// what it is sent: a connection that grabs loses its raw releases, one that injects must get no events.
@@ -34,12 +28,19 @@ class XConnection {
     /// True once the server is gone or has thrown us out; nothing can be asked any more.
     bool isBroken() const { return xcb_connection_has_error(m_connection.get()) != 0; }
 
+    /// The next event that has come, without waiting; none if there is none.
+    Event nextEvent() const { return Event(xcb_poll_for_event(m_connection.get())); }
+    /// Flushes and waits for the next event; none once the server is gone.
+    Event awaitEvent() const;
+
     /// Flushes and waits until the server has worked off all requests; all events that these and earlier
     /// device events caused are in the queue afterwards.
     void roundTrip() const;
 
     /// The atom of a name, made if missing.
     xcb_atom_t atom(const std::string& name) const;
+    /// The window that stands for a selection's owner; XCB_WINDOW_NONE if it has none.
+    xcb_window_t ownerOf(xcb_atom_t selection) const;
 
   private:
     struct Disconnect {

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/watch/HotKeyGrabs.h"
 
-#include <xkbcommon/xkbcommon-x11.h>
-
-#include "platform/x11/server/X11Check.h"
+#include "platform/x11/server/Extensions.h"
 #include "platform/x11/server/XcbXkb.h"
 
 namespace x11 {
@@ -23,7 +21,7 @@ Result<std::unique_ptr<HotKeyGrabs>> HotKeyGrabs::open(const std::string& displa
     Result<XConnection> connection = XConnection::open(display);
     if (!connection) return connection.error();
     std::unique_ptr<HotKeyGrabs> grabs(new HotKeyGrabs(std::move(connection).value()));
-    const Result<void> usable = checkKeyEventAccess(grabs->m_connection);
+    const Result<> usable = Extensions(grabs->m_connection).use({Extension::input, Extension::keyboard});
     if (!usable) return usable.error();
     // Without it a held key would come as pairs of releases and presses.
     constexpr std::uint32_t flag = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
@@ -61,11 +59,11 @@ void HotKeyGrabs::endActiveGrab() {
 
 bool HotKeyGrabs::read() {
     const std::size_t before = m_presses.size();
-    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
-        if ((event->response_type & 0x7F) != XCB_KEY_PRESS) continue;
-        const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(*event);
+    while (const Event event = m_connection.nextEvent()) {
+        const auto* key = event.as(keyPress);
+        if (key == nullptr) continue;
         m_presses.push_back(
-            {key.detail, static_cast<std::uint16_t>(key.state & allModifiers), key.time, ++m_lastNumber});
+            {key->detail, static_cast<std::uint16_t>(key->state & allModifiers), key->time, ++m_lastNumber});
     }
     return m_presses.size() != before;
 }

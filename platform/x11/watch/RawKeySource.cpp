@@ -4,7 +4,8 @@
 #include <xcb/xinput.h>
 #include <xkbcommon/xkbcommon-x11.h>
 
-#include "platform/x11/server/X11Check.h"
+#include "platform/x11/server/Extensions.h"
+#include "platform/x11/server/SlaveKeyboards.h"
 #include "platform/x11/server/XcbXkb.h"
 
 namespace x11 {
@@ -15,11 +16,6 @@ constexpr std::uint16_t watchedKeyboardEvents =
     XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY | XCB_XKB_EVENT_TYPE_STATE_NOTIFY |
     XCB_XKB_EVENT_TYPE_CONTROLS_NOTIFY;
 constexpr std::uint16_t allMapParts = 0xFF;
-
-template <typename Event>
-const Event& as(const xcb_generic_event_t& event) {
-    return reinterpret_cast<const Event&>(event);
-}
 
 }  // namespace
 
@@ -33,11 +29,12 @@ Result<std::unique_ptr<RawKeySource>> RawKeySource::open(const std::string& disp
 }
 
 Result<void> RawKeySource::setUp() {
-    Result<void> usable = checkKeyEventAccess(m_connection);
+    const Extensions extensions(m_connection);
+    Result<> usable = extensions.use({Extension::input, Extension::keyboard});
     if (!usable) return usable;
-    m_inputOpcode = xcb_get_extension_data(m_connection, &xcb_input_id)->major_opcode;
-    m_keyboardEvent = xcb_get_extension_data(m_connection, &xcb_xkb_id)->first_event;
-    m_syntheticMark = m_connection.atom("XTEST Device");
+    m_inputOpcode = extensions.inputOpcode();
+    m_keyboardEvent = extensions.firstKeyboardEvent();
+    m_xtestMark = xtestMark(m_connection);
     selectInputEvents();
     selectKeyboardEvents();
     m_connection.roundTrip();
@@ -64,7 +61,7 @@ void RawKeySource::selectKeyboardEvents() const {
 
 bool RawKeySource::read() {
     const std::size_t before = m_events.size();
-    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) decode(*event);
+    while (const Event event = m_connection.nextEvent()) decode(event);
     return m_events.size() != before;
 }
 
@@ -84,34 +81,49 @@ std::vector<std::uint8_t> RawKeySource::keysDown() const {
     return keycodes;
 }
 
-void RawKeySource::decode(const xcb_generic_event_t& event) {
-    const auto type = static_cast<std::uint8_t>(event.response_type & 0x7F);
-    if (type == XCB_GE_GENERIC && as<xcb_ge_generic_event_t>(event).extension == m_inputOpcode) {
-        decodeInputEvent(event);
-    } else if (type == m_keyboardEvent) {
-        decodeKeyboardEvent(event);
+void RawKeySource::decode(const Event& event) {
+    switch (event.generic(m_inputOpcode)) {
+        case XCB_INPUT_RAW_KEY_PRESS:
+            return decodeKey(event, true);
+        case XCB_INPUT_RAW_KEY_RELEASE:
+            return decodeKey(event, false);
+        case XCB_INPUT_HIERARCHY:
+            return decodeHierarchy(event);
+        default:
+            break;
+    }
+    switch (event.keyboard(m_keyboardEvent)) {
+        case XCB_XKB_NEW_KEYBOARD_NOTIFY:
+        case XCB_XKB_MAP_NOTIFY:
+            m_events.emplace_back(KeymapTouched{});
+            break;
+        case XCB_XKB_CONTROLS_NOTIFY:
+            noteRepeatDelay();
+            break;
+        case XCB_XKB_STATE_NOTIFY:
+            decodeState(event);
+            break;
+        default:
+            break;
     }
 }
 
-void RawKeySource::decodeInputEvent(const xcb_generic_event_t& event) {
-    const std::uint16_t kind = as<xcb_ge_generic_event_t>(event).event_type;
-    if (kind == XCB_INPUT_HIERARCHY) return decodeHierarchy(event);
-    if (kind != XCB_INPUT_RAW_KEY_PRESS && kind != XCB_INPUT_RAW_KEY_RELEASE) return;
-    const auto& key = as<xcb_input_raw_key_press_event_t>(event);
+void RawKeySource::decodeKey(const Event& event, bool press) {
+    const auto& key = event.body<xcb_input_raw_key_press_event_t>();
     // Repeats come from RECORD, which has them for all servers.
     if ((key.flags & XCB_INPUT_KEY_EVENT_FLAGS_KEY_REPEAT) != 0 || key.detail > 255) return;
     m_events.emplace_back(RawKey{.keycode = static_cast<std::uint8_t>(key.detail),
-                                 .press = kind == XCB_INPUT_RAW_KEY_PRESS,
+                                 .press = press,
                                  .source = key.sourceid,
                                  .synthetic = isSynthetic(key.sourceid),
                                  .time = key.time});
 }
 
-void RawKeySource::decodeHierarchy(const xcb_generic_event_t& event) {
+void RawKeySource::decodeHierarchy(const Event& event) {
     constexpr std::uint32_t gone = XCB_INPUT_HIERARCHY_MASK_SLAVE_REMOVED |
                                    XCB_INPUT_HIERARCHY_MASK_MASTER_REMOVED |
                                    XCB_INPUT_HIERARCHY_MASK_DEVICE_DISABLED;
-    const auto& hierarchy = as<xcb_input_hierarchy_event_t>(event);
+    const auto& hierarchy = event.body<xcb_input_hierarchy_event_t>();
     m_synthetic.clear();
     const xcb_input_hierarchy_info_t* infos = xcb_input_hierarchy_infos(&hierarchy);
     for (int i = 0; i < xcb_input_hierarchy_infos_length(&hierarchy); ++i) {
@@ -119,19 +131,11 @@ void RawKeySource::decodeHierarchy(const xcb_generic_event_t& event) {
     }
 }
 
-void RawKeySource::decodeKeyboardEvent(const xcb_generic_event_t& event) {
-    // The kind stands where other events have a detail.
-    const std::uint8_t kind = event.pad0;
-    if (kind == XCB_XKB_NEW_KEYBOARD_NOTIFY || kind == XCB_XKB_MAP_NOTIFY) {
-        m_events.emplace_back(KeymapTouched{});
-    } else if (kind == XCB_XKB_CONTROLS_NOTIFY) {
-        noteRepeatDelay();
-    } else if (kind == XCB_XKB_STATE_NOTIFY) {
-        const auto& state = as<xcb_xkb_state_notify_event_t>(event);
-        m_events.emplace_back(StateChange{.components = componentsOf(state),
-                                          .keycode = state.keycode,
-                                          .press = state.eventType == XCB_KEY_PRESS});
-    }
+void RawKeySource::decodeState(const Event& event) {
+    const auto& state = event.body<xcb_xkb_state_notify_event_t>();
+    m_events.emplace_back(StateChange{.components = componentsOf(state),
+                                      .keycode = state.keycode,
+                                      .press = state.eventType == XCB_KEY_PRESS});
 }
 
 void RawKeySource::noteRepeatDelay() {
@@ -143,11 +147,7 @@ void RawKeySource::noteRepeatDelay() {
 bool RawKeySource::isSynthetic(std::uint16_t source) {
     const auto known = m_synthetic.find(source);
     if (known != m_synthetic.end()) return known->second;
-    const XReply<xcb_input_xi_get_property_reply_t> mark(xcb_input_xi_get_property_reply(
-        m_connection,
-        xcb_input_xi_get_property(m_connection, source, 0, m_syntheticMark, XCB_GET_PROPERTY_TYPE_ANY, 0, 1),
-        nullptr));
-    const bool synthetic = mark && mark->type != XCB_ATOM_NONE;
+    const bool synthetic = isXtest(m_connection, source, m_xtestMark);
     m_synthetic.emplace(source, synthetic);
     return synthetic;
 }

@@ -43,17 +43,17 @@ class RawKeySource {
     Result<void> setUp();
     void selectInputEvents() const;
     void selectKeyboardEvents() const;
-    void decode(const xcb_generic_event_t& event);
-    void decodeInputEvent(const xcb_generic_event_t& event);
-    void decodeHierarchy(const xcb_generic_event_t& event);
-    void decodeKeyboardEvent(const xcb_generic_event_t& event);
+    void decode(const Event& event);
+    void decodeKey(const Event& event, bool press);
+    void decodeHierarchy(const Event& event);
+    void decodeState(const Event& event);
     void noteRepeatDelay();
     bool isSynthetic(std::uint16_t source);
 
     XConnection m_connection;
     std::uint8_t m_inputOpcode = 0;
     std::uint8_t m_keyboardEvent = 0;
-    xcb_atom_t m_syntheticMark = XCB_ATOM_NONE;
+    xcb_atom_t m_xtestMark = XCB_ATOM_NONE;
     std::map<std::uint16_t, bool> m_synthetic;
     std::deque<MonitorEvent> m_events;
 };

@@ -8,6 +8,8 @@
 #include <cstring>
 #include <iterator>
 
+#include "platform/x11/server/Extensions.h"
+
 namespace x11 {
 
 namespace {
@@ -83,8 +85,7 @@ Result<void> RepeatSource::start() {
     const Error missing{"Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.",
                         "Switch the extension on in the settings of the X server."};
     for (const XConnection* connection : {&m_control, &m_data}) {
-        const xcb_query_extension_reply_t* extension = xcb_get_extension_data(*connection, &xcb_record_id);
-        if (extension == nullptr || extension->present == 0) return missing;
+        if (!Extensions(*connection).has(xcb_record_id)) return missing;
     }
     m_context = xcb_generate_id(m_control);
     const xcb_record_client_spec_t everybody = XCB_RECORD_CS_ALL_CLIENTS;
@@ -119,8 +120,7 @@ void RepeatSource::resume() {
 }
 
 void RepeatSource::read() {
-    while (const XReply<xcb_generic_event_t> unused{xcb_poll_for_event(m_control)}) {
-    }
+    while (const Event unused = m_control.nextEvent()) continue;
     void* reply = nullptr;
     xcb_generic_error_t* error = nullptr;
     while (m_recording && xcb_poll_for_reply(m_data, m_sequence, &reply, &error) != 0) {
@@ -135,7 +135,7 @@ void RepeatSource::read() {
              std::distance(data, end) >= static_cast<std::ptrdiff_t>(eventSize); data += eventSize) {
             xcb_key_press_event_t event{};
             std::memcpy(&event, data, sizeof event);
-            m_queue.add(event.detail, (event.response_type & 0x7F) == XCB_KEY_PRESS, event.time);
+            m_queue.add(event.detail, eventNumber(event.response_type) == XCB_KEY_PRESS, event.time);
         }
     }
 }

@@ -5,8 +5,13 @@
 
 #include <algorithm>
 #include <fstream>
+#include <span>
 #include <string>
 #include <utility>
+
+#include "platform/x11/server/ClientMessage.h"
+#include "platform/x11/server/Property.h"
+#include "platform/x11/server/WindowTree.h"
 
 namespace x11 {
 
@@ -40,6 +45,7 @@ struct Receivers::Server {
     explicit Server(XConnection opened) : connection(std::move(opened)) {}
 
     XConnection connection;
+    WindowTree tree{connection};
     xcb_atom_t protocols = connection.atom("WM_PROTOCOLS");
     xcb_atom_t ping = connection.atom("_NET_WM_PING");
     xcb_atom_t process = connection.atom("_NET_WM_PID");
@@ -57,56 +63,21 @@ bool Receivers::open() {
 }
 
 void Receivers::note() {
-    if (open()) m_noted.insert(focused());
-}
-
-/// Where the focus follows the pointer, the window below it.
-xcb_window_t Receivers::focused() const {
-    const XReply<xcb_get_input_focus_reply_t> reply(
-        xcb_get_input_focus_reply(m_server->connection, xcb_get_input_focus(m_server->connection), nullptr));
-    if (!reply || reply->focus == XCB_WINDOW_NONE) return XCB_WINDOW_NONE;
-    if (reply->focus != XCB_INPUT_FOCUS_POINTER_ROOT) return reply->focus;
-    xcb_window_t window = m_server->connection.root();
-    for (;;) {
-        const XReply<xcb_query_pointer_reply_t> pointer(xcb_query_pointer_reply(
-            m_server->connection, xcb_query_pointer(m_server->connection, window), nullptr));
-        if (!pointer || pointer->child == XCB_WINDOW_NONE) return window;
-        window = pointer->child;
-    }
-}
-
-/// The window and those that it lies in, without the root.
-std::vector<xcb_window_t> Receivers::lineOf(xcb_window_t window) const {
-    std::vector<xcb_window_t> line;
-    while (window != XCB_WINDOW_NONE && window != m_server->connection.root()) {
-        line.push_back(window);
-        const XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
-            m_server->connection, xcb_query_tree(m_server->connection, window), nullptr));
-        if (!tree) break;
-        window = tree->parent;
-    }
-    return line;
-}
-
-std::vector<std::uint32_t> Receivers::property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const {
-    constexpr std::uint32_t most = 64;
-    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_server->connection, xcb_get_property(m_server->connection, 0, window, name, type, 0, most),
-        nullptr));
-    if (!reply || reply->format != 32) return {};
-    const auto* first = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
-    return {first, first + reply->value_len};
+    if (open()) m_noted.insert(m_server->tree.receiver());
 }
 
 /// The focus may be on a window inside the one that speaks for the program. Keyrill's own windows are left
 /// out: they read when the run is over.
 std::optional<Receivers::Receiver> Receivers::find(xcb_window_t window) const {
     std::optional<Receiver> byProcess;
-    for (const xcb_window_t one : lineOf(window)) {
-        const auto process = property(one, m_server->process, XCB_ATOM_CARDINAL);
-        const pid_t id = process.empty() ? 0 : static_cast<pid_t>(process.front());
+    constexpr std::uint32_t mostProtocols = 64;
+    const XConnection& connection = m_server->connection;
+    for (const xcb_window_t one : m_server->tree.lineOf(window)) {
+        const auto id =
+            static_cast<pid_t>(Property(connection, one, m_server->process).number(XCB_ATOM_CARDINAL));
         if (id == getpid()) return std::nullopt;
-        const auto protocols = property(one, m_server->protocols, XCB_ATOM_ATOM);
+        const auto protocols =
+            Property(connection, one, m_server->protocols).numbers(XCB_ATOM_ATOM, mostProtocols);
         if (std::find(protocols.begin(), protocols.end(), m_server->ping) != protocols.end()) {
             return Receiver{.window = one, .answersPings = true};
         }
@@ -135,31 +106,24 @@ void Receivers::selectAnswers(bool on) const {
 }
 
 void Receivers::ping(const Receiver& receiver) const {
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = receiver.window;
-    message.type = m_server->protocols;
-    message.data.data32[0] = m_server->ping;
-    message.data.data32[1] = m_stamp;
-    message.data.data32[2] = receiver.window;
-    xcb_send_event(m_server->connection, 0, receiver.window, XCB_EVENT_MASK_NO_EVENT,
-                   reinterpret_cast<const char*>(&message));
+    const ClientMessage message{
+        receiver.window, m_server->protocols, {m_server->ping, m_stamp, receiver.window}};
+    message.sendTo(m_server->connection, receiver.window);
 }
 
-void Receivers::readAnswers(std::vector<Receiver>& receivers) {
-    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_server->connection)}) {
-        if ((event->response_type & 0x7F) != XCB_CLIENT_MESSAGE) continue;
-        const auto& message = reinterpret_cast<const xcb_client_message_event_t&>(*event);
-        if (message.type != m_server->protocols || message.data.data32[0] != m_server->ping) continue;
-        if (message.data.data32[1] != m_stamp) continue;
+void Receivers::readAnswers(std::vector<Receiver>& receivers) const {
+    while (const Event event = m_server->connection.nextEvent()) {
+        const auto* message = event.as(clientMessage);
+        if (message == nullptr || message->type != m_server->protocols) continue;
+        const std::span numbers(message->data.data32);
+        if (numbers[0] != m_server->ping || numbers[1] != m_stamp) continue;
         for (Receiver& receiver : receivers) {
-            if (receiver.answersPings && receiver.window == message.data.data32[2]) receiver.isDone = true;
+            if (receiver.answersPings && receiver.window == numbers[2]) receiver.isDone = true;
         }
     }
 }
 
-void Receivers::look(Receiver& receiver) const {
+void Receivers::watchSleep(Receiver& receiver) const {
     const auto state = stateOf(receiver.process);
     const Clock::Time now = m_clock.now();
     if (!state) {
@@ -172,11 +136,14 @@ void Receivers::look(Receiver& receiver) const {
     receiver.isDone = receiver.asleepSince && now - *receiver.asleepSince >= soundSleep;
 }
 
-bool Receivers::areDone(std::vector<Receiver>& receivers) {
+void Receivers::follow(std::vector<Receiver>& receivers) const {
     readAnswers(receivers);
     for (Receiver& receiver : receivers) {
-        if (!receiver.isDone && !receiver.answersPings) look(receiver);
+        if (!receiver.isDone && !receiver.answersPings) watchSleep(receiver);
     }
+}
+
+bool Receivers::areDone(const std::vector<Receiver>& receivers) {
     return std::all_of(receivers.begin(), receivers.end(), [](const Receiver& one) { return one.isDone; });
 }
 
@@ -195,8 +162,10 @@ Step<> Receivers::await(RunWait& wait, std::chrono::milliseconds longest) {
     }
     m_server->connection.roundTrip();
     Step<> waited;
+    follow(receivers);
     while (waited && !areDone(receivers) && m_clock.now() < end) {
         waited = wait.waitUntil(m_clock.now() + betweenLooks);
+        if (waited) follow(receivers);
     }
     selectAnswers(false);
     xcb_flush(m_server->connection);

@@ -53,16 +53,15 @@ class Receivers {
     struct Server;
 
     bool open();
-    xcb_window_t focused() const;
-    std::vector<xcb_window_t> lineOf(xcb_window_t window) const;
-    std::vector<std::uint32_t> property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const;
     std::optional<Receiver> find(xcb_window_t window) const;
     std::vector<Receiver> all() const;
     void selectAnswers(bool on) const;
     void ping(const Receiver& receiver) const;
-    void readAnswers(std::vector<Receiver>& receivers);
-    void look(Receiver& receiver) const;
-    bool areDone(std::vector<Receiver>& receivers);
+    /// Finds out which of them have taken everything in by now.
+    void follow(std::vector<Receiver>& receivers) const;
+    void readAnswers(std::vector<Receiver>& receivers) const;
+    void watchSleep(Receiver& receiver) const;
+    static bool areDone(const std::vector<Receiver>& receivers);
 
     std::string m_display;
     const Clock& m_clock;

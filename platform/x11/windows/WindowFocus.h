@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "platform/x11/server/WindowTree.h"
 #include "platform/x11/server/XConnection.h"
 
 namespace x11 {
@@ -20,9 +21,8 @@ class WindowFocus {
     /// The connection outlives the object.
     explicit WindowFocus(const XConnection& connection);
 
-    /// The window that keys go to: often one inside an application's window, XCB_INPUT_FOCUS_POINTER_ROOT
-    /// where the pointer decides, XCB_WINDOW_NONE.
-    xcb_window_t holder() const;
+    /// The window that keys go to, as WindowTree::focus() tells it.
+    xcb_window_t holder() const { return m_tree.focus(); }
     /// Whether keys go to that window or to one inside it.
     bool isIn(xcb_window_t window) const;
     /// The manager's account; XCB_WINDOW_NONE if it has none or there is no manager.
@@ -32,14 +32,9 @@ class WindowFocus {
     void request(xcb_window_t window, Source source, std::uint32_t time) const;
 
   private:
-    xcb_window_t parentOf(xcb_window_t window) const;
-
     const XConnection& m_connection;
+    WindowTree m_tree;
     xcb_atom_t m_activeWindow;
 };
-
-/// The first value of a 32-bit property; 0 if there is none.
-std::uint32_t propertyOf(const XConnection& connection, xcb_window_t window, xcb_atom_t name,
-                         xcb_atom_t type);
 
 }  // namespace x11

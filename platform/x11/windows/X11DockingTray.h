@@ -22,8 +22,7 @@ class X11DockingTray final : public DockingTray, public EventSource {
 
   private:
     void findOwner();
-    xcb_window_t askForOwner() const;
-    bool concernsTray(const xcb_generic_event_t& event) const;
+    bool concernsTray(const Event& event) const;
 
     XConnection m_connection;
     xcb_atom_t m_selection;

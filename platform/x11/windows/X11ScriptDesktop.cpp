@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/Clock.h"
+#include "platform/x11/server/Property.h"
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/windows/WindowFocus.h"
 
@@ -63,22 +64,14 @@ Result<void> X11ScriptDesktop::beep(int count) {
 
 std::vector<xcb_window_t> X11ScriptDesktop::Server::windows(xcb_atom_t list) const {
     constexpr std::uint32_t most = 4096;
-    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        connection, xcb_get_property(connection, 0, connection.root(), list, XCB_ATOM_WINDOW, 0, most),
-        nullptr));
-    if (!reply || reply->format != 32) return {};
-    const auto* first = static_cast<const xcb_window_t*>(xcb_get_property_value(reply.get()));
-    return {first, first + reply->value_len};
+    return Property(connection, connection.root(), list).numbers(XCB_ATOM_WINDOW, most);
 }
 
 /// WM_CLASS holds two texts, each ended by a zero: the program's and the class's name.
 bool X11ScriptDesktop::Server::isOf(xcb_window_t window, const std::string& name) const {
-    const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        connection, xcb_get_property(connection, 0, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, 256),
-        nullptr));
-    if (!reply || reply->format != 8) return false;
-    std::string_view names(static_cast<const char*>(xcb_get_property_value(reply.get())),
-                           static_cast<std::size_t>(xcb_get_property_value_length(reply.get())));
+    constexpr std::uint32_t most = 1024;
+    const std::string both = Property(connection, window, XCB_ATOM_WM_CLASS).text(XCB_ATOM_STRING, most);
+    std::string_view names = both;
     while (!names.empty()) {
         const std::string_view one = names.substr(0, names.find('\0'));
         if (lowered(one) == name) return true;

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "platform/Windows.h"
+#include "platform/x11/server/ServerClock.h"
+#include "platform/x11/server/WindowTree.h"
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/windows/WindowFocus.h"
 
@@ -23,18 +25,16 @@ class X11Windows : public Windows {
     bool isFocusElsewhere(WindowId hidden) const;
     void giveFocusBack(WindowId hidden) const;
 
-    bool isOnScreen(xcb_window_t window) const;
-
     void setUserTime(WindowId window, std::uint32_t time) const;
-    std::uint32_t serverTime() const;
 
     XConnection m_connection;
     WindowFocus m_focus;
+    WindowTree m_tree;
+    ServerClock m_serverClock;
     Clock& m_clock;
     xcb_atom_t m_managerCheck;
     xcb_atom_t m_userTime;
     xcb_atom_t m_userTimeWindow;
-    xcb_window_t m_own;
     xcb_window_t m_focusBefore = XCB_WINDOW_NONE;
 };
 

@@ -319,7 +319,7 @@ TEST(InjectorStartTest, aServerWithoutXtestIsAnErrorWithAHint) {
                                  {.display = server.display(), .guard = KEYRILL_GUARD, .runtimeFolder = {}});
     const auto session = injector.open({});
     ASSERT_FALSE(session);
-    EXPECT_EQ(session.error().message, "The X server has no XTEST, so that no keys can be pressed here.");
+    EXPECT_EQ(session.error().message, "The X server must have the XTEST extension, but it has not.");
     EXPECT_NE(session.error().hint, "");
 }
 
