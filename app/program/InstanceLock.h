@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "platform/Descriptor.h"
+
 /// A file that one process at a time has locked. The system takes the lock back however that process ends;
 /// the file stays.
 class InstanceLock {
@@ -10,14 +12,11 @@ class InstanceLock {
     /// `folder` is the user's runtime folder, empty for none: then nothing can be locked and every process
     /// gets the lock.
     explicit InstanceLock(const std::string& folder);
-    ~InstanceLock();
-    InstanceLock(const InstanceLock&) = delete;
-    InstanceLock& operator=(const InstanceLock&) = delete;
 
     /// False while another process has the lock.
     bool isOurs() const { return m_isOurs; }
 
   private:
-    int m_descriptor = -1;
+    Descriptor m_file;
     bool m_isOurs = true;
 };

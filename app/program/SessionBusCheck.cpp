@@ -4,7 +4,6 @@
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -12,24 +11,11 @@
 #include <cstring>
 #include <string_view>
 
+#include "platform/Descriptor.h"
+
 namespace {
 
 constexpr std::chrono::milliseconds patience{500};
-
-/// Closes a descriptor at the end of the scope.
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : m_number(number) {}
-    ~Descriptor() {
-        if (m_number >= 0) close(m_number);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    int number() const { return m_number; }
-
-  private:
-    int m_number;
-};
 
 /// The value of a key in the first address of a list, "unix:path=/run/user/0/bus,guid=...;...".
 std::string valueOf(std::string_view address, std::string_view key) {
@@ -73,7 +59,7 @@ bool answersInTime(const std::string& address, std::chrono::milliseconds time) {
     const std::string name = socketName(address);
     if (name.empty() || name.find('%') != std::string::npos) return true;
     const Descriptor bus(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-    if (bus.number() < 0 || !connectTo(bus.number(), name)) return true;
+    if (!bus || !connectTo(bus.number(), name)) return true;
     // The beginning of every conversation with a bus; it lists the ways to authenticate.
     const std::string greeting("\0AUTH\r\n", 7);
     if (send(bus.number(), greeting.data(), greeting.size(), MSG_NOSIGNAL) < 0) return true;

@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "platform/Descriptor.h"
 #include "platform/linux/GLibPointers.h"
 
 namespace fs = std::filesystem;
@@ -36,10 +37,8 @@ std::string obstacle(const struct stat& status) {
 
 /// So that the new name is on the disk as well as the content. The content is safe without it.
 void syncFolderOf(const std::string& path) {
-    const int folder = open(fs::path(path).parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder < 0) return;
-    fsync(folder);
-    close(folder);
+    const Descriptor folder(open(fs::path(path).parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder) fsync(folder.number());
 }
 
 /// The name of a file that GLib writes first and renames then: NAME.XXXXXX.

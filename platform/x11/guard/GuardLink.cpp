@@ -73,8 +73,8 @@ GuardLink::GuardLink(std::string program, std::string display, std::string markF
 GuardLink::~GuardLink() { end(); }
 
 Result<void> GuardLink::tell(const GuardMessage& message) {
-    if (m_socket >= 0 && m_told == message) return {};
-    if (m_socket < 0 || !send(message)) {
+    if (m_socket && m_told == message) return {};
+    if (!m_socket || !send(message)) {
         end();
         const auto started = start();
         if (!started) return started.error();
@@ -85,7 +85,8 @@ Result<void> GuardLink::tell(const GuardMessage& message) {
 }
 
 bool GuardLink::send(const GuardMessage& message) const {
-    return ::send(m_socket, &message, sizeof message, MSG_NOSIGNAL) == static_cast<ssize_t>(sizeof message);
+    return ::send(m_socket.number(), &message, sizeof message, MSG_NOSIGNAL) ==
+           static_cast<ssize_t>(sizeof message);
 }
 
 Result<std::string> GuardLink::find() const {
@@ -106,13 +107,14 @@ Result<void> GuardLink::start() {
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, sockets.data()) != 0) {
         return cannotStart(program.value());
     }
-    m_socket = sockets[0];
+    m_socket.reset(sockets[0]);
+    Descriptor otherEnd(sockets[1]);
     const GuardAttributes attributes;
-    const GuardFiles files(sockets[1]);
+    const GuardFiles files(otherEnd.number());
     std::array<char*, 4> arguments = {program.value().data(), m_display.data(), m_markFile.data(), nullptr};
     const int error = posix_spawn(&m_process, program.value().c_str(), files.get(), attributes.get(),
                                   arguments.data(), environ);
-    close(sockets[1]);
+    otherEnd.reset();
     if (error != 0) m_process = -1;
     if (error == 0 && awaitReady()) return {};
     end();
@@ -120,17 +122,17 @@ Result<void> GuardLink::start() {
 }
 
 bool GuardLink::awaitReady() const {
-    pollfd entry{.fd = m_socket, .events = POLLIN, .revents = 0};
+    pollfd entry{.fd = m_socket.number(), .events = POLLIN, .revents = 0};
     int ready = 0;
     do ready = poll(&entry, 1, readyMilliseconds);
     while (ready < 0 && errno == EINTR);
     char answer = 0;
-    return ready == 1 && recv(m_socket, &answer, 1, 0) == 1 && answer == guardReady;
+    return ready == 1 && recv(m_socket.number(), &answer, 1, 0) == 1 && answer == guardReady;
 }
 
 void GuardLink::end() {
     m_told.reset();
-    if (m_socket >= 0) close(std::exchange(m_socket, -1));
+    m_socket.reset();
     if (m_process < 0) return;
     // It goes by itself, in the time that cleaning up takes if that is needed.
     const pid_t process = std::exchange(m_process, -1);

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/Descriptor.h"
 #include "platform/Result.h"
 #include "platform/x11/guard/GuardMessage.h"
 
@@ -34,7 +35,7 @@ class GuardLink {
     std::string m_program;
     std::string m_display;
     std::string m_markFile;
-    int m_socket = -1;
+    Descriptor m_socket;
     pid_t m_process = -1;
     std::optional<GuardMessage> m_told;
 };

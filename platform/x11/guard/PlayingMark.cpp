@@ -17,7 +17,7 @@ namespace {
 constexpr int maxTries = 100;
 constexpr useconds_t betweenTries = 2000;
 
-bool lock(int descriptor) { return flock(descriptor, LOCK_EX | LOCK_NB) == 0; }
+bool lock(const Descriptor& file) { return flock(file.number(), LOCK_EX | LOCK_NB) == 0; }
 
 }  // namespace
 
@@ -33,36 +33,34 @@ std::string PlayingMark::fileFor(const std::string& folder, const std::string& d
 }
 
 void PlayingMark::set() {
-    if (m_file.empty() || m_descriptor >= 0) return;
+    if (m_file.empty() || m_open) return;
     mkdir(std::filesystem::path(m_file).parent_path().c_str(), 0700);
     for (int tries = 0; tries < maxTries && !tryToSet(); ++tries) usleep(betweenTries);
 }
 
 /// False if it is worth trying again.
 bool PlayingMark::tryToSet() {
-    m_descriptor = open(m_file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    if (m_descriptor < 0) return true;
+    m_open.reset(open(m_file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
+    if (!m_open) return true;
     // The file may have been removed by its last owner between the two calls.
     struct stat state {};
-    if (lock(m_descriptor) && fstat(m_descriptor, &state) == 0 && state.st_nlink > 0) return true;
-    close(std::exchange(m_descriptor, -1));
+    if (lock(m_open) && fstat(m_open.number(), &state) == 0 && state.st_nlink > 0) return true;
+    m_open.reset();
     return false;
 }
 
 void PlayingMark::clear() {
-    if (m_descriptor < 0) return;
+    if (!m_open) return;
     unlink(m_file.c_str());
-    close(std::exchange(m_descriptor, -1));
+    m_open.reset();
 }
 
 bool PlayingMark::takeStale() {
     if (m_file.empty()) return false;
-    const int descriptor = open(m_file.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
-    if (descriptor < 0) return false;
-    const bool isStale = lock(descriptor);
-    if (isStale) unlink(m_file.c_str());
-    close(descriptor);
-    return isStale;
+    const Descriptor left(open(m_file.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW));
+    if (!left || !lock(left)) return false;
+    unlink(m_file.c_str());
+    return true;
 }
 
 }  // namespace x11

@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "platform/Descriptor.h"
+
 namespace x11 {
 
 /// A file that stands, locked, while keys are being pressed. One that stands and is not locked tells the next
@@ -32,7 +34,7 @@ class PlayingMark {
     bool tryToSet();
 
     std::string m_file;
-    int m_descriptor = -1;
+    Descriptor m_open;
 };
 
 }  // namespace x11

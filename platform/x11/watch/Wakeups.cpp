@@ -14,35 +14,29 @@ Wakeups::Wakeups()
     : m_epoll(epoll_create1(EPOLL_CLOEXEC)),
       m_event(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
       m_timer(timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK)) {
-    watch(m_event);
-    watch(m_timer);
-}
-
-Wakeups::~Wakeups() {
-    for (const int descriptor : {m_timer, m_event, m_epoll}) {
-        if (descriptor >= 0) close(descriptor);
-    }
+    watch(m_event.number());
+    watch(m_timer.number());
 }
 
 void Wakeups::watch(int fileDescriptor) const {
     epoll_event event{};
     event.events = EPOLLIN;
     event.data.fd = fileDescriptor;
-    epoll_ctl(m_epoll, EPOLL_CTL_ADD, fileDescriptor, &event);
+    epoll_ctl(m_epoll.number(), EPOLL_CTL_ADD, fileDescriptor, &event);
 }
 
 void Wakeups::unwatch(int fileDescriptor) const {
-    epoll_ctl(m_epoll, EPOLL_CTL_DEL, fileDescriptor, nullptr);
+    epoll_ctl(m_epoll.number(), EPOLL_CTL_DEL, fileDescriptor, nullptr);
 }
 
 void Wakeups::kick() const {
     // Fails only when the counter is full, which is a kick too.
-    static_cast<void>(eventfd_write(m_event, 1));
+    static_cast<void>(eventfd_write(m_event.number(), 1));
 }
 
 void Wakeups::takeKick() const {
     eventfd_t count = 0;
-    static_cast<void>(eventfd_read(m_event, &count));
+    static_cast<void>(eventfd_read(m_event.number(), &count));
 }
 
 void Wakeups::startTimer(std::chrono::milliseconds duration) {
@@ -50,12 +44,12 @@ void Wakeups::startTimer(std::chrono::milliseconds duration) {
     itimerspec spec{};
     spec.it_value.tv_sec = duration.count() / 1000;
     spec.it_value.tv_nsec = duration.count() % 1000 * 1'000'000;
-    m_timerRuns = timerfd_settime(m_timer, 0, &spec, nullptr) == 0;
+    m_timerRuns = timerfd_settime(m_timer.number(), 0, &spec, nullptr) == 0;
 }
 
 bool Wakeups::takeTimer() {
     std::uint64_t expirations = 0;
-    if (read(m_timer, &expirations, sizeof expirations) != sizeof expirations) return false;
+    if (read(m_timer.number(), &expirations, sizeof expirations) != sizeof expirations) return false;
     m_timerRuns = false;
     return true;
 }

@@ -3,6 +3,8 @@
 
 #include <chrono>
 
+#include "platform/Descriptor.h"
+
 namespace x11 {
 
 /// One descriptor for an event loop in place of many: connections, a kick for what is already in memory, and
@@ -10,12 +12,9 @@ namespace x11 {
 class Wakeups {
   public:
     Wakeups();
-    ~Wakeups();
-    Wakeups(const Wakeups&) = delete;
-    Wakeups& operator=(const Wakeups&) = delete;
 
     /// Readable when there is something to do; -1 when the system had no descriptor left.
-    int fileDescriptor() const { return m_epoll; }
+    int fileDescriptor() const { return m_epoll.number(); }
 
     void watch(int fileDescriptor) const;
     void unwatch(int fileDescriptor) const;
@@ -30,9 +29,9 @@ class Wakeups {
     bool takeTimer();
 
   private:
-    int m_epoll;
-    int m_event;
-    int m_timer;
+    Descriptor m_epoll;
+    Descriptor m_event;
+    Descriptor m_timer;
     bool m_timerRuns = false;
 };
 
