@@ -6,28 +6,35 @@ namespace {
 /// What the program prints to somebody who has no display, and how it ends.
 class WithoutDisplayTest : public testing::Test {
   protected:
-    int statusOf(const std::string& argument) const {
+    struct End {
+        int status = 0;
+        std::string output;
+    };
+    End endOf(const std::string& argument) const {
+        const std::string output = m_folder.file(argument);
         Child program({KEYRILL_PRODUCT, argument},
-                      {.environment = {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}}, .outputFile = m_output});
-        return program.wait();
+                      {.environment = {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}}, .outputFile = output});
+        const int status = program.wait();
+        return {status, contentOf(output)};
     }
-    std::string output() const { return contentOf(m_output); }
 
   private:
     TemporaryFolder m_folder;
-    std::string m_output = m_folder.file("output");
 };
 
 TEST_F(WithoutDisplayTest, helpAndVersionArePrinted) {
-    EXPECT_EQ(statusOf("--help"), 0);
-    EXPECT_TRUE(output().starts_with("Usage: keyrill ")) << output();
-    EXPECT_EQ(statusOf("--version"), 0);
-    EXPECT_TRUE(output().starts_with("keyrill ")) << output();
+    const End help = endOf("--help");
+    EXPECT_EQ(help.status, 0);
+    EXPECT_TRUE(help.output.starts_with("Usage: keyrill ")) << help.output;
+    const End version = endOf("--version");
+    EXPECT_EQ(version.status, 0);
+    EXPECT_TRUE(version.output.starts_with("keyrill ")) << version.output;
 }
 
 TEST_F(WithoutDisplayTest, aKindOfSessionThatThereIsNotIsRefused) {
-    EXPECT_EQ(statusOf("--session=typewriter"), 1);
-    EXPECT_EQ(output(),
+    const End end = endOf("--session=typewriter");
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.output,
               "keyrill: There is no kind of session called \"typewriter\". Choose one of these: x11.\n");
 }
 
