@@ -8,7 +8,6 @@
 #include "platform/none/NoKeys.h"
 #include "platform/none/NoWindows.h"
 #include "platform/x11/press/X11KeyInjector.h"
-#include "platform/x11/server/X11Check.h"
 #include "platform/x11/server/X11SessionCheck.h"
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/watch/X11EventManager.h"
@@ -48,8 +47,6 @@ Result<std::unique_ptr<Keys>> openKeys(Clock& clock) {
 
 /// Also lets the injector connect and clear away what a killed process has left.
 Result<std::unique_ptr<Keys>> startKeys(Clock& clock) {
-    const auto access = checkX11Access();
-    if (!access) return access.error();
     auto keys = openKeys(clock);
     if (!keys) return keys.error();
     const auto started = keys.value()->keyInjector.start();
@@ -90,7 +87,7 @@ class X11Session final : public Session {
     std::unique_ptr<Keys> m_keys;
     std::unique_ptr<Surroundings> m_surroundings;
     X11ScriptDesktop m_scriptDesktop;
-    X11SessionCheck m_sessionCheck{X11SessionCheck::sessionOfProcess()};
+    X11SessionCheck m_sessionCheck{X11SessionCheck::sessionOfProcess(), m_keys != nullptr};
     SessionUse m_use;
     SessionServices m_services = allServices();
 };

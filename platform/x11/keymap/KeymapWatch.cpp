@@ -44,8 +44,6 @@ Result<std::unique_ptr<KeymapWatch>> KeymapWatch::open(const std::string& displa
     if (watch->m_coreDevice < 0) return unreadableKeymap();
     xcb_xkb_select_events(watch->m_connection, XCB_XKB_ID_USE_CORE_KBD, watchedEvents, 0, watchedEvents,
                           watchedParts, watchedParts, nullptr);
-    const auto read = watch->read();
-    if (!read) return read.error();
     return watch;
 }
 
@@ -62,7 +60,12 @@ Result<void> KeymapWatch::read() {
 }
 
 Result<bool> KeymapWatch::refresh(bool thorough) {
-    if (!takeNotices(thorough)) return false;
+    const bool hasNotice = takeNotices(thorough);
+    if (!m_keymap) {
+        const auto read = this->read();
+        return read ? Result<bool>(true) : read.error();
+    }
+    if (!hasNotice) return false;
     auto map = readDeviceMap(m_connection, XCB_XKB_ID_USE_CORE_KBD);
     if (!map) return unreadableKeymap();
     const bool isNew = differ(*map, m_map, m_ownKeys) || readActions(m_connection) != m_actions;

@@ -19,13 +19,15 @@ namespace x11 {
 /// the maps are compared before anything is made anew.
 class KeymapWatch {
   public:
-    /// Fails with a hint where the keymap cannot be read.
+    /// Connects; nothing is read before the first refresh(), since most starts of a program play nothing.
     static Result<std::unique_ptr<KeymapWatch>> open(const std::string& display);
 
-    /// Looks whether the server has told of a change; true if the map was read again, new or not. With
-    /// `thorough` a round trip makes sure that everything up to now is seen.
+    /// Reads the keymap the first time, then looks whether the server has told of a change; true if the map
+    /// was read, new or not. With `thorough` a round trip makes sure that everything up to now is seen. Fails
+    /// with a hint where the keymap cannot be read.
     Result<bool> refresh(bool thorough);
 
+    // Once refresh() has succeeded.
     const Keymap& keymap() const { return *m_keymap; }
     /// Where the keymap types each character.
     const CharacterTable& characters() const { return *m_characters; }

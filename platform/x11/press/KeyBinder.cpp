@@ -218,6 +218,7 @@ bool KeyBinder::write(std::vector<Target>& targets, const KeycodeSet& keys) cons
 void KeyBinder::clearLeftovers() {
     const auto record = m_record.read();
     if (record.empty() || m_record.hasOwner()) return;
+    if (const auto read = m_keymap.refresh(true); !read) return;
     auto targets = this->targets();
     KeycodeSet changed;
     for (Target& target : targets) changed |= emptyRecorded(target.map, record);

@@ -22,6 +22,7 @@ X11SessionCheck::Session X11SessionCheck::sessionOfProcess() {
 }
 
 Result<> X11SessionCheck::version() const {
+    if (m_worksAlready) return {};
     if (m_session.display.empty()) {
         return Error{m_session.waylandDisplay.empty()
                          ? "An X11 session is needed, and this is no desktop session."
@@ -34,6 +35,7 @@ Result<> X11SessionCheck::version() const {
 }
 
 Result<> X11SessionCheck::access() const {
+    if (m_worksAlready) return {};
     const Result<XConnection> connection = XConnection::open(m_session.display);
     if (!connection) return connection.error();
     return Extensions(connection.value()).use({Extension::keyboard, Extension::test});

@@ -7,7 +7,8 @@
 
 namespace x11 {
 
-/// An X11 session, by its server's extensions. Each question opens a connection of its own.
+/// An X11 session, by its server's extensions. Each question opens a connection of its own, unless the answer
+/// is known.
 class X11SessionCheck : public SessionCheck {
   public:
     /// What the environment says of the session; empty where it says nothing.
@@ -19,7 +20,9 @@ class X11SessionCheck : public SessionCheck {
     };
     static Session sessionOfProcess();
 
-    explicit X11SessionCheck(Session session) : m_session(std::move(session)) {}
+    /// `worksAlready` tells that connections have shown all that version() and access() ask for.
+    explicit X11SessionCheck(Session session, bool worksAlready = false)
+        : m_session(std::move(session)), m_worksAlready(worksAlready) {}
 
     /// An X server that is reached and has XInput 2.2.
     Result<> version() const override;
@@ -30,6 +33,7 @@ class X11SessionCheck : public SessionCheck {
 
   private:
     Session m_session;
+    bool m_worksAlready;
 };
 
 }  // namespace x11

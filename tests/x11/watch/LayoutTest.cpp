@@ -3,7 +3,6 @@
 
 #include "platform/KeyCodes.h"
 #include "platform/XkbCodes.h"
-#include "platform/x11/server/X11Check.h"
 #include "platform/x11/watch/X11KeyboardLayout.h"
 #include "x11/watch/X11Test.h"
 
@@ -129,19 +128,6 @@ TEST_F(X11LayoutTest, aCharacterIsWhatTheKeyTypesWithShift) {
     EXPECT_EQ(m_layout.character(18, true, false).value(), "!");
     EXPECT_EQ(m_layout.character(0, false, true).value(), "A");
     EXPECT_EQ(m_layout.character(36, false, false).error().message, "The key ↩ types no character.");
-}
-
-TEST_F(X11LayoutTest, theServerIsFoundUsable) {
-    EXPECT_TRUE(x11::checkX11Access(world().display()));
-    EXPECT_EQ(x11::checkX11Access(":9999").error().message,
-              "The X server of display \":9999\" cannot be reached.");
-}
-
-TEST(X11CheckTest, aMissingExtensionIsNamed) {
-    const XServer server(
-        {"Xvfb", "-screen", "0", "320x200x24", "-nolisten", "tcp", "-noreset", "-extension", "XTEST"});
-    EXPECT_EQ(x11::checkX11Access(server.display()).error().message,
-              "The X server must have the XTEST extension, but it has not.");
 }
 
 }  // namespace
