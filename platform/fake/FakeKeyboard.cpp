@@ -10,10 +10,9 @@ constexpr std::uint32_t escape = 53;
 
 /// The mask that types what the key types with Caps Lock on, once Caps Lock is off.
 std::uint32_t shapeWithoutCapsLock(std::uint32_t keyCode, std::uint32_t held) {
-    if (!fakeus::isLetter(keyCode)) return held;
-    if ((held & modifier::shift) == 0) return held | modifier::capsLock;
-    const std::uint32_t unshifted = held & ~modifier::shift;
-    return unshifted != 0 ? unshifted : modifier::capsLock;
+    constexpr std::uint32_t commands = modifier::control | modifier::option | modifier::command;
+    if (!fakeus::isLetter(keyCode) || (held & commands) != 0) return held;
+    return (held & modifier::shift) == 0 ? modifier::capsLock : modifier::functionKey;
 }
 
 }  // namespace

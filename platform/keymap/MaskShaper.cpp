@@ -52,14 +52,13 @@ class Shaper {
     TypedKey result(bool modifierHeld) const {
         const bool keypad = keycode::isKeypadDigit(m_baseCode);
         const bool digit = keypad && typesTheSame(symbol(unlocked() | m_masks.numLock), m_typed);
-        const std::optional<bool> shift = shiftThatTypesTheSame(digit ? m_masks.numLock : 0);
         TypedKey key{.keyCode = m_keymap.reportedChoosers(m_modifiers) |
                                 (keypad && !digit ? navigationCode() : m_baseCode),
                      .character = asciiOf(m_typed),
                      .modifiers = m_keymap.reported(m_modifiers & commandMask())};
-        const bool typedByBase = !keypad || digit;
-        key.modifiers |= shiftBits(typedByBase ? shift.value_or(shiftHeld()) : shiftHeld(), key.character);
-        if (key.modifiers == 0 && modifierHeld) key.modifiers = modifier::capsLock;
+        const bool keepsShift = keypad ? !digit : key.modifiers != 0;
+        key.modifiers |= keepsShift ? heldShift() : shapeBits(digit ? m_masks.numLock : 0, key.character);
+        if (key.modifiers == 0 && modifierHeld) key.modifiers = modifier::functionKey;
         return key;
     }
 
@@ -90,11 +89,20 @@ class Shaper {
         return std::nullopt;
     }
 
-    std::uint32_t shiftBits(bool shift, char character) const {
-        if (!shift) return 0;
+    /// Shift and Caps Lock, as the character needs them.
+    std::uint32_t shapeBits(xkb_mod_mask_t locks, char character) const {
+        const std::optional<bool> shift = shiftThatTypesTheSame(locks);
+        if (!shift) return heldShift() | (isMadeByCapsLock(locks) ? modifier::capsLock : 0);
+        if (!*shift) return 0;
         const bool byCapsLock = !shiftHeld() && character >= 'A' && character <= 'Z';
         return byCapsLock ? modifier::capsLock : modifier::shift;
     }
+
+    bool isMadeByCapsLock(xkb_mod_mask_t locks) const {
+        return (m_modifiers & m_masks.capsLock) != 0 && types(shiftHeld(), locks | m_masks.capsLock);
+    }
+
+    std::uint32_t heldShift() const { return shiftHeld() ? modifier::shift : 0; }
 
     std::uint32_t navigationCode() const {
         for (const NavigationKey& key : navigationKeys) {

@@ -10,7 +10,7 @@ struct TypedKey {
     std::uint32_t keyCode = 0;
     /// The ASCII character typed, 0 if none.
     char character = 0;
-    /// The mask with which a keyboard without locks types the same with that key code.
+    /// The mask that types the same with that key code when it is played, whatever the locks are then.
     std::uint32_t modifiers = 0;
 
     friend bool operator==(const TypedKey&, const TypedKey&) = default;
@@ -18,11 +18,12 @@ struct TypedKey {
 
 /// The report of a press of `keycode` (XKB) while the real modifiers `modifiers` (held, latched and
 /// locked) and the group `layout` are in force. `modifierHeld` tells whether a modifier key is down: the mask
-/// is not 0 then.
+/// is not 0 then, and where nothing that has a meaning is left in it, it is modifier::functionKey.
 ///
-/// - Shift is added or dropped where Caps Lock turned a letter round; for A to Z Caps Lock itself stands in
-/// for
-///   the Shift that is added. With Control, Alt or Super the combination counts, not the letter.
+/// - With Control, Alt or Super the combination counts, not the letter: Shift is what it is, locks are left
+///   out.
+/// - Otherwise Shift is added or dropped where Caps Lock turned a letter round; for A to Z Caps Lock itself
+///   stands in for the Shift that is added. It also stands where nothing but the lock makes the letter.
 /// - A keypad digit that was typed keeps its code, which always means the digit; without Num Lock the key is
 ///   reported as the navigation key that was typed.
 /// - Level choosers go into the code.

@@ -45,22 +45,29 @@ TEST(MaskShaperTest, withoutLocksTheMaskIsWhatIsHeld) {
 
 TEST(MaskShaperTest, capsLockStandsForTheShiftOfAToZ) {
     check(*namedKeymap("us"), {{xkey::a, xmask::capsLock, {0, 'A', 0x400}},
-                               {xkey::a, xmask::capsLock | xmask::shift, {0, 'a', 0x400}},
+                               {xkey::a, xmask::capsLock | xmask::shift, {0, 'a', 0x800000}},
                                {xkey::one, xmask::capsLock, {18, '1', 0}},
                                {xkey::one, xmask::capsLock | xmask::shift, {18, '!', 0x200}},
-                               {xkey::returnKey, xmask::capsLock, {36, '\r', 0}},
-                               {xkey::a, xmask::capsLock | xmask::control | xmask::shift, {0, 'a', 0x1000}}});
+                               {xkey::returnKey, xmask::capsLock, {36, '\r', 0}}});
+}
+
+TEST(MaskShaperTest, withControlAltOrSuperCapsLockLeavesTheMaskAlone) {
+    check(*namedKeymap("us"), {{xkey::a, xmask::capsLock | xmask::control, {0, 'A', 0x1000}},
+                               {xkey::a, xmask::capsLock | xmask::control | xmask::shift, {0, 'a', 0x1200}},
+                               {xkey::a, xmask::capsLock | xmask::alt, {0, 'A', 0x800}},
+                               {xkey::a, xmask::capsLock | xmask::super | xmask::shift, {0, 'a', 0x300}}});
+    check(*namedKeymap("cz"), {{xkey::two, xmask::capsLock | xmask::control, {19, 0, 0x1000}}});
 }
 
 TEST(MaskShaperTest, otherLettersUnderCapsLockAreShapedByShift) {
     check(*namedKeymap("de"), {{xkey::semicolon, xmask::capsLock, {41, 0, 0x200}},
-                               {xkey::semicolon, xmask::capsLock | xmask::shift, {41, 0, 0x400}}});
+                               {xkey::semicolon, xmask::capsLock | xmask::shift, {41, 0, 0x800000}}});
     check(*namedKeymap("us,ru"), {{xkey::q, xmask::capsLock, {12, 0, 0x200}}, {xkey::q, 0, {12, 0, 0}}}, 1);
 }
 
-TEST(MaskShaperTest, whatNoShiftCanTypeKeepsWhatIsHeld) {
+TEST(MaskShaperTest, whatCapsLockAloneMakesCarriesTheLock) {
     // Caps Lock makes É of the digit row's é, which Shift turns into a digit.
-    check(*namedKeymap("fr"), {{xkey::two, xmask::capsLock, {19, 0, 0}},
+    check(*namedKeymap("fr"), {{xkey::two, xmask::capsLock, {19, 0, 0x400}},
                                {xkey::two, xmask::shift, {19, '2', 0x200}},
                                {xkey::q, xmask::capsLock, {12, 'A', 0x400}}});
 }
@@ -78,7 +85,7 @@ TEST(MaskShaperTest, theKeypadIsWhatWasTyped) {
 }
 
 TEST(MaskShaperTest, aDigitThatShiftTypedWithoutNumLockIsTheDigitAlone) {
-    check(*namedKeymap("us", "keypad:oss"), {{xkey::keypadOne, xmask::shift, {83, '1', 0x400}}});
+    check(*namedKeymap("us", "keypad:oss"), {{xkey::keypadOne, xmask::shift, {83, '1', 0x800000}}});
 }
 
 TEST(MaskShaperTest, levelChoosersGoIntoTheCode) {

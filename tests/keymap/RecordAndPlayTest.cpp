@@ -60,6 +60,12 @@ class RecordAndPlayTest : public testing::TestWithParam<Layout> {
         }
     }
 
+    /// A symbol as the character that it types, as far as it types one.
+    static std::uint32_t nameOf(xkb_keysym_t symbol) {
+        const std::uint32_t character = xkb_keysym_to_utf32(symbol);
+        return character != 0 ? character : symbol;
+    }
+
     std::unique_ptr<Keymap> m_keymap = namedKeymap(GetParam().name, GetParam().options);
 
   private:
@@ -83,15 +89,34 @@ TEST_P(RecordAndPlayTest, everyKeyAndLevelIsPressedAsItWasTyped) {
     });
 }
 
-TEST_P(RecordAndPlayTest, aCapitalLetterOfCapsLockIsTypedByItsStroke) {
+TEST_P(RecordAndPlayTest, underCapsLockWhatWasTypedIsTypedAgain) {
     const xkb_mod_mask_t capsLock = m_keymap->masks().capsLock;
     forEachKey([&](std::uint8_t key, xkb_layout_index_t layout) {
-        const xkb_keysym_t symbol = m_keymap->symbol(key, capsLock, layout);
-        if (symbol < XKB_KEY_A || symbol > XKB_KEY_Z) return;
-        const auto stroke = played(key, capsLock, layout);
-        ASSERT_TRUE(stroke) << stroke.error().message;
-        const Stroke& pressed = stroke.value();
-        EXPECT_EQ(m_keymap->symbol(pressed.keycode, pressed.modifiers | pressed.lockValues, layout), symbol);
+        if (keycode::isKeypadDigit(keycode::fromEvdev(xkbcode::toEvdev(key)))) return;
+        for (const xkb_mod_mask_t chooser : choosers()) {
+            const xkb_keysym_t symbol = m_keymap->symbol(key, chooser | capsLock, layout);
+            const auto stroke = played(key, chooser | capsLock, layout);
+            ASSERT_TRUE(stroke) << stroke.error().message;
+            const Stroke& pressed = stroke.value();
+            EXPECT_EQ(pressed.keycode, key);
+            EXPECT_EQ(nameOf(m_keymap->symbol(key, pressed.modifiers | pressed.lockValues, layout)),
+                      nameOf(symbol));
+        }
+    });
+}
+
+TEST_P(RecordAndPlayTest, aCombinationUnderCapsLockIsTheSameCombination) {
+    const xkb_mod_mask_t capsLock = m_keymap->masks().capsLock;
+    forEachKey([&](std::uint8_t key, xkb_layout_index_t layout) {
+        if (keycode::isKeypadDigit(keycode::fromEvdev(xkbcode::toEvdev(key)))) return;
+        for (const xkb_mod_mask_t chooser : choosers()) {
+            for (const xkb_mod_mask_t command : commands()) {
+                if (command == 0) continue;
+                const auto stroke = played(key, chooser | command | capsLock, layout);
+                ASSERT_TRUE(stroke) << stroke.error().message;
+                EXPECT_EQ(stroke.value(), (Stroke{.keycode = key, .modifiers = chooser | command}));
+            }
+        }
     });
 }
 

@@ -40,6 +40,7 @@ inline constexpr std::uint8_t escape = 9;
 inline constexpr std::uint8_t one = 10;
 inline constexpr std::uint8_t two = 11;
 inline constexpr std::uint8_t seven = 16;
+inline constexpr std::uint8_t nine = 18;
 inline constexpr std::uint8_t q = 24;
 inline constexpr std::uint8_t r = 27;
 inline constexpr std::uint8_t p = 33;
