@@ -4,6 +4,7 @@
 #include <utility>
 
 Result<void> FakeEventMonitor::install(Handler handler) {
+    m_journal.note("installMonitor");
     if (m_nextError) return *std::exchange(m_nextError, std::nullopt);
     m_handler = std::move(handler);
     return {};

@@ -6,11 +6,12 @@
 
 #include "platform/EventMonitor.h"
 #include "platform/fake/FakeDesktop.h"
+#include "platform/fake/Journal.h"
 
 /// Delivers what the fake keyboard tells it.
 class FakeEventMonitor : public EventMonitor {
   public:
-    explicit FakeEventMonitor(FakeDesktop& desktop) : m_desktop(desktop) {}
+    FakeEventMonitor(Journal& journal, FakeDesktop& desktop) : m_journal(journal), m_desktop(desktop) {}
 
     Result<void> install(Handler handler) override;
     void setWithheld(bool withheld) override { m_desktop.setWithheld(withheld); }
@@ -34,6 +35,7 @@ class FakeEventMonitor : public EventMonitor {
     void deliver(const KeyEvent& event) const;
     void deliverModifiers(std::uint32_t mask) const;
 
+    Journal& m_journal;
     FakeDesktop& m_desktop;
     Handler m_handler;
     bool m_keepsOwnStrokes = false;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/fake/FakeHotKeys.h"
 
-#include <sstream>
-
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
 #include "platform/fake/FakeUsKeys.h"
@@ -13,22 +11,17 @@ namespace {
 constexpr std::uint32_t combinationMask =
     modifier::command | modifier::shift | modifier::option | modifier::control;
 
-std::string describe(const HotKeyRequest& request) {
-    std::ostringstream text;
-    text << "request " << request.id << ' ' << static_cast<std::int32_t>(request.keyCode) << " 0x" << std::hex
-         << request.modifiers;
-    return text.str();
-}
-
 }  // namespace
 
 void FakeHotKeys::install(Handler pressed, Handler released) {
+    m_journal.note("installHotKeys");
     m_pressed = std::move(pressed);
     m_released = std::move(released);
 }
 
 void FakeHotKeys::request(const HotKeyRequest& request) {
-    m_calls.push_back(describe(request));
+    m_journal.note("request", request.id, request.name, static_cast<std::int32_t>(request.keyCode),
+                   Journal::mask(request.modifiers));
     m_rows.erase(request.id);
     HotKeyState state = answer(request);
     m_rows[request.id] = {request, state};
@@ -55,7 +48,7 @@ HotKeyState FakeHotKeys::answer(const HotKeyRequest& request) {
 }
 
 void FakeHotKeys::withdraw(HotKeyId id) {
-    m_calls.push_back("withdraw " + std::to_string(id));
+    m_journal.note("withdraw", id);
     const auto row = m_rows.find(id);
     if (row == m_rows.end()) return;
     const bool changes = row->second.state.status != HotKeyStatus::unset;

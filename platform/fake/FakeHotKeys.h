@@ -7,15 +7,16 @@
 #include <set>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "platform/HotKeys.h"
 #include "platform/fake/FakeDesktop.h"
+#include "platform/fake/Journal.h"
 
 /// Hot keys on the fake keyboard; answers at once.
 class FakeHotKeys : public HotKeys {
   public:
-    FakeHotKeys(FakeDesktop& desktop, const Clock& clock) : m_desktop(desktop), m_clock(clock) {}
+    FakeHotKeys(Journal& journal, FakeDesktop& desktop, const Clock& clock)
+        : m_journal(journal), m_desktop(desktop), m_clock(clock) {}
 
     void install(Handler pressed, Handler released) override;
     void observe(Observer observer) override { m_observer = std::move(observer); }
@@ -30,8 +31,6 @@ class FakeHotKeys : public HotKeys {
     void failNextCall(const Error& error) { m_nextError = error; }
     /// What is registered, by id: key code and modifiers as asked for.
     std::map<HotKeyId, std::pair<std::uint32_t, std::uint32_t>> registered() const;
-    /// Every call in order: "request 3 35 0x1100", "withdraw 3".
-    const std::vector<std::string>& calls() const { return m_calls; }
 
     /// The user presses a key that was up: whether a hot key, ours or another program's, takes it.
     bool takesPress(std::uint32_t keyCode, std::uint32_t heldModifiers);
@@ -51,6 +50,7 @@ class FakeHotKeys : public HotKeys {
     const Row* holderOf(const Combination& combination) const;
     void fire(const Row& row);
 
+    Journal& m_journal;
     FakeDesktop& m_desktop;
     const Clock& m_clock;
     Handler m_pressed;
@@ -62,5 +62,4 @@ class FakeHotKeys : public HotKeys {
     std::map<std::uint32_t, std::optional<HotKeyId>> m_held;
     std::uint32_t m_lastPressTime = 0;
     std::optional<Error> m_nextError;
-    std::vector<std::string> m_calls;
 };

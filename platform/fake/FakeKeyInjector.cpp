@@ -65,7 +65,7 @@ class FakeKeyInjector::Session : public InjectionSession {
 
 FakeKeyInjector::Session::~Session() {
     for (auto held = m_held.rbegin(); held != m_held.rend(); ++held) {
-        m_injector.m_posted.push_back("up" + *held);
+        m_injector.post("up" + *held);
     }
     m_injector.m_open = false;
 }
@@ -79,7 +79,7 @@ Step<> FakeKeyInjector::Session::goOn() {
 
 Step<> FakeKeyInjector::Session::press(const std::string& step) {
     if (!m_run) m_run.emplace(m_injector.m_desktop);
-    m_injector.m_posted.push_back(step);
+    m_injector.post(step);
     return {};
 }
 
@@ -124,7 +124,7 @@ Step<> FakeKeyInjector::Session::pause(double seconds) {
     std::ostringstream step;
     step.imbue(std::locale::classic());
     step << "pause " << seconds;
-    m_injector.m_posted.push_back(step.str());
+    m_injector.post(step.str());
     m_injector.m_clock.sleepFor(Clock::Seconds(seconds));
     return m_injector.isCancelled() ? halt(Halt::cancelled()) : Step<>();
 }
@@ -133,4 +133,9 @@ Result<std::unique_ptr<InjectionSession>> FakeKeyInjector::open(const InjectionP
     if (m_nextError) return *std::exchange(m_nextError, std::nullopt);
     if (m_open) return Error{"A script is running already.", "Wait for its end."};
     return std::unique_ptr<InjectionSession>(std::make_unique<Session>(*this));
+}
+
+void FakeKeyInjector::post(const std::string& step) {
+    m_journal.note("press", step);
+    m_posted.push_back(step);
 }

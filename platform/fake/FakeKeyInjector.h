@@ -9,18 +9,19 @@
 #include "platform/fake/FakeClock.h"
 #include "platform/fake/FakeDesktop.h"
 #include "platform/fake/FakeKeyboard.h"
+#include "platform/fake/Journal.h"
 
 /// Writes down what is pressed instead of pressing it.
 class FakeKeyInjector : public KeyInjector {
   public:
-    FakeKeyInjector(FakeDesktop& desktop, FakeKeyboard& keyboard, FakeClock& clock)
-        : m_desktop(desktop), m_keyboard(keyboard), m_clock(clock) {}
+    FakeKeyInjector(Journal& journal, FakeDesktop& desktop, FakeKeyboard& keyboard, FakeClock& clock)
+        : m_journal(journal), m_desktop(desktop), m_keyboard(keyboard), m_clock(clock) {}
 
     Result<std::unique_ptr<InjectionSession>> open(const InjectionPlan& plan) override;
     void startPlayback() override { m_desktop.startPlayback(); }
     bool isCancelled() override { return m_desktop.isCancelled(); }
     void stopPlayback() override { m_desktop.cancelPlayback(); }
-    void rest() override { m_posted.emplace_back("rest"); }
+    void rest() override { post("rest"); }
 
     /// Everything that was pressed, one step each: "key 36 command shift", "text hello", "down shift",
     /// "up 36", "pause 0.5", "rest". Modifiers come in the order command, control, option, shift.
@@ -33,6 +34,9 @@ class FakeKeyInjector : public KeyInjector {
   private:
     class Session;
 
+    void post(const std::string& step);
+
+    Journal& m_journal;
     FakeDesktop& m_desktop;
     FakeKeyboard& m_keyboard;
     FakeClock& m_clock;

@@ -8,6 +8,7 @@ LoginItems::State FakeLoginItems::state() const {
 }
 
 Result<> FakeLoginItems::install(bool enable) {
+    m_journal.note("installLoginItem", enable);
     if (const auto error = m_nextError.take()) return *error;
     ++m_installs;
     if (state() == State::hiddenByUser) return {};

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/LoginItems.h"
+#include "platform/fake/Journal.h"
 #include "platform/fake/NextError.h"
 
 /// The desktop's list of programs to start, with at most one entry of this program.
@@ -19,6 +20,8 @@ class FakeLoginItems : public LoginItems {
     /// Where this program lies.
     static constexpr const char* programPath = "/opt/keyrill/bin/keyrill";
 
+    explicit FakeLoginItems(Journal& journal) : m_journal(journal) {}
+
     State state() const override;
     Result<> install(bool enable) override;
 
@@ -33,6 +36,7 @@ class FakeLoginItems : public LoginItems {
     int installs() const { return m_installs; }
 
   private:
+    Journal& m_journal;
     std::optional<Entry> m_entry;
     NextError m_nextError;
     int m_installs = 0;

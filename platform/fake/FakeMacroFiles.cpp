@@ -4,11 +4,13 @@
 #include "platform/AsciiText.h"
 
 std::string FakeMacroFiles::prepareFolder() {
+    m_journal.note("prepareFolder");
     ++m_preparations;
     return folder;
 }
 
 Result<std::string> FakeMacroFiles::read(const std::string& path) const {
+    m_journal.note("readFile", path);
     if (const auto error = m_nextError.take()) return *error;
     const auto file = m_files.find(path);
     if (file == m_files.end()) {
@@ -19,6 +21,7 @@ Result<std::string> FakeMacroFiles::read(const std::string& path) const {
 }
 
 Result<> FakeMacroFiles::write(const std::string& path, std::string_view text) {
+    m_journal.note("writeFile", path, text);
     if (const auto error = m_nextError.take()) return *error;
     Result<> ascii = checkAscii(text);
     if (ascii) m_files[path] = text;

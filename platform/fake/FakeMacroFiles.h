@@ -5,12 +5,15 @@
 #include <string>
 
 #include "platform/MacroFiles.h"
+#include "platform/fake/Journal.h"
 #include "platform/fake/NextError.h"
 
 /// Files in memory. Their texts are UTF-8.
 class FakeMacroFiles : public MacroFiles {
   public:
     static constexpr const char* folder = "/home/user/.local/share/keyrill";
+
+    explicit FakeMacroFiles(Journal& journal) : m_journal(journal) {}
 
     std::string prepareFolder() override;
     Result<std::string> read(const std::string& path) const override;
@@ -26,6 +29,7 @@ class FakeMacroFiles : public MacroFiles {
     void failNextCall(const Error& error) { m_nextError.set(error); }
 
   private:
+    Journal& m_journal;
     std::map<std::string, std::string> m_files;
     int m_preparations = 0;
     mutable NextError m_nextError;

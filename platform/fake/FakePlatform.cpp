@@ -3,11 +3,11 @@
 
 FakePlatform::FakePlatform()
     : desktop(clock),
-      eventMonitor(desktop),
-      hotKeys(desktop, clock),
+      eventMonitor(journal, desktop),
+      hotKeys(journal, desktop, clock),
       keyboard(desktop, eventMonitor, hotKeys),
-      keyInjector(desktop, keyboard, clock),
-      scripting(desktop),
+      keyInjector(journal, desktop, keyboard, clock),
+      scripting(journal, desktop),
       screenLock(desktop),
       services(servicesWith(keyboardLayout)) {}
 

@@ -19,6 +19,7 @@
 #include "platform/fake/FakeSystemFacts.h"
 #include "platform/fake/FakeUpdateService.h"
 #include "platform/fake/FakeWorkspace.h"
+#include "platform/fake/Journal.h"
 
 /// One of each fake service, joined as on a real desktop. Not installed: see ServicesScope.
 struct FakePlatform {
@@ -29,6 +30,8 @@ struct FakePlatform {
     /// The same services with another layout.
     Services servicesWith(KeyboardLayout& layout);
 
+    /// What was asked of all of them.
+    Journal journal;
     FakeClock clock;
     FakeDesktop desktop;
     FakeEventMonitor eventMonitor;
@@ -37,14 +40,14 @@ struct FakePlatform {
     FakeKeyboardLayout keyboardLayout;
     FakeKeyInjector keyInjector;
     FakeScriptingService scripting;
-    FakeSettingsStore settings;
-    FakeLoginItems loginItems;
-    FakeWorkspace workspace;
+    FakeSettingsStore settings{journal};
+    FakeLoginItems loginItems{journal};
+    FakeWorkspace workspace{journal};
     FakeSystemFacts systemFacts;
-    FakeUpdateService updateService;
-    FakeMacroFiles macroFiles;
-    FakeNotifications notifications;
+    FakeUpdateService updateService{journal};
+    FakeMacroFiles macroFiles{journal};
+    FakeNotifications notifications{journal};
     FakeScreenLock screenLock;
-    FakeSessionCheck sessionCheck;
+    FakeSessionCheck sessionCheck{journal};
     Services services;
 };

@@ -9,11 +9,12 @@
 #include "platform/Result.h"
 #include "platform/ScriptingService.h"
 #include "platform/fake/FakeDesktop.h"
+#include "platform/fake/Journal.h"
 
 /// Remembers the texts that it is given to run and lets a test act while one runs.
 class FakeScriptingService : public ScriptingService {
   public:
-    explicit FakeScriptingService(FakeDesktop& desktop) : m_desktop(desktop) {}
+    FakeScriptingService(Journal& journal, FakeDesktop& desktop) : m_journal(journal), m_desktop(desktop) {}
 
     void startPlayback() override;
     void run(const std::string& source) override;
@@ -28,6 +29,7 @@ class FakeScriptingService : public ScriptingService {
     void failNextCall(const Error& error) { m_nextError = error; }
 
   private:
+    Journal& m_journal;
     FakeDesktop& m_desktop;
     std::vector<std::string> m_runs;
     int m_playbacksStarted = 0;

@@ -5,12 +5,21 @@
 #include <utility>
 
 #include "platform/SessionCheck.h"
+#include "platform/fake/Journal.h"
 
 /// A session in which all is well until a test says otherwise.
 class FakeSessionCheck : public SessionCheck {
   public:
-    Result<> version() const override { return resultOf(m_versionError); }
-    Result<> access() const override { return resultOf(m_accessError); }
+    explicit FakeSessionCheck(Journal& journal) : m_journal(journal) {}
+
+    Result<> version() const override {
+        m_journal.note("checkVersion");
+        return resultOf(m_versionError);
+    }
+    Result<> access() const override {
+        m_journal.note("checkAccess");
+        return resultOf(m_accessError);
+    }
     bool seesOnlySomeWindows() const override { return m_seesOnlySomeWindows; }
 
     /// From now on.
@@ -23,6 +32,7 @@ class FakeSessionCheck : public SessionCheck {
         return error ? Result<>(*error) : Result<>();
     }
 
+    Journal& m_journal;
     std::optional<Error> m_versionError;
     std::optional<Error> m_accessError;
     bool m_seesOnlySomeWindows = false;

@@ -6,14 +6,17 @@
 #include <vector>
 
 #include "platform/SettingsStore.h"
+#include "platform/fake/Journal.h"
 #include "platform/fake/NextError.h"
 
 /// Settings in memory: what the program has set, and what of it is stored.
 class FakeSettingsStore : public SettingsStore {
   public:
+    explicit FakeSettingsStore(Journal& journal) : m_journal(journal) {}
+
     std::optional<std::int64_t> integer(const std::string& key) const override;
     void setInteger(const std::string& key, std::int64_t value) override;
-    void setBool(const std::string& key, bool value) override { setInteger(key, value ? 1 : 0); }
+    void setBool(const std::string& key, bool value) override;
     Result<> synchronize() override;
     std::optional<Error> takeFault() override;
 
@@ -33,6 +36,10 @@ class FakeSettingsStore : public SettingsStore {
     void addFault(const Error& fault) { m_faults.push_back(fault); }
 
   private:
+    void set(const std::string& key, std::int64_t value);
+    Result<> store();
+
+    Journal& m_journal;
     std::map<std::string, std::int64_t> m_values;
     std::map<std::string, std::int64_t> m_stored;
     std::vector<std::string> m_keysSet;

@@ -5,13 +5,16 @@
 #include <vector>
 
 #include "platform/Workspace.h"
+#include "platform/fake/Journal.h"
 #include "platform/fake/NextError.h"
 
 /// Remembers what it was given to open.
 class FakeWorkspace : public Workspace {
   public:
-    Result<> openUrl(std::string_view url) override { return open(m_openedUrls, url); }
-    Result<> openFile(std::string_view path) override { return open(m_openedFiles, path); }
+    explicit FakeWorkspace(Journal& journal) : m_journal(journal) {}
+
+    Result<> openUrl(std::string_view url) override;
+    Result<> openFile(std::string_view path) override;
 
     /// In order, without those that failed.
     const std::vector<std::string>& openedUrls() const { return m_openedUrls; }
@@ -21,6 +24,7 @@ class FakeWorkspace : public Workspace {
   private:
     Result<> open(std::vector<std::string>& opened, std::string_view text);
 
+    Journal& m_journal;
     std::vector<std::string> m_openedUrls;
     std::vector<std::string> m_openedFiles;
     NextError m_nextError;

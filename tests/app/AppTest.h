@@ -16,7 +16,10 @@
 /// A status item that remembers what it shows.
 class FakeStatusItem : public StatusItem {
   public:
+    explicit FakeStatusItem(Journal& journal) : m_journal(journal) {}
+
     void show(QMenu& menu, StatusImage image) override {
+        m_journal.note("showStatusItem");
         shownMenu = &menu;
         shownImage = image;
     }
@@ -30,19 +33,28 @@ class FakeStatusItem : public StatusItem {
     std::string shownNotice;
     QWidget* standIn = nullptr;
     int windowRequests = 0;
+
+  private:
+    Journal& m_journal;
 };
 
-/// A window system that remembers what it is asked for: "activate 77", "await hidden", "await".
+/// A window system that remembers what it is asked for: "activate(77)", "awaitFocusElsewhere(hidden)",
+/// "awaitFocusElsewhere(none)".
 class FakeWindows : public Windows {
   public:
+    explicit FakeWindows(Journal& journal) : m_journal(journal) {}
+
     void activate(WindowId /*window*/, std::uint32_t userTime) override {
-        calls.push_back("activate " + std::to_string(userTime));
+        m_journal.note("activate", userTime);
     }
     void awaitFocusElsewhere(WindowId hidden) override {
-        calls.emplace_back(hidden == none ? "await" : "await hidden");
+        m_journal.note("awaitFocusElsewhere", Journal::Word{hidden == none ? "none" : "hidden"});
     }
 
-    std::vector<std::string> calls;
+    Journal::Lines calls() const { return m_journal.of({"activate", "awaitFocusElsewhere"}); }
+
+  private:
+    Journal& m_journal;
 };
 
 /// The controller on the fake platform, its windows on a screen in memory.
@@ -60,8 +72,8 @@ class AppTest : public EngineTest {
     /// Whether a running fade started from nothing.
     static bool isFadingIn(const QWidget& window);
 
-    FakeStatusItem statusItem;
-    FakeWindows windows;
-    FakeDialogs dialogs;
+    FakeStatusItem statusItem{platform().journal};
+    FakeWindows windows{platform().journal};
+    FakeDialogs dialogs{platform().journal};
     AppController controller;
 };

@@ -4,6 +4,7 @@
 #include <utility>
 
 AlertAnswer FakeDialogs::runAlert(const AlertText& text) {
+    m_journal.note("runAlert", text.title.toStdString());
     alerts.push_back(text);
     happen();
     if (m_answers.empty()) return AlertAnswer::alternateButton;
@@ -13,6 +14,7 @@ AlertAnswer FakeDialogs::runAlert(const AlertText& text) {
 }
 
 void FakeDialogs::beginSheet(QWidget& panel, const AlertText& text, DidEnd didEnd) {
+    m_journal.note("beginSheet", text.title.toStdString());
     sheets.push_back({&panel, text});
     m_didEnd = std::move(didEnd);
 }
@@ -22,16 +24,19 @@ void FakeDialogs::endSheet(AlertAnswer answer) {
 }
 
 QString FakeDialogs::runSavePanel(const QString& folder) {
+    m_journal.note("runSavePanel", folder.toStdString());
     filePanels.push_back(QStringLiteral("save ") + folder);
     return takeFile();
 }
 
 QString FakeDialogs::runOpenPanel(const QString& folder) {
+    m_journal.note("runOpenPanel", folder.toStdString());
     filePanels.push_back(QStringLiteral("open ") + folder);
     return takeFile();
 }
 
 std::optional<ScriptAnswer> FakeDialogs::runScriptDialog(const ScriptDialog& dialog) {
+    m_journal.note("runScriptDialog", dialog.text);
     scriptTexts.push_back(dialog.text);
     happen();
     if (m_scriptAnswers.empty()) return std::nullopt;

@@ -6,11 +6,14 @@
 #include <vector>
 
 #include "app/dialogs/Dialogs.h"
+#include "platform/fake/Journal.h"
 
 /// Answers questions with what a test has queued and remembers them. A question without a queued answer is
 /// cancelled: alternate button, no file, no answer.
 class FakeDialogs : public Dialogs {
   public:
+    explicit FakeDialogs(Journal& journal) : m_journal(journal) {}
+
     AlertAnswer runAlert(const AlertText& text) override;
     void beginSheet(QWidget& panel, const AlertText& text, DidEnd didEnd) override;
     QString runSavePanel(const QString& folder) override;
@@ -41,6 +44,7 @@ class FakeDialogs : public Dialogs {
     QString takeFile();
     void happen() const;
 
+    Journal& m_journal;
     std::queue<AlertAnswer> m_answers;
     std::queue<QString> m_files;
     std::queue<ScriptAnswer> m_scriptAnswers;

@@ -12,6 +12,8 @@
 #include "platform/Services.h"
 #include "platform/fake/FakePlatform.h"
 #include "prefs/PreferenceManager.h"
+#include "prefs/Settings.h"
+#include "prefs/Shortcuts.h"
 
 /// The engine on the fake platform, with all state of the process fresh before and after.
 class EngineTest : public testing::Test {
@@ -36,6 +38,19 @@ class EngineTest : public testing::Test {
 
     /// All texts that were run, in order.
     const std::vector<std::string>& runs() const { return m_platform.scripting.runs(); }
+
+    /// What was asked of the hot keys, in order.
+    Journal::Lines hotKeyCalls() const { return m_platform.journal.of({"request", "withdraw"}); }
+
+    /// What puts a shortcut's hot key in place of the one that it had; the combination in `modifier` bits.
+    static void noteRegistration(Journal& journal, const ShortcutRow& row, KeyCombo hotKey) {
+        journal.note("withdraw", row.id);
+        journal.note("request", row.id, row.name, hotKey.code, Journal::mask(hotKey.flags));
+    }
+    /// As the program comes with it, in `modifier` bits.
+    static KeyCombo presetHotKey(const ShortcutRow& row) {
+        return {.flags = hotKeyFlags(row.preset.flags), .code = row.preset.code};
+    }
 
     /// The preference table is marked, so that the next clearMarks() is seen.
     static void markTable() { utils::PreferenceManager::setMarked("record", true); }

@@ -14,7 +14,7 @@ class HotKeyCenterTest : public EngineTest {
 
     HotKeyStatus status(HotKeyId id) { return platform().hotKeys.state(id).status; }
 
-    FakeController gui;
+    FakeController gui{platform().journal};
 
   private:
     SharedControllerScope m_scope{gui};
@@ -35,21 +35,21 @@ TEST_F(HotKeyCenterTest, withdrawsAndRequestsEachRowInOrder) {
     setHotKey("stop", 1, modifier::functionKey | modifier::shift);
     setHotKey("play", 0, 0);
     registerHotKeys();
-    const std::map<HotKeyId, std::string> requests = {{1, "15 0x1100"}, {2, "1 0x800200"}, {3, "0 0x0"}};
-    Calls expected;
+    const std::map<HotKeyId, KeyCombo> requested = {{1, {.flags = 0x1100, .code = 15}},
+                                                    {2, {.flags = 0x800200, .code = 1}},
+                                                    {3, {.flags = 0, .code = 0}}};
+    Journal expected;
     for (const ShortcutRow& row : shortcutRows) {
-        const std::string id = std::to_string(row.id);
-        const auto request = requests.find(row.id);
-        expected.push_back("withdraw " + id);
-        expected.push_back("request " + id + ' ' + (request != requests.end() ? request->second : "-1 0x0"));
+        const auto hotKey = requested.find(row.id);
+        noteRegistration(expected, row, hotKey != requested.end() ? hotKey->second : KeyCombo());
     }
-    EXPECT_EQ(platform().hotKeys.calls(), expected);
+    EXPECT_EQ(hotKeyCalls(), expected.lines());
 }
 
 TEST_F(HotKeyCenterTest, widensTheCodeWithItsSign) {
     setHotKey("record", -2, 0);
     registerHotKeys();
-    EXPECT_EQ(platform().hotKeys.calls()[1], "request 1 -2 0x0");
+    EXPECT_EQ(hotKeyCalls()[1], R"(request(1, "record", -2, 0x0))");
 }
 
 TEST_F(HotKeyCenterTest, namesThatAreMissingComeIntoTheTable) {
@@ -110,7 +110,8 @@ TEST_F(HotKeyCenterTest, recordAndMultiplePlayActOnPressAndStopToo) {
     onHotKeyPressed(1);
     onHotKeyPressed(2);
     onHotKeyPressed(4);
-    EXPECT_EQ(gui.messages(), (Messages{"showRecordingGui", "hideRecordingGui", "showMultiplePlayGui"}));
+    EXPECT_EQ(gui.messages(),
+              (Messages{"showRecordingGui()", "hideRecordingGui()", "showMultiplePlayGui()"}));
 }
 
 TEST_F(HotKeyCenterTest, playActsOnRelease) {

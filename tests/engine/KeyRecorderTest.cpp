@@ -18,7 +18,7 @@ class KeyRecorderTest : public EngineTest {
     }
     std::string recorded() { return state().recordingMacro->fullDisplayText(); }
 
-    FakeController gui;
+    FakeController gui{platform().journal};
 
   private:
     SharedControllerScope m_scope{gui};
@@ -29,7 +29,8 @@ TEST_F(KeyRecorderTest, recordsAKeyPressAndShowsTheMacro) {
     keyGoesDown(36, '\r');
     keyGoesDown(18, '1');
     EXPECT_EQ(recorded(), "↩1");
-    EXPECT_EQ(gui.messages(), (FakeController::Messages{"setMacroString ↩", "setMacroString ↩1"}));
+    EXPECT_EQ(gui.messages(),
+              (FakeController::Messages{R"(setMacroString("↩"))", R"(setMacroString("↩1"))"}));
 }
 
 TEST_F(KeyRecorderTest, namesASmallLetterSmall) {

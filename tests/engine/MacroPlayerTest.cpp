@@ -12,7 +12,7 @@ class MacroPlayerTest : public EngineTest {
 
     static void record(std::uint32_t keyCode) { handleKeyEvent({KeyEventKind::keyDown, keyCode, 0, 0}); }
 
-    FakeController gui;
+    FakeController gui{platform().journal};
 
   private:
     SharedControllerScope m_scope{gui};
@@ -24,7 +24,7 @@ TEST_F(MacroPlayerTest, aRecordingStartsWithANewNumberedMacro) {
     ASSERT_NE(state().recordingMacro, nullptr);
     EXPECT_EQ(state().recordingMacro, MacroManager::macro(1));
     EXPECT_TRUE(state().recordingMacro->isEmpty());
-    EXPECT_EQ(gui.messages(), Messages{"showRecordingGui"});
+    EXPECT_EQ(gui.messages(), Messages{"showRecordingGui()"});
 }
 
 TEST_F(MacroPlayerTest, theSecondRecordEndsTheRecording) {
@@ -34,8 +34,8 @@ TEST_F(MacroPlayerTest, theSecondRecordEndsTheRecording) {
     EXPECT_FALSE(state().recording);
     EXPECT_EQ(state().recordingMacro, nullptr);
     EXPECT_EQ(state().currentMacro, MacroManager::macro(1));
-    EXPECT_EQ(gui.messages(),
-              (Messages{"showRecordingGui", "setMacroString ↩", "addMacro ↩", "hideRecordingGui"}));
+    EXPECT_EQ(gui.messages(), (Messages{"showRecordingGui()", R"(setMacroString("↩"))", R"(addMacro("↩"))",
+                                        "hideRecordingGui()"}));
 }
 
 TEST_F(MacroPlayerTest, stopFilesTheMacroAsTheCurrentOne) {
@@ -55,7 +55,7 @@ TEST_F(MacroPlayerTest, anEmptyRecordingIsDroppedAndKeepsItsNumber) {
     stopRecording();
     EXPECT_EQ(state().currentMacro, before);
     EXPECT_EQ(state().recordingMacro, nullptr);
-    EXPECT_EQ(gui.messages(), (Messages{"showRecordingGui", "hideRecordingGui"}));
+    EXPECT_EQ(gui.messages(), (Messages{"showRecordingGui()", "hideRecordingGui()"}));
     toggleRecording();
     EXPECT_EQ(state().recordingMacro->macroId(), 3);
 }
@@ -78,7 +78,7 @@ TEST_F(MacroPlayerTest, commandsClearTheMarks) {
 TEST_F(MacroPlayerTest, multiplePlayAsksAndDoesNotPlay) {
     state().currentMacro = macroWithScript("beep");
     promptMultiplePlay();
-    EXPECT_EQ(gui.messages(), Messages{"showMultiplePlayGui"});
+    EXPECT_EQ(gui.messages(), Messages{"showMultiplePlayGui()"});
     EXPECT_EQ(runs().size(), 0U);
 }
 
@@ -88,7 +88,7 @@ TEST_F(MacroPlayerTest, aCancelledRecordingRecordsNothing) {
     record(36);
     EXPECT_TRUE(state().recording);
     EXPECT_EQ(state().recordingMacro, nullptr);
-    EXPECT_EQ(gui.messages(), Messages{"showRecordingGui"});
+    EXPECT_EQ(gui.messages(), Messages{"showRecordingGui()"});
 }
 
 TEST_F(MacroPlayerTest, stopEndsACancelledRecordingAsAnEmptyOne) {
@@ -99,7 +99,7 @@ TEST_F(MacroPlayerTest, stopEndsACancelledRecordingAsAnEmptyOne) {
     stopRecording();
     EXPECT_FALSE(state().recording);
     EXPECT_EQ(state().currentMacro, before);
-    EXPECT_EQ(gui.messages(), (Messages{"showRecordingGui", "hideRecordingGui"}));
+    EXPECT_EQ(gui.messages(), (Messages{"showRecordingGui()", "hideRecordingGui()"}));
 }
 
 TEST_F(MacroPlayerTest, recordEndsACancelledRecordingAndTheNextOneStartsAfresh) {

@@ -9,7 +9,7 @@ class SaveDelayTest : public EngineTest {
     void passes(double seconds) { platform().clock.advance(Clock::Seconds(seconds)); }
     std::string script() { return state().recordingMacro->script(); }
 
-    FakeController gui;
+    FakeController gui{platform().journal};
 
   private:
     SharedControllerScope m_scope{gui};

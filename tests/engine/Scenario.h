@@ -114,7 +114,7 @@ class Scenario : public EngineTest {
     bool isRecording() { return state().recording; }
     std::string currentMacro() { return state().currentMacro ? state().currentMacro->displayText() : "none"; }
 
-    FakeController gui;
+    FakeController gui{platform().journal};
     User user{platform()};
     Menu menu{platform()};
     Prompt prompt{platform()};

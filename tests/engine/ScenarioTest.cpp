@@ -155,7 +155,7 @@ TEST_F(ScenarioTest, theStrokesOfAnyOtherPlayAreNot) {
 
 TEST_F(ScenarioTest, aMacroMayPlayAHotKeyAndFiresNothing) {
     recordTyping("a");
-    gui.takeMessages();
+    platform().journal.clear();
     platform().scripting.duringEachRun(
         [this] { platform().keyboard.scriptStrikes(key::r, modifier::control | modifier::command); });
     user.strikesPlay();
@@ -247,7 +247,7 @@ TEST_F(ScenarioTest, aLongRecordingHasAShortTitleAndAFullOverlay) {
 
 TEST_F(ScenarioTest, whilePreferencesAreOpenHotKeysAreSwallowedAndTheMenuWorks) {
     recordTyping("a");
-    gui.takeMessages();
+    platform().journal.clear();
     state().hotKeysEnabled = false;
     user.strikesRecord();
     user.strikesStop();
@@ -278,7 +278,7 @@ TEST_F(ScenarioTest, savingPreferencesWithoutChangesRegistersAllFourAgain) {
     registerHotKeys();
     EXPECT_EQ(before.size(), 4U);
     EXPECT_EQ(platform().hotKeys.registered(), before);
-    EXPECT_EQ(platform().hotKeys.calls().size(), 4 * shortcutRows.size());
+    EXPECT_EQ(hotKeyCalls().size(), 4 * shortcutRows.size());
     user.strikesRecord();
     EXPECT_TRUE(isRecording());
 }
@@ -305,12 +305,12 @@ TEST_F(ScenarioTest, whileTheScreenIsLockedNothingIsRecorded) {
 
 TEST_F(ScenarioTest, afterTheUpdateNoticeWasFollowedStopPutsTheMenuBack) {
     recordTyping("a");
-    gui.takeMessages();
+    platform().journal.clear();
     gui.setFollowsUpdateNotice(true);
     user.strikesRecord();
     user.types("b");
     user.strikesStop();
-    EXPECT_EQ(gui.messages(), (FakeController::Messages{"showRecordingGui", "hideRecordingGui"}));
+    EXPECT_EQ(gui.messages(), (FakeController::Messages{"showRecordingGui()", "hideRecordingGui()"}));
     EXPECT_EQ(currentMacro(), "a");
 }
 

@@ -6,9 +6,11 @@
 
 namespace {
 
-TEST(SharedControllerTest, isTheInnermostScopesAndNullOutside) {
-    FakeController outer;
-    FakeController inner;
+class SharedControllerTest : public EngineTest {};
+
+TEST_F(SharedControllerTest, isTheInnermostScopesAndNullOutside) {
+    FakeController outer{platform().journal};
+    FakeController inner{platform().journal};
     EXPECT_EQ(sharedController(), nullptr);
     {
         const SharedControllerScope outerScope(outer);

@@ -25,7 +25,7 @@ class StateTableTest : public Scenario, public testing::WithParamInterface<Row> 
             menu.records();
             user.types("a");
         }
-        gui.takeMessages();
+        platform().journal.clear();
     }
 };
 
@@ -51,19 +51,24 @@ void savedPause(User& user, Menu& menu) {
 }
 
 const FakeController::Messages nothing = {};
-const FakeController::Messages ended = {"addMacro a", "hideRecordingGui"};
+const FakeController::Messages ended = {R"(addMacro("a"))", "hideRecordingGui()"};
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, StateTableTest,
     testing::Values(
-        Row{"IdleRecordHotKey", Mode::idle, recordHotKey, {"showRecordingGui"}, 0, Mode::recording},
-        Row{"IdleRecordMenu", Mode::idle, recordMenu, {"showRecordingGui"}, 0, Mode::recording},
+        Row{"IdleRecordHotKey", Mode::idle, recordHotKey, {"showRecordingGui()"}, 0, Mode::recording},
+        Row{"IdleRecordMenu", Mode::idle, recordMenu, {"showRecordingGui()"}, 0, Mode::recording},
         Row{"IdleStopHotKey", Mode::idle, stopHotKey, nothing, 0, Mode::idle},
         Row{"IdleStopMenu", Mode::idle, stopMenu, nothing, 0, Mode::idle},
         Row{"IdlePlayHotKey", Mode::idle, playHotKey, nothing, 1, Mode::idle},
         Row{"IdlePlayMenu", Mode::idle, playMenu, nothing, 1, Mode::idle},
-        Row{"IdleMultiplePlayHotKey", Mode::idle, multiplePlayHotKey, {"showMultiplePlayGui"}, 0, Mode::idle},
-        Row{"IdleMultiplePlayMenu", Mode::idle, multiplePlayMenu, {"showMultiplePlayGui"}, 0, Mode::idle},
+        Row{"IdleMultiplePlayHotKey",
+            Mode::idle,
+            multiplePlayHotKey,
+            {"showMultiplePlayGui()"},
+            0,
+            Mode::idle},
+        Row{"IdleMultiplePlayMenu", Mode::idle, multiplePlayMenu, {"showMultiplePlayGui()"}, 0, Mode::idle},
         Row{"IdleKeyPress", Mode::idle, keyPress, nothing, 0, Mode::idle},
         Row{"RecordingRecordHotKey", Mode::recording, recordHotKey, ended, 0, Mode::idle},
         Row{"RecordingStopHotKey", Mode::recording, stopHotKey, ended, 0, Mode::idle},
@@ -72,14 +77,14 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"RecordingMultiplePlayHotKey",
             Mode::recording,
             multiplePlayHotKey,
-            {"showMultiplePlayGui"},
+            {"showMultiplePlayGui()"},
             0,
             Mode::recording},
-        Row{"RecordingKeyPress", Mode::recording, keyPress, {"setMacroString ab"}, 0, Mode::recording},
+        Row{"RecordingKeyPress", Mode::recording, keyPress, {R"(setMacroString("ab"))"}, 0, Mode::recording},
         Row{"RecordingSavedPause",
             Mode::recording,
             savedPause,
-            {"setMacroString a<⌛ 2.00>"},
+            {R"(setMacroString("a<⌛ 2.00>"))"},
             0,
             Mode::recording}),
     [](const auto& row) { return std::string(row.param.name); });

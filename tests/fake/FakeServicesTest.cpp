@@ -23,7 +23,8 @@ class FakeLoginItemsWorld : public LoginItemsWorld {
     }
 
   private:
-    FakeLoginItems m_items;
+    Journal m_journal;
+    FakeLoginItems m_items{m_journal};
 };
 
 class FakeSettingsStoreWorld : public SettingsStoreWorld {
@@ -38,7 +39,8 @@ class FakeSettingsStoreWorld : public SettingsStoreWorld {
     void repair() override {}
 
   private:
-    FakeSettingsStore m_store;
+    Journal m_journal;
+    FakeSettingsStore m_store{m_journal};
 };
 
 class FakeMacroFilesWorld : public MacroFilesWorld {
@@ -47,7 +49,8 @@ class FakeMacroFilesWorld : public MacroFilesWorld {
     std::string path(const std::string& name) const override { return "/home/user/" + name; }
 
   private:
-    FakeMacroFiles m_files;
+    Journal m_journal;
+    FakeMacroFiles m_files{m_journal};
 };
 
 INSTANTIATE_TEST_SUITE_P(InMemory, LoginItemsContract,

@@ -15,9 +15,10 @@ namespace {
 
 using utils::PreferenceManager;
 
-class MapStore : public FakeSettingsStore {
+class MapStore : private Journal, public FakeSettingsStore {
   public:
-    explicit MapStore(const std::map<std::string, std::int64_t>& values) {
+    explicit MapStore(const std::map<std::string, std::int64_t>& values)
+        : FakeSettingsStore(static_cast<Journal&>(*this)) {
         for (const auto& [key, value] : values) put(key, value);
     }
 };

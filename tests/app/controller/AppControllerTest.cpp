@@ -88,7 +88,7 @@ TEST_F(AppControllerTest, playsAnOlderMacroFromTheHistoryAndMakesItTheCurrentOne
     history().at(1)->trigger();
     EXPECT_EQ(state().currentMacro, MacroManager::macro(1));
     EXPECT_EQ(runs(), std::vector<std::string>{MacroManager::macro(1)->script()});
-    EXPECT_EQ(windows.calls, std::vector<std::string>{"await"});
+    EXPECT_EQ(windows.calls(), std::vector<std::string>{"awaitFocusElsewhere(none)"});
 }
 
 TEST_F(AppControllerTest, runsNothingForASenderThatIsNoMacroMenuItem) {
@@ -100,7 +100,7 @@ TEST_F(AppControllerTest, runsNothingForASenderThatIsNoMacroMenuItem) {
 TEST_F(AppControllerTest, playsFromTheMenuOnceTheFocusIsBack) {
     recordKey(key::returnKey);
     controller.playMacro(nullptr);
-    EXPECT_EQ(windows.calls, std::vector<std::string>{"await"});
+    EXPECT_EQ(windows.calls(), std::vector<std::string>{"awaitFocusElsewhere(none)"});
     EXPECT_EQ(runs().size(), 1U);
 }
 
@@ -121,8 +121,8 @@ TEST_F(AppControllerTest, refreshesTheScriptingServiceWithAnEmptyScript) {
 TEST_F(AppControllerTest, opensThePromptWithThePermissionOfTheHotKey) {
     controller.showMultiplePlayGui();
     EXPECT_TRUE(controller.multiplePlayWindow()->isVisible());
-    EXPECT_EQ(windows.calls,
-              std::vector<std::string>{"activate " + std::to_string(platform().hotKeys.lastPressTime())});
+    EXPECT_EQ(windows.calls(), std::vector<std::string>{
+                                   "activate(" + std::to_string(platform().hotKeys.lastPressTime()) + ")"});
 }
 
 TEST_F(AppControllerTest, fadesInFromNothing) {

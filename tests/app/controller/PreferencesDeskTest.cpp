@@ -9,8 +9,8 @@ namespace {
 
 class PreferencesDeskTest : public EngineTest {
   protected:
-    FakeWindows windows;
-    FakeDialogs dialogs;
+    FakeWindows windows{platform().journal};
+    FakeDialogs dialogs{platform().journal};
     Stage stage{windows, [] { return std::vector<QWidget*>{}; }};
     PreferencesDesk desk{platform().settings, platform().loginItems, platform().hotKeys, dialogs, stage};
 };

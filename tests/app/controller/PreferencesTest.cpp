@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "app/AppTest.h"
-#include "app/Journal.h"
 #include "app/panels/PreferencesPanel.h"
 #include "platform/Features.h"
 
@@ -87,7 +86,7 @@ TEST_F(PreferencesTest, registersNothingAndTouchesNoLoginItemAtStartUp) {
     store("record", commandR);
     platform().settings.put("launchOnLogin", 1);
     controller.syncPreferencesDefaults();
-    EXPECT_TRUE(platform().hotKeys.calls().empty());
+    EXPECT_TRUE(hotKeyCalls().empty());
     EXPECT_EQ(platform().loginItems.installs(), 0);
 }
 
@@ -96,31 +95,32 @@ TEST_F(PreferencesTest, registersNothingAndTouchesNoLoginItemAtStartUp) {
 class SaveOrderTest : public EngineTest {};
 
 TEST_F(SaveOrderTest, writesInThisOrder) {
-    Journal journal;
-    JournalPlatform journalPlatform(platform(), journal);
-    const ServicesScope scope(journalPlatform.services);
-    FakeWindows windows;
-    FakeDialogs dialogs;
-    FakeStatusItem item;
-    AppController controller(journalPlatform.services, windows, item, dialogs);
+    Journal& journal = platform().journal;
+    FakeWindows windows(journal);
+    FakeDialogs dialogs(journal);
+    FakeStatusItem item(journal);
+    AppController controller(platform().services, windows, item, dialogs);
     controller.stopShortcutText.setKeyCombo({});
     controller.launchOnLoginButton.setOn(true);
     controller.savePreferences(nullptr);
     Journal expected;
     for (const ShortcutRow& row : shortcutRows) {
         const KeyCombo saved = row.name == "stop" ? KeyCombo() : row.preset;
-        expected.push_back("write " + std::string(row.name) + "Code " + std::to_string(saved.code));
-        expected.push_back("write " + std::string(row.name) + "Flags " + std::to_string(saved.flags));
+        expected.note("write", std::string(row.name) + "Code", saved.code);
+        expected.note("write", std::string(row.name) + "Flags", saved.flags);
     }
     for (const ToggleRow& row : toggleRows) {
         const std::string key = row.key;
         const bool on = key == "launchOnLogin" || row.initiallyOn;
         if (key == "checkForUpdatesOnLaunch" && !features::updateCheck) continue;
-        expected.push_back("write " + key + (on ? " true" : " false"));
+        expected.note("write", key, on);
     }
-    expected.insert(expected.end(), {"login item on", "synchronize"});
-    for (const ShortcutRow& row : shortcutRows) expected.push_back("register " + std::string(row.name));
-    EXPECT_EQ(journal, expected);
+    expected.note("installLoginItem", true);
+    expected.note("synchronize");
+    for (const ShortcutRow& row : shortcutRows) {
+        noteRegistration(expected, row, row.name == "stop" ? KeyCombo() : presetHotKey(row));
+    }
+    EXPECT_EQ(journal.lines(), expected.lines());
 }
 
 TEST_F(PreferencesTest, leavesTheStoredSwitchOfAnUpdateCheckThatItDoesNotOffer) {
@@ -207,7 +207,7 @@ TEST_F(PreferencesTest, fadesThePanelInAndGivesItTheFocus) {
     controller.showPreferences(nullptr);
     EXPECT_TRUE(isFadingIn(*controller.preferencesWindow()));
     EXPECT_FLOAT_EQ(fadeEnd(*controller.preferencesWindow()), 0.9F);
-    EXPECT_EQ(windows.calls, std::vector<std::string>{"activate 0"});
+    EXPECT_EQ(windows.calls(), std::vector<std::string>{"activate(0)"});
 }
 
 TEST_F(PreferencesTest, switchesHotKeysOffWhileThePanelIsOpen) {

@@ -10,7 +10,8 @@ TEST(StageTest, bringsBackWhatItHasHiddenAndNothingElse) {
     QWidget shown;
     QWidget hidden;
     shown.show();
-    FakeWindows windows;
+    Journal journal;
+    FakeWindows windows(journal);
     Stage stage(windows, [&] { return std::vector<QWidget*>{&shown, nullptr, &hidden}; });
     stage.hide();
     EXPECT_FALSE(isShown(&shown));

@@ -3,7 +3,6 @@
 #include <QEventLoop>
 
 #include "app/AppTest.h"
-#include "app/Journal.h"
 #include "app/RunLoop.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/panels/WelcomePanel.h"
@@ -45,58 +44,48 @@ class StartUpTest : public AppTest {
 /// Starts up on the fake platform and writes down what is asked of it.
 class StartUpOrderTest : public EngineTest {
   protected:
-    Journal startUp() {
-        Journal journal;
-        JournalPlatform journalPlatform(platform(), journal);
-        const ServicesScope scope(journalPlatform.services);
-        FakeWindows windows;
-        FakeDialogs dialogs;
-        JournalStatusItem item(journal);
-        AppController controller(journalPlatform.services, windows, item, dialogs);
+    void startUp() {
+        Journal& journal = platform().journal;
+        FakeWindows windows(journal);
+        FakeDialogs dialogs(journal);
+        FakeStatusItem item(journal);
+        AppController controller(platform().services, windows, item, dialogs);
         controller.awakeFromNib();
-        return journal;
     }
 
-    class JournalStatusItem : public FakeStatusItem {
-      public:
-        explicit JournalStatusItem(Journal& journal) : m_journal(journal) {}
-        void show(QMenu& menu, StatusImage image) override {
-            m_journal.emplace_back("show status item");
-            FakeStatusItem::show(menu, image);
-        }
-
-      private:
-        Journal& m_journal;
-    };
+    /// Of hot keys of which nothing is stored.
+    static void noteEmptyRegistrations(Journal& journal) {
+        for (const ShortcutRow& row : shortcutRows) noteRegistration(journal, row, KeyCombo());
+    }
 };
 
 TEST_F(StartUpOrderTest, asksThePlatformInThisOrder) {
-    Journal registerAll;
-    for (const ShortcutRow& row : shortcutRows) registerAll.push_back("register " + std::string(row.name));
-    Journal expected = {"check version", "install hot-key handlers", "check access", "install monitor"};
-    expected.insert(expected.end(), registerAll.begin(), registerAll.end());
-    expected.emplace_back("show status item");
-    const Journal journal = startUp();
-    // What is read of the settings, and how often, is of no matter; only when.
-    Journal seen;
-    for (const std::string& entry : journal) {
-        if (!entry.starts_with("read ")) seen.push_back(entry);
+    Journal expected;
+    for (const char* call : {"checkVersion", "installHotKeys", "checkAccess", "installMonitor"}) {
+        expected.note(call);
     }
-    expected.emplace_back("write notFirstRun true");
-    expected.insert(expected.end(), registerAll.begin(), registerAll.end());
-    EXPECT_EQ(seen, expected);
+    noteEmptyRegistrations(expected);
+    expected.note("showStatusItem");
+    expected.note("write", "notFirstRun", true);
+    noteEmptyRegistrations(expected);
+    startUp();
+    // What is read of the settings, and how often, is of no matter; only when.
+    EXPECT_EQ(
+        platform().journal.of({"checkVersion", "checkAccess", "installHotKeys", "installMonitor", "request",
+                               "withdraw", "showStatusItem", "write", "synchronize", "installLoginItem"}),
+        expected.lines());
 }
 
 TEST_F(StartUpOrderTest, readsTheSettingsBetweenTheStatusItemAndTheSecondRegistration) {
-    const Journal journal = startUp();
-    const auto position = [&journal](const std::string& entry) {
-        return std::find(journal.begin(), journal.end(), entry) - journal.begin();
+    startUp();
+    const auto position = [&lines = platform().journal.lines()](const std::string& line) {
+        return std::find(lines.begin(), lines.end(), line) - lines.begin();
     };
-    EXPECT_LT(position("show status item"), position("read recordCode"));
-    EXPECT_LT(position("read recordCode"), position("read multiplePlayCode"));
-    EXPECT_LT(position("read multiplePlayCode"), position("read checkForUpdatesOnLaunch"));
-    EXPECT_LT(position("read checkForUpdatesOnLaunch"), position("read notFirstRun"));
-    EXPECT_LT(position("read notFirstRun"), position("write notFirstRun true"));
+    EXPECT_LT(position("showStatusItem()"), position(R"(read("recordCode"))"));
+    EXPECT_LT(position(R"(read("recordCode"))"), position(R"(read("multiplePlayCode"))"));
+    EXPECT_LT(position(R"(read("multiplePlayCode"))"), position(R"(read("checkForUpdatesOnLaunch"))"));
+    EXPECT_LT(position(R"(read("checkForUpdatesOnLaunch"))"), position(R"(read("notFirstRun"))"));
+    EXPECT_LT(position(R"(read("notFirstRun"))"), position(R"(write("notFirstRun", true))"));
 }
 
 TEST_F(StartUpTest, endsAfterTheAlertInASessionThatIsTooOld) {
@@ -107,7 +96,7 @@ TEST_F(StartUpTest, endsAfterTheAlertInASessionThatIsTooOld) {
                                             .title = "XInput 2.2 is needed.",
                                             .message = "Use a newer X server.",
                                             .defaultButton = "OK"}));
-    EXPECT_TRUE(platform().hotKeys.calls().empty());
+    EXPECT_TRUE(hotKeyCalls().empty());
     EXPECT_EQ(statusItem.shownMenu, nullptr);
     EXPECT_TRUE(timers().empty());
 }
@@ -145,7 +134,7 @@ TEST_F(StartUpTest, opensTheDocumentationWithoutAccessAndEndsASecondLater) {
     EXPECT_EQ(stateItems(),
               "Start Recording, Stop Recording, Save Pause, Play, Play Multiple Times..., "
               "Save Macro...");
-    EXPECT_TRUE(platform().hotKeys.calls().empty());
+    EXPECT_TRUE(hotKeyCalls().empty());
     EXPECT_EQ(statusItem.shownMenu, nullptr);
 }
 

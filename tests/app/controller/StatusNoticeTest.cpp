@@ -6,7 +6,8 @@
 namespace {
 
 TEST(StatusNoticeTest, listsRefusedHotKeysAboveTheHint) {
-    FakeStatusItem item;
+    Journal journal;
+    FakeStatusItem item(journal);
     StatusNotice notice(item);
     notice.setHint(QStringLiteral("hint"));
     notice.noteHotKey(2, {.status = HotKeyStatus::refused, .error = Error{"second", ""}});

@@ -19,7 +19,7 @@ TEST_F(SupportTest, fadesTheAboutPanelInAndGivesItTheFocus) {
     ASSERT_NE(controller.aboutPanel(), nullptr);
     EXPECT_TRUE(isFadingIn(*controller.aboutPanel()));
     EXPECT_FLOAT_EQ(fadeEnd(*controller.aboutPanel()), 0.9F);
-    EXPECT_EQ(windows.calls, std::vector<std::string>{"activate 0"});
+    EXPECT_EQ(windows.calls(), std::vector<std::string>{"activate(0)"});
 }
 
 TEST_F(SupportTest, opensThePagesOfTheAboutPanelsButtons) {

@@ -8,7 +8,7 @@ namespace {
 
 class UpdateDeskTest : public EngineTest {
   protected:
-    FakeDialogs dialogs;
+    FakeDialogs dialogs{platform().journal};
     UpdateDesk desk{platform().updateService, platform().workspace, dialogs};
 };
 

@@ -56,11 +56,11 @@ TEST_F(MultiplePlayTest, playsNothingForATextThatIsNoPositiveNumber) {
 TEST_F(MultiplePlayTest, waitsHalfASecondAndThenForTheFocus) {
     state().currentMacro = macroWithScript("script");
     open();
-    windows.calls.clear();
+    platform().journal.clear();
     confirm("1");
     ASSERT_FALSE(platform().clock.sleeps().empty());
     EXPECT_EQ(platform().clock.sleeps().front(), Clock::Seconds(0.5));
-    EXPECT_EQ(windows.calls, std::vector<std::string>{"await hidden"});
+    EXPECT_EQ(windows.calls(), std::vector<std::string>{"awaitFocusElsewhere(hidden)"});
 }
 
 TEST_F(MultiplePlayTest, closesOnEscapeWithoutPlaying) {
