@@ -65,11 +65,17 @@ BEGIN {
     # The standard library cannot close a file descriptor.
     exempt["platform/Descriptor.cpp", "unistd.h"] = 1
 
-    ofRooms = "^(app|cli|core|engine|library|platform|prefs)/"
+    ofRooms = "^(app|cli|core|engine|platform|prefs)/"
+    besideTheRooms = "^(tests|bench|fuzz)/"
+    # What platform/x11/server has a class for, or a function.
+    xcbIdiom = "xcb_(get|change|delete)_property([^a-z_]|_(un)?checked|_reply\\()|xcb_(intern_atom|query_tree|query_extension)" \
+               "|xcb_(connect|get_extension_data|get_input_focus|create_window|wait_for_event|poll_for_event)[^a-z]" \
+               "|xcb_xkb_use_extension|xcb_input_xi_query_version|xcb_test_get_version"
+    maySpeakXcb = "^platform/x11/server/|" besideTheRooms
     mayCallServices = "^(core/KeyNames|engine/(HotKeyCenter|AppleScript|MacroPlayer|KeyRecorder))\\.cpp$" \
                       "|^app/|^platform/Services\\.|^(tests|bench|fuzz)/"
     mayInstallServices = "^app/program/|^platform/Services\\.|^(tests|bench|fuzz)/"
-    isCode = "\\.(h|cpp|c)$"
+    isCode = "\\.(h|hh|hpp|cpp|cc|cxx|c)$"
     isBuildFile = "(^|/)CMakeLists\\.txt$|\\.cmake$"
     isSource = isCode "|" isBuildFile "|\\.(inc|sh|py|awk|conf)$|(^|/)\\.clang-(format|tidy)$"
     pointsOutside = "(^|[^A-Za-z])Part[s]? [0-9]+\\.[0-9]|spe[c]\\.md|linu[x]\\.md|hous[e]\\.md" \
@@ -125,6 +131,7 @@ function checkInclude(    name) {
         sub(/^</, "", name)
         sub(/>.*$/, "", name)
         if ((file, name) in exempt) return
+        if (name ~ ofRooms) breach(FNR, "a header of a room stands in angle brackets")
         if ((angledOf[folder] != "" && name !~ angledOf[folder]) ||
             (refusedOf[folder] != "" && name ~ refusedOf[folder])) {
             breach(FNR, folder "/ may not include <" name ">")
@@ -141,6 +148,7 @@ function checkCode(    code) {
     if (code ~ /(^|[^A-Za-z0-9_])ServicesScope([^A-Za-z0-9_]|$)/ && file !~ mayInstallServices) {
         breach(FNR, "services are installed by programs and tests alone")
     }
+    if (code ~ xcbIdiom && file !~ maySpeakXcb) breach(FNR, "xcb by hand; platform/x11/server has words for it")
     if (code ~ /std::shared_ptr/ && file ~ /^(core|prefs|engine|app)\//) {
         breach(FNR, "std::shared_ptr; the model's pointer is boost::shared_ptr")
     }
@@ -150,7 +158,7 @@ FNR == 1 {
     if (file != "") endFile()
     file = FILENAME
     folder = folderOf(file)
-    if (file ~ isCode && file ~ ofRooms && !(folder in usesOf)) breach(1, "no room of the table is called " folder)
+    if (file ~ isCode && file !~ besideTheRooms && !(folder in usesOf)) breach(1, "no room of the table is called " folder)
     needsLicence = file ~ isSource || /^#!/
     hasLicence = 0
 }
