@@ -19,7 +19,7 @@ timespec timeTo(Clock::Time until, Clock::Time now) {
 
 }  // namespace
 
-Step<> RunWaiter::look() {
+Step<> RunWaiter::heedUser() {
     m_watch.drain();
     const bool ends = m_isLost || m_watch.isLost() || m_interrupt.isRaised() || m_watch.isCancelled();
     return ends ? Step<>(Halt::cancelled()) : Step<>();
@@ -28,7 +28,7 @@ Step<> RunWaiter::look() {
 Step<> RunWaiter::waitUntil(Clock::Time deadline) {
     for (;;) {
         // Before the wait as well: xcb may have read what the descriptor no longer shows.
-        if (const auto looked = look(); !looked) return looked;
+        if (const auto heeded = heedUser(); !heeded) return heeded;
         if (m_clock.now() >= deadline) return {};
         block(std::min(deadline, m_watch.cancelDeadline().value_or(deadline)));
     }

@@ -16,7 +16,7 @@ class RunWaiter final : public RunWait {
     Step<> waitUntil(Clock::Time deadline) override;
 
     /// Reads what the user has done, and halts if it means to stop. So does a lost X server.
-    Step<> look();
+    Step<> heedUser();
 
   private:
     void block(Clock::Time until);

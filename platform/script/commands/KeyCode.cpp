@@ -20,7 +20,7 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
         if (!value) return value;
         auto code = keyCodeOf(value.value());
         if (!code) return std::move(code).error();
-        if (isPlayable(stage, code.value())) codes.push_back(code.value());
+        if (acceptCode(stage, code.value())) codes.push_back(code.value());
     }
     for (const std::uint32_t code : codes) {
         auto played =

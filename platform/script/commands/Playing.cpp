@@ -40,7 +40,7 @@ Fallible<> addHeldKeys(CommandStage& stage, const Value& value, std::vector<Held
     auto code = keyCodeOf(value);
     if (!code) return std::move(code).error();
     const auto number = code.value();
-    if (isPlayable(stage, number)) held.emplace_back(HeldCode{number});
+    if (acceptCode(stage, number)) held.emplace_back(HeldCode{number});
     return {};
 }
 
@@ -71,7 +71,7 @@ Fallible<std::uint32_t> keyCodeOf(const Value& value) {
     return static_cast<std::uint32_t>(*code);
 }
 
-bool isPlayable(CommandStage& stage, std::uint32_t code) {
+bool acceptCode(CommandStage& stage, std::uint32_t code) {
     if (keycode::evdevFor(code)) return true;
     stage.warn(noKeyAdvice(code));
     return false;

@@ -15,8 +15,8 @@ Fallible<std::uint32_t> modifierMask(CommandStage& stage, const Value* given);
 /// A key code within the range that the language has. The power key is never pressed.
 Fallible<std::uint32_t> keyCodeOf(const Value& value);
 
-/// Whether there is such a key; if not, that is told.
-bool isPlayable(CommandStage& stage, std::uint32_t code);
+/// Whether there is such a key; warns if not.
+bool acceptCode(CommandStage& stage, std::uint32_t code);
 
 /// Presses or releases keys, each named by a modifier, a code or a text.
 Fallible<Value> hold(CommandStage& stage, const Value& keys, bool down);

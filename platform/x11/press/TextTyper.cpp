@@ -93,7 +93,7 @@ Step<> TextTyper::typePart(std::span<const char32_t> characters, const Stroke& a
     const ModifierKeys& keys = m_keymap.keymap().keys();
     std::size_t at = 0;
     while (at < characters.size()) {
-        if (const auto looked = m_waiter.look(); !looked) return looked;
+        if (const auto heeded = m_waiter.heedUser(); !heeded) return heeded;
         const auto state = check();
         if (!state) return state.error();
         m_sender.meet(state.value());

@@ -100,7 +100,7 @@ Step<> X11InjectionSession::prepareStroke() {
         if (const auto begun = begin(); !begun) return begun;
         pressHeldAgain();
     }
-    if (const auto looked = m_waiter.look(); !looked) return looked;
+    if (const auto heeded = m_waiter.heedUser(); !heeded) return heeded;
     const auto state = checkHands();
     if (!state) return state.error();
     m_sender.meet(state.value());
@@ -112,7 +112,7 @@ Step<> X11InjectionSession::stroke(std::uint32_t keyCode, std::uint32_t modifier
         if (const auto followed = followKeymap(); !followed) return followed.error();
         const auto stroke = planStroke(m_tools.keymap.keymap(), keyCode, modifiers);
         if (!stroke) return stroke.error();
-        return stroke.value().keycode == 0 ? m_waiter.look() : play(stroke.value());
+        return stroke.value().keycode == 0 ? m_waiter.heedUser() : play(stroke.value());
     });
 }
 
@@ -138,7 +138,7 @@ Step<> X11InjectionSession::text(std::string_view text, std::uint32_t modifiers)
 Step<> X11InjectionSession::type(std::string_view text, std::uint32_t modifiers) {
     const auto characters = charactersOf(text);
     if (!characters) return characters.error();
-    if (characters.value().empty()) return m_waiter.look();
+    if (characters.value().empty()) return m_waiter.heedUser();
     if (const auto followed = followKeymap(); !followed) return followed.error();
     const auto around = planModifiers(m_tools.keymap.keymap(), modifiers);
     if (!around) return around.error();
@@ -216,7 +216,7 @@ Step<> X11InjectionSession::hold(const Stroke& stroke) {
 Step<> X11InjectionSession::keyUp(const HeldKey& key) {
     return take([&]() -> Step<> {
         // What the run does not hold is not released: it may be the user's own.
-        if (m_held.empty()) return m_waiter.look();
+        if (m_held.empty()) return m_waiter.heedUser();
         if (const auto prepared = prepareStroke(); !prepared) return prepared;
         const auto strokes = strokesOf(key);
         if (!strokes) return strokes.error();
