@@ -48,8 +48,7 @@ class ModifierKeys {
 
     std::vector<LayoutEffects> m_effects;
     std::array<xkb_mod_mask_t, 256> m_held{};
-    /// The modifiers held where they are the same in all layouts and nothing is left of them afterwards; else
-    /// 0.
+    /// The modifiers held, where they are the same in all layouts and nothing is left of them afterwards.
     std::array<xkb_mod_mask_t, 256> m_momentary{};
     KeycodeSet m_locks;
 };

@@ -29,8 +29,7 @@ struct ModifierMasks {
 ///
 /// 1. where the keymap's own modifier of that name lies (Shift, Lock, Control; the virtual ones Alt, Super,
 ///    NumLock, ScrollLock, LevelThree, LevelFive),
-/// 2. where it has none, or lies nowhere, what the keys with the symbols of the purpose set (Alt_L,
-/// Num_Lock),
+/// 2. where it has none, or lies nowhere, what the keys with the symbols of the purpose set, as Alt_L does,
 /// 3. for Alt the same with Meta.
 ///
 /// Locks leave out what is Shift, Control, Alt or Super as well: Caps Lock may be made a Shift that locks.

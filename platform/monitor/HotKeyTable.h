@@ -29,8 +29,10 @@ class HotKeyTable {
     /// Moves the grabs whose key or modifiers are others in the new keymap.
     void followKeymap();
 
-    /// See RunWatch.
+    /// Gives the combination of these real modifiers free until restore(); at most one at a time. False, and
+    /// nothing done, if it is none of ours.
     bool lift(std::uint8_t keycode, std::uint16_t modifiers);
+    /// Takes back what is lifted, if anything.
     void restore();
 
   private:

@@ -21,6 +21,7 @@ struct SessionKind {
 /// All kinds, those that are tried first in front. Adding one is adding its row.
 std::span<const SessionKind> sessionKinds();
 
-/// The kind of that name, or without a name the first one that the process was started in. Fails for a name
-/// that there is not, and where the process was started in no such session; the hint lists the names.
+/// The kind of that name, or without a name (empty) the first one that the process was started in. Fails for
+/// a name that there is not, with a hint that lists the names, and where the process was started in no such
+/// session, with the error of its check; without a name, of the last one's.
 Result<SessionKind> chooseSession(std::string_view name, std::span<const SessionKind> kinds = sessionKinds());

@@ -63,7 +63,7 @@ enum class NodeKind : std::uint8_t {
     inversion,     ///< [operand] `not`
     binary,        ///< [left, right] detail: BinaryOperator
     coercion,      ///< [operand] detail: Type; or [operand, list of coercions] for several, value: 1
-    element,       ///< [index?, last index?, container?] detail: kind and form; value: ElementFlags
+    element,       ///< [index?, last index?, container?] detail: kind and form; value: bits of elementnode
     textBetween,   ///< [element, element, container?] the elements without containers
     propertyOf,    ///< [container] value: name
     referenceTo,   ///< [expression]
