@@ -7,7 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include "core/KeyCodeTransformer.h"
 #include "platform/fake/FakePlatform.h"
 
 namespace {

@@ -47,8 +47,11 @@ TEST_F(SessionOptionTest, aNamedSessionIsTheOneThatIsWorkedIn) {
 }
 
 TEST_F(SessionOptionTest, anUnknownOptionIsNoFile) {
-    Child program({KEYRILL_PRODUCT, "--sesion=x11"}, desktop.options("start"));
+    const Child::Options options = desktop.options("start");
+    Child program({KEYRILL_PRODUCT, "--sesion=x11"}, options);
     EXPECT_EQ(program.wait(), 1);
+    const std::string output = contentOf(options.outputFile);
+    EXPECT_NE(output.find("There is no option \"--sesion=x11\"."), std::string::npos) << output;
 }
 
 }  // namespace

@@ -49,6 +49,7 @@ class RecordAndPlayTest : public testing::TestWithParam<Layout> {
 
     template <typename Check>
     void forEachKey(const Check& check) const {
+        std::size_t keys = 0;
         for (xkb_layout_index_t layout = 0; layout < xkb_keymap_num_layouts(m_keymap->get()); ++layout) {
             for (std::uint16_t keycode = xkbcode::first + 1; keycode <= xkbcode::last; ++keycode) {
                 const auto key = static_cast<std::uint8_t>(keycode);
@@ -56,8 +57,11 @@ class RecordAndPlayTest : public testing::TestWithParam<Layout> {
                 SCOPED_TRACE(testing::Message() << "key " << keycode << " layout " << layout);
                 check(key, layout);
                 if (HasFailure()) return;
+                ++keys;
             }
         }
+        // Of the 108 keys of an ordinary keyboard.
+        EXPECT_GE(keys, 95 * xkb_keymap_num_layouts(m_keymap->get()));
     }
 
     /// A symbol as the character that it types, as far as it types one.

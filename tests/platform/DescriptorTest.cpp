@@ -91,11 +91,18 @@ TEST(DescriptorTest, closesWhenToldTo) {
     descriptor.reset(next);
     EXPECT_FALSE(isOpen(former));
     EXPECT_EQ(descriptor.number(), next);
+    descriptor.reset();
+    EXPECT_FALSE(isOpen(next));
+    EXPECT_FALSE(descriptor);
+}
+
+TEST(DescriptorTest, leavesTheErrorNumberAloneWhenClosingFails) {
+    const int number = opened();
+    Descriptor descriptor(number);
+    close(number);
     errno = ENOENT;
     descriptor.reset();
     EXPECT_EQ(errno, ENOENT);
-    EXPECT_FALSE(isOpen(next));
-    EXPECT_FALSE(descriptor);
 }
 
 }  // namespace

@@ -11,9 +11,12 @@ namespace {
 Result<void> isHere() { return {}; }
 Result<void> isNotHere() { return Error{"The display cannot be reached.", "Log in."}; }
 
+Result<void> isElsewhere() { return Error{"The session is another user's.", ""}; }
+
 constexpr SessionKind near{.name = "near", .toolkit = "one", .check = isHere, .open = nullptr};
 constexpr SessionKind other{.name = "other", .toolkit = "two", .check = isHere, .open = nullptr};
 constexpr SessionKind far{.name = "far", .toolkit = "three", .check = isNotHere, .open = nullptr};
+constexpr SessionKind farther{.name = "farther", .toolkit = "four", .check = isElsewhere, .open = nullptr};
 
 TEST(SessionsTest, theFirstThatTheProcessWasStartedInIsTaken) {
     const std::array kinds{far, near, other};
@@ -31,8 +34,12 @@ TEST(SessionsTest, aNamedOneThatIsNotHereSaysWhatIsMissing) {
 }
 
 TEST(SessionsTest, withoutAnySessionTheLastOneSaysWhatIsMissing) {
-    const std::array kinds{far};
+    const std::array kinds{farther, far};
     EXPECT_EQ(chooseSession("", kinds).error(), (Error{"The display cannot be reached.", "Log in."}));
+}
+
+TEST(SessionsTest, whereNoneIsKnownThereIsNone) {
+    EXPECT_EQ(chooseSession("", {}).error(), (Error{"No kind of session is known.", ""}));
 }
 
 TEST(SessionsTest, anUnknownNameListsTheKnownOnes) {

@@ -4,6 +4,7 @@
 #include "app/AppTest.h"
 #include "app/controller/Stage.h"
 #include "app/panels/PreferencesPanel.h"
+#include "prefs/Settings.h"
 
 namespace {
 
@@ -32,8 +33,11 @@ TEST_F(PreferencesDeskTest, takesEachShortcutAndEachToggleFromTheStore) {
 
 TEST_F(PreferencesDeskTest, registersWhatItHasSaved) {
     desk.save();
-    for (const ShortcutRow& row : shortcutRows)
-        EXPECT_EQ(platform().hotKeys.registered().at(row.id).first, row.preset.code) << row.name;
+    for (const ShortcutRow& row : shortcutRows) {
+        const std::pair<std::uint32_t, std::uint32_t> expected{row.preset.code,
+                                                               hotKeyFlags(row.preset.flags)};
+        EXPECT_EQ(platform().hotKeys.registered().at(row.id), expected) << row.name;
+    }
 }
 
 TEST_F(PreferencesDeskTest, switchesHotKeysOffBetweenOpeningAndClosing) {

@@ -35,6 +35,14 @@ TEST(ShortcutTitlesTest, areTheLabelsMeaningWithAMnemonic) {
     }
 }
 
+TEST(TogglesTest, beginOffAndAreStoredInThisOrder) {
+    constexpr std::size_t updates = toggleIndex("checkForUpdatesOnLaunch");
+    constexpr std::size_t login = toggleIndex("launchOnLogin");
+    EXPECT_LT(updates, login);
+    EXPECT_FALSE(toggleRows[updates].initiallyOn);
+    EXPECT_FALSE(toggleRows[login].initiallyOn);
+}
+
 TEST(TogglesTest, haveEachAKeyAndATitleOfTheirOwn) {
     QSet<QString> keys;
     QSet<QString> titles;
