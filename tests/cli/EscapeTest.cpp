@@ -54,28 +54,84 @@ TEST_P(EscapeTest, aHeldEscapeEndsTheScriptAndLeavesNoKeyDown) {
 }
 
 constexpr Endless scripts[] = {
-    {"inATightLoop", "tell application \"System Events\" to keystroke \"a\"\nrepeat\nend repeat\n"},
+    {"inATightLoop", R"(tell application "System Events" to keystroke "a"
+repeat
+end repeat
+)"},
     {"inALoopOfErrors",
-     "tell application \"System Events\" to keystroke \"a\"\nset n to 0\nrepeat\ntry\nset n to n + 1\n"
-     "error \"x\"\non error\nset n to 0\nend try\nend repeat\n"},
+     R"(tell application "System Events" to keystroke "a"
+set n to 0
+repeat
+try
+set n to n + 1
+error "x"
+on error
+set n to 0
+end try
+end repeat
+)"},
     {"inALoopOfStrokes",
-     "tell application \"System Events\"\nrepeat\nkeystroke \"a\"\nkey code 123\nend repeat\nend tell\n"},
+     R"(tell application "System Events"
+repeat
+keystroke "a"
+key code 123
+end repeat
+end tell
+)"},
     {"inADelay",
-     "tell application \"System Events\" to keystroke \"a\"\ntry\ndelay 1000\nend try\ndelay 1000\n"},
+     R"(tell application "System Events" to keystroke "a"
+try
+delay 1000
+end try
+delay 1000
+)"},
     {"inALongText",
-     "set s to \"abcdefghij\"\nrepeat 19 times\nset s to s & s\nend repeat\n"
-     "tell application \"System Events\"\nkeystroke s\nend tell\n"},
+     R"(set s to "abcdefghij"
+repeat 19 times
+set s to s & s
+end repeat
+tell application "System Events"
+keystroke s
+end tell
+)"},
     {"inNestedHandlers",
-     "on inner(n)\ntry\nif n > 0 then return my inner(n - 1)\ndelay 0.01\nend try\nend inner\n"
-     "on outer()\nrepeat\ntry\nmy inner(50)\non error\nmy outer()\nend try\nend repeat\nend outer\n"
-     "tell application \"System Events\" to keystroke \"a\"\nouter()\n"},
+     R"(on inner(n)
+try
+if n > 0 then return my inner(n - 1)
+delay 0.01
+end try
+end inner
+on outer()
+repeat
+try
+my inner(50)
+on error
+my outer()
+end try
+end repeat
+end outer
+tell application "System Events" to keystroke "a"
+outer()
+)"},
     {"whileKeysAreDown",
-     "tell application \"System Events\"\nkeystroke \"a\"\nkey down {control, option}\nkey down 122\n"
-     "key down shift\nrepeat\nend repeat\nend tell\n",
+     R"(tell application "System Events"
+keystroke "a"
+key down {control, option}
+key down 122
+key down shift
+repeat
+end repeat
+end tell
+)",
      true},
     {"inAPauseWhileKeysAreDown",
-     "tell application \"System Events\"\nkeystroke \"a\"\nkey down shift\nkey down \"é\"\ndelay 1000\nend "
-     "tell\n",
+     R"(tell application "System Events"
+keystroke "a"
+key down shift
+key down "é"
+delay 1000
+end tell
+)",
      true},
 };
 

@@ -44,10 +44,16 @@ end tell
 )";
 
 inline const std::string greetings =
-    "Grüße, José @ 5 €\nGrüße, Ελένη\nGrüße, Борис\nGrüße, שלום\nGrüße, नमस्ते\nGrüße, 日本語\n"
-    "Grüße, Ann 😀👩‍👩‍👧🇬🇷\n"
-    "天地玄黃宇宙洪荒日月盈昃辰宿列張寒來暑往秋收冬藏閏餘成歲律呂調陽雲騰致雨露結為霜金生麗水玉出崑岡\n"
-    "劍號巨闕珠稱夜光果珍李柰菜重芥薑海鹹河淡鱗潛羽翔龍師火帝鳥官人皇始制文字乃服衣裳\n";
+    R"(Grüße, José @ 5 €
+Grüße, Ελένη
+Grüße, Борис
+Grüße, שלום
+Grüße, नमस्ते
+Grüße, 日本語
+Grüße, Ann 😀👩‍👩‍👧🇬🇷
+天地玄黃宇宙洪荒日月盈昃辰宿列張寒來暑往秋收冬藏閏餘成歲律呂調陽雲騰致雨露結為霜金生麗水玉出崑岡
+劍號巨闕珠稱夜光果珍李柰菜重芥薑海鹹河淡鱗潛羽翔龍師火帝鳥官人皇始制文字乃服衣裳
+)";
 
 /// What a field holds then: what was typed, twice.
 inline std::string inField() {

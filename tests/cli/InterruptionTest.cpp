@@ -18,7 +18,11 @@
 namespace {
 
 constexpr const char* holding =
-    "tell application \"System Events\"\nkey down {command, shift}\ndelay 1000\nend tell\n";
+    R"(tell application "System Events"
+key down {command, shift}
+delay 1000
+end tell
+)";
 
 /// keyrill-script as a shell runs it: in front, on a terminal of its own.
 class RunOnTerminal {

@@ -65,8 +65,12 @@ TEST(ScriptDesktopTest, aPasteTypedRightBehindFindsTheClipboard) {
         server.display(),
         {.xterm = {"-xrm", "XTerm*VT100.translations: #override Ctrl<Key>v: insert-selection(CLIPBOARD)"}});
     Play play(server.display(),
-              "set the clipboard to \"pasted é\"\ntell application \"System Events\"\n"
-              "keystroke \"v\" using control down\ndelay 0.5\nend tell\n");
+              R"(set the clipboard to "pasted é"
+tell application "System Events"
+keystroke "v" using control down
+delay 0.5
+end tell
+)");
     EXPECT_EQ(play.program().wait(), 0) << play.output();
     EXPECT_EQ(terminal.typed(9), "pasted é");
 }

@@ -38,8 +38,10 @@ class RunTest : public testing::Test {
 };
 
 TEST_F(RunTest, typesIntoTheApplicationInFront) {
-    const auto program =
-        play("keystroke \"Héllo, 日本! \" & 12\nkey code 0 using shift down\ndelay 0.01\nkey code 36");
+    const auto program = play(R"(keystroke "Héllo, 日本! " & 12
+key code 0 using shift down
+delay 0.01
+key code 36)");
     EXPECT_EQ(program->wait(), 0) << output();
     const std::string expected = "Héllo, 日本! 12A\n";
     EXPECT_EQ(terminal().typed(expected.size()), expected);
@@ -47,7 +49,9 @@ TEST_F(RunTest, typesIntoTheApplicationInFront) {
 }
 
 TEST_F(RunTest, anErrorIsToldAndEndsTheRun) {
-    const auto program = play("keystroke \"ab\"\ndelay \"x\"\nkeystroke \"cd\"");
+    const auto program = play(R"(keystroke "ab"
+delay "x"
+keystroke "cd")");
     EXPECT_EQ(program->wait(), 1);
     EXPECT_EQ(output(), script() +
                             ":3:1: execution error: Can’t make \"x\" into type number. (-1700)\n"
@@ -74,7 +78,9 @@ TEST_P(RunSignalTest, releasesWhatIsHeldAndThenEndsTheProgram) {
 }
 
 TEST_P(RunSignalTest, endsALoopThatPressesNothing) {
-    const auto program = play("keystroke \"a\"\nrepeat\nend repeat");
+    const auto program = play(R"(keystroke "a"
+repeat
+end repeat)");
     ASSERT_EQ(terminal().typed(1), "a") << output();
     program->signal(GetParam());
     EXPECT_EQ(program->wait(), 128 + GetParam());

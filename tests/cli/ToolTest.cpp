@@ -46,7 +46,9 @@ TEST_F(ToolTest, checkSaysNothingOfAGoodScript) {
 }
 
 TEST_F(ToolTest, checkNamesPlaceMessageAndNumberOfASyntaxError) {
-    write("tell application \"System Events\"\n\tkey code 1\n");
+    write(R"(tell application "System Events"
+	key code 1
+)");
     const Outcome outcome = run("check script");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.errors,
@@ -55,7 +57,10 @@ TEST_F(ToolTest, checkNamesPlaceMessageAndNumberOfASyntaxError) {
 }
 
 TEST_F(ToolTest, checkWarnsOfExtensionCodes) {
-    write("tell application \"System Events\"\n\tkey code {36, 4279}\nend tell\n");
+    write(R"(tell application "System Events"
+	key code {36, 4279}
+end tell
+)");
     const Outcome outcome = run("check script");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.errors,
@@ -64,24 +69,41 @@ TEST_F(ToolTest, checkWarnsOfExtensionCodes) {
 
 TEST_F(ToolTest, tracePrintsWhatWouldBeDone) {
     write(
-        "tell application \"System Events\"\n\tkey code 36 using {shift down, command down}\n"
-        "\tkeystroke \"hello\"\n\tdelay 0.5\n\tkey down shift\n\tkey up shift\nend tell\n");
+        R"(tell application "System Events"
+	key code 36 using {shift down, command down}
+	keystroke "hello"
+	delay 0.5
+	key down shift
+	key up shift
+end tell
+)");
     const Outcome outcome = run("trace script");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output,
-              "[\"key\",36,[\"command\",\"shift\"]]\n[\"text\",\"hello\",[]]\n[\"delay\",0.5]\n"
-              "[\"keydown\",\"shift\",[]]\n[\"keyup\",\"shift\",[]]\n");
+              R"(["key",36,["command","shift"]]
+["text","hello",[]]
+["delay",0.5]
+["keydown","shift",[]]
+["keyup","shift",[]]
+)");
     EXPECT_EQ(outcome.errors, "");
 }
 
 TEST_F(ToolTest, traceEndsAtAnExecutionError) {
-    write("tell application \"System Events\"\n\tkey code 1\n\tdelay \"abc\"\n\tkey code 2\nend tell\n");
+    write(R"(tell application "System Events"
+	key code 1
+	delay "abc"
+	key code 2
+end tell
+)");
     const Outcome outcome = run("trace script");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.output, "[\"key\",1,[]]\n");
     EXPECT_EQ(outcome.errors,
-              "script:3:2: execution error: Can’t make \"abc\" into type number. (-1700)\n"
-              "\tdelay \"abc\"\n\t^\n");
+              R"(script:3:2: execution error: Can’t make "abc" into type number. (-1700)
+	delay "abc"
+	^
+)");
 }
 
 TEST_F(ToolTest, traceWaitsForNoPause) {

@@ -36,8 +36,8 @@ TEST_P(ScriptingServiceContract, aRunTypesWhatItsScriptSaysBeforeItReturns) {
 }
 
 TEST_P(ScriptingServiceContract, runsComeOneAfterTheOther) {
-    tell("keystroke \"ab\"");
-    tell("keystroke \"cd\"");
+    tell(R"(keystroke "ab")");
+    tell(R"(keystroke "cd")");
     EXPECT_EQ(world().typed(), "abcd");
 }
 
@@ -49,18 +49,20 @@ TEST_P(ScriptingServiceContract, anEmptyScriptDoesNothing) {
 
 TEST_P(ScriptingServiceContract, aScriptThatDoesNotCompileTypesNothingAndTheNextOnePlays) {
     tell("keystroke \"ab\"\nrepeat");
-    tell("keystroke \"cd\"");
+    tell(R"(keystroke "cd")");
     EXPECT_EQ(world().typed(), "cd");
 }
 
 TEST_P(ScriptingServiceContract, anErrorEndsARunAndTheNextOnePlays) {
-    tell("keystroke \"ab\"\ndelay \"x\"\nkeystroke \"cd\"");
-    tell("keystroke \"ef\"");
+    tell(R"(keystroke "ab"
+delay "x"
+keystroke "cd")");
+    tell(R"(keystroke "ef")");
     EXPECT_EQ(world().typed(), "abef");
 }
 
 TEST_P(ScriptingServiceContract, aPlaybackIsNotCancelledUntilTheUserAsks) {
-    tell("keystroke \"ab\"");
+    tell(R"(keystroke "ab")");
     EXPECT_FALSE(scripting().isCancelled());
     world().userAsksToStop();
     EXPECT_TRUE(scripting().isCancelled());
@@ -68,7 +70,7 @@ TEST_P(ScriptingServiceContract, aPlaybackIsNotCancelledUntilTheUserAsks) {
 
 TEST_P(ScriptingServiceContract, aCancelledPlaybackTypesNothingMore) {
     world().userAsksToStop();
-    tell("keystroke \"ab\"");
+    tell(R"(keystroke "ab")");
     EXPECT_EQ(world().typed(), "");
 }
 
@@ -82,6 +84,6 @@ TEST_P(ScriptingServiceContract, theNextPlaybackForgetsTheWishToStop) {
     world().userAsksToStop();
     scripting().startPlayback();
     EXPECT_FALSE(scripting().isCancelled());
-    tell("keystroke \"ab\"");
+    tell(R"(keystroke "ab")");
     EXPECT_EQ(world().typed(), "ab");
 }

@@ -30,14 +30,15 @@ class MacroTest : public LocaleTest {
 KEYRILL_IN_BOTH_LOCALES(MacroTest);
 
 constexpr const char* exampleScript =
-    "tell application \"System Events\"\n"
-    "\tkey code (1) using {command down}\n"
-    "delay 0.01\n"
-    "\tdelay 0.5\n"
-    "delay 0.01\n"
-    "\tkey code (0) using {}\n"
-    "delay 0.01\n"
-    "end tell\n";
+    R"(tell application "System Events"
+	key code (1) using {command down}
+delay 0.01
+	delay 0.5
+delay 0.01
+	key code (0) using {}
+delay 0.01
+end tell
+)";
 
 TEST_P(MacroTest, startsEmptyAndWithoutANumber) {
     EXPECT_TRUE(macro.isEmpty());
@@ -59,7 +60,9 @@ TEST_P(MacroTest, showsAllActionsWithNothingBetween) {
 }
 
 TEST_P(MacroTest, hasAScriptWithoutActionsToo) {
-    EXPECT_EQ(macro.script(), "tell application \"System Events\"\nend tell\n");
+    EXPECT_EQ(macro.script(), R"(tell application "System Events"
+end tell
+)");
 }
 
 TEST_P(MacroTest, keepsItsFirstScriptForGood) {
@@ -76,11 +79,11 @@ TEST_P(MacroTest, keepsTheScriptOfNoActionsToo) {
 }
 
 TEST_P(MacroTest, givesALoadedTextBackAsItStands) {
-    macro.setScript("keystroke \"x\"");
+    macro.setScript(R"(keystroke "x")");
     EXPECT_TRUE(macro.isEmpty());
     EXPECT_EQ(macro.displayText(), "");
     EXPECT_EQ(macro.fullDisplayText(), "");
-    EXPECT_EQ(macro.script(), "keystroke \"x\"");
+    EXPECT_EQ(macro.script(), R"(keystroke "x")");
 }
 
 TEST_P(MacroTest, prefersALoadedTextToItsActions) {
@@ -91,7 +94,9 @@ TEST_P(MacroTest, prefersALoadedTextToItsActions) {
 }
 
 TEST_P(MacroTest, buildsItsScriptAfreshAfterAnEmptyText) {
-    EXPECT_EQ(macro.script(), "tell application \"System Events\"\nend tell\n");
+    EXPECT_EQ(macro.script(), R"(tell application "System Events"
+end tell
+)");
     addExample();
     macro.setScript("");
     EXPECT_EQ(macro.script(), exampleScript);

@@ -14,11 +14,12 @@ class OwnStrokesTest : public DesktopTest {
 
 TEST_F(OwnStrokesTest, aScriptThatTypesThePlayCombinationIsPlayedOnceAndEnds) {
     const Keyrill keyrill(desktop,
-                          "tell application \"System Events\"\n"
-                          "\tkey code 0\n"
-                          "\tkey code 35 using {control down, command down}\n"
-                          "\tkey code 11\n"
-                          "end tell\n");
+                          R"(tell application "System Events"
+	key code 0
+	key code 35 using {control down, command down}
+	key code 11
+end tell
+)");
     play();
     // Control+P reaches the terminal as a control character of its own, or with Super as an escape sequence;
     // what counts is that a and b come once.
@@ -33,11 +34,12 @@ TEST_F(OwnStrokesTest, aScriptThatTypesThePlayCombinationIsPlayedOnceAndEnds) {
 
 TEST_F(OwnStrokesTest, aTerminatedRunReleasesWhatItHolds) {
     Keyrill keyrill(desktop,
-                    "tell application \"System Events\"\n"
-                    "\tkey code 0\n"
-                    "\tkey down shift\n"
-                    "\tdelay 1000\n"
-                    "end tell\n");
+                    R"(tell application "System Events"
+	key code 0
+	key down shift
+	delay 1000
+end tell
+)");
     play();
     EXPECT_EQ(terminal.typed(1), "a");
     ASSERT_TRUE(eventually([this] { return !desktop.keysDown().empty(); }));

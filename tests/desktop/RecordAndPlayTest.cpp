@@ -33,7 +33,11 @@ TEST_F(RecordAndPlayTest, theScriptHoldsNothingOfTheHotKeys) {
     press("a");
     stop();
     EXPECT_EQ(keyrill.script(),
-              "tell application \"System Events\"\n\tkey code (0) using {}\ndelay 0.01\nend tell\n");
+              R"(tell application "System Events"
+	key code (0) using {}
+delay 0.01
+end tell
+)");
 }
 
 TEST_F(RecordAndPlayTest, aPlayLeavesNoKeyDownAndNoLockChanged) {

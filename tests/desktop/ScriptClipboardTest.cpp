@@ -81,11 +81,12 @@ TEST_F(ScriptClipboardTest, theToolLeavesItToAProcessThatEndsWhenAnotherProgramC
 
 TEST_F(ScriptClipboardTest, theToolLeavesATextLongerThanARequest) {
     runByTool(
-        "set t to \"0123456789abcdef\"\n"
-        "repeat 16 times\n"
-        "set t to t & t\n"
-        "end repeat\n"
-        "set the clipboard to t\n");
+        R"(set t to "0123456789abcdef"
+repeat 16 times
+set t to t & t
+end repeat
+set the clipboard to t
+)");
     std::string expected;
     for (int i = 0; i < 1 << 16; ++i) expected += "0123456789abcdef";
     EXPECT_TRUE(pasted() == expected);
@@ -94,7 +95,9 @@ TEST_F(ScriptClipboardTest, theToolLeavesATextLongerThanARequest) {
 
 TEST_F(ScriptClipboardTest, nobodyWaitsForTheProcessThatStays) {
     // A shell waits for the end of what it substitutes.
-    std::ofstream(desktop.file("substituted")) << "test \"$(\"$@\")\" = '' && exit 0\nexit 1\n";
+    std::ofstream(desktop.file("substituted")) << R"text(test "$("$@")" = '' && exit 0
+exit 1
+)text";
     runByTool("set the clipboard to \"x\"\n", {"sh", desktop.file("substituted")});
     EXPECT_EQ(pasted(), "x");
     for (const pid_t tool : tools()) kill(tool, SIGTERM);

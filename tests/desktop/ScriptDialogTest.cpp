@@ -55,11 +55,10 @@ class ScriptDialogTest : public testing::TestWithParam<WindowManager> {
 };
 
 TEST_P(ScriptDialogTest, whatTheUserAnswersIsTypedWhereHeWas) {
-    const Keyrill keyrill(desktop,
-                          toSystemEvents("keystroke \"a\"\n"
-                                         "set x to text returned of (display dialog \"Who?\" default answer "
-                                         "\"nobody\" with title \"Weekly & <i>report</i>\")\n"
-                                         "keystroke \"[\" & x & \"]\"\n"));
+    const Keyrill keyrill(desktop, toSystemEvents(R"(keystroke "a"
+set x to text returned of (display dialog "Who?" default answer "nobody" with title "Weekly & <i>report</i>")
+keystroke "[" & x & "]"
+)"));
     play();
     expectTyped("a");
     desktop.run({"xdotool", "type", "Ann 7"});
@@ -68,10 +67,10 @@ TEST_P(ScriptDialogTest, whatTheUserAnswersIsTypedWhereHeWas) {
 }
 
 TEST_P(ScriptDialogTest, hotKeysDoNothingWhileAQuestionIsOpen) {
-    const Keyrill keyrill(desktop,
-                          toSystemEvents("keystroke \"a\"\n"
-                                         "display dialog \"Go on?\" with title \"Weekly & <i>report</i>\"\n"
-                                         "keystroke \"b\"\n"));
+    const Keyrill keyrill(desktop, toSystemEvents(R"(keystroke "a"
+display dialog "Go on?" with title "Weekly & <i>report</i>"
+keystroke "b"
+)"));
     play();
     for (const char* hotKey : {"ctrl+super+r", "ctrl+super+p", "ctrl+super+m", "ctrl+super+s"}) {
         desktop.press(hotKey);
@@ -85,10 +84,10 @@ TEST_P(ScriptDialogTest, hotKeysDoNothingWhileAQuestionIsOpen) {
 }
 
 TEST_P(ScriptDialogTest, escapeEndsTheMacroSilentlyAndTheNextPlayWorks) {
-    const Keyrill keyrill(desktop,
-                          toSystemEvents("keystroke \"a\"\n"
-                                         "display dialog \"Go on?\" with title \"Weekly & <i>report</i>\"\n"
-                                         "keystroke \"b\"\n"));
+    const Keyrill keyrill(desktop, toSystemEvents(R"(keystroke "a"
+display dialog "Go on?" with title "Weekly & <i>report</i>"
+keystroke "b"
+)"));
     play();
     desktop.press("Escape");
     expectTypedInTheEnd("a");
@@ -99,32 +98,33 @@ TEST_P(ScriptDialogTest, escapeEndsTheMacroSilentlyAndTheNextPlayWorks) {
 }
 
 TEST_P(ScriptDialogTest, aCancelThatTheScriptExpectsDoesNotEndIt) {
-    const Keyrill keyrill(desktop,
-                          toSystemEvents("try\n"
-                                         "display dialog \"Go on?\" with title \"Weekly & <i>report</i>\"\n"
-                                         "on error message number n\n"
-                                         "keystroke n as text\n"
-                                         "end try\n"));
+    const Keyrill keyrill(desktop, toSystemEvents(R"(try
+display dialog "Go on?" with title "Weekly & <i>report</i>"
+on error message number n
+keystroke n as text
+end try
+)"));
     play();
     desktop.press("Escape");
     expectTypedInTheEnd("-128");
 }
 
 TEST_P(ScriptDialogTest, givesUpAfterItsTime) {
-    const Keyrill keyrill(
-        desktop, toSystemEvents("keystroke \"a\"\n"
-                                "set r to display dialog \"Go on?\" with title \"Weekly & <i>report</i>\" "
-                                "giving up after 0.5\n"
-                                "keystroke gave up of r as text\n"));
+    const Keyrill keyrill(desktop, toSystemEvents(R"(keystroke "a"
+set r to display dialog "Go on?" with title "Weekly & <i>report</i>" giving up after 0.5
+keystroke gave up of r as text
+)"));
     play();
     expectTypedInTheEnd("atrue");
 }
 
 TEST_P(ScriptDialogTest, anAlertAnswersWithTheButtonThatWasPressed) {
     const Keyrill keyrill(
-        desktop, toSystemEvents("set r to display alert \"Weekly & <i>report</i>\" message \"Done.\" "
-                                "buttons {\"Left\", \"Middle\", \"Right\"}\n"
-                                "keystroke button returned of r\n"));
+        desktop,
+        toSystemEvents(
+            R"(set r to display alert "Weekly & <i>report</i>" message "Done." buttons {"Left", "Middle", "Right"}
+keystroke button returned of r
+)"));
     desktop.press("ctrl+super+p");
     const ScreenWindow window = desktop.awaitWindow("Keyrill Macro");
     ASSERT_TRUE(eventually([&] { return desktop.hasFocus(window); }));
@@ -134,14 +134,13 @@ TEST_P(ScriptDialogTest, anAlertAnswersWithTheButtonThatWasPressed) {
 }
 
 TEST_P(ScriptDialogTest, whatTheMacroHoldsIsUpWhileTheUserAnswers) {
-    const Keyrill keyrill(desktop,
-                          toSystemEvents("key down shift\n"
-                                         "key code 0\n"
-                                         "set x to text returned of (display dialog \"Who?\" default answer "
-                                         "\"\" with title \"Weekly & <i>report</i>\")\n"
-                                         "key code 11\n"
-                                         "key up shift\n"
-                                         "keystroke x\n"));
+    const Keyrill keyrill(desktop, toSystemEvents(R"(key down shift
+key code 0
+set x to text returned of (display dialog "Who?" default answer "" with title "Weekly & <i>report</i>")
+key code 11
+key up shift
+keystroke x
+)"));
     play();
     EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
     desktop.run({"xdotool", "type", "ann"});
@@ -150,14 +149,13 @@ TEST_P(ScriptDialogTest, whatTheMacroHoldsIsUpWhileTheUserAnswers) {
 }
 
 TEST_P(ScriptDialogTest, aHeldEscapeEndsAMacroThatAsksForEver) {
-    const Keyrill keyrill(
-        desktop, toSystemEvents("repeat\n"
-                                "try\n"
-                                "keystroke \"a\"\n"
-                                "display dialog \"Go on?\" buttons {\"Go on\"} default button 1 with title "
-                                "\"Weekly & <i>report</i>\"\n"
-                                "end try\n"
-                                "end repeat\n"));
+    const Keyrill keyrill(desktop, toSystemEvents(R"(repeat
+try
+keystroke "a"
+display dialog "Go on?" buttons {"Go on"} default button 1 with title "Weekly & <i>report</i>"
+end try
+end repeat
+)"));
     play();
     expectTyped("a");
     desktop.press("Escape");
@@ -173,14 +171,14 @@ TEST_P(ScriptDialogTest, aHeldEscapeEndsAMacroThatAsksForEver) {
 }
 
 TEST_P(ScriptDialogTest, theProgramEndsWithAQuestionOpen) {
-    Keyrill keyrill(desktop,
-                    toSystemEvents("key down shift\n"
-                                   "repeat\n"
-                                   "try\n"
-                                   "keystroke \"a\"\n"
-                                   "display dialog \"Go on?\" with title \"Weekly & <i>report</i>\"\n"
-                                   "end try\n"
-                                   "end repeat\n"));
+    Keyrill keyrill(desktop, toSystemEvents(R"(key down shift
+repeat
+try
+keystroke "a"
+display dialog "Go on?" with title "Weekly & <i>report</i>"
+end try
+end repeat
+)"));
     play();
     keyrill.child().signal(SIGTERM);
     EXPECT_EQ(keyrill.child().wait(std::chrono::seconds(5)), 0);
@@ -197,13 +195,13 @@ class AnsweredByHandTest : public testing::Test {
     AnsweredByHandTest() {
         desktop.startWindowManager();
         terminal.emplace(desktop.display());
-        keyrill.emplace(desktop,
-                        toSystemEvents("try\n"
-                                       "display dialog \"Go on?\" with title \"Weekly & <i>report</i>\"\n"
-                                       "keystroke \"yes\"\n"
-                                       "on error\n"
-                                       "keystroke \"no\"\n"
-                                       "end try\n"));
+        keyrill.emplace(desktop, toSystemEvents(R"(try
+display dialog "Go on?" with title "Weekly & <i>report</i>"
+keystroke "yes"
+on error
+keystroke "no"
+end try
+)"));
         desktop.run({"xdotool", "key", "ctrl+super+p"});
         const ScreenWindow window = desktop.awaitWindow(question);
         EXPECT_TRUE(eventually([&] { return desktop.hasFocus(window); }));

@@ -70,21 +70,19 @@ TEST_F(ScriptMacroTest, aRecordedMacroThatWasEditedByHandTypesWhatItSays) {
             [&] { return contentOf(desktop.home() + "/.local/share/keyrill/typed.keyrill") == recorded; }));
     }
     ASSERT_EQ(terminal->typed(2), "ab");
-    const std::string file =
-        fileWith("edited.keyrill",
-                 "-- what the program has written is in the handler\n"
-                 "on again()\n" +
-                     recorded +
-                     "end again\n"
-                     "set who to text returned of (display dialog \"Who is it?\" default answer "
-                     "\"\" with title \"Question\")\n"
-                     "repeat 3 times\n"
-                     "\tagain()\n"
-                     "end repeat\n"
-                     "tell application \"System Events\"\n"
-                     "\tkeystroke \" für \" & who & return\n"
-                     "\tdelay 0.01\n"
-                     "end tell\n");
+    const std::string file = fileWith("edited.keyrill",
+                                      "-- what the program has written is in the handler\n"
+                                      "on again()\n" +
+                                          recorded + R"(end again
+set who to text returned of (display dialog "Who is it?" default answer "" with title "Question")
+repeat 3 times
+	again()
+end repeat
+tell application "System Events"
+	keystroke " für " & who & return
+	delay 0.01
+end tell
+)");
     load(file);
     ASSERT_TRUE(terminal->hasFocus());
     play();
@@ -101,10 +99,11 @@ TEST_F(ScriptMacroTest, aRecordedMacroThatWasEditedByHandTypesWhatItSays) {
 
 TEST_F(ScriptMacroTest, anErrorOfTheCompilerIsSilentInTheProgramAndLoudInTheTool) {
     const std::string file = fileWith("wrong.keyrill",
-                                      "tell application \"System Events\"\n"
-                                      "\tkeystroke \"never\"\n"
-                                      "\tkeystroke “quoted”\n"
-                                      "end tell\n");
+                                      R"(tell application "System Events"
+	keystroke "never"
+	keystroke “quoted”
+end tell
+)");
     load(file);
     ASSERT_TRUE(terminal->hasFocus());
     play();
@@ -124,13 +123,14 @@ TEST_F(ScriptMacroTest, anErrorOfTheCompilerIsSilentInTheProgramAndLoudInTheTool
 
 TEST_F(ScriptMacroTest, anErrorOfTheRunIsSilentInTheProgramAndLoudInTheTool) {
     const std::string file = fileWith("wrong.keyrill",
-                                      "tell application \"System Events\"\n"
-                                      "\tkey down {shift, control}\n"
-                                      "\tkey up control\n"
-                                      "\tkeystroke \"ab\"\n"
-                                      "\tkeystroke item 3 of {\"x\", \"y\"}\n"
-                                      "\tkeystroke \"never\"\n"
-                                      "end tell\n");
+                                      R"(tell application "System Events"
+	key down {shift, control}
+	key up control
+	keystroke "ab"
+	keystroke item 3 of {"x", "y"}
+	keystroke "never"
+end tell
+)");
     load(file);
     ASSERT_TRUE(terminal->hasFocus());
     play();

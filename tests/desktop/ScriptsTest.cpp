@@ -47,8 +47,8 @@ TEST_P(ActivateTest, theCoveredWindowComesToTheFrontAndGetsTheKeys) {
 
 INSTANTIATE_TEST_SUITE_P(Managers, ActivateTest,
                          testing::Combine(testing::Values(WindowManager::openbox, WindowManager::xfwm4),
-                                          testing::Values("tell application \"Covered\" to activate",
-                                                          "activate application \"covered\"")),
+                                          testing::Values(R"(tell application "Covered" to activate)",
+                                                          R"(activate application "covered")")),
                          [](const auto& condition) {
                              return nameOf(std::get<WindowManager>(condition.param)) +
                                     (std::get<const char*>(condition.param)[0] == 't' ? "Told" : "Named");
@@ -69,9 +69,15 @@ TEST_P(PasteTest, aPasteTypedRightBehindFindsTheClipboard) {
     const Desktop desktop;
     const Editor editor(desktop.display(), GetParam());
     Play play(desktop.display(),
-              "tell application \"System Events\"\nkeystroke \"a\"\n"
-              "set the clipboard to \"Größe 日本 😀\" & linefeed\nkeystroke \"v\" using control down\n"
-              "delay 0.5\nkeystroke \"z\"\nkeystroke \"s\" using control down\nend tell\n");
+              R"(tell application "System Events"
+keystroke "a"
+set the clipboard to "Größe 日本 😀" & linefeed
+keystroke "v" using control down
+delay 0.5
+keystroke "z"
+keystroke "s" using control down
+end tell
+)");
     EXPECT_EQ(play.program().wait(), 0) << play.output();
     const std::string expected = "aGröße 日本 😀\nz";
     EXPECT_EQ(editor.saved(expected), expected);

@@ -111,9 +111,12 @@ TEST_F(KeyRecorderTest, anUpperCaseLetterKeepsItsNameAndItsShift) {
     modifiersBecome(modifier::shift);
     keyGoesDown(0, 'A');
     EXPECT_EQ(recorded(), "A");
-    EXPECT_EQ(
-        state().recordingMacro->script(),
-        "tell application \"System Events\"\n\tkey code (0) using {shift down}\ndelay 0.01\nend tell\n");
+    EXPECT_EQ(state().recordingMacro->script(),
+              R"(tell application "System Events"
+	key code (0) using {shift down}
+delay 0.01
+end tell
+)");
 }
 
 TEST_F(KeyRecorderTest, recordsTheWholeKeyCodeButNamesItByItsLower16Bits) {
@@ -122,8 +125,13 @@ TEST_F(KeyRecorderTest, recordsTheWholeKeyCodeButNamesItByItsLower16Bits) {
     keyGoesDown(0x10B7, 0);
     EXPECT_EQ(recorded(), "aKey 4279");
     EXPECT_EQ(state().recordingMacro->script(),
-              "tell application \"System Events\"\n\tkey code (65536) using {}\ndelay 0.01\n"
-              "\tkey code (4279) using {}\ndelay 0.01\nend tell\n");
+              R"(tell application "System Events"
+	key code (65536) using {}
+delay 0.01
+	key code (4279) using {}
+delay 0.01
+end tell
+)");
 }
 
 TEST_F(KeyRecorderTest, storesTheMaskAsDelivered) {

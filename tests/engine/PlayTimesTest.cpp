@@ -46,7 +46,9 @@ TEST_F(PlayTimesTest, takesTheScriptAlsoWhenItRunsNothing) {
     playTimes(0);
     // The text has been built and is kept: what is added now does not appear in it.
     state().currentMacro->addAction(createKeyCode(36, "↩", '\r'));
-    EXPECT_EQ(state().currentMacro->script(), "tell application \"System Events\"\nend tell\n");
+    EXPECT_EQ(state().currentMacro->script(), R"(tell application "System Events"
+end tell
+)");
 }
 
 TEST_F(PlayTimesTest, playsOneTextThroughoutWhateverBecomesOfTheMacro) {

@@ -21,7 +21,11 @@ TEST_F(SaveDelayTest, addsTheTimeSinceTheStartOfTheRecording) {
     toggleRecording();
     passes(0.5);
     saveDelayToNow();
-    EXPECT_EQ(script(), "tell application \"System Events\"\n\tdelay 0.5\ndelay 0.01\nend tell\n");
+    EXPECT_EQ(script(), R"(tell application "System Events"
+	delay 0.5
+delay 0.01
+end tell
+)");
     EXPECT_EQ(gui.overlayText(), "<⌛ 0.50>");
 }
 
@@ -40,9 +44,14 @@ TEST_F(SaveDelayTest, measuresASecondPauseFromTheFirst) {
     saveDelayToNow();
     passes(0.125);
     saveDelayToNow();
-    EXPECT_EQ(
-        script(),
-        "tell application \"System Events\"\n\tdelay 3\ndelay 0.01\n\tdelay 0.125\ndelay 0.01\nend tell\n");
+    EXPECT_EQ(script(),
+              R"(tell application "System Events"
+	delay 3
+delay 0.01
+	delay 0.125
+delay 0.01
+end tell
+)");
 }
 
 TEST_F(SaveDelayTest, neitherRoundsNorLimits) {
@@ -53,8 +62,15 @@ TEST_F(SaveDelayTest, neitherRoundsNorLimits) {
     passes(2000000);
     saveDelayToNow();
     EXPECT_EQ(script(),
-              "tell application \"System Events\"\n\tdelay 0\ndelay 0.01\n\tdelay 1e-06\ndelay 0.01\n"
-              "\tdelay 2e+06\ndelay 0.01\nend tell\n");
+              R"(tell application "System Events"
+	delay 0
+delay 0.01
+	delay 1e-06
+delay 0.01
+	delay 2e+06
+delay 0.01
+end tell
+)");
 }
 
 TEST_F(SaveDelayTest, doesNothingBeforeTheFirstRecording) {

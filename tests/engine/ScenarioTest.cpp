@@ -10,12 +10,17 @@ TEST_F(ScenarioTest, recordTypeStopPlayPlaysWhatWasTypedAndNotTheHotKeys) {
     recordTyping("a b\n");
     EXPECT_EQ(currentMacro(), "a b↩");
     user.strikesPlay();
-    EXPECT_EQ(runs(), (std::vector<std::string>{"tell application \"System Events\"\n"
-                                                "\tkey code (0) using {}\ndelay 0.01\n"
-                                                "\tkey code (49) using {}\ndelay 0.01\n"
-                                                "\tkey code (11) using {}\ndelay 0.01\n"
-                                                "\tkey code (36) using {}\ndelay 0.01\n"
-                                                "end tell\n"}));
+    EXPECT_EQ(runs(), (std::vector<std::string>{R"(tell application "System Events"
+	key code (0) using {}
+delay 0.01
+	key code (49) using {}
+delay 0.01
+	key code (11) using {}
+delay 0.01
+	key code (36) using {}
+delay 0.01
+end tell
+)"}));
 }
 
 TEST_F(ScenarioTest, theRecordHotKeyEndsTheRecordingThatItStarted) {
@@ -39,9 +44,11 @@ TEST_F(ScenarioTest, aLetterTypedWithCapsLockIsRecordedAsAShiftedOne) {
     recordTyping("a");
     EXPECT_EQ(currentMacro(), "A");
     user.strikesPlay();
-    EXPECT_EQ(runs(),
-              (std::vector<std::string>{"tell application \"System Events\"\n"
-                                        "\tkey code (0) using {shift down}\ndelay 0.01\nend tell\n"}));
+    EXPECT_EQ(runs(), (std::vector<std::string>{R"(tell application "System Events"
+	key code (0) using {shift down}
+delay 0.01
+end tell
+)"}));
 }
 
 TEST_F(ScenarioTest, aLetterTypedWithCapsLockAndShiftIsRecordedAsASmallOne) {
@@ -51,8 +58,11 @@ TEST_F(ScenarioTest, aLetterTypedWithCapsLockAndShiftIsRecordedAsASmallOne) {
     user.strikesStop();
     EXPECT_EQ(currentMacro(), "a");
     user.strikesPlay();
-    EXPECT_EQ(runs(), (std::vector<std::string>{"tell application \"System Events\"\n"
-                                                "\tkey code (0) using {}\ndelay 0.01\nend tell\n"}));
+    EXPECT_EQ(runs(), (std::vector<std::string>{R"(tell application "System Events"
+	key code (0) using {}
+delay 0.01
+end tell
+)"}));
 }
 
 TEST_F(ScenarioTest, capsLockDoesNotHoldBackAPlay) {

@@ -32,10 +32,13 @@ TEST_F(EngineWithoutControllerTest, recordsAndPlaysAllTheSame) {
     stopRecording();
     promptMultiplePlay();
     playTimes(1);
-    EXPECT_EQ(runs(), (std::vector<std::string>{"tell application \"System Events\"\n"
-                                                "\tkey code (36) using {}\ndelay 0.01\n"
-                                                "\tdelay 0\ndelay 0.01\n"
-                                                "end tell\n"}));
+    EXPECT_EQ(runs(), (std::vector<std::string>{R"(tell application "System Events"
+	key code (36) using {}
+delay 0.01
+	delay 0
+delay 0.01
+end tell
+)"}));
 }
 
 }  // namespace

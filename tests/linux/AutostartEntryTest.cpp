@@ -46,11 +46,19 @@ TEST_F(AutostartEntryTest, isOffAtFirst) {
 TEST_F(AutostartEntryTest, isWrittenAsDocumented) {
     EXPECT_TRUE(entry.install(true));
     EXPECT_EQ(entry.state(), State::on);
-    EXPECT_EQ(
-        content(),
-        "[Desktop Entry]\nType=Application\nName=Keyrill\nComment=Record keystrokes and play them again\n"
-        "Exec=/opt/keyrill/bin/keyrill\nIcon=example.orlen.Keyrill\nTerminal=false\nHidden=false\n"
-        "X-GNOME-Autostart-Delay=2\nX-KDE-autostart-after=panel\nX-LXQt-Need-Tray=true\n");
+    EXPECT_EQ(content(),
+              R"([Desktop Entry]
+Type=Application
+Name=Keyrill
+Comment=Record keystrokes and play them again
+Exec=/opt/keyrill/bin/keyrill
+Icon=example.orlen.Keyrill
+Terminal=false
+Hidden=false
+X-GNOME-Autostart-Delay=2
+X-KDE-autostart-after=panel
+X-LXQt-Need-Tray=true
+)");
 }
 
 TEST_F(AutostartEntryTest, passesTheStandardsCheck) {
@@ -66,7 +74,7 @@ TEST_F(AutostartEntryTest, isNotWrittenTwice) {
 }
 
 TEST_F(AutostartEntryTest, isLeftAsTheUserEditedIt) {
-    const std::string edited = entryFor("\"/opt/keyrill/bin/keyrill\" --x", "X-GNOME-Autostart-Delay=30\n");
+    const std::string edited = entryFor(R"("/opt/keyrill/bin/keyrill" --x)", "X-GNOME-Autostart-Delay=30\n");
     put("user", edited);
     EXPECT_EQ(entry.state(), State::on);
     EXPECT_TRUE(entry.install(true));

@@ -28,7 +28,7 @@ TEST(DesktopExecTest, readsItsOwnQuotes) {
 
 TEST(DesktopExecTest, readsTheFirstWordOfWhatOthersWrote) {
     EXPECT_EQ(programIn("/usr/bin/keyrill --quiet %U"), "/usr/bin/keyrill");
-    EXPECT_EQ(programIn("\"/a b\" x"), "/a b");
+    EXPECT_EQ(programIn(R"("/a b" x)"), "/a b");
     EXPECT_EQ(programIn("keyrill"), "keyrill");
 }
 

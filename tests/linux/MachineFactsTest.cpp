@@ -49,8 +49,12 @@ const std::string cpu = "/sys/devices/system/cpu/";
 
 TEST(MachineFactsTest, areThoseOfALaptop) {
     EXPECT_EQ(factsOf({{"/etc/os-release",
-                        "PRETTY_NAME=\"Debian GNU/Linux 12 (bookworm)\"\nNAME=\"Debian GNU/Linux\"\n"
-                        "VERSION_ID=\"12\"\nVERSION=\"12 (bookworm)\"\nID=debian\n"},
+                        R"text(PRETTY_NAME="Debian GNU/Linux 12 (bookworm)"
+NAME="Debian GNU/Linux"
+VERSION_ID="12"
+VERSION="12 (bookworm)"
+ID=debian
+)text"},
                        {"/sys/class/dmi/id/product_name", "20XW00FPMH\n"},
                        {"/sys/class/dmi/id/product_serial", "PF000000\n"},
                        {cpu + "present", "0-7\n"},
@@ -104,8 +108,8 @@ TEST(MachineFactsTest, haveAValueForWhatIsNotKnown) {
 }
 
 TEST(MachineFactsTest, readTheSystemsNameAsAShellWould) {
-    EXPECT_EQ(systemOf("PRETTY_NAME=\"A \\\"B\\\" \\$C\"\n"), "A \"B\" $C");
-    EXPECT_EQ(systemOf("PRETTY_NAME='A \"B\"'\n"), "A \"B\"");
+    EXPECT_EQ(systemOf("PRETTY_NAME=\"A \\\"B\\\" \\$C\"\n"), R"(A "B" $C)");
+    EXPECT_EQ(systemOf("PRETTY_NAME='A \"B\"'\n"), R"(A "B")");
     EXPECT_EQ(systemOf("# PRETTY_NAME=no\nPRETTY_NAME=Arch\n"), "Arch");
     EXPECT_EQ(systemOf("PRETTY_NAME=First\nPRETTY_NAME=Last"), "Last");
     EXPECT_EQ(systemOf("NAME=Void\n"), "Void");

@@ -48,27 +48,29 @@ TEST_F(EditorsTest, editorsWithGtkSourceViewColourAScript) {
     EXPECT_EQ(
         outputOf({"/usr/bin/python3", KEYRILL_COLOURED, installed("gtksourceview-4/language-specs"), file()},
                  {{"DISPLAY", ""}, {"LC_ALL", "C.UTF-8"}}),
-        "#A52A2A tell\n"
-        "#A52A2A application\n"
-        "#FF00FF \"Sys\n"
-        "#6A5ACD \\n\n"
-        "#FF00FF \"\n"
-        "#0000FF -- (* a comment\n"
-        "#008A8C keystroke\n"
-        "#A52A2A using\n"
-        "#FF00FF command down\n"
-        "#008A8C Key  Code\n"
-        "#FF00FF 36\n"
-        "#0000FF -- however it is written\n"
-        "#A52A2A set\n"
-        "#A52A2A to\n"
-        "#A52A2A as\n"
-        "#2E8B57 integer\n"
-        "#A52A2A end\n"
-        "#A52A2A tell\n"
-        "#0000FF (* two\nlines *)\n"
-        "#008A8C delay\n"
-        "#FF00FF .5\n");
+        R"(#A52A2A tell
+#A52A2A application
+#FF00FF "Sys
+#6A5ACD \n
+#FF00FF "
+#0000FF -- (* a comment
+#008A8C keystroke
+#A52A2A using
+#FF00FF command down
+#008A8C Key  Code
+#FF00FF 36
+#0000FF -- however it is written
+#A52A2A set
+#A52A2A to
+#A52A2A as
+#2E8B57 integer
+#A52A2A end
+#A52A2A tell
+#0000FF (* two
+lines *)
+#008A8C delay
+#FF00FF .5
+)");
 }
 
 TEST_F(EditorsTest, editorsWithKSyntaxHighlightingColourAScript) {

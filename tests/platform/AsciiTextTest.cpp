@@ -18,11 +18,11 @@ TEST(AsciiTextTest, isContentWithAscii) {
 
 TEST(AsciiTextTest, namesLinePlaceAndCharacter) {
     EXPECT_EQ(complaint("é"),
-              "Line 1 has the character \"é\" (U+00E9) at place 1, and a macro file can hold ASCII only.");
+              R"(Line 1 has the character "é" (U+00E9) at place 1, and a macro file can hold ASCII only.)");
     EXPECT_EQ(complaint("tell\n\n\tkeystroke \"€\"\nend é"),
-              "Line 3 has the character \"€\" (U+20AC) at place 13, and a macro file can hold ASCII only.");
+              R"(Line 3 has the character "€" (U+20AC) at place 13, and a macro file can hold ASCII only.)");
     EXPECT_EQ(complaint("x😀"),
-              "Line 1 has the character \"😀\" (U+1F600) at place 2, and a macro file can hold ASCII only.");
+              R"(Line 1 has the character "😀" (U+1F600) at place 2, and a macro file can hold ASCII only.)");
 }
 
 TEST(AsciiTextTest, namesWhatCannotBeShownByItsNumber) {

@@ -34,8 +34,8 @@ TEST(TextPlanTest, whatIsNotUtf8IsRefusedAtItsByte) {
 }
 
 TEST(TextPlanTest, charactersAreNamedWithTheirCode) {
-    EXPECT_EQ(nameOf(U'é'), "\"é\" (U+00E9)");
-    EXPECT_EQ(nameOf(U'😀'), "\"😀\" (U+1F600)");
+    EXPECT_EQ(nameOf(U'é'), R"("é" (U+00E9))");
+    EXPECT_EQ(nameOf(U'😀'), R"("😀" (U+1F600))");
     EXPECT_EQ(nameOf(1), "U+0001");
 }
 

@@ -28,10 +28,10 @@ INSTANTIATE_TEST_SUITE_P(
             "The block that begins in line 2 has no “end” of its own."},
         Row{"a forgotten end at the end", "if true then\nrepeat\nend repeat\n",
             "The block that begins in line 1 has no “end” of its own."},
-        Row{"keystroke outside", "keystroke \"a\"",
-            "The keyboard commands stand inside “tell application \"System Events\"” … “end tell”."},
+        Row{"keystroke outside", R"(keystroke "a")",
+            R"(The keyboard commands stand inside “tell application "System Events"” … “end tell”.)"},
         Row{"key code outside", "\tkey code 5",
-            "The keyboard commands stand inside “tell application \"System Events\"” … “end tell”."},
+            R"(The keyboard commands stand inside “tell application "System Events"” … “end tell”.)"},
         Row{"else in one line", "if true then 1 else 2",
             "An “if” in one line has no “else”; write it in lines, with “end if”."},
         Row{"another language's unequal", "1 != 2", "“Not equal” is written ≠ or /=."},
@@ -42,6 +42,6 @@ INSTANTIATE_TEST_SUITE_P(
             "Behind “as” stands a class: text, integer, real, number, boolean, list, record, date."},
         Row{"my forgotten", "on f()\nend f\ntell app \"System Events\" to f()",
             "Inside “tell” the script’s own handlers are called with “my”: my f(…)."},
-        Row{"nothing to say", "error \"x\"", ""}));
+        Row{"nothing to say", R"(error "x")", ""}));
 
 }  // namespace

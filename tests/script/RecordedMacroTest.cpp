@@ -26,10 +26,14 @@ TEST(RecordedMacroTest, playsWhatWasRecorded) {
     addKey(macro, 0, 0);
     const Traced result = traced(macro.script());
     EXPECT_EQ(result.phase, Traced::Phase::none) << result.error.message;
-    EXPECT_EQ(
-        result.events,
-        "[\"key\",1,[\"command\"]]\n[\"delay\",0.01]\n[\"delay\",0.5]\n[\"delay\",0.01]\n[\"key\",0,[]]\n"
-        "[\"delay\",0.01]\n");
+    EXPECT_EQ(result.events,
+              R"(["key",1,["command"]]
+["delay",0.01]
+["delay",0.5]
+["delay",0.01]
+["key",0,[]]
+["delay",0.01]
+)");
 }
 
 TEST(RecordedMacroTest, anEmptyMacroPlaysNothing) {
@@ -42,7 +46,9 @@ TEST(RecordedMacroTest, allModifiersPlay) {
     Macro macro;
     addKey(macro, 18, modifier::shift | modifier::option | modifier::control | modifier::command);
     EXPECT_EQ(traced(macro.script()).events,
-              "[\"key\",18,[\"command\",\"control\",\"option\",\"shift\"]]\n[\"delay\",0.01]\n");
+              R"(["key",18,["command","control","option","shift"]]
+["delay",0.01]
+)");
 }
 
 TEST(RecordedMacroTest, everyKeyThatCanBeRecordedPlays) {

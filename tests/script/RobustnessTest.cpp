@@ -9,10 +9,21 @@
 namespace {
 
 const std::string sample =
-    "-- a macro\n(* with (* all *) *)\ntell the application \"System Events\"\n\tkey code (36) using {}\n"
-    "delay 0.01\n\tkey code {1, 2.5e0} ¬\n\tusing {command down, shift}\n"
-    "\tkeystroke \"h\\\"é\" & return & 3 div 2\n\trepeat 2 times\n\t\tkey down {\"w\", 49}\n\t\texit repeat\n"
-    "\tend repeat\n\ttell process |a b| to delay -1 + 2 * (3 ^ 2)\nend tell\n";
+    R"(-- a macro
+(* with (* all *) *)
+tell the application "System Events"
+	key code (36) using {}
+delay 0.01
+	key code {1, 2.5e0} ¬
+	using {command down, shift}
+	keystroke "h\"é" & return & 3 div 2
+	repeat 2 times
+		key down {"w", 49}
+		exit repeat
+	end repeat
+	tell process |a b| to delay -1 + 2 * (3 ^ 2)
+end tell
+)";
 
 /// Compiles or is refused with a message and a place within the source.
 void expectAnAnswer(const std::string& source) {

@@ -45,7 +45,7 @@ TEST(SessionsTest, whereNoneIsKnownThereIsNone) {
 TEST(SessionsTest, anUnknownNameListsTheKnownOnes) {
     const std::array kinds{near, far};
     EXPECT_EQ(chooseSession("farr", kinds).error(),
-              (Error{"There is no kind of session called \"farr\".", "Choose one of these: near, far."}));
+              (Error{R"(There is no kind of session called "farr".)", "Choose one of these: near, far."}));
 }
 
 TEST(SessionsTest, eachKindHasANameOfItsOwnAndAWayIn) {

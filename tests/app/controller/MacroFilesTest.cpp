@@ -104,7 +104,7 @@ TEST_F(MacroFilesTest, tellsWhyAMacroWasNotSaved) {
     save();
     ASSERT_EQ(dialogs.alerts.size(), 1U);
     EXPECT_EQ(dialogs.alerts[0], (AlertText{.kind = AlertText::Kind::warning,
-                                            .title = "The macro was not saved as \"greeting.keyrill\".",
+                                            .title = R"(The macro was not saved as "greeting.keyrill".)",
                                             .message = "The folder is read-only.\n\nChoose another.",
                                             .defaultButton = "OK"}));
     EXPECT_EQ(content(), "before");
@@ -125,7 +125,7 @@ TEST_F(MacroFilesTest, tellsWhyAFileCannotBeReadAndKeepsTheCurrentMacro) {
     platform().macroFiles.failNextCall({"Permission denied.", ""});
     load();
     ASSERT_EQ(dialogs.alerts.size(), 1U);
-    EXPECT_EQ(dialogs.alerts[0].title, "No macro was loaded from \"greeting.keyrill\".");
+    EXPECT_EQ(dialogs.alerts[0].title, R"(No macro was loaded from "greeting.keyrill".)");
     EXPECT_EQ(dialogs.alerts[0].message, "Permission denied.");
     EXPECT_EQ(state().currentMacro, current);
 }
@@ -168,7 +168,7 @@ TEST_F(MacroFilesTest, loadsAFileFromOutsideWithoutPlayingItAndSaysHowToPlay) {
     EXPECT_TRUE(runs().empty());
     EXPECT_EQ(platform().notifications.messages(),
               (std::vector<FakeNotifications::Message>{
-                  {"\"greeting.keyrill\" is loaded", "Press Ctrl+Super+P to play it."}}));
+                  {R"("greeting.keyrill" is loaded)", "Press Ctrl+Super+P to play it."}}));
 }
 
 TEST_F(MacroFilesTest, saysHowToPlayWithoutACombination) {
@@ -188,7 +188,7 @@ TEST_F(MacroFilesTest, refusesAFileFromOutsideDuringARecording) {
     EXPECT_EQ(
         platform().notifications.messages(),
         (std::vector<FakeNotifications::Message>{
-            {"\"greeting.keyrill\" was not loaded", "A macro is being recorded. Stop recording first."}}));
+            {R"("greeting.keyrill" was not loaded)", "A macro is being recorded. Stop recording first."}}));
 }
 
 TEST_F(MacroFilesTest, refusesAFileFromOutsideWhileAQuestionIsOpen) {

@@ -46,7 +46,7 @@ TEST_F(ScriptQuestionsTest, theGateIsShutWhileAQuestionIsOpen) {
     EXPECT_TRUE(questions().ask({.text = "Go on?", .buttons = {"OK"}}));
     EXPECT_FALSE(state().recording);
     EXPECT_EQ(platform().notifications.messages(),
-              Messages({{"\"other.keyrill\" was not loaded", "Answer Keyrill's question first."}}));
+              Messages({{R"("other.keyrill" was not loaded)", "Answer Keyrill's question first."}}));
     controller.statusMenu.recordMenuItem->trigger();
     EXPECT_TRUE(state().recording);
 }

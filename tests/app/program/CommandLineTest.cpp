@@ -34,7 +34,7 @@ TEST(CommandLineTest, theFirstUnknownOptionIsNamed) {
     const CommandLine line = readCommandLine({"-style", "a", "--sesion=x11"});
     EXPECT_EQ(line.unknown, (std::vector<std::string>{"-style", "--sesion=x11"}));
     EXPECT_EQ(checkOptions(line).error(),
-              (Error{"There is no option \"-style\".", "keyrill --help lists them."}));
+              (Error{R"(There is no option "-style".)", "keyrill --help lists them."}));
     EXPECT_TRUE(checkOptions(readCommandLine({"a"})));
 }
 

@@ -28,8 +28,10 @@ class LaunchTest : public testing::TestWithParam<std::tuple<std::vector<std::str
 
 TEST_P(LaunchTest, startsTheProgramUnderItsPath) {
     fs::create_directories(fs::path(program).parent_path());
-    std::ofstream(program)
-        << "#!/bin/sh\nprintf '%s %s' \"$#\" \"$0\" >\"$STARTED.part\"\nmv \"$STARTED.part\" \"$STARTED\"\n";
+    std::ofstream(program) << R"(#!/bin/sh
+printf '%s %s' "$#" "$0" >"$STARTED.part"
+mv "$STARTED.part" "$STARTED"
+)";
     fs::permissions(program, fs::perms::owner_all);
     AutostartEntry entry({folder.file("config"), {}}, program);
     ASSERT_TRUE(entry.install(true));

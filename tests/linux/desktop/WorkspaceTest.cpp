@@ -25,8 +25,10 @@ class WorkspaceTest : public testing::Test {
     /// A program that writes how many arguments it got, and the first.
     void putRecorder(const std::string& name) const {
         const std::string file = folder.file("bin/" + name);
-        std::ofstream(file) << "#!/bin/sh\nprintf '%s %s' \"$#\" \"$1\" >\"$RECEIVED.part\"\n"
-                            << "mv \"$RECEIVED.part\" \"$RECEIVED\"\n";
+        std::ofstream(file) << R"(#!/bin/sh
+printf '%s %s' "$#" "$1" >"$RECEIVED.part"
+mv "$RECEIVED.part" "$RECEIVED"
+)";
         fs::permissions(file, fs::perms::owner_all);
     }
     void searchFirst(const std::string& place) const { setenv("PATH", (place + ":" + m_path).c_str(), 1); }

@@ -21,7 +21,7 @@ TEST(MachineTest, anApplicationThatIsNotThereFailsWhereItIsTold) {
         const script::RunResult result = script::run(compiled.value(), {injector, desktop, dialogs});
         ASSERT_TRUE(result.error) << source;
         EXPECT_EQ(result.error->number, -1728);
-        EXPECT_EQ(result.error->message, "Can’t get application \"Other\".");
+        EXPECT_EQ(result.error->message, R"(Can’t get application "Other".)");
         EXPECT_EQ(result.error->location.line, 2U);
     }
 }
@@ -31,26 +31,42 @@ TEST(MachineTest, controlCharactersAreText) {
 }
 
 TEST(MachineTest, errorsNameTheirPlace) {
-    const Traced result = traced("tell app \"System Events\"\n\tdelay 1\n\tdelay 1 + \"x\"\nend");
+    const Traced result = traced(R"(tell app "System Events"
+	delay 1
+	delay 1 + "x"
+end)");
     EXPECT_EQ(result.phase, Traced::Phase::run);
-    EXPECT_EQ(result.error, (script::ScriptError{-1700, "Can’t make \"x\" into type number.", {3, 10}}));
+    EXPECT_EQ(result.error, (script::ScriptError{-1700, R"(Can’t make "x" into type number.)", {3, 10}}));
 }
 
 TEST(MachineTest, theWorkedExampleOfARecordedMacro) {
     const Traced result = traced(
-        "tell application \"System Events\"\n\tkey code (1) using {command down}\ndelay 0.01\n\tdelay 0.5\n"
-        "delay 0.01\n\tkey code (0) using {}\ndelay 0.01\nend tell\n");
+        R"(tell application "System Events"
+	key code (1) using {command down}
+delay 0.01
+	delay 0.5
+delay 0.01
+	key code (0) using {}
+delay 0.01
+end tell
+)");
     EXPECT_EQ(result.phase, Traced::Phase::none) << result.error.message;
-    EXPECT_EQ(
-        result.events,
-        "[\"key\",1,[\"command\"]]\n[\"delay\",0.01]\n[\"delay\",0.5]\n[\"delay\",0.01]\n[\"key\",0,[]]\n"
-        "[\"delay\",0.01]\n");
+    EXPECT_EQ(result.events,
+              R"(["key",1,["command"]]
+["delay",0.01]
+["delay",0.5]
+["delay",0.01]
+["key",0,[]]
+["delay",0.01]
+)");
     EXPECT_EQ(result.warnings, Lines());
 }
 
 TEST(MachineTest, theCompilerWarnsOfWhatIsWrittenAndTheRunOfWhatItMeets) {
-    const Traced result =
-        traced("tell app \"System Events\"\nkey code 4279\nkey code {66} using command\nend");
+    const Traced result = traced(R"(tell app "System Events"
+key code 4279
+key code {66} using command
+end)");
     EXPECT_EQ(result.warnings, (Lines{"2:10 Key code 4279 is an extension, which only Keyrill plays.",
                                       "3:11 Key code 66 has no key; nothing is pressed.",
                                       "3:21 “command” is taken as “command down”.",
@@ -67,7 +83,11 @@ TEST(MachineTest, warningsAreBounded) {
 }
 
 TEST(MachineTest, aRunWarnsOnceOfOnePlace) {
-    const Traced result = traced("tell app \"System Events\"\nrepeat 3 times\nkey code (60 + 6)\nend\nend");
+    const Traced result = traced(R"(tell app "System Events"
+repeat 3 times
+key code (60 + 6)
+end
+end)");
     EXPECT_EQ(result.warnings, Lines{"3:1 Key code 66 has no key; nothing is pressed."});
 }
 

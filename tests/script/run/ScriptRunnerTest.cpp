@@ -34,7 +34,11 @@ class ScriptRunnerTest : public testing::Test {
 
 TEST_F(ScriptRunnerTest, aScriptWithoutStrokesAndPausesOpensNoSession) {
     m_runner.run("");
-    tell("1 + 1\nrepeat 3 times\nend\nkeystroke \"\"\nkey code 66");
+    tell(R"(1 + 1
+repeat 3 times
+end
+keystroke ""
+key code 66)");
     EXPECT_EQ(m_injector.calls, Calls());
 }
 
@@ -44,17 +48,28 @@ TEST_F(ScriptRunnerTest, aScriptThatDoesNotCompileOpensNoSession) {
 }
 
 TEST_F(ScriptRunnerTest, oneSessionServesTheRunAndEndsWithIt) {
-    tell("key code 1\ndelay 0.1\nkeystroke \"ab\"\nkey down shift\nkey up shift");
+    tell(R"(key code 1
+delay 0.1
+keystroke "ab"
+key down shift
+key up shift)");
     EXPECT_EQ(m_injector.calls, (Calls{"open", "key 1", "pause", "text ab", "down", "up", "close"}));
 }
 
 TEST_F(ScriptRunnerTest, theSessionEndsAfterAnErrorToo) {
-    tell("key down shift\ndelay \"x\"\nkey code 1");
+    tell(R"(key down shift
+delay "x"
+key code 1)");
     EXPECT_EQ(m_injector.calls, (Calls{"open", "down", "close"}));
 }
 
 TEST_F(ScriptRunnerTest, allLiteralTextsArePlannedBeforeTheFirstStroke) {
-    tell("key code 1\nkeystroke \"é\" & \"b\" & 1\nrepeat 0 times\nkeystroke {\"ü\"}\nend\nkey down \"w\"");
+    tell(R"(key code 1
+keystroke "é" & "b" & 1
+repeat 0 times
+keystroke {"ü"}
+end
+key down "w")");
     EXPECT_EQ(m_injector.plannedTexts, (Calls{"é", "b", "ü", "w"}));
 }
 
@@ -85,7 +100,7 @@ TEST_F(ScriptRunnerTest, aStopEndsALoopThatDoesNothing) {
 
 TEST_F(ScriptRunnerTest, anErrorOfTheInjectorIsAnErrorOfTheRun) {
     m_injector.stepError = "No key types “é”.";
-    const script::RunResult result = resultOf("keystroke \"é\"");
+    const script::RunResult result = resultOf(R"(keystroke "é")");
     EXPECT_EQ(result.end, script::RunEnd::failed);
     EXPECT_EQ(result.error, (script::ScriptError{
                                 -10000, "System Events got an error: No key types “é”. Do this.", {2, 1}}));
@@ -106,7 +121,8 @@ class SecondButton : public script::NoDialogs {
 };
 
 TEST_F(ScriptRunnerTest, scriptsAskThroughTheDialogsThatTheyAreGiven) {
-    const std::string lines = "display dialog \"Go on?\"\nkey code 0";
+    const std::string lines = R"(display dialog "Go on?"
+key code 0)";
     tell(lines);
     EXPECT_EQ(m_injector.calls, Calls());
     SecondButton dialogs;

@@ -37,7 +37,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"blocks nest", "a (* b (* c *) d *) e", "a e END"},
                     Row{"blocks reach over lines", "a (* b\nc *) d", "a d END"},
                     Row{"a quote inside a comment opens nothing", "-- don't \"\na (* \" *) b", "NL a b END"},
-                    Row{"comment signs inside a text open nothing", "\"-- (* #\" a", "\"-- (* #\" a END"},
+                    Row{"comment signs inside a text open nothing", R"("-- (* #" a)", R"("-- (* #" a END)"},
                     Row{"other comments inside a block mean nothing", "(* -- *) a", "a END"},
                     Row{"a block that never ends", "a (* b (* c *)", "a <open comment> END"}));
 
@@ -61,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(Literals, LexerTest,
                                          Row{"a point alone is unknown", "a . b", "a <unknown .> b END"},
                                          Row{"text with escapes", R"("a\"b\\" c)", R"("a\"b\\" c END)"},
                                          Row{"text over lines", "\"a\nb\"", "\"a\nb\" END"},
-                                         Row{"a text that never ends", "a \"b\\\"", "a <open text> END"},
+                                         Row{"a text that never ends", R"(a "b\")", "a <open text> END"},
                                          Row{"a text that ends in a backslash", "\"\\", "<open text> END"}));
 
 INSTANTIATE_TEST_SUITE_P(

@@ -13,7 +13,7 @@ std::string repeated(const std::string& text, int count) {
 }
 
 TEST(ParserBoundTest, thirtyTwoTellsNestAndNoMore) {
-    const std::string tell = "tell app \"A\" to ";
+    const std::string tell = R"(tell app "A" to )";
     EXPECT_EQ(printedError(repeated(tell, 32) + "delay"), "");
     EXPECT_EQ(printedError(repeated(tell, 33) + "delay"),
               "1:513 -2760 Tell statements are nested too deeply.");

@@ -86,7 +86,7 @@ TEST(ArithmeticTest, textThatReadsAsANumberCalculates) {
     EXPECT_EQ(result(text("5"), BinaryOperator::plus, integer(3)), "8");
     EXPECT_EQ(result(integer(2), BinaryOperator::times, text("1.5")), "3.0");
     EXPECT_EQ(result(integer(2), BinaryOperator::times, text("x")),
-              "-1700 Can’t make \"x\" into type number.");
+              R"(-1700 Can’t make "x" into type number.)");
 }
 
 TEST(ArithmeticTest, divisionByZeroAndOverflowAreErrors) {
@@ -100,8 +100,8 @@ TEST(ArithmeticTest, divisionByZeroAndOverflowAreErrors) {
 }
 
 TEST(ArithmeticTest, joiningGivesTextBesideTextAndElseAList) {
-    EXPECT_EQ(result(text("a"), BinaryOperator::join, integer(1)), "\"a1\"");
-    EXPECT_EQ(result(integer(1), BinaryOperator::join, text("a")), "{1, \"a\"}");
+    EXPECT_EQ(result(text("a"), BinaryOperator::join, integer(1)), R"("a1")");
+    EXPECT_EQ(result(integer(1), BinaryOperator::join, text("a")), R"({1, "a"})");
     EXPECT_EQ(result(Value{List{integer(1)}}, BinaryOperator::join, Value{List{integer(2)}}), "{1, 2}");
 }
 

@@ -81,9 +81,16 @@ TEST_F(ClipboardTest, givesWhatWasSetToOtherClients) {
 
 TEST_F(ClipboardTest, givesTheFormsThatItSays) {
     ASSERT_TRUE(clipboard.set("Grüße €"));
-    EXPECT_EQ(
-        pastedByXclip("TARGETS"),
-        "TARGETS\nMULTIPLE\nTIMESTAMP\nUTF8_STRING\ntext/plain;charset=utf-8\ntext/plain\nTEXT\nSTRING\n");
+    EXPECT_EQ(pastedByXclip("TARGETS"),
+              R"(TARGETS
+MULTIPLE
+TIMESTAMP
+UTF8_STRING
+text/plain;charset=utf-8
+text/plain
+TEXT
+STRING
+)");
     EXPECT_EQ(pastedByXclip("text/plain;charset=utf-8"), "Grüße €");
     // Latin-1, in which there is no Euro sign.
     EXPECT_EQ(pastedByXclip("STRING"),

@@ -46,7 +46,7 @@ TEST(X11SessionCheckTest, namesTheKindOfSessionThatItFound) {
 
 TEST(X11SessionCheckTest, namesTheDisplayThatIsNotThere) {
     const x11::X11SessionCheck check({":9999", ""});
-    const std::string message = "The X server of display \":9999\" cannot be reached.";
+    const std::string message = R"(The X server of display ":9999" cannot be reached.)";
     EXPECT_EQ(check.version().error().message, message);
     EXPECT_EQ(check.access().error().message, message);
     EXPECT_FALSE(check.seesOnlySomeWindows());
