@@ -11,29 +11,13 @@
 
 namespace {
 
-void requestPlayOnce() { requestPlay(1); }
-
-/// What the shortcut of that name does.
-struct Command {
-    std::string_view name;
-    void (*pressed)() = nullptr;
-    void (*released)() = nullptr;
-    bool cancelsPlayback = false;
-};
-
-constexpr std::array commands = {
-    Command{.name = "record", .pressed = toggleRecording},
-    Command{.name = "stop", .pressed = stopRecording, .cancelsPlayback = true},
-    Command{.name = "play", .released = requestPlayOnce},
-    Command{.name = "multiplePlay", .pressed = promptMultiplePlay},
-};
-static_assert(commands.size() == shortcutRows.size());
+static_assert(commandRows.size() == shortcutRows.size());
 
 /// A shortcut and the command of its name; without one it does not compile.
 consteval HotKeyRow rowFor(const ShortcutRow& shortcut) {
     std::size_t index = 0;
-    while (commands.at(index).name != shortcut.name) ++index;
-    const Command& command = commands.at(index);
+    while (commandRows.at(index).name != shortcut.name) ++index;
+    const Command& command = commandRows.at(index);
     return {.name = shortcut.name,
             .id = shortcut.id,
             .signature = shortcut.signature,

@@ -69,6 +69,11 @@ void promptMultiplePlay() {
     utils::PreferenceManager::clearMarks();
 }
 
+void setCurrentMacro(const boost::shared_ptr<Macro>& macro) {
+    engineState().currentMacro = macro;
+    if (SharedController* controller = sharedController()) controller->currentMacroChanged();
+}
+
 void playTimes(std::int32_t count) {
     // Taken once: whatever becomes of the current macro meanwhile, all runs play the same text.
     const std::string script = engineState().currentMacro->script();

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
+#include <boost/smart_ptr/shared_ptr.hpp>
 #include <cstdint>
 #include <string_view>
+
+class Macro;
 
 // The commands, whether they come from a hot key or from the menu. None of them tells the user anything.
 //
@@ -32,6 +36,27 @@ void requestPlay(std::uint32_t count);
 
 /// Asks how many times to play.
 void promptMultiplePlay();
+
+/// What the hot key of that name does.
+struct Command {
+    std::string_view name;
+    /// What a press and a release do; one of them is null, which is nothing.
+    void (*pressed)() = nullptr;
+    void (*released)() = nullptr;
+    /// Whether a press during a playback also ends it.
+    bool cancelsPlayback = false;
+};
+
+/// A command for each shortcut (prefs/Shortcuts.h).
+inline constexpr std::array commandRows = {
+    Command{.name = "record", .pressed = toggleRecording},
+    Command{.name = "stop", .pressed = stopRecording, .cancelsPlayback = true},
+    Command{.name = "play", .released = [] { requestPlay(1); }},
+    Command{.name = "multiplePlay", .pressed = promptMultiplePlay},
+};
+
+/// Makes it what play commands play and tells the user interface; null for none.
+void setCurrentMacro(const boost::shared_ptr<Macro>& macro);
 
 /// Plays the current macro so often, none for 0 and below, with 0.01 s after each run. Returns after the last
 /// run, or after the one in which the user has asked to stop. Ends the process if there is no current macro.

@@ -25,6 +25,10 @@ class SharedController {
 
     /// A recording with at least one action has ended; it belongs into the history.
     virtual void addMacro(const boost::shared_ptr<Macro>& macro) = 0;
+
+    /// The current macro has become another one, or none, without a recording. Of interest only where it can
+    /// be seen whether there is one.
+    virtual void currentMacroChanged() {}
 };
 
 /// Installs the controller for the life of the scope. Scopes nest; the inner one counts.

@@ -17,7 +17,7 @@ constexpr KeyCombo initialKeyCombo(std::int16_t code) {
 /// One of the global shortcuts.
 struct ShortcutRow {
     /// Its key in the preference table, and in the settings with "Code" and "Flags" behind it. What it does
-    /// and how it is called stand under this name in engine/HotKeyCenter.cpp and
+    /// and how it is called stand under this name in engine/MacroPlayer.h and
     /// app/shortcuts/ShortcutTitles.cpp.
     std::string_view name;
     HotKeyId id = 0;

@@ -32,6 +32,7 @@ class FakeController : public SharedController {
     }
     void hideRecordingGui() override { m_journal.note("hideRecordingGui"); }
     void showMultiplePlayGui() override { m_journal.note("showMultiplePlayGui"); }
+    void currentMacroChanged() override { m_journal.note("currentMacroChanged"); }
     void addMacro(const boost::shared_ptr<Macro>& macro) override {
         m_history.push_back(macro);
         m_journal.note("addMacro", macro->displayText());
@@ -42,8 +43,8 @@ class FakeController : public SharedController {
 
     /// Everything the engine said, in order, as the journal has it.
     Messages messages() const {
-        return m_journal.of(
-            {"setMacroString", "showRecordingGui", "hideRecordingGui", "showMultiplePlayGui", "addMacro"});
+        return m_journal.of({"setMacroString", "showRecordingGui", "hideRecordingGui", "showMultiplePlayGui",
+                             "addMacro", "currentMacroChanged"});
     }
     const std::string& overlayText() const { return m_overlayText; }
     const std::vector<boost::shared_ptr<Macro>>& history() const { return m_history; }

@@ -102,6 +102,13 @@ TEST_F(MacroPlayerTest, stopEndsACancelledRecordingAsAnEmptyOne) {
     EXPECT_EQ(gui.messages(), (Messages{"showRecordingGui()", "hideRecordingGui()"}));
 }
 
+TEST_F(MacroPlayerTest, tellsThatTheCurrentMacroHasBecomeAnotherOne) {
+    const auto macro = macroWithScript("beep");
+    setCurrentMacro(macro);
+    EXPECT_EQ(state().currentMacro, macro);
+    EXPECT_EQ(gui.messages(), Messages{"currentMacroChanged()"});
+}
+
 TEST_F(MacroPlayerTest, recordEndsACancelledRecordingAndTheNextOneStartsAfresh) {
     gui.setFollowsUpdateNotice(true);
     toggleRecording();

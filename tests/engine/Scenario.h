@@ -7,7 +7,7 @@
 #include "engine/EngineTest.h"
 #include "engine/FakeController.h"
 #include "engine/HotKeyCenter.h"
-#include "platform/Modifiers.h"
+#include "prefs/Settings.h"
 #include "support/Keys.h"
 
 /// Somebody at the keyboard.
@@ -92,11 +92,7 @@ class Prompt {
 class Scenario : public EngineTest {
   protected:
     Scenario() {
-        constexpr std::uint32_t controlSuper = modifier::control | modifier::command;
-        setHotKey("record", key::r, controlSuper);
-        setHotKey("stop", key::s, controlSuper);
-        setHotKey("play", key::p, controlSuper);
-        setHotKey("multiplePlay", key::m, controlSuper);
+        for (const ShortcutRow& row : shortcutRows) ::setHotKey(std::string(row.name), row.preset);
         installHotKeyHandlers();
         installKeyRecorder();
     }

@@ -32,6 +32,7 @@ TEST_F(EngineWithoutControllerTest, recordsAndPlaysAllTheSame) {
     stopRecording();
     promptMultiplePlay();
     playTimes(1);
+    setCurrentMacro(nullptr);
     EXPECT_EQ(runs(), (std::vector<std::string>{R"(tell application "System Events"
 	key code (36) using {}
 delay 0.01
