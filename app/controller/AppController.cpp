@@ -29,30 +29,6 @@ constexpr std::chrono::seconds refreshInterval{30};
 /// What the documentation gets to be seen before the program goes.
 constexpr std::chrono::seconds killDelay{1};
 
-struct MenuAction {
-    QAction* StatusMenu::*item;
-    AppController::Action action;
-};
-
-constexpr MenuAction menuActions[] = {
-    {&StatusMenu::recordMenuItem, &AppController::recordMacro},
-    {&StatusMenu::stopMenuItem, &AppController::stopMacro},
-    {&StatusMenu::saveDelayMenuItem, &AppController::saveDelayToNow},
-    {&StatusMenu::playMenuItem, &AppController::playMacro},
-    {&StatusMenu::multiplePlayMenuItem, &AppController::multiPlayMacro},
-    {&StatusMenu::saveMacroMenuItem, &AppController::saveMacro},
-    {&StatusMenu::loadMacroMenuItem, &AppController::loadMacro},
-    {&StatusMenu::preferencesMenuItem, &AppController::showPreferences},
-    {&StatusMenu::documentationMenuItem, &AppController::openDocumentation},
-    {&StatusMenu::forumMenuItem, &AppController::openForum},
-    {&StatusMenu::keyrillWebsiteMenuItem, &AppController::openKeyrillWebsite},
-    {&StatusMenu::orlenWebsiteMenuItem, &AppController::openOrlenWebsite},
-    {&StatusMenu::supportMenuItem, &AppController::getSupport},
-    {&StatusMenu::feedbackMenuItem, &AppController::sendFeedback},
-    {&StatusMenu::bugMenuItem, &AppController::reportABug},
-    {&StatusMenu::aboutMenuItem, &AppController::aboutKeyrill},
-};
-
 }  // namespace
 
 AppController::AppController(Services& services, Windows& windows, StatusItem& item, Dialogs& dialogs)
@@ -67,8 +43,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_overlayDesk(m_stage, services.clock, services.hotKeys),
       m_updateDesk(services.updateService, services.workspace, m_dialogs),
       m_helpDesk(services.workspace, services.systemFacts, m_stage),
-      m_filesDesk(services.macroFiles, services.notifications, m_dialogs, m_gate, m_stage,
-                  [this] { m_menuDesk.update(); }),
+      m_filesDesk(services.macroFiles, services.notifications, m_dialogs, m_gate, m_stage),
       m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, m_dialogs, m_stage),
       statusItem(item) {
     timer.setSingleShot(true);
@@ -95,25 +70,6 @@ void AppController::connectDesks() {
     }
     connect(&m_overlayDesk, &OverlayDesk::promptConfirmed, this,
             [this] { perform(&AppController::doMultiplePlay, multiplePlayWindow()); });
-}
-
-void AppController::connectMenu() {
-    connect(&statusMenu, &StatusMenu::shown, this, [this](bool open) { m_gate.setMenuOpen(open); });
-    for (const MenuAction& row : menuActions) connectItem(statusMenu.*row.item, row.action);
-    if (statusMenu.updateMenuItem != nullptr) {
-        // As if the button had been pressed: whoever asks is to get an answer.
-        connect(statusMenu.updateMenuItem, &QAction::triggered, this,
-                [this] { perform(&AppController::checkForUpdates, checkForUpdatesNowButton()); });
-    }
-    connect(statusMenu.quitMenuItem, &QAction::triggered, this, &AppController::kill);
-}
-
-void AppController::connectItem(QAction* item, Action action) {
-    connect(item, &QAction::triggered, this, [this, item, action] { perform(action, item); });
-}
-
-void AppController::perform(Action action, QObject* sender) {
-    if (m_gate.isOpen()) (this->*action)(sender);
 }
 
 // What observes the closing of panels is connected where they are built.

@@ -69,6 +69,7 @@ class AppController : public QObject, public SharedController {
     void activateStatusMenu();
     void addMacro(const boost::shared_ptr<Macro>& macro) override;
     void setMacroString(const std::string& text) override;
+    void currentMacroChanged() override;
     /// Makes the macro of a MacroMenuItem the current one and plays it; other senders are ignored.
     void runMacro(QObject* sender);
     void recordMacro(QObject* sender);
@@ -200,7 +201,6 @@ class AppController : public QObject, public SharedController {
 
     void connectDesks();
     void connectMenu();
-    void connectItem(QAction* item, Action action);
     bool checkSystemVersion();
     bool checkAccess();
     void noteFirstRun();

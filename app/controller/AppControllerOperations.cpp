@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <QCoreApplication>
+#include <QPushButton>
+#include <algorithm>
+#include <array>
 #include <cstring>
+#include <string_view>
 
 #include "app/controller/AppController.h"
 #include "app/controller/BugReport.h"
@@ -10,7 +14,6 @@
 #include "app/tray/MacroMenuItem.h"
 #include "core/MacroManager.h"
 #include "engine/AppleScript.h"
-#include "engine/EngineState.h"
 #include "engine/KeyRecorder.h"
 #include "engine/MacroPlayer.h"
 #include "platform/ScriptingService.h"
@@ -18,6 +21,64 @@
 #include "platform/SystemFacts.h"
 
 // What the menu, the engine and the desktop may ask of the controller, in the header's order.
+
+namespace {
+
+/// What a menu item does.
+struct MenuOperation {
+    /// Of its row in menuRows.
+    std::string_view name;
+    void (*perform)(AppController& controller, QObject* item) = nullptr;
+    bool alsoWhileTheGateIsShut = false;
+};
+
+template <AppController::Action action>
+void send(AppController& controller, QObject* item) {
+    (controller.*action)(item);
+}
+
+/// As if the button had been pressed: whoever asks is to get an answer.
+void checkForUpdatesNow(AppController& controller, QObject* /*item*/) {
+    controller.checkForUpdates(controller.checkForUpdatesNowButton());
+}
+
+void quit(AppController& controller, QObject* /*item*/) { controller.kill(); }
+
+constexpr std::array menuOperations = {
+    MenuOperation{"record", send<&AppController::recordMacro>},
+    MenuOperation{"stop", send<&AppController::stopMacro>},
+    MenuOperation{"saveDelay", send<&AppController::saveDelayToNow>},
+    MenuOperation{"play", send<&AppController::playMacro>},
+    MenuOperation{"multiplePlay", send<&AppController::multiPlayMacro>},
+    MenuOperation{"saveMacro", send<&AppController::saveMacro>},
+    MenuOperation{"loadMacro", send<&AppController::loadMacro>},
+    MenuOperation{"preferences", send<&AppController::showPreferences>},
+    MenuOperation{"documentation", send<&AppController::openDocumentation>},
+    MenuOperation{"forum", send<&AppController::openForum>},
+    MenuOperation{"keyrillWebsite", send<&AppController::openKeyrillWebsite>},
+    MenuOperation{"orlenWebsite", send<&AppController::openOrlenWebsite>},
+    MenuOperation{"support", send<&AppController::getSupport>},
+    MenuOperation{"feedback", send<&AppController::sendFeedback>},
+    MenuOperation{"bug", send<&AppController::reportABug>},
+    MenuOperation{"update", checkForUpdatesNow},
+    MenuOperation{"about", send<&AppController::aboutKeyrill>},
+    MenuOperation{.name = "quit", .perform = quit, .alsoWhileTheGateIsShut = true},
+};
+
+/// An item without an operation does not compile, nor one with two, nor an operation without an item.
+consteval bool followMenuRows() {
+    std::size_t found = 0;
+    for (const MenuRow& row : menuRows) {
+        if (row.kind != MenuItemKind::command) continue;
+        const auto isItsOwn = [&row](const MenuOperation& operation) { return operation.name == row.name; };
+        if (std::count_if(menuOperations.begin(), menuOperations.end(), isItsOwn) != 1) return false;
+        ++found;
+    }
+    return found == menuOperations.size();
+}
+static_assert(followMenuRows());
+
+}  // namespace
 
 // Start-up and end
 
@@ -39,23 +100,40 @@ void AppController::showControlWindow() { statusItem.showWindow(); }
 
 // Status item and menus
 
+void AppController::connectMenu() {
+    connect(&statusMenu, &StatusMenu::shown, this, [this](bool open) { m_gate.setMenuOpen(open); });
+    for (const MenuOperation& operation : menuOperations) {
+        QAction* const item = statusMenu.item(menuRowNamed(operation.name));
+        if (item == nullptr) continue;
+        connect(item, &QAction::triggered, this, [this, item, &operation] {
+            if (m_gate.isOpen() || operation.alsoWhileTheGateIsShut) operation.perform(*this, item);
+        });
+    }
+}
+
+void AppController::perform(Action action, QObject* sender) {
+    if (m_gate.isOpen()) (this->*action)(sender);
+}
+
 void AppController::activateBusyStatusMenu() { m_menuDesk.showBusy(); }
 
 void AppController::activateStatusMenu() { m_menuDesk.showNormal(); }
 
 void AppController::addMacro(const boost::shared_ptr<Macro>& macro) {
-    connectItem(m_menuDesk.addToHistory(*macro), &AppController::runMacro);
+    MacroMenuItem* const item = m_menuDesk.addToHistory(*macro);
+    connect(item, &QAction::triggered, this, [this, item] { perform(&AppController::runMacro, item); });
 }
 
 void AppController::setMacroString(const std::string& text) { m_overlayDesk.setMacroString(text); }
+
+void AppController::currentMacroChanged() { m_menuDesk.update(); }
 
 void AppController::runMacro(QObject* sender) {
     if (std::strcmp(sender->metaObject()->className(), "MacroMenuItem") != 0) return;
     const boost::shared_ptr<Macro> macro =
         MacroManager::macro(static_cast<MacroMenuItem*>(sender)->macroId());
-    engineState().currentMacro = macro;
+    setCurrentMacro(macro);
     const std::string script = macro->script();
-    m_menuDesk.update();
     m_stage.awaitFocusElsewhere(nullptr);
     m_services.scripting.startPlayback();
     AppleScript::runAppleScript(script);

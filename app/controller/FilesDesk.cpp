@@ -3,7 +3,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <utility>
 
 #include "app/controller/Gate.h"
 #include "app/controller/Stage.h"
@@ -13,18 +12,14 @@
 #include "app/shortcuts/CombinationText.h"
 #include "core/MacroManager.h"
 #include "engine/EngineState.h"
+#include "engine/MacroPlayer.h"
 #include "platform/MacroFiles.h"
 #include "platform/Notifications.h"
 #include "prefs/KeyCombo.h"
 
 FilesDesk::FilesDesk(MacroFiles& files, Notifications& notifications, Dialogs& dialogs, const Gate& gate,
-                     Stage& stage, std::function<void()> macroChanged)
-    : m_files(files),
-      m_notifications(notifications),
-      m_dialogs(dialogs),
-      m_gate(gate),
-      m_stage(stage),
-      m_macroChanged(std::move(macroChanged)) {}
+                     Stage& stage)
+    : m_files(files), m_notifications(notifications), m_dialogs(dialogs), m_gate(gate), m_stage(stage) {}
 
 void FilesDesk::save() {
     if (!engineState().currentMacro) return;
@@ -50,9 +45,9 @@ bool FilesDesk::loadFrom(const QString& path) {
         m_dialogs.runAlert(alerts::macroNotLoaded(path, text.error()));
         return false;
     }
-    engineState().currentMacro = MacroManager::createMacro();
-    engineState().currentMacro->setScript(text.value());
-    m_macroChanged();
+    const boost::shared_ptr<Macro> macro = MacroManager::createMacro();
+    macro->setScript(text.value());
+    setCurrentMacro(macro);
     return true;
 }
 

@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 #include <QString>
-#include <functional>
 
 class Dialogs;
 class Gate;
@@ -17,9 +16,9 @@ class FilesDesk {
     Q_DECLARE_TR_FUNCTIONS(FilesDesk)
 
   public:
-    /// `macroChanged` is called when the current macro has become another. All else outlives the desk.
+    /// All outlive the desk.
     FilesDesk(MacroFiles& files, Notifications& notifications, Dialogs& dialogs, const Gate& gate,
-              Stage& stage, std::function<void()> macroChanged);
+              Stage& stage);
 
     /// Asks where to and saves the current macro, if there is one.
     void save();
@@ -40,5 +39,4 @@ class FilesDesk {
     Dialogs& m_dialogs;
     const Gate& m_gate;
     Stage& m_stage;
-    std::function<void()> m_macroChanged;
 };

@@ -1,22 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// What the menu, the prompt and the overlay depend on.
-struct MenuFacts {
-    bool recording = false;
-    /// Whether a recording has been stopped since the program started, also one without actions.
-    bool hasStopped = false;
-    /// From the start of a recording until its end, but not in one that was cancelled at its start.
-    bool overlayShown = false;
-    /// Whether there is a current macro to play.
-    bool hasMacro = false;
-    bool hasHistory = false;
-    /// Whether a question of the program's own is open or the screen is locked.
-    bool gateShut = false;
-    bool screenLocked = false;
+#include <array>
 
-    friend bool operator==(const MenuFacts&, const MenuFacts&) = default;
-};
+#include "app/tray/MenuItems.h"
 
 struct MenuItemState {
     bool visible = true;
@@ -27,16 +14,8 @@ struct MenuItemState {
 
 /// What is shown and what can be chosen.
 struct MenuState {
-    MenuItemState record;
-    MenuItemState stop;
-    MenuItemState saveDelay;
-    MenuItemState play;
-    MenuItemState multiplePlay;
-    MenuItemState history;
-    MenuItemState saveMacro;
-    MenuItemState loadMacro;
-    /// Preferences and help.
-    MenuItemState others;
+    /// In the order of menuRows.
+    std::array<MenuItemState, menuRows.size()> items;
     /// Whether the prompt's button and Return play.
     bool promptPlays = true;
     /// Whether the overlay is on the screen: its text is nobody's business while the screen is locked.

@@ -33,9 +33,9 @@ TEST_F(SupportTest, opensThePagesOfTheAboutPanelsButtons) {
 
 TEST_F(SupportTest, opensThePagesOfTheHelpMenu) {
     const StatusMenu& menu = controller.statusMenu;
-    for (QAction* item : {menu.documentationMenuItem, menu.forumMenuItem, menu.keyrillWebsiteMenuItem,
-                          menu.orlenWebsiteMenuItem}) {
-        item->trigger();
+    for (const std::size_t page : {menuIndex("documentation"), menuIndex("forum"),
+                                   menuIndex("keyrillWebsite"), menuIndex("orlenWebsite")}) {
+        menu.item(page)->trigger();
     }
     EXPECT_EQ(opened(), (Urls{std::string(addresses::documentationPage), std::string(addresses::forumPage),
                               std::string(addresses::productPage), std::string(addresses::makersWebsite)}));

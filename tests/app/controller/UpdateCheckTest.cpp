@@ -33,14 +33,14 @@ class UpdateCheckTest : public AppTest {
 
 TEST_F(UpdateCheckTest, saysNothingToOthersThanTheButtonWhenThereIsNoUpdate) {
     controller.checkForUpdates(nullptr);
-    controller.checkForUpdates(controller.statusMenu.aboutMenuItem);
+    controller.checkForUpdates(controller.statusMenu.item(menuIndex("about")));
     EXPECT_TRUE(dialogs.alerts.empty());
     EXPECT_TRUE(dialogs.sheets.empty());
     EXPECT_EQ(platform().updateService.questions().size(), 2U);
 }
 
 TEST_F(UpdateCheckTest, answersTheMenuItemAlways) {
-    controller.statusMenu.updateMenuItem->trigger();
+    controller.statusMenu.item(menuIndex("update"))->trigger();
     EXPECT_EQ(dialogs.alerts, std::vector<AlertText>{noUpdateAlert});
 }
 

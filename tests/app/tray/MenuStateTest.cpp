@@ -3,22 +3,22 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
+#include <string_view>
 
 namespace {
 
-/// The items that are shown, in the menu's order.
+MenuItemState stateOf(const MenuFacts& facts, std::size_t index) { return menuState(facts).items.at(index); }
+
+/// The items above the first line that are shown, in the menu's order.
 std::string shown(const MenuFacts& facts) {
     const MenuState state = menuState(facts);
     std::string names;
-    const auto add = [&names](const MenuItemState& item, const char* name) {
-        if (item.visible) names += std::string(names.empty() ? "" : " ") + name;
-    };
-    add(state.record, "record");
-    add(state.stop, "stop");
-    add(state.saveDelay, "saveDelay");
-    add(state.play, "play");
-    add(state.multiplePlay, "multiplePlay");
+    for (std::size_t i = 0; menuRows.at(i).kind != MenuItemKind::separator; ++i) {
+        if (!state.items.at(i).visible) continue;
+        names += std::string(names.empty() ? "" : " ") + std::string(menuRows.at(i).name);
+    }
     return names;
 }
 
@@ -44,39 +44,43 @@ TEST(MenuStateTest, hidesThePlayItemsForAMacroThatIsThereBeforeTheFirstStop) {
 }
 
 TEST(MenuStateTest, greysPlayingWhileThereIsNothingToPlay) {
-    const MenuState without = menuState({.hasStopped = true});
-    EXPECT_FALSE(without.play.enabled);
-    EXPECT_FALSE(without.multiplePlay.enabled);
-    EXPECT_FALSE(without.promptPlays);
-    const MenuState with = menuState({.hasStopped = true, .hasMacro = true});
-    EXPECT_TRUE(with.play.enabled);
-    EXPECT_TRUE(with.multiplePlay.enabled);
-    EXPECT_TRUE(with.promptPlays);
+    const MenuFacts without{.hasStopped = true};
+    EXPECT_FALSE(stateOf(without, menuIndex("play")).enabled);
+    EXPECT_FALSE(stateOf(without, menuIndex("multiplePlay")).enabled);
+    EXPECT_FALSE(menuState(without).promptPlays);
+    const MenuFacts with{.hasStopped = true, .hasMacro = true};
+    EXPECT_TRUE(stateOf(with, menuIndex("play")).enabled);
+    EXPECT_TRUE(stateOf(with, menuIndex("multiplePlay")).enabled);
+    EXPECT_TRUE(menuState(with).promptPlays);
 }
 
 TEST(MenuStateTest, showsSaveFromTheFirstStopOn) {
-    EXPECT_FALSE(menuState({}).saveMacro.visible);
-    EXPECT_FALSE(menuState({.recording = true}).saveMacro.visible);
-    EXPECT_TRUE(menuState({.hasStopped = true}).saveMacro.visible);
-    EXPECT_TRUE(menuState({.recording = true, .hasStopped = true}).saveMacro.visible);
+    constexpr std::size_t save = menuIndex("saveMacro");
+    EXPECT_FALSE(stateOf({}, save).visible);
+    EXPECT_FALSE(stateOf({.recording = true}, save).visible);
+    EXPECT_TRUE(stateOf({.hasStopped = true}, save).visible);
+    EXPECT_TRUE(stateOf({.recording = true, .hasStopped = true}, save).visible);
 }
 
 TEST(MenuStateTest, greysSaveWithoutAMacroAndBothFileItemsWhileRecording) {
-    EXPECT_FALSE(menuState({.hasStopped = true}).saveMacro.enabled);
-    EXPECT_TRUE(menuState({.hasStopped = true, .hasMacro = true}).saveMacro.enabled);
-    const MenuState recording = menuState({.recording = true, .overlayShown = true, .hasMacro = true});
-    EXPECT_FALSE(recording.saveMacro.enabled);
-    EXPECT_FALSE(recording.loadMacro.enabled);
-    EXPECT_TRUE(menuState({}).loadMacro.enabled);
+    constexpr std::size_t save = menuIndex("saveMacro");
+    constexpr std::size_t load = menuIndex("loadMacro");
+    EXPECT_FALSE(stateOf({.hasStopped = true}, save).enabled);
+    EXPECT_TRUE(stateOf({.hasStopped = true, .hasMacro = true}, save).enabled);
+    const MenuFacts recording{.recording = true, .overlayShown = true, .hasMacro = true};
+    EXPECT_FALSE(stateOf(recording, save).enabled);
+    EXPECT_FALSE(stateOf(recording, load).enabled);
+    EXPECT_TRUE(stateOf({}, load).enabled);
 }
 
-TEST(MenuStateTest, greysEverythingWhileTheGateIsShut) {
+TEST(MenuStateTest, greysEverythingButQuitWhileTheGateIsShut) {
     const MenuState state =
         menuState({.hasStopped = true, .hasMacro = true, .hasHistory = true, .gateShut = true});
-    for (const MenuItemState& item :
-         {state.record, state.stop, state.saveDelay, state.play, state.multiplePlay, state.history,
-          state.saveMacro, state.loadMacro, state.others}) {
-        EXPECT_FALSE(item.enabled);
+    for (std::size_t i = 0; i < menuRows.size(); ++i) {
+        const MenuRow& row = menuRows.at(i);
+        // The lines of a submenu that cannot be opened are out of reach.
+        if (row.isNested || row.kind == MenuItemKind::separator) continue;
+        EXPECT_EQ(state.items.at(i).enabled, row.name == "quit") << row.name;
     }
     // The prompt would say that there is nothing to play.
     EXPECT_TRUE(state.promptPlays);
@@ -89,6 +93,21 @@ TEST(MenuStateTest, hidesTheOverlayWhileTheScreenIsLocked) {
 }
 
 TEST(MenuStateTest, greysTheHistoryWhileItIsEmpty) {
-    EXPECT_EQ(menuState({}).history, (MenuItemState{.visible = true, .enabled = false}));
-    EXPECT_EQ(menuState({.hasHistory = true}).history, (MenuItemState{.visible = true, .enabled = true}));
+    constexpr std::size_t history = menuIndex("history");
+    EXPECT_EQ(stateOf({}, history), (MenuItemState{.visible = true, .enabled = false}));
+    EXPECT_EQ(stateOf({.hasHistory = true}, history), (MenuItemState{.visible = true, .enabled = true}));
+}
+
+TEST(MenuRowsTest, haveEachANameOfTheirOwnAndATitle) {
+    std::set<std::string_view> names;
+    std::size_t items = 0;
+    for (const MenuRow& row : menuRows) {
+        const bool isSeparator = row.kind == MenuItemKind::separator;
+        EXPECT_EQ(std::string_view(row.title).empty(), isSeparator) << row.name;
+        EXPECT_EQ(row.name.empty(), isSeparator) << row.title;
+        if (isSeparator) continue;
+        names.insert(row.name);
+        ++items;
+    }
+    EXPECT_EQ(names.size(), items);
 }
