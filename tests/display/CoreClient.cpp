@@ -4,20 +4,11 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "display/Connection.h"
 #include "platform/x11/server/WindowTree.h"
 #include "support/Child.h"
 
-namespace {
-
-x11::XConnection connect(const std::string& display) {
-    Result<x11::XConnection> connection = x11::XConnection::open(display);
-    if (!connection) throw std::runtime_error(connection.error().message);
-    return std::move(connection).value();
-}
-
-}  // namespace
-
-CoreClient::CoreClient(const std::string& display) : m_connection(connect(display)) {
+CoreClient::CoreClient(const std::string& display) : m_connection(connectTo(display)) {
     m_window = xcb_generate_id(m_connection);
     const std::uint32_t events = XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE;
     xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_window, m_connection.root(), 0, 0, 100, 100, 0,

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "display/Connection.h"
 #include "platform/x11/server/Extensions.h"
 
 // The C header names a structure member "explicit".
@@ -13,17 +14,7 @@
 #include <xcb/xkb.h>
 #undef explicit
 
-namespace {
-
-x11::XConnection connect(const std::string& display) {
-    Result<x11::XConnection> connection = x11::XConnection::open(display);
-    if (!connection) throw std::runtime_error(connection.error().message);
-    return std::move(connection).value();
-}
-
-}  // namespace
-
-Hands::Hands(const std::string& display) : m_connection(connect(display)) {
+Hands::Hands(const std::string& display) : m_connection(connectTo(display)) {
     if (!x11::Extensions(m_connection).use({x11::Extension::keyboard})) throw std::runtime_error("no XKB");
 }
 

@@ -7,6 +7,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "display/Connection.h"
 #include "platform/x11/server/Extensions.h"
 #include "platform/x11/server/Property.h"
 #include "support/Child.h"
@@ -17,12 +18,6 @@
 #undef explicit
 
 namespace {
-
-x11::XConnection connect(const std::string& display) {
-    Result<x11::XConnection> connection = x11::XConnection::open(display);
-    if (!connection) throw std::runtime_error(connection.error().message);
-    return std::move(connection).value();
-}
 
 void collect(const std::uint8_t* bits, std::set<int>& keys) {
     for (int keycode = 8; keycode < 256; ++keycode) {
@@ -63,7 +58,7 @@ x11::XReply<xcb_xkb_get_state_reply_t> stateOf(xcb_connection_t* connection) {
 
 }  // namespace
 
-KeyboardProbe::KeyboardProbe(const std::string& display) : m_connection(connect(display)) {
+KeyboardProbe::KeyboardProbe(const std::string& display) : m_connection(connectTo(display)) {
     const auto usable = x11::Extensions(m_connection).use({x11::Extension::keyboard, x11::Extension::input});
     if (!usable) throw std::runtime_error(usable.error().message);
 }

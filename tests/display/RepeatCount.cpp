@@ -6,21 +6,12 @@
 
 #include <cstddef>
 #include <span>
-#include <stdexcept>
 
-namespace {
-
-x11::XConnection connect(const std::string& display) {
-    Result<x11::XConnection> connection = x11::XConnection::open(display);
-    if (!connection) throw std::runtime_error(connection.error().message);
-    return std::move(connection).value();
-}
-
-}  // namespace
+#include "display/Connection.h"
 
 RepeatCount::RepeatCount(const std::string& display, std::uint8_t keycode)
-    : m_control(connect(display)),
-      m_data(connect(display)),
+    : m_control(connectTo(display)),
+      m_data(connectTo(display)),
       m_keycode(keycode),
       m_context(xcb_generate_id(m_control)) {
     const xcb_record_client_spec_t everybody = XCB_RECORD_CS_ALL_CLIENTS;
