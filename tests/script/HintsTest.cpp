@@ -3,21 +3,16 @@
 // What errors say beside the language's own words.
 #include <gtest/gtest.h>
 
+#include "script/SourceRow.h"
 #include "script/Traced.h"
 
 namespace {
 
-struct Row {
-    const char* what;
-    const char* source;
-    const char* hint;
-};
-
-std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.what; }
+using Row = SourceRow;
 
 class HintsTest : public testing::TestWithParam<Row> {};
 
-TEST_P(HintsTest, helpsWithAUsualSlip) { EXPECT_EQ(traced(GetParam().source).error.hint, GetParam().hint); }
+TEST_P(HintsTest, helpsWithAUsualSlip) { EXPECT_EQ(traced(GetParam().source).error.hint, GetParam().result); }
 
 INSTANTIATE_TEST_SUITE_P(
     Slips, HintsTest,

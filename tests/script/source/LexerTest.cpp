@@ -4,20 +4,15 @@
 #include <gtest/gtest.h>
 
 #include "script/Printed.h"
+#include "script/SourceRow.h"
 
 namespace {
 
-struct Row {
-    const char* what;
-    std::string source;
-    std::string tokens;
-};
-
-std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.what; }
+using Row = SourceRow;
 
 class LexerTest : public testing::TestWithParam<Row> {};
 
-TEST_P(LexerTest, cutsIntoTokens) { EXPECT_EQ(printedTokens(GetParam().source), GetParam().tokens); }
+TEST_P(LexerTest, cutsIntoTokens) { EXPECT_EQ(printedTokens(GetParam().source), GetParam().result); }
 
 INSTANTIATE_TEST_SUITE_P(
     Blanks, LexerTest,

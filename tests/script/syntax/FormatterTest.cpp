@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "script/CaseFile.h"
+#include "script/SourceRow.h"
 #include "script/Traced.h"
 
 namespace {
@@ -13,17 +14,11 @@ std::string format(const std::string& source) {
     return result ? result.value() : "error: " + result.error().message;
 }
 
-struct Row {
-    const char* what;
-    const char* source;
-    const char* layout;
-};
-
-std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.what; }
+using Row = SourceRow;
 
 class FormatterTest : public testing::TestWithParam<Row> {};
 
-TEST_P(FormatterTest, bringsAScriptIntoOneLayout) { EXPECT_EQ(format(GetParam().source), GetParam().layout); }
+TEST_P(FormatterTest, bringsAScriptIntoOneLayout) { EXPECT_EQ(format(GetParam().source), GetParam().result); }
 
 INSTANTIATE_TEST_SUITE_P(
     Layouts, FormatterTest,

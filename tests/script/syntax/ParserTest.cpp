@@ -4,28 +4,23 @@
 #include <gtest/gtest.h>
 
 #include "script/Printed.h"
+#include "script/SourceRow.h"
 
 namespace {
 
-struct Row {
-    const char* what;
-    std::string source;
-    std::string tree;
-};
-
-std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.what; }
+using Row = SourceRow;
 
 /// Sources as they stand.
 class ParserTest : public testing::TestWithParam<Row> {};
 
-TEST_P(ParserTest, readsIntoATree) { EXPECT_EQ(printedTree(GetParam().source), GetParam().tree); }
+TEST_P(ParserTest, readsIntoATree) { EXPECT_EQ(printedTree(GetParam().source), GetParam().result); }
 
 /// One line inside a tell block.
 class StatementTest : public testing::TestWithParam<Row> {};
 
 TEST_P(StatementTest, readsIntoATree) {
     const std::string source = "tell application \"System Events\"\n" + GetParam().source + "\nend tell\n";
-    EXPECT_EQ(printedTree(source), "(tell system-events System Events " + GetParam().tree + ")");
+    EXPECT_EQ(printedTree(source), "(tell system-events System Events " + GetParam().result + ")");
 }
 
 INSTANTIATE_TEST_SUITE_P(
