@@ -2,6 +2,8 @@
 #include "core/Delay.h"
 
 #include <limits>
+#include <string>
+#include <vector>
 
 #include "LocaleTest.h"
 
@@ -13,35 +15,41 @@ KEYRILL_IN_BOTH_LOCALES(DelayTest);
 std::string scriptLine(double seconds) { return createDelay(seconds)->scriptLine(); }
 std::string displayText(double seconds) { return createDelay(seconds)->displayText(); }
 
+/// A pause and its number as text.
+struct Row {
+    double seconds = 0;
+    std::string number;
+};
+
+void expectInScript(const std::vector<Row>& rows) {
+    for (const Row& row : rows) EXPECT_EQ(scriptLine(row.seconds), "\tdelay " + row.number + "\n");
+}
+
+void expectShown(const std::vector<Row>& rows) {
+    for (const Row& row : rows) EXPECT_EQ(displayText(row.seconds), "<⌛ " + row.number + ">");
+}
+
 TEST_P(DelayTest, writesAtMostSixSignificantDigits) {
-    EXPECT_EQ(scriptLine(0.5), "\tdelay 0.5\n");
-    EXPECT_EQ(scriptLine(3.0), "\tdelay 3\n");
-    EXPECT_EQ(scriptLine(1.23456789), "\tdelay 1.23457\n");
-    EXPECT_EQ(scriptLine(123456.0), "\tdelay 123456\n");
-    EXPECT_EQ(scriptLine(999999.4), "\tdelay 999999\n");
+    expectInScript(
+        {{0.5, "0.5"}, {3.0, "3"}, {1.23456789, "1.23457"}, {123456.0, "123456"}, {999999.4, "999999"}});
 }
 
 TEST_P(DelayTest, writesSmallAndLargeValuesWithAnExponent) {
-    EXPECT_EQ(scriptLine(0.0001), "\tdelay 0.0001\n");
-    EXPECT_EQ(scriptLine(0.00001), "\tdelay 1e-05\n");
-    EXPECT_EQ(scriptLine(1234567.0), "\tdelay 1.23457e+06\n");
-    EXPECT_EQ(scriptLine(1000000.0), "\tdelay 1e+06\n");
-    EXPECT_EQ(scriptLine(999999.5), "\tdelay 1e+06\n");
-    EXPECT_EQ(scriptLine(1e100), "\tdelay 1e+100\n");
+    expectInScript({{0.0001, "0.0001"},
+                    {0.00001, "1e-05"},
+                    {1234567.0, "1.23457e+06"},
+                    {1000000.0, "1e+06"},
+                    {999999.5, "1e+06"},
+                    {1e100, "1e+100"}});
 }
 
 TEST_P(DelayTest, showsTwoDecimals) {
-    EXPECT_EQ(displayText(0.5), "<⌛ 0.50>");
-    EXPECT_EQ(displayText(12.3456), "<⌛ 12.35>");
-    EXPECT_EQ(displayText(0.00001), "<⌛ 0.00>");
-    EXPECT_EQ(displayText(1234567.0), "<⌛ 1234567.00>");
+    expectShown({{0.5, "0.50"}, {12.3456, "12.35"}, {0.00001, "0.00"}, {1234567.0, "1234567.00"}});
 }
 
 TEST_P(DelayTest, takesZeroAndNegativePauses) {
-    EXPECT_EQ(scriptLine(0), "\tdelay 0\n");
-    EXPECT_EQ(displayText(0), "<⌛ 0.00>");
-    EXPECT_EQ(scriptLine(-1.5), "\tdelay -1.5\n");
-    EXPECT_EQ(displayText(-1.5), "<⌛ -1.50>");
+    expectInScript({{0, "0"}, {-1.5, "-1.5"}});
+    expectShown({{0, "0.00"}, {-1.5, "-1.50"}});
 }
 
 TEST_P(DelayTest, rendersTheLongestNumberWhole) {

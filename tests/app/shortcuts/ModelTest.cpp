@@ -7,37 +7,37 @@ namespace {
 
 constexpr KeyCombo controlF{.flags = controlflag::control, .code = 3};
 
-/// Counts the signals of a shortcut.
-struct Reports {
-    explicit Reports(const ShortcutModel& model) {
-        QObject::connect(&model, &ShortcutModel::keyComboDidChange, [this] { ++byUser; });
-        QObject::connect(&model, &ShortcutModel::changed, [this] { ++byProgram; });
+class ShortcutModelTest : public testing::Test {
+  protected:
+    /// How often a signal came.
+    struct Reports {
+        int byUser = 0;
+        int byProgram = 0;
+        friend bool operator==(const Reports&, const Reports&) = default;
+    };
+
+    ShortcutModelTest() {
+        QObject::connect(&model, &ShortcutModel::keyComboDidChange, [this] { ++reports.byUser; });
+        QObject::connect(&model, &ShortcutModel::changed, [this] { ++reports.byProgram; });
     }
-    int byUser = 0;
-    int byProgram = 0;
+
+    ShortcutModel model;
+    Reports reports;
 };
 
-TEST(ShortcutModelTest, reportsWhatTheUserRecords) {
-    ShortcutModel model;
-    const Reports reports(model);
+TEST_F(ShortcutModelTest, reportsWhatTheUserRecords) {
     model.record(controlF);
     EXPECT_EQ(model.keyCombo(), controlF);
-    EXPECT_EQ(reports.byUser, 1);
-    EXPECT_EQ(reports.byProgram, 0);
+    EXPECT_EQ(reports, (Reports{.byUser = 1, .byProgram = 0}));
 }
 
-TEST(ShortcutModelTest, showsButDoesNotReportWhatTheProgramSets) {
-    ShortcutModel model;
-    const Reports reports(model);
+TEST_F(ShortcutModelTest, showsButDoesNotReportWhatTheProgramSets) {
     model.setKeyCombo(controlF);
     EXPECT_EQ(model.keyCombo(), controlF);
-    EXPECT_EQ(reports.byUser, 0);
-    EXPECT_EQ(reports.byProgram, 1);
+    EXPECT_EQ(reports, (Reports{.byUser = 0, .byProgram = 1}));
 }
 
-TEST(ShortcutModelTest, showsANewNoticeOnce) {
-    ShortcutModel model;
-    const Reports reports(model);
+TEST_F(ShortcutModelTest, showsANewNoticeOnce) {
     model.setNotice(QStringLiteral("held"));
     model.setNotice(QStringLiteral("held"));
     EXPECT_EQ(reports.byProgram, 1);
