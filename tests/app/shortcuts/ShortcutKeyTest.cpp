@@ -6,13 +6,9 @@
 #include <QKeyEvent>
 
 #include "platform/Modifiers.h"
+#include "support/Keys.h"
 
 namespace {
-
-/// X key codes of a keyboard with evdev codes.
-constexpr quint32 keyR = 27;
-constexpr quint32 keyF5 = 71;
-constexpr quint32 keyEscape = 9;
 
 QKeyEvent press(int key, Qt::KeyboardModifiers modifiers, quint32 scanCode) {
     return {QEvent::KeyPress, key, modifiers, scanCode, 0, 0};
@@ -20,38 +16,39 @@ QKeyEvent press(int key, Qt::KeyboardModifiers modifiers, quint32 scanCode) {
 
 TEST(ShortcutKeyTest, takesAPrintableKeyWithControlAltOrSuper) {
     for (const auto modifier : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier})
-        EXPECT_EQ(shortcutKey(press(Qt::Key_R, modifier, keyR)), ShortcutKey::combination);
+        EXPECT_EQ(shortcutKey(press(Qt::Key_R, modifier, xkey::r)), ShortcutKey::combination);
 }
 
 TEST(ShortcutKeyTest, wantsAModifierOtherThanShiftForKeysThatType) {
     for (const int key : {int{Qt::Key_R}, int{Qt::Key_Space}, int{Qt::Key_Return}, int{Qt::Key_Dead_Acute},
                           0x416 /* a Cyrillic letter */}) {
-        EXPECT_EQ(shortcutKey(press(key, Qt::NoModifier, keyR)), ShortcutKey::needsModifier) << key;
-        EXPECT_EQ(shortcutKey(press(key, Qt::ShiftModifier, keyR)), ShortcutKey::needsModifier) << key;
+        EXPECT_EQ(shortcutKey(press(key, Qt::NoModifier, xkey::r)), ShortcutKey::needsModifier) << key;
+        EXPECT_EQ(shortcutKey(press(key, Qt::ShiftModifier, xkey::r)), ShortcutKey::needsModifier) << key;
     }
 }
 
 TEST(ShortcutKeyTest, takesAKeyThatTypesNothingAlone) {
     for (const int key : {Qt::Key_F5, Qt::Key_Home, Qt::Key_Print, Qt::Key_VolumeUp})
-        EXPECT_EQ(shortcutKey(press(key, Qt::NoModifier, keyF5)), ShortcutKey::combination) << key;
+        EXPECT_EQ(shortcutKey(press(key, Qt::NoModifier, xkey::f5)), ShortcutKey::combination) << key;
 }
 
 TEST(ShortcutKeyTest, waitsForMoreAfterAModifierALockOrAChooser) {
     for (const int key : {Qt::Key_Control, Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_Super_L,
                           Qt::Key_AltGr, Qt::Key_CapsLock, Qt::Key_NumLock})
-        EXPECT_EQ(shortcutKey(press(key, Qt::ControlModifier, 37)), ShortcutKey::modifier) << key;
+        EXPECT_EQ(shortcutKey(press(key, Qt::ControlModifier, xkey::control)), ShortcutKey::modifier) << key;
 }
 
 TEST(ShortcutKeyTest, knowsTheKeysThatEnd) {
-    EXPECT_EQ(shortcutKey(press(Qt::Key_Escape, Qt::NoModifier, keyEscape)), ShortcutKey::cancel);
-    EXPECT_EQ(shortcutKey(press(Qt::Key_Backspace, Qt::NoModifier, 22)), ShortcutKey::clear);
-    EXPECT_EQ(shortcutKey(press(Qt::Key_Tab, Qt::NoModifier, 23)), ShortcutKey::leave);
-    EXPECT_EQ(shortcutKey(press(Qt::Key_Backtab, Qt::ShiftModifier, 23)), ShortcutKey::leave);
+    EXPECT_EQ(shortcutKey(press(Qt::Key_Escape, Qt::NoModifier, xkey::escape)), ShortcutKey::cancel);
+    EXPECT_EQ(shortcutKey(press(Qt::Key_Backspace, Qt::NoModifier, xkey::backspace)), ShortcutKey::clear);
+    EXPECT_EQ(shortcutKey(press(Qt::Key_Tab, Qt::NoModifier, xkey::tab)), ShortcutKey::leave);
+    EXPECT_EQ(shortcutKey(press(Qt::Key_Backtab, Qt::ShiftModifier, xkey::tab)), ShortcutKey::leave);
 }
 
 TEST(ShortcutKeyTest, takesThoseKeysWithAModifierAsAnyOther) {
     for (const int key : {Qt::Key_Escape, Qt::Key_Backspace, Qt::Key_Tab})
-        EXPECT_EQ(shortcutKey(press(key, Qt::ControlModifier, keyEscape)), ShortcutKey::combination) << key;
+        EXPECT_EQ(shortcutKey(press(key, Qt::ControlModifier, xkey::escape)), ShortcutKey::combination)
+            << key;
 }
 
 TEST(ShortcutKeyTest, doesNotTakeWhatNoKeyHasPressed) {
@@ -60,11 +57,11 @@ TEST(ShortcutKeyTest, doesNotTakeWhatNoKeyHasPressed) {
 
 TEST(ShortcutKeyTest, tellsKeyAndModifiersByPosition) {
     const auto all = Qt::ControlModifier | Qt::AltModifier | Qt::ShiftModifier | Qt::MetaModifier;
-    // The R of an ANSI keyboard is key code 15, whatever letter it types.
+    // The R of an ANSI keyboard, whatever letter it types.
     const KeyCombo expected{
         .flags = controlflag::control | controlflag::option | controlflag::shift | controlflag::command,
-        .code = 15};
-    EXPECT_EQ(keyComboOf(press(Qt::Key_K, all, keyR)), expected);
+        .code = key::r};
+    EXPECT_EQ(keyComboOf(press(Qt::Key_K, all, xkey::r)), expected);
 }
 
 TEST(ShortcutKeyTest, tellsKeysWithoutACodeOfTheirOwnByTheirEvdevCode) {
@@ -80,10 +77,10 @@ TEST(ShortcutKeyTest, leavesKeypadAndGroupOutOfTheFlags) {
 }
 
 TEST(ShortcutKeyTest, countsAModifierFromItsPressToItsRelease) {
-    EXPECT_EQ(modifiersAfter(press(Qt::Key_Shift, Qt::ControlModifier, 50)),
+    EXPECT_EQ(modifiersAfter(press(Qt::Key_Shift, Qt::ControlModifier, xkey::shift)),
               Qt::ControlModifier | Qt::ShiftModifier);
-    const QKeyEvent release(QEvent::KeyRelease, Qt::Key_Shift, Qt::ControlModifier | Qt::ShiftModifier, 50, 0,
-                            0);
+    const QKeyEvent release(QEvent::KeyRelease, Qt::Key_Shift, Qt::ControlModifier | Qt::ShiftModifier,
+                            xkey::shift, 0, 0);
     EXPECT_EQ(modifiersAfter(release), Qt::ControlModifier);
 }
 
