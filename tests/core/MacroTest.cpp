@@ -5,6 +5,7 @@
 #include "core/Delay.h"
 #include "core/KeyCode.h"
 #include "core/createShared.h"
+#include "support/RecordedExample.h"
 
 namespace {
 
@@ -29,17 +30,6 @@ class MacroTest : public LocaleTest {
 };
 KEYRILL_IN_BOTH_LOCALES(MacroTest);
 
-constexpr const char* exampleScript =
-    R"(tell application "System Events"
-	key code (1) using {command down}
-delay 0.01
-	delay 0.5
-delay 0.01
-	key code (0) using {}
-delay 0.01
-end tell
-)";
-
 TEST_P(MacroTest, startsEmptyAndWithoutANumber) {
     EXPECT_TRUE(macro.isEmpty());
     EXPECT_EQ(macro.macroId(), 0);
@@ -50,7 +40,7 @@ TEST_P(MacroTest, startsEmptyAndWithoutANumber) {
 TEST_P(MacroTest, writesEachActionAndAPauseAfterIt) {
     addExample();
     EXPECT_FALSE(macro.isEmpty());
-    EXPECT_EQ(macro.script(), exampleScript);
+    EXPECT_EQ(macro.script(), recordedexample::script);
 }
 
 TEST_P(MacroTest, showsAllActionsWithNothingBetween) {
@@ -67,9 +57,9 @@ end tell
 
 TEST_P(MacroTest, keepsItsFirstScriptForGood) {
     addExample();
-    ASSERT_EQ(macro.script(), exampleScript);
+    ASSERT_EQ(macro.script(), recordedexample::script);
     addNumbered(1);
-    EXPECT_EQ(macro.script(), exampleScript);
+    EXPECT_EQ(macro.script(), recordedexample::script);
 }
 
 TEST_P(MacroTest, keepsTheScriptOfNoActionsToo) {
@@ -99,7 +89,7 @@ end tell
 )");
     addExample();
     macro.setScript("");
-    EXPECT_EQ(macro.script(), exampleScript);
+    EXPECT_EQ(macro.script(), recordedexample::script);
 }
 
 TEST_P(MacroTest, showsTwentyActionsWhole) {

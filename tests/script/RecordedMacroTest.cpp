@@ -10,6 +10,7 @@
 #include "platform/Modifiers.h"
 #include "script/Traced.h"
 #include "support/Keys.h"
+#include "support/RecordedExample.h"
 
 namespace {
 
@@ -26,14 +27,7 @@ TEST(RecordedMacroTest, playsWhatWasRecorded) {
     addKey(macro, 0, 0);
     const Traced result = traced(macro.script());
     EXPECT_EQ(result.phase, Traced::Phase::none) << result.error.message;
-    EXPECT_EQ(result.events,
-              R"(["key",1,["command"]]
-["delay",0.01]
-["delay",0.5]
-["delay",0.01]
-["key",0,[]]
-["delay",0.01]
-)");
+    EXPECT_EQ(result.events, recordedexample::events);
 }
 
 TEST(RecordedMacroTest, anEmptyMacroPlaysNothing) {

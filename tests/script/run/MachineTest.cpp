@@ -7,6 +7,7 @@
 #include "platform/script/run/MachineServices.h"
 #include "script/RecordingInjector.h"
 #include "script/Traced.h"
+#include "support/RecordedExample.h"
 
 namespace {
 
@@ -40,25 +41,9 @@ end)");
 }
 
 TEST(MachineTest, theWorkedExampleOfARecordedMacro) {
-    const Traced result = traced(
-        R"(tell application "System Events"
-	key code (1) using {command down}
-delay 0.01
-	delay 0.5
-delay 0.01
-	key code (0) using {}
-delay 0.01
-end tell
-)");
+    const Traced result = traced(recordedexample::script);
     EXPECT_EQ(result.phase, Traced::Phase::none) << result.error.message;
-    EXPECT_EQ(result.events,
-              R"(["key",1,["command"]]
-["delay",0.01]
-["delay",0.5]
-["delay",0.01]
-["key",0,[]]
-["delay",0.01]
-)");
+    EXPECT_EQ(result.events, recordedexample::events);
     EXPECT_EQ(result.warnings, Lines());
 }
 
