@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <ostream>
 
 #include "support/Child.h"
 
@@ -13,7 +14,14 @@ struct Outcome {
     int status = -1;
     std::string output;
     std::string errors;
+    friend bool operator==(const Outcome&, const Outcome&) = default;
 };
+
+std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
+    return out << "status " << outcome.status << ", output:\n"
+               << outcome.output << "errors:\n"
+               << outcome.errors;
+}
 
 class ToolTest : public testing::Test {
   protected:
@@ -39,21 +47,17 @@ constexpr const char* usage = "Usage: keyrill-script check FILE";
 
 TEST_F(ToolTest, checkSaysNothingOfAGoodScript) {
     write("tell application \"System Events\" to keystroke \"a\"\n");
-    const Outcome outcome = run("check script");
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.output, "");
-    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(run("check script"), (Outcome{0, "", ""}));
 }
 
 TEST_F(ToolTest, checkNamesPlaceMessageAndNumberOfASyntaxError) {
     write(R"(tell application "System Events"
 	key code 1
 )");
-    const Outcome outcome = run("check script");
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.errors,
-              "script:3:1: syntax error: Expected “end” but found end of script. (-2741)\n"
-              "Hint: The block that begins in line 1 has no “end” of its own.\n");
+    EXPECT_EQ(run("check script"),
+              (Outcome{1, "",
+                       "script:3:1: syntax error: Expected “end” but found end of script. (-2741)\n"
+                       "Hint: The block that begins in line 1 has no “end” of its own.\n"}));
 }
 
 TEST_F(ToolTest, checkWarnsOfExtensionCodes) {
@@ -61,10 +65,9 @@ TEST_F(ToolTest, checkWarnsOfExtensionCodes) {
 	key code {36, 4279}
 end tell
 )");
-    const Outcome outcome = run("check script");
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.errors,
-              "script:2:16: warning: Key code 4279 is an extension, which only Keyrill plays.\n");
+    EXPECT_EQ(
+        run("check script"),
+        (Outcome{0, "", "script:2:16: warning: Key code 4279 is an extension, which only Keyrill plays.\n"}));
 }
 
 TEST_F(ToolTest, tracePrintsWhatWouldBeDone) {
@@ -124,9 +127,7 @@ TEST_F(ToolTest, readsFilesOfOlderEditors) {
 }
 
 TEST_F(ToolTest, aFileThatCannotBeReadIsAnError) {
-    const Outcome missing = run("check missing");
-    EXPECT_EQ(missing.status, 1);
-    EXPECT_EQ(missing.errors, "keyrill-script: missing: No such file or directory\n");
+    EXPECT_EQ(run("check missing"), (Outcome{1, "", "keyrill-script: missing: No such file or directory\n"}));
     EXPECT_EQ(run("trace .").errors, "keyrill-script: .: Is a directory\n");
 }
 
@@ -163,19 +164,16 @@ TEST_F(ToolTest, formatPrintsOneLayout) {
 }
 
 TEST_F(ToolTest, theLogGoesToStandardErrors) {
-    const Outcome outcome = run("trace -e 'log {1, 2}'");
-    EXPECT_EQ(outcome.errors, "(*{1, 2}*)\n");
-    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(run("trace -e 'log {1, 2}'"), (Outcome{0, "", "(*{1, 2}*)\n"}));
 }
 
 TEST_F(ToolTest, theCaretStandsBelowWideAndCombinedCharacters) {
     write("\tset x to \"日本😀e\xcc\x81\" & foo\n");
-    const Outcome outcome = run("trace script");
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.errors,
-              "script:1:21: execution error: The variable foo is not defined. (-2753)\n"
-              "\tset x to \"日本😀e\xcc\x81\" & foo\n"
-              "\t                     ^\n");
+    EXPECT_EQ(run("trace script"),
+              (Outcome{1, "",
+                       "script:1:21: execution error: The variable foo is not defined. (-2753)\n"
+                       "\tset x to \"日本😀e\xcc\x81\" & foo\n"
+                       "\t                     ^\n"}));
 }
 
 TEST_F(ToolTest, aLineIsShownWithoutControlCharacters) {
