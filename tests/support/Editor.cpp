@@ -23,28 +23,22 @@ std::vector<std::string> commandFor(Editor::Toolkit toolkit, const std::string& 
 }  // namespace
 
 Editor::Editor(const std::string& display, Toolkit toolkit, const Options& options)
-    : m_environment{{"DISPLAY", display},
-                    {"HOME", m_folder.path()},
-                    {"XDG_CONFIG_HOME", ""},
-                    {"XDG_RUNTIME_DIR", m_folder.path()},
-                    {"LC_ALL", "C.UTF-8"},
-                    {"DBUS_SESSION_BUS_ADDRESS", "disabled:"},
-                    {"GSETTINGS_BACKEND", "memory"},
-                    {"NO_AT_BRIDGE", "1"},
-                    {"GTK_IM_MODULE", ""},
-                    {"QT_IM_MODULE", ""},
-                    {"XMODIFIERS", ""}} {
-    for (const auto& [name, value] : options.environment) m_environment[name] = value;
-    plainTyping(m_folder.path());
-    // Of several editors each has a file, and so a title, of its own.
-    const std::string title = std::filesystem::path(m_folder.path()).filename().string() + options.suffix;
-    m_file = m_folder.file(title);
+    : WindowedProgram(display) {
+    add({{"XDG_CONFIG_HOME", ""},
+         {"XDG_RUNTIME_DIR", folder().path()},
+         {"DBUS_SESSION_BUS_ADDRESS", "disabled:"},
+         {"GSETTINGS_BACKEND", "memory"},
+         {"NO_AT_BRIDGE", "1"},
+         {"GTK_IM_MODULE", ""},
+         {"QT_IM_MODULE", ""},
+         {"XMODIFIERS", ""}});
+    add(options.environment);
+    plainTyping(folder().path());
+    const std::string title = name() + options.suffix;
+    m_file = folder().file(title);
     std::ofstream(m_file).flush();
-    m_program = std::make_unique<Child>(
-        commandFor(toolkit, m_file),
-        Child::Options{.environment = m_environment, .outputFile = m_folder.file("log")});
-    const std::string windows = run({"xdotool", "search", "--sync", "--onlyvisible", "--name", title});
-    m_window = windows.substr(0, windows.find('\n'));
+    start(commandFor(toolkit, m_file));
+    findWindow(title);
     focus();
 }
 
@@ -56,15 +50,11 @@ std::string Editor::saved(const std::string& expected, std::chrono::milliseconds
 // A window that is not quite on the screen refuses the focus; it is given again until it is taken.
 void Editor::focus() const {
     const auto take = [this] {
-        run({"xdotool", "windowfocus", m_window});
+        run({"xdotool", "windowfocus", window()});
         return hasFocus();
     };
     if (!eventually(take)) throw std::runtime_error("the editor gets no focus");
 }
 
 // A toolkit may hand the focus on to a window inside its own.
-bool Editor::hasFocus() const { return run({"xdotool", "getwindowfocus"}) == m_window + "\n"; }
-
-std::string Editor::run(const std::vector<std::string>& command) const {
-    return outputOf(command, m_environment);
-}
+bool Editor::hasFocus() const { return run({"xdotool", "getwindowfocus"}) == window() + "\n"; }

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
+#include <map>
 #include <string>
 
-#include "support/Child.h"
+#include "support/WindowedProgram.h"
 
 /// A text editor as people have it, with an empty file open: mousepad, which is a GTK 3 program, or
 /// featherpad, which is a Qt 5 one. Ctrl+S writes its text, as it stands, to the file. It has the focus when
 /// constructed.
-class Editor {
+class Editor : public WindowedProgram {
   public:
     enum class Toolkit { gtk, qt };
 
@@ -31,16 +31,7 @@ class Editor {
 
     void focus() const;
     bool hasFocus() const;
-    /// Its window's number.
-    const std::string& window() const { return m_window; }
-    pid_t pid() const { return m_program->pid(); }
 
   private:
-    std::string run(const std::vector<std::string>& command) const;
-
-    TemporaryFolder m_folder;
-    std::map<std::string, std::string> m_environment;
     std::string m_file;
-    std::unique_ptr<Child> m_program;
-    std::string m_window;
 };

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "support/Child.h"
+#include "support/WindowedProgram.h"
 
 /// xterm, which writes every byte that is typed into it to a file. Neither control characters nor full lines
 /// mean anything to it; Return is a line feed. It has the focus when constructed.
-class Terminal {
+class Terminal : public WindowedProgram {
   public:
     struct Options {
         /// Further ones of xterm's, such as {"-geometry", "80x24+0+0"}.
@@ -23,21 +22,10 @@ class Terminal {
     Terminal(const std::string& display, const Options& options);
 
     /// What has been typed so far, UTF-8.
-    std::string typed() const { return contentOf(m_folder.file("typed")); }
+    std::string typed() const { return contentOf(folder().file("typed")); }
     /// Waits until that many bytes, or more, have come: all of them. Too few fail the test.
     std::string typed(std::size_t bytes, std::chrono::milliseconds deadline = std::chrono::seconds(20)) const;
 
     void focus() const;
     bool hasFocus() const;
-    /// Its window's number.
-    const std::string& window() const { return m_window; }
-    pid_t pid() const { return m_program->pid(); }
-
-  private:
-    std::string run(const std::vector<std::string>& command) const;
-
-    TemporaryFolder m_folder;
-    std::map<std::string, std::string> m_environment;
-    std::unique_ptr<Child> m_program;
-    std::string m_window;
 };
