@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <map>
 #include <optional>
-#include <utility>
 #include <vector>
 
 #include "platform/HotKeys.h"
@@ -14,6 +13,8 @@
 
 /// What is known of a key that is down.
 struct DownKey {
+    /// The keyboard that pressed it first, or DownKeys::anySource.
+    std::uint16_t source = 0;
     /// The real modifiers that it holds; 0 for ordinary keys.
     xkb_mod_mask_t modifiers = 0;
     bool isModifierKey = false;
@@ -28,54 +29,60 @@ struct DownKey {
     ServerTime pressTime = 0;
 };
 
-/// The keys that are down, those of each keyboard for itself: the server lets a second keyboard press a key
-/// that is down on the first.
+/// The keys that are down. Keyboards are merged as the X server merges them for the applications: a key that
+/// is down on two is down once, and up when the first of them lets go.
 class DownKeys {
   public:
-    /// Stands for all keyboards: keys that were down from the beginning.
+    /// Stands for whichever keyboard: keys that were down from the beginning.
     static constexpr std::uint16_t anySource = 0;
 
-    bool isDown(const RawKey& key) const { return m_keys.contains({key.source, key.keycode}); }
-    bool canRelease(const RawKey& key) const {
-        return isDown(key) || m_keys.contains({anySource, key.keycode});
+    /// Whether the event changes anything: a press of a key that is down and a release of one that is up do
+    /// not. The first press tells which keyboard holds what was down from the beginning.
+    bool isChangedBy(const RawKey& key) const {
+        const auto down = m_keys.find(key.keycode);
+        if (down == m_keys.end()) return key.press;
+        return !key.press || down->second.source == anySource;
+    }
+
+    /// Whether the key is down and the keyboard of the event was the first to press it.
+    bool isPressedBy(const RawKey& key) const {
+        const auto down = m_keys.find(key.keycode);
+        return down != m_keys.end() && down->second.source == key.source;
     }
 
     DownKey& press(const RawKey& key) {
-        m_keys.erase({anySource, key.keycode});
-        DownKey& held = m_keys[{key.source, key.keycode}];
+        DownKey& held = m_keys[key.keycode];
         held = {};
+        held.source = key.source;
         held.pressTime = key.time;
         return held;
     }
 
     /// Takes the key out; empty if it was not down.
     std::optional<DownKey> release(const RawKey& key) {
-        auto held = m_keys.find({key.source, key.keycode});
-        if (held == m_keys.end()) held = m_keys.find({anySource, key.keycode});
-        if (held == m_keys.end()) return std::nullopt;
-        const DownKey result = held->second;
-        m_keys.erase(held);
+        const auto down = m_keys.find(key.keycode);
+        if (down == m_keys.end()) return std::nullopt;
+        const DownKey result = down->second;
+        m_keys.erase(down);
         return result;
     }
 
-    /// The key on whichever keyboard it is down; null if on none.
+    /// Null if it is up.
     DownKey* find(std::uint8_t keycode) {
-        for (auto& [place, held] : m_keys) {
-            if (place.second == keycode) return &held;
-        }
-        return nullptr;
+        const auto down = m_keys.find(keycode);
+        return down == m_keys.end() ? nullptr : &down->second;
     }
 
     bool isHotKey(std::uint8_t keycode) const {
-        return std::any_of(m_keys.begin(), m_keys.end(), [keycode](const auto& entry) {
-            return entry.first.second == keycode && entry.second.hotKey;
-        });
+        const auto down = m_keys.find(keycode);
+        return down != m_keys.end() && down->second.hotKey;
     }
 
+    /// The keys that this keyboard was the first to press.
     std::vector<std::uint8_t> keycodesOf(std::uint16_t source) const {
         std::vector<std::uint8_t> keycodes;
-        for (const auto& [place, held] : m_keys) {
-            if (place.first == source) keycodes.push_back(place.second);
+        for (const auto& [keycode, held] : m_keys) {
+            if (held.source == source) keycodes.push_back(keycode);
         }
         return keycodes;
     }
@@ -83,15 +90,14 @@ class DownKeys {
     /// The real modifiers held by keys that are not hidden.
     xkb_mod_mask_t modifiers() const {
         xkb_mod_mask_t result = 0;
-        for (const auto& [place, held] : m_keys) result |= held.hidden ? 0 : held.modifiers;
+        for (const auto& [keycode, held] : m_keys) result |= held.hidden ? 0 : held.modifiers;
         return result;
     }
 
     /// Whether the key may repeat at that time: it has been down for the delay before repeats.
     bool mayRepeat(std::uint8_t keycode, ServerTime time) const {
-        return std::any_of(m_keys.begin(), m_keys.end(), [&](const auto& entry) {
-            return entry.first.second == keycode && hasBeenDownForDelay(entry.second, time);
-        });
+        const auto down = m_keys.find(keycode);
+        return down != m_keys.end() && hasBeenDownForDelay(down->second, time);
     }
 
     /// Whether any key may have repeated until then.
@@ -112,5 +118,5 @@ class DownKeys {
     }
 
     std::int32_t m_repeatDelay = 1;
-    std::map<std::pair<std::uint16_t, std::uint8_t>, DownKey> m_keys;
+    std::map<std::uint8_t, DownKey> m_keys;
 };

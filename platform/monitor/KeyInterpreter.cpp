@@ -11,9 +11,12 @@ constexpr std::uint8_t escapeKeycode = xkbcode::fromEvdev(1);
 }  // namespace
 
 void KeyInterpreter::key(const RawKey& key, const KeyOrigin& origin) {
+    // Also where the key is up for the applications already, as after a release by another keyboard.
+    watchEscape(key);
+    // What the user holds stays held for the macro being recorded, though the run puts it out.
+    if (!key.press && origin.own && !m_held.isPressedBy(key)) return;
     if (key.press) {
-        if (m_held.isDown(key) && !origin.hotKey) return;
-        press(key, origin);
+        if (origin.hotKey || matters(key)) press(key, origin);
     } else if (const std::optional<DownKey> held = m_held.release(key)) {
         release(key, *held);
     }
@@ -21,7 +24,6 @@ void KeyInterpreter::key(const RawKey& key, const KeyOrigin& origin) {
 
 void KeyInterpreter::press(const RawKey& key, const KeyOrigin& origin) {
     const bool isModifierKey = m_keyboard.keymap().keys().isModifierKey(key.keycode, m_keyboard.layout());
-    watchEscape(key);
     DownKey& held = m_held.press(key);
     held.isModifierKey = isModifierKey;
     held.hidden = origin.own && !m_keepsOwn;
@@ -60,7 +62,6 @@ void KeyInterpreter::pressOrdinary(const RawKey& key, DownKey& held) {
 }
 
 void KeyInterpreter::release(const RawKey& key, const DownKey& held) {
-    watchEscape(key);
     m_keyboard.feed(key.keycode, false);
     if (held.isModifierKey) {
         if (!held.hidden) reportModifiers(heldMask());

@@ -39,9 +39,8 @@ class KeyInterpreter {
     /// Both outlive this.
     KeyInterpreter(KeyboardState& keyboard, CancelWatch& cancel) : m_keyboard(keyboard), m_cancel(cancel) {}
 
-    /// Whether the event changes anything: a press of a key that is down and a release of one that is up do
-    /// not.
-    bool matters(const RawKey& key) const { return key.press ? !m_held.isDown(key) : m_held.canRelease(key); }
+    /// Whether the event changes anything; see DownKeys.
+    bool matters(const RawKey& key) const { return m_held.isChangedBy(key); }
     const DownKeys& held() const { return m_held; }
 
     void key(const RawKey& key, const KeyOrigin& origin);

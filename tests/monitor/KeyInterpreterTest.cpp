@@ -43,14 +43,42 @@ class KeyInterpreterTest : public testing::Test {
 constexpr KeyEvent aDown{KeyEventKind::keyDown, 0, 'a', 0};
 constexpr KeyEvent aUp{KeyEventKind::keyUp, 0, 0, 0};
 
-TEST_F(KeyInterpreterTest, eachKeyboardHasKeysOfItsOwn) {
+TEST_F(KeyInterpreterTest, aKeyThatIsDownOnTwoKeyboardsIsDownUntilTheFirstLetsGo) {
     press(xkey::a, laptop);
     press(xkey::a, laptop);
     press(xkey::a, desk);
+    EXPECT_EQ(keyEvents(), std::vector{aDown});
     release(xkey::a, laptop);
+    EXPECT_EQ(keyEvents(), std::vector{aUp});
     release(xkey::a, laptop);
     release(xkey::a, desk);
-    EXPECT_EQ(keyEvents(), (std::vector{aDown, aDown, aUp, aUp}));
+    EXPECT_EQ(keyEvents(), std::vector<KeyEvent>{});
+}
+
+TEST_F(KeyInterpreterTest, aKeyHeldOnOneKeyboardIsUpOnceItIsTappedOnTheOther) {
+    press(xkey::a, laptop);
+    press(xkey::a, desk);
+    release(xkey::a, desk);
+    EXPECT_EQ(keyEvents(), (std::vector{aDown, aUp}));
+    press(xkey::a, desk);
+    release(xkey::a, laptop);
+    EXPECT_EQ(keyEvents(), (std::vector{aDown, aUp}));
+}
+
+TEST_F(KeyInterpreterTest, escapeThatIsUpForTheApplicationsCountsByItsOwnKeyboard) {
+    press(xkey::escape, laptop);
+    m_interpreter.key({.keycode = xkey::escape, .press = false, .source = 5, .synthetic = true, .time = 150},
+                      {});
+    release(xkey::escape, laptop, 100 + 299);
+    EXPECT_FALSE(m_cancel.deadline());
+    EXPECT_FALSE(m_cancel.isCancelled());
+}
+
+TEST_F(KeyInterpreterTest, aKeyThatWasDownAtTheStartIsReleasedByWhicheverKeyboard) {
+    m_interpreter.startWith({xkey::shift});
+    keyEvents();
+    release(xkey::shift, desk);
+    EXPECT_EQ(keyEvents(), (std::vector{KeyEvent{KeyEventKind::modifiersChanged, 0, 0, 0}}));
 }
 
 TEST_F(KeyInterpreterTest, aKeyboardThatIsUnpluggedReleasesItsKeys) {

@@ -77,8 +77,7 @@ void EventOrder::handle(const RawKey& key) {
     }
     if (!key.press && m_interpreter.held().isHotKey(key.keycode)) m_hotKeyReleases[key.keycode] = key.time;
     const KeyOrigin origin = key.press ? originOf(key, own) : KeyOrigin{.own = own};
-    if (!origin.hotKey && !m_interpreter.matters(key)) return;
-    deliverRepeatsBefore(key);
+    if (origin.hotKey || m_interpreter.matters(key)) deliverRepeatsBefore(key);
     m_interpreter.key(key, origin);
     if (origin.hotKey && !own) noteHotKey(*origin.hotKey);
 }
