@@ -44,7 +44,8 @@ const std::vector<Row>& rows() {
 std::optional<std::uint16_t> evdevFor(std::uint32_t code) {
     const std::uint32_t base = code & ~choosers;
     if (base == power) return std::nullopt;
-    if (base > evdevBase && base <= evdevBase + maxEvdev) return static_cast<std::uint16_t>(base - evdevBase);
+    if (base >= evdevBase && base <= evdevBase + maxEvdev)
+        return static_cast<std::uint16_t>(base - evdevBase);
     const Row* row = find(base);
     if (row == nullptr || row->evdev == 0 || row->evdev > maxEvdev) return std::nullopt;
     return row->evdev;
@@ -57,7 +58,7 @@ std::uint32_t fromEvdev(std::uint16_t evdev) {
 
 bool isExtension(std::uint32_t code) {
     const std::uint32_t base = code & ~choosers;
-    if (base > evdevBase && base <= evdevBase + maxEvdev) return true;
+    if (base >= evdevBase && base <= evdevBase + maxEvdev) return true;
     return code != base && find(base) != nullptr;
 }
 

@@ -11,7 +11,7 @@
 /// | code       | meaning                                                                  |
 /// | 0x200 + n  | key n with the third-level chooser (AltGr) held                          |
 /// | 0x400 + n  | key n with the fifth-level chooser held; 0x600 both                       |
-/// | 0x1000 + e | the evdev key e, 1 to 247, that has no code of its own                   |
+/// | 0x1000 + e | the evdev key e, 0 to 247, that has no code of its own                   |
 ///
 /// The table is generated from keycodes.tsv, one row for each code; a row without an evdev key is a code that
 /// plays nothing.
@@ -44,7 +44,7 @@ std::optional<std::uint16_t> evdevFor(std::uint32_t code);
 
 /// The code that a press of the evdev key is recorded as: the row's code where there is one, else
 /// evdevBase + evdev. Where two codes share a key, keypad Enter is 76; codes above 127 are never given.
-/// `evdev` is 1 to 247.
+/// `evdev` is 0 to 247.
 std::uint32_t fromEvdev(std::uint16_t evdev);
 
 /// True for the extension codes, which only this program plays.

@@ -108,7 +108,8 @@ class Shaper {
         for (const NavigationKey& key : navigationKeys) {
             if (key.symbol == m_typed) return key.keyCode;
         }
-        return keycode::evdevBase + xkbcode::toEvdev(m_keycode);
+        // The five in the middle has none.
+        return m_baseCode;
     }
 
     const Keymap& m_keymap;

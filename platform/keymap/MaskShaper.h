@@ -25,7 +25,7 @@ struct TypedKey {
 /// - Otherwise Shift is added or dropped where Caps Lock turned a letter round; for A to Z Caps Lock itself
 ///   stands in for the Shift that is added. It also stands where nothing but the lock makes the letter.
 /// - A keypad digit that was typed keeps its code, which always means the digit; without Num Lock the key is
-///   reported as the navigation key that was typed.
+///   reported as the navigation key that was typed. The five, for which there is none, keeps its code always.
 /// - Level choosers go into the code.
 TypedKey shapeKey(const Keymap& keymap, std::uint8_t keycode, xkb_mod_mask_t modifiers,
                   xkb_layout_index_t layout, bool modifierHeld);

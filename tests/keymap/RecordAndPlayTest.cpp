@@ -51,7 +51,7 @@ class RecordAndPlayTest : public testing::TestWithParam<Layout> {
     void forEachKey(const Check& check) const {
         std::size_t keys = 0;
         for (xkb_layout_index_t layout = 0; layout < xkb_keymap_num_layouts(m_keymap->get()); ++layout) {
-            for (std::uint16_t keycode = xkbcode::first + 1; keycode <= xkbcode::last; ++keycode) {
+            for (std::uint16_t keycode = xkbcode::first; keycode <= xkbcode::last; ++keycode) {
                 const auto key = static_cast<std::uint8_t>(keycode);
                 if (!isOrdinary(key, layout)) continue;
                 SCOPED_TRACE(testing::Message() << "key " << keycode << " layout " << layout);

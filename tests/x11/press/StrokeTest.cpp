@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "display/Hands.h"
+#include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
 #include "support/Keys.h"
 #include "x11/press/InjectorTest.h"
@@ -29,6 +30,11 @@ class StrokeTest : public InjectorTest {
 TEST_F(StrokeTest, aKeyGoesDownAndUp) {
     EXPECT_EQ(wordsOf(run()->stroke(key::a, 0)), "going");
     EXPECT_EQ(received(), (Lines{"press 38 0x0", "release 38 0x0"}));
+}
+
+TEST_F(StrokeTest, theLowestKeyOfTheServerIsAKeyToo) {
+    ASSERT_TRUE(run()->stroke(keycode::evdevBase, 0));
+    EXPECT_EQ(received(), (Lines{"press 8 0x0", "release 8 0x0"}));
 }
 
 TEST_F(StrokeTest, modifiersGoDownBeforeAndUpAfterInTheOtherOrder) {

@@ -29,6 +29,12 @@ TEST_F(OrderTest, keysThatOtherProgramsPressAreDelivered) {
     EXPECT_EQ(log, (Log{"down 0 a 0x0", "mask 0x200", "down 11 B 0x200", "mask 0x0"}));
 }
 
+TEST_F(OrderTest, theLowestKeyIsDeliveredAsAKey) {
+    constexpr std::uint8_t lowest = 8;
+    hands().tap(lowest);
+    EXPECT_EQ(delivered(), (Log{"down 4096 0x0", "up 4096"}));
+}
+
 TEST_F(OrderTest, redundantPressesAndReleasesGiveNothing) {
     hands().release(xkey::a);
     hands().press(xkey::a);
