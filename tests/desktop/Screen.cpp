@@ -7,8 +7,6 @@
 #include <set>
 #include <sstream>
 
-#include "platform/x11/server/Property.h"
-
 namespace {
 
 // Programs have helper windows of a pixel or a few.
@@ -28,8 +26,10 @@ Screen::Screen(const std::string& display)
     : m_connection(x11::XConnection::open(display).value()),
       m_name(m_connection.atom("_NET_WM_NAME")),
       m_active(m_connection.atom("_NET_ACTIVE_WINDOW")),
-      m_tree(m_connection),
-      m_unmapped(m_connection) {}
+      m_unmapped(xcb_generate_id(m_connection)) {
+    xcb_create_window(m_connection, 0, m_unmapped, m_connection.root(), -1, -1, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+}
 
 std::vector<ScreenWindow> Screen::windows() const {
     std::vector<ScreenWindow> found;
@@ -78,15 +78,24 @@ std::vector<std::uint32_t> Screen::pixels(int x, int y, int width, int height) c
     return found;
 }
 
-std::uint32_t Screen::focus() const { return m_tree.focus(); }
+std::uint32_t Screen::focus() const {
+    const x11::XReply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    return reply->focus;
+}
 
 std::uint32_t Screen::activeWindow() const {
-    return x11::Property(m_connection, m_connection.root(), m_active).number(XCB_ATOM_WINDOW);
+    const auto question =
+        xcb_get_property(m_connection, 0, m_connection.root(), m_active, XCB_ATOM_WINDOW, 0, 1);
+    const x11::XReply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection, question, nullptr));
+    if (!reply || reply->value_len != 1) return XCB_WINDOW_NONE;
+    return *static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
 }
 
 // A window that is not on the screen gets no grab, but an answer that tells of another's.
 bool Screen::isKeyboardGrabbed() const {
-    const auto question = xcb_grab_keyboard(m_connection, 0, m_unmapped.id(), XCB_CURRENT_TIME,
+    const auto question = xcb_grab_keyboard(m_connection, 0, m_unmapped, XCB_CURRENT_TIME,
                                             XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     const x11::XReply<xcb_grab_keyboard_reply_t> reply(
         xcb_grab_keyboard_reply(m_connection, question, nullptr));
@@ -94,14 +103,23 @@ bool Screen::isKeyboardGrabbed() const {
 }
 
 bool Screen::isOwned(const std::string& selection) const {
-    return m_connection.ownerOf(m_connection.atom(selection)) != XCB_WINDOW_NONE;
+    const auto question = xcb_get_selection_owner(m_connection, m_connection.atom(selection));
+    const x11::XReply<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(m_connection, question, nullptr));
+    return reply->owner != XCB_WINDOW_NONE;
 }
 
 // Windows go while they are looked at; those are left out.
 void Screen::collect(xcb_window_t window, int x, int y, std::vector<ScreenWindow>& found) const {
+    const auto treeQuestion = xcb_query_tree(m_connection, window);
+    const auto stateQuestion = xcb_get_window_attributes(m_connection, window);
+    const auto placeQuestion = xcb_get_geometry(m_connection, window);
+    const x11::XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(m_connection, treeQuestion, nullptr));
+    const x11::XReply<xcb_get_window_attributes_reply_t> state(
+        xcb_get_window_attributes_reply(m_connection, stateQuestion, nullptr));
     const x11::XReply<xcb_get_geometry_reply_t> place(
-        xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));
-    if (!place || !m_tree.isOnScreen(window)) return;
+        xcb_get_geometry_reply(m_connection, placeQuestion, nullptr));
+    if (!tree || !state || !place || state->map_state != XCB_MAP_STATE_VIEWABLE) return;
 
     const int left = x + place->x;
     const int top = y + place->y;
@@ -109,14 +127,21 @@ void Screen::collect(xcb_window_t window, int x, int y, std::vector<ScreenWindow
     if (title.empty()) title = text(window, XCB_ATOM_WM_NAME);
     found.push_back({window, title, text(window, XCB_ATOM_WM_CLASS), left, top, place->width, place->height});
 
-    for (const xcb_window_t child : m_tree.childrenOf(window)) collect(child, left, top, found);
+    const xcb_window_t* children = xcb_query_tree_children(tree.get());
+    const int count = xcb_query_tree_children_length(tree.get());
+    for (int i = 0; i < count; ++i) collect(children[i], left, top, found);
 }
 
 // The words of a class are ended by zeros.
 std::string Screen::text(xcb_window_t window, xcb_atom_t property) const {
-    constexpr std::uint32_t longest = 1024;
-    std::string result =
-        x11::Property(m_connection, window, property).text(XCB_GET_PROPERTY_TYPE_ANY, longest);
+    constexpr std::uint32_t longest = 256;
+    const auto question =
+        xcb_get_property(m_connection, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, longest);
+    const x11::XReply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection, question, nullptr));
+    if (!reply || reply->format != 8) return {};
+    const auto length = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
+    std::string result(static_cast<const char*>(xcb_get_property_value(reply.get())), length);
     std::replace(result.begin(), result.end(), '\0', ' ');
     if (property == XCB_ATOM_WM_CLASS) {
         std::transform(result.begin(), result.end(), result.begin(),

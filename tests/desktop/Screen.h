@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "platform/x11/server/HiddenWindow.h"
-#include "platform/x11/server/WindowTree.h"
 #include "platform/x11/server/XConnection.h"
 
 /// A window that can be seen, as far as others do not cover it.
@@ -58,6 +56,5 @@ class Screen {
     x11::XConnection m_connection;
     xcb_atom_t m_name;
     xcb_atom_t m_active;
-    x11::WindowTree m_tree;
-    x11::HiddenWindow m_unmapped;
+    xcb_window_t m_unmapped;
 };

@@ -5,7 +5,6 @@
 #include <stdexcept>
 
 #include "display/Connection.h"
-#include "platform/x11/server/WindowTree.h"
 #include "support/Child.h"
 
 CoreClient::CoreClient(const std::string& display) : m_connection(connectTo(display)) {
@@ -16,7 +15,9 @@ CoreClient::CoreClient(const std::string& display) : m_connection(connectTo(disp
     xcb_map_window(m_connection, m_window);
     const bool focused = eventually([this] {
         xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_window, XCB_CURRENT_TIME);
-        return x11::WindowTree(m_connection).focus() == m_window;
+        const x11::XReply<xcb_get_input_focus_reply_t> reply(
+            xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+        return reply && reply->focus == m_window;
     });
     if (!focused) throw std::runtime_error("the window got no focus");
 }

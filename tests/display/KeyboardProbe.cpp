@@ -9,7 +9,6 @@
 
 #include "display/Connection.h"
 #include "platform/x11/server/Extensions.h"
-#include "platform/x11/server/Property.h"
 #include "support/Child.h"
 
 // The C header names a structure member "explicit".
@@ -91,5 +90,9 @@ std::uint8_t KeyboardProbe::group() const {
 }
 
 bool KeyboardProbe::hasProperty(const std::string& name) const {
-    return x11::Property(m_connection, m_connection.root(), m_connection.atom(name)).exists();
+    const x11::XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        m_connection,
+        xcb_get_property(m_connection, 0, m_connection.root(), m_connection.atom(name), XCB_ATOM_ANY, 0, 1),
+        nullptr));
+    return reply && reply->type != XCB_ATOM_NONE;
 }
