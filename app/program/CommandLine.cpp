@@ -14,7 +14,7 @@ void takeOption(CommandLine& line, const std::string& option) {
         line.wish = CommandLine::Wish::help;
     } else if (option == "--version") {
         line.wish = CommandLine::Wish::version;
-    } else if (option.starts_with(sessionOption)) {
+    } else if (option.starts_with(sessionOption) && option.size() > sessionOption.size()) {
         line.session = option.substr(sessionOption.size());
     } else {
         line.unknown.push_back(option);
@@ -26,11 +26,14 @@ void takeOption(CommandLine& line, const std::string& option) {
 CommandLine readCommandLine(const std::vector<std::string>& arguments) {
     CommandLine line;
     bool isBehindOptions = false;
-    for (const std::string& argument : arguments) {
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& argument = arguments[i];
         if (isBehindOptions || argument.size() < 2 || argument.front() != '-') {
             line.files.push_back(argument);
         } else if (argument == "--") {
             isBehindOptions = true;
+        } else if (argument == "--session" && i + 1 < arguments.size()) {
+            line.session = arguments[++i];
         } else {
             takeOption(line, argument);
         }

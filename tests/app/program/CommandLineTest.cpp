@@ -25,6 +25,16 @@ TEST(CommandLineTest, aSessionIsNamed) {
     EXPECT_EQ(readCommandLine({"--session=x11", "a"}), (CommandLine{.session = "x11", .files = {"a"}}));
 }
 
+TEST(CommandLineTest, theNameOfASessionMayStandBehindABlank) {
+    EXPECT_EQ(readCommandLine({"--session", "x11", "a"}), (CommandLine{.session = "x11", .files = {"a"}}));
+    EXPECT_EQ(readCommandLine({"a", "--session"}).unknown, std::vector<std::string>{"--session"});
+}
+
+TEST(CommandLineTest, aSessionWithoutItsNameIsRefused) {
+    EXPECT_EQ(checkOptions(readCommandLine({"--session="})).error(),
+              (Error{"There is no option \"--session=\".", "keyrill --help lists them."}));
+}
+
 TEST(CommandLineTest, helpAndVersionAreNoFiles) {
     EXPECT_EQ(readCommandLine({"--help"}), (CommandLine{.wish = CommandLine::Wish::help}));
     EXPECT_EQ(readCommandLine({"--version"}), (CommandLine{.wish = CommandLine::Wish::version}));
