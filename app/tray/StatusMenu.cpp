@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 
 #include "app/tray/MenuState.h"
+#include "app/tray/ScrollingMenu.h"
 
 namespace {
 
@@ -13,7 +14,7 @@ QAction* addRow(QMenu& menu, const MenuRow& row) {
         case MenuItemKind::command:
             return menu.addAction(title);
         case MenuItemKind::submenu:
-            return menu.addMenu(title)->menuAction();
+            return menu.addMenu(new ScrollingMenu(title, &menu));
         case MenuItemKind::separator:
             return menu.addSeparator();
     }
