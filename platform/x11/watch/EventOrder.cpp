@@ -75,11 +75,16 @@ void EventOrder::handle(const RawKey& key) {
         deliverRepeatsBefore(key);
         return m_interpreter.repeatByKeyboard(key);
     }
-    if (!key.press && m_interpreter.held().isHotKey(key.keycode)) m_hotKeyReleases[key.keycode] = key.time;
+    if (!key.press && m_interpreter.held().isHotKey(key.keycode)) noteHotKeyRelease(key);
     const KeyOrigin origin = key.press ? originOf(key, own) : KeyOrigin{.own = own};
     if (origin.hotKey || m_interpreter.matters(key)) deliverRepeatsBefore(key);
     m_interpreter.key(key, origin);
     if (origin.hotKey && !own) noteHotKey(*origin.hotKey);
+}
+
+void EventOrder::noteHotKeyRelease(const RawKey& release) {
+    m_hotKeyReleases[release.keycode] = release.time;
+    m_streams.grabs.takeUp(release.keycode);
 }
 
 void EventOrder::handle(const StateChange& change) {
@@ -90,7 +95,10 @@ void EventOrder::handle(const KeymapTouched&) { m_keymapTouched(); }
 
 void EventOrder::handle(const RepeatDelay& delay) { m_interpreter.setRepeatDelay(delay.milliseconds); }
 
-void EventOrder::handle(const KeyboardGone& gone) { m_interpreter.keyboardGone(gone.source, m_lastTime); }
+void EventOrder::handle(const KeyboardGone& gone) {
+    m_interpreter.keyboardGone(gone.source, m_lastTime);
+    m_streams.grabs.takeUp();
+}
 
 /// Servers that run inside another desktop's window pass its repeats on as releases with presses at the same
 /// time.
@@ -114,6 +122,7 @@ KeyOrigin EventOrder::originOf(const RawKey& press, bool own) {
     if (!grabbed) return origin;
     origin.hotKey = m_rules.hotKeys.find(grabbed->keycode, grabbed->modifiers);
     origin.grabbed = own || origin.hotKey;
+    if (origin.hotKey && !own) m_streams.grabs.yieldKeyboard(*grabbed);
     return origin;
 }
 
@@ -151,9 +160,12 @@ bool EventOrder::comesAgain(const RawKey& press) {
 }
 
 void EventOrder::handleLate(const GrabbedPress& press) {
+    // A repeat takes the keyboard anew.
+    if (isRepeat(press)) return m_streams.grabs.endActiveGrab();
     const std::optional<HotKeyId> id = m_rules.hotKeys.find(press.keycode, press.modifiers);
-    if (!id || isRepeat(press)) return;
+    if (!id) return;
     m_interpreter.lateHotKey(*id, press.keycode, press.time);
+    if (m_interpreter.held().isHotKey(press.keycode)) m_streams.grabs.yieldKeyboard(press);
 }
 
 bool EventOrder::isRepeat(const GrabbedPress& press) const {

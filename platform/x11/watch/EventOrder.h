@@ -62,6 +62,7 @@ class EventOrder {
     void deliverRepeatsBefore(const RawKey& key);
     void deliverRepeats(const std::vector<KeyRepeat>& repeats);
     void noteHotKey(HotKeyId id);
+    void noteHotKeyRelease(const RawKey& release);
     bool isRepeat(const GrabbedPress& press) const;
 
     Streams m_streams;

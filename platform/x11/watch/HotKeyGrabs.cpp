@@ -32,6 +32,7 @@ Result<std::unique_ptr<HotKeyGrabs>> HotKeyGrabs::open(const std::string& displa
 std::optional<std::string> HotKeyGrabs::grab(const KeyGrab& grab) {
     std::vector<xcb_void_cookie_t> cookies;
     for (const std::uint16_t modifiers : grab.variants()) {
+        m_combinations.insert({grab.keycode, modifiers});
         cookies.push_back(xcb_grab_key_checked(m_connection, 0, m_connection.root(), modifiers, grab.keycode,
                                                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
     }
@@ -47,14 +48,46 @@ std::optional<std::string> HotKeyGrabs::grab(const KeyGrab& grab) {
 
 void HotKeyGrabs::release(const KeyGrab& grab) {
     for (const std::uint16_t modifiers : grab.variants()) {
-        xcb_ungrab_key(m_connection, grab.keycode, m_connection.root(), modifiers);
+        const Place place{grab.keycode, modifiers};
+        m_combinations.erase(place);
+        ungrab(place);
     }
     m_connection.roundTrip();
+}
+
+void HotKeyGrabs::ungrab(const Place& place) const {
+    xcb_ungrab_key(m_connection, place.keycode, m_connection.root(), place.modifiers);
 }
 
 void HotKeyGrabs::endActiveGrab() {
     xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
     m_connection.roundTrip();
+}
+
+void HotKeyGrabs::yieldKeyboard(const GrabbedPress& press) {
+    const std::vector<std::uint16_t> fewer =
+        KeyGrab{.keycode = press.keycode, .modifiers = 0, .locks = press.modifiers}.variants();
+    for (const std::uint16_t modifiers : fewer) {
+        const Place place{press.keycode, modifiers};
+        if (m_combinations.contains(place) || !m_shields.insert(place).second) continue;
+        // Where another program holds it, the repeats are that program's.
+        xcb_grab_key(m_connection, 0, m_connection.root(), modifiers, press.keycode, XCB_GRAB_MODE_ASYNC,
+                     XCB_GRAB_MODE_ASYNC);
+    }
+    endActiveGrab();
+}
+
+void HotKeyGrabs::takeUp() {
+    while (!m_shields.empty()) takeUp(m_shields.begin()->keycode);
+}
+
+void HotKeyGrabs::takeUp(std::uint8_t keycode) {
+    const bool any = std::erase_if(m_shields, [&](const Place& place) {
+                         if (place.keycode != keycode) return false;
+                         if (!m_combinations.contains(place)) ungrab(place);
+                         return true;
+                     }) != 0;
+    if (any) m_connection.roundTrip();
 }
 
 bool HotKeyGrabs::read() {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <deque>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
 #include "platform/monitor/KeyGrabber.h"
@@ -37,6 +39,13 @@ class HotKeyGrabs final : public KeyGrabber {
     /// Ends the hold on the keyboard that lasts while a combination is held down.
     void endActiveGrab();
 
+    /// Ends it for all but the key itself, which the hand still holds: what is typed meanwhile reaches the
+    /// applications, and the repeats of the key do not, whichever of its modifiers are up by then.
+    void yieldKeyboard(const GrabbedPress& press);
+    /// The keys of yieldKeyboard() are up, or those of this key code alone.
+    void takeUp();
+    void takeUp(std::uint8_t keycode);
+
     /// Takes over what has come, without waiting; true if that is anything.
     bool read();
     void catchUp();
@@ -44,7 +53,19 @@ class HotKeyGrabs final : public KeyGrabber {
   private:
     explicit HotKeyGrabs(XConnection connection) : m_connection(std::move(connection)) {}
 
+    struct Place {
+        std::uint8_t keycode = 0;
+        std::uint16_t modifiers = 0;
+
+        friend auto operator<=>(const Place&, const Place&) = default;
+    };
+
+    void ungrab(const Place& place) const;
+
     XConnection m_connection;
+    std::set<Place> m_combinations;
+    /// What is grabbed for the sake of repeats alone.
+    std::set<Place> m_shields;
     std::deque<GrabbedPress> m_presses;
     std::uint64_t m_lastNumber = 0;
 };

@@ -15,6 +15,13 @@ class X11HotKeysTest : public X11Test {
         request(3, "play", 35);
         request(4, "multiplePlay", 46);
     }
+    /// The program has taken in each key before the next one moves.
+    void slowly(std::initializer_list<std::pair<std::uint8_t, bool>> keys) {
+        for (const auto& [key, press] : keys) {
+            press ? hands().press(key) : hands().release(key);
+            world().settle();
+        }
+    }
     HotKeyStatus status(HotKeyId id) { return world().hotKeys().state(id).status; }
 };
 
@@ -69,6 +76,35 @@ TEST_F(X11HotKeysTest, theApplicationGetsNothingOfAHotKey) {
     EXPECT_EQ(delivered("pressed"), Log{"pressed 3"});
     EXPECT_EQ(application.presses(xkey::p), 0);
     EXPECT_EQ(application.presses(xkey::a), 1);
+}
+
+TEST_F(X11HotKeysTest, aKeyTypedWhileTheHotKeyIsStillDownReachesTheApplication) {
+    CoreClient application(world().display());
+    request(1, "record", 15);
+    slowly({{xkey::control, true}, {xkey::super, true}, {xkey::r, true}});
+    slowly({{xkey::control, false}, {xkey::super, false}});
+    slowly({{xkey::a, true}, {xkey::a, false}, {xkey::r, false}, {xkey::r, true}, {xkey::r, false}});
+    EXPECT_EQ(application.presses(xkey::a), 1);
+    EXPECT_EQ(application.presses(xkey::r), 1);
+    EXPECT_EQ(delivered(), (Log{"mask 0x1000", "mask 0x1100", "pressed 1", "mask 0x100", "mask 0x0",
+                                "down 0 a 0x0", "up 0", "released 1", "down 15 r 0x0", "up 15"}));
+}
+
+TEST_F(X11HotKeysTest, theRepeatsOfAHotKeyAreNoLettersOnceItsModifiersAreUp) {
+    CoreClient application(world().display());
+    request(1, "record", 15);
+    slowly({{xkey::control, true}, {xkey::super, true}});
+    world().press(key::r);
+    world().settle();
+    slowly({{xkey::super, false}, {xkey::control, false}});
+    world().holdUntilRepeats(key::r, 5);
+    world().settle();
+    world().holdUntilRepeats(key::r, 5);
+    world().release(key::r);
+    slowly({{xkey::a, true}, {xkey::a, false}});
+    EXPECT_EQ(application.presses(xkey::r), 0);
+    EXPECT_EQ(application.presses(xkey::a), 1);
+    EXPECT_EQ(delivered("down"), Log{"down 0 a 0x0"});
 }
 
 TEST_F(X11HotKeysTest, aHeldHotKeyFiresOnceHoweverOftenItRepeats) {
