@@ -21,6 +21,9 @@ namespace {
 constexpr off_t greatestSize = off_t{64} * 1024 * 1024;
 constexpr mode_t modeOfNewFiles = 0600;
 
+constexpr const char* aFolder = "It is a folder";
+constexpr const char* noRegularFile = "It is not a regular file";
+
 std::string systemsCause() { return std::strerror(errno); }
 
 std::optional<struct stat> statusOf(const std::string& path) {
@@ -31,8 +34,8 @@ std::optional<struct stat> statusOf(const std::string& path) {
 
 /// Why a thing can be neither read nor replaced as a file; empty if it can.
 std::string obstacle(const struct stat& status) {
-    if (S_ISDIR(status.st_mode)) return "It is a folder";
-    return S_ISREG(status.st_mode) ? "" : "It is not a regular file";
+    if (S_ISDIR(status.st_mode)) return aFolder;
+    return S_ISREG(status.st_mode) ? "" : noRegularFile;
 }
 
 /// So that the new name is on the disk as well as the content. The content is safe without it.
@@ -117,8 +120,11 @@ void WholeFile::removeLeftovers() const {
 }
 
 Error WholeFile::cannot(const std::string& verb, const std::string& cause) const {
-    const std::string hint = verb == "read"
-                                 ? "Check that the file is there and who may read it."
-                                 : "Make room, check who may write there, or choose another place.";
+    const bool isRead = verb == "read";
+    const bool isOfWrongKind = cause == aFolder || cause == noRegularFile;
+    const std::string wrongKind = isRead ? "Choose a file." : "Choose another name.";
+    const std::string hint = isOfWrongKind ? wrongKind
+                             : isRead      ? "Check that the file is there and who may read it."
+                                           : "Make room, check who may write there, or choose another place.";
     return {"The " + m_kind + " " + m_path + " cannot be " + verb + ": " + cause, hint};
 }

@@ -111,6 +111,15 @@ TEST_F(WholeFileTest, refusesTheEndlessAndTheHuge) {
     EXPECT_EQ(readError(file), "The file " + file + " cannot be read: It is larger than 64 MiB");
 }
 
+TEST_F(WholeFileTest, givesAdviceThatFitsTheCause) {
+    const WholeFile inner(folder.file("folder"));
+    fs::create_directory(folder.file("folder"));
+    EXPECT_EQ(inner.read().error().hint, "Choose a file.");
+    EXPECT_EQ(inner.write("new").error().hint, "Choose another name.");
+    EXPECT_EQ(WholeFile("/dev/null").read().error().hint, "Choose a file.");
+    EXPECT_EQ(WholeFile(file).read().error().hint, "Check that the file is there and who may read it.");
+}
+
 TEST_F(WholeFileTest, callsItselfWhatItIs) {
     EXPECT_EQ(WholeFile(file, "settings file").read().error().message,
               "The settings file " + file + " cannot be read: No such file or directory");
