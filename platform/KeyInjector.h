@@ -53,8 +53,9 @@ using HeldKey = std::variant<HeldModifier, HeldCode, HeldText>;
 /// Presses keys for one run of a script, and holds every rule about hands, locks and cancelling, so that the
 /// script language knows nothing of the window system.
 ///
-/// Nothing is touched before the first step that presses a key. What the script says is what arrives: keys
-/// and locks that would change it are put out of the way, and locks are put back when the session is
+/// Nothing is touched before the first step that presses a key. What the script says is what arrives:
+/// while the user holds a modifier a step that presses a key waits, so that his combinations reach whom they
+/// are meant for; locks that would change it are put out of the way, and put back when the session is
 /// destroyed. So are keys that were pressed and not released. Once a step has halted, all later ones answer
 /// the same and press nothing.
 class InjectionSession {

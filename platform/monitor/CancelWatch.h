@@ -7,7 +7,8 @@
 #include "platform/Clock.h"
 #include "platform/monitor/MonitorEvents.h"
 
-/// The user's wish to end the playback: Escape of a real keyboard held for 0.3 s, or a hot key that cancels.
+/// The user's wish to end the playback: Escape held for 0.3 s on a keyboard, another program's
+/// included, or a hot key that cancels.
 class CancelWatch {
   public:
     static constexpr std::chrono::milliseconds holdTime{300};

@@ -12,7 +12,7 @@ constexpr std::uint8_t escapeKeycode = xkbcode::fromEvdev(1);
 
 void KeyInterpreter::key(const RawKey& key, const KeyOrigin& origin) {
     // Also where the key is up for the applications already, as after a release by another keyboard.
-    watchEscape(key);
+    if (!origin.own) watchEscape(key);
     // What the user holds stays held for the macro being recorded, though the run puts it out.
     if (!key.press && origin.own && !m_held.isPressedBy(key)) return;
     if (key.press) {
@@ -42,7 +42,6 @@ void KeyInterpreter::pressModifier(const RawKey& key, DownKey& held) {
     held.modifiers = m_keyboard.keymap().keys().setBy(key.keycode, m_keyboard.layout()) &
                      ~m_keyboard.keymap().masks().locks();
     m_keyboard.feed(key.keycode, true);
-    if (!key.synthetic) m_modifierPressed = true;
     if (!held.hidden) reportModifiers(heldMask());
 }
 
@@ -117,7 +116,7 @@ void KeyInterpreter::startWith(const std::vector<std::uint8_t>& keycodes) {
 }
 
 void KeyInterpreter::watchEscape(const RawKey& key) {
-    if (key.keycode != escapeKeycode || key.synthetic) return;
+    if (key.keycode != escapeKeycode) return;
     key.press ? m_cancel.escapePressed(key) : m_cancel.escapeReleased(key);
 }
 

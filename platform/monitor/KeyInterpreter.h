@@ -59,9 +59,6 @@ class KeyInterpreter {
     void setMuted(bool muted) { m_muted = muted; }
     void setKeepsOwnStrokes(bool keeps) { m_keepsOwn = keeps; }
 
-    /// Whether a modifier key has gone down on a real keyboard since the last call.
-    bool takeModifierPress() { return std::exchange(m_modifierPressed, false); }
-
     /// What is to be delivered, oldest first.
     std::deque<Delivery>& deliveries() { return m_deliveries; }
 
@@ -85,5 +82,4 @@ class KeyInterpreter {
     std::uint32_t m_reportedMask = 0;
     bool m_muted = false;
     bool m_keepsOwn = false;
-    bool m_modifierPressed = false;
 };

@@ -17,6 +17,9 @@ class Pacer {
     /// The moment from which the first pause counts, if none has been yet.
     void begin();
 
+    /// Counts from now on: what has passed since the last pause is nobody's lag.
+    void restart() { m_anchor = m_clock.now(); }
+
     /// Zero, negative durations and no numbers return at once; what is beyond the clock's range never ends.
     Step<> pause(double seconds);
 

@@ -30,8 +30,12 @@ Step<> RunWaiter::waitUntil(Clock::Time deadline) {
         // Before the wait as well: xcb may have read what the descriptor no longer shows.
         if (const auto heeded = heedUser(); !heeded) return heeded;
         if (m_clock.now() >= deadline) return {};
-        block(std::min(deadline, m_watch.cancelDeadline().value_or(deadline)));
+        awaitNews(deadline);
     }
+}
+
+void RunWaiter::awaitNews(Clock::Time deadline) {
+    block(std::min(deadline, m_watch.cancelDeadline().value_or(deadline)));
 }
 
 void RunWaiter::block(Clock::Time until) {

@@ -18,6 +18,9 @@ class RunWaiter final : public RunWait {
     /// Reads what the user has done, and halts if it means to stop. So does a lost X server.
     Step<> heedUser();
 
+    /// Waits until the watch has something to read, or until then; heedUser() reads it.
+    void awaitNews(Clock::Time deadline);
+
   private:
     void block(Clock::Time until);
 

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "platform/Clock.h"
+#include "platform/XkbCodes.h"
 
 /// What the injector needs of the event manager while a run lasts: the one who presses keys and the one who
 /// watches them work on different connections of one process and one thread.
@@ -32,17 +33,22 @@ class RunWatch {
     virtual void startPlayback() = 0;
     /// The program itself wishes to stop.
     virtual void stopPlayback() = 0;
-    /// Whether the user has asked to stop since then: a hot key that cancels, or Escape of a real keyboard
-    /// held for 0.3 s. As of the last drain(), and of the clock.
+    /// Whether the user has asked to stop since then: a hot key that cancels, or Escape held for 0.3 s
+    /// that is none of the script's. As of the last drain(), and of the clock.
     virtual bool isCancelled() const = 0;
     /// Whether the X server is gone. As of the last drain().
     virtual bool isLost() const = 0;
     /// When a held Escape will have become a wish to stop; empty while it is up.
     virtual std::optional<Clock::Time> cancelDeadline() const = 0;
 
-    /// Whether a modifier or level-chooser key has gone down on a real keyboard since the last call; the run
-    /// releases it before its next stroke.
-    virtual bool takeModifierPress() = 0;
+    /// Takes in every announced key that the server has worked off, and forgets the others: it has made
+    /// nothing of them. What comes through XTEST from then on and is not announced comes from other programs.
+    virtual void settleOwnKeys() = 0;
+    /// Whether any key is down that is none of the run's own. As of the last drain().
+    virtual bool handsHoldKeys() const = 0;
+    /// Those of them that have been down for 2 s before that moment, on whichever keyboard; those that were
+    /// down when watching began, for 2 s since then.
+    virtual KeycodeSet leftOvers(Clock::Time runStart) const = 0;
 
     /// Ends the active grab that a hot key which is still held gives its connection, which would swallow all
     /// strokes. The release of the hot key is still reported, from the raw events.

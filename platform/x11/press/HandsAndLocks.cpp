@@ -17,78 +17,53 @@ KeycodeSet holdersOf(const ModifierKeys& keys, xkb_mod_mask_t modifiers, const K
     return holders;
 }
 
-void releaseAll(InjectionConnection& connection, const KeycodeSet& keys) {
-    for (std::size_t keycode = 0; keycode < keys.size(); ++keycode) {
-        if (keys[keycode]) connection.release(static_cast<std::uint8_t>(keycode));
-    }
-}
-
 }  // namespace
 
-Result<bool> HandsAndLocks::takeOver(const KeymapWatch& keymap) {
+Result<void> HandsAndLocks::takeOver(const KeymapWatch& keymap) {
     const auto state = m_connection.synchronise();
     if (!state) return state.error();
-    const Keymap& map = keymap.keymap();
     m_afterwards = state.value().locked;
     const auto told = tellGuard(state.value().lockedLayout);
     if (!told) return told.error();
     m_hasTakenOver = true;
-    m_watch.takeModifierPress();
-    KeycodeSet down = keysDown(keymap);
-    const xkb_mod_mask_t held = state.value().depressed;
-    if (held != 0) down |= holdersOf(map.keys(), held, KeycodeSet().set());
-    releaseAll(m_connection, down);
-    const xkb_mod_mask_t inTheWay = state.value().locked & ~map.masks().numLock;
+    const xkb_mod_mask_t inTheWay = state.value().locked & ~keymap.keymap().masks().numLock;
     if (inTheWay != 0) m_connection.lockModifiers(inTheWay, 0);
-    if (state.value().latched != 0 || state.value().movesLayout()) m_connection.clearLatches();
+    if (state.value().latched != 0 || state.value().latchedLayout != 0) m_connection.clearLatches();
     m_current = state.value().locked & ~inTheWay;
     const auto done = m_connection.synchronise();
-    if (!done) return done.error();
-    return down.any();
+    return done ? Result<void>() : done.error();
 }
 
-Result<XkbComponents> HandsAndLocks::check(const KeymapWatch& keymap, const KeycodeSet& held) {
-    auto state = m_connection.synchronise();
-    if (!state) return state;
-    const bool isRepaired = repair(keymap, held, state.value());
-    const auto told = tellGuard(state.value().lockedLayout);
-    if (!told) return told.error();
-    return isRepaired ? m_connection.synchronise() : state;
-}
-
-/// Queues what has to be done; true if there is something.
-bool HandsAndLocks::repair(const KeymapWatch& keymap, const KeycodeSet& held, const XkbComponents& state) {
+Result<bool> HandsAndLocks::repair(const KeymapWatch& keymap, const KeycodeSet& held,
+                                   const XkbComponents& state) {
     const Keymap& map = keymap.keymap();
-    const xkb_mod_mask_t own = map.keys().heldBy(held);
-    const xkb_mod_mask_t foreign = state.depressed & ~own;
-    const xkb_mod_mask_t undone = own & ~state.depressed;
-    const bool hasPress = m_watch.takeModifierPress();
     bool isDone = changeLocksBack(state.locked, map.masks().numLock);
-    if (state.latched != 0) m_connection.clearLatches();
-    if (foreign != 0 || state.movesLayout() || hasPress) {
-        release(keymap, foreign, held);
-        isDone = true;
-    }
-    for (std::size_t keycode = 0; undone != 0 && keycode < held.size(); ++keycode) {
-        const auto code = static_cast<std::uint8_t>(keycode);
-        if (!held[keycode] || (map.keys().heldBy(code) & undone) == 0) continue;
-        m_connection.release(code);
-        m_connection.press(code);
-        isDone = true;
-    }
-    return isDone || state.latched != 0;
+    isDone = releaseStuck(map.keys(), held, state) || isDone;
+    isDone = pressUndone(map.keys(), held, state) || isDone;
+    const auto told = tellGuard(state.lockedLayout);
+    if (!told) return told.error();
+    return isDone;
 }
 
-/// Releases the modifier keys that are down on a keyboard; where none is seen to be, all that hold the
-/// modifiers.
-void HandsAndLocks::release(const KeymapWatch& keymap, xkb_mod_mask_t modifiers, const KeycodeSet& held) {
-    const ModifierKeys& keys = keymap.keymap().keys();
-    const KeycodeSet down = holdersOf(keys, realModifiers, keysDown(keymap)) & ~held;
-    releaseAll(m_connection, down);
-    if (holdersOf(keys, modifiers, down).none()) {
-        releaseAll(m_connection, holdersOf(keys, modifiers, ~held));
-    }
+/// Modifiers that are in force though no key is down that holds them: a keyboard that has gone, a keymap that
+/// was changed meanwhile. The release of any key that could hold them ends them.
+bool HandsAndLocks::releaseStuck(const ModifierKeys& keys, const KeycodeSet& held,
+                                 const XkbComponents& state) {
+    const xkb_mod_mask_t stuck = state.depressed & ~keys.heldBy(held);
+    if (stuck == 0 && state.latched == 0 && !state.movesLayout()) return false;
+    if (stuck != 0) m_connection.release(holdersOf(keys, stuck, ~held));
     m_connection.clearLatches();
+    return true;
+}
+
+bool HandsAndLocks::pressUndone(const ModifierKeys& keys, const KeycodeSet& held,
+                                const XkbComponents& state) {
+    const xkb_mod_mask_t undone = keys.heldBy(held) & ~state.depressed;
+    if (undone == 0) return false;
+    const KeycodeSet holders = holdersOf(keys, undone, held);
+    m_connection.release(holders);
+    m_connection.press(holders);
+    return true;
 }
 
 bool HandsAndLocks::changeLocksBack(xkb_mod_mask_t locked, xkb_mod_mask_t numLock) {
@@ -123,12 +98,6 @@ Result<void> HandsAndLocks::tellGuard(xkb_layout_index_t group) {
     return m_guard.tell({.kind = GuardMessage::Kind::running,
                          .lockedModifiers = static_cast<std::uint8_t>(m_afterwards),
                          .lockedGroup = static_cast<std::uint8_t>(group)});
-}
-
-KeycodeSet HandsAndLocks::keysDown(const KeymapWatch& keymap) const {
-    KeycodeSet down;
-    for (const SlaveKeyboard& keyboard : keymap.slaves()) down |= keysDownOn(m_connection.get(), keyboard);
-    return down;
 }
 
 }  // namespace x11

@@ -22,6 +22,18 @@ void InjectionConnection::press(std::uint8_t keycode) { fake(keycode, true); }
 
 void InjectionConnection::release(std::uint8_t keycode) { fake(keycode, false); }
 
+void InjectionConnection::press(const KeycodeSet& keycodes) {
+    for (std::size_t keycode = 0; keycode < keycodes.size(); ++keycode) {
+        if (keycodes[keycode]) press(static_cast<std::uint8_t>(keycode));
+    }
+}
+
+void InjectionConnection::release(const KeycodeSet& keycodes) {
+    for (std::size_t keycode = 0; keycode < keycodes.size(); ++keycode) {
+        if (keycodes[keycode]) release(static_cast<std::uint8_t>(keycode));
+    }
+}
+
 void InjectionConnection::fake(std::uint8_t keycode, bool press) {
     m_watch->expectOwnKey(keycode, press);
     const std::uint8_t type = press ? XCB_KEY_PRESS : XCB_KEY_RELEASE;

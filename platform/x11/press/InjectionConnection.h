@@ -29,6 +29,8 @@ class InjectionConnection {
     /// Queued, and announced to the watch.
     void press(std::uint8_t keycode);
     void release(std::uint8_t keycode);
+    void press(const KeycodeSet& keycodes);
+    void release(const KeycodeSet& keycodes);
     /// Queued. Of the real modifiers in `mask` those in `values` are locked, the others unlocked.
     void lockModifiers(xkb_mod_mask_t mask, xkb_mod_mask_t values);
     void lockGroup(xkb_layout_index_t group);

@@ -19,8 +19,8 @@ class TextTyper {
               RunWaiter& waiter)
         : m_connection(connection), m_keymap(keymap), m_binder(binder), m_sender(sender), m_waiter(waiter) {}
 
-    /// Before each part that goes out whole: brings hands and locks in order and tells the state.
-    using Check = std::function<Result<XkbComponents>()>;
+    /// Before each part that goes out whole: waits for hands, brings locks in order and tells the state.
+    using Check = std::function<Step<XkbComponents>()>;
 
     /// Types the characters with further X modifier bits and locks held over each. Fails before the first one
     /// if one of them cannot be typed; the message names it.

@@ -8,13 +8,6 @@
 
 namespace x11 {
 
-namespace {
-
-/// What applications need to take in that the user's keys are up.
-constexpr std::chrono::milliseconds settleTime{10};
-
-}  // namespace
-
 X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionPlan plan,
                                          std::function<void()> ended)
     : m_tools(tools),
@@ -22,7 +15,8 @@ X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionP
       m_whenEnded(std::move(ended)),
       m_waiter(tools.clock, tools.watch, tools.interrupt, xcb_get_file_descriptor(tools.connection.get())),
       m_pacer(tools.clock, m_waiter),
-      m_hands(tools.connection, tools.guard, tools.watch),
+      m_hands({tools.connection, tools.keymap, tools.watch, tools.clock}, m_waiter, m_pacer),
+      m_locks(tools.connection, tools.guard),
       m_sender(tools.connection, tools.watch),
       m_typer(tools.connection, tools.keymap, tools.binder, m_sender, m_waiter) {}
 
@@ -39,7 +33,7 @@ void X11InjectionSession::rest() {
     m_rests = true;
     std::for_each(m_held.rbegin(), m_held.rend(), [this](const Held& held) { releaseKeysOf(held); });
     m_tools.connection.flush();
-    m_hands.giveBack();
+    m_locks.giveBack();
     // A guard that has gone in the meantime has nothing left to do.
     [[maybe_unused]] const auto told = m_tools.guard.tell({});
     m_tools.mark.clear();
@@ -65,20 +59,17 @@ Step<> X11InjectionSession::begin() {
     if (!m_hasBegun) m_tools.watch.runStarts();
     m_hasBegun = true;
     m_rests = false;
-    m_tools.watch.endHotKeyGrab();
-    if (const auto freed = m_tools.grab.untilFree(m_waiter); !freed) return freed;
-    return takeOverHands();
-}
-
-Step<> X11InjectionSession::takeOverHands() {
-    const auto isReleased = m_hands.takeOver(m_tools.keymap);
-    if (!isReleased) return isReleased.error();
-    if (isReleased.value()) {
-        const auto settled = m_waiter.waitUntil(m_tools.clock.now() + settleTime);
-        if (!settled) return settled;
-    }
+    if (const auto freed = freeKeyboard(); !freed) return freed;
+    if (const auto taken = m_locks.takeOver(m_tools.keymap); !taken) return taken.error();
     m_pacer.begin();
     return {};
+}
+
+Step<> X11InjectionSession::freeKeyboard() {
+    // With the grab still there: the repeats of a hot key that is held would reach the application.
+    if (const auto up = m_hands.begin(); !up) return up;
+    m_tools.watch.endHotKeyGrab();
+    return m_tools.grab.untilFree(m_waiter);
 }
 
 /// After a rest, in the order in which they were pressed.
@@ -89,8 +80,13 @@ void X11InjectionSession::pressHeldAgain() {
     m_tools.connection.flush();
 }
 
-Result<XkbComponents> X11InjectionSession::checkHands() {
-    auto state = m_hands.check(m_tools.keymap, heldKeys());
+Step<XkbComponents> X11InjectionSession::checkHands() {
+    const KeycodeSet held = heldKeys();
+    auto state = m_hands.untilUp(held);
+    if (!state) return state;
+    const auto isRepaired = m_locks.repair(m_tools.keymap, held, state.value());
+    if (!isRepaired) return isRepaired.error();
+    if (isRepaired.value()) state = m_hands.untilUp(held);
     if (state) m_state = state.value();
     return state;
 }
@@ -127,7 +123,7 @@ Step<> X11InjectionSession::play(const Stroke& stroke) {
 /// What a stroke of a lock key has changed stays as it is now.
 Step<> X11InjectionSession::adoptLocks(std::uint8_t keycode) {
     if (!m_tools.keymap.keymap().keys().isLock(keycode)) return {};
-    if (const auto adopted = m_hands.adopt(); !adopted) return adopted.error();
+    if (const auto adopted = m_locks.adopt(); !adopted) return adopted.error();
     return {};
 }
 

@@ -6,6 +6,7 @@
 #include "platform/run/Pacer.h"
 #include "platform/x11/guard/PlayingMark.h"
 #include "platform/x11/press/GrabWait.h"
+#include "platform/x11/press/HandsWait.h"
 #include "platform/x11/press/TextTyper.h"
 
 namespace x11 {
@@ -23,8 +24,8 @@ struct InjectionTools {
     GrabWait& grab;
 };
 
-/// One run. The first step that presses a key begins it: the mark is set, the keyboard is waited for, hands
-/// and locks are taken over. So does the first one after a rest. Its end, which is that of the object, undoes
+/// One run. The first step that presses a key begins it: the mark is set, hands and keyboard are waited for,
+/// locks are taken over. So does the first one after a rest. Its end, which is that of the object, undoes
 /// what is left.
 class X11InjectionSession final : public InjectionSession {
   public:
@@ -53,11 +54,11 @@ class X11InjectionSession final : public InjectionSession {
     Step<> take(const std::function<Step<>()>& step);
     Result<void> followKeymap();
     Step<> begin();
-    Step<> takeOverHands();
+    Step<> freeKeyboard();
     void pressHeldAgain();
-    Result<XkbComponents> checkHands();
-    /// Begins if that has not been done, looks whether the user wishes to stop, and brings hands and locks in
-    /// order.
+    Step<XkbComponents> checkHands();
+    /// Begins if that has not been done, looks whether the user wishes to stop, waits for his hands and
+    /// brings the locks in order.
     Step<> prepareStroke();
 
     Step<> play(const Stroke& stroke);
@@ -79,7 +80,8 @@ class X11InjectionSession final : public InjectionSession {
     std::function<void()> m_whenEnded;
     RunWaiter m_waiter;
     Pacer m_pacer;
-    HandsAndLocks m_hands;
+    HandsWait m_hands;
+    HandsAndLocks m_locks;
     StrokeSender m_sender;
     TextTyper m_typer;
     std::vector<Held> m_held;

@@ -13,7 +13,7 @@ namespace x11 {
 
 /// Presses keys on an X11 display through XTEST.
 ///
-/// A run releases the keys that the user holds, clears the locks that would change what arrives, and puts the
+/// A run waits while a hand holds a modifier, clears the locks that would change what arrives, and puts the
 /// locks back at its end. Before its first stroke the guard is started, a program that releases what is still
 /// down should this process die in the middle of a stroke; without the guard nothing is played.
 ///

@@ -71,6 +71,7 @@ void EventOrder::workOffLatePresses() {
 void EventOrder::handle(const RawKey& key) {
     m_lastTime = key.time;
     const bool own = m_rules.own.take(key);
+    m_rules.hands.key(key, own);
     if (!key.press && takeRepeatPair(key)) {
         deliverRepeatsBefore(key);
         return m_interpreter.repeatByKeyboard(key);
@@ -96,6 +97,7 @@ void EventOrder::handle(const KeymapTouched&) { m_keymapTouched(); }
 void EventOrder::handle(const RepeatDelay& delay) { m_interpreter.setRepeatDelay(delay.milliseconds); }
 
 void EventOrder::handle(const KeyboardGone& gone) {
+    m_rules.hands.keyboardGone(gone.source);
     m_interpreter.keyboardGone(gone.source, m_lastTime);
     m_streams.grabs.takeUp();
 }

@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 
+#include "platform/monitor/HandKeys.h"
 #include "platform/monitor/HotKeyTable.h"
 #include "platform/monitor/KeyInterpreter.h"
 #include "platform/monitor/OwnStrokes.h"
@@ -29,6 +30,7 @@ class EventOrder {
     struct Rules {
         HotKeyTable& hotKeys;
         OwnStrokes& own;
+        HandKeys& hands;
         CancelWatch& cancel;
         KeyboardState& keyboard;
     };

@@ -51,17 +51,20 @@ X11EventManager::Parts::Parts(const Clock& clock, Opened opened)
       m_problem(std::move(opened.problem)),
       m_keyboard(std::move(opened.keymap), m_raw->components()),
       m_cancel(clock),
+      m_hands(clock),
       m_hotKeys(*m_grabs, m_keyboard),
       m_interpreter(m_keyboard, m_cancel),
-      m_order({*m_raw, *m_grabs, m_repeats.get()}, {m_hotKeys, m_own, m_cancel, m_keyboard}, m_interpreter,
-              [this] { m_wakeups.startTimer(keymapDebounce); }) {
+      m_order({*m_raw, *m_grabs, m_repeats.get()}, {m_hotKeys, m_own, m_hands, m_cancel, m_keyboard},
+              m_interpreter, [this] { m_wakeups.startTimer(keymapDebounce); }) {
     m_wakeups.watch(m_raw->connection().fileDescriptor());
     m_wakeups.watch(m_grabs->connection().fileDescriptor());
     if (m_repeats) {
         m_wakeups.watch(m_repeats->control().fileDescriptor());
         m_wakeups.watch(m_repeats->data().fileDescriptor());
     }
-    m_interpreter.startWith(m_raw->keysDown());
+    const std::vector<std::uint8_t> down = m_raw->keysDown();
+    m_interpreter.startWith(down);
+    m_hands.startWith(down);
     kick();
 }
 
@@ -137,11 +140,15 @@ void X11EventManager::Parts::runStarts() {
 }
 
 void X11EventManager::Parts::runEnds() {
-    catchUp();
+    settleOwnKeys();
     if (m_repeats) m_repeats->resume();
-    m_own.forget();
     m_running = false;
     kick();
+}
+
+void X11EventManager::Parts::settleOwnKeys() {
+    catchUp();
+    m_own.forget();
 }
 
 void X11EventManager::Parts::endHotKeyGrab() {

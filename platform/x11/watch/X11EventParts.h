@@ -32,7 +32,9 @@ class X11EventManager::Parts final : public RunWatch {
     bool isCancelled() const override { return m_cancel.isCancelled(); }
     bool isLost() const override { return isBroken(); }
     std::optional<Clock::Time> cancelDeadline() const override { return m_cancel.deadline(); }
-    bool takeModifierPress() override { return m_interpreter.takeModifierPress(); }
+    void settleOwnKeys() override;
+    bool handsHoldKeys() const override { return m_hands.any(); }
+    KeycodeSet leftOvers(Clock::Time runStart) const override { return m_hands.leftOvers(runStart); }
     void endHotKeyGrab() override;
     bool liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) override;
     void restoreHotKey() override;
@@ -77,6 +79,7 @@ class X11EventManager::Parts final : public RunWatch {
     KeyboardState m_keyboard;
     CancelWatch m_cancel;
     OwnStrokes m_own;
+    HandKeys m_hands;
     HotKeyTable m_hotKeys;
     KeyInterpreter m_interpreter;
     EventOrder m_order;

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "display/Hands.h"
+#include "display/Typist.h"
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
 #include "support/Keys.h"
@@ -213,8 +214,11 @@ TEST_F(StrokeTest, aRunWithoutStrokesTouchesNothing) {
     EXPECT_TRUE(std::filesystem::is_empty(program().runtimeFolder().path()));
 }
 
-TEST_F(StrokeTest, modifiersHeldByAnotherProgramAreReleasedOnceAndNotPressedAgain) {
-    command({"xdotool", "keydown", "ctrl"});
+TEST_F(StrokeTest, modifiersThatAnotherProgramLeftDownAreReleasedOnceAndNotPressedAgain) {
+    const Hands other(display());
+    Typist(other, std::chrono::milliseconds(0)).press({xkey::control});
+    program().manager().dispatch();
+    Typist(other, std::chrono::milliseconds(0)).hold(std::chrono::milliseconds(2100));
     const std::size_t before = received().size();
     ASSERT_TRUE(run()->stroke(key::a, 0));
     const Lines lines = received();

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <future>
+
 #include "display/NestedServers.h"
+#include "display/Typist.h"
 #include "platform/Modifiers.h"
 #include "support/Keys.h"
 #include "x11/press/InjectorTest.h"
@@ -9,12 +12,25 @@ namespace {
 /// Runs while a user has his hands on a real keyboard.
 class UserHandsTest : public testing::Test {
   protected:
+    const NestedServers& servers() const { return m_servers; }
     const Hands& user() const { return m_servers.user(); }
     InjectorOnDisplay& program() { return m_program; }
     const KeyboardProbe& probe() const { return m_probe; }
     const std::string& display() const { return m_servers.display(); }
     void finish() const { m_servers.finish(); }
     void waitFor(const std::string& held) { ASSERT_EQ(probe().awaitHeld(held), held); }
+
+    /// Lets go of keys after that time, while the run goes on; the moment before they were up.
+    std::future<std::chrono::steady_clock::time_point> released(std::initializer_list<std::uint8_t> keycodes,
+                                                                std::chrono::milliseconds after) const {
+        return std::async(std::launch::async, [this, keys = std::vector(keycodes), after] {
+            Typist(m_servers, std::chrono::milliseconds(0)).hold(after);
+            const auto now = std::chrono::steady_clock::now();
+            for (const std::uint8_t keycode : keys) user().release(keycode);
+            finish();
+            return now;
+        });
+    }
 
     static constexpr const char* row = "the quick brown fox\n";
 
@@ -24,38 +40,111 @@ class UserHandsTest : public testing::Test {
     KeyboardProbe m_probe{m_servers.display()};
 };
 
-TEST_F(UserHandsTest, aHeldControlDoesNotTaintTheRunAndDoesNotStick) {
+TEST_F(UserHandsTest, aRunWaitsForAHeldControlAndItsTextArrivesWhole) {
     const Terminal terminal(display());
     user().press(xkey::control);
     finish();
     waitFor("keys: 37, modifiers: 0x4");
+    auto up = released({xkey::control}, std::chrono::milliseconds(200));
     std::string expected;
-    for (int line = 0; line < 20; ++line) {
-        ASSERT_TRUE(program().run()->text(row, 0));
+    const auto session = program().run();
+    ASSERT_TRUE(session->text(row, 0));
+    EXPECT_GE(std::chrono::steady_clock::now(), up.get() + std::chrono::milliseconds(10));
+    expected += row;
+    for (int line = 1; line < 20; ++line) {
+        ASSERT_TRUE(session->text(row, 0));
         expected += row;
     }
     EXPECT_EQ(terminal.typed(expected.size()), expected);
-    user().release(xkey::control);
-    finish();
     waitFor("keys:, modifiers: 0x0");
 }
 
-TEST_F(UserHandsTest, aShiftPressedInTheRunDoesNotTaintTheStrokesAfterIt) {
+TEST_F(UserHandsTest, aRunWaitsForEachModifierThatIsPressedWhileItLasts) {
     const Terminal terminal(display());
     const auto session = program().run();
     std::string expected;
-    for (int stroke = 0; stroke < 60; ++stroke) {
-        // What is in flight when the user presses is his as well as ours.
-        finish();
-        if (stroke % 20 == 10) user().press(xkey::shift);
-        if (stroke % 20 == 15) user().release(xkey::shift);
-        finish();
-        ASSERT_TRUE(session->pause(0.005));
+    for (const std::uint8_t modifier :
+         {xkey::control, xkey::super, xkey::alt, xkey::shift, xkey::rightShift, xkey::altGr}) {
         ASSERT_TRUE(session->stroke(0, 0));
-        expected += 'a';
+        // What is in flight when the user presses is his as well as ours.
+        terminal.typed(expected.size() + 1);
+        user().press(modifier);
+        const std::string held = "keys: " + std::to_string(modifier) + ",";
+        ASSERT_TRUE(eventually([&] {
+            finish();
+            return probe().held().starts_with(held);
+        }));
+        auto up = released({modifier}, std::chrono::milliseconds(50));
+        ASSERT_TRUE(session->stroke(0, 0));
+        EXPECT_GE(std::chrono::steady_clock::now(), up.get() + std::chrono::milliseconds(10));
+        expected += "aa";
     }
     EXPECT_EQ(terminal.typed(expected.size()), expected);
     waitFor("keys:, modifiers: 0x0");
+}
+
+TEST_F(UserHandsTest, aModifierThatTheRunHoldsIsUpWhileItWaits) {
+    const Terminal terminal(display());
+    const auto session = program().run();
+    ASSERT_TRUE(session->keyDown(HeldModifier{modifier::shift}));
+    user().press(xkey::control);
+    finish();
+    // The server takes the modifiers of the keyboard that spoke last.
+    waitFor("keys: 37 50, modifiers: 0x4");
+    auto waited = std::async(std::launch::async, [&] {
+        EXPECT_EQ(probe().awaitHeld("keys: 37, modifiers: 0x4"), "keys: 37, modifiers: 0x4");
+        user().release(xkey::control);
+        finish();
+    });
+    ASSERT_TRUE(session->stroke(0, 0));
+    waited.get();
+    EXPECT_EQ(terminal.typed(1), "A");
+    waitFor("keys: 50, modifiers: 0x1");
+}
+
+TEST_F(UserHandsTest, whatAnotherProgramHoldsIsAHandToo) {
+    const Terminal terminal(display());
+    servers().program().press(xkey::control);
+    servers().program().finish();
+    auto up = std::async(std::launch::async, [this] {
+        Typist(servers().program(), std::chrono::milliseconds(0)).hold(std::chrono::milliseconds(200));
+        const auto now = std::chrono::steady_clock::now();
+        servers().program().release(xkey::control);
+        servers().program().finish();
+        return now;
+    });
+    ASSERT_TRUE(program().run()->stroke(0, 0));
+    EXPECT_GE(std::chrono::steady_clock::now(), up.get() + std::chrono::milliseconds(10));
+    EXPECT_EQ(terminal.typed(1), "a");
+}
+
+TEST_F(UserHandsTest, whatAnotherProgramLeftDownLongAgoIsReleased) {
+    const Terminal terminal(display());
+    servers().program().press(xkey::control);
+    servers().program().finish();
+    program().manager().dispatch();
+    Typist(servers().program(), std::chrono::milliseconds(0)).hold(std::chrono::milliseconds(2100));
+    ASSERT_TRUE(program().run()->stroke(0, 0));
+    EXPECT_EQ(terminal.typed(1), "a");
+    waitFor("keys:, modifiers: 0x0");
+}
+
+TEST_F(UserHandsTest, theStopCombinationAndEscapeWorkWhileARunWaits) {
+    program().manager().request({.id = 2,
+                                 .name = "stop",
+                                 .keyCode = 1,
+                                 .modifiers = modifier::control | modifier::command,
+                                 .cancelsPlayback = true});
+    for (const std::uint8_t key : {xkey::s, xkey::escape}) {
+        program().injector().startPlayback();
+        const Typist typist(servers(), std::chrono::milliseconds(30));
+        typist.press({xkey::control, xkey::super});
+        auto pressed = std::async(std::launch::async, [&] { typist.press({key}); });
+        EXPECT_EQ(wordsOf(program().run()->stroke(0, 0)), "cancelled");
+        pressed.get();
+        typist.release({key, xkey::super, xkey::control});
+        waitFor("keys:, modifiers: 0x0");
+    }
 }
 
 TEST_F(UserHandsTest, aHotKeyThatIsStillHeldDoesNotSwallowTheStrokes) {
@@ -71,6 +160,8 @@ TEST_F(UserHandsTest, aHotKeyThatIsStillHeldDoesNotSwallowTheStrokes) {
         program().manager().dispatch();
         return pressed == 1;
     }));
+    user().release(xkey::control);
+    finish();
     const int before = client.presses(xkey::a);
     EXPECT_EQ(wordsOf(program().run()->stroke(0, 0)), "going");
     EXPECT_EQ(client.presses(xkey::a), before + 1);

@@ -206,26 +206,50 @@ TEST_F(RunWatchTest, aShortEscapeDoesNotCancel) {
     EXPECT_FALSE(watch().isCancelled());
 }
 
-TEST_F(RunWatchTest, escapePressedByAProgramDoesNotCancel) {
+TEST_F(RunWatchTest, escapeHeldByAnotherProgramCancelsAndTheScriptsOwnDoesNot) {
     watch().startPlayback();
-    program().press(xkey::escape);
+    ownKey(xkey::escape, true);
     program().finish();
     manager().dispatch();
-    EXPECT_TRUE(loopUntilLine("down 53 #27 0x0"));
     EXPECT_FALSE(watch().cancelDeadline().has_value());
+    ownKey(xkey::escape, false);
+    program().press(xkey::escape);
+    EXPECT_TRUE(drainUntil([&] { return watch().cancelDeadline().has_value(); }));
+    clock().advance(std::chrono::milliseconds(300));
+    EXPECT_TRUE(watch().isCancelled());
     program().release(xkey::escape);
     program().finish();
 }
 
-TEST_F(RunWatchTest, aModifierOfARealKeyboardIsToldOnce) {
-    program().stroke({xkey::shift, xkey::a});
-    EXPECT_TRUE(loopUntilLine("mask 0x0"));
-    EXPECT_FALSE(watch().takeModifierPress());
+TEST_F(RunWatchTest, tellsWhatHandsHoldAndWhatWasLeftDown) {
+    ownKey(xkey::a, true);
+    program().finish();
+    watch().drain();
+    EXPECT_FALSE(watch().handsHoldKeys());
+    program().press(xkey::control);
     user().press(xkey::altGr);
-    EXPECT_TRUE(drainUntil([&] { return watch().takeModifierPress(); }));
-    EXPECT_FALSE(watch().takeModifierPress());
+    const Clock::Time pressed = clock().now();
+    EXPECT_TRUE(
+        drainUntil([&] { return watch().leftOvers(pressed + std::chrono::seconds(2)).count() == 2; }));
+    EXPECT_TRUE(watch().handsHoldKeys());
+    EXPECT_TRUE(watch().leftOvers(pressed + std::chrono::milliseconds(1999)).none());
+    EXPECT_TRUE(watch().leftOvers(pressed + std::chrono::seconds(2)).test(xkey::control));
+    ownKey(xkey::a, false);
+    program().release(xkey::control);
     user().release(xkey::altGr);
-    servers().finish();
+    EXPECT_TRUE(drainUntil([&] { return !watch().handsHoldKeys(); }));
+}
+
+TEST_F(RunWatchTest, whatTheServerMadeNothingOfIsForgotten) {
+    watch().startPlayback();
+    watch().runStarts();
+    watch().expectOwnKey(xkey::escape, true);
+    watch().settleOwnKeys();
+    program().press(xkey::escape);
+    EXPECT_TRUE(drainUntil([&] { return watch().cancelDeadline().has_value(); }));
+    program().release(xkey::escape);
+    program().finish();
+    watch().runEnds();
 }
 
 TEST_F(RunWatchTest, theUsersHeldModifierStaysReportedThoughTheRunPutsItOut) {

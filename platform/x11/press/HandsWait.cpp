@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/press/HandsWait.h"
+
+namespace x11 {
+
+namespace {
+
+/// What applications need to take in that the user's keys are up.
+constexpr std::chrono::milliseconds settleTime{10};
+/// The watch tells of each key; servers inside a window may keep one back until they are asked something.
+constexpr std::chrono::milliseconds betweenLooks{50};
+
+}  // namespace
+
+KeycodeSet HandsWait::modifierKeysOf(const ModifierKeys& map, const KeycodeSet& keys) {
+    KeycodeSet modifiers;
+    for (std::size_t keycode = 0; keycode < keys.size(); ++keycode) {
+        modifiers[keycode] = keys[keycode] && map.heldBy(static_cast<std::uint8_t>(keycode)) != 0;
+    }
+    return modifiers;
+}
+
+Step<> HandsWait::begin() {
+    m_runStart = m_tools.clock.now();
+    if (const auto heeded = m_waiter.heedUser(); !heeded) return heeded;
+    if (releaseLeftOvers()) {
+        const auto settled = m_waiter.waitUntil(m_tools.clock.now() + settleTime);
+        if (!settled) return settled;
+    }
+    const auto up = untilUp({});
+    return up ? Step<>() : Step<>(up.error());
+}
+
+bool HandsWait::releaseLeftOvers() {
+    if (m_tools.watch.leftOvers(m_runStart).none()) return false;
+    KeycodeSet left;
+    for (const SlaveKeyboard& keyboard : m_tools.keymap.slaves()) {
+        if (keyboard.isXtest) left |= keysDownOn(m_tools.connection.get(), keyboard);
+    }
+    left &= m_tools.watch.leftOvers(m_runStart);
+    m_tools.connection.release(left);
+    m_tools.connection.flush();
+    return left.any();
+}
+
+Step<XkbComponents> HandsWait::untilUp(const KeycodeSet& held) {
+    for (;;) {
+        const auto state = m_tools.connection.synchronise();
+        if (!state) return state.error();
+        if (!isHeld(state.value(), held)) return state.value();
+        if (const auto waited = wait(held); !waited) return waited.error();
+    }
+}
+
+Step<> HandsWait::wait(const KeycodeSet& held) {
+    const KeycodeSet lifted = modifierKeysOf(m_tools.keymap.keymap().keys(), held);
+    m_tools.connection.release(lifted);
+    m_tools.connection.flush();
+    // What comes from now on through XTEST comes from other programs.
+    m_tools.watch.settleOwnKeys();
+    const auto waited = waitUntilUp(held & ~lifted);
+    if (!waited) return waited;
+    m_tools.connection.press(lifted);
+    m_tools.connection.flush();
+    m_pacer.restart();
+    return {};
+}
+
+Step<> HandsWait::waitUntilUp(const KeycodeSet& held) {
+    for (;;) {
+        // Before the question: what happens after it makes the watch readable.
+        if (const auto heeded = m_waiter.heedUser(); !heeded) return heeded;
+        const auto state = m_tools.connection.synchronise();
+        if (!state) return state.error();
+        if (!isHeld(state.value(), held)) break;
+        if (releaseLeftOvers()) continue;
+        m_waiter.awaitNews(m_tools.clock.now() + betweenLooks);
+    }
+    return m_waiter.waitUntil(m_tools.clock.now() + settleTime);
+}
+
+bool HandsWait::isHeld(const XkbComponents& state, const KeycodeSet& held) const {
+    // The devices are asked only where there is a sign: the state of the core keyboard forgets the keys of
+    // one when another one speaks, and the watch may not have been told yet.
+    if (state.depressed == 0 && state.baseLayout == 0 && !m_tools.watch.handsHoldKeys()) return false;
+    const KeycodeSet down = keysOfHands(held);
+    if (modifierKeysOf(m_tools.keymap.keymap().keys(), down).any()) return true;
+    return state.baseLayout != 0 && down.any();
+}
+
+KeycodeSet HandsWait::keysOfHands(const KeycodeSet& held) const {
+    KeycodeSet down;
+    for (const SlaveKeyboard& keyboard : m_tools.keymap.slaves()) {
+        const KeycodeSet here = keysDownOn(m_tools.connection.get(), keyboard);
+        down |= keyboard.isXtest ? here & ~held : here;
+    }
+    return down;
+}
+
+}  // namespace x11
