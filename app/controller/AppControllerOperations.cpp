@@ -129,7 +129,7 @@ void AppController::setMacroString(const std::string& text) { m_overlayDesk.setM
 void AppController::currentMacroChanged() { m_menuDesk.update(); }
 
 void AppController::runMacro(QObject* sender) {
-    if (std::strcmp(sender->metaObject()->className(), "MacroMenuItem") != 0) return;
+    if (sender == nullptr || std::strcmp(sender->metaObject()->className(), "MacroMenuItem") != 0) return;
     const boost::shared_ptr<Macro> macro =
         MacroManager::macro(static_cast<MacroMenuItem*>(sender)->macroId());
     setCurrentMacro(macro);

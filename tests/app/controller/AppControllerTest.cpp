@@ -94,6 +94,7 @@ TEST_F(AppControllerTest, playsAnOlderMacroFromTheHistoryAndMakesItTheCurrentOne
 TEST_F(AppControllerTest, runsNothingForASenderThatIsNoMacroMenuItem) {
     recordKey(key::returnKey);
     controller.runMacro(controller.statusMenu.playMenuItem);
+    controller.runMacro(nullptr);
     EXPECT_TRUE(runs().empty());
 }
 
