@@ -55,6 +55,8 @@ void FilesDesk::open(const QString& path, KeyCombo play) {
     const QString name = QFileInfo(path).fileName();
     if (engineState().recording) {
         post(tr("\"%1\" was not loaded").arg(name), tr("A macro is being recorded. Stop recording first."));
+    } else if (m_gate.isLocked()) {
+        post(tr("\"%1\" was not loaded").arg(name), tr("The screen is locked. Unlock it first."));
     } else if (!m_gate.isOpen()) {
         post(tr("\"%1\" was not loaded").arg(name), tr("Answer Keyrill's question first."));
     } else if (loadFrom(path)) {

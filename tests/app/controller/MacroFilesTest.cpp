@@ -202,6 +202,16 @@ TEST_F(MacroFilesTest, refusesAFileFromOutsideWhileAQuestionIsOpen) {
     EXPECT_EQ(platform().notifications.messages()[0].text, "Answer Keyrill's question first.");
 }
 
+TEST_F(MacroFilesTest, refusesAFileFromOutsideWhileTheScreenIsLocked) {
+    platform().macroFiles.put(path(), "beep\n");
+    controller.awakeFromNib();
+    platform().screenLock.userLocksScreen();
+    controller.openMacroFile(file);
+    EXPECT_EQ(state().currentMacro, nullptr);
+    ASSERT_EQ(platform().notifications.messages().size(), 1U);
+    EXPECT_EQ(platform().notifications.messages()[0].text, "The screen is locked. Unlock it first.");
+}
+
 TEST_F(MacroFilesTest, tellsOfAFileFromOutsideThatCannotBeRead) {
     platform().macroFiles.failNextCall({"Permission denied.", ""});
     controller.openMacroFile(file);
