@@ -13,9 +13,9 @@ constexpr const char* context = "ShortcutTitles";
 
 struct TitlesRow {
     std::string_view name;
-    const char* label;
-    const char* meaning;
-    const char* command;
+    const char* label = nullptr;
+    const char* meaning = nullptr;
+    const char* command = nullptr;
 };
 
 constexpr std::array titlesRows = {

@@ -9,9 +9,9 @@
 /// A check box of the preferences.
 struct ToggleRow {
     /// Its key in the settings.
-    const char* key;
+    const char* key = nullptr;
     /// With a mnemonic that no other control of the panel has; to be translated in this context.
-    const char* title;
+    const char* title = nullptr;
     /// Its state until one is stored.
     bool initiallyOn = false;
 };

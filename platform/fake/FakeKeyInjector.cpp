@@ -89,7 +89,7 @@ Step<> FakeKeyInjector::Session::halt(const Halt& why) {
 }
 
 Step<> FakeKeyInjector::Session::stroke(std::uint32_t keyCode, std::uint32_t modifiers) {
-    if (const auto going = goOn(); !going) return going;
+    if (auto going = goOn(); !going) return going;
     if (isPower(keyCode)) return halt(powerKeyRefused());
     if (!keycode::evdevFor(keyCode)) return {};
     auto result = press("key " + std::to_string(keyCode) + words(modifiers));
@@ -98,13 +98,13 @@ Step<> FakeKeyInjector::Session::stroke(std::uint32_t keyCode, std::uint32_t mod
 }
 
 Step<> FakeKeyInjector::Session::text(std::string_view text, std::uint32_t modifiers) {
-    if (const auto going = goOn(); !going) return going;
+    if (auto going = goOn(); !going) return going;
     if (text.empty()) return {};
     return press("text " + std::string(text) + words(modifiers));
 }
 
 Step<> FakeKeyInjector::Session::keyDown(const HeldKey& key) {
-    if (const auto going = goOn(); !going) return going;
+    if (auto going = goOn(); !going) return going;
     const auto* code = std::get_if<HeldCode>(&key);
     if (code != nullptr && isPower(code->keyCode)) return halt(powerKeyRefused());
     const std::string name = nameOf(key);
@@ -113,14 +113,14 @@ Step<> FakeKeyInjector::Session::keyDown(const HeldKey& key) {
 }
 
 Step<> FakeKeyInjector::Session::keyUp(const HeldKey& key) {
-    if (const auto going = goOn(); !going) return going;
+    if (auto going = goOn(); !going) return going;
     const std::string name = nameOf(key);
     m_held.erase(std::remove(m_held.begin(), m_held.end(), name), m_held.end());
     return press("up" + name);
 }
 
 Step<> FakeKeyInjector::Session::pause(double seconds) {
-    if (const auto going = goOn(); !going) return going;
+    if (auto going = goOn(); !going) return going;
     std::ostringstream step;
     step.imbue(std::locale::classic());
     step << "pause " << seconds;

@@ -28,7 +28,7 @@ Step<> RunWaiter::heedUser() {
 Step<> RunWaiter::waitUntil(Clock::Time deadline) {
     for (;;) {
         // Before the wait as well: xcb may have read what the descriptor no longer shows.
-        if (const auto heeded = heedUser(); !heeded) return heeded;
+        if (auto heeded = heedUser(); !heeded) return heeded;
         if (m_clock.now() >= deadline) return {};
         awaitNews(deadline);
     }

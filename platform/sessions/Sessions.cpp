@@ -9,13 +9,13 @@
 
 namespace {
 
-constexpr std::array kinds = {
+constexpr std::array allKinds = {
     SessionKind{.name = "x11", .toolkit = "xcb", .check = x11::checkDisplay, .open = x11::openSession},
 };
 
-std::string namesOf(std::span<const SessionKind> known) {
+std::string namesOf(std::span<const SessionKind> kinds) {
     std::string names;
-    for (const SessionKind& kind : known) {
+    for (const SessionKind& kind : kinds) {
         if (!names.empty()) names += ", ";
         names += kind.name;
     }
@@ -24,21 +24,21 @@ std::string namesOf(std::span<const SessionKind> known) {
 
 }  // namespace
 
-std::span<const SessionKind> sessionKinds() { return kinds; }
+std::span<const SessionKind> sessionKinds() { return allKinds; }
 
-Result<SessionKind> chooseSession(std::string_view name, std::span<const SessionKind> known) {
+Result<SessionKind> chooseSession(std::string_view name, std::span<const SessionKind> kinds) {
     if (!name.empty()) {
-        const auto named = std::find_if(known.begin(), known.end(),
+        const auto named = std::find_if(kinds.begin(), kinds.end(),
                                         [&](const SessionKind& kind) { return kind.name == name; });
-        if (named == known.end()) {
+        if (named == kinds.end()) {
             return Error{"There is no kind of session called \"" + std::string(name) + "\".",
-                         "Choose one of these: " + namesOf(known) + "."};
+                         "Choose one of these: " + namesOf(kinds) + "."};
         }
         const auto here = named->check();
         return here ? Result<SessionKind>(*named) : here.error();
     }
     Error why{"No kind of session is known.", ""};
-    for (const SessionKind& kind : known) {
+    for (const SessionKind& kind : kinds) {
         const auto here = kind.check();
         if (here) return kind;
         why = here.error();

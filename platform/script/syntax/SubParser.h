@@ -14,11 +14,11 @@ class SubParser {
     /// Both outlive the parser.
     SubParser(ParseContext& context, Grammar& grammar)
         : m_context(context), m_tokens(context.tokens()), m_tree(context.tree()), m_grammar(grammar) {}
+    SubParser& operator=(const SubParser&) = delete;
 
   protected:
     ~SubParser() = default;
     SubParser(const SubParser&) = default;
-    SubParser& operator=(const SubParser&) = delete;
 
     /// A node at the current token, moving behind that.
     NodeId take(NodeKind kind, std::uint32_t value = 0) {

@@ -22,7 +22,7 @@ KeycodeSet HandsWait::modifierKeysOf(const ModifierKeys& map, const KeycodeSet& 
 
 Step<> HandsWait::begin() {
     m_runStart = m_tools.clock.now();
-    if (const auto heeded = m_waiter.heedUser(); !heeded) return heeded;
+    if (auto heeded = m_waiter.heedUser(); !heeded) return heeded;
     if (releaseLeftOvers()) {
         const auto settled = m_waiter.waitUntil(m_tools.clock.now() + settleTime);
         if (!settled) return settled;
@@ -69,7 +69,7 @@ Step<> HandsWait::wait(const KeycodeSet& held) {
 Step<> HandsWait::waitUntilUp(const KeycodeSet& held) {
     for (;;) {
         // Before the question: what happens after it makes the watch readable.
-        if (const auto heeded = m_waiter.heedUser(); !heeded) return heeded;
+        if (auto heeded = m_waiter.heedUser(); !heeded) return heeded;
         const auto state = m_tools.connection.synchronise();
         if (!state) return state.error();
         if (!isHeld(state.value(), held)) break;

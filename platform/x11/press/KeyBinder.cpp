@@ -163,7 +163,7 @@ void KeyBinder::noteReader() {
 
 Step<> KeyBinder::awaitReaders(const SpareSlots::Plan& plan, RunWait& wait) {
     if (!plan.notBefore) return {};
-    if (const auto waited = wait.waitUntil(*plan.notBefore); !waited) return waited;
+    if (auto waited = wait.waitUntil(*plan.notBefore); !waited) return waited;
     return m_receivers.await(wait, longestMidway);
 }
 

@@ -41,7 +41,7 @@ std::size_t TextTyper::fittingPart(std::span<const char32_t> characters, xkb_lay
 
 Step<> TextTyper::bind(const std::vector<char32_t>& wanted) {
     const auto plan = m_binder.plan(wanted);
-    if (const auto awaited = m_binder.awaitReaders(plan, m_waiter); !awaited) return awaited;
+    if (auto awaited = m_binder.awaitReaders(plan, m_waiter); !awaited) return awaited;
     if (const auto bound = m_binder.bind(plan); !bound) return bound.error();
     return {};
 }
@@ -80,9 +80,9 @@ Step<> TextTyper::type(std::span<const char32_t> characters, const Stroke& aroun
         std::vector<char32_t> wanted;
         const std::size_t size = fittingPart(characters, group, wanted);
         if (!wanted.empty()) {
-            if (const auto bound = bind(wanted); !bound) return bound;
+            if (auto bound = bind(wanted); !bound) return bound;
         }
-        if (const auto typed = typePart(characters.first(size), around, held, check); !typed) return typed;
+        if (auto typed = typePart(characters.first(size), around, held, check); !typed) return typed;
         characters = characters.subspan(size);
     }
     return {};
@@ -93,7 +93,7 @@ Step<> TextTyper::typePart(std::span<const char32_t> characters, const Stroke& a
     const ModifierKeys& keys = m_keymap.keymap().keys();
     std::size_t at = 0;
     while (at < characters.size()) {
-        if (const auto heeded = m_waiter.heedUser(); !heeded) return heeded;
+        if (auto heeded = m_waiter.heedUser(); !heeded) return heeded;
         const auto state = check();
         if (!state) return state.error();
         m_sender.meet(state.value());

@@ -59,7 +59,7 @@ Step<> X11InjectionSession::begin() {
     if (!m_hasBegun) m_tools.watch.runStarts();
     m_hasBegun = true;
     m_rests = false;
-    if (const auto freed = freeKeyboard(); !freed) return freed;
+    if (auto freed = freeKeyboard(); !freed) return freed;
     if (const auto taken = m_locks.takeOver(m_tools.keymap); !taken) return taken.error();
     m_pacer.begin();
     return {};
@@ -67,7 +67,7 @@ Step<> X11InjectionSession::begin() {
 
 Step<> X11InjectionSession::freeKeyboard() {
     // With the grab still there: the repeats of a hot key that is held would reach the application.
-    if (const auto up = m_hands.begin(); !up) return up;
+    if (auto up = m_hands.begin(); !up) return up;
     m_tools.watch.endHotKeyGrab();
     return m_tools.grab.untilFree(m_waiter);
 }
@@ -93,10 +93,10 @@ Step<XkbComponents> X11InjectionSession::checkHands() {
 
 Step<> X11InjectionSession::prepareStroke() {
     if (!m_hasBegun || m_rests) {
-        if (const auto begun = begin(); !begun) return begun;
+        if (auto begun = begin(); !begun) return begun;
         pressHeldAgain();
     }
-    if (const auto heeded = m_waiter.heedUser(); !heeded) return heeded;
+    if (auto heeded = m_waiter.heedUser(); !heeded) return heeded;
     const auto state = checkHands();
     if (!state) return state.error();
     m_sender.meet(state.value());
@@ -113,7 +113,7 @@ Step<> X11InjectionSession::stroke(std::uint32_t keyCode, std::uint32_t modifier
 }
 
 Step<> X11InjectionSession::play(const Stroke& stroke) {
-    if (const auto prepared = prepareStroke(); !prepared) return prepared;
+    if (auto prepared = prepareStroke(); !prepared) return prepared;
     const auto sent = m_sender.send(m_tools.keymap.keymap().keys(), stroke, heldKeys());
     if (!sent) return sent.error();
     m_tools.connection.flush();
@@ -138,8 +138,8 @@ Step<> X11InjectionSession::type(std::string_view text, std::uint32_t modifiers)
     if (const auto followed = followKeymap(); !followed) return followed.error();
     const auto around = planModifiers(m_tools.keymap.keymap(), modifiers);
     if (!around) return around.error();
-    if (const auto prepared = prepareStroke(); !prepared) return prepared;
-    if (const auto prepared = prepareTexts(); !prepared) return prepared;
+    if (auto prepared = prepareStroke(); !prepared) return prepared;
+    if (auto prepared = prepareTexts(); !prepared) return prepared;
     return m_typer.type(characters.value(), around.value(), heldKeys(), [this] { return checkHands(); });
 }
 
@@ -189,11 +189,11 @@ X11InjectionSession::Strokes X11InjectionSession::strokesOfText(std::string_view
 Step<> X11InjectionSession::keyDown(const HeldKey& key) {
     return take([&]() -> Step<> {
         if (const auto followed = followKeymap(); !followed) return followed.error();
-        if (const auto prepared = prepareStroke(); !prepared) return prepared;
+        if (auto prepared = prepareStroke(); !prepared) return prepared;
         const auto strokes = strokesOf(key);
         if (!strokes) return strokes.error();
         for (const Stroke& stroke : strokes.value()) {
-            if (const auto held = hold(stroke); !held) return held;
+            if (auto held = hold(stroke); !held) return held;
         }
         return {};
     });
@@ -202,7 +202,7 @@ Step<> X11InjectionSession::keyDown(const HeldKey& key) {
 Step<> X11InjectionSession::hold(const Stroke& stroke) {
     const KeycodeSet held = heldKeys();
     if (stroke.keycode == 0 || held[stroke.keycode]) return {};
-    if (const auto prepared = prepareStroke(); !prepared) return prepared;
+    if (auto prepared = prepareStroke(); !prepared) return prepared;
     m_held.push_back({stroke.keycode, m_sender.hold(m_tools.keymap.keymap().keys(), stroke, held)});
     m_sender.home();
     m_tools.connection.flush();
@@ -213,7 +213,7 @@ Step<> X11InjectionSession::keyUp(const HeldKey& key) {
     return take([&]() -> Step<> {
         // What the run does not hold is not released: it may be the user's own.
         if (m_held.empty()) return m_waiter.heedUser();
-        if (const auto prepared = prepareStroke(); !prepared) return prepared;
+        if (auto prepared = prepareStroke(); !prepared) return prepared;
         const auto strokes = strokesOf(key);
         if (!strokes) return strokes.error();
         for (auto stroke = strokes.value().rbegin(); stroke != strokes.value().rend(); ++stroke) {
