@@ -21,8 +21,7 @@ class Windows {
     /// Waits, 0.5 s at most, until the focus is where keys should go: `hidden`, a window of ours that has
     /// just been hidden, is off the screen, another window is the active one and holds the focus. Without a
     /// window manager nobody passes the focus on; then it is given back to the window that had it before
-    /// activate(), as it is where the manager passes it to a panel or the desktop. `none` for `hidden` if no
-    /// window was hidden.
+    /// activate(). `none` for `hidden` if no window was hidden.
     ///
     /// Why: keys that are sent at once after a window was hidden are lost.
     virtual void awaitFocusElsewhere(WindowId hidden) = 0;

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/Stage.h"
 
-#include <QVariant>
-#include <QWindow>
-
 #include "app/overlay/Alphas.h"
 #include "app/overlay/Fades.h"
 #include "app/widgets/IsShown.h"
@@ -13,16 +10,11 @@ namespace {
 
 WindowId windowIdOf(const QWidget& window) { return static_cast<WindowId>(window.winId()); }
 
-/// What Qt::WA_ShowWithoutActivating becomes when a window is made; from then on only this is read, each time
-/// that the window is shown (qxcbwindow.cpp). Window managers learn of it by a user time of 0.
-constexpr const char* showsWithoutFocus = "_q_showWithoutActivating";
-
 void showWithoutFocus(QWidget& window) {
-    QWindow& handle = *window.windowHandle();
-    const QVariant before = handle.property(showsWithoutFocus);
-    handle.setProperty(showsWithoutFocus, true);
+    const bool quietly = window.testAttribute(Qt::WA_ShowWithoutActivating);
+    window.setAttribute(Qt::WA_ShowWithoutActivating);
     window.show();
-    handle.setProperty(showsWithoutFocus, before);
+    window.setAttribute(Qt::WA_ShowWithoutActivating, quietly);
 }
 
 }  // namespace

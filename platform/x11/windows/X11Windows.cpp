@@ -22,14 +22,10 @@ X11Windows::X11Windows(XConnection connection, Clock& clock)
       m_clock(clock),
       m_managerCheck(m_connection.atom("_NET_SUPPORTING_WM_CHECK")),
       m_userTime(m_connection.atom("_NET_WM_USER_TIME")),
-      m_userTimeWindow(m_connection.atom("_NET_WM_USER_TIME_WINDOW")),
-      m_type(m_connection.atom("_NET_WM_WINDOW_TYPE")),
-      m_dock(m_connection.atom("_NET_WM_WINDOW_TYPE_DOCK")),
-      m_desktop(m_connection.atom("_NET_WM_WINDOW_TYPE_DESKTOP")) {}
+      m_userTimeWindow(m_connection.atom("_NET_WM_USER_TIME_WINDOW")) {}
 
 void X11Windows::activate(WindowId window, std::uint32_t userTime) {
     m_focusBefore = m_focus.holder();
-    m_activeBefore = m_focus.activeWindow();
     const std::uint32_t time = userTime != 0 ? userTime : m_serverClock.now();
     setUserTime(window, time);
     if (hasWindowManager()) {
@@ -45,17 +41,7 @@ void X11Windows::awaitFocusElsewhere(WindowId hidden) {
     const Clock::Time end = m_clock.now() + longestWait;
     const auto isReady = [&] { return managed ? isFocusElsewhere(hidden) : !m_tree.isOnScreen(hidden); };
     while (!isReady() && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
-    if (!managed) return giveFocusBack(hidden);
-    if (!isOfNoApplication(m_focus.activeWindow()) || !m_tree.isOnScreen(m_activeBefore)) return;
-    // xfwm4 passes the focus to a panel now and then.
-    m_focus.request(m_activeBefore, WindowFocus::Source::pager, 0);
-    const auto isBack = [&] { return m_focus.activeWindow() == m_activeBefore && isReady(); };
-    while (!isBack() && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
-}
-
-bool X11Windows::isOfNoApplication(xcb_window_t window) const {
-    const xcb_atom_t type = Property(m_connection, window, m_type).number(XCB_ATOM_ATOM);
-    return type != XCB_ATOM_NONE && (type == m_dock || type == m_desktop);
+    if (!managed) giveFocusBack(hidden);
 }
 
 // A manager that ended leaves its mark on the root window; only one whose own window carries it too is alive.

@@ -23,8 +23,6 @@ class X11Windows : public Windows {
   private:
     bool hasWindowManager() const;
     bool isFocusElsewhere(WindowId hidden) const;
-    /// A panel or the desktop, which nobody types into.
-    bool isOfNoApplication(xcb_window_t window) const;
     void giveFocusBack(WindowId hidden) const;
 
     void setUserTime(WindowId window, std::uint32_t time) const;
@@ -37,11 +35,7 @@ class X11Windows : public Windows {
     xcb_atom_t m_managerCheck;
     xcb_atom_t m_userTime;
     xcb_atom_t m_userTimeWindow;
-    xcb_atom_t m_type;
-    xcb_atom_t m_dock;
-    xcb_atom_t m_desktop;
     xcb_window_t m_focusBefore = XCB_WINDOW_NONE;
-    xcb_window_t m_activeBefore = XCB_WINDOW_NONE;
 };
 
 }  // namespace x11
