@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/BusLoop.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -24,9 +25,29 @@ BusLoop::~BusLoop() = default;
 
 int BusLoop::fileDescriptor() const { return m_context->fileDescriptor(); }
 
+namespace {
+
+/// One turn without waiting; whether there may be more to do. A wake-up that was taken in may tell of
+/// something that came after the turn had looked, and would be told of no more.
+bool turn(GMainContext* context) {
+    int priority = 0;
+    int timeout = 0;
+    GPollFD wakeUp{};
+    g_main_context_prepare(context, &priority);
+    const int files = g_main_context_query(context, priority, &timeout, &wakeUp, 1);
+    g_poll(&wakeUp, static_cast<guint>(std::min(files, 1)), 0);
+    const bool isReady = g_main_context_check(context, priority, &wakeUp, std::min(files, 1)) == TRUE;
+    if (isReady) g_main_context_dispatch(context);
+    return isReady || wakeUp.revents != 0;
+}
+
+}  // namespace
+
 void BusLoop::update() const {
-    while (g_main_context_iteration(m_context->get(), FALSE) == TRUE) {
+    if (g_main_context_acquire(m_context->get()) == FALSE) return;
+    while (turn(m_context->get())) {
     }
+    g_main_context_release(m_context->get());
 }
 
 void BusLoop::wake() const { g_main_context_wakeup(m_context->get()); }
