@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
 #include <QDir>
+#include <algorithm>
 #include <cstdio>
 
 #include "app/program/Backends.h"

@@ -32,12 +32,13 @@ Step<> HandsWait::begin() {
 }
 
 bool HandsWait::releaseLeftOvers() {
-    if (m_tools.watch.leftOvers(m_runStart).none()) return false;
+    const KeycodeSet old = m_tools.watch.leftOvers(m_runStart);
+    if (old.none()) return false;
     KeycodeSet left;
     for (const SlaveKeyboard& keyboard : m_tools.keymap.slaves()) {
         if (keyboard.isXtest) left |= keysDownOn(m_tools.connection.get(), keyboard);
     }
-    left &= m_tools.watch.leftOvers(m_runStart);
+    left &= old;
     m_tools.connection.release(left);
     m_tools.connection.flush();
     return left.any();
