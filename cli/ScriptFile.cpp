@@ -1,28 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ScriptFile.h"
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
-#include "platform/Descriptor.h"
 #include "platform/Encoding.h"
+#include "platform/linux/RegularFile.h"
 #include "platform/script/code/Compiler.h"
 
 namespace {
 
 Error systemError() { return {std::strerror(errno), ""}; }
 
-}  // namespace
-
-Result<std::string> readScript(const std::string& file) {
-    const bool isStandardInput = file == "-";
-    const Descriptor opened(isStandardInput ? -1 : ::open(file.c_str(), O_RDONLY | O_CLOEXEC));
-    if (!isStandardInput && !opened) return systemError();
-    const int descriptor = isStandardInput ? STDIN_FILENO : opened.number();
+/// Up to one byte more than a script may have.
+Result<std::string> bytesOf(int descriptor) {
     std::string bytes;
     std::array<char, 65536> buffer{};
     while (bytes.size() <= script::maxSourceSize) {
@@ -31,5 +26,19 @@ Result<std::string> readScript(const std::string& file) {
         if (count > 0) bytes.append(buffer.data(), static_cast<std::size_t>(count));
         if (count < 0 && errno != EINTR) return systemError();
     }
-    return decodedText(std::move(bytes));
+    return bytes;
+}
+
+Result<std::string> bytesOfFile(const std::string& file) {
+    const auto opened = openRegularFile(file);
+    if (opened) return bytesOf(opened.value().number());
+    const bool isOfWrongKind = !opened.error().hint.empty();
+    return Error{opened.error().message + (isOfWrongKind ? "; standard input is \"-\"" : ""), ""};
+}
+
+}  // namespace
+
+Result<std::string> readScript(const std::string& file) {
+    auto bytes = file == "-" ? bytesOf(STDIN_FILENO) : bytesOfFile(file);
+    return bytes ? decodedText(std::move(bytes).value()) : bytes;
 }

@@ -61,9 +61,10 @@ std::string asideName(const std::string& path) {
 
 KeyFileSettings::KeyFileSettings(const ConfigFolders& folders, std::function<void()> awaitTurnEnd)
     : m_path(folders.user + fileName), m_awaitTurnEnd(std::move(awaitTurnEnd)) {
-    settingsFile(m_path).removeLeftovers();
     const auto user = readUsersFile();
     if (user) {
+        // Not earlier: beside what a useless link leads to there is nothing of ours.
+        settingsFile(m_path).removeLeftovers();
         add(user.value());
     } else {
         m_faults.push_back(user.error());
@@ -153,9 +154,9 @@ Result<KeyFile> KeyFileSettings::readUsersFile() {
 }
 
 Result<> KeyFileSettings::putAside(const Error& fault) {
-    const std::string file = settingsFile(m_path).target();
-    const std::string aside = asideName(file);
-    if (std::rename(file.c_str(), aside.c_str()) != 0) {
+    // A link by itself: what it leads to may be anybody's, and be used elsewhere.
+    const std::string aside = asideName(m_path);
+    if (std::rename(m_path.c_str(), aside.c_str()) != 0) {
         return Error{fault.message, "It could not be put aside either: " + std::string(std::strerror(errno))};
     }
     m_faults.push_back({fault.message, "It was renamed to " + aside + ", and the settings begin anew."});

@@ -19,8 +19,9 @@ class KeyFile;
 ///
 /// Format: that of the desktop entry standard, group [Settings]; integers in decimal, booleans "true"
 /// and "false". Read once, by the constructor; a file that is not there is no fault. A user's file that
-/// cannot be read is renamed to keyrill.conf.bad-TIME (UTC), and what a killed run left beside it is removed.
-/// Before a write the file is read again, so that what others changed in it meanwhile is kept.
+/// cannot be read is renamed to keyrill.conf.bad-TIME (UTC), a link by itself without what it leads to, and
+/// what a killed run left beside it is removed. Before a write the file is read again, so that what others
+/// changed in it meanwhile is kept.
 ///
 /// Modes: 0600 for the file, 0700 for a folder that has to be made.
 class KeyFileSettings : public SettingsStore {

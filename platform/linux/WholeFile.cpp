@@ -13,16 +13,16 @@
 
 #include "platform/Descriptor.h"
 #include "platform/linux/GLibPointers.h"
+#include "platform/linux/RegularFile.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr off_t greatestSize = off_t{64} * 1024 * 1024;
+constexpr std::size_t greatestSize = std::size_t{64} * 1024 * 1024;
 constexpr mode_t modeOfNewFiles = 0600;
 
-constexpr const char* aFolder = "It is a folder";
-constexpr const char* noRegularFile = "It is not a regular file";
+constexpr std::size_t portion = 65536;
 
 std::string systemsCause() { return std::strerror(errno); }
 
@@ -32,10 +32,23 @@ std::optional<struct stat> statusOf(const std::string& path) {
     return status;
 }
 
-/// Why a thing can be neither read nor replaced as a file; empty if it can.
-std::string obstacle(const struct stat& status) {
-    if (S_ISDIR(status.st_mode)) return aFolder;
-    return S_ISREG(status.st_mode) ? "" : noRegularFile;
+/// Up to one byte more than is allowed, so that it shows where a file is larger.
+Result<std::string> contentOf(const Descriptor& file) {
+    std::string content;
+    while (content.size() <= greatestSize) {
+        const std::size_t before = content.size();
+        content.resize(before + portion);
+        const ssize_t count = ::read(file.number(), content.data() + before, portion);
+        content.resize(before + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+        if (count == 0) break;
+        if (count < 0 && errno != EINTR) return Error{systemsCause(), ""};
+    }
+    return content;
+}
+
+/// What another user's file is has to stay theirs; only root can see to that, and only root needs to.
+void keepOwner(const std::string& file, const struct stat& before) {
+    if (before.st_uid != geteuid() && lchown(file.c_str(), before.st_uid, before.st_gid) != 0) return;
 }
 
 /// So that the new name is on the disk as well as the content. The content is safe without it.
@@ -71,30 +84,23 @@ std::string WholeFile::target() const {
 bool WholeFile::isAbsent() const { return !statusOf(m_path) && (errno == ENOENT || errno == ENOTDIR); }
 
 Result<std::string> WholeFile::read() const {
-    // Looked at first, because a pipe without a writer would hold the program up.
-    const auto status = statusOf(m_path);
-    if (!status) return cannot("read", systemsCause());
-    const std::string cause = status->st_size > greatestSize ? "It is larger than 64 MiB" : obstacle(*status);
-    if (!cause.empty()) return cannot("read", cause);
-    char* content = nullptr;
-    gsize length = 0;
-    GError* error = nullptr;
-    if (g_file_get_contents(m_path.c_str(), &content, &length, &error) == FALSE) {
-        return cannot("read", causeOf(*GFailure(error)));
-    }
-    const GText owned(content);
-    return std::string(content, length);
+    const auto file = openRegularFile(m_path);
+    if (!file) return cannot("read", file.error());
+    auto content = contentOf(file.value());
+    if (!content) return cannot("read", content.error());
+    if (content.value().size() > greatestSize) return cannot("read", {"It is larger than 64 MiB", ""});
+    return content;
 }
 
 Result<> WholeFile::write(std::string_view content, std::optional<mode_t> mode) const {
     const std::string file = target();
     const auto before = statusOf(file);
-    if (!before && errno != ENOENT) return cannot("written", systemsCause());
+    if (!before && errno != ENOENT) return cannot("written", {systemsCause(), ""});
     if (before) {
-        const std::string cause = obstacle(*before);
-        if (!cause.empty()) return cannot("written", cause);
+        const std::string obstacle = obstacleAt(file);
+        if (!obstacle.empty()) return cannot("written", {obstacle, "Choose another name."});
         // A new file could take the place of a write-protected one all the same.
-        if (access(file.c_str(), W_OK) != 0) return cannot("written", systemsCause());
+        if (access(file.c_str(), W_OK) != 0) return cannot("written", {systemsCause(), ""});
         if (!mode) mode = before->st_mode & 07777U;
     }
     constexpr auto flags =
@@ -102,9 +108,10 @@ Result<> WholeFile::write(std::string_view content, std::optional<mode_t> mode) 
     GError* error = nullptr;
     if (g_file_set_contents_full(file.c_str(), content.data(), static_cast<gssize>(content.size()), flags,
                                  static_cast<int>(mode.value_or(modeOfNewFiles)), &error) == FALSE) {
-        return cannot("written", causeOf(*GFailure(error)));
+        return cannot("written", {causeOf(*GFailure(error)), ""});
     }
     // The umask may have taken its share.
+    if (before) keepOwner(file, *before);
     if (mode) chmod(file.c_str(), *mode);
     syncFolderOf(file);
     return {};
@@ -119,12 +126,10 @@ void WholeFile::removeLeftovers() const {
     }
 }
 
-Error WholeFile::cannot(const std::string& verb, const std::string& cause) const {
-    const bool isRead = verb == "read";
-    const bool isOfWrongKind = cause == aFolder || cause == noRegularFile;
-    const std::string wrongKind = isRead ? "Choose a file." : "Choose another name.";
-    const std::string hint = isOfWrongKind ? wrongKind
-                             : isRead      ? "Check that the file is there and who may read it."
-                                           : "Make room, check who may write there, or choose another place.";
-    return {"The " + m_kind + " " + m_path + " cannot be " + verb + ": " + cause, hint};
+Error WholeFile::cannot(const std::string& verb, const Error& cause) const {
+    const std::string access = verb == "read"
+                                   ? "Check that the file is there and who may read it."
+                                   : "Make room, check who may write there, or choose another place.";
+    return {"The " + m_kind + " " + m_path + " cannot be " + verb + ": " + cause.message,
+            cause.hint.empty() ? access : cause.hint};
 }

@@ -22,11 +22,11 @@ class WholeFile {
     /// Whether there is nothing to read: neither a file nor anything else.
     bool isAbsent() const;
 
-    /// The content. Fails for all that is not a regular file, and above 64 MiB.
+    /// The content. Fails for all that is not a regular file (RegularFile.h), and above 64 MiB.
     Result<std::string> read() const;
 
     /// Replaces the content: once it returns, that is on the disk; whatever goes wrong, a crash of the
-    /// machine among it, the old file is there as it was. Links stay.
+    /// machine among it, the old file is there as it was. Links stay, and root leaves a file its owner.
     ///
     /// `mode` is the file's from now on; without one a file keeps its own, and a new one gets 0600. Fails for
     /// all that is not a regular file, and for one that is write-protected.
@@ -36,7 +36,8 @@ class WholeFile {
     void removeLeftovers() const;
 
   private:
-    Error cannot(const std::string& verb, const std::string& cause) const;
+    /// With the cause's hint if it has one.
+    Error cannot(const std::string& verb, const Error& cause) const;
 
     std::string m_path;
     std::string m_kind;

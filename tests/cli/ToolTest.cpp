@@ -2,6 +2,7 @@
 //
 // The program keyrill-script as its users see it.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <ostream>
@@ -128,7 +129,17 @@ TEST_F(ToolTest, readsFilesOfOlderEditors) {
 
 TEST_F(ToolTest, aFileThatCannotBeReadIsAnError) {
     EXPECT_EQ(run("check missing"), (Outcome{1, "", "keyrill-script: missing: No such file or directory\n"}));
-    EXPECT_EQ(run("trace .").errors, "keyrill-script: .: Is a directory\n");
+    EXPECT_EQ(run("trace .").errors, "keyrill-script: .: It is a folder; standard input is \"-\"\n");
+}
+
+TEST_F(ToolTest, whatIsNoRegularFileIsRefusedAtOnce) {
+    ASSERT_EQ(mkfifo(m_folder.file("pipe").c_str(), 0600), 0);
+    for (const std::string file : {"pipe", "/dev/zero", "/proc/self/status"}) {
+        EXPECT_EQ(
+            run("check " + file),
+            (Outcome{1, "",
+                     "keyrill-script: " + file + ": It is not a regular file; standard input is \"-\"\n"}));
+    }
 }
 
 TEST_F(ToolTest, runNeedsADisplayAndSaysSoInOneLine) {

@@ -1,19 +1,36 @@
 // SPDX-License-Identifier: MIT
 //
 // What KeyFileSettings writes, and when.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
+#include "platform/Descriptor.h"
 #include "platform/linux/KeyFileSettings.h"
 #include "support/Child.h"
 
 namespace fs = std::filesystem;
 
 namespace {
+
+/// A device of its own, which nobody can rename or remove, not even root: the file system of terminals knows
+/// neither.
+class TerminalDevice {
+  public:
+    TerminalDevice() : m_control(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC)) {
+        EXPECT_TRUE(m_control && grantpt(m_control.number()) == 0 && unlockpt(m_control.number()) == 0);
+    }
+
+    std::string path() const { return ptsname(m_control.number()); }
+
+  private:
+    Descriptor m_control;
+};
 
 class StoredSettingsTest : public testing::Test {
   protected:
@@ -210,6 +227,49 @@ TEST_F(StoredSettingsTest, areKeptAsideWhereTheFileIsNoKeyFile) {
     EXPECT_TRUE(store.synchronize());
     EXPECT_EQ(contentOf(file), "[Settings]\nb=2\n");
 }
+
+/// What a link in the settings file's place may lead to without being of any use.
+class UselessTargetTest : public StoredSettingsTest, public testing::WithParamInterface<std::string> {
+  protected:
+    /// Makes what the parameter names.
+    fs::path target() {
+        const fs::path path = folder.file("others");
+        if (GetParam() == "folder") fs::create_directory(path);
+        if (GetParam() == "text") std::ofstream(path) << "anybody's";
+        if (GetParam() == "pipe") mkfifo(path.c_str(), 0600);
+        if (GetParam() == "process") return "/proc/self/status";
+        if (GetParam() == "device") return m_device.path();
+        return path;
+    }
+
+  private:
+    TerminalDevice m_device;
+};
+
+TEST_P(UselessTargetTest, staysAndOnlyTheLinkIsPutAside) {
+    const fs::path others = target();
+    const auto type = fs::symlink_status(others).type();
+    fs::create_directories(folder.file("config/keyrill"));
+    fs::create_symlink(others, file);
+    KeyFileSettings store = settings();
+    const auto fault = store.takeFault();
+    ASSERT_TRUE(fault);
+    const auto names = namesInFolder();
+    ASSERT_EQ(names.size(), 1U);
+    const std::string aside = folder.file("config/keyrill/" + names[0]);
+    EXPECT_EQ(fault->hint, "It was renamed to " + aside + ", and the settings begin anew.");
+    EXPECT_EQ(fs::read_symlink(aside), others);
+    EXPECT_EQ(fs::symlink_status(others).type(), type);
+    store.setInteger("b", 2);
+    EXPECT_TRUE(store.synchronize());
+    EXPECT_FALSE(fs::is_symlink(file));
+    EXPECT_EQ(contentOf(file), "[Settings]\nb=2\n");
+    EXPECT_TRUE(GetParam() != "text" || contentOf(others) == "anybody's");
+}
+
+INSTANTIATE_TEST_SUITE_P(ALinkTo, UselessTargetTest,
+                         testing::Values("folder", "text", "pipe", "device", "process"),
+                         [](const auto& kind) { return kind.param; });
 
 TEST_F(StoredSettingsTest, areAllKeptAsideHoweverFastTheyCome) {
     for (int number = 0; number < 3; ++number) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -103,6 +104,36 @@ TEST_F(WholeFileTest, refusesAllThatIsNoFile) {
     EXPECT_EQ(writeError(pipe), "The file " + pipe + " cannot be written: It is not a regular file");
     EXPECT_EQ(writeError("/dev/null"), "The file /dev/null cannot be written: It is not a regular file");
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+TEST_F(WholeFileTest, refusesWhatTheKernelMakesUp) {
+    for (const std::string path : {"/proc/self/status", "/proc/self/mem", "/sys/kernel/mm/ksm/run"}) {
+        if (path.starts_with("/sys") && !fs::exists(path)) continue;
+        EXPECT_EQ(readError(path), "The file " + path + " cannot be read: It is not a regular file");
+        EXPECT_EQ(writeError(path), "The file " + path + " cannot be written: It is not a regular file");
+    }
+}
+
+TEST_F(WholeFileTest, refusesThemBehindLinksToo) {
+    const std::string link = folder.file("link");
+    for (const std::string path : {"/dev/null", "/dev/zero", "/proc/self/status"}) {
+        fs::create_symlink(path, link);
+        EXPECT_EQ(readError(link), "The file " + link + " cannot be read: It is not a regular file");
+        EXPECT_EQ(writeError(link), "The file " + link + " cannot be written: It is not a regular file");
+        EXPECT_TRUE(fs::remove(link));
+    }
+}
+
+/// The program of an administrator must not take a user's file away from them.
+TEST_F(WholeFileTest, keepsItsOwner) {
+    if (geteuid() != 0) return;
+    std::ofstream(file) << "old";
+    ASSERT_EQ(chown(file.c_str(), 1234, 5678), 0);
+    EXPECT_TRUE(WholeFile(file).write("new"));
+    struct stat status {};
+    ASSERT_EQ(stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, 1234U);
+    EXPECT_EQ(status.st_gid, 5678U);
 }
 
 TEST_F(WholeFileTest, refusesTheEndlessAndTheHuge) {
