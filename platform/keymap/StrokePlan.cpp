@@ -18,8 +18,14 @@ Result<Stroke> around(const Keymap& keymap, std::uint32_t modifiers, std::uint32
 
 }  // namespace
 
+xkb_mod_mask_t locksOfText(const Keymap& keymap) { return realModifiers & ~keymap.masks().numLock; }
+
 Result<Stroke> planModifiers(const Keymap& keymap, std::uint32_t modifiers) {
-    return around(keymap, modifiers, 0);
+    auto planned = around(keymap, modifiers, 0);
+    if (!planned) return planned;
+    Stroke stroke = planned.value();
+    stroke.lockMask = locksOfText(keymap);
+    return stroke;
 }
 
 Result<Stroke> planStroke(const Keymap& keymap, std::uint32_t keyCode, std::uint32_t modifiers) {

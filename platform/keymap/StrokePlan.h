@@ -12,5 +12,10 @@
 /// key, and for a modifier or chooser that no key of the keymap holds (see Keymap::real()).
 Result<Stroke> planStroke(const Keymap& keymap, std::uint32_t keyCode, std::uint32_t modifiers);
 
-/// The stroke around others, without a key, that the modifiers make; fails as above.
+/// The locks that matter for the characters of a text, which must be off for each: all but Num Lock, since no
+/// character is typed by a key that depends on that.
+xkb_mod_mask_t locksOfText(const Keymap& keymap);
+
+/// The stroke around those of a text, without a key, that the modifiers make; Caps Lock among them is locked,
+/// other locks are off. Fails as above.
 Result<Stroke> planModifiers(const Keymap& keymap, std::uint32_t modifiers);

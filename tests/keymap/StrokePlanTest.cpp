@@ -31,6 +31,12 @@ TEST(StrokePlanTest, capsLockIsLockedAroundTheStroke) {
               (Stroke{.keycode = 38, .lockMask = 0x02, .lockValues = 0x02}));
 }
 
+TEST(StrokePlanTest, textIsTypedWithoutLocksExceptWhatItsModifiersSay) {
+    const auto us = namedKeymap("us");
+    EXPECT_EQ(planModifiers(*us, modifier::control).value(), (Stroke{.modifiers = 0x04, .lockMask = 0xEF}));
+    EXPECT_EQ(planModifiers(*us, modifier::capsLock).value(), (Stroke{.lockMask = 0xEF, .lockValues = 0x02}));
+}
+
 TEST(StrokePlanTest, chooserBitsHoldTheLevelChoosers) {
     const auto de = namedKeymap("de");
     EXPECT_EQ(planStroke(*de, 0x200 + 12, 0).value(), (Stroke{.keycode = 24, .modifiers = 0x80}));

@@ -42,8 +42,9 @@ void InjectionConnection::fake(std::uint8_t keycode, bool press) {
 }
 
 void InjectionConnection::lockModifiers(xkb_mod_mask_t mask, xkb_mod_mask_t values) {
+    // Values outside of the mask are no values to be left alone but an error of the whole request.
     xcb_xkb_latch_lock_state(get(), XCB_XKB_ID_USE_CORE_KBD, static_cast<std::uint8_t>(mask),
-                             static_cast<std::uint8_t>(values), 0, 0, 0, 0, 0);
+                             static_cast<std::uint8_t>(values & mask), 0, 0, 0, 0, 0);
     m_queued += lockSize;
 }
 

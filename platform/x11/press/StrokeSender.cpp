@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 #include "platform/keymap/ModifierMasks.h"
 
@@ -24,7 +25,7 @@ std::vector<std::uint8_t> missingKeys(const ModifierKeys& keys, const Stroke& st
 }  // namespace
 
 void StrokeSender::meet(const XkbComponents& state) {
-    m_locked = state.locked;
+    m_homeLocks = m_locks = state.locked;
     m_homeGroup = m_group = state.lockedLayout;
 }
 
@@ -48,7 +49,6 @@ Result<void> StrokeSender::send(const ModifierKeys& keys, const Stroke& stroke, 
     if (!held[stroke.keycode]) m_connection.release(stroke.keycode);
     std::for_each(modifiers.rbegin(), modifiers.rend(),
                   [&](std::uint8_t keycode) { m_connection.release(keycode); });
-    resetLocks(stroke);
     if (!isLifted) return {};
     const auto passed = m_connection.synchronise();
     m_watch.restoreHotKey();
@@ -61,7 +61,6 @@ std::vector<std::uint8_t> StrokeSender::hold(const ModifierKeys& keys, const Str
     pressed.push_back(stroke.keycode);
     setLocks(stroke);
     for (const std::uint8_t keycode : pressed) m_connection.press(keycode);
-    resetLocks(stroke);
     return pressed;
 }
 
@@ -71,15 +70,19 @@ void StrokeSender::lockGroup(xkb_layout_index_t group) {
     m_group = group;
 }
 
-void StrokeSender::setLocks(const Stroke& stroke) {
-    if (stroke.group >= 0) lockGroup(static_cast<xkb_layout_index_t>(stroke.group));
-    const xkb_mod_mask_t change = (m_locked ^ stroke.lockValues) & stroke.lockMask;
-    if (change != 0) m_connection.lockModifiers(change, stroke.lockValues);
+void StrokeSender::lockModifiers(xkb_mod_mask_t locks) {
+    const xkb_mod_mask_t change = std::exchange(m_locks, locks) ^ locks;
+    if (change != 0) m_connection.lockModifiers(change, locks);
 }
 
-void StrokeSender::resetLocks(const Stroke& stroke) {
-    const xkb_mod_mask_t change = (m_locked ^ stroke.lockValues) & stroke.lockMask;
-    if (change != 0) m_connection.lockModifiers(change, m_locked);
+void StrokeSender::setLocks(const Stroke& stroke) {
+    if (stroke.group >= 0) lockGroup(static_cast<xkb_layout_index_t>(stroke.group));
+    lockModifiers((m_homeLocks & ~stroke.lockMask) | (stroke.lockValues & stroke.lockMask));
+}
+
+void StrokeSender::home() {
+    lockGroup(m_homeGroup);
+    lockModifiers(m_homeLocks);
 }
 
 }  // namespace x11

@@ -14,7 +14,7 @@ class StrokeSender {
     StrokeSender(InjectionConnection& connection, RunWatch& watch)
         : m_connection(connection), m_watch(watch) {}
 
-    /// The state that the next strokes meet. The locked group is the one that home() goes back to.
+    /// The state that the next strokes meet; home() goes back to its locks and its group.
     void meet(const XkbComponents& state);
 
     /// What the stroke, and going home after it, takes of the connection's queue at most.
@@ -27,17 +27,19 @@ class StrokeSender {
     /// Queues the presses of a stroke without their releases. The keys that went down, in order.
     std::vector<std::uint8_t> hold(const ModifierKeys& keys, const Stroke& stroke, const KeycodeSet& held);
 
-    /// Queues the way back to the group that was locked at first.
-    void home() { lockGroup(m_homeGroup); }
+    /// Queues the way back to the locks and the group that were there at first: once after the strokes that
+    /// follow each other.
+    void home();
 
   private:
     void lockGroup(xkb_layout_index_t group);
     void setLocks(const Stroke& stroke);
-    void resetLocks(const Stroke& stroke);
+    void lockModifiers(xkb_mod_mask_t locks);
 
     InjectionConnection& m_connection;
     RunWatch& m_watch;
-    xkb_mod_mask_t m_locked = 0;
+    xkb_mod_mask_t m_homeLocks = 0;
+    xkb_mod_mask_t m_locks = 0;
     xkb_layout_index_t m_homeGroup = 0;
     xkb_layout_index_t m_group = 0;
 };

@@ -116,6 +116,7 @@ Step<> X11InjectionSession::play(const Stroke& stroke) {
     if (auto prepared = prepareStroke(); !prepared) return prepared;
     const auto sent = m_sender.send(m_tools.keymap.keymap().keys(), stroke, heldKeys());
     if (!sent) return sent.error();
+    m_sender.home();
     m_tools.connection.flush();
     return adoptLocks(stroke.keycode);
 }
@@ -182,6 +183,7 @@ X11InjectionSession::Strokes X11InjectionSession::strokesOfText(std::string_view
         const auto stroke = m_typer.strokeFor(character, m_state.lockedLayout);
         if (!stroke) return stroke.error();
         strokes.push_back(stroke.value());
+        strokes.back().lockMask = locksOfText(m_tools.keymap.keymap());
     }
     return strokes;
 }

@@ -139,6 +139,16 @@ TEST_F(StrokeTest, aHeldCapitalHoldsShiftToo) {
     EXPECT_EQ(probe().awaitHeld("keys:, modifiers: 0x0"), "keys:, modifiers: 0x0");
 }
 
+TEST_F(StrokeTest, aHeldCharacterIsThatOneUnderALockThatTheRunHasTapped) {
+    const auto session = run();
+    ASSERT_TRUE(session->stroke(key::capsLock, 0));
+    ASSERT_TRUE(session->keyDown(HeldText{"a"}));
+    EXPECT_EQ(received(3).at(2), "press 38 0x0");
+    ASSERT_TRUE(session->keyUp(HeldText{"a"}));
+    ASSERT_TRUE(session->stroke(key::b, 0));
+    EXPECT_EQ(received(6).at(4), "press 56 0x2");
+}
+
 TEST_F(StrokeTest, whatIsNotReleasedIsReleasedAtTheEndOfTheRun) {
     {
         const auto session = run();
