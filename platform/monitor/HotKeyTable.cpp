@@ -71,7 +71,8 @@ bool HotKeyTable::cancelsPlayback(HotKeyId id) const {
 void HotKeyTable::followKeymap() {
     std::vector<Row*> moved;
     for (auto& [id, row] : m_rows) {
-        if (row.request.keyCode == keycode::none) continue;
+        // What is lifted is taken back by the keymap that holds then.
+        if (row.request.keyCode == keycode::none || row.isLifted) continue;
         const Result<KeyGrab> grab = grabFor(row.request);
         const bool same = grab ? row.grab == grab.value() : !row.grab;
         if (!same) moved.push_back(&row);
@@ -83,22 +84,34 @@ void HotKeyTable::followKeymap() {
 
 bool HotKeyTable::lift(std::uint8_t keycode, std::uint16_t modifiers) {
     const std::optional<HotKeyId> id = find(keycode, modifiers);
-    if (!id) return false;
-    m_grabs.release(*m_rows[*id].grab);
-    m_lifted = id;
+    return id && liftRow(m_rows[*id]);
+}
+
+bool HotKeyTable::liftAll(std::uint8_t keycode) {
+    bool any = false;
+    for (auto& [id, row] : m_rows) {
+        if (row.grab && row.grab->keycode == keycode) any = liftRow(row) || any;
+    }
+    return any;
+}
+
+bool HotKeyTable::liftRow(Row& row) {
+    if (row.isLifted) return false;
+    m_grabs.release(*row.grab);
+    row.isLifted = true;
     return true;
 }
 
-void HotKeyTable::restore() {
-    if (!m_lifted) return;
-    const auto row = m_rows.find(*m_lifted);
-    m_lifted.reset();
-    if (row != m_rows.end() && row->second.grab) tryRow(row->second);
+void HotKeyTable::restoreAll(std::uint8_t keycode) {
+    for (auto& [id, row] : m_rows) {
+        if (row.isLifted && row.grab->keycode == keycode) tryRow(row);
+    }
 }
 
 void HotKeyTable::tryRow(Row& row) {
     row.grab.reset();
     row.waits = false;
+    row.isLifted = false;
     const Result<KeyGrab> grab = grabFor(row.request);
     if (!grab) return refuse(row, grab.error().message, grab.error().hint);
     if (const Row* holder = holderOf(grab.value())) {
@@ -111,8 +124,9 @@ void HotKeyTable::tryRow(Row& row) {
 }
 
 void HotKeyTable::freeRow(Row& row) {
-    if (row.grab) m_grabs.release(*row.grab);
+    if (row.grab && !row.isLifted) m_grabs.release(*row.grab);
     row.grab.reset();
+    row.isLifted = false;
 }
 
 void HotKeyTable::tryWaitingRows() {

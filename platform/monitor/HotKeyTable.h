@@ -29,11 +29,13 @@ class HotKeyTable {
     /// Moves the grabs whose key or modifiers are others in the new keymap.
     void followKeymap();
 
-    /// Gives the combination of these real modifiers free until restore(); at most one at a time. False, and
-    /// nothing done, if it is none of ours.
+    /// Gives the combination of these real modifiers free until restoreAll(); false, and nothing done, if it
+    /// is none of ours or has been given free already.
     bool lift(std::uint8_t keycode, std::uint16_t modifiers);
-    /// Takes back what is lifted, if anything.
-    void restore();
+    /// The same with all combinations of the key.
+    bool liftAll(std::uint8_t keycode);
+    /// Takes back what is lifted of that key, by the keymap that holds then.
+    void restoreAll(std::uint8_t keycode);
 
   private:
     struct Row {
@@ -42,10 +44,13 @@ class HotKeyTable {
         HotKeyState state;
         /// Refused since another row has the combination; it is tried again when one is given free.
         bool waits = false;
+        /// Given free for a while, though it is registered.
+        bool isLifted = false;
     };
 
     void tryRow(Row& row);
     void freeRow(Row& row);
+    bool liftRow(Row& row);
     void tryWaitingRows();
     void refuse(Row& row, const std::string& why, const std::string& hint);
     void settle(Row& row, HotKeyState state);
@@ -58,5 +63,4 @@ class HotKeyTable {
     const KeyboardState& m_keyboard;
     HotKeys::Observer m_observer;
     std::map<HotKeyId, Row> m_rows;
-    std::optional<HotKeyId> m_lifted;
 };

@@ -58,5 +58,9 @@ class RunWatch {
     /// application, and takes it back. Locks are not part of `modifiers` (X modifier bits). False, and
     /// nothing done, if the combination is none of ours.
     virtual bool liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) = 0;
-    virtual void restoreHotKey() = 0;
+    /// The same with all combinations of a key that the run is going to hold down: the server repeats it,
+    /// with whatever modifiers come meanwhile.
+    virtual bool liftHotKeysOf(std::uint8_t keycode) = 0;
+    /// Takes back what is lifted of that key, which must be up for the server.
+    virtual void restoreHotKeysOf(std::uint8_t keycode) = 0;
 };

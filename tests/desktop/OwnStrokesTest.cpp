@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "desktop/DesktopTest.h"
+#include "display/Typist.h"
 
 namespace {
 
@@ -29,6 +30,38 @@ end tell
     const std::string received = terminal.typed();
     EXPECT_EQ(std::count(received.begin(), received.end(), 'a'), 1) << received;
     EXPECT_EQ(std::count(received.begin(), received.end(), 'b'), 1) << received;
+    EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
+}
+
+TEST_F(OwnStrokesTest, aScriptThatHoldsThePlayCombinationLosesNothingAfterItAndIsPlayedAgainByHand) {
+    desktop.run({"xset", "r", "rate", "100", "50"});
+    const Keyrill keyrill(desktop,
+                          R"(tell application "System Events"
+	key code 0
+	key down control
+	key down command
+	key down "p"
+	delay 0.3
+	key up "p"
+	key up command
+	key up control
+	keystroke "bc"
+end tell
+)");
+    const Hands hands(desktop.display());
+    const Typist typist(hands, std::chrono::milliseconds(30));
+    for (const std::ptrdiff_t plays : {1, 2}) {
+        typist.stroke({xkey::control, xkey::super, xkey::p});
+        ASSERT_TRUE(eventually([&] {
+            const std::string typed = terminal.typed();
+            return std::count(typed.begin(), typed.end(), 'c') == plays;
+        })) << terminal.typed();
+        const std::string received = terminal.typed();
+        EXPECT_EQ(std::count(received.begin(), received.end(), 'a'), plays) << received;
+        EXPECT_EQ(std::count(received.begin(), received.end(), 'b'), plays) << received;
+        // Held for 0.3 s, it repeats after 0.1 s each 0.02 s.
+        EXPECT_GE(std::count(received.begin(), received.end(), '\x10'), 3 * plays) << received;
+    }
     EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
 }
 

@@ -132,8 +132,41 @@ TEST_F(HotKeyTableTest, aLiftedCombinationIsFreeUntilItIsRestored) {
     EXPECT_FALSE(m_table.lift(keyOfR, 0x04));
     EXPECT_TRUE(m_table.lift(keyOfR, 0x44));
     EXPECT_TRUE(m_grabber.held.empty());
-    m_table.restore();
+    EXPECT_FALSE(m_table.lift(keyOfR, 0x44));
+    m_table.restoreAll(keyOfR);
     EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
+}
+
+TEST_F(HotKeyTableTest, allCombinationsOfAKeyAreFreeUntilTheyAreRestored) {
+    m_table.request(asked(record));
+    m_table.request(asked(play, modifier::control));
+    EXPECT_TRUE(m_table.liftAll(keyOfR));
+    EXPECT_FALSE(m_table.liftAll(keyOfR));
+    EXPECT_TRUE(m_grabber.held.empty());
+    m_table.restoreAll(keyOfR + 1);
+    EXPECT_TRUE(m_grabber.held.empty());
+    m_table.restoreAll(keyOfR);
+    EXPECT_EQ(m_grabber.held,
+              (std::vector{m_controlSuperR, KeyGrab{.keycode = keyOfR, .modifiers = 0x04, .locks = 0x12}}));
+}
+
+TEST_F(HotKeyTableTest, aLiftedCombinationFollowsTheKeymapWhenItIsRestored) {
+    m_table.request(asked(record));
+    m_table.liftAll(keyOfR);
+    changeKeymap("us", "altwin:alt_win");
+    EXPECT_TRUE(m_grabber.held.empty());
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::registered);
+    m_table.restoreAll(keyOfR);
+    EXPECT_TRUE(m_grabber.held.empty());
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::refused);
+}
+
+TEST_F(HotKeyTableTest, whatIsWithdrawnWhileItIsLiftedStaysFree) {
+    m_table.request(asked(record));
+    m_table.liftAll(keyOfR);
+    m_table.withdraw(record);
+    m_table.restoreAll(keyOfR);
+    EXPECT_TRUE(m_grabber.held.empty());
 }
 
 TEST_F(HotKeyTableTest, tellsOfEachChangeOnce) {

@@ -39,7 +39,9 @@ std::size_t StrokeSender::sizeOf(const Stroke& stroke) {
 Result<void> StrokeSender::send(const ModifierKeys& keys, const Stroke& stroke, const KeycodeSet& held) {
     const xkb_mod_mask_t down = keys.heldBy(held);
     const auto modifiers = missingKeys(keys, stroke, down);
+    // Those of a key that the run holds down are lifted already, and stay so.
     const bool isLifted =
+        !held[stroke.keycode] &&
         m_watch.liftHotKey(stroke.keycode, static_cast<std::uint16_t>(stroke.modifiers | down));
     setLocks(stroke);
     for (const std::uint8_t keycode : modifiers) m_connection.press(keycode);
@@ -51,7 +53,7 @@ Result<void> StrokeSender::send(const ModifierKeys& keys, const Stroke& stroke, 
                   [&](std::uint8_t keycode) { m_connection.release(keycode); });
     if (!isLifted) return {};
     const auto passed = m_connection.synchronise();
-    m_watch.restoreHotKey();
+    m_watch.restoreHotKeysOf(stroke.keycode);
     return passed ? Result<void>() : passed.error();
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/press/X11InjectionSession.h"
 
-#include <algorithm>
-
 #include "platform/keymap/StrokePlan.h"
 #include "platform/run/TextPlan.h"
 
@@ -18,6 +16,7 @@ X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionP
       m_hands({tools.connection, tools.keymap, tools.watch, tools.clock}, m_waiter, m_pacer),
       m_locks(tools.connection, tools.guard),
       m_sender(tools.connection, tools.watch),
+      m_held(tools.connection, tools.watch, m_sender),
       m_typer(tools.connection, tools.keymap, tools.binder, m_sender, m_waiter) {}
 
 X11InjectionSession::~X11InjectionSession() {
@@ -31,8 +30,7 @@ X11InjectionSession::~X11InjectionSession() {
 void X11InjectionSession::rest() {
     if (!m_hasBegun || m_rests) return;
     m_rests = true;
-    std::for_each(m_held.rbegin(), m_held.rend(), [this](const Held& held) { releaseKeysOf(held); });
-    m_tools.connection.flush();
+    m_held.rest();
     m_locks.giveBack();
     // A guard that has gone in the meantime has nothing left to do.
     [[maybe_unused]] const auto told = m_tools.guard.tell({});
@@ -72,16 +70,8 @@ Step<> X11InjectionSession::freeKeyboard() {
     return m_tools.grab.untilFree(m_waiter);
 }
 
-/// After a rest, in the order in which they were pressed.
-void X11InjectionSession::pressHeldAgain() {
-    for (const Held& held : m_held) {
-        for (const std::uint8_t keycode : held.pressed) m_tools.connection.press(keycode);
-    }
-    m_tools.connection.flush();
-}
-
 Step<XkbComponents> X11InjectionSession::checkHands() {
-    const KeycodeSet held = heldKeys();
+    const KeycodeSet held = m_held.keycodes();
     auto state = m_hands.untilUp(held);
     if (!state) return state;
     const auto isRepaired = m_locks.repair(m_tools.keymap, held, state.value());
@@ -94,7 +84,7 @@ Step<XkbComponents> X11InjectionSession::checkHands() {
 Step<> X11InjectionSession::prepareStroke() {
     if (!m_hasBegun || m_rests) {
         if (auto begun = begin(); !begun) return begun;
-        pressHeldAgain();
+        m_held.pressAgain();
     }
     if (auto heeded = m_waiter.heedUser(); !heeded) return heeded;
     const auto state = checkHands();
@@ -114,7 +104,7 @@ Step<> X11InjectionSession::stroke(std::uint32_t keyCode, std::uint32_t modifier
 
 Step<> X11InjectionSession::play(const Stroke& stroke) {
     if (auto prepared = prepareStroke(); !prepared) return prepared;
-    const auto sent = m_sender.send(m_tools.keymap.keymap().keys(), stroke, heldKeys());
+    const auto sent = m_sender.send(m_tools.keymap.keymap().keys(), stroke, m_held.keycodes());
     if (!sent) return sent.error();
     m_sender.home();
     m_tools.connection.flush();
@@ -141,7 +131,8 @@ Step<> X11InjectionSession::type(std::string_view text, std::uint32_t modifiers)
     if (!around) return around.error();
     if (auto prepared = prepareStroke(); !prepared) return prepared;
     if (auto prepared = prepareTexts(); !prepared) return prepared;
-    return m_typer.type(characters.value(), around.value(), heldKeys(), [this] { return checkHands(); });
+    return m_typer.type(characters.value(), around.value(), m_held.keycodes(),
+                        [this] { return checkHands(); });
 }
 
 /// What the plan tells of texts that are still to come; what in it cannot be typed is an error only there.
@@ -202,10 +193,9 @@ Step<> X11InjectionSession::keyDown(const HeldKey& key) {
 }
 
 Step<> X11InjectionSession::hold(const Stroke& stroke) {
-    const KeycodeSet held = heldKeys();
-    if (stroke.keycode == 0 || held[stroke.keycode]) return {};
+    if (stroke.keycode == 0 || m_held.keycodes()[stroke.keycode]) return {};
     if (auto prepared = prepareStroke(); !prepared) return prepared;
-    m_held.push_back({stroke.keycode, m_sender.hold(m_tools.keymap.keymap().keys(), stroke, held)});
+    m_held.press(m_tools.keymap.keymap().keys(), stroke);
     m_sender.home();
     m_tools.connection.flush();
     return adoptLocks(stroke.keycode);
@@ -219,32 +209,10 @@ Step<> X11InjectionSession::keyUp(const HeldKey& key) {
         const auto strokes = strokesOf(key);
         if (!strokes) return strokes.error();
         for (auto stroke = strokes.value().rbegin(); stroke != strokes.value().rend(); ++stroke) {
-            letGo(stroke->keycode);
+            if (const auto gone = m_held.letGo(stroke->keycode); !gone) return gone.error();
         }
         return {};
     });
-}
-
-void X11InjectionSession::letGo(std::uint8_t keycode) {
-    const auto held =
-        std::find_if(m_held.begin(), m_held.end(), [&](const Held& one) { return one.keycode == keycode; });
-    if (held == m_held.end()) return;
-    releaseKeysOf(*held);
-    m_held.erase(held);
-    m_tools.connection.flush();
-}
-
-void X11InjectionSession::releaseKeysOf(const Held& held) {
-    std::for_each(held.pressed.rbegin(), held.pressed.rend(),
-                  [this](std::uint8_t keycode) { m_tools.connection.release(keycode); });
-}
-
-KeycodeSet X11InjectionSession::heldKeys() const {
-    KeycodeSet keys;
-    for (const Held& held : m_held) {
-        for (const std::uint8_t keycode : held.pressed) keys.set(keycode);
-    }
-    return keys;
 }
 
 Step<> X11InjectionSession::pause(double seconds) {

@@ -7,6 +7,7 @@
 #include "platform/x11/guard/PlayingMark.h"
 #include "platform/x11/press/GrabWait.h"
 #include "platform/x11/press/HandsWait.h"
+#include "platform/x11/press/HeldKeys.h"
 #include "platform/x11/press/TextTyper.h"
 
 namespace x11 {
@@ -44,18 +45,11 @@ class X11InjectionSession final : public InjectionSession {
     void rest();
 
   private:
-    /// What one `key down` has pressed: the key, after the modifiers that it needed.
-    struct Held {
-        std::uint8_t keycode = 0;
-        std::vector<std::uint8_t> pressed;
-    };
-
     /// Takes a step unless the run has halted, and remembers if it halts.
     Step<> take(const std::function<Step<>()>& step);
     Result<void> followKeymap();
     Step<> begin();
     Step<> freeKeyboard();
-    void pressHeldAgain();
     Step<XkbComponents> checkHands();
     /// Begins if that has not been done, looks whether the user wishes to stop, waits for his hands and
     /// brings the locks in order.
@@ -71,9 +65,6 @@ class X11InjectionSession final : public InjectionSession {
     Strokes strokesOfText(std::string_view text);
     Step<> hold(const Stroke& stroke);
     Step<> adoptLocks(std::uint8_t keycode);
-    void letGo(std::uint8_t keycode);
-    void releaseKeysOf(const Held& held);
-    KeycodeSet heldKeys() const;
 
     InjectionTools m_tools;
     InjectionPlan m_plan;
@@ -83,8 +74,8 @@ class X11InjectionSession final : public InjectionSession {
     HandsWait m_hands;
     HandsAndLocks m_locks;
     StrokeSender m_sender;
+    HeldKeys m_held;
     TextTyper m_typer;
-    std::vector<Held> m_held;
     XkbComponents m_state;
     bool m_hasBegun = false;
     bool m_rests = false;

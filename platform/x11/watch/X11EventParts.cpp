@@ -162,8 +162,14 @@ bool X11EventManager::Parts::liftHotKey(std::uint8_t keycode, std::uint16_t modi
     return lifted;
 }
 
-void X11EventManager::Parts::restoreHotKey() {
-    m_hotKeys.restore();
+bool X11EventManager::Parts::liftHotKeysOf(std::uint8_t keycode) {
+    const bool lifted = m_hotKeys.liftAll(keycode);
+    kick();
+    return lifted;
+}
+
+void X11EventManager::Parts::restoreHotKeysOf(std::uint8_t keycode) {
+    m_hotKeys.restoreAll(keycode);
     kick();
 }
 

@@ -37,7 +37,8 @@ class X11EventManager::Parts final : public RunWatch {
     KeycodeSet leftOvers(Clock::Time runStart) const override { return m_hands.leftOvers(runStart); }
     void endHotKeyGrab() override;
     bool liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) override;
-    void restoreHotKey() override;
+    bool liftHotKeysOf(std::uint8_t keycode) override;
+    void restoreHotKeysOf(std::uint8_t keycode) override;
 
     HotKeyTable& hotKeys() { return m_hotKeys; }
     const HotKeyTable& hotKeys() const { return m_hotKeys; }

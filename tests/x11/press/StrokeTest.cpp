@@ -278,6 +278,31 @@ TEST_F(StrokeTest, aHotKeyOfOursReachesTheApplicationAndFiresNothing) {
     }));
 }
 
+TEST_F(StrokeTest, aHotKeyThatTheRunHoldsReachesTheApplicationUntilItIsReleased) {
+    int pressed = 0;
+    program().manager().install([&pressed](HotKeyId) { ++pressed; }, [](HotKeyId) {});
+    program().manager().request({.id = 3, .name = "play", .keyCode = key::p, .modifiers = modifier::control});
+    {
+        const auto session = run();
+        ASSERT_TRUE(session->keyDown(HeldModifier{modifier::control}));
+        ASSERT_TRUE(session->keyDown(HeldCode{key::p}));
+        ASSERT_TRUE(session->stroke(key::p, 0));
+        ASSERT_TRUE(session->stroke(key::a, 0));
+        EXPECT_EQ(received(6), (Lines{"press 37 0x0", "press 33 0x4", "release 33 0x4", "press 33 0x4",
+                                      "press 38 0x4", "release 38 0x4"}));
+        ASSERT_TRUE(session->keyUp(HeldCode{key::p}));
+        ASSERT_TRUE(session->keyDown(HeldCode{key::p}));
+        EXPECT_EQ(received(8).back(), "press 33 0x4");
+    }
+    program().manager().dispatch();
+    EXPECT_EQ(pressed, 0);
+    command({"xdotool", "key", "ctrl+p"});
+    EXPECT_TRUE(eventually([&] {
+        program().manager().dispatch();
+        return pressed == 1;
+    }));
+}
+
 TEST_F(StrokeTest, aHotKeyThatCancelsEndsTheRunUntilTheNextPlayback) {
     program().manager().request({.id = 2,
                                  .name = "stop",

@@ -147,7 +147,7 @@ TEST_F(RunWatchTest, aLiftedHotKeyReachesTheApplicationAndComesBack) {
     ASSERT_TRUE(watch().liftHotKey(xkey::s, controlSuper));
     ownStroke({xkey::control, xkey::super, xkey::s});
     program().finish();
-    watch().restoreHotKey();
+    watch().restoreHotKeysOf(xkey::s);
     EXPECT_EQ(application.presses(xkey::s), 1);
     watch().runEnds();
     program().stroke({xkey::control, xkey::super, xkey::s});
