@@ -68,6 +68,14 @@ void tell(const Source& source, const script::RunResult& result) {
 
 int statusOf(const script::RunResult& result) { return result.error ? failed : succeeded; }
 
+/// False after an error, which has been told.
+bool isReadBy(KeyInjector& injector) {
+    const auto read = injector.awaitReaders();
+    if (read || read.error().isCancelled()) return true;
+    reportError("", *read.error().error);
+    return false;
+}
+
 /// Whoever waits for this process is told how it ended, also where the signal was ignored before.
 void endBySignal(int number) {
     signal(number, SIG_DFL);
@@ -129,7 +137,8 @@ int runScript(const ScriptInput& input) {
         tell(*source, result);
     }
     if (!input.lines.empty() && !result.value.empty()) std::cout << result.value << std::endl;
+    const bool isRead = isReadBy(playback.value()->injector());
     const int signalNumber = playback.value()->finish();
     if (signalNumber != 0) endBySignal(signalNumber);
-    return statusOf(result);
+    return isRead ? statusOf(result) : failed;
 }

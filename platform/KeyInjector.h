@@ -106,6 +106,11 @@ class KeyInjector {
     /// Ends the playback as if the user had asked for it. Nothing where keys are only noted down.
     virtual void stopPlayback() {}
 
+    /// Waits until what was typed has been read, where keys have been given a meaning for it that ends with
+    /// the program: the last call of one that is about to end. Fails where somebody reads nothing for half a
+    /// minute. Nothing where no keys are given meanings.
+    virtual Step<> awaitReaders() { return {}; }
+
     /// The user gets the keyboard back in the middle of a run, to answer a question: locks are as he had
     /// them, what the run holds is up. The next step that presses a key takes over again, and holds again
     /// what was held. Nothing where no session is open.

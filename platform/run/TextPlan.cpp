@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/run/TextPlan.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <string>
@@ -30,6 +31,15 @@ Result<std::vector<char32_t>> charactersOf(std::string_view text) {
         if (!isSecondHalf) characters.push_back(character == U'\n' ? carriageReturn : character);
     }
     return characters;
+}
+
+std::string beginningOf(std::span<const char32_t> characters) {
+    constexpr std::size_t most = 20;
+    std::string shown = "\"";
+    for (const char32_t character : characters.first(std::min(most, characters.size()))) {
+        appendUtf8(shown, character == carriageReturn ? U' ' : character);
+    }
+    return shown + (characters.size() > most ? "...\"" : "\"");
 }
 
 std::string nameOf(char32_t character) {

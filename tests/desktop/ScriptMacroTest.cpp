@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include <signal.h>
+
 #include <fstream>
 
 #include "desktop/DesktopTest.h"
 #include "desktop/StatusMenuClicks.h"
+#include "display/Typist.h"
+#include "platform/Utf8.h"
 
 namespace {
 
@@ -95,6 +99,19 @@ end tell
     press("period");
     EXPECT_EQ(terminal->typed(expected.size() + 1), expected + ".");
     EXPECT_EQ(output(), "");
+}
+
+TEST_F(ScriptMacroTest, aProgramThatIsBusyForSecondsGets200CharactersOfNoLayout) {
+    std::string text;
+    for (char32_t character = 0x4E00; character < 0x4E00 + 200; ++character) appendUtf8(text, character);
+    load(fileWith("long.keyrill", "tell application \"System Events\" to keystroke \"" + text + "\"\n"));
+    ASSERT_TRUE(terminal->hasFocus());
+    ASSERT_EQ(kill(terminal->pid(), SIGSTOP), 0);
+    play();
+    const Hands nobody(desktop.display());
+    Typist(nobody, Typist::Gap(0)).hold(std::chrono::seconds(6));
+    ASSERT_EQ(kill(terminal->pid(), SIGCONT), 0);
+    EXPECT_EQ(terminal->typed(text.size()), text);
 }
 
 TEST_F(ScriptMacroTest, anErrorOfTheCompilerIsSilentInTheProgramAndLoudInTheTool) {

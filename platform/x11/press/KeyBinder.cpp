@@ -12,9 +12,8 @@ namespace {
 /// A type that every XKB map has at this place: Shift selects its second level.
 constexpr std::uint8_t twoLevelType = 1;
 constexpr std::uint8_t firstUsableKeycode = 9;
-/// What a program that does not answer holds up: a run in the middle of its text, and the end of the program.
-constexpr std::chrono::milliseconds longestMidway{2000};
-constexpr std::chrono::milliseconds longestAtEnd{1000};
+/// What a program that does not read holds up the end of ours.
+constexpr std::chrono::milliseconds longestOfExit{1000};
 
 /// Nothing ends it early.
 class PlainWait final : public RunWait {
@@ -69,21 +68,20 @@ KeycodeSet keysIn(const std::vector<BoundKey>& keys) {
 
 }  // namespace
 
-KeyBinder::KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Receivers& receivers, Clock& clock)
+KeyBinder::KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Receivers& receivers, Clock& clock,
+                     std::chrono::milliseconds patience)
     : m_connection(connection),
       m_keymap(keymap),
       m_receivers(receivers),
       m_clock(clock),
+      m_patience(patience),
       m_record(keymap.connection()) {}
 
 KeyBinder::~KeyBinder() {
     if (m_slots.bindings().empty()) return;
-    if (const auto rested = m_slots.restUntil()) {
-        PlainWait wait(m_clock);
-        [[maybe_unused]] const auto waited = wait.waitUntil(*rested);
-        [[maybe_unused]] const auto haveRead = m_receivers.await(wait, longestAtEnd);
-    }
-    takeBack();
+    PlainWait wait(m_clock);
+    const auto isRead = awaitReaders(wait, longestOfExit);
+    if (isRead && isRead.value()) takeBack();
 }
 
 std::vector<KeyBinder::Target> KeyBinder::targets() const {
@@ -161,10 +159,19 @@ void KeyBinder::noteReader() {
     if (!m_slots.bindings().empty()) m_receivers.note();
 }
 
-Step<> KeyBinder::awaitReaders(const SpareSlots::Plan& plan, RunWait& wait) {
-    if (!plan.notBefore) return {};
-    if (auto waited = wait.waitUntil(*plan.notBefore); !waited) return waited;
-    return m_receivers.await(wait, longestMidway);
+Step<bool> KeyBinder::awaitReaders(const SpareSlots::Plan& plan, RunWait& wait) {
+    if (!plan.notBefore) return true;
+    if (const auto waited = wait.waitUntil(*plan.notBefore); !waited) return waited.error();
+    return m_receivers.await(wait, m_patience);
+}
+
+Step<bool> KeyBinder::awaitReaders(RunWait& wait) { return awaitReaders(wait, m_patience); }
+
+Step<bool> KeyBinder::awaitReaders(RunWait& wait, std::chrono::milliseconds longest) {
+    const auto rested = m_slots.restUntil();
+    if (!rested) return true;
+    if (const auto waited = wait.waitUntil(*rested); !waited) return waited.error();
+    return m_receivers.await(wait, longest);
 }
 
 Result<void> KeyBinder::bind(const SpareSlots::Plan& plan) {

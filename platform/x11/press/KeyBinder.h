@@ -17,8 +17,11 @@ namespace x11 {
 /// keyboard's map would overwrite theirs.
 class KeyBinder {
   public:
-    KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Receivers& receivers, Clock& clock);
-    /// Takes everything back, when the last character typed has been read.
+    /// A run waits for those who are typed into for as long as `patience`.
+    KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Receivers& receivers, Clock& clock,
+              std::chrono::milliseconds patience);
+    /// Takes everything back if the last character typed has been read within a second. What has not been
+    /// read stays bound, or it would be read as nothing; the next start takes it back.
     ~KeyBinder();
     KeyBinder(const KeyBinder&) = delete;
     KeyBinder& operator=(const KeyBinder&) = delete;
@@ -38,8 +41,11 @@ class KeyBinder {
 
     /// What bind() would do, and from when on it may.
     SpareSlots::Plan plan(const std::vector<char32_t>& wanted);
-    /// Waits until it may: the moment has come, and whoever was typed into has read what the keys were.
-    Step<> awaitReaders(const SpareSlots::Plan& plan, RunWait& wait);
+    /// Waits until it may: the moment has come, and whoever was typed into has read what the keys were. False
+    /// if somebody has not after so long that nobody can be waiting for it.
+    Step<bool> awaitReaders(const SpareSlots::Plan& plan, RunWait& wait);
+    /// The same for everything that is bound.
+    Step<bool> awaitReaders(RunWait& wait);
     /// Fails if the server refuses the new map.
     Result<void> bind(const SpareSlots::Plan& plan);
 
@@ -54,12 +60,14 @@ class KeyBinder {
     std::vector<Target> targets() const;
     bool write(std::vector<Target>& targets, const KeycodeSet& keys) const;
     void put(DeviceMap& map, const SpareBinding& binding) const;
+    Step<bool> awaitReaders(RunWait& wait, std::chrono::milliseconds longest);
     void takeBack();
 
     InjectionConnection& m_connection;
     KeymapWatch& m_keymap;
     Receivers& m_receivers;
     Clock& m_clock;
+    std::chrono::milliseconds m_patience;
     BoundKeysRecord m_record;
     SpareSlots m_slots;
     std::uint8_t m_levels = 0;

@@ -39,9 +39,14 @@ std::size_t TextTyper::fittingPart(std::span<const char32_t> characters, xkb_lay
     return characters.size();
 }
 
-Step<> TextTyper::bind(const std::vector<char32_t>& wanted) {
+Step<> TextTyper::bind(const std::vector<char32_t>& wanted, std::span<const char32_t> left) {
     const auto plan = m_binder.plan(wanted);
-    if (auto awaited = m_binder.awaitReaders(plan, m_waiter); !awaited) return awaited;
+    const auto isRead = m_binder.awaitReaders(plan, m_waiter);
+    if (!isRead) return isRead.error();
+    if (!isRead.value()) {
+        return Error{"The program that is typed into reads nothing; not typed: " + beginningOf(left) + ".",
+                     "Play it again when the program reads its keys."};
+    }
     if (const auto bound = m_binder.bind(plan); !bound) return bound.error();
     return {};
 }
@@ -55,7 +60,7 @@ Step<> TextTyper::prepare(std::span<const char32_t> characters, xkb_layout_index
     }
     std::vector<char32_t> wanted;
     fittingPart(bindable, group, wanted);
-    return wanted.empty() ? Step<>() : bind(wanted);
+    return wanted.empty() ? Step<>() : bind(wanted, characters);
 }
 
 Step<Stroke> TextTyper::strokeFor(char32_t character, xkb_layout_index_t group) {
@@ -63,7 +68,7 @@ Step<Stroke> TextTyper::strokeFor(char32_t character, xkb_layout_index_t group) 
         return typable.error();
     }
     if (!find(character, group)) {
-        if (const auto bound = bind({character}); !bound) return bound.error();
+        if (const auto bound = bind({character}, std::span(&character, 1)); !bound) return bound.error();
     }
     m_binder.noteReader();
     m_binder.markUsed(character);
@@ -80,7 +85,7 @@ Step<> TextTyper::type(std::span<const char32_t> characters, const Stroke& aroun
         std::vector<char32_t> wanted;
         const std::size_t size = fittingPart(characters, group, wanted);
         if (!wanted.empty()) {
-            if (auto bound = bind(wanted); !bound) return bound;
+            if (auto bound = bind(wanted, characters); !bound) return bound;
         }
         if (auto typed = typePart(characters.first(size), around, held, check); !typed) return typed;
         characters = characters.subspan(size);

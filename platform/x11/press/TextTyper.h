@@ -39,7 +39,8 @@ class TextTyper {
     Result<void> refuseUntypable(std::span<const char32_t> characters, xkb_layout_index_t group);
     std::size_t fittingPart(std::span<const char32_t> characters, xkb_layout_index_t group,
                             std::vector<char32_t>& unbound);
-    Step<> bind(const std::vector<char32_t>& wanted);
+    /// `left` is the text that is not typed where that fails.
+    Step<> bind(const std::vector<char32_t>& wanted, std::span<const char32_t> left);
     Step<> typePart(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held,
                     const Check& check);
 

@@ -17,11 +17,11 @@ std::string environment(const char* name) {
 /// What is made when the display is first needed.
 struct DisplayParts {
     DisplayParts(InjectionConnection injection, std::unique_ptr<KeymapWatch> watch,
-                 const std::string& display, Clock& clock)
+                 const X11KeyInjector::Options& options, Clock& clock)
         : connection(std::move(injection)),
           keymap(std::move(watch)),
-          receivers(display, clock),
-          binder(connection, *keymap, receivers, clock),
+          receivers(options.display, clock),
+          binder(connection, *keymap, receivers, clock, options.patience),
           grab(keymap->connection(), clock) {}
 
     InjectionConnection connection;
@@ -63,7 +63,7 @@ Result<void> X11KeyInjector::start() {
     auto keymap = KeymapWatch::open(m_options.display);
     if (!keymap) return keymap.error();
     m_parts->display = std::make_unique<DisplayParts>(std::move(connection).value(),
-                                                      std::move(keymap).value(), m_options.display, m_clock);
+                                                      std::move(keymap).value(), m_options, m_clock);
     if (m_parts->mark.takeStale()) releaseXtestKeys(m_parts->display->connection.get());
     m_parts->display->binder.clearLeftovers();
     return {};
@@ -101,6 +101,17 @@ bool X11KeyInjector::isCancelled() {
 }
 
 void X11KeyInjector::stopPlayback() { m_watch.stopPlayback(); }
+
+Step<> X11KeyInjector::awaitReaders() {
+    if (!m_parts->display) return {};
+    DisplayParts& display = *m_parts->display;
+    RunWaiter waiter(m_clock, m_watch, m_parts->interrupt, xcb_get_file_descriptor(display.connection.get()));
+    const auto isRead = display.binder.awaitReaders(waiter);
+    if (!isRead) return isRead.error();
+    if (isRead.value()) return {};
+    return Error{"The program that was typed into has not read all of it.",
+                 "See whether it hangs; what it reads later may lack characters."};
+}
 
 void X11KeyInjector::rest() {
     if (m_parts->session != nullptr) m_parts->session->rest();

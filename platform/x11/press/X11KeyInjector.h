@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -18,8 +19,8 @@ namespace x11 {
 /// down should this process die in the middle of a stroke; without the guard nothing is played.
 ///
 /// The watch and the clock must outlive the injector; all of it lives on one thread. Destroying the injector
-/// takes the characters back that were put on unused keys, at the earliest 100 ms after the last of them was
-/// typed.
+/// takes the characters back that were put on unused keys, when the last of them has been read; if that takes
+/// more than a second, the next start does.
 class X11KeyInjector final : public KeyInjector {
   public:
     struct Options {
@@ -30,6 +31,8 @@ class X11KeyInjector final : public KeyInjector {
         /// Where the mark of a lasting run is kept; $XDG_RUNTIME_DIR if empty. Without either there is no
         /// mark.
         std::string runtimeFolder = {};
+        /// How long a run waits for a program that reads nothing, where that keeps it from typing on.
+        std::chrono::milliseconds patience{30'000};
     };
 
     X11KeyInjector(RunWatch& watch, Clock& clock);
@@ -45,6 +48,7 @@ class X11KeyInjector final : public KeyInjector {
     void startPlayback() override;
     bool isCancelled() override;
     void stopPlayback() override;
+    Step<> awaitReaders() override;
     void rest() override;
 
     /// Ends the run that lasts, and all later ones before their first stroke: the process is about to end.

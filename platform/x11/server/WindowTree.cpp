@@ -49,6 +49,8 @@ std::vector<xcb_window_t> WindowTree::childrenOf(xcb_window_t window) const {
     return {first, first + xcb_query_tree_children_length(place.get())};
 }
 
+bool WindowTree::exists(xcb_window_t window) const { return around(m_connection, window) != nullptr; }
+
 bool WindowTree::isOnScreen(xcb_window_t window) const {
     if (window == XCB_WINDOW_NONE) return false;
     const XReply<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(

@@ -27,6 +27,7 @@ class WindowTree {
     /// The lowest first.
     std::vector<xcb_window_t> childrenOf(xcb_window_t window) const;
 
+    bool exists(xcb_window_t window) const;
     /// Whether it is on the screen, though others may cover it.
     bool isOnScreen(xcb_window_t window) const;
 

@@ -4,12 +4,11 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <fstream>
 #include <span>
-#include <string>
 #include <utility>
 
 #include "platform/x11/server/ClientMessage.h"
+#include "platform/x11/server/ClientProcess.h"
 #include "platform/x11/server/Property.h"
 #include "platform/x11/server/WindowTree.h"
 
@@ -18,26 +17,8 @@ namespace x11 {
 namespace {
 
 constexpr std::chrono::milliseconds betweenLooks{2};
-/// So long nothing keeps a program asleep that has something to read: a little more than a busy server takes
-/// to answer it.
-constexpr std::chrono::milliseconds soundSleep{50};
-
-struct ProcessState {
-    bool isAsleep = false;
-    long switches = 0;
-};
-
-/// proc(5); empty if there is no such process here.
-std::optional<ProcessState> stateOf(pid_t process) {
-    std::ifstream lines("/proc/" + std::to_string(process) + "/status");
-    std::optional<ProcessState> state;
-    for (std::string line; std::getline(lines, line);) {
-        if (line.starts_with("State:")) state = ProcessState{line.find("S (") != std::string::npos, 0};
-        if (!state || line.find("ctxt_switches:") == std::string::npos) continue;
-        state->switches += std::strtol(line.c_str() + line.find(':') + 1, nullptr, 10);
-    }
-    return state;
-}
+/// What is left to a program on another machine, which nobody can ask.
+constexpr std::chrono::milliseconds farAway{2000};
 
 }  // namespace
 
@@ -69,28 +50,37 @@ void Receivers::note() {
 /// The focus may be on a window inside the one that speaks for the program. Keyrill's own windows are left
 /// out: they read when the run is over.
 std::optional<Receivers::Receiver> Receivers::find(xcb_window_t window) const {
-    std::optional<Receiver> byProcess;
     constexpr std::uint32_t mostProtocols = 64;
     const XConnection& connection = m_server->connection;
-    for (const xcb_window_t one : m_server->tree.lineOf(window)) {
-        const auto id =
-            static_cast<pid_t>(Property(connection, one, m_server->process).number(XCB_ATOM_CARDINAL));
-        if (id == getpid()) return std::nullopt;
+    const auto line = m_server->tree.lineOf(window);
+    if (line.empty()) return std::nullopt;
+    pid_t process = processOf(connection, window);
+    for (const xcb_window_t one : line) {
+        const pid_t named = namedProcess(one);
+        if (named == getpid()) return std::nullopt;
+        if (process == 0) process = named;
         const auto protocols =
             Property(connection, one, m_server->protocols).numbers(XCB_ATOM_ATOM, mostProtocols);
         if (std::find(protocols.begin(), protocols.end(), m_server->ping) != protocols.end()) {
             return Receiver{.window = one, .answersPings = true};
         }
-        if (id != 0 && !byProcess) byProcess = Receiver{.window = one, .process = id};
     }
-    return byProcess;
+    if (process == getpid()) return std::nullopt;
+    if (process == 0) return Receiver{.window = window};
+    return Receiver{.window = window, .process = ReaderProcess(process)};
+}
+
+/// As the program itself says.
+pid_t Receivers::namedProcess(xcb_window_t window) const {
+    const Property process(m_server->connection, window, m_server->process);
+    return static_cast<pid_t>(process.number(XCB_ATOM_CARDINAL));
 }
 
 std::vector<Receivers::Receiver> Receivers::all() const {
     std::vector<Receiver> receivers;
     for (const xcb_window_t window : m_noted) {
         auto receiver = find(window);
-        if (!receiver || m_silent.contains(receiver->window)) continue;
+        if (!receiver) continue;
         const auto isSame = [&](const Receiver& other) { return other.window == receiver->window; };
         if (std::none_of(receivers.begin(), receivers.end(), isSame)) receivers.push_back(*receiver);
     }
@@ -123,56 +113,47 @@ void Receivers::readAnswers(std::vector<Receiver>& receivers) const {
     }
 }
 
-void Receivers::watchSleep(Receiver& receiver) const {
-    const auto state = stateOf(receiver.process);
+bool Receivers::hasTakenIn(Receiver& receiver, Clock::Time start) const {
+    if (receiver.isDone || !m_server->tree.exists(receiver.window)) return true;
+    if (receiver.answersPings) return false;
     const Clock::Time now = m_clock.now();
-    if (!state) {
-        receiver.isDone = true;
-        return;
-    }
-    if (!state->isAsleep || state->switches != receiver.switches) receiver.asleepSince.reset();
-    receiver.switches = state->switches;
-    if (state->isAsleep && !receiver.asleepSince) receiver.asleepSince = now;
-    receiver.isDone = receiver.asleepSince && now - *receiver.asleepSince >= soundSleep;
+    return receiver.process ? receiver.process->hasRead(now) : now - start >= farAway;
 }
 
-void Receivers::follow(std::vector<Receiver>& receivers) const {
+void Receivers::follow(std::vector<Receiver>& receivers, Clock::Time start) const {
     readAnswers(receivers);
-    for (Receiver& receiver : receivers) {
-        if (!receiver.isDone && !receiver.answersPings) watchSleep(receiver);
-    }
+    for (Receiver& receiver : receivers) receiver.isDone = hasTakenIn(receiver, start);
 }
 
 bool Receivers::areDone(const std::vector<Receiver>& receivers) {
     return std::all_of(receivers.begin(), receivers.end(), [](const Receiver& one) { return one.isDone; });
 }
 
-Step<> Receivers::await(RunWait& wait, std::chrono::milliseconds longest) {
+Step<bool> Receivers::await(RunWait& wait, std::chrono::milliseconds longest) {
     note();
     auto receivers = all();
-    m_noted.clear();
-    if (receivers.empty()) return {};
-    const Clock::Time end = m_clock.now() + longest;
+    if (receivers.empty()) return true;
+    const Clock::Time start = m_clock.now();
     // A time, as pings carry one; window managers take answers to pings of others for late ones.
     m_stamp = static_cast<std::uint32_t>(
-        std::chrono::duration_cast<std::chrono::milliseconds>(m_clock.now().time_since_epoch()).count());
+        std::chrono::duration_cast<std::chrono::milliseconds>(start.time_since_epoch()).count());
     selectAnswers(true);
     for (const Receiver& receiver : receivers) {
         if (receiver.answersPings) ping(receiver);
     }
     m_server->connection.roundTrip();
     Step<> waited;
-    follow(receivers);
-    while (waited && !areDone(receivers) && m_clock.now() < end) {
+    follow(receivers, start);
+    while (waited && !areDone(receivers) && m_clock.now() < start + longest) {
         waited = wait.waitUntil(m_clock.now() + betweenLooks);
-        if (waited) follow(receivers);
+        if (waited) follow(receivers, start);
     }
     selectAnswers(false);
     xcb_flush(m_server->connection);
-    for (const Receiver& receiver : receivers) {
-        if (!receiver.isDone && waited) m_silent.insert(receiver.window);
-    }
-    return waited;
+    if (!waited) return waited.error();
+    if (!areDone(receivers)) return false;
+    m_noted.clear();
+    return true;
 }
 
 }  // namespace x11

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <sys/types.h>
-
 #include <memory>
 #include <optional>
 #include <set>
@@ -11,6 +9,7 @@
 
 #include "platform/run/RunWait.h"
 #include "platform/x11/server/XConnection.h"
+#include "platform/x11/windows/ReaderProcess.h"
 
 namespace x11 {
 
@@ -20,7 +19,7 @@ namespace x11 {
 /// that is later than any fixed time, and a key that has been given another character meanwhile is read as
 /// that. So the program is asked: by a ping of the Extended Window Manager Hints (_NET_WM_PING), which it
 /// answers when it has come to it, behind the keys that were sent before. Of one that knows no pings the
-/// process is watched: one that has slept a while has nothing left to read.
+/// process is watched (ReaderProcess); one that is not on this machine gets a while.
 class Receivers {
   public:
     /// Of the display, or of $DISPLAY if it is empty, over a connection of its own, as it is sent what
@@ -35,18 +34,15 @@ class Receivers {
     void note();
 
     /// Waits until all that were noted, and whoever gets the keys now, have taken everything in; then none is
-    /// noted any more. One that does not answer within `longest` is never waited for again.
-    Step<> await(RunWait& wait, std::chrono::milliseconds longest);
+    /// noted any more. False if one of them has not within `longest`; all stay noted.
+    Step<bool> await(RunWait& wait, std::chrono::milliseconds longest);
 
   private:
-    /// A window whose program can be asked in one of the two ways.
     struct Receiver {
         xcb_window_t window = XCB_WINDOW_NONE;
         bool answersPings = false;
-        pid_t process = 0;
-        /// Of a process: how often it had been put to sleep or stopped, and since when it sleeps.
-        long switches = -1;
-        std::optional<Clock::Time> asleepSince = {};
+        /// Watched where it answers none; empty where it is not on this machine.
+        std::optional<ReaderProcess> process = std::nullopt;
         bool isDone = false;
     };
 
@@ -54,20 +50,20 @@ class Receivers {
 
     bool open();
     std::optional<Receiver> find(xcb_window_t window) const;
+    pid_t namedProcess(xcb_window_t window) const;
     std::vector<Receiver> all() const;
     void selectAnswers(bool on) const;
     void ping(const Receiver& receiver) const;
     /// Finds out which of them have taken everything in by now.
-    void follow(std::vector<Receiver>& receivers) const;
+    void follow(std::vector<Receiver>& receivers, Clock::Time start) const;
     void readAnswers(std::vector<Receiver>& receivers) const;
-    void watchSleep(Receiver& receiver) const;
+    bool hasTakenIn(Receiver& receiver, Clock::Time start) const;
     static bool areDone(const std::vector<Receiver>& receivers);
 
     std::string m_display;
     const Clock& m_clock;
     std::unique_ptr<const Server> m_server;
     std::set<xcb_window_t> m_noted;
-    std::set<xcb_window_t> m_silent;
     /// What tells this round's answers from older ones.
     std::uint32_t m_stamp = 0;
 };

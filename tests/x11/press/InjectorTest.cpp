@@ -11,11 +11,13 @@ InjectorOnDisplay::InjectorOnDisplay(const std::string& display) : m_display(dis
     begin();
 }
 
-void InjectorOnDisplay::begin() {
-    m_injector = std::make_unique<x11::X11KeyInjector>(
-        m_manager->runWatch(), m_clock,
-        x11::X11KeyInjector::Options{
-            .display = m_display, .guard = KEYRILL_GUARD, .runtimeFolder = m_folder.path()});
+void InjectorOnDisplay::begin(std::chrono::milliseconds patience) {
+    m_injector =
+        std::make_unique<x11::X11KeyInjector>(m_manager->runWatch(), m_clock,
+                                              x11::X11KeyInjector::Options{.display = m_display,
+                                                                           .guard = KEYRILL_GUARD,
+                                                                           .runtimeFolder = m_folder.path(),
+                                                                           .patience = patience});
     const auto started = m_injector->start();
     if (!started) throw std::runtime_error(started.error().message);
 }

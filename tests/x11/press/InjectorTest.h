@@ -27,7 +27,7 @@ class InjectorOnDisplay {
     std::unique_ptr<InjectionSession> run(const InjectionPlan& plan = {});
     /// The program's end, and a new start.
     void end() { m_injector.reset(); }
-    void begin();
+    void begin(std::chrono::milliseconds patience = x11::X11KeyInjector::Options().patience);
 
   private:
     std::string m_display;

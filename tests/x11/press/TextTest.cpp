@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <signal.h>
+
 #include <algorithm>
 
 #include "display/Hands.h"
@@ -134,6 +136,24 @@ TEST_F(TextTest, theTextTypedLastArrivesThoughTheProgramEndsAtOnce) {
     ASSERT_TRUE(run()->text("漢字é", 0));
     program().end();
     EXPECT_EQ(terminal().typed(8), "漢字é");
+}
+
+TEST_F(TextTest, whatCannotBeTypedBeforeAProgramReadsIsTold) {
+    program().end();
+    program().begin(std::chrono::milliseconds(300));
+    terminal();
+    ASSERT_EQ(kill(terminal().pid(), SIGSTOP), 0);
+    const std::string typed = ideographs(60);
+    ASSERT_TRUE(run()->text(typed, 0));
+    EXPECT_EQ(wordsOf(run()->text("ae" + ideographs(90).substr(typed.size()), 0)),
+              "The program that is typed into reads nothing; not typed: "
+              "\"ae\u4E3C\u4E3D\u4E3E\u4E3F\u4E40\u4E41\u4E42\u4E43\u4E44\u4E45\u4E46\u4E47\u4E48"
+              "\u4E49\u4E4A\u4E4B\u4E4C\u4E4D...\".");
+    EXPECT_EQ(wordsOf(program().injector().awaitReaders()),
+              "The program that was typed into has not read all of it.");
+    ASSERT_EQ(kill(terminal().pid(), SIGCONT), 0);
+    EXPECT_EQ(wordsOf(program().injector().awaitReaders()), "going");
+    EXPECT_EQ(terminal().typed(typed.size()), typed);
 }
 
 TEST_F(TextTest, aKeymapSetByTheUserForgetsWhatWasBound) {
