@@ -23,7 +23,8 @@ consteval HotKeyRow rowFor(const ShortcutRow& shortcut) {
             .signature = shortcut.signature,
             .pressed = command.pressed,
             .released = command.released,
-            .cancelsPlayback = command.cancelsPlayback};
+            .cancelsPlayback = command.cancelsPlayback,
+            .startsPlayback = command.startsPlayback};
 }
 
 consteval std::array<HotKeyRow, shortcutRows.size()> allRows() {
@@ -41,7 +42,7 @@ HotKeyRequest requestFor(const HotKeyRow& row) {
     const std::string name(row.name);
     const std::uint32_t flags = utils::PreferenceManager::flags(name);
     const std::int16_t code = utils::PreferenceManager::code(name);
-    return {row.id, name, widened(code), flags, row.cancelsPlayback};
+    return {row.id, name, widened(code), flags, row.cancelsPlayback, row.startsPlayback};
 }
 
 /// Runs the command that the row of the id holds in `command`.

@@ -17,6 +17,8 @@ struct HotKeyRow {
     void (*released)() = nullptr;
     /// Whether a press during a playback also ends it.
     bool cancelsPlayback = false;
+    /// Whether it plays: a stop discards those that wait.
+    bool startsPlayback = false;
 };
 
 /// All rows, in the order of shortcutRows, in which they are registered.

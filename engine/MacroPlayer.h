@@ -45,13 +45,15 @@ struct Command {
     void (*released)() = nullptr;
     /// Whether a press during a playback also ends it.
     bool cancelsPlayback = false;
+    /// Whether it plays: a stop discards those that wait.
+    bool startsPlayback = false;
 };
 
 /// A command for each shortcut (prefs/Shortcuts.h).
 inline constexpr std::array commandRows = {
     Command{.name = "record", .pressed = toggleRecording},
     Command{.name = "stop", .pressed = stopRecording, .cancelsPlayback = true},
-    Command{.name = "play", .released = [] { requestPlay(1); }},
+    Command{.name = "play", .released = [] { requestPlay(1); }, .startsPlayback = true},
     Command{.name = "multiplePlay", .pressed = promptMultiplePlay},
 };
 

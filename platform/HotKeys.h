@@ -22,6 +22,8 @@ struct HotKeyRequest {
     std::uint32_t modifiers = 0;
     /// Whether a press while a script runs also ends the playback.
     bool cancelsPlayback = false;
+    /// Whether it starts a playback: one that cancels discards what is asked for and has not begun.
+    bool startsPlayback = false;
 };
 
 /// How far a request has come. `changed` means registered, but as another combination than asked for.
@@ -38,7 +40,8 @@ struct HotKeyState {
 /// A held hot key presses once. Its release is known by the key alone, whatever the modifiers are by then.
 /// Lock states do not matter. Of two hot keys with one combination the first keeps it, the second is refused.
 /// A change of the keyboard layout moves the grabs along. Strokes of a running script never fire a hot key;
-/// the user's presses during a run come after it, in one order with the monitor's events.
+/// the user's presses during a run come after it, in one order with the monitor's events, but those that
+/// start a playback only where no stop, by hot key or by Escape, came after them.
 class HotKeys {
   public:
     using Handler = std::function<void(HotKeyId)>;

@@ -26,9 +26,9 @@ void FakeDesktop::turnLoop() {
     if (m_delivering && !m_withheld) return;
     const FlagScope delivering(m_delivering);
     while (!isRunning() && !m_queue.empty()) {
-        const Delivery next = std::move(m_queue.front());
+        const Waiting next = std::move(m_queue.front());
         m_queue.pop_front();
-        next();
+        next.make();
     }
 }
 
@@ -37,8 +37,13 @@ void FakeDesktop::startPlayback() {
     if (m_escapeDownSince) m_escapeDownSince = m_clock.now();
 }
 
+void FakeDesktop::cancelPlayback() {
+    if (std::exchange(m_cancelled, true)) return;
+    std::erase_if(m_queue, [](const Waiting& waiting) { return waiting.isPlay; });
+}
+
 bool FakeDesktop::isCancelled() {
-    if (m_escapeDownSince && m_clock.now() - *m_escapeDownSince >= escapeHold) m_cancelled = true;
+    if (m_escapeDownSince && m_clock.now() - *m_escapeDownSince >= escapeHold) cancelPlayback();
     return m_cancelled;
 }
 

@@ -19,7 +19,9 @@ class FakeDesktop {
 
     explicit FakeDesktop(const Clock& clock) : m_clock(clock) {}
 
-    void post(Delivery delivery) { m_queue.push_back(std::move(delivery)); }
+    void post(Delivery delivery) { m_queue.push_back({std::move(delivery), false}); }
+    /// One that starts a playback; a stop before it is made takes it back.
+    void postPlay(Delivery delivery) { m_queue.push_back({std::move(delivery), true}); }
     /// Makes all deliveries that wait.
     void turnLoop();
 
@@ -44,14 +46,19 @@ class FakeDesktop {
     bool isScreenLocked() const { return m_screenLocked; }
 
     void startPlayback();
-    void cancelPlayback() { m_cancelled = true; }
+    void cancelPlayback();
     bool isCancelled();
     void escapeGoesDown();
     void escapeGoesUp();
 
   private:
+    struct Waiting {
+        Delivery make;
+        bool isPlay = false;
+    };
+
     const Clock& m_clock;
-    std::deque<Delivery> m_queue;
+    std::deque<Waiting> m_queue;
     bool m_delivering = false;
     int m_runs = 0;
     bool m_withheld = false;

@@ -100,7 +100,7 @@ void FakeHotKeys::fire(const Row& row) {
     m_lastPressTime = static_cast<std::uint32_t>(
         std::chrono::duration_cast<std::chrono::milliseconds>(m_clock.now().time_since_epoch()).count());
     if (m_desktop.isRunning() && row.request.cancelsPlayback) m_desktop.cancelPlayback();
-    m_desktop.post([this, id = row.request.id] {
+    post(row.request, [this, id = row.request.id] {
         if (!m_desktop.isWithheld() && m_pressed) m_pressed(id);
     });
 }
@@ -111,8 +111,17 @@ bool FakeHotKeys::takesRelease(std::uint32_t keyCode) {
     const std::optional<HotKeyId> id = held->second;
     m_held.erase(held);
     if (!id) return true;
-    m_desktop.post([this, id = *id] {
+    const auto row = m_rows.find(*id);
+    post(row == m_rows.end() ? HotKeyRequest{} : row->second.request, [this, id = *id] {
         if (!m_desktop.isWithheld() && m_released) m_released(id);
     });
     return true;
+}
+
+void FakeHotKeys::post(const HotKeyRequest& request, FakeDesktop::Delivery delivery) {
+    if (request.startsPlayback) {
+        m_desktop.postPlay(std::move(delivery));
+    } else {
+        m_desktop.post(std::move(delivery));
+    }
 }

@@ -49,6 +49,7 @@ class FakeHotKeys : public HotKeys {
     HotKeyState answer(const HotKeyRequest& request);
     const Row* holderOf(const Combination& combination) const;
     void fire(const Row& row);
+    void post(const HotKeyRequest& request, FakeDesktop::Delivery delivery);
 
     Journal& m_journal;
     FakeDesktop& m_desktop;

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <optional>
+#include <utility>
 
 #include "platform/Clock.h"
 #include "platform/monitor/MonitorEvents.h"
@@ -18,16 +19,26 @@ class CancelWatch {
 
     void start() {
         m_cancelled = false;
+        m_escapeStop = false;
         // What was held before counts anew.
         if (m_escape) m_escape->since = m_clock.now();
     }
     void cancel() { m_cancelled = true; }
 
+    /// Whether a held Escape has become a stop; true once for each.
+    bool takeEscapeStop() {
+        if (m_escape && m_clock.now() >= *deadline() && !std::exchange(m_escape->isTaken, true)) return true;
+        return std::exchange(m_escapeStop, false);
+    }
+
     void escapePressed(const RawKey& key) { m_escape = Escape{key.source, key.time, m_clock.now()}; }
     void escapeReleased(const RawKey& key) {
         if (!m_escape || m_escape->source != key.source) return;
         // Press and release may be read at once, long after they happened; the server knows how long it was.
-        if (millisecondsAfter(key.time, m_escape->time) >= holdTime.count()) m_cancelled = true;
+        if (millisecondsAfter(key.time, m_escape->time) >= holdTime.count()) {
+            m_cancelled = true;
+            m_escapeStop = m_escapeStop || !m_escape->isTaken;
+        }
         m_escape.reset();
     }
     void keyboardGone(std::uint16_t source) {
@@ -45,9 +56,11 @@ class CancelWatch {
         std::uint16_t source;
         ServerTime time;
         Clock::Time since;
+        bool isTaken = false;
     };
 
     const Clock& m_clock;
     bool m_cancelled = false;
+    bool m_escapeStop = false;
     std::optional<Escape> m_escape;
 };

@@ -78,6 +78,14 @@ class DownKeys {
         return down != m_keys.end() && down->second.hotKey;
     }
 
+    /// The releases of these hot keys are not reported.
+    template <typename Condition>
+    void dropHotKeys(const Condition& dropped) {
+        for (auto& [keycode, held] : m_keys) {
+            if (held.hotKey && dropped(*held.hotKey)) held.hotKeyReported = false;
+        }
+    }
+
     /// The keys that this keyboard was the first to press.
     std::vector<std::uint8_t> keycodesOf(std::uint16_t source) const {
         std::vector<std::uint8_t> keycodes;

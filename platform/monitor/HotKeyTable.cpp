@@ -68,6 +68,11 @@ bool HotKeyTable::cancelsPlayback(HotKeyId id) const {
     return row != m_rows.end() && row->second.request.cancelsPlayback;
 }
 
+bool HotKeyTable::startsPlayback(HotKeyId id) const {
+    const auto row = m_rows.find(id);
+    return row != m_rows.end() && row->second.request.startsPlayback;
+}
+
 void HotKeyTable::followKeymap() {
     std::vector<Row*> moved;
     for (auto& [id, row] : m_rows) {

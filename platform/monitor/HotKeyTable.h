@@ -25,6 +25,7 @@ class HotKeyTable {
     std::optional<HotKeyId> find(std::uint8_t keycode, std::uint16_t modifiers) const;
     bool usesKeycode(std::uint8_t keycode) const;
     bool cancelsPlayback(HotKeyId id) const;
+    bool startsPlayback(HotKeyId id) const;
 
     /// Moves the grabs whose key or modifiers are others in the new keymap.
     void followKeymap();

@@ -105,6 +105,14 @@ void KeyInterpreter::keyboardGone(std::uint16_t source, ServerTime time) {
     m_cancel.keyboardGone(source);
 }
 
+void KeyInterpreter::dropHotKeys(const std::function<bool(HotKeyId)>& dropped) {
+    std::erase_if(m_deliveries, [&](const Delivery& delivery) {
+        const auto* event = std::get_if<HotKeyEvent>(&delivery);
+        return event != nullptr && dropped(event->id);
+    });
+    m_held.dropHotKeys(dropped);
+}
+
 void KeyInterpreter::startWith(const std::vector<std::uint8_t>& keycodes) {
     for (const std::uint8_t keycode : keycodes) {
         DownKey& held = m_held.press({.keycode = keycode, .press = true, .source = DownKeys::anySource});

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <variant>
 
 #include "platform/HotKeys.h"
@@ -58,6 +59,10 @@ class KeyInterpreter {
     /// While true, presses and hot keys are dropped.
     void setMuted(bool muted) { m_muted = muted; }
     void setKeepsOwnStrokes(bool keeps) { m_keepsOwn = keeps; }
+
+    /// Takes back what is to be delivered of these hot keys, and what would be when those that are held come
+    /// up.
+    void dropHotKeys(const std::function<bool(HotKeyId)>& dropped);
 
     /// What is to be delivered, oldest first.
     std::deque<Delivery>& deliveries() { return m_deliveries; }

@@ -129,6 +129,18 @@ TEST_F(KeyInterpreterTest, aHotKeyThatWasDroppedHasNoRelease) {
     EXPECT_TRUE(m_interpreter.deliveries().empty());
 }
 
+TEST_F(KeyInterpreterTest, hotKeysThatAreTakenBackAreNeitherPressedNorReleased) {
+    press(xkey::p, laptop, {.own = false, .grabbed = true, .hotKey = 3});
+    release(xkey::p);
+    press(xkey::p, laptop, {.own = false, .grabbed = true, .hotKey = 3});
+    press(xkey::s, laptop, {.own = false, .grabbed = true, .hotKey = 2});
+    m_interpreter.dropHotKeys([](HotKeyId id) { return id == 3; });
+    release(xkey::s);
+    release(xkey::p);
+    EXPECT_EQ(m_interpreter.deliveries(),
+              (std::deque<Delivery>{HotKeyEvent{2, true, 100}, HotKeyEvent{2, false, 200}}));
+}
+
 TEST_F(KeyInterpreterTest, aHotKeyAfterItsRawPressPassedIsStillPressedAndReleased) {
     press(xkey::a);
     keyEvents();

@@ -187,7 +187,13 @@ void EventOrder::deliverRepeats(const std::vector<KeyRepeat>& repeats) {
 }
 
 void EventOrder::noteHotKey(HotKeyId id) {
-    if (!m_muted && m_rules.hotKeys.cancelsPlayback(id)) m_rules.cancel.cancel();
+    if (m_locked || !m_rules.hotKeys.cancelsPlayback(id)) return;
+    m_rules.cancel.cancel();
+    dropPlays();
+}
+
+void EventOrder::dropPlays() {
+    m_interpreter.dropHotKeys([this](HotKeyId id) { return m_rules.hotKeys.startsPlayback(id); });
 }
 
 }  // namespace x11

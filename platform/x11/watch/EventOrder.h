@@ -42,7 +42,10 @@ class EventOrder {
     /// The same with all that the server has done until now.
     void catchUp();
 
-    void setMuted(bool muted) { m_muted = muted; }
+    /// While the screen is locked no hot key ends a playback.
+    void setLocked(bool locked) { m_locked = locked; }
+    /// The user wishes to stop: what he asked for before, and is not delivered yet, is not played any more.
+    void dropPlays();
 
   private:
     bool hasRepeats() const;
@@ -74,7 +77,7 @@ class EventOrder {
     ServerTime m_lastTime = 0;
     /// When each key that was a hot key was released last; presses before are its repeats.
     std::map<std::uint8_t, ServerTime> m_hotKeyReleases;
-    bool m_muted = false;
+    bool m_locked = false;
 };
 
 }  // namespace x11

@@ -74,6 +74,9 @@ void X11EventManager::Parts::dispatch() {
     const FlagScope dispatching(m_dispatching);
     std::deque<Delivery>& deliveries = m_interpreter.deliveries();
     while (!deliveries.empty()) {
+        // A stop may have come since, which takes back a play that has not begun.
+        if (std::holds_alternative<HotKeyEvent>(deliveries.front())) read();
+        if (deliveries.empty()) break;
         const Delivery delivery = deliveries.front();
         deliveries.pop_front();
         std::visit([this](const auto& event) { deliver(event); }, delivery);
@@ -90,8 +93,13 @@ void X11EventManager::Parts::read() {
     m_wakeups.takeKick();
     if (isBroken()) return giveUp();
     m_order.workOff();
+    heedEscape();
     if (m_wakeups.takeTimer()) followKeymap();
     watchRepeats();
+}
+
+void X11EventManager::Parts::heedEscape() {
+    if (m_cancel.takeEscapeStop()) m_order.dropPlays();
 }
 
 bool X11EventManager::Parts::isBroken() const {
@@ -141,6 +149,7 @@ void X11EventManager::Parts::runStarts() {
 
 void X11EventManager::Parts::runEnds() {
     settleOwnKeys();
+    heedEscape();
     if (m_repeats) m_repeats->resume();
     m_running = false;
     kick();
@@ -200,7 +209,7 @@ void X11EventManager::Parts::setKeepsOwnStrokes(bool keeps) {
 void X11EventManager::Parts::mute() {
     const bool muted = m_withheld || m_screenLocked;
     m_interpreter.setMuted(muted);
-    m_order.setMuted(muted);
+    m_order.setLocked(m_screenLocked);
 }
 
 void X11EventManager::Parts::deliver(const KeyEvent& event) {

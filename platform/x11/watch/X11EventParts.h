@@ -65,6 +65,7 @@ class X11EventManager::Parts final : public RunWatch {
     Parts(const Clock& clock, Opened opened);
 
     void read();
+    void heedEscape();
     void catchUp();
     void mute();
     void followKeymap();
