@@ -44,7 +44,8 @@ QString GatedDialogs::runOpenPanel(const QString& folder) {
     return m_dialogs.runOpenPanel(folder);
 }
 
-std::optional<ScriptAnswer> GatedDialogs::runScriptDialog(const ScriptDialog& dialog) {
+std::optional<ScriptAnswer> GatedDialogs::runScriptDialog(const ScriptDialog& dialog,
+                                                          const IsStopped& isStopped) {
     const Question question(m_gate);
-    return m_dialogs.runScriptDialog(dialog);
+    return m_dialogs.runScriptDialog(dialog, isStopped);
 }

@@ -15,7 +15,8 @@ class GatedDialogs : public Dialogs {
     void beginSheet(QWidget& panel, const AlertText& text, DidEnd didEnd) override;
     QString runSavePanel(const QString& folder) override;
     QString runOpenPanel(const QString& folder) override;
-    std::optional<ScriptAnswer> runScriptDialog(const ScriptDialog& dialog) override;
+    std::optional<ScriptAnswer> runScriptDialog(const ScriptDialog& dialog,
+                                                const IsStopped& isStopped) override;
 
   private:
     Dialogs& m_dialogs;

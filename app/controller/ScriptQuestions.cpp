@@ -10,7 +10,8 @@
 
 Result<ScriptAnswer> ScriptQuestions::ask(const ScriptDialog& dialog) {
     m_injector.rest();
-    std::optional<ScriptAnswer> answer = m_dialogs.runScriptDialog(dialog);
+    std::optional<ScriptAnswer> answer =
+        m_dialogs.runScriptDialog(dialog, [this] { return m_injector.isCancelled(); });
     if (answer) return *std::move(answer);
     m_injector.stopPlayback();
     return Error{"The question was not answered.", ""};

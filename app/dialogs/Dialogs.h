@@ -31,6 +31,8 @@ enum class AlertAnswer { alternateButton = 0, defaultButton = 1 };
 class Dialogs {
   public:
     using DidEnd = std::function<void(AlertAnswer)>;
+    /// Asked from time to time; never empty.
+    using IsStopped = std::function<bool()>;
 
     virtual ~Dialogs() = default;
 
@@ -48,6 +50,8 @@ class Dialogs {
     virtual QString runOpenPanel(const QString& folder) = 0;
 
     /// Asks a script's question and returns with the answer, once the focus is elsewhere again. Empty if the
-    /// window went without one: the program is about to end, or the user wishes to end the playback.
-    virtual std::optional<ScriptAnswer> runScriptDialog(const ScriptDialog& dialog) = 0;
+    /// window went without one: the program is about to end, or the user wishes to end the playback, as
+    /// `isStopped` tells wherever he has said so.
+    virtual std::optional<ScriptAnswer> runScriptDialog(const ScriptDialog& dialog,
+                                                        const IsStopped& isStopped) = 0;
 };

@@ -2,11 +2,19 @@
 #include "app/dialogs/QtDialogs.h"
 
 #include <QTimer>
+#include <chrono>
 #include <utility>
 
 #include "app/dialogs/AlertSheet.h"
 #include "app/dialogs/MacroFilePanel.h"
 #include "app/dialogs/ScriptDialogWindow.h"
+
+namespace {
+
+/// Only while a script's question is open; less than anybody notices.
+constexpr std::chrono::milliseconds betweenLooks{50};
+
+}  // namespace
 
 QtDialogs::QtDialogs(Focus focus) : m_focus(std::move(focus)) {}
 
@@ -33,8 +41,14 @@ QString QtDialogs::runOpenPanel(const QString& folder) {
     return run(panel) == QDialog::Accepted ? panel.path() : QString();
 }
 
-std::optional<ScriptAnswer> QtDialogs::runScriptDialog(const ScriptDialog& dialog) {
+std::optional<ScriptAnswer> QtDialogs::runScriptDialog(const ScriptDialog& dialog,
+                                                       const IsStopped& isStopped) {
     ScriptDialogWindow window(dialog);
+    QTimer looks;
+    QObject::connect(&looks, &QTimer::timeout, &window, [&] {
+        if (isStopped()) window.done(QDialog::Rejected);
+    });
+    looks.start(betweenLooks);
     window.setWindowFlag(Qt::WindowStaysOnTopHint);
     run(window);
     window.hide();

@@ -63,7 +63,9 @@ class X11Session final : public Session {
           m_keys(std::move(keys)),
           m_surroundings(std::move(surroundings)),
           m_scriptDesktop(clock),
-          m_use(use) {}
+          m_use(use) {
+        if (m_keys) m_scriptDesktop.heedStops([this] { return m_keys->keyInjector.isCancelled(); });
+    }
     ~X11Session() override;
     X11Session(const X11Session&) = delete;
     X11Session& operator=(const X11Session&) = delete;

@@ -35,11 +35,12 @@ QString FakeDialogs::runOpenPanel(const QString& folder) {
     return takeFile();
 }
 
-std::optional<ScriptAnswer> FakeDialogs::runScriptDialog(const ScriptDialog& dialog) {
+std::optional<ScriptAnswer> FakeDialogs::runScriptDialog(const ScriptDialog& dialog,
+                                                         const IsStopped& isStopped) {
     m_journal.note("runScriptDialog", dialog.text);
     scriptTexts.push_back(dialog.text);
     happen();
-    if (m_scriptAnswers.empty()) return std::nullopt;
+    if (m_scriptAnswers.empty() || isStopped()) return std::nullopt;
     ScriptAnswer answer = std::move(m_scriptAnswers.front());
     m_scriptAnswers.pop();
     return answer;

@@ -18,7 +18,8 @@ class FakeDialogs : public Dialogs {
     void beginSheet(QWidget& panel, const AlertText& text, DidEnd didEnd) override;
     QString runSavePanel(const QString& folder) override;
     QString runOpenPanel(const QString& folder) override;
-    std::optional<ScriptAnswer> runScriptDialog(const ScriptDialog& dialog) override;
+    std::optional<ScriptAnswer> runScriptDialog(const ScriptDialog& dialog,
+                                                const IsStopped& isStopped) override;
 
     void answerNextAlert(AlertAnswer answer) { m_answers.push(answer); }
     void chooseNextFile(const QString& path) { m_files.push(path); }

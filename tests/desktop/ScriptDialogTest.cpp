@@ -3,6 +3,7 @@
 
 #include "desktop/DesktopTest.h"
 #include "display/NestedServers.h"
+#include "display/Typist.h"
 #include "support/Keys.h"
 
 namespace {
@@ -66,13 +67,13 @@ keystroke "[" & x & "]"
     expectTypedInTheEnd("a[Ann 7]");
 }
 
-TEST_P(ScriptDialogTest, hotKeysDoNothingWhileAQuestionIsOpen) {
+TEST_P(ScriptDialogTest, hotKeysButStopDoNothingWhileAQuestionIsOpen) {
     const Keyrill keyrill(desktop, toSystemEvents(R"(keystroke "a"
 display dialog "Go on?" with title "Weekly & <i>report</i>"
 keystroke "b"
 )"));
     play();
-    for (const char* hotKey : {"ctrl+super+r", "ctrl+super+p", "ctrl+super+m", "ctrl+super+s"}) {
+    for (const char* hotKey : {"ctrl+super+r", "ctrl+super+p", "ctrl+super+m"}) {
         desktop.press(hotKey);
     }
     desktop.press("Return");
@@ -219,15 +220,12 @@ TEST_F(AnsweredByHandTest, aTappedEscapeBelongsToTheQuestion) {
     EXPECT_EQ(terminal->typed(2), "no");
 }
 
-TEST_F(AnsweredByHandTest, theStopCombinationIsDropped) {
-    servers.user().press(xkey::control);
-    servers.user().press(xkey::super);
-    servers.user().tap(xkey::s);
-    servers.user().release(xkey::super);
-    servers.user().release(xkey::control);
-    servers.user().tap(xkey::returnKey);
-    servers.finish();
-    EXPECT_EQ(terminal->typed(3), "yes");
+TEST_F(AnsweredByHandTest, theStopCombinationEndsTheMacroWithoutAnAnswer) {
+    const Typist typist(servers, Typist::Gap(80));
+    typist.stroke({xkey::control, xkey::super, xkey::s});
+    ASSERT_TRUE(eventually([this] { return !desktop.shows(question) && terminal->hasFocus(); }));
+    typist.tap(xkey::period);
+    EXPECT_EQ(terminal->typed(1), ".");
 }
 
 }  // namespace

@@ -70,6 +70,7 @@ void DialogReader::readButton(unsigned parameter, std::optional<std::size_t>& ta
 Fallible<Value> DialogReader::ask(CommandStage& stage,
                                   Value (*answered)(const ScriptDialog& dialog, const ScriptAnswer& answer)) {
     if (m_failure) return *std::move(m_failure);
+    if (auto going = stage.goOn(); !going) return std::move(going).error();
     const Result<ScriptAnswer> answer = stage.dialogs().ask(m_dialog);
     if (auto going = stage.goOn(); !going) return std::move(going).error();
     if (!answer) return desktopFailure(answer.error());

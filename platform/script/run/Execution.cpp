@@ -133,6 +133,18 @@ void Execution::askWhetherToStop() {
     if (auto going = goOn(); !going) fail(std::move(going).error());
 }
 
+// What others are asked for may take them any time: whether to stop is the next question.
+
+ScriptDesktop& Execution::desktop() {
+    work(workBetweenQuestions);
+    return m_services.desktop;
+}
+
+ScriptDialogs& Execution::dialogs() {
+    work(workBetweenQuestions);
+    return m_services.dialogs;
+}
+
 Fallible<> Execution::goOn() {
     if (m_services.injector.isCancelled()) return userCancelled();
     return {};

@@ -120,8 +120,8 @@ class Execution : public CommandStage {
     Fallible<> play(const KeyStep& step) override;
     void warn(std::string message) override;
     void log(std::string line) override;
-    ScriptDesktop& desktop() override { return m_services.desktop; }
-    ScriptDialogs& dialogs() override { return m_services.dialogs; }
+    ScriptDesktop& desktop() override;
+    ScriptDialogs& dialogs() override;
     Fallible<> goOn() override;
     const TextRules& rules() const override { return m_rules; }
     std::mt19937_64& random() override { return m_random; }

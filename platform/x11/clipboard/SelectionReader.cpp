@@ -14,6 +14,8 @@ namespace x11 {
 namespace {
 
 constexpr std::chrono::milliseconds longestSilence{1000};
+/// Whether the answer is still wanted.
+constexpr std::chrono::milliseconds betweenLooks{20};
 
 std::string fromLatin1(std::string_view bytes) {
     std::string text;
@@ -29,7 +31,14 @@ SelectionReader::SelectionReader(const XConnection& connection)
       m_window(connection, XCB_EVENT_MASK_PROPERTY_CHANGE),
       m_clock(connection) {}
 
-Result<std::string> SelectionReader::text() {
+Result<std::string> SelectionReader::text(const IsStopped& isStopped) {
+    m_isStopped = isStopped;
+    Result<std::string> text = readText();
+    m_isStopped = {};
+    return text;
+}
+
+Result<std::string> SelectionReader::readText() {
     for (const xcb_atom_t form : formsToTry()) {
         Answer answer = ask(form);
         if (answer.outcome == Outcome::tooLong) return Error{"The text in the clipboard is too long.", ""};
@@ -111,7 +120,7 @@ std::optional<xcb_atom_t> SelectionReader::convert(xcb_atom_t selection, xcb_ato
 Event SelectionReader::await(const Wanted& wanted) {
     xcb_flush(m_connection);
     const auto end = std::chrono::steady_clock::now() + longestSilence;
-    while (!m_connection.isBroken()) {
+    while (!m_connection.isBroken() && !(m_isStopped && m_isStopped())) {
         while (Event event = m_connection.nextEvent()) {
             if (wanted(event)) return event;
         }
@@ -119,7 +128,7 @@ Event SelectionReader::await(const Wanted& wanted) {
             std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
         if (left.count() <= 0) break;
         pollfd entry{m_connection.fileDescriptor(), POLLIN, 0};
-        poll(&entry, 1, static_cast<int>(left.count()));
+        poll(&entry, 1, static_cast<int>(std::min(left, betweenLooks).count()));
     }
     return {};
 }

@@ -21,12 +21,15 @@ class SelectionReader {
     /// The most that is read.
     static constexpr std::size_t longestText = 64U << 20U;
 
+    /// Whether nobody wants the answer any more; asked while others are waited for. Empty for never.
+    using IsStopped = std::function<bool()>;
+
     /// The connection outlives the object, and has no other use.
     explicit SelectionReader(const XConnection& connection);
 
-    /// The text in UTF-8; empty if there is none or its owner does not answer. Fails for one that is too
-    /// long.
-    Result<std::string> text();
+    /// The text in UTF-8; empty if there is none, its owner does not answer, or it is not wanted any more.
+    /// Fails for one that is too long.
+    Result<std::string> text(const IsStopped& isStopped);
 
     /// Asks the clipboard manager to fetch what this process owns there; true when it has. False without one.
     bool handOver();
@@ -42,6 +45,7 @@ class SelectionReader {
         std::string bytes = {};
     };
 
+    Result<std::string> readText();
     std::vector<xcb_atom_t> formsToTry();
     Answer ask(xcb_atom_t target);
     Answer collect();
@@ -53,6 +57,7 @@ class SelectionReader {
     Property::Content take() const;
 
     const XConnection& m_connection;
+    IsStopped m_isStopped;
     SelectionAtoms m_atoms;
     HiddenWindow m_window;
     ServerClock m_clock;

@@ -112,7 +112,7 @@ Result<std::string> X11Clipboard::text() {
         const std::lock_guard guard(opened.value()->lock);
         if (opened.value()->owner.isOwner()) return opened.value()->owner.text();
     }
-    return opened.value()->reader.text();
+    return opened.value()->reader.text(m_isStopped);
 }
 
 bool X11Clipboard::handOver() { return m_parts && m_parts->isOwner() && m_parts->reader.handOver(); }

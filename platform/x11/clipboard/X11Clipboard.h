@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/Result.h"
 
@@ -17,6 +19,8 @@ class X11Clipboard {
   public:
     /// Of the display, or of $DISPLAY if it is empty. Nothing is opened before the first use.
     explicit X11Clipboard(std::string display);
+    /// While a text is waited for it is asked whether the wait is to end; from now on.
+    void heedStops(std::function<bool()> isStopped) { m_isStopped = std::move(isStopped); }
     ~X11Clipboard();
     X11Clipboard(const X11Clipboard&) = delete;
     X11Clipboard& operator=(const X11Clipboard&) = delete;
@@ -41,6 +45,7 @@ class X11Clipboard {
     Result<Parts*> parts();
 
     std::string m_display;
+    std::function<bool()> m_isStopped;
     std::unique_ptr<Parts> m_parts;
 };
 

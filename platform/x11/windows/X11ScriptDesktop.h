@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/ScriptDesktop.h"
 #include "platform/x11/clipboard/X11Clipboard.h"
@@ -26,6 +28,9 @@ class X11ScriptDesktop : public ScriptDesktop {
     Result<std::string> clipboard() override { return m_clipboard.text(); }
     bool hasApplication(std::string_view name) override;
     Result<void> activate(std::string_view name) override;
+
+    /// While the clipboard's owner is waited for it is asked whether the wait is to end; from now on.
+    void heedStops(std::function<bool()> isStopped) { m_clipboard.heedStops(std::move(isStopped)); }
 
     /// What scripts have put into the clipboard, as it can be kept beyond the end of the process.
     X11Clipboard& clipboardOfScripts() { return m_clipboard; }

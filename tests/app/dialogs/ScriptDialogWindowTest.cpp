@@ -65,7 +65,7 @@ std::optional<ScriptAnswer> answerAfter(const ScriptDialog& dialog,
                                         const std::function<void(QWidget&)>& deed) {
     QtDialogs dialogs;
     QTimer::singleShot(0, [&deed] { deed(*QApplication::activeModalWidget()); });
-    return dialogs.runScriptDialog(dialog);
+    return dialogs.runScriptDialog(dialog, [] { return false; });
 }
 /// Its button, or -1 for none.
 int buttonAfter(const ScriptDialog& dialog, const std::function<void(QWidget&)>& deed) {
@@ -226,6 +226,13 @@ TEST(ScriptDialogWindowTest, scrollsWhatNoScreenCouldHoldAndBreaksEndlessWords) 
     EXPECT_LE(wide.width(), wide.screen()->availableSize().width());
 }
 
+TEST(ScriptDialogWindowTest, goesWithoutAnAnswerWhenTheUserHasAskedToStop) {
+    QtDialogs dialogs;
+    int looks = 0;
+    EXPECT_EQ(dialogs.runScriptDialog(question(), [&looks] { return ++looks == 3; }), std::nullopt);
+    EXPECT_EQ(looks, 3);
+}
+
 TEST(ScriptDialogWindowTest, takesTheFocusAndWaitsUntilItIsElsewhere) {
     std::vector<std::string> events;
     QtDialogs dialogs({.take =
@@ -237,7 +244,7 @@ TEST(ScriptDialogWindowTest, takesTheFocusAndWaitsUntilItIsElsewhere) {
                            [&events](QWidget& window) {
                                events.emplace_back(window.isVisible() ? "wait too early" : "wait");
                            }});
-    dialogs.runScriptDialog(question());
+    dialogs.runScriptDialog(question(), [] { return false; });
     EXPECT_EQ(events, std::vector<std::string>({"take", "wait"}));
 }
 
