@@ -6,7 +6,6 @@
 #include <chrono>
 
 #include "app/dialogs/AlertTexts.h"
-#include "app/overlay/Alphas.h"
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/SplashWindow.h"
 #include "app/panels/AboutPanel.h"
@@ -91,7 +90,7 @@ void AppController::awakeFromNib() {
     registerHotKeys();
     m_refreshTimer.start(refreshInterval);
     watchScreenLock();
-    if (runPreferencesOnLaunch) fadeInPanel(&builtWelcomePanel(), panelAlpha);
+    if (runPreferencesOnLaunch) m_stage.present(builtWelcomePanel());
     // What went wrong with the settings so far, once the start-up is through.
     QTimer::singleShot(0, this, &AppController::tellFaults);
 }

@@ -76,8 +76,10 @@ void OverlayDesk::setPromptPlays(bool plays) {
 }
 
 std::int32_t OverlayDesk::leaveToPlay() {
+    // The prompt has the focus and goes last: while it is there, nobody passes the focus on to one of the
+    // others, to be lost with that.
+    m_stage.hide(m_prompt.get());
     m_stage.fadeOut(*m_prompt);
-    m_stage.hide();
     m_clock.sleepFor(pauseBeforeMultiplePlay);
     const std::int32_t count = playCountFromText(m_prompt->timesText().toStdString());
     m_stage.awaitFocusElsewhere(m_prompt.get());

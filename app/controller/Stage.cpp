@@ -10,13 +10,6 @@ namespace {
 
 WindowId windowIdOf(const QWidget& window) { return static_cast<WindowId>(window.winId()); }
 
-void showWithoutFocus(QWidget& window) {
-    const bool quietly = window.testAttribute(Qt::WA_ShowWithoutActivating);
-    window.setAttribute(Qt::WA_ShowWithoutActivating);
-    window.show();
-    window.setAttribute(Qt::WA_ShowWithoutActivating, quietly);
-}
-
 }  // namespace
 
 void Stage::fadeIn(QWidget& window, double alpha) {
@@ -54,9 +47,9 @@ void Stage::awaitFocusElsewhere(const QWidget* hidden) {
     m_windows.awaitFocusElsewhere(hidden == nullptr ? Windows::none : windowIdOf(*hidden));
 }
 
-void Stage::hide() {
+void Stage::hide(const QWidget* kept) {
     for (QWidget* window : m_ordinaryWindows()) {
-        if (!isShown(window)) continue;
+        if (!isShown(window) || window == kept) continue;
         window->hide();
         m_hidden.emplace_back(window);
     }
@@ -64,7 +57,7 @@ void Stage::hide() {
 
 void Stage::unhide() {
     for (const QPointer<QWidget>& window : m_hidden) {
-        if (window) showWithoutFocus(*window);
+        if (window) window->show();
     }
     m_hidden.clear();
 }

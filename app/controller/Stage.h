@@ -32,8 +32,8 @@ class Stage {
     /// Waits until keys reach the application that the user was in; `hidden` is a window of ours, or null.
     void awaitFocusElsewhere(const QWidget* hidden);
 
-    /// Takes the ordinary windows off the screen and remembers which.
-    void hide();
+    /// Takes the ordinary windows off the screen and remembers which, but for `kept`, which may be null.
+    void hide(const QWidget* kept = nullptr);
     /// Brings them back, without taking the focus.
     void unhide();
 

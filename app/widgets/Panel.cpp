@@ -6,11 +6,13 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
+#include "app/icons/ProgramIcon.h"
 #include "app/widgets/NoticeLine.h"
 
-#include "app/icons/ProgramIcon.h"
-
 Panel::Panel(const QString& title) {
+    // The toolkit reads this when the window is made, not when it is shown. Who opens a panel gives it the
+    // focus; one that comes back after a play is to come without.
+    setAttribute(Qt::WA_ShowWithoutActivating);
     setWindowTitle(title);
     setWindowIcon(programIcon());
 }

@@ -7,7 +7,8 @@
 class NoticeLine;
 
 /// An ordinary window of the program. The frame, Escape or a button of its own closes it; it is kept then, to
-/// be shown again. Return presses the button that has the focus, else the default one.
+/// be shown again. Return presses the button that has the focus, else the default one. Showing it does not
+/// give it the focus.
 class Panel : public QWidget {
     Q_OBJECT
 

@@ -21,6 +21,7 @@ inline constexpr const char* menu = "Keyrill menu";
 inline constexpr const char* control = "Keyrill";
 inline constexpr const char* overlay = "Keyrill recording";
 inline constexpr const char* prompt = "Play Multiple Times";
+inline constexpr const char* about = "About Keyrill";
 inline constexpr const char* welcome = "Welcome to Keyrill";
 inline constexpr const char* preferences = "Keyrill Preferences";
 inline constexpr const char* savePanel = "Save Macro";

@@ -20,4 +20,17 @@ TEST(StageTest, bringsBackWhatItHasHiddenAndNothingElse) {
     EXPECT_FALSE(isShown(&hidden));
 }
 
+TEST(StageTest, leavesOneWindowThatIsStillNeeded) {
+    QWidget kept;
+    QWidget other;
+    kept.show();
+    other.show();
+    Journal journal;
+    FakeWindows windows(journal);
+    Stage stage(windows, [&] { return std::vector<QWidget*>{&kept, &other}; });
+    stage.hide(&kept);
+    EXPECT_TRUE(isShown(&kept));
+    EXPECT_FALSE(isShown(&other));
+}
+
 }  // namespace
