@@ -14,7 +14,7 @@ using HotKeyId = std::uint32_t;
 /// A wish for a global hot key.
 struct HotKeyRequest {
     HotKeyId id = 0;
-    /// For messages, as the user knows it ("play").
+    /// As the settings call it ("play"); not for the user's eyes.
     std::string name;
     /// See platform/KeyCodes.h; keycode::none asks for nothing and leaves the hot key unset.
     std::uint32_t keyCode = 0;
@@ -31,7 +31,7 @@ enum class HotKeyStatus { unset, pending, registered, changed, refused };
 
 struct HotKeyState {
     HotKeyStatus status = HotKeyStatus::unset;
-    /// Set while refused: its message names the combination and who holds it, as far as known.
+    /// Set while refused: its message names the combination and why it cannot be had.
     std::optional<Error> error;
 };
 

@@ -23,13 +23,14 @@ bool outlivesItsField(const ShortcutFacts& shortcut) {
 
 QString refusal(const ShortcutFacts& refused, const AllShortcutFacts& all) {
     const auto* holder = std::find_if(all.begin(), all.end(), [&refused](const ShortcutFacts& other) {
-        return outlivesItsField(other) && other.asked == refused.asked;
+        return works(other) && other.asked == refused.asked;
     });
-    if (holder != all.end()) {
-        const auto index = static_cast<std::size_t>(holder - all.begin());
-        return tr("Still used by %1 until Keyrill restarts.").arg(shortcutTitles(index).command);
+    if (holder == all.end()) {
+        return refused.state.error ? QString::fromStdString(refused.state.error->message) : QString();
     }
-    return refused.state.error ? QString::fromStdString(refused.state.error->message) : QString();
+    const QString command = shortcutTitles(static_cast<std::size_t>(holder - all.begin())).command;
+    return outlivesItsField(*holder) ? tr("Still used by %1 until Keyrill restarts.").arg(command)
+                                     : tr("Already used by %1.").arg(command);
 }
 
 QString noticeFor(const ShortcutFacts& shortcut, const AllShortcutFacts& all) {

@@ -2,8 +2,21 @@
 #include "app/controller/StatusNotice.h"
 
 #include <QStringList>
+#include <algorithm>
 
+#include "app/shortcuts/ShortcutTitles.h"
 #include "app/tray/StatusItem.h"
+#include "prefs/Shortcuts.h"
+
+namespace {
+
+QString titleOf(HotKeyId id) {
+    const auto* row = std::find_if(shortcutRows.begin(), shortcutRows.end(),
+                                   [id](const ShortcutRow& shortcut) { return shortcut.id == id; });
+    return shortcutTitles(static_cast<std::size_t>(row - shortcutRows.begin())).command;
+}
+
+}  // namespace
 
 void StatusNotice::setHint(const QString& hint) {
     m_hint = hint;
@@ -12,7 +25,8 @@ void StatusNotice::setHint(const QString& hint) {
 
 void StatusNotice::noteHotKey(HotKeyId id, const HotKeyState& state) {
     if (state.status == HotKeyStatus::refused && state.error) {
-        m_refused[id] = state.error->message;
+        m_refused[id] =
+            tr("%1 has no shortcut. %2").arg(titleOf(id), QString::fromStdString(state.error->message));
     } else {
         m_refused.erase(id);
     }
@@ -21,7 +35,7 @@ void StatusNotice::noteHotKey(HotKeyId id, const HotKeyState& state) {
 
 void StatusNotice::show() {
     QStringList lines;
-    for (const auto& [id, message] : m_refused) lines.append(QString::fromStdString(message));
+    for (const auto& [id, line] : m_refused) lines.append(line);
     if (!m_hint.isEmpty()) lines.append(m_hint);
     m_item.setNotice(lines.join(QLatin1Char('\n')));
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <map>
-#include <string>
 
 #include "platform/HotKeys.h"
 
@@ -12,6 +12,8 @@ class StatusItem;
 /// What the status item tells: which hot keys were refused, a line each in the order of their numbers, then
 /// what the user should know of the session.
 class StatusNotice {
+    Q_DECLARE_TR_FUNCTIONS(StatusNotice)
+
   public:
     /// The item outlives this.
     explicit StatusNotice(StatusItem& item) : m_item(item) {}
@@ -19,6 +21,7 @@ class StatusNotice {
     const QString& hint() const { return m_hint; }
     /// Empty for nothing.
     void setHint(const QString& hint);
+    /// Of one of the shortcuts.
     void noteHotKey(HotKeyId id, const HotKeyState& state);
 
   private:
@@ -26,5 +29,5 @@ class StatusNotice {
 
     StatusItem& m_item;
     QString m_hint;
-    std::map<HotKeyId, std::string> m_refused;
+    std::map<HotKeyId, QString> m_refused;
 };

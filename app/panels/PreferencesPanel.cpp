@@ -62,7 +62,7 @@ QLayout* PreferencesPanel::makeShortcuts(PreferencesModel& model) {
 }
 
 void PreferencesPanel::addShortcut(QFormLayout& form, ShortcutModel& shortcut, const ShortcutTitles& titles) {
-    auto* field = new SRRecorderControl(shortcut, titles.meaning, this);
+    auto* field = new SRRecorderControl(shortcut, titles.command, this);
     form.addRow(titles.label, field);
     auto* notice = new NoticeLine(this);
     const auto showNotice = [&form, notice, &shortcut] {

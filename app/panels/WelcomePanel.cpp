@@ -94,7 +94,7 @@ QLayout* WelcomePanel::makeCombinations(const PreferencesModel& model) {
     auto* grid = new QGridLayout;
     grid->setColumnStretch(2, 1);
     for (std::size_t i = 0; i < model.shortcuts.size(); ++i)
-        addCombination(*grid, model.shortcuts[i], shortcutTitles(i).meaning);
+        addCombination(*grid, model.shortcuts[i], shortcutTitles(i).command);
     return grid;
 }
 

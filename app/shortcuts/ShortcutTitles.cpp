@@ -14,27 +14,22 @@ constexpr const char* context = "ShortcutTitles";
 struct TitlesRow {
     std::string_view name;
     const char* label = nullptr;
-    const char* meaning = nullptr;
     const char* command = nullptr;
 };
 
 constexpr std::array titlesRows = {
     TitlesRow{.name = "record",
-              .label = QT_TRANSLATE_NOOP("ShortcutTitles", "Start &recording:"),
-              .meaning = QT_TRANSLATE_NOOP("ShortcutTitles", "Start recording"),
-              .command = QT_TRANSLATE_NOOP("ShortcutTitles", "Record")},
+              .label = QT_TRANSLATE_NOOP("ShortcutTitles", "Start &Recording:"),
+              .command = QT_TRANSLATE_NOOP("ShortcutTitles", "Start Recording")},
     TitlesRow{.name = "stop",
-              .label = QT_TRANSLATE_NOOP("ShortcutTitles", "&Stop recording:"),
-              .meaning = QT_TRANSLATE_NOOP("ShortcutTitles", "Stop recording"),
-              .command = QT_TRANSLATE_NOOP("ShortcutTitles", "Stop")},
+              .label = QT_TRANSLATE_NOOP("ShortcutTitles", "&Stop Recording:"),
+              .command = QT_TRANSLATE_NOOP("ShortcutTitles", "Stop Recording")},
     TitlesRow{.name = "play",
               .label = QT_TRANSLATE_NOOP("ShortcutTitles", "&Play:"),
-              .meaning = QT_TRANSLATE_NOOP("ShortcutTitles", "Play"),
               .command = QT_TRANSLATE_NOOP("ShortcutTitles", "Play")},
     TitlesRow{.name = "multiplePlay",
-              .label = QT_TRANSLATE_NOOP("ShortcutTitles", "Play &multiple times:"),
-              .meaning = QT_TRANSLATE_NOOP("ShortcutTitles", "Play multiple times"),
-              .command = QT_TRANSLATE_NOOP("ShortcutTitles", "Multiple Play")},
+              .label = QT_TRANSLATE_NOOP("ShortcutTitles", "Play &Multiple Times:"),
+              .command = QT_TRANSLATE_NOOP("ShortcutTitles", "Play Multiple Times")},
 };
 
 consteval bool followShortcutRows() {
@@ -50,6 +45,5 @@ static_assert(followShortcutRows());
 ShortcutTitles shortcutTitles(std::size_t index) {
     const TitlesRow& row = titlesRows.at(index);
     return {.label = QCoreApplication::translate(context, row.label),
-            .meaning = QCoreApplication::translate(context, row.meaning),
             .command = QCoreApplication::translate(context, row.command)};
 }

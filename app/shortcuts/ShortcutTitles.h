@@ -8,9 +8,7 @@
 struct ShortcutTitles {
     /// Beside its field, with a mnemonic that no other control of the preferences has.
     QString label;
-    /// What it does, as a sentence would go on.
-    QString meaning;
-    /// Its command in a notice about another shortcut.
+    /// Its command, as the menu has it too.
     QString command;
 };
 

@@ -37,9 +37,8 @@ HotKeyState FakeHotKeys::answer(const HotKeyRequest& request) {
     if (!keycode::evdevFor(request.keyCode)) {
         return {HotKeyStatus::refused, Error{"No key of this keyboard is " + name + ".", "Choose another."}};
     }
-    if (const Row* holder = holderOf(combination)) {
-        return {HotKeyStatus::refused,
-                Error{name + " is already used by " + holder->request.name + ".", "Choose another."}};
+    if (holderOf(combination) != nullptr) {
+        return {HotKeyStatus::refused, Error{name + " is used for something else.", "Choose another."}};
     }
     if (m_foreign.contains(combination)) {
         return {HotKeyStatus::refused, Error{name + " is held by another program.", "Choose another."}};

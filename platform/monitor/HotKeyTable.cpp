@@ -119,9 +119,9 @@ void HotKeyTable::tryRow(Row& row) {
     row.isLifted = false;
     const Result<KeyGrab> grab = grabFor(row.request);
     if (!grab) return refuse(row, grab.error().message, grab.error().hint);
-    if (const Row* holder = holderOf(grab.value())) {
+    if (isHeld(grab.value())) {
         row.waits = true;
-        return refuse(row, "it is used for " + holder->request.name, chooseAnother);
+        return refuse(row, "Keyrill uses it for something else", chooseAnother);
     }
     if (const auto failure = m_grabs.grab(grab.value())) return refuse(row, *failure, freeIt);
     row.grab = grab.value();
@@ -138,14 +138,13 @@ void HotKeyTable::tryWaitingRows() {
     for (auto& [id, row] : m_rows) {
         if (!row.waits) continue;
         const Result<KeyGrab> grab = grabFor(row.request);
-        if (grab && holderOf(grab.value()) == nullptr) tryRow(row);
+        if (grab && !isHeld(grab.value())) tryRow(row);
     }
 }
 
 void HotKeyTable::refuse(Row& row, const std::string& why, const std::string& hint) {
-    settle(row, {HotKeyStatus::refused, Error{combinationText(row.request) + " cannot be used for " +
-                                                  row.request.name + ": " + why + ".",
-                                              hint}});
+    settle(row, {HotKeyStatus::refused,
+                 Error{combinationText(row.request) + " cannot be used: " + why + ".", hint}});
 }
 
 void HotKeyTable::settle(Row& row, HotKeyState state) {
@@ -165,11 +164,10 @@ Result<KeyGrab> HotKeyTable::grabFor(const HotKeyRequest& request) const {
                    .locks = static_cast<std::uint16_t>(keymap.masks().locks())};
 }
 
-const HotKeyTable::Row* HotKeyTable::holderOf(const KeyGrab& grab) const {
-    for (const auto& [id, row] : m_rows) {
-        if (row.grab && row.grab->collidesWith(grab)) return &row;
-    }
-    return nullptr;
+bool HotKeyTable::isHeld(const KeyGrab& grab) const {
+    return std::any_of(m_rows.begin(), m_rows.end(), [&grab](const auto& entry) {
+        return entry.second.grab && entry.second.grab->collidesWith(grab);
+    });
 }
 
 std::string HotKeyTable::combinationText(const HotKeyRequest& request) const {

@@ -57,7 +57,8 @@ class HotKeyTable {
     void settle(Row& row, HotKeyState state);
     /// The grab of a request, or why there can be none.
     Result<KeyGrab> grabFor(const HotKeyRequest& request) const;
-    const Row* holderOf(const KeyGrab& grab) const;
+    /// By one of the rows.
+    bool isHeld(const KeyGrab& grab) const;
     std::string combinationText(const HotKeyRequest& request) const;
 
     KeyGrabber& m_grabs;

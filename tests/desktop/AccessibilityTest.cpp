@@ -101,13 +101,13 @@ TEST_F(AccessibilityTest, welcomesAndLeadsToThePreferences) {
 TEST_F(AccessibilityTest, tellsAndSetsThePreferences) {
     openPreferences();
     expectNamed(8);
-    EXPECT_EQ(descriptionOf("Stop recording"), "Ctrl+Super+S");
+    EXPECT_EQ(descriptionOf("Stop Recording"), "Ctrl+Super+S");
     press("Start Keyrill when I log in");
-    press("Stop recording");
+    press("Stop Recording");
     ASSERT_TRUE(eventually([this] { return desktop.screen().isKeyboardGrabbed(); }));
-    EXPECT_EQ(descriptionOf("Stop recording"), "Press a combination…");
+    EXPECT_EQ(descriptionOf("Stop Recording"), "Press a combination…");
     desktop.press("ctrl+super+y");
-    EXPECT_TRUE(eventually([this] { return descriptionOf("Stop recording") == "Ctrl+Super+Y"; }));
+    EXPECT_TRUE(eventually([this] { return descriptionOf("Stop Recording") == "Ctrl+Super+Y"; }));
     press("Clear Play");
     EXPECT_TRUE(eventually([this] { return descriptionOf("Play") == "Not set"; }));
     press("Close");

@@ -84,13 +84,13 @@ TEST_F(HotKeyTableTest, aWithdrawnCombinationIsGivenFree) {
 TEST_F(HotKeyTableTest, whatAnotherProgramHoldsIsRefused) {
     m_grabber.otherProgramHasAll = true;
     m_table.request(asked(record));
-    EXPECT_EQ(refusal(record), "Ctrl+Super+R cannot be used for record: another program holds it.");
+    EXPECT_EQ(refusal(record), "Ctrl+Super+R cannot be used: another program holds it.");
 }
 
 TEST_F(HotKeyTableTest, theFirstOfTwoKeepsACombinationAndTheSecondGetsItAfterwards) {
     m_table.request(asked(record));
     m_table.request(asked(play));
-    EXPECT_EQ(refusal(play), "Ctrl+Super+R cannot be used for play: it is used for record.");
+    EXPECT_EQ(refusal(play), "Ctrl+Super+R cannot be used: Keyrill uses it for something else.");
     m_table.withdraw(record);
     EXPECT_EQ(m_table.state(play).status, HotKeyStatus::registered);
     EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
@@ -99,21 +99,19 @@ TEST_F(HotKeyTableTest, theFirstOfTwoKeepsACombinationAndTheSecondGetsItAfterwar
 TEST_F(HotKeyTableTest, aKeyThatNoKeyboardHasIsRefused) {
     constexpr std::uint32_t showDesktop = 161;
     m_table.request(asked(record, 0, showDesktop));
-    EXPECT_EQ(refusal(record), "Show Desktop cannot be used for record: this desktop has no such key.");
+    EXPECT_EQ(refusal(record), "Show Desktop cannot be used: this desktop has no such key.");
 }
 
 TEST_F(HotKeyTableTest, aModifierWithoutAKeyIsNamed) {
     changeKeymap("us", "altwin:alt_win");
     m_table.request(asked(record));
-    EXPECT_EQ(refusal(record),
-              "Ctrl+Super+R cannot be used for record: the keyboard layout has no key for Super.");
+    EXPECT_EQ(refusal(record), "Ctrl+Super+R cannot be used: the keyboard layout has no key for Super.");
     EXPECT_TRUE(m_grabber.held.empty());
 }
 
 TEST_F(HotKeyTableTest, aChooserWithoutAKeyIsNamed) {
     m_table.request(asked(record, 0, keycode::fifthLevel + codeOfR));
-    EXPECT_EQ(refusal(record),
-              "R cannot be used for record: the keyboard layout has no key for the fifth level.");
+    EXPECT_EQ(refusal(record), "R cannot be used: the keyboard layout has no key for the fifth level.");
     EXPECT_TRUE(m_grabber.held.empty());
 }
 

@@ -49,7 +49,7 @@ TEST_F(AppControllerTest, showsWhichHotKeyIsRefusedAndWhy) {
     platform().settings.put("playCode", 35);
     platform().settings.put("playFlags", controlflag::control);
     controller.awakeFromNib();
-    EXPECT_EQ(statusItem.shownNotice, platform().hotKeys.state(3).error->message);
+    EXPECT_EQ(statusItem.shownNotice, "Play has no shortcut. " + platform().hotKeys.state(3).error->message);
 }
 
 TEST_F(AppControllerTest, showsStopAndSavePauseWhileRecording) {

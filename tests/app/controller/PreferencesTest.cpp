@@ -346,7 +346,7 @@ TEST_F(PreferencesTest, saysWhichClearedShortcutStillHasTheCombination) {
     controller.awakeFromNib();
     controller.showPreferences(nullptr);
     controller.playShortcutText.record({.flags = 0x140000, .code = 1});
-    EXPECT_EQ(controller.playShortcutText.notice(), "Still used by Stop until Keyrill restarts.");
+    EXPECT_EQ(controller.playShortcutText.notice(), "Still used by Stop Recording until Keyrill restarts.");
 }
 
 }  // namespace

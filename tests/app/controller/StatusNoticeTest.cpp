@@ -10,11 +10,13 @@ TEST(StatusNoticeTest, listsRefusedHotKeysAboveTheHint) {
     FakeStatusItem item(journal);
     StatusNotice notice(item);
     notice.setHint(QStringLiteral("hint"));
-    notice.noteHotKey(2, {.status = HotKeyStatus::refused, .error = Error{"second", ""}});
-    notice.noteHotKey(1, {.status = HotKeyStatus::refused, .error = Error{"first", ""}});
-    EXPECT_EQ(item.shownNotice, "first\nsecond\nhint");
+    notice.noteHotKey(2, {.status = HotKeyStatus::refused, .error = Error{"S cannot be used.", ""}});
+    notice.noteHotKey(1, {.status = HotKeyStatus::refused, .error = Error{"R cannot be used.", ""}});
+    EXPECT_EQ(item.shownNotice,
+              "Start Recording has no shortcut. R cannot be used.\n"
+              "Stop Recording has no shortcut. S cannot be used.\nhint");
     notice.noteHotKey(1, {.status = HotKeyStatus::registered, .error = std::nullopt});
-    EXPECT_EQ(item.shownNotice, "second\nhint");
+    EXPECT_EQ(item.shownNotice, "Stop Recording has no shortcut. S cannot be used.\nhint");
 }
 
 }  // namespace

@@ -49,10 +49,10 @@ class PreferencesPanelTest : public EngineTest {
 };
 
 TEST_F(PreferencesPanelTest, showsTheFourShortcuts) {
-    EXPECT_EQ(field("Start recording").displayText().toStdString(), "Ctrl+Super+R");
-    EXPECT_EQ(field("Stop recording").displayText().toStdString(), "Ctrl+Super+S");
+    EXPECT_EQ(field("Start Recording").displayText().toStdString(), "Ctrl+Super+R");
+    EXPECT_EQ(field("Stop Recording").displayText().toStdString(), "Ctrl+Super+S");
     EXPECT_EQ(field("Play").displayText().toStdString(), "Ctrl+Super+P");
-    EXPECT_EQ(field("Play multiple times").displayText().toStdString(), "Ctrl+Super+M");
+    EXPECT_EQ(field("Play Multiple Times").displayText().toStdString(), "Ctrl+Super+M");
 }
 
 TEST_F(PreferencesPanelTest, labelsEachFieldWithAMnemonicOfItsOwn) {
@@ -113,14 +113,14 @@ TEST_F(PreferencesPanelTest, showsNothingOfTheUpdateCheckWhereThereIsNone) {
 TEST_F(PreferencesPanelTest, leadsTheFocusThroughAllControlsInTheirOrder) {
     panel.show();
     QStringList order;
-    QWidget* const first = &field("Start recording");
+    QWidget* const first = &field("Start Recording");
     for (QWidget* widget = first; order.isEmpty() || widget != first; widget = widget->nextInFocusChain()) {
         if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
         const auto* button = qobject_cast<QAbstractButton*>(widget);
         order.append(button == nullptr ? widget->accessibleName() : button->text().remove(u'&'));
     }
     QStringList expected;
-    for (std::size_t i = 0; i < shortcutRows.size(); ++i) expected.append(shortcutTitles(i).meaning);
+    for (std::size_t i = 0; i < shortcutRows.size(); ++i) expected.append(shortcutTitles(i).command);
     for (const ToggleRow& row : toggleRows) {
         if (&row != &toggleRows[toggleIndex("checkForUpdatesOnLaunch")])
             expected.append(QString::fromLatin1(row.title).remove(u'&'));
