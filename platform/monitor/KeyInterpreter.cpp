@@ -106,7 +106,7 @@ void KeyInterpreter::keyboardGone(std::uint16_t source, ServerTime time) {
 }
 
 void KeyInterpreter::dropHotKeys(const std::function<bool(HotKeyId)>& dropped) {
-    std::erase_if(m_deliveries, [&](const Delivery& delivery) {
+    m_deliveries.eraseIf([&](const Delivery& delivery) {
         const auto* event = std::get_if<HotKeyEvent>(&delivery);
         return event != nullptr && dropped(event->id);
     });

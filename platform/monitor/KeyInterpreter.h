@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <variant>
 
 #include "platform/HotKeys.h"
 #include "platform/KeyEvent.h"
+#include "platform/Wiping.h"
 #include "platform/keymap/KeyboardState.h"
 #include "platform/monitor/CancelWatch.h"
 #include "platform/monitor/DownKeys.h"
@@ -65,7 +65,7 @@ class KeyInterpreter {
     void dropHotKeys(const std::function<bool(HotKeyId)>& dropped);
 
     /// What is to be delivered, oldest first.
-    std::deque<Delivery>& deliveries() { return m_deliveries; }
+    WipedQueue<Delivery>& deliveries() { return m_deliveries; }
 
   private:
     void press(const RawKey& key, const KeyOrigin& origin);
@@ -83,7 +83,7 @@ class KeyInterpreter {
     KeyboardState& m_keyboard;
     CancelWatch& m_cancel;
     DownKeys m_held;
-    std::deque<Delivery> m_deliveries;
+    WipedQueue<Delivery> m_deliveries;
     std::uint32_t m_reportedMask = 0;
     bool m_muted = false;
     bool m_keepsOwn = false;

@@ -138,7 +138,7 @@ TEST_F(KeyInterpreterTest, hotKeysThatAreTakenBackAreNeitherPressedNorReleased) 
     release(xkey::s);
     release(xkey::p);
     EXPECT_EQ(m_interpreter.deliveries(),
-              (std::deque<Delivery>{HotKeyEvent{2, true, 100}, HotKeyEvent{2, false, 200}}));
+              (WipedQueue<Delivery>{HotKeyEvent{2, true, 100}, HotKeyEvent{2, false, 200}}));
 }
 
 TEST_F(KeyInterpreterTest, aHotKeyAfterItsRawPressPassedIsStillPressedAndReleased) {
@@ -147,7 +147,7 @@ TEST_F(KeyInterpreterTest, aHotKeyAfterItsRawPressPassedIsStillPressedAndRelease
     m_interpreter.lateHotKey(2, xkey::a, 100);
     release(xkey::a);
     EXPECT_EQ(m_interpreter.deliveries(),
-              (std::deque<Delivery>{HotKeyEvent{2, true, 100}, HotKeyEvent{2, false, 200}}));
+              (WipedQueue<Delivery>{HotKeyEvent{2, true, 100}, HotKeyEvent{2, false, 200}}));
 }
 
 TEST_F(KeyInterpreterTest, escapeReadLateCountsByTheServersTime) {

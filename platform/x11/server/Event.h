@@ -4,8 +4,10 @@
 #include <xcb/xcb.h>
 
 #include <cstdint>
+#include <cstdlib>
+#include <memory>
 
-#include "platform/x11/server/XReply.h"
+#include "platform/Wiping.h"
 
 namespace x11 {
 
@@ -30,7 +32,7 @@ constexpr std::uint8_t eventNumber(std::uint8_t responseType) {
     return static_cast<std::uint8_t>(responseType & ~sentByClient);
 }
 
-/// An event that a connection was sent, or none.
+/// An event that a connection was sent, or none. It ends wiped, because many tell what the user types.
 class Event {
   public:
     Event() = default;
@@ -71,7 +73,19 @@ class Event {
   private:
     static constexpr int none = -1;
 
-    XReply<xcb_generic_event_t> m_event;
+    struct WipeAndFree {
+        void operator()(xcb_generic_event_t* event) const {
+            std::size_t size = sizeof *event;
+            if (eventNumber(event->response_type) == XCB_GE_GENERIC) {
+                constexpr std::size_t unit = 4;
+                size += reinterpret_cast<const xcb_ge_generic_event_t*>(event)->length * unit;
+            }
+            wipe(event, size);
+            std::free(event);
+        }
+    };
+
+    std::unique_ptr<xcb_generic_event_t, WipeAndFree> m_event;
 };
 
 }  // namespace x11

@@ -37,10 +37,9 @@ void EventOrder::catchUp() {
 }
 
 void EventOrder::workOffRawEvents() {
-    std::deque<MonitorEvent>& events = m_streams.raw.events();
+    WipedQueue<MonitorEvent>& events = m_streams.raw.events();
     while (!events.empty()) {
-        const MonitorEvent event = events.front();
-        events.pop_front();
+        const MonitorEvent event = events.takeFront();
         std::visit([this](const auto& what) { handle(what); }, event);
     }
 }
@@ -55,15 +54,13 @@ void EventOrder::workOffRepeats() {
 }
 
 void EventOrder::workOffLatePresses() {
-    std::deque<GrabbedPress>& presses = m_streams.grabs.presses();
+    WipedQueue<GrabbedPress>& presses = m_streams.grabs.presses();
     while (!presses.empty()) {
         const std::uint64_t known = presses.back().number;
         m_streams.raw.catchUp();
         workOffRawEvents();
         while (!presses.empty() && presses.front().number <= known) {
-            const GrabbedPress press = presses.front();
-            presses.pop_front();
-            handleLate(press);
+            handleLate(presses.takeFront());
         }
     }
 }
@@ -106,7 +103,7 @@ void EventOrder::handle(const KeyboardGone& gone) {
 /// time.
 bool EventOrder::takeRepeatPair(const RawKey& release) {
     if (release.synthetic) return false;
-    std::deque<MonitorEvent>& events = m_streams.raw.events();
+    WipedQueue<MonitorEvent>& events = m_streams.raw.events();
     if (events.empty()) m_streams.raw.catchUp();
     if (events.empty()) return false;
     const RawKey* next = std::get_if<RawKey>(&events.front());
@@ -130,7 +127,7 @@ KeyOrigin EventOrder::originOf(const RawKey& press, bool own) {
 
 std::optional<GrabbedPress> EventOrder::claim(const RawKey& press) {
     m_streams.grabs.catchUp();
-    std::deque<GrabbedPress>& presses = m_streams.grabs.presses();
+    WipedQueue<GrabbedPress>& presses = m_streams.grabs.presses();
     const auto sameKey = [&](const GrabbedPress& grabbed) {
         return grabbed.keycode == press.keycode && grabbed.time == press.time;
     };
@@ -145,8 +142,9 @@ std::optional<GrabbedPress> EventOrder::claim(const RawKey& press) {
         match = std::find_if(presses.begin(), presses.end(), sameKey);
     }
     const GrabbedPress grabbed = *match;
-    const std::vector<GrabbedPress> earlier(presses.begin(), match);
-    presses.erase(presses.begin(), match + 1);
+    WipedQueue<GrabbedPress> earlier;
+    while (presses.front().number != grabbed.number) earlier.push_back(presses.takeFront());
+    presses.pop_front();
     for (const GrabbedPress& late : earlier) handleLate(late);
     return grabbed;
 }
@@ -154,7 +152,7 @@ std::optional<GrabbedPress> EventOrder::claim(const RawKey& press) {
 /// Whether the key is pressed once more in the same millisecond.
 bool EventOrder::comesAgain(const RawKey& press) {
     m_streams.raw.catchUp();
-    const std::deque<MonitorEvent>& events = m_streams.raw.events();
+    const WipedQueue<MonitorEvent>& events = m_streams.raw.events();
     return std::any_of(events.begin(), events.end(), [&press](const MonitorEvent& event) {
         const RawKey* key = std::get_if<RawKey>(&event);
         return key != nullptr && *key == press;

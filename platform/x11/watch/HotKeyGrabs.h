@@ -3,12 +3,12 @@
 
 #include <compare>
 #include <cstdint>
-#include <deque>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
 
+#include "platform/Wiping.h"
 #include "platform/monitor/KeyGrabber.h"
 #include "platform/monitor/MonitorEvents.h"
 #include "platform/x11/server/XConnection.h"
@@ -30,7 +30,7 @@ class HotKeyGrabs final : public KeyGrabber {
     static Result<std::unique_ptr<HotKeyGrabs>> open(const std::string& display);
 
     const XConnection& connection() const { return m_connection; }
-    std::deque<GrabbedPress>& presses() { return m_presses; }
+    WipedQueue<GrabbedPress>& presses() { return m_presses; }
 
     // KeyGrabber
     std::optional<std::string> grab(const KeyGrab& grab) override;
@@ -66,7 +66,7 @@ class HotKeyGrabs final : public KeyGrabber {
     std::set<Place> m_combinations;
     /// What is grabbed for the sake of repeats alone.
     std::set<Place> m_shields;
-    std::deque<GrabbedPress> m_presses;
+    WipedQueue<GrabbedPress> m_presses;
     std::uint64_t m_lastNumber = 0;
 };
 

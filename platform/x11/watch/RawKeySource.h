@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <deque>
 #include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "platform/Wiping.h"
 #include "platform/monitor/MonitorEvents.h"
 #include "platform/x11/keymap/ServerKeymap.h"
 #include "platform/x11/server/XConnection.h"
@@ -24,7 +24,7 @@ class RawKeySource {
 
     const XConnection& connection() const { return m_connection; }
     /// The events read and not yet taken, oldest first.
-    std::deque<MonitorEvent>& events() { return m_events; }
+    WipedQueue<MonitorEvent>& events() { return m_events; }
 
     /// Takes over what has come, without waiting; true if that is anything.
     bool read();
@@ -55,7 +55,7 @@ class RawKeySource {
     std::uint8_t m_keyboardEvent = 0;
     xcb_atom_t m_xtestMark = XCB_ATOM_NONE;
     std::map<std::uint16_t, bool> m_synthetic;
-    std::deque<MonitorEvent> m_events;
+    WipedQueue<MonitorEvent> m_events;
 };
 
 }  // namespace x11

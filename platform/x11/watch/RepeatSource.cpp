@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <iterator>
 
 #include "platform/x11/server/Extensions.h"
 
@@ -129,15 +128,18 @@ void RepeatSource::read() {
         const XReply<xcb_generic_error_t> refused(error);
         m_recording = record != nullptr && record->category != endOfData;
         if (!m_recording || record->category != fromServer) continue;
-        const std::uint8_t* data = xcb_record_enable_context_data(record.get());
-        const int length = xcb_record_enable_context_data_length(record.get());
-        for (const auto* end = data + length;
-             std::distance(data, end) >= static_cast<std::ptrdiff_t>(eventSize); data += eventSize) {
-            xcb_key_press_event_t event{};
-            std::memcpy(&event, data, sizeof event);
-            m_queue.add(event.detail, eventNumber(event.response_type) == XCB_KEY_PRESS, event.time);
-        }
+        const auto length = static_cast<std::size_t>(xcb_record_enable_context_data_length(record.get()));
+        take(xcb_record_enable_context_data(record.get()), length);
     }
+}
+
+void RepeatSource::take(std::uint8_t* data, std::size_t length) {
+    for (std::size_t at = 0; at + eventSize <= length; at += eventSize) {
+        xcb_key_press_event_t event{};
+        std::memcpy(&event, data + at, sizeof event);
+        m_queue.add(event.detail, eventNumber(event.response_type) == XCB_KEY_PRESS, event.time);
+    }
+    wipe(data, length);
 }
 
 void RepeatSource::catchUp() {

@@ -3,12 +3,12 @@
 
 #include <bitset>
 #include <cstdint>
-#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "platform/Wiping.h"
 #include "platform/monitor/MonitorEvents.h"
 #include "platform/x11/server/XConnection.h"
 
@@ -50,7 +50,7 @@ class RepeatQueue {
 
     std::vector<KeyRepeat> takeFirst(std::size_t count);
 
-    std::deque<Entry> m_entries;
+    WipedQueue<Entry> m_entries;
     std::uint64_t m_taken = 0;
     std::bitset<256> m_down;
 };
@@ -90,6 +90,8 @@ class RepeatSource {
 
     Result<void> start();
     void enable();
+    /// Adds the events of a record and wipes it.
+    void take(std::uint8_t* data, std::size_t length);
 
     XConnection m_control;
     XConnection m_data;

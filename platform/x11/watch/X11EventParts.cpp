@@ -72,13 +72,12 @@ void X11EventManager::Parts::dispatch() {
     read();
     if (m_dispatching || m_running) return;
     const FlagScope dispatching(m_dispatching);
-    std::deque<Delivery>& deliveries = m_interpreter.deliveries();
+    WipedQueue<Delivery>& deliveries = m_interpreter.deliveries();
     while (!deliveries.empty()) {
         // A stop may have come since, which takes back a play that has not begun.
         if (std::holds_alternative<HotKeyEvent>(deliveries.front())) read();
         if (deliveries.empty()) break;
-        const Delivery delivery = deliveries.front();
-        deliveries.pop_front();
+        const Delivery delivery = deliveries.takeFront();
         std::visit([this](const auto& event) { deliver(event); }, delivery);
     }
 }
