@@ -18,8 +18,8 @@ void onAnswer(GObject* source, GAsyncResult* result, void* function) {
     const GObjectPointer<GDBusMessage> answer(
         g_dbus_connection_send_message_with_reply_finish(G_DBUS_CONNECTION(source), result, nullptr));
     if (!answer) return;
-    if (g_dbus_message_get_message_type(answer.get()) == G_DBUS_MESSAGE_TYPE_METHOD_RETURN)
-        (*answered)(answer.get());
+    const bool isError = g_dbus_message_get_message_type(answer.get()) != G_DBUS_MESSAGE_TYPE_METHOD_RETURN;
+    (*answered)(isError ? nullptr : answer.get());
 }
 
 void onSignal(GDBusConnection* /*connection*/, const char* sender, const char* /*path*/,

@@ -35,8 +35,8 @@ class BusConnection {
         const char* interface;
         const char* member;
     };
-    /// Calls a method; `answered` gets the answer unless it is an error. The service is started only if asked
-    /// for.
+    /// Calls a method; `answered` gets the answer, null if it is an error, and is not called once the
+    /// connection is given up. The service is started only if asked for.
     void call(const Method& method, GVariant* parameters, bool starts, Answered answered);
 
     /// Hears a signal from now on, whoever sends it from wherever it is null.

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/BusNotifications.h"
 
+#include <algorithm>
 #include <deque>
+#include <optional>
 #include <utility>
 
 #include "platform/linux/BusConnection.h"
@@ -9,6 +11,8 @@
 namespace {
 
 constexpr std::size_t mostWaiting = 16;
+constexpr std::size_t mostUnanswered = 16;
+constexpr std::size_t mostBytes = 8192;
 constexpr const char* service = "org.freedesktop.Notifications";
 constexpr const char* object = "/org/freedesktop/Notifications";
 constexpr BusConnection::Method getCapabilities{service, object, service, "GetCapabilities"};
@@ -19,8 +23,14 @@ struct Message {
     std::string text;
 };
 
-std::string validUtf8(std::string_view text) {
-    const GText valid(g_utf8_make_valid(text.data(), static_cast<gssize>(text.size())));
+/// The bytes that go on a character.
+bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
+/// As much as anybody reads of it, in UTF-8.
+std::string shownText(std::string_view text) {
+    std::size_t end = std::min(text.size(), mostBytes);
+    while (end < text.size() && end > 0 && isContinuation(text[end])) --end;
+    const GText valid(g_utf8_make_valid(text.data(), static_cast<gssize>(end)));
     return valid.get();
 }
 
@@ -57,29 +67,90 @@ bool namesMarkup(GDBusMessage* answer) {
 struct BusNotifications::Parts {
     Parts(BusLoop& loop, const std::string& address)
         : connection(
-              loop, address, [this] { ask(); }, [this] { waiting.clear(); }) {}
+              loop, address, [this] { watchService(); }, [this] { forgetBus(); }) {}
+    ~Parts() { unwatchService(); }
 
     void post(Message message) {
         if (!connection.isOpen() && !connection.isOpening()) return;
         waiting.push_back(std::move(message));
         if (waiting.size() > mostWaiting) waiting.pop_front();
-        if (connection.isOpen()) ask();
+        if (connection.isOpen()) sendOrAsk();
     }
 
-    /// Asked each time, since another service may have come.
-    void ask() {
+    void watchService() {
+        const BusLoop::Context::Scope scope(connection.loop());
+        watch = g_bus_watch_name_on_connection(connection.get(), service, G_BUS_NAME_WATCHER_FLAGS_NONE,
+                                               onAppeared, onVanished, this, nullptr);
+        // The watch tells first who is there.
+        isAsking = true;
+    }
+    void unwatchService() {
+        if (watch != 0) g_bus_unwatch_name(std::exchange(watch, 0));
+    }
+    void forgetBus() {
+        unwatchService();
+        forgetService();
+        waiting.clear();
+    }
+    void forgetService() {
+        hasMarkup.reset();
+        isAsking = false;
+        unanswered = 0;
+        ++serviceNumber;
+    }
+
+    void sendOrAsk() {
         if (waiting.empty()) return;
-        connection.call(getCapabilities, nullptr, true,
-                        [this](GDBusMessage* answer) { sendAll(namesMarkup(answer)); });
+        hasMarkup ? sendAll() : ask();
     }
 
-    void sendAll(bool hasMarkup) {
-        for (const Message& message : std::exchange(waiting, {})) {
-            connection.call(notify, parametersOf(message, hasMarkup), true, [](GDBusMessage* /*answer*/) {});
+    /// Starts the service if there is something for it to do.
+    void ask() {
+        if (std::exchange(isAsking, true)) return;
+        connection.call(getCapabilities, nullptr, !waiting.empty(),
+                        [this, asked = serviceNumber](GDBusMessage* answer) {
+                            if (asked != serviceNumber) return;
+                            isAsking = false;
+                            if (answer == nullptr) return waiting.clear();
+                            hasMarkup = namesMarkup(answer);
+                            sendAll();
+                        });
+    }
+
+    void sendAll() {
+        for (; !waiting.empty() && unanswered < mostUnanswered; waiting.pop_front()) {
+            ++unanswered;
+            connection.call(notify, parametersOf(waiting.front(), *hasMarkup), true,
+                            [this, sent = serviceNumber](GDBusMessage* /*answer*/) {
+                                if (sent != serviceNumber) return;
+                                --unanswered;
+                                sendAll();
+                            });
         }
     }
 
+    static void onAppeared(GDBusConnection* /*connection*/, const char* /*name*/, const char* /*owner*/,
+                           void* self) {
+        auto& parts = *static_cast<Parts*>(self);
+        // What was asked meanwhile, another may answer.
+        parts.forgetService();
+        parts.ask();
+    }
+    static void onVanished(GDBusConnection* /*connection*/, const char* /*name*/, void* self) {
+        auto& parts = *static_cast<Parts*>(self);
+        parts.forgetService();
+        parts.sendOrAsk();
+    }
+
     std::deque<Message> waiting;
+    /// What the service of now does with texts; empty until it has told.
+    std::optional<bool> hasMarkup;
+    bool isAsking = false;
+    /// How many messages were sent to the service of now that it has not answered.
+    std::size_t unanswered = 0;
+    /// Counts the services; answers of earlier ones are of no interest.
+    unsigned serviceNumber = 0;
+    guint watch = 0;
     BusConnection connection;
 };
 
@@ -88,5 +159,5 @@ BusNotifications::BusNotifications(BusLoop& loop, const std::string& sessionBus)
 BusNotifications::~BusNotifications() = default;
 
 void BusNotifications::post(std::string_view title, std::string_view text) {
-    m_parts->post({validUtf8(title), validUtf8(text)});
+    m_parts->post({shownText(title), shownText(text)});
 }

@@ -21,6 +21,7 @@ LoginSessionLock::LoginSessionLock(BusLoop& loop, const std::string& systemBus, 
 void LoginSessionLock::findSession() {
     m_connection.call(getSession, g_variant_new("(s)", m_session.c_str()), false,
                       [this](GDBusMessage* answer) {
+                          if (answer == nullptr) return;
                           GVariant* body = g_dbus_message_get_body(answer);
                           if (body == nullptr || g_variant_is_of_type(body, G_VARIANT_TYPE("(o)")) == FALSE)
                               return;
@@ -45,6 +46,7 @@ void LoginSessionLock::watch(const std::string& path) {
     m_connection.call(
         {service, path.c_str(), propertiesInterface, "GetAll"}, g_variant_new("(s)", sessionInterface), false,
         [this](GDBusMessage* answer) {
+            if (answer == nullptr) return;
             GVariant* body = g_dbus_message_get_body(answer);
             if (body == nullptr || g_variant_is_of_type(body, G_VARIANT_TYPE("(a{sv})")) == FALSE) return;
             const GVariantPointer all(g_variant_get_child_value(body, 0));

@@ -44,7 +44,7 @@ void ScreenSaverWatch::listen() {
             [this](const char* sender, GVariant* parameters) { setActive(sender, isTrue(parameters)); });
         m_connection.call({saver.name, saver.path, saver.name, "GetActive"}, nullptr, false,
                           [this](GDBusMessage* answer) {
-                              if (!isTrue(g_dbus_message_get_body(answer))) return;
+                              if (answer == nullptr || !isTrue(g_dbus_message_get_body(answer))) return;
                               setActive(g_dbus_message_get_sender(answer), true);
                           });
     }

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <fstream>
 
 #include "linux/desktop/BusLoopTest.h"
 #include "platform/linux/BusNotifications.h"
@@ -16,6 +20,18 @@ class NotificationsTest : public testing::Test {
   protected:
     bool isHeard(const StandIn& service, const std::string& line) {
         return turnUntil(loop, [&] { return service.heard().find(line) != std::string::npos; });
+    }
+
+    /// Turns the loop until there is nothing to do; false if there always is.
+    bool isQuiet() {
+        return eventually([this] {
+            pollfd readable{.fd = loop.fileDescriptor(), .events = POLLIN, .revents = 0};
+            // Connections are made by another thread, in less than that if there is nobody.
+            constexpr int patience = 100;
+            if (poll(&readable, 1, patience) == 0) return true;
+            loop.dispatch();
+            return false;
+        });
     }
 
     /// Whether another program finds the bus.
@@ -68,12 +84,87 @@ TEST_F(NotificationsTest, areDroppedWhereThereIsNoServiceAndShownOnceItCame) {
     EXPECT_TRUE(isHeard(service, lineFor("shown", ""))) << service.heard();
 }
 
+/// Residing in memory, in bytes.
+std::size_t memoryInUse() {
+    std::size_t size = 0;
+    std::size_t resident = 0;
+    std::ifstream("/proc/self/statm") >> size >> resident;
+    return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+}
+
+TEST_F(NotificationsTest, areBoundedHoweverManyComeBeforeTheLoopTurns) {
+    const StandIn service(bus, {"notifications"});
+    BusNotifications notifications(loop, bus.address());
+    notifications.post("first", "");
+    ASSERT_TRUE(isHeard(service, lineFor("first", "")));
+    const std::size_t before = memoryInUse();
+    for (int number = 0; number < 100000; ++number) notifications.post("many", std::to_string(number));
+    EXPECT_LT(memoryInUse(), before + 2 * 1024 * 1024);
+    notifications.post("last", "");
+    EXPECT_TRUE(isHeard(service, lineFor("last", ""))) << service.heard();
+    EXPECT_EQ(service.count("capabilities"), 1U);
+    EXPECT_LE(service.count("message"), 1U + 16U + 16U);
+}
+
+TEST_F(NotificationsTest, areShownWithoutATurnOfTheLoopOnceTheServiceIsKnown) {
+    const StandIn service(bus, {"notifications"});
+    BusNotifications notifications(loop, bus.address());
+    notifications.post("first", "");
+    ASSERT_TRUE(isHeard(service, lineFor("first", "")));
+    notifications.post("while a macro plays", "");
+    EXPECT_TRUE(eventually([&] { return service.count("while a macro plays") == 1; })) << service.heard();
+}
+
+TEST_F(NotificationsTest, areShownAgainAfterTheServiceHasRefusedMany) {
+    const StandIn service(bus, {"notifications", "refuses"});
+    BusNotifications notifications(loop, bus.address());
+    for (int number = 0; number < 100; ++number) {
+        const std::string title = "number " + std::to_string(number);
+        notifications.post(title, "");
+        ASSERT_TRUE(isHeard(service, lineFor(title, ""))) << number;
+    }
+}
+
+TEST_F(NotificationsTest, knowTheServiceThatCameInTheOthersPlace) {
+    BusNotifications notifications(loop, bus.address());
+    {
+        const StandIn service(bus, {"plain"});
+        notifications.post("t", "<b>");
+        ASSERT_TRUE(isHeard(service, lineFor("t", "<b>"))) << service.heard();
+    }
+    const StandIn service(bus, {"notifications"});
+    // Told by the bus, which the loop hears in its own time; until then a message may be lost or be plain.
+    EXPECT_TRUE(turnUntil(loop, [&] {
+        notifications.post("t", "<b>");
+        return service.heard().find(lineFor("t", "&lt;b&gt;")) != std::string::npos;
+    })) << service.heard();
+}
+
+TEST_F(NotificationsTest, areCutOffWhereNobodyReadsOn) {
+    const StandIn service(bus, {"plain"});
+    BusNotifications notifications(loop, bus.address());
+    std::string text = "a";
+    while (text.size() < 10000) text += "\u00e9";
+    notifications.post("t", text);
+    // Not within a character.
+    EXPECT_TRUE(isHeard(service, lineFor("t", text.substr(0, 8191)))) << service.heard();
+}
+
 TEST_F(NotificationsTest, areNothingWithoutABus) {
+    const StandIn service(bus, {"plain"});
+    // The bus that others of this process would take.
+    setenv("DBUS_SESSION_BUS_ADDRESS", bus.address().c_str(), 1);
     for (const std::string address : {"", "unix:path=/nowhere/bus", "nonsense"}) {
         BusNotifications notifications(loop, address);
-        notifications.post("title", "text");
-        loop.dispatch();
+        notifications.post("nobody's", address);
+        EXPECT_TRUE(isQuiet()) << address;
+        notifications.post("nobody's", "later");
+        EXPECT_TRUE(isQuiet()) << address;
     }
+    BusNotifications notifications(loop, bus.address());
+    notifications.post("shown", "");
+    EXPECT_TRUE(isHeard(service, lineFor("shown", "")));
+    EXPECT_EQ(service.count("nobody's"), 0U) << service.heard();
 }
 
 TEST_F(NotificationsTest, outliveTheBus) {

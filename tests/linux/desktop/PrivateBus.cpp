@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 namespace {
@@ -39,3 +40,10 @@ StandIn::StandIn(const PrivateBus& bus, const std::vector<std::string>& services
 }
 
 void StandIn::obey(const std::string& command) const { std::ofstream(m_pipe) << command << std::endl; }
+
+std::size_t StandIn::count(const std::string& text) const {
+    std::istringstream lines(heard());
+    std::size_t count = 0;
+    for (std::string line; std::getline(lines, line);) count += line.find(text) != std::string::npos ? 1 : 0;
+    return count;
+}

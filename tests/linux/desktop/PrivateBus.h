@@ -31,6 +31,8 @@ class StandIn {
     void obey(const std::string& command) const;
     /// The lines that it has printed about what it was told.
     std::string heard() const { return contentOf(m_log); }
+    /// How many of them have that text in them.
+    std::size_t count(const std::string& text) const;
 
   private:
     TemporaryFolder m_folder;

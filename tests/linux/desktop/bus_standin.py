@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """bus_standin.py ADDRESS COMMANDS SERVICE...: stands in for services on the message bus at ADDRESS: "login" is the
 login manager with one session, "saver" a screen saver, "notifications" the notification service, "plain" the same
-without markup. Prints "ready", then what it was told; obeys the lines that are written to the named pipe COMMANDS:
+without markup, "refuses" beside either one that has had too many. Prints "ready", then what it was told; obeys the lines that are written to the named pipe COMMANDS:
 "lock", "unlock", "hint 0|1", "active 0|1", "end"."""
 import sys
 import threading
@@ -34,7 +34,7 @@ XML = """<node>
 </node>"""
 INTERFACES = {info.name: info for info in Gio.DBusNodeInfo.new_for_xml(XML).interfaces}
 SESSION = "/org/freedesktop/login1/session/_31"
-state = {"hint": False, "active": False, "capabilities": ["body", "body-markup"]}
+state = {"refuses": False, "hint": False, "active": False, "capabilities": ["body", "body-markup"]}
 
 
 def on_call(connection, sender, path, interface, method, parameters, invocation):
@@ -44,10 +44,14 @@ def on_call(connection, sender, path, interface, method, parameters, invocation)
     elif method == "GetActive":
         invocation.return_value(GLib.Variant("(b)", (state["active"],)))
     elif method == "GetCapabilities":
+        print("capabilities", flush=True)
         invocation.return_value(GLib.Variant("(as)", (state["capabilities"],)))
     else:
         program, replaces, icon, title, text, actions, hints, timeout = parameters
         print("message", [program, replaces, icon, title, text, actions, hints, timeout], flush=True)
+        if state["refuses"]:
+            invocation.return_dbus_error("org.freedesktop.Notifications.Error.ExcessNotificationGeneration", "Too many")
+            return
         invocation.return_value(GLib.Variant("(u)", (1,)))
 
 
@@ -73,6 +77,8 @@ def serve(connection, service):
     elif service == "saver":
         put(connection, "/org/freedesktop/ScreenSaver", "org.freedesktop.ScreenSaver")
         own(connection, "org.freedesktop.ScreenSaver")
+    elif service == "refuses":
+        state["refuses"] = True
     else:
         if service == "plain":
             state["capabilities"] = ["body"]
