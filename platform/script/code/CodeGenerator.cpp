@@ -22,6 +22,8 @@ Bytecode CodeGenerator::generate() {
         if (node.kind == NodeKind::handler && !isRun(node)) handler(node);
     }
     resolveCalls();
+    m_names.warn();
+    m_out.finishWarnings();
     code.globals = m_out.script().names();
     return std::move(code);
 }
@@ -109,7 +111,9 @@ void CodeGenerator::runPart() {
         const Node& node = m_tree.at(id);
         if (node.kind != NodeKind::property) continue;
         m_statements.expressions().expression(node.firstChild);
-        m_out.emit(Operation::storeGlobal, node, m_out.script().slotOf(node.value));
+        const std::uint32_t slot = m_out.script().slotOf(node.value);
+        m_out.script().use(slot).isSet = true;
+        m_out.emit(Operation::storeGlobal, node, slot);
     }
     if (m_run != nullptr) {
         NodeId body = m_run->firstChild;
@@ -121,11 +125,22 @@ void CodeGenerator::runPart() {
         m_statements.statements(m_tree.at(body).firstChild);
     } else {
         for (NodeId id = root.firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
-            const NodeKind kind = m_tree.at(id).kind;
-            if (kind != NodeKind::property && kind != NodeKind::handler) m_statements.statement(id);
+            const Node& node = m_tree.at(id);
+            const NodeKind kind = node.kind;
+            if (kind == NodeKind::property || kind == NodeKind::handler) continue;
+            m_statements.statement(id, isFollowed(node));
         }
     }
     finish(Handler{}, scope, 0);
+}
+
+/// By another statement outside of handlers.
+bool CodeGenerator::isFollowed(const Node& statement) const {
+    for (NodeId id = statement.nextSibling; id != noNode; id = m_tree.at(id).nextSibling) {
+        const NodeKind kind = m_tree.at(id).kind;
+        if (kind != NodeKind::property && kind != NodeKind::handler) return true;
+    }
+    return false;
 }
 
 void CodeGenerator::handler(const Node& node) {
@@ -203,6 +218,7 @@ void CodeGenerator::failTwice(NameId parameter, std::uint32_t offset) {
 void CodeGenerator::finish(Handler handler, const Scope& scope, std::uint32_t enter) {
     const Node& root = m_tree.at(0);
     m_out.emit(Operation::returnValue, root, 0, 1);
+    m_names.lookAt(scope);
     m_out.code().instructions[enter].operand = static_cast<std::uint32_t>(scope.variables().size());
     handler.variables = scope.variables();
     m_out.code().handlers.push_back(std::move(handler));

@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "platform/script/code/Emitter.h"
+#include "platform/script/code/NameCheck.h"
 #include "platform/script/code/StatementGenerator.h"
 
 namespace script {
@@ -37,12 +38,14 @@ class CodeGenerator {
     void resolveCalls();
     void finish(Handler handler, const Scope& scope, std::uint32_t enter);
     bool isRun(const Node& node) const;
+    bool isFollowed(const Node& statement) const;
 
     const Tree& m_tree;
     Emitter m_out;
     StatementGenerator m_statements;
     std::unordered_map<NameId, std::uint32_t> m_properties;
     std::unordered_map<NameId, std::uint32_t> m_handlers;
+    NameCheck m_names{m_out, m_handlers};
     /// Declared global in handlers, and so in what runs.
     std::vector<NameId> m_sharedWithRun;
     const Node* m_run = nullptr;

@@ -7,8 +7,18 @@
 #include "platform/script/code/ExpressionGenerator.h"
 #include "platform/script/commands/Advice.h"
 #include "platform/script/commands/Command.h"
+#include "platform/script/source/Literal.h"
+#include "platform/script/values/BinaryOperator.h"
 
 namespace script {
+namespace {
+
+NameRole roleOf(Command::Plays plays) {
+    if (plays == Command::Plays::codes) return NameRole::keyCode;
+    return plays == Command::Plays::texts ? NameRole::text : NameRole::value;
+}
+
+}  // namespace
 
 void CommandGenerator::command(const Node& node) {
     const Command& command = *commands()[node.value];
@@ -21,9 +31,10 @@ void CommandGenerator::command(const Node& node) {
 
 void CommandGenerator::direct(NodeId value, const Command& command) {
     const std::uint32_t start = m_out.position();
-    m_expressions.expression(value);
+    m_expressions.expressionAs(roleOf(command.plays), value);
     if (command.plays == Command::Plays::texts || command.plays == Command::Plays::keys) planTexts(start);
     if (command.plays == Command::Plays::codes || command.plays == Command::Plays::keys) warnOfCodes(value);
+    if (command.plays == Command::Plays::codes) warnOfTexts(value);
 }
 
 /// In the order of the table; the mask of those given, from bit 1 on.
@@ -53,10 +64,19 @@ void CommandGenerator::planTexts(std::uint32_t from) {
     }
 }
 
+bool CommandGenerator::joinsModifiers(const Node& node) const {
+    const auto operation = static_cast<BinaryOperator>(node.detail);
+    const NodeKind left = m_tree.at(node.firstChild).kind;
+    const bool isModifier = left == NodeKind::modifierDown || left == NodeKind::modifierKey;
+    return isModifier && (operation == BinaryOperator::plus || operation == BinaryOperator::both);
+}
+
 void CommandGenerator::warnOfCodes(NodeId codes) {
     const Node& node = m_tree.at(codes);
-    if (node.kind == NodeKind::integer) {
-        if (auto advice = codeAdvice(node.value); !advice.empty()) m_out.warn(node, std::move(advice));
+    const Node& inner = node.kind == NodeKind::negation ? m_tree.at(node.firstChild) : node;
+    if (inner.kind == NodeKind::integer) {
+        const std::int64_t code = node.kind == NodeKind::negation ? -std::int64_t{inner.value} : inner.value;
+        if (auto advice = codeAdvice(code); !advice.empty()) m_out.warn(node.offset, std::move(advice));
     } else if (node.kind == NodeKind::list) {
         for (NodeId item = node.firstChild; item != noNode; item = m_tree.at(item).nextSibling) {
             warnOfCodes(item);
@@ -64,10 +84,29 @@ void CommandGenerator::warnOfCodes(NodeId codes) {
     }
 }
 
+/// What is no number: a text, `true`, a modifier.
+void CommandGenerator::warnOfTexts(NodeId codes) {
+    const Node& node = m_tree.at(codes);
+    if (node.kind == NodeKind::list) {
+        for (NodeId item = node.firstChild; item != noNode; item = m_tree.at(item).nextSibling) {
+            warnOfTexts(item);
+        }
+    }
+    const bool isText = node.kind == NodeKind::text && !numberInText(m_tree.texts[node.value]);
+    const bool isOther = node.kind == NodeKind::truth || node.kind == NodeKind::modifierDown ||
+                         node.kind == NodeKind::modifierKey || node.kind == NodeKind::record;
+    if (isText || isOther) m_out.warn(node.offset, noCodeAdvice());
+}
+
 void CommandGenerator::warnOfModifiers(NodeId modifiers) {
     const Node& node = m_tree.at(modifiers);
     if (node.kind == NodeKind::modifierKey) {
-        m_out.warn(node, modifierAdvice({node.value, false}));
+        m_out.warn(node.offset, modifierAdvice({node.value, false}));
+    } else if (node.kind == NodeKind::text) {
+        const std::string advice = quotedModifierAdvice(m_tree.texts[node.value]);
+        if (!advice.empty()) m_out.warn(node.offset, advice);
+    } else if (node.kind == NodeKind::binary && joinsModifiers(node)) {
+        m_out.warn(node.offset, joinedModifiersAdvice());
     } else if (node.kind == NodeKind::list) {
         for (NodeId item = node.firstChild; item != noNode; item = m_tree.at(item).nextSibling) {
             warnOfModifiers(item);

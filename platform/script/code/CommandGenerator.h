@@ -23,6 +23,8 @@ class CommandGenerator {
     void direct(NodeId value, const Command& command);
     std::uint32_t parameters(NodeId first, const Command& command);
     void planTexts(std::uint32_t from);
+    bool joinsModifiers(const Node& node) const;
+    void warnOfTexts(NodeId codes);
     void warnOfCodes(NodeId codes);
     void warnOfModifiers(NodeId modifiers);
 

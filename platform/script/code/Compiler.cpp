@@ -28,11 +28,7 @@ Result<Program, ScriptError> compile(std::string source) {
     if (auto readable = checkReadable(source); !readable) return std::move(readable).error();
     Parser parser(source);
     Tree& tree = parser.parse();
-    if (parser.error()) {
-        ScriptError error = *parser.error();
-        error.hint = syntaxHint(error, tree, source);
-        return error;
-    }
+    if (parser.error()) return explained(*parser.error(), tree, source, parser.failedInsideTell());
     CodeGenerator generator(tree, source);
     Bytecode code = generator.generate();
     if (generator.error()) return *generator.error();

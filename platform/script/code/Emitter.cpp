@@ -1,13 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/code/Emitter.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace script {
 
-void Emitter::warn(const Node& node, std::string message) {
-    if (m_code.warnings.size() >= maxWarnings) return;
-    m_code.warnings.push_back({std::move(message), m_locator.at(node.offset)});
+void Emitter::warn(std::uint32_t offset, std::string message) {
+    if (m_warnings.size() < maxWarnings) m_warnings.push_back({offset, std::move(message)});
+}
+
+void Emitter::finishWarnings() {
+    std::stable_sort(m_warnings.begin(), m_warnings.end(),
+                     [](const Warning& one, const Warning& other) { return one.offset < other.offset; });
+    Locator locator(m_source);
+    for (Warning& warning : m_warnings) {
+        m_code.warnings.push_back({std::move(warning.message), locator.at(warning.offset)});
+    }
 }
 
 void Emitter::fail(int number, std::string message, std::uint32_t offset) {

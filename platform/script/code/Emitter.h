@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/script/code/Bytecode.h"
 #include "platform/script/code/Scope.h"
@@ -20,7 +21,7 @@ class Emitter {
     /// More warnings are left out: nobody reads them.
     static constexpr std::size_t maxWarnings = 1000;
 
-    Emitter(const Tree& tree, std::string_view source) : m_tree(tree), m_locator(source), m_source(source) {}
+    Emitter(const Tree& tree, std::string_view source) : m_tree(tree), m_source(source) {}
 
     const Tree& tree() const { return m_tree; }
     Bytecode& code() { return m_code; }
@@ -40,19 +41,25 @@ class Emitter {
     /// Makes the jump lead here.
     void land(std::uint32_t jump) { m_code.instructions[jump].operand = position(); }
 
-    void warn(const Node& node, std::string message);
+    void warn(std::uint32_t offset, std::string message);
+    /// Puts the warnings into the code, in the order of the source. Called once.
+    void finishWarnings();
     /// Only the first one counts.
     void fail(int number, std::string message, std::uint32_t offset);
     const std::optional<ScriptError>& error() const { return m_error; }
 
   private:
     const Tree& m_tree;
-    Locator m_locator;
     std::string_view m_source;
     Bytecode m_code;
     ScriptVariables m_script;
     Scope* m_scope = nullptr;
     std::optional<ScriptError> m_error;
+    struct Warning {
+        std::uint32_t offset = 0;
+        std::string message;
+    };
+    std::vector<Warning> m_warnings;
 };
 
 }  // namespace script

@@ -43,6 +43,14 @@ void ExpressionGenerator::expression(NodeId id) {
     requireValue(m_tree.at(id));
 }
 
+void ExpressionGenerator::expressionAs(NameRole role, NodeId id) {
+    const Node& node = m_tree.at(id);
+    const bool isNamed = node.kind == NodeKind::application || node.kind == NodeKind::process;
+    m_role = role;
+    m_roleOffset = isNamed && node.firstChild != noNode ? m_tree.at(node.firstChild).offset : node.offset;
+    expression(id);
+}
+
 void ExpressionGenerator::requireValue(const Node& node) {
     const bool mayBeNothing =
         node.kind == NodeKind::call || node.kind == NodeKind::callTo || node.kind == NodeKind::command;
@@ -173,6 +181,8 @@ bool ExpressionGenerator::target(const Node& node) {
 
 void ExpressionGenerator::load(NameId name, const Node& node) {
     const Place place = m_out.scope().placeOf(name);
+    const NameRole role = node.offset == m_roleOffset ? m_role : NameRole::value;
+    m_out.scope().noteRead(place, node.offset, role);
     m_out.emit(place.isGlobal ? Operation::loadGlobal : Operation::loadLocal, node, place.slot);
 }
 
@@ -282,6 +292,7 @@ void ExpressionGenerator::assign(NodeId target, const Node& statement) {
             return assignElement(node, statement);
         case NodeKind::propertyOf:
             expression(node.firstChild);
+            m_out.script().setProperty(node.value);
             return m_out.emit(Operation::setProperty, statement, node.value);
         case NodeKind::contentsOf:
             expression(node.firstChild);
@@ -295,6 +306,7 @@ void ExpressionGenerator::assign(NodeId target, const Node& statement) {
 
 void ExpressionGenerator::assignName(NameId name, const Node& node) {
     const Place place = m_out.scope().placeOf(name);
+    m_out.scope().noteSet(place);
     m_out.emit(place.isGlobal ? Operation::storeGlobal : Operation::storeLocal, node, place.slot);
 }
 

@@ -24,6 +24,8 @@ class ExpressionGenerator {
     void assign(NodeId target, const Node& statement);
     void assignName(NameId name, const Node& node);
     void load(NameId name, const Node& node);
+    /// The same as expression(); a name that stands there alone is meant as that.
+    void expressionAs(NameRole role, NodeId id);
 
   private:
     NodeId firstPart(const Node& node) const;
@@ -50,6 +52,9 @@ class ExpressionGenerator {
     const Tree& m_tree;
     /// The nodes whose first parts are being worked on, the innermost last.
     std::vector<NodeId> m_begun;
+    /// What the name at an offset is meant as.
+    NameRole m_role = NameRole::value;
+    std::uint32_t m_roleOffset = 0xFFFFFFFF;
 };
 
 }  // namespace script

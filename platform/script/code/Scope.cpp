@@ -5,12 +5,16 @@ namespace script {
 
 std::uint32_t ScriptVariables::slotOf(NameId name) {
     const auto [place, isNew] = m_slots.emplace(name, static_cast<std::uint32_t>(m_names.size()));
-    if (isNew) m_names.push_back(name);
+    if (isNew) {
+        m_names.push_back(name);
+        m_uses.emplace_back();
+    }
     return place->second;
 }
 
 std::uint32_t Scope::addHidden() {
     m_variables.push_back(0);
+    m_uses.emplace_back();
     return static_cast<std::uint32_t>(m_variables.size() - 1);
 }
 
@@ -40,8 +44,19 @@ bool Scope::knows(NameId name) const {
 
 std::uint32_t Scope::ownSlot(NameId name) {
     const auto [place, isNew] = m_own.emplace(name, static_cast<std::uint32_t>(m_variables.size()));
-    if (isNew) m_variables.push_back(name);
+    if (isNew) {
+        m_variables.push_back(name);
+        m_uses.emplace_back();
+    }
     return place->second;
+}
+
+void Scope::noteRead(Place place, std::uint32_t offset, NameRole role) {
+    VariableUse& use = useOf(place);
+    if (use.isRead) return;
+    use.isRead = true;
+    use.offset = offset;
+    use.role = role;
 }
 
 }  // namespace script

@@ -7,9 +7,18 @@
 #include <unordered_set>
 #include <vector>
 
+#include "platform/script/commands/Advice.h"
 #include "platform/script/source/Name.h"
 
 namespace script {
+
+/// What is to be said of a variable that the script reads.
+struct VariableUse {
+    bool isSet = false;
+    bool isRead = false;
+    NameRole role = NameRole::value;  ///< what its value is taken for
+    std::uint32_t offset = 0;         ///< where it is read first, in bytes
+};
 
 /// The variables that the whole script shares: properties, and what is declared global.
 class ScriptVariables {
@@ -20,11 +29,18 @@ class ScriptVariables {
     void makeVisible(NameId name) { m_visible.insert(name); }
     bool isVisible(NameId name) const { return m_visible.contains(name); }
     const std::vector<NameId>& names() const { return m_names; }
+    /// Of the variable in a slot.
+    VariableUse& use(std::uint32_t slot) { return m_uses[slot]; }
+    /// Set by its name, as a property of the script.
+    void setProperty(NameId name) { m_setProperties.insert(name); }
+    bool isSetProperty(NameId name) const { return m_setProperties.contains(name); }
 
   private:
     std::unordered_map<NameId, std::uint32_t> m_slots;
     std::unordered_set<NameId> m_visible;
+    std::unordered_set<NameId> m_setProperties;
     std::vector<NameId> m_names;
+    std::vector<VariableUse> m_uses;
 };
 
 /// Where a variable lives.
@@ -42,7 +58,7 @@ class Scope {
     explicit Scope(ScriptVariables& script) : m_script(script) {}
 
     /// A parameter; its slots come first, in order.
-    void addParameter(NameId name) { ownSlot(name); }
+    void addParameter(NameId name) { m_uses[ownSlot(name)].isSet = true; }
     /// A slot without a name.
     std::uint32_t addHidden();
     /// False if the name has been declared the other way.
@@ -54,15 +70,23 @@ class Scope {
     /// Whether there is such a variable so far.
     bool knows(NameId name) const;
     const std::vector<NameId>& variables() const { return m_variables; }
+    const std::vector<VariableUse>& uses() const { return m_uses; }
+
+    /// The variable is set somewhere.
+    void noteSet(Place place) { useOf(place).isSet = true; }
+    /// It is read there.
+    void noteRead(Place place, std::uint32_t offset, NameRole role);
 
   private:
     std::uint32_t ownSlot(NameId name);
+    VariableUse& useOf(Place place) { return place.isGlobal ? m_script.use(place.slot) : m_uses[place.slot]; }
 
     ScriptVariables& m_script;
     std::unordered_map<NameId, std::uint32_t> m_own;
     std::unordered_set<NameId> m_globals;
     std::unordered_set<NameId> m_declaredLocal;
     std::vector<NameId> m_variables;
+    std::vector<VariableUse> m_uses;
 };
 
 }  // namespace script

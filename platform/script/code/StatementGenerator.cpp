@@ -48,7 +48,17 @@ class StatementGenerator::UndoneScope {
 };
 
 void StatementGenerator::statements(NodeId first) {
-    for (NodeId id = first; id != noNode; id = m_tree.at(id).nextSibling) statement(id);
+    const bool isFollowed = m_isFollowed;
+    for (NodeId id = first; id != noNode; id = m_tree.at(id).nextSibling) {
+        m_isFollowed = isFollowed || m_tree.at(id).nextSibling != noNode;
+        statement(id);
+    }
+    m_isFollowed = isFollowed;
+}
+
+void StatementGenerator::statement(NodeId id, bool isFollowed) {
+    const Scoped<bool> followed(m_isFollowed, isFollowed);
+    statement(id);
 }
 
 void StatementGenerator::statement(NodeId id) {
@@ -94,7 +104,7 @@ void StatementGenerator::statement(NodeId id) {
 }
 
 void StatementGenerator::tell(const Node& node) {
-    m_expressions.expression(node.firstChild);
+    m_expressions.expressionAs(NameRole::application, node.firstChild);
     m_out.emit(Operation::pushTarget, m_tree.at(node.firstChild));
     const UndoneScope target(*this, node, Operation::popTarget);
     block(m_tree.at(node.firstChild).nextSibling);
@@ -119,6 +129,7 @@ void StatementGenerator::ifThen(const Node& node) {
 
 /// The body and the jump back to its start.
 void StatementGenerator::loop(const Node& node, NodeId body, std::uint32_t start) {
+    const Scoped<bool> followed(m_isFollowed, true);
     block(body);
     m_out.emit(Operation::jump, node, start);
 }
@@ -295,8 +306,20 @@ void StatementGenerator::set(const Node& node) {
 }
 
 void StatementGenerator::evaluate(const Node& node) {
+    if (m_isFollowed) warnOfComparison(m_tree.at(node.firstChild));
     m_expressions.statementValue(node.firstChild);
     m_out.emit(Operation::setResult, node);
+}
+
+/// `x = 5`, where something else may have been meant.
+void StatementGenerator::warnOfComparison(const Node& node) {
+    const bool compares =
+        node.kind == NodeKind::binary && static_cast<BinaryOperator>(node.detail) == BinaryOperator::equal;
+    if (!compares) return;
+    const Node& left = m_tree.at(node.firstChild);
+    const bool isName = left.kind == NodeKind::name;
+    if (!isName && left.kind != NodeKind::element && left.kind != NodeKind::propertyOf) return;
+    m_out.warn(left.offset, comparisonAdvice(isName ? m_tree.names.at(left.value).spelling : ""));
 }
 
 void StatementGenerator::declare(const Node& node) {

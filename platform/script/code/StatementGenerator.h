@@ -14,10 +14,13 @@ class StatementGenerator {
     explicit StatementGenerator(Emitter& out) : m_out(out), m_tree(out.tree()), m_expressions(out) {}
 
     void statements(NodeId first);
-    void statement(NodeId id);
+    /// Whether something runs behind it, so that its value is nobody's.
+    void statement(NodeId id, bool isFollowed);
     ExpressionGenerator& expressions() { return m_expressions; }
 
   private:
+    void statement(NodeId id);
+    void warnOfComparison(const Node& node);
     void tell(const Node& node);
     void ifThen(const Node& node);
     void block(NodeId id) { statements(m_tree.at(id).firstChild); }
@@ -54,6 +57,7 @@ class StatementGenerator {
     /// the first so many.
     std::vector<Operation> m_undone;
     std::size_t m_undoneOutsideLoop = 0;
+    bool m_isFollowed = false;
 };
 
 }  // namespace script

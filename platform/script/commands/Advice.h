@@ -2,20 +2,48 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/script/values/Value.h"
 
-/// The words of warnings, which the compiler and the run share.
+/// The words of warnings and hints, which the compiler and the run share.
 namespace script {
 
-/// What there is to say about a key code: only this program plays it, or no key has it. Empty for all others.
-std::string codeAdvice(std::uint32_t code);
+/// What there is to say about a key code: only this program plays it, no key has it, or none can. Empty for
+/// all others.
+std::string codeAdvice(std::int64_t code);
 
 /// "Key code N has no key; nothing is pressed."
 std::string noKeyAdvice(std::uint32_t code);
 
+/// Of a text, or what else is no number, in the place of a key code.
+std::string noCodeAdvice();
+
 /// Of a key's name in the place of a modifier that is down.
 std::string modifierAdvice(const Modifier& modifier);
+
+/// Of a text in the place of a modifier; empty where it names none.
+std::string quotedModifierAdvice(std::string_view text);
+
+/// Of modifiers that are calculated with.
+std::string joinedModifiersAdvice();
+
+/// Of texts with a plus between them.
+std::string joinedTextsAdvice();
+
+/// Of a comparison whose answer nobody takes. The name is empty where none is compared.
+std::string comparisonAdvice(std::string_view name);
+
+/// "The variable NAME is never set. "
+std::string neverSet(std::string_view name);
+
+/// What a name was meant to be that is never set, where a value of that role belongs.
+enum class NameRole : std::uint8_t { value, text, keyCode, application };
+std::string meantBy(std::string_view name, NameRole role);
+
+/// Of a variable without a value, where a script reads it.
+std::string undefinedHint(std::string_view name);
 
 }  // namespace script

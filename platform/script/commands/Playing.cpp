@@ -53,7 +53,11 @@ Fallible<std::uint32_t> modifierMask(CommandStage& stage, const Value* given) {
         Fallible<Value> value = resolved(item);
         if (!value) return std::move(value).error();
         const auto* constant = value.value().as<Modifier>();
-        if (constant == nullptr) return cannotMake(value.value(), "modifier");
+        if (constant == nullptr) {
+            Failure failure = cannotMake(value.value(), "modifier");
+            if (const std::string* text = value.value().text()) failure.hint = quotedModifierAdvice(*text);
+            return failure;
+        }
         if (!constant->down) stage.warn(modifierAdvice(*constant));
         mask |= constant->modifier;
     }
@@ -62,8 +66,11 @@ Fallible<std::uint32_t> modifierMask(CommandStage& stage, const Value* given) {
 
 Fallible<std::uint32_t> keyCodeOf(const Value& value) {
     const std::optional<std::int32_t> code = integerOf(value);
-    if (!code) return cannotMake(value, "integer");
-    if (*code < 0 || *code > maxKeyCode) return cannotMake(value, "key code");
+    if (!code || *code < 0 || *code > maxKeyCode) {
+        Failure failure = cannotMake(value, code ? "key code" : "integer");
+        failure.hint = code ? codeAdvice(*code) : noCodeAdvice();
+        return failure;
+    }
     if (isPower(static_cast<std::uint32_t>(*code))) {
         return Failure{errornumber::handlerFailed,
                        "System Events got an error: the power key is never pressed by a script."};

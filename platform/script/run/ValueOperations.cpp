@@ -3,6 +3,7 @@
 // Operations that make values and calculate with them.
 #include <unordered_map>
 
+#include "platform/script/commands/Advice.h"
 #include "platform/script/run/Execution.h"
 #include "platform/script/run/OperationTable.h"
 #include "platform/script/source/SystemEvents.h"
@@ -32,7 +33,8 @@ void pushIt(Execution& run, const Instruction& /*unused*/) { run.push(run.target
 void pushDelimiters(Execution& run, const Instruction& /*unused*/) { run.push(run.delimiters()); }
 
 void failUndefined(Execution& run, const std::string& name) {
-    run.fail({errornumber::undefinedVariable, "The variable " + name + " is not defined."});
+    const std::string hint = name == "result" ? "" : undefinedHint(name);
+    run.fail({errornumber::undefinedVariable, "The variable " + name + " is not defined.", hint});
 }
 
 void pushResult(Execution& run, const Instruction& /*unused*/) {
@@ -228,6 +230,14 @@ Fallible<Value> evaluated(BinaryOperator operation, const Value& left, const Val
     }
 }
 
+/// What may have been meant by a plus.
+Failure advised(Failure failure, BinaryOperator operation, const Value& left) {
+    if (operation != BinaryOperator::plus || failure.number != errornumber::cannotCoerce) return failure;
+    if (left.text() != nullptr) failure.hint = joinedTextsAdvice();
+    if (left.is<Modifier>()) failure.hint = joinedModifiersAdvice();
+    return failure;
+}
+
 void binary(Execution& run, const Instruction& here) {
     const auto operation = static_cast<BinaryOperator>(here.detail);
     // References are compared as what they are.
@@ -235,7 +245,7 @@ void binary(Execution& run, const Instruction& here) {
     Fallible<Value> outcome = evaluated(operation, run.top(1), run.top(), run.textRules());
     run.workOn(run.top(1));
     run.workOn(run.top());
-    if (!outcome) return run.fail(std::move(outcome).error());
+    if (!outcome) return run.fail(advised(std::move(outcome).error(), operation, run.top(1)));
     run.drop();
     run.top() = std::move(outcome).value();
 }

@@ -30,6 +30,16 @@ bool Locator::isPair(std::size_t position) const {
     return position + 1 < m_source.size() && m_source[position + 1] == '\n';
 }
 
+std::size_t offsetOf(std::string_view source, const Location& place) {
+    const std::string_view line = lineOf(source, place.line);
+    std::size_t length = 0;
+    for (std::uint32_t column = 1; column < place.column && length < line.size(); ++column) {
+        do ++length;
+        while (length < line.size() && isUtf8Continuation(line[length]));
+    }
+    return static_cast<std::size_t>(line.data() - source.data()) + length;
+}
+
 std::string_view lineOf(std::string_view source, std::uint32_t number) {
     for (std::uint32_t line = 1; line < number && !source.empty(); ++line) {
         source.remove_prefix(lineLength(source));

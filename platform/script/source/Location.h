@@ -37,6 +37,9 @@ class Locator {
 /// The place of one byte.
 inline Location locate(std::string_view source, std::size_t offset) { return Locator(source).at(offset); }
 
+/// The offset in bytes of a place; the end of its line for a place behind that.
+std::size_t offsetOf(std::string_view source, const Location& place);
+
 /// The line with that number, without its end; empty behind the last one.
 std::string_view lineOf(std::string_view source, std::uint32_t number);
 

@@ -100,6 +100,7 @@ void TokenStream::refuseTarget(std::string_view found, std::uint32_t offset) {
 
 void TokenStream::fail(int number, std::string message, std::size_t offset) {
     if (failed()) return;
+    m_failedInDictionary = m_knowsDictionary;
     m_error = ScriptError{number, std::move(message), locate(m_source, offset)};
     m_window.fill(Token{TokenKind::endOfScript, Word::none, 0, m_source.substr(m_source.size())});
     m_count = windowSize;

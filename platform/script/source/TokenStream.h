@@ -78,6 +78,8 @@ class TokenStream {
     std::string describeAt(std::uint32_t offset) const;
     bool failed() const { return m_error.has_value(); }
     const std::optional<ScriptError>& error() const { return m_error; }
+    /// Whether the dictionary was in force where the error is.
+    bool failedInDictionary() const { return m_failedInDictionary; }
 
     /// Whether the dictionary of System Events is in force, as the parsers' scopes say.
     bool knowsDictionary() const { return m_knowsDictionary; }
@@ -109,6 +111,7 @@ class TokenStream {
     std::size_t m_first = 0;
     std::optional<ScriptError> m_error;
     bool m_knowsDictionary = false;
+    bool m_failedInDictionary = false;
 };
 
 }  // namespace script

@@ -3,14 +3,15 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <string>
 #include <vector>
+
+#include "platform/script/source/Lexer.h"
+#include "platform/script/syntax/Slips.h"
 
 namespace script {
 namespace {
-
-std::string_view withoutBlanksBefore(std::string_view line) {
-    return line.substr(std::min(line.find_first_not_of(" \t"), line.size()));
-}
 
 /// The line in which the innermost block begins that is open where the error is; 0 if all are closed.
 std::uint32_t openBlockLine(const ScriptError& error, const Tree& tree, std::string_view source) {
@@ -30,59 +31,71 @@ std::uint32_t openBlockLine(const ScriptError& error, const Tree& tree, std::str
     return openLines.empty() ? 0 : openLines.back();
 }
 
-struct Slip {
-    std::string_view inMessage;
-    std::string_view atLineStart;  ///< of the line, in lower case; empty for any
-    std::string_view hint;
-};
+/// What blocks end with, of lines that consist of the same without the blank: `endif`.
+std::string_view endMeantBy(std::string_view line) {
+    constexpr auto ends = std::to_array<std::string_view>(
+        {"end if", "end tell", "end repeat", "end try", "end considering", "end ignoring", "end timeout"});
+    const std::size_t first = std::min(line.find_first_not_of(" \t"), line.size());
+    line = line.substr(first, line.find_last_not_of(" \t") + 1 - first);
+    const auto* found = std::find_if(ends.begin(), ends.end(), [&](std::string_view end) {
+        const std::size_t word = line.size() - std::min(line.size(), end.size() - 4);
+        const bool joins = word == 3 || (word == 4 && (line[3] == '_' || line[3] == '-'));
+        return joins && equalIgnoringCase(line.substr(0, 3), "end") &&
+               equalIgnoringCase(line.substr(word), end.substr(4));
+    });
+    return found == ends.end() ? "" : *found;
+}
 
-constexpr std::string_view tellHint =
-    "The keyboard commands stand inside “tell application \"System Events\"” … “end tell”.";
-
-constexpr auto slips = std::to_array<Slip>({
-    {"unknown token “", "", "Put straight quotes (\") in place of the curly ones."},
-    {"unknown token ”", "", "Put straight quotes (\") in place of the curly ones."},
-    {"unknown token ‘", "", "Put straight quotes (\") in place of the curly ones."},
-    {"Expected end of line", "keystroke", tellHint},
-    {"Expected end of line", "key code", tellHint},
-    {"Expected end of line", "key down", tellHint},
-    {"Expected end of line", "key up", tellHint},
-    {"found “else”", "if", "An “if” in one line has no “else”; write it in lines, with “end if”."},
-    {"Expected “\"” but found end of script", "", "A text is not closed by a straight quote."},
-    {"Expected class name", "",
-     "Behind “as” stands a class: text, integer, real, number, boolean, list, record, date."},
-    {"Expected “to” but found “=”", "set", "A variable is set with “to”: set x to 5."},
-    {"Raw codes", "", "Write the command by its name."},
-});
-
-std::string tokenHint(std::string_view line) {
-    if (line.find("!=") != std::string_view::npos || line.find("<>") != std::string_view::npos) {
-        return "“Not equal” is written ≠ or /=.";
+std::string blockHint(const ScriptError& error, const Tree& tree, std::string_view source) {
+    constexpr std::uint32_t longestBlock = 1000;
+    const std::uint32_t begin = openBlockLine(error, tree, source);
+    if (begin == 0) return "";
+    const std::uint32_t end = std::min(error.location.line, begin + longestBlock);
+    std::string_view rest = source.substr(offsetOf(source, {begin, 1}));
+    for (std::uint32_t number = begin; number < end; ++number) {
+        const std::string_view meant = endMeantBy(lineOf(rest, 1));
+        if (!meant.empty())
+            return "In line " + std::to_string(number) + " these are two words: " + std::string(meant) + ".";
+        rest = rest.substr(offsetOf(rest, {2, 1}));
     }
-    if (line.find("==") != std::string_view::npos) return "“Equal” is written with one =.";
-    if (line.find(';') != std::string_view::npos) return "Each statement has a line of its own.";
-    if (line.find('\'') != std::string_view::npos) return "Text stands between straight double quotes (\").";
-    return "";
+    return "The block that begins in line " + std::to_string(begin) + " has no “end” of its own.";
+}
+
+bool isOverLines(const Token& token) {
+    return token.is(TokenKind::text) && token.text.find_first_of("\r\n") != std::string_view::npos;
+}
+
+/// Where a text begins that is not closed in its line, if the error comes of that: a text over lines stands
+/// right before the error, or a word stands against the quote that was taken for its end.
+std::optional<std::size_t> openTextBefore(std::size_t error, std::string_view source) {
+    Lexer lexer(source);
+    Token former;
+    for (Token token = lexer.next(); !token.is(TokenKind::endOfScript); token = lexer.next()) {
+        const auto begin = static_cast<std::size_t>(token.text.data() - source.data());
+        const bool touches = former.text.data() + former.text.size() == token.text.data() &&
+                             (token.is(TokenKind::identifier) || token.is(TokenKind::number));
+        if (isOverLines(former) && (touches || begin == error))
+            return static_cast<std::size_t>(former.text.data() - source.data());
+        if (begin >= error) return std::nullopt;
+        former = token;
+    }
+    return std::nullopt;
 }
 
 }  // namespace
 
-std::string syntaxHint(const ScriptError& error, const Tree& tree, std::string_view source) {
-    if (error.message.starts_with("Expected “end” but")) {
-        const std::uint32_t line = openBlockLine(error, tree, source);
-        if (line > 0)
-            return "The block that begins in line " + std::to_string(line) + " has no “end” of its own.";
+ScriptError explained(ScriptError error, const Tree& tree, std::string_view source, bool isInsideTell) {
+    if (error.number != errornumber::syntax) return error;
+    const auto open = openTextBefore(offsetOf(source, error.location), source);
+    if (open) {
+        error.message = "Expected “\"” but found end of line.";
+        error.location = locate(source, *open);
+        error.hint = "The text that begins here is not closed by a straight quote in its line.";
+        return error;
     }
-    const std::string_view line = withoutBlanksBefore(lineOf(source, error.location.line));
-    const std::string lowered = asciiLowered(line.substr(0, 20));
-    for (const Slip& slip : slips) {
-        if (error.message.find(slip.inMessage) == std::string::npos) continue;
-        if (lowered.starts_with(slip.atLineStart)) return std::string(slip.hint);
-    }
-    const bool isSign = error.message.find("unknown token") != std::string::npos ||
-                        error.message.find("but found “=”") != std::string::npos ||
-                        error.message.find("but found “>”") != std::string::npos;
-    return isSign ? tokenHint(line) : "";
+    if (error.message.starts_with("Expected “end” but")) error.hint = blockHint(error, tree, source);
+    if (error.hint.empty()) error.hint = hintOfLine(error, source, isInsideTell);
+    return error;
 }
 
 }  // namespace script

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "platform/script/source/ScriptError.h"
@@ -9,8 +8,9 @@
 
 namespace script {
 
-/// What to do about an error of syntax, for the usual slips; empty for all others. The tree is what was read
-/// before the error.
-std::string syntaxHint(const ScriptError& error, const Tree& tree, std::string_view source);
+/// An error of syntax with what to do about it, for the usual slips; all others stay as they are. The tree is
+/// what was read before the error; `isInsideTell` says whether the keyboard commands were known there. An
+/// error behind a text that was never closed moves to where that text begins.
+ScriptError explained(ScriptError error, const Tree& tree, std::string_view source, bool isInsideTell);
 
 }  // namespace script

@@ -40,4 +40,6 @@ NodeId Parser::topLevel() {
 
 const std::optional<ScriptError>& Parser::error() const { return m_parts->context.tokens().error(); }
 
+bool Parser::failedInsideTell() const { return m_parts->context.tokens().failedInDictionary(); }
+
 }  // namespace script

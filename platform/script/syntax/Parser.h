@@ -27,6 +27,8 @@ class Parser {
     /// Reads all; called once. After an error the tree, which lives as long as the parser, is of no use.
     Tree& parse();
     const std::optional<ScriptError>& error() const;
+    /// Whether the words of the keyboard commands were known where the error is.
+    bool failedInsideTell() const;
 
   private:
     struct Parts;
