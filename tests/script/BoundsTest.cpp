@@ -65,6 +65,7 @@ const auto nameOf = [](const auto& row) { return std::string(row.param.name); };
 const std::string tooDeep = "-2741 Expected at most 200 levels of nesting but found more.";
 const std::string overflow = "-2706 Stack overflow.";
 const std::string outOfMemory = "-108 Out of memory.";
+const std::string tooManyItems = "-108 A list holds at most 100000 items.";
 
 /// What nests in the text of a script.
 const auto nesting = testing::Values(
@@ -214,14 +215,14 @@ INSTANTIATE_TEST_SUITE_P(
                             "f()\nend\nf()",
                         overflow},
                     Row{"text", "set t to \"a\"\nrepeat\nset t to t & t\nend", outOfMemory},
-                    Row{"list", "set l to {1}\nrepeat\nset l to l & l\nend", outOfMemory},
-                    Row{"listAtItsEnd", "set l to {}\nrepeat\nset end of l to 1\nend", outOfMemory},
+                    Row{"list", "set l to {1}\nrepeat\nset l to l & l\nend", tooManyItems},
+                    Row{"listAtItsEnd", "set l to {}\nrepeat\nset end of l to 1\nend", tooManyItems},
                     Row{"textsInAList",
                         "set l to {}\nset t to \"a\"\nrepeat 23 times\nset t to t & t\nend\n"
                         "repeat\nset end of l to t & \"b\"\nend",
                         outOfMemory},
                     Row{"idsOfAText", "set t to \"a\"\nrepeat 20 times\nset t to t & t\nend\nid of t",
-                        outOfMemory},
+                        tooManyItems},
                     Row{"joined",
                         "set l to {}\nrepeat 1000 times\nset end of l to \"0123456789\"\nend\n"
                         "repeat 12 times\nset l to {l, l}\nend\nl as text",

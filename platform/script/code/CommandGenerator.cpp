@@ -60,7 +60,7 @@ void CommandGenerator::planTexts(std::uint32_t from) {
     for (std::uint32_t i = from; i < m_out.position(); ++i) {
         const Instruction& instruction = code.instructions[i];
         if (instruction.operation != Operation::pushText) continue;
-        code.typedTexts.push_back(code.texts[instruction.operand].str());
+        code.typedTexts.emplace_back(code.texts[instruction.operand].str());
     }
 }
 

@@ -56,7 +56,7 @@ void DialogReader::readButton(unsigned parameter, std::optional<std::size_t>& ta
     const Value* given = m_arguments.parameter(parameter);
     if (given == nullptr || m_failure) return;
     const auto& buttons = m_dialog.buttons;
-    const std::string* name = given->text();
+    const std::string_view* name = given->text();
     std::size_t place = buttons.size();
     if (name != nullptr) {
         place = static_cast<std::size_t>(std::find(buttons.begin(), buttons.end(), *name) - buttons.begin());

@@ -16,7 +16,7 @@ namespace {
 enum Given : unsigned { answer, hidden, buttons, defaultButton, cancelButton, title, icon, givingUp };
 
 ScriptDialog::Icon iconOf(const Value& value) {
-    const std::string* name = value.text();
+    const std::string_view* name = value.text();
     const std::int32_t number = integerOf(value).value_or(-1);
     if (number == 0 || (name != nullptr && *name == "stop")) return ScriptDialog::Icon::stop;
     if (number == 1 || (name != nullptr && *name == "note")) return ScriptDialog::Icon::note;

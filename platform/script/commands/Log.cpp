@@ -8,7 +8,7 @@ namespace {
 
 Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     const Value& value = *arguments.direct();
-    stage.log("(*" + (value.text() == nullptr ? sourceForm(value) : *value.text()) + "*)");
+    stage.log("(*" + (value.text() == nullptr ? sourceForm(value) : std::string(*value.text())) + "*)");
     return Value();
 }
 

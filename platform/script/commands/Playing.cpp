@@ -29,7 +29,7 @@ Fallible<> addHeldKeys(CommandStage& stage, const Value& value, std::vector<Held
         held.emplace_back(HeldModifier{constant->modifier});
         return {};
     }
-    if (const std::string* text = value.text()) {
+    if (const std::string_view* text = value.text()) {
         for (std::string_view left = *text; !left.empty();) {
             const std::size_t length = firstCharacter(left).length;
             held.emplace_back(HeldText{std::string(left.substr(0, length))});
@@ -55,7 +55,8 @@ Fallible<std::uint32_t> modifierMask(CommandStage& stage, const Value* given) {
         const auto* constant = value.value().as<Modifier>();
         if (constant == nullptr) {
             Failure failure = cannotMake(value.value(), "modifier");
-            if (const std::string* text = value.value().text()) failure.hint = quotedModifierAdvice(*text);
+            if (const std::string_view* text = value.value().text())
+                failure.hint = quotedModifierAdvice(*text);
             return failure;
         }
         if (!constant->down) stage.warn(modifierAdvice(*constant));

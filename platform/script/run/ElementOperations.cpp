@@ -56,11 +56,11 @@ bool choose(Execution& run, const Value& container, Element& element) {
     return true;
 }
 
-/// Texts are cut up to find an element, unless each character has one byte; of lists what is asked for is
-/// copied.
+/// Texts are cut up to find an element, unless that is a character; of lists what is asked for is copied.
 void workFor(Execution& run, const Value& container, const Element& element) {
-    const auto* text = container.as<Text>();
-    if (text != nullptr && !text->isAscii()) return run.work(text->str().size() / 16);
+    const bool isCharacter = element.kind == ElementKind::character || element.kind == ElementKind::item;
+    const std::string_view* text = container.text();
+    if (text != nullptr && !isCharacter) return run.work(text->size() / 16);
     const bool isOne = element.form == ElementForm::index || element.form == ElementForm::middle;
     if (!isOne || element.kind == ElementKind::typed) run.workOn(container);
 }
@@ -134,7 +134,6 @@ void setPropertyOperation(Execution& run, const Instruction& here) {
         *variable = value;
         return;
     }
-    if (&name == &names::beginning) run.workOn(container);
     if (auto set = setProperty(container, name, value); !set) return run.fail(std::move(set).error());
     if (isContainer(value)) run.holdsContainer(container);
 }

@@ -124,7 +124,7 @@ Value* Execution::findGlobal(const Name& wanted) {
 }
 
 void Execution::workOn(const Value& value) {
-    if (const std::string* text = value.text()) m_work += text->size() / 64;
+    if (const std::string_view* text = value.text()) m_work += text->size() / 64;
     if (const List* list = value.list()) m_work += list->size() / 4;
 }
 

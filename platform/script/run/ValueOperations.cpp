@@ -238,13 +238,22 @@ Failure advised(Failure failure, BinaryOperator operation, const Value& left) {
     return failure;
 }
 
+/// A text that became longer in its place cost no more than what was put behind it.
+void workOnOperands(Execution& run, BinaryOperator operation, const Fallible<Value>& outcome) {
+    const auto* left = run.top(1).as<Text>();
+    const auto* joined = outcome ? outcome.value().as<Text>() : nullptr;
+    const bool isInPlace = operation == BinaryOperator::join && left != nullptr && joined != nullptr &&
+                           joined->sharesBytesOf(*left);
+    if (!isInPlace) run.workOn(run.top(1));
+    run.workOn(run.top());
+}
+
 void binary(Execution& run, const Instruction& here) {
     const auto operation = static_cast<BinaryOperator>(here.detail);
     // References are compared as what they are.
     if (operation != BinaryOperator::equal && !run.resolveTop(2)) return;
     Fallible<Value> outcome = evaluated(operation, run.top(1), run.top(), run.textRules());
-    run.workOn(run.top(1));
-    run.workOn(run.top());
+    workOnOperands(run, operation, outcome);
     if (!outcome) return run.fail(advised(std::move(outcome).error(), operation, run.top(1)));
     run.drop();
     run.top() = std::move(outcome).value();
@@ -278,9 +287,9 @@ void setDelimiters(Execution& run, const Instruction& /*unused*/) {
     if (run.hasFailed()) return;
     std::vector<std::string> texts;
     for (const Value& item : itemsOf(value)) {
-        const std::string* text = item.text();
+        const std::string_view* text = item.text();
         if (text == nullptr) return run.fail(cannotMake(value, "text"));
-        texts.push_back(*text);
+        texts.emplace_back(*text);
     }
     run.setDelimiters(value, std::move(texts));
 }

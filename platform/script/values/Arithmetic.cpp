@@ -26,7 +26,7 @@ std::optional<Number> numeric(const Value& value) {
     if (!number) return std::nullopt;
     const List* list = value.list();
     if (list != nullptr) return numeric(list->front());
-    const std::string* text = value.text();
+    const std::string_view* text = value.text();
     const bool wholeText = text != nullptr && text->find_first_of(".eE") == std::string::npos;
     return Number{*number, wholeText || value.is<std::int64_t>()};
 }
@@ -63,13 +63,18 @@ Fallible<Value> calculate(BinaryOperator operation, Number left, Number right) {
     }
 }
 
-Fallible<Value> joinedText(const std::string& text, const std::string& addition) {
-    if (text.size() + addition.size() > maxTextSize) return outOfMemory();
-    std::string both;
-    both.reserve(text.size() + addition.size());
-    both += text;
-    both += addition;
-    return Value{std::move(both)};
+Fallible<Value> joinedText(const Text& text, const Value& right, std::string_view delimiter) {
+    std::string_view addition;
+    Fallible<std::string> made("");
+    if (const std::string_view* plain = right.text()) {
+        addition = *plain;
+    } else {
+        made = textOf(right, delimiter);
+        if (!made) return std::move(made).error();
+        addition = made.value();
+    }
+    if (text.str().size() + addition.size() > maxTextSize) return outOfMemory();
+    return Value{text.with(addition)};
 }
 
 /// What both have is taken from the left one.
@@ -121,17 +126,13 @@ Fallible<Value> calculated(BinaryOperator operation, const Value& left, const Va
 }
 
 Fallible<Value> joined(const Value& left, const Value& right, std::string_view delimiter) {
-    if (const std::string* text = left.text()) {
-        const Fallible<std::string> addition = textOf(right, delimiter);
-        if (!addition) return addition.error();
-        return joinedText(*text, addition.value());
-    }
+    if (const auto* text = left.as<Text>()) return joinedText(*text, right, delimiter);
     if (left.record() != nullptr && right.record() != nullptr)
         return joinedRecord(*left.record(), *right.record());
     List items = itemsOf(left);
     const List additions = itemsOf(right);
-    if (items.size() + additions.size() > maxListItems) return outOfMemory();
-    items.insert(items.end(), additions.begin(), additions.end());
+    if (items.size() + additions.size() > maxListItems) return tooManyItems();
+    items.append(additions.begin(), additions.end());
     return Value{std::move(items)};
 }
 

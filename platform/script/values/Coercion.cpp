@@ -68,7 +68,7 @@ class Joiner {
     }
 
     static std::optional<std::string> simpleText(const Value& value) {
-        if (const std::string* text = value.text()) return *text;
+        if (const std::string_view* text = value.text()) return std::string(*text);
         if (const auto* integer = value.as<std::int64_t>()) return std::to_string(*integer);
         if (const auto* real = value.as<double>()) return realText(*real);
         if (const auto* truth = value.as<bool>()) return *truth ? "true" : "false";
@@ -89,7 +89,7 @@ class Joiner {
 
 std::optional<Value> asBoolean(const Value& value) {
     if (const auto* truth = value.as<bool>()) return Value{*truth};
-    if (const std::string* text = value.text()) return Value{asciiLowered(*text) == "true"};
+    if (const std::string_view* text = value.text()) return Value{asciiLowered(*text) == "true"};
     const auto condition = conditionOf(value);
     return condition ? std::optional<Value>(Value{*condition}) : std::nullopt;
 }
@@ -110,14 +110,14 @@ std::optional<Value> asNumber(const Value& value, Type type) {
     const std::optional<double> number = numberOrTruth(value);
     if (!number) return std::nullopt;
     if (type == Type::real) return Value{*number};
-    const std::string* text = value.text();
+    const std::string_view* text = value.text();
     const bool whole =
         text == nullptr ? !value.is<double>() : text->find_first_of(".eE") == std::string::npos;
     return numberValue(*number, whole);
 }
 
 std::optional<Value> asDate(const Value& value) {
-    const std::string* text = value.text();
+    const std::string_view* text = value.text();
     const auto moment = text == nullptr ? std::nullopt : momentInText(*text);
     if (!moment) return std::nullopt;
     return Value{makeShared<DateBody>(*moment)};
@@ -151,10 +151,15 @@ std::optional<Value> asType(const Value& value, Type type) {
 
 Failure outOfMemory() { return {errornumber::outOfMemory, "Out of memory."}; }
 
+Failure tooManyItems() {
+    return {errornumber::outOfMemory, "A list holds at most " + std::to_string(maxListItems) + " items.",
+            "Take the items in parts, or paragraphs instead of characters."};
+}
+
 std::optional<double> numberOf(const Value& value) {
     if (const auto* integer = value.as<std::int64_t>()) return static_cast<double>(*integer);
     if (const auto* real = value.as<double>()) return *real;
-    if (const std::string* text = value.text()) return numberInText(*text);
+    if (const std::string_view* text = value.text()) return numberInText(*text);
     const List* list = value.list();
     // One level: lists may hold themselves.
     if (list != nullptr && list->size() == 1 && list->front().list() == nullptr)
@@ -186,7 +191,7 @@ std::optional<bool> conditionOf(const Value& value) {
 }
 
 Fallible<std::string> textOf(const Value& value, std::string_view delimiter) {
-    if (const std::string* text = value.text()) return *text;
+    if (const std::string_view* text = value.text()) return std::string(*text);
     Joiner joiner(delimiter);
     joiner.add(value);
     return joiner.take();

@@ -20,6 +20,9 @@ inline constexpr std::size_t maxFields = 1000;
 /// "Out of memory." (-108)
 Failure outOfMemory();
 
+/// "A list holds at most 100000 items." (-108)
+Failure tooManyItems();
+
 /// Numbers, and texts that read as a number.
 std::optional<double> numberOf(const Value& value);
 

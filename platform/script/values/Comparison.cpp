@@ -39,7 +39,7 @@ class Equality {
     static bool isNumber(const Value& value) { return value.is<std::int64_t>() || value.is<double>(); }
 
     bool equalContents(const Value& left, const Value& right) {
-        if (const std::string* text = left.text()) {
+        if (const std::string_view* text = left.text()) {
             m_steps += text->size() / 16;
             return compareTexts(*text, *right.text(), m_rules) == 0;
         }
@@ -146,7 +146,7 @@ Fallible<Value> recordHolds(RecordBody& whole, RecordBody& part, const TextRules
     return equal.answer(all);
 }
 
-bool textHolds(const std::string& whole, Containment containment, const std::string& part,
+bool textHolds(std::string_view whole, Containment containment, std::string_view part,
                const TextRules& rules) {
     switch (containment) {
         case Containment::contains:
@@ -167,7 +167,7 @@ Fallible<Value> areEqual(const Value& left, const Value& right, const TextRules&
 }
 
 Fallible<Value> isOrdered(const Value& left, Ordering ordering, const Value& right, const TextRules& rules) {
-    if (const std::string* text = left.text()) {
+    if (const std::string_view* text = left.text()) {
         const Fallible<std::string> other = textOf(right);
         if (!other) return cannotMake(right, "text");
         return Value{isOrderOf(ordering, compareTexts(*text, other.value(), rules))};
@@ -193,7 +193,7 @@ Fallible<Value> holds(const Value& whole, Containment containment, const Value& 
         if (part.record() == nullptr) return cannotMake(part, "record");
         return recordHolds(*whole.record(), *part.record(), rules);
     }
-    const std::string* text = whole.text();
+    const std::string_view* text = whole.text();
     if (text == nullptr) return cannotMake(whole, "list");
     const Fallible<std::string> other = textOf(part);
     if (!other) return cannotMake(part, "text");

@@ -118,25 +118,37 @@ Fallible<Value> fromList(const Value& container, const List& list, const Element
     return Value{List(first, first + static_cast<std::ptrdiff_t>(places->last - places->first + 1))};
 }
 
-Value piece(const std::string& text, const Stretch& stretch) {
-    return Value{text.substr(stretch.begin, stretch.end - stretch.begin)};
+Value piece(std::string_view text, const Stretch& stretch) {
+    return Value{std::string(text.substr(stretch.begin, stretch.end - stretch.begin))};
 }
 
-/// One character of a text in which all have one byte is found without cutting it up.
-std::optional<Value> quickCharacter(const Text& text, const Element& element) {
-    const bool isCharacter = element.kind == ElementKind::character || element.kind == ElementKind::item;
-    if (!isCharacter || !text.isAscii() || element.form != ElementForm::index) return std::nullopt;
-    const std::optional<std::size_t> place = placeOf(element.first, text.str().size());
-    if (!place) return std::nullopt;
-    return Value{std::string(1, text.str()[*place])};
+/// Whether the elements are characters, whose places a text knows.
+bool areCharacters(ElementKind kind) {
+    return kind == ElementKind::character || kind == ElementKind::item || kind == ElementKind::text;
+}
+
+/// Characters, which are found without cutting up the text; all of them are not asked for here.
+Fallible<Value> charactersFrom(const Value& container, const Text& text, const Element& element) {
+    const std::optional<Places> places = placesOf(element, text.characterCount());
+    if (!places) return cannotGetElement(container, element);
+    const std::size_t begin = text.offsetOf(places->first);
+    const std::size_t end = text.offsetOf(places->last + 1);
+    if (isSingle(element) || element.kind == ElementKind::text) return piece(text.str(), {begin, end});
+    if (places->last - places->first >= maxListItems) return tooManyItems();
+    List found;
+    const std::string_view all = text.str().substr(begin, end - begin);
+    for (const Stretch& one : charactersOf(all)) found.push_back(piece(all, one));
+    return Value{std::move(found)};
 }
 
 Fallible<Value> fromText(const Value& container, const Text& text, const Element& element,
                          const TextRules& rules) {
     if (element.kind == ElementKind::typed) return cannotGetElement(container, element);
     if (element.kind == ElementKind::text && element.form != ElementForm::range) return container;
-    if (std::optional<Value> found = quickCharacter(text, element)) return *std::move(found);
-    const std::string& bytes = text.str();
+    if (areCharacters(element.kind) && element.form != ElementForm::every) {
+        return charactersFrom(container, text, element);
+    }
+    const std::string_view bytes = text.str();
     const std::vector<Stretch> stretches = stretchesOf(bytes, element.kind, rules);
     Places places{0, stretches.size()};
     if (element.form == ElementForm::every) {
@@ -148,10 +160,7 @@ Fallible<Value> fromText(const Value& container, const Text& text, const Element
         places = *found;
     }
     if (isSingle(element)) return piece(bytes, stretches[places.first]);
-    if (element.kind == ElementKind::text) {
-        return piece(bytes, {stretches[places.first].begin, stretches[places.last].end});
-    }
-    if (places.last - places.first >= maxListItems) return outOfMemory();
+    if (places.last - places.first >= maxListItems) return tooManyItems();
     List found;
     for (std::size_t i = places.first; i <= places.last; ++i) found.push_back(piece(bytes, stretches[i]));
     return Value{std::move(found)};
@@ -200,15 +209,13 @@ std::optional<std::size_t> countElements(const Value& container, const Element& 
     }
     const auto* text = container.as<Text>();
     if (text == nullptr) return std::nullopt;
-    const bool isCharacter = element.kind == ElementKind::character || element.kind == ElementKind::item ||
-                             element.kind == ElementKind::text;
-    if (isCharacter && text->isAscii()) return text->str().size();
+    if (areCharacters(element.kind)) return text->characterCount();
     return stretchesOf(text->str(), element.kind, rules).size();
 }
 
 Fallible<Value> textBetween(const Value& container, const Element& first, const Element& last,
                             const TextRules& rules) {
-    const std::string* text = container.text();
+    const std::string_view* text = container.text();
     if (text == nullptr) return cannotGetElement(container, first);
     const std::vector<Stretch> begins = stretchesOf(*text, first.kind, rules);
     const std::vector<Stretch> ends = stretchesOf(*text, last.kind, rules);

@@ -29,10 +29,10 @@ Found ofList(const List& list, const Name& name) {
 }
 
 /// The code points of the characters of a text, or the one of its only character.
-Fallible<Value> idOf(const std::string& text) {
+Fallible<Value> idOf(std::string_view text) {
     List points;
     for (std::size_t position = 0; position < text.size();) {
-        if (points.size() == maxListItems) return outOfMemory();
+        if (points.size() == maxListItems) return tooManyItems();
         points.push_back(whole(takeCharacter(text, position)));
     }
     if (points.size() == 1) return points.front();
@@ -113,8 +113,12 @@ bool setDatePart(DateBody& date, const Name& name, std::int64_t number) {
 }
 
 Fallible<> addToList(const Shared<ListBody>& list, bool atEnd, const Value& value) {
-    if (list->items.size() >= maxListItems) return outOfMemory();
-    list->items.insert(atEnd ? list->items.end() : list->items.begin(), value);
+    if (list->items.size() >= maxListItems) return tooManyItems();
+    if (atEnd) {
+        list->items.push_back(value);
+    } else {
+        list->items.pushFront(value);
+    }
     list->didChange();
     return {};
 }

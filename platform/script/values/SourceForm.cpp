@@ -87,7 +87,7 @@ class SourceWriter {
         add(reference->container);
     }
     void write(const Shared<TargetBody>& target);
-    void quote(const std::string& text);
+    void quote(std::string_view text);
 
     std::string m_out;
     int m_depth = 0;
@@ -131,7 +131,7 @@ void SourceWriter::write(const Shared<TargetBody>& target) {
     quote(target->name.str());
 }
 
-void SourceWriter::quote(const std::string& text) {
+void SourceWriter::quote(std::string_view text) {
     m_out += '"';
     for (const char c : text) {
         if (m_out.size() > maxLength + 8) return;

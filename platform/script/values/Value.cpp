@@ -15,17 +15,9 @@ constexpr std::array<std::string_view, 18> typeNames{
 
 std::string_view typeName(Type type) { return typeNames[static_cast<std::size_t>(type)]; }
 
-Text::Body::Body(std::string content)
-    : text(std::move(content)),
-      isAscii(std::all_of(text.begin(), text.end(),
-                          [](char c) { return (static_cast<unsigned char>(c) & 0x80U) == 0; })),
-      memory(text.size() + sizeof(Body)) {}
-
-Text::Text(std::string text) : m_body(makeShared<Body>(std::move(text))) {}
-
 Value::Value(List items) : Value(makeShared<ListBody>(std::move(items))) {}
 
-const std::string* Value::text() const {
+const std::string_view* Value::text() const {
     const auto* found = as<Text>();
     return found == nullptr ? nullptr : &found->str();
 }

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <initializer_list>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -11,6 +15,7 @@
 #include "platform/Result.h"
 #include "platform/script/source/Name.h"
 #include "platform/script/values/Shared.h"
+#include "platform/script/values/Text.h"
 
 namespace script {
 
@@ -65,32 +70,13 @@ enum class Type : std::uint8_t {
 /// "integer"; "class" for classType.
 std::string_view typeName(Type type);
 
-/// Immutable UTF-8 text, shared by its owners.
-class Text {
-  public:
-    explicit Text(std::string text);
-
-    const std::string& str() const { return m_body->text; }
-    /// Whether all characters are single bytes, so that they are counted at once.
-    bool isAscii() const { return m_body->isAscii; }
-
-  private:
-    struct Body : Counted {
-        explicit Body(std::string content);
-        std::string text;
-        bool isAscii;
-        HeldMemory memory;
-    };
-    Shared<Body> m_body;
-};
-
 struct Value;
 struct ListBody;
 struct RecordBody;
 struct DateBody;
 struct ReferenceBody;
 struct TargetBody;
-using List = std::vector<Value>;
+class List;
 
 /// What an expression gives: a whole number within maxInteger, a real (finite), a text, a constant, a class,
 /// or an object, which its owners share.
@@ -117,13 +103,70 @@ struct Value {
         return std::holds_alternative<Alternative>(content);
     }
     /// Null if the value is no text.
-    const std::string* text() const;
+    const std::string_view* text() const;
     /// Null if the value is no list.
     List* list() const;
     RecordBody* record() const;
     DateBody* date() const;
     ReferenceBody* reference() const;
     TargetBody* target() const;
+};
+
+/// The items of a list: a vector that takes items at its beginning as quickly as at its end.
+class List {
+  public:
+    using value_type = Value;
+    using iterator = std::vector<Value>::iterator;
+    using const_iterator = std::vector<Value>::const_iterator;
+
+    List() = default;
+    List(std::initializer_list<Value> items) : m_items(items) {}
+    template <typename Iterator>
+    List(Iterator first, Iterator last) : m_items(first, last) {}
+
+    std::size_t size() const { return m_items.size() - m_first; }
+    bool empty() const { return size() == 0; }
+    /// For how many items it holds memory.
+    std::size_t capacity() const { return m_items.capacity(); }
+    Value& operator[](std::size_t place) { return m_items[m_first + place]; }
+    const Value& operator[](std::size_t place) const { return m_items[m_first + place]; }
+    Value& front() { return m_items[m_first]; }
+    const Value& front() const { return m_items[m_first]; }
+    Value& back() { return m_items.back(); }
+    const Value& back() const { return m_items.back(); }
+
+    iterator begin() { return m_items.begin() + static_cast<std::ptrdiff_t>(m_first); }
+    iterator end() { return m_items.end(); }
+    const_iterator begin() const { return m_items.begin() + static_cast<std::ptrdiff_t>(m_first); }
+    const_iterator end() const { return m_items.end(); }
+    auto rbegin() const { return std::make_reverse_iterator(end()); }
+    auto rend() const { return std::make_reverse_iterator(begin()); }
+
+    void reserve(std::size_t count) { m_items.reserve(m_first + count); }
+    void push_back(Value value) { m_items.push_back(std::move(value)); }
+    void pushFront(Value value) {
+        if (m_first == 0) makeRoom();
+        m_items[--m_first] = std::move(value);
+    }
+    template <typename Iterator>
+    void append(Iterator first, Iterator last) {
+        m_items.insert(m_items.end(), first, last);
+    }
+    void clear() {
+        m_items.clear();
+        m_first = 0;
+    }
+
+  private:
+    /// As much as there are items, so that an item is moved no more than a few times.
+    void makeRoom() {
+        constexpr std::size_t least = 8;
+        m_first = std::max(least, m_items.size());
+        m_items.insert(m_items.begin(), m_first, Value());
+    }
+
+    std::vector<Value> m_items;
+    std::size_t m_first = 0;  ///< what is before it is room
 };
 
 struct ListBody : Counted {
