@@ -184,7 +184,9 @@ TEST_F(ToolTest, theCaretStandsBelowWideAndCombinedCharacters) {
               (Outcome{1, "",
                        "script:1:21: execution error: The variable foo is not defined. (-2753)\n"
                        "\tset x to \"日本😀e\xcc\x81\" & foo\n"
-                       "\t                     ^\n"}));
+                       "\t                     ^\n"
+                       "Hint: A variable is set before it is used: set foo to … Text stands between straight "
+                       "quotes: \"foo\".\n"}));
 }
 
 TEST_F(ToolTest, aLineIsShownWithoutControlCharacters) {

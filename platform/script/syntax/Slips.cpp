@@ -185,16 +185,18 @@ std::string quotesHint(const ErrorLine& line) {
 }
 
 /// Signs of other languages.
-std::string signHint(const ScriptError& error, std::string_view line) {
+std::string signHint(const ScriptError& error, const ErrorLine& place) {
+    const std::string_view line = place.text();
+    const std::string here = place.here();
     const auto says = [&](std::string_view words) { return error.message.find(words) != std::string::npos; };
     const auto has = [&](std::string_view sign) { return line.find(sign) != std::string_view::npos; };
     if (!says("unknown token") && !says("but found “=”") && !says("but found “>”")) return "";
     if (has("!=") || has("<>")) return "“Not equal” is written ≠ or /=.";
     if (has("==")) return "“Equal” is written with one =.";
-    if (has("||")) return std::string(bothHint);
-    if (has(";")) return "Each statement has a line of its own.";
-    if (has("[")) return "A list stands in braces: {1, 2}.";
-    if (has("%")) return "The rest of a division is written: 7 mod 2.";
+    if (here == "|") return std::string(bothHint);
+    if (here == ";") return "Each statement has a line of its own.";
+    if (here == "[") return "A list stands in braces: {1, 2}.";
+    if (here == "%") return "The rest of a division is written: 7 mod 2.";
     if (has("'")) return "Text stands between straight double quotes (\").";
     return "";
 }
@@ -204,7 +206,7 @@ std::string signHint(const ScriptError& error, std::string_view line) {
 std::string hintOfLine(const ScriptError& error, std::string_view source, bool isInsideTell) {
     const ErrorLine line(source, error.location);
     if (std::string hint = modifierHint(line); isInsideTell && !hint.empty()) return hint;
-    if (std::string hint = signHint(error, line.text()); !hint.empty()) return hint;
+    if (std::string hint = signHint(error, line); !hint.empty()) return hint;
     const auto isHere = [&](const Slip& slip) {
         if (slip.where != Where::anywhere && (slip.where == Where::inside) != isInsideTell) return false;
         return error.message.find(slip.inMessage) != std::string::npos && fits(line.first(), slip.first) &&
