@@ -10,6 +10,7 @@
 #include "engine/EngineState.h"
 #include "engine/SharedController.h"
 #include "platform/Clock.h"
+#include "platform/EventMonitor.h"
 #include "platform/ScriptingService.h"
 #include "platform/Services.h"
 #include "prefs/PreferenceManager.h"
@@ -38,6 +39,7 @@ void toggleRecording() {
     }
     state.recording = true;
     state.recordingMacro = MacroManager::createMacro();
+    services().eventMonitor.setRecording(true);
     if (SharedController* controller = sharedController()) controller->showRecordingGui();
     utils::PreferenceManager::clearMarks();
 }
@@ -46,6 +48,7 @@ void stopRecording() {
     EngineState& state = engineState();
     if (!state.recording) return;
     state.recording = false;
+    services().eventMonitor.setRecording(false);
     keepRecording(state.recordingMacro);
     state.recordingMacro.reset();
     if (SharedController* controller = sharedController()) controller->hideRecordingGui();

@@ -19,6 +19,9 @@
 ///   around it are.
 /// - One order with the hot keys: before a hot key is dispatched, all events up to its press are delivered.
 /// - While the screen is locked no key press is delivered.
+/// - While a macro is being recorded no key press is delivered either that another program gets alone, as
+///   screen lockers do that tell no desktop. A menu, a hot key of another program or a game that has the
+///   keyboard for a moment loses none: what is pressed meanwhile may be delivered a little later, in order.
 /// - What the user does while a script runs is kept and delivered in order after the run.
 ///
 /// The handler runs on the main thread and may run a script; it is never entered twice at a time.
@@ -39,4 +42,11 @@ class EventMonitor {
     /// Whether the strokes of a running script are delivered after the run like the user's own. Set while a
     /// macro is being recorded; off at first.
     virtual void setKeepsOwnStrokes(bool keeps) = 0;
+
+    /// Whether a macro is being recorded; off at first.
+    virtual void setRecording(bool recording) = 0;
+
+    /// Who is told when, in a recording, key presses are no longer delivered because another program has the
+    /// keyboard to itself, and when they are again; at most one.
+    virtual void observeHold(std::function<void(bool held)> changed) = 0;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -54,6 +55,10 @@ class Session {
     /// Async-signal-safe, so that handlers of SIGTERM, SIGINT and SIGHUP may call it; they must not end the
     /// process themselves, since what is down is released as the run unwinds.
     virtual void interrupt() noexcept = 0;
+
+    /// Ends each playback, as if the user had asked for it, while that answers true: the screen is locked. It
+    /// is asked again and again in a run.
+    virtual void endPlaysWhen(std::function<bool()> isLocked) = 0;
 
     /// Why nothing reaches the desktop any more, as when its server has gone; success while all is well.
     virtual Result<void> connection() const = 0;

@@ -13,6 +13,7 @@
 #include "app/panels/WelcomePanel.h"
 #include "engine/HotKeyCenter.h"
 #include "engine/KeyRecorder.h"
+#include "platform/EventMonitor.h"
 #include "platform/Features.h"
 #include "platform/ScreenLock.h"
 #include "platform/ScriptingService.h"
@@ -75,6 +76,7 @@ void AppController::connectDesks() {
 void AppController::awakeFromNib() {
     if (!checkSystemVersion()) return kill();
     m_services.hotKeys.observe([this](HotKeyId id, const HotKeyState& state) { noteHotKey(id, state); });
+    m_services.eventMonitor.observeHold([this](bool held) { m_overlayDesk.setKeysHeldBack(held); });
     installHotKeyHandlers();
     if (!checkAccess()) return;
     m_isAwake = true;

@@ -29,7 +29,8 @@ OverlayDesk::~OverlayDesk() = default;
 void OverlayDesk::showRecorder() {
     if (!m_recorder) m_recorder = std::make_unique<RecorderWindow>();
     m_recorder->place();
-    m_recorder->setMacroString("");
+    m_keysAreHeldBack = false;
+    setMacroString("");
     m_stage.fadeIn(*m_recorder, overlayAlpha);
 }
 
@@ -42,7 +43,19 @@ void OverlayDesk::setRecorderVisible(bool visible) {
 }
 
 void OverlayDesk::setMacroString(const std::string& text) {
-    if (m_recorder) m_recorder->setMacroString(text);
+    m_macroString = text;
+    refreshRecorder();
+}
+
+void OverlayDesk::setKeysHeldBack(bool heldBack) {
+    m_keysAreHeldBack = heldBack;
+    refreshRecorder();
+}
+
+void OverlayDesk::refreshRecorder() {
+    if (!m_recorder) return;
+    m_recorder->setMacroString(m_keysAreHeldBack ? tr("Not recorded: keyboard held").toStdString()
+                                                 : m_macroString);
 }
 
 MultiplePlayWindow& OverlayDesk::builtPrompt() {

@@ -29,6 +29,8 @@ class OverlayDesk : public QObject {
     /// While the screen is locked it is off the screen, whatever else.
     void setRecorderVisible(bool visible);
     void setMacroString(const std::string& text);
+    /// Keys are not recorded, since another program has them for itself: that is shown in place of the text.
+    void setKeysHeldBack(bool heldBack);
 
     /// Fades in with the focus. `plays` is whether its button and Return play.
     void showPrompt(bool plays);
@@ -55,11 +57,14 @@ class OverlayDesk : public QObject {
 
   private:
     MultiplePlayWindow& builtPrompt();
+    void refreshRecorder();
 
     Stage& m_stage;
     Clock& m_clock;
     const HotKeys& m_hotKeys;
     std::unique_ptr<RecorderWindow> m_recorder;
+    std::string m_macroString;
+    bool m_keysAreHeldBack = false;
     std::unique_ptr<MultiplePlayWindow> m_prompt;
     std::unique_ptr<SplashWindow> m_splash;
 };

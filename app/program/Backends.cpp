@@ -14,7 +14,12 @@
 struct Backends::Parts {
     Parts(std::unique_ptr<SteadyClock> steadyClock, std::unique_ptr<Session> opened,
           const UpdateSource& updates)
-        : clock(std::move(steadyClock)), session(std::move(opened)), neutral(updates) {}
+        : clock(std::move(steadyClock)), session(std::move(opened)), neutral(updates) {
+        session->endPlaysWhen([this] { return neutral.screenLock.isLocked(); });
+    }
+    ~Parts() { session->endPlaysWhen({}); }
+    Parts(const Parts&) = delete;
+    Parts& operator=(const Parts&) = delete;
 
     std::unique_ptr<SteadyClock> clock;
     std::unique_ptr<Session> session;

@@ -10,8 +10,13 @@ Result<void> FakeEventMonitor::install(Handler handler) {
     return {};
 }
 
+void FakeEventMonitor::programHoldsKeyboard(bool holds) {
+    const bool held = holds && m_recording;
+    if (std::exchange(m_held, held) != held && m_holdChanged) m_holdChanged(held);
+}
+
 void FakeEventMonitor::reportKeyPress(KeyEvent event, std::uint32_t shape) {
-    if (m_desktop.isScreenLocked()) return;
+    if (m_desktop.isScreenLocked() || m_held) return;
     event.modifiers = shape;
     m_desktop.post([this, event, held = m_heldModifiers] {
         if (m_desktop.isWithheld()) return;

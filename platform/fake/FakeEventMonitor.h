@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include "platform/EventMonitor.h"
 #include "platform/fake/FakeDesktop.h"
@@ -16,6 +18,8 @@ class FakeEventMonitor : public EventMonitor {
     Result<void> install(Handler handler) override;
     void setWithheld(bool withheld) override { m_desktop.setWithheld(withheld); }
     void setKeepsOwnStrokes(bool keeps) override { m_keepsOwnStrokes = keeps; }
+    void setRecording(bool recording) override { m_recording = recording; }
+    void observeHold(std::function<void(bool)> changed) override { m_holdChanged = std::move(changed); }
 
     /// The next install() answers the error and installs nothing.
     void failNextCall(const Error& error) { m_nextError = error; }
@@ -29,6 +33,10 @@ class FakeEventMonitor : public EventMonitor {
     /// A whole stroke of a running script.
     void reportOwnStroke(const KeyEvent& event);
 
+    /// Another program takes the keyboard for itself, or gives it back.
+    void programHoldsKeyboard(bool holds);
+
+    bool isRecording() const { return m_recording; }
     bool keepsOwnStrokes() const { return m_keepsOwnStrokes; }
 
   private:
@@ -38,7 +46,10 @@ class FakeEventMonitor : public EventMonitor {
     Journal& m_journal;
     FakeDesktop& m_desktop;
     Handler m_handler;
+    std::function<void(bool)> m_holdChanged;
     bool m_keepsOwnStrokes = false;
+    bool m_recording = false;
+    bool m_held = false;
     std::uint32_t m_heldModifiers = 0;
     std::optional<Error> m_nextError;
 };

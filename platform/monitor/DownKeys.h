@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/HotKeys.h"
+#include "platform/XkbCodes.h"
 #include "platform/keymap/MaskShaper.h"
 #include "platform/monitor/MonitorEvents.h"
 
@@ -84,6 +85,12 @@ class DownKeys {
         for (auto& [keycode, held] : m_keys) {
             if (held.hotKey && dropped(*held.hotKey)) held.hotKeyReported = false;
         }
+    }
+
+    KeycodeSet keycodes() const {
+        KeycodeSet down;
+        for (const auto& [keycode, held] : m_keys) down.set(keycode);
+        return down;
     }
 
     /// The keys that this keyboard was the first to press.

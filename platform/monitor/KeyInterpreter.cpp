@@ -1,12 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "platform/monitor/KeyInterpreter.h"
 
+#include <algorithm>
+
 #include "platform/XkbCodes.h"
 
 namespace {
 
 /// Escape by its position, as the manual calls it.
 constexpr std::uint8_t escapeKeycode = xkbcode::fromEvdev(1);
+
+bool isPress(const Delivery& delivery) {
+    const auto* event = std::get_if<KeyEvent>(&delivery);
+    return event != nullptr &&
+           (event->kind == KeyEventKind::keyDown || event->kind == KeyEventKind::autoRepeat);
+}
 
 }  // namespace
 
@@ -112,6 +120,12 @@ void KeyInterpreter::dropHotKeys(const std::function<bool(HotKeyId)>& dropped) {
     });
     m_held.dropHotKeys(dropped);
 }
+
+bool KeyInterpreter::hasPresses() const {
+    return std::any_of(m_deliveries.begin(), m_deliveries.end(), isPress);
+}
+
+void KeyInterpreter::dropPresses() { m_deliveries.eraseIf(isPress); }
 
 void KeyInterpreter::startWith(const std::vector<std::uint8_t>& keycodes) {
     for (const std::uint8_t keycode : keycodes) {

@@ -64,6 +64,10 @@ class KeyInterpreter {
     /// up.
     void dropHotKeys(const std::function<bool(HotKeyId)>& dropped);
 
+    /// Whether key presses or repeats are among what is to be delivered; these are taken back.
+    bool hasPresses() const;
+    void dropPresses();
+
     /// What is to be delivered, oldest first.
     WipedQueue<Delivery>& deliveries() { return m_deliveries; }
 

@@ -13,6 +13,8 @@ class NoEventMonitor final : public EventMonitor {
     Result<void> install(Handler /*handler*/) override { return m_why; }
     void setWithheld(bool /*withheld*/) override {}
     void setKeepsOwnStrokes(bool /*keeps*/) override {}
+    void setRecording(bool /*recording*/) override {}
+    void observeHold(std::function<void(bool)> /*changed*/) override {}
 
   private:
     Error m_why;

@@ -34,8 +34,11 @@ class RunWatch {
     /// The program itself wishes to stop.
     virtual void stopPlayback() = 0;
     /// Whether the user has asked to stop since then: a hot key that cancels, or Escape held for 0.3 s
-    /// that is none of the script's. As of the last drain(), and of the clock.
+    /// that is none of the script's; or has locked the screen. As of the last drain(), and of the clock.
     virtual bool isCancelled() const = 0;
+    /// Whether another program may be locking the screen, which is soon known: no key is to be pressed until
+    /// then. As of the last drain().
+    virtual bool mayBeLocked() const { return false; }
     /// Whether the X server is gone. As of the last drain().
     virtual bool isLost() const = 0;
     /// When a held Escape will have become a wish to stop; empty while it is up.

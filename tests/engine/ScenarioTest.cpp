@@ -313,6 +313,18 @@ TEST_F(ScenarioTest, whileTheScreenIsLockedNothingIsRecorded) {
     EXPECT_EQ(overlay(), "a");
 }
 
+TEST_F(ScenarioTest, whileAnotherProgramHasTheKeyboardNothingIsRecorded) {
+    user.strikesRecord();
+    EXPECT_TRUE(platform().eventMonitor.isRecording());
+    platform().eventMonitor.programHoldsKeyboard(true);
+    user.types("secret");
+    platform().eventMonitor.programHoldsKeyboard(false);
+    user.types("a");
+    EXPECT_EQ(overlay(), "a");
+    user.strikesStop();
+    EXPECT_FALSE(platform().eventMonitor.isRecording());
+}
+
 TEST_F(ScenarioTest, afterTheUpdateNoticeWasFollowedStopPutsTheMenuBack) {
     recordTyping("a");
     platform().journal.clear();

@@ -6,6 +6,13 @@
 
 namespace x11 {
 
+namespace {
+
+/// At who has the keyboard.
+constexpr std::chrono::milliseconds betweenLooks{10};
+
+}  // namespace
+
 X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionPlan plan,
                                          std::function<void()> ended)
     : m_tools(tools),
@@ -81,12 +88,21 @@ Step<XkbComponents> X11InjectionSession::checkHands() {
     return state;
 }
 
+/// What is typed into a locker's question may be a part of nothing that its user wants to have there.
+Step<> X11InjectionSession::awaitOpenScreen() {
+    auto heeded = m_waiter.heedUser();
+    while (heeded && m_tools.watch.mayBeLocked()) {
+        heeded = m_waiter.waitUntil(m_tools.clock.now() + betweenLooks);
+    }
+    return heeded;
+}
+
 Step<> X11InjectionSession::prepareStroke() {
     if (!m_hasBegun || m_rests) {
         if (auto begun = begin(); !begun) return begun;
         m_held.pressAgain();
     }
-    if (auto heeded = m_waiter.heedUser(); !heeded) return heeded;
+    if (auto heeded = awaitOpenScreen(); !heeded) return heeded;
     const auto state = checkHands();
     if (!state) return state.error();
     m_sender.meet(state.value());

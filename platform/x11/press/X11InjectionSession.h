@@ -54,6 +54,7 @@ class X11InjectionSession final : public InjectionSession {
     /// Begins if that has not been done, looks whether the user wishes to stop, waits for his hands and
     /// brings the locks in order.
     Step<> prepareStroke();
+    Step<> awaitOpenScreen();
 
     Step<> play(const Stroke& stroke);
     Step<> type(std::string_view text, std::uint32_t modifiers);

@@ -30,6 +30,15 @@ Result<void> X11EventManager::install(EventMonitor::Handler handler) {
 
 void X11EventManager::setWithheld(bool withheld) { m_parts->setWithheld(withheld); }
 void X11EventManager::setKeepsOwnStrokes(bool keeps) { m_parts->setKeepsOwnStrokes(keeps); }
+void X11EventManager::setRecording(bool recording) { m_parts->setRecording(recording); }
+
+void X11EventManager::observeHold(std::function<void(bool held)> changed) {
+    m_parts->observeHold(std::move(changed));
+}
+
+void X11EventManager::endPlaysWhen(std::function<bool()> isLocked) {
+    m_parts->endPlaysWhen(std::move(isLocked));
+}
 
 void X11EventManager::install(HotKeys::Handler pressed, HotKeys::Handler released) {
     m_parts->setHotKeyHandlers(std::move(pressed), std::move(released));

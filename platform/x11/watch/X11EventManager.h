@@ -46,6 +46,9 @@ class X11EventManager final : public EventSource, public EventMonitor, public Ho
     /// While the screen is locked neither key presses nor hot keys are delivered, modifier changes go on.
     void setScreenLocked(bool locked);
 
+    /// A playback ends where that answers true: the screen is locked, as others tell.
+    void endPlaysWhen(std::function<bool()> isLocked);
+
     /// What the injector needs while a run lasts (platform/run/RunWatch.h).
     RunWatch& runWatch();
     /// The keyboard's map and state as of the last event read.
@@ -55,6 +58,8 @@ class X11EventManager final : public EventSource, public EventMonitor, public Ho
     Result<void> install(EventMonitor::Handler handler) override;
     void setWithheld(bool withheld) override;
     void setKeepsOwnStrokes(bool keeps) override;
+    void setRecording(bool recording) override;
+    void observeHold(std::function<void(bool held)> changed) override;
 
     // HotKeys
     void install(HotKeys::Handler pressed, HotKeys::Handler released) override;

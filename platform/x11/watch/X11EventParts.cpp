@@ -8,6 +8,8 @@ namespace x11 {
 namespace {
 
 constexpr std::chrono::milliseconds keymapDebounce{20};
+/// Who has the keyboard, while a macro is being recorded.
+constexpr std::chrono::milliseconds betweenLooks{100};
 
 /// True for the life of the scope.
 class FlagScope {
@@ -32,6 +34,9 @@ Result<std::unique_ptr<X11EventManager::Parts>> X11EventManager::Parts::open(con
     if (!grabs) return grabs.error();
     Result<std::unique_ptr<Keymap>> keymap = raw.value()->keymap();
     if (!keymap) return keymap.error();
+    auto holds = HoldWatch::open(display, grabs.value()->connection());
+    if (!holds) return holds.error();
+    opened.holds = std::move(holds).value();
     opened.raw = std::move(raw).value();
     opened.grabs = std::move(grabs).value();
     opened.keymap = std::move(keymap).value();
@@ -48,6 +53,7 @@ X11EventManager::Parts::Parts(const Clock& clock, Opened opened)
     : m_raw(std::move(opened.raw)),
       m_grabs(std::move(opened.grabs)),
       m_repeats(std::move(opened.repeats)),
+      m_holds(std::move(opened.holds)),
       m_problem(std::move(opened.problem)),
       m_keyboard(std::move(opened.keymap), m_raw->components()),
       m_cancel(clock),
@@ -55,7 +61,8 @@ X11EventManager::Parts::Parts(const Clock& clock, Opened opened)
       m_hotKeys(*m_grabs, m_keyboard),
       m_interpreter(m_keyboard, m_cancel),
       m_order({*m_raw, *m_grabs, m_repeats.get()}, {m_hotKeys, m_own, m_hands, m_cancel, m_keyboard},
-              m_interpreter, [this] { m_wakeups.startTimer(keymapDebounce); }) {
+              m_interpreter, [this] { m_wakeups.startTimer(keymapDebounce); }),
+      m_clock(clock) {
     m_wakeups.watch(m_raw->connection().fileDescriptor());
     m_wakeups.watch(m_grabs->connection().fileDescriptor());
     if (m_repeats) {
@@ -76,7 +83,7 @@ void X11EventManager::Parts::dispatch() {
     while (!deliveries.empty()) {
         // A stop may have come since, which takes back a play that has not begun.
         if (std::holds_alternative<HotKeyEvent>(deliveries.front())) read();
-        if (deliveries.empty()) break;
+        if (deliveries.empty() || waitsForVerdict()) break;
         const Delivery delivery = deliveries.takeFront();
         std::visit([this](const auto& event) { deliver(event); }, delivery);
     }
@@ -93,8 +100,48 @@ void X11EventManager::Parts::read() {
     if (isBroken()) return giveUp();
     m_order.workOff();
     heedEscape();
+    followHold();
     if (m_wakeups.takeTimer()) followKeymap();
     watchRepeats();
+}
+
+/// Looks again and again while a macro is recorded or played, and with each key press.
+void X11EventManager::Parts::followHold() {
+    const bool ticked = m_wakeups.takeTick();
+    if (!m_running && !m_recording) return;
+    if (m_running || ticked || m_interpreter.hasPresses()) lookWhoHoldsTheKeyboard();
+}
+
+void X11EventManager::Parts::lookWhoHoldsTheKeyboard() {
+    const bool wasShut = m_hold.isShut();
+    m_hold.look(m_clock.now(), m_holds->look(m_clock.now()), m_interpreter.held().keycodes());
+    // The question may have brought events along, of which no descriptor tells any more.
+    m_order.workOff();
+    // What came before the look belongs to what held then.
+    if (m_recording && (wasShut || m_hold.isShut())) m_interpreter.dropPresses();
+    if (m_running && m_hold.verdict() == KeyboardHold::Verdict::locked) m_cancel.cancel();
+    const bool isHeld = m_recording && m_hold.isShut();
+    if (std::exchange(m_toldHeld, isHeld) != isHeld && m_holdChanged) m_holdChanged(isHeld);
+}
+
+bool X11EventManager::Parts::waitsForVerdict() const {
+    return m_recording && m_hold.verdict() == KeyboardHold::Verdict::undecided;
+}
+
+void X11EventManager::Parts::setRecording(bool recording) {
+    if (std::exchange(m_recording, recording) == recording) return;
+    catchUp();
+    m_holds->follow(m_recording || m_running);
+    m_wakeups.tickEvery(m_recording ? betweenLooks : std::chrono::milliseconds(0));
+    if (!m_recording) m_hold.reset();
+    if (!m_recording) m_toldHeld = false;
+    kick();
+}
+
+bool X11EventManager::Parts::mayBeLocked() const { return m_running && m_hold.mayBeLocked(); }
+
+bool X11EventManager::Parts::isCancelled() const {
+    return m_cancel.isCancelled() || (m_isLocked && m_isLocked());
 }
 
 void X11EventManager::Parts::heedEscape() {
@@ -144,6 +191,8 @@ void X11EventManager::Parts::followKeymap() {
 void X11EventManager::Parts::runStarts() {
     if (m_repeats) m_repeats->pause();
     m_running = true;
+    m_hold.reset();
+    m_holds->follow(true);
 }
 
 void X11EventManager::Parts::runEnds() {
@@ -151,6 +200,8 @@ void X11EventManager::Parts::runEnds() {
     heedEscape();
     if (m_repeats) m_repeats->resume();
     m_running = false;
+    m_hold.reset();
+    m_holds->follow(m_recording);
     kick();
 }
 

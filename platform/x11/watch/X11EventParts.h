@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
 #include "platform/EventMonitor.h"
+#include "platform/monitor/KeyboardHold.h"
 #include "platform/run/RunWatch.h"
 #include "platform/x11/watch/EventOrder.h"
+#include "platform/x11/watch/HoldWatch.h"
 #include "platform/x11/watch/Wakeups.h"
 #include "platform/x11/watch/X11EventManager.h"
 
@@ -29,8 +32,9 @@ class X11EventManager::Parts final : public RunWatch {
     void drain() override;
     void startPlayback() override { m_cancel.start(); }
     void stopPlayback() override { m_cancel.cancel(); }
-    bool isCancelled() const override { return m_cancel.isCancelled(); }
+    bool isCancelled() const override;
     bool isLost() const override { return isBroken(); }
+    bool mayBeLocked() const override;
     std::optional<Clock::Time> cancelDeadline() const override { return m_cancel.deadline(); }
     void settleOwnKeys() override;
     bool handsHoldKeys() const override { return m_hands.any(); }
@@ -51,6 +55,9 @@ class X11EventManager::Parts final : public RunWatch {
     void setWithheld(bool withheld);
     void setScreenLocked(bool locked);
     void setKeepsOwnStrokes(bool keeps);
+    void setRecording(bool recording);
+    void observeHold(std::function<void(bool)> changed) { m_holdChanged = std::move(changed); }
+    void endPlaysWhen(std::function<bool()> isLocked) { m_isLocked = std::move(isLocked); }
     /// Something may have been read in passing; the loop is to look.
     void kick() { m_wakeups.kick(); }
 
@@ -59,6 +66,7 @@ class X11EventManager::Parts final : public RunWatch {
         std::unique_ptr<RawKeySource> raw;
         std::unique_ptr<HotKeyGrabs> grabs;
         std::unique_ptr<RepeatSource> repeats;
+        std::unique_ptr<HoldWatch> holds;
         std::unique_ptr<Keymap> keymap;
         std::optional<Error> problem;
     };
@@ -66,6 +74,9 @@ class X11EventManager::Parts final : public RunWatch {
 
     void read();
     void heedEscape();
+    void followHold();
+    void lookWhoHoldsTheKeyboard();
+    bool waitsForVerdict() const;
     void catchUp();
     void mute();
     void followKeymap();
@@ -77,6 +88,7 @@ class X11EventManager::Parts final : public RunWatch {
     std::unique_ptr<RawKeySource> m_raw;
     std::unique_ptr<HotKeyGrabs> m_grabs;
     std::unique_ptr<RepeatSource> m_repeats;
+    std::unique_ptr<HoldWatch> m_holds;
     std::optional<Error> m_problem;
     KeyboardState m_keyboard;
     CancelWatch m_cancel;
@@ -86,11 +98,17 @@ class X11EventManager::Parts final : public RunWatch {
     KeyInterpreter m_interpreter;
     EventOrder m_order;
     Wakeups m_wakeups;
+    const Clock& m_clock;
+    KeyboardHold m_hold;
 
     EventMonitor::Handler m_handler;
     HotKeys::Handler m_pressed;
     HotKeys::Handler m_released;
+    std::function<void(bool)> m_holdChanged;
+    std::function<bool()> m_isLocked;
     std::uint32_t m_lastPressTime = 0;
+    bool m_recording = false;
+    bool m_toldHeld = false;
     bool m_withheld = false;
     bool m_screenLocked = false;
     bool m_running = false;
