@@ -84,9 +84,10 @@ void playTimes(std::int32_t count) {
     scripting.startPlayback();
     for (std::int32_t run = 0; run < count; ++run) {
         AppleScript::runAppleScript(script);
-        if (scripting.isCancelled()) return;
+        if (scripting.isCancelled()) break;
         services().clock.sleepFor(pauseAfterRun);
     }
+    if (SharedController* controller = sharedController()) controller->playbackEnded();
 }
 
 std::int32_t playCountFromText(std::string_view text) {

@@ -29,6 +29,9 @@ class SharedController {
     /// The current macro has become another one, or none, without a recording. Of interest only where it can
     /// be seen whether there is one.
     virtual void currentMacroChanged() {}
+
+    /// A play command has ended. Of interest only where it can be told what failed in it.
+    virtual void playbackEnded() {}
 };
 
 /// Installs the controller for the life of the scope. Scopes nest; the inner one counts.

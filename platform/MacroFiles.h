@@ -16,7 +16,8 @@ class MacroFiles {
     virtual std::string prepareFolder() = 0;
 
     /// A file's whole text in UTF-8, without byte order mark. Files are UTF-8 or UTF-16 with a byte order
-    /// mark, UTF-8 without one, or else MacRoman. The error tells why the file cannot be read.
+    /// mark, UTF-8 without one, or else MacRoman. The error tells why the file cannot be read; one that is
+    /// larger than a script may be (largestScript in platform/ScriptingService.h) cannot, nor can its text.
     virtual Result<std::string> read(const std::string& path) const = 0;
 
     /// Writes a file whole, or leaves what was there as it was, also when the machine stops meanwhile. A new

@@ -37,13 +37,14 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_gate(services.eventMonitor, [this] { followGate(); }),
       m_dialogs(dialogs, m_gate),
       m_scriptQuestions(m_dialogs, services.keyInjector, services.notifications),
+      m_scriptNotices(services.scripting, services.notifications),
       m_shared(*this),
       m_stage(windows, [this] { return ordinaryWindows(); }),
       m_menuDesk(item, [this](const MenuState& state) { m_overlayDesk.setPromptPlays(state.promptPlays); }),
       m_overlayDesk(m_stage, services.clock, services.hotKeys),
       m_updateDesk(services.updateService, services.workspace, m_dialogs),
       m_helpDesk(services.workspace, services.systemFacts, m_stage),
-      m_filesDesk(services.macroFiles, services.notifications, m_dialogs, m_gate, m_stage),
+      m_filesDesk(services.macroFiles, services.notifications, m_scriptNotices, m_dialogs, m_gate, m_stage),
       m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, m_dialogs, m_stage),
       statusItem(item) {
     timer.setSingleShot(true);

@@ -18,6 +18,7 @@
 #include "app/controller/MenuDesk.h"
 #include "app/controller/OverlayDesk.h"
 #include "app/controller/PreferencesDesk.h"
+#include "app/controller/ScriptNotices.h"
 #include "app/controller/ScriptQuestions.h"
 #include "app/controller/Stage.h"
 #include "app/controller/StatusNotice.h"
@@ -70,6 +71,7 @@ class AppController : public QObject, public SharedController {
     void addMacro(const boost::shared_ptr<Macro>& macro) override;
     void setMacroString(const std::string& text) override;
     void currentMacroChanged() override;
+    void playbackEnded() override;
     /// Makes the macro of a MacroMenuItem the current one and plays it; other senders are ignored.
     void runMacro(QObject* sender);
     void recordMacro(QObject* sender);
@@ -146,6 +148,7 @@ class AppController : public QObject, public SharedController {
     Gate m_gate;
     GatedDialogs m_dialogs;
     ScriptQuestions m_scriptQuestions;
+    ScriptNotices m_scriptNotices;
     SharedControllerScope m_shared;
     Stage m_stage;
     MenuDesk m_menuDesk;

@@ -128,6 +128,8 @@ void AppController::setMacroString(const std::string& text) { m_overlayDesk.setM
 
 void AppController::currentMacroChanged() { m_menuDesk.update(); }
 
+void AppController::playbackEnded() { m_scriptNotices.tellOfPlayback(); }
+
 void AppController::runMacro(QObject* sender) {
     if (sender == nullptr || std::strcmp(sender->metaObject()->className(), "MacroMenuItem") != 0) return;
     const boost::shared_ptr<Macro> macro =
@@ -137,6 +139,7 @@ void AppController::runMacro(QObject* sender) {
     m_stage.awaitFocusElsewhere(nullptr);
     m_services.scripting.startPlayback();
     AppleScript::runAppleScript(script);
+    playbackEnded();
 }
 
 void AppController::recordMacro(QObject* /*sender*/) { toggleRecording(); }

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "app/controller/Gate.h"
+#include "app/controller/ScriptNotices.h"
 #include "app/controller/Stage.h"
 #include "app/controller/TildeExpansion.h"
 #include "app/dialogs/AlertTexts.h"
@@ -17,9 +18,14 @@
 #include "platform/Notifications.h"
 #include "prefs/KeyCombo.h"
 
-FilesDesk::FilesDesk(MacroFiles& files, Notifications& notifications, Dialogs& dialogs, const Gate& gate,
-                     Stage& stage)
-    : m_files(files), m_notifications(notifications), m_dialogs(dialogs), m_gate(gate), m_stage(stage) {}
+FilesDesk::FilesDesk(MacroFiles& files, Notifications& notifications, ScriptNotices& scriptNotices,
+                     Dialogs& dialogs, const Gate& gate, Stage& stage)
+    : m_files(files),
+      m_notifications(notifications),
+      m_scriptNotices(scriptNotices),
+      m_dialogs(dialogs),
+      m_gate(gate),
+      m_stage(stage) {}
 
 void FilesDesk::save() {
     if (!engineState().currentMacro) return;
@@ -36,7 +42,7 @@ void FilesDesk::load() {
     m_stage.unhide();
     const QString folder = QString::fromStdString(m_files.prepareFolder());
     const QString path = withTildeExpanded(m_dialogs.runOpenPanel(folder), QDir::homePath());
-    if (!path.isEmpty()) loadFrom(path);
+    if (!path.isEmpty() && loadFrom(path)) isBroken(path);
 }
 
 bool FilesDesk::loadFrom(const QString& path) {
@@ -59,12 +65,16 @@ void FilesDesk::open(const QString& path, KeyCombo play) {
         post(tr("\"%1\" was not loaded").arg(name), tr("The screen is locked. Unlock it first."));
     } else if (!m_gate.isOpen()) {
         post(tr("\"%1\" was not loaded").arg(name), tr("Answer Keyrill's question first."));
-    } else if (loadFrom(path)) {
+    } else if (loadFrom(path) && !isBroken(path)) {
         const QString combination = combinationText(play);
         post(tr("\"%1\" is loaded").arg(name),
              combination.isEmpty() ? tr("Choose a shortcut for Play in the preferences to play it.")
                                    : tr("Press %1 to play it.").arg(combination));
     }
+}
+
+bool FilesDesk::isBroken(const QString& path) {
+    return m_scriptNotices.tellOfLoaded(QFileInfo(path).fileName(), engineState().currentMacro->script());
 }
 
 void FilesDesk::post(const QString& title, const QString& text) {

@@ -8,6 +8,7 @@ class Dialogs;
 class Gate;
 class MacroFiles;
 class Notifications;
+class ScriptNotices;
 class Stage;
 struct KeyCombo;
 
@@ -17,25 +18,28 @@ class FilesDesk {
 
   public:
     /// All outlive the desk.
-    FilesDesk(MacroFiles& files, Notifications& notifications, Dialogs& dialogs, const Gate& gate,
-              Stage& stage);
+    FilesDesk(MacroFiles& files, Notifications& notifications, ScriptNotices& scriptNotices, Dialogs& dialogs,
+              const Gate& gate, Stage& stage);
 
     /// Asks where to and saves the current macro, if there is one.
     void save();
-    /// Asks which and loads it.
+    /// Asks which and loads it, and tells if it cannot be played.
     void load();
     /// Makes the file's text the current macro; true if it could be read. Otherwise the user is told and the
     /// current macro stays.
     bool loadFrom(const QString& path);
     /// Loads a file that was not asked for from within the program, and notifies the user, who plays it by
-    /// that combination. Not during a recording or while a question is open.
+    /// that combination if it can be played. Not during a recording or while a question is open.
     void open(const QString& path, KeyCombo play);
 
   private:
+    /// Whether the macro that has just been loaded from there cannot be played, which has been told.
+    bool isBroken(const QString& path);
     void post(const QString& title, const QString& text);
 
     MacroFiles& m_files;
     Notifications& m_notifications;
+    ScriptNotices& m_scriptNotices;
     Dialogs& m_dialogs;
     const Gate& m_gate;
     Stage& m_stage;

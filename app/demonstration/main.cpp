@@ -29,6 +29,8 @@ class PrintingController : public SharedController {
     void showRecordingGui() override { m_controller.showRecordingGui(); }
     void hideRecordingGui() override { m_controller.hideRecordingGui(); }
     void showMultiplePlayGui() override { m_controller.showMultiplePlayGui(); }
+    void currentMacroChanged() override { m_controller.currentMacroChanged(); }
+    void playbackEnded() override { m_controller.playbackEnded(); }
 
     void addMacro(const boost::shared_ptr<Macro>& macro) override {
         m_controller.addMacro(macro);

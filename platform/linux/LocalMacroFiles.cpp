@@ -8,6 +8,7 @@
 
 #include "platform/AsciiText.h"
 #include "platform/Encoding.h"
+#include "platform/ScriptingService.h"
 #include "platform/linux/GLibPointers.h"
 #include "platform/linux/WholeFile.h"
 
@@ -29,9 +30,11 @@ std::string LocalMacroFiles::prepareFolder() {
 }
 
 Result<std::string> LocalMacroFiles::read(const std::string& path) const {
-    auto content = WholeFile(path).read();
+    auto content = WholeFile(path).read(largestScript);
     if (!content) return content.error();
-    return decodedText(std::move(content).value());
+    std::string text = decodedText(std::move(content).value());
+    if (text.size() <= largestScript) return text;
+    return Error{"The file " + path + " cannot be read: It is larger than 16 MiB", "Choose a smaller file."};
 }
 
 Result<> LocalMacroFiles::write(const std::string& path, std::string_view text) {

@@ -19,7 +19,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t greatestSize = std::size_t{64} * 1024 * 1024;
 constexpr mode_t modeOfNewFiles = 0600;
 
 constexpr std::size_t portion = 65536;
@@ -33,9 +32,9 @@ std::optional<struct stat> statusOf(const std::string& path) {
 }
 
 /// Up to one byte more than is allowed, so that it shows where a file is larger.
-Result<std::string> contentOf(const Descriptor& file) {
+Result<std::string> contentOf(const Descriptor& file, std::size_t most) {
     std::string content;
-    while (content.size() <= greatestSize) {
+    while (content.size() <= most) {
         const std::size_t before = content.size();
         content.resize(before + portion);
         const ssize_t count = ::read(file.number(), content.data() + before, portion);
@@ -83,13 +82,14 @@ std::string WholeFile::target() const {
 
 bool WholeFile::isAbsent() const { return !statusOf(m_path) && (errno == ENOENT || errno == ENOTDIR); }
 
-Result<std::string> WholeFile::read() const {
+Result<std::string> WholeFile::read(std::size_t most) const {
     const auto file = openRegularFile(m_path);
     if (!file) return cannot("read", file.error());
-    auto content = contentOf(file.value());
+    auto content = contentOf(file.value(), most);
     if (!content) return cannot("read", content.error());
-    if (content.value().size() > greatestSize) return cannot("read", {"It is larger than 64 MiB", ""});
-    return content;
+    if (content.value().size() <= most) return content;
+    return cannot("read",
+                  {"It is larger than " + std::to_string(most >> 20U) + " MiB", "Choose a smaller file."});
 }
 
 Result<> WholeFile::write(std::string_view content, std::optional<mode_t> mode) const {

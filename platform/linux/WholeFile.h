@@ -3,6 +3,7 @@
 
 #include <sys/types.h>
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,8 +23,12 @@ class WholeFile {
     /// Whether there is nothing to read: neither a file nor anything else.
     bool isAbsent() const;
 
-    /// The content. Fails for all that is not a regular file (RegularFile.h), and above 64 MiB.
-    Result<std::string> read() const;
+    /// More is read of no file.
+    static constexpr std::size_t greatestSize = std::size_t{64} << 20U;
+
+    /// The content. Fails for all that is not a regular file (RegularFile.h), and above `most` bytes, which
+    /// are whole MiB.
+    Result<std::string> read(std::size_t most = greatestSize) const;
 
     /// Replaces the content: once it returns, that is on the disk; whatever goes wrong, a crash of the
     /// machine among it, the old file is there as it was. Links stay, and root leaves a file its owner.

@@ -61,6 +61,40 @@ keystroke "cd")");
     EXPECT_EQ(world().typed(), "abef");
 }
 
+TEST_P(ScriptingServiceContract, aTextThatDoesNotCompileIsFoundWithoutRunningIt) {
+    const auto failure = scripting().check("beep\nrepeat\n");
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_FALSE(failure->hasBegun);
+    EXPECT_EQ(failure->line, 3U);
+    EXPECT_NE(failure->error.message, "");
+    EXPECT_EQ(scripting().check("beep\n"), std::nullopt);
+    EXPECT_EQ(scripting().takeFailure(), std::nullopt);
+}
+
+TEST_P(ScriptingServiceContract, theFirstFailureOfAPlaybackIsKeptUntilItIsTaken) {
+    tell(R"(keystroke "ab"
+delay "x")");
+    scripting().run("repeat");
+    const auto failure = scripting().takeFailure();
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_TRUE(failure->hasBegun);
+    EXPECT_EQ(failure->line, 3U);
+    EXPECT_NE(failure->error.message, "");
+    EXPECT_EQ(scripting().takeFailure(), std::nullopt);
+}
+
+TEST_P(ScriptingServiceContract, theNextPlaybackForgetsFailures) {
+    scripting().run("repeat");
+    scripting().startPlayback();
+    EXPECT_EQ(scripting().takeFailure(), std::nullopt);
+}
+
+TEST_P(ScriptingServiceContract, aCancelledRunHasNotFailed) {
+    world().userAsksToStop();
+    tell(R"(keystroke "ab")");
+    EXPECT_EQ(scripting().takeFailure(), std::nullopt);
+}
+
 TEST_P(ScriptingServiceContract, aPlaybackIsNotCancelledUntilTheUserAsks) {
     tell(R"(keystroke "ab")");
     EXPECT_FALSE(scripting().isCancelled());

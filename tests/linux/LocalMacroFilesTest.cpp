@@ -52,6 +52,19 @@ TEST_F(LocalMacroFilesTest, neverMakesTheFoldersParents) {
     EXPECT_TRUE(fs::is_empty(home.file("Library")));
 }
 
+TEST_F(LocalMacroFilesTest, readsNothingThatIsLargerThanAScript) {
+    constexpr std::size_t largest = std::size_t{16} * 1024 * 1024;
+    put(std::string(largest, 'x'));
+    EXPECT_EQ(readBack().size(), largest);
+    const Error tooLarge{"The file " + file + " cannot be read: It is larger than 16 MiB",
+                         "Choose a smaller file."};
+    put(std::string(largest + 1, 'x'));
+    EXPECT_EQ(files.read(file).error(), tooLarge);
+    // In MacRoman one byte, in UTF-8 two: the script would be larger than the file.
+    put(std::string(largest, '\x8E'));
+    EXPECT_EQ(files.read(file).error(), tooLarge);
+}
+
 TEST_F(LocalMacroFilesTest, elseMakesTheDataFolderForTheUserAlone) {
     EXPECT_EQ(files.prepareFolder(), home.file("data/keyrill"));
     EXPECT_FALSE(fs::exists(home.file("Library")));

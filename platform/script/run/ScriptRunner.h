@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/KeyInjector.h"
 #include "platform/ScriptingService.h"
@@ -9,7 +11,7 @@
 
 namespace script {
 
-/// The program's own view of the language: compiles and runs, and reports nothing.
+/// The program's own view of the language: compiles and runs, and tells only who asks.
 class ScriptRunner : public ScriptingService {
   public:
     /// Both outlive the runner. Nobody can be asked.
@@ -18,16 +20,22 @@ class ScriptRunner : public ScriptingService {
     /// From now on scripts can ask. `dialogs` outlives the last run.
     void askThrough(ScriptDialogs& dialogs) { m_dialogs = &dialogs; }
 
-    void startPlayback() override { m_injector.startPlayback(); }
+    std::optional<ScriptFailure> check(const std::string& source) override;
+    void startPlayback() override;
     void run(const std::string& source) override;
     bool isCancelled() override { return m_injector.isCancelled(); }
+    std::optional<ScriptFailure> takeFailure() override { return std::exchange(m_failure, std::nullopt); }
 
   private:
+    /// Why the run did not do what the text says.
+    std::optional<ScriptFailure> runOnce(const std::string& source);
+
     KeyInjector& m_injector;
     ScriptDesktop& m_desktop;
     NoDialogs m_noDialogs;
     ScriptDialogs* m_dialogs = &m_noDialogs;
     bool m_running = false;
+    std::optional<ScriptFailure> m_failure;
 };
 
 }  // namespace script

@@ -59,6 +59,18 @@ TEST_F(MacroFilesTest, playsAnyTextThatWasLoaded) {
     EXPECT_EQ(runs(), std::vector<std::string>{"beep\n"});
 }
 
+TEST_F(MacroFilesTest, tellsOfALoadedTextThatCannotBePlayed) {
+    platform().macroFiles.put(path(), "tell\n");
+    platform().scripting.refuse("tell\n",
+                                {.hasBegun = false, .line = 1, .error = {"Expected more.", "Add it."}});
+    load();
+    EXPECT_EQ(state().currentMacro->script(), "tell\n");
+    EXPECT_EQ(
+        platform().notifications.messages(),
+        (std::vector<FakeNotifications::Message>{
+            {R"("greeting.keyrill" is loaded but cannot be played)", "Line 1: Expected more.\nAdd it."}}));
+}
+
 TEST_F(MacroFilesTest, doesNothingWithoutAMacroToSave) {
     save();
     EXPECT_TRUE(dialogs.filePanels.empty());
@@ -169,6 +181,15 @@ TEST_F(MacroFilesTest, loadsAFileFromOutsideWithoutPlayingItAndSaysHowToPlay) {
     EXPECT_EQ(platform().notifications.messages(),
               (std::vector<FakeNotifications::Message>{
                   {R"("greeting.keyrill" is loaded)", "Press Ctrl+Super+P to play it."}}));
+}
+
+TEST_F(MacroFilesTest, doesNotSayHowToPlayWhatCannotBePlayed) {
+    platform().macroFiles.put(path(), "tell\n");
+    platform().scripting.refuse("tell\n", {.hasBegun = false, .line = 1, .error = {"Expected more.", ""}});
+    controller.openMacroFile(file);
+    EXPECT_EQ(platform().notifications.messages(),
+              (std::vector<FakeNotifications::Message>{
+                  {R"("greeting.keyrill" is loaded but cannot be played)", "Line 1: Expected more."}}));
 }
 
 TEST_F(MacroFilesTest, saysHowToPlayWithoutACombination) {

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include <sys/stat.h>
+
+#include <fstream>
+
+#include "desktop/DesktopTest.h"
+
+namespace {
+
+/// A macro that cannot do what it says, on a desktop with a notification service.
+class BrokenMacroTest : public DesktopTest {
+  protected:
+    BrokenMacroTest() {
+        const std::string commands = desktop.file("commands");
+        mkfifo(commands.c_str(), 0600);
+        desktop.startBus();
+        m_service.emplace(
+            std::vector<std::string>{KEYRILL_BUS_STANDIN, desktop.bus().address(), commands, "notifications"},
+            desktop.options("notifications.log"));
+        EXPECT_TRUE(eventually([this] { return messages().find("ready\n") != std::string::npos; }));
+    }
+
+    /// The program with that macro loaded.
+    void start(const std::string& script) {
+        const std::string file = desktop.file("broken.keyrill");
+        std::ofstream(file) << script;
+        m_keyrill.emplace(std::vector<std::string>{KEYRILL_PRODUCT, file}, desktop.options("product.log"));
+        ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
+        awaitMessages("\"broken.keyrill\" is loaded", 1);
+    }
+    /// A line for each, as the service got it.
+    std::string messages() const { return contentOf(desktop.file("notifications.log")); }
+    std::size_t count(const std::string& part) const {
+        const std::string all = messages();
+        std::size_t found = 0;
+        for (std::size_t at = all.find(part); at != std::string::npos; at = all.find(part, at + 1)) ++found;
+        return found;
+    }
+
+    void awaitMessages(const std::string& title, std::size_t number) const {
+        EXPECT_TRUE(eventually([&] { return count("'" + title) == number; })) << messages();
+    }
+
+    const Terminal terminal{desktop.display()};
+
+  private:
+    std::optional<Child> m_service;
+    std::optional<Child> m_keyrill;
+};
+
+TEST_F(BrokenMacroTest, isToldWithLineMessageAndHintWhenItIsLoadedAndWhenItIsPlayed) {
+    const std::string line =
+        "Line 2: Expected “to” but found “=”.\\nA variable is set with “to”: set x to 5.";
+    start("beep\nset x = 5\n");
+    awaitMessages("\"broken.keyrill\" is loaded but cannot be played', '" + line + "',", 1);
+    play();
+    awaitMessages("The macro cannot be played', '" + line + "',", 1);
+    press("period");
+    EXPECT_EQ(terminal.typed(1), ".");
+}
+
+TEST_F(BrokenMacroTest, isToldOnceHoweverOftenAPlayCommandPlaysIt) {
+    start("tell application \"System Events\" to keystroke \"a\"\nget 1 / 0\n");
+    press("ctrl+super+m");
+    desktop.awaitFocus(title::prompt);
+    press("3");
+    press("Return");
+    EXPECT_EQ(terminal.typed(3), "aaa");
+    awaitMessages("The macro was not played to its end', 'Line 2: Can’t divide 1 by zero.',", 1);
+    play();
+    EXPECT_EQ(terminal.typed(4), "aaaa");
+    awaitMessages("The macro was not played to its end', 'Line 2: Can’t divide 1 by zero.',", 2);
+    press("period");
+    EXPECT_EQ(terminal.typed(5), "aaaa.");
+}
+
+}  // namespace
