@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include "app/dialogs/MacroFileName.h"
+
 namespace {
 
 QString tr(const char* text) { return QCoreApplication::translate("Alerts", text); }
@@ -15,12 +17,11 @@ QString explained(const Error& error) {
                               : message + QStringLiteral("\n\n") + QString::fromStdString(error.hint);
 }
 
-AlertText warning(const QString& title, const Error& error) {
-    return {.kind = AlertText::Kind::warning,
-            .title = title,
-            .message = explained(error),
-            .defaultButton = tr("OK")};
+AlertText warning(const QString& title, const QString& message) {
+    return {.kind = AlertText::Kind::warning, .title = title, .message = message, .defaultButton = tr("OK")};
 }
+
+AlertText warning(const QString& title, const Error& error) { return warning(title, explained(error)); }
 
 QString nameOf(const QString& path) { return QFileInfo(path).fileName(); }
 
@@ -71,6 +72,25 @@ AlertText macroNotSaved(const QString& path, const Error& error) {
 
 AlertText macroNotLoaded(const QString& path, const Error& error) {
     return warning(tr("No macro was loaded from \"%1\".").arg(nameOf(path)), error);
+}
+
+AlertText replaceFile(const QString& path) {
+    return {.kind = AlertText::Kind::warning,
+            .title = tr("\"%1\" is there already.").arg(nameOf(path)),
+            .message = tr("Do you want to replace it? What is in it will be lost."),
+            .defaultButton = tr("Replace"),
+            .alternateButton = tr("Cancel")};
+}
+
+AlertText noMacroFile(const QString& path) {
+    return warning(
+        tr("\"%1\" is not a macro file.").arg(nameOf(path)),
+        tr("The names of Keyrill's macro files end with \".%1\".").arg(QLatin1String(macroSuffix)));
+}
+
+AlertText fileNotFound(const QString& path) {
+    return warning(tr("There is no file \"%1\".").arg(nameOf(path)),
+                   tr("Check the name, or choose one of the list."));
 }
 
 AlertText settingsNotSaved(const Error& error) { return warning(tr("Your settings were not saved."), error); }

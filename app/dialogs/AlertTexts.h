@@ -21,6 +21,11 @@ AlertText noUpdate();
 
 AlertText macroNotSaved(const QString& path, const Error& error);
 AlertText macroNotLoaded(const QString& path, const Error& error);
+/// The default button replaces it.
+AlertText replaceFile(const QString& path);
+/// What was chosen to load from.
+AlertText noMacroFile(const QString& path);
+AlertText fileNotFound(const QString& path);
 AlertText settingsNotSaved(const Error& error);
 AlertText loginItemNotSet(const Error& error);
 /// Of the settings, found behind the user's back.

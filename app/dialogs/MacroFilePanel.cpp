@@ -2,13 +2,20 @@
 #include "app/dialogs/MacroFilePanel.h"
 
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QSettings>
 
+#include "app/dialogs/AlertDialog.h"
+#include "app/dialogs/AlertTexts.h"
 #include "app/dialogs/MacroFileName.h"
 #include "app/icons/ProgramIcon.h"
+#include "app/widgets/NoticeLine.h"
 
 namespace {
+
+/// What the toolkit calls the field for the name.
+const QString fileNameField = QStringLiteral("fileNameEdit");
 
 /// The toolkit's own dialog would keep sizes and visited folders in a file of the user's.
 void keepNoSettings() {
@@ -24,6 +31,7 @@ bool isSandboxed() {
 MacroFilePanel::MacroFilePanel(Kind kind, const QString& folder) {
     keepNoSettings();
     setOption(DontUseNativeDialog, !isSandboxed());
+    setOption(DontConfirmOverwrite, !isSandboxed());
     setWindowIcon(programIcon());
     setViewMode(List);
     setDirectory(folder);
@@ -33,6 +41,7 @@ MacroFilePanel::MacroFilePanel(Kind kind, const QString& folder) {
         setWindowTitle(tr("Save Macro"));
         setAcceptMode(AcceptSave);
         setFileMode(AnyFile);
+        makeNotice();
     } else {
         setWindowTitle(tr("Load Macro"));
         setAcceptMode(AcceptOpen);
@@ -40,11 +49,44 @@ MacroFilePanel::MacroFilePanel(Kind kind, const QString& folder) {
     }
 }
 
-QString MacroFilePanel::path() const { return selectedFiles().value(0); }
+// The toolkit greys its button without a word.
+void MacroFilePanel::makeNotice() {
+    auto* name = findChild<QLineEdit*>(fileNameField);
+    auto* grid = qobject_cast<QGridLayout*>(layout());
+    if (name == nullptr || grid == nullptr) return;
+    m_notice = new NoticeLine(this);
+    grid->addWidget(m_notice, grid->rowCount(), 0, 1, -1);
+    connect(name, &QLineEdit::textChanged, this, [this](const QString& text) {
+        const bool fits = fitsAsFileName(macroFileName(text, directory()));
+        m_notice->setNotice(fits ? QString() : tr("This name is too long for a file."));
+    });
+}
+
+QString MacroFilePanel::path() const { return choice(); }
 
 void MacroFilePanel::accept() {
-    auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (acceptMode() == AcceptSave && name != nullptr)
-        name->setText(macroFileName(name->text(), directory()));
+    auto* name = findChild<QLineEdit*>(fileNameField);
+    if (name != nullptr && !(acceptMode() == AcceptSave ? isToBeSaved(*name) : isToBeLoaded())) return;
     QFileDialog::accept();
+}
+
+bool MacroFilePanel::isToBeSaved(QLineEdit& name) {
+    name.setText(macroFileName(name.text(), directory()));
+    if (!fitsAsFileName(name.text())) return false;
+    const QFileInfo file(choice());
+    return !file.exists() || file.isDir() || confirm(alerts::replaceFile(file.filePath()));
+}
+
+bool MacroFilePanel::isToBeLoaded() {
+    const QFileInfo file(choice());
+    if (choice().isEmpty() || file.isDir()) return true;
+    if (file.exists() && isMacroFileName(file.fileName())) return true;
+    confirm(file.exists() ? alerts::noMacroFile(file.filePath()) : alerts::fileNotFound(file.filePath()));
+    return false;
+}
+
+bool MacroFilePanel::confirm(const AlertText& text) {
+    AlertDialog alert(text, this);
+    alert.exec();
+    return alert.answer() == AlertAnswer::defaultButton;
 }

@@ -3,6 +3,10 @@
 
 #include <QFileDialog>
 
+class NoticeLine;
+class QLineEdit;
+struct AlertText;
+
 /// Asks for a macro file. Keyrill's own window, except in a sandbox, where only the desktop's can see the
 /// user's files. It leaves nothing behind in the user's settings.
 class MacroFilePanel : public QFileDialog {
@@ -17,6 +21,18 @@ class MacroFilePanel : public QFileDialog {
     QString path() const;
 
   protected:
-    /// Adds the suffix where it is missing, before the toolkit asks about replacing a file.
+    /// Goes into a folder; else takes the file if it is one to save to or to load from, or tells why not.
     void accept() override;
+
+  private:
+    void makeNotice();
+    /// Whether the toolkit may go on with that name.
+    bool isToBeSaved(QLineEdit& name);
+    bool isToBeLoaded();
+    /// What is chosen or typed now.
+    QString choice() const { return selectedFiles().value(0); }
+    /// By the program's own alert: the toolkit's shows names as markup.
+    bool confirm(const AlertText& text);
+
+    NoticeLine* m_notice = nullptr;
 };

@@ -3,17 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QTimer>
 #include <filesystem>
 #include <fstream>
 
+#include "app/dialogs/AlertDialog.h"
 #include "app/dialogs/QtDialogs.h"
+#include "app/widgets/NoticeLine.h"
 #include "support/Child.h"
 
 namespace {
@@ -43,13 +43,20 @@ class MacroFilePanelTest : public testing::Test {
         return answerFor(name, [this] { return dialogs.runOpenPanel(folderPath()); });
     }
 
-    /// Answers the next question of the toolkit with No.
-    void refuse() {
-        QTimer::singleShot(0, [this] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_NE(box, nullptr);
-            question = box->text();
-            box->button(QMessageBox::No)->click();
+    /// Answers the alert that comes once a name has been typed.
+    void answerAlert(bool yes) {
+        // The first turn of the loop is that in which the name is typed.
+        QTimer::singleShot(0, [this, yes] {
+            QTimer::singleShot(0, [this, yes] {
+                auto* alert = qobject_cast<AlertDialog*>(QApplication::activeModalWidget());
+                ASSERT_NE(alert, nullptr);
+                for (const auto* label : alert->findChildren<QLabel*>()) {
+                    if (!label->pixmap().isNull()) continue;
+                    EXPECT_EQ(label->textFormat(), Qt::PlainText);
+                    question += label->text() + u'\n';
+                }
+                yes ? alert->accept() : alert->reject();
+            });
         });
     }
 
@@ -59,10 +66,57 @@ class MacroFilePanelTest : public testing::Test {
 };
 
 TEST_F(MacroFilePanelTest, asksBeforeAFileIsReplacedThatHasTheSuffix) {
+    makeFile("a <b>taken<i> &name.keyrill");
+    answerAlert(false);
+    EXPECT_EQ(savedAs(QStringLiteral("a <b>taken<i> &name")), QString());
+    EXPECT_EQ(question.toStdString(),
+              "\"a <b>taken<i> &name.keyrill\" is there already.\n"
+              "Do you want to replace it? What is in it will be lost.\n");
+}
+
+TEST_F(MacroFilePanelTest, replacesAFileIfTheUserWishesIt) {
     makeFile("taken.keyrill");
-    QTimer::singleShot(0, [this] { refuse(); });
-    EXPECT_EQ(savedAs(QStringLiteral("taken")), QString());
-    EXPECT_TRUE(question.contains(QStringLiteral("taken.keyrill"))) << question.toStdString();
+    answerAlert(true);
+    EXPECT_EQ(savedAs(QStringLiteral("taken")), inFolder("taken.keyrill"));
+}
+
+TEST_F(MacroFilePanelTest, saysThatANameIsTooLong) {
+    const QString longest = QString(255 - 8, u'x');
+    QTimer::singleShot(0, [&] {
+        auto* panel = qobject_cast<MacroFilePanel*>(QApplication::activeModalWidget());
+        auto* name = panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        const auto* notice = panel->findChild<NoticeLine*>();
+        ASSERT_NE(notice, nullptr);
+        name->setText(longest);
+        EXPECT_FALSE(notice->isVisible());
+        for (const QString& tooLong : {longest + u'x', QString(300, u'x'), QString(130, u'é')}) {
+            name->setText(tooLong);
+            EXPECT_TRUE(notice->isVisible());
+            EXPECT_EQ(notice->notice(), "This name is too long for a file.");
+            QMetaObject::invokeMethod(panel, "accept");
+            EXPECT_TRUE(panel->isVisible());
+        }
+        name->setText(longest);
+        EXPECT_FALSE(notice->isVisible());
+        QMetaObject::invokeMethod(panel, "accept");
+    });
+    EXPECT_EQ(dialogs.runSavePanel(folderPath()), folderPath() + u'/' + longest + ".keyrill");
+}
+
+TEST_F(MacroFilePanelTest, loadsMacroFilesOnly) {
+    makeFile("notes.txt");
+    answerAlert(true);
+    EXPECT_EQ(loadedFrom(QStringLiteral("notes.txt")), QString());
+    EXPECT_EQ(
+        question.toStdString(),
+        "\"notes.txt\" is not a macro file.\nThe names of Keyrill's macro files end with \".keyrill\".\n");
+}
+
+TEST_F(MacroFilePanelTest, saysThatAFileIsNotThere) {
+    answerAlert(true);
+    EXPECT_EQ(loadedFrom(QStringLiteral("<i>none.keyrill")), QString());
+    EXPECT_EQ(question.toStdString(),
+              "There is no file \"<i>none.keyrill\".\nCheck the name, or choose one of the list.\n");
 }
 
 TEST_F(MacroFilePanelTest, savesInTheHomeFolderAndLeavesNoSettingsBehind) {
