@@ -8,6 +8,7 @@
 class RunWait {
   public:
     virtual ~RunWait() = default;
-    /// A halt is always a cancelled one: by the user's wish, an interrupt, or a desktop that is gone.
+    /// A halt is a cancelled one, by the user's wish, an interrupt, or a desktop that is gone; or what the
+    /// run relies on has failed.
     virtual Step<> waitUntil(Clock::Time deadline) = 0;
 };

@@ -22,7 +22,9 @@ timespec timeTo(Clock::Time until, Clock::Time now) {
 Step<> RunWaiter::heedUser() {
     m_watch.drain();
     const bool ends = m_isLost || m_watch.isLost() || m_interrupt.isRaised() || m_watch.isCancelled();
-    return ends ? Step<>(Halt::cancelled()) : Step<>();
+    if (ends) return Halt::cancelled();
+    const auto looked = m_companion.look();
+    return looked ? Step<>() : Step<>(looked.error());
 }
 
 Step<> RunWaiter::waitUntil(Clock::Time deadline) {
@@ -39,10 +41,11 @@ void RunWaiter::awaitNews(Clock::Time deadline) {
 }
 
 void RunWaiter::block(Clock::Time until) {
-    std::array<pollfd, 3> entries{};
+    std::array<pollfd, 4> entries{};
     entries[0] = {.fd = m_watch.fileDescriptor(), .events = POLLIN, .revents = 0};
     entries[1] = {.fd = m_interrupt.fileDescriptor(), .events = POLLIN, .revents = 0};
     entries[2] = {.fd = m_server, .events = 0, .revents = 0};
+    entries[3] = {.fd = m_companion.fileDescriptor(), .events = POLLIN, .revents = 0};
     const timespec left = timeTo(until, m_clock.now());
     ppoll(entries.data(), entries.size(), &left, nullptr);
     m_isLost = (entries[2].revents & (POLLHUP | POLLERR)) != 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/run/RunCompanion.h"
 #include "platform/run/RunInterrupt.h"
 #include "platform/run/RunWait.h"
 #include "platform/run/RunWatch.h"
@@ -10,12 +11,14 @@
 class RunWaiter final : public RunWait {
   public:
     /// `server` is the descriptor of a connection to the X server, looked at for its end only.
-    RunWaiter(const Clock& clock, RunWatch& watch, const RunInterrupt& interrupt, int server)
-        : m_clock(clock), m_watch(watch), m_interrupt(interrupt), m_server(server) {}
+    RunWaiter(const Clock& clock, RunWatch& watch, const RunInterrupt& interrupt, RunCompanion& companion,
+              int server)
+        : m_clock(clock), m_watch(watch), m_interrupt(interrupt), m_companion(companion), m_server(server) {}
 
     Step<> waitUntil(Clock::Time deadline) override;
 
-    /// Reads what the user has done, and halts if it means to stop. So does a lost X server.
+    /// Reads what the user has done, and halts if it means to stop. So does a lost X server, and a companion
+    /// that is lost for good.
     Step<> heedUser();
 
     /// Waits until the watch has something to read, or until then; heedUser() reads it.
@@ -27,6 +30,7 @@ class RunWaiter final : public RunWait {
     const Clock& m_clock;
     RunWatch& m_watch;
     const RunInterrupt& m_interrupt;
+    RunCompanion& m_companion;
     int m_server;
     bool m_isLost = false;
 };

@@ -27,7 +27,7 @@ BEGIN {
 
     x11("server", "platform")
     x11("keymap", "platform platform/keymap platform/x11/server")
-    x11("guard", "platform platform/x11/server")
+    x11("guard", "platform platform/run platform/x11/keymap platform/x11/server")
     x11("clipboard", "platform platform/x11/server")
     x11("windows", "platform platform/run platform/x11/clipboard platform/x11/server")
     x11("watch", "platform platform/keymap platform/monitor platform/run platform/x11/keymap platform/x11/server")

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/guard/GuardLink.h"
 
-#include <poll.h>
 #include <spawn.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -19,7 +18,8 @@ namespace {
 
 constexpr const char* guardName = "keyrill-guard";
 constexpr const char* installedFolder = KEYRILL_GUARD_FOLDER;
-constexpr int readyMilliseconds = 3000;
+/// What cleaning up takes, and more.
+constexpr std::chrono::milliseconds timeToEnd{200};
 
 bool isExecutable(const std::string& file) { return access(file.c_str(), X_OK) == 0; }
 
@@ -59,34 +59,57 @@ class GuardFiles {
     posix_spawn_file_actions_t m_actions{};
 };
 
-Error cannotStart(const std::string& program) {
-    return Error{
-        "The guard program \"" + program + "\", which releases keys after a crash, could not be started.",
-        "Install the program again; nothing is played without its guard."};
-}
-
 }  // namespace
 
 GuardLink::GuardLink(std::string program, std::string display, std::string markFile)
     : m_program(std::move(program)), m_display(std::move(display)), m_markFile(std::move(markFile)) {}
 
-GuardLink::~GuardLink() { end(); }
+GuardLink::~GuardLink() { end(timeToEnd); }
+
+Error GuardLink::cannotStart() const {
+    const std::string program = m_program.empty() ? guardName : m_program;
+    return Error{
+        "The guard program \"" + program + "\", which releases keys after a crash, could not be started.",
+        "Install the program again; nothing is played without its guard."};
+}
 
 Result<void> GuardLink::tell(const GuardMessage& message) {
     if (m_socket && m_told == message) return {};
-    if (!m_socket || !send(message)) {
-        end();
-        const auto started = start();
-        if (!started) return started.error();
-        if (!send(message)) return cannotStart(m_program);
-    }
+    const bool isFirst = !m_socket;
     m_told = message;
-    return {};
+    if (isFirst) return start();
+    return send(message) ? Result<void>() : replace();
 }
 
-bool GuardLink::send(const GuardMessage& message) const {
-    return ::send(m_socket.number(), &message, sizeof message, MSG_NOSIGNAL) ==
+/// Does not wait for one that reads nothing.
+bool GuardLink::send(const GuardMessage& message) {
+    ++m_expected;
+    return ::send(m_socket.number(), &message, sizeof message, MSG_NOSIGNAL | MSG_DONTWAIT) ==
            static_cast<ssize_t>(sizeof message);
+}
+
+Result<void> GuardLink::look() {
+    if (!m_socket) return {};
+    for (;;) {
+        char answer = 0;
+        const ssize_t size = recv(m_socket.number(), &answer, 1, MSG_DONTWAIT);
+        if (size == 1 && answer == guardReady) {
+            ++m_heard;
+        } else if (size < 0 && (errno == EAGAIN || errno == EINTR)) {
+            return {};
+        } else {
+            break;
+        }
+    }
+    // One that never got as far would not get there the next time either.
+    if (m_heard != 0) return replace();
+    end(timeToEnd);
+    return cannotStart();
+}
+
+Result<void> GuardLink::replace() {
+    end(std::chrono::milliseconds(0));
+    return start();
 }
 
 Result<std::string> GuardLink::find() const {
@@ -97,18 +120,20 @@ Result<std::string> GuardLink::find() const {
     if (!failed && isExecutable(beside)) return beside;
     const std::string installed = std::string(installedFolder) + "/" + guardName;
     if (isExecutable(installed)) return installed;
-    return cannotStart(guardName);
+    return cannotStart();
 }
 
+/// What it is to know lies in its socket before it runs.
 Result<void> GuardLink::start() {
     auto program = find();
     if (!program) return program.error();
     std::array<int, 2> sockets{};
-    if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, sockets.data()) != 0) {
-        return cannotStart(program.value());
-    }
+    if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, sockets.data()) != 0) return cannotStart();
     m_socket.reset(sockets[0]);
     Descriptor otherEnd(sockets[1]);
+    m_heard = 0;
+    m_expected = 1;
+    const bool isTold = send(m_told.value_or(GuardMessage{}));
     const GuardAttributes attributes;
     const GuardFiles files(otherEnd.number());
     std::array<char*, 4> arguments = {program.value().data(), m_display.data(), m_markFile.data(), nullptr};
@@ -116,27 +141,16 @@ Result<void> GuardLink::start() {
                                   arguments.data(), environ);
     otherEnd.reset();
     if (error != 0) m_process = -1;
-    if (error == 0 && awaitReady()) return {};
-    end();
-    return cannotStart(program.value());
+    if (isTold && error == 0) return {};
+    end(std::chrono::milliseconds(0));
+    return cannotStart();
 }
 
-bool GuardLink::awaitReady() const {
-    pollfd entry{.fd = m_socket.number(), .events = POLLIN, .revents = 0};
-    int ready = 0;
-    do ready = poll(&entry, 1, readyMilliseconds);
-    while (ready < 0 && errno == EINTR);
-    char answer = 0;
-    return ready == 1 && recv(m_socket.number(), &answer, 1, 0) == 1 && answer == guardReady;
-}
-
-void GuardLink::end() {
-    m_told.reset();
+void GuardLink::end(std::chrono::milliseconds patience) {
     m_socket.reset();
     if (m_process < 0) return;
-    // It goes by itself, in the time that cleaning up takes if that is needed.
     const pid_t process = std::exchange(m_process, -1);
-    for (int milliseconds = 0; milliseconds < 200; ++milliseconds) {
+    for (auto waited = patience.zero(); waited < patience; ++waited) {
         if (waitpid(process, nullptr, WNOHANG) != 0) return;
         usleep(1000);
     }

@@ -21,7 +21,7 @@ struct GuardMessage {
     friend bool operator==(const GuardMessage&, const GuardMessage&) = default;
 };
 
-/// What the guard says once when it can do its work.
+/// What the guard says once when it can do its work, and to each message once it has taken it in.
 inline constexpr char guardReady = 'r';
 
 }  // namespace x11

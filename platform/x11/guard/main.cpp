@@ -4,8 +4,9 @@
 //
 // Standard input is a packet socket whose other end only the player holds, so that its end, however it comes,
 // is seen here. If the player was in the middle of a run, the keys that XTEST keyboards hold are released,
-// locks and group put back as the player found them, and the file MARK (none if empty) removed. The program
-// is deaf to the signals that end a session's programs, or it would go before the player does.
+// locks and group put back as the player found them, and the file MARK (none if empty) removed. Characters
+// that it had put on unused keys are taken back once they may have been read. The program is deaf to the
+// signals that end a session's programs, or it would go before the player does.
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/socket.h>
@@ -20,6 +21,8 @@
 
 #include "platform/Descriptor.h"
 #include "platform/x11/guard/GuardMessage.h"
+#include "platform/x11/keymap/BoundKeysRecord.h"
+#include "platform/x11/keymap/KeyboardMaps.h"
 #include "platform/x11/server/Extensions.h"
 #include "platform/x11/server/SlaveKeyboards.h"
 #include "platform/x11/server/XConnection.h"
@@ -31,6 +34,8 @@ namespace {
 constexpr int rounds = 5;
 constexpr std::chrono::milliseconds betweenRounds{2};
 constexpr std::uint8_t allModifiers = 0xFF;
+/// As long as the player itself leaves characters where they are after the last one (SpareSlots).
+constexpr std::chrono::milliseconds readingTime{100};
 
 void standAside() {
     setsid();
@@ -38,14 +43,21 @@ void standAside() {
     close_range(STDERR_FILENO + 1, ~0U, 0);
 }
 
+void say(char word) { send(STDIN_FILENO, &word, sizeof word, MSG_NOSIGNAL | MSG_DONTWAIT); }
+
 /// The player's last word before its end.
 x11::GuardMessage listen() {
     x11::GuardMessage last;
     for (;;) {
         x11::GuardMessage message;
         const ssize_t size = recv(STDIN_FILENO, &message, sizeof message, 0);
-        if (size == static_cast<ssize_t>(sizeof message)) last = message;
-        if (size == 0 || (size < 0 && errno != EINTR)) return last;
+        if (size == static_cast<ssize_t>(sizeof message)) {
+            last = message;
+            say(x11::guardReady);
+        }
+        // A player that dies without having read our answers is told as an error, before what it said last.
+        const bool mayGoOn = errno == EINTR || errno == ECONNRESET;
+        if (size == 0 || (size < 0 && !mayGoOn)) return last;
     }
 }
 
@@ -62,6 +74,19 @@ void cleanUp(xcb_connection_t* connection, const x11::GuardMessage& last, int ma
     }
 }
 
+/// What the player typed last may still be read, by the keys as they are now; and its connection, which
+/// stands for what it has bound, may not be closed yet.
+void takeBackCharacters(const x11::XConnection& connection) {
+    const x11::BoundKeysRecord record(connection);
+    if (record.read().empty()) return;
+    std::this_thread::sleep_for(readingTime);
+    const auto core = x11::readDeviceMap(connection, XCB_XKB_ID_USE_CORE_KBD);
+    if (record.hasOwner() || !core) return;
+    x11::KeyboardMaps maps(connection, x11::slaveKeyboards(connection), *core);
+    maps.write(connection, maps.empty(record.read()));
+    record.write({});
+}
+
 }  // namespace
 
 int main(int count, char** values) {
@@ -75,12 +100,14 @@ int main(int count, char** values) {
     if (!connection) return 1;
     const x11::Extensions extensions(connection.value());
     if (!extensions.use({x11::Extension::test, x11::Extension::keyboard, x11::Extension::input})) return 1;
-    if (send(STDIN_FILENO, &x11::guardReady, sizeof x11::guardReady, MSG_NOSIGNAL) != sizeof x11::guardReady)
-        return 1;
+    // Also where the player has died meanwhile: what it said is there to be read.
+    say(x11::guardReady);
     const x11::GuardMessage last = listen();
-    if (last.kind != x11::GuardMessage::Kind::running) return 0;
-    const Descriptor mark(open(arguments[2], O_RDWR | O_CLOEXEC | O_NOFOLLOW));
-    cleanUp(connection.value(), last, mark.number());
-    if (mark) unlink(arguments[2]);
+    if (last.kind == x11::GuardMessage::Kind::running) {
+        const Descriptor mark(open(arguments[2], O_RDWR | O_CLOEXEC | O_NOFOLLOW));
+        cleanUp(connection.value(), last, mark.number());
+        if (mark) unlink(arguments[2]);
+    }
+    takeBackCharacters(connection.value());
     return 0;
 }

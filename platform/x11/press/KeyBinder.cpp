@@ -35,31 +35,6 @@ BoundKey recordOf(const SpareBinding& binding) {
         .keycode = binding.slot.keycode, .level = binding.slot.level, .symbol = symbolOf(binding.character)};
 }
 
-/// Whether the key types anything, and nothing but what `keys` say.
-bool isAsRecorded(const KeySymbols& key, std::uint8_t keycode, const std::vector<BoundKey>& keys) {
-    bool hasSymbol = false;
-    for (std::size_t level = 0; level < key.symbols.size(); ++level) {
-        const std::uint32_t symbol = key.symbols[level];
-        if (symbol == XKB_KEY_NoSymbol) continue;
-        hasSymbol = true;
-        const BoundKey found{keycode, static_cast<std::uint8_t>(level), symbol};
-        if (std::find(keys.begin(), keys.end(), found) == keys.end()) return false;
-    }
-    return hasSymbol;
-}
-
-/// Empties those keys of the map that type what `keys` say, and tells which.
-KeycodeSet emptyRecorded(DeviceMap& map, const std::vector<BoundKey>& keys) {
-    KeycodeSet emptied;
-    for (const BoundKey& recorded : keys) {
-        KeySymbols& key = map.keys[recorded.keycode];
-        if (!isAsRecorded(key, recorded.keycode, keys)) continue;
-        key = KeySymbols{};
-        emptied.set(recorded.keycode);
-    }
-    return emptied;
-}
-
 KeycodeSet keysIn(const std::vector<BoundKey>& keys) {
     KeycodeSet set;
     for (const BoundKey& key : keys) set.set(key.keycode);
@@ -84,34 +59,27 @@ KeyBinder::~KeyBinder() {
     if (isRead && isRead.value()) takeBack();
 }
 
-std::vector<KeyBinder::Target> KeyBinder::targets() const {
-    std::vector<Target> targets;
-    for (const SlaveKeyboard& keyboard : m_keymap.slaves()) {
-        auto map = readDeviceMap(m_keymap.connection(), keyboard.device);
-        if (map) targets.push_back({keyboard.device, std::move(*map)});
-    }
-    const auto isEqual = [&](const Target& target) { return target.map == m_keymap.map(); };
-    if (!std::all_of(targets.begin(), targets.end(), isEqual)) return targets;
-    std::vector<Target> core;
-    core.push_back({XCB_XKB_ID_USE_CORE_KBD, m_keymap.map()});
-    return core;
-}
+KeyboardMaps KeyBinder::maps() const { return {m_keymap.connection(), m_keymap.slaves(), m_keymap.map()}; }
 
 /// Finds the unused keys, and how many levels one can have.
 void KeyBinder::survey() {
-    const auto targets = this->targets();
+    const KeyboardMaps maps = this->maps();
+    const auto& targets = maps.targets();
     const ModifierMasks& masks = m_keymap.keymap().masks();
     const bool canChoose = m_keymap.keymap().keys().canHold(masks.thirdLevel);
-    const bool hasFour = canChoose && std::all_of(targets.begin(), targets.end(), [&](const Target& target) {
-                             return fourLevelType(target.map, masks).has_value();
-                         });
+    const bool hasFour =
+        canChoose && std::all_of(targets.begin(), targets.end(), [&](const KeyboardMaps::Target& target) {
+            return fourLevelType(target.map, masks).has_value();
+        });
     m_levels = hasFour ? 4 : 2;
     std::vector<std::uint8_t> spares;
     KeycodeSet set;
     const DeviceMap& map = m_keymap.map();
     for (unsigned keycode = std::max(firstUsableKeycode, map.firstKeycode); keycode <= map.lastKeycode;
          ++keycode) {
-        const auto isUnused = [&](const Target& target) { return target.map.keys[keycode].isUnused(); };
+        const auto isUnused = [&](const KeyboardMaps::Target& target) {
+            return target.map.keys[keycode].isUnused();
+        };
         if (!map.keys[keycode].isUnused()) continue;
         if (!std::all_of(targets.begin(), targets.end(), isUnused)) continue;
         spares.push_back(static_cast<std::uint8_t>(keycode));
@@ -180,13 +148,13 @@ Result<void> KeyBinder::bind(const SpareSlots::Plan& plan) {
     for (const SpareBinding& binding : plan.bindings) record.push_back(recordOf(binding));
     m_record.own();
     m_record.write(record);
-    auto targets = this->targets();
+    KeyboardMaps maps = this->maps();
     KeycodeSet changed;
     for (const SpareBinding& binding : plan.bindings) {
         changed.set(binding.slot.keycode);
-        for (Target& target : targets) put(target.map, binding);
+        for (KeyboardMaps::Target& target : maps.targets()) put(target.map, binding);
     }
-    if (!write(targets, changed)) {
+    if (!maps.write(m_connection.get(), changed)) {
         return Error{"The X server refuses to put characters on unused keys.",
                      "Use characters of the keyboard layout, or set another layout."};
     }
@@ -207,29 +175,12 @@ void KeyBinder::put(DeviceMap& map, const SpareBinding& binding) const {
     key.symbols[binding.slot.level] = symbolOf(binding.character);
 }
 
-/// One request for each target, over the range that holds all the keys.
-bool KeyBinder::write(std::vector<Target>& targets, const KeycodeSet& keys) const {
-    std::uint8_t first = 0;
-    std::uint8_t last = 0;
-    for (std::size_t keycode = keys.size(); keycode-- > 0;) {
-        if (!keys[keycode]) continue;
-        first = static_cast<std::uint8_t>(keycode);
-        if (last == 0) last = first;
-    }
-    if (last == 0) return true;
-    return std::all_of(targets.begin(), targets.end(), [&](const Target& target) {
-        return writeKeySymbols(m_connection.get(), target.device, target.map, first, last);
-    });
-}
-
 void KeyBinder::clearLeftovers() {
     const auto record = m_record.read();
     if (record.empty() || m_record.hasOwner()) return;
     if (const auto read = m_keymap.refresh(true); !read) return;
-    auto targets = this->targets();
-    KeycodeSet changed;
-    for (Target& target : targets) changed |= emptyRecorded(target.map, record);
-    write(targets, changed);
+    KeyboardMaps maps = this->maps();
+    maps.write(m_connection.get(), maps.empty(record));
     m_record.write({});
     [[maybe_unused]] const auto seen = m_keymap.refresh(true);
 }
@@ -240,10 +191,8 @@ void KeyBinder::takeBack() {
     std::vector<BoundKey> own;
     for (const SpareBinding& binding : m_slots.bindings()) own.push_back(recordOf(binding));
     const KeycodeSet ownKeys = keysIn(own);
-    auto targets = this->targets();
-    KeycodeSet changed;
-    for (Target& target : targets) changed |= emptyRecorded(target.map, own);
-    write(targets, changed);
+    KeyboardMaps maps = this->maps();
+    maps.write(m_connection.get(), maps.empty(own));
     auto record = m_record.read();
     record.erase(std::remove_if(record.begin(), record.end(),
                                 [&](const BoundKey& key) { return ownKeys[key.keycode]; }),

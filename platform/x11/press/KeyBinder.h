@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/x11/keymap/BoundKeysRecord.h"
+#include "platform/x11/keymap/KeyboardMaps.h"
 #include "platform/x11/keymap/KeymapWatch.h"
-#include "platform/x11/press/BoundKeysRecord.h"
 #include "platform/x11/press/InjectionConnection.h"
 #include "platform/x11/press/SpareSlots.h"
 #include "platform/x11/windows/Receivers.h"
@@ -50,15 +51,8 @@ class KeyBinder {
     Result<void> bind(const SpareSlots::Plan& plan);
 
   private:
-    /// One device that is written, with its map.
-    struct Target {
-        std::uint16_t device = 0;
-        DeviceMap map;
-    };
-
     void survey();
-    std::vector<Target> targets() const;
-    bool write(std::vector<Target>& targets, const KeycodeSet& keys) const;
+    KeyboardMaps maps() const;
     void put(DeviceMap& map, const SpareBinding& binding) const;
     Step<bool> awaitReaders(RunWait& wait, std::chrono::milliseconds longest);
     void takeBack();

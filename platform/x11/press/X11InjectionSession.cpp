@@ -10,6 +10,9 @@ namespace {
 
 /// At who has the keyboard.
 constexpr std::chrono::milliseconds betweenLooks{10};
+/// A guard that runs answers within a millisecond; to start takes it ten.
+constexpr std::chrono::milliseconds guardPatience{1000};
+constexpr std::chrono::milliseconds guardStart{3000};
 
 }  // namespace
 
@@ -18,7 +21,8 @@ X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionP
     : m_tools(tools),
       m_plan(std::move(plan)),
       m_whenEnded(std::move(ended)),
-      m_waiter(tools.clock, tools.watch, tools.interrupt, xcb_get_file_descriptor(tools.connection.get())),
+      m_waiter(tools.clock, tools.watch, tools.interrupt, tools.guard,
+               xcb_get_file_descriptor(tools.connection.get())),
       m_pacer(tools.clock, m_waiter),
       m_hands({tools.connection, tools.keymap, tools.watch, tools.clock}, m_waiter, m_pacer),
       m_locks(tools.connection, tools.guard),
@@ -60,6 +64,7 @@ Result<void> X11InjectionSession::followKeymap() {
 
 Step<> X11InjectionSession::begin() {
     if (const auto told = m_tools.guard.tell({}); !told) return told.error();
+    if (auto ready = awaitGuard(); !ready) return ready;
     m_tools.mark.set();
     if (!m_hasBegun) m_tools.watch.runStarts();
     m_hasBegun = true;
@@ -88,6 +93,26 @@ Step<XkbComponents> X11InjectionSession::checkHands() {
     return state;
 }
 
+/// One that does not answer is given up for another, once.
+Step<> X11InjectionSession::awaitGuard() {
+    bool isReplaced = false;
+    Clock::Time end = m_tools.clock.now() + guardPatience;
+    while (!m_tools.guard.isReady()) {
+        if (auto heeded = m_waiter.heedUser(); !heeded) return heeded;
+        if (m_tools.guard.isReady()) break;
+        if (m_tools.clock.now() < end) {
+            m_waiter.awaitNews(end);
+        } else if (isReplaced) {
+            return m_tools.guard.cannotStart();
+        } else {
+            if (const auto replaced = m_tools.guard.replace(); !replaced) return replaced.error();
+            isReplaced = true;
+            end = m_tools.clock.now() + guardStart;
+        }
+    }
+    return {};
+}
+
 /// What is typed into a locker's question may be a part of nothing that its user wants to have there.
 Step<> X11InjectionSession::awaitOpenScreen() {
     auto heeded = m_waiter.heedUser();
@@ -106,7 +131,7 @@ Step<> X11InjectionSession::prepareStroke() {
     const auto state = checkHands();
     if (!state) return state.error();
     m_sender.meet(state.value());
-    return {};
+    return awaitGuard();
 }
 
 Step<> X11InjectionSession::stroke(std::uint32_t keyCode, std::uint32_t modifiers) {

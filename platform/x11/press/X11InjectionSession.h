@@ -55,6 +55,7 @@ class X11InjectionSession final : public InjectionSession {
     /// brings the locks in order.
     Step<> prepareStroke();
     Step<> awaitOpenScreen();
+    Step<> awaitGuard();
 
     Step<> play(const Stroke& stroke);
     Step<> type(std::string_view text, std::uint32_t modifiers);

@@ -105,7 +105,8 @@ void X11KeyInjector::stopPlayback() { m_watch.stopPlayback(); }
 Step<> X11KeyInjector::awaitReaders() {
     if (!m_parts->display) return {};
     DisplayParts& display = *m_parts->display;
-    RunWaiter waiter(m_clock, m_watch, m_parts->interrupt, xcb_get_file_descriptor(display.connection.get()));
+    RunWaiter waiter(m_clock, m_watch, m_parts->interrupt, m_parts->guard,
+                     xcb_get_file_descriptor(display.connection.get()));
     const auto isRead = display.binder.awaitReaders(waiter);
     if (!isRead) return isRead.error();
     if (isRead.value()) return {};

@@ -5,6 +5,7 @@
 #include <random>
 #include <sstream>
 
+#include "display/CoreClient.h"
 #include "display/Hands.h"
 #include "support/Keys.h"
 #include "x11/press/InjectorTest.h"
@@ -58,6 +59,15 @@ class KillTest : public testing::Test {
         pid_t guard = 0;
         std::ifstream("/proc/" + pid + "/task/" + pid + "/children") >> guard;
         return guard;
+    }
+
+    void awaitOtherGuard(const Child& player, pid_t first) const {
+        const auto isOther = [&] {
+            const pid_t guard = guardOf(player);
+            const std::string words = contentOf("/proc/" + std::to_string(guard) + "/cmdline");
+            return guard != first && words.find("keyrill-guard") != std::string::npos;
+        };
+        ASSERT_TRUE(eventually(isOther));
     }
 
     /// Kills the player and waits until its guard has gone, or as long as the guard may take.
@@ -176,7 +186,7 @@ TEST_F(KillTest, theNextStartClearsUpAfterADeathOfBoth) {
 
 TEST_F(KillTest, charactersOnUnusedKeysAreClearedAwayByTheNextStart) {
     const std::string before = keymap();
-    Child& player = start("text");
+    Child& player = start("text", KEYRILL_IDLE_GUARD);
     ASSERT_TRUE(eventually([&] { return keymap() != before; }));
     player.signal(SIGKILL);
     player.wait();
@@ -185,6 +195,57 @@ TEST_F(KillTest, charactersOnUnusedKeysAreClearedAwayByTheNextStart) {
     EXPECT_EQ(keymap(), before);
     next.signal(SIGTERM);
     next.wait();
+}
+
+TEST_F(KillTest, charactersOnUnusedKeysAreTakenBackAfterADeath) {
+    const std::string before = keymap();
+    for (int kill = 0; kill < numberOfKills() / 2; ++kill) {
+        Child& player = start("text");
+        ASSERT_TRUE(eventually([&] { return keymap() != before; }));
+        player.signal(SIGKILL);
+        player.wait();
+        EXPECT_TRUE(eventually([&] { return keymap() == before; })) << keymap();
+        EXPECT_FALSE(probe().hasProperty("_KEYRILL_BOUND_KEYS"));
+    }
+}
+
+TEST_F(KillTest, charactersOfALivingPlayerStayWhenAnotherDies) {
+    const std::string before = keymap();
+    InjectorOnDisplay living(server().display());
+    ASSERT_TRUE(living.run()->text("\xC3\xA9", 0));
+    const std::string bound = keymap();
+    ASSERT_NE(bound, before);
+    killAndWait(startHolding());
+    EXPECT_EQ(keymap(), bound);
+}
+
+TEST_F(KillTest, aGuardThatIsKilledInARunIsReplacedAtOnce) {
+    Child& player = startHolding();
+    const pid_t first = guardOf(player);
+    ASSERT_EQ(kill(first, SIGKILL), 0);
+    awaitOtherGuard(player, first);
+    EXPECT_EQ(probe().held(), "keys: 37 38, modifiers: 0x4");
+    killAndWait(player);
+    EXPECT_EQ(probe().words(), asBefore);
+}
+
+TEST_F(KillTest, aGuardThatHangsIsReplacedAndHoldsNobodyUp) {
+    Child& player = start("runs");
+    const pid_t first = guardOf(player);
+    ASSERT_EQ(kill(first, SIGSTOP), 0);
+    awaitOtherGuard(player, first);
+    CoreClient client(server().display());
+    EXPECT_TRUE(eventually([&] { return client.presses(xkey::a) > 300; })) << client.presses(xkey::a);
+    killAndWait(player);
+    EXPECT_EQ(probe().words(), asBefore);
+}
+
+TEST_F(KillTest, aSignalEndsAPlayerWhoseGuardHangs) {
+    Child& player = start("runs");
+    ASSERT_EQ(kill(guardOf(player), SIGSTOP), 0);
+    player.signal(SIGTERM);
+    EXPECT_EQ(player.wait(std::chrono::seconds(2)), 0);
+    EXPECT_EQ(probe().words(), asBefore);
 }
 
 TEST_F(KillTest, charactersOfAnotherLivingPlayerStayWhereTheyAre) {

@@ -13,5 +13,7 @@ int main() {
     if (send(STDIN_FILENO, &x11::guardReady, sizeof x11::guardReady, MSG_NOSIGNAL) != sizeof x11::guardReady)
         return 1;
     std::array<char, 64> message{};
-    while (recv(STDIN_FILENO, message.data(), message.size(), 0) > 0) continue;
+    while (recv(STDIN_FILENO, message.data(), message.size(), 0) > 0) {
+        if (send(STDIN_FILENO, &x11::guardReady, sizeof x11::guardReady, MSG_NOSIGNAL) < 0) return 1;
+    }
 }

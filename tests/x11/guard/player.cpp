@@ -6,6 +6,7 @@
 //   strokes   a key with four modifiers each 0.1 ms
 //   text      a long text, over and over
 //   hold      Control and a key, held down
+//   runs      a key each 1 ms, each in a run of its own
 //   careless  the strokes without any care: sent when the queue of xcb is full, and nobody who cleans up
 #include <unistd.h>
 #include <xcb/xtest.h>
@@ -67,6 +68,16 @@ void hold(InjectionSession& session) {
     goesOn(session.pause(1e9));
 }
 
+void playRuns(x11::X11KeyInjector& injector) {
+    bool isFirst = true;
+    for (;;) {
+        const auto session = injector.open({});
+        if (!session || !goesOn(session.value()->stroke(0, 0)) || !goesOn(session.value()->pause(0.001)))
+            return;
+        if (std::exchange(isFirst, false)) begun();
+    }
+}
+
 [[noreturn]] void playCarelessly(const std::string& display) {
     xcb_connection_t* connection = xcb_connect(display.c_str(), nullptr);
     constexpr std::array<std::uint8_t, 5> keys = {37, 50, 64, 133, 38};
@@ -93,6 +104,7 @@ int play(const std::string& display, const std::string& folder, std::string_view
     playing = &injector;
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) std::signal(number, handle);
     const auto started = injector.start();
+    if (how == "runs") playRuns(injector);
     const auto session = injector.open({});
     if (!started || !session) return 1;
     if (how == "strokes") playStrokes(*session.value());

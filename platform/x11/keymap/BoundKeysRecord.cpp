@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/press/BoundKeysRecord.h"
+#include "platform/x11/keymap/BoundKeysRecord.h"
 
 namespace x11 {
 
