@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Playback.h"
 
+#include <signal.h>
+#include <unistd.h>
+
 #include <utility>
 
 #include "platform/linux/SteadyClock.h"
@@ -21,6 +24,15 @@ Playback::Playback(std::unique_ptr<Clock> clock, std::unique_ptr<Session> sessio
 void Playback::interrupt(void* playback) {
     Session* const session = static_cast<Playback*>(playback)->m_interruptible;
     if (session != nullptr) session->interrupt();
+}
+
+void Playback::suspend(void* playback) {
+    Session* const session = static_cast<Playback*>(playback)->m_interruptible;
+    if (session != nullptr) {
+        session->suspend();
+    } else {
+        kill(getpid(), SIGSTOP);
+    }
 }
 
 int Playback::finish() {

@@ -10,7 +10,8 @@
 
 /// The way to press keys in the session that the program was started in, for the length of one run.
 ///
-/// While it lasts SIGINT, SIGTERM and SIGHUP end the run, which releases what it holds. At most one object.
+/// While it lasts SIGINT, SIGTERM and SIGHUP end the run, which releases what it holds; SIGTSTP stops the
+/// process when the run has released it for so long. At most one object.
 class Playback {
   public:
     /// Fails where there is no session in which keys can be pressed.
@@ -29,11 +30,12 @@ class Playback {
     Playback(std::unique_ptr<Clock> clock, std::unique_ptr<Session> session);
 
     static void interrupt(void* playback);
+    static void suspend(void* playback);
 
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<Session> m_session;
     /// What a signal interrupts; null when there is nothing any more.
     std::atomic<Session*> m_interruptible = m_session.get();
     static_assert(std::atomic<Session*>::is_always_lock_free);
-    SignalCatcher m_signals{interrupt, this};
+    SignalCatcher m_signals{interrupt, suspend, this};
 };

@@ -56,6 +56,10 @@ class Session {
     /// process themselves, since what is down is released as the run unwinds.
     virtual void interrupt() noexcept = 0;
 
+    /// Stops the process as SIGTSTP asks, whose handler may call it: at once, or where a run holds keys and
+    /// locks as soon as it has given them back. It takes them again when the process goes on.
+    virtual void suspend() noexcept = 0;
+
     /// Ends each playback, as if the user had asked for it, while that answers true: the screen is locked. It
     /// is asked again and again in a run.
     virtual void endPlaysWhen(std::function<bool()> isLocked) = 0;

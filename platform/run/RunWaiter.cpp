@@ -23,6 +23,7 @@ Step<> RunWaiter::heedUser() {
     m_watch.drain();
     const bool ends = m_isLost || m_watch.isLost() || m_interrupt.isRaised() || m_watch.isCancelled();
     if (ends) return Halt::cancelled();
+    if (m_interrupt.isSuspended() && m_suspended) return m_suspended();
     const auto looked = m_companion.look();
     return looked ? Step<>() : Step<>(looked.error());
 }

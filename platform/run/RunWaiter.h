@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "platform/run/RunCompanion.h"
 #include "platform/run/RunInterrupt.h"
 #include "platform/run/RunWait.h"
@@ -14,6 +17,9 @@ class RunWaiter final : public RunWait {
     RunWaiter(const Clock& clock, RunWatch& watch, const RunInterrupt& interrupt, RunCompanion& companion,
               int server)
         : m_clock(clock), m_watch(watch), m_interrupt(interrupt), m_companion(companion), m_server(server) {}
+
+    /// What is done where the process is to stop for a while; a halt of it is one of the wait.
+    void whenSuspended(std::function<Step<>()> suspended) { m_suspended = std::move(suspended); }
 
     Step<> waitUntil(Clock::Time deadline) override;
 
@@ -32,5 +38,6 @@ class RunWaiter final : public RunWait {
     const RunInterrupt& m_interrupt;
     RunCompanion& m_companion;
     int m_server;
+    std::function<Step<>()> m_suspended;
     bool m_isLost = false;
 };

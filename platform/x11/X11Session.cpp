@@ -75,6 +75,9 @@ class X11Session final : public Session {
     void interrupt() noexcept override {
         if (m_keys) m_keys->keyInjector.interrupt();
     }
+    void suspend() noexcept override {
+        if (m_keys) m_keys->keyInjector.suspend();
+    }
     void endPlaysWhen(std::function<bool()> isLocked) override {
         if (m_keys) m_keys->eventManager->endPlaysWhen(std::move(isLocked));
     }

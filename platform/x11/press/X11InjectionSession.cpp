@@ -28,7 +28,9 @@ X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionP
       m_locks(tools.connection, tools.guard),
       m_sender(tools.connection, tools.watch),
       m_held(tools.connection, tools.watch, m_sender),
-      m_typer(tools.connection, tools.keymap, tools.binder, m_sender, m_waiter) {}
+      m_typer(tools.connection, tools.keymap, tools.binder, m_sender, m_waiter) {
+    m_waiter.whenSuspended([this] { return stopProcess(); });
+}
 
 X11InjectionSession::~X11InjectionSession() {
     if (m_hasBegun) {
@@ -46,6 +48,19 @@ void X11InjectionSession::rest() {
     // A guard that has gone in the meantime has nothing left to do.
     [[maybe_unused]] const auto told = m_tools.guard.tell({});
     m_tools.mark.clear();
+    m_tools.interrupt.setHolding(false);
+}
+
+/// As if the run had rested: others have the keyboard meanwhile.
+Step<> X11InjectionSession::stopProcess() {
+    const bool hadTakenOver = m_hasBegun && !m_rests;
+    rest();
+    m_tools.interrupt.stopProcess();
+    m_pacer.restart();
+    if (!hadTakenOver) return {};
+    if (auto begun = begin(); !begun) return begun;
+    m_held.pressAgain();
+    return {};
 }
 
 Step<> X11InjectionSession::take(const std::function<Step<>()>& step) {
@@ -65,6 +80,7 @@ Result<void> X11InjectionSession::followKeymap() {
 Step<> X11InjectionSession::begin() {
     if (const auto told = m_tools.guard.tell({}); !told) return told.error();
     if (auto ready = awaitGuard(); !ready) return ready;
+    m_tools.interrupt.setHolding(true);
     m_tools.mark.set();
     if (!m_hasBegun) m_tools.watch.runStarts();
     m_hasBegun = true;

@@ -16,7 +16,7 @@ namespace x11 {
 struct InjectionTools {
     RunWatch& watch;
     Clock& clock;
-    const RunInterrupt& interrupt;
+    RunInterrupt& interrupt;
     PlayingMark& mark;
     GuardLink& guard;
     InjectionConnection& connection;
@@ -56,6 +56,7 @@ class X11InjectionSession final : public InjectionSession {
     Step<> prepareStroke();
     Step<> awaitOpenScreen();
     Step<> awaitGuard();
+    Step<> stopProcess();
 
     Step<> play(const Stroke& stroke);
     Step<> type(std::string_view text, std::uint32_t modifiers);

@@ -96,6 +96,11 @@ void X11KeyInjector::startPlayback() {
 }
 
 bool X11KeyInjector::isCancelled() {
+    // A script that does nothing but think for a while; its run takes over again with the next stroke.
+    if (m_parts->interrupt.isSuspended()) {
+        rest();
+        m_parts->interrupt.stopProcess();
+    }
     m_watch.drain();
     return m_parts->interrupt.isRaised() || m_watch.isCancelled() || m_watch.isLost();
 }
@@ -119,5 +124,7 @@ void X11KeyInjector::rest() {
 }
 
 void X11KeyInjector::interrupt() noexcept { m_parts->interrupt.raise(); }
+
+void X11KeyInjector::suspend() noexcept { m_parts->interrupt.suspend(); }
 
 }  // namespace x11

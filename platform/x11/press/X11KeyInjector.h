@@ -55,6 +55,8 @@ class X11KeyInjector final : public KeyInjector {
     /// Async-signal-safe, so that handlers of SIGTERM, SIGINT and SIGHUP may call it; they must not end the
     /// process themselves, since what is down is released as the session unwinds.
     void interrupt() noexcept;
+    /// Session::suspend().
+    void suspend() noexcept;
 
   private:
     struct Parts;
