@@ -38,6 +38,10 @@ KeyboardMaps::KeyboardMaps(xcb_connection_t* connection, const std::vector<Slave
     m_targets.push_back({XCB_XKB_ID_USE_CORE_KBD, core});
 }
 
+bool KeyboardMaps::areEqual() const {
+    return m_targets.size() == 1 && m_targets.front().device == XCB_XKB_ID_USE_CORE_KBD;
+}
+
 std::bitset<256> KeyboardMaps::empty(const std::vector<BoundKey>& keys) {
     std::bitset<256> emptied;
     for (Target& target : m_targets) {

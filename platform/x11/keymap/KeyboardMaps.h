@@ -30,6 +30,9 @@ class KeyboardMaps {
     std::vector<Target>& targets() { return m_targets; }
     const std::vector<Target>& targets() const { return m_targets; }
 
+    /// Whether the core keyboard's map is that of all.
+    bool areEqual() const;
+
     /// Empties those keys that type what `keys` say, and nothing else; tells which.
     std::bitset<256> empty(const std::vector<BoundKey>& keys);
 

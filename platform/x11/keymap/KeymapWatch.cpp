@@ -71,6 +71,7 @@ Result<bool> KeymapWatch::refresh(bool thorough) {
     const bool isNew = differ(*map, m_map, m_ownKeys) || readActions(m_connection) != m_actions;
     m_map = std::move(*map);
     if (isNew) {
+        ++m_changes;
         const auto read = this->read();
         if (!read) return read.error();
     }

@@ -38,6 +38,8 @@ class KeymapWatch {
     /// Keys whose meaning is our own: they are left out of characters(), and changes of them make nothing
     /// anew.
     void setOwnKeys(const KeycodeSet& keys);
+    /// How often the keymap has become another one, those keys apart.
+    std::size_t changes() const { return m_changes; }
 
     /// The keyboards below the core keyboard.
     std::vector<SlaveKeyboard> slaves() const;
@@ -51,6 +53,7 @@ class KeymapWatch {
     XConnection m_connection;
     std::uint8_t m_firstEvent = 0;
     std::int32_t m_coreDevice = -1;
+    std::size_t m_changes = 0;
     KeycodeSet m_ownKeys;
     DeviceMap m_map;
     std::vector<std::byte> m_actions;

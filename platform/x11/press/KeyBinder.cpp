@@ -61,6 +61,8 @@ KeyBinder::~KeyBinder() {
 
 KeyboardMaps KeyBinder::maps() const { return {m_keymap.connection(), m_keymap.slaves(), m_keymap.map()}; }
 
+bool KeyBinder::areKeyboardsEqual() const { return maps().areEqual(); }
+
 /// Finds the unused keys, and how many levels one can have.
 void KeyBinder::survey() {
     const KeyboardMaps maps = this->maps();
@@ -161,6 +163,9 @@ Result<void> KeyBinder::bind(const SpareSlots::Plan& plan) {
     m_slots.apply(plan);
     const auto refreshed = m_keymap.refresh(true);
     if (!refreshed) return refreshed.error();
+    // The keymap may have been set anew just then. That of keyboards which differ is known when one speaks.
+    if (!maps.areEqual()) return {};
+    recheck();
     return {};
 }
 

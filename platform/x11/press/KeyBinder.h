@@ -40,6 +40,10 @@ class KeyBinder {
     /// Characters that can lie bound at the same time; 0 where the keymap has no unused key.
     std::size_t capacity();
 
+    /// Whether all keyboards have the same keymap; otherwise the core keyboard has that of the one that spoke
+    /// last.
+    bool areKeyboardsEqual() const;
+
     /// What bind() would do, and from when on it may.
     SpareSlots::Plan plan(const std::vector<char32_t>& wanted);
     /// Waits until it may: the moment has come, and whoever was typed into has read what the keys were. False

@@ -8,16 +8,30 @@
 
 namespace x11 {
 
-std::optional<Stroke> TextTyper::find(char32_t character, xkb_layout_index_t group) const {
-    if (auto stroke = m_keymap.characters().find(character, group)) return stroke;
-    return m_binder.find(character);
+namespace {
+
+/// A keymap that has not changed for so long is whole.
+constexpr std::chrono::milliseconds settleTime{20};
+
+}  // namespace
+
+Step<> TextTyper::followKeymap(bool thorough) {
+    for (;;) {
+        const auto change = m_tools.characters.follow(thorough);
+        if (!change) return change.error();
+        if (!change.value().spoilt.empty()) return spoiltText(change.value().spoilt);
+        if (!change.value().isNew) return {};
+        // Some set it in several steps.
+        if (auto waited = m_waiter.waitUntil(m_tools.clock.now() + settleTime); !waited) return waited;
+        thorough = true;
+    }
 }
 
 Result<void> TextTyper::refuseUntypable(std::span<const char32_t> characters, xkb_layout_index_t group) {
     std::unordered_set<char32_t> passed;
     for (const char32_t character : characters) {
-        if (!passed.insert(character).second || find(character, group)) continue;
-        if (isBindable(character) && m_binder.capacity() > 0) continue;
+        if (!passed.insert(character).second || m_tools.characters.find(character, group)) continue;
+        if (isBindable(character) && m_tools.binder.capacity() > 0) continue;
         return Error{"The character " + nameOf(character) + " cannot be typed with this keyboard layout.",
                      "Take it out of the text, or set a layout that has it."};
     }
@@ -31,8 +45,8 @@ std::size_t TextTyper::fittingPart(std::span<const char32_t> characters, xkb_lay
     std::unordered_set<char32_t> seen;
     for (std::size_t at = 0; at < characters.size(); ++at) {
         const char32_t character = characters[at];
-        if (seen.contains(character) || m_keymap.characters().find(character, group)) continue;
-        if (unbound.size() == m_binder.capacity()) return at;
+        if (seen.contains(character) || m_tools.keymap.characters().find(character, group)) continue;
+        if (unbound.size() == m_tools.binder.capacity()) return at;
         seen.insert(character);
         unbound.push_back(character);
     }
@@ -40,21 +54,22 @@ std::size_t TextTyper::fittingPart(std::span<const char32_t> characters, xkb_lay
 }
 
 Step<> TextTyper::bind(const std::vector<char32_t>& wanted, std::span<const char32_t> left) {
-    const auto plan = m_binder.plan(wanted);
-    const auto isRead = m_binder.awaitReaders(plan, m_waiter);
+    const auto plan = m_tools.binder.plan(wanted);
+    const auto isRead = m_tools.binder.awaitReaders(plan, m_waiter);
     if (!isRead) return isRead.error();
     if (!isRead.value()) {
         return Error{"The program that is typed into reads nothing; not typed: " + beginningOf(left) + ".",
                      "Play it again when the program reads its keys."};
     }
-    if (const auto bound = m_binder.bind(plan); !bound) return bound.error();
+    if (plan.notBefore) m_tools.characters.forgetTyped();
+    if (const auto bound = m_tools.binder.bind(plan); !bound) return bound.error();
     return {};
 }
 
 Step<> TextTyper::prepare(std::span<const char32_t> characters, xkb_layout_index_t group) {
     std::vector<char32_t> bindable;
     for (const char32_t character : characters) {
-        if (isBindable(character) || m_keymap.characters().find(character, group)) {
+        if (isBindable(character) || m_tools.keymap.characters().find(character, group)) {
             bindable.push_back(character);
         }
     }
@@ -67,12 +82,13 @@ Step<Stroke> TextTyper::strokeFor(char32_t character, xkb_layout_index_t group) 
     if (const auto typable = refuseUntypable(std::span(&character, 1), group); !typable) {
         return typable.error();
     }
-    if (!find(character, group)) {
+    if (!m_tools.characters.find(character, group)) {
         if (const auto bound = bind({character}, std::span(&character, 1)); !bound) return bound.error();
     }
-    m_binder.noteReader();
-    m_binder.markUsed(character);
-    return find(character, group).value_or(Stroke{});
+    m_tools.binder.noteReader();
+    const Stroke stroke = m_tools.characters.find(character, group).value_or(Stroke{});
+    m_tools.characters.noteTyped(character, group, stroke);
+    return stroke;
 }
 
 Step<> TextTyper::type(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held,
@@ -80,42 +96,49 @@ Step<> TextTyper::type(std::span<const char32_t> characters, const Stroke& aroun
     const auto state = check();
     if (!state) return state.error();
     const xkb_layout_index_t group = state.value().lockedLayout;
-    if (const auto typable = refuseUntypable(characters, group); !typable) return typable.error();
     while (!characters.empty()) {
+        if (const auto typable = refuseUntypable(characters, group); !typable) return typable.error();
         std::vector<char32_t> wanted;
         const std::size_t size = fittingPart(characters, group, wanted);
         if (!wanted.empty()) {
             if (auto bound = bind(wanted, characters); !bound) return bound;
         }
-        if (auto typed = typePart(characters.first(size), around, held, check); !typed) return typed;
-        characters = characters.subspan(size);
+        const auto typed = typePart(characters.first(size), around, held, check);
+        if (!typed) return typed.error();
+        characters = characters.subspan(typed.value());
+        if (auto followed = followKeymap(true); !followed) return followed;
     }
     return {};
 }
 
-Step<> TextTyper::typePart(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held,
-                           const Check& check) {
-    const ModifierKeys& keys = m_keymap.keymap().keys();
+Step<std::size_t> TextTyper::typePart(std::span<const char32_t> characters, const Stroke& around,
+                                      const KeycodeSet& held, const Check& check) {
+    const ModifierKeys& keys = m_tools.keymap.keymap().keys();
     std::size_t at = 0;
-    while (at < characters.size()) {
-        if (auto heeded = m_waiter.heedUser(); !heeded) return heeded;
+    bool isWhole = true;
+    while (at < characters.size() && isWhole) {
+        if (auto heeded = m_waiter.heedUser(); !heeded) return heeded.error();
         const auto state = check();
         if (!state) return state.error();
         m_sender.meet(state.value());
-        m_binder.noteReader();
+        m_tools.binder.noteReader();
         for (; at < characters.size(); ++at) {
-            Stroke stroke = find(characters[at], state.value().lockedLayout).value_or(Stroke{});
+            const xkb_layout_index_t group = state.value().lockedLayout;
+            const auto typing = m_tools.characters.find(characters[at], group);
+            isWhole = typing.has_value();
+            if (!isWhole) break;
+            Stroke stroke = *typing;
             stroke.modifiers |= around.modifiers;
             stroke.lockMask = around.lockMask;
             stroke.lockValues = around.lockValues;
-            if (!m_connection.hasRoomFor(StrokeSender::sizeOf(stroke))) break;
+            if (!m_tools.connection.hasRoomFor(StrokeSender::sizeOf(stroke))) break;
             if (const auto sent = m_sender.send(keys, stroke, held); !sent) return sent.error();
-            m_binder.markUsed(characters[at]);
+            m_tools.characters.noteTyped(characters[at], group, *typing);
         }
         m_sender.home();
-        m_connection.flush();
+        m_tools.connection.flush();
     }
-    return {};
+    return at;
 }
 
 }  // namespace x11

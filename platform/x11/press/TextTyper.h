@@ -5,8 +5,8 @@
 #include <span>
 
 #include "platform/run/RunWaiter.h"
+#include "platform/x11/press/CharacterKeys.h"
 #include "platform/x11/press/HandsAndLocks.h"
-#include "platform/x11/press/KeyBinder.h"
 #include "platform/x11/press/StrokeSender.h"
 
 namespace x11 {
@@ -15,9 +15,19 @@ namespace x11 {
 /// else by keys that are bound to it. Up to InjectionConnection::capacity bytes go between two round trips.
 class TextTyper {
   public:
-    TextTyper(InjectionConnection& connection, KeymapWatch& keymap, KeyBinder& binder, StrokeSender& sender,
-              RunWaiter& waiter)
-        : m_connection(connection), m_keymap(keymap), m_binder(binder), m_sender(sender), m_waiter(waiter) {}
+    struct Tools {
+        InjectionConnection& connection;
+        KeymapWatch& keymap;
+        KeyBinder& binder;
+        CharacterKeys& characters;
+        const Clock& clock;
+    };
+    TextTyper(const Tools& tools, StrokeSender& sender, RunWaiter& waiter)
+        : m_tools(tools), m_sender(sender), m_waiter(waiter) {}
+
+    /// Keeps up with the keymap, and waits while it is being changed. Fails if that may have spoilt what was
+    /// typed just before; the message tells what. With `thorough` all changes up to now are seen.
+    Step<> followKeymap(bool thorough);
 
     /// Before each part that goes out whole: waits for hands, brings locks in order and tells the state.
     using Check = std::function<Step<XkbComponents>()>;
@@ -35,18 +45,16 @@ class TextTyper {
     Step<Stroke> strokeFor(char32_t character, xkb_layout_index_t group);
 
   private:
-    std::optional<Stroke> find(char32_t character, xkb_layout_index_t group) const;
     Result<void> refuseUntypable(std::span<const char32_t> characters, xkb_layout_index_t group);
     std::size_t fittingPart(std::span<const char32_t> characters, xkb_layout_index_t group,
                             std::vector<char32_t>& unbound);
     /// `left` is the text that is not typed where that fails.
     Step<> bind(const std::vector<char32_t>& wanted, std::span<const char32_t> left);
-    Step<> typePart(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held,
-                    const Check& check);
+    /// How many it has typed: fewer where the keymap has lost one meanwhile.
+    Step<std::size_t> typePart(std::span<const char32_t> characters, const Stroke& around,
+                               const KeycodeSet& held, const Check& check);
 
-    InjectionConnection& m_connection;
-    KeymapWatch& m_keymap;
-    KeyBinder& m_binder;
+    Tools m_tools;
     StrokeSender& m_sender;
     RunWaiter& m_waiter;
 };

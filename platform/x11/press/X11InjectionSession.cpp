@@ -28,7 +28,10 @@ X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionP
       m_locks(tools.connection, tools.guard),
       m_sender(tools.connection, tools.watch),
       m_held(tools.connection, tools.watch, m_sender),
-      m_typer(tools.connection, tools.keymap, tools.binder, m_sender, m_waiter) {
+      m_typer({tools.connection, tools.keymap, tools.binder, tools.characters, tools.clock}, m_sender,
+              m_waiter) {
+    // What an earlier run has typed is its matter.
+    m_tools.characters.forgetTyped();
     m_waiter.whenSuspended([this] { return stopProcess(); });
 }
 
@@ -68,13 +71,6 @@ Step<> X11InjectionSession::take(const std::function<Step<>()>& step) {
     auto taken = step();
     if (!taken) m_halt = taken.error();
     return taken;
-}
-
-Result<void> X11InjectionSession::followKeymap() {
-    const auto isRead = m_tools.keymap.refresh(!m_hasBegun);
-    if (!isRead) return isRead.error();
-    if (isRead.value()) m_tools.binder.recheck();
-    return {};
 }
 
 Step<> X11InjectionSession::begin() {
@@ -152,7 +148,7 @@ Step<> X11InjectionSession::prepareStroke() {
 
 Step<> X11InjectionSession::stroke(std::uint32_t keyCode, std::uint32_t modifiers) {
     return take([&]() -> Step<> {
-        if (const auto followed = followKeymap(); !followed) return followed.error();
+        if (auto followed = m_typer.followKeymap(!m_hasBegun); !followed) return followed;
         const auto stroke = planStroke(m_tools.keymap.keymap(), keyCode, modifiers);
         if (!stroke) return stroke.error();
         return stroke.value().keycode == 0 ? m_waiter.heedUser() : play(stroke.value());
@@ -183,7 +179,7 @@ Step<> X11InjectionSession::type(std::string_view text, std::uint32_t modifiers)
     const auto characters = charactersOf(text);
     if (!characters) return characters.error();
     if (characters.value().empty()) return m_waiter.heedUser();
-    if (const auto followed = followKeymap(); !followed) return followed.error();
+    if (auto followed = m_typer.followKeymap(true); !followed) return followed;
     const auto around = planModifiers(m_tools.keymap.keymap(), modifiers);
     if (!around) return around.error();
     if (auto prepared = prepareStroke(); !prepared) return prepared;
@@ -238,7 +234,7 @@ X11InjectionSession::Strokes X11InjectionSession::strokesOfText(std::string_view
 
 Step<> X11InjectionSession::keyDown(const HeldKey& key) {
     return take([&]() -> Step<> {
-        if (const auto followed = followKeymap(); !followed) return followed.error();
+        if (auto followed = m_typer.followKeymap(!m_hasBegun); !followed) return followed;
         if (auto prepared = prepareStroke(); !prepared) return prepared;
         const auto strokes = strokesOf(key);
         if (!strokes) return strokes.error();

@@ -22,6 +22,7 @@ struct InjectionTools {
     InjectionConnection& connection;
     KeymapWatch& keymap;
     KeyBinder& binder;
+    CharacterKeys& characters;
     GrabWait& grab;
 };
 
@@ -47,7 +48,6 @@ class X11InjectionSession final : public InjectionSession {
   private:
     /// Takes a step unless the run has halted, and remembers if it halts.
     Step<> take(const std::function<Step<>()>& step);
-    Result<void> followKeymap();
     Step<> begin();
     Step<> freeKeyboard();
     Step<XkbComponents> checkHands();

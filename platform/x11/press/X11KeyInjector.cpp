@@ -22,12 +22,14 @@ struct DisplayParts {
           keymap(std::move(watch)),
           receivers(options.display, clock),
           binder(connection, *keymap, receivers, clock, options.patience),
+          characters(*keymap, binder, clock),
           grab(keymap->connection(), clock) {}
 
     InjectionConnection connection;
     std::unique_ptr<KeymapWatch> keymap;
     Receivers receivers;
     KeyBinder binder;
+    CharacterKeys characters;
     GrabWait grab;
 };
 
@@ -82,6 +84,7 @@ Result<std::unique_ptr<InjectionSession>> X11KeyInjector::open(const InjectionPl
                                .connection = display.connection,
                                .keymap = *display.keymap,
                                .binder = display.binder,
+                               .characters = display.characters,
                                .grab = display.grab};
     auto session = std::make_unique<X11InjectionSession>(
         tools, plan, [parts = m_parts.get()] { parts->session = nullptr; });
@@ -114,6 +117,9 @@ Step<> X11KeyInjector::awaitReaders() {
                      xcb_get_file_descriptor(display.connection.get()));
     const auto isRead = display.binder.awaitReaders(waiter);
     if (!isRead) return isRead.error();
+    const auto change = display.characters.follow(true);
+    if (!change) return change.error();
+    if (!change.value().spoilt.empty()) return spoiltText(change.value().spoilt);
     if (isRead.value()) return {};
     return Error{"The program that was typed into has not read all of it.",
                  "See whether it hangs; what it reads later may lack characters."};

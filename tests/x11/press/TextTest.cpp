@@ -166,6 +166,24 @@ TEST_F(TextTest, aKeymapSetByTheUserForgetsWhatWasBound) {
     EXPECT_EQ(keymap(), before);
 }
 
+TEST_F(TextTest, aLayoutThatIsSetJustBehindATextIsToldIfItMayHaveSpoiltIt) {
+    const auto session = run();
+    ASSERT_TRUE(session->text("yz é!", 0));
+    command({"setxkbmap", "de"});
+    EXPECT_EQ(wordsOf(session->text("a", 0)),
+              "The keyboard layout was changed while text was typed, which may have arrived as something "
+              "else: \"yz é!\".");
+}
+
+TEST_F(TextTest, aLayoutThatTypesTheSameSpoilsNothing) {
+    terminal();
+    const auto session = run();
+    ASSERT_TRUE(session->text("abc!", 0));
+    command({"setxkbmap", "de"});
+    EXPECT_EQ(wordsOf(session->text("xyz", 0)), "going");
+    EXPECT_EQ(terminal().typed(7), "abc!xyz");
+}
+
 TEST_F(TextTest, keyboardsOfDifferentLayoutsKeepTheirOwn) {
     std::string device = command({"xinput", "list", "--id-only", "Xvfb keyboard"});
     std::erase(device, '\n');
