@@ -10,8 +10,10 @@
 ///
 /// - A held key gives one key-down and as many auto-repeats as the focused application got. Redundant presses
 ///   and releases give nothing.
-/// - Modifier, lock and level-chooser keys are never key-downs. A modifier change comes before the key-down
-///   that follows it; its mask passes through 0 only when all modifier keys are up.
+/// - Modifier, lock and level-chooser keys are never key-downs, unless they switch the layout with another
+/// one
+///   held: such a stroke is one of its key with the others as modifiers. A modifier change comes before the
+///   key-down that follows it; its mask passes through 0 only when all modifier keys are up.
 /// - Locks are never reported at rest. Just before a key-down the mask is reported that types the same
 ///   character with locks off, after it the held modifiers again. Where that mask would be 0 while a modifier
 ///   key is down, Caps Lock alone (0x0400) is reported in its place: it shifts nothing but A to Z.
@@ -43,7 +45,9 @@ class EventMonitor {
     /// macro is being recorded; off at first.
     virtual void setKeepsOwnStrokes(bool keeps) = 0;
 
-    /// Whether a macro is being recorded; off at first.
+    /// Whether a macro is being recorded; off at first. While one is, what is typed in another layout than
+    /// the strokes since its beginning have switched to names that layout in its code (platform/KeyCodes.h):
+    /// the layout was chosen in a panel, or is in force only while a key is held.
     virtual void setRecording(bool recording) = 0;
 
     /// Who is told when, in a recording, key presses are no longer delivered because another program has the

@@ -12,6 +12,9 @@ constexpr std::uint32_t keypadDecimal = 65;
 /// Rows above are played, never recorded.
 constexpr std::uint32_t lastRecorded = 127;
 
+/// Above are four of them, as many as X11 has.
+constexpr std::uint32_t lastLayout = 4 * firstLayout;
+
 /// The row of a code, or null.
 const Row* find(std::uint32_t code) {
     const auto& table = rows();
@@ -41,9 +44,15 @@ const std::vector<Row>& rows() {
     return table;
 }
 
+std::optional<std::uint32_t> layoutOf(std::uint32_t code) {
+    const std::uint32_t layout = code & layouts;
+    if (layout == 0 || layout > lastLayout) return std::nullopt;
+    return layout / firstLayout - 1;
+}
+
 std::optional<std::uint16_t> evdevFor(std::uint32_t code) {
-    const std::uint32_t base = code & ~choosers;
-    if (base == power) return std::nullopt;
+    const std::uint32_t base = baseOf(code);
+    if (base == power || (code & layouts) > lastLayout) return std::nullopt;
     if (base >= evdevBase && base <= evdevBase + maxEvdev)
         return static_cast<std::uint16_t>(base - evdevBase);
     const Row* row = find(base);
@@ -57,7 +66,8 @@ std::uint32_t fromEvdev(std::uint16_t evdev) {
 }
 
 bool isExtension(std::uint32_t code) {
-    const std::uint32_t base = code & ~choosers;
+    const std::uint32_t base = baseOf(code);
+    if ((code & layouts) > lastLayout) return false;
     if (base >= evdevBase && base <= evdevBase + maxEvdev) return true;
     return code != base && find(base) != nullptr;
 }

@@ -33,7 +33,7 @@ std::string nameOf(const HeldKey& key) {
     return " " + std::get<HeldText>(key).text;
 }
 
-bool isPower(std::uint32_t keyCode) { return (keyCode & ~keycode::choosers) == keycode::power; }
+bool isPower(std::uint32_t keyCode) { return keycode::baseOf(keyCode) == keycode::power; }
 
 Error powerKeyRefused() { return {"The power key cannot be pressed by a script.", ""}; }
 

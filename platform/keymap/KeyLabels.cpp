@@ -70,7 +70,7 @@ struct Key {
 };
 
 Key keyOf(const Keymap& keymap, std::uint32_t keyCode) {
-    const std::uint32_t baseCode = keyCode & ~keycode::choosers;
+    const std::uint32_t baseCode = keycode::baseOf(keyCode);
     return {baseCode, keymap.keycodeFor(baseCode), keymap.realChoosers(keyCode)};
 }
 
@@ -85,8 +85,9 @@ std::string labelAt(const Keymap& keymap, xkb_layout_index_t layout, const Key& 
 
 }  // namespace
 
-std::string keyLabel(const Keymap& keymap, xkb_layout_index_t layout, std::uint32_t keyCode) {
+std::string keyLabel(const Keymap& keymap, xkb_layout_index_t inForce, std::uint32_t keyCode) {
     const Key key = keyOf(keymap, keyCode);
+    const xkb_layout_index_t layout = keycode::layoutOf(keyCode).value_or(inForce);
     if (const char* fixed = labels::fixedPosition(key.baseCode)) return fixed;
     if (key.keycode == 0) return nameOfPosition(key.baseCode);
     if (key.choosers != 0) {

@@ -37,6 +37,8 @@ char asciiOf(xkb_keysym_t symbol) {
     return character < 0x80 ? static_cast<char>(character) : '\0';
 }
 
+bool isUpperCase(char character) { return character >= 'A' && character <= 'Z'; }
+
 /// One press, looked at from all sides.
 class Shaper {
   public:
@@ -58,6 +60,10 @@ class Shaper {
                      .modifiers = m_keymap.reported(m_modifiers & commandMask())};
         const bool keepsShift = keypad ? !digit : key.modifiers != 0;
         key.modifiers |= keepsShift ? heldShift() : shapeBits(digit ? m_masks.numLock : 0, key.character);
+        // The text of a macro has no word for the lock.
+        if ((key.modifiers & modifier::capsLock) != 0 && !isUpperCase(key.character)) {
+            key.keyCode |= keycode::capsLock;
+        }
         if (key.modifiers == 0 && modifierHeld) key.modifiers = modifier::functionKey;
         return key;
     }
@@ -94,7 +100,7 @@ class Shaper {
         const std::optional<bool> shift = shiftThatTypesTheSame(locks);
         if (!shift) return heldShift() | (isMadeByCapsLock(locks) ? modifier::capsLock : 0);
         if (!*shift) return 0;
-        const bool byCapsLock = !shiftHeld() && character >= 'A' && character <= 'Z';
+        const bool byCapsLock = !shiftHeld() && isUpperCase(character);
         return byCapsLock ? modifier::capsLock : modifier::shift;
     }
 

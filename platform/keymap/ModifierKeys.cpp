@@ -46,9 +46,10 @@ void ModifierKeys::tryKey(xkb_keymap* keymap, std::uint8_t keycode, xkb_layout_i
     xkb_state_update_key(state.get(), keycode, XKB_KEY_DOWN);
     Effect& effect = m_effects[layout][keycode];
     effect.set = modifiersOf(state.get(), XKB_STATE_MODS_EFFECTIVE);
-    effect.isModifierKey = effect.set != 0 || isModifierSymbol(symbol);
     const xkb_mod_mask_t held = modifiersOf(state.get(), XKB_STATE_MODS_DEPRESSED);
     const bool moves = xkb_state_serialize_layout(state.get(), XKB_STATE_LAYOUT_EFFECTIVE) != layout;
+    const bool locks = xkb_state_serialize_layout(state.get(), XKB_STATE_LAYOUT_LOCKED) != layout;
+    effect.isModifierKey = effect.set != 0 || isModifierSymbol(symbol) || (moves && !locks);
 
     xkb_state_update_key(state.get(), keycode, XKB_KEY_UP);
     const bool isLock = modifiersOf(state.get(), XKB_STATE_MODS_EFFECTIVE) != 0;
@@ -71,13 +72,16 @@ bool ModifierKeys::isModifierKey(std::uint8_t keycode, xkb_layout_index_t layout
     return effect(keycode, layout).isModifierKey;
 }
 
-std::uint8_t ModifierKeys::keyFor(xkb_mod_mask_t modifier) const {
-    const auto* const usual = std::find_if(usualKeys.begin(), usualKeys.end(), [&](std::uint8_t keycode) {
-        return m_momentary[keycode] == modifier;
-    });
+std::uint8_t ModifierKeys::keyFor(xkb_mod_mask_t modifier, std::uint8_t except) const {
+    const auto holds = [&](std::uint8_t keycode) {
+        return keycode != except && m_momentary[keycode] == modifier;
+    };
+    const auto* const usual = std::find_if(usualKeys.begin(), usualKeys.end(), holds);
     if (usual != usualKeys.end()) return *usual;
-    const auto* const any = std::find(m_momentary.begin(), m_momentary.end(), modifier);
-    return any == m_momentary.end() ? std::uint8_t{0} : static_cast<std::uint8_t>(any - m_momentary.begin());
+    for (std::uint16_t keycode = xkbcode::first; keycode <= xkbcode::last; ++keycode) {
+        if (holds(static_cast<std::uint8_t>(keycode))) return static_cast<std::uint8_t>(keycode);
+    }
+    return 0;
 }
 
 xkb_mod_mask_t ModifierKeys::heldBy(const KeycodeSet& keycodes) const {

@@ -19,12 +19,13 @@ class ModifierKeys {
 
     /// The modifiers that the key sets in a layout when it is pressed with nothing else down, locks included.
     xkb_mod_mask_t setBy(std::uint8_t keycode, xkb_layout_index_t layout) const;
-    /// True for modifier, lock and level-chooser keys; keys that switch the group are ordinary ones.
+    /// True for modifier, lock and level-chooser keys, and those that choose a layout while they are held or
+    /// for the next key; keys that switch the layout for good are ordinary ones.
     bool isModifierKey(std::uint8_t keycode, xkb_layout_index_t layout) const;
 
     /// The key that holds exactly this one modifier in every layout, the usual position of a keyboard first;
-    /// 0 if there is none.
-    std::uint8_t keyFor(xkb_mod_mask_t modifier) const;
+    /// 0 if there is none. `except` is never the answer.
+    std::uint8_t keyFor(xkb_mod_mask_t modifier, std::uint8_t except = 0) const;
     /// Whether each modifier of `mask`, which must not be 0, has such a key.
     bool canHold(xkb_mod_mask_t mask) const;
 
@@ -32,6 +33,9 @@ class ModifierKeys {
     xkb_mod_mask_t heldBy(std::uint8_t keycode) const { return m_held[keycode]; }
     /// The same of several keys together.
     xkb_mod_mask_t heldBy(const KeycodeSet& keycodes) const;
+
+    /// Whether there is more than one layout, so that modifiers that are held together may switch it.
+    bool haveLayouts() const { return m_effects.size() > 1; }
 
     /// Whether a stroke of the key leaves a lock or a latch behind.
     bool isLock(std::uint8_t keycode) const { return m_locks[keycode]; }

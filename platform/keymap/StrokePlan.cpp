@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/keymap/StrokePlan.h"
 
+#include <string>
+
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
 
@@ -16,6 +18,11 @@ Result<Stroke> around(const Keymap& keymap, std::uint32_t modifiers, std::uint32
     return stroke;
 }
 
+Error noLayout(xkb_layout_index_t layout) {
+    return {"The keyboard has no layout " + std::to_string(layout + 1) + ".",
+            "Add it to the keyboard layouts, or record the macro again."};
+}
+
 }  // namespace
 
 xkb_mod_mask_t locksOfText(const Keymap& keymap) { return realModifiers & ~keymap.masks().numLock; }
@@ -29,7 +36,7 @@ Result<Stroke> planModifiers(const Keymap& keymap, std::uint32_t modifiers) {
 }
 
 Result<Stroke> planStroke(const Keymap& keymap, std::uint32_t keyCode, std::uint32_t modifiers) {
-    const std::uint32_t baseCode = keyCode & ~keycode::choosers;
+    const std::uint32_t baseCode = keycode::baseOf(keyCode);
     if (baseCode == keycode::power) {
         return Error{"The power key cannot be pressed by a script.", "Take key code 127 out of the script."};
     }
@@ -39,6 +46,14 @@ Result<Stroke> planStroke(const Keymap& keymap, std::uint32_t keyCode, std::uint
     if (!planned) return planned;
     Stroke stroke = planned.value();
     stroke.keycode = keycode;
+    if ((keyCode & keycode::capsLock) != 0) {
+        stroke.lockMask |= keymap.masks().capsLock;
+        stroke.lockValues |= keymap.masks().capsLock;
+    }
+    if (const auto layout = keycode::layoutOf(keyCode)) {
+        if (*layout >= xkb_keymap_num_layouts(keymap.get())) return noLayout(*layout);
+        stroke.group = static_cast<std::int8_t>(*layout);
+    }
     if (keycode::isKeypadDigit(baseCode)) {
         stroke.lockMask |= keymap.masks().numLock;
         stroke.lockValues |= keymap.masks().numLock;

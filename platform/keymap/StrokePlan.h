@@ -9,7 +9,8 @@
 ///
 /// A code without a key plays nothing: its stroke has key code 0. A keypad digit sets Num Lock so that the
 /// digit is typed, Caps Lock is locked around the stroke, the function key is ignored. Fails for the power
-/// key, and for a modifier or chooser that no key of the keymap holds (see Keymap::real()).
+/// key, for a layout that the keymap has not, and for a modifier or chooser that no key of it holds (see
+/// Keymap::real()).
 Result<Stroke> planStroke(const Keymap& keymap, std::uint32_t keyCode, std::uint32_t modifiers);
 
 /// The locks that matter for the characters of a text, which must be off for each: all but Num Lock, since no

@@ -3,7 +3,10 @@
 
 #include <algorithm>
 
+#include "platform/KeyCodes.h"
 #include "platform/XkbCodes.h"
+#include "platform/keymap/StrokeKeys.h"
+#include "platform/keymap/StrokePlan.h"
 
 namespace {
 
@@ -47,10 +50,26 @@ void KeyInterpreter::press(const RawKey& key, const KeyOrigin& origin) {
 }
 
 void KeyInterpreter::pressModifier(const RawKey& key, DownKey& held) {
-    held.modifiers = m_keyboard.keymap().keys().setBy(key.keycode, m_keyboard.layout()) &
-                     ~m_keyboard.keymap().masks().locks();
+    const xkb_mod_mask_t modifiers = m_keyboard.keymap().keys().setBy(key.keycode, m_keyboard.layout()) &
+                                     ~m_keyboard.keymap().masks().locks();
+    const xkb_layout_index_t before = m_keyboard.components().lockedLayout;
     m_keyboard.feed(key.keycode, true);
+    const bool isSwitch = m_keyboard.components().lockedLayout != before;
+    if (isSwitch && !held.hidden && !m_muted) reportSwitch(key.keycode);
+    held.modifiers = modifiers;
     if (!held.hidden) reportModifiers(heldMask());
+}
+
+/// Modifiers that are held together have switched the layout: a stroke of the one that was pressed last.
+/// Where that does not switch when it is played, what is typed next tells its layout instead.
+void KeyInterpreter::reportSwitch(std::uint8_t keycode) {
+    const std::uint32_t code = keycode::fromEvdev(xkbcode::toEvdev(keycode)) |
+                               m_keyboard.keymap().reportedChoosers(m_held.modifiers());
+    const TypedKey stroke{.keyCode = code, .modifiers = heldMask()};
+    const xkb_layout_index_t played = layoutAfterPlaying(stroke);
+    if (played == m_playedLayout) return;
+    m_playedLayout = played;
+    reportPress(KeyEventKind::keyDown, stroke);
 }
 
 void KeyInterpreter::pressHotKey(const RawKey& key, DownKey& held, HotKeyId id) {
@@ -66,6 +85,7 @@ void KeyInterpreter::pressOrdinary(const RawKey& key, DownKey& held) {
     if (m_muted) return;
     held.reportedCode = typed.keyCode;
     reportPress(KeyEventKind::keyDown, typed);
+    if (m_isRecording) m_playedLayout = layoutAfterPlaying(typed);
 }
 
 void KeyInterpreter::release(const RawKey& key, const DownKey& held) {
@@ -157,6 +177,29 @@ void KeyInterpreter::reportModifiers(std::uint32_t mask) {
 std::uint32_t KeyInterpreter::heldMask() const { return m_keyboard.keymap().reported(m_held.modifiers()); }
 
 TypedKey KeyInterpreter::typedBy(std::uint8_t keycode) const {
-    return shapeKey(m_keyboard.keymap(), keycode, m_keyboard.modifiers(), m_keyboard.layout(),
-                    heldMask() != 0);
+    TypedKey typed =
+        shapeKey(m_keyboard.keymap(), keycode, m_keyboard.modifiers(), m_keyboard.layout(), heldMask() != 0);
+    if (needsLayout(keycode)) typed.keyCode = keycode::inLayout(typed.keyCode, m_keyboard.layout());
+    return typed;
+}
+
+/// Whether the key types something else in the layout that playing will be in.
+bool KeyInterpreter::needsLayout(std::uint8_t keycode) const {
+    constexpr xkb_layout_index_t mostLayouts = 4;
+    const xkb_layout_index_t layout = m_keyboard.layout();
+    if (!m_isRecording || layout == m_playedLayout || layout >= mostLayouts) return false;
+    const xkb_mod_mask_t modifiers = m_keyboard.modifiers();
+    const Keymap& keymap = m_keyboard.keymap();
+    return keymap.symbol(keycode, modifiers, layout) != keymap.symbol(keycode, modifiers, m_playedLayout);
+}
+
+xkb_layout_index_t KeyInterpreter::layoutAfterPlaying(const TypedKey& typed) const {
+    const Keymap& keymap = m_keyboard.keymap();
+    const auto stroke = planStroke(keymap, typed.keyCode, typed.modifiers);
+    return stroke ? layoutAfter(keymap, stroke.value(), m_playedLayout) : m_playedLayout;
+}
+
+void KeyInterpreter::setRecording(bool recording) {
+    m_isRecording = recording;
+    m_playedLayout = m_keyboard.components().lockedLayout;
 }

@@ -59,6 +59,8 @@ class KeyInterpreter {
     /// While true, presses and hot keys are dropped.
     void setMuted(bool muted) { m_muted = muted; }
     void setKeepsOwnStrokes(bool keeps) { m_keepsOwn = keeps; }
+    /// See EventMonitor.
+    void setRecording(bool recording);
 
     /// Takes back what is to be delivered of these hot keys, and what would be when those that are held come
     /// up.
@@ -78,11 +80,14 @@ class KeyInterpreter {
     void pressHotKey(const RawKey& key, DownKey& held, HotKeyId id);
     void pressOrdinary(const RawKey& key, DownKey& held);
     void watchEscape(const RawKey& key);
+    void reportSwitch(std::uint8_t keycode);
     void reportRepeat(const DownKey& held, std::uint8_t keycode);
     void reportPress(KeyEventKind kind, const TypedKey& typed);
     void reportModifiers(std::uint32_t mask);
     std::uint32_t heldMask() const;
     TypedKey typedBy(std::uint8_t keycode) const;
+    bool needsLayout(std::uint8_t keycode) const;
+    xkb_layout_index_t layoutAfterPlaying(const TypedKey& typed) const;
 
     KeyboardState& m_keyboard;
     CancelWatch& m_cancel;
@@ -91,4 +96,8 @@ class KeyInterpreter {
     std::uint32_t m_reportedMask = 0;
     bool m_muted = false;
     bool m_keepsOwn = false;
+    bool m_isRecording = false;
+    /// The layout that is locked when what has been recorded so far has been played where that was locked
+    /// in which the recording began.
+    xkb_layout_index_t m_playedLayout = 0;
 };

@@ -83,20 +83,15 @@ TEST_F(BusyReaderTest, aProgramThatEndsUnreadHoldsNothingUp) {
     EXPECT_EQ(play.program().wait(std::chrono::seconds(10)), 0) << play.output();
 }
 
-TEST_F(BusyReaderTest, aSignalEndsTheWaitAndTheKeysKeepTheirMeaning) {
+TEST_F(BusyReaderTest, aSignalEndsTheWait) {
     const Terminal terminal(display());
     ASSERT_EQ(kill(terminal.pid(), SIGSTOP), 0);
-    {
-        Play play(display(), script());
-        EXPECT_TRUE(eventually([this] { return probe().hasProperty(record); })) << play.output();
-        EXPECT_EQ(play.program().wait(std::chrono::milliseconds(500)), -1) << play.output();
-        play.program().signal(SIGTERM);
-        EXPECT_EQ(play.program().wait(), 128 + SIGTERM);
-    }
-    EXPECT_TRUE(probe().hasProperty(record));
-    ASSERT_EQ(kill(terminal.pid(), SIGCONT), 0);
-    const std::string expected = text;
-    EXPECT_EQ(terminal.typed(expected.size()), expected);
+    Play play(display(), script());
+    EXPECT_TRUE(eventually([this] { return probe().hasProperty(record); })) << play.output();
+    EXPECT_EQ(play.program().wait(std::chrono::milliseconds(500)), -1) << play.output();
+    play.program().signal(SIGTERM);
+    EXPECT_EQ(play.program().wait(), 128 + SIGTERM);
+    EXPECT_FALSE(probe().hasProperty(record));
 }
 
 }  // namespace

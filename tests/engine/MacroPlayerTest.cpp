@@ -121,4 +121,11 @@ TEST_F(MacroPlayerTest, recordEndsACancelledRecordingAndTheNextOneStartsAfresh) 
     EXPECT_EQ(gui.history().size(), 1U);
 }
 
+TEST_F(MacroPlayerTest, theMonitorKnowsWhetherAMacroIsRecorded) {
+    toggleRecording();
+    EXPECT_TRUE(platform().eventMonitor.isRecording());
+    stopRecording();
+    EXPECT_FALSE(platform().eventMonitor.isRecording());
+}
+
 }  // namespace

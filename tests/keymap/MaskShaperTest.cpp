@@ -67,7 +67,7 @@ TEST(MaskShaperTest, otherLettersUnderCapsLockAreShapedByShift) {
 
 TEST(MaskShaperTest, whatCapsLockAloneMakesCarriesTheLock) {
     // Caps Lock makes É of the digit row's é, which Shift turns into a digit.
-    check(*namedKeymap("fr"), {{xkey::two, xmask::capsLock, {19, 0, 0x400}},
+    check(*namedKeymap("fr"), {{xkey::two, xmask::capsLock, {0x800 + 19, 0, 0x400}},
                                {xkey::two, xmask::shift, {19, '2', 0x200}},
                                {xkey::q, xmask::capsLock, {12, 'A', 0x400}}});
 }

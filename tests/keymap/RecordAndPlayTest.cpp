@@ -134,14 +134,26 @@ TEST_P(RecordAndPlayTest, aKeypadDigitIsPressedUnderNumLock) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(Layouts, RecordAndPlayTest,
-                         testing::Values(Layout{"us"}, Layout{"de"}, Layout{"fr"}, Layout{"de(neo)"},
-                                         Layout{"fr(bepo)"}, Layout{"jp"}, Layout{"us,ru"}, Layout{"cz"},
-                                         Layout{"gr"}, Layout{"gb"}, Layout{"br"}, Layout{"ca(multix)"},
-                                         Layout{"us", "altwin:swap_alt_win"}, Layout{"us", "altwin:meta_win"},
-                                         Layout{"us", "altwin:alt_win"}, Layout{"de", "lv3:caps_switch"},
-                                         Layout{"us", "lv5:ralt_switch_lock"}, Layout{"us", "ctrl:swapcaps"},
-                                         Layout{"us", "caps:shiftlock"},
-                                         Layout{"de(neo)", "altwin:meta_win"}));
+/// Of many countries and for many habits, and pairs of which both are tried.
+std::vector<Layout> layouts() {
+    std::vector<Layout> layouts{{"us", "altwin:swap_alt_win"},  {"us", "altwin:meta_win"},
+                                {"us", "altwin:alt_win"},       {"de", "lv3:caps_switch"},
+                                {"us", "ctrl:swapcaps"},        {"us", "lv5:ralt_switch_lock"},
+                                {"us", "caps:shiftlock"},       {"us,ru", "grp:alt_shift_toggle"},
+                                {"de(neo)", "altwin:meta_win"}, {"us,ru", "grp:switch"}};
+    for (const char* name :
+         {"us",    "us(intl)", "us(dvorak)", "us(colemak)", "gb", "de",    "de(neo)", "de(bone)",
+          "fr",    "fr(bepo)", "es",         "it",          "pt", "br",    "latam",   "ca(multix)",
+          "cz",    "sk",       "pl",         "hu",          "ro", "hr",    "si",      "tr",
+          "gr",    "ru",       "ua",         "bg",          "il", "ara",   "th",      "ge",
+          "jp",    "kr",       "se",         "no",          "dk", "fi",    "ch",      "be",
+          "lv",    "lt",       "ee",         "is",          "vn", "us,ru", "de,ru",   "us,gr",
+          "cz,us", "fr,ara",   "us,il"}) {
+        layouts.push_back({name});
+    }
+    return layouts;
+}
+
+INSTANTIATE_TEST_SUITE_P(Layouts, RecordAndPlayTest, testing::ValuesIn(layouts()));
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "keymap/NamedKeymap.h"
+#include "platform/Modifiers.h"
 #include "support/Keys.h"
 
 namespace {
@@ -157,6 +158,87 @@ TEST_F(KeyInterpreterTest, escapeReadLateCountsByTheServersTime) {
     press(xkey::escape);
     release(xkey::escape, laptop, 100 + 300);
     EXPECT_TRUE(m_cancel.isCancelled());
+}
+
+/// Two layouts, us and ru, and what switches between them.
+class LayoutSwitchingTest : public KeyInterpreterTest {
+  protected:
+    void begin(const std::string& options) {
+        m_keyboard.replaceKeymap(namedKeymap("us,ru", options));
+        m_interpreter.setRecording(true);
+    }
+    void tap(std::uint8_t keycode) {
+        press(keycode);
+        release(keycode);
+    }
+    /// The key presses: code and modifiers.
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> strokes() {
+        std::vector<std::pair<std::uint32_t, std::uint32_t>> strokes;
+        for (const KeyEvent& event : keyEvents()) {
+            if (event.kind == KeyEventKind::keyDown) strokes.emplace_back(event.keyCode, event.modifiers);
+        }
+        return strokes;
+    }
+    void lock(xkb_layout_index_t layout) {
+        XkbComponents components = m_keyboard.components();
+        components.lockedLayout = layout;
+        m_keyboard.confirm(components, 0, false);
+    }
+    using Strokes = std::vector<std::pair<std::uint32_t, std::uint32_t>>;
+};
+
+TEST_F(LayoutSwitchingTest, aPairOfModifiersIsAStrokeOfTheSecondOne) {
+    begin("grp:alt_shift_toggle");
+    press(xkey::alt);
+    tap(xkey::shift);
+    release(xkey::alt);
+    tap(xkey::a);
+    EXPECT_EQ(strokes(), (Strokes{{key::shift, modifier::option}, {key::a, 0}}));
+    press(xkey::shift);
+    tap(xkey::alt);
+    release(xkey::shift);
+    tap(xkey::a);
+    EXPECT_EQ(strokes(), (Strokes{{key::alt, modifier::shift}, {key::a, 0}}));
+}
+
+TEST_F(LayoutSwitchingTest, aLayoutThatNoStrokeHasChosenIsNamed) {
+    begin("");
+    tap(xkey::a);
+    lock(1);
+    tap(xkey::a);
+    tap(xkey::space);
+    lock(0);
+    tap(xkey::a);
+    EXPECT_EQ(strokes(), (Strokes{{key::a, 0}, {0x4000 + key::a, 0}, {key::space, 0}, {key::a, 0}}));
+}
+
+TEST_F(LayoutSwitchingTest, aRecordingBeginsInTheLayoutThatIsInForce) {
+    begin("");
+    lock(1);
+    m_interpreter.setRecording(true);
+    tap(xkey::a);
+    lock(0);
+    tap(xkey::a);
+    m_interpreter.setRecording(false);
+    lock(1);
+    tap(xkey::a);
+    EXPECT_EQ(strokes(), (Strokes{{key::a, 0}, {0x2000 + key::a, 0}, {key::a, 0}}));
+}
+
+TEST_F(LayoutSwitchingTest, aLayoutThatIsHeldIsNamed) {
+    begin("grp:switch");
+    press(xkey::altGr);
+    tap(xkey::a);
+    release(xkey::altGr);
+    tap(xkey::a);
+    EXPECT_EQ(strokes(), (Strokes{{0x4000 + key::a, 0}, {key::a, 0}}));
+}
+
+TEST_F(LayoutSwitchingTest, aKeyThatSwitchesIsAStrokeLikeOthers) {
+    begin("grp:sclk_toggle");
+    tap(xkey::scrollLock);
+    tap(xkey::a);
+    EXPECT_EQ(strokes(), (Strokes{{107, 0}, {key::a, 0}}));
 }
 
 }  // namespace

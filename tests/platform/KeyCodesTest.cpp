@@ -59,6 +59,19 @@ TEST(KeyCodesTest, codesWithoutAKeyPlayNothing) {
     }
 }
 
+TEST(KeyCodesTest, layoutsAreBitsOnTop) {
+    EXPECT_EQ(keycode::inLayout(12, 0), 0x2000U + 12);
+    EXPECT_EQ(keycode::inLayout(0x200 + 12, 3), 0x8200U + 12);
+    EXPECT_EQ(keycode::inLayout(0x2000 + 12, 1), 0x4000U + 12);
+    EXPECT_EQ(keycode::layoutOf(12), std::nullopt);
+    EXPECT_EQ(keycode::layoutOf(0x4000 + 12), 1);
+    EXPECT_EQ(keycode::evdevFor(0x4000 + 12), 16);
+    EXPECT_EQ(keycode::evdevFor(0x8000 + 0x1000 + evdevkey::f13), evdevkey::f13);
+    EXPECT_EQ(keycode::evdevFor(0xA000 + 12), std::nullopt);
+    EXPECT_TRUE(keycode::isExtension(0x4000 + 12));
+    EXPECT_FALSE(keycode::isExtension(0xA000 + 12));
+}
+
 TEST(KeyCodesTest, powerIsRefused) { EXPECT_EQ(keycode::evdevFor(keycode::power), std::nullopt); }
 
 TEST(KeyCodesTest, noneIsNoKey) { EXPECT_EQ(keycode::evdevFor(keycode::none), std::nullopt); }

@@ -68,6 +68,7 @@ inline constexpr std::uint8_t keypadFive = 84;
 inline constexpr std::uint8_t keypadOne = 87;
 inline constexpr std::uint8_t keypadPoint = 91;
 inline constexpr std::uint8_t keypadEnter = 104;
+inline constexpr std::uint8_t f12 = 96;
 inline constexpr std::uint8_t print = 107;
 inline constexpr std::uint8_t altGr = 108;
 inline constexpr std::uint8_t super = 133;

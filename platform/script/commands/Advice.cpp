@@ -51,7 +51,7 @@ std::string codeAdvice(std::int64_t code) {
     if (keycode::isExtension(key)) {
         return "Key code " + std::to_string(code) + " is an extension, which only Keyrill plays.";
     }
-    if ((key & ~keycode::choosers) == keycode::power || keycode::evdevFor(key)) return "";
+    if (keycode::baseOf(key) == keycode::power || keycode::evdevFor(key)) return "";
     return noKeyAdvice(key);
 }
 

@@ -19,7 +19,7 @@ constexpr std::int32_t maxKeyCode = 65535;
 constexpr std::uint32_t evdevPower = 116;
 
 bool isPower(std::uint32_t code) {
-    const std::uint32_t base = code & ~keycode::choosers;
+    const std::uint32_t base = keycode::baseOf(code);
     return base == keycode::power || base == keycode::evdevBase + evdevPower;
 }
 

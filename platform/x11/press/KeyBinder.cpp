@@ -55,8 +55,8 @@ KeyBinder::KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Recei
 KeyBinder::~KeyBinder() {
     if (m_slots.bindings().empty()) return;
     PlainWait wait(m_clock);
-    const auto isRead = awaitReaders(wait, longestOfExit);
-    if (isRead && isRead.value()) takeBack();
+    [[maybe_unused]] const auto isRead = awaitReaders(wait, longestOfExit);
+    takeBack();
 }
 
 KeyboardMaps KeyBinder::maps() const { return {m_keymap.connection(), m_keymap.slaves(), m_keymap.map()}; }

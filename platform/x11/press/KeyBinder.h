@@ -21,8 +21,7 @@ class KeyBinder {
     /// A run waits for those who are typed into for as long as `patience`.
     KeyBinder(InjectionConnection& connection, KeymapWatch& keymap, Receivers& receivers, Clock& clock,
               std::chrono::milliseconds patience);
-    /// Takes everything back if the last character typed has been read within a second. What has not been
-    /// read stays bound, or it would be read as nothing; the next start takes it back.
+    /// Takes everything back, when the last character typed has been read, after a second at the latest.
     ~KeyBinder();
     KeyBinder(const KeyBinder&) = delete;
     KeyBinder& operator=(const KeyBinder&) = delete;

@@ -5,24 +5,9 @@
 #include <bit>
 #include <utility>
 
-#include "platform/keymap/ModifierMasks.h"
+#include "platform/keymap/StrokeKeys.h"
 
 namespace x11 {
-
-namespace {
-
-/// The keys for the modifiers that are not down yet.
-std::vector<std::uint8_t> missingKeys(const ModifierKeys& keys, const Stroke& stroke, xkb_mod_mask_t down) {
-    std::vector<std::uint8_t> missing;
-    for (xkb_mod_mask_t bit = 1; bit <= realModifiers; bit <<= 1U) {
-        if ((stroke.modifiers & ~down & bit) == 0) continue;
-        const std::uint8_t keycode = keys.keyFor(bit);
-        if (keycode != stroke.keycode) missing.push_back(keycode);
-    }
-    return missing;
-}
-
-}  // namespace
 
 void StrokeSender::meet(const XkbComponents& state) {
     m_homeLocks = m_locks = state.locked;
@@ -31,20 +16,20 @@ void StrokeSender::meet(const XkbComponents& state) {
 
 std::size_t StrokeSender::sizeOf(const Stroke& stroke) {
     const auto modifiers = static_cast<std::size_t>(std::popcount(stroke.modifiers));
-    constexpr std::size_t locksAndGroups = 4;
+    constexpr std::size_t locksAndGroups = 5;
     return (modifiers + 2) * 2 * InjectionConnection::keyEventSize +
            locksAndGroups * InjectionConnection::lockSize;
 }
 
 Result<void> StrokeSender::send(const ModifierKeys& keys, const Stroke& stroke, const KeycodeSet& held) {
     const xkb_mod_mask_t down = keys.heldBy(held);
-    const auto modifiers = missingKeys(keys, stroke, down);
+    const auto modifiers = keysAround(keys, stroke, down);
     // Those of a key that the run holds down are lifted already, and stay so.
     const bool isLifted =
         !held[stroke.keycode] &&
         m_watch.liftHotKey(stroke.keycode, static_cast<std::uint16_t>(stroke.modifiers | down));
     setLocks(stroke);
-    for (const std::uint8_t keycode : modifiers) m_connection.press(keycode);
+    pressModifiers(keys, modifiers);
     // A key that the run holds down goes up first, or nobody would see it go down again.
     if (held[stroke.keycode]) m_connection.release(stroke.keycode);
     m_connection.press(stroke.keycode);
@@ -59,11 +44,19 @@ Result<void> StrokeSender::send(const ModifierKeys& keys, const Stroke& stroke, 
 
 std::vector<std::uint8_t> StrokeSender::hold(const ModifierKeys& keys, const Stroke& stroke,
                                              const KeycodeSet& held) {
-    auto pressed = missingKeys(keys, stroke, keys.heldBy(held));
-    pressed.push_back(stroke.keycode);
+    auto pressed = keysAround(keys, stroke, keys.heldBy(held));
     setLocks(stroke);
-    for (const std::uint8_t keycode : pressed) m_connection.press(keycode);
+    pressModifiers(keys, pressed);
+    m_connection.press(stroke.keycode);
+    pressed.push_back(stroke.keycode);
     return pressed;
+}
+
+/// Of the keys of a stroke only its own may switch the layout, as it did when it was recorded; pairs of
+/// modifiers may do so on their way.
+void StrokeSender::pressModifiers(const ModifierKeys& keys, const std::vector<std::uint8_t>& modifiers) {
+    for (const std::uint8_t keycode : modifiers) m_connection.press(keycode);
+    if (!modifiers.empty() && keys.haveLayouts()) m_connection.lockGroup(m_group);
 }
 
 void StrokeSender::lockGroup(xkb_layout_index_t group) {

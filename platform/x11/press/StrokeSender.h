@@ -34,6 +34,7 @@ class StrokeSender {
   private:
     void lockGroup(xkb_layout_index_t group);
     void setLocks(const Stroke& stroke);
+    void pressModifiers(const ModifierKeys& keys, const std::vector<std::uint8_t>& modifiers);
     void lockModifiers(xkb_mod_mask_t locks);
 
     InjectionConnection& m_connection;

@@ -19,8 +19,8 @@ namespace x11 {
 /// down should this process die in the middle of a stroke; without the guard nothing is played.
 ///
 /// The watch and the clock must outlive the injector; all of it lives on one thread. Destroying the injector
-/// takes the characters back that were put on unused keys, when the last of them has been read; if that takes
-/// more than a second, the next start does.
+/// takes the characters back that were put on unused keys, when the last of them has been read, after a
+/// second at the latest.
 class X11KeyInjector final : public KeyInjector {
   public:
     struct Options {

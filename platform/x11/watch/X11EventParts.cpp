@@ -131,6 +131,7 @@ bool X11EventManager::Parts::waitsForVerdict() const {
 void X11EventManager::Parts::setRecording(bool recording) {
     if (std::exchange(m_recording, recording) == recording) return;
     catchUp();
+    m_interpreter.setRecording(recording);
     m_holds->follow(m_recording || m_running);
     m_wakeups.tickEvery(m_recording ? betweenLooks : std::chrono::milliseconds(0));
     if (!m_recording) m_hold.reset();
