@@ -4,7 +4,10 @@
 #include <algorithm>
 #include <charconv>
 #include <fstream>
+#include <set>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -29,6 +32,20 @@ std::optional<std::size_t> buttonOf(const ScriptDialog& dialog, const std::strin
     return static_cast<std::size_t>(named - dialog.buttons.begin());
 }
 
+/// The numbers of a line, as indices in their order; empty if one is none of the choices.
+std::optional<std::vector<std::size_t>> choicesOf(const ScriptDialog& dialog, const std::string& line) {
+    std::set<std::size_t> places;
+    std::istringstream numbers(line);
+    for (std::string word; numbers >> word;) {
+        std::size_t number = 0;
+        const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+        const bool isNumber = error == std::errc() && end == word.data() + word.size();
+        if (!isNumber || number < 1 || number > dialog.choices.size()) return std::nullopt;
+        places.insert(number - 1);
+    }
+    return std::vector<std::size_t>(places.begin(), places.end());
+}
+
 }  // namespace
 
 Result<ScriptAnswer> TerminalDialogs::ask(const ScriptDialog& dialog) {
@@ -45,6 +62,7 @@ Result<ScriptAnswer> TerminalDialogs::ask(const ScriptDialog& dialog) {
         std::getline(terminal, line);
         answer.text = line.empty() ? *dialog.defaultAnswer : line;
     }
+    if (!dialog.choices.empty()) return choose(dialog, terminal);
     while (!answer.button) {
         terminal << menuOf(dialog) << "\n> " << std::flush;
         if (!std::getline(terminal, line)) {
@@ -54,6 +72,29 @@ Result<ScriptAnswer> TerminalDialogs::ask(const ScriptDialog& dialog) {
         answer.button = buttonOf(dialog, line);
     }
     return answer;
+}
+
+/// Until the line names as many as may be chosen. An empty line takes what is chosen already.
+ScriptAnswer TerminalDialogs::choose(const ScriptDialog& dialog, std::iostream& terminal) {
+    ScriptAnswer answer{dialog.defaultButton, "", {}};
+    for (std::size_t i = 0; i < dialog.choices.size(); ++i) {
+        const bool isChosen = std::count(dialog.defaultChoices.begin(), dialog.defaultChoices.end(), i) > 0;
+        terminal << i + 1 << (isChosen ? " * " : "   ") << dialog.choices[i] << "\n";
+    }
+    for (;;) {
+        terminal << "0 " << dialog.buttons.front() << "\n> " << std::flush;
+        std::string line;
+        if (!std::getline(terminal, line) || line == "0") {
+            answer.button = dialog.cancelButton;
+            return answer;
+        }
+        const auto chosen = line.empty() ? std::optional(dialog.defaultChoices) : choicesOf(dialog, line);
+        const bool fits =
+            chosen && (dialog.allowsNone || !chosen->empty()) && (dialog.allowsSeveral || chosen->size() < 2);
+        if (!fits) continue;
+        answer.chosen = *chosen;
+        return answer;
+    }
 }
 
 Result<void> TerminalDialogs::notify(const ScriptNotification& notification) {

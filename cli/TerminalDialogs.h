@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <iosfwd>
+
 #include "platform/KeyInjector.h"
 #include "platform/ScriptDialogs.h"
 
@@ -9,6 +11,8 @@
 ///   Go on?
 ///   1 Cancel   2 OK (Return)
 ///   >
+///
+/// Of a list to choose from the numbers are typed, with blanks between them; 0 is the cancel button.
 ///
 /// A number or the name of a button presses it; an empty line the default button. Where an answer is asked
 /// for, it stands on a line of its own before. The end of input is the cancel button. The run leaves the
@@ -22,5 +26,7 @@ class TerminalDialogs : public ScriptDialogs {
     Result<void> notify(const ScriptNotification& notification) override;
 
   private:
+    static ScriptAnswer choose(const ScriptDialog& dialog, std::iostream& terminal);
+
     KeyInjector& m_injector;
 };

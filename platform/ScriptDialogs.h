@@ -26,6 +26,11 @@ struct ScriptDialog {
     /// With an answer there is a field for text.
     std::optional<std::string> defaultAnswer = {};
     bool hidesAnswer = false;
+    /// Of a list to choose from; then at least one is chosen, unless none may be.
+    std::vector<std::string> choices = {};
+    std::vector<std::size_t> defaultChoices = {};  ///< indices, in their order
+    bool allowsSeveral = false;
+    bool allowsNone = false;
     /// In seconds; 0 waits for ever.
     double givingUpAfter = 0;
 };
@@ -35,6 +40,7 @@ struct ScriptAnswer {
     /// Empty if time ran out.
     std::optional<std::size_t> button;
     std::string text;
+    std::vector<std::size_t> chosen = {};  ///< indices into choices, in their order
 };
 
 struct ScriptNotification {

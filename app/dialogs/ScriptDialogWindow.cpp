@@ -5,11 +5,13 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
+#include <algorithm>
 #include <chrono>
 #include <limits>
 
@@ -115,8 +117,10 @@ ScriptDialogWindow::ScriptDialogWindow(const ScriptDialog& dialog) : m_cancelBut
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(upper);
     if (dialog.defaultAnswer) layout->addWidget(makeField(dialog));
+    if (!dialog.choices.empty()) layout->addWidget(makeChoices(dialog));
     layout->addSpacing(layout->spacing());
     layout->addWidget(makeButtons(dialog));
+    if (m_choices != nullptr) followChoices(dialog);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     setFirstFocus();
     limitTime(dialog.givingUpAfter);
@@ -145,6 +149,35 @@ QWidget* ScriptDialogWindow::makeField(const ScriptDialog& dialog) {
     if (dialog.hidesAnswer) m_field->setEchoMode(QLineEdit::Password);
     m_field->selectAll();
     return m_field;
+}
+
+/// A row for each; a double click takes one as the default button does.
+QWidget* ScriptDialogWindow::makeChoices(const ScriptDialog& dialog) {
+    constexpr int mostRows = 12;
+    m_choices = new QListWidget;
+    m_choices->setAccessibleName(shown(dialog.text));
+    m_choices->setUniformItemSizes(true);
+    m_choices->setSelectionMode(dialog.allowsSeveral ? QAbstractItemView::ExtendedSelection
+                                                     : QAbstractItemView::SingleSelection);
+    for (const std::string& choice : dialog.choices) m_choices->addItem(shown(choice).simplified());
+    for (const std::size_t place : dialog.defaultChoices)
+        m_choices->item(static_cast<int>(place))->setSelected(true);
+    const int row = m_choices->sizeHintForRow(0);
+    const int rows = std::min(m_choices->count(), mostRows);
+    m_choices->setFixedHeight(row * rows + 2 * m_choices->frameWidth());
+    const int first = dialog.defaultChoices.empty() ? 0 : static_cast<int>(dialog.defaultChoices.front());
+    m_choices->setCurrentRow(first, QItemSelectionModel::NoUpdate);
+    return m_choices;
+}
+
+/// Nothing can be taken while nothing is chosen, unless nothing is an answer.
+void ScriptDialogWindow::followChoices(const ScriptDialog& dialog) {
+    const auto update = [this, allowsNone = dialog.allowsNone] {
+        m_default->setEnabled(allowsNone || !m_choices->selectedItems().isEmpty());
+    };
+    connect(m_choices, &QListWidget::itemSelectionChanged, this, update);
+    connect(m_choices, &QListWidget::itemDoubleClicked, m_default, &QPushButton::click);
+    update();
 }
 
 /// They are named from left to right, whichever way the language is written.
@@ -181,6 +214,7 @@ void ScriptDialogWindow::setFirstFocus() {
     // Not before it is in the window, or the toolkit would choose another.
     if (m_default != nullptr) m_default->setDefault(true);
     if (m_field != nullptr) return m_field->setFocus();
+    if (m_choices != nullptr) return m_choices->setFocus();
     if (m_default != nullptr) return m_default->setFocus();
     // No button at all, or a blank that was meant for another window would press it.
     setFocusPolicy(Qt::StrongFocus);
@@ -197,7 +231,10 @@ void ScriptDialogWindow::limitTime(double seconds) {
 }
 
 void ScriptDialogWindow::finish(std::optional<std::size_t> button) {
-    m_answer = ScriptAnswer{button, m_field == nullptr ? std::string() : m_field->text().toStdString()};
+    m_answer = ScriptAnswer{button, m_field == nullptr ? std::string() : m_field->text().toStdString(), {}};
+    for (int row = 0; m_choices != nullptr && row < m_choices->count(); ++row) {
+        if (m_choices->item(row)->isSelected()) m_answer->chosen.push_back(static_cast<std::size_t>(row));
+    }
     done(Accepted);
 }
 

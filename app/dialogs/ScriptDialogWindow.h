@@ -8,6 +8,7 @@
 #include "platform/ScriptDialogs.h"
 
 class QLineEdit;
+class QListWidget;
 class QPushButton;
 
 /// A script's question on the screen. All texts are shown as they are, neither as rich text nor with
@@ -35,6 +36,8 @@ class ScriptDialogWindow : public QDialog {
   private:
     QWidget* makeWords(const ScriptDialog& dialog) const;
     QWidget* makeField(const ScriptDialog& dialog);
+    QWidget* makeChoices(const ScriptDialog& dialog);
+    void followChoices(const ScriptDialog& dialog);
     QWidget* makeButtons(const ScriptDialog& dialog);
     QPushButton* makeButton(const ScriptDialog& dialog, std::size_t place);
     void setFirstFocus();
@@ -44,6 +47,7 @@ class ScriptDialogWindow : public QDialog {
     std::optional<std::size_t> m_cancelButton;
     std::optional<ScriptAnswer> m_answer;
     QLineEdit* m_field = nullptr;
+    QListWidget* m_choices = nullptr;
     QPushButton* m_default = nullptr;
     QTimer m_patience{this};
     QTimer m_heldEscape{this};

@@ -48,10 +48,22 @@ TEST_P(ActivateTest, theCoveredWindowComesToTheFrontAndGetsTheKeys) {
 INSTANTIATE_TEST_SUITE_P(Managers, ActivateTest,
                          testing::Combine(testing::Values(WindowManager::openbox, WindowManager::xfwm4),
                                           testing::Values(R"(tell application "Covered" to activate)",
-                                                          R"(activate application "covered")")),
+                                                          R"(activate application "covered")",
+                                                          R"(if application "Nobody" is not running then
+    tell application "System Events"
+        set inFront to name of first process whose frontmost is true
+        if exists process "Covered" and inFront is "Front" and not frontmost of process "covered" then
+            set frontmost of process "Covered" to true
+        end if
+        if not frontmost of process "Covered" then error "It is not in front."
+    end tell
+end if)")),
                          [](const auto& condition) {
-                             return nameOf(std::get<WindowManager>(condition.param)) +
-                                    (std::get<const char*>(condition.param)[0] == 't' ? "Told" : "Named");
+                             const char first = std::get<const char*>(condition.param)[0];
+                             return nameOf(std::get<WindowManager>(condition.param)) + (first == 't' ? "Told"
+                                                                                        : first == 'a'
+                                                                                            ? "Named"
+                                                                                            : "Guarded");
                          });
 
 TEST(BeepTest, anotherProgramHearsEachBell) {

@@ -30,12 +30,13 @@ enum class Operation : std::uint8_t {
     pushDelimiters,
     makeApplication,  ///< takes the name
     makeProcess,      ///< takes the name
-    pushList,         ///< takes items, the last one on top [their count]
-    pushRecord,       ///< takes values likewise [index into shapes]
-    loadLocal,        ///< [slot]
-    loadGlobal,       ///< [slot]
-    storeLocal,       ///< takes the value [slot]
-    storeGlobal,      ///< takes the value [slot]
+    pushFrontProcess,
+    pushList,     ///< takes items, the last one on top [their count]
+    pushRecord,   ///< takes values likewise [index into shapes]
+    loadLocal,    ///< [slot]
+    loadGlobal,   ///< [slot]
+    storeLocal,   ///< takes the value [slot]
+    storeGlobal,  ///< takes the value [slot]
     duplicate,
     drop,
     deepCopy,   ///< replaces the top by a copy that shares nothing
@@ -53,6 +54,7 @@ enum class Operation : std::uint8_t {
     getElement,       ///< takes container, indices [Type; kind and form]
     setElement,       ///< takes value, container, indices [likewise]
     makeReference,    ///< takes container, indices [likewise]
+    referToVariable,  ///< [slot; 1 if it is global]
     textBetween,      ///< takes container, two indices [kind and form of the first and, 8 bits up, the last]
     getProperty,      ///< takes the container [name]
     setProperty,      ///< takes value, container [name]

@@ -34,6 +34,7 @@ constexpr auto leaves = std::to_array<Leaf>({
     {NodeKind::modifierKey, Operation::pushModifier, 0},
     {NodeKind::result, Operation::pushResult},
     {NodeKind::delimiters, Operation::pushDelimiters},
+    {NodeKind::frontProcess, Operation::pushFrontProcess},
 });
 
 }  // namespace
@@ -260,12 +261,20 @@ void ExpressionGenerator::textBetween(const Node& node) {
     m_out.emit(Operation::textBetween, node, first.detail | (std::uint32_t{last.detail} << 8U));
 }
 
-/// A reference to an element is kept as one; of all else the value is taken.
+/// A reference to an element or a variable is kept as one; of all else the value is taken.
 void ExpressionGenerator::referenceTo(const Node& node) {
     const Node& what = m_tree.at(node.firstChild);
+    if (what.kind == NodeKind::name) return referenceToVariable(what);
     if (what.kind != NodeKind::element) return expression(node.firstChild);
     if (const NodeId container = containerOf(what); container != noNode) expression(container);
     element(what, Operation::makeReference);
+}
+
+/// It may be set by way of the reference.
+void ExpressionGenerator::referenceToVariable(const Node& name) {
+    const Place place = m_out.scope().placeOf(name.value);
+    m_out.scope().noteSet(place);
+    m_out.emit(Operation::referToVariable, name, place.slot, place.isGlobal ? 1 : 0);
 }
 
 void ExpressionGenerator::call(const Node& node, bool hasTarget) {

@@ -43,6 +43,7 @@ class ExpressionGenerator {
     void element(const Node& node, Operation operation);
     void textBetween(const Node& node);
     void referenceTo(const Node& node);
+    void referenceToVariable(const Node& name);
     void call(const Node& node, bool hasTarget);
 
     void assignElement(const Node& node, const Node& statement);

@@ -106,6 +106,8 @@ void StatementGenerator::statement(NodeId id) {
 void StatementGenerator::tell(const Node& node) {
     m_expressions.expressionAs(NameRole::application, node.firstChild);
     m_out.emit(Operation::pushTarget, m_tree.at(node.firstChild));
+    const NodeKind kind = m_tree.at(node.firstChild).kind;
+    const Scoped<bool> process(m_tellsProcess, kind == NodeKind::process || kind == NodeKind::frontProcess);
     const UndoneScope target(*this, node, Operation::popTarget);
     block(m_tree.at(node.firstChild).nextSibling);
 }
@@ -301,8 +303,19 @@ void StatementGenerator::set(const Node& node) {
     m_expressions.expression(m_tree.at(node.firstChild).nextSibling);
     if (node.kind == NodeKind::copy) m_out.emit(Operation::deepCopy, node);
     m_out.emit(Operation::duplicate, node);
-    m_expressions.assign(node.firstChild, node);
+    if (isFrontmostOfTarget(m_tree.at(node.firstChild))) {
+        m_out.emit(Operation::pushIt, node);
+        m_out.emit(Operation::setProperty, node, m_tree.at(node.firstChild).value);
+    } else {
+        m_expressions.assign(node.firstChild, node);
+    }
     m_out.emit(Operation::setResult, node);
+}
+
+/// `tell process "X" to set frontmost to true`, unless the script has a variable of that name.
+bool StatementGenerator::isFrontmostOfTarget(const Node& target) const {
+    return m_tellsProcess && target.kind == NodeKind::name &&
+           &m_tree.names.at(target.value) == &names::frontmost && !m_out.scope().knows(target.value);
 }
 
 void StatementGenerator::evaluate(const Node& node) {

@@ -43,6 +43,7 @@ class StatementGenerator {
     void raise(const Node& node);
     void returnValue(const Node& node);
     void set(const Node& node);
+    bool isFrontmostOfTarget(const Node& target) const;
     void evaluate(const Node& node);
     void declare(const Node& node);
     void considering(const Node& node);
@@ -58,6 +59,8 @@ class StatementGenerator {
     std::vector<Operation> m_undone;
     std::size_t m_undoneOutsideLoop = 0;
     bool m_isFollowed = false;
+    /// Whether the innermost `tell` addresses a process.
+    bool m_tellsProcess = false;
 };
 
 }  // namespace script

@@ -42,14 +42,29 @@ const Value* Arguments::at(unsigned bit) const {
 }
 
 const std::vector<const Command*>& commands() {
-    static const std::vector<const Command*> all{
-        &keyCodeCommand(),        &keystrokeCommand(),    &keyDownCommand(),
-        &keyUpCommand(),          &delayCommand(),        &beepCommand(),
-        &activateCommand(),       &clipboardCommand(),    &setClipboardCommand(),
-        &displayDialogCommand(),  &displayAlertCommand(), &displayNotificationCommand(),
-        &countCommand(),          &numberOfCommand(),     &offsetCommand(),
-        &roundCommand(),          &randomNumberCommand(), &currentDateCommand(),
-        &asciiCharacterCommand(), &asciiNumberCommand(),  &logCommand()};
+    static const std::vector<const Command*> all{&keyCodeCommand(),
+                                                 &keystrokeCommand(),
+                                                 &keyDownCommand(),
+                                                 &keyUpCommand(),
+                                                 &delayCommand(),
+                                                 &beepCommand(),
+                                                 &activateCommand(),
+                                                 &existsCommand(),
+                                                 &clipboardCommand(),
+                                                 &setClipboardCommand(),
+                                                 &displayDialogCommand(),
+                                                 &displayAlertCommand(),
+                                                 &chooseFromListCommand(),
+                                                 &displayNotificationCommand(),
+                                                 &countCommand(),
+                                                 &numberOfCommand(),
+                                                 &offsetCommand(),
+                                                 &roundCommand(),
+                                                 &randomNumberCommand(),
+                                                 &currentDateCommand(),
+                                                 &asciiCharacterCommand(),
+                                                 &asciiNumberCommand(),
+                                                 &logCommand()};
     return all;
 }
 

@@ -43,6 +43,9 @@ class CommandStage {
     virtual const Value& target() const = 0;
 };
 
+/// -10000 with what the desktop says.
+Failure desktopFailure(const Error& error);
+
 /// The values that a command was given; references have been resolved.
 class Arguments {
   public:
@@ -85,6 +88,8 @@ struct Command {
     Plays plays = Plays::nothing;
     /// `of` may stand before the direct argument.
     bool takesOf = false;
+    /// The direct argument ends before an operator, so that the command's value can be calculated with.
+    bool takesReference = false;
     static constexpr std::size_t maxParameters = 20;
     std::vector<Parameter> parameters = {};  ///< at most maxParameters
     Fallible<Value> (*perform)(CommandStage& stage, const Arguments& arguments) = nullptr;

@@ -67,17 +67,44 @@ void DialogReader::readButton(unsigned parameter, std::optional<std::size_t>& ta
     target = place;
 }
 
-Fallible<Value> DialogReader::ask(CommandStage& stage,
-                                  Value (*answered)(const ScriptDialog& dialog, const ScriptAnswer& answer)) {
+void DialogReader::readChoices(const Value& choices, const Value* chosen) {
+    for (const Value& item : itemsOf(choices)) m_dialog.choices.push_back(text(&item));
+    if (m_dialog.choices.empty()) return fail(cannotMake(choices, "list of choices"));
+    if (chosen == nullptr) return;
+    const auto& all = m_dialog.choices;
+    for (const Value& item : itemsOf(*chosen)) {
+        const auto place = std::find(all.begin(), all.end(), text(&item)) - all.begin();
+        if (static_cast<std::size_t>(place) == all.size()) return fail(cannotGet("item " + sourceForm(item)));
+        m_dialog.defaultChoices.push_back(static_cast<std::size_t>(place));
+        if (!m_dialog.allowsSeveral) return;
+    }
+    std::sort(m_dialog.defaultChoices.begin(), m_dialog.defaultChoices.end());
+}
+
+Fallible<ScriptAnswer> DialogReader::answer(CommandStage& stage) {
     if (m_failure) return *std::move(m_failure);
     if (auto going = stage.goOn(); !going) return std::move(going).error();
-    const Result<ScriptAnswer> answer = stage.dialogs().ask(m_dialog);
+    Result<ScriptAnswer> answer = stage.dialogs().ask(m_dialog);
     if (auto going = stage.goOn(); !going) return std::move(going).error();
     if (!answer) return desktopFailure(answer.error());
-    if (answer.value().button && answer.value().button == m_dialog.cancelButton) {
+    return std::move(answer).value();
+}
+
+Fallible<Value> DialogReader::choose(CommandStage& stage, Value (*answered)(const ScriptDialog& dialog,
+                                                                            const ScriptAnswer& answer)) {
+    Fallible<ScriptAnswer> given = answer(stage);
+    if (!given) return std::move(given).error();
+    return answered(m_dialog, given.value());
+}
+
+Fallible<Value> DialogReader::ask(CommandStage& stage,
+                                  Value (*answered)(const ScriptDialog& dialog, const ScriptAnswer& answer)) {
+    Fallible<ScriptAnswer> given = answer(stage);
+    if (!given) return std::move(given).error();
+    if (given.value().button && given.value().button == m_dialog.cancelButton) {
         return Failure{errornumber::userCancelled, "User canceled."};
     }
-    return answered(m_dialog, answer.value());
+    return answered(m_dialog, given.value());
 }
 
 }  // namespace script

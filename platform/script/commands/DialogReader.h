@@ -28,12 +28,19 @@ class DialogReader {
     /// By text or by number.
     void readButton(unsigned parameter, std::optional<std::size_t>& target);
 
+    /// One or more; those that are chosen already are items of the list.
+    void readChoices(const Value& choices, const Value* chosen);
+
+    /// The answer as the command gives it, also that of the cancel button.
+    Fallible<Value> choose(CommandStage& stage,
+                           Value (*answered)(const ScriptDialog& dialog, const ScriptAnswer& answer));
     /// The answer as the command gives it; -128 for the cancel button.
     Fallible<Value> ask(CommandStage& stage,
                         Value (*answered)(const ScriptDialog& dialog, const ScriptAnswer& answer));
 
   private:
     void fail(Failure failure);
+    Fallible<ScriptAnswer> answer(CommandStage& stage);
 
     const Arguments& m_arguments;
     ScriptDialog m_dialog;

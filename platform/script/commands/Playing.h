@@ -24,7 +24,4 @@ Fallible<Value> hold(CommandStage& stage, const Value& keys, bool down);
 /// The value nothing, or why a step failed.
 Fallible<Value> outcomeOf(Fallible<> step);
 
-/// -10000 with what the desktop says.
-Failure desktopFailure(const Error& error);
-
 }  // namespace script

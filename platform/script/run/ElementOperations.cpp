@@ -111,14 +111,43 @@ bool isScript(const Value& value) {
     return value.target() != nullptr && value.target()->kind == TargetBody::Kind::script;
 }
 
+/// Whether a property is one of applications and processes that the desktop knows.
+bool isStateOf(const Value& container, const Name& name) {
+    const TargetBody* target = container.target();
+    return target != nullptr && target->kind != TargetBody::Kind::script &&
+           (&name == &names::running || &name == &names::frontmost);
+}
+
+/// System Events is this program, which runs and has no window.
+void getState(Execution& run, const TargetBody& target, const Name& name) {
+    const bool isSystemEvents = target.kind == TargetBody::Kind::systemEvents;
+    if (&name == &names::running) {
+        return run.push(Value{isSystemEvents || run.desktop().hasApplication(target.name.str())});
+    }
+    run.push(Value{!isSystemEvents && run.desktop().isInFront(target.name.str())});
+}
+
+/// A process is brought to the front; which one comes instead is not for the script to say.
+void setFrontmost(Execution& run, const Value& container, const Value& value) {
+    const std::optional<bool> truth = conditionOf(value);
+    if (!truth) return run.fail(cannotMake(value, "boolean"));
+    const TargetBody& target = *container.target();
+    if (!*truth || target.kind == TargetBody::Kind::systemEvents) return;
+    if (!run.desktop().hasApplication(target.name.str())) return run.fail(cannotGet(sourceForm(container)));
+    const Result<void> raised = run.desktop().activate(target.name.str());
+    if (!raised) run.fail(desktopFailure(raised.error()));
+}
+
 void getProperty(Execution& run, const Instruction& here) {
     const Name& name = run.name(here.operand);
     const Value container = run.popResolved();
     if (run.hasFailed()) return;
+    if (isStateOf(container, name)) return getState(run, *container.target(), name);
     if (&name != &names::length && &name != &names::beginning && &name != &names::end) run.workOn(container);
     if (!isScript(container) || &name == &names::classProperty)
         return run.pushOrFail(propertyOf(container, name));
     const Value* variable = run.findGlobal(name);
+    if (variable != nullptr && variable->cell() != nullptr) variable = &variable->cell()->content;
     if (variable == nullptr || variable->is<Nothing>()) return run.fail(cannotGet(sourceForm(name)));
     run.push(Value(*variable));
 }
@@ -131,9 +160,10 @@ void setPropertyOperation(Execution& run, const Instruction& here) {
     if (isScript(container)) {
         Value* variable = run.findGlobal(name);
         if (variable == nullptr) return run.fail(cannotSet(sourceForm(name), value));
-        *variable = value;
+        (variable->cell() == nullptr ? *variable : variable->cell()->content) = value;
         return;
     }
+    if (isStateOf(container, name) && &name == &names::frontmost) return setFrontmost(run, container, value);
     if (auto set = setProperty(container, name, value); !set) return run.fail(std::move(set).error());
     if (isContainer(value)) run.holdsContainer(container);
 }
@@ -144,6 +174,11 @@ void setContents(Execution& run, const Instruction& /*unused*/) {
     const Value reference = run.pop();
     const Value value = run.pop();
     const ReferenceBody* body = reference.reference();
+    if (CellBody* cell = body == nullptr ? nullptr : body->container.cell()) {
+        cell->content = value;
+        if (isContainer(value)) run.holdsContainer(body->container);
+        return;
+    }
     if (body == nullptr) return run.fail(cannotSet("contents of " + sourceForm(reference), value));
     Fallible<Value> container = resolved(body->container);
     if (!container) return run.fail(std::move(container).error());

@@ -17,7 +17,7 @@ constexpr std::size_t workBetweenQuestions = 2000;
 const Counted* containerOf(const Value& value) {
     if (const auto* list = value.as<Shared<ListBody>>()) return list->get();
     if (const auto* record = value.as<Shared<RecordBody>>()) return record->get();
-    return nullptr;
+    return value.cell();
 }
 
 Failure userCancelled() {
@@ -49,6 +49,8 @@ Execution::~Execution() {
         } else if (RecordBody* record = container.record()) {
             const std::vector<Field> released = std::move(record->fields);
             record->fields.clear();
+        } else if (CellBody* cell = container.cell()) {
+            const Value released = std::exchange(cell->content, Value());
         }
     }
 }

@@ -29,6 +29,8 @@ class SilentDesktop : public ScriptDesktop {
     Result<std::string> clipboard() override { return m_clipboard; }
     bool hasApplication(std::string_view /*name*/) override { return false; }
     Result<void> activate(std::string_view /*name*/) override { return {}; }
+    Result<std::string> frontApplication() override { return std::string(); }
+    bool isInFront(std::string_view /*name*/) override { return false; }
 
   private:
     std::string m_clipboard;

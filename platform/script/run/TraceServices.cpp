@@ -3,6 +3,8 @@
 
 #include <ostream>
 
+#include "platform/script/source/Word.h"
+
 namespace script {
 namespace {
 
@@ -43,14 +45,28 @@ Result<void> TraceDesktop::setClipboard(std::string_view text) {
     return SilentDesktop::setClipboard(text);
 }
 
+bool TraceDesktop::isInFront(std::string_view name) { return equalIgnoringCase(name, m_front); }
+
 Result<ScriptAnswer> TraceDialogs::ask(const ScriptDialog& dialog) {
     std::string buttons;
     for (const std::string& button : dialog.buttons)
         buttons += (buttons.empty() ? "" : ",") + jsonText(button);
+    if (!dialog.choices.empty()) return choose(dialog);
     const char* kind = dialog.kind == ScriptDialog::Kind::dialog ? "dialog" : "alert";
     m_out << "[\"" << kind << "\"," << jsonText(dialog.text) << ",[" << buttons << "]]\n";
-    return ScriptAnswer{dialog.defaultButton.value_or(dialog.buttons.size() - 1),
-                        dialog.defaultAnswer.value_or("")};
+    return ScriptAnswer{
+        dialog.defaultButton.value_or(dialog.buttons.size() - 1), dialog.defaultAnswer.value_or(""), {}};
+}
+
+/// What is chosen already, or the first one.
+ScriptAnswer TraceDialogs::choose(const ScriptDialog& dialog) {
+    std::string choices;
+    for (const std::string& choice : dialog.choices)
+        choices += (choices.empty() ? "" : ",") + jsonText(choice);
+    m_out << "[\"list\"," << jsonText(dialog.text) << ",[" << choices << "]]\n";
+    ScriptAnswer answer{dialog.defaultButton, "", dialog.defaultChoices};
+    if (answer.chosen.empty() && !dialog.allowsNone) answer.chosen.push_back(0);
+    return answer;
 }
 
 Result<void> TraceDialogs::notify(const ScriptNotification& notification) {

@@ -13,7 +13,8 @@ namespace script {
 std::string jsonText(std::string_view text);
 
 /// Prints what would be done to the desktop, one JSON array a line: ["beep",1]  ["clipboard","text"]. The
-/// clipboard holds what was put there. Every application is taken to be open: what a script does where it
+/// clipboard holds what was put there. Every application is taken to be open, and
+/// in front is the one that was brought there last, or one called "Application": what a script does where it
 /// runs as it is meant to is to be seen, on a machine that may not even have a display.
 class TraceDesktop : public SilentDesktop {
   public:
@@ -23,13 +24,21 @@ class TraceDesktop : public SilentDesktop {
     Result<void> beep(int count) override;
     Result<void> setClipboard(std::string_view text) override;
     bool hasApplication(std::string_view /*name*/) override { return true; }
+    Result<void> activate(std::string_view name) override {
+        m_front = name;
+        return {};
+    }
+    Result<std::string> frontApplication() override { return m_front; }
+    bool isInFront(std::string_view name) override;
 
   private:
     std::ostream& m_out;
+    std::string m_front = "Application";
 };
 
 /// Prints what would be asked, and presses the default button or else the last one:
-/// ["dialog","text",["Cancel","OK"]]  ["alert","text",["OK"]]  ["notification","text"]
+/// ["dialog","text",["Cancel","OK"]]  ["alert","text",["OK"]]  ["list","text",["Ann","Bob"]]
+/// ["notification","text"]
 class TraceDialogs : public ScriptDialogs {
   public:
     /// The stream outlives it.
@@ -39,6 +48,8 @@ class TraceDialogs : public ScriptDialogs {
     Result<void> notify(const ScriptNotification& notification) override;
 
   private:
+    ScriptAnswer choose(const ScriptDialog& dialog);
+
     std::ostream& m_out;
 };
 

@@ -63,6 +63,13 @@ void makeApplication(Execution& run, const Instruction& /*unused*/) {
 }
 void makeProcess(Execution& run, const Instruction& /*unused*/) { makeNamed(run, TargetBody::Kind::process); }
 
+void pushFrontProcess(Execution& run, const Instruction& /*unused*/) {
+    const Result<std::string> name = run.desktop().frontApplication();
+    if (!name) return run.fail(desktopFailure(name.error()));
+    if (name.value().empty()) return run.fail(cannotGet("first process whose frontmost is true"));
+    run.push(Value{makeShared<TargetBody>(TargetBody::Kind::process, Text(name.value()))});
+}
+
 void pushList(Execution& run, const Instruction& here) {
     run.work(here.operand);
     run.push(Value{run.popList(here.operand)});
@@ -78,8 +85,14 @@ void pushRecord(Execution& run, const Instruction& here) {
     run.push(Value{makeShared<RecordBody>(std::move(fields))});
 }
 
+/// What a variable holds: itself, or its cell, if a reference leads there.
+Value& heldBy(Value& variable) {
+    CellBody* cell = variable.cell();
+    return cell == nullptr ? variable : cell->content;
+}
+
 void loadLocal(Execution& run, const Instruction& here) {
-    const Value& value = run.local(here.operand);
+    const Value& value = heldBy(run.local(here.operand));
     if (value.is<Nothing>()) {
         return failUndefined(run, run.name(run.handler().variables[here.operand]).spelling);
     }
@@ -87,17 +100,30 @@ void loadLocal(Execution& run, const Instruction& here) {
 }
 
 void loadGlobal(Execution& run, const Instruction& here) {
-    const Value& value = run.global(here.operand);
+    const Value& value = heldBy(run.global(here.operand));
     if (value.is<Nothing>()) return failUndefined(run, run.name(run.code().globals[here.operand]).spelling);
     run.push(Value(value));
 }
 
 void storeLocal(Execution& run, const Instruction& here) {
     Value value = run.pop();
-    run.local(here.operand) = std::move(value);
+    heldBy(run.local(here.operand)) = std::move(value);
 }
 
-void storeGlobal(Execution& run, const Instruction& here) { run.global(here.operand) = run.pop(); }
+void storeGlobal(Execution& run, const Instruction& here) {
+    Value value = run.pop();
+    heldBy(run.global(here.operand)) = std::move(value);
+}
+
+/// From then on the variable holds a cell, which outlives it.
+void referToVariable(Execution& run, const Instruction& here) {
+    Value& variable = here.detail != 0 ? run.global(here.operand) : run.local(here.operand);
+    if (variable.cell() == nullptr) {
+        variable = Value{makeShared<CellBody>(std::move(variable))};
+        run.holdsContainer(variable);
+    }
+    run.push(Value{makeShared<ReferenceBody>(variable, Element())});
+}
 void duplicate(Execution& run, const Instruction& /*unused*/) { run.push(Value(run.top())); }
 void drop(Execution& run, const Instruction& /*unused*/) { run.drop(); }
 
@@ -320,6 +346,8 @@ void addValueOperations(OperationTable& table) {
     add(Operation::pushDelimiters, pushDelimiters);
     add(Operation::makeApplication, makeApplication);
     add(Operation::makeProcess, makeProcess);
+    add(Operation::pushFrontProcess, pushFrontProcess);
+    add(Operation::referToVariable, referToVariable);
     add(Operation::pushList, pushList);
     add(Operation::pushRecord, pushRecord);
     add(Operation::loadLocal, loadLocal);

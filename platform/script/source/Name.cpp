@@ -35,7 +35,9 @@ const Name nameProperty{"name"};
 const Name rest{"rest"};
 const Name reverse{"reverse"};
 const Name run{"run"};
+const Name running{"running"};
 const Name seconds{"seconds"};
+const Name shortDateString{"short date string"};
 const Name textProperty{"text"};
 const Name textReturned{"text returned"};
 const Name time{"time"};
@@ -44,11 +46,13 @@ const Name weekday{"weekday"};
 const Name year{"year"};
 
 const Name* find(std::string_view spelling) {
-    static const std::array<const Name*, 26> all{
-        &beginning,    &buttonReturned, &classProperty, &contents, &date, &dateString, &day,
-        &end,          &frontmost,      &gaveUp,        &hours,    &id,   &length,     &minutes,
-        &month,        &nameProperty,   &rest,          &reverse,  &run,  &seconds,    &textProperty,
-        &textReturned, &time,           &timeString,    &weekday,  &year};
+    static const std::array<const Name*, 28> all{&beginning, &buttonReturned,  &classProperty, &contents,
+                                                 &date,      &dateString,      &day,           &end,
+                                                 &frontmost, &gaveUp,          &hours,         &id,
+                                                 &length,    &minutes,         &month,         &nameProperty,
+                                                 &rest,      &reverse,         &run,           &running,
+                                                 &seconds,   &shortDateString, &textProperty,  &textReturned,
+                                                 &time,      &timeString,      &weekday,       &year};
     const auto* found = std::find_if(all.begin(), all.end(), [&](const Name* name) {
         return equalIgnoringCase(name->spelling, spelling);
     });

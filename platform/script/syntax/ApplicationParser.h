@@ -19,7 +19,17 @@ class ApplicationParser : public SubParser {
     /// Whether the word stands here, whatever follows.
     bool isAtApplicationWord() const { return isApplicationWord(m_tokens.current()); }
 
+    /// Whether `first [application] process` stands here.
+    bool isAtFrontProcess() const;
+
     NodeId application();
+    /// first [application] process ( whose | where ) [it is | it’s] frontmost [( is | = ) true] [of
+    /// application]
+    NodeId frontProcess();
+    /// Whether `is running` or `exists` stands behind an application or a process.
+    bool isAtState(NodeId target) const;
+    /// `target is running`, `target exists`: the property `running`.
+    NodeId state(NodeId target);
     /// Keys go to whatever is in front, whoever is told.
     NodeId process();
     /// `[application] process "X" of application "System Events"`: the dictionary stands behind its word.

@@ -74,7 +74,7 @@ NodeId CommandParser::direct(const Command& command) {
     }
     const ArgumentScope scope(m_context,
                               {.in = hasParameter(command, "in"), .as = hasParameter(command, "as")});
-    return expression();
+    return command.takesReference ? m_grammar.expressions.reference() : expression();
 }
 
 bool CommandParser::hasParameter(const Command& command, const Phrase& label) {

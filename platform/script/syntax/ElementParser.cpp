@@ -140,7 +140,8 @@ NodeId ElementParser::formWord(ElementForm form) {
 }
 
 NodeId ElementParser::ordinalPart(std::uint32_t offset, NodeId index, ElementForm form) {
-    const std::optional<Kind> kind = kindHere();
+    std::optional<Kind> kind = kindHere();
+    if (!kind && m_tokens.isAtPhrase("text")) kind = Kind{ElementKind::typed, Type::text};
     if (!kind) {
         m_tokens.expected("class name");
         return noNode;
@@ -260,7 +261,7 @@ void ElementParser::setContainer(NodeId node, NodeId container) {
 
 NodeId ElementParser::characterId() {
     const NodeId node = m_tree.add(NodeKind::characterId, m_tokens.offset());
-    m_tokens.acceptPhrase("character id");
+    m_tokens.advance(2);
     const bool isIndex = m_grammar.primaries.isAtIndex();
     ChildList(m_tree, node).append(isIndex ? m_grammar.primaries.index() : m_grammar.expressions.reference());
     return node;

@@ -20,6 +20,11 @@ NodeId ExpressionParser::operation(int minimumLevel) {
             left = coercion(left);
             continue;
         }
+        if (stateLevel >= minimumLevel && m_tokens.isAt(TokenKind::identifier) &&
+            m_grammar.applications.isAtState(left)) {
+            left = m_grammar.applications.state(left);
+            continue;
+        }
         const OperatorRow* row = binaryOperator(m_tokens);
         if (row == nullptr || row->level < minimumLevel || row->level > highestLevel) return left;
         left = binary(*row, left);

@@ -32,7 +32,6 @@ bool refuseForbiddenCommand(TokenStream& tokens) {
 }
 
 bool refuseForbiddenStatement(TokenStream& tokens) {
-    if (tokens.isAt(Word::use)) return refuse(tokens, "use", onlyKeys);
     if (tokens.isAt(Word::script) && tokens.ahead().is(TokenKind::identifier)) {
         return refuse(tokens, "script", "a macro is one script.");
     }

@@ -11,7 +11,7 @@ namespace script {
 /// Fails where a command stands that is forbidden: `do shell script`.
 bool refuseForbiddenCommand(TokenStream& tokens);
 
-/// Fails where a statement stands that is forbidden: `use`, or a script in the script.
+/// Fails where a statement stands that is forbidden: a script in the script.
 bool refuseForbiddenStatement(TokenStream& tokens);
 
 }  // namespace script

@@ -28,8 +28,9 @@ NodeId ListParser::listOrRecord() {
 
 bool ListParser::isAtField() const {
     if (!m_tokens.isAt(TokenKind::identifier)) return false;
-    return m_tokens.ahead().is(TokenKind::colon) ||
-           (NameParser::longPropertyHere(m_tokens) && m_tokens.peek(2).is(TokenKind::colon));
+    if (m_tokens.ahead().is(TokenKind::colon)) return true;
+    const std::size_t words = NameParser::longPropertyHere(m_tokens);
+    return words > 0 && m_tokens.peek(words).is(TokenKind::colon);
 }
 
 void ListParser::items(NodeId list) {

@@ -11,8 +11,8 @@
 namespace script {
 namespace {
 
-constexpr auto longProperties =
-    std::to_array<Phrase>({"button returned", "text returned", "gave up", "date string", "time string"});
+constexpr auto longProperties = std::to_array<Phrase>(
+    {"button returned", "text returned", "gave up", "date string", "time string", "short date string"});
 
 /// What stands between bars.
 std::string unbarred(std::string_view text) {
@@ -41,7 +41,7 @@ NodeId NameParser::nameOrCall() {
     if (beginsLabelledArguments(m_tokens.ahead()) && m_grammar.calls.isLabelledHandler(m_tokens.current())) {
         return m_grammar.calls.labelled();
     }
-    if (m_tokens.ahead().is(Word::of) || longPropertyHere(m_tokens)) return property();
+    if (m_tokens.ahead().is(Word::of) || longPropertyHere(m_tokens) > 0) return property();
     return plainName();
 }
 
@@ -114,20 +114,22 @@ NodeId NameParser::predefined(std::uint8_t index) {
 NameId NameParser::nameHere() {
     const Token token = m_tokens.current();
     const std::string_view text = token.text;
-    if (longPropertyHere(m_tokens)) {
-        const std::string both = std::string(text) + " " + std::string(m_tokens.ahead().text);
-        m_tokens.advance(2);
-        return m_tree.names.intern(both);
+    if (const std::size_t count = longPropertyHere(m_tokens); count > 0) {
+        std::string all(text);
+        for (std::size_t i = 1; i < count; ++i) all += " " + std::string(m_tokens.peek(i).text);
+        m_tokens.advance(count);
+        return m_tree.names.intern(all);
     }
     m_tokens.advance();
     if (token.hash != 0 && text.front() != '|') return m_tree.names.intern(text, token.hash);
     return m_tree.names.intern(unbarred(text));
 }
 
-bool NameParser::longPropertyHere(const TokenStream& tokens) {
-    if (!tokens.current().is(Word::none) || !tokens.ahead().is(TokenKind::identifier)) return false;
-    return std::any_of(longProperties.begin(), longProperties.end(),
-                       [&](const Phrase& name) { return tokens.isAtPhrase(name); });
+std::size_t NameParser::longPropertyHere(const TokenStream& tokens) {
+    if (!tokens.current().is(Word::none) || !tokens.ahead().is(TokenKind::identifier)) return 0;
+    const auto* found = std::find_if(longProperties.begin(), longProperties.end(),
+                                     [&](const Phrase& name) { return tokens.isAtPhrase(name); });
+    return found == longProperties.end() ? 0 : found->wordCount();
 }
 
 bool NameParser::expectName() {

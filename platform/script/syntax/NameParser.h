@@ -28,8 +28,9 @@ class NameParser : public SubParser {
 
     /// The name at the current token, moving behind it; two words for a property that has two.
     NameId nameHere();
-    /// Whether a property of two words stands here: `button returned`.
-    static bool longPropertyHere(const TokenStream& tokens);
+    /// How many words the property has that stands here, if it has more than one: `button returned`. 0 if
+    /// none does.
+    static std::size_t longPropertyHere(const TokenStream& tokens);
     /// Fails where the current token is no name.
     bool expectName();
     /// The index of the class among the predefined names, at its last word: `Unicode text` has two. Fails

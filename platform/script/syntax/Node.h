@@ -56,6 +56,7 @@ enum class NodeKind : std::uint8_t {
     appleScript,   ///< []
     application,   ///< [] value: name in texts; detail: 1 if it is System Events. Or [name], without both
     process,       ///< [name]
+    frontProcess,  ///< [] the one whose window has the focus
     list,          ///< [items]
     record,        ///< [fields]
     field,         ///< [expression] value: name

@@ -26,6 +26,8 @@ struct OperatorRow {
 inline constexpr int unaryLevel = 100;
 /// `as`, whose right side is no expression.
 inline constexpr int coercionLevel = 50;
+/// `is running`, `exists` behind an application; as `=`.
+inline constexpr int stateLevel = 40;
 inline constexpr int notLevel = 30;
 
 /// The operator with the most words that stands at the current token; null if none does.

@@ -98,6 +98,7 @@ NodeId PrimaryParser::word() {
     if (m_tokens.current().is(Word::none)) return otherWord();
     if (const NodeId node = m_grammar.literals.constant(); node != noNode) return node;
     if (const NodeId node = pronoun(); node != noNode) return node;
+    if (m_grammar.applications.isAtFrontProcess()) return m_grammar.applications.frontProcess();
     if (m_grammar.elements.isAtElement()) return m_grammar.elements.element();
     if (m_tokens.failed() || refuseForbiddenCommand(m_tokens)) return noNode;
     return reservedWord();
@@ -139,7 +140,8 @@ NodeId PrimaryParser::otherWord() {
     if (m_tokens.current().text.front() == '|') return m_grammar.names.nameOrCall();
     if (m_tokens.isAtPhrase("missing value")) return m_grammar.literals.missingValue();
     if (m_tokens.isAtPhrase("text item delimiters")) return m_grammar.names.delimiters();
-    if (m_tokens.isAtPhrase("character id")) return m_grammar.elements.characterId();
+    if (m_tokens.isAtPhrase("character id") || m_tokens.isAtPhrase("string id"))
+        return m_grammar.elements.characterId();
     if (m_tokens.isAtPhrase("a reference") || m_tokens.isAtPhrase("a ref")) return referenceTo();
     if (refuseForbiddenCommand(m_tokens)) return noNode;
     if (const auto command = commandHere()) return m_grammar.commands.command(*command);
@@ -152,7 +154,7 @@ NodeId PrimaryParser::name() {
     NameParser& names = m_grammar.names;
     if (m_tokens.isAtPhrase("unicode text")) m_tokens.advance();
     const bool isOwned = m_tokens.ahead().is(Word::of) || m_tokens.ahead().is(TokenKind::leftParenthesis);
-    if (isOwned || NameParser::longPropertyHere(m_tokens)) return names.nameOrCall();
+    if (isOwned || NameParser::longPropertyHere(m_tokens) > 0) return names.nameOrCall();
     if (m_tokens.isAtPhrase("date") && m_tokens.ahead().is(TokenKind::text)) return m_grammar.literals.date();
     if (m_tokens.isAtPhrase("applescript")) return take(NodeKind::appleScript);
     if (m_tokens.isAtPhrase("result")) return take(NodeKind::result);

@@ -83,6 +83,7 @@ NodeId StatementParser::statement() {
             m_tokens.advance();
             return evaluate();
         case Word::use:
+            return use();
         case Word::script:
         case Word::transaction:
             if (refuseForbiddenStatement(m_tokens)) return noNode;
@@ -228,6 +229,13 @@ NodeId StatementParser::declaration(NodeKind kind) {
         if (!m_grammar.names.expectName()) return node;
         names.append(m_grammar.names.plainName());
     } while (m_tokens.accept(TokenKind::comma));
+    return node;
+}
+
+/// What AppleScript takes from elsewhere is here already, or is not to be had: the line means nothing.
+NodeId StatementParser::use() {
+    const NodeId node = m_tree.add(NodeKind::declareGlobal, m_tokens.offset());
+    while (!m_tokens.isAtLineEnd()) m_tokens.advance();
     return node;
 }
 

@@ -14,6 +14,7 @@ namespace script {
 /// return    = return [expression]
 /// error     = error [expression] { number | from | partial result | to  expression }
 /// exit      = exit [repeat]
+/// use       = use { token }
 class StatementParser : public SubParser {
   public:
     using SubParser::SubParser;
@@ -42,6 +43,7 @@ class StatementParser : public SubParser {
     NodeId exitRepeat();
     NodeId declaration(NodeKind kind);
     NodeId setClipboard(std::uint32_t offset);
+    NodeId use();
     NodeId evaluate();
 };
 

@@ -28,7 +28,7 @@ std::optional<Number> numeric(const Value& value) {
     if (list != nullptr) return numeric(list->front());
     const std::string_view* text = value.text();
     const bool wholeText = text != nullptr && text->find_first_of(".eE") == std::string::npos;
-    return Number{*number, wholeText || value.is<std::int64_t>()};
+    return Number{*number, wholeText || value.is<std::int64_t>() || value.is<CalendarName>()};
 }
 
 /// A result; a whole one that is out of range is a real.

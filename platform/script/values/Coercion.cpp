@@ -96,7 +96,6 @@ std::optional<Value> asBoolean(const Value& value) {
 
 std::optional<double> numberOrTruth(const Value& value) {
     if (const auto* truth = value.as<bool>()) return *truth ? 1 : 0;
-    if (const auto* name = value.as<CalendarName>()) return name->number;
     return numberOf(value);
 }
 
@@ -159,6 +158,7 @@ Failure tooManyItems() {
 std::optional<double> numberOf(const Value& value) {
     if (const auto* integer = value.as<std::int64_t>()) return static_cast<double>(*integer);
     if (const auto* real = value.as<double>()) return *real;
+    if (const auto* name = value.as<CalendarName>()) return name->number;
     if (const std::string_view* text = value.text()) return numberInText(*text);
     const List* list = value.list();
     // One level: lists may hold themselves.
@@ -213,6 +213,11 @@ Fallible<Value> resolved(Value value) {
     for (int depth = 0; value.reference() != nullptr; ++depth) {
         if (depth == maxDepth) return Failure{errornumber::stackOverflow, "Stack overflow."};
         const ReferenceBody& reference = *value.reference();
+        if (const CellBody* cell = reference.container.cell()) {
+            if (cell->content.is<Nothing>()) return cannotGet("contents of a variable that is not set");
+            value = Value(cell->content);
+            continue;
+        }
         Fallible<Value> container = resolved(reference.container);
         if (!container) return container;
         Fallible<Value> found = elementOf(container.value(), reference.element, TextRules());
@@ -240,10 +245,10 @@ Fallible<Value> coerced(const Value& value, Type type, std::string_view delimite
 }
 
 Type typeOf(const Value& value) {
-    constexpr std::array<Type, 14> types{Type::anything,  Type::classType, Type::boolean,  Type::integer,
+    constexpr std::array<Type, 15> types{Type::anything,  Type::classType, Type::boolean,  Type::integer,
                                          Type::real,      Type::text,      Type::constant, Type::month,
                                          Type::classType, Type::list,      Type::record,   Type::date,
-                                         Type::reference, Type::script};
+                                         Type::reference, Type::script,    Type::reference};
     if (const auto* name = value.as<CalendarName>()) {
         return name->kind == CalendarName::Kind::month ? Type::month : Type::weekday;
     }

@@ -23,7 +23,7 @@ Failure outOfMemory();
 /// "A list holds at most 100000 items." (-108)
 Failure tooManyItems();
 
-/// Numbers, and texts that read as a number.
+/// Numbers, texts that read as a number, and months and weekdays by their place in the year or week.
 std::optional<double> numberOf(const Value& value);
 
 /// Numbers likewise, rounded with halves away from zero; 32 bits at most.

@@ -48,6 +48,7 @@ class Equality {
             return descend([&] { return equalRecords(*left.record(), *right.record()); });
         }
         if (const DateBody* date = left.date()) return date->seconds == right.date()->seconds;
+        if (left.cell() != nullptr) return left.cell() == right.cell();
         if (left.reference() != nullptr) {
             return descend([&] { return equalReferences(*left.reference(), *right.reference()); });
         }

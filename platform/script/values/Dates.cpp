@@ -87,6 +87,14 @@ class WordReader {
     std::size_t m_next = 0;
 };
 
+/// One of two digits lies between 1950 and 2049.
+bool readYear(WordReader& words, CalendarParts& parts) {
+    const bool isShort = !words.isAtEnd() && words.current().size() <= 2;
+    if (!words.number(parts.year, 0, 9999)) return false;
+    if (isShort) parts.year += parts.year < 50 ? 2000 : 1900;
+    return parts.year > 0;
+}
+
 bool readDate(WordReader& words, CalendarParts& parts) {
     if (words.isAtEnd()) return false;
     if (placeOf(words.current(), weekdays)) words.skip();
@@ -96,8 +104,13 @@ bool readDate(WordReader& words, CalendarParts& parts) {
         words.skip();
         return words.number(parts.day, 1, 31) && words.number(parts.year, 1, 9999);
     }
-    return words.number(parts.year, 1, 9999) && words.number(parts.month, 1, 12) &&
-           words.number(parts.day, 1, 31);
+    constexpr std::size_t shortNumber = 2;
+    const bool beginsWithYear = words.current().size() > shortNumber;
+    if (beginsWithYear) {
+        return words.number(parts.year, 1, 9999) && words.number(parts.month, 1, 12) &&
+               words.number(parts.day, 1, 31);
+    }
+    return words.number(parts.month, 1, 12) && words.number(parts.day, 1, 31) && readYear(words, parts);
 }
 
 bool readTime(WordReader& words, CalendarParts& parts) {
@@ -153,6 +166,11 @@ std::string dateOnlyText(std::int64_t moment) {
     return std::string(weekdayName(weekdayOf(moment))) + ", " +
            std::string(monthName(static_cast<std::size_t>(parts.month))) + " " + std::to_string(parts.day) +
            ", " + std::to_string(parts.year);
+}
+
+std::string shortDateText(std::int64_t moment) {
+    const CalendarParts parts = partsOf(moment);
+    return std::to_string(parts.month) + "/" + std::to_string(parts.day) + "/" + twoDigits(parts.year % 100);
 }
 
 std::string timeOnlyText(std::int64_t moment) {

@@ -32,11 +32,13 @@ std::string_view weekdayName(std::size_t number);
 std::string dateText(std::int64_t moment);
 /// "Saturday, January 31, 2026"
 std::string dateOnlyText(std::int64_t moment);
+/// "1/31/26"
+std::string shortDateText(std::int64_t moment);
 /// "1:05:09 PM"
 std::string timeOnlyText(std::int64_t moment);
 
 /// Reads what dateText() and dateOnlyText() write, the weekday left out or not, and "2026-01-31",
-/// "2026-01-31 13:05", "2026-01-31T13:05:09". Empty for all else.
+/// "2026-01-31 13:05", "2026-01-31T13:05:09"; "1/31/2026 1:05 PM" has the month first. Empty for all else.
 std::optional<std::int64_t> momentInText(std::string_view text);
 
 /// Moments reach from year 1 to 9999.

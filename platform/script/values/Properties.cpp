@@ -61,6 +61,7 @@ Found ofDate(std::int64_t moment, const Name& name) {
     if (&name == &names::seconds) return whole(parts.seconds);
     if (&name == &names::time) return whole(parts.hours * 3600 + parts.minutes * 60 + parts.seconds);
     if (&name == &names::dateString) return Value{dateOnlyText(moment)};
+    if (&name == &names::shortDateString) return Value{shortDateText(moment)};
     if (&name == &names::timeString) return Value{timeOnlyText(moment)};
     return std::nullopt;
 }
@@ -146,8 +147,6 @@ Fallible<> setProperty(const Value& container, const Name& name, const Value& va
         const std::optional<std::int32_t> number = month == nullptr ? integerOf(value) : month->number;
         if (number && setDatePart(*date, name, *number)) return {};
     }
-    // Which application is in front is not for the script to say.
-    if (container.target() != nullptr && &name == &names::frontmost) return {};
     return cannotSet(sourceForm(name) + " of " + sourceForm(container), value);
 }
 

@@ -82,7 +82,9 @@ class SourceWriter {
     void write(const Shared<ListBody>& list);
     void write(const Shared<RecordBody>& record);
     void write(const Shared<DateBody>& date) { m_out += "date \"" + dateText(date->seconds) + "\""; }
+    void write(const Shared<CellBody>& cell) { add(cell->content); }
     void write(const Shared<ReferenceBody>& reference) {
+        if (reference->container.cell() != nullptr) return add(reference->container);
         m_out += sourceForm(reference->element) + " of ";
         add(reference->container);
     }
@@ -152,7 +154,7 @@ std::string_view kindName(const Element& element) {
 
 std::string realText(double value) {
     constexpr double large = 10000;
-    constexpr double small = 0.0001;
+    constexpr double small = 0.001;
     const double magnitude = std::abs(value);
     const std::string sign = value < 0 ? "-" : "";
     const Digits found = digitsOf(magnitude);

@@ -47,6 +47,11 @@ TargetBody* Value::target() const {
     return found == nullptr ? nullptr : found->get();
 }
 
+CellBody* Value::cell() const {
+    const auto* found = as<Shared<CellBody>>();
+    return found == nullptr ? nullptr : found->get();
+}
+
 ListBody::ListBody(List content)
     : items(std::move(content)), memory(items.size() * sizeof(Value) + sizeof(ListBody)) {}
 

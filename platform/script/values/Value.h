@@ -76,6 +76,7 @@ struct RecordBody;
 struct DateBody;
 struct ReferenceBody;
 struct TargetBody;
+struct CellBody;
 class List;
 
 /// What an expression gives: a whole number within maxInteger, a real (finite), a text, a constant, a class,
@@ -83,7 +84,7 @@ class List;
 struct Value {
     using Content = std::variant<Nothing, Missing, bool, std::int64_t, double, Text, Modifier, CalendarName,
                                  Type, Shared<ListBody>, Shared<RecordBody>, Shared<DateBody>,
-                                 Shared<ReferenceBody>, Shared<TargetBody>>;
+                                 Shared<ReferenceBody>, Shared<TargetBody>, Shared<CellBody>>;
 
     Value() = default;
     /// Of one of the types above and of no other, so that nothing is converted on the way.
@@ -110,6 +111,8 @@ struct Value {
     DateBody* date() const;
     ReferenceBody* reference() const;
     TargetBody* target() const;
+    /// Of a variable: what it holds.
+    CellBody* cell() const;
 };
 
 /// The items of a list: a vector that takes items at its beginning as quickly as at its end.
@@ -210,7 +213,13 @@ struct Element {
     std::int32_t last = 0;       ///< of a range
 };
 
-/// `item 2 of L` that was kept and not yet looked up.
+/// What a variable holds that a reference leads to: the variable holds the cell.
+struct CellBody : Counted {
+    explicit CellBody(Value value) : content(std::move(value)) {}
+    Value content;
+};
+
+/// `item 2 of L` that was kept and not yet looked up, or a variable: the container is its cell then.
 struct ReferenceBody : Counted {
     ReferenceBody(Value whole, Element part);
     Value container;

@@ -32,6 +32,10 @@ struct X11ScriptDesktop::Server {
     /// The window that lies highest of those that the window manager knows.
     xcb_window_t findWindow(std::string_view name) const;
     bool isOf(xcb_window_t window, const std::string& name) const;
+    /// The program's name and the class's.
+    std::vector<std::string> namesOf(xcb_window_t window) const;
+    /// The window that keys go to, of those that the window manager knows.
+    xcb_window_t frontWindow() const;
     std::vector<xcb_window_t> windows(xcb_atom_t list) const;
 
     XConnection connection;
@@ -67,17 +71,28 @@ std::vector<xcb_window_t> X11ScriptDesktop::Server::windows(xcb_atom_t list) con
     return Property(connection, connection.root(), list).numbers(XCB_ATOM_WINDOW, most);
 }
 
-/// WM_CLASS holds two texts, each ended by a zero: the program's and the class's name.
-bool X11ScriptDesktop::Server::isOf(xcb_window_t window, const std::string& name) const {
+/// WM_CLASS holds two texts, each ended by a zero.
+std::vector<std::string> X11ScriptDesktop::Server::namesOf(xcb_window_t window) const {
     constexpr std::uint32_t most = 1024;
     const std::string both = Property(connection, window, XCB_ATOM_WM_CLASS).text(XCB_ATOM_STRING, most);
-    std::string_view names = both;
-    while (!names.empty()) {
-        const std::string_view one = names.substr(0, names.find('\0'));
-        if (lowered(one) == name) return true;
-        names.remove_prefix(std::min(one.size() + 1, names.size()));
+    std::vector<std::string> names;
+    for (std::string_view rest = both; !rest.empty();) {
+        names.emplace_back(rest.substr(0, rest.find('\0')));
+        rest.remove_prefix(std::min(names.back().size() + 1, rest.size()));
     }
-    return false;
+    return names;
+}
+
+bool X11ScriptDesktop::Server::isOf(xcb_window_t window, const std::string& name) const {
+    const std::vector<std::string> names = namesOf(window);
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& one) { return lowered(one) == name; });
+}
+
+/// The manager names it at once; without a manager the focus tells, which may lie in a window inside.
+xcb_window_t X11ScriptDesktop::Server::frontWindow() const {
+    const xcb_window_t active = focus.activeWindow();
+    return active != XCB_WINDOW_NONE ? active : focus.holder();
 }
 
 xcb_window_t X11ScriptDesktop::Server::findWindow(std::string_view name) const {
@@ -92,6 +107,22 @@ xcb_window_t X11ScriptDesktop::Server::findWindow(std::string_view name) const {
 bool X11ScriptDesktop::hasApplication(std::string_view name) {
     const auto opened = server();
     return opened && opened.value()->findWindow(name) != XCB_WINDOW_NONE;
+}
+
+Result<std::string> X11ScriptDesktop::frontApplication() {
+    const auto opened = server();
+    if (!opened) return opened.error();
+    const xcb_window_t window = opened.value()->frontWindow();
+    if (window == XCB_WINDOW_NONE) return std::string();
+    const std::vector<std::string> names = opened.value()->namesOf(window);
+    return names.empty() ? std::string() : names.back();
+}
+
+bool X11ScriptDesktop::isInFront(std::string_view name) {
+    const auto opened = server();
+    if (!opened) return false;
+    const xcb_window_t window = opened.value()->frontWindow();
+    return window != XCB_WINDOW_NONE && opened.value()->isOf(window, lowered(name));
 }
 
 Result<void> X11ScriptDesktop::activate(std::string_view name) {

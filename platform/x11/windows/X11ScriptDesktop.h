@@ -27,6 +27,8 @@ class X11ScriptDesktop : public ScriptDesktop {
     Result<void> setClipboard(std::string_view text) override { return m_clipboard.set(text); }
     Result<std::string> clipboard() override { return m_clipboard.text(); }
     bool hasApplication(std::string_view name) override;
+    Result<std::string> frontApplication() override;
+    bool isInFront(std::string_view name) override;
     Result<void> activate(std::string_view name) override;
 
     /// While the clipboard's owner is waited for it is asked whether the wait is to end; from now on.

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTimer>
@@ -192,6 +193,50 @@ TEST(ScriptDialogWindowTest, hidesAnAnswer) {
     dialog.hidesAnswer = true;
     const ScriptDialogWindow window(dialog);
     EXPECT_EQ(window.findChild<QLineEdit*>()->echoMode(), QLineEdit::Password);
+}
+
+ScriptDialog choice() {
+    return {.text = "Who?",
+            .buttons = {"Cancel", "OK"},
+            .defaultButton = 1,
+            .cancelButton = 0,
+            .choices = {"Ann", "B & <b>b</b>", "Cid"}};
+}
+
+QListWidget& listOf(QWidget& window) { return *window.findChild<QListWidget*>(); }
+
+TEST(ScriptDialogWindowTest, answersWithWhatIsChosenInItsList) {
+    ScriptDialogWindow window(choice());
+    window.show();
+    EXPECT_EQ(listOf(window).item(1)->text(), "B & <b>b</b>");
+    EXPECT_FALSE(buttonsOf(window)[1]->isEnabled());
+    press(window, Qt::Key_Down);
+    EXPECT_TRUE(buttonsOf(window)[1]->isEnabled());
+    press(window, Qt::Key_Return);
+    ASSERT_TRUE(window.answer());
+    EXPECT_EQ(window.answer()->button, 1U);
+    EXPECT_EQ(window.answer()->chosen, std::vector<std::size_t>{1});
+}
+
+TEST(ScriptDialogWindowTest, choosesSeveralWhereSeveralMayBe) {
+    ScriptDialog dialog = choice();
+    dialog.allowsSeveral = true;
+    dialog.defaultChoices = {0, 2};
+    ScriptDialogWindow window(dialog);
+    window.show();
+    EXPECT_EQ(listOf(window).selectedItems().size(), 2);
+    buttonsOf(window)[1]->click();
+    EXPECT_EQ(window.answer()->chosen, (std::vector<std::size_t>{0, 2}));
+}
+
+TEST(ScriptDialogWindowTest, takesNothingForAnAnswerWhereNothingMayBeChosen) {
+    ScriptDialog dialog = choice();
+    dialog.allowsNone = true;
+    ScriptDialogWindow window(dialog);
+    window.show();
+    buttonsOf(window)[1]->click();
+    ASSERT_TRUE(window.answer());
+    EXPECT_TRUE(window.answer()->chosen.empty());
 }
 
 TEST(ScriptDialogWindowTest, givesUpWithWhatHasBeenTypedSoFar) {

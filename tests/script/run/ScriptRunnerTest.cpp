@@ -117,7 +117,7 @@ TEST_F(ScriptRunnerTest, aDesktopThatLetsNoKeysBePressedIsAnErrorOfTheRun) {
 /// Answers whatever is asked with the second button.
 class SecondButton : public script::NoDialogs {
   public:
-    Result<ScriptAnswer> ask(const ScriptDialog& /*dialog*/) override { return ScriptAnswer{1, ""}; }
+    Result<ScriptAnswer> ask(const ScriptDialog& /*dialog*/) override { return ScriptAnswer{1, "", {}}; }
 };
 
 TEST_F(ScriptRunnerTest, scriptsAskThroughTheDialogsThatTheyAreGiven) {
