@@ -7,6 +7,8 @@
 #include <optional>
 #include <utility>
 
+#include "cli/Diagnostics.h"
+#include "cli/NoSession.h"
 #include "cli/Playback.h"
 #include "cli/Report.h"
 #include "cli/ScriptFile.h"
@@ -82,10 +84,33 @@ void endBySignal(int number) {
     raise(number);
 }
 
+int checkForEditor(const std::string& text) {
+    const auto compiled = script::compile(text);
+    std::cout << (compiled ? diagnostics(text, nullptr, compiled.value().warnings())
+                           : diagnostics(text, &compiled.error(), {}));
+    return compiled ? succeeded : failed;
+}
+
+/// Without a session; what needs one is told in a line.
+int runWithoutSession(const Source& source, const script::Program& program, const Error& why,
+                      bool printsValue) {
+    NoSession session(why);
+    TerminalDialogs dialogs(session.injector());
+    const script::RunResult result = run(source, program, {session.injector(), session.desktop(), dialogs});
+    if (session.wasNeeded()) {
+        reportError("", why);
+        return failed;
+    }
+    tell(source, result);
+    if (printsValue && !result.value.empty()) std::cout << result.value << std::endl;
+    return statusOf(result);
+}
+
 }  // namespace
 
 int checkScript(const ScriptInput& input) {
     const std::optional<Source> source = sourceOf(input);
+    if (source && input.wantsJson) return checkForEditor(source->text);
     const std::optional<script::Program> program = source ? compiled(*source) : std::nullopt;
     if (!program) return failed;
     const Report report(source->name, source->text);
@@ -122,10 +147,7 @@ int runScript(const ScriptInput& input) {
     const std::optional<script::Program> program = source ? compiled(*source) : std::nullopt;
     if (!program) return failed;
     Result<std::unique_ptr<Playback>> playback = Playback::make();
-    if (!playback) {
-        reportError("", playback.error());
-        return failed;
-    }
+    if (!playback) return runWithoutSession(*source, *program, playback.error(), !input.lines.empty());
     playback.value()->injector().startPlayback();
     TerminalDialogs dialogs(playback.value()->injector());
     const script::RunResult result =

@@ -8,19 +8,22 @@
 struct ScriptInput {
     std::string file;
     std::vector<std::string> lines;  ///< of -e, instead of a file
+    bool wantsJson = false;          ///< of check: what it says is for an editor
 };
 
 /// The commands of the program. Each tells on standard error what is wrong (see Report), and gives the exit
 /// status: 0, or 1 after an error.
 
-/// Compiles, and warns of what only this program understands.
+/// Compiles, and warns of what is probably not meant. As JSON it is told on standard output: an array of
+/// objects, one a line, with kind ("error", "warning"), line, column, length (in characters), message, and of
+/// errors number and hint.
 int checkScript(const ScriptInput& input);
 
 /// Prints what would be done, one JSON array a line, without pauses.
 int traceScript(const ScriptInput& input);
 
-/// Presses the keys. A signal that ends the run ends the process, once nothing is held any more. Of -e the
-/// value of the last line is printed.
+/// Presses the keys; where no keys can be pressed a script is run that presses none. A signal that ends the
+/// run ends the process, once nothing is held any more. Of -e the value of the last line is printed.
 int runScript(const ScriptInput& input);
 
 /// Prints the script in one layout.

@@ -19,6 +19,8 @@ class Playback {
 
     KeyInjector& injector() { return m_session->sessionServices().keyInjector; }
     ScriptDesktop& desktop() { return m_session->sessionServices().scriptDesktop; }
+    Session& session() { return *m_session; }
+    const SignalCatcher& signals() const { return m_signals; }
     /// Whether the session is still there; its end ends the run as a wish of the user's does.
     Result<void> connection() const { return m_session->connection(); }
 

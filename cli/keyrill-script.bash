@@ -3,9 +3,9 @@
 _keyrill_script() {
     local current=${COMP_WORDS[COMP_CWORD]}
     if [ "$COMP_CWORD" -eq 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W "check run trace format --help --version" -- "$current")
+        mapfile -t COMPREPLY < <(compgen -W "check run trace format keys reference --help --version" -- "$current")
     elif [ "$COMP_CWORD" -eq 2 ]; then
-        mapfile -t COMPREPLY < <(compgen -W "-e" -- "$current"; compgen -f -X '!*.keyrill' -- "$current"
+        mapfile -t COMPREPLY < <(compgen -W "-e --json --press" -- "$current"; compgen -f -X '!*.keyrill' -- "$current"
                                  compgen -d -- "$current")
     fi
 }

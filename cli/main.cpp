@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "cli/Commands.h"
+#include "cli/Keys.h"
 #include "cli/Report.h"
 #include "platform/script/commands/LanguageReference.h"
 
@@ -23,10 +24,11 @@ constexpr auto commands = std::to_array<Command>(
     {{"check", checkScript}, {"run", runScript}, {"trace", traceScript}, {"format", formatScript}});
 
 constexpr std::string_view usage =
-    "Usage: keyrill-script check FILE   compile, and say what is wrong\n"
+    "Usage: keyrill-script check FILE   compile, and say what is wrong; with --json for editors\n"
     "       keyrill-script run FILE     press the keys\n"
     "       keyrill-script trace FILE   print what would be done, one JSON array a line\n"
     "       keyrill-script format FILE  print the script in one layout\n"
+    "       keyrill-script keys         print the key codes; with --press that of the next key\n"
     "       keyrill-script reference    print the reference of the language\n"
     "       keyrill-script --help | --version\n"
     "FILE - is standard input; -e LINE, once or more, gives the script itself.\n";
@@ -60,6 +62,8 @@ int perform(const std::vector<std::string_view>& arguments) {
         std::cout << script::languageReference();
         return 0;
     }
+    if (first == "keys" && arguments.size() == 1) return printKeys();
+    if (first == "keys" && arguments.size() == 2 && arguments.back() == "--press") return printPressedKey();
     if (arguments.size() == 1 && first == "--version") {
         std::cout << "keyrill-script " KEYRILL_VERSION "\n";
         return 0;
@@ -67,8 +71,12 @@ int perform(const std::vector<std::string_view>& arguments) {
     const auto* command = std::find_if(commands.begin(), commands.end(),
                                        [&](const Command& candidate) { return candidate.name == first; });
     if (command != commands.end()) {
-        const auto input = inputOf({arguments.begin() + 1, arguments.end()});
-        if (input) return command->perform(*input);
+        const bool wantsJson = first == "check" && arguments.size() > 1 && arguments[1] == "--json";
+        auto input = inputOf({arguments.begin() + (wantsJson ? 2 : 1), arguments.end()});
+        if (input) {
+            input->wantsJson = wantsJson;
+            return command->perform(*input);
+        }
     }
     std::cerr << usage;
     return 1;

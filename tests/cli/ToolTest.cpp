@@ -151,6 +151,57 @@ TEST_F(ToolTest, runNeedsADisplayAndSaysSoInOneLine) {
     EXPECT_EQ(outcome.errors.find('\n'), outcome.errors.size() - 1) << outcome.errors;
 }
 
+TEST_F(ToolTest, runNeedsNoDisplayWhereNothingIsPressed) {
+    EXPECT_EQ(run("run -e '1 + 1'"), (Outcome{0, "2\n", ""}));
+    EXPECT_EQ(run("run -e 'delay 0.001' -e 'log 5' -e '\"a\" & 1'"), (Outcome{0, "\"a1\"\n", "(*5*)\n"}));
+    EXPECT_EQ(run("run -e '1 / 0'").status, 1);
+    const Outcome pressed = run("run -e 'log 1' -e 'beep' -e 'log 2'");
+    EXPECT_EQ(pressed.status, 1);
+    EXPECT_EQ(pressed.errors.rfind("(*1*)\nkeyrill-script: ", 0), 0U) << pressed.errors;
+    EXPECT_EQ(pressed.errors.find("(*2*)"), std::string::npos);
+}
+
+TEST_F(ToolTest, checkTellsEditorsWhereAndHowLong) {
+    write("set é to 1\ndelay pause\n");
+    EXPECT_EQ(
+        run("check --json script"),
+        (Outcome{
+            1,
+            "[{\"kind\":\"error\",\"line\":1,\"column\":5,\"length\":1,\"message\":\"Expected expression "
+            "but found unknown token.\",\"number\":-2741,\"hint\":\"\"}]\n",
+            ""}));
+    write("key code 5\n");
+    EXPECT_EQ(
+        run("check --json script").output,
+        "[{\"kind\":\"error\",\"line\":1,\"column\":5,\"length\":4,\"message\":\"Expected end of line but "
+        "found "
+        "identifier.\",\"number\":-2741,\"hint\":\"The keyboard commands stand inside “tell application "
+        "\\\"System Events\\\"” … “end tell”.\"}]\n");
+    write("delay pause\nbeep length\n");
+    EXPECT_EQ(
+        run("check --json script"),
+        (Outcome{
+            0,
+            "[{\"kind\":\"warning\",\"line\":1,\"column\":7,\"length\":5,\"message\":\"The variable pause is "
+            "never set. Text stands between straight quotes: \\\"pause\\\".\"},\n"
+            "{\"kind\":\"warning\",\"line\":2,\"column\":6,\"length\":6,\"message\":\"The variable length is "
+            "never set. Text stands between straight quotes: \\\"length\\\".\"}]\n",
+            ""}));
+    EXPECT_EQ(run("check --json -e 'beep'"), (Outcome{0, "[]\n", ""}));
+    EXPECT_EQ(run("check --json -e 'delay'  -e '('").output.find("\"length\":0,") == std::string::npos,
+              false);
+    EXPECT_EQ(run("trace --json script").errors.rfind(usage, 0), 0U);
+}
+
+TEST_F(ToolTest, keysPrintsTheTable) {
+    const std::string keys = run("keys").output;
+    EXPECT_EQ(keys.rfind("0\tA\n1\tS\n", 0), 0U);
+    EXPECT_NE(keys.find("\n36\tReturn\n"), std::string::npos);
+    EXPECT_EQ(keys.find("\n66\t"), std::string::npos);
+    EXPECT_EQ(run("keys --press").errors.rfind("keyrill-script: ", 0), 0U);
+    EXPECT_EQ(run("keys 5").errors.rfind(usage, 0), 0U);
+}
+
 TEST_F(ToolTest, anUnknownCommandShowsTheUsage) {
     for (const char* arguments : {"", "check", "play script", "check a b"}) {
         const Outcome outcome = run(arguments);

@@ -24,7 +24,8 @@ const Command& currentDateCommand() {
                                  .manual = R"(current date
 
 The date and time of now. A date has the properties `year`, `month`, `day`, `weekday`, `hours`, `minutes`, `seconds`,
-`time`, `date string` and `time string`; seconds can be added to it, and a date taken from it.)",
+`time`, `date string`, `short date string` and `time string`; seconds can be added to it, and a date taken from it.
+`date "2026-01-31"`, `date "1/31/2026 1:05 PM"` and `date "January 31, 2026"` are dates, too.)",
                                  .examples = R"(class of (current date) => date
 (current date) > date "2020-01-01" => true)"};
     return command;

@@ -5,9 +5,14 @@
 #include <string_view>
 
 #include "platform/script/commands/Command.h"
+#include "platform/script/commands/Cookbook.h"
+#include "platform/script/commands/KeyTable.h"
+#include "platform/script/commands/LanguageNotes.h"
 
 namespace script {
 namespace {
+
+constexpr std::string_view firstChapter = "## Lines\n";
 
 constexpr std::string_view statements = R"(<!-- SPDX-License-Identifier: MIT -->
 <!-- Printed by `keyrill-script reference`; not to be edited. -->
@@ -60,6 +65,8 @@ unless inside `considering case`.
 `items 2 thru 4 of L`, `text 1 thru 3 of t`, `text item 2 of t`, `text from word 2 to word 3 of t`, `x's item 2`.
 `length`, `reverse` and `rest` of lists; `beginning` and `end`, to set as well; `id` of a text; the parts of a date; `class`
 of anything; the properties of a record by their names. Indices count from 1, or from the end with a minus.
+`a reference to item 2 of L` and `a reference to x` lead to an item or a variable; `contents of r` is what is there now, and
+can be set.
 
 ## Statements
 
@@ -128,14 +135,30 @@ std::string section(const Command& command) {
     return out + indented(examples);
 }
 
+std::string chapter(const Recipe& recipe) {
+    std::string script(recipe.script);
+    for (auto at = script.find('\t'); at != std::string::npos; at = script.find('\t'))
+        script.replace(at, 1, "    ");
+    return "\n### " + std::string(recipe.title) + "\n\n" + std::string(recipe.words) + "\n\n" +
+           indented(script);
+}
+
 }  // namespace
 
 std::string languageReference() {
     std::string out(statements);
+    const std::size_t place = out.find(firstChapter);
+    out.insert(place, firstScript);
     for (const Command* command : commands()) {
         if (!command->manual.empty()) out += section(*command);
     }
-    return out;
+    out += "\n## Cookbook\n";
+    for (const Recipe& recipe : recipes()) out += chapter(recipe);
+    out +=
+        "\n## Key codes\n\nThe names are those of a US keyboard; a code is a place, whatever letter is "
+        "printed there. ";
+    out += "`keyrill-script keys` prints the list.\n\n" + keyTable();
+    return out.append(closingNotes);
 }
 
 }  // namespace script

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Keys.h"
+
+#include <poll.h>
+
+#include <iostream>
+#include <optional>
+#include <vector>
+
+#include "cli/Playback.h"
+#include "cli/Report.h"
+#include "platform/EventMonitor.h"
+#include "platform/EventSource.h"
+#include "platform/script/commands/KeyTable.h"
+
+namespace {
+
+/// Serves what the session hears of until the function says that it is enough, or a signal comes.
+template <typename Enough>
+void serve(Playback& playback, const Enough& enough) {
+    const std::vector<EventSource*> sources = playback.session().eventSources();
+    std::vector<pollfd> waited;
+    for (const EventSource* source : sources) waited.push_back({source->fileDescriptor(), POLLIN, 0});
+    waited.push_back({playback.signals().fileDescriptor(), POLLIN, 0});
+    while (!enough() && playback.signals().number() == 0 && playback.connection()) {
+        for (EventSource* source : sources) source->dispatch();
+        if (!enough()) poll(waited.data(), waited.size(), -1);
+    }
+}
+
+}  // namespace
+
+int printKeys() {
+    std::cout << script::keyLines();
+    return 0;
+}
+
+int printPressedKey() {
+    auto playback = Playback::make();
+    if (!playback) {
+        reportError("", playback.error());
+        return 1;
+    }
+    std::optional<std::uint32_t> code;
+    EventMonitor& monitor = playback.value()->session().sessionServices().eventMonitor;
+    const auto installed = monitor.install([&](const KeyEvent& event) {
+        if (event.kind == KeyEventKind::keyDown && !code) code = event.keyCode;
+    });
+    if (!installed) {
+        reportError("", installed.error());
+        return 1;
+    }
+    std::cerr << "Press a key." << std::endl;
+    serve(*playback.value(), [&] { return code.has_value(); });
+    if (code) std::cout << *code << "\t" << script::keyTitle(*code) << std::endl;
+    playback.value()->finish();
+    return code ? 0 : 1;
+}
