@@ -27,7 +27,7 @@ void takeSubmenu(Camera& camera, StatusMenu& menu, QMenu& submenu, const char* n
     menu.hide();
 }
 
-/// The icons as themes have them and as they are drawn without, on light and on dark panels.
+/// The icons as they are drawn where no theme has them, on light and on dark panels.
 void takeIcons(Camera& camera) {
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
@@ -38,15 +38,10 @@ void takeIcons(Camera& camera) {
         row->setPalette(palette);
         row->setAutoFillBackground(true);
         auto* icons = new QHBoxLayout(row);
-        for (const StatusImage image : {StatusImage::normal, StatusImage::busy, StatusImage::recording}) {
-            // Panels colour the theme's icons; as they are, they are for light ones.
-            QList<QIcon> shown{builtInStatusIcon(image)};
-            if (ground.lightness() > 128) shown.prepend(themedStatusIcon(image));
-            for (const QIcon& icon : shown) {
-                auto* label = new QLabel;
-                label->setPixmap(icon.pixmap(QSize(22, 22), label->devicePixelRatioF()));
-                icons->addWidget(label);
-            }
+        for (const StatusImage image : {StatusImage::normal, StatusImage::busy}) {
+            auto* label = new QLabel;
+            label->setPixmap(statusIcon(image).pixmap(QSize(22, 22), label->devicePixelRatioF()));
+            icons->addWidget(label);
         }
         layout->addWidget(row);
     }

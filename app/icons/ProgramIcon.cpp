@@ -6,7 +6,7 @@
 
 QIcon programIcon() {
     findOwnIcons();
-    return QIcon::fromTheme(QStringLiteral("example.orlen.Keyrill"), builtInStatusIcon(StatusImage::normal));
+    return QIcon::fromTheme(QStringLiteral("example.orlen.Keyrill"), statusIcon(StatusImage::normal));
 }
 
 void findOwnIcons() {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/icons/StatusIcon.h"
 
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
-
-#include "app/icons/ProgramIcon.h"
+#include <algorithm>
 
 namespace {
 
@@ -31,61 +31,56 @@ QPainterPath dots() {
     return path;
 }
 
-/// A filled circle on a key cap.
-QPainterPath circle() {
-    QPainterPath path;
-    path.addEllipse(QPointF(8, 8), 2.5, 2.5);
-    return path;
-}
-
-QPainterPath signOf(StatusImage image) {
-    switch (image) {
-        case StatusImage::busy:
-            return dots();
-        case StatusImage::recording:
-            return circle();
-        case StatusImage::normal:
-            break;
-    }
-    return letter();
-}
+QPainterPath signOf(StatusImage image) { return image == StatusImage::busy ? dots() : letter(); }
 
 QString nameOf(StatusImage image) {
-    switch (image) {
-        case StatusImage::busy:
-            return QStringLiteral("example.orlen.Keyrill-busy-symbolic");
-        case StatusImage::recording:
-            return QStringLiteral("example.orlen.Keyrill-recording-symbolic");
-        case StatusImage::normal:
-            break;
-    }
-    return QStringLiteral("example.orlen.Keyrill-symbolic");
+    return image == StatusImage::busy ? QStringLiteral("example.orlen.Keyrill-busy-symbolic")
+                                      : QStringLiteral("example.orlen.Keyrill-symbolic");
 }
 
-QPixmap statusPixmap(StatusImage image, int size) {
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
+/// Light and dark edges, for panels of any colour.
+void drawStatus(QPainter& painter, StatusImage image, const QRect& place) {
+    const int size = std::min(place.width(), place.height());
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(place.x() + (place.width() - size) / 2.0, place.y() + (place.height() - size) / 2.0);
     painter.scale(size / grid, size / grid);
     painter.setPen(QPen(QColor(0xf2, 0xf2, 0xf2), 1));
     painter.setBrush(QColor(0x2b, 0x30, 0x3b));
     painter.drawRoundedRect(QRectF(1, 1, 14, 14), 3, 3);
-    painter.setBrush(image == StatusImage::recording ? QBrush(Qt::white) : QBrush(Qt::NoBrush));
+    painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(Qt::white, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPath(signOf(image));
-    return pixmap;
 }
+
+/// Has the name of the theme's icon and draws its own, whether there is such a theme or not.
+class StatusIconEngine : public QIconEngine {
+  public:
+    explicit StatusIconEngine(StatusImage image) : m_image(image) {}
+
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
+        painter->save();
+        drawStatus(*painter, m_image, place);
+        painter->restore();
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        drawStatus(painter, m_image, pixmap.rect());
+        return pixmap;
+    }
+    QIconEngine* clone() const override { return new StatusIconEngine(*this); }
+    QString iconName() override { return nameOf(m_image); }
+    QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
+        QList<QSize> sizes;
+        for (const int size : {16, 22, 24, 32, 48, 64}) sizes.append(QSize(size, size));
+        return sizes;
+    }
+
+  private:
+    StatusImage m_image;
+};
 
 }  // namespace
 
-QIcon builtInStatusIcon(StatusImage image) {
-    QIcon icon;
-    for (const int size : {16, 22, 24, 32, 48, 64}) icon.addPixmap(statusPixmap(image, size));
-    return icon;
-}
-
-QIcon themedStatusIcon(StatusImage image) {
-    findOwnIcons();
-    return QIcon::fromTheme(nameOf(image), builtInStatusIcon(image));
-}
+QIcon statusIcon(StatusImage image) { return QIcon(new StatusIconEngine(image)); }

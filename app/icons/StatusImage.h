@@ -2,4 +2,4 @@
 #pragma once
 
 /// What the status item shows of the program.
-enum class StatusImage { busy, normal, recording };
+enum class StatusImage { busy, normal };

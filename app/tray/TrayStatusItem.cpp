@@ -75,9 +75,7 @@ void TrayStatusItem::makeIcon() {
 
 void TrayStatusItem::updateIcon() {
     if (!m_icon) return;
-    // A docked icon is shown as it is, black on black if need be: only hosts colour symbolic icons.
-    const bool colours = m_gate.kind() == TrayKind::statusNotifier;
-    m_icon->setIcon(colours ? themedStatusIcon(m_image) : builtInStatusIcon(m_image));
+    m_icon->setIcon(statusIcon(m_image));
     const QString name = tr("Keyrill");
     m_icon->setToolTip(m_notice.isEmpty() ? name : name + QLatin1Char('\n') + m_notice);
 }

@@ -120,13 +120,13 @@ void Desktop::startCompositor() {
     awaitOrThrow("the compositor", [this] { return m_screen.isOwned("_NET_WM_CM_S0"); });
 }
 
-TrayHost& Desktop::startTray(TrayKind kind) {
+TrayHost& Desktop::startTray(TrayKind kind, bool isDark) {
     if (kind == TrayKind::statusNotifier) {
         if (!m_bus) startBus();
         m_bus->letIn("org.xfce.Xfconf");
         const std::filesystem::path folder = m_folder.file("host/.config/xfce4/xfconf/xfce-perchannel-xml");
         std::filesystem::create_directories(folder);
-        std::ofstream(folder / "xfce4-panel.xml") << TrayHost::panelSettings();
+        std::ofstream(folder / "xfce4-panel.xml") << TrayHost::panelSettings(isDark);
     }
     m_tray = std::make_unique<TrayHost>(kind, hostOptions("tray.log"), m_screen);
     return *m_tray;

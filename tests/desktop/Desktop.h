@@ -47,8 +47,8 @@ class Desktop {
     Child& windowManager() { return *m_manager; }
     /// Translucent windows become so.
     void startCompositor();
-    /// At the lower edge.
-    TrayHost& startTray(TrayKind kind = TrayKind::docking);
+    /// At the lower edge; a tray that docks icons has one colour.
+    TrayHost& startTray(TrayKind kind = TrayKind::docking, bool isDark = false);
     void endTray() { m_tray.reset(); }
     /// Ends it without a word.
     void killTray();

@@ -59,6 +59,16 @@ std::size_t Screen::colours(const ScreenWindow& window) const {
     return std::set<std::uint32_t>(all.begin(), all.end()).size();
 }
 
+Screen::Brightness Screen::brightness(const ScreenWindow& window) const {
+    Brightness found;
+    for (const std::uint32_t pixel : pixels(window.x, window.y, window.width, window.height)) {
+        const int mean = static_cast<int>((pixel & 0xFF) + (pixel >> 8 & 0xFF) + (pixel >> 16 & 0xFF)) / 3;
+        found.least = std::min(found.least, mean);
+        found.most = std::max(found.most, mean);
+    }
+    return found;
+}
+
 // The virtual servers have 24 bits in four bytes a pixel, blue first.
 std::vector<std::uint32_t> Screen::pixels(int x, int y, int width, int height) const {
     constexpr std::uint32_t allPlanes = ~0U;

@@ -36,6 +36,12 @@ class Screen {
 
     /// "#RRGGBB" of a point; "" outside of the screen.
     std::string colourAt(int x, int y) const;
+    /// Of all points in the window's place, from 0 to 255.
+    struct Brightness {
+        int least = 255;
+        int most = 0;
+    };
+    Brightness brightness(const ScreenWindow& window) const;
     /// How many colours are to be seen in the window's place.
     std::size_t colours(const ScreenWindow& window) const;
 

@@ -46,12 +46,15 @@ std::optional<ScreenWindow> TrayHost::icon() const {
 
 std::optional<ScreenWindow> TrayHost::ownMenu() const { return helperWindow(m_screen, false); }
 
-std::string TrayHost::panelSettings() {
+std::string TrayHost::panelSettings(bool isDark) {
+    const std::string dark = isDark ? "true" : "false";
     return R"(<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfce4-panel" version="1.0">
   <property name="configver" type="int" value="2"/>
   <property name="panels" type="array">
     <value type="int" value="1"/>
+    <property name="dark-mode" type="bool" value=")" +
+           dark + R"("/>
     <property name="panel-1" type="empty">
       <property name="position" type="string" value="p=10;x=0;y=0"/>
       <property name="position-locked" type="bool" value="true"/>

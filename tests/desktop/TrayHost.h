@@ -27,7 +27,7 @@ class TrayHost {
     std::optional<ScreenWindow> ownMenu() const;
 
     /// The settings of a panel that holds nothing but a tray, as the desktop's settings service keeps them.
-    static std::string panelSettings();
+    static std::string panelSettings(bool isDark);
 
   private:
     bool isReady() const;

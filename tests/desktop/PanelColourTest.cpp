@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include <tuple>
+
+#include "desktop/DesktopTest.h"
+#include "desktop/StatusMenuClicks.h"
+
+namespace {
+
+/// A panel of either colour, which finds the program's icons in its theme or does not.
+class PanelColourTest : public testing::TestWithParam<std::tuple<bool, bool>> {
+  protected:
+    bool isDark() const { return std::get<0>(GetParam()); }
+    bool isInstalled() const { return std::get<1>(GetParam()); }
+
+    Desktop desktop;
+};
+
+TEST_P(PanelColourTest, theIconIsToBeSeen) {
+    if (isInstalled()) desktop.setEnvironment("XDG_DATA_DIRS", KEYRILL_SHARE ":/usr/local/share:/usr/share");
+    desktop.startTray(TrayKind::statusNotifier, isDark());
+    const Keyrill keyrill(desktop);
+    // An icon that cannot be seen on its ground would have it as its lightest or darkest colour.
+    constexpr int contrast = 100;
+    EXPECT_TRUE(eventually([this] {
+        const std::optional<ScreenWindow> icon = desktop.tray().icon();
+        if (!icon) return false;
+        const Screen::Brightness brightness = desktop.screen().brightness(*icon);
+        return brightness.most - brightness.least >= contrast && (brightness.most > 128) &&
+               (brightness.least < 128);
+    }));
+}
+
+std::string nameOfPanel(const testing::TestParamInfo<std::tuple<bool, bool>>& info) {
+    return std::string(std::get<0>(info.param) ? "dark" : "light") +
+           (std::get<1>(info.param) ? "Installed" : "NotInstalled");
+}
+
+INSTANTIATE_TEST_SUITE_P(Panels, PanelColourTest, testing::Combine(testing::Bool(), testing::Bool()),
+                         nameOfPanel);
+
+}  // namespace
