@@ -10,7 +10,7 @@ class LoginItems {
         off,
         /// The entry is there and starts the program under its present path.
         on,
-        /// The user switched the entry off by the desktop's own means; install(true) leaves it so.
+        /// The user switched the entry off by the desktop's own means; install() leaves it so.
         hiddenByUser,
     };
 
@@ -25,4 +25,7 @@ class LoginItems {
     /// Fails, without having changed anything, where the path cannot stand in an entry and where the folder
     /// cannot be written.
     virtual Result<> install(bool enable) = 0;
+
+    /// The user wishes the entry that they had hidden back: install(true), which replaces a hidden one too.
+    virtual Result<> reveal() = 0;
 };

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "app/controller/ShortcutNotices.h"
 #include "app/controller/Stage.h"
@@ -39,6 +40,7 @@ PreferencesDesk::PreferencesDesk(SettingsStore& store, LoginItems& loginItems, H
                                  Dialogs& dialogs, Stage& stage)
     : m_store(store), m_loginItems(loginItems), m_hotKeys(hotKeys), m_dialogs(dialogs), m_stage(stage) {
     model.offersUpdateCheck = features::updateCheck;
+    connect(&model.launchOnLogin, &ToggleModel::changed, this, &PreferencesDesk::noteLoginTick);
 }
 
 PreferencesDesk::~PreferencesDesk() = default;
@@ -78,8 +80,14 @@ void PreferencesDesk::save() {
     updateNotices();
 }
 
+void PreferencesDesk::noteLoginTick() {
+    m_loginIsTicked = model.launchOnLogin.isOn() && shownPanel() != nullptr;
+}
+
 void PreferencesDesk::installLoginItem(bool enable) {
-    const Result<> installed = m_loginItems.install(enable);
+    // A tick is a newer wish than what the user has set by the desktop's own means before.
+    const bool isWish = std::exchange(m_loginIsTicked, false) && enable;
+    const Result<> installed = isWish ? m_loginItems.reveal() : m_loginItems.install(enable);
     if (!installed) tellSaveFailure(alerts::loginItemNotSet(installed.error()));
 }
 
@@ -89,7 +97,19 @@ void PreferencesDesk::tellSaveFailure(const AlertText& alert) {
         return;
     }
     m_toldSaveFailures.push_back(alert);
-    QTimer::singleShot(0, this, [this, alert] { m_dialogs.runAlert(alert); });
+    m_untoldSaveFailures.push_back(alert);
+    QTimer::singleShot(0, this, &PreferencesDesk::tellSaveFailures);
+}
+
+void PreferencesDesk::tellSaveFailures() {
+    // The next one would come while this one is open, and lie on top of it.
+    if (std::exchange(m_isTelling, true)) return;
+    while (!m_untoldSaveFailures.empty()) {
+        const AlertText alert = m_untoldSaveFailures.front();
+        m_untoldSaveFailures.pop_front();
+        m_dialogs.runAlert(alert);
+    }
+    m_isTelling = false;
 }
 
 PreferencesPanel& PreferencesDesk::builtPanel() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <deque>
 #include <memory>
 #include <vector>
 
@@ -32,7 +33,8 @@ class PreferencesDesk : public QObject {
     /// Takes what is stored into the preference table and the model.
     void load();
     /// Stores the model, follows it with the login item, registers the hot keys. Why something could not be
-    /// saved is told after the current event, the same only once each time that the panel is opened.
+    /// saved is told after the current event, one cause after the other, the same only once each time that
+    /// the panel is opened.
     void save();
     void installLoginItem(bool enable);
 
@@ -61,7 +63,10 @@ class PreferencesDesk : public QObject {
     PreferencesPanel& builtPanel();
     PreferenceValues values() const;
     void emptyOthersEqualTo(const ShortcutModel& changed);
+    /// Of a box that is ticked while the panel is shown, whatever has become of the entry elsewhere.
+    void noteLoginTick();
     void tellSaveFailure(const AlertText& alert);
+    void tellSaveFailures();
 
     SettingsStore& m_store;
     LoginItems& m_loginItems;
@@ -69,5 +74,8 @@ class PreferencesDesk : public QObject {
     Dialogs& m_dialogs;
     Stage& m_stage;
     std::unique_ptr<PreferencesPanel> m_panel;
+    bool m_loginIsTicked = false;
     std::vector<AlertText> m_toldSaveFailures;
+    std::deque<AlertText> m_untoldSaveFailures;
+    bool m_isTelling = false;
 };

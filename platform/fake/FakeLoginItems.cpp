@@ -19,3 +19,10 @@ Result<> FakeLoginItems::install(bool enable) {
     }
     return {};
 }
+
+Result<> FakeLoginItems::reveal() {
+    m_journal.note("revealLoginItem");
+    if (const auto error = m_nextError.take()) return *error;
+    m_entry = Entry{programPath};
+    return {};
+}

@@ -24,6 +24,7 @@ class FakeLoginItems : public LoginItems {
 
     State state() const override;
     Result<> install(bool enable) override;
+    Result<> reveal() override;
 
     /// The next install() fails and changes nothing.
     void failNextCall(const Error& error) { m_nextError.set(error); }

@@ -87,6 +87,8 @@ Result<> AutostartEntry::install(bool enable) {
     return state() == State::on ? remove() : Result<>();
 }
 
+Result<> AutostartEntry::reveal() { return state() == State::on ? Result<>() : add(); }
+
 std::string AutostartEntry::userPath() const { return m_folders.user + fileName; }
 
 AutostartEntry::Entry AutostartEntry::usersEntry() const { return Entry(userPath()); }

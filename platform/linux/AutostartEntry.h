@@ -20,6 +20,7 @@ class AutostartEntry : public LoginItems {
 
     State state() const override;
     Result<> install(bool enable) override;
+    Result<> reveal() override;
 
   private:
     struct Entry;

@@ -50,6 +50,17 @@ TEST_P(LoginItemsContract, stayHiddenWhereTheUserHidThem) {
     }
 }
 
+TEST_P(LoginItemsContract, comeBackWhereTheUserWishesItAnew) {
+    for (const bool isThere : {true, false}) {
+        EXPECT_TRUE(items().install(isThere));
+        if (isThere) world->userHidesEntry();
+        for (int again = 0; again < 2; ++again) {
+            EXPECT_TRUE(items().reveal());
+            EXPECT_EQ(items().state(), State::on);
+        }
+    }
+}
+
 TEST_P(LoginItemsContract, replaceAnotherProgramsEntry) {
     world->otherProgramTakesEntry();
     EXPECT_EQ(items().state(), State::off);

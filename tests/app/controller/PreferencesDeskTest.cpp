@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/PreferencesDesk.h"
 
+#include <QCoreApplication>
+#include <algorithm>
+
 #include "app/AppTest.h"
 #include "app/controller/Stage.h"
 #include "app/panels/PreferencesPanel.h"
@@ -56,6 +59,46 @@ TEST_F(PreferencesDeskTest, reportsWhatThePanelAsksFor) {
     desk.panel()->close();
     EXPECT_EQ(closes, 1);
     EXPECT_EQ(desk.shownPanel(), nullptr);
+}
+
+TEST_F(PreferencesDeskTest, bringsAHiddenLoginItemBackWhenItsBoxIsTicked) {
+    EXPECT_TRUE(platform().loginItems.install(true));
+    platform().loginItems.userHidesEntry();
+    desk.model.launchOnLogin.setOn(true);
+    desk.save();
+    EXPECT_EQ(platform().loginItems.state(), LoginItems::State::hiddenByUser) << "nobody has ticked it";
+    desk.open();
+    EXPECT_FALSE(desk.model.launchOnLogin.isOn());
+    desk.save();
+    EXPECT_EQ(platform().loginItems.state(), LoginItems::State::hiddenByUser);
+    desk.model.launchOnLogin.setOn(true);
+    desk.close();
+    EXPECT_EQ(platform().loginItems.state(), LoginItems::State::on);
+}
+
+TEST_F(PreferencesDeskTest, leavesALoginItemThatIsHiddenAfterTheTick) {
+    desk.open();
+    desk.model.launchOnLogin.setOn(true);
+    desk.save();
+    platform().loginItems.userHidesEntry();
+    desk.save();
+    EXPECT_EQ(platform().loginItems.state(), LoginItems::State::hiddenByUser);
+}
+
+TEST_F(PreferencesDeskTest, tellsOneFailureAfterTheOther) {
+    std::size_t open = 0;
+    std::size_t mostOpen = 0;
+    dialogs.whileOpen([&] {
+        mostOpen = std::max(mostOpen, ++open);
+        QCoreApplication::processEvents();
+        --open;
+    });
+    platform().loginItems.failNextCall({"No folder.", ""});
+    platform().settings.failNextCall({"No room.", ""});
+    desk.save();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(dialogs.alerts.size(), 2U);
+    EXPECT_EQ(mostOpen, 1U);
 }
 
 }  // namespace
