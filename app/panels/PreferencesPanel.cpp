@@ -65,6 +65,8 @@ void PreferencesPanel::addShortcut(QFormLayout& form, ShortcutModel& shortcut, c
     auto* field = new SRRecorderControl(shortcut, titles.command, this);
     form.addRow(titles.label, field);
     auto* notice = new NoticeLine(this);
+    // It takes the width that is there; the panel grows downwards only.
+    notice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     const auto showNotice = [&form, notice, &shortcut] {
         notice->setNotice(shortcut.notice());
         // A hidden widget's row would still take its spacing.

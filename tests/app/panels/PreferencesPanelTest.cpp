@@ -71,6 +71,18 @@ TEST_F(PreferencesPanelTest, labelsEachFieldWithAMnemonicOfItsOwn) {
     EXPECT_EQ(mnemonics.size(), shortcutRows.size() + toggleRows.size() + 2) << "fields, boxes, two buttons";
 }
 
+TEST_F(PreferencesPanelTest, keepsItsWidthWhenNoticesCome) {
+    panel.show();
+    const int lower = height();
+    const int width = panel.width();
+    model.stop.setNotice(
+        QStringLiteral("Ctrl+Super+S cannot be used: another program holds it, and says so at length."));
+    EXPECT_GT(height(), lower);
+    EXPECT_EQ(panel.width(), width);
+    model.stop.setNotice({});
+    EXPECT_EQ(height(), lower);
+}
+
 TEST_F(PreferencesPanelTest, showsAndSetsTheOptions) {
     model.launchOnLogin.setOn(true);
     EXPECT_TRUE(box("Start Keyrill when I log in").isChecked());
