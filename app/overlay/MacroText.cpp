@@ -5,6 +5,9 @@
 #include <chrono>
 #include <string_view>
 
+#include "app/overlay/OverlayPanel.h"
+#include "app/widgets/MacroSigns.h"
+
 namespace {
 
 constexpr std::chrono::milliseconds frame{16};
@@ -54,15 +57,19 @@ QString MacroText::visibleText() const {
     const QFontMetrics metrics = fontMetrics();
     qsizetype length = firstTried;
     while (length < m_text.size() && metrics.horizontalAdvance(m_text.right(length)) <= width()) length *= 2;
-    QString tail = m_text.right(length);
+    QString tail = withSignsThatShow(m_text.right(length), metrics);
     // Half of a character says nothing.
     if (!tail.isEmpty() && tail.front().isLowSurrogate()) tail.remove(0, 1);
     return metrics.elidedText(tail, Qt::ElideLeft, width());
 }
 
 void MacroText::paintEvent(QPaintEvent* /*event*/) {
+    const QString text = visibleText();
+    if (text.isEmpty()) return;
+    constexpr int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine;
     QPainter painter(this);
-    painter.setPen(Qt::white);
     painter.setLayoutDirection(layoutDirection());
-    painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, visibleText());
+    painter.fillRect(painter.boundingRect(rect(), flags, text), overlayGround);
+    painter.setPen(Qt::white);
+    painter.drawText(rect(), flags, text);
 }

@@ -42,10 +42,12 @@ MultiplePlayWindow::MultiplePlayWindow(const QString& folder)
 void MultiplePlayWindow::addControls(QWidget& view) {
     auto* label = new QLabel(tr("&Times to play:"));
     label->setBuddy(m_timesText);
-    // The picture behind is dark on every desktop.
+    // The picture behind is dark on every desktop, and may be missing.
     QPalette onDark = label->palette();
     onDark.setColor(QPalette::WindowText, Qt::white);
+    onDark.setColor(QPalette::Window, overlayGround);
     label->setPalette(onDark);
+    label->setAutoFillBackground(true);
     m_timesText->setFixedWidth(fieldWidth);
     m_timesText->setAccessibleName(tr("Times to play"));
     auto* layout = new QHBoxLayout(&view);

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/tray/MacroMenuItem.h"
 
-#include "app/tray/StatusMenu.h"
+#include <QApplication>
 
-MacroMenuItem::MacroMenuItem(const QString& title, QObject* parent) : QAction(menuTitle(title), parent) {}
+#include "app/tray/StatusMenu.h"
+#include "app/widgets/MacroSigns.h"
+
+MacroMenuItem::MacroMenuItem(const QString& title, QObject* parent)
+    : QAction(menuTitle(withSignsThatShow(title, QFontMetrics(QApplication::font("QMenu")))), parent) {}

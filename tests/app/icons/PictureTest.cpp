@@ -8,6 +8,7 @@
 #include "app/icons/PictureReference.h"
 #include "app/icons/StatusIcon.h"
 #include "app/overlay/MultiplePlayView.h"
+#include "app/overlay/OverlayPanel.h"
 #include "app/overlay/RecorderView.h"
 #include "app/overlay/SplashAnimation.h"
 #include "app/overlay/SplashWindow.h"
@@ -44,6 +45,24 @@ TEST(RecorderViewTest, drawsItsPicture) {
     EXPECT_EQ(image.pixelColor(24, 30).name(), QStringLiteral("#e5484d"));
     EXPECT_EQ(image.pixelColor(200, 30).name(), QStringLiteral("#1e222a"));
     EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "round corners";
+}
+
+TEST(OverlayPanelTest, leavesThePicturesOutlineWhole) {
+    QWidget window;
+    window.resize(RecorderView::pictureSize);
+    shapeAsOverlayPanel(window);
+    const QImage image = painted<RecorderView>(pictures);
+    int visible = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y).alpha() < 160) continue;
+            ++visible;
+            EXPECT_TRUE(window.mask().contains(QPoint(x, y))) << x << ", " << y;
+        }
+    }
+    EXPECT_GT(visible, 420 * 55);
+    EXPECT_FALSE(window.mask().contains(QPoint(0, 0)));
+    EXPECT_FALSE(window.mask().contains(QPoint(419, 59)));
 }
 
 TEST(RecorderViewTest, isBlankWithoutItsPicture) {

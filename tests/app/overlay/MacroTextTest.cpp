@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <set>
+
+#include "app/widgets/MacroSigns.h"
 
 namespace {
 
@@ -47,6 +50,30 @@ TEST(MacroTextTest, tellsOfANewTextAtMostOnceAFrame) {
     QObject::connect(&line, &MacroText::refreshed, [&refreshes] { ++refreshes; });
     for (int key = 0; key < 1000; ++key) line.setText(times("A ", key));
     EXPECT_EQ(refreshes, 1);
+}
+
+TEST(MacroTextTest, canBeReadOnAnyGround) {
+    for (const QColor& ground : {QColor(Qt::white), QColor(Qt::black)}) {
+        MacroText line;
+        line.resize(300, 40);
+        line.setText("A B");
+        QImage image(line.size(), QImage::Format_RGB32);
+        image.fill(ground);
+        line.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+        std::set<QRgb> colours;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) colours.insert(image.pixel(x, y));
+        }
+        EXPECT_TRUE(colours.contains(QColor(0x1e, 0x22, 0x2a).rgb()));
+        EXPECT_TRUE(colours.contains(QColor(Qt::white).rgb()));
+        EXPECT_EQ(image.pixelColor(299, 0), ground) << "but for its words";
+    }
+}
+
+TEST(MacroSignsTest, leaveOutWhatNoFontHas) {
+    const QString text = QStringLiteral("a<⌛ 0.50>b<⌛ 12.00>");
+    EXPECT_EQ(withSignsThatShow(text, [](char32_t) { return true; }), text);
+    EXPECT_EQ(withSignsThatShow(text, [](char32_t sign) { return sign != U'\u231B'; }), "a<0.50>b<12.00>");
 }
 
 }  // namespace
