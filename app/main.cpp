@@ -42,7 +42,10 @@ int main(int argc, char* argv[]) {
     if (wishes.wish == CommandLine::Wish::help) return print(usage(sessionKinds()));
     if (wishes.wish == CommandLine::Wish::version) return print("keyrill " KEYRILL_VERSION "\n");
     const auto session = enterSession(wishes.session);
-    if (!session) return reportFailure(session.error());
+    if (!session) {
+        const auto known = checkOwnOptions(wishes);
+        return reportFailure(known ? session.error() : known.error());
+    }
     avoidHangingSessionBus();
     const QApplication application(argc, argv);
     const CommandLine line = readCommandLine(argumentsOfProgram());

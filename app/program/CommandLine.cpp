@@ -46,6 +46,11 @@ Result<void> checkOptions(const CommandLine& line) {
     return Error{"There is no option \"" + line.unknown.front() + "\".", "keyrill --help lists them."};
 }
 
+Result<void> checkOwnOptions(CommandLine line) {
+    std::erase_if(line.unknown, [](const std::string& option) { return !option.starts_with("--"); });
+    return checkOptions(line);
+}
+
 std::string usage(std::span<const SessionKind> kinds) {
     std::string text =
         "Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs\n"

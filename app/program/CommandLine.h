@@ -34,5 +34,8 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments);
 /// Success if all options are known; else the error names the first one.
 Result<void> checkOptions(const CommandLine& line);
 
+/// The same where there is no toolkit to take its options out: those with one minus are passed over.
+Result<void> checkOwnOptions(CommandLine line);
+
 /// How the program is called, lines with their ends.
 std::string usage(std::span<const SessionKind> kinds);

@@ -38,6 +38,14 @@ TEST_F(WithoutDisplayTest, aKindOfSessionThatThereIsNotIsRefused) {
               "keyrill: There is no kind of session called \"typewriter\". Choose one of these: x11.\n");
 }
 
+TEST_F(WithoutDisplayTest, anUnknownOptionIsToldFirst) {
+    const End end = endOf("--sesion=x11");
+    EXPECT_EQ(end.status, 1);
+    EXPECT_EQ(end.output, "keyrill: There is no option \"--sesion=x11\". keyrill --help lists them.\n");
+    // It may be the toolkit's.
+    EXPECT_TRUE(endOf("-style=fusion").output.starts_with("keyrill: The X server of display "));
+}
+
 class SessionOptionTest : public DesktopTest {};
 
 TEST_F(SessionOptionTest, aNamedSessionIsTheOneThatIsWorkedIn) {

@@ -48,6 +48,12 @@ TEST(CommandLineTest, theFirstUnknownOptionIsNamed) {
     EXPECT_TRUE(checkOptions(readCommandLine({"a"})));
 }
 
+TEST(CommandLineTest, whereThereIsNoToolkitItsOptionsArePassedOver) {
+    EXPECT_TRUE(checkOwnOptions(readCommandLine({"-style", "a"})));
+    EXPECT_EQ(checkOwnOptions(readCommandLine({"-style", "a", "--sesion=x11"})).error(),
+              (Error{R"(There is no option "--sesion=x11".)", "keyrill --help lists them."}));
+}
+
 TEST(CommandLineTest, theUsageListsTheSessions) {
     EXPECT_NE(usage(sessionKinds()).find(" x11\n"), std::string::npos) << usage(sessionKinds());
 }
