@@ -16,7 +16,4 @@ class Workspace {
 
     /// A page or a mail, as a URL with its scheme.
     virtual Result<> openUrl(std::string_view url) = 0;
-
-    /// A file or a folder, by its absolute path.
-    virtual Result<> openFile(std::string_view path) = 0;
 };

@@ -273,10 +273,14 @@ void AppController::sendEmail(std::string_view address, std::string_view subject
     m_helpDesk.sendEmail(address, subject, body);
 }
 
-std::string AppController::systemVersionString() const { return m_services.systemFacts.systemVersion(); }
+std::string AppController::systemVersionString() const {
+    return ::systemVersionString(m_services.systemFacts);
+}
 
 std::string AppController::machineType() const { return ::machineType(m_services.systemFacts); }
 
-std::int32_t AppController::processorClockSpeed() const { return m_services.systemFacts.processorClock(); }
+std::int32_t AppController::processorClockSpeed() const {
+    return ::processorClockSpeed(m_services.systemFacts);
+}
 
-std::uint32_t AppController::countProcessors() const { return m_services.systemFacts.processors(); }
+std::uint32_t AppController::countProcessors() const { return ::countProcessors(m_services.systemFacts); }

@@ -6,11 +6,6 @@ Result<> FakeWorkspace::openUrl(std::string_view url) {
     return open(m_openedUrls, url);
 }
 
-Result<> FakeWorkspace::openFile(std::string_view path) {
-    m_journal.note("openFile", path);
-    return open(m_openedFiles, path);
-}
-
 Result<> FakeWorkspace::open(std::vector<std::string>& opened, std::string_view text) {
     if (const auto error = m_nextError.take()) return *error;
     if (text.find('\0') != std::string_view::npos)

@@ -14,11 +14,9 @@ class FakeWorkspace : public Workspace {
     explicit FakeWorkspace(Journal& journal) : m_journal(journal) {}
 
     Result<> openUrl(std::string_view url) override;
-    Result<> openFile(std::string_view path) override;
 
     /// In order, without those that failed.
     const std::vector<std::string>& openedUrls() const { return m_openedUrls; }
-    const std::vector<std::string>& openedFiles() const { return m_openedFiles; }
     void failNextCall(const Error& error) { m_nextError.set(error); }
 
   private:
@@ -26,6 +24,5 @@ class FakeWorkspace : public Workspace {
 
     Journal& m_journal;
     std::vector<std::string> m_openedUrls;
-    std::vector<std::string> m_openedFiles;
     NextError m_nextError;
 };

@@ -34,5 +34,3 @@ Result<> open(std::string_view text) {
 }  // namespace
 
 Result<> XdgWorkspace::openUrl(std::string_view url) { return open(url); }
-
-Result<> XdgWorkspace::openFile(std::string_view path) { return open(path); }

@@ -9,5 +9,4 @@
 class XdgWorkspace : public Workspace {
   public:
     Result<> openUrl(std::string_view url) override;
-    Result<> openFile(std::string_view path) override;
 };

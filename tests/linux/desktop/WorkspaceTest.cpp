@@ -57,9 +57,6 @@ TEST_F(WorkspaceTest, givesEveryTextAsOneArgumentByteForByte) {
         EXPECT_TRUE(workspace.openUrl(url));
         EXPECT_EQ(receivedText(), "1 " + url);
     }
-    const std::string path = "/home/ann/My macros/100% #1?.keyrill";
-    EXPECT_TRUE(workspace.openFile(path));
-    EXPECT_EQ(receivedText(), "1 " + path);
 }
 
 TEST_F(WorkspaceTest, givesALongMail) {
@@ -126,13 +123,6 @@ TEST_F(PreferredProgramTest, getsPagesAndMailsByteForByte) {
         EXPECT_TRUE(workspace.openUrl(url));
         EXPECT_EQ(receivedText(), "1 " + url);
     }
-}
-
-TEST_F(PreferredProgramTest, getsFiles) {
-    const std::string file = folder.file("two words.txt");
-    std::ofstream(file) << "text\n";
-    EXPECT_TRUE(workspace.openFile(file));
-    EXPECT_EQ(receivedText(), "1 " + file);
 }
 
 }  // namespace
