@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QPropertyAnimation>
+#include <QScreen>
 
 #include "app/AppTest.h"
 #include "app/overlay/MultiplePlayWindow.h"
@@ -218,6 +221,27 @@ TEST_F(AppControllerTest, hasTheHelpMenuInItsOrder) {
               "Documentation, Forum, Product Page, Maker's Website, -, Get Support, Send Feedback, Report a "
               "Bug, -, " +
                   updates + "About Keyrill");
+}
+
+TEST_F(AppControllerTest, aHistoryOf500HasTheNewestFirstAndScrollsToTheOldest) {
+    for (int number = 1; number <= 500; ++number) recordKey(key::returnKey);
+    QMenu& history = *controller.statusMenu.historyMenu;
+    ASSERT_EQ(history.actions().size(), 500);
+    const auto numberOf = [](const QAction* entry) {
+        return dynamic_cast<const MacroMenuItem&>(*entry).macroId();
+    };
+    for (int line = 1; line < 500; ++line)
+        EXPECT_EQ(numberOf(history.actions()[line - 1]), numberOf(history.actions()[line]) + 1);
+    history.popup({0, 0});
+    EXPECT_LE(history.height(), history.screen()->geometry().height());
+    EXPECT_TRUE(history.rect().contains(history.actionGeometry(history.actions().first())));
+    EXPECT_FALSE(history.rect().contains(history.actionGeometry(history.actions().last())));
+    QKeyEvent end(QEvent::KeyPress, Qt::Key_End, Qt::NoModifier);
+    QCoreApplication::sendEvent(&history, &end);
+    EXPECT_TRUE(history.rect().contains(history.actionGeometry(history.actions().last())));
+    history.hide();
+    history.actions().last()->trigger();
+    EXPECT_EQ(state().currentMacro->macroId(), numberOf(history.actions().last()));
 }
 
 }  // namespace
