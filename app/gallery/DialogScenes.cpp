@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -83,7 +82,7 @@ void takeFilePanel(Camera& camera, MacroFilePanel::Kind kind, const QString& fol
     camera.take(panel, QLatin1String(name));
 }
 
-/// Asked by the toolkit from within the panel.
+/// Asked from within the panel.
 void takeReplaceQuestion(Camera& camera, const QString& folder) {
     MacroFilePanel panel(MacroFilePanel::Kind::save, folder);
     panel.move(80, 80);
@@ -91,7 +90,7 @@ void takeReplaceQuestion(Camera& camera, const QString& folder) {
     panel.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QStringLiteral("Greeting"));
     QTimer::singleShot(0, [&camera, &panel] {
         QTimer::singleShot(0, [&camera, &panel] {
-            auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            auto* question = qobject_cast<AlertDialog*>(QApplication::activeModalWidget());
             camera.takeShown({&panel, question}, QStringLiteral("replace"));
             question->close();
         });
