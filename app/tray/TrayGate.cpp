@@ -6,8 +6,9 @@
 #include "platform/DockingTray.h"
 
 namespace {
-/// A panel that has both kinds of tray does not open them at the same moment.
-constexpr std::chrono::milliseconds waitForHosts{500};
+/// A panel that has both kinds of tray does not open them at the same moment. Not so long that the start-up
+/// is over, and with it the busy image, before a docked icon is to be seen.
+constexpr std::chrono::milliseconds waitForHosts{200};
 }  // namespace
 
 TrayGate::TrayGate(DockingTray& dockingTray) : m_dockingTray(dockingTray) {
