@@ -3,10 +3,13 @@
 #include <QLabel>
 
 #include "app/gallery/Camera.h"
+#include "app/gallery/Examples.h"
 #include "app/gallery/Scenes.h"
 #include "app/icons/StatusIcon.h"
+#include "app/tray/MacroMenuItem.h"
 #include "app/tray/MenuState.h"
 #include "app/tray/StatusMenu.h"
+#include "core/Macro.h"
 
 namespace {
 
@@ -54,8 +57,10 @@ void takeMenus(Camera& camera) {
     StatusMenu menu;
     takeMenu(camera, menu, {}, "menu-start");
     takeMenu(camera, menu, {.recording = true, .overlayShown = true}, "menu-recording");
-    for (const char* title : {"⌘A ⌘C ⇥ ⌘V", "⇧H E L L O & B Y E", "F5 W A I T"})
-        menu.historyMenu->addAction(menuTitle(QString::fromUtf8(title)));
+    for (const char* keys : {"^a^c\t^v", "Dear Ann\n", "@d~notes\n"}) {
+        menu.historyMenu->addAction(
+            new MacroMenuItem(QString::fromStdString(recordedMacro(keys)->displayText()), menu.historyMenu));
+    }
     takeMenu(camera, menu, {.hasStopped = true, .hasMacro = true, .hasHistory = true}, "menu");
     takeSubmenu(camera, menu, *menu.historyMenu, "menu-history");
     takeSubmenu(camera, menu, *menu.helpMenu, "menu-help");

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "app/controller/StatusNotice.h"
 #include "app/gallery/Camera.h"
+#include "app/gallery/Examples.h"
 #include "app/gallery/Scenes.h"
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/RecorderWindow.h"
@@ -11,18 +13,35 @@
 #include "app/shortcuts/PreferencesModel.h"
 #include "app/shortcuts/SRRecorderControl.h"
 #include "app/tray/ControlWindow.h"
+#include "app/tray/StatusItem.h"
 #include "app/tray/StatusMenu.h"
+#include "core/Macro.h"
 
 namespace {
 
 constexpr double overlayAlpha = 0.8;
+
+/// A status item of which nothing but its notice is to be seen.
+class ShownNotice : public StatusItem {
+  public:
+    explicit ShownNotice(ControlWindow& window) : m_window(window) {}
+
+    void show(QMenu& /*menu*/, StatusImage /*image*/) override {}
+    void setImage(StatusImage /*image*/) override {}
+    void setNotice(const QString& notice) override { m_window.setNotice(notice); }
+    QWidget* window() override { return &m_window; }
+    void showWindow() override {}
+
+  private:
+    ControlWindow& m_window;
+};
 
 void takePreferences(Camera& camera) {
     PreferencesModel model;
     model.launchOnLogin.setOn(true);
     PreferencesPanel panel(model);
     camera.take(panel, QStringLiteral("preferences"));
-    model.play.setNotice(QStringLiteral("\"Ctrl+Super+P\" is held by another program."));
+    model.play.setNotice(QString::fromStdString(refusedHotKey().error->message));
     model.multiplePlay.setKeyCombo({});
     camera.takeShown({&panel}, QStringLiteral("preferences-notice"));
     panel.findChildren<SRRecorderControl*>().at(1)->startRecording();
@@ -32,11 +51,11 @@ void takePreferences(Camera& camera) {
 void takeOverlay(Camera& camera) {
     RecorderWindow overlay;
     overlay.setWindowOpacity(overlayAlpha);
-    overlay.setMacroString("⇧H E L L O ⇥ W O R L D ↩");
+    overlay.setMacroString(recordedMacro("Hello@a~^c\tDear Ann\n")->fullDisplayText());
     camera.take(overlay, QStringLiteral("overlay"));
-    std::string text;
-    for (int i = 0; i < 5000; ++i) text += "⌃⇧← Page Down A ";
-    overlay.setMacroString(text);
+    std::string keys;
+    for (int i = 0; i < 5000; ++i) keys += "one line of many@s\n";
+    overlay.setMacroString(recordedMacro(keys)->fullDisplayText());
     camera.takeShown({&overlay}, QStringLiteral("overlay-long"));
 }
 
@@ -55,7 +74,8 @@ void takeControlWindow(Camera& camera) {
     camera.take(window, QStringLiteral("control-window"));
     window.setStandsIn(false);
     camera.takeShown({&window}, QStringLiteral("control-window-second-start"));
-    window.setNotice(QStringLiteral("\"Ctrl+Super+P\" is held by another program."));
+    ShownNotice item(window);
+    StatusNotice(item).noteHotKey(3, refusedHotKey());
     camera.takeShown({&window}, QStringLiteral("control-window-notice"));
 }
 

@@ -56,7 +56,8 @@ BEGIN {
     app("program", "app/controller app/dialogs app/tray platform platform/linux platform/script/run" \
                    " platform/sessions")
     app("demonstration", "app/program engine core")
-    app("gallery", "app/program app/dialogs app/icons app/overlay app/panels app/shortcuts app/tray")
+    app("gallery", "app/program app/controller app/dialogs app/icons app/overlay app/panels app/shortcuts" \
+                   " app/tray engine core platform")
     room("app", "app/program", "", "^(boost/|xcb/|X11/|xkbcommon/|wayland)")
     # A program of its own, without a toolkit.
     room("cli", "platform platform/linux platform/script/run platform/script/code platform/script/syntax" \
