@@ -19,14 +19,17 @@ TEST_P(PanelColourTest, theIconIsToBeSeen) {
     if (isInstalled()) desktop.setEnvironment("XDG_DATA_DIRS", KEYRILL_SHARE ":/usr/local/share:/usr/share");
     desktop.startTray(TrayKind::statusNotifier, isDark());
     const Keyrill keyrill(desktop);
-    // An icon that cannot be seen on its ground would have it as its lightest or darkest colour.
+    // What cannot be seen on its ground has no colour that differs much from it.
     constexpr int contrast = 100;
+    constexpr int grey = 128;
     EXPECT_TRUE(eventually([this] {
         const std::optional<ScreenWindow> icon = desktop.tray().icon();
         if (!icon) return false;
-        const Screen::Brightness brightness = desktop.screen().brightness(*icon);
-        return brightness.most - brightness.least >= contrast && (brightness.most > 128) &&
-               (brightness.least < 128);
+        ScreenWindow corner = *icon;
+        corner.width = corner.height = 1;
+        const int ground = desktop.screen().brightness(corner).most;
+        const Screen::Brightness all = desktop.screen().brightness(*icon);
+        return (ground < grey) == isDark() && (isDark() ? all.most - ground : ground - all.least) >= contrast;
     }));
 }
 
