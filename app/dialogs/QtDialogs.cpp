@@ -51,13 +51,14 @@ std::optional<ScriptAnswer> QtDialogs::runScriptDialog(const ScriptDialog& dialo
     looks.start(betweenLooks);
     window.setWindowFlag(Qt::WindowStaysOnTopHint);
     run(window);
-    window.hide();
-    if (m_focus.awaitElsewhere) m_focus.awaitElsewhere(window);
     return window.answer();
 }
 
 int QtDialogs::run(QDialog& dialog) const {
     // Once the loop of the dialog runs, its window is there.
     if (m_focus.take) QTimer::singleShot(0, &dialog, [this, &dialog] { m_focus.take(dialog); });
-    return dialog.exec();
+    const int result = dialog.exec();
+    dialog.hide();
+    if (m_focus.awaitElsewhere) m_focus.awaitElsewhere(dialog);
+    return result;
 }

@@ -40,4 +40,40 @@ TEST_F(AlertTest, theDocumentationIsOpenedAndThenTheProgramEnds) {
     EXPECT_EQ(awaitEnd(), 0);
 }
 
+/// What cannot be loaded, said while a terminal is being typed into.
+class LoadAlertTest : public testing::TestWithParam<WindowManager> {
+  protected:
+    static constexpr const char* title = "No macro was loaded from \"none.keyrill\".";
+
+    LoadAlertTest() {
+        desktop.startBus();
+        desktop.startWindowManager(GetParam());
+        terminal.emplace(desktop.display());
+    }
+    void answerAlert() const {
+        const ScreenWindow alert = desktop.awaitWindow(title);
+        ASSERT_TRUE(eventually([&] { return desktop.hasFocus(alert); }));
+        desktop.press("Return");
+        ASSERT_TRUE(eventually([&] { return !desktop.shows(title) && terminal->hasFocus(); }));
+    }
+
+    Desktop desktop;
+    std::optional<Terminal> terminal;
+};
+
+TEST_P(LoadAlertTest, takesTheKeysAndGivesThemBack) {
+    const std::vector<std::string> command = {KEYRILL_PRODUCT, desktop.file("none.keyrill")};
+    const Child keyrill(command, desktop.options("product.log"));
+    answerAlert();
+    // By a second start, when the program has been running for some time.
+    EXPECT_TRUE(desktop.succeeds(command));
+    answerAlert();
+    desktop.press("period");
+    EXPECT_EQ(terminal->typed(1), ".");
+}
+
+INSTANTIATE_TEST_SUITE_P(WindowManagers, LoadAlertTest,
+                         testing::Values(WindowManager::none, WindowManager::openbox, WindowManager::xfwm4),
+                         nameOfParameter<WindowManager>);
+
 }  // namespace
