@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/dialogs/MacroFilePanel.h"
 
+#include <QAbstractItemView>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLineEdit>
@@ -51,7 +52,7 @@ MacroFilePanel::MacroFilePanel(Kind kind, const QString& folder) {
 
 // The toolkit greys its button without a word.
 void MacroFilePanel::makeNotice() {
-    auto* name = findChild<QLineEdit*>(fileNameField);
+    QLineEdit* name = nameField();
     auto* grid = qobject_cast<QGridLayout*>(layout());
     if (name == nullptr || grid == nullptr) return;
     m_notice = new NoticeLine(this);
@@ -64,8 +65,19 @@ void MacroFilePanel::makeNotice() {
 
 QString MacroFilePanel::path() const { return choice(); }
 
+void MacroFilePanel::beginAnew(const QString& folder) {
+    setDirectory(folder);
+    for (auto* view : findChildren<QAbstractItemView*>()) view->clearSelection();
+    QLineEdit* name = nameField();
+    if (name == nullptr) return;
+    name->clear();
+    name->setFocus();
+}
+
+QLineEdit* MacroFilePanel::nameField() const { return findChild<QLineEdit*>(fileNameField); }
+
 void MacroFilePanel::accept() {
-    auto* name = findChild<QLineEdit*>(fileNameField);
+    QLineEdit* name = nameField();
     if (name != nullptr && !(acceptMode() == AcceptSave ? isToBeSaved(*name) : isToBeLoaded())) return;
     QFileDialog::accept();
 }

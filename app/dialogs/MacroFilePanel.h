@@ -17,6 +17,9 @@ class MacroFilePanel : public QFileDialog {
 
     MacroFilePanel(Kind kind, const QString& folder);
 
+    /// As a new one would be: in that folder, with nothing typed or chosen.
+    void beginAnew(const QString& folder);
+
     /// After it was accepted; empty if nothing was chosen.
     QString path() const;
 
@@ -33,6 +36,9 @@ class MacroFilePanel : public QFileDialog {
     QString choice() const { return selectedFiles().value(0); }
     /// By the program's own alert: the toolkit's shows names as markup.
     bool confirm(const AlertText& text);
+
+    /// Null in a sandbox, where the window is the desktop's.
+    QLineEdit* nameField() const;
 
     NoticeLine* m_notice = nullptr;
 };

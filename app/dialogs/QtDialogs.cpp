@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "app/dialogs/AlertSheet.h"
-#include "app/dialogs/MacroFilePanel.h"
 #include "app/dialogs/ScriptDialogWindow.h"
 
 namespace {
@@ -17,6 +16,7 @@ constexpr std::chrono::milliseconds betweenLooks{50};
 }  // namespace
 
 QtDialogs::QtDialogs(Focus focus) : m_focus(std::move(focus)) {}
+QtDialogs::~QtDialogs() = default;
 
 AlertAnswer QtDialogs::runAlert(const AlertText& text) {
     AlertDialog alert(text);
@@ -32,13 +32,18 @@ void QtDialogs::beginSheet(QWidget& panel, const AlertText& text, DidEnd didEnd)
 }
 
 QString QtDialogs::runSavePanel(const QString& folder) {
-    MacroFilePanel panel(MacroFilePanel::Kind::save, folder);
-    return run(panel) == QDialog::Accepted ? panel.path() : QString();
+    return run(m_savePanel, MacroFilePanel::Kind::save, folder);
 }
 
 QString QtDialogs::runOpenPanel(const QString& folder) {
-    MacroFilePanel panel(MacroFilePanel::Kind::open, folder);
-    return run(panel) == QDialog::Accepted ? panel.path() : QString();
+    return run(m_openPanel, MacroFilePanel::Kind::open, folder);
+}
+
+QString QtDialogs::run(std::unique_ptr<MacroFilePanel>& panel, MacroFilePanel::Kind kind,
+                       const QString& folder) const {
+    if (!panel) panel = std::make_unique<MacroFilePanel>(kind, folder);
+    panel->beginAnew(folder);
+    return run(*panel) == QDialog::Accepted ? panel->path() : QString();
 }
 
 std::optional<ScriptAnswer> QtDialogs::runScriptDialog(const ScriptDialog& dialog,

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include "app/dialogs/Dialogs.h"
+#include "app/dialogs/MacroFilePanel.h"
 
 class QDialog;
 
@@ -20,6 +22,9 @@ class QtDialogs : public Dialogs {
 
     QtDialogs() = default;
     explicit QtDialogs(Focus focus);
+    ~QtDialogs() override;
+    QtDialogs(const QtDialogs&) = delete;
+    QtDialogs& operator=(const QtDialogs&) = delete;
 
     AlertAnswer runAlert(const AlertText& text) override;
     void beginSheet(QWidget& panel, const AlertText& text, DidEnd didEnd) override;
@@ -30,6 +35,11 @@ class QtDialogs : public Dialogs {
 
   private:
     int run(QDialog& dialog) const;
+    QString run(std::unique_ptr<MacroFilePanel>& panel, MacroFilePanel::Kind kind,
+                const QString& folder) const;
 
     Focus m_focus;
+    /// Made when they are first asked for, and kept: the toolkit caches some of each new one's pictures.
+    std::unique_ptr<MacroFilePanel> m_savePanel;
+    std::unique_ptr<MacroFilePanel> m_openPanel;
 };

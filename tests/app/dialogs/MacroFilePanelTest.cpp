@@ -2,6 +2,7 @@
 #include "app/dialogs/MacroFilePanel.h"
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 #include <QApplication>
 #include <QDir>
@@ -132,6 +133,44 @@ TEST_F(MacroFilePanelTest, loadsAFileThatIsThere) {
 }
 
 TEST_F(MacroFilePanelTest, isCancelledByClosingIt) { EXPECT_EQ(savedAs(QString()), QString()); }
+
+TEST_F(MacroFilePanelTest, beginsAnewEachTime) {
+    makeFile("there.keyrill");
+    EXPECT_EQ(loadedFrom(QStringLiteral("there.keyrill")), inFolder("there.keyrill"));
+    const TemporaryFolder other;
+    const QString place = QString::fromStdString(other.path());
+    QTimer::singleShot(0, [&place] {
+        auto* panel = qobject_cast<MacroFilePanel*>(QApplication::activeModalWidget());
+        ASSERT_NE(panel, nullptr);
+        auto* name = panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        EXPECT_EQ(panel->directory().absolutePath(), place);
+        EXPECT_EQ(name->text(), QString());
+        EXPECT_EQ(panel->focusWidget(), name);
+        panel->close();
+    });
+    EXPECT_EQ(dialogs.runOpenPanel(place), QString());
+}
+
+TEST_F(MacroFilePanelTest, takesNoMoreMemoryEachTime) {
+    const auto lookAndClose = [] {
+        auto* panel = QApplication::activeModalWidget();
+        ASSERT_NE(panel, nullptr);
+        panel->grab();
+        panel->close();
+    };
+    const auto cycles = [&](int count) {
+        for (int number = 0; number < count; ++number) {
+            QTimer::singleShot(0, lookAndClose);
+            dialogs.runSavePanel(folderPath());
+            QTimer::singleShot(0, lookAndClose);
+            dialogs.runOpenPanel(folderPath());
+        }
+        return mallinfo2().uordblks;
+    };
+    const std::size_t before = cycles(3);
+    constexpr std::size_t kibibyte = 1024;
+    EXPECT_LT(cycles(15), before + 40 * kibibyte);
+}
 
 TEST_F(MacroFilePanelTest, showsMacrosAndFoldersOnly) {
     const MacroFilePanel panel(MacroFilePanel::Kind::open, folderPath());
