@@ -2,6 +2,7 @@
 #include "app/dialogs/MacroFilePanel.h"
 
 #include <QAbstractItemView>
+#include <QCompleter>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLineEdit>
@@ -48,6 +49,7 @@ MacroFilePanel::MacroFilePanel(Kind kind, const QString& folder) {
         setAcceptMode(AcceptOpen);
         setFileMode(ExistingFile);
     }
+    if (nameField() != nullptr) m_completer = nameField()->completer();
 }
 
 // The toolkit greys its button without a word.
@@ -71,7 +73,17 @@ void MacroFilePanel::beginAnew(const QString& folder) {
     QLineEdit* name = nameField();
     if (name == nullptr) return;
     name->clear();
+    name->setCompleter(m_completer);
     name->setFocus();
+}
+
+void MacroFilePanel::done(int result) {
+    QFileDialog::done(result);
+    if (m_completer == nullptr) return;
+    // It would offer names as soon as one appears in the folder, the saved one for example, and hold the
+    // keyboard.
+    m_completer->popup()->hide();
+    nameField()->setCompleter(nullptr);
 }
 
 QLineEdit* MacroFilePanel::nameField() const { return findChild<QLineEdit*>(fileNameField); }

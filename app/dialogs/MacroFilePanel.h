@@ -4,6 +4,7 @@
 #include <QFileDialog>
 
 class NoticeLine;
+class QCompleter;
 class QLineEdit;
 struct AlertText;
 
@@ -26,6 +27,8 @@ class MacroFilePanel : public QFileDialog {
   protected:
     /// Goes into a folder; else takes the file if it is one to save to or to load from, or tells why not.
     void accept() override;
+    /// Nothing of the panel is on the screen afterwards.
+    void done(int result) override;
 
   private:
     void makeNotice();
@@ -41,4 +44,6 @@ class MacroFilePanel : public QFileDialog {
     QLineEdit* nameField() const;
 
     NoticeLine* m_notice = nullptr;
+    /// What completes a name; null in a sandbox.
+    QCompleter* m_completer = nullptr;
 };
