@@ -71,6 +71,7 @@ function(keyrill_room target)
     if(room_SOURCES)
         add_library(${target} STATIC ${room_SOURCES})
         keyrill_compile_options(${target})
+        keyrill_harden(${target})
         target_include_directories(${target} PUBLIC "${view}" PRIVATE "${view}_private")
         target_link_libraries(${target} PUBLIC ${room_USES} PRIVATE ${room_PRIVATE_USES})
         # For keyrill_inside.
