@@ -82,6 +82,7 @@ void MacroFilePanel::done(int result) {
     if (m_completer == nullptr) return;
     // It would offer names as soon as one appears in the folder, the saved one for example, and hold the
     // keyboard.
+    m_completer->setCompletionPrefix(QString());
     m_completer->popup()->hide();
     nameField()->setCompleter(nullptr);
 }
