@@ -3,6 +3,7 @@
 
 void FakeClock::sleepFor(Seconds duration) {
     m_sleeps.push_back(duration);
+    if (m_hook) m_hook();
     if (duration.count() > 0) advance(duration);
 }
 

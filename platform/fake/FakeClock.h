@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "platform/Clock.h"
@@ -15,6 +17,9 @@ class FakeClock : public Clock {
 
     void advance(Seconds duration);
 
+    /// What happens while somebody sleeps, before the clock is turned on.
+    void duringEachSleep(std::function<void()> hook) { m_hook = std::move(hook); }
+
     /// All that was slept, in order.
     const std::vector<Seconds>& sleeps() const { return m_sleeps; }
 
@@ -22,4 +27,5 @@ class FakeClock : public Clock {
     /// Not the epoch, so that a time that was never set is seen.
     Time m_now = Time(std::chrono::hours(24));
     std::vector<Seconds> m_sleeps;
+    std::function<void()> m_hook;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,7 @@ class FakeController : public SharedController {
         m_journal.note("setMacroString", text);
     }
     void showRecordingGui() override {
-        m_journal.note("showRecordingGui");
+        note("showRecordingGui");
         if (m_followsUpdateNotice) {
             cancelRecording();
             return;
@@ -30,14 +31,16 @@ class FakeController : public SharedController {
         m_overlayText.clear();
         restartLastEventTime();
     }
-    void hideRecordingGui() override { m_journal.note("hideRecordingGui"); }
-    void showMultiplePlayGui() override { m_journal.note("showMultiplePlayGui"); }
+    void hideRecordingGui() override { note("hideRecordingGui"); }
+    void showMultiplePlayGui() override { note("showMultiplePlayGui"); }
     void currentMacroChanged() override { m_journal.note("currentMacroChanged"); }
     void addMacro(const boost::shared_ptr<Macro>& macro) override {
         m_history.push_back(macro);
         m_journal.note("addMacro", macro->displayText());
     }
 
+    /// What happens while a window is shown or hidden.
+    void duringEachChange(std::function<void()> hook) { m_hook = std::move(hook); }
     /// Whether the user answers the update notice at the start of a recording by going to the download page.
     void setFollowsUpdateNotice(bool follows) { m_followsUpdateNotice = follows; }
 
@@ -50,7 +53,13 @@ class FakeController : public SharedController {
     const std::vector<boost::shared_ptr<Macro>>& history() const { return m_history; }
 
   private:
+    void note(const char* message) {
+        m_journal.note(message);
+        if (m_hook) m_hook();
+    }
+
     Journal& m_journal;
+    std::function<void()> m_hook;
     bool m_followsUpdateNotice = false;
     std::string m_overlayText;
     std::vector<boost::shared_ptr<Macro>> m_history;

@@ -75,6 +75,16 @@ TEST_F(MacroPlayerTest, commandsClearTheMarks) {
     }
 }
 
+TEST_F(MacroPlayerTest, commandsClearTheMarksAfterTheUserInterfaceHasFollowed) {
+    std::vector<bool> marks;
+    gui.duringEachChange([&] { marks.push_back(tableIsMarked()); });
+    for (void (*command)() : {&toggleRecording, &stopRecording, &promptMultiplePlay}) {
+        markTable();
+        command();
+    }
+    EXPECT_EQ(marks, (std::vector<bool>{true, true, true}));
+}
+
 TEST_F(MacroPlayerTest, multiplePlayAsksAndDoesNotPlay) {
     state().currentMacro = macroWithScript("beep");
     promptMultiplePlay();

@@ -3,6 +3,7 @@
 
 #include "app/AppTest.h"
 #include "app/controller/TildeExpansion.h"
+#include "app/panels/PreferencesPanel.h"
 #include "support/Keys.h"
 
 namespace {
@@ -75,6 +76,19 @@ TEST_F(MacroFilesTest, doesNothingWithoutAMacroToSave) {
     save();
     EXPECT_TRUE(dialogs.filePanels.empty());
     EXPECT_EQ(platform().macroFiles.preparations(), 0);
+}
+
+TEST_F(MacroFilesTest, bringsBackWhatAPlayHasHiddenBeforeItAsks) {
+    recordKey();
+    for (void (AppController::*command)(QObject*) : {&AppController::saveMacro, &AppController::loadMacro}) {
+        controller.showPreferences(nullptr);
+        controller.hide();
+        ASSERT_FALSE(controller.preferencesWindow()->isVisible());
+        std::vector<bool> visible;
+        dialogs.whileOpen([&] { visible.push_back(controller.preferencesWindow()->isVisible()); });
+        (controller.*command)(nullptr);
+        EXPECT_EQ(visible, std::vector<bool>{true});
+    }
 }
 
 TEST_F(MacroFilesTest, ignoresSaveAndLoadWhileRecording) {

@@ -39,6 +39,15 @@ class StartUpTest : public AppTest {
         }
         return intervals;
     }
+
+    /// As if that time had passed for the running timer of that interval.
+    void runDown(int interval) const {
+        for (QTimer* timer : controller.findChildren<QTimer*>()) {
+            if (!timer->isActive() || timer->interval() != interval) continue;
+            QTimerEvent event(timer->timerId());
+            QCoreApplication::sendEvent(timer, &event);
+        }
+    }
 };
 
 /// Starts up on the fake platform and writes down what is asked of it.
@@ -148,6 +157,23 @@ TEST_F(StartUpTest, runsTheTimersOfTheSplashAndOfTheScriptingService) {
     EXPECT_EQ(timers(), (std::vector<int>{500, 30000}));
     EXPECT_TRUE(controller.timer.isSingleShot());
     EXPECT_TRUE(runs().empty());
+}
+
+TEST_F(StartUpTest, refreshesTheScriptingServiceEachTimeThatItsTimerRunsDown) {
+    controller.awakeFromNib();
+    runDown(30000);
+    runDown(30000);
+    EXPECT_EQ(runs(), (std::vector<std::string>{"", ""}));
+}
+
+TEST_F(StartUpTest, runsTheSplashWhenItsTimerRunsDown) {
+    platform().settings.put("notFirstRun", 1);
+    controller.awakeFromNib();
+    platform().settings.addFault({"The disk is full.", ""});
+    runDown(500);
+    // The splash tells what nobody was told.
+    ASSERT_EQ(dialogs.alerts.size(), 1U);
+    EXPECT_EQ(dialogs.alerts[0].message, "The disk is full.");
 }
 
 TEST_F(StartUpTest, leavesTheSplashOutWhenToldSo) {

@@ -2,6 +2,7 @@
 #include <QPropertyAnimation>
 
 #include "app/AppTest.h"
+#include "app/overlay/MacroText.h"
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/RecorderWindow.h"
 #include "app/overlay/SplashAnimation.h"
@@ -85,6 +86,25 @@ TEST_F(OverlaysTest, fadesTheOverlayInWhenARecordingStarts) {
     EXPECT_EQ(state().lastEventTime, platform().clock.now());
 }
 
+TEST_F(OverlaysTest, fadesThePromptInToTheSameOpacity) {
+    controller.showMultiplePlayGui();
+    EXPECT_TRUE(isFadingIn(*controller.multiplePlayWindow()));
+    EXPECT_FLOAT_EQ(fadeEnd(*controller.multiplePlayWindow()), 0.8F);
+}
+
+TEST_F(OverlaysTest, showsTheKeysOfTheRecordingAndNoneOfTheOneBefore) {
+    controller.recordMacro(nullptr);
+    const auto* text = overlay().findChild<MacroText*>();
+    ASSERT_NE(text, nullptr);
+    type(key::returnKey);
+    EXPECT_EQ(text->text(), QStringLiteral("↩"));
+    type(key::one);
+    EXPECT_EQ(text->text(), QStringLiteral("↩1"));
+    controller.stopMacro(nullptr);
+    controller.recordMacro(nullptr);
+    EXPECT_EQ(text->text(), QString());
+}
+
 TEST_F(OverlaysTest, takesTheOverlayAwayWhenTheRecordingEnds) {
     controller.recordMacro(nullptr);
     controller.stopMacro(nullptr);
@@ -152,6 +172,21 @@ TEST_F(OverlaysTest, hidesThePanelsThatAreShownDuringAMultiplePlayAndBringsThemB
     EXPECT_EQ(windows.calls(), std::vector<std::string>{"awaitFocusElsewhere(hidden)"});
     EXPECT_FALSE(state().hotKeysEnabled);
     EXPECT_TRUE(platform().settings.keysSet().empty());
+}
+
+TEST_F(OverlaysTest, hidesThePanelsAndThePromptBeforeTheHalfSecondThatTheDesktopGets) {
+    state().currentMacro = macroWithScript("script");
+    controller.showPreferences(nullptr);
+    controller.showMultiplePlayGui();
+    std::vector<bool> visible;
+    platform().clock.duringEachSleep([&] {
+        visible.push_back(controller.preferencesWindow()->isVisible());
+        visible.push_back(controller.multiplePlayWindow()->isVisible());
+    });
+    platform().scripting.duringEachRun([this] { platform().clock.duringEachSleep({}); });
+    controller.doMultiplePlay(nullptr);
+    EXPECT_EQ(visible, (std::vector<bool>{false, false}));
+    EXPECT_EQ(platform().clock.sleeps().front(), Clock::Seconds(0.5));
 }
 
 TEST_F(OverlaysTest, leavesAMinimisedPanelMinimised) {
