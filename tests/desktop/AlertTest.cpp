@@ -1,4 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
 #include "desktop/DesktopTest.h"
 #include "display/NestedServers.h"
 #include "support/Keys.h"
@@ -10,10 +14,21 @@ class AlertTest : public testing::Test {
   protected:
     AlertTest() {
         desktop.startWindowManager();
+        putBrowser();
         // Nobody's hot key tells here that the program is ready.
         program.emplace(std::vector<std::string>{KEYRILL_PRODUCT}, desktop.options("product.log"));
         desktop.awaitFocus("The X server must have the XTEST extension, but it has not.");
     }
+
+    /// What opens pages here writes down what it was given.
+    void putBrowser() {
+        const std::string file = desktop.file("xdg-open");
+        std::ofstream(file) << "#!/bin/sh\nprintf '%s\\n' \"$@\" >" << desktop.file("pages") << "\n";
+        std::filesystem::permissions(file, std::filesystem::perms::owner_all);
+        const std::filesystem::path folder = std::filesystem::path(file).parent_path();
+        desktop.setEnvironment("PATH", folder.string() + ":" + std::getenv("PATH"));
+    }
+    std::string pages() const { return contentOf(desktop.file("pages")); }
 
     /// The exit status. The program is silent while its alert is open, so nobody but this wakes the inner
     /// server when it sleeps on a key.
@@ -33,11 +48,15 @@ class AlertTest : public testing::Test {
 TEST_F(AlertTest, quitEndsTheProgram) {
     servers.user().tap(xkey::escape);
     EXPECT_EQ(awaitEnd(), 0);
+    EXPECT_EQ(pages(), "");
 }
 
 TEST_F(AlertTest, theDocumentationIsOpenedAndThenTheProgramEnds) {
     servers.user().tap(xkey::returnKey);
     EXPECT_EQ(awaitEnd(), 0);
+    EXPECT_TRUE(eventually([this] { return !pages().empty(); }));
+    // One page, the manual that is installed with the program.
+    EXPECT_TRUE(testing::internal::RE::FullMatch(pages(), "file:///.+/manual/index\\.html\n")) << pages();
 }
 
 /// What cannot be loaded, said while a terminal is being typed into.

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "platform/x11/server/XConnection.h"
+#include "support/Keys.h"
 
 namespace {
 
@@ -34,17 +35,11 @@ std::string unusedName(const Desktop& desktop, const std::string& name) {
     return name + std::to_string(number);
 }
 
-std::vector<std::string> commandWith(const std::vector<std::string>& arguments) {
-    std::vector<std::string> command = {KEYRILL_PROGRAM};
-    command.insert(command.end(), arguments.begin(), arguments.end());
-    return command;
-}
-
-std::vector<std::string> argumentsFor(const Desktop& desktop, const std::string& script) {
-    if (script.empty()) return {};
+std::vector<std::string> commandFor(const Desktop& desktop, const std::string& script) {
+    if (script.empty()) return {KEYRILL_PRODUCT};
     const std::string file = desktop.file("script");
     std::ofstream(file, std::ios::binary) << script;
-    return {file};
+    return {KEYRILL_PRODUCT, file};
 }
 
 }  // namespace
@@ -205,39 +200,10 @@ std::vector<std::string> Desktop::keysDown() const {
 }
 
 Keyrill::Keyrill(const Desktop& desktop, const std::string& script)
-    : Keyrill(desktop, argumentsFor(desktop, script)) {}
-
-Keyrill::Keyrill(const Desktop& desktop, const std::vector<std::string>& arguments)
     : m_log(desktop.file(unusedName(desktop, "keyrill.log"))),
-      m_child(commandWith(arguments), desktop.options(std::filesystem::path(m_log).filename())) {
-    awaitOrThrow("Keyrill", [this] { return output().find("-- ready\n") != std::string::npos; });
+      m_child(commandFor(desktop, script), desktop.options(std::filesystem::path(m_log).filename())) {
+    // The last one that it takes.
+    awaitOrThrow("Keyrill", [&] { return desktop.isHotKeyTaken(xkey::m); });
 }
 
 std::string Keyrill::output() const { return contentOf(m_log); }
-
-std::string Keyrill::script(std::size_t number) const {
-    const std::string beginning = "-- recorded\n";
-    const std::string end = "-- end\n";
-    std::string found;
-    awaitOrThrow("the script of a recording", [&] {
-        const std::string text = output();
-        std::size_t start = 0;
-        for (std::size_t i = 0; i < number; ++i) {
-            start = text.find(beginning, start);
-            if (start == std::string::npos) return false;
-            start += beginning.size();
-        }
-        const std::size_t stop = text.find(end, start);
-        if (stop == std::string::npos) return false;
-        found = text.substr(start, stop - start);
-        return true;
-    });
-    return found;
-}
-
-std::size_t Keyrill::keyLines(const std::string& script) {
-    std::size_t count = 0;
-    for (const std::string& line : linesOf(script))
-        count += line.find("key code (") != std::string::npos ? 1 : 0;
-    return count;
-}

@@ -109,19 +109,15 @@ class Desktop {
     std::unique_ptr<TrayHost> m_tray;
 };
 
-/// The program under test, ready for hot keys when constructed.
+/// The program as people get it, ready for hot keys when constructed.
 class Keyrill {
   public:
-    /// With the text as the script to play, if it is not empty.
+    /// With the text as the macro to play, from a file, if it is not empty.
     explicit Keyrill(const Desktop& desktop, const std::string& script = {});
-    Keyrill(const Desktop& desktop, const std::vector<std::string>& arguments);
 
     Child& child() { return m_child; }
+    /// What it has written on its standard output and error.
     std::string output() const;
-    /// Waits for the n-th recording's end; its script.
-    std::string script(std::size_t number = 1) const;
-    /// The number of "key code" lines of a script.
-    static std::size_t keyLines(const std::string& script);
 
   private:
     std::string m_log;

@@ -50,7 +50,6 @@ TEST_P(LayoutTest, playsWhatWasTyped) {
     record();
     typeKeys();
     stop();
-    keyrill.script();
     ASSERT_EQ(terminal.typed(2 * typed.size() + end.size()), typed + end + typed);
     play();
     EXPECT_EQ(terminal.typed(3 * typed.size() + end.size()), typed + end + typed + typed);

@@ -17,7 +17,6 @@ TEST_F(LongMacroTest, aMacroOfTwentyThousandKeysArrivesWhole) {
     hands.finish();
     const std::string typed = terminal.typed(count, std::chrono::seconds(60));
     stop();
-    EXPECT_EQ(Keyrill::keyLines(keyrill.script()), count);
     play();
     // Each key is followed by a pause of 10 ms.
     EXPECT_TRUE(terminal.typed(2 * count, std::chrono::seconds(400)) == typed + typed);

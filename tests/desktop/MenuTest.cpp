@@ -2,6 +2,7 @@
 #include <tuple>
 
 #include "desktop/DesktopTest.h"
+#include "desktop/SavedMacro.h"
 #include "desktop/StatusMenuClicks.h"
 
 namespace {
@@ -25,9 +26,10 @@ class MenuTest : public testing::TestWithParam<std::tuple<TrayKind, WindowManage
 
     void record(const std::string& key) {
         desktop.press("ctrl+super+r");
+        desktop.awaitWindow(title::overlay);
         desktop.press(key);
         desktop.press("ctrl+super+s");
-        keyrill->script(++recordings);
+        ASSERT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
     }
     /// Waits until everything has been typed that was, and then that.
     void expectTyped(const std::string& text) {
@@ -47,7 +49,6 @@ class MenuTest : public testing::TestWithParam<std::tuple<TrayKind, WindowManage
     std::optional<Terminal> terminal;
     std::optional<Keyrill> keyrill;
     std::optional<StatusMenuClicks> menu;
-    std::size_t recordings = 0;
     std::string typed;
 };
 
@@ -118,8 +119,8 @@ TEST_F(OwnMenuTest, itsKeysAreNotRecorded) {
     ASSERT_TRUE(eventually([&] { return !menu.isOpen(); }));
     press("z");
     stop();
-    const std::string script = keyrill.script();
-    EXPECT_EQ(Keyrill::keyLines(script), 3U) << script;
+    const std::string script = savedMacro(desktop);
+    EXPECT_EQ(keyLines(script), 3U) << script;
     EXPECT_NE(script.find("delay"), std::string::npos) << script;
     EXPECT_EQ(terminal.typed(3), "xyz");
     press("ctrl+super+r");

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "desktop/DesktopTest.h"
+#include "desktop/SavedMacro.h"
 #include "desktop/StatusMenuClicks.h"
 #include "display/CoreClient.h"
 
@@ -56,7 +57,7 @@ TEST(PauseTest, aSavedPauseIsPlayedAsLongAsItWas) {
     hands.stroke({xkey::control, xkey::super, xkey::s});
     hands.finish();
 
-    const std::string script = keyrill.script();
+    const std::string script = savedMacro(desktop);
     const std::size_t first = script.find("delay ", script.find("delay 0.01\n") + 1);
     ASSERT_NE(first, std::string::npos);
     const Milliseconds saved(std::lround(1000 * std::stod(script.substr(first + 6))));

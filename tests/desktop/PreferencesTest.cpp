@@ -91,7 +91,8 @@ TEST_F(PreferencesTest, withoutPresetsTheFieldsBecomeTheHotKeysWhenThePanelClose
     std::filesystem::remove_all(desktop.home() + "/.config");
     std::filesystem::create_directories(desktop.file("empty"));
     desktop.setEnvironment("XDG_CONFIG_DIRS", desktop.file("empty"));
-    start();
+    // No hot key tells that it is ready.
+    const Child unset({KEYRILL_PRODUCT}, desktop.options("product.log"));
     desktop.awaitWindow(title::welcome);
     for (const std::uint8_t keycode : {xkey::r, xkey::s, xkey::p, xkey::m})
         EXPECT_FALSE(desktop.isHotKeyTaken(keycode));

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/DesktopTest.h"
+#include "desktop/SavedMacro.h"
 
 namespace {
 
 class RecordAndPlayTest : public DesktopTest {
   protected:
+    RecordAndPlayTest() { desktop.startTray(); }
+
     Terminal terminal{desktop.display()};
     Keyrill keyrill{desktop};
     Hands hands{desktop.display()};
@@ -20,7 +23,7 @@ TEST_F(RecordAndPlayTest, theTerminalReceivesThePlayedKeysAsTheyWereTyped) {
     const std::string typed = terminal.typed(typedText.size() + 1);
     EXPECT_EQ(typed.substr(0, typedText.size()), typedText);
     stop();
-    EXPECT_EQ(Keyrill::keyLines(keyrill.script()), 20U);
+    EXPECT_EQ(keyLines(savedMacro(desktop)), 20U);
 
     play();
     terminal.typed(2 * typed.size());
@@ -32,7 +35,7 @@ TEST_F(RecordAndPlayTest, theScriptHoldsNothingOfTheHotKeys) {
     record();
     press("a");
     stop();
-    EXPECT_EQ(keyrill.script(),
+    EXPECT_EQ(savedMacro(desktop),
               R"(tell application "System Events"
 	key code (0) using {}
 delay 0.01
@@ -46,7 +49,6 @@ TEST_F(RecordAndPlayTest, aPlayLeavesNoKeyDownAndNoLockChanged) {
     record();
     press("shift+a");
     stop();
-    keyrill.script();
     play();
     EXPECT_EQ(terminal.typed(2), "AA");
     press("period");
@@ -60,7 +62,8 @@ TEST_F(RecordAndPlayTest, theSecondRecordKeyEndsTheRecordingToo) {
     record();
     press("a");
     record();
-    EXPECT_EQ(Keyrill::keyLines(keyrill.script()), 1U);
+    play();
+    EXPECT_EQ(terminal.typed(2), "aa");
 }
 
 TEST_F(RecordAndPlayTest, twentyThousandKeysFlatOutAreRecordedInOrder) {
@@ -78,8 +81,8 @@ TEST_F(RecordAndPlayTest, twentyThousandKeysFlatOutAreRecordedInOrder) {
     hands.finish();
     stop();
     // Too long to be printed.
-    EXPECT_TRUE(keyrill.script() == expected + "end tell\n")
-        << Keyrill::keyLines(keyrill.script()) << " keys";
+    const std::string script = savedMacro(desktop);
+    EXPECT_TRUE(script == expected + "end tell\n") << keyLines(script) << " keys";
 }
 
 TEST_F(RecordAndPlayTest, aMacroOfTwoThousandKeysArrivesWhole) {
@@ -89,7 +92,6 @@ TEST_F(RecordAndPlayTest, aMacroOfTwoThousandKeysArrivesWhole) {
     hands.finish();
     const std::string typed = terminal.typed(count);
     stop();
-    keyrill.script();
     play();
     EXPECT_EQ(terminal.typed(2 * count, std::chrono::seconds(90)), typed + typed);
 }

@@ -4,7 +4,7 @@
 #include <fstream>
 
 #include "desktop/DesktopTest.h"
-#include "desktop/StatusMenuClicks.h"
+#include "desktop/SavedMacro.h"
 #include "display/Typist.h"
 #include "platform/Utf8.h"
 
@@ -62,16 +62,7 @@ TEST_F(ScriptMacroTest, aRecordedMacroThatWasEditedByHandTypesWhatItSays) {
         record();
         desktop.run({"xdotool", "type", "ab"});
         stop();
-        recorded = keyrill.script();
-        StatusMenuClicks menu(desktop);
-        menu.open();
-        constexpr int saveEntry = 5;
-        menu.chooseByKeys(saveEntry);
-        giveFocus(title::savePanel);
-        desktop.run({"xdotool", "type", "typed"});
-        press("Return");
-        ASSERT_TRUE(eventually(
-            [&] { return contentOf(desktop.home() + "/.local/share/keyrill/typed.keyrill") == recorded; }));
+        recorded = savedMacro(desktop);
     }
     ASSERT_EQ(terminal->typed(2), "ab");
     const std::string file = fileWith("edited.keyrill",

@@ -34,8 +34,8 @@ INSTANTIATE_TEST_SUITE_P(Signals, SignalTest, testing::Values(SIGTERM, SIGINT, S
 
 TEST(DemonstrationTest, recordsAndPlaysTheSame) {
     const TemporaryFolder folder;
-    const std::string output =
-        outputOf({std::string(KEYRILL_TOOLS) + "/demonstrate", KEYRILL_PROGRAM, folder.file("picture.png")});
+    const std::string output = outputOf(
+        {std::string(KEYRILL_TOOLS) + "/demonstrate", KEYRILL_DEMONSTRATION, folder.file("picture.png")});
     EXPECT_NE(output.find("\nIdentical.\n"), std::string::npos) << output;
     for (const char* name : {"picture.png", "picture-menu.png", "picture-history.png", "picture-played.png"})
         EXPECT_EQ(outputOf({"identify", "-format", "%wx%h", folder.file(name)}), "1280x800");
