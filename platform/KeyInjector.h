@@ -62,8 +62,9 @@ class InjectionSession {
   public:
     virtual ~InjectionSession() = default;
 
-    /// Modifiers down, key down, key up, modifiers up. A code without a key plays nothing; the power key is
-    /// an error.
+    /// Modifiers down, key down, key up, modifiers up. Control, Alt or Super come up a moment later, with all
+    /// that is held with them; where a stroke with the same ones follows they stay down. A code without a key
+    /// plays nothing; the power key is an error.
     virtual Step<> stroke(std::uint32_t keyCode, std::uint32_t modifiers) = 0;
 
     /// Types the characters of a UTF-8 text, the modifiers held over each. Line feed and carriage return are
@@ -115,4 +116,8 @@ class KeyInjector {
     /// them, what the run holds is up. The next step that presses a key takes over again, and holds again
     /// what was held. Nothing where no session is open.
     virtual void rest() {}
+
+    /// The run is going to do something else than to press keys: what its last stroke has left down for a
+    /// moment is up afterwards. What the script holds stays down. Nothing where no session is open.
+    virtual void settle() {}
 };

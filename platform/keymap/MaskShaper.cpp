@@ -69,11 +69,7 @@ class Shaper {
     }
 
   private:
-    /// Control, Alt and Super, as far as they do not choose a level too.
-    xkb_mod_mask_t commandMask() const {
-        return (m_masks.control | m_masks.option | m_masks.command) &
-               ~(m_masks.shift | m_masks.locks() | m_masks.thirdLevel | m_masks.fifthLevel);
-    }
+    xkb_mod_mask_t commandMask() const { return m_masks.commands(); }
     bool shiftHeld() const { return (m_modifiers & m_masks.shift) != 0; }
 
     xkb_keysym_t symbol(xkb_mod_mask_t modifiers) const {

@@ -21,6 +21,10 @@ struct ModifierMasks {
     xkb_mod_mask_t fifthLevel = 0;
 
     xkb_mod_mask_t locks() const { return capsLock | numLock | scrollLock; }
+    /// Control, Alt and Super, as far as they do not choose a level too.
+    xkb_mod_mask_t commands() const {
+        return (control | option | command) & ~(shift | locks() | thirdLevel | fifthLevel);
+    }
 
     friend bool operator==(const ModifierMasks&, const ModifierMasks&) = default;
 };

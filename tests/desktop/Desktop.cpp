@@ -35,6 +35,24 @@ std::string unusedName(const Desktop& desktop, const std::string& name) {
     return name + std::to_string(number);
 }
 
+std::vector<std::string> commandOf(WindowManager manager) {
+    switch (manager) {
+        case WindowManager::none:
+            break;
+        case WindowManager::openbox:
+            return {"openbox", "--sm-disable"};
+        case WindowManager::xfwm4:
+            return {"xfwm4", "--compositor=off"};
+        case WindowManager::fluxbox:
+            return {"fluxbox"};
+        case WindowManager::jwm:
+            return {"jwm"};
+        case WindowManager::icewm:
+            return {"icewm"};
+    }
+    return {};
+}
+
 std::vector<std::string> commandFor(const Desktop& desktop, const std::string& script) {
     if (script.empty()) return {KEYRILL_PRODUCT};
     const std::string file = desktop.file("script");
@@ -99,10 +117,12 @@ SessionBus& Desktop::startBus() {
 void Desktop::startWindowManager(WindowManager manager) {
     if (manager == WindowManager::none) return;
     if (manager == WindowManager::xfwm4 && !m_bus) startBus();
-    const std::vector<std::string> command = manager == WindowManager::openbox
-                                                 ? std::vector<std::string>{"openbox", "--sm-disable"}
-                                                 : std::vector<std::string>{"xfwm4", "--compositor=off"};
-    m_manager = std::make_unique<Child>(command, hostOptions("manager.log"));
+    if (manager == WindowManager::icewm) {
+        // Its own use of Super leaves no other program any combination with it.
+        std::filesystem::create_directories(m_folder.file("host/.icewm"));
+        std::ofstream(m_folder.file("host/.icewm/preferences")) << "Win95Keys=0\nModSuperIsCtrlAlt=0\n";
+    }
+    m_manager = std::make_unique<Child>(commandOf(manager), hostOptions("manager.log"));
     awaitOrThrow("the window manager", [this] {
         return run({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}).find("0x") != std::string::npos;
     });

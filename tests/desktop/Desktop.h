@@ -28,7 +28,7 @@ inline constexpr const char* savePanel = "Save Macro";
 inline constexpr const char* loadPanel = "Load Macro";
 }  // namespace title
 
-enum class WindowManager { none, openbox, xfwm4 };
+enum class WindowManager { none, openbox, xfwm4, fluxbox, jwm, icewm };
 
 /// A desktop of its own for one test: a home folder with the preset hot keys, and on a display a window
 /// manager, a tray and whatever programs the test starts. There is a session bus only where the test, the

@@ -11,8 +11,21 @@
 
 inline std::string nameOf(TrayKind kind) { return kind == TrayKind::docking ? "docking" : "statusNotifier"; }
 inline std::string nameOf(WindowManager manager) {
-    if (manager == WindowManager::none) return "unmanaged";
-    return manager == WindowManager::openbox ? "openbox" : "xfwm4";
+    switch (manager) {
+        case WindowManager::none:
+            return "unmanaged";
+        case WindowManager::openbox:
+            return "openbox";
+        case WindowManager::xfwm4:
+            return "xfwm4";
+        case WindowManager::fluxbox:
+            return "fluxbox";
+        case WindowManager::jwm:
+            return "jwm";
+        case WindowManager::icewm:
+            return "icewm";
+    }
+    return "";
 }
 /// The last argument of INSTANTIATE_TEST_SUITE_P.
 template <typename Parameter>

@@ -139,6 +139,7 @@ void Execution::askWhetherToStop() {
 
 ScriptDesktop& Execution::desktop() {
     work(workBetweenQuestions);
+    m_services.injector.settle();
     return m_services.desktop;
 }
 

@@ -89,6 +89,11 @@ bool HandsWait::isHeld(const XkbComponents& state, const KeycodeSet& held) const
     return state.baseLayout != 0 && down.any();
 }
 
+bool HandsWait::handsHoldModifiers(const KeycodeSet& held) const {
+    return m_tools.watch.handsHoldKeys() &&
+           modifierKeysOf(m_tools.keymap.keymap().keys(), keysOfHands(held)).any();
+}
+
 KeycodeSet HandsWait::keysOfHands(const KeycodeSet& held) const {
     KeycodeSet down;
     for (const SlaveKeyboard& keyboard : m_tools.keymap.slaves()) {

@@ -33,6 +33,9 @@ class HandsWait {
     /// the user's combination.
     Step<XkbComponents> untilUp(const KeycodeSet& held);
 
+    /// Whether one is held now, as of the last drain of the watch.
+    bool handsHoldModifiers(const KeycodeSet& held) const;
+
     /// The modifier keys among `keys`.
     static KeycodeSet modifierKeysOf(const ModifierKeys& map, const KeycodeSet& keys);
 

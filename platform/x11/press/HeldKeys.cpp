@@ -56,6 +56,12 @@ void HeldKeys::pressAgain() {
     m_connection.flush();
 }
 
+void HeldKeys::forget(const KeycodeSet& keycodes) {
+    for (Held& held : m_held) {
+        std::erase_if(held.pressed, [&](std::uint8_t keycode) { return keycodes[keycode]; });
+    }
+}
+
 void HeldKeys::release(const Held& held) {
     std::for_each(held.pressed.rbegin(), held.pressed.rend(),
                   [this](std::uint8_t keycode) { m_connection.release(keycode); });

@@ -30,6 +30,8 @@ class HeldKeys {
     void rest();
     /// Presses all again, in the order in which they were pressed.
     void pressAgain();
+    /// These are up already, and not to be released.
+    void forget(const KeycodeSet& keycodes);
 
   private:
     struct Held {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/press/StrokeSender.h"
 
-#include <algorithm>
 #include <bit>
 #include <utility>
 
@@ -21,21 +20,20 @@ std::size_t StrokeSender::sizeOf(const Stroke& stroke) {
            locksAndGroups * InjectionConnection::lockSize;
 }
 
-Result<void> StrokeSender::send(const ModifierKeys& keys, const Stroke& stroke, const KeycodeSet& held) {
+Result<void> StrokeSender::send(const Keymap& keymap, const Stroke& stroke, const KeycodeSet& held) {
+    const ModifierKeys& keys = keymap.keys();
     const xkb_mod_mask_t down = keys.heldBy(held);
-    const auto modifiers = keysAround(keys, stroke, down);
     // Those of a key that the run holds down are lifted already, and stay so.
     const bool isLifted =
         !held[stroke.keycode] &&
         m_watch.liftHotKey(stroke.keycode, static_cast<std::uint16_t>(stroke.modifiers | down));
     setLocks(stroke);
-    pressModifiers(keys, modifiers);
+    if (m_tail.press(keysAround(keys, stroke, down))) keepGroup(keys);
     // A key that the run holds down goes up first, or nobody would see it go down again.
     if (held[stroke.keycode]) m_connection.release(stroke.keycode);
     m_connection.press(stroke.keycode);
     if (!held[stroke.keycode]) m_connection.release(stroke.keycode);
-    std::for_each(modifiers.rbegin(), modifiers.rend(),
-                  [&](std::uint8_t keycode) { m_connection.release(keycode); });
+    m_tail.keyIsUp(stroke.modifiers & keymap.masks().commands());
     if (!isLifted) return {};
     const auto passed = m_connection.synchronise();
     m_watch.restoreHotKeysOf(stroke.keycode);
@@ -46,7 +44,8 @@ std::vector<std::uint8_t> StrokeSender::hold(const ModifierKeys& keys, const Str
                                              const KeycodeSet& held) {
     auto pressed = keysAround(keys, stroke, keys.heldBy(held));
     setLocks(stroke);
-    pressModifiers(keys, pressed);
+    for (const std::uint8_t keycode : pressed) m_connection.press(keycode);
+    if (!pressed.empty()) keepGroup(keys);
     m_connection.press(stroke.keycode);
     pressed.push_back(stroke.keycode);
     return pressed;
@@ -54,9 +53,8 @@ std::vector<std::uint8_t> StrokeSender::hold(const ModifierKeys& keys, const Str
 
 /// Of the keys of a stroke only its own may switch the layout, as it did when it was recorded; pairs of
 /// modifiers may do so on their way.
-void StrokeSender::pressModifiers(const ModifierKeys& keys, const std::vector<std::uint8_t>& modifiers) {
-    for (const std::uint8_t keycode : modifiers) m_connection.press(keycode);
-    if (!modifiers.empty() && keys.haveLayouts()) m_connection.lockGroup(m_group);
+void StrokeSender::keepGroup(const ModifierKeys& keys) {
+    if (keys.haveLayouts()) m_connection.lockGroup(m_group);
 }
 
 void StrokeSender::lockGroup(xkb_layout_index_t group) {

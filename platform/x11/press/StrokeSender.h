@@ -2,17 +2,17 @@
 #pragma once
 
 #include "platform/XkbCodes.h"
-#include "platform/keymap/ModifierKeys.h"
+#include "platform/keymap/Keymap.h"
 #include "platform/keymap/Stroke.h"
-#include "platform/x11/press/InjectionConnection.h"
+#include "platform/x11/press/ModifierTail.h"
 
 namespace x11 {
 
 /// Turns strokes into key events, locks and groups around them included.
 class StrokeSender {
   public:
-    StrokeSender(InjectionConnection& connection, RunWatch& watch)
-        : m_connection(connection), m_watch(watch) {}
+    StrokeSender(InjectionConnection& connection, RunWatch& watch, ModifierTail& tail)
+        : m_connection(connection), m_watch(watch), m_tail(tail) {}
 
     /// The state that the next strokes meet; home() goes back to its locks and its group.
     void meet(const XkbComponents& state);
@@ -20,9 +20,10 @@ class StrokeSender {
     /// What the stroke, and going home after it, takes of the connection's queue at most.
     static std::size_t sizeOf(const Stroke& stroke);
 
-    /// Queues a stroke; the modifiers that the keys in `held` hold are down already. One that is a hot key of
-    /// ours is let through to the application, and has been sent when the call returns.
-    Result<void> send(const ModifierKeys& keys, const Stroke& stroke, const KeycodeSet& held);
+    /// Queues a stroke; the modifiers that the keys in `held` hold are down already. Its own go into the
+    /// tail. One that is a hot key of ours is let through to the application, and has been sent when the call
+    /// returns.
+    Result<void> send(const Keymap& keymap, const Stroke& stroke, const KeycodeSet& held);
 
     /// Queues the presses of a stroke without their releases. The keys that went down, in order.
     std::vector<std::uint8_t> hold(const ModifierKeys& keys, const Stroke& stroke, const KeycodeSet& held);
@@ -34,11 +35,12 @@ class StrokeSender {
   private:
     void lockGroup(xkb_layout_index_t group);
     void setLocks(const Stroke& stroke);
-    void pressModifiers(const ModifierKeys& keys, const std::vector<std::uint8_t>& modifiers);
+    void keepGroup(const ModifierKeys& keys);
     void lockModifiers(xkb_mod_mask_t locks);
 
     InjectionConnection& m_connection;
     RunWatch& m_watch;
+    ModifierTail& m_tail;
     xkb_mod_mask_t m_homeLocks = 0;
     xkb_mod_mask_t m_locks = 0;
     xkb_layout_index_t m_homeGroup = 0;

@@ -113,7 +113,6 @@ Step<> TextTyper::type(std::span<const char32_t> characters, const Stroke& aroun
 
 Step<std::size_t> TextTyper::typePart(std::span<const char32_t> characters, const Stroke& around,
                                       const KeycodeSet& held, const Check& check) {
-    const ModifierKeys& keys = m_tools.keymap.keymap().keys();
     std::size_t at = 0;
     bool isWhole = true;
     while (at < characters.size() && isWhole) {
@@ -132,7 +131,8 @@ Step<std::size_t> TextTyper::typePart(std::span<const char32_t> characters, cons
             stroke.lockMask = around.lockMask;
             stroke.lockValues = around.lockValues;
             if (!m_tools.connection.hasRoomFor(StrokeSender::sizeOf(stroke))) break;
-            if (const auto sent = m_sender.send(keys, stroke, held); !sent) return sent.error();
+            if (const auto sent = m_sender.send(m_tools.keymap.keymap(), stroke, held); !sent)
+                return sent.error();
             m_tools.characters.noteTyped(characters[at], group, *typing);
         }
         m_sender.home();

@@ -23,10 +23,13 @@ X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionP
       m_whenEnded(std::move(ended)),
       m_waiter(tools.clock, tools.watch, tools.interrupt, tools.guard,
                xcb_get_file_descriptor(tools.connection.get())),
-      m_pacer(tools.clock, m_waiter),
+      m_tail(tools.connection, tools.clock),
+      m_tailWait(m_tail, tools.connection, m_waiter, tools.clock,
+                 [this] { return m_hands.handsHoldModifiers(ownKeys()); }),
+      m_pacer(tools.clock, m_tailWait),
       m_hands({tools.connection, tools.keymap, tools.watch, tools.clock}, m_waiter, m_pacer),
       m_locks(tools.connection, tools.guard),
-      m_sender(tools.connection, tools.watch),
+      m_sender(tools.connection, tools.watch, m_tail),
       m_held(tools.connection, tools.watch, m_sender),
       m_typer({tools.connection, tools.keymap, tools.binder, tools.characters, tools.clock}, m_sender,
               m_waiter) {
@@ -46,6 +49,7 @@ X11InjectionSession::~X11InjectionSession() {
 void X11InjectionSession::rest() {
     if (!m_hasBegun || m_rests) return;
     m_rests = true;
+    restTail();
     m_held.rest();
     m_locks.giveBack();
     // A guard that has gone in the meantime has nothing left to do.
@@ -64,6 +68,19 @@ Step<> X11InjectionSession::stopProcess() {
     if (auto begun = begin(); !begun) return begun;
     m_held.pressAgain();
     return {};
+}
+
+/// Also where the run was cancelled: a window manager would go on holding the keyboard.
+void X11InjectionSession::restTail() {
+    if (!m_tail.isDown()) return;
+    m_tools.clock.sleepFor(m_tail.end() - m_tools.clock.now());
+    m_tail.release();
+    m_tools.connection.flush();
+}
+
+void X11InjectionSession::settle() {
+    // A halt comes again with the next step.
+    [[maybe_unused]] const auto ended = m_tailWait.endTail();
 }
 
 Step<> X11InjectionSession::take(const std::function<Step<>()>& step) {
@@ -95,9 +112,14 @@ Step<> X11InjectionSession::freeKeyboard() {
 }
 
 Step<XkbComponents> X11InjectionSession::checkHands() {
-    const KeycodeSet held = m_held.keycodes();
+    const KeycodeSet held = ownKeys();
     auto state = m_hands.untilUp(held);
-    if (!state) return state;
+    if (!state) {
+        // They were up for the time of the wait, and a second release would be that of a hand's key.
+        m_tail.forget();
+        m_held.forget(HandsWait::modifierKeysOf(m_tools.keymap.keymap().keys(), held));
+        return state;
+    }
     const auto isRepaired = m_locks.repair(m_tools.keymap, held, state.value());
     if (!isRepaired) return isRepaired.error();
     if (isRepaired.value()) state = m_hands.untilUp(held);
@@ -134,10 +156,13 @@ Step<> X11InjectionSession::awaitOpenScreen() {
     return heeded;
 }
 
-Step<> X11InjectionSession::prepareStroke() {
+Step<> X11InjectionSession::prepareStroke(xkb_mod_mask_t commands) {
     if (!m_hasBegun || m_rests) {
         if (auto begun = begin(); !begun) return begun;
         m_held.pressAgain();
+    }
+    if (!m_tail.isContinuedBy(commands)) {
+        if (auto ended = m_tailWait.endTail(); !ended) return ended;
     }
     if (auto heeded = awaitOpenScreen(); !heeded) return heeded;
     const auto state = checkHands();
@@ -156,12 +181,23 @@ Step<> X11InjectionSession::stroke(std::uint32_t keyCode, std::uint32_t modifier
 }
 
 Step<> X11InjectionSession::play(const Stroke& stroke) {
-    if (auto prepared = prepareStroke(); !prepared) return prepared;
-    const auto sent = m_sender.send(m_tools.keymap.keymap().keys(), stroke, m_held.keycodes());
+    const Keymap& keymap = m_tools.keymap.keymap();
+    if (auto prepared = prepareStroke(stroke.modifiers & keymap.masks().commands()); !prepared) {
+        return prepared;
+    }
+    const auto sent = m_sender.send(keymap, stroke, m_held.keycodes());
     if (!sent) return sent.error();
     m_sender.home();
-    m_tools.connection.flush();
+    if (auto begun = beginTail(); !begun) return begun;
     return adoptLocks(stroke.keycode);
+}
+
+Step<> X11InjectionSession::beginTail() {
+    m_tools.connection.flush();
+    if (!m_tail.isDown()) return {};
+    if (const auto passed = m_tools.connection.synchronise(); !passed) return passed.error();
+    m_tail.begin();
+    return {};
 }
 
 /// What a stroke of a lock key has changed stays as it is now.
@@ -180,12 +216,16 @@ Step<> X11InjectionSession::type(std::string_view text, std::uint32_t modifiers)
     if (!characters) return characters.error();
     if (characters.value().empty()) return m_waiter.heedUser();
     if (auto followed = m_typer.followKeymap(true); !followed) return followed;
-    const auto around = planModifiers(m_tools.keymap.keymap(), modifiers);
+    const Keymap& keymap = m_tools.keymap.keymap();
+    const auto around = planModifiers(keymap, modifiers);
     if (!around) return around.error();
-    if (auto prepared = prepareStroke(); !prepared) return prepared;
+    if (auto prepared = prepareStroke(around.value().modifiers & keymap.masks().commands()); !prepared) {
+        return prepared;
+    }
     if (auto prepared = prepareTexts(); !prepared) return prepared;
-    return m_typer.type(characters.value(), around.value(), m_held.keycodes(),
-                        [this] { return checkHands(); });
+    const auto typed =
+        m_typer.type(characters.value(), around.value(), m_held.keycodes(), [this] { return checkHands(); });
+    return typed ? beginTail() : typed;
 }
 
 /// What the plan tells of texts that are still to come; what in it cannot be typed is an error only there.
@@ -267,6 +307,8 @@ Step<> X11InjectionSession::keyUp(const HeldKey& key) {
         return {};
     });
 }
+
+KeycodeSet X11InjectionSession::ownKeys() const { return m_held.keycodes() | m_tail.keycodes(); }
 
 Step<> X11InjectionSession::pause(double seconds) {
     return take([&] { return m_pacer.pause(seconds); });

@@ -8,6 +8,7 @@
 #include "platform/x11/press/GrabWait.h"
 #include "platform/x11/press/HandsWait.h"
 #include "platform/x11/press/HeldKeys.h"
+#include "platform/x11/press/TailWait.h"
 #include "platform/x11/press/TextTyper.h"
 
 namespace x11 {
@@ -44,16 +45,24 @@ class X11InjectionSession final : public InjectionSession {
 
     /// KeyInjector::rest(). What the user does is still kept for after the run.
     void rest();
+    /// KeyInjector::settle().
+    void settle();
+    /// The script computes.
+    void passTime() { m_tailWait.endTailInTime(); }
 
   private:
     /// Takes a step unless the run has halted, and remembers if it halts.
     Step<> take(const std::function<Step<>()>& step);
     Step<> begin();
     Step<> freeKeyboard();
+    Step<> beginTail();
+    void restTail();
+    KeycodeSet ownKeys() const;
     Step<XkbComponents> checkHands();
     /// Begins if that has not been done, looks whether the user wishes to stop, waits for his hands and
-    /// brings the locks in order.
-    Step<> prepareStroke();
+    /// brings the locks in order. Modifiers that are down after the last stroke stay so for one with these
+    /// of Control, Alt and Super.
+    Step<> prepareStroke(xkb_mod_mask_t commands = 0);
     Step<> awaitOpenScreen();
     Step<> awaitGuard();
     Step<> stopProcess();
@@ -73,6 +82,8 @@ class X11InjectionSession final : public InjectionSession {
     InjectionPlan m_plan;
     std::function<void()> m_whenEnded;
     RunWaiter m_waiter;
+    ModifierTail m_tail;
+    TailWait m_tailWait;
     Pacer m_pacer;
     HandsWait m_hands;
     HandsAndLocks m_locks;

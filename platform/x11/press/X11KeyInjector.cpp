@@ -105,6 +105,7 @@ bool X11KeyInjector::isCancelled() {
         m_parts->interrupt.stopProcess();
     }
     m_watch.drain();
+    if (m_parts->session != nullptr) m_parts->session->passTime();
     return m_parts->interrupt.isRaised() || m_watch.isCancelled() || m_watch.isLost();
 }
 
@@ -127,6 +128,10 @@ Step<> X11KeyInjector::awaitReaders() {
 
 void X11KeyInjector::rest() {
     if (m_parts->session != nullptr) m_parts->session->rest();
+}
+
+void X11KeyInjector::settle() {
+    if (m_parts->session != nullptr) m_parts->session->settle();
 }
 
 void X11KeyInjector::interrupt() noexcept { m_parts->interrupt.raise(); }

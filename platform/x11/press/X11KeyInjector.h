@@ -50,6 +50,7 @@ class X11KeyInjector final : public KeyInjector {
     void stopPlayback() override;
     Step<> awaitReaders() override;
     void rest() override;
+    void settle() override;
 
     /// Ends the run that lasts, and all later ones before their first stroke: the process is about to end.
     /// Async-signal-safe, so that handlers of SIGTERM, SIGINT and SIGHUP may call it; they must not end the

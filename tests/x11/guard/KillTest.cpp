@@ -130,6 +130,11 @@ TEST_F(KillTest, strokesThatAreKilledAtAnyInstantLeaveNothing) {
     EXPECT_EQ(killsThatLeaveSomething("strokes", numberOfKills()), 0);
 }
 
+TEST_F(KillTest, switchesOfWindowsThatAreKilledAtAnyInstantLeaveNothing) {
+    EXPECT_EQ(killsThatLeaveSomething("switches", numberOfKills()), 0);
+    EXPECT_GT(killsThatLeaveSomething("switches", 5, KEYRILL_IDLE_GUARD), 0);
+}
+
 TEST_F(KillTest, textsThatAreKilledAtAnyInstantLeaveNothing) {
     EXPECT_EQ(killsThatLeaveSomething("text", numberOfKills()), 0);
 }

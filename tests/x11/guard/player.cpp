@@ -4,6 +4,7 @@
 // begun. GUARD is the guard program, where it is not the real one.
 //
 //   strokes   a key with four modifiers each 0.1 ms
+//   switches  Alt and Tab each 50 ms
 //   text      a long text, over and over
 //   hold      Control and a key, held down
 //   runs      a key each 1 ms, each in a run of its own
@@ -50,6 +51,15 @@ void playStrokes(InjectionSession& session) {
     bool isFirst = true;
     while (goesOn(session.stroke(0, modifiers)) && goesOn(session.pause(gap))) {
         if (std::exchange(isFirst, false)) begun();
+    }
+}
+
+void playSwitches(InjectionSession& session) {
+    constexpr std::uint32_t tab = 48;
+    bool isFirst = true;
+    while (goesOn(session.stroke(tab, modifier::option))) {
+        if (std::exchange(isFirst, false)) begun();
+        if (!goesOn(session.pause(0.05))) return;
     }
 }
 
@@ -108,6 +118,7 @@ int play(const std::string& display, const std::string& folder, std::string_view
     const auto session = injector.open({});
     if (!started || !session) return 1;
     if (how == "strokes") playStrokes(*session.value());
+    if (how == "switches") playSwitches(*session.value());
     if (how == "text") playText(*session.value());
     if (how == "hold") hold(*session.value());
     return 0;

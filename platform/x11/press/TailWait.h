@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+#include "platform/run/RunWaiter.h"
+#include "platform/x11/press/ModifierTail.h"
+
+namespace x11 {
+
+/// Waits as RunWaiter does, and ends a tail of modifiers whose time comes meanwhile.
+class TailWait final : public RunWait {
+  public:
+    /// `handsHoldModifiers` tells of hands that want the keyboard for a combination of their own.
+    TailWait(ModifierTail& tail, InjectionConnection& connection, RunWaiter& waiter, const Clock& clock,
+             std::function<bool()> handsHoldModifiers)
+        : m_tail(tail),
+          m_connection(connection),
+          m_waiter(waiter),
+          m_clock(clock),
+          m_handsHoldModifiers(std::move(handsHoldModifiers)) {}
+
+    Step<> waitUntil(Clock::Time deadline) override;
+
+    /// Waits until the time of the tail is over, or until a hand holds a modifier, and releases it. Returns
+    /// at once where there is none. After a halt it may still be down.
+    Step<> endTail();
+    /// Releases it if its time is over.
+    void endTailInTime();
+
+  private:
+    void release();
+
+    ModifierTail& m_tail;
+    InjectionConnection& m_connection;
+    RunWaiter& m_waiter;
+    const Clock& m_clock;
+    std::function<bool()> m_handsHoldModifiers;
+};
+
+}  // namespace x11
