@@ -4,13 +4,15 @@
 #include <QDBusConnection>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <QVariantMap>
 #include <memory>
 
 class InstanceLock;
 
-/// The one running program of a session, found by its name on the session bus; where there is no bus, by a
-/// lock in the runtime folder.
+/// The one running program of a session, found by its name on the session bus; where there is no bus, or a
+/// new one in the place of one that has died, by a lock in the runtime folder. It takes its name on the new
+/// bus.
 ///
 /// It takes what other starts hand over: the interface org.freedesktop.Application of the desktop entry
 /// standard, "D-Bus Activation".
@@ -36,6 +38,8 @@ class ProgramInstance : public QObject {
     void Open(const QStringList& uris, const QVariantMap& platformData);
     void ActivateAction(const QString& action, const QVariantList& parameter,
                         const QVariantMap& platformData);
+    /// The bus has gone.
+    void Disconnected();
     // NOLINTEND(readability-identifier-naming)
 
   signals:
@@ -45,6 +49,10 @@ class ProgramInstance : public QObject {
     void fileOpened(const QString& path);
 
   private:
+    bool takeName();
+    void findBus();
+
     QDBusConnection m_bus;
+    QTimer m_search;
     std::unique_ptr<InstanceLock> m_lock;
 };

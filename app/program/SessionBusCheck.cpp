@@ -52,6 +52,14 @@ bool connectTo(int descriptor, const std::string& name) {
            0;
 }
 
+std::string sessionBusAddress() {
+    const char* address = std::getenv("DBUS_SESSION_BUS_ADDRESS");
+    const char* folder = std::getenv("XDG_RUNTIME_DIR");
+    std::string known = address != nullptr ? address : "";
+    if (known.empty() && folder != nullptr) known = std::string("unix:path=") + folder + "/bus";
+    return known;
+}
+
 }  // namespace
 
 bool answersInTime(const std::string& address, std::chrono::milliseconds time) {
@@ -67,10 +75,8 @@ bool answersInTime(const std::string& address, std::chrono::milliseconds time) {
     return poll(&answer, 1, static_cast<int>(time.count())) != 0;
 }
 
+bool sessionBusAnswers() { return answersInTime(sessionBusAddress(), patience); }
+
 void avoidHangingSessionBus() {
-    const char* address = std::getenv("DBUS_SESSION_BUS_ADDRESS");
-    const char* folder = std::getenv("XDG_RUNTIME_DIR");
-    std::string known = address != nullptr ? address : "";
-    if (known.empty() && folder != nullptr) known = std::string("unix:path=") + folder + "/bus";
-    if (!answersInTime(known, patience)) setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
+    if (!sessionBusAnswers()) setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
 }

@@ -99,6 +99,21 @@ TEST_F(HandOverTest, aSecondStartsFileIsLoadedAndNotPlayed) {
     EXPECT_TRUE(first.isRunning());
 }
 
+TEST_F(HandOverTest, afterItsBusHasDiedAndComeBackThereIsStillOneWhichTakesFiles) {
+    Child first({KEYRILL_PRODUCT}, desktop.options("first"));
+    ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
+    const Terminal terminal(desktop.display());
+    desktop.bus().daemon().signal(SIGKILL);
+    desktop.bus().daemon().wait();
+    desktop.bus().restart();
+    // At once, and once the first has found it.
+    EXPECT_NE(startAndWait({}), -1);
+    EXPECT_TRUE(eventually([this] { return startAndWait({file}) == 0; }));
+    play();
+    EXPECT_EQ(terminal.typed(6), "loaded");
+    EXPECT_TRUE(first.isRunning());
+}
+
 TEST_F(HandOverTest, anArgumentsFileIsLoadedAndNotPlayed) {
     Child first({KEYRILL_PRODUCT, file}, desktop.options("first"));
     ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <stdexcept>
 
-SessionBus::SessionBus(const std::map<std::string, std::string>& environment) {
+SessionBus::SessionBus(const std::map<std::string, std::string>& environment) : m_environment(environment) {
     const std::string socket = m_folder.file("bus");
     const std::string configuration = m_folder.file("configuration");
     std::filesystem::create_directories(services());
@@ -16,14 +16,25 @@ SessionBus::SessionBus(const std::map<std::string, std::string>& environment) {
         << socket << "</listen><servicedir>" << services()
         << "</servicedir><policy context=\"default\"><allow send_destination=\"*\"/>"
            "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>\n";
+    start();
+}
+
+void SessionBus::restart() {
+    std::filesystem::remove(m_folder.file("log"));
+    start();
+}
+
+void SessionBus::start() {
+    const std::string configuration = m_folder.file("configuration");
     m_daemon = std::make_unique<Child>(
         std::vector<std::string>{"dbus-daemon", "--nofork", "--nopidfile", "--print-address=1",
                                  "--config-file=" + configuration},
-        Child::Options{.environment = environment, .outputFile = m_folder.file("log")});
+        Child::Options{.environment = m_environment, .outputFile = m_folder.file("log")});
     // It tells its address once it listens.
     if (!eventually([&] { return contentOf(m_folder.file("log")).ends_with('\n'); }))
         throw std::runtime_error("no session bus: " + contentOf(m_folder.file("log")));
-    std::ifstream(m_folder.file("log")) >> m_address;
+    // Without the identifier of this daemon, as in sessions: another one may come in its place.
+    m_address = "unix:path=" + m_folder.file("bus");
 }
 
 void SessionBus::letIn(const std::string& service) const {

@@ -17,10 +17,15 @@ class SessionBus {
     /// Lets the bus start a service of the machine when somebody asks for it.
     void letIn(const std::string& service) const;
     Child& daemon() { return *m_daemon; }
+    /// Another one at the same address, after the first has died.
+    void restart();
 
   private:
     std::string services() const { return m_folder.file("services"); }
 
+    void start();
+
+    std::map<std::string, std::string> m_environment;
     TemporaryFolder m_folder;
     std::string m_address;
     std::unique_ptr<Child> m_daemon;

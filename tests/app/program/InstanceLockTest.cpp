@@ -13,28 +13,35 @@ namespace {
 
 TEST(InstanceLockTest, belongsToOneAtATime) {
     const TemporaryFolder folder;
-    std::optional<InstanceLock> first(folder.path());
+    std::optional<InstanceLock> first(std::in_place, folder.path(), ":0");
     EXPECT_TRUE(first->isOurs());
-    EXPECT_FALSE(InstanceLock(folder.path()).isOurs());
+    EXPECT_FALSE(InstanceLock(folder.path(), ":0").isOurs());
     first.reset();
-    EXPECT_TRUE(InstanceLock(folder.path()).isOurs());
+    EXPECT_TRUE(InstanceLock(folder.path(), ":0").isOurs());
+}
+
+TEST(InstanceLockTest, isOneForEachDisplay) {
+    const TemporaryFolder folder;
+    const InstanceLock first(folder.path(), ":0");
+    EXPECT_TRUE(InstanceLock(folder.path(), "/tmp/socket:1").isOurs());
+    EXPECT_FALSE(InstanceLock(folder.path(), ":0").isOurs());
 }
 
 TEST(InstanceLockTest, isForTheUserAlone) {
     const TemporaryFolder folder;
-    const InstanceLock lock(folder.path());
+    const InstanceLock lock(folder.path(), ":0");
     struct stat state {};
     ASSERT_EQ(stat(folder.file("keyrill").c_str(), &state), 0);
     EXPECT_EQ(state.st_mode & 0777U, 0700U);
-    ASSERT_EQ(stat(folder.file("keyrill/running").c_str(), &state), 0);
+    ASSERT_EQ(stat(folder.file("keyrill/running-:0").c_str(), &state), 0);
     EXPECT_EQ(state.st_mode & 0777U, 0600U);
 }
 
 TEST(InstanceLockTest, isGivenToEverybodyWithoutAFolder) {
-    const InstanceLock first{std::string()};
+    const InstanceLock first("", ":0");
     EXPECT_TRUE(first.isOurs());
-    EXPECT_TRUE(InstanceLock(std::string()).isOurs());
-    EXPECT_TRUE(InstanceLock("/proc/no such folder").isOurs());
+    EXPECT_TRUE(InstanceLock("", ":0").isOurs());
+    EXPECT_TRUE(InstanceLock("/proc/no such folder", ":0").isOurs());
 }
 
 }  // namespace
