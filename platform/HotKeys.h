@@ -39,9 +39,10 @@ struct HotKeyState {
 ///
 /// A held hot key presses once. Its release is known by the key alone, whatever the modifiers are by then.
 /// Lock states do not matter. Of two hot keys with one combination the first keeps it, the second is refused.
-/// A change of the keyboard layout moves the grabs along. Strokes of a running script never fire a hot key;
-/// the user's presses during a run come after it, in one order with the monitor's events, but those that
-/// start a playback only where no stop, by hot key or by Escape, came after them.
+/// A change of the keyboard layout moves the grabs along. A combination that another program holds is taken
+/// as soon as it is given free. Strokes of a running script never fire a hot key; the user's presses during a
+/// run come after it, in one order with the monitor's events, but those that start a playback only where no
+/// stop, by hot key or by Escape, came after them.
 class HotKeys {
   public:
     using Handler = std::function<void(HotKeyId)>;

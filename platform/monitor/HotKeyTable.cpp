@@ -27,6 +27,7 @@ void HotKeyTable::request(const HotKeyRequest& request) {
     freeRow(row);
     row.request = request;
     row.waits = false;
+    row.isElsewhere = false;
     if (request.keyCode == keycode::none) {
         settle(row, {});
     } else {
@@ -73,6 +74,17 @@ bool HotKeyTable::startsPlayback(HotKeyId id) const {
     return row != m_rows.end() && row->second.request.startsPlayback;
 }
 
+bool HotKeyTable::isKeptWaiting() const {
+    return std::any_of(m_rows.begin(), m_rows.end(),
+                       [](const auto& entry) { return entry.second.isElsewhere; });
+}
+
+void HotKeyTable::tryAgain() {
+    for (auto& [id, row] : m_rows) {
+        if (row.isElsewhere) tryRow(row);
+    }
+}
+
 void HotKeyTable::followKeymap() {
     std::vector<Row*> moved;
     for (auto& [id, row] : m_rows) {
@@ -117,13 +129,17 @@ void HotKeyTable::tryRow(Row& row) {
     row.grab.reset();
     row.waits = false;
     row.isLifted = false;
+    row.isElsewhere = false;
     const Result<KeyGrab> grab = grabFor(row.request);
     if (!grab) return refuse(row, grab.error().message, grab.error().hint);
     if (isHeld(grab.value())) {
         row.waits = true;
         return refuse(row, "Keyrill uses it for something else", chooseAnother);
     }
-    if (const auto failure = m_grabs.grab(grab.value())) return refuse(row, *failure, freeIt);
+    if (const auto failure = m_grabs.grab(grab.value())) {
+        row.isElsewhere = true;
+        return refuse(row, *failure, freeIt);
+    }
     row.grab = grab.value();
     settle(row, {HotKeyStatus::registered, std::nullopt});
 }

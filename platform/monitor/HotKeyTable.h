@@ -27,6 +27,10 @@ class HotKeyTable {
     bool cancelsPlayback(HotKeyId id) const;
     bool startsPlayback(HotKeyId id) const;
 
+    /// Whether another program holds a combination that is wanted, and another try to get each of those.
+    bool isKeptWaiting() const;
+    void tryAgain();
+
     /// Moves the grabs whose key or modifiers are others in the new keymap.
     void followKeymap();
 
@@ -45,6 +49,8 @@ class HotKeyTable {
         HotKeyState state;
         /// Refused since another row has the combination; it is tried again when one is given free.
         bool waits = false;
+        /// Refused since another program has it; nobody tells when it is given free.
+        bool isElsewhere = false;
         /// Given free for a while, though it is registered.
         bool isLifted = false;
     };

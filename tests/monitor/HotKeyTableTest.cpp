@@ -87,6 +87,28 @@ TEST_F(HotKeyTableTest, whatAnotherProgramHoldsIsRefused) {
     EXPECT_EQ(refusal(record), "Ctrl+Super+R cannot be used: another program holds it.");
 }
 
+TEST_F(HotKeyTableTest, whatAnotherProgramHoldsIsTakenOnceItIsFree) {
+    m_grabber.otherProgramHasAll = true;
+    m_table.request(asked(record));
+    EXPECT_TRUE(m_table.isKeptWaiting());
+    m_table.tryAgain();
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::refused);
+    m_grabber.otherProgramHasAll = false;
+    m_table.tryAgain();
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::registered);
+    EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
+    EXPECT_FALSE(m_table.isKeptWaiting());
+    m_table.tryAgain();
+    EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
+}
+
+TEST_F(HotKeyTableTest, nothingIsWaitedForAfterAWithdrawal) {
+    m_grabber.otherProgramHasAll = true;
+    m_table.request(asked(record));
+    m_table.withdraw(record);
+    EXPECT_FALSE(m_table.isKeptWaiting());
+}
+
 TEST_F(HotKeyTableTest, theFirstOfTwoKeepsACombinationAndTheSecondGetsItAfterwards) {
     m_table.request(asked(record));
     m_table.request(asked(play));

@@ -7,26 +7,15 @@
 #include <unistd.h>
 
 #include <cstdint>
-#include <ctime>
 
 namespace x11 {
-
-namespace {
-
-timespec timeOf(std::chrono::milliseconds duration) {
-    return {.tv_sec = duration.count() / 1000, .tv_nsec = duration.count() % 1000 * 1'000'000};
-}
-
-}  // namespace
 
 Wakeups::Wakeups()
     : m_epoll(epoll_create1(EPOLL_CLOEXEC)),
       m_event(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
-      m_timer(timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK)),
-      m_ticks(timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK)) {
+      m_timer(timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK)) {
     watch(m_event.number());
     watch(m_timer.number());
-    watch(m_ticks.number());
 }
 
 void Wakeups::watch(int fileDescriptor) const {
@@ -50,21 +39,11 @@ void Wakeups::takeKick() const {
     static_cast<void>(eventfd_read(m_event.number(), &count));
 }
 
-void Wakeups::tickEvery(std::chrono::milliseconds period) const {
-    itimerspec spec{};
-    spec.it_value = spec.it_interval = timeOf(period);
-    timerfd_settime(m_ticks.number(), 0, &spec, nullptr);
-}
-
-bool Wakeups::takeTick() const {
-    std::uint64_t expirations = 0;
-    return read(m_ticks.number(), &expirations, sizeof expirations) == sizeof expirations;
-}
-
 void Wakeups::startTimer(std::chrono::milliseconds duration) {
     if (m_timerRuns) return;
     itimerspec spec{};
-    spec.it_value = timeOf(duration);
+    spec.it_value.tv_sec = duration.count() / 1000;
+    spec.it_value.tv_nsec = duration.count() % 1000 * 1'000'000;
     m_timerRuns = timerfd_settime(m_timer.number(), 0, &spec, nullptr) == 0;
 }
 

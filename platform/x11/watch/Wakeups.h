@@ -28,16 +28,10 @@ class Wakeups {
     /// True once after the timer has run down.
     bool takeTimer();
 
-    /// Readable again and again, with that time in between; zero for no more.
-    void tickEvery(std::chrono::milliseconds period) const;
-    /// True once after a tick.
-    bool takeTick() const;
-
   private:
     Descriptor m_epoll;
     Descriptor m_event;
     Descriptor m_timer;
-    Descriptor m_ticks;
     bool m_timerRuns = false;
 };
 

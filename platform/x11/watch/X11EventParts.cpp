@@ -10,6 +10,8 @@ namespace {
 constexpr std::chrono::milliseconds keymapDebounce{20};
 /// Who has the keyboard, while a macro is being recorded.
 constexpr std::chrono::milliseconds betweenLooks{100};
+/// For the combinations that another program holds: nobody tells when it gives them free.
+constexpr std::chrono::milliseconds betweenTries{2000};
 
 /// True for the life of the scope.
 class FlagScope {
@@ -65,6 +67,8 @@ X11EventManager::Parts::Parts(const Clock& clock, Opened opened)
       m_clock(clock) {
     m_wakeups.watch(m_raw->connection().fileDescriptor());
     m_wakeups.watch(m_grabs->connection().fileDescriptor());
+    m_wakeups.watch(m_looks.fileDescriptor());
+    m_wakeups.watch(m_tries.fileDescriptor());
     if (m_repeats) {
         m_wakeups.watch(m_repeats->control().fileDescriptor());
         m_wakeups.watch(m_repeats->data().fileDescriptor());
@@ -101,13 +105,14 @@ void X11EventManager::Parts::read() {
     m_order.workOff();
     heedEscape();
     followHold();
+    tryForHotKeys();
     if (m_wakeups.takeTimer()) followKeymap();
     watchRepeats();
 }
 
 /// Looks again and again while a macro is recorded or played, and with each key press.
 void X11EventManager::Parts::followHold() {
-    const bool ticked = m_wakeups.takeTick();
+    const bool ticked = m_looks.take();
     if (!m_running && !m_recording) return;
     if (m_running || ticked || m_interpreter.hasPresses()) lookWhoHoldsTheKeyboard();
 }
@@ -124,6 +129,11 @@ void X11EventManager::Parts::lookWhoHoldsTheKeyboard() {
     if (std::exchange(m_toldHeld, isHeld) != isHeld && m_holdChanged) m_holdChanged(isHeld);
 }
 
+void X11EventManager::Parts::tryForHotKeys() {
+    if (m_tries.take() && !m_running) m_hotKeys.tryAgain();
+    m_tries.tickEvery(m_hotKeys.isKeptWaiting() ? betweenTries : std::chrono::milliseconds(0));
+}
+
 bool X11EventManager::Parts::waitsForVerdict() const {
     return m_recording && m_hold.verdict() == KeyboardHold::Verdict::undecided;
 }
@@ -133,7 +143,7 @@ void X11EventManager::Parts::setRecording(bool recording) {
     catchUp();
     m_interpreter.setRecording(recording);
     m_holds->follow(m_recording || m_running);
-    m_wakeups.tickEvery(m_recording ? betweenLooks : std::chrono::milliseconds(0));
+    m_looks.tickEvery(m_recording ? betweenLooks : std::chrono::milliseconds(0));
     if (!m_recording) m_hold.reset();
     if (!m_recording) m_toldHeld = false;
     kick();

@@ -11,6 +11,7 @@
 #include "platform/run/RunWatch.h"
 #include "platform/x11/watch/EventOrder.h"
 #include "platform/x11/watch/HoldWatch.h"
+#include "platform/x11/watch/Ticker.h"
 #include "platform/x11/watch/Wakeups.h"
 #include "platform/x11/watch/X11EventManager.h"
 
@@ -75,6 +76,7 @@ class X11EventManager::Parts final : public RunWatch {
     void read();
     void heedEscape();
     void followHold();
+    void tryForHotKeys();
     void lookWhoHoldsTheKeyboard();
     bool waitsForVerdict() const;
     void catchUp();
@@ -98,6 +100,9 @@ class X11EventManager::Parts final : public RunWatch {
     KeyInterpreter m_interpreter;
     EventOrder m_order;
     Wakeups m_wakeups;
+    /// When to look who has the keyboard, and when to try again for what another program holds.
+    Ticker m_looks;
+    Ticker m_tries;
     const Clock& m_clock;
     KeyboardHold m_hold;
 
