@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "platform/KeyEvent.h"
 #include "platform/Result.h"
@@ -32,6 +33,9 @@ class EventMonitor {
     using Handler = std::function<void(const KeyEvent&)>;
 
     virtual ~EventMonitor() = default;
+
+    /// What of this does not work here though the rest does, and what is lost by it; as of the start.
+    virtual std::optional<Error> shortcoming() const { return std::nullopt; }
 
     /// Starts delivering to `handler`; a second call replaces it. Fails where the desktop shows no foreign
     /// key events.

@@ -15,6 +15,7 @@
 #include "engine/KeyRecorder.h"
 #include "platform/EventMonitor.h"
 #include "platform/Features.h"
+#include "platform/Notifications.h"
 #include "platform/ScreenLock.h"
 #include "platform/ScriptingService.h"
 #include "platform/Services.h"
@@ -96,6 +97,7 @@ void AppController::awakeFromNib() {
     if (runPreferencesOnLaunch) m_stage.present(builtWelcomePanel());
     // What went wrong with the settings so far, once the start-up is through.
     QTimer::singleShot(0, this, &AppController::tellFaults);
+    tellShortcoming();
 }
 
 bool AppController::checkSystemVersion() {
@@ -131,6 +133,12 @@ void AppController::tellFaults() {
     while (const std::optional<Error> fault = m_services.settings.takeFault()) {
         m_dialogs.runAlert(alerts::settingsFault(*fault));
     }
+}
+
+void AppController::tellShortcoming() {
+    const std::optional<Error> shortcoming = m_services.eventMonitor.shortcoming();
+    if (!shortcoming) return;
+    m_services.notifications.post("Keyrill", shortcoming->message + " " + shortcoming->hint);
 }
 
 QString AppController::sessionHint() const {

@@ -209,6 +209,8 @@ class AppController : public QObject, public SharedController {
     void noteFirstRun();
     void watchScreenLock();
     void tellFaults();
+    /// Once at the start, what this desktop lacks.
+    void tellShortcoming();
     /// What the user should know of this session; empty for nothing.
     QString sessionHint() const;
     WelcomePanel& builtWelcomePanel();

@@ -15,11 +15,15 @@ class FakeEventMonitor : public EventMonitor {
   public:
     FakeEventMonitor(Journal& journal, FakeDesktop& desktop) : m_journal(journal), m_desktop(desktop) {}
 
+    std::optional<Error> shortcoming() const override { return lacking; }
     Result<void> install(Handler handler) override;
     void setWithheld(bool withheld) override { m_desktop.setWithheld(withheld); }
     void setKeepsOwnStrokes(bool keeps) override { m_keepsOwnStrokes = keeps; }
     void setRecording(bool recording) override { m_recording = recording; }
     void observeHold(std::function<void(bool)> changed) override { m_holdChanged = std::move(changed); }
+
+    /// What shortcoming() tells.
+    std::optional<Error> lacking;
 
     /// The next install() answers the error and installs nothing.
     void failNextCall(const Error& error) { m_nextError = error; }

@@ -81,8 +81,9 @@ RepeatSource::~RepeatSource() {
 }
 
 Result<void> RepeatSource::start() {
-    const Error missing{"Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.",
-                        "Switch the extension on in the settings of the X server."};
+    const Error missing{
+        "Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.",
+        "A held key is recorded as one press. Switch the extension on in the settings of the X server."};
     for (const XConnection* connection : {&m_control, &m_data}) {
         if (!Extensions(*connection).has(xcb_record_id)) return missing;
     }

@@ -55,6 +55,7 @@ class X11EventManager final : public EventSource, public EventMonitor, public Ho
     const KeyboardState& keyboard() const;
 
     // EventMonitor
+    std::optional<Error> shortcoming() const override { return problem(); }
     Result<void> install(EventMonitor::Handler handler) override;
     void setWithheld(bool withheld) override;
     void setKeepsOwnStrokes(bool keeps) override;

@@ -97,6 +97,15 @@ TEST_F(StartUpOrderTest, readsTheSettingsBetweenTheStatusItemAndTheSecondRegistr
     EXPECT_LT(position(R"(read("notFirstRun"))"), position(R"(write("notFirstRun", true))"));
 }
 
+TEST_F(StartUpTest, saysOnceWhatTheDesktopLacksAndWhatIsLost) {
+    platform().settings.put("notFirstRun", 1);
+    platform().eventMonitor.lacking = Error{"There are no repeats.", "A held key counts once."};
+    controller.awakeFromNib();
+    EXPECT_EQ(platform().notifications.messages(),
+              (std::vector<FakeNotifications::Message>{
+                  {"Keyrill", "There are no repeats. A held key counts once."}}));
+}
+
 TEST_F(StartUpTest, endsAfterTheAlertInASessionThatIsTooOld) {
     platform().sessionCheck.failVersion({"XInput 2.2 is needed.", "Use a newer X server."});
     EXPECT_EQ(runLoopWith([this] { controller.awakeFromNib(); }), 0);
