@@ -18,6 +18,7 @@ struct Switching {
 };
 
 constexpr std::uint8_t rightControl = 105;
+constexpr std::uint8_t menuKey = 135;
 
 std::string nameOf(const Switching& switching) { return switching.name; }
 
@@ -85,7 +86,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Switching{"bothControls", "grp:ctrls_toggle", {xkey::control, rightControl}},
                     Switching{"capsLock", "grp:caps_toggle", {xkey::capsLock}},
                     Switching{"scrollLock", "grp:sclk_toggle", {xkey::scrollLock}},
-                    Switching{"rightAltHeld", "grp:switch", {xkey::altGr}, true}),
+                    Switching{"rightAltHeld", "grp:switch", {xkey::altGr}, true},
+                    Switching{"menuHeld", "grp:menu_switch", {menuKey}, true}),
     nameOfParameter<Switching>);
 
 }  // namespace

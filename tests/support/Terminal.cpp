@@ -15,6 +15,7 @@ Terminal::Terminal(const std::string& display, const Options& options) : Windowe
     command.insert(command.end(),
                    {"-e", "sh", "-c",
                     "stty raw -echo icrnl; " + mouse + ": > '" + file + "'; exec cat > '" + file + "'"});
+    add(options.environment);
     start(command);
     if (!eventually([&] { return std::filesystem::exists(file); }, std::chrono::seconds(20))) {
         throw std::runtime_error("the terminal does not start: " + log());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,8 @@ class Terminal : public WindowedProgram {
         /// Mouse buttons are typed too: "\x1b[<0;12;3M" for a press in column 12 of line 3, with an "m" at
         /// its end for the release.
         bool typesMouseButtons = false;
+        /// On top of the test's own.
+        std::map<std::string, std::string> environment = {};
     };
 
     explicit Terminal(const std::string& display) : Terminal(display, Options()) {}
