@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// What the installed definitions make of a script in the two families of editors, told by the libraries that
-// those use: GtkSourceView and KSyntaxHighlighting. The expected colours are those of their own schemes.
+// What the installed definitions make of a script in editors, told by the libraries that those use,
+// GtkSourceView and KSyntaxHighlighting, by Vim itself, and, of the grammar for TextMate's kin, by a reader of such
+// grammars. The expected colours are those of their own schemes.
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -93,6 +94,67 @@ TEST_F(EditorsTest, editorsWithKSyntaxHighlightingColourAScript) {
     EXPECT_TRUE(isColoured("color:#0057ae", "integer")) << page;
     EXPECT_TRUE(isColoured("color:#898887", "lines *)")) << page;
     EXPECT_TRUE(isColoured("color:#b08000", ".5")) << page;
+}
+
+TEST_F(EditorsTest, vimColoursAScript) {
+    const std::string coloured = file() + ".coloured";
+    outputOf({"vim", "-Nu", "NONE", "-es", "-c", "set rtp^=" + installed("vim/vimfiles"), "-c", "filetype on", "-c",
+              "syntax on", "-c", "edit " + file(), "-c", "source " KEYRILL_VIM_COLOURS},
+             {{"COLOURED", coloured}, {"LC_ALL", "C.UTF-8"}});
+    EXPECT_EQ(contentOf(coloured), R"(Statement tell
+Statement application
+Constant "Sys
+Special \n
+Constant "
+Comment -- (* a comment
+Identifier keystroke
+Statement using
+Constant command down
+Identifier Key  Code
+Constant 36
+Comment -- however it is written
+Statement set
+Statement to
+Statement as
+Type integer
+Statement end
+Statement tell
+Comment (* two
+Comment lines *)
+Identifier delay
+Constant .5
+)");
+}
+
+TEST_F(EditorsTest, editorsWithTextMateGrammarsColourAScript) {
+    const std::string extension = installed("keyrill/vscode/");
+    outputOf({"/usr/bin/python3", "-m", "json.tool", extension + "package.json", "/dev/null"});
+    outputOf({"/usr/bin/python3", "-m", "json.tool", extension + "language-configuration.json", "/dev/null"});
+    EXPECT_EQ(outputOf({"/usr/bin/python3", KEYRILL_TEXTMATE, extension + "syntaxes/keyrill.tmLanguage.json", file()},
+                       {{"LC_ALL", "C.UTF-8"}}),
+              R"(keyword.control tell
+keyword.control application
+string.quoted.double "Sys
+constant.character.escape \n
+string.quoted.double "
+comment.line -- (* a comment
+support.function keystroke
+keyword.control using
+constant.language command down
+support.function Key  Code
+constant.numeric 36
+comment.line -- however it is written
+keyword.control set
+keyword.control to
+keyword.control as
+support.type integer
+keyword.control end
+keyword.control tell
+comment.block (* two
+comment.block lines *)
+support.function delay
+constant.numeric .5
+)");
 }
 
 }  // namespace
