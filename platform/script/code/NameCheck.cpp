@@ -71,7 +71,8 @@ std::string NameCheck::similarTo(const std::string& name, const std::vector<Name
     std::string found;
     for (const NameId other : known) {
         const std::string& candidate = spelling(other);
-        if (candidate.size() > longest || candidate == name) continue;
+        const std::size_t more = std::max(candidate.size(), name.size()) - std::min(candidate.size(), name.size());
+        if (candidate.size() > longest || more >= nearest || candidate == name) continue;
         const std::size_t apart = distance(asciiLowered(name), asciiLowered(candidate));
         if (apart >= nearest) continue;
         nearest = apart;
