@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // What the installed definitions make of a script in editors, told by the libraries that those use,
-// GtkSourceView and KSyntaxHighlighting, by Vim itself, and, of the grammar for TextMate's kin, by a reader of such
-// grammars. The expected colours are those of their own schemes.
+// GtkSourceView and KSyntaxHighlighting, by Vim itself, and, of the grammar for TextMate's kin, by a reader
+// of such grammars. The expected colours are those of their own schemes.
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -98,8 +98,8 @@ TEST_F(EditorsTest, editorsWithKSyntaxHighlightingColourAScript) {
 
 TEST_F(EditorsTest, vimColoursAScript) {
     const std::string coloured = file() + ".coloured";
-    outputOf({"vim", "-Nu", "NONE", "-es", "-c", "set rtp^=" + installed("vim/vimfiles"), "-c", "filetype on", "-c",
-              "syntax on", "-c", "edit " + file(), "-c", "source " KEYRILL_VIM_COLOURS},
+    outputOf({"vim", "-Nu", "NONE", "-es", "-c", "set rtp^=" + installed("vim/vimfiles"), "-c", "filetype on",
+              "-c", "syntax on", "-c", "edit " + file(), "-c", "source " KEYRILL_VIM_COLOURS},
              {{"COLOURED", coloured}, {"LC_ALL", "C.UTF-8"}});
     EXPECT_EQ(contentOf(coloured), R"(Statement tell
 Statement application
@@ -130,7 +130,8 @@ TEST_F(EditorsTest, editorsWithTextMateGrammarsColourAScript) {
     const std::string extension = installed("keyrill/vscode/");
     outputOf({"/usr/bin/python3", "-m", "json.tool", extension + "package.json", "/dev/null"});
     outputOf({"/usr/bin/python3", "-m", "json.tool", extension + "language-configuration.json", "/dev/null"});
-    EXPECT_EQ(outputOf({"/usr/bin/python3", KEYRILL_TEXTMATE, extension + "syntaxes/keyrill.tmLanguage.json", file()},
+    EXPECT_EQ(outputOf({"/usr/bin/python3", KEYRILL_TEXTMATE, extension + "syntaxes/keyrill.tmLanguage.json",
+                        file()},
                        {{"LC_ALL", "C.UTF-8"}}),
               R"(keyword.control tell
 keyword.control application

@@ -30,9 +30,11 @@ std::size_t distance(const std::string& left, const std::string& right) {
 void NameCheck::lookAt(const Scope& scope) {
     const std::vector<NameId>& variables = scope.variables();
     std::vector<NameId> known;
+    const NameId largest = variables.empty() ? 0 : *std::max_element(variables.begin(), variables.end());
+    if (!m_isRunKnown) m_setByRun.resize(largest + std::size_t{1});
     for (std::size_t slot = 0; slot < variables.size(); ++slot) {
         if (scope.uses()[slot].isSet && known.size() < mostCompared) known.push_back(variables[slot]);
-        if (scope.uses()[slot].isSet && !m_isRunKnown) m_setByRun.insert(variables[slot]);
+        if (scope.uses()[slot].isSet && !m_isRunKnown) m_setByRun[variables[slot]] = true;
     }
     for (std::size_t slot = 0; slot < variables.size(); ++slot) {
         suspect(variables[slot], scope.uses()[slot], known);
@@ -50,7 +52,7 @@ std::string NameCheck::adviceFor(NameId name, const VariableUse& use,
     const std::string& called = spelling(name);
     if (m_handlers.contains(name))
         return neverSet(called) + "A handler is called with parentheses: " + called + "().";
-    if (m_setByRun.contains(name)) {
+    if (name < m_setByRun.size() && m_setByRun[name]) {
         return "The variable " + called + " is never set in its handler. To share it write there: global " +
                called + ".";
     }
@@ -71,7 +73,8 @@ std::string NameCheck::similarTo(const std::string& name, const std::vector<Name
     std::string found;
     for (const NameId other : known) {
         const std::string& candidate = spelling(other);
-        const std::size_t more = std::max(candidate.size(), name.size()) - std::min(candidate.size(), name.size());
+        const std::size_t more =
+            std::max(candidate.size(), name.size()) - std::min(candidate.size(), name.size());
         if (candidate.size() > longest || more >= nearest || candidate == name) continue;
         const std::size_t apart = distance(asciiLowered(name), asciiLowered(candidate));
         if (apart >= nearest) continue;

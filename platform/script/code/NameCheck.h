@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <string>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 #include "platform/script/code/Emitter.h"
@@ -43,7 +42,7 @@ class NameCheck {
 
     Emitter& m_out;
     const std::unordered_map<NameId, std::uint32_t>& m_handlers;
-    std::unordered_set<NameId> m_setByRun;
+    std::vector<bool> m_setByRun;  ///< by name
     bool m_isRunKnown = false;
     std::vector<Suspect> m_suspects;
 };

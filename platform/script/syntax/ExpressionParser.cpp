@@ -16,12 +16,12 @@ NodeId ExpressionParser::operation(int minimumLevel) {
     NodeId left = unary();
     int highestLevel = unaryLevel;
     for (;;) {
-        if (m_tokens.isAt(Word::as) && coercionLevel >= minimumLevel && !m_context.asIsLabel()) {
+        const bool isWord = m_tokens.isAt(TokenKind::identifier);
+        if (isWord && m_tokens.isAt(Word::as) && coercionLevel >= minimumLevel && !m_context.asIsLabel()) {
             left = coercion(left);
             continue;
         }
-        if (stateLevel >= minimumLevel && m_tokens.isAt(TokenKind::identifier) &&
-            m_grammar.applications.isAtState(left)) {
+        if (isWord && stateLevel >= minimumLevel && m_grammar.applications.isAtState(left)) {
             left = m_grammar.applications.state(left);
             continue;
         }
