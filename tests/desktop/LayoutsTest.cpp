@@ -46,10 +46,12 @@ std::string nameOf(const NamedLayout& layout) {
 }
 
 LayoutsTest::LayoutsTest()
-    : m_keymap(namedKeymap(GetParam().layout, GetParam().options, GetParam().variant)),
+    // Before the terminal: some read a keymap that changes in pieces.
+    : m_keymap((desktop.setLayout(setting(GetParam())),
+                namedKeymap(GetParam().layout, GetParam().options, GetParam().variant))),
       // The locale in which xterm composes.
       m_terminal(desktop.display(), {.environment = {{"LC_ALL", "C.UTF-8"}}}),
-      m_keyrill((desktop.setLayout(setting(GetParam())), desktop)) {
+      m_keyrill(desktop) {
     m_hands.lockGroup(GetParam().group);
     m_hands.finish();
 }
@@ -177,7 +179,11 @@ TEST_P(LayoutsTest, whatIsTypedIsPlayedUnderWhicheverLocks) {
     expectTheSame(0, capsLock());
     if (HasFailure()) return;
     expectTheSame(capsLock(), 0);
-    if (HasFailure() || !isUnderAllLocks()) return;
+    // Num Lock chooses levels of letters on some keyboards, so that they scroll the terminal and paste.
+    const xkb_layout_index_t group = GetParam().group;
+    const bool isOfKeypad =
+        m_keymap->symbol(xkey::a, numLock(), group) == m_keymap->symbol(xkey::a, 0, group);
+    if (HasFailure() || !isUnderAllLocks() || !isOfKeypad) return;
     expectTheSame(numLock(), capsLock());
     if (HasFailure()) return;
     expectTheSame(static_cast<std::uint8_t>(capsLock() | numLock()), numLock());

@@ -33,6 +33,8 @@ class LayoutsTest : public DesktopTest, public testing::WithParamInterface<Named
     /// One recording under these locks (real modifiers), played under others.
     void expectTheSame(std::uint8_t locks, std::uint8_t locksOfPlay);
 
+    std::unique_ptr<Keymap> m_keymap;
+
   private:
     /// Keys that are pressed together, the last one with the others held.
     using Chord = std::vector<std::uint8_t>;
@@ -47,7 +49,6 @@ class LayoutsTest : public DesktopTest, public testing::WithParamInterface<Named
     void hotKey(std::uint8_t keycode) const;
     void setLocks(std::uint8_t locks) const;
 
-    std::unique_ptr<Keymap> m_keymap;
     Hands m_hands{desktop.display()};
     Terminal m_terminal;
     Keyrill m_keyrill;

@@ -7,9 +7,8 @@ bool LayoutsTest::isUnderAllLocks() { return false; }
 
 INSTANTIATE_TEST_SUITE_P(Some, LayoutsTest,
                          testing::Values(NamedLayout{"us"}, NamedLayout{"us", "intl"}, NamedLayout{"de"},
-                                         NamedLayout{"de", "neo"}, NamedLayout{"fr"},
-                                         NamedLayout{"fr", "bepo"}, NamedLayout{"cz"}, NamedLayout{"gr"},
-                                         NamedLayout{"ca", "multix"}, NamedLayout{"jp"},
+                                         NamedLayout{"fr"}, NamedLayout{"fr", "bepo"}, NamedLayout{"cz"},
+                                         NamedLayout{"gr"}, NamedLayout{"ca", "multix"}, NamedLayout{"jp"},
                                          NamedLayout{"us", "", "compose:menu"}, NamedLayout{"us,ru"},
                                          NamedLayout{"us,ru", "", "", 1}),
                          nameOfParameter<NamedLayout>);
