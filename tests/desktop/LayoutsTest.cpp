@@ -165,7 +165,6 @@ void LayoutsTest::expectTheSame(std::uint8_t locks, std::uint8_t locksOfPlay) {
     ASSERT_TRUE(eventually(hasAll, std::chrono::seconds(40))) << m_terminal.typed();
     const std::string typed = m_terminal.typed().substr(m_typed.size());
     hotKey(xkey::s);
-    const std::string script = m_keyrill.script(++m_recordings);
     EXPECT_GT(typed.size(), typingKeys().size());
     setLocks(locksOfPlay);
     hotKey(xkey::p);

@@ -53,5 +53,4 @@ class LayoutsTest : public DesktopTest, public testing::WithParamInterface<Named
     Terminal m_terminal;
     Keyrill m_keyrill;
     std::string m_typed;
-    std::size_t m_recordings = 0;
 };
