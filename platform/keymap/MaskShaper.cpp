@@ -1,30 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/keymap/MaskShaper.h"
 
-#include <array>
 #include <optional>
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
 #include "platform/XkbCodes.h"
+#include "platform/keymap/KeypadDigit.h"
 
 namespace {
-
-/// The keys of the navigation block, by what the keypad types without Num Lock.
-struct NavigationKey {
-    xkb_keysym_t symbol;
-    std::uint32_t keyCode;
-};
-constexpr std::array<NavigationKey, 10> navigationKeys = {{{XKB_KEY_KP_Insert, 114},
-                                                           {XKB_KEY_KP_Home, 115},
-                                                           {XKB_KEY_KP_Page_Up, 116},
-                                                           {XKB_KEY_KP_Delete, 117},
-                                                           {XKB_KEY_KP_End, 119},
-                                                           {XKB_KEY_KP_Page_Down, 121},
-                                                           {XKB_KEY_KP_Left, 123},
-                                                           {XKB_KEY_KP_Right, 124},
-                                                           {XKB_KEY_KP_Down, 125},
-                                                           {XKB_KEY_KP_Up, 126}}};
 
 bool typesTheSame(xkb_keysym_t one, xkb_keysym_t other) {
     if (one == other) return true;
@@ -53,13 +37,14 @@ class Shaper {
 
     TypedKey result(bool modifierHeld) const {
         const bool keypad = keycode::isKeypadDigit(m_baseCode);
-        const bool digit = keypad && typesTheSame(symbol(unlocked() | m_masks.numLock), m_typed);
+        const xkb_mod_mask_t lock = keypad ? digitLock() : 0;
+        const bool digit = keypad && typesTheSame(symbol(unlocked() | lock), m_typed);
         TypedKey key{.keyCode = m_keymap.reportedChoosers(m_modifiers) |
                                 (keypad && !digit ? navigationCode() : m_baseCode),
                      .character = asciiOf(m_typed),
                      .modifiers = m_keymap.reported(m_modifiers & commandMask())};
         const bool keepsShift = keypad ? !digit : key.modifiers != 0;
-        key.modifiers |= keepsShift ? heldShift() : shapeBits(digit ? m_masks.numLock : 0, key.character);
+        key.modifiers |= keepsShift ? heldShift() : shapeBits(lock, key.character);
         // The text of a macro has no word for the lock.
         if ((key.modifiers & modifier::capsLock) != 0 && !isUpperCase(key.character)) {
             key.keyCode |= keycode::capsLock;
@@ -80,6 +65,9 @@ class Shaper {
     xkb_mod_mask_t unlocked() const {
         return m_modifiers & ~(commandMask() | m_masks.locks() | m_masks.shift);
     }
+
+    /// The Num Lock with which the digit is played.
+    xkb_mod_mask_t digitLock() const { return numLockForDigit(m_keymap, m_keycode, unlocked(), m_layout); }
 
     bool types(bool shift, xkb_mod_mask_t locks) const {
         return typesTheSame(symbol(unlocked() | locks | (shift ? m_masks.shift : 0)), m_typed);
@@ -107,11 +95,9 @@ class Shaper {
     std::uint32_t heldShift() const { return shiftHeld() ? modifier::shift : 0; }
 
     std::uint32_t navigationCode() const {
-        for (const NavigationKey& key : navigationKeys) {
-            if (key.symbol == m_typed) return key.keyCode;
-        }
+        const std::uint32_t code = navigationCodeOf(m_typed);
         // The five in the middle has none.
-        return m_baseCode;
+        return code == 0 ? m_baseCode : code;
     }
 
     const Keymap& m_keymap;

@@ -34,6 +34,7 @@ ModifierKeys::ModifierKeys(xkb_keymap* keymap)
         // A key with fewer groups than the keymap has its own rule for the others; trying follows it.
         for (xkb_layout_index_t layout = 0; layout < m_effects.size(); ++layout) {
             tryKey(keymap, static_cast<std::uint8_t>(keycode), layout);
+            tryLevels(keymap, static_cast<std::uint8_t>(keycode), layout);
         }
     }
 }
@@ -58,6 +59,28 @@ void ModifierKeys::tryKey(xkb_keymap* keymap, std::uint8_t keycode, xkb_layout_i
     if (m_momentary[keycode] != momentary) m_momentary[keycode] = 0;
     if (isLock) m_locks.set(keycode);
     m_held[keycode] |= held;
+}
+
+/// What the key locks where other keys choose its level.
+void ModifierKeys::tryLevels(xkb_keymap* keymap, std::uint8_t keycode, xkb_layout_index_t layout) {
+    constexpr std::size_t maxMasks = 16;
+    std::array<xkb_mod_mask_t, maxMasks> masks{};
+    const xkb_level_index_t levels = xkb_keymap_num_levels_for_key(keymap, keycode, layout);
+    for (xkb_level_index_t level = 0; level < levels; ++level) {
+        const xkb_keysym_t* symbols = nullptr;
+        const int count = xkb_keymap_key_get_syms_by_level(keymap, keycode, layout, level, &symbols);
+        // A key that types a character locks nothing.
+        if (count != 1 || xkb_keysym_to_utf32(*symbols) != 0) continue;
+        const std::size_t ways =
+            xkb_keymap_key_get_mods_for_level(keymap, keycode, layout, level, masks.data(), masks.size());
+        for (std::size_t way = 0; way < ways; ++way) {
+            const XkbStatePointer state(xkb_state_new(keymap));
+            xkb_state_update_mask(state.get(), masks[way], 0, 0, 0, 0, layout);
+            xkb_state_update_key(state.get(), keycode, XKB_KEY_DOWN);
+            xkb_state_update_key(state.get(), keycode, XKB_KEY_UP);
+            m_lockable |= modifiersOf(state.get(), XKB_STATE_MODS_LOCKED);
+        }
+    }
 }
 
 const ModifierKeys::Effect& ModifierKeys::effect(std::uint8_t keycode, xkb_layout_index_t layout) const {

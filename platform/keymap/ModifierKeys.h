@@ -37,6 +37,9 @@ class ModifierKeys {
     /// Whether there is more than one layout, so that modifiers that are held together may switch it.
     bool haveLayouts() const { return m_effects.size() > 1; }
 
+    /// The modifiers that any key locks, in whichever layout and on whichever level.
+    xkb_mod_mask_t lockable() const { return m_lockable; }
+
     /// Whether a stroke of the key leaves a lock or a latch behind.
     bool isLock(std::uint8_t keycode) const { return m_locks[keycode]; }
 
@@ -48,6 +51,7 @@ class ModifierKeys {
     using LayoutEffects = std::array<Effect, 256>;
 
     void tryKey(xkb_keymap* keymap, std::uint8_t keycode, xkb_layout_index_t layout);
+    void tryLevels(xkb_keymap* keymap, std::uint8_t keycode, xkb_layout_index_t layout);
     const Effect& effect(std::uint8_t keycode, xkb_layout_index_t layout) const;
 
     std::vector<LayoutEffects> m_effects;
@@ -55,4 +59,5 @@ class ModifierKeys {
     /// The modifiers held, where they are the same in all layouts and nothing is left of them afterwards.
     std::array<xkb_mod_mask_t, 256> m_momentary{};
     KeycodeSet m_locks;
+    xkb_mod_mask_t m_lockable = 0;
 };

@@ -5,6 +5,7 @@
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
+#include "platform/keymap/KeypadDigit.h"
 
 namespace {
 
@@ -35,7 +36,8 @@ Result<Stroke> planModifiers(const Keymap& keymap, std::uint32_t modifiers) {
     return stroke;
 }
 
-Result<Stroke> planStroke(const Keymap& keymap, std::uint32_t keyCode, std::uint32_t modifiers) {
+Result<Stroke> planStroke(const Keymap& keymap, std::uint32_t keyCode, std::uint32_t modifiers,
+                          xkb_layout_index_t layout) {
     const std::uint32_t baseCode = keycode::baseOf(keyCode);
     if (baseCode == keycode::power) {
         return Error{"The power key cannot be pressed by a script.", "Take key code 127 out of the script."};
@@ -50,13 +52,15 @@ Result<Stroke> planStroke(const Keymap& keymap, std::uint32_t keyCode, std::uint
         stroke.lockMask |= keymap.masks().capsLock;
         stroke.lockValues |= keymap.masks().capsLock;
     }
-    if (const auto layout = keycode::layoutOf(keyCode)) {
-        if (*layout >= xkb_keymap_num_layouts(keymap.get())) return noLayout(*layout);
-        stroke.group = static_cast<std::int8_t>(*layout);
+    if (const auto wanted = keycode::layoutOf(keyCode)) {
+        if (*wanted >= xkb_keymap_num_layouts(keymap.get())) return noLayout(*wanted);
+        stroke.group = static_cast<std::int8_t>(*wanted);
     }
     if (keycode::isKeypadDigit(baseCode)) {
         stroke.lockMask |= keymap.masks().numLock;
-        stroke.lockValues |= keymap.masks().numLock;
+        const xkb_mod_mask_t around = stroke.modifiers & ~keymap.masks().commands();
+        stroke.lockValues |=
+            numLockForDigit(keymap, keycode, around, keycode::layoutOf(keyCode).value_or(layout));
     }
     return stroke;
 }

@@ -8,10 +8,11 @@
 /// The stroke of a key code with modifiers (platform/KeyCodes.h, platform/Modifiers.h).
 ///
 /// A code without a key plays nothing: its stroke has key code 0. A keypad digit sets Num Lock so that the
-/// digit is typed, Caps Lock is locked around the stroke, the function key is ignored. Fails for the power
-/// key, for a layout that the keymap has not, and for a modifier or chooser that no key of it holds (see
-/// Keymap::real()).
-Result<Stroke> planStroke(const Keymap& keymap, std::uint32_t keyCode, std::uint32_t modifiers);
+/// digit is typed in the group `layout`, Caps Lock is locked around the stroke, the function key is ignored.
+/// Fails for the power key, for a layout that the keymap has not, and for a modifier or chooser that no key
+/// of it holds (see Keymap::real()).
+Result<Stroke> planStroke(const Keymap& keymap, std::uint32_t keyCode, std::uint32_t modifiers,
+                          xkb_layout_index_t layout = 0);
 
 /// The locks that matter for the characters of a text, which must be off for each: all but Num Lock, since no
 /// character is typed by a key that depends on that.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <utility>
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
@@ -99,8 +100,19 @@ void HotKeyTable::followKeymap() {
     for (Row* row : moved) tryRow(*row);
 }
 
+void HotKeyTable::followLocks() {
+    const xkb_mod_mask_t locked = lockedHolds();
+    if (std::exchange(m_lockedHolds, locked) != locked) followKeymap();
+}
+
+xkb_mod_mask_t HotKeyTable::lockedHolds() const {
+    const ModifierMasks& masks = m_keyboard.keymap().masks();
+    return m_keyboard.components().locked & (masks.shift | masks.control | masks.option | masks.command);
+}
+
 bool HotKeyTable::lift(std::uint8_t keycode, std::uint16_t modifiers) {
-    const std::optional<HotKeyId> id = find(keycode, modifiers);
+    const auto inForce = static_cast<std::uint16_t>(modifiers | lockedHolds());
+    const std::optional<HotKeyId> id = find(keycode, inForce);
     return id && liftRow(m_rows[*id]);
 }
 
@@ -175,9 +187,11 @@ Result<KeyGrab> HotKeyTable::grabFor(const HotKeyRequest& request) const {
     if (keycode == 0) return Error{"this desktop has no such key", chooseAnother};
     const auto modifiers = keymap.real(request.modifiers, request.keyCode);
     if (!modifiers) return Error{clauseOf(modifiers.error().message), chooseAnother};
+    const ModifierMasks& masks = keymap.masks();
+    const xkb_mod_mask_t lockedLevels = (masks.thirdLevel | masks.fifthLevel) & keymap.keys().lockable();
     return KeyGrab{.keycode = keycode,
-                   .modifiers = static_cast<std::uint16_t>(modifiers.value()),
-                   .locks = static_cast<std::uint16_t>(keymap.masks().locks())};
+                   .modifiers = static_cast<std::uint16_t>(modifiers.value() | lockedHolds()),
+                   .locks = static_cast<std::uint16_t>(masks.locks() | lockedLevels)};
 }
 
 bool HotKeyTable::isHeld(const KeyGrab& grab) const {

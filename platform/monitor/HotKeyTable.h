@@ -14,7 +14,8 @@
 class HotKeyTable {
   public:
     /// Both outlive this.
-    HotKeyTable(KeyGrabber& grabs, const KeyboardState& keyboard) : m_grabs(grabs), m_keyboard(keyboard) {}
+    HotKeyTable(KeyGrabber& grabs, const KeyboardState& keyboard)
+        : m_grabs(grabs), m_keyboard(keyboard), m_lockedHolds(lockedHolds()) {}
 
     void observe(HotKeys::Observer observer) { m_observer = std::move(observer); }
     void request(const HotKeyRequest& request);
@@ -33,6 +34,9 @@ class HotKeyTable {
 
     /// Moves the grabs whose key or modifiers are others in the new keymap.
     void followKeymap();
+    /// The same where Shift, Control, Alt or Super is locked now and was not, or the other way round: other
+    /// locks do not matter for a combination, but these are part of it.
+    void followLocks();
 
     /// Gives the combination of these real modifiers free until restoreAll(); false, and nothing done, if it
     /// is none of ours or has been given free already.
@@ -63,6 +67,8 @@ class HotKeyTable {
     void settle(Row& row, HotKeyState state);
     /// The grab of a request, or why there can be none.
     Result<KeyGrab> grabFor(const HotKeyRequest& request) const;
+    /// Those of Shift, Control, Alt and Super that are locked.
+    xkb_mod_mask_t lockedHolds() const;
     /// By one of the rows.
     bool isHeld(const KeyGrab& grab) const;
     std::string combinationText(const HotKeyRequest& request) const;
@@ -71,4 +77,5 @@ class HotKeyTable {
     const KeyboardState& m_keyboard;
     HotKeys::Observer m_observer;
     std::map<HotKeyId, Row> m_rows;
+    xkb_mod_mask_t m_lockedHolds = 0;
 };

@@ -84,6 +84,12 @@ TEST(MaskShaperTest, theKeypadIsWhatWasTyped) {
     check(*namedKeymap("de"), {{xkey::keypadPoint, xmask::numLock, {65, ',', 0}}});
 }
 
+TEST(MaskShaperTest, aDigitOfTheKeypadIsOneInWhicheverStateOfNumLockTypesIt) {
+    check(*namedKeymap("de(neo)"), {{xkey::keypadOne, 0, {83, '1', 0}},
+                                    {xkey::keypadOne, xmask::numLock, {119, 0, 0}},
+                                    {xkey::keypadFive, xmask::numLock, {87, 0, 0}}});
+}
+
 TEST(MaskShaperTest, aDigitThatShiftTypedWithoutNumLockIsTheDigitAlone) {
     check(*namedKeymap("us", "keypad:oss"), {{xkey::keypadOne, xmask::shift, {83, '1', 0x800000}}});
 }

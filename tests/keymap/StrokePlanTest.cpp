@@ -72,6 +72,14 @@ TEST(StrokePlanTest, aKeypadDigitNeedsNumLock) {
               (Stroke{.keycode = 87, .lockMask = 0x10, .lockValues = 0x10}));
 }
 
+TEST(StrokePlanTest, aKeypadDigitNeedsTheStateOfNumLockThatTypesIt) {
+    // Num Lock gives arrows there.
+    EXPECT_EQ(planStroke(*namedKeymap("de(neo)"), key::keypadOne, 0).value(),
+              (Stroke{.keycode = 87, .lockMask = 0x10}));
+    EXPECT_EQ(planStroke(*namedKeymap("us"), key::keypadOne, modifier::control).value(),
+              (Stroke{.keycode = 87, .modifiers = 0x04, .lockMask = 0x10, .lockValues = 0x10}));
+}
+
 TEST(StrokePlanTest, aModifierWithoutAKeyIsNamed) {
     // The keys of Super are keys of Alt there.
     const auto stroke = planStroke(*namedKeymap("us", "altwin:alt_win"), 0, modifier::command);
@@ -90,6 +98,14 @@ TEST(ModifierKeysTest, optionsThatMoveModifiersAreFollowed) {
 TEST(ModifierKeysTest, aKeyThatChoosesInOneGroupOnlyIsNotTaken) {
     EXPECT_EQ(namedKeymap("de")->keys().keyFor(0x80), 108);
     EXPECT_EQ(namedKeymap("us,de")->keys().keyFor(0x80), 92);
+}
+
+TEST(ModifierKeysTest, whatAnyKeyLocksOnAnyLevelIsKnown) {
+    EXPECT_EQ(namedKeymap("us")->keys().lockable(), 0x12U);
+    EXPECT_EQ(namedKeymap("us", "caps:shiftlock")->keys().lockable(), 0x11U);
+    EXPECT_EQ(namedKeymap("us", "shift:both_capslock,caps:none")->keys().lockable(), 0x12U);
+    // The fifth level is locked by one of its choosers under the other.
+    EXPECT_EQ(namedKeymap("de(neo)")->keys().lockable(), 0x22U);
 }
 
 TEST(ModifierKeysTest, lockKeysHoldNothingAfterwardsButTheirLock) {

@@ -157,6 +157,31 @@ TEST_F(HotKeyTableTest, aLiftedCombinationIsFreeUntilItIsRestored) {
     EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
 }
 
+TEST_F(HotKeyTableTest, aLevelThatAKeyLocksDoesNotMatterForACombination) {
+    changeKeymap("de(neo)", "");
+    m_table.request(asked(record));
+    EXPECT_EQ(m_grabber.held, (std::vector{KeyGrab{.keycode = keyOfR, .modifiers = 0x44, .locks = 0x32}}));
+    EXPECT_EQ(m_table.find(keyOfR, 0x44 | 0x20), record);
+}
+
+TEST_F(HotKeyTableTest, aLockedShiftIsPartOfTheGrabForAsLongAsItLasts) {
+    m_table.request(asked(record));
+    m_table.request(asked(play, modifier::control));
+    m_keyboard.adopt({.locked = 0x01});
+    m_table.followLocks();
+    EXPECT_EQ(m_table.find(keyOfR, 0x45), record);
+    EXPECT_EQ(m_table.find(keyOfR, 0x05), play);
+    EXPECT_EQ(m_grabber.held, (std::vector{KeyGrab{.keycode = keyOfR, .modifiers = 0x45, .locks = 0x12},
+                                           KeyGrab{.keycode = keyOfR, .modifiers = 0x05, .locks = 0x12}}));
+    EXPECT_TRUE(m_table.lift(keyOfR, 0x44));
+    m_keyboard.adopt({});
+    m_table.followLocks();
+    EXPECT_EQ(m_grabber.held, (std::vector{KeyGrab{.keycode = keyOfR, .modifiers = 0x04, .locks = 0x12}}));
+    m_table.restoreAll(keyOfR);
+    EXPECT_EQ(m_table.find(keyOfR, 0x44), record);
+    EXPECT_EQ(m_table.find(keyOfR, 0x45), std::nullopt);
+}
+
 TEST_F(HotKeyTableTest, allCombinationsOfAKeyAreFreeUntilTheyAreRestored) {
     m_table.request(asked(record));
     m_table.request(asked(play, modifier::control));

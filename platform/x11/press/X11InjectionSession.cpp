@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/press/X11InjectionSession.h"
 
+#include "platform/KeyCodes.h"
 #include "platform/keymap/StrokePlan.h"
 #include "platform/run/TextPlan.h"
 
@@ -174,10 +175,23 @@ Step<> X11InjectionSession::prepareStroke(xkb_mod_mask_t commands) {
 Step<> X11InjectionSession::stroke(std::uint32_t keyCode, std::uint32_t modifiers) {
     return take([&]() -> Step<> {
         if (auto followed = m_typer.followKeymap(!m_hasBegun); !followed) return followed;
-        const auto stroke = planStroke(m_tools.keymap.keymap(), keyCode, modifiers);
+        const auto stroke = plan(keyCode, modifiers);
         if (!stroke) return stroke.error();
         return stroke.value().keycode == 0 ? m_waiter.heedUser() : play(stroke.value());
     });
+}
+
+/// Which lock types a digit of the keypad depends on the layout.
+Step<Stroke> X11InjectionSession::plan(std::uint32_t keyCode, std::uint32_t modifiers) const {
+    xkb_layout_index_t layout = 0;
+    if (keycode::isKeypadDigit(keycode::baseOf(keyCode))) {
+        const auto state = m_tools.connection.synchronise();
+        if (!state) return state.error();
+        layout = state.value().lockedLayout;
+    }
+    const auto stroke = planStroke(m_tools.keymap.keymap(), keyCode, modifiers, layout);
+    if (!stroke) return stroke.error();
+    return stroke.value();
 }
 
 Step<> X11InjectionSession::play(const Stroke& stroke) {
@@ -254,7 +268,7 @@ X11InjectionSession::Strokes X11InjectionSession::strokesOfModifier(std::uint32_
 }
 
 X11InjectionSession::Strokes X11InjectionSession::strokesOfCode(std::uint32_t keyCode) const {
-    const auto stroke = planStroke(m_tools.keymap.keymap(), keyCode, 0);
+    const auto stroke = plan(keyCode, 0);
     if (!stroke) return stroke.error();
     return std::vector{stroke.value()};
 }

@@ -67,6 +67,7 @@ class X11InjectionSession final : public InjectionSession {
     Step<> awaitGuard();
     Step<> stopProcess();
 
+    Step<Stroke> plan(std::uint32_t keyCode, std::uint32_t modifiers) const;
     Step<> play(const Stroke& stroke);
     Step<> type(std::string_view text, std::uint32_t modifiers);
     Step<> prepareTexts();

@@ -87,6 +87,7 @@ void EventOrder::noteHotKeyRelease(const RawKey& release) {
 
 void EventOrder::handle(const StateChange& change) {
     m_rules.keyboard.confirm(change.components, change.keycode, change.press);
+    m_rules.hotKeys.followLocks();
 }
 
 void EventOrder::handle(const KeymapTouched&) { m_keymapTouched(); }
