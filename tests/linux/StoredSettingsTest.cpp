@@ -262,7 +262,8 @@ TEST_P(UselessTargetTest, staysAndOnlyTheLinkIsPutAside) {
     EXPECT_EQ(fs::symlink_status(others).type(), type);
     store.setInteger("b", 2);
     EXPECT_TRUE(store.synchronize());
-    EXPECT_FALSE(fs::is_symlink(file));
+    // Nobody writes to the device, so that reading it would take for ever.
+    ASSERT_FALSE(fs::is_symlink(file));
     EXPECT_EQ(contentOf(file), "[Settings]\nb=2\n");
     EXPECT_TRUE(GetParam() != "text" || contentOf(others) == "anybody's");
 }
