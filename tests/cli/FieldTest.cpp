@@ -102,7 +102,10 @@ TEST_F(LateReaderTest, aProgramThatNeverReadsEndsTheWait) {
     const Editor editor(display(), Editor::Toolkit::gtk);
     const StoppedProgram stopped(editor.pid());
     Play play(display(), fieldscript::source);
-    EXPECT_EQ(play.program().wait(), 0) << play.output();
+    EXPECT_EQ(play.program().wait(std::chrono::minutes(1)), 1);
+    EXPECT_NE(play.output().find("The program that is typed into reads nothing; not typed: \""),
+              std::string::npos)
+        << play.output();
 }
 
 }  // namespace

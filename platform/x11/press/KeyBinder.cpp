@@ -132,10 +132,14 @@ void KeyBinder::noteReader() {
 Step<bool> KeyBinder::awaitReaders(const SpareSlots::Plan& plan, RunWait& wait) {
     if (!plan.notBefore) return true;
     if (const auto waited = wait.waitUntil(*plan.notBefore); !waited) return waited.error();
-    return m_receivers.await(wait, m_patience);
+    auto isRead = m_receivers.await(wait, m_patience);
+    m_hasGivenUp = isRead && !isRead.value();
+    return isRead;
 }
 
-Step<bool> KeyBinder::awaitReaders(RunWait& wait) { return awaitReaders(wait, m_patience); }
+Step<bool> KeyBinder::awaitReaders(RunWait& wait) {
+    return awaitReaders(wait, m_hasGivenUp ? longestOfExit : m_patience);
+}
 
 Step<bool> KeyBinder::awaitReaders(RunWait& wait, std::chrono::milliseconds longest) {
     const auto rested = m_slots.restUntil();

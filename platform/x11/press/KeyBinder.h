@@ -65,6 +65,8 @@ class KeyBinder {
     Receivers& m_receivers;
     Clock& m_clock;
     std::chrono::milliseconds m_patience;
+    /// The last time that keys were to be bound anew; nobody waits as long a second time.
+    bool m_hasGivenUp = false;
     BoundKeysRecord m_record;
     SpareSlots m_slots;
     std::uint8_t m_levels = 0;

@@ -120,7 +120,10 @@ void RepeatSource::resume() {
 }
 
 void RepeatSource::read() {
+    // Both are told of each new keymap. Before the replies: what is read along with events tells of itself no
+    // more.
     while (const Event unused = m_control.nextEvent()) continue;
+    while (const Event unused = m_data.nextEvent()) continue;
     void* reply = nullptr;
     xcb_generic_error_t* error = nullptr;
     while (m_recording && xcb_poll_for_reply(m_data, m_sequence, &reply, &error) != 0) {

@@ -16,9 +16,15 @@ namespace x11 {
 
 namespace {
 
-constexpr std::chrono::milliseconds betweenLooks{2};
+constexpr std::chrono::milliseconds shortestPause{2};
+constexpr std::chrono::milliseconds longestPause{50};
 /// What is left to a program on another machine, which nobody can ask.
 constexpr std::chrono::milliseconds farAway{2000};
+
+/// Between two looks at a program: the longer it has been waited for, the less a little more matters.
+Clock::Time::duration pauseAfter(Clock::Time::duration waited) {
+    return std::clamp<Clock::Time::duration>(waited / 20, shortestPause, longestPause);
+}
 
 }  // namespace
 
@@ -145,7 +151,8 @@ Step<bool> Receivers::await(RunWait& wait, std::chrono::milliseconds longest) {
     Step<> waited;
     follow(receivers, start);
     while (waited && !areDone(receivers) && m_clock.now() < start + longest) {
-        waited = wait.waitUntil(m_clock.now() + betweenLooks);
+        const Clock::Time now = m_clock.now();
+        waited = wait.waitUntil(now + pauseAfter(now - start));
         if (waited) follow(receivers, start);
     }
     selectAnswers(false);

@@ -346,4 +346,16 @@ TEST_F(WithoutRecordTest, everythingButRepeatsWorksAndThatIsSaid) {
                           "down 0 a 0x0", "up 0"}));
 }
 
+// A run that waits sleeps: every client is told of a keymap, those of the run that want nothing of it too.
+TEST_F(RunWatchTest, aKeymapThatIsSetWhileARunLastsKeepsNothingAwake) {
+    watch().runStarts();
+    outputOf({"setxkbmap", "-layout", "fr"}, {{"DISPLAY", servers().display()}});
+    EXPECT_TRUE(drainUntil([this] {
+        pollfd readable{.fd = watch().fileDescriptor(), .events = POLLIN, .revents = 0};
+        constexpr int aWhile = 100;
+        return poll(&readable, 1, aWhile) == 0;
+    }));
+    watch().runEnds();
+}
+
 }  // namespace
