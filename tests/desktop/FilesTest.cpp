@@ -98,7 +98,8 @@ TEST_F(FilesTest, nothingIsWrittenButWhatItIsMeantToWrite) {
     for (const std::string& file : {settings, macro})
         EXPECT_EQ(desktop.run({"stat", "--format=%a", desktop.home() + "/" + file}), "600\n");
     // By it a second start without a bus finds the first.
-    EXPECT_EQ(filesIn(desktop.file("runtime")), std::set<std::string>{"keyrill/running"});
+    EXPECT_EQ(filesIn(desktop.file("runtime")),
+              std::set<std::string>{"keyrill/running-" + desktop.display()});
     EXPECT_EQ(desktop.run({"desktop-file-validate", desktop.home() + "/" + loginItem}), "");
 }
 

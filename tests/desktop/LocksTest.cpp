@@ -83,7 +83,7 @@ TEST_P(LocksTest, whatTheUserTapsMeanwhileChangesNothingThatArrivesAndIsTheirsAf
     for (const std::uint8_t before : states) {
         SCOPED_TRACE(nameOfLocks(before));
         set(before);
-        Play play(desktop.display(), "tell application \"System Events\"\n" + strokes + "delay 0.5\n" +
+        Play play(desktop.display(), "tell application \"System Events\"\n" + strokes + "delay 2\n" +
                                          strokes + strokes + "end tell\n");
         EXPECT_EQ(typedNext(7), "cDcd1xY");
         tap(tapped());

@@ -5,6 +5,7 @@
 
 #include "desktop/DesktopTest.h"
 #include "desktop/SavedMacro.h"
+#include "display/KeyboardProbe.h"
 #include "display/Typist.h"
 #include "platform/Utf8.h"
 
@@ -99,6 +100,8 @@ TEST_F(ScriptMacroTest, aProgramThatIsBusyForSecondsGets200CharactersOfNoLayout)
     ASSERT_TRUE(terminal->hasFocus());
     ASSERT_EQ(kill(terminal->pid(), SIGSTOP), 0);
     play();
+    const KeyboardProbe probe(desktop.display());
+    ASSERT_TRUE(eventually([&] { return probe.hasProperty("_KEYRILL_BOUND_KEYS"); }));
     const Hands nobody(desktop.display());
     Typist(nobody, Typist::Gap(0)).hold(std::chrono::seconds(6));
     ASSERT_EQ(kill(terminal->pid(), SIGCONT), 0);

@@ -78,6 +78,15 @@ void CoreClient::ungrabKeyboard() const {
     m_connection.roundTrip();
 }
 
+void CoreClient::grabPointer() const {
+    const x11::XReply<xcb_grab_pointer_reply_t> reply(xcb_grab_pointer_reply(
+        m_connection,
+        xcb_grab_pointer(m_connection, 0, m_window, XCB_EVENT_MASK_BUTTON_PRESS, XCB_GRAB_MODE_ASYNC,
+                         XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME),
+        nullptr));
+    if (!reply || reply->status != XCB_GRAB_STATUS_SUCCESS) throw std::runtime_error("no pointer grab");
+}
+
 void CoreClient::claimToAnswerPings() const {
     const xcb_atom_t ping = m_connection.atom("_NET_WM_PING");
     xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window, m_connection.atom("WM_PROTOCOLS"),

@@ -33,6 +33,8 @@ class CoreClient {
     bool grabKey(std::uint8_t keycode, std::uint16_t modifiers) const;
     void grabKeyboard() const;
     void ungrabKeyboard() const;
+    /// For the life of the client.
+    void grabPointer() const;
     /// Says of its window that it answers _NET_WM_PING, which it never does.
     void claimToAnswerPings() const;
 

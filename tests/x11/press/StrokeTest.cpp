@@ -140,6 +140,7 @@ TEST_F(StrokeTest, aHeldCapitalHoldsShiftToo) {
 }
 
 TEST_F(StrokeTest, aHeldCharacterIsThatOneUnderALockThatTheRunHasTapped) {
+    command({"xset", "r", "off"});
     const auto session = run();
     ASSERT_TRUE(session->stroke(key::capsLock, 0));
     ASSERT_TRUE(session->keyDown(HeldText{"a"}));
@@ -279,6 +280,7 @@ TEST_F(StrokeTest, aHotKeyOfOursReachesTheApplicationAndFiresNothing) {
 }
 
 TEST_F(StrokeTest, aHotKeyThatTheRunHoldsReachesTheApplicationUntilItIsReleased) {
+    command({"xset", "r", "off"});
     int pressed = 0;
     program().manager().install([&pressed](HotKeyId) { ++pressed; }, [](HotKeyId) {});
     program().manager().request({.id = 3, .name = "play", .keyCode = key::p, .modifiers = modifier::control});
