@@ -3,6 +3,7 @@
 // Programs that take the keyboard for themselves while a macro is recorded or played: lockers that tell no
 // desktop of it, and menus and games, which lose nothing.
 #include <signal.h>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <functional>
@@ -155,6 +156,26 @@ TEST_F(HolderTest, aMacroThatPlaysTypesNothingIntoALocker) {
     ASSERT_TRUE(eventually([this] { return terminal->typed().ends_with('.'); }));
     typist.hold(std::chrono::milliseconds(500));
     EXPECT_TRUE(terminal->typed().ends_with('.'));
+}
+
+/// As desktops say it on the session bus.
+TEST_F(HolderTest, aMacroThatPlaysEndsWhenTheDesktopLocksTheScreen) {
+    const std::string commands = desktop.file("commands");
+    ASSERT_EQ(mkfifo(commands.c_str(), S_IRUSR | S_IWUSR), 0);
+    desktop.startBus();
+    const Child saver({KEYRILL_BUS_STANDIN, desktop.bus().address(), commands, "saver"},
+                      desktop.options("saver.log"));
+    ASSERT_TRUE(eventually([this] { return contentOf(desktop.file("saver.log")) == "ready\n"; }));
+    start("repeat 2000 times\ntell application \"System Events\" to key code 0\ndelay 0.01\nend repeat\n");
+    command(xkey::p);
+    terminal->typed(20);
+    std::ofstream(commands) << "active 1\n" << std::flush;
+    EXPECT_TRUE(eventually([this] {
+        const std::size_t before = terminal->typed().size();
+        typist.hold(std::chrono::milliseconds(500));
+        return terminal->typed().size() == before;
+    }));
+    EXPECT_LT(terminal->typed().size(), 1500U);
 }
 
 /// The overlay stays to be seen under a locker that leaves the screen as it is.

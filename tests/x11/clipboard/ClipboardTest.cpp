@@ -156,6 +156,21 @@ TEST_F(ClipboardTest, anOwnerThatHangsIsGivenUp) {
     EXPECT_EQ(textOf(clipboard), "never");
 }
 
+TEST_F(ClipboardTest, anOwnerThatHangsHoldsUpNobodyWhoHasStopped) {
+    copy("never");
+    copied().signal(SIGSTOP);
+    int questions = 0;
+    clipboard.heedStops([&questions] {
+        ++questions;
+        return true;
+    });
+    EXPECT_EQ(textOf(clipboard), "");
+    // One for each form that is asked for, and none again.
+    EXPECT_GE(questions, 1);
+    EXPECT_LE(questions, 10);
+    copied().signal(SIGCONT);
+}
+
 TEST_F(ClipboardTest, hasNobodyToHandItOverToWithoutAManager) {
     EXPECT_FALSE(clipboard.handOver());
     ASSERT_TRUE(clipboard.set("text"));
