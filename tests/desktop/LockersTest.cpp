@@ -108,7 +108,7 @@ TEST_P(LockersTest, whatIsTypedIntoOneIsNotRecorded) {
     typePassword();
     if (locker->isRunning()) endLocker();
     awaitGrab(false);
-    typist.hold(std::chrono::milliseconds(300));
+    typist.hold(std::chrono::milliseconds(1000));
     typist.tap(xkey::z);
     stop();
     EXPECT_EQ(terminal->typed(3), "abz");
