@@ -15,6 +15,7 @@ BEGIN {
     room("platform/keymap", "platform", standard "|^xkbcommon/xkbcommon\\.h$", "")
     room("platform/monitor", "platform platform/keymap", standard "|^xkbcommon/xkbcommon\\.h$", "")
     room("platform/run", "platform", "", foreign)
+    room("platform/press", "platform platform/keymap platform/run", standard "|^xkbcommon/xkbcommon\\.h$", "")
     room("platform/linux", "platform", "", foreign)
 
     below = "platform"
@@ -31,13 +32,17 @@ BEGIN {
     x11("clipboard", "platform platform/x11/server")
     x11("windows", "platform platform/run platform/x11/clipboard platform/x11/server")
     x11("watch", "platform platform/keymap platform/monitor platform/run platform/x11/keymap platform/x11/server")
-    x11("press", "platform platform/keymap platform/run platform/x11/guard platform/x11/keymap" \
+    x11("press", "platform platform/keymap platform/press platform/run platform/x11/guard platform/x11/keymap" \
                  " platform/x11/server platform/x11/windows")
     room("platform/x11", "platform platform/none platform/x11/press platform/x11/server platform/x11/watch" \
                          " platform/x11/windows", "", "^(Q|boost/|wayland)")
 
+    room("platform/desktops", "platform", "", foreign)
+    room("platform/wayland", "platform platform/desktops platform/keymap platform/none platform/press platform/run", "",
+         "^(Q|boost/|xcb/|X11/)")
+
     # The one list of sessions: nothing else that is no part of a session knows one.
-    room("platform/sessions", "platform platform/x11", "", foreign)
+    room("platform/sessions", "platform platform/wayland platform/x11", "", foreign)
 
     room("core", "platform", standard "|^boost/", "")
     room("prefs", "core platform", standard "|^boost/", "")

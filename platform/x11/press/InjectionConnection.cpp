@@ -3,10 +3,17 @@
 
 #include <xcb/xtest.h>
 
+#include <bit>
+
 #include "platform/x11/server/Extensions.h"
 #include "platform/x11/server/XcbXkb.h"
 
 namespace x11 {
+
+namespace {
+constexpr std::size_t keyEventSize = 36;
+constexpr std::size_t lockSize = 16;
+}  // namespace
 
 Result<InjectionConnection> InjectionConnection::open(const std::string& display, RunWatch& watch) {
     auto connection = XConnection::open(display);
@@ -16,6 +23,12 @@ Result<InjectionConnection> InjectionConnection::open(const std::string& display
         Extensions(connection.value()).use({Extension::test, Extension::keyboard, Extension::input});
     if (!usable) return usable.error();
     return InjectionConnection(std::move(connection).value(), watch);
+}
+
+std::size_t InjectionConnection::sizeOf(const Stroke& stroke) {
+    const auto modifiers = static_cast<std::size_t>(std::popcount(stroke.modifiers));
+    constexpr std::size_t locksAndGroups = 5;
+    return (modifiers + 2) * 2 * keyEventSize + locksAndGroups * lockSize;
 }
 
 void InjectionConnection::press(std::uint8_t keycode) { fake(keycode, true); }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/keymap/Stroke.h"
+#include "platform/press/KeyOutput.h"
 #include "platform/run/RunWatch.h"
 #include "platform/x11/keymap/ServerKeymap.h"
 #include "platform/x11/server/XConnection.h"
@@ -13,33 +15,30 @@ namespace x11 {
 /// event drops the requests that are still to be worked off, and a key that was pressed by those before them
 /// stays down. For the same reason strokes leave whole: what belongs together is queued between two calls of
 /// reserve() or flush(), and xcb never has to cut its queue.
-class InjectionConnection {
+class InjectionConnection final : public KeyOutput {
   public:
     /// Fails with a hint where the server lacks XTEST, XKB or XInput 2.2.
     static Result<InjectionConnection> open(const std::string& display, RunWatch& watch);
 
     /// What xcb sends in one piece, and what is safe between two round trips.
     static constexpr std::size_t capacity = 16384;
-    static constexpr std::size_t keyEventSize = 36;
-    static constexpr std::size_t lockSize = 16;
+    /// What a stroke, with the way to its locks and group and back, takes of that at most.
+    static std::size_t sizeOf(const Stroke& stroke);
 
     /// Whether that much more can be queued before the next flush.
     bool hasRoomFor(std::size_t bytes) const { return m_queued + bytes <= capacity; }
 
-    /// Queued, and announced to the watch.
-    void press(std::uint8_t keycode);
-    void release(std::uint8_t keycode);
+    // KeyOutput; keys are also announced to the watch.
+    void press(std::uint8_t keycode) override;
+    void release(std::uint8_t keycode) override;
+    void lockModifiers(xkb_mod_mask_t mask, xkb_mod_mask_t values) override;
+    void lockGroup(xkb_layout_index_t group) override;
+    void flush() override;
+    Result<XkbComponents> synchronise() override;
+
     void press(const KeycodeSet& keycodes);
     void release(const KeycodeSet& keycodes);
-    /// Queued. Of the real modifiers in `mask` those in `values` are locked, the others unlocked.
-    void lockModifiers(xkb_mod_mask_t mask, xkb_mod_mask_t values);
-    void lockGroup(xkb_layout_index_t group);
     void clearLatches();
-
-    void flush();
-    /// Flushes, waits until the server has worked all of it off, and tells the state then. Fails when the
-    /// connection is lost.
-    Result<XkbComponents> synchronise();
 
     xcb_connection_t* get() const { return m_connection.get(); }
     xcb_window_t root() const { return m_connection.root(); }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/press/SpareSlots.h"
 #include "platform/x11/keymap/BoundKeysRecord.h"
 #include "platform/x11/keymap/KeyboardMaps.h"
 #include "platform/x11/keymap/KeymapWatch.h"
 #include "platform/x11/press/InjectionConnection.h"
-#include "platform/x11/press/SpareSlots.h"
 #include "platform/x11/windows/Receivers.h"
 
 namespace x11 {

@@ -130,7 +130,7 @@ Step<std::size_t> TextTyper::typePart(std::span<const char32_t> characters, cons
             stroke.modifiers |= around.modifiers;
             stroke.lockMask = around.lockMask;
             stroke.lockValues = around.lockValues;
-            if (!m_tools.connection.hasRoomFor(StrokeSender::sizeOf(stroke))) break;
+            if (!m_tools.connection.hasRoomFor(InjectionConnection::sizeOf(stroke))) break;
             if (const auto sent = m_sender.send(m_tools.keymap.keymap(), stroke, held); !sent)
                 return sent.error();
             m_tools.characters.noteTyped(characters[at], group, *typing);

@@ -4,10 +4,10 @@
 #include <functional>
 #include <span>
 
+#include "platform/press/StrokeSender.h"
 #include "platform/run/RunWaiter.h"
 #include "platform/x11/press/CharacterKeys.h"
 #include "platform/x11/press/HandsAndLocks.h"
-#include "platform/x11/press/StrokeSender.h"
 
 namespace x11 {
 

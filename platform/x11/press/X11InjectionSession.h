@@ -3,12 +3,12 @@
 
 #include <functional>
 
+#include "platform/press/HeldKeys.h"
+#include "platform/press/TailWait.h"
 #include "platform/run/Pacer.h"
 #include "platform/x11/guard/PlayingMark.h"
 #include "platform/x11/press/GrabWait.h"
 #include "platform/x11/press/HandsWait.h"
-#include "platform/x11/press/HeldKeys.h"
-#include "platform/x11/press/TailWait.h"
 #include "platform/x11/press/TextTyper.h"
 
 namespace x11 {

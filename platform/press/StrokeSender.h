@@ -4,21 +4,17 @@
 #include "platform/XkbCodes.h"
 #include "platform/keymap/Keymap.h"
 #include "platform/keymap/Stroke.h"
-#include "platform/x11/press/ModifierTail.h"
-
-namespace x11 {
+#include "platform/press/ModifierTail.h"
+#include "platform/run/RunWatch.h"
 
 /// Turns strokes into key events, locks and groups around them included.
 class StrokeSender {
   public:
-    StrokeSender(InjectionConnection& connection, RunWatch& watch, ModifierTail& tail)
-        : m_connection(connection), m_watch(watch), m_tail(tail) {}
+    StrokeSender(KeyOutput& output, RunWatch& watch, ModifierTail& tail)
+        : m_output(output), m_watch(watch), m_tail(tail) {}
 
     /// The state that the next strokes meet; home() goes back to its locks and its group.
     void meet(const XkbComponents& state);
-
-    /// What the stroke, and going home after it, takes of the connection's queue at most.
-    static std::size_t sizeOf(const Stroke& stroke);
 
     /// Queues a stroke; the modifiers that the keys in `held` hold are down already. Its own go into the
     /// tail. One that is a hot key of ours is let through to the application, and has been sent when the call
@@ -38,7 +34,7 @@ class StrokeSender {
     void keepGroup(const ModifierKeys& keys);
     void lockModifiers(xkb_mod_mask_t locks);
 
-    InjectionConnection& m_connection;
+    KeyOutput& m_output;
     RunWatch& m_watch;
     ModifierTail& m_tail;
     xkb_mod_mask_t m_homeLocks = 0;
@@ -46,5 +42,3 @@ class StrokeSender {
     xkb_layout_index_t m_homeGroup = 0;
     xkb_layout_index_t m_group = 0;
 };
-
-}  // namespace x11

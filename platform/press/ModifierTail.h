@@ -5,9 +5,7 @@
 
 #include "platform/Clock.h"
 #include "platform/XkbCodes.h"
-#include "platform/x11/press/InjectionConnection.h"
-
-namespace x11 {
+#include "platform/press/KeyOutput.h"
 
 /// The modifier keys of a stroke with Control, Alt or Super, which stay down for a while after its key.
 ///
@@ -19,8 +17,7 @@ class ModifierTail {
     /// From the key's release to theirs; openbox needs 20 ms.
     static constexpr std::chrono::milliseconds length{30};
 
-    ModifierTail(InjectionConnection& connection, const Clock& clock)
-        : m_connection(connection), m_clock(clock) {}
+    ModifierTail(KeyOutput& output, const Clock& clock) : m_output(output), m_clock(clock) {}
 
     bool isDown() const { return !m_keys.empty(); }
     KeycodeSet keycodes() const;
@@ -44,11 +41,9 @@ class ModifierTail {
     void forget() { m_keys.clear(); }
 
   private:
-    InjectionConnection& m_connection;
+    KeyOutput& m_output;
     const Clock& m_clock;
     std::vector<std::uint8_t> m_keys;
     xkb_mod_mask_t m_commands = 0;
     Clock::Time m_end = {};
 };
-
-}  // namespace x11

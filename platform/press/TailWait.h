@@ -3,19 +3,17 @@
 
 #include <functional>
 
+#include "platform/press/ModifierTail.h"
 #include "platform/run/RunWaiter.h"
-#include "platform/x11/press/ModifierTail.h"
-
-namespace x11 {
 
 /// Waits as RunWaiter does, and ends a tail of modifiers whose time comes meanwhile.
 class TailWait final : public RunWait {
   public:
     /// `handsHoldModifiers` tells of hands that want the keyboard for a combination of their own.
-    TailWait(ModifierTail& tail, InjectionConnection& connection, RunWaiter& waiter, const Clock& clock,
+    TailWait(ModifierTail& tail, KeyOutput& output, RunWaiter& waiter, const Clock& clock,
              std::function<bool()> handsHoldModifiers)
         : m_tail(tail),
-          m_connection(connection),
+          m_output(output),
           m_waiter(waiter),
           m_clock(clock),
           m_handsHoldModifiers(std::move(handsHoldModifiers)) {}
@@ -32,10 +30,8 @@ class TailWait final : public RunWait {
     void release();
 
     ModifierTail& m_tail;
-    InjectionConnection& m_connection;
+    KeyOutput& m_output;
     RunWaiter& m_waiter;
     const Clock& m_clock;
     std::function<bool()> m_handsHoldModifiers;
 };
-
-}  // namespace x11

@@ -8,8 +8,6 @@
 
 #include "platform/Clock.h"
 
-namespace x11 {
-
 /// One level of a key that the layout leaves unused.
 struct SpareSlot {
     std::uint8_t keycode = 0;
@@ -68,5 +66,3 @@ class SpareSlots {
     std::vector<Entry> m_entries;
     std::unordered_map<char32_t, std::size_t> m_index;
 };
-
-}  // namespace x11

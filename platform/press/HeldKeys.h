@@ -3,9 +3,7 @@
 
 #include <vector>
 
-#include "platform/x11/press/StrokeSender.h"
-
-namespace x11 {
+#include "platform/press/StrokeSender.h"
 
 /// What a run holds down from `key down` to `key up`.
 ///
@@ -13,8 +11,8 @@ namespace x11 {
 /// repeat with the modifiers of a hot key would take the keyboard for it.
 class HeldKeys {
   public:
-    HeldKeys(InjectionConnection& connection, RunWatch& watch, StrokeSender& sender)
-        : m_connection(connection), m_watch(watch), m_sender(sender) {}
+    HeldKeys(KeyOutput& output, RunWatch& watch, StrokeSender& sender)
+        : m_output(output), m_watch(watch), m_sender(sender) {}
 
     bool empty() const { return m_held.empty(); }
     /// All keys that are held, the modifiers that others needed included.
@@ -43,10 +41,8 @@ class HeldKeys {
 
     void release(const Held& held);
 
-    InjectionConnection& m_connection;
+    KeyOutput& m_output;
     RunWatch& m_watch;
     StrokeSender& m_sender;
     std::vector<Held> m_held;
 };
-
-}  // namespace x11

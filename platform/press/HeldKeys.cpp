@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/press/HeldKeys.h"
+#include "platform/press/HeldKeys.h"
 
 #include <algorithm>
 #include <utility>
-
-namespace x11 {
 
 KeycodeSet HeldKeys::keycodes() const {
     KeycodeSet keycodes;
@@ -26,23 +24,23 @@ Result<void> HeldKeys::letGo(std::uint8_t keycode) {
     const Held held = std::move(*place);
     m_held.erase(place);
     release(held);
-    m_connection.flush();
+    m_output.flush();
     if (!held.isLifted) return {};
     // Not before it is up.
-    const auto done = m_connection.synchronise();
+    const auto done = m_output.synchronise();
     m_watch.restoreHotKeysOf(keycode);
     return done ? Result<void>() : done.error();
 }
 
 void HeldKeys::rest() {
     std::for_each(m_held.rbegin(), m_held.rend(), [this](const Held& held) { release(held); });
-    m_connection.flush();
+    m_output.flush();
     bool isSynchronised = false;
     for (Held& held : m_held) {
         if (!std::exchange(held.isLifted, false)) continue;
         if (!std::exchange(isSynchronised, true)) {
             // The state does not matter, nor that it fails: a server that is gone has no keys that are down.
-            [[maybe_unused]] const auto ignored = m_connection.synchronise();
+            [[maybe_unused]] const auto ignored = m_output.synchronise();
         }
         m_watch.restoreHotKeysOf(held.keycode);
     }
@@ -51,9 +49,9 @@ void HeldKeys::rest() {
 void HeldKeys::pressAgain() {
     for (Held& held : m_held) {
         held.isLifted = m_watch.liftHotKeysOf(held.keycode);
-        for (const std::uint8_t keycode : held.pressed) m_connection.press(keycode);
+        for (const std::uint8_t keycode : held.pressed) m_output.press(keycode);
     }
-    m_connection.flush();
+    m_output.flush();
 }
 
 void HeldKeys::forget(const KeycodeSet& keycodes) {
@@ -64,7 +62,5 @@ void HeldKeys::forget(const KeycodeSet& keycodes) {
 
 void HeldKeys::release(const Held& held) {
     std::for_each(held.pressed.rbegin(), held.pressed.rend(),
-                  [this](std::uint8_t keycode) { m_connection.release(keycode); });
+                  [this](std::uint8_t keycode) { m_output.release(keycode); });
 }
-
-}  // namespace x11

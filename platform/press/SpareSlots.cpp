@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/press/SpareSlots.h"
+#include "platform/press/SpareSlots.h"
 
 #include <algorithm>
-
-namespace x11 {
 
 void SpareSlots::reset(const std::vector<std::uint8_t>& keycodes, std::uint8_t levels) {
     m_entries.clear();
@@ -82,5 +80,3 @@ void SpareSlots::apply(const Plan& plan) {
         m_index[binding.character] = static_cast<std::size_t>(entry - m_entries.begin());
     }
 }
-
-}  // namespace x11

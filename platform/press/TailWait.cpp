@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/press/TailWait.h"
-
-namespace x11 {
+#include "platform/press/TailWait.h"
 
 Step<> TailWait::waitUntil(Clock::Time deadline) {
     if (m_tail.isDown() && m_tail.end() <= deadline) {
@@ -28,7 +26,5 @@ void TailWait::endTailInTime() {
 
 void TailWait::release() {
     m_tail.release();
-    m_connection.flush();
+    m_output.flush();
 }
-
-}  // namespace x11

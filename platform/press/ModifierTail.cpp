@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/press/ModifierTail.h"
+#include "platform/press/ModifierTail.h"
 
 #include <algorithm>
 #include <utility>
-
-namespace x11 {
 
 namespace {
 
@@ -23,12 +21,12 @@ KeycodeSet ModifierTail::keycodes() const {
 bool ModifierTail::press(std::vector<std::uint8_t> keys) {
     const std::vector<std::uint8_t> before = std::exchange(m_keys, std::move(keys));
     std::for_each(before.rbegin(), before.rend(), [this](std::uint8_t keycode) {
-        if (!contains(m_keys, keycode)) m_connection.release(keycode);
+        if (!contains(m_keys, keycode)) m_output.release(keycode);
     });
     bool isAnyPressed = false;
     for (const std::uint8_t keycode : m_keys) {
         if (contains(before, keycode)) continue;
-        m_connection.press(keycode);
+        m_output.press(keycode);
         isAnyPressed = true;
     }
     return isAnyPressed;
@@ -41,5 +39,3 @@ void ModifierTail::keyIsUp(xkb_mod_mask_t commands) {
 }
 
 void ModifierTail::release() { press({}); }
-
-}  // namespace x11

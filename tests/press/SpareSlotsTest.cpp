@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/press/SpareSlots.h"
+#include "platform/press/SpareSlots.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 using namespace std::chrono_literals;
-using Bindings = std::vector<x11::SpareBinding>;
+using Bindings = std::vector<SpareBinding>;
 
 class SpareSlotsTest : public testing::Test {
   protected:
@@ -14,7 +14,7 @@ class SpareSlotsTest : public testing::Test {
 
     void bind(const std::vector<char32_t>& wanted) { slots.apply(slots.plan(wanted)); }
 
-    x11::SpareSlots slots;
+    SpareSlots slots;
     Clock::Time start = Clock::Time() + 1h;
 };
 
@@ -29,7 +29,7 @@ TEST_F(SpareSlotsTest, aPlanChangesNothingBeforeItIsApplied) {
     const auto plan = slots.plan({U'a'});
     EXPECT_FALSE(slots.find(U'a'));
     slots.apply(plan);
-    EXPECT_EQ(slots.find(U'a'), (x11::SpareSlot{93, 0}));
+    EXPECT_EQ(slots.find(U'a'), (SpareSlot{93, 0}));
 }
 
 TEST_F(SpareSlotsTest, whatIsBoundAlreadyIsNotBoundAgain) {
@@ -49,7 +49,7 @@ TEST_F(SpareSlotsTest, theLeastRecentlyUsedGivesWayAfterItsRest) {
     EXPECT_EQ(plan.notBefore, start + 100ms);
     slots.apply(plan);
     EXPECT_FALSE(slots.find(U'b'));
-    EXPECT_EQ(slots.find(U'e'), (x11::SpareSlot{93, 1}));
+    EXPECT_EQ(slots.find(U'e'), (SpareSlot{93, 1}));
 }
 
 TEST_F(SpareSlotsTest, whatIsWantedTooDoesNotGiveWay) {
