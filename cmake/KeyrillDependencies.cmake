@@ -11,12 +11,16 @@ pkg_check_modules(XCB_XTEST REQUIRED IMPORTED_TARGET xcb-xtest)
 pkg_check_modules(XCB_XKB REQUIRED IMPORTED_TARGET xcb-xkb)
 pkg_check_modules(XCB_RECORD REQUIRED IMPORTED_TARGET xcb-record)
 pkg_check_modules(XCB_RES REQUIRED IMPORTED_TARGET xcb-res)
+pkg_check_modules(WAYLAND_CLIENT REQUIRED IMPORTED_TARGET wayland-client)
 pkg_check_modules(XKBCOMMON REQUIRED IMPORTED_TARGET xkbcommon)
 pkg_check_modules(XKBCOMMON_X11 REQUIRED IMPORTED_TARGET xkbcommon-x11)
 pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0 gio-2.0)
 if(KEYRILL_UPDATE_CHECK)
     pkg_check_modules(CURL REQUIRED IMPORTED_TARGET libcurl)
 endif()
+
+# Makes code of the descriptions of interfaces.
+find_program(WAYLAND_SCANNER wayland-scanner REQUIRED)
 
 # Draws the PNGs of icons and pictures.
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)

@@ -5,11 +5,17 @@
 #include <array>
 #include <string>
 
+#include "platform/wayland/WaylandSession.h"
 #include "platform/x11/X11Session.h"
 
 namespace {
 
+/// Windows are X11 windows where the compositor has an X server, and else its own.
 constexpr std::array allKinds = {
+    SessionKind{.name = "wayland",
+                .toolkit = "xcb;wayland",
+                .check = wayland::checkDisplay,
+                .open = wayland::openSession},
     SessionKind{.name = "x11", .toolkit = "xcb", .check = x11::checkDisplay, .open = x11::openSession},
 };
 

@@ -34,8 +34,9 @@ TEST_F(WithoutDisplayTest, helpAndVersionArePrinted) {
 TEST_F(WithoutDisplayTest, aKindOfSessionThatThereIsNotIsRefused) {
     const End end = endOf("--session=typewriter");
     EXPECT_EQ(end.status, 1);
-    EXPECT_EQ(end.output,
-              "keyrill: There is no kind of session called \"typewriter\". Choose one of these: x11.\n");
+    EXPECT_EQ(
+        end.output,
+        "keyrill: There is no kind of session called \"typewriter\". Choose one of these: wayland, x11.\n");
 }
 
 TEST_F(WithoutDisplayTest, anUnknownOptionIsToldFirst) {

@@ -57,6 +57,7 @@ TEST(SessionsTest, eachKindHasANameOfItsOwnAndAWayIn) {
         EXPECT_NE(kind.open, nullptr) << kind.name;
     }
     EXPECT_TRUE(names.contains("x11"));
+    EXPECT_TRUE(names.contains("wayland"));
 }
 
 }  // namespace

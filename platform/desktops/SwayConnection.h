@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/Descriptor.h"
+#include "platform/Result.h"
+#include "platform/desktops/Json.h"
+
+/// A connection to sway (sway-ipc(7)), or to what speaks its words.
+class SwayConnection {
+  public:
+    /// The numbers of requests, and of events.
+    enum class Request : std::uint32_t { command = 0, subscribe = 2, tree = 4, config = 9, inputs = 100 };
+    static constexpr std::uint32_t workspaceEvent = 0x80000000;
+    static constexpr std::uint32_t bindingEvent = 0x80000005;
+    struct Event {
+        std::uint32_t type = 0;
+        Json content;
+    };
+
+    /// At the socket that $SWAYSOCK names. Fails where there is none.
+    static Result<SwayConnection> open();
+
+    /// The answer, for which it waits two seconds at the most; what else comes meanwhile is kept for
+    /// nextEvent(). Fails when the connection is lost, or the answer is no JSON.
+    Result<Json> ask(Request request, std::string_view content = {});
+    /// Runs a command; fails where sway refuses it, with its words.
+    Result<void> run(std::string_view command);
+
+    /// Readable when an event may have come.
+    int fileDescriptor() const { return m_socket.number(); }
+    /// Takes an event that has come, without waiting.
+    std::optional<Event> nextEvent();
+    /// Whether sway has gone.
+    bool isBroken() const { return m_isBroken; }
+
+  private:
+    explicit SwayConnection(Descriptor socket) : m_socket(std::move(socket)) {}
+
+    struct Message {
+        std::uint32_t type = 0;
+        std::string content;
+    };
+
+    bool send(std::uint32_t type, std::string_view content);
+    /// Reads what has come, after at most that many milliseconds; false if nothing has.
+    bool read(int milliseconds);
+    std::optional<Message> takeMessage();
+
+    Descriptor m_socket;
+    std::string m_received;
+    std::deque<Event> m_events;
+    bool m_isBroken = false;
+};

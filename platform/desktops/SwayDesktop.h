@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/desktops/SwayConnection.h"
+
+/// What sway tells of its windows and keyboards, asked for each time. A sway that has gone knows nothing.
+class SwayDesktop {
+  public:
+    explicit SwayDesktop(SwayConnection connection) : m_connection(std::move(connection)) {}
+
+    /// The group in force on the keyboard with the most of them, from 0; the virtual ones do not count where
+    /// there is another.
+    std::uint32_t group();
+
+    /// A window, by the number that sway's commands know it under.
+    struct Window {
+        std::int64_t number = 0;
+        /// The program's name: a native window's app_id, an X11 window's class.
+        std::string program;
+        /// An X11 window's number, 0 for a native one.
+        std::uint32_t xWindow = 0;
+    };
+    /// The one that keys go to.
+    std::optional<Window> focused();
+    /// One of that program, in any case; the one that keys go to before others.
+    std::optional<Window> windowOf(std::string_view program);
+    Result<void> focus(const Window& window);
+
+  private:
+    SwayConnection m_connection;
+};

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "platform/KeyInjector.h"
+#include "platform/press/HeldKeys.h"
+#include "platform/press/TailWait.h"
+#include "platform/run/Pacer.h"
+#include "platform/wayland/TextTyper.h"
+
+namespace wayland {
+
+/// What lasts from run to run, as a session uses it.
+struct InjectionTools {
+    RunWatch& watch;
+    Clock& clock;
+    RunInterrupt& interrupt;
+    RunCompanion& companion;
+    WaylandConnection& connection;
+    SeatKeymap& seat;
+    VirtualKeyboard& keyboard;
+};
+
+/// One run. The first step that presses a key begins it: a keyboard of ours comes to the seat, with the
+/// layout that is in force then; so does the first one after a rest. It goes with the object.
+///
+/// Hands need not be waited for: what they hold is on keyboards of their own.
+class WaylandInjectionSession final : public InjectionSession {
+  public:
+    WaylandInjectionSession(const InjectionTools& tools, InjectionPlan plan, std::function<void()> ended);
+    ~WaylandInjectionSession() override;
+    WaylandInjectionSession(const WaylandInjectionSession&) = delete;
+    WaylandInjectionSession& operator=(const WaylandInjectionSession&) = delete;
+
+    Step<> stroke(std::uint32_t keyCode, std::uint32_t modifiers) override;
+    Step<> text(std::string_view text, std::uint32_t modifiers) override;
+    Step<> keyDown(const HeldKey& key) override;
+    Step<> keyUp(const HeldKey& key) override;
+    Step<> pause(double seconds) override;
+
+    /// KeyInjector::rest().
+    void rest();
+    /// KeyInjector::settle().
+    void settle();
+    /// The script computes.
+    void passTime() { m_tailWait.endTailInTime(); }
+
+  private:
+    /// Takes a step unless the run has halted, and remembers if it halts.
+    Step<> take(const std::function<Step<>()>& step);
+    Step<> begin();
+    /// Begins if that has not been done, and looks whether the user wishes to stop. Modifiers that are down
+    /// after the last stroke stay so for one with these of Control, Alt and Super.
+    Step<> prepareStroke(xkb_mod_mask_t commands = 0);
+    Step<> stopProcess();
+    Step<> beginTail();
+    void restTail();
+
+    Result<Stroke> plan(std::uint32_t keyCode, std::uint32_t modifiers) const;
+    Step<> play(const Stroke& stroke);
+    Step<> type(std::string_view text, std::uint32_t modifiers);
+    Step<> prepareTexts();
+    using Strokes = Step<std::vector<Stroke>>;
+    Strokes strokesOf(const HeldKey& key);
+    Strokes strokesOfText(std::string_view text);
+    Step<> hold(const Stroke& stroke);
+
+    InjectionTools m_tools;
+    InjectionPlan m_plan;
+    std::function<void()> m_whenEnded;
+    RunWaiter m_waiter;
+    ModifierTail m_tail;
+    TailWait m_tailWait;
+    Pacer m_pacer;
+    StrokeSender m_sender;
+    HeldKeys m_held;
+    TextTyper m_typer;
+    bool m_hasBegun = false;
+    bool m_rests = false;
+    bool m_isPrepared = false;
+    std::optional<Halt> m_halt;
+};
+
+}  // namespace wayland

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "platform/wayland/WaylandSession.h"
+
+#include <virtual-keyboard-unstable-v1-client-protocol.h>
+
+#include <cstdlib>
+#include <optional>
+#include <utility>
+
+#include "platform/SessionCheck.h"
+#include "platform/desktops/SwayDesktop.h"
+#include "platform/none/NoDockingTray.h"
+#include "platform/none/NoEventMonitor.h"
+#include "platform/none/NoHotKeys.h"
+#include "platform/none/NoWindows.h"
+#include "platform/wayland/WaylandKeyInjector.h"
+#include "platform/wayland/WaylandKeyboardLayout.h"
+#include "platform/wayland/WaylandRunWatch.h"
+#include "platform/wayland/WaylandScriptDesktop.h"
+
+namespace wayland {
+
+namespace {
+
+std::string environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+Error noMonitor() {
+    return {"A Wayland session shows no program what is typed in others, so nothing can be recorded yet.",
+            "Record in an X11 session; macros play in both."};
+}
+
+Error noHotKeys() {
+    return {"This compositor gives no hot keys to programs.",
+            "Bind keys to commands in the compositor's own settings."};
+}
+
+Result<void> checkKeys(const WaylandConnection& connection) {
+    if (connection.offers(zwp_virtual_keyboard_manager_v1_interface)) return {};
+    return Error{"This compositor lets no program press keys.",
+                 "Use a compositor with virtual keyboards, such as sway, or an X11 session."};
+}
+
+std::unique_ptr<SwayDesktop> openSway() {
+    auto connection = SwayConnection::open();
+    return connection ? std::make_unique<SwayDesktop>(std::move(connection).value()) : nullptr;
+}
+
+/// What was looked at when the session was entered is so.
+class WaylandSessionCheck final : public SessionCheck {
+  public:
+    Result<> version() const override { return {}; }
+    Result<> access() const override { return {}; }
+    bool seesOnlySomeWindows() const override { return false; }
+};
+
+class WaylandSession final : public Session {
+  public:
+    WaylandSession(std::unique_ptr<WaylandConnection> connection, Clock& clock, SessionUse use)
+        : m_connection(std::move(connection)), m_clock(clock), m_use(use) {}
+    ~WaylandSession() override {
+        if (m_use == SessionUse::scripts) m_scriptDesktop.clipboardOfScripts().leave();
+    }
+    WaylandSession(const WaylandSession&) = delete;
+    WaylandSession& operator=(const WaylandSession&) = delete;
+
+    const SessionServices& sessionServices() override { return m_services; }
+    std::vector<EventSource*> eventSources() override { return {m_connection.get()}; }
+    void interrupt() noexcept override { m_injector.interrupt(); }
+    void suspend() noexcept override { m_injector.suspend(); }
+    void endPlaysWhen(std::function<bool()> isLocked) override { m_watch.endPlaysWhen(std::move(isLocked)); }
+    Result<void> connection() const override {
+        if (m_connection->isBroken()) return Error{"The Wayland compositor is gone.", ""};
+        return {};
+    }
+
+    Result<void> start() { return m_injector.start(); }
+
+  private:
+    xkb_layout_index_t group() { return m_sway ? m_sway->group() : 0; }
+
+    std::unique_ptr<WaylandConnection> m_connection;
+    Clock& m_clock;
+    SessionUse m_use;
+    std::unique_ptr<SwayDesktop> m_sway = openSway();
+    SeatKeymap m_seat{*m_connection, environment("XDG_RUNTIME_DIR"), [this] { return group(); }};
+    WaylandRunWatch m_watch{*m_connection};
+    WaylandKeyInjector m_injector{*m_connection, m_seat, m_watch, m_clock};
+    WaylandKeyboardLayout m_layout{m_seat};
+    WaylandScriptDesktop m_scriptDesktop{m_sway.get()};
+    WaylandSessionCheck m_check;
+    NoEventMonitor m_monitor{noMonitor()};
+    NoHotKeys m_hotKeys{noHotKeys()};
+    NoWindows m_windows;
+    NoDockingTray m_tray;
+    SessionServices m_services{.eventMonitor = m_monitor,
+                               .hotKeys = m_hotKeys,
+                               .keyboardLayout = m_layout,
+                               .keyInjector = m_injector,
+                               .scriptDesktop = m_scriptDesktop,
+                               .sessionCheck = m_check,
+                               .windows = m_windows,
+                               .dockingTray = m_tray};
+};
+
+}  // namespace
+
+Result<void> checkDisplay() {
+    if (environment("WAYLAND_DISPLAY").empty()) {
+        return Error{"$WAYLAND_DISPLAY names no Wayland compositor.",
+                     "Start the program in a Wayland session."};
+    }
+    const auto connection = WaylandConnection::open();
+    return connection ? checkKeys(*connection.value()) : connection.error();
+}
+
+Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use) {
+    auto connection = WaylandConnection::open();
+    if (!connection) return connection.error();
+    auto session = std::make_unique<WaylandSession>(std::move(connection).value(), clock, use);
+    const auto started = session->start();
+    if (!started) return started.error();
+    return std::unique_ptr<Session>(std::move(session));
+}
+
+}  // namespace wayland

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Session.h"
+
+namespace wayland {
+
+/// Whether a compositor answers at $WAYLAND_DISPLAY that lets programs press keys. Nothing is opened where
+/// that is not set.
+Result<void> checkDisplay();
+
+/// The session of that compositor. What it cannot do is answered with an error that says so.
+Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use);
+
+}  // namespace wayland

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "compositor/Sway.h"
+
+/// foot, a terminal that is a native Wayland program; it writes every byte that is typed into it to a file.
+/// Neither control characters nor full lines mean anything to it; Return is a line feed. It has the focus
+/// when constructed.
+class Foot {
+  public:
+    explicit Foot(const Sway& sway);
+
+    /// How sway and scripts call its window: each has its own name.
+    std::string program() const;
+    pid_t pid() const { return m_program->pid(); }
+
+    /// What has been typed so far, UTF-8.
+    std::string typed() const { return contentOf(m_folder.file("typed")); }
+    /// Waits until that many bytes, or more, have come: all of them. Too few fail the test.
+    std::string typed(std::size_t bytes, std::chrono::milliseconds deadline = std::chrono::seconds(20)) const;
+
+    void focus() const;
+
+  private:
+    const Sway& m_sway;
+    TemporaryFolder m_folder;
+    std::unique_ptr<Child> m_program;
+};

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "compositor/Sway.h"
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+namespace {
+
+constexpr uid_t nobody = 65534;
+
+void giveAway(const std::string& file) {
+    if (getuid() == 0 && chown(file.c_str(), nobody, nobody) != 0)
+        throw std::runtime_error("cannot chown " + file);
+}
+
+}  // namespace
+
+Sway::Sway(const Options& options) : m_hasXServer(options.hasXServer) {
+    configure(options.configuration);
+    giveAway(m_folder.path());
+    std::vector<std::string> command;
+    if (getuid() == 0) {
+        // Another user's process forgets whose death is its own, so it is told again.
+        const std::string user = std::to_string(nobody);
+        command = {"setpriv",        "--reuid",     user,   "--regid", user,
+                   "--clear-groups", "--pdeathsig", "KILL", "--"};
+    }
+    command.insert(command.end(), {"sway", "-c", m_folder.file("config")});
+    const std::map<std::string, std::string> environment = {{"XDG_RUNTIME_DIR", m_folder.path()},
+                                                            {"HOME", m_folder.path()},
+                                                            {"DISPLAY", ""},
+                                                            {"WAYLAND_DISPLAY", ""},
+                                                            {"SWAYSOCK", ""},
+                                                            {"DBUS_SESSION_BUS_ADDRESS", ""},
+                                                            {"WLR_BACKENDS", "headless"},
+                                                            {"WLR_LIBINPUT_NO_DEVICES", "1"},
+                                                            {"WLR_RENDERER", "pixman"},
+                                                            {"LIBSEAT_BACKEND", "noop"},
+                                                            {"LC_ALL", "C.UTF-8"}};
+    const std::string log = m_folder.file("log");
+    m_program =
+        std::make_unique<Child>(command, Child::Options{.environment = environment, .outputFile = log});
+    const auto isUp = [this] { return std::filesystem::exists(socket()) && !findSocket().empty(); };
+    eventually([&] { return isUp() || !m_program->isRunning(); }, std::chrono::seconds(20));
+    if (!isUp()) throw std::runtime_error("no sway could be started: " + contentOf(log));
+    m_environment = {{"XDG_RUNTIME_DIR", m_folder.path()},
+                     {"WAYLAND_DISPLAY", "wayland-1"},
+                     {"SWAYSOCK", findSocket()},
+                     {"DISPLAY", ""},
+                     {"DBUS_SESSION_BUS_ADDRESS", ""}};
+    // It answers when it has read its configuration.
+    message({"-t", "get_version"});
+}
+
+void Sway::configure(const std::string& lines) const {
+    std::ofstream(m_folder.file("config"))
+        << "output HEADLESS-1 resolution 1024x640\nxwayland " << (m_hasXServer ? "force" : "disable") << "\n"
+        << lines << "\n";
+    giveAway(m_folder.file("config"));
+}
+
+std::string Sway::findSocket() const {
+    for (const auto& entry : std::filesystem::directory_iterator(m_folder.path())) {
+        if (entry.path().filename().string().starts_with("sway-ipc.")) return entry.path();
+    }
+    return {};
+}
+
+std::string Sway::message(const std::vector<std::string>& arguments) const {
+    std::vector<std::string> command = {"swaymsg"};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    return outputOf(command, m_environment);
+}
+
+bool Sway::tries(const std::vector<std::string>& arguments) const {
+    std::vector<std::string> command = {"swaymsg", "--quiet"};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    return Child(command, {.environment = m_environment, .outputFile = "/dev/null"}).wait() == 0;
+}

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "support/Child.h"
+
+/// A private sway without a screen and with nobody else on it; ends with the object. It runs as nobody where
+/// the test runs as root, as sway insists. One that cannot be started fails the test by an exception.
+class Sway {
+  public:
+    struct Options {
+        /// Lines of its configuration.
+        std::string configuration = {};
+        /// Whether X11 programs can be shown.
+        bool hasXServer = false;
+    };
+
+    Sway() : Sway(Options()) {}
+    explicit Sway(const Options& options);
+
+    /// What programs need to know, to be shown by it; no X server among it unless asked for.
+    const std::map<std::string, std::string>& environment() const { return m_environment; }
+    /// The compositor's socket, an absolute path.
+    std::string socket() const { return m_folder.file("wayland-1"); }
+    Child& program() { return *m_program; }
+
+    /// swaymsg's output. One that is refused fails the test.
+    std::string message(const std::vector<std::string>& arguments) const;
+    /// Whether swaymsg did it.
+    bool tries(const std::vector<std::string>& arguments) const;
+
+    /// The user's configuration, which `reload` reads again.
+    void configure(const std::string& lines) const;
+
+  private:
+    std::string findSocket() const;
+
+    TemporaryFolder m_folder;
+    std::map<std::string, std::string> m_environment;
+    bool m_hasXServer;
+    std::unique_ptr<Child> m_program;
+};
