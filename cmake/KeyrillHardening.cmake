@@ -6,10 +6,13 @@
 include(CheckCXXCompilerFlag)
 include(CheckPIESupported)
 check_pie_supported()
+# A flag that means nothing for this processor is taken with a warning only.
+set(CMAKE_REQUIRED_FLAGS -Werror)
 check_cxx_compiler_flag(-fstack-protector-strong KEYRILL_HAS_STACK_PROTECTOR)
 check_cxx_compiler_flag(-fstack-clash-protection KEYRILL_HAS_STACK_CLASH_PROTECTION)
 check_cxx_compiler_flag(-fcf-protection=full KEYRILL_HAS_CONTROL_FLOW_PROTECTION)
 check_cxx_compiler_flag(-mbranch-protection=standard KEYRILL_HAS_BRANCH_PROTECTION)
+unset(CMAKE_REQUIRED_FLAGS)
 
 set(KEYRILL_HARDENING_OPTIONS
     $<$<BOOL:${KEYRILL_HAS_STACK_PROTECTOR}>:-fstack-protector-strong>
