@@ -13,6 +13,7 @@
 
 #include "cli/Play.h"
 #include "display/KeyboardProbe.h"
+#include "support/Programs.h"
 #include "support/XServer.h"
 
 namespace {
@@ -59,7 +60,7 @@ class RunOnTerminal {
     [[noreturn]] void start(const std::string& display) const {
         setenv("DISPLAY", display.c_str(), 1);
         setenv("XDG_RUNTIME_DIR", m_folder.path().c_str(), 1);
-        execl(KEYRILL_SCRIPT_TOOL, "keyrill-script", "run", m_folder.file("script").c_str(), nullptr);
+        execl(programs::scriptTool, "keyrill-script", "run", m_folder.file("script").c_str(), nullptr);
         _exit(127);
     }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "support/Child.h"
+#include "support/Programs.h"
 
 /// keyrill-script run, playing a script on a display.
 class Play {
@@ -13,7 +14,7 @@ class Play {
     Play(const std::string& display, const std::string& script) {
         std::ofstream(m_folder.file("script"), std::ios::binary) << script;
         m_program = std::make_unique<Child>(
-            std::vector<std::string>{KEYRILL_SCRIPT_TOOL, "run", m_folder.file("script")},
+            std::vector<std::string>{programs::scriptTool, "run", m_folder.file("script")},
             Child::Options{.environment = {{"DISPLAY", display}, {"XDG_RUNTIME_DIR", m_folder.path()}},
                            .outputFile = m_folder.file("output")});
     }

@@ -8,6 +8,7 @@
 
 #include "display/KeyboardProbe.h"
 #include "support/Child.h"
+#include "support/Programs.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"
 
@@ -20,7 +21,7 @@ class RunTest : public testing::Test {
         std::ofstream(m_folder.file("script")) << "tell application \"System Events\"\n"
                                                << lines << "\nend tell\n";
         return std::make_unique<Child>(
-            std::vector<std::string>{KEYRILL_SCRIPT_TOOL, "run", m_folder.file("script")},
+            std::vector<std::string>{programs::scriptTool, "run", m_folder.file("script")},
             Child::Options{
                 .environment = {{"DISPLAY", m_server.display()}, {"XDG_RUNTIME_DIR", m_folder.path()}},
                 .outputFile = m_folder.file("output")});

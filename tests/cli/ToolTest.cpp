@@ -8,6 +8,7 @@
 #include <ostream>
 
 #include "support/Child.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -29,9 +30,9 @@ class ToolTest : public testing::Test {
     /// Runs the program in the folder that holds "script", with standard input from a file of this name.
     Outcome run(const std::string& arguments, const std::string& input = "/dev/null",
                 const std::string& output = "out") {
-        const std::string command = "cd " + m_folder.path() +
-                                    " && exec env -u DISPLAY " KEYRILL_SCRIPT_TOOL " " + arguments + " <" +
-                                    input + " >" + output + " 2>err";
+        const std::string command = "cd " + m_folder.path() + " && exec env -u DISPLAY " +
+                                    programs::scriptTool + " " + arguments + " <" + input + " >" + output +
+                                    " 2>err";
         Child child({"sh", "-c", command});
         const int status = child.wait();
         return {status, contentOf(m_folder.file("out")), contentOf(m_folder.file("err"))};

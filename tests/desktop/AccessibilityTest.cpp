@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "desktop/DesktopTest.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -29,7 +30,7 @@ class AccessibilityTest : public testing::Test {
     }
 
     std::vector<std::string> command(std::vector<std::string> words) {
-        words.insert(words.begin(), {KEYRILL_ASSISTANT, std::to_string(keyrill->child().pid())});
+        words.insert(words.begin(), {programs::assistant, std::to_string(keyrill->child().pid())});
         return words;
     }
     void press(const std::string& name) {

@@ -6,6 +6,7 @@
 #include "desktop/DesktopTest.h"
 #include "display/NestedServers.h"
 #include "support/Keys.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ class AlertTest : public testing::Test {
         desktop.startWindowManager();
         putBrowser();
         // Nobody's hot key tells here that the program is ready.
-        program.emplace(std::vector<std::string>{KEYRILL_PRODUCT}, desktop.options("product.log"));
+        program.emplace(std::vector<std::string>{programs::keyrill}, desktop.options("product.log"));
         desktop.awaitFocus("The X server must have the XTEST extension, but it has not.");
     }
 
@@ -81,7 +82,7 @@ class LoadAlertTest : public testing::TestWithParam<WindowManager> {
 };
 
 TEST_P(LoadAlertTest, takesTheKeysAndGivesThemBack) {
-    const std::vector<std::string> command = {KEYRILL_PRODUCT, desktop.file("none.keyrill")};
+    const std::vector<std::string> command = {programs::keyrill, desktop.file("none.keyrill")};
     const Child keyrill(command, desktop.options("product.log"));
     answerAlert();
     // By a second start, when the program has been running for some time.

@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "desktop/DesktopTest.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -14,9 +15,9 @@ class BrokenMacroTest : public DesktopTest {
         const std::string commands = desktop.file("commands");
         mkfifo(commands.c_str(), 0600);
         desktop.startBus();
-        m_service.emplace(
-            std::vector<std::string>{KEYRILL_BUS_STANDIN, desktop.bus().address(), commands, "notifications"},
-            desktop.options("notifications.log"));
+        m_service.emplace(std::vector<std::string>{programs::busStandIn, desktop.bus().address(), commands,
+                                                   "notifications"},
+                          desktop.options("notifications.log"));
         EXPECT_TRUE(eventually([this] { return messages().find("ready\n") != std::string::npos; }));
     }
 
@@ -24,7 +25,7 @@ class BrokenMacroTest : public DesktopTest {
     void start(const std::string& script) {
         const std::string file = desktop.file("broken.keyrill");
         std::ofstream(file) << script;
-        m_keyrill.emplace(std::vector<std::string>{KEYRILL_PRODUCT, file}, desktop.options("product.log"));
+        m_keyrill.emplace(std::vector<std::string>{programs::keyrill, file}, desktop.options("product.log"));
         ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
         awaitMessages("\"broken.keyrill\" is loaded", 1);
     }

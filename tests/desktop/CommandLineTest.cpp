@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/DesktopTest.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -12,7 +13,7 @@ class WithoutDisplayTest : public testing::Test {
     };
     End endOf(const std::string& argument) const {
         const std::string output = m_folder.file(argument);
-        Child program({KEYRILL_PRODUCT, argument},
+        Child program({programs::keyrill, argument},
                       {.environment = {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}}, .outputFile = output});
         const int status = program.wait();
         return {status, contentOf(output)};
@@ -50,14 +51,14 @@ TEST_F(WithoutDisplayTest, anUnknownOptionIsToldFirst) {
 class SessionOptionTest : public DesktopTest {};
 
 TEST_F(SessionOptionTest, aNamedSessionIsTheOneThatIsWorkedIn) {
-    Child program({KEYRILL_PRODUCT, "--session=x11"}, desktop.options("start"));
+    Child program({programs::keyrill, "--session=x11"}, desktop.options("start"));
     EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     EXPECT_TRUE(program.isRunning());
 }
 
 TEST_F(SessionOptionTest, anUnknownOptionIsNoFile) {
     const Child::Options options = desktop.options("start");
-    Child program({KEYRILL_PRODUCT, "--sesion=x11"}, options);
+    Child program({programs::keyrill, "--sesion=x11"}, options);
     EXPECT_EQ(program.wait(), 1);
     const std::string output = contentOf(options.outputFile);
     EXPECT_NE(output.find("There is no option \"--sesion=x11\"."), std::string::npos) << output;

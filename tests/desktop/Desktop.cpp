@@ -13,6 +13,7 @@
 
 #include "platform/x11/server/XConnection.h"
 #include "support/Keys.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -54,10 +55,10 @@ std::vector<std::string> commandOf(WindowManager manager) {
 }
 
 std::vector<std::string> commandFor(const Desktop& desktop, const std::string& script) {
-    if (script.empty()) return {KEYRILL_PRODUCT};
+    if (script.empty()) return {programs::keyrill};
     const std::string file = desktop.file("script");
     std::ofstream(file, std::ios::binary) << script;
-    return {KEYRILL_PRODUCT, file};
+    return {programs::keyrill, file};
 }
 
 }  // namespace
@@ -72,7 +73,7 @@ Desktop::Desktop(std::string display) : m_display(std::move(display)), m_screen(
 void Desktop::makeHome() {
     const std::filesystem::path presets = m_folder.file("presets");
     std::filesystem::create_directories(presets / "keyrill");
-    std::filesystem::copy_file(KEYRILL_PRESETS, presets / "keyrill/keyrill.conf");
+    std::filesystem::copy_file(programs::presets, presets / "keyrill/keyrill.conf");
     std::filesystem::create_directories(m_folder.file("host"));
     // Nobody is greeted.
     writeSettings("notFirstRun=true\n");

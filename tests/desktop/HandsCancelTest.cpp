@@ -7,6 +7,7 @@
 #include "desktop/DesktopTest.h"
 #include "display/NestedServers.h"
 #include "display/Typist.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ class HandsCancelTest : public testing::TestWithParam<std::tuple<Typist::Gap, Ke
                                                        "\ttell application \"System Events\" to key code 0\n"
                                                        "\tdelay 0.01\n"
                                                        "end repeat\n";
-        product.emplace(std::vector<std::string>{KEYRILL_PRODUCT, desktop.file("long.keyrill")},
+        product.emplace(std::vector<std::string>{programs::keyrill, desktop.file("long.keyrill")},
                         desktop.options("product.log"));
         EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
         typist().stroke({xkey::control, xkey::super, xkey::p});

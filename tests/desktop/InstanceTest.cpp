@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "desktop/DesktopTest.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ class InstanceTest : public testing::TestWithParam<bool> {
     }
 
     std::unique_ptr<Child> start(const std::vector<std::string>& arguments = {}) {
-        std::vector<std::string> command = {KEYRILL_PRODUCT};
+        std::vector<std::string> command = {programs::keyrill};
         command.insert(command.end(), arguments.begin(), arguments.end());
         return std::make_unique<Child>(command, desktop.options("start" + std::to_string(++m_starts)));
     }
@@ -77,7 +78,7 @@ class HandOverTest : public DesktopTest {
     }
 
     int startAndWait(const std::vector<std::string>& arguments) {
-        std::vector<std::string> command = {KEYRILL_PRODUCT};
+        std::vector<std::string> command = {programs::keyrill};
         command.insert(command.end(), arguments.begin(), arguments.end());
         Child program(command, desktop.options("second"));
         return program.wait(std::chrono::seconds(5));
@@ -88,7 +89,7 @@ class HandOverTest : public DesktopTest {
 };
 
 TEST_F(HandOverTest, aSecondStartsFileIsLoadedAndNotPlayed) {
-    Child first({KEYRILL_PRODUCT}, desktop.options("first"));
+    Child first({programs::keyrill}, desktop.options("first"));
     ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     const Terminal terminal(desktop.display());
     EXPECT_EQ(startAndWait({file}), 0);
@@ -100,7 +101,7 @@ TEST_F(HandOverTest, aSecondStartsFileIsLoadedAndNotPlayed) {
 }
 
 TEST_F(HandOverTest, afterItsBusHasDiedAndComeBackThereIsStillOneWhichTakesFiles) {
-    Child first({KEYRILL_PRODUCT}, desktop.options("first"));
+    Child first({programs::keyrill}, desktop.options("first"));
     ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     const Terminal terminal(desktop.display());
     desktop.bus().daemon().signal(SIGKILL);
@@ -115,7 +116,7 @@ TEST_F(HandOverTest, afterItsBusHasDiedAndComeBackThereIsStillOneWhichTakesFiles
 }
 
 TEST_F(HandOverTest, anArgumentsFileIsLoadedAndNotPlayed) {
-    Child first({KEYRILL_PRODUCT, file}, desktop.options("first"));
+    Child first({programs::keyrill, file}, desktop.options("first"));
     ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     const Terminal terminal(desktop.display());
     press("x");
@@ -126,7 +127,7 @@ TEST_F(HandOverTest, anArgumentsFileIsLoadedAndNotPlayed) {
 
 TEST_F(HandOverTest, aSecondStartShowsTheControlWindowBesideATray) {
     desktop.startTray();
-    Child first({KEYRILL_PRODUCT}, desktop.options("first"));
+    Child first({programs::keyrill}, desktop.options("first"));
     ASSERT_TRUE(eventually([this] { return desktop.tray().icon().has_value(); }));
     EXPECT_FALSE(desktop.shows(title::control));
     EXPECT_EQ(startAndWait({}), 0);

@@ -10,6 +10,7 @@
 #include "desktop/ProcessMemory.h"
 #include "display/CoreClient.h"
 #include "display/Typist.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -116,7 +117,7 @@ class TypedMarkerTest : public DesktopTest {
     }
 
     Terminal terminal{desktop.display()};
-    Child keyrill{{KEYRILL_PRODUCT}, desktop.options("product.log")};
+    Child keyrill{{programs::keyrill}, desktop.options("product.log")};
 };
 
 class KeptSecretsTest : public TypedMarkerTest, public testing::WithParamInterface<Typing> {};

@@ -7,6 +7,7 @@
 #include "desktop/DesktopTest.h"
 #include "display/KeyboardProbe.h"
 #include "display/Typist.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ class LockedLevelsTest : public testing::TestWithParam<Lock> {
     LockedLevelsTest() {
         desktop.startWindowManager();
         desktop.setLayout(GetParam().layout);
-        product.emplace(std::vector<std::string>{KEYRILL_PRODUCT}, desktop.options("product.log"));
+        product.emplace(std::vector<std::string>{programs::keyrill}, desktop.options("product.log"));
         EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     }
 

@@ -15,6 +15,7 @@
 #include "display/NestedServers.h"
 #include "display/Typist.h"
 #include "support/Editor.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ class HolderTest : public testing::Test {
     }
 
     void start(const std::string& script = {}) {
-        std::vector<std::string> command{KEYRILL_PRODUCT};
+        std::vector<std::string> command{programs::keyrill};
         if (!script.empty()) {
             std::ofstream(desktop.file("macro.keyrill")) << script;
             command.push_back(desktop.file("macro.keyrill"));
@@ -172,7 +173,7 @@ TEST_F(HolderTest, aMacroThatPlaysEndsWhenTheDesktopLocksTheScreen) {
     const std::string commands = desktop.file("commands");
     ASSERT_EQ(mkfifo(commands.c_str(), S_IRUSR | S_IWUSR), 0);
     desktop.startBus();
-    const Child saver({KEYRILL_BUS_STANDIN, desktop.bus().address(), commands, "saver"},
+    const Child saver({programs::busStandIn, desktop.bus().address(), commands, "saver"},
                       desktop.options("saver.log"));
     ASSERT_TRUE(eventually([this] { return contentOf(desktop.file("saver.log")) == "ready\n"; }));
     start("repeat 2000 times\ntell application \"System Events\" to key code 0\ndelay 0.01\nend repeat\n");

@@ -8,6 +8,7 @@
 #include "desktop/DesktopTest.h"
 #include "display/KeyboardProbe.h"
 #include "display/Typist.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -97,7 +98,7 @@ TEST_P(LocksTest, theTrayProgramPutsBackWhatItsMacroHasTapped) {
     const std::string file = desktop.file("locks.keyrill");
     std::ofstream(file) << scriptThatTaps(tapped());
     set(xmask::numLock);
-    const Child product({KEYRILL_PRODUCT, file}, desktop.options("product.log"));
+    const Child product({programs::keyrill, file}, desktop.options("product.log"));
     ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     typist.stroke({xkey::control, xkey::super, xkey::p});
     EXPECT_EQ(typedNext(14), (tapped() & xmask::capsLock) != 0 ? "cDcd1xYcDCD1xY" : "cDcd1xYcDcd1xY");

@@ -3,6 +3,7 @@
 
 #include "desktop/DesktopTest.h"
 #include "desktop/StatusMenuClicks.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -16,7 +17,8 @@ class PanelColourTest : public testing::TestWithParam<std::tuple<bool, bool>> {
 };
 
 TEST_P(PanelColourTest, theIconIsToBeSeen) {
-    if (isInstalled()) desktop.setEnvironment("XDG_DATA_DIRS", KEYRILL_SHARE ":/usr/local/share:/usr/share");
+    const std::string folders = std::string(programs::share) + ":/usr/local/share:/usr/share";
+    if (isInstalled()) desktop.setEnvironment("XDG_DATA_DIRS", folders);
     desktop.startTray(TrayKind::statusNotifier, isDark());
     const Keyrill keyrill(desktop);
     // What cannot be seen on its ground has no colour that differs much from it.

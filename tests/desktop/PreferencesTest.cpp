@@ -5,6 +5,7 @@
 
 #include "desktop/DesktopTest.h"
 #include "desktop/StatusMenuClicks.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -49,7 +50,7 @@ class PreferencesTest : public DesktopTest {
         std::erase_if(combinations, [](const auto& setting) {
             return !setting.first.ends_with("Code") && !setting.first.ends_with("Flags");
         });
-        EXPECT_EQ(combinations, settingsIn(KEYRILL_PRESETS));
+        EXPECT_EQ(combinations, settingsIn(programs::presets));
     }
     bool isStored(const std::string& name, const std::string& value) const {
         return eventually([&] { return settings()[name] == value; });
@@ -92,7 +93,7 @@ TEST_F(PreferencesTest, withoutPresetsTheFieldsBecomeTheHotKeysWhenThePanelClose
     std::filesystem::create_directories(desktop.file("empty"));
     desktop.setEnvironment("XDG_CONFIG_DIRS", desktop.file("empty"));
     // No hot key tells that it is ready.
-    const Child unset({KEYRILL_PRODUCT}, desktop.options("product.log"));
+    const Child unset({programs::keyrill}, desktop.options("product.log"));
     desktop.awaitWindow(title::welcome);
     for (const std::uint8_t keycode : {xkey::r, xkey::s, xkey::p, xkey::m})
         EXPECT_FALSE(desktop.isHotKeyTaken(keycode));

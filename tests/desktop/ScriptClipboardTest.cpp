@@ -6,6 +6,7 @@
 
 #include "desktop/DesktopTest.h"
 #include "support/Editor.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ class ScriptClipboardTest : public DesktopTest {
     void runByTool(const std::string& script, const std::vector<std::string>& before = {}) const {
         std::ofstream(desktop.file("script")) << script;
         std::vector<std::string> command = before;
-        command.insert(command.end(), {KEYRILL_SCRIPT_TOOL, "run", desktop.file("script")});
+        command.insert(command.end(), {programs::scriptTool, "run", desktop.file("script")});
         Child tool(command, desktop.options("tool.log"));
         EXPECT_EQ(tool.wait(), 0);
         EXPECT_EQ(contentOf(desktop.file("tool.log")), "");

@@ -8,6 +8,7 @@
 #include "display/KeyboardProbe.h"
 #include "display/Typist.h"
 #include "platform/Utf8.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -26,11 +27,11 @@ class ScriptMacroTest : public DesktopTest {
     /// The first start is the program; a later one hands its file over.
     void load(const std::string& file) {
         if (product) {
-            Child second({KEYRILL_PRODUCT, file}, desktop.options("second.log"));
+            Child second({programs::keyrill, file}, desktop.options("second.log"));
             ASSERT_EQ(second.wait(), 0);
             return;
         }
-        product.emplace(std::vector<std::string>{KEYRILL_PRODUCT, file}, desktop.options("product.log"));
+        product.emplace(std::vector<std::string>{programs::keyrill, file}, desktop.options("product.log"));
         ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     }
     std::string output() const { return contentOf(desktop.file("product.log")); }
@@ -46,7 +47,7 @@ class ScriptMacroTest : public DesktopTest {
     };
     /// What keyrill-script says of a file that it is to play.
     Told runByTool(const std::string& file) const {
-        Child tool({KEYRILL_SCRIPT_TOOL, "run", file}, desktop.options("tool.log"));
+        Child tool({programs::scriptTool, "run", file}, desktop.options("tool.log"));
         const int status = tool.wait();
         return {status, contentOf(desktop.file("tool.log"))};
     }

@@ -8,6 +8,7 @@
 #include "desktop/DesktopTest.h"
 #include "display/NestedServers.h"
 #include "display/Typist.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ class StopTest : public testing::TestWithParam<Typist::Gap> {
 
     void start(const std::string& script) {
         std::ofstream(desktop.file("macro.keyrill")) << script;
-        product.emplace(std::vector<std::string>{KEYRILL_PRODUCT, desktop.file("macro.keyrill")},
+        product.emplace(std::vector<std::string>{programs::keyrill, desktop.file("macro.keyrill")},
                         desktop.options("product.log"));
         ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     }

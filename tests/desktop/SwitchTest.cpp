@@ -10,6 +10,7 @@
 
 #include "desktop/DesktopTest.h"
 #include "display/Typist.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -34,7 +35,7 @@ class SwitchTest : public testing::TestWithParam<std::tuple<WindowManager, int>>
                 desktop.display(),
                 Terminal::Options{.xterm = {"-geometry", "40x5+100+" + std::to_string(200 * y)}}));
         }
-        product.emplace(std::vector<std::string>{KEYRILL_PRODUCT}, desktop.options("product.log"));
+        product.emplace(std::vector<std::string>{programs::keyrill}, desktop.options("product.log"));
         EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     }
 

@@ -5,6 +5,7 @@
 
 #include "desktop/DesktopTest.h"
 #include "support/Certificates.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -13,7 +14,7 @@ namespace {
 class UpdateTest : public DesktopTest {
   protected:
     UpdateTest()
-        : server({"python3", KEYRILL_UPDATE_SERVER, certificates.path("server.pem"),
+        : server({"python3", programs::updateServer, certificates.path("server.pem"),
                   certificates.path("server.key")},
                  {.outputFile = desktop.file("server")}) {
         desktop.writeSettings("notFirstRun=true\ncheckForUpdatesOnLaunch=true\n");
@@ -28,7 +29,7 @@ class UpdateTest : public DesktopTest {
         std::string port;
         std::istringstream(log()) >> port;
         // The program as it is, but for where it asks.
-        keyrill.emplace(std::vector<std::string>{KEYRILL_DEMONSTRATION, "--updates",
+        keyrill.emplace(std::vector<std::string>{programs::demonstration, "--updates",
                                                  "https://localhost:" + port + "/newer",
                                                  certificates.path("authority.pem")},
                         desktop.options("keyrill.log"));

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
 // Assistive technology in one program: a client of AT-SPI that knows nothing of the program it looks at.
-//   assistant PID list              each object that is on the screen: ROLE|NAME|DESCRIPTION|focusable or
-//   not|actions assistant PID press NAME        performs the main action of the object of that name, shown or
-//   in a menu assistant PID type NAME TEXT    replaces the text of the object of that name
+// "assistant PID list": each object that is on the screen: ROLE|NAME|DESCRIPTION|focusable or not|actions.
+//
+// "assistant PID press NAME": performs the main action of the object of that name, shown or in a menu.
+//
+// "assistant PID type NAME TEXT": replaces the text of the object of that name.
+//
 // Exit status 1 where there is no such object, after a moment of waiting for it.
 
 #include <atspi/atspi.h>
