@@ -15,7 +15,14 @@
 class SwayConnection {
   public:
     /// The numbers of requests, and of events.
-    enum class Request : std::uint32_t { command = 0, subscribe = 2, tree = 4, config = 9, inputs = 100 };
+    enum class Request : std::uint32_t {
+        command = 0,
+        subscribe = 2,
+        tree = 4,
+        version = 7,
+        config = 9,
+        inputs = 100
+    };
     static constexpr std::uint32_t workspaceEvent = 0x80000000;
     static constexpr std::uint32_t bindingEvent = 0x80000005;
     struct Event {

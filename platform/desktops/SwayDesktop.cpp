@@ -72,6 +72,10 @@ std::optional<SwayDesktop::Window> SwayDesktop::windowOf(std::string_view progra
     return window;
 }
 
+Result<void> SwayDesktop::focusXWindow(std::uint32_t xWindow) {
+    return m_connection.run("[id=" + std::to_string(xWindow) + "] focus");
+}
+
 Result<void> SwayDesktop::focus(const Window& window) {
     return m_connection.run("[con_id=" + std::to_string(window.number) + "] focus");
 }

@@ -30,6 +30,8 @@ class SwayDesktop {
     /// One of that program, in any case; the one that keys go to before others.
     std::optional<Window> windowOf(std::string_view program);
     Result<void> focus(const Window& window);
+    /// Fails while sway shows no such window.
+    Result<void> focusXWindow(std::uint32_t xWindow);
 
   private:
     SwayConnection m_connection;

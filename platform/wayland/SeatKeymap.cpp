@@ -109,6 +109,7 @@ bool SeatKeymap::adopt(std::string text) {
     m_characters = std::make_unique<const CharacterTable>(*m_keymap);
     m_text = std::move(text);
     m_isKept = false;
+    if (m_changed) m_changed();
     return true;
 }
 

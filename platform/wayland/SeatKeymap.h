@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/keymap/CharacterTable.h"
 #include "platform/keymap/Keymap.h"
@@ -36,6 +37,9 @@ class SeatKeymap {
     /// Asked for now; one that the keymap has.
     xkb_layout_index_t group() const;
 
+    /// Who is told when the keymap has become another one; at most one.
+    void observe(std::function<void()> changed) { m_changed = std::move(changed); }
+
     /// A keyboard of ours comes to the seat: from now on what is told may be its keymap, or what the
     /// compositor gives a new keyboard at first. Keeps the keymap for the next process.
     void ownKeyboardComes();
@@ -52,6 +56,7 @@ class SeatKeymap {
 
     std::string m_file;
     std::function<xkb_layout_index_t()> m_group;
+    std::function<void()> m_changed;
     XkbContextPointer m_context;
     std::string m_text;
     std::unique_ptr<const Keymap> m_keymap;

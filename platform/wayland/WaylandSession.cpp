@@ -10,13 +10,13 @@
 #include "platform/SessionCheck.h"
 #include "platform/desktops/SwayDesktop.h"
 #include "platform/none/NoDockingTray.h"
-#include "platform/none/NoEventMonitor.h"
 #include "platform/none/NoHotKeys.h"
-#include "platform/none/NoWindows.h"
+#include "platform/wayland/WaylandEventMonitor.h"
 #include "platform/wayland/WaylandKeyInjector.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/wayland/WaylandRunWatch.h"
 #include "platform/wayland/WaylandScriptDesktop.h"
+#include "platform/wayland/WaylandWindows.h"
 
 namespace wayland {
 
@@ -67,7 +67,11 @@ class WaylandSession final : public Session {
     WaylandSession& operator=(const WaylandSession&) = delete;
 
     const SessionServices& sessionServices() override { return m_services; }
-    std::vector<EventSource*> eventSources() override { return {m_connection.get()}; }
+    std::vector<EventSource*> eventSources() override {
+        std::vector<EventSource*> sources{m_connection.get()};
+        if (m_hotKeys) sources.push_back(m_hotKeys.get());
+        return sources;
+    }
     void interrupt() noexcept override { m_injector.interrupt(); }
     void suspend() noexcept override { m_injector.suspend(); }
     void endPlaysWhen(std::function<bool()> isLocked) override { m_watch.endPlaysWhen(std::move(isLocked)); }
@@ -79,6 +83,12 @@ class WaylandSession final : public Session {
     Result<void> start() { return m_injector.start(); }
 
   private:
+    /// A program that plays a script has none.
+    std::unique_ptr<WaylandHotKeys> openHotKeys() {
+        if (m_use == SessionUse::scripts) return nullptr;
+        auto hotKeys = WaylandHotKeys::open(m_seat);
+        return hotKeys ? std::move(hotKeys).value() : nullptr;
+    }
     xkb_layout_index_t group() { return m_sway ? m_sway->group() : 0; }
 
     std::unique_ptr<WaylandConnection> m_connection;
@@ -86,17 +96,18 @@ class WaylandSession final : public Session {
     SessionUse m_use;
     std::unique_ptr<SwayDesktop> m_sway = openSway();
     SeatKeymap m_seat{*m_connection, environment("XDG_RUNTIME_DIR"), [this] { return group(); }};
-    WaylandRunWatch m_watch{*m_connection};
+    std::unique_ptr<WaylandHotKeys> m_hotKeys = openHotKeys();
+    WaylandRunWatch m_watch{*m_connection, m_hotKeys.get()};
     WaylandKeyInjector m_injector{*m_connection, m_seat, m_watch, m_clock};
     WaylandKeyboardLayout m_layout{m_seat};
     WaylandScriptDesktop m_scriptDesktop{m_sway.get()};
     WaylandSessionCheck m_check;
-    NoEventMonitor m_monitor{noMonitor()};
-    NoHotKeys m_hotKeys{noHotKeys()};
-    NoWindows m_windows;
+    WaylandEventMonitor m_monitor{noMonitor(), m_hotKeys.get()};
+    NoHotKeys m_noHotKeys{noHotKeys()};
+    WaylandWindows m_windows{m_sway.get(), m_clock};
     NoDockingTray m_tray;
     SessionServices m_services{.eventMonitor = m_monitor,
-                               .hotKeys = m_hotKeys,
+                               .hotKeys = m_hotKeys ? static_cast<HotKeys&>(*m_hotKeys) : m_noHotKeys,
                                .keyboardLayout = m_layout,
                                .keyInjector = m_injector,
                                .scriptDesktop = m_scriptDesktop,

@@ -28,7 +28,7 @@ Sway::Sway(const Options& options) : m_hasXServer(options.hasXServer) {
         command = {"setpriv",        "--reuid",     user,   "--regid", user,
                    "--clear-groups", "--pdeathsig", "KILL", "--"};
     }
-    command.insert(command.end(), {"sway", "-c", m_folder.file("config")});
+    command.insert(command.end(), {"sway", "-d", "-c", m_folder.file("config")});
     const std::map<std::string, std::string> environment = {{"XDG_RUNTIME_DIR", m_folder.path()},
                                                             {"HOME", m_folder.path()},
                                                             {"DISPLAY", ""},
@@ -53,13 +53,23 @@ Sway::Sway(const Options& options) : m_hasXServer(options.hasXServer) {
                      {"DBUS_SESSION_BUS_ADDRESS", ""}};
     // It answers when it has read its configuration.
     message({"-t", "get_version"});
+    if (!m_hasXServer) return;
+    const bool isFound = eventually([this] { return !findDisplay().empty(); });
+    if (!isFound) throw std::runtime_error("sway has no X server: " + contentOf(log));
+    m_environment["DISPLAY"] = findDisplay();
 }
 
 void Sway::configure(const std::string& lines) const {
     std::ofstream(m_folder.file("config"))
-        << "output HEADLESS-1 resolution 1024x640\nxwayland " << (m_hasXServer ? "force" : "disable") << "\n"
+        << "output HEADLESS-1 resolution 1024x640\nxwayland "
+        << (m_hasXServer ? "force\nexec echo $DISPLAY > $XDG_RUNTIME_DIR/display" : "disable") << "\n"
         << lines << "\n";
     giveAway(m_folder.file("config"));
+}
+
+std::string Sway::findDisplay() const {
+    const std::string text = contentOf(m_folder.file("display"));
+    return text.ends_with('\n') ? text.substr(0, text.size() - 1) : std::string();
 }
 
 std::string Sway::findSocket() const {

@@ -33,11 +33,15 @@ class Sway {
     /// Whether swaymsg did it.
     bool tries(const std::vector<std::string>& arguments) const;
 
+    /// What it says of what it does.
+    std::string log() const { return contentOf(m_folder.file("log")); }
+
     /// The user's configuration, which `reload` reads again.
     void configure(const std::string& lines) const;
 
   private:
     std::string findSocket() const;
+    std::string findDisplay() const;
 
     TemporaryFolder m_folder;
     std::map<std::string, std::string> m_environment;

@@ -37,8 +37,9 @@ BEGIN {
     room("platform/x11", "platform platform/none platform/x11/press platform/x11/server platform/x11/watch" \
                          " platform/x11/windows", "", "^(Q|boost/|wayland)")
 
-    room("platform/desktops", "platform", "", foreign)
-    room("platform/wayland", "platform platform/desktops platform/keymap platform/none platform/press platform/run", "",
+    room("platform/desktops", "platform platform/monitor", "", foreign)
+    room("platform/wayland", "platform platform/desktops platform/keymap platform/monitor platform/none platform/press" \
+                             " platform/run", "",
          "^(Q|boost/|xcb/|X11/)")
 
     # The one list of sessions: nothing else that is no part of a session knows one.

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <set>
+#include <utility>
+
+#include "platform/desktops/SwayConfiguration.h"
+#include "platform/desktops/SwayConnection.h"
+#include "platform/monitor/KeyGrabber.h"
+
+/// Combinations that sway takes from all programs and tells us of, by its IPC.
+///
+/// They follow the key, whatever the layout is. What the user's configuration binds is never taken. Locks do
+/// not matter to sway. All are given back at the end; a process that is killed leaves them until sway reads
+/// its configuration again.
+class SwayBindings final : public KeyGrabber {
+  public:
+    /// Whether a key (XKB) types the symbol of that name.
+    using Types = std::function<bool(std::uint8_t keycode, const std::string& symbol)>;
+
+    /// Fails where the compositor is not sway.
+    static Result<std::unique_ptr<SwayBindings>> open(Types types);
+    ~SwayBindings() override;
+    SwayBindings(const SwayBindings&) = delete;
+    SwayBindings& operator=(const SwayBindings&) = delete;
+
+    // KeyGrabber
+    std::optional<std::string> grab(const KeyGrab& grab) override;
+    void release(const KeyGrab& grab) override;
+
+    /// What has happened: one of ours goes down or up, or sway has read its configuration again, which ends
+    /// all of them.
+    struct Event {
+        enum class Kind { press, release, reload };
+        Kind kind = Kind::press;
+        std::uint8_t keycode = 0;
+        std::uint16_t modifiers = 0;
+    };
+    /// Readable when nextEvent() may have one.
+    int fileDescriptor() const { return m_events.fileDescriptor(); }
+    /// Without waiting.
+    std::optional<Event> nextEvent();
+
+  private:
+    using Place = std::pair<std::uint8_t, std::uint16_t>;
+
+    SwayBindings(SwayConnection commands, SwayConnection events, Types types);
+
+    void readConfiguration();
+    bool isUsers(const Place& place) const;
+    Result<void> bind(const Place& place);
+    void unbind(const Place& place);
+    std::optional<Event> eventOf(const std::string& command) const;
+
+    SwayConnection m_commands;
+    SwayConnection m_events;
+    Types m_types;
+    std::vector<SwayConfiguration::Binding> m_users;
+    std::set<Place> m_bound;
+};

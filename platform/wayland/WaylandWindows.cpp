@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "platform/wayland/WaylandWindows.h"
+
+namespace wayland {
+
+namespace {
+
+constexpr std::chrono::milliseconds longestWait{500};
+constexpr std::chrono::milliseconds betweenLooks{5};
+
+}  // namespace
+
+/// The window may not have come to sway yet.
+void WaylandWindows::activate(WindowId window, std::uint32_t /*userTime*/) {
+    if (m_sway == nullptr) return;
+    const Clock::Time end = m_clock.now() + longestWait;
+    while (!m_sway->focusXWindow(window) && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
+}
+
+void WaylandWindows::awaitFocusElsewhere(WindowId hidden) {
+    if (m_sway == nullptr) return;
+    const Clock::Time end = m_clock.now() + longestWait;
+    const auto isElsewhere = [&] {
+        const auto front = m_sway->focused();
+        return front && (hidden == none || front->xWindow != hidden);
+    };
+    while (!isElsewhere() && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
+}
+
+}  // namespace wayland
