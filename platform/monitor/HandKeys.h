@@ -17,10 +17,13 @@ class HandKeys {
     /// `clock` outlives this.
     explicit HandKeys(const Clock& clock) : m_clock(clock) {}
 
-    /// The keys that are down before the first event, since nobody knows when.
-    void startWith(const std::vector<std::uint8_t>& keycodes) {
+    /// Stands for whichever keyboard.
+    static constexpr std::uint16_t anySource = 0;
+
+    /// The keys that are down before the first event, since nobody knows when, on that keyboard.
+    void startWith(const std::vector<std::uint8_t>& keycodes, std::uint16_t source = anySource) {
         for (const std::uint8_t keycode : keycodes) {
-            m_held.insert_or_assign({anySource, keycode}, Hold{m_clock.now(), true});
+            m_held.insert_or_assign({source, keycode}, Hold{m_clock.now(), true});
         }
     }
 
@@ -52,7 +55,6 @@ class HandKeys {
     }
 
   private:
-    static constexpr std::uint16_t anySource = 0;
     struct Hold {
         Clock::Time since;
         /// It was down before, too.

@@ -24,7 +24,7 @@ RunWatch& X11EventManager::runWatch() { return *m_parts; }
 const KeyboardState& X11EventManager::keyboard() const { return m_parts->keyboard(); }
 
 Result<void> X11EventManager::install(EventMonitor::Handler handler) {
-    m_parts->setHandler(std::move(handler));
+    m_parts->deliverer().setHandler(std::move(handler));
     return {};
 }
 
@@ -41,7 +41,7 @@ void X11EventManager::endPlaysWhen(std::function<bool()> isLocked) {
 }
 
 void X11EventManager::install(HotKeys::Handler pressed, HotKeys::Handler released) {
-    m_parts->setHotKeyHandlers(std::move(pressed), std::move(released));
+    m_parts->deliverer().setHotKeyHandlers(std::move(pressed), std::move(released));
 }
 
 void X11EventManager::observe(Observer observer) { m_parts->hotKeys().observe(std::move(observer)); }

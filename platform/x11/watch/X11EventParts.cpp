@@ -13,18 +13,6 @@ constexpr std::chrono::milliseconds betweenLooks{100};
 /// For the combinations that another program holds: nobody tells when it gives them free.
 constexpr std::chrono::milliseconds betweenTries{2000};
 
-/// True for the life of the scope.
-class FlagScope {
-  public:
-    explicit FlagScope(bool& flag) : m_flag(flag) { m_flag = true; }
-    ~FlagScope() { m_flag = false; }
-    FlagScope(const FlagScope&) = delete;
-    FlagScope& operator=(const FlagScope&) = delete;
-
-  private:
-    bool& m_flag;
-};
-
 }  // namespace
 
 Result<std::unique_ptr<X11EventManager::Parts>> X11EventManager::Parts::open(const Clock& clock,
@@ -81,16 +69,9 @@ X11EventManager::Parts::Parts(const Clock& clock, Opened opened)
 
 void X11EventManager::Parts::dispatch() {
     read();
-    if (m_dispatching || m_running) return;
-    const FlagScope dispatching(m_dispatching);
-    WipedQueue<Delivery>& deliveries = m_interpreter.deliveries();
-    while (!deliveries.empty()) {
-        // A stop may have come since, which takes back a play that has not begun.
-        if (std::holds_alternative<HotKeyEvent>(deliveries.front())) read();
-        if (deliveries.empty() || waitsForVerdict()) break;
-        const Delivery delivery = deliveries.takeFront();
-        std::visit([this](const auto& event) { deliver(event); }, delivery);
-    }
+    if (m_running) return;
+    m_deliverer.deliver(
+        m_interpreter.deliveries(), [this] { read(); }, [this] { return waitsForVerdict(); });
 }
 
 void X11EventManager::Parts::drain() {
@@ -243,11 +224,6 @@ void X11EventManager::Parts::restoreHotKeysOf(std::uint8_t keycode) {
     kick();
 }
 
-void X11EventManager::Parts::setHotKeyHandlers(HotKeys::Handler pressed, HotKeys::Handler released) {
-    m_pressed = std::move(pressed);
-    m_released = std::move(released);
-}
-
 // What was pressed before a switch is judged by what held then.
 
 void X11EventManager::Parts::setWithheld(bool withheld) {
@@ -271,18 +247,6 @@ void X11EventManager::Parts::mute() {
     const bool muted = m_withheld || m_screenLocked;
     m_interpreter.setMuted(muted);
     m_order.setLocked(m_screenLocked);
-}
-
-void X11EventManager::Parts::deliver(const KeyEvent& event) {
-    // A copy: the handler may be replaced from within.
-    const EventMonitor::Handler handler = m_handler;
-    if (handler) handler(event);
-}
-
-void X11EventManager::Parts::deliver(const HotKeyEvent& event) {
-    if (event.press) m_lastPressTime = event.time;
-    const HotKeys::Handler handler = event.press ? m_pressed : m_released;
-    if (handler) handler(event.id);
 }
 
 }  // namespace x11

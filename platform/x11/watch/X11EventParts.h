@@ -6,13 +6,13 @@
 #include <optional>
 #include <string>
 
-#include "platform/EventMonitor.h"
+#include "platform/monitor/Deliverer.h"
 #include "platform/monitor/KeyboardHold.h"
 #include "platform/run/RunWatch.h"
+#include "platform/run/Wakeups.h"
 #include "platform/x11/watch/EventOrder.h"
 #include "platform/x11/watch/HoldWatch.h"
 #include "platform/x11/watch/Ticker.h"
-#include "platform/x11/watch/Wakeups.h"
 #include "platform/x11/watch/X11EventManager.h"
 
 namespace x11 {
@@ -49,10 +49,9 @@ class X11EventManager::Parts final : public RunWatch {
     const HotKeyTable& hotKeys() const { return m_hotKeys; }
     const KeyboardState& keyboard() const { return m_keyboard; }
     const std::optional<Error>& problem() const { return m_problem; }
-    std::uint32_t lastPressTime() const { return m_lastPressTime; }
+    std::uint32_t lastPressTime() const { return m_deliverer.lastPressTime(); }
 
-    void setHandler(EventMonitor::Handler handler) { m_handler = std::move(handler); }
-    void setHotKeyHandlers(HotKeys::Handler pressed, HotKeys::Handler released);
+    Deliverer& deliverer() { return m_deliverer; }
     void setWithheld(bool withheld);
     void setScreenLocked(bool locked);
     void setKeepsOwnStrokes(bool keeps);
@@ -84,8 +83,6 @@ class X11EventManager::Parts final : public RunWatch {
     void followKeymap();
     void watchRepeats();
     void giveUp();
-    void deliver(const KeyEvent& event);
-    void deliver(const HotKeyEvent& event);
 
     std::unique_ptr<RawKeySource> m_raw;
     std::unique_ptr<HotKeyGrabs> m_grabs;
@@ -106,18 +103,14 @@ class X11EventManager::Parts final : public RunWatch {
     const Clock& m_clock;
     KeyboardHold m_hold;
 
-    EventMonitor::Handler m_handler;
-    HotKeys::Handler m_pressed;
-    HotKeys::Handler m_released;
+    Deliverer m_deliverer;
     std::function<void(bool)> m_holdChanged;
     std::function<bool()> m_isLocked;
-    std::uint32_t m_lastPressTime = 0;
     bool m_recording = false;
     bool m_toldHeld = false;
     bool m_withheld = false;
     bool m_screenLocked = false;
     bool m_running = false;
-    bool m_dispatching = false;
     bool m_gaveUp = false;
 };
 

@@ -5,8 +5,6 @@
 
 #include "platform/Descriptor.h"
 
-namespace x11 {
-
 /// One descriptor for an event loop in place of many: connections, a kick for what is already in memory, and
 /// a timer.
 class Wakeups {
@@ -34,5 +32,3 @@ class Wakeups {
     Descriptor m_timer;
     bool m_timerRuns = false;
 };
-
-}  // namespace x11

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/x11/watch/Wakeups.h"
+#include "platform/run/Wakeups.h"
 
 #include <sys/epoll.h>
 #include <sys/eventfd.h>
@@ -7,8 +7,6 @@
 #include <unistd.h>
 
 #include <cstdint>
-
-namespace x11 {
 
 Wakeups::Wakeups()
     : m_epoll(epoll_create1(EPOLL_CLOEXEC)),
@@ -53,5 +51,3 @@ bool Wakeups::takeTimer() {
     m_timerRuns = false;
     return true;
 }
-
-}  // namespace x11
