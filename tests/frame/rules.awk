@@ -18,6 +18,10 @@ BEGIN {
     room("platform/press", "platform platform/keymap platform/run", standard "|^xkbcommon/xkbcommon\\.h$", "")
     room("platform/linux", "platform", "", foreign)
 
+    room("platform/evdev/devices", "platform", "", foreign)
+    room("platform/evdev", "platform platform/evdev/devices platform/keymap platform/monitor platform/run", "",
+         "^(Q|boost/|xcb/|X11/|wayland)")
+
     below = "platform"
     storey("platform/script/source")
     storey("platform/script/values", "|^glib\\.h$")

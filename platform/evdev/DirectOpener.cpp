@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "platform/evdev/DirectOpener.h"
+
+#include <fcntl.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "platform/evdev/devices/KeyboardList.h"
+
+namespace evdev {
+
+void DirectOpener::open(const std::set<std::string>& held, Question /*question*/, Opened opened) {
+    opened(openAllBut(held));
+}
+
+Result<std::vector<OpenedDevice>> DirectOpener::openAllBut(const std::set<std::string>& held) const {
+    std::vector<OpenedDevice> devices;
+    for (const std::string& name : listKeyboards(m_folders)) {
+        if (held.contains(name)) continue;
+        const std::string file = m_folders.devices + "/" + name;
+        Descriptor descriptor(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+        const int cause = errno;
+        if (descriptor) {
+            devices.push_back({std::move(descriptor), name});
+        } else if (cause != ENOENT && cause != ENODEV) {
+            // Those were unplugged meanwhile.
+            return Error{"The keyboard cannot be read: " + file + ": " + std::strerror(cause) + ".",
+                         "Let the keyboard be read while a macro is recorded."};
+        }
+    }
+    return devices;
+}
+
+}  // namespace evdev

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "contracts/KeyboardContract.h"
+#include "evdev/FakeInput.h"
+#include "platform/evdev/DirectOpener.h"
+#include "platform/evdev/EvdevEventMonitor.h"
+#include "platform/fake/FakeClock.h"
+#include "platform/monitor/KeyGrabber.h"
+
+/// Other programs' hot keys.
+class FakeGrabber final : public KeyGrabber {
+  public:
+    std::optional<std::string> grab(const KeyGrab& grab) override;
+    void release(const KeyGrab& grab) override { std::erase(m_taken, grab); }
+
+    void otherTakes(const KeyGrab& grab) { m_elsewhere.push_back(grab); }
+    const std::vector<KeyGrab>& taken() const { return m_taken; }
+
+  private:
+    std::vector<KeyGrab> m_elsewhere;
+    std::vector<KeyGrab> m_taken;
+};
+
+/// One keyboard, event0, and the monitor over it, which records from the beginning. Time stands still until
+/// it is turned; repeats begin after 400 ms and come every 40 ms.
+class EvdevWorld final : public KeyboardWorld {
+  public:
+    EvdevWorld();
+
+    EventMonitor& monitor() override { return *m_monitor; }
+    HotKeys& hotKeys() override { return *m_monitor; }
+    void press(std::uint32_t keyCode) override { key(*m_keyboard, keyCode, 1); }
+    void release(std::uint32_t keyCode) override { key(*m_keyboard, keyCode, 0); }
+    void holdUntilRepeats(std::uint32_t keyCode, int atLeast) override;
+    void setCapsLock(bool on) override;
+    void otherClientGrabs(std::uint32_t keyCode, std::uint32_t modifiers) override;
+    void settle() override;
+
+    /// A stroke on one of several keyboards, as the kernel tells it: 1 pressed, 0 released, 2 repeated.
+    void key(const FakeInput::Device& keyboard, std::uint32_t keyCode, int value);
+    void advance(std::chrono::milliseconds duration) { m_clock.advance(duration); }
+
+    evdev::EvdevEventMonitor& evdevMonitor() { return *m_monitor; }
+    FakeInput& input() { return m_input; }
+    FakeCalls& calls() { return m_calls; }
+    FakeClock& clock() { return m_clock; }
+    FakeGrabber& grabber() { return m_grabber; }
+    std::unique_ptr<FakeInput::Device>& keyboard() { return m_keyboard; }
+
+  private:
+    FakeInput m_input;
+    FakeCalls m_calls;
+    FakeClock m_clock;
+    FakeGrabber m_grabber;
+    evdev::DirectOpener m_opener;
+    std::unique_ptr<FakeInput::Device> m_keyboard;
+    std::unique_ptr<evdev::EvdevEventMonitor> m_monitor;
+    bool m_capsLock = false;
+};
+
+/// What the monitor tells, as words, in a world of its own.
+class EvdevTest : public KeyboardContract {
+  protected:
+    EvdevWorld& evdevWorld() { return static_cast<EvdevWorld&>(world()); }
+    evdev::EvdevEventMonitor& monitor() { return evdevWorld().evdevMonitor(); }
+};
+
+std::unique_ptr<KeyboardWorld> makeEvdevWorld();

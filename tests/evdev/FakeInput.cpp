@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "evdev/FakeInput.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+#include "platform/Wiping.h"
+
+namespace {
+
+unsigned long inodeOf(int descriptor) {
+    struct stat status {};
+    if (fstat(descriptor, &status) != 0) throw std::runtime_error("no such descriptor");
+    return status.st_ino;
+}
+
+}  // namespace
+
+FakeInput::FakeInput() {
+    std::filesystem::create_directory(folders().devices);
+    std::filesystem::create_directory(folders().classes);
+}
+
+FakeInput::Device::Device(const evdev::InputFolders& folders, int number, const std::string& keys,
+                          const std::string& place)
+    : m_class(folders.classes + "/event" + std::to_string(number)),
+      m_file(folders.devices + "/event" + std::to_string(number)) {
+    std::filesystem::create_directories(m_class + "/device/capabilities");
+    std::ofstream(m_class + "/device/capabilities/key") << keys << '\n';
+    std::ofstream(m_class + "/device/phys") << place << '\n';
+    // Comes with its writer, since a pipe without one is at its end.
+    const std::string hidden = m_file + ".new";
+    if (mkfifo(hidden.c_str(), 0600) != 0) throw std::runtime_error("no pipe");
+    m_writer.reset(open(hidden.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC));
+    std::filesystem::rename(hidden, m_file);
+}
+
+FakeInput::Device::~Device() {
+    std::filesystem::remove_all(m_class);
+    std::filesystem::remove(m_file);
+}
+
+void FakeInput::Device::send(const input_event& event) const {
+    if (write(m_writer.number(), &event, sizeof event) != sizeof event) throw std::runtime_error("pipe full");
+}
+
+void FakeInput::Device::key(std::uint16_t evdevCode, std::int32_t value, Clock::Time time) const {
+    const auto sinceStart = std::chrono::duration_cast<std::chrono::microseconds>(time.time_since_epoch());
+    input_event event{};
+    event.input_event_sec = sinceStart.count() / 1'000'000;
+    event.input_event_usec = sinceStart.count() % 1'000'000;
+    event.type = EV_KEY;
+    event.code = evdevCode;
+    event.value = value;
+    send(event);
+    event.type = EV_SYN;
+    event.code = SYN_REPORT;
+    event.value = 0;
+    send(event);
+}
+
+void FakeInput::Device::lost(Clock::Time time) const {
+    const auto sinceStart = std::chrono::duration_cast<std::chrono::microseconds>(time.time_since_epoch());
+    input_event event{};
+    event.input_event_sec = sinceStart.count() / 1'000'000;
+    event.input_event_usec = sinceStart.count() % 1'000'000;
+    event.type = EV_SYN;
+    event.code = SYN_DROPPED;
+    send(event);
+}
+
+unsigned long FakeInput::Device::inode() const { return inodeOf(m_writer.number()); }
+
+std::unique_ptr<FakeInput::Device> FakeInput::plug(int number, const std::string& keys,
+                                                   const std::string& place) const {
+    return std::make_unique<Device>(folders(), number, keys, place);
+}
+
+FakeCalls::Answers FakeCalls::answersOf(int device) const {
+    const auto answers = m_answers.find(inodeOf(device));
+    return answers == m_answers.end() ? Answers() : answers->second;
+}

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+#include <fcntl.h>
+
+#include <filesystem>
+
+#include "evdev/EvdevWorld.h"
+#include "keymap/NamedKeymap.h"
+#include "platform/evdev/FallbackOpener.h"
+#include "platform/run/RunWatch.h"
+
+namespace {
+
+using evdev::DeviceOpener;
+
+/// Answers when it is told to.
+class PatientOpener final : public DeviceOpener {
+  public:
+    void open(const std::set<std::string>& held, Question question, Opened opened) override {
+        log.push_back((question == Question::allowed ? "asked beside" : "tried beside") + words(held));
+        m_opened = std::move(opened);
+    }
+    void close() override {
+        log.emplace_back("closed");
+        m_opened = {};
+    }
+
+    bool isWaiting() const { return static_cast<bool>(m_opened); }
+    void answer(Result<std::vector<evdev::OpenedDevice>> result) {
+        std::exchange(m_opened, {})(std::move(result));
+    }
+
+    std::vector<std::string> log;
+
+  private:
+    static std::string words(const std::set<std::string>& names) {
+        std::string text;
+        for (const std::string& name : names) text += ' ' + name;
+        return text;
+    }
+
+    Opened m_opened;
+};
+
+const Error refused{"Refused.", "Ask again."};
+
+class OpeningTest : public testing::Test {
+  protected:
+    using Log = std::vector<std::string>;
+
+    OpeningTest() {
+        m_monitor.observeProblem([this](const std::optional<Error>& problem) {
+            m_told.push_back(problem ? problem->message : "well");
+        });
+        EXPECT_TRUE(m_monitor.install([this](const KeyEvent& event) {
+            if (event.kind == KeyEventKind::keyDown) m_typed += event.character;
+        }));
+    }
+
+    std::vector<evdev::OpenedDevice> opened(int number) const {
+        const std::string name = "event" + std::to_string(number);
+        std::vector<evdev::OpenedDevice> devices;
+        devices.push_back({Descriptor(open((m_input.folders().devices + "/" + name).c_str(),
+                                           O_RDONLY | O_NONBLOCK | O_CLOEXEC)),
+                           name});
+        return devices;
+    }
+    void tap(const FakeInput::Device& device) {
+        device.key(30, 1, m_clock.now());
+        device.key(30, 0, m_clock.now());
+        m_monitor.dispatch();
+    }
+
+    FakeInput m_input;
+    FakeCalls m_calls;
+    FakeClock m_clock;
+    FakeGrabber m_grabber;
+    PatientOpener m_opener;
+    std::unique_ptr<FakeInput::Device> m_keyboard = m_input.plug(0);
+    evdev::EvdevEventMonitor m_monitor{{m_clock, m_opener, m_calls, m_grabber, m_input.folders()},
+                                       namedKeymap("us")};
+    Log m_told;
+    std::string m_typed;
+};
+
+TEST_F(OpeningTest, theUserIsAskedForARecordingAndKeysAreHeardFromHisAnswerOn) {
+    EXPECT_EQ(m_opener.log, Log{});
+    m_monitor.setRecording(true);
+    EXPECT_EQ(m_opener.log, Log{"asked beside"});
+    m_opener.answer(opened(0));
+    tap(*m_keyboard);
+    EXPECT_EQ(m_typed, "a");
+    m_monitor.setRecording(false);
+    EXPECT_EQ(m_opener.log, (Log{"asked beside", "closed"}));
+}
+
+TEST_F(OpeningTest, aRefusalIsToldOnceAndTheNextRecordingAsksAgain) {
+    m_monitor.setRecording(true);
+    m_opener.answer(refused);
+    m_monitor.dispatch();
+    m_monitor.dispatch();
+    EXPECT_EQ(m_told, Log{"Refused."});
+    EXPECT_EQ(m_monitor.shortcoming(), refused);
+    m_monitor.setRecording(false);
+    m_monitor.setRecording(true);
+    m_opener.answer(opened(0));
+    m_monitor.dispatch();
+    EXPECT_EQ(m_opener.log, (Log{"asked beside", "closed", "asked beside"}));
+    EXPECT_EQ(m_told, (Log{"Refused.", "well"}));
+    EXPECT_EQ(m_monitor.shortcoming(), std::nullopt);
+}
+
+TEST_F(OpeningTest, aRunAsksNobodyAndARecordingInItDoes) {
+    m_monitor.runWatch().runStarts();
+    EXPECT_EQ(m_opener.log, Log{"tried beside"});
+    m_monitor.setRecording(true);
+    EXPECT_EQ(m_opener.log, (Log{"tried beside", "asked beside"}));
+    m_monitor.runWatch().runEnds();
+    EXPECT_EQ(m_opener.log, (Log{"tried beside", "asked beside"}));
+}
+
+TEST_F(OpeningTest, aRunAfterARefusalTriesOnceMoreWithoutAsking) {
+    m_monitor.setRecording(true);
+    m_opener.answer(refused);
+    m_monitor.runWatch().runStarts();
+    EXPECT_EQ(m_opener.log, (Log{"asked beside", "tried beside"}));
+}
+
+TEST_F(OpeningTest, aRecordingThatEndsBeforeTheAnswerTakesTheQuestionBack) {
+    m_monitor.setRecording(true);
+    m_monitor.setRecording(false);
+    EXPECT_EQ(m_opener.log, (Log{"asked beside", "closed"}));
+    EXPECT_FALSE(m_opener.isWaiting());
+}
+
+TEST_F(OpeningTest, aKeyboardPluggedInDuringTheQuestionIsAskedForAfterIt) {
+    m_monitor.setRecording(true);
+    const auto second = m_input.plug(1);
+    m_monitor.dispatch();
+    EXPECT_EQ(m_opener.log, Log{"asked beside"});
+    m_opener.answer(opened(0));
+    EXPECT_EQ(m_opener.log, (Log{"asked beside", "tried beside event0"}));
+    m_opener.answer(opened(1));
+    tap(*second);
+    EXPECT_EQ(m_typed, "a");
+}
+
+TEST_F(OpeningTest, oneThatCannotBeOpenedLeavesTheOthersOpen) {
+    m_monitor.setRecording(true);
+    m_opener.answer(opened(0));
+    const auto second = m_input.plug(1);
+    m_monitor.dispatch();
+    m_opener.answer(refused);
+    tap(*m_keyboard);
+    EXPECT_EQ(m_typed, "a");
+    EXPECT_EQ(m_told, Log{"Refused."});
+}
+
+TEST_F(OpeningTest, hotKeysComeFromTheDesktopUntilKeyboardsAreOpen) {
+    int pressed = 0;
+    m_monitor.install([&pressed](HotKeyId) { ++pressed; }, {});
+    m_monitor.request({.id = 1, .name = "record", .keyCode = key::f5});
+    m_monitor.setRecording(true);
+    m_monitor.desktopTells(m_grabber.taken().front(), true);
+    m_monitor.dispatch();
+    EXPECT_EQ(pressed, 1);
+    m_monitor.desktopTells(m_grabber.taken().front(), false);
+    m_opener.answer(opened(0));
+    m_monitor.desktopTells(m_grabber.taken().front(), true);
+    m_monitor.dispatch();
+    EXPECT_EQ(pressed, 1);
+}
+
+TEST_F(OpeningTest, theSecondIsAskedOnlyWhereTheFirstFails) {
+    evdev::DirectOpener direct(m_input.folders());
+    PatientOpener asking;
+    evdev::FallbackOpener either(direct, asking);
+    std::vector<std::string> names;
+    const auto note = [&names](const Result<std::vector<evdev::OpenedDevice>>& devices) {
+        for (const auto& device : devices.value()) names.push_back(device.name);
+    };
+    either.open({}, DeviceOpener::Question::allowed, note);
+    EXPECT_EQ(names, Log{"event0"});
+    EXPECT_EQ(asking.log, Log{});
+
+    PatientOpener failing;
+    evdev::FallbackOpener second(failing, asking);
+    second.open({}, DeviceOpener::Question::allowed, note);
+    EXPECT_EQ(asking.log, Log{"asked beside"});
+    second.open({"event0"}, DeviceOpener::Question::avoided, note);
+    EXPECT_EQ(asking.log, (Log{"asked beside", "tried beside event0"}));
+    second.close();
+    EXPECT_EQ(asking.log.back(), "closed");
+}
+
+TEST_F(OpeningTest, aDeviceFileThatCannotBeOpenedIsNamed) {
+    m_keyboard.reset();
+    const auto listed = m_input.plug(7);
+    std::filesystem::remove(m_input.folders().devices + "/event7");
+    std::filesystem::create_symlink("event7", m_input.folders().devices + "/event7");
+    evdev::DirectOpener direct(m_input.folders());
+    std::optional<Error> failure;
+    direct.open({}, DeviceOpener::Question::allowed, [&failure](const auto& answer) {
+        if (!answer) failure = answer.error();
+    });
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->message, "The keyboard cannot be read: " + m_input.folders().devices +
+                                    "/event7: Too many levels of symbolic links.");
+}
+
+}  // namespace
