@@ -16,8 +16,14 @@ struct TableRow {
 
 /// Prints a row of the table that bench/run heads: what | ours | beside | ratio ours/beside | aim.
 inline void printRow(const TableRow& row) {
-    std::printf("| %-44s | %12.5g %-12s | %-28s %12.5g | %9.4f | %s\n", row.what.c_str(), row.ours,
+    std::printf("| %-54s | %9.5g %-12s | %-22s %9.5g | %9.4f | %s\n", row.what.c_str(), row.ours,
                 row.unit.c_str(), row.yardstick.c_str(), row.theirs,
                 row.theirs == 0 ? 0 : row.ours / row.theirs, row.aim.c_str());
+    std::fflush(stdout);
+}
+
+/// A row for what a peer does not do here, and why.
+inline void printAbsence(const std::string& what, const std::string& peer, const std::string& why) {
+    std::printf("| %-54s | %s %s\n", what.c_str(), peer.c_str(), why.c_str());
     std::fflush(stdout);
 }

@@ -8,12 +8,12 @@
 
 /// The smallest host of the system tray protocol: it takes the first icon that asks to be docked, embeds it
 /// and tells when it is on the screen.
-class TrayHost {
+class DockingHost {
   public:
-    explicit TrayHost(const std::string& display);
-    ~TrayHost();
-    TrayHost(const TrayHost&) = delete;
-    TrayHost& operator=(const TrayHost&) = delete;
+    explicit DockingHost(const std::string& display);
+    ~DockingHost();
+    DockingHost(const DockingHost&) = delete;
+    DockingHost& operator=(const DockingHost&) = delete;
 
     /// Serves until an icon is mapped inside the host; false after `deadline`.
     bool waitForIcon(std::chrono::milliseconds deadline);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "TrayHost.h"
+#include "DockingHost.h"
 
 #include <poll.h>
 
@@ -26,15 +26,15 @@ bool waitForEvents(xcb_connection_t* connection, Clock::time_point end) {
 
 }  // namespace
 
-TrayHost::TrayHost(const std::string& display) : m_connection(xcb_connect(display.c_str(), nullptr)) {
+DockingHost::DockingHost(const std::string& display) : m_connection(xcb_connect(display.c_str(), nullptr)) {
     if (xcb_connection_has_error(m_connection) != 0) throw std::runtime_error("no display " + display);
     m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
     becomeTray();
 }
 
-TrayHost::~TrayHost() { xcb_disconnect(m_connection); }
+DockingHost::~DockingHost() { xcb_disconnect(m_connection); }
 
-xcb_atom_t TrayHost::atom(const std::string& name) const {
+xcb_atom_t DockingHost::atom(const std::string& name) const {
     const auto cookie =
         xcb_intern_atom(m_connection, 0, static_cast<std::uint16_t>(name.size()), name.c_str());
     const std::unique_ptr<xcb_intern_atom_reply_t, Free> reply(
@@ -42,7 +42,7 @@ xcb_atom_t TrayHost::atom(const std::string& name) const {
     return reply->atom;
 }
 
-void TrayHost::becomeTray() {
+void DockingHost::becomeTray() {
     m_window = xcb_generate_id(m_connection);
     const std::uint32_t values[] = {1, XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY};
     xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_window, m_root, 0, 0, 200, 32, 0,
@@ -63,7 +63,7 @@ void TrayHost::becomeTray() {
     xcb_flush(m_connection);
 }
 
-void TrayHost::dock(xcb_window_t icon) {
+void DockingHost::dock(xcb_window_t icon) {
     m_icon = icon;
     const std::uint32_t size[] = {22, 22};
     xcb_reparent_window(m_connection, icon, m_window, 0, 0);
@@ -72,7 +72,7 @@ void TrayHost::dock(xcb_window_t icon) {
     xcb_flush(m_connection);
 }
 
-bool TrayHost::waitForIcon(std::chrono::milliseconds deadline) {
+bool DockingHost::waitForIcon(std::chrono::milliseconds deadline) {
     const auto end = Clock::now() + deadline;
     do {
         while (true) {
