@@ -37,6 +37,10 @@ void toggleRecording() {
         stopRecording();
         return;
     }
+    if (const Result<void> shown = services().eventMonitor.showsKeys(); !shown) {
+        if (SharedController* controller = sharedController()) controller->cannotRecord(shown.error());
+        return;
+    }
     state.recording = true;
     state.recordingMacro = MacroManager::createMacro();
     services().eventMonitor.setRecording(true);

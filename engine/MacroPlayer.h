@@ -12,6 +12,7 @@ class Macro;
 //
 // | state     | command                  | what happens                              | next state |
 // | idle      | toggleRecording          | a new macro, showRecordingGui             | recording  |
+// | idle      | - where no keys are shown | cannotRecord                             | idle       |
 // | idle      | stopRecording            | nothing                                   | idle       |
 // | recording | toggle- or stopRecording | a macro with actions becomes the current  | idle       |
 // |           |                          | one; hideRecordingGui                     |            |

@@ -4,6 +4,8 @@
 #include <boost/smart_ptr/shared_ptr.hpp>
 #include <string>
 
+#include "platform/Result.h"
+
 class Macro;
 
 /// What the engine tells the user interface. Main thread only.
@@ -19,6 +21,10 @@ class SharedController {
     /// cancelRecording() instead.
     virtual void showRecordingGui() = 0;
     virtual void hideRecordingGui() = 0;
+
+    /// A recording was asked for and has not started, since nothing can be recorded. Of interest only where
+    /// it can be told.
+    virtual void cannotRecord(const Error& /*why*/) {}
 
     /// Ask how many times to play.
     virtual void showMultiplePlayGui() = 0;

@@ -37,6 +37,10 @@ class EventMonitor {
     /// What of this does not work here though the rest does, and what is lost by it; as of the start.
     virtual std::optional<Error> shortcoming() const { return std::nullopt; }
 
+    /// Whether foreign key events are shown at all, so that something can be recorded; the error says why not
+    /// and what to do.
+    virtual Result<void> showsKeys() const { return {}; }
+
     /// Starts delivering to `handler`; a second call replaces it. Fails where the desktop shows no foreign
     /// key events.
     virtual Result<void> install(Handler handler) = 0;

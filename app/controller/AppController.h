@@ -84,6 +84,7 @@ class AppController : public QObject, public SharedController {
 
     void showRecordingGui() override;
     void hideRecordingGui() override;
+    void cannotRecord(const Error& why) override;
     void showMultiplePlayGui() override;
     void doMultiplePlay(QObject* sender);
     void runSplash();

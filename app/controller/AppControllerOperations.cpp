@@ -8,6 +8,7 @@
 
 #include "app/controller/AppController.h"
 #include "app/controller/BugReport.h"
+#include "app/dialogs/AlertTexts.h"
 #include "app/overlay/Fades.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/panels/WelcomePanel.h"
@@ -176,6 +177,8 @@ void AppController::hideRecordingGui() {
     m_menuDesk.recordingEnds();
     m_overlayDesk.hideRecorder();
 }
+
+void AppController::cannotRecord(const Error& why) { m_dialogs.runAlert(alerts::cannotRecord(why)); }
 
 void AppController::showMultiplePlayGui() {
     m_menuDesk.update();

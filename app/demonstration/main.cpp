@@ -27,6 +27,7 @@ class PrintingController : public SharedController {
 
     void setMacroString(const std::string& text) override { m_controller.setMacroString(text); }
     void showRecordingGui() override { m_controller.showRecordingGui(); }
+    void cannotRecord(const Error& why) override { m_controller.cannotRecord(why); }
     void hideRecordingGui() override { m_controller.hideRecordingGui(); }
     void showMultiplePlayGui() override { m_controller.showMultiplePlayGui(); }
     void currentMacroChanged() override { m_controller.currentMacroChanged(); }

@@ -55,6 +55,10 @@ AlertText noAccess(const Error& error) {
             .alternateButton = tr("Quit")};
 }
 
+AlertText cannotRecord(const Error& error) {
+    return warning(tr("Recording is not possible in this session yet"), error);
+}
+
 AlertText updateAvailable() { return updateAlert(tr("YES"), tr("NO")); }
 
 AlertText updateAvailableSheet() { return updateAlert(tr("Yes"), tr("No")); }

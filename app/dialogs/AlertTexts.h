@@ -13,6 +13,9 @@ AlertText sessionTooOld(const Error& error);
 /// Keys can be seen or pressed by nobody here; the default button leads to the documentation.
 AlertText noAccess(const Error& error);
 
+/// Nothing can be recorded in this session, though macros can be played.
+AlertText cannotRecord(const Error& error);
+
 /// As an alert of its own.
 AlertText updateAvailable();
 /// As a sheet: the buttons are written otherwise.

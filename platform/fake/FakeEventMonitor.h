@@ -16,6 +16,7 @@ class FakeEventMonitor : public EventMonitor {
     FakeEventMonitor(Journal& journal, FakeDesktop& desktop) : m_journal(journal), m_desktop(desktop) {}
 
     std::optional<Error> shortcoming() const override { return lacking; }
+    Result<void> showsKeys() const override { return blind ? Result<void>(*blind) : Result<void>(); }
     Result<void> install(Handler handler) override;
     void setWithheld(bool withheld) override { m_desktop.setWithheld(withheld); }
     void setKeepsOwnStrokes(bool keeps) override { m_keepsOwnStrokes = keeps; }
@@ -24,6 +25,8 @@ class FakeEventMonitor : public EventMonitor {
 
     /// What shortcoming() tells.
     std::optional<Error> lacking;
+    /// Why showsKeys() says no.
+    std::optional<Error> blind;
 
     /// The next install() answers the error and installs nothing.
     void failNextCall(const Error& error) { m_nextError = error; }

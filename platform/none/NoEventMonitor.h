@@ -10,6 +10,7 @@ class NoEventMonitor final : public EventMonitor {
   public:
     explicit NoEventMonitor(Error why) : m_why(std::move(why)) {}
 
+    Result<void> showsKeys() const override { return m_why; }
     Result<void> install(Handler /*handler*/) override { return m_why; }
     void setWithheld(bool /*withheld*/) override {}
     void setKeepsOwnStrokes(bool /*keeps*/) override {}

@@ -12,7 +12,7 @@ class WaylandEventMonitor final : public EventMonitor {
     /// `hotKeys` is null where there are none, and outlives this.
     WaylandEventMonitor(Error why, WaylandHotKeys* hotKeys) : m_why(std::move(why)), m_hotKeys(hotKeys) {}
 
-    std::optional<Error> shortcoming() const override { return m_why; }
+    Result<void> showsKeys() const override { return m_why; }
     Result<void> install(Handler /*handler*/) override { return m_why; }
     void setWithheld(bool withheld) override {
         if (m_hotKeys != nullptr) m_hotKeys->setWithheld(withheld);

@@ -22,11 +22,14 @@ class WaylandHands {
     void release(std::uint8_t keycode);
     /// Presses all in order, and releases them in the opposite one.
     void stroke(std::initializer_list<std::uint8_t> keycodes);
+    /// The layout of that place in the list, from 0, is in force from now on.
+    void switchTo(std::uint32_t layout);
 
   private:
     struct Parts;
 
     void send(std::uint8_t keycode, bool press);
+    void tellState();
 
     std::unique_ptr<Parts> m_parts;
 };

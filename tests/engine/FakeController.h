@@ -32,6 +32,7 @@ class FakeController : public SharedController {
         restartLastEventTime();
     }
     void hideRecordingGui() override { note("hideRecordingGui"); }
+    void cannotRecord(const Error& why) override { m_journal.note("cannotRecord", why.message); }
     void showMultiplePlayGui() override { note("showMultiplePlayGui"); }
     void currentMacroChanged() override { m_journal.note("currentMacroChanged"); }
     void addMacro(const boost::shared_ptr<Macro>& macro) override {
@@ -47,7 +48,7 @@ class FakeController : public SharedController {
     /// Everything the engine said, in order, as the journal has it.
     Messages messages() const {
         return m_journal.of({"setMacroString", "showRecordingGui", "hideRecordingGui", "showMultiplePlayGui",
-                             "addMacro", "currentMacroChanged"});
+                             "cannotRecord", "addMacro", "currentMacroChanged"});
     }
     const std::string& overlayText() const { return m_overlayText; }
     const std::vector<boost::shared_ptr<Macro>>& history() const { return m_history; }

@@ -27,6 +27,14 @@ TEST_F(MacroPlayerTest, aRecordingStartsWithANewNumberedMacro) {
     EXPECT_EQ(gui.messages(), Messages{"showRecordingGui()"});
 }
 
+TEST_F(MacroPlayerTest, whereNoKeysAreShownNoRecordingStartsAndThatIsTold) {
+    platform().eventMonitor.blind = Error{"Nothing is shown here.", ""};
+    toggleRecording();
+    EXPECT_FALSE(state().recording);
+    EXPECT_EQ(state().recordingMacro, nullptr);
+    EXPECT_EQ(gui.messages(), Messages{R"(cannotRecord("Nothing is shown here."))"});
+}
+
 TEST_F(MacroPlayerTest, theSecondRecordEndsTheRecording) {
     toggleRecording();
     record(36);

@@ -10,6 +10,7 @@ const Error why{"The X server has no XInput.", "Use another."};
 TEST(NoKeysTest, answersEachRequestWithTheError) {
     NoKeys keys(why);
     EXPECT_EQ(keys.eventMonitor.install({}).error(), why);
+    EXPECT_EQ(keys.eventMonitor.showsKeys().error(), why);
     EXPECT_EQ(keys.keyInjector.open({}).error(), why);
     EXPECT_EQ(keys.keyboardLayout.character(0, false, false).error(), why);
 }

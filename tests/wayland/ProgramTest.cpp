@@ -107,6 +107,13 @@ TEST_F(SwayProgramTest, thePromptPlaysAsOftenAsItIsTold) {
     EXPECT_EQ(foot.typed(6), "ababab");
 }
 
+TEST_F(SwayProgramTest, recordingSaysThatItIsNotPossible) {
+    start("keystroke \"a\"");
+    strokeHotKey(xkey::r);
+    EXPECT_TRUE(eventually([this] { return shows("Recording is not possible in this session yet"); }))
+        << sway().message({"-t", "get_tree"});
+}
+
 TEST_F(SwayProgramTest, theStopHotKeyEndsThePlay) {
     start("repeat 1000 times\nkeystroke \"a\"\ndelay 0.02\nend repeat\nkeystroke \"end\"");
     const Foot foot(sway());

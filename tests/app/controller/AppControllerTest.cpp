@@ -55,6 +55,16 @@ TEST_F(AppControllerTest, showsWhichHotKeyIsRefusedAndWhy) {
     EXPECT_EQ(statusItem.shownNotice, "Play has no shortcut. " + platform().hotKeys.state(3).error->message);
 }
 
+TEST_F(AppControllerTest, saysWhyNothingCanBeRecordedHere) {
+    controller.awakeFromNib();
+    platform().eventMonitor.blind = Error{"Keys are shown to nobody.", "Log in elsewhere."};
+    controller.recordMacro(nullptr);
+    ASSERT_EQ(dialogs.alerts.size(), 1U);
+    EXPECT_EQ(dialogs.alerts[0].title, "Recording is not possible in this session yet");
+    EXPECT_EQ(dialogs.alerts[0].message, "Keys are shown to nobody.\n\nLog in elsewhere.");
+    EXPECT_FALSE(engineState().recording);
+}
+
 TEST_F(AppControllerTest, showsStopAndSavePauseWhileRecording) {
     controller.recordMacro(nullptr);
     EXPECT_EQ(menu(),
