@@ -41,7 +41,7 @@ class NoSession {
         Result<void> setClipboard(std::string_view /*text*/) override { return m_owner.refusal(); }
         Result<std::string> clipboard() override { return m_owner.refusal(); }
         bool hasApplication(std::string_view /*name*/) override { return false; }
-        Result<std::string> frontApplication() override { return m_owner.refusal(); }
+        Result<std::vector<std::string>> applications() override { return m_owner.refusal(); }
         bool isInFront(std::string_view /*name*/) override { return false; }
         Result<void> activate(std::string_view /*name*/) override { return m_owner.refusal(); }
 

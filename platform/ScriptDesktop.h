@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Result.h"
 
@@ -22,10 +23,10 @@ class ScriptDesktop {
     /// Whether a window of the application is open. The name is that of the program or the window's class, in
     /// any case.
     virtual bool hasApplication(std::string_view name) = 0;
-    /// The name of the application whose window keys go to, as the other functions take it; empty if there is
-    /// none.
-    virtual Result<std::string> frontApplication() = 0;
-    /// Whether that is the application of the name.
+    /// The names of all applications that have a window, as the other functions take them: each once, the one
+    /// in front first.
+    virtual Result<std::vector<std::string>> applications() = 0;
+    /// Whether keys go to a window of the application.
     virtual bool isInFront(std::string_view name) = 0;
     /// Brings a window of the application to the front and gives it the focus, for which it waits a moment.
     virtual Result<void> activate(std::string_view name) = 0;

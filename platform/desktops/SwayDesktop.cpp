@@ -76,6 +76,23 @@ Result<void> SwayDesktop::focusXWindow(std::uint32_t xWindow) {
     return m_connection.run("[id=" + std::to_string(xWindow) + "] focus");
 }
 
+std::vector<std::string> SwayDesktop::programs() {
+    std::vector<std::string> found;
+    const auto tree = m_connection.ask(SwayConnection::Request::tree);
+    if (!tree) return found;
+    visitWindows(tree.value(), [&](const Json& node) {
+        const std::string program = windowAt(node).program;
+        const auto isSame = [&](const std::string& one) { return lowered(one) == lowered(program); };
+        const auto known = std::find_if(found.begin(), found.end(), isSame);
+        const bool isFocused = node["focused"].isTrue();
+        if (known != found.end() && isFocused) std::rotate(found.begin(), known, known + 1);
+        if (known == found.end() && !program.empty())
+            found.insert(isFocused ? found.begin() : found.end(), program);
+        return false;
+    });
+    return found;
+}
+
 Result<void> SwayDesktop::focus(const Window& window) {
     return m_connection.run("[con_id=" + std::to_string(window.number) + "] focus");
 }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/desktops/SwayConnection.h"
 
@@ -29,6 +30,8 @@ class SwayDesktop {
     std::optional<Window> focused();
     /// One of that program, in any case; the one that keys go to before others.
     std::optional<Window> windowOf(std::string_view program);
+    /// The names of all programs that have a window, each once, the one that keys go to first.
+    std::vector<std::string> programs();
     Result<void> focus(const Window& window);
     /// Fails while sway shows no such window.
     Result<void> focusXWindow(std::uint32_t xWindow);

@@ -19,10 +19,9 @@ bool WaylandScriptDesktop::hasApplication(std::string_view name) {
     return m_sway != nullptr && m_sway->windowOf(name).has_value();
 }
 
-Result<std::string> WaylandScriptDesktop::frontApplication() {
+Result<std::vector<std::string>> WaylandScriptDesktop::applications() {
     if (m_sway == nullptr) return noWindows();
-    const auto window = m_sway->focused();
-    return window ? window->program : std::string();
+    return m_sway->programs();
 }
 
 bool WaylandScriptDesktop::isInFront(std::string_view name) {

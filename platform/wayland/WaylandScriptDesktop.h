@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <vector>
+
 #include "platform/ScriptDesktop.h"
 #include "platform/desktops/SwayDesktop.h"
 #include "platform/wayland/WaylandClipboard.h"
@@ -17,7 +19,7 @@ class WaylandScriptDesktop final : public ScriptDesktop {
     Result<void> setClipboard(std::string_view text) override { return m_clipboard.set(text); }
     Result<std::string> clipboard() override { return m_clipboard.text(); }
     bool hasApplication(std::string_view name) override;
-    Result<std::string> frontApplication() override;
+    Result<std::vector<std::string>> applications() override;
     bool isInFront(std::string_view name) override;
     Result<void> activate(std::string_view name) override;
 

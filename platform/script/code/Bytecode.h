@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -29,14 +30,14 @@ enum class Operation : std::uint8_t {
     pushApplication,  ///< [index of the name into texts; 1 if it is System Events]
     pushDelimiters,
     makeApplication,  ///< takes the name
-    makeProcess,      ///< takes the name
-    pushFrontProcess,
-    pushList,     ///< takes items, the last one on top [their count]
-    pushRecord,   ///< takes values likewise [index into shapes]
-    loadLocal,    ///< [slot]
-    loadGlobal,   ///< [slot]
-    storeLocal,   ///< takes the value [slot]
-    storeGlobal,  ///< takes the value [slot]
+    makeProcess,      ///< takes the name, or the index among all
+    pushProcesses,    ///< all of them, in a list
+    pushList,         ///< takes items, the last one on top [their count]
+    pushRecord,       ///< takes values likewise [index into shapes]
+    loadLocal,        ///< [slot]
+    loadGlobal,       ///< [slot]
+    storeLocal,       ///< takes the value [slot]
+    storeGlobal,      ///< takes the value [slot]
     duplicate,
     drop,
     deepCopy,   ///< replaces the top by a copy that shares nothing
@@ -58,10 +59,11 @@ enum class Operation : std::uint8_t {
     textBetween,      ///< takes container, two indices [kind and form of the first and, 8 bits up, the last]
     getProperty,      ///< takes the container [name]
     setProperty,      ///< takes value, container [name]
-    getContents,      ///< replaces a reference by what it leads to
-    setContents,      ///< takes value, reference
-    setDelimiters,    ///< takes the value
-    characterId,      ///< takes a number or list of them
+    getPropertyOfEach,  ///< replaces a list of processes by a list [name]
+    getContents,        ///< replaces a reference by what it leads to
+    setContents,        ///< takes value, reference
+    setDelimiters,      ///< takes the value
+    characterId,        ///< takes a number or list of them
 
     call,          ///< takes a target if detail is 1, arguments [index into calls]
     command,       ///< takes arguments [index, and mask of those given 8 bits up]
@@ -79,6 +81,7 @@ enum class Operation : std::uint8_t {
     nextInRange,  ///< puts the next number above these, or jumps [target]
     beginList,    ///< replaces the top by list, count, index
     nextInList,   ///< puts a reference to the next item above these, or jumps [target]
+    keepItem,     ///< takes a condition; if it is true, the item is put into the list below these
 
     pushTry,  ///< errors go to [target]
     popTry,
@@ -121,6 +124,7 @@ struct Call {
     std::vector<NameId> labels = {};  ///< one for each argument
     std::uint32_t count = 0;
     std::uint32_t handler = 0;  ///< its index; 0, which is never called, if the script has none
+    std::uint32_t offset = 0;   ///< in bytes, its place in the source
 };
 
 /// What the machine runs, on its own: the source is kept for the places of errors.
@@ -139,6 +143,8 @@ struct Bytecode {
     std::vector<std::string> typedTexts;
     /// What the compiler noticed: codes that only this program plays, or that no key has.
     std::vector<ScriptWarning> warnings;
+    /// What was probably meant by names that are never set, where more is known than that.
+    std::unordered_map<NameId, std::string> advice;
 };
 
 }  // namespace script

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/script/commands/Advice.h"
 #include "platform/script/source/Wording.h"
 
 namespace script {
@@ -205,7 +206,11 @@ void CodeGenerator::resolveCalls() {
     for (std::uint32_t i = 1; i < code.handlers.size(); ++i) indices.emplace(code.handlers[i].name, i);
     for (Call& call : code.calls) {
         const auto found = indices.find(call.name);
-        if (found != indices.end()) call.handler = found->second;
+        if (found != indices.end()) {
+            call.handler = found->second;
+        } else {
+            m_out.warn(call.offset, noHandlerAdvice(m_tree.names.at(call.name).spelling));
+        }
     }
 }
 

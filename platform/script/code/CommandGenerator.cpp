@@ -35,6 +35,8 @@ void CommandGenerator::direct(NodeId value, const Command& command) {
     if (command.plays == Command::Plays::texts || command.plays == Command::Plays::keys) planTexts(start);
     if (command.plays == Command::Plays::codes || command.plays == Command::Plays::keys) warnOfCodes(value);
     if (command.plays == Command::Plays::codes) warnOfTexts(value);
+    if (command.plays == Command::Plays::texts || command.plays == Command::Plays::keys)
+        warnOfNames(value, command);
 }
 
 /// In the order of the table; the mask of those given, from bit 1 on.
@@ -96,6 +98,20 @@ void CommandGenerator::warnOfTexts(NodeId codes) {
     const bool isOther = node.kind == NodeKind::truth || node.kind == NodeKind::modifierDown ||
                          node.kind == NodeKind::modifierKey || node.kind == NodeKind::record;
     if (isText || isOther) m_out.warn(node.offset, noCodeAdvice());
+}
+
+/// A text that names what is to be pressed.
+void CommandGenerator::warnOfNames(NodeId typed, const Command& command) {
+    const Node& node = m_tree.at(typed);
+    const bool isTyped = command.plays == Command::Plays::texts;
+    if (node.kind == NodeKind::modifierKey || node.kind == NodeKind::modifierDown) {
+        if (isTyped) m_out.warn(node.offset, heldModifierAdvice());
+    } else if (node.kind == NodeKind::text) {
+        const std::string_view text = m_tree.texts[node.value];
+        const bool isModifier = !quotedModifierAdvice(text).empty();
+        std::string advice = isTyped ? typedNameAdvice(text) : isModifier ? heldModifierAdvice() : "";
+        if (!advice.empty()) m_out.warn(node.offset, std::move(advice));
+    }
 }
 
 void CommandGenerator::warnOfModifiers(NodeId modifiers) {

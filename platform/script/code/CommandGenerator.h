@@ -26,6 +26,7 @@ class CommandGenerator {
     bool joinsModifiers(const Node& node) const;
     void warnOfTexts(NodeId codes);
     void warnOfCodes(NodeId codes);
+    void warnOfNames(NodeId typed, const Command& command);
     void warnOfModifiers(NodeId modifiers);
 
     Emitter& m_out;

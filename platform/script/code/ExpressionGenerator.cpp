@@ -5,12 +5,17 @@
 #include <vector>
 
 #include "platform/script/code/CommandGenerator.h"
+#include "platform/script/source/Scoped.h"
 #include "platform/script/syntax/Operators.h"
 
 namespace script {
 namespace {
 
 BinaryOperator operatorOf(const Node& node) { return static_cast<BinaryOperator>(node.detail); }
+
+ElementForm formOf(const Node& processes) {
+    return static_cast<ElementForm>(processes.detail & processnode::formMask);
+}
 
 bool isShortCircuit(const Node& node) {
     return node.kind == NodeKind::binary &&
@@ -34,7 +39,6 @@ constexpr auto leaves = std::to_array<Leaf>({
     {NodeKind::modifierKey, Operation::pushModifier, 0},
     {NodeKind::result, Operation::pushResult},
     {NodeKind::delimiters, Operation::pushDelimiters},
-    {NodeKind::frontProcess, Operation::pushFrontProcess},
 });
 
 }  // namespace
@@ -120,7 +124,9 @@ void ExpressionGenerator::behindFirstPart(const Node& node) {
         case NodeKind::textBetween:
             return textBetween(node);
         case NodeKind::propertyOf:
-            return m_out.emit(Operation::getProperty, node, node.value);
+            return property(node);
+        case NodeKind::processes:
+            return processes(node);
         case NodeKind::referenceTo:
             return referenceTo(node);
         case NodeKind::contentsOf:
@@ -140,6 +146,11 @@ void ExpressionGenerator::behindFirstPart(const Node& node) {
 
 /// What one instruction gives.
 bool ExpressionGenerator::leaf(const Node& node) {
+    if (node.kind == NodeKind::name && m_asksProcess && names::isOfProcess(m_tree.names.at(node.value))) {
+        m_out.emit(Operation::pushIt, node);
+        m_out.emit(Operation::getProperty, node, node.value);
+        return true;
+    }
     if (node.kind == NodeKind::name) {
         load(node.value, node);
         return true;
@@ -178,6 +189,54 @@ bool ExpressionGenerator::target(const Node& node) {
         default:
             return false;
     }
+}
+
+/// Of several processes, that of each.
+void ExpressionGenerator::property(const Node& node) {
+    const Node& owner = m_tree.at(node.firstChild);
+    const bool isOfEach = owner.kind == NodeKind::processes && !isVariable(owner) &&
+                          formOf(owner) == ElementForm::every &&
+                          names::isOfProcess(m_tree.names.at(node.value));
+    m_out.emit(isOfEach ? Operation::getPropertyOfEach : Operation::getProperty, node, node.value);
+}
+
+/// `processes`, where the script has a variable of that name.
+bool ExpressionGenerator::isVariable(const Node& processes) const {
+    return (processes.detail & processnode::isBare) != 0 && m_out.scope().knows(processes.value);
+}
+
+/// All in a list, or those for which the condition holds; or one out of it.
+void ExpressionGenerator::processes(const Node& node) {
+    if (isVariable(node)) return load(node.value, node);
+    const ElementForm form = formOf(node);
+    const NodeId index = form == ElementForm::index ? node.firstChild : noNode;
+    const NodeId condition = index == noNode ? node.firstChild : m_tree.at(index).nextSibling;
+    if (condition == noNode) {
+        m_out.emit(Operation::pushProcesses, node);
+    } else {
+        filteredProcesses(node, condition);
+    }
+    if (form == ElementForm::every) return;
+    if (index != noNode) expression(index);
+    const auto kind = static_cast<unsigned>(ElementKind::item) << elementnode::kindShift;
+    m_out.emit(Operation::getElement, node, 0, static_cast<std::uint8_t>(kind | static_cast<unsigned>(form)));
+}
+
+/// Each is `it` while the condition is asked. Those kept lie below the list, its length and the index.
+void ExpressionGenerator::filteredProcesses(const Node& node, NodeId condition) {
+    m_out.emit(Operation::pushList, node);
+    m_out.emit(Operation::pushProcesses, node);
+    m_out.emit(Operation::beginList, node);
+    const std::uint32_t start = m_out.position();
+    const std::uint32_t leave = m_out.emitJump(Operation::nextInList, node);
+    m_out.emit(Operation::pushTarget, node);
+    const Scoped<bool> asks(m_asksProcess, true);
+    expression(condition);
+    m_out.emit(Operation::popTarget, node);
+    m_out.emit(Operation::keepItem, m_tree.at(condition));
+    m_out.emit(Operation::jump, node, start);
+    m_out.land(leave);
+    for (int i = 0; i < 3; ++i) m_out.emit(Operation::drop, node);
 }
 
 void ExpressionGenerator::load(NameId name, const Node& node) {
@@ -278,7 +337,7 @@ void ExpressionGenerator::referenceToVariable(const Node& name) {
 }
 
 void ExpressionGenerator::call(const Node& node, bool hasTarget) {
-    Call call{node.value, node.detail != 0};
+    Call call{.name = node.value, .isLabelled = node.detail != 0, .offset = node.offset};
     for (NodeId id = node.firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
         expression(m_tree.at(id).firstChild);
         call.labels.push_back(m_tree.at(id).value);

@@ -34,6 +34,10 @@ class ExpressionGenerator {
     void requireValue(const Node& node);
     bool leaf(const Node& node);
     bool target(const Node& node);
+    void property(const Node& node);
+    bool isVariable(const Node& processes) const;
+    void processes(const Node& node);
+    void filteredProcesses(const Node& node, NodeId condition);
     void items(const Node& node, Operation operation);
     void record(const Node& node);
     void binary(const Node& node);
@@ -56,6 +60,8 @@ class ExpressionGenerator {
     /// What the name at an offset is meant as.
     NameRole m_role = NameRole::value;
     std::uint32_t m_roleOffset = 0xFFFFFFFF;
+    /// Whether a condition is worked on that is asked of processes, whose properties it names.
+    bool m_asksProcess = false;
 };
 
 }  // namespace script

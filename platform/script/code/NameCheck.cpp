@@ -44,25 +44,25 @@ void NameCheck::lookAt(const Scope& scope) {
 
 void NameCheck::suspect(NameId name, const VariableUse& use, const std::vector<NameId>& known) {
     if (!use.isRead || use.isSet || m_suspects.size() == mostSuspects) return;
-    m_suspects.push_back({name, use, adviceFor(name, use, known)});
+    const std::string& called = spelling(name);
+    const std::string meant = slipOf(name, known);
+    const std::string advice = meant.empty() ? meantBy(called, use.role) : meant;
+    m_suspects.push_back({use.offset, neverSet(called) + advice});
+    if (!meant.empty() || use.role != NameRole::value) m_out.code().advice.emplace(name, advice);
 }
 
-std::string NameCheck::adviceFor(NameId name, const VariableUse& use,
-                                 const std::vector<NameId>& known) const {
+/// Which slip has led to the name; empty if none is known.
+std::string NameCheck::slipOf(NameId name, const std::vector<NameId>& known) const {
     const std::string& called = spelling(name);
-    if (m_handlers.contains(name))
-        return neverSet(called) + "A handler is called with parentheses: " + called + "().";
-    if (name < m_setByRun.size() && m_setByRun[name]) {
-        return "The variable " + called + " is never set in its handler. To share it write there: global " +
-               called + ".";
-    }
+    if (m_handlers.contains(name)) return "A handler is called with parentheses: " + called + "().";
+    if (name < m_setByRun.size() && m_setByRun[name])
+        return "A handler has variables of its own; to share this one write there: global " + called + ".";
     std::vector<NameId> all = known;
     const std::vector<NameId>& shared = m_out.script().names();
     all.insert(all.end(), shared.begin(),
                shared.begin() + static_cast<std::ptrdiff_t>(std::min(shared.size(), mostCompared)));
     const std::string similar = similarTo(called, all);
-    if (!similar.empty()) return neverSet(called) + "Did you mean " + similar + "?";
-    return neverSet(called) + meantBy(called, use.role);
+    return similar.empty() ? foreignWordAdvice(called) : "Did you mean " + similar + "?";
 }
 
 /// The nearest name, if it is near enough for a slip; short ones are near to one another by chance.
@@ -91,7 +91,7 @@ void NameCheck::warn() {
         if (script.isSetProperty(names[slot])) continue;
         suspect(names[slot], script.use(static_cast<std::uint32_t>(slot)), names);
     }
-    for (Suspect& suspect : m_suspects) m_out.warn(suspect.use.offset, std::move(suspect.advice));
+    for (Suspect& suspect : m_suspects) m_out.warn(suspect.offset, std::move(suspect.warning));
 }
 
 }  // namespace script

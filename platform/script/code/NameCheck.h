@@ -10,8 +10,8 @@
 
 namespace script {
 
-/// Finds the names that a script reads and sets nowhere, and says what may have been meant. Such a script
-/// compiles: what it does until then may be all that is wanted.
+/// Finds the names that a script reads and sets nowhere, and says what may have been meant, then and
+/// where a run comes to such a name. The script compiles: what it does until then may be all that is wanted.
 class NameCheck {
   public:
     /// The emitter outlives the object, and so do the handlers of the script, by their names.
@@ -30,14 +30,13 @@ class NameCheck {
     static constexpr std::size_t mostCompared = 200;
 
     void suspect(NameId name, const VariableUse& use, const std::vector<NameId>& known);
-    std::string adviceFor(NameId name, const VariableUse& use, const std::vector<NameId>& known) const;
+    std::string slipOf(NameId name, const std::vector<NameId>& known) const;
     std::string similarTo(const std::string& name, const std::vector<NameId>& known) const;
     const std::string& spelling(NameId name) const { return m_out.tree().names.at(name).spelling; }
 
     struct Suspect {
-        NameId name = 0;
-        VariableUse use;
-        std::string advice;
+        std::uint32_t offset = 0;  ///< in bytes, where the name is read first
+        std::string warning;
     };
 
     Emitter& m_out;

@@ -107,7 +107,7 @@ void StatementGenerator::tell(const Node& node) {
     m_expressions.expressionAs(NameRole::application, node.firstChild);
     m_out.emit(Operation::pushTarget, m_tree.at(node.firstChild));
     const NodeKind kind = m_tree.at(node.firstChild).kind;
-    const Scoped<bool> process(m_tellsProcess, kind == NodeKind::process || kind == NodeKind::frontProcess);
+    const Scoped<bool> process(m_tellsProcess, kind == NodeKind::process || kind == NodeKind::processes);
     const UndoneScope target(*this, node, Operation::popTarget);
     block(m_tree.at(node.firstChild).nextSibling);
 }

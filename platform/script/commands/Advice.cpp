@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "platform/KeyCodes.h"
 #include "platform/script/values/ModifierWords.h"
@@ -40,13 +41,69 @@ std::optional<int> codeOfWord(std::string_view name) {
     return row == keyWords.end() ? std::nullopt : std::optional<int>(row->code);
 }
 
+/// What other languages say, in lower case, and how it is said here.
+struct ForeignWord {
+    std::string_view word;
+    std::string_view advice;
+};
+
+constexpr std::string_view asking =
+    "A question is asked with: text returned of (display dialog \"Name?\" default answer \"\").";
+constexpr std::string_view choosing = "A number by chance is: random number from 1 to 10.";
+constexpr std::string_view leaving = "A loop is left with “exit repeat”, the script with “return”.";
+constexpr std::string_view typing = "Text is typed with “keystroke”: keystroke \"hello\".";
+constexpr std::string_view pausing = "A pause is written in seconds: delay 2.";
+constexpr std::string_view raising =
+    "A window is brought to the front with: tell application \"Firefox\" to activate.";
+
+constexpr auto foreignWords = std::to_array<ForeignWord>({{"input", asking},
+                                                          {"ask", asking},
+                                                          {"prompt", asking},
+                                                          {"random", choosing},
+                                                          {"rand", choosing},
+                                                          {"randint", choosing},
+                                                          {"break", leaving},
+                                                          {"stop", leaving},
+                                                          {"quit", leaving},
+                                                          {"print", typing},
+                                                          {"type", typing},
+                                                          {"send", typing},
+                                                          {"write", typing},
+                                                          {"sleep", pausing},
+                                                          {"wait", pausing},
+                                                          {"launch", raising},
+                                                          {"open", raising}});
+
+/// The modifier that is called so elsewhere or here; empty if none is.
+std::string_view modifierOf(std::string_view name) {
+    constexpr auto names =
+        std::to_array<std::pair<std::string_view, std::string_view>>({{"cmd", "command"},
+                                                                      {"command", "command"},
+                                                                      {"super", "command"},
+                                                                      {"win", "command"},
+                                                                      {"meta", "command"},
+                                                                      {"ctrl", "control"},
+                                                                      {"ctl", "control"},
+                                                                      {"control", "control"},
+                                                                      {"alt", "option"},
+                                                                      {"opt", "option"},
+                                                                      {"option", "option"},
+                                                                      {"shift", "shift"}});
+    const std::string lowered = asciiLowered(name);
+    const auto* row =
+        std::find_if(names.begin(), names.end(), [&](const auto& one) { return one.first == lowered; });
+    return row == names.end() ? "" : row->second;
+}
+
 std::string inQuotes(std::string_view name) { return "\"" + std::string(name) + "\""; }
 
 }  // namespace
 
 std::string codeAdvice(std::int64_t code) {
     constexpr std::int64_t largest = 65535;
-    if (code < 0 || code > largest) return "A key code lies between 0 and " + std::to_string(largest) + ".";
+    if (code < 0 || code > largest)
+        return "A key code lies between 0 and " + std::to_string(largest) +
+               "; “keyrill-script keys” prints those that keys have.";
     const auto key = static_cast<std::uint32_t>(code);
     if (keycode::isExtension(key)) {
         return "Key code " + std::to_string(code) + " is an extension, which only Keyrill plays.";
@@ -82,6 +139,38 @@ std::string joinedTextsAdvice() { return "Texts are joined with “&”: \"one\"
 std::string comparisonAdvice(std::string_view name) {
     return "This compares and changes nothing; a variable is set with “to”: set " +
            std::string(name.empty() ? "x" : name) + " to …";
+}
+
+std::string typedNameAdvice(std::string_view text) {
+    const std::string typed = "This is typed as it stands; ";
+    if (text.size() > 2 && text.front() == '{' && text.back() == '}') {
+        const std::optional<int> code = codeOfWord(text.substr(1, text.size() - 2));
+        return code ? typed + "the key has a number: key code " + std::to_string(*code) + "." : "";
+    }
+    const std::size_t sign = text.find_first_of("+-");
+    if (sign == std::string_view::npos || sign + 2 != text.size()) return "";
+    const std::string_view modifier = modifierOf(text.substr(0, sign));
+    if (modifier.empty()) return "";
+    return typed + "a shortcut is written: keystroke " + inQuotes(text.substr(sign + 1)) + " using " +
+           std::string(modifier) + " down.";
+}
+
+std::string heldModifierAdvice() { return "A modifier is held with: key down shift, without quotes."; }
+
+std::string noHandlerAdvice(std::string_view name) {
+    const std::string foreign = foreignWordAdvice(name);
+    if (!foreign.empty()) return foreign;
+    return "The script has no handler of that name: on " + std::string(name) + "(…) … end " +
+           std::string(name) + ".";
+}
+
+std::string foreignWordAdvice(std::string_view name) {
+    if (const std::string_view modifier = modifierOf(name); !modifier.empty())
+        return "The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using " +
+               std::string(modifier) + " down.";
+    const auto* row = std::find_if(foreignWords.begin(), foreignWords.end(),
+                                   [&](const ForeignWord& one) { return one.word == asciiLowered(name); });
+    return row == foreignWords.end() ? "" : std::string(row->advice);
 }
 
 std::string neverSet(std::string_view name) {

@@ -39,6 +39,19 @@ std::string comparisonAdvice(std::string_view name);
 /// "The variable NAME is never set. "
 std::string neverSet(std::string_view name);
 
+/// Of a text that is typed as it stands and names a key or a shortcut as other programs do: "{ENTER}",
+/// "ctrl+c". Empty for all others.
+std::string typedNameAdvice(std::string_view text);
+
+/// Of the name of a modifier in quotes, or by itself, where a text or key is meant.
+std::string heldModifierAdvice();
+
+/// Of a call for which the script has no handler.
+std::string noHandlerAdvice(std::string_view name);
+
+/// What words of other languages are here; empty for words of none.
+std::string foreignWordAdvice(std::string_view name);
+
 /// What a name was meant to be that is never set, where a value of that role belongs.
 enum class NameRole : std::uint8_t { value, text, keyCode, application };
 std::string meantBy(std::string_view name, NameRole role);

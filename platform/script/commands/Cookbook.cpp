@@ -25,26 +25,32 @@ tell application "System Events" to keystroke (year of d as text) & "-" & m & "-
 )",
          ""},
         {"A form of three fields",
-         "The question is asked before anything is typed; Cancel ends the macro there. In most forms Tab "
-         "goes to the next "
-         "field.",
+         "The question is asked before anything is typed; Cancel ends the macro there. Tab goes to the next "
+         "field, "
+         "whose text\n"
+         "is typed over in most forms, and Return in the last one is OK: one more Tab would lead to a "
+         "button, perhaps "
+         "to Cancel.\n"
+         "The date is written 1/31/26; see “Today's date” for other ways.",
          R"(set who to text returned of (display dialog "Your name?" default answer "Ann")
+set today to short date string of (current date)
 tell application "System Events"
-	repeat with entry in {who, "Main Street 1", "12345"}
-		keystroke entry & tab
-		delay 0.1
-	end repeat
-	key code 36 -- Return
+	keystroke who & tab
+	delay 0.1
+	keystroke today & tab
+	delay 0.1
+	keystroke "Main Street 1" & return
 end tell
 )",
-         R"(["dialog","Your name?",["Cancel","OK"]]
-["text","Ann\t",[]]
-["delay",0.1]
-["text","Main Street 1\t",[]]
-["delay",0.1]
-["text","12345\t",[]]
-["delay",0.1]
-["key",36,[]]
+         ""},
+        {"A field that holds something already", "All of it is selected, and typed over.",
+         R"(tell application "System Events"
+	keystroke "a" using control down
+	keystroke "12345"
+end tell
+)",
+         R"(["text","a",["control"]]
+["text","12345",[]]
 )"},
         {"The same key many times", "A pause gives the program time to follow.",
          R"(tell application "System Events"

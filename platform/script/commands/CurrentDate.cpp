@@ -25,8 +25,12 @@ const Command& currentDateCommand() {
 
 The date and time of now. A date has the properties `year`, `month`, `day`, `weekday`, `hours`, `minutes`, `seconds`,
 `time`, `date string`, `short date string` and `time string`; seconds can be added to it, and a date taken from it.
-`date "2026-01-31"`, `date "1/31/2026 1:05 PM"` and `date "January 31, 2026"` are dates, too.)",
+`date "2026-01-31"`, `date "1/31/2026 1:05 PM"` and `date "January 31, 2026"` are dates, too. The texts of a date are the
+same in all countries; for another order put its parts together, as the recipe “Today's date” does.)",
                                  .examples = R"(class of (current date) => date
+short date string of date "2026-01-31" => "1/31/26"
+date string of date "2026-01-31" => "Saturday, January 31, 2026"
+time string of date "2026-01-31 13:05:09" => "1:05:09 PM"
 (current date) > date "2020-01-01" => true)"};
     return command;
 }

@@ -84,8 +84,8 @@ looking into windows (`click`, `menu item`, `UI elements`): a macro presses keys
 front. To start a program press the keys that start it on your desktop.
 
 Applications have no dictionaries of their own here: `tell application "Firefox"` knows `activate`, `running` and
-`frontmost`, and nothing else. Raw codes (`«event ...»`), script objects, `whose` but for the process in front, `choose
-file`, `path to` and `say` are left out. `use` lines are read and mean nothing. What a property holds is not kept from one
+`frontmost`, and nothing else. Raw codes (`«event ...»`), script objects, `whose` but for processes, `choose file`,
+`path to` and `say` are left out. `use` lines are read and mean nothing. What a property holds is not kept from one
 run to the next. Dates are written in one form, whatever the locale.
 )";
 

@@ -3,6 +3,7 @@
 // Operations that call handlers and commands.
 #include <algorithm>
 
+#include "platform/script/commands/Advice.h"
 #include "platform/script/commands/Command.h"
 #include "platform/script/run/Execution.h"
 #include "platform/script/run/OperationTable.h"
@@ -56,7 +57,7 @@ void callHandler(Execution& run, const Call& call, std::uint32_t index) {
     run.enterHandler(index, handler.labels.size());
 }
 
-/// -1708, with a hint where the script itself has the handler.
+/// -1708, with what may have been meant.
 Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) {
     const TargetBody* body = target.target();
     const bool isScript = body != nullptr && body->kind == TargetBody::Kind::script;
@@ -67,6 +68,7 @@ Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) 
                     prefix + sourceForm(target) + " doesn’t understand the “" + name + "” message."};
     if (isOwn)
         failure.hint = "Inside “tell” the script’s own handlers are called with “my”: my " + name + "(…).";
+    if (isScript) failure.hint = noHandlerAdvice(name);
     return failure;
 }
 

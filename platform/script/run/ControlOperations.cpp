@@ -80,6 +80,18 @@ void nextInList(Execution& run, const Instruction& here) {
     run.push(Value{makeShared<ReferenceBody>(run.top(2), element)});
 }
 
+/// Below the condition lie the index of the item, the length of the list, the list, and those that were kept.
+void keepItem(Execution& run, const Instruction& /*unused*/) {
+    const Value value = run.popResolved();
+    if (run.hasFailed()) return;
+    const std::optional<bool> condition = conditionOf(value);
+    if (!condition) return run.fail(cannotMake(value, "boolean"));
+    if (!*condition) return;
+    const auto place = static_cast<std::size_t>(counter(run.top())) - 1;
+    run.top(3).list()->push_back((*run.top(2).list())[place]);
+    (*run.top(3).as<Shared<ListBody>>())->didChange();
+}
+
 void pushTry(Execution& run, const Instruction& here) { run.pushTry(here.operand); }
 void popTry(Execution& run, const Instruction& /*unused*/) { run.popTry(); }
 
@@ -151,6 +163,7 @@ void addControlOperations(OperationTable& table) {
     add(Operation::nextInRange, nextInRange);
     add(Operation::beginList, beginList);
     add(Operation::nextInList, nextInList);
+    add(Operation::keepItem, keepItem);
     add(Operation::pushTry, pushTry);
     add(Operation::popTry, popTry);
     add(Operation::pushErrorPart, pushErrorPart);

@@ -114,17 +114,18 @@ bool isScript(const Value& value) {
 /// Whether a property is one of applications and processes that the desktop knows.
 bool isStateOf(const Value& container, const Name& name) {
     const TargetBody* target = container.target();
-    return target != nullptr && target->kind != TargetBody::Kind::script &&
-           (&name == &names::running || &name == &names::frontmost);
+    return target != nullptr && target->kind != TargetBody::Kind::script && &name != &names::nameProperty &&
+           names::isOfProcess(name);
 }
 
-/// System Events is this program, which runs and has no window.
-void getState(Execution& run, const TargetBody& target, const Name& name) {
+/// What runs has a window, but for System Events, which is this program.
+bool stateOf(Execution& run, const TargetBody& target, const Name& name) {
     const bool isSystemEvents = target.kind == TargetBody::Kind::systemEvents;
-    if (&name == &names::running) {
-        return run.push(Value{isSystemEvents || run.desktop().hasApplication(target.name.str())});
-    }
-    run.push(Value{!isSystemEvents && run.desktop().isInFront(target.name.str())});
+    if (&name == &names::backgroundOnly) return isSystemEvents;
+    if (isSystemEvents) return &name == &names::running;
+    const std::string_view called = target.name.str();
+    return &name == &names::frontmost ? run.desktop().isInFront(called)
+                                      : run.desktop().hasApplication(called);
 }
 
 /// A process is brought to the front; which one comes instead is not for the script to say.
@@ -142,7 +143,7 @@ void getProperty(Execution& run, const Instruction& here) {
     const Name& name = run.name(here.operand);
     const Value container = run.popResolved();
     if (run.hasFailed()) return;
-    if (isStateOf(container, name)) return getState(run, *container.target(), name);
+    if (isStateOf(container, name)) return run.push(Value{stateOf(run, *container.target(), name)});
     if (&name != &names::length && &name != &names::beginning && &name != &names::end) run.workOn(container);
     if (!isScript(container) || &name == &names::classProperty)
         return run.pushOrFail(propertyOf(container, name));
@@ -150,6 +151,19 @@ void getProperty(Execution& run, const Instruction& here) {
     if (variable != nullptr && variable->cell() != nullptr) variable = &variable->cell()->content;
     if (variable == nullptr || variable->is<Nothing>()) return run.fail(cannotGet(sourceForm(name)));
     run.push(Value(*variable));
+}
+
+/// They are as they were listed, in their order.
+void getPropertyOfEach(Execution& run, const Instruction& here) {
+    const Name& name = run.name(here.operand);
+    const Value processes = run.pop();
+    List values;
+    for (const Value& process : *processes.list()) {
+        const TargetBody& target = *process.target();
+        values.push_back(&name == &names::nameProperty ? Value{target.name}
+                                                       : Value{stateOf(run, target, name)});
+    }
+    run.push(Value{std::move(values)});
 }
 
 void setPropertyOperation(Execution& run, const Instruction& here) {
@@ -229,6 +243,7 @@ void addElementOperations(OperationTable& table) {
     add(Operation::textBetween, textBetweenOperation);
     add(Operation::getProperty, getProperty);
     add(Operation::setProperty, setPropertyOperation);
+    add(Operation::getPropertyOfEach, getPropertyOfEach);
     add(Operation::getContents, getContents);
     add(Operation::setContents, setContents);
     add(Operation::characterId, characterId);

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/KeyInjector.h"
 #include "platform/ScriptDesktop.h"
@@ -29,7 +30,7 @@ class SilentDesktop : public ScriptDesktop {
     Result<std::string> clipboard() override { return m_clipboard; }
     bool hasApplication(std::string_view /*name*/) override { return false; }
     Result<void> activate(std::string_view /*name*/) override { return {}; }
-    Result<std::string> frontApplication() override { return std::string(); }
+    Result<std::vector<std::string>> applications() override { return std::vector<std::string>(); }
     bool isInFront(std::string_view /*name*/) override { return false; }
 
   private:

@@ -15,7 +15,8 @@ std::string jsonText(std::string_view text);
 /// Prints what would be done to the desktop, one JSON array a line: ["beep",1]  ["clipboard","text"]. The
 /// clipboard holds what was put there. Every application is taken to be open, and
 /// in front is the one that was brought there last, or one called "Application": what a script does where it
-/// runs as it is meant to is to be seen, on a machine that may not even have a display.
+/// runs as it is meant to is to be seen, on a machine that may not even have a display. Where all are asked
+/// for, that is the one in front.
 class TraceDesktop : public SilentDesktop {
   public:
     /// The stream outlives it.
@@ -28,7 +29,7 @@ class TraceDesktop : public SilentDesktop {
         m_front = name;
         return {};
     }
-    Result<std::string> frontApplication() override { return m_front; }
+    Result<std::vector<std::string>> applications() override { return std::vector{m_front}; }
     bool isInFront(std::string_view name) override;
 
   private:

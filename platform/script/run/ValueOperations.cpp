@@ -10,6 +10,7 @@
 #include "platform/script/values/Arithmetic.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/Comparison.h"
+#include "platform/script/values/Elements.h"
 #include "platform/script/values/PredefinedNames.h"
 #include "platform/script/values/SourceForm.h"
 
@@ -32,13 +33,18 @@ void pushMe(Execution& run, const Instruction& /*unused*/) { run.push(run.me());
 void pushIt(Execution& run, const Instruction& /*unused*/) { run.push(run.target()); }
 void pushDelimiters(Execution& run, const Instruction& /*unused*/) { run.push(run.delimiters()); }
 
-void failUndefined(Execution& run, const std::string& name) {
-    const std::string hint = name == "result" ? "" : undefinedHint(name);
-    run.fail({errornumber::undefinedVariable, "The variable " + name + " is not defined.", hint});
+void failUndefined(Execution& run, const std::string& name, std::string hint) {
+    run.fail({errornumber::undefinedVariable, "The variable " + name + " is not defined.", std::move(hint)});
+}
+
+void failUndefined(Execution& run, NameId id) {
+    const std::string& name = run.name(id).spelling;
+    const auto known = run.code().advice.find(id);
+    failUndefined(run, name, known == run.code().advice.end() ? undefinedHint(name) : known->second);
 }
 
 void pushResult(Execution& run, const Instruction& /*unused*/) {
-    if (run.frame().result.is<Nothing>()) return failUndefined(run, "result");
+    if (run.frame().result.is<Nothing>()) return failUndefined(run, "result", "");
     run.push(run.frame().result);
 }
 
@@ -61,13 +67,25 @@ void makeNamed(Execution& run, TargetBody::Kind kind) {
 void makeApplication(Execution& run, const Instruction& /*unused*/) {
     makeNamed(run, TargetBody::Kind::application);
 }
-void makeProcess(Execution& run, const Instruction& /*unused*/) { makeNamed(run, TargetBody::Kind::process); }
 
-void pushFrontProcess(Execution& run, const Instruction& /*unused*/) {
-    const Result<std::string> name = run.desktop().frontApplication();
-    if (!name) return run.fail(desktopFailure(name.error()));
-    if (name.value().empty()) return run.fail(cannotGet("first process whose frontmost is true"));
-    run.push(Value{makeShared<TargetBody>(TargetBody::Kind::process, Text(name.value()))});
+void pushProcesses(Execution& run, const Instruction& /*unused*/) {
+    const Result<std::vector<std::string>> names = run.desktop().applications();
+    if (!names) return run.fail(desktopFailure(names.error()));
+    List processes;
+    for (const std::string& name : names.value())
+        processes.push_back(Value{makeShared<TargetBody>(TargetBody::Kind::process, Text(name))});
+    run.push(Value{std::move(processes)});
+}
+
+/// A number is the index among all of them.
+void makeProcess(Execution& run, const Instruction& here) {
+    if (!run.resolveTop(1)) return;
+    const bool isIndex = run.top().is<std::int64_t>();
+    if (!isIndex) return makeNamed(run, TargetBody::Kind::process);
+    Element element;
+    element.first = *integerOf(run.pop());
+    pushProcesses(run, here);
+    if (!run.hasFailed()) run.pushOrFail(elementOf(run.pop(), element, run.textRules()));
 }
 
 void pushList(Execution& run, const Instruction& here) {
@@ -94,14 +112,14 @@ Value& heldBy(Value& variable) {
 void loadLocal(Execution& run, const Instruction& here) {
     const Value& value = heldBy(run.local(here.operand));
     if (value.is<Nothing>()) {
-        return failUndefined(run, run.name(run.handler().variables[here.operand]).spelling);
+        return failUndefined(run, run.handler().variables[here.operand]);
     }
     run.push(Value(value));
 }
 
 void loadGlobal(Execution& run, const Instruction& here) {
     const Value& value = heldBy(run.global(here.operand));
-    if (value.is<Nothing>()) return failUndefined(run, run.name(run.code().globals[here.operand]).spelling);
+    if (value.is<Nothing>()) return failUndefined(run, run.code().globals[here.operand]);
     run.push(Value(value));
 }
 
@@ -346,7 +364,7 @@ void addValueOperations(OperationTable& table) {
     add(Operation::pushDelimiters, pushDelimiters);
     add(Operation::makeApplication, makeApplication);
     add(Operation::makeProcess, makeProcess);
-    add(Operation::pushFrontProcess, pushFrontProcess);
+    add(Operation::pushProcesses, pushProcesses);
     add(Operation::referToVariable, referToVariable);
     add(Operation::pushList, pushList);
     add(Operation::pushRecord, pushRecord);

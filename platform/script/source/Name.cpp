@@ -16,6 +16,7 @@ constexpr std::size_t firstSlots = 64;
 
 namespace names {
 
+const Name backgroundOnly{"background only"};
 const Name beginning{"beginning"};
 const Name buttonReturned{"button returned"};
 const Name classProperty{"class"};
@@ -42,21 +43,50 @@ const Name textProperty{"text"};
 const Name textReturned{"text returned"};
 const Name time{"time"};
 const Name timeString{"time string"};
+const Name visible{"visible"};
 const Name weekday{"weekday"};
 const Name year{"year"};
 
 const Name* find(std::string_view spelling) {
-    static const std::array<const Name*, 28> all{&beginning, &buttonReturned,  &classProperty, &contents,
-                                                 &date,      &dateString,      &day,           &end,
-                                                 &frontmost, &gaveUp,          &hours,         &id,
-                                                 &length,    &minutes,         &month,         &nameProperty,
-                                                 &rest,      &reverse,         &run,           &running,
-                                                 &seconds,   &shortDateString, &textProperty,  &textReturned,
-                                                 &time,      &timeString,      &weekday,       &year};
+    static const std::array<const Name*, 30> all{&backgroundOnly,
+                                                 &visible,
+                                                 &beginning,
+                                                 &buttonReturned,
+                                                 &classProperty,
+                                                 &contents,
+                                                 &date,
+                                                 &dateString,
+                                                 &day,
+                                                 &end,
+                                                 &frontmost,
+                                                 &gaveUp,
+                                                 &hours,
+                                                 &id,
+                                                 &length,
+                                                 &minutes,
+                                                 &month,
+                                                 &nameProperty,
+                                                 &rest,
+                                                 &reverse,
+                                                 &run,
+                                                 &running,
+                                                 &seconds,
+                                                 &shortDateString,
+                                                 &textProperty,
+                                                 &textReturned,
+                                                 &time,
+                                                 &timeString,
+                                                 &weekday,
+                                                 &year};
     const auto* found = std::find_if(all.begin(), all.end(), [&](const Name* name) {
         return equalIgnoringCase(name->spelling, spelling);
     });
     return found == all.end() ? nullptr : *found;
+}
+
+bool isOfProcess(const Name& name) {
+    return &name == &nameProperty || &name == &frontmost || &name == &visible || &name == &backgroundOnly ||
+           &name == &running;
 }
 
 }  // namespace names

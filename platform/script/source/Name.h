@@ -20,6 +20,7 @@ struct Name {
 
 /// Names that the language itself uses: properties of its values.
 namespace names {
+extern const Name backgroundOnly;
 extern const Name beginning;
 extern const Name buttonReturned;
 extern const Name classProperty;
@@ -46,10 +47,13 @@ extern const Name textProperty;
 extern const Name textReturned;
 extern const Name time;
 extern const Name timeString;
+extern const Name visible;
 extern const Name weekday;
 extern const Name year;
 /// The one of these with the spelling; null if there is none. Case does not matter.
 const Name* find(std::string_view spelling);
+/// Whether it is one that a process has: its name, and where it stands.
+bool isOfProcess(const Name& name);
 }  // namespace names
 
 /// An index into a NameTable.

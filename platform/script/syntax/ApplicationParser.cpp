@@ -3,7 +3,6 @@
 
 #include "platform/script/source/SystemEvents.h"
 #include "platform/script/syntax/Grammar.h"
-#include "platform/script/syntax/Operators.h"
 
 namespace script {
 
@@ -34,51 +33,33 @@ NodeId ApplicationParser::application() {
 bool ApplicationParser::isAtProcess() const {
     if (m_tokens.isAt(Word::application, Word::process)) return true;
     const TokenKind ahead = m_tokens.ahead().kind;
-    return m_tokens.isAt(Word::process) && (ahead == TokenKind::text || ahead == TokenKind::identifier ||
-                                            ahead == TokenKind::leftParenthesis);
+    return m_tokens.isAt(Word::process) &&
+           (ahead == TokenKind::text || ahead == TokenKind::identifier || ahead == TokenKind::number ||
+            ahead == TokenKind::leftParenthesis);
 }
 
 NodeId ApplicationParser::process() {
-    const NodeId node = m_tree.add(NodeKind::process, m_tokens.offset());
+    const std::uint32_t offset = m_tokens.offset();
     m_tokens.accept(Word::application);
     m_tokens.advance();
-    ChildList(m_tree, node).append(m_grammar.expressions.reference());
-    if (m_tokens.isAt(Word::of) && isApplicationWord(m_tokens.ahead())) {
-        m_tokens.advance();
-        application();
-    }
+    const NodeId name = m_grammar.expressions.reference();
+    if (m_grammar.processes.isAtFilter()) return m_grammar.processes.those(offset, name, ElementForm::index);
+    const NodeId node = m_tree.add(NodeKind::process, offset);
+    ChildList(m_tree, node).append(name);
+    skipOwner();
     return node;
 }
 
-bool ApplicationParser::isAtFrontProcess() const {
-    if (!m_tokens.current().is(Word::first)) return false;
-    const std::size_t place = m_tokens.ahead().is(Word::application) ? 2 : 1;
-    if (!m_tokens.peek(place).is(Word::process)) return false;
-    const Token behind = m_tokens.peek(place + 1);
-    return behind.is(Word::whose) || behind.is(Word::where);
-}
-
-NodeId ApplicationParser::frontProcess() {
-    const NodeId node = take(NodeKind::frontProcess);
-    m_tokens.advance(m_tokens.current().is(Word::application) ? 3 : 2);
-    if (m_tokens.isAtPhrase("it is frontmost")) m_tokens.advance(2);
-    if (!m_tokens.acceptPhrase("frontmost")) m_tokens.expected("“frontmost”");
-    const OperatorRow* equals = binaryOperator(m_tokens);
-    if (equals != nullptr && equals->operation == BinaryOperator::equal && !equals->isNegated) {
-        m_tokens.advance(equals->spelling.wordCount());
-        m_tokens.expect(Word::trueWord);
-    }
-    if (m_tokens.isAt(Word::of) && isApplicationWord(m_tokens.ahead())) {
-        m_tokens.advance();
-        application();
-    }
-    return node;
+void ApplicationParser::skipOwner() {
+    if (!m_tokens.isAt(Word::of) || !isApplicationWord(m_tokens.ahead())) return;
+    m_tokens.advance();
+    application();
 }
 
 bool ApplicationParser::isAtState(NodeId target) const {
     const NodeKind kind = m_tree.at(target).kind;
     const bool isTarget = kind == NodeKind::application || kind == NodeKind::process ||
-                          kind == NodeKind::frontProcess || kind == NodeKind::it;
+                          kind == NodeKind::processes || kind == NodeKind::it;
     if (!isTarget) return false;
     return m_tokens.isAtPhrase("is running") || m_tokens.isAtPhrase("is not running") ||
            m_tokens.isAtPhrase("isn't running") || m_tokens.isAtPhrase("exists") ||
@@ -86,8 +67,7 @@ bool ApplicationParser::isAtState(NodeId target) const {
 }
 
 NodeId ApplicationParser::state(NodeId target) {
-    const NodeId node = m_tree.add(NodeKind::propertyOf, m_tokens.offset(), m_tree.names.intern("running"));
-    ChildList(m_tree, node).append(target);
+    const NodeId node = runningOf(target);
     const bool holds = m_tokens.acceptPhrase("is running") || m_tokens.acceptPhrase("exists");
     if (holds) return node;
     const NodeId inverted = m_tree.add(NodeKind::inversion, m_tokens.offset());
@@ -95,6 +75,13 @@ NodeId ApplicationParser::state(NodeId target) {
     if (!m_tokens.acceptPhrase("is not running") && !m_tokens.acceptPhrase("does not exist"))
         m_tokens.advance(2);
     return inverted;
+}
+
+NodeId ApplicationParser::runningOf(NodeId target) {
+    if (m_tree.at(target).kind == NodeKind::processes) return m_grammar.processes.existence(target);
+    const NodeId node = m_tree.add(NodeKind::propertyOf, m_tokens.offset(), m_tree.names.intern("running"));
+    ChildList(m_tree, node).append(target);
+    return node;
 }
 
 bool ApplicationParser::isAtProcessOfSystemEvents() const {

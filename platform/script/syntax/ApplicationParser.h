@@ -8,7 +8,7 @@ namespace script {
 /// Reads whom `tell` may address beside the script itself.
 ///
 /// application = ( application | app ) [id] text | ( application | app ) ( name | "(" expression ")" )
-/// process     = [application] process reference [of application]
+/// process     = [application] process reference [of application]; with a filter behind it see ProcessParser
 class ApplicationParser : public SubParser {
   public:
     using SubParser::SubParser;
@@ -19,23 +19,20 @@ class ApplicationParser : public SubParser {
     /// Whether the word stands here, whatever follows.
     bool isAtApplicationWord() const { return isApplicationWord(m_tokens.current()); }
 
-    /// Whether `first [application] process` stands here.
-    bool isAtFrontProcess() const;
-
     NodeId application();
-    /// first [application] process ( whose | where ) [it is | it’s] frontmost [( is | = ) true] [of
-    /// application]
-    NodeId frontProcess();
     /// Whether `is running` or `exists` stands behind an application or a process.
     bool isAtState(NodeId target) const;
-    /// `target is running`, `target exists`: the property `running`.
+    /// `target is running`, `target exists`: the property `running`; of processes, whether there are any.
     NodeId state(NodeId target);
     /// Keys go to whatever is in front, whoever is told.
     NodeId process();
+    /// Reads `of application`, if it stands here: it says no more.
+    void skipOwner();
     /// `[application] process "X" of application "System Events"`: the dictionary stands behind its word.
     bool isAtProcessOfSystemEvents() const;
 
   private:
+    NodeId runningOf(NodeId target);
     static bool isApplicationWord(const Token& token) {
         return token.is(Word::application) || token.is(Word::app);
     }

@@ -30,6 +30,7 @@ bool CommandParser::mayBeginArgument(const Command& command, const Token& next) 
         case TokenKind::identifier:
             return next.is(Word::none) || next.is(Word::notWord) || next.is(Word::my) ||
                    (command.takesOf && next.is(Word::of)) || next.is(Word::the) || next.is(Word::every) ||
+                   next.is(Word::first) || next.is(Word::last) || next.is(Word::some) ||
                    kindOf(next.word) != WordKind::reserved || next.is(Word::it) || next.is(Word::me) ||
                    next.is(Word::returnWord) || next.is(Word::trueWord) || next.is(Word::falseWord);
         case TokenKind::number:
@@ -50,6 +51,8 @@ NodeId CommandParser::command(std::uint32_t index) {
     ChildList children(m_tree, node);
     if (command.takesOf) m_tokens.accept(Word::of);
     if (const NodeId value = direct(command); value != noNode) {
+        if (command.takesReference && m_tree.at(value).kind == NodeKind::processes)
+            return m_grammar.processes.existence(value);
         m_tree.nodes[node].detail = 1;
         children.append(value);
     }
@@ -84,9 +87,9 @@ bool CommandParser::hasParameter(const Command& command, const Phrase& label) {
     });
 }
 
-std::optional<std::uint32_t> CommandParser::parameterHere(const Command& command) const {
+std::optional<std::uint32_t> CommandParser::parameterHere(const Command& command, std::size_t from) const {
     for (std::uint32_t i = 0; i < command.parameters.size(); ++i) {
-        if (m_tokens.isAtPhrase(command.parameters[i].label)) return i;
+        if (m_tokens.isAtPhrase(command.parameters[i].label, from)) return i;
     }
     return std::nullopt;
 }
@@ -107,22 +110,25 @@ void CommandParser::parameters(const Command& command, ChildList& children, std:
     refuseIncompleteLabel(command);
 }
 
-/// `with hidden answer`, `without hidden answer`: true or false for the parameter. False if none stands here.
+/// `with hidden answer`, `without hidden answer`, with further ones behind `and`: true or false for the
+/// parameters. False if none stands here.
 bool CommandParser::truth(const Command& command, std::uint32_t& given, ChildList& children) {
     if (!m_tokens.isAt(Word::with) && !m_tokens.isAt(Word::without)) return false;
-    for (std::uint32_t i = 0; i < command.parameters.size(); ++i) {
-        const Phrase& label = command.parameters[i].label;
-        if (!m_tokens.isAtPhrase(label, 1)) continue;
-        if ((given & (1U << i)) != 0) failTwice(label.spelling());
-        given |= 1U << i;
-        const NodeId argument = m_tree.add(NodeKind::argument, m_tokens.offset(), i);
-        const std::uint32_t value = m_tokens.isAt(Word::with) ? 1 : 0;
+    const std::uint32_t value = m_tokens.isAt(Word::with) ? 1 : 0;
+    bool isFound = false;
+    do {
+        const std::optional<std::uint32_t> index = parameterHere(command, 1);
+        if (!index) return isFound;
+        const Phrase& label = command.parameters[*index].label;
+        if ((given & (1U << *index)) != 0) failTwice(label.spelling());
+        given |= 1U << *index;
+        const NodeId argument = m_tree.add(NodeKind::argument, m_tokens.offset(), *index);
         ChildList(m_tree, argument).append(m_tree.add(NodeKind::truth, m_tokens.offset(), value));
         children.append(argument);
         m_tokens.advance(label.wordCount() + 1);
-        return true;
-    }
-    return false;
+        isFound = true;
+    } while (m_tokens.isAt(Word::andWord));
+    return true;
 }
 
 void CommandParser::failTwice(std::string_view label) {

@@ -24,7 +24,7 @@ class CommandParser : public SubParser {
     bool isMeant(const Command& command) const;
     static bool mayBeginArgument(const Command& command, const Token& next);
     NodeId direct(const Command& command);
-    std::optional<std::uint32_t> parameterHere(const Command& command) const;
+    std::optional<std::uint32_t> parameterHere(const Command& command, std::size_t from = 0) const;
     void parameters(const Command& command, ChildList& children, std::uint32_t given = 0);
     bool truth(const Command& command, std::uint32_t& given, ChildList& children);
     void failTwice(std::string_view label);

@@ -100,7 +100,7 @@ NodeId ElementParser::element() { return withContainer(part()); }
 
 NodeId ElementParser::elementOf(NodeId container) {
     const NodeId node = part();
-    if (!m_tokens.failed()) setContainer(node, container);
+    if (!m_tokens.failed() && m_tree.at(node).kind != NodeKind::processes) setContainer(node, container);
     return node;
 }
 
@@ -140,6 +140,7 @@ NodeId ElementParser::formWord(ElementForm form) {
 }
 
 NodeId ElementParser::ordinalPart(std::uint32_t offset, NodeId index, ElementForm form) {
+    if (m_grammar.processes.isAtWord()) return m_grammar.processes.those(offset, index, form);
     std::optional<Kind> kind = kindHere();
     if (!kind && m_tokens.isAtPhrase("text")) kind = Kind{ElementKind::typed, Type::text};
     if (!kind) {
@@ -238,7 +239,7 @@ NodeId ElementParser::bound() {
 
 NodeId ElementParser::withContainer(NodeId node) {
     const bool found = m_tokens.isAt(Word::of) || (!m_context.inIsLabel() && m_tokens.isAt(Word::in));
-    if (m_tokens.failed()) return node;
+    if (m_tokens.failed() || m_tree.at(node).kind == NodeKind::processes) return node;
     if (found) {
         m_tokens.advance();
         setContainer(node, m_grammar.expressions.reference());

@@ -12,6 +12,7 @@
 #include "platform/script/syntax/LiteralParser.h"
 #include "platform/script/syntax/NameParser.h"
 #include "platform/script/syntax/PrimaryParser.h"
+#include "platform/script/syntax/ProcessParser.h"
 #include "platform/script/syntax/StatementParser.h"
 
 namespace script {
@@ -23,6 +24,7 @@ struct Grammar {
         : literals(context, *this),
           names(context, *this),
           applications(context, *this),
+          processes(context, *this),
           lists(context, *this),
           elements(context, *this),
           calls(context, *this),
@@ -36,6 +38,7 @@ struct Grammar {
     LiteralParser literals;
     NameParser names;
     ApplicationParser applications;
+    ProcessParser processes;
     ListParser lists;
     ElementParser elements;
     CallParser calls;

@@ -11,8 +11,9 @@
 namespace script {
 namespace {
 
-constexpr auto longProperties = std::to_array<Phrase>(
-    {"button returned", "text returned", "gave up", "date string", "time string", "short date string"});
+constexpr auto longProperties =
+    std::to_array<Phrase>({"button returned", "text returned", "gave up", "date string", "time string",
+                           "short date string", "background only"});
 
 /// What stands between bars.
 std::string unbarred(std::string_view text) {

@@ -55,8 +55,8 @@ enum class NodeKind : std::uint8_t {
     delimiters,    ///< [] text item delimiters
     appleScript,   ///< []
     application,   ///< [] value: name in texts; detail: 1 if it is System Events. Or [name], without both
-    process,       ///< [name]
-    frontProcess,  ///< [] the one whose window has the focus
+    process,       ///< [name, or index among all]
+    processes,     ///< [index?, condition?] detail: form, and bits of processnode; value: name, if it has one
     list,          ///< [items]
     record,        ///< [fields]
     field,         ///< [expression] value: name
@@ -104,6 +104,14 @@ inline constexpr unsigned nameShift = 8;
 inline constexpr unsigned kindShift = 4;
 inline constexpr std::uint8_t formMask = 15;
 }  // namespace elementnode
+
+/// What `detail` of a node of processes holds beside the form.
+namespace processnode {
+inline constexpr std::uint8_t hasCondition = 16;
+/// The plural by itself, which is a name where a variable is called so.
+inline constexpr std::uint8_t isBare = 32;
+inline constexpr std::uint8_t formMask = 15;
+}  // namespace processnode
 
 /// A place where the lines behind it stand deeper, or less deep again.
 struct BlockMark {

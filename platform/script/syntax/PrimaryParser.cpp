@@ -27,9 +27,11 @@ NodeId PrimaryParser::primary() {
     }
 }
 
+/// `get` may stand before what is looked at, and means nothing.
 NodeId PrimaryParser::parenthesised() {
     const BracketScope scope(m_context);
     m_tokens.advance();
+    m_tokens.accept(Word::get);
     const NodeId node = expression();
     m_tokens.expect(TokenKind::rightParenthesis);
     return node;
@@ -98,7 +100,6 @@ NodeId PrimaryParser::word() {
     if (m_tokens.current().is(Word::none)) return otherWord();
     if (const NodeId node = m_grammar.literals.constant(); node != noNode) return node;
     if (const NodeId node = pronoun(); node != noNode) return node;
-    if (m_grammar.applications.isAtFrontProcess()) return m_grammar.applications.frontProcess();
     if (m_grammar.elements.isAtElement()) return m_grammar.elements.element();
     if (m_tokens.failed() || refuseForbiddenCommand(m_tokens)) return noNode;
     return reservedWord();
@@ -111,6 +112,7 @@ NodeId PrimaryParser::reservedWord() {
     if (refuseIncompleteCommand()) return noNode;
     const Word word = m_tokens.current().word;
     if (word == Word::script && !m_context.readsTarget()) return m_grammar.names.predefined(scriptClass());
+    if (m_grammar.processes.isAtPlural()) return m_grammar.processes.plural();
     if (m_grammar.applications.isAtApplication()) return m_grammar.applications.application();
     if (m_grammar.applications.isAtProcess()) return m_grammar.applications.process();
     if (!m_tokens.means(word) || kindOf(word) == WordKind::special) return m_grammar.names.nameOrCall();
@@ -144,6 +146,7 @@ NodeId PrimaryParser::otherWord() {
         return m_grammar.elements.characterId();
     if (m_tokens.isAtPhrase("a reference") || m_tokens.isAtPhrase("a ref")) return referenceTo();
     if (refuseForbiddenCommand(m_tokens)) return noNode;
+    if (m_grammar.processes.isAtPlural()) return m_grammar.processes.plural();
     if (const auto command = commandHere()) return m_grammar.commands.command(*command);
     if (m_grammar.elements.isAtElement()) return m_grammar.elements.element();
     return name();

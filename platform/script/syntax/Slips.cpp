@@ -41,6 +41,17 @@ constexpr std::string_view keyHint =
 constexpr std::string_view mouseHint =
     "A macro has no mouse; press the keys that do the same, as Tab and Return.";
 constexpr std::string_view bothHint = "Conditions are joined with “and” or “or”.";
+constexpr std::string_view processHint =
+    "Of a process its name is known, and whether it is in front: every process whose name contains \"fire\".";
+constexpr std::string_view windowHint =
+    "Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.";
+constexpr std::string_view askHint =
+    "A question is asked with: text returned of (display dialog \"Name?\" default answer \"\").";
+constexpr std::string_view typeHint = "Text is typed with “keystroke”: keystroke \"hello\".";
+constexpr std::string_view usingHint = "Modifiers stand behind “using”: keystroke \"s\" using control down.";
+constexpr std::string_view timesHint =
+    "What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.";
+constexpr std::string_view lineHint = "Each statement has a line of its own.";
 constexpr std::string_view startHint =
     "Press the keys that start it, or bring a window to the front: tell application \"Firefox\" to activate.";
 
@@ -55,19 +66,36 @@ constexpr auto slips = std::to_array<Slip>({
     {"Raw codes", "", "", "", "Write the command by its name."},
     {"do shell script” is refused", "", "", "", startHint},
     {unexpected, keyboardWords, "", "", tellHint, Where::outside},
-    {"", keyboardWords, "", "with", "Modifiers stand behind “using”: keystroke \"s\" using control down.",
-     Where::inside},
+    {"", keyboardWords, "", "with|command|control|option|shift|cmd|ctrl|alt", usingHint, Where::inside},
+    {unexpected, "command|control|option|shift|cmd|ctrl|alt|super|win", "", "",
+     "A shortcut is written: keystroke \"c\" using control down."},
+    {unexpected, "keystroke", "", "0", timesHint, Where::inside},
+    {unexpected, "key", "", "0", bracesHint, Where::inside},
+    {unexpected, "repeat", "", "keystroke|key|delay|beep|set", timesHint},
+    {unexpected, keyboardWords, "", "keystroke|key|delay|beep|set", lineHint, Where::inside},
     {unexpected, keyboardWords, "", ",", bracesHint, Where::inside},
     {unexpected, keyboardWords, "\"", "\"", joinHint, Where::inside},
+    {"Expected expression but found “end", "", "", "",
+     "No block is open here; an “if” with its statement in one line has no “end if”."},
+    {"Expected “)” but found “,”", "", "", "", bracesHint},
+    {"Expected “)” but found end of line", "", "", "", "A parenthesis is not closed in this line."},
+    {"found “whose”", "", "", "",
+     "Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat."},
+    {unexpected, "", "window|button|menu|bar|field|sheet", "0|\"", windowHint},
     {"found “else”", "if", "", "", "An “if” in one line has no “else”; write it in lines, with “end if”."},
     {unexpected, "elseif|elif", "", "", elseHint},
     {unexpected, "delay|beep", "0", ",", "Decimals stand behind a point: 0.5."},
     {unexpected, "delay", "0", "ms|s|sec|secs|second|seconds|millisecond|milliseconds|msec",
      "“delay” counts seconds, without a unit: delay 0.5."},
     {unexpected, "sleep|wait|pause", "", "", pauseHint},
-    {unexpected, "type|write|send|print|echo", "", "\"",
-     "Text is typed with “keystroke”: keystroke \"hello\"."},
-    {unexpected, "press|hit|push|tap", "", "", keyHint},
+    {unexpected, "type|write|send|print|echo|keypress|sendkeys", "", "\"", typeHint},
+    {unexpected, "press|hit|push|tap|keypress|keycode", "", "", keyHint},
+    {"Expected “code”, “down” or “up”", "", "key", "",
+     "Text is typed with “keystroke”, a key is pressed by its number: key code 36."},
+    {unexpected, "hold|release", "", "",
+     "A key is held with “key down” and let go with “key up”: key down shift."},
+    {unexpected, "open|launch|start", "", "\"", startHint},
+    {unexpected, "", "ask|input|prompt", "\"", askHint},
     {unexpected, "click|doubleclick|rightclick|mouse|drag", "", "", mouseHint},
     {unexpected, "let|var|const|dim|local", "", "", setHint},
     {unexpected, "function|def|sub|func|proc|handler", "", "", handlerHint},
@@ -92,6 +120,8 @@ constexpr auto slips = std::to_array<Slip>({
      "A backslash in a text is written twice: \"C:\\\\Users\"."},
     {"Expected class name", "", "", "",
      "Behind “as” stands a class: text, integer, real, number, boolean, list, record, date."},
+    {"Expected “name”, “frontmost”", "", "", "", processHint},
+    {unexpected, "", "unix|bundle", "", processHint},
     {"Expected “then”", "", "", "{", "A block has no braces: if x = 1 then … end if."},
     {unexpected, "", "", "{", "A block has no braces; it ends with “end” and its first word: end repeat."},
     {unexpected, "", "", ":", "A line needs no colon at its end."},
@@ -120,17 +150,25 @@ class ErrorLine {
             const auto left = static_cast<std::size_t>(text.data() + text.size() - token.text.data());
             if (left > column) m_at = m_tokens.size() + 1;
             m_tokens.push_back(token);
+            const bool isTold =
+                m_begin == 0 && left > column && equalIgnoringCase(token.text, "to") && wordAt(0) == "tell";
+            if (isTold) m_begin = m_tokens.size();
             if (m_tokens.size() == most) break;
         }
         if (!text.empty()) m_text = text;
     }
 
     std::string_view text() const { return m_text; }
-    std::string first() const { return wordAt(0); }
+    /// Of `tell ... to` in one line, that of the statement behind it.
+    std::string first() const { return wordAt(m_begin); }
     std::string here() const { return wordAt(m_at); }
     std::string before() const { return m_at == 0 ? "" : wordAt(m_at - 1); }
-    /// All from the token with the number on, up to one of these words, without what is around.
-    std::string_view from(std::size_t number, std::string_view end) const;
+    /// All behind the first word, up to this one, without what is around.
+    std::string_view behindFirst(std::string_view end) const;
+    /// Whether the line itself tells System Events to do what is wrong.
+    bool isTold() const { return m_begin > 0 && wordAt(m_begin - 2) == "\"system events\""; }
+    /// Whether the token stands against a name.
+    bool isIndex() const;
 
   private:
     /// Longer lines are nobody's first.
@@ -143,9 +181,18 @@ class ErrorLine {
     std::string_view m_text;
     std::vector<Token> m_tokens;
     std::size_t m_at = 0;
+    std::size_t m_begin = 0;  ///< of the statement
 };
 
-std::string_view ErrorLine::from(std::size_t number, std::string_view end) const {
+bool ErrorLine::isIndex() const {
+    if (m_at == 0 || m_at >= m_tokens.size()) return false;
+    const Token& name = m_tokens[m_at - 1];
+    return name.is(TokenKind::identifier) &&
+           name.text.data() + name.text.size() == m_tokens[m_at].text.data();
+}
+
+std::string_view ErrorLine::behindFirst(std::string_view end) const {
+    const std::size_t number = m_begin + 1;
     if (number >= m_tokens.size()) return "";
     std::size_t last = number;
     while (last + 1 < m_tokens.size() && wordAt(last + 1) != end) ++last;
@@ -179,7 +226,7 @@ std::string modifierHint(const ErrorLine& line) {
 
 /// `keystroke hello world`
 std::string quotesHint(const ErrorLine& line) {
-    const std::string words(line.from(1, "using"));
+    const std::string words(line.behindFirst("using"));
     const bool areWords = !words.empty() && words.find_first_of("\"&({") == std::string::npos;
     return areWords ? "Text stands between straight quotes: \"" + words + "\"." : "";
 }
@@ -194,7 +241,9 @@ std::string signHint(const ScriptError& error, const ErrorLine& place) {
     if (has("!=") || has("<>")) return "“Not equal” is written ≠ or /=.";
     if (has("==")) return "“Equal” is written with one =.";
     if (here == "|") return std::string(bothHint);
-    if (here == ";") return "Each statement has a line of its own.";
+    if (here == ";") return std::string(lineHint);
+    if (here == "[" && place.isIndex()) return "An item is taken by its number: item 1 of x.";
+    if (here == "." && place.isIndex()) return "What belongs to a value is taken with “of”: length of x.";
     if (here == "[") return "A list stands in braces: {1, 2}.";
     if (here == "%") return "The rest of a division is written: 7 mod 2.";
     if (has("'")) return "Text stands between straight double quotes (\").";
@@ -203,8 +252,9 @@ std::string signHint(const ScriptError& error, const ErrorLine& place) {
 
 }  // namespace
 
-std::string hintOfLine(const ScriptError& error, std::string_view source, bool isInsideTell) {
+std::string hintOfLine(const ScriptError& error, std::string_view source, bool knowsKeyboard) {
     const ErrorLine line(source, error.location);
+    const bool isInsideTell = knowsKeyboard || line.isTold();
     if (std::string hint = modifierHint(line); isInsideTell && !hint.empty()) return hint;
     if (std::string hint = signHint(error, line); !hint.empty()) return hint;
     const auto isHere = [&](const Slip& slip) {

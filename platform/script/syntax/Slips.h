@@ -8,8 +8,8 @@
 
 namespace script {
 
-/// The hint for a slip that the line of an error shows; empty if it shows none. `isInsideTell` says whether
+/// The hint for a slip that the line of an error shows; empty if it shows none. `knowsKeyboard` says whether
 /// the keyboard commands were known there.
-std::string hintOfLine(const ScriptError& error, std::string_view source, bool isInsideTell);
+std::string hintOfLine(const ScriptError& error, std::string_view source, bool knowsKeyboard);
 
 }  // namespace script

@@ -37,6 +37,9 @@ struct X11ScriptDesktop::Server {
     /// The window that keys go to, of those that the window manager knows.
     xcb_window_t frontWindow() const;
     std::vector<xcb_window_t> windows(xcb_atom_t list) const;
+    /// Those that the window manager knows, the lowest first.
+    std::vector<xcb_window_t> managedWindows() const;
+    std::vector<std::string> applications() const;
 
     XConnection connection;
     WindowFocus focus{connection};
@@ -95,9 +98,26 @@ xcb_window_t X11ScriptDesktop::Server::frontWindow() const {
     return active != XCB_WINDOW_NONE ? active : focus.holder();
 }
 
+std::vector<xcb_window_t> X11ScriptDesktop::Server::managedWindows() const {
+    const std::vector<xcb_window_t> all = windows(stacking);
+    return all.empty() ? windows(clients) : all;
+}
+
+/// By their classes.
+std::vector<std::string> X11ScriptDesktop::Server::applications() const {
+    std::vector<xcb_window_t> all = managedWindows();
+    if (const xcb_window_t front = frontWindow(); front != XCB_WINDOW_NONE) all.push_back(front);
+    std::vector<std::string> found;
+    for (auto window = all.rbegin(); window != all.rend(); ++window) {
+        const std::vector<std::string> names = namesOf(*window);
+        const auto isSame = [&](const std::string& one) { return lowered(one) == lowered(names.back()); };
+        if (!names.empty() && std::none_of(found.begin(), found.end(), isSame)) found.push_back(names.back());
+    }
+    return found;
+}
+
 xcb_window_t X11ScriptDesktop::Server::findWindow(std::string_view name) const {
-    std::vector<xcb_window_t> all = windows(stacking);
-    if (all.empty()) all = windows(clients);
+    const std::vector<xcb_window_t> all = managedWindows();
     const std::string wanted = lowered(name);
     const auto found =
         std::find_if(all.rbegin(), all.rend(), [&](xcb_window_t window) { return isOf(window, wanted); });
@@ -109,13 +129,10 @@ bool X11ScriptDesktop::hasApplication(std::string_view name) {
     return opened && opened.value()->findWindow(name) != XCB_WINDOW_NONE;
 }
 
-Result<std::string> X11ScriptDesktop::frontApplication() {
+Result<std::vector<std::string>> X11ScriptDesktop::applications() {
     const auto opened = server();
     if (!opened) return opened.error();
-    const xcb_window_t window = opened.value()->frontWindow();
-    if (window == XCB_WINDOW_NONE) return std::string();
-    const std::vector<std::string> names = opened.value()->namesOf(window);
-    return names.empty() ? std::string() : names.back();
+    return opened.value()->applications();
 }
 
 bool X11ScriptDesktop::isInFront(std::string_view name) {

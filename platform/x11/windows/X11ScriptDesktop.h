@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/ScriptDesktop.h"
 #include "platform/x11/clipboard/X11Clipboard.h"
@@ -27,7 +28,7 @@ class X11ScriptDesktop : public ScriptDesktop {
     Result<void> setClipboard(std::string_view text) override { return m_clipboard.set(text); }
     Result<std::string> clipboard() override { return m_clipboard.text(); }
     bool hasApplication(std::string_view name) override;
-    Result<std::string> frontApplication() override;
+    Result<std::vector<std::string>> applications() override;
     bool isInFront(std::string_view name) override;
     Result<void> activate(std::string_view name) override;
 
