@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 
-#include <signal.h>
-
 #include <iostream>
 #include <optional>
 #include <utility>
@@ -76,12 +74,6 @@ bool isReadBy(KeyInjector& injector) {
     if (read || read.error().isCancelled()) return true;
     reportError("", *read.error().error);
     return false;
-}
-
-/// Whoever waits for this process is told how it ended, also where the signal was ignored before.
-void endBySignal(int number) {
-    signal(number, SIG_DFL);
-    raise(number);
 }
 
 int checkForEditor(const std::string& text) {

@@ -8,9 +8,11 @@
 #include <vector>
 
 #include "cli/Playback.h"
+#include "cli/QuietTerminal.h"
 #include "cli/Report.h"
 #include "platform/EventMonitor.h"
 #include "platform/EventSource.h"
+#include "platform/Modifiers.h"
 #include "platform/script/commands/KeyTable.h"
 
 namespace {
@@ -44,15 +46,25 @@ int printPressedKey() {
     std::optional<std::uint32_t> code;
     EventMonitor& monitor = playback.value()->session().sessionServices().eventMonitor;
     const auto installed = monitor.install([&](const KeyEvent& event) {
-        if (event.kind == KeyEventKind::keyDown && !code) code = event.keyCode;
+        const bool isForOthers = (event.modifiers & modifier::control) != 0;
+        if (event.kind == KeyEventKind::keyDown && !isForOthers && !code) code = event.keyCode;
     });
     if (!installed) {
         reportError("", installed.error());
         return 1;
     }
-    std::cerr << "Press a key." << std::endl;
-    serve(*playback.value(), [&] { return code.has_value(); });
-    if (code) std::cout << *code << "\t" << script::keyTitle(*code) << std::endl;
-    playback.value()->finish();
+    {
+        const QuietTerminal terminal;
+        std::cerr << "Press a key." << std::endl;
+        serve(*playback.value(), [&] { return code.has_value(); });
+        if (code) terminal.awaitKey();
+    }
+    if (code) {
+        std::cout << *code << "\t" << script::keyTitle(*code) << std::endl;
+    } else if (const auto connection = playback.value()->connection(); !connection) {
+        reportError("", connection.error());
+    }
+    const int signalNumber = playback.value()->finish();
+    if (!code && signalNumber != 0) endBySignal(signalNumber);
     return code ? 0 : 1;
 }

@@ -40,3 +40,8 @@ int Playback::finish() {
     m_session.reset();
     return m_signals.number();
 }
+
+void endBySignal(int number) {
+    signal(number, SIG_DFL);
+    raise(number);
+}

@@ -41,3 +41,7 @@ class Playback {
     static_assert(std::atomic<Session*>::is_always_lock_free);
     SignalCatcher m_signals{interrupt, suspend, this};
 };
+
+/// Ends the process by a signal that was caught: whoever waits for it is told how it ended, also where the
+/// signal was ignored before.
+void endBySignal(int number);

@@ -48,24 +48,37 @@ std::optional<std::vector<std::size_t>> choicesOf(const ScriptDialog& dialog, co
 
 }  // namespace
 
+/// Two streams: one for both directions cannot write any more once it has read.
+struct TerminalDialogs::Terminal {
+    std::ifstream in{"/dev/tty"};
+    std::ofstream out{"/dev/tty"};
+
+    /// False at the end of input.
+    bool takeLine(std::string& line) {
+        out.flush();
+        return static_cast<bool>(std::getline(in, line));
+    }
+};
+
 Result<ScriptAnswer> TerminalDialogs::ask(const ScriptDialog& dialog) {
-    std::fstream terminal("/dev/tty");
-    if (!terminal) return Error{"No dialog can be shown here.", "Run the script in a terminal."};
+    Terminal terminal;
+    if (!terminal.in || !terminal.out)
+        return Error{"No dialog can be shown here.", "Run the script in a terminal."};
     m_injector.rest();
-    if (!dialog.title.empty()) terminal << dialog.title << "\n";
-    terminal << dialog.text << "\n";
-    if (!dialog.message.empty()) terminal << dialog.message << "\n";
+    if (!dialog.title.empty()) terminal.out << dialog.title << "\n";
+    terminal.out << dialog.text << "\n";
+    if (!dialog.message.empty()) terminal.out << dialog.message << "\n";
+    if (!dialog.choices.empty()) return choose(dialog, terminal);
     ScriptAnswer answer;
     std::string line;
     if (dialog.defaultAnswer) {
-        terminal << "[" << *dialog.defaultAnswer << "] " << std::flush;
-        std::getline(terminal, line);
+        terminal.out << "[" << *dialog.defaultAnswer << "] ";
+        terminal.takeLine(line);
         answer.text = line.empty() ? *dialog.defaultAnswer : line;
     }
-    if (!dialog.choices.empty()) return choose(dialog, terminal);
     while (!answer.button) {
-        terminal << menuOf(dialog) << "\n> " << std::flush;
-        if (!std::getline(terminal, line)) {
+        terminal.out << menuOf(dialog) << "\n> ";
+        if (!terminal.takeLine(line)) {
             answer.button = dialog.cancelButton.value_or(dialog.buttons.size() - 1);
             break;
         }
@@ -75,16 +88,16 @@ Result<ScriptAnswer> TerminalDialogs::ask(const ScriptDialog& dialog) {
 }
 
 /// Until the line names as many as may be chosen. An empty line takes what is chosen already.
-ScriptAnswer TerminalDialogs::choose(const ScriptDialog& dialog, std::iostream& terminal) {
+ScriptAnswer TerminalDialogs::choose(const ScriptDialog& dialog, Terminal& terminal) {
     ScriptAnswer answer{dialog.defaultButton, "", {}};
     for (std::size_t i = 0; i < dialog.choices.size(); ++i) {
         const bool isChosen = std::count(dialog.defaultChoices.begin(), dialog.defaultChoices.end(), i) > 0;
-        terminal << i + 1 << (isChosen ? " * " : "   ") << dialog.choices[i] << "\n";
+        terminal.out << i + 1 << (isChosen ? " * " : "   ") << dialog.choices[i] << "\n";
     }
     for (;;) {
-        terminal << "0 " << dialog.buttons.front() << "\n> " << std::flush;
+        terminal.out << "0 " << dialog.buttons.front() << "\n> ";
         std::string line;
-        if (!std::getline(terminal, line) || line == "0") {
+        if (!terminal.takeLine(line) || line == "0") {
             answer.button = dialog.cancelButton;
             return answer;
         }
@@ -98,7 +111,7 @@ ScriptAnswer TerminalDialogs::choose(const ScriptDialog& dialog, std::iostream& 
 }
 
 Result<void> TerminalDialogs::notify(const ScriptNotification& notification) {
-    std::fstream terminal("/dev/tty");
+    std::ofstream terminal("/dev/tty");
     if (terminal) {
         terminal << notification.title << (notification.title.empty() ? "" : ": ") << notification.text
                  << "\n";

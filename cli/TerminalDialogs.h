@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <iosfwd>
-
 #include "platform/KeyInjector.h"
 #include "platform/ScriptDialogs.h"
 
@@ -26,7 +24,9 @@ class TerminalDialogs : public ScriptDialogs {
     Result<void> notify(const ScriptNotification& notification) override;
 
   private:
-    static ScriptAnswer choose(const ScriptDialog& dialog, std::iostream& terminal);
+    struct Terminal;
+
+    static ScriptAnswer choose(const ScriptDialog& dialog, Terminal& terminal);
 
     KeyInjector& m_injector;
 };
