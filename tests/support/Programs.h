@@ -12,6 +12,12 @@ extern const char* const assistant;
 extern const char* const updateServer;
 extern const char* const busStandIn;
 
+/// A form of three fields: FOLDER TITLE.
+extern const char* const gtkForm;
+extern const char* const qtForm;
+
+/// The page that teaches the script language.
+extern const char* const languageReference;
 /// The folder of the product's icons and pictures, as an installed one.
 extern const char* const share;
 /// The folder of the repository's own commands.
