@@ -21,6 +21,7 @@ BEGIN {
     room("platform/evdev/devices", "platform", "", foreign)
     room("platform/evdev", "platform platform/evdev/devices platform/keymap platform/monitor platform/run", "",
          "^(Q|boost/|xcb/|X11/|wayland)")
+    room("platform/evdev/access", "platform platform/evdev platform/linux", "", foreign)
 
     below = "platform"
     storey("platform/script/source")
@@ -69,6 +70,8 @@ BEGIN {
     app("gallery", "app/program app/controller app/dialogs app/icons app/overlay app/panels app/shortcuts" \
                    " app/tray engine core platform")
     room("app", "app/program", "", "^(boost/|xcb/|X11/|xkbcommon/|wayland)")
+    # A service of its own, with as little as can be.
+    room("access", "platform platform/evdev/devices", "", foreign)
     # A program of its own, without a toolkit.
     room("cli", "platform platform/linux platform/script/run platform/script/code platform/script/syntax" \
                 " platform/script/commands platform/script/source platform/sessions", "", foreign)
@@ -76,7 +79,7 @@ BEGIN {
     # The standard library cannot close a file descriptor.
     exempt["platform/Descriptor.cpp", "unistd.h"] = 1
 
-    ofRooms = "^(app|cli|core|engine|platform|prefs)/"
+    ofRooms = "^(access|app|cli|core|engine|platform|prefs)/"
     besideTheRooms = "^(tests|bench|fuzz)/"
     # What platform/x11/server has a class for, or a function.
     xcbIdiom = "xcb_(get|change|delete)_property([^a-z_]|_(un)?checked|_reply\\()|xcb_(intern_atom|query_tree|query_extension)" \
