@@ -50,8 +50,10 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       statusItem(item) {
     timer.setSingleShot(true);
     m_killTimer.setSingleShot(true);
+    m_askedPlay.setSingleShot(true);
     connect(&timer, &QTimer::timeout, this, &AppController::runSplash);
     connect(&m_killTimer, &QTimer::timeout, this, &AppController::kill);
+    connect(&m_askedPlay, &QTimer::timeout, this, [this] { perform(&AppController::playMacro, nullptr); });
     connect(&m_refreshTimer, &QTimer::timeout, this, &AppController::refreshAppleScript);
     connectDesks();
     connectMenu();
@@ -98,6 +100,7 @@ void AppController::awakeFromNib() {
     // What went wrong with the settings so far, once the start-up is through.
     QTimer::singleShot(0, this, &AppController::tellFaults);
     tellShortcoming();
+    emit started();
 }
 
 bool AppController::checkSystemVersion() {

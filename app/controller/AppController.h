@@ -29,6 +29,7 @@
 
 class WelcomePanel;
 class Windows;
+struct ActionRow;
 struct Services;
 
 /// The one controller: joins engine, settings and desktop with the menu and the windows, and is the only one
@@ -63,6 +64,10 @@ class AppController : public QObject, public SharedController {
     void openMacroFile(const QString& path);
     /// Somebody has started the program once more: shows where it is.
     void showControlWindow();
+    /// Does what somebody asks for from outside of the program. A play begins when the event loop runs next,
+    /// so that whoever asks is answered first; a stop takes one back that has not begun. An error says why
+    /// nothing is done.
+    Result<> carryOut(const ActionRow& action);
 
     // Status item and menus
 
@@ -143,6 +148,10 @@ class AppController : public QObject, public SharedController {
     /// How scripts ask and tell.
     ScriptDialogs& scriptDialogs() { return m_scriptQuestions; }
 
+  signals:
+    /// The start-up is through, and the session is one to work in: from now on commands can be given.
+    void started();
+
   private:
     Services& m_services;
     StatusNotice m_statusNotice;
@@ -216,6 +225,8 @@ class AppController : public QObject, public SharedController {
     QString sessionHint() const;
     WelcomePanel& builtWelcomePanel();
 
+    bool endPlaybackThatAsksOrWaits();
+
     /// An action that the user chose, wherever; nothing while the gate is shut.
     void perform(Action action, QObject* sender);
     void followGate();
@@ -225,6 +236,8 @@ class AppController : public QObject, public SharedController {
 
     QTimer m_refreshTimer{this};
     QTimer m_killTimer{this};
+    /// A play that was asked for from outside and has not begun.
+    QTimer m_askedPlay{this};
     /// Whether the session is one to work in: the menu follows the state from then on.
     bool m_isAwake = false;
 };

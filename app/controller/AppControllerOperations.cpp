@@ -12,11 +12,13 @@
 #include "app/overlay/Fades.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/panels/WelcomePanel.h"
+#include "app/tray/Actions.h"
 #include "app/tray/MacroMenuItem.h"
 #include "core/MacroManager.h"
 #include "engine/AppleScript.h"
 #include "engine/KeyRecorder.h"
 #include "engine/MacroPlayer.h"
+#include "platform/KeyInjector.h"
 #include "platform/ScriptingService.h"
 #include "platform/Services.h"
 #include "platform/SystemFacts.h"
@@ -79,6 +81,12 @@ consteval bool followMenuRows() {
 }
 static_assert(followMenuRows());
 
+const MenuOperation& operationOf(const ActionRow& action) {
+    return *std::find_if(
+        menuOperations.begin(), menuOperations.end(),
+        [&action](const MenuOperation& operation) { return operation.name == action.menuItem; });
+}
+
 }  // namespace
 
 // Start-up and end
@@ -98,6 +106,27 @@ void AppController::openMacroFile(const QString& path) {
 }
 
 void AppController::showControlWindow() { statusItem.showWindow(); }
+
+/// One that types is ended by who asks it, in each of its steps; these are those that do not.
+bool AppController::endPlaybackThatAsksOrWaits() {
+    const bool ends = m_scriptQuestions.isAsking() || m_askedPlay.isActive();
+    if (m_scriptQuestions.isAsking()) m_services.keyInjector.stopPlayback();
+    m_askedPlay.stop();
+    return ends;
+}
+
+Result<> AppController::carryOut(const ActionRow& action) {
+    if (action.endsPlayback && endPlaybackThatAsksOrWaits()) return {};
+    m_menuDesk.update();
+    const QString obstacle = obstacleTo(action, m_menuDesk.facts());
+    if (!obstacle.isEmpty()) return Error{obstacle.toStdString(), ""};
+    if (action.plays) {
+        m_askedPlay.start(0);
+    } else {
+        operationOf(action).perform(*this, nullptr);
+    }
+    return {};
+}
 
 // Status item and menus
 

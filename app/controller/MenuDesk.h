@@ -37,6 +37,8 @@ class MenuDesk {
 
     /// As of the latest change, with the current macro of the latest update().
     MenuState state() const { return menuState(m_facts); }
+    /// What that state comes from.
+    const MenuFacts& facts() const { return m_facts; }
     bool isOverlayShown() const { return m_facts.overlayShown; }
 
   private:

@@ -10,8 +10,10 @@
 
 Result<ScriptAnswer> ScriptQuestions::ask(const ScriptDialog& dialog) {
     m_injector.rest();
+    m_isAsking = true;
     std::optional<ScriptAnswer> answer =
         m_dialogs.runScriptDialog(dialog, [this] { return m_injector.isCancelled(); });
+    m_isAsking = false;
     if (answer) return *std::move(answer);
     m_injector.stopPlayback();
     return Error{"The question was not answered.", ""};

@@ -18,8 +18,12 @@ class ScriptQuestions : public ScriptDialogs {
     Result<ScriptAnswer> ask(const ScriptDialog& dialog) override;
     Result<void> notify(const ScriptNotification& notification) override;
 
+    /// Whether a question of a script is open.
+    bool isAsking() const { return m_isAsking; }
+
   private:
     Dialogs& m_dialogs;
     KeyInjector& m_injector;
     Notifications& m_notifications;
+    bool m_isAsking = false;
 };

@@ -15,7 +15,8 @@ struct Backends::Parts {
     Parts(std::unique_ptr<SteadyClock> steadyClock, std::unique_ptr<Session> opened,
           const UpdateSource& updates)
         : clock(std::move(steadyClock)), session(std::move(opened)), neutral(updates) {
-        session->endPlaysWhen([this] { return neutral.screenLock.isLocked(); });
+        session->endPlaysWhen(
+            [this] { return neutral.screenLock.isLocked() || (isPlayOver && isPlayOver()); });
     }
     ~Parts() { session->endPlaysWhen({}); }
     Parts(const Parts&) = delete;
@@ -26,6 +27,7 @@ struct Backends::Parts {
     const SessionServices& own = session->sessionServices();
     script::ScriptRunner scripting{own.keyInjector, own.scriptDesktop};
     LinuxServices neutral;
+    std::function<bool()> isPlayOver;
     Services services{.clock = *clock,
                       .eventMonitor = own.eventMonitor,
                       .hotKeys = own.hotKeys,
@@ -63,6 +65,8 @@ Backends::~Backends() = default;
 Services& Backends::services() { return m_parts->services; }
 Session& Backends::session() { return *m_parts->session; }
 script::ScriptRunner& Backends::scripting() { return m_parts->scripting; }
+
+void Backends::endPlaysWhen(std::function<bool()> isOver) { m_parts->isPlayOver = std::move(isOver); }
 
 std::vector<EventSource*> Backends::eventSources() {
     std::vector<EventSource*> sources = m_parts->session->eventSources();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -33,6 +34,9 @@ class Backends {
     Services& services();
     Session& session();
     script::ScriptRunner& scripting();
+
+    /// Ends each playback while that answers true, or the screen is locked; asked again and again in a run.
+    void endPlaysWhen(std::function<bool()> isOver);
 
     /// What the event loop has to serve.
     std::vector<EventSource*> eventSources();

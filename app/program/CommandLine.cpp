@@ -3,11 +3,13 @@
 
 #include <string_view>
 
+#include "app/tray/Actions.h"
 #include "platform/sessions/Sessions.h"
 
 namespace {
 
 constexpr std::string_view sessionOption = "--session=";
+constexpr std::string_view actionOption = "--action=";
 
 void takeOption(CommandLine& line, const std::string& option) {
     if (option == "--help") {
@@ -16,6 +18,8 @@ void takeOption(CommandLine& line, const std::string& option) {
         line.wish = CommandLine::Wish::version;
     } else if (option.starts_with(sessionOption) && option.size() > sessionOption.size()) {
         line.session = option.substr(sessionOption.size());
+    } else if (option.starts_with(actionOption)) {
+        line.action = option.substr(actionOption.size());
     } else {
         line.unknown.push_back(option);
     }
@@ -34,6 +38,8 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
             isBehindOptions = true;
         } else if (argument == "--session" && i + 1 < arguments.size()) {
             line.session = arguments[++i];
+        } else if (argument == "--action") {
+            line.action = i + 1 < arguments.size() ? arguments[++i] : "";
         } else {
             takeOption(line, argument);
         }
@@ -51,10 +57,27 @@ Result<void> checkOwnOptions(CommandLine line) {
     return checkOptions(line);
 }
 
+Result<void> checkAction(const CommandLine& line) {
+    if (actionNamed(*line.action) == nullptr) {
+        return Error{"There is no action \"" + *line.action + "\".",
+                     "Choose one of these: " + actionNames() + "."};
+    }
+    if (!line.files.empty()) {
+        return Error{"An action takes no file, and \"" + line.files.front() + "\" was given.",
+                     "Load it first: keyrill FILE."};
+    }
+    return {};
+}
+
 std::string usage(std::span<const SessionKind> kinds) {
     std::string text =
         "Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs\n"
+        "       keyrill [--session=NAME] --action=ACTION   ask the one that runs to act; starts it if need "
+        "be\n"
         "       keyrill --help | --version\n"
+        "ACTION is one of these: " +
+        actionNames() +
+        ".\n"
         "NAME is the kind of desktop session; without it the program finds out itself. There are:";
     for (const SessionKind& kind : kinds) (text += ' ') += kind.name;
     return text + "\n";

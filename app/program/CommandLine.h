@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -19,6 +20,8 @@ struct CommandLine {
     Wish wish = Wish::start;
     /// The kind of session, empty to find out.
     std::string session = {};
+    /// What the running program is asked to do (app/tray/Actions.h), as it was written.
+    std::optional<std::string> action = {};
     /// As they were given, in the file system's encoding.
     std::vector<std::string> files = {};
     /// Options that are none of ours, in order. Some are the toolkit's, which takes them out when it starts.
@@ -36,6 +39,9 @@ Result<void> checkOptions(const CommandLine& line);
 
 /// The same where there is no toolkit to take its options out: those with one minus are passed over.
 Result<void> checkOwnOptions(CommandLine line);
+
+/// Success if what is asked of the running program is an action, and nothing else is asked for.
+Result<void> checkAction(const CommandLine& line);
 
 /// How the program is called, lines with their ends.
 std::string usage(std::span<const SessionKind> kinds);

@@ -25,7 +25,8 @@ QtDialogs::Focus focusOf(Windows& windows) {
 }  // namespace
 
 Program::Program(Backends& backends)
-    : m_statusItem(backends.session().sessionServices().dockingTray),
+    : m_backends(backends),
+      m_statusItem(backends.session().sessionServices().dockingTray),
       m_dialogs(focusOf(backends.session().sessionServices().windows)),
       m_controller(backends.services(), backends.session().sessionServices().windows, m_statusItem,
                    m_dialogs),
@@ -46,10 +47,14 @@ void Program::serve(EventSource& source) {
                      [&source] { source.dispatch(); });
 }
 
-void Program::follow(const ProgramInstance& instance) {
+void Program::follow(ProgramInstance& instance) {
     QObject::connect(&instance, &ProgramInstance::activated, &m_controller,
                      &AppController::showControlWindow);
     QObject::connect(&instance, &ProgramInstance::fileOpened, &m_controller, &AppController::openMacroFile);
+    QObject::connect(&m_controller, &AppController::started, &instance, [this, &instance] {
+        instance.serve([this](const ActionRow& action) { return m_controller.carryOut(action); });
+    });
+    m_backends.endPlaysWhen([&instance] { return instance.endsPlayback(); });
 }
 
 void Program::openFiles(const QStringList& files) {

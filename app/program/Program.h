@@ -25,14 +25,15 @@ class Program {
 
     AppController& controller() { return m_controller; }
 
-    /// Takes what other starts hand over.
-    void follow(const ProgramInstance& instance);
+    /// Takes what other starts hand over, and does what is asked from outside. Outlives the program.
+    void follow(ProgramInstance& instance);
     /// Opens macro files once the start-up is through; absolute paths.
     void openFiles(const QStringList& files);
 
   private:
     void serve(EventSource& source);
 
+    Backends& m_backends;
     TrayStatusItem m_statusItem;
     QtDialogs m_dialogs;
     AppController m_controller;

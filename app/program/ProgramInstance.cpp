@@ -8,15 +8,16 @@
 #include <QUrl>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
+#include "app/program/ApplicationObject.h"
+#include "app/program/BusNames.h"
 #include "app/program/InstanceLock.h"
 #include "app/program/SessionBusCheck.h"
+#include "app/tray/Actions.h"
 
 namespace {
 
-const QString name = QStringLiteral("example.orlen.Keyrill");
-const QString path = QStringLiteral("/example/orlen/Keyrill");
-const QString interface = QStringLiteral("org.freedesktop.Application");
 const QString localPath = QStringLiteral("/org/freedesktop/DBus/Local");
 const QString localInterface = QStringLiteral("org.freedesktop.DBus.Local");
 constexpr int patienceInMilliseconds = 700;
@@ -26,7 +27,7 @@ constexpr int betweenSearches = 2000;
 
 QDBusMessage request(const QStringList& files) {
     const QString method = files.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open");
-    QDBusMessage message = QDBusMessage::createMethodCall(name, path, interface, method);
+    QDBusMessage message = QDBusMessage::createMethodCall(bus::name, bus::path, bus::interface, method);
     if (!files.isEmpty()) {
         QStringList uris;
         for (const QString& file : files) uris.append(QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded));
@@ -38,9 +39,9 @@ QDBusMessage request(const QStringList& files) {
 }
 
 /// One that has just started may not have its name yet.
-bool awaitName(const QDBusConnection& bus) {
+bool awaitName(const QDBusConnection& connection) {
     const QDeadlineTimer deadline(patienceInMilliseconds);
-    while (!bus.interface()->isServiceRegistered(name)) {
+    while (!connection.interface()->isServiceRegistered(bus::name)) {
         if (deadline.hasExpired()) return false;
         QThread::msleep(betweenLooks);
     }
@@ -49,10 +50,41 @@ bool awaitName(const QDBusConnection& bus) {
 
 }  // namespace
 
-ProgramInstance::ProgramInstance() : m_bus(QDBusConnection::sessionBus()) {
+ProgramInstance::ProgramInstance()
+    : m_bus(QDBusConnection::sessionBus()), m_object(std::make_unique<ApplicationObject>()) {
     connect(&m_search, &QTimer::timeout, this, &ProgramInstance::findBus);
+    follow(*m_object);
 }
-ProgramInstance::~ProgramInstance() = default;
+
+ProgramInstance::~ProgramInstance() {
+    m_bus.unregisterObject(bus::path);
+    m_thread.quit();
+    m_thread.wait();
+}
+
+void ProgramInstance::follow(ApplicationObject& object) {
+    connect(&object, &ApplicationObject::activated, this, [this](const QDBusMessage& call) {
+        m_bus.send(call.createReply());
+        emit activated();
+    });
+    connect(&object, &ApplicationObject::opened, this,
+            [this](const QStringList& uris, const QDBusMessage& call) {
+                for (const QString& uri : uris) {
+                    const QUrl url(uri, QUrl::StrictMode);
+                    if (url.isLocalFile()) emit fileOpened(url.toLocalFile());
+                }
+                m_bus.send(call.createReply());
+            });
+    connect(&object, &ApplicationObject::actionAsked, this,
+            [this](ApplicationObject::Number number, const QString& action, const QDBusMessage& call) {
+                const Request request{number, action, call};
+                if (m_carryOut) {
+                    answer(request);
+                } else {
+                    m_early.push_back(request);
+                }
+            });
+}
 
 bool ProgramInstance::claim() {
     // The lock comes first: of two starts at once only one asks for the name.
@@ -64,13 +96,15 @@ bool ProgramInstance::claim() {
 
 bool ProgramInstance::takeName() {
     m_bus.connect(QString(), localPath, localInterface, QStringLiteral("Disconnected"), this,
-                  SLOT(Disconnected()));
+                  SLOT(noteDisconnected()));
+    m_object->moveToThread(&m_thread);
+    m_thread.start();
     // In this order: who finds the name may call at once.
-    m_bus.registerObject(path, this, QDBusConnection::ExportAllSlots);
-    return m_bus.registerService(name);
+    m_bus.registerObject(bus::path, m_object.get(), QDBusConnection::ExportAllSlots);
+    return m_bus.registerService(bus::name);
 }
 
-void ProgramInstance::Disconnected() { m_search.start(betweenSearches); }
+void ProgramInstance::noteDisconnected() { m_search.start(betweenSearches); }
 
 void ProgramInstance::findBus() {
     if (!sessionBusAnswers()) return;
@@ -94,14 +128,30 @@ int ProgramInstance::handOver(const QStringList& files) {
     return files.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-void ProgramInstance::Activate(const QVariantMap& /*platformData*/) { emit activated(); }
-
-void ProgramInstance::Open(const QStringList& uris, const QVariantMap& /*platformData*/) {
-    for (const QString& uri : uris) {
-        const QUrl url(uri, QUrl::StrictMode);
-        if (url.isLocalFile()) emit fileOpened(url.toLocalFile());
-    }
+void ProgramInstance::serve(CarryOut carryOut) {
+    m_carryOut = std::move(carryOut);
+    for (const Request& request : std::exchange(m_early, {})) answer(request);
 }
 
-void ProgramInstance::ActivateAction(const QString& /*action*/, const QVariantList& /*parameter*/,
-                                     const QVariantMap& /*platformData*/) {}
+bool ProgramInstance::endsPlayback() {
+    if (!m_object->isStopAsked()) return false;
+    m_hasEndedPlayback = true;
+    return true;
+}
+
+/// An action of the table, which the object has looked up.
+void ProgramInstance::answer(const Request& request) {
+    if (!m_object->take(request.number)) return;
+    const Result<> done = carryOut(*actionNamed(request.action.toStdString()));
+    m_bus.send(
+        done ? request.call.createReply()
+             : request.call.createErrorReply(bus::notNow, QString::fromStdString(done.error().message)));
+}
+
+Result<> ProgramInstance::carryOut(const ActionRow& action) {
+    if (!action.endsPlayback) return m_carryOut(action);
+    Result<> done = m_carryOut(action);
+    m_object->stopTaken();
+    // By the time that it comes here, the playback is over.
+    return std::exchange(m_hasEndedPlayback, false) ? Result<>() : done;
+}

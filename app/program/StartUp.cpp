@@ -5,7 +5,8 @@
 #include <cstdlib>
 
 int reportFailure(const Error& error) {
-    std::fprintf(stderr, "keyrill: %s %s\n", error.message.c_str(), error.hint.c_str());
+    const char* const space = error.hint.empty() ? "" : " ";
+    std::fprintf(stderr, "keyrill: %s%s%s\n", error.message.c_str(), space, error.hint.c_str());
     return EXIT_FAILURE;
 }
 

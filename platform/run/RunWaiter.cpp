@@ -9,6 +9,9 @@
 
 namespace {
 
+/// For those who end a run without waking it (Session::endPlaysWhen).
+constexpr std::chrono::milliseconds betweenLooks{100};
+
 /// As the kernel takes it; zero if the moment has passed.
 timespec timeTo(Clock::Time until, Clock::Time now) {
     const auto left = std::max(Clock::Time::duration::zero(), until - now);
@@ -38,7 +41,8 @@ Step<> RunWaiter::waitUntil(Clock::Time deadline) {
 }
 
 void RunWaiter::awaitNews(Clock::Time deadline) {
-    block(std::min(deadline, m_watch.cancelDeadline().value_or(deadline)));
+    const Clock::Time look = m_clock.now() + betweenLooks;
+    block(std::min({deadline, look, m_watch.cancelDeadline().value_or(deadline)}));
 }
 
 void RunWaiter::block(Clock::Time until) {

@@ -48,6 +48,22 @@ TEST_F(InstallationTest, theMenuEntryIsValidAndComplete) {
     EXPECT_NE(entry.find("\nIcon=" + id + "\n"), std::string::npos);
 }
 
+TEST_F(InstallationTest, theMenuEntryOffersTheActionsOfTheProgram) {
+    const std::string entry = contentOf(installed("share/applications/" + id + ".desktop"));
+    const std::string help = outputOf({installed("bin/keyrill"), "--help"});
+    std::smatch names;
+    ASSERT_TRUE(std::regex_search(help, names, std::regex("ACTION is one of these: (.*)\\.\n"))) << help;
+    const std::string list = names[1];
+    const std::string actions = std::regex_replace(list, std::regex(", "), ";") + ";";
+    EXPECT_NE(entry.find("\nActions=" + actions + "\n"), std::string::npos) << actions;
+    const std::regex name("[a-z-]+");
+    for (std::sregex_iterator at(list.begin(), list.end(), name), end; at != end; ++at) {
+        const std::regex action("\n\\[Desktop Action " + at->str() +
+                                "\\]\nName=.+\nExec=keyrill --action=" + at->str() + "\n");
+        EXPECT_TRUE(std::regex_search(entry, action)) << at->str();
+    }
+}
+
 TEST_F(InstallationTest, theSoftwareCentresPageIsValidAndOfThisVersion) {
     const std::string file = installed("share/metainfo/" + id + ".metainfo.xml");
     outputOf({"appstreamcli", "validate", "--no-net", file});

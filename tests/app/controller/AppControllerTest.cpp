@@ -6,6 +6,7 @@
 
 #include "app/AppTest.h"
 #include "app/overlay/MultiplePlayWindow.h"
+#include "app/tray/Actions.h"
 #include "app/tray/MacroMenuItem.h"
 #include "engine/MacroPlayer.h"
 #include "platform/Features.h"
@@ -252,6 +253,26 @@ TEST_F(AppControllerTest, aHistoryOf500HasTheNewestFirstAndScrollsToTheOldest) {
     history.hide();
     history.actions().last()->trigger();
     EXPECT_EQ(state().currentMacro->macroId(), numberOf(history.actions().last()));
+}
+
+TEST_F(AppControllerTest, carriesOutWhatIsAskedFromOutside) {
+    EXPECT_TRUE(controller.carryOut(*actionNamed("record")));
+    type(key::a);
+    EXPECT_TRUE(controller.carryOut(*actionNamed("stop")));
+    EXPECT_TRUE(controller.carryOut(*actionNamed("play")));
+    EXPECT_EQ(platform().scripting.runs(), std::vector<std::string>());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(platform().scripting.runs().size(), 1U);
+}
+
+TEST_F(AppControllerTest, aStopFromOutsideTakesBackAPlayThatHasNotBegun) {
+    recordKey(key::a);
+    EXPECT_TRUE(controller.carryOut(*actionNamed("play")));
+    EXPECT_TRUE(controller.carryOut(*actionNamed("stop")));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(platform().scripting.runs(), std::vector<std::string>());
+    EXPECT_EQ(controller.carryOut(*actionNamed("stop")).error().message,
+              "Nothing is being recorded or played.");
 }
 
 }  // namespace

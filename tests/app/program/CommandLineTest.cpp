@@ -40,6 +40,27 @@ TEST(CommandLineTest, helpAndVersionAreNoFiles) {
     EXPECT_EQ(readCommandLine({"--version"}), (CommandLine{.wish = CommandLine::Wish::version}));
 }
 
+TEST(CommandLineTest, anActionIsNamed) {
+    EXPECT_EQ(readCommandLine({"--action=play"}), (CommandLine{.action = "play"}));
+    EXPECT_EQ(readCommandLine({"--session=x11", "--action", "play"}),
+              (CommandLine{.session = "x11", .action = "play"}));
+    EXPECT_TRUE(checkAction(readCommandLine({"--action=save-pause"})));
+}
+
+TEST(CommandLineTest, anActionThatThereIsNotListsTheOthers) {
+    const std::string all = "Choose one of these: record, stop, play, multiple, save-pause.";
+    EXPECT_EQ(checkAction(readCommandLine({"--action=quit"})).error(),
+              (Error{R"(There is no action "quit".)", all}));
+    EXPECT_EQ(checkAction(readCommandLine({"--action="})).error(), (Error{R"(There is no action "".)", all}));
+    EXPECT_EQ(checkAction(readCommandLine({"--action"})).error(), (Error{R"(There is no action "".)", all}));
+}
+
+TEST(CommandLineTest, anActionTakesNoFile) {
+    EXPECT_EQ(
+        checkAction(readCommandLine({"--action=play", "a.keyrill"})).error(),
+        (Error{R"(An action takes no file, and "a.keyrill" was given.)", "Load it first: keyrill FILE."}));
+}
+
 TEST(CommandLineTest, theFirstUnknownOptionIsNamed) {
     const CommandLine line = readCommandLine({"-style", "a", "--sesion=x11"});
     EXPECT_EQ(line.unknown, (std::vector<std::string>{"-style", "--sesion=x11"}));
@@ -56,6 +77,11 @@ TEST(CommandLineTest, whereThereIsNoToolkitItsOptionsArePassedOver) {
 
 TEST(CommandLineTest, theUsageListsTheSessions) {
     EXPECT_NE(usage(sessionKinds()).find(" x11\n"), std::string::npos) << usage(sessionKinds());
+}
+
+TEST(CommandLineTest, theUsageListsTheActions) {
+    EXPECT_NE(usage({}).find(": record, stop, play, multiple, save-pause.\n"), std::string::npos)
+        << usage({});
 }
 
 }  // namespace

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "app/tray/Actions.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+
+namespace {
+
+/// An action without its line does not compile.
+consteval bool followMenuRows() {
+    for (const ActionRow& action : actionRows) {
+        if (menuRows.at(menuRowNamed(action.menuItem)).kind != MenuItemKind::command) return false;
+    }
+    return true;
+}
+static_assert(followMenuRows());
+
+QString tr(const char* text) { return QCoreApplication::translate("Actions", text); }
+
+/// What keeps everybody from giving commands.
+QString obstacleToAll(const MenuFacts& facts) {
+    if (facts.screenLocked) return tr("The screen is locked.");
+    if (facts.gateShut) return tr("Keyrill is asking something, which has to be answered first.");
+    return {};
+}
+
+QString obstacleToPlaying(const MenuFacts& facts) {
+    if (facts.recording) return tr("A macro is being recorded.");
+    return facts.hasMacro ? QString() : tr("There is no macro to play yet.");
+}
+
+}  // namespace
+
+const ActionRow* actionNamed(std::string_view name) {
+    const auto* const row = std::find_if(actionRows.begin(), actionRows.end(),
+                                         [name](const ActionRow& action) { return action.name == name; });
+    return row == actionRows.end() ? nullptr : row;
+}
+
+std::string actionNames() {
+    std::string names;
+    for (const ActionRow& action : actionRows) {
+        if (!names.empty()) names += ", ";
+        names += action.name;
+    }
+    return names;
+}
+
+QString obstacleTo(const ActionRow& action, const MenuFacts& facts) {
+    const QString toAll = obstacleToAll(facts);
+    if (!toAll.isEmpty()) return toAll;
+    if (action.menuItem == "record" && facts.recording) return tr("A macro is being recorded already.");
+    if (action.menuItem == "stop" && !facts.recording) return tr("Nothing is being recorded or played.");
+    if (action.menuItem == "saveDelay" && !facts.overlayShown) return tr("Nothing is being recorded.");
+    if (action.menuItem == "play" || action.menuItem == "multiplePlay") return obstacleToPlaying(facts);
+    return {};
+}

@@ -1,0 +1,332 @@
+// SPDX-License-Identifier: MIT
+//
+// What is asked of the program from outside: by its own command line, by other programs on the session bus,
+// by the desktop's menu and by a window manager's key.
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <regex>
+#include <set>
+
+#include "desktop/DesktopTest.h"
+#include "desktop/SavedMacro.h"
+#include "display/NestedServers.h"
+#include "display/Typist.h"
+#include "support/Programs.h"
+
+namespace {
+
+struct Answer {
+    int status = -1;
+    std::string output;
+
+    friend bool operator==(const Answer&, const Answer&) = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Answer& answer) {
+    return out << answer.status << ": " << answer.output;
+}
+
+const Answer done{0, ""};
+
+Answer notNow(const std::string& why) { return {2, "keyrill: " + why + "\n"}; }
+
+class ActionTest : public testing::Test {
+  protected:
+    ActionTest() {
+        desktop.startBus();
+        desktop.startWindowManager();
+        terminal.emplace(desktop.display());
+    }
+
+    /// How a command ends that is run in the desktop.
+    Answer answerOf(const std::vector<std::string>& command) const {
+        const std::string name = "answer" + std::to_string(++m_answers);
+        Child child(command, desktop.options(name));
+        const int status = child.wait();
+        return {status, contentOf(desktop.file(name))};
+    }
+    Answer ask(const std::string& action) const {
+        return answerOf({programs::keyrill, "--action=" + action});
+    }
+    /// The same by a program that is none of ours.
+    Answer call(const std::string& action, const std::string& parameter = "[]") const {
+        return answerOf({"gdbus", "call", "--session", "--dest", "example.orlen.Keyrill", "--object-path",
+                         "/example/orlen/Keyrill", "--method", "org.freedesktop.Application.ActivateAction",
+                         action, parameter, "{}"});
+    }
+    void type(std::initializer_list<std::uint8_t> keycodes) const {
+        for (const std::uint8_t keycode : keycodes) typist.tap(keycode);
+    }
+    void recordAb() const {
+        ASSERT_EQ(ask("record"), done);
+        type({xkey::a, xkey::b});
+        ASSERT_EQ(ask("stop"), done);
+    }
+
+    Desktop desktop;
+    const Hands hands{desktop.display()};
+    const Typist typist{hands, Typist::Gap(30)};
+    std::optional<Terminal> terminal;
+
+  private:
+    mutable int m_answers = 0;
+};
+
+constexpr const char* twentySeconds = R"(repeat 2000 times
+tell application "System Events" to key code 0
+delay 0.01
+end repeat
+)";
+
+TEST_F(ActionTest, theFirstOneStartsTheProgramAndTheNextStopAndPlay) {
+    EXPECT_EQ(ask("record"), done);
+    EXPECT_TRUE(desktop.shows(title::overlay));
+    type({xkey::a, xkey::b});
+    EXPECT_EQ(ask("stop"), done);
+    EXPECT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
+    EXPECT_EQ(terminal->typed(2), "ab");
+    EXPECT_EQ(ask("play"), done);
+    EXPECT_EQ(terminal->typed(4), "abab");
+}
+
+TEST_F(ActionTest, theProgramThatWasStartedForItGoesOn) {
+    EXPECT_EQ(ask("record"), done);
+    EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
+    desktop.press("ctrl+super+s");
+    EXPECT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
+}
+
+TEST_F(ActionTest, anyCallerOnTheBusMayAsk) {
+    const Keyrill keyrill(desktop);
+    EXPECT_EQ(call("record"), (Answer{0, "()\n"}));
+    type({xkey::a, xkey::b});
+    EXPECT_EQ(call("stop"), (Answer{0, "()\n"}));
+    EXPECT_EQ(call("play"), (Answer{0, "()\n"}));
+    EXPECT_EQ(terminal->typed(4), "abab");
+}
+
+TEST_F(ActionTest, theCallerIsToldWhatCannotBeDone) {
+    const Keyrill keyrill(desktop);
+    const Answer refused = call("play");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.output,
+              "Error: GDBus.Error:example.orlen.Keyrill.Error.NotNow: There is no macro to play yet.\n");
+    EXPECT_TRUE(call("quit").output.starts_with(
+        "Error: GDBus.Error:org.freedesktop.DBus.Error.InvalidArgs: There is no action \"quit\". There are: "
+        "record, stop, play, multiple, save-pause.\n"));
+    EXPECT_TRUE(
+        call("record", "[<1>]")
+            .output.starts_with(
+                "Error: GDBus.Error:org.freedesktop.DBus.Error.InvalidArgs: The action \"record\" takes no "
+                "parameter.\n"));
+    EXPECT_FALSE(desktop.shows(title::overlay));
+}
+
+TEST_F(ActionTest, whatCannotBeDoneNowHasAStatusOfItsOwn) {
+    EXPECT_EQ(ask("stop"), notNow("Keyrill is not running."));
+    EXPECT_EQ(ask("save-pause"), notNow("Keyrill is not running."));
+    const Keyrill keyrill(desktop);
+    EXPECT_EQ(ask("stop"), notNow("Nothing is being recorded or played."));
+    EXPECT_EQ(ask("play"), notNow("There is no macro to play yet."));
+    EXPECT_EQ(ask("multiple"), notNow("There is no macro to play yet."));
+    EXPECT_EQ(ask("save-pause"), notNow("Nothing is being recorded."));
+    EXPECT_EQ(ask("record"), done);
+    EXPECT_EQ(ask("record"), notNow("A macro is being recorded already."));
+    EXPECT_EQ(ask("play"), notNow("A macro is being recorded."));
+    EXPECT_EQ(ask("stop"), done);
+}
+
+TEST_F(ActionTest, itMustBeOneThatThereIs) {
+    EXPECT_EQ(ask("quit"),
+              (Answer{1,
+                      "keyrill: There is no action \"quit\". Choose one of these: record, stop, play, "
+                      "multiple, save-pause.\n"}));
+    EXPECT_EQ(answerOf({programs::keyrill, "--action=play", "--now"}),
+              (Answer{1, "keyrill: There is no option \"--now\". keyrill --help lists them.\n"}));
+}
+
+TEST_F(ActionTest, withoutASessionBusItSaysSo) {
+    const Keyrill keyrill(desktop);
+    desktop.setEnvironment("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    const Answer answer = ask("record");
+    EXPECT_EQ(answer.status, 1);
+    EXPECT_EQ(answer.output,
+              "keyrill: There is no session bus, over which the running Keyrill could be asked. Call it from "
+              "within the desktop session; the hot keys and the menu need none.\n");
+    EXPECT_FALSE(desktop.shows(title::overlay));
+}
+
+TEST_F(ActionTest, withoutADisplayNothingIsStarted) {
+    desktop.setEnvironment("DISPLAY", "");
+    const Answer answer = ask("record");
+    EXPECT_EQ(answer.status, 1);
+    EXPECT_TRUE(answer.output.starts_with("keyrill: The X server of display \"\" cannot be reached."))
+        << answer.output;
+}
+
+TEST_F(ActionTest, theRunningOneIsReachedFromWhereThereIsNoDisplay) {
+    const Keyrill keyrill(desktop);
+    desktop.setEnvironment("DISPLAY", "");
+    EXPECT_EQ(ask("record"), done);
+    EXPECT_TRUE(desktop.shows(title::overlay));
+}
+
+TEST_F(ActionTest, multipleAsksHowOftenAndHasTheFocus) {
+    const Keyrill keyrill(desktop);
+    recordAb();
+    EXPECT_EQ(ask("multiple"), done);
+    desktop.awaitFocus(title::prompt);
+    desktop.run({"xdotool", "key", "ctrl+a", "3", "Return"});
+    EXPECT_EQ(terminal->typed(8), "abababab");
+}
+
+TEST_F(ActionTest, savePauseKeepsTheTimeSinceTheLastKey) {
+    desktop.startTray();
+    const Keyrill keyrill(desktop);
+    ASSERT_EQ(ask("record"), done);
+    type({xkey::a});
+    EXPECT_EQ(ask("save-pause"), done);
+    ASSERT_EQ(ask("stop"), done);
+    const std::string script = savedMacro(desktop);
+    const std::regex paused(
+        "tell application \"System Events\"\n\tkey code \\(0\\) using \\{\\}\ndelay 0\\.01\n"
+        "\tdelay [0-9.]+\ndelay 0\\.01\nend tell\n");
+    EXPECT_TRUE(std::regex_match(script, paused)) << script;
+}
+
+TEST_F(ActionTest, whileAMacroPlaysOnlyStopIsTaken) {
+    const Keyrill keyrill(desktop, twentySeconds);
+    EXPECT_EQ(ask("play"), done);
+    terminal->typed(20);
+    EXPECT_EQ(ask("play"), notNow("Keyrill is playing a macro."));
+    EXPECT_EQ(ask("record"), notNow("Keyrill is playing a macro."));
+    EXPECT_EQ(ask("stop"), done);
+    const std::string typed = terminal->typed();
+    EXPECT_LT(typed.size(), 1900U);
+    EXPECT_EQ(ask("stop"), notNow("Nothing is being recorded or played."));
+    // What was refused is not done later.
+    EXPECT_FALSE(desktop.shows(title::overlay));
+    type({xkey::b});
+    EXPECT_EQ(terminal->typed(typed.size() + 1), typed + "b");
+}
+
+TEST_F(ActionTest, stopEndsAMacroInTheMiddleOfAPause) {
+    const Keyrill keyrill(desktop, R"(tell application "System Events" to keystroke "x"
+delay 1000
+tell application "System Events" to keystroke "y"
+)");
+    EXPECT_EQ(ask("play"), done);
+    EXPECT_EQ(terminal->typed(1), "x");
+    EXPECT_EQ(ask("multiple"), notNow("Keyrill is playing a macro."));
+    EXPECT_EQ(ask("stop"), done);
+    type({xkey::b});
+    EXPECT_EQ(terminal->typed(2), "xb");
+}
+
+TEST_F(ActionTest, stopEndsAMacroThatAsks) {
+    const Keyrill keyrill(desktop, R"(repeat
+try
+display dialog "What now?" with title "Go on?"
+end try
+end repeat
+)");
+    EXPECT_EQ(ask("play"), done);
+    desktop.awaitFocus("Go on?");
+    EXPECT_EQ(ask("record"), notNow("Keyrill is asking something, which has to be answered first."));
+    EXPECT_EQ(ask("stop"), done);
+    EXPECT_TRUE(eventually([this] { return !desktop.shows("Go on?") && terminal->hasFocus(); }));
+    EXPECT_EQ(ask("stop"), notNow("Nothing is being recorded or played."));
+}
+
+TEST_F(ActionTest, theBusTellsNothingOfWhatIsRecorded) {
+    const Keyrill keyrill(desktop);
+    recordAb();
+    const std::string object =
+        desktop.run({"gdbus", "introspect", "--session", "--dest", "example.orlen.Keyrill", "--object-path",
+                     "/example/orlen/Keyrill", "--xml"});
+    std::set<std::string> members;
+    std::string interface;
+    const std::regex element("<(interface|method|signal|property) name=\"([^\"]*)\"");
+    for (std::sregex_iterator at(object.begin(), object.end(), element), end; at != end; ++at) {
+        if ((*at)[1] == "interface") {
+            interface = (*at)[2];
+        } else if (!interface.starts_with("org.freedesktop.DBus.")) {
+            members.insert(interface + " " + (*at)[1].str() + " " + (*at)[2].str());
+        }
+    }
+    EXPECT_EQ(members, (std::set<std::string>{"org.freedesktop.Application method Activate",
+                                              "org.freedesktop.Application method ActivateAction",
+                                              "org.freedesktop.Application method Open"}))
+        << object;
+}
+
+/// The entry's actions, as desktops offer them beside the program's name.
+TEST_F(ActionTest, theMenuEntryRecordsStopsAndPlays) {
+    const std::string folder = desktop.file("programs");
+    std::filesystem::create_directories(folder);
+    std::filesystem::create_symlink(programs::keyrill, folder + "/keyrill");
+    desktop.setEnvironment("PATH", folder + ":/usr/bin:/bin");
+    const auto launch = [this](const std::string& action) {
+        desktop.run(
+            {"/usr/bin/python3", "-c",
+             "import sys; from gi.repository import Gio; "
+             "Gio.DesktopAppInfo.new_from_filename(sys.argv[1]).launch_action(sys.argv[2], None)",
+             std::filesystem::path(programs::presets).replace_filename("example.orlen.Keyrill.desktop"),
+             action});
+    };
+    launch("record");
+    desktop.awaitWindow(title::overlay);
+    type({xkey::a, xkey::b});
+    launch("stop");
+    ASSERT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
+    launch("play");
+    EXPECT_EQ(terminal->typed(4), "abab");
+}
+
+/// A person presses a key of the window manager's at a real keyboard.
+class BoundKeyTest : public testing::TestWithParam<Typist::Gap> {
+  protected:
+    BoundKeyTest() {
+        outputOf({"xset", "r", "off"}, {{"DISPLAY", servers.outerDisplay()}});
+        desktop.startBus();
+        const std::filesystem::path folder = desktop.file("host/.config/openbox");
+        std::filesystem::create_directories(folder);
+        std::ofstream(folder / "rc.xml")
+            << "<openbox_config xmlns=\"http://openbox.org/3.4/rc\"><keyboard><keybind key=\"C-W-F5\">"
+               "<action name=\"Execute\"><command>"
+            << programs::keyrill
+            << " --action=play</command></action></keybind></keyboard></openbox_config>\n";
+        desktop.startWindowManager();
+        terminal.emplace(desktop.display());
+    }
+
+    NestedServers servers;
+    Desktop desktop{servers.display()};
+    Typist typist{servers, GetParam()};
+    std::optional<Terminal> terminal;
+};
+
+TEST_P(BoundKeyTest, playsWhenTheKeysAreLetGo) {
+    const Keyrill keyrill(desktop, "tell application \"System Events\" to keystroke \"Hello\"\n");
+    typist.stroke({xkey::control, xkey::super, xkey::f5});
+    EXPECT_EQ(terminal->typed(5), "Hello");
+    EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
+}
+
+TEST_P(BoundKeyTest, typesNothingWhileAHandHoldsAModifier) {
+    const Keyrill keyrill(desktop, "tell application \"System Events\" to keystroke \"Hello\"\n");
+    typist.press({xkey::control, xkey::super, xkey::f5});
+    typist.release({xkey::f5});
+    typist.hold(std::chrono::milliseconds(1500));
+    EXPECT_EQ(terminal->typed(), "");
+    typist.release({xkey::super, xkey::control});
+    EXPECT_EQ(terminal->typed(5), "Hello");
+    EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
+}
+
+INSTANTIATE_TEST_SUITE_P(EachGap, BoundKeyTest,
+                         testing::Values(Typist::Gap(30), Typist::Gap(80), Typist::Gap(150)),
+                         [](const auto& gap) { return nameOf(gap.param); });
+
+}  // namespace
