@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "platform/Encoding.h"
 #include "platform/KeyInjector.h"
@@ -53,6 +55,16 @@ Result<std::unique_ptr<InjectionSession>> BoundedInjector::open(const InjectionP
     return std::unique_ptr<InjectionSession>(std::make_unique<BoundedSession>(*this));
 }
 
+/// Programs have windows, which scripts choose from.
+class BusyDesktop : public script::SilentDesktop {
+  public:
+    Result<std::vector<std::string>> applications() override {
+        return std::vector<std::string>{"Mail", "Fire"};
+    }
+    bool hasApplication(std::string_view /*name*/) override { return true; }
+    bool isInFront(std::string_view name) override { return name == "Mail"; }
+};
+
 /// Every error has a number, words that can be shown, and a place.
 void check(const script::ScriptError& error) {
     if (error.number == 0 || error.message.empty() || invalidUtf8(error.message)) std::abort();
@@ -71,7 +83,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     BoundedInjector injector;
-    script::SilentDesktop desktop;
+    BusyDesktop desktop;
     script::NoDialogs dialogs;
     const auto checkWarning = [](const script::ScriptWarning& warning) {
         if (warning.message.empty()) std::abort();

@@ -212,6 +212,20 @@ TEST_F(WaylandScriptTest, aScriptBringsAProgramToTheFront) {
     EXPECT_EQ(second.typed(3), "two");
 }
 
+TEST_F(WaylandScriptTest, programsAreNamedFromTheFrontOn) {
+    const Foot first(sway());
+    const Foot second(sway());
+    const Foot third(sway());
+    second.focus();
+    play("set text item delimiters to \",\"\n" +
+         keys("set found to name of every process\nkeystroke item 1 of found & count found\nkeystroke name "
+              "of (first "
+              "process whose name is \"" +
+              third.program() + "\")\nkeystroke (exists (processes whose name is \"nobody\")) as text"));
+    const std::string expected = second.program() + "3" + third.program() + "false";
+    EXPECT_EQ(second.typed(expected.size()), expected);
+}
+
 TEST_F(WaylandScriptTest, theEndOfTheCompositorEndsTheRun) {
     const Foot foot(sway());
     const auto program = start(keys("keystroke \"a\"\ndelay 1000"));
