@@ -268,8 +268,10 @@ class Layout {
 }  // namespace
 
 Result<std::string, ScriptError> formatted(std::string_view source) {
+    const std::string_view whole = source;
     if (source.starts_with(byteOrderMark)) source.remove_prefix(byteOrderMark.size());
-    Parser parser(source);
+    // A second mark is no part of a script, which the parser sees where the first one stands.
+    Parser parser(source.starts_with(byteOrderMark) ? whole : source);
     const Tree& tree = parser.parse();
     if (parser.error()) return *parser.error();
     return Layout(source, tree.blocks).take();

@@ -49,6 +49,9 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"possessives and ordinals", "x 's item 2\n1st item of x", "x's item 2\n1st item of x\n"},
         Row{"properties", "property p:{a : 1}", "property p : {a:1}\n"},
         Row{"texts stay", "\"a  ,b\\\" c\"", "\"a  ,b\\\" c\"\n"},
+        Row{"a mark of byte order goes", "\uFEFFbeep", "beep\n"},
+        Row{"a second one is refused", "\uFEFF\uFEFFbeep",
+            "error: Expected expression but found unknown token."},
         Row{"errors are told", "if", "error: Expected expression but found end of script."}));
 
 TEST(LayoutOfCasesTest, formattingTwiceChangesNothingAndTheMeaningStays) {
