@@ -4,6 +4,7 @@
 find_package(PkgConfig REQUIRED)
 find_package(Boost 1.74 REQUIRED)
 find_package(Threads REQUIRED)
+find_package(nlohmann_json 3.11 REQUIRED)
 
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
 pkg_check_modules(XCB_INPUT REQUIRED IMPORTED_TARGET xcb-xinput)

@@ -40,6 +40,10 @@ INSTANTIATE_TEST_SUITE_P(Texts, BrokenJsonTest,
                          testing::Values("", "{", "[1,]", "{\"a\" 1}", "{\"a\":}", "\"open", "\"\\x\"",
                                          "\"\\ud800\"", "\"\\udc00\"", "\"\\u12\"", "nul", "1 2", "{1:2}"));
 
-TEST(JsonTest, endlessNestingIsRefused) { EXPECT_FALSE(Json::parse(std::string(100'000, '['))); }
+TEST(JsonTest, nestingThatNoAnswerHasIsRefused) {
+    constexpr std::size_t deep = 100'000;
+    EXPECT_FALSE(Json::parse(std::string(deep, '[')));
+    EXPECT_FALSE(Json::parse(std::string(deep, '[') + std::string(deep, ']')));
+}
 
 }  // namespace
