@@ -10,6 +10,8 @@ namespace {
 constexpr std::chrono::milliseconds keymapDebounce{20};
 /// Who has the keyboard, while a macro is being recorded.
 constexpr std::chrono::milliseconds betweenLooks{100};
+/// The same while one is played: a question takes as long as a stroke, and no pause is longer than needed.
+constexpr std::chrono::milliseconds betweenLooksOfRun{5};
 /// For the combinations that another program holds: nobody tells when it gives them free.
 constexpr std::chrono::milliseconds betweenTries{2000};
 
@@ -91,14 +93,19 @@ void X11EventManager::Parts::read() {
     watchRepeats();
 }
 
-/// Looks again and again while a macro is recorded or played, and with each key press.
+/// Looks again and again while a macro is recorded, and with each key press; while one is played, at its
+/// beginning and at what it does some time after the last look, as is a stroke that follows a pause.
 void X11EventManager::Parts::followHold() {
     const bool ticked = m_looks.take();
-    if (!m_running && !m_recording) return;
-    if (m_running || ticked || m_interpreter.hasPresses()) lookWhoHoldsTheKeyboard();
+    if (m_running) {
+        if (m_clock.now() >= m_nextLookOfRun) lookWhoHoldsTheKeyboard();
+    } else if (m_recording && (ticked || m_interpreter.hasPresses())) {
+        lookWhoHoldsTheKeyboard();
+    }
 }
 
 void X11EventManager::Parts::lookWhoHoldsTheKeyboard() {
+    m_nextLookOfRun = m_clock.now() + betweenLooksOfRun;
     const bool wasShut = m_hold.isShut();
     m_hold.look(m_clock.now(), m_holds->look(m_clock.now()), m_interpreter.held().keycodes());
     // The question may have brought events along, of which no descriptor tells any more.
@@ -184,6 +191,7 @@ void X11EventManager::Parts::runStarts() {
     if (m_repeats) m_repeats->pause();
     m_running = true;
     m_hold.reset();
+    m_nextLookOfRun = m_clock.now();
     m_holds->follow(true);
 }
 

@@ -102,6 +102,7 @@ class X11EventManager::Parts final : public RunWatch {
     Ticker m_tries;
     const Clock& m_clock;
     KeyboardHold m_hold;
+    Clock::Time m_nextLookOfRun = {};
 
     Deliverer m_deliverer;
     std::function<void(bool)> m_holdChanged;
