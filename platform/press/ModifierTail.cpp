@@ -38,4 +38,12 @@ void ModifierTail::keyIsUp(xkb_mod_mask_t commands) {
     begin();
 }
 
-void ModifierTail::release() { press({}); }
+void ModifierTail::release(const KeycodeSet& staying) {
+    std::vector<std::uint8_t> kept = m_keys;
+    std::erase_if(kept, [&](std::uint8_t keycode) { return !staying[keycode]; });
+    press(std::move(kept));
+}
+
+void ModifierTail::forget(const KeycodeSet& keycodes) {
+    std::erase_if(m_keys, [&](std::uint8_t keycode) { return keycodes[keycode]; });
+}

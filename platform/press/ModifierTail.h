@@ -35,10 +35,10 @@ class ModifierTail {
     void keyIsUp(xkb_mod_mask_t commands);
     /// The server has worked the stroke off: from now on their time counts.
     void begin() { m_end = m_clock.now() + length; }
-    /// Queues the releases, if any.
-    void release();
-    /// They are up already.
-    void forget() { m_keys.clear(); }
+    /// Queues the releases, if any, of all but these.
+    void release(const KeycodeSet& staying = {});
+    /// These are up already.
+    void forget(const KeycodeSet& keycodes);
 
   private:
     KeyOutput& m_output;

@@ -1,9 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "platform/press/TailWait.h"
 
+#include <algorithm>
+
+namespace {
+
+/// At hands that hold what the run holds too.
+constexpr std::chrono::milliseconds betweenLooks{50};
+
+}  // namespace
+
 Step<> TailWait::waitUntil(Clock::Time deadline) {
-    if (m_tail.isDown() && m_tail.end() <= deadline) {
+    while (m_tail.isDown() && m_tail.end() <= deadline) {
         if (auto ended = endTail(); !ended) return ended;
+        if (m_clock.now() >= deadline || !m_tail.isDown()) break;
+        // What hands hold too stays.
+        const auto waited = m_waiter.waitUntil(std::min(deadline, m_clock.now() + betweenLooks));
+        if (!waited) return waited;
     }
     return m_waiter.waitUntil(deadline);
 }
@@ -11,20 +24,21 @@ Step<> TailWait::waitUntil(Clock::Time deadline) {
 Step<> TailWait::endTail() {
     while (m_tail.isDown()) {
         if (auto heeded = m_waiter.heedUser(); !heeded) return heeded;
-        if (m_clock.now() >= m_tail.end() || m_handsHoldModifiers()) {
-            release();
-        } else {
-            m_waiter.awaitNews(m_tail.end());
+        const KeycodeSet staying = m_modifiersOfHands();
+        if (m_clock.now() >= m_tail.end() || staying.any()) {
+            release(staying);
+            break;
         }
+        m_waiter.awaitNews(m_tail.end());
     }
     return {};
 }
 
 void TailWait::endTailInTime() {
-    if (m_tail.isDown() && m_clock.now() >= m_tail.end()) release();
+    if (m_tail.isDown() && m_clock.now() >= m_tail.end()) release(m_modifiersOfHands());
 }
 
-void TailWait::release() {
-    m_tail.release();
+void TailWait::release(const KeycodeSet& staying) {
+    m_tail.release(staying);
     m_output.flush();
 }

@@ -9,14 +9,15 @@
 /// Waits as RunWaiter does, and ends a tail of modifiers whose time comes meanwhile.
 class TailWait final : public RunWait {
   public:
-    /// `handsHoldModifiers` tells of hands that want the keyboard for a combination of their own.
+    /// `modifiersOfHands` tells of hands that want the keyboard for a combination of their own. What they
+    /// hold themselves stays down as long, or it would be up for them too.
     TailWait(ModifierTail& tail, KeyOutput& output, RunWaiter& waiter, const Clock& clock,
-             std::function<bool()> handsHoldModifiers)
+             std::function<KeycodeSet()> modifiersOfHands)
         : m_tail(tail),
           m_output(output),
           m_waiter(waiter),
           m_clock(clock),
-          m_handsHoldModifiers(std::move(handsHoldModifiers)) {}
+          m_modifiersOfHands(std::move(modifiersOfHands)) {}
 
     Step<> waitUntil(Clock::Time deadline) override;
 
@@ -27,11 +28,11 @@ class TailWait final : public RunWait {
     void endTailInTime();
 
   private:
-    void release();
+    void release(const KeycodeSet& staying);
 
     ModifierTail& m_tail;
     KeyOutput& m_output;
     RunWaiter& m_waiter;
     const Clock& m_clock;
-    std::function<bool()> m_handsHoldModifiers;
+    std::function<KeycodeSet()> m_modifiersOfHands;
 };

@@ -17,7 +17,7 @@ WaylandInjectionSession::WaylandInjectionSession(const InjectionTools& tools, In
       m_whenEnded(std::move(ended)),
       m_waiter(tools.clock, tools.watch, tools.interrupt, tools.companion, tools.connection.fileDescriptor()),
       m_tail(tools.keyboard, tools.clock),
-      m_tailWait(m_tail, tools.keyboard, m_waiter, tools.clock, [] { return false; }),
+      m_tailWait(m_tail, tools.keyboard, m_waiter, tools.clock, [] { return KeycodeSet(); }),
       m_pacer(tools.clock, m_tailWait),
       m_sender(tools.keyboard, tools.watch, m_tail),
       m_held(tools.keyboard, tools.watch, m_sender),

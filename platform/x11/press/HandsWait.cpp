@@ -12,7 +12,8 @@ constexpr std::chrono::milliseconds betweenLooks{50};
 
 }  // namespace
 
-KeycodeSet HandsWait::modifierKeysOf(const ModifierKeys& map, const KeycodeSet& keys) {
+KeycodeSet HandsWait::modifierKeysAmong(const KeycodeSet& keys) const {
+    const ModifierKeys& map = m_tools.keymap.keymap().keys();
     KeycodeSet modifiers;
     for (std::size_t keycode = 0; keycode < keys.size(); ++keycode) {
         modifiers[keycode] = keys[keycode] && map.heldBy(static_cast<std::uint8_t>(keycode)) != 0;
@@ -54,14 +55,19 @@ Step<XkbComponents> HandsWait::untilUp(const KeycodeSet& held) {
 }
 
 Step<> HandsWait::wait(const KeycodeSet& held) {
-    const KeycodeSet lifted = modifierKeysOf(m_tools.keymap.keymap().keys(), held);
-    m_tools.connection.release(lifted);
+    const KeycodeSet own = modifierKeysAmong(held);
+    const KeycodeSet shared = own & keysOfHands(held);
+    m_lifted = own & ~shared;
+    m_tools.connection.release(m_lifted);
     m_tools.connection.flush();
     // What comes from now on through XTEST comes from other programs.
     m_tools.watch.settleOwnKeys();
-    const auto waited = waitUntilUp(held & ~lifted);
+    const auto waited = waitUntilUp(held & ~m_lifted);
     if (!waited) return waited;
-    m_tools.connection.press(lifted);
+    m_lifted.reset();
+    // The hand's release has ended what it shared.
+    m_tools.connection.release(shared);
+    m_tools.connection.press(own);
     m_tools.connection.flush();
     m_pacer.restart();
     return {};
@@ -85,20 +91,23 @@ bool HandsWait::isHeld(const XkbComponents& state, const KeycodeSet& held) const
     // one when another one speaks, and the watch may not have been told yet.
     if (state.depressed == 0 && state.baseLayout == 0 && !m_tools.watch.handsHoldKeys()) return false;
     const KeycodeSet down = keysOfHands(held);
-    if (modifierKeysOf(m_tools.keymap.keymap().keys(), down).any()) return true;
+    if (modifierKeysAmong(down).any()) return true;
     return state.baseLayout != 0 && down.any();
 }
 
-bool HandsWait::handsHoldModifiers(const KeycodeSet& held) const {
-    return m_tools.watch.handsHoldKeys() &&
-           modifierKeysOf(m_tools.keymap.keymap().keys(), keysOfHands(held)).any();
+KeycodeSet HandsWait::modifiersOfHands(const KeycodeSet& held) const {
+    if (!m_tools.watch.handsHoldKeys()) return {};
+    return modifierKeysAmong(keysOfHands(held));
 }
 
+/// On the keyboard through which the run presses keys the server tells of no press of a key that is down
+/// already: where another program holds any, it may hold the run's too.
 KeycodeSet HandsWait::keysOfHands(const KeycodeSet& held) const {
     KeycodeSet down;
     for (const SlaveKeyboard& keyboard : m_tools.keymap.slaves()) {
         const KeycodeSet here = keysDownOn(m_tools.connection.get(), keyboard);
-        down |= keyboard.isXtest ? here & ~held : here;
+        const KeycodeSet others = here & ~held;
+        if (!keyboard.isXtest || modifierKeysAmong(others).any()) down |= here;
     }
     return down;
 }

@@ -30,16 +30,16 @@ class HandsWait {
 
     /// Returns at once, or 10 ms after the last hand is up; the state then. `held` are the keys that the run
     /// itself holds down; those of them that are modifiers are up while it waits, or they would be part of
-    /// the user's combination.
+    /// the user's combination, unless they are: what a hand holds too would be up for the hand as well.
     Step<XkbComponents> untilUp(const KeycodeSet& held);
+    /// Those of the run's keys that are up because a wait was not waited to its end.
+    const KeycodeSet& lifted() const { return m_lifted; }
 
-    /// Whether one is held now, as of the last drain of the watch.
-    bool handsHoldModifiers(const KeycodeSet& held) const;
-
-    /// The modifier keys among `keys`.
-    static KeycodeSet modifierKeysOf(const ModifierKeys& map, const KeycodeSet& keys);
+    /// The modifier keys that hands hold now, as of the last drain of the watch.
+    KeycodeSet modifiersOfHands(const KeycodeSet& held) const;
 
   private:
+    KeycodeSet modifierKeysAmong(const KeycodeSet& keys) const;
     bool releaseLeftOvers();
     KeycodeSet keysOfHands(const KeycodeSet& held) const;
     bool isHeld(const XkbComponents& state, const KeycodeSet& held) const;
@@ -50,6 +50,7 @@ class HandsWait {
     RunWaiter& m_waiter;
     Pacer& m_pacer;
     Clock::Time m_runStart = {};
+    KeycodeSet m_lifted;
 };
 
 }  // namespace x11

@@ -26,7 +26,7 @@ X11InjectionSession::X11InjectionSession(const InjectionTools& tools, InjectionP
                xcb_get_file_descriptor(tools.connection.get())),
       m_tail(tools.connection, tools.clock),
       m_tailWait(m_tail, tools.connection, m_waiter, tools.clock,
-                 [this] { return m_hands.handsHoldModifiers(ownKeys()); }),
+                 [this] { return m_hands.modifiersOfHands(ownKeys()); }),
       m_pacer(tools.clock, m_tailWait),
       m_hands({tools.connection, tools.keymap, tools.watch, tools.clock}, m_waiter, m_pacer),
       m_locks(tools.connection, tools.guard),
@@ -116,9 +116,9 @@ Step<XkbComponents> X11InjectionSession::checkHands() {
     const KeycodeSet held = ownKeys();
     auto state = m_hands.untilUp(held);
     if (!state) {
-        // They were up for the time of the wait, and a second release would be that of a hand's key.
-        m_tail.forget();
-        m_held.forget(HandsWait::modifierKeysOf(m_tools.keymap.keymap().keys(), held));
+        // A second release would be that of a hand's key.
+        m_tail.forget(m_hands.lifted());
+        m_held.forget(m_hands.lifted());
         return state;
     }
     const auto isRepaired = m_locks.repair(m_tools.keymap, held, state.value());
