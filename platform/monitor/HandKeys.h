@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <chrono>
 #include <map>
 #include <utility>
@@ -11,7 +12,7 @@
 #include "platform/monitor/MonitorEvents.h"
 
 /// The keys that hands hold, on whichever keyboard, and since when: all that are down and that no running
-/// script has pressed. What another program presses through XTEST may be a hand far away.
+/// script has pressed. What another program presses may be a hand far away.
 class HandKeys {
   public:
     /// `clock` outlives this.
@@ -41,6 +42,10 @@ class HandKeys {
     }
 
     bool any() const { return !m_held.empty(); }
+    bool holds(std::uint8_t keycode) const {
+        return std::any_of(m_held.begin(), m_held.end(),
+                           [keycode](const auto& entry) { return entry.first.second == keycode; });
+    }
 
     /// Those that have been down for so long that no hand is meant any more: for 2 s before a run started,
     /// or, where nobody knows since when, for 2 s of watching.

@@ -19,8 +19,8 @@ Result<void> StrokeSender::send(const Keymap& keymap, const Stroke& stroke, cons
         m_watch.liftHotKey(stroke.keycode, static_cast<std::uint16_t>(stroke.modifiers | down));
     setLocks(stroke);
     if (m_tail.press(keysAround(keys, stroke, down))) keepGroup(keys);
-    // A key that the run holds down goes up first, or nobody would see it go down again.
-    if (held[stroke.keycode]) m_output.release(stroke.keycode);
+    // A key that the run holds down, or a hand, goes up first, or nobody would see it go down again.
+    if (held[stroke.keycode] || m_watch.handsHold(stroke.keycode)) m_output.release(stroke.keycode);
     m_output.press(stroke.keycode);
     if (!held[stroke.keycode]) m_output.release(stroke.keycode);
     m_tail.keyIsUp(stroke.modifiers & keymap.masks().commands());
@@ -36,6 +36,7 @@ std::vector<std::uint8_t> StrokeSender::hold(const ModifierKeys& keys, const Str
     setLocks(stroke);
     for (const std::uint8_t keycode : pressed) m_output.press(keycode);
     if (!pressed.empty()) keepGroup(keys);
+    if (m_watch.handsHold(stroke.keycode)) m_output.release(stroke.keycode);
     m_output.press(stroke.keycode);
     pressed.push_back(stroke.keycode);
     return pressed;

@@ -10,7 +10,7 @@
 /// What the injector needs of the event manager while a run lasts: the one who presses keys and the one who
 /// watches them work on different connections of one process and one thread.
 ///
-/// Key codes are X key codes (evdev + 8).
+/// Key codes are the keymap's (evdev + 8).
 class RunWatch {
   public:
     virtual ~RunWatch() = default;
@@ -20,13 +20,13 @@ class RunWatch {
     virtual void runStarts() = 0;
     virtual void runEnds() = 0;
 
-    /// Announces one XTEST event before it is sent. The raw event that matches it, and a hot key press that
+    /// Announces one key event before it is sent. The raw event that matches it, and a hot key press that
     /// it triggers, are known as the run's own by count.
     virtual void expectOwnKey(std::uint8_t keycode, bool press) = 0;
 
     /// A descriptor that is readable when drain() has something to read (it may also be readable without).
     virtual int fileDescriptor() const = 0;
-    /// Reads and sorts what has come without dispatching anything. Also what xcb has already buffered.
+    /// Reads and sorts what has come without dispatching anything. Also what a connection has read already.
     virtual void drain() = 0;
 
     /// A play command starts: forgets an earlier wish to stop.
@@ -39,27 +39,30 @@ class RunWatch {
     /// Whether another program may be locking the screen, which is soon known: no key is to be pressed until
     /// then. As of the last drain().
     virtual bool mayBeLocked() const { return false; }
-    /// Whether the X server is gone. As of the last drain().
+    /// Whether the desktop's server is gone. As of the last drain().
     virtual bool isLost() const = 0;
     /// When a held Escape will have become a wish to stop; empty while it is up.
     virtual std::optional<Clock::Time> cancelDeadline() const = 0;
 
     /// Takes in every announced key that the server has worked off, and forgets the others: it has made
-    /// nothing of them. What comes through XTEST from then on and is not announced comes from other programs.
+    /// nothing of them. What programs press from then on and is not announced comes from other programs.
     virtual void settleOwnKeys() = 0;
     /// Whether any key is down that is none of the run's own. As of the last drain().
     virtual bool handsHoldKeys() const = 0;
+    /// Whether that one is.
+    virtual bool handsHold(std::uint8_t /*keycode*/) const { return false; }
     /// Those of them that have been down for 2 s before that moment, on whichever keyboard; those that were
     /// down when watching began, for 2 s since then.
     virtual KeycodeSet leftOvers(Clock::Time runStart) const = 0;
 
-    /// Ends the active grab that a hot key which is still held gives its connection, which would swallow all
-    /// strokes. The release of the hot key is still reported, from the raw events.
+    /// Ends the hold on the keyboard that a hot key which is still held gives its watcher, which would
+    /// swallow all strokes. The release of the hot key is still reported.
     virtual void endHotKeyGrab() = 0;
 
     /// Gives a registered combination free while a stroke of the run passes, so that it reaches the
-    /// application, and takes it back. Locks are not part of `modifiers` (X modifier bits). False, and
-    /// nothing done, if the combination is none of ours.
+    /// application, and so the key of a hot key that a hand still holds, whose repeats are kept from the
+    /// applications; restoreHotKeysOf() takes them back. Locks are not part of `modifiers` (the keymap's real
+    /// modifiers). False, and nothing done, if the combination is none of ours.
     virtual bool liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) = 0;
     /// The same with all combinations of a key that the run is going to hold down: the server repeats it,
     /// with whatever modifiers come meanwhile.

@@ -28,7 +28,8 @@ Result<InjectionConnection> InjectionConnection::open(const std::string& display
 std::size_t InjectionConnection::sizeOf(const Stroke& stroke) {
     const auto modifiers = static_cast<std::size_t>(std::popcount(stroke.modifiers));
     constexpr std::size_t locksAndGroups = 5;
-    return (modifiers + 2) * 2 * keyEventSize + locksAndGroups * lockSize;
+    // One more where the key goes up first.
+    return ((modifiers + 2) * 2 + 1) * keyEventSize + locksAndGroups * lockSize;
 }
 
 void InjectionConnection::press(std::uint8_t keycode) { fake(keycode, true); }

@@ -73,7 +73,8 @@ void EventOrder::handle(const RawKey& key) {
         deliverRepeatsBefore(key);
         return m_interpreter.repeatByKeyboard(key);
     }
-    if (!key.press && m_interpreter.held().isHotKey(key.keycode)) noteHotKeyRelease(key);
+    // The run's own strokes are none of the hand's that holds the hot key.
+    if (!key.press && !own && m_interpreter.held().isHotKey(key.keycode)) noteHotKeyRelease(key);
     const KeyOrigin origin = key.press ? originOf(key, own) : KeyOrigin{.own = own};
     if (origin.hotKey || m_interpreter.matters(key)) deliverRepeatsBefore(key);
     m_interpreter.key(key, origin);
@@ -121,8 +122,12 @@ KeyOrigin EventOrder::originOf(const RawKey& press, bool own) {
     const std::optional<GrabbedPress> grabbed = claim(press);
     if (!grabbed) return origin;
     origin.hotKey = m_rules.hotKeys.find(grabbed->keycode, grabbed->modifiers);
-    origin.grabbed = own || origin.hotKey;
-    if (origin.hotKey && !own) m_streams.grabs.yieldKeyboard(*grabbed);
+    origin.grabbed = origin.hotKey.has_value();
+    if (!origin.hotKey) {
+        m_streams.grabs.passOn();
+    } else if (!own) {
+        m_streams.grabs.yieldKeyboard(*grabbed);
+    }
     return origin;
 }
 
@@ -164,7 +169,7 @@ void EventOrder::handleLate(const GrabbedPress& press) {
     // A repeat takes the keyboard anew.
     if (isRepeat(press)) return m_streams.grabs.endActiveGrab();
     const std::optional<HotKeyId> id = m_rules.hotKeys.find(press.keycode, press.modifiers);
-    if (!id) return;
+    if (!id) return m_streams.grabs.passOn();
     m_interpreter.lateHotKey(*id, press.keycode, press.time);
     if (m_interpreter.held().isHotKey(press.keycode)) m_streams.grabs.yieldKeyboard(press);
 }

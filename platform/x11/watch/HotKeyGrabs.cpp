@@ -69,25 +69,56 @@ void HotKeyGrabs::yieldKeyboard(const GrabbedPress& press) {
         KeyGrab{.keycode = press.keycode, .modifiers = 0, .locks = press.modifiers}.variants();
     for (const std::uint16_t modifiers : fewer) {
         const Place place{press.keycode, modifiers};
-        if (m_combinations.contains(place) || !m_shields.insert(place).second) continue;
-        // Where another program holds it, the repeats are that program's.
-        xcb_grab_key(m_connection, 0, m_connection.root(), modifiers, press.keycode, XCB_GRAB_MODE_ASYNC,
-                     XCB_GRAB_MODE_ASYNC);
+        if (!m_combinations.contains(place) && m_shields.insert(place).second) shield(place);
     }
     endActiveGrab();
 }
 
+void HotKeyGrabs::shield(const Place& place) const {
+    // Where another program holds it, the repeats are that program's.
+    xcb_grab_key(m_connection, 0, m_connection.root(), place.modifiers, place.keycode, XCB_GRAB_MODE_ASYNC,
+                 XCB_GRAB_MODE_SYNC);
+}
+
+void HotKeyGrabs::passOn() {
+    xcb_allow_events(m_connection, XCB_ALLOW_REPLAY_KEYBOARD, XCB_CURRENT_TIME);
+    m_connection.roundTrip();
+}
+
 void HotKeyGrabs::takeUp() {
+    m_lifted.clear();
     while (!m_shields.empty()) takeUp(m_shields.begin()->keycode);
 }
 
 void HotKeyGrabs::takeUp(std::uint8_t keycode) {
-    const bool any = std::erase_if(m_shields, [&](const Place& place) {
-                         if (place.keycode != keycode) return false;
-                         if (!m_combinations.contains(place)) ungrab(place);
-                         return true;
-                     }) != 0;
-    if (any) m_connection.roundTrip();
+    std::erase_if(m_lifted, [&](const Place& place) { return place.keycode == keycode; });
+    if (unshield(keycode)) m_connection.roundTrip();
+}
+
+bool HotKeyGrabs::unshield(std::uint8_t keycode) {
+    return std::erase_if(m_shields, [&](const Place& place) {
+               if (place.keycode != keycode) return false;
+               if (!m_combinations.contains(place)) ungrab(place);
+               return true;
+           }) != 0;
+}
+
+bool HotKeyGrabs::liftShields(std::uint8_t keycode) {
+    for (const Place& place : m_shields) {
+        if (place.keycode == keycode) m_lifted.insert(place);
+    }
+    const bool isAny = unshield(keycode);
+    if (isAny) m_connection.roundTrip();
+    return isAny;
+}
+
+void HotKeyGrabs::restoreShields(std::uint8_t keycode) {
+    const auto isRestored = [&](const Place& place) {
+        if (place.keycode != keycode) return false;
+        if (!m_combinations.contains(place) && m_shields.insert(place).second) shield(place);
+        return true;
+    };
+    if (std::erase_if(m_lifted, isRestored) != 0) m_connection.roundTrip();
 }
 
 bool HotKeyGrabs::read() {

@@ -41,10 +41,21 @@ class HotKeyGrabs final : public KeyGrabber {
 
     /// Ends it for all but the key itself, which the hand still holds: what is typed meanwhile reaches the
     /// applications, and the repeats of the key do not, whichever of its modifiers are up by then.
+    ///
+    /// Each further press of the key stops the keyboard until it is known what it is: a repeat, which
+    /// endActiveGrab() drops, or a new one, because the key has been up meanwhile, which passOn() lets
+    /// through.
     void yieldKeyboard(const GrabbedPress& press);
+    /// The press that has come because of yieldKeyboard() reaches the application after all, and before what
+    /// is pressed after it.
+    void passOn();
     /// The keys of yieldKeyboard() are up, or those of this key code alone.
     void takeUp();
     void takeUp(std::uint8_t keycode);
+    /// The key's presses are for the applications for a while, though it is not up; false if that changes
+    /// nothing.
+    bool liftShields(std::uint8_t keycode);
+    void restoreShields(std::uint8_t keycode);
 
     /// Takes over what has come, without waiting; true if that is anything.
     bool read();
@@ -60,12 +71,15 @@ class HotKeyGrabs final : public KeyGrabber {
         friend auto operator<=>(const Place&, const Place&) = default;
     };
 
+    void shield(const Place& place) const;
     void ungrab(const Place& place) const;
+    bool unshield(std::uint8_t keycode);
 
     XConnection m_connection;
     std::set<Place> m_combinations;
-    /// What is grabbed for the sake of repeats alone.
+    /// What is grabbed for the sake of repeats alone, and what of it is lifted.
     std::set<Place> m_shields;
+    std::set<Place> m_lifted;
     WipedQueue<GrabbedPress> m_presses;
     std::uint64_t m_lastNumber = 0;
 };

@@ -217,18 +217,21 @@ void X11EventManager::Parts::endHotKeyGrab() {
 
 bool X11EventManager::Parts::liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) {
     const bool lifted = m_hotKeys.lift(keycode, modifiers);
+    const bool unshielded = m_grabs->liftShields(keycode);
     kick();
-    return lifted;
+    return lifted || unshielded;
 }
 
 bool X11EventManager::Parts::liftHotKeysOf(std::uint8_t keycode) {
     const bool lifted = m_hotKeys.liftAll(keycode);
+    const bool unshielded = m_grabs->liftShields(keycode);
     kick();
-    return lifted;
+    return lifted || unshielded;
 }
 
 void X11EventManager::Parts::restoreHotKeysOf(std::uint8_t keycode) {
     m_hotKeys.restoreAll(keycode);
+    m_grabs->restoreShields(keycode);
     kick();
 }
 

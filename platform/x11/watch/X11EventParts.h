@@ -39,6 +39,7 @@ class X11EventManager::Parts final : public RunWatch {
     std::optional<Clock::Time> cancelDeadline() const override { return m_cancel.deadline(); }
     void settleOwnKeys() override;
     bool handsHoldKeys() const override { return m_hands.any(); }
+    bool handsHold(std::uint8_t keycode) const override { return m_hands.holds(keycode); }
     KeycodeSet leftOvers(Clock::Time runStart) const override { return m_hands.leftOvers(runStart); }
     void endHotKeyGrab() override;
     bool liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) override;

@@ -168,6 +168,71 @@ TEST_F(UserHandsTest, aHotKeyThatIsStillHeldDoesNotSwallowTheStrokes) {
     EXPECT_EQ(wordsOf(client.events()).back(), "release 38 0x0");
 }
 
+/// Its repeats are kept from the applications, and they alone.
+TEST_F(UserHandsTest, theLetterOfAHotKeyThatIsStillHeldIsTypedByTheRun) {
+    outputOf({"xset", "r", "off"}, {{"DISPLAY", servers().outerDisplay()}});
+    const Terminal terminal(display());
+    int pressed = 0;
+    int released = 0;
+    program().manager().install([&pressed](HotKeyId) { ++pressed; }, [&released](HotKeyId) { ++released; });
+    program().manager().request({.id = 3,
+                                 .name = "play",
+                                 .keyCode = 35,
+                                 .modifiers = modifier::control | modifier::command,
+                                 .cancelsPlayback = false});
+    const auto dispatched = [&](const int& count, int expected) {
+        return eventually([&] {
+            finish();
+            program().manager().dispatch();
+            return count == expected;
+        });
+    };
+    const Typist typist(servers(), std::chrono::milliseconds(30));
+    typist.press({xkey::control, xkey::super, xkey::p});
+    ASSERT_TRUE(dispatched(pressed, 1));
+    typist.release({xkey::super, xkey::control});
+    {
+        const auto session = program().run();
+        EXPECT_EQ(wordsOf(session->stroke(35, 0)), "going");
+        EXPECT_EQ(wordsOf(session->text("pep", 0)), "going");
+        EXPECT_EQ(wordsOf(session->keyDown(HeldCode{35})), "going");
+        EXPECT_EQ(wordsOf(session->keyUp(HeldCode{35})), "going");
+        EXPECT_EQ(wordsOf(session->stroke(35, modifier::control)), "going");
+        EXPECT_EQ(wordsOf(session->text(".", 0)), "going");
+    }
+    EXPECT_EQ(terminal.typed(7), "ppepp\x10.");
+    // Still held, and still no letter.
+    EXPECT_EQ(released, 0);
+    typist.release({xkey::p});
+    ASSERT_TRUE(dispatched(released, 1));
+    typist.tap(xkey::p);
+    EXPECT_EQ(terminal.typed(8), "ppepp\x10.p");
+    waitFor("keys:, modifiers: 0x0");
+}
+
+TEST_F(UserHandsTest, aControlThatTheRunHoldsStaysWithAHandThatHoldsItToo) {
+    CoreClient client(display());
+    const auto session = program().run();
+    ASSERT_TRUE(session->keyDown(HeldModifier{modifier::control}));
+    user().press(xkey::control);
+    finish();
+    auto waited = std::async(std::launch::async, [&] {
+        const Typist typist(servers(), std::chrono::milliseconds(30));
+        typist.stroke({xkey::super, xkey::b});
+        user().release(xkey::control);
+        finish();
+    });
+    ASSERT_TRUE(session->stroke(0, 0));
+    waited.get();
+    std::vector<std::string> letters;
+    for (const std::string& word : wordsOf(client.events())) {
+        if (word.starts_with("press 56") || word.starts_with("press 38")) letters.push_back(word);
+    }
+    EXPECT_EQ(letters, (std::vector<std::string>{"press 56 0x44", "press 38 0x4"}));
+    ASSERT_TRUE(session->keyUp(HeldModifier{modifier::control}));
+    waitFor("keys:, modifiers: 0x0");
+}
+
 TEST_F(UserHandsTest, escapeHeldForThreeTenthsOfASecondEndsTheRunWithinAPause) {
     const auto session = program().run();
     ASSERT_TRUE(session->stroke(0, 0));

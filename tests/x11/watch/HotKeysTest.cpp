@@ -90,6 +90,23 @@ TEST_F(X11HotKeysTest, aKeyTypedWhileTheHotKeyIsStillDownReachesTheApplication) 
                                 "down 0 a 0x0", "up 0", "released 1", "down 15 r 0x0", "up 15"}));
 }
 
+TEST_F(X11HotKeysTest, itsLetterReachesTheApplicationAlsoWhereTheReleaseHasNotBeenSeenYet) {
+    CoreClient application(world().display());
+    request(1, "record", 15);
+    for (int i = 1; i <= 20; ++i) {
+        slowly({{xkey::control, true}, {xkey::super, true}, {xkey::r, true}});
+        hands().release(xkey::super);
+        hands().release(xkey::control);
+        hands().release(xkey::r);
+        hands().tap(xkey::r);
+        hands().tap(xkey::a);
+        hands().finish();
+        ASSERT_EQ(delivered("down"), (Log{"down 15 r 0x0", "down 0 a 0x0"}));
+        ASSERT_EQ(application.presses(xkey::r), i);
+        ASSERT_EQ(application.presses(xkey::a), i);
+    }
+}
+
 TEST_F(X11HotKeysTest, theRepeatsOfAHotKeyAreNoLettersOnceItsModifiersAreUp) {
     CoreClient application(world().display());
     request(1, "record", 15);

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include <fstream>
+
+#include "desktop/DesktopTest.h"
+#include "display/NestedServers.h"
+#include "display/Typist.h"
+
+namespace {
+
+/// A person types the letter of a hot key as soon as the hot key is up.
+class SameLetterTest : public testing::TestWithParam<Typist::Gap> {
+  protected:
+    static constexpr int times = 15;
+
+    SameLetterTest() {
+        // One press is one key.
+        outputOf({"xset", "r", "off"}, {{"DISPLAY", servers.outerDisplay()}});
+        product.emplace(std::vector<std::string>{KEYRILL_PRODUCT}, desktop.options("product.log"));
+        EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
+    }
+
+    /// The modifiers come up last, as one hand does it, or first, as the other does it.
+    void command(std::uint8_t key, bool modifiersFirst) const {
+        typist.press({xkey::control, xkey::super, key});
+        if (modifiersFirst) {
+            typist.release({xkey::super, xkey::control, key});
+        } else {
+            typist.release({key, xkey::super, xkey::control});
+        }
+    }
+
+    NestedServers servers;
+    Desktop desktop{servers.display()};
+    Terminal terminal{desktop.display()};
+    Typist typist{servers, GetParam()};
+    std::optional<Child> product;
+};
+
+TEST_P(SameLetterTest, isTypedAndRecordedEachTime) {
+    std::string expected;
+    for (int i = 0; i < times; ++i) {
+        command(xkey::r, i % 2 == 0);
+        typist.tap(xkey::r);
+        typist.tap(xkey::a);
+        expected += "ra";
+        ASSERT_EQ(terminal.typed(expected.size()), expected);
+        command(xkey::s, i % 2 == 0);
+        typist.tap(xkey::s);
+        expected += "s";
+        ASSERT_EQ(terminal.typed(expected.size()), expected);
+        command(xkey::p, i % 2 == 0);
+        expected += "ra";
+        ASSERT_EQ(terminal.typed(expected.size()), expected);
+    }
+}
+
+constexpr std::array gaps{Typist::Gap(0), Typist::Gap(2), Typist::Gap(5), Typist::Gap(10), Typist::Gap(30)};
+
+INSTANTIATE_TEST_SUITE_P(EachGap, SameLetterTest, testing::ValuesIn(gaps),
+                         [](const auto& gap) { return nameOf(gap.param); });
+
+}  // namespace
