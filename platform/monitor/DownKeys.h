@@ -30,7 +30,7 @@ struct DownKey {
     ServerTime pressTime = 0;
 };
 
-/// The keys that are down. Keyboards are merged as the X server merges them for the applications: a key that
+/// The keys that are down. Keyboards are merged as the server merges them for the applications: a key that
 /// is down on two is down once, and up when the first of them lets go.
 class DownKeys {
   public:

@@ -34,7 +34,7 @@ struct KeyOrigin {
 
 /// Makes what is delivered of what the keyboards did: the meaning of each raw event, given all before it.
 ///
-/// Needs no X server. Events are given in the server's order.
+/// Needs no display. Events are given in the server's order.
 class KeyInterpreter {
   public:
     /// Both outlive this.

@@ -6,7 +6,7 @@
 
 #include "platform/keymap/KeyboardState.h"
 
-/// Milliseconds of the X server; they wrap around after 49 days.
+/// Milliseconds of the desktop's server; they wrap around after 49 days.
 using ServerTime = std::uint32_t;
 
 /// How much later `time` is than `other`, negative if earlier.
@@ -20,7 +20,7 @@ struct RawKey {
     bool press = false;
     /// The device that the key belongs to.
     std::uint16_t source = 0;
-    /// Whether a program pressed it, by way of XTEST.
+    /// Whether a program pressed it, and no hand at a keyboard.
     bool synthetic = false;
     ServerTime time = 0;
 

@@ -33,7 +33,7 @@ Step<> RunWaiter::heedUser() {
 
 Step<> RunWaiter::waitUntil(Clock::Time deadline) {
     for (;;) {
-        // Before the wait as well: xcb may have read what the descriptor no longer shows.
+        // Before the wait as well: a connection may have read what the descriptor no longer shows.
         if (auto heeded = heedUser(); !heeded) return heeded;
         if (m_clock.now() >= deadline) return {};
         awaitNews(deadline);

@@ -13,7 +13,7 @@
 /// a held Escape becomes a wish to stop.
 class RunWaiter final : public RunWait {
   public:
-    /// `server` is the descriptor of a connection to the X server, looked at for its end only.
+    /// `server` is the descriptor of a connection to the desktop's server, looked at for its end only.
     RunWaiter(const Clock& clock, RunWatch& watch, const RunInterrupt& interrupt, RunCompanion& companion,
               int server)
         : m_clock(clock), m_watch(watch), m_interrupt(interrupt), m_companion(companion), m_server(server) {}
@@ -23,7 +23,7 @@ class RunWaiter final : public RunWait {
 
     Step<> waitUntil(Clock::Time deadline) override;
 
-    /// Reads what the user has done, and halts if it means to stop. So does a lost X server, and a companion
+    /// Reads what the user has done, and halts if it means to stop. So does a lost server, and a companion
     /// that is lost for good.
     Step<> heedUser();
 

@@ -4,6 +4,7 @@
 #include "desktop/DesktopTest.h"
 #include "display/NestedServers.h"
 #include "display/Typist.h"
+#include "support/Programs.h"
 
 namespace {
 
@@ -15,7 +16,7 @@ class SameLetterTest : public testing::TestWithParam<Typist::Gap> {
     SameLetterTest() {
         // One press is one key.
         outputOf({"xset", "r", "off"}, {{"DISPLAY", servers.outerDisplay()}});
-        product.emplace(std::vector<std::string>{KEYRILL_PRODUCT}, desktop.options("product.log"));
+        product.emplace(std::vector<std::string>{programs::keyrill}, desktop.options("product.log"));
         EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     }
 

@@ -191,7 +191,7 @@ void EventOrder::deliverRepeats(const std::vector<KeyRepeat>& repeats) {
 }
 
 void EventOrder::noteHotKey(HotKeyId id) {
-    if (m_locked || !m_rules.hotKeys.cancelsPlayback(id)) return;
+    if (!m_rules.hotKeys.cancelsPlayback(id)) return;
     m_rules.cancel.cancel();
     dropPlays();
 }

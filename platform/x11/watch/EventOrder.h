@@ -42,8 +42,6 @@ class EventOrder {
     /// The same with all that the server has done until now.
     void catchUp();
 
-    /// While the screen is locked no hot key ends a playback.
-    void setLocked(bool locked) { m_locked = locked; }
     /// The user wishes to stop: what he asked for before, and is not delivered yet, is not played any more.
     void dropPlays();
 
@@ -77,7 +75,6 @@ class EventOrder {
     ServerTime m_lastTime = 0;
     /// When each key that was a hot key was released last; presses before are its repeats.
     std::map<std::uint8_t, ServerTime> m_hotKeyReleases;
-    bool m_locked = false;
 };
 
 }  // namespace x11

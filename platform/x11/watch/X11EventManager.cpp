@@ -19,7 +19,6 @@ int X11EventManager::fileDescriptor() const { return m_parts->fileDescriptor(); 
 void X11EventManager::dispatch() { m_parts->dispatch(); }
 bool X11EventManager::isBroken() const { return m_parts->isBroken(); }
 const std::optional<Error>& X11EventManager::problem() const { return m_parts->problem(); }
-void X11EventManager::setScreenLocked(bool locked) { m_parts->setScreenLocked(locked); }
 RunWatch& X11EventManager::runWatch() { return *m_parts; }
 const KeyboardState& X11EventManager::keyboard() const { return m_parts->keyboard(); }
 

@@ -43,9 +43,6 @@ class X11EventManager final : public EventSource, public EventMonitor, public Ho
     /// What does not work though the rest does: a server without RECORD shows no auto-repeats.
     const std::optional<Error>& problem() const;
 
-    /// While the screen is locked neither key presses nor hot keys are delivered, modifier changes go on.
-    void setScreenLocked(bool locked);
-
     /// A playback ends where that answers true: the screen is locked, as others tell.
     void endPlaysWhen(std::function<bool()> isLocked);
 

@@ -239,25 +239,12 @@ void X11EventManager::Parts::restoreHotKeysOf(std::uint8_t keycode) {
 
 void X11EventManager::Parts::setWithheld(bool withheld) {
     catchUp();
-    m_withheld = withheld;
-    mute();
-}
-
-void X11EventManager::Parts::setScreenLocked(bool locked) {
-    catchUp();
-    m_screenLocked = locked;
-    mute();
+    m_interpreter.setMuted(withheld);
 }
 
 void X11EventManager::Parts::setKeepsOwnStrokes(bool keeps) {
     catchUp();
     m_interpreter.setKeepsOwnStrokes(keeps);
-}
-
-void X11EventManager::Parts::mute() {
-    const bool muted = m_withheld || m_screenLocked;
-    m_interpreter.setMuted(muted);
-    m_order.setLocked(m_screenLocked);
 }
 
 }  // namespace x11

@@ -54,7 +54,6 @@ class X11EventManager::Parts final : public RunWatch {
 
     Deliverer& deliverer() { return m_deliverer; }
     void setWithheld(bool withheld);
-    void setScreenLocked(bool locked);
     void setKeepsOwnStrokes(bool keeps);
     void setRecording(bool recording);
     void observeHold(std::function<void(bool)> changed) { m_holdChanged = std::move(changed); }
@@ -80,7 +79,6 @@ class X11EventManager::Parts final : public RunWatch {
     void lookWhoHoldsTheKeyboard();
     bool waitsForVerdict() const;
     void catchUp();
-    void mute();
     void followKeymap();
     void watchRepeats();
     void giveUp();
@@ -110,8 +108,6 @@ class X11EventManager::Parts final : public RunWatch {
     std::function<bool()> m_isLocked;
     bool m_recording = false;
     bool m_toldHeld = false;
-    bool m_withheld = false;
-    bool m_screenLocked = false;
     bool m_running = false;
     bool m_gaveUp = false;
 };

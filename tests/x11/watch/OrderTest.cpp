@@ -142,15 +142,15 @@ TEST_F(OrderTest, aHandlerThatTurnsTheLoopIsNotEnteredAgain) {
     EXPECT_EQ(seen, (Log{"down 0 a 0x0", "up 0", "down 11 b 0x0", "up 11"}));
 }
 
-TEST_F(OrderTest, whileTheScreenIsLockedOnlyModifierChangesComeThrough) {
+TEST_F(OrderTest, whatIsPressedBeforeKeysAreWithheldAndAfterwardsIsDelivered) {
     ASSERT_EQ(request(2, "stop", 1).status, HotKeyStatus::registered);
     hands().tap(xkey::b);
     hands().finish();
-    world().manager().setScreenLocked(true);
+    world().monitor().setWithheld(true);
     hands().tap(xkey::a);
     hands().stroke({xkey::control, xkey::super, xkey::s});
     hands().finish();
-    world().manager().setScreenLocked(false);
+    world().monitor().setWithheld(false);
     hands().tap(xkey::a);
     EXPECT_EQ(delivered(), (Log{"down 11 b 0x0", "up 11", "mask 0x1000", "mask 0x1100", "mask 0x1000",
                                 "mask 0x0", "down 0 a 0x0", "up 0"}));
