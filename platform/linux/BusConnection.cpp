@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/BusConnection.h"
 
+#include <chrono>
 #include <limits>
 #include <memory>
 #include <utility>
 
 namespace {
+
+/// After the bus has died: in most sessions none comes again.
+constexpr std::chrono::milliseconds betweenRetries{2000};
 
 template <typename Function>
 void freeFunction(void* function) {
@@ -32,18 +36,34 @@ void onSignal(GDBusConnection* /*connection*/, const char* sender, const char* /
 BusConnection::BusConnection(BusLoop& loop, const std::string& address, std::function<void()> opened,
                              std::function<void()> ended)
     : m_loop(loop),
+      m_address(address),
       m_opened(std::move(opened)),
       m_ended(std::move(ended)),
-      m_isOpening(!address.empty()),
       m_cancellable(g_cancellable_new()) {
-    if (!m_isOpening) return;
+    if (!m_address.empty()) open();
+}
+
+void BusConnection::open() {
+    m_isOpening = true;
     constexpr auto flags = static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
                                                              G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
     const BusLoop::Context::Scope scope(m_loop);
-    g_dbus_connection_new_for_address(address.c_str(), flags, nullptr, m_cancellable.get(), onOpened, this);
+    g_dbus_connection_new_for_address(m_address.c_str(), flags, nullptr, m_cancellable.get(), onOpened, this);
+}
+
+void BusConnection::retryLater() {
+    m_retry.reset(g_timeout_source_new(static_cast<guint>(betweenRetries.count())));
+    g_source_set_callback(m_retry.get(), onRetry, this, nullptr);
+    g_source_attach(m_retry.get(), m_loop.context().get());
+}
+
+gboolean BusConnection::onRetry(void* self) {
+    static_cast<BusConnection*>(self)->open();
+    return G_SOURCE_REMOVE;
 }
 
 BusConnection::~BusConnection() {
+    if (m_retry) g_source_destroy(m_retry.get());
     g_cancellable_cancel(m_cancellable.get());
     while (m_isOpening) g_main_context_iteration(m_loop.context().get(), TRUE);
     if (!m_connection) return;
@@ -58,9 +78,11 @@ void BusConnection::onOpened(GObject* /*source*/, GAsyncResult* result, void* se
     connection.m_connection.reset(g_dbus_connection_new_for_address_finish(result, nullptr));
     if (g_cancellable_is_cancelled(connection.m_cancellable.get()) == TRUE) return;
     if (!connection.m_connection) {
+        if (connection.m_hasBeenOpen) connection.retryLater();
         connection.m_ended();
         return;
     }
+    connection.m_hasBeenOpen = true;
     g_dbus_connection_set_exit_on_close(connection.get(), FALSE);
     g_signal_connect(connection.get(), "closed", G_CALLBACK(onClosed), self);
     connection.m_opened();
@@ -73,6 +95,7 @@ void BusConnection::onClosed(GDBusConnection* /*connection*/, gboolean /*vanishe
     // Not within its own signal's last reference.
     const GObjectPointer<GDBusConnection> gone = std::move(connection.m_connection);
     g_signal_handlers_disconnect_by_data(gone.get(), self);
+    connection.retryLater();
     connection.m_ended();
 }
 

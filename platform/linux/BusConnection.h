@@ -7,15 +7,15 @@
 
 #include "platform/linux/BusContext.h"
 
-/// A connection of our own to a message bus, made in the background. It is not made again when it breaks, and
-/// the end of the bus does not end the process.
+/// A connection of our own to a message bus, made in the background, and made again when another bus comes in
+/// the place of one that has died. The end of the bus does not end the process.
 class BusConnection {
   public:
     using Answered = std::function<void(GDBusMessage* answer)>;
     using Heard = std::function<void(const char* sender, GVariant* parameters)>;
 
-    /// `opened` is called once it is there, `ended` once it is clear that there is none (any more): at most
-    /// one after the other, each from the loop. For an empty address neither is.
+    /// Both are called from the loop: `opened` when it is there, `ended` when it is clear that there is none
+    /// (any more). For an empty address neither is.
     BusConnection(BusLoop& loop, const std::string& address, std::function<void()> opened,
                   std::function<void()> ended);
     ~BusConnection();
@@ -45,11 +45,17 @@ class BusConnection {
   private:
     static void onOpened(GObject* source, GAsyncResult* result, void* self);
     static void onClosed(GDBusConnection* connection, gboolean vanished, GError* error, void* self);
+    static gboolean onRetry(void* self);
+    void open();
+    void retryLater();
 
     BusLoop& m_loop;
+    std::string m_address;
     std::function<void()> m_opened;
     std::function<void()> m_ended;
     bool m_isOpening = false;
+    bool m_hasBeenOpen = false;
+    std::unique_ptr<GSource, FreeBy<g_source_unref>> m_retry;
     GObjectPointer<GCancellable> m_cancellable;
     GObjectPointer<GDBusConnection> m_connection;
     std::vector<guint> m_heard;

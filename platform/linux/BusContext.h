@@ -3,6 +3,7 @@
 
 #include <gio/gio.h>
 
+#include "platform/Descriptor.h"
 #include "platform/linux/BusLoop.h"
 #include "platform/linux/GLibPointers.h"
 
@@ -18,7 +19,11 @@ class BusLoop::Context {
     Context();
 
     GMainContext* get() const { return m_context.get(); }
-    int fileDescriptor() const { return m_wakeUp; }
+    /// Readable when a bus has something to tell, or a timer of the context has run down.
+    int fileDescriptor() const { return m_files.number(); }
+
+    /// When the next timer of the context runs down, in milliseconds from now; below zero for none.
+    void setTimer(int milliseconds);
 
     /// While one lives, what is begun in this thread is answered in the loop.
     class Scope {
@@ -36,5 +41,7 @@ class BusLoop::Context {
 
   private:
     GMainContextPointer m_context;
-    int m_wakeUp = -1;
+    Descriptor m_timer;
+    Descriptor m_files;
+    bool m_isTimerSet = false;
 };

@@ -168,4 +168,23 @@ TEST_F(NotificationsTest, outliveTheBus) {
     loop.dispatch();
 }
 
+TEST_F(NotificationsTest, areShownAgainWhenAnotherBusHasComeInTheOthersPlace) {
+    BusNotifications notifications(loop, bus.address());
+    for (int buses = 1; buses <= 2; ++buses) {
+        {
+            const StandIn service(bus, {"plain"});
+            const std::string title = "on bus " + std::to_string(buses);
+            // Until the bus has been found again messages are dropped.
+            EXPECT_TRUE(turnUntil(loop, [&] {
+                notifications.post(title, "");
+                return service.heard().find(lineFor(title, "")) != std::string::npos;
+            })) << service.heard();
+        }
+        bus.die();
+        // Some time without any.
+        ASSERT_TRUE(turnUntil(loop, [this] { return !isReached(); }));
+        bus.comeBack();
+    }
+}
+
 }  // namespace

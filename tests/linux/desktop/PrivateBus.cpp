@@ -3,6 +3,7 @@
 
 #include <sys/stat.h>
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -19,15 +20,26 @@ void awaitLine(const std::string& log, Child& process) {
 
 PrivateBus::PrivateBus() {
     std::ofstream(m_folder.file("config"))
-        << "<busconfig><type>session</type><listen>unix:dir=" << m_folder.path() << "</listen>"
+        << "<busconfig><type>session</type><listen>unix:path=" << m_folder.file("bus") << "</listen>"
         << "<auth>EXTERNAL</auth><policy context='default'><allow send_destination='*' eavesdrop='true'/>"
         << "<allow eavesdrop='true'/><allow own='*'/></policy></busconfig>";
+    start();
+    // Without the identifier of this daemon, as in sessions: another one may come in its place.
+    m_address = "unix:path=" + m_folder.file("bus");
+}
+
+void PrivateBus::comeBack() {
+    m_daemon->wait();
+    std::filesystem::remove(m_folder.file("log"));
+    start();
+}
+
+void PrivateBus::start() {
     const std::string log = m_folder.file("log");
     m_daemon = std::make_unique<Child>(std::vector<std::string>{"dbus-daemon", "--nofork", "--print-address",
                                                                 "--config-file=" + m_folder.file("config")},
                                        Child::Options{.outputFile = log});
     awaitLine(log, *m_daemon);
-    m_address = contentOf(log).substr(0, contentOf(log).find('\n'));
 }
 
 StandIn::StandIn(const PrivateBus& bus, const std::vector<std::string>& services)

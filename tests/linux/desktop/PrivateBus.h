@@ -15,8 +15,12 @@ class PrivateBus {
     const std::string& address() const { return m_address; }
     /// As a crash would.
     void die() const { m_daemon->signal(9); }
+    /// Another one at the same address, after this one has died.
+    void comeBack();
 
   private:
+    void start();
+
     TemporaryFolder m_folder;
     std::unique_ptr<Child> m_daemon;
     std::string m_address;

@@ -115,6 +115,29 @@ TEST_F(ScreenLockTest, isFreedWhenTheBusEnds) {
     EXPECT_TRUE(becomes(lock, false));
 }
 
+TEST_F(ScreenLockTest, followsTheSaverAndTheSessionOfBusesThatHaveComeInTheOthersPlace) {
+    BusScreenLock lock(loop, both);
+    {
+        const StandIn saver(sessionBus, {"saver"});
+        saver.obey("active 1");
+        EXPECT_TRUE(becomes(lock, true));
+    }
+    sessionBus.die();
+    systemBus.die();
+    EXPECT_TRUE(becomes(lock, false));
+    sessionBus.comeBack();
+    systemBus.comeBack();
+    const StandIn saver(sessionBus, {"saver"});
+    const StandIn login(systemBus, {"login"});
+    EXPECT_TRUE(turnUntil(loop, [&] {
+        saver.obey("active 1");
+        return lock.isLocked();
+    }));
+    saver.obey("active 0");
+    EXPECT_TRUE(becomes(lock, false));
+    awaitSettled(lock, login);
+}
+
 TEST_F(ScreenLockTest, isFreeWithoutABus) {
     for (const std::string address : {"", "unix:path=/nowhere/bus", "nonsense"}) {
         const BusScreenLock lock(loop, {.session = address, .system = address});
