@@ -9,6 +9,7 @@
 #include "platform/AsciiText.h"
 #include "platform/Encoding.h"
 #include "platform/ScriptingService.h"
+#include "platform/linux/FileReplacement.h"
 #include "platform/linux/GLibPointers.h"
 #include "platform/linux/WholeFile.h"
 
@@ -21,11 +22,13 @@ std::string LocalMacroFiles::prepareFolder() {
     if (std::filesystem::is_directory(support, ignored)) {
         std::string folder = support + "/Keyrill";
         mkdir(folder.c_str(), 0777);
+        FileReplacement::sweep(folder);
         return folder;
     }
     std::string folder = m_dataFolder + "/keyrill";
     // For the user alone, as the standard asks.
     g_mkdir_with_parents(folder.c_str(), 0700);
+    FileReplacement::sweep(folder);
     return folder;
 }
 

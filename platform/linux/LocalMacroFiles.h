@@ -10,7 +10,8 @@ class LocalMacroFiles : public MacroFiles {
     LocalMacroFiles(std::string home, std::string dataFolder);
 
     /// "Library/Application Support/Keyrill" in the home folder where its parent exists, made if nothing is
-    /// there; else "keyrill" in the data folder, made with its parents.
+    /// there; else "keyrill" in the data folder, made with its parents. What killed writers left there is
+    /// removed.
     std::string prepareFolder() override;
     Result<std::string> read(const std::string& path) const override;
     /// An empty file is written for an empty text.

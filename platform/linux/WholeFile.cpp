@@ -12,7 +12,7 @@
 #include <utility>
 
 #include "platform/Descriptor.h"
-#include "platform/linux/GLibPointers.h"
+#include "platform/linux/FileReplacement.h"
 #include "platform/linux/RegularFile.h"
 
 namespace fs = std::filesystem;
@@ -48,20 +48,6 @@ Result<std::string> contentOf(const Descriptor& file, std::size_t most) {
 /// What another user's file is has to stay theirs; only root can see to that, and only root needs to.
 void keepOwner(const std::string& file, const struct stat& before) {
     if (before.st_uid != geteuid() && lchown(file.c_str(), before.st_uid, before.st_gid) != 0) return;
-}
-
-/// So that the new name is on the disk as well as the content. The content is safe without it.
-void syncFolderOf(const std::string& path) {
-    const Descriptor folder(open(fs::path(path).parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder) fsync(folder.number());
-}
-
-/// The name of a file that GLib writes first and renames then: NAME.XXXXXX.
-bool isLeftover(const std::string& candidate, const std::string& name) {
-    const std::string start = name + ".";
-    if (!candidate.starts_with(start) || candidate.size() != start.size() + 6) return false;
-    const auto isRandom = [](char letter) { return g_ascii_isupper(letter) || g_ascii_isdigit(letter); };
-    return std::all_of(candidate.end() - 6, candidate.end(), isRandom);
 }
 
 }  // namespace
@@ -103,28 +89,17 @@ Result<> WholeFile::write(std::string_view content, std::optional<mode_t> mode) 
         if (access(file.c_str(), W_OK) != 0) return cannot("written", {systemsCause(), ""});
         if (!mode) mode = before->st_mode & 07777U;
     }
-    constexpr auto flags =
-        static_cast<GFileSetContentsFlags>(G_FILE_SET_CONTENTS_CONSISTENT | G_FILE_SET_CONTENTS_DURABLE);
-    GError* error = nullptr;
-    if (g_file_set_contents_full(file.c_str(), content.data(), static_cast<gssize>(content.size()), flags,
-                                 static_cast<int>(mode.value_or(modeOfNewFiles)), &error) == FALSE) {
-        return cannot("written", {causeOf(*GFailure(error)), ""});
-    }
-    // The umask may have taken its share.
+    removeLeftovers();
+    FileReplacement replacement(file);
+    const auto finished = replacement.finish(content, mode.value_or(modeOfNewFiles));
+    if (!finished) return cannot("written", finished.error());
     if (before) keepOwner(file, *before);
-    if (mode) chmod(file.c_str(), *mode);
-    syncFolderOf(file);
+    // With the owner the system may have taken bits of it.
+    if (before) chmod(file.c_str(), *mode);
     return {};
 }
 
-void WholeFile::removeLeftovers() const {
-    const fs::path file = target();
-    std::error_code error;
-    for (const fs::directory_entry& entry : fs::directory_iterator(file.parent_path(), error)) {
-        const bool isFile = entry.symlink_status(error).type() == fs::file_type::regular;
-        if (isFile && isLeftover(entry.path().filename(), file.filename())) fs::remove(entry.path(), error);
-    }
-}
+void WholeFile::removeLeftovers() const { FileReplacement::sweep(fs::path(target()).parent_path()); }
 
 Error WholeFile::cannot(const std::string& verb, const Error& cause) const {
     const std::string access = verb == "read"

@@ -37,7 +37,7 @@ class WholeFile {
     /// all that is not a regular file, and for one that is write-protected.
     Result<> write(std::string_view content, std::optional<mode_t> mode = std::nullopt) const;
 
-    /// Removes what killed writers left beside the file. Not while another process writes it.
+    /// Removes what killed writers left beside the file; write() does it too.
     void removeLeftovers() const;
 
   private:

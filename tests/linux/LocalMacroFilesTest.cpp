@@ -36,6 +36,15 @@ TEST_F(LocalMacroFilesTest, makesTheFolderWhereItsParentIs) {
     EXPECT_EQ(files.prepareFolder(), support + "/Keyrill");
 }
 
+TEST_F(LocalMacroFilesTest, sweepsTheFolderOfWhatAKilledWriterLeft) {
+    const std::string folder = files.prepareFolder();
+    std::ofstream(folder + "/.keyrill-unfinished-aB3dE6") << "half of it";
+    std::ofstream(folder + "/a.keyrill.BACKUP") << "a user's";
+    EXPECT_EQ(files.prepareFolder(), folder);
+    EXPECT_FALSE(fs::exists(folder + "/.keyrill-unfinished-aB3dE6"));
+    EXPECT_TRUE(fs::exists(folder + "/a.keyrill.BACKUP"));
+}
+
 TEST_F(LocalMacroFilesTest, makesNothingWhereAnythingStandsInTheFoldersPlace) {
     fs::create_directories(support);
     std::ofstream(support + "/Keyrill") << "a file";

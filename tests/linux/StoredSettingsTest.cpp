@@ -197,11 +197,11 @@ TEST_F(StoredSettingsTest, followALinkThatStays) {
 TEST_F(StoredSettingsTest, areSweptOfWhatAKilledRunLeft) {
     write("[Settings]\na=1\n");
     const std::vector<std::string> kept = {"keyrill.conf", "keyrill.conf.backup", "keyrill.conf.OLD",
-                                           "keyrill.conf.bad-20200101-000000", "other.conf.A1B2C3"};
+                                           "keyrill.conf.BACKUP", "keyrill.conf.bad-20200101-000000"};
     for (const std::string& name : kept) {
         std::ofstream(folder.file("config/keyrill/" + name), std::ios::app) << "";
     }
-    for (const std::string name : {"keyrill.conf.A1B2C3", "keyrill.conf.ZZZZZZ"}) {
+    for (const std::string name : {".keyrill-unfinished-A1b2C3", ".keyrill-unfinished-zzzzzz"}) {
         std::ofstream(folder.file("config/keyrill/" + name)) << "[Settings]\na=";
     }
     EXPECT_EQ(settings().integer("a"), 1);

@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/WholeFile.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
+#include "platform/Descriptor.h"
 #include "support/Child.h"
 
 namespace fs = std::filesystem;
@@ -86,6 +93,63 @@ TEST_F(WholeFileTest, leavesNothingBesideItself) {
     EXPECT_TRUE(WholeFile(file).write("new"));
     EXPECT_TRUE(WholeFile(file).write("newer"));
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1);
+}
+
+/// Of a writer that was killed half-way; what users call similarly is theirs.
+TEST_F(WholeFileTest, isWrittenWithWhatKilledWritersLeftBesideItRemoved) {
+    const std::string unfinished = ".keyrill-unfinished-";
+    std::ofstream(folder.file(unfinished + "aB3dE6")) << "half of it";
+    fs::create_directory(folder.file(unfinished + "folder"));
+    fs::create_symlink("file", folder.file(unfinished + "alinkx"));
+    const std::vector<std::string> others = {"file.BACKUP",
+                                             "file.A1B2C3",
+                                             unfinished,
+                                             unfinished + "aB3dE67",
+                                             unfinished + "aB3dE.",
+                                             ".keyrill-unfinished",
+                                             "keyrill-unfinished-aB3dE6"};
+    for (const std::string& name : others) std::ofstream(folder.file(name)) << "a user's";
+    EXPECT_TRUE(WholeFile(file).write("new"));
+    EXPECT_FALSE(fs::exists(folder.file(unfinished + "aB3dE6")));
+    EXPECT_TRUE(fs::is_directory(folder.file(unfinished + "folder")));
+    EXPECT_TRUE(fs::is_symlink(folder.file(unfinished + "alinkx")));
+    for (const std::string& name : others) EXPECT_EQ(contentOf(folder.file(name)), "a user's") << name;
+}
+
+TEST_F(WholeFileTest, leavesWhatAnotherProcessWritesJustNow) {
+    const std::string unfinished = folder.file(".keyrill-unfinished-aB3dE6");
+    {
+        const Descriptor writer(open(unfinished.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
+        ASSERT_EQ(flock(writer.number(), LOCK_EX | LOCK_NB), 0);
+        EXPECT_TRUE(WholeFile(file).write("new"));
+        EXPECT_TRUE(fs::exists(unfinished));
+    }
+    EXPECT_TRUE(WholeFile(file).write("newer"));
+    EXPECT_FALSE(fs::exists(unfinished));
+}
+
+/// The system ends the writer within its second MiB (SIGXFSZ), where nothing is caught or undone.
+TEST_F(WholeFileTest, isTheOldOneAndAloneAfterAWriterWasKilledHalfWay) {
+    std::ofstream(file) << "old";
+    const auto names = [this] { return std::distance(fs::directory_iterator(folder.path()), {}); };
+    const pid_t writer = fork();
+    if (writer == 0) {
+        constexpr rlimit oneMebibyte{1U << 20U, 1U << 20U};
+        constexpr rlimit nothing{0, 0};
+        setrlimit(RLIMIT_FSIZE, &oneMebibyte);
+        setrlimit(RLIMIT_CORE, &nothing);
+        signal(SIGXFSZ, SIG_DFL);
+        static_cast<void>(WholeFile(file).write(std::string(std::size_t{2} << 20U, 'n')));
+        _exit(EXIT_SUCCESS);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(writer, &status, 0), writer);
+    ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ);
+    EXPECT_EQ(contentOf(file), "old");
+    EXPECT_EQ(names(), 2);
+    EXPECT_TRUE(WholeFile(file).write("new"));
+    EXPECT_EQ(contentOf(file), "new");
+    EXPECT_EQ(names(), 1);
 }
 
 TEST_F(WholeFileTest, tellsThatItIsNotThere) {
