@@ -112,6 +112,15 @@ bool Screen::isKeyboardGrabbed() const {
     return reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
 }
 
+bool Screen::isAnythingGrabbed() const {
+    const auto question =
+        xcb_grab_pointer(m_connection, 0, m_unmapped, 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
+                         XCB_WINDOW_NONE, XCB_CURSOR_NONE, XCB_CURRENT_TIME);
+    const x11::XReply<xcb_grab_pointer_reply_t> reply(
+        xcb_grab_pointer_reply(m_connection, question, nullptr));
+    return reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED || isKeyboardGrabbed();
+}
+
 bool Screen::isOwned(const std::string& selection) const {
     const auto question = xcb_get_selection_owner(m_connection, m_connection.atom(selection));
     const x11::XReply<xcb_get_selection_owner_reply_t> reply(

@@ -51,6 +51,8 @@ class Screen {
     std::uint32_t activeWindow() const;
     /// Whether a client has all keys for itself, as open menus have. Nobody notices the question.
     bool isKeyboardGrabbed() const;
+    /// Whether a client has all keys or the mouse for itself.
+    bool isAnythingGrabbed() const;
     /// Whether a selection has an owner; trays and compositors are found by theirs.
     bool isOwned(const std::string& selection) const;
 

@@ -28,6 +28,10 @@ std::optional<ScreenWindow> StatusMenuClicks::icon() const {
 }
 
 void StatusMenuClicks::open() {
+    // A menu that is closing takes the click that is meant for the next one.
+    if (!eventually([this] { return !isOpen() && !m_desktop.screen().isAnythingGrabbed(); })) {
+        throw std::runtime_error("something has the mouse or the keyboard for itself");
+    }
     std::optional<ScreenWindow> clicked;
     std::optional<ScreenWindow> opened;
     // Trays move their icons while they settle; a click beside is one for nobody.
