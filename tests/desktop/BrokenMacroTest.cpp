@@ -42,6 +42,13 @@ class BrokenMacroTest : public DesktopTest {
         EXPECT_TRUE(eventually([&] { return count("'" + title) == number; })) << messages();
     }
 
+    /// The service gets them in order, so that none comes after the one that is told of a new start.
+    void awaitAllMessages() const {
+        std::ofstream(desktop.file("last.keyrill")) << "beep\n";
+        EXPECT_TRUE(desktop.succeeds({programs::keyrill, desktop.file("last.keyrill")}));
+        awaitMessages("\"last.keyrill\" is loaded", 1);
+    }
+
     const Terminal terminal{desktop.display()};
 
   private:
@@ -73,6 +80,8 @@ TEST_F(BrokenMacroTest, isToldOnceHoweverOftenAPlayCommandPlaysIt) {
     awaitMessages("The macro was not played to its end', 'Line 2: Can’t divide 1 by zero.',", 2);
     press("period");
     EXPECT_EQ(terminal.typed(5), "aaaa.");
+    awaitAllMessages();
+    EXPECT_EQ(count("'The macro was not played to its end"), 2U) << messages();
 }
 
 }  // namespace

@@ -96,10 +96,13 @@ class TypedMarkerTest : public DesktopTest {
         EXPECT_EQ(receiver.typed(marker.size()), expected);
     }
     /// As a screen locker does, which holds the keyboard.
-    void typeIntoLocker() const {
+    void typeIntoLocker(bool holdsMouse = false) const {
         CoreClient locker(desktop.display());
+        if (holdsMouse) locker.grabPointer();
         locker.grabKeyboard();
         typeMarker();
+        // Longer than a menu is let pass for one.
+        if (holdsMouse) Typist(Hands(desktop.display()), Typist::Gap(0)).hold(std::chrono::milliseconds(500));
         EXPECT_TRUE(eventually([&] { return locker.events().size() == 2 * marker.size(); }));
     }
     /// When the program answers to a hot key it has seen all keys before that.
@@ -136,6 +139,14 @@ INSTANTIATE_TEST_SUITE_P(TypedInto, KeptSecretsTest,
                                          Typing{"terminalAtOnce", Receiver::terminal, true},
                                          Typing{"lockerAtOnce", Receiver::locker, true}),
                          [](const auto& typing) { return typing.param.name; });
+
+/// One that holds the mouse as well, which tells it from a menu, and that people look at before they type.
+TEST_F(TypedMarkerTest, isNowhereThoughItWasTypedIntoALockerWhileARecordingLasts) {
+    startRecording();
+    typeIntoLocker(true);
+    endRecording();
+    EXPECT_EQ(tracesIn(ProcessMemory(keyrill.pid())), "");
+}
 
 /// The judge himself: a macro keeps what was typed for as long as it is wanted.
 TEST_F(TypedMarkerTest, isFoundWhereItWasRecorded) {

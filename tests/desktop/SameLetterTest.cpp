@@ -11,7 +11,7 @@ namespace {
 /// A person types the letter of a hot key as soon as the hot key is up.
 class SameLetterTest : public testing::TestWithParam<Typist::Gap> {
   protected:
-    static constexpr int times = 15;
+    static constexpr int times = 8;
 
     SameLetterTest() {
         // One press is one key.
@@ -55,7 +55,8 @@ TEST_P(SameLetterTest, isTypedAndRecordedEachTime) {
     }
 }
 
-constexpr std::array gaps{Typist::Gap(0), Typist::Gap(2), Typist::Gap(5), Typist::Gap(10), Typist::Gap(30)};
+// Less is what servers inside a window make of a key that repeats.
+constexpr std::array gaps{Typist::Gap(2), Typist::Gap(5), Typist::Gap(10), Typist::Gap(30)};
 
 INSTANTIATE_TEST_SUITE_P(EachGap, SameLetterTest, testing::ValuesIn(gaps),
                          [](const auto& gap) { return nameOf(gap.param); });
