@@ -69,8 +69,12 @@ Keymap::Keymap(XkbKeymapPointer keymap)
     : m_keymap(std::move(keymap)),
       m_keys(get()),
       m_masks(findModifierMasks(get(), m_keys)),
-      m_scratch(xkb_state_new(get())),
-      m_fingerprint(fingerprintOf(get())) {}
+      m_scratch(xkb_state_new(get())) {}
+
+std::size_t Keymap::fingerprint() const {
+    if (!m_fingerprint) m_fingerprint = fingerprintOf(get());
+    return *m_fingerprint;
+}
 
 std::uint8_t Keymap::keycodeFor(std::uint32_t keyCode) const {
     const auto evdev = keycode::evdevFor(keyCode);

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 #include "platform/Result.h"
 #include "platform/keymap/ModifierKeys.h"
@@ -37,13 +38,13 @@ class Keymap {
     /// code. Fails where no key of the keymap holds one of them; the message names it.
     Result<xkb_mod_mask_t> real(std::uint32_t modifiers, std::uint32_t keyCode = 0) const;
 
-    /// Equal for keymaps of equal content.
-    std::size_t fingerprint() const { return m_fingerprint; }
+    /// Equal for keymaps of equal content. Costs more than all else here, so it is made when it is asked for.
+    std::size_t fingerprint() const;
 
   private:
     XkbKeymapPointer m_keymap;
     ModifierKeys m_keys;
     ModifierMasks m_masks;
     XkbStatePointer m_scratch;
-    std::size_t m_fingerprint;
+    mutable std::optional<std::size_t> m_fingerprint;
 };
