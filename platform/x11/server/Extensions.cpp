@@ -21,11 +21,26 @@ Error missing(const std::string& needed, const std::string& found) {
                  "Use a newer X server, or switch the extension on in its settings."};
 }
 
+xcb_extension_t& protocolOf(Extension extension) {
+    switch (extension) {
+        case Extension::input:
+            return xcb_input_id;
+        case Extension::keyboard:
+            return xcb_xkb_id;
+        case Extension::test:
+            break;
+    }
+    return xcb_test_id;
+}
+
 Error inputMissing(const std::string& found) { return missing("XInput 2.2 or newer", found); }
 
 }  // namespace
 
 Result<> Extensions::use(std::initializer_list<Extension> needed) const {
+    // All are asked for before the first answer is waited for.
+    for (const Extension extension : needed)
+        xcb_prefetch_extension_data(m_connection, &protocolOf(extension));
     for (const Extension extension : needed) {
         Result<> used = use(extension);
         if (!used) return used;

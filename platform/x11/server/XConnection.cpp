@@ -2,6 +2,8 @@
 #include "platform/x11/server/XConnection.h"
 
 #include <cstdlib>
+#include <cstring>
+#include <vector>
 
 namespace x11 {
 
@@ -41,11 +43,16 @@ void XConnection::roundTrip() const {
         xcb_get_input_focus_reply(get(), xcb_get_input_focus(get()), nullptr));
 }
 
-xcb_atom_t XConnection::atom(const std::string& name) const {
-    const auto length = static_cast<std::uint16_t>(name.size());
-    const XReply<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(get(), xcb_intern_atom(get(), 0, length, name.c_str()), nullptr));
-    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+void XConnection::findAtoms(std::span<const char* const> names, std::span<xcb_atom_t> found) const {
+    std::vector<xcb_intern_atom_cookie_t> questions;
+    for (const char* name : names) {
+        const auto length = static_cast<std::uint16_t>(std::strlen(name));
+        questions.push_back(xcb_intern_atom(get(), 0, length, name));
+    }
+    for (std::size_t i = 0; i < questions.size(); ++i) {
+        const XReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(get(), questions[i], nullptr));
+        found[i] = reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+    }
 }
 
 xcb_window_t XConnection::ownerOf(xcb_atom_t selection) const {

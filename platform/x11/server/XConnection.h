@@ -3,7 +3,9 @@
 
 #include <xcb/xcb.h>
 
+#include <array>
 #include <memory>
+#include <span>
 #include <string>
 
 #include "platform/Result.h"
@@ -38,7 +40,14 @@ class XConnection {
     void roundTrip() const;
 
     /// The atom of a name, made if missing.
-    xcb_atom_t atom(const std::string& name) const;
+    xcb_atom_t atom(const std::string& name) const { return atoms(std::array{name.c_str()}).front(); }
+    /// Those of several names, in one round trip.
+    template <std::size_t Count>
+    std::array<xcb_atom_t, Count> atoms(const std::array<const char*, Count>& names) const {
+        std::array<xcb_atom_t, Count> found{};
+        findAtoms(names, found);
+        return found;
+    }
     /// The window that stands for a selection's owner; XCB_WINDOW_NONE if it has none.
     xcb_window_t ownerOf(xcb_atom_t selection) const;
 
@@ -49,6 +58,8 @@ class XConnection {
     using Handle = std::unique_ptr<xcb_connection_t, Disconnect>;
 
     XConnection(Handle connection, xcb_window_t root);
+
+    void findAtoms(std::span<const char* const> names, std::span<xcb_atom_t> found) const;
 
     Handle m_connection;
     xcb_window_t m_root;

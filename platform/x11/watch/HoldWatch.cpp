@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "platform/x11/server/Event.h"
@@ -39,18 +40,13 @@ Result<std::unique_ptr<HoldWatch>> HoldWatch::open(const std::string& display, c
 }
 
 HoldWatch::HoldWatch(XConnection connection, const XConnection& asker)
-    : m_connection(std::move(connection)),
-      m_asker(asker),
-      m_question(asker),
-      m_type(m_connection.atom("_NET_WM_WINDOW_TYPE")),
-      m_process(m_connection.atom("_NET_WM_PID")),
-      m_otherTypes(atomsOf({"_NET_WM_WINDOW_TYPE_TOOLTIP", "_NET_WM_WINDOW_TYPE_NOTIFICATION",
-                            "_NET_WM_WINDOW_TYPE_DOCK", "_NET_WM_WINDOW_TYPE_DESKTOP"})) {}
-
-std::vector<xcb_atom_t> HoldWatch::atomsOf(std::initializer_list<const char*> names) const {
-    std::vector<xcb_atom_t> atoms;
-    for (const char* name : names) atoms.push_back(m_connection.atom(name));
-    return atoms;
+    : m_connection(std::move(connection)), m_asker(asker), m_question(asker) {
+    const auto atoms = m_connection.atoms(std::array{
+        "_NET_WM_WINDOW_TYPE", "_NET_WM_PID", "_NET_WM_WINDOW_TYPE_TOOLTIP",
+        "_NET_WM_WINDOW_TYPE_NOTIFICATION", "_NET_WM_WINDOW_TYPE_DOCK", "_NET_WM_WINDOW_TYPE_DESKTOP"});
+    m_type = atoms[0];
+    m_process = atoms[1];
+    m_otherTypes.assign(atoms.begin() + 2, atoms.end());
 }
 
 void HoldWatch::follow(bool follows) {

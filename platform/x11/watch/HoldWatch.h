@@ -38,13 +38,12 @@ class HoldWatch {
     void readEvents(Clock::Time now);
     void addSigns(HoldSigns& signs) const;
     bool isNoMenu(xcb_window_t window) const;
-    std::vector<xcb_atom_t> atomsOf(std::initializer_list<const char*> names) const;
 
     XConnection m_connection;
     const XConnection& m_asker;
     HiddenWindow m_question;
-    xcb_atom_t m_type;
-    xcb_atom_t m_process;
+    xcb_atom_t m_type = XCB_ATOM_NONE;
+    xcb_atom_t m_process = XCB_ATOM_NONE;
     std::vector<xcb_atom_t> m_otherTypes;
     std::vector<Candidate> m_candidates;
     std::optional<Clock::Time> m_since;

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/windows/X11DockingTray.h"
 
+#include <array>
 #include <utility>
 
 namespace x11 {
 
-X11DockingTray::X11DockingTray(XConnection connection)
-    : m_connection(std::move(connection)),
-      m_selection(m_connection.atom("_NET_SYSTEM_TRAY_S0")),
-      m_manager(m_connection.atom("MANAGER")) {
+X11DockingTray::X11DockingTray(XConnection connection) : m_connection(std::move(connection)) {
+    const auto atoms = m_connection.atoms(std::array{"_NET_SYSTEM_TRAY_S0", "MANAGER"});
+    m_selection = atoms[0];
+    m_manager = atoms[1];
     const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     xcb_change_window_attributes(m_connection, m_connection.root(), XCB_CW_EVENT_MASK, &mask);
     findOwner();

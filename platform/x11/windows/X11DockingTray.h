@@ -25,8 +25,8 @@ class X11DockingTray final : public DockingTray, public EventSource {
     bool concernsTray(const Event& event) const;
 
     XConnection m_connection;
-    xcb_atom_t m_selection;
-    xcb_atom_t m_manager;
+    xcb_atom_t m_selection = XCB_ATOM_NONE;
+    xcb_atom_t m_manager = XCB_ATOM_NONE;
     xcb_window_t m_owner = XCB_WINDOW_NONE;
     std::function<void()> m_changed;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/windows/X11Windows.h"
 
+#include <array>
 #include <span>
 #include <utility>
 
@@ -19,10 +20,13 @@ X11Windows::X11Windows(XConnection connection, Clock& clock)
       m_focus(m_connection),
       m_tree(m_connection),
       m_serverClock(m_connection),
-      m_clock(clock),
-      m_managerCheck(m_connection.atom("_NET_SUPPORTING_WM_CHECK")),
-      m_userTime(m_connection.atom("_NET_WM_USER_TIME")),
-      m_userTimeWindow(m_connection.atom("_NET_WM_USER_TIME_WINDOW")) {}
+      m_clock(clock) {
+    const auto atoms = m_connection.atoms(
+        std::array{"_NET_SUPPORTING_WM_CHECK", "_NET_WM_USER_TIME", "_NET_WM_USER_TIME_WINDOW"});
+    m_managerCheck = atoms[0];
+    m_userTime = atoms[1];
+    m_userTimeWindow = atoms[2];
+}
 
 void X11Windows::activate(WindowId window, std::uint32_t userTime) {
     m_focusBefore = m_focus.holder();

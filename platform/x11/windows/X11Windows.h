@@ -32,9 +32,9 @@ class X11Windows : public Windows {
     WindowTree m_tree;
     ServerClock m_serverClock;
     Clock& m_clock;
-    xcb_atom_t m_managerCheck;
-    xcb_atom_t m_userTime;
-    xcb_atom_t m_userTimeWindow;
+    xcb_atom_t m_managerCheck = XCB_ATOM_NONE;
+    xcb_atom_t m_userTime = XCB_ATOM_NONE;
+    xcb_atom_t m_userTimeWindow = XCB_ATOM_NONE;
     xcb_window_t m_focusBefore = XCB_WINDOW_NONE;
 };
 
