@@ -24,7 +24,8 @@ StatusNotifierHosts::StatusNotifierHosts()
 }
 
 void StatusNotifierHosts::connectSignal(const QString& name) {
-    m_bus.connect(service, path, service, name, this, SLOT(ask()));
+    // From whomever: by the service's name the toolkit would wait for an answer to who that is.
+    m_bus.connect(QString(), path, service, name, this, SLOT(ask()));
 }
 
 void StatusNotifierHosts::ask() {
