@@ -45,9 +45,11 @@ class Shaper {
                      .modifiers = m_keymap.reported(m_modifiers & commandMask())};
         const bool keepsShift = keypad ? !digit : key.modifiers != 0;
         key.modifiers |= keepsShift ? heldShift() : shapeBits(lock, key.character);
-        // The text of a macro has no word for the lock.
-        if ((key.modifiers & modifier::capsLock) != 0 && !isUpperCase(key.character)) {
+        // The text of a macro has no word for the lock, only the Shift that types the same.
+        if ((key.modifiers & modifier::capsLock) != 0 && !shiftThatTypesTheSame(lock)) {
             key.keyCode |= keycode::capsLock;
+            // With one of A to Z the mask would be that Shift.
+            if (isUpperCase(key.character)) key.modifiers &= ~modifier::capsLock;
         }
         if (key.modifiers == 0 && modifierHeld) key.modifiers = modifier::functionKey;
         return key;

@@ -23,7 +23,8 @@ struct TypedKey {
 /// - With Control, Alt or Super the combination counts, not the letter: Shift is what it is, locks are left
 ///   out.
 /// - Otherwise Shift is added or dropped where Caps Lock turned a letter round; for A to Z Caps Lock itself
-///   stands in for the Shift that is added. It also stands where nothing but the lock makes the letter.
+///   stands in for the Shift that is added. Where nothing but the lock makes the letter, the lock goes into
+///   the code, and into the mask of other letters than A to Z.
 /// - A keypad digit that was typed keeps its code, which always means the digit; without Num Lock the key is
 ///   reported as the navigation key that was typed. The five, for which there is none, keeps its code always.
 /// - Level choosers go into the code.

@@ -70,6 +70,9 @@ TEST(MaskShaperTest, whatCapsLockAloneMakesCarriesTheLock) {
     check(*namedKeymap("fr"), {{xkey::two, xmask::capsLock, {0x800 + 19, 0, 0x400}},
                                {xkey::two, xmask::shift, {19, '2', 0x200}},
                                {xkey::q, xmask::capsLock, {12, 'A', 0x400}}});
+    // An S is made of the long one on the third level, whose Shift types another sign.
+    constexpr std::uint8_t w = 25;
+    check(*namedKeymap("be"), {{w, xmask::capsLock | xmask::levelThree, {0x800 + 0x200 + 13, 'S', 0}}});
 }
 
 TEST(MaskShaperTest, theKeypadIsWhatWasTyped) {
