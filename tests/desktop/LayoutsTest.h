@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,8 @@ struct NamedLayout {
 };
 
 std::string nameOf(const NamedLayout& layout);
+/// As the test is called.
+void PrintTo(const NamedLayout& layout, std::ostream* stream);
 
 /// What people type on the keyboard of a layout, every key of its letters and signs on every level, dead keys
 /// with letters behind them, is recorded and played, while locks are on and off: the terminal gets it twice.
