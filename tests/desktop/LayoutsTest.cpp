@@ -164,8 +164,8 @@ void LayoutsTest::expectTheSame(std::uint8_t locks, std::uint8_t locksOfPlay) {
         const std::string typed = m_terminal.typed();
         return typed.size() > m_typed.size() && typed.ends_with(end);
     };
-    // Terminals look for the fonts of rare signs.
-    ASSERT_TRUE(eventually(hasAll, std::chrono::seconds(40))) << m_terminal.typed();
+    // Terminals look for the fonts of rare signs, each for a while.
+    ASSERT_TRUE(eventually(hasAll, std::chrono::seconds(120))) << m_terminal.typed();
     const std::string typed = m_terminal.typed().substr(m_typed.size());
     hotKey(xkey::s);
     EXPECT_GT(typed.size(), typingKeys().size());
