@@ -118,7 +118,7 @@ void measure(const Kind& kind) {
         const std::string source = kind.make(static_cast<std::size_t>(size * megabyte));
         std::array<char, 64> what{};
         std::snprintf(what.data(), what.size(), "compile %.1f MB, %s", size, kind.name);
-        printRow({what.data(), milliseconds(source, size > 1 ? 8 : 20), "allowed", allowedForMegabyte * size,
+        printRow({what.data(), milliseconds(source, size > 1 ? 3 : 7), "allowed", allowedForMegabyte * size,
                   "ms", "ratio <= 1"});
     }
 }

@@ -33,7 +33,7 @@ struct Work {
 
 constexpr std::array<Work, 3> works{{
     {"append to a text", "set t to \"\"\nrepeat COUNT times\nset t to t & \"x\"\nend repeat\nlength of t",
-     "my $t=''; $t.='x' for 1..COUNT; my $r=length $t;"},
+     "my $t=q(); $t.=q(x) for 1..COUNT; my $r=length $t;"},
     {"character i of a text with accents",
      "set t to \"\"\nrepeat COUNT times\nset t to t & \"é\"\nend repeat\nrepeat with i from 1 to COUNT\n"
      "set c to character i of t\nend repeat\nc",
