@@ -6,6 +6,7 @@
 
 #include "app/program/ActionCall.h"
 #include "app/program/Backends.h"
+#include "app/program/Check.h"
 #include "app/program/CommandLine.h"
 #include "app/program/Program.h"
 #include "app/program/ProgramInstance.h"
@@ -42,6 +43,7 @@ int main(int argc, char* argv[]) {
     const CommandLine wishes = readCommandLine({argv + std::min(argc, 1), argv + argc});
     if (wishes.wish == CommandLine::Wish::help) return print(usage(sessionKinds()));
     if (wishes.wish == CommandLine::Wish::version) return print("keyrill " KEYRILL_VERSION "\n");
+    if (wishes.wish == CommandLine::Wish::check) return checkSession(wishes);
     if (wishes.action) return askForAction(wishes);
     const auto session = enterSession(wishes.session);
     if (!session) {

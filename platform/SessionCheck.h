@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/Capabilities.h"
 #include "platform/Result.h"
 
-/// Whether the program can do its work in the session that it was started in. Asked at start-up.
+/// Whether the program can do its work in the session that it was started in. Asked at start-up, and by those
+/// who want to know what works. Nothing of the session is changed or taken by a question.
 class SessionCheck {
   public:
     virtual ~SessionCheck() = default;
@@ -15,6 +17,7 @@ class SessionCheck {
     /// Whether the session lets the program see and press keys; the error names what is missing.
     virtual Result<> access() const = 0;
 
-    /// Whether there are windows that the program neither sees nor reaches (X11 within a Wayland session).
-    virtual bool seesOnlySomeWindows() const = 0;
+    /// What works here, as of now.
+    virtual SessionCapabilities capabilities() const = 0;
+    virtual SessionDetails details() const = 0;
 };

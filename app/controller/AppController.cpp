@@ -145,7 +145,7 @@ void AppController::tellShortcoming() {
 }
 
 QString AppController::sessionHint() const {
-    if (!m_services.sessionCheck.seesOnlySomeWindows()) return {};
+    if (m_services.sessionCheck.capabilities().recording.lack != Lack::nativeWindows) return {};
     return tr(
         "In this session Keyrill sees and reaches only the windows of X11 programs. The manual says more "
         "under \"Configuration\".");
@@ -170,6 +170,7 @@ void AppController::followGate() {
 void AppController::noteHotKey(HotKeyId id, const HotKeyState& state) {
     m_statusNotice.noteHotKey(id, state);
     m_preferencesDesk.updateNotices();
+    emit hotKeysChanged();
 }
 
 std::vector<QWidget*> AppController::ordinaryWindows() const {

@@ -143,6 +143,9 @@ class AppController : public QObject, public SharedController {
     std::int32_t processorClockSpeed() const;
     std::uint32_t countProcessors() const;
 
+    /// The names in the settings of those hot keys that the program has.
+    std::vector<std::string> registeredHotKeys() const;
+
     // Scripts
 
     /// How scripts ask and tell.
@@ -151,6 +154,8 @@ class AppController : public QObject, public SharedController {
   signals:
     /// The start-up is through, and the session is one to work in: from now on commands can be given.
     void started();
+    /// registeredHotKeys() may have become others.
+    void hotKeysChanged();
 
   private:
     Services& m_services;

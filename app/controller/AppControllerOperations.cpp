@@ -16,6 +16,7 @@
 #include "app/tray/MacroMenuItem.h"
 #include "core/MacroManager.h"
 #include "engine/AppleScript.h"
+#include "engine/HotKeyCenter.h"
 #include "engine/KeyRecorder.h"
 #include "engine/MacroPlayer.h"
 #include "platform/KeyInjector.h"
@@ -106,6 +107,16 @@ void AppController::openMacroFile(const QString& path) {
 }
 
 void AppController::showControlWindow() { statusItem.showWindow(); }
+
+std::vector<std::string> AppController::registeredHotKeys() const {
+    std::vector<std::string> names;
+    for (const HotKeyRow& row : hotKeyRows()) {
+        const HotKeyStatus status = m_services.hotKeys.state(row.id).status;
+        if (status == HotKeyStatus::registered || status == HotKeyStatus::changed)
+            names.emplace_back(row.name);
+    }
+    return names;
+}
 
 /// One that types is ended by who asks it, in each of its steps; these are those that do not.
 bool AppController::endPlaybackThatAsksOrWaits() {

@@ -16,6 +16,8 @@ void takeOption(CommandLine& line, const std::string& option) {
         line.wish = CommandLine::Wish::help;
     } else if (option == "--version") {
         line.wish = CommandLine::Wish::version;
+    } else if (option == "--check") {
+        line.wish = CommandLine::Wish::check;
     } else if (option.starts_with(sessionOption) && option.size() > sessionOption.size()) {
         line.session = option.substr(sessionOption.size());
     } else if (option.starts_with(actionOption)) {
@@ -74,6 +76,7 @@ std::string usage(std::span<const SessionKind> kinds) {
         "Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs\n"
         "       keyrill [--session=NAME] --action=ACTION   ask the one that runs to act; starts it if need "
         "be\n"
+        "       keyrill [--session=NAME] --check   print what works in this session, and what to do\n"
         "       keyrill --help | --version\n"
         "ACTION is one of these: " +
         actionNames() +

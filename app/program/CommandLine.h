@@ -16,6 +16,7 @@ struct CommandLine {
         start,
         help,     ///< print how the program is called, and end
         version,  ///< print the version, and end
+        check,    ///< print what works in this session, and end
     };
     Wish wish = Wish::start;
     /// The kind of session, empty to find out.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "platform/Descriptor.h"
@@ -15,6 +16,11 @@ class InstanceLock {
 
     /// False while another process has the lock.
     bool isOurs() const { return m_isOurs; }
+
+    /// What others may know of the one that has the lock; replaces what was noted before.
+    void note(const std::string& text) const;
+    /// What another process that has the lock has noted; empty if none has it.
+    static std::optional<std::string> noteOfOther(const std::string& folder, const std::string& display);
 
   private:
     Descriptor m_file;

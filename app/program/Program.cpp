@@ -54,6 +54,8 @@ void Program::follow(ProgramInstance& instance) {
     QObject::connect(&m_controller, &AppController::started, &instance, [this, &instance] {
         instance.serve([this](const ActionRow& action) { return m_controller.carryOut(action); });
     });
+    QObject::connect(&m_controller, &AppController::hotKeysChanged, &instance,
+                     [this, &instance] { instance.noteHotKeys(m_controller.registeredHotKeys()); });
     m_backends.endPlaysWhen([&instance] { return instance.endsPlayback(); });
 }
 

@@ -133,6 +133,12 @@ void ProgramInstance::serve(CarryOut carryOut) {
     for (const Request& request : std::exchange(m_early, {})) answer(request);
 }
 
+void ProgramInstance::noteHotKeys(const std::vector<std::string>& names) {
+    std::string note;
+    for (const std::string& name : names) note += name + ' ';
+    if (m_lock) m_lock->note(note);
+}
+
 bool ProgramInstance::endsPlayback() {
     if (!m_object->isStopAsked()) return false;
     m_hasEndedPlayback = true;

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "platform/Result.h"
@@ -45,6 +46,9 @@ class ProgramInstance : public QObject {
 
     /// Who carries out actions from now on; those that were asked for before wait until then.
     void serve(CarryOut carryOut);
+    /// Lets others know which hot keys this program has, by their names in the settings.
+    void noteHotKeys(const std::vector<std::string>& names);
+
     /// Whether a playback has to end, because somebody has asked for a stop.
     bool endsPlayback();
 

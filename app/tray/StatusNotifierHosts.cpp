@@ -3,13 +3,32 @@
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include <QDBusReply>
 #include <QDBusVariant>
 
 namespace {
 const QString service = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString path = QStringLiteral("/StatusNotifierWatcher");
+constexpr int patienceInMilliseconds = 500;
+
+QDBusMessage questionForHosts() {
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    question << service << QStringLiteral("IsStatusNotifierHostRegistered");
+    // A question is no reason to start a watcher.
+    question.setAutoStartService(false);
+    return question;
+}
+
+bool isYes(const QDBusReply<QDBusVariant>& answer) {
+    return answer.isValid() && answer.value().variant().toBool();
+}
+
 }  // namespace
+
+bool hasStatusNotifierHost(const QDBusConnection& bus) {
+    return bus.isConnected() && isYes(bus.call(questionForHosts(), QDBus::Block, patienceInMilliseconds));
+}
 
 StatusNotifierHosts::StatusNotifierHosts()
     : m_bus(QDBusConnection::sessionBus()),
@@ -29,16 +48,10 @@ void StatusNotifierHosts::connectSignal(const QString& name) {
 }
 
 void StatusNotifierHosts::ask() {
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    question << service << QStringLiteral("IsStatusNotifierHostRegistered");
-    // A question is no reason to start a watcher.
-    question.setAutoStartService(false);
-    auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
+    auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(questionForHosts()), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        const QDBusPendingReply<QDBusVariant> reply = *answer;
         answer->deleteLater();
-        setPresent(reply.isValid() && reply.value().variant().toBool());
+        setPresent(isYes(answer->reply()));
     });
 }
 

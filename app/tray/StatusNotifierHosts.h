@@ -5,6 +5,9 @@
 #include <QDBusServiceWatcher>
 #include <QObject>
 
+/// Whether there is one now; waits for the answer, half a second at most.
+bool hasStatusNotifierHost(const QDBusConnection& bus);
+
 /// Watches the session bus for a host of status notifier items (StatusNotifierItem standard,
 /// "StatusNotifierWatcher"), without a blocking call. No session bus: no host.
 ///

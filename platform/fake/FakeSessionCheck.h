@@ -20,14 +20,28 @@ class FakeSessionCheck : public SessionCheck {
         m_journal.note("checkAccess");
         return resultOf(m_accessError);
     }
-    bool seesOnlySomeWindows() const override { return m_seesOnlySomeWindows; }
+    SessionCapabilities capabilities() const override { return m_capabilities; }
+    SessionDetails details() const override { return {.display = ":0"}; }
 
     /// From now on.
     void failVersion(Error error) { m_versionError = std::move(error); }
     void failAccess(Error error) { m_accessError = std::move(error); }
-    void hideSomeWindows() { m_seesOnlySomeWindows = true; }
+    void hideSomeWindows() {
+        m_capabilities.recording = {Extent::partly, Means::xInput, Lack::nativeWindows};
+    }
 
   private:
+    static constexpr SessionCapabilities allFully() {
+        const auto fully = [](Means means) { return CapabilityState{Extent::fully, means, Lack::nothing}; };
+        return {.recording = fully(Means::xInput),
+                .hotKeys = fully(Means::xGrab),
+                .pressing = fully(Means::xTest),
+                .text = fully(Means::xTest),
+                .clipboard = fully(Means::xSelection),
+                .overlay = fully(Means::xWindow),
+                .windows = fully(Means::windowManager),
+                .tray = fully(Means::dockingTray)};
+    }
     static Result<> resultOf(const std::optional<Error>& error) {
         return error ? Result<>(*error) : Result<>();
     }
@@ -35,5 +49,5 @@ class FakeSessionCheck : public SessionCheck {
     Journal& m_journal;
     std::optional<Error> m_versionError;
     std::optional<Error> m_accessError;
-    bool m_seesOnlySomeWindows = false;
+    SessionCapabilities m_capabilities = allFully();
 };

@@ -59,12 +59,17 @@ std::string asideName(const std::string& path) {
 
 }  // namespace
 
+KeyFileSettings::KeyFileSettings(const ConfigFolders& folders, Use use) : KeyFileSettings(folders, use, {}) {}
+
 KeyFileSettings::KeyFileSettings(const ConfigFolders& folders, std::function<void()> awaitTurnEnd)
-    : m_path(folders.user + fileName), m_awaitTurnEnd(std::move(awaitTurnEnd)) {
+    : KeyFileSettings(folders, Use::readAndWrite, std::move(awaitTurnEnd)) {}
+
+KeyFileSettings::KeyFileSettings(const ConfigFolders& folders, Use use, std::function<void()> awaitTurnEnd)
+    : m_path(folders.user + fileName), m_use(use), m_awaitTurnEnd(std::move(awaitTurnEnd)) {
     const auto user = readUsersFile();
     if (user) {
         // Not earlier: beside what a useless link leads to there is nothing of ours.
-        settingsFile(m_path).removeLeftovers();
+        if (m_use == Use::readAndWrite) settingsFile(m_path).removeLeftovers();
         add(user.value());
     } else {
         m_faults.push_back(user.error());
@@ -146,7 +151,7 @@ Result<> KeyFileSettings::store() {
 Result<KeyFile> KeyFileSettings::readUsersFile() {
     if (!settingsFile(m_path).isAbsent()) {
         auto file = readFile(m_path);
-        if (file) return file;
+        if (file || m_use == Use::readOnly) return file;
         const Result<> aside = putAside(file.error());
         if (!aside) return aside.error();
     }

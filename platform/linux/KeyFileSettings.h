@@ -26,6 +26,10 @@ class KeyFile;
 /// Modes: 0600 for the file, 0700 for a folder that has to be made.
 class KeyFileSettings : public SettingsStore {
   public:
+    /// A reader changes no file: what cannot be read is a fault and stays, and nothing is ever set.
+    enum class Use { readAndWrite, readOnly };
+
+    KeyFileSettings(const ConfigFolders& folders, Use use);
     /// `awaitTurnEnd` is called with the first set of each turn of the event loop; endTurn() has to follow.
     explicit KeyFileSettings(const ConfigFolders& folders, std::function<void()> awaitTurnEnd = {});
     /// Stores what is not stored yet.
@@ -54,7 +58,10 @@ class KeyFileSettings : public SettingsStore {
     /// Adds what a file has and no earlier one had.
     void add(const KeyFile& file);
 
+    KeyFileSettings(const ConfigFolders& folders, Use use, std::function<void()> awaitTurnEnd);
+
     std::string m_path;
+    Use m_use;
     std::function<void()> m_awaitTurnEnd;
     std::map<std::string, std::int64_t> m_values;
     /// What was set, as it is written, since the last write that succeeded.

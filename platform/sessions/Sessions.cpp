@@ -15,8 +15,13 @@ constexpr std::array allKinds = {
     SessionKind{.name = "wayland",
                 .toolkit = "xcb;wayland",
                 .check = wayland::checkDisplay,
+                .examine = wayland::examineSession,
                 .open = wayland::openSession},
-    SessionKind{.name = "x11", .toolkit = "xcb", .check = x11::checkDisplay, .open = x11::openSession},
+    SessionKind{.name = "x11",
+                .toolkit = "xcb",
+                .check = x11::checkDisplay,
+                .examine = x11::examineSession,
+                .open = x11::openSession},
 };
 
 std::string namesOf(std::span<const SessionKind> kinds) {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/Session.h"
+#include "platform/SessionCheck.h"
 
 /// A kind of session that the program knows.
 struct SessionKind {
@@ -14,6 +15,8 @@ struct SessionKind {
     const char* toolkit;
     /// Whether the process was started in such a session; the error says what is missing.
     Result<void> (*check)();
+    /// Tells what works there, whether or not it is such a session.
+    std::unique_ptr<SessionCheck> (*examine)();
     /// Connects to it. The clock outlives the session.
     Result<std::unique_ptr<Session>> (*open)(Clock& clock, SessionUse use);
 };

@@ -2,13 +2,14 @@
 #include "platform/wayland/WaylandSession.h"
 
 #include <virtual-keyboard-unstable-v1-client-protocol.h>
+#include <wlr-data-control-unstable-v1-client-protocol.h>
 
 #include <cstdlib>
 #include <optional>
 #include <utility>
 
-#include "platform/SessionCheck.h"
 #include "platform/desktops/SwayDesktop.h"
+#include "platform/none/NoCapabilities.h"
 #include "platform/none/NoDockingTray.h"
 #include "platform/none/NoHotKeys.h"
 #include "platform/wayland/WaylandEventMonitor.h"
@@ -48,13 +49,48 @@ std::unique_ptr<SwayDesktop> openSway() {
     return connection ? std::make_unique<SwayDesktop>(std::move(connection).value()) : nullptr;
 }
 
+bool isSway() { return static_cast<bool>(SwayConnection::open()); }
+
+CapabilityState fullyIf(bool isThere, Means means, Lack lack) {
+    return isThere ? CapabilityState{Extent::fully, means, Lack::nothing}
+                   : CapabilityState{Extent::nothing, Means::none, lack};
+}
+
 /// What was looked at when the session was entered is so.
 class WaylandSessionCheck final : public SessionCheck {
   public:
     Result<> version() const override { return {}; }
     Result<> access() const override { return {}; }
-    bool seesOnlySomeWindows() const override { return false; }
+    SessionCapabilities capabilities() const override;
+    SessionDetails details() const override;
 };
+
+SessionCapabilities WaylandSessionCheck::capabilities() const {
+    const auto connection = WaylandConnection::open();
+    if (!connection) return noCapabilities(Lack::display);
+    const bool presses = connection.value()->offers(zwp_virtual_keyboard_manager_v1_interface);
+    const bool hasClipboard = connection.value()->offers(zwlr_data_control_manager_v1_interface);
+    const CapabilityState pressing = fullyIf(presses, Means::virtualKeyboard, Lack::virtualKeyboard);
+    return {.recording = {.lack = Lack::foreignKeys},
+            .hotKeys = fullyIf(isSway(), Means::swayBindings, Lack::compositorKeys),
+            .pressing = pressing,
+            .text = pressing,
+            .clipboard = fullyIf(hasClipboard, Means::dataControl, Lack::dataControl),
+            .overlay = {Extent::partly, Means::ordinaryWindow, Lack::layers},
+            .windows = fullyIf(isSway(), Means::swayTree, Lack::foreignWindows),
+            .tray = {.lack = Lack::tray}};
+}
+
+SessionDetails WaylandSessionCheck::details() const {
+    SessionDetails details{.display = environment("WAYLAND_DISPLAY")};
+    const auto connection = WaylandConnection::open();
+    if (!connection) return details;
+    details.parts = {
+        {"virtual keyboard", connection.value()->offers(zwp_virtual_keyboard_manager_v1_interface)},
+        {"data control", connection.value()->offers(zwlr_data_control_manager_v1_interface)},
+        {"sway", isSway()}};
+    return details;
+}
 
 class WaylandSession final : public Session {
   public:
@@ -126,6 +162,8 @@ Result<void> checkDisplay() {
     const auto connection = WaylandConnection::open();
     return connection ? checkKeys(*connection.value()) : connection.error();
 }
+
+std::unique_ptr<SessionCheck> examineSession() { return std::make_unique<WaylandSessionCheck>(); }
 
 Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use) {
     auto connection = WaylandConnection::open();

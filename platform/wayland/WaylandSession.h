@@ -2,12 +2,16 @@
 #pragma once
 
 #include "platform/Session.h"
+#include "platform/SessionCheck.h"
 
 namespace wayland {
 
 /// Whether a compositor answers at $WAYLAND_DISPLAY that lets programs press keys. Nothing is opened where
 /// that is not set.
 Result<void> checkDisplay();
+
+/// Tells what works at $WAYLAND_DISPLAY.
+std::unique_ptr<SessionCheck> examineSession();
 
 /// The session of that compositor. What it cannot do is answered with an error that says so.
 Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use);

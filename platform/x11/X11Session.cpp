@@ -7,8 +7,8 @@
 #include "platform/none/NoDockingTray.h"
 #include "platform/none/NoKeys.h"
 #include "platform/none/NoWindows.h"
+#include "platform/x11/X11SessionCheck.h"
 #include "platform/x11/press/X11KeyInjector.h"
-#include "platform/x11/server/X11SessionCheck.h"
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/watch/X11EventManager.h"
 #include "platform/x11/watch/X11KeyboardLayout.h"
@@ -161,8 +161,19 @@ Result<std::unique_ptr<Session>> openForDesktop(Clock& clock) {
 }  // namespace
 
 Result<void> checkDisplay() {
+    const X11SessionCheck::Session session = X11SessionCheck::sessionOfProcess();
+    if (session.display.empty() && !session.waylandDisplay.empty()) {
+        return Error{
+            "This is a Wayland session without an X server.",
+            "Install Xwayland, or switch it on in the desktop's settings, and log in again; or choose "
+            "an X11 session when you log in."};
+    }
     const auto connection = XConnection::open();
     return connection ? Result<void>() : connection.error();
+}
+
+std::unique_ptr<SessionCheck> examineSession() {
+    return std::make_unique<X11SessionCheck>(X11SessionCheck::sessionOfProcess());
 }
 
 Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use) {

@@ -2,11 +2,15 @@
 #pragma once
 
 #include "platform/Session.h"
+#include "platform/SessionCheck.h"
 
 namespace x11 {
 
 /// Whether there is an X server at $DISPLAY to show anything on.
 Result<void> checkDisplay();
+
+/// Tells what works at $DISPLAY.
+std::unique_ptr<SessionCheck> examineSession();
 
 /// The session of the X server at $DISPLAY. For SessionUse::desktop it needs only that the server shows
 /// windows.

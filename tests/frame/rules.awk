@@ -58,13 +58,14 @@ BEGIN {
     app("widgets", "app/icons")
     app("shortcuts", "prefs core platform")
     app("dialogs", "app/icons app/widgets platform")
+    app("check", "app/shortcuts prefs platform")
     app("overlay", "app/icons app/widgets")
     app("panels", "app/shortcuts app/widgets platform")
     app("tray", "app/icons app/widgets platform")
     app("controller", "app/dialogs app/overlay app/panels app/shortcuts app/tray app/widgets" \
                       " engine prefs core platform")
     # Joins the controller with services and event loop; programs are made of it.
-    app("program", "app/controller app/dialogs app/tray platform platform/linux platform/script/run" \
+    app("program", "app/check app/controller app/dialogs app/tray platform platform/linux platform/script/run" \
                    " platform/sessions")
     app("demonstration", "app/program engine core")
     app("gallery", "app/program app/controller app/dialogs app/icons app/overlay app/panels app/shortcuts" \

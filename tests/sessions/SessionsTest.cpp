@@ -13,10 +13,14 @@ Result<void> isNotHere() { return Error{"The display cannot be reached.", "Log i
 
 Result<void> isElsewhere() { return Error{"The session is another user's.", ""}; }
 
-constexpr SessionKind near{.name = "near", .toolkit = "one", .check = isHere, .open = nullptr};
-constexpr SessionKind other{.name = "other", .toolkit = "two", .check = isHere, .open = nullptr};
-constexpr SessionKind far{.name = "far", .toolkit = "three", .check = isNotHere, .open = nullptr};
-constexpr SessionKind farther{.name = "farther", .toolkit = "four", .check = isElsewhere, .open = nullptr};
+constexpr SessionKind near{
+    .name = "near", .toolkit = "one", .check = isHere, .examine = nullptr, .open = nullptr};
+constexpr SessionKind other{
+    .name = "other", .toolkit = "two", .check = isHere, .examine = nullptr, .open = nullptr};
+constexpr SessionKind far{
+    .name = "far", .toolkit = "three", .check = isNotHere, .examine = nullptr, .open = nullptr};
+constexpr SessionKind farther{
+    .name = "farther", .toolkit = "four", .check = isElsewhere, .examine = nullptr, .open = nullptr};
 
 TEST(SessionsTest, theFirstThatTheProcessWasStartedInIsTaken) {
     const std::array kinds{far, near, other};
@@ -54,6 +58,7 @@ TEST(SessionsTest, eachKindHasANameOfItsOwnAndAWayIn) {
         EXPECT_TRUE(names.insert(kind.name).second) << kind.name;
         EXPECT_NE(kind.toolkit, nullptr) << kind.name;
         EXPECT_NE(kind.check, nullptr) << kind.name;
+        EXPECT_NE(kind.examine, nullptr) << kind.name;
         EXPECT_NE(kind.open, nullptr) << kind.name;
     }
     EXPECT_TRUE(names.contains("x11"));

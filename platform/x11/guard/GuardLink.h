@@ -43,6 +43,9 @@ class GuardLink final : public RunCompanion {
     /// What is said of a guard that cannot be started.
     Error cannotStart() const;
 
+    /// Whether there is a program to start.
+    bool isThere() const { return static_cast<bool>(find()); }
+
   private:
     Result<void> start();
     Result<std::string> find() const;

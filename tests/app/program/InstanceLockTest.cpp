@@ -37,6 +37,21 @@ TEST(InstanceLockTest, isForTheUserAlone) {
     EXPECT_EQ(state.st_mode & 0777U, 0600U);
 }
 
+TEST(InstanceLockTest, othersReadWhatIsNotedAsLongAsItIsHeld) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(InstanceLock::noteOfOther(folder.path(), ":0"), std::nullopt);
+    std::optional<InstanceLock> lock(std::in_place, folder.path(), ":0");
+    EXPECT_EQ(InstanceLock::noteOfOther(folder.path(), ":0"), "");
+    lock->note("record stop");
+    EXPECT_EQ(InstanceLock::noteOfOther(folder.path(), ":0"), "record stop");
+    lock->note("play");
+    EXPECT_EQ(InstanceLock::noteOfOther(folder.path(), ":0"), "play");
+    EXPECT_EQ(InstanceLock::noteOfOther(folder.path(), ":1"), std::nullopt);
+    lock.reset();
+    EXPECT_EQ(InstanceLock::noteOfOther(folder.path(), ":0"), std::nullopt);
+    EXPECT_EQ(InstanceLock::noteOfOther("", ":0"), std::nullopt);
+}
+
 TEST(InstanceLockTest, isGivenToEverybodyWithoutAFolder) {
     const InstanceLock first("", ":0");
     EXPECT_TRUE(first.isOurs());

@@ -28,8 +28,10 @@ class X11SessionCheck : public SessionCheck {
     Result<> version() const override;
     /// XKB and XTEST.
     Result<> access() const override;
-    /// Also where the X server is one within a Wayland session (its extension XWAYLAND).
-    bool seesOnlySomeWindows() const override;
+    /// Where the X server is one within a Wayland session (its extension XWAYLAND), only X11 windows are seen
+    /// and reached. Of trays only those that icons dock into.
+    SessionCapabilities capabilities() const override;
+    SessionDetails details() const override;
 
   private:
     Session m_session;

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "app/check/CapabilityWords.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("CapabilityWords", text); }
+
+LackWords missingExtension(const char* name, const char* loss) {
+    return {tr(loss).arg(QLatin1String(name)),
+            tr("Use a newer X server, or switch the extension on in its settings.")};
+}
+
+}  // namespace
+
+QString meansWords(Means means) {
+    switch (means) {
+        case Means::none:
+            return {};
+        case Means::xInput:
+            return tr("by XInput");
+        case Means::xGrab:
+            return tr("by key grabs");
+        case Means::xTest:
+            return tr("by XTEST");
+        case Means::xSelection:
+            return tr("the X server's");
+        case Means::xWindow:
+            return tr("above all windows");
+        case Means::windowManager:
+            return tr("by the window manager");
+        case Means::dockingTray:
+            return tr("a tray that icons dock into");
+        case Means::statusNotifier:
+            return tr("a tray that asks for icons over the session bus");
+        case Means::virtualKeyboard:
+            return tr("by a virtual keyboard");
+        case Means::swayBindings:
+            return tr("by bindings of sway's");
+        case Means::swayTree:
+            return tr("by sway");
+        case Means::dataControl:
+            return tr("the compositor's");
+        case Means::ordinaryWindow:
+            return tr("as an ordinary window");
+    }
+    Q_UNREACHABLE();
+}
+
+LackWords lackWords(Lack lack) {
+    switch (lack) {
+        case Lack::nothing:
+            return {};
+        case Lack::display:
+            return {tr("The display cannot be reached."), tr("Start Keyrill inside a desktop session.")};
+        case Lack::xInput:
+            return missingExtension("XInput 2.2", "The X server lacks the extension %1, which shows keys.");
+        case Lack::xkb:
+            return missingExtension("XKB", "The X server lacks the extension %1, which says what keys mean.");
+        case Lack::xTest:
+            return missingExtension("XTEST", "The X server lacks the extension %1, which presses keys.");
+        case Lack::record:
+            return missingExtension(
+                "RECORD", "The X server lacks the extension %1: a key that is held is recorded once.");
+        case Lack::guard:
+            return {
+                tr("The program keyrill-guard, which releases keys after a crash, is not there; nothing is "
+                   "played without it."),
+                tr("Install Keyrill again.")};
+        case Lack::nativeWindows:
+            return {tr("Only with the windows of X11 programs: this is a Wayland session."),
+                    tr("Choose an X11 session when you log in.")};
+        case Lack::tray:
+            return {tr("There is none; a small window with the menu stands in for the icon."),
+                    tr("Add a tray to the desktop's panel. GNOME needs the extension \"AppIndicator and "
+                       "KStatusNotifierItem Support\".")};
+        case Lack::foreignKeys:
+            return {tr("A Wayland session shows no program what is typed in others."),
+                    tr("Record in an X11 session; macros play in both.")};
+        case Lack::compositorKeys:
+            return {
+                tr("This compositor gives no hot keys to programs."),
+                tr("Bind keys to commands such as \"keyrill --action=play\" in the compositor's settings.")};
+        case Lack::virtualKeyboard:
+            return {tr("This compositor lets no program press keys."),
+                    tr("Use a compositor with virtual keyboards, such as sway, or an X11 session.")};
+        case Lack::dataControl:
+            return {tr("This compositor shows the clipboard to windows in front alone."),
+                    tr("Scripts that use the clipboard need another compositor, such as sway, or an X11 "
+                       "session.")};
+        case Lack::foreignWindows:
+            return {tr("This compositor tells nothing of other programs' windows."),
+                    tr("Scripts that bring a window to the front need sway or an X11 session.")};
+        case Lack::layers:
+            return {tr("Full-screen windows may cover it."),
+                    tr("Nothing can be recorded here that it would show.")};
+    }
+    Q_UNREACHABLE();
+}

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "app/check/HotKeyProbe.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "app/shortcuts/CombinationText.h"
+#include "platform/KeyboardLayout.h"
+#include "prefs/Settings.h"
+
+namespace {
+
+HotKeyFinding findingOf(HotKeyStatus status, bool isOurs) {
+    switch (status) {
+        case HotKeyStatus::unset:
+            return HotKeyFinding::unset;
+        case HotKeyStatus::pending:
+            return HotKeyFinding::uncertain;
+        case HotKeyStatus::registered:
+        case HotKeyStatus::changed:
+            return HotKeyFinding::free;
+        case HotKeyStatus::refused:
+            break;
+    }
+    return isOurs ? HotKeyFinding::ours : HotKeyFinding::taken;
+}
+
+HotKeyFinding probe(const ShortcutRow& row, KeyCombo combination, HotKeys& hotKeys, bool isOurs) {
+    hotKeys.request({.id = row.id,
+                     .name = std::string(row.name),
+                     .keyCode = static_cast<std::uint32_t>(combination.code),
+                     .modifiers = hotKeyFlags(combination.flags)});
+    const HotKeyStatus status = hotKeys.state(row.id).status;
+    hotKeys.withdraw(row.id);
+    return findingOf(status, isOurs);
+}
+
+}  // namespace
+
+std::vector<HotKeyFact> probeHotKeys(const SettingsStore& settings, HotKeys& hotKeys,
+                                     const KeyboardLayout& layout, const std::vector<std::string>& ours) {
+    std::vector<HotKeyFact> facts;
+    for (std::size_t i = 0; i < shortcutRows.size(); ++i) {
+        const ShortcutRow& row = shortcutRows[i];
+        HotKeyFact& fact = facts.emplace_back(HotKeyFact{.shortcut = i});
+        const std::optional<KeyCombo> stored = storedShortcut(settings, std::string(row.name));
+        if (!stored || stored->code == -1) continue;
+        fact.combination = modifiersText(stored->flags).toStdString() +
+                           layout.keyName(static_cast<std::uint32_t>(stored->code));
+        const bool isOurs = std::find(ours.begin(), ours.end(), row.name) != ours.end();
+        fact.finding = probe(row, *stored, hotKeys, isOurs);
+    }
+    return facts;
+}
