@@ -14,12 +14,12 @@ _keyrill() {
     [ "$word" = = ] && word=
     case $before in
         --action) options='record stop play multiple save-pause' ;;
-        --session) options='x11' ;;
+        --session) options='wayland x11' ;;
         *)
             if [ "${word:0:1}" = - ]; then
                 compopt -o nospace
                 mapfile -t COMPREPLY < <(compgen -W '--action= --session=' -- "$word")
-                mapfile -t -O ${#COMPREPLY[@]} COMPREPLY < <(compgen -W '--help --version' -S ' ' -- "$word")
+                mapfile -t -O ${#COMPREPLY[@]} COMPREPLY < <(compgen -W '--check --help --version' -S ' ' -- "$word")
             else
                 compopt -o filenames
                 mapfile -t COMPREPLY < <(compgen -f -X '!*.keyrill' -- "$word"; compgen -d -- "$word")

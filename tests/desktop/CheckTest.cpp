@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "desktop/DesktopTest.h"
+#include "support/Programs.h"
 #include "support/XServer.h"
 
 namespace {
@@ -16,7 +17,7 @@ struct Report {
 };
 
 Report checkIn(const Desktop& desktop, const std::vector<std::string>& options = {}) {
-    std::vector<std::string> command = {KEYRILL_PRODUCT, "--check"};
+    std::vector<std::string> command = {programs::keyrill, "--check"};
     command.insert(command.end(), options.begin(), options.end());
     Child child(command, desktop.options("report"));
     const int status = child.wait();
@@ -189,7 +190,7 @@ TEST_F(LackTest, withoutRecordHeldKeysCountOnce) {
 TEST(NoSessionTest, isToldAndCannotWork) {
     const TemporaryFolder folder;
     Child keyrill(
-        {KEYRILL_PRODUCT, "--check"},
+        {programs::keyrill, "--check"},
         {.environment = {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}, {"DBUS_SESSION_BUS_ADDRESS", "disabled:"}},
          .outputFile = folder.file("output")});
     EXPECT_EQ(keyrill.wait(), 1);
@@ -200,7 +201,7 @@ TEST(NoSessionTest, isToldAndCannotWork) {
 
 TEST(NoSessionTest, aWaylandSessionWithoutAnXServerIsToldWhatToDo) {
     const TemporaryFolder folder;
-    Child keyrill({KEYRILL_PRODUCT, "--session=x11"},
+    Child keyrill({programs::keyrill, "--session=x11"},
                   {.environment = {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", "wayland-0"}},
                    .outputFile = folder.file("output")});
     EXPECT_EQ(keyrill.wait(), 1);
@@ -212,7 +213,7 @@ TEST(NoSessionTest, aWaylandSessionWithoutAnXServerIsToldWhatToDo) {
 
 TEST(NoSessionTest, anUnknownOptionCannotBeChecked) {
     const TemporaryFolder folder;
-    Child keyrill({KEYRILL_PRODUCT, "--check", "--now"}, {.outputFile = folder.file("output")});
+    Child keyrill({programs::keyrill, "--check", "--now"}, {.outputFile = folder.file("output")});
     EXPECT_EQ(keyrill.wait(), 2);
     EXPECT_EQ(contentOf(folder.file("output")),
               "keyrill: There is no option \"--now\". keyrill --help lists them.\n");

@@ -84,9 +84,9 @@ TEST_F(CompletionsTest, theBeginningOfAnActionNarrowsThemDown) {
 }
 
 TEST_F(CompletionsTest, optionsAreOffered) {
-    EXPECT_EQ(inBash("--"), (Words{"--action=", "--help ", "--session=", "--version "}));
-    EXPECT_EQ(inZsh("--"), (Words{"--action", "--help", "--session", "--version"}));
-    EXPECT_EQ(inFish("--"), (Words{"--action", "--help", "--session", "--version"}));
+    EXPECT_EQ(inBash("--"), (Words{"--action=", "--check ", "--help ", "--session=", "--version "}));
+    EXPECT_EQ(inZsh("--"), (Words{"--action", "--check", "--help", "--session", "--version"}));
+    EXPECT_EQ(inFish("--"), (Words{"--action", "--check", "--help", "--session", "--version"}));
 }
 
 TEST_F(CompletionsTest, elseMacroFilesAre) {
