@@ -2,21 +2,9 @@
 #include "platform/desktops/SwayDesktop.h"
 
 #include <algorithm>
+#include <string>
 
 namespace {
-
-std::string lowered(std::string_view text) {
-    std::string out(text);
-    for (char& c : out) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    return out;
-}
-
-SwayDesktop::Window windowAt(const Json& node) {
-    const std::string& native = node["app_id"].text();
-    return {.number = static_cast<std::int64_t>(node["id"].number()),
-            .program = native.empty() ? node["window_properties"]["class"].text() : native,
-            .xWindow = static_cast<std::uint32_t>(node["window"].number())};
-}
 
 /// Goes through all windows below a node until `visit` says that it has seen enough.
 template <typename Visit>
@@ -47,52 +35,17 @@ std::uint32_t SwayDesktop::group() {
     return group;
 }
 
-std::optional<SwayDesktop::Window> SwayDesktop::focused() {
+std::optional<std::uint32_t> SwayDesktop::focusedXWindow() {
     const auto tree = m_connection.ask(SwayConnection::Request::tree);
-    std::optional<Window> window;
+    std::optional<std::uint32_t> window;
     if (!tree) return window;
     visitWindows(tree.value(), [&](const Json& node) {
-        if (node["focused"].isTrue()) window = windowAt(node);
+        if (node["focused"].isTrue()) window = static_cast<std::uint32_t>(node["window"].number());
         return window.has_value();
-    });
-    return window;
-}
-
-std::optional<SwayDesktop::Window> SwayDesktop::windowOf(std::string_view program) {
-    const auto tree = m_connection.ask(SwayConnection::Request::tree);
-    std::optional<Window> window;
-    if (!tree) return window;
-    visitWindows(tree.value(), [&](const Json& node) {
-        Window here = windowAt(node);
-        if (lowered(here.program) != lowered(program)) return false;
-        const bool isFocused = node["focused"].isTrue();
-        if (!window || isFocused) window = std::move(here);
-        return isFocused;
     });
     return window;
 }
 
 Result<void> SwayDesktop::focusXWindow(std::uint32_t xWindow) {
     return m_connection.run("[id=" + std::to_string(xWindow) + "] focus");
-}
-
-std::vector<std::string> SwayDesktop::programs() {
-    std::vector<std::string> found;
-    const auto tree = m_connection.ask(SwayConnection::Request::tree);
-    if (!tree) return found;
-    visitWindows(tree.value(), [&](const Json& node) {
-        const std::string program = windowAt(node).program;
-        const auto isSame = [&](const std::string& one) { return lowered(one) == lowered(program); };
-        const auto known = std::find_if(found.begin(), found.end(), isSame);
-        const bool isFocused = node["focused"].isTrue();
-        if (known != found.end() && isFocused) std::rotate(found.begin(), known, known + 1);
-        if (known == found.end() && !program.empty())
-            found.insert(isFocused ? found.begin() : found.end(), program);
-        return false;
-    });
-    return found;
-}
-
-Result<void> SwayDesktop::focus(const Window& window) {
-    return m_connection.run("[con_id=" + std::to_string(window.number) + "] focus");
 }

@@ -3,9 +3,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include "platform/desktops/SwayConnection.h"
 
@@ -18,21 +15,8 @@ class SwayDesktop {
     /// there is another.
     std::uint32_t group();
 
-    /// A window, by the number that sway's commands know it under.
-    struct Window {
-        std::int64_t number = 0;
-        /// The program's name: a native window's app_id, an X11 window's class.
-        std::string program;
-        /// An X11 window's number, 0 for a native one.
-        std::uint32_t xWindow = 0;
-    };
-    /// The one that keys go to.
-    std::optional<Window> focused();
-    /// One of that program, in any case; the one that keys go to before others.
-    std::optional<Window> windowOf(std::string_view program);
-    /// The names of all programs that have a window, each once, the one that keys go to first.
-    std::vector<std::string> programs();
-    Result<void> focus(const Window& window);
+    /// The number of the X11 window that keys go to, 0 where it is a native one; empty if there is none.
+    std::optional<std::uint32_t> focusedXWindow();
     /// Fails while sway shows no such window.
     Result<void> focusXWindow(std::uint32_t xWindow);
 

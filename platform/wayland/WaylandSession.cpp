@@ -136,7 +136,7 @@ class WaylandSession final : public Session {
     WaylandRunWatch m_watch{*m_connection, m_hotKeys.get()};
     WaylandKeyInjector m_injector{*m_connection, m_seat, m_watch, m_clock};
     WaylandKeyboardLayout m_layout{m_seat};
-    WaylandScriptDesktop m_scriptDesktop{m_sway.get()};
+    WaylandScriptDesktop m_scriptDesktop;
     WaylandSessionCheck m_check;
     WaylandEventMonitor m_monitor{noMonitor(), m_hotKeys.get()};
     NoHotKeys m_noHotKeys{noHotKeys()};

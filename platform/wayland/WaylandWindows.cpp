@@ -21,8 +21,8 @@ void WaylandWindows::awaitFocusElsewhere(WindowId hidden) {
     if (m_sway == nullptr) return;
     const Clock::Time end = m_clock.now() + longestWait;
     const auto isElsewhere = [&] {
-        const auto front = m_sway->focused();
-        return front && (hidden == none || front->xWindow != hidden);
+        const auto front = m_sway->focusedXWindow();
+        return front && (hidden == none || *front != hidden);
     };
     while (!isElsewhere() && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
 }

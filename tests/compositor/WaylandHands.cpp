@@ -98,6 +98,15 @@ void WaylandHands::send(std::uint8_t keycode, bool press) {
     zwp_virtual_keyboard_v1_key(m_parts->keyboard, static_cast<std::uint32_t>(now.count()),
                                 keycode - evdevOffset, press ? 1 : 0);
     xkb_state_update_key(m_parts->state, keycode, press ? XKB_KEY_DOWN : XKB_KEY_UP);
+    tellState();
+}
+
+void WaylandHands::switchTo(std::uint32_t layout) {
+    xkb_state_update_mask(m_parts->state, 0, 0, 0, 0, 0, layout);
+    tellState();
+}
+
+void WaylandHands::tellState() {
     zwp_virtual_keyboard_v1_modifiers(m_parts->keyboard,
                                       xkb_state_serialize_mods(m_parts->state, XKB_STATE_MODS_DEPRESSED),
                                       xkb_state_serialize_mods(m_parts->state, XKB_STATE_MODS_LATCHED),

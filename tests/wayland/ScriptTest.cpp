@@ -129,6 +129,32 @@ TEST_F(WaylandScriptTest, aCharacterThatNoKeyCanHaveIsNamed) {
     EXPECT_EQ(foot.typed(), "");
 }
 
+class WaylandTwoLayoutsTest : public WaylandScriptTest {
+  protected:
+    WaylandTwoLayoutsTest() : WaylandScriptTest("us,ru") {}
+};
+
+TEST_F(WaylandTwoLayoutsTest, theLayoutInForceIsTheOneThatIsPlayedIn) {
+    const Foot foot(sway());
+    hands().switchTo(1);
+    play(keys("key code 0\nkeystroke \"aф\"\nkey code 1"));
+    const std::string expected = "фaфы";
+    EXPECT_EQ(foot.typed(expected.size()), expected);
+    hands().switchTo(0);
+    play(keys("key code 0\nkeystroke \"aф\""));
+    EXPECT_EQ(foot.typed(expected.size() + 4), expected + "aaф");
+}
+
+// A compositor throws out programs that let events lie.
+TEST_F(WaylandScriptTest, aLongTextWaitsForAProgramThatIsBusy) {
+    const Foot foot(sway());
+    const std::string text(3000, 'x');
+    kill(foot.pid(), SIGSTOP);
+    play(keys("keystroke \"" + text + "\""));
+    kill(foot.pid(), SIGCONT);
+    EXPECT_EQ(foot.typed(text.size()), text);
+}
+
 /// What wev says of a key and its state.
 class WaylandHeldKeyTest : public WaylandScriptTest {
   protected:
