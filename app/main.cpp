@@ -36,6 +36,13 @@ int print(const std::string& text) {
     return std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
+/// Ends a process that has asked and been answered, at once: the toolkit reads the message bus on a thread
+/// that goes on while the process takes its types down, and complains of those that are gone.
+[[noreturn]] void end(int status) {
+    std::fflush(nullptr);
+    std::_Exit(status);
+}
+
 }  // namespace
 
 // Nothing is touched before it is certain that this is the only one.
@@ -43,8 +50,8 @@ int main(int argc, char* argv[]) {
     const CommandLine wishes = readCommandLine({argv + std::min(argc, 1), argv + argc});
     if (wishes.wish == CommandLine::Wish::help) return print(usage(sessionKinds()));
     if (wishes.wish == CommandLine::Wish::version) return print("keyrill " KEYRILL_VERSION "\n");
-    if (wishes.wish == CommandLine::Wish::check) return checkSession(wishes);
-    if (wishes.action) return askForAction(wishes);
+    if (wishes.wish == CommandLine::Wish::check) end(checkSession(wishes));
+    if (wishes.action) end(askForAction(wishes));
     const auto session = enterSession(wishes.session);
     if (!session) {
         const auto known = checkOwnOptions(wishes);
@@ -56,7 +63,7 @@ int main(int argc, char* argv[]) {
     const auto known = checkOptions(line);
     if (!known) return reportFailure(known.error());
     ProgramInstance instance;
-    if (!instance.claim()) return instance.handOver(absolutePaths(line.files));
+    if (!instance.claim()) end(instance.handOver(absolutePaths(line.files)));
     const auto backends = Backends::open(session.value());
     if (!backends) return reportFailure(backends.error());
     Program program(*backends.value());
