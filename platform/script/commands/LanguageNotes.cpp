@@ -40,6 +40,25 @@ brackets may be left out, and of words with `|` between them one is taken.
 )";
 
 const std::string_view closingNotes = R"(
+### Codes of a recorded macro
+
+A code above 511 is a key and how it was typed, added up. Recordings have such codes where the place alone does not tell what
+was typed; only Keyrill plays them, and `keyrill-script check` says so.
+
+| added | in hexadecimal | the key was typed |
+| --- | --- | --- |
+| 512 | 0x200 | with the chooser of the third level held, AltGr on most keyboards |
+| 1024 | 0x400 | with the chooser of the fifth level held; 1536 is both |
+| 2048 | 0x800 | under Caps Lock, where nothing but the lock makes its letter, as `Í` on the Czech row of digits |
+| 8192 to 32768 | 0x2000 to 0x8000 | in the first to the fourth layout of the list, whichever is in force otherwise |
+
+4096 (0x1000) begins the keys that have no number of their own: 4096 and the key's number in the Linux kernel, up to 247, as
+4279 for F13. Modifiers are no part of a code; they stand behind `using`, so that `shift down` is also what Caps Lock did to a
+letter from A to Z.
+
+    tell application "System Events" to key code 524 -> ["key",524,[]]
+    tell application "System Events" to key code 16896 using shift down -> ["key",16896,["shift"]]
+
 ## Limits
 
 | what | at most |
