@@ -123,10 +123,11 @@ KeyOrigin EventOrder::originOf(const RawKey& press, bool own) {
     if (!grabbed) return origin;
     origin.hotKey = m_rules.hotKeys.find(grabbed->keycode, grabbed->modifiers);
     origin.grabbed = origin.hotKey.has_value();
-    if (!origin.hotKey) {
-        m_streams.grabs.passOn();
-    } else if (!own) {
+    // Either ends what the press has stopped the keyboard for.
+    if (origin.hotKey && !own) {
         m_streams.grabs.yieldKeyboard(*grabbed);
+    } else {
+        m_streams.grabs.passOn();
     }
     return origin;
 }
@@ -171,7 +172,8 @@ void EventOrder::handleLate(const GrabbedPress& press) {
     const std::optional<HotKeyId> id = m_rules.hotKeys.find(press.keycode, press.modifiers);
     if (!id) return m_streams.grabs.passOn();
     m_interpreter.lateHotKey(*id, press.keycode, press.time);
-    if (m_interpreter.held().isHotKey(press.keycode)) m_streams.grabs.yieldKeyboard(press);
+    if (!m_interpreter.held().isHotKey(press.keycode)) return m_streams.grabs.passOn();
+    m_streams.grabs.yieldKeyboard(press);
 }
 
 bool EventOrder::isRepeat(const GrabbedPress& press) const {

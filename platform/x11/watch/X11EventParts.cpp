@@ -154,6 +154,9 @@ bool X11EventManager::Parts::isBroken() const {
 /// A dead connection is readable for ever.
 void X11EventManager::Parts::giveUp() {
     if (std::exchange(m_gaveUp, true)) return;
+    // One of two connections may live: nobody would answer for what it stops the keyboard for.
+    m_grabs->takeUp();
+    m_grabs->passOn();
     m_wakeups.unwatch(m_raw->connection().fileDescriptor());
     m_wakeups.unwatch(m_grabs->connection().fileDescriptor());
     if (m_repeats) {
