@@ -87,16 +87,16 @@ void WaylandHotKeys::take(const SwayBindings::Event& event) {
     }
 }
 
-/// A stop takes back what was to be played and has not begun.
+/// A stop takes back what was to be played and has not begun. It is one too where hot keys are withheld, as
+/// while a script asks something.
 void WaylandHotKeys::takePress(HotKeyId id) {
-    if (m_isWithheld) return;
     if (m_table->cancelsPlayback(id)) {
         m_isStopped = true;
         std::erase_if(m_changes, [this](const Change& change) {
             return change.isPress && m_table->startsPlayback(change.id);
         });
     }
-    m_changes.push_back({id, true});
+    if (!m_isWithheld) m_changes.push_back({id, true});
 }
 
 /// In the order of the ids, as at the start: of two with one combination the first keeps it.
@@ -128,7 +128,8 @@ void WaylandHotKeys::dispatch() {
 }
 
 void WaylandHotKeys::deliver(const Change& change) {
-    const Handler& handler = change.isPress ? m_pressed : m_released;
+    // A copy: the handler may be replaced from within.
+    const Handler handler = change.isPress ? m_pressed : m_released;
     if (handler) handler(change.id);
 }
 
