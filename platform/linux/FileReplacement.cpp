@@ -93,7 +93,11 @@ Result<> FileReplacement::write(std::string_view content, mode_t mode) {
 
 void FileReplacement::sweep(const std::string& folder) {
     std::error_code error;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-        if (isName(entry.path().filename()) && isLeftOver(entry.path())) fs::remove(entry.path(), error);
+    fs::directory_iterator entry(folder, error);
+    while (!error && entry != fs::directory_iterator()) {
+        std::error_code unremoved;
+        if (isName(entry->path().filename()) && isLeftOver(entry->path()))
+            fs::remove(entry->path(), unremoved);
+        entry.increment(error);
     }
 }
