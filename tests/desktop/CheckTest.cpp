@@ -75,7 +75,12 @@ TEST_F(CheckTest, aWholeDesktopIsRightInEveryLine) {
 
 TEST_F(CheckTest, aTrayOnTheSessionBusCountsToo) {
     desktop.startTray(TrayKind::statusNotifier);
-    ASSERT_TRUE(eventually([this] { return checkIn(desktop).text.find("no  Tray") == std::string::npos; }));
+    Report report;
+    ASSERT_TRUE(eventually([&] {
+        report = checkIn(desktop);
+        return report.text.find("ok  Tray: ") != std::string::npos;
+    })) << report.text;
+    EXPECT_EQ(report.status, 0) << report.text;
 }
 
 TEST_F(CheckTest, aMissingTrayIsToldWithWhatToDo) {
@@ -126,7 +131,7 @@ TEST_F(CheckTest, disturbsNobody) {
     desktop.awaitWindow(title::overlay);
     desktop.press("a");
     const std::size_t windows = desktop.screen().windows().size();
-    checkIn(desktop);
+    EXPECT_TRUE(checkIn(desktop).has("ok  Keyrill: is running"));
     EXPECT_EQ(desktop.screen().windows().size(), windows);
     desktop.press("b");
     desktop.press("ctrl+super+s");
@@ -146,7 +151,7 @@ TEST_F(CheckTest, leavesEveryCombinationAsItWas) {
 TEST_F(CheckTest, leavesASettingsFileThatCannotBeRead) {
     const std::string file = desktop.home() + "/.config/keyrill/keyrill.conf";
     std::ofstream(file) << "no key file";
-    checkIn(desktop);
+    EXPECT_TRUE(checkIn(desktop).has("ok  Pressing keys: by XTEST"));
     EXPECT_EQ(contentOf(file), "no key file");
 }
 
