@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "core/Macro.h"
 
+#include <malloc.h>
+
+#include <vector>
+
 #include "LocaleTest.h"
 #include "core/Delay.h"
 #include "core/KeyCode.h"
@@ -47,6 +51,14 @@ TEST_P(MacroTest, showsAllActionsWithNothingBetween) {
     addExample();
     EXPECT_EQ(macro.displayText(), "<⌘+s><⌛ 0.50>a");
     EXPECT_EQ(macro.fullDisplayText(), "<⌘+s><⌛ 0.50>a");
+}
+
+TEST_P(MacroTest, aFewKeysTakeLittleMemory) {
+    constexpr std::size_t macros = 100;
+    const std::size_t before = mallinfo2().uordblks;
+    std::vector<Macro> history(macros);
+    for (Macro& one : history) one.addAction(createKeyCode(0, "a", 'a'));
+    EXPECT_LT((mallinfo2().uordblks - before) / macros, 8192U);
 }
 
 TEST_P(MacroTest, hasAScriptWithoutActionsToo) {
