@@ -222,6 +222,12 @@ TEST_F(WaylandScriptTest, aScriptReadsWhatOthersHaveCopied) {
     EXPECT_EQ(foot.typed(6), "één!");
 }
 
+TEST_F(WaylandScriptTest, aReaderThatLosesInterestTakesTheClipboardFromNobody) {
+    play("set big to \"x\"\nrepeat 20 times\nset big to big & big\nend repeat\nset the clipboard to big");
+    EXPECT_EQ(outputOf({"sh", "-c", "wl-paste --no-newline | head -c 3"}, sway().environment()), "xxx");
+    EXPECT_EQ(outputOf({"sh", "-c", "wl-paste --no-newline | wc -c"}, sway().environment()), "1048576\n");
+}
+
 TEST_F(WaylandScriptTest, aPasteRightAfterwardsFindsTheText) {
     const Foot foot(sway());
     play("set the clipboard to \"pasted\"\n" +
