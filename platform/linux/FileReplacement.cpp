@@ -35,11 +35,24 @@ bool isName(const std::string& name) {
 }
 
 /// A writer holds the lock of its file for as long as it lives.
-bool isLeftOver(const fs::path& path) {
-    const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+bool isLeftOver(const Descriptor& file) {
     struct stat status {};
     return file && fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode) &&
            status.st_uid == geteuid() && flock(file.number(), LOCK_EX | LOCK_NB) == 0;
+}
+
+/// Locked until it is gone, so that whoever has just begun to write it sees that it is lost.
+void removeIfLeftOver(const fs::path& path) {
+    const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (isLeftOver(file)) unlink(path.c_str());
+}
+
+/// Whether no sweep has come between the making of a file and its lock. Where files cannot be locked none is
+/// swept either.
+bool isKept(const Descriptor& file) {
+    struct stat status {};
+    if (flock(file.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return false;
+    return fstat(file.number(), &status) != 0 || status.st_nlink != 0;
 }
 
 std::string folderOf(const std::string& file) {
@@ -71,12 +84,13 @@ Result<> FileReplacement::finish(std::string_view content, mode_t mode) {
 }
 
 Result<> FileReplacement::open() {
-    std::string name = folderOf(m_file) + "/" + std::string(beginning) + std::string(placeholder);
-    m_descriptor.reset(mkostemp(name.data(), O_CLOEXEC));
-    if (!m_descriptor) return systemsError();
-    m_unfinished = std::move(name);
-    // Where files cannot be locked none is swept either.
-    static_cast<void>(flock(m_descriptor.number(), LOCK_EX | LOCK_NB));
+    // Each time one is lost another program has swept the folder.
+    do {
+        std::string name = folderOf(m_file) + "/" + std::string(beginning) + std::string(placeholder);
+        m_descriptor.reset(mkostemp(name.data(), O_CLOEXEC));
+        if (!m_descriptor) return systemsError();
+        m_unfinished = std::move(name);
+    } while (!isKept(m_descriptor));
     return {};
 }
 
@@ -93,11 +107,9 @@ Result<> FileReplacement::write(std::string_view content, mode_t mode) {
 
 void FileReplacement::sweep(const std::string& folder) {
     std::error_code error;
-    fs::directory_iterator entry(folder, error);
+    fs::directory_iterator entry(folder.empty() ? "." : folder, error);
     while (!error && entry != fs::directory_iterator()) {
-        std::error_code unremoved;
-        if (isName(entry->path().filename()) && isLeftOver(entry->path()))
-            fs::remove(entry->path(), unremoved);
+        if (isName(entry->path().filename())) removeIfLeftOver(entry->path());
         entry.increment(error);
     }
 }

@@ -10,11 +10,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
+#include <thread>
 
 #include "platform/Descriptor.h"
+#include "platform/linux/FileReplacement.h"
 #include "support/Child.h"
 
 namespace fs = std::filesystem;
@@ -198,6 +202,36 @@ TEST_F(WholeFileTest, keepsItsOwner) {
     ASSERT_EQ(stat(file.c_str(), &status), 0);
     EXPECT_EQ(status.st_uid, 1234U);
     EXPECT_EQ(status.st_gid, 5678U);
+}
+
+/// A folder in memory, where nothing waits for a disk.
+class FolderInMemory {
+  public:
+    FolderInMemory() {
+        setenv("TMPDIR", "/dev/shm", 1);
+        m_folder.emplace();
+        unsetenv("TMPDIR");
+    }
+
+    const TemporaryFolder& folder() const { return *m_folder; }
+
+  private:
+    std::optional<TemporaryFolder> m_folder;
+};
+
+TEST_F(WholeFileTest, isWrittenWhileOthersSweepItsFolder) {
+    const FolderInMemory memory;
+    const std::string name = memory.folder().file("file");
+    std::atomic<bool> isDone = false;
+    std::thread sweeper([&] {
+        while (!isDone) FileReplacement::sweep(memory.folder().path());
+    });
+    int failures = 0;
+    for (int save = 0; save < 3000; ++save) failures += WholeFile(name).write("content") ? 0 : 1;
+    isDone = true;
+    sweeper.join();
+    EXPECT_EQ(failures, 0);
+    EXPECT_EQ(contentOf(name), "content");
 }
 
 TEST_F(WholeFileTest, refusesTheEndlessAndTheHuge) {
