@@ -38,6 +38,12 @@ void TailWait::endTailInTime() {
     if (m_tail.isDown() && m_clock.now() >= m_tail.end()) release(m_modifiersOfHands());
 }
 
+void TailWait::rest() {
+    if (!m_tail.isDown()) return;
+    m_clock.sleepFor(m_tail.end() - m_clock.now());
+    release({});
+}
+
 void TailWait::release(const KeycodeSet& staying) {
     m_tail.release(staying);
     m_output.flush();

@@ -11,7 +11,7 @@ class TailWait final : public RunWait {
   public:
     /// `modifiersOfHands` tells of hands that want the keyboard for a combination of their own. What they
     /// hold themselves stays down as long, or it would be up for them too.
-    TailWait(ModifierTail& tail, KeyOutput& output, RunWaiter& waiter, const Clock& clock,
+    TailWait(ModifierTail& tail, KeyOutput& output, RunWaiter& waiter, Clock& clock,
              std::function<KeycodeSet()> modifiersOfHands)
         : m_tail(tail),
           m_output(output),
@@ -26,6 +26,9 @@ class TailWait final : public RunWait {
     Step<> endTail();
     /// Releases it if its time is over.
     void endTailInTime();
+    /// Waits until its time is over, whatever the user wishes, and releases it: also where the run was
+    /// cancelled, since whoever follows the modifiers would take the combination for unended.
+    void rest();
 
   private:
     void release(const KeycodeSet& staying);
@@ -33,6 +36,6 @@ class TailWait final : public RunWait {
     ModifierTail& m_tail;
     KeyOutput& m_output;
     RunWaiter& m_waiter;
-    const Clock& m_clock;
+    Clock& m_clock;
     std::function<KeycodeSet()> m_modifiersOfHands;
 };

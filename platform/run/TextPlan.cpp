@@ -33,6 +33,15 @@ Result<std::vector<char32_t>> charactersOf(std::string_view text) {
     return characters;
 }
 
+std::vector<char32_t> charactersOfAll(std::span<const std::string> texts) {
+    std::vector<char32_t> all;
+    for (const std::string& text : texts) {
+        const auto characters = charactersOf(text);
+        if (characters) all.insert(all.end(), characters.value().begin(), characters.value().end());
+    }
+    return all;
+}
+
 std::string beginningOf(std::span<const char32_t> characters) {
     constexpr std::size_t most = 20;
     std::string shown = "\"";

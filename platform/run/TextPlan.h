@@ -12,6 +12,9 @@
 /// U+000D each. Fails where the text is not UTF-8; the message tells the byte.
 Result<std::vector<char32_t>> charactersOf(std::string_view text);
 
+/// The characters of all texts, one after the other, without those that are not UTF-8.
+std::vector<char32_t> charactersOfAll(std::span<const std::string> texts);
+
 /// How a text is called in a message: its first characters in quotation marks, with dots where there are
 /// more.
 std::string beginningOf(std::span<const char32_t> characters);

@@ -51,21 +51,13 @@ Step<> WaylandInjectionSession::begin() {
 void WaylandInjectionSession::rest() {
     if (!m_hasBegun || m_rests) return;
     m_rests = true;
-    restTail();
+    m_tailWait.rest();
     m_held.rest();
     m_tools.keyboard.unplug();
     // A compositor that has gone tells nothing either.
     [[maybe_unused]] const auto told = m_tools.connection.roundTrip();
     m_tools.seat.ownKeyboardHasGone();
     m_tools.interrupt.setHolding(false);
-}
-
-/// Also where the run was cancelled: whoever follows the modifiers would take the combination for unended.
-void WaylandInjectionSession::restTail() {
-    if (!m_tail.isDown()) return;
-    m_tools.clock.sleepFor(m_tail.end() - m_tools.clock.now());
-    m_tail.release();
-    m_tools.keyboard.flush();
 }
 
 /// As if the run had rested: others have the keyboard meanwhile.
@@ -154,12 +146,7 @@ Step<> WaylandInjectionSession::type(std::string_view text, std::uint32_t modifi
 /// What the plan tells of texts that are still to come; what in it cannot be typed is an error only there.
 Step<> WaylandInjectionSession::prepareTexts() {
     if (std::exchange(m_isPrepared, true)) return {};
-    std::vector<char32_t> all;
-    for (const std::string& text : m_plan.texts) {
-        const auto characters = charactersOf(text);
-        if (characters) all.insert(all.end(), characters.value().begin(), characters.value().end());
-    }
-    return m_typer.prepare(all);
+    return m_typer.prepare(charactersOfAll(m_plan.texts));
 }
 
 WaylandInjectionSession::Strokes WaylandInjectionSession::strokesOf(const HeldKey& key) {

@@ -56,7 +56,6 @@ class WaylandInjectionSession final : public InjectionSession {
     Step<> prepareStroke(xkb_mod_mask_t commands = 0);
     Step<> stopProcess();
     Step<> beginTail();
-    void restTail();
 
     Result<Stroke> plan(std::uint32_t keyCode, std::uint32_t modifiers) const;
     Step<> play(const Stroke& stroke);

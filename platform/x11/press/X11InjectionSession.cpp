@@ -50,7 +50,7 @@ X11InjectionSession::~X11InjectionSession() {
 void X11InjectionSession::rest() {
     if (!m_hasBegun || m_rests) return;
     m_rests = true;
-    restTail();
+    m_tailWait.rest();
     m_held.rest();
     m_locks.giveBack();
     // A guard that has gone in the meantime has nothing left to do.
@@ -69,14 +69,6 @@ Step<> X11InjectionSession::stopProcess() {
     if (auto begun = begin(); !begun) return begun;
     m_held.pressAgain();
     return {};
-}
-
-/// Also where the run was cancelled: a window manager would go on holding the keyboard.
-void X11InjectionSession::restTail() {
-    if (!m_tail.isDown()) return;
-    m_tools.clock.sleepFor(m_tail.end() - m_tools.clock.now());
-    m_tail.release();
-    m_tools.connection.flush();
 }
 
 void X11InjectionSession::settle() {
@@ -246,12 +238,7 @@ Step<> X11InjectionSession::type(std::string_view text, std::uint32_t modifiers)
 Step<> X11InjectionSession::prepareTexts() {
     if (m_isPrepared) return {};
     m_isPrepared = true;
-    std::vector<char32_t> all;
-    for (const std::string& text : m_plan.texts) {
-        const auto characters = charactersOf(text);
-        if (characters) all.insert(all.end(), characters.value().begin(), characters.value().end());
-    }
-    return m_typer.prepare(all, m_state.lockedLayout);
+    return m_typer.prepare(charactersOfAll(m_plan.texts), m_state.lockedLayout);
 }
 
 X11InjectionSession::Strokes X11InjectionSession::strokesOf(const HeldKey& key) {

@@ -56,7 +56,6 @@ class X11InjectionSession final : public InjectionSession {
     Step<> begin();
     Step<> freeKeyboard();
     Step<> beginTail();
-    void restTail();
     KeycodeSet ownKeys() const;
     Step<XkbComponents> checkHands();
     /// Begins if that has not been done, looks whether the user wishes to stop, waits for his hands and
