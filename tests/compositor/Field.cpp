@@ -3,8 +3,8 @@
 
 #include <stdexcept>
 
-Field::Field(const Sway& sway, Toolkit toolkit) {
-    auto environment = sway.environment();
+Field::Field(const Compositor& compositor, Toolkit toolkit) {
+    auto environment = compositor.environment();
     environment["HOME"] = m_folder.path();
     environment["LC_ALL"] = "C.UTF-8";
     environment["QT_QPA_PLATFORM"] = "wayland";
@@ -19,9 +19,14 @@ Field::Field(const Sway& sway, Toolkit toolkit) {
     whole.push_back(m_folder.file("text"));
     m_program = std::make_unique<Child>(
         whole, Child::Options{.environment = environment, .outputFile = m_folder.file("log")});
-    if (!eventually([&] { return sway.tries({"[title=\"field\"] focus"}); }, std::chrono::seconds(20))) {
+    if (!eventually([&] { return compositor.focus("field"); }, std::chrono::seconds(20))) {
         throw std::runtime_error("the field does not appear: " + contentOf(m_folder.file("log")));
     }
+}
+
+std::string Field::text(const std::string& expected) const {
+    eventually([&] { return text() == expected; });
+    return text();
 }
 
 std::string Field::saved(const std::string& expected) const {

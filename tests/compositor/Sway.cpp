@@ -1,34 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "compositor/Sway.h"
 
-#include <unistd.h>
-
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
-namespace {
-
-constexpr uid_t nobody = 65534;
-
-void giveAway(const std::string& file) {
-    if (getuid() == 0 && chown(file.c_str(), nobody, nobody) != 0)
-        throw std::runtime_error("cannot chown " + file);
-}
-
-}  // namespace
+#include "compositor/OtherUser.h"
 
 Sway::Sway(const Options& options) : m_hasXServer(options.hasXServer) {
     configure(options.configuration);
-    giveAway(m_folder.path());
-    std::vector<std::string> command;
-    if (getuid() == 0) {
-        // Another user's process forgets whose death is its own, so it is told again.
-        const std::string user = std::to_string(nobody);
-        command = {"setpriv",        "--reuid",     user,   "--regid", user,
-                   "--clear-groups", "--pdeathsig", "KILL", "--"};
-    }
-    command.insert(command.end(), {"sway", "-d", "-c", m_folder.file("config")});
+    otheruser::giveAway(m_folder.path());
+    const auto command = otheruser::command({"sway", "-d", "-c", m_folder.file("config")});
     const std::map<std::string, std::string> environment = {{"XDG_RUNTIME_DIR", m_folder.path()},
                                                             {"HOME", m_folder.path()},
                                                             {"DISPLAY", ""},
@@ -64,7 +46,7 @@ void Sway::configure(const std::string& lines) const {
         << "output HEADLESS-1 resolution 1024x640\nxwayland "
         << (m_hasXServer ? "force\nexec echo $DISPLAY > $XDG_RUNTIME_DIR/display" : "disable") << "\n"
         << lines << "\n";
-    giveAway(m_folder.file("config"));
+    otheruser::giveAway(m_folder.file("config"));
 }
 
 std::string Sway::findDisplay() const {
@@ -84,6 +66,8 @@ std::string Sway::message(const std::vector<std::string>& arguments) const {
     command.insert(command.end(), arguments.begin(), arguments.end());
     return outputOf(command, m_environment);
 }
+
+bool Sway::focus(const std::string& title) const { return tries({"[title=\"^" + title + "$\"] focus"}); }
 
 bool Sway::tries(const std::vector<std::string>& arguments) const {
     std::vector<std::string> command = {"swaymsg", "--quiet"};

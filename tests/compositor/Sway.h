@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "compositor/Compositor.h"
 #include "support/Child.h"
 
 /// A private sway without a screen and with nobody else on it; ends with the object. It runs as nobody where
 /// the test runs as root, as sway insists. One that cannot be started fails the test by an exception.
-class Sway {
+class Sway final : public Compositor {
   public:
     struct Options {
         /// Lines of its configuration.
@@ -22,8 +22,9 @@ class Sway {
     Sway() : Sway(Options()) {}
     explicit Sway(const Options& options);
 
-    /// What programs need to know, to be shown by it; no X server among it unless asked for.
-    const std::map<std::string, std::string>& environment() const { return m_environment; }
+    /// No X server among it unless asked for.
+    const std::map<std::string, std::string>& environment() const override { return m_environment; }
+    bool focus(const std::string& title) const override;
     /// The compositor's socket, an absolute path.
     std::string socket() const { return m_folder.file("wayland-1"); }
     Child& program() { return *m_program; }

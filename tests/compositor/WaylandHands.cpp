@@ -83,15 +83,6 @@ WaylandHands::~WaylandHands() {
     xkb_context_unref(m_parts->context);
 }
 
-void WaylandHands::press(std::uint8_t keycode) { send(keycode, true); }
-
-void WaylandHands::release(std::uint8_t keycode) { send(keycode, false); }
-
-void WaylandHands::stroke(std::initializer_list<std::uint8_t> keycodes) {
-    for (const std::uint8_t keycode : keycodes) press(keycode);
-    for (const auto* keycode = keycodes.end(); keycode != keycodes.begin();) release(*--keycode);
-}
-
 void WaylandHands::send(std::uint8_t keycode, bool press) {
     const auto now = std::chrono::duration_cast<std::chrono::milliseconds>(
         std::chrono::steady_clock::now().time_since_epoch());

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "compositor/Compositor.h"
+#include "support/Child.h"
+
+/// A private KWin without a screen, with a session bus and a home of its own and nobody else on it; ends with
+/// the object. It runs as nobody where the test runs as root. One that cannot be started fails the test by an
+/// exception.
+///
+/// Programs may do there what KWin otherwise asks a desktop entry for, so that a test has hands (KWinHands).
+class KWin final : public Compositor {
+  public:
+    struct Options {
+        /// As xkb-data calls them, separated by commas.
+        std::string layouts = "us";
+        /// Whether X11 programs can be shown.
+        bool hasXServer = false;
+    };
+
+    KWin() : KWin(Options()) {}
+    explicit KWin(const Options& options);
+
+    /// With the session bus; no X server among it unless asked for.
+    const std::map<std::string, std::string>& environment() const override { return m_environment; }
+    bool focus(const std::string& title) const override;
+    /// The title of the window that has the focus, empty without one.
+    std::string front() const;
+    /// The compositor's socket, an absolute path.
+    std::string socket() const { return m_folder.file("kwin"); }
+    Child& program() { return *m_program; }
+
+    /// What a service on the bus answers (gdbus-call(1) without the connection).
+    std::string call(const std::vector<std::string>& arguments) const;
+    /// Another program of this desktop's user, with what it writes in that file of home.
+    std::unique_ptr<Child> start(const std::vector<std::string>& command, const std::string& log) const;
+
+    /// As a crash would, and another one in its place. Programs that it showed have lost it.
+    void comeAgain();
+
+  private:
+    void startBus();
+    void startCompositor();
+    /// What a script in KWin prints, with `print` alone: one line.
+    std::string run(const std::string& script) const;
+
+    TemporaryFolder m_folder;
+    Options m_options;
+    std::map<std::string, std::string> m_environment;
+    std::unique_ptr<Child> m_bus;
+    std::unique_ptr<Child> m_program;
+    mutable int m_scripts = 0;
+};
