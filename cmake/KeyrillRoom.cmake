@@ -17,6 +17,8 @@ endif()
 # Compile options that all targets of the project share.
 function(keyrill_compile_options target)
     target_compile_features(${target} PUBLIC cxx_std_20)
+    # GIO asks its users for -pthread and Qt for -fPIC; with all targets alike they share precompiled headers.
+    target_compile_options(${target} PRIVATE -pthread -fPIC)
     # xcb's header of XKB has a member called "explicit", which its users rename by a macro.
     target_compile_options(${target} PRIVATE ${KEYRILL_WARNINGS} $<$<BOOL:${KEYRILL_WERROR}>:-Werror>
                                              $<$<CXX_COMPILER_ID:Clang>:-Wno-keyword-macro>)
@@ -74,6 +76,11 @@ function(keyrill_room target)
         keyrill_harden(${target})
         target_include_directories(${target} PUBLIC "${view}" PRIVATE "${view}_private")
         target_link_libraries(${target} PUBLIC ${room_USES} PRIVATE ${room_PRIVATE_USES})
+        if(room_FOLDER MATCHES "^app/")
+            keyrill_precompile(${target} keyrill_precompiled_qt)
+        else()
+            keyrill_precompile(${target} keyrill_precompiled_room)
+        endif()
         # For keyrill_inside.
         set_target_properties(${target} PROPERTIES KEYRILL_PRIVATE_USES "${room_PRIVATE_USES}")
     else()
@@ -133,6 +140,7 @@ function(keyrill_test target)
     endif()
     add_executable(${target} ${test_SOURCES})
     keyrill_compile_options(${target})
+    keyrill_precompile(${target} keyrill_precompiled_test)
     target_link_libraries(${target} PRIVATE ${test_USES} GTest::gtest GTest::gtest_main)
     keyrill_inside(${target} ${test_INSIDE})
     set(properties LABELS ${test_LABEL} TIMEOUT ${test_TIMEOUT} ${test_PROPERTIES})

@@ -19,7 +19,7 @@ std::int32_t processorClockSpeed(const SystemFacts& facts) { return facts.proces
 std::uint32_t countProcessors(const SystemFacts& facts) { return facts.processors(); }
 
 std::string bugReportBody(const SystemFacts& facts) {
-    return std::string("Version:\t") + diagnosticVersion + "\nSystem:\t" + systemVersionString(facts) +
+    return "Version:\t" + std::string(diagnosticVersion) + "\nSystem:\t" + systemVersionString(facts) +
            "\nMac:\t" + machineType(facts) + "\nCPU:\t" + std::to_string(countProcessors(facts)) + "x" +
            std::to_string(processorClockSpeed(facts)) + "MHz\nRAM:\t" + std::to_string(facts.memory()) +
            "MB\n\nDetails:\n";

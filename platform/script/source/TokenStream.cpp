@@ -143,7 +143,7 @@ std::string TokenStream::describeWord(const Token& token, const Token& ahead) co
     const Word word = token.word;
     if (word == Word::none || !means(word) || kindOf(word) == WordKind::special) return "identifier";
     if (word == Word::end && namesBlock(ahead.word)) {
-        return quoted("end " + std::string(spellingOf(ahead.word)));
+        return script::quoted("end " + std::string(spellingOf(ahead.word)));
     }
     return quoted(spellingOf(word));
 }
