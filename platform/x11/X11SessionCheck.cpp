@@ -61,11 +61,11 @@ std::vector<std::string> layoutsOf(const XConnection& connection) {
 }
 
 bool isOn(const XConnection& connection, const std::string& lock) {
-    const XReply<xcb_xkb_get_named_indicator_reply_t> light(xcb_xkb_get_named_indicator_reply(
+    const auto light = replyTo(
         connection,
         xcb_xkb_get_named_indicator(connection, XCB_XKB_ID_USE_CORE_KBD, XCB_XKB_LED_CLASS_DFLT_XI_CLASS,
                                     XCB_XKB_ID_DFLT_XI_ID, connection.atom(lock)),
-        nullptr));
+        xcb_xkb_get_named_indicator_reply);
     return light && light->found != 0 && light->on != 0;
 }
 

@@ -62,7 +62,7 @@ XReply<xcb_xkb_get_map_reply_t> wholeParts(xcb_connection_t* connection, std::ui
                                            std::uint16_t parts) {
     const auto cookie =
         xcb_xkb_get_map(connection, device, parts, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
-    return XReply<xcb_xkb_get_map_reply_t>(xcb_xkb_get_map_reply(connection, cookie, nullptr));
+    return replyTo(connection, cookie, xcb_xkb_get_map_reply);
 }
 
 KeyType takeType(Reader& reader) {
@@ -128,8 +128,7 @@ bool writeKeySymbols(xcb_connection_t* connection, std::uint16_t device, const D
         connection, device, XCB_XKB_MAP_PART_KEY_SYMS, 0, map.firstKeycode, map.lastKeycode, 0, 0, first,
         static_cast<std::uint8_t>(last - first + 1), static_cast<std::uint16_t>(total), 0, 0, 0, 0, 0, 0, 0,
         0, 0, 0, 0, 0, 0, 0, 0, 0, bytes.data());
-    const XReply<xcb_generic_error_t> error(xcb_request_check(connection, cookie));
-    return error == nullptr;
+    return refusalOf(connection, cookie) == nullptr;
 }
 
 std::vector<std::byte> readActions(xcb_connection_t* connection) {

@@ -25,8 +25,8 @@ Error unreadableKeymap() {
 }
 
 std::optional<XkbComponents> stateOfServer(xcb_connection_t* connection) {
-    const XReply<xcb_xkb_get_state_reply_t> state(
-        xcb_xkb_get_state_reply(connection, xcb_xkb_get_state(connection, XCB_XKB_ID_USE_CORE_KBD), nullptr));
+    const auto state =
+        replyTo(connection, xcb_xkb_get_state(connection, XCB_XKB_ID_USE_CORE_KBD), xcb_xkb_get_state_reply);
     if (!state) return std::nullopt;
     return componentsOf(*state);
 }

@@ -14,11 +14,10 @@ GrabWait::GrabWait(const XConnection& connection, const Clock& clock)
     : m_connection(connection), m_clock(clock), m_window(connection) {}
 
 bool GrabWait::isHeld() const {
-    const XReply<xcb_grab_keyboard_reply_t> reply(
-        xcb_grab_keyboard_reply(m_connection,
-                                xcb_grab_keyboard(m_connection, 0, m_window.id(), XCB_CURRENT_TIME,
-                                                  XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
-                                nullptr));
+    const auto reply = replyTo(m_connection,
+                               xcb_grab_keyboard(m_connection, 0, m_window.id(), XCB_CURRENT_TIME,
+                                                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+                               xcb_grab_keyboard_reply);
     return reply && reply->status != XCB_GRAB_STATUS_NOT_VIEWABLE;
 }
 

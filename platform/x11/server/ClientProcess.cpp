@@ -13,8 +13,8 @@ pid_t processOf(const XConnection& connection, xcb_window_t window) {
     xcb_res_client_id_spec_t wanted{};
     wanted.client = window;
     wanted.mask = XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID;
-    const XReply<xcb_res_query_client_ids_reply_t> reply(xcb_res_query_client_ids_reply(
-        connection, xcb_res_query_client_ids(connection, 1, &wanted), nullptr));
+    const auto reply =
+        replyTo(connection, xcb_res_query_client_ids(connection, 1, &wanted), xcb_res_query_client_ids_reply);
     if (!reply) return 0;
     for (auto id = xcb_res_query_client_ids_ids_iterator(reply.get()); id.rem > 0;
          xcb_res_client_id_value_next(&id)) {

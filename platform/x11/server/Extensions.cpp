@@ -62,8 +62,9 @@ Result<> Extensions::use(Extension extension) const {
 
 Result<> Extensions::useInput() const {
     if (!has(xcb_input_id)) return inputMissing("has no XInput");
-    const XReply<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
-        m_connection, xcb_input_xi_query_version(m_connection, inputMajor, inputMinor), nullptr));
+    const auto version =
+        replyTo(m_connection, xcb_input_xi_query_version(m_connection, inputMajor, inputMinor),
+                xcb_input_xi_query_version_reply);
     if (!version) return inputMissing("does not answer");
     const bool isNewEnough = version->major_version > inputMajor ||
                              (version->major_version == inputMajor && version->minor_version >= inputMinor);
@@ -77,8 +78,8 @@ Result<> Extensions::useKeyboard() const {
     constexpr std::uint16_t minor = 0;
     const Error unusable = missing("the XKB extension", "it cannot be used");
     if (!has(xcb_xkb_id)) return unusable;
-    const XReply<xcb_xkb_use_extension_reply_t> reply(xcb_xkb_use_extension_reply(
-        m_connection, xcb_xkb_use_extension(m_connection, major, minor), nullptr));
+    const auto reply =
+        replyTo(m_connection, xcb_xkb_use_extension(m_connection, major, minor), xcb_xkb_use_extension_reply);
     return reply && reply->supported != 0 ? Result<>() : unusable;
 }
 
@@ -100,9 +101,9 @@ bool Extensions::has(xcb_extension_t& extension) const {
 }
 
 bool Extensions::has(std::string_view name) const {
-    const XReply<xcb_query_extension_reply_t> reply(xcb_query_extension_reply(
+    const auto reply = replyTo(
         m_connection, xcb_query_extension(m_connection, static_cast<std::uint16_t>(name.size()), name.data()),
-        nullptr));
+        xcb_query_extension_reply);
     return reply && reply->present != 0;
 }
 

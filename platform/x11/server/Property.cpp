@@ -18,9 +18,9 @@ std::string bytesOf(const xcb_get_property_reply_t& reply) {
 }  // namespace
 
 XReply<xcb_get_property_reply_t> Property::read(bool isTaken, xcb_atom_t type, std::uint32_t units) const {
-    return XReply<xcb_get_property_reply_t>(xcb_get_property_reply(
-        m_connection, xcb_get_property(m_connection, isTaken ? 1 : 0, m_window, m_name, type, 0, units),
-        nullptr));
+    return replyTo(m_connection,
+                   xcb_get_property(m_connection, isTaken ? 1 : 0, m_window, m_name, type, 0, units),
+                   xcb_get_property_reply);
 }
 
 bool Property::exists() const {

@@ -26,26 +26,27 @@ std::bitset<256> bitsOf(const xcb_input_key_state_t& state) {
 }  // namespace
 
 xcb_atom_t xtestMark(xcb_connection_t* connection) {
-    const XReply<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection,
-                              xcb_intern_atom(connection, 1, static_cast<std::uint16_t>(xtestProperty.size()),
-                                              xtestProperty.data()),
-                              nullptr));
+    const auto reply =
+        replyTo(connection,
+                xcb_intern_atom(connection, 1, static_cast<std::uint16_t>(xtestProperty.size()),
+                                xtestProperty.data()),
+                xcb_intern_atom_reply);
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
 bool isXtest(xcb_connection_t* connection, std::uint16_t device, xcb_atom_t mark) {
     if (mark == XCB_ATOM_NONE) return false;
-    const XReply<xcb_input_xi_get_property_reply_t> reply(xcb_input_xi_get_property_reply(
-        connection, xcb_input_xi_get_property(connection, device, 0, mark, XCB_ATOM_ANY, 0, 1), nullptr));
+    const auto reply =
+        replyTo(connection, xcb_input_xi_get_property(connection, device, 0, mark, XCB_ATOM_ANY, 0, 1),
+                xcb_input_xi_get_property_reply);
     return reply && reply->type != XCB_ATOM_NONE;
 }
 
 std::vector<SlaveKeyboard> slaveKeyboards(xcb_connection_t* connection) {
     std::vector<SlaveKeyboard> keyboards;
     const xcb_atom_t mark = xtestMark(connection);
-    const XReply<xcb_input_xi_query_device_reply_t> reply(xcb_input_xi_query_device_reply(
-        connection, xcb_input_xi_query_device(connection, XCB_INPUT_DEVICE_ALL), nullptr));
+    const auto reply = replyTo(connection, xcb_input_xi_query_device(connection, XCB_INPUT_DEVICE_ALL),
+                               xcb_input_xi_query_device_reply);
     if (!reply) return keyboards;
     for (auto info = xcb_input_xi_query_device_infos_iterator(reply.get()); info.rem > 0;
          xcb_input_xi_device_info_next(&info)) {
@@ -58,9 +59,9 @@ std::vector<SlaveKeyboard> slaveKeyboards(xcb_connection_t* connection) {
 }
 
 std::bitset<256> keysDownOn(xcb_connection_t* connection, const SlaveKeyboard& keyboard) {
-    const XReply<xcb_input_query_device_state_reply_t> reply(xcb_input_query_device_state_reply(
+    const auto reply = replyTo(
         connection, xcb_input_query_device_state(connection, static_cast<std::uint8_t>(keyboard.device)),
-        nullptr));
+        xcb_input_query_device_state_reply);
     if (!reply) return {};
     for (auto state = xcb_input_query_device_state_classes_iterator(reply.get()); state.rem > 0;
          xcb_input_input_state_next(&state)) {
@@ -83,8 +84,7 @@ int releaseXtestKeys(xcb_connection_t* connection) {
             ++released;
         }
     }
-    const XReply<xcb_get_input_focus_reply_t> done(
-        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    const auto done = replyTo(connection, xcb_get_input_focus(connection), xcb_get_input_focus_reply);
     return released;
 }
 

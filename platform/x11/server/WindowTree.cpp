@@ -8,15 +8,13 @@ namespace x11 {
 namespace {
 
 XReply<xcb_query_tree_reply_t> around(xcb_connection_t* connection, xcb_window_t window) {
-    return XReply<xcb_query_tree_reply_t>(
-        xcb_query_tree_reply(connection, xcb_query_tree(connection, window), nullptr));
+    return replyTo(connection, xcb_query_tree(connection, window), xcb_query_tree_reply);
 }
 
 }  // namespace
 
 xcb_window_t WindowTree::focus() const {
-    const XReply<xcb_get_input_focus_reply_t> reply(
-        xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    const auto reply = replyTo(m_connection, xcb_get_input_focus(m_connection), xcb_get_input_focus_reply);
     return reply ? reply->focus : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
 }
 
@@ -25,8 +23,8 @@ xcb_window_t WindowTree::receiver() const {
     if (focused != XCB_INPUT_FOCUS_POINTER_ROOT) return focused;
     xcb_window_t window = m_connection.root();
     for (;;) {
-        const XReply<xcb_query_pointer_reply_t> pointer(
-            xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, window), nullptr));
+        const auto pointer =
+            replyTo(m_connection, xcb_query_pointer(m_connection, window), xcb_query_pointer_reply);
         if (!pointer || pointer->child == XCB_WINDOW_NONE) return window;
         window = pointer->child;
     }
@@ -53,8 +51,8 @@ bool WindowTree::exists(xcb_window_t window) const { return around(m_connection,
 
 bool WindowTree::isOnScreen(xcb_window_t window) const {
     if (window == XCB_WINDOW_NONE) return false;
-    const XReply<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
-        m_connection, xcb_get_window_attributes(m_connection, window), nullptr));
+    const auto reply = replyTo(m_connection, xcb_get_window_attributes(m_connection, window),
+                               xcb_get_window_attributes_reply);
     return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 

@@ -39,8 +39,7 @@ Event XConnection::awaitEvent() const {
 }
 
 void XConnection::roundTrip() const {
-    const XReply<xcb_get_input_focus_reply_t> reply(
-        xcb_get_input_focus_reply(get(), xcb_get_input_focus(get()), nullptr));
+    const auto reply = replyTo(get(), xcb_get_input_focus(get()), xcb_get_input_focus_reply);
 }
 
 void XConnection::findAtoms(std::span<const char* const> names, std::span<xcb_atom_t> found) const {
@@ -50,14 +49,14 @@ void XConnection::findAtoms(std::span<const char* const> names, std::span<xcb_at
         questions.push_back(xcb_intern_atom(get(), 0, length, name));
     }
     for (std::size_t i = 0; i < questions.size(); ++i) {
-        const XReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(get(), questions[i], nullptr));
+        const auto reply = replyTo(get(), questions[i], xcb_intern_atom_reply);
         found[i] = reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
     }
 }
 
 xcb_window_t XConnection::ownerOf(xcb_atom_t selection) const {
-    const XReply<xcb_get_selection_owner_reply_t> reply(
-        xcb_get_selection_owner_reply(get(), xcb_get_selection_owner(get(), selection), nullptr));
+    const auto reply =
+        replyTo(get(), xcb_get_selection_owner(get(), selection), xcb_get_selection_owner_reply);
     return reply ? reply->owner : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
 }
 

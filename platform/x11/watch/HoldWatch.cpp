@@ -66,10 +66,8 @@ HoldSigns HoldWatch::look(Clock::Time now) {
     const auto pointer = xcb_grab_pointer(m_asker, 0, m_question.id(), 0, XCB_GRAB_MODE_ASYNC,
                                           XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);
     HoldSigns signs;
-    signs.keyboard =
-        isHeld(XReply<xcb_grab_keyboard_reply_t>(xcb_grab_keyboard_reply(m_asker, keyboard, nullptr)));
-    signs.pointer =
-        isHeld(XReply<xcb_grab_pointer_reply_t>(xcb_grab_pointer_reply(m_asker, pointer, nullptr)));
+    signs.keyboard = isHeld(replyTo(m_asker, keyboard, xcb_grab_keyboard_reply));
+    signs.pointer = isHeld(replyTo(m_asker, pointer, xcb_grab_pointer_reply));
     if (signs.keyboard && !m_since) m_since = now;
     if (!signs.keyboard) m_since.reset();
     // What happened to windows before the answer is known with this.
@@ -96,11 +94,11 @@ void HoldWatch::readEvents(Clock::Time now) {
 }
 
 void HoldWatch::addSigns(HoldSigns& signs) const {
-    const XReply<xcb_get_geometry_reply_t> screen(
-        xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, m_connection.root()), nullptr));
+    const auto screen =
+        replyTo(m_connection, xcb_get_geometry(m_connection, m_connection.root()), xcb_get_geometry_reply);
     for (const Candidate& candidate : m_candidates) {
-        const XReply<xcb_get_geometry_reply_t> place(
-            xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, candidate.window), nullptr));
+        const auto place =
+            replyTo(m_connection, xcb_get_geometry(m_connection, candidate.window), xcb_get_geometry_reply);
         if (!screen || !place) continue;
         const bool covers = place->width >= screen->width && place->height >= screen->height;
         // A window without a depth cannot be seen.

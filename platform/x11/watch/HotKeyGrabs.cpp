@@ -38,7 +38,7 @@ std::optional<std::string> HotKeyGrabs::grab(const KeyGrab& grab) {
     }
     std::optional<std::string> failure;
     for (const xcb_void_cookie_t cookie : cookies) {
-        const XReply<xcb_generic_error_t> error(xcb_request_check(m_connection, cookie));
+        const auto error = refusalOf(m_connection, cookie);
         if (error && !failure) failure = reason(*error);
     }
     if (!failure && m_connection.isBroken()) failure = "the X server is gone";

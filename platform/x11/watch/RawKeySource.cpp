@@ -71,8 +71,7 @@ void RawKeySource::catchUp() {
 }
 
 std::vector<std::uint8_t> RawKeySource::keysDown() const {
-    const XReply<xcb_query_keymap_reply_t> reply(
-        xcb_query_keymap_reply(m_connection, xcb_query_keymap(m_connection), nullptr));
+    const auto reply = replyTo(m_connection, xcb_query_keymap(m_connection), xcb_query_keymap_reply);
     std::vector<std::uint8_t> keycodes;
     for (unsigned keycode = 8; reply && keycode < 256; ++keycode) {
         const bool down = (reply->keys[keycode / 8] >> (keycode % 8) & 1) != 0;
@@ -139,8 +138,8 @@ void RawKeySource::decodeState(const Event& event) {
 }
 
 void RawKeySource::noteRepeatDelay() {
-    const XReply<xcb_xkb_get_controls_reply_t> controls(xcb_xkb_get_controls_reply(
-        m_connection, xcb_xkb_get_controls(m_connection, XCB_XKB_ID_USE_CORE_KBD), nullptr));
+    const auto controls = replyTo(m_connection, xcb_xkb_get_controls(m_connection, XCB_XKB_ID_USE_CORE_KBD),
+                                  xcb_xkb_get_controls_reply);
     if (controls) m_events.emplace_back(RepeatDelay{controls->repeatDelay});
 }
 

@@ -92,7 +92,7 @@ Result<void> RepeatSource::start() {
     xcb_record_range_t range{};
     range.device_events = {XCB_KEY_PRESS, XCB_KEY_RELEASE};
     const auto created = xcb_record_create_context_checked(m_control, m_context, 0, 1, 1, &everybody, &range);
-    if (const XReply<xcb_generic_error_t> error{xcb_request_check(m_control, created)}) return missing;
+    if (refusalOf(m_control, created)) return missing;
     enable();
     return {};
 }
