@@ -42,7 +42,7 @@ BEGIN {
     room("platform/x11", "platform platform/none platform/x11/press platform/x11/server platform/x11/watch" \
                          " platform/x11/windows", "", "^(Q|boost/|wayland)")
 
-    room("platform/desktops", "platform platform/monitor", "", foreign)
+    room("platform/desktops", "platform platform/linux platform/monitor", "", foreign)
     room("platform/wayland", "platform platform/desktops platform/keymap platform/monitor platform/none platform/press" \
                              " platform/run", "",
          "^(Q|boost/|xcb/|X11/)")

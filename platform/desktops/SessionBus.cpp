@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "platform/desktops/SessionBus.h"
+
+#include <poll.h>
+
+#include <chrono>
+#include <utility>
+
+#include "platform/linux/BusAddresses.h"
+
+namespace {
+
+constexpr int patience = 2000;
+
+const char* orAny(const std::string& text) { return text.empty() ? nullptr : text.c_str(); }
+
+}  // namespace
+
+std::string SessionBus::addressOfProcess() { return busAddresses(environmentOfProcess()).session; }
+
+SessionBus::SessionBus(const std::string& address)
+    : m_connection(
+          m_loop, address, [this] { opened(); }, [] {}) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(patience);
+    for (m_loop.update(); m_connection.isOpening() && std::chrono::steady_clock::now() < end;
+         m_loop.update()) {
+        pollfd entry{.fd = m_loop.fileDescriptor(), .events = POLLIN, .revents = 0};
+        poll(&entry, 1, patience);
+    }
+}
+
+void SessionBus::opened() {
+    for (const Hearing& hearing : m_hearings) listen(hearing);
+    if (!std::exchange(m_hasBeenOpen, true)) return;
+    for (const auto& replaced : m_replaced) replaced();
+}
+
+void SessionBus::listen(const Hearing& hearing) {
+    m_connection.hear(orAny(hearing.sender), orAny(hearing.path), orAny(hearing.interface),
+                      orAny(hearing.member), hearing.heard);
+}
+
+void SessionBus::hear(const char* sender, const char* path, const char* interface, const char* member,
+                      BusConnection::Heard heard) {
+    const auto text = [](const char* value) { return std::string(value == nullptr ? "" : value); };
+    m_hearings.push_back({text(sender), text(path), text(interface), text(member), std::move(heard)});
+    if (isOpen()) listen(m_hearings.back());
+}
+
+Result<GVariantPointer> SessionBus::ask(const Method& method, GVariant* parameters, const char* type) const {
+    if (!isOpen()) {
+        if (parameters != nullptr) g_variant_unref(g_variant_ref_sink(parameters));
+        return Error{"There is no session bus.", "Log in again."};
+    }
+    const GVariantType* const wanted = type == nullptr ? nullptr : G_VARIANT_TYPE(type);
+    GError* error = nullptr;
+    GVariantPointer answer(g_dbus_connection_call_sync(
+        get(), method.name, method.path, method.interface, method.member, parameters, wanted,
+        G_DBUS_CALL_FLAGS_NO_AUTO_START, patience, nullptr, &error));
+    if (answer) return answer;
+    const GFailure failure(error);
+    g_dbus_error_strip_remote_error(failure.get());
+    return Error{failure->message, ""};
+}
+
+void SessionBus::tell(const Method& method, GVariant* parameters) const {
+    const GVariantPointer owned(parameters == nullptr ? nullptr : g_variant_ref_sink(parameters));
+    if (!isOpen()) return;
+    g_dbus_connection_call(get(), method.name, method.path, method.interface, method.member, owned.get(),
+                           nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START, patience, nullptr, nullptr, nullptr);
+}
+
+bool SessionBus::has(const char* name) const {
+    const auto answer =
+        ask({"org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameHasOwner"},
+            g_variant_new("(s)", name), "(b)");
+    gboolean isThere = FALSE;
+    if (answer) g_variant_get(answer.value().get(), "(b)", &isThere);
+    return isThere == TRUE;
+}
+
+std::string SessionBus::ownName() const { return isOpen() ? g_dbus_connection_get_unique_name(get()) : ""; }

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/Result.h"
+#include "platform/linux/BusConnection.h"
+#include "platform/linux/BusContext.h"
+
+/// The session bus, for questions to the desktop whose answers are waited for, and for its signals.
+///
+/// Signals come in update() alone. A bus that dies is found again when another one comes in its place.
+class SessionBus {
+  public:
+    using Method = BusConnection::Method;
+
+    /// At the address of the process's environment. Waits until it is there, or it is clear that there is
+    /// none; two seconds at the most.
+    SessionBus() : SessionBus(addressOfProcess()) {}
+    explicit SessionBus(const std::string& address);
+    SessionBus(const SessionBus&) = delete;
+    SessionBus& operator=(const SessionBus&) = delete;
+
+    bool isOpen() const { return m_connection.isOpen(); }
+
+    /// Who is told, in update(), that another bus has come in the place of one that had died: what was heard
+    /// and asked there is gone. For the life of the bus.
+    void whenReplaced(std::function<void()> replaced) { m_replaced.push_back(std::move(replaced)); }
+
+    /// The answer, of that type ("(u)"), for which it waits two seconds at the most. Fails where nobody has
+    /// the name, who is not started for it, and where he answers with an error: the message is his.
+    Result<GVariantPointer> ask(const Method& method, GVariant* parameters, const char* type) const;
+    /// Without waiting for an answer, in the order of the calls.
+    void tell(const Method& method, GVariant* parameters) const;
+    /// Whether somebody has that name.
+    bool has(const char* name) const;
+
+    /// As BusConnection has it, but also on a bus that comes later.
+    void hear(const char* sender, const char* path, const char* interface, const char* member,
+              BusConnection::Heard heard);
+
+    /// ":1.42"; empty while it is not open.
+    std::string ownName() const;
+    GDBusConnection* get() const { return m_connection.get(); }
+    const BusLoop& loop() const { return m_loop; }
+
+    /// Readable when update() has something to do.
+    int fileDescriptor() const { return m_loop.fileDescriptor(); }
+    void update() const { m_loop.update(); }
+
+  private:
+    struct Hearing {
+        std::string sender;
+        std::string path;
+        std::string interface;
+        std::string member;
+        BusConnection::Heard heard;
+    };
+
+    static std::string addressOfProcess();
+    void opened();
+    void listen(const Hearing& hearing);
+
+    std::vector<Hearing> m_hearings;
+    std::vector<std::function<void()>> m_replaced;
+    bool m_hasBeenOpen = false;
+    BusLoop m_loop;
+    BusConnection m_connection;
+};
