@@ -29,6 +29,7 @@ enum class Means {
     swayTree,         ///< sway's tree of windows, by its IPC
     dataControl,      ///< the clipboard of a Wayland compositor, without a window
     ordinaryWindow,   ///< a window as all others
+    layer,            ///< a layer above all windows
 };
 
 /// What is lacking, and would make a capability better if it were there. What can be done about it is the
@@ -55,7 +56,7 @@ inline constexpr std::array allMeans{
     Means::none,           Means::xInput,          Means::xGrab,         Means::xTest,
     Means::xSelection,     Means::xWindow,         Means::windowManager, Means::dockingTray,
     Means::statusNotifier, Means::virtualKeyboard, Means::swayBindings,  Means::swayTree,
-    Means::dataControl,    Means::ordinaryWindow};
+    Means::dataControl,    Means::ordinaryWindow,  Means::layer};
 inline constexpr std::array allLacks{Lack::nothing,     Lack::display,        Lack::xInput,
                                      Lack::xkb,         Lack::xTest,          Lack::record,
                                      Lack::guard,       Lack::nativeWindows,  Lack::tray,

@@ -6,6 +6,7 @@ class EventMonitor;
 class HotKeys;
 class KeyboardLayout;
 class KeyInjector;
+class Layers;
 class LoginItems;
 class MacroFiles;
 class Notifications;
@@ -35,6 +36,7 @@ struct Services {
     Notifications& notifications;
     ScreenLock& screenLock;
     SessionCheck& sessionCheck;
+    Layers& layers;
 };
 
 /// Installs the services for the life of the scope. Scopes nest; the inner one counts.

@@ -14,6 +14,7 @@ class EventSource;
 class HotKeys;
 class KeyboardLayout;
 class KeyInjector;
+class Layers;
 class ScriptDesktop;
 class SessionCheck;
 class Windows;
@@ -29,6 +30,7 @@ struct SessionServices {
     SessionCheck& sessionCheck;
     Windows& windows;
     DockingTray& dockingTray;
+    Layers& layers;
 };
 
 /// What a program wants of its session.

@@ -44,6 +44,8 @@ QString meansWords(Means means) {
             return tr("the compositor's");
         case Means::ordinaryWindow:
             return tr("as an ordinary window");
+        case Means::layer:
+            return tr("on a layer above all windows");
     }
     Q_UNREACHABLE();
 }

@@ -42,7 +42,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_shared(*this),
       m_stage(windows, [this] { return ordinaryWindows(); }),
       m_menuDesk(item, [this](const MenuState& state) { m_overlayDesk.setPromptPlays(state.promptPlays); }),
-      m_overlayDesk(m_stage, services.clock, services.hotKeys),
+      m_overlayDesk(m_stage, services.clock, services.hotKeys, services.layers),
       m_updateDesk(services.updateService, services.workspace, m_dialogs),
       m_helpDesk(services.workspace, services.systemFacts, m_stage),
       m_filesDesk(services.macroFiles, services.notifications, m_scriptNotices, m_dialogs, m_gate, m_stage),

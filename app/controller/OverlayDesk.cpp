@@ -1,37 +1,51 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/OverlayDesk.h"
 
-#include <QGuiApplication>
-#include <QScreen>
-
 #include "app/controller/Stage.h"
 #include "app/overlay/Alphas.h"
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/RecorderWindow.h"
 #include "app/overlay/SplashAnimation.h"
 #include "app/overlay/SplashWindow.h"
+#include "app/overlay/WindowOnLayer.h"
 #include "engine/MacroPlayer.h"
 #include "platform/Clock.h"
 #include "platform/HotKeys.h"
+#include "platform/Layers.h"
 
 namespace {
 
 /// What the desktop gets to bring the previous application to the front.
 constexpr Clock::Seconds pauseBeforeMultiplePlay{0.5};
 
+/// Belongs to the window from then on.
+template <typename Window>
+void putOnLayer(Window& window, Layers& layers, WindowOnLayer::Input input) {
+    if (!layers.areOffered()) return;
+    new WindowOnLayer(window, layers, input,
+                      [&window](const QSize& screen) { return window.placeOn(screen); });
+}
+
 }  // namespace
 
-OverlayDesk::OverlayDesk(Stage& stage, Clock& clock, const HotKeys& hotKeys)
-    : m_stage(stage), m_clock(clock), m_hotKeys(hotKeys) {}
+OverlayDesk::OverlayDesk(Stage& stage, Clock& clock, const HotKeys& hotKeys, Layers& layers)
+    : m_stage(stage), m_clock(clock), m_hotKeys(hotKeys), m_layers(layers) {}
 
 OverlayDesk::~OverlayDesk() = default;
 
+RecorderWindow& OverlayDesk::builtRecorder() {
+    if (m_recorder) return *m_recorder;
+    m_recorder = std::make_unique<RecorderWindow>();
+    putOnLayer(*m_recorder, m_layers, WindowOnLayer::Input::letsThrough);
+    return *m_recorder;
+}
+
 void OverlayDesk::showRecorder() {
-    if (!m_recorder) m_recorder = std::make_unique<RecorderWindow>();
-    m_recorder->place();
+    RecorderWindow& recorder = builtRecorder();
+    recorder.place();
     m_keysAreHeldBack = false;
     setMacroString("");
-    m_stage.fadeIn(*m_recorder, overlayAlpha);
+    m_stage.fadeIn(recorder, overlayAlpha);
 }
 
 void OverlayDesk::hideRecorder() {
@@ -63,9 +77,8 @@ MultiplePlayWindow& OverlayDesk::builtPrompt() {
     m_prompt = std::make_unique<MultiplePlayWindow>();
     connect(m_prompt.get(), &MultiplePlayWindow::confirmed, this, &OverlayDesk::promptConfirmed);
     connect(m_prompt.get(), &MultiplePlayWindow::dismissed, this, &OverlayDesk::dismissPrompt);
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    m_prompt->move(screen.x() + (screen.width() - m_prompt->width()) / 2,
-                   screen.y() + (screen.height() - m_prompt->height()) / 3);
+    m_prompt->place();
+    putOnLayer(*m_prompt, m_layers, WindowOnLayer::Input::takes);
     return *m_prompt;
 }
 

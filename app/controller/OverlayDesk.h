@@ -8,6 +8,7 @@
 
 class Clock;
 class HotKeys;
+class Layers;
 class MultiplePlayWindow;
 class RecorderWindow;
 class SplashWindow;
@@ -19,8 +20,8 @@ class OverlayDesk : public QObject {
     Q_OBJECT
 
   public:
-    /// All outlive the desk.
-    OverlayDesk(Stage& stage, Clock& clock, const HotKeys& hotKeys);
+    /// All outlive the desk. The recorder and the prompt are shown on layers where those are offered.
+    OverlayDesk(Stage& stage, Clock& clock, const HotKeys& hotKeys, Layers& layers);
     ~OverlayDesk() override;
 
     /// With an empty text, in its place.
@@ -56,12 +57,14 @@ class OverlayDesk : public QObject {
     void promptConfirmed();
 
   private:
+    RecorderWindow& builtRecorder();
     MultiplePlayWindow& builtPrompt();
     void refreshRecorder();
 
     Stage& m_stage;
     Clock& m_clock;
     const HotKeys& m_hotKeys;
+    Layers& m_layers;
     std::unique_ptr<RecorderWindow> m_recorder;
     std::string m_macroString;
     bool m_keysAreHeldBack = false;

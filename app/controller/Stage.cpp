@@ -3,12 +3,16 @@
 
 #include "app/overlay/Alphas.h"
 #include "app/overlay/Fades.h"
+#include "app/overlay/WindowOnLayer.h"
 #include "app/widgets/IsShown.h"
 #include "platform/Windows.h"
 
 namespace {
 
-WindowId windowIdOf(const QWidget& window) { return static_cast<WindowId>(window.winId()); }
+/// `none` for one that the window system knows nothing of.
+WindowId windowIdOf(const QWidget& window) {
+    return WindowOnLayer::holds(window) ? Windows::none : static_cast<WindowId>(window.winId());
+}
 
 }  // namespace
 
@@ -40,7 +44,9 @@ void Stage::present(QWidget& panel) {
 }
 
 void Stage::activate(QWidget& window, std::uint32_t userTime) {
-    m_windows.activate(windowIdOf(window), userTime);
+    // A layer that takes the keyboard has it already.
+    const WindowId id = windowIdOf(window);
+    if (id != Windows::none) m_windows.activate(id, userTime);
 }
 
 void Stage::awaitFocusElsewhere(const QWidget* hidden) {

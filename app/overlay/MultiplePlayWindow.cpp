@@ -2,11 +2,13 @@
 #include "app/overlay/MultiplePlayWindow.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 
 #include "app/icons/DataFolder.h"
 #include "app/overlay/MultiplePlayView.h"
@@ -58,6 +60,15 @@ void MultiplePlayWindow::addControls(QWidget& view) {
     layout->addStretch();
     layout->addWidget(m_playButton);
     layout->addSpacing(margin);
+}
+
+QPoint MultiplePlayWindow::placeOn(const QSize& screen) const {
+    return {(screen.width() - width()) / 2, (screen.height() - height()) / 3};
+}
+
+void MultiplePlayWindow::place() {
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    move(screen.topLeft() + placeOn(screen.size()));
 }
 
 void MultiplePlayWindow::setPlays(bool plays) {

@@ -16,6 +16,11 @@ class MultiplePlayWindow : public QWidget {
     /// With its picture from that folder.
     explicit MultiplePlayWindow(const QString& folder);
 
+    /// Where its upper left corner goes on a screen of that size, whose own is 0, 0.
+    QPoint placeOn(const QSize& screen) const;
+    /// Moves there on the primary screen.
+    void place();
+
     /// Whether the button and Return play; the button says so if not.
     void setPlays(bool plays);
 

@@ -2,6 +2,7 @@
 #include "app/overlay/PictureView.h"
 
 #include <QPainter>
+#include <cmath>
 
 PictureView::PictureView(const QString& folder, const QString& name, QWidget* parent) : QWidget(parent) {
     loadImage(folder, name);
@@ -20,5 +21,7 @@ void PictureView::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void PictureView::drawImage(QPainter& painter) const {
-    painter.drawPixmap(0, 0, m_image.pixmap(size(), devicePixelRatioF()));
+    // Not this widget's own: the picture may be painted for a sharper screen than the toolkit knows of.
+    const qreal ratio = std::abs(painter.deviceTransform().m11());
+    painter.drawPixmap(0, 0, m_image.pixmap(size(), ratio));
 }

@@ -43,11 +43,15 @@ RecorderWindow::RecorderWindow(const QString& folder)
     resize(RecorderView::pictureSize);
 }
 
-void RecorderWindow::place() {
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+QPoint RecorderWindow::placeOn(const QSize& screen) const {
     const OverlayOrigin origin = overlayOrigin({screen.width(), screen.height()}, {width(), height()});
     // The formula counts upwards from the lower left corner, the window system downwards from the upper left.
-    move(screen.x() + origin.x, screen.y() + screen.height() - origin.y - height());
+    return {origin.x, screen.height() - origin.y - height()};
+}
+
+void RecorderWindow::place() {
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    move(screen.topLeft() + placeOn(screen.size()));
 }
 
 void RecorderWindow::setMacroString(const std::string& text) { m_macroText->setText(text); }

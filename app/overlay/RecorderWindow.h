@@ -17,7 +17,10 @@ class RecorderWindow : public QWidget {
     /// With its picture from that folder.
     explicit RecorderWindow(const QString& folder);
 
-    /// Moves to the upper right corner of the primary screen.
+    /// Where its upper left corner goes on a screen of that size, whose own is 0, 0: near the upper right
+    /// one.
+    QPoint placeOn(const QSize& screen) const;
+    /// Moves there on the primary screen.
     void place();
     /// UTF-8.
     void setMacroString(const std::string& text);

@@ -42,7 +42,8 @@ struct Backends::Parts {
                       .macroFiles = neutral.macroFiles,
                       .notifications = neutral.notifications,
                       .screenLock = neutral.screenLock,
-                      .sessionCheck = own.sessionCheck};
+                      .sessionCheck = own.sessionCheck,
+                      .layers = own.layers};
     ServicesScope scope{services};
 };
 

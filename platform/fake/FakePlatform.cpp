@@ -26,5 +26,6 @@ Services FakePlatform::servicesWith(KeyboardLayout& layout) {
             .macroFiles = macroFiles,
             .notifications = notifications,
             .screenLock = screenLock,
-            .sessionCheck = sessionCheck};
+            .sessionCheck = sessionCheck,
+            .layers = layers};
 }

@@ -9,6 +9,7 @@
 #include "platform/fake/FakeKeyInjector.h"
 #include "platform/fake/FakeKeyboard.h"
 #include "platform/fake/FakeKeyboardLayout.h"
+#include "platform/fake/FakeLayers.h"
 #include "platform/fake/FakeLoginItems.h"
 #include "platform/fake/FakeMacroFiles.h"
 #include "platform/fake/FakeNotifications.h"
@@ -49,5 +50,6 @@ struct FakePlatform {
     FakeNotifications notifications{journal};
     FakeScreenLock screenLock;
     FakeSessionCheck sessionCheck{journal};
+    FakeLayers layers;
     Services services;
 };

@@ -2,7 +2,6 @@
 #include "platform/wayland/SeatKeymap.h"
 
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -14,23 +13,12 @@
 #include <utility>
 
 #include "platform/Descriptor.h"
+#include "platform/wayland/KeymapText.h"
 #include "platform/wayland/TypingKeymap.h"
 
 namespace wayland {
 
 namespace {
-
-constexpr std::uint32_t greatestKeymap = 4U << 20U;
-
-std::string contentOf(int file, std::uint32_t size) {
-    if (size == 0 || size > greatestKeymap) return {};
-    void* const memory = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file, 0);
-    if (memory == MAP_FAILED) return {};
-    std::string text(static_cast<const char*>(memory), size);
-    munmap(memory, size);
-    // It ends with a zero, which the size counts.
-    return text.substr(0, text.find('\0'));
-}
 
 std::string fileIn(const std::string& folder) {
     const char* const display = std::getenv("WAYLAND_DISPLAY");
@@ -95,7 +83,7 @@ void SeatKeymap::told(void* self, wl_keyboard* /*keyboard*/, std::uint32_t forma
                       std::uint32_t size) {
     const Descriptor owned(file);
     if (format != WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1) return;
-    std::string text = contentOf(file, size);
+    std::string text = keymapText(file, size);
     auto& keymap = *static_cast<SeatKeymap*>(self);
     if (!keymap.m_isMuted && !TypingKeymap::isOurs(text)) keymap.adopt(std::move(text));
 }

@@ -51,18 +51,28 @@ void WaylandConnection::removed(void* self, wl_registry* /*registry*/, std::uint
                   [name](const Global& global) { return global.name == name; });
 }
 
-std::uint32_t WaylandConnection::nameOf(const wl_interface& interface) const {
-    const auto place = std::find_if(m_globals.begin(), m_globals.end(),
-                                    [&](const Global& global) { return global.interface == interface.name; });
-    return place == m_globals.end() ? 0 : place->name;
+bool WaylandConnection::offers(const wl_interface& interface) const {
+    return std::any_of(m_globals.begin(), m_globals.end(),
+                       [&](const Global& global) { return global.interface == interface.name; });
+}
+
+void* WaylandConnection::bind(const Global& global, const wl_interface& interface,
+                              std::uint32_t version) const {
+    return wl_registry_bind(m_registry, global.name, &interface, std::min(version, global.version));
 }
 
 void* WaylandConnection::bind(const wl_interface& interface, std::uint32_t version) const {
-    const std::uint32_t name = nameOf(interface);
-    if (name == 0) return nullptr;
     const auto place = std::find_if(m_globals.begin(), m_globals.end(),
-                                    [name](const Global& global) { return global.name == name; });
-    return wl_registry_bind(m_registry, name, &interface, std::min(version, place->version));
+                                    [&](const Global& global) { return global.interface == interface.name; });
+    return place == m_globals.end() ? nullptr : bind(*place, interface, version);
+}
+
+std::vector<void*> WaylandConnection::bindAll(const wl_interface& interface, std::uint32_t version) const {
+    std::vector<void*> bound;
+    for (const Global& global : m_globals) {
+        if (global.interface == interface.name) bound.push_back(bind(global, interface, version));
+    }
+    return bound;
 }
 
 void WaylandConnection::flush() {

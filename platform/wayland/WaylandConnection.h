@@ -36,10 +36,12 @@ class WaylandConnection final : public EventSource {
     /// Whether the connection is lost.
     bool isBroken() const;
 
-    bool offers(const wl_interface& interface) const { return nameOf(interface) != 0; }
+    bool offers(const wl_interface& interface) const;
     /// An object of the first global of that interface, the caller's to destroy; null where there is none.
     /// `version` is the newest that the caller speaks.
     void* bind(const wl_interface& interface, std::uint32_t version) const;
+    /// The same of each global of that interface, in the order in which they came.
+    std::vector<void*> bindAll(const wl_interface& interface, std::uint32_t version) const;
 
     /// The first seat; null where there is none.
     wl_seat* seat() const { return m_seat; }
@@ -56,7 +58,7 @@ class WaylandConnection final : public EventSource {
     static void added(void* self, wl_registry* registry, std::uint32_t name, const char* interface,
                       std::uint32_t version);
     static void removed(void* self, wl_registry* registry, std::uint32_t name);
-    std::uint32_t nameOf(const wl_interface& interface) const;
+    void* bind(const Global& global, const wl_interface& interface, std::uint32_t version) const;
 
     wl_display* m_display;
     wl_registry* m_registry = nullptr;

@@ -3,6 +3,7 @@
 
 #include <virtual-keyboard-unstable-v1-client-protocol.h>
 #include <wlr-data-control-unstable-v1-client-protocol.h>
+#include <wlr-layer-shell-unstable-v1-client-protocol.h>
 
 #include <cstdlib>
 #include <optional>
@@ -12,9 +13,11 @@
 #include "platform/none/NoCapabilities.h"
 #include "platform/none/NoDockingTray.h"
 #include "platform/none/NoHotKeys.h"
+#include "platform/none/NoLayers.h"
 #include "platform/wayland/WaylandEventMonitor.h"
 #include "platform/wayland/WaylandKeyInjector.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
+#include "platform/wayland/WaylandLayers.h"
 #include "platform/wayland/WaylandRunWatch.h"
 #include "platform/wayland/WaylandScriptDesktop.h"
 #include "platform/wayland/WaylandWindows.h"
@@ -76,7 +79,9 @@ SessionCapabilities WaylandSessionCheck::capabilities() const {
             .pressing = pressing,
             .text = pressing,
             .clipboard = fullyIf(hasClipboard, Means::dataControl, Lack::dataControl),
-            .overlay = {Extent::partly, Means::ordinaryWindow, Lack::layers},
+            .overlay = connection.value()->offers(zwlr_layer_shell_v1_interface)
+                           ? CapabilityState{Extent::fully, Means::layer, Lack::nothing}
+                           : CapabilityState{Extent::partly, Means::ordinaryWindow, Lack::layers},
             .windows = fullyIf(isSway(), Means::swayTree, Lack::foreignWindows),
             .tray = {.lack = Lack::tray}};
 }
@@ -88,6 +93,7 @@ SessionDetails WaylandSessionCheck::details() const {
     details.parts = {
         {"virtual keyboard", connection.value()->offers(zwp_virtual_keyboard_manager_v1_interface)},
         {"data control", connection.value()->offers(zwlr_data_control_manager_v1_interface)},
+        {"layer shell", connection.value()->offers(zwlr_layer_shell_v1_interface)},
         {"sway", isSway()}};
     return details;
 }
@@ -106,6 +112,7 @@ class WaylandSession final : public Session {
     std::vector<EventSource*> eventSources() override {
         std::vector<EventSource*> sources{m_connection.get()};
         if (m_hotKeys) sources.push_back(m_hotKeys.get());
+        if (m_layers && m_layers->areOffered()) sources.push_back(m_layers->eventSource());
         return sources;
     }
     void interrupt() noexcept override { m_injector.interrupt(); }
@@ -142,6 +149,9 @@ class WaylandSession final : public Session {
     NoHotKeys m_noHotKeys{noHotKeys()};
     WaylandWindows m_windows{m_sway.get(), m_clock};
     NoDockingTray m_tray;
+    std::unique_ptr<WaylandLayers> m_layers =
+        m_use == SessionUse::desktop ? std::make_unique<WaylandLayers>() : nullptr;
+    NoLayers m_noLayers;
     SessionServices m_services{.eventMonitor = m_monitor,
                                .hotKeys = m_hotKeys ? static_cast<HotKeys&>(*m_hotKeys) : m_noHotKeys,
                                .keyboardLayout = m_layout,
@@ -149,7 +159,8 @@ class WaylandSession final : public Session {
                                .scriptDesktop = m_scriptDesktop,
                                .sessionCheck = m_check,
                                .windows = m_windows,
-                               .dockingTray = m_tray};
+                               .dockingTray = m_tray,
+                               .layers = m_layers ? static_cast<Layers&>(*m_layers) : m_noLayers};
 };
 
 }  // namespace

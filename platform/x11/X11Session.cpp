@@ -6,6 +6,7 @@
 
 #include "platform/none/NoDockingTray.h"
 #include "platform/none/NoKeys.h"
+#include "platform/none/NoLayers.h"
 #include "platform/none/NoWindows.h"
 #include "platform/x11/X11SessionCheck.h"
 #include "platform/x11/press/X11KeyInjector.h"
@@ -92,6 +93,7 @@ class X11Session final : public Session {
     NoKeys m_noKeys;
     NoWindows m_noWindows;
     NoDockingTray m_noTray;
+    NoLayers m_layers;
     std::unique_ptr<Keys> m_keys;
     std::unique_ptr<Surroundings> m_surroundings;
     X11ScriptDesktop m_scriptDesktop;
@@ -125,7 +127,8 @@ SessionServices X11Session::allServices() {
         .scriptDesktop = m_scriptDesktop,
         .sessionCheck = m_sessionCheck,
         .windows = oneOf<Windows>(m_surroundings ? &m_surroundings->windows : nullptr, m_noWindows),
-        .dockingTray = oneOf<DockingTray>(m_surroundings ? &m_surroundings->dockingTray : nullptr, m_noTray)};
+        .dockingTray = oneOf<DockingTray>(m_surroundings ? &m_surroundings->dockingTray : nullptr, m_noTray),
+        .layers = m_layers};
 }
 
 std::vector<EventSource*> X11Session::eventSources() {

@@ -5,7 +5,7 @@
 
 /// foot, a terminal that is a native Wayland program; it writes every byte that is typed into it to a file.
 /// Neither control characters nor full lines mean anything to it; Return is a line feed. It has the focus
-/// when constructed.
+/// when constructed, and shows the same whether it has it or not.
 class Foot {
   public:
     explicit Foot(const Sway& sway);

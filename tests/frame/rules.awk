@@ -59,7 +59,7 @@ BEGIN {
     app("shortcuts", "prefs core platform")
     app("dialogs", "app/icons app/widgets platform")
     app("check", "app/shortcuts prefs platform")
-    app("overlay", "app/icons app/widgets")
+    app("overlay", "app/icons app/widgets platform")
     app("panels", "app/shortcuts app/widgets platform")
     app("tray", "app/icons app/widgets platform")
     app("controller", "app/dialogs app/overlay app/panels app/shortcuts app/tray app/widgets" \

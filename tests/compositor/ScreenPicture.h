@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "compositor/Sway.h"
+
+/// A rectangle of a screen's own pixels.
+struct ScreenArea {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+
+    friend bool operator==(const ScreenArea&, const ScreenArea&) = default;
+};
+std::ostream& operator<<(std::ostream& stream, const ScreenArea& area);
+
+/// What is to be seen on one of sway's screens, as grim takes it.
+class ScreenPicture {
+  public:
+    using Colour = std::array<std::uint8_t, 3>;
+
+    explicit ScreenPicture(const Sway& sway, const std::string& screen = "HEADLESS-1");
+
+    int width() const { return m_width; }
+    int height() const { return m_height; }
+    const Colour& at(int x, int y) const;
+
+    /// The smallest area outside of which both are the same; empty where they do not differ.
+    std::optional<ScreenArea> differsFrom(const ScreenPicture& other) const;
+
+  private:
+    int m_width = 0;
+    int m_height = 0;
+    std::vector<Colour> m_pixels;
+};
