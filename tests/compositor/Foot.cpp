@@ -14,8 +14,8 @@ Foot::Foot(const Sway& sway) : m_sway(sway) {
     environment["SHELL"] = "/bin/sh";
     m_program = std::make_unique<Child>(
         std::vector<std::string>{
-            "foot", "--config=/dev/null", "--app-id", program(), "sh", "-c",
-            "stty raw -echo icrnl; printf '\\033[?25l'; : > '" + file + "'; exec cat > '" + file + "'"},
+            "foot", "--config=/dev/null", "--override=colors.background=102030", "--app-id", program(), "sh",
+            "-c", "stty raw -echo icrnl; printf '\\033[?25l'; : > '" + file + "'; exec cat > '" + file + "'"},
         Child::Options{.environment = environment, .outputFile = m_folder.file("log")});
     if (!eventually([&] { return std::filesystem::exists(file); }, std::chrono::seconds(20))) {
         throw std::runtime_error("the terminal does not start: " + contentOf(m_folder.file("log")));

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
+#include <cstdint>
+
 #include "compositor/Sway.h"
 
 /// foot, a terminal that is a native Wayland program; it writes every byte that is typed into it to a file.
@@ -9,6 +12,9 @@
 class Foot {
   public:
     explicit Foot(const Sway& sway);
+
+    /// Its colour, where nothing is written: red, green, blue.
+    static constexpr std::array<std::uint8_t, 3> colour{0x10, 0x20, 0x30};
 
     /// How sway and scripts call its window: each has its own name.
     std::string program() const;
