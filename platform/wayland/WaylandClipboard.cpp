@@ -24,6 +24,7 @@ namespace {
 
 constexpr std::chrono::seconds patience{1};
 constexpr int betweenLooks = 10;  // milliseconds
+constexpr std::size_t longestText = 64U << 20U;
 constexpr int longestStart = 2000;
 /// Where a process has its first file beside the standard ones.
 constexpr int firstOwnFile = 3;
@@ -110,11 +111,14 @@ Result<std::string> WaylandClipboard::text() {
         std::array<char, 65536> bytes{};
         const ssize_t size = read(reader.value().number(), bytes.data(), bytes.size());
         if (size < 0 && errno == EINTR) continue;
-        if (size <= 0) return text;
+        if (size < 0) break;
+        if (size == 0) return text;
         text.append(bytes.data(), static_cast<std::size_t>(size));
+        if (text.size() > longestText) return Error{"The text in the clipboard is too long.", ""};
         end = std::chrono::steady_clock::now() + patience;
     }
-    return text;
+    // Whoever falls silent in the middle has given no text.
+    return std::string();
 }
 
 void WaylandClipboard::leave() {

@@ -9,6 +9,7 @@
 #include "cli/FieldScript.h"
 #include "compositor/Field.h"
 #include "compositor/Foot.h"
+#include "compositor/SilentCopier.h"
 #include "compositor/WaylandHands.h"
 #include "support/Keys.h"
 
@@ -220,6 +221,13 @@ TEST_F(WaylandScriptTest, aScriptReadsWhatOthersHaveCopied) {
     outputOf({"sh", "-c", "printf 'één' | wl-copy"}, sway().environment());
     play("set found to the clipboard\n" + keys("keystroke found & \"!\""));
     EXPECT_EQ(foot.typed(6), "één!");
+}
+
+TEST_F(WaylandScriptTest, aTextOfWhichOnlyAPartComesIsNone) {
+    const Foot foot(sway());
+    const SilentCopier copier(sway().socket(), "half of it");
+    play("set found to the clipboard\n" + keys("keystroke \"<\" & found & \">\""));
+    EXPECT_EQ(foot.typed(2), "<>");
 }
 
 TEST_F(WaylandScriptTest, aReaderThatLosesInterestTakesTheClipboardFromNobody) {
