@@ -78,6 +78,13 @@ Result<void> SwayConnection::run(std::string_view command) {
     return {};
 }
 
+uid_t SwayConnection::user() const {
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    const bool isKnown = getsockopt(m_socket.number(), SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0;
+    return isKnown ? peer.uid : getuid();
+}
+
 std::optional<SwayConnection::Event> SwayConnection::nextEvent() {
     while (read(0)) continue;
     while (auto message = takeMessage()) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <sys/types.h>
+
 #include <cstdint>
 #include <deque>
 #include <optional>
@@ -21,7 +23,8 @@ class SwayConnection {
         tree = 4,
         version = 7,
         config = 9,
-        inputs = 100
+        inputs = 100,
+        seats = 101
     };
     static constexpr std::uint32_t workspaceEvent = 0x80000000;
     static constexpr std::uint32_t bindingEvent = 0x80000005;
@@ -43,6 +46,8 @@ class SwayConnection {
     int fileDescriptor() const { return m_socket.number(); }
     /// Takes an event that has come, without waiting.
     std::optional<Event> nextEvent();
+    /// The user that sway runs as.
+    uid_t user() const;
     /// Whether sway has gone.
     bool isBroken() const { return m_isBroken; }
 

@@ -10,6 +10,8 @@
 #include <utility>
 
 #include "platform/desktops/SwayDesktop.h"
+#include "platform/desktops/SwayLock.h"
+#include "platform/monitor/LockAwareMonitor.h"
 #include "platform/none/NoCapabilities.h"
 #include "platform/none/NoDockingTray.h"
 #include "platform/none/NoHotKeys.h"
@@ -50,6 +52,11 @@ Result<void> checkKeys(const WaylandConnection& connection) {
 std::unique_ptr<SwayDesktop> openSway() {
     auto connection = SwayConnection::open();
     return connection ? std::make_unique<SwayDesktop>(std::move(connection).value()) : nullptr;
+}
+
+std::unique_ptr<SwayLock> openSwayLock(const Clock& clock) {
+    auto connection = SwayConnection::open();
+    return connection ? std::make_unique<SwayLock>(std::move(connection).value(), clock) : nullptr;
 }
 
 bool isSway() { return static_cast<bool>(SwayConnection::open()); }
@@ -117,7 +124,11 @@ class WaylandSession final : public Session {
     }
     void interrupt() noexcept override { m_injector.interrupt(); }
     void suspend() noexcept override { m_injector.suspend(); }
-    void endPlaysWhen(std::function<bool()> isLocked) override { m_watch.endPlaysWhen(std::move(isLocked)); }
+    void endPlaysWhen(std::function<bool()> isLocked) override {
+        m_watch.endPlaysWhen([this, isLocked = std::move(isLocked)] {
+            return (isLocked && isLocked()) || hasLockerKeyboard();
+        });
+    }
     Result<void> connection() const override {
         if (m_connection->isBroken()) return Error{"The Wayland compositor is gone.", ""};
         return {};
@@ -132,12 +143,14 @@ class WaylandSession final : public Session {
         auto hotKeys = WaylandHotKeys::open(m_seat);
         return hotKeys ? std::move(hotKeys).value() : nullptr;
     }
+    bool hasLockerKeyboard() { return m_lock && m_lock->isLocked(); }
     xkb_layout_index_t group() { return m_sway ? m_sway->group() : 0; }
 
     std::unique_ptr<WaylandConnection> m_connection;
     Clock& m_clock;
     SessionUse m_use;
     std::unique_ptr<SwayDesktop> m_sway = openSway();
+    std::unique_ptr<SwayLock> m_lock = openSwayLock(m_clock);
     SeatKeymap m_seat{*m_connection, environment("XDG_RUNTIME_DIR"), [this] { return group(); }};
     std::unique_ptr<WaylandHotKeys> m_hotKeys = openHotKeys();
     WaylandRunWatch m_watch{*m_connection, m_hotKeys.get()};
@@ -146,13 +159,14 @@ class WaylandSession final : public Session {
     WaylandScriptDesktop m_scriptDesktop;
     WaylandSessionCheck m_check;
     WaylandEventMonitor m_monitor{noMonitor(), m_hotKeys.get()};
+    LockAwareMonitor m_lockAwareMonitor{m_monitor, [this] { return hasLockerKeyboard(); }};
     NoHotKeys m_noHotKeys{noHotKeys()};
     WaylandWindows m_windows{m_sway.get(), m_clock};
     NoDockingTray m_tray;
     std::unique_ptr<WaylandLayers> m_layers =
         m_use == SessionUse::desktop ? std::make_unique<WaylandLayers>() : nullptr;
     NoLayers m_noLayers;
-    SessionServices m_services{.eventMonitor = m_monitor,
+    SessionServices m_services{.eventMonitor = m_lockAwareMonitor,
                                .hotKeys = m_hotKeys ? static_cast<HotKeys&>(*m_hotKeys) : m_noHotKeys,
                                .keyboardLayout = m_layout,
                                .keyInjector = m_injector,

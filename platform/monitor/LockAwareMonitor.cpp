@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "platform/monitor/LockAwareMonitor.h"
+
+Result<void> LockAwareMonitor::install(Handler handler) {
+    m_handler = std::move(handler);
+    return m_monitor.install([this](const KeyEvent& event) { deliver(event); });
+}
+
+void LockAwareMonitor::setRecording(bool recording) {
+    m_isHeld = false;
+    m_monitor.setRecording(recording);
+}
+
+void LockAwareMonitor::observeHold(std::function<void(bool held)> changed) {
+    m_holdChanged = changed;
+    m_monitor.observeHold(std::move(changed));
+}
+
+void LockAwareMonitor::deliver(const KeyEvent& event) {
+    const bool isPress = event.kind == KeyEventKind::keyDown || event.kind == KeyEventKind::autoRepeat;
+    if (isPress) hold(m_isLocked());
+    if (!isPress || !m_isHeld) m_handler(event);
+}
+
+void LockAwareMonitor::hold(bool isHeld) {
+    if (std::exchange(m_isHeld, isHeld) != isHeld && m_holdChanged) m_holdChanged(isHeld);
+}
