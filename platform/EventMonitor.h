@@ -58,6 +58,17 @@ class EventMonitor {
     /// the layout was chosen in a panel, or is in force only while a key is held.
     virtual void setRecording(bool recording) = 0;
 
+    /// What becomes of a recording where the desktop shows keys only to whom the user allows it.
+    enum class Access {
+        asked,  ///< it is being asked for; no key is seen until it is given
+        given,  ///< keys are seen
+        ended,  ///< it was refused, or has ended in the middle: no key is seen any more
+    };
+    using AccessObserver = std::function<void(Access access, const std::optional<Error>& why)>;
+    /// Who is told of each change of it while a macro is being recorded, once the keys seen before have been
+    /// delivered; at most one. Access that is given at once is not told. `why` is set where it has ended.
+    virtual void observeAccess(AccessObserver /*changed*/) {}
+
     /// Who is told when, in a recording, key presses are no longer delivered because another program has the
     /// keyboard to itself, and when they are again; at most one.
     virtual void observeHold(std::function<void(bool held)> changed) = 0;

@@ -34,6 +34,10 @@ class DeviceOpener {
     /// place.
     virtual void open(const std::set<std::string>& held, Question question, Opened opened) = 0;
 
+    /// Who is told, from the source's dispatch(), that what has been opened must not be read any more: nobody
+    /// is left who could take it back. At most one.
+    virtual void whenLost(std::function<void(const Error& why)> /*lost*/) {}
+
     /// Gives the permission back. An answer on its way is told to nobody.
     virtual void close() = 0;
 

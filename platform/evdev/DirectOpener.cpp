@@ -2,13 +2,22 @@
 #include "platform/evdev/DirectOpener.h"
 
 #include <fcntl.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
 #include "platform/evdev/devices/KeyboardList.h"
 
 namespace evdev {
+
+bool DirectOpener::mayOpen() const {
+    const std::vector<std::string> names = listKeyboards(m_folders);
+    return !names.empty() && std::all_of(names.begin(), names.end(), [this](const std::string& name) {
+        return access((m_folders.devices + "/" + name).c_str(), R_OK) == 0;
+    });
+}
 
 void DirectOpener::open(const std::set<std::string>& held, Question /*question*/, Opened opened) {
     opened(openAllBut(held));

@@ -12,6 +12,9 @@ class DirectOpener final : public DeviceOpener {
   public:
     explicit DirectOpener(InputFolders folders = {}) : m_folders(std::move(folders)) {}
 
+    /// Whether there are keyboards and the user may read all of them. Opens nothing.
+    bool mayOpen() const;
+
     void open(const std::set<std::string>& held, Question question, Opened opened) override;
     void close() override {}
 

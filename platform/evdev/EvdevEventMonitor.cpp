@@ -18,20 +18,15 @@ void EvdevEventMonitor::setKeymap(std::unique_ptr<Keymap> keymap) { m_parts->set
 void EvdevEventMonitor::setLayout(std::uint32_t layout) { m_parts->setLayout(layout); }
 void EvdevEventMonitor::setRepeatRule(const RepeatRule& rule) { m_parts->setRepeatRule(rule); }
 void EvdevEventMonitor::desktopTells(const KeyGrab& grab, bool press) { m_parts->desktopTells(grab, press); }
-void EvdevEventMonitor::setScreenLocked(bool locked) { m_parts->setScreenLocked(locked); }
+void EvdevEventMonitor::desktopForgot() { m_parts->desktopForgot(); }
+void EvdevEventMonitor::listenTo(EventSource& desktop) { m_parts->listenTo(desktop); }
 
 void EvdevEventMonitor::endPlaysWhen(std::function<bool()> isLocked) {
     m_parts->endPlaysWhen(std::move(isLocked));
 }
 
-void EvdevEventMonitor::observeProblem(std::function<void(const std::optional<Error>&)> changed) {
-    m_parts->observeProblem(std::move(changed));
-}
-
 RunWatch& EvdevEventMonitor::runWatch() { return *m_parts; }
 const KeyboardState& EvdevEventMonitor::keyboard() const { return m_parts->keyboard(); }
-
-std::optional<Error> EvdevEventMonitor::shortcoming() const { return m_parts->problem(); }
 
 Result<void> EvdevEventMonitor::install(EventMonitor::Handler handler) {
     m_parts->deliverer().setHandler(std::move(handler));
@@ -42,6 +37,7 @@ void EvdevEventMonitor::setWithheld(bool withheld) { m_parts->setWithheld(withhe
 void EvdevEventMonitor::setKeepsOwnStrokes(bool keeps) { m_parts->setKeepsOwnStrokes(keeps); }
 void EvdevEventMonitor::setRecording(bool recording) { m_parts->setRecording(recording); }
 void EvdevEventMonitor::observeHold(std::function<void(bool held)> /*changed*/) {}
+void EvdevEventMonitor::observeAccess(AccessObserver changed) { m_parts->observeAccess(std::move(changed)); }
 
 void EvdevEventMonitor::install(HotKeys::Handler pressed, HotKeys::Handler released) {
     m_parts->deliverer().setHotKeyHandlers(std::move(pressed), std::move(released));

@@ -3,9 +3,7 @@
 
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <memory>
-#include <optional>
 
 #include "platform/Clock.h"
 #include "platform/EventMonitor.h"
@@ -28,10 +26,14 @@ struct RepeatRule;
 /// The keyboards of a Wayland session as the kernel shows them: the monitor of all key events, and the hot
 /// keys in one order with it.
 ///
-/// Keyboards are open while a macro is recorded or played, and only then; meanwhile hot keys come from the
-/// same stream and what the desktop tells of them is ignored. At other times the desktop alone tells of them
-/// (desktopTells). What a key means is told by the seat's keymap and layout, which others know: setKeymap(),
+/// Keyboards are open while a macro is recorded or played, or a play waits for the modifiers of its hot key,
+/// and only then; meanwhile hot keys come from the same stream, and of what the desktop tells of them
+/// (desktopTells) only that counts which no open keyboard has told. At other times the desktop alone tells of
+/// them. What a key means is told by the seat's keymap and layout, which others know: setKeymap(),
 /// setLayout(), setRepeatRule().
+///
+/// Where the keyboards may not be read, the modifiers of a hot key that starts a playback are taken for held
+/// until a quarter of a second after the desktop has told of its release.
 ///
 /// Nothing seen is logged or kept. Lives on one thread.
 class EvdevEventMonitor final : public EventSource, public EventMonitor, public HotKeys {
@@ -44,6 +46,11 @@ class EvdevEventMonitor final : public EventSource, public EventMonitor, public 
         /// Takes hot keys from the other programs.
         KeyGrabber& grabs;
         InputFolders folders = {};
+        /// The layout that is locked, asked for when keyboards are opened; setLayout() tells of changes. The
+        /// first if empty.
+        std::function<std::uint32_t()> layout = {};
+        /// Whether the desktop has gone, so that a run ends; empty if nobody knows.
+        std::function<bool()> isDesktopLost = {};
     };
     EvdevEventMonitor(const Session& session, std::unique_ptr<Keymap> keymap);
     ~EvdevEventMonitor() override;
@@ -61,17 +68,16 @@ class EvdevEventMonitor final : public EventSource, public EventMonitor, public 
     void setLayout(std::uint32_t layout);
     void setRepeatRule(const RepeatRule& rule);
 
-    /// The desktop tells that a combination which the grabber has taken is pressed, or released.
+    /// Has the monitor read what the desktop tells, also during a run: its dispatch() is to call the
+    /// following, and lives as long as the monitor.
+    void listenTo(EventSource& desktop);
+    /// A combination which the grabber has taken is pressed, or released.
     void desktopTells(const KeyGrab& grab, bool press);
+    /// The desktop has forgotten all that the grabber has taken, so that it is taken again.
+    void desktopForgot();
 
-    /// While the screen is locked neither key presses nor hot keys are delivered, modifier changes go on.
-    void setScreenLocked(bool locked);
     /// A playback ends where that answers true: the screen is locked, as others tell.
     void endPlaysWhen(std::function<bool()> isLocked);
-
-    /// Who is told, from dispatch(), when keyboards could not be opened or can no longer be read, and with
-    /// nothing when they can again; at most one.
-    void observeProblem(std::function<void(const std::optional<Error>&)> changed);
 
     /// What an injector needs while a run lasts. The keys that it presses are on no keyboard, and are known
     /// as soon as they are announced.
@@ -79,13 +85,13 @@ class EvdevEventMonitor final : public EventSource, public EventMonitor, public 
     const KeyboardState& keyboard() const;
 
     // EventMonitor
-    std::optional<Error> shortcoming() const override;
     Result<void> install(EventMonitor::Handler handler) override;
     void setWithheld(bool withheld) override;
     void setKeepsOwnStrokes(bool keeps) override;
     void setRecording(bool recording) override;
     /// Nobody is told: no program of a Wayland session has the keyboard to itself.
     void observeHold(std::function<void(bool held)> changed) override;
+    void observeAccess(AccessObserver changed) override;
 
     // HotKeys
     void install(HotKeys::Handler pressed, HotKeys::Handler released) override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/evdev/EvdevEventParts.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -14,14 +15,17 @@ EvdevEventMonitor::Parts::Parts(const Session& session, std::unique_ptr<Keymap> 
       m_hotKeys(session.grabs, m_keyboard),
       m_interpreter(m_keyboard, m_cancel),
       m_stream({session.clock, m_keyboard, m_cancel, m_hands, m_hotKeys, m_echoes}, m_interpreter),
-      m_keyboards({session.opener, session.calls, session.folders}, m_wakeups, m_stream) {}
+      m_keyboards({session.opener, session.calls, session.folders}, m_wakeups, m_stream),
+      m_layout(session.layout),
+      m_isDesktopLost(session.isDesktopLost) {}
 
 void EvdevEventMonitor::Parts::dispatch() {
     read();
     if (m_running) return;
-    tellProblem();
     m_deliverer.deliver(
         m_interpreter.deliveries(), [this] { read(); }, [] { return false; });
+    endWaitForHands();
+    tellAccess();
 }
 
 void EvdevEventMonitor::Parts::drain() {
@@ -30,40 +34,61 @@ void EvdevEventMonitor::Parts::drain() {
     if (!m_running && !m_interpreter.deliveries().empty()) m_wakeups.kick();
 }
 
+/// Keyboards first: what the desktop tells of they have told before.
 void EvdevEventMonitor::Parts::read() {
     m_wakeups.takeKick();
     m_wakeups.takeTimer();
+    readKeyboards();
+    if (m_desktop != nullptr) m_desktop->dispatch();
+    if (m_assumedUntil && m_clock.now() >= *m_assumedUntil) {
+        m_assumedUntil.reset();
+        m_stream.assumeNone();
+    }
+    startTimer();
+}
+
+void EvdevEventMonitor::Parts::readKeyboards() {
     m_keyboards.read();
     m_stream.repeat();
     if (m_cancel.takeEscapeStop()) m_stream.dropPlays();
-    if (const auto rest = m_stream.timeToRepeat()) {
-        m_wakeups.startTimer(std::chrono::duration_cast<std::chrono::milliseconds>(*rest) +
+}
+
+void EvdevEventMonitor::Parts::startTimer() {
+    const auto wakeAfter = [this](Clock::Time::duration rest) {
+        m_wakeups.startTimer(std::chrono::duration_cast<std::chrono::milliseconds>(rest) +
                              std::chrono::milliseconds(1));
-    }
+    };
+    // Where hands are guessed, no key is heard that could repeat.
+    if (m_assumedUntil) return wakeAfter(*m_assumedUntil - m_clock.now());
+    if (const auto rest = m_stream.timeToRepeat()) wakeAfter(*rest);
 }
 
 /// Keyboards are open as long as somebody has to know what is pressed on them.
 void EvdevEventMonitor::Parts::followNeed(DeviceOpener::Question question) {
-    const bool isNeeded = m_recording || m_running;
+    const bool isNeeded = m_recording || m_running || m_awaitsHands;
     if (!isNeeded && m_isNeeded) {
         m_keyboards.close();
         m_stream.end();
     } else if (isNeeded) {
-        if (!m_isNeeded) m_stream.begin(m_layout);
+        if (!m_isNeeded) m_stream.begin(layout());
         m_keyboards.open(question);
     }
     m_isNeeded = isNeeded;
     m_wakeups.kick();
 }
 
-void EvdevEventMonitor::Parts::observeProblem(std::function<void(const std::optional<Error>&)> changed) {
-    m_problemChanged = std::move(changed);
+EventMonitor::Access EvdevEventMonitor::Parts::access() const {
+    if (!m_recording || m_keyboards.isOpen()) return EventMonitor::Access::given;
+    return m_keyboards.problem() ? EventMonitor::Access::ended : EventMonitor::Access::asked;
 }
 
-void EvdevEventMonitor::Parts::tellProblem() {
-    if (m_toldProblem == problem()) return;
-    m_toldProblem = problem();
-    if (m_problemChanged) m_problemChanged(m_toldProblem);
+void EvdevEventMonitor::Parts::tellAccess() {
+    const EventMonitor::Access now = access();
+    if (std::exchange(m_toldAccess, now) == now || !m_recording || !m_accessChanged) return;
+    const bool hasEnded = now == EventMonitor::Access::ended;
+    // A copy: it may be replaced, and the recording be ended, from within.
+    const EventMonitor::AccessObserver changed = m_accessChanged;
+    changed(now, hasEnded ? m_keyboards.problem() : std::nullopt);
 }
 
 void EvdevEventMonitor::Parts::runStarts() {
@@ -76,6 +101,8 @@ void EvdevEventMonitor::Parts::runEnds() {
     read();
     settleOwnKeys();
     m_running = false;
+    // What the user has switched meanwhile was not told from what the run did.
+    if (m_recording) setLayout(layout());
     followNeed(DeviceOpener::Question::avoided);
 }
 
@@ -83,24 +110,63 @@ bool EvdevEventMonitor::Parts::liftHotKey(std::uint8_t keycode, std::uint16_t mo
     return m_hotKeys.lift(keycode, modifiers);
 }
 
+void EvdevEventMonitor::Parts::listenTo(EventSource& desktop) {
+    m_desktop = &desktop;
+    m_wakeups.watch(desktop.fileDescriptor());
+}
+
 void EvdevEventMonitor::Parts::desktopTells(const KeyGrab& grab, bool press) {
     // The keyboards may have told of it already.
-    read();
-    const ServerTime time = KeyStream::serverTime(m_stream.now());
-    if (!press) {
-        const auto down = m_desktopDown.find(grab.keycode);
-        if (down == m_desktopDown.end()) return;
-        m_interpreter.deliveries().emplace_back(HotKeyEvent{down->second, false, time});
-        m_desktopDown.erase(down);
-    } else if (const auto id = m_hotKeys.find(grab.keycode, grab.modifiers)) {
-        if (m_echoes.take(*id, m_clock.now()) || m_keyboards.isOpen()) return;
-        // A held combination presses once, though some desktops tell of its repeats.
-        if (m_withheld || m_screenLocked || m_desktopDown.contains(grab.keycode)) return;
-        m_desktopDown.emplace(grab.keycode, *id);
-        m_interpreter.deliveries().emplace_back(HotKeyEvent{*id, true, time});
-        m_stream.noteHotKey(*id);
-    }
+    readKeyboards();
+    press ? desktopPresses(grab) : desktopReleases(grab);
     m_wakeups.kick();
+}
+
+/// One that no open keyboard has told was pressed on another, or before they were open.
+void EvdevEventMonitor::Parts::desktopPresses(const KeyGrab& grab) {
+    const std::optional<HotKeyId> id = m_hotKeys.find(grab.keycode, grab.modifiers);
+    if (!id || m_echoes.take(*id, m_clock.now())) return;
+    // A held combination presses once, though some desktops tell of its repeats.
+    if (m_desktopDown.contains(grab.keycode)) return;
+    m_stream.noteHotKey(*id);
+    if (m_withheld) return;
+    m_desktopDown.emplace(grab.keycode, *id);
+    if (m_hotKeys.startsPlayback(*id)) awaitHands(grab.modifiers);
+    m_interpreter.deliveries().emplace_back(HotKeyEvent{*id, true, KeyStream::serverTime(m_stream.now())});
+}
+
+void EvdevEventMonitor::Parts::desktopReleases(const KeyGrab& grab) {
+    constexpr std::chrono::milliseconds handsAreUp{250};
+    const auto down = m_desktopDown.find(grab.keycode);
+    if (down == m_desktopDown.end()) return;
+    const HotKeyEvent event{down->second, false, KeyStream::serverTime(m_stream.now())};
+    m_desktopDown.erase(down);
+    m_interpreter.deliveries().emplace_back(event);
+    if (m_awaitsHands) m_assumedUntil = m_clock.now() + handsAreUp;
+}
+
+void EvdevEventMonitor::Parts::desktopForgot() {
+    m_desktopDown.clear();
+    m_stream.assumeNone();
+    m_hotKeys.requestAgain();
+    m_wakeups.kick();
+}
+
+void EvdevEventMonitor::Parts::awaitHands(std::uint16_t modifiers) {
+    if (modifiers == 0 || m_keyboards.isOpen()) return;
+    m_awaitsHands = true;
+    m_assumedUntil.reset();
+    if (!m_isNeeded) m_stream.begin(layout());
+    m_stream.assumeModifiers(modifiers);
+    m_isNeeded = true;
+    followNeed(DeviceOpener::Question::avoided);
+}
+
+void EvdevEventMonitor::Parts::endWaitForHands() {
+    if (!m_awaitsHands || isHotKeyDown() || m_stream.holdsModifiers()) return;
+    m_awaitsHands = false;
+    m_assumedUntil.reset();
+    followNeed(DeviceOpener::Question::avoided);
 }
 
 void EvdevEventMonitor::Parts::setKeymap(std::unique_ptr<Keymap> keymap) {
@@ -111,15 +177,14 @@ void EvdevEventMonitor::Parts::setKeymap(std::unique_ptr<Keymap> keymap) {
 }
 
 void EvdevEventMonitor::Parts::setLayout(std::uint32_t layout) {
-    read();
-    m_layout = layout;
+    readKeyboards();
     XkbComponents components = m_keyboard.components();
     components.lockedLayout = layout;
     m_keyboard.confirm(components, 0, false);
 }
 
 void EvdevEventMonitor::Parts::setRepeatRule(const RepeatRule& rule) {
-    read();
+    readKeyboards();
     m_stream.setRepeatRule(rule);
 }
 
@@ -127,6 +192,7 @@ void EvdevEventMonitor::Parts::setRecording(bool recording) {
     if (m_recording == recording) return;
     read();
     m_recording = recording;
+    m_toldAccess = EventMonitor::Access::given;
     if (!recording) m_interpreter.setRecording(false);
     followNeed(DeviceOpener::Question::allowed);
     if (recording) m_interpreter.setRecording(true);
@@ -137,24 +203,13 @@ void EvdevEventMonitor::Parts::setRecording(bool recording) {
 void EvdevEventMonitor::Parts::setWithheld(bool withheld) {
     read();
     m_withheld = withheld;
-    mute();
-}
-
-void EvdevEventMonitor::Parts::setScreenLocked(bool locked) {
-    read();
-    m_screenLocked = locked;
-    mute();
+    m_interpreter.setMuted(withheld);
+    m_wakeups.kick();
 }
 
 void EvdevEventMonitor::Parts::setKeepsOwnStrokes(bool keeps) {
     read();
     m_interpreter.setKeepsOwnStrokes(keeps);
-}
-
-void EvdevEventMonitor::Parts::mute() {
-    m_interpreter.setMuted(m_withheld || m_screenLocked);
-    m_stream.setLocked(m_screenLocked);
-    m_wakeups.kick();
 }
 
 }  // namespace evdev

@@ -30,10 +30,11 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     void startPlayback() override { m_cancel.start(); }
     void stopPlayback() override { m_cancel.cancel(); }
     bool isCancelled() const override { return m_cancel.isCancelled() || (m_isLocked && m_isLocked()); }
-    bool isLost() const override { return false; }
+    bool isLost() const override { return m_isDesktopLost && m_isDesktopLost(); }
     std::optional<Clock::Time> cancelDeadline() const override { return m_cancel.deadline(); }
     void settleOwnKeys() override { m_stream.releaseOwnKeys(); }
     bool handsHoldKeys() const override { return m_hands.any(); }
+    bool handsHold(std::uint8_t keycode) const override { return m_hands.holds(keycode); }
     KeycodeSet leftOvers(Clock::Time runStart) const override { return m_hands.leftOvers(runStart); }
     /// A hot key that is held swallows nothing else here.
     void endHotKeyGrab() override {}
@@ -44,24 +45,32 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     HotKeyTable& hotKeys() { return m_hotKeys; }
     Deliverer& deliverer() { return m_deliverer; }
     const KeyboardState& keyboard() const { return m_keyboard; }
-    const std::optional<Error>& problem() const { return m_keyboards.problem(); }
 
     void setKeymap(std::unique_ptr<Keymap> keymap);
     void setLayout(std::uint32_t layout);
     void setRepeatRule(const RepeatRule& rule);
+    void listenTo(EventSource& desktop);
     void desktopTells(const KeyGrab& grab, bool press);
+    void desktopForgot();
     void setWithheld(bool withheld);
-    void setScreenLocked(bool locked);
     void setKeepsOwnStrokes(bool keeps);
     void setRecording(bool recording);
     void endPlaysWhen(std::function<bool()> isLocked) { m_isLocked = std::move(isLocked); }
-    void observeProblem(std::function<void(const std::optional<Error>&)> changed);
+    void observeAccess(EventMonitor::AccessObserver changed) { m_accessChanged = std::move(changed); }
 
   private:
     void read();
+    void readKeyboards();
+    void startTimer();
+    void desktopPresses(const KeyGrab& grab);
+    void desktopReleases(const KeyGrab& grab);
+    void awaitHands(std::uint16_t modifiers);
+    void endWaitForHands();
+    bool isHotKeyDown() const { return !m_desktopDown.empty(); }
     void followNeed(DeviceOpener::Question question);
-    void tellProblem();
-    void mute();
+    EventMonitor::Access access() const;
+    void tellAccess();
+    xkb_layout_index_t layout() const { return m_layout ? m_layout() : 0; }
 
     const Clock& m_clock;
     KeyboardState m_keyboard;
@@ -75,17 +84,22 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     Keyboards m_keyboards;
     Deliverer m_deliverer;
 
+    std::function<xkb_layout_index_t()> m_layout;
+    std::function<bool()> m_isDesktopLost;
     std::function<bool()> m_isLocked;
-    std::function<void(const std::optional<Error>&)> m_problemChanged;
-    std::optional<Error> m_toldProblem;
+    EventSource* m_desktop = nullptr;
+    EventMonitor::AccessObserver m_accessChanged;
+    EventMonitor::Access m_toldAccess = EventMonitor::Access::given;
     /// By their keys, the hot keys that the desktop has told to be down.
     std::map<std::uint8_t, HotKeyId> m_desktopDown;
-    std::uint32_t m_layout = 0;
+    /// A play waits, or may have to, for the modifiers of its hot key.
+    bool m_awaitsHands = false;
+    /// Until when these are taken for held, unless keyboards tell better.
+    std::optional<Clock::Time> m_assumedUntil;
     bool m_isNeeded = false;
     bool m_recording = false;
     bool m_running = false;
     bool m_withheld = false;
-    bool m_screenLocked = false;
 };
 
 }  // namespace evdev

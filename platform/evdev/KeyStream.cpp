@@ -28,6 +28,7 @@ void KeyStream::begin(xkb_layout_index_t layout) {
 void KeyStream::end() {
     const std::vector<std::uint16_t> keyboards = m_keyboards;
     for (const std::uint16_t keyboard : keyboards) keyboardGone(keyboard);
+    assumeNone();
     releaseOwnKeys();
     m_repeats.stop();
 }
@@ -38,6 +39,17 @@ void KeyStream::keyboardsCame(const std::vector<NewKeyboard>& keyboards) {
         m_keyboards.push_back(keyboard.number);
         startWith(keyboard.number, keyboard.down);
     }
+    assumeNone();
+}
+
+void KeyStream::assumeModifiers(xkb_mod_mask_t modifiers) {
+    const ModifierKeys& keys = m_rules.keyboard.keymap().keys();
+    KeycodeSet down;
+    for (xkb_mod_mask_t bit = 1; bit != 0 && bit <= modifiers; bit <<= 1U) {
+        const std::uint8_t keycode = (modifiers & bit) != 0 ? keys.keyFor(bit) : 0;
+        if (keycode != 0) down.set(keycode);
+    }
+    startWith(desktop, down);
 }
 
 /// A light on one of them is enough: not each keyboard has them.
@@ -129,7 +141,7 @@ void KeyStream::ownKey(std::uint8_t keycode, bool press) {
 void KeyStream::releaseOwnKeys() { m_interpreter.keyboardGone(script, serverTime(now())); }
 
 void KeyStream::noteHotKey(HotKeyId id) {
-    if (m_locked || !m_rules.hotKeys.cancelsPlayback(id)) return;
+    if (!m_rules.hotKeys.cancelsPlayback(id)) return;
     m_rules.cancel.cancel();
     dropPlays();
 }

@@ -45,6 +45,13 @@ class KeyStream final : public KeyboardListener {
     /// Nothing is known of any keyboard any more: what was down is up.
     void end();
 
+    /// Nothing is heard yet, but the desktop has told of a combination: hands hold these modifiers, until
+    /// keyboards come, or until they are taken for up. Real modifiers.
+    void assumeModifiers(xkb_mod_mask_t modifiers);
+    void assumeNone() { keyboardGone(desktop); }
+    /// Whether any modifier is down, for all that is known.
+    bool holdsModifiers() const { return m_interpreter.holdsModifiers(); }
+
     void setRepeatRule(const RepeatRule& rule) { m_repeats.setRule(rule); }
     /// What repeats until now.
     void repeat() { repeatBefore(now()); }
@@ -53,8 +60,6 @@ class KeyStream final : public KeyboardListener {
 
     /// A hot key that ends playbacks is heeded as soon as it is known, wherever it is known from.
     void noteHotKey(HotKeyId id);
-    /// While the screen is locked no hot key ends a playback.
-    void setLocked(bool locked) { m_locked = locked; }
     /// The user wishes to stop: what he asked for before, and is not delivered yet, is not played any more.
     void dropPlays();
 
@@ -64,9 +69,10 @@ class KeyStream final : public KeyboardListener {
     RepeatCounter::Time now() const;
 
   private:
-    /// All keyboards as one, and the running script as another.
+    /// All keyboards as one, the running script as another, and what the desktop lets guess of the first.
     static constexpr std::uint16_t seat = 1;
     static constexpr std::uint16_t script = 2;
+    static constexpr std::uint16_t desktop = 3;
 
     void adoptLights(const std::vector<NewKeyboard>& keyboards);
     void startWith(std::uint16_t keyboard, const KeycodeSet& down);
@@ -78,7 +84,6 @@ class KeyStream final : public KeyboardListener {
     KeyInterpreter& m_interpreter;
     SeatKeys m_seat;
     RepeatCounter m_repeats;
-    bool m_locked = false;
     std::vector<std::uint16_t> m_keyboards;
 };
 

@@ -13,6 +13,11 @@ namespace {
 
 using KeyQueues = std::map<std::uint16_t, WipedQueue<DeviceKey>>;
 
+Error permissionEnded() {
+    return {"The keyboard can no longer be read: the permission has ended.",
+            "Another user's session may be in front, or the screen is locked."};
+}
+
 /// The one with the earliest key, which must not be empty.
 KeyQueues::value_type& earliest(KeyQueues& queues) {
     return *std::min_element(queues.begin(), queues.end(), [](const auto& a, const auto& b) {
@@ -25,10 +30,12 @@ KeyQueues::value_type& earliest(KeyQueues& queues) {
 Keyboards::Keyboards(Places places, Wakeups& wakeups, KeyboardListener& listener)
     : m_places(std::move(places)), m_wakeups(wakeups), m_listener(listener) {
     if (EventSource* source = m_places.opener.source()) m_wakeups.watch(source->fileDescriptor());
+    m_places.opener.whenLost([this](const Error& why) { lose(why); });
 }
 
 Keyboards::~Keyboards() {
     close();
+    m_places.opener.whenLost({});
     if (EventSource* source = m_places.opener.source()) m_wakeups.unwatch(source->fileDescriptor());
 }
 
@@ -47,6 +54,7 @@ void Keyboards::close() {
     m_asked.reset();
     m_asksAgain = false;
     m_isOpen = false;
+    m_problem.reset();
     for (const auto& [number, reader] : m_readers) m_wakeups.unwatch(reader.fileDescriptor());
     m_readers.clear();
     if (!m_folder) return;
@@ -66,7 +74,9 @@ void Keyboards::ask(DeviceOpener::Question question) {
 void Keyboards::answered(Result<std::vector<OpenedDevice>> answer) {
     m_asked.reset();
     if (!answer) {
-        m_problem = answer.error();
+        // Who had some and has none any more was not refused a first time.
+        m_problem = m_isOpen && m_readers.empty() ? permissionEnded() : answer.error();
+        m_isOpen = !m_readers.empty();
         return;
     }
     m_problem.reset();
@@ -116,9 +126,26 @@ void Keyboards::remove(std::uint16_t number) {
     m_readers.erase(reader);
     m_listener.keyboardGone(number);
     const std::vector<std::string> present = listKeyboards(m_places.folders);
-    if (std::find(present.begin(), present.end(), name) == present.end()) return;
-    m_problem = Error{"The keyboard can no longer be read: the permission has ended.",
-                      "Another user's session may be in front, or the screen is locked."};
+    if (std::find(present.begin(), present.end(), name) != present.end()) {
+        m_problem = permissionEnded();
+        m_isOpen = !m_readers.empty();
+    } else if (!m_asked) {
+        // It was unplugged, or it is shown only to whoever has opened it, who knows.
+        ask(DeviceOpener::Question::avoided);
+    }
+}
+
+/// What is down on them is up.
+void Keyboards::lose(const Error& why) {
+    while (!m_readers.empty()) {
+        const auto reader = m_readers.begin();
+        const std::uint16_t number = reader->first;
+        m_wakeups.unwatch(reader->second.fileDescriptor());
+        m_readers.erase(reader);
+        m_listener.keyboardGone(number);
+    }
+    m_isOpen = false;
+    m_problem = why;
 }
 
 void Keyboards::followFolder() {

@@ -56,9 +56,9 @@ class Keyboards {
     void open(DeviceOpener::Question question);
     void close();
 
-    /// Whether keys are heard, if there are keyboards.
+    /// Whether they have been opened and may still be read; there need not be any.
     bool isOpen() const { return m_isOpen; }
-    /// Why they are not, or not all of them; empty if all is well. Stays until the next open().
+    /// Why they are not open, or not all of them; empty if all is well. Stays until the next open().
     const std::optional<Error>& problem() const { return m_problem; }
 
     /// Tells the listener all that has come, without waiting.
@@ -70,6 +70,7 @@ class Keyboards {
     KeyboardListener::NewKeyboard add(OpenedDevice device);
     std::vector<std::uint16_t> readKeys();
     void remove(std::uint16_t number);
+    void lose(const Error& why);
     void followFolder();
 
     Places m_places;

@@ -23,6 +23,8 @@ class FakeEventMonitor : public EventMonitor {
     void setRecording(bool recording) override { m_recording = recording; }
     void observeHold(std::function<void(bool)> changed) override { m_holdChanged = std::move(changed); }
 
+    void observeAccess(AccessObserver changed) override { m_accessChanged = std::move(changed); }
+
     /// What shortcoming() tells.
     std::optional<Error> lacking;
     /// Why showsKeys() says no.
@@ -43,6 +45,11 @@ class FakeEventMonitor : public EventMonitor {
     /// Another program takes the keyboard for itself, or gives it back.
     void programHoldsKeyboard(bool holds);
 
+    /// The desktop asks the user whether keys may be seen, is answered, or ends it.
+    void accessChanges(Access access, const std::optional<Error>& why = std::nullopt) {
+        if (m_accessChanged) m_accessChanged(access, why);
+    }
+
     bool isRecording() const { return m_recording; }
     bool keepsOwnStrokes() const { return m_keepsOwnStrokes; }
 
@@ -54,6 +61,7 @@ class FakeEventMonitor : public EventMonitor {
     FakeDesktop& m_desktop;
     Handler m_handler;
     std::function<void(bool)> m_holdChanged;
+    AccessObserver m_accessChanged;
     bool m_keepsOwnStrokes = false;
     bool m_recording = false;
     bool m_held = false;

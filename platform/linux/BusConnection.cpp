@@ -111,9 +111,9 @@ void BusConnection::call(const Method& method, GVariant* parameters, bool starts
 }
 
 void BusConnection::hear(const char* sender, const char* path, const char* interface, const char* member,
-                         Heard heard) {
+                         Heard heard, const char* about) {
     const BusLoop::Context::Scope scope(m_loop);
-    m_heard.push_back(g_dbus_connection_signal_subscribe(get(), sender, interface, member, path, nullptr,
+    m_heard.push_back(g_dbus_connection_signal_subscribe(get(), sender, interface, member, path, about,
                                                          G_DBUS_SIGNAL_FLAGS_NONE, onSignal,
                                                          new Heard(std::move(heard)), freeFunction<Heard>));
 }

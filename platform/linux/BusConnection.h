@@ -39,8 +39,10 @@ class BusConnection {
     /// connection is given up. The service is started only if asked for.
     void call(const Method& method, GVariant* parameters, bool starts, Answered answered);
 
-    /// Hears a signal from now on, whoever sends it from wherever it is null.
-    void hear(const char* sender, const char* path, const char* interface, const char* member, Heard heard);
+    /// Hears a signal from now on, whoever sends it from wherever it is null; one whose first argument is
+    /// that text unless `about` is null.
+    void hear(const char* sender, const char* path, const char* interface, const char* member, Heard heard,
+              const char* about = nullptr);
 
   private:
     static void onOpened(GObject* source, GAsyncResult* result, void* self);

@@ -86,6 +86,10 @@ void HotKeyTable::tryAgain() {
     }
 }
 
+void HotKeyTable::requestAgain() {
+    for (const auto& [id, row] : std::map(m_rows)) request(row.request);
+}
+
 void HotKeyTable::followKeymap() {
     std::vector<Row*> moved;
     for (auto& [id, row] : m_rows) {

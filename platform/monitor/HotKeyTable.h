@@ -32,6 +32,10 @@ class HotKeyTable {
     bool isKeptWaiting() const;
     void tryAgain();
 
+    /// Who takes combinations has forgotten them all: asks for each anew, in the order of their ids, so that
+    /// of two with one combination the first keeps it.
+    void requestAgain();
+
     /// Moves the grabs whose key or modifiers are others in the new keymap.
     void followKeymap();
     /// The same where Shift, Control, Alt or Super is locked now and was not, or the other way round: other

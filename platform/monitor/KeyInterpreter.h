@@ -56,6 +56,9 @@ class KeyInterpreter {
     /// The keys that are down before the first event.
     void startWith(const std::vector<std::uint8_t>& keycodes);
 
+    /// Whether a modifier key is down that is reported.
+    bool holdsModifiers() const { return heldMask() != 0; }
+
     /// While true, presses and hot keys are dropped.
     void setMuted(bool muted) { m_muted = muted; }
     void setKeepsOwnStrokes(bool keeps) { m_keepsOwn = keeps; }

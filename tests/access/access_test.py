@@ -5,123 +5,31 @@ FOLDER, asked by others and by CLIENT, the program's own way to it;
 polkit and logind are played by dbusmock. What is judged is what callers get, which devices are revoked and what is typed."""
 import errno
 import fcntl
-import getpass
 import os
 import pathlib
 import signal
 import subprocess
 import sys
 import tempfile
-import time
 import unittest
 
 import dbus
-import dbus.bus
+from world import NAME, PATIENCE, World, await_true
 
-PATIENCE = 20.0
-NAME = "example.orlen.Keyrill.Access"
 PATH = "/example/orlen/Keyrill/Access"
 FACE = "example.orlen.Keyrill.Access1"
 CAPTURE = "example.orlen.Keyrill.capture"
 TYPE = "example.orlen.Keyrill.type"
-MOCK = "org.freedesktop.DBus.Mock"
-STANDIN, CLIENT, PACKAGING = sys.argv[1], sys.argv[2], pathlib.Path(sys.argv[3])
+STANDIN, CLIENT, PACKAGING = sys.argv[1], sys.argv[2], sys.argv[3]
 
-BUS = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig><type>system</type><listen>unix:path={0}/bus</listen><auth>EXTERNAL</auth>
-<policy context="default"><allow user="*"/><deny own="*"/><deny send_type="method_call"/><allow send_type="signal"/>
-<allow send_requested_reply="true" send_type="method_return"/><allow send_requested_reply="true" send_type="error"/>
-<allow receive_type="method_call"/><allow receive_type="method_return"/><allow receive_type="error"/>
-<allow receive_type="signal"/><allow send_destination="org.freedesktop.DBus"/>
-<allow own="org.freedesktop.PolicyKit1"/><allow send_destination="org.freedesktop.PolicyKit1"/>
-<allow own="org.freedesktop.login1"/><allow send_destination="org.freedesktop.login1"/></policy>
-<include>{0}/service.conf</include></busconfig>"""
-
-
-def await_true(what, condition):
-    end = time.monotonic() + PATIENCE
-    while not condition():
-        if time.monotonic() > end:
-            raise AssertionError("waited in vain for " + what)
-        time.sleep(0.005)
-
-
-class AccessTest(unittest.TestCase):
-    rest = "600"
-    owner = getpass.getuser()
-
+class AccessTest(World, unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory(prefix="keyrill-access.")
         self.addCleanup(folder.cleanup)
-        self.folder = pathlib.Path(folder.name)
-        policy = (PACKAGING / "example.orlen.Keyrill.Access.conf").read_text(encoding="utf-8")
-        self.assertIn('user="root"', policy)
-        (self.folder / "service.conf").write_text(policy.replace('user="root"', f'user="{self.owner}"'), encoding="utf-8")
-        (self.folder / "bus.conf").write_text(BUS.format(self.folder), encoding="utf-8")
-        self.address = f"unix:path={self.folder}/bus"
-        self.environment = dict(os.environ, DBUS_SYSTEM_BUS_ADDRESS=self.address)
-        daemon = self.start("dbus-daemon", "--nofork", "--nopidfile", f"--config-file={self.folder}/bus.conf",
-                            "--print-address", output=subprocess.PIPE)
-        self.addCleanup(daemon.stdout.close)
-        # Written once it listens.
-        self.assertTrue(daemon.stdout.readline())
-        self.bus = self.connect()
-        self.polkitd = self.start("/usr/bin/python3", "-m", "dbusmock", "--system", "--template", "polkitd")
-        self.logind = self.start("/usr/bin/python3", "-m", "dbusmock", "--system", "--template", "logind")
-        for name in ("org.freedesktop.PolicyKit1", "org.freedesktop.login1"):
-            await_true(name, lambda: self.bus.name_has_owner(name))
-        self.polkit = dbus.Interface(
-            self.bus.get_object("org.freedesktop.PolicyKit1", "/org/freedesktop/PolicyKit1/Authority"), MOCK)
-        manager = self.bus.get_object("org.freedesktop.login1", "/org/freedesktop/login1")
-        self.manager = dbus.Interface(manager, MOCK)
-        self.session = self.add_session("c1", os.getuid())
-        self.set_session_of_process(self.session)
-        self.writers = []
-        for keyboard in ("event0", "event1"):
-            self.plug(keyboard)
-        os.mkfifo(self.folder / "typing")
+        self.begin(folder.name, PACKAGING)
         self.typed = os.open(self.folder / "typing", os.O_RDONLY | os.O_NONBLOCK)
         self.addCleanup(os.close, self.typed)
-        (self.folder / "revoked").touch()
-        self.service = self.start(STANDIN, str(self.folder), self.rest)
-        if self.owner == getpass.getuser():
-            await_true("the service", lambda: self.bus.name_has_owner(NAME))
-
-    def start(self, *command, output=subprocess.DEVNULL):
-        child = subprocess.Popen(command, env=self.environment, stdout=output, stderr=subprocess.DEVNULL)
-
-        def end():
-            child.kill()
-            child.wait()
-        self.addCleanup(end)
-        return child
-
-    def connect(self):
-        bus = dbus.bus.BusConnection(self.address)
-        self.addCleanup(bus.close)
-        return bus
-
-    def add_session(self, name, user):
-        path = self.manager.AddSession(name, "seat0", dbus.UInt32(user), f"user{user}", True)
-        return dbus.Interface(self.bus.get_object("org.freedesktop.login1", path), MOCK)
-
-    def set_session_of_process(self, session):
-        code = f"ret = dbus.ObjectPath('{session.object_path}')" if session is not None else \
-            "raise dbus.exceptions.DBusException('none', name='org.freedesktop.login1.NoSessionForPID')"
-        self.manager.AddMethod("org.freedesktop.login1.Manager", "GetSessionByPID", "u", "o", code)
-
-    def change_session(self, **properties):
-        self.session.UpdateProperties("org.freedesktop.login1.Session", dbus.Dictionary(properties, signature="sv"))
-
-    def plug(self, name):
-        os.mkfifo(self.folder / name)
-        writer = os.open(self.folder / name, os.O_RDWR | os.O_NONBLOCK)
-        self.writers.append(writer)
-        self.addCleanup(os.close, writer)
-
-    def allow(self, *actions):
-        self.polkit.SetAllowed(dbus.Array(actions, signature="s"))
+        self.serve(STANDIN)
 
     def access(self, bus=None):
         return dbus.Interface((bus or self.bus).get_object(NAME, PATH, introspect=False), FACE)
@@ -142,12 +50,6 @@ class AccessTest(unittest.TestCase):
     def assert_refused(self, bus=None):
         self.assert_error("AccessDenied", self.access(bus).OpenKeyboards, True)
         self.assertEqual(self.revoked(), [])
-
-    def revoked(self):
-        return sorted((self.folder / "revoked").read_text(encoding="ascii").split())
-
-    def await_revoked(self):
-        await_true("the revocation", lambda: self.revoked() == ["event0", "event1"])
 
     def lines_typed(self):
         try:
@@ -487,6 +389,13 @@ class ProgramTest(AccessTest):
         await_true("the question", self.polkit.HaveHangingCalls)
         self.service.kill()
         self.assertEqual(self.heard(), "Keyrill cannot read the keyboard: the service keyrill-access does not work.")
+
+    def test_a_service_that_dies_with_keyboards_open_is_told(self):
+        self.allow(CAPTURE)
+        self.say("open")
+        self.heard()
+        self.service.kill()
+        self.assertEqual(self.heard(), "The keyboard is no longer read: the service keyrill-access has ended.")
 
     def test_who_is_killed_loses_all(self):
         self.allow(CAPTURE)

@@ -27,6 +27,7 @@ int main(int argc, char** arguments) {
         }
         std::cout << std::endl;
     };
+    opener.whenLost([](const Error& why) { std::cout << why.message << std::endl; });
     std::array<pollfd, 2> files{{{0, POLLIN, 0}, {opener.source()->fileDescriptor(), POLLIN, 0}}};
     for (std::string line; poll(files.data(), files.size(), -1) > 0;) {
         if (files[1].revents != 0) opener.source()->dispatch();

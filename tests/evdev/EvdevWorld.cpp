@@ -37,7 +37,13 @@ std::optional<std::string> FakeGrabber::grab(const KeyGrab& grab) {
 
 EvdevWorld::EvdevWorld() : m_opener(m_input.folders()), m_keyboard(m_input.plug(0)) {
     m_monitor = std::make_unique<evdev::EvdevEventMonitor>(
-        evdev::EvdevEventMonitor::Session{m_clock, m_opener, m_calls, m_grabber, m_input.folders()},
+        evdev::EvdevEventMonitor::Session{.clock = m_clock,
+                                          .opener = m_opener,
+                                          .calls = m_calls,
+                                          .grabs = m_grabber,
+                                          .folders = m_input.folders(),
+                                          .layout = [this] { return m_layout; },
+                                          .isDesktopLost = [this] { return m_isLost; }},
         namedKeymap("us"));
     m_monitor->setRepeatRule({repeatDelay, repeatInterval});
     m_monitor->setRecording(true);

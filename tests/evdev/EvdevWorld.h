@@ -20,10 +20,27 @@ class FakeGrabber final : public KeyGrabber {
 
     void otherTakes(const KeyGrab& grab) { m_elsewhere.push_back(grab); }
     const std::vector<KeyGrab>& taken() const { return m_taken; }
+    void forgetAll() { m_taken.clear(); }
 
   private:
     std::vector<KeyGrab> m_elsewhere;
     std::vector<KeyGrab> m_taken;
+};
+
+/// Opens what is there, unless it is made to fail.
+class FailingOpener final : public evdev::DeviceOpener {
+  public:
+    explicit FailingOpener(const evdev::InputFolders& folders) : m_direct(folders) {}
+
+    void open(const std::set<std::string>& held, Question question, Opened opened) override {
+        m_fails ? opened(Error{"Refused.", ""}) : m_direct.open(held, question, std::move(opened));
+    }
+    void close() override { m_direct.close(); }
+    void fail() { m_fails = true; }
+
+  private:
+    evdev::DirectOpener m_direct;
+    bool m_fails = false;
 };
 
 /// One keyboard, event0, and the monitor over it, which records from the beginning. Time stands still until
@@ -50,16 +67,23 @@ class EvdevWorld final : public KeyboardWorld {
     FakeCalls& calls() { return m_calls; }
     FakeClock& clock() { return m_clock; }
     FakeGrabber& grabber() { return m_grabber; }
+    FailingOpener& opener() { return m_opener; }
     std::unique_ptr<FakeInput::Device>& keyboard() { return m_keyboard; }
+
+    /// The layout that is locked at the next beginning.
+    void setFirstLayout(std::uint32_t layout) { m_layout = layout; }
+    void loseDesktop() { m_isLost = true; }
 
   private:
     FakeInput m_input;
     FakeCalls m_calls;
     FakeClock m_clock;
     FakeGrabber m_grabber;
-    evdev::DirectOpener m_opener;
+    FailingOpener m_opener;
     std::unique_ptr<FakeInput::Device> m_keyboard;
     std::unique_ptr<evdev::EvdevEventMonitor> m_monitor;
+    std::uint32_t m_layout = 0;
+    bool m_isLost = false;
     bool m_capsLock = false;
 };
 

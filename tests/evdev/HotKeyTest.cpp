@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "evdev/EvdevWorld.h"
+#include "platform/EventSource.h"
 #include "platform/monitor/KeyGrab.h"
+#include "platform/run/RunWatch.h"
 
 namespace {
 
@@ -37,17 +39,21 @@ TEST_P(EvdevHotKeyTest, theDesktopsRepeatsOfAHeldHotKeyAreOnePress) {
     EXPECT_EQ(delivered(), (Log{"pressed 1", "released 1"}));
 }
 
-TEST_P(EvdevHotKeyTest, duringARecordingTheKeyboardTellsAndTheDesktopIsIgnored) {
+TEST_P(EvdevHotKeyTest, duringARecordingWhatTheKeyboardHasToldIsNotToldTwice) {
     monitor().setRecording(true);
     press({key::f5});
     desktopTells(true);
     release({key::f5});
     desktopTells(false);
     EXPECT_EQ(delivered(), (Log{"pressed 1", "released 1"}));
-    // Another keyboard than ours may have done it.
+}
+
+TEST_P(EvdevHotKeyTest, duringARecordingAKeyboardThatIsNotOpenMayPressOneToo) {
+    monitor().setRecording(true);
+    tap(key::a);
     desktopTells(true);
     desktopTells(false);
-    EXPECT_EQ(delivered(), Log{});
+    EXPECT_EQ(delivered(), (Log{"down 0 a", "up 0", "pressed 1", "released 1"}));
 }
 
 TEST_P(EvdevHotKeyTest, theHotKeyThatStopsARecordingDoesNotStartTheNext) {
@@ -95,13 +101,116 @@ TEST_P(EvdevHotKeyTest, aCombinationThatIsNotOursIsNone) {
     EXPECT_EQ(delivered(), Log{});
 }
 
-TEST_P(EvdevHotKeyTest, whileTheScreenIsLockedTheDesktopsHotKeysAreDropped) {
-    monitor().setScreenLocked(true);
+TEST_P(EvdevHotKeyTest, withheldHotKeysOfTheDesktopAreDropped) {
+    monitor().setWithheld(true);
     desktopTells(true);
     desktopTells(false);
     EXPECT_EQ(delivered(), Log{});
 }
 
+TEST_P(EvdevHotKeyTest, oneThatCancelsEndsAPlaybackThoughItIsWithheld) {
+    world().hotKeys().request({.id = record, .name = "stop", .keyCode = key::f5, .cancelsPlayback = true});
+    monitor().runWatch().startPlayback();
+    monitor().setWithheld(true);
+    desktopTells(true);
+    EXPECT_TRUE(monitor().runWatch().isCancelled());
+}
+
+TEST_P(EvdevHotKeyTest, whatTheDesktopForgotIsTakenAgainAndIsUp) {
+    desktopTells(true);
+    EXPECT_EQ(delivered(), Log{"pressed 1"});
+    evdevWorld().grabber().forgetAll();
+    monitor().desktopForgot();
+    ASSERT_EQ(evdevWorld().grabber().taken().size(), 1U);
+    EXPECT_EQ(evdevWorld().grabber().taken().front().keycode, f5.keycode);
+    desktopTells(true);
+    EXPECT_EQ(delivered(), Log{"pressed 1"});
+}
+
+TEST_P(EvdevHotKeyTest, aDesktopThatIsListenedToIsReadInARunToo) {
+    /// Tells of one press.
+    class Desktop final : public EventSource {
+      public:
+        explicit Desktop(evdev::EvdevEventMonitor& monitor) : m_monitor(monitor) {}
+        int fileDescriptor() const override { return -1; }
+        void dispatch() override {
+            if (!std::exchange(m_hasTold, true)) m_monitor.desktopTells(f5, true);
+        }
+
+      private:
+        evdev::EvdevEventMonitor& m_monitor;
+        bool m_hasTold = false;
+    };
+    world().hotKeys().request({.id = record, .name = "stop", .keyCode = key::f5, .cancelsPlayback = true});
+    Desktop desktop(monitor());
+    monitor().listenTo(desktop);
+    monitor().runWatch().startPlayback();
+    monitor().runWatch().runStarts();
+    monitor().runWatch().drain();
+    EXPECT_TRUE(monitor().runWatch().isCancelled());
+    monitor().runWatch().runEnds();
+    EXPECT_EQ(delivered(), Log{"pressed 1"});
+}
+
+/// A hot key that plays, with Control and Super, told by the desktop.
+class EvdevPlayTest : public EvdevTest {
+  protected:
+    static constexpr KeyGrab combination{.keycode = xkey::f5, .modifiers = xmask::control | xmask::super};
+
+    void SetUp() override {
+        EvdevTest::SetUp();
+        monitor().setRecording(false);
+        world().hotKeys().request({.id = 1,
+                                   .name = "play",
+                                   .keyCode = key::f5,
+                                   .modifiers = modifier::control | modifier::command,
+                                   .startsPlayback = true});
+        delivered();
+    }
+    void desktopTells(bool press) { monitor().desktopTells(combination, press); }
+};
+
+TEST_P(EvdevPlayTest, itsModifiersAreThoseThatHandsHold) {
+    auto& answers = evdevWorld().calls().of(*evdevWorld().keyboard());
+    answers.down.set(xkey::control).set(xkey::super).set(xkey::f5);
+    desktopTells(true);
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x1100", "pressed 1"}));
+    desktopTells(false);
+    EXPECT_EQ(delivered(), Log{"released 1"});
+    // However long they are held.
+    evdevWorld().advance(seconds(5));
+    EXPECT_EQ(delivered(), Log{});
+    EXPECT_TRUE(monitor().runWatch().handsHold(xkey::control));
+    release({key::control});
+    EXPECT_EQ(delivered(), Log{"modifiers 0x100"});
+    evdevWorld().key(*evdevWorld().keyboard(), key::super, 0);
+    EXPECT_EQ(delivered(), Log{"modifiers 0x0"});
+    // Nothing is heard any more.
+    tap(key::a);
+    EXPECT_EQ(delivered(), Log{});
+}
+
+TEST_P(EvdevPlayTest, whereHandsHoldNothingAnyMoreItWaitsForNothing) {
+    desktopTells(true);
+    desktopTells(false);
+    EXPECT_EQ(delivered(),
+              (Log{"modifiers 0x1100", "modifiers 0x100", "modifiers 0x0", "pressed 1", "released 1"}));
+}
+
+TEST_P(EvdevPlayTest, withoutKeyboardsItsModifiersAreUpAQuarterOfASecondAfterIt) {
+    evdevWorld().keyboard().reset();
+    evdevWorld().opener().fail();
+    desktopTells(true);
+    evdevWorld().advance(seconds(1));
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x1100", "pressed 1"}));
+    desktopTells(false);
+    evdevWorld().advance(milliseconds(249));
+    EXPECT_EQ(delivered(), Log{"released 1"});
+    evdevWorld().advance(milliseconds(1));
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x100", "modifiers 0x0"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Evdev, EvdevPlayTest, testing::Values(&makeEvdevWorld));
 INSTANTIATE_TEST_SUITE_P(Evdev, EvdevHotKeyTest, testing::Values(&makeEvdevWorld));
 
 }  // namespace

@@ -24,7 +24,10 @@ class PatientOpener final : public DeviceOpener {
         m_opened = {};
     }
 
+    void whenLost(std::function<void(const Error&)> lost) override { m_lost = std::move(lost); }
+
     bool isWaiting() const { return static_cast<bool>(m_opened); }
+    void lose(const Error& why) { m_lost(why); }
     void answer(Result<std::vector<evdev::OpenedDevice>> result) {
         std::exchange(m_opened, {})(std::move(result));
     }
@@ -39,6 +42,7 @@ class PatientOpener final : public DeviceOpener {
     }
 
     Opened m_opened;
+    std::function<void(const Error&)> m_lost;
 };
 
 const Error refused{"Refused.", "Ask again."};
@@ -48,14 +52,18 @@ class OpeningTest : public testing::Test {
     using Log = std::vector<std::string>;
 
     OpeningTest() {
-        m_monitor.observeProblem([this](const std::optional<Error>& problem) {
-            m_told.push_back(problem ? problem->message : "well");
+        m_monitor.observeAccess([this](EventMonitor::Access access, const std::optional<Error>& why) {
+            m_told.push_back(words(access) + (why ? " " + why->message : ""));
         });
         EXPECT_TRUE(m_monitor.install([this](const KeyEvent& event) {
             if (event.kind == KeyEventKind::keyDown) m_typed += event.character;
         }));
     }
 
+    static std::string words(EventMonitor::Access access) {
+        if (access == EventMonitor::Access::given) return "given";
+        return access == EventMonitor::Access::asked ? "asked" : "ended";
+    }
     std::vector<evdev::OpenedDevice> opened(int number) const {
         const std::string name = "event" + std::to_string(number);
         std::vector<evdev::OpenedDevice> devices;
@@ -98,15 +106,51 @@ TEST_F(OpeningTest, aRefusalIsToldOnceAndTheNextRecordingAsksAgain) {
     m_opener.answer(refused);
     m_monitor.dispatch();
     m_monitor.dispatch();
-    EXPECT_EQ(m_told, Log{"Refused."});
-    EXPECT_EQ(m_monitor.shortcoming(), refused);
+    EXPECT_EQ(m_told, Log{"ended Refused."});
     m_monitor.setRecording(false);
+    m_monitor.setRecording(true);
+    m_opener.answer(refused);
+    m_monitor.dispatch();
+    EXPECT_EQ(m_opener.log, (Log{"asked beside", "closed", "asked beside"}));
+    EXPECT_EQ(m_told, (Log{"ended Refused.", "ended Refused."}));
+}
+
+TEST_F(OpeningTest, aQuestionThatTakesAWhileIsToldAndItsAnswer) {
+    m_monitor.setRecording(true);
+    m_monitor.dispatch();
+    EXPECT_EQ(m_told, Log{"asked"});
+    m_opener.answer(opened(0));
+    m_monitor.dispatch();
+    EXPECT_EQ(m_told, (Log{"asked", "given"}));
+}
+
+TEST_F(OpeningTest, whatIsGivenAtOnceIsNotTold) {
     m_monitor.setRecording(true);
     m_opener.answer(opened(0));
     m_monitor.dispatch();
-    EXPECT_EQ(m_opener.log, (Log{"asked beside", "closed", "asked beside"}));
-    EXPECT_EQ(m_told, (Log{"Refused.", "well"}));
-    EXPECT_EQ(m_monitor.shortcoming(), std::nullopt);
+    EXPECT_EQ(m_told, Log{});
+}
+
+TEST_F(OpeningTest, whatARunIsRefusedIsToldToNobody) {
+    m_monitor.runWatch().runStarts();
+    m_opener.answer(refused);
+    m_monitor.runWatch().runEnds();
+    m_monitor.dispatch();
+    EXPECT_EQ(m_told, Log{});
+}
+
+TEST_F(OpeningTest, whatIsLostEndsARecordingAfterTheKeysThatCameBefore) {
+    m_monitor.setRecording(true);
+    m_opener.answer(opened(0));
+    m_keyboard->key(30, 1, m_clock.now());
+    m_monitor.dispatch();
+    m_keyboard->key(31, 1, m_clock.now());
+    m_opener.lose({"Lost.", ""});
+    m_keyboard->key(32, 1, m_clock.now());
+    m_monitor.dispatch();
+    EXPECT_EQ(m_typed, "a");
+    EXPECT_EQ(m_told, Log{"ended Lost."});
+    EXPECT_FALSE(m_monitor.runWatch().handsHoldKeys());
 }
 
 TEST_F(OpeningTest, aRunAsksNobodyAndARecordingInItDoes) {
@@ -152,7 +196,7 @@ TEST_F(OpeningTest, oneThatCannotBeOpenedLeavesTheOthersOpen) {
     m_opener.answer(refused);
     tap(*m_keyboard);
     EXPECT_EQ(m_typed, "a");
-    EXPECT_EQ(m_told, Log{"Refused."});
+    EXPECT_EQ(m_told, Log{});
 }
 
 TEST_F(OpeningTest, hotKeysComeFromTheDesktopUntilKeyboardsAreOpen) {
@@ -165,9 +209,11 @@ TEST_F(OpeningTest, hotKeysComeFromTheDesktopUntilKeyboardsAreOpen) {
     EXPECT_EQ(pressed, 1);
     m_monitor.desktopTells(m_grabber.taken().front(), false);
     m_opener.answer(opened(0));
+    m_keyboard->key(63, 1, m_clock.now());
+    m_monitor.dispatch();
     m_monitor.desktopTells(m_grabber.taken().front(), true);
     m_monitor.dispatch();
-    EXPECT_EQ(pressed, 1);
+    EXPECT_EQ(pressed, 2);
 }
 
 TEST_F(OpeningTest, theSecondIsAskedOnlyWhereTheFirstFails) {
@@ -190,6 +236,30 @@ TEST_F(OpeningTest, theSecondIsAskedOnlyWhereTheFirstFails) {
     EXPECT_EQ(asking.log, (Log{"asked beside", "tried beside event0"}));
     second.close();
     EXPECT_EQ(asking.log.back(), "closed");
+}
+
+TEST_F(OpeningTest, theSecondIsAskedWhereTheFirstSeesNoKeyboard) {
+    m_keyboard.reset();
+    evdev::DirectOpener direct(m_input.folders());
+    EXPECT_FALSE(direct.mayOpen());
+    PatientOpener asking;
+    evdev::FallbackOpener either(direct, asking);
+    either.open({}, DeviceOpener::Question::allowed, [](const auto&) {});
+    EXPECT_EQ(asking.log, Log{"asked beside"});
+}
+
+TEST_F(OpeningTest, theFirstIsAskedOnWhenItsKeyboardsAreGone) {
+    evdev::DirectOpener direct(m_input.folders());
+    EXPECT_TRUE(direct.mayOpen());
+    PatientOpener asking;
+    evdev::FallbackOpener either(direct, asking);
+    either.open({}, DeviceOpener::Question::allowed, [](const auto&) {});
+    m_keyboard.reset();
+    bool isAnswered = false;
+    either.open({}, DeviceOpener::Question::avoided,
+                [&isAnswered](const auto& devices) { isAnswered = devices && devices.value().empty(); });
+    EXPECT_TRUE(isAnswered);
+    EXPECT_EQ(asking.log, Log{});
 }
 
 TEST_F(OpeningTest, aDeviceFileThatCannotBeOpenedIsNamed) {

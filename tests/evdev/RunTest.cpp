@@ -130,6 +130,23 @@ TEST_P(EvdevRunTest, aKeyThatTheScriptLeavesDownIsUpAfterTheRun) {
     EXPECT_EQ(delivered(), (Log{"modifiers 0x200", "modifiers 0x0"}));
 }
 
+TEST_P(EvdevRunTest, aDesktopThatHasGoneIsLost) {
+    EXPECT_FALSE(watch().isLost());
+    evdevWorld().loseDesktop();
+    EXPECT_TRUE(watch().isLost());
+}
+
+TEST_P(EvdevRunTest, theWatchKnowsWhichKeysHandsHold) {
+    watch().runStarts();
+    press({key::shift});
+    watch().drain();
+    EXPECT_TRUE(watch().handsHold(xkey::shift));
+    EXPECT_FALSE(watch().handsHold(xkey::a));
+    release({key::shift});
+    watch().drain();
+    EXPECT_FALSE(watch().handsHold(xkey::shift));
+}
+
 TEST_P(EvdevRunTest, aLockedScreenEndsAPlayback) {
     bool locked = false;
     monitor().endPlaysWhen([&locked] { return locked; });

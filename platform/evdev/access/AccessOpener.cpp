@@ -5,6 +5,7 @@
 #include <gio/gunixfdlist.h>
 
 #include <memory>
+#include <string_view>
 #include <utility>
 
 #include "platform/linux/BusConnection.h"
@@ -17,7 +18,27 @@ constexpr const char* service = "example.orlen.Keyrill.Access";
 constexpr const char* object = "/example/orlen/Keyrill/Access";
 constexpr const char* face = "example.orlen.Keyrill.Access1";
 
+constexpr const char* theBus = "org.freedesktop.DBus";
+constexpr const char* theBusObject = "/org/freedesktop/DBus";
+
 const Error noBus{"The keyboard cannot be read: there is no system bus.", ""};
+const Error serviceGone{"The keyboard is no longer read: the service keyrill-access has ended.",
+                        "What it says stands in the system's journal: journalctl -u keyrill-access."};
+
+/// Whether a list of names that the bus gives has that of the service.
+bool hasService(GDBusConnection* bus, const char* list) {
+    constexpr int patience = 1000;
+    const GVariantPointer answer(g_dbus_connection_call_sync(bus, theBus, theBusObject, theBus, list, nullptr,
+                                                             G_VARIANT_TYPE("(as)"), G_DBUS_CALL_FLAGS_NONE,
+                                                             patience, nullptr, nullptr));
+    if (!answer) return false;
+    const GVariantPointer names(g_variant_get_child_value(answer.get(), 0));
+    for (gsize i = 0; i < g_variant_n_children(names.get()); ++i) {
+        const GVariantPointer name(g_variant_get_child_value(names.get(), i));
+        if (std::string_view(g_variant_get_string(name.get(), nullptr)) == service) return true;
+    }
+    return false;
+}
 
 Error errorFor(const GError& failure) {
     const GText name(g_dbus_error_get_remote_error(&failure));
@@ -73,6 +94,18 @@ struct AccessOpener::Call {
     }
 };
 
+bool AccessOpener::isInstalled(const std::string& systemBus) {
+    constexpr auto flags = static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
+                                                             G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION);
+    const GObjectPointer<GDBusConnection> bus(
+        g_dbus_connection_new_for_address_sync(systemBus.c_str(), flags, nullptr, nullptr, nullptr));
+    if (!bus) return false;
+    g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
+    const bool isThere = hasService(bus.get(), "ListActivatableNames") || hasService(bus.get(), "ListNames");
+    g_dbus_connection_close_sync(bus.get(), nullptr, nullptr);
+    return isThere;
+}
+
 AccessOpener::AccessOpener(std::string systemBus) : m_systemBus(std::move(systemBus)) {}
 AccessOpener::~AccessOpener() { close(); }
 
@@ -82,7 +115,15 @@ void AccessOpener::open(const std::set<std::string>& /*held*/, Question question
     if (m_bus && !m_bus->isOpen() && !m_bus->isOpening()) m_bus.reset();
     if (!m_bus) {
         m_bus = std::make_unique<BusConnection>(
-            m_loop, m_systemBus, [this] { ask(); }, [this] { fail(noBus); });
+            m_loop, m_systemBus,
+            [this] {
+                watchService();
+                if (m_opened) ask();
+            },
+            [this] {
+                lose(serviceGone);
+                fail(noBus);
+            });
         m_loop.wake();
         if (!m_bus->isOpening()) fail(noBus);
     } else if (m_call != nullptr) {
@@ -97,6 +138,7 @@ void AccessOpener::close() {
     m_opened = {};
     m_asksAgain = false;
     m_devices.clear();
+    m_hasSome = false;
     if (m_call != nullptr) std::exchange(m_call, nullptr)->opener = nullptr;
     m_bus.reset();
 }
@@ -113,6 +155,7 @@ void AccessOpener::ask() {
 
 void AccessOpener::answered(Result<std::vector<OpenedDevice>> answer) {
     if (answer) {
+        m_hasSome = true;
         for (OpenedDevice& device : answer.value()) m_devices.push_back(std::move(device));
     }
     if (std::exchange(m_asksAgain, false)) return ask();
@@ -120,6 +163,23 @@ void AccessOpener::answered(Result<std::vector<OpenedDevice>> answer) {
     if (const Opened opened = std::exchange(m_opened, {})) {
         opened(answer ? std::exchange(m_devices, {}) : std::move(answer));
     }
+}
+
+/// What the service has passed stays open when it is killed, and nobody else would take it back.
+void AccessOpener::watchService() {
+    m_bus->hear(
+        theBus, theBusObject, theBus, "NameOwnerChanged",
+        [this](const char* /*sender*/, GVariant* parameters) {
+            const char* owner = nullptr;
+            if (g_variant_is_of_type(parameters, G_VARIANT_TYPE("(sss)")) == FALSE) return;
+            g_variant_get(parameters, "(&s&s&s)", nullptr, nullptr, &owner);
+            if (*owner == '\0') lose(serviceGone);
+        },
+        service);
+}
+
+void AccessOpener::lose(const Error& why) {
+    if (std::exchange(m_hasSome, false) && m_lost) m_lost(why);
 }
 
 void AccessOpener::fail(const Error& error) {
