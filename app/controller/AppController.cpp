@@ -47,6 +47,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_helpDesk(services.workspace, services.systemFacts, m_stage),
       m_filesDesk(services.macroFiles, services.notifications, m_scriptNotices, m_dialogs, m_gate, m_stage),
       m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, m_dialogs, m_stage),
+      m_accessDesk(services.eventMonitor, services.notifications, m_dialogs, m_overlayDesk),
       statusItem(item) {
     timer.setSingleShot(true);
     m_killTimer.setSingleShot(true);

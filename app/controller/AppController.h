@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/controller/AccessDesk.h"
 #include "app/controller/FilesDesk.h"
 #include "app/controller/Gate.h"
 #include "app/controller/GatedDialogs.h"
@@ -172,6 +173,7 @@ class AppController : public QObject, public SharedController {
     HelpDesk m_helpDesk;
     FilesDesk m_filesDesk;
     PreferencesDesk m_preferencesDesk;
+    AccessDesk m_accessDesk;
     std::unique_ptr<WelcomePanel> m_welcomePanel;
 
   public:

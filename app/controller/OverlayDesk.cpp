@@ -44,6 +44,7 @@ void OverlayDesk::showRecorder() {
     RecorderWindow& recorder = builtRecorder();
     recorder.place();
     m_keysAreHeldBack = false;
+    m_waitsForPermission = false;
     setMacroString("");
     m_stage.fadeIn(recorder, overlayAlpha);
 }
@@ -66,8 +67,16 @@ void OverlayDesk::setKeysHeldBack(bool heldBack) {
     refreshRecorder();
 }
 
+void OverlayDesk::setWaitsForPermission(bool waits) {
+    m_waitsForPermission = waits;
+    refreshRecorder();
+}
+
 void OverlayDesk::refreshRecorder() {
     if (!m_recorder) return;
+    if (m_waitsForPermission) {
+        return m_recorder->setMacroString(tr("Waiting for your permission").toStdString());
+    }
     m_recorder->setMacroString(m_keysAreHeldBack ? tr("Not recorded: keyboard held").toStdString()
                                                  : m_macroString);
 }

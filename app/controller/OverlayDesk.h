@@ -32,6 +32,8 @@ class OverlayDesk : public QObject {
     void setMacroString(const std::string& text);
     /// Keys are not recorded, since another program has them for itself: that is shown in place of the text.
     void setKeysHeldBack(bool heldBack);
+    /// Nothing is recorded before the user has allowed it: that is shown.
+    void setWaitsForPermission(bool waits);
 
     /// Fades in with the focus. `plays` is whether its button and Return play.
     void showPrompt(bool plays);
@@ -68,6 +70,7 @@ class OverlayDesk : public QObject {
     std::unique_ptr<RecorderWindow> m_recorder;
     std::string m_macroString;
     bool m_keysAreHeldBack = false;
+    bool m_waitsForPermission = false;
     std::unique_ptr<MultiplePlayWindow> m_prompt;
     std::unique_ptr<SplashWindow> m_splash;
 };

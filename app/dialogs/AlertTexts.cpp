@@ -59,6 +59,12 @@ AlertText cannotRecord(const Error& error) {
     return warning(tr("Recording is not possible in this session yet"), error);
 }
 
+AlertText recordingEnded(const Error& error, bool isSomethingKept) {
+    if (!isSomethingKept) return warning(tr("Nothing was recorded"), error);
+    return warning(tr("The recording has ended"),
+                   explained(error) + QStringLiteral("\n\n") + tr("What was recorded until then is kept."));
+}
+
 AlertText updateAvailable() { return updateAlert(tr("YES"), tr("NO")); }
 
 AlertText updateAvailableSheet() { return updateAlert(tr("Yes"), tr("No")); }

@@ -16,6 +16,9 @@ AlertText noAccess(const Error& error);
 /// Nothing can be recorded in this session, though macros can be played.
 AlertText cannotRecord(const Error& error);
 
+/// Keys may not be seen, or no longer, so that a recording has ended; whether something of it is kept.
+AlertText recordingEnded(const Error& error, bool isSomethingKept);
+
 /// As an alert of its own.
 AlertText updateAvailable();
 /// As a sheet: the buttons are written otherwise.

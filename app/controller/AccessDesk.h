@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTimer>
+#include <optional>
+
+#include "platform/EventMonitor.h"
+
+class Dialogs;
+class Notifications;
+class OverlayDesk;
+
+/// What the user is told of a recording where the desktop asks him whether his keys may be seen: why, the
+/// first time that it takes him a while; and what has become of the recording where they may not, or no
+/// longer.
+class AccessDesk : public QObject {
+    Q_OBJECT
+
+  public:
+    /// All outlive the desk.
+    AccessDesk(EventMonitor& monitor, Notifications& notifications, Dialogs& dialogs, OverlayDesk& overlays);
+    ~AccessDesk() override;
+
+  private:
+    void follow(EventMonitor::Access access, const std::optional<Error>& why);
+    void tellWhy();
+    void endRecording(const Error& why);
+
+    EventMonitor& m_monitor;
+    Notifications& m_notifications;
+    Dialogs& m_dialogs;
+    OverlayDesk& m_overlays;
+    /// From the question to its explanation.
+    QTimer m_explains;
+    bool m_hasExplained = false;
+};
