@@ -30,6 +30,8 @@ enum class Means {
     dataControl,      ///< the clipboard of a Wayland compositor, without a window
     ordinaryWindow,   ///< a window as all others
     layer,            ///< a layer above all windows
+    keyboardDevices,  ///< the keyboards as the kernel shows them, which the user may read
+    accessService,    ///< the same, opened by keyrill-access
 };
 
 /// What is lacking, and would make a capability better if it were there. What can be done about it is the
@@ -56,7 +58,8 @@ inline constexpr std::array allMeans{
     Means::none,           Means::xInput,          Means::xGrab,         Means::xTest,
     Means::xSelection,     Means::xWindow,         Means::windowManager, Means::dockingTray,
     Means::statusNotifier, Means::virtualKeyboard, Means::swayBindings,  Means::swayTree,
-    Means::dataControl,    Means::ordinaryWindow,  Means::layer};
+    Means::dataControl,    Means::ordinaryWindow,  Means::layer,         Means::keyboardDevices,
+    Means::accessService};
 inline constexpr std::array allLacks{Lack::nothing,     Lack::display,        Lack::xInput,
                                      Lack::xkb,         Lack::xTest,          Lack::record,
                                      Lack::guard,       Lack::nativeWindows,  Lack::tray,

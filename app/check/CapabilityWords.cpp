@@ -46,6 +46,12 @@ QString meansWords(Means means) {
             return tr("as an ordinary window");
         case Means::layer:
             return tr("on a layer above all windows");
+        case Means::keyboardDevices:
+            return tr("from the keyboards themselves, which every program of yours may read");
+        case Means::accessService:
+            return tr(
+                "by keyrill-access, which asks for your password and opens the keyboard while Keyrill "
+                "records");
     }
     Q_UNREACHABLE();
 }
@@ -78,8 +84,12 @@ LackWords lackWords(Lack lack) {
                     tr("Add a tray to the desktop's panel. GNOME needs the extension \"AppIndicator and "
                        "KStatusNotifierItem Support\".")};
         case Lack::foreignKeys:
-            return {tr("A Wayland session shows no program what is typed in others."),
-                    tr("Record in an X11 session; macros play in both.")};
+            return {tr("A Wayland session shows no program what is typed in others, and the service that "
+                       "would is "
+                       "not installed."),
+                    tr("Install keyrill-access from Keyrill's sources, by \"tools/access install\"; or "
+                       "record in an "
+                       "X11 session, macros play in both.")};
         case Lack::compositorKeys:
             return {
                 tr("This compositor gives no hot keys to programs."),

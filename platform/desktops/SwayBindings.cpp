@@ -60,7 +60,7 @@ Result<std::unique_ptr<SwayBindings>> SwayBindings::open(Types types) {
     auto events = SwayConnection::open();
     if (!events) return events.error();
     const auto subscribed =
-        events.value().ask(SwayConnection::Request::subscribe, R"(["binding","workspace"])");
+        events.value().ask(SwayConnection::Request::subscribe, R"(["binding","workspace","input"])");
     if (!subscribed) return subscribed.error();
     std::unique_ptr<SwayBindings> bindings(
         new SwayBindings(std::move(commands).value(), std::move(events).value(), std::move(types)));
@@ -132,6 +132,9 @@ std::optional<SwayBindings::Event> SwayBindings::nextEvent() {
             m_bound.clear();
             readConfiguration();
             return Event{.kind = Event::Kind::reload};
+        }
+        if (event->type == SwayConnection::inputEvent && event->content["change"].text() == "xkb_layout") {
+            return Event{.kind = Event::Kind::layout};
         }
         if (event->type != SwayConnection::bindingEvent) continue;
         if (auto ours = eventOf(event->content["binding"]["command"].text())) return ours;

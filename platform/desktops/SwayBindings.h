@@ -31,10 +31,10 @@ class SwayBindings final : public KeyGrabber {
     std::optional<std::string> grab(const KeyGrab& grab) override;
     void release(const KeyGrab& grab) override;
 
-    /// What has happened: one of ours goes down or up, or sway has read its configuration again, which ends
-    /// all of them.
+    /// What has happened: one of ours goes down or up, sway has read its configuration again, which ends all
+    /// of them, or a keyboard has another layout now.
     struct Event {
-        enum class Kind { press, release, reload };
+        enum class Kind { press, release, reload, layout };
         Kind kind = Kind::press;
         std::uint8_t keycode = 0;
         std::uint16_t modifiers = 0;

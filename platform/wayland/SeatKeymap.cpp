@@ -74,7 +74,7 @@ void SeatKeymap::seatHas(void* self, wl_seat* seat, std::uint32_t capabilities) 
         .key = [](void*, wl_keyboard*, std::uint32_t, std::uint32_t, std::uint32_t, std::uint32_t) {},
         .modifiers = [](void*, wl_keyboard*, std::uint32_t, std::uint32_t, std::uint32_t, std::uint32_t,
                         std::uint32_t) {},
-        .repeat_info = [](void*, wl_keyboard*, std::int32_t, std::int32_t) {}};
+        .repeat_info = toldRepeat};
     keymap.m_keyboard = wl_seat_get_keyboard(seat);
     wl_keyboard_add_listener(keymap.m_keyboard, &listener, self);
 }
@@ -86,6 +86,13 @@ void SeatKeymap::told(void* self, wl_keyboard* /*keyboard*/, std::uint32_t forma
     std::string text = keymapText(file, size);
     auto& keymap = *static_cast<SeatKeymap*>(self);
     if (!keymap.m_isMuted && !TypingKeymap::isOurs(text)) keymap.adopt(std::move(text));
+}
+
+void SeatKeymap::toldRepeat(void* self, wl_keyboard* /*keyboard*/, std::int32_t rate, std::int32_t delay) {
+    auto& keymap = *static_cast<SeatKeymap*>(self);
+    if (keymap.m_isMuted) return;
+    keymap.m_repeat = Repeat{.delay = delay, .rate = rate};
+    if (keymap.m_changed) keymap.m_changed();
 }
 
 bool SeatKeymap::adopt(std::string text) {

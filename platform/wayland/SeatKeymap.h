@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -36,8 +37,18 @@ class SeatKeymap {
     const std::string& text() const { return m_text; }
     /// Asked for now; one that the keymap has.
     xkb_layout_index_t group() const;
+    /// How a held key repeats; empty until it is told.
+    struct Repeat {
+        /// In milliseconds.
+        std::int32_t delay = 0;
+        /// In a second; 0 where keys do not repeat.
+        std::int32_t rate = 0;
+    };
+    const std::optional<Repeat>& repeat() const { return m_repeat; }
+    /// Whether a keyboard of ours is at the seat.
+    bool hasOwnKeyboard() const { return m_isMuted; }
 
-    /// Who is told when the keymap has become another one; at most one.
+    /// Who is told when the keymap has become another one, or keys repeat in another way; at most one.
     void observe(std::function<void()> changed) { m_changed = std::move(changed); }
 
     /// A keyboard of ours comes to the seat: from now on what is told may be its keymap, or what the
@@ -48,6 +59,7 @@ class SeatKeymap {
 
   private:
     static void seatHas(void* self, wl_seat* seat, std::uint32_t capabilities);
+    static void toldRepeat(void* self, wl_keyboard* keyboard, std::int32_t rate, std::int32_t delay);
     static void told(void* self, wl_keyboard* keyboard, std::uint32_t format, int file, std::uint32_t size);
 
     bool adopt(std::string text);
@@ -61,6 +73,7 @@ class SeatKeymap {
     std::string m_text;
     std::unique_ptr<const Keymap> m_keymap;
     std::unique_ptr<const CharacterTable> m_characters;
+    std::optional<Repeat> m_repeat;
     bool m_isKept = false;
     bool m_isMuted = false;
     wl_seat* m_seat = nullptr;

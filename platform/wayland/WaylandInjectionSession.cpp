@@ -10,6 +10,15 @@
 
 namespace wayland {
 
+namespace {
+
+/// The watch tells of each key.
+constexpr std::chrono::milliseconds betweenLooks{50};
+/// What applications need to take in that the user's keys are up.
+constexpr std::chrono::milliseconds settleTime{10};
+
+}  // namespace
+
 WaylandInjectionSession::WaylandInjectionSession(const InjectionTools& tools, InjectionPlan plan,
                                                  std::function<void()> ended)
     : m_tools(tools),
@@ -89,8 +98,29 @@ Step<> WaylandInjectionSession::prepareStroke(xkb_mod_mask_t commands) {
     if (!m_tail.isContinuedBy(commands)) {
         if (auto ended = m_tailWait.endTail(); !ended) return ended;
     }
+    if (auto up = awaitHands(); !up) return up;
     m_sender.meet(m_tools.keyboard.components());
     return {};
+}
+
+bool WaylandInjectionSession::handsHoldModifiers() const {
+    if (!m_tools.watch.handsHoldKeys()) return false;
+    const ModifierKeys& keys = m_tools.seat.keymap().keys();
+    for (std::size_t i = xkbcode::first; i <= xkbcode::last; ++i) {
+        const auto keycode = static_cast<std::uint8_t>(i);
+        if (keys.heldBy(keycode) != 0 && m_tools.watch.handsHold(keycode)) return true;
+    }
+    return false;
+}
+
+Step<> WaylandInjectionSession::awaitHands() {
+    if (!handsHoldModifiers()) return {};
+    do {
+        m_waiter.awaitNews(m_tools.clock.now() + betweenLooks);
+        if (auto heeded = m_waiter.heedUser(); !heeded) return heeded;
+    } while (handsHoldModifiers());
+    m_pacer.restart();
+    return m_waiter.waitUntil(m_tools.clock.now() + settleTime);
 }
 
 Step<> WaylandInjectionSession::stroke(std::uint32_t keyCode, std::uint32_t modifiers) {

@@ -26,7 +26,8 @@ struct InjectionTools {
 /// One run. The first step that presses a key begins it: a keyboard of ours comes to the seat, with the
 /// layout that is in force then; so does the first one after a rest. It goes with the object.
 ///
-/// Hands need not be waited for: what they hold is on keyboards of their own.
+/// Each stroke waits while hands hold modifiers, as far as the watch knows: though theirs are on keyboards of
+/// their own, a program that knows of one keyboard only, as X11 ones do, takes theirs and ours for one.
 class WaylandInjectionSession final : public InjectionSession {
   public:
     WaylandInjectionSession(const InjectionTools& tools, InjectionPlan plan, std::function<void()> ended);
@@ -55,6 +56,8 @@ class WaylandInjectionSession final : public InjectionSession {
     /// after the last stroke stay so for one with these of Control, Alt and Super.
     Step<> prepareStroke(xkb_mod_mask_t commands = 0);
     Step<> stopProcess();
+    bool handsHoldModifiers() const;
+    Step<> awaitHands();
     Step<> beginTail();
 
     Result<Stroke> plan(std::uint32_t keyCode, std::uint32_t modifiers) const;

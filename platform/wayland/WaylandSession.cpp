@@ -5,22 +5,30 @@
 #include <wlr-data-control-unstable-v1-client-protocol.h>
 #include <wlr-layer-shell-unstable-v1-client-protocol.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <optional>
 #include <utility>
 
 #include "platform/desktops/SwayDesktop.h"
 #include "platform/desktops/SwayLock.h"
+#include "platform/evdev/DirectOpener.h"
+#include "platform/evdev/EvdevEventMonitor.h"
+#include "platform/evdev/FallbackOpener.h"
+#include "platform/evdev/RepeatCounter.h"
+#include "platform/evdev/access/AccessOpener.h"
+#include "platform/evdev/devices/KernelCalls.h"
+#include "platform/linux/BusAddresses.h"
 #include "platform/monitor/LockAwareMonitor.h"
 #include "platform/none/NoCapabilities.h"
 #include "platform/none/NoDockingTray.h"
+#include "platform/none/NoEventMonitor.h"
 #include "platform/none/NoHotKeys.h"
 #include "platform/none/NoLayers.h"
-#include "platform/wayland/WaylandEventMonitor.h"
+#include "platform/wayland/SwaySignals.h"
 #include "platform/wayland/WaylandKeyInjector.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/wayland/WaylandLayers.h"
-#include "platform/wayland/WaylandRunWatch.h"
 #include "platform/wayland/WaylandScriptDesktop.h"
 #include "platform/wayland/WaylandWindows.h"
 
@@ -34,8 +42,8 @@ std::string environment(const char* name) {
 }
 
 Error noMonitor() {
-    return {"A Wayland session shows no program what is typed in others, so nothing can be recorded yet.",
-            "Record in an X11 session; macros play in both."};
+    return {"A Wayland session shows this program nothing of what is typed in others.",
+            "Record with keyrill itself, or use an X11 session."};
 }
 
 Error noHotKeys() {
@@ -57,6 +65,34 @@ std::unique_ptr<SwayDesktop> openSway() {
 std::unique_ptr<SwayLock> openSwayLock(const Clock& clock) {
     auto connection = SwayConnection::open();
     return connection ? std::make_unique<SwayLock>(std::move(connection).value(), clock) : nullptr;
+}
+
+std::unique_ptr<Keymap> copyOf(const SeatKeymap& seat) {
+    return std::make_unique<Keymap>(XkbKeymapPointer(xkb_keymap_ref(seat.keymap().get())));
+}
+
+evdev::RepeatRule ruleOf(const SeatKeymap::Repeat& repeat) {
+    constexpr std::chrono::microseconds second{1'000'000};
+    return {.delay = std::chrono::milliseconds(repeat.delay),
+            .interval = repeat.rate > 0 ? second / repeat.rate : second.zero()};
+}
+
+/// Where the compositor takes no combinations for programs.
+class NoGrabs final : public KeyGrabber {
+  public:
+    std::optional<std::string> grab(const KeyGrab& /*grab*/) override {
+        return "this compositor gives no hot keys to programs";
+    }
+    void release(const KeyGrab& /*grab*/) override {}
+};
+
+/// By which way a recording would see keys.
+CapabilityState recordingState() {
+    if (evdev::DirectOpener().mayOpen()) return {Extent::fully, Means::keyboardDevices, Lack::nothing};
+    if (evdev::AccessOpener::isInstalled(busAddresses(environmentOfProcess()).system)) {
+        return {Extent::fully, Means::accessService, Lack::nothing};
+    }
+    return {.lack = Lack::foreignKeys};
 }
 
 bool isSway() { return static_cast<bool>(SwayConnection::open()); }
@@ -81,7 +117,7 @@ SessionCapabilities WaylandSessionCheck::capabilities() const {
     const bool presses = connection.value()->offers(zwp_virtual_keyboard_manager_v1_interface);
     const bool hasClipboard = connection.value()->offers(zwlr_data_control_manager_v1_interface);
     const CapabilityState pressing = fullyIf(presses, Means::virtualKeyboard, Lack::virtualKeyboard);
-    return {.recording = {.lack = Lack::foreignKeys},
+    return {.recording = recordingState(),
             .hotKeys = fullyIf(isSway(), Means::swayBindings, Lack::compositorKeys),
             .pressing = pressing,
             .text = pressing,
@@ -108,8 +144,13 @@ SessionDetails WaylandSessionCheck::details() const {
 class WaylandSession final : public Session {
   public:
     WaylandSession(std::unique_ptr<WaylandConnection> connection, Clock& clock, SessionUse use)
-        : m_connection(std::move(connection)), m_clock(clock), m_use(use) {}
+        : m_connection(std::move(connection)), m_clock(clock), m_use(use) {
+        m_seat.observe([this] { followSeat(); });
+        if (m_seat.repeat()) m_keys.setRepeatRule(ruleOf(*m_seat.repeat()));
+        if (m_signals) m_keys.listenTo(*m_signals);
+    }
     ~WaylandSession() override {
+        m_seat.observe({});
         if (m_use == SessionUse::scripts) m_scriptDesktop.clipboardOfScripts().leave();
     }
     WaylandSession(const WaylandSession&) = delete;
@@ -117,15 +158,14 @@ class WaylandSession final : public Session {
 
     const SessionServices& sessionServices() override { return m_services; }
     std::vector<EventSource*> eventSources() override {
-        std::vector<EventSource*> sources{m_connection.get()};
-        if (m_hotKeys) sources.push_back(m_hotKeys.get());
+        std::vector<EventSource*> sources{m_connection.get(), &m_keys};
         if (m_layers && m_layers->areOffered()) sources.push_back(m_layers->eventSource());
         return sources;
     }
     void interrupt() noexcept override { m_injector.interrupt(); }
     void suspend() noexcept override { m_injector.suspend(); }
     void endPlaysWhen(std::function<bool()> isLocked) override {
-        m_watch.endPlaysWhen([this, isLocked = std::move(isLocked)] {
+        m_keys.endPlaysWhen([this, isLocked = std::move(isLocked)] {
             return (isLocked && isLocked()) || hasLockerKeyboard();
         });
     }
@@ -137,14 +177,33 @@ class WaylandSession final : public Session {
     Result<void> start() { return m_injector.start(); }
 
   private:
-    /// A program that plays a script has none.
-    std::unique_ptr<WaylandHotKeys> openHotKeys() {
-        if (m_use == SessionUse::scripts) return nullptr;
-        auto hotKeys = WaylandHotKeys::open(m_seat);
-        return hotKeys ? std::move(hotKeys).value() : nullptr;
+    /// A program that plays a script asks nobody for the keyboard, and has no hot keys.
+    bool isForScripts() const { return m_use == SessionUse::scripts; }
+    std::unique_ptr<SwayBindings> openBindings() const {
+        if (isForScripts()) return nullptr;
+        auto bindings = openSwayBindings(m_seat);
+        return bindings ? std::move(bindings).value() : nullptr;
+    }
+    std::unique_ptr<SwaySignals> openSignals() {
+        if (!m_bindings) return nullptr;
+        return std::make_unique<SwaySignals>(*m_bindings, m_keys, [this] {
+            return m_seat.hasOwnKeyboard() ? std::nullopt : std::optional(m_seat.group());
+        });
     }
     bool hasLockerKeyboard() { return m_lock && m_lock->isLocked(); }
     xkb_layout_index_t group() { return m_sway ? m_sway->group() : 0; }
+    evdev::EvdevEventMonitor::Session keys() {
+        return {.clock = m_clock,
+                .opener = isForScripts() ? static_cast<evdev::DeviceOpener&>(m_direct) : m_opener,
+                .calls = m_calls,
+                .grabs = m_bindings ? static_cast<KeyGrabber&>(*m_bindings) : m_noGrabs,
+                .layout = [this] { return m_seat.group(); },
+                .isDesktopLost = [this] { return m_connection->isBroken(); }};
+    }
+    void followSeat() {
+        m_keys.setKeymap(copyOf(m_seat));
+        if (m_seat.repeat()) m_keys.setRepeatRule(ruleOf(*m_seat.repeat()));
+    }
 
     std::unique_ptr<WaylandConnection> m_connection;
     Clock& m_clock;
@@ -152,29 +211,36 @@ class WaylandSession final : public Session {
     std::unique_ptr<SwayDesktop> m_sway = openSway();
     std::unique_ptr<SwayLock> m_lock = openSwayLock(m_clock);
     SeatKeymap m_seat{*m_connection, environment("XDG_RUNTIME_DIR"), [this] { return group(); }};
-    std::unique_ptr<WaylandHotKeys> m_hotKeys = openHotKeys();
-    WaylandRunWatch m_watch{*m_connection, m_hotKeys.get()};
-    WaylandKeyInjector m_injector{*m_connection, m_seat, m_watch, m_clock};
+    std::unique_ptr<SwayBindings> m_bindings = openBindings();
+    NoGrabs m_noGrabs;
+    evdev::DirectOpener m_direct;
+    evdev::AccessOpener m_access{busAddresses(environmentOfProcess()).system};
+    evdev::FallbackOpener m_opener{m_direct, m_access};
+    evdev::KernelCalls m_calls;
+    evdev::EvdevEventMonitor m_keys{keys(), copyOf(m_seat)};
+    std::unique_ptr<SwaySignals> m_signals = openSignals();
+    WaylandKeyInjector m_injector{*m_connection, m_seat, m_keys.runWatch(), m_clock};
     WaylandKeyboardLayout m_layout{m_seat};
     WaylandScriptDesktop m_scriptDesktop;
     WaylandSessionCheck m_check;
-    WaylandEventMonitor m_monitor{noMonitor(), m_hotKeys.get()};
-    LockAwareMonitor m_lockAwareMonitor{m_monitor, [this] { return hasLockerKeyboard(); }};
+    LockAwareMonitor m_lockAwareMonitor{m_keys, [this] { return hasLockerKeyboard(); }};
+    NoEventMonitor m_noMonitor{noMonitor()};
     NoHotKeys m_noHotKeys{noHotKeys()};
     WaylandWindows m_windows{m_sway.get(), m_clock};
     NoDockingTray m_tray;
     std::unique_ptr<WaylandLayers> m_layers =
         m_use == SessionUse::desktop ? std::make_unique<WaylandLayers>() : nullptr;
     NoLayers m_noLayers;
-    SessionServices m_services{.eventMonitor = m_lockAwareMonitor,
-                               .hotKeys = m_hotKeys ? static_cast<HotKeys&>(*m_hotKeys) : m_noHotKeys,
-                               .keyboardLayout = m_layout,
-                               .keyInjector = m_injector,
-                               .scriptDesktop = m_scriptDesktop,
-                               .sessionCheck = m_check,
-                               .windows = m_windows,
-                               .dockingTray = m_tray,
-                               .layers = m_layers ? static_cast<Layers&>(*m_layers) : m_noLayers};
+    SessionServices m_services{
+        .eventMonitor = isForScripts() ? static_cast<EventMonitor&>(m_noMonitor) : m_lockAwareMonitor,
+        .hotKeys = m_bindings ? static_cast<HotKeys&>(m_keys) : m_noHotKeys,
+        .keyboardLayout = m_layout,
+        .keyInjector = m_injector,
+        .scriptDesktop = m_scriptDesktop,
+        .sessionCheck = m_check,
+        .windows = m_windows,
+        .dockingTray = m_tray,
+        .layers = m_layers ? static_cast<Layers&>(*m_layers) : m_noLayers};
 };
 
 }  // namespace

@@ -43,8 +43,8 @@ BEGIN {
                          " platform/x11/windows", "", "^(Q|boost/|wayland)")
 
     room("platform/desktops", "platform platform/linux platform/monitor", "", foreign)
-    room("platform/wayland", "platform platform/desktops platform/keymap platform/monitor platform/none platform/press" \
-                             " platform/run", "",
+    room("platform/wayland", "platform platform/desktops platform/evdev platform/evdev/access platform/evdev/devices" \
+                             " platform/keymap platform/linux platform/monitor platform/none platform/press platform/run", "",
          "^(Q|boost/|xcb/|X11/)")
 
     # The one list of sessions: nothing else that is no part of a session knows one.

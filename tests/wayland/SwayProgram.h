@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "compositor/Foot.h"
+#include "compositor/WaylandHands.h"
+#include "support/Keys.h"
+
+/// keyrill itself under a sway of the test's own, with the preset combinations, and the hands of its user.
+class SwayProgramTest : public testing::Test {
+  protected:
+    /// `configuration` is the user's, of sway.
+    explicit SwayProgramTest(const std::string& configuration = {})
+        : m_sway({.configuration = configuration, .hasXServer = true}), m_hands(m_sway.socket()) {
+        std::filesystem::create_directories(m_folder.file("presets/keyrill"));
+        std::filesystem::copy_file(KEYRILL_PRESETS, m_folder.file("presets/keyrill/keyrill.conf"));
+        std::filesystem::create_directories(m_folder.file("home/.config/keyrill"));
+        // Nobody is greeted.
+        std::ofstream(m_folder.file("home/.config/keyrill/keyrill.conf")) << "[Settings]\nnotFirstRun=true\n";
+    }
+
+    /// Starts the program with a macro of these lines, and waits until it has its combinations.
+    void start(const std::string& lines) {
+        std::ofstream(m_folder.file("macro.keyrill")) << "tell application \"System Events\"\n"
+                                                      << lines << "\nend tell\n";
+        auto environment = m_sway.environment();
+        environment["HOME"] = m_folder.file("home");
+        environment["XDG_CONFIG_DIRS"] = m_folder.file("presets");
+        environment["XDG_CONFIG_HOME"] = "";
+        environment["XDG_DATA_HOME"] = "";
+        environment["LC_ALL"] = "C.UTF-8";
+        environment["DBUS_SESSION_BUS_ADDRESS"] = "disabled:";
+        environment["DBUS_SYSTEM_BUS_ADDRESS"] = m_systemBus;
+        m_program = std::make_unique<Child>(
+            std::vector<std::string>{KEYRILL_PRODUCT, m_folder.file("macro.keyrill")},
+            Child::Options{.environment = environment, .outputFile = m_folder.file("log")});
+        // Without a tray a small window appears, once the program is up.
+        if (!eventually([this] { return shows("Keyrill"); }, std::chrono::seconds(30))) {
+            throw std::runtime_error("the program does not start: " + contentOf(m_folder.file("log")));
+        }
+    }
+    bool shows(const std::string& title) const { return m_sway.tries({"[title=\"^" + title + "$\"] nop"}); }
+
+    /// How often sway has taken the preset combination for playing for the program.
+    std::size_t timesTaken() const {
+        const std::string log = m_sway.log();
+        std::size_t times = 0;
+        for (std::size_t at = log.find("nop keyrill"); at != std::string::npos;
+             at = log.find("nop keyrill", at + 1)) {
+            const std::string line = log.substr(at, log.find('\n', at) - at);
+            if (line.find("press 33 ") != std::string::npos && line.find(" for device") != std::string::npos)
+                ++times;
+        }
+        return times;
+    }
+
+    /// Before start(); there is none otherwise.
+    void setSystemBus(const std::string& address) { m_systemBus = address; }
+
+    void strokeHotKey(std::uint8_t key) { m_hands.stroke({xkey::control, xkey::super, key}); }
+
+    const Sway& sway() const { return m_sway; }
+    WaylandHands& hands() { return m_hands; }
+    Child& program() { return *m_program; }
+    const TemporaryFolder& folder() const { return m_folder; }
+
+  private:
+    TemporaryFolder m_folder;
+    std::string m_systemBus = "unix:path=" + m_folder.file("no-bus");
+    Sway m_sway;
+    WaylandHands m_hands;
+    std::unique_ptr<Child> m_program;
+};
