@@ -4,6 +4,7 @@
 // above.
 #include <signal.h>
 
+#include "compositor/WaylandMouse.h"
 #include "wayland/SwayScreenTest.h"
 
 namespace {
@@ -127,6 +128,21 @@ TEST_F(LayersTest, escapeGivesTheKeyboardBack) {
     EXPECT_TRUE(eventually([this] { return hasWindowKeyboard(); }));
     hands().stroke({xkey::z});
     EXPECT_EQ(foot.typed(1), "z");
+}
+
+TEST_F(LayersTest, aClickOnThePromptsButtonPlays) {
+    WaylandMouse mouse(sway().socket());
+    const Foot foot(sway());
+    const auto program = startProgram();
+    foot.focus();
+    const ScreenPicture before = pictureWithFullScreen();
+    openPrompt();
+    const auto area = changedArea(before);
+    ASSERT_TRUE(area);
+    // The button is at its right end.
+    mouse.click(static_cast<unsigned>(area->x + area->width - 40),
+                static_cast<unsigned>(area->y + area->height / 2), 1024, 640);
+    EXPECT_EQ(foot.typed(2), "ab");
 }
 
 /// Where there is no X server.
