@@ -26,6 +26,8 @@ enum class Means {
     statusNotifier,   ///< a tray that asks programs for their icons over the session bus
     virtualKeyboard,  ///< a virtual keyboard of a Wayland compositor's
     swayBindings,     ///< bindings of sway's, by its IPC
+    kdeShortcuts,     ///< KDE's global shortcuts, over the session bus
+    portal,           ///< the portal by which a desktop lets programs press keys
     swayTree,         ///< sway's tree of windows, by its IPC
     dataControl,      ///< the clipboard of a Wayland compositor, without a window
     ordinaryWindow,   ///< a window as all others
@@ -49,6 +51,8 @@ enum class Lack {
     foreignKeys,      ///< a way to see what is typed in other programs
     compositorKeys,   ///< a compositor that gives hot keys to programs
     virtualKeyboard,  ///< a compositor with virtual keyboards
+    portal,           ///< the desktop's portal for pressing keys
+    otherCharacters,  ///< characters that none of the user's layouts has
     dataControl,      ///< a compositor that lets the clipboard be read without a window
     foreignWindows,   ///< a compositor that tells of the windows of others
     layers,           ///< windows that lie above all others
@@ -58,13 +62,13 @@ inline constexpr std::array allMeans{
     Means::none,           Means::xInput,          Means::xGrab,         Means::xTest,
     Means::xSelection,     Means::xWindow,         Means::windowManager, Means::dockingTray,
     Means::statusNotifier, Means::virtualKeyboard, Means::swayBindings,  Means::swayTree,
-    Means::dataControl,    Means::ordinaryWindow,  Means::layer,         Means::keyboardDevices,
-    Means::accessService};
-inline constexpr std::array allLacks{Lack::nothing,     Lack::display,        Lack::xInput,
-                                     Lack::xkb,         Lack::xTest,          Lack::record,
-                                     Lack::guard,       Lack::nativeWindows,  Lack::tray,
-                                     Lack::foreignKeys, Lack::compositorKeys, Lack::virtualKeyboard,
-                                     Lack::dataControl, Lack::foreignWindows, Lack::layers};
+    Means::kdeShortcuts,   Means::portal,          Means::dataControl,   Means::ordinaryWindow,
+    Means::layer,          Means::keyboardDevices, Means::accessService};
+inline constexpr std::array allLacks{
+    Lack::nothing,        Lack::display,         Lack::xInput,        Lack::xkb,    Lack::xTest,
+    Lack::record,         Lack::guard,           Lack::nativeWindows, Lack::tray,   Lack::foreignKeys,
+    Lack::compositorKeys, Lack::virtualKeyboard, Lack::dataControl,   Lack::portal, Lack::otherCharacters,
+    Lack::foreignWindows, Lack::layers};
 
 struct CapabilityState {
     Extent extent = Extent::nothing;

@@ -38,6 +38,10 @@ QString meansWords(Means means) {
             return tr("by a virtual keyboard");
         case Means::swayBindings:
             return tr("by bindings of sway's");
+        case Means::kdeShortcuts:
+            return tr("by KDE's shortcuts");
+        case Means::portal:
+            return tr("by the desktop's portal, once you allow it");
         case Means::swayTree:
             return tr("by sway");
         case Means::dataControl:
@@ -97,6 +101,13 @@ LackWords lackWords(Lack lack) {
         case Lack::virtualKeyboard:
             return {tr("This compositor lets no program press keys."),
                     tr("Use a compositor with virtual keyboards, such as sway, or an X11 session.")};
+        case Lack::portal:
+            return {tr("This desktop lets no program press keys: its portal does not answer."),
+                    tr("Install xdg-desktop-portal and the part of it that belongs to the desktop, such as "
+                       "xdg-desktop-portal-kde.")};
+        case Lack::otherCharacters:
+            return {tr("Only characters that one of your keyboard layouts has."),
+                    tr("Add a layout that has them in the desktop's settings.")};
         case Lack::dataControl:
             return {tr("This compositor shows the clipboard to windows in front alone."),
                     tr("Scripts that use the clipboard need another compositor, such as sway, or an X11 "

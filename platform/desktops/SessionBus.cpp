@@ -47,7 +47,8 @@ void SessionBus::hear(const char* sender, const char* path, const char* interfac
     if (isOpen()) listen(m_hearings.back());
 }
 
-Result<GVariantPointer> SessionBus::ask(const Method& method, GVariant* parameters, const char* type) const {
+Result<GVariantPointer> SessionBus::ask(const Method& method, GVariant* parameters, const char* type,
+                                        Starts starts) const {
     if (!isOpen()) {
         if (parameters != nullptr) g_variant_unref(g_variant_ref_sink(parameters));
         return Error{"There is no session bus.", "Log in again."};
@@ -55,19 +56,13 @@ Result<GVariantPointer> SessionBus::ask(const Method& method, GVariant* paramete
     const GVariantType* const wanted = type == nullptr ? nullptr : G_VARIANT_TYPE(type);
     GError* error = nullptr;
     GVariantPointer answer(g_dbus_connection_call_sync(
-        get(), method.name, method.path, method.interface, method.member, parameters, wanted,
-        G_DBUS_CALL_FLAGS_NO_AUTO_START, patience, nullptr, &error));
+        m_connection.get(), method.name, method.path, method.interface, method.member, parameters, wanted,
+        starts == Starts::yes ? G_DBUS_CALL_FLAGS_NONE : G_DBUS_CALL_FLAGS_NO_AUTO_START, patience, nullptr,
+        &error));
     if (answer) return answer;
     const GFailure failure(error);
     g_dbus_error_strip_remote_error(failure.get());
     return Error{failure->message, ""};
-}
-
-void SessionBus::tell(const Method& method, GVariant* parameters) const {
-    const GVariantPointer owned(parameters == nullptr ? nullptr : g_variant_ref_sink(parameters));
-    if (!isOpen()) return;
-    g_dbus_connection_call(get(), method.name, method.path, method.interface, method.member, owned.get(),
-                           nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START, patience, nullptr, nullptr, nullptr);
 }
 
 bool SessionBus::has(const char* name) const {
@@ -78,5 +73,3 @@ bool SessionBus::has(const char* name) const {
     if (answer) g_variant_get(answer.value().get(), "(b)", &isThere);
     return isThere == TRUE;
 }
-
-std::string SessionBus::ownName() const { return isOpen() ? g_dbus_connection_get_unique_name(get()) : ""; }

@@ -28,22 +28,18 @@ class SessionBus {
     /// and asked there is gone. For the life of the bus.
     void whenReplaced(std::function<void()> replaced) { m_replaced.push_back(std::move(replaced)); }
 
-    /// The answer, of that type ("(u)"), for which it waits two seconds at the most. Fails where nobody has
-    /// the name, who is not started for it, and where he answers with an error: the message is his.
-    Result<GVariantPointer> ask(const Method& method, GVariant* parameters, const char* type) const;
-    /// Without waiting for an answer, in the order of the calls.
-    void tell(const Method& method, GVariant* parameters) const;
+    /// Whether a service that is not there yet is started by a question to it.
+    enum class Starts { no, yes };
+    /// The answer, of that type ("(u)", null for any), for which it waits two seconds at the most. Fails
+    /// where nobody has the name, and where he answers with an error: the message is his.
+    Result<GVariantPointer> ask(const Method& method, GVariant* parameters, const char* type,
+                                Starts starts = Starts::no) const;
     /// Whether somebody has that name.
     bool has(const char* name) const;
 
     /// As BusConnection has it, but also on a bus that comes later.
     void hear(const char* sender, const char* path, const char* interface, const char* member,
               BusConnection::Heard heard);
-
-    /// ":1.42"; empty while it is not open.
-    std::string ownName() const;
-    GDBusConnection* get() const { return m_connection.get(); }
-    const BusLoop& loop() const { return m_loop; }
 
     /// Readable when update() has something to do.
     int fileDescriptor() const { return m_loop.fileDescriptor(); }

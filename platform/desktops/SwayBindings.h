@@ -7,16 +7,16 @@
 #include <set>
 #include <utility>
 
+#include "platform/desktops/HotKeyBinder.h"
 #include "platform/desktops/SwayConfiguration.h"
 #include "platform/desktops/SwayConnection.h"
-#include "platform/monitor/KeyGrabber.h"
 
 /// Combinations that sway takes from all programs and tells us of, by its IPC.
 ///
 /// They follow the key, whatever the layout is. What the user's configuration binds is never taken. Locks do
 /// not matter to sway. All are given back at the end; a process that is killed leaves them until sway reads
 /// its configuration again.
-class SwayBindings final : public KeyGrabber {
+class SwayBindings final : public HotKeyBinder {
   public:
     /// Whether a key (XKB) types the symbol of that name.
     using Types = std::function<bool(std::uint8_t keycode, const std::string& symbol)>;
@@ -27,22 +27,13 @@ class SwayBindings final : public KeyGrabber {
     SwayBindings(const SwayBindings&) = delete;
     SwayBindings& operator=(const SwayBindings&) = delete;
 
-    // KeyGrabber
+    // HotKeyBinder
     std::optional<std::string> grab(const KeyGrab& grab) override;
     void release(const KeyGrab& grab) override;
 
-    /// What has happened: one of ours goes down or up, sway has read its configuration again, which ends all
-    /// of them, or a keyboard has another layout now.
-    struct Event {
-        enum class Kind { press, release, reload, layout };
-        Kind kind = Kind::press;
-        std::uint8_t keycode = 0;
-        std::uint16_t modifiers = 0;
-    };
-    /// Readable when nextEvent() may have one.
-    int fileDescriptor() const { return m_events.fileDescriptor(); }
-    /// Without waiting.
-    std::optional<Event> nextEvent();
+    int fileDescriptor() const override { return m_events.fileDescriptor(); }
+    /// Sway forgets all of them when it reads its configuration again.
+    std::optional<Event> nextEvent() override;
 
   private:
     using Place = std::pair<std::uint8_t, std::uint16_t>;

@@ -14,12 +14,22 @@ namespace {
 
 /// Characters between two looks at what the user wishes.
 constexpr std::size_t partSize = 32;
-/// A compositor throws out a program that lets some thousands of key events lie, so that one which is busy
-/// for a while would be lost: no more than this goes at once, and no more than that in a second.
-constexpr double mostAtOnce = 1000;
-constexpr double mostInASecond = 1000;
 
 }  // namespace
+
+Step<> TextTyper::plugIn() {
+    m_tools.seat.ownKeyboardComes();
+    const auto pluggedIn = m_tools.keyboard.plugIn(keymapToBeginWith(), m_tools.seat.group());
+    if (!pluggedIn) return pluggedIn.error();
+    return {};
+}
+
+void TextTyper::unplug() {
+    m_tools.keyboard.unplug();
+    // A compositor that has gone tells nothing either.
+    [[maybe_unused]] const auto told = m_tools.connection.roundTrip();
+    m_tools.seat.ownKeyboardHasGone();
+}
 
 std::string TextTyper::keymapToBeginWith() {
     if (std::exchange(m_seatText, m_tools.seat.text()) != m_tools.seat.text() || !m_keymap) {
@@ -103,7 +113,7 @@ Step<> TextTyper::type(std::span<const char32_t> characters, const Stroke& aroun
         if (auto bound = bind(wanted); !bound) return bound;
         for (std::size_t at = 0; at < size; at += partSize) {
             const auto part = characters.subspan(at, std::min(partSize, size - at));
-            if (auto paced = keepPace(part.size()); !paced) return paced;
+            if (auto paced = m_pace.keep(part.size()); !paced) return paced;
             if (auto typed = typePart(part, around, held); !typed) return typed;
         }
         characters = characters.subspan(size);
@@ -127,17 +137,6 @@ Step<> TextTyper::typePart(std::span<const char32_t> characters, const Stroke& a
     const auto passed = m_tools.keyboard.synchronise();
     if (!passed) return passed.error();
     return {};
-}
-
-/// Also where nothing is waited for: the user may wish to stop.
-Step<> TextTyper::keepPace(std::size_t typed) {
-    const Clock::Time now = m_tools.clock.now();
-    const double gained = Clock::Seconds(now - m_allowedAt).count() * mostInASecond;
-    m_allowance = std::min(mostAtOnce, m_allowance + gained) - static_cast<double>(typed);
-    m_allowedAt = now;
-    if (m_allowance >= 0) return m_wait.waitUntil(now);
-    const Clock::Seconds lag(-m_allowance / mostInASecond);
-    return m_wait.waitUntil(now + std::chrono::duration_cast<Clock::Time::duration>(lag));
 }
 
 }  // namespace wayland

@@ -24,13 +24,14 @@ WaylandInjectionSession::WaylandInjectionSession(const InjectionTools& tools, In
     : m_tools(tools),
       m_plan(std::move(plan)),
       m_whenEnded(std::move(ended)),
-      m_waiter(tools.clock, tools.watch, tools.interrupt, tools.companion, tools.connection.fileDescriptor()),
-      m_tail(tools.keyboard, tools.clock),
-      m_tailWait(m_tail, tools.keyboard, m_waiter, tools.clock, [] { return KeycodeSet(); }),
+      m_waiter(tools.clock, tools.watch, tools.interrupt, tools.pressing.companion(),
+               tools.connection.fileDescriptor()),
+      m_tail(tools.pressing.output(), tools.clock),
+      m_tailWait(m_tail, tools.pressing.output(), m_waiter, tools.clock, [] { return KeycodeSet(); }),
       m_pacer(tools.clock, m_tailWait),
-      m_sender(tools.keyboard, tools.watch, m_tail),
-      m_held(tools.keyboard, tools.watch, m_sender),
-      m_typer({tools.seat, tools.keyboard, tools.clock}, m_sender, m_waiter) {
+      m_sender(tools.pressing.output(), tools.watch, m_tail),
+      m_held(tools.pressing.output(), tools.watch, m_sender),
+      m_keyboard(tools.pressing.keyboard(m_sender, m_waiter)) {
     m_waiter.whenSuspended([this] { return stopProcess(); });
 }
 
@@ -45,13 +46,11 @@ WaylandInjectionSession::~WaylandInjectionSession() {
 Step<> WaylandInjectionSession::begin() {
     // What the user has done meanwhile: another layout may be in force.
     if (const auto told = m_tools.connection.roundTrip(); !told) return told.error();
-    m_tools.seat.ownKeyboardComes();
     m_tools.interrupt.setHolding(true);
     if (!m_hasBegun) m_tools.watch.runStarts();
     m_hasBegun = true;
     m_rests = false;
-    const auto pluggedIn = m_tools.keyboard.plugIn(m_typer.keymapToBeginWith(), m_tools.seat.group());
-    if (!pluggedIn) return pluggedIn.error();
+    if (auto pluggedIn = m_keyboard->plugIn(); !pluggedIn) return pluggedIn;
     m_held.pressAgain();
     m_pacer.begin();
     return {};
@@ -62,10 +61,7 @@ void WaylandInjectionSession::rest() {
     m_rests = true;
     m_tailWait.rest();
     m_held.rest();
-    m_tools.keyboard.unplug();
-    // A compositor that has gone tells nothing either.
-    [[maybe_unused]] const auto told = m_tools.connection.roundTrip();
-    m_tools.seat.ownKeyboardHasGone();
+    m_keyboard->unplug();
     m_tools.interrupt.setHolding(false);
 }
 
@@ -99,7 +95,7 @@ Step<> WaylandInjectionSession::prepareStroke(xkb_mod_mask_t commands) {
         if (auto ended = m_tailWait.endTail(); !ended) return ended;
     }
     if (auto up = awaitHands(); !up) return up;
-    m_sender.meet(m_tools.keyboard.components());
+    m_sender.meet(m_keyboard->components());
     return {};
 }
 
@@ -133,7 +129,7 @@ Step<> WaylandInjectionSession::stroke(std::uint32_t keyCode, std::uint32_t modi
 
 Result<Stroke> WaylandInjectionSession::plan(std::uint32_t keyCode, std::uint32_t modifiers) const {
     const xkb_layout_index_t layout =
-        m_hasBegun && !m_rests ? m_tools.keyboard.components().lockedLayout : m_tools.seat.group();
+        m_hasBegun && !m_rests ? m_keyboard->components().lockedLayout : m_tools.seat.group();
     return planStroke(m_tools.seat.keymap(), keyCode, modifiers, layout);
 }
 
@@ -149,7 +145,7 @@ Step<> WaylandInjectionSession::play(const Stroke& stroke) {
 }
 
 Step<> WaylandInjectionSession::beginTail() {
-    if (const auto passed = m_tools.keyboard.synchronise(); !passed) return passed.error();
+    if (const auto passed = m_tools.pressing.output().synchronise(); !passed) return passed.error();
     if (m_tail.isDown()) m_tail.begin();
     return {};
 }
@@ -169,14 +165,14 @@ Step<> WaylandInjectionSession::type(std::string_view text, std::uint32_t modifi
         return prepared;
     }
     if (auto prepared = prepareTexts(); !prepared) return prepared;
-    const auto typed = m_typer.type(characters.value(), around.value(), m_held.keycodes());
+    const auto typed = m_keyboard->type(characters.value(), around.value(), m_held.keycodes());
     return typed ? beginTail() : typed;
 }
 
 /// What the plan tells of texts that are still to come; what in it cannot be typed is an error only there.
 Step<> WaylandInjectionSession::prepareTexts() {
     if (std::exchange(m_isPrepared, true)) return {};
-    return m_typer.prepare(charactersOfAll(m_plan.texts));
+    return m_keyboard->prepare(charactersOfAll(m_plan.texts));
 }
 
 WaylandInjectionSession::Strokes WaylandInjectionSession::strokesOf(const HeldKey& key) {
@@ -199,7 +195,7 @@ WaylandInjectionSession::Strokes WaylandInjectionSession::strokesOfText(std::str
     if (!characters) return characters.error();
     std::vector<Stroke> strokes;
     for (const char32_t character : characters.value()) {
-        const auto stroke = m_typer.strokeFor(character);
+        const auto stroke = m_keyboard->strokeFor(character);
         if (!stroke) return stroke.error();
         strokes.push_back(stroke.value());
         strokes.back().lockMask = locksOfText(m_tools.seat.keymap());
@@ -224,7 +220,7 @@ Step<> WaylandInjectionSession::hold(const Stroke& stroke) {
     if (auto prepared = prepareStroke(); !prepared) return prepared;
     m_held.press(m_tools.seat.keymap().keys(), stroke);
     m_sender.home();
-    if (const auto passed = m_tools.keyboard.synchronise(); !passed) return passed.error();
+    if (const auto passed = m_tools.pressing.output().synchronise(); !passed) return passed.error();
     return {};
 }
 

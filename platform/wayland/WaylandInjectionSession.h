@@ -8,7 +8,8 @@
 #include "platform/press/HeldKeys.h"
 #include "platform/press/TailWait.h"
 #include "platform/run/Pacer.h"
-#include "platform/wayland/TextTyper.h"
+#include "platform/wayland/Pressing.h"
+#include "platform/wayland/SeatKeymap.h"
 
 namespace wayland {
 
@@ -17,14 +18,13 @@ struct InjectionTools {
     RunWatch& watch;
     Clock& clock;
     RunInterrupt& interrupt;
-    RunCompanion& companion;
     WaylandConnection& connection;
     SeatKeymap& seat;
-    VirtualKeyboard& keyboard;
+    Pressing& pressing;
 };
 
-/// One run. The first step that presses a key begins it: a keyboard of ours comes to the seat, with the
-/// layout that is in force then; so does the first one after a rest. It goes with the object.
+/// One run. The first step that presses a key begins it: its keyboard comes, with the layout that is in force
+/// then; so does the first one after a rest. It goes with the object.
 ///
 /// Each stroke waits while hands hold modifiers, as far as the watch knows: though theirs are on keyboards of
 /// their own, a program that knows of one keyboard only, as X11 ones do, takes theirs and ours for one.
@@ -78,7 +78,7 @@ class WaylandInjectionSession final : public InjectionSession {
     Pacer m_pacer;
     StrokeSender m_sender;
     HeldKeys m_held;
-    TextTyper m_typer;
+    std::unique_ptr<RunKeyboard> m_keyboard;
     bool m_hasBegun = false;
     bool m_rests = false;
     bool m_isPrepared = false;

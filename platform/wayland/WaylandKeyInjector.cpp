@@ -7,19 +7,11 @@
 
 namespace wayland {
 
-WaylandKeyInjector::WaylandKeyInjector(WaylandConnection& connection, SeatKeymap& seat, RunWatch& watch,
-                                       Clock& clock)
-    : m_connection(connection), m_seat(seat), m_watch(watch), m_clock(clock) {}
+WaylandKeyInjector::WaylandKeyInjector(WaylandConnection& connection, SeatKeymap& seat, Pressing& pressing,
+                                       RunWatch& watch, Clock& clock)
+    : m_connection(connection), m_seat(seat), m_pressing(pressing), m_watch(watch), m_clock(clock) {}
 
 WaylandKeyInjector::~WaylandKeyInjector() = default;
-
-Result<void> WaylandKeyInjector::start() {
-    if (m_keyboard) return {};
-    auto keyboard = VirtualKeyboard::make(m_connection, m_clock);
-    if (!keyboard) return keyboard.error();
-    m_keyboard = std::move(keyboard).value();
-    return {};
-}
 
 Result<std::unique_ptr<InjectionSession>> WaylandKeyInjector::open(const InjectionPlan& plan) {
     if (m_session != nullptr) return Error{"A script is running already.", "Wait for its end."};
@@ -27,10 +19,9 @@ Result<std::unique_ptr<InjectionSession>> WaylandKeyInjector::open(const Injecti
     const InjectionTools tools{.watch = m_watch,
                                .clock = m_clock,
                                .interrupt = m_interrupt,
-                               .companion = m_companion,
                                .connection = m_connection,
                                .seat = m_seat,
-                               .keyboard = *m_keyboard};
+                               .pressing = m_pressing};
     auto session = std::make_unique<WaylandInjectionSession>(tools, plan, [this] { m_session = nullptr; });
     m_session = session.get();
     return std::unique_ptr<InjectionSession>(std::move(session));

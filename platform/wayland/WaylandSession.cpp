@@ -10,6 +10,9 @@
 #include <optional>
 #include <utility>
 
+#include "platform/desktops/KdeLayouts.h"
+#include "platform/desktops/KdeShortcuts.h"
+#include "platform/desktops/PortalLink.h"
 #include "platform/desktops/SwayDesktop.h"
 #include "platform/desktops/SwayLock.h"
 #include "platform/evdev/DirectOpener.h"
@@ -25,7 +28,10 @@
 #include "platform/none/NoEventMonitor.h"
 #include "platform/none/NoHotKeys.h"
 #include "platform/none/NoLayers.h"
-#include "platform/wayland/SwaySignals.h"
+#include "platform/wayland/Binders.h"
+#include "platform/wayland/DesktopSignals.h"
+#include "platform/wayland/PortalPressing.h"
+#include "platform/wayland/VirtualPressing.h"
 #include "platform/wayland/WaylandKeyInjector.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/wayland/WaylandLayers.h"
@@ -51,8 +57,24 @@ Error noHotKeys() {
             "Bind keys to commands in the compositor's own settings."};
 }
 
+bool hasVirtualKeyboards(const WaylandConnection& connection) {
+    return connection.offers(zwp_virtual_keyboard_manager_v1_interface);
+}
+
+/// KDE's bus, where the compositor is KWin; null elsewhere.
+std::unique_ptr<SessionBus> openKde(const WaylandConnection& connection) {
+    if (hasVirtualKeyboards(connection)) return nullptr;
+    auto bus = std::make_unique<SessionBus>();
+    return KdeShortcuts::isThere(*bus) ? std::move(bus) : nullptr;
+}
+
 Result<void> checkKeys(const WaylandConnection& connection) {
-    if (connection.offers(zwp_virtual_keyboard_manager_v1_interface)) return {};
+    if (hasVirtualKeyboards(connection)) return {};
+    if (const auto kde = openKde(connection)) {
+        if (PortalLink::isThere(*kde)) return {};
+        return Error{"KDE lets no program press keys: its portal does not answer.",
+                     "Install xdg-desktop-portal-kde, or use an X11 session."};
+    }
     return Error{"This compositor lets no program press keys.",
                  "Use a compositor with virtual keyboards, such as sway, or an X11 session."};
 }
@@ -111,10 +133,31 @@ class WaylandSessionCheck final : public SessionCheck {
     SessionDetails details() const override;
 };
 
+CapabilityState overlayState(const WaylandConnection& connection) {
+    if (connection.offers(zwlr_layer_shell_v1_interface)) return {Extent::fully, Means::layer, Lack::nothing};
+    return {Extent::partly, Means::ordinaryWindow, Lack::layers};
+}
+
+SessionCapabilities capabilitiesOfKde(const WaylandConnection& connection, const SessionBus& bus) {
+    const bool presses = PortalLink::isThere(bus);
+    const bool hasClipboard = connection.offers(zwlr_data_control_manager_v1_interface);
+    return {.recording = recordingState(),
+            .hotKeys = {Extent::fully, Means::kdeShortcuts, Lack::nothing},
+            .pressing = fullyIf(presses, Means::portal, Lack::portal),
+            .text = presses ? CapabilityState{Extent::partly, Means::portal, Lack::otherCharacters}
+                            : CapabilityState{.lack = Lack::portal},
+            .clipboard = fullyIf(hasClipboard, Means::dataControl, Lack::dataControl),
+            .overlay = overlayState(connection),
+            .windows = {.lack = Lack::foreignWindows},
+            .tray = {.lack = Lack::tray}};
+}
+
 SessionCapabilities WaylandSessionCheck::capabilities() const {
     const auto connection = WaylandConnection::open();
     if (!connection) return noCapabilities(Lack::display);
-    const bool presses = connection.value()->offers(zwp_virtual_keyboard_manager_v1_interface);
+    const auto kde = openKde(*connection.value());
+    if (kde) return capabilitiesOfKde(*connection.value(), *kde);
+    const bool presses = hasVirtualKeyboards(*connection.value());
     const bool hasClipboard = connection.value()->offers(zwlr_data_control_manager_v1_interface);
     const CapabilityState pressing = fullyIf(presses, Means::virtualKeyboard, Lack::virtualKeyboard);
     return {.recording = recordingState(),
@@ -122,9 +165,7 @@ SessionCapabilities WaylandSessionCheck::capabilities() const {
             .pressing = pressing,
             .text = pressing,
             .clipboard = fullyIf(hasClipboard, Means::dataControl, Lack::dataControl),
-            .overlay = connection.value()->offers(zwlr_layer_shell_v1_interface)
-                           ? CapabilityState{Extent::fully, Means::layer, Lack::nothing}
-                           : CapabilityState{Extent::partly, Means::ordinaryWindow, Lack::layers},
+            .overlay = overlayState(*connection.value()),
             .windows = fullyIf(isSway(), Means::swayTree, Lack::foreignWindows),
             .tray = {.lack = Lack::tray}};
 }
@@ -133,11 +174,14 @@ SessionDetails WaylandSessionCheck::details() const {
     SessionDetails details{.display = environment("WAYLAND_DISPLAY")};
     const auto connection = WaylandConnection::open();
     if (!connection) return details;
-    details.parts = {
-        {"virtual keyboard", connection.value()->offers(zwp_virtual_keyboard_manager_v1_interface)},
-        {"data control", connection.value()->offers(zwlr_data_control_manager_v1_interface)},
-        {"layer shell", connection.value()->offers(zwlr_layer_shell_v1_interface)},
-        {"sway", isSway()}};
+    details.parts = {{"virtual keyboard", hasVirtualKeyboards(*connection.value())},
+                     {"data control", connection.value()->offers(zwlr_data_control_manager_v1_interface)},
+                     {"layer shell", connection.value()->offers(zwlr_layer_shell_v1_interface)},
+                     {"sway", isSway()}};
+    if (const auto kde = openKde(*connection.value())) {
+        details.parts.push_back({"KDE", true});
+        details.parts.push_back({"portal", PortalLink::isThere(*kde)});
+    }
     return details;
 }
 
@@ -179,19 +223,25 @@ class WaylandSession final : public Session {
   private:
     /// A program that plays a script asks nobody for the keyboard, and has no hot keys.
     bool isForScripts() const { return m_use == SessionUse::scripts; }
-    std::unique_ptr<SwayBindings> openBindings() const {
-        if (isForScripts()) return nullptr;
-        auto bindings = openSwayBindings(m_seat);
-        return bindings ? std::move(bindings).value() : nullptr;
+    std::unique_ptr<HotKeyBinder> openBindings() {
+        return isForScripts() ? nullptr : openBinder(m_kde.get(), m_seat);
     }
-    std::unique_ptr<SwaySignals> openSignals() {
+    std::unique_ptr<DesktopSignals> openSignals() {
         if (!m_bindings) return nullptr;
-        return std::make_unique<SwaySignals>(*m_bindings, m_keys, [this] {
+        return std::make_unique<DesktopSignals>(*m_bindings, m_keys, [this] {
             return m_seat.hasOwnKeyboard() ? std::nullopt : std::optional(m_seat.group());
         });
     }
     bool hasLockerKeyboard() { return m_lock && m_lock->isLocked(); }
-    xkb_layout_index_t group() { return m_sway ? m_sway->group() : 0; }
+    std::unique_ptr<Pressing> makePressing() {
+        if (!m_kde) return std::make_unique<VirtualPressing>(*m_connection, m_seat, m_clock);
+        return std::make_unique<PortalPressing>(
+            *m_layouts, m_seat, m_clock, PortalLink::Options{.tokenFile = PortalLink::tokenFileOfProcess()});
+    }
+    xkb_layout_index_t group() {
+        if (m_layouts) return m_layouts->group();
+        return m_sway ? m_sway->group() : 0;
+    }
     evdev::EvdevEventMonitor::Session keys() {
         return {.clock = m_clock,
                 .opener = isForScripts() ? static_cast<evdev::DeviceOpener&>(m_direct) : m_opener,
@@ -210,16 +260,19 @@ class WaylandSession final : public Session {
     SessionUse m_use;
     std::unique_ptr<SwayDesktop> m_sway = openSway();
     std::unique_ptr<SwayLock> m_lock = openSwayLock(m_clock);
+    std::unique_ptr<SessionBus> m_kde = openKde(*m_connection);
+    std::unique_ptr<KdeLayouts> m_layouts = m_kde ? std::make_unique<KdeLayouts>(*m_kde) : nullptr;
     SeatKeymap m_seat{*m_connection, environment("XDG_RUNTIME_DIR"), [this] { return group(); }};
-    std::unique_ptr<SwayBindings> m_bindings = openBindings();
+    std::unique_ptr<HotKeyBinder> m_bindings = openBindings();
     NoGrabs m_noGrabs;
     evdev::DirectOpener m_direct;
     evdev::AccessOpener m_access{busAddresses(environmentOfProcess()).system};
     evdev::FallbackOpener m_opener{m_direct, m_access};
     evdev::KernelCalls m_calls;
     evdev::EvdevEventMonitor m_keys{keys(), copyOf(m_seat)};
-    std::unique_ptr<SwaySignals> m_signals = openSignals();
-    WaylandKeyInjector m_injector{*m_connection, m_seat, m_keys.runWatch(), m_clock};
+    std::unique_ptr<DesktopSignals> m_signals = openSignals();
+    std::unique_ptr<Pressing> m_pressing = makePressing();
+    WaylandKeyInjector m_injector{*m_connection, m_seat, *m_pressing, m_keys.runWatch(), m_clock};
     WaylandKeyboardLayout m_layout{m_seat};
     WaylandScriptDesktop m_scriptDesktop;
     WaylandSessionCheck m_check;

@@ -42,9 +42,47 @@ KWin::KWin(const Options& options) : m_options(options) {
                      {"DBUS_SESSION_BUS_ADDRESS", "unix:path=" + m_folder.file("bus")}};
     startBus();
     startCompositor();
+    if (options.hasPortal) startPortal();
 }
 
-std::unique_ptr<Child> KWin::start(const std::vector<std::string>& command, const std::string& log) const {
+/// In a session the bus starts both.
+void KWin::startPortal() {
+    std::ifstream service("/usr/share/dbus-1/services/org.freedesktop.impl.portal.desktop.kde.service");
+    std::string program;
+    for (std::string line; std::getline(service, line);) {
+        if (line.starts_with("Exec=")) program = line.substr(std::string("Exec=").size());
+    }
+    const std::string object = "/org/freedesktop/portal/desktop";
+    m_portal.push_back(start({program}, "portal-kde.log", {{"QT_QPA_PLATFORM", "wayland"}}));
+    awaitName("org.freedesktop.impl.portal.desktop.kde", object, "portal-kde.log");
+    m_portal.push_back(start({"/usr/libexec/xdg-desktop-portal"}, "portal.log"));
+    awaitName("org.freedesktop.portal.Desktop", object, "portal.log");
+}
+
+void KWin::awaitName(const std::string& name, const std::string& object, const std::string& log) const {
+    const auto isThere = [&] {
+        return Child({"gdbus", "call", "--session", "-d", name, "-o", object, "-m",
+                      "org.freedesktop.DBus.Peer.Ping"},
+                     {.environment = m_environment, .outputFile = "/dev/null"})
+                   .wait() == 0;
+    };
+    if (!eventually(isThere, startUp)) {
+        throw std::runtime_error(name + " could not be started: " + contentOf(m_folder.file(log)));
+    }
+}
+
+std::string KWin::put(const std::string& name, const std::string& content) const {
+    const std::filesystem::path file = m_folder.file(name);
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << content;
+    for (std::filesystem::path path = file; path != m_folder.path(); path = path.parent_path()) {
+        otheruser::giveAway(path);
+    }
+    return file;
+}
+
+std::unique_ptr<Child> KWin::start(const std::vector<std::string>& command, const std::string& log,
+                                   const std::map<std::string, std::string>& more) const {
     auto environment = m_environment;
     environment["HOME"] = m_folder.file("home");
     for (const char* const name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"}) {
@@ -53,6 +91,7 @@ std::unique_ptr<Child> KWin::start(const std::vector<std::string>& command, cons
     environment["QT_LOGGING_RULES"] = "*.debug=false;js.debug=true";
     environment["KWIN_COMPOSE"] = "Q";
     environment["KWIN_WAYLAND_NO_PERMISSION_CHECKS"] = "1";
+    for (const auto& [name, value] : more) environment[name] = value;
     return std::make_unique<Child>(
         otheruser::command(command),
         Child::Options{.environment = environment, .outputFile = m_folder.file(log)});
@@ -136,6 +175,12 @@ std::string KWin::run(const std::string& script) const {
     }
     call({"-d", "org.kde.KWin", "-o", "/Scripting", "-m", "org.kde.kwin.Scripting.unloadScript", name});
     return said();
+}
+
+bool KWin::shows(const std::string& title) const {
+    return run("var there = 'no';\n"
+               "workspace.clientList().forEach(function (one) { if (one.caption == '" +
+               title + "') there = 'yes'; });\nsay(there);") == "yes";
 }
 
 std::string KWin::front() const {

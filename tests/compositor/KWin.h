@@ -20,6 +20,8 @@ class KWin final : public Compositor {
         std::string layouts = "us";
         /// Whether X11 programs can be shown.
         bool hasXServer = false;
+        /// Whether KDE's portal is there, as in its sessions.
+        bool hasPortal = false;
     };
 
     KWin() : KWin(Options()) {}
@@ -28,6 +30,8 @@ class KWin final : public Compositor {
     /// With the session bus; no X server among it unless asked for.
     const std::map<std::string, std::string>& environment() const override { return m_environment; }
     bool focus(const std::string& title) const override;
+    /// Whether there is a window with that title.
+    bool shows(const std::string& title) const;
     /// The title of the window that has the focus, empty without one.
     std::string front() const;
     /// The compositor's socket, an absolute path.
@@ -36,8 +40,13 @@ class KWin final : public Compositor {
 
     /// What a service on the bus answers (gdbus-call(1) without the connection).
     std::string call(const std::vector<std::string>& arguments) const;
-    /// Another program of this desktop's user, with what it writes in that file of home.
-    std::unique_ptr<Child> start(const std::vector<std::string>& command, const std::string& log) const;
+    /// Another program of this desktop's user, with that environment beside the desktop's, and with what it
+    /// writes in the file log().
+    std::unique_ptr<Child> start(const std::vector<std::string>& command, const std::string& log,
+                                 const std::map<std::string, std::string>& more = {}) const;
+    std::string log(const std::string& name) const { return contentOf(m_folder.file(name)); }
+    /// A file of that user, in a folder that is there; its path.
+    std::string put(const std::string& name, const std::string& content) const;
 
     /// As a crash would, and another one in its place. Programs that it showed have lost it.
     void comeAgain();
@@ -45,6 +54,8 @@ class KWin final : public Compositor {
   private:
     void startBus();
     void startCompositor();
+    void startPortal();
+    void awaitName(const std::string& name, const std::string& object, const std::string& log) const;
     /// What a script in KWin prints, with `print` alone: one line.
     std::string run(const std::string& script) const;
 
@@ -53,5 +64,6 @@ class KWin final : public Compositor {
     std::map<std::string, std::string> m_environment;
     std::unique_ptr<Child> m_bus;
     std::unique_ptr<Child> m_program;
+    std::vector<std::unique_ptr<Child>> m_portal;
     mutable int m_scripts = 0;
 };

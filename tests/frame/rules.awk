@@ -42,7 +42,8 @@ BEGIN {
     room("platform/x11", "platform platform/none platform/x11/press platform/x11/server platform/x11/watch" \
                          " platform/x11/windows", "", "^(Q|boost/|wayland)")
 
-    room("platform/desktops", "platform platform/linux platform/monitor", "", foreign)
+    room("platform/desktops/portal", "platform platform/linux", "", foreign)
+    room("platform/desktops", "platform platform/desktops/portal platform/linux platform/monitor platform/run", "", foreign)
     room("platform/wayland", "platform platform/desktops platform/evdev platform/evdev/access platform/evdev/devices" \
                              " platform/keymap platform/linux platform/monitor platform/none platform/press platform/run", "",
          "^(Q|boost/|xcb/|X11/)")

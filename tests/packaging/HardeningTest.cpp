@@ -60,7 +60,7 @@ std::set<std::string>* const HardeningTest::programs = new std::set<std::string>
 TEST_F(HardeningTest, looksAtAllPrograms) {
     std::set<std::string> names;
     for (const fs::path path : *programs) names.insert(path.filename());
-    EXPECT_EQ(names, (std::set<std::string>{"keyrill", "keyrill-guard", "keyrill-script"}));
+    EXPECT_EQ(names, (std::set<std::string>{"keyrill", "keyrill-guard", "keyrill-portal", "keyrill-script"}));
 }
 
 TEST_F(HardeningTest, theyLieAtNoFixedAddress) {

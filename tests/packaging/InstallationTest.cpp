@@ -36,6 +36,7 @@ TEST_F(InstallationTest, holdsThePrograms) {
     EXPECT_TRUE(isInstalled("bin/keyrill"));
     EXPECT_TRUE(isInstalled("bin/keyrill-script"));
     EXPECT_TRUE(isInstalled("libexec/keyrill/keyrill-guard"));
+    EXPECT_TRUE(isInstalled("libexec/keyrill/keyrill-portal"));
     EXPECT_FALSE(isInstalled("bin/keyrill-demonstration"));
 }
 

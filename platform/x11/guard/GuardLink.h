@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <sys/types.h>
-
-#include <chrono>
 #include <cstddef>
 #include <optional>
 #include <string>
 
-#include "platform/Descriptor.h"
 #include "platform/Result.h"
+#include "platform/run/CompanionProcess.h"
 #include "platform/run/RunCompanion.h"
 #include "platform/x11/guard/GuardMessage.h"
 
@@ -32,12 +29,12 @@ class GuardLink final : public RunCompanion {
     Result<void> tell(const GuardMessage& message);
 
     /// Whether there is a guard that has taken in the last message. As of the last look().
-    bool isReady() const { return m_socket && m_heard == m_expected; }
+    bool isReady() const { return m_process.isOpen() && m_heard == m_expected; }
     /// Ends a guard that does not answer, and starts another.
     Result<void> replace();
 
     // RunCompanion
-    int fileDescriptor() const override { return m_socket.number(); }
+    int fileDescriptor() const override { return m_process.fileDescriptor(); }
     Result<void> look() override;
 
     /// What is said of a guard that cannot be started.
@@ -50,13 +47,11 @@ class GuardLink final : public RunCompanion {
     Result<void> start();
     Result<std::string> find() const;
     bool send(const GuardMessage& message);
-    void end(std::chrono::milliseconds patience);
 
     std::string m_program;
     std::string m_display;
     std::string m_markFile;
-    Descriptor m_socket;
-    pid_t m_process = -1;
+    CompanionProcess m_process;
     std::optional<GuardMessage> m_told;
     /// The guard's answers, and how many there will be when it knows all.
     std::size_t m_heard = 0;

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gio/gio.h>
+
+#include <bitset>
+#include <functional>
+#include <string>
+
+#include "platform/desktops/portal/PortalMessage.h"
+#include "platform/linux/BusContext.h"
+
+/// A session of the portal that presses keys (org.freedesktop.portal.RemoteDesktop), on the process's session
+/// bus and in its default main context.
+class PortalSession {
+  public:
+    struct Options {
+        /// Where the desktop's word stands by which it knows a permission again; may be empty.
+        std::string tokenFile;
+        /// How long the user may think, in seconds. The desktop's own answers take ten at the most.
+        unsigned patience = 0;
+    };
+    /// `answer` is told what becomes of it.
+    PortalSession(Options options, std::function<void(PortalAnswer)> answer);
+    ~PortalSession();
+    PortalSession(const PortalSession&) = delete;
+    PortalSession& operator=(const PortalSession&) = delete;
+
+    /// Asks the desktop, in the background, unless that has been done.
+    void open();
+    /// Waits until the portal has taken it.
+    void key(std::uint16_t keycode, bool press);
+    /// Waits until the part of the desktop that presses keys has taken all of them.
+    void synchronise();
+    /// Releases what is down, and gives the permission back.
+    void close();
+
+  private:
+    enum class State { closed, creating, selecting, starting, open };
+
+    static void heardResponse(GDBusConnection* bus, const char* sender, const char* path, const char* face,
+                              const char* member, GVariant* parameters, void* self);
+    static void heardClosed(GDBusConnection* bus, const char* sender, const char* path, const char* face,
+                            const char* member, GVariant* parameters, void* self);
+    static void portalGone(GDBusConnection* bus, const char* name, void* self);
+    static gboolean tooLate(void* self);
+
+    GVariantPointer property(const char* name) const;
+    void request(const char* member, State state, GVariantBuilder& options, unsigned patience);
+    void responded(std::uint32_t code, GVariant* results);
+    void select();
+    void start();
+    void started(GVariant* results);
+    void endRequest();
+    void fail(PortalAnswer why);
+    GVariantPointer call(const char* path, const char* face, const char* member, GVariant* parameters) const;
+    std::string token() const;
+    void keepToken(GVariant* results) const;
+
+    Options m_options;
+    std::function<void(PortalAnswer)> m_answer;
+    GObjectPointer<GDBusConnection> m_bus;
+    State m_state = State::closed;
+    std::uint32_t m_version = 0;
+    std::string m_session;
+    unsigned m_requests = 0;
+    guint m_response = 0;
+    guint m_closed = 0;
+    guint m_watch = 0;
+    guint m_timer = 0;
+    std::bitset<65536> m_down;
+};

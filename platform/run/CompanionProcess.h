@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <sys/types.h>
+
+#include <chrono>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Descriptor.h"
+
+/// A small program of ours that runs beside this one, and the line to it: packets, on its standard input.
+/// What signals this program's group or session does not reach it; it ends when the line does.
+class CompanionProcess {
+  public:
+    /// The program of that name beside the one that runs, or where it is installed; empty where it is
+    /// neither.
+    static std::optional<std::string> find(const std::string& name);
+
+    CompanionProcess() = default;
+    ~CompanionProcess() { end(std::chrono::milliseconds(0)); }
+    CompanionProcess(const CompanionProcess&) = delete;
+    CompanionProcess& operator=(const CompanionProcess&) = delete;
+
+    /// Makes the line, and lays a packet into it for the program to find; run() starts that. False if there
+    /// is no line to be had.
+    bool open(const void* packet, std::size_t size);
+    /// False, and the line is gone, if it cannot be started.
+    bool run(const std::vector<std::string>& command);
+    /// Whether there is a line.
+    bool isOpen() const { return static_cast<bool>(m_socket); }
+    int fileDescriptor() const { return m_socket.number(); }
+
+    /// Does not wait for one that reads nothing: false then, and where it has ended.
+    bool send(const void* packet, std::size_t size) const;
+
+    /// Ends the line and waits so long for the program, which is killed after that.
+    void end(std::chrono::milliseconds patience);
+
+  private:
+    Descriptor m_socket;
+    Descriptor m_otherEnd;
+    pid_t m_process = -1;
+};

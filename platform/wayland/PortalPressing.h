@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/desktops/KdeLayouts.h"
+#include "platform/desktops/PortalLink.h"
+#include "platform/wayland/Pressing.h"
+#include "platform/wayland/SeatKeymap.h"
+
+namespace wayland {
+
+/// A keyboard by the desktop's portal: to the compositor its keys are those of the user's own keyboard. So is
+/// what they hold and lock, and the layout: another one of the user's is put in force for a character, and
+/// the one before again.
+///
+/// Nobody tells what the user has locked: nothing, as far as this knows.
+class PortalKeyboard final : public KeyOutput {
+  public:
+    PortalKeyboard(PortalLink& link, KdeLayouts& layouts, const SeatKeymap& seat)
+        : m_link(link), m_layouts(layouts), m_seat(seat) {}
+
+    /// With nothing down and the group that is in force.
+    void plugIn();
+    void unplug() { m_state.reset(); }
+    XkbComponents components() const;
+
+    // KeyOutput
+    void press(std::uint8_t keycode) override { send(keycode, true); }
+    void release(std::uint8_t keycode) override { send(keycode, false); }
+    /// By strokes of the keys that lock them.
+    void lockModifiers(xkb_mod_mask_t mask, xkb_mod_mask_t values) override;
+    /// One that cannot be put in force leaves the one that is.
+    void lockGroup(xkb_layout_index_t group) override;
+    void flush() override {}
+    Result<XkbComponents> synchronise() override;
+
+  private:
+    void send(std::uint8_t keycode, bool press);
+
+    PortalLink& m_link;
+    KdeLayouts& m_layouts;
+    const SeatKeymap& m_seat;
+    XkbStatePointer m_state;
+    KeycodeSet m_down;
+};
+
+/// Pressing by the desktop's portal, with texts as the user's layouts have them.
+class PortalPressing final : public Pressing {
+  public:
+    /// All outlive this.
+    PortalPressing(KdeLayouts& layouts, SeatKeymap& seat, Clock& clock, PortalLink::Options options)
+        : m_seat(seat),
+          m_clock(clock),
+          m_link(std::move(options), clock),
+          m_keyboard(m_link, layouts, seat) {}
+
+    /// The desktop is asked late, by the first stroke.
+    Result<void> start() override { return {}; }
+    KeyOutput& output() override { return m_keyboard; }
+    RunCompanion& companion() override { return m_link; }
+    std::unique_ptr<RunKeyboard> keyboard(StrokeSender& sender, RunWait& wait) override;
+
+  private:
+    SeatKeymap& m_seat;
+    const Clock& m_clock;
+    PortalLink m_link;
+    PortalKeyboard m_keyboard;
+};
+
+}  // namespace wayland

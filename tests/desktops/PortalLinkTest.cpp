@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+//
+// keyrill-portal and the line to it, at a portal that stands in for a desktop's.
+#include "platform/desktops/PortalLink.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <cstdlib>
+#include <fstream>
+
+#include "linux/desktop/PrivateBus.h"
+#include "platform/linux/SteadyClock.h"
+
+namespace {
+
+constexpr std::uint16_t keyA = 30;
+
+/// Waits as a run that nobody stops, and does something meanwhile.
+class Wait final : public RunWait {
+  public:
+    explicit Wait(std::function<Step<>()> meanwhile) : m_meanwhile(std::move(meanwhile)) {}
+    Step<> waitUntil(Clock::Time deadline) override {
+        if (auto done = m_meanwhile(); !done) return done;
+        m_clock.sleepFor(deadline - m_clock.now());
+        return {};
+    }
+
+  private:
+    SteadyClock m_clock;
+    std::function<Step<>()> m_meanwhile;
+};
+
+class PortalLinkTest : public testing::Test {
+  protected:
+    PortalLinkTest() { setenv("DBUS_SESSION_BUS_ADDRESS", m_bus.address().c_str(), 1); }
+    ~PortalLinkTest() override { unsetenv("DBUS_SESSION_BUS_ADDRESS"); }
+
+    void havePortal(const std::vector<std::string>& how) { m_portal = std::make_unique<StandIn>(m_bus, how); }
+    StandIn& portal() { return *m_portal; }
+    std::unique_ptr<PortalLink> link(std::chrono::seconds patience = std::chrono::seconds(30),
+                                     std::chrono::seconds rest = std::chrono::seconds(60)) {
+        return std::make_unique<PortalLink>(PortalLink::Options{.program = KEYRILL_PORTAL,
+                                                                .tokenFile = m_folder.file("token"),
+                                                                .patience = patience,
+                                                                .rest = rest},
+                                            m_clock);
+    }
+    static Step<> open(PortalLink& link) {
+        Wait wait([] { return Step<>(); });
+        return link.open(wait);
+    }
+    std::string tokenFile() const { return m_folder.file("token"); }
+    bool hears(const std::string& text) {
+        return eventually([&] { return m_portal->count(text) > 0; });
+    }
+
+  private:
+    TemporaryFolder m_folder;
+    PrivateBus m_bus;
+    std::unique_ptr<StandIn> m_portal;
+    SteadyClock m_clock;
+};
+
+void expectFailure(const Step<>& step, const char* message) {
+    ASSERT_FALSE(step);
+    ASSERT_TRUE(step.error().error.has_value());
+    EXPECT_EQ(step.error().error->message, message);
+}
+
+TEST_F(PortalLinkTest, keysReachThePortalInTheirOrder) {
+    havePortal({"agrees"});
+    const auto line = link();
+    ASSERT_TRUE(open(*line));
+    std::string expected;
+    for (std::uint16_t key = keyA; key < keyA + 200; ++key) {
+        line->key(key, true);
+        line->key(key, false);
+        expected += "key " + std::to_string(key) + " 1\nkey " + std::to_string(key) + " 0\n";
+    }
+    EXPECT_TRUE(line->synchronise());
+    EXPECT_TRUE(portal().heard().ends_with(expected)) << portal().heard();
+}
+
+TEST_F(PortalLinkTest, oneThatTheUserRefusesSaysSo) {
+    havePortal({"refuses"});
+    expectFailure(open(*link()), "The desktop was not allowed to let Keyrill press keys.");
+}
+
+TEST_F(PortalLinkTest, anAnswerThatComesLateIsWaitedFor) {
+    havePortal({"waits"});
+    bool isAnswered = false;
+    Wait wait([&] {
+        if (!isAnswered && portal().count("asked") > 0) {
+            isAnswered = true;
+            portal().obey("answer");
+        }
+        return Step<>();
+    });
+    EXPECT_TRUE(link()->open(wait));
+    EXPECT_TRUE(isAnswered);
+}
+
+TEST_F(PortalLinkTest, whoeverStopsTheRunNeedNotAnswer) {
+    havePortal({"forgets"});
+    Wait wait([&] { return portal().count("asked") > 0 ? Step<>(Halt::cancelled()) : Step<>(); });
+    const auto opened = link()->open(wait);
+    ASSERT_FALSE(opened);
+    EXPECT_TRUE(opened.error().isCancelled());
+}
+
+TEST_F(PortalLinkTest, anAnswerThatNeverComesIsNotWaitedForForEver) {
+    havePortal({"forgets"});
+    expectFailure(open(*link(std::chrono::seconds(1))),
+                  "The desktop has not answered whether Keyrill may press keys.");
+}
+
+TEST_F(PortalLinkTest, aDesktopWithoutAPortalSaysSo) {
+    expectFailure(open(*link()), "This desktop lets no program press keys: no portal for it answers.");
+}
+
+TEST_F(PortalLinkTest, aPortalThatDiesEndsTheRun) {
+    havePortal({"agrees"});
+    const auto line = link();
+    ASSERT_TRUE(open(*line));
+    portal().obey("end");
+    Result<void> looked;
+    ASSERT_TRUE(eventually([&] { return !(looked = line->look()); }));
+    EXPECT_EQ(looked.error().message, "The desktop no longer lets Keyrill press keys.");
+}
+
+TEST_F(PortalLinkTest, aPermissionThatIsTakenBackEndsTheRunAndIsAskedForAgain) {
+    havePortal({"agrees"});
+    const auto line = link();
+    ASSERT_TRUE(open(*line));
+    portal().obey("close");
+    ASSERT_TRUE(eventually([&] { return !line->look(); }));
+    EXPECT_TRUE(open(*line));
+    EXPECT_EQ(portal().count("devices"), 2U);
+}
+
+TEST_F(PortalLinkTest, aPermissionIsKnownAgainByAWordThatOthersCannotRead) {
+    havePortal({"agrees"});
+    EXPECT_TRUE(open(*link()));
+    EXPECT_EQ(contentOf(tokenFile()), "known-again\n");
+    struct stat facts {};
+    ASSERT_EQ(stat(tokenFile().c_str(), &facts), 0);
+    EXPECT_EQ(facts.st_mode & 0777U, 0600U);
+    EXPECT_TRUE(open(*link()));
+    EXPECT_EQ(portal().count("devices 1 2 None"), 1U);
+    EXPECT_EQ(portal().count("devices 1 2 known-again"), 1U);
+}
+
+TEST_F(PortalLinkTest, anOldPortalIsNotAskedToKnowItAgain) {
+    havePortal({"agrees", "old"});
+    EXPECT_TRUE(open(*link()));
+    EXPECT_TRUE(hears("devices 1 None None"));
+    EXPECT_EQ(contentOf(tokenFile()), "");
+}
+
+TEST_F(PortalLinkTest, thePermissionIsGivenBackAfterARest) {
+    havePortal({"agrees"});
+    const auto line = link(std::chrono::seconds(30), std::chrono::seconds(1));
+    ASSERT_TRUE(open(*line));
+    line->rest();
+    EXPECT_TRUE(hears("closed"));
+    EXPECT_TRUE(line->look());
+    EXPECT_TRUE(open(*line));
+}
+
+TEST_F(PortalLinkTest, twoRunsInARowAskOnce) {
+    havePortal({"agrees"});
+    const auto line = link();
+    ASSERT_TRUE(open(*line));
+    line->rest();
+    ASSERT_TRUE(open(*line));
+    EXPECT_EQ(portal().count("devices"), 1U);
+}
+
+TEST_F(PortalLinkTest, whatIsDownAtTheEndIsReleased) {
+    havePortal({"agrees"});
+    auto line = link();
+    ASSERT_TRUE(open(*line));
+    line->key(keyA, true);
+    ASSERT_TRUE(line->synchronise());
+    line.reset();
+    EXPECT_TRUE(portal().heard().ends_with("key 30 1\nkey 30 0\nclosed\n")) << portal().heard();
+}
+
+}  // namespace
