@@ -45,9 +45,20 @@ Result<std::string> contentOf(const Descriptor& file, std::size_t most) {
     return content;
 }
 
-/// What another user's file is has to stay theirs; only root can see to that, and only root needs to.
-void keepOwner(const std::string& file, const struct stat& before) {
-    if (before.st_uid != geteuid() && lchown(file.c_str(), before.st_uid, before.st_gid) != 0) return;
+/// What another user's file is has to stay theirs, which only root can see to and only root needs to; and a
+/// group's its group's, which its members can see to. False if the file is in another group now.
+bool keepOwner(const std::string& file, const struct stat& before) {
+    const auto unchanged = static_cast<uid_t>(-1);
+    const uid_t user = before.st_uid == geteuid() ? unchanged : before.st_uid;
+    if (lchown(file.c_str(), user, before.st_gid) == 0) return true;
+    const auto now = statusOf(file);
+    return now && now->st_gid == before.st_gid;
+}
+
+/// What everybody may do is all that a group may which the file was not made for.
+mode_t withoutGroup(mode_t mode) {
+    constexpr mode_t group = 02070;
+    return (mode & ~group) | ((mode & 07U) << 3U);
 }
 
 }  // namespace
@@ -91,11 +102,13 @@ Result<> WholeFile::write(std::string_view content, std::optional<mode_t> mode) 
     }
     removeLeftovers();
     FileReplacement replacement(file);
-    const auto finished = replacement.finish(content, mode.value_or(modeOfNewFiles));
+    // It is in the saver's group at first.
+    const auto finished =
+        replacement.finish(content, before ? withoutGroup(*mode) : mode.value_or(modeOfNewFiles));
     if (!finished) return cannot("written", finished.error());
-    if (before) keepOwner(file, *before);
-    // With the owner the system may have taken bits of it.
-    if (before) chmod(file.c_str(), *mode);
+    if (!before) return {};
+    const bool isKept = keepOwner(file, *before);
+    chmod(file.c_str(), isKept ? *mode : withoutGroup(*mode));
     return {};
 }
 

@@ -2,6 +2,7 @@
 #include "platform/linux/WholeFile.h"
 
 #include <fcntl.h>
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/file.h>
@@ -202,6 +203,40 @@ TEST_F(WholeFileTest, keepsItsOwner) {
     ASSERT_EQ(stat(file.c_str(), &status), 0);
     EXPECT_EQ(status.st_uid, 1234U);
     EXPECT_EQ(status.st_gid, 5678U);
+}
+
+TEST_F(WholeFileTest, keepsItsGroup) {
+    if (geteuid() != 0) return;
+    std::ofstream(file) << "old";
+    ASSERT_EQ(chown(file.c_str(), 0, 5678), 0);
+    ASSERT_EQ(chmod(file.c_str(), 0660), 0);
+    EXPECT_TRUE(WholeFile(file).write("new"));
+    struct stat status {};
+    ASSERT_EQ(stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_gid, 5678U);
+    EXPECT_EQ(status.st_mode & 07777U, 0660U);
+}
+
+/// Only members can give a file to a group; what the group might do, the saver's own group may not.
+TEST_F(WholeFileTest, givesNothingToAnotherGroupThanItsOwn) {
+    if (geteuid() != 0) return;
+    constexpr uid_t user = 1234;
+    std::ofstream(file) << "old";
+    ASSERT_EQ(chown(folder.path().c_str(), user, user), 0);
+    ASSERT_EQ(chown(file.c_str(), user, 5678), 0);
+    ASSERT_EQ(chmod(file.c_str(), 0664), 0);
+    const pid_t saver = fork();
+    if (saver == 0) {
+        const bool isUser = setgroups(0, nullptr) == 0 && setgid(user) == 0 && setuid(user) == 0;
+        _exit(isUser && WholeFile(file).write("new") ? 0 : 1);
+    }
+    int ended = 0;
+    ASSERT_EQ(waitpid(saver, &ended, 0), saver);
+    ASSERT_EQ(ended, 0);
+    struct stat status {};
+    ASSERT_EQ(stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_gid, user);
+    EXPECT_EQ(status.st_mode & 07777U, 0644U);
 }
 
 /// A folder in memory, where nothing waits for a disk.
