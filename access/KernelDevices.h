@@ -16,7 +16,7 @@ class KernelDevices final : public InputDevices {
     bool type(int keyboard, std::uint16_t code, bool press) override;
 
   private:
-    const evdev::InputFolders m_folders;
+    const evdev::InputFolders m_folders{};
 };
 
 }  // namespace keyaccess

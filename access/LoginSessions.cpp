@@ -74,7 +74,7 @@ void LoginSessions::findSession(Identity who, Found found) const {
                });
 }
 
-void LoginSessions::findDisplay(Identity who, Found found) const {
+void LoginSessions::findDisplay(const Identity& who, const Found& found) const {
     const auto displayOf = [this, who, found](GVariant* answer) {
         if (answer == nullptr) return found(std::nullopt);
         const char* user = nullptr;

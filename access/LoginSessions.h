@@ -41,7 +41,7 @@ class LoginSessions {
 
   private:
     void findSession(Identity who, Found found) const;
-    void findDisplay(Identity who, Found found) const;
+    void findDisplay(const Identity& who, const Found& found) const;
     static void onProperties(GDBusConnection* bus, const char* sender, const char* path,
                              const char* interface, const char* signal, GVariant* parameters, gpointer self);
     static void onRemoved(GDBusConnection* bus, const char* sender, const char* path, const char* interface,

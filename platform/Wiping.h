@@ -11,6 +11,8 @@
 /// Overwrites memory with zeros, also where nobody reads it afterwards.
 void wipe(void* memory, std::size_t size);
 
+// NOLINTBEGIN(readability-identifier-naming): containers name their parts alike.
+
 /// Gives memory back wiped.
 template <typename Value>
 struct WipingAllocator {
@@ -82,3 +84,5 @@ class WipedQueue {
   private:
     Values m_values;
 };
+
+// NOLINTEND(readability-identifier-naming)

@@ -28,7 +28,7 @@ Step<> GrabWait::untilFree(RunWaiter& waiter) const {
             return Error{"Another program holds the keyboard, so that no keys can be pressed.",
                          "Close the menu, the question or the screen lock that is open, and play again."};
         }
-        const auto waited = waiter.waitUntil(m_clock.now() + betweenLooks);
+        auto waited = waiter.waitUntil(m_clock.now() + betweenLooks);
         if (!waited) return waited;
     }
     return {};
