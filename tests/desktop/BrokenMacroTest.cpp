@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <sys/stat.h>
 
+#include <filesystem>
 #include <fstream>
 
 #include "desktop/DesktopTest.h"
@@ -22,10 +23,10 @@ class BrokenMacroTest : public DesktopTest {
     }
 
     /// The program with that macro loaded.
-    void start(const std::string& script) {
+    void start(const std::string& script, const std::string& program = programs::keyrill) {
         const std::string file = desktop.file("broken.keyrill");
         std::ofstream(file) << script;
-        m_keyrill.emplace(std::vector<std::string>{programs::keyrill, file}, desktop.options("product.log"));
+        m_keyrill.emplace(std::vector<std::string>{program, file}, desktop.options("product.log"));
         ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
         awaitMessages("\"broken.keyrill\" is loaded", 1);
     }
@@ -63,6 +64,21 @@ TEST_F(BrokenMacroTest, isToldWithLineMessageAndHintWhenItIsLoadedAndWhenItIsPla
     awaitMessages("\"broken.keyrill\" is loaded but cannot be played', '" + line + "',", 1);
     play();
     awaitMessages("The macro cannot be played', '" + line + "',", 1);
+    press("period");
+    EXPECT_EQ(terminal.typed(1), ".");
+}
+
+/// A program that was copied alone.
+TEST_F(BrokenMacroTest, isAnyWhereNoGuardIsBesideTheProgram) {
+    const std::string alone = desktop.file("keyrill");
+    std::filesystem::copy_file(programs::keyrill, alone);
+    start("tell application \"System Events\" to keystroke \"a\"\n", alone);
+    play();
+    awaitMessages(
+        "The macro was not played to its end', 'Line 1: System Events got an error: The guard program "
+        "&quot;keyrill-guard&quot;, which releases keys after a crash, could not be started. Install "
+        "the program again; nothing is played without its guard.',",
+        1);
     press("period");
     EXPECT_EQ(terminal.typed(1), ".");
 }
