@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <chrono>
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -32,7 +33,7 @@ class HandKeys {
     void key(const RawKey& key, bool own) {
         m_held.erase({anySource, key.keycode});
         if (!key.press) {
-            m_held.erase({key.source, key.keycode});
+            if (m_held.erase({key.source, key.keycode}) != 0) m_lastRelease = m_clock.now();
         } else if (!own) {
             m_held.try_emplace({key.source, key.keycode}, Hold{m_clock.now(), false});
         }
@@ -46,6 +47,9 @@ class HandKeys {
         return std::any_of(m_held.begin(), m_held.end(),
                            [keycode](const auto& entry) { return entry.first.second == keycode; });
     }
+
+    /// When a hand has last let go of any; empty before.
+    std::optional<Clock::Time> lastRelease() const { return m_lastRelease; }
 
     /// Those that have been down for so long that no hand is meant any more: for 2 s before a run started,
     /// or, where nobody knows since when, for 2 s of watching.
@@ -68,4 +72,5 @@ class HandKeys {
 
     const Clock& m_clock;
     std::map<std::pair<std::uint16_t, std::uint8_t>, Hold> m_held;
+    std::optional<Clock::Time> m_lastRelease;
 };

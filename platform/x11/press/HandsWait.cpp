@@ -25,7 +25,7 @@ Step<> HandsWait::begin() {
     m_runStart = m_tools.clock.now();
     if (auto heeded = m_waiter.heedUser(); !heeded) return heeded;
     if (releaseLeftOvers()) {
-        const auto settled = m_waiter.waitUntil(m_tools.clock.now() + settleTime);
+        auto settled = m_waiter.waitUntil(m_tools.clock.now() + settleTime);
         if (!settled) return settled;
     }
     const auto up = untilUp({});
@@ -49,9 +49,21 @@ Step<XkbComponents> HandsWait::untilUp(const KeycodeSet& held) {
     for (;;) {
         const auto state = m_tools.connection.synchronise();
         if (!state) return state.error();
-        if (!isHeld(state.value(), held)) return state.value();
-        if (const auto waited = wait(held); !waited) return waited.error();
+        if (isHeld(state.value(), held)) {
+            if (const auto waited = wait(held); !waited) return waited.error();
+            continue;
+        }
+        const Clock::Time settled = settledAt();
+        if (settled <= m_tools.clock.now()) return state.value();
+        if (const auto waited = m_waiter.waitUntil(settled); !waited) return waited.error();
     }
+}
+
+Clock::Time HandsWait::settledAt() const {
+    // A release that has just been may not have been told yet.
+    if (m_tools.watch.handsHoldKeys()) m_tools.watch.drain();
+    const auto release = m_tools.watch.lastHandRelease();
+    return release ? *release + settleTime : Clock::Time::min();
 }
 
 Step<> HandsWait::wait(const KeycodeSet& held) {
@@ -62,7 +74,7 @@ Step<> HandsWait::wait(const KeycodeSet& held) {
     m_tools.connection.flush();
     // What comes from now on through XTEST comes from other programs.
     m_tools.watch.settleOwnKeys();
-    const auto waited = waitUntilUp(held & ~m_lifted);
+    auto waited = waitUntilUp(held & ~m_lifted);
     if (!waited) return waited;
     m_lifted.reset();
     // The hand's release has ended what it shared.

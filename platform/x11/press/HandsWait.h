@@ -28,9 +28,10 @@ class HandsWait {
     /// long before that no hand is meant any more, and waits as untilUp() does.
     Step<> begin();
 
-    /// Returns at once, or 10 ms after the last hand is up; the state then. `held` are the keys that the run
-    /// itself holds down; those of them that are modifiers are up while it waits, or they would be part of
-    /// the user's combination, unless they are: what a hand holds too would be up for the hand as well.
+    /// Returns 10 ms after the last hand is up, at once where that was before; the state then. `held` are the
+    /// keys that the run itself holds down; those of them that are modifiers are up while it waits, or they
+    /// would be part of the user's combination, unless they are: what a hand holds too would be up for the
+    /// hand as well.
     Step<XkbComponents> untilUp(const KeycodeSet& held);
     /// Those of the run's keys that are up because a wait was not waited to its end.
     const KeycodeSet& lifted() const { return m_lifted; }
@@ -43,6 +44,7 @@ class HandsWait {
     bool releaseLeftOvers();
     KeycodeSet keysOfHands(const KeycodeSet& held) const;
     bool isHeld(const XkbComponents& state, const KeycodeSet& held) const;
+    Clock::Time settledAt() const;
     Step<> wait(const KeycodeSet& held);
     Step<> waitUntilUp(const KeycodeSet& held);
 

@@ -83,6 +83,26 @@ TEST_F(UserHandsTest, aRunWaitsForEachModifierThatIsPressedWhileItLasts) {
     waitFor("keys:, modifiers: 0x0");
 }
 
+TEST_F(UserHandsTest, aRunRestsAfterAModifierThatWasLetGoOfJustBefore) {
+    const Terminal terminal(display());
+    const auto session = program().run();
+    std::string expected = "a";
+    ASSERT_TRUE(session->stroke(0, 0));
+    for (int time = 0; time < 10; ++time) {
+        terminal.typed(expected.size());
+        user().press(xkey::control);
+        finish();
+        waitFor("keys: 37, modifiers: 0x4");
+        const auto up = std::chrono::steady_clock::now();
+        user().release(xkey::control);
+        finish();
+        ASSERT_TRUE(session->stroke(0, 0));
+        EXPECT_GE(std::chrono::steady_clock::now(), up + std::chrono::milliseconds(10));
+        expected += "a";
+    }
+    EXPECT_EQ(terminal.typed(expected.size()), expected);
+}
+
 TEST_F(UserHandsTest, aModifierThatTheRunHoldsIsUpWhileItWaits) {
     const Terminal terminal(display());
     const auto session = program().run();
