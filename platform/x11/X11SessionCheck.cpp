@@ -32,11 +32,11 @@ Lack lackToSee(const Extensions& extensions) {
     return extensions.use({Extension::keyboard}) ? Lack::nothing : Lack::xkb;
 }
 
-Lack lackToPress(const Extensions& extensions) {
+Lack lackToPress(const Extensions& extensions, const std::string& guard) {
     const Lack lack = lackToSee(extensions);
     if (lack != Lack::nothing) return lack;
     if (!extensions.use({Extension::test})) return Lack::xTest;
-    return X11KeyInjector::findsGuard() ? Lack::nothing : Lack::guard;
+    return X11KeyInjector::findsGuard(guard) ? Lack::nothing : Lack::guard;
 }
 
 CapabilityState dockingTray(const XConnection& connection) {
@@ -112,7 +112,7 @@ SessionCapabilities X11SessionCheck::capabilities() const {
     const Lack limit = isWithinWayland ? Lack::nativeWindows : Lack::nothing;
     const Lack repeats = extensions.has("RECORD") ? Lack::nothing : Lack::record;
     const Lack toSee = lackToSee(extensions);
-    const CapabilityState pressing = stateOf(Means::xTest, lackToPress(extensions), limit);
+    const CapabilityState pressing = stateOf(Means::xTest, lackToPress(extensions, m_session.guard), limit);
     return {.recording = stateOf(Means::xInput, toSee, isWithinWayland ? limit : repeats),
             .hotKeys = stateOf(Means::xGrab, toSee, limit),
             .pressing = pressing,

@@ -17,6 +17,8 @@ class X11SessionCheck : public SessionCheck {
         std::string display;
         /// WAYLAND_DISPLAY
         std::string waylandDisplay;
+        /// The guard program of what presses keys; empty where it is looked for.
+        std::string guard = {};
     };
     static Session sessionOfProcess();
 

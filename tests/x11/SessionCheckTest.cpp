@@ -27,18 +27,15 @@ constexpr CapabilityState fully(Means means) { return {Extent::fully, means, Lac
 constexpr CapabilityState without(Lack lack) { return {Extent::nothing, Means::none, lack}; }
 
 SessionCapabilities capabilitiesOf(const XServer& server, const std::string& waylandDisplay = {}) {
-    return x11::X11SessionCheck({server.display(), waylandDisplay}).capabilities();
+    return x11::X11SessionCheck({server.display(), waylandDisplay, KEYRILL_GUARD}).capabilities();
 }
-
-/// The guard is looked for beside the program that asks, and there is none beside this test.
-constexpr Lack noGuard = Lack::guard;
 
 TEST(X11SessionCheckTest, aWholeServerLetsAllBeDone) {
     const XServer server(plainServer);
     const SessionCapabilities expected = {.recording = fully(Means::xInput),
                                           .hotKeys = fully(Means::xGrab),
-                                          .pressing = without(noGuard),
-                                          .text = without(noGuard),
+                                          .pressing = fully(Means::xTest),
+                                          .text = fully(Means::xTest),
                                           .clipboard = fully(Means::xSelection),
                                           .overlay = fully(Means::xWindow),
                                           .windows = fully(Means::windowManager),
@@ -56,6 +53,15 @@ TEST(X11SessionCheckTest, whatTheServerLacksIsNamedWhereItIsNeeded) {
     EXPECT_EQ(capabilitiesOf(noRecord).hotKeys, fully(Means::xGrab));
 }
 
+/// It is looked for beside the program that asks, and there is none beside this test.
+TEST(X11SessionCheckTest, withoutItsGuardNothingIsPressed) {
+    const XServer server(plainServer);
+    const SessionCapabilities found = x11::X11SessionCheck({server.display(), ""}).capabilities();
+    EXPECT_EQ(found.pressing, without(Lack::guard));
+    EXPECT_EQ(found.text, without(Lack::guard));
+    EXPECT_EQ(found.recording, fully(Means::xInput));
+}
+
 TEST(X11SessionCheckTest, withoutAServerNothingCanBeDone) {
     const SessionCapabilities none = x11::X11SessionCheck({":9999", ""}).capabilities();
     EXPECT_EQ(none.recording, without(Lack::display));
@@ -68,6 +74,7 @@ TEST(X11SessionCheckTest, withinWaylandOnlyWindowsOfXAreReached) {
     EXPECT_EQ(found.recording, (CapabilityState{Extent::partly, Means::xInput, Lack::nativeWindows}));
     EXPECT_EQ(found.hotKeys, (CapabilityState{Extent::partly, Means::xGrab, Lack::nativeWindows}));
     EXPECT_EQ(found.windows, (CapabilityState{Extent::partly, Means::windowManager, Lack::nativeWindows}));
+    EXPECT_EQ(found.pressing, (CapabilityState{Extent::partly, Means::xTest, Lack::nativeWindows}));
     EXPECT_EQ(found.overlay, fully(Means::xWindow));
 }
 

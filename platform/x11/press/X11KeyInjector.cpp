@@ -58,7 +58,7 @@ X11KeyInjector::X11KeyInjector(RunWatch& watch, Clock& clock, Options options)
 
 X11KeyInjector::~X11KeyInjector() = default;
 
-bool X11KeyInjector::findsGuard() { return GuardLink({}, {}, {}).isThere(); }
+bool X11KeyInjector::findsGuard(const std::string& guard) { return GuardLink(guard, {}, {}).isThere(); }
 
 Result<void> X11KeyInjector::start() {
     if (m_parts->display) return {};

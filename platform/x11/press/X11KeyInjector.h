@@ -39,8 +39,8 @@ class X11KeyInjector final : public KeyInjector {
     X11KeyInjector(RunWatch& watch, Clock& clock, Options options);
     ~X11KeyInjector() override;
 
-    /// Whether the guard is where it is looked for.
-    static bool findsGuard();
+    /// Whether there is that guard, or, if it is empty, one where it is looked for.
+    static bool findsGuard(const std::string& guard);
 
     /// Connects, checks that keys can be pressed here, and clears away what an earlier process left that was
     /// killed: keys held down, characters on unused keys. For the start of the program; open() does it if it
