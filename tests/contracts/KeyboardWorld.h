@@ -33,4 +33,15 @@ class KeyboardWorld {
     virtual void settle() = 0;
 };
 
+/// A desktop on which other programs may take the keyboard for themselves.
+class HeldKeyboardWorld : public KeyboardWorld {
+  public:
+    /// Another program takes keyboard and mouse, as screen lockers do, and shows nothing that explains it.
+    virtual void lockerTakesKeyboard() = 0;
+    /// A menu opens and takes both.
+    virtual void menuTakesKeyboard() = 0;
+    /// The keyboard is everybody's again.
+    virtual void keyboardIsGivenBack() = 0;
+};
+
 using KeyboardWorldFactory = std::unique_ptr<KeyboardWorld> (*)();

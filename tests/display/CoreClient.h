@@ -35,6 +35,8 @@ class CoreClient {
     void ungrabKeyboard() const;
     /// For the life of the client.
     void grabPointer() const;
+    /// A window as menus are, which no window manager knows; for the life of the client.
+    void showMenu() const;
     /// Says of its window that it answers _NET_WM_PING, which it never does.
     void claimToAnswerPings() const;
 

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "contracts/EventMonitorContract.h"
 #include "contracts/HotKeysContract.h"
+#include "contracts/KeyboardHoldContract.h"
 #include "platform/fake/FakePlatform.h"
 
 namespace {
 
 /// The fake platform as a contract test sees a desktop.
-class FakeKeyboardWorld : public KeyboardWorld {
+class FakeKeyboardWorld : public HeldKeyboardWorld {
   public:
     EventMonitor& monitor() override { return m_platform.eventMonitor; }
     HotKeys& hotKeys() override { return m_platform.hotKeys; }
@@ -19,6 +20,10 @@ class FakeKeyboardWorld : public KeyboardWorld {
     void otherClientGrabs(std::uint32_t keyCode, std::uint32_t modifiers) override {
         m_platform.hotKeys.otherProgramHolds(keyCode, modifiers);
     }
+    void lockerTakesKeyboard() override { m_platform.eventMonitor.programHoldsKeyboard(true); }
+    // Of no consequence, so that the fake knows none.
+    void menuTakesKeyboard() override {}
+    void keyboardIsGivenBack() override { m_platform.eventMonitor.programHoldsKeyboard(false); }
     void settle() override { m_platform.desktop.turnLoop(); }
 
   private:
@@ -28,6 +33,7 @@ class FakeKeyboardWorld : public KeyboardWorld {
 std::unique_ptr<KeyboardWorld> makeWorld() { return std::make_unique<FakeKeyboardWorld>(); }
 
 INSTANTIATE_TEST_SUITE_P(Fake, EventMonitorContract, testing::Values(&makeWorld));
+INSTANTIATE_TEST_SUITE_P(Fake, KeyboardHoldContract, testing::Values(&makeWorld));
 INSTANTIATE_TEST_SUITE_P(Fake, HotKeysContract, testing::Values(&makeWorld));
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "contracts/EventMonitorContract.h"
 #include "contracts/HotKeysContract.h"
+#include "contracts/KeyboardHoldContract.h"
 #include "contracts/KeyboardLayoutContract.h"
 #include "platform/x11/watch/X11KeyboardLayout.h"
 #include "x11/watch/X11World.h"
@@ -22,5 +23,6 @@ std::unique_ptr<KeyboardLayoutWorld> makeLayoutWorld() { return std::make_unique
 }  // namespace
 
 INSTANTIATE_TEST_SUITE_P(X11, EventMonitorContract, testing::Values(&makeWorld));
+INSTANTIATE_TEST_SUITE_P(X11, KeyboardHoldContract, testing::Values(&makeWorld));
 INSTANTIATE_TEST_SUITE_P(X11, HotKeysContract, testing::Values(&makeWorld));
 INSTANTIATE_TEST_SUITE_P(X11, KeyboardLayoutContract, testing::Values(&makeLayoutWorld));

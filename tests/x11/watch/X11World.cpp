@@ -74,6 +74,22 @@ void X11World::otherClientGrabs(std::uint32_t keyCode, std::uint32_t modifiers) 
     }
 }
 
+void X11World::lockerTakesKeyboard() {
+    m_holder.emplace(display());
+    m_holder->grabPointer();
+    m_holder->grabKeyboard();
+}
+
+void X11World::menuTakesKeyboard() {
+    lockerTakesKeyboard();
+    m_holder->showMenu();
+}
+
+void X11World::keyboardIsGivenBack() {
+    m_holder->ungrabKeyboard();
+    m_holder.reset();
+}
+
 void X11World::settle() {
     m_hands.finish();
     turnLoop();

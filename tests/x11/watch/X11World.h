@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -14,7 +15,7 @@
 #include "support/XServer.h"
 
 /// A private X server with the manager under test, and another program that presses keys.
-class X11World final : public KeyboardWorld {
+class X11World final : public HeldKeyboardWorld {
   public:
     X11World();
     ~X11World() override;
@@ -31,6 +32,9 @@ class X11World final : public KeyboardWorld {
     void holdUntilRepeats(std::uint32_t keyCode, int atLeast) override;
     void setCapsLock(bool on) override;
     void otherClientGrabs(std::uint32_t keyCode, std::uint32_t modifiers) override;
+    void lockerTakesKeyboard() override;
+    void menuTakesKeyboard() override;
+    void keyboardIsGivenBack() override;
     void settle() override;
 
     /// Does what an event loop would do now.
@@ -43,6 +47,7 @@ class X11World final : public KeyboardWorld {
     std::unique_ptr<x11::X11EventManager> m_manager;
     std::set<std::uint32_t> m_down;
     std::vector<std::unique_ptr<CoreClient>> m_others;
+    std::optional<CoreClient> m_holder;
 };
 
 /// X key code of a key code.
