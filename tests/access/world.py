@@ -76,7 +76,9 @@ class World:
             await_true("the service", lambda: self.bus.name_has_owner(NAME))
 
     def start(self, *command, output=subprocess.DEVNULL):
-        child = subprocess.Popen(command, env=self.environment, stdout=output, stderr=subprocess.DEVNULL)
+        # Also a test that is killed takes them along.
+        child = subprocess.Popen(("setpriv", "--pdeathsig", "KILL", "--", *command), env=self.environment, stdout=output,
+                                 stderr=subprocess.DEVNULL)
 
         def end():
             child.kill()
