@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "platform/keymap/StateComponents.h"
+
 namespace {
 
 /// What a server that confirms nothing may leave behind.
@@ -23,15 +25,7 @@ xkb_mod_mask_t KeyboardState::modifiers() const {
     return xkb_state_serialize_mods(m_state.get(), XKB_STATE_MODS_EFFECTIVE) & realModifiers;
 }
 
-XkbComponents KeyboardState::components() const {
-    xkb_state* state = m_state.get();
-    return {.depressed = xkb_state_serialize_mods(state, XKB_STATE_MODS_DEPRESSED) & realModifiers,
-            .latched = xkb_state_serialize_mods(state, XKB_STATE_MODS_LATCHED) & realModifiers,
-            .locked = xkb_state_serialize_mods(state, XKB_STATE_MODS_LOCKED) & realModifiers,
-            .baseLayout = xkb_state_serialize_layout(state, XKB_STATE_LAYOUT_DEPRESSED),
-            .latchedLayout = xkb_state_serialize_layout(state, XKB_STATE_LAYOUT_LATCHED),
-            .lockedLayout = xkb_state_serialize_layout(state, XKB_STATE_LAYOUT_LOCKED)};
-}
+XkbComponents KeyboardState::components() const { return componentsOf(m_state.get()); }
 
 void KeyboardState::feed(std::uint8_t keycode, bool press) {
     const auto changed = xkb_state_update_key(m_state.get(), keycode, press ? XKB_KEY_DOWN : XKB_KEY_UP);

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/XkbCodes.h"
+#include "platform/keymap/StateComponents.h"
 #include "platform/run/TextPlan.h"
 #include "platform/wayland/TypingPace.h"
 
@@ -103,19 +104,7 @@ void PortalKeyboard::plugIn() {
 }
 
 XkbComponents PortalKeyboard::components() const {
-    if (!m_state) return {};
-    const auto modifiers = [this](xkb_state_component which) {
-        return xkb_state_serialize_mods(m_state.get(), which) & realModifiers;
-    };
-    const auto layout = [this](xkb_state_component which) {
-        return xkb_state_serialize_layout(m_state.get(), which);
-    };
-    return {.depressed = modifiers(XKB_STATE_MODS_DEPRESSED),
-            .latched = modifiers(XKB_STATE_MODS_LATCHED),
-            .locked = modifiers(XKB_STATE_MODS_LOCKED),
-            .baseLayout = layout(XKB_STATE_LAYOUT_DEPRESSED),
-            .latchedLayout = layout(XKB_STATE_LAYOUT_LATCHED),
-            .lockedLayout = layout(XKB_STATE_LAYOUT_LOCKED)};
+    return m_state ? componentsOf(m_state.get()) : XkbComponents{};
 }
 
 void PortalKeyboard::send(std::uint8_t keycode, bool press) {

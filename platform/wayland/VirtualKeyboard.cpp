@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "platform/Descriptor.h"
+#include "platform/keymap/StateComponents.h"
 
 namespace wayland {
 
@@ -91,19 +92,7 @@ Result<void> VirtualKeyboard::setKeymap(const std::string& keymap) {
 }
 
 XkbComponents VirtualKeyboard::components() const {
-    if (!m_state) return {};
-    const auto modifiers = [this](xkb_state_component which) {
-        return xkb_state_serialize_mods(m_state.get(), which) & realModifiers;
-    };
-    const auto layout = [this](xkb_state_component which) {
-        return xkb_state_serialize_layout(m_state.get(), which);
-    };
-    return {.depressed = modifiers(XKB_STATE_MODS_DEPRESSED),
-            .latched = modifiers(XKB_STATE_MODS_LATCHED),
-            .locked = modifiers(XKB_STATE_MODS_LOCKED),
-            .baseLayout = layout(XKB_STATE_LAYOUT_DEPRESSED),
-            .latchedLayout = layout(XKB_STATE_LAYOUT_LATCHED),
-            .lockedLayout = layout(XKB_STATE_LAYOUT_LOCKED)};
+    return m_state ? componentsOf(m_state.get()) : XkbComponents{};
 }
 
 void VirtualKeyboard::press(std::uint8_t keycode) { send(keycode, true); }
