@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <initializer_list>
+#include <thread>
 
 /// The hands of a person at a compositor. Each press and release has reached it when its function returns.
 ///
@@ -13,10 +15,17 @@ class Hands {
 
     void press(std::uint8_t keycode) { send(keycode, true); }
     void release(std::uint8_t keycode) { send(keycode, false); }
-    /// Presses all in order, and releases them in the opposite one.
+    /// Presses all in order, and releases them in the opposite one, at the pace of a person.
     void stroke(std::initializer_list<std::uint8_t> keycodes) {
-        for (const std::uint8_t keycode : keycodes) press(keycode);
-        for (const auto* keycode = keycodes.end(); keycode != keycodes.begin();) release(*--keycode);
+        constexpr std::chrono::milliseconds gap{30};
+        for (const std::uint8_t keycode : keycodes) {
+            std::this_thread::sleep_for(gap);
+            press(keycode);
+        }
+        for (const auto* keycode = keycodes.end(); keycode != keycodes.begin();) {
+            std::this_thread::sleep_for(gap);
+            release(*--keycode);
+        }
     }
 
   protected:
