@@ -67,8 +67,9 @@ TEST_P(KWinProgramTest, modifiersThatAreStillHeldArePartOfNothingThatIsPlayed) {
     EXPECT_EQ(field.text("abca"), "abca");
 }
 
+/// A digit: with the Control that is held on the way to the hot key it is no command of the field's.
 TEST_P(KWinProgramTest, theStopHotKeyEndsThePlay) {
-    start("repeat 1000 times\nkeystroke \"a\"\ndelay 0.02\nend repeat\nkeystroke \"end\"");
+    start("repeat 1000 times\nkeystroke \"1\"\ndelay 0.02\nend repeat\nkeystroke \"end\"");
     const Field field(kwin(), Field::Toolkit::qt);
     strokeHotKey(xkey::p);
     ASSERT_TRUE(eventually([&] { return field.text().size() > 10; }));
@@ -81,7 +82,7 @@ TEST_P(KWinProgramTest, theStopHotKeyEndsThePlay) {
     EXPECT_LT(field.text().size(), 1000U);
     EXPECT_EQ(field.text().find("end"), std::string::npos);
     hands().stroke({xkey::b});
-    EXPECT_TRUE(eventually([&] { return field.text().ends_with("ab"); })) << field.text();
+    EXPECT_TRUE(eventually([&] { return field.text().ends_with("1b"); })) << field.text();
 }
 
 INSTANTIATE_TEST_SUITE_P(Layouts, KWinProgramTest, testing::Values("us", "de"),
