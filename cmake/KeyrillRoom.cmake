@@ -19,6 +19,8 @@ function(keyrill_compile_options target)
     target_compile_features(${target} PUBLIC cxx_std_20)
     # GIO asks its users for -pthread and Qt for -fPIC; with all targets alike they share precompiled headers.
     target_compile_options(${target} PRIVATE -pthread -fPIC)
+    # Nothing of the project is in a shared library, where another's function could stand in for one of ours.
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-fno-semantic-interposition>)
     # xcb's header of XKB has a member called "explicit", which its users rename by a macro.
     target_compile_options(${target} PRIVATE ${KEYRILL_WARNINGS} $<$<BOOL:${KEYRILL_WERROR}>:-Werror>
                                              $<$<CXX_COMPILER_ID:Clang>:-Wno-keyword-macro>)

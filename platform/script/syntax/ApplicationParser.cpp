@@ -85,7 +85,7 @@ NodeId ApplicationParser::runningOf(NodeId target) {
 }
 
 bool ApplicationParser::isAtProcessOfSystemEvents() const {
-    const int start = m_tokens.current().is(Word::application) ? 1 : 0;
+    const std::size_t start = m_tokens.current().is(Word::application) ? 1 : 0;
     if (!m_tokens.peek(start).is(Word::process) || !m_tokens.peek(start + 2).is(Word::of)) return false;
     const Token owner = m_tokens.peek(start + 3);
     const std::string_view name = m_tokens.peek(start + 4).text;
