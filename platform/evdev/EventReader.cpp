@@ -52,7 +52,7 @@ bool EventReader::read(WipedQueue<DeviceKey>& keys) {
         const ssize_t length = buffer.fill(fileDescriptor());
         if (length < 0 && errno == EINTR) continue;
         if (length < 0 && errno == EAGAIN) return true;
-        if (length <= 0 || length % sizeof(input_event) != 0) return false;
+        if (length <= 0 || static_cast<std::size_t>(length) % sizeof(input_event) != 0) return false;
         const auto events = buffer.first(static_cast<std::size_t>(length) / sizeof(input_event));
         if (take(events, keys)) continue;
         catchUp(microsecondsOf(events.back()), keys);
