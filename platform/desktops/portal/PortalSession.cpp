@@ -12,11 +12,13 @@
 #include <utility>
 
 #include "platform/Descriptor.h"
+#include "platform/desktops/portal/PortalNames.h"
 
 namespace {
 
-constexpr const char* service = "org.freedesktop.portal.Desktop";
-constexpr const char* object = "/org/freedesktop/portal/desktop";
+using portalnames::object;
+using portalnames::service;
+
 constexpr const char* face = "org.freedesktop.portal.RemoteDesktop";
 constexpr std::uint32_t keyboards = 1;
 /// Until the user takes it back.
@@ -25,12 +27,6 @@ constexpr std::uint32_t forGood = 2;
 constexpr std::uint32_t withTokens = 2;
 constexpr unsigned patienceWithDesktop = 10;
 constexpr int callPatience = 2000;
-
-GVariantBuilder dictionary() {
-    GVariantBuilder builder;
-    g_variant_builder_init(&builder, G_VARIANT_TYPE_VARDICT);
-    return builder;
-}
 
 }  // namespace
 
@@ -48,7 +44,7 @@ GVariantPointer PortalSession::call(const char* path, const char* interface, con
 
 GVariantPointer PortalSession::property(const char* name) const {
     const GVariantPointer answer =
-        call(object, "org.freedesktop.DBus.Properties", "Get", g_variant_new("(ss)", face, name));
+        call(object, portalnames::properties, "Get", g_variant_new("(ss)", face, name));
     if (!answer || g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(v)")) == FALSE) return nullptr;
     GVariant* value = nullptr;
     g_variant_get(answer.get(), "(v)", &value);
@@ -63,6 +59,9 @@ void PortalSession::open() {
         m_bus.reset(g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr));
         if (!m_bus) return fail(PortalAnswer::missing);
         g_dbus_connection_set_exit_on_close(m_bus.get(), FALSE);
+        GVariantBuilder none = portalOptions();
+        call(object, portalnames::registry, "Register",
+             g_variant_new("(sa{sv})", portalnames::program, &none));
     }
     const GVariantPointer version = property("version");
     const GVariantPointer types = property("AvailableDeviceTypes");
@@ -72,81 +71,40 @@ void PortalSession::open() {
     m_version = g_variant_get_uint32(version.get());
     m_watch = g_bus_watch_name_on_connection(m_bus.get(), service, G_BUS_NAME_WATCHER_FLAGS_NONE, nullptr,
                                              portalGone, this, nullptr);
-    GVariantBuilder options = dictionary();
+    GVariantBuilder options = portalOptions();
     g_variant_builder_add(&options, "{sv}", "session_handle_token", g_variant_new_string("keyrill"));
     request("CreateSession", State::creating, options, patienceWithDesktop);
 }
 
-/// The desktop answers by a signal at an object whose path the caller chooses.
 void PortalSession::request(const char* member, State state, GVariantBuilder& options, unsigned patience) {
     m_state = state;
-    std::string sender = g_dbus_connection_get_unique_name(m_bus.get());
-    sender.erase(0, 1);
-    std::replace(sender.begin(), sender.end(), '.', '_');
-    const std::string token = "keyrill" + std::to_string(++m_requests);
-    std::string path = object;
-    path.append("/request/").append(sender).append("/").append(token);
-    m_response = g_dbus_connection_signal_subscribe(m_bus.get(), service, "org.freedesktop.portal.Request",
-                                                    "Response", path.c_str(), nullptr,
-                                                    G_DBUS_SIGNAL_FLAGS_NONE, heardResponse, this, nullptr);
-    m_timer = g_timeout_add_seconds(patience, tooLate, this);
-    g_variant_builder_add(&options, "{sv}", "handle_token", g_variant_new_string(token.c_str()));
-    GVariant* parameters = nullptr;
-    if (state == State::creating) parameters = g_variant_new("(a{sv})", &options);
-    if (state == State::selecting) parameters = g_variant_new("(oa{sv})", m_session.c_str(), &options);
-    if (state == State::starting) parameters = g_variant_new("(osa{sv})", m_session.c_str(), "", &options);
-    if (!call(object, face, member, parameters)) fail(PortalAnswer::lost);
+    const auto parameters = [this, state](GVariantBuilder* all) {
+        if (state == State::creating) return g_variant_new("(a{sv})", all);
+        if (state == State::selecting) return g_variant_new("(oa{sv})", m_session.c_str(), all);
+        return g_variant_new("(osa{sv})", m_session.c_str(), "", all);
+    };
+    m_request.begin(m_bus.get(),
+                    {.interface = face, .member = member, .parameters = parameters, .patience = patience},
+                    options, [this](PortalRequest::End end, GVariant* results) { responded(end, results); });
 }
 
-void PortalSession::endRequest() {
-    if (m_response != 0) g_dbus_connection_signal_unsubscribe(m_bus.get(), std::exchange(m_response, 0));
-    if (m_timer != 0) g_source_remove(std::exchange(m_timer, 0));
-}
-
-gboolean PortalSession::tooLate(void* self) {
-    auto& session = *static_cast<PortalSession*>(self);
-    session.m_timer = 0;
-    session.fail(PortalAnswer::silent);
-    return G_SOURCE_REMOVE;
-}
-
-void PortalSession::heardResponse(GDBusConnection* /*bus*/, const char* /*sender*/, const char* /*path*/,
-                                  const char* /*face*/, const char* /*member*/, GVariant* parameters,
-                                  void* self) {
-    auto& session = *static_cast<PortalSession*>(self);
-    if (g_variant_is_of_type(parameters, G_VARIANT_TYPE("(ua{sv})")) == FALSE) {
-        return session.fail(PortalAnswer::lost);
-    }
-    std::uint32_t code = 0;
-    GVariant* results = nullptr;
-    g_variant_get(parameters, "(u@a{sv})", &code, &results);
-    const GVariantPointer owned(results);
-    session.responded(code, results);
-}
-
-void PortalSession::responded(std::uint32_t code, GVariant* results) {
-    constexpr std::uint32_t byUser = 1;
-    endRequest();
-    if (code != 0) return fail(code == byUser ? PortalAnswer::refused : PortalAnswer::lost);
+void PortalSession::responded(PortalRequest::End end, GVariant* results) {
+    if (end == PortalRequest::End::refused) return fail(PortalAnswer::refused);
+    if (end == PortalRequest::End::silent) return fail(PortalAnswer::silent);
+    if (end == PortalRequest::End::failed) return fail(PortalAnswer::lost);
     if (m_state == State::selecting) return start();
     if (m_state == State::starting) return started(results);
-    const char* handle = nullptr;
-    // Some say it as a text, some as a path.
-    const GVariantPointer value(g_variant_lookup_value(results, "session_handle", nullptr));
-    if (value && (g_variant_is_of_type(value.get(), G_VARIANT_TYPE_STRING) == TRUE ||
-                  g_variant_is_of_type(value.get(), G_VARIANT_TYPE_OBJECT_PATH) == TRUE)) {
-        handle = g_variant_get_string(value.get(), nullptr);
-    }
-    if (handle == nullptr || g_variant_is_object_path(handle) == FALSE) return fail(PortalAnswer::lost);
-    m_session = handle;
+    const std::optional<std::string> handle = portalSessionIn(results);
+    if (!handle) return fail(PortalAnswer::lost);
+    m_session = *handle;
     select();
 }
 
 void PortalSession::select() {
-    m_closed = g_dbus_connection_signal_subscribe(m_bus.get(), service, "org.freedesktop.portal.Session",
-                                                  "Closed", m_session.c_str(), nullptr,
-                                                  G_DBUS_SIGNAL_FLAGS_NONE, heardClosed, this, nullptr);
-    GVariantBuilder options = dictionary();
+    m_closed = g_dbus_connection_signal_subscribe(m_bus.get(), service, portalnames::session, "Closed",
+                                                  m_session.c_str(), nullptr, G_DBUS_SIGNAL_FLAGS_NONE,
+                                                  heardClosed, this, nullptr);
+    GVariantBuilder options = portalOptions();
     g_variant_builder_add(&options, "{sv}", "types", g_variant_new_uint32(keyboards));
     if (m_version >= withTokens && !m_options.tokenFile.empty()) {
         g_variant_builder_add(&options, "{sv}", "persist_mode", g_variant_new_uint32(forGood));
@@ -159,7 +117,7 @@ void PortalSession::select() {
 }
 
 void PortalSession::start() {
-    GVariantBuilder options = dictionary();
+    GVariantBuilder options = portalOptions();
     request("Start", State::starting, options, m_options.patience);
 }
 
@@ -197,7 +155,7 @@ void PortalSession::keepToken(GVariant* results) const {
 void PortalSession::key(std::uint16_t keycode, bool press) {
     if (m_state != State::open) return;
     m_down[keycode] = press;
-    GVariantBuilder options = dictionary();
+    GVariantBuilder options = portalOptions();
     const bool isTaken = call(object, face, "NotifyKeyboardKeycode",
                               g_variant_new("(oa{sv}iu)", m_session.c_str(), &options,
                                             static_cast<std::int32_t>(keycode), press ? 1U : 0U)) != nullptr;
@@ -226,14 +184,14 @@ void PortalSession::portalGone(GDBusConnection* /*bus*/, const char* /*name*/, v
 }
 
 void PortalSession::fail(PortalAnswer why) {
-    if (m_bus) endRequest();
+    m_request.stop();
     m_state = State::closed;
     m_answer(why);
 }
 
 void PortalSession::close() {
     if (!m_bus) return;
-    endRequest();
+    m_request.stop();
     for (std::size_t keycode = 0; keycode < m_down.size(); ++keycode) {
         if (m_down[keycode]) key(static_cast<std::uint16_t>(keycode), false);
     }
@@ -241,5 +199,5 @@ void PortalSession::close() {
     if (m_closed != 0) g_dbus_connection_signal_unsubscribe(m_bus.get(), std::exchange(m_closed, 0));
     if (m_watch != 0) g_bus_unwatch_name(std::exchange(m_watch, 0));
     if (m_session.empty()) return;
-    call(std::exchange(m_session, {}).c_str(), "org.freedesktop.portal.Session", "Close", nullptr);
+    call(std::exchange(m_session, {}).c_str(), portalnames::session, "Close", nullptr);
 }

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/desktops/portal/PortalMessage.h"
+#include "platform/desktops/portal/PortalRequest.h"
 #include "platform/linux/BusContext.h"
 
 /// A session of the portal that presses keys (org.freedesktop.portal.RemoteDesktop), on the process's session
@@ -38,20 +39,16 @@ class PortalSession {
   private:
     enum class State { closed, creating, selecting, starting, open };
 
-    static void heardResponse(GDBusConnection* bus, const char* sender, const char* path, const char* face,
-                              const char* member, GVariant* parameters, void* self);
     static void heardClosed(GDBusConnection* bus, const char* sender, const char* path, const char* face,
                             const char* member, GVariant* parameters, void* self);
     static void portalGone(GDBusConnection* bus, const char* name, void* self);
-    static gboolean tooLate(void* self);
 
     GVariantPointer property(const char* name) const;
     void request(const char* member, State state, GVariantBuilder& options, unsigned patience);
-    void responded(std::uint32_t code, GVariant* results);
+    void responded(PortalRequest::End end, GVariant* results);
     void select();
     void start();
     void started(GVariant* results);
-    void endRequest();
     void fail(PortalAnswer why);
     GVariantPointer call(const char* path, const char* face, const char* member, GVariant* parameters) const;
     std::string token() const;
@@ -63,10 +60,8 @@ class PortalSession {
     State m_state = State::closed;
     std::uint32_t m_version = 0;
     std::string m_session;
-    unsigned m_requests = 0;
-    guint m_response = 0;
+    PortalRequest m_request;
     guint m_closed = 0;
     guint m_watch = 0;
-    guint m_timer = 0;
     std::bitset<65536> m_down;
 };
