@@ -3,10 +3,13 @@
 
 #include <boost/smart_ptr/shared_ptr.hpp>
 #include <cstdint>
+#include <map>
 #include <optional>
+#include <string>
 
 #include "core/Macro.h"
 #include "platform/Clock.h"
+#include "platform/HotKeys.h"
 
 /// What hot keys, commands and recorder share. Main thread only.
 struct EngineState {
@@ -25,6 +28,8 @@ struct EngineState {
     std::optional<Clock::Time> lastEventTime;
     /// Empty while nothing is recorded, and in a recording that was cancelled at its start.
     boost::shared_ptr<Macro> recordingMacro;
+    /// How the user knows the hot keys, by their ids, for a desktop that shows them to him; may be empty.
+    std::map<HotKeyId, std::string> hotKeyTitles;
     /// What play commands play; also set from the history and from macro files.
     boost::shared_ptr<Macro> currentMacro;
 };

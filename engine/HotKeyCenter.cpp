@@ -42,7 +42,15 @@ HotKeyRequest requestFor(const HotKeyRow& row) {
     const std::string name(row.name);
     const std::uint32_t flags = utils::PreferenceManager::flags(name);
     const std::int16_t code = utils::PreferenceManager::code(name);
-    return {row.id, name, widened(code), flags, row.cancelsPlayback, row.startsPlayback};
+    const auto& titles = engineState().hotKeyTitles;
+    const auto title = titles.find(row.id);
+    return {row.id,
+            name,
+            widened(code),
+            flags,
+            row.cancelsPlayback,
+            row.startsPlayback,
+            title == titles.end() ? std::string() : title->second};
 }
 
 /// Runs the command that the row of the id holds in `command`.

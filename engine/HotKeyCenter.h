@@ -27,7 +27,8 @@ const std::array<HotKeyRow, shortcutRows.size()>& hotKeyRows();
 /// Presses and releases of hot keys become commands from now on.
 void installHotKeyHandlers();
 
-/// Gives each row's combination free and asks for the one that the preference table holds. What became of it
+/// Gives each row's combination free and asks for the one that the preference table holds, by the title that
+/// EngineState has for it. What became of it
 /// is for services().hotKeys to tell; a refused row is inert until the next call.
 void registerHotKeys();
 

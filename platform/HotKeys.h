@@ -24,15 +24,20 @@ struct HotKeyRequest {
     bool cancelsPlayback = false;
     /// Whether it starts a playback: one that cancels discards what is asked for and has not begun.
     bool startsPlayback = false;
+    /// What it does, as the user knows it ("Play"), for a desktop that shows it to him; may be empty.
+    std::string title = {};
 };
 
-/// How far a request has come. `changed` means registered, but as another combination than asked for.
+/// How far a request has come. `changed` means registered, but as the combination that the desktop's own
+/// settings have for it, which need not be the one that was asked for.
 enum class HotKeyStatus { unset, pending, registered, changed, refused };
 
 struct HotKeyState {
     HotKeyStatus status = HotKeyStatus::unset;
     /// Set while refused: its message names the combination and why it cannot be had.
-    std::optional<Error> error;
+    std::optional<Error> error = {};
+    /// While changed: what is to be pressed, in the desktop's words; may be empty.
+    std::string trigger = {};
 };
 
 /// Global hot keys: a combination is taken from all applications and its presses and releases come here.

@@ -11,6 +11,8 @@
 #include "app/panels/AboutPanel.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/panels/WelcomePanel.h"
+#include "app/shortcuts/ShortcutTitles.h"
+#include "engine/EngineState.h"
 #include "engine/HotKeyCenter.h"
 #include "engine/KeyRecorder.h"
 #include "platform/EventMonitor.h"
@@ -94,6 +96,9 @@ void AppController::awakeFromNib() {
     runCheckForUpdates = features::updateCheck && isStoredOn(m_services.settings, "checkForUpdatesOnLaunch");
     noteFirstRun();
     if (!noSplash) timer.start(splashDelay);
+    for (std::size_t i = 0; i < shortcutRows.size(); ++i) {
+        engineState().hotKeyTitles[shortcutRows[i].id] = shortcutTitles(i).command.toStdString();
+    }
     registerHotKeys();
     m_refreshTimer.start(refreshInterval);
     watchScreenLock();

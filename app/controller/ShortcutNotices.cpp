@@ -44,7 +44,9 @@ QString noticeFor(const ShortcutFacts& shortcut, const AllShortcutFacts& all) {
         case HotKeyStatus::pending:
             return tr("The desktop has not answered yet.");
         case HotKeyStatus::changed:
-            return tr("The desktop has chosen another combination.");
+            return shortcut.state.trigger.empty() ? tr("Set in the desktop's settings.")
+                                                  : tr("Set in the desktop's settings: %1")
+                                                        .arg(QString::fromStdString(shortcut.state.trigger));
         case HotKeyStatus::unset:
         case HotKeyStatus::registered:
             break;

@@ -105,7 +105,7 @@ void KdeShortcuts::sweep() const {
     }
 }
 
-std::optional<std::string> KdeShortcuts::grab(const KeyGrab& grab) {
+std::optional<std::string> KdeShortcuts::grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) {
     const Place place{grab.keycode, grab.modifiers};
     if (m_bound.contains(place)) return std::nullopt;
     const Combination combination = m_describes(grab);

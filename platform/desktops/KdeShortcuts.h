@@ -38,7 +38,7 @@ class KdeShortcuts final : public HotKeyBinder {
     KdeShortcuts& operator=(const KdeShortcuts&) = delete;
 
     // HotKeyBinder
-    std::optional<std::string> grab(const KeyGrab& grab) override;
+    std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& request) override;
     void release(const KeyGrab& grab) override;
     int fileDescriptor() const override { return m_bus.fileDescriptor(); }
     /// A held combination is pressed again and again. It is up as soon as any of its keys is.

@@ -94,7 +94,7 @@ bool SwayBindings::isUsers(const Place& place) const {
     });
 }
 
-std::optional<std::string> SwayBindings::grab(const KeyGrab& grab) {
+std::optional<std::string> SwayBindings::grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) {
     const Place place{grab.keycode, grab.modifiers};
     if (isUsers(place)) return "your configuration of sway binds it";
     if (m_bound.contains(place)) return std::nullopt;

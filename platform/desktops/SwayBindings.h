@@ -28,7 +28,7 @@ class SwayBindings final : public HotKeyBinder {
     SwayBindings& operator=(const SwayBindings&) = delete;
 
     // HotKeyBinder
-    std::optional<std::string> grab(const KeyGrab& grab) override;
+    std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& request) override;
     void release(const KeyGrab& grab) override;
 
     int fileDescriptor() const override { return m_events.fileDescriptor(); }

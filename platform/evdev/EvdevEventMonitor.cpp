@@ -18,6 +18,9 @@ void EvdevEventMonitor::setKeymap(std::unique_ptr<Keymap> keymap) { m_parts->set
 void EvdevEventMonitor::setLayout(std::uint32_t layout) { m_parts->setLayout(layout); }
 void EvdevEventMonitor::setRepeatRule(const RepeatRule& rule) { m_parts->setRepeatRule(rule); }
 void EvdevEventMonitor::desktopTells(const KeyGrab& grab, bool press) { m_parts->desktopTells(grab, press); }
+void EvdevEventMonitor::desktopAnswers(const KeyGrab& grab, const GrabAnswer& answer) {
+    m_parts->hotKeys().answer(grab, answer);
+}
 void EvdevEventMonitor::desktopForgot() { m_parts->desktopForgot(); }
 void EvdevEventMonitor::listenTo(EventSource& desktop) { m_parts->listenTo(desktop); }
 

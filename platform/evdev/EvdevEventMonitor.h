@@ -17,6 +17,7 @@ class KeyboardState;
 class Keymap;
 class KeyGrabber;
 class RunWatch;
+struct GrabAnswer;
 struct KeyGrab;
 
 namespace evdev {
@@ -73,6 +74,8 @@ class EvdevEventMonitor final : public EventSource, public EventMonitor, public 
     void listenTo(EventSource& desktop);
     /// A combination which the grabber has taken is pressed, or released.
     void desktopTells(const KeyGrab& grab, bool press);
+    /// The desktop's user has decided on a combination which the grabber has asked for.
+    void desktopAnswers(const KeyGrab& grab, const GrabAnswer& answer);
     /// The desktop has forgotten all that the grabber has taken, so that it is taken again.
     void desktopForgot();
 

@@ -107,7 +107,10 @@ void EvdevEventMonitor::Parts::runEnds() {
 }
 
 bool EvdevEventMonitor::Parts::liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) {
-    return m_hotKeys.lift(keycode, modifiers);
+    if (m_hotKeys.canLift()) return m_hotKeys.lift(keycode, modifiers);
+    // The desktop takes the stroke for the user's, and tells of it.
+    if (const auto id = m_hotKeys.find(keycode, modifiers)) m_echoes.expect(*id, m_clock.now());
+    return false;
 }
 
 void EvdevEventMonitor::Parts::listenTo(EventSource& desktop) {
@@ -124,7 +127,7 @@ void EvdevEventMonitor::Parts::desktopTells(const KeyGrab& grab, bool press) {
 
 /// One that no open keyboard has told was pressed on another, or before they were open.
 void EvdevEventMonitor::Parts::desktopPresses(const KeyGrab& grab) {
-    const std::optional<HotKeyId> id = m_hotKeys.find(grab.keycode, grab.modifiers);
+    const std::optional<HotKeyId> id = m_hotKeys.ownerOf(grab);
     if (!id || m_echoes.take(*id, m_clock.now())) return;
     // A held combination presses once, though some desktops tell of its repeats.
     if (m_desktopDown.contains(grab.keycode)) return;

@@ -12,6 +12,7 @@
 namespace {
 
 const char* const chooseAnother = "Choose another combination.";
+const char* const allowIt = "Choose another combination, or allow it in the desktop's settings.";
 const char* const freeIt = "Choose another combination, or free it in the program that holds it.";
 
 /// A message as the end of another sentence.
@@ -54,14 +55,31 @@ HotKeyState HotKeyTable::state(HotKeyId id) const {
 
 std::optional<HotKeyId> HotKeyTable::find(std::uint8_t keycode, std::uint16_t modifiers) const {
     for (const auto& [id, row] : m_rows) {
-        if (row.grab && row.grab->matches(keycode, modifiers)) return id;
+        if (row.keys && row.keys->matches(keycode, modifiers)) return id;
     }
     return std::nullopt;
 }
 
+std::optional<HotKeyId> HotKeyTable::ownerOf(const KeyGrab& grab) const {
+    for (const auto& [id, row] : m_rows) {
+        if (row.grab && row.grab->matches(grab.keycode, grab.modifiers)) return id;
+    }
+    return std::nullopt;
+}
+
+void HotKeyTable::answer(const KeyGrab& grab, const GrabAnswer& answer) {
+    const auto id = ownerOf(grab);
+    if (!id) return;
+    Row& row = m_rows[*id];
+    row.keys = answer.refusal ? std::nullopt : answer.keys;
+    if (row.keys) row.keys->locks = row.grab->locks;
+    if (answer.refusal) return refuse(row, *answer.refusal, allowIt);
+    settle(row, {.status = HotKeyStatus::changed, .trigger = answer.trigger});
+}
+
 bool HotKeyTable::usesKeycode(std::uint8_t keycode) const {
     return std::any_of(m_rows.begin(), m_rows.end(), [&](const auto& entry) {
-        return entry.second.grab && entry.second.grab->keycode == keycode;
+        return entry.second.keys && entry.second.keys->keycode == keycode;
     });
 }
 
@@ -129,7 +147,7 @@ bool HotKeyTable::liftAll(std::uint8_t keycode) {
 }
 
 bool HotKeyTable::liftRow(Row& row) {
-    if (row.isLifted) return false;
+    if (row.isLifted || !canLift()) return false;
     m_grabs.release(*row.grab);
     row.isLifted = true;
     return true;
@@ -143,6 +161,7 @@ void HotKeyTable::restoreAll(std::uint8_t keycode) {
 
 void HotKeyTable::tryRow(Row& row) {
     row.grab.reset();
+    row.keys.reset();
     row.waits = false;
     row.isLifted = false;
     row.isElsewhere = false;
@@ -152,17 +171,20 @@ void HotKeyTable::tryRow(Row& row) {
         row.waits = true;
         return refuse(row, "Keyrill uses it for something else", chooseAnother);
     }
-    if (const auto failure = m_grabs.grab(grab.value())) {
+    if (const auto failure = m_grabs.grab(grab.value(), row.request)) {
         row.isElsewhere = true;
         return refuse(row, *failure, freeIt);
     }
     row.grab = grab.value();
-    settle(row, {HotKeyStatus::registered, std::nullopt});
+    if (m_grabs.isDecidedByUser()) return settle(row, {.status = HotKeyStatus::pending});
+    row.keys = row.grab;
+    settle(row, {.status = HotKeyStatus::registered});
 }
 
 void HotKeyTable::freeRow(Row& row) {
     if (row.grab && !row.isLifted) m_grabs.release(*row.grab);
     row.grab.reset();
+    row.keys.reset();
     row.isLifted = false;
 }
 
@@ -180,7 +202,8 @@ void HotKeyTable::refuse(Row& row, const std::string& why, const std::string& hi
 }
 
 void HotKeyTable::settle(Row& row, HotKeyState state) {
-    const bool changed = row.state.status != state.status || row.state.error != state.error;
+    const bool changed = row.state.status != state.status || row.state.error != state.error ||
+                         row.state.trigger != state.trigger;
     row.state = std::move(state);
     if (changed && m_observer) m_observer(row.request.id, row.state);
 }

@@ -24,9 +24,14 @@ class HotKeyTable {
 
     /// The hot key that is pressed with this key and these real modifiers, if any.
     std::optional<HotKeyId> find(std::uint8_t keycode, std::uint16_t modifiers) const;
+    /// The one for which this was grabbed, whatever is pressed for it.
+    std::optional<HotKeyId> ownerOf(const KeyGrab& grab) const;
     bool usesKeycode(std::uint8_t keycode) const;
     bool cancelsPlayback(HotKeyId id) const;
     bool startsPlayback(HotKeyId id) const;
+
+    /// A desktop whose user decides has decided on what was grabbed, or otherwise than before.
+    void answer(const KeyGrab& grab, const GrabAnswer& answer);
 
     /// Whether another program holds a combination that is wanted, and another try to get each of those.
     bool isKeptWaiting() const;
@@ -42,6 +47,8 @@ class HotKeyTable {
     /// locks do not matter for a combination, but these are part of it.
     void followLocks();
 
+    /// Whether what follows gives anything free: not where the desktop's user decides.
+    bool canLift() const { return !m_grabs.isDecidedByUser(); }
     /// Gives the combination of these real modifiers free until restoreAll(); false, and nothing done, if it
     /// is none of ours or has been given free already.
     bool lift(std::uint8_t keycode, std::uint16_t modifiers);
@@ -54,6 +61,8 @@ class HotKeyTable {
     struct Row {
         HotKeyRequest request;
         std::optional<KeyGrab> grab;
+        /// What is pressed for it, if that is known.
+        std::optional<KeyGrab> keys;
         HotKeyState state;
         /// Refused since another row has the combination; it is tried again when one is given free.
         bool waits = false;

@@ -4,7 +4,20 @@
 #include <optional>
 #include <string>
 
+#include "platform/HotKeys.h"
 #include "platform/monitor/KeyGrab.h"
+
+/// What a desktop has made of a wish that its user decides.
+struct GrabAnswer {
+    /// As that of KeyGrabber::grab(); empty if the wish is granted, though perhaps as another combination.
+    std::optional<std::string> refusal;
+    /// What is to be pressed, in the desktop's words; may be empty.
+    std::string trigger = {};
+    /// The combination that they mean; empty if that is not known.
+    std::optional<KeyGrab> keys = {};
+
+    friend bool operator==(const GrabAnswer&, const GrabAnswer&) = default;
+};
 
 /// Who can take combinations from all other programs.
 class KeyGrabber {
@@ -12,7 +25,10 @@ class KeyGrabber {
     virtual ~KeyGrabber() = default;
 
     /// All variants or none. The error says why not, as the end of a sentence: "another program holds it".
-    virtual std::optional<std::string> grab(const KeyGrab& grab) = 0;
+    virtual std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& request) = 0;
     /// Gives back what grab() took; nothing happens for a combination that is not held.
     virtual void release(const KeyGrab& grab) = 0;
+    /// Whether grab() is a wish that the desktop's user decides in its settings: the answer comes later
+    /// (HotKeyTable::answer), and may change, and nothing can be given free for a while.
+    virtual bool isDecidedByUser() const { return false; }
 };

@@ -22,6 +22,8 @@ void DesktopSignals::pass(const HotKeyBinder::Event& event) {
             return m_monitor.desktopTells(grab, true);
         case HotKeyBinder::Event::Kind::release:
             return m_monitor.desktopTells(grab, false);
+        case HotKeyBinder::Event::Kind::answer:
+            return m_monitor.desktopAnswers(grab, event.answer);
         case HotKeyBinder::Event::Kind::reload:
             return m_monitor.desktopForgot();
         case HotKeyBinder::Event::Kind::layout:

@@ -14,7 +14,8 @@ class EvdevEventMonitor;
 
 namespace wayland {
 
-/// Passes on to the monitor what the desktop tells of combinations, of having forgotten them, and of layouts.
+/// Passes on to the monitor what the desktop tells of combinations and of what its user decides on them, of
+/// having forgotten them, and of layouts.
 ///
 /// It tells of a release as soon as any key of the combination is up.
 class DesktopSignals final : public EventSource {

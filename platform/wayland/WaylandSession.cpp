@@ -102,7 +102,7 @@ evdev::RepeatRule ruleOf(const SeatKeymap::Repeat& repeat) {
 /// Where the compositor takes no combinations for programs.
 class NoGrabs final : public KeyGrabber {
   public:
-    std::optional<std::string> grab(const KeyGrab& /*grab*/) override {
+    std::optional<std::string> grab(const KeyGrab& /*grab*/, const HotKeyRequest& /*request*/) override {
         return "this compositor gives no hot keys to programs";
     }
     void release(const KeyGrab& /*grab*/) override {}

@@ -27,7 +27,7 @@ std::uint16_t realModifiersOf(std::uint32_t modifiers) {
 
 }  // namespace
 
-std::optional<std::string> FakeGrabber::grab(const KeyGrab& grab) {
+std::optional<std::string> FakeGrabber::grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) {
     for (const KeyGrab& other : m_elsewhere) {
         if (other.collidesWith(grab)) return "another program holds it";
     }

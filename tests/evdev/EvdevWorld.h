@@ -15,16 +15,21 @@
 /// Other programs' hot keys.
 class FakeGrabber final : public KeyGrabber {
   public:
-    std::optional<std::string> grab(const KeyGrab& grab) override;
+    std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& request) override;
     void release(const KeyGrab& grab) override { std::erase(m_taken, grab); }
 
     void otherTakes(const KeyGrab& grab) { m_elsewhere.push_back(grab); }
     const std::vector<KeyGrab>& taken() const { return m_taken; }
     void forgetAll() { m_taken.clear(); }
 
+    /// From now on the desktop's user decides.
+    void leaveToUser() { m_isDecidedByUser = true; }
+    bool isDecidedByUser() const override { return m_isDecidedByUser; }
+
   private:
     std::vector<KeyGrab> m_elsewhere;
     std::vector<KeyGrab> m_taken;
+    bool m_isDecidedByUser = false;
 };
 
 /// Opens what is there, unless it is made to fail.

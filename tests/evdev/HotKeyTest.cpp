@@ -152,6 +152,56 @@ TEST_P(EvdevHotKeyTest, aDesktopThatIsListenedToIsReadInARunToo) {
     EXPECT_EQ(delivered(), Log{"pressed 1"});
 }
 
+/// One that the desktop's user decides.
+class EvdevUsersHotKeyTest : public EvdevHotKeyTest {
+  protected:
+    void SetUp() override {
+        EvdevTest::SetUp();
+        evdevWorld().grabber().leaveToUser();
+        request(record, "record", key::f5, 0);
+        monitor().setRecording(false);
+        delivered();
+    }
+    void decide(std::optional<KeyGrab> keys) {
+        monitor().desktopAnswers(f5, {.refusal = {}, .trigger = "words", .keys = keys});
+    }
+};
+
+TEST_P(EvdevUsersHotKeyTest, itIsSeenInTheStreamAsWhatTheUserChose) {
+    decide(KeyGrab{.keycode = xkey::a});
+    monitor().setRecording(true);
+    tap(key::f5);
+    EXPECT_EQ(delivered(), (Log{"down 96", "up 96"}));
+    tap(key::a);
+    desktopTells(true);
+    desktopTells(false);
+    EXPECT_EQ(delivered(), (Log{"pressed 1", "released 1"}));
+}
+
+TEST_P(EvdevUsersHotKeyTest, whereNobodyKnowsItsKeysTheDesktopTells) {
+    decide(std::nullopt);
+    monitor().setRecording(true);
+    desktopTells(true);
+    desktopTells(false);
+    EXPECT_EQ(delivered(), (Log{"pressed 1", "released 1"}));
+}
+
+TEST_P(EvdevUsersHotKeyTest, theRunsOwnStrokeOfItFiresNothing) {
+    decide(f5);
+    RunWatch& run = monitor().runWatch();
+    run.runStarts();
+    EXPECT_FALSE(run.liftHotKey(xkey::f5, 0));
+    run.expectOwnKey(xkey::f5, true);
+    run.expectOwnKey(xkey::f5, false);
+    desktopTells(true);
+    desktopTells(false);
+    run.runEnds();
+    EXPECT_EQ(delivered(), Log{});
+    // The next one is the user's.
+    desktopTells(true);
+    EXPECT_EQ(delivered(), Log{"pressed 1"});
+}
+
 /// A hot key that plays, with Control and Super, told by the desktop.
 class EvdevPlayTest : public EvdevTest {
   protected:
@@ -211,6 +261,7 @@ TEST_P(EvdevPlayTest, withoutKeyboardsItsModifiersAreUpAQuarterOfASecondAfterIt)
 }
 
 INSTANTIATE_TEST_SUITE_P(Evdev, EvdevPlayTest, testing::Values(&makeEvdevWorld));
+INSTANTIATE_TEST_SUITE_P(Evdev, EvdevUsersHotKeyTest, testing::Values(&makeEvdevWorld));
 INSTANTIATE_TEST_SUITE_P(Evdev, EvdevHotKeyTest, testing::Values(&makeEvdevWorld));
 
 }  // namespace

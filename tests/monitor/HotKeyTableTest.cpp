@@ -25,7 +25,7 @@ constexpr HotKeyId play = 2;
 /// Keeps account of what is held, some of it by another program.
 class Grabber final : public KeyGrabber {
   public:
-    std::optional<std::string> grab(const KeyGrab& grab) override {
+    std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) override {
         if (otherProgramHasAll) return "another program holds it";
         held.push_back(grab);
         return std::nullopt;
@@ -34,8 +34,11 @@ class Grabber final : public KeyGrabber {
         held.erase(std::remove(held.begin(), held.end(), grab), held.end());
     }
 
+    bool isDecidedByUser() const override { return isUsers; }
+
     std::vector<KeyGrab> held;
     bool otherProgramHasAll = false;
+    bool isUsers = false;
 };
 
 class HotKeyTableTest : public testing::Test {
@@ -221,6 +224,61 @@ TEST_F(HotKeyTableTest, tellsOfEachChangeOnce) {
     m_table.request(asked(record));
     m_table.withdraw(record);
     EXPECT_EQ(seen, (std::vector{HotKeyStatus::registered, HotKeyStatus::unset}));
+}
+
+/// On a desktop whose user decides.
+class DecidedByUserTest : public HotKeyTableTest {
+  protected:
+    DecidedByUserTest() {
+        m_grabber.isUsers = true;
+        m_table.request(asked(record));
+    }
+    static constexpr KeyGrab f9{.keycode = 75};
+};
+
+TEST_F(DecidedByUserTest, aWishIsPendingAndNoKeyIsTakenForItYet) {
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::pending);
+    EXPECT_EQ(m_table.find(keyOfR, 0x44), std::nullopt);
+    EXPECT_EQ(m_table.ownerOf(m_controlSuperR), record);
+}
+
+TEST_F(DecidedByUserTest, itIsPressedAsTheDesktopsSettingsSay) {
+    m_table.answer(m_controlSuperR, {.refusal = {}, .trigger = "Press F9", .keys = f9});
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::changed);
+    EXPECT_EQ(m_table.state(record).trigger, "Press F9");
+    EXPECT_EQ(m_table.find(keyOfR, 0x44), std::nullopt);
+    EXPECT_EQ(m_table.find(75, 0x12), record);
+    EXPECT_TRUE(m_table.usesKeycode(75));
+}
+
+TEST_F(DecidedByUserTest, wordsThatNobodyUnderstandsAreNoKeys) {
+    m_table.answer(m_controlSuperR, {.refusal = {}, .trigger = "the red button", .keys = {}});
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::changed);
+    EXPECT_EQ(m_table.find(keyOfR, 0x44), std::nullopt);
+    EXPECT_EQ(m_table.ownerOf(m_controlSuperR), record);
+}
+
+TEST_F(DecidedByUserTest, aRefusalSaysWhyAndMayBeTakenBack) {
+    m_table.answer(m_controlSuperR, {.refusal = "you did not agree"});
+    EXPECT_EQ(refusal(record), "Ctrl+Super+R cannot be used: you did not agree.");
+    EXPECT_FALSE(m_table.isKeptWaiting());
+    m_table.answer(m_controlSuperR, {.refusal = {}, .trigger = "", .keys = m_controlSuperR});
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::changed);
+    EXPECT_EQ(refusal(record), "");
+}
+
+TEST_F(DecidedByUserTest, anAnswerToWhatIsNotAskedForAnyMoreIsNothing) {
+    m_table.withdraw(record);
+    m_table.answer(m_controlSuperR, {.refusal = {}, .trigger = "", .keys = m_controlSuperR});
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::unset);
+}
+
+TEST_F(DecidedByUserTest, nothingIsGivenFreeForAWhile) {
+    m_table.answer(m_controlSuperR, {.refusal = {}, .trigger = "", .keys = m_controlSuperR});
+    EXPECT_FALSE(m_table.canLift());
+    EXPECT_FALSE(m_table.lift(keyOfR, 0x44));
+    EXPECT_FALSE(m_table.liftAll(keyOfR));
+    EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
 }
 
 }  // namespace

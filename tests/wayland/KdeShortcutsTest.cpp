@@ -36,7 +36,7 @@ class KdeShortcutsTest : public testing::Test {
     std::optional<std::string> grab(std::uint8_t keycode, std::uint16_t modifiers,
                                     const std::vector<std::int32_t>& keys) {
         m_combinations[{keycode, modifiers}] = {keys, "Combination"};
-        return m_shortcuts->grab({.keycode = keycode, .modifiers = modifiers});
+        return m_shortcuts->grab({.keycode = keycode, .modifiers = modifiers}, {});
     }
     std::optional<Event> next() {
         std::optional<Event> event;

@@ -29,7 +29,7 @@ Result<std::unique_ptr<HotKeyGrabs>> HotKeyGrabs::open(const std::string& displa
     return grabs;
 }
 
-std::optional<std::string> HotKeyGrabs::grab(const KeyGrab& grab) {
+std::optional<std::string> HotKeyGrabs::grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) {
     std::vector<xcb_void_cookie_t> cookies;
     for (const std::uint16_t modifiers : grab.variants()) {
         m_combinations.insert({grab.keycode, modifiers});

@@ -33,7 +33,7 @@ class HotKeyGrabs final : public KeyGrabber {
     WipedQueue<GrabbedPress>& presses() { return m_presses; }
 
     // KeyGrabber
-    std::optional<std::string> grab(const KeyGrab& grab) override;
+    std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& request) override;
     void release(const KeyGrab& grab) override;
 
     /// Ends the hold on the keyboard that lasts while a combination is held down.
