@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/wayland/KdeKeys.h"
 
-#include <array>
 #include <cctype>
 
 #include "platform/keymap/QtKeys.h"
+#include "platform/keymap/TriggerNames.h"
 #include "platform/wayland/SeatKeymap.h"
 
 namespace wayland {
@@ -13,10 +13,7 @@ namespace {
 
 /// What a key types without modifiers, as a name: "R", "F9".
 std::string nameOf(const Keymap& keymap, std::uint8_t keycode) {
-    constexpr std::size_t longest = 64;
-    std::array<char, longest> name{};
-    xkb_keysym_get_name(keymap.symbol(keycode, 0, 0), name.data(), name.size());
-    std::string text = name.data();
+    std::string text = symbolName(keymap, keycode);
     if (text.size() == 1) {
         text.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
     }
