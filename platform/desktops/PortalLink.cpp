@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "platform/desktops/portal/PortalNames.h"
 #include "platform/linux/ConfigFolders.h"
 
 namespace {
@@ -49,8 +50,7 @@ Error cannotStart() {
 bool PortalLink::isThere(const SessionBus& bus) {
     constexpr std::uint32_t keyboards = 1;
     const auto answer =
-        bus.ask({"org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
-                 "org.freedesktop.DBus.Properties", "Get"},
+        bus.ask({portalnames::service, portalnames::object, portalnames::properties, "Get"},
                 g_variant_new("(ss)", "org.freedesktop.portal.RemoteDesktop", "AvailableDeviceTypes"), "(v)",
                 SessionBus::Starts::yes);
     if (!answer) return false;

@@ -65,6 +65,12 @@ Result<GVariantPointer> SessionBus::ask(const Method& method, GVariant* paramete
     return Error{failure->message, ""};
 }
 
+void SessionBus::call(const Method& method, GVariant* parameters, BusConnection::Answered answered,
+                      Starts starts) {
+    if (isOpen()) return m_connection.call(method, parameters, starts == Starts::yes, std::move(answered));
+    if (parameters != nullptr) g_variant_unref(g_variant_ref_sink(parameters));
+}
+
 bool SessionBus::has(const char* name) const {
     const auto answer =
         ask({"org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameHasOwner"},

@@ -34,6 +34,12 @@ class SessionBus {
     /// where nobody has the name, and where he answers with an error: the message is his.
     Result<GVariantPointer> ask(const Method& method, GVariant* parameters, const char* type,
                                 Starts starts = Starts::no) const;
+    /// The same without waiting: `answered` is told in update(), or never where the bus dies.
+    void call(const Method& method, GVariant* parameters, BusConnection::Answered answered,
+              Starts starts = Starts::no);
+    /// Null unless it is open; with it, for what is told in update().
+    GDBusConnection* get() const { return m_connection.get(); }
+    const BusLoop& loop() const { return m_loop; }
     /// Whether somebody has that name.
     bool has(const char* name) const;
 

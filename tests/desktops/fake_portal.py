@@ -1,9 +1,12 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """fake_portal.py ADDRESS COMMANDS HOW...: the portal for keys on the message bus at ADDRESS. HOW is "agrees",
-"refuses", "waits" (for the command "answer") or "forgets" (the user's answer); "old" beside it is version 1. Prints
-"ready", then what it is told; obeys the lines that are written to the named pipe COMMANDS: "answer", "close" (takes
-the permission back), "end"."""
+"refuses", "fails", "waits" (for the command "answer") or "forgets" (the user's answer); "old" beside it is version 1,
+"shortcuts" the portal for hot keys too, which leaves "leave=NAME" out of its answer, agrees with a code of no meaning
+where it is "vague", and is deaf to whoever has not said who he is where it is "strict"; "only" leaves the portal for
+keys out. Prints "ready", then what it is told; obeys the lines that are written to the named
+pipe COMMANDS: "answer", "close" (takes the permission back), "press NAME" and "release NAME", "change NAME WORDS",
+"end"."""
 import sys
 import threading
 
@@ -30,12 +33,28 @@ XML = """<node>
   <property name="AvailableDeviceTypes" type="u" access="read"/>
 </interface>
 <interface name="org.freedesktop.portal.Session"><method name="Close"/></interface>
+<interface name="org.freedesktop.portal.GlobalShortcuts">
+  <method name="CreateSession"><arg type="a{sv}" direction="in"/><arg type="o" direction="out"/></method>
+  <method name="BindShortcuts">
+    <arg type="o" direction="in"/><arg type="a(sa{sv})" direction="in"/><arg type="s" direction="in"/>
+    <arg type="a{sv}" direction="in"/><arg type="o" direction="out"/>
+  </method>
+  <property name="version" type="u" access="read"/>
+</interface>
+<interface name="org.freedesktop.host.portal.Registry">
+  <method name="Register"><arg type="s" direction="in"/><arg type="a{sv}" direction="in"/></method>
+</interface>
+<interface name="org.freedesktop.portal.Request"><method name="Close"/></interface>
 </node>"""
-DESKTOP, SESSION = (Gio.DBusNodeInfo.new_for_xml(XML).interfaces[i] for i in (0, 1))
+DESKTOP, SESSION, SHORTCUTS, REGISTRY, REQUEST = Gio.DBusNodeInfo.new_for_xml(XML).interfaces
+KEYS = "org.freedesktop.portal.GlobalShortcuts"
 OBJECT = "/org/freedesktop/portal/desktop"
 how = sys.argv[3:]
+left_out = [word[len("leave="):] for word in how if word.startswith("leave=")]
 waiting = []
-session = None
+known = []
+objects = {}
+sessions = {}
 
 
 def respond(connection, path, code, results):
@@ -43,13 +62,21 @@ def respond(connection, path, code, results):
 
 
 def on_call(connection, sender, path, interface, method, parameters, invocation):
-    global session
+    if method == "Register":
+        print("register", parameters[0], flush=True)
+        known.append(sender)
+        invocation.return_value(None)
+        return
+    if "strict" in how and sender not in known and interface == KEYS:
+        invocation.return_dbus_error("org.freedesktop.portal.Error.NotAllowed", "Who is that?")
+        return
     if method == "NotifyKeyboardKeycode":
         print("key", parameters[2], parameters[3], flush=True)
         invocation.return_value(None)
         return
     if method == "Close":
-        print("closed", flush=True)
+        print("given up" if "/request/" in path else "closed", flush=True)
+        connection.unregister_object(objects.pop(path))
         invocation.return_value(None)
         return
     options = parameters[-1]
@@ -58,25 +85,51 @@ def on_call(connection, sender, path, interface, method, parameters, invocation)
     invocation.return_value(GLib.Variant("(o)", (request,)))
     if method == "CreateSession":
         session = f"{OBJECT}/session/{owner}/{options['session_handle_token']}"
-        connection.register_object(session, SESSION, on_call, None, None)
+        sessions[interface] = session
+        objects[session] = connection.register_object(session, SESSION, on_call, None, None)
         respond(connection, request, 0, {"session_handle": GLib.Variant("s", session)})
     elif method == "SelectDevices":
         print("devices", options["types"], options.get("persist_mode"), options.get("restore_token"), flush=True)
         respond(connection, request, 0, {})
-    elif "refuses" in how:
-        respond(connection, request, 1, {})
+    else:
+        shortcuts = list(parameters[1]) if method == "BindShortcuts" else None
+        for name, facts in shortcuts or []:
+            print("shortcut", name, facts.get("preferred_trigger"), facts["description"], flush=True)
+        decide(connection, request, shortcuts)
+
+
+def decide(connection, request, shortcuts):
+    if "refuses" in how or "fails" in how:
+        respond(connection, request, 1 if "refuses" in how else 2, {})
     elif "agrees" in how:
-        agree(connection, request)
+        agree(connection, request, shortcuts)
     else:
         print("asked", flush=True)
-        waiting.append((connection, request))
+        objects[request] = connection.register_object(request, REQUEST, on_call, None, None)
+        waiting.append((connection, request, shortcuts))
 
 
-def agree(connection, request):
+def agree(connection, request, shortcuts):
+    if shortcuts is not None:
+        given = [bound(name, as_gtk(facts)) for name, facts in shortcuts if name not in left_out]
+        results = {"shortcuts": GLib.Variant("a(sa{sv})", given)}
+        respond(connection, request, 77 if "vague" in how else 0, results)
+        return
     results = {"devices": GLib.Variant("u", 1)}
     if "old" not in how:
         results["restore_token"] = GLib.Variant("s", "known-again")
     respond(connection, request, 0, results)
+
+
+def as_gtk(facts):
+    """As GNOME has it: "Press <ctrl><super>r"."""
+    *modifiers, key = facts["preferred_trigger"].split("+")
+    names = {"CTRL": "ctrl", "SHIFT": "shift", "ALT": "alt", "LOGO": "super"}
+    return "Press " + "".join(f"<{names[name]}>" for name in modifiers) + key
+
+
+def bound(name, words):
+    return (name, {"description": GLib.Variant("s", name), "trigger_description": GLib.Variant("s", words)})
 
 
 def on_get(connection, sender, path, interface, name):
@@ -87,10 +140,20 @@ def obey(connection, command):
     if command == "end":
         loop.quit()
     elif command == "close":
-        connection.emit_signal(None, session, "org.freedesktop.portal.Session", "Closed", GLib.Variant("(a{sv})", ({},)))
+        nothing = GLib.Variant("(a{sv})", ({},))
+        for session in sessions.values():
+            connection.emit_signal(None, session, "org.freedesktop.portal.Session", "Closed", nothing)
     elif command == "answer":
         while waiting:
             agree(*waiting.pop())
+    elif command.startswith(("press ", "release ")):
+        verb, name = command.split()
+        signal = "Activated" if verb == "press" else "Deactivated"
+        connection.emit_signal(None, OBJECT, KEYS, signal, GLib.Variant("(osta{sv})", (sessions[KEYS], name, 0, {})))
+    elif command.startswith("change "):
+        name, words = command.removeprefix("change ").split(" ", 1)
+        list_of_one = GLib.Variant("(oa(sa{sv}))", (sessions[KEYS], [bound(name, words)]))
+        connection.emit_signal(None, OBJECT, KEYS, "ShortcutsChanged", list_of_one)
     return False
 
 
@@ -103,7 +166,8 @@ def read_commands(connection):
 
 flags = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
 bus = Gio.DBusConnection.new_for_address_sync(sys.argv[1], flags, None, None)
-bus.register_object(OBJECT, DESKTOP, on_call, on_get, None)
+for face in ([] if "only" in how else [DESKTOP]) + ([SHORTCUTS] if "shortcuts" in how else []) + [REGISTRY]:
+    bus.register_object(OBJECT, face, on_call, on_get, None)
 loop = GLib.MainLoop()
 Gio.bus_own_name_on_connection(
     bus, "org.freedesktop.portal.Desktop", Gio.BusNameOwnerFlags.NONE, lambda *_: print("ready", flush=True), None)
