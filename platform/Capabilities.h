@@ -28,6 +28,7 @@ enum class Means {
     swayBindings,     ///< bindings of sway's, by its IPC
     kdeShortcuts,     ///< KDE's global shortcuts, over the session bus
     portal,           ///< the portal by which a desktop lets programs press keys
+    shortcutsPortal,  ///< the portal by which a desktop gives programs hot keys
     swayTree,         ///< sway's tree of windows, by its IPC
     dataControl,      ///< the clipboard of a Wayland compositor, without a window
     ordinaryWindow,   ///< a window as all others
@@ -53,6 +54,7 @@ enum class Lack {
     virtualKeyboard,  ///< a compositor with virtual keyboards
     portal,           ///< the desktop's portal for pressing keys
     otherCharacters,  ///< characters that none of the user's layouts has
+    otherLayouts,     ///< characters that the layout in force has not
     dataControl,      ///< a compositor that lets the clipboard be read without a window
     foreignWindows,   ///< a compositor that tells of the windows of others
     layers,           ///< windows that lie above all others
@@ -63,12 +65,12 @@ inline constexpr std::array allMeans{
     Means::xSelection,     Means::xWindow,         Means::windowManager, Means::dockingTray,
     Means::statusNotifier, Means::virtualKeyboard, Means::swayBindings,  Means::swayTree,
     Means::kdeShortcuts,   Means::portal,          Means::dataControl,   Means::ordinaryWindow,
-    Means::layer,          Means::keyboardDevices, Means::accessService};
+    Means::layer,          Means::keyboardDevices, Means::accessService, Means::shortcutsPortal};
 inline constexpr std::array allLacks{
     Lack::nothing,        Lack::display,         Lack::xInput,        Lack::xkb,    Lack::xTest,
     Lack::record,         Lack::guard,           Lack::nativeWindows, Lack::tray,   Lack::foreignKeys,
     Lack::compositorKeys, Lack::virtualKeyboard, Lack::dataControl,   Lack::portal, Lack::otherCharacters,
-    Lack::foreignWindows, Lack::layers};
+    Lack::foreignWindows, Lack::layers,          Lack::otherLayouts};
 
 struct CapabilityState {
     Extent extent = Extent::nothing;

@@ -42,6 +42,8 @@ QString meansWords(Means means) {
             return tr("by KDE's shortcuts");
         case Means::portal:
             return tr("by the desktop's portal, once you allow it");
+        case Means::shortcutsPortal:
+            return tr("by the desktop's portal: you choose them when it asks, and later in its settings");
         case Means::swayTree:
             return tr("by sway");
         case Means::dataControl:
@@ -108,6 +110,9 @@ LackWords lackWords(Lack lack) {
         case Lack::otherCharacters:
             return {tr("Only characters that one of your keyboard layouts has."),
                     tr("Add a layout that has them in the desktop's settings.")};
+        case Lack::otherLayouts:
+            return {tr("Only characters that the keyboard layout in force has."),
+                    tr("Switch to a layout that has the others before you play.")};
         case Lack::dataControl:
             return {tr("This compositor shows the clipboard to windows in front alone."),
                     tr("Scripts that use the clipboard need another compositor, such as sway, or an X11 "

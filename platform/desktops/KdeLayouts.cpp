@@ -16,7 +16,7 @@ std::uint32_t KdeLayouts::group() const {
     return group;
 }
 
-Result<void> KdeLayouts::setGroup(std::uint32_t group) const {
+Result<void> KdeLayouts::setGroup(std::uint32_t group) {
     const auto answer = m_bus.ask(method("setLayout"), g_variant_new("(u)", group), "(b)");
     if (!answer) return answer.error();
     gboolean isDone = FALSE;

@@ -2,7 +2,10 @@
 #include "platform/wayland/Binders.h"
 
 #include "platform/desktops/KdeShortcuts.h"
+#include "platform/desktops/PortalShortcuts.h"
 #include "platform/desktops/SwayBindings.h"
+#include "platform/keymap/TriggerNames.h"
+#include "platform/wayland/DesktopServices.h"
 #include "platform/wayland/KdeKeys.h"
 #include "platform/wayland/SeatKeymap.h"
 
@@ -24,13 +27,31 @@ bool types(const Keymap& keymap, std::uint8_t keycode, const std::string& name) 
     return false;
 }
 
+std::optional<KeyGrab> meaningOf(const Keymap& keymap, const std::string& words) {
+    const auto combination = meaningOfTrigger(keymap, words);
+    if (!combination) return std::nullopt;
+    return KeyGrab{.keycode = combination->keycode,
+                   .modifiers = static_cast<std::uint16_t>(combination->modifiers)};
+}
+
 }  // namespace
 
-std::unique_ptr<HotKeyBinder> openBinder(SessionBus* bus, const SeatKeymap& seat) {
-    if (bus != nullptr) {
+std::unique_ptr<HotKeyBinder> openBinder(const DesktopServices& desktop, const SeatKeymap& seat) {
+    if (desktop.isKde()) {
         return std::make_unique<KdeShortcuts>(
-            *bus, [&seat](const KeyGrab& grab) { return kdeCombination(seat, grab); });
+            *desktop.bus(), [&seat](const KeyGrab& grab) { return kdeCombination(seat, grab); });
     }
+    if (desktop.hasShortcutsPortal()) {
+        return std::make_unique<PortalShortcuts>(
+            *desktop.bus(),
+            PortalShortcuts::Words{
+                .triggerOf =
+                    [&seat](const KeyGrab& grab) {
+                        return portalTrigger(seat.keymap(), grab.keycode, grab.modifiers);
+                    },
+                .meaningOf = [&seat](const std::string& words) { return meaningOf(seat.keymap(), words); }});
+    }
+    if (!desktop.isSway()) return nullptr;
     auto bindings = SwayBindings::open([&seat](std::uint8_t keycode, const std::string& symbol) {
         return types(seat.keymap(), keycode, symbol);
     });

@@ -4,14 +4,13 @@
 #include <memory>
 
 #include "platform/desktops/HotKeyBinder.h"
-#include "platform/desktops/SessionBus.h"
 
 namespace wayland {
 
+class DesktopServices;
 class SeatKeymap;
 
-/// Who takes combinations for us on this desktop; null where nobody does. `bus` is KDE's, null elsewhere;
-/// both outlive it.
-std::unique_ptr<HotKeyBinder> openBinder(SessionBus* bus, const SeatKeymap& seat);
+/// Who takes combinations for us on this desktop; null where nobody does. Both outlive it.
+std::unique_ptr<HotKeyBinder> openBinder(const DesktopServices& desktop, const SeatKeymap& seat);
 
 }  // namespace wayland

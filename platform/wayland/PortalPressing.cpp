@@ -21,6 +21,7 @@ class PortalTyper final : public RunKeyboard {
     struct Tools {
         PortalLink& link;
         PortalKeyboard& keyboard;
+        const Layouts& layouts;
         const SeatKeymap& seat;
         const Clock& clock;
     };
@@ -43,9 +44,8 @@ class PortalTyper final : public RunKeyboard {
     Step<Stroke> strokeFor(char32_t character) override;
 
   private:
-    std::optional<Stroke> find(char32_t character) const {
-        return m_tools.seat.characters().find(character, components().lockedLayout);
-    }
+    std::optional<Stroke> find(char32_t character) const;
+    Error cannotType(char32_t character) const;
     Step<> typePart(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held);
 
     Tools m_tools;
@@ -54,7 +54,19 @@ class PortalTyper final : public RunKeyboard {
     TypingPace m_pace;
 };
 
-Error cannotType(char32_t character) {
+std::optional<Stroke> PortalTyper::find(char32_t character) const {
+    const xkb_layout_index_t layout = components().lockedLayout;
+    const auto stroke = m_tools.seat.characters().find(character, layout);
+    const bool isHere = stroke && static_cast<xkb_layout_index_t>(stroke->group) == layout;
+    return isHere || m_tools.layouts.canSwitch() ? stroke : std::nullopt;
+}
+
+Error PortalTyper::cannotType(char32_t character) const {
+    if (!m_tools.layouts.canSwitch()) {
+        return {"The character " + nameOf(character) +
+                    " cannot be typed with the keyboard layout that is in force.",
+                "Take it out of the text, or switch to a layout that has it before you play."};
+    }
     return {"The character " + nameOf(character) + " cannot be typed with your keyboard layouts.",
             "Take it out of the text, or add a layout that has it."};
 }
@@ -145,8 +157,9 @@ Result<XkbComponents> PortalKeyboard::synchronise() {
 
 std::unique_ptr<RunKeyboard> PortalPressing::keyboard(StrokeSender& sender, RunWait& wait) {
     return std::make_unique<PortalTyper>(
-        PortalTyper::Tools{.link = m_link, .keyboard = m_keyboard, .seat = m_seat, .clock = m_clock}, sender,
-        wait);
+        PortalTyper::Tools{
+            .link = m_link, .keyboard = m_keyboard, .layouts = m_layouts, .seat = m_seat, .clock = m_clock},
+        sender, wait);
 }
 
 }  // namespace wayland

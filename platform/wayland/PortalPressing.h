@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/desktops/KdeLayouts.h"
+#include "platform/desktops/Layouts.h"
 #include "platform/desktops/PortalLink.h"
 #include "platform/wayland/Pressing.h"
 #include "platform/wayland/SeatKeymap.h"
@@ -10,12 +10,12 @@ namespace wayland {
 
 /// A keyboard by the desktop's portal: to the compositor its keys are those of the user's own keyboard. So is
 /// what they hold and lock, and the layout: another one of the user's is put in force for a character, and
-/// the one before again.
+/// the one before again, where the desktop lets programs do that.
 ///
 /// Nobody tells what the user has locked: nothing, as far as this knows.
 class PortalKeyboard final : public KeyOutput {
   public:
-    PortalKeyboard(PortalLink& link, KdeLayouts& layouts, const SeatKeymap& seat)
+    PortalKeyboard(PortalLink& link, Layouts& layouts, const SeatKeymap& seat)
         : m_link(link), m_layouts(layouts), m_seat(seat) {}
 
     /// With nothing down and the group that is in force.
@@ -37,7 +37,7 @@ class PortalKeyboard final : public KeyOutput {
     void send(std::uint8_t keycode, bool press);
 
     PortalLink& m_link;
-    KdeLayouts& m_layouts;
+    Layouts& m_layouts;
     const SeatKeymap& m_seat;
     XkbStatePointer m_state;
     KeycodeSet m_down;
@@ -47,8 +47,9 @@ class PortalKeyboard final : public KeyOutput {
 class PortalPressing final : public Pressing {
   public:
     /// All outlive this.
-    PortalPressing(KdeLayouts& layouts, SeatKeymap& seat, Clock& clock, PortalLink::Options options)
-        : m_seat(seat),
+    PortalPressing(Layouts& layouts, SeatKeymap& seat, Clock& clock, PortalLink::Options options)
+        : m_layouts(layouts),
+          m_seat(seat),
           m_clock(clock),
           m_link(std::move(options), clock),
           m_keyboard(m_link, layouts, seat) {}
@@ -60,6 +61,7 @@ class PortalPressing final : public Pressing {
     std::unique_ptr<RunKeyboard> keyboard(StrokeSender& sender, RunWait& wait) override;
 
   private:
+    const Layouts& m_layouts;
     SeatKeymap& m_seat;
     const Clock& m_clock;
     PortalLink m_link;

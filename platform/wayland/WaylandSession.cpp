@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/wayland/WaylandSession.h"
 
-#include <virtual-keyboard-unstable-v1-client-protocol.h>
-#include <wlr-data-control-unstable-v1-client-protocol.h>
-#include <wlr-layer-shell-unstable-v1-client-protocol.h>
-
 #include <chrono>
 #include <cstdlib>
 #include <optional>
 #include <utility>
 
-#include "platform/desktops/KdeLayouts.h"
-#include "platform/desktops/KdeShortcuts.h"
 #include "platform/desktops/PortalLink.h"
 #include "platform/desktops/SwayDesktop.h"
 #include "platform/desktops/SwayLock.h"
@@ -23,12 +17,12 @@
 #include "platform/evdev/devices/KernelCalls.h"
 #include "platform/linux/BusAddresses.h"
 #include "platform/monitor/LockAwareMonitor.h"
-#include "platform/none/NoCapabilities.h"
 #include "platform/none/NoDockingTray.h"
 #include "platform/none/NoEventMonitor.h"
 #include "platform/none/NoHotKeys.h"
 #include "platform/none/NoLayers.h"
 #include "platform/wayland/Binders.h"
+#include "platform/wayland/DesktopServices.h"
 #include "platform/wayland/DesktopSignals.h"
 #include "platform/wayland/PortalPressing.h"
 #include "platform/wayland/VirtualPressing.h"
@@ -36,6 +30,7 @@
 #include "platform/wayland/WaylandKeyboardLayout.h"
 #include "platform/wayland/WaylandLayers.h"
 #include "platform/wayland/WaylandScriptDesktop.h"
+#include "platform/wayland/WaylandSessionCheck.h"
 #include "platform/wayland/WaylandWindows.h"
 
 namespace wayland {
@@ -57,26 +52,18 @@ Error noHotKeys() {
             "Bind keys to commands in the compositor's own settings."};
 }
 
-bool hasVirtualKeyboards(const WaylandConnection& connection) {
-    return connection.offers(zwp_virtual_keyboard_manager_v1_interface);
-}
-
-/// KDE's bus, where the compositor is KWin; null elsewhere.
-std::unique_ptr<SessionBus> openKde(const WaylandConnection& connection) {
-    if (hasVirtualKeyboards(connection)) return nullptr;
-    auto bus = std::make_unique<SessionBus>();
-    return KdeShortcuts::isThere(*bus) ? std::move(bus) : nullptr;
-}
-
 Result<void> checkKeys(const WaylandConnection& connection) {
     if (hasVirtualKeyboards(connection)) return {};
-    if (const auto kde = openKde(connection)) {
-        if (PortalLink::isThere(*kde)) return {};
+    const DesktopServices desktop(connection);
+    if (desktop.pressesByPortal()) return {};
+    if (desktop.isKde()) {
         return Error{"KDE lets no program press keys: its portal does not answer.",
                      "Install xdg-desktop-portal-kde, or use an X11 session."};
     }
-    return Error{"This compositor lets no program press keys.",
-                 "Use a compositor with virtual keyboards, such as sway, or an X11 session."};
+    return Error{
+        "This compositor lets no program press keys.",
+        "Use a compositor with virtual keyboards, such as sway, a desktop whose portal presses keys, "
+        "such as KDE and GNOME, or an X11 session."};
 }
 
 std::unique_ptr<SwayDesktop> openSway() {
@@ -107,83 +94,6 @@ class NoGrabs final : public KeyGrabber {
     }
     void release(const KeyGrab& /*grab*/) override {}
 };
-
-/// By which way a recording would see keys.
-CapabilityState recordingState() {
-    if (evdev::DirectOpener().mayOpen()) return {Extent::fully, Means::keyboardDevices, Lack::nothing};
-    if (evdev::AccessOpener::isInstalled(busAddresses(environmentOfProcess()).system)) {
-        return {Extent::fully, Means::accessService, Lack::nothing};
-    }
-    return {.lack = Lack::foreignKeys};
-}
-
-bool isSway() { return static_cast<bool>(SwayConnection::open()); }
-
-CapabilityState fullyIf(bool isThere, Means means, Lack lack) {
-    return isThere ? CapabilityState{Extent::fully, means, Lack::nothing}
-                   : CapabilityState{Extent::nothing, Means::none, lack};
-}
-
-/// What was looked at when the session was entered is so.
-class WaylandSessionCheck final : public SessionCheck {
-  public:
-    Result<> version() const override { return {}; }
-    Result<> access() const override { return {}; }
-    SessionCapabilities capabilities() const override;
-    SessionDetails details() const override;
-};
-
-CapabilityState overlayState(const WaylandConnection& connection) {
-    if (connection.offers(zwlr_layer_shell_v1_interface)) return {Extent::fully, Means::layer, Lack::nothing};
-    return {Extent::partly, Means::ordinaryWindow, Lack::layers};
-}
-
-SessionCapabilities capabilitiesOfKde(const WaylandConnection& connection, const SessionBus& bus) {
-    const bool presses = PortalLink::isThere(bus);
-    const bool hasClipboard = connection.offers(zwlr_data_control_manager_v1_interface);
-    return {.recording = recordingState(),
-            .hotKeys = {Extent::fully, Means::kdeShortcuts, Lack::nothing},
-            .pressing = fullyIf(presses, Means::portal, Lack::portal),
-            .text = presses ? CapabilityState{Extent::partly, Means::portal, Lack::otherCharacters}
-                            : CapabilityState{.lack = Lack::portal},
-            .clipboard = fullyIf(hasClipboard, Means::dataControl, Lack::dataControl),
-            .overlay = overlayState(connection),
-            .windows = {.lack = Lack::foreignWindows},
-            .tray = {.lack = Lack::tray}};
-}
-
-SessionCapabilities WaylandSessionCheck::capabilities() const {
-    const auto connection = WaylandConnection::open();
-    if (!connection) return noCapabilities(Lack::display);
-    const auto kde = openKde(*connection.value());
-    if (kde) return capabilitiesOfKde(*connection.value(), *kde);
-    const bool presses = hasVirtualKeyboards(*connection.value());
-    const bool hasClipboard = connection.value()->offers(zwlr_data_control_manager_v1_interface);
-    const CapabilityState pressing = fullyIf(presses, Means::virtualKeyboard, Lack::virtualKeyboard);
-    return {.recording = recordingState(),
-            .hotKeys = fullyIf(isSway(), Means::swayBindings, Lack::compositorKeys),
-            .pressing = pressing,
-            .text = pressing,
-            .clipboard = fullyIf(hasClipboard, Means::dataControl, Lack::dataControl),
-            .overlay = overlayState(*connection.value()),
-            .windows = fullyIf(isSway(), Means::swayTree, Lack::foreignWindows),
-            .tray = {.lack = Lack::tray}};
-}
-
-SessionDetails WaylandSessionCheck::details() const {
-    SessionDetails details{.display = environment("WAYLAND_DISPLAY")};
-    const auto connection = WaylandConnection::open();
-    if (!connection) return details;
-    details.parts = {{"virtual keyboard", hasVirtualKeyboards(*connection.value())},
-                     {"data control", connection.value()->offers(zwlr_data_control_manager_v1_interface)},
-                     {"layer shell", connection.value()->offers(zwlr_layer_shell_v1_interface)},
-                     {"sway", isSway()}};
-    if (const auto kde = openKde(*connection.value())) {
-        details.parts.push_back({"KDE", true});
-        details.parts.push_back({"portal", PortalLink::isThere(*kde)});
-    }
-    return details;
-}
 
 class WaylandSession final : public Session {
   public:
@@ -224,7 +134,7 @@ class WaylandSession final : public Session {
     /// A program that plays a script asks nobody for the keyboard, and has no hot keys.
     bool isForScripts() const { return m_use == SessionUse::scripts; }
     std::unique_ptr<HotKeyBinder> openBindings() {
-        return isForScripts() ? nullptr : openBinder(m_kde.get(), m_seat);
+        return isForScripts() ? nullptr : openBinder(m_desktop, m_seat);
     }
     std::unique_ptr<DesktopSignals> openSignals() {
         if (!m_bindings) return nullptr;
@@ -234,12 +144,15 @@ class WaylandSession final : public Session {
     }
     bool hasLockerKeyboard() { return m_lock && m_lock->isLocked(); }
     std::unique_ptr<Pressing> makePressing() {
-        if (!m_kde) return std::make_unique<VirtualPressing>(*m_connection, m_seat, m_clock);
+        if (m_desktop.layouts() == nullptr) {
+            return std::make_unique<VirtualPressing>(*m_connection, m_seat, m_clock);
+        }
         return std::make_unique<PortalPressing>(
-            *m_layouts, m_seat, m_clock, PortalLink::Options{.tokenFile = PortalLink::tokenFileOfProcess()});
+            *m_desktop.layouts(), m_seat, m_clock,
+            PortalLink::Options{.tokenFile = PortalLink::tokenFileOfProcess()});
     }
     xkb_layout_index_t group() {
-        if (m_layouts) return m_layouts->group();
+        if (m_desktop.layouts() != nullptr) return m_desktop.layouts()->group();
         return m_sway ? m_sway->group() : 0;
     }
     evdev::EvdevEventMonitor::Session keys() {
@@ -260,8 +173,7 @@ class WaylandSession final : public Session {
     SessionUse m_use;
     std::unique_ptr<SwayDesktop> m_sway = openSway();
     std::unique_ptr<SwayLock> m_lock = openSwayLock(m_clock);
-    std::unique_ptr<SessionBus> m_kde = openKde(*m_connection);
-    std::unique_ptr<KdeLayouts> m_layouts = m_kde ? std::make_unique<KdeLayouts>(*m_kde) : nullptr;
+    DesktopServices m_desktop{*m_connection};
     SeatKeymap m_seat{*m_connection, environment("XDG_RUNTIME_DIR"), [this] { return group(); }};
     std::unique_ptr<HotKeyBinder> m_bindings = openBindings();
     NoGrabs m_noGrabs;

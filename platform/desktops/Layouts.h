@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+#include "platform/Result.h"
+
+/// The keyboard layouts of a desktop's user, the groups of the seat's keymap in their order.
+class Layouts {
+  public:
+    virtual ~Layouts() = default;
+
+    /// The one in force, from 0; asked for now.
+    virtual std::uint32_t group() const = 0;
+    /// Whether programs may put another one in force.
+    virtual bool canSwitch() const = 0;
+    /// Puts that one in force, and waits for it. Fails where there is none of that number, and where that is
+    /// the user's alone.
+    virtual Result<void> setGroup(std::uint32_t group) = 0;
+};
+
+/// Where the desktop tells nothing of them: the first.
+class UnknownLayouts final : public Layouts {
+  public:
+    std::uint32_t group() const override { return 0; }
+    bool canSwitch() const override { return false; }
+    Result<void> setGroup(std::uint32_t /*group*/) override {
+        return Error{"This desktop lets no program switch the keyboard layout.", ""};
+    }
+};
