@@ -19,40 +19,26 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view beginning = ".keyrill-unfinished-";
-constexpr std::string_view placeholder = "XXXXXX";
 
 Error systemsError() { return {std::strerror(errno), ""}; }
 
-bool isAsciiLetterOrDigit(char letter) {
-    return (letter >= '0' && letter <= '9') || (letter >= 'A' && letter <= 'Z') ||
-           (letter >= 'a' && letter <= 'z');
-}
-
-bool isName(const std::string& name) {
-    return name.size() == beginning.size() + placeholder.size() && name.starts_with(beginning) &&
-           std::all_of(name.end() - static_cast<std::ptrdiff_t>(placeholder.size()), name.end(),
-                       isAsciiLetterOrDigit);
+/// The name of a file that says which file it is. Nobody else's file has the name of its own number, whether
+/// it is called alike or is a copy of one of these.
+std::string nameOf(const struct stat& status) {
+    return std::string(beginning) + std::to_string(status.st_ino);
 }
 
 /// A writer holds the lock of its file for as long as it lives.
-bool isLeftOver(const Descriptor& file) {
+bool isLeftOver(const Descriptor& file, const std::string& name) {
     struct stat status {};
     return file && fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode) &&
-           status.st_uid == geteuid() && flock(file.number(), LOCK_EX | LOCK_NB) == 0;
+           status.st_uid == geteuid() && name == nameOf(status) &&
+           flock(file.number(), LOCK_EX | LOCK_NB) == 0;
 }
 
-/// Locked until it is gone, so that whoever has just begun to write it sees that it is lost.
 void removeIfLeftOver(const fs::path& path) {
     const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (isLeftOver(file)) unlink(path.c_str());
-}
-
-/// Whether no sweep has come between the making of a file and its lock. Where files cannot be locked none is
-/// swept either.
-bool isKept(const Descriptor& file) {
-    struct stat status {};
-    if (flock(file.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) return false;
-    return fstat(file.number(), &status) != 0 || status.st_nlink != 0;
+    if (isLeftOver(file, path.filename())) unlink(path.c_str());
 }
 
 std::string folderOf(const std::string& file) {
@@ -84,14 +70,24 @@ Result<> FileReplacement::finish(std::string_view content, mode_t mode) {
 }
 
 Result<> FileReplacement::open() {
-    // Each time one is lost another program has swept the folder.
-    do {
-        std::string name = folderOf(m_file) + "/" + std::string(beginning) + std::string(placeholder);
-        m_descriptor.reset(mkostemp(name.data(), O_CLOEXEC));
-        if (!m_descriptor) return systemsError();
-        m_unfinished = std::move(name);
-    } while (!isKept(m_descriptor));
+    std::string name = folderOf(m_file) + "/" + std::string(beginning) + "XXXXXX";
+    m_descriptor.reset(mkostemp(name.data(), O_CLOEXEC));
+    if (!m_descriptor) return systemsError();
+    m_unfinished = std::move(name);
+    // Before a sweep can know it. Where files cannot be locked none is swept either.
+    flock(m_descriptor.number(), LOCK_EX | LOCK_NB);
+    nameAfterItsNumber();
     return {};
+}
+
+/// Where another file has that name, or the file system cannot keep one from being replaced, the file stays
+/// under the name that it has.
+void FileReplacement::nameAfterItsNumber() {
+    struct stat status {};
+    if (fstat(m_descriptor.number(), &status) != 0) return;
+    const std::string name = folderOf(m_file) + "/" + nameOf(status);
+    if (renameat2(AT_FDCWD, m_unfinished.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE) == 0)
+        m_unfinished = name;
 }
 
 Result<> FileReplacement::write(std::string_view content, mode_t mode) {
@@ -109,7 +105,7 @@ void FileReplacement::sweep(const std::string& folder) {
     std::error_code error;
     fs::directory_iterator entry(folder.empty() ? "." : folder, error);
     while (!error && entry != fs::directory_iterator()) {
-        if (isName(entry->path().filename())) removeIfLeftOver(entry->path());
+        if (entry->path().filename().string().starts_with(beginning)) removeIfLeftOver(entry->path());
         entry.increment(error);
     }
 }

@@ -10,8 +10,12 @@
 #include "platform/Result.h"
 
 /// A new file that takes the place of another one once it is whole and on the disk. Until then it lies beside
-/// it under a name that no user gives a file: ".keyrill-unfinished-" and six letters or digits. The object's
-/// end removes what has not taken its place; what the end of the process leaves is swept later.
+/// it under the name ".keyrill-unfinished-" and the file's own number on its file system (st_ino). The
+/// object's end removes what has not taken its place; what the end of the process leaves is swept later.
+///
+/// Why the number: a file that a user has named so, or has copied, has another one, and is never swept. In
+/// the instant before it is known the file is empty and has six letters in its place; a process that is
+/// killed just then leaves it.
 class FileReplacement {
   public:
     /// `file` is no link.
@@ -29,6 +33,7 @@ class FileReplacement {
 
   private:
     Result<> open();
+    void nameAfterItsNumber();
     Result<> write(std::string_view content, mode_t mode);
 
     std::string m_file;

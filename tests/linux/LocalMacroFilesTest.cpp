@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "linux/LeftOver.h"
 #include "support/Child.h"
 
 namespace fs = std::filesystem;
@@ -38,10 +39,10 @@ TEST_F(LocalMacroFilesTest, makesTheFolderWhereItsParentIs) {
 
 TEST_F(LocalMacroFilesTest, sweepsTheFolderOfWhatAKilledWriterLeft) {
     const std::string folder = files.prepareFolder();
-    std::ofstream(folder + "/.keyrill-unfinished-aB3dE6") << "half of it";
+    const std::string leftOver = makeLeftOver(folder);
     std::ofstream(folder + "/a.keyrill.BACKUP") << "a user's";
     EXPECT_EQ(files.prepareFolder(), folder);
-    EXPECT_FALSE(fs::exists(folder + "/.keyrill-unfinished-aB3dE6"));
+    EXPECT_FALSE(fs::exists(leftOver));
     EXPECT_TRUE(fs::exists(folder + "/a.keyrill.BACKUP"));
 }
 

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "linux/LeftOver.h"
 #include "platform/Descriptor.h"
 #include "platform/linux/KeyFileSettings.h"
 #include "support/Child.h"
@@ -201,9 +202,7 @@ TEST_F(StoredSettingsTest, areSweptOfWhatAKilledRunLeft) {
     for (const std::string& name : kept) {
         std::ofstream(folder.file("config/keyrill/" + name), std::ios::app) << "";
     }
-    for (const std::string name : {".keyrill-unfinished-A1b2C3", ".keyrill-unfinished-zzzzzz"}) {
-        std::ofstream(folder.file("config/keyrill/" + name)) << "[Settings]\na=";
-    }
+    makeLeftOver(folder.file("config/keyrill"));
     EXPECT_EQ(settings().integer("a"), 1);
     auto expected = kept;
     std::sort(expected.begin(), expected.end());

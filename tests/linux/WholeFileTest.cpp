@@ -18,6 +18,7 @@
 #include <optional>
 #include <thread>
 
+#include "linux/LeftOver.h"
 #include "platform/Descriptor.h"
 #include "platform/linux/FileReplacement.h"
 #include "support/Child.h"
@@ -31,6 +32,10 @@ class WholeFileTest : public testing::Test {
     static mode_t modeOf(const std::string& path) {
         struct stat status {};
         return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
+    }
+    static ino_t numberOf(const std::string& path) {
+        struct stat status {};
+        return stat(path.c_str(), &status) == 0 ? status.st_ino : 0;
     }
     std::string writeError(const std::string& path) const {
         return WholeFile(path).write("new").error().message;
@@ -100,31 +105,40 @@ TEST_F(WholeFileTest, leavesNothingBesideItself) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1);
 }
 
-/// Of a writer that was killed half-way; what users call similarly is theirs.
+/// Of writers that were killed half-way.
 TEST_F(WholeFileTest, isWrittenWithWhatKilledWritersLeftBesideItRemoved) {
+    const std::vector<std::string> leftOvers{makeLeftOver(folder.path()), makeLeftOver(folder.path())};
+    EXPECT_TRUE(WholeFile(file).write("new"));
+    for (const std::string& name : leftOvers) EXPECT_FALSE(fs::exists(name)) << name;
+}
+
+/// However alike it is called: six letters and a file's number, too.
+TEST_F(WholeFileTest, isWrittenWithoutTouchingAnyFileOfTheUsers) {
     const std::string unfinished = ".keyrill-unfinished-";
-    std::ofstream(folder.file(unfinished + "aB3dE6")) << "half of it";
-    fs::create_directory(folder.file(unfinished + "folder"));
-    fs::create_symlink("file", folder.file(unfinished + "alinkx"));
+    std::ofstream(file) << "old";
     const std::vector<std::string> others = {"file.BACKUP",
                                              "file.A1B2C3",
                                              unfinished,
-                                             unfinished + "aB3dE67",
-                                             unfinished + "aB3dE.",
+                                             unfinished + "BACKUP",
+                                             unfinished + "aB3dE6",
+                                             unfinished + "123456",
+                                             unfinished + std::to_string(numberOf(file)),
                                              ".keyrill-unfinished",
                                              "keyrill-unfinished-aB3dE6"};
     for (const std::string& name : others) std::ofstream(folder.file(name)) << "a user's";
+    fs::create_directory(folder.file(unfinished + "folder"));
+    fs::create_symlink("file", folder.file(unfinished + "alinkx"));
     EXPECT_TRUE(WholeFile(file).write("new"));
-    EXPECT_FALSE(fs::exists(folder.file(unfinished + "aB3dE6")));
+    EXPECT_TRUE(WholeFile(file).write("newer"));
+    for (const std::string& name : others) EXPECT_EQ(contentOf(folder.file(name)), "a user's") << name;
     EXPECT_TRUE(fs::is_directory(folder.file(unfinished + "folder")));
     EXPECT_TRUE(fs::is_symlink(folder.file(unfinished + "alinkx")));
-    for (const std::string& name : others) EXPECT_EQ(contentOf(folder.file(name)), "a user's") << name;
 }
 
 TEST_F(WholeFileTest, leavesWhatAnotherProcessWritesJustNow) {
-    const std::string unfinished = folder.file(".keyrill-unfinished-aB3dE6");
+    const std::string unfinished = makeLeftOver(folder.path());
     {
-        const Descriptor writer(open(unfinished.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
+        const Descriptor writer(open(unfinished.c_str(), O_WRONLY | O_CLOEXEC));
         ASSERT_EQ(flock(writer.number(), LOCK_EX | LOCK_NB), 0);
         EXPECT_TRUE(WholeFile(file).write("new"));
         EXPECT_TRUE(fs::exists(unfinished));
@@ -253,6 +267,23 @@ class FolderInMemory {
   private:
     std::optional<TemporaryFolder> m_folder;
 };
+
+/// File systems in memory count up, so that the next number is the name of a user's file.
+TEST_F(WholeFileTest, isWrittenWhereAUsersFileHasTheNameOfItsNumber) {
+    const FolderInMemory memory;
+    const std::string name = memory.folder().file("file");
+    std::ofstream(name) << "old";
+    constexpr ino_t many = 3000;
+    const ino_t first = numberOf(name) + many;
+    std::vector<std::string> others;
+    for (ino_t number = first; number < first + many; ++number) {
+        const std::string other = memory.folder().file(".keyrill-unfinished-" + std::to_string(number));
+        std::ofstream(other) << "a user's";
+        if (numberOf(other) != number) others.push_back(other);
+    }
+    EXPECT_TRUE(WholeFile(name).write("new"));
+    for (const std::string& other : others) ASSERT_EQ(contentOf(other), "a user's") << other;
+}
 
 TEST_F(WholeFileTest, isWrittenWhileOthersSweepItsFolder) {
     const FolderInMemory memory;
