@@ -48,14 +48,14 @@ std::optional<std::string> HotKeyGrabs::grab(const KeyGrab& grab, const HotKeyRe
 
 void HotKeyGrabs::release(const KeyGrab& grab) {
     for (const std::uint16_t modifiers : grab.variants()) {
-        const Place place{grab.keycode, modifiers};
+        const KeyPlace place{grab.keycode, modifiers};
         m_combinations.erase(place);
         ungrab(place);
     }
     m_connection.roundTrip();
 }
 
-void HotKeyGrabs::ungrab(const Place& place) const {
+void HotKeyGrabs::ungrab(const KeyPlace& place) const {
     xcb_ungrab_key(m_connection, place.keycode, m_connection.root(), place.modifiers);
 }
 
@@ -68,13 +68,14 @@ void HotKeyGrabs::yieldKeyboard(const GrabbedPress& press) {
     const std::vector<std::uint16_t> fewer =
         KeyGrab{.keycode = press.keycode, .modifiers = 0, .locks = press.modifiers}.variants();
     for (const std::uint16_t modifiers : fewer) {
-        const Place place{press.keycode, modifiers};
+        const KeyPlace place{press.keycode, modifiers};
         if (!m_combinations.contains(place) && m_shields.insert(place).second) shield(place);
     }
     endActiveGrab();
 }
 
-void HotKeyGrabs::shield(const Place& place) const {
+void HotKeyGrabs::shield(const KeyPlace& place) {
+    m_limit.add(place);
     // Where another program holds it, the repeats are that program's.
     xcb_grab_key(m_connection, 0, m_connection.root(), place.modifiers, place.keycode, XCB_GRAB_MODE_ASYNC,
                  XCB_GRAB_MODE_SYNC);
@@ -91,20 +92,21 @@ void HotKeyGrabs::takeUp() {
 }
 
 void HotKeyGrabs::takeUp(std::uint8_t keycode) {
-    std::erase_if(m_lifted, [&](const Place& place) { return place.keycode == keycode; });
+    std::erase_if(m_lifted, [&](const KeyPlace& place) { return place.keycode == keycode; });
     if (unshield(keycode)) m_connection.roundTrip();
 }
 
 bool HotKeyGrabs::unshield(std::uint8_t keycode) {
-    return std::erase_if(m_shields, [&](const Place& place) {
+    return std::erase_if(m_shields, [&](const KeyPlace& place) {
                if (place.keycode != keycode) return false;
+               m_limit.remove(place);
                if (!m_combinations.contains(place)) ungrab(place);
                return true;
            }) != 0;
 }
 
 bool HotKeyGrabs::liftShields(std::uint8_t keycode) {
-    for (const Place& place : m_shields) {
+    for (const KeyPlace& place : m_shields) {
         if (place.keycode == keycode) m_lifted.insert(place);
     }
     const bool isAny = unshield(keycode);
@@ -113,7 +115,7 @@ bool HotKeyGrabs::liftShields(std::uint8_t keycode) {
 }
 
 void HotKeyGrabs::restoreShields(std::uint8_t keycode) {
-    const auto isRestored = [&](const Place& place) {
+    const auto isRestored = [&](const KeyPlace& place) {
         if (place.keycode != keycode) return false;
         if (!m_combinations.contains(place) && m_shields.insert(place).second) shield(place);
         return true;
@@ -122,6 +124,7 @@ void HotKeyGrabs::restoreShields(std::uint8_t keycode) {
 }
 
 bool HotKeyGrabs::read() {
+    m_limit.note();
     const std::size_t before = m_presses.size();
     while (const Event event = m_connection.nextEvent()) {
         const auto* key = event.as(keyPress);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -12,6 +11,7 @@
 #include "platform/monitor/KeyGrabber.h"
 #include "platform/monitor/MonitorEvents.h"
 #include "platform/x11/server/XConnection.h"
+#include "platform/x11/watch/StopLimit.h"
 
 namespace x11 {
 
@@ -44,7 +44,7 @@ class HotKeyGrabs final : public KeyGrabber {
     ///
     /// Each further press of the key stops the keyboard until it is known what it is: a repeat, which
     /// endActiveGrab() drops, or a new one, because the key has been up meanwhile, which passOn() lets
-    /// through.
+    /// through. If neither is said within a second the keyboard goes on, and the press is lost.
     void yieldKeyboard(const GrabbedPress& press);
     /// The press that has come because of yieldKeyboard() reaches the application after all, and before what
     /// is pressed after it.
@@ -64,22 +64,16 @@ class HotKeyGrabs final : public KeyGrabber {
   private:
     explicit HotKeyGrabs(XConnection connection) : m_connection(std::move(connection)) {}
 
-    struct Place {
-        std::uint8_t keycode = 0;
-        std::uint16_t modifiers = 0;
-
-        friend auto operator<=>(const Place&, const Place&) = default;
-    };
-
-    void shield(const Place& place) const;
-    void ungrab(const Place& place) const;
+    void shield(const KeyPlace& place);
+    void ungrab(const KeyPlace& place) const;
     bool unshield(std::uint8_t keycode);
 
     XConnection m_connection;
-    std::set<Place> m_combinations;
+    StopLimit m_limit{m_connection};
+    std::set<KeyPlace> m_combinations;
     /// What is grabbed for the sake of repeats alone, and what of it is lifted.
-    std::set<Place> m_shields;
-    std::set<Place> m_lifted;
+    std::set<KeyPlace> m_shields;
+    std::set<KeyPlace> m_lifted;
     WipedQueue<GrabbedPress> m_presses;
     std::uint64_t m_lastNumber = 0;
 };

@@ -107,6 +107,26 @@ TEST_F(X11HotKeysTest, itsLetterReachesTheApplicationAlsoWhereTheReleaseHasNotBe
     }
 }
 
+/// The press that it is asked about waits for it, and all others behind it, but not for long.
+TEST_F(X11HotKeysTest, aProgramThatHangsKeepsNobodyFromTyping) {
+    CoreClient application(world().display());
+    request(1, "record", 15);
+    slowly({{xkey::control, true}, {xkey::super, true}, {xkey::r, true}});
+    EXPECT_EQ(delivered("pressed"), Log{"pressed 1"});
+    for (const std::uint8_t key : {xkey::super, xkey::control, xkey::r}) hands().release(key);
+    // Nobody turns the loop from here on.
+    for (const std::uint8_t key : {xkey::r, xkey::a, xkey::r, xkey::b}) hands().tap(key);
+    hands().finish();
+    EXPECT_TRUE(eventually([&] { return application.presses(xkey::b) == 1; }));
+    EXPECT_EQ(application.presses(xkey::a), 1);
+    EXPECT_EQ(application.presses(xkey::r), 1);
+    // It comes to itself.
+    delivered();
+    hands().stroke({xkey::control, xkey::super, xkey::r});
+    EXPECT_EQ(delivered("pressed"), Log{"pressed 1"});
+    EXPECT_EQ(application.presses(xkey::r), 1);
+}
+
 TEST_F(X11HotKeysTest, theRepeatsOfAHotKeyAreNoLettersOnceItsModifiersAreUp) {
     CoreClient application(world().display());
     request(1, "record", 15);
