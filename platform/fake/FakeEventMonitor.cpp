@@ -10,8 +10,20 @@ Result<void> FakeEventMonitor::install(Handler handler) {
     return {};
 }
 
+void FakeEventMonitor::setRecording(bool recording) {
+    m_recording = recording;
+    // The end of a recording is no end of a hold that anybody is told of.
+    if (!m_recording) m_held = false;
+    followHold();
+}
+
 void FakeEventMonitor::programHoldsKeyboard(bool holds) {
-    const bool held = holds && m_recording;
+    m_programHolds = holds;
+    followHold();
+}
+
+void FakeEventMonitor::followHold() {
+    const bool held = m_programHolds && m_recording;
     if (std::exchange(m_held, held) != held && m_holdChanged) m_holdChanged(held);
 }
 

@@ -20,7 +20,7 @@ class FakeEventMonitor : public EventMonitor {
     Result<void> install(Handler handler) override;
     void setWithheld(bool withheld) override { m_desktop.setWithheld(withheld); }
     void setKeepsOwnStrokes(bool keeps) override { m_keepsOwnStrokes = keeps; }
-    void setRecording(bool recording) override { m_recording = recording; }
+    void setRecording(bool recording) override;
     void observeHold(std::function<void(bool)> changed) override { m_holdChanged = std::move(changed); }
 
     void observeAccess(AccessObserver changed) override { m_accessChanged = std::move(changed); }
@@ -54,6 +54,7 @@ class FakeEventMonitor : public EventMonitor {
     bool keepsOwnStrokes() const { return m_keepsOwnStrokes; }
 
   private:
+    void followHold();
     void deliver(const KeyEvent& event) const;
     void deliverModifiers(std::uint32_t mask) const;
 
@@ -64,6 +65,8 @@ class FakeEventMonitor : public EventMonitor {
     AccessObserver m_accessChanged;
     bool m_keepsOwnStrokes = false;
     bool m_recording = false;
+    bool m_programHolds = false;
+    /// As it was told.
     bool m_held = false;
     std::uint32_t m_heldModifiers = 0;
     std::optional<Error> m_nextError;

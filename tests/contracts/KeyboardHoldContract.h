@@ -59,6 +59,7 @@ TEST_P(KeyboardHoldContract, whatIsTypedIntoALockerIsNotDelivered) {
 TEST_P(KeyboardHoldContract, aMenuLosesNoKey) {
     holders().menuTakesKeyboard();
     tap(key::a);
+    holders().menuStaysOpen();
     tap(key::s);
     world().settle();
     holders().keyboardIsGivenBack();
@@ -75,4 +76,9 @@ TEST_P(KeyboardHoldContract, theNextRecordingIsOpen) {
     world().monitor().setRecording(true);
     tap(key::a);
     EXPECT_EQ(downs(1), Log{"down 0 a"});
+    // It is told of its own holds.
+    holders().lockerTakesKeyboard();
+    awaitTold({true, true});
+    holders().keyboardIsGivenBack();
+    awaitTold({true, true, false});
 }

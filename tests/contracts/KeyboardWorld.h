@@ -40,6 +40,8 @@ class HeldKeyboardWorld : public KeyboardWorld {
     virtual void lockerTakesKeyboard() = 0;
     /// A menu opens and takes both.
     virtual void menuTakesKeyboard() = 0;
+    /// It stays open for longer than a locker could be taken for a menu.
+    virtual void menuStaysOpen() = 0;
     /// The keyboard is everybody's again.
     virtual void keyboardIsGivenBack() = 0;
 };

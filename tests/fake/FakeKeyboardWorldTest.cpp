@@ -23,6 +23,7 @@ class FakeKeyboardWorld : public HeldKeyboardWorld {
     void lockerTakesKeyboard() override { m_platform.eventMonitor.programHoldsKeyboard(true); }
     // Of no consequence, so that the fake knows none.
     void menuTakesKeyboard() override {}
+    void menuStaysOpen() override {}
     void keyboardIsGivenBack() override { m_platform.eventMonitor.programHoldsKeyboard(false); }
     void settle() override { m_platform.desktop.turnLoop(); }
 

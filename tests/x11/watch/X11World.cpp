@@ -10,6 +10,7 @@
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
 #include "platform/XkbCodes.h"
+#include "platform/monitor/KeyboardHold.h"
 #include "support/Keys.h"
 
 namespace {
@@ -83,6 +84,14 @@ void X11World::lockerTakesKeyboard() {
 void X11World::menuTakesKeyboard() {
     lockerTakesKeyboard();
     m_holder->showMenu();
+}
+
+void X11World::menuStaysOpen() {
+    constexpr std::chrono::milliseconds longer = KeyboardHold::lockTime * 3;
+    for (const auto end = m_clock.now() + longer; m_clock.now() < end;) {
+        pollfd descriptor{m_manager->fileDescriptor(), POLLIN, 0};
+        if (poll(&descriptor, 1, 10) > 0) m_manager->dispatch();
+    }
 }
 
 void X11World::keyboardIsGivenBack() {

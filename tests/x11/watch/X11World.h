@@ -34,6 +34,7 @@ class X11World final : public HeldKeyboardWorld {
     void otherClientGrabs(std::uint32_t keyCode, std::uint32_t modifiers) override;
     void lockerTakesKeyboard() override;
     void menuTakesKeyboard() override;
+    void menuStaysOpen() override;
     void keyboardIsGivenBack() override;
     void settle() override;
 
