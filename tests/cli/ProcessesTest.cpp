@@ -3,6 +3,10 @@
 // What a script is told of the programs that have a window, by what it types.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <sstream>
+#include <utility>
+
 #include "cli/Play.h"
 #include "support/Terminal.h"
 #include "support/XServer.h"
@@ -22,14 +26,29 @@ class ProcessesTest : public testing::Test {
                        .find("window id") != std::string::npos;
         };
         EXPECT_TRUE(eventually(isReady));
-        for (const char* name : {"Lower", "Middle", "Front"}) {
+        for (const char* name : {"Front", "Lower", "Middle"}) {
             m_terminals.push_back(std::make_unique<Terminal>(
                 m_server.display(),
                 Terminal::Options{.xterm = {"-class", name, "-geometry", "60x20+100+100"}}));
         }
-        const Terminal& front = *m_terminals.back();
-        outputOf({"xdotool", "windowactivate", "--sync", front.window()}, {{"DISPLAY", m_server.display()}});
-        EXPECT_TRUE(eventually([&] { return front.hasFocus(); }));
+        // Not in the order in which they came up.
+        std::rotate(m_terminals.begin(), m_terminals.begin() + 1, m_terminals.end());
+        for (const auto& terminal : m_terminals) {
+            outputOf({"xdotool", "windowactivate", "--sync", terminal->window()},
+                     {{"DISPLAY", m_server.display()}});
+        }
+        EXPECT_TRUE(eventually([this] { return areStackedInTurn() && m_terminals.back()->hasFocus(); }));
+    }
+
+    /// By the window manager's account.
+    bool areStackedInTurn() const {
+        std::ostringstream expected;
+        const char* separator = "_NET_CLIENT_LIST_STACKING(WINDOW): window id # 0x";
+        for (const auto& terminal : m_terminals) {
+            expected << std::exchange(separator, ", 0x") << std::hex << std::stoul(terminal->window());
+        }
+        return outputOf({"xprop", "-root", "_NET_CLIENT_LIST_STACKING"}, {{"DISPLAY", m_server.display()}}) ==
+               expected.str() + "\n";
     }
 
     /// Types what the expression gives, inside `tell`.
@@ -44,6 +63,7 @@ class ProcessesTest : public testing::Test {
     XServer m_server;
     TemporaryFolder m_folder;
     std::unique_ptr<Child> m_manager;
+    /// The lowest first.
     std::vector<std::unique_ptr<Terminal>> m_terminals;
 };
 

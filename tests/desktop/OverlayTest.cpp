@@ -72,6 +72,51 @@ TEST_P(OverlayTest, comesUpAgainWithEachKey) {
     EXPECT_EQ(terminal->typed(1), "x");
 }
 
+/// Recorded from a terminal whose own text is elsewhere.
+class OverlayTextTest : public DesktopTest {
+  protected:
+    ScreenWindow startRecording() const {
+        record();
+        return desktop.awaitWindow(title::overlay);
+    }
+    void endRecording() const {
+        stop();
+        ASSERT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
+    }
+    /// What is painted in the window's place, as a number.
+    std::string pictureOf(const ScreenWindow& window) const {
+        const std::string place = std::to_string(window.width) + "x" + std::to_string(window.height) + "+" +
+                                  std::to_string(window.x) + "+" + std::to_string(window.y);
+        return desktop.run({"sh", "-c", "import -window root -crop " + place + " +repage rgb:- | md5sum"});
+    }
+    /// When it has faded in.
+    std::string lastingPictureOf(const ScreenWindow& window) const {
+        std::string last;
+        EXPECT_TRUE(eventually([&] {
+            const std::string now = pictureOf(window);
+            return std::exchange(last, now) == now;
+        }));
+        return last;
+    }
+
+    Terminal terminal{desktop.display()};
+    Keyrill keyrill{desktop};
+};
+
+TEST_F(OverlayTextTest, showsNothingOfTheRecordingBefore) {
+    const ScreenWindow first = startRecording();
+    const std::string empty = lastingPictureOf(first);
+    for (const char* key : {"x", "y", "z"}) press(key);
+    EXPECT_EQ(terminal.typed(3), "xyz");
+    EXPECT_TRUE(eventually([&] { return pictureOf(first) != empty; }));
+    EXPECT_NE(lastingPictureOf(first), empty);
+    endRecording();
+    const ScreenWindow second = startRecording();
+    EXPECT_TRUE(eventually([&] { return pictureOf(second) == empty; }));
+    press("x");
+    EXPECT_TRUE(eventually([&] { return pictureOf(second) != empty; }));
+}
+
 std::string nameOfDesktop(const testing::TestParamInfo<std::tuple<WindowManager, bool, int>>& info) {
     const auto& [manager, composited, scale] = info.param;
     return nameOf(manager) + (composited ? "Composited" : "") + std::to_string(scale) + "x";

@@ -3,6 +3,7 @@
 
 #include "desktop/DesktopTest.h"
 #include "display/NestedServers.h"
+#include "display/RepeatCount.h"
 #include "display/Typist.h"
 #include "support/Programs.h"
 
@@ -53,6 +54,31 @@ TEST_P(SameLetterTest, isTypedAndRecordedEachTime) {
         expected += "ra";
         ASSERT_EQ(terminal.typed(expected.size()), expected);
     }
+}
+
+/// The keyboard repeats, as people's do: a command that is held down is one command, and nothing else.
+TEST_P(SameLetterTest, aCommandThatIsHeldUntilItRepeatsIsGivenOnce) {
+    outputOf({"xset", "r", "rate", "150", "50"}, {{"DISPLAY", desktop.display()}});
+    constexpr int repeats = 5;
+    const auto holdCommand = [this](std::uint8_t key) {
+        RepeatCount count(desktop.display(), key);
+        typist.press({xkey::control, xkey::super, key});
+        ASSERT_TRUE(eventually([&] { return count.presses() > repeats; }));
+        typist.release({key, xkey::super, xkey::control});
+    };
+    holdCommand(xkey::r);
+    desktop.awaitWindow(title::overlay);
+    typist.tap(xkey::r);
+    typist.tap(xkey::a);
+    EXPECT_EQ(terminal.typed(2), "ra");
+    holdCommand(xkey::s);
+    ASSERT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
+    typist.tap(xkey::s);
+    EXPECT_EQ(terminal.typed(3), "ras");
+    holdCommand(xkey::p);
+    EXPECT_EQ(terminal.typed(5), "rasra");
+    typist.tap(xkey::period);
+    EXPECT_EQ(terminal.typed(6), "rasra.");
 }
 
 // Less is what servers inside a window make of a key that repeats.
