@@ -70,33 +70,57 @@ class HolderTest : public testing::Test {
     std::optional<Child> product;
 };
 
+struct Locker {
+    const char* name;
+    /// Locks at once; a line of sh.
+    const char* command;
+    /// It starts only where the user has a password, so that it gets files of passwords of its own.
+    bool needsPassword = false;
+    /// It locks for nobody who is root.
+    bool isForUsers = false;
+};
+constexpr Locker i3lock{.name = "i3lock", .command = "exec i3lock -n"};
 #ifdef KEYRILL_EVERY_LOCKER
-/// These start only where the user has a password, so that they get a file of passwords of their own.
-constexpr bool needsPasswords = true;
-constexpr std::array<const char*, 3> lockers{"i3lock -n", "xtrlock", "slock"};
+constexpr Locker xtrlock{.name = "xtrlock", .command = "exec xtrlock", .needsPassword = true};
+constexpr std::array lockers{
+    i3lock, xtrlock, Locker{.name = "slock", .command = "exec slock", .needsPassword = true},
+    Locker{.name = "xscreensaver",
+           .command = "xscreensaver --no-splash & until xscreensaver-command --lock; do :; done; wait",
+           .needsPassword = true,
+           .isForUsers = true}};
 #else
-constexpr bool needsPasswords = false;
-constexpr std::array<const char*, 1> lockers{"i3lock -n"};
+constexpr std::array lockers{i3lock};
 #endif
 
 /// Real lockers, for a user whose password is "secret".
-class LockersTest : public HolderTest, public testing::WithParamInterface<const char*> {
+class LockersTest : public HolderTest, public testing::WithParamInterface<Locker> {
   protected:
     LockersTest() {
         const std::string hash = outputOf({"openssl", "passwd", "-6", "secret"});
-        std::ofstream(desktop.file("passwd")) << "root:x:0:0::/:/bin/sh\nnobody:x:65534:65534::/:/bin/sh\n";
-        std::ofstream(desktop.file("shadow"))
-            << "root:" << hash.substr(0, hash.find('\n')) << ":19000:0:99999:7:::\n";
+        std::ofstream passwords(desktop.file("passwd"));
+        std::ofstream shadow(desktop.file("shadow"));
+        for (const char* user : {"root:x:0:0", "user:x:1000:1000", "nobody:x:65534:65534"}) {
+            const std::string entry = user;
+            passwords << entry << "::/:/bin/sh\n";
+            shadow << entry.substr(0, entry.find(':')) << ":" << hash.substr(0, hash.find('\n'))
+                   << ":19000:0:99999:7:::\n";
+        }
+        std::ofstream(desktop.home() + "/.xscreensaver") << "mode: blank\nfade: False\nunfade: False\n";
     }
 
     void lock() {
-        const std::string own = "mount --bind " + desktop.file("passwd") + " /etc/passwd && mount --bind " +
-                                desktop.file("shadow") + " /etc/shadow && exec " + GetParam();
-        locker.emplace(needsPasswords
-                           ? std::vector<std::string>{"unshare", "-Urm", "sh", "-c", own}
-                           : std::vector<std::string>{"sh", "-c", std::string("exec ") + GetParam()},
-                       desktop.options("locker.log"));
+        locker.emplace(lockCommand(), desktop.options("locker.log"));
         awaitGrab(true);
+    }
+    std::vector<std::string> lockCommand() const {
+        if (!GetParam().needsPassword) return {"sh", "-c", GetParam().command};
+        const std::string asUser =
+            GetParam().isForUsers ? "unshare -U --map-user=1000 --map-group=1000 " : "";
+        const std::string own = "mount --bind " + desktop.file("passwd") + " /etc/passwd && mount --bind " +
+                                desktop.file("shadow") + " /etc/shadow && exec " + asUser + "sh -c '" +
+                                GetParam().command + "'";
+        // Whatever it starts ends with it.
+        return {"unshare", "-Urmpf", "--kill-child", "sh", "-c", own};
     }
     void typePassword() const {
         for (const std::uint8_t key : {xkey::s, e, c, xkey::r, e, t, xkey::returnKey}) typist.tap(key);
@@ -143,10 +167,9 @@ TEST_P(LockersTest, aMacroThatPlaysEnds) {
     EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
 }
 
-INSTANTIATE_TEST_SUITE_P(Locker, LockersTest, testing::ValuesIn(lockers), [](const auto& locker) {
-    const std::string name = locker.param;
-    return name.substr(0, name.find(' '));
-});
+std::string nameOfLocker(const testing::TestParamInfo<Locker>& info) { return info.param.name; }
+
+INSTANTIATE_TEST_SUITE_P(Locker, LockersTest, testing::ValuesIn(lockers), nameOfLocker);
 
 /// One that holds keyboard and mouse as lockers do, and tells what it got.
 TEST_F(HolderTest, aMacroThatPlaysTypesNothingIntoALocker) {
@@ -207,8 +230,7 @@ TEST_P(HeldOverlayTest, saysThatNothingIsRecorded) {
     EXPECT_TRUE(eventually([&] { return pictureOf(overlay) == open; }));
 }
 
-INSTANTIATE_TEST_SUITE_P(Locker, HeldOverlayTest, testing::Values("xtrlock"),
-                         [](const auto& locker) { return std::string(locker.param); });
+INSTANTIATE_TEST_SUITE_P(Locker, HeldOverlayTest, testing::Values(xtrlock), nameOfLocker);
 
 #endif
 
