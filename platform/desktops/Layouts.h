@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include "platform/Result.h"
 
@@ -17,6 +18,8 @@ class Layouts {
     /// Puts that one in force, and waits for it. Fails where there is none of that number, and where that is
     /// the user's alone.
     virtual Result<void> setGroup(std::uint32_t group) = 0;
+    /// Who is told, if the desktop itself tells of it here, that another one may be in force; at most one.
+    virtual void observe(std::function<void()> /*changed*/) {}
 };
 
 /// Where the desktop tells nothing of them: the first.

@@ -50,6 +50,8 @@ class SessionBus {
     /// Readable when update() has something to do.
     int fileDescriptor() const { return m_loop.fileDescriptor(); }
     void update() const { m_loop.update(); }
+    /// For a program that hears signals alone, and asks for no events elsewhere.
+    EventSource& eventSource() { return m_loop; }
 
   private:
     struct Hearing {

@@ -3,6 +3,7 @@
 
 #include <virtual-keyboard-unstable-v1-client-protocol.h>
 
+#include "platform/desktops/GnomeLayouts.h"
 #include "platform/desktops/KdeLayouts.h"
 #include "platform/desktops/KdeShortcuts.h"
 #include "platform/desktops/PortalLink.h"
@@ -28,7 +29,10 @@ DesktopServices::DesktopServices(const WaylandConnection& connection)
     if (!m_isKde && !m_pressesByPortal && !m_hasShortcutsPortal) return;
     m_bus = std::move(bus);
     if (m_isKde) m_layouts = std::make_unique<KdeLayouts>(*m_bus);
-    if (!m_isKde && m_pressesByPortal) m_layouts = std::make_unique<UnknownLayouts>();
+    if (m_isKde || !m_pressesByPortal) return;
+    m_isGnome = GnomeLayouts::isThere(*m_bus);
+    if (m_isGnome) m_layouts = std::make_unique<GnomeLayouts>(*m_bus);
+    if (!m_isGnome) m_layouts = std::make_unique<UnknownLayouts>();
 }
 
 }  // namespace wayland

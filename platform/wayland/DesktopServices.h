@@ -22,6 +22,8 @@ class DesktopServices {
     bool isSway() const { return m_isSway; }
     /// Whose shortcuts, layouts and portal serve.
     bool isKde() const { return m_isKde; }
+    /// Whose layouts are asked for.
+    bool isGnome() const { return m_isGnome; }
     /// Whether keys are pressed by the desktop's portal, or would be if it answered.
     bool pressesByPortal() const { return m_pressesByPortal; }
     /// Whether hot keys are the desktop's portal's.
@@ -35,6 +37,7 @@ class DesktopServices {
   private:
     bool m_isSway;
     bool m_isKde = false;
+    bool m_isGnome = false;
     bool m_pressesByPortal = false;
     bool m_hasShortcutsPortal = false;
     std::unique_ptr<SessionBus> m_bus;

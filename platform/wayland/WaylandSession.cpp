@@ -102,9 +102,11 @@ class WaylandSession final : public Session {
         m_seat.observe([this] { followSeat(); });
         if (m_seat.repeat()) m_keys.setRepeatRule(ruleOf(*m_seat.repeat()));
         if (m_signals) m_keys.listenTo(*m_signals);
+        if (m_desktop.layouts() != nullptr) m_desktop.layouts()->observe([this] { followLayout(); });
     }
     ~WaylandSession() override {
         m_seat.observe({});
+        if (m_desktop.layouts() != nullptr) m_desktop.layouts()->observe({});
         if (m_use == SessionUse::scripts) m_scriptDesktop.clipboardOfScripts().leave();
     }
     WaylandSession(const WaylandSession&) = delete;
@@ -114,6 +116,8 @@ class WaylandSession final : public Session {
     std::vector<EventSource*> eventSources() override {
         std::vector<EventSource*> sources{m_connection.get(), &m_keys};
         if (m_layers && m_layers->areOffered()) sources.push_back(m_layers->eventSource());
+        // Who has no hot keys hears of layouts all the same.
+        if (m_desktop.isGnome() && !m_bindings) sources.push_back(&m_desktop.bus()->eventSource());
         return sources;
     }
     void interrupt() noexcept override { m_injector.interrupt(); }
@@ -162,6 +166,9 @@ class WaylandSession final : public Session {
                 .grabs = m_bindings ? static_cast<KeyGrabber&>(*m_bindings) : m_noGrabs,
                 .layout = [this] { return m_seat.group(); },
                 .isDesktopLost = [this] { return m_connection->isBroken(); }};
+    }
+    void followLayout() {
+        if (!m_seat.hasOwnKeyboard()) m_keys.setLayout(m_seat.group());
     }
     void followSeat() {
         m_keys.setKeymap(copyOf(m_seat));

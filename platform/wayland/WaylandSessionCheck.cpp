@@ -6,7 +6,7 @@
 
 #include <cstdlib>
 
-#include "platform/desktops/PortalLink.h"
+#include "platform/desktops/GnomeLayouts.h"
 #include "platform/evdev/DirectOpener.h"
 #include "platform/evdev/access/AccessOpener.h"
 #include "platform/linux/BusAddresses.h"
@@ -87,6 +87,7 @@ SessionDetails WaylandSessionCheck::details() const {
                      {"sway", desktop.isSway()}};
     if (desktop.isSway()) return details;
     if (desktop.isKde()) details.parts.push_back({"KDE", true});
+    if (desktop.isGnome()) details.parts.push_back({"GNOME's settings", GnomeLayouts::areKnown()});
     if (!hasVirtualKeyboards(*connection.value())) {
         details.parts.push_back({"portal for keys", desktop.pressesByPortal()});
     }
