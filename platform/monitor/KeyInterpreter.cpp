@@ -81,8 +81,9 @@ void KeyInterpreter::pressHotKey(const RawKey& key, DownKey& held, HotKeyId id) 
 
 void KeyInterpreter::pressOrdinary(const RawKey& key, DownKey& held) {
     const TypedKey typed = typedBy(key.keycode);
+    const bool isPassedOn = !switchesConsole(key.keycode);
     m_keyboard.feed(key.keycode, true);
-    if (m_muted) return;
+    if (m_muted || !isPassedOn) return;
     held.reportedCode = typed.keyCode;
     reportPress(KeyEventKind::keyDown, typed);
     if (m_isRecording) m_playedLayout = layoutAfterPlaying(typed);
@@ -181,6 +182,14 @@ TypedKey KeyInterpreter::typedBy(std::uint8_t keycode) const {
         shapeKey(m_keyboard.keymap(), keycode, m_keyboard.modifiers(), m_keyboard.layout(), heldMask() != 0);
     if (needsLayout(keycode)) typed.keyCode = keycode::inLayout(typed.keyCode, m_keyboard.layout());
     return typed;
+}
+
+/// Whether the desktop keeps the stroke to itself and shows another console. Played it would do so again, and
+/// what follows would go nowhere.
+bool KeyInterpreter::switchesConsole(std::uint8_t keycode) const {
+    const xkb_keysym_t symbol =
+        m_keyboard.keymap().symbol(keycode, m_keyboard.modifiers(), m_keyboard.layout());
+    return symbol >= XKB_KEY_XF86Switch_VT_1 && symbol <= XKB_KEY_XF86Switch_VT_12;
 }
 
 /// Whether the key types something else in the layout that playing will be in.

@@ -90,6 +90,7 @@ class KeyInterpreter {
     std::uint32_t heldMask() const;
     TypedKey typedBy(std::uint8_t keycode) const;
     bool needsLayout(std::uint8_t keycode) const;
+    bool switchesConsole(std::uint8_t keycode) const;
     xkb_layout_index_t layoutAfterPlaying(const TypedKey& typed) const;
 
     KeyboardState& m_keyboard;

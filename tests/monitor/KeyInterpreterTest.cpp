@@ -151,6 +151,20 @@ TEST_F(KeyInterpreterTest, aHotKeyAfterItsRawPressPassedIsStillPressedAndRelease
               (WipedQueue<Delivery>{HotKeyEvent{2, true, 100}, HotKeyEvent{2, false, 200}}));
 }
 
+TEST_F(KeyInterpreterTest, aStrokeThatShowsAnotherConsoleIsNothing) {
+    constexpr std::uint8_t f2 = 68;
+    press(xkey::control);
+    press(xkey::alt);
+    keyEvents();
+    press(f2);
+    release(f2);
+    EXPECT_EQ(keyEvents(), std::vector<KeyEvent>{});
+    release(xkey::alt);
+    keyEvents();
+    press(f2);
+    EXPECT_EQ(keyEvents().size(), 1U) << "Control and F2 show no other console";
+}
+
 TEST_F(KeyInterpreterTest, escapeReadLateCountsByTheServersTime) {
     press(xkey::escape);
     release(xkey::escape, laptop, 100 + 299);
