@@ -122,7 +122,7 @@ LackWords lackWords(Lack lack) {
                     tr("Scripts that bring a window to the front need sway or an X11 session.")};
         case Lack::layers:
             return {tr("Full-screen windows may cover it."),
-                    tr("Nothing can be recorded here that it would show.")};
+                    tr("Use a compositor that has layers, such as sway's or KDE's, or an X11 session.")};
     }
     Q_UNREACHABLE();
 }

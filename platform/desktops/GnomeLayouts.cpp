@@ -37,26 +37,33 @@ bool GnomeLayouts::isThere(const SessionBus& bus) { return bus.has("org.gnome.Sh
 
 bool GnomeLayouts::areKnown() { return schema() != nullptr; }
 
-GnomeLayouts::GnomeLayouts(const SessionBus& bus) : m_bus(bus) {
-    const SchemaPointer known = schema();
-    if (!known) return;
-    const BusLoop::Context::Scope scope(m_bus.loop());
-    m_settings.reset(g_settings_new_full(known.get(), nullptr, nullptr));
-    g_signal_connect(m_settings.get(), "changed", G_CALLBACK(hasChanged), this);
-}
-
 GnomeLayouts::~GnomeLayouts() {
     if (m_settings) g_signal_handlers_disconnect_by_data(m_settings.get(), this);
 }
 
+GSettings* GnomeLayouts::settings() const {
+    if (m_settings) return m_settings.get();
+    const SchemaPointer known = schema();
+    if (!known) return nullptr;
+    const BusLoop::Context::Scope scope(m_bus.loop());
+    m_settings.reset(g_settings_new_full(known.get(), nullptr, nullptr));
+    return m_settings.get();
+}
+
+void GnomeLayouts::observe(std::function<void()> changed) {
+    if (m_settings) g_signal_handlers_disconnect_by_data(m_settings.get(), this);
+    m_changed = std::move(changed);
+    if (!m_changed || settings() == nullptr) return;
+    g_signal_connect(m_settings.get(), "changed", G_CALLBACK(hasChanged), this);
+}
+
 void GnomeLayouts::hasChanged(GSettings* /*settings*/, const char* /*key*/, void* self) {
-    const auto& layouts = *static_cast<GnomeLayouts*>(self);
-    if (layouts.m_changed) layouts.m_changed();
+    static_cast<GnomeLayouts*>(self)->m_changed();
 }
 
 std::uint32_t GnomeLayouts::group() const {
-    if (!m_settings) return 0;
-    return groupOf(sourcesIn(m_settings.get(), "sources"), sourcesIn(m_settings.get(), "mru-sources"));
+    GSettings* const known = settings();
+    return known == nullptr ? 0 : groupOf(sourcesIn(known, "sources"), sourcesIn(known, "mru-sources"));
 }
 
 std::uint32_t GnomeLayouts::groupOf(const Sources& sources, const Sources& lastUsed) {

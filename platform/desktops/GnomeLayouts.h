@@ -26,7 +26,7 @@ class GnomeLayouts final : public Layouts {
     static bool areKnown();
 
     /// Changes are noticed in the loop of `bus`, which outlives this.
-    explicit GnomeLayouts(const SessionBus& bus);
+    explicit GnomeLayouts(const SessionBus& bus) : m_bus(bus) {}
     ~GnomeLayouts() override;
     GnomeLayouts(const GnomeLayouts&) = delete;
     GnomeLayouts& operator=(const GnomeLayouts&) = delete;
@@ -34,7 +34,7 @@ class GnomeLayouts final : public Layouts {
     std::uint32_t group() const override;
     bool canSwitch() const override { return false; }
     Result<void> setGroup(std::uint32_t group) override;
-    void observe(std::function<void()> changed) override { m_changed = std::move(changed); }
+    void observe(std::function<void()> changed) override;
 
     /// The group of the seat's keymap that is in force, by the user's list and by that of the last used. A
     /// keymap has three of the user's layouts at a time; what an input method types with is not known.
@@ -42,9 +42,12 @@ class GnomeLayouts final : public Layouts {
 
   private:
     static void hasChanged(GSettings* settings, const char* key, void* self);
+    /// Null where the machine has no description of them.
+    GSettings* settings() const;
 
     const SessionBus& m_bus;
-    /// Null where the machine has no description of them.
-    GObjectPointer<GSettings> m_settings;
+    /// Opened when it is needed: some stores notice changes in the loop of whoever comes first in the
+    /// process.
+    mutable GObjectPointer<GSettings> m_settings;
     std::function<void()> m_changed;
 };
