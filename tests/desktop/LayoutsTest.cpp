@@ -165,14 +165,15 @@ void LayoutsTest::expectTheSame(std::uint8_t locks, std::uint8_t locksOfPlay) {
         return typed.size() > m_typed.size() && typed.ends_with(end);
     };
     // Terminals look for the fonts of rare signs, each for a while.
-    ASSERT_TRUE(eventually(hasAll, std::chrono::seconds(120))) << m_terminal.typed();
+    constexpr std::chrono::seconds patience{120};
+    ASSERT_TRUE(eventually(hasAll, patience)) << m_terminal.typed();
     const std::string typed = m_terminal.typed().substr(m_typed.size());
     hotKey(xkey::s);
     EXPECT_GT(typed.size(), typingKeys().size());
     setLocks(locksOfPlay);
     hotKey(xkey::p);
     m_typed += typed + typed;
-    const std::string all = m_terminal.typed(m_typed.size());
+    const std::string all = m_terminal.typed(m_typed.size(), patience);
     EXPECT_EQ(all.substr(m_typed.size() - typed.size()), typed) << "locks " << int{locks};
     m_typed = all;
 }
