@@ -30,11 +30,13 @@ enum class Means {
     portal,           ///< the portal by which a desktop lets programs press keys
     shortcutsPortal,  ///< the portal by which a desktop gives programs hot keys
     swayTree,         ///< sway's tree of windows, by its IPC
+    kwinScripts,      ///< scripts that KWin runs, over the session bus
     dataControl,      ///< the clipboard of a Wayland compositor, without a window
     ordinaryWindow,   ///< a window as all others
     layer,            ///< a layer above all windows
     keyboardDevices,  ///< the keyboards as the kernel shows them, which the user may read
     accessService,    ///< the same, opened by keyrill-access
+    ownWindow,        ///< a window of the program's own, into which the user types
 };
 
 /// What is lacking, and would make a capability better if it were there. What can be done about it is the
@@ -65,7 +67,8 @@ inline constexpr std::array allMeans{
     Means::xSelection,     Means::xWindow,         Means::windowManager, Means::dockingTray,
     Means::statusNotifier, Means::virtualKeyboard, Means::swayBindings,  Means::swayTree,
     Means::kdeShortcuts,   Means::portal,          Means::dataControl,   Means::ordinaryWindow,
-    Means::layer,          Means::keyboardDevices, Means::accessService, Means::shortcutsPortal};
+    Means::layer,          Means::keyboardDevices, Means::accessService, Means::shortcutsPortal,
+    Means::kwinScripts,    Means::ownWindow};
 inline constexpr std::array allLacks{
     Lack::nothing,        Lack::display,         Lack::xInput,        Lack::xkb,    Lack::xTest,
     Lack::record,         Lack::guard,           Lack::nativeWindows, Lack::tray,   Lack::foreignKeys,

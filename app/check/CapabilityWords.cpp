@@ -46,6 +46,10 @@ QString meansWords(Means means) {
             return tr("by the desktop's portal: you choose them when it asks, and later in its settings");
         case Means::swayTree:
             return tr("by sway");
+        case Means::kwinScripts:
+            return tr("by KWin");
+        case Means::ownWindow:
+            return tr("what you type into a window of Keyrill's, \"Record Here\"");
         case Means::dataControl:
             return tr("the compositor's");
         case Means::ordinaryWindow:
@@ -119,7 +123,7 @@ LackWords lackWords(Lack lack) {
                        "session.")};
         case Lack::foreignWindows:
             return {tr("This compositor tells nothing of other programs' windows."),
-                    tr("Scripts that bring a window to the front need sway or an X11 session.")};
+                    tr("Scripts that bring a window to the front need sway, KDE or an X11 session.")};
         case Lack::layers:
             return {tr("Full-screen windows may cover it."),
                     tr("Use a compositor that has layers, such as sway's or KDE's, or an X11 session.")};

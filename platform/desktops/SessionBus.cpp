@@ -11,8 +11,26 @@
 namespace {
 
 constexpr int patience = 2000;
+constexpr const char* theBus = "org.freedesktop.DBus";
+constexpr const char* theBusObject = "/org/freedesktop/DBus";
+
+Error noBus() { return {"There is no session bus.", "Log in again."}; }
 
 const char* orAny(const std::string& text) { return text.empty() ? nullptr : text.c_str(); }
+
+/// GDBus has let through only what the interface describes.
+void onCall(GDBusConnection* /*connection*/, const char* caller, const char* /*path*/,
+            const char* /*interface*/, const char* /*member*/, GVariant* parameters,
+            GDBusMethodInvocation* invocation, void* called) {
+    const char* text = nullptr;
+    g_variant_get(parameters, "(&s)", &text);
+    const std::string copy = text;
+    const std::string sender = caller == nullptr ? "" : caller;
+    g_dbus_method_invocation_return_value(invocation, nullptr);
+    (*static_cast<SessionBus::Called*>(called))(sender, copy);
+}
+
+void freeCalled(void* called) { delete static_cast<SessionBus::Called*>(called); }
 
 }  // namespace
 
@@ -51,7 +69,7 @@ Result<GVariantPointer> SessionBus::ask(const Method& method, GVariant* paramete
                                         Starts starts) const {
     if (!isOpen()) {
         if (parameters != nullptr) g_variant_unref(g_variant_ref_sink(parameters));
-        return Error{"There is no session bus.", "Log in again."};
+        return noBus();
     }
     const GVariantType* const wanted = type == nullptr ? nullptr : G_VARIANT_TYPE(type);
     GError* error = nullptr;
@@ -73,9 +91,38 @@ void SessionBus::call(const Method& method, GVariant* parameters, BusConnection:
 
 bool SessionBus::has(const char* name) const {
     const auto answer =
-        ask({"org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameHasOwner"},
-            g_variant_new("(s)", name), "(b)");
+        ask({theBus, theBusObject, theBus, "NameHasOwner"}, g_variant_new("(s)", name), "(b)");
     gboolean isThere = FALSE;
     if (answer) g_variant_get(answer.value().get(), "(b)", &isThere);
     return isThere == TRUE;
+}
+
+std::string SessionBus::ownerOf(const char* name) const {
+    const auto answer =
+        ask({theBus, theBusObject, theBus, "GetNameOwner"}, g_variant_new("(s)", name), "(s)");
+    const char* owner = "";
+    if (answer) g_variant_get(answer.value().get(), "(&s)", &owner);
+    return owner;
+}
+
+std::string SessionBus::ownName() const {
+    const char* name = isOpen() ? g_dbus_connection_get_unique_name(m_connection.get()) : nullptr;
+    return name == nullptr ? "" : name;
+}
+
+Result<void> SessionBus::serve(const char* path, const char* interface, const char* member, Called called) {
+    if (!isOpen()) return noBus();
+    const std::string xml = std::string("<node><interface name='") + interface + "'><method name='" + member +
+                            "'><arg type='s' direction='in'/></method></interface></node>";
+    const std::unique_ptr<GDBusNodeInfo, FreeBy<g_dbus_node_info_unref>> node(
+        g_dbus_node_info_new_for_xml(xml.c_str(), nullptr));
+    static constexpr GDBusInterfaceVTable calls{
+        .method_call = onCall, .get_property = nullptr, .set_property = nullptr, .padding = {}};
+    const BusLoop::Context::Scope scope(m_loop);
+    GError* error = nullptr;
+    g_dbus_connection_register_object(m_connection.get(), path, node->interfaces[0], &calls,
+                                      new Called(std::move(called)), freeCalled, &error);
+    const GFailure failure(error);
+    if (failure) return Error{failure->message, ""};
+    return {};
 }

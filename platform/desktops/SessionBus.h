@@ -15,7 +15,10 @@ class SessionBus {
   public:
     using Method = BusConnection::Method;
 
-    /// At the address of the process's environment. Waits until it is there, or it is clear that there is
+    /// What the process's environment says.
+    static std::string addressOfProcess();
+
+    /// At that address. Waits until it is there, or it is clear that there is
     /// none; two seconds at the most.
     SessionBus() : SessionBus(addressOfProcess()) {}
     explicit SessionBus(const std::string& address);
@@ -43,6 +46,16 @@ class SessionBus {
     /// Whether somebody has that name.
     bool has(const char* name) const;
 
+    /// Who has that name; empty if nobody has.
+    std::string ownerOf(const char* name) const;
+    /// Under which name others reach this connection; empty where it is not open.
+    std::string ownName() const;
+
+    /// A method of ours, called with one text.
+    using Called = std::function<void(const std::string& caller, const std::string& text)>;
+    /// Takes calls of it in update(), until the bus dies. Those with anything else are refused.
+    Result<void> serve(const char* path, const char* interface, const char* member, Called called);
+
     /// As BusConnection has it, but also on a bus that comes later.
     void hear(const char* sender, const char* path, const char* interface, const char* member,
               BusConnection::Heard heard);
@@ -62,7 +75,6 @@ class SessionBus {
         BusConnection::Heard heard;
     };
 
-    static std::string addressOfProcess();
     void opened();
     void listen(const Hearing& hearing);
 

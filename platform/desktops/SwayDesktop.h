@@ -5,9 +5,10 @@
 #include <optional>
 
 #include "platform/desktops/SwayConnection.h"
+#include "platform/desktops/XWindowFocus.h"
 
 /// What sway tells of its windows and keyboards, asked for each time. A sway that has gone knows nothing.
-class SwayDesktop {
+class SwayDesktop final : public XWindowFocus {
   public:
     explicit SwayDesktop(SwayConnection connection) : m_connection(std::move(connection)) {}
 
@@ -15,10 +16,9 @@ class SwayDesktop {
     /// there is another.
     std::uint32_t group();
 
-    /// The number of the X11 window that keys go to, 0 where it is a native one; empty if there is none.
-    std::optional<std::uint32_t> focusedXWindow();
-    /// Fails while sway shows no such window.
-    Result<void> focusXWindow(std::uint32_t xWindow);
+    // XWindowFocus
+    std::optional<std::uint32_t> focusedXWindow() override;
+    Result<void> focusXWindow(std::uint32_t xWindow) override;
 
   private:
     SwayConnection m_connection;

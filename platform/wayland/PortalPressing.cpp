@@ -112,7 +112,7 @@ Step<> PortalTyper::typePart(std::span<const char32_t> characters, const Stroke&
 void PortalKeyboard::plugIn() {
     m_state.reset(xkb_state_new(m_seat.keymap().get()));
     m_down.reset();
-    xkb_state_update_mask(m_state.get(), 0, 0, 0, 0, 0, m_seat.group());
+    xkb_state_update_mask(m_state.get(), 0, 0, m_locks.locked(m_seat.keymap().masks()), 0, 0, m_seat.group());
 }
 
 XkbComponents PortalKeyboard::components() const {

@@ -3,6 +3,7 @@
 
 #include "platform/desktops/Layouts.h"
 #include "platform/desktops/PortalLink.h"
+#include "platform/wayland/KdeLocks.h"
 #include "platform/wayland/Pressing.h"
 #include "platform/wayland/SeatKeymap.h"
 
@@ -11,14 +12,12 @@ namespace wayland {
 /// A keyboard by the desktop's portal: to the compositor its keys are those of the user's own keyboard. So is
 /// what they hold and lock, and the layout: another one of the user's is put in force for a character, and
 /// the one before again, where the desktop lets programs do that.
-///
-/// Nobody tells what the user has locked: nothing, as far as this knows.
 class PortalKeyboard final : public KeyOutput {
   public:
-    PortalKeyboard(PortalLink& link, Layouts& layouts, const SeatKeymap& seat)
-        : m_link(link), m_layouts(layouts), m_seat(seat) {}
+    PortalKeyboard(PortalLink& link, Layouts& layouts, KdeLocks& locks, const SeatKeymap& seat)
+        : m_link(link), m_layouts(layouts), m_locks(locks), m_seat(seat) {}
 
-    /// With nothing down and the group that is in force.
+    /// With nothing down, the locks that are on and the group that is in force.
     void plugIn();
     void unplug() { m_state.reset(); }
     XkbComponents components() const;
@@ -38,6 +37,7 @@ class PortalKeyboard final : public KeyOutput {
 
     PortalLink& m_link;
     Layouts& m_layouts;
+    KdeLocks& m_locks;
     const SeatKeymap& m_seat;
     XkbStatePointer m_state;
     KeycodeSet m_down;
@@ -47,12 +47,14 @@ class PortalKeyboard final : public KeyOutput {
 class PortalPressing final : public Pressing {
   public:
     /// All outlive this.
-    PortalPressing(Layouts& layouts, SeatKeymap& seat, Clock& clock, PortalLink::Options options)
+    PortalPressing(WaylandConnection& connection, Layouts& layouts, SeatKeymap& seat, Clock& clock,
+                   PortalLink::Options options)
         : m_layouts(layouts),
           m_seat(seat),
           m_clock(clock),
           m_link(std::move(options), clock),
-          m_keyboard(m_link, layouts, seat) {}
+          m_locks(connection),
+          m_keyboard(m_link, layouts, m_locks, seat) {}
 
     /// The desktop is asked late, by the first stroke.
     Result<void> start() override { return {}; }
@@ -65,6 +67,7 @@ class PortalPressing final : public Pressing {
     SeatKeymap& m_seat;
     const Clock& m_clock;
     PortalLink m_link;
+    KdeLocks m_locks;
     PortalKeyboard m_keyboard;
 };
 

@@ -15,17 +15,9 @@ using Handle = zwlr_foreign_toplevel_handle_v1;
 
 constexpr std::uint32_t activated = 2;
 
-std::string lowered(std::string_view text) {
-    std::string out(text);
-    for (char& c : out) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    return out;
-}
-
-ToplevelList::Toplevel& toplevelAt(void* self) { return *static_cast<ToplevelList::Toplevel*>(self); }
-
 }  // namespace
 
-Result<std::unique_ptr<ToplevelList>> ToplevelList::open() {
+Result<std::unique_ptr<ForeignWindows>> ToplevelList::open() {
     auto connection = WaylandConnection::open();
     if (!connection) return connection.error();
     std::unique_ptr<ToplevelList> list(new ToplevelList(std::move(connection).value()));
@@ -38,7 +30,7 @@ Result<std::unique_ptr<ToplevelList>> ToplevelList::open() {
     list->listen();
     const auto told = list->m_connection->roundTrip();
     if (!told) return told.error();
-    return list;
+    return std::unique_ptr<ForeignWindows>(std::move(list));
 }
 
 ToplevelList::~ToplevelList() {
@@ -57,48 +49,31 @@ void ToplevelList::listen() {
 void ToplevelList::add(Handle* handle) {
     static constexpr zwlr_foreign_toplevel_handle_v1_listener listener{
         .title = [](void*, Handle*, const char*) {},
-        .app_id = [](void* self, Handle*, const char* program) { toplevelAt(self).program = program; },
+        .app_id = [](void* self, Handle*, const char* program) { windowAt(self).program = program; },
         .output_enter = [](void*, Handle*, wl_output*) {},
         .output_leave = [](void*, Handle*, wl_output*) {},
         .state =
             [](void* self, Handle*, wl_array* states) {
                 const std::span numbers(static_cast<const std::uint32_t*>(states->data),
                                         states->size / sizeof(std::uint32_t));
-                toplevelAt(self).isActive =
+                windowAt(self).isActive =
                     std::find(numbers.begin(), numbers.end(), activated) != numbers.end();
             },
         .done = [](void*, Handle*) {},
         .closed = [](void*, Handle*) {}};
-    m_toplevels.push_back({.handle = handle, .program = {}, .isActive = false});
+    m_toplevels.push_back({.handle = handle, .window = {}});
     zwlr_foreign_toplevel_handle_v1_add_listener(handle, &listener, &m_toplevels.back());
 }
 
-std::vector<std::string> ToplevelList::programs() const {
-    std::vector<std::string> found;
-    for (const Toplevel& toplevel : m_toplevels) {
-        const auto known = std::find_if(found.begin(), found.end(), [&](const std::string& one) {
-            return lowered(one) == lowered(toplevel.program);
-        });
-        if (known == found.end() && !toplevel.program.empty()) {
-            found.insert(toplevel.isActive ? found.begin() : found.end(), toplevel.program);
-        } else if (known != found.end() && toplevel.isActive) {
-            std::rotate(found.begin(), known, known + 1);
-        }
-    }
-    return found;
+std::vector<ForeignWindow> ToplevelList::windows() const {
+    std::vector<ForeignWindow> windows;
+    windows.reserve(m_toplevels.size());
+    for (const Toplevel& toplevel : m_toplevels) windows.push_back(toplevel.window);
+    return windows;
 }
 
-const ToplevelList::Toplevel* ToplevelList::find(std::string_view program) const {
-    const Toplevel* found = nullptr;
-    for (const Toplevel& toplevel : m_toplevels) {
-        const bool isOfIt = lowered(toplevel.program) == lowered(program);
-        if (isOfIt && (found == nullptr || toplevel.isActive)) found = &toplevel;
-    }
-    return found;
-}
-
-Result<void> ToplevelList::activate(const Toplevel& toplevel) {
-    zwlr_foreign_toplevel_handle_v1_activate(toplevel.handle, m_connection->seat());
+Result<void> ToplevelList::activate(std::size_t place) {
+    zwlr_foreign_toplevel_handle_v1_activate(m_toplevels[place].handle, m_connection->seat());
     return m_connection->roundTrip();
 }
 

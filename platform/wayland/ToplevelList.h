@@ -4,10 +4,10 @@
 #include <deque>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/Result.h"
+#include "platform/desktops/ForeignWindows.h"
 #include "platform/wayland/WaylandConnection.h"
 
 struct zwlr_foreign_toplevel_handle_v1;
@@ -17,32 +17,28 @@ namespace wayland {
 
 /// The windows of all programs as they were when this was made
 /// (wlr-foreign-toplevel-management-unstable-v1), on a connection of its own.
-class ToplevelList {
+class ToplevelList final : public ForeignWindows {
   public:
     /// Fails with a hint where the compositor tells nobody of windows.
-    static Result<std::unique_ptr<ToplevelList>> open();
-    ~ToplevelList();
+    static Result<std::unique_ptr<ForeignWindows>> open();
+    ~ToplevelList() override;
     ToplevelList(const ToplevelList&) = delete;
     ToplevelList& operator=(const ToplevelList&) = delete;
 
-    struct Toplevel {
-        zwlr_foreign_toplevel_handle_v1* handle = nullptr;
-        /// A native window's app_id, an X11 window's class.
-        std::string program;
-        bool isActive = false;
-    };
-    /// The names of all programs that have a window, each once, the one that keys go to first.
-    std::vector<std::string> programs() const;
-    /// One of that program, in any case; the one that keys go to before others. Null if there is none.
-    const Toplevel* find(std::string_view program) const;
-    /// Returns when the compositor has given it the focus.
-    Result<void> activate(const Toplevel& toplevel);
+    std::vector<ForeignWindow> windows() const override;
+    Result<void> activate(std::size_t place) override;
 
   private:
+    struct Toplevel {
+        zwlr_foreign_toplevel_handle_v1* handle = nullptr;
+        ForeignWindow window;
+    };
+
     explicit ToplevelList(std::unique_ptr<WaylandConnection> connection)
         : m_connection(std::move(connection)) {}
 
     void listen();
+    static ForeignWindow& windowAt(void* toplevel) { return static_cast<Toplevel*>(toplevel)->window; }
     void add(zwlr_foreign_toplevel_handle_v1* handle);
 
     std::unique_ptr<WaylandConnection> m_connection;

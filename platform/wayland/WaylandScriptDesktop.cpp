@@ -3,8 +3,6 @@
 
 #include <string>
 
-#include "platform/wayland/ToplevelList.h"
-
 namespace wayland {
 
 Result<void> WaylandScriptDesktop::beep(int /*count*/) {
@@ -12,30 +10,35 @@ Result<void> WaylandScriptDesktop::beep(int /*count*/) {
 }
 
 bool WaylandScriptDesktop::hasApplication(std::string_view name) {
-    const auto windows = ToplevelList::open();
-    return windows && windows.value()->find(name) != nullptr;
+    const auto opened = m_openWindows();
+    if (!opened) return false;
+    const std::vector<ForeignWindow> windows = opened.value()->windows();
+    return foreignwindows::find(windows, name) != windows.size();
 }
 
 Result<std::vector<std::string>> WaylandScriptDesktop::applications() {
-    const auto windows = ToplevelList::open();
-    if (!windows) return windows.error();
-    return windows.value()->programs();
+    const auto opened = m_openWindows();
+    if (!opened) return opened.error();
+    return foreignwindows::programsOf(opened.value()->windows());
 }
 
 bool WaylandScriptDesktop::isInFront(std::string_view name) {
-    const auto windows = ToplevelList::open();
-    const auto* const window = windows ? windows.value()->find(name) : nullptr;
-    return window != nullptr && window->isActive;
+    const auto opened = m_openWindows();
+    if (!opened) return false;
+    const std::vector<ForeignWindow> windows = opened.value()->windows();
+    const std::size_t place = foreignwindows::find(windows, name);
+    return place != windows.size() && windows[place].isActive;
 }
 
 Result<void> WaylandScriptDesktop::activate(std::string_view name) {
-    const auto windows = ToplevelList::open();
-    if (!windows) return windows.error();
-    const auto* const window = windows.value()->find(name);
-    if (window == nullptr) {
+    const auto opened = m_openWindows();
+    if (!opened) return opened.error();
+    const std::vector<ForeignWindow> windows = opened.value()->windows();
+    const std::size_t place = foreignwindows::find(windows, name);
+    if (place == windows.size()) {
         return Error{"No window of “" + std::string(name) + "” is open.", "Start it first."};
     }
-    return windows.value()->activate(*window);
+    return opened.value()->activate(place);
 }
 
 }  // namespace wayland

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <vector>
 
 #include "platform/ScriptDesktop.h"
+#include "platform/desktops/ForeignWindows.h"
 #include "platform/wayland/WaylandClipboard.h"
 
 namespace wayland {
@@ -12,6 +15,11 @@ namespace wayland {
 /// Wayland.
 class WaylandScriptDesktop final : public ScriptDesktop {
   public:
+    using OpensWindows = std::function<Result<std::unique_ptr<ForeignWindows>>()>;
+
+    /// `openWindows` fails with a hint where nobody is told of windows.
+    explicit WaylandScriptDesktop(OpensWindows openWindows) : m_openWindows(std::move(openWindows)) {}
+
     Result<void> beep(int count) override;
     Result<void> setClipboard(std::string_view text) override { return m_clipboard.set(text); }
     Result<std::string> clipboard() override { return m_clipboard.text(); }
@@ -23,6 +31,7 @@ class WaylandScriptDesktop final : public ScriptDesktop {
     WaylandClipboard& clipboardOfScripts() { return m_clipboard; }
 
   private:
+    OpensWindows m_openWindows;
     WaylandClipboard m_clipboard;
 };
 

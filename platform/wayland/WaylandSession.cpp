@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/desktops/KWinWindows.h"
 #include "platform/desktops/PortalLink.h"
 #include "platform/desktops/SwayDesktop.h"
 #include "platform/desktops/SwayLock.h"
@@ -25,6 +26,7 @@
 #include "platform/wayland/DesktopServices.h"
 #include "platform/wayland/DesktopSignals.h"
 #include "platform/wayland/PortalPressing.h"
+#include "platform/wayland/ToplevelList.h"
 #include "platform/wayland/VirtualPressing.h"
 #include "platform/wayland/WaylandKeyInjector.h"
 #include "platform/wayland/WaylandKeyboardLayout.h"
@@ -146,13 +148,16 @@ class WaylandSession final : public Session {
             return m_seat.hasOwnKeyboard() ? std::nullopt : std::optional(m_seat.group());
         });
     }
+    Result<std::unique_ptr<ForeignWindows>> openWindows() const {
+        return m_desktop.isKde() ? KWinWindows::open(SessionBus::addressOfProcess()) : ToplevelList::open();
+    }
     bool hasLockerKeyboard() { return m_lock && m_lock->isLocked(); }
     std::unique_ptr<Pressing> makePressing() {
         if (m_desktop.layouts() == nullptr) {
             return std::make_unique<VirtualPressing>(*m_connection, m_seat, m_clock);
         }
         return std::make_unique<PortalPressing>(
-            *m_desktop.layouts(), m_seat, m_clock,
+            *m_connection, *m_desktop.layouts(), m_seat, m_clock,
             PortalLink::Options{.tokenFile = PortalLink::tokenFileOfProcess()});
     }
     xkb_layout_index_t group() {
@@ -193,12 +198,14 @@ class WaylandSession final : public Session {
     std::unique_ptr<Pressing> m_pressing = makePressing();
     WaylandKeyInjector m_injector{*m_connection, m_seat, *m_pressing, m_keys.runWatch(), m_clock};
     WaylandKeyboardLayout m_layout{m_seat};
-    WaylandScriptDesktop m_scriptDesktop;
+    WaylandScriptDesktop m_scriptDesktop{[this] { return openWindows(); }};
     WaylandSessionCheck m_check;
     LockAwareMonitor m_lockAwareMonitor{m_keys, [this] { return hasLockerKeyboard(); }};
     NoEventMonitor m_noMonitor{noMonitor()};
     NoHotKeys m_noHotKeys{noHotKeys()};
-    WaylandWindows m_windows{m_sway.get(), m_clock};
+    std::unique_ptr<XWindowFocus> m_kwin =
+        m_desktop.isKde() ? std::make_unique<KWinXWindows>(SessionBus::addressOfProcess()) : nullptr;
+    WaylandWindows m_windows{m_sway ? m_sway.get() : m_kwin.get(), m_clock};
     NoDockingTray m_tray;
     std::unique_ptr<WaylandLayers> m_layers =
         m_use == SessionUse::desktop ? std::make_unique<WaylandLayers>() : nullptr;

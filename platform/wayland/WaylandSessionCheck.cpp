@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "platform/desktops/GnomeLayouts.h"
+#include "platform/desktops/KWinScripts.h"
 #include "platform/evdev/DirectOpener.h"
 #include "platform/evdev/access/AccessOpener.h"
 #include "platform/linux/BusAddresses.h"
@@ -24,7 +25,7 @@ CapabilityState recordingState() {
     if (evdev::AccessOpener::isInstalled(busAddresses(environmentOfProcess()).system)) {
         return {Extent::fully, Means::accessService, Lack::nothing};
     }
-    return {.lack = Lack::foreignKeys};
+    return {Extent::partly, Means::ownWindow, Lack::foreignKeys};
 }
 
 CapabilityState fullyIf(bool isThere, Means means, Lack lack) {
@@ -57,6 +58,13 @@ CapabilityState textState(const CapabilityState& pressing, const DesktopServices
     return {Extent::partly, Means::portal, canSwitch ? Lack::otherCharacters : Lack::otherLayouts};
 }
 
+CapabilityState windowsState(const DesktopServices& desktop) {
+    if (desktop.isKde() && KWinScripts::isThere(*desktop.bus())) {
+        return {Extent::fully, Means::kwinScripts, Lack::nothing};
+    }
+    return fullyIf(desktop.isSway(), Means::swayTree, Lack::foreignWindows);
+}
+
 }  // namespace
 
 SessionCapabilities WaylandSessionCheck::capabilities() const {
@@ -71,7 +79,7 @@ SessionCapabilities WaylandSessionCheck::capabilities() const {
             .text = textState(pressing, desktop),
             .clipboard = fullyIf(hasClipboard, Means::dataControl, Lack::dataControl),
             .overlay = overlayState(*connection.value()),
-            .windows = fullyIf(desktop.isSway(), Means::swayTree, Lack::foreignWindows),
+            .windows = windowsState(desktop),
             .tray = {.lack = Lack::tray}};
 }
 

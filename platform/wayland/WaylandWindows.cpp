@@ -10,18 +10,18 @@ constexpr std::chrono::milliseconds betweenLooks{5};
 
 }  // namespace
 
-/// The window may not have come to sway yet.
+/// The window may not have come to the compositor yet.
 void WaylandWindows::activate(WindowId window, std::uint32_t /*userTime*/) {
-    if (m_sway == nullptr) return;
+    if (m_compositor == nullptr) return;
     const Clock::Time end = m_clock.now() + longestWait;
-    while (!m_sway->focusXWindow(window) && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
+    while (!m_compositor->focusXWindow(window) && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
 }
 
 void WaylandWindows::awaitFocusElsewhere(WindowId hidden) {
-    if (m_sway == nullptr) return;
+    if (m_compositor == nullptr) return;
     const Clock::Time end = m_clock.now() + longestWait;
     const auto isElsewhere = [&] {
-        const auto front = m_sway->focusedXWindow();
+        const auto front = m_compositor->focusedXWindow();
         return front && (hidden == none || *front != hidden);
     };
     while (!isElsewhere() && m_clock.now() < end) m_clock.sleepFor(betweenLooks);

@@ -3,22 +3,22 @@
 
 #include "platform/Clock.h"
 #include "platform/Windows.h"
-#include "platform/desktops/SwayDesktop.h"
+#include "platform/desktops/XWindowFocus.h"
 
 namespace wayland {
 
-/// The windows of ours that the toolkit shows as X11 windows, where the compositor is sway.
+/// The windows of ours that the toolkit shows as X11 windows.
 class WaylandWindows final : public Windows {
   public:
-    /// `sway` is null elsewhere; both outlive this.
-    WaylandWindows(SwayDesktop* sway, Clock& clock) : m_sway(sway), m_clock(clock) {}
+    /// `compositor` is null where nobody can be asked; both outlive this.
+    WaylandWindows(XWindowFocus* compositor, Clock& clock) : m_compositor(compositor), m_clock(clock) {}
 
     void activate(WindowId window, std::uint32_t userTime) override;
-    /// Sway passes the focus on by itself.
+    /// Compositors pass the focus on by themselves.
     void awaitFocusElsewhere(WindowId hidden) override;
 
   private:
-    SwayDesktop* m_sway;
+    XWindowFocus* m_compositor;
     Clock& m_clock;
 };
 

@@ -16,17 +16,20 @@ class KWinScriptTest : public testing::Test {
     explicit KWinScriptTest(const std::string& layouts = "us")
         : m_kwin({.layouts = layouts, .hasPortal = true}), m_hands(m_kwin.socket()) {}
 
-    /// Lines inside `tell application "System Events"`.
-    std::unique_ptr<Child> start(const std::string& lines) {
-        const std::string script =
-            m_kwin.put("home/script", "tell application \"System Events\"\n" + lines + "\nend tell\n");
-        // The portal answers whoever is the desktop's user.
-        return m_kwin.start({KEYRILL_SCRIPT_TOOL, "run", script}, "output");
+    static std::string keys(const std::string& lines) {
+        return "tell application \"System Events\"\n" + lines + "\nend tell\n";
     }
-    void play(const std::string& lines) {
-        EXPECT_EQ(start(lines)->wait(), 0) << output();
+    std::unique_ptr<Child> startWhole(const std::string& script) {
+        // The portal answers whoever is the desktop's user.
+        return m_kwin.start({KEYRILL_SCRIPT_TOOL, "run", m_kwin.put("home/script", script)}, "output");
+    }
+    void playWhole(const std::string& script) {
+        EXPECT_EQ(startWhole(script)->wait(), 0) << output();
         EXPECT_EQ(output(), "");
     }
+    /// Lines inside `tell application "System Events"`.
+    std::unique_ptr<Child> start(const std::string& lines) { return startWhole(keys(lines)); }
+    void play(const std::string& lines) { playWhole(keys(lines)); }
     std::string output() const { return m_kwin.log("output"); }
 
     const KWin& kwin() const { return m_kwin; }
@@ -104,6 +107,80 @@ TEST_F(KWinScriptTest, combinationsArrive) {
     // All of it is chosen, and typed over.
     play("keystroke \"abc\"\nkeystroke \"a\" using control down\nkeystroke \"x\"");
     EXPECT_EQ(field.text("x"), "x");
+}
+
+class KWinWindowsTest : public KWinScriptTest {
+  protected:
+    /// Whether KWin has a script of ours.
+    bool hasScript() const {
+        return kwin().call({"-d", "org.kde.KWin", "-o", "/Scripting", "-m",
+                            "org.kde.kwin.Scripting.isScriptLoaded", "example.orlen.Keyrill"}) !=
+               "(false,)\n";
+    }
+};
+
+TEST_F(KWinWindowsTest, aScriptBringsAProgramToTheFront) {
+    const Field gtk(kwin(), Field::Toolkit::gtk);
+    const Field qt(kwin(), Field::Toolkit::qt);
+    playWhole("tell application \"GTK Application\" to activate\n" + keys("keystroke \"one\"") +
+              "activate application \"Keyrill_Qt_Field\"\n" + keys("keystroke \"two\""));
+    EXPECT_EQ(gtk.text("one"), "one");
+    EXPECT_EQ(qt.text("two"), "two");
+    hands().stroke({xkey::z});
+    EXPECT_EQ(qt.text("twoz"), "twoz");
+    EXPECT_TRUE(eventually([this] { return !hasScript(); }));
+}
+
+TEST_F(KWinWindowsTest, programsAreNamedFromTheFrontOn) {
+    const Field qt(kwin(), Field::Toolkit::qt);
+    const Field gtk(kwin(), Field::Toolkit::gtk);
+    playWhole("activate application \"GTK Application\"\nset text item delimiters to \",\"\n" +
+              keys("set found to name of every process\nkeystroke found as text\n"
+                   "keystroke (exists (processes whose name is \"nobody\")) as text"));
+    EXPECT_EQ(gtk.text("GTK Application,keyrill_qt_fieldfalse"), "GTK Application,keyrill_qt_fieldfalse");
+}
+
+TEST_F(KWinWindowsTest, aProgramThatHasNoWindowIsNotThere) {
+    const Field field(kwin(), Field::Toolkit::qt);
+    EXPECT_EQ(startWhole("activate application \"nobody\"")->wait(), 1);
+    EXPECT_NE(output().find("-1728"), std::string::npos) << output();
+}
+
+/// As of a process that was killed before it had the script run.
+TEST_F(KWinWindowsTest, aScriptThatWasLeftLoadedGoesWithTheNext) {
+    const Field gtk(kwin(), Field::Toolkit::gtk);
+    const Field qt(kwin(), Field::Toolkit::qt);
+    const std::string file = kwin().put("home/left.js", "workspace.activeClient = null;\n");
+    kwin().call({"-d", "org.kde.KWin", "-o", "/Scripting", "-m", "org.kde.kwin.Scripting.loadScript", file,
+                 "example.orlen.Keyrill"});
+    ASSERT_TRUE(hasScript());
+    playWhole("activate application \"GTK Application\"\n" + keys("keystroke \"one\""));
+    EXPECT_EQ(gtk.text("one"), "one");
+    EXPECT_TRUE(eventually([this] { return !hasScript(); }));
+}
+
+TEST_F(KWinScriptTest, capsLockChangesNothingOfATextAndIsOnAgainAfterIt) {
+    const Field field(kwin(), Field::Toolkit::qt);
+    hands().stroke({xkey::capsLock});
+    play("keystroke \"abCD 1!\"");
+    EXPECT_EQ(field.text("abCD 1!"), "abCD 1!");
+    hands().stroke({xkey::z});
+    EXPECT_EQ(field.text("abCD 1!Z"), "abCD 1!Z");
+}
+
+TEST_F(KWinScriptTest, capsLockIsOnAgainWhereTheRunIsKilled) {
+    const Field field(kwin(), Field::Toolkit::qt);
+    hands().stroke({xkey::capsLock});
+    const auto player = start("keystroke \"" + std::string(3000, 'a') + "\"");
+    ASSERT_TRUE(eventually([&] { return field.text().ends_with("aaa"); })) << field.text();
+    player->signal(SIGKILL);
+    player->wait();
+    // Whoever puts it back needs a moment.
+    ASSERT_TRUE(eventually([&] {
+        hands().stroke({xkey::z});
+        return field.text().ends_with("Z");
+    })) << field.text();
+    EXPECT_LT(field.text().size(), 3000U);
 }
 
 class KWinDeathTest : public KWinScriptTest, public testing::WithParamInterface<int> {};

@@ -2,6 +2,7 @@
 #include "platform/desktops/portal/PortalSession.h"
 
 #include <fcntl.h>
+#include <linux/input-event-codes.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -21,6 +22,7 @@ using portalnames::service;
 
 constexpr const char* face = "org.freedesktop.portal.RemoteDesktop";
 constexpr std::uint32_t keyboards = 1;
+constexpr std::array<std::uint16_t, 3> locks{KEY_CAPSLOCK, KEY_NUMLOCK, KEY_SCROLLLOCK};
 /// Until the user takes it back.
 constexpr std::uint32_t forGood = 2;
 /// Since which a permission can be known again.
@@ -155,6 +157,8 @@ void PortalSession::keepToken(GVariant* results) const {
 void PortalSession::key(std::uint16_t keycode, bool press) {
     if (m_state != State::open) return;
     m_down[keycode] = press;
+    const bool isLock = std::find(locks.begin(), locks.end(), keycode) != locks.end();
+    if (press && isLock) m_switched.flip(keycode);
     GVariantBuilder options = portalOptions();
     const bool isTaken = call(object, face, "NotifyKeyboardKeycode",
                               g_variant_new("(oa{sv}iu)", m_session.c_str(), &options,
@@ -194,6 +198,11 @@ void PortalSession::close() {
     m_request.stop();
     for (std::size_t keycode = 0; keycode < m_down.size(); ++keycode) {
         if (m_down[keycode]) key(static_cast<std::uint16_t>(keycode), false);
+    }
+    for (const std::uint16_t keycode : locks) {
+        if (!m_switched[keycode]) continue;
+        key(keycode, true);
+        key(keycode, false);
     }
     m_state = State::closed;
     if (m_closed != 0) g_dbus_connection_signal_unsubscribe(m_bus.get(), std::exchange(m_closed, 0));

@@ -33,7 +33,9 @@ class PortalSession {
     void key(std::uint16_t keycode, bool press);
     /// Waits until the part of the desktop that presses keys has taken all of them.
     void synchronise();
-    /// Releases what is down, and gives the permission back.
+    /// What is locked is as it was wanted: close() leaves it so.
+    void keepLocks() { m_switched.reset(); }
+    /// Releases what is down, puts locks back that were switched since, and gives the permission back.
     void close();
 
   private:
@@ -64,4 +66,6 @@ class PortalSession {
     guint m_closed = 0;
     guint m_watch = 0;
     std::bitset<65536> m_down;
+    /// Keys of locks that have been pressed an odd number of times.
+    std::bitset<65536> m_switched;
 };

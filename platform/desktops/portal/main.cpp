@@ -49,6 +49,7 @@ class Portal {
             case PortalMessage::Kind::sync:
                 return m_session.synchronise();
             case PortalMessage::Kind::rest:
+                m_session.keepLocks();
                 m_timer = g_timeout_add_seconds(m_rest, hasRested, this);
         }
     }

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/desktops/ForeignWindows.h"
+#include "platform/desktops/KWinScripts.h"
+#include "platform/desktops/XWindowFocus.h"
+
+/// The ordinary windows and dialogs that KWin shows.
+class KWinWindows final : public ForeignWindows {
+  public:
+    /// Asks the KWin on the bus of that address.
+    static Result<std::unique_ptr<ForeignWindows>> open(const std::string& bus);
+
+    std::vector<ForeignWindow> windows() const override;
+    Result<void> activate(std::size_t place) override;
+
+  private:
+    struct Window {
+        /// KWin's own name for it.
+        std::string id;
+        ForeignWindow window;
+    };
+
+    explicit KWinWindows(const std::string& bus) : m_scripts(bus) {}
+    Result<void> ask();
+
+    KWinScripts m_scripts;
+    std::vector<Window> m_windows;
+};
+
+/// The focus among the X11 windows that KWin shows.
+class KWinXWindows final : public XWindowFocus {
+  public:
+    explicit KWinXWindows(std::string bus) : m_bus(std::move(bus)) {}
+
+    std::optional<std::uint32_t> focusedXWindow() override;
+    Result<void> focusXWindow(std::uint32_t xWindow) override;
+
+  private:
+    std::string m_bus;
+};
