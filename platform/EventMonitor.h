@@ -7,6 +7,8 @@
 #include "platform/KeyEvent.h"
 #include "platform/Result.h"
 
+class WindowKeys;
+
 /// The keyboard events of every application, in the order in which the user made them.
 ///
 /// - A held key gives one key-down and as many auto-repeats as the focused application got. Redundant presses
@@ -60,14 +62,19 @@ class EventMonitor {
 
     /// What becomes of a recording where the desktop shows keys only to whom the user allows it.
     enum class Access {
-        asked,  ///< it is being asked for; no key is seen until it is given
-        given,  ///< keys are seen
-        ended,  ///< it was refused, or has ended in the middle: no key is seen any more
+        asked,    ///< it is being asked for; no key is seen until it is given
+        given,    ///< keys are seen
+        refused,  ///< none has been seen, and none will be
+        ended,    ///< it has ended in the middle: no key is seen any more
     };
     using AccessObserver = std::function<void(Access access, const std::optional<Error>& why)>;
     /// Who is told of each change of it while a macro is being recorded, once the keys seen before have been
-    /// delivered; at most one. Access that is given at once is not told. `why` is set where it has ended.
+    /// delivered; at most one. Access that is given at once is not told. `why` is set where it was refused or
+    /// has ended.
     virtual void observeAccess(AccessObserver /*changed*/) {}
+    /// By which a recording that may see no keys records those of a window of ours; null where there is no
+    /// such recording.
+    virtual WindowKeys* windowKeys() { return nullptr; }
 
     /// Who is told when, in a recording, key presses are no longer delivered because another program has the
     /// keyboard to itself, and when they are again; at most one.

@@ -38,7 +38,10 @@ void AccessDesk::follow(EventMonitor::Access access, const std::optional<Error>&
     m_explains.stop();
     if (access == EventMonitor::Access::given) return restartLastEventTime();
     // Not from within the monitor: the alert waits for its answer.
-    QTimer::singleShot(0, this, [this, error = why.value_or(Error())] { endRecording(error); });
+    const bool hasSeenNone = access == EventMonitor::Access::refused;
+    QTimer::singleShot(0, this, [this, hasSeenNone, error = why.value_or(Error())] {
+        hasSeenNone ? goOnWithout(error) : endRecording(error);
+    });
 }
 
 void AccessDesk::tellWhy() {
@@ -48,6 +51,11 @@ void AccessDesk::tellWhy() {
         tr("To record what you type in other programs, Keyrill has to read the keyboard until the recording "
            "ends. That is why you are asked for your password.")
             .toStdString());
+}
+
+void AccessDesk::goOnWithout(const Error& why) {
+    if (m_monitor.windowKeys() == nullptr) return endRecording(why);
+    if (engineState().recording) emit refused(why);
 }
 
 void AccessDesk::endRecording(const Error& why) {

@@ -21,9 +21,14 @@ class AccessDesk : public QObject {
     AccessDesk(EventMonitor& monitor, Notifications& notifications, Dialogs& dialogs, OverlayDesk& overlays);
     ~AccessDesk() override;
 
+  signals:
+    /// Keys may not be seen, and those of a window of ours can be recorded in their place.
+    void refused(const Error& why);
+
   private:
     void follow(EventMonitor::Access access, const std::optional<Error>& why);
     void tellWhy();
+    void goOnWithout(const Error& why);
     void endRecording(const Error& why);
 
     EventMonitor& m_monitor;

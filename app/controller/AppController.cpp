@@ -10,6 +10,7 @@
 #include "app/overlay/SplashWindow.h"
 #include "app/panels/AboutPanel.h"
 #include "app/panels/PreferencesPanel.h"
+#include "app/panels/RecordHerePanel.h"
 #include "app/panels/WelcomePanel.h"
 #include "app/shortcuts/ShortcutTitles.h"
 #include "engine/EngineState.h"
@@ -50,6 +51,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_filesDesk(services.macroFiles, services.notifications, m_scriptNotices, m_dialogs, m_gate, m_stage),
       m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, m_dialogs, m_stage),
       m_accessDesk(services.eventMonitor, services.notifications, m_dialogs, m_overlayDesk),
+      m_recordHereDesk(services.eventMonitor, services.hotKeys, m_preferencesDesk.model.stop, m_stage),
       statusItem(item) {
     timer.setSingleShot(true);
     m_killTimer.setSingleShot(true);
@@ -75,6 +77,8 @@ void AppController::connectDesks() {
         connect(&shortcut, &ShortcutModel::keyComboDidChange, this,
                 [this, &shortcut] { shortcutRecorderKeyComboDidChange(&shortcut); });
     }
+    connect(&m_accessDesk, &AccessDesk::refused, &m_recordHereDesk, &RecordHereDesk::begin);
+    connect(&m_recordHereDesk, &RecordHereDesk::helpWanted, this, [this] { openDocumentation(nullptr); });
     connect(&m_overlayDesk, &OverlayDesk::promptConfirmed, this,
             [this] { perform(&AppController::doMultiplePlay, multiplePlayWindow()); });
 }
@@ -180,6 +184,6 @@ void AppController::noteHotKey(HotKeyId id, const HotKeyState& state) {
 }
 
 std::vector<QWidget*> AppController::ordinaryWindows() const {
-    return {multiplePlayWindow(), preferencesWindow(), aboutPanel(),
-            welcomePanel(),       splashWindow(),      statusItem.window()};
+    return {multiplePlayWindow(), preferencesWindow(), aboutPanel(),       welcomePanel(),
+            recordHerePanel(),    splashWindow(),      statusItem.window()};
 }

@@ -19,6 +19,7 @@
 #include "app/controller/MenuDesk.h"
 #include "app/controller/OverlayDesk.h"
 #include "app/controller/PreferencesDesk.h"
+#include "app/controller/RecordHereDesk.h"
 #include "app/controller/ScriptNotices.h"
 #include "app/controller/ScriptQuestions.h"
 #include "app/controller/Stage.h"
@@ -174,6 +175,7 @@ class AppController : public QObject, public SharedController {
     FilesDesk m_filesDesk;
     PreferencesDesk m_preferencesDesk;
     AccessDesk m_accessDesk;
+    RecordHereDesk m_recordHereDesk;
     std::unique_ptr<WelcomePanel> m_welcomePanel;
 
   public:
@@ -198,6 +200,7 @@ class AppController : public QObject, public SharedController {
     SplashWindow& builtSplashWindow() { return m_overlayDesk.builtSplash(); }
     PreferencesPanel* preferencesWindow() const { return m_preferencesDesk.panel(); }
     AboutPanel* aboutPanel() const { return m_helpDesk.aboutPanel(); }
+    RecordHerePanel* recordHerePanel() const { return m_recordHereDesk.panel(); }
     WelcomePanel* welcomePanel() const { return m_welcomePanel.get(); }
     /// Builds the preferences panel if need be; not shown in builds without the update check.
     QPushButton* checkForUpdatesNowButton() { return m_preferencesDesk.checkForUpdatesNowButton(); }

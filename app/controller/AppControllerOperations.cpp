@@ -165,7 +165,10 @@ void AppController::addMacro(const boost::shared_ptr<Macro>& macro) {
     connect(item, &QAction::triggered, this, [this, item] { perform(&AppController::runMacro, item); });
 }
 
-void AppController::setMacroString(const std::string& text) { m_overlayDesk.setMacroString(text); }
+void AppController::setMacroString(const std::string& text) {
+    m_overlayDesk.setMacroString(text);
+    m_recordHereDesk.setMacroString(text);
+}
 
 void AppController::currentMacroChanged() { m_menuDesk.update(); }
 
@@ -216,6 +219,7 @@ void AppController::showRecordingGui() {
 void AppController::hideRecordingGui() {
     m_menuDesk.recordingEnds();
     m_overlayDesk.hideRecorder();
+    m_recordHereDesk.end();
 }
 
 void AppController::cannotRecord(const Error& why) { m_dialogs.runAlert(alerts::cannotRecord(why)); }

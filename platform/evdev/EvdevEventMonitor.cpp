@@ -42,6 +42,8 @@ void EvdevEventMonitor::setRecording(bool recording) { m_parts->setRecording(rec
 void EvdevEventMonitor::observeHold(std::function<void(bool held)> /*changed*/) {}
 void EvdevEventMonitor::observeAccess(AccessObserver changed) { m_parts->observeAccess(std::move(changed)); }
 
+WindowKeys* EvdevEventMonitor::windowKeys() { return &m_parts->windowKeys(); }
+
 void EvdevEventMonitor::install(HotKeys::Handler pressed, HotKeys::Handler released) {
     m_parts->deliverer().setHotKeyHandlers(std::move(pressed), std::move(released));
 }

@@ -95,6 +95,7 @@ class EvdevEventMonitor final : public EventSource, public EventMonitor, public 
     /// Nobody is told: no program of a Wayland session has the keyboard to itself.
     void observeHold(std::function<void(bool held)> changed) override;
     void observeAccess(AccessObserver changed) override;
+    WindowKeys* windowKeys() override;
 
     // HotKeys
     void install(HotKeys::Handler pressed, HotKeys::Handler released) override;

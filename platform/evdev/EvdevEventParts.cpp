@@ -16,6 +16,8 @@ EvdevEventMonitor::Parts::Parts(const Session& session, std::unique_ptr<Keymap> 
       m_interpreter(m_keyboard, m_cancel),
       m_stream({session.clock, m_keyboard, m_cancel, m_hands, m_hotKeys, m_echoes}, m_interpreter),
       m_keyboards({session.opener, session.calls, session.folders}, m_wakeups, m_stream),
+      m_window(
+          m_stream, session.clock, [this] { recordWindow(); }, [this] { m_wakeups.kick(); }),
       m_layout(session.layout),
       m_isDesktopLost(session.isDesktopLost) {}
 
@@ -71,21 +73,23 @@ void EvdevEventMonitor::Parts::followNeed(DeviceOpener::Question question) {
         m_stream.end();
     } else if (isNeeded) {
         if (!m_isNeeded) m_stream.begin(layout());
-        m_keyboards.open(question);
+        if (!m_window.isUsed()) m_keyboards.open(question);
     }
     m_isNeeded = isNeeded;
     m_wakeups.kick();
 }
 
 EventMonitor::Access EvdevEventMonitor::Parts::access() const {
-    if (!m_recording || m_keyboards.isOpen()) return EventMonitor::Access::given;
-    return m_keyboards.problem() ? EventMonitor::Access::ended : EventMonitor::Access::asked;
+    if (!m_recording || m_window.isUsed() || m_keyboards.isOpen()) return EventMonitor::Access::given;
+    if (!m_keyboards.problem()) return EventMonitor::Access::asked;
+    return m_hasSeenKeys ? EventMonitor::Access::ended : EventMonitor::Access::refused;
 }
 
 void EvdevEventMonitor::Parts::tellAccess() {
+    m_hasSeenKeys = m_hasSeenKeys || m_keyboards.isOpen();
     const EventMonitor::Access now = access();
     if (std::exchange(m_toldAccess, now) == now || !m_recording || !m_accessChanged) return;
-    const bool hasEnded = now == EventMonitor::Access::ended;
+    const bool hasEnded = now == EventMonitor::Access::refused || now == EventMonitor::Access::ended;
     // A copy: it may be replaced, and the recording be ended, from within.
     const EventMonitor::AccessObserver changed = m_accessChanged;
     changed(now, hasEnded ? m_keyboards.problem() : std::nullopt);
@@ -104,6 +108,11 @@ void EvdevEventMonitor::Parts::runEnds() {
     // What the user has switched meanwhile was not told from what the run did.
     if (m_recording) setLayout(layout());
     followNeed(DeviceOpener::Question::avoided);
+}
+
+void EvdevEventMonitor::Parts::expectOwnKey(std::uint8_t keycode, bool press) {
+    m_stream.ownKey(keycode, press);
+    m_window.ownKey(keycode, press);
 }
 
 bool EvdevEventMonitor::Parts::liftHotKey(std::uint8_t keycode, std::uint16_t modifiers) {
@@ -196,9 +205,19 @@ void EvdevEventMonitor::Parts::setRecording(bool recording) {
     read();
     m_recording = recording;
     m_toldAccess = EventMonitor::Access::given;
+    m_window.setUsed(false);
     if (!recording) m_interpreter.setRecording(false);
     followNeed(DeviceOpener::Question::allowed);
+    m_hasSeenKeys = m_keyboards.isOpen();
     if (recording) m_interpreter.setRecording(true);
+}
+
+/// Should the keyboards be shown later, what is typed would come twice.
+void EvdevEventMonitor::Parts::recordWindow() {
+    if (!m_recording) return;
+    m_keyboards.close();
+    m_window.setUsed(true);
+    m_wakeups.kick();
 }
 
 // What was pressed before a switch is judged by what held then.

@@ -8,6 +8,7 @@
 
 #include "platform/evdev/EvdevEventMonitor.h"
 #include "platform/evdev/KeyStream.h"
+#include "platform/evdev/WindowKeyboard.h"
 #include "platform/monitor/Deliverer.h"
 #include "platform/run/RunWatch.h"
 #include "platform/run/Wakeups.h"
@@ -24,7 +25,7 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     // RunWatch
     void runStarts() override;
     void runEnds() override;
-    void expectOwnKey(std::uint8_t keycode, bool press) override { m_stream.ownKey(keycode, press); }
+    void expectOwnKey(std::uint8_t keycode, bool press) override;
     int fileDescriptor() const override { return m_wakeups.fileDescriptor(); }
     void drain() override;
     void startPlayback() override { m_cancel.start(); }
@@ -57,6 +58,7 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     void setRecording(bool recording);
     void endPlaysWhen(std::function<bool()> isLocked) { m_isLocked = std::move(isLocked); }
     void observeAccess(EventMonitor::AccessObserver changed) { m_accessChanged = std::move(changed); }
+    WindowKeys& windowKeys() { return m_window; }
 
   private:
     void read();
@@ -69,6 +71,7 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     bool isHotKeyDown() const { return !m_desktopDown.empty(); }
     void followNeed(DeviceOpener::Question question);
     EventMonitor::Access access() const;
+    void recordWindow();
     void tellAccess();
     xkb_layout_index_t layout() const { return m_layout ? m_layout() : 0; }
 
@@ -82,6 +85,7 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     KeyStream m_stream;
     Wakeups m_wakeups;
     Keyboards m_keyboards;
+    WindowKeyboard m_window;
     Deliverer m_deliverer;
 
     std::function<xkb_layout_index_t()> m_layout;
@@ -98,6 +102,8 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     std::optional<Clock::Time> m_assumedUntil;
     bool m_isNeeded = false;
     bool m_recording = false;
+    /// Whether the recording has seen the keyboards.
+    bool m_hasSeenKeys = false;
     bool m_running = false;
     bool m_withheld = false;
 };

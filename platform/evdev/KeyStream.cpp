@@ -29,6 +29,7 @@ void KeyStream::end() {
     const std::vector<std::uint16_t> keyboards = m_keyboards;
     for (const std::uint16_t keyboard : keyboards) keyboardGone(keyboard);
     assumeNone();
+    windowLeft();
     releaseOwnKeys();
     m_repeats.stop();
 }
@@ -84,7 +85,31 @@ void KeyStream::key(std::uint16_t keyboard, const DeviceKey& key) {
     m_rules.hands.key(raw, false);
     if (!m_seat.change(keyboard, key.keycode, key.press)) return;
     raw.source = seat;
+    const bool isHotKey = pass(raw, time);
+    followRepeats(raw, isHotKey, time);
+}
+
+void KeyStream::windowKey(const WindowKey& key) {
+    const RepeatCounter::Time time = now();
+    const bool isPress = key.kind != WindowKey::Kind::release;
+    RawKey raw{.keycode = key.keycode, .press = isPress, .source = window, .time = serverTime(time)};
+    adoptLocks(key.modifiers);
+    if (key.kind == WindowKey::Kind::repeat) return m_interpreter.repeatByKeyboard(raw);
+    m_rules.hands.key(raw, false);
+    if (!m_seat.change(window, key.keycode, isPress)) return;
+    raw.source = seat;
     pass(raw, time);
+}
+
+/// They may have been switched where nobody told of it.
+void KeyStream::adoptLocks(xkb_mod_mask_t inForce) {
+    const xkb_mod_mask_t locks = m_rules.keyboard.keymap().masks().locks();
+    XkbComponents components = m_rules.keyboard.components();
+    const xkb_mod_mask_t locked = (components.locked & ~locks) | (inForce & locks);
+    if (locked == components.locked) return;
+    components.locked = locked;
+    m_rules.keyboard.confirm(components, 0, false);
+    m_rules.hotKeys.followLocks();
 }
 
 void KeyStream::keyboardGone(std::uint16_t keyboard) {
@@ -97,7 +122,7 @@ void KeyStream::keyboardGone(std::uint16_t keyboard) {
     }
 }
 
-void KeyStream::pass(const RawKey& key, RepeatCounter::Time time) {
+bool KeyStream::pass(const RawKey& key, RepeatCounter::Time time) {
     repeatBefore(time);
     KeyOrigin origin;
     if (key.press) {
@@ -107,10 +132,10 @@ void KeyStream::pass(const RawKey& key, RepeatCounter::Time time) {
     }
     m_interpreter.key(key, origin);
     m_rules.hotKeys.followLocks();
-    followRepeats(key, origin.grabbed, time);
-    if (!origin.hotKey) return;
+    if (!origin.hotKey) return false;
     m_rules.echoes.expect(*origin.hotKey, m_rules.clock.now());
     noteHotKey(*origin.hotKey);
+    return true;
 }
 
 void KeyStream::followRepeats(const RawKey& key, bool isHotKey, RepeatCounter::Time time) {

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "platform/Clock.h"
+#include "platform/WindowKeys.h"
 #include "platform/evdev/HotKeyEchoes.h"
 #include "platform/evdev/Keyboards.h"
 #include "platform/evdev/RepeatCounter.h"
@@ -40,6 +41,11 @@ class KeyStream final : public KeyboardListener {
     /// All keys of the running script are up.
     void releaseOwnKeys();
 
+    /// A key of a window of ours, whose program counts the repeats itself and knows the locks.
+    void windowKey(const WindowKey& key);
+    /// What is down there is up.
+    void windowLeft() { keyboardGone(window); }
+
     /// Before the first keyboard: the layout that is locked.
     void begin(xkb_layout_index_t layout);
     /// Nothing is known of any keyboard any more: what was down is up.
@@ -69,14 +75,18 @@ class KeyStream final : public KeyboardListener {
     RepeatCounter::Time now() const;
 
   private:
-    /// All keyboards as one, the running script as another, and what the desktop lets guess of the first.
+    /// All keyboards as one, the running script as another; and what makes up the first beside keyboards:
+    /// what the desktop lets guess, and a window of ours.
     static constexpr std::uint16_t seat = 1;
     static constexpr std::uint16_t script = 2;
     static constexpr std::uint16_t desktop = 3;
+    static constexpr std::uint16_t window = 4;
 
     void adoptLights(const std::vector<NewKeyboard>& keyboards);
     void startWith(std::uint16_t keyboard, const KeycodeSet& down);
-    void pass(const RawKey& key, RepeatCounter::Time time);
+    void adoptLocks(xkb_mod_mask_t inForce);
+    /// Whether the key is a hot key.
+    bool pass(const RawKey& key, RepeatCounter::Time time);
     void followRepeats(const RawKey& key, bool isHotKey, RepeatCounter::Time time);
     void repeatBefore(RepeatCounter::Time time);
 

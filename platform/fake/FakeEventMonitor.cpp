@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/fake/FakeEventMonitor.h"
 
+#include <array>
 #include <utility>
 
 Result<void> FakeEventMonitor::install(Handler handler) {
@@ -15,6 +16,12 @@ void FakeEventMonitor::setRecording(bool recording) {
     // The end of a recording is no end of a hold that anybody is told of.
     if (!m_recording) m_held = false;
     followHold();
+}
+
+void FakeEventMonitor::FakeWindowKeys::key(const WindowKey& key) {
+    constexpr std::array<const char*, 3> kinds{"press", "repeat", "release"};
+    told.push_back(std::string(kinds.at(static_cast<std::size_t>(key.kind))) + " " +
+                   std::to_string(key.keycode) + " " + std::to_string(key.modifiers));
 }
 
 void FakeEventMonitor::programHoldsKeyboard(bool holds) {

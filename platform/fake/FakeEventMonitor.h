@@ -4,9 +4,12 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/EventMonitor.h"
+#include "platform/WindowKeys.h"
 #include "platform/fake/FakeDesktop.h"
 #include "platform/fake/Journal.h"
 
@@ -24,6 +27,12 @@ class FakeEventMonitor : public EventMonitor {
     void observeHold(std::function<void(bool)> changed) override { m_holdChanged = std::move(changed); }
 
     void observeAccess(AccessObserver changed) override { m_accessChanged = std::move(changed); }
+    WindowKeys* windowKeys() override { return hasWindowKeys ? &m_windowKeys : nullptr; }
+
+    /// Whether recordings may take the keys of a window.
+    bool hasWindowKeys = false;
+    /// What that window has told: "begin", "press 38 0", "leave".
+    const std::vector<std::string>& toldByWindow() const { return m_windowKeys.told; }
 
     /// What shortcoming() tells.
     std::optional<Error> lacking;
@@ -54,12 +63,21 @@ class FakeEventMonitor : public EventMonitor {
     bool keepsOwnStrokes() const { return m_keepsOwnStrokes; }
 
   private:
+    struct FakeWindowKeys final : public WindowKeys {
+        void begin() override { told.emplace_back("begin"); }
+        void key(const WindowKey& key) override;
+        void leave() override { told.emplace_back("leave"); }
+
+        std::vector<std::string> told;
+    };
+
     void followHold();
     void deliver(const KeyEvent& event) const;
     void deliverModifiers(std::uint32_t mask) const;
 
     Journal& m_journal;
     FakeDesktop& m_desktop;
+    FakeWindowKeys m_windowKeys;
     Handler m_handler;
     std::function<void(bool)> m_holdChanged;
     AccessObserver m_accessChanged;

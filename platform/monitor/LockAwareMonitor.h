@@ -24,6 +24,7 @@ class LockAwareMonitor final : public EventMonitor {
     /// Told with the first key press that is kept back, and with the first that is delivered again.
     void observeHold(std::function<void(bool held)> changed) override;
     void observeAccess(AccessObserver changed) override { m_monitor.observeAccess(std::move(changed)); }
+    WindowKeys* windowKeys() override { return m_monitor.windowKeys(); }
 
   private:
     void deliver(const KeyEvent& event);

@@ -13,6 +13,12 @@ class Compositor {
     virtual const std::map<std::string, std::string>& environment() const = 0;
     /// Gives the focus to the window with that title; false while there is none.
     virtual bool focus(const std::string& title) const = 0;
+    /// Asks the window with that title to close, as its frame does.
+    virtual void close(const std::string& title) const = 0;
+    /// Whether keys go to the window with that title.
+    virtual bool hasFocus(const std::string& title) const = 0;
+    /// Whether there is a window with that title.
+    virtual bool shows(const std::string& title) const = 0;
 
   protected:
     Compositor() = default;

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 #include <initializer_list>
-#include <thread>
+#include <string>
 
 /// The hands of a person at a compositor. Each press and release has reached it when its function returns.
 ///
@@ -16,17 +15,9 @@ class Hands {
     void press(std::uint8_t keycode) { send(keycode, true); }
     void release(std::uint8_t keycode) { send(keycode, false); }
     /// Presses all in order, and releases them in the opposite one, at the pace of a person.
-    void stroke(std::initializer_list<std::uint8_t> keycodes) {
-        constexpr std::chrono::milliseconds gap{30};
-        for (const std::uint8_t keycode : keycodes) {
-            std::this_thread::sleep_for(gap);
-            press(keycode);
-        }
-        for (const auto* keycode = keycodes.end(); keycode != keycodes.begin();) {
-            std::this_thread::sleep_for(gap);
-            release(*--keycode);
-        }
-    }
+    void stroke(std::initializer_list<std::uint8_t> keycodes);
+    /// Small letters, capitals, digits, blanks and full stops of a US keyboard.
+    void type(const std::string& text);
 
   protected:
     Hands() = default;

@@ -195,3 +195,8 @@ bool KWin::focus(const std::string& title) const {
                "') workspace.activeClient = windows[i];\n"
                "say(workspace.activeClient ? workspace.activeClient.caption : '');") == title;
 }
+
+void KWin::close(const std::string& title) const {
+    run("workspace.clientList().forEach(function (one) { if (one.caption == '" + title +
+        "') one.closeWindow(); });\nsay('');");
+}

@@ -30,8 +30,9 @@ class KWin final : public Compositor {
     /// With the session bus; no X server among it unless asked for.
     const std::map<std::string, std::string>& environment() const override { return m_environment; }
     bool focus(const std::string& title) const override;
-    /// Whether there is a window with that title.
-    bool shows(const std::string& title) const;
+    void close(const std::string& title) const override;
+    bool hasFocus(const std::string& title) const override { return front() == title; }
+    bool shows(const std::string& title) const override;
     /// The title of the window that has the focus, empty without one.
     std::string front() const;
     /// The compositor's socket, an absolute path.

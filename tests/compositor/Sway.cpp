@@ -67,6 +67,12 @@ std::string Sway::message(const std::vector<std::string>& arguments) const {
     return outputOf(command, m_environment);
 }
 
+bool Sway::hasFocus(const std::string& title) const {
+    return tries({"[con_id=__focused__ title=\"^" + title + "$\"] nop"});
+}
+
+bool Sway::shows(const std::string& title) const { return tries({"[title=\"^" + title + "$\"] nop"}); }
+
 bool Sway::focus(const std::string& title) const { return tries({"[title=\"^" + title + "$\"] focus"}); }
 
 bool Sway::tries(const std::vector<std::string>& arguments) const {

@@ -25,6 +25,9 @@ class Sway final : public Compositor {
     /// No X server among it unless asked for.
     const std::map<std::string, std::string>& environment() const override { return m_environment; }
     bool focus(const std::string& title) const override;
+    void close(const std::string& title) const override { message({"[title=\"^" + title + "$\"] kill"}); }
+    bool hasFocus(const std::string& title) const override;
+    bool shows(const std::string& title) const override;
     /// The compositor's socket, an absolute path.
     std::string socket() const { return m_folder.file("wayland-1"); }
     Child& program() { return *m_program; }

@@ -41,7 +41,7 @@ class FailingOpener final : public evdev::DeviceOpener {
         m_fails ? opened(Error{"Refused.", ""}) : m_direct.open(held, question, std::move(opened));
     }
     void close() override { m_direct.close(); }
-    void fail() { m_fails = true; }
+    void fail(bool fails = true) { m_fails = fails; }
 
   private:
     evdev::DirectOpener m_direct;

@@ -194,7 +194,7 @@ TEST_P(EvdevMonitorTest, aKeyboardThatMayNotBeReadAnyMoreIsToldOf) {
     evdevWorld().keyboard()->revoke();
     EXPECT_EQ(delivered(), (Log{"up 0"}));
     EXPECT_EQ(told,
-              std::vector<std::string>{"2 The keyboard can no longer be read: the permission has ended."});
+              std::vector<std::string>{"3 The keyboard can no longer be read: the permission has ended."});
 }
 
 TEST_P(EvdevMonitorTest, withheldPressesAreNotDelivered) {

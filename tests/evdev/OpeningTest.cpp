@@ -61,8 +61,17 @@ class OpeningTest : public testing::Test {
     }
 
     static std::string words(EventMonitor::Access access) {
-        if (access == EventMonitor::Access::given) return "given";
-        return access == EventMonitor::Access::asked ? "asked" : "ended";
+        switch (access) {
+            case EventMonitor::Access::asked:
+                return "asked";
+            case EventMonitor::Access::given:
+                return "given";
+            case EventMonitor::Access::refused:
+                return "refused";
+            case EventMonitor::Access::ended:
+                return "ended";
+        }
+        return "?";
     }
     std::vector<evdev::OpenedDevice> opened(int number) const {
         const std::string name = "event" + std::to_string(number);
@@ -106,13 +115,13 @@ TEST_F(OpeningTest, aRefusalIsToldOnceAndTheNextRecordingAsksAgain) {
     m_opener.answer(refused);
     m_monitor.dispatch();
     m_monitor.dispatch();
-    EXPECT_EQ(m_told, Log{"ended Refused."});
+    EXPECT_EQ(m_told, Log{"refused Refused."});
     m_monitor.setRecording(false);
     m_monitor.setRecording(true);
     m_opener.answer(refused);
     m_monitor.dispatch();
     EXPECT_EQ(m_opener.log, (Log{"asked beside", "closed", "asked beside"}));
-    EXPECT_EQ(m_told, (Log{"ended Refused.", "ended Refused."}));
+    EXPECT_EQ(m_told, (Log{"refused Refused.", "refused Refused."}));
 }
 
 TEST_F(OpeningTest, aQuestionThatTakesAWhileIsToldAndItsAnswer) {

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <chrono>
 #include <filesystem>
 #include <stdexcept>
@@ -28,19 +27,6 @@ input_event eventNow(std::uint16_t type, std::uint16_t code, std::int32_t value)
     event.code = code;
     event.value = value;
     return event;
-}
-
-/// The key, by its X key code, that a US keyboard has the character on.
-std::uint8_t keyOf(char character) {
-    const std::string rows[] = {"1234567890", "qwertyuiop", "asdfghjkl", "zxcvbnm"};
-    const std::uint8_t firsts[] = {xkey::one, xkey::q, xkey::a, xkey::z};
-    for (std::size_t row = 0; row < std::size(rows); ++row) {
-        const std::size_t place = rows[row].find(character);
-        if (place != std::string::npos) return static_cast<std::uint8_t>(firsts[row] + place);
-    }
-    if (character == ' ') return xkey::space;
-    if (character == '.') return xkey::period;
-    throw std::runtime_error(std::string("no key for ") + character);
 }
 
 }  // namespace
@@ -102,12 +88,4 @@ void AccessWorld::key(std::uint8_t keycode, bool press, pid_t reader) const {
 void ShownHands::send(std::uint8_t keycode, bool press) {
     m_world.key(keycode, press, m_reader);
     press ? m_hands.press(keycode) : m_hands.release(keycode);
-}
-
-void ShownHands::type(const std::string& text) {
-    for (const char character : text) {
-        const bool isCapital = std::isupper(static_cast<unsigned char>(character)) != 0;
-        const auto small = static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
-        isCapital ? stroke({xkey::shift, keyOf(small)}) : stroke({keyOf(small)});
-    }
 }

@@ -46,9 +46,6 @@ class ShownHands final : public Hands {
     ShownHands(AccessWorld& world, Hands& hands, pid_t reader)
         : m_world(world), m_hands(hands), m_reader(reader) {}
 
-    /// Small letters, capitals, digits, blanks and full stops of a US keyboard.
-    void type(const std::string& text);
-
   private:
     void send(std::uint8_t keycode, bool press) override;
 

@@ -4,46 +4,14 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
-#include <filesystem>
-
 #include "compositor/Field.h"
-#include "compositor/KWin.h"
-#include "compositor/KWinHands.h"
-#include "support/Keys.h"
+#include "wayland/KWinProgram.h"
 
 namespace {
 
-class KWinProgramTest : public testing::TestWithParam<const char*> {
+class KWinProgramTest : public KWinProgram, public testing::TestWithParam<const char*> {
   protected:
-    KWinProgramTest()
-        : m_kwin({.layouts = GetParam(), .hasXServer = true, .hasPortal = true}), m_hands(m_kwin.socket()) {
-        const std::string presets = m_kwin.put("presets/keyrill/keyrill.conf", contentOf(KEYRILL_PRESETS));
-        m_presets = std::filesystem::path(presets).parent_path().parent_path();
-        // Nobody is greeted.
-        m_kwin.put("home/.config/keyrill/keyrill.conf", "[Settings]\nnotFirstRun=true\n");
-    }
-
-    /// Starts the program with a macro of these lines, and waits until it is up.
-    void start(const std::string& lines) {
-        const std::string macro =
-            m_kwin.put("home/macro.keyrill", "tell application \"System Events\"\n" + lines + "\nend tell\n");
-        m_program = m_kwin.start({KEYRILL_PRODUCT, macro}, "output", {{"XDG_CONFIG_DIRS", m_presets}});
-        // Without a tray a small window appears, once the program is up.
-        if (!eventually([this] { return m_kwin.shows("Keyrill"); }, std::chrono::seconds(30))) {
-            throw std::runtime_error("the program does not start: " + m_kwin.log("output"));
-        }
-    }
-    void strokeHotKey(std::uint8_t key) { m_hands.stroke({xkey::control, xkey::super, key}); }
-
-    const KWin& kwin() const { return m_kwin; }
-    KWinHands& hands() { return m_hands; }
-    Child& program() { return *m_program; }
-
-  private:
-    KWin m_kwin;
-    std::string m_presets;
-    KWinHands m_hands;
-    std::unique_ptr<Child> m_program;
+    KWinProgramTest() : KWinProgram(GetParam()) {}
 };
 
 TEST_P(KWinProgramTest, theHotKeyPlaysTheMacroAndNothingOfItIsTyped) {

@@ -11,13 +11,13 @@
 
 #include "compositor/Foot.h"
 #include "compositor/WaylandHands.h"
-#include "support/Keys.h"
+#include "wayland/ProgramSession.h"
 
-/// keyrill itself under a sway of the test's own, with the preset combinations, and the hands of its user.
-class SwayProgramTest : public testing::Test {
-  protected:
+/// keyrill itself under a sway of the test's own.
+class SwayProgram : public ProgramSession {
+  public:
     /// `configuration` is the user's, of sway.
-    explicit SwayProgramTest(const std::string& configuration = {})
+    explicit SwayProgram(const std::string& configuration = {})
         : m_sway({.configuration = configuration, .hasXServer = true}), m_hands(m_sway.socket()) {
         std::filesystem::create_directories(m_folder.file("presets/keyrill"));
         std::filesystem::copy_file(KEYRILL_PRESETS, m_folder.file("presets/keyrill/keyrill.conf"));
@@ -26,8 +26,8 @@ class SwayProgramTest : public testing::Test {
         std::ofstream(m_folder.file("home/.config/keyrill/keyrill.conf")) << "[Settings]\nnotFirstRun=true\n";
     }
 
-    /// Starts the program with a macro of these lines, and waits until it has its combinations.
-    void start(const std::string& lines) {
+    /// It has its combinations, too, when this returns.
+    void start(const std::string& lines) override {
         std::ofstream(m_folder.file("macro.keyrill")) << "tell application \"System Events\"\n"
                                                       << lines << "\nend tell\n";
         auto environment = m_sway.environment();
@@ -37,7 +37,7 @@ class SwayProgramTest : public testing::Test {
         environment["XDG_DATA_HOME"] = "";
         environment["LC_ALL"] = "C.UTF-8";
         environment["DBUS_SESSION_BUS_ADDRESS"] = "disabled:";
-        environment["DBUS_SYSTEM_BUS_ADDRESS"] = m_systemBus;
+        environment["DBUS_SYSTEM_BUS_ADDRESS"] = systemBus();
         m_program = std::make_unique<Child>(
             std::vector<std::string>{KEYRILL_PRODUCT, m_folder.file("macro.keyrill")},
             Child::Options{.environment = environment, .outputFile = m_folder.file("log")});
@@ -46,7 +46,9 @@ class SwayProgramTest : public testing::Test {
             throw std::runtime_error("the program does not start: " + contentOf(m_folder.file("log")));
         }
     }
-    bool shows(const std::string& title) const { return m_sway.tries({"[title=\"^" + title + "$\"] nop"}); }
+    const Compositor& compositor() const override { return m_sway; }
+    WaylandHands& hands() override { return m_hands; }
+    Child& program() override { return *m_program; }
 
     /// How often sway has taken the preset combination for playing for the program.
     std::size_t timesTaken() const {
@@ -61,20 +63,17 @@ class SwayProgramTest : public testing::Test {
         return times;
     }
 
-    /// Before start(); there is none otherwise.
-    void setSystemBus(const std::string& address) { m_systemBus = address; }
-
-    void strokeHotKey(std::uint8_t key) { m_hands.stroke({xkey::control, xkey::super, key}); }
-
     const Sway& sway() const { return m_sway; }
-    WaylandHands& hands() { return m_hands; }
-    Child& program() { return *m_program; }
     const TemporaryFolder& folder() const { return m_folder; }
 
   private:
     TemporaryFolder m_folder;
-    std::string m_systemBus = "unix:path=" + m_folder.file("no-bus");
     Sway m_sway;
     WaylandHands m_hands;
     std::unique_ptr<Child> m_program;
+};
+
+class SwayProgramTest : public SwayProgram, public testing::Test {
+  protected:
+    using SwayProgram::SwayProgram;
 };

@@ -67,7 +67,7 @@ TEST_F(AccessDeskTest, theFirstPauseBeginsWithThePermission) {
 }
 
 TEST_F(AccessDeskTest, aRefusalEndsTheRecordingWithItsCause) {
-    monitor().accessChanges(Access::ended, refused);
+    monitor().accessChanges(Access::refused, refused);
     EXPECT_TRUE(state().recording);
     runLoopFor(0);
     EXPECT_FALSE(state().recording);

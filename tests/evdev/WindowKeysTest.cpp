@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+//
+// Recordings of what a window of ours gets, where the keyboards may not be read.
+#include "platform/WindowKeys.h"
+
+#include "evdev/EvdevWorld.h"
+#include "platform/run/RunWatch.h"
+
+namespace {
+
+using std::chrono::milliseconds;
+using Access = EventMonitor::Access;
+
+class EvdevWindowKeysTest : public EvdevTest {
+  protected:
+    void SetUp() override {
+        EvdevTest::SetUp();
+        monitor().setRecording(false);
+        evdevWorld().opener().fail();
+        monitor().observeAccess([this](Access access, const std::optional<Error>&) { m_access = access; });
+        monitor().setRecording(true);
+        delivered();
+    }
+    WindowKeys& window() { return *monitor().windowKeys(); }
+    void tell(WindowKey::Kind kind, std::uint8_t keycode, std::uint32_t modifiers = 0) {
+        window().key({.kind = kind, .keycode = keycode, .modifiers = modifiers});
+    }
+    void pressThere(std::uint8_t keycode, std::uint32_t modifiers = 0) {
+        tell(WindowKey::Kind::press, keycode, modifiers);
+    }
+    void releaseThere(std::uint8_t keycode, std::uint32_t modifiers = 0) {
+        tell(WindowKey::Kind::release, keycode, modifiers);
+    }
+    void tapThere(std::uint8_t keycode, std::uint32_t modifiers = 0) {
+        pressThere(keycode, modifiers);
+        releaseThere(keycode, modifiers);
+    }
+    std::optional<Access> access() const { return m_access; }
+
+  private:
+    std::optional<Access> m_access;
+};
+
+TEST_P(EvdevWindowKeysTest, areRecordedOnceTheyAreAskedFor) {
+    EXPECT_EQ(access(), Access::refused);
+    tapThere(xkey::a);
+    EXPECT_EQ(delivered(), Log{});
+    window().begin();
+    tapThere(xkey::a);
+    EXPECT_EQ(delivered(), (Log{"down 0 a", "up 0"}));
+    EXPECT_EQ(access(), Access::given);
+}
+
+TEST_P(EvdevWindowKeysTest, haveTheModifiersThatAreHeldThere) {
+    window().begin();
+    pressThere(xkey::shift);
+    tapThere(xkey::a, xmask::shift);
+    releaseThere(xkey::shift, xmask::shift);
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x200", "down 0 A", "up 0", "modifiers 0x0"}));
+}
+
+TEST_P(EvdevWindowKeysTest, areShapedByALockThatWasSwitchedElsewhere) {
+    window().begin();
+    tapThere(xkey::a, xmask::capsLock);
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x400", "down 0 A", "modifiers 0x0", "up 0"}));
+    tapThere(xkey::a);
+    EXPECT_EQ(delivered(), (Log{"down 0 a", "up 0"}));
+}
+
+TEST_P(EvdevWindowKeysTest, repeatAsOftenAsTheWindowTells) {
+    window().begin();
+    pressThere(xkey::a);
+    evdevWorld().advance(milliseconds(5000));
+    tell(WindowKey::Kind::repeat, xkey::a);
+    tell(WindowKey::Kind::repeat, xkey::a);
+    releaseThere(xkey::a);
+    EXPECT_EQ(delivered(), (Log{"down 0 a", "repeat 0 a", "repeat 0 a", "up 0"}));
+}
+
+TEST_P(EvdevWindowKeysTest, areUpWhenTheWindowHasLostTheKeyboard) {
+    window().begin();
+    pressThere(xkey::shift);
+    pressThere(xkey::a, xmask::shift);
+    delivered();
+    window().leave();
+    EXPECT_EQ(delivered(), (Log{"up 0", "modifiers 0x0"}));
+    releaseThere(xkey::a);
+    EXPECT_EQ(delivered(), Log{});
+}
+
+/// As of a combination that the desktop has taken.
+TEST_P(EvdevWindowKeysTest, areNothingWhereTheirPressWasAnothers) {
+    window().begin();
+    releaseThere(xkey::r);
+    EXPECT_EQ(delivered(), Log{});
+}
+
+TEST_P(EvdevWindowKeysTest, areTheOnlyOnesThoughKeyboardsMayBeReadLater) {
+    window().begin();
+    evdevWorld().opener().fail(false);
+    const auto second = evdevWorld().input().plug(1);
+    delivered();
+    press({key::b});
+    evdevWorld().key(*second, key::s, 1);
+    EXPECT_EQ(delivered(), Log{});
+}
+
+TEST_P(EvdevWindowKeysTest, endWithTheRecording) {
+    window().begin();
+    monitor().setRecording(false);
+    tapThere(xkey::a);
+    EXPECT_EQ(delivered(), Log{});
+    monitor().setRecording(true);
+    tapThere(xkey::a);
+    EXPECT_EQ(delivered(), Log{});
+}
+
+TEST_P(EvdevWindowKeysTest, areNoneWhereNothingIsRecorded) {
+    monitor().setRecording(false);
+    window().begin();
+    tapThere(xkey::a);
+    EXPECT_EQ(delivered(), Log{});
+}
+
+TEST_P(EvdevWindowKeysTest, ofARunAreNotTheUsers) {
+    window().begin();
+    RunWatch& watch = monitor().runWatch();
+    watch.runStarts();
+    watch.expectOwnKey(xkey::a, true);
+    watch.expectOwnKey(xkey::a, false);
+    watch.runEnds();
+    tapThere(xkey::a);
+    tapThere(xkey::b);
+    tapThere(xkey::a);
+    EXPECT_EQ(delivered(), (Log{"down 11 b", "up 11", "down 0 a", "up 0"}));
+}
+
+TEST_P(EvdevWindowKeysTest, ofARunIntoAnotherWindowAreNotAwaitedForLong) {
+    window().begin();
+    RunWatch& watch = monitor().runWatch();
+    watch.runStarts();
+    watch.expectOwnKey(xkey::a, true);
+    watch.expectOwnKey(xkey::a, false);
+    watch.runEnds();
+    evdevWorld().advance(milliseconds(2001));
+    tapThere(xkey::a);
+    EXPECT_EQ(delivered(), (Log{"down 0 a", "up 0"}));
+}
+
+TEST_P(EvdevWindowKeysTest, thatAreAHotKeyAreThat) {
+    request(7, "hot", key::s, modifier::control);
+    window().begin();
+    pressThere(xkey::control);
+    tapThere(xkey::s, xmask::control);
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x1000", "pressed 7", "released 7"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Evdev, EvdevWindowKeysTest, testing::Values(&makeEvdevWorld));
+
+}  // namespace

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+//
+// keyrill records what is typed into a window of its own where no keyboard may be read. What is recorded is
+// judged by what playing it types.
+#include <gtest/gtest.h>
+
+#include "compositor/Field.h"
+#include "wayland/AccessWorld.h"
+#include "wayland/KWinProgram.h"
+#include "wayland/SwayProgram.h"
+
+namespace {
+
+const char* const recordHere = "Record Here";
+
+/// A native text field and the program, whose service is not installed.
+class RecordHereTest : public testing::TestWithParam<ProgramSessionFactory> {
+  protected:
+    RecordHereTest() : m_session(GetParam()()) {
+        m_session->setSystemBus(m_access.bus());
+        m_session->start("keystroke \"x\"");
+        m_field = std::make_unique<Field>(m_session->compositor(), Field::Toolkit::qt);
+    }
+
+    void startRecording() {
+        m_session->strokeHotKey(xkey::r);
+        ASSERT_TRUE(eventually([this] { return compositor().hasFocus(recordHere); }));
+    }
+    void awaitEnd() {
+        ASSERT_TRUE(eventually([this] { return !compositor().shows(recordHere); }));
+        ASSERT_TRUE(eventually([this] { return compositor().focus("field"); }));
+    }
+    void stopRecording() {
+        m_session->strokeHotKey(xkey::s);
+        awaitEnd();
+    }
+    /// What playing it once types, and a full stop by hand after it; waits for that text.
+    std::string played(const std::string& expected) {
+        m_session->strokeHotKey(xkey::p);
+        m_field->text(expected);
+        hands().type(".");
+        return m_field->text(expected + ".");
+    }
+
+    const Compositor& compositor() const { return m_session->compositor(); }
+    Hands& hands() { return m_session->hands(); }
+    const Field& field() const { return *m_field; }
+
+  private:
+    AccessWorld m_access;
+    std::unique_ptr<ProgramSession> m_session;
+    std::unique_ptr<Field> m_field;
+};
+
+TEST_P(RecordHereTest, whatIsTypedThereIsRecordedAndPlaysInAnotherProgram) {
+    startRecording();
+    hands().type("The quick Fox No. 7");
+    hands().stroke({xkey::returnKey});
+    hands().stroke({xkey::tab});
+    hands().type("jumps");
+    hands().stroke({xkey::backspace});
+    stopRecording();
+    EXPECT_EQ(field().text(), "");
+    EXPECT_EQ(played("The quick Fox No. 7\n\tjump"), "The quick Fox No. 7\n\tjump.");
+}
+
+TEST_P(RecordHereTest, combinationsAreRecorded) {
+    startRecording();
+    hands().type("abc");
+    hands().stroke({xkey::control, xkey::a});
+    hands().type("d");
+    stopRecording();
+    EXPECT_EQ(played("d"), "d.");
+}
+
+TEST_P(RecordHereTest, capitalsOfCapsLockAreRecordedAsSuch) {
+    startRecording();
+    hands().type("a");
+    hands().stroke({xkey::capsLock});
+    hands().type("b1");
+    hands().stroke({xkey::capsLock});
+    hands().type("c");
+    stopRecording();
+    EXPECT_EQ(played("aB1c"), "aB1c.");
+}
+
+TEST_P(RecordHereTest, aHeldKeyIsRecordedAsOftenAsItRepeats) {
+    startRecording();
+    hands().press(xkey::b);
+    // After 200 to 600 ms it repeats 25 times a second or so.
+    EXPECT_FALSE(eventually([this] { return !compositor().hasFocus(recordHere); }, std::chrono::seconds(1)));
+    hands().release(xkey::b);
+    stopRecording();
+    const std::string text = played(std::string(200, 'b'));
+    EXPECT_GE(text.size(), 5U) << text;
+    EXPECT_EQ(text.find_first_not_of('b'), text.size() - 1) << text;
+}
+
+TEST_P(RecordHereTest, whatIsTypedElsewhereMeanwhileIsNotRecorded) {
+    startRecording();
+    hands().type("a");
+    ASSERT_TRUE(eventually([this] { return compositor().focus("field"); }));
+    hands().type("secret");
+    ASSERT_EQ(field().text("secret"), "secret");
+    hands().stroke({xkey::control, xkey::a});
+    hands().stroke({xkey::backspace});
+    ASSERT_EQ(field().text(""), "");
+    ASSERT_TRUE(eventually([this] { return compositor().focus(recordHere); }));
+    hands().type("b");
+    stopRecording();
+    EXPECT_EQ(played("ab"), "ab.");
+}
+
+TEST_P(RecordHereTest, closingTheWindowEndsTheRecordingToo) {
+    startRecording();
+    hands().type("ab");
+    compositor().close(recordHere);
+    awaitEnd();
+    EXPECT_EQ(played("ab"), "ab.");
+}
+
+INSTANTIATE_TEST_SUITE_P(Sessions, RecordHereTest,
+                         testing::Values<ProgramSessionFactory>(
+                             [] { return std::unique_ptr<ProgramSession>(std::make_unique<SwayProgram>()); },
+                             [] { return std::unique_ptr<ProgramSession>(std::make_unique<KWinProgram>()); }),
+                         [](const auto& session) {
+                             return std::string(session.index == 0 ? "sway" : "kwin");
+                         });
+
+}  // namespace
