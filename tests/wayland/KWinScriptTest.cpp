@@ -111,6 +111,15 @@ TEST_F(KWinScriptTest, combinationsArrive) {
 
 class KWinWindowsTest : public KWinScriptTest {
   protected:
+    /// The lines that wait for the windows of both fields.
+    static std::string awaitFields() {
+        std::string lines;
+        for (const char* const name : {"GTK Application", "keyrill_qt_field"}) {
+            lines += keys(std::string("repeat until (exists (processes whose name is \"") + name +
+                          "\"))\ndelay 0.05\nend repeat");
+        }
+        return lines;
+    }
     /// Whether KWin has a script of ours.
     bool hasScript() const {
         return kwin().call({"-d", "org.kde.KWin", "-o", "/Scripting", "-m",
@@ -122,8 +131,9 @@ class KWinWindowsTest : public KWinScriptTest {
 TEST_F(KWinWindowsTest, aScriptBringsAProgramToTheFront) {
     const Field gtk(kwin(), Field::Toolkit::gtk);
     const Field qt(kwin(), Field::Toolkit::qt);
-    playWhole("tell application \"GTK Application\" to activate\n" + keys("keystroke \"one\"") +
-              "activate application \"Keyrill_Qt_Field\"\n" + keys("keystroke \"two\""));
+    playWhole(awaitFields() + "tell application \"GTK Application\" to activate\n" +
+              keys("keystroke \"one\"") + "activate application \"Keyrill_Qt_Field\"\n" +
+              keys("keystroke \"two\""));
     EXPECT_EQ(gtk.text("one"), "one");
     EXPECT_EQ(qt.text("two"), "two");
     hands().stroke({xkey::z});
@@ -134,7 +144,8 @@ TEST_F(KWinWindowsTest, aScriptBringsAProgramToTheFront) {
 TEST_F(KWinWindowsTest, programsAreNamedFromTheFrontOn) {
     const Field qt(kwin(), Field::Toolkit::qt);
     const Field gtk(kwin(), Field::Toolkit::gtk);
-    playWhole("activate application \"GTK Application\"\nset text item delimiters to \",\"\n" +
+    playWhole(awaitFields() +
+              "activate application \"GTK Application\"\nset text item delimiters to \",\"\n" +
               keys("set found to name of every process\nkeystroke found as text\n"
                    "keystroke (exists (processes whose name is \"nobody\")) as text"));
     EXPECT_EQ(gtk.text("GTK Application,keyrill_qt_fieldfalse"), "GTK Application,keyrill_qt_fieldfalse");
@@ -154,7 +165,7 @@ TEST_F(KWinWindowsTest, aScriptThatWasLeftLoadedGoesWithTheNext) {
     kwin().call({"-d", "org.kde.KWin", "-o", "/Scripting", "-m", "org.kde.kwin.Scripting.loadScript", file,
                  "example.orlen.Keyrill"});
     ASSERT_TRUE(hasScript());
-    playWhole("activate application \"GTK Application\"\n" + keys("keystroke \"one\""));
+    playWhole(awaitFields() + "activate application \"GTK Application\"\n" + keys("keystroke \"one\""));
     EXPECT_EQ(gtk.text("one"), "one");
     EXPECT_TRUE(eventually([this] { return !hasScript(); }));
 }
