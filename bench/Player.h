@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "Seconds.h"
 #include "platform/KeyInjector.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/x11/press/X11KeyInjector.h"
@@ -27,11 +28,3 @@ class Player {
 
 /// Ends the program with the error's message unless the step of a run was taken.
 void expectGoing(const Step<>& step);
-
-/// Seconds that a piece of work takes.
-template <typename Work>
-double secondsOf(const Work& work) {
-    const auto begin = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
