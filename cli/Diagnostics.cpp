@@ -8,7 +8,7 @@ namespace {
 
 std::string begun(const char* kind, const std::string& source, const script::Location& place,
                   const std::string& message) {
-    return std::string("{\"kind\":\"") + kind + "\",\"line\":" + std::to_string(place.line) +
+    return R"({"kind":")" + std::string(kind) + R"(","line":)" + std::to_string(place.line) +
            ",\"column\":" + std::to_string(place.column) +
            ",\"length\":" + std::to_string(script::tokenLength(source, place)) +
            ",\"message\":" + script::jsonText(message);

@@ -22,6 +22,7 @@ template <typename Enough>
 void serve(Playback& playback, const Enough& enough) {
     const std::vector<EventSource*> sources = playback.session().eventSources();
     std::vector<pollfd> waited;
+    waited.reserve(sources.size() + 1);
     for (const EventSource* source : sources) waited.push_back({source->fileDescriptor(), POLLIN, 0});
     waited.push_back({playback.signals().fileDescriptor(), POLLIN, 0});
     while (!enough() && playback.signals().number() == 0 && playback.connection()) {

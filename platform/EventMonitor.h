@@ -71,6 +71,7 @@ class EventMonitor {
     /// Who is told of each change of it while a macro is being recorded, once the keys seen before have been
     /// delivered; at most one. Access that is given at once is not told. `why` is set where it was refused or
     /// has ended.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): who shows keys by permission keeps it.
     virtual void observeAccess(AccessObserver /*changed*/) {}
     /// By which a recording that may see no keys records those of a window of ours; null where there is no
     /// such recording.

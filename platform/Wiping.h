@@ -25,6 +25,7 @@ struct WipingAllocator {
 
     Value* allocate(std::size_t count) { return std::allocator<Value>().allocate(count); }
     void deallocate(Value* memory, std::size_t count) {
+        // NOLINTNEXTLINE(bugprone-sizeof-expression): what is kept may be pointers.
         wipe(memory, count * sizeof(Value));
         std::allocator<Value>().deallocate(memory, count);
     }

@@ -34,7 +34,7 @@ QImage stillPicture(const QRect& area) {
     QImage last = screenPicture(area);
     while (!deadline.hasExpired()) {
         handleEventsFor(moment);
-        const QImage next = screenPicture(area);
+        QImage next = screenPicture(area);
         if (next == last) return next;
         last = next;
     }

@@ -44,7 +44,7 @@ void press(char typed, std::uint32_t modifiers) {
 }  // namespace
 
 boost::shared_ptr<Macro> recordedMacro(const std::string& keys) {
-    const boost::shared_ptr<Macro> macro = MacroManager::createMacro();
+    boost::shared_ptr<Macro> macro = MacroManager::createMacro();
     engineState().recordingMacro = macro;
     std::uint32_t modifiers = 0;
     for (const char key : keys) {

@@ -26,7 +26,7 @@ int main(int argc, char* argv[]) {
     QApplication::setCursorFlashTime(0);
     QApplication::setQuitOnLastWindowClosed(false);
 
-    const QString folder = arguments.at(1);
+    const QString& folder = arguments.at(1);
     QDir().mkpath(folder);
     QTimer::singleShot(0, [&folder] {
         Camera camera(folder);

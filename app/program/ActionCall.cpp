@@ -39,7 +39,7 @@ bool isRunning(const QDBusConnection& connection) {
 /// The program on its own: it goes on when this process ends, and says nothing into its files.
 class BackgroundStart {
   public:
-    explicit BackgroundStart(std::string session) {
+    explicit BackgroundStart(const std::string& session) {
         posix_spawnattr_t attributes;
         posix_spawnattr_init(&attributes);
         posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);

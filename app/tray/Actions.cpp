@@ -47,8 +47,7 @@ std::string actionNames() {
 }
 
 QString obstacleTo(const ActionRow& action, const MenuFacts& facts) {
-    const QString toAll = obstacleToAll(facts);
-    if (!toAll.isEmpty()) return toAll;
+    if (QString toAll = obstacleToAll(facts); !toAll.isEmpty()) return toAll;
     if (action.menuItem == "record" && facts.recording) return tr("A macro is being recorded already.");
     if (action.menuItem == "stop" && !facts.recording) return tr("Nothing is being recorded or played.");
     if (action.menuItem == "saveDelay" && !facts.overlayShown) return tr("Nothing is being recorded.");

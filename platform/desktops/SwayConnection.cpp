@@ -39,11 +39,12 @@ std::uint32_t numberAt(const std::string& message, std::size_t place) {
 }  // namespace
 
 Result<SwayConnection> SwayConnection::open() {
-    const char* const path = std::getenv("SWAYSOCK");
+    const char* const named = std::getenv("SWAYSOCK");
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
-    if (path == nullptr || std::strlen(path) >= sizeof address.sun_path) return unreachable();
-    std::strcpy(static_cast<char*>(address.sun_path), path);
+    const std::string_view path = named == nullptr ? std::string_view() : named;
+    if (path.empty() || path.size() >= sizeof address.sun_path) return unreachable();
+    path.copy(static_cast<char*>(address.sun_path), path.size());
     Descriptor file(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
     if (!file || connect(file.number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
         return unreachable();

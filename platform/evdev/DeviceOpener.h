@@ -36,6 +36,7 @@ class DeviceOpener {
 
     /// Who is told, from the source's dispatch(), that what has been opened must not be read any more: nobody
     /// is left who could take it back. At most one.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): who can lose them keeps it.
     virtual void whenLost(std::function<void(const Error& why)> /*lost*/) {}
 
     /// Gives the permission back. An answer on its way is told to nobody.

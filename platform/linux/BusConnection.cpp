@@ -33,10 +33,10 @@ void onSignal(GDBusConnection* /*connection*/, const char* sender, const char* /
 
 }  // namespace
 
-BusConnection::BusConnection(BusLoop& loop, const std::string& address, std::function<void()> opened,
+BusConnection::BusConnection(BusLoop& loop, std::string address, std::function<void()> opened,
                              std::function<void()> ended)
     : m_loop(loop),
-      m_address(address),
+      m_address(std::move(address)),
       m_opened(std::move(opened)),
       m_ended(std::move(ended)),
       m_cancellable(g_cancellable_new()) {

@@ -16,7 +16,7 @@ class BusConnection {
 
     /// Both are called from the loop: `opened` when it is there, `ended` when it is clear that there is none
     /// (any more). For an empty address neither is.
-    BusConnection(BusLoop& loop, const std::string& address, std::function<void()> opened,
+    BusConnection(BusLoop& loop, std::string address, std::function<void()> opened,
                   std::function<void()> ended);
     ~BusConnection();
     BusConnection(const BusConnection&) = delete;

@@ -15,7 +15,7 @@ Step<> TailWait::waitUntil(Clock::Time deadline) {
         if (auto ended = endTail(); !ended) return ended;
         if (m_clock.now() >= deadline || !m_tail.isDown()) break;
         // What hands hold too stays.
-        const auto waited = m_waiter.waitUntil(std::min(deadline, m_clock.now() + betweenLooks));
+        auto waited = m_waiter.waitUntil(std::min(deadline, m_clock.now() + betweenLooks));
         if (!waited) return waited;
     }
     return m_waiter.waitUntil(deadline);

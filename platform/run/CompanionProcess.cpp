@@ -75,6 +75,7 @@ bool CompanionProcess::open(const void* packet, std::size_t size) {
 bool CompanionProcess::run(const std::vector<std::string>& command) {
     std::vector<std::string> words = command;
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
     const CompanionAttributes attributes;

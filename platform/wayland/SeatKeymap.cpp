@@ -37,7 +37,7 @@ std::string kept(const std::string& file) {
 
 }  // namespace
 
-SeatKeymap::SeatKeymap(WaylandConnection& connection, std::string folder,
+SeatKeymap::SeatKeymap(WaylandConnection& connection, const std::string& folder,
                        std::function<xkb_layout_index_t()> group)
     : m_file(fileIn(folder)),
       m_group(std::move(group)),

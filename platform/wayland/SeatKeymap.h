@@ -24,7 +24,8 @@ namespace wayland {
 class SeatKeymap {
   public:
     /// `group` tells the group in force, from 0; may be empty. `folder` is the runtime folder, may be empty.
-    SeatKeymap(WaylandConnection& connection, std::string folder, std::function<xkb_layout_index_t()> group);
+    SeatKeymap(WaylandConnection& connection, const std::string& folder,
+               std::function<xkb_layout_index_t()> group);
     ~SeatKeymap();
     SeatKeymap(const SeatKeymap&) = delete;
     SeatKeymap& operator=(const SeatKeymap&) = delete;

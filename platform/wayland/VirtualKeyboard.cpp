@@ -21,7 +21,7 @@ Descriptor fileWith(const std::string& text) {
     const std::size_t size = text.size() + 1;
     for (std::size_t written = 0; file && written < size;) {
         const ssize_t more = write(file.number(), text.c_str() + written, size - written);
-        if (more <= 0) return Descriptor();
+        if (more <= 0) return {};
         written += static_cast<std::size_t>(more);
     }
     return file;
@@ -57,8 +57,7 @@ VirtualKeyboard::~VirtualKeyboard() {
 Result<void> VirtualKeyboard::plugIn(const std::string& keymap, xkb_layout_index_t group) {
     unplug();
     m_keyboard = zwp_virtual_keyboard_manager_v1_create_virtual_keyboard(m_manager, m_connection.seat());
-    const auto set = setKeymap(keymap);
-    if (!set) return set;
+    if (auto set = setKeymap(keymap); !set) return set;
     lock(0, group);
     return m_connection.roundTrip();
 }

@@ -92,8 +92,7 @@ WaylandClipboard::~WaylandClipboard() = default;
 Result<void> WaylandClipboard::set(std::string_view text) {
     auto device = ClipboardDevice::open();
     if (!device) return device.error();
-    const auto owned = device.value()->own(std::string(text));
-    if (!owned) return owned;
+    if (auto owned = device.value()->own(std::string(text)); !owned) return owned;
     m_owner = std::make_unique<Owner>(std::move(device).value());
     return {};
 }

@@ -29,9 +29,10 @@ struct SilentCopier::Parts {
         auto& parts = *static_cast<Parts*>(self);
         if (std::string_view(interface) == wl_seat_interface.name)
             parts.seat = static_cast<wl_seat*>(wl_registry_bind(registry, name, &wl_seat_interface, 1));
-        if (std::string_view(interface) == zwlr_data_control_manager_v1_interface.name)
+        if (std::string_view(interface) == zwlr_data_control_manager_v1_interface.name) {
             parts.manager = static_cast<zwlr_data_control_manager_v1*>(
                 wl_registry_bind(registry, name, &zwlr_data_control_manager_v1_interface, 1));
+        }
     }
 
     void give(int file) {

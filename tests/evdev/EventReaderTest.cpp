@@ -118,8 +118,10 @@ int occurrences(std::uint64_t first, std::uint64_t second) {
         char rights[5] = {};
         if (std::sscanf(line.c_str(), "%lx-%lx %4s", &begin, &end, rights) != 3) continue;
         if (std::strncmp(rights, "rw", 2) != 0 || line.find("[v") != std::string::npos) continue;
+        // NOLINTBEGIN(performance-no-int-to-ptr): addresses that the kernel has written as numbers.
         for (const auto* word = reinterpret_cast<const volatile std::uint64_t*>(begin);
              word + 1 < reinterpret_cast<const volatile std::uint64_t*>(end); ++word) {
+            // NOLINTEND(performance-no-int-to-ptr)
             if (word[0] == first && word[1] == second) ++count;
         }
     }

@@ -48,7 +48,7 @@ struct ForeignWord {
 };
 
 constexpr std::string_view asking =
-    "A question is asked with: text returned of (display dialog \"Name?\" default answer \"\").";
+    R"(A question is asked with: text returned of (display dialog "Name?" default answer "").)";
 constexpr std::string_view choosing = "A number by chance is: random number from 1 to 10.";
 constexpr std::string_view leaving = "A loop is left with “exit repeat”, the script with “return”.";
 constexpr std::string_view typing = "Text is typed with “keystroke”: keystroke \"hello\".";
@@ -101,9 +101,10 @@ std::string inQuotes(std::string_view name) { return "\"" + std::string(name) + 
 
 std::string codeAdvice(std::int64_t code) {
     constexpr std::int64_t largest = 65535;
-    if (code < 0 || code > largest)
+    if (code < 0 || code > largest) {
         return "A key code lies between 0 and " + std::to_string(largest) +
                "; “keyrill-script keys” prints those that keys have.";
+    }
     const auto key = static_cast<std::uint32_t>(code);
     if (keycode::isExtension(key)) {
         return "Key code " + std::to_string(code) + " is an extension, which only Keyrill plays.";
@@ -158,16 +159,17 @@ std::string typedNameAdvice(std::string_view text) {
 std::string heldModifierAdvice() { return "A modifier is held with: key down shift, without quotes."; }
 
 std::string noHandlerAdvice(std::string_view name) {
-    const std::string foreign = foreignWordAdvice(name);
+    std::string foreign = foreignWordAdvice(name);
     if (!foreign.empty()) return foreign;
     return "The script has no handler of that name: on " + std::string(name) + "(…) … end " +
            std::string(name) + ".";
 }
 
 std::string foreignWordAdvice(std::string_view name) {
-    if (const std::string_view modifier = modifierOf(name); !modifier.empty())
+    if (const std::string_view modifier = modifierOf(name); !modifier.empty()) {
         return "The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using " +
                std::string(modifier) + " down.";
+    }
     const auto* row = std::find_if(foreignWords.begin(), foreignWords.end(),
                                    [&](const ForeignWord& one) { return one.word == asciiLowered(name); });
     return row == foreignWords.end() ? "" : std::string(row->advice);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <span>
 #include <string_view>
-#include <vector>
 
 namespace script {
 
@@ -15,6 +15,6 @@ struct Recipe {
     std::string_view events;
 };
 
-const std::vector<Recipe>& recipes();
+std::span<const Recipe> recipes();
 
 }  // namespace script

@@ -15,9 +15,9 @@ std::uint32_t tokenLength(std::string_view source, const Location& place) {
     if (line.empty()) return 0;
     const std::string_view token = Lexer(rest).next().text;
     const std::size_t bytes = token.data() == rest.data() ? std::min(token.size(), line.size()) : 1;
-    const auto end = line.begin() + static_cast<std::ptrdiff_t>(bytes);
-    return static_cast<std::uint32_t>(
-        std::count_if(line.begin(), end, [](char byte) { return !isUtf8Continuation(byte); }));
+    const std::string_view characters = line.substr(0, bytes);
+    return static_cast<std::uint32_t>(std::count_if(characters.begin(), characters.end(),
+                                                    [](char byte) { return !isUtf8Continuation(byte); }));
 }
 
 }  // namespace script

@@ -46,7 +46,7 @@ constexpr std::string_view processHint =
 constexpr std::string_view windowHint =
     "Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.";
 constexpr std::string_view askHint =
-    "A question is asked with: text returned of (display dialog \"Name?\" default answer \"\").";
+    R"(A question is asked with: text returned of (display dialog "Name?" default answer "").)";
 constexpr std::string_view typeHint = "Text is typed with “keystroke”: keystroke \"hello\".";
 constexpr std::string_view usingHint = "Modifiers stand behind “using”: keystroke \"s\" using control down.";
 constexpr std::string_view timesHint =
@@ -117,7 +117,7 @@ constexpr auto slips = std::to_array<Slip>({
     {"", "", "==", "", "“Equal” is written with one =."},
     {"Expected “\"” but found end of script", "", "", "", "A text is not closed by a straight quote."},
     {"Expected “\"” but found unknown token", "", "", "",
-     "A backslash in a text is written twice: \"C:\\\\Users\"."},
+     R"(A backslash in a text is written twice: "C:\\Users".)"},
     {"Expected class name", "", "", "",
      "Behind “as” stands a class: text, integer, real, number, boolean, list, record, date."},
     {"Expected “name”, “frontmost”", "", "", "", processHint},

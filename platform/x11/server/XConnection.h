@@ -42,9 +42,9 @@ class XConnection {
     /// The atom of a name, made if missing.
     xcb_atom_t atom(const std::string& name) const { return atoms(std::array{name.c_str()}).front(); }
     /// Those of several names, in one round trip.
-    template <std::size_t Count>
-    std::array<xcb_atom_t, Count> atoms(const std::array<const char*, Count>& names) const {
-        std::array<xcb_atom_t, Count> found{};
+    template <std::size_t count>
+    std::array<xcb_atom_t, count> atoms(const std::array<const char*, count>& names) const {
+        std::array<xcb_atom_t, count> found{};
         findAtoms(names, found);
         return found;
     }

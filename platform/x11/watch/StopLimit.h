@@ -18,6 +18,7 @@ struct KeyPlace {
     std::uint8_t keycode = 0;
     std::uint16_t modifiers = 0;
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): what the compiler compares with is no pointer.
     friend auto operator<=>(const KeyPlace&, const KeyPlace&) = default;
 };
 
