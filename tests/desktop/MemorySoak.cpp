@@ -117,6 +117,7 @@ class MemorySoak : public DesktopTest {
     void play() {
         command(xkey::p);
         expectTyped("as");
+        awaitAnswered();
     }
     void playTwice() {
         command(xkey::m);
@@ -125,6 +126,7 @@ class MemorySoak : public DesktopTest {
         press("Return");
         expectTyped("asas");
         awaitGone(title::prompt);
+        awaitAnswered();
     }
     void cancelSaving() {
         choose(saveEntry, title::savePanel);
@@ -147,6 +149,7 @@ class MemorySoak : public DesktopTest {
         const int before = numberOfNotifications();
         command(xkey::p);
         ASSERT_TRUE(eventually([&] { return numberOfNotifications() == before + 1; })) << messages();
+        awaitAnswered();
     }
     /// Above Help and Quit.
     void lookAtPreferences() {
@@ -173,7 +176,7 @@ class MemorySoak : public DesktopTest {
         awaitAnswered();
     }
     /// A panel that is gone from the screen still keeps clicks and hot keys from the program until its loop
-    /// has ended; callers on the bus are told so.
+    /// has ended, and a run until some time after its last stroke; callers on the bus are told so.
     void awaitAnswered() const {
         const std::string log = desktop.file("answer.log");
         ASSERT_TRUE(eventually([&] {
