@@ -26,7 +26,7 @@ class FakeDevices final : public keyaccess::InputDevices {
     bool isPresent(int keyboard) const override { return present.contains(m_names.at(keyboard)); }
     Descriptor makeKeyboard() override {
         std::array<int, 2> ends{};
-        if (!canMake || pipe(ends.data()) != 0) return Descriptor();
+        if (!canMake || pipe(ends.data()) != 0) return {};
         m_reader.reset(ends[0]);
         fcntl(ends[0], F_SETFL, O_NONBLOCK);
         return Descriptor(ends[1]);

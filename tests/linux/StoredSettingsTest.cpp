@@ -232,7 +232,7 @@ class UselessTargetTest : public StoredSettingsTest, public testing::WithParamIn
   protected:
     /// Makes what the parameter names.
     fs::path target() {
-        const fs::path path = folder.file("others");
+        fs::path path = folder.file("others");
         if (GetParam() == "folder") fs::create_directory(path);
         if (GetParam() == "text") std::ofstream(path) << "anybody's";
         if (GetParam() == "pipe") mkfifo(path.c_str(), 0600);

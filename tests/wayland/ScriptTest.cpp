@@ -226,7 +226,7 @@ TEST_F(WaylandScriptTest, aScriptReadsWhatOthersHaveCopied) {
 TEST_F(WaylandScriptTest, aTextOfWhichOnlyAPartComesIsNone) {
     const Foot foot(sway());
     const SilentCopier copier(sway().socket(), "half of it");
-    play("set found to the clipboard\n" + keys("keystroke \"<\" & found & \">\""));
+    play("set found to the clipboard\n" + keys(R"(keystroke "<" & found & ">")"));
     EXPECT_EQ(foot.typed(2), "<>");
 }
 
