@@ -20,26 +20,27 @@ std::string withFunctions(std::string_view statements) {
     return script.append(statements);
 }
 
-/// Activates each window of which the condition on `one` is true, and tells whether it has the focus then.
+/// Activates the window of which the condition on `one` is true, and tells whether there is one. To which it
+/// gives the focus KWin may know only when that has taken it.
 std::string activation(const std::string& condition) {
     return withFunctions(
-        "var done = false;\n"
+        "var found = false;\n"
         "for (var i = 0; i < all.length; ++i) {\n"
         "  var one = all[i];\n"
         "  if (!(" +
         condition +
         ")) continue;\n"
         "  activate(one);\n"
-        "  done = active() === one;\n"
+        "  found = true;\n"
         "}\n"
-        "tell(done ? 'yes' : 'no');");
+        "tell(found ? 'yes' : 'no');");
 }
 
 Result<void> activateBy(KWinScripts& scripts, const std::string& condition) {
     const auto told = scripts.run(activation(condition));
     if (!told) return told.error();
     if (told.value() != "yes") {
-        return Error{"KWin does not bring the window to the front.", "Click on the window."};
+        return Error{"KWin does not show the window any more.", "Open it again."};
     }
     return {};
 }

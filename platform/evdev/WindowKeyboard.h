@@ -17,7 +17,7 @@ namespace evdev {
 class WindowKeyboard final : public WindowKeys {
   public:
     /// All outlive this. `begins` is told that the recording is to take no other keys; `changed`, that the
-    /// stream has something new.
+    /// stream has something new, which is delivered at once: the window may end the recording next.
     WindowKeyboard(KeyStream& stream, const Clock& clock, std::function<void()> begins,
                    std::function<void()> changed)
         : m_stream(stream), m_clock(clock), m_begins(std::move(begins)), m_changed(std::move(changed)) {}

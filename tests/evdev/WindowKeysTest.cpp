@@ -51,6 +51,16 @@ TEST_P(EvdevWindowKeysTest, areRecordedOnceTheyAreAskedFor) {
     EXPECT_EQ(access(), Access::given);
 }
 
+/// The window may close next, and end the recording.
+TEST_P(EvdevWindowKeysTest, areDeliveredBeforeTheWindowTellsAnythingElse) {
+    window().begin();
+    int presses = 0;
+    ASSERT_TRUE(monitor().install(
+        [&presses](const KeyEvent& event) { presses += event.kind == KeyEventKind::keyDown ? 1 : 0; }));
+    pressThere(xkey::a);
+    EXPECT_EQ(presses, 1);
+}
+
 TEST_P(EvdevWindowKeysTest, haveTheModifiersThatAreHeldThere) {
     window().begin();
     pressThere(xkey::shift);
