@@ -152,6 +152,9 @@ Result<XkbComponents> PortalKeyboard::synchronise() {
     if (!m_state) return components();
     const auto done = m_link.synchronise();
     if (!done) return done.error();
+    // The desktop has sent them to its compositor, which takes them before it answers us.
+    const auto taken = m_connection.roundTrip();
+    if (!taken) return taken.error();
     return components();
 }
 

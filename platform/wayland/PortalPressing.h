@@ -14,8 +14,9 @@ namespace wayland {
 /// the one before again, where the desktop lets programs do that.
 class PortalKeyboard final : public KeyOutput {
   public:
-    PortalKeyboard(PortalLink& link, Layouts& layouts, KdeLocks& locks, const SeatKeymap& seat)
-        : m_link(link), m_layouts(layouts), m_locks(locks), m_seat(seat) {}
+    PortalKeyboard(WaylandConnection& connection, PortalLink& link, Layouts& layouts, KdeLocks& locks,
+                   const SeatKeymap& seat)
+        : m_connection(connection), m_link(link), m_layouts(layouts), m_locks(locks), m_seat(seat) {}
 
     /// With nothing down, the locks that are on and the group that is in force.
     void plugIn();
@@ -35,6 +36,7 @@ class PortalKeyboard final : public KeyOutput {
   private:
     void send(std::uint8_t keycode, bool press);
 
+    WaylandConnection& m_connection;
     PortalLink& m_link;
     Layouts& m_layouts;
     KdeLocks& m_locks;
@@ -54,7 +56,7 @@ class PortalPressing final : public Pressing {
           m_clock(clock),
           m_link(std::move(options), clock),
           m_locks(connection),
-          m_keyboard(m_link, layouts, m_locks, seat) {}
+          m_keyboard(connection, m_link, layouts, m_locks, seat) {}
 
     /// The desktop is asked late, by the first stroke.
     Result<void> start() override { return {}; }
