@@ -112,6 +112,7 @@ TEST_F(UserHandsTest, aModifierThatTheRunHoldsIsUpWhileItWaits) {
     const Terminal terminal(display());
     const auto session = program().run();
     ASSERT_TRUE(session->keyDown(HeldModifier{modifier::shift}));
+    waitFor("keys: 50, modifiers: 0x1");
     user().press(xkey::control);
     finish();
     // The server takes the modifiers of the keyboard that spoke last.
