@@ -49,7 +49,7 @@ std::optional<ScriptAnswer> FakeDialogs::runScriptDialog(const ScriptDialog& dia
 QString FakeDialogs::takeFile() {
     happen();
     if (m_files.empty()) return {};
-    const QString file = m_files.front();
+    QString file = m_files.front();
     m_files.pop();
     return file;
 }

@@ -28,7 +28,7 @@ class BusyReaderTest : public testing::Test {
     const std::string& display() const { return m_server.display(); }
     const KeyboardProbe& probe() const { return m_probe; }
     static std::string script() {
-        return "tell application \"System Events\" to keystroke \"" + std::string(text) + "\"";
+        return R"(tell application "System Events" to keystroke ")" + std::string(text) + '"';
     }
 
     /// Plays the text; the program is stopped before, and goes on so long after the keys were given their

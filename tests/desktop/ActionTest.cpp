@@ -306,9 +306,9 @@ TEST_F(ActionTest, theMenuEntryRecordsStopsAndPlays) {
     desktop.setEnvironment("PATH", folder + ":/usr/bin:/bin");
     const auto launch = [this](const std::string& action) {
         desktop.run(
-            {"/usr/bin/python3", "-c",
-             "import sys; from gi.repository import Gio; "
-             "Gio.DesktopAppInfo.new_from_filename(sys.argv[1]).launch_action(sys.argv[2], None)",
+            {"/usr/bin/python3", "-c", R"(import sys
+from gi.repository import Gio
+Gio.DesktopAppInfo.new_from_filename(sys.argv[1]).launch_action(sys.argv[2], None))",
              std::filesystem::path(programs::presets).replace_filename("example.orlen.Keyrill.desktop"),
              action});
     };

@@ -46,7 +46,7 @@ class LocksTest : public testing::TestWithParam<std::uint8_t> {
     /// What the terminal gets next, once that many characters have come.
     std::string typedNext(std::size_t count) {
         const std::string all = terminal.typed(m_read + count);
-        const std::string next = all.substr(m_read);
+        std::string next = all.substr(m_read);
         m_read = all.size();
         return next;
     }
@@ -84,8 +84,9 @@ TEST_P(LocksTest, whatTheUserTapsMeanwhileChangesNothingThatArrivesAndIsTheirsAf
     for (const std::uint8_t before : states) {
         SCOPED_TRACE(nameOfLocks(before));
         set(before);
-        Play play(desktop.display(), "tell application \"System Events\"\n" + strokes + "delay 2\n" +
-                                         strokes + strokes + "end tell\n");
+        std::string script = "tell application \"System Events\"\n";
+        script.append(strokes).append("delay 2\n").append(strokes).append(strokes).append("end tell\n");
+        Play play(desktop.display(), script);
         EXPECT_EQ(typedNext(7), "cDcd1xY");
         tap(tapped());
         EXPECT_EQ(play.program().wait(), 0) << play.output();

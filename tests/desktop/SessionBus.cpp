@@ -4,8 +4,10 @@
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
+#include <utility>
 
-SessionBus::SessionBus(const std::map<std::string, std::string>& environment) : m_environment(environment) {
+SessionBus::SessionBus(std::map<std::string, std::string> environment)
+    : m_environment(std::move(environment)) {
     const std::string socket = m_folder.file("bus");
     const std::string configuration = m_folder.file("configuration");
     std::filesystem::create_directories(services());

@@ -11,7 +11,7 @@
 class SessionBus {
   public:
     /// The environment is that of the services which the bus starts.
-    explicit SessionBus(const std::map<std::string, std::string>& environment);
+    explicit SessionBus(std::map<std::string, std::string> environment);
 
     const std::string& address() const { return m_address; }
     /// Lets the bus start a service of the machine when somebody asks for it.

@@ -28,7 +28,7 @@ struct Unref {
 using Object = std::unique_ptr<AtspiAccessible, Unref>;
 
 std::string take(gchar* text) {
-    const std::string result = text == nullptr ? "" : text;
+    std::string result = text == nullptr ? "" : text;
     g_free(text);
     return result;
 }

@@ -46,9 +46,10 @@ TEST(ShortcutKeyTest, knowsTheKeysThatEnd) {
 }
 
 TEST(ShortcutKeyTest, takesThoseKeysWithAModifierAsAnyOther) {
-    for (const int key : {Qt::Key_Escape, Qt::Key_Backspace, Qt::Key_Tab})
+    for (const int key : {Qt::Key_Escape, Qt::Key_Backspace, Qt::Key_Tab}) {
         EXPECT_EQ(shortcutKey(press(key, Qt::ControlModifier, xkey::escape)), ShortcutKey::combination)
             << key;
+    }
 }
 
 TEST(ShortcutKeyTest, doesNotTakeWhatNoKeyHasPressed) {
