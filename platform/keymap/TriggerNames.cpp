@@ -13,8 +13,8 @@ namespace {
 
 /// A modifier as triggers call it, and as desktops do, in lower case.
 struct ModifierName {
-    xkb_mod_mask_t ModifierMasks::*mask;
-    const char* trigger;
+    xkb_mod_mask_t ModifierMasks::*mask = nullptr;
+    const char* trigger = nullptr;
     std::array<std::string_view, 5> others;
 };
 

@@ -97,7 +97,7 @@ end tell
 TEST_F(ScriptMacroTest, aProgramThatIsBusyForSecondsGets200CharactersOfNoLayout) {
     std::string text;
     for (char32_t character = 0x4E00; character < 0x4E00 + 200; ++character) appendUtf8(text, character);
-    load(fileWith("long.keyrill", "tell application \"System Events\" to keystroke \"" + text + "\"\n"));
+    load(fileWith("long.keyrill", R"(tell application "System Events" to keystroke ")" + text + "\"\n"));
     ASSERT_TRUE(terminal->hasFocus());
     ASSERT_EQ(kill(terminal->pid(), SIGSTOP), 0);
     play();

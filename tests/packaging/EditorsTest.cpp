@@ -99,7 +99,7 @@ TEST_F(EditorsTest, editorsWithKSyntaxHighlightingColourAScript) {
 TEST_F(EditorsTest, vimColoursAScript) {
     const std::string coloured = file() + ".coloured";
     outputOf({"vim", "-Nu", "NONE", "-es", "-c", "set rtp^=" + installed("vim/vimfiles"), "-c", "filetype on",
-              "-c", "syntax on", "-c", "edit " + file(), "-c", "source " KEYRILL_VIM_COLOURS},
+              "-c", "syntax on", "-c", "edit " + file(), "-c", "source " + std::string(KEYRILL_VIM_COLOURS)},
              {{"COLOURED", coloured}, {"LC_ALL", "C.UTF-8"}});
     EXPECT_EQ(contentOf(coloured), R"(Statement tell
 Statement application

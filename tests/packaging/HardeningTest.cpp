@@ -64,9 +64,10 @@ TEST_F(HardeningTest, looksAtAllPrograms) {
 }
 
 TEST_F(HardeningTest, theyLieAtNoFixedAddress) {
-    for (const std::string& program : *programs)
+    for (const std::string& program : *programs) {
         EXPECT_NE(lineWith(read("--file-header", program), "Type:").find("DYN"), std::string::npos)
             << program;
+    }
 }
 
 TEST_F(HardeningTest, allSymbolsAreBoundAndWriteProtectedBeforeTheyStart) {
