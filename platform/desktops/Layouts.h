@@ -19,6 +19,7 @@ class Layouts {
     /// the user's alone.
     virtual Result<void> setGroup(std::uint32_t group) = 0;
     /// Who is told, if the desktop itself tells of it here, that another one may be in force; at most one.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): who hears of changes keeps it.
     virtual void observe(std::function<void()> /*changed*/) {}
 };
 

@@ -11,6 +11,7 @@ namespace {
 constexpr const char* face = "org.freedesktop.portal.Request";
 
 /// So that no two have one name.
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): counted for the process.
 unsigned requestsOfProcess = 0;
 
 }  // namespace
@@ -51,7 +52,7 @@ std::string PortalRequest::listen() {
     std::string sender = g_dbus_connection_get_unique_name(m_bus.get());
     sender.erase(0, 1);
     std::replace(sender.begin(), sender.end(), '.', '_');
-    const std::string token = "keyrill" + std::to_string(++requestsOfProcess);
+    std::string token = "keyrill" + std::to_string(++requestsOfProcess);
     m_path = portalnames::object;
     m_path.append("/request/").append(sender).append("/").append(token);
     m_response = g_dbus_connection_signal_subscribe(m_bus.get(), portalnames::service, face, "Response",
