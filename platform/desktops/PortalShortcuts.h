@@ -23,7 +23,7 @@
 class PortalShortcuts final : public HotKeyBinder {
   public:
     struct Words {
-        /// The combination as the shortcuts specification of freedesktop.org writes it ("CTRL+LOGO+r"); empty
+        /// The combination as the shortcuts standard of freedesktop.org writes it ("CTRL+LOGO+r"); empty
         /// if it has no name.
         std::function<std::string(const KeyGrab& grab)> triggerOf;
         /// The combination, without locks, that the desktop's words for it mean; empty if that is not known.

@@ -11,7 +11,7 @@
 /// nothing.
 std::string symbolName(const Keymap& keymap, std::uint8_t keycode);
 
-/// A combination as the shortcuts specification of freedesktop.org writes it: "CTRL+LOGO+r". Empty where it
+/// A combination as the shortcuts standard of freedesktop.org writes it: "CTRL+LOGO+r". Empty where it
 /// has no name, as those with a level chooser have none.
 std::string portalTrigger(const Keymap& keymap, std::uint8_t keycode, xkb_mod_mask_t modifiers);
 

@@ -31,7 +31,7 @@ TEST_F(TriggerNamesTest, aCombinationIsItsModifiersAndWhatTheKeyTypes) {
     EXPECT_EQ(portalTrigger(*keymap, xkey::returnKey, masks.control), "CTRL+Return");
 }
 
-TEST_F(TriggerNamesTest, whatTheSpecificationHasNoNameForHasNone) {
+TEST_F(TriggerNamesTest, whatTheStandardHasNoNameForHasNone) {
     EXPECT_EQ(portalTrigger(*keymap, xkey::r, masks.control | masks.thirdLevel), "");
     EXPECT_EQ(portalTrigger(*keymap, 8, masks.control), "");
 }
