@@ -19,6 +19,7 @@ constexpr std::chrono::milliseconds patience{1500};
 constexpr const char* service = "org.kde.KWin";
 constexpr const char* scripting = "/Scripting";
 constexpr const char* scriptingFace = "org.kde.kwin.Scripting";
+constexpr const char* unloading = "unloadScript";
 /// Of the script that is loaded. KWin loads no two of one name.
 constexpr const char* scriptName = "example.orlen.Keyrill";
 
@@ -67,7 +68,7 @@ std::string scriptOf(const std::string& statements, const std::string& teller) {
     };
     return "function tell(text) { " + call(teller, object, face, member, "text") + "}\n" + "try {\n" +
            statements + "\n} catch (failure) { tell(''); }\n" +
-           call(service, scripting, scriptingFace, "unloadScript", "'" + std::string(scriptName) + "'");
+           call(service, scripting, scriptingFace, unloading, "'" + std::string(scriptName) + "'");
 }
 
 }  // namespace
@@ -90,11 +91,14 @@ Result<std::string> KWinScripts::run(const std::string& statements) {
     m_hasTold = false;
     if (const auto loaded = load(file.name()); !loaded) return loaded.error();
     auto told = await();
-    if (!told) {
-        [[maybe_unused]] const auto gone = m_bus.ask({service, scripting, scriptingFace, "unloadScript"},
-                                                     g_variant_new("(s)", scriptName), "(b)");
-    }
+    if (!told) unload();
     return told;
+}
+
+bool KWinScripts::unload() {
+    const auto gone =
+        m_bus.ask({service, scripting, scriptingFace, unloading}, g_variant_new("(s)", scriptName), "(b)");
+    return static_cast<bool>(gone);
 }
 
 Result<void> KWinScripts::load(const std::string& file) {
@@ -107,9 +111,7 @@ Result<void> KWinScripts::load(const std::string& file) {
     auto loaded = loadIt();
     if (loaded) g_variant_get(loaded.value().get(), "(i)", &number);
     if (loaded && number == isLoadedAlready) {
-        const auto gone = m_bus.ask({service, scripting, scriptingFace, "unloadScript"},
-                                    g_variant_new("(s)", scriptName), "(b)");
-        if (gone) loaded = loadIt();
+        if (unload()) loaded = loadIt();
         if (loaded) g_variant_get(loaded.value().get(), "(i)", &number);
     }
     if (!loaded) return Error{"KWin runs no scripts: " + loaded.error().message, "Log in again."};

@@ -27,6 +27,8 @@ class KWinScripts {
 
   private:
     Result<void> load(const std::string& file);
+    /// Whether KWin could be asked.
+    bool unload();
     Result<std::string> await();
     void updateUntil(std::chrono::steady_clock::time_point end);
 
