@@ -82,14 +82,12 @@ void KdeShortcuts::listen() {
                [this](const char*, GVariant* parameters) { heard(parameters, Event::Kind::press); });
     m_bus.hear(service, componentObject, componentFace, "globalShortcutReleased",
                [this](const char*, GVariant* parameters) { heard(parameters, Event::Kind::release); });
-    m_bus.hear("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameOwnerChanged",
-               [this](const char*, GVariant* parameters) { ownerChanged(parameters); });
+    m_bus.hearOwner(service, [this](bool /*wasThere*/, bool isThere) {
+        if (isThere) forget();
+    });
     m_bus.hear("org.kde.keyboard", "/Layouts", "org.kde.KeyboardLayouts", "layoutChanged",
                [this](const char*, GVariant*) { m_events.push_back({.kind = Event::Kind::layout}); });
-    m_bus.whenReplaced([this] {
-        m_bound.clear();
-        m_events.push_back({.kind = Event::Kind::reload});
-    });
+    m_bus.whenReplaced([this] { forget(); });
 }
 
 void KdeShortcuts::sweep() const {
@@ -186,12 +184,7 @@ void KdeShortcuts::heard(GVariant* parameters, Event::Kind kind) {
 }
 
 /// Another one in the place of one that has ended has to be told all again.
-void KdeShortcuts::ownerChanged(GVariant* parameters) {
-    const char* name = nullptr;
-    const char* owner = nullptr;
-    if (g_variant_is_of_type(parameters, G_VARIANT_TYPE("(sss)")) == FALSE) return;
-    g_variant_get(parameters, "(&s&s&s)", &name, nullptr, &owner);
-    if (std::string_view(name) != service || *owner == '\0') return;
+void KdeShortcuts::forget() {
     m_bound.clear();
     m_events.push_back({.kind = Event::Kind::reload});
 }

@@ -54,7 +54,7 @@ class KdeShortcuts final : public HotKeyBinder {
     void unbind(const Place& place) const;
     std::string ownerOf(std::int32_t key) const;
     void heard(GVariant* parameters, Event::Kind kind);
-    void ownerChanged(GVariant* parameters);
+    void forget();
 
     SessionBus& m_bus;
     Describes m_describes;

@@ -2,7 +2,6 @@
 #include "platform/desktops/PortalShortcuts.h"
 
 #include <algorithm>
-#include <string_view>
 #include <utility>
 
 #include "platform/desktops/portal/PortalNames.h"
@@ -63,8 +62,7 @@ void PortalShortcuts::listen() {
                [this](const char*, GVariant* parameters) { heard(parameters, Event::Kind::release); });
     m_bus.hear(service, object, face, "ShortcutsChanged",
                [this](const char*, GVariant* parameters) { changed(parameters); });
-    m_bus.hear("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameOwnerChanged",
-               [this](const char*, GVariant* parameters) { ownerChanged(parameters); });
+    m_bus.hearOwner(service, [this](bool wasThere, bool isThere) { ownerChanged(wasThere, isThere); });
     m_bus.whenReplaced([this] { forget(); });
 }
 
@@ -288,19 +286,12 @@ void PortalShortcuts::closed() {
 }
 
 /// One that dies while it is asked is not asked again at once: it could die of that.
-void PortalShortcuts::ownerChanged(GVariant* parameters) {
-    const char* name = nullptr;
-    const char* before = nullptr;
-    const char* owner = nullptr;
-    if (g_variant_is_of_type(parameters, G_VARIANT_TYPE("(sss)")) == FALSE) return;
-    g_variant_get(parameters, "(&s&s&s)", &name, &before, &owner);
-    if (std::string_view(name) != service) return;
-    const bool wasThere = *before != '\0';
+void PortalShortcuts::ownerChanged(bool wasThere, bool isThere) {
     if (wasThere && m_state == State::bound) return forget();
     if (wasThere && m_state == State::asking) {
         m_session.clear();
         m_isPortalAtFault = true;
         return endBecause("the desktop's portal has ended");
     }
-    if (*owner != '\0' && m_state == State::idle && m_isPortalAtFault) forget();
+    if (isThere && m_state == State::idle && m_isPortalAtFault) forget();
 }

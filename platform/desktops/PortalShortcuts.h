@@ -92,7 +92,7 @@ class PortalShortcuts final : public HotKeyBinder {
     void heard(GVariant* parameters, Event::Kind kind);
     void changed(GVariant* parameters);
     void closed();
-    void ownerChanged(GVariant* parameters);
+    void ownerChanged(bool wasThere, bool isThere);
 
     SessionBus& m_bus;
     Words m_words;

@@ -65,6 +65,18 @@ void SessionBus::hear(const char* sender, const char* path, const char* interfac
     if (isOpen()) listen(m_hearings.back());
 }
 
+void SessionBus::hearOwner(const char* name, OwnerChanged changed) {
+    hear(theBus, theBusObject, theBus, "NameOwnerChanged",
+         [wanted = std::string(name), changed = std::move(changed)](const char*, GVariant* parameters) {
+             if (g_variant_is_of_type(parameters, G_VARIANT_TYPE("(sss)")) == FALSE) return;
+             const char* told = nullptr;
+             const char* before = nullptr;
+             const char* owner = nullptr;
+             g_variant_get(parameters, "(&s&s&s)", &told, &before, &owner);
+             if (wanted == told) changed(*before != '\0', *owner != '\0');
+         });
+}
+
 Result<GVariantPointer> SessionBus::ask(const Method& method, GVariant* parameters, const char* type,
                                         Starts starts) const {
     if (!isOpen()) {

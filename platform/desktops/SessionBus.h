@@ -60,6 +60,10 @@ class SessionBus {
     void hear(const char* sender, const char* path, const char* interface, const char* member,
               BusConnection::Heard heard);
 
+    using OwnerChanged = std::function<void(bool wasThere, bool isThere)>;
+    /// Somebody has taken that name, given it up, or come in another's place.
+    void hearOwner(const char* name, OwnerChanged changed);
+
     /// Readable when update() has something to do.
     int fileDescriptor() const { return m_loop.fileDescriptor(); }
     void update() const { m_loop.update(); }
