@@ -20,7 +20,7 @@ constexpr std::size_t lineEndLength(std::string_view text) { return text.starts_
 
 /// Up to the line end, or the end of the text.
 constexpr std::size_t lineLength(std::string_view text) {
-    return std::min(text.find_first_of("\r\n"), text.size());
+    return static_cast<std::size_t>(std::find_if(text.begin(), text.end(), isLineEnd) - text.begin());
 }
 
 /// Whether a comment begins that ends with its line.
