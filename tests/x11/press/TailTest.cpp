@@ -41,7 +41,7 @@ TEST_F(TailTest, modifiersComeUpAWhileAfterTheKeyInAPauseAndAtTheEnd) {
               (Lines{"press 50 0x0", "press 64 0x1", "press 23 0x9", "release 23 0x9", "release 64 0x9",
                      "release 50 0x1", "press 64 0x0", "press 23 0x8", "release 23 0x8", "release 64 0x8"}));
     EXPECT_GE(between(3, 4), length);
-    EXPECT_EQ(between(4, 5), 0U);
+    EXPECT_LT(between(4, 5), length / 2) << "both come up together";
     EXPECT_GE(between(5, 6), 50U);
     EXPECT_GE(between(8, 9), length);
 }
