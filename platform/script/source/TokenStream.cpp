@@ -42,9 +42,8 @@ void TokenStream::advance(std::size_t count) {
     for (; count > 0; --count) advance();
 }
 
-const Token& TokenStream::peek(std::size_t count) const {
+void TokenStream::readAhead(std::size_t count) const {
     while (m_count <= count) m_window[(m_first + m_count++) % windowSize] = m_lexer.next();
-    return m_window[(m_first + count) % windowSize];
 }
 
 /// No further than the words are found: what stands behind them may not be a token.

@@ -25,7 +25,10 @@ class TokenStream {
     const Token& current() const { return m_window[m_first]; }
     const Token& ahead() const { return m_window[(m_first + 1) % windowSize]; }
     /// The token so many behind the current one, at most maxAhead.
-    const Token& peek(std::size_t count) const;
+    const Token& peek(std::size_t count) const {
+        if (m_count <= count) readAhead(count);
+        return m_window[(m_first + count) % windowSize];
+    }
     std::uint32_t offset() const { return offsetOf(current()); }
     std::uint32_t offsetOf(const Token& token) const;
 
@@ -96,6 +99,8 @@ class TokenStream {
         advance(count);
         return true;
     }
+    /// So that the window holds the token so many behind the current one.
+    void readAhead(std::size_t count) const;
     bool isAtWords(const Phrase& words, std::size_t from) const;
     std::string describeCurrent() const { return describe(current(), ahead()); }
     std::string describe(const Token& token, const Token& ahead) const;
