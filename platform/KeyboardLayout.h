@@ -19,4 +19,8 @@ class KeyboardLayout {
     /// What the key types with Shift or Option held, capitalised, UTF-8. Fails where the layout cannot be
     /// read or the key types nothing.
     virtual Result<std::string> character(std::uint32_t keyCode, bool shift, bool option) const = 0;
+
+    /// What a press of the key types by itself or with Shift, as it stands, UTF-8; empty where that is no
+    /// character that can be seen and no blank, and where the layout cannot be read.
+    virtual std::string typed(std::uint32_t keyCode, bool shift) const = 0;
 };

@@ -18,3 +18,8 @@ Result<std::string> FakeKeyboardLayout::character(std::uint32_t keyCode, bool sh
     if (character == 0) return Error{"The key " + fakeus::keyName(keyCode) + " types nothing.", ""};
     return std::string(1, static_cast<char>(std::toupper(character)));
 }
+
+std::string FakeKeyboardLayout::typed(std::uint32_t keyCode, bool shift) const {
+    const char character = fakeus::character(keyCode, shift);
+    return character >= ' ' && character < 0x7F ? std::string(1, character) : std::string();
+}

@@ -11,6 +11,7 @@ class FakeKeyboardLayout : public KeyboardLayout {
   public:
     std::string keyName(std::uint32_t keyCode) const override;
     Result<std::string> character(std::uint32_t keyCode, bool shift, bool option) const override;
+    std::string typed(std::uint32_t keyCode, bool shift) const override;
 
     /// How often a key's name was asked for.
     int lookups() const { return m_lookups; }

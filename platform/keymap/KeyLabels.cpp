@@ -105,3 +105,16 @@ std::string keyText(const Keymap& keymap, xkb_layout_index_t layout, std::uint32
     const xkb_mod_mask_t digits = keycode::isKeypadDigit(key.baseCode) ? keymap.masks().numLock : 0;
     return printed(keymap.symbol(key.keycode, modifiers | key.choosers | digits, layout));
 }
+
+std::string typedText(const Keymap& keymap, xkb_layout_index_t inForce, std::uint32_t keyCode, bool shift) {
+    const Key key = keyOf(keymap, keyCode);
+    if (key.keycode == 0) return {};
+    const ModifierMasks& masks = keymap.masks();
+    const xkb_mod_mask_t modifiers = key.choosers | (shift ? masks.shift : 0) |
+                                     ((keyCode & keycode::capsLock) != 0 ? masks.capsLock : 0) |
+                                     (keycode::isKeypadDigit(key.baseCode) ? masks.numLock : 0);
+    const xkb_layout_index_t layout = keycode::layoutOf(keyCode).value_or(inForce);
+    const xkb_keysym_t symbol = keymap.symbol(key.keycode, modifiers, layout);
+    const std::uint32_t character = xkb_keysym_to_utf32(symbol);
+    return character == ' ' || isPrintable(character) ? utf8(symbol) : std::string();
+}

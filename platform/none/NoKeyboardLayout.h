@@ -14,6 +14,7 @@ class NoKeyboardLayout final : public KeyboardLayout {
     Result<std::string> character(std::uint32_t /*keyCode*/, bool /*shift*/, bool /*option*/) const override {
         return m_why;
     }
+    std::string typed(std::uint32_t /*keyCode*/, bool /*shift*/) const override { return {}; }
 
   private:
     Error m_why;

@@ -18,4 +18,8 @@ Result<std::string> WaylandKeyboardLayout::character(std::uint32_t keyCode, bool
     return Error{"The key " + keyName(keyCode) + " types no character.", ""};
 }
 
+std::string WaylandKeyboardLayout::typed(std::uint32_t keyCode, bool shift) const {
+    return typedText(m_seat.keymap(), m_seat.group(), keyCode, shift);
+}
+
 }  // namespace wayland

@@ -15,6 +15,7 @@ class WaylandKeyboardLayout final : public KeyboardLayout {
 
     std::string keyName(std::uint32_t keyCode) const override;
     Result<std::string> character(std::uint32_t keyCode, bool shift, bool option) const override;
+    std::string typed(std::uint32_t keyCode, bool shift) const override;
 
   private:
     const SeatKeymap& m_seat;

@@ -82,3 +82,18 @@ TEST_P(KeyboardLayoutContract, aKeyThatTypesNothingHasNoCharacter) {
         EXPECT_FALSE(layout().character(keyCode, false, false)) << keyCode;
     }
 }
+
+TEST_P(KeyboardLayoutContract, whatAKeyTypesStandsAsItIs) {
+    EXPECT_EQ(layout().typed(0, false), "a");
+    EXPECT_EQ(layout().typed(0, true), "A");
+    EXPECT_EQ(layout().typed(18, true), "!");
+    EXPECT_EQ(layout().typed(49, false), " ");
+    EXPECT_EQ(layout().typed(83, false), "1") << "keypad digits always mean the digit";
+}
+
+TEST_P(KeyboardLayoutContract, keysThatDoSomethingTypeNothing) {
+    for (const std::uint32_t keyCode : {36U, 48U, 51U, 53U, 117U, 122U, 123U, 56U, 66U, 0xFFFFU}) {
+        EXPECT_EQ(layout().typed(keyCode, false), "") << keyCode;
+        EXPECT_EQ(layout().typed(keyCode, true), "") << keyCode;
+    }
+}

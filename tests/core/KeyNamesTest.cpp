@@ -108,6 +108,7 @@ class EchoLayout : public KeyboardLayout {
     Result<std::string> character(std::uint32_t keyCode, bool shiftHeld, bool optionHeld) const override {
         return std::to_string(keyCode) + (shiftHeld ? " shift" : "") + (optionHeld ? " option" : "");
     }
+    std::string typed(std::uint32_t /*keyCode*/, bool /*shift*/) const override { return {}; }
 };
 
 class EchoedKeyNamesTest : public KeyNamesTest {

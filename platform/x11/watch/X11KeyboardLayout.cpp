@@ -21,4 +21,9 @@ Result<std::string> X11KeyboardLayout::character(std::uint32_t keyCode, bool shi
     return Error{"The key " + keyName(keyCode) + " types no character.", ""};
 }
 
+std::string X11KeyboardLayout::typed(std::uint32_t keyCode, bool shift) const {
+    const KeyboardState& keyboard = m_manager.keyboard();
+    return typedText(keyboard.keymap(), keyboard.layout(), keyCode, shift);
+}
+
 }  // namespace x11
