@@ -55,6 +55,9 @@ BEGIN {
     room("prefs", "core platform", standard "|^boost/", "")
     room("engine", "prefs core platform", standard "|^boost/", "")
 
+    room("library/steps", "core platform platform/script/code platform/script/run platform/script/source",
+         standard "|^boost/", "")
+
     app("icons", "")
     app("widgets", "app/icons")
     app("shortcuts", "prefs core platform")
@@ -81,7 +84,7 @@ BEGIN {
     # The standard library cannot close a file descriptor.
     exempt["platform/Descriptor.cpp", "unistd.h"] = 1
 
-    ofRooms = "^(access|app|cli|core|engine|platform|prefs)/"
+    ofRooms = "^(access|app|cli|core|engine|library|platform|prefs)/"
     besideTheRooms = "^(tests|bench|fuzz)/"
     # What platform/x11/server has a class for, or a function.
     xcbIdiom = "xcb_(get|change|delete)_property([^a-z_]|_(un)?checked|_reply\\()|xcb_(intern_atom|query_tree|query_extension)" \

@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: MIT
+#include "library/steps/RecordedScript.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "core/Delay.h"
+#include "core/KeyCode.h"
+#include "library/steps/TextExpression.h"
+#include "platform/Modifiers.h"
+#include "platform/Utf8.h"
+
+namespace steps {
+namespace {
+
+constexpr std::string_view shortDelay = "delay 0.01\n";
+
+struct ModifierPhrase {
+    std::uint32_t modifier;
+    std::string_view phrase;
+};
+
+/// In the order in which actionpack::KeyCode writes them.
+constexpr std::array<ModifierPhrase, 4> modifierPhrases = {{
+    {modifier::command, "command down"},
+    {modifier::shift, "shift down"},
+    {modifier::option, "option down"},
+    {modifier::control, "control down"},
+}};
+
+bool isDigit(char character) { return character >= '0' && character <= '9'; }
+
+/// Reads a recording from its start. What is not there as it is written is not read at all.
+class LineReader {
+  public:
+    explicit LineReader(std::string_view rest) : m_rest(rest) {}
+
+    std::string_view rest() const { return m_rest; }
+
+    bool accept(std::string_view words) {
+        if (!m_rest.starts_with(words)) return false;
+        m_rest.remove_prefix(words.size());
+        return true;
+    }
+
+    /// key = "\tkey code (" code ") using {" [ modifier { ", " modifier } ] "}\n" short-delay
+    /// pause = "\tdelay " number "\n" short-delay
+    /// text = "\tkeystroke " expression "\n" short-delay
+    std::optional<Line> line() {
+        Line line;
+        const std::string_view before = m_rest;
+        const bool isRead = accept("\tkey code (") ? key(line)
+                            : accept("\tdelay ")   ? pause(line)
+                                                   : accept("\tkeystroke ") && text(line);
+        if (!isRead || !accept(shortDelay)) return std::nullopt;
+        line.size = before.size() - m_rest.size();
+        return line;
+    }
+
+  private:
+    bool key(Line& line) {
+        line.kind = LineKind::key;
+        return code(line.keyCode) && accept(") using {") && modifiers(line.modifiers) && accept("}\n");
+    }
+
+    bool code(std::uint32_t& code) {
+        const auto [end, error] = std::from_chars(m_rest.data(), m_rest.data() + m_rest.size(), code);
+        const auto digits = static_cast<std::size_t>(end - m_rest.data());
+        if (error != std::errc() || (digits > 1 && m_rest.front() == '0')) return false;
+        m_rest.remove_prefix(digits);
+        return true;
+    }
+
+    bool modifiers(std::uint32_t& modifiers) {
+        for (const ModifierPhrase& row : modifierPhrases) {
+            std::string_view rest = m_rest;
+            if (modifiers != 0 && !accept(", ")) break;
+            if (accept(row.phrase)) {
+                modifiers |= row.modifier;
+            } else {
+                m_rest = rest;
+            }
+        }
+        return true;
+    }
+
+    bool pause(Line& line) {
+        line.kind = LineKind::pause;
+        const std::string_view number = restOfLine();
+        const std::size_t sign = number.starts_with('-') ? 1 : 0;
+        if (number.size() == sign || !isDigit(number[sign])) return false;
+        const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), line.seconds);
+        return error == std::errc() && end == number.data() + number.size();
+    }
+
+    bool text(Line& line) {
+        line.kind = LineKind::text;
+        return textOfExpression(restOfLine()).has_value();
+    }
+
+    /// And passes the line end.
+    std::string_view restOfLine() {
+        const std::size_t end = std::min(m_rest.find('\n'), m_rest.size());
+        const std::string_view line = m_rest.substr(0, end);
+        m_rest.remove_prefix(std::min(end + 1, m_rest.size()));
+        return line;
+    }
+
+    std::string_view m_rest;
+};
+
+/// The number of equal bytes in front.
+std::size_t commonPrefix(std::string_view one, std::string_view other) {
+    const auto end = std::mismatch(one.begin(), one.end(), other.begin(), other.end()).first;
+    return static_cast<std::size_t>(end - one.begin());
+}
+
+std::size_t commonSuffix(std::string_view one, std::string_view other) {
+    const auto end = std::mismatch(one.rbegin(), one.rend(), other.rbegin(), other.rend()).first;
+    return static_cast<std::size_t>(end - one.rbegin());
+}
+
+/// Whether the byte there, if there is one, belongs to the character before it.
+bool isInsideCharacter(std::string_view text, std::size_t offset) {
+    return offset < text.size() && isUtf8Continuation(text[offset]);
+}
+
+}  // namespace
+
+std::string spliced(std::string text, const Splice& splice) {
+    text.replace(splice.offset, splice.removed, splice.inserted);
+    return text;
+}
+
+Splice spliceBetween(std::string_view before, std::string_view after) {
+    std::size_t prefix = commonPrefix(before, after);
+    while (prefix > 0 && (isInsideCharacter(before, prefix) || isInsideCharacter(after, prefix))) --prefix;
+    std::size_t suffix = commonSuffix(before.substr(prefix), after.substr(prefix));
+    while (suffix > 0 && isInsideCharacter(after, after.size() - suffix)) --suffix;
+    return {prefix, before.size() - prefix - suffix,
+            std::string(after.substr(prefix, after.size() - prefix - suffix))};
+}
+
+std::optional<RecordedScript> RecordedScript::parse(std::string script) {
+    RecordedScript recorded(std::move(script));
+    const std::string_view whole = recorded.m_script;
+    LineReader reader(whole);
+    if (!reader.accept(firstLine)) return std::nullopt;
+    while (reader.rest() != lastLine) {
+        const std::size_t begin = whole.size() - reader.rest().size();
+        std::optional<Line> line = reader.line();
+        if (!line) return std::nullopt;
+        line->begin = begin;
+        recorded.m_lines.push_back(*line);
+    }
+    return recorded;
+}
+
+std::string RecordedScript::textOf(const Line& line) const {
+    constexpr std::string_view command = "\tkeystroke ";
+    if (line.kind != LineKind::text) return {};
+    const std::size_t size = line.size - command.size() - 1 - shortDelay.size();
+    const std::string_view script = m_script;
+    return textOfExpression(script.substr(line.begin + command.size(), size)).value_or(std::string());
+}
+
+Splice RecordedScript::erased(std::size_t first, std::size_t count) const {
+    return replaced(first, count, {});
+}
+
+Splice RecordedScript::moved(std::size_t first, std::size_t count, std::size_t before) const {
+    const std::size_t end = first + count;
+    if (before >= first && before <= end) return {beginOf(first), 0, {}};
+    const std::size_t begin = std::min(first, before);
+    const std::string_view lines = bytesOf(first, count);
+    // What the lines pass comes to their other side.
+    const std::string_view passed =
+        before < first ? bytesOf(before, first - before) : bytesOf(end, before - end);
+    std::string inserted(before < first ? lines : passed);
+    inserted += before < first ? passed : lines;
+    return {beginOf(begin), inserted.size(), std::move(inserted)};
+}
+
+Splice RecordedScript::repeated(std::size_t first, std::size_t count, std::size_t times) const {
+    const std::string_view lines = bytesOf(first, count);
+    std::string inserted;
+    inserted.reserve(lines.size() * (times - 1));
+    for (std::size_t time = 1; time < times; ++time) inserted += lines;
+    return {beginOf(first + count), 0, std::move(inserted)};
+}
+
+Splice RecordedScript::replaced(std::size_t first, std::size_t count, std::string lines) const {
+    return {beginOf(first), bytesOf(first, count).size(), std::move(lines)};
+}
+
+std::size_t RecordedScript::beginOf(std::size_t line) const {
+    return line < m_lines.size() ? m_lines[line].begin : m_script.size() - lastLine.size();
+}
+
+std::string_view RecordedScript::bytesOf(std::size_t first, std::size_t count) const {
+    const std::size_t begin = beginOf(first);
+    return std::string_view(m_script).substr(begin, beginOf(first + count) - begin);
+}
+
+std::string keyLines(std::uint32_t keyCode, std::uint32_t modifiers) {
+    actionpack::KeyCode key(keyCode, {}, 0);
+    key.setModifiers(modifiers);
+    return key.scriptLine().append(shortDelay);
+}
+
+std::string pauseLines(double seconds) { return actionpack::Delay(seconds).scriptLine().append(shortDelay); }
+
+std::string textLines(std::string_view text) {
+    return "\tkeystroke " + expressionOfText(text) + "\n" + std::string(shortDelay);
+}
+
+}  // namespace steps

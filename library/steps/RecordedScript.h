@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace steps {
+
+/// A part of a text that becomes another. Offsets and sizes are in bytes.
+struct Splice {
+    std::size_t offset = 0;
+    std::size_t removed = 0;
+    std::string inserted = {};
+
+    friend bool operator==(const Splice&, const Splice&) = default;
+};
+
+/// The text after the splice, which has to lie in it.
+std::string spliced(std::string text, const Splice& splice);
+/// The smallest splice that makes `after` of `before`; it cuts no character of UTF-8 in two.
+Splice spliceBetween(std::string_view before, std::string_view after);
+
+enum class LineKind : std::uint8_t {
+    key,    ///< key code (1) using {command down}
+    pause,  ///< delay 0.5
+    text,   ///< keystroke "Hello"
+};
+
+/// One step of a recorded macro: its line of script, and the one of the short delay after it.
+struct Line {
+    LineKind kind = LineKind::key;
+    /// Of a key: platform/KeyCodes.h, platform/Modifiers.h.
+    std::uint32_t keyCode = 0;
+    std::uint32_t modifiers = 0;
+    /// Of a pause.
+    double seconds = 0;
+    /// Where both lines stand in the script, in bytes.
+    std::size_t begin = 0;
+    std::size_t size = 0;
+};
+
+/// A script of the shape that recordings have: nothing but key presses, pauses and typed texts one below the
+/// other, each as it is written when it is recorded or edited. It can be edited step by step.
+///
+/// The edits are splices, so that all lines that are not edited stay as they are, byte for byte. What a
+/// splice makes of the script has the shape again. Lines are counted from 0, `first` and `count` lie within
+/// them.
+class RecordedScript {
+  public:
+    /// Empty for a script of any other shape.
+    static std::optional<RecordedScript> parse(std::string script);
+
+    const std::string& script() const { return m_script; }
+    const std::vector<Line>& lines() const { return m_lines; }
+    /// What the line types, UTF-8; empty for those of other kinds.
+    std::string textOf(const Line& line) const;
+
+    Splice erased(std::size_t first, std::size_t count) const;
+    /// The lines stand before the one that is `before` now, at most the number of lines. One of them itself
+    /// moves nothing.
+    Splice moved(std::size_t first, std::size_t count, std::size_t before) const;
+    /// The lines stand there so often, one or more times.
+    Splice repeated(std::size_t first, std::size_t count, std::size_t times) const;
+    /// Lines, as keyLines(), textLines() and pauseLines() make them, stand in the place of others; of none
+    /// with the `count` 0.
+    Splice replaced(std::size_t first, std::size_t count, std::string lines) const;
+
+  private:
+    explicit RecordedScript(std::string script) : m_script(std::move(script)) {}
+
+    std::size_t beginOf(std::size_t line) const;
+    std::string_view bytesOf(std::size_t first, std::size_t count) const;
+
+    std::string m_script;
+    std::vector<Line> m_lines;
+};
+
+/// Around the lines of a recording.
+inline constexpr std::string_view firstLine = "tell application \"System Events\"\n";
+inline constexpr std::string_view lastLine = "end tell\n";
+
+/// The script of a step, with the short delay after it.
+std::string keyLines(std::uint32_t keyCode, std::uint32_t modifiers);
+/// Seconds are written with six digits.
+std::string pauseLines(double seconds);
+/// `text` is UTF-8. Written in ASCII, since that is what macro files are.
+std::string textLines(std::string_view text);
+
+}  // namespace steps
