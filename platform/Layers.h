@@ -36,6 +36,8 @@ struct LayerPicture {
 
 /// A key that is pressed or released while the layer has the keyboard.
 struct LayerKey {
+    /// Which key of the keyboard it is: its symbol may be another when it is released.
+    std::uint32_t keycode = 0;
     /// A symbol of the X keyboard extension (keysymdef.h): 0xff0d for Return.
     std::uint32_t symbol = 0;
     /// The character that the symbol stands for, whatever else is held; 0 if none.

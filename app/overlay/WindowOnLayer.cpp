@@ -125,7 +125,7 @@ void WindowOnLayer::followRepeats(const LayerKey& key) {
     if (key.isPress && key.repeatInterval > 0) {
         m_held = key;
         m_repeat.start(key.repeatDelay);
-    } else if (key.isPress || key.symbol == m_held.symbol) {
+    } else if (key.isPress || key.keycode == m_held.keycode) {
         m_repeat.stop();
     }
 }

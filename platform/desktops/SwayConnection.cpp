@@ -17,7 +17,6 @@ namespace {
 constexpr std::string_view magic = "i3-ipc";
 constexpr std::size_t headerSize = magic.size() + 2 * sizeof(std::uint32_t);
 constexpr std::size_t longestMessage = 64U << 20U;
-constexpr std::chrono::seconds patience{2};
 constexpr std::uint32_t firstEvent = 0x80000000;
 
 Error unreachable() {
@@ -38,7 +37,7 @@ std::uint32_t numberAt(const std::string& message, std::size_t place) {
 
 }  // namespace
 
-Result<SwayConnection> SwayConnection::open() {
+Result<SwayConnection> SwayConnection::open(std::chrono::milliseconds patience) {
     const char* const named = std::getenv("SWAYSOCK");
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -49,23 +48,31 @@ Result<SwayConnection> SwayConnection::open() {
     if (!file || connect(file.number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
         return unreachable();
     }
-    return SwayConnection(std::move(file));
+    return SwayConnection(std::move(file), patience);
 }
 
 Result<Json> SwayConnection::ask(Request request, std::string_view content) {
     const auto type = static_cast<std::uint32_t>(request);
-    const auto end = std::chrono::steady_clock::now() + patience;
+    const auto end = std::chrono::steady_clock::now() + m_patience;
     if (!send(type, content)) return unreachable();
     for (;;) {
         while (auto message = takeMessage()) {
             auto json = Json::parse(message->content);
             if (!json) return unreachable();
-            if (message->type == type) return std::move(*json);
-            m_events.push_back({message->type, std::move(*json)});
+            if (message->type >= firstEvent) {
+                m_events.push_back({message->type, std::move(*json)});
+            } else if (m_overdue > 0) {
+                --m_overdue;
+            } else if (message->type == type) {
+                return std::move(*json);
+            }
         }
         const auto left =
             std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
-        if (left.count() <= 0 || m_isBroken) return unreachable();
+        if (left.count() <= 0 || m_isBroken) {
+            ++m_overdue;
+            return unreachable();
+        }
         read(static_cast<int>(left.count()));
     }
 }
@@ -90,7 +97,12 @@ std::optional<SwayConnection::Event> SwayConnection::nextEvent() {
     while (read(0)) continue;
     while (auto message = takeMessage()) {
         auto json = Json::parse(message->content);
-        if (json && message->type >= firstEvent) m_events.push_back({message->type, std::move(*json)});
+        if (message->type < firstEvent) {
+            // An answer that nobody waits for any longer.
+            if (m_overdue > 0) --m_overdue;
+        } else if (json) {
+            m_events.push_back({message->type, std::move(*json)});
+        }
     }
     if (m_events.empty()) return std::nullopt;
     Event event = std::move(m_events.front());

@@ -3,6 +3,7 @@
 
 #include <sys/types.h>
 
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <optional>
@@ -34,11 +35,12 @@ class SwayConnection {
         Json content;
     };
 
-    /// At the socket that $SWAYSOCK names. Fails where there is none.
-    static Result<SwayConnection> open();
+    /// At the socket that $SWAYSOCK names, waiting so long for each answer. Fails where there is none.
+    static Result<SwayConnection> open(std::chrono::milliseconds patience = std::chrono::seconds(2));
 
-    /// The answer, for which it waits two seconds at the most; what else comes meanwhile is kept for
-    /// nextEvent(). Fails when the connection is lost, or the answer is no JSON.
+    /// The answer, for which it waits as long as its patience lasts; what else comes meanwhile is kept for
+    /// nextEvent(). Fails when the connection is lost, or the answer is no JSON. One that comes too late is
+    /// not taken for the next one's.
     Result<Json> ask(Request request, std::string_view content = {});
     /// Runs a command; fails where sway refuses it, with its words.
     Result<void> run(std::string_view command);
@@ -53,7 +55,8 @@ class SwayConnection {
     bool isBroken() const { return m_isBroken; }
 
   private:
-    explicit SwayConnection(Descriptor socket) : m_socket(std::move(socket)) {}
+    SwayConnection(Descriptor socket, std::chrono::milliseconds patience)
+        : m_socket(std::move(socket)), m_patience(patience) {}
 
     struct Message {
         std::uint32_t type = 0;
@@ -66,7 +69,10 @@ class SwayConnection {
     std::optional<Message> takeMessage();
 
     Descriptor m_socket;
+    std::chrono::milliseconds m_patience;
     std::string m_received;
     std::deque<Event> m_events;
+    /// Answers, in the order of their questions, that are still to come for nobody.
+    int m_overdue = 0;
     bool m_isBroken = false;
 };

@@ -19,7 +19,8 @@ bool SwayLock::isLocked() {
 
 bool SwayLock::look() {
     const auto seats = m_connection.ask(SwayConnection::Request::seats);
-    if (!seats) return false;
+    // A password may be typed while sway does not answer.
+    if (!seats) return m_lockers.isAnyRunning(m_connection.user());
     const auto& all = seats.value().items();
     const bool hasAWindow =
         std::any_of(all.begin(), all.end(), [](const Json& seat) { return seat["focus"].number() != 0; });

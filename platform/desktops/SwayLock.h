@@ -15,7 +15,7 @@ class SwayLock {
     SwayLock(SwayConnection connection, const Clock& clock)
         : m_connection(std::move(connection)), m_clock(clock) {}
 
-    /// What is so now, or was at most 10 ms ago. A sway that does not answer is not locked.
+    /// What is so now, or was at most 10 ms ago. While sway does not answer any locker that runs counts.
     bool isLocked();
 
   private:

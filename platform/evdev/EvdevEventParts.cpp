@@ -137,9 +137,12 @@ void EvdevEventMonitor::Parts::desktopTells(const KeyGrab& grab, bool press) {
 /// One that no open keyboard has told was pressed on another, or before they were open.
 void EvdevEventMonitor::Parts::desktopPresses(const KeyGrab& grab) {
     const std::optional<HotKeyId> id = m_hotKeys.ownerOf(grab);
-    if (!id || m_echoes.take(*id, m_clock.now())) return;
     // A held combination presses once, though some desktops tell of its repeats.
-    if (m_desktopDown.contains(grab.keycode)) return;
+    if (!id || m_desktopDown.contains(grab.keycode)) return;
+    if (m_echoes.take(*id, m_clock.now())) {
+        m_desktopDown.emplace(grab.keycode, std::nullopt);
+        return;
+    }
     m_stream.noteHotKey(*id);
     if (m_withheld) return;
     m_desktopDown.emplace(grab.keycode, *id);
@@ -151,10 +154,17 @@ void EvdevEventMonitor::Parts::desktopReleases(const KeyGrab& grab) {
     constexpr std::chrono::milliseconds handsAreUp{250};
     const auto down = m_desktopDown.find(grab.keycode);
     if (down == m_desktopDown.end()) return;
-    const HotKeyEvent event{down->second, false, KeyStream::serverTime(m_stream.now())};
+    const std::optional<HotKeyId> id = down->second;
     m_desktopDown.erase(down);
-    m_interpreter.deliveries().emplace_back(event);
+    if (!id) return;
+    m_interpreter.deliveries().emplace_back(
+        HotKeyEvent{*id, false, KeyStream::serverTime(m_stream.now())});
     if (m_awaitsHands) m_assumedUntil = m_clock.now() + handsAreUp;
+}
+
+bool EvdevEventMonitor::Parts::isHotKeyDown() const {
+    return std::any_of(m_desktopDown.begin(), m_desktopDown.end(),
+                       [](const auto& down) { return down.second.has_value(); });
 }
 
 void EvdevEventMonitor::Parts::desktopForgot() {

@@ -68,7 +68,7 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     void desktopReleases(const KeyGrab& grab);
     void awaitHands(std::uint16_t modifiers);
     void endWaitForHands();
-    bool isHotKeyDown() const { return !m_desktopDown.empty(); }
+    bool isHotKeyDown() const;
     void followNeed(DeviceOpener::Question question);
     EventMonitor::Access access() const;
     void recordWindow();
@@ -94,8 +94,9 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     EventSource* m_desktop = nullptr;
     EventMonitor::AccessObserver m_accessChanged;
     EventMonitor::Access m_toldAccess = EventMonitor::Access::given;
-    /// By their keys, the hot keys that the desktop has told to be down.
-    std::map<std::uint8_t, HotKeyId> m_desktopDown;
+    /// By their keys, the hot keys that the desktop has told to be down; nothing for one that a keyboard has
+    /// told already.
+    std::map<std::uint8_t, std::optional<HotKeyId>> m_desktopDown;
     /// A play waits, or may have to, for the modifiers of its hot key.
     bool m_awaitsHands = false;
     /// Until when these are taken for held, unless keyboards tell better.

@@ -37,7 +37,7 @@ std::vector<std::uint32_t> FakeLayers::picture() const {
 }
 
 void FakeLayers::userTypes(std::uint32_t symbol, char character, std::uint32_t modifiers) {
-    LayerKey key{.symbol = symbol, .modifiers = modifiers};
+    LayerKey key{.keycode = symbol, .symbol = symbol, .modifiers = modifiers};
     if (character != 0) {
         key.character = static_cast<unsigned char>(character);
         key.text = character;

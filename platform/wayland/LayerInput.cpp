@@ -167,7 +167,8 @@ void LayerInput::keyChanges(xkb_keycode_t keycode, bool isPress) {
     if (!m_hasKeyboard || !m_state) return;
     const xkb_keysym_t symbol = xkb_state_key_get_one_sym(m_state.get(), keycode);
     const bool repeats = xkb_keymap_key_repeats(m_keymap.get(), keycode) != 0;
-    m_content.keyChanges({.symbol = symbol,
+    m_content.keyChanges({.keycode = keycode,
+                          .symbol = symbol,
                           .character = xkb_keysym_to_utf32(symbol),
                           .text = textOf(*m_state, keycode),
                           .modifiers = heldModifiers(*m_state),

@@ -48,6 +48,18 @@ TEST_P(EvdevHotKeyTest, duringARecordingWhatTheKeyboardHasToldIsNotToldTwice) {
     EXPECT_EQ(delivered(), (Log{"pressed 1", "released 1"}));
 }
 
+TEST_P(EvdevHotKeyTest, noRepeatOfAHotKeyThatTheKeyboardHasToldIsAPress) {
+    monitor().setRecording(true);
+    press({key::f5});
+    for (int i = 0; i < 3; ++i) desktopTells(true);
+    release({key::f5});
+    desktopTells(false);
+    EXPECT_EQ(delivered(), (Log{"pressed 1", "released 1"}));
+    desktopTells(true);
+    desktopTells(false);
+    EXPECT_EQ(delivered(), (Log{"pressed 1", "released 1"}));
+}
+
 TEST_P(EvdevHotKeyTest, duringARecordingAKeyboardThatIsNotOpenMayPressOneToo) {
     monitor().setRecording(true);
     tap(key::a);

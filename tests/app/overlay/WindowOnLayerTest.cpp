@@ -4,8 +4,10 @@
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 
 #include "app/AppTest.h"
+#include "app/RunLoop.h"
 #include "app/overlay/Fades.h"
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/RecorderWindow.h"
@@ -17,6 +19,9 @@ namespace {
 constexpr std::uint32_t escape = 0xff1b;
 constexpr std::uint32_t returnSymbol = 0xff0d;
 constexpr std::uint32_t backSpace = 0xff08;
+
+const LayerKey five{
+    .keycode = 14, .symbol = '5', .character = U'5', .text = "5", .repeatDelay = 1, .repeatInterval = 1};
 
 /// A session that offers layers, on a screen with four pixels for each.
 class WindowOnLayerTest : public AppTest {
@@ -32,6 +37,10 @@ class WindowOnLayerTest : public AppTest {
     void type(std::uint32_t symbol) {
         layers.userTypes(symbol, 0);
         settle();
+    }
+    /// As long as twenty repeats would take.
+    static void waitForRepeats() {
+        runLoopWith([] { QTimer::singleShot(20 * five.repeatInterval, [] { QCoreApplication::exit(0); }); });
     }
     /// With something to play.
     MultiplePlayWindow& openPrompt() {
@@ -168,17 +177,30 @@ TEST_F(WindowOnLayerTest, aPressThatEndsElsewhereIsNoClick) {
 }
 
 TEST_F(WindowOnLayerTest, aKeyThatIsHeldRepeats) {
-    MultiplePlayWindow& prompt = openPrompt();
-    LayerKey key{.symbol = '5', .character = U'5', .text = "5", .repeatDelay = 1, .repeatInterval = 1};
-    layers.keyChanges(key);
-    while (prompt.timesText().size() < 4) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    key.isPress = false;
-    layers.keyChanges(key);
+    const MultiplePlayWindow& prompt = openPrompt();
+    layers.keyChanges(five);
+    EXPECT_TRUE(eventually([&] {
+        settle();
+        return prompt.timesText().size() >= 4;
+    }));
+    LayerKey released = five;
+    released.isPress = false;
+    layers.keyChanges(released);
     settle();
     const QString typed = prompt.timesText();
-    settle();
+    waitForRepeats();
     EXPECT_EQ(prompt.timesText(), typed);
     EXPECT_EQ(typed, QString(typed.size(), u'5'));
+}
+
+TEST_F(WindowOnLayerTest, aKeyWhoseSymbolIsAnotherWhenItIsReleasedRepeatsNoLonger) {
+    const MultiplePlayWindow& prompt = openPrompt();
+    layers.keyChanges(five);
+    layers.keyChanges({.keycode = five.keycode, .symbol = '(', .character = U'(', .text = "(", .isPress = false});
+    settle();
+    const QString typed = prompt.timesText();
+    waitForRepeats();
+    EXPECT_EQ(prompt.timesText(), typed);
 }
 
 }  // namespace
