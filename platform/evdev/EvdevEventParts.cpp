@@ -157,8 +157,7 @@ void EvdevEventMonitor::Parts::desktopReleases(const KeyGrab& grab) {
     const std::optional<HotKeyId> id = down->second;
     m_desktopDown.erase(down);
     if (!id) return;
-    m_interpreter.deliveries().emplace_back(
-        HotKeyEvent{*id, false, KeyStream::serverTime(m_stream.now())});
+    m_interpreter.deliveries().emplace_back(HotKeyEvent{*id, false, KeyStream::serverTime(m_stream.now())});
     if (m_awaitsHands) m_assumedUntil = m_clock.now() + handsAreUp;
 }
 

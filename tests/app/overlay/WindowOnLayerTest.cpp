@@ -196,7 +196,8 @@ TEST_F(WindowOnLayerTest, aKeyThatIsHeldRepeats) {
 TEST_F(WindowOnLayerTest, aKeyWhoseSymbolIsAnotherWhenItIsReleasedRepeatsNoLonger) {
     const MultiplePlayWindow& prompt = openPrompt();
     layers.keyChanges(five);
-    layers.keyChanges({.keycode = five.keycode, .symbol = '(', .character = U'(', .text = "(", .isPress = false});
+    layers.keyChanges(
+        {.keycode = five.keycode, .symbol = '(', .character = U'(', .text = "(", .isPress = false});
     settle();
     const QString typed = prompt.timesText();
     waitForRepeats();
