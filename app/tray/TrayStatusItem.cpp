@@ -2,7 +2,9 @@
 #include "app/tray/TrayStatusItem.h"
 
 #include <QCursor>
+#include <QGuiApplication>
 #include <QMenu>
+#include <QWindow>
 #include <chrono>
 
 #include "app/icons/StatusIcon.h"
@@ -10,10 +12,17 @@
 
 namespace {
 constexpr std::chrono::seconds patience{3};
+constexpr std::chrono::milliseconds patienceWithToolkit{200};
 }  // namespace
 
 TrayStatusItem::TrayStatusItem(DockingTray& dockingTray) : m_gate(dockingTray) {
     connect(&m_gate, &TrayGate::changed, this, &TrayStatusItem::followTray);
+    m_oldNews.setSingleShot(true);
+    m_oldNews.setInterval(patienceWithToolkit);
+    connect(&m_oldNews, &QTimer::timeout, this, [this] { m_menu->popup(QCursor::pos()); });
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this] {
+        if (m_oldNews.isActive()) openMenu();
+    });
     m_withoutTray.setSingleShot(true);
     m_withoutTray.setInterval(patience);
     connect(&m_withoutTray, &QTimer::timeout, this, &TrayStatusItem::showControlWindow);
@@ -66,11 +75,21 @@ void TrayStatusItem::makeIcon() {
     connect(m_icon.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
                 // A second click soon after the first is a double click to the toolkit.
-                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
-                    m_menu->popup(QCursor::pos());
+                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick) openMenu();
             });
     updateIcon();
     m_icon->show();
+}
+
+/// The toolkit closes the menus that are open when it notices that no window of the program is in use any
+/// longer, which it does 100 ms late.
+void TrayStatusItem::openMenu() {
+    const QWindow* const used = QGuiApplication::focusWindow();
+    const bool isOldNews = QGuiApplication::applicationState() == Qt::ApplicationActive &&
+                           (used == nullptr || !used->isVisible());
+    if (isOldNews) return m_oldNews.start();
+    m_oldNews.stop();
+    m_menu->popup(QCursor::pos());
 }
 
 void TrayStatusItem::updateIcon() {

@@ -28,11 +28,14 @@ class TrayStatusItem : public QObject, public StatusItem {
   private:
     void followTray();
     void makeIcon();
+    void openMenu();
     void updateIcon();
     void showControlWindow();
 
     TrayGate m_gate;
     QTimer m_withoutTray;
+    /// Runs while a menu that was asked for waits for the toolkit.
+    QTimer m_oldNews;
     std::unique_ptr<QSystemTrayIcon> m_icon;
     std::unique_ptr<ControlWindow> m_window;
     QMenu* m_menu = nullptr;

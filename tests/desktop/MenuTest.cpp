@@ -4,6 +4,8 @@
 #include "desktop/DesktopTest.h"
 #include "desktop/SavedMacro.h"
 #include "desktop/StatusMenuClicks.h"
+#include "display/Typist.h"
+#include "support/Keys.h"
 
 namespace {
 
@@ -124,6 +126,36 @@ TEST_F(OwnMenuTest, itsKeysAreNotRecorded) {
     EXPECT_NE(script.find("delay"), std::string::npos) << script;
     EXPECT_EQ(terminal.typed(3), "xyz");
     press("ctrl+super+r");
+    desktop.awaitWindow(title::overlay);
+}
+
+/// The toolkit notices only after a while that none of the program's windows is in use any longer, and closes
+/// menus then.
+TEST_F(OwnMenuTest, staysOpenRightAfterAWindowOfTheProgramHasClosed) {
+    const Terminal terminal(desktop.display());
+    const Keyrill keyrill(desktop);
+    StatusMenuClicks menu(desktop);
+    const Hands hands(desktop.display());
+    const Typist typist(hands, Typist::Gap(80));
+    record();
+    desktop.awaitWindow(title::overlay);
+    typist.tap(xkey::a);
+    stop();
+    ASSERT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
+    menu.open();
+    press("Escape");
+    ASSERT_TRUE(eventually([&] { return !menu.isOpen(); }));
+    press("ctrl+super+m");
+    desktop.awaitFocus(title::prompt);
+    hands.tap(xkey::one);
+    hands.tap(xkey::returnKey);
+    hands.finish();
+    ASSERT_EQ(terminal.typed(2), "aa");
+    hands.click(1);
+    hands.finish();
+    ASSERT_TRUE(eventually([&] { return menu.isOpen(); }));
+    typist.tap(xkey::arrowDown);
+    typist.tap(xkey::returnKey);
     desktop.awaitWindow(title::overlay);
 }
 

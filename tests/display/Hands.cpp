@@ -29,6 +29,13 @@ void Hands::stroke(std::initializer_list<std::uint8_t> keycodes) const {
     for (auto key = keys.rbegin(); key != keys.rend(); ++key) release(*key);
 }
 
+void Hands::click(std::uint8_t button) const {
+    for (const int type : {XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE}) {
+        xcb_test_fake_input(m_connection, static_cast<std::uint8_t>(type), button, XCB_CURRENT_TIME,
+                            m_connection.root(), 0, 0, 0);
+    }
+}
+
 void Hands::finish() const {
     // The first reply may be written before what the server has for others.
     m_connection.roundTrip();

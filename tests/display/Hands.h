@@ -19,6 +19,8 @@ class Hands {
     void tap(std::uint8_t keycode) const;
     /// The first keys are held around the last one.
     void stroke(std::initializer_list<std::uint8_t> keycodes) const;
+    /// A button of the mouse, where that is.
+    void click(std::uint8_t button) const;
     void flush() const { xcb_flush(m_connection); }
     /// Waits until the server has done all of it and has told everybody.
     void finish() const;

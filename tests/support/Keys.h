@@ -73,6 +73,7 @@ inline constexpr std::uint8_t print = 107;
 inline constexpr std::uint8_t altGr = 108;
 inline constexpr std::uint8_t super = 133;
 inline constexpr std::uint8_t f13 = 191;
+inline constexpr std::uint8_t arrowDown = 116;
 }  // namespace xkey
 
 /// Real modifiers of X, as xkb-data's keymaps use them.

@@ -12,6 +12,7 @@
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/RecorderWindow.h"
 #include "platform/Modifiers.h"
+#include "support/Child.h"
 #include "support/Keys.h"
 
 namespace {
