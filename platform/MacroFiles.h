@@ -11,8 +11,10 @@ class MacroFiles {
   public:
     virtual ~MacroFiles() = default;
 
-    /// The folder to look in first, an absolute path. It is made if nothing stands at its place; that it
-    /// could not be made is not told.
+    /// The folder to look in first, an absolute path. It need not be there.
+    virtual std::string folder() const = 0;
+
+    /// The same folder. It is made if nothing stands at its place; that it could not be made is not told.
     virtual std::string prepareFolder() = 0;
 
     /// A file's whole text in UTF-8, without byte order mark. Files are UTF-8 or UTF-16 with a byte order

@@ -6,7 +6,7 @@
 std::string FakeMacroFiles::prepareFolder() {
     m_journal.note("prepareFolder");
     ++m_preparations;
-    return folder;
+    return folder();
 }
 
 Result<std::string> FakeMacroFiles::read(const std::string& path) const {
@@ -26,4 +26,19 @@ Result<> FakeMacroFiles::write(const std::string& path, std::string_view text) {
     Result<> ascii = checkAscii(text);
     if (ascii) m_files[path] = text;
     return ascii;
+}
+
+std::map<std::string, std::string> FakeMacroFiles::rename(const std::string& from, const std::string& to) {
+    std::map<std::string, std::string> names;
+    for (const auto& [path, text] : m_files) {
+        if (path == from || path.starts_with(from + "/")) names[path] = to + path.substr(from.size());
+    }
+    for (const auto& [path, name] : names) m_files.insert_or_assign(name, m_files.extract(path).mapped());
+    return names;
+}
+
+void FakeMacroFiles::remove(const std::string& path) {
+    std::erase_if(m_files, [&path](const auto& file) {
+        return file.first == path || file.first.starts_with(path + "/");
+    });
 }

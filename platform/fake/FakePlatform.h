@@ -5,6 +5,7 @@
 #include "platform/fake/FakeClock.h"
 #include "platform/fake/FakeDesktop.h"
 #include "platform/fake/FakeEventMonitor.h"
+#include "platform/fake/FakeFolderFollower.h"
 #include "platform/fake/FakeHotKeys.h"
 #include "platform/fake/FakeKeyInjector.h"
 #include "platform/fake/FakeKeyboard.h"
@@ -13,6 +14,7 @@
 #include "platform/fake/FakeLoginItems.h"
 #include "platform/fake/FakeMacroFiles.h"
 #include "platform/fake/FakeNotifications.h"
+#include "platform/fake/FakeRecordStore.h"
 #include "platform/fake/FakeScreenLock.h"
 #include "platform/fake/FakeScriptingService.h"
 #include "platform/fake/FakeSessionCheck.h"
@@ -47,6 +49,8 @@ struct FakePlatform {
     FakeSystemFacts systemFacts;
     FakeUpdateService updateService{journal};
     FakeMacroFiles macroFiles{journal};
+    FakeFolderFollower folderFollower{macroFiles};
+    FakeRecordStore macroRecords;
     FakeNotifications notifications{journal};
     FakeScreenLock screenLock;
     FakeSessionCheck sessionCheck{journal};

@@ -12,6 +12,12 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
+std::vector<std::string> copyOf(const GTexts& texts) {
+    std::vector<std::string> copy;
+    for (char** text = texts.get(); text != nullptr && *text != nullptr; ++text) copy.emplace_back(*text);
+    return copy;
+}
+
 }  // namespace
 
 KeyFile::KeyFile() : m_file(g_key_file_new()) {}
@@ -31,11 +37,12 @@ Result<KeyFile> KeyFile::parse(const std::string& content) {
     return file;
 }
 
+std::vector<std::string> KeyFile::groups() const {
+    return copyOf(GTexts(g_key_file_get_groups(m_file.get(), nullptr)));
+}
+
 std::vector<std::string> KeyFile::keys(const std::string& group) const {
-    std::vector<std::string> names;
-    const GTexts keys(g_key_file_get_keys(m_file.get(), group.c_str(), nullptr, nullptr));
-    for (char** key = keys.get(); key != nullptr && *key != nullptr; ++key) names.emplace_back(*key);
-    return names;
+    return copyOf(GTexts(g_key_file_get_keys(m_file.get(), group.c_str(), nullptr, nullptr)));
 }
 
 std::optional<std::string> KeyFile::text(const std::string& group, const std::string& key) const {
@@ -48,6 +55,14 @@ bool KeyFile::set(const std::string& group, const std::string& key, const std::s
     if (this->text(group, key) == text) return false;
     g_key_file_set_value(m_file.get(), group.c_str(), key.c_str(), text.c_str());
     return true;
+}
+
+void KeyFile::remove(const std::string& group, const std::string& key) {
+    g_key_file_remove_key(m_file.get(), group.c_str(), key.c_str(), nullptr);
+}
+
+void KeyFile::removeGroup(const std::string& group) {
+    g_key_file_remove_group(m_file.get(), group.c_str(), nullptr);
 }
 
 std::string KeyFile::content() const {

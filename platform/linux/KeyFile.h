@@ -18,12 +18,18 @@ class KeyFile {
     /// The error tells what in the text is not as in a key file.
     static Result<KeyFile> parse(const std::string& content);
 
+    /// The names of all groups, in order.
+    std::vector<std::string> groups() const;
     /// The names in a group, in order; none if there is no such group.
     std::vector<std::string> keys(const std::string& group) const;
     /// The text under a key as it is written, without the blanks around it; empty if there is none.
     std::optional<std::string> text(const std::string& group, const std::string& key) const;
     /// False if that was its text before.
     bool set(const std::string& group, const std::string& key, const std::string& text);
+
+    /// Without it afterwards; nothing happens where there is none.
+    void remove(const std::string& group, const std::string& key);
+    void removeGroup(const std::string& group);
 
     std::string content() const;
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -12,6 +12,8 @@
 #include "platform/linux/ConfigFolders.h"
 
 class KeyFile;
+class StoreSchedule;
+class UserKeyFile;
 
 /// Settings in key files, keyrill/keyrill.conf in each of the configuration folders: the user's own first,
 /// then the system's in their order. The first file that has a key gives its value; only the user's is
@@ -49,25 +51,16 @@ class KeyFileSettings : public SettingsStore {
     void endTurn();
 
   private:
+    KeyFileSettings(const ConfigFolders& folders, Use use, std::function<void()> awaitTurnEnd);
+
     void set(const std::string& key, std::int64_t value, const std::string& text);
     Result<> store();
-    /// The user's file as it is now, empty where there is none and after it had to be put aside, which is a
-    /// fault. Fails where it cannot even be put aside.
-    Result<KeyFile> readUsersFile();
-    Result<> putAside(const Error& fault);
     /// Adds what a file has and no earlier one had.
     void add(const KeyFile& file);
 
-    KeyFileSettings(const ConfigFolders& folders, Use use, std::function<void()> awaitTurnEnd);
-
-    std::string m_path;
-    Use m_use;
-    std::function<void()> m_awaitTurnEnd;
+    std::unique_ptr<StoreSchedule> m_schedule;
+    std::unique_ptr<UserKeyFile> m_file;
     std::map<std::string, std::int64_t> m_values;
     /// What was set, as it is written, since the last write that succeeded.
     std::map<std::string, std::string> m_unstored;
-    /// Something was set since the last try to write.
-    bool m_isDue = false;
-    std::deque<Error> m_faults;
-    std::optional<Error> m_lastFailure;
 };

@@ -16,20 +16,25 @@
 LocalMacroFiles::LocalMacroFiles(std::string home, std::string dataFolder)
     : m_home(std::move(home)), m_dataFolder(std::move(dataFolder)) {}
 
-std::string LocalMacroFiles::prepareFolder() {
+std::optional<std::string> LocalMacroFiles::supportFolder() const {
     const std::string support = m_home + "/Library/Application Support";
     std::error_code ignored;
-    if (std::filesystem::is_directory(support, ignored)) {
-        std::string folder = support + "/Keyrill";
-        mkdir(folder.c_str(), 0777);
-        FileReplacement::sweep(folder);
-        return folder;
+    if (!std::filesystem::is_directory(support, ignored)) return std::nullopt;
+    return support + "/Keyrill";
+}
+
+std::string LocalMacroFiles::folder() const { return supportFolder().value_or(m_dataFolder + "/keyrill"); }
+
+std::string LocalMacroFiles::prepareFolder() {
+    std::string prepared = folder();
+    if (supportFolder()) {
+        mkdir(prepared.c_str(), 0777);
+    } else {
+        // For the user alone, as the standard asks.
+        g_mkdir_with_parents(prepared.c_str(), 0700);
     }
-    std::string folder = m_dataFolder + "/keyrill";
-    // For the user alone, as the standard asks.
-    g_mkdir_with_parents(folder.c_str(), 0700);
-    FileReplacement::sweep(folder);
-    return folder;
+    FileReplacement::sweep(prepared);
+    return prepared;
 }
 
 Result<std::string> LocalMacroFiles::read(const std::string& path) const {

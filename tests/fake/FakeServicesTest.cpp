@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
 // The fake services under the contracts of the real ones.
+#include "contracts/FolderFollowerContract.h"
 #include "contracts/LoginItemsContract.h"
 #include "contracts/MacroFilesContract.h"
+#include "contracts/RecordStoreContract.h"
 #include "contracts/SettingsStoreContract.h"
 #include "platform/fake/FakePlatform.h"
 
@@ -53,6 +55,44 @@ class FakeMacroFilesWorld : public MacroFilesWorld {
     FakeMacroFiles m_files{m_journal};
 };
 
+class FakeFolderFollowerWorld : public FolderFollowerWorld {
+  public:
+    FolderFollower& follower() override { return m_follower; }
+    std::string folder() const override { return FakeMacroFiles::usualFolder; }
+    void writes(const std::string& path, const std::string& text) override {
+        m_follower.userWrites(path, text);
+    }
+    void replaces(const std::string& path, const std::string& text) override {
+        m_follower.userReplaces(path, text);
+    }
+    void renames(const std::string& from, const std::string& to) override {
+        m_follower.userRenames(from, to);
+    }
+    void removes(const std::string& path) override { m_follower.userRemoves(path); }
+    void awaitNews() override { m_follower.deliver(); }
+
+  private:
+    Journal m_journal;
+    FakeMacroFiles m_files{m_journal};
+    FakeFolderFollower m_follower{m_files};
+};
+
+class FakeRecordStoreWorld : public RecordStoreWorld {
+  public:
+    RecordStore& store() override { return m_store; }
+    void endTurn() override { m_store.endTurn(); }
+    std::map<std::string, Record> stored() const override { return m_store.stored(); }
+    void breakNextWrite() override { m_store.failNextCall({"The disk is full.", ""}); }
+    void repair() override {}
+
+  private:
+    FakeRecordStore m_store;
+};
+
+INSTANTIATE_TEST_SUITE_P(InMemory, FolderFollowerContract,
+                         testing::Values(maker<FakeFolderFollowerWorld, FolderFollowerWorld>()));
+INSTANTIATE_TEST_SUITE_P(InMemory, RecordStoreContract,
+                         testing::Values(maker<FakeRecordStoreWorld, RecordStoreWorld>()));
 INSTANTIATE_TEST_SUITE_P(InMemory, LoginItemsContract,
                          testing::Values(maker<FakeLoginItemsWorld, LoginItemsWorld>()));
 INSTANTIATE_TEST_SUITE_P(InMemory, SettingsStoreContract,

@@ -54,6 +54,7 @@ BEGIN {
     room("core", "platform", standard "|^boost/", "")
     room("prefs", "core platform", standard "|^boost/", "")
     room("engine", "prefs core platform", standard "|^boost/", "")
+    room("library", "engine prefs core platform", standard "|^boost/", "")
 
     room("library/steps", "core platform platform/script/code platform/script/run platform/script/source",
          standard "|^boost/", "")
@@ -168,7 +169,7 @@ function checkCode(    code) {
         breach(FNR, "services are installed by programs and tests alone")
     }
     if (code ~ xcbIdiom && file !~ maySpeakXcb) breach(FNR, "xcb by hand; platform/x11/server has words for it")
-    if (code ~ /std::shared_ptr/ && file ~ /^(core|prefs|engine|app)\//) {
+    if (code ~ /std::shared_ptr/ && file ~ /^(core|prefs|engine|library|app)\//) {
         breach(FNR, "std::shared_ptr; the model's pointer is boost::shared_ptr")
     }
 }

@@ -4,10 +4,14 @@
 #include <filesystem>
 #include <fstream>
 
+#include "contracts/FolderFollowerContract.h"
 #include "contracts/LoginItemsContract.h"
 #include "contracts/MacroFilesContract.h"
+#include "contracts/RecordStoreContract.h"
 #include "contracts/SettingsStoreContract.h"
+#include "linux/FollowedFolder.h"
 #include "platform/linux/AutostartEntry.h"
+#include "platform/linux/KeyFileRecords.h"
 #include "platform/linux/KeyFileSettings.h"
 #include "platform/linux/LocalMacroFiles.h"
 #include "support/Child.h"
@@ -63,6 +67,43 @@ class LocalMacroFilesWorld : public MacroFilesWorld {
     LocalMacroFiles m_files{m_folder.path(), m_folder.file("data")};
 };
 
+class KeyFileRecordsWorld : public RecordStoreWorld {
+  public:
+    RecordStore& store() override { return m_records; }
+    void endTurn() override { m_records.endTurn(); }
+    std::map<std::string, Record> stored() const override {
+        return KeyFileRecords(m_folder.file("config")).records();
+    }
+    void breakNextWrite() override { std::ofstream(m_folder.file("config")) << "in the folder's place"; }
+    void repair() override { std::filesystem::remove(m_folder.file("config")); }
+
+  private:
+    TemporaryFolder m_folder;
+    KeyFileRecords m_records{m_folder.file("config")};
+};
+
+class LocalFolderWorld : public FolderFollowerWorld {
+  public:
+    FolderFollower& follower() override { return m_folder.follower(); }
+    std::string folder() const override { return m_folder.path(); }
+    void writes(const std::string& path, const std::string& text) override { m_folder.writes(path, text); }
+    void replaces(const std::string& path, const std::string& text) override {
+        m_folder.replaces(path, text);
+    }
+    void renames(const std::string& from, const std::string& to) override {
+        std::filesystem::rename(m_folder.file(from), m_folder.file(to));
+    }
+    void removes(const std::string& path) override { m_folder.removes(path); }
+    void awaitNews() override { m_folder.awaitNews(); }
+
+  private:
+    FollowedFolder m_folder;
+};
+
+INSTANTIATE_TEST_SUITE_P(InFiles, FolderFollowerContract,
+                         testing::Values(maker<LocalFolderWorld, FolderFollowerWorld>()));
+INSTANTIATE_TEST_SUITE_P(InFiles, RecordStoreContract,
+                         testing::Values(maker<KeyFileRecordsWorld, RecordStoreWorld>()));
 INSTANTIATE_TEST_SUITE_P(InFiles, LoginItemsContract,
                          testing::Values(maker<AutostartWorld, LoginItemsWorld>()));
 INSTANTIATE_TEST_SUITE_P(InFiles, SettingsStoreContract,

@@ -8,7 +8,7 @@
 
 namespace {
 
-const QString folder = QString::fromLatin1(FakeMacroFiles::folder);
+const QString folder = QString::fromLatin1(FakeMacroFiles::usualFolder);
 const QString file = folder + "/greeting.keyrill";
 
 class MacroFilesTest : public AppTest {
