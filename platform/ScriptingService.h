@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/PlayOptions.h"
 #include "platform/Result.h"
 
 /// The largest script that can be played, in bytes of UTF-8.
@@ -34,11 +35,16 @@ class ScriptingService {
     /// A play command of one or more runs starts: forgets an earlier wish to stop, and earlier failures.
     virtual void startPlayback() = 0;
 
-    /// Compiles the text afresh and runs it to its end. Called while a run lasts, it does nothing.
-    virtual void run(const std::string& source) = 0;
+    /// Compiles the text afresh and runs it to its end, its pauses divided by the speed
+    /// (platform/PlayOptions.h). Called while a run lasts, it does nothing.
+    virtual void runAtSpeed(const std::string& source, double speed) = 0;
+    void run(const std::string& source) { runAtSpeed(source, playspeed::usual); }
 
     /// Whether the user has asked to end the playback since it started.
     virtual bool isCancelled() = 0;
+
+    /// Whether a run has failed since the playback started, and nobody has taken the failure.
+    virtual bool hasFailed() const = 0;
 
     /// The first failure of a run since the playback started, which is forgotten then. Empty if there was
     /// none; that a run was cancelled is none.

@@ -13,10 +13,11 @@ void FakeScriptingService::startPlayback() {
     m_desktop.startPlayback();
 }
 
-void FakeScriptingService::run(const std::string& source) {
+void FakeScriptingService::runAtSpeed(const std::string& source, double speed) {
     if (m_desktop.isRunning()) return;
     m_journal.note("run", source);
     m_runs.push_back(source);
+    m_speeds.push_back(speed);
     std::optional<ScriptFailure> failure = check(source);
     if (!failure && m_nextError) failure = ScriptFailure{true, 2, *std::exchange(m_nextError, std::nullopt)};
     if (failure) {

@@ -20,12 +20,15 @@ class FakeScriptingService : public ScriptingService {
 
     std::optional<ScriptFailure> check(const std::string& source) override;
     void startPlayback() override;
-    void run(const std::string& source) override;
+    void runAtSpeed(const std::string& source, double speed) override;
     bool isCancelled() override { return m_desktop.isCancelled(); }
+    bool hasFailed() const override { return m_failure.has_value(); }
     std::optional<ScriptFailure> takeFailure() override { return std::exchange(m_failure, std::nullopt); }
 
     /// All texts that were run, in order, failed ones among them.
     const std::vector<std::string>& runs() const { return m_runs; }
+    /// The speed of each of them.
+    const std::vector<double>& speeds() const { return m_speeds; }
     int playbacksStarted() const { return m_playbacksStarted; }
     /// Called in the middle of every run: what the user and the script do meanwhile.
     void duringEachRun(std::function<void()> hook) { m_hook = std::move(hook); }
@@ -38,6 +41,7 @@ class FakeScriptingService : public ScriptingService {
     Journal& m_journal;
     FakeDesktop& m_desktop;
     std::vector<std::string> m_runs;
+    std::vector<double> m_speeds;
     int m_playbacksStarted = 0;
     std::function<void()> m_hook;
     std::optional<Error> m_nextError;

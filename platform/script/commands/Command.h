@@ -35,6 +35,8 @@ class CommandStage {
 
     virtual ScriptDesktop& desktop() = 0;
     virtual ScriptDialogs& dialogs() = 0;
+    /// What pauses are divided by (platform/PlayOptions.h).
+    virtual double speed() const = 0;
     /// Fails if the user wishes to stop.
     virtual Fallible<> goOn() = 0;
     virtual const TextRules& rules() const = 0;

@@ -17,7 +17,8 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
         if (!number) return cannotMake(*given, "number");
         seconds = *number;
     }
-    return outcomeOf(stage.play([&](InjectionSession& session) { return session.pause(seconds); }));
+    const double pause = seconds / stage.speed();
+    return outcomeOf(stage.play([&](InjectionSession& session) { return session.pause(pause); }));
 }
 
 }  // namespace

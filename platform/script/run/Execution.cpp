@@ -28,10 +28,12 @@ Failure userCancelled() {
 
 }  // namespace
 
-Execution::Execution(const Bytecode& code, const MachineServices& services, RunListener listener)
+Execution::Execution(const Bytecode& code, const MachineServices& services, RunListener listener,
+                     double speed)
     : m_code(code),
       m_services(services),
       m_listener(std::move(listener)),
+      m_speed(speed),
       m_globals(code.globals.size()),
       m_me(makeShared<TargetBody>(TargetBody::Kind::script, Text(""))),
       m_random(std::random_device{}()),
@@ -55,8 +57,8 @@ Execution::~Execution() {
     }
 }
 
-RunResult run(const Program& program, const MachineServices& services, RunListener listener) {
-    return Execution(program.code(), services, std::move(listener)).run();
+RunResult run(const Program& program, const MachineServices& services, RunListener listener, double speed) {
+    return Execution(program.code(), services, std::move(listener), speed).run();
 }
 
 RunResult Execution::run() {

@@ -53,7 +53,7 @@ class Execution : public CommandStage {
     static constexpr std::size_t maxWarnings = 1000;
 
     /// Code and services outlive it.
-    Execution(const Bytecode& code, const MachineServices& services, RunListener listener);
+    Execution(const Bytecode& code, const MachineServices& services, RunListener listener, double speed);
     ~Execution() override;
     Execution(const Execution&) = delete;
     Execution& operator=(const Execution&) = delete;
@@ -122,6 +122,7 @@ class Execution : public CommandStage {
     void log(std::string line) override;
     ScriptDesktop& desktop() override;
     ScriptDialogs& dialogs() override;
+    double speed() const override { return m_speed; }
     Fallible<> goOn() override;
     const TextRules& rules() const override { return m_rules; }
     std::mt19937_64& random() override { return m_random; }
@@ -135,6 +136,7 @@ class Execution : public CommandStage {
     const Bytecode& m_code;
     MachineServices m_services;
     RunListener m_listener;
+    double m_speed;
     std::unique_ptr<InjectionSession> m_session;
     std::vector<Value> m_stack;
     std::vector<Value> m_globals;

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "platform/PlayOptions.h"
 #include "platform/script/code/Program.h"
 #include "platform/script/run/MachineServices.h"
 #include "platform/script/run/RunResult.h"
@@ -21,7 +22,9 @@ struct RunListener {
 /// Runs a program once.
 ///
 /// The injector is asked for a session before the first stroke or pause; a program without either leaves it
-/// alone. The session is gone when the run has ended.
-RunResult run(const Program& program, const MachineServices& services, RunListener listener = {});
+/// alone. The session is gone when the run has ended. The script's pauses are divided by the speed
+/// (platform/PlayOptions.h), whoever makes them.
+RunResult run(const Program& program, const MachineServices& services, RunListener listener = {},
+              double speed = playspeed::usual);
 
 }  // namespace script

@@ -25,17 +25,17 @@ void ScriptRunner::startPlayback() {
     m_injector.startPlayback();
 }
 
-void ScriptRunner::run(const std::string& source) {
+void ScriptRunner::runAtSpeed(const std::string& source, double speed) {
     if (m_running) return;
     const Scoped<bool> running(m_running, true);
-    std::optional<ScriptFailure> failure = runOnce(source);
+    std::optional<ScriptFailure> failure = runOnce(source, speed);
     if (!m_failure) m_failure = std::move(failure);
 }
 
-std::optional<ScriptFailure> ScriptRunner::runOnce(const std::string& source) {
+std::optional<ScriptFailure> ScriptRunner::runOnce(const std::string& source, double speed) {
     const auto program = compile(source);
     if (!program) return failureOf(program.error(), false);
-    const RunResult result = script::run(program.value(), {m_injector, m_desktop, *m_dialogs});
+    const RunResult result = script::run(program.value(), {m_injector, m_desktop, *m_dialogs}, {}, speed);
     if (result.end != RunEnd::failed || !result.error) return std::nullopt;
     return failureOf(*result.error, true);
 }

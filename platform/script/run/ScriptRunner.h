@@ -22,13 +22,14 @@ class ScriptRunner : public ScriptingService {
 
     std::optional<ScriptFailure> check(const std::string& source) override;
     void startPlayback() override;
-    void run(const std::string& source) override;
+    void runAtSpeed(const std::string& source, double speed) override;
     bool isCancelled() override { return m_injector.isCancelled(); }
+    bool hasFailed() const override { return m_failure.has_value(); }
     std::optional<ScriptFailure> takeFailure() override { return std::exchange(m_failure, std::nullopt); }
 
   private:
     /// Why the run did not do what the text says.
-    std::optional<ScriptFailure> runOnce(const std::string& source);
+    std::optional<ScriptFailure> runOnce(const std::string& source, double speed);
 
     KeyInjector& m_injector;
     ScriptDesktop& m_desktop;

@@ -131,6 +131,30 @@ key code 0)";
     EXPECT_EQ(m_injector.calls, Calls({"open", "key 0", "close"}));
 }
 
+TEST(ScriptRunnerSpeedTest, theSpeedDividesPausesAndNothingElse) {
+    FakePlatform platform;
+    script::SilentDesktop desktop;
+    script::ScriptRunner runner(platform.keyInjector, desktop);
+    const std::string source = R"(tell application "System Events"
+key code 1 using control down
+delay 0.5
+end tell
+)";
+    runner.runAtSpeed(source, 4);
+    runner.runAtSpeed(source, 0.25);
+    runner.run(source);
+    EXPECT_EQ(platform.keyInjector.postedKeys(), (Calls{"key 1 control", "pause 0.125", "key 1 control",
+                                                        "pause 2", "key 1 control", "pause 0.5"}));
+}
+
+TEST_F(ScriptRunnerTest, aFailureIsThereUntilItIsTaken) {
+    EXPECT_FALSE(m_runner.hasFailed());
+    m_runner.run("repeat");
+    EXPECT_TRUE(m_runner.hasFailed());
+    EXPECT_TRUE(m_runner.takeFailure().has_value());
+    EXPECT_FALSE(m_runner.hasFailed());
+}
+
 TEST_F(ScriptRunnerTest, playbackIsTheInjectorsMatter) {
     m_injector.cancelled = true;
     EXPECT_TRUE(m_runner.isCancelled());
