@@ -7,7 +7,7 @@
 #include "platform/Services.h"
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): a run has a text of its own.
-void AppleScript::runAppleScript(std::string text) {
+void AppleScript::runAppleScript(std::string text, double speed) {
     services().eventMonitor.setKeepsOwnStrokes(engineState().recordingMacro != nullptr);
-    services().scripting.run(text);
+    services().scripting.runAtSpeed(text, speed);
 }

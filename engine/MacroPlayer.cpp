@@ -84,11 +84,18 @@ void setCurrentMacro(const boost::shared_ptr<Macro>& macro) {
 void playTimes(std::int32_t count) {
     // Taken once: whatever becomes of the current macro meanwhile, all runs play the same text.
     const std::string script = engineState().currentMacro->script();
+    playScript(script, {.times = {count}});
+}
+
+void playScript(const std::string& script, const PlayOptions& options) {
     ScriptingService& scripting = services().scripting;
     scripting.startPlayback();
-    for (std::int32_t run = 0; run < count; ++run) {
-        AppleScript::runAppleScript(script);
-        if (scripting.isCancelled()) break;
+    const auto isLast = [&] {
+        return scripting.isCancelled() || (!options.times.count && scripting.hasFailed());
+    };
+    for (std::int64_t runs = 0; options.times.goOnAfter(runs); ++runs) {
+        AppleScript::runAppleScript(script, options.speed);
+        if (isLast()) break;
         services().clock.sleepFor(pauseAfterRun);
     }
     if (SharedController* controller = sharedController()) controller->playbackEnded();

@@ -4,7 +4,10 @@
 #include <array>
 #include <boost/smart_ptr/shared_ptr.hpp>
 #include <cstdint>
+#include <string>
 #include <string_view>
+
+#include "platform/PlayOptions.h"
 
 class Macro;
 
@@ -64,6 +67,11 @@ void setCurrentMacro(const boost::shared_ptr<Macro>& macro);
 /// Plays the current macro so often, none for 0 and below, with 0.01 s after each run. Returns after the last
 /// run, or after the one in which the user has asked to stop. Ends the process if there is no current macro.
 void playTimes(std::int32_t count);
+
+/// Plays a script text so often and so fast, with 0.01 s after each run, whatever the current macro is, which
+/// stays. Returns after the last run, or after the one in which the user has asked to stop; without a number
+/// of times also after one that failed.
+void playScript(const std::string& script, const PlayOptions& options);
 
 /// The number that a text begins with: blanks, a sign, digits, cut to the range of the type ("2x" is 2).
 /// Anything else is 0. Independent of the locale.

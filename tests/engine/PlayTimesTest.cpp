@@ -101,4 +101,46 @@ TEST_F(PlayTimesDeathTest, endsTheProcessWithoutACurrentMacro) {
     EXPECT_DEATH(playTimes(0), "px != 0");
 }
 
+using PlayScriptTest = PlayTimesTest;
+
+TEST_F(PlayScriptTest, playsTheTextSoOftenAndSoFastAndLeavesTheCurrentMacroAlone) {
+    const auto current = macroWithScript("beep");
+    state().currentMacro = current;
+    playScript("delay 1", {.times = {2}, .speed = 0.5});
+    EXPECT_EQ(runs(), (Texts{"delay 1", "delay 1"}));
+    EXPECT_EQ(platform().scripting.speeds(), (std::vector<double>{0.5, 0.5}));
+    EXPECT_EQ(state().currentMacro, current);
+    EXPECT_EQ(platform().scripting.playbacksStarted(), 1);
+}
+
+TEST_F(PlayScriptTest, needsNoCurrentMacro) {
+    playScript("beep", {});
+    EXPECT_EQ(runs(), Texts{"beep"});
+    EXPECT_EQ(state().currentMacro, nullptr);
+}
+
+TEST_F(PlayScriptTest, playsTheCurrentMacroAsFastAsItIsWrittenAfterwards) {
+    state().currentMacro = macroWithScript("beep");
+    playScript("delay 1", {.speed = 4});
+    playTimes(1);
+    EXPECT_EQ(platform().scripting.speeds(), (std::vector<double>{4, 1}));
+}
+
+TEST_F(PlayScriptTest, goesOnUntilTheUserCancels) {
+    platform().scripting.duringEachRun([this] {
+        if (runs().size() == 50) platform().desktop.cancelPlayback();
+    });
+    playScript("beep", {.times = PlayTimes::untilStopped()});
+    EXPECT_EQ(runs().size(), 50U);
+    EXPECT_EQ(sleeps().size(), 49U);
+}
+
+TEST_F(PlayScriptTest, thatWouldFailForEverEndsAtTheFirstFailureWhichIsThereToBeTold) {
+    const ScriptFailure failure{false, 1, {"Expected end of line.", ""}};
+    platform().scripting.refuse("beep beep", failure);
+    playScript("beep beep", {.times = PlayTimes::untilStopped()});
+    EXPECT_EQ(runs(), Texts{"beep beep"});
+    EXPECT_EQ(platform().scripting.takeFailure(), failure);
+}
+
 }  // namespace
