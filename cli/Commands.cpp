@@ -3,6 +3,7 @@
 
 #include <iostream>
 #include <optional>
+#include <set>
 #include <utility>
 
 #include "cli/Diagnostics.h"
@@ -11,6 +12,7 @@
 #include "cli/Report.h"
 #include "cli/ScriptFile.h"
 #include "cli/TerminalDialogs.h"
+#include "platform/linux/SteadyClock.h"
 #include "platform/script/code/Compiler.h"
 #include "platform/script/run/Run.h"
 #include "platform/script/run/TraceInjector.h"
@@ -51,22 +53,51 @@ std::optional<script::Program> compiled(const Source& source) {
     return std::move(result).value();
 }
 
+/// The user has asked to stop between two runs.
+script::RunResult stopped() {
+    constexpr int userCancelled = -128;
+    return {script::RunEnd::cancelled, script::ScriptError{userCancelled, "User canceled.", {}, ""}, ""};
+}
+
+/// So long the programs that are typed into are left alone behind a run.
+constexpr Clock::Seconds betweenRuns{0.01};
+
+/// Runs it so often, and tells each warning once. What became of the last run.
 script::RunResult run(const Source& source, const script::Program& program,
-                      const script::MachineServices& services) {
+                      const script::MachineServices& services, const PlayOptions& play,
+                      Clock::Seconds pauseBetween = betweenRuns) {
     const Report report(source.name, source.text);
+    std::set<std::tuple<std::uint32_t, std::uint32_t, std::string>> told;
     const script::RunListener listener = {
-        .onWarning = [&](const script::ScriptWarning& warning) { report.warning(warning); },
+        .onWarning =
+            [&](const script::ScriptWarning& warning) {
+                const bool isNew =
+                    told.emplace(warning.location.line, warning.location.column, warning.message).second;
+                if (isNew) report.warning(warning);
+            },
         .onLog = [](const std::string& line) { std::cerr << line << "\n"; }};
-    script::RunResult result = script::run(program, services, listener);
-    std::cout.flush();
+    script::RunResult result;
+    for (std::int64_t runs = 0; play.times.goOnAfter(runs); ++runs) {
+        if (runs > 0) SteadyClock().sleepFor(pauseBetween);
+        if (runs > 0 && services.injector.isCancelled()) return stopped();
+        result = script::run(program, services, listener, play.speed);
+        std::cout.flush();
+        if (result.error) break;
+    }
     return result;
 }
 
-void tell(const Source& source, const script::RunResult& result) {
-    if (result.error) Report(source.name, source.text).executionError(*result.error);
+/// Whether the run has ended as its user has wanted.
+bool isGood(const script::RunResult& result, const PlayOptions& play) {
+    return !result.error || (result.end == script::RunEnd::cancelled && !play.times.count);
 }
 
-int statusOf(const script::RunResult& result) { return result.error ? failed : succeeded; }
+/// Tells what went wrong; the exit status.
+int tell(const Source& source, const script::RunResult& result, const PlayOptions& play) {
+    if (isGood(result, play)) return succeeded;
+    Report(source.name, source.text).executionError(*result.error);
+    return failed;
+}
 
 /// False after an error, which has been told.
 bool isReadBy(KeyInjector& injector) {
@@ -83,19 +114,25 @@ int checkForEditor(const std::string& text) {
     return compiled ? succeeded : failed;
 }
 
+/// Of lines that were given by hand.
+void printValue(const script::RunResult& result, const ScriptInput& input) {
+    if (!input.lines.empty() && !result.value.empty()) std::cout << result.value << std::endl;
+}
+
 /// Without a session; what needs one is told in a line.
 int runWithoutSession(const Source& source, const script::Program& program, const Error& why,
-                      bool printsValue) {
+                      const ScriptInput& input) {
     NoSession session(why);
     TerminalDialogs dialogs(session.injector());
-    const script::RunResult result = run(source, program, {session.injector(), session.desktop(), dialogs});
+    const script::RunResult result =
+        run(source, program, {session.injector(), session.desktop(), dialogs}, input.play);
     if (session.wasNeeded()) {
         reportError("", why);
         return failed;
     }
-    tell(source, result);
-    if (printsValue && !result.value.empty()) std::cout << result.value << std::endl;
-    return statusOf(result);
+    const int status = tell(source, result, input.play);
+    printValue(result, input);
+    return status;
 }
 
 }  // namespace
@@ -117,9 +154,9 @@ int traceScript(const ScriptInput& input) {
     script::TraceInjector injector(std::cout);
     script::TraceDesktop desktop(std::cout);
     script::TraceDialogs dialogs(std::cout);
-    const script::RunResult result = run(*source, *program, {injector, desktop, dialogs});
-    tell(*source, result);
-    return statusOf(result);
+    const script::RunResult result =
+        run(*source, *program, {injector, desktop, dialogs}, input.play, Clock::Seconds::zero());
+    return tell(*source, result, input.play);
 }
 
 int formatScript(const ScriptInput& input) {
@@ -139,20 +176,21 @@ int runScript(const ScriptInput& input) {
     const std::optional<script::Program> program = source ? compiled(*source) : std::nullopt;
     if (!program) return failed;
     Result<std::unique_ptr<Playback>> playback = Playback::make();
-    if (!playback) return runWithoutSession(*source, *program, playback.error(), !input.lines.empty());
+    if (!playback) return runWithoutSession(*source, *program, playback.error(), input);
     playback.value()->injector().startPlayback();
     TerminalDialogs dialogs(playback.value()->injector());
-    const script::RunResult result =
-        run(*source, *program, {playback.value()->injector(), playback.value()->desktop(), dialogs});
+    const script::RunResult result = run(
+        *source, *program, {playback.value()->injector(), playback.value()->desktop(), dialogs}, input.play);
     const auto connection = playback.value()->connection();
+    int status = failed;
     if (result.end == script::RunEnd::cancelled && !connection) {
         reportError("", connection.error());
     } else {
-        tell(*source, result);
+        status = tell(*source, result, input.play);
     }
-    if (!input.lines.empty() && !result.value.empty()) std::cout << result.value << std::endl;
+    printValue(result, input);
     const bool isRead = isReadBy(playback.value()->injector());
     const int signalNumber = playback.value()->finish();
     if (signalNumber != 0) endBySignal(signalNumber);
-    return isRead ? statusOf(result) : failed;
+    return isRead ? status : failed;
 }

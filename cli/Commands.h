@@ -4,11 +4,14 @@
 #include <string>
 #include <vector>
 
+#include "platform/PlayOptions.h"
+
 /// What a command is given: a file ("-" is standard input), or the lines of a script.
 struct ScriptInput {
     std::string file;
     std::vector<std::string> lines;  ///< of -e, instead of a file
     bool wantsJson = false;          ///< of check: what it says is for an editor
+    PlayOptions play = {};           ///< of run and trace
 };
 
 /// The commands of the program. Each tells on standard error what is wrong (see Report), and gives the exit
@@ -19,11 +22,13 @@ struct ScriptInput {
 /// errors number and hint.
 int checkScript(const ScriptInput& input);
 
-/// Prints what would be done, one JSON array a line, without pauses.
+/// Prints what would be done, one JSON array a line, without pauses. Its times have a count.
 int traceScript(const ScriptInput& input);
 
 /// Presses the keys; where no keys can be pressed a script is run that presses none. A signal that ends the
-/// run ends the process, once nothing is held any more. Of -e the value of the last line is printed.
+/// run ends the process, once nothing is held any more. Of -e the value of the last line is printed. Of more
+/// than one run the first that fails is the last; where they go on until they are stopped, to be stopped is
+/// no error.
 int runScript(const ScriptInput& input);
 
 /// Prints the script in one layout.

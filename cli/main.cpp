@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <array>
 #include <iostream>
-#include <optional>
 #include <string_view>
 #include <vector>
 
+#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/Keys.h"
 #include "cli/Report.h"
@@ -25,31 +25,15 @@ constexpr auto commands = std::to_array<Command>(
 
 constexpr std::string_view usage =
     "Usage: keyrill-script check FILE   compile, and say what is wrong; with --json for editors\n"
-    "       keyrill-script run FILE     press the keys\n"
+    "       keyrill-script run [--times N] [--speed X] FILE\n"
+    "                                   press the keys, so often (or until-stopped), its pauses divided by "
+    "X\n"
     "       keyrill-script trace FILE   print what would be done, one JSON array a line\n"
     "       keyrill-script format FILE  print the script in one layout\n"
     "       keyrill-script keys         print the key codes; with --press that of the next key\n"
     "       keyrill-script reference    print the reference of the language\n"
     "       keyrill-script --help | --version\n"
     "FILE - is standard input; -e LINE, once or more, gives the script itself.\n";
-
-/// Empty if the arguments are neither a file nor lines. Behind `--` a file may begin with a minus.
-std::optional<ScriptInput> inputOf(const std::vector<std::string_view>& arguments) {
-    ScriptInput input;
-    const bool endsOptions = arguments.size() == 2 && arguments.front() == "--";
-    const bool isFile =
-        arguments.size() == 1 && (arguments.front().substr(0, 1) != "-" || arguments.front() == "-");
-    if (endsOptions || isFile) {
-        input.file = arguments.back();
-        return input;
-    }
-    for (std::size_t i = 0; i + 1 < arguments.size(); i += 2) {
-        if (arguments[i] != "-e") return std::nullopt;
-        input.lines.emplace_back(arguments[i + 1]);
-    }
-    if (input.lines.empty() || arguments.size() % 2 != 0) return std::nullopt;
-    return input;
-}
 
 int perform(const std::vector<std::string_view>& arguments) {
     const std::string_view first = arguments.empty() ? "" : arguments.front();
@@ -71,12 +55,12 @@ int perform(const std::vector<std::string_view>& arguments) {
     const auto* command = std::find_if(commands.begin(), commands.end(),
                                        [&](const Command& candidate) { return candidate.name == first; });
     if (command != commands.end()) {
-        const bool wantsJson = first == "check" && arguments.size() > 1 && arguments[1] == "--json";
-        auto input = inputOf({arguments.begin() + (wantsJson ? 2 : 1), arguments.end()});
-        if (input) {
-            input->wantsJson = wantsJson;
-            return command->perform(*input);
+        const auto input = readInput(first, {arguments.begin() + 1, arguments.end()});
+        if (!input) {
+            reportError("", input.error());
+            return 1;
         }
+        if (input.value()) return command->perform(*input.value());
     }
     std::cerr << usage;
     return 1;

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "support/Child.h"
 #include "support/Programs.h"
@@ -11,10 +12,12 @@
 /// keyrill-script run, playing a script on a display.
 class Play {
   public:
-    Play(const std::string& display, const std::string& script) {
+    Play(const std::string& display, const std::string& script, std::vector<std::string> options = {}) {
         std::ofstream(m_folder.file("script"), std::ios::binary) << script;
+        options.insert(options.begin(), {programs::scriptTool, "run"});
+        options.push_back(m_folder.file("script"));
         m_program = std::make_unique<Child>(
-            std::vector<std::string>{programs::scriptTool, "run", m_folder.file("script")},
+            options,
             Child::Options{.environment = {{"DISPLAY", display}, {"XDG_RUNTIME_DIR", m_folder.path()}},
                            .outputFile = m_folder.file("output")});
     }

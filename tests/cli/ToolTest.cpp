@@ -194,6 +194,44 @@ TEST_F(ToolTest, checkTellsEditorsWhereAndHowLong) {
     EXPECT_EQ(run("trace --json script").errors.rfind(usage, 0), 0U);
 }
 
+TEST_F(ToolTest, aScriptIsTracedSoOftenAndAtThatSpeed) {
+    EXPECT_EQ(run("trace --times 2 --speed 4 -e 'delay 2' -e 'beep'"),
+              (Outcome{0, "[\"delay\",0.5]\n[\"beep\",1]\n[\"delay\",0.5]\n[\"beep\",1]\n", ""}));
+    write("delay 1\n");
+    EXPECT_EQ(run("trace --speed=0.25 script").output, "[\"delay\",4]\n");
+    EXPECT_EQ(run("trace --times=2 -- script").output, "[\"delay\",1]\n[\"delay\",1]\n");
+    EXPECT_EQ(run("trace script --times 1").output, "[\"delay\",1]\n");
+}
+
+TEST_F(ToolTest, timesAndSpeedsThatCannotBeAreTold) {
+    for (const std::string command : {"run", "trace"}) {
+        EXPECT_EQ(run(command + " --times 0 -e 'delay 0'"),
+                  (Outcome{1, "",
+                           "keyrill-script: --times 0 is not how often a script can be played. It is a whole "
+                           "number from 1 on, or until-stopped.\n"}));
+        EXPECT_EQ(run(command + " --speed 5 -e 'delay 0'"),
+                  (Outcome{1, "",
+                           "keyrill-script: --speed 5 is not how fast a script can be played. It is a number "
+                           "from 0.25 to 4.\n"}));
+    }
+    EXPECT_EQ(run("trace --times until-stopped -e 'delay 0'"),
+              (Outcome{1, "", "keyrill-script: Nobody can stop a trace. Give --times a number.\n"}));
+    for (const char* arguments : {"check --times 2 -e 'beep'", "format --speed 2 -e 'beep'", "run --times",
+                                  "run -e 'beep' --speed", "run --tunes 2 -e 'beep'"}) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, 1) << arguments;
+        EXPECT_EQ(outcome.errors.rfind(usage, 0), 0U) << arguments;
+    }
+}
+
+TEST_F(ToolTest, theRunThatFailsIsTheLastAndWarningsAreToldOnce) {
+    EXPECT_EQ(run("run --times 3 -e 'log 1' -e 'error \"no\"'"),
+              (Outcome{1, "", "(*1*)\n-e:2:1: execution error: no (-2700)\nerror \"no\"\n^\n"}));
+    EXPECT_EQ(run("run --times 3 -e '1 + 1'"), (Outcome{0, "2\n", ""}));
+    EXPECT_EQ(run("trace --times 3 -e 'tell app \"System Events\" to key code (60 + 6)'"),
+              (Outcome{0, "", "-e:1:29: warning: Key code 66 has no key; nothing is pressed.\n"}));
+}
+
 TEST_F(ToolTest, keysPrintsTheTable) {
     const std::string keys = run("keys").output;
     EXPECT_EQ(keys.rfind("0\tA\n1\tS\n", 0), 0U);
