@@ -93,6 +93,14 @@ bool HotKeyTable::startsPlayback(HotKeyId id) const {
     return row != m_rows.end() && row->second.request.startsPlayback;
 }
 
+std::uint16_t HotKeyTable::modifiersOfStop() const {
+    std::uint16_t modifiers = 0;
+    for (const auto& [id, row] : m_rows) {
+        if (row.request.cancelsPlayback && row.keys) modifiers |= row.keys->modifiers;
+    }
+    return modifiers;
+}
+
 bool HotKeyTable::isKeptWaiting() const {
     return std::any_of(m_rows.begin(), m_rows.end(),
                        [](const auto& entry) { return entry.second.isElsewhere; });

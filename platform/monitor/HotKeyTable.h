@@ -29,6 +29,8 @@ class HotKeyTable {
     bool usesKeycode(std::uint8_t keycode) const;
     bool cancelsPlayback(HotKeyId id) const;
     bool startsPlayback(HotKeyId id) const;
+    /// The real modifiers of all that cancel a playback.
+    std::uint16_t modifiersOfStop() const;
 
     /// A desktop whose user decides has decided on what was grabbed, or otherwise than before.
     void answer(const KeyGrab& grab, const GrabAnswer& answer);

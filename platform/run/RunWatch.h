@@ -51,6 +51,8 @@ class RunWatch {
     virtual bool handsHoldKeys() const = 0;
     /// Whether that one is.
     virtual bool handsHold(std::uint8_t /*keycode*/) const { return false; }
+    /// The real modifiers of all hot keys that end a run.
+    virtual std::uint16_t modifiersOfStop() const { return 0; }
     /// When the last hand has let go of any key; empty before. As of the last drain().
     virtual std::optional<Clock::Time> lastHandRelease() const { return std::nullopt; }
     /// Those of them that have been down for 2 s before that moment, on whichever keyboard; those that were

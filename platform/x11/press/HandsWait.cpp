@@ -32,6 +32,16 @@ Step<> HandsWait::begin() {
     return up ? Step<>() : Step<>(up.error());
 }
 
+KeycodeSet HandsWait::keysOfStop() const {
+    const ModifierKeys& map = m_tools.keymap.keymap().keys();
+    const std::uint16_t modifiers = m_tools.watch.modifiersOfStop();
+    KeycodeSet keys;
+    for (std::size_t keycode = 0; keycode < keys.size(); ++keycode) {
+        keys[keycode] = (map.heldBy(static_cast<std::uint8_t>(keycode)) & modifiers) != 0;
+    }
+    return keys;
+}
+
 bool HandsWait::releaseLeftOvers() {
     const KeycodeSet old = m_tools.watch.leftOvers(m_runStart);
     if (old.none()) return false;
@@ -113,13 +123,18 @@ KeycodeSet HandsWait::modifiersOfHands(const KeycodeSet& held) const {
 }
 
 /// On the keyboard through which the run presses keys the server tells of no press of a key that is down
-/// already: where another program holds any, it may hold the run's too.
+/// already: where another program holds any, it may hold the run's too. It is taken to hold those of a
+/// combination that ends the run, and no others, with which it would be no such combination.
 KeycodeSet HandsWait::keysOfHands(const KeycodeSet& held) const {
     KeycodeSet down;
     for (const SlaveKeyboard& keyboard : m_tools.keymap.slaves()) {
         const KeycodeSet here = keysDownOn(m_tools.connection.get(), keyboard);
         const KeycodeSet others = here & ~held;
-        if (!keyboard.isXtest || modifierKeysAmong(others).any()) down |= here;
+        if (!keyboard.isXtest) {
+            down |= here;
+        } else if (modifierKeysAmong(others).any()) {
+            down |= others | (here & keysOfStop());
+        }
     }
     return down;
 }

@@ -40,6 +40,7 @@ class X11EventManager::Parts final : public RunWatch {
     void settleOwnKeys() override;
     bool handsHoldKeys() const override { return m_hands.any(); }
     bool handsHold(std::uint8_t keycode) const override { return m_hands.holds(keycode); }
+    std::uint16_t modifiersOfStop() const override { return m_hotKeys.modifiersOfStop(); }
     std::optional<Clock::Time> lastHandRelease() const override { return m_hands.lastRelease(); }
     KeycodeSet leftOvers(Clock::Time runStart) const override { return m_hands.leftOvers(runStart); }
     void endHotKeyGrab() override;
