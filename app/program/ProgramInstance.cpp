@@ -2,6 +2,7 @@
 #include "app/program/ProgramInstance.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDeadlineTimer>
 #include <QThread>
@@ -119,8 +120,15 @@ void ProgramInstance::findBus() {
 
 int ProgramInstance::handOver(const QStringList& files) {
     if (m_bus.isConnected() && awaitName(m_bus)) {
-        m_bus.call(request(files), QDBus::Block, patienceInMilliseconds);
-        return EXIT_SUCCESS;
+        const QDBusError error(m_bus.call(request(files), QDBus::Block, patienceInMilliseconds));
+        // One that plays a macro answers later.
+        if (!error.isValid() || error.type() == QDBusError::NoReply) return EXIT_SUCCESS;
+        std::fprintf(
+            stderr,
+            "keyrill: Another program has Keyrill's name on the session bus and does not do its work: "
+            "%s\nEnd that program and start Keyrill again.\n",
+            qUtf8Printable(error.message()));
+        return EXIT_FAILURE;
     }
     std::fputs("keyrill: Keyrill is running already.", stderr);
     if (!files.isEmpty()) std::fputs(" It cannot be given a file, since it has no session bus.", stderr);

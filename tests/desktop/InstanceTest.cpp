@@ -125,6 +125,25 @@ TEST_F(HandOverTest, anArgumentsFileIsLoadedAndNotPlayed) {
     EXPECT_EQ(terminal.typed(7), "xloaded");
 }
 
+/// Owns the name of the program on the session bus, and has nothing of what that is asked for.
+constexpr const char* impostor = R"py(
+from gi.repository import Gio, GLib
+bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+bus.call_sync("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "RequestName",
+              GLib.Variant("(su)", ("example.orlen.Keyrill", 0)), None, Gio.DBusCallFlags.NONE, -1)
+print("ready", flush=True)
+GLib.MainLoop().run()
+)py";
+
+TEST_F(HandOverTest, aStartBesideAnotherProgramOfItsNameSaysSo) {
+    const Child other({"/usr/bin/python3", "-c", impostor}, desktop.options("other"));
+    ASSERT_TRUE(eventually([this] { return contentOf(desktop.file("other")) == "ready\n"; }))
+        << contentOf(desktop.file("other"));
+    EXPECT_EQ(startAndWait({file}), 1);
+    const std::string said = contentOf(desktop.file("second"));
+    EXPECT_TRUE(said.starts_with("keyrill: Another program has Keyrill's name on the session bus")) << said;
+}
+
 TEST_F(HandOverTest, aSecondStartShowsTheControlWindowBesideATray) {
     desktop.startTray();
     Child first({programs::keyrill}, desktop.options("first"));
