@@ -38,6 +38,8 @@ class World:
     """A mixin; `addCleanup` is its user's, as unittest has it."""
     rest = "600"
     owner = getpass.getuser()
+    # Whose session is in front.
+    user = os.getuid()
 
     def begin(self, folder, packaging):
         """The bus, polkit, logind with one session in front, and the keyboards event0 and event1."""
@@ -62,7 +64,7 @@ class World:
             self.bus.get_object("org.freedesktop.PolicyKit1", "/org/freedesktop/PolicyKit1/Authority"), MOCK)
         manager = self.bus.get_object("org.freedesktop.login1", "/org/freedesktop/login1")
         self.manager = dbus.Interface(manager, MOCK)
-        self.session = self.add_session("c1", os.getuid())
+        self.session = self.add_session("c1", self.user)
         self.set_session_of_process(self.session)
         self.writers = []
         for keyboard in ("event0", "event1"):

@@ -26,6 +26,9 @@ GLib.MainLoop().run()
 
 
 class Standalone(World):
+    # As programs run in compositors: nobody for root.
+    user = os.getuid() or 65534
+
     def __init__(self, stack, standin):
         self.stack = stack
         self.standin = standin

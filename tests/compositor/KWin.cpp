@@ -26,10 +26,7 @@ KWin::KWin(const Options& options) : m_options(options) {
         << "<busconfig><type>session</type><listen>unix:path=" << m_folder.file("bus") << "</listen>"
         << "<auth>EXTERNAL</auth><policy context='default'><allow send_destination='*' eavesdrop='true'/>"
         << "<allow eavesdrop='true'/><allow own='*'/><allow user='*'/></policy></busconfig>";
-    otheruser::giveAway(m_folder.path());
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(m_folder.path())) {
-        otheruser::giveAway(entry.path());
-    }
+    otheruser::giveAwayAll(m_folder.path());
     m_environment = {{"XDG_RUNTIME_DIR", m_folder.path()},
                      {"WAYLAND_DISPLAY", "kwin"},
                      {"DISPLAY", ""},

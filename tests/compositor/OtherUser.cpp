@@ -4,6 +4,7 @@
 #include <sys/prctl.h>
 #include <unistd.h>
 
+#include <filesystem>
 #include <stdexcept>
 
 namespace otheruser {
@@ -35,6 +36,11 @@ void become() {
 void giveAway(const std::string& file) {
     if (getuid() == 0 && chown(file.c_str(), nobody, nobody) != 0)
         throw std::runtime_error("cannot chown " + file);
+}
+
+void giveAwayAll(const std::string& folder) {
+    giveAway(folder);
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) giveAway(entry.path());
 }
 
 }  // namespace otheruser

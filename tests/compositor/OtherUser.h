@@ -13,5 +13,7 @@ std::vector<std::string> command(const std::vector<std::string>& words);
 void become();
 /// Makes a file or folder of the test that user's.
 void giveAway(const std::string& file);
+/// The same of a folder with all that is in it.
+void giveAwayAll(const std::string& folder);
 
 }  // namespace otheruser

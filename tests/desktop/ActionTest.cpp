@@ -189,6 +189,9 @@ TEST_F(ActionTest, savePauseKeepsTheTimeSinceTheLastKey) {
     ASSERT_EQ(ask("record"), done);
     const auto start = std::chrono::steady_clock::now();
     type({xkey::a});
+    EXPECT_EQ(terminal->typed(1), "a");
+    // Its answer tells that the program has had the key too.
+    EXPECT_EQ(ask("record"), notNow("A macro is being recorded already."));
     constexpr std::chrono::milliseconds pause{700};
     typist.hold(pause);
     EXPECT_EQ(ask("save-pause"), done);

@@ -89,14 +89,23 @@ class OverlayTextTest : public DesktopTest {
                                   std::to_string(window.x) + "+" + std::to_string(window.y);
         return desktop.run({"sh", "-c", "import -window root -crop " + place + " +repage rgb:- | md5sum"});
     }
-    /// When it has faded in.
-    std::string lastingPictureOf(const ScreenWindow& window) const {
+    /// When it has faded in over what was there before.
+    std::string lastingPictureOf(const ScreenWindow& window, const std::string& before) const {
         std::string last;
         EXPECT_TRUE(eventually([&] {
             const std::string now = pictureOf(window);
-            return std::exchange(last, now) == now;
+            return std::exchange(last, now) == now && now != before;
         }));
         return last;
+    }
+    /// Where the overlay comes.
+    static ScreenWindow place() {
+        ScreenWindow window;
+        window.width = 420;
+        window.height = 60;
+        window.x = 1280 - 10 - window.width;
+        window.y = 30;
+        return window;
     }
 
     Terminal terminal{desktop.display()};
@@ -104,17 +113,20 @@ class OverlayTextTest : public DesktopTest {
 };
 
 TEST_F(OverlayTextTest, showsNothingOfTheRecordingBefore) {
+    const std::string nothing = pictureOf(place());
     const ScreenWindow first = startRecording();
-    const std::string empty = lastingPictureOf(first);
+    ASSERT_EQ(std::tuple(first.x, first.y, first.width, first.height),
+              std::tuple(place().x, place().y, place().width, place().height));
+    const std::string empty = lastingPictureOf(first, nothing);
     for (const char* key : {"x", "y", "z"}) press(key);
     EXPECT_EQ(terminal.typed(3), "xyz");
-    EXPECT_TRUE(eventually([&] { return pictureOf(first) != empty; }));
-    EXPECT_NE(lastingPictureOf(first), empty);
+    EXPECT_NE(lastingPictureOf(first, empty), empty);
     endRecording();
+    ASSERT_TRUE(eventually([&] { return pictureOf(place()) == nothing; }));
     const ScreenWindow second = startRecording();
-    EXPECT_TRUE(eventually([&] { return pictureOf(second) == empty; }));
+    EXPECT_EQ(lastingPictureOf(second, nothing), empty);
     press("x");
-    EXPECT_TRUE(eventually([&] { return pictureOf(second) != empty; }));
+    EXPECT_NE(lastingPictureOf(second, empty), empty);
 }
 
 std::string nameOfDesktop(const testing::TestParamInfo<std::tuple<WindowManager, bool, int>>& info) {

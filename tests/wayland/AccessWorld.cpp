@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "compositor/OtherUser.h"
 #include "support/Keys.h"
 
 namespace {
@@ -32,6 +33,7 @@ input_event eventNow(std::uint16_t type, std::uint16_t code, std::int32_t value)
 }  // namespace
 
 AccessWorld::AccessWorld() {
+    otheruser::giveAway(m_folder.path());
     m_program = std::make_unique<Child>(
         std::vector<std::string>{"/usr/bin/python3", KEYRILL_ACCESS_WORLD, KEYRILL_ACCESS_STANDIN,
                                  KEYRILL_ACCESS_PACKAGING, m_folder.path()},

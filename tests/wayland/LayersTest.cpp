@@ -43,6 +43,7 @@ TEST_F(LayersTest, theOverlayLeavesTheKeysToTheTerminal) {
         hands().stroke({xkey::a});
         typed += 'a';
     } while (!ScreenPicture(sway()).differsFrom(before) && typed.size() < 1000);
+    EXPECT_TRUE(ScreenPicture(sway()).differsFrom(before)) << "the overlay has not come: " << log();
     hands().stroke({xkey::z});
     EXPECT_EQ(foot.typed(typed.size() + 1), typed + "z");
     EXPECT_TRUE(hasWindowKeyboard());

@@ -10,10 +10,11 @@
 #include <string>
 
 #include "compositor/Foot.h"
+#include "compositor/OtherUser.h"
 #include "compositor/WaylandHands.h"
 #include "wayland/ProgramSession.h"
 
-/// keyrill itself under a sway of the test's own.
+/// keyrill itself under a sway of the test's own, and as its user, who may read no keyboard of the machine's.
 class SwayProgram : public ProgramSession {
   public:
     /// `configuration` is the user's, of sway.
@@ -24,6 +25,7 @@ class SwayProgram : public ProgramSession {
         std::filesystem::create_directories(m_folder.file("home/.config/keyrill"));
         // Nobody is greeted.
         std::ofstream(m_folder.file("home/.config/keyrill/keyrill.conf")) << "[Settings]\nnotFirstRun=true\n";
+        otheruser::giveAwayAll(m_folder.path());
     }
 
     /// It has its combinations, too, when this returns.
@@ -39,7 +41,7 @@ class SwayProgram : public ProgramSession {
         environment["DBUS_SESSION_BUS_ADDRESS"] = "disabled:";
         environment["DBUS_SYSTEM_BUS_ADDRESS"] = systemBus();
         m_program = std::make_unique<Child>(
-            std::vector<std::string>{KEYRILL_PRODUCT, m_folder.file("macro.keyrill")},
+            otheruser::command({KEYRILL_PRODUCT, m_folder.file("macro.keyrill")}),
             Child::Options{.environment = environment, .outputFile = m_folder.file("log")});
         // Without a tray a small window appears, once the program is up.
         if (!eventually([this] { return shows("Keyrill"); }, std::chrono::seconds(30))) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -13,6 +14,7 @@
 #include <vector>
 
 #include "compositor/Foot.h"
+#include "compositor/OtherUser.h"
 #include "compositor/ScreenPicture.h"
 #include "compositor/WaylandHands.h"
 #include "support/Keys.h"
@@ -33,8 +35,10 @@ class SwayScreenTest : public testing::Test {
         std::ofstream(m_folder.file("home/.config/keyrill/keyrill.conf")) << "[Settings]\nnotFirstRun=true\n";
         std::ofstream(m_folder.file("macro.keyrill")) << "tell application \"System Events\"\n"
                                                       << lines << "\nend tell\n";
+        otheruser::giveAwayAll(m_folder.path());
     }
 
+    /// As sway's user, who may read no keyboard.
     std::unique_ptr<Child> start(const std::vector<std::string>& command) {
         auto environment = m_sway.environment();
         environment["HOME"] = m_folder.file("home");
@@ -43,8 +47,10 @@ class SwayScreenTest : public testing::Test {
         environment["XDG_DATA_HOME"] = "";
         environment["LC_ALL"] = "C.UTF-8";
         environment["DBUS_SESSION_BUS_ADDRESS"] = "disabled:";
+        environment["DBUS_SYSTEM_BUS_ADDRESS"] = "unix:path=" + m_folder.file("no-bus");
         return std::make_unique<Child>(
-            command, Child::Options{.environment = environment, .outputFile = m_folder.file("log")});
+            otheruser::command(command),
+            Child::Options{.environment = environment, .outputFile = m_folder.file("log")});
     }
     /// The program, with its macro; it has its combinations.
     std::unique_ptr<Child> startProgram() {
@@ -81,15 +87,23 @@ class SwayScreenTest : public testing::Test {
         return pictureWithTerminalsAt({{0, 0}, {1023, 639}});
     }
     /// Where the screen is another than in the picture, once it has been there for two looks: fades are over.
-    std::optional<ScreenArea> changedArea(const ScreenPicture& before,
-                                          const std::string& screen = "HEADLESS-1") const {
+    /// From its first change it has so long for that.
+    std::optional<ScreenArea> changedArea(
+        const ScreenPicture& before, const std::string& screen = "HEADLESS-1",
+        std::chrono::milliseconds patience = std::chrono::seconds(10)) const {
         std::optional<ScreenPicture> last;
+        std::optional<std::chrono::steady_clock::time_point> end;
+        bool isSettled = false;
         eventually([&] {
+            const auto time = std::chrono::steady_clock::now();
             std::optional<ScreenPicture> now(std::in_place, m_sway, screen);
-            const bool isSettled = last && now->differsFrom(before) && !now->differsFrom(*last);
+            const bool hasChanged = now->differsFrom(before).has_value();
+            if (hasChanged && !end) end = time + patience;
+            isSettled = last && hasChanged && !now->differsFrom(*last);
             last = std::move(now);
-            return isSettled;
+            return isSettled || (end && time > *end);
         });
+        EXPECT_TRUE(isSettled) << "it keeps changing, or has not changed at all";
         return last->differsFrom(before);
     }
 

@@ -31,9 +31,12 @@ class RecordHerePanelTest : public testing::Test {
         panel.show();
     }
     QLineEdit& field() { return *panel.findChild<QLineEdit*>(); }
-    void send(QEvent::Type type, int key, quint8 keycode, quint32 modifiers = 0, bool repeats = false) {
+    /// Whether it is taken.
+    bool send(QEvent::Type type, int key, quint8 keycode, quint32 modifiers = 0, bool repeats = false) {
         QKeyEvent event(type, key, Qt::NoModifier, keycode, 0, modifiers, QString(), repeats);
+        event.ignore();
         QCoreApplication::sendEvent(&field(), &event);
+        return event.isAccepted();
     }
     /// Since the last call.
     Keys told() { return std::exchange(m_keys, {}); }
@@ -69,8 +72,8 @@ TEST_F(RecordHerePanelTest, noKeyIsItsOwn) {
                                              {Qt::Key_Escape, xkey::escape},
                                              {Qt::Key_Return, xkey::returnKey},
                                              {Qt::Key_Backspace, xkey::backspace}}) {
-        send(QEvent::ShortcutOverride, key, keycode);
-        send(QEvent::KeyPress, key, keycode);
+        EXPECT_TRUE(send(QEvent::ShortcutOverride, key, keycode));
+        EXPECT_TRUE(send(QEvent::KeyPress, key, keycode));
         EXPECT_EQ(told(), (Keys{{Kind::press, keycode, 0}}));
         EXPECT_TRUE(panel.isVisible());
         EXPECT_EQ(panel.focusWidget(), &field());

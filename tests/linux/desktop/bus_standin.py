@@ -4,6 +4,7 @@
 login manager with one session, "saver" a screen saver, "notifications" the notification service, "plain" the same
 without markup, "refuses" beside either one that has had too many. Prints "ready", then what it was told; obeys the lines that are written to the named pipe COMMANDS:
 "lock", "unlock", "hint 0|1", "active 0|1", "end"."""
+import os
 import sys
 import threading
 
@@ -110,10 +111,10 @@ def obey(connection, loop, line):
 
 
 def read_commands(pipe, connection, loop):
-    while True:
-        with open(pipe, encoding="utf-8") as commands:
-            for line in commands:
-                GLib.idle_add(obey, connection, loop, line)
+    # Open for writing as well it never ends, however often writers come and go.
+    with open(os.open(pipe, os.O_RDWR), encoding="utf-8") as commands:
+        for line in commands:
+            GLib.idle_add(obey, connection, loop, line)
 
 
 def main():
