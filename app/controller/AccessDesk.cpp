@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/AccessDesk.h"
 
-#include <chrono>
 #include <utility>
 
 #include "app/controller/OverlayDesk.h"
@@ -13,17 +12,11 @@
 #include "engine/MacroPlayer.h"
 #include "platform/Notifications.h"
 
-namespace {
-
-/// A permission that is remembered comes sooner.
-constexpr std::chrono::milliseconds explanationDelay{300};
-
-}  // namespace
-
 AccessDesk::AccessDesk(EventMonitor& monitor, Notifications& notifications, Dialogs& dialogs,
-                       OverlayDesk& overlays)
+                       OverlayDesk& overlays, std::chrono::milliseconds delay)
     : m_monitor(monitor), m_notifications(notifications), m_dialogs(dialogs), m_overlays(overlays) {
     m_explains.setSingleShot(true);
+    m_explains.setInterval(delay);
     connect(&m_explains, &QTimer::timeout, this, &AccessDesk::tellWhy);
     m_monitor.observeAccess(
         [this](EventMonitor::Access access, const std::optional<Error>& why) { follow(access, why); });
@@ -34,7 +27,7 @@ AccessDesk::~AccessDesk() { m_monitor.observeAccess({}); }
 void AccessDesk::follow(EventMonitor::Access access, const std::optional<Error>& why) {
     const bool isAsked = access == EventMonitor::Access::asked;
     m_overlays.setWaitsForPermission(isAsked);
-    if (isAsked) return m_explains.start(explanationDelay);
+    if (isAsked) return m_explains.start();
     m_explains.stop();
     if (access == EventMonitor::Access::given) return restartLastEventTime();
     // Not from within the monitor: the alert waits for its answer.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QTimer>
+#include <chrono>
 #include <optional>
 
 #include "platform/EventMonitor.h"
@@ -17,8 +18,12 @@ class AccessDesk : public QObject {
     Q_OBJECT
 
   public:
-    /// All outlive the desk.
-    AccessDesk(EventMonitor& monitor, Notifications& notifications, Dialogs& dialogs, OverlayDesk& overlays);
+    /// A permission that is remembered comes sooner.
+    static constexpr std::chrono::milliseconds explanationDelay{300};
+
+    /// All outlive the desk. `delay` is from the question to its explanation.
+    AccessDesk(EventMonitor& monitor, Notifications& notifications, Dialogs& dialogs, OverlayDesk& overlays,
+               std::chrono::milliseconds delay = explanationDelay);
     ~AccessDesk() override;
 
   signals:
@@ -35,7 +40,7 @@ class AccessDesk : public QObject {
     Notifications& m_notifications;
     Dialogs& m_dialogs;
     OverlayDesk& m_overlays;
-    /// From the question to its explanation.
+    /// Runs from the question to its explanation.
     QTimer m_explains;
     bool m_hasExplained = false;
 };

@@ -5,6 +5,8 @@
 
 #include "app/AppTest.h"
 #include "app/RunLoop.h"
+#include "app/controller/OverlayDesk.h"
+#include "app/controller/Stage.h"
 #include "app/overlay/MacroText.h"
 #include "app/overlay/RecorderWindow.h"
 #include "core/MacroManager.h"
@@ -36,15 +38,28 @@ class AccessDeskTest : public AppTest {
     }
 };
 
-TEST_F(AccessDeskTest, tellsWhyOnceAndOnlyIfTheAnswerTakesAWhile) {
+/// Who is impatient.
+class AccessExplanationTest : public AccessDeskTest {
+  protected:
+    static constexpr int delay = 20;
+    static constexpr int longer = 2 * delay;
+
+  private:
+    Stage m_stage{windows, [] { return std::vector<QWidget*>(); }};
+    OverlayDesk m_overlays{m_stage, platform().clock, platform().hotKeys, platform().layers};
+    AccessDesk m_desk{monitor(), platform().notifications, dialogs, m_overlays,
+                      std::chrono::milliseconds(delay)};
+};
+
+TEST_F(AccessExplanationTest, comesOnceAndOnlyIfTheAnswerTakesAWhile) {
     monitor().accessChanges(Access::asked);
     monitor().accessChanges(Access::given);
-    runLoopFor(400);
+    runLoopFor(longer);
     EXPECT_EQ(platform().notifications.messages(), Messages());
     monitor().accessChanges(Access::asked);
-    runLoopFor(400);
+    runLoopFor(longer);
     monitor().accessChanges(Access::asked);
-    runLoopFor(400);
+    runLoopFor(longer);
     EXPECT_EQ(
         platform().notifications.messages(),
         Messages({{"Keyrill",
