@@ -110,6 +110,7 @@ void WindowOnLayer::makeActive() {
 
 // Later: what a key does may take the layer away that tells of it, and last for as long as a macro plays.
 void WindowOnLayer::keyChanges(const LayerKey& key) {
+    if (!m_hasKeyboard) return;
     followRepeats(key);
     QMetaObject::invokeMethod(
         this, [this, key] { deliver(key, false); }, Qt::QueuedConnection);

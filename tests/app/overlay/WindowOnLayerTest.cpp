@@ -129,6 +129,9 @@ TEST_F(WindowOnLayerTest, takesKeysOnlyWhileItHasTheKeyboard) {
     layers.takeKeyboard();
     settle();
     EXPECT_FALSE(prompt.isActiveWindow());
+    const QString before = prompt.timesText();
+    type("5");
+    EXPECT_EQ(prompt.timesText(), before);
     layers.giveKeyboard();
     settle();
     type("7");
