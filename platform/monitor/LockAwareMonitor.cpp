@@ -8,7 +8,16 @@ Result<void> LockAwareMonitor::install(Handler handler) {
 
 void LockAwareMonitor::setRecording(bool recording) {
     m_isHeld = false;
+    m_isRecording = recording;
+    if (recording) m_wakeups.startTimer(m_rest);
     m_monitor.setRecording(recording);
+}
+
+/// The timer of a recording that has ended may still run.
+void LockAwareMonitor::dispatch() {
+    if (!m_wakeups.takeTimer() || !m_isRecording) return;
+    hold(m_isLocked());
+    m_wakeups.startTimer(m_rest);
 }
 
 void LockAwareMonitor::observeHold(std::function<void(bool held)> changed) {

@@ -1,19 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <utility>
 
 #include "platform/EventMonitor.h"
+#include "platform/EventSource.h"
+#include "platform/run/Wakeups.h"
 
 /// A monitor that sees all keys, also those that are for a screen locker alone, without those: what the user
-/// types there is his password. Whether one has the keyboard is asked with each key press.
-class LockAwareMonitor final : public EventMonitor {
+/// types there is his password. Whether one has the keyboard is asked with each key press, and a few times in
+/// a second while a macro is being recorded.
+class LockAwareMonitor final : public EventSource, public EventMonitor {
   public:
+    static constexpr std::chrono::milliseconds betweenLooks{200};
+
     /// `monitor` outlives this, and is not used but through it.
-    LockAwareMonitor(EventMonitor& monitor, std::function<bool()> isLocked)
-        : m_monitor(monitor), m_isLocked(std::move(isLocked)) {}
+    LockAwareMonitor(EventMonitor& monitor, std::function<bool()> isLocked,
+                     std::chrono::milliseconds rest = betweenLooks)
+        : m_monitor(monitor), m_isLocked(std::move(isLocked)), m_rest(rest) {}
+
+    // EventSource
+    int fileDescriptor() const override { return m_wakeups.fileDescriptor(); }
+    /// Looks whether a locker has the keyboard, if it is time to.
+    void dispatch() override;
+
+    // EventMonitor
 
     std::optional<Error> shortcoming() const override { return m_monitor.shortcoming(); }
     Result<void> showsKeys() const override { return m_monitor.showsKeys(); }
@@ -21,7 +35,7 @@ class LockAwareMonitor final : public EventMonitor {
     void setWithheld(bool withheld) override { m_monitor.setWithheld(withheld); }
     void setKeepsOwnStrokes(bool keeps) override { m_monitor.setKeepsOwnStrokes(keeps); }
     void setRecording(bool recording) override;
-    /// Told with the first key press that is kept back, and with the first that is delivered again.
+    /// Told by the next look, or with the next key press.
     void observeHold(std::function<void(bool held)> changed) override;
     void observeAccess(AccessObserver changed) override { m_monitor.observeAccess(std::move(changed)); }
     WindowKeys* windowKeys() override { return m_monitor.windowKeys(); }
@@ -34,5 +48,8 @@ class LockAwareMonitor final : public EventMonitor {
     std::function<bool()> m_isLocked;
     Handler m_handler;
     std::function<void(bool held)> m_holdChanged;
+    std::chrono::milliseconds m_rest;
+    Wakeups m_wakeups;
+    bool m_isRecording = false;
     bool m_isHeld = false;
 };

@@ -117,6 +117,7 @@ class WaylandSession final : public Session {
     const SessionServices& sessionServices() override { return m_services; }
     std::vector<EventSource*> eventSources() override {
         std::vector<EventSource*> sources{m_connection.get(), &m_keys};
+        if (m_lock && !isForScripts()) sources.push_back(&m_lockAwareMonitor);
         if (m_layers && m_layers->areOffered()) sources.push_back(m_layers->eventSource());
         // Who has no hot keys hears of layouts all the same.
         if (m_desktop.isGnome() && !m_bindings) sources.push_back(&m_desktop.bus()->eventSource());
@@ -150,6 +151,11 @@ class WaylandSession final : public Session {
     }
     Result<std::unique_ptr<ForeignWindows>> openWindows() const {
         return m_desktop.isKde() ? KWinWindows::open(SessionBus::addressOfProcess()) : ToplevelList::open();
+    }
+    EventMonitor& eventMonitor() {
+        if (isForScripts()) return m_noMonitor;
+        // Elsewhere nobody could be asked.
+        return m_lock ? static_cast<EventMonitor&>(m_lockAwareMonitor) : m_keys;
     }
     bool hasLockerKeyboard() { return m_lock && m_lock->isLocked(); }
     std::unique_ptr<Pressing> makePressing() {
@@ -210,16 +216,15 @@ class WaylandSession final : public Session {
     std::unique_ptr<WaylandLayers> m_layers =
         m_use == SessionUse::desktop ? std::make_unique<WaylandLayers>() : nullptr;
     NoLayers m_noLayers;
-    SessionServices m_services{
-        .eventMonitor = isForScripts() ? static_cast<EventMonitor&>(m_noMonitor) : m_lockAwareMonitor,
-        .hotKeys = m_bindings ? static_cast<HotKeys&>(m_keys) : m_noHotKeys,
-        .keyboardLayout = m_layout,
-        .keyInjector = m_injector,
-        .scriptDesktop = m_scriptDesktop,
-        .sessionCheck = m_check,
-        .windows = m_windows,
-        .dockingTray = m_tray,
-        .layers = m_layers ? static_cast<Layers&>(*m_layers) : m_noLayers};
+    SessionServices m_services{.eventMonitor = eventMonitor(),
+                               .hotKeys = m_bindings ? static_cast<HotKeys&>(m_keys) : m_noHotKeys,
+                               .keyboardLayout = m_layout,
+                               .keyInjector = m_injector,
+                               .scriptDesktop = m_scriptDesktop,
+                               .sessionCheck = m_check,
+                               .windows = m_windows,
+                               .dockingTray = m_tray,
+                               .layers = m_layers ? static_cast<Layers&>(*m_layers) : m_noLayers};
 };
 
 }  // namespace

@@ -13,7 +13,7 @@ BEGIN {
     room("platform/fake", "platform", standard, "")
     room("platform/none", "platform", standard, "")
     room("platform/keymap", "platform", standard "|^xkbcommon/xkbcommon\\.h$", "")
-    room("platform/monitor", "platform platform/keymap", standard "|^xkbcommon/xkbcommon\\.h$", "")
+    room("platform/monitor", "platform platform/keymap platform/run", standard "|^xkbcommon/xkbcommon\\.h$", "")
     room("platform/run", "platform", "", foreign)
     room("platform/press", "platform platform/keymap platform/run", standard "|^xkbcommon/xkbcommon\\.h$", "")
     room("platform/linux", "platform", "", foreign)

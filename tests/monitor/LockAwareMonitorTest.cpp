@@ -2,6 +2,7 @@
 #include "platform/monitor/LockAwareMonitor.h"
 
 #include <gtest/gtest.h>
+#include <poll.h>
 
 #include <string>
 
@@ -13,6 +14,8 @@ namespace {
 
 class LockAwareMonitorTest : public testing::Test {
   protected:
+    static constexpr std::chrono::milliseconds rest{5};
+
     LockAwareMonitorTest() {
         EXPECT_TRUE(m_monitor.install([this](const KeyEvent& event) {
             if (event.kind == KeyEventKind::keyDown) m_heard += event.character;
@@ -27,13 +30,22 @@ class LockAwareMonitorTest : public testing::Test {
         m_platform.eventMonitor.reportKeyPress({.keyCode = key::a, .character = character}, 0);
         m_platform.desktop.turnLoop();
     }
+    bool isWoken(std::chrono::milliseconds patience) const {
+        pollfd entry{.fd = m_monitor.fileDescriptor(), .events = POLLIN, .revents = 0};
+        return poll(&entry, 1, static_cast<int>(patience.count())) > 0;
+    }
+    /// Waits for the time of the next look.
+    void look() {
+        EXPECT_TRUE(isWoken(std::chrono::seconds(10)));
+        m_monitor.dispatch();
+    }
     /// What was delivered, in order.
     std::string heard() const { return m_heard; }
 
     FakePlatform m_platform;
     bool m_isLocked = false;
     std::string m_heard;
-    LockAwareMonitor m_monitor{m_platform.eventMonitor, [this] { return m_isLocked; }};
+    LockAwareMonitor m_monitor{m_platform.eventMonitor, [this] { return m_isLocked; }, rest};
 };
 
 TEST_F(LockAwareMonitorTest, deliversWhatIsTypedIntoWindows) {
@@ -51,6 +63,26 @@ TEST_F(LockAwareMonitorTest, keepsWhatIsTypedIntoALockerToItself) {
     m_isLocked = false;
     press('b');
     EXPECT_EQ(heard(), "a<>b");
+}
+
+TEST_F(LockAwareMonitorTest, tellsOfALockerWithoutAnyKey) {
+    m_isLocked = true;
+    look();
+    look();
+    m_isLocked = false;
+    look();
+    EXPECT_EQ(heard(), "<>");
+}
+
+TEST_F(LockAwareMonitorTest, looksForNoneAfterTheRecording) {
+    m_monitor.setRecording(false);
+    m_isLocked = true;
+    look();
+    EXPECT_FALSE(isWoken(2 * rest));
+    EXPECT_EQ(heard(), "");
+    m_monitor.setRecording(true);
+    look();
+    EXPECT_EQ(heard(), "<");
 }
 
 TEST_F(LockAwareMonitorTest, modifiersGoOn) {
