@@ -39,12 +39,19 @@ void RecordHereDesk::begin(const Error& why) {
     keys->begin();
     RecordHerePanel& panel = builtPanel();
     panel.setCause(why);
-    const HotKeyId stop = shortcutRows[shortcutIndex("stop")].id;
-    const bool hasHotKey = m_hotKeys.state(stop).status == HotKeyStatus::registered;
-    panel.setStopCombination(hasHotKey ? combinationText(m_stop.keyCombo()) : QString());
+    tellHowToStop(panel);
     panel.setMacroString({});
     panel.takeKeys();
     m_stage.present(panel);
+}
+
+void RecordHereDesk::tellHowToStop(RecordHerePanel& panel) const {
+    const HotKeyState stop = m_hotKeys.state(shortcutRows[shortcutIndex("stop")].id);
+    if (stop.status == HotKeyStatus::changed) {
+        return panel.setStopTrigger(QString::fromStdString(stop.trigger));
+    }
+    const bool hasHotKey = stop.status == HotKeyStatus::registered;
+    panel.setStopCombination(hasHotKey ? combinationText(m_stop.keyCombo()) : QString());
 }
 
 void RecordHereDesk::end() {

@@ -38,6 +38,7 @@ class RecordHereDesk : public QObject {
 
   private:
     RecordHerePanel& builtPanel();
+    void tellHowToStop(RecordHerePanel& panel) const;
 
     EventMonitor& m_monitor;
     const HotKeys& m_hotKeys;

@@ -54,10 +54,21 @@ void RecordHerePanel::setCause(const Error& cause) {
 }
 
 void RecordHerePanel::setStopCombination(const QString& combination) {
-    m_end->setText(combination.isEmpty()
-                       ? tr("Press Stop Recording or close the window when you are done.")
-                       : tr("Press %1 when you are done, or close the window.").arg(combination));
-    m_field->setAccessibleDescription(m_end->text());
+    setEnd(combination.isEmpty() ? tr("Press Stop Recording or close the window when you are done.")
+                                 : tr("Press %1 when you are done, or close the window.").arg(combination));
+}
+
+void RecordHerePanel::setStopTrigger(const QString& words) {
+    setEnd(
+        words.isEmpty()
+            ? tr("Use the combination of the desktop's settings when you are done, or close the window.")
+            : tr("Use the combination of the desktop's settings when you are done, or close the window: %1")
+                  .arg(words));
+}
+
+void RecordHerePanel::setEnd(const QString& text) {
+    m_end->setText(text);
+    m_field->setAccessibleDescription(text);
 }
 
 void RecordHerePanel::setMacroString(const QString& text) { m_field->setText(text); }

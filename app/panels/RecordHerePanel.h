@@ -24,6 +24,8 @@ class RecordHerePanel : public Panel {
     void setCause(const Error& cause);
     /// The combination that ends the recording, as this desktop writes it; empty if there is none.
     void setStopCombination(const QString& combination);
+    /// The same where the desktop's settings have it, in the desktop's words; empty if it does not say.
+    void setStopTrigger(const QString& words);
     /// What is recorded so far.
     void setMacroString(const QString& text);
     /// The next key is the recording's.
@@ -38,6 +40,8 @@ class RecordHerePanel : public Panel {
     void left();
 
   private:
+    void setEnd(const QString& text);
+
     QLabel* m_cause;
     QLabel* m_hint;
     QLabel* m_end;

@@ -64,6 +64,12 @@ void FakeHotKeys::otherProgramHolds(std::uint32_t keyCode, std::uint32_t modifie
     m_foreign.insert({keyCode, modifiers & combinationMask});
 }
 
+void FakeHotKeys::desktopChanges(HotKeyId id, const std::string& trigger) {
+    HotKeyState& state = m_rows.at(id).state;
+    state = {.status = HotKeyStatus::changed, .trigger = trigger};
+    if (m_observer) m_observer(id, HotKeyState(state));
+}
+
 std::map<HotKeyId, std::pair<std::uint32_t, std::uint32_t>> FakeHotKeys::registered() const {
     std::map<HotKeyId, std::pair<std::uint32_t, std::uint32_t>> combinations;
     for (const auto& [id, row] : m_rows) {

@@ -27,6 +27,8 @@ class FakeHotKeys : public HotKeys {
 
     /// Another program registers the combination; requests for it are refused from now on.
     void otherProgramHolds(std::uint32_t keyCode, std::uint32_t modifiers);
+    /// The desktop's settings have another combination for a hot key that is registered, in its words.
+    void desktopChanges(HotKeyId id, const std::string& trigger);
     /// The next request is refused with the error.
     void failNextCall(const Error& error) { m_nextError = error; }
     /// What is registered, by id: key code and modifiers as asked for.

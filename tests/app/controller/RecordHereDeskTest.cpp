@@ -34,6 +34,11 @@ class RecordHereDeskTest : public AppTest {
     }
     FakeEventMonitor& monitor() { return platform().eventMonitor; }
     RecordHerePanel* panel() { return controller.recordHerePanel(); }
+    QStringList words() {
+        QStringList all;
+        for (const auto* label : panel()->findChildren<QLabel*>()) all.append(label->text());
+        return all;
+    }
     QPushButton* button(const QString& text) {
         for (auto* button : panel()->findChildren<QPushButton*>()) {
             if (button->text() == text) return button;
@@ -51,13 +56,21 @@ TEST_F(RecordHereDeskTest, theRecordingGoesOnInAWindowThatSaysWhy) {
     EXPECT_TRUE(state().recording);
     ASSERT_NE(panel(), nullptr);
     EXPECT_TRUE(panel()->isVisible());
-    QStringList words;
-    for (const auto* label : panel()->findChildren<QLabel*>()) words.append(label->text());
-    EXPECT_TRUE(words.contains(QStringLiteral("Refused.")));
-    EXPECT_TRUE(words.contains(QStringLiteral("Agree.")));
-    EXPECT_TRUE(words.contains(QStringLiteral("Press Ctrl+Super+S when you are done, or close the window.")))
-        << words.join(u'\n').toStdString();
+    EXPECT_TRUE(words().contains(QStringLiteral("Refused.")));
+    EXPECT_TRUE(words().contains(QStringLiteral("Agree.")));
+    EXPECT_TRUE(
+        words().contains(QStringLiteral("Press Ctrl+Super+S when you are done, or close the window.")))
+        << words().join(u'\n').toStdString();
     EXPECT_EQ(monitor().toldByWindow(), Told{"begin"});
+}
+
+TEST_F(RecordHereDeskTest, theCombinationIsTheDesktopsWhereItsSettingsHaveIt) {
+    platform().hotKeys.desktopChanges(2, "Press <Control>F9");
+    settle();
+    EXPECT_TRUE(words().contains(QStringLiteral(
+        "Use the combination of the desktop's settings when you are done, or close the window: "
+        "Press <Control>F9")))
+        << words().join(u'\n').toStdString();
 }
 
 TEST_F(RecordHereDeskTest, whatTheWindowGetsIsPassedOn) {
