@@ -40,6 +40,7 @@ class KdeShortcuts final : public HotKeyBinder {
     // HotKeyBinder
     std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& request) override;
     void release(const KeyGrab& grab) override;
+    bool takesSymbols() const override { return true; }
     int fileDescriptor() const override { return m_bus.fileDescriptor(); }
     /// A held combination is pressed again and again. It is up as soon as any of its keys is.
     std::optional<Event> nextEvent() override;

@@ -122,7 +122,7 @@ void HotKeyTable::followKeymap() {
         // What is lifted is taken back by the keymap that holds then.
         if (row.request.keyCode == keycode::none || row.isLifted) continue;
         const Result<KeyGrab> grab = grabFor(row.request);
-        const bool same = grab ? row.grab == grab.value() : !row.grab;
+        const bool same = grab ? row.grab == grab.value() && !m_grabs.takesSymbols() : !row.grab;
         if (!same) moved.push_back(&row);
     }
     // All are given free first: two may have changed places.

@@ -43,7 +43,8 @@ class HotKeyTable {
     /// of two with one combination the first keeps it.
     void requestAgain();
 
-    /// Moves the grabs whose key or modifiers are others in the new keymap.
+    /// Moves the grabs whose key or modifiers, or symbols where those are taken, are others in the new
+    /// keymap.
     void followKeymap();
     /// The same where Shift, Control, Alt or Super is locked now and was not, or the other way round: other
     /// locks do not matter for a combination, but these are part of it.

@@ -31,4 +31,6 @@ class KeyGrabber {
     /// Whether grab() is a wish that the desktop's user decides in its settings: the answer comes later
     /// (HotKeyTable::answer), and may change, and nothing can be given free for a while.
     virtual bool isDecidedByUser() const { return false; }
+    /// Whether combinations are taken by what their keys type, so that another keymap makes others of them.
+    virtual bool takesSymbols() const { return false; }
 };

@@ -26,6 +26,7 @@ constexpr HotKeyId play = 2;
 class Grabber final : public KeyGrabber {
   public:
     std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) override {
+        ++grabs;
         if (otherProgramHasAll) return "another program holds it";
         held.push_back(grab);
         return std::nullopt;
@@ -35,10 +36,13 @@ class Grabber final : public KeyGrabber {
     }
 
     bool isDecidedByUser() const override { return isUsers; }
+    bool takesSymbols() const override { return isBySymbols; }
 
     std::vector<KeyGrab> held;
     bool otherProgramHasAll = false;
     bool isUsers = false;
+    bool isBySymbols = false;
+    int grabs = 0;
 };
 
 class HotKeyTableTest : public testing::Test {
@@ -146,6 +150,17 @@ TEST_F(HotKeyTableTest, followsTheKeymap) {
     EXPECT_TRUE(m_grabber.held.empty());
     EXPECT_EQ(m_table.state(record).status, HotKeyStatus::refused);
     changeKeymap("de", "altwin:swap_alt_win");
+    EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::registered);
+}
+
+TEST_F(HotKeyTableTest, asksAgainForTheSameKeyWhereItsSymbolsAreTaken) {
+    m_table.request(asked(record));
+    changeKeymap("us,ru", "");
+    EXPECT_EQ(m_grabber.grabs, 1);
+    m_grabber.isBySymbols = true;
+    changeKeymap("us,ru,de", "");
+    EXPECT_EQ(m_grabber.grabs, 2);
     EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
     EXPECT_EQ(m_table.state(record).status, HotKeyStatus::registered);
 }
