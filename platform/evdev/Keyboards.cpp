@@ -47,6 +47,8 @@ void Keyboards::open(DeviceOpener::Question question) {
     const bool mayAskNow = question == DeviceOpener::Question::allowed;
     const bool isWaiting = m_asked && (*m_asked == question || !mayAskNow);
     if (isWaiting || (m_isOpen && !m_problem)) return;
+    // The answer to a question that the user was not to hear of is none of his.
+    if (mayAskNow && !m_isOpen) m_problem.reset();
     ask(question);
 }
 

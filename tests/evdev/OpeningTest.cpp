@@ -148,7 +148,7 @@ TEST_F(OpeningTest, whatARunIsRefusedIsToldToNobody) {
     EXPECT_EQ(m_told, Log{});
 }
 
-TEST_F(OpeningTest, whatIsLostEndsARecordingAfterTheKeysThatCameBefore) {
+TEST_F(OpeningTest, whatIsLostEndsARecordingAndWithItWhatHasNotBeenRead) {
     m_monitor.setRecording(true);
     m_opener.answer(opened(0));
     m_keyboard->key(30, 1, m_clock.now());
@@ -169,6 +169,18 @@ TEST_F(OpeningTest, aRunAsksNobodyAndARecordingInItDoes) {
     EXPECT_EQ(m_opener.log, (Log{"tried beside", "asked beside"}));
     m_monitor.runWatch().runEnds();
     EXPECT_EQ(m_opener.log, (Log{"tried beside", "asked beside"}));
+}
+
+TEST_F(OpeningTest, whatARunWasRefusedSaysNothingOfTheRecordingInIt) {
+    m_monitor.runWatch().runStarts();
+    m_opener.answer(refused);
+    m_monitor.setRecording(true);
+    m_monitor.runWatch().runEnds();
+    m_monitor.dispatch();
+    EXPECT_EQ(m_told, Log{"asked"});
+    m_opener.answer(opened(0));
+    m_monitor.dispatch();
+    EXPECT_EQ(m_told, (Log{"asked", "given"}));
 }
 
 TEST_F(OpeningTest, aRunAfterARefusalTriesOnceMoreWithoutAsking) {
