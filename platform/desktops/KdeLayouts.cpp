@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktops/KdeLayouts.h"
 
+#include "platform/desktops/portal/KdeLayoutNames.h"
+
 namespace {
 
 SessionBus::Method method(const char* member) {
-    return {"org.kde.keyboard", "/Layouts", "org.kde.KeyboardLayouts", member};
+    return {kdelayoutnames::service, kdelayoutnames::object, kdelayoutnames::face, member};
 }
 
 }  // namespace

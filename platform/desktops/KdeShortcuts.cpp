@@ -5,6 +5,8 @@
 #include <array>
 #include <sstream>
 
+#include "platform/desktops/portal/KdeLayoutNames.h"
+
 namespace {
 
 constexpr const char* service = "org.kde.kglobalaccel";
@@ -85,7 +87,7 @@ void KdeShortcuts::listen() {
     m_bus.hearOwner(service, [this](bool /*wasThere*/, bool isThere) {
         if (isThere) forget();
     });
-    m_bus.hear("org.kde.keyboard", "/Layouts", "org.kde.KeyboardLayouts", "layoutChanged",
+    m_bus.hear(kdelayoutnames::service, kdelayoutnames::object, kdelayoutnames::face, "layoutChanged",
                [this](const char*, GVariant*) { m_events.push_back({.kind = Event::Kind::layout}); });
     m_bus.whenReplaced([this] { forget(); });
 }

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr const char* programName = "keyrill-portal";
-/// What it takes to release keys, and more.
+/// What it takes to release keys where the desktop is not slow.
 constexpr std::chrono::milliseconds timeToEnd{2000};
 /// For a desktop that is busy.
 constexpr std::chrono::milliseconds patienceWithKeys{5000};
@@ -74,7 +74,7 @@ std::string PortalLink::tokenFileOfProcess() {
 
 PortalLink::PortalLink(Options options, Clock& clock) : m_options(std::move(options)), m_clock(clock) {}
 
-PortalLink::~PortalLink() { m_process.end(timeToEnd); }
+PortalLink::~PortalLink() { m_process.leave(timeToEnd); }
 
 Result<void> PortalLink::begin() {
     const PortalMessage open{.kind = PortalMessage::Kind::open};
@@ -90,7 +90,7 @@ Result<void> PortalLink::begin() {
             return {};
         }
         m_failure.reset();
-        m_process.end(timeToEnd);
+        m_process.leave(timeToEnd);
     }
     const auto program =
         m_options.program.empty() ? CompanionProcess::find(programName) : std::optional(m_options.program);
@@ -109,7 +109,7 @@ Step<> PortalLink::open(RunWait& wait) {
         read();
         // One that has rested may have ended just before it was told.
         if (m_hasEnded && m_isReused) {
-            m_process.end(timeToEnd);
+            m_process.leave(timeToEnd);
             if (const auto begun = begin(); !begun) return begun.error();
         }
         if (const auto looked = look(); !looked) return looked.error();
@@ -159,7 +159,7 @@ Result<void> PortalLink::look() {
     if (m_process.isOpen()) read();
     if (!m_failure) return {};
     const PortalAnswer failure = *m_failure;
-    m_process.end(timeToEnd);
+    m_process.leave(timeToEnd);
     if (!m_isNeeded) {
         m_failure.reset();
         return {};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <string>
 
 #include "platform/Clock.h"
@@ -46,7 +47,11 @@ class PortalLink final : public RunCompanion {
     /// A key of the kernel's number goes down or up, in the order of the calls. One that cannot be said makes
     /// look() fail.
     void key(std::uint16_t keycode, bool press);
-    /// Waits until the desktop has taken all of them; five seconds at the most.
+    /// Another layout of KDE's is to be put in force than that one, which is put in force again however this
+    /// process ends: until layoutIsHome().
+    void leaveLayout(std::uint32_t layout) { say({.kind = PortalMessage::Kind::leave, .layout = layout}); }
+    void layoutIsHome() { say({.kind = PortalMessage::Kind::home}); }
+    /// Waits until the desktop has taken all keys; five seconds at the most.
     Result<void> synchronise();
 
     // RunCompanion

@@ -49,6 +49,7 @@ PortalShortcuts::PortalShortcuts(SessionBus& bus, Words words, Patience patience
 PortalShortcuts::~PortalShortcuts() {
     if (m_later) g_source_destroy(m_later.get());
     m_request.stop();
+    m_end.stop();
     if (m_session.empty()) return;
     // A portal that has gone has none of them any more.
     [[maybe_unused]] const auto ended =
@@ -142,8 +143,9 @@ void PortalShortcuts::begin() {
 
 void PortalShortcuts::create() {
     GVariantBuilder options = portalOptions();
-    g_variant_builder_add(&options, "{sv}", "session_handle_token",
-                          g_variant_new_string("keyrill_shortcuts"));
+    // What is still said of a session before is not taken for this one's.
+    const std::string token = "keyrill_shortcuts" + std::to_string(++m_sessions);
+    g_variant_builder_add(&options, "{sv}", "session_handle_token", g_variant_new_string(token.c_str()));
     const BusLoop::Context::Scope scope(m_bus.loop());
     m_request.begin(m_bus.get(),
                     {.interface = face,
@@ -162,10 +164,8 @@ void PortalShortcuts::created(PortalRequest::End end, GVariant* results) {
                                                             : "the desktop's portal gives no hot keys");
     }
     m_session = *session;
-    if (std::exchange(m_heardSession, m_session) != m_session) {
-        m_bus.hear(service, m_session.c_str(), portalnames::session, "Closed",
-                   [this](const char*, GVariant*) { closed(); });
-    }
+    const BusLoop::Context::Scope scope(m_bus.loop());
+    m_end.follow(m_bus.get(), m_session, [this] { closed(); });
     bind();
 }
 
@@ -199,7 +199,7 @@ void PortalShortcuts::bind() {
 /// What is in the answer counts: early versions of GNOME's portal agree with a code of no meaning.
 void PortalShortcuts::bound(PortalRequest::End end, GVariant* results) {
     const GVariantPointer shortcuts = shortcutsIn(results);
-    if (!shortcuts && end != PortalRequest::End::agreed) return endBecause(whyNot(end));
+    if (!shortcuts && end != PortalRequest::End::agreed) return refuseWhatWasAsked(whyNot(end));
     m_state = State::bound;
     m_isPortalAtFault = false;
     if (shortcuts) take(shortcuts.get());
@@ -229,8 +229,21 @@ void PortalShortcuts::endBecause(const std::string& why) {
     }
 }
 
+/// What has been wished since the question was asked is asked for in another one.
+void PortalShortcuts::refuseWhatWasAsked(const std::string& why) {
+    closeSession();
+    for (auto& [name, wish] : m_wishes) {
+        const auto asked = m_asked.find(name);
+        if (asked == m_asked.end() || asked->second.trigger != wish.trigger) continue;
+        asked->second.refusal = why;
+        tell(name, wish);
+    }
+    considerLater();
+}
+
 void PortalShortcuts::closeSession() {
     m_request.stop();
+    m_end.stop();
     m_state = State::idle;
     if (m_session.empty()) return;
     const std::string session = std::exchange(m_session, {});
@@ -240,6 +253,7 @@ void PortalShortcuts::closeSession() {
 /// All is asked for again.
 void PortalShortcuts::forget() {
     m_request.stop();
+    m_end.stop();
     m_state = State::idle;
     m_session.clear();
     m_asked.clear();
@@ -280,7 +294,7 @@ void PortalShortcuts::changed(GVariant* parameters) {
 }
 
 void PortalShortcuts::closed() {
-    if (m_session.empty()) return;
+    m_end.stop();
     m_session.clear();
     endBecause("the desktop has taken it back");
 }

@@ -11,6 +11,7 @@
 #include "platform/desktops/HotKeyBinder.h"
 #include "platform/desktops/SessionBus.h"
 #include "platform/desktops/portal/PortalRequest.h"
+#include "platform/desktops/portal/SessionEnd.h"
 
 /// Hot keys by the desktop's portal (org.freedesktop.portal.GlobalShortcuts), as GNOME has them from 48 on.
 ///
@@ -87,6 +88,7 @@ class PortalShortcuts final : public HotKeyBinder {
     void bound(PortalRequest::End end, GVariant* results);
     void take(GVariant* shortcuts);
     void endBecause(const std::string& why);
+    void refuseWhatWasAsked(const std::string& why);
     void closeSession();
     void forget();
     void heard(GVariant* parameters, Event::Kind kind);
@@ -101,8 +103,9 @@ class PortalShortcuts final : public HotKeyBinder {
     PortalRequest m_request;
     std::unique_ptr<GSource, FreeBy<g_source_unref>> m_later;
     std::string m_session;
-    /// Whose end is heard of.
-    std::string m_heardSession;
+    SessionEnd m_end;
+    /// How many there have been.
+    unsigned m_sessions = 0;
     /// The portal has failed, not the user refused.
     bool m_isPortalAtFault = false;
     /// By their names.

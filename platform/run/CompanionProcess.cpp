@@ -94,14 +94,26 @@ bool CompanionProcess::send(const void* packet, std::size_t size) const {
 }
 
 void CompanionProcess::end(std::chrono::milliseconds patience) {
+    const auto process = awaitEnd(patience);
+    if (!process) return;
+    kill(*process, SIGKILL);
+    waitpid(*process, nullptr, 0);
+}
+
+void CompanionProcess::leave(std::chrono::milliseconds patience) {
+    std::erase_if(m_left, [](pid_t process) { return waitpid(process, nullptr, WNOHANG) != 0; });
+    if (const auto process = awaitEnd(patience)) m_left.push_back(*process);
+}
+
+/// The process if it has not ended by then.
+std::optional<pid_t> CompanionProcess::awaitEnd(std::chrono::milliseconds patience) {
     m_socket.reset();
     m_otherEnd.reset();
-    if (m_process < 0) return;
+    if (m_process < 0) return std::nullopt;
     const pid_t process = std::exchange(m_process, -1);
     for (auto waited = patience.zero(); waited < patience; ++waited) {
-        if (waitpid(process, nullptr, WNOHANG) != 0) return;
+        if (waitpid(process, nullptr, WNOHANG) != 0) return std::nullopt;
         usleep(1000);
     }
-    kill(process, SIGKILL);
-    waitpid(process, nullptr, 0);
+    return process;
 }

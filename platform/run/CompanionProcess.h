@@ -38,9 +38,16 @@ class CompanionProcess {
 
     /// Ends the line and waits so long for the program, which is killed after that.
     void end(std::chrono::milliseconds patience);
+    /// The same, but one that takes longer is left to itself: it still has something to put right, and does
+    /// not take for ever.
+    void leave(std::chrono::milliseconds patience);
 
   private:
+    std::optional<pid_t> awaitEnd(std::chrono::milliseconds patience);
+
     Descriptor m_socket;
     Descriptor m_otherEnd;
     pid_t m_process = -1;
+    /// Those that are left to themselves and whose end has not been taken note of.
+    std::vector<pid_t> m_left;
 };

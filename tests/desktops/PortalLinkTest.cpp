@@ -113,6 +113,7 @@ TEST_F(PortalLinkTest, anAnswerThatNeverComesIsNotWaitedForForEver) {
     havePortal({"forgets"});
     expectFailure(open(*link(std::chrono::seconds(1))),
                   "The desktop has not answered whether Keyrill may press keys.");
+    EXPECT_TRUE(hears("given up"));
 }
 
 TEST_F(PortalLinkTest, aDesktopWithoutAPortalSaysSo) {
@@ -185,6 +186,44 @@ TEST_F(PortalLinkTest, whatIsDownAtTheEndIsReleased) {
     ASSERT_TRUE(line->synchronise());
     line.reset();
     EXPECT_TRUE(portal().heard().ends_with("key 30 1\nkey 30 0\nclosed\n")) << portal().heard();
+}
+
+/// What it does not answer in time it may have done.
+TEST_F(PortalLinkTest, whatIsDownIsReleasedThoughThePortalWasSlow) {
+    havePortal({"agrees"});
+    const auto line = link();
+    ASSERT_TRUE(open(*line));
+    line->key(keyA, true);
+    ASSERT_TRUE(line->synchronise());
+    // The next press and the first release.
+    portal().obey("deaf 2");
+    ASSERT_TRUE(hears("deaf"));
+    line->key(keyA + 1, true);
+    ASSERT_TRUE(eventually([&] { return !line->look(); }));
+    EXPECT_TRUE(hears("closed"));
+    EXPECT_TRUE(portal().heard().ends_with("key 31 1\nkey 30 0\nkey 31 0\nclosed\n")) << portal().heard();
+}
+
+TEST_F(PortalLinkTest, theUsersLayoutIsInForceAgainAtTheEnd) {
+    havePortal({"agrees", "layouts"});
+    auto line = link();
+    ASSERT_TRUE(open(*line));
+    line->leaveLayout(2);
+    ASSERT_TRUE(line->synchronise());
+    EXPECT_EQ(portal().count("layout"), 0U);
+    line.reset();
+    EXPECT_TRUE(portal().heard().ends_with("layout 2\nclosed\n")) << portal().heard();
+}
+
+TEST_F(PortalLinkTest, aLayoutThatIsInForceAgainIsLeftAlone) {
+    havePortal({"agrees", "layouts"});
+    auto line = link();
+    ASSERT_TRUE(open(*line));
+    line->leaveLayout(2);
+    line->layoutIsHome();
+    line.reset();
+    EXPECT_TRUE(hears("closed"));
+    EXPECT_EQ(portal().count("layout"), 0U);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include <ostream>
 
+#include "desktops/Woken.h"
 #include "linux/desktop/PrivateBus.h"
 
 void PrintTo(const HotKeyBinder::Event& event, std::ostream* stream) {
@@ -59,11 +60,19 @@ class PortalShortcutsTest : public testing::Test {
             m_shortcuts->grab(grab, {.id = 1, .name = isRecord ? "record" : "play", .title = "What it does"}),
             std::nullopt);
     }
-    /// The next event, as the loop of a program would find it.
+    /// The next event, as the loop of a program would find it: it looks when it is woken, and not before.
     Event next() {
-        std::optional<Event> event;
-        EXPECT_TRUE(eventually([&] { return (event = m_shortcuts->nextEvent()).has_value(); }));
+        std::optional<Event> event = m_shortcuts->nextEvent();
+        while (!event && isWoken(m_shortcuts->fileDescriptor())) event = m_shortcuts->nextEvent();
+        EXPECT_TRUE(event.has_value());
         return event.value_or(Event{});
+    }
+    /// Until the desktop has asked its user so often.
+    void awaitQuestion(std::size_t times = 1) {
+        ASSERT_TRUE(eventually([&] {
+            shortcuts().nextEvent();
+            return m_portal->count("asked") >= times;
+        }));
     }
     bool hears(const std::string& text, std::size_t times = 1) {
         return eventually([&] { return m_portal->count(text) >= times; });
@@ -224,13 +233,50 @@ TEST_F(PortalShortcutsTest, anAnswerThatComesLateCounts) {
     havePortal({"waits"});
     open();
     ask(controlR);
-    ASSERT_TRUE(eventually([&] {
-        shortcuts().nextEvent();
-        return portal().count("asked") > 0;
-    }));
+    awaitQuestion();
     EXPECT_EQ(shortcuts().nextEvent(), std::nullopt);
     portal().obey("answer");
     EXPECT_EQ(next(), granted(controlR));
+}
+
+TEST_F(PortalShortcutsTest, whatIsWishedMeanwhileIsNotRefusedWithTheRestButAskedForAfterIt) {
+    havePortal({"waits"});
+    open();
+    ask(controlR);
+    awaitQuestion();
+    ask(controlP);
+    portal().obey("refuse");
+    EXPECT_EQ(next(), refused(controlR, "you did not agree when the desktop asked"));
+    awaitQuestion(2);
+    EXPECT_EQ(portal().count("shortcut play"), 1U);
+    portal().obey("answer");
+    EXPECT_EQ(next(), granted(controlP));
+}
+
+TEST_F(PortalShortcutsTest, aQuestionForAnotherCombinationIsNotRefusedWithTheOneBefore) {
+    havePortal({"waits"});
+    open();
+    ask(controlR);
+    awaitQuestion();
+    shortcuts().release(controlR);
+    ASSERT_EQ(shortcuts().grab(controlP, {.id = 1, .name = "record"}), std::nullopt);
+    portal().obey("refuse");
+    awaitQuestion(2);
+    portal().obey("answer");
+    EXPECT_EQ(next(), granted(controlP));
+}
+
+TEST_F(PortalShortcutsTest, theLateEndOfASessionIsNotTakenForThatOfTheNext) {
+    havePortal({"agrees"});
+    open();
+    ask(controlR);
+    next();
+    ask(controlP);
+    EXPECT_EQ(next(), granted(controlP));
+    EXPECT_EQ(next(), granted(controlR));
+    portal().obey("close first");
+    portal().obey("press play");
+    EXPECT_EQ(next(), press(controlP));
 }
 
 TEST_F(PortalShortcutsTest, anAnswerThatNeverComesIsARefusalAndTheQuestionIsTakenBack) {
@@ -280,10 +326,7 @@ TEST_F(PortalShortcutsTest, oneThatDiesWhileItIsAskedIsNotAskedAtOnce) {
     havePortal({"waits"});
     open();
     ask(controlR);
-    ASSERT_TRUE(eventually([&] {
-        shortcuts().nextEvent();
-        return portal().count("asked") > 0;
-    }));
+    awaitQuestion();
     losePortal();
     EXPECT_EQ(next(), refused(controlR, "the desktop's portal has ended"));
 }

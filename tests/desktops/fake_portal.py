@@ -4,9 +4,11 @@
 "refuses", "fails", "waits" (for the command "answer") or "forgets" (the user's answer); "old" beside it is version 1,
 "shortcuts" the portal for hot keys too, which leaves "leave=NAME" out of its answer, agrees with a code of no meaning
 where it is "vague", and is deaf to whoever has not said who he is where it is "strict"; "only" leaves the portal for
-keys out. Prints "ready", then what it is told; obeys the lines that are written to the named
-pipe COMMANDS: "answer", "close" (takes the permission back), "press NAME" and "release NAME", "change NAME WORDS",
-"end"."""
+keys out; "layouts" is KDE's service for layouts beside it. Prints "ready", then what it is told; obeys the lines that are
+written to the named pipe COMMANDS: "answer" and "refuse" (what it has been asked), "close" (takes the permission back),
+"close first" (tells so of its first session), "deaf COUNT" (takes so many keys from now on without an answer, and says
+"deaf"), "press NAME" and "release NAME", "change NAME WORDS", "end"."""
+import os
 import sys
 import threading
 
@@ -45,8 +47,11 @@ XML = """<node>
   <method name="Register"><arg type="s" direction="in"/><arg type="a{sv}" direction="in"/></method>
 </interface>
 <interface name="org.freedesktop.portal.Request"><method name="Close"/></interface>
+<interface name="org.kde.KeyboardLayouts">
+  <method name="setLayout"><arg type="u" direction="in"/><arg type="b" direction="out"/></method>
+</interface>
 </node>"""
-DESKTOP, SESSION, SHORTCUTS, REGISTRY, REQUEST = Gio.DBusNodeInfo.new_for_xml(XML).interfaces
+DESKTOP, SESSION, SHORTCUTS, REGISTRY, REQUEST, LAYOUTS = Gio.DBusNodeInfo.new_for_xml(XML).interfaces
 KEYS = "org.freedesktop.portal.GlobalShortcuts"
 OBJECT = "/org/freedesktop/portal/desktop"
 how = sys.argv[3:]
@@ -55,6 +60,8 @@ waiting = []
 known = []
 objects = {}
 sessions = {}
+all_sessions = []
+deaf = 0
 
 
 def respond(connection, path, code, results):
@@ -72,7 +79,15 @@ def on_call(connection, sender, path, interface, method, parameters, invocation)
         return
     if method == "NotifyKeyboardKeycode":
         print("key", parameters[2], parameters[3], flush=True)
+        global deaf
+        if deaf > 0:
+            deaf -= 1
+            return
         invocation.return_value(None)
+        return
+    if method == "setLayout":
+        print("layout", parameters[0], flush=True)
+        invocation.return_value(GLib.Variant("(b)", (True,)))
         return
     if method == "Close":
         print("given up" if "/request/" in path else "closed", flush=True)
@@ -86,6 +101,7 @@ def on_call(connection, sender, path, interface, method, parameters, invocation)
     if method == "CreateSession":
         session = f"{OBJECT}/session/{owner}/{options['session_handle_token']}"
         sessions[interface] = session
+        all_sessions.append(session)
         objects[session] = connection.register_object(session, SESSION, on_call, None, None)
         respond(connection, request, 0, {"session_handle": GLib.Variant("s", session)})
     elif method == "SelectDevices":
@@ -143,9 +159,19 @@ def obey(connection, command):
         nothing = GLib.Variant("(a{sv})", ({},))
         for session in sessions.values():
             connection.emit_signal(None, session, "org.freedesktop.portal.Session", "Closed", nothing)
+    elif command == "close first":
+        nothing = GLib.Variant("(a{sv})", ({},))
+        connection.emit_signal(None, all_sessions[0], "org.freedesktop.portal.Session", "Closed", nothing)
     elif command == "answer":
         while waiting:
             agree(*waiting.pop())
+    elif command == "refuse":
+        while waiting:
+            respond(*waiting.pop()[:2], 1, {})
+    elif command.startswith("deaf "):
+        global deaf
+        deaf = int(command.removeprefix("deaf "))
+        print("deaf", flush=True)
     elif command.startswith(("press ", "release ")):
         verb, name = command.split()
         signal = "Activated" if verb == "press" else "Deactivated"
@@ -158,16 +184,19 @@ def obey(connection, command):
 
 
 def read_commands(connection):
-    while True:
-        with open(sys.argv[2]) as pipe:
-            for line in pipe:
-                GLib.idle_add(obey, connection, line.strip())
+    # Open for writing as well it never ends, however often writers come and go.
+    with open(os.open(sys.argv[2], os.O_RDWR), encoding="utf-8") as pipe:
+        for line in pipe:
+            GLib.idle_add(obey, connection, line.strip())
 
 
 flags = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
 bus = Gio.DBusConnection.new_for_address_sync(sys.argv[1], flags, None, None)
 for face in ([] if "only" in how else [DESKTOP]) + ([SHORTCUTS] if "shortcuts" in how else []) + [REGISTRY]:
     bus.register_object(OBJECT, face, on_call, on_get, None)
+if "layouts" in how:
+    bus.register_object("/Layouts", LAYOUTS, on_call, None, None)
+    Gio.bus_own_name_on_connection(bus, "org.kde.keyboard", Gio.BusNameOwnerFlags.NONE, None, None)
 loop = GLib.MainLoop()
 Gio.bus_own_name_on_connection(
     bus, "org.freedesktop.portal.Desktop", Gio.BusNameOwnerFlags.NONE, lambda *_: print("ready", flush=True), None)

@@ -12,10 +12,14 @@ struct PortalMessage {
         release = 3,  ///< a key goes up
         sync = 4,     ///< answered when all that was said before has reached the desktop
         rest = 5,     ///< nothing is down, and nothing will be for a while
+        leave = 6,    ///< another layout will be in force than that one, which is to be so at the end
+        home = 7,     ///< that layout is in force again
     };
     Kind kind = Kind::open;
-    /// The kernel's.
+    /// Of the key that goes down or up, the kernel's.
     std::uint16_t keycode = 0;
+    /// Of the layout that is left, from 0.
+    std::uint32_t layout = 0;
 };
 
 /// What it says, one byte each. After a failure it ends.

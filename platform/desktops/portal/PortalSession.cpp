@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "platform/Descriptor.h"
+#include "platform/desktops/portal/KdeLayoutNames.h"
 #include "platform/desktops/portal/PortalNames.h"
 
 namespace {
@@ -103,9 +104,7 @@ void PortalSession::responded(PortalRequest::End end, GVariant* results) {
 }
 
 void PortalSession::select() {
-    m_closed = g_dbus_connection_signal_subscribe(m_bus.get(), service, portalnames::session, "Closed",
-                                                  m_session.c_str(), nullptr, G_DBUS_SIGNAL_FLAGS_NONE,
-                                                  heardClosed, this, nullptr);
+    m_end.follow(m_bus.get(), m_session, [this] { lose(); });
     GVariantBuilder options = portalOptions();
     g_variant_builder_add(&options, "{sv}", "types", g_variant_new_uint32(keyboards));
     if (m_version >= withTokens && !m_options.tokenFile.empty()) {
@@ -153,17 +152,21 @@ void PortalSession::keepToken(GVariant* results) const {
     if (!isWritten || rename(draft.c_str(), m_options.tokenFile.c_str()) != 0) unlink(draft.c_str());
 }
 
-/// The portal works calls off in several threads: each waits for the one before.
 void PortalSession::key(std::uint16_t keycode, bool press) {
     if (m_state != State::open) return;
-    m_down[keycode] = press;
     const bool isLock = std::find(locks.begin(), locks.end(), keycode) != locks.end();
     if (press && isLock) m_switched.flip(keycode);
+    if (!notify(keycode, press)) fail(PortalAnswer::lost);
+}
+
+/// The portal works calls off in several threads: each waits for the one before. One that is not answered in
+/// time may be taken all the same.
+bool PortalSession::notify(std::uint16_t keycode, bool press) {
+    m_down[keycode] = press;
     GVariantBuilder options = portalOptions();
-    const bool isTaken = call(object, face, "NotifyKeyboardKeycode",
-                              g_variant_new("(oa{sv}iu)", m_session.c_str(), &options,
-                                            static_cast<std::int32_t>(keycode), press ? 1U : 0U)) != nullptr;
-    if (!isTaken) fail(PortalAnswer::lost);
+    return call(object, face, "NotifyKeyboardKeycode",
+                g_variant_new("(oa{sv}iu)", m_session.c_str(), &options, static_cast<std::int32_t>(keycode),
+                              press ? 1U : 0U)) != nullptr;
 }
 
 /// KDE's part takes what the portal passes on in the order of the bus; where another one presses keys there
@@ -177,14 +180,14 @@ void PortalSession::synchronise() {
     m_answer(PortalAnswer::synced);
 }
 
-void PortalSession::heardClosed(GDBusConnection* /*bus*/, const char* /*sender*/, const char* /*path*/,
-                                const char* /*face*/, const char* /*member*/, GVariant* /*parameters*/,
-                                void* self) {
-    static_cast<PortalSession*>(self)->fail(PortalAnswer::lost);
+void PortalSession::portalGone(GDBusConnection* /*bus*/, const char* /*name*/, void* self) {
+    static_cast<PortalSession*>(self)->lose();
 }
 
-void PortalSession::portalGone(GDBusConnection* /*bus*/, const char* /*name*/, void* self) {
-    static_cast<PortalSession*>(self)->fail(PortalAnswer::lost);
+/// The session has ended.
+void PortalSession::lose() {
+    m_session.clear();
+    fail(PortalAnswer::lost);
 }
 
 void PortalSession::fail(PortalAnswer why) {
@@ -193,19 +196,33 @@ void PortalSession::fail(PortalAnswer why) {
     m_answer(why);
 }
 
-void PortalSession::close() {
-    if (!m_bus) return;
-    m_request.stop();
+void PortalSession::putBack() {
     for (std::size_t keycode = 0; keycode < m_down.size(); ++keycode) {
-        if (m_down[keycode]) key(static_cast<std::uint16_t>(keycode), false);
+        if (m_down[keycode]) notify(static_cast<std::uint16_t>(keycode), false);
     }
     for (const std::uint16_t keycode : locks) {
         if (!m_switched[keycode]) continue;
-        key(keycode, true);
-        key(keycode, false);
+        notify(keycode, true);
+        notify(keycode, false);
     }
+}
+
+void PortalSession::putLayoutBack() {
+    const auto layout = std::exchange(m_homeLayout, std::nullopt);
+    if (!layout) return;
+    const GVariantPointer answer(
+        g_dbus_connection_call_sync(m_bus.get(), kdelayoutnames::service, kdelayoutnames::object,
+                                    kdelayoutnames::face, "setLayout", g_variant_new("(u)", *layout), nullptr,
+                                    G_DBUS_CALL_FLAGS_NO_AUTO_START, callPatience, nullptr, nullptr));
+}
+
+void PortalSession::close() {
+    if (!m_bus) return;
+    m_request.stop();
     m_state = State::closed;
-    if (m_closed != 0) g_dbus_connection_signal_unsubscribe(m_bus.get(), std::exchange(m_closed, 0));
+    if (!m_session.empty()) putBack();
+    putLayoutBack();
+    m_end.stop();
     if (m_watch != 0) g_bus_unwatch_name(std::exchange(m_watch, 0));
     if (m_session.empty()) return;
     call(std::exchange(m_session, {}).c_str(), portalnames::session, "Close", nullptr);

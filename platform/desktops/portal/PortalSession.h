@@ -5,10 +5,12 @@
 
 #include <bitset>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/desktops/portal/PortalMessage.h"
 #include "platform/desktops/portal/PortalRequest.h"
+#include "platform/desktops/portal/SessionEnd.h"
 #include "platform/linux/BusContext.h"
 
 /// A session of the portal that presses keys (org.freedesktop.portal.RemoteDesktop), on the process's session
@@ -35,14 +37,16 @@ class PortalSession {
     void synchronise();
     /// What is locked is as it was wanted: close() leaves it so.
     void keepLocks() { m_switched.reset(); }
-    /// Releases what is down, puts locks back that were switched since, and gives the permission back.
+    /// Which layout of KDE's close() puts in force; none if empty.
+    void setHomeLayout(std::optional<std::uint32_t> layout) { m_homeLayout = layout; }
+    /// Releases what is down, puts locks back that were switched since, and the layout, and gives the
+    /// permission back. Also after a failure, as long as there is a session: a desktop that was slow may have
+    /// taken all.
     void close();
 
   private:
     enum class State { closed, creating, selecting, starting, open };
 
-    static void heardClosed(GDBusConnection* bus, const char* sender, const char* path, const char* face,
-                            const char* member, GVariant* parameters, void* self);
     static void portalGone(GDBusConnection* bus, const char* name, void* self);
 
     GVariantPointer property(const char* name) const;
@@ -51,6 +55,10 @@ class PortalSession {
     void select();
     void start();
     void started(GVariant* results);
+    bool notify(std::uint16_t keycode, bool press);
+    void putBack();
+    void putLayoutBack();
+    void lose();
     void fail(PortalAnswer why);
     GVariantPointer call(const char* path, const char* face, const char* member, GVariant* parameters) const;
     std::string token() const;
@@ -63,9 +71,10 @@ class PortalSession {
     std::uint32_t m_version = 0;
     std::string m_session;
     PortalRequest m_request;
-    guint m_closed = 0;
+    SessionEnd m_end;
     guint m_watch = 0;
     std::bitset<65536> m_down;
     /// Keys of locks that have been pressed an odd number of times.
     std::bitset<65536> m_switched;
+    std::optional<std::uint32_t> m_homeLayout;
 };

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
 // keyrill-portal TOKENFILE PATIENCE REST: presses keys by the desktop's portal, for the one at the other end
-// of standard input (PortalMessage.h). It outlives that one, and releases what is down then: the desktop
-// would not. PATIENCE is for the user's answer, REST for how long the permission is kept unused; both in
-// seconds.
+// of standard input (PortalMessage.h). It outlives that one, and puts right what is left then, keys that are
+// down and a layout that is not the user's: the desktop would not. PATIENCE is for the user's answer, REST
+// for how long the permission is kept unused; both in seconds.
 #include <glib-unix.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -48,6 +48,10 @@ class Portal {
                 return m_session.key(message.keycode, false);
             case PortalMessage::Kind::sync:
                 return m_session.synchronise();
+            case PortalMessage::Kind::leave:
+                return m_session.setHomeLayout(message.layout);
+            case PortalMessage::Kind::home:
+                return m_session.setHomeLayout({});
             case PortalMessage::Kind::rest:
                 m_session.keepLocks();
                 m_timer = g_timeout_add_seconds(m_rest, hasRested, this);
