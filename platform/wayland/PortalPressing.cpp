@@ -2,6 +2,7 @@
 #include "platform/wayland/PortalPressing.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/XkbCodes.h"
 #include "platform/keymap/StateComponents.h"
@@ -112,6 +113,8 @@ Step<> PortalTyper::typePart(std::span<const char32_t> characters, const Stroke&
 void PortalKeyboard::plugIn() {
     m_state.reset(xkb_state_new(m_seat.keymap().get()));
     m_down.reset();
+    m_problem.reset();
+    m_homeLayout.reset();
     xkb_state_update_mask(m_state.get(), 0, 0, m_locks.locked(m_seat.keymap().masks()), 0, 0, m_seat.group());
 }
 
@@ -121,6 +124,8 @@ XkbComponents PortalKeyboard::components() const {
 
 void PortalKeyboard::send(std::uint8_t keycode, bool press) {
     if (!m_state || m_down[keycode] == press) return;
+    // What is pressed in another layout than is meant is not pressed at all.
+    if (press && m_problem) return;
     m_link.key(static_cast<std::uint16_t>(xkbcode::toEvdev(keycode)), press);
     m_down[keycode] = press;
     xkb_state_update_key(m_state.get(), keycode, press ? XKB_KEY_DOWN : XKB_KEY_UP);
@@ -142,20 +147,45 @@ void PortalKeyboard::lockModifiers(xkb_mod_mask_t mask, xkb_mod_mask_t values) {
 void PortalKeyboard::lockGroup(xkb_layout_index_t group) {
     if (!m_state || components().lockedLayout == group) return;
     // What was pressed before is typed in the layout that was in force.
-    if (!synchronise() || !m_layouts.setGroup(group)) return;
+    if (!passKeys()) return;
+    if (const auto set = setLayout(group); !set) {
+        m_problem = set.error();
+        return;
+    }
     const XkbComponents now = components();
     xkb_state_update_mask(m_state.get(), now.depressed, now.latched, now.locked, now.baseLayout,
                           now.latchedLayout, group);
 }
 
+/// However this process ends, the user's layout is in force again.
+Result<void> PortalKeyboard::setLayout(xkb_layout_index_t group) {
+    if (!m_layouts.canSwitch()) return m_layouts.setGroup(group);
+    if (!m_homeLayout) {
+        m_homeLayout = components().lockedLayout;
+        m_link.leaveLayout(*m_homeLayout);
+    }
+    auto set = m_layouts.setGroup(group);
+    if (set && group == *m_homeLayout) {
+        m_homeLayout.reset();
+        m_link.layoutIsHome();
+    }
+    return set;
+}
+
 Result<XkbComponents> PortalKeyboard::synchronise() {
     if (!m_state) return components();
+    if (auto passed = passKeys(); !passed) return passed.error();
+    if (m_problem) return *std::exchange(m_problem, std::nullopt);
+    return components();
+}
+
+Result<void> PortalKeyboard::passKeys() {
     const auto done = m_link.synchronise();
     if (!done) return done.error();
     // The desktop has sent them to its compositor, which takes them before it answers us.
     const auto taken = m_connection.roundTrip();
     if (!taken) return taken.error();
-    return components();
+    return {};
 }
 
 std::unique_ptr<RunKeyboard> PortalPressing::keyboard(StrokeSender& sender, RunWait& wait) {

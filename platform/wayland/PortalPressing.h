@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+
 #include "platform/desktops/Layouts.h"
 #include "platform/desktops/PortalLink.h"
 #include "platform/wayland/KdeLocks.h"
@@ -28,13 +30,16 @@ class PortalKeyboard final : public KeyOutput {
     void release(std::uint8_t keycode) override { send(keycode, false); }
     /// By strokes of the keys that lock them.
     void lockModifiers(xkb_mod_mask_t mask, xkb_mod_mask_t values) override;
-    /// One that cannot be put in force leaves the one that is.
+    /// One that cannot be put in force leaves the one that is, and nothing is pressed until synchronise(),
+    /// which says why.
     void lockGroup(xkb_layout_index_t group) override;
     void flush() override {}
     Result<XkbComponents> synchronise() override;
 
   private:
     void send(std::uint8_t keycode, bool press);
+    Result<void> passKeys();
+    Result<void> setLayout(xkb_layout_index_t group);
 
     WaylandConnection& m_connection;
     PortalLink& m_link;
@@ -43,6 +48,10 @@ class PortalKeyboard final : public KeyOutput {
     const SeatKeymap& m_seat;
     XkbStatePointer m_state;
     KeycodeSet m_down;
+    /// The user's layout, while another one is in force.
+    std::optional<xkb_layout_index_t> m_homeLayout;
+    /// Why a layout could not be put in force.
+    std::optional<Error> m_problem;
 };
 
 /// Pressing by the desktop's portal, with texts as the user's layouts have them.
