@@ -77,8 +77,11 @@ TEST_F(PortalLinkTest, keysReachThePortalInTheirOrder) {
         line->key(key, true);
         line->key(key, false);
         expected += "key " + std::to_string(key) + " 1\nkey " + std::to_string(key) + " 0\n";
+        // Many at a time, and not too many for a busy machine.
+        if (key % 10 == 9) {
+            ASSERT_TRUE(line->synchronise());
+        }
     }
-    EXPECT_TRUE(line->synchronise());
     EXPECT_TRUE(portal().heard().ends_with(expected)) << portal().heard();
 }
 
