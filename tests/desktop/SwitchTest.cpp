@@ -103,14 +103,47 @@ TEST_P(SwitchTest, isPlayedAsItWasTyped) {
     EXPECT_TRUE(eventually([this] { return desktop.keysDown().empty(); }));
 }
 
-INSTANTIATE_TEST_SUITE_P(Managers, SwitchTest,
-                         testing::Combine(testing::Values(WindowManager::openbox, WindowManager::fluxbox,
-                                                          WindowManager::xfwm4, WindowManager::jwm,
-                                                          WindowManager::icewm),
-                                          testing::Values(1, 2)),
-                         [](const auto& condition) {
-                             return nameOf(std::get<WindowManager>(condition.param)) +
-                                    (std::get<int>(condition.param) == 1 ? "ToTheNext" : "ToTheOneAfter");
-                         });
+/// What follows a switch with no more time between the keys than a recording keeps.
+class TypingAfterSwitchTest : public SwitchTest {};
+
+TEST_P(TypingAfterSwitchTest, whatIsTypedAfterASwitchArrivesInItsWindow) {
+    Terminal& first = *windows.back();
+    const auto type = [this](std::initializer_list<std::uint8_t> keys) {
+        for (const std::uint8_t key : keys) typist.tap(key);
+    };
+    useAll();
+    typist.stroke({xkey::control, xkey::super, xkey::r});
+    desktop.awaitWindow(title::overlay);
+    type({xkey::a, xkey::b});
+    switchByHand();
+    ASSERT_TRUE(eventually([this] { return isActive(expected()) && expected().hasFocus(); }));
+    type({xkey::r, xkey::s});
+    typist.stroke({xkey::control, xkey::super, xkey::s});
+    ASSERT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
+    ASSERT_EQ(first.typed(2), "ab");
+    ASSERT_EQ(expected().typed(2), "rs");
+    for (int play = 1; play <= 2 * numberOfPlays(); ++play) {
+        SCOPED_TRACE(play);
+        useAll();
+        typist.stroke({xkey::control, xkey::super, xkey::p});
+        const auto length = static_cast<std::size_t>(2 * (play + 1));
+        ASSERT_TRUE(expected().typed(length).ends_with("rs")) << expected().typed();
+        ASSERT_TRUE(first.typed(length).ends_with("ab")) << first.typed();
+        ASSERT_EQ(first.typed().size() + expected().typed().size(), 2 * length);
+    }
+}
+
+std::string nameOfSwitch(const testing::TestParamInfo<std::tuple<WindowManager, int>>& condition) {
+    return nameOf(std::get<WindowManager>(condition.param)) +
+           (std::get<int>(condition.param) == 1 ? "ToTheNext" : "ToTheOneAfter");
+}
+
+const auto managers = testing::Values(WindowManager::openbox, WindowManager::fluxbox, WindowManager::xfwm4,
+                                      WindowManager::jwm, WindowManager::icewm);
+
+INSTANTIATE_TEST_SUITE_P(Managers, SwitchTest, testing::Combine(managers, testing::Values(1, 2)),
+                         nameOfSwitch);
+INSTANTIATE_TEST_SUITE_P(Managers, TypingAfterSwitchTest, testing::Combine(managers, testing::Values(1)),
+                         nameOfSwitch);
 
 }  // namespace

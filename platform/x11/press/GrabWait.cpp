@@ -1,17 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/press/GrabWait.h"
 
+#include "platform/x11/server/Property.h"
+
 namespace x11 {
 
 namespace {
 
 constexpr std::chrono::milliseconds limit{500};
+constexpr std::chrono::milliseconds limitForHotKeys{200};
+constexpr std::chrono::milliseconds limitForFocus{100};
 constexpr std::chrono::milliseconds betweenLooks{2};
 
 }  // namespace
 
 GrabWait::GrabWait(const XConnection& connection, const Clock& clock)
-    : m_connection(connection), m_clock(clock), m_window(connection) {}
+    : m_connection(connection),
+      m_clock(clock),
+      m_window(connection),
+      m_activeWindow(connection.atom("_NET_ACTIVE_WINDOW")) {}
 
 bool GrabWait::isHeld() const {
     const auto reply = replyTo(m_connection,
@@ -21,17 +28,49 @@ bool GrabWait::isHeld() const {
     return reply && reply->status != XCB_GRAB_STATUS_NOT_VIEWABLE;
 }
 
-Step<> GrabWait::untilFree(RunWaiter& waiter) const {
+Step<bool> GrabWait::waitUntilFree(RunWaiter& waiter, std::chrono::milliseconds limit) const {
     const Clock::Time end = m_clock.now() + limit;
     while (isHeld()) {
-        if (m_clock.now() >= end) {
-            return Error{"Another program holds the keyboard, so that no keys can be pressed.",
-                         "Close the menu, the question or the screen lock that is open, and play again."};
-        }
-        auto waited = waiter.waitUntil(m_clock.now() + betweenLooks);
-        if (!waited) return waited;
+        if (m_clock.now() >= end) return false;
+        if (const auto waited = waiter.waitUntil(m_clock.now() + betweenLooks); !waited)
+            return waited.error();
+    }
+    return true;
+}
+
+Step<> GrabWait::untilFree(RunWaiter& waiter) const {
+    const auto isFree = waitUntilFree(waiter, limit);
+    if (!isFree) return isFree.error();
+    if (isFree.value()) return {};
+    return Error{"Another program holds the keyboard, so that no keys can be pressed.",
+                 "Close the menu, the question or the screen lock that is open, and play again."};
+}
+
+Step<> GrabWait::untilHotKeyIsDone(RunWaiter& waiter) const {
+    const Focus before = focus();
+    if (!isHeld()) return {};
+    const auto isFree = waitUntilFree(waiter, limitForHotKeys);
+    if (!isFree) return isFree.error();
+    const Clock::Time end = m_clock.now() + limitForFocus;
+    while (isFree.value() && !hasMovedFrom(before) && m_clock.now() < end) {
+        if (auto waited = waiter.waitUntil(m_clock.now() + betweenLooks); !waited) return waited;
     }
     return {};
+}
+
+/// Nothing if the server is gone, which the run notices itself.
+GrabWait::Focus GrabWait::focus() const {
+    const auto reply = replyTo(m_connection, xcb_get_input_focus(m_connection), xcb_get_input_focus_reply);
+    if (!reply) return {};
+    return {reply->focus,
+            Property(m_connection, m_connection.root(), m_activeWindow).number(XCB_ATOM_WINDOW)};
+}
+
+/// The window manager says so when the window has the focus, which may go another way there; not all say it.
+bool GrabWait::hasMovedFrom(const Focus& before) const {
+    const Focus now = focus();
+    return now.window != before.window && (before.active == XCB_WINDOW_NONE ||
+                                           (now.active != before.active && now.active != XCB_WINDOW_NONE));
 }
 
 }  // namespace x11

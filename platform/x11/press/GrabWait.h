@@ -17,13 +17,27 @@ class GrabWait {
 
     /// At most 0.5 s; fails with a hint if the keyboard is held even then.
     Step<> untilFree(RunWaiter& waiter) const;
+    /// The same after a stroke that may be somebody's hot key, at most 0.2 s: a window manager that switches
+    /// windows holds the keyboard meanwhile, and a menu as long as it is open, which gets the next keys.
+    /// Where it was held, at most 0.1 s more until another window has the focus, which some give only then.
+    Step<> untilHotKeyIsDone(RunWaiter& waiter) const;
 
   private:
     bool isHeld() const;
+    /// The window that has the focus, and the one that the window manager says is the active one.
+    struct Focus {
+        xcb_window_t window = XCB_WINDOW_NONE;
+        xcb_window_t active = XCB_WINDOW_NONE;
+    };
+    Focus focus() const;
+    bool hasMovedFrom(const Focus& before) const;
+    /// Whether it is free by then.
+    Step<bool> waitUntilFree(RunWaiter& waiter, std::chrono::milliseconds limit) const;
 
     const XConnection& m_connection;
     const Clock& m_clock;
     HiddenWindow m_window;
+    xcb_atom_t m_activeWindow;
 };
 
 }  // namespace x11

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/press/X11InjectionSession.h"
 
+#include <utility>
+
 #include "platform/KeyCodes.h"
 #include "platform/keymap/StrokePlan.h"
 #include "platform/run/TextPlan.h"
@@ -156,6 +158,7 @@ Step<> X11InjectionSession::prepareStroke(xkb_mod_mask_t commands) {
     }
     if (!m_tail.isContinuedBy(commands)) {
         if (auto ended = m_tailWait.endTail(); !ended) return ended;
+        if (auto done = awaitHotKeys(); !done) return done;
     }
     if (auto heeded = awaitOpenScreen(); !heeded) return heeded;
     const auto state = checkHands();
@@ -203,7 +206,14 @@ Step<> X11InjectionSession::beginTail() {
     if (!m_tail.isDown()) return {};
     if (const auto passed = m_tools.connection.synchronise(); !passed) return passed.error();
     m_tail.begin();
+    m_mayBeHotKey = true;
     return {};
+}
+
+/// What comes while somebody works off a combination of his would be his as well, or go to the window before.
+Step<> X11InjectionSession::awaitHotKeys() {
+    if (m_tail.isDown() || !std::exchange(m_mayBeHotKey, false)) return {};
+    return m_tools.grab.untilHotKeyIsDone(m_waiter);
 }
 
 /// What a stroke of a lock key has changed stays as it is now.

@@ -63,6 +63,7 @@ class X11InjectionSession final : public InjectionSession {
     /// of Control, Alt and Super.
     Step<> prepareStroke(xkb_mod_mask_t commands = 0);
     Step<> awaitOpenScreen();
+    Step<> awaitHotKeys();
     Step<> awaitGuard();
     Step<> stopProcess();
 
@@ -94,6 +95,8 @@ class X11InjectionSession final : public InjectionSession {
     bool m_hasBegun = false;
     bool m_rests = false;
     bool m_isPrepared = false;
+    /// A stroke with Control, Alt or Super has been played, and nothing since.
+    bool m_mayBeHotKey = false;
     std::optional<Halt> m_halt;
 };
 
