@@ -22,6 +22,7 @@ constexpr std::uint32_t evdevOffset = 8;
 
 struct WaylandHands::Parts {
     wl_display* display = nullptr;
+    wl_registry* registry = nullptr;
     wl_seat* seat = nullptr;
     zwp_virtual_keyboard_manager_v1* manager = nullptr;
     zwp_virtual_keyboard_v1* keyboard = nullptr;
@@ -61,7 +62,8 @@ WaylandHands::WaylandHands(const std::string& socket, const std::string& layouts
     if (m_parts->display == nullptr) throw std::runtime_error("no compositor at " + socket);
     static constexpr wl_registry_listener listener{
         .global = Parts::added, .global_remove = [](void*, wl_registry*, std::uint32_t) {}};
-    wl_registry_add_listener(wl_display_get_registry(m_parts->display), &listener, m_parts.get());
+    m_parts->registry = wl_display_get_registry(m_parts->display);
+    wl_registry_add_listener(m_parts->registry, &listener, m_parts.get());
     wl_display_roundtrip(m_parts->display);
     if (m_parts->manager == nullptr) throw std::runtime_error("the compositor has no virtual keyboards");
     const xkb_rule_names names{
@@ -77,6 +79,10 @@ WaylandHands::WaylandHands(const std::string& socket, const std::string& layouts
 }
 
 WaylandHands::~WaylandHands() {
+    zwp_virtual_keyboard_v1_destroy(m_parts->keyboard);
+    zwp_virtual_keyboard_manager_v1_destroy(m_parts->manager);
+    if (m_parts->seat != nullptr) wl_seat_destroy(m_parts->seat);
+    wl_registry_destroy(m_parts->registry);
     wl_display_disconnect(m_parts->display);
     xkb_state_unref(m_parts->state);
     xkb_keymap_unref(m_parts->keymap);

@@ -108,6 +108,8 @@ TEST_F(EventReaderTest, aKeyboardThatIsGoneIsToldAfterItsLastKeys) {
     EXPECT_EQ(m_keys, (Keys{{1, xkey::a, true}}));
 }
 
+// A sanitizer has memory of its own that nobody may read.
+#ifndef __SANITIZE_ADDRESS__
 /// How often two words stand side by side in the memory that this process can write.
 int occurrences(std::uint64_t first, std::uint64_t second) {
     std::ifstream maps("/proc/self/maps");
@@ -148,5 +150,6 @@ TEST_F(EventReaderTest, nothingOfWhatWasReadStaysInMemory) {
     EXPECT_EQ(m_keys.size(), 20U);
     EXPECT_EQ(occurrences(second, microsecond), 0);
 }
+#endif
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <memory>
 
 #include "platform/desktops/portal/PortalSession.h"
 
@@ -70,7 +71,9 @@ class Portal {
         if (answer != PortalAnswer::opened && answer != PortalAnswer::synced) g_main_loop_quit(m_loop);
     }
 
-    GMainLoop* m_loop = g_main_loop_new(nullptr, FALSE);
+    const std::unique_ptr<GMainLoop, decltype(&g_main_loop_unref)> m_owned{g_main_loop_new(nullptr, FALSE),
+                                                                           g_main_loop_unref};
+    GMainLoop* const m_loop = m_owned.get();
     unsigned m_rest;
     guint m_timer = 0;
     PortalSession m_session;

@@ -2,6 +2,7 @@
 #include "platform/x11/press/GrabWait.h"
 
 #include "platform/x11/server/Property.h"
+#include "platform/x11/server/WindowTree.h"
 
 namespace x11 {
 
@@ -58,11 +59,8 @@ Step<> GrabWait::untilHotKeyIsDone(RunWaiter& waiter) const {
     return {};
 }
 
-/// Nothing if the server is gone, which the run notices itself.
 GrabWait::Focus GrabWait::focus() const {
-    const auto reply = replyTo(m_connection, xcb_get_input_focus(m_connection), xcb_get_input_focus_reply);
-    if (!reply) return {};
-    return {reply->focus,
+    return {WindowTree(m_connection).focus(),
             Property(m_connection, m_connection.root(), m_activeWindow).number(XCB_ATOM_WINDOW)};
 }
 
