@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/Result.h"
 
@@ -38,6 +39,10 @@ struct HotKeyState {
     std::optional<Error> error = {};
     /// While changed: what is to be pressed, in the desktop's words; may be empty.
     std::string trigger = {};
+    /// While refused because another hot key of the same service has the combination: which one.
+    std::optional<HotKeyId> holder = {};
+
+    friend bool operator==(const HotKeyState&, const HotKeyState&) = default;
 };
 
 /// Global hot keys: a combination is taken from all applications and its presses and releases come here.
@@ -64,6 +69,12 @@ class HotKeys {
     /// Asks for a combination, in place of what the id had. The answer may come later, by way of the
     /// observer.
     virtual void request(const HotKeyRequest& request) = 0;
+
+    /// Asks for several, each with an id of its own, as if one after the other; where the desktop allows it,
+    /// hundreds take no longer than a few.
+    virtual void requestAll(const std::vector<HotKeyRequest>& requests) {
+        for (const HotKeyRequest& wish : requests) request(wish);
+    }
 
     /// Gives the combination of the id free; an id without one is ignored.
     virtual void withdraw(HotKeyId id) = 0;

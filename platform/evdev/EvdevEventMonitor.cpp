@@ -49,7 +49,9 @@ void EvdevEventMonitor::install(HotKeys::Handler pressed, HotKeys::Handler relea
 }
 
 void EvdevEventMonitor::observe(Observer observer) { m_parts->hotKeys().observe(std::move(observer)); }
-void EvdevEventMonitor::request(const HotKeyRequest& request) { m_parts->hotKeys().request(request); }
+void EvdevEventMonitor::requestAll(const std::vector<HotKeyRequest>& requests) {
+    m_parts->hotKeys().requestAll(requests);
+}
 void EvdevEventMonitor::withdraw(HotKeyId id) { m_parts->hotKeys().withdraw(id); }
 HotKeyState EvdevEventMonitor::state(HotKeyId id) const { return m_parts->hotKeys().state(id); }
 std::uint32_t EvdevEventMonitor::lastPressTime() const { return m_parts->deliverer().lastPressTime(); }

@@ -100,7 +100,8 @@ class EvdevEventMonitor final : public EventSource, public EventMonitor, public 
     // HotKeys
     void install(HotKeys::Handler pressed, HotKeys::Handler released) override;
     void observe(Observer observer) override;
-    void request(const HotKeyRequest& request) override;
+    void request(const HotKeyRequest& request) override { requestAll({request}); }
+    void requestAll(const std::vector<HotKeyRequest>& requests) override;
     void withdraw(HotKeyId id) override;
     HotKeyState state(HotKeyId id) const override;
     std::uint32_t lastPressTime() const override;

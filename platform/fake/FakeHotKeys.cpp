@@ -37,8 +37,10 @@ HotKeyState FakeHotKeys::answer(const HotKeyRequest& request) {
     if (!keycode::evdevFor(request.keyCode)) {
         return {HotKeyStatus::refused, Error{"No key of this keyboard is " + name + ".", "Choose another."}};
     }
-    if (holderOf(combination) != nullptr) {
-        return {HotKeyStatus::refused, Error{name + " is used for something else.", "Choose another."}};
+    if (const Row* holder = holderOf(combination)) {
+        return {.status = HotKeyStatus::refused,
+                .error = Error{name + " is used for something else.", "Choose another."},
+                .holder = holder->request.id};
     }
     if (m_foreign.contains(combination)) {
         return {HotKeyStatus::refused, Error{name + " is held by another program.", "Choose another."}};

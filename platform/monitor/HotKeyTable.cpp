@@ -24,17 +24,21 @@ std::string clauseOf(std::string sentence) {
 
 }  // namespace
 
-void HotKeyTable::request(const HotKeyRequest& request) {
-    Row& row = m_rows[request.id];
-    freeRow(row);
-    row.request = request;
-    row.waits = false;
-    row.isElsewhere = false;
-    if (request.keyCode == keycode::none) {
-        settle(row, {});
-    } else {
-        tryRow(row);
+void HotKeyTable::requestAll(const std::vector<HotKeyRequest>& requests) {
+    std::vector<Row*> wanted;
+    for (const HotKeyRequest& request : requests) {
+        Row& row = m_rows[request.id];
+        freeRow(row);
+        row.request = request;
+        row.waits = false;
+        row.isElsewhere = false;
+        if (request.keyCode == keycode::none) {
+            settle(row, {});
+        } else {
+            wanted.push_back(&row);
+        }
     }
+    tryRows(wanted);
     tryWaitingRows();
 }
 
@@ -107,13 +111,18 @@ bool HotKeyTable::isKeptWaiting() const {
 }
 
 void HotKeyTable::tryAgain() {
+    std::vector<Row*> rows;
     for (auto& [id, row] : m_rows) {
-        if (row.isElsewhere) tryRow(row);
+        if (row.isElsewhere) rows.push_back(&row);
     }
+    tryRows(rows);
+    tryWaitingRows();
 }
 
 void HotKeyTable::requestAgain() {
-    for (const auto& [id, row] : std::map(m_rows)) request(row.request);
+    std::vector<HotKeyRequest> requests;
+    for (const auto& [id, row] : m_rows) requests.push_back(row.request);
+    requestAll(requests);
 }
 
 void HotKeyTable::followKeymap() {
@@ -127,7 +136,8 @@ void HotKeyTable::followKeymap() {
     }
     // All are given free first: two may have changed places.
     for (Row* row : moved) freeRow(*row);
-    for (Row* row : moved) tryRow(*row);
+    tryRows(moved);
+    tryWaitingRows();
 }
 
 void HotKeyTable::followLocks() {
@@ -167,23 +177,45 @@ void HotKeyTable::restoreAll(std::uint8_t keycode) {
     }
 }
 
-void HotKeyTable::tryRow(Row& row) {
+void HotKeyTable::tryRows(const std::vector<Row*>& rows) {
+    std::vector<Row*> tried;
+    std::vector<KeyGrabber::Wish> wishes;
+    for (Row* row : rows) {
+        // Taken for granted until it is refused, so that the next ones do not collide with it.
+        row->grab = preparedGrab(*row);
+        if (!row->grab) continue;
+        tried.push_back(row);
+        wishes.push_back({*row->grab, row->request});
+    }
+    const std::vector<std::optional<std::string>> failures = m_grabs.grabAll(wishes);
+    for (std::size_t i = 0; i < tried.size(); ++i) conclude(*tried[i], failures[i]);
+}
+
+std::optional<KeyGrab> HotKeyTable::preparedGrab(Row& row) {
     row.grab.reset();
     row.keys.reset();
     row.waits = false;
     row.isLifted = false;
     row.isElsewhere = false;
     const Result<KeyGrab> grab = grabFor(row.request);
-    if (!grab) return refuse(row, grab.error().message, grab.error().hint);
-    if (isHeld(grab.value())) {
-        row.waits = true;
-        return refuse(row, "Keyrill uses it for something else", chooseAnother);
+    if (!grab) {
+        refuse(row, grab.error().message, grab.error().hint);
+        return std::nullopt;
     }
-    if (const auto failure = m_grabs.grab(grab.value(), row.request)) {
+    if (const auto holder = holderOf(grab.value())) {
+        row.waits = true;
+        refuse(row, "Keyrill uses it for something else", chooseAnother, holder);
+        return std::nullopt;
+    }
+    return grab.value();
+}
+
+void HotKeyTable::conclude(Row& row, const std::optional<std::string>& failure) {
+    if (failure) {
+        row.grab.reset();
         row.isElsewhere = true;
         return refuse(row, *failure, freeIt);
     }
-    row.grab = grab.value();
     if (m_grabs.isDecidedByUser()) return settle(row, {.status = HotKeyStatus::pending});
     row.keys = row.grab;
     settle(row, {.status = HotKeyStatus::registered});
@@ -200,18 +232,19 @@ void HotKeyTable::tryWaitingRows() {
     for (auto& [id, row] : m_rows) {
         if (!row.waits) continue;
         const Result<KeyGrab> grab = grabFor(row.request);
-        if (grab && !isHeld(grab.value())) tryRow(row);
+        if (grab && !holderOf(grab.value())) tryRow(row);
     }
 }
 
-void HotKeyTable::refuse(Row& row, const std::string& why, const std::string& hint) {
-    settle(row, {HotKeyStatus::refused,
-                 Error{combinationText(row.request) + " cannot be used: " + why + ".", hint}});
+void HotKeyTable::refuse(Row& row, const std::string& why, const std::string& hint,
+                         std::optional<HotKeyId> holder) {
+    settle(row, {.status = HotKeyStatus::refused,
+                 .error = Error{combinationText(row.request) + " cannot be used: " + why + ".", hint},
+                 .holder = holder});
 }
 
 void HotKeyTable::settle(Row& row, HotKeyState state) {
-    const bool changed = row.state.status != state.status || row.state.error != state.error ||
-                         row.state.trigger != state.trigger;
+    const bool changed = row.state != state;
     row.state = std::move(state);
     if (changed && m_observer) m_observer(row.request.id, row.state);
 }
@@ -229,10 +262,12 @@ Result<KeyGrab> HotKeyTable::grabFor(const HotKeyRequest& request) const {
                    .locks = static_cast<std::uint16_t>(masks.locks() | lockedLevels)};
 }
 
-bool HotKeyTable::isHeld(const KeyGrab& grab) const {
-    return std::any_of(m_rows.begin(), m_rows.end(), [&grab](const auto& entry) {
+std::optional<HotKeyId> HotKeyTable::holderOf(const KeyGrab& grab) const {
+    const auto row = std::find_if(m_rows.begin(), m_rows.end(), [&grab](const auto& entry) {
         return entry.second.grab && entry.second.grab->collidesWith(grab);
     });
+    if (row == m_rows.end()) return std::nullopt;
+    return row->first;
 }
 
 std::string HotKeyTable::combinationText(const HotKeyRequest& request) const {

@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/HotKeys.h"
 #include "platform/keymap/KeyboardState.h"
@@ -18,7 +19,8 @@ class HotKeyTable {
         : m_grabs(grabs), m_keyboard(keyboard), m_lockedHolds(lockedHolds()) {}
 
     void observe(HotKeys::Observer observer) { m_observer = std::move(observer); }
-    void request(const HotKeyRequest& request);
+    void request(const HotKeyRequest& request) { requestAll({request}); }
+    void requestAll(const std::vector<HotKeyRequest>& requests);
     void withdraw(HotKeyId id);
     HotKeyState state(HotKeyId id) const;
 
@@ -75,18 +77,24 @@ class HotKeyTable {
         bool isLifted = false;
     };
 
-    void tryRow(Row& row);
+    void tryRow(Row& row) { tryRows({&row}); }
+    /// All at once, as if one after the other.
+    void tryRows(const std::vector<Row*>& rows);
+    /// What it would be grabbed as; it is refused where that is known before.
+    std::optional<KeyGrab> preparedGrab(Row& row);
+    void conclude(Row& row, const std::optional<std::string>& failure);
     void freeRow(Row& row);
     bool liftRow(Row& row);
     void tryWaitingRows();
-    void refuse(Row& row, const std::string& why, const std::string& hint);
+    void refuse(Row& row, const std::string& why, const std::string& hint,
+                std::optional<HotKeyId> holder = std::nullopt);
     void settle(Row& row, HotKeyState state);
     /// The grab of a request, or why there can be none.
     Result<KeyGrab> grabFor(const HotKeyRequest& request) const;
     /// Those of Shift, Control, Alt and Super that are locked.
     xkb_mod_mask_t lockedHolds() const;
-    /// By one of the rows.
-    bool isHeld(const KeyGrab& grab) const;
+    /// The row that has it.
+    std::optional<HotKeyId> holderOf(const KeyGrab& grab) const;
     std::string combinationText(const HotKeyRequest& request) const;
 
     KeyGrabber& m_grabs;

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/HotKeys.h"
 #include "platform/monitor/KeyGrab.h"
@@ -26,6 +27,16 @@ class KeyGrabber {
 
     /// All variants or none. The error says why not, as the end of a sentence: "another program holds it".
     virtual std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& request) = 0;
+    /// Several, none of which collides with another: why each was not taken, in their order.
+    struct Wish {
+        KeyGrab grab;
+        const HotKeyRequest& request;
+    };
+    virtual std::vector<std::optional<std::string>> grabAll(const std::vector<Wish>& wishes) {
+        std::vector<std::optional<std::string>> failures;
+        for (const Wish& wish : wishes) failures.push_back(grab(wish.grab, wish.request));
+        return failures;
+    }
     /// Gives back what grab() took; nothing happens for a combination that is not held.
     virtual void release(const KeyGrab& grab) = 0;
     /// Whether grab() is a wish that the desktop's user decides in its settings: the answer comes later

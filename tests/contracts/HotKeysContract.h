@@ -136,10 +136,32 @@ TEST_P(HotKeysContract, theFirstOfTwoWithOneCombinationKeepsIt) {
     request(play, "play", key::p, controlSuper);
     EXPECT_EQ(status(record), HotKeyStatus::registered);
     ASSERT_EQ(status(play), HotKeyStatus::refused);
+    EXPECT_EQ(world().hotKeys().state(play).holder, record);
     press({key::control, key::super});
     tap(key::p);
     release({key::super, key::control});
     EXPECT_EQ(deliveredWithout("modifiers"), (Log{"pressed 1", "released 1"}));
+}
+
+TEST_P(HotKeysContract, severalAreAskedForAtOnceAsIfOneAfterTheOther) {
+    world().otherClientGrabs(key::b, controlSuper);
+    world().hotKeys().requestAll({{.id = 5, .name = "a", .keyCode = key::a, .modifiers = controlSuper},
+                                  {.id = 6, .name = "b", .keyCode = key::b, .modifiers = controlSuper},
+                                  {.id = 7, .name = "again", .keyCode = key::a, .modifiers = controlSuper},
+                                  {.id = 8, .name = "p", .keyCode = key::p, .modifiers = controlSuper},
+                                  {.id = 9, .name = "none", .keyCode = keycode::none}});
+    EXPECT_EQ(status(5), HotKeyStatus::registered);
+    EXPECT_EQ(status(6), HotKeyStatus::refused);
+    EXPECT_EQ(world().hotKeys().state(6).holder, std::nullopt);
+    EXPECT_EQ(status(7), HotKeyStatus::refused);
+    EXPECT_EQ(world().hotKeys().state(7).holder, 5U);
+    EXPECT_EQ(status(8), HotKeyStatus::registered);
+    EXPECT_EQ(status(9), HotKeyStatus::unset);
+    press({key::control, key::super});
+    tap(key::a);
+    tap(key::p);
+    release({key::super, key::control});
+    EXPECT_EQ(deliveredWithout("modifiers"), (Log{"pressed 5", "released 5", "pressed 8", "released 8"}));
 }
 
 TEST_P(HotKeysContract, aCombinationOfAnotherProgramIsRefusedByAnErrorThatNamesIt) {

@@ -29,30 +29,56 @@ Result<std::unique_ptr<HotKeyGrabs>> HotKeyGrabs::open(const std::string& displa
     return grabs;
 }
 
-std::optional<std::string> HotKeyGrabs::grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) {
-    std::vector<xcb_void_cookie_t> cookies;
+std::optional<std::string> HotKeyGrabs::grab(const KeyGrab& grab, const HotKeyRequest& request) {
+    return grabAll({{grab, request}}).front();
+}
+
+std::vector<std::optional<std::string>> HotKeyGrabs::grabAll(const std::vector<Wish>& wishes) {
+    std::vector<Cookies> asked;
+    for (const Wish& wish : wishes) asked.push_back(ask(wish.grab));
+    std::vector<std::optional<std::string>> failures;
+    bool isAnyRefused = false;
+    for (std::size_t i = 0; i < wishes.size(); ++i) {
+        failures.push_back(answerTo(asked[i]));
+        if (!failures.back()) continue;
+        giveBack(wishes[i].grab);
+        isAnyRefused = true;
+    }
+    if (isAnyRefused) m_connection.roundTrip();
+    return failures;
+}
+
+HotKeyGrabs::Cookies HotKeyGrabs::ask(const KeyGrab& grab) {
+    Cookies cookies;
     for (const std::uint16_t modifiers : grab.variants()) {
         m_combinations.insert({grab.keycode, modifiers});
         cookies.push_back(xcb_grab_key_checked(m_connection, 0, m_connection.root(), modifiers, grab.keycode,
                                                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
     }
+    return cookies;
+}
+
+std::optional<std::string> HotKeyGrabs::answerTo(const Cookies& cookies) const {
     std::optional<std::string> failure;
     for (const xcb_void_cookie_t cookie : cookies) {
         const auto error = refusalOf(m_connection, cookie);
         if (error && !failure) failure = reason(*error);
     }
     if (!failure && m_connection.isBroken()) failure = "the X server is gone";
-    if (failure) release(grab);
     return failure;
 }
 
 void HotKeyGrabs::release(const KeyGrab& grab) {
+    giveBack(grab);
+    m_connection.roundTrip();
+}
+
+void HotKeyGrabs::giveBack(const KeyGrab& grab) {
     for (const std::uint16_t modifiers : grab.variants()) {
         const KeyPlace place{grab.keycode, modifiers};
         m_combinations.erase(place);
         ungrab(place);
     }
-    m_connection.roundTrip();
 }
 
 void HotKeyGrabs::ungrab(const KeyPlace& place) const {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "platform/Wiping.h"
 #include "platform/monitor/KeyGrabber.h"
@@ -34,6 +35,8 @@ class HotKeyGrabs final : public KeyGrabber {
 
     // KeyGrabber
     std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& request) override;
+    /// In two round trips at most, however many they are.
+    std::vector<std::optional<std::string>> grabAll(const std::vector<Wish>& wishes) override;
     void release(const KeyGrab& grab) override;
 
     /// Ends the hold on the keyboard that lasts while a combination is held down.
@@ -64,6 +67,11 @@ class HotKeyGrabs final : public KeyGrabber {
   private:
     explicit HotKeyGrabs(XConnection connection) : m_connection(std::move(connection)) {}
 
+    using Cookies = std::vector<xcb_void_cookie_t>;
+    Cookies ask(const KeyGrab& grab);
+    std::optional<std::string> answerTo(const Cookies& cookies) const;
+    /// Without waiting until it is done.
+    void giveBack(const KeyGrab& grab);
     void shield(const KeyPlace& place);
     void ungrab(const KeyPlace& place) const;
     bool unshield(std::uint8_t keycode);

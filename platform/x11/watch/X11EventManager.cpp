@@ -45,8 +45,8 @@ void X11EventManager::install(HotKeys::Handler pressed, HotKeys::Handler release
 
 void X11EventManager::observe(Observer observer) { m_parts->hotKeys().observe(std::move(observer)); }
 
-void X11EventManager::request(const HotKeyRequest& request) {
-    m_parts->hotKeys().request(request);
+void X11EventManager::requestAll(const std::vector<HotKeyRequest>& requests) {
+    m_parts->hotKeys().requestAll(requests);
     m_parts->kick();
 }
 

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/Clock.h"
 #include "platform/EventMonitor.h"
@@ -62,7 +63,8 @@ class X11EventManager final : public EventSource, public EventMonitor, public Ho
     // HotKeys
     void install(HotKeys::Handler pressed, HotKeys::Handler released) override;
     void observe(Observer observer) override;
-    void request(const HotKeyRequest& request) override;
+    void request(const HotKeyRequest& request) override { requestAll({request}); }
+    void requestAll(const std::vector<HotKeyRequest>& requests) override;
     void withdraw(HotKeyId id) override;
     HotKeyState state(HotKeyId id) const override;
     std::uint32_t lastPressTime() const override;
