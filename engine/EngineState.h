@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/Macro.h"
+#include "engine/PlayRequest.h"
 #include "platform/Clock.h"
 #include "platform/HotKeys.h"
 
@@ -20,6 +21,8 @@ struct EngineState {
     /// A play waits for all modifier keys to be up.
     bool playPending = false;
     bool recording = false;
+    /// What the pending play plays; empty for what is the current macro by then.
+    std::optional<PlayRequest> pendingRequest;
     /// The count of the last play request. Nothing reads it: a request plays once.
     std::uint32_t pendingPlayCount = 1;
     /// The mask of the last modifier change, as delivered (platform/Modifiers.h).

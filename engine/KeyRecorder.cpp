@@ -56,9 +56,7 @@ void handleModifiersChanged(std::uint32_t modifiers) {
     EngineState& state = engineState();
     state.currentModifiers = modifiers;
     state.modifiersDown = modifiers != 0;
-    if (state.modifiersDown || !state.playPending) return;
-    state.playPending = false;
-    if (state.currentMacro) playTimes(1);
+    playPending();
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <limits>
 #include <string>
+#include <utility>
 
 #include "core/MacroManager.h"
 #include "engine/AppleScript.h"
@@ -64,11 +65,29 @@ void cancelRecording() { engineState().recordingMacro.reset(); }
 void requestPlay(std::uint32_t count) {
     EngineState& state = engineState();
     state.playPending = true;
+    state.pendingRequest.reset();
     state.pendingPlayCount = count;
     utils::PreferenceManager::clearMarks();
-    if (state.modifiersDown) return;
+    playPending();
+}
+
+void requestPlay(PlayRequest request) {
+    EngineState& state = engineState();
+    state.playPending = true;
+    state.pendingRequest = std::move(request);
+    playPending();
+}
+
+void playPending() {
+    EngineState& state = engineState();
+    if (state.modifiersDown || !state.playPending) return;
     state.playPending = false;
-    if (state.currentMacro) playTimes(1);
+    if (const auto request = std::exchange(state.pendingRequest, std::nullopt)) {
+        if (request->begins) request->begins();
+        playScript(request->script, request->options);
+    } else if (state.currentMacro) {
+        playTimes(1);
+    }
 }
 
 void promptMultiplePlay() {

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "engine/PlayRequest.h"
 #include "platform/PlayOptions.h"
 
 class Macro;
@@ -37,6 +38,12 @@ void cancelRecording();
 /// Plays the current macro once as soon as no modifier key is down; nothing without one. Requests that wait
 /// do not add up. `count` is noted and has no effect.
 void requestPlay(std::uint32_t count);
+
+/// The same with a script, which is no macro: of all requests that wait the last one counts.
+void requestPlay(PlayRequest request);
+
+/// Plays what was requested, unless a modifier key is down; nothing if nothing waits.
+void playPending();
 
 /// Asks how many times to play.
 void promptMultiplePlay();

@@ -50,6 +50,41 @@ TEST_F(RequestPlayTest, twoThatWaitPlayOnce) {
     EXPECT_EQ(runs().size(), 1U);
 }
 
+TEST_F(RequestPlayTest, aScriptWaitsForTheLastModifierAndIsPlayedAsItAsks) {
+    state().currentMacro = macroWithScript("current");
+    modifiersBecome(modifier::control);
+    int begun = 0;
+    requestPlay({.script = "beep", .options = {.times = {2}, .speed = 4}, .begins = [&] { ++begun; }});
+    EXPECT_EQ(begun, 0);
+    modifiersBecome(0);
+    EXPECT_EQ(begun, 1);
+    EXPECT_EQ(runs(), (std::vector<std::string>{"beep", "beep"}));
+    EXPECT_EQ(platform().scripting.speeds(), (std::vector<double>{4, 4}));
+    EXPECT_EQ(state().currentMacro->script(), "current");
+    requestPlay(1);
+    EXPECT_EQ(runs().back(), "current");
+}
+
+TEST_F(RequestPlayTest, ofTwoThatWaitTheLastIsPlayed) {
+    state().currentMacro = macroWithScript("current");
+    modifiersBecome(modifier::control);
+    requestPlay({.script = "script"});
+    requestPlay(1);
+    modifiersBecome(0);
+    EXPECT_EQ(runs(), std::vector<std::string>{"current"});
+    modifiersBecome(modifier::control);
+    requestPlay(1);
+    requestPlay({.script = "script"});
+    modifiersBecome(0);
+    EXPECT_EQ(runs().back(), "script");
+    EXPECT_EQ(runs().size(), 2U);
+}
+
+TEST_F(RequestPlayTest, aScriptNeedsNoCurrentMacro) {
+    requestPlay({.script = "beep"});
+    EXPECT_EQ(runs(), std::vector<std::string>{"beep"});
+}
+
 TEST_F(RequestPlayTest, playsTheMacroThatIsCurrentWhenTheModifiersAreUp) {
     state().currentMacro = macroWithScript("old");
     modifiersBecome(modifier::control);
