@@ -3,8 +3,10 @@
 
 #include <utility>
 
+#include "app/library/LibraryController.h"
 #include "app/program/LinuxServices.h"
 #include "platform/Addresses.h"
+#include "platform/HotKeyShares.h"
 #include "platform/Services.h"
 #include "platform/Session.h"
 #include "platform/linux/SteadyClock.h"
@@ -28,9 +30,10 @@ struct Backends::Parts {
     script::ScriptRunner scripting{own.keyInjector, own.scriptDesktop};
     LinuxServices neutral;
     std::function<bool()> isPlayOver;
+    HotKeyShares hotKeys{own.hotKeys};
     Services services{.clock = *clock,
                       .eventMonitor = own.eventMonitor,
-                      .hotKeys = own.hotKeys,
+                      .hotKeys = hotKeys.first(),
                       .keyboardLayout = own.keyboardLayout,
                       .keyInjector = own.keyInjector,
                       .scripting = scripting,
@@ -66,11 +69,20 @@ Backends::~Backends() = default;
 Services& Backends::services() { return m_parts->services; }
 Session& Backends::session() { return *m_parts->session; }
 script::ScriptRunner& Backends::scripting() { return m_parts->scripting; }
+LibraryServices Backends::libraryServices() {
+    return {.folderFollower = m_parts->neutral.folderFollower,
+            .macroRecords = m_parts->neutral.macroRecords,
+            .macroFiles = m_parts->neutral.macroFiles,
+            .hotKeys = m_parts->hotKeys.second(),
+            .firstHotKey = HotKeyShares::firstOfSecond,
+            .notifications = m_parts->neutral.notifications};
+}
 
 void Backends::endPlaysWhen(std::function<bool()> isOver) { m_parts->isPlayOver = std::move(isOver); }
 
 std::vector<EventSource*> Backends::eventSources() {
     std::vector<EventSource*> sources = m_parts->session->eventSources();
     sources.push_back(&m_parts->neutral.busLoop);
+    sources.push_back(&m_parts->neutral.folderFollower);
     return sources;
 }

@@ -10,6 +10,7 @@
 
 class EventSource;
 class Session;
+struct LibraryServices;
 struct Services;
 struct SessionKind;
 namespace script {
@@ -34,6 +35,7 @@ class Backends {
     Services& services();
     Session& session();
     script::ScriptRunner& scripting();
+    LibraryServices libraryServices();
 
     /// Ends each playback while that answers true, or the screen is locked; asked again and again in a run.
     void endPlaysWhen(std::function<bool()> isOver);

@@ -6,6 +6,7 @@
 
 LinuxServices::LinuxServices(const UpdateSource& updates)
     : settings(configFoldersOfProcess(), [this] { turnEnd.start(); }),
+      macroRecords(configFoldersOfProcess().user, [this] { turnEnd.start(); }),
       loginItems(configFoldersOfProcess(), programOfProcess()),
       updateService(makeUpdateService(updates)),
       macroFiles(homeOfProcess(), userDataFolder(environmentOfProcess(), homeOfProcess())),
@@ -13,5 +14,8 @@ LinuxServices::LinuxServices(const UpdateSource& updates)
       screenLock(busLoop, busAddresses(environmentOfProcess()), environmentOfProcess()("XDG_SESSION_ID")) {
     turnEnd.setSingleShot(true);
     turnEnd.setInterval(0);
-    QObject::connect(&turnEnd, &QTimer::timeout, [this] { settings.endTurn(); });
+    QObject::connect(&turnEnd, &QTimer::timeout, [this] {
+        settings.endTurn();
+        macroRecords.endTurn();
+    });
 }

@@ -9,7 +9,9 @@
 #include "platform/linux/BusLoop.h"
 #include "platform/linux/BusNotifications.h"
 #include "platform/linux/BusScreenLock.h"
+#include "platform/linux/KeyFileRecords.h"
 #include "platform/linux/KeyFileSettings.h"
+#include "platform/linux/LocalFolderFollower.h"
 #include "platform/linux/LocalMacroFiles.h"
 #include "platform/linux/MachineFacts.h"
 #include "platform/linux/UpdateCheck.h"
@@ -23,11 +25,13 @@ struct LinuxServices {
 
     QTimer turnEnd;
     KeyFileSettings settings;
+    KeyFileRecords macroRecords;
     AutostartEntry loginItems;
     XdgWorkspace workspace;
     MachineFacts systemFacts;
     std::unique_ptr<UpdateService> updateService;
     LocalMacroFiles macroFiles;
+    LocalFolderFollower folderFollower;
     BusLoop busLoop;
     BusNotifications notifications;
     BusScreenLock screenLock;

@@ -30,12 +30,17 @@ Program::Program(Backends& backends)
       m_dialogs(focusOf(backends.session().sessionServices().windows)),
       m_controller(backends.services(), backends.session().sessionServices().windows, m_statusItem,
                    m_dialogs),
+      m_library(backends.libraryServices()),
       m_signals(interruptRun, &backends.session()) {
     backends.scripting().askThrough(m_controller.scriptDialogs());
     QApplication::setApplicationName(QStringLiteral("keyrill"));
     QApplication::setDesktopFileName(QStringLiteral("example.orlen.Keyrill"));
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_signals, &TerminationSignals::received, &m_controller, &AppController::kill);
+    QObject::connect(&m_controller, &AppController::started, &m_library, &LibraryController::start);
+    // Not while shortcuts are being registered.
+    QObject::connect(&m_controller, &AppController::hotKeysChanged, &m_library,
+                     &LibraryController::followShortcuts, Qt::QueuedConnection);
     for (EventSource* source : backends.eventSources()) serve(*source);
     QTimer::singleShot(0, &m_controller, &AppController::awakeFromNib);
 }

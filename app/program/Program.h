@@ -8,6 +8,7 @@
 
 #include "app/controller/AppController.h"
 #include "app/dialogs/QtDialogs.h"
+#include "app/library/LibraryController.h"
 #include "app/program/TerminationSignals.h"
 #include "app/tray/TrayStatusItem.h"
 
@@ -24,6 +25,7 @@ class Program {
     Program& operator=(const Program&) = delete;
 
     AppController& controller() { return m_controller; }
+    LibraryController& library() { return m_library; }
 
     /// Takes what other starts hand over, and does what is asked from outside. Outlives the program.
     void follow(ProgramInstance& instance);
@@ -37,6 +39,7 @@ class Program {
     TrayStatusItem m_statusItem;
     QtDialogs m_dialogs;
     AppController m_controller;
+    LibraryController m_library;
     TerminationSignals m_signals;
     std::vector<std::unique_ptr<QSocketNotifier>> m_readable;
 };

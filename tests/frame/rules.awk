@@ -69,8 +69,9 @@ BEGIN {
     app("tray", "app/icons app/widgets platform")
     app("controller", "app/dialogs app/overlay app/panels app/shortcuts app/tray app/widgets" \
                       " engine prefs core platform")
-    # Joins the controller with services and event loop; programs are made of it.
-    app("program", "app/check app/controller app/dialogs app/tray platform platform/linux platform/script/run" \
+    app("library", "library engine prefs core platform")
+    # Joins the controllers with services and event loop; programs are made of it.
+    app("program", "app/check app/controller app/dialogs app/library app/tray platform platform/linux platform/script/run" \
                    " platform/sessions")
     app("demonstration", "app/program engine core")
     app("gallery", "app/program app/controller app/dialogs app/icons app/overlay app/panels app/shortcuts" \

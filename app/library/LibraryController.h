@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <string>
+
+#include "library/LibraryHotKeys.h"
+#include "library/MacroLibrary.h"
+#include "platform/PlayOptions.h"
+
+class FolderFollower;
+class HotKeys;
+class MacroFiles;
+class Notifications;
+class RecordStore;
+
+/// What the library needs of the desktop. All outlive the controller.
+struct LibraryServices {
+    FolderFollower& folderFollower;
+    RecordStore& macroRecords;
+    MacroFiles& macroFiles;
+    /// For macros alone: install() and observe() are the library's.
+    HotKeys& hotKeys;
+    /// The ids are from here on.
+    HotKeyId firstHotKey = 1;
+    Notifications& notifications;
+};
+
+/// The macros of the macro folder and their hot keys: joins the library with the engine and the desktop.
+///
+/// A macro that is played by its hot key does not become the current macro: Play plays what it played before.
+class LibraryController : public QObject, private LibraryListener {
+    Q_OBJECT
+
+  public:
+    explicit LibraryController(const LibraryServices& services);
+    ~LibraryController() override;
+
+    MacroLibrary& library() { return m_library; }
+    LibraryHotKeys& hotKeys() { return m_hotKeys; }
+
+    /// Reads what macros are there, and then registers their hot keys. Returns at once.
+    void start();
+    /// The combinations of the shortcuts may have become others.
+    void followShortcuts() { m_hotKeys.followShortcuts(); }
+
+    /// Plays a macro as soon as no modifier key is down, as its settings say. That it cannot be read is told.
+    void play(const std::string& path);
+
+  signals:
+    /// LibraryHotKeys::state() of the macro of that path (bytes) may have become another.
+    void hotKeyChanged(const QByteArray& path);
+
+  private:
+    void libraryChanged(const LibraryChanges& changes) override;
+    void post(const QString& title, const Error& error);
+
+    Notifications& m_notifications;
+    MacroLibrary m_library;
+    LibraryHotKeys m_hotKeys;
+};
