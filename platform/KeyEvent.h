@@ -16,6 +16,13 @@ struct KeyEvent {
     char character = 0;
     /// The mask in force after the event (platform/Modifiers.h).
     std::uint32_t modifiers = 0;
+    /// When it happened, in milliseconds by a clock of the desktop's own that wraps around after 49 days:
+    /// only the time from one event to another means anything.
+    std::uint32_t time = 0;
 
-    friend bool operator==(const KeyEvent&, const KeyEvent&) = default;
+    /// Whether they say the same of the keyboard, whenever that was.
+    friend bool operator==(const KeyEvent& a, const KeyEvent& b) {
+        return a.kind == b.kind && a.keyCode == b.keyCode && a.character == b.character &&
+               a.modifiers == b.modifiers;
+    }
 };

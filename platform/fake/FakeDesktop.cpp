@@ -32,6 +32,11 @@ void FakeDesktop::turnLoop() {
     }
 }
 
+std::uint32_t FakeDesktop::eventTime() const {
+    const auto now = m_clock.now().time_since_epoch();
+    return static_cast<std::uint32_t>(std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
+}
+
 void FakeDesktop::startPlayback() {
     m_cancelled = false;
     if (m_escapeDownSince) m_escapeDownSince = m_clock.now();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <optional>
@@ -37,6 +38,9 @@ class FakeDesktop {
         FakeDesktop& m_desktop;
     };
     bool isRunning() const { return m_runs > 0; }
+
+    /// Of the events of now, as their time stamp.
+    std::uint32_t eventTime() const;
 
     void setWithheld(bool withheld) { m_withheld = withheld; }
     bool isWithheld() const { return m_withheld; }

@@ -37,6 +37,7 @@ void FakeEventMonitor::followHold() {
 void FakeEventMonitor::reportKeyPress(KeyEvent event, std::uint32_t shape) {
     if (m_desktop.isScreenLocked() || m_held) return;
     event.modifiers = shape;
+    event.time = m_desktop.eventTime();
     m_desktop.post([this, event, held = m_heldModifiers] {
         if (m_desktop.isWithheld()) return;
         if (event.modifiers != held) deliverModifiers(event.modifiers);

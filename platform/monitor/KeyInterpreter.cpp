@@ -22,6 +22,7 @@ bool isPress(const Delivery& delivery) {
 }  // namespace
 
 void KeyInterpreter::key(const RawKey& key, const KeyOrigin& origin) {
+    m_time = key.time;
     // Also where the key is up for the applications already, as after a release by another keyboard.
     if (!origin.own) watchEscape(key);
     // What the user holds stays held for the macro being recorded, though the run puts it out.
@@ -96,17 +97,20 @@ void KeyInterpreter::release(const RawKey& key, const DownKey& held) {
     } else if (held.hotKey) {
         if (held.hotKeyReported) m_deliveries.emplace_back(HotKeyEvent{*held.hotKey, false, key.time});
     } else if (held.reportedCode) {
-        m_deliveries.emplace_back(KeyEvent{KeyEventKind::keyUp, *held.reportedCode, 0, m_reportedMask});
+        m_deliveries.emplace_back(
+            KeyEvent{KeyEventKind::keyUp, *held.reportedCode, 0, m_reportedMask, m_time});
     }
 }
 
 void KeyInterpreter::repeat(std::uint8_t keycode, ServerTime time) {
+    m_time = time;
     if (m_held.mayRepeat(keycode, time)) reportRepeat(*m_held.find(keycode), keycode);
 }
 
 void KeyInterpreter::repeatByKeyboard(const RawKey& key) {
     DownKey* held = m_held.find(key.keycode);
     if (held == nullptr) return;
+    m_time = key.time;
     held->pressTime = key.time;
     reportRepeat(*held, key.keycode);
 }
@@ -165,14 +169,14 @@ void KeyInterpreter::watchEscape(const RawKey& key) {
 
 void KeyInterpreter::reportPress(KeyEventKind kind, const TypedKey& typed) {
     reportModifiers(typed.modifiers);
-    m_deliveries.emplace_back(KeyEvent{kind, typed.keyCode, typed.character, typed.modifiers});
+    m_deliveries.emplace_back(KeyEvent{kind, typed.keyCode, typed.character, typed.modifiers, m_time});
     reportModifiers(heldMask());
 }
 
 void KeyInterpreter::reportModifiers(std::uint32_t mask) {
     if (mask == m_reportedMask) return;
     m_reportedMask = mask;
-    m_deliveries.emplace_back(KeyEvent{KeyEventKind::modifiersChanged, 0, 0, mask});
+    m_deliveries.emplace_back(KeyEvent{KeyEventKind::modifiersChanged, 0, 0, mask, m_time});
 }
 
 std::uint32_t KeyInterpreter::heldMask() const { return m_keyboard.keymap().reported(m_held.modifiers()); }

@@ -98,6 +98,8 @@ class KeyInterpreter {
     DownKeys m_held;
     WipedQueue<Delivery> m_deliveries;
     std::uint32_t m_reportedMask = 0;
+    /// Of the event that is being told.
+    ServerTime m_time = 0;
     bool m_muted = false;
     bool m_keepsOwn = false;
     bool m_isRecording = false;
