@@ -14,6 +14,9 @@
 /// A loaded macro has a script text and no actions. Rendering an empty action pointer ends the process.
 class Macro {
   public:
+    /// What script() waits after each action, in seconds.
+    static constexpr double pauseAfterAction = 0.01;
+
     Macro() = default;
     Macro(const Macro&) = delete;
     Macro& operator=(const Macro&) = delete;

@@ -9,8 +9,10 @@
 
 #include "core/Macro.h"
 #include "engine/PlayRequest.h"
+#include "engine/RecordedPauses.h"
 #include "platform/Clock.h"
 #include "platform/HotKeys.h"
+#include "prefs/PauseChoice.h"
 
 /// What hot keys, commands and recorder share. Main thread only.
 struct EngineState {
@@ -31,6 +33,10 @@ struct EngineState {
     std::optional<Clock::Time> lastEventTime;
     /// Empty while nothing is recorded, and in a recording that was cancelled at its start.
     boost::shared_ptr<Macro> recordingMacro;
+    /// Which pauses recordings keep.
+    PauseChoice pauseChoice;
+    /// Of the recording in progress.
+    RecordedPauses recordedPauses;
     /// How the user knows the hot keys, by their ids, for a desktop that shows them to him; may be empty.
     std::map<HotKeyId, std::string> hotKeyTitles;
     /// What play commands play; also set from the history and from macro files.

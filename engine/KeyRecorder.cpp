@@ -41,6 +41,13 @@ void append(const boost::shared_ptr<Action>& action) {
     restartLastEventTime();
 }
 
+/// The one that the user has asked to have kept, if any.
+void addPauseBefore(const KeyEvent& event) {
+    EngineState& state = engineState();
+    const auto pause = state.recordedPauses.before(event.time, state.pauseChoice);
+    if (pause) state.recordingMacro->addAction(createDelay(*pause));
+}
+
 void handleKeyPress(const KeyEvent& event) {
     // The name is asked for also when nothing is recorded.
     const std::string name = shownName(event);
@@ -49,6 +56,7 @@ void handleKeyPress(const KeyEvent& event) {
     const auto action = createKeyCode(event.keyCode, name, event.character);
     // Not the event's own mask: what counts is what the last modifier change said.
     action->setModifiers(state.currentModifiers);
+    addPauseBefore(event);
     append(action);
 }
 
@@ -83,7 +91,9 @@ void handleKeyEvent(const KeyEvent& event) {
 void saveDelayToNow() {
     const auto& last = engineState().lastEventTime;
     if (!last) return;
-    append(createDelay(Clock::Seconds(services().clock.now() - *last).count()));
+    const double seconds = Clock::Seconds(services().clock.now() - *last).count();
+    engineState().recordedPauses.addByHand(seconds);
+    append(createDelay(seconds));
 }
 
 void restartLastEventTime() { engineState().lastEventTime = services().clock.now(); }

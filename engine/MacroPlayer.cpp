@@ -44,6 +44,7 @@ void toggleRecording() {
     }
     state.recording = true;
     state.recordingMacro = MacroManager::createMacro();
+    state.recordedPauses = {};
     services().eventMonitor.setRecording(true);
     if (SharedController* controller = sharedController()) controller->showRecordingGui();
     utils::PreferenceManager::clearMarks();

@@ -52,4 +52,5 @@ void storePreferences(SettingsStore& store, const PreferenceValues& values) {
         store.setInteger(name + "Flags", values.shortcuts[i].flags);
     }
     for (const ToggleValue& toggle : values.toggles) store.setBool(toggle.key, toggle.on);
+    storePauseChoice(store, values.pauses);
 }

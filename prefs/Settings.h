@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "prefs/KeyCombo.h"
+#include "prefs/PauseChoice.h"
 #include "prefs/Shortcuts.h"
 
 class SettingsStore;
@@ -27,6 +28,7 @@ struct PreferenceValues {
     std::array<KeyCombo, shortcutRows.size()> shortcuts;
     /// In the order in which they are stored. What is stored of others stays.
     std::vector<ToggleValue> toggles;
+    PauseChoice pauses;
 };
 
 /// A mask of `controlflag` bits as `modifier` bits (platform/Modifiers.h); other bits are dropped.

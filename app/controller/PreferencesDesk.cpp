@@ -55,6 +55,8 @@ void PreferencesDesk::load() {
         const ToggleRow& row = toggleRows[i];
         model.toggles[i].setOn(isStoredOn(m_store, row.key, row.initiallyOn));
     }
+    model.pauses.setChoice(storedPauseChoice(m_store));
+    engineState().pauseChoice = model.pauses.choice();
 }
 
 PreferenceValues PreferencesDesk::values() const {
@@ -66,6 +68,7 @@ PreferenceValues PreferencesDesk::values() const {
         if (&toggle == &model.checkForUpdatesOnLaunch && !model.offersUpdateCheck) continue;
         values.toggles.push_back({toggleRows[i].key, toggle.isOn()});
     }
+    values.pauses = model.pauses.choice();
     return values;
 }
 
@@ -73,6 +76,7 @@ void PreferencesDesk::save() {
     const PreferenceValues saved = values();
     keepHotKeys(saved);
     storePreferences(m_store, saved);
+    engineState().pauseChoice = saved.pauses;
     installLoginItem(model.launchOnLogin.isOn());
     const Result<> synchronized = m_store.synchronize();
     if (!synchronized) tellSaveFailure(alerts::settingsNotSaved(synchronized.error()));

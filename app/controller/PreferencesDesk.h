@@ -32,9 +32,9 @@ class PreferencesDesk : public QObject {
 
     /// Takes what is stored into the preference table and the model.
     void load();
-    /// Stores the model, follows it with the login item, registers the hot keys. Why something could not be
-    /// saved is told after the current event, one cause after the other, the same only once each time that
-    /// the panel is opened.
+    /// Stores the model, follows it with what recordings keep and the login item, registers the hot keys. Why
+    /// something could not be saved is told after the current event, one cause after the other, the same only
+    /// once each time that the panel is opened.
     void save();
     void installLoginItem(bool enable);
 

@@ -41,6 +41,8 @@ void takePreferences(Camera& camera) {
     model.launchOnLogin.setOn(true);
     PreferencesPanel panel(model);
     camera.take(panel, QStringLiteral("preferences"));
+    model.pauses.setChoice({.kind = PauseRecording::atMost, .limit = 2500});
+    camera.takeShown({&panel}, QStringLiteral("preferences-pauses"));
     model.play.setNotice(QString::fromStdString(refusedHotKey().error->message));
     model.multiplePlay.setKeyCombo({});
     camera.takeShown({&panel}, QStringLiteral("preferences-notice"));

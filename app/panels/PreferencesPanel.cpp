@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/panels/PauseRow.h"
 #include "app/shortcuts/PreferencesModel.h"
 #include "app/shortcuts/SRRecorderControl.h"
 #include "app/shortcuts/ShortcutTitles.h"
@@ -79,6 +80,7 @@ void PreferencesPanel::addShortcut(QFormLayout& form, ShortcutModel& shortcut, c
 
 QLayout* PreferencesPanel::makeOptions(PreferencesModel& model) {
     auto* layout = new QVBoxLayout;
+    layout->addWidget(new PauseRow(model.pauses));
     for (std::size_t i = 0; i < model.toggles.size(); ++i) {
         if (i != updateToggle) layout->addWidget(makeCheckBox(model, i));
     }

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "app/shortcuts/PauseModel.h"
 #include "app/shortcuts/ShortcutModel.h"
 #include "app/shortcuts/ToggleModel.h"
 #include "app/shortcuts/Toggles.h"
@@ -16,6 +17,7 @@ struct PreferencesModel {
     std::array<ShortcutModel, shortcutRows.size()> shortcuts;
     /// In the order of toggleRows.
     std::array<ToggleModel, toggleRows.size()> toggles;
+    PauseModel pauses;
 
     // Those that are spoken of by name.
     ShortcutModel& record = shortcuts[shortcutIndex("record")];

@@ -103,6 +103,8 @@ TEST_F(AccessibilityTest, tellsAndSetsThePreferences) {
     openPreferences();
     expectNamed(8);
     EXPECT_EQ(descriptionOf("Stop Recording"), "Ctrl+Super+S");
+    EXPECT_TRUE(tells("combo box", "Record pauses"));
+    EXPECT_TRUE(tells("spin button", "Longest pause in seconds"));
     press("Start Keyrill when I log in");
     press("Stop Recording");
     ASSERT_TRUE(eventually([this] { return desktop.screen().isKeyboardGrabbed(); }));

@@ -148,6 +148,27 @@ TEST_F(PreferencesTest, aCombinationIsTakenFromTheShortcutThatHadIt) {
     EXPECT_FALSE(desktop.shows(title::overlay));
 }
 
+TEST_F(PreferencesTest, thePausesThatAreRecordedAreChosenByTheKeyboardAlone) {
+    start();
+    openPreferences();
+    press("alt+a");
+    press("End");
+    press("Tab");
+    press("ctrl+a");
+    desktop.run({"xdotool", "type", "2.5"});
+    close(title::preferences);
+    EXPECT_TRUE(isStored("recordPausesLimit", "2500"));
+    EXPECT_EQ(settings()["recordPauses"], "2");
+
+    restart();
+    openPreferences();
+    press("alt+a");
+    press("Home");
+    close(title::preferences);
+    EXPECT_TRUE(isStored("recordPauses", "0"));
+    EXPECT_EQ(settings()["recordPausesLimit"], "2500");
+}
+
 TEST_F(PreferencesTest, whileTheyAreOpenHotKeysDoNothing) {
     const Terminal terminal(desktop.display());
     start();

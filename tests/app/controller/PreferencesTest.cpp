@@ -90,6 +90,24 @@ TEST_F(PreferencesTest, registersNothingAndTouchesNoLoginItemAtStartUp) {
     EXPECT_EQ(platform().loginItems.installs(), 0);
 }
 
+TEST_F(PreferencesTest, recordsThePausesThatAreStored) {
+    controller.syncPreferencesDefaults();
+    EXPECT_EQ(state().pauseChoice.kind, PauseRecording::never);
+    platform().settings.put("recordPauses", 2);
+    platform().settings.put("recordPausesLimit", 700);
+    controller.syncPreferencesDefaults();
+    EXPECT_EQ(state().pauseChoice, (PauseChoice{.kind = PauseRecording::atMost, .limit = 700}));
+    EXPECT_EQ(controller.preferences.pauses.choice(), state().pauseChoice);
+}
+
+TEST_F(PreferencesTest, recordsThePausesThatAreChosenOnceThePanelHasClosed) {
+    controller.preferences.pauses.setKind(PauseRecording::asTyped);
+    EXPECT_EQ(state().pauseChoice.kind, PauseRecording::never);
+    controller.savePreferences(nullptr);
+    EXPECT_EQ(state().pauseChoice.kind, PauseRecording::asTyped);
+    EXPECT_EQ(stored("recordPauses"), 1);
+}
+
 // Saving
 
 class SaveOrderTest : public EngineTest {};
@@ -115,6 +133,8 @@ TEST_F(SaveOrderTest, writesInThisOrder) {
         if (key == "checkForUpdatesOnLaunch" && !features::updateCheck) continue;
         expected.note("write", key, on);
     }
+    expected.note("write", "recordPauses", 0);
+    expected.note("write", "recordPausesLimit", 1000);
     expected.note("installLoginItem", true);
     expected.note("synchronize");
     for (const ShortcutRow& row : shortcutRows) {

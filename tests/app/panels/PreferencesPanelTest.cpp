@@ -2,7 +2,9 @@
 #include "app/panels/PreferencesPanel.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QCoreApplication>
+#include <QDoubleSpinBox>
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -68,7 +70,8 @@ TEST_F(PreferencesPanelTest, labelsEachFieldWithAMnemonicOfItsOwn) {
         if (mark >= 0) mnemonics.insert(button->text().at(mark + 1).toLower());
     }
     EXPECT_EQ(fields, shortcutRows.size());
-    EXPECT_EQ(mnemonics.size(), shortcutRows.size() + toggleRows.size() + 2) << "fields, boxes, two buttons";
+    EXPECT_EQ(mnemonics.size(), shortcutRows.size() + toggleRows.size() + 3)
+        << "fields, boxes, the pauses, two buttons";
 }
 
 TEST_F(PreferencesPanelTest, keepsItsWidthWhenNoticesCome) {
@@ -90,6 +93,31 @@ TEST_F(PreferencesPanelTest, showsAndSetsTheOptions) {
     EXPECT_FALSE(model.launchOnLogin.isOn());
     box("Check for updates when Keyrill starts").click();
     EXPECT_TRUE(model.checkForUpdatesOnLaunch.isOn());
+}
+
+TEST_F(PreferencesPanelTest, showsAndSetsWhichPausesAreRecorded) {
+    auto& choice = *panel.findChild<QComboBox*>();
+    auto& limit = *panel.findChild<QDoubleSpinBox*>();
+    EXPECT_EQ(choice.currentText().toStdString(), "Never");
+    EXPECT_FALSE(limit.isEnabled());
+    choice.setCurrentIndex(choice.findText(QStringLiteral("At most")));
+    EXPECT_TRUE(limit.isEnabled());
+    limit.setValue(2.5);
+    EXPECT_EQ(model.pauses.choice(), (PauseChoice{.kind = PauseRecording::atMost, .limit = 2500}));
+    choice.setCurrentIndex(choice.findText(QStringLiteral("As typed")));
+    EXPECT_FALSE(limit.isEnabled());
+    EXPECT_EQ(model.pauses.choice(), (PauseChoice{.kind = PauseRecording::asTyped, .limit = 2500}));
+}
+
+TEST_F(PreferencesPanelTest, followsTheChoiceOfPauses) {
+    model.pauses.setChoice({.kind = PauseRecording::atMost, .limit = 60000});
+    EXPECT_EQ(panel.findChild<QComboBox*>()->currentText().toStdString(), "At most");
+    EXPECT_EQ(panel.findChild<QDoubleSpinBox*>()->value(), 60.0);
+    model.pauses.setChoice({.kind = PauseRecording::never, .limit = 1234});
+    EXPECT_EQ(model.pauses.choice().limit, 1234);
+    model.pauses.setChoice({});
+    EXPECT_EQ(panel.findChild<QComboBox*>()->currentText().toStdString(), "Never");
+    EXPECT_EQ(panel.findChild<QDoubleSpinBox*>()->value(), 1.0);
 }
 
 TEST_F(PreferencesPanelTest, showsNoticesBelowTheirFields) {
@@ -133,6 +161,7 @@ TEST_F(PreferencesPanelTest, leadsTheFocusThroughAllControlsInTheirOrder) {
     }
     QStringList expected;
     for (std::size_t i = 0; i < shortcutRows.size(); ++i) expected.append(shortcutTitles(i).command);
+    expected.append({QStringLiteral("Record pauses"), QStringLiteral("Longest pause in seconds")});
     for (const ToggleRow& row : toggleRows) {
         if (&row != &toggleRows[toggleIndex("checkForUpdatesOnLaunch")])
             expected.append(QString::fromLatin1(row.title).remove(u'&'));
