@@ -4,8 +4,9 @@
 #include <cstdint>
 #include <string>
 
-/// One step of a macro: a key press or a pause. It renders itself as a line of script and as a short text for
-/// menus and the recording overlay; rendering never fails and never depends on the locale.
+/// One step of a macro: a key press, a pause, or the beginning or end of a modifier's hold. It renders itself
+/// as a line of script and as a short text for menus and the recording overlay; rendering never fails and
+/// never depends on the locale.
 ///
 /// Held by boost::shared_ptr. Immutable but for the modifiers, which are set once, right after creation.
 class Action {

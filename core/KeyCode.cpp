@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "core/ModifierNames.h"
 #include "core/createShared.h"
 #include "platform/Modifiers.h"
 
@@ -11,20 +12,6 @@ namespace actionpack {
 namespace {
 
 bool isUpperCaseLetter(char character) { return character >= 'A' && character <= 'Z'; }
-
-/// What a modifier is called in each rendering, in the order in which both write them.
-struct Rendering {
-    std::uint32_t modifier;
-    const char* word;
-    const char* symbol;
-};
-
-constexpr Rendering renderings[] = {
-    {modifier::command, "command down", "⌘"},
-    {modifier::shift, "shift down", "⇧"},
-    {modifier::option, "option down", "⌥"},
-    {modifier::control, "control down", "⌃"},
-};
 
 std::uint32_t scriptModifiers(std::uint32_t modifiers, char character) {
     const bool capsLockShifts = (modifiers & modifier::capsLock) != 0 && isUpperCaseLetter(character);
@@ -35,12 +22,13 @@ std::uint32_t displayModifiers(std::uint32_t modifiers, char character) {
     return isUpperCaseLetter(character) ? modifiers & ~modifier::shift : modifiers;
 }
 
-std::string joined(std::uint32_t modifiers, const char* Rendering::*text, std::string_view separator) {
+std::string joined(std::uint32_t modifiers, const char* ModifierName::*text, const char* suffix,
+                   std::string_view separator) {
     std::string result;
-    for (const Rendering& rendering : renderings) {
-        if ((modifiers & rendering.modifier) == 0) continue;
+    for (const ModifierName& name : modifierNames) {
+        if ((modifiers & name.modifier) == 0) continue;
         if (!result.empty()) result += separator;
-        result += rendering.*text;
+        (result += name.*text) += suffix;
     }
     return result;
 }
@@ -52,11 +40,12 @@ KeyCode::KeyCode(std::uint32_t keyCode, std::string keyName, char character)
 
 std::string KeyCode::scriptLine() const {
     return "\tkey code (" + std::to_string(m_keyCode) + ") using {" +
-           joined(scriptModifiers(modifiers(), m_character), &Rendering::word, ", ") + "}\n";
+           joined(scriptModifiers(modifiers(), m_character), &ModifierName::word, " down", ", ") + "}\n";
 }
 
 std::string KeyCode::displayText() const {
-    const std::string symbols = joined(displayModifiers(modifiers(), m_character), &Rendering::symbol, "+");
+    const std::string symbols =
+        joined(displayModifiers(modifiers(), m_character), &ModifierName::symbol, "", "+");
     return symbols.empty() ? m_keyName : "<" + symbols + "+" + m_keyName + ">";
 }
 

@@ -6,6 +6,12 @@ std::string Macro::script() const {
     return m_script;
 }
 
+void Macro::insertAction(std::size_t index, const boost::shared_ptr<Action>& action) {
+    m_actions.insert(m_actions.begin() + static_cast<std::ptrdiff_t>(index), action);
+    m_fullText = {};
+    m_renderedActions = 0;
+}
+
 std::string Macro::displayText() const {
     constexpr std::size_t edge = 10;
     const std::size_t count = m_actions.size();

@@ -31,6 +31,12 @@ class Macro {
     /// Appends at the end, without a limit and without rendering anything.
     void addAction(const boost::shared_ptr<Action>& action) { m_actions.push_back(action); }
 
+    std::size_t actionCount() const { return m_actions.size(); }
+
+    /// Puts it in before the action of that index, from 0 to actionCount(). Costs as much as all that
+    /// follows, and the next fullDisplayText() as much as all.
+    void insertAction(std::size_t index, const boost::shared_ptr<Action>& action);
+
     /// Takes the text as it stands for the script; an empty one makes the next script() build it afresh.
     void setScript(const std::string& script) { m_script = script; }
 

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/Macro.h"
+#include "engine/ModifierHolds.h"
 #include "engine/PlayRequest.h"
 #include "engine/RecordedPauses.h"
 #include "platform/Clock.h"
@@ -33,10 +34,13 @@ struct EngineState {
     std::optional<Clock::Time> lastEventTime;
     /// Empty while nothing is recorded, and in a recording that was cancelled at its start.
     boost::shared_ptr<Macro> recordingMacro;
+    /// Whether recordings keep taps of modifier keys alone, and their holds over several keys.
+    bool recordsModifierKeys = false;
     /// Which pauses recordings keep.
     PauseChoice pauseChoice;
     /// Of the recording in progress.
     RecordedPauses recordedPauses;
+    ModifierHolds modifierHolds;
     /// How the user knows the hot keys, by their ids, for a desktop that shows them to him; may be empty.
     std::map<HotKeyId, std::string> hotKeyTitles;
     /// What play commands play; also set from the history and from macro files.

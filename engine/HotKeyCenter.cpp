@@ -74,6 +74,9 @@ void registerHotKeys() {
     }
 }
 
-void onHotKeyPressed(HotKeyId id) { dispatch(id, &HotKeyRow::pressed); }
+void onHotKeyPressed(HotKeyId id) {
+    engineState().modifierHolds.addOther();
+    dispatch(id, &HotKeyRow::pressed);
+}
 
 void onHotKeyReleased(HotKeyId id) { dispatch(id, &HotKeyRow::released); }

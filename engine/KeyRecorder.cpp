@@ -2,9 +2,11 @@
 #include "engine/KeyRecorder.h"
 
 #include <algorithm>
+#include <bit>
 #include <string>
 
 #include "core/Delay.h"
+#include "core/HeldModifier.h"
 #include "core/KeyCode.h"
 #include "core/KeyNames.h"
 #include "engine/EngineState.h"
@@ -57,7 +59,31 @@ void handleKeyPress(const KeyEvent& event) {
     // Not the event's own mask: what counts is what the last modifier change said.
     action->setModifiers(state.currentModifiers);
     addPauseBefore(event);
+    engineState().modifierHolds.addKey(state.recordingMacro->actionCount(), state.currentModifiers);
     append(action);
+}
+
+/// The hold of one modifier over several keys becomes an action before the first and one behind the last.
+void recordHold(const ModifierHold& hold, const KeyEvent& release) {
+    using Move = actionpack::HeldModifier::Move;
+    EngineState& state = engineState();
+    state.recordingMacro->insertAction(hold.firstKey, createHeldModifier(hold.modifiers, Move::down));
+    state.modifierHolds.insertedAt(hold.firstKey);
+    state.recordedPauses.addAction();
+    addPauseBefore(release);
+    append(createHeldModifier(hold.modifiers, Move::up));
+}
+
+void handleModifierKeyUp(const KeyEvent& event) {
+    EngineState& state = engineState();
+    const auto hold = state.modifierHolds.release(event);
+    if (!hold || !state.recordingMacro) return;
+    if (hold->isTapUntil(event.time)) {
+        addPauseBefore(event);
+        append(createKeyCode(event.keyCode, keyNameForKeyCode(static_cast<short>(event.keyCode)), 0));
+    } else if (hold->isOverKeys() && std::has_single_bit(hold->modifiers)) {
+        recordHold(*hold, event);
+    }
 }
 
 void handleModifiersChanged(std::uint32_t modifiers) {
@@ -82,6 +108,12 @@ void handleKeyEvent(const KeyEvent& event) {
             break;
         case KeyEventKind::modifiersChanged:
             handleModifiersChanged(event.modifiers);
+            break;
+        case KeyEventKind::modifierKeyDown:
+            engineState().modifierHolds.press(event);
+            break;
+        case KeyEventKind::modifierKeyUp:
+            handleModifierKeyUp(event);
             break;
         case KeyEventKind::keyUp:
             break;

@@ -10,7 +10,8 @@ void installKeyRecorder();
 /// A key press or repeat becomes an action of the macro being recorded, with the modifiers of the last
 /// modifier change, behind the pause before it where such pauses are kept (EngineState::pauseChoice); a
 /// modifier change is noted, and the one to no modifiers starts a play that waits for it. Key releases are
-/// nothing.
+/// nothing. Of modifier keys that are shown (EventMonitor::setShowsModifierKeys) a tap becomes an action like
+/// that of any other key, and a hold over several keys one before them and one behind.
 void handleKeyEvent(const KeyEvent& event);
 
 /// Adds the time since the start of the recording, the last recorded key or the last saved pause as a pause,

@@ -45,6 +45,8 @@ void toggleRecording() {
     state.recording = true;
     state.recordingMacro = MacroManager::createMacro();
     state.recordedPauses = {};
+    state.modifierHolds = {};
+    services().eventMonitor.setShowsModifierKeys(state.recordsModifierKeys);
     services().eventMonitor.setRecording(true);
     if (SharedController* controller = sharedController()) controller->showRecordingGui();
     utils::PreferenceManager::clearMarks();

@@ -31,7 +31,9 @@ std::optional<double> RecordedPauses::before(std::uint32_t time, const PauseChoi
     return pause;
 }
 
+void RecordedPauses::addAction() { m_lead += Macro::pauseAfterAction; }
+
 void RecordedPauses::addByHand(double seconds) {
     m_byHand += seconds;
-    m_lead += Macro::pauseAfterAction;
+    addAction();
 }

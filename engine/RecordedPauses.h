@@ -17,6 +17,9 @@ class RecordedPauses {
     /// millisecond; empty if there is to be none.
     std::optional<double> before(std::uint32_t time, const PauseChoice& choice);
 
+    /// An action was put in that is played on the way.
+    void addAction();
+
     /// The user has recorded a pause himself, in seconds: so much of what passes is no news.
     void addByHand(double seconds);
 

@@ -60,6 +60,11 @@ class EventMonitor {
     /// the layout was chosen in a panel, or is in force only while a key is held.
     virtual void setRecording(bool recording) = 0;
 
+    /// Whether presses and releases of the keys that hold Control, Alt, Super and Shift are delivered, too,
+    /// while a macro is being recorded: each beside the modifier change that it makes. Off at first. They are
+    /// kept back where key presses are.
+    virtual void setShowsModifierKeys(bool shows) = 0;
+
     /// What becomes of a recording where the desktop shows keys only to whom the user allows it.
     enum class Access {
         asked,    ///< it is being asked for; no key is seen until it is given

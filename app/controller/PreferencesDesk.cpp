@@ -56,7 +56,7 @@ void PreferencesDesk::load() {
         model.toggles[i].setOn(isStoredOn(m_store, row.key, row.initiallyOn));
     }
     model.pauses.setChoice(storedPauseChoice(m_store));
-    engineState().pauseChoice = model.pauses.choice();
+    applyRecording();
 }
 
 PreferenceValues PreferencesDesk::values() const {
@@ -76,12 +76,17 @@ void PreferencesDesk::save() {
     const PreferenceValues saved = values();
     keepHotKeys(saved);
     storePreferences(m_store, saved);
-    engineState().pauseChoice = saved.pauses;
+    applyRecording();
     installLoginItem(model.launchOnLogin.isOn());
     const Result<> synchronized = m_store.synchronize();
     if (!synchronized) tellSaveFailure(alerts::settingsNotSaved(synchronized.error()));
     registerHotKeys();
     updateNotices();
+}
+
+void PreferencesDesk::applyRecording() const {
+    engineState().pauseChoice = model.pauses.choice();
+    engineState().recordsModifierKeys = model.recordModifierKeys.isOn();
 }
 
 void PreferencesDesk::noteLoginTick() {

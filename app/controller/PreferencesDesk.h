@@ -62,6 +62,8 @@ class PreferencesDesk : public QObject {
   private:
     PreferencesPanel& builtPanel();
     PreferenceValues values() const;
+    /// The next recording keeps what the model says.
+    void applyRecording() const;
     void emptyOthersEqualTo(const ShortcutModel& changed);
     /// Of a box that is ticked while the panel is shown, whatever has become of the entry elsewhere.
     void noteLoginTick();

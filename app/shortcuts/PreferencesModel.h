@@ -25,6 +25,7 @@ struct PreferencesModel {
     ShortcutModel& play = shortcuts[shortcutIndex("play")];
     ShortcutModel& multiplePlay = shortcuts[shortcutIndex("multiplePlay")];
     ToggleModel& launchOnLogin = toggles[toggleIndex("launchOnLogin")];
+    ToggleModel& recordModifierKeys = toggles[toggleIndex("recordModifierKeys")];
     ToggleModel& checkForUpdatesOnLaunch = toggles[toggleIndex("checkForUpdatesOnLaunch")];
 
     /// False in builds without the update check: nothing of it is shown or stored.

@@ -25,6 +25,9 @@ inline constexpr std::array toggleRows = {
               .title = QT_TRANSLATE_NOOP("Toggles", "Check for &updates when Keyrill starts")},
     /// Whether there is a login item.
     ToggleRow{.key = "launchOnLogin", .title = QT_TRANSLATE_NOOP("Toggles", "Start Keyrill when I log &in")},
+    /// Whether recordings keep taps and holds of modifiers (EngineState::recordsModifierKeys).
+    ToggleRow{.key = "recordModifierKeys",
+              .title = QT_TRANSLATE_NOOP("Toggles", "Record modifier &keys on their own")},
 };
 
 /// Where the key stands in toggleRows; another key does not compile.

@@ -38,6 +38,8 @@ Result<void> EvdevEventMonitor::install(EventMonitor::Handler handler) {
 
 void EvdevEventMonitor::setWithheld(bool withheld) { m_parts->setWithheld(withheld); }
 void EvdevEventMonitor::setKeepsOwnStrokes(bool keeps) { m_parts->setKeepsOwnStrokes(keeps); }
+
+void EvdevEventMonitor::setShowsModifierKeys(bool shows) { m_parts->setShowsModifierKeys(shows); }
 void EvdevEventMonitor::setRecording(bool recording) { m_parts->setRecording(recording); }
 void EvdevEventMonitor::observeHold(std::function<void(bool held)> /*changed*/) {}
 void EvdevEventMonitor::observeAccess(AccessObserver changed) { m_parts->observeAccess(std::move(changed)); }

@@ -91,6 +91,7 @@ class EvdevEventMonitor final : public EventSource, public EventMonitor, public 
     Result<void> install(EventMonitor::Handler handler) override;
     void setWithheld(bool withheld) override;
     void setKeepsOwnStrokes(bool keeps) override;
+    void setShowsModifierKeys(bool shows) override;
     void setRecording(bool recording) override;
     /// Nobody is told: no program of a Wayland session has the keyboard to itself.
     void observeHold(std::function<void(bool held)> changed) override;

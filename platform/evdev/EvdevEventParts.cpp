@@ -238,6 +238,11 @@ void EvdevEventMonitor::Parts::setWithheld(bool withheld) {
     m_wakeups.kick();
 }
 
+void EvdevEventMonitor::Parts::setShowsModifierKeys(bool shows) {
+    read();
+    m_interpreter.setShowsModifierKeys(shows);
+}
+
 void EvdevEventMonitor::Parts::setKeepsOwnStrokes(bool keeps) {
     read();
     m_interpreter.setKeepsOwnStrokes(keeps);

@@ -55,6 +55,7 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     void desktopForgot();
     void setWithheld(bool withheld);
     void setKeepsOwnStrokes(bool keeps);
+    void setShowsModifierKeys(bool shows);
     void setRecording(bool recording);
     void endPlaysWhen(std::function<bool()> isLocked) { m_isLocked = std::move(isLocked); }
     void observeAccess(EventMonitor::AccessObserver changed) { m_accessChanged = std::move(changed); }

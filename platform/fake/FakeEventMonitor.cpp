@@ -55,6 +55,14 @@ void FakeEventMonitor::reportModifiers(std::uint32_t held) {
     m_desktop.post([this, held] { deliverModifiers(held); });
 }
 
+void FakeEventMonitor::reportModifierKey(KeyEventKind kind, std::uint32_t keyCode, std::uint32_t modifier) {
+    if (!m_recording || !m_showsModifierKeys || m_desktop.isScreenLocked() || m_held) return;
+    const KeyEvent event{kind, keyCode, 0, modifier, m_desktop.eventTime()};
+    m_desktop.post([this, event] {
+        if (!m_desktop.isWithheld()) deliver(event);
+    });
+}
+
 void FakeEventMonitor::reportOwnStroke(const KeyEvent& event) {
     if (!m_keepsOwnStrokes) return;
     const std::uint32_t held = m_heldModifiers;

@@ -24,6 +24,7 @@ class FakeEventMonitor : public EventMonitor {
     void setWithheld(bool withheld) override { m_desktop.setWithheld(withheld); }
     void setKeepsOwnStrokes(bool keeps) override { m_keepsOwnStrokes = keeps; }
     void setRecording(bool recording) override;
+    void setShowsModifierKeys(bool shows) override { m_showsModifierKeys = shows; }
     void observeHold(std::function<void(bool)> changed) override { m_holdChanged = std::move(changed); }
 
     void observeAccess(AccessObserver changed) override { m_accessChanged = std::move(changed); }
@@ -48,6 +49,9 @@ class FakeEventMonitor : public EventMonitor {
     void reportKeyUp(const KeyEvent& event);
     /// The held modifiers; nothing is delivered if they are as before.
     void reportModifiers(std::uint32_t held);
+    /// A modifier key goes down or up, with the modifier that it holds; nothing unless modifier keys are
+    /// shown. A release whose press was not delivered may be.
+    void reportModifierKey(KeyEventKind kind, std::uint32_t keyCode, std::uint32_t modifier);
     /// A whole stroke of a running script.
     void reportOwnStroke(const KeyEvent& event);
 
@@ -83,6 +87,7 @@ class FakeEventMonitor : public EventMonitor {
     AccessObserver m_accessChanged;
     bool m_keepsOwnStrokes = false;
     bool m_recording = false;
+    bool m_showsModifierKeys = false;
     bool m_programHolds = false;
     /// As it was told.
     bool m_held = false;

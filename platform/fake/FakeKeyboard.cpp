@@ -26,6 +26,9 @@ void FakeKeyboard::keyGoesDown(std::uint32_t keyCode) {
     const std::uint32_t modifier = fakeus::modifierOf(keyCode);
     if (modifier == modifier::capsLock) m_capsLock = !m_capsLock;
     if (modifier != 0) {
+        if (modifier != modifier::capsLock) {
+            m_monitor.reportModifierKey(KeyEventKind::modifierKeyDown, keyCode, modifier);
+        }
         m_monitor.reportModifiers(heldModifiers());
         return;
     }
@@ -44,8 +47,12 @@ void FakeKeyboard::userHolds(std::uint32_t keyCode, int repeats) {
 void FakeKeyboard::userReleases(std::uint32_t keyCode) {
     if (m_down.erase(keyCode) == 0) return;
     if (keyCode == escape) m_desktop.escapeGoesUp();
-    if (fakeus::modifierOf(keyCode) != 0) {
+    const std::uint32_t modifier = fakeus::modifierOf(keyCode);
+    if (modifier != 0) {
         m_monitor.reportModifiers(heldModifiers());
+        if (modifier != modifier::capsLock) {
+            m_monitor.reportModifierKey(KeyEventKind::modifierKeyUp, keyCode, modifier);
+        }
     } else if (!m_hotKeys.takesRelease(keyCode)) {
         m_monitor.reportKeyUp({KeyEventKind::keyUp, keyCode, 0, heldModifiers()});
     }

@@ -19,6 +19,8 @@ struct DownKey {
     /// The real modifiers that it holds; 0 for ordinary keys.
     xkb_mod_mask_t modifiers = 0;
     bool isModifierKey = false;
+    /// What its press was shown as, where modifier keys are; empty if it was not.
+    std::optional<std::uint32_t> shownModifierKey;
     /// What its press was reported as; empty if it was not. Its release and repeats are reported alike.
     std::optional<std::uint32_t> reportedCode;
     /// The hot key that its press was, if any, and whether that was reported.

@@ -16,7 +16,8 @@ constexpr std::uint8_t escapeKeycode = xkbcode::fromEvdev(1);
 bool isPress(const Delivery& delivery) {
     const auto* event = std::get_if<KeyEvent>(&delivery);
     return event != nullptr &&
-           (event->kind == KeyEventKind::keyDown || event->kind == KeyEventKind::autoRepeat);
+           (event->kind == KeyEventKind::keyDown || event->kind == KeyEventKind::autoRepeat ||
+            event->kind == KeyEventKind::modifierKeyDown);
 }
 
 }  // namespace
@@ -54,11 +55,21 @@ void KeyInterpreter::pressModifier(const RawKey& key, DownKey& held) {
     const xkb_mod_mask_t modifiers = m_keyboard.keymap().keys().setBy(key.keycode, m_keyboard.layout()) &
                                      ~m_keyboard.keymap().masks().locks();
     const xkb_layout_index_t before = m_keyboard.components().lockedLayout;
+    showModifierKey(key.keycode, modifiers, held);
     m_keyboard.feed(key.keycode, true);
     const bool isSwitch = m_keyboard.components().lockedLayout != before;
     if (isSwitch && !held.hidden && !m_muted) reportSwitch(key.keycode);
     held.modifiers = modifiers;
     if (!held.hidden) reportModifiers(heldMask());
+}
+
+/// Locks and choosers are none: they are in the codes of the keys that they change.
+void KeyInterpreter::showModifierKey(std::uint8_t keycode, xkb_mod_mask_t modifiers, DownKey& held) {
+    const std::uint32_t holds = m_keyboard.keymap().reported(modifiers);
+    if (!m_isRecording || !m_showsModifierKeys || held.hidden || m_muted || holds == 0) return;
+    held.shownModifierKey = keycode::fromEvdev(xkbcode::toEvdev(keycode));
+    m_deliveries.emplace_back(
+        KeyEvent{KeyEventKind::modifierKeyDown, *held.shownModifierKey, 0, holds, m_time});
 }
 
 /// Modifiers that are held together have switched the layout: a stroke of the one that was pressed last.
@@ -94,6 +105,10 @@ void KeyInterpreter::release(const RawKey& key, const DownKey& held) {
     m_keyboard.feed(key.keycode, false);
     if (held.isModifierKey) {
         if (!held.hidden) reportModifiers(heldMask());
+        if (held.shownModifierKey) {
+            m_deliveries.emplace_back(KeyEvent{KeyEventKind::modifierKeyUp, *held.shownModifierKey, 0,
+                                               m_keyboard.keymap().reported(held.modifiers), m_time});
+        }
     } else if (held.hotKey) {
         if (held.hotKeyReported) m_deliveries.emplace_back(HotKeyEvent{*held.hotKey, false, key.time});
     } else if (held.reportedCode) {

@@ -64,12 +64,14 @@ class KeyInterpreter {
     void setKeepsOwnStrokes(bool keeps) { m_keepsOwn = keeps; }
     /// See EventMonitor.
     void setRecording(bool recording);
+    void setShowsModifierKeys(bool shows) { m_showsModifierKeys = shows; }
 
     /// Takes back what is to be delivered of these hot keys, and what would be when those that are held come
     /// up.
     void dropHotKeys(const std::function<bool(HotKeyId)>& dropped);
 
-    /// Whether key presses or repeats are among what is to be delivered; these are taken back.
+    /// Whether key presses or repeats are among what is to be delivered, modifier keys that are shown
+    /// included; these are taken back.
     bool hasPresses() const;
     void dropPresses();
 
@@ -84,6 +86,7 @@ class KeyInterpreter {
     void pressOrdinary(const RawKey& key, DownKey& held);
     void watchEscape(const RawKey& key);
     void reportSwitch(std::uint8_t keycode);
+    void showModifierKey(std::uint8_t keycode, xkb_mod_mask_t modifiers, DownKey& held);
     void reportRepeat(const DownKey& held, std::uint8_t keycode);
     void reportPress(KeyEventKind kind, const TypedKey& typed);
     void reportModifiers(std::uint32_t mask);
@@ -103,6 +106,7 @@ class KeyInterpreter {
     bool m_muted = false;
     bool m_keepsOwn = false;
     bool m_isRecording = false;
+    bool m_showsModifierKeys = false;
     /// The layout that is locked when what has been recorded so far has been played where that was locked
     /// in which the recording began.
     xkb_layout_index_t m_playedLayout = 0;

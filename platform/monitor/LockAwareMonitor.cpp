@@ -28,6 +28,10 @@ void LockAwareMonitor::observeHold(std::function<void(bool held)> changed) {
 void LockAwareMonitor::deliver(const KeyEvent& event) {
     const bool isPress = event.kind == KeyEventKind::keyDown || event.kind == KeyEventKind::autoRepeat;
     if (isPress) hold(m_isLocked());
+    // A modifier is no sign of a user who types, and tells as much of a password.
+    const bool isModifierKey =
+        event.kind == KeyEventKind::modifierKeyDown || event.kind == KeyEventKind::modifierKeyUp;
+    if (isModifierKey && m_isLocked()) return;
     if (!isPress || !m_isHeld) m_handler(event);
 }
 

@@ -35,6 +35,7 @@ class LockAwareMonitor final : public EventSource, public EventMonitor {
     void setWithheld(bool withheld) override { m_monitor.setWithheld(withheld); }
     void setKeepsOwnStrokes(bool keeps) override { m_monitor.setKeepsOwnStrokes(keeps); }
     void setRecording(bool recording) override;
+    void setShowsModifierKeys(bool shows) override { m_monitor.setShowsModifierKeys(shows); }
     /// Told by the next look, or with the next key press.
     void observeHold(std::function<void(bool held)> changed) override;
     void observeAccess(AccessObserver changed) override { m_monitor.observeAccess(std::move(changed)); }

@@ -15,6 +15,7 @@ class NoEventMonitor final : public EventMonitor {
     void setWithheld(bool /*withheld*/) override {}
     void setKeepsOwnStrokes(bool /*keeps*/) override {}
     void setRecording(bool /*recording*/) override {}
+    void setShowsModifierKeys(bool /*shows*/) override {}
     void observeHold(std::function<void(bool)> /*changed*/) override {}
 
   private:

@@ -104,6 +104,7 @@ TEST_F(AccessibilityTest, tellsAndSetsThePreferences) {
     expectNamed(8);
     EXPECT_EQ(descriptionOf("Stop Recording"), "Ctrl+Super+S");
     EXPECT_TRUE(tells("combo box", "Record pauses"));
+    EXPECT_TRUE(tells("check box", "Record modifier keys on their own"));
     EXPECT_TRUE(tells("spin button", "Longest pause in seconds"));
     press("Start Keyrill when I log in");
     press("Stop Recording");

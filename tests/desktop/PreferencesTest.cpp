@@ -44,8 +44,11 @@ class PreferencesTest : public DesktopTest {
     /// Expects all combinations as they are preset, and the switches of a first run.
     void expectThePresets() const {
         Settings combinations = settings();
-        const Settings switches = {
-            {"checkForUpdatesOnLaunch", "false"}, {"launchOnLogin", "false"}, {"notFirstRun", "true"}};
+        const Settings switches = {{"checkForUpdatesOnLaunch", "false"},
+                                   {"launchOnLogin", "false"},
+                                   {"recordModifierKeys", "false"},
+                                   {"recordPauses", "0"},
+                                   {"notFirstRun", "true"}};
         for (const auto& [name, value] : switches) EXPECT_EQ(combinations[name], value) << name;
         std::erase_if(combinations, [](const auto& setting) {
             return !setting.first.ends_with("Code") && !setting.first.ends_with("Flags");

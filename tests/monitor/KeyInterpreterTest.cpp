@@ -255,4 +255,79 @@ TEST_F(LayoutSwitchingTest, aKeyThatSwitchesIsAStrokeLikeOthers) {
     EXPECT_EQ(strokes(), (Strokes{{107, 0}, {key::a, 0}}));
 }
 
+/// With modifier keys shown.
+class ModifierKeyTest : public KeyInterpreterTest {
+  protected:
+    ModifierKeyTest() {
+        m_interpreter.setShowsModifierKeys(true);
+        m_interpreter.setRecording(true);
+    }
+    static KeyEvent modifierKey(KeyEventKind kind, std::uint32_t keyCode, std::uint32_t holds) {
+        return {kind, keyCode, 0, holds};
+    }
+    static KeyEvent mask(std::uint32_t modifiers) {
+        return {KeyEventKind::modifiersChanged, 0, 0, modifiers};
+    }
+};
+
+TEST_F(ModifierKeyTest, isShownBesideItsChange) {
+    press(xkey::super);
+    release(xkey::super);
+    EXPECT_EQ(keyEvents(),
+              (std::vector{modifierKey(KeyEventKind::modifierKeyDown, key::super, modifier::command),
+                           mask(modifier::command), mask(0),
+                           modifierKey(KeyEventKind::modifierKeyUp, key::super, modifier::command)}));
+}
+
+TEST_F(ModifierKeyTest, isShownWhileAMacroIsRecordedOnly) {
+    m_interpreter.setRecording(false);
+    press(xkey::super);
+    release(xkey::super);
+    EXPECT_EQ(keyEvents(), (std::vector{mask(modifier::command), mask(0)}));
+}
+
+TEST_F(ModifierKeyTest, thatWentDownBeforeTheRecordingIsNotShownComingUp) {
+    m_interpreter.setRecording(false);
+    press(xkey::super);
+    m_interpreter.setRecording(true);
+    release(xkey::super);
+    EXPECT_EQ(keyEvents(), (std::vector{mask(modifier::command), mask(0)}));
+}
+
+TEST_F(ModifierKeyTest, ofALockIsNotShown) {
+    press(xkey::capsLock);
+    release(xkey::capsLock);
+    EXPECT_EQ(keyEvents(), std::vector<KeyEvent>{});
+}
+
+TEST_F(ModifierKeyTest, isNotShownWhileKeysAreDropped) {
+    m_interpreter.setMuted(true);
+    press(xkey::super);
+    release(xkey::super);
+    EXPECT_EQ(keyEvents(), (std::vector{mask(modifier::command), mask(0)}));
+}
+
+TEST_F(ModifierKeyTest, ofARunThatIsNotToBeSeenIsNotShown) {
+    press(xkey::super, laptop, {.own = true});
+    EXPECT_EQ(keyEvents(), std::vector<KeyEvent>{});
+}
+
+TEST_F(ModifierKeyTest, isTakenBackWithTheKeys) {
+    press(xkey::super);
+    EXPECT_TRUE(m_interpreter.hasPresses());
+    m_interpreter.dropPresses();
+    EXPECT_EQ(keyEvents(), std::vector{mask(modifier::command)});
+}
+
+TEST_F(KeyInterpreterTest, allEventsTellWhenTheyHappened) {
+    press(xkey::shift);
+    press(xkey::a);
+    m_interpreter.repeat(xkey::a, 5000);
+    release(xkey::a, laptop, 5100);
+    release(xkey::shift, laptop, 5200);
+    std::vector<std::uint32_t> times;
+    for (const KeyEvent& event : keyEvents()) times.push_back(event.time);
+    EXPECT_EQ(times, (std::vector<std::uint32_t>{100, 100, 5000, 5100, 5200}));
+}
+
 }  // namespace

@@ -92,6 +92,24 @@ TEST_F(LockAwareMonitorTest, modifiersGoOn) {
     EXPECT_EQ(heard(), "!");
 }
 
+TEST_F(LockAwareMonitorTest, modifierKeysThatAreShownAreKeptBack) {
+    std::vector<std::uint32_t> shown;
+    ASSERT_TRUE(m_monitor.install([&](const KeyEvent& event) {
+        if (event.kind == KeyEventKind::modifierKeyDown) shown.push_back(event.keyCode);
+    }));
+    m_monitor.setShowsModifierKeys(true);
+    const auto tap = [this](std::uint32_t keyCode) {
+        m_platform.keyboard.userPresses(keyCode);
+        m_platform.keyboard.userReleases(keyCode);
+    };
+    tap(key::super);
+    m_isLocked = true;
+    tap(key::shift);
+    m_isLocked = false;
+    tap(key::control);
+    EXPECT_EQ(shown, (std::vector<std::uint32_t>{key::super, key::control}));
+}
+
 TEST_F(LockAwareMonitorTest, aRecordingBeginsOpen) {
     m_isLocked = true;
     press('s');

@@ -29,6 +29,8 @@ Result<void> X11EventManager::install(EventMonitor::Handler handler) {
 
 void X11EventManager::setWithheld(bool withheld) { m_parts->setWithheld(withheld); }
 void X11EventManager::setKeepsOwnStrokes(bool keeps) { m_parts->setKeepsOwnStrokes(keeps); }
+
+void X11EventManager::setShowsModifierKeys(bool shows) { m_parts->setShowsModifierKeys(shows); }
 void X11EventManager::setRecording(bool recording) { m_parts->setRecording(recording); }
 
 void X11EventManager::observeHold(std::function<void(bool held)> changed) {

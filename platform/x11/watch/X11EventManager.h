@@ -57,6 +57,7 @@ class X11EventManager final : public EventSource, public EventMonitor, public Ho
     Result<void> install(EventMonitor::Handler handler) override;
     void setWithheld(bool withheld) override;
     void setKeepsOwnStrokes(bool keeps) override;
+    void setShowsModifierKeys(bool shows) override;
     void setRecording(bool recording) override;
     void observeHold(std::function<void(bool held)> changed) override;
 

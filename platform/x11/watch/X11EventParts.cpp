@@ -245,6 +245,11 @@ void X11EventManager::Parts::setWithheld(bool withheld) {
     m_interpreter.setMuted(withheld);
 }
 
+void X11EventManager::Parts::setShowsModifierKeys(bool shows) {
+    catchUp();
+    m_interpreter.setShowsModifierKeys(shows);
+}
+
 void X11EventManager::Parts::setKeepsOwnStrokes(bool keeps) {
     catchUp();
     m_interpreter.setKeepsOwnStrokes(keeps);

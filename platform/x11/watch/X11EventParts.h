@@ -57,6 +57,7 @@ class X11EventManager::Parts final : public RunWatch {
     Deliverer& deliverer() { return m_deliverer; }
     void setWithheld(bool withheld);
     void setKeepsOwnStrokes(bool keeps);
+    void setShowsModifierKeys(bool shows);
     void setRecording(bool recording);
     void observeHold(std::function<void(bool)> changed) { m_holdChanged = std::move(changed); }
     void endPlaysWhen(std::function<bool()> isLocked) { m_isLocked = std::move(isLocked); }

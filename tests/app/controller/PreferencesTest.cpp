@@ -108,6 +108,18 @@ TEST_F(PreferencesTest, recordsThePausesThatAreChosenOnceThePanelHasClosed) {
     EXPECT_EQ(stored("recordPauses"), 1);
 }
 
+TEST_F(PreferencesTest, recordsModifierKeysWhereThatIsStoredOrChosen) {
+    controller.syncPreferencesDefaults();
+    EXPECT_FALSE(state().recordsModifierKeys);
+    platform().settings.put("recordModifierKeys", 1);
+    controller.syncPreferencesDefaults();
+    EXPECT_TRUE(state().recordsModifierKeys);
+    controller.preferences.recordModifierKeys.setOn(false);
+    controller.savePreferences(nullptr);
+    EXPECT_FALSE(state().recordsModifierKeys);
+    EXPECT_EQ(stored("recordModifierKeys"), 0);
+}
+
 // Saving
 
 class SaveOrderTest : public EngineTest {};

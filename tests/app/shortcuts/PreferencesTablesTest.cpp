@@ -36,9 +36,12 @@ TEST(ShortcutTitlesTest, areTheLabelsCommandWithAMnemonic) {
 TEST(TogglesTest, beginOffAndAreStoredInThisOrder) {
     constexpr std::size_t updates = toggleIndex("checkForUpdatesOnLaunch");
     constexpr std::size_t login = toggleIndex("launchOnLogin");
+    constexpr std::size_t modifierKeys = toggleIndex("recordModifierKeys");
     EXPECT_LT(updates, login);
+    EXPECT_LT(login, modifierKeys);
     EXPECT_FALSE(toggleRows[updates].initiallyOn);
     EXPECT_FALSE(toggleRows[login].initiallyOn);
+    EXPECT_FALSE(toggleRows[modifierKeys].initiallyOn);
 }
 
 TEST(TogglesTest, haveEachAKeyAndATitleOfTheirOwn) {
