@@ -6,6 +6,7 @@
 #include <chrono>
 
 #include "app/dialogs/AlertTexts.h"
+#include "app/macros/MacrosWindow.h"
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/SplashWindow.h"
 #include "app/panels/AboutPanel.h"
@@ -52,6 +53,8 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, m_dialogs, m_stage),
       m_accessDesk(services.eventMonitor, services.notifications, m_dialogs, m_overlayDesk),
       m_recordHereDesk(services.eventMonitor, services.hotKeys, m_preferencesDesk.model.stop, m_stage),
+      m_macrosDesk({services.macroFiles, services.keyboardLayout, services.scripting, m_scriptNotices, m_gate,
+                    m_stage, DraftFiles(DraftFiles::folderOfProcess())}),
       statusItem(item) {
     timer.setSingleShot(true);
     m_killTimer.setSingleShot(true);
@@ -184,6 +187,6 @@ void AppController::noteHotKey(HotKeyId id, const HotKeyState& state) {
 }
 
 std::vector<QWidget*> AppController::ordinaryWindows() const {
-    return {multiplePlayWindow(), preferencesWindow(), aboutPanel(),       welcomePanel(),
-            recordHerePanel(),    splashWindow(),      statusItem.window()};
+    return {multiplePlayWindow(), preferencesWindow(), aboutPanel(),   welcomePanel(),
+            recordHerePanel(),    macrosWindow(),      splashWindow(), statusItem.window()};
 }

@@ -16,6 +16,7 @@
 #include "app/controller/Gate.h"
 #include "app/controller/GatedDialogs.h"
 #include "app/controller/HelpDesk.h"
+#include "app/controller/MacrosDesk.h"
 #include "app/controller/MenuDesk.h"
 #include "app/controller/OverlayDesk.h"
 #include "app/controller/PreferencesDesk.h"
@@ -120,6 +121,7 @@ class AppController : public QObject, public SharedController {
 
     void saveMacro(QObject* sender);
     void loadMacro(QObject* sender);
+    void showMacros(QObject* sender);
     /// Makes the file's text the current macro; true if it could be read. Otherwise the user is told and the
     /// current macro stays.
     bool loadInMacroFromFile(const QString& path);
@@ -176,6 +178,7 @@ class AppController : public QObject, public SharedController {
     PreferencesDesk m_preferencesDesk;
     AccessDesk m_accessDesk;
     RecordHereDesk m_recordHereDesk;
+    MacrosDesk m_macrosDesk;
     std::unique_ptr<WelcomePanel> m_welcomePanel;
 
   public:
@@ -201,6 +204,7 @@ class AppController : public QObject, public SharedController {
     PreferencesPanel* preferencesWindow() const { return m_preferencesDesk.panel(); }
     AboutPanel* aboutPanel() const { return m_helpDesk.aboutPanel(); }
     RecordHerePanel* recordHerePanel() const { return m_recordHereDesk.panel(); }
+    MacrosWindow* macrosWindow() const { return m_macrosDesk.window(); }
     WelcomePanel* welcomePanel() const { return m_welcomePanel.get(); }
     /// Builds the preferences panel if need be; not shown in builds without the update check.
     QPushButton* checkForUpdatesNowButton() { return m_preferencesDesk.checkForUpdatesNowButton(); }

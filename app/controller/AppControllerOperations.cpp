@@ -56,6 +56,7 @@ constexpr std::array menuOperations = {
     MenuOperation{"multiplePlay", send<&AppController::multiPlayMacro>},
     MenuOperation{"saveMacro", send<&AppController::saveMacro>},
     MenuOperation{"loadMacro", send<&AppController::loadMacro>},
+    MenuOperation{"macros", send<&AppController::showMacros>},
     MenuOperation{"preferences", send<&AppController::showPreferences>},
     MenuOperation{"documentation", send<&AppController::openDocumentation>},
     MenuOperation{"forum", send<&AppController::openForum>},
@@ -163,6 +164,7 @@ void AppController::activateStatusMenu() { m_menuDesk.showNormal(); }
 void AppController::addMacro(const boost::shared_ptr<Macro>& macro) {
     MacroMenuItem* const item = m_menuDesk.addToHistory(*macro);
     connect(item, &QAction::triggered, this, [this, item] { perform(&AppController::runMacro, item); });
+    m_macrosDesk.takeRecording(*macro);
 }
 
 void AppController::setMacroString(const std::string& text) {
@@ -220,6 +222,7 @@ void AppController::hideRecordingGui() {
     m_menuDesk.recordingEnds();
     m_overlayDesk.hideRecorder();
     m_recordHereDesk.end();
+    m_macrosDesk.recordingEnded();
 }
 
 void AppController::cannotRecord(const Error& why) { m_dialogs.runAlert(alerts::cannotRecord(why)); }
@@ -281,6 +284,8 @@ void AppController::saveMacro(QObject* /*sender*/) {
 void AppController::loadMacro(QObject* /*sender*/) {
     if (!m_menuDesk.isOverlayShown()) m_filesDesk.load();
 }
+
+void AppController::showMacros(QObject* /*sender*/) { m_macrosDesk.show(); }
 
 bool AppController::loadInMacroFromFile(const QString& path) { return m_filesDesk.loadFrom(path); }
 

@@ -36,9 +36,11 @@ void Stage::fadeOut(QWidget& window) {
     endFade(window);
 }
 
-void Stage::present(QWidget& panel) {
+void Stage::present(QWidget& panel) { present(panel, panelAlpha); }
+
+void Stage::present(QWidget& panel, double alpha) {
     unhide();
-    fadeIn(panel, panelAlpha);
+    fadeIn(panel, alpha);
     panel.raise();
     activate(panel, 0);
 }

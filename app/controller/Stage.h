@@ -27,6 +27,7 @@ class Stage {
 
     /// Fades a panel in, in front of the windows of other programs.
     void present(QWidget& panel);
+    void present(QWidget& panel, double alpha);
     /// `userTime` is the time of the user's act that permits to take the focus, 0 for this moment.
     void activate(QWidget& window, std::uint32_t userTime);
     /// Waits until keys reach the application that the user was in; `hidden` is a window of ours, or null.

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include <QCoreApplication>
+#include <map>
+
 #include "app/controller/StatusNotice.h"
 #include "app/gallery/Camera.h"
 #include "app/gallery/Examples.h"
 #include "app/gallery/Scenes.h"
+#include "app/macros/MacroEditor.h"
+#include "app/macros/MacrosWindow.h"
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/RecorderWindow.h"
 #include "app/overlay/SplashAnimation.h"
@@ -16,6 +21,7 @@
 #include "app/tray/StatusItem.h"
 #include "app/tray/StatusMenu.h"
 #include "core/Macro.h"
+#include "platform/Services.h"
 
 namespace {
 
@@ -48,6 +54,33 @@ void takePreferences(Camera& camera) {
     camera.takeShown({&panel}, QStringLiteral("preferences-notice"));
     panel.findChildren<SRRecorderControl*>().at(1)->startRecording();
     camera.takeShown({&panel}, QStringLiteral("preferences-recording"));
+}
+
+void takeMacros(Camera& camera) {
+    MacrosWindow window(services().keyboardLayout);
+    std::map<std::string, std::string> scripts = {
+        {"Greeting", recordedMacro("Dear Ann\n\n~^vKind regards\n")->script()},
+        {"work/Names",
+         "-- Asks for a name, and types it.\ntell application \"System Events\"\n\tdisplay dialog \"Whose "
+         "name?\" default answer \"Ann\"\n\tset person to text returned of result\n\trepeat 3 times\n"
+         "\t\tkeystroke person & \", \"\n\t\tkey code (36) usin {shift down}\n\tend repeat\nend tell\n"}};
+    window.setItems({{"Greeting", QStringLiteral("Greeting"), {}},
+                     {"Signature", QStringLiteral("Signature"), {}},
+                     {"work/Mail", QStringLiteral("Mail"), QStringLiteral("work")},
+                     {"work/Names", QStringLiteral("Names"), QStringLiteral("work")}});
+    QObject::connect(&window, &MacrosWindow::chosenChanged,
+                     [&](const std::string& path) { window.showMacro(scripts[path], scripts[path]); });
+    window.choose("Greeting");
+    camera.take(window, QStringLiteral("macros"));
+    window.choose("work/Names");
+    camera.takeShown({&window}, QStringLiteral("macros-other-script"));
+    window.editor().showScriptTab(true);
+    camera.takeShown({&window}, QStringLiteral("macros-script"));
+    window.tell(QCoreApplication::translate("MacrosDesk", "The macro is in the trash."),
+                QCoreApplication::translate("MacrosDesk", "Undo"));
+    camera.takeShown({&window}, QStringLiteral("macros-told"));
+    window.countDown();
+    camera.takeShown({&window}, QStringLiteral("macros-count"));
 }
 
 void takeOverlay(Camera& camera) {
@@ -89,6 +122,7 @@ void takePanels(Camera& camera) {
     camera.take(welcome, QStringLiteral("welcome"));
     welcome.hide();
     takePreferences(camera);
+    takeMacros(camera);
     AboutPanel about;
     camera.take(about, QStringLiteral("about"));
     about.hide();

@@ -96,6 +96,7 @@ inline constexpr std::array menuRows = {
     MenuRow{.name = "loadMacro",
             .title = QT_TRANSLATE_NOOP("StatusMenu", "Load Macro..."),
             .isEnabled = menurule::filesAllowed},
+    MenuRow{.name = "macros", .title = QT_TRANSLATE_NOOP("StatusMenu", "Macros...")},
     separatorRow(),
     MenuRow{.name = "preferences", .title = QT_TRANSLATE_NOOP("StatusMenu", "Preferences...")},
     MenuRow{.name = "help", .title = QT_TRANSLATE_NOOP("StatusMenu", "Help"), .kind = MenuItemKind::submenu},

@@ -94,6 +94,23 @@ Result<std::string> keyLinesOf(const KeyboardLayout& layout, std::string_view te
     return keyLinesOf(TypingTable(layout), text);
 }
 
+Result<Splice> retyped(const RecordedScript& recording, std::size_t first, std::size_t count,
+                       std::string_view text, const KeyboardLayout& layout) {
+    const auto typed = [&](std::size_t index) { return typedBy(layout, recording.lines()[index]); };
+    std::size_t end = first + count;
+    for (std::string character; first < end; ++first, text.remove_prefix(character.size())) {
+        character = typed(first);
+        if (!text.starts_with(character)) break;
+    }
+    for (std::string character; first < end; --end, text.remove_suffix(character.size())) {
+        character = typed(end - 1);
+        if (!text.ends_with(character)) break;
+    }
+    const Result<std::string> lines = keyLinesOf(layout, text);
+    if (!lines) return lines.error();
+    return recording.replaced(first, end - first, lines.value());
+}
+
 std::optional<Splice> convertedToText(const RecordedScript& recording, std::size_t first, std::size_t count,
                                       const KeyboardLayout& layout) {
     std::string lines;

@@ -22,6 +22,11 @@ std::string typedBy(const KeyboardLayout& layout, const Line& line);
 /// tabs. The error names the character that no key types.
 Result<std::string> keyLinesOf(const KeyboardLayout& layout, std::string_view text);
 
+/// Makes keys that type another text of lines of keys that type each a character. Those at both ends whose
+/// characters stay are left as they are. The error names the character that no key types.
+Result<Splice> retyped(const RecordedScript& recording, std::size_t first, std::size_t count,
+                       std::string_view text, const KeyboardLayout& layout);
+
 /// Makes texts of all keys that type among those lines, one of each run, so that they type the same under
 /// other layouts. Empty if there are none.
 std::optional<Splice> convertedToText(const RecordedScript& recording, std::size_t first, std::size_t count,

@@ -30,7 +30,8 @@ TEST_F(AppControllerTest, startsWithTheBusyImageAndOnlyRecordToChoose) {
     controller.awakeFromNib();
     EXPECT_EQ(statusItem.shownMenu, &controller.statusMenu);
     EXPECT_EQ(statusItem.shownImage, StatusImage::busy);
-    EXPECT_EQ(menu(), "Start Recording, -, [History], Load Macro..., -, Preferences..., Help, -, Quit");
+    EXPECT_EQ(menu(),
+              "Start Recording, -, [History], Load Macro..., Macros..., -, Preferences..., Help, -, Quit");
 }
 
 TEST_F(AppControllerTest, showsTheNormalImageAfterTheSplash) {
@@ -69,23 +70,25 @@ TEST_F(AppControllerTest, saysWhyNothingCanBeRecordedHere) {
 TEST_F(AppControllerTest, showsStopAndSavePauseWhileRecording) {
     controller.recordMacro(nullptr);
     EXPECT_EQ(menu(),
-              "Stop Recording, Save Pause, -, [History], [Load Macro...], -, Preferences..., Help, -, Quit");
+              "Stop Recording, Save Pause, -, [History], [Load Macro...], Macros..., -, Preferences..., "
+              "Help, -, Quit");
 }
 
 TEST_F(AppControllerTest, offersPlayingWhenAMacroWasRecorded) {
     recordKey(key::returnKey);
     EXPECT_EQ(menu(),
-              "Start Recording, Play, Play Multiple Times..., -, History, Save Macro..., Load Macro..., -, "
+              "Start Recording, Play, Play Multiple Times..., -, History, Save Macro..., Load Macro..., "
+              "Macros..., -, "
               "Preferences..., Help, -, Quit");
 }
 
 TEST_F(AppControllerTest, greysPlayingAfterAnEmptyRecording) {
     controller.recordMacro(nullptr);
     controller.stopMacro(nullptr);
-    EXPECT_EQ(
-        menu(),
-        "Start Recording, [Play], [Play Multiple Times...], -, [History], [Save Macro...], Load Macro..., -, "
-        "Preferences..., Help, -, Quit");
+    EXPECT_EQ(menu(),
+              "Start Recording, [Play], [Play Multiple Times...], -, [History], [Save Macro...], Load "
+              "Macro..., Macros..., -, "
+              "Preferences..., Help, -, Quit");
 }
 
 TEST_F(AppControllerTest, filesTheNewestMacroOnTop) {

@@ -102,7 +102,8 @@ TEST_F(GateTest, greysTheMenuButForQuitWhileAQuestionIsOpen) {
     std::string meanwhile;
     askWhile([&] { meanwhile = menu(); });
     EXPECT_EQ(meanwhile,
-              "[Start Recording], -, [History], [Load Macro...], -, [Preferences...], [Help], -, Quit");
+              "[Start Recording], -, [History], [Load Macro...], [Macros...], -, [Preferences...], [Help], "
+              "-, Quit");
     EXPECT_EQ(menu(), before);
 }
 

@@ -115,6 +115,25 @@ TEST(TypingKeysTest, namesTheCharacterThatNoKeyTypes) {
                      "Convert the keys to text, which types any character."}));
 }
 
+TEST(TypingKeysTest, retypingLeavesTheKeysThatStay) {
+    const NamedLayout us("us");
+    // The "1" of the keypad, which a text would not choose.
+    const std::string keypadOne = steps::keyLines(83, 0);
+    const std::string a = steps::keyLines(key::a, 0);
+    const std::string b = steps::keyLines(key::b, 0);
+    const std::string script = recordingOf(keypadOne + a + keypadOne);
+    const auto recording = recorded(script);
+    const auto after = [&](const char* text) {
+        return spliced(script, steps::retyped(recording, 0, 3, text, us).value());
+    };
+    EXPECT_EQ(after("1b1"), recordingOf(keypadOne + b + keypadOne));
+    EXPECT_EQ(after("1ab1"), recordingOf(keypadOne + a + b + keypadOne));
+    EXPECT_EQ(after("11"), recordingOf(keypadOne + keypadOne));
+    EXPECT_EQ(after(""), recordingOf(""));
+    EXPECT_EQ(after("1a1"), script);
+    EXPECT_FALSE(steps::retyped(recording, 0, 3, "1Ж1", us));
+}
+
 TEST(TypingKeysTest, combinationsAndPausesStayWhereTheyAre) {
     const NamedLayout us("us");
     const std::string copy = steps::keyLines(8, modifier::control);

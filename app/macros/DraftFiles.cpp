@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "app/macros/DraftFiles.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <QDir>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "platform/Descriptor.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* ending = ".draft";
+constexpr mode_t fileMode = 0600;
+constexpr mode_t folderMode = 0700;
+
+/// As the standard asks of folders that are made.
+void makeFolders(const fs::path& folder) {
+    std::error_code ignored;
+    if (fs::exists(folder, ignored) || !folder.has_relative_path()) return;
+    makeFolders(folder.parent_path());
+    mkdir(folder.c_str(), folderMode);
+}
+
+/// 0, or the number of the error.
+int writeAll(int file, const std::string& bytes) {
+    for (std::size_t written = 0; written < bytes.size();) {
+        const ssize_t part = write(file, bytes.data() + written, bytes.size() - written);
+        if (part < 0 && errno != EINTR) return errno;
+        if (part > 0) written += static_cast<std::size_t>(part);
+    }
+    return fsync(file) == 0 ? 0 : errno;
+}
+
+}  // namespace
+
+std::string DraftFiles::folderOfProcess() {
+    const std::string state = qgetenv("XDG_STATE_HOME").toStdString();
+    const std::string root =
+        state.starts_with('/') ? state : QDir::homePath().toStdString() + "/.local/state";
+    return root + "/keyrill/unsaved";
+}
+
+std::string DraftFiles::fileOf(const std::string& path) const {
+    const QByteArray hash =
+        QCryptographicHash::hash(QByteArray::fromStdString(path), QCryptographicHash::Sha256);
+    return m_folder + "/" + hash.toHex().toStdString() + ending;
+}
+
+std::map<std::string, std::string> DraftFiles::all() const {
+    std::map<std::string, std::string> drafts;
+    std::error_code error;
+    for (const fs::directory_entry& entry : fs::directory_iterator(m_folder, error)) {
+        if (entry.path().extension() != ending) continue;
+        std::ifstream file(entry.path(), std::ios::binary);
+        std::string path;
+        if (!std::getline(file, path) || fileOf(path) != entry.path()) continue;
+        drafts[path] = std::string(std::istreambuf_iterator<char>(file), {});
+    }
+    return drafts;
+}
+
+Result<> DraftFiles::keep(const std::string& path, const std::string& text) const {
+    makeFolders(m_folder);
+    const std::string whole = fileOf(path);
+    const std::string part = whole + ".new";
+    int error = 0;
+    {
+        const Descriptor file(open(part.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, fileMode));
+        error = file ? writeAll(file.number(), path + "\n" + text) : errno;
+    }
+    if (error == 0 && std::rename(part.c_str(), whole.c_str()) != 0) error = errno;
+    if (error == 0) return {};
+    unlink(part.c_str());
+    return Error{"The folder " + m_folder + " cannot be written to: " + std::strerror(error) + ".", ""};
+}
+
+void DraftFiles::forget(const std::string& path) const { unlink(fileOf(path).c_str()); }

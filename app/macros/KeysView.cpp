@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "app/macros/KeysView.h"
+
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QListView>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "app/widgets/NoticeLine.h"
+#include "app/widgets/PanelText.h"
+#include "library/steps/TypingKeys.h"
+
+namespace {
+
+constexpr double newPause = 0.5;
+
+}  // namespace
+
+KeysView::KeysView(const KeyboardLayout& layout, QWidget* parent)
+    : QWidget(parent),
+      m_layout(layout),
+      m_model(layout),
+      m_list(new QListView),
+      m_explanation(
+          makeParagraph(tr("This is a script of its own. What it would press is shown here; change it "
+                           "under Script."))),
+      m_notice(new NoticeLine) {
+    m_explanation->setMinimumWidth(0);
+    m_list->setModel(&m_model);
+    m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_list->setUniformItemSizes(true);
+    m_list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    m_list->setAccessibleName(tr("Keys of the macro"));
+    auto* bar = new QToolBar;
+    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    makeActions(*bar);
+
+    auto* box = new QVBoxLayout(this);
+    box->addWidget(bar);
+    box->addWidget(m_explanation);
+    box->addWidget(m_list, 1);
+    box->addWidget(m_notice);
+    connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this, &KeysView::updateActions);
+    connect(&m_model, &StepsModel::editWanted, this, [this](const steps::Splice& splice) {
+        m_notice->setNotice({});
+        emit editWanted(splice);
+    });
+    connect(&m_model, &StepsModel::refused, this, &KeysView::refuse);
+    m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
+    setFocusProxy(m_list);
+    updateActions();
+}
+
+QAction* KeysView::addAction(QToolBar& bar, const QString& title, const QString& hint,
+                             const QKeySequence& keys, void (KeysView::*operation)()) {
+    auto* action = new QAction(title, this);
+    action->setToolTip(keys.isEmpty() ? hint
+                                      : tr("%1 (%2)", "what a button does, and its keys")
+                                            .arg(hint, keys.toString(QKeySequence::NativeText)));
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    connect(action, &QAction::triggered, this, [this, operation] { (this->*operation)(); });
+    m_list->addAction(action);
+    bar.addAction(action);
+    if (QWidget* button = bar.widgetForAction(action)) button->setFocusPolicy(Qt::TabFocus);
+    return action;
+}
+
+void KeysView::makeActions(QToolBar& bar) {
+    m_record = new QAction(tr("Record Keys"), this);
+    m_record->setToolTip(tr("Record keys behind the selected step"));
+    connect(m_record, &QAction::triggered, this, &KeysView::recordWanted);
+    bar.addAction(m_record);
+    if (QWidget* button = bar.widgetForAction(m_record)) button->setFocusPolicy(Qt::TabFocus);
+    m_pause =
+        addAction(bar, tr("Add Pause"), tr("A pause behind the selected step"), {}, &KeysView::insertPause);
+    m_change = addAction(bar, tr("Change"), tr("Change the text, the pause or how often a key is pressed"),
+                         {}, &KeysView::change);
+    m_duplicate = addAction(bar, tr("Repeat"), tr("The selected steps once more"),
+                            QKeySequence(Qt::CTRL | Qt::Key_D), &KeysView::duplicate);
+    m_moveUp = addAction(bar, tr("Up"), tr("Move up"), QKeySequence(Qt::ALT | Qt::Key_Up), &KeysView::moveUp);
+    m_moveDown = addAction(bar, tr("Down"), tr("Move down"), QKeySequence(Qt::ALT | Qt::Key_Down),
+                           &KeysView::moveDown);
+    m_remove = addAction(bar, tr("Remove"), tr("Remove the selected steps"), QKeySequence::Delete,
+                         &KeysView::remove);
+    m_toText = addAction(bar, tr("Convert to Text"), tr("Type the same under every keyboard layout"), {},
+                         &KeysView::convertToText);
+    m_toKeys = addAction(bar, tr("Convert to Keys"), tr("Press the keys of the present keyboard layout"), {},
+                         &KeysView::convertToKeys);
+}
+
+void KeysView::showScript(const std::string& script) {
+    const int row = m_list->currentIndex().row();
+    m_model.showScript(script);
+    m_explanation->setVisible(!m_model.isRecording());
+    m_notice->setNotice(m_model.notice());
+    const int last = m_model.rowCount() - 1;
+    if (last >= 0 && row >= 0) m_list->setCurrentIndex(m_model.index(std::min(row, last)));
+    updateActions();
+}
+
+void KeysView::updateActions() {
+    const bool isRecording = m_model.isRecording();
+    const Range range = selected();
+    const bool isSelected = isRecording && range.count > 0;
+    for (QAction* action : {m_record, m_pause}) action->setEnabled(isRecording);
+    for (QAction* action : {m_remove, m_duplicate}) action->setEnabled(isSelected);
+    m_change->setEnabled(isSelected && m_list->selectionModel()->hasSelection());
+    m_moveUp->setEnabled(isSelected && range.firstRow > 0);
+    m_moveDown->setEnabled(isSelected && range.lastRow + 1 < m_model.rowCount());
+    const auto isOfKind = [&](steps::StepKind kind) {
+        const auto& all = m_model.steps();
+        return isSelected && std::any_of(all.begin() + range.firstRow, all.begin() + range.lastRow + 1,
+                                         [kind](const steps::Step& step) { return step.kind == kind; });
+    };
+    m_toText->setEnabled(isOfKind(steps::StepKind::typing));
+    m_toKeys->setEnabled(isOfKind(steps::StepKind::text));
+}
+
+KeysView::Range KeysView::selected() const {
+    Range range;
+    const QItemSelection selection = m_list->selectionModel()->selection();
+    if (selection.isEmpty() || m_model.steps().empty()) return range;
+    range.firstRow = m_model.rowCount();
+    for (const QItemSelectionRange& part : selection) {
+        range.firstRow = std::min(range.firstRow, part.top());
+        range.lastRow = std::max(range.lastRow, part.bottom());
+    }
+    const steps::Step& first = m_model.steps().at(static_cast<std::size_t>(range.firstRow));
+    const steps::Step& last = m_model.steps().at(static_cast<std::size_t>(range.lastRow));
+    range.first = first.first;
+    range.count = last.first + last.count - first.first;
+    return range;
+}
+
+void KeysView::select(std::size_t firstLine, std::size_t count) {
+    QItemSelection selection;
+    int current = -1;
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const steps::Step& step = m_model.steps()[static_cast<std::size_t>(row)];
+        if (step.first >= firstLine + std::max<std::size_t>(count, 1)) break;
+        if (step.first + step.count <= firstLine) continue;
+        selection.select(m_model.index(row), m_model.index(row));
+        current = row;
+    }
+    if (current < 0) return;
+    m_list->setCurrentIndex(m_model.index(current));
+    m_list->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+void KeysView::edit(const steps::Splice& splice, std::size_t firstLine, std::size_t count) {
+    m_notice->setNotice({});
+    emit editWanted(splice);
+    select(firstLine, count);
+}
+
+void KeysView::refuse(const Error& why) {
+    m_notice->setNotice(
+        QString::fromStdString(why.hint.empty() ? why.message : why.message + " " + why.hint));
+}
+
+void KeysView::remove() {
+    const Range range = selected();
+    if (range.count > 0) edit(m_model.recording().erased(range.first, range.count), range.first, 1);
+}
+
+void KeysView::moveUp() {
+    const Range range = selected();
+    if (range.count == 0 || range.firstRow == 0) return;
+    const std::size_t before = m_model.steps().at(static_cast<std::size_t>(range.firstRow) - 1).first;
+    edit(m_model.recording().moved(range.first, range.count, before), before, range.count);
+}
+
+void KeysView::moveDown() {
+    const Range range = selected();
+    if (range.count == 0 || range.lastRow + 1 >= m_model.rowCount()) return;
+    const steps::Step& passed = m_model.steps().at(static_cast<std::size_t>(range.lastRow) + 1);
+    edit(m_model.recording().moved(range.first, range.count, passed.first + passed.count),
+         range.first + passed.count, range.count);
+}
+
+void KeysView::duplicate() {
+    const Range range = selected();
+    if (range.count > 0)
+        edit(m_model.recording().repeated(range.first, range.count, 2), range.first + range.count,
+             range.count);
+}
+
+void KeysView::change() {
+    if (m_list->currentIndex().isValid()) m_list->edit(m_list->currentIndex());
+}
+
+void KeysView::insertPause() { insertLines(steps::pauseLines(newPause)); }
+
+void KeysView::insertLines(const std::string& lines) {
+    if (!m_model.isRecording()) return;
+    const Range range = selected();
+    const std::size_t at = range.count > 0 ? range.first + range.count : m_model.recording().lines().size();
+    edit(m_model.recording().replaced(at, 0, lines), at, 1);
+}
+
+void KeysView::convertToText() {
+    const Range range = selected();
+    if (range.count == 0) return;
+    const auto splice = steps::convertedToText(m_model.recording(), range.first, range.count, m_layout);
+    if (splice) edit(*splice, range.first, 1);
+}
+
+void KeysView::convertToKeys() {
+    const Range range = selected();
+    if (range.count == 0) return;
+    const auto splice = steps::convertedToKeys(m_model.recording(), range.first, range.count, m_layout);
+    if (!splice) return refuse(splice.error());
+    if (splice.value()) edit(*splice.value(), range.first, 1);
+}

@@ -1,0 +1,297 @@
+// SPDX-License-Identifier: MIT
+#include "app/controller/MacrosDesk.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QListView>
+#include <QPushButton>
+#include <QTimer>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+
+#include "app/AppTest.h"
+#include "app/macros/KeysView.h"
+#include "app/macros/MacroEditor.h"
+#include "app/macros/MacroListModel.h"
+#include "app/macros/MacrosWindow.h"
+#include "app/macros/ScriptEditor.h"
+#include "app/widgets/NoticeLine.h"
+#include "core/MacroManager.h"
+#include "platform/Modifiers.h"
+#include "platform/linux/LocalMacroFiles.h"
+#include "support/Child.h"
+#include "support/Keys.h"
+
+namespace {
+
+std::string recording(const std::string& lines) {
+    return std::string(steps::firstLine) + lines + std::string(steps::lastLine);
+}
+
+const std::string a = recording(steps::keyLines(key::a, 0));
+const std::string ab = recording(steps::keyLines(key::a, 0) + steps::keyLines(key::b, 0));
+
+/// The desk on a folder with Greeting ("a") and work/Mail, and a trash of its own.
+class MacrosDeskTest : public AppTest {
+  protected:
+    MacrosDeskTest() : m_dataHome(qgetenv("XDG_DATA_HOME")) {
+        qputenv("XDG_DATA_HOME", QByteArray::fromStdString(m_home.file("data")));
+        std::filesystem::create_directories(folder + "/work");
+        write("Greeting", a);
+        write("work/Mail", "tell application \"System Events\" to keystroke \"Kind regards\"\n");
+        desk.show();
+    }
+    ~MacrosDeskTest() override {
+        if (m_dataHome.isNull()) {
+            qunsetenv("XDG_DATA_HOME");
+        } else {
+            qputenv("XDG_DATA_HOME", m_dataHome);
+        }
+    }
+
+    std::string file(const std::string& name) const { return folder + "/" + name + ".keyrill"; }
+    void write(const std::string& name, const std::string& text) const { std::ofstream(file(name)) << text; }
+    std::string draftFolder() const { return m_home.file("state"); }
+    std::map<std::string, std::string> drafts() const { return DraftFiles(draftFolder()).all(); }
+    bool isThere(const std::string& name) const { return std::filesystem::exists(file(name)); }
+
+    MacrosWindow& window() { return *desk.window(); }
+    MacroEditor& editor() { return window().editor(); }
+    void choose(const std::string& name) { window().choose(name + ".keyrill"); }
+    std::string names() {
+        std::string all;
+        for (const MacroListItem& item : window().list().items())
+            all += (all.empty() ? "" : "|") + item.path.substr(0, item.path.find(".keyrill"));
+        return all;
+    }
+    /// Lets the loop run until that is so.
+    static bool soon(const std::function<bool()>& isSo) {
+        QTimer deadline;
+        deadline.setSingleShot(true);
+        deadline.start(10'000);
+        while (!isSo() && deadline.isActive())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+        return isSo();
+    }
+    QPushButton& button(const char* title) {
+        for (auto* button : window().findChildren<QPushButton*>()) {
+            if (button->text().remove(u'&') == QLatin1String(title)) return *button;
+        }
+        throw std::runtime_error(title);
+    }
+    std::string warning() {
+        for (auto* line : window().findChildren<NoticeLine*>()) {
+            if (!line->notice().isEmpty() && line->isVisible()) return line->notice().toStdString();
+        }
+        return {};
+    }
+
+  private:
+    TemporaryFolder m_home;
+    QByteArray m_dataHome;
+
+  protected:
+    const std::string folder = m_home.file("data/keyrill");
+    LocalMacroFiles files{m_home.path(), m_home.file("data")};
+    ScriptNotices notices{platform().scripting, platform().notifications};
+    Gate gate{platform().eventMonitor, [] {}};
+    Stage stage{windows, [this] { return std::vector<QWidget*>{desk.window()}; }};
+    MacrosDesk desk{{files, platform().keyboardLayout, platform().scripting, notices, gate, stage,
+                     DraftFiles(m_home.file("state"))}};
+};
+
+TEST_F(MacrosDeskTest, listsTheMacroFolder) {
+    EXPECT_EQ(names(), "Greeting|work/Mail");
+    EXPECT_EQ(window().list().items()[1].group, QStringLiteral("work"));
+    choose("Greeting");
+    EXPECT_EQ(editor().text(), a);
+}
+
+TEST_F(MacrosDeskTest, followsWhatOthersDoInTheFolder) {
+    write("New", a);
+    EXPECT_TRUE(soon([this] { return names() == "Greeting|New|work/Mail"; })) << names();
+    std::filesystem::create_directory(folder + "/more");
+    write("more/Deep", a);
+    std::filesystem::rename(file("Greeting"), file("Hello"));
+    EXPECT_TRUE(soon([this] { return names() == "Hello|New|more/Deep|work/Mail"; })) << names();
+    std::filesystem::remove(file("New"));
+    EXPECT_TRUE(soon([this] { return names() == "Hello|more/Deep|work/Mail"; })) << names();
+}
+
+TEST_F(MacrosDeskTest, savesWhatWasChanged) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    EXPECT_EQ(contentOf(file("Greeting")), a);
+    button("Save").click();
+    EXPECT_EQ(contentOf(file("Greeting")), ab);
+    EXPECT_FALSE(editor().isChanged());
+    EXPECT_FALSE(button("Save").isEnabled());
+}
+
+TEST_F(MacrosDeskTest, whatIsNotSavedStaysWhateverElseIsChosen) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    choose("work/Mail");
+    EXPECT_FALSE(editor().isChanged());
+    choose("Greeting");
+    EXPECT_EQ(editor().text(), ab);
+    EXPECT_TRUE(editor().isChanged());
+    EXPECT_EQ(window().list().data(window().list().indexOf("Greeting.keyrill"), Qt::DisplayRole).toString(),
+              QString::fromUtf8("Greeting •"));
+}
+
+TEST_F(MacrosDeskTest, aFileThatCannotBeWrittenKeepsItsTextAndTheChange) {
+    choose("Greeting");
+    editor().showScriptTab(true);
+    editor().script().changeScript("keystroke \"é\"\n");
+    button("Save").click();
+    EXPECT_NE(warning().find("é"), std::string::npos) << warning();
+    EXPECT_EQ(contentOf(file("Greeting")), a);
+    EXPECT_TRUE(editor().isChanged());
+}
+
+TEST_F(MacrosDeskTest, aMacroThatOthersChangeIsShownAnewUnlessItIsBeingEdited) {
+    choose("Greeting");
+    // As editors do.
+    write("Greeting.new", ab);
+    std::filesystem::rename(file("Greeting.new"), file("Greeting"));
+    EXPECT_TRUE(soon([this] { return editor().text() == ab; }));
+    editor().keys().insertLines(steps::pauseLines(1));
+    const std::string mine = editor().text();
+    write("Greeting.new", a);
+    std::filesystem::rename(file("Greeting.new"), file("Greeting"));
+    EXPECT_TRUE(soon([this] { return !warning().empty(); }));
+    EXPECT_EQ(warning(), "Another program has changed this macro. If you save, your text replaces it.");
+    EXPECT_EQ(editor().text(), mine);
+}
+
+TEST_F(MacrosDeskTest, renamesTheFileAndKeepsWhatIsNotSaved) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    window().list().setData(window().list().indexOf("Greeting.keyrill"), QStringLiteral("Hello"),
+                            Qt::EditRole);
+    EXPECT_TRUE(soon([this] { return names() == "Hello|work/Mail"; })) << names();
+    EXPECT_EQ(window().chosen(), "Hello.keyrill");
+    EXPECT_EQ(editor().text(), ab);
+    button("Save").click();
+    EXPECT_EQ(contentOf(file("Hello")), ab);
+    EXPECT_FALSE(isThere("Greeting"));
+}
+
+TEST_F(MacrosDeskTest, aNameThatCannotBeGivenIsToldAndNothingIsOverwritten) {
+    choose("Greeting");
+    write("Hello", "other");
+    window().list().setData(window().list().indexOf("Greeting.keyrill"), QStringLiteral("Hello"),
+                            Qt::EditRole);
+    EXPECT_EQ(warning(), "There is already a macro called \"Hello.keyrill\".");
+    EXPECT_EQ(contentOf(file("Hello")), "other");
+    EXPECT_EQ(contentOf(file("Greeting")), a);
+}
+
+TEST_F(MacrosDeskTest, aCopyIsChosenToBeNamed) {
+    choose("Greeting");
+    button("Duplicate").click();
+    EXPECT_TRUE(soon([this] { return window().chosen() == "Greeting 2.keyrill"; }));
+    EXPECT_EQ(contentOf(file("Greeting 2")), a);
+}
+
+TEST_F(MacrosDeskTest, whatIsDeletedComesBackFromTheTrash) {
+    choose("Greeting");
+    button("Delete").click();
+    EXPECT_TRUE(soon([this] { return names() == "work/Mail"; })) << names();
+    EXPECT_EQ(window().chosen(), "");
+    button("Undo").click();
+    EXPECT_TRUE(soon([this] { return window().chosen() == "Greeting.keyrill"; }));
+    EXPECT_EQ(contentOf(file("Greeting")), a);
+}
+
+TEST_F(MacrosDeskTest, playsIntoTheWindowBeforeWhatIsShown) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    platform().scripting.duringEachRun([this] { EXPECT_FALSE(window().isVisible()); });
+    emit window().playWanted();
+    EXPECT_EQ(platform().scripting.runs(), std::vector<std::string>{ab});
+    EXPECT_EQ(windows.calls().back(), "awaitFocusElsewhere(hidden)");
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_EQ(window().windowOpacity(), 1);
+    EXPECT_FALSE(state().currentMacro) << "what Play plays stays";
+}
+
+TEST_F(MacrosDeskTest, aRecordingBecomesAMacroToBeNamed) {
+    button("Record New").click();
+    EXPECT_TRUE(state().recording);
+    EXPECT_FALSE(window().isVisible());
+    desk.takeRecording(*[] {
+        auto macro = MacroManager::createMacro();
+        macro->setScript(ab);
+        return macro;
+    }());
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_TRUE(soon([this] { return window().chosen() == "New Macro.keyrill"; }));
+    EXPECT_EQ(contentOf(file("New Macro")), ab);
+}
+
+TEST_F(MacrosDeskTest, aRecordingBecomesKeysOfTheMacro) {
+    choose("Greeting");
+    emit window().keysWanted();
+    auto macro = MacroManager::createMacro();
+    macro->setScript(recording(steps::keyLines(key::b, 0)));
+    desk.takeRecording(*macro);
+    EXPECT_EQ(editor().text(), ab);
+    // Others are none of the window's.
+    desk.takeRecording(*macro);
+    EXPECT_EQ(editor().text(), ab);
+}
+
+TEST_F(MacrosDeskTest, anEmptyRecordingBringsTheWindowBack) {
+    button("Record New").click();
+    desk.recordingEnded();
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_EQ(names(), "Greeting|work/Mail");
+}
+
+TEST_F(MacrosDeskTest, whatIsNotSavedOutlivesTheProgram) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    ASSERT_TRUE(soon([this] { return drafts().size() == 1; }));
+    EXPECT_EQ(drafts().begin()->second, ab);
+    // The file goes too.
+    std::filesystem::remove(file("Greeting"));
+    Stage otherStage(windows, [] { return std::vector<QWidget*>(); });
+    MacrosDesk next({files, platform().keyboardLayout, platform().scripting, notices, gate, otherStage,
+                     DraftFiles(draftFolder())});
+    next.show();
+    next.window()->choose("Greeting.keyrill");
+    EXPECT_EQ(next.window()->editor().text(), ab);
+    emit next.window()->saveWanted();
+    EXPECT_EQ(contentOf(file("Greeting")), ab);
+    EXPECT_TRUE(soon([this] { return drafts().empty(); }));
+}
+
+TEST_F(MacrosDeskTest, whatIsNotSavedGoesToTheTrashAndComesBackWithItsMacro) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    button("Delete").click();
+    EXPECT_TRUE(soon([this] { return names() == "work/Mail"; })) << names();
+    button("Undo").click();
+    EXPECT_TRUE(soon([this] { return window().chosen() == "Greeting.keyrill"; }));
+    EXPECT_EQ(editor().text(), ab);
+    EXPECT_EQ(contentOf(file("Greeting")), a);
+}
+
+TEST_F(MacrosDeskTest, whatMacrosTypeIsFound) {
+    ASSERT_TRUE(soon([this] { return window().list().hasContent("work/Mail.keyrill"); }));
+    window().list().setQuery(QStringLiteral("kind reg"));
+    EXPECT_TRUE(soon([this] { return window().list().rowCount() == 2; }));
+    EXPECT_TRUE(window().list().indexOf("work/Mail.keyrill").isValid());
+}
+
+TEST_F(MacrosDeskTest, aFileThatCannotBeReadSaysSo) {
+    std::filesystem::remove(file("Greeting"));
+    choose("Greeting");
+    EXPECT_NE(warning().find("Greeting.keyrill"), std::string::npos) << warning();
+    EXPECT_FALSE(button("Play").isEnabled());
+}
+
+}  // namespace

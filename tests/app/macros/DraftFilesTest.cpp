@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "app/macros/DraftFiles.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "support/Child.h"
+
+namespace {
+
+using Drafts = std::map<std::string, std::string>;
+
+class DraftFilesTest : public testing::Test {
+  protected:
+    unsigned modeOf(const std::string& path) const {
+        struct stat state {};
+        return stat(path.c_str(), &state) == 0 ? state.st_mode & 0777U : 0;
+    }
+    TemporaryFolder root;
+    const std::string folder = root.file("state/keyrill/unsaved");
+    DraftFiles drafts{folder};
+};
+
+TEST_F(DraftFilesTest, nothingIsMadeBeforeThereIsSomethingToKeep) {
+    EXPECT_EQ(drafts.all(), Drafts{});
+    drafts.forget("Greeting.keyrill");
+    EXPECT_FALSE(std::filesystem::exists(root.file("state")));
+}
+
+TEST_F(DraftFilesTest, keepsTextsByTheirPathsForTheUserAlone) {
+    const Drafts kept = {{"Greeting.keyrill", "one\n\ntwo é"}, {"work/é \xff.keyrill", ""}};
+    for (const auto& [path, text] : kept) ASSERT_TRUE(drafts.keep(path, text));
+    EXPECT_EQ(drafts.all(), kept);
+    EXPECT_EQ(DraftFiles(folder).all(), kept);
+    EXPECT_EQ(modeOf(folder), 0700U);
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        EXPECT_EQ(modeOf(entry.path()), 0600U);
+}
+
+TEST_F(DraftFilesTest, theLatestTextCounts) {
+    ASSERT_TRUE(drafts.keep("a", "first and longer"));
+    ASSERT_TRUE(drafts.keep("a", "second"));
+    EXPECT_EQ(drafts.all(), (Drafts{{"a", "second"}}));
+}
+
+TEST_F(DraftFilesTest, whatIsForgottenLeavesNoFile) {
+    ASSERT_TRUE(drafts.keep("a", "text"));
+    drafts.forget("a");
+    EXPECT_TRUE(std::filesystem::is_empty(folder));
+}
+
+TEST_F(DraftFilesTest, aFileThatIsNoDraftIsNoneAndAHalfOneNeither) {
+    ASSERT_TRUE(drafts.keep("a", "text"));
+    std::ofstream(folder + "/note.txt") << "a\ntext";
+    std::ofstream(folder + "/00.draft") << "b\ntext";
+    std::ofstream(folder + "/00.draft.new") << "c\nte";
+    EXPECT_EQ(drafts.all(), (Drafts{{"a", "text"}}));
+}
+
+TEST_F(DraftFilesTest, tellsWhereItCannotWrite) {
+    std::filesystem::create_directories(root.file("state/keyrill"));
+    std::ofstream(folder) << "a file in the folder's place";
+    EXPECT_EQ(drafts.keep("a", "text").error().message,
+              "The folder " + folder + " cannot be written to: Not a directory.");
+}
+
+}  // namespace

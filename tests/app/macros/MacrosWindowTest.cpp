@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#include "app/macros/MacrosWindow.h"
+
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QTimer>
+#include <QTimerEvent>
+
+#include "app/macros/KeysView.h"
+#include "app/macros/MacroEditor.h"
+#include "app/macros/MacroListModel.h"
+#include "app/macros/ScriptEditor.h"
+#include "engine/EngineTest.h"
+
+namespace {
+
+const std::string script =
+    "tell application \"System Events\"\n\tkey code (0) using {}\ndelay 0.01\nend tell\n";
+
+class MacrosWindowTest : public EngineTest {
+  protected:
+    MacrosWindowTest() {
+        QObject::connect(&window, &MacrosWindow::chosenChanged, [this](const std::string& path) {
+            told.push_back("choose " + path);
+            if (!path.empty()) window.showMacro(script, script);
+        });
+        QObject::connect(&window, &MacrosWindow::saveWanted, [this] { told.emplace_back("save"); });
+        QObject::connect(&window, &MacrosWindow::playPressed, [this] { told.emplace_back("press play"); });
+        QObject::connect(&window, &MacrosWindow::playWanted, [this] { told.emplace_back("play"); });
+        QObject::connect(&window, &MacrosWindow::deleteWanted,
+                         [this](const std::string& path) { told.push_back("delete " + path); });
+        QObject::connect(&window, &MacrosWindow::duplicateWanted,
+                         [this](const std::string& path) { told.push_back("duplicate " + path); });
+        window.setItems({{"Greeting.keyrill", QStringLiteral("Greeting"), {}},
+                         {"work/Mail.keyrill", QStringLiteral("Mail"), QStringLiteral("work")}});
+        window.show();
+    }
+    QPushButton& button(const char* title) {
+        for (auto* button : window.findChildren<QPushButton*>()) {
+            if (button->text().remove(u'&') == QLatin1String(title)) return *button;
+        }
+        throw std::runtime_error(title);
+    }
+    void press(int key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+    void aSecondPasses() {
+        for (auto* timer : window.findChildren<QTimer*>({}, Qt::FindDirectChildrenOnly)) {
+            QTimerEvent event(timer->timerId());
+            if (timer->isActive()) QCoreApplication::sendEvent(timer, &event);
+        }
+    }
+    QListView& list() { return *window.findChild<QListView*>(); }
+    QLineEdit& search() { return *window.findChild<QLineEdit*>(); }
+
+    std::vector<std::string> told;
+    MacrosWindow window{platform().keyboardLayout};
+};
+
+using Told = std::vector<std::string>;
+
+TEST_F(MacrosWindowTest, showsTheMacroThatIsChosen) {
+    EXPECT_FALSE(window.editor().isEnabled());
+    window.choose("Greeting.keyrill");
+    EXPECT_EQ(told, Told{"choose Greeting.keyrill"});
+    EXPECT_TRUE(window.editor().isEnabled());
+    EXPECT_EQ(window.editor().text(), script);
+}
+
+TEST_F(MacrosWindowTest, theChoiceStaysWhileTheListBecomesAnother) {
+    window.choose("work/Mail.keyrill");
+    told.clear();
+    search().setText(QStringLiteral("greet"));
+    EXPECT_EQ(window.chosen(), "work/Mail.keyrill");
+    search().clear();
+    EXPECT_EQ(list().currentIndex(), window.list().indexOf("work/Mail.keyrill"));
+    window.setItems({{"work/Mail.keyrill", QStringLiteral("Mail"), QStringLiteral("work")}});
+    EXPECT_EQ(window.chosen(), "work/Mail.keyrill");
+    EXPECT_EQ(told, Told{});
+}
+
+TEST_F(MacrosWindowTest, aMacroThatASearchHidesIsShownWhenItIsChosen) {
+    search().setText(QStringLiteral("greet"));
+    window.choose("work/Mail.keyrill");
+    EXPECT_EQ(search().text(), QString());
+    EXPECT_EQ(window.chosen(), "work/Mail.keyrill");
+}
+
+TEST_F(MacrosWindowTest, offersWhatCanBeDone) {
+    for (const char* title : {"Play", "Save", "Duplicate", "Rename", "Delete"})
+        EXPECT_FALSE(button(title).isEnabled()) << title;
+    window.choose("Greeting.keyrill");
+    for (const char* title : {"Play", "Duplicate", "Rename", "Delete"})
+        EXPECT_TRUE(button(title).isEnabled()) << title;
+    EXPECT_FALSE(button("Save").isEnabled());
+    window.editor().keys().insertLines(steps::pauseLines(1));
+    EXPECT_TRUE(button("Save").isEnabled());
+    button("Save").click();
+    button("Duplicate").click();
+    button("Delete").click();
+    EXPECT_EQ(told, (Told{"choose Greeting.keyrill", "save", "duplicate Greeting.keyrill",
+                          "delete Greeting.keyrill"}));
+    window.showFault(QStringLiteral("It cannot be read."));
+    EXPECT_FALSE(button("Play").isEnabled());
+    EXPECT_TRUE(button("Delete").isEnabled());
+}
+
+TEST_F(MacrosWindowTest, countsBeforeItPlaysUnlessEscapeEndsIt) {
+    window.choose("Greeting.keyrill");
+    told.clear();
+    button("Play").click();
+    EXPECT_EQ(told, Told{"press play"});
+    window.countDown();
+    EXPECT_TRUE(window.isCounting());
+    EXPECT_FALSE(button("Delete").isEnabled());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(window.isCounting());
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(button("Delete").isEnabled());
+    window.countDown();
+    aSecondPasses();
+    aSecondPasses();
+    EXPECT_TRUE(window.isCounting());
+    aSecondPasses();
+    EXPECT_FALSE(window.isCounting());
+    EXPECT_EQ(told, (Told{"press play", "play"}));
+}
+
+TEST_F(MacrosWindowTest, escapeClosesNothing) {
+    search().setText(QStringLiteral("greet"));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(search().text(), QString());
+}
+
+TEST_F(MacrosWindowTest, aNameIsTypedInTheList) {
+    std::string typed;
+    QObject::connect(
+        &window, &MacrosWindow::renameWanted,
+        [&typed](const std::string& path, const QString& name) { typed = path + " " + name.toStdString(); });
+    window.beginRename("Greeting.keyrill");
+    auto* field = list().findChild<QLineEdit*>();
+    ASSERT_NE(field, nullptr);
+    EXPECT_EQ(field->text(), QStringLiteral("Greeting"));
+    field->setText(QStringLiteral("Hello"));
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(field, &event);
+    EXPECT_EQ(typed, "Greeting.keyrill Hello");
+}
+
+TEST_F(MacrosWindowTest, tellsAndOffersSomethingToDo) {
+    int actions = 0;
+    QObject::connect(&window, &MacrosWindow::actionWanted, [&actions] { ++actions; });
+    window.tell(QStringLiteral("In the trash."), QStringLiteral("Undo"));
+    button("Undo").click();
+    EXPECT_EQ(actions, 1);
+    window.warn(QStringLiteral("No."));
+    EXPECT_THROW(button("Undo"), std::runtime_error);
+}
+
+/// All that can have the focus has a name and a role that fits it.
+TEST_F(MacrosWindowTest, assistiveTechnologyKnowsEachControl) {
+    window.choose("Greeting.keyrill");
+    for (const bool isScript : {false, true}) {
+        window.editor().showScriptTab(isScript);
+        for (auto* widget : window.findChildren<QWidget*>()) {
+            const bool isUsed = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isVisible();
+            if (!isUsed) continue;
+            QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(widget);
+            ASSERT_NE(face, nullptr);
+            EXPECT_NE(face->text(QAccessible::Name), QString()) << widget->metaObject()->className();
+            EXPECT_NE(face->role(), QAccessible::Client) << widget->metaObject()->className();
+        }
+    }
+    QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&list());
+    EXPECT_EQ(face->role(), QAccessible::List);
+    EXPECT_EQ(face->child(0)->text(QAccessible::Name), QStringLiteral("Greeting"));
+}
+
+}  // namespace

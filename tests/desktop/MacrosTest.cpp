@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include <filesystem>
+#include <fstream>
+
+#include "desktop/DesktopTest.h"
+#include "desktop/StatusMenuClicks.h"
+
+namespace {
+
+constexpr const char* macros = "Macros";
+/// Of the entries that can be chosen before anything was recorded.
+constexpr int macrosEntry = 3;
+
+/// "abc" as it is recorded.
+constexpr const char* recordedAbc =
+    "tell application \"System Events\"\n"
+    "\tkey code (0) using {}\ndelay 0.01\n"
+    "\tkey code (11) using {}\ndelay 0.01\n"
+    "\tkey code (8) using {}\ndelay 0.01\n"
+    "end tell\n";
+
+/// Somebody with a terminal, a tray and one macro, "Greeting", who has never seen the window of the macros.
+class MacrosTest : public DesktopTest {
+  protected:
+    MacrosTest() {
+        desktop.startTray();
+        std::filesystem::create_directories(folder);
+        std::ofstream(file("Greeting")) << recordedAbc;
+        terminal.emplace(desktop.display());
+        keyrill.emplace(desktop);
+    }
+    std::string file(const std::string& name) const { return folder + "/" + name + ".keyrill"; }
+    bool holds(const std::string& name, const std::string& text) const {
+        return eventually([&] { return contentOf(file(name)) == text; });
+    }
+    /// By the menu, and the first macro of the list by the search field.
+    void openGreeting() const {
+        StatusMenuClicks menu(desktop);
+        menu.open();
+        menu.chooseByKeys(macrosEntry);
+        giveFocus(macros);
+        press("ctrl+f");
+        type("greet");
+        press("Return");
+    }
+    void type(const std::string& text) const { desktop.run({"xdotool", "type", text}); }
+    /// Into the window that was used before, which is the terminal.
+    void play() const {
+        press("alt+p");
+        EXPECT_TRUE(eventually([this] { return !desktop.shows(macros); })) << "no play";
+    }
+
+    const std::string folder = desktop.home() + "/.local/share/keyrill";
+    std::optional<Terminal> terminal;
+    std::optional<Keyrill> keyrill;
+};
+
+TEST_F(MacrosTest, aLineIsChangedUnderScriptSavedAndPlayed) {
+    openGreeting();
+    press("alt+c");
+    press("ctrl+Home");
+    for (int line = 0; line < 3; ++line) press("Down");
+    press("Home");
+    press("shift+End");
+    type("\tkeystroke \"XY\"");
+    press("ctrl+s");
+    std::string changed = recordedAbc;
+    changed.replace(changed.find("\tkey code (11) using {}"), 22, "\tkeystroke \"XY\"");
+    EXPECT_TRUE(holds("Greeting", changed)) << contentOf(file("Greeting"));
+    play();
+    EXPECT_EQ(terminal->typed(4), "aXYc");
+}
+
+TEST_F(MacrosTest, aKeyIsChangedUnderKeysAndPlayed) {
+    openGreeting();
+    press("alt+k");
+    press("Home");
+    press("F2");
+    press("ctrl+a");
+    type("axc");
+    press("Return");
+    press("ctrl+s");
+    std::string changed = recordedAbc;
+    changed.replace(changed.find("(11)"), 4, "(7)");
+    EXPECT_TRUE(holds("Greeting", changed)) << contentOf(file("Greeting"));
+    play();
+    EXPECT_EQ(terminal->typed(3), "axc");
+}
+
+TEST_F(MacrosTest, escapeEndsTheCountAndNothingIsPlayed) {
+    openGreeting();
+    press("alt+p");
+    press("Escape");
+    // A second count begins where the first has ended.
+    press("alt+p");
+    EXPECT_TRUE(eventually([this] { return !desktop.shows(macros); }));
+    EXPECT_EQ(terminal->typed(3), "abc");
+    desktop.awaitWindow(macros);
+    EXPECT_EQ(terminal->typed(), "abc");
+}
+
+TEST_F(MacrosTest, theFileIsRenamedByTheUserAndByOthers) {
+    openGreeting();
+    press("F2");
+    press("ctrl+a");
+    type("Hello");
+    press("Return");
+    EXPECT_TRUE(holds("Hello", recordedAbc));
+    EXPECT_FALSE(std::filesystem::exists(file("Greeting")));
+    desktop.run({"mv", file("Hello"), file("Greeting")});
+    press("ctrl+f");
+    type("greet");
+    press("Return");
+    press("Delete");
+    EXPECT_TRUE(eventually([this] { return !std::filesystem::exists(file("Greeting")); }));
+    EXPECT_TRUE(std::filesystem::exists(desktop.home() + "/.local/share/Trash/files/Greeting.keyrill"));
+}
+
+}  // namespace
