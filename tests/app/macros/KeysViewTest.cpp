@@ -175,7 +175,7 @@ TEST_F(KeysViewTest, anyOtherScriptShowsWhatItWouldPress) {
     for (const char* title :
          {"Record Keys", "Add Pause", "Remove", "Up", "Down", "Repeat", "Change", "Convert to Text"})
         EXPECT_FALSE(action(title).isEnabled()) << title;
-    EXPECT_EQ(list().model()->flags(list().model()->index(0, 0)) & Qt::ItemIsEditable, 0);
+    EXPECT_FALSE(list().model()->flags(list().model()->index(0, 0)).testFlag(Qt::ItemIsEditable));
 }
 
 TEST_F(KeysViewTest, tellsWhyAScriptShowsNothing) {

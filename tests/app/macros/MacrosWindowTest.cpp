@@ -151,6 +151,8 @@ TEST_F(MacrosWindowTest, aNameIsTypedInTheList) {
     field->setText(QStringLiteral("Hello"));
     QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QCoreApplication::sendEvent(field, &event);
+    // The field is closed first.
+    QCoreApplication::processEvents();
     EXPECT_EQ(typed, "Greeting.keyrill Hello");
 }
 

@@ -21,9 +21,9 @@ std::string read(const QString& line, ScriptLineState begin = 0) {
 
 TEST(ScriptColoursTest, readsAsTheLanguageDoes) {
     EXPECT_EQ(read(QStringLiteral("tell application \"System Events\"")),
-              "keyword:tell keyword:application text:\"System Events\"");
+              "keyword:tell command:application text:\"System Events\"");
     EXPECT_EQ(read(QStringLiteral("\tkey code (1) using {command down}")),
-              "command:key command:code number:1 keyword:using command:command command:down");
+              "command:key command:code number:1 command:using command:command command:down");
     EXPECT_EQ(read(QStringLiteral("set greeting to 3")), "keyword:set keyword:to number:3");
     EXPECT_EQ(read(QString()), "");
 }
