@@ -47,6 +47,8 @@ KeysView::KeysView(const KeyboardLayout& layout, QWidget* parent)
     connect(&m_model, &StepsModel::editWanted, this, [this](const steps::Splice& splice) {
         m_notice->setNotice({});
         emit editWanted(splice);
+        // The field that was typed into has gone with the old steps.
+        m_list->setFocus();
     });
     connect(&m_model, &StepsModel::refused, this, &KeysView::refuse);
     m_list->setContextMenuPolicy(Qt::ActionsContextMenu);

@@ -51,7 +51,7 @@ class MacrosWindowTest : public EngineTest {
         QCoreApplication::sendEvent(&window, &event);
     }
     void aSecondPasses() {
-        for (auto* timer : window.findChildren<QTimer*>({}, Qt::FindDirectChildrenOnly)) {
+        for (auto* timer : window.findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly)) {
             QTimerEvent event(timer->timerId());
             if (timer->isActive()) QCoreApplication::sendEvent(timer, &event);
         }
