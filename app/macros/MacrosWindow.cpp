@@ -50,7 +50,7 @@ MacrosWindow::MacrosWindow(const KeyboardLayout& layout)
     connect(m_model, &MacroListModel::renameWanted, this, &MacrosWindow::renameWanted);
     connect(m_model, &QAbstractItemModel::modelReset, this, &MacrosWindow::restoreSelection);
     connect(m_editor, &MacroEditor::edited, this, [this] {
-        if (m_told->isVisible()) tell({});
+        if (m_told->isVisible() && !m_action->isVisible()) tell({});
         updateButtons();
         emit textEdited();
     });
