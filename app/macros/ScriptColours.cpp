@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/script/source/Lexer.h"
 
@@ -107,10 +108,11 @@ ScriptLine readScriptLine(const QString& line, ScriptLineState begin) {
         const auto at = static_cast<std::size_t>(token.text.data() - source.data());
         addComments(writer, source, behind, at);
         if (token.kind == TokenKind::endOfScript) break;
-        behind = at + token.text.size();
+        const std::size_t gap = std::exchange(behind, at + token.text.size());
         if (const auto part = partOf(token)) writer.add(at, behind, *part);
         if (token.kind == TokenKind::openText) end = inText;
-        if (token.kind == TokenKind::openComment) end = inText + depthOf(token.text);
+        if (token.kind == TokenKind::openComment)
+            end = inText + depthOf(std::string_view(source).substr(gap));
     }
     return {std::move(writer.spans), end};
 }

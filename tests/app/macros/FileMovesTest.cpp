@@ -16,6 +16,7 @@ class FileMovesTest : public testing::Test {
   protected:
     FileMovesTest() : m_dataHome(qgetenv("XDG_DATA_HOME")) {
         qputenv("XDG_DATA_HOME", QByteArray::fromStdString(m_folder.file("data")));
+        std::filesystem::create_directories(m_folder.file("data"));
         std::ofstream(greeting) << "text \xff\r\n";
     }
     ~FileMovesTest() override {

@@ -179,7 +179,7 @@ TEST_F(KeysViewTest, anyOtherScriptShowsWhatItWouldPress) {
 }
 
 TEST_F(KeysViewTest, tellsWhyAScriptShowsNothing) {
-    show("delay delay\n");
+    show("tell application\n");
     EXPECT_EQ(rows(), "");
     EXPECT_TRUE(notice().starts_with("Line 1: ")) << notice();
     show("repeat\ndelay 1\nend repeat\n");

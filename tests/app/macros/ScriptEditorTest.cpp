@@ -53,7 +53,7 @@ TEST_F(ScriptEditorTest, makesRoomBelowTheLineForIt) {
     editor.setScript("delay 1\ndelay 1\n");
     const qreal without =
         editor.document()->documentLayout()->blockBoundingRect(editor.document()->begin()).height();
-    editor.setScript("delay delay\ndelay 1\n");
+    editor.setScript("tell application\ndelay 1\n");
     ASSERT_EQ(editor.problems().size(), 1U);
     const QTextBlock first = editor.document()->begin();
     EXPECT_GT(editor.document()->documentLayout()->blockBoundingRect(first).height(), without);
