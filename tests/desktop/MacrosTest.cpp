@@ -62,7 +62,8 @@ TEST_F(MacrosTest, aLineIsChangedUnderScriptSavedAndPlayed) {
     type("\tkeystroke \"XY\"");
     press("ctrl+s");
     std::string changed = recordedAbc;
-    changed.replace(changed.find("\tkey code (11) using {}"), 22, "\tkeystroke \"XY\"");
+    const std::string line = "\tkey code (11) using {}";
+    changed.replace(changed.find(line), line.size(), "\tkeystroke \"XY\"");
     EXPECT_TRUE(holds("Greeting", changed)) << contentOf(file("Greeting"));
     play();
     EXPECT_EQ(terminal->typed(4), "aXYc");
