@@ -78,6 +78,12 @@ class KeyboardContract : public testing::TestWithParam<KeyboardWorldFactory> {
             case KeyEventKind::keyUp:
                 line << "up " << event.keyCode;
                 break;
+            case KeyEventKind::modifierKeyDown:
+                line << "modifier down " << event.keyCode;
+                break;
+            case KeyEventKind::modifierKeyUp:
+                line << "modifier up " << event.keyCode;
+                break;
             case KeyEventKind::modifiersChanged:
                 line << "modifiers 0x" << std::hex << event.modifiers;
                 break;

@@ -94,8 +94,8 @@ TEST_F(HeldAltTest, withoutPausesReachesTheThirdWindowToo) {
 }
 
 TEST_F(ModifierKeysTest, aTapOfSuperArrivesAsOne) {
-    CoreClient client(desktop.display());
     start("recordModifierKeys=true\n");
+    CoreClient client(desktop.display());
     typed([this] {
         typist.tap(xkey::a);
         typist.tap(xkey::super);

@@ -2,6 +2,7 @@
 //
 // Pauses that become part of a recording by themselves, told by when another program gets the keys.
 #include <algorithm>
+#include <array>
 
 #include "desktop/DesktopTest.h"
 #include "display/CoreClient.h"
@@ -35,40 +36,48 @@ class RecordedPausesTest : public DesktopTest {
     void start(const std::string& settings) {
         desktop.writeSettings("notFirstRun=true\n" + settings);
         keyrill.emplace(desktop);
+        m_client.emplace(desktop.display());
     }
     /// Records what is typed; when the keys came.
     template <typename Typing>
     std::vector<std::uint32_t> typed(Typing typing) {
         stroke(xkey::r);
         desktop.awaitWindow(title::overlay);
-        const std::size_t before = letterTimes(client).size();
+        const std::size_t before = letterTimes(client()).size();
         typing();
         stroke(xkey::s);
         EXPECT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
-        return afterTheFirst(letterTimes(client), before);
+        return afterTheFirst(letterTimes(client()), before);
     }
-    /// Plays so many keys; when they came. The machine may be late with a key, hardly three times with the
-    /// same.
+    /// Plays so many keys three times; when they came, of each the middle one. The machine may be late with a
+    /// key, the first one too, but hardly with the same one twice.
     std::vector<std::uint32_t> played(std::size_t count) {
-        std::vector<std::uint32_t> earliest;
-        for (int play = 0; play < 3; ++play) {
-            const std::size_t before = letterTimes(client).size();
+        std::vector<std::array<std::uint32_t, 3>> plays(count);
+        for (std::size_t play = 0; play < 3; ++play) {
+            const std::size_t before = letterTimes(client()).size();
             stroke(xkey::p);
-            EXPECT_TRUE(eventually([&] { return letterTimes(client).size() == before + count; }));
-            const std::vector<std::uint32_t> times = afterTheFirst(letterTimes(client), before);
-            if (earliest.empty()) earliest = times;
-            for (std::size_t i = 0; i < std::min(earliest.size(), times.size()); ++i) {
-                earliest[i] = std::min(earliest[i], times[i]);
-            }
+            EXPECT_TRUE(eventually([&] { return letterTimes(client()).size() == before + count; }));
+            const std::vector<std::uint32_t> times = afterTheFirst(letterTimes(client()), before);
+            for (std::size_t i = 0; i < std::min(count, times.size()); ++i) plays[i].at(play) = times[i];
         }
-        return earliest;
+        std::vector<std::uint32_t> middle;
+        for (auto& times : plays) {
+            std::sort(times.begin(), times.end());
+            middle.push_back(times[1]);
+        }
+        return middle;
     }
     void stroke(std::uint8_t key) { typist.stroke({xkey::control, xkey::super, key}); }
 
-    CoreClient client{desktop.display()};
     std::optional<Keyrill> keyrill;
     Hands hands{desktop.display()};
     Typist typist{hands, Milliseconds(30)};
+
+  private:
+    CoreClient& client() { return *m_client; }
+
+    /// In front of what the program has shown at its start.
+    std::optional<CoreClient> m_client;
 };
 
 class PauseAsTypedTest : public RecordedPausesTest, public testing::WithParamInterface<Typist::Gap> {};
@@ -86,7 +95,8 @@ TEST_P(PauseAsTypedTest, aMacroTakesAsLongAsItsTyping) {
     ASSERT_EQ(whenTyped.size(), 30U);
     ASSERT_EQ(whenPlayed.size(), whenTyped.size());
     for (std::size_t i = 0; i < whenTyped.size(); ++i) {
-        EXPECT_NEAR(whenPlayed[i], whenTyped[i], 10 + whenTyped[i] * 0.01) << "key " << i;
+        EXPECT_NEAR(whenPlayed[i], whenTyped[i], 10.0 * static_cast<double>(i) + whenTyped[i] * 0.01)
+            << "key " << i;
     }
 }
 
