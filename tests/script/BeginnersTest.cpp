@@ -62,6 +62,6 @@ INSTANTIATE_TEST_SUITE_P(Lessons, BeginnersTest, testing::ValuesIn(readLessons()
     return name;
 });
 
-TEST(BeginnersFileTest, isWhole) { EXPECT_GE(readLessons().size(), 70U); }
+TEST(BeginnersFileTest, isWhole) { EXPECT_GE(readLessons().size(), 130U); }
 
 }  // namespace

@@ -37,6 +37,8 @@ INSTANTIATE_TEST_SUITE_P(
             "Behind “as” stands a class: text, integer, real, number, boolean, list, record, date."},
         Row{"my forgotten", "on f()\nend f\ntell app \"System Events\" to f()",
             "Inside “tell” the script’s own handlers are called with “my”: my f(…)."},
+        Row{"what Return types as a key code", "tell app \"System Events\" to key code return",
+            "The key has a number: key code 36; “keyrill-script keys” prints all."},
         Row{"nothing to say", R"(error "x")", ""}));
 
 }  // namespace

@@ -14,8 +14,11 @@ namespace script {
 namespace {
 
 NameRole roleOf(Command::Plays plays) {
-    if (plays == Command::Plays::codes) return NameRole::keyCode;
-    return plays == Command::Plays::texts ? NameRole::text : NameRole::value;
+    return plays == Command::Plays::codes ? NameRole::keyCode : NameRole::value;
+}
+
+bool joins(const Node& node) {
+    return node.kind == NodeKind::binary && static_cast<BinaryOperator>(node.detail) == BinaryOperator::join;
 }
 
 }  // namespace
@@ -31,7 +34,12 @@ void CommandGenerator::command(const Node& node) {
 
 void CommandGenerator::direct(NodeId value, const Command& command) {
     const std::uint32_t start = m_out.position();
-    m_expressions.expressionAs(roleOf(command.plays), value);
+    if (command.plays == Command::Plays::texts) {
+        m_expressions.typedExpression(value);
+    } else {
+        m_expressions.expressionAs(roleOf(command.plays), value);
+    }
+    if (command.plays == Command::Plays::pauses) return warnOfPause(value);
     if (command.plays == Command::Plays::texts || command.plays == Command::Plays::keys) planTexts(start);
     if (command.plays == Command::Plays::codes || command.plays == Command::Plays::keys) warnOfCodes(value);
     if (command.plays == Command::Plays::codes) warnOfTexts(value);
@@ -97,13 +105,24 @@ void CommandGenerator::warnOfTexts(NodeId codes) {
     const bool isText = node.kind == NodeKind::text && !numberInText(m_tree.texts[node.value]);
     const bool isOther = node.kind == NodeKind::truth || node.kind == NodeKind::modifierDown ||
                          node.kind == NodeKind::modifierKey || node.kind == NodeKind::record;
-    if (isText || isOther) m_out.warn(node.offset, noCodeAdvice());
+    if (isText) m_out.warn(node.offset, noCodeAdvice(m_tree.texts[node.value]));
+    if (isOther) m_out.warn(node.offset, noCodeAdvice());
 }
 
-/// A text that names what is to be pressed.
+void CommandGenerator::warnOfPause(NodeId seconds) {
+    const Node& node = m_tree.at(seconds);
+    if (node.kind != NodeKind::text || numberInText(m_tree.texts[node.value])) return;
+    m_out.warn(node.offset, pauseAdvice(m_tree.texts[node.value]));
+}
+
+/// A text, or one that is joined with others, that names what is to be pressed.
 void CommandGenerator::warnOfNames(NodeId typed, const Command& command) {
-    const Node& node = m_tree.at(typed);
     const bool isTyped = command.plays == Command::Plays::texts;
+    while (isTyped && joins(m_tree.at(typed))) {
+        typed = m_tree.at(typed).firstChild;
+        warnOfNames(m_tree.at(typed).nextSibling, command);
+    }
+    const Node& node = m_tree.at(typed);
     if (node.kind == NodeKind::modifierKey || node.kind == NodeKind::modifierDown) {
         if (isTyped) m_out.warn(node.offset, heldModifierAdvice());
     } else if (node.kind == NodeKind::text) {

@@ -51,9 +51,18 @@ void ExpressionGenerator::expression(NodeId id) {
 void ExpressionGenerator::expressionAs(NameRole role, NodeId id) {
     const Node& node = m_tree.at(id);
     const bool isNamed = node.kind == NodeKind::application || node.kind == NodeKind::process;
-    m_role = role;
-    m_roleOffset = isNamed && node.firstChild != noNode ? m_tree.at(node.firstChild).offset : node.offset;
+    nameAs(role, isNamed && node.firstChild != noNode ? m_tree.at(node.firstChild).offset : node.offset);
     expression(id);
+}
+
+void ExpressionGenerator::typedExpression(NodeId id) {
+    const Scoped<NameRole> parts(m_partRole, NameRole::joinedText);
+    expressionAs(NameRole::text, id);
+}
+
+void ExpressionGenerator::nameAs(NameRole role, std::uint32_t offset) {
+    m_role = role;
+    m_roleOffset = offset;
 }
 
 void ExpressionGenerator::requireValue(const Node& node) {
@@ -241,7 +250,7 @@ void ExpressionGenerator::filteredProcesses(const Node& node, NodeId condition) 
 
 void ExpressionGenerator::load(NameId name, const Node& node) {
     const Place place = m_out.scope().placeOf(name);
-    const NameRole role = node.offset == m_roleOffset ? m_role : NameRole::value;
+    const NameRole role = node.offset == m_roleOffset ? m_role : m_partRole;
     m_out.scope().noteRead(place, node.offset, role);
     m_out.emit(place.isGlobal ? Operation::loadGlobal : Operation::loadLocal, node, place.slot);
 }

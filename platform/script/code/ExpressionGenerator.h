@@ -26,6 +26,10 @@ class ExpressionGenerator {
     void load(NameId name, const Node& node);
     /// The same as expression(); a name that stands there alone is meant as that.
     void expressionAs(NameRole role, NodeId id);
+    /// The same for what is typed, and for the names that it is joined of.
+    void typedExpression(NodeId id);
+    /// A name that stands at the offset is meant as that.
+    void nameAs(NameRole role, std::uint32_t offset);
 
   private:
     NodeId firstPart(const Node& node) const;
@@ -60,6 +64,8 @@ class ExpressionGenerator {
     /// What the name at an offset is meant as.
     NameRole m_role = NameRole::value;
     std::uint32_t m_roleOffset = 0xFFFFFFFF;
+    /// What all other names are meant as.
+    NameRole m_partRole = NameRole::value;
     /// Whether a condition is worked on that is asked of processes, whose properties it names.
     bool m_asksProcess = false;
 };

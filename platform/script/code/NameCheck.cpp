@@ -2,27 +2,18 @@
 #include "platform/script/code/NameCheck.h"
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 
 #include "platform/script/commands/Advice.h"
+#include "platform/script/source/Misspelling.h"
+#include "platform/script/syntax/Misspelt.h"
 
 namespace script {
 namespace {
 
-/// How many letters must be changed, put in or left out to make one name the other; case does not matter.
-std::size_t distance(const std::string& left, const std::string& right) {
-    std::vector<std::size_t> row(right.size() + 1);
-    std::iota(row.begin(), row.end(), 0U);
-    for (std::size_t i = 0; i < left.size(); ++i) {
-        std::size_t diagonal = std::exchange(row[0], i + 1);
-        for (std::size_t j = 0; j < right.size(); ++j) {
-            const std::size_t changed = diagonal + (left[i] == right[j] ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({changed, row[j] + 1, diagonal + 1});
-        }
-    }
-    return row.back();
+WordPlace placeOf(NameRole role) {
+    if (role == NameRole::statement || role == NameRole::program) return WordPlace::statement;
+    return role == NameRole::text || role == NameRole::joinedText ? WordPlace::text : WordPlace::value;
 }
 
 }  // namespace
@@ -45,14 +36,20 @@ void NameCheck::lookAt(const Scope& scope) {
 void NameCheck::suspect(NameId name, const VariableUse& use, const std::vector<NameId>& known) {
     if (!use.isRead || use.isSet || m_suspects.size() == mostSuspects) return;
     const std::string& called = spelling(name);
-    const std::string meant = slipOf(name, known);
+    if (use.role == NameRole::compared) {
+        // The comparison is warned of already.
+        m_out.code().advice.emplace(name, comparisonAdvice(called));
+        return;
+    }
+    const std::string meant = slipOf(name, use.role, known);
     const std::string advice = meant.empty() ? meantBy(called, use.role) : meant;
     m_suspects.push_back({use.offset, neverSet(called) + advice});
-    if (!meant.empty() || use.role != NameRole::value) m_out.code().advice.emplace(name, advice);
+    const bool isPlain = meant.empty() && advice == meantBy(called, NameRole::value);
+    if (!isPlain || use.role == NameRole::text) m_out.code().advice.emplace(name, advice);
 }
 
 /// Which slip has led to the name; empty if none is known.
-std::string NameCheck::slipOf(NameId name, const std::vector<NameId>& known) const {
+std::string NameCheck::slipOf(NameId name, NameRole role, const std::vector<NameId>& known) const {
     const std::string& called = spelling(name);
     if (m_handlers.contains(name)) return "A handler is called with parentheses: " + called + "().";
     if (name < m_setByRun.size() && m_setByRun[name])
@@ -62,26 +59,20 @@ std::string NameCheck::slipOf(NameId name, const std::vector<NameId>& known) con
     all.insert(all.end(), shared.begin(),
                shared.begin() + static_cast<std::ptrdiff_t>(std::min(shared.size(), mostCompared)));
     const std::string similar = similarTo(called, all);
-    return similar.empty() ? foreignWordAdvice(called) : "Did you mean " + similar + "?";
+    if (!similar.empty()) return didYouMean(similar);
+    const std::string foreign = role == NameRole::program ? "" : foreignWordAdvice(called);
+    if (!foreign.empty()) return foreign;
+    const std::string word = wordLike(called, placeOf(role));
+    if (!word.empty()) return didYouMean(word);
+    return role == NameRole::program ? programAdvice(called) : "";
 }
 
-/// The nearest name, if it is near enough for a slip; short ones are near to one another by chance.
+/// The nearest name, if it is near enough for a slip.
 std::string NameCheck::similarTo(const std::string& name, const std::vector<NameId>& known) const {
-    constexpr std::size_t longest = 40;
-    std::size_t nearest = name.size() < 4 ? 1 : name.size() < 8 ? 2 : 3;
-    if (name.size() < 3 || name.size() > longest) return "";
-    std::string found;
-    for (const NameId other : known) {
-        const std::string& candidate = spelling(other);
-        const std::size_t more =
-            std::max(candidate.size(), name.size()) - std::min(candidate.size(), name.size());
-        if (candidate.size() > longest || more >= nearest || candidate == name) continue;
-        const std::size_t apart = distance(asciiLowered(name), asciiLowered(candidate));
-        if (apart >= nearest) continue;
-        nearest = apart;
-        found = candidate;
-    }
-    return found;
+    constexpr std::size_t shortest = 4;
+    Misspelling misspelling(name, shortest);
+    for (const NameId other : known) misspelling.compare(spelling(other));
+    return misspelling.meant();
 }
 
 void NameCheck::warn() {

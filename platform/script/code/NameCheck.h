@@ -30,7 +30,7 @@ class NameCheck {
     static constexpr std::size_t mostCompared = 200;
 
     void suspect(NameId name, const VariableUse& use, const std::vector<NameId>& known);
-    std::string slipOf(NameId name, const std::vector<NameId>& known) const;
+    std::string slipOf(NameId name, NameRole role, const std::vector<NameId>& known) const;
     std::string similarTo(const std::string& name, const std::vector<NameId>& known) const;
     const std::string& spelling(NameId name) const { return m_out.tree().names.at(name).spelling; }
 

@@ -107,6 +107,8 @@ void StatementGenerator::tell(const Node& node) {
     m_expressions.expressionAs(NameRole::application, node.firstChild);
     m_out.emit(Operation::pushTarget, m_tree.at(node.firstChild));
     const NodeKind kind = m_tree.at(node.firstChild).kind;
+    const bool isSystemEvents = m_tree.at(node.firstChild).detail != 0;
+    const Scoped<bool> program(m_tellsProgram, kind == NodeKind::application && !isSystemEvents);
     const Scoped<bool> process(m_tellsProcess, kind == NodeKind::process || kind == NodeKind::processes);
     const UndoneScope target(*this, node, Operation::popTarget);
     block(m_tree.at(node.firstChild).nextSibling);
@@ -319,19 +321,26 @@ bool StatementGenerator::isFrontmostOfTarget(const Node& target) const {
 }
 
 void StatementGenerator::evaluate(const Node& node) {
-    if (m_isFollowed) warnOfComparison(m_tree.at(node.firstChild));
+    const Node& value = m_tree.at(node.firstChild);
+    if (value.kind == NodeKind::name) {
+        m_expressions.nameAs(m_tellsProgram ? NameRole::program : NameRole::statement, value.offset);
+    } else if (m_isFollowed && compares(value)) {
+        warnOfComparison(value);
+    }
     m_expressions.statementValue(node.firstChild);
     m_out.emit(Operation::setResult, node);
 }
 
+bool StatementGenerator::compares(const Node& node) {
+    return node.kind == NodeKind::binary && static_cast<BinaryOperator>(node.detail) == BinaryOperator::equal;
+}
+
 /// `x = 5`, where something else may have been meant.
 void StatementGenerator::warnOfComparison(const Node& node) {
-    const bool compares =
-        node.kind == NodeKind::binary && static_cast<BinaryOperator>(node.detail) == BinaryOperator::equal;
-    if (!compares) return;
     const Node& left = m_tree.at(node.firstChild);
     const bool isName = left.kind == NodeKind::name;
     if (!isName && left.kind != NodeKind::element && left.kind != NodeKind::propertyOf) return;
+    if (isName) m_expressions.nameAs(NameRole::compared, left.offset);
     m_out.warn(left.offset, comparisonAdvice(isName ? m_tree.names.at(left.value).spelling : ""));
 }
 

@@ -20,6 +20,7 @@ class StatementGenerator {
 
   private:
     void statement(NodeId id);
+    static bool compares(const Node& node);
     void warnOfComparison(const Node& node);
     void tell(const Node& node);
     void ifThen(const Node& node);
@@ -61,6 +62,8 @@ class StatementGenerator {
     bool m_isFollowed = false;
     /// Whether the innermost `tell` addresses a process.
     bool m_tellsProcess = false;
+    /// Whether it addresses an application that has no words of its own.
+    bool m_tellsProgram = false;
 };
 
 }  // namespace script

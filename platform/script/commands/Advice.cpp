@@ -18,20 +18,18 @@ struct KeyWord {
     int code;
 };
 
-constexpr auto keyWords =
-    std::to_array<KeyWord>({{"enter", 36},       {"escape", 53},    {"esc", 53},
-                            {"backspace", 51},   {"delete", 51},    {"forwarddelete", 117},
-                            {"del", 117},        {"up", 126},       {"uparrow", 126},
-                            {"arrowup", 126},    {"down", 125},     {"downarrow", 125},
-                            {"arrowdown", 125},  {"left", 123},     {"leftarrow", 123},
-                            {"arrowleft", 123},  {"right", 124},    {"rightarrow", 124},
-                            {"arrowright", 124}, {"home", 115},     {"pageup", 116},
-                            {"pgup", 116},       {"pagedown", 121}, {"pgdn", 121},
-                            {"insert", 114},     {"f1", 122},       {"f2", 120},
-                            {"f3", 99},          {"f4", 118},       {"f5", 96},
-                            {"f6", 97},          {"f7", 98},        {"f8", 100},
-                            {"f9", 101},         {"f10", 109},      {"f11", 103},
-                            {"f12", 111}});
+constexpr auto keyWords = std::to_array<KeyWord>(
+    {{"enter", 36},       {"return", 36},     {"newline", 36},    {"tab", 48},
+     {"space", 49},       {"spacebar", 49},   {"end", 119},       {"escape", 53},
+     {"esc", 53},         {"backspace", 51},  {"delete", 51},     {"forwarddelete", 117},
+     {"del", 117},        {"up", 126},        {"uparrow", 126},   {"arrowup", 126},
+     {"down", 125},       {"downarrow", 125}, {"arrowdown", 125}, {"left", 123},
+     {"leftarrow", 123},  {"arrowleft", 123}, {"right", 124},     {"rightarrow", 124},
+     {"arrowright", 124}, {"home", 115},      {"pageup", 116},    {"pgup", 116},
+     {"pagedown", 121},   {"pgdn", 121},      {"insert", 114},    {"f1", 122},
+     {"f2", 120},         {"f3", 99},         {"f4", 118},        {"f5", 96},
+     {"f6", 97},          {"f7", 98},         {"f8", 100},        {"f9", 101},
+     {"f10", 109},        {"f11", 103},       {"f12", 111}});
 
 std::optional<int> codeOfWord(std::string_view name) {
     std::string plain;
@@ -39,6 +37,22 @@ std::optional<int> codeOfWord(std::string_view name) {
     const auto* row = std::find_if(keyWords.begin(), keyWords.end(),
                                    [&](const KeyWord& word) { return word.name == plain; });
     return row == keyWords.end() ? std::nullopt : std::optional<int>(row->code);
+}
+
+/// The key that types a control character or a blank.
+std::optional<int> codeOfCharacter(std::string_view text) {
+    if (text == "\r" || text == "\n") return 36;
+    if (text == "\t") return 48;
+    return text == " " ? std::optional<int>(49) : std::nullopt;
+}
+
+std::string keyAdvice(int code) { return "The key has a number: key code " + std::to_string(code) + "."; }
+
+/// Of a key in the midst of what is typed.
+std::string joinedKeyAdvice(int code) {
+    if (code == 36) return "Return is joined to a text so: \"hello\" & return.";
+    if (code == 48) return "Tab is joined to a text so: \"hello\" & tab.";
+    return keyAdvice(code);
 }
 
 /// What other languages say, in lower case, and how it is said here.
@@ -53,26 +67,28 @@ constexpr std::string_view choosing = "A number by chance is: random number from
 constexpr std::string_view leaving = "A loop is left with “exit repeat”, the script with “return”.";
 constexpr std::string_view typing = "Text is typed with “keystroke”: keystroke \"hello\".";
 constexpr std::string_view pausing = "A pause is written in seconds: delay 2.";
+constexpr std::string_view catching = "Errors are caught with: try … on error … end try.";
+constexpr std::string_view importing =
+    "Nothing is imported; the commands are there from the start: delay 2, keystroke \"hello\".";
 constexpr std::string_view raising =
     "A window is brought to the front with: tell application \"Firefox\" to activate.";
 
-constexpr auto foreignWords = std::to_array<ForeignWord>({{"input", asking},
-                                                          {"ask", asking},
-                                                          {"prompt", asking},
-                                                          {"random", choosing},
-                                                          {"rand", choosing},
-                                                          {"randint", choosing},
-                                                          {"break", leaving},
-                                                          {"stop", leaving},
-                                                          {"quit", leaving},
-                                                          {"print", typing},
-                                                          {"type", typing},
-                                                          {"send", typing},
-                                                          {"write", typing},
-                                                          {"sleep", pausing},
-                                                          {"wait", pausing},
-                                                          {"launch", raising},
-                                                          {"open", raising}});
+constexpr auto foreignWords = std::to_array<ForeignWord>(
+    {{"input", asking},     {"ask", asking},        {"prompt", asking},     {"random", choosing},
+     {"rand", choosing},    {"randint", choosing},  {"break", leaving},     {"stop", leaving},
+     {"quit", leaving},     {"print", typing},      {"type", typing},       {"send", typing},
+     {"write", typing},     {"sleep", pausing},     {"wait", pausing},      {"press", pressingAdvice},
+     {"catch", catching},   {"except", catching},   {"rescue", catching},   {"finally", catching},
+     {"import", importing}, {"include", importing}, {"require", importing}, {"from", importing},
+     {"launch", raising},   {"open", raising}});
+
+/// Null if it is none.
+const ForeignWord* foreignWord(std::string_view name) {
+    const std::string lowered = asciiLowered(name);
+    const auto* row = std::find_if(foreignWords.begin(), foreignWords.end(),
+                                   [&](const ForeignWord& one) { return one.word == lowered; });
+    return row == foreignWords.end() ? nullptr : row;
+}
 
 /// The modifier that is called so elsewhere or here; empty if none is.
 std::string_view modifierOf(std::string_view name) {
@@ -97,6 +113,18 @@ std::string_view modifierOf(std::string_view name) {
 
 std::string inQuotes(std::string_view name) { return "\"" + std::string(name) + "\""; }
 
+/// Of the first braces of a text, which begins with them here, if they name a key.
+std::string keyInBracesAdvice(std::string_view text, bool isFirst) {
+    const std::size_t close = text.find('}');
+    if (close == std::string_view::npos) return "";
+    const std::optional<int> code = codeOfWord(text.substr(1, close - 1));
+    if (!code) return "";
+    if (!isFirst || close + 1 < text.size())
+        return "“" + std::string(text.substr(0, close + 1)) + "” is typed as it stands. " +
+               joinedKeyAdvice(*code);
+    return "This is typed as it stands; the key has a number: key code " + std::to_string(*code) + ".";
+}
+
 }  // namespace
 
 std::string codeAdvice(std::int64_t code) {
@@ -118,6 +146,25 @@ std::string noKeyAdvice(std::uint32_t code) {
 }
 
 std::string noCodeAdvice() { return "A key code is a number; a text is typed with “keystroke”."; }
+
+std::string noCodeAdvice(std::string_view text) {
+    const std::optional<int> typed = codeOfCharacter(text);
+    const std::optional<int> code = typed ? typed : codeOfWord(text);
+    if (!code) return noCodeAdvice();
+    return "The key has a number: key code " + std::to_string(*code) + "; “keyrill-script keys” prints all.";
+}
+
+std::string didYouMean(std::string_view word) { return "Did you mean " + std::string(word) + "?"; }
+
+std::string pauseAdvice(std::string_view text) {
+    const bool isDecimal = text.find(',') != std::string_view::npos &&
+                           text.find_first_not_of("0123456789, ") == std::string_view::npos;
+    return isDecimal ? "Decimals stand behind a point: delay 0.5." : "“delay” counts seconds: delay 0.5.";
+}
+
+std::string recordAdvice() {
+    return "A dialog gives a record; what was typed there is taken with: text returned of n.";
+}
 
 std::string modifierAdvice(const Modifier& modifier) {
     const std::string name = constantText(modifier);
@@ -143,17 +190,14 @@ std::string comparisonAdvice(std::string_view name) {
 }
 
 std::string typedNameAdvice(std::string_view text) {
-    const std::string typed = "This is typed as it stands; ";
-    if (text.size() > 2 && text.front() == '{' && text.back() == '}') {
-        const std::optional<int> code = codeOfWord(text.substr(1, text.size() - 2));
-        return code ? typed + "the key has a number: key code " + std::to_string(*code) + "." : "";
-    }
+    const std::size_t open = text.find('{');
+    if (open != std::string_view::npos) return keyInBracesAdvice(text.substr(open), open == 0);
     const std::size_t sign = text.find_first_of("+-");
     if (sign == std::string_view::npos || sign + 2 != text.size()) return "";
     const std::string_view modifier = modifierOf(text.substr(0, sign));
     if (modifier.empty()) return "";
-    return typed + "a shortcut is written: keystroke " + inQuotes(text.substr(sign + 1)) + " using " +
-           std::string(modifier) + " down.";
+    return "This is typed as it stands; a shortcut is written: keystroke " + inQuotes(text.substr(sign + 1)) +
+           " using " + std::string(modifier) + " down.";
 }
 
 std::string heldModifierAdvice() { return "A modifier is held with: key down shift, without quotes."; }
@@ -165,14 +209,20 @@ std::string noHandlerAdvice(std::string_view name) {
            std::string(name) + ".";
 }
 
+std::string programAdvice(std::string_view command) {
+    const ForeignWord* row = foreignWord(command);
+    if (row != nullptr && row->advice == raising) return std::string(raising);
+    return "No program takes a command but “activate”; press its keys: tell application \"System Events\" to "
+           "keystroke \"q\" using control down.";
+}
+
 std::string foreignWordAdvice(std::string_view name) {
     if (const std::string_view modifier = modifierOf(name); !modifier.empty()) {
         return "The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using " +
                std::string(modifier) + " down.";
     }
-    const auto* row = std::find_if(foreignWords.begin(), foreignWords.end(),
-                                   [&](const ForeignWord& one) { return one.word == asciiLowered(name); });
-    return row == foreignWords.end() ? "" : std::string(row->advice);
+    const ForeignWord* row = foreignWord(name);
+    return row == nullptr ? "" : std::string(row->advice);
 }
 
 std::string neverSet(std::string_view name) {
@@ -181,9 +231,10 @@ std::string neverSet(std::string_view name) {
 
 std::string meantBy(std::string_view name, NameRole role) {
     if (role == NameRole::application) return "An application is named: application " + inQuotes(name) + ".";
-    const bool isTyped = role == NameRole::keyCode || role == NameRole::text;
+    const bool isJoined = role == NameRole::joinedText;
+    const bool isTyped = isJoined || role == NameRole::keyCode || role == NameRole::text;
     const std::optional<int> code = isTyped ? codeOfWord(name) : std::nullopt;
-    if (code) return "The key has a number: key code " + std::to_string(*code) + ".";
+    if (code) return isJoined ? joinedKeyAdvice(*code) : keyAdvice(*code);
     return "Text stands between straight quotes: " + inQuotes(name) + ".";
 }
 

@@ -18,8 +18,24 @@ std::string codeAdvice(std::int64_t code);
 /// "Key code N has no key; nothing is pressed."
 std::string noKeyAdvice(std::uint32_t code);
 
-/// Of a text, or what else is no number, in the place of a key code.
+/// Of what is no number in the place of a key code.
 std::string noCodeAdvice();
+
+/// Of a text there, which may name a key or be what the key types.
+std::string noCodeAdvice(std::string_view text);
+
+/// Of what presses keys in other languages.
+inline constexpr std::string_view pressingAdvice =
+    "A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.";
+
+/// "Did you mean WORD?"
+std::string didYouMean(std::string_view word);
+
+/// Of a text in the place of a number of seconds.
+std::string pauseAdvice(std::string_view text);
+
+/// Of a record, as dialogs give it, in the place of a text.
+std::string recordAdvice();
 
 /// Of a key's name in the place of a modifier that is down.
 std::string modifierAdvice(const Modifier& modifier);
@@ -40,7 +56,7 @@ std::string comparisonAdvice(std::string_view name);
 std::string neverSet(std::string_view name);
 
 /// Of a text that is typed as it stands and names a key or a shortcut as other programs do: "{ENTER}",
-/// "ctrl+c". Empty for all others.
+/// "Hello{ENTER}", "ctrl+c". Empty for all others.
 std::string typedNameAdvice(std::string_view text);
 
 /// Of the name of a modifier in quotes, or by itself, where a text or key is meant.
@@ -49,11 +65,25 @@ std::string heldModifierAdvice();
 /// Of a call for which the script has no handler.
 std::string noHandlerAdvice(std::string_view name);
 
+/// Of a command that a program is told, which takes none.
+std::string programAdvice(std::string_view command);
+
 /// What words of other languages are here; empty for words of none.
 std::string foreignWordAdvice(std::string_view name);
 
+/// What the value of a name is taken for.
+enum class NameRole : std::uint8_t {
+    value,
+    text,        ///< typed
+    joinedText,  ///< part of what is typed
+    keyCode,
+    application,  ///< told something
+    statement,    ///< nothing: the name stands alone in its line
+    program,      ///< likewise, inside `tell` of a program
+    compared,     ///< what `=` compares it with, where nobody takes the answer
+};
+
 /// What a name was meant to be that is never set, where a value of that role belongs.
-enum class NameRole : std::uint8_t { value, text, keyCode, application };
 std::string meantBy(std::string_view name, NameRole role);
 
 /// Of a variable without a value, where a script reads it.

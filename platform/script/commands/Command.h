@@ -81,7 +81,7 @@ struct Parameter {
 struct Command {
     enum class Direct : std::uint8_t { none, optional, required };
     /// What the direct argument makes the keyboard do, so that the compiler can plan and warn.
-    enum class Plays : std::uint8_t { nothing, codes, texts, keys };
+    enum class Plays : std::uint8_t { nothing, codes, texts, keys, pauses };
 
     Phrase name;
     /// Known inside `tell application "System Events"` only.

@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "platform/script/commands/Advice.h"
 #include "platform/script/commands/Playing.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/SourceForm.h"
@@ -14,7 +15,11 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     double seconds = 0;
     if (const Value* given = arguments.direct()) {
         const std::optional<double> number = numberOf(*given);
-        if (!number) return cannotMake(*given, "number");
+        if (!number) {
+            Failure failure = cannotMake(*given, "number");
+            if (const std::string_view* text = given->text()) failure.hint = pauseAdvice(*text);
+            return failure;
+        }
         seconds = *number;
     }
     const double pause = seconds / stage.speed();
@@ -26,6 +31,7 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
 const Command& delayCommand() {
     static const Command command{.name = "delay",
                                  .direct = Command::Direct::optional,
+                                 .plays = Command::Plays::pauses,
                                  .perform = perform,
                                  .manual = R"(delay [SECONDS]
 

@@ -5,6 +5,7 @@
 #include <utility>
 #include <variant>
 
+#include "platform/script/commands/Advice.h"
 #include "platform/script/commands/Playing.h"
 #include "platform/script/values/Coercion.h"
 
@@ -13,7 +14,13 @@ namespace {
 
 Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     Fallible<std::string> text = textOf(*arguments.direct(), stage.rules().joint());
-    if (!text) return std::move(text).error();
+    if (!text) {
+        Failure failure = std::move(text).error();
+        RecordBody* record = arguments.direct()->record();
+        const bool isAnswer = record != nullptr && record->find(names::textReturned) != nullptr;
+        if (isAnswer) failure.hint = recordAdvice();
+        return failure;
+    }
     auto mask = modifierMask(stage, arguments.parameter(0));
     if (!mask) return std::move(mask).error();
     const std::string& typed = text.value();

@@ -23,6 +23,11 @@ bool isPower(std::uint32_t code) {
     return base == keycode::power || base == keycode::evdevBase + evdevPower;
 }
 
+std::string noCodeAdviceOf(const Value& value) {
+    const std::string_view* text = value.text();
+    return text == nullptr ? noCodeAdvice() : noCodeAdvice(*text);
+}
+
 /// Adds what `value` names: nothing for a key that does not exist, of a text each character's key.
 Fallible<> addHeldKeys(CommandStage& stage, const Value& value, std::vector<HeldKey>& held) {
     if (const auto* constant = value.as<Modifier>()) {
@@ -69,7 +74,7 @@ Fallible<std::uint32_t> keyCodeOf(const Value& value) {
     const std::optional<std::int32_t> code = integerOf(value);
     if (!code || *code < 0 || *code > maxKeyCode) {
         Failure failure = cannotMake(value, code ? "key code" : "integer");
-        failure.hint = code ? codeAdvice(*code) : noCodeAdvice();
+        failure.hint = code ? codeAdvice(*code) : noCodeAdviceOf(value);
         return failure;
     }
     if (isPower(static_cast<std::uint32_t>(*code))) {

@@ -7,14 +7,20 @@
 #include <string>
 #include <vector>
 
+#include "platform/script/commands/Advice.h"
 #include "platform/script/source/Lexer.h"
+#include "platform/script/source/TokenStream.h"
+#include "platform/script/source/Wording.h"
+#include "platform/script/syntax/ErrorLine.h"
+#include "platform/script/syntax/Misspelt.h"
 #include "platform/script/syntax/Slips.h"
 
 namespace script {
 namespace {
 
-/// The line in which the innermost block begins that is open where the error is; 0 if all are closed.
-std::uint32_t openBlockLine(const ScriptError& error, const Tree& tree, std::string_view source) {
+/// The lines in which the blocks begin that are open where the error is, the innermost last.
+std::vector<std::uint32_t> openBlockLines(const ScriptError& error, const Tree& tree,
+                                          std::string_view source) {
     std::vector<std::uint32_t> openLines;
     Locator locator(source);
     for (const BlockMark& mark : tree.blocks) {
@@ -28,7 +34,45 @@ std::uint32_t openBlockLine(const ScriptError& error, const Tree& tree, std::str
             openLines.pop_back();
         }
     }
-    return openLines.empty() ? 0 : openLines.back();
+    return openLines;
+}
+
+std::string noEndOf(std::string_view article, std::uint32_t line) {
+    return std::string(article) + " block that begins in line " + std::to_string(line) +
+           " has no “end” of its own.";
+}
+
+bool isOneOf(const std::string& word, std::string_view one, std::string_view other) {
+    return word == one || word == other;
+}
+
+/// Whether a block that begins with that line may end with `end WORD`, or go on with `else`.
+bool beginsBlock(const std::string& first, const std::string& word) {
+    if (word == "if" || word == "else") return isOneOf(first, "if", "else");
+    if (word == "try" || word == "error") return isOneOf(first, "try", "on");
+    if (word == "timeout") return first == "with";
+    return first == word;
+}
+
+/// `end tell` or `else`, where no such block is open; empty for what ends one.
+std::string strayEndHint(const ScriptError& error, const std::vector<std::uint32_t>& openLines,
+                         std::string_view source) {
+    const ErrorLine line(source, error.location);
+    const bool isElse = line.first() == "else" && line.here() == "else";
+    if (!isElse && (line.first() != "end" || line.here() != "end")) return "";
+    const std::string word = isElse ? line.first() : line.second();
+    if (!TokenStream::namesBlock(wordOf(word)) && !isElse) return "";
+    const bool isOpen = std::any_of(openLines.begin(), openLines.end(), [&](std::uint32_t number) {
+        return beginsBlock(ErrorLine(source, {number, 1}).first(), word);
+    });
+    if (isOpen) return "";
+    const std::string none =
+        "No " + (openLines.empty() ? "block" : script::quoted(isElse ? "if" : word)) + " is open here";
+    if (isElse) return none + "; an “if” with its statement in one line has no “else”.";
+    if (word == "if") return none + "; an “if” with its statement in one line has no “end if”.";
+    if (word == "tell") return none + "; a “tell … to” in one line has no “end tell”.";
+    return none + "; " +
+           (openLines.empty() ? "this line is one too many." : noEndOf("the", openLines.back()));
 }
 
 /// What blocks end with, of lines that consist of the same without the blank: `endif`.
@@ -48,8 +92,11 @@ std::string_view endMeantBy(std::string_view line) {
 
 std::string blockHint(const ScriptError& error, const Tree& tree, std::string_view source) {
     constexpr std::uint32_t longestBlock = 1000;
-    const std::uint32_t begin = openBlockLine(error, tree, source);
-    if (begin == 0) return "";
+    const std::vector<std::uint32_t> openLines = openBlockLines(error, tree, source);
+    if (openLines.empty()) return "";
+    const std::string misspelt = endMeant(ErrorLine(source, error.location));
+    if (!misspelt.empty()) return didYouMean(misspelt);
+    const std::uint32_t begin = openLines.back();
     const std::uint32_t end = std::min(error.location.line, begin + longestBlock);
     std::string_view rest = source.substr(offsetOf(source, {begin, 1}));
     for (std::uint32_t number = begin; number < end; ++number) {
@@ -58,7 +105,8 @@ std::string blockHint(const ScriptError& error, const Tree& tree, std::string_vi
             return "In line " + std::to_string(number) + " these are two words: " + std::string(meant) + ".";
         rest = rest.substr(offsetOf(rest, {2, 1}));
     }
-    return "The block that begins in line " + std::to_string(begin) + " has no “end” of its own.";
+    std::string stray = strayEndHint(error, openLines, source);
+    return stray.empty() ? noEndOf("The", begin) : stray;
 }
 
 bool isOverLines(const Token& token) {
@@ -93,8 +141,12 @@ ScriptError explained(ScriptError error, const Tree& tree, std::string_view sour
         error.hint = "The text that begins here is not closed by a straight quote in its line.";
         return error;
     }
-    if (error.message.starts_with("Expected “end” but")) error.hint = blockHint(error, tree, source);
-    if (error.hint.empty()) error.hint = hintOfLine(error, source, isInsideTell);
+    if (error.message.starts_with("Expected “end” but")) {
+        error.hint = blockHint(error, tree, source);
+    } else if (error.message.starts_with("Expected expression but found “e")) {
+        error.hint = strayEndHint(error, openBlockLines(error, tree, source), source);
+    }
+    if (error.hint.empty()) error.hint = hintOfLine(error, tree, source, isInsideTell);
     return error;
 }
 

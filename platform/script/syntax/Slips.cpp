@@ -3,10 +3,11 @@
 
 #include <algorithm>
 #include <array>
-#include <vector>
+#include <string>
 
-#include "platform/script/source/Lexer.h"
-#include "platform/script/source/Name.h"
+#include "platform/script/commands/Advice.h"
+#include "platform/script/syntax/ErrorLine.h"
+#include "platform/script/syntax/Misspelt.h"
 
 namespace script {
 namespace {
@@ -36,8 +37,11 @@ constexpr std::string_view bracesHint = "Several stand in braces: {control down,
 constexpr std::string_view pauseHint = "A pause is written in seconds: delay 2.";
 constexpr std::string_view elseHint = "These are two words: else if … then.";
 constexpr std::string_view joinHint = "Texts are joined with “&”: \"one\" & \"two\".";
-constexpr std::string_view keyHint =
-    "A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.";
+constexpr std::string_view sendHint =
+    "Text is typed with “keystroke”, and Return joined with “&”: keystroke \"hello\" & return.";
+constexpr std::string_view pressHint =
+    "A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and "
+    "let go with: key up 36.";
 constexpr std::string_view mouseHint =
     "A macro has no mouse; press the keys that do the same, as Tab and Return.";
 constexpr std::string_view bothHint = "Conditions are joined with “and” or “or”.";
@@ -56,6 +60,7 @@ constexpr std::string_view startHint =
     "Press the keys that start it, or bring a window to the front: tell application \"Firefox\" to activate.";
 
 constexpr std::string_view keyboardWords = "keystroke|key";
+constexpr std::string_view modifierNames = "command|control|option|shift|cmd|ctrl|alt";
 constexpr std::string_view unexpected = "Expected end of line";
 
 /// The first row that fits counts.
@@ -66,7 +71,12 @@ constexpr auto slips = std::to_array<Slip>({
     {"Raw codes", "", "", "", "Write the command by its name."},
     {"do shell script” is refused", "", "", "", startHint},
     {unexpected, keyboardWords, "", "", tellHint, Where::outside},
+    {unexpected, keyboardWords, "down", modifierNames, bracesHint, Where::inside},
+    {"Expected “,” or “}”", keyboardWords, "down", modifierNames, bracesHint, Where::inside},
     {"", keyboardWords, "", "with|command|control|option|shift|cmd|ctrl|alt", usingHint, Where::inside},
+    {unexpected, "keystroke", modifierNames, "\"", usingHint, Where::inside},
+    {unexpected, keyboardWords, "return|tab|space|enter|\"|0", "down|up", pressHint, Where::inside},
+    {unexpected, keyboardWords, "\"|0", "twice|thrice|times|x", timesHint, Where::inside},
     {unexpected, "command|control|option|shift|cmd|ctrl|alt|super|win", "", "",
      "A shortcut is written: keystroke \"c\" using control down."},
     {unexpected, "keystroke", "", "0", timesHint, Where::inside},
@@ -75,31 +85,37 @@ constexpr auto slips = std::to_array<Slip>({
     {unexpected, keyboardWords, "", "keystroke|key|delay|beep|set", lineHint, Where::inside},
     {unexpected, keyboardWords, "", ",", bracesHint, Where::inside},
     {unexpected, keyboardWords, "\"", "\"", joinHint, Where::inside},
-    {"Expected expression but found “end", "", "", "",
-     "No block is open here; an “if” with its statement in one line has no “end if”."},
     {"Expected “)” but found “,”", "", "", "", bracesHint},
     {"Expected “)” but found end of line", "", "", "", "A parenthesis is not closed in this line."},
     {"found “whose”", "", "", "",
      "Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat."},
     {unexpected, "", "window|button|menu|bar|field|sheet", "0|\"", windowHint},
+    {"Expected expression", "", "answer", "",
+     "Behind “default answer” stands a text, be it empty: default answer \"\"."},
     {"found “else”", "if", "", "", "An “if” in one line has no “else”; write it in lines, with “end if”."},
     {unexpected, "elseif|elif", "", "", elseHint},
     {unexpected, "delay|beep", "0", ",", "Decimals stand behind a point: 0.5."},
     {unexpected, "delay", "0", "ms|s|sec|secs|second|seconds|millisecond|milliseconds|msec",
      "“delay” counts seconds, without a unit: delay 0.5."},
     {unexpected, "sleep|wait|pause", "", "", pauseHint},
+    {unexpected, "xdotool|ydotool", "", "type", typeHint},
+    {unexpected, "xdotool|ydotool", "", "", pressingAdvice},
+    {unexpected, "send|sendinput", "", ",", sendHint},
     {unexpected, "type|write|send|print|echo|keypress|sendkeys", "", "\"", typeHint},
-    {unexpected, "press|hit|push|tap|keypress|keycode", "", "", keyHint},
+    {unexpected, "press|hit|push|tap|keypress|keycode", "", "", pressingAdvice},
     {"Expected “code”, “down” or “up”", "", "key", "",
      "Text is typed with “keystroke”, a key is pressed by its number: key code 36."},
     {unexpected, "hold|release", "", "",
      "A key is held with “key down” and let go with “key up”: key down shift."},
-    {unexpected, "open|launch|start", "", "\"", startHint},
+    {unexpected, "open|launch|start", "", "\"|application|app|process", startHint},
     {unexpected, "", "ask|input|prompt", "\"", askHint},
     {unexpected, "click|doubleclick|rightclick|mouse|drag", "", "", mouseHint},
     {unexpected, "let|var|const|dim|local", "", "", setHint},
     {unexpected, "function|def|sub|func|proc|handler", "", "", handlerHint},
     {unexpected, "loop|do", "", "", "A loop is written: repeat 5 times … end repeat."},
+    {unexpected, "tell", "\"", "",
+     "Behind the name stands “to”, or the line ends there: tell application \"System Events\" to keystroke "
+     "\"a\"."},
     {unexpected, "tell", "", "",
      "The name stands between straight quotes: tell application \"System Events\"."},
     {"", "for|foreach", "", "for|foreach", loopHint},
@@ -123,6 +139,8 @@ constexpr auto slips = std::to_array<Slip>({
     {"Expected “name”, “frontmost”", "", "", "", processHint},
     {unexpected, "", "unix|bundle", "", processHint},
     {"Expected “then”", "", "", "{", "A block has no braces: if x = 1 then … end if."},
+    {"Expected expression but found end of line", "if|else", "{", "",
+     "A block has no braces: if x = 1 then … end if."},
     {unexpected, "", "", "{", "A block has no braces; it ends with “end” and its first word: end repeat."},
     {unexpected, "", "", ":", "A line needs no colon at its end."},
 });
@@ -138,68 +156,6 @@ constexpr auto foreignModifiers = std::to_array<ForeignModifier>({
     {"ctrl|ctl|strg", "control"},
     {"alt|opt", "option"},
 });
-
-/// The line in which an error stands, as its tokens.
-class ErrorLine {
-  public:
-    ErrorLine(std::string_view source, const Location& place) {
-        const std::string_view text = lineOf(source, place.line);
-        const std::size_t column = text.size() - std::min(offsetOf(text, {1, place.column}), text.size());
-        Lexer lexer(text);
-        for (Token token = lexer.next(); !token.is(TokenKind::endOfScript); token = lexer.next()) {
-            const auto left = static_cast<std::size_t>(text.data() + text.size() - token.text.data());
-            if (left > column) m_at = m_tokens.size() + 1;
-            m_tokens.push_back(token);
-            const bool isTold =
-                m_begin == 0 && left > column && equalIgnoringCase(token.text, "to") && wordAt(0) == "tell";
-            if (isTold) m_begin = m_tokens.size();
-            if (m_tokens.size() == most) break;
-        }
-        if (!text.empty()) m_text = text;
-    }
-
-    std::string_view text() const { return m_text; }
-    /// Of `tell ... to` in one line, that of the statement behind it.
-    std::string first() const { return wordAt(m_begin); }
-    std::string here() const { return wordAt(m_at); }
-    std::string before() const { return m_at == 0 ? "" : wordAt(m_at - 1); }
-    /// All behind the first word, up to this one, without what is around.
-    std::string_view behindFirst(std::string_view end) const;
-    /// Whether the line itself tells System Events to do what is wrong.
-    bool isTold() const { return m_begin > 0 && wordAt(m_begin - 2) == "\"system events\""; }
-    /// Whether the token stands against a name.
-    bool isIndex() const;
-
-  private:
-    /// Longer lines are nobody's first.
-    static constexpr std::size_t most = 200;
-
-    std::string wordAt(std::size_t number) const {
-        return number < m_tokens.size() ? asciiLowered(m_tokens[number].text) : "";
-    }
-
-    std::string_view m_text;
-    std::vector<Token> m_tokens;
-    std::size_t m_at = 0;
-    std::size_t m_begin = 0;  ///< of the statement
-};
-
-bool ErrorLine::isIndex() const {
-    if (m_at == 0 || m_at >= m_tokens.size()) return false;
-    const Token& name = m_tokens[m_at - 1];
-    return name.is(TokenKind::identifier) &&
-           name.text.data() + name.text.size() == m_tokens[m_at].text.data();
-}
-
-std::string_view ErrorLine::behindFirst(std::string_view end) const {
-    const std::size_t number = m_begin + 1;
-    if (number >= m_tokens.size()) return "";
-    std::size_t last = number;
-    while (last + 1 < m_tokens.size() && wordAt(last + 1) != end) ++last;
-    const char* begin = m_tokens[number].text.data();
-    const auto length = m_tokens[last].text.data() + m_tokens[last].text.size() - begin;
-    return {begin, static_cast<std::size_t>(length)};
-}
 
 bool fits(std::string_view word, std::string_view pattern) {
     if (pattern.empty()) return true;
@@ -224,6 +180,29 @@ std::string modifierHint(const ErrorLine& line) {
            std::string(row->name) + " down.";
 }
 
+/// Whether the tables or the advice know the word as one of other languages.
+bool isForeign(std::string_view word) {
+    const bool isInSlips = std::any_of(slips.begin(), slips.end(), [&](const Slip& slip) {
+        return (!slip.first.empty() && fits(word, slip.first)) ||
+               (!slip.before.empty() && fits(word, slip.before)) ||
+               (!slip.here.empty() && fits(word, slip.here));
+    });
+    const bool isModifier = std::any_of(foreignModifiers.begin(), foreignModifiers.end(),
+                                        [&](const ForeignModifier& one) { return fits(word, one.words); });
+    return isInSlips || isModifier || !foreignWordAdvice(word).empty();
+}
+
+/// Whether the script has set a variable of that name.
+bool sets(const Tree& tree, std::string_view name) {
+    return std::any_of(tree.nodes.begin(), tree.nodes.end(), [&](const Node& node) {
+        const bool isSet = node.kind == NodeKind::set || node.kind == NodeKind::copy;
+        const Node& target = isSet && node.firstChild != noNode ? tree.at(node.firstChild) : node;
+        const bool isName = isSet ? target.kind == NodeKind::name
+                                  : node.kind == NodeKind::repeatIn || node.kind == NodeKind::repeatRange;
+        return isName && equalIgnoringCase(tree.names.at(target.value).spelling, name);
+    });
+}
+
 /// `keystroke hello world`
 std::string quotesHint(const ErrorLine& line) {
     const std::string words(line.behindFirst("using"));
@@ -243,7 +222,10 @@ std::string signHint(const ScriptError& error, const ErrorLine& place) {
     if (here == "|") return std::string(bothHint);
     if (here == ";") return std::string(lineHint);
     if (here == "[" && place.isIndex()) return "An item is taken by its number: item 1 of x.";
-    if (here == "." && place.isIndex()) return "What belongs to a value is taken with “of”: length of x.";
+    if (here == "." && place.isIndex()) {
+        if (std::string foreign = foreignWordAdvice(place.behind()); !foreign.empty()) return foreign;
+        return "What belongs to a value is taken with “of”: length of x.";
+    }
     if (here == "[") return "A list stands in braces: {1, 2}.";
     if (here == "%") return "The rest of a division is written: 7 mod 2.";
     if (has("'")) return "Text stands between straight double quotes (\").";
@@ -252,11 +234,16 @@ std::string signHint(const ScriptError& error, const ErrorLine& place) {
 
 }  // namespace
 
-std::string hintOfLine(const ScriptError& error, std::string_view source, bool knowsKeyboard) {
+std::string hintOfLine(const ScriptError& error, const Tree& tree, std::string_view source,
+                       bool knowsKeyboard) {
     const ErrorLine line(source, error.location);
     const bool isInsideTell = knowsKeyboard || line.isTold();
     if (std::string hint = modifierHint(line); isInsideTell && !hint.empty()) return hint;
     if (std::string hint = signHint(error, line); !hint.empty()) return hint;
+    if (line.standsAgainstText() && error.message.starts_with(unexpected))
+        return R"(A quote inside a text is written \": "Hello \"world\"".)";
+    const auto isOther = [&](std::string_view word) { return isForeign(word) || sets(tree, word); };
+    if (std::string word = wordMeant(error, line, isOther); !word.empty()) return didYouMean(word);
     const auto isHere = [&](const Slip& slip) {
         if (slip.where != Where::anywhere && (slip.where == Where::inside) != isInsideTell) return false;
         return error.message.find(slip.inMessage) != std::string::npos && fits(line.first(), slip.first) &&
@@ -264,6 +251,7 @@ std::string hintOfLine(const ScriptError& error, std::string_view source, bool k
     };
     const auto* row = std::find_if(slips.begin(), slips.end(), isHere);
     if (row != slips.end()) return std::string(row->hint);
+    if (std::string hint = foreignWordAdvice(line.first()); !hint.empty()) return hint;
     const bool mayBeText =
         line.first() == "keystroke" || error.message.find("found identifier") != std::string::npos;
     return isInsideTell && mayBeText && line.first() == "keystroke" ? quotesHint(line) : "";
