@@ -203,6 +203,7 @@ Step<> X11InjectionSession::play(const Stroke& stroke) {
 
 Step<> X11InjectionSession::beginTail() {
     m_tools.connection.flush();
+    m_lastStroke = m_tools.clock.now();
     if (!m_tail.isDown()) return {};
     if (const auto passed = m_tools.connection.synchronise(); !passed) return passed.error();
     m_tail.begin();
@@ -310,6 +311,7 @@ Step<> X11InjectionSession::keyUp(const HeldKey& key) {
         // What the run does not hold is not released: it may be the user's own.
         if (m_held.empty()) return m_waiter.heedUser();
         if (auto prepared = prepareStroke(); !prepared) return prepared;
+        if (auto waited = awaitEndOfStroke(); !waited) return waited;
         const auto strokes = strokesOf(key);
         if (!strokes) return strokes.error();
         for (auto stroke = strokes.value().rbegin(); stroke != strokes.value().rend(); ++stroke) {
@@ -317,6 +319,13 @@ Step<> X11InjectionSession::keyUp(const HeldKey& key) {
         }
         return {};
     });
+}
+
+/// Modifiers that are held over keys come up as late after the last one as those of a stroke.
+Step<> X11InjectionSession::awaitEndOfStroke() {
+    const Keymap& map = m_tools.keymap.keymap();
+    if ((map.keys().heldBy(m_held.keycodes()) & map.masks().commands()) == 0) return {};
+    return m_waiter.waitUntil(m_lastStroke + ModifierTail::length);
 }
 
 KeycodeSet X11InjectionSession::ownKeys() const { return m_held.keycodes() | m_tail.keycodes(); }

@@ -64,6 +64,7 @@ class X11InjectionSession final : public InjectionSession {
     Step<> prepareStroke(xkb_mod_mask_t commands = 0);
     Step<> awaitOpenScreen();
     Step<> awaitHotKeys();
+    Step<> awaitEndOfStroke();
     Step<> awaitGuard();
     Step<> stopProcess();
 
@@ -97,6 +98,7 @@ class X11InjectionSession final : public InjectionSession {
     bool m_isPrepared = false;
     /// A stroke with Control, Alt or Super has been played, and nothing since.
     bool m_mayBeHotKey = false;
+    Clock::Time m_lastStroke = {};
     std::optional<Halt> m_halt;
 };
 
