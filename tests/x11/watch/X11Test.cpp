@@ -31,6 +31,12 @@ std::string wordsFor(const KeyEvent& event) {
         case KeyEventKind::keyUp:
             line << "up " << event.keyCode;
             break;
+        case KeyEventKind::modifierKeyDown:
+            line << "modifier down " << event.keyCode;
+            break;
+        case KeyEventKind::modifierKeyUp:
+            line << "modifier up " << event.keyCode;
+            break;
         case KeyEventKind::modifiersChanged:
             line << "mask";
             mask();
