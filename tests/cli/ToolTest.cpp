@@ -108,6 +108,7 @@ end tell
               R"(script:3:2: execution error: Can’t make "abc" into type number. (-1700)
 	delay "abc"
 	^
+Hint: “delay” counts seconds: delay 0.5.
 )");
 }
 

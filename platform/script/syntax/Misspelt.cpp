@@ -119,12 +119,14 @@ std::string wordMeant(const ScriptError& error, const ErrorLine& line,
     }
     const bool isOver = error.message.starts_with("Expected end of line but");
     if (!isOver && line.here() != "down") return "";
+    if (isOther(line.first()) && wordOf(line.first()) == Word::none) return "";
     if (isOver && line.isBehindFirst()) {
         if (std::string meant = meantAt(line.first(), WordPlace::statement); !meant.empty()) return meant;
     }
     const WordPlace place = isKeyboardCommand(line.first()) ? WordPlace::modifier : WordPlace::within;
     std::string meant = meantAt(line.here(), place);
-    if (!meant.empty() || line.isBehindFirst()) return meant;
+    // Any name may stand before a condition.
+    if (!meant.empty() || line.isBehindFirst() || line.here() == "whose") return meant;
     return meantAt(line.before(), place);
 }
 

@@ -192,14 +192,32 @@ bool isForeign(std::string_view word) {
     return isInSlips || isModifier || !foreignWordAdvice(word).empty();
 }
 
+/// The name that a target of `set` is; 0 for all else.
+NameId nameOf(const Node& target) {
+    if (target.kind == NodeKind::name || target.kind == NodeKind::predefined) return target.value;
+    const bool isBare = target.kind == NodeKind::element && (target.value & elementnode::isBare) != 0;
+    return isBare ? target.value >> elementnode::nameShift : 0;
+}
+
+/// The name that a statement gives a value; 0 for all else.
+NameId nameSetBy(const Node& statement, const Tree& tree) {
+    switch (statement.kind) {
+        case NodeKind::set:
+        case NodeKind::copy:
+            return statement.firstChild == noNode ? 0 : nameOf(tree.at(statement.firstChild));
+        case NodeKind::repeatIn:
+        case NodeKind::repeatRange:
+            return statement.value;
+        default:
+            return 0;
+    }
+}
+
 /// Whether the script has set a variable of that name.
 bool sets(const Tree& tree, std::string_view name) {
     return std::any_of(tree.nodes.begin(), tree.nodes.end(), [&](const Node& node) {
-        const bool isSet = node.kind == NodeKind::set || node.kind == NodeKind::copy;
-        const Node& target = isSet && node.firstChild != noNode ? tree.at(node.firstChild) : node;
-        const bool isName = isSet ? target.kind == NodeKind::name
-                                  : node.kind == NodeKind::repeatIn || node.kind == NodeKind::repeatRange;
-        return isName && equalIgnoringCase(tree.names.at(target.value).spelling, name);
+        const NameId set = nameSetBy(node, tree);
+        return set != 0 && equalIgnoringCase(tree.names.at(set).spelling, name);
     });
 }
 

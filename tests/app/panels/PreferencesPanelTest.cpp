@@ -155,7 +155,8 @@ TEST_F(PreferencesPanelTest, leadsTheFocusThroughAllControlsInTheirOrder) {
     QStringList order;
     QWidget* const first = &field("Start Recording");
     for (QWidget* widget = first; order.isEmpty() || widget != first; widget = widget->nextInFocusChain()) {
-        if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+        // A field of numbers has a line of its own that gives the focus to it.
+        if ((widget->focusPolicy() & Qt::TabFocus) == 0 || widget->focusProxy() != nullptr) continue;
         const auto* button = qobject_cast<QAbstractButton*>(widget);
         order.append(button == nullptr ? widget->accessibleName() : button->text().remove(u'&'));
     }
