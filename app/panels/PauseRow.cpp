@@ -45,7 +45,9 @@ PauseRow::PauseRow(PauseModel& model, QWidget* parent) : QWidget(parent) {
         const QSignalBlocker silence(limit);
         const PauseChoice choice = model.choice();
         box->setCurrentIndex(box->findData(static_cast<int>(choice.kind)));
-        limit->setValue(choice.limit / millisecondsPerSecond);
+        // What is being typed stays as it is typed.
+        const double seconds = choice.limit / millisecondsPerSecond;
+        if (limit->value() != seconds) limit->setValue(seconds);
         limit->setEnabled(choice.kind == PauseRecording::atMost);
     };
     connect(box, &QComboBox::currentIndexChanged, &model,
