@@ -274,6 +274,8 @@ void MacrosWindow::count() {
     --m_count;
     m_countText->setText(tr("Plays in %1 s...").arg(m_count));
     m_countText->setAccessibleName(m_countText->text());
+    // To be seen in the panel's list of windows too.
+    setWindowTitle(m_countText->text());
     if (m_count > 0) return;
     endCount();
     emit playWanted();
@@ -283,6 +285,7 @@ void MacrosWindow::endCount() {
     m_count = 0;
     m_countTimer.stop();
     m_counter->hide();
+    setWindowTitle(tr("Macros"));
     m_controls->setEnabled(true);
     m_play->setFocus();
 }

@@ -89,7 +89,12 @@ TEST_F(MacrosTest, escapeEndsTheCountAndNothingIsPlayed) {
     std::ofstream(file("Other")) << "tell application \"System Events\" to keystroke \"o\"\n";
     openGreeting();
     play();
+    ASSERT_TRUE(eventually([this] {
+        return desktop.shows("Plays in 3 s...") || desktop.shows("Plays in 2 s...") ||
+               desktop.shows("Plays in 1 s...");
+    }));
     press("Escape");
+    ASSERT_TRUE(eventually([this] { return desktop.shows(macros); }));
     // While it counts no other could be chosen.
     press("ctrl+f");
     type("other");
