@@ -8,6 +8,8 @@
 #include "platform/script/source/Misspelling.h"
 #include "platform/script/source/Word.h"
 #include "platform/script/syntax/ErrorLine.h"
+#include "platform/script/values/ElementNames.h"
+#include "platform/script/values/PredefinedNames.h"
 
 namespace script {
 namespace {
@@ -78,9 +80,12 @@ std::string expectedLike(std::string_view misspelt, std::string_view message) {
     return misspelling.meant();
 }
 
-bool isWord(std::string_view text) {
-    const bool isLetter = !text.empty() && text.front() >= 'a' && text.front() <= 'z';
-    return isLetter && wordOf(text) == Word::none;
+/// Whether it is a word that the language does not know.
+bool isUnknown(std::string_view text) {
+    if (text.empty() || text.front() < 'a' || text.front() > 'z') return false;
+    const std::uint32_t hash = SpellingHash(text).value();
+    const Token token{TokenKind::identifier, wordOf(text, hash), hash, text};
+    return token.is(Word::none) && findElementName(token) == nullptr && !findPredefinedName(token);
 }
 
 bool isKeyboardCommand(std::string_view word) { return word == "keystroke" || word == "key"; }
@@ -88,7 +93,7 @@ bool isKeyboardCommand(std::string_view word) { return word == "keystroke" || wo
 }  // namespace
 
 std::string endMeant(const ErrorLine& line) {
-    if (!isWord(line.second())) return "";
+    if (!isUnknown(line.second())) return "";
     if (line.first() == "end") {
         const std::string block = wordLike(line.second(), WordPlace::block);
         return block.empty() ? "" : "end " + block;
@@ -112,9 +117,9 @@ std::string wordLike(std::string_view misspelt, WordPlace place) {
 std::string wordMeant(const ScriptError& error, const ErrorLine& line,
                       const std::function<bool(std::string_view)>& isOther) {
     const auto meantAt = [&](const std::string& word, WordPlace place) {
-        return isWord(word) && !isOther(word) ? wordLike(word, place) : "";
+        return isUnknown(word) && !isOther(word) ? wordLike(word, place) : "";
     };
-    if (isWord(line.here())) {
+    if (isUnknown(line.here())) {
         if (std::string meant = expectedLike(line.here(), error.message); !meant.empty()) return meant;
     }
     const bool isOver = error.message.starts_with("Expected end of line but");
