@@ -56,7 +56,7 @@ keystroke "cd")");
     EXPECT_EQ(program->wait(), 1);
     EXPECT_EQ(output(), script() +
                             ":3:1: execution error: Can’t make \"x\" into type number. (-1700)\n"
-                            "delay \"x\"\n^\n");
+                            "delay \"x\"\n^\nHint: “delay” counts seconds: delay 0.5.\n");
     EXPECT_EQ(terminal().typed(2), "ab");
 }
 
