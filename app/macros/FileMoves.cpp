@@ -108,7 +108,7 @@ Result<> FileMoves::restore(const TrashedFile& file) {
     if (error == EEXIST) return errorOf(tr("There is already a macro called \"%1\".").arg(shown(file.from)));
     if (error != 0)
         return errorOf(tr("\"%1\" cannot be brought back: %2.").arg(shown(file.from), causeOf(error)));
-    // What the trash knows of it (Trash specification 1.0 of freedesktop.org).
+    // What the trash knows of it (Trash standard 1.0 of freedesktop.org).
     const fs::path in(file.in);
     std::error_code ignored;
     fs::remove(in.parent_path().parent_path() / "info" / (in.filename().string() + ".trashinfo"), ignored);
