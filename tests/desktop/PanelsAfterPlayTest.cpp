@@ -8,7 +8,7 @@ namespace {
 
 constexpr const char* script = "tell application \"System Events\" to key code 0\n";
 /// Of the entries that can be chosen as long as nothing has been recorded.
-constexpr int helpEntry = 4;
+constexpr int helpEntry = 5;
 
 /// A panel that is open while a macro is played multiple times into a terminal.
 class PanelsAfterPlayTest : public testing::TestWithParam<std::tuple<TrayKind, WindowManager>> {
