@@ -57,15 +57,14 @@ Result<Json> SwayConnection::ask(Request request, std::string_view content) {
     if (!send(type, content)) return unreachable();
     for (;;) {
         while (auto message = takeMessage()) {
+            if (message->type < firstEvent && m_overdue > 0) {
+                --m_overdue;
+                continue;
+            }
             auto json = Json::parse(message->content);
             if (!json) return unreachable();
-            if (message->type >= firstEvent) {
-                m_events.push_back({message->type, std::move(*json)});
-            } else if (m_overdue > 0) {
-                --m_overdue;
-            } else if (message->type == type) {
-                return std::move(*json);
-            }
+            if (message->type == type) return std::move(*json);
+            m_events.push_back({message->type, std::move(*json)});
         }
         const auto left =
             std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
