@@ -15,6 +15,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "app/macros/WriteAll.h"
 #include "platform/Descriptor.h"
 
 namespace {
@@ -33,14 +34,10 @@ void makeFolders(const fs::path& folder) {
     mkdir(folder.c_str(), folderMode);
 }
 
-/// 0, or the number of the error.
-int writeAll(int file, const std::string& bytes) {
-    for (std::size_t written = 0; written < bytes.size();) {
-        const ssize_t part = write(file, bytes.data() + written, bytes.size() - written);
-        if (part < 0 && errno != EINTR) return errno;
-        if (part > 0) written += static_cast<std::size_t>(part);
-    }
-    return fsync(file) == 0 ? 0 : errno;
+/// So that they outlive a crash of the machine. 0, or the number of the error.
+int writeForGood(int file, const std::string& bytes) {
+    const int error = writeAll(file, bytes);
+    return error != 0 || fsync(file) == 0 ? error : errno;
 }
 
 }  // namespace
@@ -78,7 +75,7 @@ Result<> DraftFiles::keep(const std::string& path, const std::string& text) cons
     int error = 0;
     {
         const Descriptor file(open(part.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, fileMode));
-        error = file ? writeAll(file.number(), path + "\n" + text) : errno;
+        error = file ? writeForGood(file.number(), path + "\n" + text) : errno;
     }
     if (error == 0 && std::rename(part.c_str(), whole.c_str()) != 0) error = errno;
     if (error == 0) return {};

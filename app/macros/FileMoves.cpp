@@ -11,6 +11,7 @@
 #include <cstring>
 #include <filesystem>
 
+#include "app/macros/WriteAll.h"
 #include "platform/Descriptor.h"
 
 namespace {
@@ -81,19 +82,10 @@ Result<> FileMoves::copy(const std::string& from, const std::string& to) {
     constexpr mode_t forTheUser = 0600;
     const Descriptor target(::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, forTheUser));
     if (!target) return fails(causeOf(errno));
-    qsizetype written = 0;
-    while (written < content.size()) {
-        const ssize_t part = write(target.number(), content.data() + written,
-                                   static_cast<std::size_t>(content.size() - written));
-        if (part < 0 && errno == EINTR) continue;
-        if (part < 0) {
-            const int error = errno;
-            unlink(to.c_str());
-            return fails(causeOf(error));
-        }
-        written += part;
-    }
-    return {};
+    const int error = writeAll(target.number(), {content.data(), static_cast<std::size_t>(content.size())});
+    if (error == 0) return {};
+    unlink(to.c_str());
+    return fails(causeOf(error));
 }
 
 Result<TrashedFile> FileMoves::trash(const std::string& path) {
