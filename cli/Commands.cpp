@@ -55,8 +55,8 @@ std::optional<script::Program> compiled(const Source& source) {
 
 /// The user has asked to stop between two runs.
 script::RunResult stopped() {
-    constexpr int userCancelled = -128;
-    return {script::RunEnd::cancelled, script::ScriptError{userCancelled, "User canceled.", {}, ""}, ""};
+    return {script::RunEnd::cancelled,
+            script::ScriptError{script::errornumber::userCancelled, "User canceled.", {}, ""}, ""};
 }
 
 /// So long the programs that are typed into are left alone behind a run.

@@ -61,11 +61,9 @@ MacroSettings settingsFrom(const Record& record) {
 
 void putSettings(Record& record, const MacroSettings& settings) {
     const MacroSettings initial;
-    const PlayTimes& played = settings.play.times;
     put(record, hotKeyCode, settings.hasHotKey(), std::to_string(settings.hotKey.code));
     put(record, hotKeyFlags, settings.hasHotKey(), std::to_string(settings.hotKey.flags));
-    put(record, times, played != initial.play.times,
-        played.count ? std::to_string(*played.count) : "until-stopped");
+    put(record, times, settings.play.times != initial.play.times, ::textOf(settings.play.times));
     put(record, speed, settings.play.speed != initial.play.speed, textOf(settings.play.speed));
     put(record, lastPlayed, settings.lastPlayed.has_value(),
         std::to_string(settings.lastPlayed.value_or(PlayedAt()).time_since_epoch().count()));

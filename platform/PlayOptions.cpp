@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr const char* untilStopped = "until-stopped";
+
 /// All of the text as a number; empty if it is none or goes beyond the type.
 template <typename Number>
 std::optional<Number> numberFrom(std::string_view text) {
@@ -18,10 +20,14 @@ std::optional<Number> numberFrom(std::string_view text) {
 }  // namespace
 
 std::optional<PlayTimes> playTimesFromText(std::string_view text) {
-    if (text == "until-stopped") return PlayTimes::untilStopped();
+    if (text == untilStopped) return PlayTimes::untilStopped();
     const auto count = numberFrom<std::int32_t>(text);
     if (!count || *count < 1) return std::nullopt;
     return PlayTimes{count};
+}
+
+std::string textOf(const PlayTimes& times) {
+    return times.count ? std::to_string(*times.count) : untilStopped;
 }
 
 std::optional<double> playSpeedFromText(std::string_view text) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 /// How often one command plays a script.
@@ -36,6 +37,9 @@ struct PlayOptions {
 
 /// As it is written on a command line: a whole number from 1 on, or "until-stopped". Empty if it is neither.
 std::optional<PlayTimes> playTimesFromText(std::string_view text);
+
+/// The same way back.
+std::string textOf(const PlayTimes& times);
 
 /// As it is written on a command line, with a point whatever the locale: "0.5". Empty if it is no number, or
 /// too slow or too fast.
