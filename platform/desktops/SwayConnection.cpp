@@ -57,10 +57,6 @@ Result<Json> SwayConnection::ask(Request request, std::string_view content) {
     if (!send(type, content)) return unreachable();
     for (;;) {
         while (auto message = takeMessage()) {
-            if (message->type < firstEvent && m_overdue > 0) {
-                --m_overdue;
-                continue;
-            }
             auto json = Json::parse(message->content);
             if (!json) return unreachable();
             if (message->type == type) return std::move(*json);
@@ -96,12 +92,7 @@ std::optional<SwayConnection::Event> SwayConnection::nextEvent() {
     while (read(0)) continue;
     while (auto message = takeMessage()) {
         auto json = Json::parse(message->content);
-        if (message->type < firstEvent) {
-            // An answer that nobody waits for any longer.
-            if (m_overdue > 0) --m_overdue;
-        } else if (json) {
-            m_events.push_back({message->type, std::move(*json)});
-        }
+        if (json && message->type >= firstEvent) m_events.push_back({message->type, std::move(*json)});
     }
     if (m_events.empty()) return std::nullopt;
     Event event = std::move(m_events.front());
@@ -139,6 +130,12 @@ bool SwayConnection::read(int milliseconds) {
 }
 
 std::optional<SwayConnection::Message> SwayConnection::takeMessage() {
+    auto message = takeAnyMessage();
+    for (; message && message->type < firstEvent && m_overdue > 0; message = takeAnyMessage()) --m_overdue;
+    return message;
+}
+
+std::optional<SwayConnection::Message> SwayConnection::takeAnyMessage() {
     if (m_received.size() < headerSize) return std::nullopt;
     const std::size_t size = numberAt(m_received, magic.size());
     if (!m_received.starts_with(magic) || size > longestMessage) {

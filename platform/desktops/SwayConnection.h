@@ -66,7 +66,9 @@ class SwayConnection {
     bool send(std::uint32_t type, std::string_view content);
     /// Reads what has come, after at most that many milliseconds; false if nothing has.
     bool read(int milliseconds);
+    /// The next one that has come whole and that nobody has given up.
     std::optional<Message> takeMessage();
+    std::optional<Message> takeAnyMessage();
 
     Descriptor m_socket;
     std::chrono::milliseconds m_patience;
