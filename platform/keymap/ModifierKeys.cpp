@@ -115,6 +115,14 @@ xkb_mod_mask_t ModifierKeys::heldBy(const KeycodeSet& keycodes) const {
     return modifiers;
 }
 
+KeycodeSet ModifierKeys::holdersOf(xkb_mod_mask_t modifiers, const KeycodeSet& among) const {
+    KeycodeSet holders;
+    for (std::size_t keycode = 0; keycode < among.size(); ++keycode) {
+        holders[keycode] = among[keycode] && (m_held[keycode] & modifiers) != 0;
+    }
+    return holders;
+}
+
 bool ModifierKeys::canHold(xkb_mod_mask_t mask) const {
     for (xkb_mod_mask_t modifier = 1; modifier <= realModifiers; modifier <<= 1U) {
         if ((mask & modifier) != 0 && keyFor(modifier) == 0) return false;

@@ -33,6 +33,8 @@ class ModifierKeys {
     xkb_mod_mask_t heldBy(std::uint8_t keycode) const { return m_held[keycode]; }
     /// The same of several keys together.
     xkb_mod_mask_t heldBy(const KeycodeSet& keycodes) const;
+    /// Those of some keys that hold any of these modifiers.
+    KeycodeSet holdersOf(xkb_mod_mask_t modifiers, const KeycodeSet& among) const;
 
     /// Whether there is more than one layout, so that modifiers that are held together may switch it.
     bool haveLayouts() const { return m_effects.size() > 1; }

@@ -130,8 +130,7 @@ std::string wordMeant(const ScriptError& error, const ErrorLine& line,
     }
     const WordPlace place = isKeyboardCommand(line.first()) ? WordPlace::modifier : WordPlace::within;
     std::string meant = meantAt(line.here(), place);
-    // Any name may stand before a condition.
-    if (!meant.empty() || line.isBehindFirst() || line.here() == "whose") return meant;
+    if (!meant.empty() || line.isBehindFirst()) return meant;
     return meantAt(line.before(), place);
 }
 

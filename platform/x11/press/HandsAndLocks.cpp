@@ -5,20 +5,6 @@
 
 namespace x11 {
 
-namespace {
-
-/// The keys of `among` that hold one of the modifiers.
-KeycodeSet holdersOf(const ModifierKeys& keys, xkb_mod_mask_t modifiers, const KeycodeSet& among) {
-    KeycodeSet holders;
-    for (std::size_t keycode = 0; keycode < among.size(); ++keycode) {
-        holders[keycode] =
-            among[keycode] && (keys.heldBy(static_cast<std::uint8_t>(keycode)) & modifiers) != 0;
-    }
-    return holders;
-}
-
-}  // namespace
-
 Result<void> HandsAndLocks::takeOver(const KeymapWatch& keymap) {
     const auto state = m_connection.synchronise();
     if (!state) return state.error();
@@ -51,7 +37,7 @@ bool HandsAndLocks::releaseStuck(const ModifierKeys& keys, const KeycodeSet& hel
                                  const XkbComponents& state) {
     const xkb_mod_mask_t stuck = state.depressed & ~keys.heldBy(held);
     if (stuck == 0 && state.latched == 0 && !state.movesLayout()) return false;
-    if (stuck != 0) m_connection.release(holdersOf(keys, stuck, ~held));
+    if (stuck != 0) m_connection.release(keys.holdersOf(stuck, ~held));
     m_connection.clearLatches();
     return true;
 }
@@ -60,7 +46,7 @@ bool HandsAndLocks::pressUndone(const ModifierKeys& keys, const KeycodeSet& held
                                 const XkbComponents& state) {
     const xkb_mod_mask_t undone = keys.heldBy(held) & ~state.depressed;
     if (undone == 0) return false;
-    const KeycodeSet holders = holdersOf(keys, undone, held);
+    const KeycodeSet holders = keys.holdersOf(undone, held);
     m_connection.release(holders);
     m_connection.press(holders);
     return true;

@@ -13,12 +13,7 @@ constexpr std::chrono::milliseconds betweenLooks{50};
 }  // namespace
 
 KeycodeSet HandsWait::modifierKeysAmong(const KeycodeSet& keys) const {
-    const ModifierKeys& map = m_tools.keymap.keymap().keys();
-    KeycodeSet modifiers;
-    for (std::size_t keycode = 0; keycode < keys.size(); ++keycode) {
-        modifiers[keycode] = keys[keycode] && map.heldBy(static_cast<std::uint8_t>(keycode)) != 0;
-    }
-    return modifiers;
+    return m_tools.keymap.keymap().keys().holdersOf(realModifiers, keys);
 }
 
 Step<> HandsWait::begin() {
@@ -30,16 +25,6 @@ Step<> HandsWait::begin() {
     }
     const auto up = untilUp({});
     return up ? Step<>() : Step<>(up.error());
-}
-
-KeycodeSet HandsWait::keysOfStop() const {
-    const ModifierKeys& map = m_tools.keymap.keymap().keys();
-    const std::uint16_t modifiers = m_tools.watch.modifiersOfStop();
-    KeycodeSet keys;
-    for (std::size_t keycode = 0; keycode < keys.size(); ++keycode) {
-        keys[keycode] = (map.heldBy(static_cast<std::uint8_t>(keycode)) & modifiers) != 0;
-    }
-    return keys;
 }
 
 bool HandsWait::releaseLeftOvers() {
@@ -126,6 +111,7 @@ KeycodeSet HandsWait::modifiersOfHands(const KeycodeSet& held) const {
 /// already: where another program holds any, it may hold the run's too. It is taken to hold those of a
 /// combination that ends the run, and no others, with which it would be no such combination.
 KeycodeSet HandsWait::keysOfHands(const KeycodeSet& held) const {
+    const ModifierKeys& keys = m_tools.keymap.keymap().keys();
     KeycodeSet down;
     for (const SlaveKeyboard& keyboard : m_tools.keymap.slaves()) {
         const KeycodeSet here = keysDownOn(m_tools.connection.get(), keyboard);
@@ -133,7 +119,7 @@ KeycodeSet HandsWait::keysOfHands(const KeycodeSet& held) const {
         if (!keyboard.isXtest) {
             down |= here;
         } else if (modifierKeysAmong(others).any()) {
-            down |= others | (here & keysOfStop());
+            down |= others | keys.holdersOf(m_tools.watch.modifiersOfStop(), here);
         }
     }
     return down;

@@ -41,8 +41,6 @@ class HandsWait {
 
   private:
     KeycodeSet modifierKeysAmong(const KeycodeSet& keys) const;
-    /// The modifier keys of the combinations that end a run.
-    KeycodeSet keysOfStop() const;
     bool releaseLeftOvers();
     KeycodeSet keysOfHands(const KeycodeSet& held) const;
     bool isHeld(const XkbComponents& state, const KeycodeSet& held) const;
