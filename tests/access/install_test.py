@@ -15,10 +15,10 @@ SOURCE, PROGRAM = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
 FILES = {
     "/usr/local/libexec/keyrill-access": 0o755,
     "/etc/systemd/system/keyrill-access.service": 0o644,
+    "/usr/local/share/man/man8/keyrill-access.8": 0o644,
     "/usr/share/dbus-1/system-services/example.orlen.Keyrill.Access.service": 0o644,
     "/usr/share/dbus-1/system.d/example.orlen.Keyrill.Access.conf": 0o644,
     "/usr/share/polkit-1/actions/example.orlen.Keyrill.policy": 0o644,
-    "/etc/modules-load.d/keyrill-uinput.conf": 0o644,
 }
 
 
@@ -71,11 +71,29 @@ class InstallTest(unittest.TestCase):
             self.assertEqual(self.run_tool(*words).returncode, 2)
         self.assertEqual(self.present(), {})
 
+    def test_a_package_has_it_where_distributions_keep_such_things(self):
+        shutil.copy(PROGRAM, self.build / "access/keyrill-access")
+        self.assertEqual(self.run_tool("package", str(self.build)).returncode, 0)
+        moved = {"/usr/local/libexec/keyrill-access": "/usr/libexec/keyrill-access",
+                 "/usr/local/share/man/man8/keyrill-access.8": "/usr/share/man/man8/keyrill-access.8",
+                 "/etc/systemd/system/keyrill-access.service": "/lib/systemd/system/keyrill-access.service"}
+        self.assertEqual(self.present(), {moved.get(name, name): mode for name, mode in FILES.items()})
+        self.assertIn("\nExecStart=/usr/libexec/keyrill-access\n",
+                      self.text("/lib/systemd/system/keyrill-access.service"))
+
+    def test_a_package_is_put_together_nowhere_but_below_a_folder(self):
+        shutil.copy(PROGRAM, self.build / "access/keyrill-access")
+        result = subprocess.run([SOURCE / "tools/access", "package", self.build], env=dict(os.environ, DESTDIR=""),
+                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, check=False)
+        self.assertEqual((result.returncode, result.stdout), (2, ""))
+
     def test_the_unit_starts_what_was_installed(self):
         self.install()
         unit = self.text("/etc/systemd/system/keyrill-access.service")
         self.assertIn("\nExecStart=/usr/local/libexec/keyrill-access\n", unit)
         self.assertIn("\nCapabilityBoundingSet=\n", unit)
+        self.assertIn("\nAfter=modprobe@uinput.service\n", unit)
+        self.assertNotIn("[Install]", unit)
         self.assertIn("SystemdService=keyrill-access.service",
                       self.text("/usr/share/dbus-1/system-services/example.orlen.Keyrill.Access.service"))
 
