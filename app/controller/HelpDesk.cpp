@@ -8,6 +8,7 @@
 #include "app/controller/Stage.h"
 #include "app/panels/AboutPanel.h"
 #include "platform/Addresses.h"
+#include "platform/Installation.h"
 #include "platform/MailUrl.h"
 
 HelpDesk::HelpDesk(Workspace& workspace, const SystemFacts& facts, Stage& stage)
@@ -43,7 +44,7 @@ void HelpDesk::openForum() { openPage(m_workspace, addresses::forumPage); }
 
 void HelpDesk::openProductPage() { openPage(m_workspace, addresses::productPage); }
 
-void HelpDesk::openDocumentation() { openPage(m_workspace, addresses::documentationPage); }
+void HelpDesk::openDocumentation() { openPage(m_workspace, documentationPage()); }
 
 void HelpDesk::sendEmail(std::string_view address, std::string_view subject, std::string_view body) {
     openPage(m_workspace, mailUrl(address, subject, body));

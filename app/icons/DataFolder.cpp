@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "app/icons/DataFolder.h"
 
-#include <QCoreApplication>
-#include <QDir>
+#include <QFile>
+
+#include "platform/Installation.h"
 
 namespace {
 
-QString fromProgram(const QString& folder) {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + folder);
-}
+QString decoded(const std::string& path) { return QFile::decodeName(path.c_str()); }
 
 }  // namespace
 
-QString dataFolder() { return fromProgram(QStringLiteral(KEYRILL_SHARE_FROM_PROGRAM "/keyrill")); }
+QString dataFolder() { return decoded(Installation::ofProcess().pictures()); }
 
-QString iconsFolder() { return fromProgram(QStringLiteral(KEYRILL_SHARE_FROM_PROGRAM "/icons")); }
+QString iconsFolder() { return decoded(Installation::ofProcess().icons()); }

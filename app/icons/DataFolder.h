@@ -3,8 +3,8 @@
 
 #include <QString>
 
-/// Where the program's pictures lie, by its own place: "PREFIX/share/keyrill" for "PREFIX/bin/keyrill". It
-/// need not exist. Needs the application object.
+/// Where the program's pictures lie (Installation): "PREFIX/share/keyrill" for "PREFIX/bin/keyrill". It need
+/// not exist.
 QString dataFolder();
 /// Where its icons lie, for icon themes.
 QString iconsFolder();

@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <sstream>
 
+#include "platform/Installation.h"
+
 namespace {
 
 bool isAbsolute(const std::string& path) { return !path.empty() && path.front() == '/'; }
@@ -30,7 +32,11 @@ ConfigFolders configFolders(const Environment& environment, const std::string& h
     return folders;
 }
 
-ConfigFolders configFoldersOfProcess() { return configFolders(environmentOfProcess(), homeOfProcess()); }
+ConfigFolders configFoldersOfProcess() {
+    ConfigFolders folders = configFolders(environmentOfProcess(), homeOfProcess());
+    folders.installation = Installation::ofProcess().presets();
+    return folders;
+}
 
 std::string userDataFolder(const Environment& environment, const std::string& home) {
     const std::string user = environment("XDG_DATA_HOME");

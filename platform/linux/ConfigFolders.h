@@ -12,6 +12,8 @@ struct ConfigFolders {
     std::string user;
     /// The system's, the most important first; may be empty.
     std::vector<std::string> system;
+    /// That of the program's own installation, beneath all others; empty if none.
+    std::string installation = {};
 
     friend bool operator==(const ConfigFolders&, const ConfigFolders&) = default;
 };
@@ -23,7 +25,7 @@ using Environment = std::function<std::string(const std::string& name)>;
 /// ignored. `home` is the user's home folder.
 ConfigFolders configFolders(const Environment& environment, const std::string& home);
 
-/// The same for this process: its environment and its user's home.
+/// The same for this process: its environment, its user's home and its installation.
 ConfigFolders configFoldersOfProcess();
 
 /// Where the user's data lie, by the same standard: XDG_DATA_HOME (default ~/.local/share), ignored where it

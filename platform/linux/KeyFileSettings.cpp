@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/KeyFileSettings.h"
 
+#include <algorithm>
 #include <charconv>
 #include <string_view>
 #include <utility>
@@ -25,6 +26,14 @@ std::int64_t integerFrom(std::string_view text) {
     return error == std::errc() && stop == end ? value : 0;
 }
 
+/// The most important first; each once, so that what is wrong with one is told once.
+std::vector<std::string> presetFolders(const ConfigFolders& folders) {
+    std::vector<std::string> all = folders.system;
+    const std::string& own = folders.installation;
+    if (!own.empty() && std::find(all.begin(), all.end(), own) == all.end()) all.push_back(own);
+    return all;
+}
+
 }  // namespace
 
 KeyFileSettings::KeyFileSettings(const ConfigFolders& folders, Use use) : KeyFileSettings(folders, use, {}) {}
@@ -46,7 +55,7 @@ KeyFileSettings::KeyFileSettings(const ConfigFolders& folders, Use use, std::fun
     } else {
         m_schedule->addFault(user.error());
     }
-    for (const std::string& folder : folders.system) {
+    for (const std::string& folder : presetFolders(folders)) {
         const std::string path = folder + fileName;
         if (WholeFile(path).isAbsent()) continue;
         const auto file = UserKeyFile::readAny(path, kind);

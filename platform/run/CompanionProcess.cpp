@@ -8,12 +8,11 @@
 
 #include <array>
 #include <csignal>
-#include <filesystem>
 #include <utility>
 
-namespace {
+#include "platform/Installation.h"
 
-constexpr const char* installedFolder = KEYRILL_COMPANION_FOLDER;
+namespace {
 
 bool isExecutable(const std::string& file) { return access(file.c_str(), X_OK) == 0; }
 
@@ -56,12 +55,12 @@ class CompanionFiles {
 }  // namespace
 
 std::optional<std::string> CompanionProcess::find(const std::string& name) {
-    std::error_code failed;
-    const auto self = std::filesystem::read_symlink("/proc/self/exe", failed);
-    const std::string beside = (self.parent_path() / name).string();
-    if (!failed && isExecutable(beside)) return beside;
-    const std::string installed = std::string(installedFolder) + "/" + name;
-    return isExecutable(installed) ? std::optional(installed) : std::nullopt;
+    const Installation installation = Installation::ofProcess();
+    for (const std::string& folder : {installation.programs(), installation.companions()}) {
+        const std::string file = folder + "/" + name;
+        if (isExecutable(file)) return file;
+    }
+    return std::nullopt;
 }
 
 bool CompanionProcess::open(const void* packet, std::size_t size) {

@@ -15,8 +15,8 @@
 /// What signals this program's group or session does not reach it; it ends when the line does.
 class CompanionProcess {
   public:
-    /// The program of that name beside the one that runs, or where it is installed; empty where it is
-    /// neither.
+    /// The program of that name beside the one that runs, or where the installation has it (Installation);
+    /// empty where it is neither.
     static std::optional<std::string> find(const std::string& name);
 
     CompanionProcess() = default;

@@ -59,7 +59,7 @@ BEGIN {
     room("library/steps", "core platform platform/script/code platform/script/run platform/script/source",
          standard "|^boost/", "")
 
-    app("icons", "")
+    app("icons", "platform")
     app("widgets", "app/icons")
     app("shortcuts", "prefs core platform")
     app("dialogs", "app/icons app/widgets platform")

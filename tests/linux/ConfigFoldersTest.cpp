@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <map>
 
+#include "platform/Installation.h"
+
 namespace {
 
 ConfigFolders foldersFor(const std::map<std::string, std::string>& variables) {
@@ -40,7 +42,8 @@ TEST(ConfigFoldersTest, ofTheProcessFollowItsEnvironment) {
     const ConfigFolders folders = configFoldersOfProcess();
     unsetenv("XDG_CONFIG_HOME");
     unsetenv("XDG_CONFIG_DIRS");
-    EXPECT_EQ(folders, (ConfigFolders{"/nowhere/config", {"/nowhere/xdg"}}));
+    EXPECT_EQ(folders,
+              (ConfigFolders{"/nowhere/config", {"/nowhere/xdg"}, Installation::ofProcess().presets()}));
 }
 
 TEST(UserDataFolderTest, followsTheStandard) {

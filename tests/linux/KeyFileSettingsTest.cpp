@@ -96,6 +96,25 @@ TEST_F(KeyFileSettingsTest, prefersTheUsersValueThenTheFirstFolders) {
     EXPECT_EQ(settings().integer("d"), std::nullopt);
 }
 
+TEST_F(KeyFileSettingsTest, takesFromTheInstallationWhatNoOtherFolderHas) {
+    write("second", "[Settings]\na=2\n");
+    write("installation", "[Settings]\na=3\nb=3\n");
+    ConfigFolders all = folders();
+    all.installation = folder.file("installation");
+    const KeyFileSettings settings(all);
+    EXPECT_EQ(settings.integer("a"), 2);
+    EXPECT_EQ(settings.integer("b"), 3);
+}
+
+TEST_F(KeyFileSettingsTest, readsTheInstallationOnceWhereTheSystemNamesItToo) {
+    write("second", "nonsense\n");
+    ConfigFolders all = folders();
+    all.installation = folder.file("second");
+    KeyFileSettings settings(all);
+    EXPECT_TRUE(settings.takeFault());
+    EXPECT_FALSE(settings.takeFault());
+}
+
 TEST_F(KeyFileSettingsTest, prefersAnUnparsableValueToALowerOne) {
     write("user", "[Settings]\na=none\n");
     write("first", "[Settings]\na=2\n");

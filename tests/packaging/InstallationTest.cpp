@@ -5,7 +5,7 @@
 #include <fstream>
 #include <regex>
 
-#include "platform/Addresses.h"
+#include "platform/Installation.h"
 #include "support/Child.h"
 
 namespace {
@@ -94,16 +94,19 @@ TEST_F(InstallationTest, theManualPagesAreWellFormed) {
         EXPECT_EQ(outputOf({"mandoc", "-T", "lint", "-W", "warning", page.path()}), "");
     }
     EXPECT_TRUE(isInstalled("share/man/man1/keyrill.1"));
+    EXPECT_EQ(outputOf({"mandoc", "-T", "lint", "-W", "warning", KEYRILL_ACCESS_MANUAL}), "");
 }
 
-TEST_F(InstallationTest, theDocumentationThatTheMenuOpensIsThere) {
-    const std::string page(addresses::documentationPage);
-    ASSERT_TRUE(page.starts_with("file://")) << page;
-    EXPECT_TRUE(std::filesystem::exists(stage->path() + page.substr(7))) << page;
+TEST_F(InstallationTest, theProgramFindsItsParts) {
+    const Installation installation(installed("bin"));
+    for (const std::string& file : {installation.manual(), installation.companions() + "/keyrill-guard",
+                                    installation.pictures() + "/splash.svg",
+                                    installation.icons() + "/hicolor/48x48/apps/" + id + ".png"})
+        EXPECT_TRUE(std::filesystem::is_regular_file(file)) << file;
 }
 
 TEST_F(InstallationTest, theManualIsWellFormedAndItsLinksLeadSomewhere) {
-    const std::filesystem::path folder = stage->path() + std::string(addresses::documentationPage).substr(7);
+    const std::filesystem::path folder = Installation(installed("bin")).manual();
     const std::string manual = contentOf(folder);
     outputOf({"python3", "-c", "import sys, xml.dom.minidom as dom; dom.parse(sys.argv[1])", folder});
     const std::regex link("(?:href|src)=\"([^\"]*)\"");
@@ -117,6 +120,15 @@ TEST_F(InstallationTest, theManualIsWellFormedAndItsLinksLeadSomewhere) {
         }
     }
     EXPECT_GE(links, 10);
+}
+
+TEST_F(InstallationTest, thePresetsLieInTheTreeButForUsrInEtc) {
+    EXPECT_TRUE(isInstalled("etc/xdg/keyrill/keyrill.conf"));
+    const TemporaryFolder system;
+    outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER, "--prefix", "/usr"},
+             {{"DESTDIR", system.path()}});
+    EXPECT_TRUE(std::filesystem::exists(system.path() + "/etc/xdg/keyrill/keyrill.conf"));
+    EXPECT_FALSE(std::filesystem::exists(system.path() + "/usr/etc"));
 }
 
 }  // namespace

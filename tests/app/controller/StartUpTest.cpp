@@ -7,7 +7,7 @@
 #include "app/panels/PreferencesPanel.h"
 #include "app/panels/WelcomePanel.h"
 #include "app/widgets/NoticeLine.h"
-#include "platform/Addresses.h"
+#include "platform/Installation.h"
 
 namespace {
 
@@ -146,8 +146,7 @@ TEST_F(StartUpTest, opensTheDocumentationWithoutAccessAndEndsASecondLater) {
     platform().sessionCheck.failAccess(noXtest());
     dialogs.answerNextAlert(AlertAnswer::defaultButton);
     controller.awakeFromNib();
-    EXPECT_EQ(platform().workspace.openedUrls(),
-              std::vector<std::string>{std::string(addresses::documentationPage)});
+    EXPECT_EQ(platform().workspace.openedUrls(), std::vector<std::string>{documentationPage()});
     EXPECT_EQ(timers(), std::vector<int>{1000});
     EXPECT_EQ(stateItems(),
               "Start Recording, Stop Recording, Save Pause, Play, Play Multiple Times..., "

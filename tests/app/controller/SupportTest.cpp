@@ -5,6 +5,7 @@
 #include "app/controller/BugReport.h"
 #include "app/panels/AboutPanel.h"
 #include "platform/Addresses.h"
+#include "platform/Installation.h"
 
 namespace {
 
@@ -27,7 +28,7 @@ TEST_F(SupportTest, opensThePagesOfTheAboutPanelsButtons) {
     controller.aboutPanel()->documentationButton()->click();
     controller.aboutPanel()->productPageButton()->click();
     controller.aboutPanel()->makersWebsiteButton()->click();
-    EXPECT_EQ(opened(), (Urls{std::string(addresses::documentationPage), std::string(addresses::productPage),
+    EXPECT_EQ(opened(), (Urls{documentationPage(), std::string(addresses::productPage),
                               std::string(addresses::makersWebsite)}));
 }
 
@@ -37,7 +38,7 @@ TEST_F(SupportTest, opensThePagesOfTheHelpMenu) {
                                    menuIndex("keyrillWebsite"), menuIndex("orlenWebsite")}) {
         menu.item(page)->trigger();
     }
-    EXPECT_EQ(opened(), (Urls{std::string(addresses::documentationPage), std::string(addresses::forumPage),
+    EXPECT_EQ(opened(), (Urls{documentationPage(), std::string(addresses::forumPage),
                               std::string(addresses::productPage), std::string(addresses::makersWebsite)}));
 }
 
