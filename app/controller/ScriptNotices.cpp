@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/ScriptNotices.h"
 
+#include <QPointer>
+#include <QTimer>
 #include <optional>
 #include <string>
+#include <utility>
 
+#include "app/dialogs/AlertTexts.h"
+#include "app/dialogs/Dialogs.h"
 #include "platform/Notifications.h"
 #include "platform/ScriptingService.h"
 
@@ -24,5 +29,17 @@ void ScriptNotices::post(const QString& title, const ScriptFailure& failure) {
     QString text =
         tr("Line %1: %2").arg(QString::number(failure.line), QString::fromStdString(failure.error.message));
     if (!failure.error.hint.empty()) text += u'\n' + QString::fromStdString(failure.error.hint);
-    m_notifications.post(title.toStdString(), text.toStdString());
+    // Who shows messages may answer when this is no more.
+    m_notifications.post(title.toStdString(), text.toStdString(),
+                         [self = QPointer<ScriptNotices>(this), title, text] {
+                             if (self) self->alertSoon(title, text);
+                         });
+}
+
+void ScriptNotices::alertSoon(const QString& title, const QString& text) {
+    if (std::exchange(m_isAlerting, true)) return;
+    QTimer::singleShot(0, this, [this, title, text] {
+        m_dialogs.runAlert(alerts::macroBroken(title, text));
+        m_isAlerting = false;
+    });
 }

@@ -1,22 +1,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QCoreApplication>
+#include <QObject>
 #include <QString>
 #include <string>
 
+class Dialogs;
 class Notifications;
 class ScriptingService;
 struct ScriptFailure;
 
-/// Tells the user by a notification what a macro's script cannot do.
-class ScriptNotices {
-    Q_DECLARE_TR_FUNCTIONS(ScriptNotices)
+/// Tells the user what a macro's script cannot do: by a notification, or by an alert where nobody shows
+/// those.
+class ScriptNotices : public QObject {
+    Q_OBJECT
 
   public:
-    /// Both outlive this.
-    ScriptNotices(ScriptingService& scripting, Notifications& notifications)
-        : m_scripting(scripting), m_notifications(notifications) {}
+    /// All outlive this.
+    ScriptNotices(ScriptingService& scripting, Notifications& notifications, Dialogs& dialogs)
+        : m_scripting(scripting), m_notifications(notifications), m_dialogs(dialogs) {}
 
     /// Of the play command that has just ended, if something failed in it: once, however often it was played.
     void tellOfPlayback();
@@ -26,7 +28,11 @@ class ScriptNotices {
 
   private:
     void post(const QString& title, const ScriptFailure& failure);
+    /// Once the program is back in its loop, unless such an alert is open already.
+    void alertSoon(const QString& title, const QString& text);
 
     ScriptingService& m_scripting;
     Notifications& m_notifications;
+    Dialogs& m_dialogs;
+    bool m_isAlerting = false;
 };

@@ -21,7 +21,12 @@ constexpr BusConnection::Method notify{service, object, service, "Notify"};
 struct Message {
     std::string title;
     std::string text;
+    Notifications::Unshown unshown;
 };
+
+void tellUnshown(const Message& message) {
+    if (message.unshown) message.unshown();
+}
 
 /// The bytes that go on a character.
 bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
@@ -71,7 +76,7 @@ struct BusNotifications::Parts {
     ~Parts() { unwatchService(); }
 
     void post(Message message) {
-        if (!connection.isOpen() && !connection.isOpening()) return;
+        if (!connection.isOpen() && !connection.isOpening()) return tellUnshown(message);
         waiting.push_back(std::move(message));
         if (waiting.size() > mostWaiting) waiting.pop_front();
         if (connection.isOpen()) sendOrAsk();
@@ -90,7 +95,12 @@ struct BusNotifications::Parts {
     void forgetBus() {
         unwatchService();
         forgetService();
-        waiting.clear();
+        giveUp();
+    }
+    /// What is told may post anew.
+    void giveUp() {
+        const std::deque<Message> lost = std::exchange(waiting, {});
+        for (const Message& message : lost) tellUnshown(message);
     }
     void forgetService() {
         hasMarkup.reset();
@@ -111,7 +121,7 @@ struct BusNotifications::Parts {
                         [this, asked = serviceNumber](GDBusMessage* answer) {
                             if (asked != serviceNumber) return;
                             isAsking = false;
-                            if (answer == nullptr) return waiting.clear();
+                            if (answer == nullptr) return giveUp();
                             hasMarkup = namesMarkup(answer);
                             sendAll();
                         });
@@ -121,7 +131,8 @@ struct BusNotifications::Parts {
         for (; !waiting.empty() && unanswered < mostUnanswered; waiting.pop_front()) {
             ++unanswered;
             connection.call(notify, parametersOf(waiting.front(), *hasMarkup), true,
-                            [this, sent = serviceNumber](GDBusMessage* /*answer*/) {
+                            [this, sent = serviceNumber, message = waiting.front()](GDBusMessage* answer) {
+                                if (answer == nullptr) tellUnshown(message);
                                 if (sent != serviceNumber) return;
                                 --unanswered;
                                 sendAll();
@@ -158,6 +169,6 @@ BusNotifications::BusNotifications(BusLoop& loop, const std::string& sessionBus)
     : m_parts(std::make_unique<Parts>(loop, sessionBus)) {}
 BusNotifications::~BusNotifications() = default;
 
-void BusNotifications::post(std::string_view title, std::string_view text) {
-    m_parts->post({shownText(title), shownText(text)});
+void BusNotifications::post(std::string_view title, std::string_view text, Unshown unshown) {
+    m_parts->post({shownText(title), shownText(text), std::move(unshown)});
 }

@@ -9,6 +9,22 @@
 
 namespace {
 
+/// A macro that cannot do what it says, where nobody shows notifications.
+TEST_F(DesktopTest, aBrokenMacroIsToldByAnAlertWhereNobodyShowsNotifications) {
+    desktop.startBus();
+    const Terminal terminal{desktop.display()};
+    const std::string file = desktop.file("broken.keyrill");
+    std::ofstream(file) << "get 1 / 0\n";
+    const Child keyrill({programs::keyrill, file}, desktop.options("product.log"));
+    ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
+    press("ctrl+super+p");
+    desktop.awaitFocus("The macro was not played to its end");
+    press("Return");
+    EXPECT_TRUE(eventually([&] { return terminal.hasFocus(); }));
+    press("period");
+    EXPECT_EQ(terminal.typed(1), ".");
+}
+
 /// A macro that cannot do what it says, on a desktop with a notification service.
 class BrokenMacroTest : public DesktopTest {
   protected:

@@ -94,7 +94,7 @@ class MacrosDeskTest : public AppTest {
   protected:
     const std::string folder = m_home.file("data/keyrill");
     LocalMacroFiles files{m_home.path(), m_home.file("data")};
-    ScriptNotices notices{platform().scripting, platform().notifications};
+    ScriptNotices notices{platform().scripting, platform().notifications, dialogs};
     Gate gate{platform().eventMonitor, [] {}};
     Stage stage{windows, [this] { return std::vector<QWidget*>{desk.window()}; }};
     MacrosDesk desk{{files, platform().keyboardLayout, platform().scripting, notices, gate, stage,

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QCoreApplication>
 #include <QLineEdit>
 
 #include "app/AppTest.h"
@@ -58,6 +59,32 @@ TEST_F(PlaybackNoticesTest, doNotComeWhenAllIsPlayedOrThePlaybackIsCancelled) {
     platform().scripting.duringEachRun([this] { platform().desktop.cancelPlayback(); });
     controller.playMacro(nullptr);
     EXPECT_EQ(messages(), Messages{});
+}
+
+TEST_F(PlaybackNoticesTest, areAnAlertWhereNobodyShowsThem) {
+    platform().notifications.losePresenter();
+    platform().scripting.refuse("script", broken);
+    controller.playMacro(nullptr);
+    EXPECT_TRUE(dialogs.alerts.empty()) << "within the play command";
+    QCoreApplication::processEvents();
+    EXPECT_EQ(dialogs.alerts, (std::vector<AlertText>{{.kind = AlertText::Kind::warning,
+                                                       .title = "The macro cannot be played",
+                                                       .message = "Line 3: Expected end.\nWrite it.",
+                                                       .defaultButton = "OK"}}));
+}
+
+TEST_F(PlaybackNoticesTest, areOneAlertHoweverManyComeBeforeItIsAnswered) {
+    platform().notifications.losePresenter();
+    platform().scripting.refuse("script", broken);
+    dialogs.whileOpen([this] { controller.playMacro(nullptr); });
+    controller.playMacro(nullptr);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(messages().size(), 2U);
+    EXPECT_EQ(dialogs.alerts.size(), 1U);
+    dialogs.whileOpen({});
+    controller.playMacro(nullptr);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(dialogs.alerts.size(), 2U);
 }
 
 TEST_F(PlaybackNoticesTest, doNotComeOfTheEmptyScriptThatKeepsTheServiceReady) {

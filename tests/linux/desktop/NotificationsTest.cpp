@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <functional>
 
 #include "linux/desktop/BusLoopTest.h"
 #include "platform/linux/BusNotifications.h"
@@ -153,6 +154,58 @@ TEST_F(NotificationsTest, areNothingWithoutABus) {
     notifications.post("shown", "");
     EXPECT_TRUE(isHeard(service, lineFor("shown", "")));
     EXPECT_EQ(service.count("nobody's"), 0U) << service.heard();
+}
+
+/// How often it was told that nobody shows the message.
+class Unshown {
+  public:
+    std::function<void()> counter() {
+        return [this] { ++m_times; };
+    }
+    int times() const { return m_times; }
+
+  private:
+    int m_times = 0;
+};
+
+TEST_F(NotificationsTest, tellWhoPostedThatThereIsNoService) {
+    BusNotifications notifications(loop, bus.address());
+    Unshown early;
+    notifications.post("while the bus is looked for", "", early.counter());
+    EXPECT_TRUE(turnUntil(loop, [&] { return early.times() == 1; }));
+    Unshown late;
+    notifications.post("when it is there", "", late.counter());
+    EXPECT_TRUE(turnUntil(loop, [&] { return late.times() == 1; }));
+    EXPECT_TRUE(isQuiet());
+    EXPECT_EQ(early.times() + late.times(), 2);
+}
+
+TEST_F(NotificationsTest, tellWhoPostedThatThereIsNoBus) {
+    for (const std::string address : {"", "unix:path=/nowhere/bus", "nonsense"}) {
+        BusNotifications notifications(loop, address);
+        Unshown unshown;
+        notifications.post("t", "", unshown.counter());
+        EXPECT_TRUE(turnUntil(loop, [&] { return unshown.times() == 1; })) << address;
+        EXPECT_TRUE(isQuiet()) << address;
+        EXPECT_EQ(unshown.times(), 1) << address;
+    }
+}
+
+TEST_F(NotificationsTest, tellWhoPostedThatTheServiceRefusesAndNotWhereItShows) {
+    Unshown shown;
+    {
+        const StandIn service(bus, {"notifications"});
+        BusNotifications notifications(loop, bus.address());
+        notifications.post("shown", "", shown.counter());
+        EXPECT_TRUE(isHeard(service, lineFor("shown", "")));
+        EXPECT_TRUE(isQuiet());
+    }
+    EXPECT_EQ(shown.times(), 0);
+    const StandIn service(bus, {"notifications", "refuses"});
+    BusNotifications notifications(loop, bus.address());
+    Unshown refused;
+    notifications.post("refused", "", refused.counter());
+    EXPECT_TRUE(turnUntil(loop, [&] { return refused.times() == 1; }));
 }
 
 TEST_F(NotificationsTest, outliveTheBus) {
