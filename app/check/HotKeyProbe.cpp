@@ -25,14 +25,15 @@ HotKeyFinding findingOf(HotKeyStatus status, bool isOurs) {
     return isOurs ? HotKeyFinding::ours : HotKeyFinding::taken;
 }
 
-HotKeyFinding probe(const ShortcutRow& row, KeyCombo combination, HotKeys& hotKeys, bool isOurs) {
+void probe(HotKeyFact& fact, const ShortcutRow& row, KeyCombo combination, HotKeys& hotKeys, bool isOurs) {
     hotKeys.request({.id = row.id,
                      .name = std::string(row.name),
                      .keyCode = static_cast<std::uint32_t>(combination.code),
                      .modifiers = hotKeyFlags(combination.flags)});
-    const HotKeyStatus status = hotKeys.state(row.id).status;
+    const HotKeyState state = hotKeys.state(row.id);
     hotKeys.withdraw(row.id);
-    return findingOf(status, isOurs);
+    fact.finding = findingOf(state.status, isOurs);
+    if (fact.finding == HotKeyFinding::taken && state.error) fact.why = *state.error;
 }
 
 }  // namespace
@@ -48,7 +49,7 @@ std::vector<HotKeyFact> probeHotKeys(const SettingsStore& settings, HotKeys& hot
         fact.combination = modifiersText(stored->flags).toStdString() +
                            layout.keyName(static_cast<std::uint32_t>(stored->code));
         const bool isOurs = std::find(ours.begin(), ours.end(), row.name) != ours.end();
-        fact.finding = probe(row, *stored, hotKeys, isOurs);
+        probe(fact, row, *stored, hotKeys, isOurs);
     }
     return facts;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/HotKeys.h"
+#include "platform/Result.h"
 
 class KeyboardLayout;
 class SettingsStore;
@@ -15,7 +16,7 @@ enum class HotKeyFinding {
     unset,      ///< no combination is chosen for it
     free,       ///< nobody has it
     ours,       ///< the running program has it
-    taken,      ///< another program has it
+    taken,      ///< it cannot be had; mostly, another program has it
     uncertain,  ///< the session does not tell at once
 };
 
@@ -25,6 +26,8 @@ struct HotKeyFact {
     /// As this desktop writes it: "Ctrl+Super+R"; empty if it is unset.
     std::string combination = {};
     HotKeyFinding finding = HotKeyFinding::unset;
+    /// Why it cannot be had, set where it is taken.
+    Error why = {};
 };
 
 /// Asks for each combination of the settings and gives it back at once. `ours` are the names of those that

@@ -82,10 +82,8 @@ ReportLine hotKeyLine(const HotKeyFact& fact) {
         case HotKeyFinding::ours:
             return line(Verdict::works, title, tr("%1, which the running Keyrill has").arg(combination));
         case HotKeyFinding::taken:
-            return line(
-                Verdict::fails, title,
-                tr("%1 is held by another program; the session does not tell which.").arg(combination),
-                tr("Choose another combination in the preferences, or free it in that program."));
+            return line(Verdict::fails, title, QString::fromStdString(fact.why.message),
+                        QString::fromStdString(fact.why.hint));
         case HotKeyFinding::uncertain:
             break;
     }

@@ -12,6 +12,7 @@
 namespace {
 
 const char* const chooseAnother = "Choose another combination.";
+const char* const addModifier = "Add Ctrl, Alt or Super.";
 const char* const allowIt = "Choose another combination, or allow it in the desktop's settings.";
 const char* const freeIt = "Choose another combination, or free it in the program that holds it.";
 
@@ -253,6 +254,7 @@ Result<KeyGrab> HotKeyTable::grabFor(const HotKeyRequest& request) const {
     const Keymap& keymap = m_keyboard.keymap();
     const std::uint8_t keycode = keymap.keycodeFor(request.keyCode);
     if (keycode == 0) return Error{"this desktop has no such key", chooseAnother};
+    if (isTyped(request)) return Error{"nobody could type it any more", addModifier};
     const auto modifiers = keymap.real(request.modifiers, request.keyCode);
     if (!modifiers) return Error{clauseOf(modifiers.error().message), chooseAnother};
     const ModifierMasks& masks = keymap.masks();
@@ -260,6 +262,13 @@ Result<KeyGrab> HotKeyTable::grabFor(const HotKeyRequest& request) const {
     return KeyGrab{.keycode = keycode,
                    .modifiers = static_cast<std::uint16_t>(modifiers.value() | lockedHolds()),
                    .locks = static_cast<std::uint16_t>(masks.locks() | lockedLevels)};
+}
+
+bool HotKeyTable::isTyped(const HotKeyRequest& request) const {
+    constexpr std::uint32_t others = modifier::control | modifier::option | modifier::command;
+    if ((request.modifiers & others) != 0 || (request.keyCode & keycode::choosers) != 0) return false;
+    const bool shift = (request.modifiers & modifier::shift) != 0;
+    return !typedText(m_keyboard.keymap(), m_keyboard.layout(), request.keyCode, shift).empty();
 }
 
 std::optional<HotKeyId> HotKeyTable::holderOf(const KeyGrab& grab) const {

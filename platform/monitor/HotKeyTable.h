@@ -91,6 +91,8 @@ class HotKeyTable {
     void settle(Row& row, HotKeyState state);
     /// The grab of a request, or why there can be none.
     Result<KeyGrab> grabFor(const HotKeyRequest& request) const;
+    /// Whether it is a character, which as a hot key would be lost to every program.
+    bool isTyped(const HotKeyRequest& request) const;
     /// Those of Shift, Control, Alt and Super that are locked.
     xkb_mod_mask_t lockedHolds() const;
     /// The row that has it.

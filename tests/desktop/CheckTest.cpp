@@ -104,11 +104,22 @@ TEST_F(CheckTest, whatAnotherProgramHoldsIsTold) {
     const Holder holder(desktop.display(), xkey::r);
     const Report report = checkIn(desktop);
     EXPECT_EQ(report.status, 1);
-    EXPECT_TRUE(
-        report.has("no  Hot key of \"Start Recording\": Ctrl+Super+R is held by another program; the "
-                   "session does not tell which."))
+    EXPECT_TRUE(report.has(
+        "no  Hot key of \"Start Recording\": Ctrl+Super+R cannot be used: another program holds it."))
         << report.text;
     EXPECT_TRUE(report.has("ok  Hot key of \"Play\": Ctrl+Super+P, which nobody else has")) << report.text;
+}
+
+TEST_F(CheckTest, aLetterAloneIsNoHotKeyAndGoesOnBeingTyped) {
+    desktop.writeSettings("notFirstRun=true\nrecordCode=15\nrecordFlags=0\n");
+    const Terminal terminal(desktop.display());
+    const Keyrill keyrill(desktop);
+    const Report report = checkIn(desktop);
+    EXPECT_TRUE(
+        report.has("no  Hot key of \"Start Recording\": R cannot be used: nobody could type it any more."))
+        << report.text;
+    desktop.press("r");
+    EXPECT_EQ(terminal.typed(1), "r");
 }
 
 TEST_F(CheckTest, whatTheRunningProgramHoldsIsNoConflict) {
@@ -117,9 +128,8 @@ TEST_F(CheckTest, whatTheRunningProgramHoldsIsNoConflict) {
     const Report report = checkIn(desktop);
     EXPECT_TRUE(report.has("ok  Hot key of \"Start Recording\": Ctrl+Super+R, which the running Keyrill has"))
         << report.text;
-    EXPECT_TRUE(
-        report.has("no  Hot key of \"Stop Recording\": Ctrl+Super+S is held by another program; the "
-                   "session does not tell which."))
+    EXPECT_TRUE(report.has(
+        "no  Hot key of \"Stop Recording\": Ctrl+Super+S cannot be used: another program holds it."))
         << report.text;
     EXPECT_TRUE(report.has("ok  Keyrill: is running")) << report.text;
 }

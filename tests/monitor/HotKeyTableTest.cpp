@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <ostream>
+#include <utility>
 
 #include "keymap/NamedKeymap.h"
 #include "platform/KeyCodes.h"
@@ -79,6 +80,29 @@ TEST_F(HotKeyTableTest, aRequestIsAGrabByTheKeymapsOwnModifiers) {
 TEST_F(HotKeyTableTest, aLevelChooserIsPartOfTheCombination) {
     m_table.request(asked(record, 0, keycode::thirdLevel + codeOfR));
     EXPECT_EQ(m_grabber.held, (std::vector{KeyGrab{.keycode = keyOfR, .modifiers = 0x80, .locks = 0x12}}));
+}
+
+TEST_F(HotKeyTableTest, aCharacterAloneIsRefused) {
+    constexpr std::uint32_t space = 49;
+    constexpr std::uint32_t keypad5 = 87;
+    m_table.request(asked(record, 0));
+    EXPECT_EQ(refusal(record), "R cannot be used: nobody could type it any more.");
+    EXPECT_EQ(m_table.state(record).error->hint, "Add Ctrl, Alt or Super.");
+    using Combination = std::pair<std::uint32_t, std::uint32_t>;
+    for (const auto& [modifiers, code] :
+         {Combination{0, space}, Combination{0, keypad5}, Combination{modifier::shift, codeOfR}}) {
+        m_table.request(asked(play, modifiers, code));
+        EXPECT_EQ(m_table.state(play).status, HotKeyStatus::refused) << code << " " << modifiers;
+    }
+    EXPECT_TRUE(m_grabber.held.empty());
+}
+
+TEST_F(HotKeyTableTest, aKeyThatTypesNothingNeedsNoModifier) {
+    constexpr std::uint32_t f5 = 96;
+    constexpr std::uint32_t left = 123;
+    m_table.request(asked(record, 0, f5));
+    m_table.request(asked(play, modifier::shift, left));
+    EXPECT_EQ(m_grabber.held.size(), 2U);
 }
 
 TEST_F(HotKeyTableTest, aWithdrawnCombinationIsGivenFree) {

@@ -37,6 +37,14 @@ TEST_F(HotKeyProbeTest, whatAnotherProgramHoldsIsTaken) {
     EXPECT_EQ(recordFact({"stop"}).finding, HotKeyFinding::taken);
 }
 
+TEST_F(HotKeyProbeTest, whatCannotBeHadSaysWhy) {
+    const Error why = {"R cannot be used: nobody could type it any more.", "Add Ctrl, Alt or Super."};
+    platform.hotKeys.failNextCall(why);
+    const HotKeyFact fact = recordFact();
+    EXPECT_EQ(fact.finding, HotKeyFinding::taken);
+    EXPECT_EQ(fact.why, why);
+}
+
 TEST_F(HotKeyProbeTest, whatTheRunningProgramHoldsIsOurs) {
     platform.hotKeys.otherProgramHolds(key::r, modifier::control | modifier::command);
     EXPECT_EQ(recordFact({"stop", "record"}).finding, HotKeyFinding::ours);

@@ -88,10 +88,10 @@ TEST(SessionReportTest, whatWorksInPartTellsHowAndWhatIsLost) {
 TEST(SessionReportTest, aCombinationThatAnotherProgramHoldsFails) {
     SessionFacts facts = goodSession();
     facts.hotKeys[0].finding = HotKeyFinding::taken;
+    facts.hotKeys[0].why = {"Ctrl+Super+R cannot be used: another program holds it.", "Choose another."};
     EXPECT_TRUE(contains(textOf(facts),
-                         "no  Hot key of \"Start Recording\": Ctrl+Super+R is held by another program; the "
-                         "session does not tell which.\n        Choose another combination in the "
-                         "preferences, or free it in that program.\n"));
+                         "no  Hot key of \"Start Recording\": Ctrl+Super+R cannot be used: another program "
+                         "holds it.\n        Choose another.\n"));
     EXPECT_EQ(statusOf(facts), 1);
 }
 
