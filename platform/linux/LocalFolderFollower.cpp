@@ -2,7 +2,6 @@
 #include "platform/linux/LocalFolderFollower.h"
 
 #include <poll.h>
-#include <signal.h>
 #include <sys/eventfd.h>
 
 #include <algorithm>
@@ -15,6 +14,7 @@
 #include <utility>
 
 #include "platform/Descriptor.h"
+#include "platform/SignalsElsewhere.h"
 #include "platform/linux/FolderTree.h"
 
 namespace {
@@ -32,22 +32,6 @@ void sleepAgain(const Descriptor& counter) {
     eventfd_t count = 0;
     [[maybe_unused]] const int ignored = eventfd_read(counter.number(), &count);
 }
-
-/// What is started meanwhile takes no signals: they are there to end a wait of the main thread.
-class SignalsElsewhere {
-  public:
-    SignalsElsewhere() {
-        sigset_t all;
-        sigfillset(&all);
-        pthread_sigmask(SIG_SETMASK, &all, &m_before);
-    }
-    ~SignalsElsewhere() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
-    SignalsElsewhere(const SignalsElsewhere&) = delete;
-    SignalsElsewhere& operator=(const SignalsElsewhere&) = delete;
-
-  private:
-    sigset_t m_before{};
-};
 
 }  // namespace
 
