@@ -36,7 +36,8 @@ constexpr std::chrono::seconds killDelay{1};
 
 }  // namespace
 
-AppController::AppController(Services& services, Windows& windows, StatusItem& item, Dialogs& dialogs)
+AppController::AppController(Services& services, Windows& windows, StatusItem& item, Dialogs& dialogs,
+                             LibraryController& library)
     : m_services(services),
       m_statusNotice(item),
       m_gate(services.eventMonitor, [this] { followGate(); }),
@@ -53,8 +54,8 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, m_dialogs, m_stage),
       m_accessDesk(services.eventMonitor, services.notifications, m_dialogs, m_overlayDesk),
       m_recordHereDesk(services.eventMonitor, services.hotKeys, m_preferencesDesk.model.stop, m_stage),
-      m_macrosDesk({services.macroFiles, services.keyboardLayout, services.scripting, m_scriptNotices, m_gate,
-                    m_stage, DraftFiles(DraftFiles::folderOfProcess())}),
+      m_macrosDesk({library, services.macroFiles, services.keyboardLayout, m_gate, m_stage,
+                    DraftFiles(DraftFiles::folderOfProcess())}),
       statusItem(item) {
     timer.setSingleShot(true);
     m_killTimer.setSingleShot(true);

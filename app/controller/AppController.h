@@ -30,6 +30,7 @@
 #include "platform/HotKeys.h"
 #include "platform/Result.h"
 
+class LibraryController;
 class WelcomePanel;
 class Windows;
 struct ActionRow;
@@ -50,7 +51,8 @@ class AppController : public QObject, public SharedController {
     using Action = void (AppController::*)(QObject*);
 
     /// All outlive the controller.
-    AppController(Services& services, Windows& windows, StatusItem& item, Dialogs& dialogs);
+    AppController(Services& services, Windows& windows, StatusItem& item, Dialogs& dialogs,
+                  LibraryController& library);
     ~AppController() override;
 
     // Start-up and end

@@ -1,34 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/MacrosDesk.h"
 
-#include <QElapsedTimer>
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <utility>
 
 #include "app/controller/Gate.h"
-#include "app/controller/ScriptNotices.h"
+#include "app/controller/LibraryItems.h"
 #include "app/controller/Stage.h"
-#include "app/macros/FolderShelf.h"
+#include "app/library/LibraryController.h"
 #include "app/macros/KeysView.h"
 #include "app/macros/MacroEditor.h"
 #include "app/macros/MacroListModel.h"
 #include "app/macros/MacrosWindow.h"
 #include "core/Macro.h"
-#include "engine/AppleScript.h"
 #include "engine/EngineState.h"
 #include "engine/MacroPlayer.h"
 #include "library/steps/Steps.h"
 #include "platform/MacroFiles.h"
-#include "platform/ScriptingService.h"
 
 namespace {
 
-/// What reading for the search may take of one turn of the loop.
-constexpr qint64 readingMilliseconds = 4;
-/// From a change to its draft on the disk.
-constexpr std::chrono::milliseconds draftDelay{500};
+/// Nearly all texts are there by then, before anybody sees that there was nothing.
+constexpr std::chrono::milliseconds glance{50};
+/// What a folder may take before it is told that it does not answer.
+constexpr std::chrono::milliseconds patience{500};
 
 /// What people would look for in a macro: what it types, or its script.
 std::string contentOf(const std::string& script, const KeyboardLayout& layout) {
@@ -54,26 +51,43 @@ std::optional<std::string> linesOf(const std::string& script) {
 
 MacrosDesk::MacrosDesk(const Means& means)
     : m_means(means),
-      m_shelf(std::make_unique<FolderShelf>([&files = means.files] { return files.prepareFolder(); })) {
-    connect(m_shelf.get(), &MacroShelf::changed, this, &MacrosDesk::showItems);
-    connect(m_shelf.get(), &MacroShelf::contentChanged, this, &MacrosDesk::followContent);
-    m_contents.setInterval(0);
-    connect(&m_contents, &QTimer::timeout, this, &MacrosDesk::readContents);
-    m_draftTimer.setSingleShot(true);
-    m_draftTimer.setInterval(draftDelay);
-    connect(&m_draftTimer, &QTimer::timeout, this, &MacrosDesk::keepDrafts);
+      m_library(means.library.library()),
+      m_unsaved(means.drafts),
+      m_reader([&files = means.files](const std::string& file) { return files.read(file); }) {
+    connectTimers();
+    connect(&m_reader, &TextReader::wasReadLater, this, &MacrosDesk::takeContent);
+    connect(&m_reader, &TextReader::wasReadFirst, this, &MacrosDesk::takeText);
+    connect(&m_unsaved, &UnsavedTexts::notKept, this, [this](const Error& why) {
+        if (m_window) m_window->warn(tr("What is not saved would not outlive a crash. %1").arg(shown(why)));
+    });
+    m_library.addListener(*this);
 }
 
-MacrosDesk::~MacrosDesk() { keepDrafts(); }
+MacrosDesk::~MacrosDesk() { m_library.removeListener(*this); }
+
+void MacrosDesk::connectTimers() {
+    // What comes in a burst is shown once.
+    m_showing.setSingleShot(true);
+    m_showing.setInterval(0);
+    connect(&m_showing, &QTimer::timeout, this, &MacrosDesk::showItems);
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(patience);
+    connect(&m_patience, &QTimer::timeout, this,
+            [this] { m_window->tell(tr("The macro is still being read: its folder does not answer.")); });
+    connect(&m_means.library, &LibraryController::hotKeyChanged, this, [this] {
+        if (m_window) m_showing.start();
+    });
+}
 
 MacrosWindow& MacrosDesk::builtWindow() {
     if (!m_window) {
         m_window = std::make_unique<MacrosWindow>(m_means.layout);
         connectWindow();
-        m_unsaved = m_means.drafts.all();
-        m_shelf->open();
+        loadUnsaved();
         showItems();
-        tellOfDrafts();
+        readContents();
+        tellOfUnsaved();
+        tellFaults();
     }
     return *m_window;
 }
@@ -98,19 +112,54 @@ void MacrosDesk::show() {
     m_means.stage.present(builtWindow(), opaque);
 }
 
-void MacrosDesk::showItems() {
+// What follows the folder
+
+void MacrosDesk::libraryChanged(const LibraryChanges& changes) {
+    followRenames(changes.renamed);
     if (!m_window) return;
-    std::vector<MacroListItem> items = m_shelf->items();
-    // What is not saved is to be seen also when its file is gone.
-    for (const auto& [path, text] : m_unsaved) {
-        const auto isIt = [&path = path](const MacroListItem& item) { return item.path == path; };
-        if (std::any_of(items.begin(), items.end(), isIt)) continue;
-        items.push_back({path, QString::fromStdString(std::filesystem::path(path).stem().string()), {}});
+    followGone(changes.gone);
+    m_showing.start();
+    std::vector<std::string> others = changes.changed;
+    for (const FolderChanges::Rename& rename : changes.renamed) others.push_back(rename.to);
+    for (const std::string& path : others) {
+        m_window->list().forgetContent(path);
+        if (path == m_window->chosen()) m_reader.readFirst(path, m_library.fileOf(path));
     }
-    m_window->setItems(std::move(items));
-    for (const auto& [path, text] : m_unsaved) m_window->list().setChanged(path, true);
-    m_nextContent = 0;
-    m_contents.start();
+    if (changes.isFirst || !changes.appeared.empty() || !others.empty()) readContents();
+    if (changes.hasOtherFaults) tellFaults();
+}
+
+void MacrosDesk::followRenames(const std::vector<FolderChanges::Rename>& renamed) {
+    if (renamed.empty()) return;
+    loadUnsaved();
+    m_unsaved.rename(renamed);
+    if (!m_window) return;
+    for (const FolderChanges::Rename& rename : renamed) m_window->list().setChanged(rename.from, false);
+    const std::string chosen = m_window->chosen();
+    const auto isIts = [&chosen](const FolderChanges::Rename& rename) { return rename.from == chosen; };
+    const auto rename = std::find_if(renamed.begin(), renamed.end(), isIts);
+    if (rename == renamed.end()) return;
+    m_window->noteRenamed(rename->to);
+    // What is being read has another name now.
+    if (m_opening == rename->from) openMacro(rename->to);
+}
+
+void MacrosDesk::followGone(const std::vector<std::string>& gone) {
+    const std::string& chosen = m_window->chosen();
+    if (!std::binary_search(gone.begin(), gone.end(), chosen)) return;
+    if (m_unsaved.contains(chosen)) {
+        m_window->warn(tr("The file of this macro is gone. If you save, it is there again."));
+    } else {
+        m_window->choose({});
+        m_window->tell(tr("Another program has deleted or moved the macro."));
+    }
+}
+
+void MacrosDesk::showItems() {
+    std::vector<MacroListItem> items = libraryItems(m_library, m_means.library.hotKeys(), m_unsaved.all());
+    m_window->setReading(!m_library.isRead());
+    if (items != m_window->list().items()) m_window->setItems(std::move(items));
+    for (const auto& [path, text] : m_unsaved.all()) m_window->list().setChanged(path, true);
     if (m_awaited.empty() || !m_window->list().indexOf(m_awaited).isValid()) return;
     const std::string path = std::exchange(m_awaited, {});
     if (std::exchange(m_namesAwaited, false)) {
@@ -121,41 +170,64 @@ void MacrosDesk::showItems() {
 }
 
 void MacrosDesk::readContents() {
-    QElapsedTimer watch;
-    watch.start();
-    MacroListModel& list = m_window->list();
-    while (m_nextContent < list.items().size() && watch.elapsed() < readingMilliseconds) {
-        const std::string& path = list.items()[m_nextContent++].path;
-        if (list.hasContent(path)) continue;
-        const Result<std::string> text = m_means.files.read(m_shelf->fileOf(path));
-        list.setContent(path, text ? contentOf(text.value(), m_means.layout) : std::string());
+    m_reader.forgetLater();
+    for (const LibraryEntry& entry : m_library.entries()) {
+        if (!m_window->list().hasContent(entry.path))
+            m_reader.readLater(entry.path, m_library.fileOf(entry.path));
     }
-    if (m_nextContent >= list.items().size()) m_contents.stop();
 }
 
+void MacrosDesk::takeContent(const std::string& path, const Result<std::string>& text) {
+    m_window->list().setContent(path, text ? contentOf(text.value(), m_means.layout) : std::string());
+}
+
+void MacrosDesk::takeText(const std::string& path, const Result<std::string>& text) {
+    takeContent(path, text);
+    if (path != m_window->chosen()) return;
+    if (path == m_opening) {
+        showText(path, text);
+    } else {
+        followText(path, text);
+    }
+}
+
+void MacrosDesk::tellFaults() {
+    if (!m_library.faults().empty()) m_window->warn(shown(m_library.faults().front()));
+}
+
+// The text of the chosen macro
+
 void MacrosDesk::openMacro(const std::string& path) {
-    if (path.empty()) return m_window->showMacro({}, {});
-    const Result<std::string> text = m_means.files.read(m_shelf->fileOf(path));
-    const auto unsaved = m_unsaved.find(path);
-    if (!text && unsaved == m_unsaved.end()) return m_window->showFault(shown(text.error()));
+    m_opening = path;
+    if (path.empty()) {
+        m_patience.stop();
+        m_window->showMacro({}, {});
+        return;
+    }
+    m_patience.start();
+    m_reader.readFirst(path, m_library.fileOf(path));
+    m_reader.await(path, glance);
+}
+
+void MacrosDesk::showText(const std::string& path, const Result<std::string>& text) {
+    m_opening.clear();
+    // It may have been told.
+    if (!m_patience.isActive()) m_window->tell({});
+    m_patience.stop();
+    const std::string* const unsaved = m_unsaved.find(path);
+    if (!text && unsaved == nullptr) return m_window->showFault(shown(text.error()));
     m_saved = text ? text.value() : std::string();
-    m_window->showMacro(m_saved, unsaved == m_unsaved.end() ? m_saved : unsaved->second);
+    m_window->showMacro(m_saved, unsaved == nullptr ? m_saved : *unsaved);
     if (!text) m_window->warn(tr("The file of this macro is gone. If you save, it is there again."));
 }
 
 /// Somebody else has changed the file.
-void MacrosDesk::followContent(const std::string& path) {
-    if (!m_window) return;
-    m_window->list().forgetContent(path);
-    m_nextContent = 0;
-    m_contents.start();
-    if (path != m_window->chosen()) return;
-    const Result<std::string> text = m_means.files.read(m_shelf->fileOf(path));
+void MacrosDesk::followText(const std::string& path, const Result<std::string>& text) {
     if (!text || text.value() == m_saved) return;
     if (m_unsaved.contains(path)) {
         m_window->warn(tr("Another program has changed this macro. If you save, your text replaces it."));
     } else {
-        openMacro(path);
+        showText(path, text);
     }
 }
 
@@ -164,39 +236,31 @@ void MacrosDesk::noteEdit() {
     if (path.empty()) return;
     const bool isChanged = m_window->editor().isChanged();
     if (isChanged) {
-        m_unsaved[path] = m_window->editor().text();
+        m_unsaved.set(path, m_window->editor().text());
     } else {
-        m_unsaved.erase(path);
+        m_unsaved.take(path);
     }
     m_window->list().setChanged(path, isChanged);
-    m_undrafted.insert(path);
-    if (!m_draftTimer.isActive()) m_draftTimer.start();
-}
-
-void MacrosDesk::keepDrafts() {
-    for (const std::string& path : std::exchange(m_undrafted, {})) {
-        const auto unsaved = m_unsaved.find(path);
-        if (unsaved == m_unsaved.end()) {
-            m_means.drafts.forget(path);
-        } else if (const Result<> kept = m_means.drafts.keep(path, unsaved->second); !kept && m_window) {
-            m_window->warn(tr("What is not saved would not outlive a crash. %1").arg(shown(kept.error())));
-        }
-    }
 }
 
 /// Of an earlier run.
-void MacrosDesk::tellOfDrafts() {
-    if (m_unsaved.empty()) return;
+void MacrosDesk::loadUnsaved() {
+    if (!std::exchange(m_hasLoadedUnsaved, true)) m_unsaved.load();
+}
+
+void MacrosDesk::tellOfUnsaved() {
+    if (m_unsaved.all().empty()) return;
     QStringList names;
-    for (const auto& [path, text] : m_unsaved)
-        names.append(QString::fromStdString(std::filesystem::path(path).stem().string()));
+    for (const auto& [path, text] : m_unsaved.all()) names.append(macroName(path));
     m_window->tell(tr("What was not saved is there again: %1.").arg(names.join(tr(", "))));
 }
+
+// What the user asks for
 
 void MacrosDesk::save() {
     const std::string path = m_window->chosen();
     const std::string text = m_window->editor().text();
-    const Result<> written = m_means.files.write(m_shelf->fileOf(path), text);
+    const Result<> written = m_means.files.write(m_library.fileOf(path), text);
     if (!written) return m_window->warn(shown(written.error()));
     m_saved = text;
     m_window->editor().noteSaved();
@@ -219,18 +283,20 @@ void MacrosDesk::takeRecording(const Macro& macro) {
     const Purpose purpose = std::exchange(m_purpose, Purpose::none);
     if (purpose == Purpose::none) return;
     m_means.stage.unhide();
-    if (purpose == Purpose::keys) {
-        const auto lines = linesOf(macro.script());
-        if (lines) m_window->editor().keys().insertLines(*lines);
-        return;
-    }
-    const std::string folder = m_means.files.prepareFolder();
-    const std::string first = folder + "/" + tr("New Macro").toStdString() + ".keyrill";
-    const std::string file = m_means.files.read(first) ? FileMoves::freeName(first) : first;
-    const Result<> written = m_means.files.write(file, macro.script());
+    if (purpose == Purpose::newMacro) return makeMacro(macro.script());
+    const auto lines = linesOf(macro.script());
+    if (lines) m_window->editor().keys().insertLines(*lines);
+}
+
+void MacrosDesk::makeMacro(const std::string& script) {
+    const std::string first =
+        m_means.files.prepareFolder() + "/" + tr("New Macro").toStdString() + ".keyrill";
+    std::error_code error;
+    const bool isTaken = std::filesystem::exists(std::filesystem::symlink_status(first, error));
+    const std::string file = isTaken ? FileMoves::freeName(first) : first;
+    const Result<> written = m_means.files.write(file, script);
     if (!written) return m_window->warn(shown(written.error()));
-    m_awaited = m_shelf->pathOf(file);
-    m_namesAwaited = true;
+    await(file, true);
 }
 
 void MacrosDesk::recordingEnded() {
@@ -244,50 +310,37 @@ void MacrosDesk::play() {
     m_means.stage.hide(m_window.get());
     m_means.stage.fadeOut(*m_window);
     m_means.stage.awaitFocusElsewhere(m_window.get());
-    m_means.scripting.startPlayback();
-    AppleScript::runAppleScript(script);
-    m_means.notices.tellOfPlayback();
+    playScript(script, m_library.settings(m_window->chosen()).play);
     m_window->setWindowOpacity(1);
     m_window->show();
     m_means.stage.unhide();
 }
 
 void MacrosDesk::duplicate(const std::string& path) {
-    const std::string file = m_shelf->fileOf(path);
+    const std::string file = m_library.fileOf(path);
     const std::string copy = FileMoves::freeName(file);
     const Result<> copied = FileMoves::copy(file, copy);
     if (!copied) return m_window->warn(shown(copied.error()));
-    m_awaited = m_shelf->pathOf(copy);
-    m_namesAwaited = true;
+    await(copy, true);
 }
 
 void MacrosDesk::rename(const std::string& path, const QString& name) {
-    const std::string file = m_shelf->fileOf(path);
+    const std::string file = m_library.fileOf(path);
     const Result<std::string> wanted = FileMoves::named(file, name);
     if (!wanted) return m_window->warn(shown(wanted.error()));
     const Result<> renamed = FileMoves::rename(file, wanted.value());
     if (!renamed) return m_window->warn(shown(renamed.error()));
-    const std::string now = m_shelf->pathOf(wanted.value());
-    if (auto unsaved = m_unsaved.extract(path)) {
-        unsaved.key() = now;
-        m_unsaved.insert(std::move(unsaved));
-        m_window->list().setChanged(path, false);
-        m_undrafted.insert({path, now});
-        m_draftTimer.start();
-    }
-    if (m_window->chosen() == path) m_window->noteRenamed(now);
+    // Before the library tells so, for what is typed meanwhile.
+    followRenames({{path, pathOf(wanted.value())}});
 }
 
 void MacrosDesk::remove(const std::string& path) {
-    auto trashed = FileMoves::trash(m_shelf->fileOf(path));
+    auto trashed = FileMoves::trash(m_library.fileOf(path));
     if (!trashed) return m_window->warn(shown(trashed.error()));
     m_trashed = std::move(trashed).value();
     // For when it comes back.
-    m_trashedText.reset();
-    if (auto unsaved = m_unsaved.extract(path)) m_trashedText = std::move(unsaved.mapped());
+    m_trashedText = m_unsaved.take(path);
     m_window->list().setChanged(path, false);
-    m_undrafted.insert(path);
-    m_draftTimer.start();
     m_window->choose({});
     m_window->tell(tr("The macro is in the trash."), tr("Undo"));
 }
@@ -298,10 +351,17 @@ void MacrosDesk::restore() {
     const Result<> restored = FileMoves::restore(file);
     if (!restored) return m_window->warn(shown(restored.error()));
     m_window->tell({});
-    m_awaited = m_shelf->pathOf(file.from);
-    if (m_trashedText) {
-        m_unsaved[m_awaited] = *std::exchange(m_trashedText, std::nullopt);
-        m_undrafted.insert(m_awaited);
-        m_draftTimer.start();
-    }
+    await(file.from, false);
+    if (m_trashedText) m_unsaved.set(m_awaited, *std::exchange(m_trashedText, std::nullopt));
+}
+
+void MacrosDesk::await(const std::string& file, bool isToBeNamed) {
+    m_awaited = pathOf(file);
+    m_namesAwaited = isToBeNamed;
+    // The library may have told of it already.
+    m_showing.start();
+}
+
+std::string MacrosDesk::pathOf(const std::string& file) const {
+    return file.substr(m_library.folder().size() + 1);
 }

@@ -3,37 +3,37 @@
 
 #include <QObject>
 #include <QTimer>
-#include <map>
 #include <memory>
 #include <optional>
-#include <set>
 #include <string>
 
 #include "app/macros/DraftFiles.h"
 #include "app/macros/FileMoves.h"
+#include "app/macros/TextReader.h"
+#include "app/macros/UnsavedTexts.h"
+#include "library/LibraryListener.h"
 
 class Gate;
 class KeyboardLayout;
+class LibraryController;
 class Macro;
 class MacroFiles;
-class MacroShelf;
+class MacroLibrary;
 class MacrosWindow;
-class ScriptNotices;
-class ScriptingService;
 class Stage;
 
-/// The macros that the user keeps, and their window: what is changed in it is saved when the user says so,
-/// and kept until then whatever else is chosen. The window is built when it is first shown and kept.
-class MacrosDesk : public QObject {
+/// The library's macros in their window: what is changed in it is saved when the user says so, and kept until
+/// then whatever else is chosen. What others do in the macro folder is followed; the choice, and what is not
+/// saved, stay with a macro that is renamed. The window is built when it is first shown and kept.
+class MacrosDesk : public QObject, private LibraryListener {
     Q_OBJECT
 
   public:
-    /// What of the desktop it needs; all outlive the desk.
+    /// What it needs; all outlive the desk.
     struct Means {
+        LibraryController& library;
         MacroFiles& files;
         const KeyboardLayout& layout;
-        ScriptingService& scripting;
-        ScriptNotices& notices;
         const Gate& gate;
         Stage& stage;
         DraftFiles drafts;
@@ -57,39 +57,53 @@ class MacrosDesk : public QObject {
 
     MacrosWindow& builtWindow();
     void connectWindow();
+    void connectTimers();
+
+    void libraryChanged(const LibraryChanges& changes) override;
+    void followRenames(const std::vector<FolderChanges::Rename>& renamed);
+    void followGone(const std::vector<std::string>& gone);
     void showItems();
     void readContents();
+    /// For the search.
+    void takeContent(const std::string& path, const Result<std::string>& text);
+    /// Of the macro that is chosen, or was.
+    void takeText(const std::string& path, const Result<std::string>& text);
     void openMacro(const std::string& path);
-    void followContent(const std::string& path);
+    void showText(const std::string& path, const Result<std::string>& text);
+    void followText(const std::string& path, const Result<std::string>& text);
     void noteEdit();
-    /// Keeps or forgets on the disk what has changed since the last time.
-    void keepDrafts();
-    void tellOfDrafts();
+    void loadUnsaved();
+    void tellOfUnsaved();
+    void tellFaults();
+
     void save();
     void record(Purpose purpose);
+    void makeMacro(const std::string& script);
     void play();
     void duplicate(const std::string& path);
     void rename(const std::string& path, const QString& name);
     void remove(const std::string& path);
     void restore();
+    /// It is chosen once it is in the list, and perhaps named.
+    void await(const std::string& file, bool isToBeNamed);
+    std::string pathOf(const std::string& file) const;
 
     Means m_means;
-    std::unique_ptr<MacroShelf> m_shelf;
+    MacroLibrary& m_library;
+    UnsavedTexts m_unsaved;
+    bool m_hasLoadedUnsaved = false;
+    TextReader m_reader;
     std::unique_ptr<MacrosWindow> m_window;
-    /// What is not saved, by path; UTF-8.
-    std::map<std::string, std::string> m_unsaved;
-    /// Of these the disk knows an earlier state.
-    std::set<std::string> m_undrafted;
-    QTimer m_draftTimer;
+    QTimer m_showing;
     /// The chosen macro's file as it was last read or written.
     std::string m_saved;
+    /// Whose text is being read to be shown; empty for none.
+    std::string m_opening;
+    QTimer m_patience;
     /// Of the one that was put there last.
     std::optional<TrashedFile> m_trashed;
     std::optional<std::string> m_trashedText;
-    /// To be chosen once it is in the list, and perhaps named.
     std::string m_awaited;
     bool m_namesAwaited = false;
     Purpose m_purpose = Purpose::none;
-    QTimer m_contents;
-    std::size_t m_nextContent = 0;
 };

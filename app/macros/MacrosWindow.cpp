@@ -85,9 +85,9 @@ QWidget* MacrosWindow::makeList() {
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &MacrosWindow::followSelection);
 
-    m_empty =
-        makeParagraph(tr("There is no macro yet. Record one, or put a macro file into the macro folder."));
+    m_empty = makeParagraph({});
     m_empty->setMinimumWidth(0);
+    setReading(false);
 
     auto* recordButton = makeButton(tr("&Record New"), tr("Record a new macro"));
     connect(recordButton, &QPushButton::clicked, this, &MacrosWindow::recordWanted);
@@ -105,6 +105,7 @@ QWidget* MacrosWindow::makeList() {
 QWidget* MacrosWindow::makeEditor() {
     m_warning = new NoticeLine;
     m_told = makeLine({});
+    m_told->setObjectName(QStringLiteral("told"));
     m_told->setWordWrap(true);
     m_told->hide();
     m_action = makeButton({}, {});
@@ -186,6 +187,12 @@ void MacrosWindow::setItems(std::vector<MacroListItem> items) {
     m_empty->setVisible(items.empty());
     m_model->setItems(std::move(items));
     updateButtons();
+}
+
+void MacrosWindow::setReading(bool isReading) {
+    m_empty->setText(isReading ? tr("The macro folder is still being read.")
+                               : tr("There is no macro yet. Record one, or put a macro file into the macro "
+                                    "folder."));
 }
 
 void MacrosWindow::choose(const std::string& path) {

@@ -37,6 +37,8 @@ class MacrosWindow : public Panel {
 
     /// All macros, sorted. The chosen one stays so if it is among them.
     void setItems(std::vector<MacroListItem> items);
+    /// Whether it is not known yet what macros there are.
+    void setReading(bool isReading);
     MacroListModel& list() { return *m_model; }
     /// Chooses a macro, which is told as the user's own choice is; empty for none.
     void choose(const std::string& path);

@@ -28,9 +28,9 @@ Program::Program(Backends& backends)
     : m_backends(backends),
       m_statusItem(backends.session().sessionServices().dockingTray),
       m_dialogs(focusOf(backends.session().sessionServices().windows)),
-      m_controller(backends.services(), backends.session().sessionServices().windows, m_statusItem,
-                   m_dialogs),
       m_library(backends.libraryServices()),
+      m_controller(backends.services(), backends.session().sessionServices().windows, m_statusItem, m_dialogs,
+                   m_library),
       m_signals(interruptRun, &backends.session()) {
     backends.scripting().askThrough(m_controller.scriptDialogs());
     QApplication::setApplicationName(QStringLiteral("keyrill"));

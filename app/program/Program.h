@@ -38,8 +38,8 @@ class Program {
     Backends& m_backends;
     TrayStatusItem m_statusItem;
     QtDialogs m_dialogs;
-    AppController m_controller;
     LibraryController m_library;
+    AppController m_controller;
     TerminationSignals m_signals;
     std::vector<std::unique_ptr<QSocketNotifier>> m_readable;
 };

@@ -30,7 +30,7 @@ const testing::Environment* const environment = testing::AddGlobalTestEnvironmen
 
 }  // namespace
 
-AppTest::AppTest() : controller(platform().services, windows, statusItem, dialogs) {}
+AppTest::AppTest() : controller(platform().services, windows, statusItem, dialogs, library.controller) {}
 
 std::string AppTest::menu() const {
     QStringList titles;

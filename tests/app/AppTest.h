@@ -9,6 +9,7 @@
 
 #include "app/FakeDialogs.h"
 #include "app/controller/AppController.h"
+#include "app/library/LibraryController.h"
 #include "app/tray/StatusItem.h"
 #include "engine/EngineTest.h"
 #include "platform/Windows.h"
@@ -57,6 +58,26 @@ class FakeWindows : public Windows {
     Journal& m_journal;
 };
 
+/// The library on the fake platform, with hot keys of which the others know nothing.
+class FakeLibrary {
+  public:
+    explicit FakeLibrary(FakePlatform& platform)
+        : hotKeys(m_journal, platform.desktop, platform.clock),
+          controller({.folderFollower = platform.folderFollower,
+                      .macroRecords = platform.macroRecords,
+                      .macroFiles = platform.macroFiles,
+                      .hotKeys = hotKeys,
+                      .firstHotKey = 1000,
+                      .notifications = platform.notifications}) {}
+
+  private:
+    Journal m_journal;
+
+  public:
+    FakeHotKeys hotKeys;
+    LibraryController controller;
+};
+
 /// The controller on the fake platform, its windows on a screen in memory.
 class AppTest : public EngineTest {
   protected:
@@ -75,5 +96,6 @@ class AppTest : public EngineTest {
     FakeStatusItem statusItem{platform().journal};
     FakeWindows windows{platform().journal};
     FakeDialogs dialogs{platform().journal};
+    FakeLibrary library{platform()};
     AppController controller;
 };

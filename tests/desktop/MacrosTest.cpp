@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <signal.h>
+
 #include <filesystem>
 #include <fstream>
 
@@ -43,7 +45,19 @@ class MacrosTest : public DesktopTest {
         type("greet");
         press("Return");
     }
-    void type(const std::string& text) const { desktop.run({"xdotool", "type", text}); }
+    void type(const std::string& text) const { desktop.run({"xdotool", "type", "--", text}); }
+    /// What is not saved is on the disk.
+    bool isDrafted(const std::string& text) const {
+        const std::string drafts = desktop.home() + "/.local/state/keyrill/unsaved";
+        return eventually([&] {
+            std::error_code error;
+            for (const auto& entry : std::filesystem::directory_iterator(drafts, error)) {
+                if (entry.path().extension() == ".draft" && contentOf(entry.path()).starts_with(text))
+                    return true;
+            }
+            return false;
+        });
+    }
     /// Into the window that was used before, which is the terminal.
     void play() const { press("alt+p"); }
 
@@ -118,6 +132,46 @@ TEST_F(MacrosTest, theFileIsRenamedByTheUserAndByOthers) {
     press("Delete");
     EXPECT_TRUE(eventually([this] { return !std::filesystem::exists(file("Greeting")); }));
     EXPECT_TRUE(std::filesystem::exists(desktop.home() + "/.local/share/Trash/files/Greeting.keyrill"));
+}
+
+TEST_F(MacrosTest, whatIsBeingEditedStaysWithAMacroThatOthersRename) {
+    openGreeting();
+    press("alt+c");
+    press("ctrl+Home");
+    type("-- mine");
+    press("Return");
+    desktop.run({"mv", file("Greeting"), file("Hello")});
+    ASSERT_TRUE(isDrafted("Hello.keyrill\n-- mine\ntell"));
+    press("ctrl+s");
+    EXPECT_TRUE(eventually([this] {
+        return contentOf(file("Hello")) == std::string("-- mine\n") + recordedAbc;
+    })) << contentOf(file("Hello"));
+    EXPECT_FALSE(std::filesystem::exists(file("Greeting")));
+}
+
+TEST_F(MacrosTest, whatIsNotSavedOutlivesAKill) {
+    openGreeting();
+    press("alt+c");
+    press("ctrl+Home");
+    type("-- mine");
+    press("Return");
+    ASSERT_TRUE(isDrafted("Greeting.keyrill\n-- mine\ntell"));
+    keyrill->child().signal(SIGKILL);
+    keyrill->child().wait();
+    EXPECT_EQ(contentOf(file("Greeting")), recordedAbc);
+    keyrill.emplace(desktop);
+    openGreeting();
+    press("ctrl+s");
+    EXPECT_TRUE(holds("Greeting", std::string("-- mine\n") + recordedAbc)) << contentOf(file("Greeting"));
+}
+
+TEST_F(MacrosTest, theTrashIsTheUsers) {
+    openGreeting();
+    press("Delete");
+    ASSERT_TRUE(eventually([this] { return !std::filesystem::exists(file("Greeting")); }));
+    // Where the tests run nothing is left.
+    EXPECT_FALSE(std::filesystem::exists("files"));
+    EXPECT_FALSE(std::filesystem::exists("info"));
 }
 
 }  // namespace

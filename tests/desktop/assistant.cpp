@@ -3,6 +3,8 @@
 // Assistive technology in one program: a client of AT-SPI that knows nothing of the program it looks at.
 // "assistant PID list": each object that is on the screen: ROLE|NAME|DESCRIPTION|focusable or not|actions.
 //
+// "assistant PID focused": the one that has the focus, in the same words.
+//
 // "assistant PID press NAME": performs the main action of the object of that name, shown or in a menu.
 //
 // "assistant PID type NAME TEXT": replaces the text of the object of that name.
@@ -76,15 +78,30 @@ Object program(guint pid) {
     return nullptr;
 }
 
+void print(const Object& object) {
+    std::cout << roleOf(object) << '|' << nameOf(object) << '|' << descriptionOf(object) << '|'
+              << (hasState(object, ATSPI_STATE_FOCUSABLE) ? "focusable" : "") << '|' << actionsOf(object)
+              << '\n';
+}
+
 bool list(const Object& root) {
     walk(root, [](const Object& object) {
-        if (!hasState(object, ATSPI_STATE_SHOWING)) return false;
-        std::cout << roleOf(object) << '|' << nameOf(object) << '|' << descriptionOf(object) << '|'
-                  << (hasState(object, ATSPI_STATE_FOCUSABLE) ? "focusable" : "") << '|' << actionsOf(object)
-                  << '\n';
+        if (hasState(object, ATSPI_STATE_SHOWING)) print(object);
         return false;
     });
     return true;
+}
+
+/// The innermost: a list has the focus together with one of its lines.
+bool printFocused(const Object& root) {
+    Object focused;
+    walk(root, [&focused](const Object& object) {
+        if (!hasState(object, ATSPI_STATE_FOCUSED) || !hasState(object, ATSPI_STATE_SHOWING)) return false;
+        focused.reset(static_cast<AtspiAccessible*>(g_object_ref(object.get())));
+        return false;
+    });
+    if (focused) print(focused);
+    return static_cast<bool>(focused);
 }
 
 /// The first action is the main one; objects whose only action is to get the focus have none.
@@ -117,6 +134,7 @@ bool perform(guint pid, int argc, char** argv) {
     if (!root) return false;
     const std::string command = argv[2];
     if (command == "list") return list(root);
+    if (command == "focused") return printFocused(root);
     if (command == "press" && argc == 4) return pressNamed(root, argv[3]);
     return command == "type" && argc == 5 && typeNamed(root, argv[3], argv[4]);
 }

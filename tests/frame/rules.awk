@@ -69,9 +69,9 @@ BEGIN {
     app("macros", "app/shortcuts app/widgets library/steps core platform platform/script/code platform/script/commands" \
                   " platform/script/source")
     app("tray", "app/icons app/widgets platform")
-    app("controller", "app/dialogs app/macros app/overlay app/panels app/shortcuts app/tray app/widgets" \
-                      " library/steps engine prefs core platform")
     app("library", "library engine prefs core platform")
+    app("controller", "app/dialogs app/library app/macros app/overlay app/panels app/shortcuts app/tray app/widgets" \
+                      " library library/steps engine prefs core platform")
     # Joins the controllers with services and event loop; programs are made of it.
     app("program", "app/check app/controller app/dialogs app/library app/tray platform platform/linux platform/script/run" \
                    " platform/sessions")

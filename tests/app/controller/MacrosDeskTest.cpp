@@ -9,8 +9,10 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <mutex>
 
 #include "app/AppTest.h"
+#include "app/library/LibraryController.h"
 #include "app/macros/KeysView.h"
 #include "app/macros/MacroEditor.h"
 #include "app/macros/MacroListModel.h"
@@ -19,6 +21,7 @@
 #include "app/widgets/NoticeLine.h"
 #include "core/MacroManager.h"
 #include "platform/Modifiers.h"
+#include "platform/linux/LocalFolderFollower.h"
 #include "platform/linux/LocalMacroFiles.h"
 #include "support/Child.h"
 #include "support/Keys.h"
@@ -40,7 +43,9 @@ class MacrosDeskTest : public AppTest {
         std::filesystem::create_directories(folder + "/work");
         write("Greeting", a);
         write("work/Mail", "tell application \"System Events\" to keystroke \"Kind regards\"\n");
+        shelf.start();
         desk.show();
+        EXPECT_TRUE(soon([this] { return names() == "Greeting|work/Mail"; }));
     }
     ~MacrosDeskTest() override {
         if (m_dataHome.isNull()) {
@@ -58,7 +63,10 @@ class MacrosDeskTest : public AppTest {
 
     MacrosWindow& window() { return *desk.window(); }
     MacroEditor& editor() { return window().editor(); }
-    void choose(const std::string& name) { window().choose(name + ".keyrill"); }
+    void choose(const std::string& name) {
+        window().choose(name + ".keyrill");
+        EXPECT_TRUE(soon([this] { return button("Play").isEnabled() || !warning().empty(); }));
+    }
     std::string names() {
         std::string all;
         for (const MacroListItem& item : window().list().items())
@@ -66,12 +74,14 @@ class MacrosDeskTest : public AppTest {
         return all;
     }
     /// Lets the loop run until that is so.
-    static bool soon(const std::function<bool()>& isSo) {
+    bool soon(const std::function<bool()>& isSo) {
         QTimer deadline;
         deadline.setSingleShot(true);
         deadline.start(10'000);
-        while (!isSo() && deadline.isActive())
+        while (!isSo() && deadline.isActive()) {
+            follower.dispatch();
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+        }
         return isSo();
     }
     QPushButton& button(const char* title) {
@@ -87,18 +97,42 @@ class MacrosDeskTest : public AppTest {
         return {};
     }
 
+    std::string told() { return window().findChild<QLabel*>(QStringLiteral("told"))->text().toStdString(); }
+
   private:
+    /// Files of a folder that can be kept from answering.
+    class HeldFiles : public LocalMacroFiles {
+      public:
+        using LocalMacroFiles::LocalMacroFiles;
+
+        Result<std::string> read(const std::string& path) const override {
+            const std::lock_guard lock(m_mutex);
+            return LocalMacroFiles::read(path);
+        }
+        void hold() { m_mutex.lock(); }
+        void letGo() { m_mutex.unlock(); }
+
+      private:
+        mutable std::mutex m_mutex;
+    };
+
     TemporaryFolder m_home;
     QByteArray m_dataHome;
 
   protected:
     const std::string folder = m_home.file("data/keyrill");
-    LocalMacroFiles files{m_home.path(), m_home.file("data")};
-    ScriptNotices notices{platform().scripting, platform().notifications, dialogs};
+    HeldFiles files{m_home.path(), m_home.file("data")};
+    LocalFolderFollower follower;
+    FakeHotKeys hotKeys{platform().journal, platform().desktop, platform().clock};
+    LibraryController shelf{{.folderFollower = follower,
+                             .macroRecords = platform().macroRecords,
+                             .macroFiles = files,
+                             .hotKeys = hotKeys,
+                             .firstHotKey = 1000,
+                             .notifications = platform().notifications}};
     Gate gate{platform().eventMonitor, [] {}};
     Stage stage{windows, [this] { return std::vector<QWidget*>{desk.window()}; }};
-    MacrosDesk desk{{files, platform().keyboardLayout, platform().scripting, notices, gate, stage,
-                     DraftFiles(m_home.file("state"))}};
+    MacrosDesk desk{{shelf, files, platform().keyboardLayout, gate, stage, DraftFiles(m_home.file("state"))}};
 };
 
 TEST_F(MacrosDeskTest, listsTheMacroFolder) {
@@ -117,6 +151,66 @@ TEST_F(MacrosDeskTest, followsWhatOthersDoInTheFolder) {
     EXPECT_TRUE(soon([this] { return names() == "Hello|New|more/Deep|work/Mail"; })) << names();
     std::filesystem::remove(file("New"));
     EXPECT_TRUE(soon([this] { return names() == "Hello|more/Deep|work/Mail"; })) << names();
+}
+
+TEST_F(MacrosDeskTest, aMacroThatOthersRenameStaysChosenWithWhatIsNotSaved) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    std::filesystem::rename(file("Greeting"), file("work/Hello"));
+    EXPECT_TRUE(soon([this] { return names() == "work/Hello|work/Mail"; })) << names();
+    EXPECT_EQ(window().chosen(), "work/Hello.keyrill");
+    EXPECT_EQ(editor().text(), ab);
+    EXPECT_TRUE(editor().isChanged());
+    EXPECT_TRUE(soon([this] {
+        const auto kept = drafts();
+        return kept.size() == 1 && kept.begin()->first == "work/Hello.keyrill";
+    }));
+    button("Save").click();
+    EXPECT_EQ(contentOf(file("work/Hello")), ab);
+    EXPECT_FALSE(isThere("Greeting"));
+}
+
+TEST_F(MacrosDeskTest, whatIsNotSavedOfAnEarlierRunFollowsARename) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    ASSERT_TRUE(soon([this] { return drafts().size() == 1; }));
+    Stage otherStage(windows, [] { return std::vector<QWidget*>(); });
+    MacrosDesk next({shelf, files, platform().keyboardLayout, gate, otherStage, DraftFiles(draftFolder())});
+    std::filesystem::rename(file("Greeting"), file("Hello"));
+    ASSERT_TRUE(soon([this] { return names() == "Hello|work/Mail"; }));
+    next.show();
+    next.window()->choose("Hello.keyrill");
+    EXPECT_TRUE(soon([&] { return next.window()->editor().text() == ab; }));
+}
+
+TEST_F(MacrosDeskTest, aMacroThatOthersDeleteIsNotChosenAnyMore) {
+    choose("Greeting");
+    std::filesystem::remove(file("Greeting"));
+    EXPECT_TRUE(soon([this] { return names() == "work/Mail"; })) << names();
+    EXPECT_EQ(window().chosen(), "");
+    EXPECT_FALSE(button("Play").isEnabled());
+}
+
+TEST_F(MacrosDeskTest, whatIsNotSavedOutlivesItsFile) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    std::filesystem::remove(file("Greeting"));
+    EXPECT_TRUE(soon([this] { return !warning().empty(); }));
+    EXPECT_EQ(warning(), "The file of this macro is gone. If you save, it is there again.");
+    EXPECT_EQ(window().chosen(), "Greeting.keyrill");
+    button("Save").click();
+    EXPECT_EQ(contentOf(file("Greeting")), ab);
+}
+
+TEST_F(MacrosDeskTest, aFolderThatDoesNotAnswerHoldsNothingUp) {
+    files.hold();
+    window().choose("Greeting.keyrill");
+    EXPECT_TRUE(
+        soon([this] { return told() == "The macro is still being read: its folder does not answer."; }));
+    EXPECT_FALSE(button("Save").isEnabled());
+    files.letGo();
+    EXPECT_TRUE(soon([this] { return editor().text() == a; }));
+    EXPECT_EQ(told(), "");
 }
 
 TEST_F(MacrosDeskTest, savesWhatWasChanged) {
@@ -259,11 +353,10 @@ TEST_F(MacrosDeskTest, whatIsNotSavedOutlivesTheProgram) {
     // The file goes too.
     std::filesystem::remove(file("Greeting"));
     Stage otherStage(windows, [] { return std::vector<QWidget*>(); });
-    MacrosDesk next({files, platform().keyboardLayout, platform().scripting, notices, gate, otherStage,
-                     DraftFiles(draftFolder())});
+    MacrosDesk next({shelf, files, platform().keyboardLayout, gate, otherStage, DraftFiles(draftFolder())});
     next.show();
     next.window()->choose("Greeting.keyrill");
-    EXPECT_EQ(next.window()->editor().text(), ab);
+    EXPECT_TRUE(soon([&] { return next.window()->editor().text() == ab; }));
     emit next.window()->saveWanted();
     EXPECT_EQ(contentOf(file("Greeting")), ab);
     EXPECT_TRUE(soon([this] { return drafts().empty(); }));
@@ -276,7 +369,7 @@ TEST_F(MacrosDeskTest, whatIsNotSavedGoesToTheTrashAndComesBackWithItsMacro) {
     EXPECT_TRUE(soon([this] { return names() == "work/Mail"; })) << names();
     button("Undo").click();
     EXPECT_TRUE(soon([this] { return window().chosen() == "Greeting.keyrill"; }));
-    EXPECT_EQ(editor().text(), ab);
+    EXPECT_TRUE(soon([this] { return editor().text() == ab; }));
     EXPECT_EQ(contentOf(file("Greeting")), a);
 }
 

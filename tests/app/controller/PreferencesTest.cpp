@@ -129,7 +129,8 @@ TEST_F(SaveOrderTest, writesInThisOrder) {
     FakeWindows windows(journal);
     FakeDialogs dialogs(journal);
     FakeStatusItem item(journal);
-    AppController controller(platform().services, windows, item, dialogs);
+    FakeLibrary library(platform());
+    AppController controller(platform().services, windows, item, dialogs, library.controller);
     controller.stopShortcutText.setKeyCombo({});
     controller.launchOnLoginButton.setOn(true);
     controller.savePreferences(nullptr);

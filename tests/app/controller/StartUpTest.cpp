@@ -58,7 +58,8 @@ class StartUpOrderTest : public EngineTest {
         FakeWindows windows(journal);
         FakeDialogs dialogs(journal);
         FakeStatusItem item(journal);
-        AppController controller(platform().services, windows, item, dialogs);
+        FakeLibrary library(platform());
+        AppController controller(platform().services, windows, item, dialogs, library.controller);
         controller.awakeFromNib();
     }
 
