@@ -97,9 +97,8 @@ LackWords lackWords(Lack lack) {
             return {tr("A Wayland session shows no program what is typed in others, and the service that "
                        "would is "
                        "not installed."),
-                    tr("Install keyrill-access from Keyrill's sources, by \"tools/access install\"; or "
-                       "record in an "
-                       "X11 session, macros play in both.")};
+                    tr("Install the package keyrill-wayland-access or, from Keyrill's sources, "
+                       "\"tools/access install\"; or record in an X11 session, macros play in both.")};
         case Lack::compositorKeys:
             return {
                 tr("This compositor gives no hot keys to programs."),

@@ -49,8 +49,9 @@ Error errorFor(const GError& failure) {
     }
     if (word == "org.freedesktop.DBus.Error.ServiceUnknown" ||
         word == "org.freedesktop.DBus.Error.NameHasNoOwner") {
-        return {"Keyrill cannot read the keyboard: the service keyrill-access is not installed.",
-                "Install it from Keyrill's sources: tools/access install."};
+        return {
+            "Keyrill cannot read the keyboard: the service keyrill-access is not installed.",
+            "Install the package keyrill-wayland-access or, from Keyrill's sources, tools/access install."};
     }
     return {"Keyrill cannot read the keyboard: the service keyrill-access does not work.",
             "What it says stands in the system's journal: journalctl -u keyrill-access."};

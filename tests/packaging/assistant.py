@@ -1,0 +1,72 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""assistant.py press NAME | state NAME | names: performs the main action of the object of that name in Keyrill's windows and
+menus, as assistive technology does; prints "checked" or "unchecked" for it; or prints the names of all objects. Status 1 where
+there is no such object after 30 s."""
+import sys
+import time
+import warnings
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402  (only after the version was chosen)
+
+# Debian 12 calls the actions by names that it says are to go, and has no others.
+warnings.filterwarnings("ignore", category=DeprecationWarning)
+
+
+def objects(item):
+    yield item
+    for index in range(item.get_child_count()):
+        child = item.get_child_at_index(index)
+        if child is not None:
+            yield from objects(child)
+
+
+def objects_of_keyrill():
+    desktop = Atspi.get_desktop(0)
+    for index in range(desktop.get_child_count()):
+        program = desktop.get_child_at_index(index)
+        if program is not None and program.get_name().lower() == "keyrill":
+            yield from objects(program)
+
+
+def find(name):
+    for item in objects_of_keyrill():
+        # A closed menu's items can be chosen all the same; what can only be given the focus is no control.
+        is_there = item.get_state_set().contains(Atspi.StateType.SHOWING) or item.get_role_name() == "menu item"
+        action = item.get_action_iface()
+        if is_there and item.get_name() == name and action is not None and action.get_action_name(0) != "SetFocus":
+            return item
+    return None
+
+
+def await_object(name):
+    end = time.monotonic() + 30
+    while time.monotonic() < end:
+        try:
+            item = find(name)
+        except gi.repository.GLib.Error:
+            item = None  # It was just going.
+        if item is not None:
+            return item
+        time.sleep(0.1)
+    sys.exit(f"assistant.py: there is no {name!r}")
+
+
+def main():
+    verb, *names = sys.argv[1:]
+    if verb == "names":
+        print("\n".join(item.get_name() for item in objects_of_keyrill()))
+        return
+    item = await_object(*names)
+    if verb == "press":
+        item.get_action_iface().do_action(0)
+    else:
+        is_checked = item.get_state_set().contains(Atspi.StateType.CHECKED)
+        print("checked" if is_checked else "unchecked")
+
+
+if __name__ == "__main__":
+    main()
