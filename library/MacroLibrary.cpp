@@ -6,16 +6,22 @@
 #include <map>
 #include <utility>
 
+#include "platform/Encoding.h"
 #include "platform/MacroFiles.h"
 #include "platform/RecordStore.h"
+#include "platform/Utf8.h"
 
 namespace {
 
 bool isBefore(const LibraryEntry& one, const LibraryEntry& other) { return one.path < other.path; }
 
-/// Without the ending.
-std::string_view stem(const LibraryEntry& entry) {
-    return std::string_view(entry.path).substr(0, entry.path.size() - macroEnding.size());
+/// The path or an end of it behind a stroke, with or without the ending.
+bool hasName(const std::string& path, std::string_view name) {
+    const auto isIt = [&path, name](std::size_t begin) {
+        const std::string_view rest = std::string_view(path).substr(begin);
+        return rest == name || rest.substr(0, rest.size() - macroEnding.size()) == name;
+    };
+    return isIt(0) || isIt(path.rfind('/') + 1);
 }
 
 }  // namespace
@@ -40,9 +46,8 @@ std::vector<LibraryEntry> MacroLibrary::named(std::string_view name) const {
     std::vector<LibraryEntry> found;
     std::copy_if(m_entries.begin(), m_entries.end(), std::back_inserter(found),
                  [name](const LibraryEntry& entry) {
-                     const std::string_view path = entry.path;
-                     return name == entry.name() || name == stem(entry) || name == path ||
-                            name == path.substr(path.rfind('/') + 1);
+                     return hasName(entry.path, name) ||
+                            (invalidUtf8(entry.path) && hasName(decodedText(entry.path), name));
                  });
     return found;
 }

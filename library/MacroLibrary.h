@@ -42,7 +42,7 @@ class MacroLibrary {
     /// Null if there is none. Good until the library changes.
     const LibraryEntry* find(std::string_view path) const;
     /// Those whose name that is, in whatever group, or whose group and name: "greetings/Hello". With or
-    /// without the ending.
+    /// without the ending. Bytes; of a path that is no UTF-8 also as decodedText() has it.
     std::vector<LibraryEntry> named(std::string_view name) const;
 
     /// Absolute; empty before open().

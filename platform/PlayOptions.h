@@ -35,6 +35,18 @@ struct PlayOptions {
     friend bool operator==(const PlayOptions&, const PlayOptions&) = default;
 };
 
+/// What somebody says of how a script is to be played; the rest is as it would be without.
+struct PlayWish {
+    std::optional<PlayTimes> times = {};
+    std::optional<double> speed = {};
+
+    PlayOptions over(const PlayOptions& usual) const {
+        return {.times = times.value_or(usual.times), .speed = speed.value_or(usual.speed)};
+    }
+
+    friend bool operator==(const PlayWish&, const PlayWish&) = default;
+};
+
 /// As it is written on a command line: a whole number from 1 on, or "until-stopped". Empty if it is neither.
 std::optional<PlayTimes> playTimesFromText(std::string_view text);
 

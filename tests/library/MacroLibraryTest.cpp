@@ -79,6 +79,15 @@ TEST_F(MacroLibraryTest, findsByPathAndByName) {
     EXPECT_EQ(library.named(""), Entries{});
 }
 
+TEST_F(MacroLibraryTest, findsWhatIsNotUtf8AlsoAsItIsShown) {
+    folder().userWrites("Gr\x9fn.keyrill", "text");
+    open();
+    using Entries = std::vector<LibraryEntry>;
+    const Entries it = {{"Gr\x9fn.keyrill"}};
+    EXPECT_EQ(library.named("Gr\x9fn"), it);
+    EXPECT_EQ(library.named("Grün"), it);
+}
+
 TEST_F(MacroLibraryTest, keepsSettingsBesideTheFiles) {
     folder().userWrites("a.keyrill", "a");
     open();

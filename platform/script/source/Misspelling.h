@@ -7,10 +7,6 @@
 
 namespace script {
 
-/// How many letters must be changed, put in, left out or swapped with their neighbour to make one word the
-/// other.
-std::size_t editDistance(std::string_view left, std::string_view right);
-
 /// A word that may be another one with a slip of the pen. Short words are near to one another by chance: up
 /// to three letters one slip is forgiven if the first letter is right or the letters are the same, up to
 /// seven letters one slip, and beyond that two. Case does not matter.
