@@ -8,6 +8,7 @@
 #include "app/program/Backends.h"
 #include "app/program/Check.h"
 #include "app/program/CommandLine.h"
+#include "app/program/MacroCalls.h"
 #include "app/program/Program.h"
 #include "app/program/ProgramInstance.h"
 #include "app/program/SessionBusCheck.h"
@@ -51,6 +52,9 @@ int main(int argc, char* argv[]) {
     if (wishes.wish == CommandLine::Wish::help) return print(usage(sessionKinds()));
     if (wishes.wish == CommandLine::Wish::version) return print("keyrill " KEYRILL_VERSION "\n");
     if (wishes.wish == CommandLine::Wish::check) end(checkSession(wishes));
+    if (wishes.wish == CommandLine::Wish::list) end(listMacros(wishes));
+    if (wishes.wish == CommandLine::Wish::play) end(playMacro(wishes));
+    if (wishes.wish == CommandLine::Wish::show) end(showMacros(wishes));
     if (wishes.action) end(askForAction(wishes));
     const auto session = enterSession(wishes.session);
     if (!session) {

@@ -39,17 +39,16 @@ std::size_t distanceOf(const std::string& name, const std::string& written) {
 }
 
 std::vector<std::string> namesNear(const std::vector<LibraryEntry>& entries, std::string_view name) {
-    const std::string written = lowered(name.ends_with(macroEnding)
-                                            ? name.substr(0, name.size() - macroEnding.size())
-                                            : name);
+    const std::string written =
+        lowered(name.ends_with(macroEnding) ? name.substr(0, name.size() - macroEnding.size()) : name);
     const std::string writtenName = written.substr(written.rfind('/') + 1);
     std::vector<std::tuple<std::size_t, std::string>> near;
     for (const LibraryEntry& entry : entries) {
         const std::string own = lowered(entry.name());
-        const std::size_t distance = std::min({distanceOf(lowered(longName(entry)), written),
-                                               distanceOf(own, written),
-                                               // In another group.
-                                               distanceOf(own, writtenName) + 1});
+        const std::size_t distance =
+            std::min({distanceOf(lowered(longName(entry)), written), distanceOf(own, written),
+                      // In another group.
+                      distanceOf(own, writtenName) + 1});
         if (distance < tooFar) near.emplace_back(distance, longName(entry));
     }
     std::sort(near.begin(), near.end());

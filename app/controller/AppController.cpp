@@ -56,13 +56,12 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_recordHereDesk(services.eventMonitor, services.hotKeys, m_preferencesDesk.model.stop, m_stage),
       m_macrosDesk({library, services.macroFiles, services.keyboardLayout, m_gate, m_stage,
                     DraftFiles(DraftFiles::folderOfProcess())}),
+      m_askedPlays(m_menuDesk, m_gate, m_stage),
       statusItem(item) {
     timer.setSingleShot(true);
     m_killTimer.setSingleShot(true);
-    m_askedPlay.setSingleShot(true);
     connect(&timer, &QTimer::timeout, this, &AppController::runSplash);
     connect(&m_killTimer, &QTimer::timeout, this, &AppController::kill);
-    connect(&m_askedPlay, &QTimer::timeout, this, [this] { perform(&AppController::playMacro, nullptr); });
     connect(&m_refreshTimer, &QTimer::timeout, this, &AppController::refreshAppleScript);
     connectDesks();
     connectMenu();

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "app/controller/AccessDesk.h"
+#include "app/controller/AskedPlays.h"
 #include "app/controller/FilesDesk.h"
 #include "app/controller/Gate.h"
 #include "app/controller/GatedDialogs.h"
@@ -73,6 +74,8 @@ class AppController : public QObject, public SharedController {
     /// so that whoever asks is answered first; a stop takes one back that has not begun. An error says why
     /// nothing is done.
     Result<> carryOut(const ActionRow& action);
+    /// The same for a play of something else than the current macro.
+    AskedPlays& askedPlays() { return m_askedPlays; }
 
     // Status item and menus
 
@@ -124,6 +127,7 @@ class AppController : public QObject, public SharedController {
     void saveMacro(QObject* sender);
     void loadMacro(QObject* sender);
     void showMacros(QObject* sender);
+    void chooseMacro(const std::string& path) { m_macrosDesk.choose(path); }
     /// Makes the file's text the current macro; true if it could be read. Otherwise the user is told and the
     /// current macro stays.
     bool loadInMacroFromFile(const QString& path);
@@ -181,6 +185,7 @@ class AppController : public QObject, public SharedController {
     AccessDesk m_accessDesk;
     RecordHereDesk m_recordHereDesk;
     MacrosDesk m_macrosDesk;
+    AskedPlays m_askedPlays;
     std::unique_ptr<WelcomePanel> m_welcomePanel;
 
   public:
@@ -252,8 +257,6 @@ class AppController : public QObject, public SharedController {
 
     QTimer m_refreshTimer{this};
     QTimer m_killTimer{this};
-    /// A play that was asked for from outside and has not begun.
-    QTimer m_askedPlay{this};
     /// Whether the session is one to work in: the menu follows the state from then on.
     bool m_isAwake = false;
 };

@@ -16,6 +16,7 @@
 #include "app/tray/MacroMenuItem.h"
 #include "core/MacroManager.h"
 #include "engine/AppleScript.h"
+#include "engine/EngineState.h"
 #include "engine/HotKeyCenter.h"
 #include "engine/KeyRecorder.h"
 #include "engine/MacroPlayer.h"
@@ -121,10 +122,9 @@ std::vector<std::string> AppController::registeredHotKeys() const {
 
 /// One that types is ended by who asks it, in each of its steps; these are those that do not.
 bool AppController::endPlaybackThatAsksOrWaits() {
-    const bool ends = m_scriptQuestions.isAsking() || m_askedPlay.isActive();
-    if (m_scriptQuestions.isAsking()) m_services.keyInjector.stopPlayback();
-    m_askedPlay.stop();
-    return ends;
+    const bool isAsking = m_scriptQuestions.isAsking();
+    if (isAsking) m_services.keyInjector.stopPlayback();
+    return m_askedPlays.takeBack() || isAsking;
 }
 
 Result<> AppController::carryOut(const ActionRow& action) {
@@ -132,11 +132,8 @@ Result<> AppController::carryOut(const ActionRow& action) {
     m_menuDesk.update();
     const QString obstacle = obstacleTo(action, m_menuDesk.facts());
     if (!obstacle.isEmpty()) return Error{obstacle.toStdString(), ""};
-    if (action.plays) {
-        m_askedPlay.start(0);
-    } else {
-        operationOf(action).perform(*this, nullptr);
-    }
+    if (action.plays) return m_askedPlays.ask({.script = engineState().currentMacro->script()});
+    operationOf(action).perform(*this, nullptr);
     return {};
 }
 

@@ -112,6 +112,13 @@ void MacrosDesk::show() {
     m_means.stage.present(builtWindow(), opaque);
 }
 
+void MacrosDesk::choose(const std::string& path) {
+    builtWindow().choose(path);
+    if (m_window->chosen() == path) return;
+    m_awaited = path;
+    m_namesAwaited = false;
+}
+
 // What follows the folder
 
 void MacrosDesk::libraryChanged(const LibraryChanges& changes) {

@@ -42,6 +42,8 @@ class MacrosDesk : public QObject, private LibraryListener {
     ~MacrosDesk() override;
 
     void show();
+    /// Chooses the macro in the window, as soon as it is listed there.
+    void choose(const std::string& path);
     /// A recording has ended with something in it: it becomes a macro, or keys of one, if that was asked for
     /// here.
     void takeRecording(const Macro& macro);

@@ -23,7 +23,8 @@ LibraryController::LibraryController(const LibraryServices& services)
     : m_notifications(services.notifications),
       m_library(services.folderFollower, services.macroRecords, services.macroFiles),
       m_hotKeys(m_library, services.hotKeys, services.firstHotKey,
-                [this](const std::string& path) { play(path); }) {
+                [this](const std::string& path) { play(path); }),
+      m_playRequests(m_library, services.macroFiles, services.scripting) {
     m_library.addListener(*this);
     m_hotKeys.observe(
         [this](const std::string& path) { emit hotKeyChanged(QByteArray::fromStdString(path)); });
@@ -42,8 +43,9 @@ void LibraryController::play(const std::string& path) {
 }
 
 // The first time the settings have been read as well.
-void LibraryController::libraryChanged(const LibraryChanges& /*changes*/) {
+void LibraryController::libraryChanged(const LibraryChanges& changes) {
     while (const auto fault = m_library.takeFault()) post(tr("Hot keys of macros"), *fault);
+    if (changes.isFirst) emit read();
 }
 
 void LibraryController::post(const QString& title, const Error& error) {

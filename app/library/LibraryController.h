@@ -5,6 +5,7 @@
 #include <QString>
 #include <string>
 
+#include "app/library/PlayRequests.h"
 #include "library/LibraryHotKeys.h"
 #include "library/MacroLibrary.h"
 #include "platform/PlayOptions.h"
@@ -14,6 +15,7 @@ class HotKeys;
 class MacroFiles;
 class Notifications;
 class RecordStore;
+class ScriptingService;
 
 /// What the library needs of the desktop. All outlive the controller.
 struct LibraryServices {
@@ -25,6 +27,7 @@ struct LibraryServices {
     /// The ids are from here on.
     HotKeyId firstHotKey = 1;
     Notifications& notifications;
+    ScriptingService& scripting;
 };
 
 /// The macros of the macro folder and their hot keys: joins the library with the engine and the desktop.
@@ -40,6 +43,9 @@ class LibraryController : public QObject, private LibraryListener {
     MacroLibrary& library() { return m_library; }
     LibraryHotKeys& hotKeys() { return m_hotKeys; }
 
+    /// What others may ask to have played.
+    PlayRequests& playRequests() { return m_playRequests; }
+
     /// Reads what macros are there, and then registers their hot keys. Returns at once.
     void start();
     /// The combinations of the shortcuts may have become others.
@@ -49,6 +55,8 @@ class LibraryController : public QObject, private LibraryListener {
     void play(const std::string& path);
 
   signals:
+    /// What macros there are is known.
+    void read();
     /// LibraryHotKeys::state() of the macro of that path (bytes) may have become another.
     void hotKeyChanged(const QByteArray& path);
 
@@ -59,4 +67,5 @@ class LibraryController : public QObject, private LibraryListener {
     Notifications& m_notifications;
     MacroLibrary m_library;
     LibraryHotKeys m_hotKeys;
+    PlayRequests m_playRequests;
 };

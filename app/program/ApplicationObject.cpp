@@ -5,8 +5,10 @@
 #include <QMutexLocker>
 #include <QTimer>
 #include <chrono>
+#include <variant>
 
 #include "app/program/BusNames.h"
+#include "app/program/MacrosInterface.h"
 #include "app/tray/Actions.h"
 
 namespace {
@@ -17,6 +19,10 @@ constexpr std::chrono::milliseconds patience{500};
 constexpr std::chrono::milliseconds longestBetweenLooks{400};
 
 }  // namespace
+
+// It belongs to this object, in whatever thread that lives.
+// NOLINTNEXTLINE(cppcoreguidelines-owning-memory)
+ApplicationObject::ApplicationObject() { new MacrosInterface(*this); }
 
 bool ApplicationObject::isWaiting(Number request) {
     const QMutexLocker lock(&m_mutex);
@@ -70,13 +76,26 @@ void ApplicationObject::ActivateAction(const QString& action, const QVariantList
         return sendErrorReply(QDBusError::InvalidArgs,
                               tr("The action \"%1\" takes no parameter.").arg(action));
     }
+    ask(row, message());
+}
+
+void ApplicationObject::ask(Errand errand, const QDBusMessage& call) {
+    call.setDelayedReply(true);
     const Number request = ++m_last;
     {
         const QMutexLocker lock(&m_mutex);
         m_waiting.insert(request);
     }
-    if (row->endsPlayback) ++m_stops;
-    const QDBusMessage call = answeredLater();
-    emit actionAsked(request, action, call);
-    if (!row->endsPlayback) watch(request, call, connection());
+    const auto* const action = std::get_if<const ActionRow*>(&errand);
+    const bool endsPlayback = action != nullptr && (*action)->endsPlayback;
+    if (endsPlayback) ++m_stops;
+    const QDBusConnection from = connection();
+    emit asked(request, errand, call);
+    if (!endsPlayback) watch(request, call, from);
+}
+
+void ApplicationObject::refuse(const Error& why, const QDBusMessage& call) {
+    call.setDelayedReply(true);
+    connection().send(
+        call.createErrorReply(QDBusError::InvalidArgs, QString::fromStdString(why.message + " " + why.hint)));
 }

@@ -13,8 +13,11 @@
 #include <cstdint>
 #include <set>
 
+#include "app/program/Errand.h"
+
 /// The program as an object on the session bus: the interface org.freedesktop.Application of the desktop
-/// entry standard, "D-Bus Activation". It tells nothing of the program but whether a request was carried out.
+/// entry standard, "D-Bus Activation", and MacrosInterface. It tells nothing of the program but whether a
+/// request was carried out.
 ///
 /// Why in a thread of its own: while a macro plays, the program's event loop does not run. What is asked
 /// then is refused in time, so that it is not done later, when nobody expects it any more; a stop ends the
@@ -27,6 +30,8 @@ class ApplicationObject : public QObject, protected QDBusContext {
     /// A call that waits for its answer.
     using Number = std::uint64_t;
 
+    ApplicationObject();
+
     // Called by the program's thread, which answers each request that it takes.
 
     /// Whether the request is still to be carried out; otherwise it has been answered.
@@ -34,6 +39,12 @@ class ApplicationObject : public QObject, protected QDBusContext {
     /// Called again and again while a macro plays; whether somebody waits for a stop that has not been taken.
     bool isStopAsked();
     void stopTaken() { --m_stops; }
+
+    // Called by the interfaces, within a call.
+
+    void ask(Errand errand, const QDBusMessage& call);
+    /// The call makes no sense.
+    void refuse(const Error& why, const QDBusMessage& call);
 
   public slots:
     // What the bus calls.
@@ -50,8 +61,8 @@ class ApplicationObject : public QObject, protected QDBusContext {
     void activated(const QDBusMessage& call);
     /// Somebody wants these to be opened.
     void opened(const QStringList& uris, const QDBusMessage& call);
-    /// Somebody asks for the action, one of app/tray/Actions.h.
-    void actionAsked(ApplicationObject::Number request, const QString& action, const QDBusMessage& call);
+    /// Somebody asks for something.
+    void asked(ApplicationObject::Number request, const Errand& errand, const QDBusMessage& call);
 
   private:
     QDBusMessage answeredLater();

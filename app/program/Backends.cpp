@@ -75,7 +75,8 @@ LibraryServices Backends::libraryServices() {
             .macroFiles = m_parts->neutral.macroFiles,
             .hotKeys = m_parts->hotKeys.second(),
             .firstHotKey = HotKeyShares::firstOfSecond,
-            .notifications = m_parts->neutral.notifications};
+            .notifications = m_parts->neutral.notifications,
+            .scripting = m_parts->scripting};
 }
 
 void Backends::endPlaysWhen(std::function<bool()> isOver) { m_parts->isPlayOver = std::move(isOver); }

@@ -10,7 +10,13 @@ inline const QString name = QStringLiteral("example.orlen.Keyrill");
 inline const QString path = QStringLiteral("/example/orlen/Keyrill");
 /// "D-Bus Activation" of the desktop entry standard.
 inline const QString interface = QStringLiteral("org.freedesktop.Application");
-/// The error that answers an action which cannot be carried out now; its text says why.
+/// Beside it, for macros: app/program/MacrosInterface.h.
+inline const QString macros = QStringLiteral("example.orlen.Keyrill.Macros");
+
+// The errors that answer what is not done; their texts say why: see Refusal::Cause.
 inline const QString notNow = QStringLiteral("example.orlen.Keyrill.Error.NotNow");
+inline const QString noSuchMacro = QStringLiteral("example.orlen.Keyrill.Error.NoSuchMacro");
+inline const QString severalMacros = QStringLiteral("example.orlen.Keyrill.Error.SeveralMacros");
+inline const QString notPlayable = QStringLiteral("example.orlen.Keyrill.Error.NotPlayable");
 
 }  // namespace bus

@@ -1,30 +1,63 @@
 // SPDX-License-Identifier: MIT
 #include "app/program/CommandLine.h"
 
+#include <algorithm>
+#include <array>
 #include <string_view>
 
+#include "app/program/PlayWords.h"
 #include "app/tray/Actions.h"
 #include "platform/sessions/Sessions.h"
 
 namespace {
 
-constexpr std::string_view sessionOption = "--session=";
-constexpr std::string_view actionOption = "--action=";
+using Wish = CommandLine::Wish;
 
-void takeOption(CommandLine& line, const std::string& option) {
-    if (option == "--help") {
-        line.wish = CommandLine::Wish::help;
-    } else if (option == "--version") {
-        line.wish = CommandLine::Wish::version;
-    } else if (option == "--check") {
-        line.wish = CommandLine::Wish::check;
-    } else if (option.starts_with(sessionOption) && option.size() > sessionOption.size()) {
-        line.session = option.substr(sessionOption.size());
-    } else if (option.starts_with(actionOption)) {
-        line.action = option.substr(actionOption.size());
-    } else {
-        line.unknown.push_back(option);
+struct WishOption {
+    std::string_view name;
+    Wish wish = Wish::start;
+    /// Whether "=NAME" may stand behind it.
+    bool takesName = false;
+};
+
+constexpr std::array wishOptions = {
+    WishOption{"--help", Wish::help},       WishOption{"--version", Wish::version},
+    WishOption{"--check", Wish::check},     WishOption{"--list", Wish::list},
+    WishOption{"--play", Wish::play, true}, WishOption{"--show", Wish::show, true}};
+
+bool takeWish(CommandLine& line, std::string_view name, const std::optional<std::string>& value) {
+    const auto* const option = std::find_if(wishOptions.begin(), wishOptions.end(),
+                                            [name](const WishOption& row) { return row.name == name; });
+    if (option == wishOptions.end() || (value && !option->takesName)) return false;
+    line.wish = option->wish;
+    if (value) line.files.push_back(*value);
+    return true;
+}
+
+/// Where the value of an option goes that has to have one; null for another option.
+std::optional<std::string>* valueOf(CommandLine& line, std::string_view name) {
+    if (name == "--action") return &line.action;
+    if (name == "--times") return &line.times;
+    return name == "--speed" ? &line.speed : nullptr;
+}
+
+/// `next` is the argument behind it, null for none; true if that is its value.
+bool takeOption(CommandLine& line, const std::string& option, const std::string* next) {
+    const std::size_t sign = option.find('=');
+    const std::string name = option.substr(0, sign);
+    std::optional<std::string> value;
+    if (sign != std::string::npos) value = option.substr(sign + 1);
+    const bool takesNext = !value && next != nullptr;
+    if (std::optional<std::string>* const place = valueOf(line, name)) {
+        *place = takesNext ? *next : value.value_or("");
+        return takesNext;
     }
+    if (name == "--session" && (takesNext || !value.value_or("").empty())) {
+        line.session = takesNext ? *next : *value;
+        return takesNext;
+    }
+    if (!takeWish(line, name, value)) line.unknown.push_back(option);
+    return false;
 }
 
 }  // namespace
@@ -38,18 +71,17 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
             line.files.push_back(argument);
         } else if (argument == "--") {
             isBehindOptions = true;
-        } else if (argument == "--session" && i + 1 < arguments.size()) {
-            line.session = arguments[++i];
-        } else if (argument == "--action") {
-            line.action = i + 1 < arguments.size() ? arguments[++i] : "";
-        } else {
-            takeOption(line, argument);
+        } else if (takeOption(line, argument, i + 1 < arguments.size() ? &arguments[i + 1] : nullptr)) {
+            ++i;
         }
     }
     return line;
 }
 
 Result<void> checkOptions(const CommandLine& line) {
+    if (line.wish != Wish::play && (line.times || line.speed)) {
+        return Error{"--times and --speed say how --play plays.", "keyrill --help tells more."};
+    }
     if (line.unknown.empty()) return {};
     return Error{"There is no option \"" + line.unknown.front() + "\".", "keyrill --help lists them."};
 }
@@ -71,16 +103,44 @@ Result<void> checkAction(const CommandLine& line) {
     return {};
 }
 
+Result<void> checkMacroCall(const CommandLine& line) {
+    const auto known = checkOptions(line);
+    if (!known) return known;
+    const std::vector<std::string>& names = line.files;
+    const std::size_t most = line.wish == Wish::list ? 0 : 1;
+    if (names.size() > most) {
+        return Error{"\"" + names[most] + "\" is too much.",
+                     most == 0 ? "--list takes no name."
+                               : "A name with blanks is put in quotation marks: \"" + names[0] + " " +
+                                     names[1] + "\"."};
+    }
+    if (!names.empty() && names.front().empty()) return noName();
+    return {};
+}
+
 std::string usage(std::span<const SessionKind> kinds) {
     std::string text =
         "Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs\n"
         "       keyrill [--session=NAME] --action=ACTION   ask the one that runs to act; starts it if need "
         "be\n"
+        "       keyrill [--session=NAME] --play [MACRO|FILE] [--times=N|until-stopped] [--speed=X]\n"
+        "                                          ask it to play one macro of the macro folder, or a file\n"
+        "       keyrill [--session=NAME] --show [MACRO]   ask it to show the window of the macros\n"
+        "       keyrill --list   print the names of the macros in the macro folder\n"
         "       keyrill [--session=NAME] --check   print what works in this session, and what to do\n"
         "       keyrill --help | --version\n"
         "ACTION is one of these: " +
         actionNames() +
         ".\n"
+        "MACRO is a name that --list prints, with its group or without; without MACRO and FILE --play plays "
+        "what\n"
+        "Play plays. A FILE without MACRO of that name, or one that begins with / or ./ is played as it is. "
+        "How often\n"
+        "and how fast (0.25 to 4) is what belongs to the macro, unless it is given. --show chooses MACRO in "
+        "the\n"
+        "window. Of --play, --show and --list the exit status is 0 if it was done, 1 if not, 2 if it was "
+        "not\n"
+        "well put; standard error tells why.\n"
         "NAME is the kind of desktop session; without it the program finds out itself. There are:";
     for (const SessionKind& kind : kinds) (text += ' ') += kind.name;
     return text + "\n";

@@ -17,13 +17,19 @@ struct CommandLine {
         help,     ///< print how the program is called, and end
         version,  ///< print the version, and end
         check,    ///< print what works in this session, and end
+        list,     ///< print the names of the macros in the macro folder, and end
+        play,     ///< ask the running program to play a macro
+        show,     ///< ask the running program to show the macros
     };
     Wish wish = Wish::start;
     /// The kind of session, empty to find out.
     std::string session = {};
     /// What the running program is asked to do (app/tray/Actions.h), as it was written.
     std::optional<std::string> action = {};
-    /// As they were given, in the file system's encoding.
+    /// How often and how fast to play, as it was written.
+    std::optional<std::string> times = {};
+    std::optional<std::string> speed = {};
+    /// As they were given, in the file system's encoding; of a play or a show the names of macros, too.
     std::vector<std::string> files = {};
     /// Options that are none of ours, in order. Some are the toolkit's, which takes them out when it starts.
     std::vector<std::string> unknown = {};
@@ -43,6 +49,9 @@ Result<void> checkOwnOptions(CommandLine line);
 
 /// Success if what is asked of the running program is an action, and nothing else is asked for.
 Result<void> checkAction(const CommandLine& line);
+
+/// Success if what is asked of the macros by a play, a show or a list is well formed, but for the numbers.
+Result<void> checkMacroCall(const CommandLine& line);
 
 /// How the program is called, lines with their ends.
 std::string usage(std::span<const SessionKind> kinds);

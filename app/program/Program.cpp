@@ -2,9 +2,12 @@
 #include "app/program/Program.h"
 
 #include <QApplication>
+#include <utility>
+#include <variant>
 
 #include "app/program/Backends.h"
 #include "app/program/ProgramInstance.h"
+#include "app/tray/Actions.h"
 #include "platform/EventSource.h"
 #include "platform/Session.h"
 #include "platform/Windows.h"
@@ -20,6 +23,11 @@ QtDialogs::Focus focusOf(Windows& windows) {
     return {
         .take = [&windows, idOf](QWidget& window) { windows.activate(idOf(window), 0); },
         .awaitElsewhere = [&windows, idOf](QWidget& hidden) { windows.awaitFocusElsewhere(idOf(hidden)); }};
+}
+
+Result<void, Refusal> notNow(const Result<>& done) {
+    if (done) return {};
+    return Refusal{Refusal::Cause::notNow, done.error()};
 }
 
 }  // namespace
@@ -57,11 +65,39 @@ void Program::follow(ProgramInstance& instance) {
                      &AppController::showControlWindow);
     QObject::connect(&instance, &ProgramInstance::fileOpened, &m_controller, &AppController::openMacroFile);
     QObject::connect(&m_controller, &AppController::started, &instance, [this, &instance] {
-        instance.serve([this](const ActionRow& action) { return m_controller.carryOut(action); });
+        instance.serve([this](const Errand& errand) { return run(errand); });
     });
+    QObject::connect(&m_library, &LibraryController::read, &instance, &ProgramInstance::serveLibrary);
     QObject::connect(&m_controller, &AppController::hotKeysChanged, &instance,
                      [this, &instance] { instance.noteHotKeys(m_controller.registeredHotKeys()); });
     m_backends.endPlaysWhen([&instance] { return instance.endsPlayback(); });
+}
+
+Result<void, Refusal> Program::run(const Errand& errand) {
+    if (const auto* const asked = std::get_if<PlayErrand>(&errand)) return play(*asked);
+    if (const auto* const asked = std::get_if<ShowErrand>(&errand)) return show(*asked);
+    return notNow(m_controller.carryOut(*std::get<const ActionRow*>(errand)));
+}
+
+Result<void, Refusal> Program::play(const PlayErrand& errand) {
+    PlayRequests& requests = m_library.playRequests();
+    auto request = errand.of == PlayErrand::Of::current ? requests.ofCurrent(errand.wish)
+                   : errand.of == PlayErrand::Of::macro ? requests.ofMacro(errand.name, errand.wish)
+                                                        : requests.ofFile(errand.name, errand.wish);
+    if (!request) return request.error();
+    return notNow(m_controller.askedPlays().ask(std::move(request).value()));
+}
+
+Result<void, Refusal> Program::show(const ShowErrand& errand) {
+    std::string path;
+    if (!errand.macro.empty()) {
+        auto found = m_library.playRequests().pathOf(errand.macro);
+        if (!found) return found.error();
+        path = std::move(found).value();
+    }
+    const Result<> shown = m_controller.carryOut(*actionNamed("macros"));
+    if (shown && !path.empty()) m_controller.chooseMacro(path);
+    return notNow(shown);
 }
 
 void Program::openFiles(const QStringList& files) {

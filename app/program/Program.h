@@ -9,6 +9,7 @@
 #include "app/controller/AppController.h"
 #include "app/dialogs/QtDialogs.h"
 #include "app/library/LibraryController.h"
+#include "app/program/Errand.h"
 #include "app/program/TerminationSignals.h"
 #include "app/tray/TrayStatusItem.h"
 
@@ -33,6 +34,9 @@ class Program {
     void openFiles(const QStringList& files);
 
   private:
+    Result<void, Refusal> run(const Errand& errand);
+    Result<void, Refusal> play(const PlayErrand& errand);
+    Result<void, Refusal> show(const ShowErrand& errand);
     void serve(EventSource& source);
 
     Backends& m_backends;

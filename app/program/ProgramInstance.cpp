@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
+#include <variant>
 
 #include "app/program/ApplicationObject.h"
 #include "app/program/BusNames.h"
@@ -49,6 +50,24 @@ bool awaitName(const QDBusConnection& connection) {
     return true;
 }
 
+const QString& nameOf(Refusal::Cause cause) {
+    switch (cause) {
+        case Refusal::Cause::noSuchMacro:
+            return bus::noSuchMacro;
+        case Refusal::Cause::severalMacros:
+            return bus::severalMacros;
+        case Refusal::Cause::notPlayable:
+            return bus::notPlayable;
+        case Refusal::Cause::notNow:
+            break;
+    }
+    return bus::notNow;
+}
+
+QString textOf(const Error& error) {
+    return QString::fromStdString(error.hint.empty() ? error.message : error.message + " " + error.hint);
+}
+
 }  // namespace
 
 ProgramInstance::ProgramInstance()
@@ -76,14 +95,9 @@ void ProgramInstance::follow(ApplicationObject& object) {
                 }
                 m_bus.send(call.createReply());
             });
-    connect(&object, &ApplicationObject::actionAsked, this,
-            [this](ApplicationObject::Number number, const QString& action, const QDBusMessage& call) {
-                const Request request{number, action, call};
-                if (m_carryOut) {
-                    answer(request);
-                } else {
-                    m_early.push_back(request);
-                }
+    connect(&object, &ApplicationObject::asked, this,
+            [this](ApplicationObject::Number number, const Errand& errand, const QDBusMessage& call) {
+                take({number, errand, call});
             });
 }
 
@@ -101,7 +115,8 @@ bool ProgramInstance::takeName() {
     m_object->moveToThread(&m_thread);
     m_thread.start();
     // In this order: who finds the name may call at once.
-    m_bus.registerObject(bus::path, m_object.get(), QDBusConnection::ExportAllSlots);
+    m_bus.registerObject(bus::path, m_object.get(),
+                         QDBusConnection::ExportAllSlots | QDBusConnection::ExportAdaptors);
     return m_bus.registerService(bus::name);
 }
 
@@ -136,9 +151,26 @@ int ProgramInstance::handOver(const QStringList& files) {
     return files.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-void ProgramInstance::serve(CarryOut carryOut) {
-    m_carryOut = std::move(carryOut);
-    for (const Request& request : std::exchange(m_early, {})) answer(request);
+void ProgramInstance::serve(RunErrand run) {
+    m_run = std::move(run);
+    for (const Request& request : std::exchange(m_early, {})) take(request);
+}
+
+void ProgramInstance::serveLibrary() {
+    m_servesLibrary = true;
+    for (const Request& request : std::exchange(m_early, {})) take(request);
+}
+
+bool ProgramInstance::isServed(const Errand& errand) const {
+    return m_run && (m_servesLibrary || !needsLibrary(errand));
+}
+
+void ProgramInstance::take(const Request& request) {
+    if (isServed(request.errand)) {
+        answer(request);
+    } else {
+        m_early.push_back(request);
+    }
 }
 
 void ProgramInstance::noteHotKeys(const std::vector<std::string>& names) {
@@ -153,19 +185,18 @@ bool ProgramInstance::endsPlayback() {
     return true;
 }
 
-/// An action of the table, which the object has looked up.
 void ProgramInstance::answer(const Request& request) {
     if (!m_object->take(request.number)) return;
-    const Result<> done = carryOut(*actionNamed(request.action.toStdString()));
-    m_bus.send(
-        done ? request.call.createReply()
-             : request.call.createErrorReply(bus::notNow, QString::fromStdString(done.error().message)));
+    const Result<void, Refusal> done = carryOut(request.errand);
+    m_bus.send(done ? request.call.createReply()
+                    : request.call.createErrorReply(nameOf(done.error().cause), textOf(done.error().error)));
 }
 
-Result<> ProgramInstance::carryOut(const ActionRow& action) {
-    if (!action.endsPlayback) return m_carryOut(action);
-    Result<> done = m_carryOut(action);
+Result<void, Refusal> ProgramInstance::carryOut(const Errand& errand) {
+    const auto* const action = std::get_if<const ActionRow*>(&errand);
+    if (action == nullptr || !(*action)->endsPlayback) return m_run(errand);
+    Result<void, Refusal> done = m_run(errand);
     m_object->stopTaken();
     // By the time that it comes here, the playback is over.
-    return std::exchange(m_hasEndedPlayback, false) ? Result<>() : done;
+    return std::exchange(m_hasEndedPlayback, false) ? Result<void, Refusal>() : done;
 }

@@ -8,32 +8,28 @@
 #include <QThread>
 #include <QTimer>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "platform/Result.h"
+#include "app/program/Errand.h"
 
 class ApplicationObject;
 class InstanceLock;
-struct ActionRow;
 
 /// The one running program of a session, found by its name on the session bus; where there is no bus, or a
 /// new one in the place of one that has died, by a lock in the runtime folder. It takes its name on the new
 /// bus.
 ///
 /// It takes what other starts hand over and what is asked of it from outside: the interface
-/// org.freedesktop.Application of the desktop entry standard, "D-Bus Activation". An action is answered when
-/// it has been carried out, one that plays when it is about to. One that cannot be carried out now is
-/// answered by the error example.orlen.Keyrill.Error.NotNow, whose text says why; one that there is not by
-/// org.freedesktop.DBus.Error.InvalidArgs. Nothing else can be learnt from it.
+/// org.freedesktop.Application of the desktop entry standard, "D-Bus Activation", and
+/// packaging/example.orlen.Keyrill.Macros.xml. An errand is answered when it has been carried out, one that
+/// plays when it is about to; what is not done by one of the errors of BusNames.h, whose text says why, and
+/// what makes no sense by org.freedesktop.DBus.Error.InvalidArgs. Nothing else can be learnt from it.
 class ProgramInstance : public QObject {
     Q_OBJECT
 
   public:
-    using CarryOut = std::function<Result<>(const ActionRow&)>;
-
     ProgramInstance();
     ~ProgramInstance() override;
 
@@ -44,8 +40,10 @@ class ProgramInstance : public QObject {
     /// there is no way to hand them over.
     int handOver(const QStringList& files);
 
-    /// Who carries out actions from now on; those that were asked for before wait until then.
-    void serve(CarryOut carryOut);
+    /// Who carries errands out from now on; those that were asked for before wait until then.
+    void serve(RunErrand run);
+    /// From now on also those that speak of macros of the library.
+    void serveLibrary();
     /// Lets others know which hot keys this program has, by their names in the settings.
     void noteHotKeys(const std::vector<std::string>& names);
 
@@ -64,15 +62,17 @@ class ProgramInstance : public QObject {
   private:
     struct Request {
         std::uint64_t number = 0;
-        QString action;
+        Errand errand;
         QDBusMessage call;
     };
 
     bool takeName();
     void findBus();
     void follow(ApplicationObject& object);
+    bool isServed(const Errand& errand) const;
+    void take(const Request& request);
     void answer(const Request& request);
-    Result<> carryOut(const ActionRow& action);
+    Result<void, Refusal> carryOut(const Errand& errand);
 
     QDBusConnection m_bus;
     QTimer m_search;
@@ -80,8 +80,9 @@ class ProgramInstance : public QObject {
     QThread m_thread;
     /// Lives in that thread.
     std::unique_ptr<ApplicationObject> m_object;
-    CarryOut m_carryOut;
-    /// Asked for before anybody carries out.
+    RunErrand m_run;
+    bool m_servesLibrary = false;
+    /// Asked for before anybody serves them.
     std::vector<Request> m_early;
     bool m_hasEndedPlayback = false;
 };

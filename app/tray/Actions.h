@@ -30,6 +30,7 @@ inline constexpr std::array actionRows = {
     ActionRow{.name = "play", .menuItem = "play", .plays = true},
     ActionRow{.name = "multiple", .menuItem = "multiplePlay"},
     ActionRow{.name = "save-pause", .menuItem = "saveDelay", .startsProgram = false},
+    ActionRow{.name = "macros", .menuItem = "macros"},
 };
 
 /// Null for a name that there is not.

@@ -68,7 +68,8 @@ class FakeLibrary {
                       .macroFiles = platform.macroFiles,
                       .hotKeys = hotKeys,
                       .firstHotKey = 1000,
-                      .notifications = platform.notifications}) {}
+                      .notifications = platform.notifications,
+                      .scripting = platform.scripting}) {}
 
   private:
     Journal m_journal;

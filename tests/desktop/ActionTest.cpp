@@ -9,6 +9,7 @@
 #include <regex>
 #include <set>
 
+#include "desktop/Answer.h"
 #include "desktop/DesktopTest.h"
 #include "desktop/SavedMacro.h"
 #include "display/NestedServers.h"
@@ -16,19 +17,6 @@
 #include "support/Programs.h"
 
 namespace {
-
-struct Answer {
-    int status = -1;
-    std::string output;
-
-    friend bool operator==(const Answer&, const Answer&) = default;
-};
-
-std::ostream& operator<<(std::ostream& out, const Answer& answer) {
-    return out << answer.status << ": " << answer.output;
-}
-
-const Answer done{0, ""};
 
 Answer notNow(const std::string& why) { return {2, "keyrill: " + why + "\n"}; }
 
@@ -40,13 +28,7 @@ class ActionTest : public testing::Test {
         terminal.emplace(desktop.display());
     }
 
-    /// How a command ends that is run in the desktop.
-    Answer answerOf(const std::vector<std::string>& command) const {
-        const std::string name = "answer" + std::to_string(++m_answers);
-        Child child(command, desktop.options(name));
-        const int status = child.wait();
-        return {status, contentOf(desktop.file(name))};
-    }
+    Answer answerOf(const std::vector<std::string>& command) const { return ::answerOf(desktop, command); }
     Answer ask(const std::string& action) const {
         return answerOf({programs::keyrill, "--action=" + action});
     }
@@ -69,9 +51,6 @@ class ActionTest : public testing::Test {
     const Hands hands{desktop.display()};
     const Typist typist{hands, Typist::Gap(30)};
     std::optional<Terminal> terminal;
-
-  private:
-    mutable int m_answers = 0;
 };
 
 constexpr const char* twentySeconds = R"(repeat 2000 times
@@ -116,7 +95,7 @@ TEST_F(ActionTest, theCallerIsToldWhatCannotBeDone) {
               "Error: GDBus.Error:example.orlen.Keyrill.Error.NotNow: There is no macro to play yet.\n");
     EXPECT_TRUE(call("quit").output.starts_with(
         "Error: GDBus.Error:org.freedesktop.DBus.Error.InvalidArgs: There is no action \"quit\". There are: "
-        "record, stop, play, multiple, save-pause.\n"));
+        "record, stop, play, multiple, save-pause, macros.\n"));
     EXPECT_TRUE(
         call("record", "[<1>]")
             .output.starts_with(
@@ -143,7 +122,7 @@ TEST_F(ActionTest, itMustBeOneThatThereIs) {
     EXPECT_EQ(ask("quit"),
               (Answer{1,
                       "keyrill: There is no action \"quit\". Choose one of these: record, stop, play, "
-                      "multiple, save-pause.\n"}));
+                      "multiple, save-pause, macros.\n"}));
     EXPECT_EQ(answerOf({programs::keyrill, "--action=play", "--now"}),
               (Answer{1, "keyrill: There is no option \"--now\". keyrill --help lists them.\n"}));
 }
@@ -181,6 +160,11 @@ TEST_F(ActionTest, multipleAsksHowOftenAndHasTheFocus) {
     desktop.awaitFocus(title::prompt);
     desktop.run({"xdotool", "key", "ctrl+a", "3", "Return"});
     EXPECT_EQ(terminal->typed(8), "abababab");
+}
+
+TEST_F(ActionTest, macrosShowsTheirWindow) {
+    EXPECT_EQ(ask("macros"), done);
+    desktop.awaitFocus("Macros");
 }
 
 TEST_F(ActionTest, savePauseKeepsTheTimeSinceTheLastKey) {
@@ -267,9 +251,13 @@ TEST_F(ActionTest, theBusTellsNothingOfWhatIsRecorded) {
             members.insert(interface + " " + (*at)[1].str() + " " + (*at)[2].str());
         }
     }
-    EXPECT_EQ(members, (std::set<std::string>{"org.freedesktop.Application method Activate",
-                                              "org.freedesktop.Application method ActivateAction",
-                                              "org.freedesktop.Application method Open"}))
+    EXPECT_EQ(
+        members,
+        (std::set<std::string>{
+            "org.freedesktop.Application method Activate",
+            "org.freedesktop.Application method ActivateAction", "org.freedesktop.Application method Open",
+            "example.orlen.Keyrill.Macros method Play", "example.orlen.Keyrill.Macros method PlayFile",
+            "example.orlen.Keyrill.Macros method PlayMacro", "example.orlen.Keyrill.Macros method Show"}))
         << object;
 }
 

@@ -73,8 +73,8 @@ BEGIN {
     app("controller", "app/dialogs app/library app/macros app/overlay app/panels app/shortcuts app/tray app/widgets" \
                       " library library/steps engine prefs core platform")
     # Joins the controllers with services and event loop; programs are made of it.
-    app("program", "app/check app/controller app/dialogs app/library app/tray platform platform/linux platform/script/run" \
-                   " platform/sessions")
+    app("program", "app/check app/controller app/dialogs app/library app/tray library platform platform/linux" \
+                   " platform/script/run platform/sessions")
     app("demonstration", "app/program engine core")
     app("gallery", "app/program app/controller app/dialogs app/icons app/macros app/overlay app/panels app/shortcuts" \
                    " app/tray engine core platform")

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <regex>
 #include <sstream>
@@ -22,12 +23,17 @@ Words linesOf(const std::string& text) {
     return lines;
 }
 
-/// A shell in a folder with two files.
+/// A shell in a folder with two files, which is the home of somebody with three macros.
 class CompletionsTest : public testing::Test {
   protected:
     CompletionsTest() {
         outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER}, {{"DESTDIR", m_folder.path()}});
         for (const char* name : {"/a.keyrill", "/b.txt"}) std::ofstream(m_folder.path() + name);
+        const std::string macros = m_folder.path() + "/.local/share/keyrill";
+        std::filesystem::create_directories(macros + "/mail");
+        for (const char* name : {"/Greeting", "/Good bye", "/mail/Thanks"}) {
+            std::ofstream(macros + name + ".keyrill");
+        }
     }
 
     std::string installed(const std::string& path) const {
@@ -35,7 +41,10 @@ class CompletionsTest : public testing::Test {
     }
     Words run(const std::string& script) const {
         return linesOf(outputOf({"bash", "-c", "cd " + m_folder.path() + " && " + script},
-                                {{"HOME", m_folder.path()}, {"LC_ALL", "C.UTF-8"}}));
+                                {{"HOME", m_folder.path()},
+                                 {"XDG_DATA_HOME", ""},
+                                 {"PATH", m_folder.path() + KEYRILL_PREFIX + "/bin:/usr/bin:/bin"},
+                                 {"LC_ALL", "C.UTF-8"}}));
     }
 
     /// As bash calls them: the words of the line, split also at its signs, the last being completed.
@@ -84,9 +93,45 @@ TEST_F(CompletionsTest, theBeginningOfAnActionNarrowsThemDown) {
 }
 
 TEST_F(CompletionsTest, optionsAreOffered) {
-    EXPECT_EQ(inBash("--"), (Words{"--action=", "--check ", "--help ", "--session=", "--version "}));
-    EXPECT_EQ(inZsh("--"), (Words{"--action", "--check", "--help", "--session", "--version"}));
-    EXPECT_EQ(inFish("--"), (Words{"--action", "--check", "--help", "--session", "--version"}));
+    EXPECT_EQ(inBash("--"), (Words{"--action=", "--check ", "--help ", "--list ", "--play ",
+                                   "--session=", "--show ", "--version "}));
+    const Words all = {"--action",  "--check", "--help",  "--list",  "--play",
+                       "--session", "--show",  "--speed", "--times", "--version"};
+    EXPECT_EQ(inZsh("--"), all);
+    EXPECT_EQ(inFish("--"), all);
+    EXPECT_EQ(inBash("--play Greeting --"), (Words{"--session=", "--speed=", "--times="}));
+}
+
+TEST_F(CompletionsTest, allShellsOfferTheMacros) {
+    const Words all = {"Good bye", "Greeting", "mail/Thanks"};
+    EXPECT_EQ(inBash("--play \"\""), all);
+    EXPECT_EQ(inBash("--show = \"\""), all);
+    // As it puts them into the line.
+    const Words quoted = {"Good\\ bye", "Greeting", "mail/Thanks"};
+    EXPECT_EQ(inZsh("--play="), quoted);
+    EXPECT_EQ(inZsh("--show "), quoted);
+    EXPECT_EQ(inFish("--show "), all);
+}
+
+TEST_F(CompletionsTest, theBeginningOfANameNarrowsThemDown) {
+    EXPECT_EQ(inBash("--play G"), (Words{"Good bye", "Greeting"}));
+    EXPECT_EQ(inBash("--play Good\\\\\\ b"), Words{"Good bye"});
+    EXPECT_EQ(inBash("--play m"), Words{"mail/Thanks"});
+    EXPECT_EQ(inZsh("--play Gr"), Words{"Greeting"});
+    EXPECT_EQ(inFish("--play Gr"), Words{"Greeting"});
+}
+
+TEST_F(CompletionsTest, whereNoMacroBeginsSoFilesAreOffered) {
+    EXPECT_EQ(inBash("--play a"), Words{"a.keyrill"});
+    EXPECT_EQ(inZsh("--play a"), Words{"a.keyrill"});
+    EXPECT_EQ(inFish("--play a"), Words{"a.keyrill"});
+    EXPECT_EQ(inBash("--show a"), Words{""});
+}
+
+TEST_F(CompletionsTest, timesCanBeWithoutEnd) {
+    EXPECT_EQ(inBash("--play Greeting --times = u"), Words{"until-stopped"});
+    EXPECT_EQ(inZsh("--play Greeting --times=u"), Words{"until-stopped"});
+    EXPECT_EQ(inFish("--play Greeting --times u"), Words{"until-stopped"});
 }
 
 TEST_F(CompletionsTest, elseMacroFilesAre) {

@@ -268,6 +268,38 @@ TEST_F(AppControllerTest, carriesOutWhatIsAskedFromOutside) {
     EXPECT_EQ(platform().scripting.runs().size(), 1U);
 }
 
+TEST_F(AppControllerTest, playsWhatIsAskedFromOutsideAndLeavesTheCurrentMacro) {
+    recordKey(key::a);
+    const std::string mine = state().currentMacro->script();
+    bool hasBegun = false;
+    EXPECT_TRUE(controller.askedPlays().ask(
+        {.script = "beep", .options = {.times = {2}, .speed = 4}, .begins = [&] { hasBegun = true; }}));
+    EXPECT_FALSE(hasBegun);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(hasBegun);
+    EXPECT_EQ(runs(), (std::vector<std::string>{"beep", "beep"}));
+    EXPECT_EQ(platform().scripting.speeds(), (std::vector<double>{4, 4}));
+    EXPECT_EQ(windows.calls(), Journal::Lines{"awaitFocusElsewhere(none)"});
+    EXPECT_EQ(state().currentMacro->script(), mine);
+}
+
+TEST_F(AppControllerTest, aPlayFromOutsideNeedsNoCurrentMacroButThatNothingIsRecorded) {
+    EXPECT_TRUE(controller.askedPlays().ask({.script = "beep"}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(runs().size(), 1U);
+    controller.recordMacro(nullptr);
+    EXPECT_EQ(controller.askedPlays().ask({.script = "beep"}).error().message, "A macro is being recorded.");
+}
+
+TEST_F(AppControllerTest, aPlayFromOutsideIsForgottenWhenAQuestionOpensBeforeItBegins) {
+    controller.awakeFromNib();
+    EXPECT_TRUE(controller.askedPlays().ask({.script = "beep"}));
+    platform().screenLock.userLocksScreen();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(runs(), std::vector<std::string>());
+    EXPECT_EQ(controller.askedPlays().ask({.script = "beep"}).error().message, "The screen is locked.");
+}
+
 TEST_F(AppControllerTest, aStopFromOutsideTakesBackAPlayThatHasNotBegun) {
     recordKey(key::a);
     EXPECT_TRUE(controller.carryOut(*actionNamed("play")));

@@ -129,7 +129,8 @@ class MacrosDeskTest : public AppTest {
                              .macroFiles = files,
                              .hotKeys = hotKeys,
                              .firstHotKey = 1000,
-                             .notifications = platform().notifications}};
+                             .notifications = platform().notifications,
+                             .scripting = platform().scripting}};
     Gate gate{platform().eventMonitor, [] {}};
     Stage stage{windows, [this] { return std::vector<QWidget*>{desk.window()}; }};
     MacrosDesk desk{{shelf, files, platform().keyboardLayout, gate, stage, DraftFiles(m_home.file("state"))}};

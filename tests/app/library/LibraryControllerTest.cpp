@@ -35,7 +35,8 @@ class LibraryControllerTest : public EngineTest {
                                   .macroFiles = platform().macroFiles,
                                   .hotKeys = platform().hotKeys,
                                   .firstHotKey = 1000,
-                                  .notifications = platform().notifications}};
+                                  .notifications = platform().notifications,
+                                  .scripting = platform().scripting}};
 };
 
 TEST_F(LibraryControllerTest, playsAMacroOnceAllModifiersAreUp) {
@@ -118,6 +119,18 @@ TEST_F(LibraryControllerTest, tellsOfDamagedSettings) {
         platform().journal.of({"post"}),
         Journal::Lines{"post(\"Hot keys of macros\", \"The macro settings file x is not a key file.\nIt was "
                        "renamed.\")"});
+}
+
+TEST_F(LibraryControllerTest, tellsOnceThatTheMacrosAreKnown) {
+    int times = 0;
+    QObject::connect(&controller, &LibraryController::read, [&times] { ++times; });
+    folder().userWrites("a.keyrill", "beep");
+    controller.start();
+    EXPECT_EQ(times, 0);
+    folder().deliver();
+    folder().userWrites("b.keyrill", "beep");
+    folder().deliver();
+    EXPECT_EQ(times, 1);
 }
 
 TEST_F(LibraryControllerTest, tellsWhoseHotKeyHasChanged) {

@@ -49,7 +49,7 @@ TEST(CommandLineTest, anActionIsNamed) {
 }
 
 TEST(CommandLineTest, anActionThatThereIsNotListsTheOthers) {
-    const std::string all = "Choose one of these: record, stop, play, multiple, save-pause.";
+    const std::string all = "Choose one of these: record, stop, play, multiple, save-pause, macros.";
     EXPECT_EQ(checkAction(readCommandLine({"--action=quit"})).error(),
               (Error{R"(There is no action "quit".)", all}));
     EXPECT_EQ(checkAction(readCommandLine({"--action="})).error(), (Error{R"(There is no action "".)", all}));
@@ -60,6 +60,39 @@ TEST(CommandLineTest, anActionTakesNoFile) {
     EXPECT_EQ(
         checkAction(readCommandLine({"--action=play", "a.keyrill"})).error(),
         (Error{R"(An action takes no file, and "a.keyrill" was given.)", "Load it first: keyrill FILE."}));
+}
+
+TEST(CommandLineTest, aPlayMayHaveANameTimesAndASpeed) {
+    using Wish = CommandLine::Wish;
+    EXPECT_EQ(readCommandLine({"--play"}), (CommandLine{.wish = Wish::play}));
+    const CommandLine whole{.wish = Wish::play, .times = "3", .speed = "0.5", .files = {"Greeting"}};
+    EXPECT_EQ(readCommandLine({"--play", "Greeting", "--times", "3", "--speed", "0.5"}), whole);
+    EXPECT_EQ(readCommandLine({"--speed=0.5", "--times=3", "--play=Greeting"}), whole);
+    EXPECT_EQ(readCommandLine({"--play", "--", "-name"}),
+              (CommandLine{.wish = Wish::play, .files = {"-name"}}));
+    EXPECT_EQ(readCommandLine({"--show=Greeting"}), (CommandLine{.wish = Wish::show, .files = {"Greeting"}}));
+    EXPECT_EQ(readCommandLine({"--list"}), (CommandLine{.wish = Wish::list}));
+    EXPECT_EQ(readCommandLine({"--list=all"}).unknown, std::vector<std::string>{"--list=all"});
+}
+
+TEST(CommandLineTest, timesAndSpeedArePlaysAlone) {
+    const Error misplaced{"--times and --speed say how --play plays.", "keyrill --help tells more."};
+    EXPECT_EQ(checkOptions(readCommandLine({"--times", "3", "a.keyrill"})).error(), misplaced);
+    EXPECT_EQ(checkOwnOptions(readCommandLine({"--action=play", "--speed=2"})).error(), misplaced);
+    EXPECT_EQ(checkMacroCall(readCommandLine({"--show", "--times=3"})).error(), misplaced);
+    EXPECT_TRUE(checkMacroCall(readCommandLine({"--play", "--times=3"})));
+}
+
+TEST(CommandLineTest, aPlayTakesOneNameThatIsNotEmpty) {
+    EXPECT_EQ(
+        checkMacroCall(readCommandLine({"--play", "My", "Macro"})).error(),
+        (Error{R"("Macro" is too much.)", R"(A name with blanks is put in quotation marks: "My Macro".)"}));
+    EXPECT_EQ(checkMacroCall(readCommandLine({"--play="})).error(),
+              (Error{"The name of the macro is empty.", "keyrill --list prints those that there are."}));
+    EXPECT_EQ(checkMacroCall(readCommandLine({"--list", "a"})).error(),
+              (Error{R"("a" is too much.)", "--list takes no name."}));
+    EXPECT_EQ(checkMacroCall(readCommandLine({"--play", "-x"})).error(),
+              (Error{R"(There is no option "-x".)", "keyrill --help lists them."}));
 }
 
 TEST(CommandLineTest, theFirstUnknownOptionIsNamed) {
@@ -81,7 +114,7 @@ TEST(CommandLineTest, theUsageListsTheSessions) {
 }
 
 TEST(CommandLineTest, theUsageListsTheActions) {
-    EXPECT_NE(usage({}).find(": record, stop, play, multiple, save-pause.\n"), std::string::npos)
+    EXPECT_NE(usage({}).find(": record, stop, play, multiple, save-pause, macros.\n"), std::string::npos)
         << usage({});
 }
 

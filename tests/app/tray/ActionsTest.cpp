@@ -54,7 +54,7 @@ TEST(ActionsTest, nothingIsDoneBehindAQuestionOrALock) {
 }
 
 TEST(ActionsTest, theyAreKnownByTheirNames) {
-    EXPECT_EQ(actionNames(), "record, stop, play, multiple, save-pause");
+    EXPECT_EQ(actionNames(), "record, stop, play, multiple, save-pause, macros");
     EXPECT_EQ(actionNamed("multiple")->menuItem, "multiplePlay");
     EXPECT_EQ(actionNamed("quit"), nullptr);
     EXPECT_EQ(actionNamed(""), nullptr);

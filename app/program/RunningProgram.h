@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <array>
+#include <string>
+
+#include "platform/Result.h"
+
+/// The running program, as another process reaches it over the session bus. Needs no display where the
+/// program runs. One a process, in the place of the whole program.
+class RunningProgram {
+  public:
+    RunningProgram();
+
+    /// Fails where there is no session bus.
+    Result<> reach() const;
+    bool isRunning() const;
+    /// Starts it in the background, in the session of that name or, if that is empty, in the one that is
+    /// found; returns when it can be asked.
+    Result<> start(const std::string& session) const;
+
+    /// A call of the interface, without arguments yet.
+    static QDBusMessage callOf(const QString& interface, const QString& method);
+    /// Its answer, an error too; waits for 20 s at most.
+    QDBusMessage answerTo(const QDBusMessage& call) const;
+
+  private:
+    std::string m_name = "keyrill";
+    std::array<char*, 2> m_arguments = {m_name.data(), nullptr};
+    int m_count = 1;
+    QCoreApplication m_application;
+    QDBusConnection m_bus;
+};

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "desktop/Desktop.h"
+
+/// How a command has ended.
+struct Answer {
+    int status = -1;
+    /// On standard output and error.
+    std::string output;
+
+    friend bool operator==(const Answer&, const Answer&) = default;
+};
+
+inline std::ostream& operator<<(std::ostream& out, const Answer& answer) {
+    return out << answer.status << ": " << answer.output;
+}
+
+/// Of one that is run in the desktop.
+inline Answer answerOf(const Desktop& desktop, const std::vector<std::string>& command) {
+    const TemporaryFolder folder;
+    Child::Options options = desktop.options("answer");
+    options.outputFile = folder.file("answer");
+    Child child(command, options);
+    const int status = child.wait();
+    return {status, contentOf(options.outputFile)};
+}
+
+inline const Answer done{0, ""};
