@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/program/ProgramInstance.h"
 
+#include <QCoreApplication>
 #include <QDBusConnectionInterface>
 #include <QDBusError>
 #include <QDBusMessage>
@@ -64,20 +65,31 @@ const QString& nameOf(Refusal::Cause cause) {
     return bus::notNow;
 }
 
+Refusal tooLate() {
+    return {Refusal::Cause::notNow,
+            {QCoreApplication::translate("ProgramInstance", "The macro folder was out of reach for too long.")
+                 .toStdString(),
+             {}}};
+}
+
 QString textOf(const Error& error) {
     return QString::fromStdString(error.hint.empty() ? error.message : error.message + " " + error.hint);
 }
 
 }  // namespace
 
-ProgramInstance::ProgramInstance()
-    : m_bus(QDBusConnection::sessionBus()), m_object(std::make_unique<ApplicationObject>()) {
+ProgramInstance::ProgramInstance(std::chrono::milliseconds patience)
+    : m_patience(patience),
+      m_bus(QDBusConnection::sessionBus()),
+      m_object(std::make_unique<ApplicationObject>()) {
     connect(&m_search, &QTimer::timeout, this, &ProgramInstance::findBus);
     follow(*m_object);
 }
 
 ProgramInstance::~ProgramInstance() {
     m_bus.unregisterObject(bus::path);
+    // What an interface of it is joined with wants it to end in its own thread.
+    if (m_thread.isRunning()) m_object.release()->deleteLater();
     m_thread.quit();
     m_thread.wait();
 }
@@ -97,7 +109,7 @@ void ProgramInstance::follow(ApplicationObject& object) {
             });
     connect(&object, &ApplicationObject::asked, this,
             [this](ApplicationObject::Number number, const Errand& errand, const QDBusMessage& call) {
-                take({number, errand, call});
+                take({number, errand, call, std::chrono::steady_clock::now()});
             });
 }
 
@@ -187,7 +199,10 @@ bool ProgramInstance::endsPlayback() {
 
 void ProgramInstance::answer(const Request& request) {
     if (!m_object->take(request.number)) return;
-    const Result<void, Refusal> done = carryOut(request.errand);
+    // Whoever asked for it does not expect it any more.
+    const bool isLate =
+        needsLibrary(request.errand) && std::chrono::steady_clock::now() - request.asked > m_patience;
+    const Result<void, Refusal> done = isLate ? Result<void, Refusal>(tooLate()) : carryOut(request.errand);
     m_bus.send(done ? request.call.createReply()
                     : request.call.createErrorReply(nameOf(done.error().cause), textOf(done.error().error)));
 }

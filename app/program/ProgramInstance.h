@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QThread>
 #include <QTimer>
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -30,7 +31,8 @@ class ProgramInstance : public QObject {
     Q_OBJECT
 
   public:
-    ProgramInstance();
+    /// What waits longer than that until it is served is not done any more.
+    explicit ProgramInstance(std::chrono::milliseconds patience = std::chrono::seconds(10));
     ~ProgramInstance() override;
 
     /// Makes this process the one. False if there is another already.
@@ -64,6 +66,7 @@ class ProgramInstance : public QObject {
         std::uint64_t number = 0;
         Errand errand;
         QDBusMessage call;
+        std::chrono::steady_clock::time_point asked{};
     };
 
     bool takeName();
@@ -74,6 +77,7 @@ class ProgramInstance : public QObject {
     void answer(const Request& request);
     Result<void, Refusal> carryOut(const Errand& errand);
 
+    std::chrono::milliseconds m_patience;
     QDBusConnection m_bus;
     QTimer m_search;
     std::unique_ptr<InstanceLock> m_lock;

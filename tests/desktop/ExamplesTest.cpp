@@ -21,6 +21,12 @@ namespace {
 
 const fs::path folder = fs::path(programs::languageReference).replace_filename("examples");
 
+void play(const Desktop& desktop, const std::string& name, const std::vector<std::string>& options = {}) {
+    std::vector<std::string> command = {programs::keyrill, "--play", folder / (name + ".keyrill")};
+    command.insert(command.end(), options.begin(), options.end());
+    EXPECT_EQ(answerOf(desktop, command), done);
+}
+
 class ExamplesTest : public DesktopTest {
   protected:
     ExamplesTest() {
@@ -29,9 +35,7 @@ class ExamplesTest : public DesktopTest {
     }
 
     void play(const std::string& name, const std::vector<std::string>& options = {}) const {
-        std::vector<std::string> command = {programs::keyrill, "--play", folder / (name + ".keyrill")};
-        command.insert(command.end(), options.begin(), options.end());
-        EXPECT_EQ(answerOf(desktop, command), done);
+        ::play(desktop, name, options);
     }
     void type(const std::string& text) const { desktop.run({"xdotool", "type", text}); }
     void awaitQuestion() const {
@@ -123,10 +127,16 @@ TEST_F(ExamplesTest, questionFirst) {
     EXPECT_EQ(terminal.typed(expected.size()), expected);
 }
 
-TEST_F(ExamplesTest, twoWindows) {
+/// Not under openbox, which loses keys that follow a switch when the machine is busy.
+TEST(ExampleOfWindowsTest, twoWindows) {
+    Desktop desktop;
+    desktop.startBus().letIn("org.xfce.Xfconf");
+    desktop.startWindowManager(WindowManager::xfwm4);
+    desktop.startTray();
+    const Keyrill keyrill(desktop);
     const Terminal second(desktop.display());
     const Terminal first(desktop.display());
-    play("two-windows");
+    play(desktop, "two-windows");
     EXPECT_EQ(second.typed(10), "Oslo\nRome\n");
     EXPECT_EQ(first.typed(), "Ann\nBob\n");
 }
