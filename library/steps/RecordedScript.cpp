@@ -20,14 +20,15 @@ constexpr std::string_view shortDelay = "delay 0.01\n";
 struct ModifierPhrase {
     std::uint32_t modifier;
     std::string_view phrase;
+    std::string_view line;
 };
 
 /// In the order in which actionpack::KeyCode writes them.
 constexpr std::array<ModifierPhrase, 4> modifierPhrases = {{
-    {modifier::command, "command down"},
-    {modifier::shift, "shift down"},
-    {modifier::option, "option down"},
-    {modifier::control, "control down"},
+    {modifier::command, "command down", "command\n"},
+    {modifier::shift, "shift down", "shift\n"},
+    {modifier::option, "option down", "option\n"},
+    {modifier::control, "control down", "control\n"},
 }};
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
@@ -48,12 +49,15 @@ class LineReader {
     /// key = "\tkey code (" code ") using {" [ modifier { ", " modifier } ] "}\n" short-delay
     /// pause = "\tdelay " number "\n" short-delay
     /// text = "\tkeystroke " expression "\n" short-delay
+    /// held = "\tkey " ( "down" | "up" ) " " word "\n" short-delay
     std::optional<Line> line() {
         Line line;
         const std::string_view before = m_rest;
-        const bool isRead = accept("\tkey code (") ? key(line)
-                            : accept("\tdelay ")   ? pause(line)
-                                                   : accept("\tkeystroke ") && text(line);
+        const bool isRead = accept("\tkey code (")  ? key(line)
+                            : accept("\tdelay ")    ? pause(line)
+                            : accept("\tkey down ") ? held(line, LineKind::down)
+                            : accept("\tkey up ")   ? held(line, LineKind::up)
+                                                    : accept("\tkeystroke ") && text(line);
         if (!isRead || !accept(shortDelay)) return std::nullopt;
         line.size = before.size() - m_rest.size();
         return line;
@@ -98,6 +102,16 @@ class LineReader {
     bool text(Line& line) {
         line.kind = LineKind::text;
         return textOfExpression(restOfLine()).has_value();
+    }
+
+    bool held(Line& line, LineKind kind) {
+        line.kind = kind;
+        const auto* const row =
+            std::find_if(modifierPhrases.begin(), modifierPhrases.end(),
+                         [this](const ModifierPhrase& phrase) { return accept(phrase.line); });
+        if (row == modifierPhrases.end()) return false;
+        line.modifiers = row->modifier;
+        return true;
     }
 
     /// And passes the line end.

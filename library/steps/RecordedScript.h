@@ -28,12 +28,14 @@ enum class LineKind : std::uint8_t {
     key,    ///< key code (1) using {command down}
     pause,  ///< delay 0.5
     text,   ///< keystroke "Hello"
+    down,   ///< key down option
+    up,     ///< key up option
 };
 
 /// One step of a recorded macro: its line of script, and the one of the short delay after it.
 struct Line {
     LineKind kind = LineKind::key;
-    /// Of a key: platform/KeyCodes.h, platform/Modifiers.h.
+    /// Of a key: platform/KeyCodes.h, platform/Modifiers.h. Of a modifier that goes down or up: that one.
     std::uint32_t keyCode = 0;
     std::uint32_t modifiers = 0;
     /// Of a pause.
@@ -43,8 +45,9 @@ struct Line {
     std::size_t size = 0;
 };
 
-/// A script of the shape that recordings have: nothing but key presses, pauses and typed texts one below the
-/// other, each as it is written when it is recorded or edited. It can be edited step by step.
+/// A script of the shape that recordings have: nothing but key presses, held modifiers, pauses and typed
+/// texts one below the other, each as it is written when it is recorded or edited. It can be edited step by
+/// step.
 ///
 /// The edits are splices, so that all lines that are not edited stay as they are, byte for byte. What a
 /// splice makes of the script has the shape again. Lines are counted from 0, `first` and `count` lie within

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "library/steps/TypingKeys.h"
+#include "platform/KeyCodes.h"
 #include "platform/Utf8.h"
 
 namespace steps {
@@ -37,6 +38,11 @@ Step stepOf(const RecordedScript& recording, std::size_t index, TypedTexts& type
         case LineKind::text:
             step.kind = StepKind::text;
             step.text = recording.textOf(line);
+            break;
+        case LineKind::down:
+        case LineKind::up:
+            step.kind = line.kind == LineKind::down ? StepKind::keyDown : StepKind::keyUp;
+            step.keyCode = keycode::none;
             break;
         case LineKind::key:
             step.text = typed.of(line);

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "core/Delay.h"
+#include "core/HeldModifier.h"
 #include "core/KeyCode.h"
 #include "core/Macro.h"
 #include "library/steps/Recording.h"
@@ -185,6 +186,27 @@ TEST(SpliceTest, cutsNoCharacterInTwo) {
             EXPECT_TRUE(part.empty() || (static_cast<unsigned char>(part[0]) & 0xC0U) != 0x80U) << before;
         }
     }
+}
+
+TEST(RecordedScriptTest, readsModifiersThatAreHeldAsMacrosWriteThem) {
+    using Move = actionpack::HeldModifier::Move;
+    Macro macro;
+    const std::vector<std::uint32_t> all = {modifier::command, modifier::shift, modifier::option,
+                                            modifier::control};
+    for (const std::uint32_t held : all) {
+        macro.addAction(createHeldModifier(held, Move::down));
+        macro.addAction(createHeldModifier(held, Move::up));
+    }
+    const RecordedScript script = recorded(macro.script());
+    ASSERT_EQ(script.lines().size(), 8U);
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        EXPECT_EQ(script.lines()[2 * i].kind, LineKind::down);
+        EXPECT_EQ(script.lines()[2 * i + 1].kind, LineKind::up);
+        EXPECT_EQ(script.lines()[2 * i].modifiers, all[i]);
+        EXPECT_EQ(script.lines()[2 * i + 1].modifiers, all[i]);
+    }
+    for (const char* other : {"\tkey down \"a\"\n", "\tkey down options\n", "\tkey down {option}\n"})
+        EXPECT_FALSE(RecordedScript::parse(recordingOf(std::string(other) + "delay 0.01\n"))) << other;
 }
 
 }  // namespace

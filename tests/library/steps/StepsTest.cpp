@@ -28,6 +28,8 @@ std::vector<std::string> stepsOf(const std::string& lines) {
         if (step.kind == StepKind::pause) word = "pause " + std::to_string(step.seconds).substr(0, 4);
         if (step.kind == StepKind::key)
             word = "key " + std::to_string(step.keyCode) + " " + std::to_string(step.modifiers);
+        if (step.kind == StepKind::keyDown) word = "down " + std::to_string(step.modifiers);
+        if (step.kind == StepKind::keyUp) word = "up " + std::to_string(step.modifiers);
         if (step.repeats > 1) word += " x" + std::to_string(step.repeats);
         words.push_back(word + " [" + std::to_string(step.first) + "+" + std::to_string(step.count) + "]");
     }
@@ -105,6 +107,12 @@ TEST(StepsTest, theLayoutIsAskedOnceForEachKey) {
     const CountingLayout layout;
     steps::stepsOf(recorded(recordingOf(lines)), layout);
     EXPECT_EQ(layout.questions(), 100);
+}
+
+TEST(StepsTest, modifiersThatAreHeldAreStepsAroundTheKeys) {
+    const std::string tab = keyLines(48, modifier::option);
+    EXPECT_EQ(stepsOf("\tkey down option\ndelay 0.01\n" + tab + tab + "\tkey up option\ndelay 0.01\n"),
+              (Words{"down 2048 [0+1]", "key 48 2048 x2 [1+2]", "up 2048 [3+1]"}));
 }
 
 }  // namespace
