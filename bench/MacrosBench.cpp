@@ -119,7 +119,7 @@ double slowestLetter(MacrosWindow& window, const std::string& word) {
     for (const char letter : word) {
         typed += QLatin1Char(letter);
         slowest = std::max(slowest, milliseconds([&] {
-                               window.findChild<QLineEdit*>()->setText(typed);
+                               window.findChild<QLineEdit*>(QStringLiteral("search"))->setText(typed);
                                QCoreApplication::processEvents();
                            }));
     }

@@ -36,7 +36,9 @@ std::string nameFor(std::string_view path) {
 
 LibraryHotKeys::LibraryHotKeys(MacroLibrary& library, HotKeys& hotKeys, HotKeyId firstId, Play play)
     : m_library(library), m_hotKeys(hotKeys), m_nextId(firstId), m_play(std::move(play)) {
-    m_hotKeys.install({}, [this](HotKeyId id) {
+    // Its modifiers are held for its sake, which is no tap of theirs.
+    const auto pressed = [](HotKeyId) { engineState().modifierHolds.addOther(); };
+    m_hotKeys.install(pressed, [this](HotKeyId id) {
         const auto row = m_rows.find(id);
         if (row != m_rows.end() && engineState().hotKeysEnabled) m_play(std::string(row->second.path));
     });
@@ -86,6 +88,16 @@ std::optional<HotKeyConflict> LibraryHotKeys::conflictOf(KeyCombo hotKey, const 
         }
     }
     return std::nullopt;
+}
+
+std::string LibraryHotKeys::macroWith(KeyCombo hotKey) const {
+    // Settings are not read before there are macros that they belong to.
+    if (!m_library.isRead() || hotKey.code == KeyCombo().code) return {};
+    const Combination combination = combinationOf(hotKey);
+    for (const auto& [path, wish] : wishes()) {
+        if (wish == combination) return path;
+    }
+    return {};
 }
 
 LibraryHotKeys::Combination LibraryHotKeys::combinationOf(KeyCombo hotKey) {

@@ -72,6 +72,10 @@ class LibraryHotKeys : public LibraryListener {
     /// nobody has. Whether another program has it shows when it is asked for.
     std::optional<HotKeyConflict> conflictOf(KeyCombo hotKey, const std::string& path) const;
 
+    /// The path of a macro of the library that has the combination, in control flags, whether it works or
+    /// not; the first of several, empty if there is none.
+    std::string macroWith(KeyCombo hotKey) const;
+
     /// The combinations of shortcuts may have become others.
     void followShortcuts() { reconsider(); }
 

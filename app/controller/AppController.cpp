@@ -6,6 +6,7 @@
 #include <chrono>
 
 #include "app/dialogs/AlertTexts.h"
+#include "app/library/LibraryController.h"
 #include "app/macros/MacrosWindow.h"
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/SplashWindow.h"
@@ -51,7 +52,8 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_updateDesk(services.updateService, services.workspace, m_dialogs),
       m_helpDesk(services.workspace, services.systemFacts, m_stage),
       m_filesDesk(services.macroFiles, services.notifications, m_scriptNotices, m_dialogs, m_gate, m_stage),
-      m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, m_dialogs, m_stage),
+      m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, library.hotKeys(),
+                        m_dialogs, m_stage),
       m_accessDesk(services.eventMonitor, services.notifications, m_dialogs, m_overlayDesk),
       m_recordHereDesk(services.eventMonitor, services.hotKeys, m_preferencesDesk.model.stop, m_stage),
       m_macrosDesk({library, services.macroFiles, services.keyboardLayout, m_gate, m_stage,

@@ -39,7 +39,9 @@ std::map<std::string, QString> hotKeyTexts(const MacroLibrary& library, const Li
 
 }  // namespace
 
-QString macroName(const std::string& path) { return decoded(LibraryEntry{path}.name()); }
+QString macroName(const std::string& path) {
+    return path.empty() ? QString() : decoded(LibraryEntry{path}.name());
+}
 
 std::vector<MacroListItem> libraryItems(const MacroLibrary& library, const LibraryHotKeys& hotKeys,
                                         const std::map<std::string, std::string>& unsaved) {

@@ -10,7 +10,7 @@
 class LibraryHotKeys;
 class MacroLibrary;
 
-/// The name of a macro, whose path may be in any encoding.
+/// The name of a macro, whose path may be in any encoding; empty for none.
 QString macroName(const std::string& path);
 
 /// The macros of the library as the window lists them, those of no group first, then by groups and names; and

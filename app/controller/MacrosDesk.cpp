@@ -8,13 +8,15 @@
 
 #include "app/controller/Gate.h"
 #include "app/controller/LibraryItems.h"
+#include "app/controller/ShortcutNotices.h"
 #include "app/controller/Stage.h"
 #include "app/library/LibraryController.h"
 #include "app/macros/KeysView.h"
 #include "app/macros/MacroEditor.h"
 #include "app/macros/MacroListModel.h"
+#include "app/macros/MacroSettingsRow.h"
 #include "app/macros/MacrosWindow.h"
-#include "core/Macro.h"
+#include "core/MacroManager.h"
 #include "engine/EngineState.h"
 #include "engine/MacroPlayer.h"
 #include "library/steps/Steps.h"
@@ -74,8 +76,10 @@ void MacrosDesk::connectTimers() {
     m_patience.setInterval(patience);
     connect(&m_patience, &QTimer::timeout, this,
             [this] { m_window->tell(tr("The macro is still being read: its folder does not answer.")); });
-    connect(&m_means.library, &LibraryController::hotKeyChanged, this, [this] {
-        if (m_window) m_showing.start();
+    connect(&m_means.library, &LibraryController::hotKeyChanged, this, [this](const QByteArray& path) {
+        if (!m_window) return;
+        m_showing.start();
+        if (path.toStdString() == m_window->chosen()) showSettings();
     });
 }
 
@@ -105,6 +109,17 @@ void MacrosDesk::connectWindow() {
     connect(window, &MacrosWindow::renameWanted, this, &MacrosDesk::rename);
     connect(window, &MacrosWindow::deleteWanted, this, &MacrosDesk::remove);
     connect(window, &MacrosWindow::actionWanted, this, &MacrosDesk::restore);
+    connect(window, &MacrosWindow::keepWanted, this, &MacrosDesk::keep);
+    connect(&window->settings(), &MacroSettingsRow::hotKeyWanted, this, &MacrosDesk::setHotKey);
+    connect(&window->settings(), &MacroSettingsRow::playWanted, this, &MacrosDesk::setPlay);
+    connect(&window->settings(), &MacroSettingsRow::recordingChanged, this, &MacrosDesk::holdHotKeys);
+    window->setRecordings([this] {
+        std::vector<MacrosWindow::Recording> recordings;
+        for (const int id : m_recordings)
+            recordings.push_back({id, QString::fromStdString(MacroManager::macro(id)->displayText())});
+        return recordings;
+    });
+    window->setHasRecordings(!m_recordings.empty());
 }
 
 void MacrosDesk::show() {
@@ -128,6 +143,8 @@ void MacrosDesk::libraryChanged(const LibraryChanges& changes) {
     m_showing.start();
     std::vector<std::string> others = changes.changed;
     for (const FolderChanges::Rename& rename : changes.renamed) others.push_back(rename.to);
+    if (std::binary_search(changes.settings.begin(), changes.settings.end(), m_window->chosen()))
+        showSettings();
     for (const std::string& path : others) {
         m_window->list().forgetContent(path);
         if (path == m_window->chosen()) m_reader.readFirst(path, m_library.fileOf(path));
@@ -147,6 +164,7 @@ void MacrosDesk::followRenames(const std::vector<FolderChanges::Rename>& renamed
     const auto rename = std::find_if(renamed.begin(), renamed.end(), isIts);
     if (rename == renamed.end()) return;
     m_window->noteRenamed(rename->to);
+    showSettings();
     // What is being read has another name now.
     if (m_opening == rename->from) openMacro(rename->to);
 }
@@ -174,6 +192,13 @@ void MacrosDesk::showItems() {
     } else {
         m_window->choose(path);
     }
+}
+
+void MacrosDesk::showSettings() {
+    const std::string& path = m_window->chosen();
+    const MacroSettings settings = m_library.settings(path);
+    m_window->settings().showSettings(settings.hotKey, settings.play);
+    m_window->settings().setNotice(macroHotKeyNotice(m_means.library.hotKeys().state(path)));
 }
 
 void MacrosDesk::readContents() {
@@ -206,6 +231,7 @@ void MacrosDesk::tellFaults() {
 
 void MacrosDesk::openMacro(const std::string& path) {
     m_opening = path;
+    showSettings();
     if (path.empty()) {
         m_patience.stop();
         m_window->showMacro({}, {});
@@ -264,6 +290,26 @@ void MacrosDesk::tellOfUnsaved() {
 
 // What the user asks for
 
+void MacrosDesk::setHotKey(KeyCombo hotKey) {
+    MacroSettings settings = m_library.settings(m_window->chosen());
+    settings.hotKey = hotKey;
+    m_library.setSettings(m_window->chosen(), settings);
+}
+
+void MacrosDesk::setPlay(const PlayOptions& play) {
+    MacroSettings settings = m_library.settings(m_window->chosen());
+    settings.play = play;
+    m_library.setSettings(m_window->chosen(), settings);
+}
+
+/// Whoever presses a combination to give it to a macro does not want what it does now.
+void MacrosDesk::holdHotKeys(bool holds) {
+    if (holds) m_hotKeysWereOn = engineState().hotKeysEnabled;
+    engineState().hotKeysEnabled = !holds && m_hotKeysWereOn;
+}
+
+void MacrosDesk::keep(int macroId) { makeMacro(MacroManager::macro(macroId)->script()); }
+
 void MacrosDesk::save() {
     const std::string path = m_window->chosen();
     const std::string text = m_window->editor().text();
@@ -287,6 +333,8 @@ void MacrosDesk::record(Purpose purpose) {
 }
 
 void MacrosDesk::takeRecording(const Macro& macro) {
+    m_recordings.push_front(macro.macroId());
+    if (m_window) m_window->setHasRecordings(true);
     const Purpose purpose = std::exchange(m_purpose, Purpose::none);
     if (purpose == Purpose::none) return;
     m_means.stage.unhide();

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <deque>
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,6 +13,8 @@
 #include "app/macros/TextReader.h"
 #include "app/macros/UnsavedTexts.h"
 #include "library/LibraryListener.h"
+#include "platform/PlayOptions.h"
+#include "prefs/KeyCombo.h"
 
 class Gate;
 class KeyboardLayout;
@@ -65,6 +68,11 @@ class MacrosDesk : public QObject, private LibraryListener {
     void followRenames(const std::vector<FolderChanges::Rename>& renamed);
     void followGone(const std::vector<std::string>& gone);
     void showItems();
+    /// Of the chosen macro: what belongs to it beside its text.
+    void showSettings();
+    void setHotKey(KeyCombo hotKey);
+    void setPlay(const PlayOptions& play);
+    void holdHotKeys(bool holds);
     void readContents();
     /// For the search.
     void takeContent(const std::string& path, const Result<std::string>& text);
@@ -80,6 +88,7 @@ class MacrosDesk : public QObject, private LibraryListener {
 
     void save();
     void record(Purpose purpose);
+    void keep(int macroId);
     void makeMacro(const std::string& script);
     void play();
     void duplicate(const std::string& path);
@@ -108,4 +117,8 @@ class MacrosDesk : public QObject, private LibraryListener {
     std::string m_awaited;
     bool m_namesAwaited = false;
     Purpose m_purpose = Purpose::none;
+    /// Of the history, the latest first.
+    std::deque<int> m_recordings;
+    /// Whether hot keys act when the field of the hot key is left.
+    bool m_hotKeysWereOn = true;
 };

@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "app/controller/LibraryItems.h"
 #include "app/controller/ShortcutNotices.h"
 #include "app/controller/Stage.h"
 #include "app/dialogs/AlertTexts.h"
@@ -15,6 +16,7 @@
 #include "core/KeyNames.h"
 #include "engine/EngineState.h"
 #include "engine/HotKeyCenter.h"
+#include "library/LibraryHotKeys.h"
 #include "platform/Features.h"
 #include "platform/LoginItems.h"
 #include "platform/SettingsStore.h"
@@ -37,8 +39,13 @@ void emptyIfEqual(ShortcutModel& model, const ShortcutModel& changed) {
 }  // namespace
 
 PreferencesDesk::PreferencesDesk(SettingsStore& store, LoginItems& loginItems, HotKeys& hotKeys,
-                                 Dialogs& dialogs, Stage& stage)
-    : m_store(store), m_loginItems(loginItems), m_hotKeys(hotKeys), m_dialogs(dialogs), m_stage(stage) {
+                                 LibraryHotKeys& macroHotKeys, Dialogs& dialogs, Stage& stage)
+    : m_store(store),
+      m_loginItems(loginItems),
+      m_hotKeys(hotKeys),
+      m_macroHotKeys(macroHotKeys),
+      m_dialogs(dialogs),
+      m_stage(stage) {
     model.offersUpdateCheck = features::updateCheck;
     connect(&model.launchOnLogin, &ToggleModel::changed, this, &PreferencesDesk::noteLoginTick);
 }
@@ -80,6 +87,8 @@ void PreferencesDesk::save() {
     installLoginItem(model.launchOnLogin.isOn());
     const Result<> synchronized = m_store.synchronize();
     if (!synchronized) tellSaveFailure(alerts::settingsNotSaved(synchronized.error()));
+    // Macros give way first.
+    m_macroHotKeys.followShortcuts();
     registerHotKeys();
     updateNotices();
 }
@@ -175,7 +184,8 @@ void PreferencesDesk::updateNotices() {
         const ShortcutRow& row = shortcutRows[i];
         facts[i] = {.field = model.shortcuts[i].keyCombo(),
                     .asked = tableCombination(std::string(row.name)),
-                    .state = m_hotKeys.state(row.id)};
+                    .state = m_hotKeys.state(row.id),
+                    .macro = macroName(m_macroHotKeys.macroWith(model.shortcuts[i].keyCombo()))};
     }
     const ShortcutNoticeTexts texts = shortcutNotices(facts);
     for (std::size_t i = 0; i < texts.size(); ++i) model.shortcuts[i].setNotice(texts[i]);

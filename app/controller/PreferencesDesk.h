@@ -10,6 +10,7 @@
 #include "app/shortcuts/PreferencesModel.h"
 
 class HotKeys;
+class LibraryHotKeys;
 class LoginItems;
 class PreferencesPanel;
 class QPushButton;
@@ -24,8 +25,8 @@ class PreferencesDesk : public QObject {
 
   public:
     /// All outlive the desk.
-    PreferencesDesk(SettingsStore& store, LoginItems& loginItems, HotKeys& hotKeys, Dialogs& dialogs,
-                    Stage& stage);
+    PreferencesDesk(SettingsStore& store, LoginItems& loginItems, HotKeys& hotKeys,
+                    LibraryHotKeys& macroHotKeys, Dialogs& dialogs, Stage& stage);
     ~PreferencesDesk() override;
 
     PreferencesModel model;
@@ -73,6 +74,7 @@ class PreferencesDesk : public QObject {
     SettingsStore& m_store;
     LoginItems& m_loginItems;
     HotKeys& m_hotKeys;
+    LibraryHotKeys& m_macroHotKeys;
     Dialogs& m_dialogs;
     Stage& m_stage;
     std::unique_ptr<PreferencesPanel> m_panel;

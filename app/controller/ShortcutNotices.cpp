@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 
+#include "app/controller/LibraryItems.h"
 #include "app/shortcuts/CombinationText.h"
 #include "app/shortcuts/ShortcutTitles.h"
 
@@ -33,25 +34,35 @@ QString refusal(const ShortcutFacts& refused, const AllShortcutFacts& all) {
                                      : tr("Already used by %1.").arg(command);
 }
 
+/// What the desktop has made of a combination that it has not refused.
+QString answerText(HotKeyStatus status, const std::string& trigger) {
+    if (status == HotKeyStatus::pending) return tr("The desktop has not answered yet.");
+    if (status != HotKeyStatus::changed) return {};
+    return trigger.empty() ? tr("Set in the desktop's settings.")
+                           : tr("Set in the desktop's settings: %1").arg(QString::fromStdString(trigger));
+}
+
 QString noticeFor(const ShortcutFacts& shortcut, const AllShortcutFacts& all) {
     if (outlivesItsField(shortcut)) {
         return tr("%1 still works until Keyrill restarts.").arg(combinationText(shortcut.asked));
     }
     if (shortcut.field == KeyCombo()) return {};
-    switch (shortcut.state.status) {
-        case HotKeyStatus::refused:
-            return refusal(shortcut, all);
-        case HotKeyStatus::pending:
-            return tr("The desktop has not answered yet.");
-        case HotKeyStatus::changed:
-            return shortcut.state.trigger.empty() ? tr("Set in the desktop's settings.")
-                                                  : tr("Set in the desktop's settings: %1")
-                                                        .arg(QString::fromStdString(shortcut.state.trigger));
-        case HotKeyStatus::unset:
-        case HotKeyStatus::registered:
+    if (shortcut.state.status == HotKeyStatus::refused) return refusal(shortcut, all);
+    if (!shortcut.macro.isEmpty())
+        return tr("Already used by macro \"%1\", which gives way.").arg(shortcut.macro);
+    return answerText(shortcut.state.status, shortcut.state.trigger);
+}
+
+QString conflictText(const HotKeyConflict& conflict) {
+    switch (conflict.with) {
+        case HotKeyConflict::With::shortcut:
+            return tr("Already used by %1.").arg(shortcutTitles(conflict.shortcut).command);
+        case HotKeyConflict::With::macro:
+            return tr("Already used by macro \"%1\".").arg(macroName(conflict.macro));
+        case HotKeyConflict::With::other:
             break;
     }
-    return {};
+    return conflict.error ? QString::fromStdString(conflict.error->message) : QString();
 }
 
 }  // namespace
@@ -61,4 +72,9 @@ ShortcutNoticeTexts shortcutNotices(const AllShortcutFacts& facts) {
     std::transform(facts.begin(), facts.end(), texts.begin(),
                    [&facts](const ShortcutFacts& shortcut) { return noticeFor(shortcut, facts); });
     return texts;
+}
+
+QString macroHotKeyNotice(const MacroHotKeyState& state) {
+    if (state.conflict) return conflictText(*state.conflict);
+    return answerText(state.status, state.trigger);
 }

@@ -4,6 +4,7 @@
 #include <QString>
 #include <array>
 
+#include "library/LibraryHotKeys.h"
 #include "platform/HotKeys.h"
 #include "prefs/KeyCombo.h"
 #include "prefs/Shortcuts.h"
@@ -16,6 +17,8 @@ struct ShortcutFacts {
     KeyCombo asked;
     /// What became of that.
     HotKeyState state;
+    /// The name of a macro that has the combination too; empty for none.
+    QString macro = {};
 };
 
 /// In the order of shortcutRows.
@@ -25,3 +28,6 @@ using ShortcutNoticeTexts = std::array<QString, shortcutRows.size()>;
 /// What stands beside each field, empty for nothing: why a combination does not work; that one which was
 /// cleared goes on working; which cleared one another has to wait for.
 ShortcutNoticeTexts shortcutNotices(const AllShortcutFacts& facts);
+
+/// The same of a macro's hot key.
+QString macroHotKeyNotice(const MacroHotKeyState& state);

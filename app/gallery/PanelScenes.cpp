@@ -7,6 +7,7 @@
 #include "app/gallery/Examples.h"
 #include "app/gallery/Scenes.h"
 #include "app/macros/MacroEditor.h"
+#include "app/macros/MacroSettingsRow.h"
 #include "app/macros/MacrosWindow.h"
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/overlay/RecorderWindow.h"
@@ -15,12 +16,14 @@
 #include "app/panels/AboutPanel.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/panels/WelcomePanel.h"
+#include "app/shortcuts/CombinationText.h"
 #include "app/shortcuts/PreferencesModel.h"
 #include "app/shortcuts/SRRecorderControl.h"
 #include "app/tray/ControlWindow.h"
 #include "app/tray/StatusItem.h"
 #include "app/tray/StatusMenu.h"
 #include "core/Macro.h"
+#include "platform/Modifiers.h"
 #include "platform/Services.h"
 
 namespace {
@@ -64,16 +67,23 @@ void takeMacros(Camera& camera) {
          "-- Asks for a name, and types it.\ntell application \"System Events\"\n\tdisplay dialog \"Whose "
          "name?\" default answer \"Ann\"\n\tset person to text returned of result\n\trepeat 3 times\n"
          "\t\tkeystroke person & \", \"\n\t\tkey code (36) usin {shift down}\n\tend repeat\nend tell\n"}};
-    window.setItems({{"Greeting", QStringLiteral("Greeting"), {}},
+    const KeyCombo hotKey{.flags = controlflag::control | controlflag::command, .code = 18};
+    window.setItems({{"Greeting", QStringLiteral("Greeting"), {}, combinationText(hotKey)},
                      {"Signature", QStringLiteral("Signature"), {}},
                      {"work/Mail", QStringLiteral("Mail"), QStringLiteral("work")},
                      {"work/Names", QStringLiteral("Names"), QStringLiteral("work")}});
     QObject::connect(&window, &MacrosWindow::chosenChanged,
                      [&](const std::string& path) { window.showMacro(scripts[path], scripts[path]); });
     window.choose("Greeting");
+    window.setHasRecordings(true);
+    window.settings().showSettings(hotKey, {.times = {3}, .speed = 1.5});
     camera.take(window, QStringLiteral("macros"));
     window.choose("work/Names");
+    window.settings().showSettings(hotKey, {.times = PlayTimes::untilStopped()});
+    window.settings().setNotice(
+        QCoreApplication::translate("ShortcutNotices", "Already used by macro \"%1\".").arg("Greeting"));
     camera.takeShown({&window}, QStringLiteral("macros-other-script"));
+    window.settings().setNotice({});
     window.editor().showScriptTab(true);
     camera.takeShown({&window}, QStringLiteral("macros-script"));
     window.tell(QCoreApplication::translate("MacrosDesk", "The macro is in the trash."),

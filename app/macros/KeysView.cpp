@@ -29,6 +29,7 @@ KeysView::KeysView(const KeyboardLayout& layout, QWidget* parent)
                            "under Script."))),
       m_notice(new NoticeLine) {
     m_explanation->setMinimumWidth(0);
+    m_explanation->hide();
     m_list->setModel(&m_model);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setUniformItemSizes(true);
@@ -97,7 +98,7 @@ void KeysView::makeActions(QToolBar& bar) {
 void KeysView::showScript(const std::string& script) {
     const int row = m_list->currentIndex().row();
     m_model.showScript(script);
-    m_explanation->setVisible(!m_model.isRecording());
+    m_explanation->setVisible(!m_model.isRecording() && !script.empty());
     m_notice->setNotice(m_model.notice());
     const int last = m_model.rowCount() - 1;
     if (last >= 0 && row >= 0) m_list->setCurrentIndex(m_model.index(std::min(row, last)));

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
@@ -14,6 +15,7 @@
 
 #include "app/macros/MacroEditor.h"
 #include "app/macros/MacroListModel.h"
+#include "app/macros/MacroSettingsRow.h"
 #include "app/widgets/NoticeLine.h"
 #include "app/widgets/PanelText.h"
 
@@ -67,6 +69,7 @@ MacrosWindow::~MacrosWindow() {
 
 QWidget* MacrosWindow::makeList() {
     m_search = new QLineEdit;
+    m_search->setObjectName(QStringLiteral("search"));
     m_search->setPlaceholderText(tr("Search"));
     m_search->setAccessibleName(tr("Search macros"));
     m_search->setClearButtonEnabled(true);
@@ -99,7 +102,34 @@ QWidget* MacrosWindow::makeList() {
     box->addWidget(m_empty);
     box->addWidget(m_list, 1);
     box->addWidget(recordButton);
+    box->addWidget(makeKeepButton());
     return side;
+}
+
+QPushButton* MacrosWindow::makeKeepButton() {
+    m_keep =
+        makeButton(tr("Keep Recordin&g..."), tr("Keep a recording of the history as a macro, by a name"));
+    m_keep->setEnabled(false);
+    m_keepMenu = new QMenu(m_keep);
+    m_keepMenu->setToolTipsVisible(true);
+    m_keep->setMenu(m_keepMenu);
+    connect(m_keepMenu, &QMenu::aboutToShow, this, &MacrosWindow::fillKeepMenu);
+    return m_keep;
+}
+
+void MacrosWindow::setRecordings(std::function<std::vector<Recording>()> recordings) {
+    m_recordings = std::move(recordings);
+}
+
+void MacrosWindow::setHasRecordings(bool hasRecordings) { m_keep->setEnabled(hasRecordings); }
+
+void MacrosWindow::fillKeepMenu() {
+    m_keepMenu->clear();
+    for (const Recording& recording : m_recordings()) {
+        const QAction* const item =
+            m_keepMenu->addAction(QString(recording.title).replace(u'&', QStringLiteral("&&")));
+        connect(item, &QAction::triggered, this, [this, id = recording.macroId] { emit keepWanted(id); });
+    }
 }
 
 QWidget* MacrosWindow::makeEditor() {
@@ -116,10 +146,12 @@ QWidget* MacrosWindow::makeEditor() {
     told->addWidget(m_told, 1);
     told->addWidget(m_action);
 
+    m_settings = new MacroSettingsRow;
     auto* side = new QWidget;
     auto* box = new QVBoxLayout(side);
     box->setContentsMargins(0, 0, 0, 0);
     box->addWidget(m_editor, 1);
+    box->addWidget(m_settings);
     box->addLayout(told);
     box->addLayout(makeButtons());
     return side;
@@ -248,6 +280,7 @@ void MacrosWindow::showFault(const QString& why) {
 void MacrosWindow::updateButtons() {
     const bool isChosen = !m_chosen.empty();
     m_editor->setEnabled(m_hasText);
+    m_settings->setEnabled(isChosen);
     m_play->setEnabled(m_hasText);
     m_save->setEnabled(m_hasText && m_editor->isChanged());
     m_duplicate->setEnabled(isChosen);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QTimer>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,11 +12,13 @@
 class KeyboardLayout;
 class MacroEditor;
 class MacroListModel;
+class MacroSettingsRow;
 class NoticeLine;
 class QBoxLayout;
 class QLabel;
 class QLineEdit;
 class QListView;
+class QMenu;
 class QPushButton;
 
 /// The macros that the user keeps: on the left their names, to search; on the right the chosen one, to read,
@@ -54,6 +57,17 @@ class MacrosWindow : public Panel {
     /// The chosen macro cannot be read.
     void showFault(const QString& why);
     MacroEditor& editor() { return *m_editor; }
+    /// Of the chosen macro.
+    MacroSettingsRow& settings() { return *m_settings; }
+
+    /// What the history holds.
+    struct Recording {
+        int macroId = 0;
+        QString title;
+    };
+    /// Those that can be kept, as they are when the user asks for them: the latest first.
+    void setRecordings(std::function<std::vector<Recording>()> recordings);
+    void setHasRecordings(bool hasRecordings);
 
     /// A line at the lower edge until the next; `action` is the title of its button, empty for none.
     void tell(const QString& text, const QString& action = {});
@@ -74,6 +88,8 @@ class MacrosWindow : public Panel {
     /// The button, before it.
     void playPressed();
     void recordWanted();
+    /// Of the history.
+    void keepWanted(int macroId);
     /// Keys for KeysView::insertLines().
     void keysWanted();
     void duplicateWanted(const std::string& path);
@@ -87,6 +103,8 @@ class MacrosWindow : public Panel {
 
   private:
     QWidget* makeList();
+    QPushButton* makeKeepButton();
+    void fillKeepMenu();
     QWidget* makeEditor();
     QLayout* makeButtons();
     QWidget* makeCount();
@@ -102,7 +120,11 @@ class MacrosWindow : public Panel {
     QLineEdit* m_search = nullptr;
     QListView* m_list = nullptr;
     QLabel* m_empty = nullptr;
+    QPushButton* m_keep = nullptr;
+    QMenu* m_keepMenu = nullptr;
+    std::function<std::vector<Recording>()> m_recordings;
     MacroEditor* m_editor = nullptr;
+    MacroSettingsRow* m_settings = nullptr;
     NoticeLine* m_warning = nullptr;
     QLabel* m_told = nullptr;
     QPushButton* m_action = nullptr;

@@ -2,6 +2,8 @@
 #include "library/LibraryHotKeys.h"
 
 #include "engine/HotKeyCenter.h"
+#include "engine/KeyRecorder.h"
+#include "engine/MacroPlayer.h"
 #include "library/LibraryTest.h"
 #include "platform/Modifiers.h"
 #include "support/Keys.h"
@@ -250,6 +252,28 @@ TEST_F(LibraryHotKeysTest, areGivenFreeAtTheEnd) {
     hotKeys.reset();
     EXPECT_EQ(registered(), Combinations{});
     userStrikes(key::one);
+}
+
+TEST_F(LibraryHotKeysTest, tellWhichMacroHasACombination) {
+    constexpr KeyCombo controlSuperOne{.flags = 0x140000, .code = 18};
+    addMacro("b.keyrill", key::one);
+    addMacro("a.keyrill", key::one);
+    EXPECT_EQ(hotKeys->macroWith(controlSuperOne), "") << "nothing is known yet";
+    open();
+    EXPECT_EQ(hotKeys->macroWith(controlSuperOne), "a.keyrill");
+    EXPECT_EQ(hotKeys->macroWith({.flags = 0x100000, .code = 18}), "");
+    EXPECT_EQ(hotKeys->macroWith({}), "");
+}
+
+TEST_F(LibraryHotKeysTest, areNoTapsOfTheModifiersThatAreHeldForThem) {
+    addMacro("a.keyrill", key::one);
+    open();
+    installKeyRecorder();
+    state().recordsModifierKeys = true;
+    platform().eventMonitor.setShowsModifierKeys(true);
+    toggleRecording();
+    userStrikes(key::one);
+    EXPECT_EQ(state().recordingMacro->actionCount(), 0U);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QListView>
+#include <QMenu>
 #include <QPushButton>
 #include <QTimer>
 #include <filesystem>
@@ -16,8 +17,10 @@
 #include "app/macros/KeysView.h"
 #include "app/macros/MacroEditor.h"
 #include "app/macros/MacroListModel.h"
+#include "app/macros/MacroSettingsRow.h"
 #include "app/macros/MacrosWindow.h"
 #include "app/macros/ScriptEditor.h"
+#include "app/shortcuts/SRRecorderControl.h"
 #include "app/widgets/NoticeLine.h"
 #include "core/MacroManager.h"
 #include "platform/Modifiers.h"
@@ -386,6 +389,107 @@ TEST_F(MacrosDeskTest, aFileThatCannotBeReadSaysSo) {
     choose("Greeting");
     EXPECT_NE(warning().find("Greeting.keyrill"), std::string::npos) << warning();
     EXPECT_FALSE(button("Play").isEnabled());
+}
+
+/// What belongs to a macro beside its text.
+class MacroSettingsDeskTest : public MacrosDeskTest {
+  protected:
+    static constexpr KeyCombo controlSuperOne{.flags = 0x140000, .code = 18};
+
+    Record kept(const std::string& name) {
+        platform().macroRecords.endTurn();
+        const auto& stored = platform().macroRecords.stored();
+        const auto record = stored.find(name + ".keyrill");
+        return record == stored.end() ? Record() : record->second;
+    }
+    std::string notice() {
+        const auto* line = window().settings().findChild<NoticeLine*>();
+        return line->isVisible() ? line->notice().toStdString() : std::string();
+    }
+    std::string shownHotKey() {
+        return window().settings().findChild<SRRecorderControl*>()->displayText().toStdString();
+    }
+    std::string line(const std::string& name) {
+        const QModelIndex index = window().list().indexOf(name + ".keyrill");
+        return window().list().data(index, Qt::DisplayRole).toString().toStdString();
+    }
+};
+
+TEST_F(MacroSettingsDeskTest, aHotKeyIsKeptRegisteredAndListedAtOnce) {
+    choose("Greeting");
+    emit window().settings().hotKeyWanted(controlSuperOne);
+    EXPECT_EQ(kept("Greeting"), (Record{{"hotKeyCode", "18"}, {"hotKeyFlags", "1310720"}}));
+    EXPECT_EQ(hotKeys.registered().at(1000), (std::pair<std::uint32_t, std::uint32_t>{18, 0x1100}));
+    EXPECT_TRUE(soon([this] { return line("Greeting") == "Greeting (Ctrl+Super+1)"; })) << line("Greeting");
+    EXPECT_EQ(notice(), "");
+    choose("work/Mail");
+    EXPECT_EQ(shownHotKey(), "Not set");
+    choose("Greeting");
+    EXPECT_EQ(shownHotKey(), "Ctrl+Super+1");
+}
+
+TEST_F(MacroSettingsDeskTest, aHotKeyThatSomebodyElseHasSaysWho) {
+    choose("Greeting");
+    emit window().settings().hotKeyWanted(controlSuperOne);
+    choose("work/Mail");
+    emit window().settings().hotKeyWanted(controlSuperOne);
+    EXPECT_EQ(notice(), "Already used by macro \"Greeting\".");
+    setHotKey("record", 18, 0x1100);
+    shelf.followShortcuts();
+    EXPECT_EQ(notice(), "Already used by Start Recording.");
+    EXPECT_TRUE(soon([this] { return line("Greeting") == "Greeting"; })) << line("Greeting");
+}
+
+TEST_F(MacroSettingsDeskTest, timesAndSpeedAreKeptAndPlayed) {
+    choose("Greeting");
+    emit window().settings().playWanted({.times = {2}, .speed = 0.5});
+    EXPECT_EQ(kept("Greeting"), (Record{{"times", "2"}, {"speed", "0.5"}}));
+    emit window().playWanted();
+    EXPECT_EQ(platform().scripting.runs(), (std::vector<std::string>{a, a}));
+    EXPECT_EQ(platform().scripting.speeds(), (std::vector<double>{0.5, 0.5}));
+}
+
+TEST_F(MacroSettingsDeskTest, theSettingsGoWithAMacroThatOthersRename) {
+    choose("Greeting");
+    emit window().settings().hotKeyWanted(controlSuperOne);
+    std::filesystem::rename(file("Greeting"), file("Hello"));
+    EXPECT_TRUE(soon([this] { return window().chosen() == "Hello.keyrill"; }));
+    EXPECT_EQ(shownHotKey(), "Ctrl+Super+1");
+    EXPECT_TRUE(soon([this] { return line("Hello") == "Hello (Ctrl+Super+1)"; })) << line("Hello");
+}
+
+TEST_F(MacroSettingsDeskTest, hotKeysRestWhileTheFieldTakesOne) {
+    choose("Greeting");
+    emit window().settings().recordingChanged(true);
+    EXPECT_FALSE(state().hotKeysEnabled);
+    emit window().settings().recordingChanged(false);
+    EXPECT_TRUE(state().hotKeysEnabled);
+    // As long as the preferences are open they rest anyway.
+    state().hotKeysEnabled = false;
+    emit window().settings().recordingChanged(true);
+    emit window().settings().recordingChanged(false);
+    EXPECT_FALSE(state().hotKeysEnabled);
+}
+
+TEST_F(MacrosDeskTest, aRecordingOfTheHistoryIsKeptUnderAName) {
+    EXPECT_FALSE(button("Keep Recording...").isEnabled());
+    for (const std::string& text : {a, ab}) {
+        auto macro = MacroManager::createMacro();
+        macro->setScript(text);
+        desk.takeRecording(*macro);
+    }
+    EXPECT_TRUE(button("Keep Recording...").isEnabled());
+    QMenu& menu = *button("Keep Recording...").menu();
+    emit menu.aboutToShow();
+    ASSERT_EQ(menu.actions().size(), 2);
+    // The latest is the first.
+    menu.actions().first()->trigger();
+    EXPECT_TRUE(soon([this] { return window().chosen() == "New Macro.keyrill"; }));
+    EXPECT_EQ(contentOf(file("New Macro")), ab);
+    emit menu.aboutToShow();
+    menu.actions().last()->trigger();
+    EXPECT_TRUE(soon([this] { return window().chosen() == "New Macro 2.keyrill"; }));
+    EXPECT_EQ(contentOf(file("New Macro 2")), a);
 }
 
 }  // namespace

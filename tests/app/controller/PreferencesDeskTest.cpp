@@ -6,7 +6,9 @@
 
 #include "app/AppTest.h"
 #include "app/controller/Stage.h"
+#include "app/library/LibraryController.h"
 #include "app/panels/PreferencesPanel.h"
+#include "platform/HotKeyShares.h"
 #include "prefs/Settings.h"
 
 namespace {
@@ -16,7 +18,16 @@ class PreferencesDeskTest : public EngineTest {
     FakeWindows windows{platform().journal};
     FakeDialogs dialogs{platform().journal};
     Stage stage{windows, [] { return std::vector<QWidget*>{}; }};
-    PreferencesDesk desk{platform().settings, platform().loginItems, platform().hotKeys, dialogs, stage};
+    /// Both services' hot keys are those of one desktop.
+    HotKeyShares shares{platform().hotKeys};
+    LibraryController library{{.folderFollower = platform().folderFollower,
+                               .macroRecords = platform().macroRecords,
+                               .macroFiles = platform().macroFiles,
+                               .hotKeys = shares.second(),
+                               .firstHotKey = HotKeyShares::firstOfSecond,
+                               .notifications = platform().notifications}};
+    PreferencesDesk desk{
+        platform().settings, platform().loginItems, shares.first(), library.hotKeys(), dialogs, stage};
 };
 
 TEST_F(PreferencesDeskTest, takesEachShortcutAndEachToggleFromTheStore) {
@@ -99,6 +110,23 @@ TEST_F(PreferencesDeskTest, tellsOneFailureAfterTheOther) {
     QCoreApplication::processEvents();
     ASSERT_EQ(dialogs.alerts.size(), 2U);
     EXPECT_EQ(mostOpen, 1U);
+}
+
+TEST_F(PreferencesDeskTest, aShortcutGetsTheCombinationOfAMacroAndSaysSo) {
+    constexpr KeyCombo controlSuperOne{.flags = 0x140000, .code = 18};
+    platform().folderFollower.userWrites("work/Mail.keyrill", "beep");
+    platform().macroRecords.put("work/Mail.keyrill", {{"hotKeyCode", "18"}, {"hotKeyFlags", "1310720"}});
+    library.start();
+    platform().folderFollower.deliver();
+    ASSERT_EQ(library.hotKeys().state("work/Mail.keyrill").status, HotKeyStatus::registered);
+    desk.open();
+    desk.model.record.record(controlSuperOne);
+    desk.takeShortcut(desk.model.record);
+    EXPECT_EQ(platform().hotKeys.state(shortcutRows[shortcutIndex("record")].id).status,
+              HotKeyStatus::registered);
+    EXPECT_EQ(desk.model.record.notice(), QStringLiteral("Already used by macro \"Mail\", which gives way."));
+    EXPECT_EQ(library.hotKeys().state("work/Mail.keyrill").conflict,
+              (HotKeyConflict{.with = HotKeyConflict::With::shortcut, .shortcut = shortcutIndex("record")}));
 }
 
 }  // namespace

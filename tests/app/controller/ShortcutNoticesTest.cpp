@@ -32,4 +32,18 @@ TEST(ShortcutNoticesTest, oneThatWorksAsItWasAskedForNeedsNoNotice) {
     EXPECT_EQ(noticeOf({.status = HotKeyStatus::registered}), QString());
 }
 
+TEST(ShortcutNoticesTest, aMacrosHotKeySaysWhoElseHasIt) {
+    using With = HotKeyConflict::With;
+    const auto notice = [](const HotKeyConflict& conflict) {
+        return macroHotKeyNotice({.status = HotKeyStatus::refused, .conflict = conflict}).toStdString();
+    };
+    EXPECT_EQ(notice({.with = With::shortcut, .shortcut = shortcutIndex("play")}), "Already used by Play.");
+    EXPECT_EQ(notice({.with = With::macro, .macro = "work/Mail.keyrill"}), "Already used by macro \"Mail\".");
+    EXPECT_EQ(notice({.with = With::other, .error = Error{"Another program uses Ctrl+Super+1.", "x"}}),
+              "Another program uses Ctrl+Super+1.");
+    EXPECT_EQ(macroHotKeyNotice({.status = HotKeyStatus::registered}), QString());
+    EXPECT_EQ(macroHotKeyNotice({.status = HotKeyStatus::pending}),
+              QStringLiteral("The desktop has not answered yet."));
+}
+
 }  // namespace

@@ -62,7 +62,7 @@ class MacrosWindowTest : public EngineTest {
         }
         throw std::runtime_error("no list");
     }
-    QLineEdit& search() { return *window.findChild<QLineEdit*>(); }
+    QLineEdit& search() { return *window.findChild<QLineEdit*>(QStringLiteral("search")); }
 
     std::vector<std::string> told;
     MacrosWindow window{platform().keyboardLayout};
