@@ -25,7 +25,8 @@ class PreferencesDeskTest : public EngineTest {
                                .macroFiles = platform().macroFiles,
                                .hotKeys = shares.second(),
                                .firstHotKey = HotKeyShares::firstOfSecond,
-                               .notifications = platform().notifications}};
+                               .notifications = platform().notifications,
+                               .scripting = platform().scripting}};
     PreferencesDesk desk{
         platform().settings, platform().loginItems, shares.first(), library.hotKeys(), dialogs, stage};
 };
