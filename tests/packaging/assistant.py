@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """assistant.py press NAME | state NAME | names: performs the main action of the object of that name in Keyrill's windows and
-menus, as assistive technology does; prints "checked" or "unchecked" for it; or prints the names of all objects. Status 1 where
-there is no such object after 30 s."""
+menus, as assistive technology does; prints "checked" or "unchecked" for it; or prints the names of all that are offered. Status 1
+where there is no such object after 30 s."""
 import sys
 import time
 import warnings
@@ -32,12 +32,16 @@ def objects_of_keyrill():
             yield from objects(program)
 
 
+def is_offered(item):
+    """Whether it can be used: a closed menu's items can be chosen all the same."""
+    return item.get_state_set().contains(Atspi.StateType.SHOWING) or item.get_role_name() == "menu item"
+
+
 def find(name):
     for item in objects_of_keyrill():
-        # A closed menu's items can be chosen all the same; what can only be given the focus is no control.
-        is_there = item.get_state_set().contains(Atspi.StateType.SHOWING) or item.get_role_name() == "menu item"
         action = item.get_action_iface()
-        if is_there and item.get_name() == name and action is not None and action.get_action_name(0) != "SetFocus":
+        # What can only be given the focus is no control.
+        if item.get_name() == name and is_offered(item) and action is not None and action.get_action_name(0) != "SetFocus":
             return item
     return None
 
@@ -58,7 +62,7 @@ def await_object(name):
 def main():
     verb, *names = sys.argv[1:]
     if verb == "names":
-        print("\n".join(item.get_name() for item in objects_of_keyrill()))
+        print("\n".join(item.get_name() for item in objects_of_keyrill() if is_offered(item)))
         return
     item = await_object(*names)
     if verb == "press":
