@@ -164,9 +164,14 @@ TEST_F(MacroCallsTest, aSpeedDividesThePauses) {
         }));
         return presses.size() == 2 ? static_cast<int>(presses[1] - presses[0]) : 0;
     };
-    // The machine may make a pause longer, hardly two in a row.
-    EXPECT_NEAR(std::min(playedPause(""), playedPause("")), 2000, 40);
-    EXPECT_NEAR(std::min(playedPause(" --speed 2"), playedPause(" --speed=2")), 1000, 20);
+    // A busy machine makes a pause longer, hardly four in a row.
+    const auto shortest = [&playedPause](const std::string& options) {
+        int least = playedPause(options);
+        for (int plays = 1; plays < 4; ++plays) least = std::min(least, playedPause(options));
+        return least;
+    };
+    EXPECT_NEAR(shortest(""), 2000, 40);
+    EXPECT_NEAR(shortest(" --speed 2"), 1000, 20);
 }
 
 TEST_F(MacroCallsTest, itGoesOnUntilItIsStopped) {
