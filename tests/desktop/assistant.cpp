@@ -92,11 +92,19 @@ bool list(const Object& root) {
     return true;
 }
 
+/// The toolkit says so of what is current in a list or among tabs also while another object has the focus.
+bool hasFocus(const Object& object) {
+    if (!hasState(object, ATSPI_STATE_FOCUSED) || !hasState(object, ATSPI_STATE_SHOWING)) return false;
+    if (roleOf(object) != "list item" && roleOf(object) != "page tab") return true;
+    const Object all(atspi_accessible_get_parent(object.get(), nullptr));
+    return all && hasState(all, ATSPI_STATE_FOCUSED);
+}
+
 /// The innermost: a list has the focus together with one of its lines.
 bool printFocused(const Object& root) {
     Object focused;
     walk(root, [&focused](const Object& object) {
-        if (!hasState(object, ATSPI_STATE_FOCUSED) || !hasState(object, ATSPI_STATE_SHOWING)) return false;
+        if (!hasFocus(object)) return false;
         focused.reset(static_cast<AtspiAccessible*>(g_object_ref(object.get())));
         return false;
     });
