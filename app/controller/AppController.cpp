@@ -44,7 +44,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_gate(services.eventMonitor, [this] { followGate(); }),
       m_dialogs(dialogs, m_gate),
       m_scriptQuestions(m_dialogs, services.keyInjector, services.notifications),
-      m_scriptNotices(services.scripting, services.notifications, m_dialogs),
+      m_scriptNotices(services.scripting, services.notifications, m_statusNotice),
       m_shared(*this),
       m_stage(windows, [this] { return ordinaryWindows(); }),
       m_menuDesk(item, [this](const MenuState& state) { m_overlayDesk.setPromptPlays(state.promptPlays); }),

@@ -2,25 +2,23 @@
 #include "app/controller/ScriptNotices.h"
 
 #include <QPointer>
-#include <QTimer>
 #include <optional>
 #include <string>
-#include <utility>
 
-#include "app/dialogs/AlertTexts.h"
-#include "app/dialogs/Dialogs.h"
+#include "app/controller/StatusNotice.h"
 #include "platform/Notifications.h"
 #include "platform/ScriptingService.h"
 
 void ScriptNotices::tellOfPlayback() {
     const std::optional<ScriptFailure> failure = m_scripting.takeFailure();
-    if (!failure) return;
+    if (!failure) return m_status.setFault({});
     post(failure->hasBegun ? tr("The macro was not played to its end") : tr("The macro cannot be played"),
          *failure);
 }
 
 bool ScriptNotices::tellOfLoaded(const QString& name, const std::string& script) {
     const std::optional<ScriptFailure> failure = m_scripting.check(script);
+    if (!failure) m_status.setFault({});
     if (failure) post(tr("\"%1\" is loaded but cannot be played").arg(name), *failure);
     return failure.has_value();
 }
@@ -31,15 +29,7 @@ void ScriptNotices::post(const QString& title, const ScriptFailure& failure) {
     if (!failure.error.hint.empty()) text += u'\n' + QString::fromStdString(failure.error.hint);
     // Who shows messages may answer when this is no more.
     m_notifications.post(title.toStdString(), text.toStdString(),
-                         [self = QPointer<ScriptNotices>(this), title, text] {
-                             if (self) self->alertSoon(title, text);
+                         [self = QPointer<ScriptNotices>(this), fault = title + QStringLiteral(". ") + text] {
+                             if (self) self->m_status.setFault(fault);
                          });
-}
-
-void ScriptNotices::alertSoon(const QString& title, const QString& text) {
-    if (std::exchange(m_isAlerting, true)) return;
-    QTimer::singleShot(0, this, [this, title, text] {
-        m_dialogs.runAlert(alerts::macroBroken(title, text));
-        m_isAlerting = false;
-    });
 }

@@ -5,20 +5,20 @@
 #include <QString>
 #include <string>
 
-class Dialogs;
 class Notifications;
 class ScriptingService;
+class StatusNotice;
 struct ScriptFailure;
 
-/// Tells the user what a macro's script cannot do: by a notification, or by an alert where nobody shows
-/// those.
+/// Tells the user what a macro's script cannot do: by a notification, or at the status item where nobody
+/// shows those, until a macro is played or loaded with which all is well.
 class ScriptNotices : public QObject {
     Q_OBJECT
 
   public:
     /// All outlive this.
-    ScriptNotices(ScriptingService& scripting, Notifications& notifications, Dialogs& dialogs)
-        : m_scripting(scripting), m_notifications(notifications), m_dialogs(dialogs) {}
+    ScriptNotices(ScriptingService& scripting, Notifications& notifications, StatusNotice& status)
+        : m_scripting(scripting), m_notifications(notifications), m_status(status) {}
 
     /// Of the play command that has just ended, if something failed in it: once, however often it was played.
     void tellOfPlayback();
@@ -28,11 +28,8 @@ class ScriptNotices : public QObject {
 
   private:
     void post(const QString& title, const ScriptFailure& failure);
-    /// Once the program is back in its loop, unless such an alert is open already.
-    void alertSoon(const QString& title, const QString& text);
 
     ScriptingService& m_scripting;
     Notifications& m_notifications;
-    Dialogs& m_dialogs;
-    bool m_isAlerting = false;
+    StatusNotice& m_status;
 };

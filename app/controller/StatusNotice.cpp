@@ -23,6 +23,12 @@ void StatusNotice::setHint(const QString& hint) {
     show();
 }
 
+void StatusNotice::setFault(const QString& fault) {
+    if (fault == m_fault) return;
+    m_fault = fault;
+    show();
+}
+
 void StatusNotice::noteHotKey(HotKeyId id, const HotKeyState& state) {
     if (state.status == HotKeyStatus::refused && state.error) {
         m_refused[id] =
@@ -37,5 +43,6 @@ void StatusNotice::show() {
     QStringList lines;
     for (const auto& [id, line] : m_refused) lines.append(line);
     if (!m_hint.isEmpty()) lines.append(m_hint);
+    if (!m_fault.isEmpty()) lines.append(m_fault);
     m_item.setNotice(lines.join(QLatin1Char('\n')));
 }

@@ -10,7 +10,7 @@
 class StatusItem;
 
 /// What the status item tells: which hot keys were refused, a line each in the order of their numbers, then
-/// what the user should know of the session.
+/// what the user should know of the session, and what nobody else tells of a macro.
 class StatusNotice {
     Q_DECLARE_TR_FUNCTIONS(StatusNotice)
 
@@ -21,6 +21,8 @@ class StatusNotice {
     const QString& hint() const { return m_hint; }
     /// Empty for nothing.
     void setHint(const QString& hint);
+    /// What is wrong with the macro that was played or loaded last; empty for nothing.
+    void setFault(const QString& fault);
     /// Of one of the shortcuts.
     void noteHotKey(HotKeyId id, const HotKeyState& state);
 
@@ -29,5 +31,6 @@ class StatusNotice {
 
     StatusItem& m_item;
     QString m_hint;
+    QString m_fault;
     std::map<HotKeyId, QString> m_refused;
 };

@@ -103,8 +103,6 @@ AlertText fileNotFound(const QString& path) {
                    tr("Check the name, or choose one of the list."));
 }
 
-AlertText macroBroken(const QString& title, const QString& text) { return warning(title, text); }
-
 AlertText settingsNotSaved(const Error& error) { return warning(tr("Your settings were not saved."), error); }
 
 AlertText loginItemNotSet(const Error& error) {

@@ -32,8 +32,6 @@ AlertText replaceFile(const QString& path);
 /// What was chosen to load from.
 AlertText noMacroFile(const QString& path);
 AlertText fileNotFound(const QString& path);
-/// What a notification would have said of a macro's script.
-AlertText macroBroken(const QString& title, const QString& text);
 AlertText settingsNotSaved(const Error& error);
 AlertText loginItemNotSet(const Error& error);
 /// Of the settings, found behind the user's back.

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <QCoreApplication>
 #include <QLineEdit>
 
 #include "app/AppTest.h"
@@ -61,30 +60,21 @@ TEST_F(PlaybackNoticesTest, doNotComeWhenAllIsPlayedOrThePlaybackIsCancelled) {
     EXPECT_EQ(messages(), Messages{});
 }
 
-TEST_F(PlaybackNoticesTest, areAnAlertWhereNobodyShowsThem) {
+TEST_F(PlaybackNoticesTest, standAtTheStatusItemWhereNobodyShowsThemUntilAllIsWell) {
     platform().notifications.losePresenter();
     platform().scripting.refuse("script", broken);
     controller.playMacro(nullptr);
-    EXPECT_TRUE(dialogs.alerts.empty()) << "within the play command";
-    QCoreApplication::processEvents();
-    EXPECT_EQ(dialogs.alerts, (std::vector<AlertText>{{.kind = AlertText::Kind::warning,
-                                                       .title = "The macro cannot be played",
-                                                       .message = "Line 3: Expected end.\nWrite it.",
-                                                       .defaultButton = "OK"}}));
+    EXPECT_EQ(statusItem.shownNotice, "The macro cannot be played. Line 3: Expected end.\nWrite it.");
+    state().currentMacro = macroWithScript("good");
+    controller.playMacro(nullptr);
+    EXPECT_EQ(statusItem.shownNotice, "");
+    EXPECT_TRUE(dialogs.alerts.empty());
 }
 
-TEST_F(PlaybackNoticesTest, areOneAlertHoweverManyComeBeforeItIsAnswered) {
-    platform().notifications.losePresenter();
+TEST_F(PlaybackNoticesTest, doNotStandAtTheStatusItemWhereTheyAreShown) {
     platform().scripting.refuse("script", broken);
-    dialogs.whileOpen([this] { controller.playMacro(nullptr); });
     controller.playMacro(nullptr);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(messages().size(), 2U);
-    EXPECT_EQ(dialogs.alerts.size(), 1U);
-    dialogs.whileOpen({});
-    controller.playMacro(nullptr);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(dialogs.alerts.size(), 2U);
+    EXPECT_EQ(statusItem.shownNotice, "");
 }
 
 TEST_F(PlaybackNoticesTest, doNotComeOfTheEmptyScriptThatKeepsTheServiceReady) {
