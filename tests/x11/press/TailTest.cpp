@@ -89,7 +89,7 @@ TEST_F(TailTest, aRunThatDoesSomethingElseLetsGo) {
     const auto session = run();
     ASSERT_TRUE(session->stroke(tab, modifier::option));
     program().injector().settle();
-    ASSERT_EQ(received().back(), "release 64 0x8");
+    ASSERT_TRUE(eventually([this] { return received().back() == "release 64 0x8"; }));
     ASSERT_TRUE(session->stroke(tab, modifier::option));
     EXPECT_TRUE(eventually([this] {
         program().injector().isCancelled();
