@@ -115,6 +115,7 @@ TEST_F(OwnMenuTest, itsKeysAreNotRecorded) {
     press("x");
     menu.open();
     menu.chooseByKeys(pauseEntry);
+    ASSERT_TRUE(eventually([&] { return !menu.isOpen(); }));
     press("y");
     menu.open();
     for (const char* key : {"Down", "Down", "Up", "Escape"}) press(key);
