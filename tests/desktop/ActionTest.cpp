@@ -10,6 +10,7 @@
 #include <set>
 
 #include "desktop/Answer.h"
+#include "desktop/BoundKey.h"
 #include "desktop/DesktopTest.h"
 #include "desktop/SavedMacro.h"
 #include "display/NestedServers.h"
@@ -34,9 +35,7 @@ class ActionTest : public testing::Test {
     }
     /// The same by a program that is none of ours.
     Answer call(const std::string& action, const std::string& parameter = "[]") const {
-        return answerOf({"gdbus", "call", "--session", "--dest", "example.orlen.Keyrill", "--object-path",
-                         "/example/orlen/Keyrill", "--method", "org.freedesktop.Application.ActivateAction",
-                         action, parameter, "{}"});
+        return callOnTheBus(desktop, {"org.freedesktop.Application.ActivateAction", action, parameter, "{}"});
     }
     void type(std::initializer_list<std::uint8_t> keycodes) const {
         for (const std::uint8_t keycode : keycodes) typist.tap(keycode);
@@ -312,45 +311,22 @@ Gio.DesktopAppInfo.new_from_filename(sys.argv[1]).launch_action(sys.argv[2], Non
     EXPECT_EQ(terminal->typed(4), "abab");
 }
 
-/// A person presses a key of the window manager's at a real keyboard.
-class BoundKeyTest : public testing::TestWithParam<Typist::Gap> {
+class BoundKeyTest : public BoundKey {
   protected:
     BoundKeyTest() {
-        outputOf({"xset", "r", "off"}, {{"DISPLAY", servers.outerDisplay()}});
         desktop.startBus();
-        const std::filesystem::path folder = desktop.file("host/.config/openbox");
-        std::filesystem::create_directories(folder);
-        std::ofstream(folder / "rc.xml")
-            << "<openbox_config xmlns=\"http://openbox.org/3.4/rc\"><keyboard><keybind key=\"C-W-F5\">"
-               "<action name=\"Execute\"><command>"
-            << programs::keyrill
-            << " --action=play</command></action></keybind></keyboard></openbox_config>\n";
-        desktop.startWindowManager();
-        terminal.emplace(desktop.display());
+        bind("--action=play");
     }
-
-    NestedServers servers;
-    Desktop desktop{servers.display()};
-    Typist typist{servers, GetParam()};
-    std::optional<Terminal> terminal;
 };
 
 TEST_P(BoundKeyTest, playsWhenTheKeysAreLetGo) {
     const Keyrill keyrill(desktop, "tell application \"System Events\" to keystroke \"Hello\"\n");
-    typist.stroke({xkey::control, xkey::super, xkey::f5});
-    EXPECT_EQ(terminal->typed(5), "Hello");
-    EXPECT_TRUE(eventually([this] { return desktop.keysDown().empty(); }));
+    expectPlayedWhenTheKeysAreLetGo("Hello");
 }
 
 TEST_P(BoundKeyTest, typesNothingWhileAHandHoldsAModifier) {
     const Keyrill keyrill(desktop, "tell application \"System Events\" to keystroke \"Hello\"\n");
-    typist.press({xkey::control, xkey::super, xkey::f5});
-    typist.release({xkey::f5});
-    typist.hold(std::chrono::milliseconds(1500));
-    EXPECT_EQ(terminal->typed(), "");
-    typist.release({xkey::super, xkey::control});
-    EXPECT_EQ(terminal->typed(5), "Hello");
-    EXPECT_TRUE(eventually([this] { return desktop.keysDown().empty(); }));
+    expectNothingWhileAHandHoldsAModifier("Hello");
 }
 
 INSTANTIATE_TEST_SUITE_P(EachGap, BoundKeyTest,

@@ -30,4 +30,18 @@ inline Answer answerOf(const Desktop& desktop, const std::vector<std::string>& c
     return {status, contentOf(options.outputFile)};
 }
 
+/// Of a call of a method of Keyrill's by a program that is none of ours: the method, then its arguments.
+inline Answer callOnTheBus(const Desktop& desktop, const std::vector<std::string>& methodAndArguments) {
+    std::vector<std::string> command = {"gdbus",
+                                        "call",
+                                        "--session",
+                                        "--dest",
+                                        "example.orlen.Keyrill",
+                                        "--object-path",
+                                        "/example/orlen/Keyrill",
+                                        "--method"};
+    command.insert(command.end(), methodAndArguments.begin(), methodAndArguments.end());
+    return answerOf(desktop, command);
+}
+
 inline const Answer done{0, ""};

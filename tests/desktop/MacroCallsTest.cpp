@@ -9,9 +9,9 @@
 #include <regex>
 
 #include "desktop/Answer.h"
+#include "desktop/BoundKey.h"
 #include "desktop/DesktopTest.h"
 #include "display/CoreClient.h"
-#include "display/NestedServers.h"
 #include "display/Typist.h"
 #include "support/Programs.h"
 
@@ -61,16 +61,7 @@ class MacroCallsTest : public DesktopTest {
         return answerOf(desktop, {"/bin/sh", "-c", "cd '" + desktop.file("") + "' && " + line});
     }
     Answer call(std::initializer_list<std::string> arguments) const {
-        std::vector<std::string> command = {"gdbus",
-                                            "call",
-                                            "--session",
-                                            "--dest",
-                                            "example.orlen.Keyrill",
-                                            "--object-path",
-                                            "/example/orlen/Keyrill",
-                                            "--method"};
-        command.insert(command.end(), arguments);
-        return answerOf(desktop, command);
+        return callOnTheBus(desktop, arguments);
     }
     /// Nothing else has been typed, nor will be: what is typed now comes right behind.
     void expectTypedExactly(const std::string& text) const {
@@ -397,18 +388,9 @@ TEST_F(MacroCallsTest, nothingOnTheBusReadsWhatIsRecordedOrKept) {
     calls.push_back({"org.freedesktop.DBus.Properties.GetAll", "org.freedesktop.Application"});
     // Of the standard 2; of macros one without a name, three with; of the application one with.
     EXPECT_EQ(calls.size(), 2U + 1 + 5 + 5 + 5 + 1 + 1 + 5) << object;
-    for (std::vector<std::string> arguments : calls) {
+    for (const std::vector<std::string>& arguments : calls) {
         const std::string method = arguments.front();
-        std::vector<std::string> command = {"gdbus",
-                                            "call",
-                                            "--session",
-                                            "--dest",
-                                            "example.orlen.Keyrill",
-                                            "--object-path",
-                                            "/example/orlen/Keyrill",
-                                            "--method"};
-        command.insert(command.end(), arguments.begin(), arguments.end());
-        const Answer answer = answerOf(desktop, command);
+        const Answer answer = callOnTheBus(desktop, arguments);
         const bool saysNothing = answer.output == "()\n" || answer.output == "(@a{sv} {},)\n";
         const bool saysWhyNot = std::regex_search(
             answer.output, std::regex("^Error: GDBus.Error:(example.orlen.Keyrill.Error."
@@ -422,45 +404,21 @@ TEST_F(MacroCallsTest, nothingOnTheBusReadsWhatIsRecordedOrKept) {
     }
 }
 
-/// A person presses a key of the window manager's at a real keyboard.
-class BoundMacroTest : public testing::TestWithParam<Typist::Gap> {
+class BoundMacroTest : public BoundKey {
   protected:
-    BoundMacroTest() {
-        outputOf({"xset", "r", "off"}, {{"DISPLAY", servers.outerDisplay()}});
-        const fs::path folder = desktop.file("host/.config/openbox");
-        fs::create_directories(folder);
-        std::ofstream(folder / "rc.xml")
-            << "<openbox_config xmlns=\"http://openbox.org/3.4/rc\"><keyboard><keybind key=\"C-W-F5\">"
-               "<action name=\"Execute\"><command>"
-            << programs::keyrill
-            << " --play Greeting</command></action></keybind></keyboard></openbox_config>\n";
-        desktop.startWindowManager();
-        terminal.emplace(desktop.display());
-    }
+    BoundMacroTest() { bind("--play Greeting"); }
 
-    NestedServers servers;
-    Desktop desktop{servers.display()};
     const MacroCalls macros{desktop};
-    Typist typist{servers, GetParam()};
-    std::optional<Terminal> terminal;
 };
 
 TEST_P(BoundMacroTest, playsWhenTheKeysAreLetGo) {
     const Keyrill keyrill(desktop);
-    typist.stroke({xkey::control, xkey::super, xkey::f5});
-    EXPECT_EQ(terminal->typed(5), "hello");
-    EXPECT_TRUE(eventually([this] { return desktop.keysDown().empty(); }));
+    expectPlayedWhenTheKeysAreLetGo("hello");
 }
 
 TEST_P(BoundMacroTest, typesNothingWhileAHandHoldsAModifier) {
     const Keyrill keyrill(desktop);
-    typist.press({xkey::control, xkey::super, xkey::f5});
-    typist.release({xkey::f5});
-    typist.hold(std::chrono::milliseconds(1500));
-    EXPECT_EQ(terminal->typed(), "");
-    typist.release({xkey::super, xkey::control});
-    EXPECT_EQ(terminal->typed(5), "hello");
-    EXPECT_TRUE(eventually([this] { return desktop.keysDown().empty(); }));
+    expectNothingWhileAHandHoldsAModifier("hello");
 }
 
 INSTANTIATE_TEST_SUITE_P(EachGap, BoundMacroTest,

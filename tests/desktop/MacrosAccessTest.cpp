@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "desktop/DesktopTest.h"
+#include "desktop/SavedMacro.h"
 #include "support/Programs.h"
 
 namespace {
@@ -13,14 +14,6 @@ namespace {
 constexpr const char* macros = "Macros";
 /// As the assistant writes it.
 constexpr const char* search = "text|Search macros";
-
-/// "abc" as it is recorded.
-constexpr const char* recordedAbc =
-    "tell application \"System Events\"\n"
-    "\tkey code (0) using {}\ndelay 0.01\n"
-    "\tkey code (11) using {}\ndelay 0.01\n"
-    "\tkey code (8) using {}\ndelay 0.01\n"
-    "end tell\n";
 
 /// The window to somebody who can neither see it nor use a mouse.
 class MacrosAccessTest : public DesktopTest {

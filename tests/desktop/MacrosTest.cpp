@@ -5,6 +5,7 @@
 #include <fstream>
 
 #include "desktop/DesktopTest.h"
+#include "desktop/SavedMacro.h"
 #include "desktop/StatusMenuClicks.h"
 
 namespace {
@@ -12,14 +13,6 @@ namespace {
 constexpr const char* macros = "Macros";
 /// Of the entries that can be chosen before anything was recorded.
 constexpr int macrosEntry = 3;
-
-/// "abc" as it is recorded.
-constexpr const char* recordedAbc =
-    "tell application \"System Events\"\n"
-    "\tkey code (0) using {}\ndelay 0.01\n"
-    "\tkey code (11) using {}\ndelay 0.01\n"
-    "\tkey code (8) using {}\ndelay 0.01\n"
-    "end tell\n";
 
 /// Somebody with a terminal, a tray and one macro, "Greeting", who has never seen the window of the macros.
 class MacrosTest : public DesktopTest {
