@@ -17,18 +17,17 @@ namespace {
 
 constexpr std::string_view shortDelay = "delay 0.01\n";
 
-struct ModifierPhrase {
+struct ModifierWord {
     std::uint32_t modifier;
-    std::string_view phrase;
-    std::string_view line;
+    std::string_view word;
 };
 
 /// In the order in which actionpack::KeyCode writes them.
-constexpr std::array<ModifierPhrase, 4> modifierPhrases = {{
-    {modifier::command, "command down", "command\n"},
-    {modifier::shift, "shift down", "shift\n"},
-    {modifier::option, "option down", "option\n"},
-    {modifier::control, "control down", "control\n"},
+constexpr std::array<ModifierWord, 4> modifierWords = {{
+    {modifier::command, "command"},
+    {modifier::shift, "shift"},
+    {modifier::option, "option"},
+    {modifier::control, "control"},
 }};
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
@@ -78,10 +77,10 @@ class LineReader {
     }
 
     bool modifiers(std::uint32_t& modifiers) {
-        for (const ModifierPhrase& row : modifierPhrases) {
+        for (const ModifierWord& row : modifierWords) {
             std::string_view rest = m_rest;
             if (modifiers != 0 && !accept(", ")) break;
-            if (accept(row.phrase)) {
+            if (accept(row.word) && accept(" down")) {
                 modifiers |= row.modifier;
             } else {
                 m_rest = rest;
@@ -106,10 +105,11 @@ class LineReader {
 
     bool held(Line& line, LineKind kind) {
         line.kind = kind;
+        const std::string_view word = restOfLine();
         const auto* const row =
-            std::find_if(modifierPhrases.begin(), modifierPhrases.end(),
-                         [this](const ModifierPhrase& phrase) { return accept(phrase.line); });
-        if (row == modifierPhrases.end()) return false;
+            std::find_if(modifierWords.begin(), modifierWords.end(),
+                         [word](const ModifierWord& known) { return known.word == word; });
+        if (row == modifierWords.end()) return false;
         line.modifiers = row->modifier;
         return true;
     }
