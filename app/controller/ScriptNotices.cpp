@@ -18,8 +18,11 @@ void ScriptNotices::tellOfPlayback() {
 
 bool ScriptNotices::tellOfLoaded(const QString& name, const std::string& script) {
     const std::optional<ScriptFailure> failure = m_scripting.check(script);
-    if (!failure) m_status.setFault({});
-    if (failure) post(tr("\"%1\" is loaded but cannot be played").arg(name), *failure);
+    if (failure) {
+        post(tr("\"%1\" is loaded but cannot be played").arg(name), *failure);
+    } else {
+        m_status.setFault({});
+    }
     return failure.has_value();
 }
 

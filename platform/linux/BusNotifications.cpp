@@ -24,8 +24,8 @@ struct Message {
     Notifications::Unshown unshown;
 };
 
-void tellUnshown(const Message& message) {
-    if (message.unshown) message.unshown();
+void tell(const Notifications::Unshown& unshown) {
+    if (unshown) unshown();
 }
 
 /// The bytes that go on a character.
@@ -76,7 +76,7 @@ struct BusNotifications::Parts {
     ~Parts() { unwatchService(); }
 
     void post(Message message) {
-        if (!connection.isOpen() && !connection.isOpening()) return tellUnshown(message);
+        if (!connection.isOpen() && !connection.isOpening()) return tell(message.unshown);
         waiting.push_back(std::move(message));
         if (waiting.size() > mostWaiting) waiting.pop_front();
         if (connection.isOpen()) sendOrAsk();
@@ -100,7 +100,7 @@ struct BusNotifications::Parts {
     /// What is told may post anew.
     void giveUp() {
         const std::deque<Message> lost = std::exchange(waiting, {});
-        for (const Message& message : lost) tellUnshown(message);
+        for (const Message& message : lost) tell(message.unshown);
     }
     void forgetService() {
         hasMarkup.reset();
@@ -130,13 +130,14 @@ struct BusNotifications::Parts {
     void sendAll() {
         for (; !waiting.empty() && unanswered < mostUnanswered; waiting.pop_front()) {
             ++unanswered;
-            connection.call(notify, parametersOf(waiting.front(), *hasMarkup), true,
-                            [this, sent = serviceNumber, message = waiting.front()](GDBusMessage* answer) {
-                                if (answer == nullptr) tellUnshown(message);
-                                if (sent != serviceNumber) return;
-                                --unanswered;
-                                sendAll();
-                            });
+            connection.call(
+                notify, parametersOf(waiting.front(), *hasMarkup), true,
+                [this, sent = serviceNumber, unshown = waiting.front().unshown](GDBusMessage* answer) {
+                    if (answer == nullptr) tell(unshown);
+                    if (sent != serviceNumber) return;
+                    --unanswered;
+                    sendAll();
+                });
         }
     }
 
