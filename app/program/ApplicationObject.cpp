@@ -9,6 +9,7 @@
 
 #include "app/program/BusNames.h"
 #include "app/program/MacrosInterface.h"
+#include "app/program/StartUp.h"
 #include "app/tray/Actions.h"
 
 namespace {
@@ -96,6 +97,5 @@ void ApplicationObject::ask(Errand errand, const QDBusMessage& call) {
 
 void ApplicationObject::refuse(const Error& why, const QDBusMessage& call) {
     call.setDelayedReply(true);
-    connection().send(
-        call.createErrorReply(QDBusError::InvalidArgs, QString::fromStdString(why.message + " " + why.hint)));
+    connection().send(call.createErrorReply(QDBusError::InvalidArgs, QString::fromStdString(inOneLine(why))));
 }

@@ -17,6 +17,7 @@
 #include "app/program/BusNames.h"
 #include "app/program/InstanceLock.h"
 #include "app/program/SessionBusCheck.h"
+#include "app/program/StartUp.h"
 #include "app/tray/Actions.h"
 
 namespace {
@@ -70,10 +71,6 @@ Refusal tooLate() {
             {QCoreApplication::translate("ProgramInstance", "The macro folder was out of reach for too long.")
                  .toStdString(),
              {}}};
-}
-
-QString textOf(const Error& error) {
-    return QString::fromStdString(error.hint.empty() ? error.message : error.message + " " + error.hint);
 }
 
 }  // namespace
@@ -204,7 +201,8 @@ void ProgramInstance::answer(const Request& request) {
         needsLibrary(request.errand) && std::chrono::steady_clock::now() - request.asked > m_patience;
     const Result<void, Refusal> done = isLate ? Result<void, Refusal>(tooLate()) : carryOut(request.errand);
     m_bus.send(done ? request.call.createReply()
-                    : request.call.createErrorReply(nameOf(done.error().cause), textOf(done.error().error)));
+                    : request.call.createErrorReply(nameOf(done.error().cause),
+                                                    QString::fromStdString(inOneLine(done.error().error))));
 }
 
 Result<void, Refusal> ProgramInstance::carryOut(const Errand& errand) {

@@ -4,9 +4,12 @@
 #include <cstdio>
 #include <cstdlib>
 
+std::string inOneLine(const Error& error) {
+    return error.hint.empty() ? error.message : error.message + " " + error.hint;
+}
+
 int reportFailure(const Error& error) {
-    const char* const space = error.hint.empty() ? "" : " ";
-    std::fprintf(stderr, "keyrill: %s%s%s\n", error.message.c_str(), space, error.hint.c_str());
+    std::fprintf(stderr, "keyrill: %s\n", inOneLine(error).c_str());
     return EXIT_FAILURE;
 }
 

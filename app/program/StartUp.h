@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "platform/Result.h"
 #include "platform/sessions/Sessions.h"
 
-/// Says in one line on standard error why the program cannot start; the exit status.
+/// What is wrong and what to do about it, without a line end.
+std::string inOneLine(const Error& error);
+
+/// Says so on standard error; the exit status.
 int reportFailure(const Error& error);
 
 /// The session to work in, by its name or, without one, by what the process was started in; the toolkit is
