@@ -3,24 +3,15 @@
 
 #include <algorithm>
 
+#include "app/library/MacroTitles.h"
 #include "app/shortcuts/CombinationText.h"
 #include "library/LibraryHotKeys.h"
 #include "library/MacroLibrary.h"
-#include "platform/Encoding.h"
 
 namespace {
 
-QString decoded(std::string_view bytes) { return QString::fromStdString(decodedText(std::string(bytes))); }
-
 MacroListItem itemOf(const LibraryEntry& entry) {
-    return {entry.path, decoded(entry.name()), decoded(entry.group())};
-}
-
-bool isBefore(const MacroListItem& one, const MacroListItem& other) {
-    const int groups = QString::compare(one.group, other.group, Qt::CaseInsensitive);
-    if (groups != 0) return groups < 0;
-    const int names = QString::compare(one.name, other.name, Qt::CaseInsensitive);
-    return names != 0 ? names < 0 : one.path < other.path;
+    return {entry.path, shownText(entry.name()), shownText(entry.group())};
 }
 
 /// Those that work, or may soon.
@@ -39,10 +30,6 @@ std::map<std::string, QString> hotKeyTexts(const MacroLibrary& library, const Li
 
 }  // namespace
 
-QString macroName(const std::string& path) {
-    return path.empty() ? QString() : decoded(LibraryEntry{path}.name());
-}
-
 std::vector<MacroListItem> libraryItems(const MacroLibrary& library, const LibraryHotKeys& hotKeys,
                                         const std::map<std::string, std::string>& unsaved) {
     std::vector<MacroListItem> items;
@@ -57,6 +44,6 @@ std::vector<MacroListItem> libraryItems(const MacroLibrary& library, const Libra
             [](const MacroListItem& known, const std::string& wanted) { return known.path < wanted; });
         if (item != items.end() && item->path == path) item->hotKey = text;
     }
-    std::sort(items.begin(), items.end(), isBefore);
+    std::sort(items.begin(), items.end(), isListedBefore<MacroListItem>);
     return items;
 }

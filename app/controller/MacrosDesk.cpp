@@ -11,6 +11,7 @@
 #include "app/controller/ShortcutNotices.h"
 #include "app/controller/Stage.h"
 #include "app/library/LibraryController.h"
+#include "app/library/MacroTitles.h"
 #include "app/macros/KeysView.h"
 #include "app/macros/MacroEditor.h"
 #include "app/macros/MacroListModel.h"

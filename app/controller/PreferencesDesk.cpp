@@ -7,10 +7,10 @@
 #include <string>
 #include <utility>
 
-#include "app/controller/LibraryItems.h"
 #include "app/controller/ShortcutNotices.h"
 #include "app/controller/Stage.h"
 #include "app/dialogs/AlertTexts.h"
+#include "app/library/MacroTitles.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/widgets/IsShown.h"
 #include "core/KeyNames.h"

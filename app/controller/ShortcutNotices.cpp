@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 
-#include "app/controller/LibraryItems.h"
+#include "app/library/MacroTitles.h"
 #include "app/shortcuts/CombinationText.h"
 #include "app/shortcuts/ShortcutTitles.h"
 

@@ -1,23 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/library/LibraryController.h"
 
-#include <chrono>
 #include <utility>
 
+#include "app/library/MacroTitles.h"
 #include "engine/MacroPlayer.h"
-#include "platform/Encoding.h"
 #include "platform/Notifications.h"
-
-namespace {
-
-PlayedAt now() { return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now()); }
-
-/// Names of files may be in any encoding.
-QString shownName(const std::string& path) {
-    return QString::fromStdString(decodedText(std::string(LibraryEntry{path}.name())));
-}
-
-}  // namespace
 
 LibraryController::LibraryController(const LibraryServices& services)
     : m_notifications(services.notifications),
@@ -35,11 +23,9 @@ LibraryController::~LibraryController() { m_library.removeListener(*this); }
 void LibraryController::start() { m_library.open(); }
 
 void LibraryController::play(const std::string& path) {
-    auto text = m_library.text(path);
-    if (!text) return post(tr("\"%1\" was not played").arg(shownName(path)), text.error());
-    requestPlay({.script = std::move(text).value(),
-                 .options = m_library.settings(path).play,
-                 .begins = [this, path] { m_library.notePlayed(path, now()); }});
+    auto request = m_playRequests.ofPath(path);
+    if (!request) return post(tr("\"%1\" was not played").arg(macroName(path)), request.error());
+    requestPlay(std::move(request).value());
 }
 
 // The first time the settings have been read as well.

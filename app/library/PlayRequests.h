@@ -25,8 +25,8 @@ struct Refusal {
     friend bool operator==(const Refusal&, const Refusal&) = default;
 };
 
-/// Makes a play of what somebody names from outside. Each that is made compiles; why another does not is not
-/// told, but where, since that is somebody else's to read.
+/// Makes a play of what somebody names. Each that is made for somebody outside compiles; why another does not
+/// is not told, but where, since that is somebody else's to read.
 class PlayRequests {
     Q_DECLARE_TR_FUNCTIONS(PlayRequests)
 
@@ -42,7 +42,9 @@ class PlayRequests {
 
     /// What Play plays, once at the usual speed unless that is wished otherwise.
     Made ofCurrent(const PlayWish& wish) const;
-    /// A macro of the library by its name; as its settings say unless that is wished otherwise.
+    /// A macro of the library by its path, as its settings say; whether it compiles is not looked at.
+    Result<PlayRequest> ofPath(const std::string& path);
+    /// The same by its name; as its settings say unless that is wished otherwise.
     Made ofMacro(const std::string& name, const PlayWish& wish);
     /// A file, by its absolute path; as what Play plays.
     Made ofFile(const std::string& path, const PlayWish& wish) const;

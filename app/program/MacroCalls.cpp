@@ -9,13 +9,13 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "app/library/MacroTitles.h"
 #include "app/program/BusNames.h"
 #include "app/program/CommandLine.h"
 #include "app/program/MacroList.h"
 #include "app/program/PlayWords.h"
 #include "app/program/RunningProgram.h"
 #include "app/program/StartUp.h"
-#include "platform/Encoding.h"
 
 namespace {
 
@@ -33,8 +33,6 @@ int reportAnswer(const QDBusMessage& answer) {
     }
     return reportFailure({answer.errorMessage().toStdString(), ""});
 }
-
-QString shown(const std::string& bytes) { return QString::fromStdString(decodedText(bytes)); }
 
 QDBusMessage callOf(const char* method) {
     return RunningProgram::callOf(bus::macros, QString::fromLatin1(method));
@@ -74,7 +72,7 @@ QDBusMessage answerToPlay(const RunningProgram& program, const CommandLine& line
     const std::string& name = line.files.front();
     const QFileInfo file(QFile::decodeName(name.c_str()));
     if (isPath(name)) return program.answerTo(playOfFile(file, options));
-    const QDBusMessage answer = program.answerTo(callOf("PlayMacro") << shown(name) << options);
+    const QDBusMessage answer = program.answerTo(callOf("PlayMacro") << shownText(name) << options);
     const bool isNone = answer.errorName() == bus::noSuchMacro;
     return isNone && file.isFile() ? program.answerTo(playOfFile(file, options)) : answer;
 }
@@ -99,18 +97,18 @@ int showMacros(const CommandLine& line) {
     const auto prepared = prepare(program, line.session);
     if (!prepared) return reportFailure(prepared.error());
     QDBusMessage call = callOf("Show");
-    call << (line.files.empty() ? QString() : shown(line.files.front()));
+    call << (line.files.empty() ? QString() : shownText(line.files.front()));
     return reportAnswer(program.answerTo(call));
 }
 
 int listMacros(const CommandLine& line) {
     const auto wellFormed = checkMacroCall(line);
     if (!wellFormed) return reportUsage(wellFormed.error());
-    auto list = readMacroList();
+    const auto list = readMacroList();
     if (!list) return reportFailure(list.error());
     int status = EXIT_SUCCESS;
     for (const Error& fault : list.value().faults) status = reportFailure(fault);
-    const std::string lines = linesOf(std::move(list).value().entries);
+    const std::string lines = linesOf(list.value().entries);
     const bool isPrinted = std::fputs(lines.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
     return isPrinted ? status : EXIT_FAILURE;
 }

@@ -7,11 +7,9 @@
 #include <algorithm>
 #include <chrono>
 #include <optional>
-#include <tuple>
-#include <utility>
 
+#include "app/library/MacroTitles.h"
 #include "library/MacroNames.h"
-#include "platform/Encoding.h"
 #include "platform/linux/ConfigFolders.h"
 #include "platform/linux/LocalFolderFollower.h"
 #include "platform/linux/LocalMacroFiles.h"
@@ -21,24 +19,18 @@ namespace {
 /// It may lie on another machine.
 constexpr std::chrono::seconds patience{5};
 
-struct Shown {
-    explicit Shown(LibraryEntry listed)
-        : entry(std::move(listed)), group(shown(entry.group())), name(shown(entry.name())) {}
+struct Listed {
+    explicit Listed(const LibraryEntry& entry)
+        : path(entry.path),
+          longName(::longName(entry)),
+          group(shownText(entry.group())),
+          name(shownText(entry.name())) {}
 
-    static QString shown(std::string_view bytes) {
-        return QString::fromStdString(decodedText(std::string(bytes)));
-    }
-
-    LibraryEntry entry;
+    std::string path;
+    std::string longName;
     QString group;
     QString name;
 };
-
-bool isBefore(const Shown& one, const Shown& other) {
-    const int groups = QString::compare(one.group, other.group, Qt::CaseInsensitive);
-    const int names = QString::compare(one.name, other.name, Qt::CaseInsensitive);
-    return std::tie(groups, names, one.entry.path) < std::make_tuple(0, 0, other.entry.path);
-}
 
 std::string lineOf(std::string name) {
     constexpr char del = 0x7F;
@@ -71,12 +63,10 @@ Result<MacroList> readMacroList() {
     return *std::move(list);
 }
 
-std::string linesOf(std::vector<LibraryEntry> entries) {
-    std::vector<Shown> shown;
-    shown.reserve(entries.size());
-    for (LibraryEntry& entry : entries) shown.emplace_back(std::move(entry));
-    std::sort(shown.begin(), shown.end(), isBefore);
+std::string linesOf(const std::vector<LibraryEntry>& entries) {
+    std::vector<Listed> listed(entries.begin(), entries.end());
+    std::sort(listed.begin(), listed.end(), isListedBefore<Listed>);
     std::string lines;
-    for (const Shown& each : shown) lines += lineOf(std::string(longName(each.entry)));
+    for (const Listed& each : listed) lines += lineOf(each.longName);
     return lines;
 }

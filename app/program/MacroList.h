@@ -21,4 +21,4 @@ Result<MacroList> readMacroList();
 
 /// The long names (library/MacroNames.h), a line each, in the order of the window of the macros: those of no
 /// group first, then by group and name whatever their case. Control characters are question marks.
-std::string linesOf(std::vector<LibraryEntry> entries);
+std::string linesOf(const std::vector<LibraryEntry>& entries);
