@@ -145,7 +145,9 @@ function(keyrill_test target)
     keyrill_precompile(${target} keyrill_precompiled_test)
     target_link_libraries(${target} PRIVATE ${test_USES} GTest::gtest GTest::gtest_main)
     keyrill_inside(${target} ${test_INSIDE})
-    set(properties LABELS ${test_LABEL} TIMEOUT ${test_TIMEOUT} ${test_PROPERTIES})
+    # Whose session it is run in is none of a test's business.
+    set(properties LABELS ${test_LABEL} TIMEOUT ${test_TIMEOUT} ENVIRONMENT_MODIFICATION "WAYLAND_DISPLAY=unset:"
+                   ${test_PROPERTIES})
     if(test_LABEL STREQUAL "unit")
         add_test(NAME ${target} COMMAND ${target})
         set_tests_properties(${target} PROPERTIES ${properties})

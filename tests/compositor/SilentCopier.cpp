@@ -18,8 +18,13 @@
 struct SilentCopier::Parts {
     std::string firstBytes;
     wl_display* display = nullptr;
+    wl_registry* registry = nullptr;
     wl_seat* seat = nullptr;
     zwlr_data_control_manager_v1* manager = nullptr;
+    zwlr_data_control_device_v1* device = nullptr;
+    zwlr_data_control_source_v1* source = nullptr;
+    /// Of what others have copied.
+    std::vector<zwlr_data_control_offer_v1*> offers;
     std::vector<Descriptor> readers;
     Descriptor wakeup{eventfd(0, EFD_CLOEXEC)};
     std::thread thread;
@@ -45,12 +50,30 @@ struct SilentCopier::Parts {
             .send = [](void* self, zwlr_data_control_source_v1*, const char*,
                        int file) { static_cast<Parts*>(self)->give(file); },
             .cancelled = [](void*, zwlr_data_control_source_v1*) {}};
-        auto* const source = zwlr_data_control_manager_v1_create_data_source(manager);
+        static constexpr zwlr_data_control_device_v1_listener deviceListener{
+            .data_offer =
+                [](void* self, zwlr_data_control_device_v1*, zwlr_data_control_offer_v1* offer) {
+                    static_cast<Parts*>(self)->offers.push_back(offer);
+                },
+            .selection = [](void*, zwlr_data_control_device_v1*, zwlr_data_control_offer_v1*) {},
+            .finished = [](void*, zwlr_data_control_device_v1*) {}};
+        source = zwlr_data_control_manager_v1_create_data_source(manager);
         zwlr_data_control_source_v1_add_listener(source, &listener, this);
         zwlr_data_control_source_v1_offer(source, "text/plain;charset=utf-8");
-        zwlr_data_control_device_v1_set_selection(zwlr_data_control_manager_v1_get_data_device(manager, seat),
-                                                  source);
+        device = zwlr_data_control_manager_v1_get_data_device(manager, seat);
+        zwlr_data_control_device_v1_add_listener(device, &deviceListener, this);
+        zwlr_data_control_device_v1_set_selection(device, source);
         wl_display_roundtrip(display);
+    }
+
+    void end() const {
+        for (zwlr_data_control_offer_v1* offer : offers) zwlr_data_control_offer_v1_destroy(offer);
+        zwlr_data_control_source_v1_destroy(source);
+        zwlr_data_control_device_v1_destroy(device);
+        zwlr_data_control_manager_v1_destroy(manager);
+        wl_seat_destroy(seat);
+        wl_registry_destroy(registry);
+        wl_display_disconnect(display);
     }
 
     void serve() const {
@@ -70,7 +93,8 @@ SilentCopier::SilentCopier(const std::string& socket, std::string firstBytes)
     if (m_parts->display == nullptr) throw std::runtime_error("no compositor at " + socket);
     static constexpr wl_registry_listener listener{
         .global = Parts::added, .global_remove = [](void*, wl_registry*, std::uint32_t) {}};
-    wl_registry_add_listener(wl_display_get_registry(m_parts->display), &listener, m_parts.get());
+    m_parts->registry = wl_display_get_registry(m_parts->display);
+    wl_registry_add_listener(m_parts->registry, &listener, m_parts.get());
     wl_display_roundtrip(m_parts->display);
     if (m_parts->manager == nullptr) throw std::runtime_error("the compositor has no data control");
     m_parts->copy();
@@ -80,5 +104,5 @@ SilentCopier::SilentCopier(const std::string& socket, std::string firstBytes)
 SilentCopier::~SilentCopier() {
     eventfd_write(m_parts->wakeup.number(), 1);
     m_parts->thread.join();
-    wl_display_disconnect(m_parts->display);
+    m_parts->end();
 }

@@ -11,6 +11,7 @@
 
 struct WaylandMouse::Parts {
     wl_display* display = nullptr;
+    wl_registry* registry = nullptr;
     zwlr_virtual_pointer_manager_v1* manager = nullptr;
     zwlr_virtual_pointer_v1* pointer = nullptr;
 
@@ -32,14 +33,20 @@ WaylandMouse::WaylandMouse(const std::string& socket) : m_parts(std::make_unique
     if (m_parts->display == nullptr) throw std::runtime_error("no compositor at " + socket);
     static constexpr wl_registry_listener listener{
         .global = Parts::added, .global_remove = [](void*, wl_registry*, std::uint32_t) {}};
-    wl_registry_add_listener(wl_display_get_registry(m_parts->display), &listener, m_parts.get());
+    m_parts->registry = wl_display_get_registry(m_parts->display);
+    wl_registry_add_listener(m_parts->registry, &listener, m_parts.get());
     wl_display_roundtrip(m_parts->display);
     if (m_parts->manager == nullptr) throw std::runtime_error("the compositor has no virtual pointers");
     m_parts->pointer = zwlr_virtual_pointer_manager_v1_create_virtual_pointer(m_parts->manager, nullptr);
     wl_display_roundtrip(m_parts->display);
 }
 
-WaylandMouse::~WaylandMouse() { wl_display_disconnect(m_parts->display); }
+WaylandMouse::~WaylandMouse() {
+    zwlr_virtual_pointer_v1_destroy(m_parts->pointer);
+    zwlr_virtual_pointer_manager_v1_destroy(m_parts->manager);
+    wl_registry_destroy(m_parts->registry);
+    wl_display_disconnect(m_parts->display);
+}
 
 void WaylandMouse::click(unsigned x, unsigned y, unsigned width, unsigned height) {
     zwlr_virtual_pointer_v1_motion_absolute(m_parts->pointer, 0, x, y, width, height);

@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/Macro.h"
 
-#ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
-#else
 #include <malloc.h>
-#endif
 
 #include <vector>
 
@@ -14,6 +10,12 @@
 #include "core/KeyCode.h"
 #include "core/createShared.h"
 #include "support/RecordedExample.h"
+
+#ifdef __SANITIZE_ADDRESS__
+// The sanitizer has it, but GCC comes without the header.
+// NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming)
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+#endif
 
 namespace {
 
