@@ -48,6 +48,7 @@ int print(const std::string& text) {
 
 // Nothing is touched before it is certain that this is the only one.
 int main(int argc, char* argv[]) {
+    prepareProcess();
     const CommandLine wishes = readCommandLine({argv + std::min(argc, 1), argv + argc});
     if (wishes.wish == CommandLine::Wish::help) return print(usage(sessionKinds()));
     if (wishes.wish == CommandLine::Wish::version) return print("keyrill " KEYRILL_VERSION "\n");

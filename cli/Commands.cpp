@@ -12,6 +12,7 @@
 #include "cli/Report.h"
 #include "cli/ScriptFile.h"
 #include "cli/TerminalDialogs.h"
+#include "cli/TerminalText.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/script/code/Compiler.h"
 #include "platform/script/run/Run.h"
@@ -28,7 +29,12 @@ constexpr int failed = 1;
 struct Source {
     std::string name;
     std::string text;
+    /// Of a file that is no UTF-8.
+    std::optional<script::ScriptWarning> warning = {};
 };
+
+constexpr const char* noUtf8 =
+    "This is no UTF-8, so the whole file is taken for Mac Roman. Save it as UTF-8.";
 
 /// Empty after an error, which has been told.
 std::optional<Source> sourceOf(const ScriptInput& input) {
@@ -37,10 +43,15 @@ std::optional<Source> sourceOf(const ScriptInput& input) {
         for (const std::string& line : input.lines) source.text += line + "\n";
         return source;
     }
-    Result<std::string> text = readScript(input.file);
-    if (text) return Source{input.file, std::move(text).value()};
-    reportError(input.file + ": ", text.error());
-    return std::nullopt;
+    Result<ScriptText> read = readScript(input.file);
+    if (!read) {
+        reportError(input.file + ": ", read.error());
+        return std::nullopt;
+    }
+    Source source{input.file, std::move(read.value().text)};
+    if (read.value().noUtf8) source.warning = script::ScriptWarning{noUtf8, *read.value().noUtf8};
+    if (source.warning && !input.wantsJson) Report(source.name, source.text).warning(*source.warning);
+    return source;
 }
 
 /// Empty after an error, which has been told.
@@ -75,7 +86,7 @@ script::RunResult run(const Source& source, const script::Program& program,
                     told.emplace(warning.location.line, warning.location.column, warning.message).second;
                 if (isNew) report.warning(warning);
             },
-        .onLog = [](const std::string& line) { std::cerr << line << "\n"; }};
+        .onLog = [](const std::string& line) { std::cerr << harmlessText(line) << "\n"; }};
     script::RunResult result;
     for (std::int64_t runs = 0; play.times.goOnAfter(runs); ++runs) {
         if (runs > 0) SteadyClock().sleepFor(pauseBetween);
@@ -107,10 +118,12 @@ bool isReadBy(KeyInjector& injector) {
     return false;
 }
 
-int checkForEditor(const std::string& text) {
-    const auto compiled = script::compile(text);
-    std::cout << (compiled ? diagnostics(text, nullptr, compiled.value().warnings())
-                           : diagnostics(text, &compiled.error(), {}));
+int checkForEditor(const Source& source) {
+    const auto compiled = script::compile(source.text);
+    std::vector<script::ScriptWarning> warnings;
+    if (compiled) warnings = compiled.value().warnings();
+    if (source.warning) warnings.insert(warnings.begin(), *source.warning);
+    std::cout << diagnostics(source.text, compiled ? nullptr : &compiled.error(), warnings);
     return compiled ? succeeded : failed;
 }
 
@@ -126,12 +139,14 @@ int runWithoutSession(const Source& source, const script::Program& program, cons
     TerminalDialogs dialogs(session.injector());
     const script::RunResult result =
         run(source, program, {session.injector(), session.desktop(), dialogs}, input.play);
+    int status = failed;
     if (session.wasNeeded()) {
         reportError("", why);
-        return failed;
+    } else {
+        status = tell(source, result, input.play);
+        printValue(result, input);
     }
-    const int status = tell(source, result, input.play);
-    printValue(result, input);
+    if (const int signalNumber = session.signals().number()) endBySignal(signalNumber);
     return status;
 }
 
@@ -139,7 +154,7 @@ int runWithoutSession(const Source& source, const script::Program& program, cons
 
 int checkScript(const ScriptInput& input) {
     const std::optional<Source> source = sourceOf(input);
-    if (source && input.wantsJson) return checkForEditor(source->text);
+    if (source && input.wantsJson) return checkForEditor(*source);
     const std::optional<script::Program> program = source ? compiled(*source) : std::nullopt;
     if (!program) return failed;
     const Report report(source->name, source->text);
@@ -162,6 +177,8 @@ int traceScript(const ScriptInput& input) {
 int formatScript(const ScriptInput& input) {
     const std::optional<Source> source = sourceOf(input);
     if (!source) return failed;
+    // What is longer than a script may be is refused at once.
+    if (source->text.size() > script::maxSourceSize && !compiled(*source)) return failed;
     const auto text = script::formatted(source->text);
     if (!text) {
         Report(source->name, source->text).syntaxError(text.error());

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/NoSession.h"
 
+#include <poll.h>
+
 #include <algorithm>
+#include <chrono>
 
 #include "platform/linux/SteadyClock.h"
 
@@ -14,11 +17,18 @@ class NoSession::Waiting : public InjectionSession {
     Step<> text(std::string_view /*text*/, std::uint32_t /*modifiers*/) override { return refused(); }
     Step<> keyDown(const HeldKey& /*key*/) override { return refused(); }
     Step<> keyUp(const HeldKey& /*key*/) override { return refused(); }
-    /// A signal ends the process: nothing is held.
     Step<> pause(double seconds) override {
+        using std::chrono::milliseconds;
         constexpr double longest = 1e9;
-        m_clock.sleepFor(Clock::Seconds(std::min(seconds, longest)));
-        return {};
+        const auto end = m_clock.now() + std::chrono::duration_cast<Clock::Time::duration>(
+                                             Clock::Seconds(std::min(seconds, longest)));
+        while (!m_owner.isOver()) {
+            const auto rest = std::chrono::ceil<milliseconds>(end - m_clock.now());
+            if (rest <= rest.zero()) return {};
+            pollfd waited{m_owner.signals().fileDescriptor(), POLLIN, 0};
+            poll(&waited, 1, static_cast<int>(std::min(rest, milliseconds(1000)).count()));
+        }
+        return Halt::cancelled();
     }
 
   private:

@@ -5,6 +5,7 @@
 #include <array>
 #include <iostream>
 
+#include "cli/TerminalText.h"
 #include "platform/Utf8.h"
 
 namespace {
@@ -45,16 +46,6 @@ std::size_t columnsOf(char32_t character) {
     return row == unusualColumns.end() ? 1 : row->count;
 }
 
-/// Without what would move a terminal's cursor or change its state.
-std::string shown(std::string_view line) {
-    std::string out(line);
-    for (char& c : out) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte != '\t' && (byte < 0x20 || byte == 0x7F)) c = ' ';
-    }
-    return out;
-}
-
 /// As wide as so many characters of the line: tabs stay, all else is blank.
 std::string indentation(std::string_view line, std::uint32_t characters) {
     std::string out;
@@ -69,17 +60,17 @@ std::string indentation(std::string_view line, std::uint32_t characters) {
 
 void Report::tell(const char* kind, const script::ScriptError& error) const {
     std::cerr << m_file << ":" << error.location.line << ":" << error.location.column << ": " << kind
-              << " error: " << error.message << " (" << error.number << ")\n";
+              << " error: " << harmlessText(error.message) << " (" << error.number << ")\n";
     const std::string_view line = script::lineOf(m_source, error.location.line);
     if (!line.empty() && line.size() <= widestLine) {
-        std::cerr << shown(line) << "\n" << indentation(line, error.location.column - 1) << "^\n";
+        std::cerr << harmlessText(line) << "\n" << indentation(line, error.location.column - 1) << "^\n";
     }
-    if (!error.hint.empty()) std::cerr << "Hint: " << error.hint << "\n";
+    if (!error.hint.empty()) std::cerr << "Hint: " << harmlessText(error.hint) << "\n";
 }
 
 void Report::warning(const script::ScriptWarning& warning) const {
     std::cerr << m_file << ":" << warning.location.line << ":" << warning.location.column
-              << ": warning: " << warning.message << "\n";
+              << ": warning: " << harmlessText(warning.message) << "\n";
 }
 
 void reportError(const std::string& subject, const Error& error) {

@@ -38,7 +38,13 @@ Result<std::string> bytesOfFile(const std::string& file) {
 
 }  // namespace
 
-Result<std::string> readScript(const std::string& file) {
+Result<ScriptText> readScript(const std::string& file) {
     auto bytes = file == "-" ? bytesOf(STDIN_FILENO) : bytesOfFile(file);
-    return bytes ? decodedText(std::move(bytes).value()) : bytes;
+    if (!bytes) return bytes.error();
+    ScriptText script;
+    if (const auto offset = firstMacRomanByte(bytes.value())) {
+        script.noUtf8 = script::locate(bytes.value(), *offset);
+    }
+    script.text = decodedText(std::move(bytes).value());
+    return script;
 }

@@ -3,11 +3,13 @@
 
 #include <algorithm>
 #include <charconv>
-#include <fstream>
+#include <chrono>
 #include <set>
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include "cli/QuestionTerminal.h"
 
 namespace {
 
@@ -48,73 +50,110 @@ std::optional<std::vector<std::size_t>> choicesOf(const ScriptDialog& dialog, co
 
 }  // namespace
 
-/// Two streams: one for both directions cannot write any more once it has read.
-struct TerminalDialogs::Terminal {
-    std::ifstream in{"/dev/tty"};
-    std::ofstream out{"/dev/tty"};
-
-    /// False at the end of input.
-    bool takeLine(std::string& line) {
-        out.flush();
-        return static_cast<bool>(std::getline(in, line));
+/// One question, until it is answered.
+class TerminalDialogs::Question {
+  public:
+    Question(const ScriptDialog& dialog, QuestionTerminal& terminal, KeyInjector& injector)
+        : m_dialog(dialog), m_terminal(terminal), m_injector(injector) {
+        constexpr double longest = 1e9;
+        if (dialog.givingUpAfter <= 0) return;
+        const std::chrono::duration<double> patience(std::min(dialog.givingUpAfter, longest));
+        m_deadline = std::chrono::steady_clock::now() +
+                     std::chrono::duration_cast<std::chrono::steady_clock::duration>(patience);
     }
+
+    /// Empty if nobody is going to answer.
+    std::optional<ScriptAnswer> answer() {
+        showTexts();
+        if (!m_dialog.choices.empty()) return choice();
+        if (m_dialog.defaultAnswer && !takeText()) return ended();
+        std::string line;
+        while (!m_answer.button) {
+            m_terminal.write(menuOf(m_dialog) + "\n> ");
+            if (!take(line)) return ended();
+            m_answer.button = buttonOf(m_dialog, line);
+        }
+        return m_answer;
+    }
+
+  private:
+    using Came = QuestionTerminal::Came;
+
+    void showTexts() const {
+        for (const std::string* text : {&m_dialog.title, &m_dialog.text, &m_dialog.message}) {
+            if (!text->empty() || text == &m_dialog.text) m_terminal.write(*text + "\n");
+        }
+    }
+
+    bool take(std::string& line, bool isHidden = false) {
+        const auto isStopped = [this] { return m_injector.isCancelled(); };
+        m_came = isHidden ? m_terminal.takeHiddenLine(line, isStopped, m_deadline)
+                          : m_terminal.takeLine(line, isStopped, m_deadline);
+        return m_came == Came::line;
+    }
+
+    bool takeText() {
+        m_answer.text = *m_dialog.defaultAnswer;
+        m_terminal.write(m_dialog.hidesAnswer ? "[] " : "[" + m_answer.text + "] ");
+        std::string line;
+        const bool isTyped = take(line, m_dialog.hidesAnswer);
+        if (!line.empty()) m_answer.text = line;
+        return isTyped;
+    }
+
+    /// Without a line.
+    std::optional<ScriptAnswer> ended() {
+        if (m_came != Came::line) m_terminal.write("\n");
+        if (m_came == Came::deadline) return m_answer;
+        if (m_came == Came::stop || !m_dialog.cancelButton) return std::nullopt;
+        m_answer.button = m_dialog.cancelButton;
+        return m_answer;
+    }
+
+    /// Until the line names as many as may be chosen. An empty line takes what is chosen already.
+    std::optional<ScriptAnswer> choice() {
+        for (std::size_t i = 0; i < m_dialog.choices.size(); ++i) {
+            const auto& chosen = m_dialog.defaultChoices;
+            const bool isChosen = std::find(chosen.begin(), chosen.end(), i) != chosen.end();
+            m_terminal.write(std::to_string(i + 1) + (isChosen ? " * " : "   ") + m_dialog.choices[i] + "\n");
+        }
+        for (;;) {
+            m_terminal.write("0 " + m_dialog.buttons.front() + "\n> ");
+            std::string line;
+            if (!take(line)) return ended();
+            if (line == "0") return ScriptAnswer{.button = m_dialog.cancelButton, .text = ""};
+            const auto chosen =
+                line.empty() ? std::optional(m_dialog.defaultChoices) : choicesOf(m_dialog, line);
+            const bool fits = chosen && (m_dialog.allowsNone || !chosen->empty()) &&
+                              (m_dialog.allowsSeveral || chosen->size() < 2);
+            if (fits) return ScriptAnswer{m_dialog.defaultButton, "", *chosen};
+        }
+    }
+
+    const ScriptDialog& m_dialog;
+    QuestionTerminal& m_terminal;
+    KeyInjector& m_injector;
+    std::optional<QuestionTerminal::Time> m_deadline;
+    ScriptAnswer m_answer;
+    Came m_came = Came::line;
 };
 
 Result<ScriptAnswer> TerminalDialogs::ask(const ScriptDialog& dialog) {
-    Terminal terminal;
-    if (!terminal.in || !terminal.out)
-        return Error{"No dialog can be shown here.", "Run the script in a terminal."};
+    QuestionTerminal terminal;
+    if (!terminal) return Error{"No dialog can be shown here.", "Run the script in a terminal."};
     m_injector.rest();
-    if (!dialog.title.empty()) terminal.out << dialog.title << "\n";
-    terminal.out << dialog.text << "\n";
-    if (!dialog.message.empty()) terminal.out << dialog.message << "\n";
-    if (!dialog.choices.empty()) return choose(dialog, terminal);
-    ScriptAnswer answer;
-    std::string line;
-    if (dialog.defaultAnswer) {
-        terminal.out << "[" << *dialog.defaultAnswer << "] ";
-        terminal.takeLine(line);
-        answer.text = line.empty() ? *dialog.defaultAnswer : line;
-    }
-    while (!answer.button) {
-        terminal.out << menuOf(dialog) << "\n> ";
-        if (!terminal.takeLine(line)) {
-            answer.button = dialog.cancelButton.value_or(dialog.buttons.size() - 1);
-            break;
-        }
-        answer.button = buttonOf(dialog, line);
-    }
-    return answer;
-}
-
-/// Until the line names as many as may be chosen. An empty line takes what is chosen already.
-ScriptAnswer TerminalDialogs::choose(const ScriptDialog& dialog, Terminal& terminal) {
-    ScriptAnswer answer{dialog.defaultButton, "", {}};
-    for (std::size_t i = 0; i < dialog.choices.size(); ++i) {
-        const bool isChosen = std::count(dialog.defaultChoices.begin(), dialog.defaultChoices.end(), i) > 0;
-        terminal.out << i + 1 << (isChosen ? " * " : "   ") << dialog.choices[i] << "\n";
-    }
-    for (;;) {
-        terminal.out << "0 " << dialog.buttons.front() << "\n> ";
-        std::string line;
-        if (!terminal.takeLine(line) || line == "0") {
-            answer.button = dialog.cancelButton;
-            return answer;
-        }
-        const auto chosen = line.empty() ? std::optional(dialog.defaultChoices) : choicesOf(dialog, line);
-        const bool fits =
-            chosen && (dialog.allowsNone || !chosen->empty()) && (dialog.allowsSeveral || chosen->size() < 2);
-        if (!fits) continue;
-        answer.chosen = *chosen;
-        return answer;
-    }
+    std::optional<ScriptAnswer> answer = Question(dialog, terminal, m_injector).answer();
+    if (answer) return *std::move(answer);
+    m_injector.stopPlayback();
+    return Error{"The question was not answered.", ""};
 }
 
 Result<void> TerminalDialogs::notify(const ScriptNotification& notification) {
-    std::ofstream terminal("/dev/tty");
-    if (terminal) {
-        terminal << notification.title << (notification.title.empty() ? "" : ": ") << notification.text
-                 << "\n";
+    const QuestionTerminal terminal;
+    std::string line = notification.title;
+    for (const std::string* text : {&notification.subtitle, &notification.text}) {
+        if (!text->empty()) line += (line.empty() ? "" : ": ") + *text;
     }
+    if (terminal) terminal.write(line + "\n");
     return {};
 }

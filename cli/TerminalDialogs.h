@@ -13,7 +13,8 @@
 /// Of a list to choose from the numbers are typed, with blanks between them; 0 is the cancel button.
 ///
 /// A number or the name of a button presses it; an empty line the default button. Where an answer is asked
-/// for, it stands on a line of its own before. The end of input is the cancel button. The run leaves the
+/// for, it stands on a line of its own before, and is not to be seen if it is hidden. The end of input is the
+/// cancel button; without one, and when the user asks to stop, the playback is stopped. The run leaves the
 /// keyboard to the user meanwhile.
 class TerminalDialogs : public ScriptDialogs {
   public:
@@ -24,9 +25,7 @@ class TerminalDialogs : public ScriptDialogs {
     Result<void> notify(const ScriptNotification& notification) override;
 
   private:
-    struct Terminal;
-
-    static ScriptAnswer choose(const ScriptDialog& dialog, Terminal& terminal);
+    class Question;
 
     KeyInjector& m_injector;
 };

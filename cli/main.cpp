@@ -11,6 +11,7 @@
 #include "cli/Commands.h"
 #include "cli/Keys.h"
 #include "cli/Report.h"
+#include "platform/linux/StandardStreams.h"
 #include "platform/script/commands/LanguageReference.h"
 
 namespace {
@@ -62,6 +63,9 @@ int perform(const std::vector<std::string_view>& arguments) {
         }
         if (input.value()) return command->perform(*input.value());
     }
+    if (command == commands.end() && !first.empty() && first.front() != '-' && first != "keys") {
+        reportError("", Error{"There is no command “" + std::string(first) + "”.", ""});
+    }
     std::cerr << usage;
     return 1;
 }
@@ -69,6 +73,7 @@ int perform(const std::vector<std::string_view>& arguments) {
 }  // namespace
 
 int main(int count, char** values) {
+    occupyStandardStreams();
     std::ios::sync_with_stdio(false);
     const int status = perform({values + std::min(count, 1), values + count});
     if (std::cout.flush()) return status;

@@ -74,3 +74,8 @@ std::string decodedText(std::string bytes) {
     if (view.starts_with(utf8Mark)) bytes.erase(0, utf8Mark.size());
     return bytes;
 }
+
+std::optional<std::size_t> firstMacRomanByte(std::string_view bytes) {
+    if (bytes.starts_with(littleEndianMark) || bytes.starts_with(bigEndianMark)) return std::nullopt;
+    return invalidUtf8(bytes);
+}

@@ -4,6 +4,10 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/linux/StandardStreams.h"
+
+void prepareProcess() { occupyStandardStreams(); }
+
 std::string inOneLine(const Error& error) {
     return error.hint.empty() ? error.message : error.message + " " + error.hint;
 }

@@ -7,6 +7,9 @@
 #include "platform/Result.h"
 #include "platform/sessions/Sessions.h"
 
+/// What every process of the program does first of all.
+void prepareProcess();
+
 /// What is wrong and what to do about it, without a line end.
 std::string inOneLine(const Error& error);
 

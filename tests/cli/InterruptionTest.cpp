@@ -2,6 +2,7 @@
 //
 // keyrill-script run where there is no display, at a terminal's Ctrl+C, and when the X server goes.
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <pty.h>
 #include <signal.h>
 #include <sys/wait.h>
@@ -10,10 +11,12 @@
 #include <array>
 #include <fstream>
 #include <stdexcept>
+#include <utility>
 
 #include "cli/Play.h"
 #include "display/KeyboardProbe.h"
 #include "support/Programs.h"
+#include "support/Terminal.h"
 #include "support/XServer.h"
 
 namespace {
@@ -37,12 +40,22 @@ class RunOnTerminal {
     ~RunOnTerminal() {
         if (!m_hasEnded) kill(m_process, SIGKILL);
         if (!m_hasEnded) waitpid(m_process, nullptr, 0);
-        close(m_terminal);
+        if (m_terminal >= 0) close(m_terminal);
     }
     RunOnTerminal(const RunOnTerminal&) = delete;
     RunOnTerminal& operator=(const RunOnTerminal&) = delete;
 
     void type(char character) const { ASSERT_EQ(write(m_terminal, &character, 1), 1); }
+    void closeTerminal() { close(std::exchange(m_terminal, -1)); }
+    /// Waits until that is on the screen.
+    [[nodiscard]] bool shows(const std::string& text) {
+        return eventually([&] {
+            pollfd waited{m_terminal, POLLIN, 0};
+            if (poll(&waited, 1, 0) == 1) m_seen += output();
+            return m_seen.find(text) != std::string::npos;
+        });
+    }
+    const std::string& seen() const { return m_seen; }
     /// As of waitpid(); -1 at a deadline.
     int wait() {
         int status = -1;
@@ -68,6 +81,7 @@ class RunOnTerminal {
     int m_terminal = -1;
     pid_t m_process = -1;
     bool m_hasEnded = false;
+    std::string m_seen;
 };
 
 TEST(InterruptionTest, controlCReleasesAllKeysAndEndsTheProgram) {
@@ -86,11 +100,53 @@ TEST(InterruptionTest, aClosedTerminalReleasesAllKeys) {
     const XServer server;
     const KeyboardProbe probe(server.display());
     const std::string before = probe.held();
-    {
-        const RunOnTerminal program(server.display(), holding);
-        ASSERT_TRUE(eventually([&] { return probe.held() != before; }));
-    }
+    RunOnTerminal program(server.display(), holding);
+    ASSERT_TRUE(eventually([&] { return probe.held() != before; }));
+    program.closeTerminal();
+    const int status = program.wait();
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGHUP) << status;
     EXPECT_EQ(probe.awaitHeld(before), before);
+}
+
+/// A question on the terminal, while keys could be pressed.
+class QuestionTest : public testing::TestWithParam<const char*> {
+  protected:
+    XServer server;
+    RunOnTerminal program{server.display(), GetParam()};
+};
+
+TEST_P(QuestionTest, endsAtControlC) {
+    ASSERT_TRUE(program.shows("> ")) << program.seen();
+    program.type('\x03');
+    const int status = program.wait();
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGINT) << status << ": " << program.seen();
+}
+
+TEST_P(QuestionTest, endsWithTheServer) {
+    ASSERT_TRUE(program.shows("> ")) << program.seen();
+    server.program().signal(SIGKILL);
+    const int status = program.wait();
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1) << status << ": " << program.seen();
+}
+
+INSTANTIATE_TEST_SUITE_P(Questions, QuestionTest,
+                         testing::Values("display dialog \"x\"", R"(choose from list {"a"})"));
+
+/// Without the streams that a program has, its connections would get their numbers.
+TEST(InterruptionTest, aRunWithoutItsStreamsTypesAllAndEnds) {
+    const XServer server;
+    const Terminal terminal(server.display());
+    const TemporaryFolder folder;
+    std::ofstream(folder.file("script"))
+        << "tell application \"System Events\"\nkeystroke \"one\"\n"
+           "log \"hello hello hello hello hello\"\nkeystroke \"two\"\nend tell\n";
+    for (const char* closed : {"2>&-", ">&- 2>&-", "<&- >&- 2>&-"}) {
+        Child run({"sh", "-c", "exec \"$0\" run \"$1\" " + std::string(closed), programs::scriptTool,
+                   folder.file("script")},
+                  {.environment = {{"DISPLAY", server.display()}, {"XDG_RUNTIME_DIR", folder.path()}}});
+        EXPECT_EQ(run.wait(), 0) << closed;
+    }
+    EXPECT_EQ(terminal.typed(18), "onetwoonetwoonetwo");
 }
 
 struct NoDisplay {

@@ -47,15 +47,16 @@ class TerminalRun {
     void type(const std::string& keys) const {
         ASSERT_EQ(write(m_master.number(), keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
     }
-    /// The exit status, once it has ended.
+    /// The exit status, once it has ended; 128 and the number of the signal that has ended it.
     int end() {
         while (read()) {
         }
         int status = 0;
         waitpid(m_pid, &status, 0);
         m_pid = -1;
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
     }
+    void signal(int number) const { kill(m_pid, number); }
     /// All that was on the screen, what was typed among it.
     const std::string& screen() const { return m_screen; }
 
@@ -122,7 +123,9 @@ INSTANTIATE_TEST_SUITE_P(
         Answer{"aButtonByItsNumber", R"(button returned of (display dialog "Go on?"))", "2\n", R"("OK")"},
         Answer{"aButtonByItsName", R"(button returned of (display alert "Look"))", "OK\n", R"("OK")"},
         Answer{"theDefaultButtonByReturn", R"(button returned of (display dialog "Go on?"))", "\n",
-               R"("OK")"}),
+               R"("OK")"},
+        Answer{"anAlertsDefaultIsTheLast", R"(button returned of (display alert "x" buttons {"A", "B"}))",
+               "\n", R"("B")"}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(TerminalListTest, showsWhatThereIsToChoose) {
@@ -159,6 +162,72 @@ TEST(TerminalDialogTest, cancelEndsTheScript) {
     EXPECT_EQ(run.end(), 1);
     EXPECT_EQ(run.screen().find("went on"), std::string::npos);
 }
+
+TEST(TerminalDialogTest, aHiddenAnswerIsNotToBeSeen) {
+    TerminalRun run(R"(text returned of (display dialog "Word?" default answer "old" with hidden answer))");
+    ASSERT_TRUE(run.shows("[] ")) << run.screen();
+    run.type("secret\n");
+    ASSERT_TRUE(run.shows("> ")) << run.screen();
+    EXPECT_EQ(run.screen().find("secret"), std::string::npos);
+    EXPECT_EQ(run.screen().find("old"), std::string::npos);
+    // What comes behind it is to be seen again.
+    run.type("2\n");
+    EXPECT_TRUE(run.shows("2\r\n\"secret\"\r\n")) << run.screen();
+}
+
+TEST(TerminalDialogTest, oneThatGivesUpWaitsNoLonger) {
+    TerminalRun run(R"(gave up of (display dialog "x" giving up after 0.2))");
+    EXPECT_TRUE(run.shows("true\r\n")) << run.screen();
+    EXPECT_EQ(run.end(), 0);
+}
+
+TEST(TerminalDialogTest, withoutADefaultButtonReturnAsksAgain) {
+    TerminalRun run(R"(button returned of (display dialog "x" buttons {"A", "B"}))");
+    ASSERT_TRUE(run.shows("1 A   2 B\r\n> ")) << run.screen();
+    run.type("\n");
+    ASSERT_TRUE(run.shows("1 A   2 B\r\n> ")) << run.screen();
+    run.type("1\n");
+    EXPECT_TRUE(run.shows("\"A\"\r\n")) << run.screen();
+}
+
+TEST(TerminalDialogTest, withoutACancelButtonTheEndOfInputEndsTheScript) {
+    TerminalRun run("display dialog \"x\" buttons {\"Stop\", \"Go\"}\nlog \"went on\"");
+    ASSERT_TRUE(run.shows("> ")) << run.screen();
+    run.type("\x04");
+    EXPECT_EQ(run.end(), 1);
+    EXPECT_EQ(run.screen().find("went on"), std::string::npos);
+}
+
+TEST(TerminalDialogTest, whatItShowsDoesNotActOnTheTerminal) {
+    TerminalRun run("display dialog (\"a\" & (ASCII character 27) & \"[31mb\")");
+    EXPECT_TRUE(run.shows("a [31mb\r\n")) << run.screen();
+}
+
+TEST(TerminalDialogTest, aNotificationHasAllItsTexts) {
+    TerminalRun run(R"(display notification "text" with title "title" subtitle "sub")");
+    EXPECT_TRUE(run.shows("title: sub: text\r\n")) << run.screen();
+}
+
+/// What a script waits for when a signal comes.
+class TerminalSignalTest : public testing::TestWithParam<const char*> {};
+
+TEST_P(TerminalSignalTest, endsTheRun) {
+    for (const int number : {SIGTERM, SIGHUP}) {
+        TerminalRun run(std::string("log \"begun\"\n") + GetParam());
+        ASSERT_TRUE(run.shows("begun")) << run.screen();
+        run.signal(number);
+        EXPECT_EQ(run.end(), 128 + number) << run.screen();
+    }
+    TerminalRun run(std::string("log \"begun\"\n") + GetParam());
+    ASSERT_TRUE(run.shows("begun")) << run.screen();
+    run.type("\x03");
+    EXPECT_EQ(run.end(), 128 + SIGINT) << run.screen();
+}
+
+INSTANTIATE_TEST_SUITE_P(Waits, TerminalSignalTest,
+                         testing::Values("display dialog \"x\"", R"(choose from list {"a"})",
+                                         R"(display dialog "x" default answer "" with hidden answer)",
+                                         "delay 1000", "repeat\nend repeat"));
 
 TEST(TerminalDialogTest, withoutATerminalNobodyIsAsked) {
     TemporaryFolder folder;

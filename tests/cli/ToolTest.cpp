@@ -243,11 +243,15 @@ TEST_F(ToolTest, keysPrintsTheTable) {
 }
 
 TEST_F(ToolTest, anUnknownCommandShowsTheUsage) {
-    for (const char* arguments : {"", "check", "play script", "check a b"}) {
+    for (const char* arguments : {"", "check", "check a b", "keys a"}) {
         const Outcome outcome = run(arguments);
         EXPECT_EQ(outcome.status, 1) << arguments;
         EXPECT_EQ(outcome.errors.rfind(usage, 0), 0U) << arguments;
     }
+    const Outcome unknown = run("play script");
+    EXPECT_EQ(unknown.status, 1);
+    EXPECT_EQ(unknown.errors.rfind(std::string("keyrill-script: There is no command “play”.\n") + usage, 0),
+              0U);
 }
 
 TEST_F(ToolTest, linesCanBeGivenInsteadOfAFile) {
@@ -286,6 +290,69 @@ TEST_F(ToolTest, aLineIsShownWithoutControlCharacters) {
               "script:1:8: syntax error: Expected end of line but found unknown token. (-2741)\n"
               "delay 1 [31m\n"
               "       ^\n");
+}
+
+TEST_F(ToolTest, nothingThatAScriptSaysActsOnTheTerminal) {
+    write("delay |\x1b]0;p\x07\xc2\x9b|\nlog \"\x1b[1m\xc2\x85\"\nerror \"\x1b[31m\xc2\x9b!m…\"\n");
+    for (const char* command : {"check", "trace", "run"}) {
+        const std::string errors = run(command + std::string(" script")).errors;
+        EXPECT_NE(errors, "") << command;
+        for (const char* const control : {"\x1b", "\x07", "\xc2\x85", "\xc2\x9b"})
+            EXPECT_EQ(errors.find(control), std::string::npos) << command << ": " << errors;
+    }
+    write("error \"\x1b[31m\xc2\x9b!m…\"\n");
+    EXPECT_EQ(run("run script").errors,
+              "script:1:1: execution error:  [31m !m… (-2700)\nerror \" [31m !m…\"\n^\n");
+}
+
+TEST_F(ToolTest, aFileThatIsNoUtf8IsWarnedOf) {
+    write("log 1\nlog \"caf\xe9\"\n");
+    const std::string warning =
+        "script:2:9: warning: This is no UTF-8, so the whole file is taken for Mac Roman. Save it as "
+        "UTF-8.\n";
+    EXPECT_EQ(run("check script"), (Outcome{0, "", warning}));
+    EXPECT_EQ(run("run script"), (Outcome{0, "", warning + "(*1*)\n(*cafÈ*)\n"}));
+    EXPECT_EQ(run("format script"), (Outcome{0, "log 1\nlog \"cafÈ\"\n", warning}));
+    EXPECT_EQ(run("check --json script"),
+              (Outcome{0,
+                       "[{\"kind\":\"warning\",\"line\":2,\"column\":9,\"length\":1,\"message\":\"This is no "
+                       "UTF-8, so the whole file is taken for Mac Roman. Save it as UTF-8.\"}]\n",
+                       ""}));
+    // A mark says what it is.
+    write("\xff\xfe" + std::string("l\0o\0g\0 \0\xe9\0", 10));
+    EXPECT_EQ(run("check script").errors.find("Mac Roman"), std::string::npos);
+}
+
+TEST_F(ToolTest, whatIsAskedOfADesktopFailsWithoutOne) {
+    for (const char* script :
+         {"exists application \"F\"", "application \"F\" is running", "tell application \"F\" to activate",
+          "tell application \"System Events\" to frontmost of process \"F\"",
+          "repeat until application \"F\" is running\ndelay 0.01\nend repeat"}) {
+        write(script);
+        const Outcome outcome = run("run script");
+        EXPECT_EQ(outcome.status, 1) << script;
+        EXPECT_EQ(outcome.output, "") << script;
+        EXPECT_EQ(outcome.errors.rfind("keyrill-script: The X server", 0), 0U) << outcome.errors;
+    }
+}
+
+TEST_F(ToolTest, whatAPropertyHoldsIsNotKeptForTheNextRun) {
+    EXPECT_EQ(run("trace --times 2 -e 'property L : {}' -e 'set end of L to 1' -e 'delay count of L'").output,
+              "[\"delay\",1]\n[\"delay\",1]\n");
+}
+
+TEST_F(ToolTest, theValueOfAFileIsNotPrinted) {
+    write("log \"a\"\n1 + 1\n");
+    EXPECT_EQ(run("run script"), (Outcome{0, "", "(*a*)\n"}));
+}
+
+TEST_F(ToolTest, aScriptThatIsTooLongIsRefusedByEachCommand) {
+    write(std::string(std::size_t{17} << 20U, ' '));
+    const Outcome checked = run("check script");
+    EXPECT_EQ(checked.status, 1);
+    EXPECT_NE(checked.errors, "");
+    EXPECT_EQ(run("format script"), checked);
+    EXPECT_EQ(run("trace script"), checked);
 }
 
 TEST_F(ToolTest, aFullDeviceIsAnError) {

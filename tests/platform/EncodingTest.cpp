@@ -45,4 +45,13 @@ TEST(EncodingTest, otherBytesAreMacRoman) {
     EXPECT_EQ(decodedText("caf\x8E \xDB"), "café €");
 }
 
+TEST(EncodingTest, theByteForWhichItIsMacRomanIsKnown) {
+    EXPECT_EQ(firstMacRomanByte("caf\xC3\xA9 \x8E"), 6U);
+    EXPECT_EQ(firstMacRomanByte("é¬😀"), std::nullopt);
+    EXPECT_EQ(firstMacRomanByte(""), std::nullopt);
+    EXPECT_EQ(firstMacRomanByte("\xEF\xBB\xBF\x8E"), 3U);
+    EXPECT_EQ(firstMacRomanByte("\xFF\xFE\x8E"), std::nullopt);
+    EXPECT_EQ(firstMacRomanByte("\xFE\xFF\x8E"), std::nullopt);
+}
+
 }  // namespace

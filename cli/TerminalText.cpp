@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "cli/TerminalText.h"
+
+#include "platform/Utf8.h"
+
+namespace {
+
+constexpr bool isControl(char32_t code) {
+    const bool isMeant = code == '\t' || code == '\n';
+    return (code < 0x20 && !isMeant) || (code >= 0x7F && code < 0xA0);
+}
+
+}  // namespace
+
+std::string harmlessText(std::string_view text) {
+    std::string harmless;
+    harmless.reserve(text.size());
+    while (!text.empty()) {
+        const Utf8Character character = firstCharacter(text);
+        // A byte that is no character would be one of the control characters beyond ASCII to some.
+        if (!character.code || isControl(*character.code)) {
+            harmless += ' ';
+        } else {
+            harmless += text.substr(0, character.length);
+        }
+        text.remove_prefix(character.length);
+    }
+    return harmless;
+}
