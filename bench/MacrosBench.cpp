@@ -75,6 +75,7 @@ class Library {
         : m_files(m_home.path(), m_home.file("data")),
           m_controller({.folderFollower = m_follower,
                         .macroRecords = platform.macroRecords,
+                        .recordings = platform.recordings,
                         .macroFiles = m_files,
                         .hotKeys = platform.hotKeys,
                         .firstHotKey = 1000,

@@ -15,6 +15,7 @@
 #include "app/panels/RecordHerePanel.h"
 #include "app/panels/WelcomePanel.h"
 #include "app/shortcuts/ShortcutTitles.h"
+#include "app/tray/MacroMenuItem.h"
 #include "engine/EngineState.h"
 #include "engine/HotKeyCenter.h"
 #include "engine/KeyRecorder.h"
@@ -40,6 +41,7 @@ constexpr std::chrono::seconds killDelay{1};
 AppController::AppController(Services& services, Windows& windows, StatusItem& item, Dialogs& dialogs,
                              LibraryController& library)
     : m_services(services),
+      m_library(library),
       m_statusNotice(item),
       m_gate(services.eventMonitor, [this] { followGate(); }),
       m_dialogs(dialogs, m_gate),
@@ -52,8 +54,8 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_updateDesk(services.updateService, services.workspace, m_dialogs),
       m_helpDesk(services.workspace, services.systemFacts, m_stage),
       m_filesDesk(services.macroFiles, services.notifications, m_scriptNotices, m_dialogs, m_gate, m_stage),
-      m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, library.hotKeys(),
-                        m_dialogs, m_stage),
+      m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, library, m_dialogs,
+                        m_stage),
       m_accessDesk(services.eventMonitor, services.notifications, m_dialogs, m_overlayDesk),
       m_recordHereDesk(services.eventMonitor, services.hotKeys, m_preferencesDesk.model.stop, m_stage),
       m_macrosDesk({library, services.macroFiles, services.keyboardLayout, m_gate, m_stage,
@@ -82,6 +84,12 @@ void AppController::connectDesks() {
         connect(&shortcut, &ShortcutModel::keyComboDidChange, this,
                 [this, &shortcut] { shortcutRecorderKeyComboDidChange(&shortcut); });
     }
+    connect(&m_library, &LibraryController::historyGrown, this, [this](std::size_t index) {
+        MacroMenuItem* const item = m_menuDesk.addToHistory(m_library.history().entries().at(index), index);
+        connect(item, &QAction::triggered, this, [this, item] { perform(&AppController::runMacro, item); });
+    });
+    connect(&m_library, &LibraryController::historyShrunk, this,
+            [this](int macroId) { m_menuDesk.removeFromHistory(macroId); });
     connect(&m_accessDesk, &AccessDesk::refused, &m_recordHereDesk, &RecordHereDesk::begin);
     connect(&m_recordHereDesk, &RecordHereDesk::helpWanted, this, [this] { openDocumentation(nullptr); });
     connect(&m_overlayDesk, &OverlayDesk::promptConfirmed, this,

@@ -169,6 +169,7 @@ class AppController : public QObject, public SharedController {
 
   private:
     Services& m_services;
+    LibraryController& m_library;
     StatusNotice m_statusNotice;
     Gate m_gate;
     GatedDialogs m_dialogs;

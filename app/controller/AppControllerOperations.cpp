@@ -9,6 +9,7 @@
 #include "app/controller/AppController.h"
 #include "app/controller/BugReport.h"
 #include "app/dialogs/AlertTexts.h"
+#include "app/library/LibraryController.h"
 #include "app/overlay/Fades.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/panels/WelcomePanel.h"
@@ -159,8 +160,7 @@ void AppController::activateBusyStatusMenu() { m_menuDesk.showBusy(); }
 void AppController::activateStatusMenu() { m_menuDesk.showNormal(); }
 
 void AppController::addMacro(const boost::shared_ptr<Macro>& macro) {
-    MacroMenuItem* const item = m_menuDesk.addToHistory(*macro);
-    connect(item, &QAction::triggered, this, [this, item] { perform(&AppController::runMacro, item); });
+    m_library.history().add(*macro);
     m_macrosDesk.takeRecording(*macro);
 }
 

@@ -50,6 +50,17 @@ std::optional<std::string> linesOf(const std::string& script) {
                          script.size() - steps::firstLine.size() - steps::lastLine.size());
 }
 
+std::vector<MacrosWindow::Recording> recordingsOf(const RecordingHistory& history) {
+    std::vector<MacrosWindow::Recording> recordings;
+    for (const HistoryEntry& entry : history.entries()) {
+        const qint64 milliseconds = entry.recordedAt.time_since_epoch().count();
+        recordings.push_back({.macroId = entry.macroId,
+                              .title = QString::fromStdString(entry.title),
+                              .recordedAt = QDateTime::fromMSecsSinceEpoch(milliseconds)});
+    }
+    return recordings;
+}
+
 }  // namespace
 
 MacrosDesk::MacrosDesk(const Means& means)
@@ -114,13 +125,15 @@ void MacrosDesk::connectWindow() {
     connect(&window->settings(), &MacroSettingsRow::hotKeyWanted, this, &MacrosDesk::setHotKey);
     connect(&window->settings(), &MacroSettingsRow::playWanted, this, &MacrosDesk::setPlay);
     connect(&window->settings(), &MacroSettingsRow::recordingChanged, this, &MacrosDesk::holdHotKeys);
-    window->setRecordings([this] {
-        std::vector<MacrosWindow::Recording> recordings;
-        for (const int id : m_recordings)
-            recordings.push_back({id, QString::fromStdString(MacroManager::macro(id)->displayText())});
-        return recordings;
-    });
-    window->setHasRecordings(!m_recordings.empty());
+    connect(window, &MacrosWindow::forgetWanted, this, &MacrosDesk::forget);
+    connect(window, &MacrosWindow::forgetAllWanted, this, &MacrosDesk::forgetAll);
+    window->setRecordings([this] { return recordingsOf(m_means.library.history()); });
+    const auto showHasRecordings = [this] {
+        m_window->setHasRecordings(!m_means.library.history().entries().empty());
+    };
+    connect(&m_means.library, &LibraryController::historyGrown, window, showHasRecordings);
+    connect(&m_means.library, &LibraryController::historyShrunk, window, showHasRecordings);
+    showHasRecordings();
 }
 
 void MacrosDesk::show() {
@@ -311,6 +324,16 @@ void MacrosDesk::holdHotKeys(bool holds) {
 
 void MacrosDesk::keep(int macroId) { makeMacro(MacroManager::macro(macroId)->script()); }
 
+void MacrosDesk::forget(int macroId) {
+    m_means.library.history().forget(macroId);
+    m_window->tell(tr("The recording is forgotten."));
+}
+
+void MacrosDesk::forgetAll() {
+    m_means.library.history().forgetAll();
+    m_window->tell(tr("All recordings are forgotten."));
+}
+
 void MacrosDesk::save() {
     const std::string path = m_window->chosen();
     const std::string text = m_window->editor().text();
@@ -334,8 +357,6 @@ void MacrosDesk::record(Purpose purpose) {
 }
 
 void MacrosDesk::takeRecording(const Macro& macro) {
-    m_recordings.push_front(macro.macroId());
-    if (m_window) m_window->setHasRecordings(true);
     const Purpose purpose = std::exchange(m_purpose, Purpose::none);
     if (purpose == Purpose::none) return;
     m_means.stage.unhide();

@@ -3,7 +3,6 @@
 
 #include <QObject>
 #include <QTimer>
-#include <deque>
 #include <memory>
 #include <optional>
 #include <string>
@@ -89,6 +88,8 @@ class MacrosDesk : public QObject, private LibraryListener {
     void save();
     void record(Purpose purpose);
     void keep(int macroId);
+    void forget(int macroId);
+    void forgetAll();
     void makeMacro(const std::string& script);
     void play();
     void duplicate(const std::string& path);
@@ -117,8 +118,6 @@ class MacrosDesk : public QObject, private LibraryListener {
     std::string m_awaited;
     bool m_namesAwaited = false;
     Purpose m_purpose = Purpose::none;
-    /// Of the history, the latest first.
-    std::deque<int> m_recordings;
     /// Whether hot keys act when the field of the hot key is left.
     bool m_hotKeysWereOn = true;
 };

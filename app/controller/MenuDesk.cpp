@@ -5,8 +5,8 @@
 
 #include "app/controller/Gate.h"
 #include "app/tray/MacroMenuItem.h"
-#include "core/Macro.h"
 #include "engine/EngineState.h"
+#include "library/RecordingHistory.h"
 
 MenuDesk::MenuDesk(StatusItem& item, std::function<void(const MenuState&)> applied)
     : m_item(item), m_applied(std::move(applied)) {}
@@ -43,14 +43,22 @@ void MenuDesk::follow(const Gate& gate) {
     m_facts.screenLocked = gate.isLocked();
 }
 
-MacroMenuItem* MenuDesk::addToHistory(const Macro& macro) {
-    auto* item = new MacroMenuItem(QString::fromStdString(macro.displayText()), menu.historyMenu);
-    item->setMacroId(macro.macroId());
-    const QList<QAction*> entries = menu.historyMenu->actions();
-    menu.historyMenu->insertAction(entries.isEmpty() ? nullptr : entries.first(), item);
+MacroMenuItem* MenuDesk::addToHistory(const HistoryEntry& entry, std::size_t index) {
+    auto* item = new MacroMenuItem(QString::fromStdString(entry.title), menu.historyMenu);
+    item->setMacroId(entry.macroId);
+    menu.historyMenu->insertAction(menu.historyMenu->actions().value(static_cast<qsizetype>(index)), item);
     m_facts.hasHistory = true;
     update();
     return item;
+}
+
+void MenuDesk::removeFromHistory(int macroId) {
+    for (QAction* const action : menu.historyMenu->actions()) {
+        auto* const item = qobject_cast<MacroMenuItem*>(action);
+        if (item != nullptr && item->macroId() == macroId) delete item;
+    }
+    m_facts.hasHistory = !menu.historyMenu->isEmpty();
+    update();
 }
 
 void MenuDesk::update() {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <boost/smart_ptr/shared_ptr.hpp>
+#include <cstddef>
 #include <functional>
 
 #include "app/tray/MenuState.h"
@@ -9,8 +9,8 @@
 #include "app/tray/StatusMenu.h"
 
 class Gate;
-class Macro;
 class MacroMenuItem;
+struct HistoryEntry;
 
 /// The status item's menu: what the program's state makes of it, and its history.
 class MenuDesk {
@@ -30,8 +30,9 @@ class MenuDesk {
     void recordingEnds();
     /// Takes over whether commands may be given. The menu follows with the next update().
     void follow(const Gate& gate);
-    /// A new line at the top of the history.
-    MacroMenuItem* addToHistory(const Macro& macro);
+    /// A new line of the history, in that place from the top.
+    MacroMenuItem* addToHistory(const HistoryEntry& entry, std::size_t index);
+    void removeFromHistory(int macroId);
     /// Shows the state; also needed when the current macro has become another.
     void update();
 

@@ -10,13 +10,13 @@
 #include "app/controller/ShortcutNotices.h"
 #include "app/controller/Stage.h"
 #include "app/dialogs/AlertTexts.h"
+#include "app/library/LibraryController.h"
 #include "app/library/MacroTitles.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/widgets/IsShown.h"
 #include "core/KeyNames.h"
 #include "engine/EngineState.h"
 #include "engine/HotKeyCenter.h"
-#include "library/LibraryHotKeys.h"
 #include "platform/Features.h"
 #include "platform/LoginItems.h"
 #include "platform/SettingsStore.h"
@@ -39,11 +39,11 @@ void emptyIfEqual(ShortcutModel& model, const ShortcutModel& changed) {
 }  // namespace
 
 PreferencesDesk::PreferencesDesk(SettingsStore& store, LoginItems& loginItems, HotKeys& hotKeys,
-                                 LibraryHotKeys& macroHotKeys, Dialogs& dialogs, Stage& stage)
+                                 LibraryController& library, Dialogs& dialogs, Stage& stage)
     : m_store(store),
       m_loginItems(loginItems),
       m_hotKeys(hotKeys),
-      m_macroHotKeys(macroHotKeys),
+      m_library(library),
       m_dialogs(dialogs),
       m_stage(stage) {
     model.offersUpdateCheck = features::updateCheck;
@@ -88,7 +88,7 @@ void PreferencesDesk::save() {
     const Result<> synchronized = m_store.synchronize();
     if (!synchronized) tellSaveFailure(alerts::settingsNotSaved(synchronized.error()));
     // Macros give way first.
-    m_macroHotKeys.followShortcuts();
+    m_library.followShortcuts();
     registerHotKeys();
     updateNotices();
 }
@@ -96,6 +96,7 @@ void PreferencesDesk::save() {
 void PreferencesDesk::applyRecording() const {
     engineState().pauseChoice = model.pauses.choice();
     engineState().recordsModifierKeys = model.recordModifierKeys.isOn();
+    m_library.history().setKept(model.keepHistory.isOn());
 }
 
 void PreferencesDesk::noteLoginTick() {
@@ -185,7 +186,7 @@ void PreferencesDesk::updateNotices() {
         facts[i] = {.field = model.shortcuts[i].keyCombo(),
                     .asked = tableCombination(std::string(row.name)),
                     .state = m_hotKeys.state(row.id),
-                    .macro = macroName(m_macroHotKeys.macroWith(model.shortcuts[i].keyCombo()))};
+                    .macro = macroName(m_library.hotKeys().macroWith(model.shortcuts[i].keyCombo()))};
     }
     const ShortcutNoticeTexts texts = shortcutNotices(facts);
     for (std::size_t i = 0; i < texts.size(); ++i) model.shortcuts[i].setNotice(texts[i]);

@@ -10,7 +10,7 @@
 #include "app/shortcuts/PreferencesModel.h"
 
 class HotKeys;
-class LibraryHotKeys;
+class LibraryController;
 class LoginItems;
 class PreferencesPanel;
 class QPushButton;
@@ -26,7 +26,7 @@ class PreferencesDesk : public QObject {
   public:
     /// All outlive the desk.
     PreferencesDesk(SettingsStore& store, LoginItems& loginItems, HotKeys& hotKeys,
-                    LibraryHotKeys& macroHotKeys, Dialogs& dialogs, Stage& stage);
+                    LibraryController& library, Dialogs& dialogs, Stage& stage);
     ~PreferencesDesk() override;
 
     PreferencesModel model;
@@ -63,7 +63,7 @@ class PreferencesDesk : public QObject {
   private:
     PreferencesPanel& builtPanel();
     PreferenceValues values() const;
-    /// The next recording keeps what the model says.
+    /// The next recording keeps what the model says, and is kept as it says.
     void applyRecording() const;
     void emptyOthersEqualTo(const ShortcutModel& changed);
     /// Of a box that is ticked while the panel is shown, whatever has become of the entry elsewhere.
@@ -74,7 +74,7 @@ class PreferencesDesk : public QObject {
     SettingsStore& m_store;
     LoginItems& m_loginItems;
     HotKeys& m_hotKeys;
-    LibraryHotKeys& m_macroHotKeys;
+    LibraryController& m_library;
     Dialogs& m_dialogs;
     Stage& m_stage;
     std::unique_ptr<PreferencesPanel> m_panel;

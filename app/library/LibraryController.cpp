@@ -12,6 +12,7 @@ LibraryController::LibraryController(const LibraryServices& services)
       m_library(services.folderFollower, services.macroRecords, services.macroFiles),
       m_hotKeys(m_library, services.hotKeys, services.firstHotKey,
                 [this](const std::string& path) { play(path); }),
+      m_history(services.recordings, *this),
       m_playRequests(m_library, services.macroFiles, services.scripting) {
     m_library.addListener(*this);
     m_hotKeys.observe(
@@ -33,6 +34,8 @@ void LibraryController::libraryChanged(const LibraryChanges& changes) {
     while (const auto fault = m_library.takeFault()) post(tr("Hot keys of macros"), *fault);
     if (changes.isFirst) emit read();
 }
+
+void LibraryController::historyFailed(const Error& why) { post(tr("The history"), why); }
 
 void LibraryController::post(const QString& title, const Error& error) {
     QString text = QString::fromStdString(error.message);

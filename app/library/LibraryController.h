@@ -8,6 +8,7 @@
 #include "app/library/PlayRequests.h"
 #include "library/LibraryHotKeys.h"
 #include "library/MacroLibrary.h"
+#include "library/RecordingHistory.h"
 #include "platform/PlayOptions.h"
 
 class FolderFollower;
@@ -15,12 +16,14 @@ class HotKeys;
 class MacroFiles;
 class Notifications;
 class RecordStore;
+class RecordingStore;
 class ScriptingService;
 
 /// What the library needs of the desktop. All outlive the controller.
 struct LibraryServices {
     FolderFollower& folderFollower;
     RecordStore& macroRecords;
+    RecordingStore& recordings;
     MacroFiles& macroFiles;
     /// For macros alone: install() and observe() are the library's.
     HotKeys& hotKeys;
@@ -30,10 +33,11 @@ struct LibraryServices {
     ScriptingService& scripting;
 };
 
-/// The macros of the macro folder and their hot keys: joins the library with the engine and the desktop.
+/// The macros of the macro folder and their hot keys, and the history: joins the library with the engine and
+/// the desktop.
 ///
 /// A macro that is played by its hot key does not become the current macro: Play plays what it played before.
-class LibraryController : public QObject, private LibraryListener {
+class LibraryController : public QObject, private LibraryListener, private HistoryListener {
     Q_OBJECT
 
   public:
@@ -42,6 +46,7 @@ class LibraryController : public QObject, private LibraryListener {
 
     MacroLibrary& library() { return m_library; }
     LibraryHotKeys& hotKeys() { return m_hotKeys; }
+    RecordingHistory& history() { return m_history; }
 
     /// What others may ask to have played.
     PlayRequests& playRequests() { return m_playRequests; }
@@ -59,13 +64,21 @@ class LibraryController : public QObject, private LibraryListener {
     void read();
     /// LibraryHotKeys::state() of the macro of that path (bytes) may have become another.
     void hotKeyChanged(const QByteArray& path);
+    /// history() has one more, at that place.
+    void historyGrown(std::size_t index);
+    /// history() has that macro no longer.
+    void historyShrunk(int macroId);
 
   private:
     void libraryChanged(const LibraryChanges& changes) override;
+    void recordingAppeared(std::size_t index) override { emit historyGrown(index); }
+    void recordingGone(int macroId) override { emit historyShrunk(macroId); }
+    void historyFailed(const Error& why) override;
     void post(const QString& title, const Error& error);
 
     Notifications& m_notifications;
     MacroLibrary m_library;
     LibraryHotKeys m_hotKeys;
+    RecordingHistory m_history;
     PlayRequests m_playRequests;
 };

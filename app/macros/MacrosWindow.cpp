@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QLocale>
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
@@ -31,6 +32,12 @@ QPushButton* makeButton(const QString& title, const QString& hint) {
     // Return in a field is the field's.
     button->setAutoDefault(false);
     return button;
+}
+
+/// The time stands where other lines of a menu have their shortcut.
+QString lineOf(const MacrosWindow::Recording& recording) {
+    return QString(recording.title).replace(u'&', QStringLiteral("&&")) + u'\t' +
+           QLocale().toString(recording.recordedAt, QLocale::ShortFormat);
 }
 
 }  // namespace
@@ -113,6 +120,7 @@ QPushButton* MacrosWindow::makeKeepButton() {
     m_keepMenu = new QMenu(m_keep);
     m_keepMenu->setToolTipsVisible(true);
     m_keep->setMenu(m_keepMenu);
+    m_forgetMenu = new QMenu(tr("&Forget"), m_keepMenu);
     connect(m_keepMenu, &QMenu::aboutToShow, this, &MacrosWindow::fillKeepMenu);
     return m_keep;
 }
@@ -125,11 +133,21 @@ void MacrosWindow::setHasRecordings(bool hasRecordings) { m_keep->setEnabled(has
 
 void MacrosWindow::fillKeepMenu() {
     m_keepMenu->clear();
-    for (const Recording& recording : m_recordings()) {
-        const QAction* const item =
-            m_keepMenu->addAction(QString(recording.title).replace(u'&', QStringLiteral("&&")));
-        connect(item, &QAction::triggered, this, [this, id = recording.macroId] { emit keepWanted(id); });
+    const std::vector<Recording> recordings = m_recordings();
+    for (const Recording& recording : recordings) {
+        connect(m_keepMenu->addAction(lineOf(recording)), &QAction::triggered, this,
+                [this, id = recording.macroId] { emit keepWanted(id); });
     }
+    m_keepMenu->addSeparator();
+    m_keepMenu->addMenu(m_forgetMenu);
+    m_forgetMenu->clear();
+    for (const Recording& recording : recordings) {
+        connect(m_forgetMenu->addAction(lineOf(recording)), &QAction::triggered, this,
+                [this, id = recording.macroId] { emit forgetWanted(id); });
+    }
+    m_forgetMenu->addSeparator();
+    connect(m_forgetMenu->addAction(tr("Forget &All")), &QAction::triggered, this,
+            &MacrosWindow::forgetAllWanted);
 }
 
 QWidget* MacrosWindow::makeEditor() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDateTime>
 #include <QTimer>
 #include <functional>
 #include <string>
@@ -64,8 +65,9 @@ class MacrosWindow : public Panel {
     struct Recording {
         int macroId = 0;
         QString title;
+        QDateTime recordedAt;
     };
-    /// Those that can be kept, as they are when the user asks for them: the latest first.
+    /// Those that can be kept, or forgotten, as they are when the user asks for them: the latest first.
     void setRecordings(std::function<std::vector<Recording>()> recordings);
     void setHasRecordings(bool hasRecordings);
 
@@ -90,6 +92,8 @@ class MacrosWindow : public Panel {
     void recordWanted();
     /// Of the history.
     void keepWanted(int macroId);
+    void forgetWanted(int macroId);
+    void forgetAllWanted();
     /// Keys for KeysView::insertLines().
     void keysWanted();
     void duplicateWanted(const std::string& path);
@@ -122,6 +126,7 @@ class MacrosWindow : public Panel {
     QLabel* m_empty = nullptr;
     QPushButton* m_keep = nullptr;
     QMenu* m_keepMenu = nullptr;
+    QMenu* m_forgetMenu = nullptr;
     std::function<std::vector<Recording>()> m_recordings;
     MacroEditor* m_editor = nullptr;
     MacroSettingsRow* m_settings = nullptr;

@@ -72,6 +72,7 @@ script::ScriptRunner& Backends::scripting() { return m_parts->scripting; }
 LibraryServices Backends::libraryServices() {
     return {.folderFollower = m_parts->neutral.folderFollower,
             .macroRecords = m_parts->neutral.macroRecords,
+            .recordings = m_parts->neutral.recordings,
             .macroFiles = m_parts->neutral.macroFiles,
             .hotKeys = m_parts->hotKeys.second(),
             .firstHotKey = HotKeyShares::firstOfSecond,

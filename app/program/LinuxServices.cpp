@@ -7,6 +7,7 @@
 LinuxServices::LinuxServices(const UpdateSource& updates)
     : settings(configFoldersOfProcess(), [this] { turnEnd.start(); }),
       macroRecords(configFoldersOfProcess().user, [this] { turnEnd.start(); }),
+      recordings(userStateFolder(environmentOfProcess(), homeOfProcess())),
       loginItems(configFoldersOfProcess(), programOfProcess()),
       updateService(makeUpdateService(updates)),
       macroFiles(homeOfProcess(), userDataFolder(environmentOfProcess(), homeOfProcess())),

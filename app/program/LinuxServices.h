@@ -13,6 +13,7 @@
 #include "platform/linux/KeyFileSettings.h"
 #include "platform/linux/LocalFolderFollower.h"
 #include "platform/linux/LocalMacroFiles.h"
+#include "platform/linux/LocalRecordings.h"
 #include "platform/linux/MachineFacts.h"
 #include "platform/linux/UpdateCheck.h"
 #include "platform/linux/XdgWorkspace.h"
@@ -26,6 +27,7 @@ struct LinuxServices {
     QTimer turnEnd;
     KeyFileSettings settings;
     KeyFileRecords macroRecords;
+    LocalRecordings recordings;
     AutostartEntry loginItems;
     XdgWorkspace workspace;
     MachineFacts systemFacts;

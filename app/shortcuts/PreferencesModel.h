@@ -26,6 +26,7 @@ struct PreferencesModel {
     ShortcutModel& multiplePlay = shortcuts[shortcutIndex("multiplePlay")];
     ToggleModel& launchOnLogin = toggles[toggleIndex("launchOnLogin")];
     ToggleModel& recordModifierKeys = toggles[toggleIndex("recordModifierKeys")];
+    ToggleModel& keepHistory = toggles[toggleIndex("keepHistory")];
     ToggleModel& checkForUpdatesOnLaunch = toggles[toggleIndex("checkForUpdatesOnLaunch")];
 
     /// False in builds without the update check: nothing of it is shown or stored.

@@ -28,6 +28,9 @@ inline constexpr std::array toggleRows = {
     /// Whether recordings keep taps and holds of modifiers (EngineState::recordsModifierKeys).
     ToggleRow{.key = "recordModifierKeys",
               .title = QT_TRANSLATE_NOOP("Toggles", "Record modifier &keys on their own")},
+    /// Whether the history is there again at the next start (RecordingHistory::setKept).
+    ToggleRow{.key = "keepHistory",
+              .title = QT_TRANSLATE_NOOP("Toggles", "Keep the &history for the next start")},
 };
 
 /// Where the key stands in toggleRows; another key does not compile.

@@ -15,6 +15,7 @@
 #include "platform/fake/FakeMacroFiles.h"
 #include "platform/fake/FakeNotifications.h"
 #include "platform/fake/FakeRecordStore.h"
+#include "platform/fake/FakeRecordings.h"
 #include "platform/fake/FakeScreenLock.h"
 #include "platform/fake/FakeScriptingService.h"
 #include "platform/fake/FakeSessionCheck.h"
@@ -51,6 +52,7 @@ struct FakePlatform {
     FakeMacroFiles macroFiles{journal};
     FakeFolderFollower folderFollower{macroFiles};
     FakeRecordStore macroRecords;
+    FakeRecordings recordings;
     FakeNotifications notifications{journal};
     FakeScreenLock screenLock;
     FakeSessionCheck sessionCheck{journal};

@@ -43,6 +43,11 @@ std::string userDataFolder(const Environment& environment, const std::string& ho
     return isAbsolute(user) ? user : home + "/.local/share";
 }
 
+std::string userStateFolder(const Environment& environment, const std::string& home) {
+    const std::string user = environment("XDG_STATE_HOME");
+    return isAbsolute(user) ? user : home + "/.local/state";
+}
+
 Environment environmentOfProcess() {
     return [](const std::string& name) {
         const char* value = g_getenv(name.c_str());

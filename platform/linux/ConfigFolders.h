@@ -32,6 +32,10 @@ ConfigFolders configFoldersOfProcess();
 /// is relative. An absolute path; it need not exist.
 std::string userDataFolder(const Environment& environment, const std::string& home);
 
+/// What the program keeps of its own for its next starts, by the same standard: XDG_STATE_HOME (default
+/// ~/.local/state), ignored where it is relative. An absolute path; it need not exist.
+std::string userStateFolder(const Environment& environment, const std::string& home);
+
 /// The variables of this process.
 Environment environmentOfProcess();
 /// The user's home folder, absolute.

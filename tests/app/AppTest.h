@@ -65,6 +65,7 @@ class FakeLibrary {
         : hotKeys(m_journal, platform.desktop, platform.clock),
           controller({.folderFollower = platform.folderFollower,
                       .macroRecords = platform.macroRecords,
+                      .recordings = platform.recordings,
                       .macroFiles = platform.macroFiles,
                       .hotKeys = hotKeys,
                       .firstHotKey = 1000,

@@ -47,6 +47,7 @@ class PreferencesTest : public DesktopTest {
         const Settings switches = {{"checkForUpdatesOnLaunch", "false"},
                                    {"launchOnLogin", "false"},
                                    {"recordModifierKeys", "false"},
+                                   {"keepHistory", "false"},
                                    {"recordPauses", "0"},
                                    {"notFirstRun", "true"}};
         for (const auto& [name, value] : switches) EXPECT_EQ(combinations[name], value) << name;

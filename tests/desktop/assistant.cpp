@@ -9,6 +9,8 @@
 //
 // "assistant PID type NAME TEXT": replaces the text of the object of that name.
 //
+// "assistant PID await NAME checked|unchecked": waits until the box of that name is so.
+//
 // Exit status 1 where there is no such object, after a moment of waiting for it.
 
 #include <atspi/atspi.h>
@@ -137,6 +139,13 @@ bool typeNamed(const Object& root, const std::string& name, const char* text) {
     });
 }
 
+bool isBox(const Object& root, const std::string& name, bool isChecked) {
+    return walk(root, [&name, isChecked](const Object& object) {
+        return nameOf(object) == name && hasState(object, ATSPI_STATE_SHOWING) &&
+               hasState(object, ATSPI_STATE_CHECKED) == isChecked;
+    });
+}
+
 bool perform(guint pid, int argc, char** argv) {
     const Object root = program(pid);
     if (!root) return false;
@@ -144,6 +153,7 @@ bool perform(guint pid, int argc, char** argv) {
     if (command == "list") return list(root);
     if (command == "focused") return printFocused(root);
     if (command == "press" && argc == 4) return pressNamed(root, argv[3]);
+    if (command == "await" && argc == 5) return isBox(root, argv[3], std::string(argv[4]) == "checked");
     return command == "type" && argc == 5 && typeNamed(root, argv[3], argv[4]);
 }
 

@@ -5,6 +5,7 @@
 #include "contracts/LoginItemsContract.h"
 #include "contracts/MacroFilesContract.h"
 #include "contracts/RecordStoreContract.h"
+#include "contracts/RecordingStoreContract.h"
 #include "contracts/SettingsStoreContract.h"
 #include "platform/fake/FakePlatform.h"
 
@@ -89,10 +90,21 @@ class FakeRecordStoreWorld : public RecordStoreWorld {
     FakeRecordStore m_store;
 };
 
+class FakeRecordingsWorld : public RecordingStoreWorld {
+  public:
+    RecordingStore& store() override { return m_recordings; }
+    void breakNextWrite() override { m_recordings.failNextCall({"The disk is full.", ""}); }
+
+  private:
+    FakeRecordings m_recordings;
+};
+
 INSTANTIATE_TEST_SUITE_P(InMemory, FolderFollowerContract,
                          testing::Values(maker<FakeFolderFollowerWorld, FolderFollowerWorld>()));
 INSTANTIATE_TEST_SUITE_P(InMemory, RecordStoreContract,
                          testing::Values(maker<FakeRecordStoreWorld, RecordStoreWorld>()));
+INSTANTIATE_TEST_SUITE_P(InMemory, RecordingStoreContract,
+                         testing::Values(maker<FakeRecordingsWorld, RecordingStoreWorld>()));
 INSTANTIATE_TEST_SUITE_P(InMemory, LoginItemsContract,
                          testing::Values(maker<FakeLoginItemsWorld, LoginItemsWorld>()));
 INSTANTIATE_TEST_SUITE_P(InMemory, SettingsStoreContract,

@@ -8,12 +8,14 @@
 #include "contracts/LoginItemsContract.h"
 #include "contracts/MacroFilesContract.h"
 #include "contracts/RecordStoreContract.h"
+#include "contracts/RecordingStoreContract.h"
 #include "contracts/SettingsStoreContract.h"
 #include "linux/FollowedFolder.h"
 #include "platform/linux/AutostartEntry.h"
 #include "platform/linux/KeyFileRecords.h"
 #include "platform/linux/KeyFileSettings.h"
 #include "platform/linux/LocalMacroFiles.h"
+#include "platform/linux/LocalRecordings.h"
 #include "support/Child.h"
 
 namespace {
@@ -100,10 +102,22 @@ class LocalFolderWorld : public FolderFollowerWorld {
     FollowedFolder m_folder;
 };
 
+class LocalRecordingsWorld : public RecordingStoreWorld {
+  public:
+    RecordingStore& store() override { return m_recordings; }
+    void breakNextWrite() override { std::ofstream(m_folder.file("keyrill")) << "in the folder's place"; }
+
+  private:
+    TemporaryFolder m_folder;
+    LocalRecordings m_recordings{m_folder.path()};
+};
+
 INSTANTIATE_TEST_SUITE_P(InFiles, FolderFollowerContract,
                          testing::Values(maker<LocalFolderWorld, FolderFollowerWorld>()));
 INSTANTIATE_TEST_SUITE_P(InFiles, RecordStoreContract,
                          testing::Values(maker<KeyFileRecordsWorld, RecordStoreWorld>()));
+INSTANTIATE_TEST_SUITE_P(InFiles, RecordingStoreContract,
+                         testing::Values(maker<LocalRecordingsWorld, RecordingStoreWorld>()));
 INSTANTIATE_TEST_SUITE_P(InFiles, LoginItemsContract,
                          testing::Values(maker<AutostartWorld, LoginItemsWorld>()));
 INSTANTIATE_TEST_SUITE_P(InFiles, SettingsStoreContract,

@@ -34,6 +34,46 @@ TEST_F(AppControllerTest, startsWithTheBusyImageAndOnlyRecordToChoose) {
               "Start Recording, -, [History], Load Macro..., Macros..., -, Preferences..., Help, -, Quit");
 }
 
+TEST_F(AppControllerTest, theHistoryOfEarlierRunsIsInTheMenuWhereItIsKept) {
+    using namespace std::chrono_literals;
+    for (const auto& [time, name] : {std::pair(2ms, "later"), std::pair(1ms, "earlier")}) {
+        EXPECT_TRUE(
+            platform().recordings.keep({.recordedAt = RecordedAt(time), .title = name, .script = name}));
+    }
+    platform().settings.put("keepHistory", 1);
+    controller.awakeFromNib();
+    recordKey(key::a);
+    ASSERT_EQ(history().size(), 3);
+    EXPECT_EQ(history()[0]->text(), "A");
+    EXPECT_EQ(history()[1]->text(), "later");
+    EXPECT_EQ(history()[2]->text(), "earlier");
+    history()[2]->trigger();
+    EXPECT_EQ(runs(), std::vector<std::string>{"earlier"});
+    EXPECT_EQ(state().currentMacro->script(), "earlier");
+}
+
+TEST_F(AppControllerTest, theHistoryOfEarlierRunsIsNotReadWhereItIsNotKept) {
+    EXPECT_TRUE(platform().recordings.keep({.title = "earlier", .script = "earlier"}));
+    controller.awakeFromNib();
+    EXPECT_TRUE(history().isEmpty());
+    EXPECT_FALSE(controller.statusMenu.item(menuIndex("history"))->isEnabled());
+    // It stays for whoever wants it again.
+    EXPECT_EQ(platform().recordings.titles(), std::vector<std::string>{"earlier"});
+}
+
+TEST_F(AppControllerTest, whatIsForgottenLeavesTheMenu) {
+    controller.awakeFromNib();
+    recordKey(key::a);
+    recordKey(key::b);
+    const int earlier = library.controller.history().entries()[1].macroId;
+    library.controller.history().forget(earlier);
+    ASSERT_EQ(history().size(), 1);
+    EXPECT_EQ(history()[0]->text(), "B");
+    library.controller.history().forgetAll();
+    EXPECT_TRUE(history().isEmpty());
+    EXPECT_FALSE(controller.statusMenu.item(menuIndex("history"))->isEnabled());
+}
+
 TEST_F(AppControllerTest, showsTheNormalImageAfterTheSplash) {
     controller.awakeFromNib();
     controller.runSplash();

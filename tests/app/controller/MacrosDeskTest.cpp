@@ -129,6 +129,7 @@ class MacrosDeskTest : public AppTest {
     FakeHotKeys hotKeys{platform().journal, platform().desktop, platform().clock};
     LibraryController shelf{{.folderFollower = follower,
                              .macroRecords = platform().macroRecords,
+                             .recordings = platform().recordings,
                              .macroFiles = files,
                              .hotKeys = hotKeys,
                              .firstHotKey = 1000,
@@ -471,25 +472,55 @@ TEST_F(MacroSettingsDeskTest, hotKeysRestWhileTheFieldTakesOne) {
     EXPECT_FALSE(state().hotKeysEnabled);
 }
 
-TEST_F(MacrosDeskTest, aRecordingOfTheHistoryIsKeptUnderAName) {
-    EXPECT_FALSE(button("Keep Recording...").isEnabled());
-    for (const std::string& text : {a, ab}) {
+/// The history has two recordings.
+class MacrosDeskHistoryTest : public MacrosDeskTest {
+  protected:
+    void record(const std::string& script) {
         auto macro = MacroManager::createMacro();
-        macro->setScript(text);
-        desk.takeRecording(*macro);
+        macro->setScript(script);
+        shelf.history().add(*macro);
     }
-    EXPECT_TRUE(button("Keep Recording...").isEnabled());
-    QMenu& menu = *button("Keep Recording...").menu();
-    emit menu.aboutToShow();
-    ASSERT_EQ(menu.actions().size(), 2);
+    QPushButton& keepButton() { return button("Keep Recording..."); }
+    /// What can be chosen there, as it is when it is opened.
+    QList<QAction*> keepActions() {
+        emit keepButton().menu()->aboutToShow();
+        return keepButton().menu()->actions();
+    }
+    QList<QAction*> forgetActions() { return keepActions().last()->menu()->actions(); }
+};
+
+TEST_F(MacrosDeskHistoryTest, aRecordingIsKeptUnderAName) {
+    EXPECT_FALSE(keepButton().isEnabled());
+    record(a);
+    record(ab);
+    EXPECT_TRUE(keepButton().isEnabled());
+    // And a line, and what forgets them.
+    ASSERT_EQ(keepActions().size(), 4);
     // The latest is the first.
-    menu.actions().first()->trigger();
+    keepActions().first()->trigger();
     EXPECT_TRUE(soon([this] { return window().chosen() == "New Macro.keyrill"; }));
     EXPECT_EQ(contentOf(file("New Macro")), ab);
-    emit menu.aboutToShow();
-    menu.actions().last()->trigger();
+    keepActions()[1]->trigger();
     EXPECT_TRUE(soon([this] { return window().chosen() == "New Macro 2.keyrill"; }));
     EXPECT_EQ(contentOf(file("New Macro 2")), a);
+}
+
+TEST_F(MacrosDeskHistoryTest, oneOfThemIsForgotten) {
+    record(a);
+    record(ab);
+    forgetActions().first()->trigger();
+    ASSERT_EQ(shelf.history().entries().size(), 1U);
+    EXPECT_EQ(keepActions().size(), 3);
+    keepActions().first()->trigger();
+    EXPECT_TRUE(soon([this] { return contentOf(file("New Macro")) == a; }));
+}
+
+TEST_F(MacrosDeskHistoryTest, allOfThemAreForgotten) {
+    record(a);
+    record(ab);
+    forgetActions().last()->trigger();
+    EXPECT_TRUE(shelf.history().entries().empty());
+    EXPECT_FALSE(keepButton().isEnabled());
 }
 
 }  // namespace

@@ -22,13 +22,13 @@ class PreferencesDeskTest : public EngineTest {
     HotKeyShares shares{platform().hotKeys};
     LibraryController library{{.folderFollower = platform().folderFollower,
                                .macroRecords = platform().macroRecords,
+                               .recordings = platform().recordings,
                                .macroFiles = platform().macroFiles,
                                .hotKeys = shares.second(),
                                .firstHotKey = HotKeyShares::firstOfSecond,
                                .notifications = platform().notifications,
                                .scripting = platform().scripting}};
-    PreferencesDesk desk{
-        platform().settings, platform().loginItems, shares.first(), library.hotKeys(), dialogs, stage};
+    PreferencesDesk desk{platform().settings, platform().loginItems, shares.first(), library, dialogs, stage};
 };
 
 TEST_F(PreferencesDeskTest, takesEachShortcutAndEachToggleFromTheStore) {
@@ -44,6 +44,18 @@ TEST_F(PreferencesDeskTest, takesEachShortcutAndEachToggleFromTheStore) {
     }
     for (std::size_t i = 0; i < toggleRows.size(); ++i)
         EXPECT_NE(desk.model.toggles[i].isOn(), toggleRows[i].initiallyOn) << toggleRows[i].key;
+}
+
+TEST_F(PreferencesDeskTest, theHistoryIsKeptAsSoonAsThatIsSaved) {
+    desk.load();
+    EXPECT_FALSE(library.history().isKept());
+    desk.model.keepHistory.setOn(true);
+    EXPECT_FALSE(library.history().isKept());
+    desk.save();
+    EXPECT_TRUE(library.history().isKept());
+    desk.model.keepHistory.setOn(false);
+    desk.save();
+    EXPECT_FALSE(library.history().isKept());
 }
 
 TEST_F(PreferencesDeskTest, registersWhatItHasSaved) {

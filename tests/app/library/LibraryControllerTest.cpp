@@ -32,6 +32,7 @@ class LibraryControllerTest : public EngineTest {
 
     LibraryController controller{{.folderFollower = platform().folderFollower,
                                   .macroRecords = platform().macroRecords,
+                                  .recordings = platform().recordings,
                                   .macroFiles = platform().macroFiles,
                                   .hotKeys = platform().hotKeys,
                                   .firstHotKey = 1000,
@@ -119,6 +120,14 @@ TEST_F(LibraryControllerTest, tellsOfDamagedSettings) {
         platform().journal.of({"post"}),
         Journal::Lines{"post(\"Hot keys of macros\", \"The macro settings file x is not a key file.\nIt was "
                        "renamed.\")"});
+}
+
+TEST_F(LibraryControllerTest, tellsWhyARecordingCannotBeKept) {
+    controller.history().setKept(true);
+    platform().recordings.failNextCall({"The disk is full.", "Make room."});
+    controller.history().add(*macroWithScript("beep"));
+    const std::vector<FakeNotifications::Message> expected{{"The history", "The disk is full.\nMake room."}};
+    EXPECT_EQ(platform().notifications.messages(), expected);
 }
 
 TEST_F(LibraryControllerTest, tellsOnceThatTheMacrosAreKnown) {

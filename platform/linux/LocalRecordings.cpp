@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LocalRecordings.h"
+
+#include <glib.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <ctime>
+#include <filesystem>
+#include <iomanip>
+#include <locale>
+#include <optional>
+#include <sstream>
+#include <system_error>
+
+#include "platform/linux/FileReplacement.h"
+#include "platform/linux/WholeFile.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view ending = "Z.keyrill";
+constexpr std::string_view comment = "-- ";
+constexpr const char* secondsFormat = "%Y%m%dT%H%M%S";
+constexpr int millisecondDigits = 3;
+
+std::string nameOf(RecordedAt time) {
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(time);
+    const std::time_t calendar = std::chrono::system_clock::to_time_t(seconds);
+    std::tm fields{};
+    gmtime_r(&calendar, &fields);
+    std::ostringstream name;
+    name.imbue(std::locale::classic());
+    name << std::put_time(&fields, secondsFormat) << '.' << std::setw(millisecondDigits) << std::setfill('0')
+         << (time - seconds).count() << ending;
+    return name.str();
+}
+
+/// Empty for a name that is none of ours.
+std::optional<RecordedAt> timeOf(const std::string& name) {
+    std::tm fields{};
+    int milliseconds = 0;
+    std::istringstream text(name);
+    text.imbue(std::locale::classic());
+    char point = 0;
+    text >> std::get_time(&fields, secondsFormat) >> point >> milliseconds;
+    if (!text || timegm(&fields) < 0) return std::nullopt;
+    const RecordedAt time = std::chrono::floor<std::chrono::milliseconds>(
+                                std::chrono::system_clock::from_time_t(timegm(&fields))) +
+                            std::chrono::milliseconds(milliseconds);
+    // Only what is written just so.
+    if (nameOf(time) != name) return std::nullopt;
+    return time;
+}
+
+std::string inOneLine(std::string title) {
+    std::replace_if(
+        title.begin(), title.end(), [](char character) { return character == '\n' || character == '\r'; },
+        ' ');
+    return title;
+}
+
+}  // namespace
+
+LocalRecordings::LocalRecordings(const std::string& stateFolder)
+    : m_folder(stateFolder + "/keyrill/history") {}
+
+std::vector<std::string> LocalRecordings::names() const {
+    std::vector<std::string> names;
+    std::error_code error;
+    for (fs::directory_iterator entry(m_folder, error), end; !error && entry != end; entry.increment(error)) {
+        std::string name = entry->path().filename();
+        if (timeOf(name)) names.push_back(std::move(name));
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::vector<StoredRecording> LocalRecordings::all() {
+    FileReplacement::sweep(m_folder);
+    std::vector<StoredRecording> recordings;
+    for (const std::string& name : names()) {
+        auto content = WholeFile(fileOf(name)).read();
+        if (!content || !content.value().starts_with(comment)) continue;
+        const std::string& text = content.value();
+        const std::size_t lineEnd = text.find('\n');
+        if (lineEnd == std::string::npos) continue;
+        recordings.push_back({.name = name,
+                              .recordedAt = *timeOf(name),
+                              .title = text.substr(comment.size(), lineEnd - comment.size()),
+                              .script = text.substr(lineEnd + 1)});
+    }
+    std::reverse(recordings.begin(), recordings.end());
+    return recordings;
+}
+
+std::string LocalRecordings::freeName(RecordedAt time) const {
+    std::string name = nameOf(time);
+    std::error_code error;
+    while (fs::exists(fs::symlink_status(fileOf(name), error))) {
+        time += std::chrono::milliseconds(1);
+        name = nameOf(time);
+    }
+    return name;
+}
+
+Result<std::string> LocalRecordings::keep(const StoredRecording& recording) {
+    // That it could not be made shows when the file is written.
+    constexpr int folderMode = 0700;
+    g_mkdir_with_parents(m_folder.c_str(), folderMode);
+    const std::string name = freeName(recording.recordedAt);
+    const Result<> written =
+        WholeFile(fileOf(name))
+            .write(std::string(comment) + inOneLine(recording.title) + "\n" + recording.script);
+    if (!written) return written.error();
+    const std::vector<std::string> all = names();
+    // One that cannot go now goes with the next.
+    for (std::size_t i = 0; i + most < all.size(); ++i) static_cast<void>(forget(all[i]));
+    return name;
+}
+
+Result<> LocalRecordings::forget(const std::string& name) {
+    const std::string file = fileOf(name);
+    if (!timeOf(name) || unlink(file.c_str()) == 0 || errno == ENOENT) return {};
+    return Error{"The file " + file + " cannot be deleted: " + std::strerror(errno),
+                 "Check who may write to its folder, or delete it yourself."};
+}
+
+Result<> LocalRecordings::forgetAll() {
+    FileReplacement::sweep(m_folder);
+    Result<> forgotten;
+    for (const std::string& name : names()) {
+        const Result<> one = forget(name);
+        if (!one && forgotten) forgotten = one;
+    }
+    return forgotten;
+}
