@@ -79,7 +79,8 @@ class Library {
                         .macroFiles = m_files,
                         .hotKeys = platform.hotKeys,
                         .firstHotKey = 1000,
-                        .notifications = platform.notifications}),
+                        .notifications = platform.notifications,
+                        .scripting = platform.scripting}),
           m_gate(platform.eventMonitor, [] {}),
           m_desk({m_controller, m_files, platform.keyboardLayout, m_gate, m_stage,
                   DraftFiles(m_home.file("state"))}) {

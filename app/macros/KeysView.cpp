@@ -187,9 +187,8 @@ void KeysView::moveDown() {
 
 void KeysView::duplicate() {
     const Range range = selected();
-    if (range.count > 0)
-        edit(m_model.recording().repeated(range.first, range.count, 2), range.first + range.count,
-             range.count);
+    if (range.count == 0) return;
+    edit(m_model.recording().repeated(range.first, range.count, 2), range.first + range.count, range.count);
 }
 
 void KeysView::change() {

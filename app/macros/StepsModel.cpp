@@ -108,9 +108,10 @@ Result<steps::Splice> StepsModel::edited(const steps::Step& step, const QString&
                                          manyTimes(steps::textLines(value.toStdString()), step.repeats));
         case steps::StepKind::pause: {
             const double seconds = QLocale().toDouble(value.trimmed(), &isNumber);
-            if (isNumber && std::isfinite(seconds) && seconds >= 0 && seconds <= longestPause)
+            if (isNumber && std::isfinite(seconds) && seconds >= 0 && seconds <= longestPause) {
                 return m_recording->replaced(step.first, step.count,
                                              manyTimes(steps::pauseLines(seconds), step.repeats));
+            }
             return Error{tr("A pause is a number of seconds from 0 to a day.").toStdString(), ""};
         }
         case steps::StepKind::key: {

@@ -104,7 +104,7 @@ Result<void> checkAction(const CommandLine& line) {
 }
 
 Result<void> checkMacroCall(const CommandLine& line) {
-    const auto known = checkOptions(line);
+    auto known = checkOptions(line);
     if (!known) return known;
     const std::vector<std::string>& names = line.files;
     const std::size_t most = line.wish == Wish::list ? 0 : 1;

@@ -61,7 +61,7 @@ QDBusMessage playOfFile(const QFileInfo& file, const QVariantMap& options) {
 
 /// What is there to ask, of the program that runs by then.
 Result<> prepare(const RunningProgram& program, const std::string& session) {
-    const auto reached = program.reach();
+    auto reached = program.reach();
     if (!reached || program.isRunning()) return reached;
     return program.start(session);
 }

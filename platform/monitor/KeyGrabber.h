@@ -34,6 +34,7 @@ class KeyGrabber {
     };
     virtual std::vector<std::optional<std::string>> grabAll(const std::vector<Wish>& wishes) {
         std::vector<std::optional<std::string>> failures;
+        failures.reserve(wishes.size());
         for (const Wish& wish : wishes) failures.push_back(grab(wish.grab, wish.request));
         return failures;
     }

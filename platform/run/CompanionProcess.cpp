@@ -56,8 +56,8 @@ class CompanionFiles {
 
 std::optional<std::string> CompanionProcess::find(const std::string& name) {
     const Installation installation = Installation::ofProcess();
-    for (const std::string& folder : {installation.programs(), installation.companions()}) {
-        const std::string file = folder + "/" + name;
+    for (std::string file : {installation.programs(), installation.companions()}) {
+        file.append("/").append(name);
         if (isExecutable(file)) return file;
     }
     return std::nullopt;

@@ -35,6 +35,7 @@ std::optional<std::string> HotKeyGrabs::grab(const KeyGrab& grab, const HotKeyRe
 
 std::vector<std::optional<std::string>> HotKeyGrabs::grabAll(const std::vector<Wish>& wishes) {
     std::vector<Cookies> asked;
+    asked.reserve(wishes.size());
     for (const Wish& wish : wishes) asked.push_back(ask(wish.grab));
     std::vector<std::optional<std::string>> failures;
     bool isAnyRefused = false;
