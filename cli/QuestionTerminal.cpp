@@ -36,6 +36,9 @@ void QuestionTerminal::showTyping(bool isShown) {
     if (tcgetattr(m_terminal.number(), &settings) != 0) return;
     m_former = settings;
     settings.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+    // Nobody catches what they send, and the terminal would stay so.
+    settings.c_cc[VQUIT] = _POSIX_VDISABLE;
+    settings.c_cc[VSUSP] = _POSIX_VDISABLE;
     tcsetattr(m_terminal.number(), TCSANOW, &settings);
 }
 

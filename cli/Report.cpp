@@ -59,8 +59,8 @@ std::string indentation(std::string_view line, std::uint32_t characters) {
 }  // namespace
 
 void Report::tell(const char* kind, const script::ScriptError& error) const {
-    std::cerr << m_file << ":" << error.location.line << ":" << error.location.column << ": " << kind
-              << " error: " << harmlessText(error.message) << " (" << error.number << ")\n";
+    std::cerr << harmlessText(m_file) << ":" << error.location.line << ":" << error.location.column << ": "
+              << kind << " error: " << harmlessText(error.message) << " (" << error.number << ")\n";
     const std::string_view line = script::lineOf(m_source, error.location.line);
     if (!line.empty() && line.size() <= widestLine) {
         std::cerr << harmlessText(line) << "\n" << indentation(line, error.location.column - 1) << "^\n";
@@ -69,11 +69,12 @@ void Report::tell(const char* kind, const script::ScriptError& error) const {
 }
 
 void Report::warning(const script::ScriptWarning& warning) const {
-    std::cerr << m_file << ":" << warning.location.line << ":" << warning.location.column
+    std::cerr << harmlessText(m_file) << ":" << warning.location.line << ":" << warning.location.column
               << ": warning: " << harmlessText(warning.message) << "\n";
 }
 
 void reportError(const std::string& subject, const Error& error) {
-    std::cerr << "keyrill-script: " << subject << error.message << (error.hint.empty() ? "" : " ")
-              << error.hint << "\n";
+    std::cerr << harmlessText("keyrill-script: " + subject + error.message + (error.hint.empty() ? "" : " ") +
+                              error.hint)
+              << "\n";
 }

@@ -42,8 +42,12 @@ Result<ScriptText> readScript(const std::string& file) {
     auto bytes = file == "-" ? bytesOf(STDIN_FILENO) : bytesOfFile(file);
     if (!bytes) return bytes.error();
     ScriptText script;
-    if (const auto offset = firstMacRomanByte(bytes.value())) {
-        script.noUtf8 = script::locate(bytes.value(), *offset);
+    // What was cut off may have been cut within a character.
+    const bool isWhole = bytes.value().size() <= script::maxSourceSize;
+    if (const auto offset = firstMacRomanByte(bytes.value()); offset && isWhole) {
+        const std::string toThere = decodedText(bytes.value().substr(0, *offset + 1));
+        script.noUtf8 = script::locate(toThere, toThere.size());
+        --script.noUtf8->column;
     }
     script.text = decodedText(std::move(bytes).value());
     return script;

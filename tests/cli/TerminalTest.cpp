@@ -208,26 +208,40 @@ TEST(TerminalDialogTest, aNotificationHasAllItsTexts) {
     EXPECT_TRUE(run.shows("title: sub: text\r\n")) << run.screen();
 }
 
-/// What a script waits for when a signal comes.
-class TerminalSignalTest : public testing::TestWithParam<const char*> {};
+/// What a script waits for when a signal comes, and what the screen shows by then.
+struct Wait {
+    const char* name;
+    const char* script;
+    const char* shown;
+};
+
+std::ostream& operator<<(std::ostream& out, const Wait& wait) { return out << wait.name; }
+
+class TerminalSignalTest : public testing::TestWithParam<Wait> {};
 
 TEST_P(TerminalSignalTest, endsTheRun) {
+    const std::string script = std::string("log \"begun\"\n") + GetParam().script;
     for (const int number : {SIGTERM, SIGHUP}) {
-        TerminalRun run(std::string("log \"begun\"\n") + GetParam());
-        ASSERT_TRUE(run.shows("begun")) << run.screen();
+        TerminalRun run(script);
+        ASSERT_TRUE(run.shows(GetParam().shown)) << run.screen();
         run.signal(number);
         EXPECT_EQ(run.end(), 128 + number) << run.screen();
     }
-    TerminalRun run(std::string("log \"begun\"\n") + GetParam());
-    ASSERT_TRUE(run.shows("begun")) << run.screen();
+    TerminalRun run(script);
+    ASSERT_TRUE(run.shows(GetParam().shown)) << run.screen();
     run.type("\x03");
     EXPECT_EQ(run.end(), 128 + SIGINT) << run.screen();
 }
 
 INSTANTIATE_TEST_SUITE_P(Waits, TerminalSignalTest,
-                         testing::Values("display dialog \"x\"", R"(choose from list {"a"})",
-                                         R"(display dialog "x" default answer "" with hidden answer)",
-                                         "delay 1000", "repeat\nend repeat"));
+                         testing::Values(Wait{"aQuestion", "display dialog \"x\"", "> "},
+                                         Wait{"aList", R"(choose from list {"a"})", "> "},
+                                         Wait{"aHiddenAnswer",
+                                              R"(display dialog "x" default answer "" with hidden answer)",
+                                              "[] "},
+                                         Wait{"aPause", "delay 1000", "begun"},
+                                         Wait{"nothing", "repeat\nend repeat", "begun"}),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(TerminalDialogTest, withoutATerminalNobodyIsAsked) {
     TemporaryFolder folder;

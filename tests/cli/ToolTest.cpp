@@ -318,6 +318,9 @@ TEST_F(ToolTest, aFileThatIsNoUtf8IsWarnedOf) {
                        "[{\"kind\":\"warning\",\"line\":2,\"column\":9,\"length\":1,\"message\":\"This is no "
                        "UTF-8, so the whole file is taken for Mac Roman. Save it as UTF-8.\"}]\n",
                        ""}));
+    // Its characters are counted as the file is taken.
+    write("log \"\xc3\xa9\xe9\"\n");
+    EXPECT_EQ(run("check script").errors.substr(0, 12), "script:1:8: ");
     // A mark says what it is.
     write("\xff\xfe" + std::string("l\0o\0g\0 \0\xe9\0", 10));
     EXPECT_EQ(run("check script").errors.find("Mac Roman"), std::string::npos);
