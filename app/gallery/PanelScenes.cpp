@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <QCoreApplication>
+#include <QDateTime>
+#include <QMenu>
+#include <QPushButton>
 #include <map>
 
 #include "app/controller/StatusNotice.h"
@@ -59,6 +62,31 @@ void takePreferences(Camera& camera) {
     camera.takeShown({&panel}, QStringLiteral("preferences-recording"));
 }
 
+/// What can be kept of the history, or forgotten.
+void takeRecordings(Camera& camera, MacrosWindow& window) {
+    const QDateTime evening(QDate(2026, 11, 22), QTime(17, 40));
+    window.setRecordings([evening] {
+        std::vector<MacrosWindow::Recording> recordings;
+        for (const char* keys : {"@d~notes\n", "Dear Ann\n", "^a^c\t^v"}) {
+            const auto before = static_cast<qint64>(recordings.size()) * 100000;
+            recordings.push_back({.macroId = 1,
+                                  .title = QString::fromStdString(recordedMacro(keys)->displayText()),
+                                  .recordedAt = evening.addSecs(-before)});
+        }
+        return recordings;
+    });
+    window.setHasRecordings(true);
+    for (const QPushButton* button : window.findChildren<QPushButton*>()) {
+        if (button->menu() == nullptr) continue;
+        QMenu& keep = *button->menu();
+        keep.popup(button->mapToGlobal(QPoint(0, button->height())));
+        keep.setActiveAction(keep.actions().last());
+        Camera::settle();
+        camera.takeShown({&window, &keep, keep.actions().last()->menu()}, QStringLiteral("macros-keep"));
+        keep.hide();
+    }
+}
+
 void takeMacros(Camera& camera) {
     MacrosWindow window(services().keyboardLayout);
     std::map<std::string, std::string> scripts = {
@@ -78,6 +106,7 @@ void takeMacros(Camera& camera) {
     window.setHasRecordings(true);
     window.settings().showSettings(hotKey, {.times = {3}, .speed = 1.5});
     camera.take(window, QStringLiteral("macros"));
+    takeRecordings(camera, window);
     window.choose("work/Names");
     window.settings().showSettings(hotKey, {.times = PlayTimes::untilStopped()});
     window.settings().setNotice(
