@@ -2,6 +2,7 @@
 #include "library/RecordingHistory.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "core/MacroManager.h"
@@ -12,22 +13,34 @@ RecordingHistory::RecordingHistory(RecordingStore& store, HistoryListener& liste
 void RecordingHistory::setKept(bool isKept) {
     if (std::exchange(m_isKept, isKept) == isKept) return;
     if (!isKept) {
+        const Result<> forgotten = m_store.forgetAll();
+        // They keep their names in the store, of which some are still there.
+        if (!forgotten) return m_listener.historyFailed(forgotten.error());
         for (HistoryEntry& entry : m_entries) entry.name.clear();
-        return tell(m_store.forgetAll());
+        return;
     }
-    const std::size_t here = m_entries.size();
-    load();
-    // The latest last, so that it is none of those that go.
-    for (std::size_t i = here; i-- > 0;) store(m_entries[i]);
+    std::vector<StoredRecording> stored = m_store.all();
+    std::set<std::string> names;
+    for (const StoredRecording& recording : stored) names.insert(recording.name);
+    // The earliest first, for those of the same moment.
+    for (std::size_t i = m_entries.size(); i-- > 0;) {
+        if (names.erase(m_entries[i].name) == 0) store(m_entries[i]);
+    }
+    for (StoredRecording& recording : stored) {
+        if (names.contains(recording.name)) takeIn(std::move(recording));
+    }
 }
 
-void RecordingHistory::load() {
-    for (StoredRecording& stored : m_store.all()) {
-        const boost::shared_ptr<Macro> macro = MacroManager::createMacro();
-        macro->setScript(stored.script);
-        m_entries.push_back({macro->macroId(), std::move(stored.title), stored.recordedAt, stored.name});
-        m_listener.recordingAppeared(m_entries.size() - 1);
-    }
+void RecordingHistory::takeIn(StoredRecording stored) {
+    const boost::shared_ptr<Macro> macro = MacroManager::createMacro();
+    macro->setScript(stored.script);
+    const auto isEarlier = [&stored](const HistoryEntry& entry) {
+        return entry.recordedAt < stored.recordedAt;
+    };
+    const auto place = std::find_if(m_entries.begin(), m_entries.end(), isEarlier);
+    const std::size_t index = static_cast<std::size_t>(place - m_entries.begin());
+    m_entries.insert(place, {macro->macroId(), std::move(stored.title), stored.recordedAt, stored.name});
+    m_listener.recordingAppeared(index);
 }
 
 void RecordingHistory::store(HistoryEntry& entry) {
@@ -52,26 +65,20 @@ void RecordingHistory::remove(std::size_t index) {
     m_listener.recordingGone(macroId);
 }
 
-void RecordingHistory::forget(int macroId) {
+Result<> RecordingHistory::forget(int macroId) {
     const auto isIt = [macroId](const HistoryEntry& entry) { return entry.macroId == macroId; };
     const auto entry = std::find_if(m_entries.begin(), m_entries.end(), isIt);
-    if (entry == m_entries.end()) return;
+    if (entry == m_entries.end()) return {};
     if (!entry->name.empty()) {
-        const Result<> forgotten = m_store.forget(entry->name);
         // Who sees it no longer would think it gone.
-        if (!forgotten) return m_listener.historyFailed(forgotten.error());
+        if (auto forgotten = m_store.forget(entry->name); !forgotten) return forgotten;
     }
     remove(static_cast<std::size_t>(entry - m_entries.begin()));
+    return {};
 }
 
-void RecordingHistory::forgetAll() {
-    if (m_isKept) {
-        const Result<> forgotten = m_store.forgetAll();
-        if (!forgotten) return m_listener.historyFailed(forgotten.error());
-    }
+Result<> RecordingHistory::forgetAll() {
+    if (auto forgotten = m_store.forgetAll(); !forgotten) return forgotten;
     while (!m_entries.empty()) remove(m_entries.size() - 1);
-}
-
-void RecordingHistory::tell(const Result<>& done) {
-    if (!done) m_listener.historyFailed(done.error());
+    return {};
 }

@@ -27,7 +27,7 @@ class HistoryListener {
     /// There is one more, at that place of entries().
     virtual void recordingAppeared(std::size_t index) = 0;
     virtual void recordingGone(int macroId) = 0;
-    /// A recording could not be stored, or is still in the store although it was to be forgotten.
+    /// A recording could not be stored, or some are still in the store although they are kept no longer.
     virtual void historyFailed(const Error& why) = 0;
 };
 
@@ -42,21 +42,22 @@ class RecordingHistory {
     /// The latest first.
     const std::vector<HistoryEntry>& entries() const { return m_entries; }
 
-    /// Kept from now on: what is stored comes in behind what is there, and what is there is stored. No longer
-    /// kept: nothing is left in the store, and what is there stays for this run.
+    /// Kept from now on: what is stored comes in, and what is there is stored. Kept no longer: nothing is
+    /// left in the store, and what is there stays for this run.
     void setKept(bool isKept);
     bool isKept() const { return m_isKept; }
 
     /// A recording has ended.
     void add(const Macro& macro);
-    /// It leaves the history, and the store. Its macro stays for whoever has it.
-    void forget(int macroId);
-    void forgetAll();
+    /// It leaves the history, and the store. Its macro stays for whoever has it. The error tells why it is
+    /// still in both.
+    Result<> forget(int macroId);
+    /// The same for all of them, and for all that is in the store, whether it is kept or not.
+    Result<> forgetAll();
 
   private:
-    void load();
+    void takeIn(StoredRecording stored);
     void store(HistoryEntry& entry);
-    void tell(const Result<>& done);
     void remove(std::size_t index);
 
     RecordingStore& m_store;

@@ -28,12 +28,12 @@ struct StoredRecording {
 /// may have it open.
 class RecordingStore {
   public:
-    /// Of more the earliest goes.
+    /// Of more the earliest goes, never the one that is being kept.
     static constexpr std::size_t most = 50;
 
     virtual ~RecordingStore() = default;
 
-    /// The latest first. What cannot be read is left out.
+    /// The latest first, not more than the most. What cannot be read is left out.
     virtual std::vector<StoredRecording> all() = 0;
 
     /// Stores it, whole or not at all; its name. The error tells why it could not be written.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/MacrosDesk.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
@@ -48,6 +49,19 @@ std::optional<std::string> linesOf(const std::string& script) {
     if (!steps::RecordedScript::parse(script)) return std::nullopt;
     return script.substr(steps::firstLine.size(),
                          script.size() - steps::firstLine.size() - steps::lastLine.size());
+}
+
+/// What else is to be said where Play still has a macro that is not in the history.
+QString remainder(const RecordingHistory& history) {
+    const auto& current = engineState().currentMacro;
+    if (!current) return {};
+    const auto& entries = history.entries();
+    const auto isCurrent = [&current](const HistoryEntry& entry) {
+        return entry.macroId == current->macroId();
+    };
+    if (std::any_of(entries.begin(), entries.end(), isCurrent)) return {};
+    return QLatin1Char(' ') +
+           QCoreApplication::translate("MacrosDesk", "Play has the latest macro until there is another.");
 }
 
 std::vector<MacrosWindow::Recording> recordingsOf(const RecordingHistory& history) {
@@ -325,18 +339,23 @@ void MacrosDesk::holdHotKeys(bool holds) {
 void MacrosDesk::keep(int macroId) { makeMacro(MacroManager::macro(macroId)->script()); }
 
 void MacrosDesk::forget(int macroId) {
-    m_means.library.history().forget(macroId);
-    m_window->tell(tr("The recording is forgotten."));
+    const Result<> forgotten = m_means.library.history().forget(macroId);
+    if (!forgotten) return m_window->warn(shown(forgotten.error()));
+    m_window->tell(tr("The recording is forgotten.") + remainder(m_means.library.history()));
 }
 
 void MacrosDesk::forgetAll() {
-    m_means.library.history().forgetAll();
-    m_window->tell(tr("All recordings are forgotten."));
+    const Result<> forgotten = m_means.library.history().forgetAll();
+    if (!forgotten) return m_window->warn(shown(forgotten.error()));
+    m_window->tell(tr("All recordings are forgotten.") + remainder(m_means.library.history()));
 }
 
 void MacrosDesk::save() {
     const std::string path = m_window->chosen();
     const std::string text = m_window->editor().text();
+    // Its folder may have gone with it. That it cannot be made shows when the file is written.
+    std::error_code ignored;
+    std::filesystem::create_directories(std::filesystem::path(m_library.fileOf(path)).parent_path(), ignored);
     const Result<> written = m_means.files.write(m_library.fileOf(path), text);
     if (!written) return m_window->warn(shown(written.error()));
     m_saved = text;

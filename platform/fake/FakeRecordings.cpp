@@ -9,11 +9,11 @@ Result<std::string> FakeRecordings::keep(const StoredRecording& recording) {
     if (auto error = m_nextError.take()) return *std::move(error);
     StoredRecording kept = recording;
     kept.name = std::to_string(++m_lastName);
+    if (m_recordings.size() == most) m_recordings.pop_back();
     const auto isEarlier = [&kept](const StoredRecording& other) {
         return other.recordedAt <= kept.recordedAt;
     };
     m_recordings.insert(std::find_if(m_recordings.begin(), m_recordings.end(), isEarlier), kept);
-    if (m_recordings.size() > most) m_recordings.pop_back();
     return kept.name;
 }
 

@@ -94,6 +94,7 @@ std::vector<StoredRecording> LocalRecordings::all() {
                               .script = text.substr(lineEnd + 1)});
     }
     std::reverse(recordings.begin(), recordings.end());
+    if (recordings.size() > most) recordings.resize(most);
     return recordings;
 }
 
@@ -108,17 +109,20 @@ std::string LocalRecordings::freeName(RecordedAt time) const {
 }
 
 Result<std::string> LocalRecordings::keep(const StoredRecording& recording) {
-    // That it could not be made shows when the file is written.
     constexpr int folderMode = 0700;
-    g_mkdir_with_parents(m_folder.c_str(), folderMode);
+    if (g_mkdir_with_parents(m_folder.c_str(), folderMode) != 0) {
+        return Error{"The folder " + m_folder + " cannot be made: " + std::strerror(errno),
+                     "Make room, or check who may write there."};
+    }
     const std::string name = freeName(recording.recordedAt);
     const Result<> written =
         WholeFile(fileOf(name))
             .write(std::string(comment) + inOneLine(recording.title) + "\n" + recording.script);
     if (!written) return written.error();
-    const std::vector<std::string> all = names();
+    std::vector<std::string> others = names();
+    std::erase(others, name);
     // One that cannot go now goes with the next.
-    for (std::size_t i = 0; i + most < all.size(); ++i) static_cast<void>(forget(all[i]));
+    for (std::size_t i = 0; i + most <= others.size(); ++i) static_cast<void>(forget(others[i]));
     return name;
 }
 

@@ -101,6 +101,13 @@ TEST_P(RecordingStoreContract, theEarliestGoesAboveTheMost) {
     EXPECT_EQ(titles().back(), "1");
 }
 
+TEST_P(RecordingStoreContract, theOneThatIsKeptDoesNotGoWhateverTheClockSays) {
+    for (int i = 1; i <= static_cast<int>(RecordingStore::most); ++i) keep(recording(i, "later"));
+    keep(recording(0, "now"));
+    EXPECT_EQ(titles().size(), RecordingStore::most);
+    EXPECT_EQ(titles().back(), "now");
+}
+
 TEST_P(RecordingStoreContract, forgetsOne) {
     keep(recording(0, "first"));
     const std::string second = keep(recording(1, "second"));

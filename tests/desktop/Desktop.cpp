@@ -84,6 +84,7 @@ void Desktop::makeHome() {
                      {"XDG_CONFIG_DIRS", presets},
                      {"XDG_CONFIG_HOME", ""},
                      {"XDG_DATA_HOME", ""},
+                     {"XDG_STATE_HOME", ""},
                      {"XDG_CURRENT_DESKTOP", ""},
                      {"WAYLAND_DISPLAY", ""},
                      {"LC_ALL", "C.UTF-8"},

@@ -56,7 +56,10 @@ class HistoryTest : public DesktopTest {
     std::vector<fs::path> stored() const {
         std::vector<fs::path> files;
         std::error_code error;
-        for (const auto& entry : fs::directory_iterator(folder, error)) files.push_back(entry.path());
+        for (const auto& entry : fs::directory_iterator(folder, error)) {
+            // Others are being written.
+            if (entry.path().extension() == ".keyrill") files.push_back(entry.path());
+        }
         std::sort(files.begin(), files.end());
         return files;
     }

@@ -118,12 +118,12 @@ TEST_F(RecordingHistoryTest, aForgottenOneIsNeitherThereNorStored) {
     for (const char* const title : {"a", "b", "c"}) record(title);
     const int b = history.entries()[1].macroId;
     told.clear();
-    history.forget(b);
+    EXPECT_TRUE(history.forget(b));
     EXPECT_EQ(titles(), (Titles{"c", "a"}));
     EXPECT_EQ(stored().titles(), (Titles{"c", "a"}));
     EXPECT_EQ(told, Titles{"gone " + std::to_string(b)});
     // It is none of the history any more.
-    history.forget(b);
+    EXPECT_TRUE(history.forget(b));
     EXPECT_EQ(titles(), (Titles{"c", "a"}));
 }
 
@@ -131,11 +131,13 @@ TEST_F(RecordingHistoryTest, whenAllAreForgottenNothingIsLeft) {
     history.setKept(true);
     record("a");
     record("b");
+    const int a = history.entries()[1].macroId;
+    const int b = history.entries()[0].macroId;
     told.clear();
-    history.forgetAll();
+    EXPECT_TRUE(history.forgetAll());
     EXPECT_EQ(titles(), Titles{});
     EXPECT_EQ(stored().titles(), Titles{});
-    EXPECT_EQ(told.size(), 2U);
+    EXPECT_EQ(told, (Titles{"gone " + std::to_string(a), "gone " + std::to_string(b)}));
 }
 
 TEST_F(RecordingHistoryTest, aRecordingThatCannotBeStoredIsThereAndTold) {
@@ -152,14 +154,50 @@ TEST_F(RecordingHistoryTest, aRecordingThatCannotBeStoredIsThereAndTold) {
 TEST_F(RecordingHistoryTest, oneThatCannotBeForgottenStaysToBeSeen) {
     history.setKept(true);
     record("a");
+    told.clear();
     for (const bool isAll : {false, true}) {
-        told.clear();
         stored().failNextCall({"The folder is read-only", ""});
-        isAll ? history.forgetAll() : history.forget(history.entries().front().macroId);
+        const Result<> forgotten =
+            isAll ? history.forgetAll() : history.forget(history.entries().front().macroId);
+        ASSERT_FALSE(forgotten);
+        EXPECT_EQ(forgotten.error().message, "The folder is read-only");
         EXPECT_EQ(titles(), Titles{"a"});
         EXPECT_EQ(stored().titles(), Titles{"a"});
-        EXPECT_EQ(told, Titles{"The folder is read-only"});
     }
+    EXPECT_EQ(told, Titles{});
+}
+
+/// The user wants it no longer, and it stays in the store all the same.
+class StuckHistoryTest : public RecordingHistoryTest {
+  protected:
+    StuckHistoryTest() {
+        history.setKept(true);
+        record("a");
+        told.clear();
+        stored().failNextCall({"The folder is read-only", ""});
+        history.setKept(false);
+    }
+};
+
+TEST_F(StuckHistoryTest, isTold) {
+    EXPECT_EQ(told, Titles{"The folder is read-only"});
+    EXPECT_EQ(stored().titles(), Titles{"a"});
+}
+
+TEST_F(StuckHistoryTest, isNeitherListedNorStoredTwiceWhenItIsWantedAgain) {
+    history.setKept(true);
+    EXPECT_EQ(titles(), Titles{"a"});
+    EXPECT_EQ(stored().titles(), Titles{"a"});
+}
+
+TEST_F(StuckHistoryTest, goesWhenItIsForgotten) {
+    EXPECT_TRUE(history.forget(history.entries().front().macroId));
+    EXPECT_EQ(stored().titles(), Titles{});
+}
+
+TEST_F(StuckHistoryTest, goesWhenAllIsForgotten) {
+    EXPECT_TRUE(history.forgetAll());
+    EXPECT_EQ(stored().titles(), Titles{});
 }
 
 }  // namespace

@@ -98,6 +98,17 @@ TEST_F(LocalRecordingsTest, aFileThatIsNoRecordingIsLeftOut) {
     EXPECT_EQ(store.all().front().title, "b");
 }
 
+TEST_F(LocalRecordingsTest, ofTooManyTheLatestAreRead) {
+    for (int second = 10; second < 70; ++second) {
+        const std::string name = "20260101T00" + std::string(second < 60 ? "00" : "01") +
+                                 std::to_string(second < 60 ? second : second - 50) + ".000Z.keyrill";
+        put(name, "-- " + std::to_string(second) + "\n");
+    }
+    ASSERT_EQ(store.all().size(), RecordingStore::most);
+    EXPECT_EQ(store.all().front().title, "69");
+    EXPECT_EQ(store.all().back().title, "20");
+}
+
 TEST_F(LocalRecordingsTest, whatAKilledWriterLeftGoes) {
     fs::create_directories(m_state.file("keyrill/history"));
     const std::string first = makeLeftOver(m_state.file("keyrill/history"));

@@ -57,7 +57,7 @@ TEST_F(AppControllerTest, theHistoryOfEarlierRunsIsNotReadWhereItIsNotKept) {
     controller.awakeFromNib();
     EXPECT_TRUE(history().isEmpty());
     EXPECT_FALSE(controller.statusMenu.item(menuIndex("history"))->isEnabled());
-    // It stays for whoever wants it again.
+    // It is not for a start to delete what the user has not forgotten.
     EXPECT_EQ(platform().recordings.titles(), std::vector<std::string>{"earlier"});
 }
 
@@ -66,10 +66,10 @@ TEST_F(AppControllerTest, whatIsForgottenLeavesTheMenu) {
     recordKey(key::a);
     recordKey(key::b);
     const int earlier = library.controller.history().entries()[1].macroId;
-    library.controller.history().forget(earlier);
+    EXPECT_TRUE(library.controller.history().forget(earlier));
     ASSERT_EQ(history().size(), 1);
     EXPECT_EQ(history()[0]->text(), "B");
-    library.controller.history().forgetAll();
+    EXPECT_TRUE(library.controller.history().forgetAll());
     EXPECT_TRUE(history().isEmpty());
     EXPECT_FALSE(controller.statusMenu.item(menuIndex("history"))->isEnabled());
 }

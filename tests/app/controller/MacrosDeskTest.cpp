@@ -207,6 +207,16 @@ TEST_F(MacrosDeskTest, whatIsNotSavedOutlivesItsFile) {
     EXPECT_EQ(contentOf(file("Greeting")), ab);
 }
 
+TEST_F(MacrosDeskTest, whatIsNotSavedOutlivesItsFolder) {
+    choose("work/Mail");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    const std::string text = editor().text();
+    std::filesystem::remove_all(folder + "/work");
+    ASSERT_TRUE(soon([this] { return names() == "Greeting|work/Mail"; })) << names();
+    button("Save").click();
+    EXPECT_EQ(contentOf(file("work/Mail")), text);
+}
+
 TEST_F(MacrosDeskTest, aFolderThatDoesNotAnswerHoldsNothingUp) {
     files.hold();
     window().choose("Greeting.keyrill");
@@ -509,16 +519,45 @@ TEST_F(MacrosDeskHistoryTest, oneOfThemIsForgotten) {
     record(a);
     record(ab);
     forgetActions().first()->trigger();
+    EXPECT_EQ(told(), "The recording is forgotten.");
     ASSERT_EQ(shelf.history().entries().size(), 1U);
     EXPECT_EQ(keepActions().size(), 3);
     keepActions().first()->trigger();
     EXPECT_TRUE(soon([this] { return contentOf(file("New Macro")) == a; }));
 }
 
+TEST_F(MacrosDeskHistoryTest, oneThatCannotBeForgottenIsToldAndStays) {
+    shelf.history().setKept(true);
+    record(a);
+    platform().recordings.failNextCall({"The folder is read-only.", ""});
+    forgetActions().first()->trigger();
+    EXPECT_EQ(warning(), "The folder is read-only.");
+    EXPECT_EQ(shelf.history().entries().size(), 1U);
+    platform().recordings.failNextCall({"The folder is full.", ""});
+    forgetActions().last()->trigger();
+    EXPECT_EQ(warning(), "The folder is full.");
+    EXPECT_EQ(shelf.history().entries().size(), 1U);
+}
+
+TEST_F(MacrosDeskHistoryTest, linesSayWhatAndWhen) {
+    auto macro = MacroManager::createMacro();
+    macro->addAction(createKeyCode(0, "a&b", 'a'));
+    shelf.history().add(*macro);
+    record(a);
+    const QString time = QLocale().toString(
+        QDateTime::fromMSecsSinceEpoch(shelf.history().entries()[1].recordedAt.time_since_epoch().count()),
+        QLocale::ShortFormat);
+    EXPECT_EQ(keepActions()[1]->text(), QStringLiteral("a&&b\t") + time);
+    EXPECT_EQ(forgetActions()[1]->text(), QStringLiteral("a&&b\t") + time);
+    EXPECT_EQ(forgetActions().last()->text(), "Forget &All");
+}
+
 TEST_F(MacrosDeskHistoryTest, allOfThemAreForgotten) {
     record(a);
     record(ab);
+    state().currentMacro = MacroManager::macro(shelf.history().entries().front().macroId);
     forgetActions().last()->trigger();
+    EXPECT_EQ(told(), "All recordings are forgotten. Play has the latest macro until there is another.");
     EXPECT_TRUE(shelf.history().entries().empty());
     EXPECT_FALSE(keepButton().isEnabled());
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Macro files and settings on disks that are full or read-only.
+// Macro files, recordings and settings on disks that are full or read-only.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,6 +10,7 @@
 #include "linux/disk/PrivateMounts.h"
 #include "platform/linux/KeyFileSettings.h"
 #include "platform/linux/LocalMacroFiles.h"
+#include "platform/linux/LocalRecordings.h"
 
 namespace fs = std::filesystem;
 
@@ -56,6 +57,24 @@ TEST_P(FullDiskTest, aNewMacroFileIsWrittenWholeOrNotAtAll) {
     EXPECT_EQ(names(disk.path()).size(), fits() ? 2U : 1U);
 }
 
+TEST_P(FullDiskTest, aRecordingIsKeptWholeOrNotAtAll) {
+    // The folders take no page of it.
+    const std::string folder = disk.file("keyrill/history");
+    fs::create_directories(folder);
+    disk.fillUntil(freePages());
+    LocalRecordings recordings(disk.path());
+    const std::string comment = "-- a\n";
+    const auto name = recordings.keep({.title = "a", .script = std::string(size() - comment.size(), 'n')});
+    EXPECT_EQ(static_cast<bool>(name), fits());
+    EXPECT_EQ(recordings.all().size(), fits() ? 1U : 0U);
+    EXPECT_EQ(names(folder).size(), fits() ? 1U : 0U);
+    if (!name) {
+        EXPECT_EQ(name.error().message,
+                  "The file " + folder +
+                      "/19700101T000000.000Z.keyrill cannot be written: No space left on device");
+    }
+}
+
 TEST_P(FullDiskTest, theSettingsAreStoredWholeOrLeftAsTheyWere) {
     fs::create_directories(disk.file("keyrill"));
     const std::string file = disk.file("keyrill/keyrill.conf");
@@ -95,6 +114,28 @@ TEST(ReadOnlyDiskTest, aMacroFileIsLeftAsItWas) {
     }
     EXPECT_EQ(contentOf(disk.file("a.keyrill")), "old");
     EXPECT_FALSE(fs::exists(disk.file("b.keyrill")));
+}
+
+TEST(ReadOnlyDiskTest, aRecordingThatCannotBeForgottenIsToldAndStays) {
+    const SmallDisk disk;
+    LocalRecordings recordings(disk.path());
+    const auto name = recordings.keep({.title = "a", .script = "beep"});
+    ASSERT_TRUE(name);
+    disk.makeReadOnly();
+    const std::string message = "The file " + disk.file("keyrill/history/") + name.value() +
+                                " cannot be deleted: Read-only file system";
+    EXPECT_EQ(recordings.forget(name.value()).error().message, message);
+    EXPECT_EQ(recordings.forgetAll().error().message, message);
+    EXPECT_EQ(recordings.all().size(), 1U);
+}
+
+TEST(ReadOnlyDiskTest, aRecordingIsNotKeptWhereNoFolderCanBeMade) {
+    const SmallDisk disk;
+    disk.makeReadOnly();
+    const auto name = LocalRecordings(disk.path()).keep({.title = "a", .script = "beep"});
+    ASSERT_FALSE(name);
+    EXPECT_EQ(name.error().message,
+              "The folder " + disk.file("keyrill/history") + " cannot be made: Read-only file system");
 }
 
 TEST(ReadOnlyDiskTest, theSettingsAreReadAndTheFailureToStoreThemTold) {
