@@ -6,11 +6,9 @@
 #include <utility>
 #include <vector>
 
-#include "platform/script/commands/Command.h"
 #include "platform/script/source/Lexer.h"
 #include "platform/script/source/Trivia.h"
 #include "platform/script/syntax/Parser.h"
-#include "platform/script/values/ElementNames.h"
 
 namespace script {
 namespace {
@@ -56,22 +54,16 @@ std::vector<Piece> piecesOf(std::string_view gap) {
     return pieces;
 }
 
-/// Whether a value may end with the token, so that a sign behind it is an operator.
-bool endsValue(const Token& token) {
-    switch (token.kind) {
-        case TokenKind::number:
-        case TokenKind::text:
-        case TokenKind::rightParenthesis:
-        case TokenKind::rightBrace:
-            return true;
-        case TokenKind::identifier:
-            if (token.is(Word::none)) return findElementName(token) == nullptr;
-            if (token.is(Word::id)) return false;
-            return kindOf(token.word) != WordKind::reserved || token.is(Word::it) || token.is(Word::me) ||
-                   token.is(Word::trueWord) || token.is(Word::falseWord) || token.is(Word::returnWord);
-        default:
-            return false;
+bool mayBeSign(const Token& token) { return token.is(TokenKind::minus) || token.is(TokenKind::plus); }
+
+/// Where operators stand between two values, in order, in bytes.
+std::vector<std::uint32_t> operatorPlaces(const Tree& tree) {
+    std::vector<std::uint32_t> places;
+    for (const Node& node : tree.nodes) {
+        if (node.kind == NodeKind::binary) places.push_back(node.offset);
     }
+    std::sort(places.begin(), places.end());
+    return places;
 }
 
 std::string_view spellingOfSign(const Token& token) {
@@ -96,8 +88,8 @@ std::string canonical(const Token& token) {
 /// Writes one token after another.
 class Layout {
   public:
-    Layout(std::string_view source, const std::vector<BlockMark>& blocks)
-        : m_source(source), m_blocks(blocks), m_lexer(source) {}
+    Layout(std::string_view source, const Tree& tree)
+        : m_source(source), m_blocks(tree.blocks), m_operators(operatorPlaces(tree)), m_lexer(source) {}
 
     std::string take() {
         for (Token token = m_lexer.next();; token = m_lexer.next()) {
@@ -199,18 +191,10 @@ class Layout {
         m_former = token;
     }
 
-    /// Whether the token is the sign of a number, and not an operator.
+    /// Whether the token is the sign of a value, and not an operator.
     bool isSign(const Token& token) const {
-        if (!token.is(TokenKind::minus) && !token.is(TokenKind::plus)) return false;
-        if (!m_former || !endsValue(*m_former)) return true;
-        return m_former->is(TokenKind::identifier) && isCommandWord(*m_former);
-    }
-
-    static bool isCommandWord(const Token& token) {
-        return std::any_of(commands().begin(), commands().end(), [&](const Command* command) {
-            return command->name.wordCount() == 1 && command->name.hasWord(0, token) &&
-                   command->direct != Command::Direct::none && !command->takesOf;
-        });
+        return mayBeSign(token) &&
+               !std::binary_search(m_operators.begin(), m_operators.end(), offsetOf(token));
     }
 
     bool needsBlank(const Token& token) const {
@@ -249,6 +233,7 @@ class Layout {
 
     std::string_view m_source;
     const std::vector<BlockMark>& m_blocks;
+    const std::vector<std::uint32_t> m_operators;
     Lexer m_lexer;
     std::string m_out;
     std::string m_line;
@@ -274,7 +259,7 @@ Result<std::string, ScriptError> formatted(std::string_view source) {
     Parser parser(source.starts_with(byteOrderMark) ? whole : source);
     const Tree& tree = parser.parse();
     if (parser.error()) return *parser.error();
-    return Layout(source, tree.blocks).take();
+    return Layout(source, tree).take();
 }
 
 }  // namespace script

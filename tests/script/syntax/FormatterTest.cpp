@@ -35,6 +35,15 @@ INSTANTIATE_TEST_SUITE_P(
             "set Foo to true\nFoo\n"},
         Row{"signs", "delay -1\nset x to - 1\nset x to x-1\nset x to (-1)\nitem -1 of x\n{-1, x - -1}",
             "delay -1\nset x to -1\nset x to x - 1\nset x to (-1)\nitem -1 of x\n{-1, x - -1}\n"},
+        Row{"signs behind words that take a value",
+            "on f(x)\nif x then return - 1\nreturn - x\nend f\ntext - 2 thru - 1 of x\nrepeat with i from - "
+            "1 to - "
+            "5 by - 1\nend repeat\nx starts with - 1 and not - x = + 2",
+            "on f(x)\n\tif x then return -1\n\treturn -x\nend f\ntext -2 thru -1 of x\nrepeat with i from -1 "
+            "to "
+            "-5 by -1\nend repeat\nx starts with -1 and not -x = +2\n"},
+        Row{"operators behind words that are names", "set total to 1\nset y to total -1\ncount -1\nresult -1",
+            "set total to 1\nset y to total - 1\ncount - 1\nresult - 1\n"},
         Row{"two signs are no comment", "x - - 1", "x - -1\n"},
         Row{"comparisons by their signs", "1/=2\n1<=2\n1>=2", "1 ≠ 2\n1 ≤ 2\n1 ≥ 2\n"},
         Row{"comments", "-- a\nif x then -- b\n-- c\n1(* d *)\n# e\nend if--f",
