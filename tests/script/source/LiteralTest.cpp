@@ -3,8 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <string>
+
+#include "core/HostileLocale.h"
 
 namespace {
 
@@ -25,12 +26,10 @@ TEST(LiteralTest, realsBeyondTheRangeAreNoneAndTinyOnesAreZero) {
 }
 
 TEST(LiteralTest, numbersDoNotDependOnTheLocale) {
-    for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8"}) {
-        if (std::setlocale(LC_NUMERIC, name) != nullptr) break;
-    }
+    const HostileLocale german;
     EXPECT_EQ(script::realOf("0.5"), 0.5);
+    EXPECT_EQ(script::numberInText("1.5"), 1.5);
     EXPECT_EQ(script::numberInText("0,5"), std::nullopt);
-    std::setlocale(LC_NUMERIC, "C");
 }
 
 TEST(LiteralTest, numbersInTextMayHaveBlanksAroundAndASign) {
