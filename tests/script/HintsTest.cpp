@@ -39,6 +39,9 @@ INSTANTIATE_TEST_SUITE_P(
             "Inside “tell” the script’s own handlers are called with “my”: my f(…)."},
         Row{"what Return types as a key code", "tell app \"System Events\" to key code return",
             "The key has a number: key code 36; “keyrill-script keys” prints all."},
+        Row{"a sign that nobody sees", "delay\u200B 1", "A sign that nobody sees stands here; delete it."},
+        Row{"a sign that ends texts elsewhere", std::string("delay \0", 7),
+            "A sign that nobody sees stands here; delete it."},
         Row{"nothing to say", R"(error "x")", ""}));
 
 }  // namespace

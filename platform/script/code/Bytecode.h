@@ -145,6 +145,9 @@ struct Bytecode {
     std::vector<ScriptWarning> warnings;
     /// What was probably meant by names that are never set, where more is known than that.
     std::unordered_map<NameId, std::string> advice;
+    /// Likewise, of names that the rest of the script sets, where a handler reads its own ones before they
+    /// are set.
+    std::unordered_map<NameId, std::string> adviceInHandlers;
 };
 
 }  // namespace script

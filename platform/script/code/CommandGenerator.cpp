@@ -8,17 +8,29 @@
 #include "platform/script/commands/Advice.h"
 #include "platform/script/commands/Command.h"
 #include "platform/script/source/Literal.h"
+#include "platform/script/syntax/Operators.h"
 #include "platform/script/values/BinaryOperator.h"
 
 namespace script {
 namespace {
 
+/// Longer ones, in seconds, are taken for milliseconds of other languages.
+constexpr std::uint32_t longestPause = 100;
+
 NameRole roleOf(Command::Plays plays) {
     return plays == Command::Plays::codes ? NameRole::keyCode : NameRole::value;
 }
 
+BinaryOperator operatorOf(const Node& node) { return static_cast<BinaryOperator>(node.detail); }
+
+/// Whether nobody calculates so what a command is given.
+bool isSwallowed(BinaryOperator operation, Command::Swallows swallows) {
+    if (swallows == Command::Swallows::nothing || operation == BinaryOperator::join) return false;
+    return swallows == Command::Swallows::calculations || operation >= BinaryOperator::less;
+}
+
 bool joins(const Node& node) {
-    return node.kind == NodeKind::binary && static_cast<BinaryOperator>(node.detail) == BinaryOperator::join;
+    return node.kind == NodeKind::binary && operatorOf(node) == BinaryOperator::join;
 }
 
 }  // namespace
@@ -26,6 +38,11 @@ bool joins(const Node& node) {
 void CommandGenerator::command(const Node& node) {
     const Command& command = *commands()[node.value];
     const bool hasDirect = node.detail != 0;
+    for (NodeId id = node.firstChild; id != noNode; id = m_tree.at(id).nextSibling) {
+        const Node& argument = m_tree.at(id);
+        warnOfSwallowed(argument.kind == NodeKind::argument ? m_tree.at(argument.firstChild) : argument,
+                        command);
+    }
     if (hasDirect) direct(node.firstChild, command);
     const NodeId first = hasDirect ? m_tree.at(node.firstChild).nextSibling : node.firstChild;
     const std::uint32_t mask = parameters(first, command) | (hasDirect ? 1 : 0);
@@ -75,7 +92,7 @@ void CommandGenerator::planTexts(std::uint32_t from) {
 }
 
 bool CommandGenerator::joinsModifiers(const Node& node) const {
-    const auto operation = static_cast<BinaryOperator>(node.detail);
+    const BinaryOperator operation = operatorOf(node);
     const NodeKind left = m_tree.at(node.firstChild).kind;
     const bool isModifier = left == NodeKind::modifierDown || left == NodeKind::modifierKey;
     return isModifier && (operation == BinaryOperator::plus || operation == BinaryOperator::both);
@@ -109,8 +126,26 @@ void CommandGenerator::warnOfTexts(NodeId codes) {
     if (isOther) m_out.warn(node.offset, noCodeAdvice());
 }
 
+/// `count of x > 2`, which counts the comparison.
+void CommandGenerator::warnOfSwallowed(const Node& argument, const Command& command) {
+    if (argument.value != 0) return;
+    const bool isNegated =
+        argument.kind == NodeKind::inversion && m_tree.at(argument.firstChild).offset == argument.offset;
+    const Node& node = isNegated ? m_tree.at(argument.firstChild) : argument;
+    if (node.kind != NodeKind::binary || !isSwallowed(operatorOf(node), command.swallows)) return;
+    const bool isJoint =
+        operatorOf(node) == BinaryOperator::both || operatorOf(node) == BinaryOperator::either;
+    const Node& left = m_tree.at(node.firstChild);
+    const bool mayBeFirst = left.kind == NodeKind::binary || left.kind == NodeKind::inversion;
+    if (isJoint && mayBeFirst) return warnOfSwallowed(left, command);
+    m_out.warn(node.offset,
+               swallowedAdvice(command.name.spelling(), spellingOf(operatorOf(node), isNegated)));
+}
+
 void CommandGenerator::warnOfPause(NodeId seconds) {
     const Node& node = m_tree.at(seconds);
+    if (node.kind == NodeKind::integer && node.value > longestPause)
+        return m_out.warn(node.offset, millisecondsAdvice(node.value));
     if (node.kind != NodeKind::text || numberInText(m_tree.texts[node.value])) return;
     m_out.warn(node.offset, pauseAdvice(m_tree.texts[node.value]));
 }
@@ -123,6 +158,7 @@ void CommandGenerator::warnOfNames(NodeId typed, const Command& command) {
         warnOfNames(m_tree.at(typed).nextSibling, command);
     }
     const Node& node = m_tree.at(typed);
+    if (isTyped && node.kind == NodeKind::name) m_out.scope().noteText(node.value, node.offset, true);
     if (node.kind == NodeKind::modifierKey || node.kind == NodeKind::modifierDown) {
         if (isTyped) m_out.warn(node.offset, heldModifierAdvice());
     } else if (node.kind == NodeKind::text) {

@@ -24,6 +24,7 @@ class CommandGenerator {
     std::uint32_t parameters(NodeId first, const Command& command);
     void planTexts(std::uint32_t from);
     bool joinsModifiers(const Node& node) const;
+    void warnOfSwallowed(const Node& argument, const Command& command);
     void warnOfPause(NodeId seconds);
     void warnOfTexts(NodeId codes);
     void warnOfCodes(NodeId codes);

@@ -2,9 +2,11 @@
 #include "platform/script/code/ExpressionGenerator.h"
 
 #include <array>
+#include <utility>
 #include <vector>
 
 #include "platform/script/code/CommandGenerator.h"
+#include "platform/script/source/Literal.h"
 #include "platform/script/source/Scoped.h"
 #include "platform/script/syntax/Operators.h"
 
@@ -281,8 +283,32 @@ void ExpressionGenerator::record(const Node& node) {
     m_out.emit(Operation::pushRecord, node, static_cast<std::uint32_t>(shapes.size() - 1));
 }
 
+bool ExpressionGenerator::isNoNumber(const Node& node) const {
+    return node.kind == NodeKind::text && !numberInText(m_tree.texts[node.value]);
+}
+
+/// Whether a text stands at the plus; of several in a row, only at the first one.
+bool ExpressionGenerator::addsText(const Node& node) const {
+    const Node& left = m_tree.at(node.firstChild);
+    const bool mayTakeText = left.kind == NodeKind::name || left.kind == NodeKind::text ||
+                             left.kind == NodeKind::integer || left.kind == NodeKind::element;
+    return isNoNumber(left) || (mayTakeText && isNoNumber(m_tree.at(left.nextSibling)));
+}
+
+/// `x = "a"`
+void ExpressionGenerator::noteComparedText(const Node& node) {
+    const Node* name = &m_tree.at(node.firstChild);
+    const Node* text = &m_tree.at(name->nextSibling);
+    if (name->kind == NodeKind::text) std::swap(name, text);
+    if (name->kind != NodeKind::name || text->kind != NodeKind::text) return;
+    m_out.scope().noteText(name->value, name->offset, false);
+}
+
 void ExpressionGenerator::binary(const Node& node) {
     if (isShortCircuit(node)) return shortCircuit(node);
+    if (operatorOf(node) == BinaryOperator::equal) noteComparedText(node);
+    if (operatorOf(node) == BinaryOperator::plus && addsText(node))
+        m_out.warn(node.offset, joinedTextsAdvice());
     expression(m_tree.at(node.firstChild).nextSibling);
     m_out.emit(Operation::binary, node, 0, node.detail);
 }
@@ -381,9 +407,9 @@ void ExpressionGenerator::assign(NodeId target, const Node& statement) {
     }
 }
 
-void ExpressionGenerator::assignName(NameId name, const Node& node) {
+void ExpressionGenerator::assignName(NameId name, const Node& node, Held held) {
     const Place place = m_out.scope().placeOf(name);
-    m_out.scope().noteSet(place);
+    m_out.scope().noteSet(place, held);
     m_out.emit(place.isGlobal ? Operation::storeGlobal : Operation::storeLocal, node, place.slot);
 }
 

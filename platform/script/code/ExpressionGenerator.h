@@ -22,7 +22,7 @@ class ExpressionGenerator {
     void statementValue(NodeId id);
     /// Takes the value and puts it into what the node names. Errors name the place of the statement.
     void assign(NodeId target, const Node& statement);
-    void assignName(NameId name, const Node& node);
+    void assignName(NameId name, const Node& node, Held held = Held::other);
     void load(NameId name, const Node& node);
     /// The same as expression(); a name that stands there alone is meant as that.
     void expressionAs(NameRole role, NodeId id);
@@ -44,6 +44,9 @@ class ExpressionGenerator {
     void filteredProcesses(const Node& node, NodeId condition);
     void items(const Node& node, Operation operation);
     void record(const Node& node);
+    bool isNoNumber(const Node& node) const;
+    bool addsText(const Node& node) const;
+    void noteComparedText(const Node& node);
     void binary(const Node& node);
     void shortCircuit(const Node& node);
     void coercion(const Node& node);

@@ -28,9 +28,25 @@ void NameCheck::lookAt(const Scope& scope) {
         if (scope.uses()[slot].isSet && !m_isRunKnown) m_setByRun[variables[slot]] = true;
     }
     for (std::size_t slot = 0; slot < variables.size(); ++slot) {
+        if (m_isRunKnown) noteShared(variables[slot], scope.uses()[slot]);
         suspect(variables[slot], scope.uses()[slot], known);
     }
+    for (const TextUse& use : scope.textUses())
+        warnOfText(use, variables[use.slot], scope.uses()[use.slot].held);
     m_isRunKnown = true;
+}
+
+/// What is no text, where it is typed or compared with one.
+void NameCheck::warnOfText(const TextUse& use, NameId name, Held held) {
+    const bool isRecord = held == Held::dialog || held == Held::alert;
+    if (held == Held::other || (use.isTyped && !isRecord)) return;
+    m_out.warn(use.offset, heldAdvice(held, spelling(name)));
+}
+
+/// A name that a handler and what runs both set: they have a variable each.
+void NameCheck::noteShared(NameId name, const VariableUse& use) {
+    if (use.isRead && use.isSet && isSetByRun(name))
+        m_out.code().adviceInHandlers.emplace(name, sharingAdvice(spelling(name)));
 }
 
 void NameCheck::suspect(NameId name, const VariableUse& use, const std::vector<NameId>& known) {
@@ -52,8 +68,7 @@ void NameCheck::suspect(NameId name, const VariableUse& use, const std::vector<N
 std::string NameCheck::slipOf(NameId name, NameRole role, const std::vector<NameId>& known) const {
     const std::string& called = spelling(name);
     if (m_handlers.contains(name)) return "A handler is called with parentheses: " + called + "().";
-    if (name < m_setByRun.size() && m_setByRun[name])
-        return "A handler has variables of its own; to share this one write there: global " + called + ".";
+    if (isSetByRun(name)) return sharingAdvice(called);
     std::vector<NameId> all = known;
     const std::vector<NameId>& shared = m_out.script().names();
     all.insert(all.end(), shared.begin(),

@@ -29,9 +29,12 @@ class NameCheck {
     /// So many names are compared with one that was not found.
     static constexpr std::size_t mostCompared = 200;
 
+    void warnOfText(const TextUse& use, NameId name, Held held);
+    void noteShared(NameId name, const VariableUse& use);
     void suspect(NameId name, const VariableUse& use, const std::vector<NameId>& known);
     std::string slipOf(NameId name, NameRole role, const std::vector<NameId>& known) const;
     std::string similarTo(const std::string& name, const std::vector<NameId>& known) const;
+    bool isSetByRun(NameId name) const { return name < m_setByRun.size() && m_setByRun[name]; }
     const std::string& spelling(NameId name) const { return m_out.tree().names.at(name).spelling; }
 
     struct Suspect {

@@ -51,6 +51,17 @@ std::uint32_t Scope::ownSlot(NameId name) {
     return place->second;
 }
 
+void Scope::noteSet(Place place, Held held) {
+    VariableUse& use = useOf(place);
+    use.held = use.isSet && use.held != held ? Held::other : held;
+    use.isSet = true;
+}
+
+void Scope::noteText(NameId name, std::uint32_t offset, bool isTyped) {
+    const auto own = m_own.find(name);
+    if (own != m_own.end()) m_textUses.push_back({own->second, offset, isTyped});
+}
+
 void Scope::noteRead(Place place, std::uint32_t offset, NameRole role) {
     VariableUse& use = useOf(place);
     if (use.isRead) return;

@@ -12,9 +12,17 @@
 
 namespace script {
 
+/// A place where a variable is taken for a text.
+struct TextUse {
+    std::uint32_t slot = 0;
+    std::uint32_t offset = 0;  ///< in bytes
+    bool isTyped = false;      ///< or else compared with a text
+};
+
 /// What is to be said of a variable that the script reads.
 struct VariableUse {
     bool isSet = false;
+    Held held = Held::other;  ///< wherever it is set
     bool isRead = false;
     NameRole role = NameRole::value;  ///< what its value is taken for
     std::uint32_t offset = 0;         ///< where it is read first, in bytes
@@ -72,8 +80,12 @@ class Scope {
     const std::vector<NameId>& variables() const { return m_variables; }
     const std::vector<VariableUse>& uses() const { return m_uses; }
 
-    /// The variable is set somewhere.
-    void noteSet(Place place) { useOf(place).isSet = true; }
+    /// The variable is set somewhere, to that.
+    void noteSet(Place place, Held held = Held::other);
+    /// A variable that was set before is taken for a text; of those that are shared nothing is noted.
+    void noteText(NameId name, std::uint32_t offset, bool isTyped);
+    /// Of its own variables, in the order of the source.
+    const std::vector<TextUse>& textUses() const { return m_textUses; }
     /// It is read there.
     void noteRead(Place place, std::uint32_t offset, NameRole role);
 
@@ -87,6 +99,7 @@ class Scope {
     std::unordered_set<NameId> m_declaredLocal;
     std::vector<NameId> m_variables;
     std::vector<VariableUse> m_uses;
+    std::vector<TextUse> m_textUses;
 };
 
 }  // namespace script

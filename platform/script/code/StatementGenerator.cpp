@@ -3,11 +3,11 @@
 
 #include <utility>
 
+#include "platform/script/commands/Command.h"
 #include "platform/script/source/Scoped.h"
 #include "platform/script/syntax/Operators.h"
 
 namespace script {
-
 /// A loop while its code is emitted: at its end, all jumps out of it lead there.
 class StatementGenerator::LoopScope {
   public:
@@ -220,7 +220,7 @@ void StatementGenerator::repeatIn(const Node& node) {
         const LoopScope scope(*this);
         const std::uint32_t start = m_out.position();
         m_exits.push_back(m_out.emitJump(Operation::nextInList, node));
-        m_expressions.assignName(node.value, node);
+        m_expressions.assignName(node.value, node, Held::item);
         loop(node, m_tree.at(node.firstChild).nextSibling, start);
     }
     drop(node, 3);
@@ -305,13 +305,21 @@ void StatementGenerator::set(const Node& node) {
     m_expressions.expression(m_tree.at(node.firstChild).nextSibling);
     if (node.kind == NodeKind::copy) m_out.emit(Operation::deepCopy, node);
     m_out.emit(Operation::duplicate, node);
-    if (isFrontmostOfTarget(m_tree.at(node.firstChild))) {
+    const Node& target = m_tree.at(node.firstChild);
+    if (isFrontmostOfTarget(target)) {
         m_out.emit(Operation::pushIt, node);
-        m_out.emit(Operation::setProperty, node, m_tree.at(node.firstChild).value);
+        m_out.emit(Operation::setProperty, node, target.value);
+    } else if (target.kind == NodeKind::name) {
+        m_expressions.assignName(target.value, node, heldFrom(m_tree.at(target.nextSibling)));
     } else {
         m_expressions.assign(node.firstChild, node);
     }
     m_out.emit(Operation::setResult, node);
+}
+
+/// What a variable holds that is set to the value.
+Held StatementGenerator::heldFrom(const Node& value) {
+    return value.kind == NodeKind::command ? commands()[value.value]->gives : Held::other;
 }
 
 /// `tell process "X" to set frontmost to true`, unless the script has a variable of that name.

@@ -44,6 +44,7 @@ class StatementGenerator {
     void raise(const Node& node);
     void returnValue(const Node& node);
     void set(const Node& node);
+    static Held heldFrom(const Node& value);
     bool isFrontmostOfTarget(const Node& target) const;
     void evaluate(const Node& node);
     void declare(const Node& node);

@@ -15,7 +15,7 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     // The script and its keyboard have no windows.
     if (target->kind == TargetBody::Kind::script || target->kind == TargetBody::Kind::systemEvents)
         return Value();
-    if (!stage.desktop().hasApplication(target->name.str())) return cannotGet(sourceForm(who));
+    if (!stage.desktop().hasApplication(target->name.str())) return cannotGet(quotedForm(who));
     const Result<void> raised = stage.desktop().activate(target->name.str());
     if (!raised) return desktopFailure(raised.error());
     return Value();

@@ -46,6 +46,16 @@ std::optional<int> codeOfCharacter(std::string_view text) {
     return text == " " ? std::optional<int>(49) : std::nullopt;
 }
 
+/// The key of a US keyboard with the letter.
+std::optional<int> codeOfLetter(std::string_view name) {
+    // From A to Z.
+    constexpr auto codes = std::to_array<int>(
+        {0, 11, 8, 2, 14, 3, 5, 4, 34, 38, 40, 37, 46, 45, 31, 35, 12, 15, 1, 17, 32, 9, 13, 7, 16, 6});
+    const std::string letter = asciiLowered(name);
+    if (letter.size() != 1 || letter[0] < 'a' || letter[0] > 'z') return std::nullopt;
+    return codes[static_cast<std::size_t>(letter[0] - 'a')];
+}
+
 std::string keyAdvice(int code) { return "The key has a number: key code " + std::to_string(code) + "."; }
 
 /// Of a key in the midst of what is typed.
@@ -70,17 +80,23 @@ constexpr std::string_view pausing = "A pause is written in seconds: delay 2.";
 constexpr std::string_view catching = "Errors are caught with: try … on error … end try.";
 constexpr std::string_view importing =
     "Nothing is imported; the commands are there from the start: delay 2, keystroke \"hello\".";
+constexpr std::string_view printing =
+    "A value is printed with: log \"x\". Text is typed with “keystroke”: keystroke \"hello\".";
+constexpr std::string_view telling = "A message is shown with: display dialog \"hello\".";
+constexpr std::string_view missing = "What has no value is written: missing value.";
 constexpr std::string_view raising =
     "A window is brought to the front with: tell application \"Firefox\" to activate.";
 
 constexpr auto foreignWords = std::to_array<ForeignWord>(
-    {{"input", asking},     {"ask", asking},        {"prompt", asking},     {"random", choosing},
-     {"rand", choosing},    {"randint", choosing},  {"break", leaving},     {"stop", leaving},
-     {"quit", leaving},     {"print", typing},      {"type", typing},       {"send", typing},
-     {"write", typing},     {"sleep", pausing},     {"wait", pausing},      {"press", pressingAdvice},
-     {"catch", catching},   {"except", catching},   {"rescue", catching},   {"finally", catching},
-     {"import", importing}, {"include", importing}, {"require", importing}, {"from", importing},
-     {"launch", raising},   {"open", raising}});
+    {{"input", asking},         {"ask", asking},         {"prompt", asking},     {"random", choosing},
+     {"rand", choosing},        {"randint", choosing},   {"break", leaving},     {"stop", leaving},
+     {"quit", leaving},         {"print", printing},     {"echo", printing},     {"type", typing},
+     {"send", typing},          {"write", typing},       {"sleep", pausing},     {"wait", pausing},
+     {"press", pressingAdvice}, {"catch", catching},     {"except", catching},   {"rescue", catching},
+     {"finally", catching},     {"import", importing},   {"include", importing}, {"require", importing},
+     {"from", importing},       {"launch", raising},     {"open", raising},      {"msgbox", telling},
+     {"messagebox", telling},   {"alert", telling},      {"null", missing},      {"nil", missing},
+     {"undefined", missing},    {"today", datingAdvice}, {"date", datingAdvice}, {"now", datingAdvice}});
 
 /// Null if it is none.
 const ForeignWord* foreignWord(std::string_view name) {
@@ -113,6 +129,19 @@ std::string_view modifierOf(std::string_view name) {
 
 std::string inQuotes(std::string_view name) { return "\"" + std::string(name) + "\""; }
 
+std::string wholeKeyAdvice(int code) {
+    return "This is typed as it stands; the key has a number: key code " + std::to_string(code) + ".";
+}
+
+/// The code of a key whose name is the whole text: "F5", "<Tab>". The elements of web pages are none.
+std::optional<int> codeOfWhole(std::string_view text) {
+    const bool isFunctionKey = text.size() > 1 && text[0] == 'F' && text[1] >= '1' && text[1] <= '9';
+    if (isFunctionKey) return codeOfWord(text);
+    if (!text.starts_with('<') || !text.ends_with('>') || equalIgnoringCase(text, "<del>"))
+        return std::nullopt;
+    return codeOfWord(text.substr(1, text.size() - 2));
+}
+
 /// Of the first braces of a text, which begins with them here, if they name a key.
 std::string keyInBracesAdvice(std::string_view text, bool isFirst) {
     const std::size_t close = text.find('}');
@@ -122,7 +151,7 @@ std::string keyInBracesAdvice(std::string_view text, bool isFirst) {
     if (!isFirst || close + 1 < text.size())
         return "“" + std::string(text.substr(0, close + 1)) + "” is typed as it stands. " +
                joinedKeyAdvice(*code);
-    return "This is typed as it stands; the key has a number: key code " + std::to_string(*code) + ".";
+    return wholeKeyAdvice(*code);
 }
 
 }  // namespace
@@ -154,6 +183,15 @@ std::string noCodeAdvice(std::string_view text) {
     return "The key has a number: key code " + std::to_string(*code) + "; “keyrill-script keys” prints all.";
 }
 
+std::string keyNameAdvice(std::string_view name) {
+    const std::optional<int> code = codeOfWord(name);
+    return code ? keyAdvice(*code) : "";
+}
+
+std::string datePartAdvice() {
+    return "The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.";
+}
+
 std::string didYouMean(std::string_view word) { return "Did you mean " + std::string(word) + "?"; }
 
 std::string pauseAdvice(std::string_view text) {
@@ -164,6 +202,23 @@ std::string pauseAdvice(std::string_view text) {
 
 std::string recordAdvice() {
     return "A dialog gives a record; what was typed there is taken with: text returned of n.";
+}
+
+std::string heldAdvice(Held held, std::string_view name) {
+    const std::string called(name);
+    switch (held) {
+        case Held::dialog:
+            return "A dialog gives a record and no text; take: button returned of " + called +
+                   ", or text returned of " + called + ".";
+        case Held::alert:
+            return "An alert gives a record and no text; take: button returned of " + called + ".";
+        case Held::chosen:
+            return "What was chosen comes in a list; take: item 1 of " + called + ".";
+        case Held::item:
+            return "The loop gives a reference, which equals no text; compare: contents of " + called + ".";
+        default:
+            return "";
+    }
 }
 
 std::string modifierAdvice(const Modifier& modifier) {
@@ -184,12 +239,25 @@ std::string joinedModifiersAdvice() {
 
 std::string joinedTextsAdvice() { return "Texts are joined with “&”: \"one\" & \"two\"."; }
 
+std::string swallowedAdvice(std::string_view command, std::string_view operation) {
+    const std::string name(command);
+    const std::string sign(operation);
+    return "“" + sign + "” belongs to what “" + name + "” is given; put parentheses round the command: (" +
+           name + " …) " + sign + " ….";
+}
+
+std::string millisecondsAdvice(std::uint32_t count) {
+    return "“delay” counts seconds; " + std::to_string(count) + " milliseconds are: delay " +
+           realText(count / 1000.0) + ".";
+}
+
 std::string comparisonAdvice(std::string_view name) {
     return "This compares and changes nothing; a variable is set with “to”: set " +
            std::string(name.empty() ? "x" : name) + " to …";
 }
 
 std::string typedNameAdvice(std::string_view text) {
+    if (const std::optional<int> code = codeOfWhole(text)) return wholeKeyAdvice(*code);
     const std::size_t open = text.find('{');
     if (open != std::string_view::npos) return keyInBracesAdvice(text.substr(open), open == 0);
     const std::size_t sign = text.find_first_of("+-");
@@ -233,9 +301,15 @@ std::string meantBy(std::string_view name, NameRole role) {
     if (role == NameRole::application) return "An application is named: application " + inQuotes(name) + ".";
     const bool isJoined = role == NameRole::joinedText;
     const bool isTyped = isJoined || role == NameRole::keyCode || role == NameRole::text;
-    const std::optional<int> code = isTyped ? codeOfWord(name) : std::nullopt;
+    std::optional<int> code = isTyped ? codeOfWord(name) : std::nullopt;
+    if (role == NameRole::keyCode && !code) code = codeOfLetter(name);
     if (code) return isJoined ? joinedKeyAdvice(*code) : keyAdvice(*code);
     return "Text stands between straight quotes: " + inQuotes(name) + ".";
+}
+
+std::string sharingAdvice(std::string_view name) {
+    return "A handler has variables of its own; to share this one write there: global " + std::string(name) +
+           ".";
 }
 
 std::string undefinedHint(std::string_view name) {

@@ -28,6 +28,16 @@ std::string noCodeAdvice(std::string_view text);
 inline constexpr std::string_view pressingAdvice =
     "A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.";
 
+/// Of today's date in the words of other languages.
+inline constexpr std::string_view datingAdvice =
+    "The date of today is “current date”; as a text: short date string of (current date).";
+
+/// Of the name of a key in the place of its number; empty for all other names.
+std::string keyNameAdvice(std::string_view name);
+
+/// Of a part that a date does not have.
+std::string datePartAdvice();
+
 /// "Did you mean WORD?"
 std::string didYouMean(std::string_view word);
 
@@ -36,6 +46,18 @@ std::string pauseAdvice(std::string_view text);
 
 /// Of a record, as dialogs give it, in the place of a text.
 std::string recordAdvice();
+
+/// What a variable holds that is no text, though people take it for one.
+enum class Held : std::uint8_t {
+    other,
+    dialog,  ///< the record that a dialog gives
+    alert,   ///< likewise, without a text
+    chosen,  ///< the list of what was chosen
+    item,    ///< the reference of a loop to an item
+};
+
+/// Of a variable that holds that and is taken for a text; empty for `other`.
+std::string heldAdvice(Held held, std::string_view name);
 
 /// Of a key's name in the place of a modifier that is down.
 std::string modifierAdvice(const Modifier& modifier);
@@ -49,14 +71,23 @@ std::string joinedModifiersAdvice();
 /// Of texts with a plus between them.
 std::string joinedTextsAdvice();
 
+/// Of an operator that stands behind a command and is part of what that is given: `count of x > 2`.
+std::string swallowedAdvice(std::string_view command, std::string_view operation);
+
+/// Of so many seconds that were meant to be milliseconds.
+std::string millisecondsAdvice(std::uint32_t count);
+
 /// Of a comparison whose answer nobody takes. The name is empty where none is compared.
 std::string comparisonAdvice(std::string_view name);
 
 /// "The variable NAME is never set. "
 std::string neverSet(std::string_view name);
 
+/// Of a variable that a handler does not share with what runs.
+std::string sharingAdvice(std::string_view name);
+
 /// Of a text that is typed as it stands and names a key or a shortcut as other programs do: "{ENTER}",
-/// "Hello{ENTER}", "ctrl+c". Empty for all others.
+/// "Hello{ENTER}", "<Tab>", "F5", "ctrl+c". Empty for all others.
 std::string typedNameAdvice(std::string_view text);
 
 /// Of the name of a modifier in quotes, or by itself, where a text or key is meant.

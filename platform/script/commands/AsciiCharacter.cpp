@@ -15,7 +15,7 @@ Fallible<Value> perform(CommandStage& /*stage*/, const Arguments& arguments) {
     const std::optional<std::int32_t> code = integerOf(value);
     constexpr std::int32_t last = 127;
     if (!code) return cannotMake(value, "integer");
-    if (*code < 1 || *code > last) return cannotGet("ASCII character " + sourceForm(value));
+    if (*code < 1 || *code > last) return cannotGet("ASCII character " + quotedForm(value));
     return Value{std::string(1, static_cast<char>(*code))};
 }
 
@@ -24,6 +24,7 @@ Fallible<Value> perform(CommandStage& /*stage*/, const Arguments& arguments) {
 const Command& asciiCharacterCommand() {
     static const Command command{.name = "ascii character",
                                  .direct = Command::Direct::required,
+                                 .swallows = Command::Swallows::comparisons,
                                  .perform = perform,
                                  .manual = R"(ASCII character NUMBER
 

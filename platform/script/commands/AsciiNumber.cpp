@@ -23,6 +23,7 @@ Fallible<Value> perform(CommandStage& /*stage*/, const Arguments& arguments) {
 const Command& asciiNumberCommand() {
     static const Command command{.name = "ascii number",
                                  .direct = Command::Direct::required,
+                                 .swallows = Command::Swallows::comparisons,
                                  .perform = perform,
                                  .manual = R"(ASCII number TEXT
 

@@ -46,6 +46,7 @@ const Command& chooseFromListCommand() {
     static const Command command{
         .name = "choose from list",
         .direct = Command::Direct::required,
+        .gives = Held::chosen,
         .parameters = {{"with title"},
                        {"with prompt"},
                        {"default items"},

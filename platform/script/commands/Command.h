@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/KeyInjector.h"
+#include "platform/script/commands/Advice.h"
 #include "platform/script/source/TokenStream.h"
 #include "platform/script/values/TextRules.h"
 #include "platform/script/values/Value.h"
@@ -92,6 +93,12 @@ struct Command {
     bool takesOf = false;
     /// The direct argument ends before an operator, so that the command's value can be calculated with.
     bool takesReference = false;
+    /// What its arguments are by mistake alone, unless parentheses enclose them: in `count of x > 2` the
+    /// comparison is counted.
+    enum class Swallows : std::uint8_t { nothing, comparisons, calculations };
+    Swallows swallows = Swallows::nothing;
+    /// What its value is, where people take that for a text.
+    Held gives = Held::other;
     static constexpr std::size_t maxParameters = 20;
     std::vector<Parameter> parameters = {};  ///< at most maxParameters
     Fallible<Value> (*perform)(CommandStage& stage, const Arguments& arguments) = nullptr;

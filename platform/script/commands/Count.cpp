@@ -19,6 +19,7 @@ const Command& countCommand() {
     static const Command command{.name = "count",
                                  .direct = Command::Direct::required,
                                  .takesOf = true,
+                                 .swallows = Command::Swallows::calculations,
                                  .perform = perform,
                                  .manual = R"(count [of] VALUE
 
@@ -31,6 +32,7 @@ count of words of "one two" => 2)"};
 const Command& numberOfCommand() {
     static const Command command{.name = "number of",
                                  .direct = Command::Direct::required,
+                                 .swallows = Command::Swallows::calculations,
                                  .perform = perform,
                                  .manual = "",
                                  .examples = "number of {1, 2, 3} => 3"};

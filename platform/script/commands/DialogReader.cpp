@@ -63,7 +63,7 @@ void DialogReader::readButton(unsigned parameter, std::optional<std::size_t>& ta
     } else if (const auto number = integerOf(*given); number && *number > 0) {
         place = static_cast<std::size_t>(*number - 1);
     }
-    if (place >= buttons.size()) return fail(cannotGet("button " + sourceForm(*given)));
+    if (place >= buttons.size()) return fail(cannotGet("button " + quotedForm(*given)));
     target = place;
 }
 
@@ -74,7 +74,7 @@ void DialogReader::readChoices(const Value& choices, const Value* chosen) {
     const auto& all = m_dialog.choices;
     for (const Value& item : itemsOf(*chosen)) {
         const auto place = std::find(all.begin(), all.end(), text(&item)) - all.begin();
-        if (static_cast<std::size_t>(place) == all.size()) return fail(cannotGet("item " + sourceForm(item)));
+        if (static_cast<std::size_t>(place) == all.size()) return fail(cannotGet("item " + quotedForm(item)));
         m_dialog.defaultChoices.push_back(static_cast<std::size_t>(place));
         if (!m_dialog.allowsSeveral) return;
     }

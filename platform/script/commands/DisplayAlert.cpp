@@ -44,6 +44,7 @@ const Command& displayAlertCommand() {
     static const Command command{
         .name = "display alert",
         .direct = Command::Direct::required,
+        .gives = Held::alert,
         .parameters = {{"message"},
                        {.label = "as",
                         .choices = {"informational", "warning", "critical"},

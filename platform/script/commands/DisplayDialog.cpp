@@ -58,6 +58,7 @@ const Command& displayDialogCommand() {
     static const Command command{
         .name = "display dialog",
         .direct = Command::Direct::required,
+        .gives = Held::dialog,
         .parameters = {{"default answer"},
                        {"hidden answer"},
                        {"buttons"},

@@ -87,7 +87,7 @@ letter from A to Z.
 | -2701, -2702 | a division by zero; a number that is too large |
 | -2706 | handlers call one another too deeply |
 | -2720, -2754 | one thing declared in two ways |
-| -2740, -2741 | the script does not compile |
+| -2741 | the script does not compile |
 | -2750 to -2752 | a parameter, property or handler given twice |
 | -2753 | a variable that was never set |
 | -2755, -2760 | `exit repeat` outside of a loop; too many levels of `tell` |

@@ -34,8 +34,8 @@ prints what it would do, `run` does it, `format` brings it into one layout.
 ## Lines
 
 A line holds one statement. `¬` at its end joins it with the next. `--` and `#` begin a comment, `(* *)` enclose one over
-lines. Upper and lower case are the same in words and names. A name begins with a letter; `|any characters|` are a name,
-too. `the` may stand before any noun and means nothing.
+lines. Upper and lower case are the same in words and names. A name has letters from A to Z, digits and `_`, and begins with
+no digit; `|any characters|` are a name, too. `the` may stand before any noun and means nothing.
 
 ## Values
 
@@ -58,6 +58,9 @@ become text with the `text item delimiters` between their items.
 
 `&` joins texts, lists or records. `=` never converts, but for whole numbers and reals; the case of letters does not count
 unless inside `considering case`.
+
+A command takes all that stands behind it: `count of L > 2` counts the truth of `L > 2`, and `(count of L) > 2` compares the
+number. Where the value of a command is compared or calculated with, parentheses stand round the command.
 
 ## Elements and properties
 

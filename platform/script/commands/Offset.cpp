@@ -32,6 +32,7 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
 const Command& offsetCommand() {
     static const Command command{.name = "offset of",
                                  .direct = Command::Direct::required,
+                                 .swallows = Command::Swallows::calculations,
                                  .parameters = {{"in"}},
                                  .perform = perform,
                                  .manual = R"(offset of PART in TEXT

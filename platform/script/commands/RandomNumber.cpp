@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/commands/All.h"
 
-#include <algorithm>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <random>
@@ -14,7 +14,7 @@
 namespace script {
 namespace {
 
-/// A limit; 0 where it was left out.
+/// A limit; 0 where it was left out. One that is whole lies within maxInteger.
 struct Limit {
     double value = 0;
     bool isWhole = true;
@@ -22,18 +22,19 @@ struct Limit {
 
 Fallible<Limit> limitOf(const Value* given) {
     if (given == nullptr) return Limit();
-    const std::optional<double> number = numberOf(*given);
-    if (!number) return cannotMake(*given, "number");
-    return Limit{*number, !given->is<double>()};
+    if (!numberOf(*given)) return cannotMake(*given, "number");
+    // Texts and lists of one item are what they read as: "1.5" is no whole limit.
+    auto number = coerced(*given, Type::number, "");
+    if (!number) return std::move(number).error();
+    return Limit{*numberOf(number.value()), number.value().is<std::int64_t>()};
 }
 
 /// Between the limits; of whole ones both are possible.
 Value chosen(std::mt19937_64& source, Limit from, Limit to) {
     if (from.value > to.value) std::swap(from, to);
     if (from.isWhole && to.isWhole) {
-        constexpr double most = 1e15;
-        const auto first = static_cast<std::int64_t>(std::max(from.value, -most));
-        const auto last = static_cast<std::int64_t>(std::min(to.value, most));
+        const auto first = static_cast<std::int64_t>(from.value);
+        const auto last = static_cast<std::int64_t>(to.value);
         return numberValue(static_cast<double>(std::uniform_int_distribution(first, last)(source)), true);
     }
     const auto part = std::generate_canonical<double, 53>(source);
@@ -65,6 +66,7 @@ const Command& randomNumberCommand() {
     static const Command command{
         .name = "random number",
         .direct = Command::Direct::optional,
+        .swallows = Command::Swallows::comparisons,
         .parameters = {{"from"}, {"to"}, {"with seed"}},
         .perform = perform,
         .manual = R"(random number [LIMIT] [from NUMBER] [to NUMBER] [with seed NUMBER]

@@ -40,6 +40,7 @@ const Command& roundCommand() {
     static const Command command{
         .name = "round",
         .direct = Command::Direct::required,
+        .swallows = Command::Swallows::comparisons,
         .parameters = {{.label = "rounding",
                         .choices = {"up", "down", "toward zero", "to nearest", "as taught in school"},
                         .takesValue = false}},

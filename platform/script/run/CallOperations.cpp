@@ -15,7 +15,7 @@ namespace {
 /// `{1, "a"}`: what a handler was called with.
 std::string spelledArguments(Execution& run, std::size_t count) {
     const Value* first = run.topValues(count);
-    return sourceForm(Value{List(first, first + count)});
+    return quotedForm(Value{List(first, first + count)});
 }
 
 std::string spelledParameters(const Execution& run, const Handler& handler) {
@@ -65,7 +65,7 @@ Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) 
     const std::string speaker = isOther ? std::string(body->name.str()) : "System Events";
     const std::string prefix = body != nullptr && !isScript ? speaker + " got an error: " : "";
     Failure failure{errornumber::notUnderstood,
-                    prefix + sourceForm(target) + " doesn’t understand the “" + name + "” message."};
+                    prefix + quotedForm(target) + " doesn’t understand the “" + name + "” message."};
     if (isOwn)
         failure.hint = "Inside “tell” the script’s own handlers are called with “my”: my " + name + "(…).";
     if (isScript) failure.hint = noHandlerAdvice(name);

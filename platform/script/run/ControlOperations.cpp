@@ -140,7 +140,7 @@ void pushTarget(Execution& run, const Instruction& /*unused*/) {
     const TargetBody* target = value.target();
     const bool isApplication = target != nullptr && target->kind == TargetBody::Kind::application;
     if (isApplication && !run.desktop().hasApplication(target->name.str())) {
-        return run.fail(cannotGet(sourceForm(value)));
+        return run.fail(cannotGet(quotedForm(value)));
     }
     run.pushTarget(std::move(value));
 }

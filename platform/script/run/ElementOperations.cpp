@@ -2,6 +2,7 @@
 //
 // Operations on what lies in lists, records and texts.
 #include "platform/Utf8.h"
+#include "platform/script/commands/Advice.h"
 #include "platform/script/run/Execution.h"
 #include "platform/script/run/OperationTable.h"
 #include "platform/script/syntax/Node.h"
@@ -47,7 +48,7 @@ bool choose(Execution& run, const Value& container, Element& element) {
     if (element.form != ElementForm::some) return true;
     const auto count = countElements(container, element, run.textRules());
     if (!count || *count == 0) {
-        run.fail(cannotGet(sourceForm(element) + " of " + sourceForm(container)));
+        run.fail(cannotGet(sourceForm(element) + " of " + quotedForm(container)));
         return false;
     }
     std::uniform_int_distribution<std::size_t> places(1, *count);
@@ -134,7 +135,7 @@ void setFrontmost(Execution& run, const Value& container, const Value& value) {
     if (!truth) return run.fail(cannotMake(value, "boolean"));
     const TargetBody& target = *container.target();
     if (!*truth || target.kind == TargetBody::Kind::systemEvents) return;
-    if (!run.desktop().hasApplication(target.name.str())) return run.fail(cannotGet(sourceForm(container)));
+    if (!run.desktop().hasApplication(target.name.str())) return run.fail(cannotGet(quotedForm(container)));
     const Result<void> raised = run.desktop().activate(target.name.str());
     if (!raised) run.fail(desktopFailure(raised.error()));
 }
@@ -145,8 +146,12 @@ void getProperty(Execution& run, const Instruction& here) {
     if (run.hasFailed()) return;
     if (isStateOf(container, name)) return run.push(Value{stateOf(run, *container.target(), name)});
     if (&name != &names::length && &name != &names::beginning && &name != &names::end) run.workOn(container);
-    if (!isScript(container) || &name == &names::classProperty)
-        return run.pushOrFail(propertyOf(container, name));
+    if (!isScript(container) || &name == &names::classProperty) {
+        Fallible<Value> found = propertyOf(container, name);
+        if (!found && container.date() != nullptr)
+            return run.fail({found.error().number, found.error().message, datePartAdvice()});
+        return run.pushOrFail(std::move(found));
+    }
     const Value* variable = run.findGlobal(name);
     if (variable != nullptr && variable->cell() != nullptr) variable = &variable->cell()->content;
     if (variable == nullptr || variable->is<Nothing>()) return run.fail(cannotGet(sourceForm(name)));
@@ -193,7 +198,7 @@ void setContents(Execution& run, const Instruction& /*unused*/) {
         if (isContainer(value)) run.holdsContainer(body->container);
         return;
     }
-    if (body == nullptr) return run.fail(cannotSet("contents of " + sourceForm(reference), value));
+    if (body == nullptr) return run.fail(cannotSet("contents of " + quotedForm(reference), value));
     Fallible<Value> container = resolved(body->container);
     if (!container) return run.fail(std::move(container).error());
     auto set = setElement(container.value(), body->element, value);
@@ -212,7 +217,7 @@ void characterId(Execution& run, const Instruction& /*unused*/) {
     for (const Value& item : itemsOf(value)) {
         const std::optional<std::int32_t> point = integerOf(item);
         if (!point) return run.fail(cannotMake(item, "integer"));
-        if (!isCharacter(*point)) return run.fail(cannotGet("character id " + sourceForm(item)));
+        if (!isCharacter(*point)) return run.fail(cannotGet("character id " + quotedForm(item)));
         appendUtf8(text, static_cast<char32_t>(*point));
     }
     run.push(Value{std::move(text)});

@@ -112,7 +112,12 @@ Value& heldBy(Value& variable) {
 void loadLocal(Execution& run, const Instruction& here) {
     const Value& value = heldBy(run.local(here.operand));
     if (value.is<Nothing>()) {
-        return failUndefined(run, run.handler().variables[here.operand]);
+        const NameId id = run.handler().variables[here.operand];
+        const bool isInHandler = &run.handler() != &run.code().handlers.front();
+        const auto shared = run.code().adviceInHandlers.find(id);
+        if (isInHandler && shared != run.code().adviceInHandlers.end())
+            return failUndefined(run, run.name(id).spelling, shared->second);
+        return failUndefined(run, id);
     }
     run.push(Value(value));
 }

@@ -4,10 +4,32 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Utf8.h"
 #include "platform/script/source/Wording.h"
 
 namespace script {
 namespace {
+
+/// Whether editors show nothing of the sign: a blank of another width, a mark of direction, or NUL. Other
+/// control characters are shown, as ^[ is.
+bool isUnseen(char32_t sign) {
+    return sign == 0 || sign == 0xAD || (sign >= 0x2000 && sign <= 0x200F) ||
+           (sign >= 0x2028 && sign <= 0x202F) || (sign >= 0x205F && sign <= 0x206F) || sign == 0x3000 ||
+           sign == 0xFEFF;
+}
+
+/// "U+200B"
+std::string codePoint(char32_t sign) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string text = "U+";
+    for (const unsigned shift : {12U, 8U, 4U, 0U}) text += digits[(sign >> shift) & 15U];
+    return text;
+}
+
+std::string describeUnknown(std::string_view text) {
+    const std::optional<std::uint32_t> sign = firstCharacter(text).code;
+    return sign && isUnseen(*sign) ? "unknown token " + codePoint(*sign) : "unknown token";
+}
 
 bool isCurlyQuote(std::string_view text) {
     return text == "“" || text == "”" || text == "‘" || text == "’" || text == "„";
@@ -131,7 +153,7 @@ std::string TokenStream::describe(const Token& token, const Token& ahead) const 
         case TokenKind::text:
             return quoted("\"");
         case TokenKind::unknown:
-            if (!isCurlyQuote(token.text)) return "unknown token";
+            if (!isCurlyQuote(token.text)) return describeUnknown(token.text);
             return "unknown token " + std::string(token.text) + " (text stands between straight quotes)";
         default:
             return quoted(token.text);

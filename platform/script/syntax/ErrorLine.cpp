@@ -3,11 +3,12 @@
 
 #include <algorithm>
 
+#include "platform/Utf8.h"
 #include "platform/script/source/Lexer.h"
 #include "platform/script/source/Name.h"
+#include "platform/script/values/Characters.h"
 
 namespace script {
-
 ErrorLine::ErrorLine(std::string_view source, const Location& place) {
     const std::string_view text = lineOf(source, place.line);
     const std::size_t column = text.size() - std::min(offsetOf(text, {1, place.column}), text.size());
@@ -40,14 +41,40 @@ bool ErrorLine::standsAgainstText() const {
     return token.is(TokenKind::identifier) || token.is(TokenKind::number);
 }
 
-std::string_view ErrorLine::behindFirst(std::string_view end) const {
-    const std::size_t number = m_begin + 1;
+std::string_view ErrorLine::wordsFrom(std::size_t number,
+                                      std::initializer_list<std::string_view> ends) const {
+    number += m_begin;
     if (number >= m_tokens.size()) return "";
+    const auto isEnd = [&](const std::string& word) {
+        return std::find(ends.begin(), ends.end(), word) != ends.end();
+    };
     std::size_t last = number;
-    while (last + 1 < m_tokens.size() && wordAt(last + 1) != end) ++last;
+    while (last + 1 < m_tokens.size() && !isEnd(wordAt(last + 1))) ++last;
     const char* begin = m_tokens[number].text.data();
     const auto length = m_tokens[last].text.data() + m_tokens[last].text.size() - begin;
     return {begin, static_cast<std::size_t>(length)};
+}
+
+std::string_view ErrorLine::letters() const {
+    if (m_at >= m_tokens.size()) return "";
+    const auto at = static_cast<std::size_t>(m_tokens[m_at].text.data() - m_text.data());
+    std::size_t begin = at;
+    std::size_t end = at;
+    for (std::size_t next = at; next < m_text.size() && isWordCharacter(takeCharacter(m_text, next));)
+        end = next;
+    for (std::size_t former = at; former > 0;) {
+        do --former;
+        while (former > 0 && isUtf8Continuation(m_text[former]));
+        std::size_t behind = former;
+        if (!isWordCharacter(takeCharacter(m_text, behind))) break;
+        begin = former;
+    }
+    return m_text.substr(begin, end == at ? 0 : end - begin);
+}
+
+std::string_view ErrorLine::beforeLetters() const {
+    const std::string_view found = letters();
+    return found.empty() ? "" : m_text.substr(0, static_cast<std::size_t>(found.data() - m_text.data()));
 }
 
 }  // namespace script

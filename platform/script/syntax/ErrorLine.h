@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,8 +29,14 @@ class ErrorLine {
     std::string behind() const { return wordAt(m_at + 1); }
     /// Whether the error is right behind the first word.
     bool isBehindFirst() const { return m_at == m_begin + 1; }
-    /// All behind the first word, up to this one, without what is around.
-    std::string_view behindFirst(std::string_view end) const;
+    /// From the first word on, by its number from 0; that of the statement behind `tell ... to`.
+    std::string word(std::size_t number) const { return wordAt(m_begin + number); }
+    /// All from that word on, up to one of these words, without what is around.
+    std::string_view wordsFrom(std::size_t number, std::initializer_list<std::string_view> ends) const;
+    /// The letters, digits and accents that stand together where the error is; empty if it is at none.
+    std::string_view letters() const;
+    /// What stands before these.
+    std::string_view beforeLetters() const;
     /// Whether the line itself tells System Events to do what is wrong.
     bool isTold() const { return m_begin > 0 && wordAt(m_begin - 2) == "\"system events\""; }
     /// Whether the token stands against a name.

@@ -10,6 +10,7 @@
 #include "platform/script/commands/Advice.h"
 #include "platform/script/source/Lexer.h"
 #include "platform/script/source/TokenStream.h"
+#include "platform/script/source/Trivia.h"
 #include "platform/script/source/Wording.h"
 #include "platform/script/syntax/ErrorLine.h"
 #include "platform/script/syntax/Misspelt.h"
@@ -130,6 +131,23 @@ std::optional<std::size_t> openTextBefore(std::size_t error, std::string_view so
     return std::nullopt;
 }
 
+/// Where the comment begins that never ends; it stands behind the last token.
+std::size_t openComment(std::string_view source) {
+    Lexer lexer(source);
+    std::string_view gap = source;
+    for (Token token = lexer.next(); !token.is(TokenKind::openComment) && !token.is(TokenKind::endOfScript);
+         token = lexer.next()) {
+        gap = source.substr(static_cast<std::size_t>(token.text.data() + token.text.size() - source.data()));
+    }
+    while (!gap.empty()) {
+        std::size_t length = beginsLineComment(gap) ? lineLength(gap) : 1;
+        if (gap.starts_with("(*")) length = blockCommentLength(gap);
+        if (length == std::string_view::npos) break;
+        gap.remove_prefix(length);
+    }
+    return source.size() - gap.size();
+}
+
 }  // namespace
 
 ScriptError explained(ScriptError error, const Tree& tree, std::string_view source, bool isInsideTell) {
@@ -141,7 +159,10 @@ ScriptError explained(ScriptError error, const Tree& tree, std::string_view sour
         error.hint = "The text that begins here is not closed by a straight quote in its line.";
         return error;
     }
-    if (error.message.starts_with("Expected “end” but")) {
+    if (error.message.starts_with("Expected “*)”")) {
+        const std::uint32_t line = locate(source, openComment(source)).line;
+        error.hint = "The comment that begins in line " + std::to_string(line) + " is not closed by “*)”.";
+    } else if (error.message.starts_with("Expected “end” but")) {
         error.hint = blockHint(error, tree, source);
     } else if (error.message.starts_with("Expected expression but found “e")) {
         error.hint = strayEndHint(error, openBlockLines(error, tree, source), source);

@@ -80,17 +80,16 @@ std::string expectedLike(std::string_view misspelt, std::string_view message) {
     return misspelling.meant();
 }
 
-/// Whether it is a word that the language does not know.
-bool isUnknown(std::string_view text) {
-    if (text.empty() || text.front() < 'a' || text.front() > 'z') return false;
-    const std::uint32_t hash = SpellingHash(text).value();
-    const Token token{TokenKind::identifier, wordOf(text, hash), hash, text};
-    return token.is(Word::none) && findElementName(token) == nullptr && !findPredefinedName(token);
-}
-
 bool isKeyboardCommand(std::string_view word) { return word == "keystroke" || word == "key"; }
 
 }  // namespace
+
+bool isUnknown(std::string_view word) {
+    if (word.empty() || word.front() < 'a' || word.front() > 'z') return false;
+    const std::uint32_t hash = SpellingHash(word).value();
+    const Token token{TokenKind::identifier, wordOf(word, hash), hash, word};
+    return token.is(Word::none) && findElementName(token) == nullptr && !findPredefinedName(token);
+}
 
 std::string endMeant(const ErrorLine& line) {
     if (!isUnknown(line.second())) return "";

@@ -22,6 +22,9 @@ enum class WordPlace : std::uint8_t {
     block,     ///< behind `end`
 };
 
+/// Whether it is a word, in lower case, that the language does not know.
+bool isUnknown(std::string_view word);
+
 /// The word of the language that was meant by one which is none, by what may stand there; empty if none is
 /// near.
 std::string wordLike(std::string_view misspelt, WordPlace place);

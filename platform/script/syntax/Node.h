@@ -61,8 +61,8 @@ enum class NodeKind : std::uint8_t {
     record,        ///< [fields]
     field,         ///< [expression] value: name
     negation,      ///< [operand]
-    inversion,     ///< [operand] `not`
-    binary,        ///< [left, right] detail: BinaryOperator
+    inversion,     ///< [operand] `not`; value: 1 if parentheses enclose it
+    binary,        ///< [left, right] detail: BinaryOperator; value: 1 if parentheses enclose it
     coercion,      ///< [operand] detail: Type; or [operand, list of coercions] for several, value: 1
     element,       ///< [index?, last index?, container?] detail: kind and form; value: bits of elementnode
     textBetween,   ///< [element, element, container?] the elements without containers

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/syntax/Operators.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -151,6 +152,13 @@ const OperatorRow* binaryOperator(const TokenStream& tokens) {
     const OperatorRow* row = operatorIndex.firstOf(token.hash);
     while (row != nullptr && !tokens.isAtPhrase(row->spelling)) row = operatorIndex.nextOf(*row);
     return row;
+}
+
+std::string_view spellingOf(BinaryOperator operation, bool isNegated) {
+    const auto* row = std::find_if(table.begin(), table.end(), [&](const OperatorRow& candidate) {
+        return candidate.operation == operation && candidate.isNegated == isNegated;
+    });
+    return row == table.end() ? "" : row->spelling.spelling();
 }
 
 bool isOperatorAhead(const TokenStream& tokens) {

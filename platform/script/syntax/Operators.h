@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "platform/script/source/TokenStream.h"
 #include "platform/script/values/BinaryOperator.h"
@@ -32,6 +33,9 @@ inline constexpr int notLevel = 30;
 
 /// The operator with the most words that stands at the current token; null if none does.
 const OperatorRow* binaryOperator(const TokenStream& tokens);
+
+/// How the operator is mostly spelled.
+std::string_view spellingOf(BinaryOperator operation, bool isNegated);
 
 /// Whether the token behind the current one begins an operator, or is `as`, and can begin no expression.
 bool isOperatorAhead(const TokenStream& tokens);

@@ -34,6 +34,8 @@ NodeId PrimaryParser::parenthesised() {
     m_tokens.accept(Word::get);
     const NodeId node = expression();
     m_tokens.expect(TokenKind::rightParenthesis);
+    const NodeKind kind = m_tree.at(node).kind;
+    if (kind == NodeKind::binary || kind == NodeKind::inversion) m_tree.nodes[node].value = 1;
     return node;
 }
 

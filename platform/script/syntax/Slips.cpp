@@ -29,6 +29,10 @@ struct Slip {
 
 constexpr std::string_view tellHint =
     "The keyboard commands stand inside “tell application \"System Events\"” … “end tell”.";
+constexpr std::string_view modifierTellHint =
+    "Modifiers are known inside “tell application \"System Events\"” … “end tell”.";
+constexpr std::string_view processTellHint =
+    "Processes are known inside “tell application \"System Events\"” … “end tell”.";
 constexpr std::string_view curlyHint = "Put straight quotes (\") in place of the curly ones.";
 constexpr std::string_view setHint = "A variable is set with “to”: set x to 5.";
 constexpr std::string_view loopHint = "A loop is written: repeat with i from 1 to 5 … end repeat.";
@@ -56,6 +60,11 @@ constexpr std::string_view usingHint = "Modifiers stand behind “using”: keys
 constexpr std::string_view timesHint =
     "What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.";
 constexpr std::string_view lineHint = "Each statement has a line of its own.";
+constexpr std::string_view fileHint =
+    "A macro has no files; a text comes from “the clipboard” or from a dialog.";
+constexpr std::string_view addHint = "A variable is set with “to”: set x to x + 1.";
+constexpr std::string_view parenthesisHint = "A parenthesis is not closed in this line.";
+constexpr std::string_view braceHint = "A brace is not closed in this line.";
 constexpr std::string_view startHint =
     "Press the keys that start it, or bring a window to the front: tell application \"Firefox\" to activate.";
 
@@ -71,6 +80,7 @@ constexpr auto slips = std::to_array<Slip>({
     {"Raw codes", "", "", "", "Write the command by its name."},
     {"do shell script” is refused", "", "", "", startHint},
     {unexpected, keyboardWords, "", "", tellHint, Where::outside},
+    {"found identifier", "", "command|control|option|shift", "down", modifierTellHint, Where::outside},
     {unexpected, keyboardWords, "down", modifierNames, bracesHint, Where::inside},
     {"Expected “,” or “}”", keyboardWords, "down", modifierNames, bracesHint, Where::inside},
     {"", keyboardWords, "", "with|command|control|option|shift|cmd|ctrl|alt", usingHint, Where::inside},
@@ -86,7 +96,8 @@ constexpr auto slips = std::to_array<Slip>({
     {unexpected, keyboardWords, "", ",", bracesHint, Where::inside},
     {unexpected, keyboardWords, "\"", "\"", joinHint, Where::inside},
     {"Expected “)” but found “,”", "", "", "", bracesHint},
-    {"Expected “)” but found end of line", "", "", "", "A parenthesis is not closed in this line."},
+    {"Expected “)” but found end of", "", "", "", parenthesisHint},
+    {"Expected “,” or “}” but found end of", "", "", "", braceHint},
     {"found “whose”", "", "", "",
      "Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat."},
     {unexpected, "", "window|button|menu|bar|field|sheet", "0|\"", windowHint},
@@ -101,18 +112,24 @@ constexpr auto slips = std::to_array<Slip>({
     {unexpected, "xdotool|ydotool", "", "type", typeHint},
     {unexpected, "xdotool|ydotool", "", "", pressingAdvice},
     {unexpected, "send|sendinput", "", ",", sendHint},
-    {unexpected, "type|write|send|print|echo|keypress|sendkeys", "", "\"", typeHint},
+    {unexpected, "type|write|send|keypress|sendkeys", "", "\"", typeHint},
     {unexpected, "press|hit|push|tap|keypress|keycode", "", "", pressingAdvice},
+    {"Expected “code”, “down” or “up”", "", "key", "release", "A key is let go with: key up \"a\"."},
     {"Expected “code”, “down” or “up”", "", "key", "",
      "Text is typed with “keystroke”, a key is pressed by its number: key code 36."},
     {unexpected, "hold|release", "", "",
      "A key is held with “key down” and let go with “key up”: key down shift."},
+    {unexpected, "open", "", "for", fileHint},
+    {unexpected, "", "choose|read|posix", "file|folder", fileHint},
+    {unexpected, "", "path", "to", fileHint},
     {unexpected, "open|launch|start", "", "\"|application|app|process", startHint},
     {unexpected, "", "ask|input|prompt", "\"", askHint},
+    {unexpected, "clipboard", "", "info", "The text in the clipboard is: the clipboard."},
     {unexpected, "click|doubleclick|rightclick|mouse|drag", "", "", mouseHint},
     {unexpected, "let|var|const|dim|local", "", "", setHint},
     {unexpected, "function|def|sub|func|proc|handler", "", "", handlerHint},
     {unexpected, "loop|do", "", "", "A loop is written: repeat 5 times … end repeat."},
+    {"found “\"”", "", "process", "\"", processTellHint, Where::outside},
     {unexpected, "tell", "\"", "",
      "Behind the name stands “to”, or the line ends there: tell application \"System Events\" to keystroke "
      "\"a\"."},
@@ -123,10 +140,11 @@ constexpr auto slips = std::to_array<Slip>({
     {"", "while", "", "while", "A loop is written: repeat while x < 5 … end repeat."},
     {"Expected “from” or “in”", "repeat", "", "=", loopHint},
     {"Expected “to” but found", "set", "", "=|:|\"|0", setHint},
+    {"Expected “to” but found", "set", "", "+|-|*|/", addHint},
     {unexpected, "", "", "=", setHint},
     {"Expected “to” but found", "repeat", "", "", loopHint},
-    {"Expected expression", "", "+|-|*|/", "=", "A variable is set with “to”: set x to x + 1."},
-    {"Expected expression", "", "+", "+", "A variable is set with “to”: set x to x + 1."},
+    {"Expected expression", "", "+|-|*|/", "=", addHint},
+    {"Expected expression", "", "+", "+", addHint},
     {"Expected expression", "", "", "/", "A comment begins with -- or #."},
     {"Expected expression", "", "/", "*", "A comment over lines is written (* … *)."},
     {"", "", "&", "&", bothHint},
@@ -207,7 +225,10 @@ NameId nameSetBy(const Node& statement, const Tree& tree) {
             return statement.firstChild == noNode ? 0 : nameOf(tree.at(statement.firstChild));
         case NodeKind::repeatIn:
         case NodeKind::repeatRange:
+        case NodeKind::property:
             return statement.value;
+        case NodeKind::parameter:
+            return statement.firstChild == noNode ? 0 : nameOf(tree.at(statement.firstChild));
         default:
             return 0;
     }
@@ -221,11 +242,55 @@ bool sets(const Tree& tree, std::string_view name) {
     });
 }
 
-/// `keystroke hello world`
-std::string quotesHint(const ErrorLine& line) {
-    const std::string words(line.behindFirst("using"));
-    const bool areWords = !words.empty() && words.find_first_of("\"&({") == std::string::npos;
-    return areWords ? "Text stands between straight quotes: \"" + words + "\"." : "";
+/// `keystroke hello world`, `display dialog Hello there`
+std::string quotesHint(std::string_view words) {
+    const bool areWords = !words.empty() && words.find_first_of("\"&({") == std::string_view::npos;
+    return areWords ? "Text stands between straight quotes: \"" + std::string(words) + "\"." : "";
+}
+
+/// Of a text that is shown, if words without quotes stand there which the script has not set.
+std::string shownTextHint(const ErrorLine& line, const Tree& tree) {
+    const std::string first = line.first();
+    if (first != "display" && first != "log") return "";
+    const std::size_t number = first == "log" ? 1 : 2;
+    const std::string shown = line.word(number);
+    if (!isUnknown(shown) || sets(tree, shown)) return "";
+    return quotesHint(line.wordsFrom(number, {"with", "default", "buttons", "giving", "message", "as",
+                                              "cancel", "hidden", "subtitle", "sound"}));
+}
+
+/// `keystroke down arrow`, `key code page up`
+std::string keyHint(const ScriptError& error, const ErrorLine& line) {
+    if (line.first() != "keystroke" && line.first() != "key") return "";
+    if (!error.message.starts_with("Expected expression")) return keyNameAdvice(line.before() + line.here());
+    std::string hint = keyNameAdvice(line.here() + line.behind());
+    return hint.empty() ? keyNameAdvice(line.here()) : hint;
+}
+
+bool isAscii(char c) { return (static_cast<unsigned char>(c) & 0x80U) == 0; }
+
+/// A word with letters that names do not have. Of a sign by itself nobody knows what it was to be.
+std::string lettersHint(const ErrorLine& line) {
+    const std::string letters(line.letters());
+    const bool isPlain = std::all_of(letters.begin(), letters.end(), isAscii);
+    if (isPlain || letters.size() <= line.here().size()) return "";
+    const std::string_view before = line.beforeLetters();
+    constexpr auto namingWords = std::to_array<std::string_view>(
+        {"set ", "on ", "to ", "repeat with ", "global ", "local ", "property ", "my "});
+    const bool isName = std::any_of(namingWords.begin(), namingWords.end(), [&](std::string_view word) {
+        return before.size() >= word.size() &&
+               equalIgnoringCase(before.substr(before.size() - word.size()), word);
+    });
+    return isName ? "Other letters than A to Z stand in a name between bars: |" + letters + "|."
+                  : "Other letters than A to Z stand in a name between bars: |" + letters +
+                        "|. Text stands between straight quotes: \"" + letters + "\".";
+}
+
+/// Whether the line begins with an apostrophe, as a comment does elsewhere.
+bool isComment(std::string_view line) {
+    const std::size_t first = line.find_first_not_of(" \t");
+    return first != std::string_view::npos && line[first] == '\'' &&
+           line.find('\'', first + 1) == std::string_view::npos;
 }
 
 /// Signs of other languages.
@@ -234,7 +299,16 @@ std::string signHint(const ScriptError& error, const ErrorLine& place) {
     const std::string here = place.here();
     const auto says = [&](std::string_view words) { return error.message.find(words) != std::string::npos; };
     const auto has = [&](std::string_view sign) { return line.find(sign) != std::string_view::npos; };
+    if (says("unknown token U+")) return "A sign that nobody sees stands here; delete it.";
+    if (isComment(line)) return "A comment begins with -- or #.";
+    // Before any text, which may hold the same.
+    const std::string_view code = line.substr(0, line.find('"'));
+    if (code.find("::") != std::string_view::npos)
+        return "A hot key is no part of a script; it is set in the preferences, or for each macro in "
+               "“Macros…”.";
+    if (code.find("++") != std::string_view::npos && says("Expected expression")) return std::string(addHint);
     if (!says("unknown token") && !says("but found “=”") && !says("but found “>”")) return "";
+    if (std::string hint = lettersHint(place); says("unknown token") && !hint.empty()) return hint;
     if (has("!=") || has("<>")) return "“Not equal” is written ≠ or /=.";
     if (has("==")) return "“Equal” is written with one =.";
     if (here == "|") return std::string(bothHint);
@@ -258,6 +332,9 @@ std::string hintOfLine(const ScriptError& error, const Tree& tree, std::string_v
     const bool isInsideTell = knowsKeyboard || line.isTold();
     if (std::string hint = modifierHint(line); isInsideTell && !hint.empty()) return hint;
     if (std::string hint = signHint(error, line); !hint.empty()) return hint;
+    if (std::string hint = keyHint(error, line); isInsideTell && !hint.empty()) return hint;
+    if (std::string hint = shownTextHint(line, tree); !hint.empty()) return hint;
+    if (line.here() == "with" && line.behind() == "format") return std::string(datingAdvice);
     if (line.standsAgainstText() && error.message.starts_with(unexpected))
         return R"(A quote inside a text is written \": "Hello \"world\"".)";
     const auto isOther = [&](std::string_view word) { return isForeign(word) || sets(tree, word); };
@@ -270,9 +347,7 @@ std::string hintOfLine(const ScriptError& error, const Tree& tree, std::string_v
     const auto* row = std::find_if(slips.begin(), slips.end(), isHere);
     if (row != slips.end()) return std::string(row->hint);
     if (std::string hint = foreignWordAdvice(line.first()); !hint.empty()) return hint;
-    const bool mayBeText =
-        line.first() == "keystroke" || error.message.find("found identifier") != std::string::npos;
-    return isInsideTell && mayBeText && line.first() == "keystroke" ? quotesHint(line) : "";
+    return isInsideTell && line.first() == "keystroke" ? quotesHint(line.wordsFrom(1, {"using"})) : "";
 }
 
 }  // namespace script

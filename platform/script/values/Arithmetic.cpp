@@ -120,7 +120,7 @@ Fallible<Value> calculated(BinaryOperator operation, const Value& left, const Va
     const std::optional<Number> rightNumber = numeric(right);
     if (!rightNumber) return cannotMake(right, "number");
     if (divides(operation) && rightNumber->value == 0) {
-        return Failure{errornumber::divisionByZero, "Can’t divide " + sourceForm(left) + " by zero."};
+        return Failure{errornumber::divisionByZero, "Can’t divide " + quotedForm(left) + " by zero."};
     }
     return calculate(operation, *leftNumber, *rightNumber);
 }

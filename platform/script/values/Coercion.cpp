@@ -106,6 +106,10 @@ std::optional<Value> asInteger(const Value& value) {
 }
 
 std::optional<Value> asNumber(const Value& value, Type type) {
+    const List* list = value.list();
+    if (list != nullptr && list->size() == 1 && list->front().list() == nullptr) {
+        return asNumber(list->front(), type);
+    }
     const std::optional<double> number = numberOrTruth(value);
     if (!number) return std::nullopt;
     if (type == Type::real) return Value{*number};

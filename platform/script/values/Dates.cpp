@@ -19,9 +19,11 @@ constexpr std::array<std::string_view, 12> months{"January",   "February", "Marc
 constexpr std::array<std::string_view, 7> weekdays{"Sunday",   "Monday", "Tuesday", "Wednesday",
                                                    "Thursday", "Friday", "Saturday"};
 
-std::int64_t dayNumber(std::int64_t moment) {
-    return moment >= 0 ? moment / secondsOfDay : (moment - secondsOfDay + 1) / secondsOfDay;
+std::int64_t roundedDown(std::int64_t number, std::int64_t divisor) {
+    return number >= 0 ? number / divisor : (number - divisor + 1) / divisor;
 }
+
+std::int64_t dayNumber(std::int64_t moment) { return roundedDown(moment, secondsOfDay); }
 
 std::string twoDigits(std::int64_t number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 
@@ -142,13 +144,15 @@ CalendarParts partsOf(std::int64_t moment) {
 }
 
 std::int64_t momentOf(const CalendarParts& parts) {
-    const std::int64_t month = parts.month - 1;
-    const std::int64_t years = month >= 0 ? month / 12 : (month - 11) / 12;
-    const auto year =
-        std::chrono::year{static_cast<int>(std::clamp<std::int64_t>(parts.year + years, -9999, 9999))};
-    const auto first = std::chrono::sys_days{
-        year / std::chrono::month{static_cast<unsigned>(month - years * 12 + 1)} / std::chrono::day{1}};
-    const std::int64_t days = first.time_since_epoch().count() + parts.day - 1;
+    // The calendar comes round in this time, so that years beyond those of std::chrono are counted as well.
+    constexpr std::int64_t yearsOfRound = 400;
+    constexpr std::int64_t daysOfRound = 146097;
+    const std::int64_t years = roundedDown(parts.month - 1, 12);
+    const std::int64_t rounds = roundedDown(parts.year + years, yearsOfRound);
+    const std::chrono::year year{static_cast<int>(parts.year + years - rounds * yearsOfRound)};
+    const std::chrono::month month{static_cast<unsigned>(parts.month - years * 12)};
+    const auto first = std::chrono::sys_days{year / month / std::chrono::day{1}};
+    const std::int64_t days = first.time_since_epoch().count() + rounds * daysOfRound + parts.day - 1;
     return days * secondsOfDay + parts.hours * 3600 + parts.minutes * 60 + parts.seconds;
 }
 

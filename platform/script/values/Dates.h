@@ -20,6 +20,7 @@ struct CalendarParts {
 
 /// Moments are seconds since 1970 began, of the calendar and without time zones.
 CalendarParts partsOf(std::int64_t moment);
+/// Each part lies within 32 bits; what comes of them may be no moment.
 std::int64_t momentOf(const CalendarParts& parts);
 /// 1 is Sunday.
 std::uint8_t weekdayOf(std::int64_t moment);

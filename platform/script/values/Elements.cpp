@@ -13,7 +13,7 @@ namespace script {
 namespace {
 
 Failure cannotGetElement(const Value& container, const Element& element) {
-    return cannotGet(sourceForm(element) + " of " + sourceForm(container));
+    return cannotGet(sourceForm(element) + " of " + quotedForm(container));
 }
 
 /// An apostrophe or a point stands within a word where the word goes on behind it.
@@ -178,7 +178,7 @@ Fallible<> setElement(const Value& container, const Element& element, const Valu
     List* list = container.list();
     if (list == nullptr || element.kind != ElementKind::item) {
         if (container.text() == nullptr) return cannotGetElement(container, element);
-        return cannotSet(sourceForm(element) + " of " + sourceForm(container), value);
+        return cannotSet(sourceForm(element) + " of " + quotedForm(container), value);
     }
     Element all = element;
     if (element.form == ElementForm::every) {
@@ -194,7 +194,7 @@ Fallible<> setElement(const Value& container, const Element& element, const Valu
     }
     const List* values = value.list();
     if (values == nullptr || values->size() < places->last - places->first + 1) {
-        return cannotSet(sourceForm(element) + " of " + sourceForm(container), value);
+        return cannotSet(sourceForm(element) + " of " + quotedForm(container), value);
     }
     std::copy_n(List(*values).begin(), places->last - places->first + 1,
                 list->begin() + static_cast<std::ptrdiff_t>(places->first));

@@ -129,7 +129,7 @@ Fallible<> addToList(const Shared<ListBody>& list, bool atEnd, const Value& valu
 Fallible<Value> propertyOf(const Value& container, const Name& name) {
     if (container.text() != nullptr && &name == &names::id) return idOf(*container.text());
     if (Found found = find(container, name)) return *std::move(found);
-    return cannotGet(sourceForm(name) + " of " + sourceForm(container));
+    return cannotGet(sourceForm(name) + " of " + quotedForm(container));
 }
 
 Fallible<> setProperty(const Value& container, const Name& name, const Value& value) {
@@ -147,7 +147,7 @@ Fallible<> setProperty(const Value& container, const Name& name, const Value& va
         const std::optional<std::int32_t> number = month == nullptr ? integerOf(value) : month->number;
         if (number && setDatePart(*date, name, *number)) return {};
     }
-    return cannotSet(sourceForm(name) + " of " + sourceForm(container), value);
+    return cannotSet(sourceForm(name) + " of " + quotedForm(container), value);
 }
 
 }  // namespace script

@@ -17,6 +17,7 @@ namespace {
 
 constexpr int significantDigits = 12;
 constexpr std::size_t maxLength = 4096;
+constexpr std::size_t maxQuotedLength = 200;
 constexpr int maxDepth = 500;
 
 /// A real as its digits without trailing zeros, and the power of ten of the first digit.
@@ -52,15 +53,18 @@ std::string pointed(const std::string& digits, int whole) {
 /// Appends the source form of values until there is enough of it.
 class SourceWriter {
   public:
+    /// What is longer than so many bytes is cut off.
+    explicit SourceWriter(std::size_t most) : m_most(most) {}
+
     std::string take() {
-        if (m_out.size() <= maxLength) return std::move(m_out);
-        std::size_t end = maxLength;
+        if (m_out.size() <= m_most) return std::move(m_out);
+        std::size_t end = m_most;
         while (isUtf8Continuation(m_out[end])) --end;
         return m_out.substr(0, end) + "…";
     }
 
     void add(const Value& value) {
-        if (m_out.size() > maxLength) return;
+        if (m_out.size() > m_most) return;
         const Scoped<int> depth(m_depth, m_depth + 1);
         if (m_depth > maxDepth) {
             m_out += "…";
@@ -91,6 +95,7 @@ class SourceWriter {
     void write(const Shared<TargetBody>& target);
     void quote(std::string_view text);
 
+    std::size_t m_most;
     std::string m_out;
     int m_depth = 0;
 };
@@ -99,7 +104,7 @@ void SourceWriter::write(const Shared<ListBody>& list) {
     m_out += "{";
     bool isFirst = true;
     for (const Value& item : list->items) {
-        if (m_out.size() > maxLength) return;
+        if (m_out.size() > m_most) return;
         if (!std::exchange(isFirst, false)) m_out += ", ";
         add(item);
     }
@@ -110,7 +115,7 @@ void SourceWriter::write(const Shared<RecordBody>& record) {
     m_out += "{";
     bool isFirst = true;
     for (const Field& field : record->fields) {
-        if (m_out.size() > maxLength) return;
+        if (m_out.size() > m_most) return;
         if (!std::exchange(isFirst, false)) m_out += ", ";
         m_out += sourceForm(*field.name) + ":";
         add(field.value);
@@ -136,7 +141,7 @@ void SourceWriter::write(const Shared<TargetBody>& target) {
 void SourceWriter::quote(std::string_view text) {
     m_out += '"';
     for (const char c : text) {
-        if (m_out.size() > maxLength + 8) return;
+        if (m_out.size() > m_most + 8) return;
         if (c == '"' || c == '\\') m_out += '\\';
         m_out += c;
     }
@@ -179,7 +184,13 @@ std::string constantText(const CalendarName& constant) {
 }
 
 std::string sourceForm(const Value& value) {
-    SourceWriter writer;
+    SourceWriter writer(maxLength);
+    writer.add(value);
+    return writer.take();
+}
+
+std::string quotedForm(const Value& value) {
+    SourceWriter writer(maxQuotedLength);
     writer.add(value);
     return writer.take();
 }
@@ -204,13 +215,13 @@ std::string sourceForm(const Element& element) {
 
 Failure cannotMake(const Value& value, std::string_view type) {
     return {errornumber::cannotCoerce,
-            "Can’t make " + sourceForm(value) + " into type " + std::string(type) + "."};
+            "Can’t make " + quotedForm(value) + " into type " + std::string(type) + "."};
 }
 
 Failure cannotGet(const std::string& what) { return {errornumber::noSuchObject, "Can’t get " + what + "."}; }
 
 Failure cannotSet(const std::string& what, const Value& value) {
-    return {errornumber::cannotSet, "Can’t set " + what + " to " + sourceForm(value) + "."};
+    return {errornumber::cannotSet, "Can’t set " + what + " to " + quotedForm(value) + "."};
 }
 
 }  // namespace script

@@ -15,9 +15,12 @@ std::string realText(double value);
 std::string constantText(const Modifier& constant);
 std::string constantText(const CalendarName& constant);
 
-/// As a script would spell it, for messages and results: texts in quotes, lists in braces. What is longer
-/// than a few thousand bytes, or nested some hundred times, is cut off with "…".
+/// As a script would spell it, for results: texts in quotes, lists in braces. What is longer than a few
+/// thousand bytes, or nested some hundred times, is cut off with "…".
 std::string sourceForm(const Value& value);
+
+/// Likewise for messages, cut off behind 200 bytes: people read what is wrong, and not all of the value.
+std::string quotedForm(const Value& value);
 
 /// As spelled in front of its container: "item 2", "text 2 thru 3", "some word".
 std::string sourceForm(const Element& element);

@@ -60,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"texts stay", "\"a  ,b\\\" c\"", "\"a  ,b\\\" c\"\n"},
         Row{"a mark of byte order goes", "\uFEFFbeep", "beep\n"},
         Row{"a second one is refused", "\uFEFF\uFEFFbeep",
-            "error: Expected expression but found unknown token."},
+            "error: Expected expression but found unknown token U+FEFF."},
         Row{"errors are told", "if", "error: Expected expression but found end of script."}));
 
 TEST(LayoutOfCasesTest, formattingTwiceChangesNothingAndTheMeaningStays) {
