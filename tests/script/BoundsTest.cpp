@@ -101,6 +101,7 @@ INSTANTIATE_TEST_SUITE_P(Nesting, LayoutBoundsTest, nesting, nameOf);
 const auto length = testing::Values(
     Row{"sum", "set x to 0" + times(20000, " + 1"), "20000"},
     Row{"conjunction", "set x to true" + times(20000, " and true"), "true"},
+    Row{"swallowedConjunction", "set x to true\ncount of x" + times(20000, " and x") + "\n7", "7"},
     Row{"coercions", "set x to 5" + times(20000, " as text as integer"), "5"},
     Row{"coercionsAndSums", "set x to 0" + times(20000, " as integer + 1"), "20000"},
     Row{"members", "set x to {1}" + times(20000, "'s reverse"), "{1}"},

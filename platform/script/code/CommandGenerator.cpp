@@ -29,6 +29,10 @@ bool isSwallowed(BinaryOperator operation, Command::Swallows swallows) {
     return swallows == Command::Swallows::calculations || operation >= BinaryOperator::less;
 }
 
+bool joinsConditions(const Node& node) {
+    return operatorOf(node) == BinaryOperator::both || operatorOf(node) == BinaryOperator::either;
+}
+
 bool joins(const Node& node) {
     return node.kind == NodeKind::binary && operatorOf(node) == BinaryOperator::join;
 }
@@ -126,20 +130,22 @@ void CommandGenerator::warnOfTexts(NodeId codes) {
     if (isOther) m_out.warn(node.offset, noCodeAdvice());
 }
 
-/// `count of x > 2`, which counts the comparison.
+/// `count of x > 2`, which counts the comparison. Of conditions in a row, which may be as many as fit into a
+/// line, the first one counts.
 void CommandGenerator::warnOfSwallowed(const Node& argument, const Command& command) {
-    if (argument.value != 0) return;
-    const bool isNegated =
-        argument.kind == NodeKind::inversion && m_tree.at(argument.firstChild).offset == argument.offset;
-    const Node& node = isNegated ? m_tree.at(argument.firstChild) : argument;
-    if (node.kind != NodeKind::binary || !isSwallowed(operatorOf(node), command.swallows)) return;
-    const bool isJoint =
-        operatorOf(node) == BinaryOperator::both || operatorOf(node) == BinaryOperator::either;
-    const Node& left = m_tree.at(node.firstChild);
-    const bool mayBeFirst = left.kind == NodeKind::binary || left.kind == NodeKind::inversion;
-    if (isJoint && mayBeFirst) return warnOfSwallowed(left, command);
-    m_out.warn(node.offset,
-               swallowedAdvice(command.name.spelling(), spellingOf(operatorOf(node), isNegated)));
+    for (const Node* outer = &argument; outer->value == 0;) {
+        const bool isNegated =
+            outer->kind == NodeKind::inversion && m_tree.at(outer->firstChild).offset == outer->offset;
+        const Node& node = isNegated ? m_tree.at(outer->firstChild) : *outer;
+        if (node.kind != NodeKind::binary || !isSwallowed(operatorOf(node), command.swallows)) return;
+        const Node& left = m_tree.at(node.firstChild);
+        const bool mayBeFirst = left.kind == NodeKind::binary || left.kind == NodeKind::inversion;
+        if (!joinsConditions(node) || !mayBeFirst) {
+            const std::string_view sign = spellingOf(operatorOf(node), isNegated);
+            return m_out.warn(node.offset, swallowedAdvice(command.name.spelling(), sign));
+        }
+        outer = &left;
+    }
 }
 
 void CommandGenerator::warnOfPause(NodeId seconds) {
