@@ -73,10 +73,11 @@ QuestionTerminal::Came QuestionTerminal::takeLine(std::string& line, const std::
     return Came::line;
 }
 
-QuestionTerminal::Came QuestionTerminal::takeHiddenLine(std::string& line,
+QuestionTerminal::Came QuestionTerminal::takeHiddenLine(std::string_view prompt, std::string& line,
                                                         const std::function<bool()>& isStopped,
                                                         std::optional<Time> deadline) {
     showTyping(false);
+    write(prompt);
     const Came came = takeLine(line, isStopped, deadline);
     showTyping(true);
     // The line end was not shown either.

@@ -33,8 +33,8 @@ class QuestionTerminal {
 
     /// Waits for the next line, which comes without its end. `isStopped` is asked several times a second.
     Came takeLine(std::string& line, const std::function<bool()>& isStopped, std::optional<Time> deadline);
-    /// The same, with what is typed not shown.
-    Came takeHiddenLine(std::string& line, const std::function<bool()>& isStopped,
+    /// The same, with what is typed not shown from before the prompt is.
+    Came takeHiddenLine(std::string_view prompt, std::string& line, const std::function<bool()>& isStopped,
                         std::optional<Time> deadline);
 
   private:

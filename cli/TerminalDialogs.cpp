@@ -85,20 +85,26 @@ class TerminalDialogs::Question {
         }
     }
 
-    bool take(std::string& line, bool isHidden = false) {
-        const auto isStopped = [this] { return m_injector.isCancelled(); };
-        m_came = isHidden ? m_terminal.takeHiddenLine(line, isStopped, m_deadline)
-                          : m_terminal.takeLine(line, isStopped, m_deadline);
+    bool isStopped() const { return m_injector.isCancelled(); }
+
+    bool take(std::string& line) {
+        m_came = m_terminal.takeLine(
+            line, [this] { return isStopped(); }, m_deadline);
         return m_came == Came::line;
     }
 
     bool takeText() {
         m_answer.text = *m_dialog.defaultAnswer;
-        m_terminal.write(m_dialog.hidesAnswer ? "[] " : "[" + m_answer.text + "] ");
         std::string line;
-        const bool isTyped = take(line, m_dialog.hidesAnswer);
+        if (m_dialog.hidesAnswer) {
+            m_came = m_terminal.takeHiddenLine(
+                "[] ", line, [this] { return isStopped(); }, m_deadline);
+        } else {
+            m_terminal.write("[" + m_answer.text + "] ");
+            take(line);
+        }
         if (!line.empty()) m_answer.text = line;
-        return isTyped;
+        return m_came == Came::line;
     }
 
     /// Without a line.
