@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/macros/MacrosWindow.h"
 
+#include <QApplication>
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
@@ -17,6 +19,7 @@
 #include "app/macros/MacroEditor.h"
 #include "app/macros/MacroListModel.h"
 #include "app/macros/MacroSettingsRow.h"
+#include "app/widgets/MacroSigns.h"
 #include "app/widgets/NoticeLine.h"
 #include "app/widgets/PanelText.h"
 
@@ -36,7 +39,8 @@ QPushButton* makeButton(const QString& title, const QString& hint) {
 
 /// The time stands where other lines of a menu have their shortcut.
 QString lineOf(const MacrosWindow::Recording& recording) {
-    return QString(recording.title).replace(u'&', QStringLiteral("&&")) + u'\t' +
+    QString title = withSignsThatShow(recording.title, QFontMetrics(QApplication::font("QMenu")));
+    return title.replace(u'&', QStringLiteral("&&")) + u'\t' +
            QLocale().toString(recording.recordedAt, QLocale::ShortFormat);
 }
 
