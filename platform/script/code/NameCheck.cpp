@@ -75,7 +75,7 @@ std::string NameCheck::slipOf(NameId name, NameRole role, const std::vector<Name
                shared.begin() + static_cast<std::ptrdiff_t>(std::min(shared.size(), mostCompared)));
     const std::string similar = similarTo(called, all);
     if (!similar.empty()) return didYouMean(similar);
-    const std::string foreign = role == NameRole::program ? "" : foreignWordAdvice(called);
+    std::string foreign = role == NameRole::program ? "" : foreignWordAdvice(called);
     if (!foreign.empty()) return foreign;
     const std::string word = wordLike(called, placeOf(role));
     if (!word.empty()) return didYouMean(word);

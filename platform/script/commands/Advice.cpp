@@ -148,9 +148,10 @@ std::string keyInBracesAdvice(std::string_view text, bool isFirst) {
     if (close == std::string_view::npos) return "";
     const std::optional<int> code = codeOfWord(text.substr(1, close - 1));
     if (!code) return "";
-    if (!isFirst || close + 1 < text.size())
+    if (!isFirst || close + 1 < text.size()) {
         return "“" + std::string(text.substr(0, close + 1)) + "” is typed as it stands. " +
                joinedKeyAdvice(*code);
+    }
     return wholeKeyAdvice(*code);
 }
 

@@ -303,9 +303,10 @@ std::string signHint(const ScriptError& error, const ErrorLine& place) {
     if (isComment(line)) return "A comment begins with -- or #.";
     // Before any text, which may hold the same.
     const std::string_view code = line.substr(0, line.find('"'));
-    if (code.find("::") != std::string_view::npos)
+    if (code.find("::") != std::string_view::npos) {
         return "A hot key is no part of a script; it is set in the preferences, or for each macro in "
                "“Macros…”.";
+    }
     if (code.find("++") != std::string_view::npos && says("Expected expression")) return std::string(addHint);
     if (!says("unknown token") && !says("but found “=”") && !says("but found “>”")) return "";
     if (std::string hint = lettersHint(place); says("unknown token") && !hint.empty()) return hint;
