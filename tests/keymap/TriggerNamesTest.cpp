@@ -6,6 +6,7 @@
 #include "keymap/NamedKeymap.h"
 #include "support/Keys.h"
 
+// NOLINTNEXTLINE(readability-identifier-naming): the name is the test framework's
 void PrintTo(const KeyCombination& combination, std::ostream* stream) {
     *stream << "key " << int{combination.keycode} << " modifiers " << combination.modifiers;
 }
