@@ -64,8 +64,7 @@ TEST_P(RecordingStoreContract, givesBackWhatWasKept) {
 }
 
 TEST_P(RecordingStoreContract, keepsScriptsOfAnyShape) {
-    for (const std::string script : {"", "\n", "-- a comment", "one line", "\n\ntwo\n\n",
-                                     "\xEF\xBB\xBFé"}) {
+    for (const std::string script : {"", "\n", "-- a comment", "one line", "\n\ntwo\n\n", "\xEF\xBB\xBFé"}) {
         StoredRecording kept = recording(0, "");
         kept.script = script;
         kept.name = keep(kept);
