@@ -2,6 +2,7 @@
 #include "platform/AsciiText.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <string>
@@ -10,19 +11,18 @@
 
 namespace {
 
-std::string hexadecimal(const char* prefix, int digits, std::uint32_t number) {
-    std::string text(32, '\0');
-    const int length = std::snprintf(text.data(), text.size(), "%s%0*X", prefix, digits, number);
-    text.resize(static_cast<std::size_t>(length));
-    return text;
+std::string nameOf(char byte) {
+    std::array<char, 8> name{};
+    std::snprintf(name.data(), name.size(), "0x%02X", static_cast<std::uint8_t>(byte));
+    return name.data();
 }
 
 std::string nameOf(std::string_view rest, const Utf8Character& character) {
-    if (!character.code) return "the byte " + hexadecimal("0x", 2, static_cast<std::uint8_t>(rest.front()));
+    if (!character.code) return "the byte " + nameOf(rest.front());
     std::string name = "the character ";
     // Controls (U+0080 to U+009F) would be invisible.
     if (*character.code >= 0xA0) name.append("\"").append(rest.substr(0, character.length)).append("\" ");
-    return name + "(" + hexadecimal("U+", 4, *character.code) + ")";
+    return name + "(" + codePointName(*character.code) + ")";
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Utf8.h"
 
+#include <array>
+#include <cstdio>
 #include <cstring>
 
 namespace {
@@ -72,6 +74,12 @@ std::optional<std::size_t> invalidUtf8(std::string_view bytes) {
         if (character.length == 1) position = skipAscii(bytes, position);
     }
     return std::nullopt;
+}
+
+std::string codePointName(std::uint32_t code) {
+    std::array<char, 16> name{};
+    std::snprintf(name.data(), name.size(), "U+%04X", code);
+    return name.data();
 }
 
 void appendUtf8(std::string& text, char32_t code) {

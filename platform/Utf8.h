@@ -31,5 +31,8 @@ char32_t takeCharacter(std::string_view text, std::size_t& position);
 /// The offset of the first byte that begins no character; empty if all is UTF-8.
 std::optional<std::size_t> invalidUtf8(std::string_view bytes);
 
+/// "U+200B": at least four digits.
+std::string codePointName(std::uint32_t code);
+
 /// Appends a character by its code, at most 0x10FFFF.
 void appendUtf8(std::string& text, char32_t code);

@@ -2,8 +2,6 @@
 #include "platform/run/TextPlan.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <string>
 
 #include "platform/Utf8.h"
@@ -52,11 +50,10 @@ std::string beginningOf(std::span<const char32_t> characters) {
 }
 
 std::string nameOf(char32_t character) {
-    std::array<char, 16> code{};
-    std::snprintf(code.data(), code.size(), "U+%04X", static_cast<unsigned>(character));
+    const std::string code = codePointName(character);
     const bool isControl = character < 0x20 || character == 0x7F;
-    if (isControl || character > 0x10FFFF) return code.data();
+    if (isControl || character > 0x10FFFF) return code;
     std::string shown;
     appendUtf8(shown, character);
-    return "\"" + shown + "\" (" + code.data() + ")";
+    return "\"" + shown + "\" (" + code + ")";
 }

@@ -8,6 +8,7 @@
 #include "platform/script/syntax/Operators.h"
 
 namespace script {
+
 /// A loop while its code is emitted: at its end, all jumps out of it lead there.
 class StatementGenerator::LoopScope {
   public:

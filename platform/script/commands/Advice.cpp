@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/KeyCodes.h"
+#include "platform/script/commands/KeyTable.h"
 #include "platform/script/values/ModifierWords.h"
 #include "platform/script/values/SourceForm.h"
 
@@ -48,12 +49,11 @@ std::optional<int> codeOfCharacter(std::string_view text) {
 
 /// The key of a US keyboard with the letter.
 std::optional<int> codeOfLetter(std::string_view name) {
-    // From A to Z.
-    constexpr auto codes = std::to_array<int>(
-        {0, 11, 8, 2, 14, 3, 5, 4, 34, 38, 40, 37, 46, 45, 31, 35, 12, 15, 1, 17, 32, 9, 13, 7, 16, 6});
-    const std::string letter = asciiLowered(name);
-    if (letter.size() != 1 || letter[0] < 'a' || letter[0] > 'z') return std::nullopt;
-    return codes[static_cast<std::size_t>(letter[0] - 'a')];
+    if (name.size() != 1 || asciiLowered(name) < "a" || asciiLowered(name) > "z") return std::nullopt;
+    for (int code = 0; code < static_cast<int>(keycode::power); ++code) {
+        if (equalIgnoringCase(keyTitle(static_cast<std::uint32_t>(code)), name)) return code;
+    }
+    return std::nullopt;
 }
 
 std::string keyAdvice(int code) { return "The key has a number: key code " + std::to_string(code) + "."; }

@@ -18,17 +18,9 @@ bool isUnseen(char32_t sign) {
            sign == 0xFEFF;
 }
 
-/// "U+200B"
-std::string codePoint(char32_t sign) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string text = "U+";
-    for (const unsigned shift : {12U, 8U, 4U, 0U}) text += digits[(sign >> shift) & 15U];
-    return text;
-}
-
 std::string describeUnknown(std::string_view text) {
     const std::optional<std::uint32_t> sign = firstCharacter(text).code;
-    return sign && isUnseen(*sign) ? "unknown token " + codePoint(*sign) : "unknown token";
+    return sign && isUnseen(*sign) ? "unknown token " + codePointName(*sign) : "unknown token";
 }
 
 bool isCurlyQuote(std::string_view text) {

@@ -9,6 +9,7 @@
 #include "platform/script/values/Characters.h"
 
 namespace script {
+
 ErrorLine::ErrorLine(std::string_view source, const Location& place) {
     const std::string_view text = lineOf(source, place.line);
     const std::size_t column = text.size() - std::min(offsetOf(text, {1, place.column}), text.size());

@@ -9,6 +9,7 @@
 #include "platform/script/source/Lexer.h"
 #include "platform/script/source/Trivia.h"
 #include "platform/script/syntax/Parser.h"
+#include "platform/script/syntax/Readable.h"
 
 namespace script {
 namespace {
@@ -253,6 +254,7 @@ class Layout {
 }  // namespace
 
 Result<std::string, ScriptError> formatted(std::string_view source) {
+    if (auto readable = checkReadable(source); !readable) return std::move(readable).error();
     const std::string_view whole = source;
     if (source.starts_with(byteOrderMark)) source.remove_prefix(byteOrderMark.size());
     // A second mark is no part of a script, which the parser sees where the first one stands.
