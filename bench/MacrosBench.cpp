@@ -80,7 +80,8 @@ class Library {
                         .hotKeys = platform.hotKeys,
                         .firstHotKey = 1000,
                         .notifications = platform.notifications,
-                        .scripting = platform.scripting}),
+                        .scripting = platform.scripting,
+                        .draftFolder = {}}),
           m_gate(platform.eventMonitor, [] {}),
           m_desk({m_controller, m_files, platform.keyboardLayout, m_gate, m_stage,
                   DraftFiles(m_home.file("state"))}) {

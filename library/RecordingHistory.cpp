@@ -22,8 +22,8 @@ void RecordingHistory::setKept(bool isKept) {
     std::vector<StoredRecording> stored = m_store.all();
     std::set<std::string> names;
     for (const StoredRecording& recording : stored) names.insert(recording.name);
-    // The earliest first, for those of the same moment.
-    for (std::size_t i = m_entries.size(); i-- > 0;) {
+    // Not those that would go at once; the earliest first, for those of the same moment.
+    for (std::size_t i = std::min(m_entries.size(), RecordingStore::most); i-- > 0;) {
         if (names.erase(m_entries[i].name) == 0) store(m_entries[i]);
     }
     for (StoredRecording& recording : stored) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string_view>
 #include <utility>
 
 /// Owns a file descriptor of the system and closes it at the end. Moved, it leaves an empty one behind.
@@ -32,3 +33,7 @@ class Descriptor {
 
     int m_number = none;
 };
+
+/// Writes all of the bytes to an open file, from where it stands. 0, or the number of the error (errno(3)),
+/// with a part of them written.
+int writeAll(int file, std::string_view bytes);

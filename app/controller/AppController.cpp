@@ -59,7 +59,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_accessDesk(services.eventMonitor, services.notifications, m_dialogs, m_overlayDesk),
       m_recordHereDesk(services.eventMonitor, services.hotKeys, m_preferencesDesk.model.stop, m_stage),
       m_macrosDesk({library, services.macroFiles, services.keyboardLayout, m_gate, m_stage,
-                    DraftFiles(DraftFiles::folderOfProcess())}),
+                    DraftFiles(library.draftFolder())}),
       m_askedPlays(m_menuDesk, m_gate, m_stage),
       statusItem(item) {
     timer.setSingleShot(true);

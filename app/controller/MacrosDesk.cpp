@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/MacrosDesk.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
@@ -60,8 +59,7 @@ QString remainder(const RecordingHistory& history) {
         return entry.macroId == current->macroId();
     };
     if (std::any_of(entries.begin(), entries.end(), isCurrent)) return {};
-    return QLatin1Char(' ') +
-           QCoreApplication::translate("MacrosDesk", "Play has the latest macro until there is another.");
+    return QLatin1Char(' ') + MacrosDesk::tr("Play has the latest macro until there is another.");
 }
 
 std::vector<MacrosWindow::Recording> recordingsOf(const RecordingHistory& history) {
@@ -354,6 +352,7 @@ void MacrosDesk::save() {
     const std::string path = m_window->chosen();
     const std::string text = m_window->editor().text();
     // Its folder may have gone with it. That it cannot be made shows when the file is written.
+    m_means.files.prepareFolder();
     std::error_code ignored;
     std::filesystem::create_directories(std::filesystem::path(m_library.fileOf(path)).parent_path(), ignored);
     const Result<> written = m_means.files.write(m_library.fileOf(path), text);

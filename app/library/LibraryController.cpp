@@ -13,7 +13,8 @@ LibraryController::LibraryController(const LibraryServices& services)
       m_hotKeys(m_library, services.hotKeys, services.firstHotKey,
                 [this](const std::string& path) { play(path); }),
       m_history(services.recordings, *this),
-      m_playRequests(m_library, services.macroFiles, services.scripting) {
+      m_playRequests(m_library, services.macroFiles, services.scripting),
+      m_draftFolder(services.draftFolder) {
     m_library.addListener(*this);
     m_hotKeys.observe(
         [this](const std::string& path) { emit hotKeyChanged(QByteArray::fromStdString(path)); });

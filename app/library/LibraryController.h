@@ -31,6 +31,8 @@ struct LibraryServices {
     HotKeyId firstHotKey = 1;
     Notifications& notifications;
     ScriptingService& scripting;
+    /// Where what is not saved of macros is kept, absolute; it need not exist.
+    std::string draftFolder;
 };
 
 /// The macros of the macro folder and their hot keys, and the history: joins the library with the engine and
@@ -47,6 +49,9 @@ class LibraryController : public QObject, private LibraryListener, private Histo
     MacroLibrary& library() { return m_library; }
     LibraryHotKeys& hotKeys() { return m_hotKeys; }
     RecordingHistory& history() { return m_history; }
+
+    /// Where what is not saved of macros is kept.
+    const std::string& draftFolder() const { return m_draftFolder; }
 
     /// What others may ask to have played.
     PlayRequests& playRequests() { return m_playRequests; }
@@ -81,4 +86,5 @@ class LibraryController : public QObject, private LibraryListener, private Histo
     LibraryHotKeys m_hotKeys;
     RecordingHistory m_history;
     PlayRequests m_playRequests;
+    std::string m_draftFolder;
 };

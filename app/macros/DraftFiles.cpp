@@ -7,7 +7,6 @@
 
 #include <QByteArray>
 #include <QCryptographicHash>
-#include <QDir>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -15,7 +14,6 @@
 #include <fstream>
 #include <iterator>
 
-#include "app/macros/WriteAll.h"
 #include "platform/Descriptor.h"
 
 namespace {
@@ -41,13 +39,6 @@ int writeForGood(int file, const std::string& bytes) {
 }
 
 }  // namespace
-
-std::string DraftFiles::folderOfProcess() {
-    const std::string state = qgetenv("XDG_STATE_HOME").toStdString();
-    const std::string root =
-        state.starts_with('/') ? state : QDir::homePath().toStdString() + "/.local/state";
-    return root + "/keyrill/unsaved";
-}
 
 std::string DraftFiles::fileOf(const std::string& path) const {
     const QByteArray hash =

@@ -13,10 +13,6 @@ class DraftFiles {
     /// `folder` is absolute and need not exist.
     explicit DraftFiles(std::string folder) : m_folder(std::move(folder)) {}
 
-    /// In the state folder of the XDG base directory standard (0.8): XDG_STATE_HOME, ignored where it is
-    /// relative, or ~/.local/state.
-    static std::string folderOfProcess();
-
     /// By the paths of the macros. What cannot be read is left out.
     std::map<std::string, std::string> all() const;
     /// `path` has no line end.

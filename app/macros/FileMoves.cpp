@@ -11,7 +11,6 @@
 #include <cstring>
 #include <filesystem>
 
-#include "app/macros/WriteAll.h"
 #include "platform/Descriptor.h"
 
 namespace {

@@ -77,7 +77,8 @@ LibraryServices Backends::libraryServices() {
             .hotKeys = m_parts->hotKeys.second(),
             .firstHotKey = HotKeyShares::firstOfSecond,
             .notifications = m_parts->neutral.notifications,
-            .scripting = m_parts->scripting};
+            .scripting = m_parts->scripting,
+            .draftFolder = m_parts->neutral.stateFolder + "/unsaved"};
 }
 
 void Backends::endPlaysWhen(std::function<bool()> isOver) { m_parts->isPlayOver = std::move(isOver); }

@@ -5,9 +5,10 @@
 #include "platform/linux/ConfigFolders.h"
 
 LinuxServices::LinuxServices(const UpdateSource& updates)
-    : settings(configFoldersOfProcess(), [this] { turnEnd.start(); }),
+    : stateFolder(userStateFolder(environmentOfProcess(), homeOfProcess()) + "/keyrill"),
+      settings(configFoldersOfProcess(), [this] { turnEnd.start(); }),
       macroRecords(configFoldersOfProcess().user, [this] { turnEnd.start(); }),
-      recordings(userStateFolder(environmentOfProcess(), homeOfProcess())),
+      recordings(stateFolder),
       loginItems(configFoldersOfProcess(), programOfProcess()),
       updateService(makeUpdateService(updates)),
       macroFiles(homeOfProcess(), userDataFolder(environmentOfProcess(), homeOfProcess())),

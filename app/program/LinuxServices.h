@@ -3,6 +3,7 @@
 
 #include <QTimer>
 #include <memory>
+#include <string>
 
 #include "platform/UpdateService.h"
 #include "platform/linux/AutostartEntry.h"
@@ -25,6 +26,8 @@ struct LinuxServices {
     LinuxServices& operator=(const LinuxServices&) = delete;
 
     QTimer turnEnd;
+    /// Of the program, in the user's.
+    const std::string stateFolder;
     KeyFileSettings settings;
     KeyFileRecords macroRecords;
     LocalRecordings recordings;

@@ -6,7 +6,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -91,11 +90,8 @@ void FileReplacement::nameAfterItsNumber() {
 }
 
 Result<> FileReplacement::write(std::string_view content, mode_t mode) {
-    while (!content.empty()) {
-        const ssize_t count = ::write(m_descriptor.number(), content.data(), content.size());
-        if (count < 0 && errno != EINTR) return systemsError();
-        content.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    }
+    if (const int error = writeAll(m_descriptor.number(), content); error != 0)
+        return Error{std::strerror(error), ""};
     if (fchmod(m_descriptor.number(), mode) != 0) return systemsError();
     if (fsync(m_descriptor.number()) != 0) return systemsError();
     return {};

@@ -7,15 +7,12 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <ctime>
 #include <filesystem>
-#include <iomanip>
-#include <locale>
 #include <optional>
-#include <sstream>
 #include <system_error>
 
 #include "platform/linux/FileReplacement.h"
+#include "platform/linux/GLibPointers.h"
 #include "platform/linux/WholeFile.h"
 
 namespace fs = std::filesystem;
@@ -24,33 +21,26 @@ namespace {
 
 constexpr std::string_view ending = "Z.keyrill";
 constexpr std::string_view comment = "-- ";
-constexpr const char* secondsFormat = "%Y%m%dT%H%M%S";
-constexpr int millisecondDigits = 3;
+constexpr std::size_t millisecondDigits = 3;
+
+using DateTime = std::unique_ptr<GDateTime, FreeBy<g_date_time_unref>>;
 
 std::string nameOf(RecordedAt time) {
     const auto seconds = std::chrono::floor<std::chrono::seconds>(time);
-    const std::time_t calendar = std::chrono::system_clock::to_time_t(seconds);
-    std::tm fields{};
-    gmtime_r(&calendar, &fields);
-    std::ostringstream name;
-    name.imbue(std::locale::classic());
-    name << std::put_time(&fields, secondsFormat) << '.' << std::setw(millisecondDigits) << std::setfill('0')
-         << (time - seconds).count() << ending;
-    return name.str();
+    const DateTime date(g_date_time_new_from_unix_utc(seconds.time_since_epoch().count()));
+    const GText second(g_date_time_format(date.get(), "%Y%m%dT%H%M%S"));
+    std::string milliseconds = std::to_string((time - seconds).count());
+    milliseconds.insert(0, millisecondDigits - milliseconds.size(), '0');
+    return second.get() + ("." + milliseconds) + std::string(ending);
 }
 
 /// Empty for a name that is none of ours.
 std::optional<RecordedAt> timeOf(const std::string& name) {
-    std::tm fields{};
-    int milliseconds = 0;
-    std::istringstream text(name);
-    text.imbue(std::locale::classic());
-    char point = 0;
-    text >> std::get_time(&fields, secondsFormat) >> point >> milliseconds;
-    if (!text || timegm(&fields) < 0) return std::nullopt;
-    const RecordedAt time = std::chrono::floor<std::chrono::milliseconds>(
-                                std::chrono::system_clock::from_time_t(timegm(&fields))) +
-                            std::chrono::milliseconds(milliseconds);
+    const std::string text = name.substr(0, name.find(".keyrill"));
+    const DateTime date(g_date_time_new_from_iso8601(text.c_str(), nullptr));
+    if (!date) return std::nullopt;
+    const RecordedAt time = std::chrono::sys_seconds(std::chrono::seconds(g_date_time_to_unix(date.get()))) +
+                            std::chrono::milliseconds((g_date_time_get_microsecond(date.get()) + 500) / 1000);
     // Only what is written just so.
     if (nameOf(time) != name) return std::nullopt;
     return time;
@@ -65,8 +55,7 @@ std::string inOneLine(std::string title) {
 
 }  // namespace
 
-LocalRecordings::LocalRecordings(const std::string& stateFolder)
-    : m_folder(stateFolder + "/keyrill/history") {}
+LocalRecordings::LocalRecordings(const std::string& stateFolder) : m_folder(stateFolder + "/history") {}
 
 std::vector<std::string> LocalRecordings::names() const {
     std::vector<std::string> names;

@@ -7,7 +7,7 @@
 
 #include "platform/RecordingStore.h"
 
-/// Recordings in the folder keyrill/history of the user's state folder, a macro file each: its name is the
+/// Recordings in the folder "history" of the program's state folder, a macro file each: its name is the
 /// time (UTC), "20261122T174012.345Z.keyrill", its first line a comment with the title. Files with other
 /// names are none of ours.
 ///
@@ -15,7 +15,7 @@
 /// something to keep.
 class LocalRecordings : public RecordingStore {
   public:
-    /// `stateFolder` is the user's (ConfigFolders.h).
+    /// `stateFolder` is absolute and need not exist.
     explicit LocalRecordings(const std::string& stateFolder);
 
     std::vector<StoredRecording> all() override;

@@ -13,6 +13,7 @@
 #include "app/tray/StatusItem.h"
 #include "engine/EngineTest.h"
 #include "platform/Windows.h"
+#include "support/Child.h"
 
 /// A status item that remembers what it shows.
 class FakeStatusItem : public StatusItem {
@@ -70,10 +71,12 @@ class FakeLibrary {
                       .hotKeys = hotKeys,
                       .firstHotKey = 1000,
                       .notifications = platform.notifications,
-                      .scripting = platform.scripting}) {}
+                      .scripting = platform.scripting,
+                      .draftFolder = m_state.file("unsaved")}) {}
 
   private:
     Journal m_journal;
+    TemporaryFolder m_state;
 
   public:
     FakeHotKeys hotKeys;

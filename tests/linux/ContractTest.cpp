@@ -109,7 +109,7 @@ class LocalRecordingsWorld : public RecordingStoreWorld {
 
   private:
     TemporaryFolder m_folder;
-    LocalRecordings m_recordings{m_folder.path()};
+    LocalRecordings m_recordings{m_folder.file("keyrill")};
 };
 
 INSTANTIATE_TEST_SUITE_P(InFiles, FolderFollowerContract,

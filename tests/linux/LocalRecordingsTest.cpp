@@ -35,7 +35,7 @@ class LocalRecordingsTest : public testing::Test {
     }
 
     TemporaryFolder m_state;
-    LocalRecordings store{m_state.path()};
+    LocalRecordings store{m_state.file("keyrill")};
 };
 
 TEST_F(LocalRecordingsTest, eachIsAMacroFileWithItsTimeAsName) {

@@ -134,7 +134,8 @@ class MacrosDeskTest : public AppTest {
                              .hotKeys = hotKeys,
                              .firstHotKey = 1000,
                              .notifications = platform().notifications,
-                             .scripting = platform().scripting}};
+                             .scripting = platform().scripting,
+                             .draftFolder = {}}};
     Gate gate{platform().eventMonitor, [] {}};
     Stage stage{windows, [this] { return std::vector<QWidget*>{desk.window()}; }};
     MacrosDesk desk{{shelf, files, platform().keyboardLayout, gate, stage, DraftFiles(m_home.file("state"))}};

@@ -27,7 +27,8 @@ class PreferencesDeskTest : public EngineTest {
                                .hotKeys = shares.second(),
                                .firstHotKey = HotKeyShares::firstOfSecond,
                                .notifications = platform().notifications,
-                               .scripting = platform().scripting}};
+                               .scripting = platform().scripting,
+                               .draftFolder = {}}};
     PreferencesDesk desk{platform().settings, platform().loginItems, shares.first(), library, dialogs, stage};
 };
 

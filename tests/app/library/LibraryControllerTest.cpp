@@ -37,7 +37,8 @@ class LibraryControllerTest : public EngineTest {
                                   .hotKeys = platform().hotKeys,
                                   .firstHotKey = 1000,
                                   .notifications = platform().notifications,
-                                  .scripting = platform().scripting}};
+                                  .scripting = platform().scripting,
+                                  .draftFolder = {}}};
 };
 
 TEST_F(LibraryControllerTest, playsAMacroOnceAllModifiersAreUp) {

@@ -3,7 +3,6 @@
 // Macro files, recordings and settings on disks that are full or read-only.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -23,13 +22,6 @@ class FullDiskTest : public testing::TestWithParam<std::tuple<unsigned long, std
     std::size_t size() const { return std::get<1>(GetParam()); }
     bool fits() const { return size() <= freePages() * pageSize(); }
 
-    std::vector<std::string> names(const std::string& folder) const {
-        std::vector<std::string> all;
-        for (const auto& entry : fs::directory_iterator(folder)) all.push_back(entry.path().filename());
-        std::sort(all.begin(), all.end());
-        return all;
-    }
-
     SmallDisk disk;
 };
 
@@ -42,7 +34,7 @@ TEST_P(FullDiskTest, aMacroFileIsWrittenWholeOrLeftAsItWas) {
     const Result<> written = files.write(disk.file("a.keyrill"), text);
     EXPECT_EQ(static_cast<bool>(written), fits());
     EXPECT_EQ(contentOf(disk.file("a.keyrill")), fits() ? text : old);
-    EXPECT_EQ(names(disk.path()), (std::vector<std::string>{"a.keyrill", "filler"}));
+    EXPECT_EQ(disk.names(), (std::vector<std::string>{"a.keyrill", "filler"}));
     if (!written) {
         EXPECT_EQ(written.error().message,
                   "The file " + disk.file("a.keyrill") + " cannot be written: No space left on device");
@@ -54,7 +46,7 @@ TEST_P(FullDiskTest, aNewMacroFileIsWrittenWholeOrNotAtAll) {
     LocalMacroFiles files(disk.path(), disk.path());
     EXPECT_EQ(static_cast<bool>(files.write(disk.file("a.keyrill"), std::string(size(), 'n'))), fits());
     EXPECT_EQ(fs::exists(disk.file("a.keyrill")), fits());
-    EXPECT_EQ(names(disk.path()).size(), fits() ? 2U : 1U);
+    EXPECT_EQ(disk.names().size(), fits() ? 2U : 1U);
 }
 
 TEST_P(FullDiskTest, aRecordingIsKeptWholeOrNotAtAll) {
@@ -62,12 +54,12 @@ TEST_P(FullDiskTest, aRecordingIsKeptWholeOrNotAtAll) {
     const std::string folder = disk.file("keyrill/history");
     fs::create_directories(folder);
     disk.fillUntil(freePages());
-    LocalRecordings recordings(disk.path());
+    LocalRecordings recordings(disk.file("keyrill"));
     const std::string comment = "-- a\n";
     const auto name = recordings.keep({.title = "a", .script = std::string(size() - comment.size(), 'n')});
     EXPECT_EQ(static_cast<bool>(name), fits());
     EXPECT_EQ(recordings.all().size(), fits() ? 1U : 0U);
-    EXPECT_EQ(names(folder).size(), fits() ? 1U : 0U);
+    EXPECT_EQ(disk.names("keyrill/history").size(), fits() ? 1U : 0U);
     if (!name) {
         EXPECT_EQ(name.error().message,
                   "The file " + folder +
@@ -91,7 +83,7 @@ TEST_P(FullDiskTest, theSettingsAreStoredWholeOrLeftAsTheyWere) {
     const auto fault = settings.takeFault();
     EXPECT_EQ(!fault, fits());
     EXPECT_EQ(contentOf(file), fits() ? old.substr(0, old.size() - 2) + "2\n" : old);
-    EXPECT_EQ(names(disk.file("keyrill")), std::vector<std::string>{"keyrill.conf"});
+    EXPECT_EQ(disk.names("keyrill"), std::vector<std::string>{"keyrill.conf"});
     if (fault) {
         EXPECT_EQ(fault->message,
                   "The settings file " + file + " cannot be written: No space left on device");
@@ -118,7 +110,7 @@ TEST(ReadOnlyDiskTest, aMacroFileIsLeftAsItWas) {
 
 TEST(ReadOnlyDiskTest, aRecordingThatCannotBeForgottenIsToldAndStays) {
     const SmallDisk disk;
-    LocalRecordings recordings(disk.path());
+    LocalRecordings recordings(disk.file("keyrill"));
     const auto name = recordings.keep({.title = "a", .script = "beep"});
     ASSERT_TRUE(name);
     disk.makeReadOnly();
@@ -132,7 +124,7 @@ TEST(ReadOnlyDiskTest, aRecordingThatCannotBeForgottenIsToldAndStays) {
 TEST(ReadOnlyDiskTest, aRecordingIsNotKeptWhereNoFolderCanBeMade) {
     const SmallDisk disk;
     disk.makeReadOnly();
-    const auto name = LocalRecordings(disk.path()).keep({.title = "a", .script = "beep"});
+    const auto name = LocalRecordings(disk.file("keyrill")).keep({.title = "a", .script = "beep"});
     ASSERT_FALSE(name);
     EXPECT_EQ(name.error().message,
               "The folder " + disk.file("keyrill/history") + " cannot be made: Read-only file system");

@@ -6,8 +6,10 @@
 #include <sys/statvfs.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
@@ -46,6 +48,14 @@ SmallDisk::SmallDisk() {
 }
 
 SmallDisk::~SmallDisk() { umount2(path().c_str(), MNT_DETACH); }
+
+std::vector<std::string> SmallDisk::names(const std::string& folder) const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(file(folder)))
+        names.push_back(entry.path().filename());
+    std::sort(names.begin(), names.end());
+    return names;
+}
 
 void SmallDisk::fillUntil(unsigned long freePages) const {
     struct statvfs status {};

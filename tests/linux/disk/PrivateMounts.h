@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "support/Child.h"
 
@@ -20,6 +21,8 @@ class SmallDisk {
 
     std::string file(const std::string& name) const { return m_folder.file(name); }
     const std::string& path() const { return m_folder.path(); }
+    /// What lies in one of its folders, in order.
+    std::vector<std::string> names(const std::string& folder = ".") const;
 
     /// Fills the disk until that many pages are free.
     void fillUntil(unsigned long freePages) const;
