@@ -177,8 +177,6 @@ int traceScript(const ScriptInput& input) {
 int formatScript(const ScriptInput& input) {
     const std::optional<Source> source = sourceOf(input);
     if (!source) return failed;
-    // What is longer than a script may be is refused at once.
-    if (source->text.size() > script::maxSourceSize && !compiled(*source)) return failed;
     const auto text = script::formatted(source->text);
     if (!text) {
         Report(source->name, source->text).syntaxError(text.error());

@@ -9,37 +9,14 @@
 #include <array>
 #include <cerrno>
 
+#include "cli/TerminalMode.h"
 #include "cli/TerminalText.h"
 
 QuestionTerminal::QuestionTerminal() : m_terminal(open("/dev/tty", O_RDWR | O_CLOEXEC | O_NOCTTY)) {}
 
-QuestionTerminal::~QuestionTerminal() { showTyping(true); }
-
 void QuestionTerminal::write(std::string_view text) const {
-    const std::string harmless = harmlessText(text);
-    std::string_view rest = harmless;
-    while (!rest.empty()) {
-        const ssize_t count = ::write(m_terminal.number(), rest.data(), rest.size());
-        // A terminal that is gone has nobody in front of it.
-        if (count < 0 && errno != EINTR) return;
-        rest.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    }
-}
-
-void QuestionTerminal::showTyping(bool isShown) {
-    if (isShown) {
-        if (m_former) tcsetattr(m_terminal.number(), TCSANOW, &*m_former);
-        m_former.reset();
-        return;
-    }
-    termios settings{};
-    if (tcgetattr(m_terminal.number(), &settings) != 0) return;
-    m_former = settings;
-    settings.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-    // Nobody catches what they send, and the terminal would stay so.
-    settings.c_cc[VQUIT] = _POSIX_VDISABLE;
-    settings.c_cc[VSUSP] = _POSIX_VDISABLE;
-    tcsetattr(m_terminal.number(), TCSANOW, &settings);
+    // A terminal that is gone has nobody in front of it.
+    [[maybe_unused]] const int error = writeAll(m_terminal.number(), harmlessText(text));
 }
 
 bool QuestionTerminal::read() {
@@ -49,21 +26,20 @@ bool QuestionTerminal::read() {
     return count > 0 || (count < 0 && errno == EINTR);
 }
 
-QuestionTerminal::Came QuestionTerminal::takeLine(std::string& line, const std::function<bool()>& isStopped,
-                                                  std::optional<Time> deadline) {
+QuestionTerminal::Came QuestionTerminal::takeLine(std::string& line, const Patience& patience) {
     using std::chrono::milliseconds;
     constexpr milliseconds longest{100};
     std::size_t end = std::string::npos;
     while ((end = m_typed.find('\n')) == std::string::npos) {
-        if (isStopped()) return Came::stop;
-        milliseconds patience = longest;
-        if (deadline) {
-            const auto rest = *deadline - std::chrono::steady_clock::now();
+        if (patience.isStopped()) return Came::stop;
+        milliseconds wait = longest;
+        if (patience.deadline) {
+            const auto rest = *patience.deadline - std::chrono::steady_clock::now();
             if (rest <= rest.zero()) return Came::deadline;
-            patience = std::min(patience, std::chrono::ceil<milliseconds>(rest));
+            wait = std::min(wait, std::chrono::ceil<milliseconds>(rest));
         }
         pollfd waited{m_terminal.number(), POLLIN, 0};
-        if (poll(&waited, 1, static_cast<int>(patience.count())) < 1 || read()) continue;
+        if (poll(&waited, 1, static_cast<int>(wait.count())) < 1 || read()) continue;
         if (m_typed.empty()) return Came::endOfInput;
         // It ends what was typed, as a line end would.
         m_typed += '\n';
@@ -74,12 +50,16 @@ QuestionTerminal::Came QuestionTerminal::takeLine(std::string& line, const std::
 }
 
 QuestionTerminal::Came QuestionTerminal::takeHiddenLine(std::string_view prompt, std::string& line,
-                                                        const std::function<bool()>& isStopped,
-                                                        std::optional<Time> deadline) {
-    showTyping(false);
+                                                        const Patience& patience) {
+    const auto hide = [](termios& settings) {
+        settings.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+        // Nobody catches what they send, and the terminal would stay so.
+        settings.c_cc[VQUIT] = _POSIX_VDISABLE;
+        settings.c_cc[VSUSP] = _POSIX_VDISABLE;
+    };
+    const TerminalMode hidden(m_terminal.number(), hide, TCSANOW);
     write(prompt);
-    const Came came = takeLine(line, isStopped, deadline);
-    showTyping(true);
+    const Came came = takeLine(line, patience);
     // The line end was not shown either.
     write("\n");
     return came;

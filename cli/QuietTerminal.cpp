@@ -5,19 +5,13 @@
 #include <unistd.h>
 
 QuietTerminal::QuietTerminal() {
-    termios settings{};
-    if (tcgetpgrp(STDIN_FILENO) != getpgrp() || tcgetattr(STDIN_FILENO, &settings) != 0) return;
-    m_former = settings;
-    settings.c_lflag &= ~static_cast<tcflag_t>(ECHO | ICANON);
-    tcsetattr(STDIN_FILENO, TCSANOW, &settings);
-}
-
-QuietTerminal::~QuietTerminal() {
-    if (m_former) tcsetattr(STDIN_FILENO, TCSAFLUSH, &*m_former);
+    if (tcgetpgrp(STDIN_FILENO) != getpgrp()) return;
+    const auto quieten = [](termios& settings) { settings.c_lflag &= ~static_cast<tcflag_t>(ECHO | ICANON); };
+    m_mode.emplace(STDIN_FILENO, quieten, TCSAFLUSH);
 }
 
 void QuietTerminal::awaitKey() const {
     constexpr int longest = 200;
     pollfd waited{STDIN_FILENO, POLLIN, 0};
-    if (m_former) poll(&waited, 1, longest);
+    if (m_mode && *m_mode) poll(&waited, 1, longest);
 }

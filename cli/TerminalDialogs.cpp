@@ -54,12 +54,14 @@ std::optional<std::vector<std::size_t>> choicesOf(const ScriptDialog& dialog, co
 class TerminalDialogs::Question {
   public:
     Question(const ScriptDialog& dialog, QuestionTerminal& terminal, KeyInjector& injector)
-        : m_dialog(dialog), m_terminal(terminal), m_injector(injector) {
+        : m_dialog(dialog),
+          m_terminal(terminal),
+          m_patience({.isStopped = [&injector] { return injector.isCancelled(); }}) {
         constexpr double longest = 1e9;
         if (dialog.givingUpAfter <= 0) return;
-        const std::chrono::duration<double> patience(std::min(dialog.givingUpAfter, longest));
-        m_deadline = std::chrono::steady_clock::now() +
-                     std::chrono::duration_cast<std::chrono::steady_clock::duration>(patience);
+        const std::chrono::duration<double> seconds(std::min(dialog.givingUpAfter, longest));
+        m_patience.deadline = std::chrono::steady_clock::now() +
+                              std::chrono::duration_cast<std::chrono::steady_clock::duration>(seconds);
     }
 
     /// Empty if nobody is going to answer.
@@ -85,11 +87,8 @@ class TerminalDialogs::Question {
         }
     }
 
-    bool isStopped() const { return m_injector.isCancelled(); }
-
     bool take(std::string& line) {
-        m_came = m_terminal.takeLine(
-            line, [this] { return isStopped(); }, m_deadline);
+        m_came = m_terminal.takeLine(line, m_patience);
         return m_came == Came::line;
     }
 
@@ -97,8 +96,7 @@ class TerminalDialogs::Question {
         m_answer.text = *m_dialog.defaultAnswer;
         std::string line;
         if (m_dialog.hidesAnswer) {
-            m_came = m_terminal.takeHiddenLine(
-                "[] ", line, [this] { return isStopped(); }, m_deadline);
+            m_came = m_terminal.takeHiddenLine("[] ", line, m_patience);
         } else {
             m_terminal.write("[" + m_answer.text + "] ");
             take(line);
@@ -138,8 +136,7 @@ class TerminalDialogs::Question {
 
     const ScriptDialog& m_dialog;
     QuestionTerminal& m_terminal;
-    KeyInjector& m_injector;
-    std::optional<QuestionTerminal::Time> m_deadline;
+    QuestionTerminal::Patience m_patience;
     ScriptAnswer m_answer;
     Came m_came = Came::line;
 };

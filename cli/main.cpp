@@ -63,7 +63,8 @@ int perform(const std::vector<std::string_view>& arguments) {
         }
         if (input.value()) return command->perform(*input.value());
     }
-    if (command == commands.end() && !first.empty() && first.front() != '-' && first != "keys") {
+    const bool isCommand = command != commands.end() || first == "keys" || first == "reference";
+    if (!isCommand && !first.empty() && first.front() != '-') {
         reportError("", Error{"There is no command “" + std::string(first) + "”.", ""});
     }
     std::cerr << usage;

@@ -243,7 +243,7 @@ TEST_F(ToolTest, keysPrintsTheTable) {
 }
 
 TEST_F(ToolTest, anUnknownCommandShowsTheUsage) {
-    for (const char* arguments : {"", "check", "check a b", "keys a"}) {
+    for (const char* arguments : {"", "check", "check a b", "keys a", "reference a"}) {
         const Outcome outcome = run(arguments);
         EXPECT_EQ(outcome.status, 1) << arguments;
         EXPECT_EQ(outcome.errors.rfind(usage, 0), 0U) << arguments;
