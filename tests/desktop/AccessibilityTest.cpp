@@ -2,9 +2,10 @@
 #include <filesystem>
 #include <set>
 #include <sstream>
+#include <utility>
 
+#include "desktop/Assistant.h"
 #include "desktop/DesktopTest.h"
-#include "support/Programs.h"
 
 namespace {
 
@@ -21,8 +22,7 @@ struct ToldObject {
 class AccessibilityTest : public testing::Test {
   protected:
     AccessibilityTest() {
-        desktop.startBus().letIn("org.a11y.Bus");
-        desktop.setEnvironment("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+        letAssistantsIn(desktop);
         desktop.startWindowManager();
         desktop.writeSettings("");
         keyrill.emplace(desktop, "tell application \"System Events\" to key code 0\n");
@@ -30,8 +30,7 @@ class AccessibilityTest : public testing::Test {
     }
 
     std::vector<std::string> command(std::vector<std::string> words) {
-        words.insert(words.begin(), {programs::assistant, std::to_string(keyrill->child().pid())});
-        return words;
+        return assistantCall(keyrill->child(), std::move(words));
     }
     void press(const std::string& name) {
         EXPECT_TRUE(desktop.succeeds(command({"press", name}))) << "nothing called " << name << " among\n"

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "desktop/Assistant.h"
 #include "desktop/DesktopTest.h"
 #include "support/Programs.h"
 
@@ -12,17 +13,14 @@ namespace {
 /// A macro that cannot do what it says, where nobody shows notifications. The control window stands in for
 /// the status item.
 TEST_F(DesktopTest, aBrokenMacroIsToldAtTheStatusItemWhereNobodyShowsNotifications) {
-    desktop.startBus().letIn("org.a11y.Bus");
-    desktop.setEnvironment("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+    letAssistantsIn(desktop);
     const Terminal terminal{desktop.display()};
     const std::string file = desktop.file("broken.keyrill");
     std::ofstream(file) << "get 1 / 0\n";
     const Child keyrill({programs::keyrill, file}, desktop.options("product.log"));
     ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     const std::string fault = "The macro was not played to its end. Line 1: Can’t divide 1 by zero.";
-    const auto shown = [&] {
-        return desktop.run({programs::assistant, std::to_string(keyrill.pid()), "list"});
-    };
+    const auto shown = [&] { return desktop.run(assistantCall(keyrill, {"list"})); };
     EXPECT_EQ(shown().find(fault), std::string::npos);
     press("ctrl+super+p");
     EXPECT_TRUE(eventually([&] { return shown().find(fault) != std::string::npos; })) << shown();

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
 // The window of the macros over a macro folder on a disk that is full, or read-only.
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <optional>
 #include <vector>
 
+#include "desktop/Assistant.h"
 #include "desktop/DesktopTest.h"
 #include "linux/disk/PrivateMounts.h"
 #include "support/Programs.h"
@@ -20,8 +20,7 @@ constexpr const char* macros = "Macros";
 class DiskMacrosTest : public DesktopTest {
   protected:
     DiskMacrosTest() {
-        desktop.startBus().letIn("org.a11y.Bus");
-        desktop.setEnvironment("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+        letAssistantsIn(desktop);
         const std::string data = desktop.home() + "/.local/share";
         fs::create_directories(data);
         fs::create_directory_symlink(disk.path(), data + "/keyrill");
@@ -36,7 +35,7 @@ class DiskMacrosTest : public DesktopTest {
     std::string file(const std::string& name) const { return disk.file(name + ".keyrill"); }
     /// What assistive technology answers.
     std::string assistant(const std::string& command) {
-        return desktop.run({programs::assistant, std::to_string(keyrill->child().pid()), command});
+        return desktop.run(assistantCall(keyrill->child(), {command}));
     }
     /// Whether it finds that in the window.
     bool shows(const std::string& text) {
@@ -48,13 +47,6 @@ class DiskMacrosTest : public DesktopTest {
         press("ctrl+Home");
         desktop.run({"xdotool", "type", "--", "-- new"});
         press("Return");
-    }
-    std::vector<std::string> names() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(disk.path()))
-            names.push_back(entry.path().filename());
-        std::sort(names.begin(), names.end());
-        return names;
     }
 
     const std::string script = "tell application \"System Events\"\n\tkeystroke \"a\"\nend tell\n";
@@ -69,7 +61,7 @@ TEST_F(DiskMacrosTest, whatDoesNotFitIsToldAndSavedOnceThereIsRoom) {
     press("ctrl+s");
     EXPECT_TRUE(shows("cannot be written: No space left on device"));
     EXPECT_EQ(contentOf(file("Greeting")), script);
-    EXPECT_EQ(names(), (std::vector<std::string>{"Greeting.keyrill", "filler"}));
+    EXPECT_EQ(disk.names(), (std::vector<std::string>{"Greeting.keyrill", "filler"}));
     fs::remove(disk.file("filler"));
     press("ctrl+s");
     EXPECT_TRUE(eventually([&] { return contentOf(file("Greeting")) == "-- new\n" + script; }))
@@ -89,7 +81,7 @@ TEST_F(DiskMacrosTest, whatCannotBeChangedIsToldAndStays) {
     desktop.run({"xdotool", "type", "Other"});
     press("Return");
     EXPECT_TRUE(shows("cannot be renamed: Read-only file system"));
-    EXPECT_EQ(names(), std::vector<std::string>{"Greeting.keyrill"});
+    EXPECT_EQ(disk.names(), std::vector<std::string>{"Greeting.keyrill"});
     EXPECT_EQ(contentOf(file("Greeting")), script);
     // It can be played all the same.
     press("alt+p");

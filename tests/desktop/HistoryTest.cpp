@@ -8,10 +8,10 @@
 #include <filesystem>
 #include <vector>
 
+#include "desktop/Assistant.h"
 #include "desktop/DesktopTest.h"
 #include "desktop/StatusMenuClicks.h"
 #include "display/Typist.h"
-#include "support/Programs.h"
 
 namespace {
 
@@ -170,10 +170,7 @@ TEST_F(HistoryTest, nothingIsLeftWhenAllAreForgotten) {
 /// The preference, by the keyboard.
 class KeepHistoryTest : public HistoryTest {
   protected:
-    KeepHistoryTest() {
-        desktop.startBus().letIn("org.a11y.Bus");
-        desktop.setEnvironment("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
-    }
+    KeepHistoryTest() { letAssistantsIn(desktop); }
     /// Until it is.
     void toggle(const std::string& state) {
         menu->open();
@@ -181,8 +178,7 @@ class KeepHistoryTest : public HistoryTest {
         menu->chooseByKeys(0, {"Up", "Up", "Up", "Return"});
         giveFocus(title::preferences);
         press("alt+h");
-        desktop.run({programs::assistant, std::to_string(keyrill->child().pid()), "await",
-                     "Keep the history for the next start", state});
+        desktop.run(assistantCall(keyrill->child(), {"await", "Keep the history for the next start", state}));
         close(title::preferences);
     }
 };

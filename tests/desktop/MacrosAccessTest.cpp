@@ -4,10 +4,11 @@
 #include <optional>
 #include <set>
 #include <sstream>
+#include <utility>
 
+#include "desktop/Assistant.h"
 #include "desktop/DesktopTest.h"
 #include "desktop/SavedMacro.h"
-#include "support/Programs.h"
 
 namespace {
 
@@ -19,8 +20,7 @@ constexpr const char* search = "text|Search macros";
 class MacrosAccessTest : public DesktopTest {
   protected:
     MacrosAccessTest() {
-        desktop.startBus().letIn("org.a11y.Bus");
-        desktop.setEnvironment("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+        letAssistantsIn(desktop);
         std::filesystem::create_directories(folder);
         std::ofstream(file("Greeting")) << recordedAbc;
         keyrill.emplace(desktop);
@@ -30,8 +30,7 @@ class MacrosAccessTest : public DesktopTest {
     }
     std::string file(const std::string& name) const { return folder + "/" + name + ".keyrill"; }
     std::string run(std::vector<std::string> words) {
-        words.insert(words.begin(), {programs::assistant, std::to_string(keyrill->child().pid())});
-        return desktop.run(words);
+        return desktop.run(assistantCall(keyrill->child(), std::move(words)));
     }
     /// "push button|Save": what has the focus.
     std::string focused() {
