@@ -132,7 +132,7 @@ void MacrosDesk::connectWindow() {
     connect(window, &MacrosWindow::duplicateWanted, this, &MacrosDesk::duplicate);
     connect(window, &MacrosWindow::renameWanted, this, &MacrosDesk::rename);
     connect(window, &MacrosWindow::deleteWanted, this, &MacrosDesk::remove);
-    connect(window, &MacrosWindow::actionWanted, this, &MacrosDesk::restore);
+    connect(window, &MacrosWindow::undoWanted, this, &MacrosDesk::restore);
     connect(window, &MacrosWindow::keepWanted, this, &MacrosDesk::keep);
     connect(&window->settings(), &MacroSettingsRow::hotKeyWanted, this, &MacrosDesk::setHotKey);
     connect(&window->settings(), &MacroSettingsRow::playWanted, this, &MacrosDesk::setPlay);
@@ -425,6 +425,8 @@ void MacrosDesk::rename(const std::string& path, const QString& name) {
     if (!wanted) return m_window->warn(shown(wanted.error()));
     const Result<> renamed = FileMoves::rename(file, wanted.value());
     if (!renamed) return m_window->warn(shown(renamed.error()));
+    // Of a name before that was refused.
+    m_window->tell({});
     // Before the library tells so, for what is typed meanwhile.
     followRenames({{path, pathOf(wanted.value())}});
 }

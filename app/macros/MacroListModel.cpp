@@ -2,6 +2,8 @@
 #include "app/macros/MacroListModel.h"
 
 #include <QFont>
+#include <QGuiApplication>
+#include <QPalette>
 
 namespace {
 
@@ -97,6 +99,8 @@ QVariant MacroListModel::data(const QModelIndex& index, int role) const {
     if (m_rows[row].isGroup) {
         if (role == Qt::DisplayRole) return item.group;
         if (role == Qt::AccessibleTextRole) return tr("Group %1").arg(item.group);
+        // It cannot be chosen, but is there to be read.
+        if (role == Qt::ForegroundRole) return QGuiApplication::palette().text();
         if (role != Qt::FontRole) return {};
         QFont font;
         font.setBold(true);

@@ -11,6 +11,7 @@
 
 #include "app/shortcuts/SRRecorderControl.h"
 #include "app/widgets/NoticeLine.h"
+#include "app/widgets/WrappingRow.h"
 
 namespace {
 
@@ -26,44 +27,46 @@ QLabel* makeLabel(const QString& text, QWidget* field) {
 }  // namespace
 
 MacroSettingsRow::MacroSettingsRow(QWidget* parent) : QWidget(parent), m_notice(new NoticeLine) {
-    auto* row = new QHBoxLayout;
-    addHotKey(*row);
-    row->addStretch();
-    addTimes(*row);
-    row->addStretch();
-    addSpeed(*row);
+    auto* row = new WrappingRow;
+    row->addLayout(makeHotKey());
+    row->addLayout(makeTimes());
+    row->addLayout(makeSpeed());
     auto* box = new QVBoxLayout(this);
     box->setContentsMargins(0, 0, 0, 0);
     box->addLayout(row);
     box->addWidget(m_notice);
 }
 
-void MacroSettingsRow::addHotKey(QHBoxLayout& row) {
+QLayout* MacroSettingsRow::makeHotKey() {
     auto* field = new SRRecorderControl(m_hotKey, tr("Hot key"), this);
-    row.addWidget(makeLabel(tr("&Hot key:"), field));
-    row.addWidget(field);
+    auto* row = new QHBoxLayout;
+    row->addWidget(makeLabel(tr("&Hot key:"), field));
+    row->addWidget(field);
     connect(&m_hotKey, &ShortcutModel::keyComboDidChange, this,
             [this] { emit hotKeyWanted(m_hotKey.keyCombo()); });
     connect(field, &SRRecorderControl::recordingChanged, this,
             [this, field] { emit recordingChanged(field->isRecording()); });
+    return row;
 }
 
-void MacroSettingsRow::addTimes(QHBoxLayout& row) {
+QLayout* MacroSettingsRow::makeTimes() {
     m_times = new QSpinBox;
     m_times->setRange(1, mostTimes);
     m_times->setAccessibleName(tr("Times"));
     m_untilStopped = new QCheckBox(tr("Unt&il stopped"));
-    row.addWidget(makeLabel(tr("&Times:"), m_times));
-    row.addWidget(m_times);
-    row.addWidget(m_untilStopped);
+    auto* row = new QHBoxLayout;
+    row->addWidget(makeLabel(tr("&Times:"), m_times));
+    row->addWidget(m_times);
+    row->addWidget(m_untilStopped);
     connect(m_times, &QSpinBox::valueChanged, this, &MacroSettingsRow::tellTimes);
     connect(m_untilStopped, &QCheckBox::toggled, this, [this](bool isOn) {
         m_times->setEnabled(!isOn);
         tellTimes();
     });
+    return row;
 }
 
-void MacroSettingsRow::addSpeed(QHBoxLayout& row) {
+QLayout* MacroSettingsRow::makeSpeed() {
     m_speed = new QDoubleSpinBox;
     m_speed->setRange(playspeed::slowest, playspeed::fastest);
     m_speed->setSingleStep(speedStep);
@@ -71,9 +74,11 @@ void MacroSettingsRow::addSpeed(QHBoxLayout& row) {
     m_speed->setSuffix(tr(" ×", "behind a number: so many times as fast"));
     m_speed->setToolTip(tr("The pauses of the macro are divided by this"));
     m_speed->setAccessibleName(tr("Speed"));
-    row.addWidget(makeLabel(tr("Sp&eed:"), m_speed));
-    row.addWidget(m_speed);
+    auto* row = new QHBoxLayout;
+    row->addWidget(makeLabel(tr("Sp&eed:"), m_speed));
+    row->addWidget(m_speed);
     connect(m_speed, &QDoubleSpinBox::valueChanged, this, &MacroSettingsRow::tellSpeed);
+    return row;
 }
 
 void MacroSettingsRow::showSettings(KeyCombo hotKey, const PlayOptions& play) {

@@ -9,7 +9,7 @@
 class NoticeLine;
 class QCheckBox;
 class QDoubleSpinBox;
-class QHBoxLayout;
+class QLayout;
 class QSpinBox;
 
 /// What belongs to a macro and not into its text: its hot key, and how often and how fast that plays it. What
@@ -33,9 +33,9 @@ class MacroSettingsRow : public QWidget {
     void recordingChanged(bool isRecording);
 
   private:
-    void addHotKey(QHBoxLayout& row);
-    void addTimes(QHBoxLayout& row);
-    void addSpeed(QHBoxLayout& row);
+    QLayout* makeHotKey();
+    QLayout* makeTimes();
+    QLayout* makeSpeed();
     void tellTimes();
     void tellSpeed();
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/macros/MacrosWindow.h"
 
-#include <QApplication>
-#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
@@ -12,6 +10,7 @@
 #include <QLocale>
 #include <QMenu>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <chrono>
@@ -19,14 +18,18 @@
 #include "app/macros/MacroEditor.h"
 #include "app/macros/MacroListModel.h"
 #include "app/macros/MacroSettingsRow.h"
-#include "app/widgets/MacroSigns.h"
+#include "app/widgets/MenuTitle.h"
 #include "app/widgets/NoticeLine.h"
 #include "app/widgets/PanelText.h"
+#include "app/widgets/ScrollingMenu.h"
+#include "app/widgets/WrappingRow.h"
 
 namespace {
 
 constexpr int secondsOfCount = 3;
 constexpr QSize firstSize{960, 600};
+/// There is a frame around a window, and something beside it.
+constexpr double mostOfScreen = 0.9;
 constexpr int listWidth = 240;
 
 QPushButton* makeButton(const QString& title, const QString& hint) {
@@ -39,8 +42,7 @@ QPushButton* makeButton(const QString& title, const QString& hint) {
 
 /// The time stands where other lines of a menu have their shortcut.
 QString lineOf(const MacrosWindow::Recording& recording) {
-    QString title = withSignsThatShow(recording.title, QFontMetrics(QApplication::font("QMenu")));
-    return title.replace(u'&', QStringLiteral("&&")) + u'\t' +
+    return macroMenuTitle(recording.title) + u'\t' +
            QLocale().toString(recording.recordedAt, QLocale::ShortFormat);
 }
 
@@ -58,7 +60,7 @@ MacrosWindow::MacrosWindow(const KeyboardLayout& layout)
     auto* box = new QVBoxLayout(this);
     box->addWidget(sides, 1);
     box->addWidget(makeCount());
-    resize(firstSize);
+    resize(firstSize.boundedTo(screen()->availableSize() * mostOfScreen));
     makeShortcuts();
     connect(m_model, &MacroListModel::renameWanted, this, &MacrosWindow::renameWanted);
     connect(m_model, &QAbstractItemModel::modelReset, this, &MacrosWindow::restoreSelection);
@@ -121,10 +123,10 @@ QPushButton* MacrosWindow::makeKeepButton() {
     m_keep =
         makeButton(tr("Keep Recordin&g..."), tr("Keep a recording of the history as a macro, by a name"));
     m_keep->setEnabled(false);
-    m_keepMenu = new QMenu(m_keep);
+    m_keepMenu = new ScrollingMenu({}, m_keep);
     m_keepMenu->setToolTipsVisible(true);
     m_keep->setMenu(m_keepMenu);
-    m_forgetMenu = new QMenu(tr("&Forget"), m_keepMenu);
+    m_forgetMenu = new ScrollingMenu(tr("&Forget"), m_keepMenu);
     connect(m_keepMenu, &QMenu::aboutToShow, this, &MacrosWindow::fillKeepMenu);
     return m_keep;
 }
@@ -162,7 +164,7 @@ QWidget* MacrosWindow::makeEditor() {
     m_told->hide();
     m_action = makeButton({}, {});
     m_action->hide();
-    connect(m_action, &QPushButton::clicked, this, &MacrosWindow::actionWanted);
+    connect(m_action, &QPushButton::clicked, this, &MacrosWindow::undoWanted);
     auto* told = new QHBoxLayout;
     told->addWidget(m_warning, 1);
     told->addWidget(m_told, 1);
@@ -191,13 +193,19 @@ QLayout* MacrosWindow::makeButtons() {
     connect(m_save, &QPushButton::clicked, this, &MacrosWindow::saveWanted);
     connect(m_duplicate, &QPushButton::clicked, this, [this] { emit duplicateWanted(m_chosen); });
     connect(m_rename, &QPushButton::clicked, this, [this] { beginRename(m_chosen); });
-    connect(m_delete, &QPushButton::clicked, this, [this] { emit deleteWanted(m_chosen); });
+    connect(m_delete, &QPushButton::clicked, this, [this] {
+        // The button is none for a moment; who deletes one is among the others.
+        m_list->setFocus();
+        emit deleteWanted(m_chosen);
+    });
 
-    auto* buttons = new QHBoxLayout;
-    for (QPushButton* button : {m_duplicate, m_rename, m_delete}) buttons->addWidget(button);
-    buttons->addStretch();
-    buttons->addWidget(m_save);
-    buttons->addWidget(m_play);
+    auto* file = new QHBoxLayout;
+    for (QPushButton* button : {m_duplicate, m_rename, m_delete}) file->addWidget(button);
+    auto* text = new QHBoxLayout;
+    for (QPushButton* button : {m_save, m_play}) text->addWidget(button);
+    auto* buttons = new WrappingRow;
+    buttons->addLayout(file);
+    buttons->addLayout(text);
     return buttons;
 }
 
@@ -354,6 +362,10 @@ void MacrosWindow::endCount() {
 
 /// Escape closes no window in which there is something to lose; who looks for a macro begins anew with it.
 void MacrosWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Undo)) {
+        emit undoWanted();
+        return;
+    }
     if (!event->matches(QKeySequence::Cancel)) return Panel::keyPressEvent(event);
     if (isCounting()) {
         endCount();

@@ -99,8 +99,8 @@ class MacrosWindow : public Panel {
     void duplicateWanted(const std::string& path);
     void renameWanted(const std::string& path, const QString& name);
     void deleteWanted(const std::string& path);
-    /// The button of what was told.
-    void actionWanted();
+    /// What was told is to be taken back: by its button, or by Ctrl+Z where nobody is writing.
+    void undoWanted();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -4,7 +4,8 @@
 #include <QCoreApplication>
 
 #include "app/tray/MenuState.h"
-#include "app/tray/ScrollingMenu.h"
+#include "app/widgets/MenuTitle.h"
+#include "app/widgets/ScrollingMenu.h"
 
 namespace {
 
@@ -22,8 +23,6 @@ QAction* addRow(QMenu& menu, const MenuRow& row) {
 }
 
 }  // namespace
-
-QString menuTitle(QString text) { return text.replace(u'&', QStringLiteral("&&")); }
 
 StatusMenu::StatusMenu() : m_items(makeItems()) { setWindowTitle(tr("Keyrill menu")); }
 

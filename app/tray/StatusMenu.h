@@ -8,9 +8,6 @@
 
 struct MenuState;
 
-/// The text as a menu's title: a single "&" would mark a mnemonic, so each is doubled.
-QString menuTitle(QString text);
-
 /// The status item's menu: menuRows on the screen. The controller connects the items; what they look like
 /// comes from a MenuState. Until the first one, everything is shown.
 class StatusMenu : public QMenu {

@@ -45,6 +45,17 @@ class LineReader {
         return true;
     }
 
+    /// Comments and empty lines.
+    void passRemarks() {
+        for (;;) {
+            const std::string_view line = m_rest.substr(0, m_rest.find('\n'));
+            const std::string_view words = line.substr(std::min(line.find_first_not_of(" \t"), line.size()));
+            const bool isRemark = words.empty() || words.starts_with("--");
+            if (!isRemark || line.size() == m_rest.size()) return;
+            m_rest.remove_prefix(line.size() + 1);
+        }
+    }
+
     /// key = "\tkey code (" code ") using {" [ modifier { ", " modifier } ] "}\n" short-delay
     /// pause = "\tdelay " number "\n" short-delay
     /// text = "\tkeystroke " expression "\n" short-delay
@@ -161,14 +172,22 @@ std::optional<RecordedScript> RecordedScript::parse(std::string script) {
     RecordedScript recorded(std::move(script));
     const std::string_view whole = recorded.m_script;
     LineReader reader(whole);
+    const auto offset = [&] { return whole.size() - reader.rest().size(); };
+    reader.passRemarks();
     if (!reader.accept(firstLine)) return std::nullopt;
-    while (reader.rest() != lastLine) {
-        const std::size_t begin = whole.size() - reader.rest().size();
+    for (;;) {
+        recorded.m_end = offset();
+        reader.passRemarks();
+        if (reader.accept(lastLine)) break;
+        const std::size_t begin = offset();
         std::optional<Line> line = reader.line();
         if (!line) return std::nullopt;
         line->begin = begin;
+        line->remarks = begin - recorded.m_end;
         recorded.m_lines.push_back(*line);
     }
+    reader.passRemarks();
+    if (!reader.rest().empty()) return std::nullopt;
     return recorded;
 }
 
@@ -198,7 +217,9 @@ Splice RecordedScript::moved(std::size_t first, std::size_t count, std::size_t b
 }
 
 Splice RecordedScript::repeated(std::size_t first, std::size_t count, std::size_t times) const {
-    const std::string_view lines = bytesOf(first, count);
+    std::string lines;
+    for (std::size_t index = first; index < first + count; ++index)
+        lines.append(m_script, m_lines[index].begin, m_lines[index].size);
     std::string inserted;
     inserted.reserve(lines.size() * (times - 1));
     for (std::size_t time = 1; time < times; ++time) inserted += lines;
@@ -206,16 +227,22 @@ Splice RecordedScript::repeated(std::size_t first, std::size_t count, std::size_
 }
 
 Splice RecordedScript::replaced(std::size_t first, std::size_t count, std::string lines) const {
-    return {beginOf(first), bytesOf(first, count).size(), std::move(lines)};
+    std::string remarks;
+    for (std::size_t index = first; index < first + count; ++index) remarks += remarksOf(m_lines[index]);
+    return {beginOf(first), bytesOf(first, count).size(), remarks + lines};
 }
 
 std::size_t RecordedScript::beginOf(std::size_t line) const {
-    return line < m_lines.size() ? m_lines[line].begin : m_script.size() - lastLine.size();
+    return line < m_lines.size() ? m_lines[line].begin - m_lines[line].remarks : m_end;
 }
 
 std::string_view RecordedScript::bytesOf(std::size_t first, std::size_t count) const {
     const std::size_t begin = beginOf(first);
     return std::string_view(m_script).substr(begin, beginOf(first + count) - begin);
+}
+
+std::string_view RecordedScript::remarksOf(const Line& line) const {
+    return std::string_view(m_script).substr(line.begin - line.remarks, line.remarks);
 }
 
 std::string keyLines(std::uint32_t keyCode, std::uint32_t modifiers) {

@@ -43,15 +43,17 @@ struct Line {
     /// Where both lines stand in the script, in bytes.
     std::size_t begin = 0;
     std::size_t size = 0;
+    /// The bytes before `begin` that are comments and empty lines.
+    std::size_t remarks = 0;
 };
 
 /// A script of the shape that recordings have: nothing but key presses, held modifiers, pauses and typed
-/// texts one below the other, each as it is written when it is recorded or edited. It can be edited step by
-/// step.
+/// texts one below the other, each as it is written when it is recorded or edited. Lines of comment ("--")
+/// and empty ones may stand anywhere between them. It can be edited step by step.
 ///
 /// The edits are splices, so that all lines that are not edited stay as they are, byte for byte. What a
-/// splice makes of the script has the shape again. Lines are counted from 0, `first` and `count` lie within
-/// them.
+/// splice makes of the script has the shape again. Comments go with the line below them when it is moved, and
+/// stay when it is erased or replaced. Lines are counted from 0, `first` and `count` lie within them.
 class RecordedScript {
   public:
     /// Empty for a script of any other shape.
@@ -66,7 +68,7 @@ class RecordedScript {
     /// The lines stand before the one that is `before` now, at most the number of lines. One of them itself
     /// moves nothing.
     Splice moved(std::size_t first, std::size_t count, std::size_t before) const;
-    /// The lines stand there so often, one or more times.
+    /// The lines stand there so often, one or more times; their comments once.
     Splice repeated(std::size_t first, std::size_t count, std::size_t times) const;
     /// Lines, as keyLines(), textLines() and pauseLines() make them, stand in the place of others; of none
     /// with the `count` 0.
@@ -75,11 +77,15 @@ class RecordedScript {
   private:
     explicit RecordedScript(std::string script) : m_script(std::move(script)) {}
 
+    /// With its comments.
     std::size_t beginOf(std::size_t line) const;
     std::string_view bytesOf(std::size_t first, std::size_t count) const;
+    std::string_view remarksOf(const Line& line) const;
 
     std::string m_script;
     std::vector<Line> m_lines;
+    /// Where the last line ends.
+    std::size_t m_end = 0;
 };
 
 /// Around the lines of a recording.

@@ -86,7 +86,12 @@ std::vector<Step> stepsOf(const RecordedScript& recording, const KeyboardLayout&
     for (std::size_t index = 0; index < recording.lines().size(); ++index) {
         Step step = stepOf(recording, index, typed);
         if (step.kind == StepKind::typing) step.keyCode = step.modifiers = 0;
-        append(steps, step);
+        // What is told about a step is not told in the middle of another.
+        if (recording.lines()[index].remarks > 0) {
+            steps.push_back(step);
+        } else {
+            append(steps, step);
+        }
     }
     return steps;
 }

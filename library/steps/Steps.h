@@ -46,7 +46,7 @@ struct Step {
 inline constexpr std::size_t longestTyping = 60;
 
 /// A recording's steps, in order: keys that type are runs of text, the same key several times in a row is one
-/// step, and so is the same pause.
+/// step, and so is the same pause. One below a comment begins anew.
 std::vector<Step> stepsOf(const RecordedScript& recording, const KeyboardLayout& layout);
 
 /// Adds a step, or counts the last one up where it does the same.

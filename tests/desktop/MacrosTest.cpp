@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "desktop/Assistant.h"
 #include "desktop/DesktopTest.h"
 #include "desktop/SavedMacro.h"
 #include "desktop/StatusMenuClicks.h"
@@ -111,6 +112,8 @@ TEST_F(MacrosTest, escapeEndsTheCountAndNothingIsPlayed) {
 }
 
 TEST_F(MacrosTest, theFileIsRenamedByTheUserAndByOthers) {
+    letAssistantsIn(desktop);
+    keyrill.emplace(desktop);
     openGreeting();
     press("F2");
     press("ctrl+a");
@@ -119,6 +122,7 @@ TEST_F(MacrosTest, theFileIsRenamedByTheUserAndByOthers) {
     EXPECT_TRUE(holds("Hello", recordedAbc));
     EXPECT_FALSE(std::filesystem::exists(file("Greeting")));
     desktop.run({"mv", file("Hello"), file("Greeting")});
+    desktop.run(assistantCall(keyrill->child(), {"await", "Greeting"}));
     press("ctrl+f");
     type("greet");
     press("Return");
@@ -156,6 +160,37 @@ TEST_F(MacrosTest, whatIsNotSavedOutlivesAKill) {
     openGreeting();
     press("ctrl+s");
     EXPECT_TRUE(holds("Greeting", std::string("-- mine\n") + recordedAbc)) << contentOf(file("Greeting"));
+}
+
+TEST_F(MacrosTest, whatWasDeletedComesBackByCtrlZ) {
+    openGreeting();
+    press("Delete");
+    ASSERT_TRUE(eventually([this] { return !std::filesystem::exists(file("Greeting")); }));
+    press("ctrl+z");
+    EXPECT_TRUE(holds("Greeting", recordedAbc));
+}
+
+TEST_F(MacrosTest, aMacroWithCommentsIsChangedUnderKeys) {
+    const std::string head = "-- Greets.\n";
+    const std::string where = "\tkey code (11)";
+    std::string explained = head + recordedAbc;
+    explained.insert(explained.find(where), "\t-- the b\n");
+    std::ofstream(file("Greeting")) << explained;
+    openGreeting();
+    press("alt+k");
+    press("Home");
+    press("Down");
+    press("F2");
+    press("ctrl+a");
+    type("xyc");
+    press("Return");
+    press("ctrl+s");
+    std::string changed = explained;
+    changed.replace(changed.find("(11)"), 4, "(7)");
+    changed.insert(changed.find("\tkey code (8)"), "\tkey code (16) using {}\ndelay 0.01\n");
+    EXPECT_TRUE(holds("Greeting", changed)) << contentOf(file("Greeting"));
+    play();
+    EXPECT_EQ(terminal->typed(4), "axyc");
 }
 
 TEST_F(MacrosTest, theTrashIsTheUsers) {

@@ -9,6 +9,8 @@
 //
 // "assistant PID type NAME TEXT": replaces the text of the object of that name.
 //
+// "assistant PID await NAME": waits until an object of that name is on the screen.
+//
 // "assistant PID await NAME checked|unchecked": waits until the box of that name is so.
 //
 // Exit status 1 where there is no such object, after a moment of waiting for it.
@@ -139,6 +141,12 @@ bool typeNamed(const Object& root, const std::string& name, const char* text) {
     });
 }
 
+bool isThere(const Object& root, const std::string& name) {
+    return walk(root, [&name](const Object& object) {
+        return nameOf(object) == name && hasState(object, ATSPI_STATE_SHOWING);
+    });
+}
+
 bool isBox(const Object& root, const std::string& name, bool isChecked) {
     return walk(root, [&name, isChecked](const Object& object) {
         return nameOf(object) == name && hasState(object, ATSPI_STATE_SHOWING) &&
@@ -153,6 +161,7 @@ bool perform(guint pid, int argc, char** argv) {
     if (command == "list") return list(root);
     if (command == "focused") return printFocused(root);
     if (command == "press" && argc == 4) return pressNamed(root, argv[3]);
+    if (command == "await" && argc == 4) return isThere(root, argv[3]);
     if (command == "await" && argc == 5) return isBox(root, argv[3], std::string(argv[4]) == "checked");
     return command == "type" && argc == 5 && typeNamed(root, argv[3], argv[4]);
 }

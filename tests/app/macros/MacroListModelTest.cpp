@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QBrush>
+#include <QGuiApplication>
+#include <QPalette>
+
 namespace {
 
 class MacroListModelTest : public testing::Test {
@@ -25,6 +29,9 @@ TEST_F(MacroListModelTest, groupsStandAboveTheirMacros) {
     EXPECT_EQ(rows(), "Greeting|work|Mail|Note");
     EXPECT_EQ(rows(Qt::AccessibleTextRole), "Greeting|Group work|Mail|Note");
     EXPECT_EQ(model.flags(model.index(1)), Qt::NoItemFlags);
+    // Though it cannot be chosen.
+    EXPECT_EQ(model.data(model.index(1), Qt::ForegroundRole).value<QBrush>(),
+              QGuiApplication::palette().brush(QPalette::Active, QPalette::Text));
     EXPECT_EQ(model.itemAt(model.index(1)), nullptr);
     EXPECT_EQ(model.itemAt(model.index(2))->path, "work/Mail.keyrill");
     EXPECT_EQ(model.indexOf("work/Note.keyrill").row(), 3);

@@ -163,12 +163,36 @@ TEST_F(MacrosWindowTest, aNameIsTypedInTheList) {
 
 TEST_F(MacrosWindowTest, tellsAndOffersSomethingToDo) {
     int actions = 0;
-    QObject::connect(&window, &MacrosWindow::actionWanted, [&actions] { ++actions; });
+    QObject::connect(&window, &MacrosWindow::undoWanted, [&actions] { ++actions; });
     window.tell(QStringLiteral("In the trash."), QStringLiteral("Undo"));
     button("Undo").click();
     EXPECT_EQ(actions, 1);
     window.warn(QStringLiteral("No."));
     EXPECT_THROW(button("Undo"), std::runtime_error);
+}
+
+TEST_F(MacrosWindowTest, takesBackByItsKeysWhatWasTold) {
+    int undone = 0;
+    QObject::connect(&window, &MacrosWindow::undoWanted, [&undone] { ++undone; });
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Z, Qt::ControlModifier);
+    QCoreApplication::sendEvent(&list(), &event);
+    EXPECT_EQ(undone, 1);
+    // Whoever writes takes back what he wrote.
+    QCoreApplication::sendEvent(&search(), &event);
+    EXPECT_EQ(undone, 1);
+}
+
+TEST_F(MacrosWindowTest, whoDeletesAMacroIsAmongTheOthers) {
+    window.choose("Greeting.keyrill");
+    button("Delete").setFocus();
+    button("Delete").click();
+    EXPECT_EQ(window.focusWidget(), &list());
+}
+
+/// Of a screen of 1280 pixels at twice the size.
+TEST_F(MacrosWindowTest, fitsASmallScreen) {
+    window.choose("Greeting.keyrill");
+    EXPECT_LE(window.minimumSizeHint().width(), 640);
 }
 
 /// All that can have the focus has a name and a role that fits it.

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "core/Delay.h"
@@ -71,21 +72,33 @@ TEST(RecordedScriptTest, readsNothingThatRecordingsDoNotWrite) {
     const auto isRecording = [](const std::string& lines) {
         return RecordedScript::parse(recordingOf(lines)).has_value();
     };
-    for (const char* lines :
-         {"\tkey code (1)\ndelay 0.01\n", "\tkey code (01) using {}\ndelay 0.01\n",
-          "\tkey code (-1) using {}\ndelay 0.01\n", "\tkey code (4294967296) using {}\ndelay 0.01\n",
-          "\tkey code (1) using {shift down, command down}\ndelay 0.01\n",
-          "\tkey code (1) using {shift down, }\ndelay 0.01\n",
-          "\tkey code (1) using {shift down, shift down}\ndelay 0.01\n", "\tkey code (1) using {}\n",
-          "\tkey code (1) using {}\ndelay 0.02\n", " \tdelay 1\ndelay 0.01\n", "\tdelay \ndelay 0.01\n",
-          "\tdelay x\ndelay 0.01\n", "\tdelay 1 \ndelay 0.01\n", "\tdelay inf\ndelay 0.01\n",
-          "\tkeystroke \"a\" using {shift down}\ndelay 0.01\n", "\tkeystroke a\ndelay 0.01\n",
-          "\tkeystroke \"a\n", "-- note\n", "\n"}) {
+    for (const char* lines : {"\tkey code (1)\ndelay 0.01\n",
+                              "\tkey code (01) using {}\ndelay 0.01\n",
+                              "\tkey code (-1) using {}\ndelay 0.01\n",
+                              "\tkey code (4294967296) using {}\ndelay 0.01\n",
+                              "\tkey code (1) using {shift down, command down}\ndelay 0.01\n",
+                              "\tkey code (1) using {shift down, }\ndelay 0.01\n",
+                              "\tkey code (1) using {shift down, shift down}\ndelay 0.01\n",
+                              "\tkey code (1) using {}\n",
+                              "\tkey code (1) using {}\ndelay 0.02\n",
+                              " \tdelay 1\ndelay 0.01\n",
+                              "\tdelay \ndelay 0.01\n",
+                              "\tdelay x\ndelay 0.01\n",
+                              "\tdelay 1 \ndelay 0.01\n",
+                              "\tdelay inf\ndelay 0.01\n",
+                              "\tkeystroke \"a\" using {shift down}\ndelay 0.01\n",
+                              "\tkeystroke a\ndelay 0.01\n",
+                              "\tkeystroke \"a\n",
+                              "- note\n",
+                              "(* note *)\n",
+                              "\tkey code (1) using {} -- note\ndelay 0.01\n",
+                              "\tkey code (1) using {}\n-- note\ndelay 0.01\n"}) {
         EXPECT_FALSE(isRecording(lines)) << lines;
     }
     EXPECT_FALSE(RecordedScript::parse(""));
     EXPECT_FALSE(RecordedScript::parse("tell application \"System Events\"\nend tell"));
-    EXPECT_FALSE(RecordedScript::parse("tell application \"System Events\"\nend tell\n\n"));
+    EXPECT_FALSE(RecordedScript::parse("tell application \"System Events\"\nend tell\nbeep\n"));
+    EXPECT_FALSE(RecordedScript::parse("tell application \"System Events\"\n-- note"));
     EXPECT_TRUE(isRecording("\tkey code (1) using {command down, shift down}\ndelay 0.01\n"));
 }
 
@@ -98,6 +111,48 @@ TEST(RecordedScriptTest, textsAreReadAsTheyAreWritten) {
         EXPECT_EQ(script.textOf(script.lines()[0]), text);
         for (const char byte : script.script()) EXPECT_GT(byte, 0) << text;
     }
+}
+
+/// Keys 1, 2 and 3, and what somebody has written about them.
+const std::string explained = "-- Greets.\n\ntell application \"System Events\"\n  -- first\n" +
+                              steps::keyLines(1, 0) + "\n\t-- second\n" + steps::keyLines(2, 0) +
+                              steps::keyLines(3, 0) + "-- done\nend tell\n\n-- really\n";
+
+TEST(RecordedScriptTest, commentsMayStandAnywhereBetweenLines) {
+    const RecordedScript script = recorded(explained);
+    EXPECT_EQ(codesAfter(script, script.erased(0, 0)), (Codes{1, 2, 3}));
+    EXPECT_EQ(script.script(), explained);
+    const auto bytesOf = [&](std::size_t line) {
+        return script.script().substr(script.lines()[line].begin, script.lines()[line].size);
+    };
+    EXPECT_EQ(bytesOf(1), steps::keyLines(2, 0));
+    EXPECT_EQ(script.lines()[0].remarks, std::string("  -- first\n").size());
+    EXPECT_EQ(script.lines()[1].remarks, std::string("\n\t-- second\n").size());
+    EXPECT_EQ(script.lines()[2].remarks, 0U);
+}
+
+TEST(RecordedScriptTest, noEditLosesAComment) {
+    const RecordedScript script = recorded(explained);
+    const auto linesAfter = [&](const Splice& edit) {
+        const std::string after = spliced(script.script(), edit);
+        const std::size_t begin = after.find("Events\"\n") + 8;
+        return after.substr(begin, after.find("end tell") - begin);
+    };
+    const std::string one = steps::keyLines(1, 0);
+    const std::string two = steps::keyLines(2, 0);
+    const std::string three = steps::keyLines(3, 0);
+    const std::string nine = steps::keyLines(9, 0);
+    EXPECT_EQ(linesAfter(script.erased(0, 2)), "  -- first\n\n\t-- second\n" + three + "-- done\n");
+    EXPECT_EQ(linesAfter(script.replaced(1, 1, nine)),
+              "  -- first\n" + one + "\n\t-- second\n" + nine + three + "-- done\n");
+    EXPECT_EQ(linesAfter(script.moved(1, 1, 0)),
+              "\n\t-- second\n" + two + "  -- first\n" + one + three + "-- done\n");
+    EXPECT_EQ(linesAfter(script.moved(0, 1, 3)),
+              "\n\t-- second\n" + two + three + "  -- first\n" + one + "-- done\n");
+    EXPECT_EQ(linesAfter(script.repeated(0, 2, 2)),
+              "  -- first\n" + one + "\n\t-- second\n" + two + one + two + three + "-- done\n");
+    EXPECT_EQ(linesAfter(script.replaced(3, 0, nine)),
+              "  -- first\n" + one + "\n\t-- second\n" + two + three + nine + "-- done\n");
 }
 
 TEST(RecordedScriptTest, linesAreErased) {
@@ -139,7 +194,8 @@ TEST(RecordedScriptTest, aPauseIsWrittenAsRecordingsDo) {
 /// Whatever is edited, all other bytes stay, and the shape with them.
 TEST(RecordedScriptTest, randomEditsKeepTheShapeAndAllOtherLines) {
     std::mt19937 random(20);
-    RecordedScript script = keysUpTo(40);
+    RecordedScript script = recorded(recordingOf("-- a\n" + steps::keyLines(1, 0) + "-- b\n" +
+                                                 steps::keyLines(2, 0) + steps::keyLines(3, 0) + "-- c\n"));
     for (int edit = 0; edit < 500; ++edit) {
         const std::size_t size = script.lines().size();
         const std::size_t first = random() % (size + 1);
@@ -162,6 +218,7 @@ TEST(RecordedScriptTest, randomEditsKeepTheShapeAndAllOtherLines) {
         std::string after = spliced(before, splice);
         EXPECT_EQ(after.substr(0, splice.offset), before.substr(0, splice.offset));
         EXPECT_TRUE(after.ends_with(before.substr(splice.offset + splice.removed)));
+        EXPECT_EQ(std::count(after.begin(), after.end(), '-'), 6) << edit;
         auto edited = RecordedScript::parse(std::move(after));
         ASSERT_TRUE(edited) << edit;
         script = *std::move(edited);

@@ -50,6 +50,13 @@ TEST(StepsTest, keysThatDoSomethingStandAlone) {
               (Words{"typing a [0+1]", "key 1 4096 [1+1]", "typing b [2+1]", "key 36 0 [3+1]"}));
 }
 
+TEST(StepsTest, whatStandsBelowACommentBeginsAnew) {
+    EXPECT_EQ(stepsOf(keyLines(key::a, 0) + "-- then\n" + keyLines(key::b, 0) + keyLines(key::one, 0)),
+              (Words{"typing a [0+1]", "typing b1 [1+2]"}));
+    EXPECT_EQ(stepsOf(keyLines(48, 0) + "-- again\n" + keyLines(48, 0)),
+              (Words{"key 48 0 [0+1]", "key 48 0 [1+1]"}));
+}
+
 TEST(StepsTest, theSameKeySeveralTimesInARowIsCounted) {
     const std::string down = keyLines(125, 0);
     EXPECT_EQ(stepsOf(down + down + down + keyLines(126, 0) + down),

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/tray/ScrollingMenu.h"
+#include "app/widgets/ScrollingMenu.h"
 
 #include <QProxyStyle>
 
