@@ -43,7 +43,7 @@ QPushButton* makeButton(const QString& title, const QString& hint) {
 /// The time stands where other lines of a menu have their shortcut.
 QString lineOf(const MacrosWindow::Recording& recording) {
     return macroMenuTitle(recording.title) + u'\t' +
-           QLocale().toString(recording.recordedAt, QLocale::ShortFormat);
+           inItsDirection(QLocale().toString(recording.recordedAt, QLocale::ShortFormat));
 }
 
 }  // namespace

@@ -16,8 +16,10 @@ constexpr QChar popDirectionalIsolate(0x2069);
 
 QString menuTitle(QString text) { return text.replace(u'&', QStringLiteral("&&")); }
 
+QString inItsDirection(const QString& text) {
+    return QApplication::isRightToLeft() ? firstStrongIsolate + text + popDirectionalIsolate : text;
+}
+
 QString macroMenuTitle(const QString& text) {
-    const QString title = menuTitle(withSignsThatShow(text, QFontMetrics(QApplication::font("QMenu"))));
-    if (!QApplication::isRightToLeft()) return title;
-    return firstStrongIsolate + title + popDirectionalIsolate;
+    return inItsDirection(menuTitle(withSignsThatShow(text, QFontMetrics(QApplication::font("QMenu")))));
 }
