@@ -33,13 +33,15 @@ constexpr std::string_view usage =
     "       keyrill-script format FILE  print the script in one layout\n"
     "       keyrill-script keys         print the key codes; with --press that of the next key\n"
     "       keyrill-script reference    print the reference of the language\n"
-    "       keyrill-script --help | --version\n"
+    "       keyrill-script -h | --help | --version\n"
     "FILE - is standard input; -e LINE, once or more, gives the script itself.\n";
+
+bool asksHelp(std::string_view argument) { return argument == "--help" || argument == "-h"; }
 
 int perform(const std::vector<std::string_view>& arguments) {
     const std::string_view first = arguments.empty() ? "" : arguments.front();
-    const bool asksHelp = arguments.size() == 2 && arguments.back() == "--help";
-    if (asksHelp || (arguments.size() == 1 && first == "--help")) {
+    // Alone, or behind a command.
+    if (!arguments.empty() && arguments.size() <= 2 && asksHelp(arguments.back())) {
         std::cout << usage;
         return 0;
     }

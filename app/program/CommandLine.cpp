@@ -21,9 +21,10 @@ struct WishOption {
 };
 
 constexpr std::array wishOptions = {
-    WishOption{"--help", Wish::help},       WishOption{"--version", Wish::version},
-    WishOption{"--check", Wish::check},     WishOption{"--list", Wish::list},
-    WishOption{"--play", Wish::play, true}, WishOption{"--show", Wish::show, true}};
+    WishOption{"--help", Wish::help},       WishOption{"-h", Wish::help},
+    WishOption{"--version", Wish::version}, WishOption{"--check", Wish::check},
+    WishOption{"--list", Wish::list},       WishOption{"--play", Wish::play, true},
+    WishOption{"--show", Wish::show, true}};
 
 bool takeWish(CommandLine& line, std::string_view name, const std::optional<std::string>& value) {
     const auto* const option = std::find_if(wishOptions.begin(), wishOptions.end(),
@@ -128,7 +129,7 @@ std::string usage(std::span<const SessionKind> kinds) {
         "       keyrill [--session=NAME] --show [MACRO]   ask it to show the window of the macros\n"
         "       keyrill --list   print the names of the macros in the macro folder\n"
         "       keyrill [--session=NAME] --check   print what works in this session, and what to do\n"
-        "       keyrill --help | --version\n"
+        "       keyrill -h | --help | --version\n"
         "ACTION is one of these: " +
         actionNames() +
         ".\n"

@@ -376,8 +376,11 @@ TEST_F(ToolTest, optionsAreNoFilesButBehindTwoMinusSigns) {
 }
 
 TEST_F(ToolTest, helpAndVersionGoToStandardOutput) {
-    EXPECT_EQ(run("trace --help").output.rfind(usage, 0), 0U);
-    EXPECT_EQ(run("--help").output.rfind(usage, 0), 0U);
+    for (const char* arguments : {"--help", "-h", "trace --help", "trace -h"}) {
+        const Outcome help = run(arguments);
+        EXPECT_EQ(help.status, 0) << arguments;
+        EXPECT_EQ(help.output.rfind(usage, 0), 0U) << arguments;
+    }
     const Outcome version = run("--version");
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.output.rfind("keyrill-script ", 0), 0U);

@@ -27,6 +27,9 @@ TEST_F(WithoutDisplayTest, helpAndVersionArePrinted) {
     const End help = endOf("--help");
     EXPECT_EQ(help.status, 0);
     EXPECT_TRUE(help.output.starts_with("Usage: keyrill ")) << help.output;
+    const End shortly = endOf("-h");
+    EXPECT_EQ(shortly.status, 0);
+    EXPECT_EQ(shortly.output, help.output);
     const End version = endOf("--version");
     EXPECT_EQ(version.status, 0);
     EXPECT_TRUE(version.output.starts_with("keyrill ")) << version.output;

@@ -37,6 +37,7 @@ TEST(CommandLineTest, aSessionWithoutItsNameIsRefused) {
 
 TEST(CommandLineTest, helpAndVersionAreNoFiles) {
     EXPECT_EQ(readCommandLine({"--help"}), (CommandLine{.wish = CommandLine::Wish::help}));
+    EXPECT_EQ(readCommandLine({"-h"}), (CommandLine{.wish = CommandLine::Wish::help}));
     EXPECT_EQ(readCommandLine({"--version"}), (CommandLine{.wish = CommandLine::Wish::version}));
     EXPECT_EQ(readCommandLine({"--check"}), (CommandLine{.wish = CommandLine::Wish::check}));
 }
