@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/program/ActionCall.h"
 
+#include <QDBusError>
 #include <QVariantMap>
 #include <cstdlib>
 #include <string>
@@ -21,8 +22,9 @@ QDBusMessage request(const std::string& action) {
     return message;
 }
 
-int reportAnswer(const QDBusMessage& answer) {
+int reportAnswer(const QDBusMessage& answer, const RunningProgram& program) {
     if (answer.type() != QDBusMessage::ErrorMessage) return EXIT_SUCCESS;
+    if (QDBusError(answer).type() == QDBusError::NoReply) return reportFailure(program.silence());
     const int status = reportFailure(Error{answer.errorMessage().toStdString(), ""});
     return answer.errorName() == bus::notNow ? notNowStatus : status;
 }
@@ -45,5 +47,5 @@ int askForAction(const CommandLine& line) {
         const auto started = program.start(line.session);
         if (!started) return reportFailure(started.error());
     }
-    return reportAnswer(program.answerTo(request(*line.action)));
+    return reportAnswer(program.answerTo(request(*line.action)), program);
 }

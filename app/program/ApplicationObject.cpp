@@ -44,25 +44,33 @@ bool ApplicationObject::isPlaying() const {
     return std::chrono::steady_clock::now() - m_lastLook.load() < longestBetweenLooks;
 }
 
-void ApplicationObject::watch(Number request, const QDBusMessage& call, const QDBusConnection& from) {
-    QTimer::singleShot(patience, this, [this, request, call, from] {
+void ApplicationObject::answerInPlay(Number request, const QDBusMessage& answer, const QDBusConnection& to) {
+    QTimer::singleShot(patience, this, [this, request, answer, to] {
         if (!isPlaying()) {
-            if (isWaiting(request)) watch(request, call, from);
+            if (isWaiting(request)) answerInPlay(request, answer, to);
         } else if (take(request)) {
-            from.send(call.createErrorReply(bus::notNow, tr("Keyrill is playing a macro.")));
+            to.send(answer);
         }
     });
 }
 
-QDBusMessage ApplicationObject::answeredLater() {
-    setDelayedReply(true);
-    return message();
+ApplicationObject::Number ApplicationObject::await(const QDBusMessage& call) {
+    call.setDelayedReply(true);
+    const QMutexLocker lock(&m_mutex);
+    m_waiting.insert(++m_last);
+    return m_last;
 }
 
-void ApplicationObject::Activate(const QVariantMap& /*platformData*/) { emit activated(answeredLater()); }
+void ApplicationObject::Activate(const QVariantMap& /*platformData*/) {
+    const Number request = await(message());
+    emit activated(request, message());
+    answerInPlay(request, message().createReply(), connection());
+}
 
 void ApplicationObject::Open(const QStringList& uris, const QVariantMap& /*platformData*/) {
-    emit opened(uris, answeredLater());
+    const Number request = await(message());
+    emit opened(request, uris, message());
+    answerInPlay(request, message().createReply(), connection());
 }
 
 void ApplicationObject::ActivateAction(const QString& action, const QVariantList& parameter,
@@ -81,18 +89,14 @@ void ApplicationObject::ActivateAction(const QString& action, const QVariantList
 }
 
 void ApplicationObject::ask(Errand errand, const QDBusMessage& call) {
-    call.setDelayedReply(true);
-    const Number request = ++m_last;
-    {
-        const QMutexLocker lock(&m_mutex);
-        m_waiting.insert(request);
-    }
+    const Number request = await(call);
     const auto* const action = std::get_if<const ActionRow*>(&errand);
     const bool endsPlayback = action != nullptr && (*action)->endsPlayback;
     if (endsPlayback) ++m_stops;
     const QDBusConnection from = connection();
     emit asked(request, errand, call);
-    if (!endsPlayback) watch(request, call, from);
+    if (endsPlayback) return;
+    answerInPlay(request, call.createErrorReply(bus::notNow, tr("Keyrill is playing a macro.")), from);
 }
 
 void ApplicationObject::refuse(const Error& why, const QDBusMessage& call) {

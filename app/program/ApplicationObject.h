@@ -34,7 +34,7 @@ class ApplicationObject : public QObject, protected QDBusContext {
 
     // Called by the program's thread, which answers each request that it takes.
 
-    /// Whether the request is still to be carried out; otherwise it has been answered.
+    /// Whether the request is still to be answered.
     bool take(Number request);
     /// Called again and again while a macro plays; whether somebody waits for a stop that has not been taken.
     bool isStopAsked();
@@ -57,19 +57,21 @@ class ApplicationObject : public QObject, protected QDBusContext {
 
   signals:
     // `call` is to be answered.
-    /// Somebody has started the program once more, without a file.
-    void activated(const QDBusMessage& call);
+    /// Somebody has started the program once more, without a file. While a macro plays it is answered before
+    /// it is taken, as the next.
+    void activated(ApplicationObject::Number request, const QDBusMessage& call);
     /// Somebody wants these to be opened.
-    void opened(const QStringList& uris, const QDBusMessage& call);
-    /// Somebody asks for something.
+    void opened(ApplicationObject::Number request, const QStringList& uris, const QDBusMessage& call);
+    /// Somebody asks for something. While a macro plays it is refused.
     void asked(ApplicationObject::Number request, const Errand& errand, const QDBusMessage& call);
 
   private:
-    QDBusMessage answeredLater();
+    /// A request that waits for its answer from now on.
+    Number await(const QDBusMessage& call);
     bool isWaiting(Number request);
     bool isPlaying() const;
-    /// Refuses the request if it still waits when a macro is seen to play.
-    void watch(Number request, const QDBusMessage& call, const QDBusConnection& from);
+    /// Gives that answer to the request if it still waits when a macro is seen to play.
+    void answerInPlay(Number request, const QDBusMessage& answer, const QDBusConnection& to);
 
     std::atomic<int> m_stops = 0;
     /// When isStopAsked() was last called.

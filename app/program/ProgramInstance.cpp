@@ -15,6 +15,7 @@
 
 #include "app/program/ApplicationObject.h"
 #include "app/program/BusNames.h"
+#include "app/program/BusOwner.h"
 #include "app/program/InstanceLock.h"
 #include "app/program/SessionBusCheck.h"
 #include "app/program/StartUp.h"
@@ -24,7 +25,8 @@ namespace {
 
 const QString localPath = QStringLiteral("/org/freedesktop/DBus/Local");
 const QString localInterface = QStringLiteral("org.freedesktop.DBus.Local");
-constexpr int patienceInMilliseconds = 700;
+constexpr std::chrono::milliseconds timeToHaveAName{700};
+constexpr int timeToAnswerInMilliseconds = 5000;
 constexpr int betweenLooks = 10;
 /// After the bus has died: in most sessions none comes again.
 constexpr int betweenSearches = 2000;
@@ -44,7 +46,7 @@ QDBusMessage request(const QStringList& files) {
 
 /// One that has just started may not have its name yet.
 bool awaitName(const QDBusConnection& connection) {
-    const QDeadlineTimer deadline(patienceInMilliseconds);
+    const QDeadlineTimer deadline(timeToHaveAName);
     while (!connection.interface()->isServiceRegistered(bus::name)) {
         if (deadline.hasExpired()) return false;
         QThread::msleep(betweenLooks);
@@ -92,22 +94,28 @@ ProgramInstance::~ProgramInstance() {
 }
 
 void ProgramInstance::follow(ApplicationObject& object) {
-    connect(&object, &ApplicationObject::activated, this, [this](const QDBusMessage& call) {
-        m_bus.send(call.createReply());
-        emit activated();
-    });
+    connect(&object, &ApplicationObject::activated, this,
+            [this](ApplicationObject::Number request, const QDBusMessage& call) {
+                confirm(request, call);
+                emit activated();
+            });
     connect(&object, &ApplicationObject::opened, this,
-            [this](const QStringList& uris, const QDBusMessage& call) {
+            [this](ApplicationObject::Number request, const QStringList& uris, const QDBusMessage& call) {
+                // A file that cannot be read is told of in a window, which takes its time.
+                confirm(request, call);
                 for (const QString& uri : uris) {
                     const QUrl url(uri, QUrl::StrictMode);
                     if (url.isLocalFile()) emit fileOpened(url.toLocalFile());
                 }
-                m_bus.send(call.createReply());
             });
     connect(&object, &ApplicationObject::asked, this,
             [this](ApplicationObject::Number number, const Errand& errand, const QDBusMessage& call) {
                 take({number, errand, call, std::chrono::steady_clock::now()});
             });
+}
+
+void ProgramInstance::confirm(std::uint64_t request, const QDBusMessage& call) {
+    if (m_object->take(request)) m_bus.send(call.createReply());
 }
 
 bool ProgramInstance::claim() {
@@ -144,9 +152,9 @@ void ProgramInstance::findBus() {
 
 int ProgramInstance::handOver(const QStringList& files) {
     if (m_bus.isConnected() && awaitName(m_bus)) {
-        const QDBusError error(m_bus.call(request(files), QDBus::Block, patienceInMilliseconds));
-        // One that plays a macro answers later.
-        if (!error.isValid() || error.type() == QDBusError::NoReply) return EXIT_SUCCESS;
+        const QDBusError error(m_bus.call(request(files), QDBus::Block, timeToAnswerInMilliseconds));
+        if (!error.isValid()) return EXIT_SUCCESS;
+        if (error.type() == QDBusError::NoReply) return reportFailure(ownerIsSilent(m_bus));
         std::fprintf(
             stderr,
             "keyrill: Another program has Keyrill's name on the session bus and does not do its work: "

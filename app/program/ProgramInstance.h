@@ -37,9 +37,9 @@ class ProgramInstance : public QObject {
 
     /// Makes this process the one. False if there is another already.
     bool claim();
-    /// Hands files, absolute paths, or none, to the one that runs and waits 0.7 s at most until it has taken
-    /// them; it takes them later if it is playing. The exit status: 1, with a line on standard error, if
-    /// there is no way to hand them over.
+    /// Hands files, absolute paths, or none, to the one that runs and waits 5 s at most until it has taken
+    /// them or, while it is playing, will do so later. The exit status: 1, with a line on standard error, if
+    /// it does not answer or there is no way to hand them over.
     int handOver(const QStringList& files);
 
     /// Who carries errands out from now on; those that were asked for before wait until then.
@@ -72,6 +72,8 @@ class ProgramInstance : public QObject {
     bool takeName();
     void findBus();
     void follow(ApplicationObject& object);
+    /// It is done, or certain to be.
+    void confirm(std::uint64_t request, const QDBusMessage& call);
     bool isServed(const Errand& errand) const;
     void take(const Request& request);
     void answer(const Request& request);

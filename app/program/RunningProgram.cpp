@@ -12,6 +12,7 @@
 #include <chrono>
 
 #include "app/program/BusNames.h"
+#include "app/program/BusOwner.h"
 #include "app/program/SessionBusCheck.h"
 #include "app/program/StartUp.h"
 
@@ -64,9 +65,12 @@ QDBusConnection answeringBus() {
 RunningProgram::RunningProgram() : m_application(m_count, m_arguments.data()), m_bus(answeringBus()) {}
 
 Result<> RunningProgram::reach() const {
-    if (m_bus.isConnected()) return {};
-    return Error{"There is no session bus, over which the running Keyrill could be asked.",
-                 "Call it from within the desktop session; the hot keys and the menu need none."};
+    if (!m_bus.isConnected()) {
+        return Error{"There is no session bus, over which the running Keyrill could be asked.",
+                     "Call it from within the desktop session; the hot keys and the menu need none."};
+    }
+    if (!ownerAnswers(m_bus)) return ownerIsSilent(m_bus);
+    return {};
 }
 
 bool RunningProgram::isRunning() const { return m_bus.interface()->isServiceRegistered(bus::name); }
@@ -97,3 +101,5 @@ QDBusMessage RunningProgram::answerTo(const QDBusMessage& call) const {
     const auto patience = std::chrono::milliseconds(timeToAnswer);
     return m_bus.call(call, QDBus::Block, static_cast<int>(patience.count()));
 }
+
+Error RunningProgram::silence() const { return ownerIsSilent(m_bus); }

@@ -15,7 +15,7 @@ class RunningProgram {
   public:
     RunningProgram();
 
-    /// Fails where there is no session bus.
+    /// Fails where there is no session bus, and after 5 s if the one that runs does not answer at all.
     Result<> reach() const;
     bool isRunning() const;
     /// Starts it in the background, in the session of that name or, if that is empty, in the one that is
@@ -24,8 +24,10 @@ class RunningProgram {
 
     /// A call of the interface, without arguments yet.
     static QDBusMessage callOf(const QString& interface, const QString& method);
-    /// Its answer, an error too; waits for 20 s at most.
+    /// Its answer, an error too; waits for 20 s at most, then it is QDBusError::NoReply.
     QDBusMessage answerTo(const QDBusMessage& call) const;
+    /// Why there was none, in words.
+    Error silence() const;
 
   private:
     std::string m_name = "keyrill";

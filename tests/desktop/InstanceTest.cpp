@@ -5,6 +5,7 @@
 #include <fstream>
 #include <memory>
 
+#include "desktop/Answer.h"
 #include "desktop/DesktopTest.h"
 #include "support/Programs.h"
 
@@ -142,6 +143,25 @@ TEST_F(HandOverTest, aStartBesideAnotherProgramOfItsNameSaysSo) {
     EXPECT_EQ(startAndWait({file}), 1);
     const std::string said = contentOf(desktop.file("second"));
     EXPECT_TRUE(said.starts_with("keyrill: Another program has Keyrill's name on the session bus")) << said;
+}
+
+TEST_F(HandOverTest, whileAMacroPlaysAFileIsTakenForLater) {
+    const std::string slow = desktop.file("slow.keyrill");
+    std::ofstream(slow) << "tell application \"System Events\"\n"
+                           "keystroke \"begun\"\ndelay 1000\nend tell\n";
+    Child first({programs::keyrill, slow}, desktop.options("first"));
+    ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
+    const Terminal terminal(desktop.display());
+    play();
+    ASSERT_EQ(terminal.typed(5), "begun");
+    EXPECT_EQ(startAndWait({file}), 0) << contentOf(desktop.file("second"));
+    EXPECT_EQ(startAndWait({}), 0) << contentOf(desktop.file("second"));
+    stop();
+    // It takes them once the run is over.
+    const Answer idle{2, "keyrill: Nothing is being recorded or played.\n"};
+    ASSERT_TRUE(eventually([&] { return answerOf(desktop, {programs::keyrill, "--action=stop"}) == idle; }));
+    play();
+    EXPECT_EQ(terminal.typed(11), "begunloaded");
 }
 
 TEST_F(HandOverTest, aSecondStartShowsTheControlWindowBesideATray) {
