@@ -44,12 +44,14 @@ std::vector<HotKeyFact> probeHotKeys(const SettingsStore& settings, HotKeys& hot
     for (std::size_t i = 0; i < shortcutRows.size(); ++i) {
         const ShortcutRow& row = shortcutRows[i];
         HotKeyFact& fact = facts.emplace_back(HotKeyFact{.shortcut = i});
-        const std::optional<KeyCombo> stored = storedShortcut(settings, std::string(row.name));
-        if (!stored || stored->code == -1) continue;
-        fact.combination = modifiersText(stored->flags).toStdString() +
-                           layout.keyName(static_cast<std::uint32_t>(stored->code));
         const bool isOurs = std::find(ours.begin(), ours.end(), row.name) != ours.end();
-        probe(fact, row, *stored, hotKeys, isOurs);
+        // In its first run the program has them before they are stored.
+        const KeyCombo combination =
+            storedShortcut(settings, std::string(row.name)).value_or(isOurs ? row.preset : KeyCombo());
+        if (combination.code == KeyCombo().code) continue;
+        fact.combination = modifiersText(combination.flags).toStdString() +
+                           layout.keyName(static_cast<std::uint32_t>(combination.code));
+        probe(fact, row, combination, hotKeys, isOurs);
     }
     return facts;
 }

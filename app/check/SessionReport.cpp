@@ -114,6 +114,8 @@ ReportLine keyboardLine(const SessionDetails& details) {
     return line(Verdict::works, tr("Keyboard"), layouts + QStringLiteral("; ") + locksWords(details.locksOn));
 }
 
+constexpr std::string_view adviceIndent = "        ";
+
 const char* mark(Verdict verdict) {
     switch (verdict) {
         case Verdict::works:
@@ -151,9 +153,25 @@ std::string reportText(const std::vector<ReportLine>& report) {
     std::string text;
     for (const ReportLine& found : report) {
         text += mark(found.verdict) + found.text + "\n";
-        if (!found.advice.empty()) text += "        " + found.advice + "\n";
+        if (!found.advice.empty()) text += std::string(adviceIndent) + found.advice + "\n";
     }
     return text;
+}
+
+std::vector<ReportLine> reportOf(std::string_view text) {
+    std::vector<ReportLine> report;
+    while (!text.empty()) {
+        const std::string_view written = text.substr(0, text.find('\n'));
+        text.remove_prefix(std::min(written.size() + 1, text.size()));
+        for (const Verdict verdict : {Verdict::works, Verdict::fails, Verdict::uncertain}) {
+            const std::string_view begin = mark(verdict);
+            if (written.starts_with(begin))
+                report.push_back({.verdict = verdict, .text = std::string(written.substr(begin.size()))});
+        }
+        if (written.starts_with(adviceIndent) && !report.empty())
+            report.back().advice = written.substr(adviceIndent.size());
+    }
+    return report;
 }
 
 int reportStatus(const std::vector<ReportLine>& report) {

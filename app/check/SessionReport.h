@@ -33,9 +33,9 @@ enum class Verdict {
 
 struct ReportLine {
     Verdict verdict = Verdict::works;
-    std::string text;
+    std::string text = {};
     /// What to do; empty if nothing.
-    std::string advice;
+    std::string advice = {};
 
     friend bool operator==(const ReportLine&, const ReportLine&) = default;
 };
@@ -45,6 +45,8 @@ std::vector<ReportLine> sessionReport(const SessionFacts& facts);
 
 /// Lines with their ends: "ok  ...", "no  ...", "?   ...", the advice below, moved to the right.
 std::string reportText(const std::vector<ReportLine>& report);
+/// The report of such a text; what is no line of one is left out.
+std::vector<ReportLine> reportOf(std::string_view text);
 
 /// 1 if something does not work, else 2 if that of something is uncertain, else 0.
 int reportStatus(const std::vector<ReportLine>& report);

@@ -13,6 +13,7 @@
 #include "app/panels/AboutPanel.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/panels/RecordHerePanel.h"
+#include "app/panels/StatusPanel.h"
 #include "app/panels/WelcomePanel.h"
 #include "app/shortcuts/ShortcutTitles.h"
 #include "app/tray/MacroMenuItem.h"
@@ -53,6 +54,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_overlayDesk(m_stage, services.clock, services.hotKeys, services.layers),
       m_updateDesk(services.updateService, services.workspace, m_dialogs),
       m_helpDesk(services.workspace, services.systemFacts, m_stage),
+      m_statusDesk(m_stage),
       m_filesDesk(services.macroFiles, services.notifications, m_scriptNotices, m_dialogs, m_gate, m_stage),
       m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, library, m_dialogs,
                         m_stage),
@@ -197,6 +199,6 @@ void AppController::noteHotKey(HotKeyId id, const HotKeyState& state) {
 }
 
 std::vector<QWidget*> AppController::ordinaryWindows() const {
-    return {multiplePlayWindow(), preferencesWindow(), aboutPanel(),   welcomePanel(),
+    return {multiplePlayWindow(), preferencesWindow(), aboutPanel(),   statusPanel(),      welcomePanel(),
             recordHerePanel(),    macrosWindow(),      splashWindow(), statusItem.window()};
 }

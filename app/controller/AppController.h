@@ -25,6 +25,7 @@
 #include "app/controller/ScriptNotices.h"
 #include "app/controller/ScriptQuestions.h"
 #include "app/controller/Stage.h"
+#include "app/controller/StatusDesk.h"
 #include "app/controller/StatusNotice.h"
 #include "app/controller/UpdateDesk.h"
 #include "engine/SharedController.h"
@@ -138,6 +139,7 @@ class AppController : public QObject, public SharedController {
     void getSupport(QObject* sender);
     void sendFeedback(QObject* sender);
     void reportABug(QObject* sender);
+    void showStatus(QObject* sender);
     void openOrlenWebsite(QObject* sender);
     void openForum(QObject* sender);
     void openKeyrillWebsite(QObject* sender);
@@ -181,6 +183,7 @@ class AppController : public QObject, public SharedController {
     OverlayDesk m_overlayDesk;
     UpdateDesk m_updateDesk;
     HelpDesk m_helpDesk;
+    StatusDesk m_statusDesk;
     FilesDesk m_filesDesk;
     PreferencesDesk m_preferencesDesk;
     AccessDesk m_accessDesk;
@@ -211,6 +214,7 @@ class AppController : public QObject, public SharedController {
     SplashWindow& builtSplashWindow() { return m_overlayDesk.builtSplash(); }
     PreferencesPanel* preferencesWindow() const { return m_preferencesDesk.panel(); }
     AboutPanel* aboutPanel() const { return m_helpDesk.aboutPanel(); }
+    StatusPanel* statusPanel() const { return m_statusDesk.panel(); }
     RecordHerePanel* recordHerePanel() const { return m_recordHereDesk.panel(); }
     MacrosWindow* macrosWindow() const { return m_macrosDesk.window(); }
     WelcomePanel* welcomePanel() const { return m_welcomePanel.get(); }

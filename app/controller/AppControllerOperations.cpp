@@ -67,6 +67,7 @@ constexpr std::array menuOperations = {
     MenuOperation{"support", send<&AppController::getSupport>},
     MenuOperation{"feedback", send<&AppController::sendFeedback>},
     MenuOperation{"bug", send<&AppController::reportABug>},
+    MenuOperation{"status", send<&AppController::showStatus>},
     MenuOperation{"update", checkForUpdatesNow},
     MenuOperation{"about", send<&AppController::aboutKeyrill>},
     MenuOperation{.name = "quit", .perform = quit, .alsoWhileTheGateIsShut = true},
@@ -295,6 +296,8 @@ void AppController::getSupport(QObject* /*sender*/) { m_helpDesk.askForSupport()
 void AppController::sendFeedback(QObject* /*sender*/) { m_helpDesk.sendFeedback(); }
 
 void AppController::reportABug(QObject* /*sender*/) { m_helpDesk.reportABug(); }
+
+void AppController::showStatus(QObject* /*sender*/) { m_statusDesk.show(); }
 
 void AppController::openOrlenWebsite(QObject* /*sender*/) { m_helpDesk.openMakersWebsite(); }
 

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <map>
 
+#include "app/check/SessionReport.h"
 #include "app/controller/StatusNotice.h"
 #include "app/gallery/Camera.h"
 #include "app/gallery/Examples.h"
@@ -18,6 +19,7 @@
 #include "app/overlay/SplashWindow.h"
 #include "app/panels/AboutPanel.h"
 #include "app/panels/PreferencesPanel.h"
+#include "app/panels/StatusPanel.h"
 #include "app/panels/WelcomePanel.h"
 #include "app/shortcuts/CombinationText.h"
 #include "app/shortcuts/PreferencesModel.h"
@@ -153,6 +155,33 @@ void takeControlWindow(Camera& camera) {
     camera.takeShown({&window}, QStringLiteral("control-window-notice"));
 }
 
+/// A session in which not all is as it might be.
+void takeStatus(Camera& camera) {
+    const auto fully = [](Means means) { return CapabilityState{Extent::fully, means, Lack::nothing}; };
+    SessionFacts facts;
+    facts.kind = "x11";
+    facts.capabilities = {.recording = fully(Means::xInput),
+                          .hotKeys = fully(Means::xGrab),
+                          .pressing = fully(Means::xTest),
+                          .text = fully(Means::xTest),
+                          .clipboard = fully(Means::xSelection),
+                          .overlay = fully(Means::xWindow),
+                          .windows = fully(Means::windowManager),
+                          .tray = {Extent::nothing, Means::none, Lack::tray}};
+    facts.details = {.display = ":0", .parts = {{"XInput 2.2", true}, {"XTEST", true}}, .layouts = {"us"}};
+    facts.hasSessionBus = true;
+    facts.isRunning = true;
+    facts.hotKeys = {{.shortcut = 0, .combination = "Ctrl+Super+R", .finding = HotKeyFinding::ours},
+                     {.shortcut = 1,
+                      .combination = "Ctrl+Super+S",
+                      .finding = HotKeyFinding::taken,
+                      .why = {"Another program has it.", ""}}};
+    StatusPanel status;
+    status.setReport(sessionReport(facts));
+    camera.take(status, QStringLiteral("status"));
+    status.hide();
+}
+
 }  // namespace
 
 void takePanels(Camera& camera) {
@@ -165,6 +194,7 @@ void takePanels(Camera& camera) {
     AboutPanel about;
     camera.take(about, QStringLiteral("about"));
     about.hide();
+    takeStatus(camera);
     SplashWindow splash;
     splash.show();
     splash.splashAnim().stopRendering();

@@ -108,6 +108,7 @@ inline constexpr std::array menuRows = {
     helpRow("support", QT_TRANSLATE_NOOP("StatusMenu", "Get Support")),
     helpRow("feedback", QT_TRANSLATE_NOOP("StatusMenu", "Send Feedback")),
     helpRow("bug", QT_TRANSLATE_NOOP("StatusMenu", "Report a Bug")),
+    helpRow("status", QT_TRANSLATE_NOOP("StatusMenu", "What Works Here")),
     separatorRow(true),
     helpRow("update", QT_TRANSLATE_NOOP("StatusMenu", "Check for Updates..."), features::updateCheck),
     helpRow("about", QT_TRANSLATE_NOOP("StatusMenu", "About Keyrill")),

@@ -3,6 +3,7 @@
 // What `keyrill --check` tells of a session, beside what another program there sees of it.
 #include <fstream>
 
+#include "desktop/Assistant.h"
 #include "desktop/DesktopTest.h"
 #include "support/Programs.h"
 #include "support/XServer.h"
@@ -194,6 +195,30 @@ TEST_F(LackTest, withoutRecordHeldKeysCountOnce) {
                    "held is recorded once."))
         << report.text;
     EXPECT_TRUE(report.has("ok  Hot key of \"Play\": Ctrl+Super+P, which nobody else has")) << report.text;
+}
+
+TEST(StatusPanelTest, saysWhatTheCheckSaysAndCanBeCopied) {
+    Desktop desktop;
+    letAssistantsIn(desktop);
+    desktop.startWindowManager();
+    // Without a tray the menu is in a window.
+    desktop.writeSettings("notFirstRun=true\n");
+    Keyrill keyrill(desktop);
+    const auto assist = [&](const std::vector<std::string>& words) {
+        return desktop.run(assistantCall(keyrill.child(), words));
+    };
+    assist({"press", "What Works Here"});
+    assist({"await", "Works: Recording: by XInput"});
+    assist({"press", "Copy"});
+    const std::string report = checkIn(desktop).text;
+    EXPECT_NE(report, "");
+    // Nobody may have anything to give yet.
+    const auto copied = [&desktop] {
+        Child xclip({"xclip", "-selection", "clipboard", "-out"}, desktop.options("copied"));
+        xclip.wait();
+        return contentOf(desktop.file("copied"));
+    };
+    EXPECT_TRUE(eventually([&] { return copied() == report; })) << copied() << report;
 }
 
 TEST(NoSessionTest, isToldAndCannotWork) {

@@ -65,18 +65,18 @@ BEGIN {
     app("dialogs", "app/icons app/widgets platform")
     app("check", "app/shortcuts prefs platform")
     app("overlay", "app/icons app/widgets platform")
-    app("panels", "app/shortcuts app/widgets platform")
+    app("panels", "app/check app/shortcuts app/widgets platform")
     app("macros", "app/shortcuts app/widgets library/steps core platform platform/script/code platform/script/commands" \
                   " platform/script/source")
     app("tray", "app/icons app/widgets platform")
     app("library", "library engine prefs core platform")
-    app("controller", "app/dialogs app/library app/macros app/overlay app/panels app/shortcuts app/tray app/widgets" \
+    app("controller", "app/check app/dialogs app/library app/macros app/overlay app/panels app/shortcuts app/tray app/widgets" \
                       " library library/steps engine prefs core platform")
     # Joins the controllers with services and event loop; programs are made of it.
     app("program", "app/check app/controller app/dialogs app/library app/tray library platform platform/linux" \
                    " platform/script/run platform/sessions")
     app("demonstration", "app/program engine core")
-    app("gallery", "app/program app/controller app/dialogs app/icons app/macros app/overlay app/panels app/shortcuts" \
+    app("gallery", "app/check app/program app/controller app/dialogs app/icons app/macros app/overlay app/panels app/shortcuts" \
                    " app/tray engine core platform")
     room("app", "app/program", "", "^(boost/|xcb/|X11/|xkbcommon/|wayland)")
     # A service of its own, with as little as can be.

@@ -57,6 +57,15 @@ TEST_F(HotKeyProbeTest, whatIsNotChosenIsUnset) {
     EXPECT_EQ(facts[2].combination, "");
 }
 
+TEST_F(HotKeyProbeTest, inTheFirstRunTheProgramHasWhatIsNotStoredYet) {
+    platform.hotKeys.otherProgramHolds(key::p, modifier::control | modifier::command);
+    const auto facts =
+        probeHotKeys(platform.settings, platform.hotKeys, platform.keyboardLayout, {"record", "play"});
+    EXPECT_EQ(facts[2].combination, "Ctrl+Super+P");
+    EXPECT_EQ(facts[2].finding, HotKeyFinding::ours);
+    EXPECT_EQ(facts[1].finding, HotKeyFinding::unset);
+}
+
 TEST_F(HotKeyProbeTest, twoOfOneCombinationAreNotInEachOthersWay) {
     choose("stop", key::r);
     const auto facts = probeHotKeys(platform.settings, platform.hotKeys, platform.keyboardLayout, {});

@@ -85,6 +85,18 @@ TEST(SessionReportTest, whatWorksInPartTellsHowAndWhatIsLost) {
     EXPECT_EQ(statusOf(facts), 1);
 }
 
+TEST(SessionReportTest, isReadAsItIsPrinted) {
+    SessionFacts facts = goodSession();
+    facts.hasSessionBus = false;
+    facts.capabilities.tray = {Extent::nothing, Means::none, Lack::tray};
+    facts.hotKeys[1].finding = HotKeyFinding::uncertain;
+    const auto report = sessionReport(facts);
+    EXPECT_EQ(reportOf(reportText(report)), report);
+    EXPECT_EQ(reportOf("a warning\n" + reportText(report)), report);
+    EXPECT_TRUE(reportOf("").empty());
+    EXPECT_TRUE(reportOf("        advice without a line\n").empty());
+}
+
 TEST(SessionReportTest, aCombinationThatAnotherProgramHoldsFails) {
     SessionFacts facts = goodSession();
     facts.hotKeys[0].finding = HotKeyFinding::taken;

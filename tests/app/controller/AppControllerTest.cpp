@@ -273,7 +273,7 @@ TEST_F(AppControllerTest, hasTheHelpMenuInItsOrder) {
     const std::string updates = features::updateCheck ? "Check for Updates..., " : "";
     EXPECT_EQ(titles.join(QStringLiteral(", ")).toStdString(),
               "Documentation, Forum, Product Page, Maker's Website, -, Get Support, Send Feedback, Report a "
-              "Bug, -, " +
+              "Bug, What Works Here, -, " +
                   updates + "About Keyrill");
 }
 
