@@ -6,6 +6,7 @@
 
 #include "platform/KeyEvent.h"
 #include "platform/Result.h"
+#include "platform/Windows.h"
 
 class WindowKeys;
 
@@ -50,6 +51,12 @@ class EventMonitor {
     /// While a question of the program's own is open: key presses are not delivered and hot keys are dropped,
     /// modifier changes go on.
     virtual void setWithheld(bool withheld) = 0;
+
+    /// What is withheld now is what that window of ours gets, which has the keyboard to itself, as a menu
+    /// has: what it no longer gets is delivered, though setWithheld() may follow later. Until that is called.
+    ///
+    /// Why: the window is told last that it has let go of the keyboard, and whoever types does not wait.
+    virtual void withholdOnlyFor(WindowId /*window*/) {}
 
     /// Whether the strokes of a running script are delivered after the run like the user's own. Set while a
     /// macro is being recorded; off at first.

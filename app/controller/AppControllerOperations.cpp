@@ -142,7 +142,8 @@ Result<> AppController::carryOut(const ActionRow& action) {
 // Status item and menus
 
 void AppController::connectMenu() {
-    connect(&statusMenu, &StatusMenu::shown, this, [this](bool open) { m_gate.setMenuOpen(open); });
+    connect(&statusMenu, &StatusMenu::shown, this,
+            [this](bool open) { m_gate.setMenuOpen(open, static_cast<WindowId>(statusMenu.winId())); });
     for (const MenuOperation& operation : menuOperations) {
         QAction* const item = statusMenu.item(menuRowNamed(operation.name));
         if (item == nullptr) continue;

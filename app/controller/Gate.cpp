@@ -28,11 +28,15 @@ void Gate::setLocked(bool locked) {
     follow(wasOpen);
 }
 
-void Gate::setMenuOpen(bool open) {
+void Gate::setMenuOpen(bool open, WindowId window) {
+    m_menu = window;
     if (std::exchange(m_menuOpen, open) != open) withhold();
 }
 
-void Gate::withhold() { m_monitor.setWithheld(!isOpen() || m_menuOpen); }
+void Gate::withhold() {
+    m_monitor.setWithheld(!isOpen() || m_menuOpen);
+    if (isOpen() && m_menuOpen) m_monitor.withholdOnlyFor(m_menu);
+}
 
 void Gate::follow(bool wasOpen) {
     if (wasOpen != isOpen()) {

@@ -3,6 +3,8 @@
 
 #include <functional>
 
+#include "platform/Windows.h"
+
 class EventMonitor;
 
 /// Shut while a question of the program's own is open or the screen is locked.
@@ -25,8 +27,8 @@ class Gate {
     void setLocked(bool locked);
 
     /// While the program's own menu is open key presses and hot keys are the menu's; the commands that are
-    /// chosen in it are carried out all the same.
-    void setMenuOpen(bool open);
+    /// chosen in it are carried out all the same. `window` is its own.
+    void setMenuOpen(bool open, WindowId window);
 
   private:
     void follow(bool wasOpen);
@@ -37,4 +39,5 @@ class Gate {
     int m_questions = 0;
     bool m_locked = false;
     bool m_menuOpen = false;
+    WindowId m_menu = Windows::none;
 };

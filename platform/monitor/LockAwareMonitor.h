@@ -33,6 +33,7 @@ class LockAwareMonitor final : public EventSource, public EventMonitor {
     Result<void> showsKeys() const override { return m_monitor.showsKeys(); }
     Result<void> install(Handler handler) override;
     void setWithheld(bool withheld) override { m_monitor.setWithheld(withheld); }
+    void withholdOnlyFor(WindowId window) override { m_monitor.withholdOnlyFor(window); }
     void setKeepsOwnStrokes(bool keeps) override { m_monitor.setKeepsOwnStrokes(keeps); }
     void setRecording(bool recording) override;
     void setShowsModifierKeys(bool shows) override { m_monitor.setShowsModifierKeys(shows); }

@@ -47,4 +47,9 @@ struct RepeatDelay {
     std::int32_t milliseconds = 0;
 };
 
-using MonitorEvent = std::variant<RawKey, StateChange, KeymapTouched, KeyboardGone, RepeatDelay>;
+/// The followed window has taken the keyboard to itself or has let go of it.
+struct WindowHold {
+    bool holds = false;
+};
+
+using MonitorEvent = std::variant<RawKey, StateChange, KeymapTouched, KeyboardGone, RepeatDelay, WindowHold>;

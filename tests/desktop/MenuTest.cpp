@@ -130,6 +130,34 @@ TEST_F(OwnMenuTest, itsKeysAreNotRecorded) {
     desktop.awaitWindow(title::overlay);
 }
 
+/// Whoever chooses Record by the keyboard goes on typing at once: what the menu still gets is not typed, and
+/// what is typed is recorded.
+TEST_F(OwnMenuTest, whatIsTypedAsSoonAsItClosesIsRecorded) {
+    const Terminal terminal(desktop.display());
+    const Keyrill keyrill(desktop);
+    StatusMenuClicks menu(desktop);
+    const Hands hands(desktop.display());
+    const Typist typist(hands, Typist::Gap(0));
+    constexpr int times = 6;
+    constexpr int taps = 60;
+    std::size_t typed = 0;
+    for (int i = 0; i < times; ++i) {
+        menu.open();
+        press("Down");
+        hands.press(xkey::returnKey);
+        // As fast as the server takes them one by one, so that some come while the menu closes.
+        for (int tap = 0; tap < taps; ++tap) typist.tap(xkey::a);
+        hands.release(xkey::returnKey);
+        desktop.awaitWindow(title::overlay);
+        typist.tap(xkey::period);
+        const auto newlyTyped = [&] { return terminal.typed().substr(typed); };
+        ASSERT_TRUE(eventually([&] { return newlyTyped().ends_with('.'); }));
+        stop();
+        EXPECT_EQ(keyLines(savedMacro(desktop)), newlyTyped().size());
+        typed += newlyTyped().size();
+    }
+}
+
 /// The toolkit notices only after a while that none of the program's windows is in use any longer, and closes
 /// menus then.
 TEST_F(OwnMenuTest, staysOpenRightAfterAWindowOfTheProgramHasClosed) {

@@ -95,6 +95,8 @@ void EventOrder::handle(const KeymapTouched&) { m_keymapTouched(); }
 
 void EventOrder::handle(const RepeatDelay& delay) { m_interpreter.setRepeatDelay(delay.milliseconds); }
 
+void EventOrder::handle(const WindowHold& hold) { m_interpreter.setMuted(hold.holds); }
+
 void EventOrder::handle(const KeyboardGone& gone) {
     m_rules.hands.keyboardGone(gone.source);
     m_interpreter.keyboardGone(gone.source, m_lastTime);

@@ -56,6 +56,7 @@ class EventOrder {
     void handle(const KeymapTouched&);
     void handle(const KeyboardGone& gone);
     void handle(const RepeatDelay& delay);
+    void handle(const WindowHold& hold);
 
     bool takeRepeatPair(const RawKey& release);
     KeyOrigin originOf(const RawKey& press, bool own);

@@ -17,6 +17,12 @@ constexpr std::uint16_t watchedKeyboardEvents =
     XCB_XKB_EVENT_TYPE_CONTROLS_NOTIFY;
 constexpr std::uint16_t allMapParts = 0xFF;
 
+/// As a request has it.
+struct Selection {
+    xcb_input_event_mask_t header;
+    std::uint32_t mask;
+};
+
 }  // namespace
 
 Result<std::unique_ptr<RawKeySource>> RawKeySource::open(const std::string& display) {
@@ -43,10 +49,6 @@ Result<void> RawKeySource::setUp() {
 }
 
 void RawKeySource::selectInputEvents() const {
-    struct Selection {
-        xcb_input_event_mask_t header;
-        std::uint32_t mask;
-    };
     const Selection keys{{XCB_INPUT_DEVICE_ALL_MASTER, 1},
                          XCB_INPUT_XI_EVENT_MASK_RAW_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE};
     const Selection devices{{XCB_INPUT_DEVICE_ALL, 1}, XCB_INPUT_XI_EVENT_MASK_HIERARCHY};
@@ -57,6 +59,19 @@ void RawKeySource::selectInputEvents() const {
 void RawKeySource::selectKeyboardEvents() const {
     xcb_xkb_select_events(m_connection, XCB_XKB_ID_USE_CORE_KBD, watchedKeyboardEvents, 0,
                           watchedKeyboardEvents, allMapParts, allMapParts, nullptr);
+}
+
+void RawKeySource::followHoldOf(xcb_window_t window) {
+    if (m_followed != XCB_WINDOW_NONE) selectHoldEvents(0);
+    m_followed = window;
+    if (m_followed != XCB_WINDOW_NONE)
+        selectHoldEvents(XCB_INPUT_XI_EVENT_MASK_FOCUS_IN | XCB_INPUT_XI_EVENT_MASK_FOCUS_OUT);
+    xcb_flush(m_connection);
+}
+
+void RawKeySource::selectHoldEvents(std::uint32_t mask) const {
+    const Selection selection{{XCB_INPUT_DEVICE_ALL_MASTER, 1}, mask};
+    xcb_input_xi_select_events(m_connection, m_followed, 1, &selection.header);
 }
 
 bool RawKeySource::read() {
@@ -86,6 +101,10 @@ void RawKeySource::decode(const Event& event) {
             return decodeKey(event, true);
         case XCB_INPUT_RAW_KEY_RELEASE:
             return decodeKey(event, false);
+        case XCB_INPUT_FOCUS_IN:
+            return decodeFocus(event, true);
+        case XCB_INPUT_FOCUS_OUT:
+            return decodeFocus(event, false);
         case XCB_INPUT_HIERARCHY:
             return decodeHierarchy(event);
         default:
@@ -116,6 +135,13 @@ void RawKeySource::decodeKey(const Event& event, bool press) {
                                  .source = key.sourceid,
                                  .synthetic = isSynthetic(key.sourceid),
                                  .time = key.time});
+}
+
+/// A grab moves the focus in words, which no other move of it is (XInput 2, FocusIn).
+void RawKeySource::decodeFocus(const Event& event, bool in) {
+    const auto& focus = event.body<xcb_input_focus_in_event_t>();
+    const auto mode = in ? XCB_INPUT_NOTIFY_MODE_GRAB : XCB_INPUT_NOTIFY_MODE_UNGRAB;
+    if (focus.event == m_followed && focus.mode == mode) m_events.emplace_back(WindowHold{in});
 }
 
 void RawKeySource::decodeHierarchy(const Event& event) {

@@ -30,6 +30,9 @@ class RawKeySource {
     bool read();
     /// Waits until all that the server has done so far is in events().
     void catchUp();
+    /// From now on the events tell, in their place among the keys, when that window takes the keyboard to
+    /// itself and when it lets go of it; XCB_WINDOW_NONE ends it.
+    void followHoldOf(xcb_window_t window);
 
     /// Keymap and state of now.
     Result<std::unique_ptr<Keymap>> keymap() const { return keymapOfServer(m_connection); }
@@ -43,8 +46,10 @@ class RawKeySource {
     Result<void> setUp();
     void selectInputEvents() const;
     void selectKeyboardEvents() const;
+    void selectHoldEvents(std::uint32_t mask) const;
     void decode(const Event& event);
     void decodeKey(const Event& event, bool press);
+    void decodeFocus(const Event& event, bool in);
     void decodeHierarchy(const Event& event);
     void decodeState(const Event& event);
     void noteRepeatDelay();
@@ -54,6 +59,7 @@ class RawKeySource {
     std::uint8_t m_inputOpcode = 0;
     std::uint8_t m_keyboardEvent = 0;
     xcb_atom_t m_xtestMark = XCB_ATOM_NONE;
+    xcb_window_t m_followed = XCB_WINDOW_NONE;
     std::map<std::uint16_t, bool> m_synthetic;
     WipedQueue<MonitorEvent> m_events;
 };

@@ -28,6 +28,7 @@ Result<void> X11EventManager::install(EventMonitor::Handler handler) {
 }
 
 void X11EventManager::setWithheld(bool withheld) { m_parts->setWithheld(withheld); }
+void X11EventManager::withholdOnlyFor(WindowId window) { m_parts->withholdOnlyFor(window); }
 void X11EventManager::setKeepsOwnStrokes(bool keeps) { m_parts->setKeepsOwnStrokes(keeps); }
 
 void X11EventManager::setShowsModifierKeys(bool shows) { m_parts->setShowsModifierKeys(shows); }

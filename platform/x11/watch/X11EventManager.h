@@ -56,6 +56,7 @@ class X11EventManager final : public EventSource, public EventMonitor, public Ho
     std::optional<Error> shortcoming() const override { return problem(); }
     Result<void> install(EventMonitor::Handler handler) override;
     void setWithheld(bool withheld) override;
+    void withholdOnlyFor(WindowId window) override;
     void setKeepsOwnStrokes(bool keeps) override;
     void setShowsModifierKeys(bool shows) override;
     void setRecording(bool recording) override;

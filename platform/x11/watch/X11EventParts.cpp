@@ -242,6 +242,7 @@ void X11EventManager::Parts::restoreHotKeysOf(std::uint8_t keycode) {
 
 void X11EventManager::Parts::setWithheld(bool withheld) {
     catchUp();
+    m_raw->followHoldOf(XCB_WINDOW_NONE);
     m_interpreter.setMuted(withheld);
 }
 

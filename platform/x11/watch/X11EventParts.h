@@ -56,6 +56,7 @@ class X11EventManager::Parts final : public RunWatch {
 
     Deliverer& deliverer() { return m_deliverer; }
     void setWithheld(bool withheld);
+    void withholdOnlyFor(WindowId window) { m_raw->followHoldOf(window); }
     void setKeepsOwnStrokes(bool keeps);
     void setShowsModifierKeys(bool shows);
     void setRecording(bool recording);

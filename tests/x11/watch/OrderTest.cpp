@@ -156,6 +156,30 @@ TEST_F(OrderTest, whatIsPressedBeforeKeysAreWithheldAndAfterwardsIsDelivered) {
                                 "mask 0x0", "down 0 a 0x0", "up 0"}));
 }
 
+/// The menu's own keys are withheld, and it is told last that it has let go of the keyboard.
+TEST_F(OrderTest, whatAMenuNoLongerGetsIsDeliveredThoughItIsStillWithheld) {
+    const CoreClient menu(world().display());
+    const CoreClient application(world().display());
+    for (int i = 0; i < 2; ++i) {
+        world().monitor().setWithheld(true);
+        world().monitor().withholdOnlyFor(menu.window());
+        menu.grabKeyboard();
+        hands().tap(xkey::a);
+        hands().finish();
+        menu.ungrabKeyboard();
+        hands().tap(xkey::b);
+        hands().finish();
+        world().monitor().setWithheld(false);
+        hands().tap(xkey::s);
+        EXPECT_EQ(delivered(), (Log{"down 11 b 0x0", "up 11", "down 1 s 0x0", "up 1"}));
+    }
+    world().monitor().setWithheld(true);
+    menu.grabKeyboard();
+    menu.ungrabKeyboard();
+    hands().tap(xkey::a);
+    EXPECT_EQ(delivered(), Log{});
+}
+
 TEST_F(OrderTest, keysThatAreDownAtTheStartCount) {
     hands().press(xkey::shift);
     hands().finish();
