@@ -59,9 +59,9 @@ class Macro {
     std::string rangeText(std::size_t first, std::size_t last) const;
 
     /// In blocks, because a vector would move all of them now and then, at the cost of one key press; large
-    /// enough that the list of blocks, which a deque moves, stays short, and no burden to macros of a few
-    /// keys.
-    using Blocks = boost::container::deque_options_t<boost::container::block_size<256U>>;
+    /// enough that the list of blocks, which a deque moves, stays short, and no burden to the many macros of
+    /// a few keys that a history has: half a kilobyte each.
+    using Blocks = boost::container::deque_options_t<boost::container::block_size<32U>>;
     boost::container::deque<boost::shared_ptr<Action>, void, Blocks> m_actions;
     int m_macroId = 0;
 

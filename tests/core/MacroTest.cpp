@@ -75,7 +75,7 @@ TEST_P(MacroTest, aFewKeysTakeLittleMemory) {
     for (Macro& one : history) one.addAction(createKeyCode(0, "a", 'a'));
     const std::size_t taken = allocated() - before;
     EXPECT_GE(taken, macros * sizeof(Macro)) << "it is not counted";
-    EXPECT_LT(taken / macros, 8192U);
+    EXPECT_LT(taken / macros, 1024U);
 }
 
 TEST_P(MacroTest, hasAScriptWithoutActionsToo) {
