@@ -12,26 +12,30 @@
 
 namespace {
 
-QString tr(const char* text) { return QCoreApplication::translate("SessionReport", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(SessionReport)
+};
 
 QString joined(const std::vector<std::string>& words) {
     QStringList list;
     for (const std::string& word : words) list.append(QString::fromStdString(word));
-    return list.join(QStringLiteral(", "));
+    //: between the names of a list
+    return list.join(Words::tr(", "));
 }
 
 ReportLine line(Verdict verdict, const QString& title, const QString& text, const QString& advice = {}) {
-    return {verdict, (title + QStringLiteral(": ") + text).toStdString(), advice.toStdString()};
+    //: a line of keyrill --check: what was looked at, and what was found
+    return {verdict, Words::tr("%1: %2").arg(title, text).toStdString(), advice.toStdString()};
 }
 
 ReportLine sessionLine(const SessionFacts& facts) {
-    const QString title = tr("Session");
+    const QString title = Words::tr("Session");
     if (facts.noSession) {
         return line(Verdict::fails, title, QString::fromStdString(facts.noSession->message),
                     QString::fromStdString(facts.noSession->hint));
     }
     return line(Verdict::works, title,
-                tr("%1, display %2")
+                Words::tr("%1, display %2")
                     .arg(QString::fromStdString(facts.kind), QString::fromStdString(facts.details.display)));
 }
 
@@ -40,9 +44,10 @@ ReportLine partsLine(const SessionDetails& details) {
     std::vector<std::string> there;
     std::vector<std::string> missing;
     for (const auto& part : details.parts) (part.isThere ? there : missing).push_back(part.name);
-    const QString title = tr("Parts");
+    const QString title = Words::tr("Parts");
     if (missing.empty()) return line(Verdict::works, title, joined(there));
-    return line(Verdict::fails, title, tr("missing: %1; there: %2").arg(joined(missing), joined(there)));
+    return line(Verdict::fails, title,
+                Words::tr("missing: %1; there: %2").arg(joined(missing), joined(there)));
 }
 
 struct CapabilityRow {
@@ -66,52 +71,59 @@ ReportLine capabilityLine(const CapabilityRow& row, const SessionCapabilities& c
     const CapabilityState& state = capabilities.*row.state;
     const QString means = meansWords(state.means);
     const LackWords words = lackWords(state.lack);
-    if (state.extent == Extent::fully) return line(Verdict::works, tr(row.title), means);
-    const QString text = means.isEmpty() ? words.loss : means + QStringLiteral(". ") + words.loss;
-    return line(Verdict::fails, tr(row.title), text, words.advice);
+    if (state.extent == Extent::fully) return line(Verdict::works, Words::tr(row.title), means);
+    //: by what it works, and what is missing all the same, which is a sentence
+    const QString text = means.isEmpty() ? words.loss : Words::tr("%1. %2").arg(means, words.loss);
+    return line(Verdict::fails, Words::tr(row.title), text, words.advice);
 }
 
 ReportLine hotKeyLine(const HotKeyFact& fact) {
-    const QString title = tr("Hot key of \"%1\"").arg(shortcutTitles(fact.shortcut).command);
+    const QString title = Words::tr("Hot key of \"%1\"").arg(shortcutTitles(fact.shortcut).command);
     const QString combination = QString::fromStdString(fact.combination);
     switch (fact.finding) {
         case HotKeyFinding::unset:
-            return line(Verdict::works, title, tr("none is chosen"));
+            return line(Verdict::works, title, Words::tr("none is chosen"));
         case HotKeyFinding::free:
-            return line(Verdict::works, title, tr("%1, which nobody else has").arg(combination));
+            return line(Verdict::works, title, Words::tr("%1, which nobody else has").arg(combination));
         case HotKeyFinding::ours:
-            return line(Verdict::works, title, tr("%1, which the running Keyrill has").arg(combination));
+            return line(Verdict::works, title,
+                        Words::tr("%1, which the running Keyrill has").arg(combination));
         case HotKeyFinding::taken:
             return line(Verdict::fails, title, QString::fromStdString(fact.why.message),
                         QString::fromStdString(fact.why.hint));
         case HotKeyFinding::uncertain:
             break;
     }
-    return line(Verdict::uncertain, title, tr("%1; the session does not tell who has it").arg(combination));
+    return line(Verdict::uncertain, title,
+                Words::tr("%1; the session does not tell who has it").arg(combination));
 }
 
 ReportLine busLine(bool isThere) {
-    const QString title = tr("Session bus");
-    if (isThere) return line(Verdict::works, title, tr("there"));
-    return line(Verdict::fails, title,
-                tr("There is none: \"keyrill --action\", notifications and many trays need it, and a locked "
-                   "screen is not noticed at once."),
-                tr("Start Keyrill from within the desktop session."));
+    const QString title = Words::tr("Session bus");
+    //: the session bus exists
+    if (isThere) return line(Verdict::works, title, Words::tr("there"));
+    return line(
+        Verdict::fails, title,
+        Words::tr("There is none: \"keyrill --action\", notifications and many trays need it, and a locked "
+                  "screen is not noticed at once."),
+        Words::tr("Start Keyrill from within the desktop session."));
 }
 
 ReportLine programLine(bool isRunning) {
-    return line(Verdict::works, tr("Keyrill"), isRunning ? tr("is running") : tr("is not running"));
+    return line(Verdict::works, Words::tr("Keyrill"),
+                isRunning ? Words::tr("is running") : Words::tr("is not running"));
 }
 
 QString locksWords(const std::vector<std::string>& locks) {
-    if (locks.empty()) return tr("no lock is on");
-    return tr("on: %1, which macros do not mind").arg(joined(locks));
+    if (locks.empty()) return Words::tr("no lock is on");
+    return Words::tr("on: %1, which macros do not mind").arg(joined(locks));
 }
 
 ReportLine keyboardLine(const SessionDetails& details) {
-    const QString layouts =
-        details.layouts.empty() ? tr("layout unknown") : tr("layout %1").arg(joined(details.layouts));
-    return line(Verdict::works, tr("Keyboard"), layouts + QStringLiteral("; ") + locksWords(details.locksOn));
+    const QString layouts = details.layouts.empty() ? Words::tr("layout unknown")
+                                                    : Words::tr("layout %1").arg(joined(details.layouts));
+    return line(Verdict::works, Words::tr("Keyboard"),  //: the keyboard layouts, and the locks that are on
+                Words::tr("%1; %2").arg(layouts, locksWords(details.locksOn)));
 }
 
 constexpr std::string_view adviceIndent = "        ";

@@ -32,7 +32,7 @@ void ScriptNotices::post(const QString& title, const ScriptFailure& failure) {
     if (!failure.error.hint.empty()) text += u'\n' + QString::fromStdString(failure.error.hint);
     // Who shows messages may answer when this is no more.
     m_notifications.post(title.toStdString(), text.toStdString(),
-                         [self = QPointer<ScriptNotices>(this), fault = title + QStringLiteral(". ") + text] {
+                         [self = QPointer<ScriptNotices>(this), fault = tr("%1. %2").arg(title, text)] {
                              if (self) self->m_status.setFault(fault);
                          });
 }

@@ -10,7 +10,9 @@
 
 namespace {
 
-QString tr(const char* text) { return QCoreApplication::translate("ShortcutNotices", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(ShortcutNotices)
+};
 
 bool works(const ShortcutFacts& shortcut) {
     return shortcut.state.status == HotKeyStatus::registered ||
@@ -30,35 +32,36 @@ QString refusal(const ShortcutFacts& refused, const AllShortcutFacts& all) {
         return refused.state.error ? QString::fromStdString(refused.state.error->message) : QString();
     }
     const QString command = shortcutTitles(static_cast<std::size_t>(holder - all.begin())).command;
-    return outlivesItsField(*holder) ? tr("Still used by %1 until Keyrill restarts.").arg(command)
-                                     : tr("Already used by %1.").arg(command);
+    return outlivesItsField(*holder) ? Words::tr("Still used by %1 until Keyrill restarts.").arg(command)
+                                     : Words::tr("Already used by %1.").arg(command);
 }
 
 /// What the desktop has made of a combination that it has not refused.
 QString answerText(HotKeyStatus status, const std::string& trigger) {
-    if (status == HotKeyStatus::pending) return tr("The desktop has not answered yet.");
+    if (status == HotKeyStatus::pending) return Words::tr("The desktop has not answered yet.");
     if (status != HotKeyStatus::changed) return {};
-    return trigger.empty() ? tr("Set in the desktop's settings.")
-                           : tr("Set in the desktop's settings: %1").arg(QString::fromStdString(trigger));
+    return trigger.empty()
+               ? Words::tr("Set in the desktop's settings.")
+               : Words::tr("Set in the desktop's settings: %1").arg(QString::fromStdString(trigger));
 }
 
 QString noticeFor(const ShortcutFacts& shortcut, const AllShortcutFacts& all) {
     if (outlivesItsField(shortcut)) {
-        return tr("%1 still works until Keyrill restarts.").arg(combinationText(shortcut.asked));
+        return Words::tr("%1 still works until Keyrill restarts.").arg(combinationText(shortcut.asked));
     }
     if (shortcut.field == KeyCombo()) return {};
     if (shortcut.state.status == HotKeyStatus::refused) return refusal(shortcut, all);
     if (!shortcut.macro.isEmpty())
-        return tr("Already used by macro \"%1\", which gives way.").arg(shortcut.macro);
+        return Words::tr("Already used by macro \"%1\", which gives way.").arg(shortcut.macro);
     return answerText(shortcut.state.status, shortcut.state.trigger);
 }
 
 QString conflictText(const HotKeyConflict& conflict) {
     switch (conflict.with) {
         case HotKeyConflict::With::shortcut:
-            return tr("Already used by %1.").arg(shortcutTitles(conflict.shortcut).command);
+            return Words::tr("Already used by %1.").arg(shortcutTitles(conflict.shortcut).command);
         case HotKeyConflict::With::macro:
-            return tr("Already used by macro \"%1\".").arg(macroName(conflict.macro));
+            return Words::tr("Already used by macro \"%1\".").arg(macroName(conflict.macro));
         case HotKeyConflict::With::other:
             break;
     }

@@ -8,7 +8,9 @@
 
 namespace {
 
-QString tr(const char* text) { return QCoreApplication::translate("Alerts", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Alerts)
+};
 
 /// What is wrong and, in a paragraph of its own, what to do.
 QString explained(const Error& error) {
@@ -18,7 +20,10 @@ QString explained(const Error& error) {
 }
 
 AlertText warning(const QString& title, const QString& message) {
-    return {.kind = AlertText::Kind::warning, .title = title, .message = message, .defaultButton = tr("OK")};
+    return {.kind = AlertText::Kind::warning,
+            .title = title,
+            .message = message,
+            .defaultButton = Words::tr("OK")};
 }
 
 AlertText warning(const QString& title, const Error& error) { return warning(title, explained(error)); }
@@ -27,8 +32,9 @@ QString nameOf(const QString& path) { return QFileInfo(path).fileName(); }
 
 AlertText updateAlert(const QString& yes, const QString& no) {
     return {.kind = AlertText::Kind::informational,
-            .title = tr("Keyrill Update Available"),
-            .message = tr("There is a new update available for Keyrill, would you like to download it now?"),
+            .title = Words::tr("Keyrill Update Available"),
+            .message =
+                Words::tr("There is a new update available for Keyrill, would you like to download it now?"),
             .defaultButton = yes,
             .alternateButton = no};
 }
@@ -41,76 +47,80 @@ AlertText sessionTooOld(const Error& error) {
     return {.kind = AlertText::Kind::stop,
             .title = QString::fromStdString(error.message),
             .message = QString::fromStdString(error.hint),
-            .defaultButton = tr("OK")};
+            .defaultButton = Words::tr("OK")};
 }
 
 AlertText noAccess(const Error& error) {
     const QString hint = error.hint.empty() ? QString() : QString::fromStdString(error.hint) + u' ';
     return {.kind = AlertText::Kind::critical,
             .title = QString::fromStdString(error.message),
-            .message = tr("Keyrill requires that programs can see and press keys in this session. ") + hint +
-                       tr("Please see the 'Configuration' section of the documentation for more "
+            .message =
+                Words::tr("Keyrill requires that programs can see and press keys in this session. ") + hint +
+                Words::tr("Please see the 'Configuration' section of the documentation for more "
                           "information.\n\nKeyrill must close, please restart it once this is possible.\n"),
-            .defaultButton = tr("Open Documentation now"),
-            .alternateButton = tr("Quit")};
+            .defaultButton = Words::tr("Open Documentation now"),
+            .alternateButton = Words::tr("Quit")};
 }
 
 AlertText cannotRecord(const Error& error) {
-    return warning(tr("Recording is not possible in this session yet"), error);
+    return warning(Words::tr("Recording is not possible in this session yet"), error);
 }
 
 AlertText recordingEnded(const Error& error, bool isSomethingKept) {
-    if (!isSomethingKept) return warning(tr("Nothing was recorded"), error);
-    return warning(tr("The recording has ended"),
-                   explained(error) + QStringLiteral("\n\n") + tr("What was recorded until then is kept."));
+    if (!isSomethingKept) return warning(Words::tr("Nothing was recorded"), error);
+    return warning(
+        Words::tr("The recording has ended"),
+        explained(error) + QStringLiteral("\n\n") + Words::tr("What was recorded until then is kept."));
 }
 
-AlertText updateAvailable() { return updateAlert(tr("YES"), tr("NO")); }
+AlertText updateAvailable() { return updateAlert(Words::tr("YES"), Words::tr("NO")); }
 
-AlertText updateAvailableSheet() { return updateAlert(tr("Yes"), tr("No")); }
+AlertText updateAvailableSheet() { return updateAlert(Words::tr("Yes"), Words::tr("No")); }
 
 AlertText noUpdate() {
     return {.kind = AlertText::Kind::informational,
-            .title = tr("No Update Available"),
-            .message = tr("You're currently running the latest version of Keyrill"),
-            .defaultButton = tr("OK")};
+            .title = Words::tr("No Update Available"),
+            .message = Words::tr("You're currently running the latest version of Keyrill"),
+            .defaultButton = Words::tr("OK")};
 }
 
 AlertText macroNotSaved(const QString& path, const Error& error) {
-    return warning(tr("The macro was not saved as \"%1\".").arg(nameOf(path)), error);
+    return warning(Words::tr("The macro was not saved as \"%1\".").arg(nameOf(path)), error);
 }
 
 AlertText macroNotLoaded(const QString& path, const Error& error) {
-    return warning(tr("No macro was loaded from \"%1\".").arg(nameOf(path)), error);
+    return warning(Words::tr("No macro was loaded from \"%1\".").arg(nameOf(path)), error);
 }
 
 AlertText replaceFile(const QString& path) {
     return {.kind = AlertText::Kind::warning,
-            .title = tr("\"%1\" is there already.").arg(nameOf(path)),
-            .message = tr("Do you want to replace it? What is in it will be lost."),
-            .defaultButton = tr("Replace"),
-            .alternateButton = tr("Cancel")};
+            .title = Words::tr("\"%1\" is there already.").arg(nameOf(path)),
+            .message = Words::tr("Do you want to replace it? What is in it will be lost."),
+            .defaultButton = Words::tr("Replace"),
+            .alternateButton = Words::tr("Cancel")};
 }
 
 AlertText noMacroFile(const QString& path) {
     return warning(
-        tr("\"%1\" is not a macro file.").arg(nameOf(path)),
-        tr("The names of Keyrill's macro files end with \".%1\".").arg(QLatin1String(macroSuffix)));
+        Words::tr("\"%1\" is not a macro file.").arg(nameOf(path)),
+        Words::tr("The names of Keyrill's macro files end with \".%1\".").arg(QLatin1String(macroSuffix)));
 }
 
 AlertText fileNotFound(const QString& path) {
-    return warning(tr("There is no file \"%1\".").arg(nameOf(path)),
-                   tr("Check the name, or choose one of the list."));
+    return warning(Words::tr("There is no file \"%1\".").arg(nameOf(path)),
+                   Words::tr("Check the name, or choose one of the list."));
 }
 
-AlertText settingsNotSaved(const Error& error) { return warning(tr("Your settings were not saved."), error); }
+AlertText settingsNotSaved(const Error& error) {
+    return warning(Words::tr("Your settings were not saved."), error);
+}
 
 AlertText loginItemNotSet(const Error& error) {
-    return warning(tr("Whether Keyrill starts when you log in could not be changed."), error);
+    return warning(Words::tr("Whether Keyrill starts when you log in could not be changed."), error);
 }
 
 AlertText settingsFault(const Error& error) {
-    return warning(tr("Something is wrong with your settings."), error);
+    return warning(Words::tr("Something is wrong with your settings."), error);
 }
 
 }  // namespace alerts

@@ -56,6 +56,7 @@ struct Sign {
 std::optional<Sign> signOf(const ScriptDialog& dialog) {
     switch (dialog.icon) {
         case ScriptDialog::Icon::stop:
+            //: the name of a picture: a stop sign
             return Sign{QStyle::SP_MessageBoxCritical, ScriptDialogWindow::tr("Stop")};
         case ScriptDialog::Icon::caution:
             return Sign{QStyle::SP_MessageBoxWarning, ScriptDialogWindow::tr("Caution")};

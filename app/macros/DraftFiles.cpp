@@ -6,7 +6,9 @@
 #include <unistd.h>
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QCryptographicHash>
+#include <QFile>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -19,6 +21,10 @@
 namespace {
 
 namespace fs = std::filesystem;
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(DraftFiles)
+};
 
 constexpr const char* ending = ".draft";
 constexpr mode_t fileMode = 0600;
@@ -71,7 +77,11 @@ Result<> DraftFiles::keep(const std::string& path, const std::string& text) cons
     if (error == 0 && std::rename(part.c_str(), whole.c_str()) != 0) error = errno;
     if (error == 0) return {};
     unlink(part.c_str());
-    return Error{"The folder " + m_folder + " cannot be written to: " + std::strerror(error) + ".", ""};
+    //: a folder, and why
+    return Error{Words::tr("The folder %1 cannot be written to: %2.")
+                     .arg(QFile::decodeName(m_folder.c_str()), QString::fromLocal8Bit(std::strerror(error)))
+                     .toStdString(),
+                 ""};
 }
 
 void DraftFiles::forget(const std::string& path) const { unlink(fileOf(path).c_str()); }

@@ -13,7 +13,9 @@ namespace {
 using steps::Step;
 using steps::StepKind;
 
-QString tr(const char* text) { return QCoreApplication::translate("MacroSteps", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(MacroSteps)
+};
 
 /// What is pressed or held.
 QString keyOf(const Step& step) {
@@ -35,7 +37,8 @@ QString numberText(double seconds) {
 }
 
 QString times(const QString& text, const Step& step) {
-    return step.repeats == 1 ? text : tr("%1 × %2").arg(text, QLocale().toString(qulonglong{step.repeats}));
+    return step.repeats == 1 ? text
+                             : Words::tr("%1 × %2").arg(text, QLocale().toString(qulonglong{step.repeats}));
 }
 
 }  // namespace
@@ -47,32 +50,35 @@ QString stepText(const Step& step) {
         case StepKind::key:
             return times(keyOf(step), step);
         case StepKind::pause:
-            return times(tr("Pause %1 s").arg(numberText(step.seconds)), step);
+            return times(Words::tr("Pause %1 s").arg(numberText(step.seconds)), step);
         case StepKind::text:
-            return times(tr("Text: %1").arg(typedText(step)), step);
+            return times(Words::tr("Text: %1").arg(typedText(step)), step);
         case StepKind::keyDown:
-            return tr("Hold %1").arg(keyOf(step));
+            //: a key that goes down and stays there
+            return Words::tr("Hold %1").arg(keyOf(step));
         case StepKind::keyUp:
-            return tr("Let go of %1").arg(keyOf(step));
+            return Words::tr("Let go of %1").arg(keyOf(step));
         case StepKind::question:
-            return tr("Ask: %1").arg(QString::fromStdString(step.text));
+            //: a dialog of a script, with its question
+            return Words::tr("Ask: %1").arg(QString::fromStdString(step.text));
         case StepKind::notification:
-            return tr("Tell: %1").arg(QString::fromStdString(step.text));
+            return Words::tr("Tell: %1").arg(QString::fromStdString(step.text));
     }
     return {};
 }
 
 QString stepSpeech(const Step& step) {
-    const QString count = QLocale().toString(qulonglong{step.repeats});
+    const int count = static_cast<int>(step.repeats);
     switch (step.kind) {
         case StepKind::typing:
-            return tr("Type %1").arg(QString::fromStdString(step.text));
+            return Words::tr("Type %1").arg(QString::fromStdString(step.text));
         case StepKind::key:
-            return step.repeats == 1 ? tr("Press %1").arg(keyOf(step))
-                                     : tr("Press %1 %2 times").arg(keyOf(step), count);
+            return step.repeats == 1 ? Words::tr("Press %1").arg(keyOf(step))
+                                     : Words::tr("Press %1 %Ln times", nullptr, count).arg(keyOf(step));
         case StepKind::pause:
-            return step.repeats == 1 ? tr("Wait %1 seconds").arg(numberText(step.seconds))
-                                     : tr("Wait %1 seconds, %2 times").arg(numberText(step.seconds), count);
+            return step.repeats == 1 ? Words::tr("Wait %1 seconds").arg(numberText(step.seconds))
+                                     : Words::tr("Wait %1 seconds, %Ln times", nullptr, count)
+                                           .arg(numberText(step.seconds));
         default:
             return stepText(step);
     }

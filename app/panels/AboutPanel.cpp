@@ -13,7 +13,8 @@ namespace {
 
 struct Library {
     std::string_view name;
-    std::string_view licence;
+    /// To be translated in the panel's context.
+    const char* licence = nullptr;
 };
 
 /// Not in builds without the update check.
@@ -21,9 +22,9 @@ constexpr std::string_view updateLibrary = "libcurl";
 
 /// What the program is linked with, and under which terms.
 constexpr Library libraries[] = {{"Qt 6", "LGPL 3"},
-                                 {"GLib", "LGPL 2.1 or later"},
+                                 {"GLib", QT_TRANSLATE_NOOP("AboutPanel", "LGPL 2.1 or later")},
                                  {"libxcb, libxkbcommon", "MIT"},
-                                 {updateLibrary, "curl licence"},
+                                 {updateLibrary, QT_TRANSLATE_NOOP("AboutPanel", "curl licence")},
                                  {"Boost", "Boost Software License 1.0"}};
 
 QString textOf(std::string_view text) {
@@ -72,7 +73,7 @@ QLayout* AboutPanel::makeLibraries() {
         if (!features::updateCheck && library.name == updateLibrary) continue;
         const int row = grid->rowCount();
         grid->addWidget(makeLine(textOf(library.name)), row, 0);
-        grid->addWidget(makeLine(textOf(library.licence)), row, 1);
+        grid->addWidget(makeLine(tr(library.licence)), row, 1);
     }
     return grid;
 }

@@ -18,8 +18,11 @@ constexpr double millisecondsPerSecond = 1000;
 
 PauseRow::PauseRow(PauseModel& model, QWidget* parent) : QWidget(parent) {
     auto* box = new QComboBox;
+    //: whether pauses are recorded: never, as long as they were when typed, or not longer than a number of
+    //: seconds
     box->addItem(tr("Never"), QVariant::fromValue(static_cast<int>(PauseRecording::never)));
     box->addItem(tr("As typed"), QVariant::fromValue(static_cast<int>(PauseRecording::asTyped)));
+    //: stands before a number of seconds
     box->addItem(tr("At most"), QVariant::fromValue(static_cast<int>(PauseRecording::atMost)));
     box->setAccessibleName(tr("Record pauses"));
 

@@ -15,18 +15,20 @@ consteval bool followMenuRows() {
 }
 static_assert(followMenuRows());
 
-QString tr(const char* text) { return QCoreApplication::translate("Actions", text); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(Actions)
+};
 
 /// What keeps everybody from giving commands.
 QString obstacleToAll(const MenuFacts& facts) {
-    if (facts.screenLocked) return tr("The screen is locked.");
-    if (facts.gateShut) return tr("Keyrill is asking something, which has to be answered first.");
+    if (facts.screenLocked) return Words::tr("The screen is locked.");
+    if (facts.gateShut) return Words::tr("Keyrill is asking something, which has to be answered first.");
     return {};
 }
 
 QString obstacleToPlaying(const MenuFacts& facts) {
-    if (facts.recording) return tr("A macro is being recorded.");
-    return facts.hasMacro ? QString() : tr("There is no macro to play yet.");
+    if (facts.recording) return Words::tr("A macro is being recorded.");
+    return facts.hasMacro ? QString() : Words::tr("There is no macro to play yet.");
 }
 
 }  // namespace
@@ -48,9 +50,11 @@ std::string actionNames() {
 
 QString obstacleTo(const ActionRow& action, const MenuFacts& facts) {
     if (QString toAll = obstacleToAll(facts); !toAll.isEmpty()) return toAll;
-    if (action.menuItem == "record" && facts.recording) return tr("A macro is being recorded already.");
-    if (action.menuItem == "stop" && !facts.recording) return tr("Nothing is being recorded or played.");
-    if (action.menuItem == "saveDelay" && !facts.overlayShown) return tr("Nothing is being recorded.");
+    if (action.menuItem == "record" && facts.recording)
+        return Words::tr("A macro is being recorded already.");
+    if (action.menuItem == "stop" && !facts.recording)
+        return Words::tr("Nothing is being recorded or played.");
+    if (action.menuItem == "saveDelay" && !facts.overlayShown) return Words::tr("Nothing is being recorded.");
     if (action.menuItem == "play" || action.menuItem == "multiplePlay") return obstacleToPlaying(facts);
     return {};
 }
