@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "app/languages/Catalogues.h"
 #include "app/program/ActionCall.h"
 #include "app/program/Backends.h"
 #include "app/program/Check.h"
@@ -13,6 +14,7 @@
 #include "app/program/ProgramInstance.h"
 #include "app/program/SessionBusCheck.h"
 #include "app/program/StartUp.h"
+#include "app/program/TerminalApplication.h"
 
 namespace {
 
@@ -44,26 +46,33 @@ int print(const std::string& text) {
     std::_Exit(status);
 }
 
+[[noreturn]] void answerAtTerminal(const CommandLine& wishes) {
+    const TerminalApplication terminal;
+    if (wishes.wish == CommandLine::Wish::help) end(print(usage(sessionKinds())));
+    if (wishes.wish == CommandLine::Wish::check) end(checkSession(wishes));
+    if (wishes.wish == CommandLine::Wish::list) end(listMacros(wishes));
+    if (wishes.wish == CommandLine::Wish::play) end(playMacro(wishes));
+    if (wishes.wish == CommandLine::Wish::show) end(showMacros(wishes));
+    end(askForAction(wishes));
+}
+
 }  // namespace
 
 // Nothing is touched before it is certain that this is the only one.
 int main(int argc, char* argv[]) {
     prepareProcess();
     const CommandLine wishes = readCommandLine({argv + std::min(argc, 1), argv + argc});
-    if (wishes.wish == CommandLine::Wish::help) return print(usage(sessionKinds()));
     if (wishes.wish == CommandLine::Wish::version) return print("keyrill " KEYRILL_VERSION "\n");
-    if (wishes.wish == CommandLine::Wish::check) end(checkSession(wishes));
-    if (wishes.wish == CommandLine::Wish::list) end(listMacros(wishes));
-    if (wishes.wish == CommandLine::Wish::play) end(playMacro(wishes));
-    if (wishes.wish == CommandLine::Wish::show) end(showMacros(wishes));
-    if (wishes.action) end(askForAction(wishes));
+    if (wishes.wish != CommandLine::Wish::start || wishes.action) answerAtTerminal(wishes);
     const auto session = enterSession(wishes.session);
     if (!session) {
+        const TerminalApplication terminal;
         const auto known = checkOwnOptions(wishes);
         return reportFailure(known ? session.error() : known.error());
     }
     avoidHangingSessionBus();
     const QApplication application(argc, argv);
+    const Catalogues catalogues;
     const CommandLine line = readCommandLine(argumentsOfProgram());
     const auto known = checkOptions(line);
     if (!known) return reportFailure(known.error());

@@ -27,7 +27,7 @@ find_program(WAYLAND_SCANNER wayland-scanner REQUIRED)
 # Draws the PNGs of icons and pictures.
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus LinguistTools)
 
 if(KEYRILL_BUILD_TESTS)
     find_package(GTest REQUIRED)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/program/ActionCall.h"
 
+#include <QCoreApplication>
 #include <QDBusError>
 #include <QVariantMap>
 #include <cstdlib>
@@ -13,6 +14,10 @@
 #include "app/tray/Actions.h"
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(ActionCall)
+};
 
 constexpr int notNowStatus = 2;
 
@@ -41,7 +46,7 @@ int askForAction(const CommandLine& line) {
     if (!reached) return reportFailure(reached.error());
     if (!program.isRunning()) {
         if (!actionNamed(*line.action)->startsProgram) {
-            reportFailure({"Keyrill is not running.", ""});
+            reportFailure({Words::tr("Keyrill is not running.").toStdString(), ""});
             return notNowStatus;
         }
         const auto started = program.start(line.session);

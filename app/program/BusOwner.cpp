@@ -14,7 +14,9 @@ namespace {
 
 constexpr int patienceInMilliseconds = 5000;
 
-QString text(const char* words) { return QCoreApplication::translate("BusOwner", words); }
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(BusOwner)
+};
 
 }  // namespace
 
@@ -31,9 +33,9 @@ bool ownerAnswers(const QDBusConnection& bus) {
 
 Error ownerIsSilent(const QDBusConnection& bus) {
     const QDBusReply<uint> process = bus.interface()->servicePid(bus::name);
-    if (!process.isValid()) return {text("Keyrill has ended without an answer.").toStdString(), {}};
-    return {text("Process %1, which has Keyrill's name on the session bus, does not answer.")
+    if (!process.isValid()) return {Words::tr("Keyrill has ended without an answer.").toStdString(), {}};
+    return {Words::tr("Process %1, which has Keyrill's name on the session bus, does not answer.")
                 .arg(process.value())
                 .toStdString(),
-            text("End it and start Keyrill again.").toStdString()};
+            Words::tr("End it and start Keyrill again.").toStdString()};
 }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/program/Check.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <iterator>
 #include <sstream>
@@ -81,10 +79,6 @@ int checkSession(const CommandLine& line) {
         return cannotTell;
     }
     avoidHangingSessionBus();
-    std::string name = "keyrill";
-    std::array<char*, 2> arguments = {name.data(), nullptr};
-    int count = 1;
-    const QCoreApplication application(count, arguments.data());
     const std::vector<ReportLine> report = sessionReport(factsOf(line));
     const std::string text = reportText(report);
     const bool isPrinted = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/program/CommandLine.h"
 
+#include <QCoreApplication>
+#include <QStringList>
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -12,6 +14,16 @@
 namespace {
 
 using Wish = CommandLine::Wish;
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
+
+QString shown(const std::string& argument) { return QString::fromStdString(argument); }
+
+Error refusal(const QString& message, const QString& hint) {
+    return {message.toStdString(), hint.toStdString()};
+}
 
 struct WishOption {
     std::string_view name;
@@ -81,10 +93,12 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
 
 Result<void> checkOptions(const CommandLine& line) {
     if (line.wish != Wish::play && (line.times || line.speed)) {
-        return Error{"--times and --speed say how --play plays.", "keyrill --help tells more."};
+        return refusal(Words::tr("--times and --speed say how --play plays."),
+                       Words::tr("keyrill --help tells more."));
     }
     if (line.unknown.empty()) return {};
-    return Error{"There is no option \"" + line.unknown.front() + "\".", "keyrill --help lists them."};
+    return refusal(Words::tr("There is no option \"%1\".").arg(shown(line.unknown.front())),
+                   Words::tr("keyrill --help lists them."));
 }
 
 Result<void> checkOwnOptions(CommandLine line) {
@@ -94,12 +108,13 @@ Result<void> checkOwnOptions(CommandLine line) {
 
 Result<void> checkAction(const CommandLine& line) {
     if (actionNamed(*line.action) == nullptr) {
-        return Error{"There is no action \"" + *line.action + "\".",
-                     "Choose one of these: " + actionNames() + "."};
+        return refusal(Words::tr("There is no action \"%1\".").arg(shown(*line.action)),
+                       Words::tr("Choose one of these: %1.").arg(shown(actionNames())));
     }
     if (!line.files.empty()) {
-        return Error{"An action takes no file, and \"" + line.files.front() + "\" was given.",
-                     "Load it first: keyrill FILE."};
+        return refusal(
+            Words::tr("An action takes no file, and \"%1\" was given.").arg(shown(line.files.front())),
+            Words::tr("Load it first: keyrill FILE."));
     }
     return {};
 }
@@ -110,39 +125,43 @@ Result<void> checkMacroCall(const CommandLine& line) {
     const std::vector<std::string>& names = line.files;
     const std::size_t most = line.wish == Wish::list ? 0 : 1;
     if (names.size() > most) {
-        return Error{"\"" + names[most] + "\" is too much.",
-                     most == 0 ? "--list takes no name."
-                               : "A name with blanks is put in quotation marks: \"" + names[0] + " " +
-                                     names[1] + "\"."};
+        return refusal(Words::tr("\"%1\" is too much.").arg(shown(names[most])),
+                       most == 0 ? Words::tr("--list takes no name.")
+                                 : Words::tr("A name with blanks is put in quotation marks: \"%1\".")
+                                       .arg(shown(names[0] + " " + names[1])));
     }
     if (!names.empty() && names.front().empty()) return noName();
     return {};
 }
 
 std::string usage(std::span<const SessionKind> kinds) {
-    std::string text =
-        "Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs\n"
-        "       keyrill [--session=NAME] --action=ACTION   ask the one that runs to act; starts it if need "
-        "be\n"
-        "       keyrill [--session=NAME] --play [MACRO|FILE] [--times=N|until-stopped] [--speed=X]\n"
-        "                                          ask it to play one macro of the macro folder, or a file\n"
-        "       keyrill [--session=NAME] --show [MACRO]   ask it to show the window of the macros\n"
-        "       keyrill --list   print the names of the macros in the macro folder\n"
-        "       keyrill [--session=NAME] --check   print what works in this session, and what to do\n"
-        "       keyrill -h | --help | --version\n"
-        "ACTION is one of these: " +
-        actionNames() +
-        ".\n"
-        "MACRO is a name that --list prints, with its group or without; without MACRO and FILE --play plays "
-        "what\n"
-        "Play plays. A FILE without MACRO of that name, or one that begins with / or ./ is played as it is. "
-        "How often\n"
-        "and how fast (0.25 to 4) is what belongs to the macro, unless it is given. --show chooses MACRO in "
-        "the\n"
-        "window. Of --play, --show and --list the exit status is 0 if it was done, 1 if not, 2 if it was "
-        "not\n"
-        "well put; standard error tells why.\n"
-        "NAME is the kind of desktop session; without it the program finds out itself. There are:";
-    for (const SessionKind& kind : kinds) (text += ' ') += kind.name;
-    return text + "\n";
+    QStringList names;
+    for (const SessionKind& kind : kinds)
+        names.append(QString::fromUtf8(kind.name.data(), static_cast<qsizetype>(kind.name.size())));
+    //: Options, and what stands in capital letters, stay as they are where the program takes them as they
+    //: are.
+    return Words::
+        tr("Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs\n"
+           "       keyrill [--session=NAME] --action=ACTION   ask the one that runs to act; starts it if "
+           "need be\n"
+           "       keyrill [--session=NAME] --play [MACRO|FILE] [--times=N|until-stopped] [--speed=X]\n"
+           "                                          ask it to play one macro of the macro folder, or a "
+           "file\n"
+           "       keyrill [--session=NAME] --show [MACRO]   ask it to show the window of the macros\n"
+           "       keyrill --list   print the names of the macros in the macro folder\n"
+           "       keyrill [--session=NAME] --check   print what works in this session, and what to do\n"
+           "       keyrill -h | --help | --version\n"
+           "ACTION is one of these: %1.\n"
+           "MACRO is a name that --list prints, with its group or without; without MACRO and FILE --play "
+           "plays what\n"
+           "Play plays. A FILE without MACRO of that name, or one that begins with / or ./ is played as it "
+           "is. How often\n"
+           "and how fast (0.25 to 4) is what belongs to the macro, unless it is given. --show chooses MACRO "
+           "in the\n"
+           "window. Of --play, --show and --list the exit status is 0 if it was done, 1 if not, 2 if it was "
+           "not\n"
+           "well put; standard error tells why.\n"
+           "NAME is the kind of desktop session; without it the program finds out itself. There are: %2\n")
+            .arg(shown(actionNames()), names.join(u' '))
+            .toStdString();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/program/MacroCalls.h"
 
+#include <QCoreApplication>
 #include <QDBusError>
 #include <QDir>
 #include <QFileInfo>
@@ -19,6 +20,10 @@
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(MacroCalls)
+};
+
 constexpr int usageStatus = 2;
 
 int reportUsage(const Error& error) {
@@ -29,7 +34,8 @@ int reportUsage(const Error& error) {
 int reportAnswer(const QDBusMessage& answer) {
     if (answer.type() != QDBusMessage::ErrorMessage) return EXIT_SUCCESS;
     if (QDBusError(answer).type() == QDBusError::NoReply) {
-        return reportFailure({"Keyrill does not answer.", "Perhaps its macro folder cannot be reached."});
+        return reportFailure({Words::tr("Keyrill does not answer.").toStdString(),
+                              Words::tr("Perhaps its macro folder cannot be reached.").toStdString()});
     }
     return reportFailure({answer.errorMessage().toStdString(), ""});
 }

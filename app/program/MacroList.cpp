@@ -3,6 +3,8 @@
 
 #include <poll.h>
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QString>
 #include <algorithm>
 #include <chrono>
@@ -15,6 +17,10 @@
 #include "platform/linux/LocalMacroFiles.h"
 
 namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(MacroList)
+};
 
 /// It may lie on another machine.
 constexpr std::chrono::seconds patience{5};
@@ -56,7 +62,10 @@ Result<MacroList> readMacroList() {
             std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
         pollfd told{.fd = follower.fileDescriptor(), .events = POLLIN, .revents = 0};
         if (left.count() <= 0 || poll(&told, 1, static_cast<int>(left.count())) == 0) {
-            return Error{"The folder " + files.folder() + " does not answer.", ""};
+            return Error{Words::tr("The folder %1 does not answer.")
+                             .arg(QFile::decodeName(files.folder().c_str()))
+                             .toStdString(),
+                         ""};
         }
         follower.dispatch();
     }

@@ -14,8 +14,8 @@ using Of = PlayErrand::Of;
 Result<PlayWish> wishOf(const QVariantMap& options) {
     for (auto option = options.begin(); option != options.end(); ++option) {
         if (option.key() == QLatin1String("times") || option.key() == QLatin1String("speed")) continue;
-        return Error{"There is no option \"" + option.key().toStdString() + "\".",
-                     "There are: times, speed."};
+        return Error{MacrosInterface::tr("There is no option \"%1\".").arg(option.key()).toStdString(),
+                     MacrosInterface::tr("There are: %1.").arg(QStringLiteral("times, speed")).toStdString()};
     }
     const auto textOf = [&options](const QString& name) -> std::optional<std::string> {
         const auto option = options.find(name);
@@ -42,8 +42,9 @@ void MacrosInterface::PlayMacro(const QString& name, const QVariantMap& options,
 void MacrosInterface::PlayFile(const QString& uri, const QVariantMap& options, const QDBusMessage& call) {
     const QUrl url(uri, QUrl::StrictMode);
     if (!url.isLocalFile()) {
-        return m_object.refuse(
-            {"\"" + uri.toStdString() + "\" is no file of this machine.", "It begins with file:///."}, call);
+        return m_object.refuse({tr("\"%1\" is no file of this machine.").arg(uri).toStdString(),
+                                tr("It begins with file:///.").toStdString()},
+                               call);
     }
     play({.of = Of::file, .name = url.toLocalFile().toStdString()}, options, call);
 }

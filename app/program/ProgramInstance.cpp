@@ -70,9 +70,7 @@ const QString& nameOf(Refusal::Cause cause) {
 
 Refusal tooLate() {
     return {Refusal::Cause::notNow,
-            {QCoreApplication::translate("ProgramInstance", "The macro folder was out of reach for too long.")
-                 .toStdString(),
-             {}}};
+            {ProgramInstance::tr("The macro folder was out of reach for too long.").toStdString(), {}}};
 }
 
 }  // namespace
@@ -155,16 +153,16 @@ int ProgramInstance::handOver(const QStringList& files) {
         const QDBusError error(m_bus.call(request(files), QDBus::Block, timeToAnswerInMilliseconds));
         if (!error.isValid()) return EXIT_SUCCESS;
         if (error.type() == QDBusError::NoReply) return reportFailure(ownerIsSilent(m_bus));
-        std::fprintf(
-            stderr,
-            "keyrill: Another program has Keyrill's name on the session bus and does not do its work: "
-            "%s\nEnd that program and start Keyrill again.\n",
-            qUtf8Printable(error.message()));
+        const QString message =
+            tr("Another program has Keyrill's name on the session bus and does not do its work: %1")
+                .arg(error.message());
+        const QString hint = tr("End that program and start Keyrill again.");
+        std::fprintf(stderr, "keyrill: %s\n%s\n", qUtf8Printable(message), qUtf8Printable(hint));
         return EXIT_FAILURE;
     }
-    std::fputs("keyrill: Keyrill is running already.", stderr);
-    if (!files.isEmpty()) std::fputs(" It cannot be given a file, since it has no session bus.", stderr);
-    std::fputs("\n", stderr);
+    const QString hint =
+        files.isEmpty() ? QString() : tr("It cannot be given a file, since it has no session bus.");
+    reportFailure({tr("Keyrill is running already.").toStdString(), hint.toStdString()});
     return files.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 

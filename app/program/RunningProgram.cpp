@@ -18,6 +18,10 @@
 
 namespace {
 
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(RunningProgram)
+};
+
 constexpr std::chrono::seconds timeToStart{10};
 /// The start-up of a program that was just started counts too.
 constexpr std::chrono::seconds timeToAnswer{20};
@@ -62,12 +66,15 @@ QDBusConnection answeringBus() {
 
 }  // namespace
 
-RunningProgram::RunningProgram() : m_application(m_count, m_arguments.data()), m_bus(answeringBus()) {}
+RunningProgram::RunningProgram() : m_bus(answeringBus()) {}
 
 Result<> RunningProgram::reach() const {
     if (!m_bus.isConnected()) {
-        return Error{"There is no session bus, over which the running Keyrill could be asked.",
-                     "Call it from within the desktop session; the hot keys and the menu need none."};
+        return Error{
+            Words::tr("There is no session bus, over which the running Keyrill could be asked.")
+                .toStdString(),
+            Words::tr("Call it from within the desktop session; the hot keys and the menu need none.")
+                .toStdString()};
     }
     if (!ownerAnswers(m_bus)) return ownerIsSilent(m_bus);
     return {};
@@ -83,8 +90,10 @@ Result<> RunningProgram::start(const std::string& session) const {
     while (!isRunning()) {
         if (program.hasEnded() || deadline.hasExpired()) {
             return Error{
-                "Keyrill could not be started, or runs already where this session bus does not reach.",
-                "Start it as \"keyrill\" in a terminal to see why."};
+                Words::tr(
+                    "Keyrill could not be started, or runs already where this session bus does not reach.")
+                    .toStdString(),
+                Words::tr("Start it as \"keyrill\" in a terminal to see why.").toStdString()};
         }
         QThread::msleep(betweenLooks);
     }

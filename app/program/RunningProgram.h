@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <array>
 #include <string>
 
 #include "platform/Result.h"
 
 /// The running program, as another process reaches it over the session bus. Needs no display where the
-/// program runs. One a process, in the place of the whole program.
+/// program runs; needs the application object. One a process, in the place of the whole program.
 class RunningProgram {
   public:
     RunningProgram();
@@ -30,9 +28,5 @@ class RunningProgram {
     Error silence() const;
 
   private:
-    std::string m_name = "keyrill";
-    std::array<char*, 2> m_arguments = {m_name.data(), nullptr};
-    int m_count = 1;
-    QCoreApplication m_application;
     QDBusConnection m_bus;
 };

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <map>
+
 #include "desktop/DesktopTest.h"
 #include "support/Programs.h"
 
@@ -13,14 +15,18 @@ class WithoutDisplayTest : public testing::Test {
     };
     End endOf(const std::string& argument) const {
         const std::string output = m_folder.file(argument);
-        Child program({programs::keyrill, argument},
-                      {.environment = {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}}, .outputFile = output});
+        Child program({programs::keyrill, argument}, {.environment = m_environment, .outputFile = output});
         const int status = program.wait();
         return {status, contentOf(output)};
     }
 
+    /// From now on it speaks that language.
+    void speak(const std::string& language) { m_environment["LANGUAGE"] = language; }
+
   private:
     TemporaryFolder m_folder;
+    std::map<std::string, std::string> m_environment = {
+        {"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}, {"LC_ALL", "C.UTF-8"}};
 };
 
 TEST_F(WithoutDisplayTest, helpAndVersionArePrinted) {
@@ -33,6 +39,17 @@ TEST_F(WithoutDisplayTest, helpAndVersionArePrinted) {
     const End version = endOf("--version");
     EXPECT_EQ(version.status, 0);
     EXPECT_TRUE(version.output.starts_with("keyrill ")) << version.output;
+}
+
+TEST_F(WithoutDisplayTest, whatIsPrintedIsInTheLanguageOfTheDesktop) {
+    speak("eo:de:fr");
+    const End help = endOf("--help");
+    EXPECT_EQ(help.status, 0);
+    EXPECT_TRUE(help.output.starts_with("Aufruf: keyrill [--session=NAME]")) << help.output;
+    EXPECT_EQ(endOf("--sesion=x11").output,
+              "keyrill: Es gibt keine Option „--sesion=x11“. keyrill --help listet sie auf.\n");
+    speak("en:de");
+    EXPECT_TRUE(endOf("-h").output.starts_with("Usage: keyrill "));
 }
 
 TEST_F(WithoutDisplayTest, aKindOfSessionThatThereIsNotIsRefused) {

@@ -59,6 +59,7 @@ BEGIN {
     room("library/steps", "core platform platform/script/code platform/script/run platform/script/source",
          standard "|^boost/", "")
 
+    app("languages", "")
     app("icons", "platform")
     app("widgets", "app/icons")
     app("shortcuts", "prefs core platform")
@@ -73,12 +74,12 @@ BEGIN {
     app("controller", "app/check app/dialogs app/library app/macros app/overlay app/panels app/shortcuts app/tray app/widgets" \
                       " library library/steps engine prefs core platform")
     # Joins the controllers with services and event loop; programs are made of it.
-    app("program", "app/check app/controller app/dialogs app/library app/tray library platform platform/linux" \
+    app("program", "app/check app/controller app/dialogs app/languages app/library app/tray library platform platform/linux" \
                    " platform/script/run platform/sessions")
     app("demonstration", "app/program engine core")
-    app("gallery", "app/check app/program app/controller app/dialogs app/icons app/macros app/overlay app/panels app/shortcuts" \
+    app("gallery", "app/check app/program app/controller app/dialogs app/icons app/languages app/macros app/overlay app/panels app/shortcuts" \
                    " app/tray engine core platform")
-    room("app", "app/program", "", "^(boost/|xcb/|X11/|xkbcommon/|wayland)")
+    room("app", "app/languages app/program", "", "^(boost/|xcb/|X11/|xkbcommon/|wayland)")
     # A service of its own, with as little as can be.
     room("access", "platform platform/evdev/devices", "", foreign)
     # A program of its own, without a toolkit.

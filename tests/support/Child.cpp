@@ -20,7 +20,9 @@ std::vector<std::string> environmentWith(const std::map<std::string, std::string
     std::vector<std::string> result;
     for (char** entry = environ; *entry != nullptr; ++entry) {
         const std::string text = *entry;
-        if (!changes.contains(text.substr(0, text.find('=')))) result.push_back(text);
+        const std::string name = text.substr(0, text.find('='));
+        // What programs say is compared, and so is English unless a test asks for another language.
+        if (name != "LANGUAGE" && !changes.contains(name)) result.push_back(text);
     }
     for (const auto& [name, value] : changes) {
         if (!value.empty()) result.emplace_back(name).append("=").append(value);

@@ -14,7 +14,7 @@
 class Child {
   public:
     struct Options {
-        /// Set on top of the test's own environment; an empty value unsets.
+        /// Set on top of the test's own environment without LANGUAGE; an empty value unsets.
         std::map<std::string, std::string> environment = {};
         /// Where standard output and error go; the test's own if empty.
         std::string outputFile = {};

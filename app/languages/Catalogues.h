@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <memory>
+#include <vector>
+
+class QTranslator;
+
+/// The languages that the program has words in beside that of its sources, which is English: "de", "fr", ...;
+/// sorted.
+QStringList offeredLanguages();
+
+/// The first of `wanted` that is spoken; empty for English, or if none is. `wanted` holds names as "de",
+/// "de-AT" or "de_AT.UTF-8", the best first; "C" and "POSIX" are English.
+QString chosenLanguage(const QStringList& wanted, const QStringList& offered);
+
+/// The languages that the user has chosen in the desktop's settings, the best first: LANGUAGE, else LC_ALL,
+/// LC_MESSAGES or LANG; none where these say "C" or nothing, whatever LANGUAGE is ("The LANGUAGE variable" in
+/// GNU gettext's manual).
+QStringList languagesOfDesktop();
+
+/// The program's words in the user's language while it lives, and the toolkit's, which stand in its standard
+/// dialogs; a program with windows lays them out as the language is written. Needs the application object;
+/// made before the first window.
+///
+/// Where there is no such catalogue, or a text is not in it, the words of the sources are shown. What the
+/// program reads and writes for itself (scripts, settings, options) is the same in all languages.
+class Catalogues {
+  public:
+    explicit Catalogues(const QStringList& wanted = languagesOfDesktop());
+    ~Catalogues();
+    Catalogues(const Catalogues&) = delete;
+    Catalogues& operator=(const Catalogues&) = delete;
+
+    /// One of offeredLanguages(); empty for English.
+    const QString& language() const { return m_language; }
+
+  private:
+    void install(const QString& name, const QString& folder);
+
+    QString m_language;
+    std::vector<std::unique_ptr<QTranslator>> m_translators;
+};

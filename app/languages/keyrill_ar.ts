@@ -1,0 +1,1957 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>AboutPanel</name>
+    <message>
+        <source>LGPL 2.1 or later</source>
+        <translation>LGPL 2.1 أو أحدث</translation>
+    </message>
+    <message>
+        <source>curl licence</source>
+        <translation>رخصة curl</translation>
+    </message>
+    <message>
+        <source>About Keyrill</source>
+        <translation>عن Keyrill</translation>
+    </message>
+    <message>
+        <source>&amp;Documentation</source>
+        <translation>التوثيق (&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Product Page</source>
+        <translation>صفحة المنتج (&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Maker&apos;s Website</source>
+        <translation>موقع الصانع (&amp;M)</translation>
+    </message>
+    <message>
+        <source>Built with</source>
+        <translation>بُني باستخدام</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>الإصدار %1</translation>
+    </message>
+    <message>
+        <source>Records the keys you press and presses them again.</source>
+        <translation>يسجّل المفاتيح التي تضغطها ثم يضغطها من جديد.</translation>
+    </message>
+    <message>
+        <source>Copyright © 2026 the Keyrill authors. Free software under the MIT licence, without any warranty.</source>
+        <translation>حقوق النشر © 2026 لمؤلفي Keyrill. برنامج حر برخصة MIT، دون أي ضمان.</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إغلاق (&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>AccessDesk</name>
+    <message>
+        <source>To record what you type in other programs, Keyrill has to read the keyboard until the recording ends. That is why you are asked for your password.</source>
+        <translation>لتسجيل ما تكتبه في البرامج الأخرى، على Keyrill أن يقرأ لوحة المفاتيح إلى أن ينتهي التسجيل. لهذا تُطلب منك كلمة السر.</translation>
+    </message>
+</context>
+<context>
+    <name>ActionCall</name>
+    <message>
+        <source>Keyrill is not running.</source>
+        <translation>Keyrill لا يعمل.</translation>
+    </message>
+</context>
+<context>
+    <name>Actions</name>
+    <message>
+        <source>The screen is locked.</source>
+        <translation>الشاشة مقفلة.</translation>
+    </message>
+    <message>
+        <source>Keyrill is asking something, which has to be answered first.</source>
+        <translation>يطرح Keyrill سؤالا تجب الإجابة عنه أولا.</translation>
+    </message>
+    <message>
+        <source>A macro is being recorded.</source>
+        <translation>يجري تسجيل ماكرو.</translation>
+    </message>
+    <message>
+        <source>There is no macro to play yet.</source>
+        <translation>لا يوجد ماكرو لتشغيله بعد.</translation>
+    </message>
+    <message>
+        <source>A macro is being recorded already.</source>
+        <translation>يجري تسجيل ماكرو بالفعل.</translation>
+    </message>
+    <message>
+        <source>Nothing is being recorded or played.</source>
+        <translation>لا شيء يُسجَّل أو يُشغَّل.</translation>
+    </message>
+    <message>
+        <source>Nothing is being recorded.</source>
+        <translation>لا شيء يُسجَّل.</translation>
+    </message>
+</context>
+<context>
+    <name>Alerts</name>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>Keyrill Update Available</source>
+        <translation>يتوفر تحديث لبرنامج Keyrill</translation>
+    </message>
+    <message>
+        <source>There is a new update available for Keyrill, would you like to download it now?</source>
+        <translation>يتوفر تحديث جديد لبرنامج Keyrill، أتريد تنزيله الآن؟</translation>
+    </message>
+    <message>
+        <source>Keyrill requires that programs can see and press keys in this session. </source>
+        <translation>يتطلب Keyrill أن تستطيع البرامج رؤية المفاتيح وضغطها في هذه الجلسة. </translation>
+    </message>
+    <message>
+        <source>Please see the &apos;Configuration&apos; section of the documentation for more information.
+
+Keyrill must close, please restart it once this is possible.
+</source>
+        <translation>لمزيد من المعلومات راجع قسم «Configuration» في التوثيق.
+
+سيُغلق Keyrill، أعد تشغيله عندما يصبح ذلك ممكنا.
+</translation>
+    </message>
+    <message>
+        <source>Open Documentation now</source>
+        <translation>فتح التوثيق الآن</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>خروج</translation>
+    </message>
+    <message>
+        <source>Recording is not possible in this session yet</source>
+        <translation>التسجيل غير ممكن في هذه الجلسة بعد</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded</source>
+        <translation>لم يُسجَّل شيء</translation>
+    </message>
+    <message>
+        <source>The recording has ended</source>
+        <translation>انتهى التسجيل</translation>
+    </message>
+    <message>
+        <source>What was recorded until then is kept.</source>
+        <translation>بقي ما سُجِّل حتى ذلك الحين محفوظا.</translation>
+    </message>
+    <message>
+        <source>YES</source>
+        <translation>نعم</translation>
+    </message>
+    <message>
+        <source>NO</source>
+        <translation>لا</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>نعم</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>لا</translation>
+    </message>
+    <message>
+        <source>No Update Available</source>
+        <translation>لا يوجد تحديث</translation>
+    </message>
+    <message>
+        <source>You&apos;re currently running the latest version of Keyrill</source>
+        <translation>أنت تستخدم أحدث إصدار من Keyrill</translation>
+    </message>
+    <message>
+        <source>The macro was not saved as &quot;%1&quot;.</source>
+        <translation>لم يُحفظ الماكرو باسم «%1».</translation>
+    </message>
+    <message>
+        <source>No macro was loaded from &quot;%1&quot;.</source>
+        <translation>لم يُحمَّل أي ماكرو من «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already.</source>
+        <translation>«%1» موجود بالفعل.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it? What is in it will be lost.</source>
+        <translation>أتريد استبداله؟ سيُفقد محتواه.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>استبدال</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a macro file.</source>
+        <translation>«%1» ليس ملف ماكرو.</translation>
+    </message>
+    <message>
+        <source>The names of Keyrill&apos;s macro files end with &quot;.%1&quot;.</source>
+        <translation>تنتهي أسماء ملفات الماكرو في Keyrill بـ «.%1».</translation>
+    </message>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>لا يوجد ملف باسم «%1».</translation>
+    </message>
+    <message>
+        <source>Check the name, or choose one of the list.</source>
+        <translation>تحقق من الاسم، أو اختر واحدا من القائمة.</translation>
+    </message>
+    <message>
+        <source>Your settings were not saved.</source>
+        <translation>لم تُحفظ إعداداتك.</translation>
+    </message>
+    <message>
+        <source>Whether Keyrill starts when you log in could not be changed.</source>
+        <translation>تعذر تغيير بدء Keyrill عند تسجيل الدخول.</translation>
+    </message>
+    <message>
+        <source>Something is wrong with your settings.</source>
+        <translation>في إعداداتك خطأ.</translation>
+    </message>
+</context>
+<context>
+    <name>AppController</name>
+    <message>
+        <source>In this session Keyrill sees and reaches only the windows of X11 programs. The manual says more under &quot;Configuration&quot;.</source>
+        <translation>في هذه الجلسة لا يرى Keyrill ولا يصل إلا إلى نوافذ برامج X11. يشرح الدليل المزيد في «Configuration».</translation>
+    </message>
+</context>
+<context>
+    <name>ApplicationObject</name>
+    <message>
+        <source>Keyrill is playing a macro.</source>
+        <translation>يشغّل Keyrill ماكرو الآن.</translation>
+    </message>
+    <message>
+        <source>There is no action &quot;%1&quot;. There are: %2.</source>
+        <translation>لا يوجد إجراء باسم «%1». المتاح: %2.</translation>
+    </message>
+    <message>
+        <source>The action &quot;%1&quot; takes no parameter.</source>
+        <translation>لا يقبل الإجراء «%1» أي معامل.</translation>
+    </message>
+</context>
+<context>
+    <name>BusOwner</name>
+    <message>
+        <source>Keyrill has ended without an answer.</source>
+        <translation>انتهى Keyrill دون أن يجيب.</translation>
+    </message>
+    <message>
+        <source>Process %1, which has Keyrill&apos;s name on the session bus, does not answer.</source>
+        <translation>العملية %1 التي تحمل اسم Keyrill على ناقل الجلسة لا تستجيب.</translation>
+    </message>
+    <message>
+        <source>End it and start Keyrill again.</source>
+        <translation>أنهِها وابدأ Keyrill من جديد.</translation>
+    </message>
+</context>
+<context>
+    <name>CapabilityWords</name>
+    <message>
+        <source>Use a newer X server, or switch the extension on in its settings.</source>
+        <translation>استخدم خادم X أحدث، أو فعّل الامتداد في إعداداته.</translation>
+    </message>
+    <message>
+        <source>by XInput</source>
+        <translation>عبر XInput</translation>
+    </message>
+    <message>
+        <source>by key grabs</source>
+        <translation>عبر حجز المفاتيح</translation>
+    </message>
+    <message>
+        <source>by XTEST</source>
+        <translation>عبر XTEST</translation>
+    </message>
+    <message>
+        <source>the X server&apos;s</source>
+        <translation>حافظة خادم X</translation>
+    </message>
+    <message>
+        <source>above all windows</source>
+        <translation>فوق كل النوافذ</translation>
+    </message>
+    <message>
+        <source>by the window manager</source>
+        <translation>عبر مدير النوافذ</translation>
+    </message>
+    <message>
+        <source>a tray that icons dock into</source>
+        <translation>صينية تُضمَّن فيها الأيقونات</translation>
+    </message>
+    <message>
+        <source>a tray that asks for icons over the session bus</source>
+        <translation>صينية تطلب الأيقونات عبر ناقل الجلسة</translation>
+    </message>
+    <message>
+        <source>by a virtual keyboard</source>
+        <translation>عبر لوحة مفاتيح افتراضية</translation>
+    </message>
+    <message>
+        <source>by bindings of sway&apos;s</source>
+        <translation>عبر ارتباطات المفاتيح في sway</translation>
+    </message>
+    <message>
+        <source>by KDE&apos;s shortcuts</source>
+        <translation>عبر اختصارات KDE</translation>
+    </message>
+    <message>
+        <source>by the desktop&apos;s portal, once you allow it</source>
+        <translation>عبر بوابة سطح المكتب، بعد أن تسمح بذلك</translation>
+    </message>
+    <message>
+        <source>by the desktop&apos;s portal: you choose them when it asks, and later in its settings</source>
+        <translation>عبر بوابة سطح المكتب: تختارها عندما تسألك، ولاحقا في إعداداتها</translation>
+    </message>
+    <message>
+        <source>by sway</source>
+        <translation>عبر sway</translation>
+    </message>
+    <message>
+        <source>by KWin</source>
+        <translation>عبر KWin</translation>
+    </message>
+    <message>
+        <source>what you type into a window of Keyrill&apos;s, &quot;Record Here&quot;</source>
+        <translation>ما تكتبه في نافذة من نوافذ Keyrill، «التسجيل هنا»</translation>
+    </message>
+    <message>
+        <source>the compositor&apos;s</source>
+        <translation>حافظة المُركِّب</translation>
+    </message>
+    <message>
+        <source>as an ordinary window</source>
+        <translation>كنافذة عادية</translation>
+    </message>
+    <message>
+        <source>on a layer above all windows</source>
+        <translation>على طبقة فوق كل النوافذ</translation>
+    </message>
+    <message>
+        <source>from the keyboards themselves, which every program of yours may read</source>
+        <translation>من لوحات المفاتيح نفسها، التي يستطيع كل برنامج من برامجك قراءتها</translation>
+    </message>
+    <message>
+        <source>by keyrill-access, which asks for your password and opens the keyboard while Keyrill records</source>
+        <translation>عبر keyrill-access، الذي يطلب كلمة السر ويفتح لوحة المفاتيح أثناء تسجيل Keyrill</translation>
+    </message>
+    <message>
+        <source>The display cannot be reached.</source>
+        <translation>يتعذر الوصول إلى العرض.</translation>
+    </message>
+    <message>
+        <source>Start Keyrill inside a desktop session.</source>
+        <translation>ابدأ Keyrill داخل جلسة رسومية.</translation>
+    </message>
+    <message>
+        <source>The X server lacks the extension %1, which shows keys.</source>
+        <translation>ينقص خادم X الامتداد %1، الذي يُظهر المفاتيح.</translation>
+    </message>
+    <message>
+        <source>The X server lacks the extension %1, which says what keys mean.</source>
+        <translation>ينقص خادم X الامتداد %1، الذي يبيّن معاني المفاتيح.</translation>
+    </message>
+    <message>
+        <source>The X server lacks the extension %1, which presses keys.</source>
+        <translation>ينقص خادم X الامتداد %1، الذي يضغط المفاتيح.</translation>
+    </message>
+    <message>
+        <source>The X server lacks the extension %1: a key that is held is recorded once.</source>
+        <translation>ينقص خادم X الامتداد %1: يُسجَّل المفتاح المضغوط مطولا مرة واحدة.</translation>
+    </message>
+    <message>
+        <source>The program keyrill-guard, which releases keys after a crash, is not there; nothing is played without it.</source>
+        <translation>البرنامج keyrill-guard الذي يحرّر المفاتيح بعد الانهيار غير موجود؛ لا يُشغَّل شيء من دونه.</translation>
+    </message>
+    <message>
+        <source>Install Keyrill again.</source>
+        <translation>ثبّت Keyrill من جديد.</translation>
+    </message>
+    <message>
+        <source>Only with the windows of X11 programs: this is a Wayland session.</source>
+        <translation>مع نوافذ برامج X11 فقط: هذه جلسة Wayland.</translation>
+    </message>
+    <message>
+        <source>Choose an X11 session when you log in.</source>
+        <translation>اختر جلسة X11 عند تسجيل الدخول.</translation>
+    </message>
+    <message>
+        <source>There is none; a small window with the menu stands in for the icon.</source>
+        <translation>لا توجد صينية؛ تحل نافذة صغيرة فيها القائمة محل الأيقونة.</translation>
+    </message>
+    <message>
+        <source>Add a tray to the desktop&apos;s panel. GNOME needs the extension &quot;AppIndicator and KStatusNotifierItem Support&quot;.</source>
+        <translation>أضف صينية إلى لوحة سطح المكتب. يحتاج GNOME إلى الامتداد «AppIndicator and KStatusNotifierItem Support».</translation>
+    </message>
+    <message>
+        <source>A Wayland session shows no program what is typed in others, and the service that would is not installed.</source>
+        <translation>لا تُظهر جلسة Wayland لأي برنامج ما يُكتب في غيره، والخدمة التي تتيح ذلك غير مثبتة.</translation>
+    </message>
+    <message>
+        <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, &quot;tools/access install&quot;; or record in an X11 session, macros play in both.</source>
+        <translation>ثبّت الحزمة keyrill-wayland-access، أو نفّذ «tools/access install» من مصادر Keyrill؛ أو سجّل في جلسة X11، فوحدات الماكرو تعمل في كلتيهما.</translation>
+    </message>
+    <message>
+        <source>This compositor gives no hot keys to programs.</source>
+        <translation>لا يتيح هذا المُركِّب مفاتيح ساخنة للبرامج.</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
+        <translation>اربط المفاتيح بأوامر مثل «keyrill --action=play» في إعدادات المُركِّب.</translation>
+    </message>
+    <message>
+        <source>This compositor lets no program press keys.</source>
+        <translation>لا يسمح هذا المُركِّب لأي برنامج بضغط المفاتيح.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, or an X11 session.</source>
+        <translation>استخدم مُركِّبا فيه لوحات مفاتيح افتراضية مثل sway، أو جلسة X11.</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program press keys: its portal does not answer.</source>
+        <translation>لا يسمح سطح المكتب هذا لأي برنامج بضغط المفاتيح: بوابته لا تستجيب.</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the part of it that belongs to the desktop, such as xdg-desktop-portal-kde.</source>
+        <translation>ثبّت xdg-desktop-portal والجزء الخاص بسطح المكتب منه، مثل xdg-desktop-portal-kde.</translation>
+    </message>
+    <message>
+        <source>Only characters that one of your keyboard layouts has.</source>
+        <translation>المحارف الموجودة في أحد تخطيطات لوحة مفاتيحك فقط.</translation>
+    </message>
+    <message>
+        <source>Add a layout that has them in the desktop&apos;s settings.</source>
+        <translation>أضف تخطيطا يحتويها في إعدادات سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>Only characters that the keyboard layout in force has.</source>
+        <translation>المحارف الموجودة في تخطيط لوحة المفاتيح الحالي فقط.</translation>
+    </message>
+    <message>
+        <source>Switch to a layout that has the others before you play.</source>
+        <translation>انتقل إلى تخطيط يحتوي البقية قبل التشغيل.</translation>
+    </message>
+    <message>
+        <source>This compositor shows the clipboard to windows in front alone.</source>
+        <translation>لا يُظهر هذا المُركِّب الحافظة إلا للنوافذ الأمامية.</translation>
+    </message>
+    <message>
+        <source>Scripts that use the clipboard need another compositor, such as sway, or an X11 session.</source>
+        <translation>تحتاج السكربتات التي تستخدم الحافظة إلى مُركِّب آخر مثل sway، أو إلى جلسة X11.</translation>
+    </message>
+    <message>
+        <source>This compositor tells nothing of other programs&apos; windows.</source>
+        <translation>لا يخبر هذا المُركِّب بشيء عن نوافذ البرامج الأخرى.</translation>
+    </message>
+    <message>
+        <source>Scripts that bring a window to the front need sway, KDE or an X11 session.</source>
+        <translation>تحتاج السكربتات التي تجلب نافذة إلى الأمام إلى sway أو KDE أو جلسة X11.</translation>
+    </message>
+    <message>
+        <source>Full-screen windows may cover it.</source>
+        <translation>قد تغطيها نوافذ ملء الشاشة.</translation>
+    </message>
+    <message>
+        <source>Use a compositor that has layers, such as sway&apos;s or KDE&apos;s, or an X11 session.</source>
+        <translation>استخدم مُركِّبا له طبقات، كالذي في sway أو KDE، أو جلسة X11.</translation>
+    </message>
+</context>
+<context>
+    <name>CombinationText</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Super</source>
+        <translation>Super</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>--times and --speed say how --play plays.</source>
+        <translation>يحدد --times و --speed كيفية التشغيل بـ --play.</translation>
+    </message>
+    <message>
+        <source>keyrill --help tells more.</source>
+        <translation>يشرح keyrill --help المزيد.</translation>
+    </message>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>لا يوجد خيار باسم «%1».</translation>
+    </message>
+    <message>
+        <source>keyrill --help lists them.</source>
+        <translation>يسرد keyrill --help الخيارات.</translation>
+    </message>
+    <message>
+        <source>There is no action &quot;%1&quot;.</source>
+        <translation>لا يوجد إجراء باسم «%1».</translation>
+    </message>
+    <message>
+        <source>Choose one of these: %1.</source>
+        <translation>اختر واحدا من هذه: %1.</translation>
+    </message>
+    <message>
+        <source>An action takes no file, and &quot;%1&quot; was given.</source>
+        <translation>لا يقبل الإجراء أي ملف، وقد أُعطي «%1».</translation>
+    </message>
+    <message>
+        <source>Load it first: keyrill FILE.</source>
+        <translation>حمّله أولا: keyrill FILE.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too much.</source>
+        <translation>«%1» زائد.</translation>
+    </message>
+    <message>
+        <source>--list takes no name.</source>
+        <translation>لا يقبل --list أي اسم.</translation>
+    </message>
+    <message>
+        <source>A name with blanks is put in quotation marks: &quot;%1&quot;.</source>
+        <translation>يوضع الاسم الذي فيه فراغات بين علامتي اقتباس: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs
+       keyrill [--session=NAME] --action=ACTION   ask the one that runs to act; starts it if need be
+       keyrill [--session=NAME] --play [MACRO|FILE] [--times=N|until-stopped] [--speed=X]
+                                          ask it to play one macro of the macro folder, or a file
+       keyrill [--session=NAME] --show [MACRO]   ask it to show the window of the macros
+       keyrill --list   print the names of the macros in the macro folder
+       keyrill [--session=NAME] --check   print what works in this session, and what to do
+       keyrill -h | --help | --version
+ACTION is one of these: %1.
+MACRO is a name that --list prints, with its group or without; without MACRO and FILE --play plays what
+Play plays. A FILE without MACRO of that name, or one that begins with / or ./ is played as it is. How often
+and how fast (0.25 to 4) is what belongs to the macro, unless it is given. --show chooses MACRO in the
+window. Of --play, --show and --list the exit status is 0 if it was done, 1 if not, 2 if it was not
+well put; standard error tells why.
+NAME is the kind of desktop session; without it the program finds out itself. There are: %2
+</source>
+        <extracomment>Options, and what stands in capital letters, stay as they are where the program takes them as they are.</extracomment>
+        <translation>الاستخدام: keyrill [--session=NAME] [--] [FILE...]   البدء، أو تحميل وحدات ماكرو في البرنامج العامل
+       keyrill [--session=NAME] --action=ACTION   طلب إجراء من البرنامج العامل؛ يبدؤه عند الحاجة
+       keyrill [--session=NAME] --play [MACRO|FILE] [--times=N|until-stopped] [--speed=X]
+                                          طلب تشغيل ماكرو واحد من مجلد الماكرو، أو ملف
+       keyrill [--session=NAME] --show [MACRO]   طلب إظهار نافذة وحدات الماكرو
+       keyrill --list   طباعة أسماء وحدات الماكرو في مجلد الماكرو
+       keyrill [--session=NAME] --check   طباعة ما يعمل في هذه الجلسة، وما يجب فعله
+       keyrill -h | --help | --version
+ACTION واحد من هذه: %1.
+MACRO اسم يطبعه --list، مع مجموعته أو من دونها؛ من دون MACRO و FILE يشغّل --play ما يشغّله أمر «تشغيل».
+الملف FILE الذي لا MACRO باسمه، أو الذي يبدأ بـ / أو ./ يُشغَّل كما هو. عدد المرات والسرعة (0.25 إلى 4)
+هما ما للماكرو، ما لم يُعطيا. يختار --show الماكرو MACRO في النافذة. مع --play و --show و --list تكون حالة
+الخروج 0 إن تم الأمر، و 1 إن لم يتم، و 2 إن كان الاستدعاء خاطئا؛ ويُكتب السبب في مخرج الأخطاء.
+NAME نوع الجلسة الرسومية؛ من دونه يكتشفها البرنامج بنفسه. المتاح: %2
+</translation>
+    </message>
+</context>
+<context>
+    <name>ControlWindow</name>
+    <message>
+        <source>Keyrill</source>
+        <translation>Keyrill</translation>
+    </message>
+    <message>
+        <source>Keyrill &amp;menu</source>
+        <translation>قائمة Keyrill (&amp;M)</translation>
+    </message>
+    <message>
+        <source>No tray was found, so here is the menu.</source>
+        <translation>لم يُعثر على صينية، فهذه هي القائمة.</translation>
+    </message>
+    <message>
+        <source>Keyrill is running; its menu is in the tray too.</source>
+        <translation>Keyrill يعمل؛ قائمته في الصينية أيضا.</translation>
+    </message>
+</context>
+<context>
+    <name>DraftFiles</name>
+    <message>
+        <source>The folder %1 cannot be written to: %2.</source>
+        <extracomment>a folder, and why</extracomment>
+        <translation>تتعذر الكتابة في المجلد %1: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>FileMoves</name>
+    <message>
+        <source>A macro needs a name.</source>
+        <translation>يحتاج الماكرو إلى اسم.</translation>
+    </message>
+    <message>
+        <source>A name cannot have a slash (/) in it.</source>
+        <translation>لا يمكن أن يحتوي الاسم على شرطة مائلة (/).</translation>
+    </message>
+    <message>
+        <source>A name cannot begin with a point: the file would be hidden.</source>
+        <translation>لا يمكن أن يبدأ الاسم بنقطة: سيكون الملف مخفيا.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file.</source>
+        <translation>الاسم أطول مما يسمح به لملف.</translation>
+    </message>
+    <message>
+        <source>There is already a macro called &quot;%1&quot;.</source>
+        <translation>يوجد ماكرو باسم «%1» بالفعل.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be renamed: %2.</source>
+        <translation>تتعذر إعادة تسمية «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be copied: %2.</source>
+        <translation>يتعذر نسخ «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be put into the trash.</source>
+        <translation>يتعذر نقل «%1» إلى المهملات.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be brought back: %2.</source>
+        <translation>تتعذر استعادة «%1»: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>FilesDesk</name>
+    <message>
+        <source>&quot;%1&quot; was not loaded</source>
+        <translation>لم يُحمَّل «%1»</translation>
+    </message>
+    <message>
+        <source>A macro is being recorded. Stop recording first.</source>
+        <translation>يجري تسجيل ماكرو. أوقف التسجيل أولا.</translation>
+    </message>
+    <message>
+        <source>The screen is locked. Unlock it first.</source>
+        <translation>الشاشة مقفلة. ألغِ قفلها أولا.</translation>
+    </message>
+    <message>
+        <source>Answer Keyrill&apos;s question first.</source>
+        <translation>أجب عن سؤال Keyrill أولا.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is loaded</source>
+        <translation>حُمِّل «%1»</translation>
+    </message>
+    <message>
+        <source>Choose a shortcut for Play in the preferences to play it.</source>
+        <translation>لتشغيله، اختر في التفضيلات اختصارا لأمر «تشغيل».</translation>
+    </message>
+    <message>
+        <source>Press %1 to play it.</source>
+        <translation>اضغط %1 لتشغيله.</translation>
+    </message>
+</context>
+<context>
+    <name>KeysView</name>
+    <message>
+        <source>This is a script of its own. What it would press is shown here; change it under Script.</source>
+        <translation>هذا سكربت قائم بذاته. يظهر هنا ما سيضغطه؛ غيّره في «السكربت».</translation>
+    </message>
+    <message>
+        <source>Keys of the macro</source>
+        <translation>مفاتيح الماكرو</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>what a button does, and its keys</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Record Keys</source>
+        <translation>تسجيل مفاتيح</translation>
+    </message>
+    <message>
+        <source>Record keys behind the selected step</source>
+        <translation>تسجيل مفاتيح بعد الخطوة المحددة</translation>
+    </message>
+    <message>
+        <source>Add Pause</source>
+        <translation>إضافة وقفة</translation>
+    </message>
+    <message>
+        <source>A pause behind the selected step</source>
+        <translation>وقفة بعد الخطوة المحددة</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>تغيير</translation>
+    </message>
+    <message>
+        <source>Change the text, the pause or how often a key is pressed</source>
+        <translation>تغيير النص أو الوقفة أو عدد ضغطات المفتاح</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>تكرار</translation>
+    </message>
+    <message>
+        <source>The selected steps once more</source>
+        <translation>الخطوات المحددة مرة أخرى</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>أعلى</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>النقل إلى أعلى</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>أسفل</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>النقل إلى أسفل</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Remove the selected steps</source>
+        <translation>إزالة الخطوات المحددة</translation>
+    </message>
+    <message>
+        <source>Convert to Text</source>
+        <translation>إلى نص</translation>
+    </message>
+    <message>
+        <source>Type the same under every keyboard layout</source>
+        <translation>كتابة الشيء نفسه مع أي تخطيط للوحة المفاتيح</translation>
+    </message>
+    <message>
+        <source>Convert to Keys</source>
+        <translation>إلى مفاتيح</translation>
+    </message>
+    <message>
+        <source>Press the keys of the present keyboard layout</source>
+        <translation>ضغط مفاتيح تخطيط لوحة المفاتيح الحالي</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryController</name>
+    <message>
+        <source>&quot;%1&quot; was not played</source>
+        <translation>لم يُشغَّل «%1»</translation>
+    </message>
+    <message>
+        <source>Hot keys of macros</source>
+        <translation>اختصارات وحدات الماكرو</translation>
+    </message>
+    <message>
+        <source>The history</source>
+        <translation>السجل</translation>
+    </message>
+</context>
+<context>
+    <name>MacroCalls</name>
+    <message>
+        <source>Keyrill does not answer.</source>
+        <translation>Keyrill لا يستجيب.</translation>
+    </message>
+    <message>
+        <source>Perhaps its macro folder cannot be reached.</source>
+        <translation>ربما يتعذر الوصول إلى مجلد الماكرو.</translation>
+    </message>
+</context>
+<context>
+    <name>MacroEditor</name>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>المفاتيح (&amp;K)</translation>
+    </message>
+    <message>
+        <source>S&amp;cript</source>
+        <translation>السكربت (&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>MacroFilePanel</name>
+    <message>
+        <source>Keyrill macros (*.%1)</source>
+        <translation>ملفات ماكرو Keyrill (*.%1)</translation>
+    </message>
+    <message>
+        <source>Save Macro</source>
+        <translation>حفظ الماكرو</translation>
+    </message>
+    <message>
+        <source>Load Macro</source>
+        <translation>تحميل ماكرو</translation>
+    </message>
+    <message>
+        <source>This name is too long for a file.</source>
+        <translation>هذا الاسم أطول مما يسمح به لملف.</translation>
+    </message>
+</context>
+<context>
+    <name>MacroList</name>
+    <message>
+        <source>The folder %1 does not answer.</source>
+        <translation>المجلد %1 لا يستجيب.</translation>
+    </message>
+</context>
+<context>
+    <name>MacroListModel</name>
+    <message>
+        <source>Group %1</source>
+        <translation>المجموعة %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a macro and its hot key</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1, not saved</source>
+        <translation>%1، غير محفوظ</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSettingsRow</name>
+    <message>
+        <source>Hot key</source>
+        <translation>الاختصار</translation>
+    </message>
+    <message>
+        <source>&amp;Hot key:</source>
+        <translation>الاختصار (&amp;H):</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>المرات</translation>
+    </message>
+    <message>
+        <source>Unt&amp;il stopped</source>
+        <translation>حتى الإيقاف (&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Times:</source>
+        <translation>المرات (&amp;T):</translation>
+    </message>
+    <message>
+        <source> ×</source>
+        <comment>behind a number: so many times as fast</comment>
+        <translation> ×</translation>
+    </message>
+    <message>
+        <source>The pauses of the macro are divided by this</source>
+        <translation>تُقسم وقفات الماكرو على هذا العدد</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>السرعة</translation>
+    </message>
+    <message>
+        <source>Sp&amp;eed:</source>
+        <translation>السرعة (&amp;E):</translation>
+    </message>
+</context>
+<context>
+    <name>MacroSteps</name>
+    <message>
+        <source>%1 × %2</source>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>Pause %1 s</source>
+        <translation>وقفة %1 ث</translation>
+    </message>
+    <message>
+        <source>Text: %1</source>
+        <translation>نص: %1</translation>
+    </message>
+    <message>
+        <source>Hold %1</source>
+        <extracomment>a key that goes down and stays there</extracomment>
+        <translation>إبقاء %1 مضغوطا</translation>
+    </message>
+    <message>
+        <source>Let go of %1</source>
+        <translation>تحرير %1</translation>
+    </message>
+    <message>
+        <source>Ask: %1</source>
+        <extracomment>a dialog of a script, with its question</extracomment>
+        <translation>سؤال: %1</translation>
+    </message>
+    <message>
+        <source>Tell: %1</source>
+        <translation>إشعار: %1</translation>
+    </message>
+    <message>
+        <source>Type %1</source>
+        <translation>كتابة %1</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <translation>ضغط %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Press %1 %Ln times</source>
+        <translation>
+            <numerusform>عدم ضغط %1</numerusform>
+            <numerusform>ضغط %1 مرة واحدة</numerusform>
+            <numerusform>ضغط %1 مرتين</numerusform>
+            <numerusform>ضغط %1 %Ln مرات</numerusform>
+            <numerusform>ضغط %1 %Ln مرة</numerusform>
+            <numerusform>ضغط %1 %Ln مرة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Wait %1 seconds</source>
+        <translation>انتظار %1 ثانية</translation>
+    </message>
+    <message numerus="yes">
+        <source>Wait %1 seconds, %Ln times</source>
+        <translation>
+            <numerusform>عدم الانتظار %1 ثانية</numerusform>
+            <numerusform>انتظار %1 ثانية، مرة واحدة</numerusform>
+            <numerusform>انتظار %1 ثانية، مرتين</numerusform>
+            <numerusform>انتظار %1 ثانية، %Ln مرات</numerusform>
+            <numerusform>انتظار %1 ثانية، %Ln مرة</numerusform>
+            <numerusform>انتظار %1 ثانية، %Ln مرة</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MacrosDesk</name>
+    <message>
+        <source>Play has the latest macro until there is another.</source>
+        <translation>يأخذ «تشغيل» أحدث ماكرو إلى أن يوجد غيره.</translation>
+    </message>
+    <message>
+        <source>What is not saved would not outlive a crash. %1</source>
+        <translation>ما لم يُحفظ لن ينجو من انهيار. %1</translation>
+    </message>
+    <message>
+        <source>The macro is still being read: its folder does not answer.</source>
+        <translation>ما زال الماكرو يُقرأ: مجلده لا يستجيب.</translation>
+    </message>
+    <message>
+        <source>The file of this macro is gone. If you save, it is there again.</source>
+        <translation>اختفى ملف هذا الماكرو. إذا حفظت فسيعود.</translation>
+    </message>
+    <message>
+        <source>Another program has deleted or moved the macro.</source>
+        <translation>حذف برنامج آخر الماكرو أو نقله.</translation>
+    </message>
+    <message>
+        <source>Another program has changed this macro. If you save, your text replaces it.</source>
+        <translation>غيّر برنامج آخر هذا الماكرو. إذا حفظت فسيحل نصك محله.</translation>
+    </message>
+    <message>
+        <source>What was not saved is there again: %1.</source>
+        <translation>عاد ما لم يُحفظ: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>، </translation>
+    </message>
+    <message>
+        <source>The recording is forgotten.</source>
+        <translation>نُسي التسجيل.</translation>
+    </message>
+    <message>
+        <source>All recordings are forgotten.</source>
+        <translation>نُسيت كل التسجيلات.</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>حُفظ.</translation>
+    </message>
+    <message>
+        <source>New Macro</source>
+        <translation>ماكرو جديد</translation>
+    </message>
+    <message>
+        <source>The macro is in the trash.</source>
+        <translation>الماكرو في المهملات.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+</context>
+<context>
+    <name>MacrosInterface</name>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>لا يوجد خيار باسم «%1».</translation>
+    </message>
+    <message>
+        <source>There are: %1.</source>
+        <translation>المتاح: %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no file of this machine.</source>
+        <translation>«%1» ليس ملفا على هذا الجهاز.</translation>
+    </message>
+    <message>
+        <source>It begins with file:///.</source>
+        <translation>يبدأ بـ file:///.</translation>
+    </message>
+</context>
+<context>
+    <name>MacrosWindow</name>
+    <message>
+        <source>Macros</source>
+        <translation>وحدات الماكرو</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>Search macros</source>
+        <translation>البحث في وحدات الماكرو</translation>
+    </message>
+    <message>
+        <source>&amp;Record New</source>
+        <translation>تسجيل جديد (&amp;R)</translation>
+    </message>
+    <message>
+        <source>Record a new macro</source>
+        <translation>تسجيل ماكرو جديد</translation>
+    </message>
+    <message>
+        <source>Keep Recordin&amp;g...</source>
+        <translation>الاحتفاظ بتسجيل (&amp;G)...</translation>
+    </message>
+    <message>
+        <source>Keep a recording of the history as a macro, by a name</source>
+        <translation>الاحتفاظ بتسجيل من السجل كماكرو له اسم</translation>
+    </message>
+    <message>
+        <source>&amp;Forget</source>
+        <translation>نسيان (&amp;F)</translation>
+    </message>
+    <message>
+        <source>Forget &amp;All</source>
+        <translation>نسيان الكل (&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>تشغيل (&amp;P)</translation>
+    </message>
+    <message>
+        <source>Play into the window that you were in before, after three seconds</source>
+        <translation>التشغيل بعد ثلاث ثوان في النافذة التي كنت فيها من قبل</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>حفظ (&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save the macro (%1)</source>
+        <translation>حفظ الماكرو (%1)</translation>
+    </message>
+    <message>
+        <source>D&amp;uplicate</source>
+        <translation>استنساخ (&amp;U)</translation>
+    </message>
+    <message>
+        <source>Make a copy of the macro</source>
+        <translation>إنشاء نسخة من الماكرو</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>إعادة التسمية (&amp;N)</translation>
+    </message>
+    <message>
+        <source>Give the macro another name (F2)</source>
+        <translation>إعطاء الماكرو اسما آخر (F2)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>حذف (&amp;D)</translation>
+    </message>
+    <message>
+        <source>Put the macro into the trash (Delete)</source>
+        <translation>نقل الماكرو إلى المهملات (Delete)</translation>
+    </message>
+    <message>
+        <source>Stop (Escape)</source>
+        <translation>إيقاف (Esc)</translation>
+    </message>
+    <message>
+        <source>Do not play</source>
+        <translation>عدم التشغيل</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>إعادة التسمية</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>استنساخ</translation>
+    </message>
+    <message>
+        <source>The macro folder is still being read.</source>
+        <translation>ما زال مجلد الماكرو يُقرأ.</translation>
+    </message>
+    <message>
+        <source>There is no macro yet. Record one, or put a macro file into the macro folder.</source>
+        <translation>لا يوجد ماكرو بعد. سجّل واحدا، أو ضع ملف ماكرو في مجلد الماكرو.</translation>
+    </message>
+    <message>
+        <source>Plays in %1 s...</source>
+        <translation>التشغيل بعد %1 ث...</translation>
+    </message>
+</context>
+<context>
+    <name>MultiplePlayWindow</name>
+    <message>
+        <source>Play Multiple Times</source>
+        <translation>تشغيل عدة مرات</translation>
+    </message>
+    <message>
+        <source>&amp;Times to play:</source>
+        <translation>عدد مرات التشغيل (&amp;T):</translation>
+    </message>
+    <message>
+        <source>Times to play</source>
+        <translation>عدد مرات التشغيل</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>تشغيل (&amp;P)</translation>
+    </message>
+    <message>
+        <source>No macro yet</source>
+        <translation>لا يوجد ماكرو بعد</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeLine</name>
+    <message>
+        <source>Warning</source>
+        <translation>تحذير</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayDesk</name>
+    <message>
+        <source>Waiting for your permission</source>
+        <translation>في انتظار إذنك</translation>
+    </message>
+    <message>
+        <source>Not recorded: keyboard held</source>
+        <translation>لا يُسجَّل: لوحة المفاتيح محجوزة</translation>
+    </message>
+</context>
+<context>
+    <name>PauseRow</name>
+    <message>
+        <source>Never</source>
+        <extracomment>whether pauses are recorded: never, as long as they were when typed, or not longer than a number of seconds</extracomment>
+        <translation>أبدا</translation>
+    </message>
+    <message>
+        <source>As typed</source>
+        <translation>كما كُتبت</translation>
+    </message>
+    <message>
+        <source>At most</source>
+        <extracomment>stands before a number of seconds</extracomment>
+        <translation>على الأكثر</translation>
+    </message>
+    <message>
+        <source>Record pauses</source>
+        <translation>تسجيل الوقفات</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> ث</translation>
+    </message>
+    <message>
+        <source>Longest pause in seconds</source>
+        <translation>أطول وقفة بالثواني</translation>
+    </message>
+    <message>
+        <source>Record p&amp;auses:</source>
+        <translation>تسجيل الوقفات (&amp;A):</translation>
+    </message>
+</context>
+<context>
+    <name>PlayRequests</name>
+    <message>
+        <source>There are several macros called &quot;%1&quot;.</source>
+        <translation>توجد عدة وحدات ماكرو باسم «%1».</translation>
+    </message>
+    <message>
+        <source>Say which one: %1.</source>
+        <translation>حدد أيها: %1.</translation>
+    </message>
+    <message>
+        <source>keyrill --list lists all.</source>
+        <translation>يسردها keyrill --list كلها.</translation>
+    </message>
+    <message>
+        <source>Near are: %1.</source>
+        <translation>أسماء قريبة: %1.</translation>
+    </message>
+    <message>
+        <source>There is no macro called &quot;%1&quot;.</source>
+        <translation>لا يوجد ماكرو باسم «%1».</translation>
+    </message>
+    <message>
+        <source>There is no macro to play yet.</source>
+        <translation>لا يوجد ماكرو لتشغيله بعد.</translation>
+    </message>
+    <message>
+        <source>What Play plays cannot be played: its script is wrong in line %1.</source>
+        <translation>يتعذر تشغيل ما يشغّله «تشغيل»: في سكربته خطأ في السطر %1.</translation>
+    </message>
+    <message>
+        <source>Play in the menu tells more.</source>
+        <translation>يشرح «تشغيل» في القائمة المزيد.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be played: its script is wrong in line %2.</source>
+        <translation>يتعذر تشغيل «%1»: في سكربته خطأ في السطر %2.</translation>
+    </message>
+    <message>
+        <source>keyrill-script check &quot;%1&quot; tells more.</source>
+        <translation>يشرح keyrill-script check &quot;%1&quot; المزيد.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayWords</name>
+    <message>
+        <source>&quot;%1&quot; is not how many times a macro can be played.</source>
+        <translation>«%1» ليس عدد مرات يمكن تشغيل ماكرو بها.</translation>
+    </message>
+    <message>
+        <source>It is a whole number from 1 on, or until-stopped.</source>
+        <translation>هو عدد صحيح من 1 فصاعدا، أو until-stopped.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not how fast a macro can be played.</source>
+        <translation>«%1» ليس سرعة يمكن تشغيل ماكرو بها.</translation>
+    </message>
+    <message>
+        <source>It is a number from 0.25 to 4, with a point: 1.5.</source>
+        <translation>هو عدد من 0.25 إلى 4، بنقطة: 1.5.</translation>
+    </message>
+    <message>
+        <source>The name of the macro is empty.</source>
+        <translation>اسم الماكرو فارغ.</translation>
+    </message>
+    <message>
+        <source>keyrill --list prints those that there are.</source>
+        <translation>يطبع keyrill --list الموجود منها.</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesPanel</name>
+    <message>
+        <source>Keyrill Preferences</source>
+        <translation>تفضيلات Keyrill</translation>
+    </message>
+    <message>
+        <source>Check &amp;Now</source>
+        <translation>تحقق الآن (&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إغلاق (&amp;C)</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>الاختصارات</translation>
+    </message>
+    <message>
+        <source>These combinations work in every program. Click a field and press the combination you want.</source>
+        <translation>تعمل هذه التوليفات في كل البرامج. انقر حقلا واضغط التوليفة التي تريدها.</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>الخيارات</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramInstance</name>
+    <message>
+        <source>The macro folder was out of reach for too long.</source>
+        <translation>تعذر الوصول إلى مجلد الماكرو مدة أطول من اللازم.</translation>
+    </message>
+    <message>
+        <source>Another program has Keyrill&apos;s name on the session bus and does not do its work: %1</source>
+        <translation>برنامج آخر يحمل اسم Keyrill على ناقل الجلسة ولا يؤدي عمله: %1</translation>
+    </message>
+    <message>
+        <source>End that program and start Keyrill again.</source>
+        <translation>أنهِ ذلك البرنامج وابدأ Keyrill من جديد.</translation>
+    </message>
+    <message>
+        <source>It cannot be given a file, since it has no session bus.</source>
+        <translation>لا يمكن إعطاؤه ملفا، إذ ليس له ناقل جلسة.</translation>
+    </message>
+    <message>
+        <source>Keyrill is running already.</source>
+        <translation>Keyrill يعمل بالفعل.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordHerePanel</name>
+    <message>
+        <source>Record Here</source>
+        <translation>التسجيل هنا</translation>
+    </message>
+    <message>
+        <source>How to Record Everywhere</source>
+        <translation>كيفية التسجيل في كل مكان</translation>
+    </message>
+    <message>
+        <source>Type here</source>
+        <translation>اكتب هنا</translation>
+    </message>
+    <message>
+        <source>Keys typed here are recorded</source>
+        <translation>تُسجَّل المفاتيح المكتوبة هنا</translation>
+    </message>
+    <message>
+        <source>Stop Recording</source>
+        <translation>إيقاف التسجيل</translation>
+    </message>
+    <message>
+        <source>What you type in this window is recorded</source>
+        <translation>يُسجَّل ما تكتبه في هذه النافذة</translation>
+    </message>
+    <message>
+        <source>What you type in other programs is not. The macro can be played in all of them.</source>
+        <translation>أما ما تكتبه في البرامج الأخرى فلا. يمكن تشغيل الماكرو فيها كلها.</translation>
+    </message>
+    <message>
+        <source>Why not everywhere?</source>
+        <translation>لماذا ليس في كل مكان؟</translation>
+    </message>
+    <message>
+        <source>Press Stop Recording or close the window when you are done.</source>
+        <translation>اضغط «إيقاف التسجيل» أو أغلق النافذة عندما تنتهي.</translation>
+    </message>
+    <message>
+        <source>Press %1 when you are done, or close the window.</source>
+        <translation>اضغط %1 عندما تنتهي، أو أغلق النافذة.</translation>
+    </message>
+    <message>
+        <source>Use the combination of the desktop&apos;s settings when you are done, or close the window.</source>
+        <translation>استخدم التوليفة المحددة في إعدادات سطح المكتب عندما تنتهي، أو أغلق النافذة.</translation>
+    </message>
+    <message>
+        <source>Use the combination of the desktop&apos;s settings when you are done, or close the window: %1</source>
+        <translation>استخدم التوليفة المحددة في إعدادات سطح المكتب عندما تنتهي، أو أغلق النافذة: %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecorderWindow</name>
+    <message>
+        <source>Keyrill recording</source>
+        <translation>Keyrill يسجّل</translation>
+    </message>
+</context>
+<context>
+    <name>RunningProgram</name>
+    <message>
+        <source>There is no session bus, over which the running Keyrill could be asked.</source>
+        <translation>لا يوجد ناقل جلسة يمكن به سؤال Keyrill العامل.</translation>
+    </message>
+    <message>
+        <source>Call it from within the desktop session; the hot keys and the menu need none.</source>
+        <translation>استدعه من داخل الجلسة الرسومية؛ لا تحتاج الاختصارات والقائمة إلى ناقل.</translation>
+    </message>
+    <message>
+        <source>Keyrill could not be started, or runs already where this session bus does not reach.</source>
+        <translation>تعذر بدء Keyrill، أو أنه يعمل بالفعل حيث لا يصل ناقل الجلسة هذا.</translation>
+    </message>
+    <message>
+        <source>Start it as &quot;keyrill&quot; in a terminal to see why.</source>
+        <translation>ابدأه باسم «keyrill» في طرفية لمعرفة السبب.</translation>
+    </message>
+</context>
+<context>
+    <name>SRRecorderControl</name>
+    <message>
+        <source>Clear %1</source>
+        <translation>مسح %1</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>مسح</translation>
+    </message>
+    <message>
+        <source>Click here, then press a combination. Backspace clears, Escape keeps what was set.</source>
+        <translation>انقر هنا ثم اضغط توليفة. يمسح Backspace، ويبقي Escape ما كان محددا.</translation>
+    </message>
+    <message>
+        <source>Add Ctrl, Alt or Super</source>
+        <translation>أضف Ctrl أو Alt أو Super</translation>
+    </message>
+    <message>
+        <source>Press a combination…</source>
+        <translation>اضغط توليفة…</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>غير محدد</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptDialogWindow</name>
+    <message>
+        <source>Stop</source>
+        <extracomment>the name of a picture: a stop sign</extracomment>
+        <translation>توقف</translation>
+    </message>
+    <message>
+        <source>Caution</source>
+        <translation>تنبيه</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>ملاحظة</translation>
+    </message>
+    <message>
+        <source>Keyrill Macro</source>
+        <translation>ماكرو Keyrill</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptEditor</name>
+    <message>
+        <source>Script</source>
+        <translation>السكربت</translation>
+    </message>
+    <message>
+        <source>Words of the script language</source>
+        <translation>كلمات لغة السكربت</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptNotices</name>
+    <message>
+        <source>The macro was not played to its end</source>
+        <translation>لم يُشغَّل الماكرو إلى نهايته</translation>
+    </message>
+    <message>
+        <source>The macro cannot be played</source>
+        <translation>يتعذر تشغيل الماكرو</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is loaded but cannot be played</source>
+        <translation>حُمِّل «%1» لكن يتعذر تشغيله</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>السطر %1: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+</context>
+<context>
+    <name>SessionReport</name>
+    <message>
+        <source>, </source>
+        <extracomment>between the names of a list</extracomment>
+        <translation>، </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>a line of keyrill --check: what was looked at, and what was found</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>الجلسة</translation>
+    </message>
+    <message>
+        <source>%1, display %2</source>
+        <translation>%1، العرض %2</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>الأجزاء</translation>
+    </message>
+    <message>
+        <source>missing: %1; there: %2</source>
+        <translation>ناقص: %1؛ موجود: %2</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>التسجيل</translation>
+    </message>
+    <message>
+        <source>Hot keys</source>
+        <translation>المفاتيح الساخنة</translation>
+    </message>
+    <message>
+        <source>Pressing keys</source>
+        <translation>ضغط المفاتيح</translation>
+    </message>
+    <message>
+        <source>Typing text</source>
+        <translation>كتابة النص</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>الحافظة</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>الطبقة العلوية</translation>
+    </message>
+    <message>
+        <source>Windows of other programs</source>
+        <translation>نوافذ البرامج الأخرى</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>الصينية</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>by what it works, and what is missing all the same, which is a sentence</extracomment>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>Hot key of &quot;%1&quot;</source>
+        <translation>اختصار «%1»</translation>
+    </message>
+    <message>
+        <source>none is chosen</source>
+        <translation>لم يُختر أي اختصار</translation>
+    </message>
+    <message>
+        <source>%1, which nobody else has</source>
+        <translation>%1، ولا يستخدمه غيره</translation>
+    </message>
+    <message>
+        <source>%1, which the running Keyrill has</source>
+        <translation>%1، ويستخدمه Keyrill العامل</translation>
+    </message>
+    <message>
+        <source>%1; the session does not tell who has it</source>
+        <translation>%1؛ لا تخبر الجلسة بمن يستخدمه</translation>
+    </message>
+    <message>
+        <source>Session bus</source>
+        <translation>ناقل الجلسة</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <extracomment>the session bus exists</extracomment>
+        <translation>موجود</translation>
+    </message>
+    <message>
+        <source>There is none: &quot;keyrill --action&quot;, notifications and many trays need it, and a locked screen is not noticed at once.</source>
+        <translation>لا يوجد ناقل: يحتاج إليه «keyrill --action» والإشعارات وكثير من الصواني، ولا يُلاحظ قفل الشاشة فورا.</translation>
+    </message>
+    <message>
+        <source>Start Keyrill from within the desktop session.</source>
+        <translation>ابدأ Keyrill من داخل الجلسة الرسومية.</translation>
+    </message>
+    <message>
+        <source>Keyrill</source>
+        <translation>Keyrill</translation>
+    </message>
+    <message>
+        <source>is running</source>
+        <translation>يعمل</translation>
+    </message>
+    <message>
+        <source>is not running</source>
+        <translation>لا يعمل</translation>
+    </message>
+    <message>
+        <source>no lock is on</source>
+        <translation>لا قفل مفعّل</translation>
+    </message>
+    <message>
+        <source>on: %1, which macros do not mind</source>
+        <translation>مفعّل: %1، ولا يؤثر ذلك في وحدات الماكرو</translation>
+    </message>
+    <message>
+        <source>layout unknown</source>
+        <translation>التخطيط مجهول</translation>
+    </message>
+    <message>
+        <source>layout %1</source>
+        <translation>التخطيط %1</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>لوحة المفاتيح</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <extracomment>the keyboard layouts, and the locks that are on</extracomment>
+        <translation>%1؛ %2</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutNotices</name>
+    <message>
+        <source>Still used by %1 until Keyrill restarts.</source>
+        <translation>ما زال «%1» يستخدمه إلى أن يُعاد تشغيل Keyrill.</translation>
+    </message>
+    <message>
+        <source>Already used by %1.</source>
+        <translation>يستخدمه «%1» بالفعل.</translation>
+    </message>
+    <message>
+        <source>The desktop has not answered yet.</source>
+        <translation>لم يستجب سطح المكتب بعد.</translation>
+    </message>
+    <message>
+        <source>Set in the desktop&apos;s settings.</source>
+        <translation>محدد في إعدادات سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>Set in the desktop&apos;s settings: %1</source>
+        <translation>محدد في إعدادات سطح المكتب: %1</translation>
+    </message>
+    <message>
+        <source>%1 still works until Keyrill restarts.</source>
+        <translation>ما زال %1 يعمل إلى أن يُعاد تشغيل Keyrill.</translation>
+    </message>
+    <message>
+        <source>Already used by macro &quot;%1&quot;, which gives way.</source>
+        <translation>يستخدمه بالفعل الماكرو «%1»، الذي يتنازل عنه.</translation>
+    </message>
+    <message>
+        <source>Already used by macro &quot;%1&quot;.</source>
+        <translation>يستخدمه بالفعل الماكرو «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutTitles</name>
+    <message>
+        <source>Start &amp;Recording:</source>
+        <translation>بدء التسجيل (&amp;R):</translation>
+    </message>
+    <message>
+        <source>Start Recording</source>
+        <translation>بدء التسجيل</translation>
+    </message>
+    <message>
+        <source>&amp;Stop Recording:</source>
+        <translation>إيقاف التسجيل (&amp;S):</translation>
+    </message>
+    <message>
+        <source>Stop Recording</source>
+        <translation>إيقاف التسجيل</translation>
+    </message>
+    <message>
+        <source>&amp;Play:</source>
+        <translation>تشغيل (&amp;P):</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Play &amp;Multiple Times:</source>
+        <translation>تشغيل عدة مرات (&amp;M):</translation>
+    </message>
+    <message>
+        <source>Play Multiple Times</source>
+        <translation>تشغيل عدة مرات</translation>
+    </message>
+</context>
+<context>
+    <name>StatusMenu</name>
+    <message>
+        <source>Start Recording</source>
+        <translation>بدء التسجيل</translation>
+    </message>
+    <message>
+        <source>Stop Recording</source>
+        <translation>إيقاف التسجيل</translation>
+    </message>
+    <message>
+        <source>Save Pause</source>
+        <translation>تسجيل الوقفة</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Play Multiple Times...</source>
+        <translation>تشغيل عدة مرات...</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>Save Macro...</source>
+        <translation>حفظ الماكرو...</translation>
+    </message>
+    <message>
+        <source>Load Macro...</source>
+        <translation>تحميل ماكرو...</translation>
+    </message>
+    <message>
+        <source>Macros...</source>
+        <translation>وحدات الماكرو...</translation>
+    </message>
+    <message>
+        <source>Preferences...</source>
+        <translation>التفضيلات...</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>مساعدة</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>التوثيق</translation>
+    </message>
+    <message>
+        <source>Forum</source>
+        <translation>المنتدى</translation>
+    </message>
+    <message>
+        <source>Product Page</source>
+        <translation>صفحة المنتج</translation>
+    </message>
+    <message>
+        <source>Maker&apos;s Website</source>
+        <translation>موقع الصانع</translation>
+    </message>
+    <message>
+        <source>Get Support</source>
+        <translation>الحصول على الدعم</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>إرسال ملاحظات</translation>
+    </message>
+    <message>
+        <source>Report a Bug</source>
+        <translation>الإبلاغ عن علة</translation>
+    </message>
+    <message>
+        <source>Check for Updates...</source>
+        <translation>التحقق من وجود تحديثات...</translation>
+    </message>
+    <message>
+        <source>About Keyrill</source>
+        <translation>عن Keyrill</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>خروج</translation>
+    </message>
+    <message>
+        <source>Keyrill menu</source>
+        <translation>قائمة Keyrill</translation>
+    </message>
+    <message>
+        <source>What Works Here</source>
+        <translation>ما يعمل هنا</translation>
+    </message>
+</context>
+<context>
+    <name>StatusNotice</name>
+    <message>
+        <source>%1 has no shortcut. %2</source>
+        <translation>لا اختصار لأمر «%1». %2</translation>
+    </message>
+</context>
+<context>
+    <name>StatusPanel</name>
+    <message>
+        <source>Works</source>
+        <translation>يعمل</translation>
+    </message>
+    <message>
+        <source>Does not work</source>
+        <translation>لا يعمل</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>غير معروف</translation>
+    </message>
+    <message>
+        <source>What Works Here</source>
+        <translation>ما يعمل هنا</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>نسخ (&amp;O)</translation>
+    </message>
+    <message>
+        <source>Copy all lines, for a mail or a forum</source>
+        <translation>نسخ كل الأسطر، لرسالة أو منتدى</translation>
+    </message>
+    <message>
+        <source>Check &amp;Again</source>
+        <translation>التحقق من جديد (&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إغلاق (&amp;C)</translation>
+    </message>
+    <message>
+        <source>A moment...</source>
+        <translation>لحظة...</translation>
+    </message>
+    <message>
+        <source>What works here could not be found out.</source>
+        <translation>تعذرت معرفة ما يعمل هنا.</translation>
+    </message>
+    <message>
+        <source>&quot;keyrill --check&quot; in a terminal may say why.</source>
+        <translation>قد يبيّن «keyrill --check» في طرفية السبب.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>whether it works, and what</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>StepsModel</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>السطر %1: %2</translation>
+    </message>
+    <message>
+        <source>The script goes on; only its beginning is shown.</source>
+        <translation>للسكربت بقية؛ لا تظهر إلا بدايته.</translation>
+    </message>
+    <message>
+        <source>A pause is a number of seconds from 0 to a day.</source>
+        <translation>الوقفة عدد من الثواني، من 0 إلى يوم.</translation>
+    </message>
+    <message>
+        <source>A key is pressed from 1 to 10,000 times.</source>
+        <translation>يُضغط المفتاح من 1 إلى 10,000 مرة.</translation>
+    </message>
+    <message>
+        <source>This step cannot be changed here.</source>
+        <translation>لا يمكن تغيير هذه الخطوة هنا.</translation>
+    </message>
+</context>
+<context>
+    <name>Toggles</name>
+    <message>
+        <source>Check for &amp;updates when Keyrill starts</source>
+        <translation>التحقق من وجود تحديثات عند بدء Keyrill (&amp;U)</translation>
+    </message>
+    <message>
+        <source>Start Keyrill when I log &amp;in</source>
+        <translation>بدء Keyrill عند تسجيل الدخول (&amp;I)</translation>
+    </message>
+    <message>
+        <source>Record modifier &amp;keys on their own</source>
+        <translation>تسجيل مفاتيح التغيير منفردة (&amp;K)</translation>
+    </message>
+    <message>
+        <source>Keep the &amp;history for the next start</source>
+        <translation>الاحتفاظ بالسجل للمرة القادمة (&amp;H)</translation>
+    </message>
+</context>
+<context>
+    <name>TrayStatusItem</name>
+    <message>
+        <source>Keyrill</source>
+        <translation>Keyrill</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePanel</name>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Welcome to Keyrill</source>
+        <translation>مرحبا بك في Keyrill</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>متابعة (&amp;C)</translation>
+    </message>
+    <message>
+        <source>Your first macro</source>
+        <translation>أول ماكرو لك</translation>
+    </message>
+    <message>
+        <source>The combinations</source>
+        <translation>التوليفات</translation>
+    </message>
+    <message>
+        <source>You can change them in the preferences, which come next.</source>
+        <translation>يمكنك تغييرها في التفضيلات، التي تأتي بعد هذا.</translation>
+    </message>
+    <message>
+        <source>Keyrill records the keys you press and presses them again for you, in any program, as often as you like.</source>
+        <translation>يسجّل Keyrill المفاتيح التي تضغطها ثم يضغطها عنك من جديد، في أي برنامج وبقدر ما تشاء.</translation>
+    </message>
+    <message>
+        <source>Choose Start Recording in Keyrill&apos;s menu. Then type.</source>
+        <translation>اختر «بدء التسجيل» في قائمة Keyrill. ثم اكتب.</translation>
+    </message>
+    <message>
+        <source>Press %1, or choose Start Recording in Keyrill&apos;s menu. Then type.</source>
+        <translation>اضغط %1، أو اختر «بدء التسجيل» في قائمة Keyrill. ثم اكتب.</translation>
+    </message>
+    <message>
+        <source>Choose Stop Recording when you are done.</source>
+        <translation>اختر «إيقاف التسجيل» عندما تنتهي.</translation>
+    </message>
+    <message>
+        <source>Press %1 when you are done.</source>
+        <translation>اضغط %1 عندما تنتهي.</translation>
+    </message>
+    <message>
+        <source>Click where the keys should go and choose Play.</source>
+        <translation>انقر حيث يجب أن تصل المفاتيح واختر «تشغيل».</translation>
+    </message>
+    <message>
+        <source>Click where the keys should go and press %1.</source>
+        <translation>انقر حيث يجب أن تصل المفاتيح واضغط %1.</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>غير محدد</translation>
+    </message>
+</context>
+</TS>
