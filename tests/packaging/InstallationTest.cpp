@@ -51,7 +51,7 @@ TEST_F(InstallationTest, theMenuEntryIsValidAndComplete) {
 
 TEST_F(InstallationTest, theMenuEntryOffersTheActionsOfTheProgram) {
     const std::string entry = contentOf(installed("share/applications/" + id + ".desktop"));
-    const std::string help = outputOf({installed("bin/keyrill"), "--help"});
+    const std::string help = outputOf({installed("bin/keyrill"), "--help"}, {{"LC_ALL", "C.UTF-8"}});
     std::smatch names;
     ASSERT_TRUE(std::regex_search(help, names, std::regex("ACTION is one of these: (.*)\\.\n"))) << help;
     const std::string list = names[1];
@@ -60,7 +60,8 @@ TEST_F(InstallationTest, theMenuEntryOffersTheActionsOfTheProgram) {
     const std::regex name("[a-z-]+");
     for (std::sregex_iterator at(list.begin(), list.end(), name), end; at != end; ++at) {
         const std::regex action("\n\\[Desktop Action " + at->str() +
-                                "\\]\nName=.+\nExec=keyrill --action=" + at->str() + "\n");
+                                "\\]\nName=.+\n(Name\\[[a-z]+\\]=.+\n)*Exec=keyrill --action=" + at->str() +
+                                "\n");
         EXPECT_TRUE(std::regex_search(entry, action)) << at->str();
     }
 }
