@@ -1,16 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
 #include <QDir>
+#include <QRegularExpression>
 #include <QStyleFactory>
 #include <QTimer>
+#include <QTranslator>
 
 #include "app/gallery/Camera.h"
 #include "app/gallery/Palettes.h"
 #include "app/gallery/Scenes.h"
+#include "app/languages/Catalogues.h"
 #include "app/program/Backends.h"
 #include "app/program/StartUp.h"
 
-// keyrill-gallery FOLDER [--dark] [--rtl]
+// keyrill-gallery FOLDER [--dark] [--rtl] [--language=NAME|--catalogue=FILE]
+
+namespace {
+
+constexpr const char* usage =
+    "usage: keyrill-gallery FOLDER [--dark] [--rtl] [--language=NAME|--catalogue=FILE]";
+
+/// What stands behind the option and its sign; empty for none.
+QString valueOf(const QStringList& arguments, const QString& option) {
+    const QStringList found = arguments.filter(QRegularExpression(u'^' + option + u'='));
+    return found.isEmpty() ? QString() : found.last().mid(option.size() + 1);
+}
+
+}  // namespace
 
 int main(int argc, char* argv[]) {
     const auto session = enterSession();
@@ -19,7 +35,12 @@ int main(int argc, char* argv[]) {
     const auto backends = Backends::open(session.value());
     if (!backends) return reportFailure(backends.error());
     const QStringList arguments = QApplication::arguments();
-    if (arguments.size() < 2) qFatal("usage: keyrill-gallery FOLDER [--dark] [--rtl]");
+    if (arguments.size() < 2) qFatal("%s", usage);
+    const Catalogues catalogues({valueOf(arguments, QStringLiteral("--language"))});
+    QTranslator other;
+    const QString catalogue = valueOf(arguments, QStringLiteral("--catalogue"));
+    if (!catalogue.isEmpty() && !(other.load(catalogue) && QApplication::installTranslator(&other)))
+        qFatal("cannot read %s", qPrintable(catalogue));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     if (arguments.contains(QStringLiteral("--dark"))) QApplication::setPalette(darkPalette());
     if (arguments.contains(QStringLiteral("--rtl"))) QApplication::setLayoutDirection(Qt::RightToLeft);
