@@ -214,6 +214,7 @@ class AppController : public QObject, public SharedController {
     SplashWindow& builtSplashWindow() { return m_overlayDesk.builtSplash(); }
     PreferencesPanel* preferencesWindow() const { return m_preferencesDesk.panel(); }
     AboutPanel* aboutPanel() const { return m_helpDesk.aboutPanel(); }
+    StatusDesk& statusDesk() { return m_statusDesk; }
     StatusPanel* statusPanel() const { return m_statusDesk.panel(); }
     RecordHerePanel* recordHerePanel() const { return m_recordHereDesk.panel(); }
     MacrosWindow* macrosWindow() const { return m_macrosDesk.window(); }

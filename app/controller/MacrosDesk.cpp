@@ -30,11 +30,11 @@ constexpr std::chrono::milliseconds glance{50};
 /// What a folder may take before it is told that it does not answer.
 constexpr std::chrono::milliseconds patience{500};
 
-/// What people would look for in a macro: what it types, or its script.
+/// What people would look for in a macro: what it types and what is told about it, or its script.
 std::string contentOf(const std::string& script, const KeyboardLayout& layout) {
     const auto recording = steps::RecordedScript::parse(script);
     if (!recording) return script;
-    std::string content;
+    std::string content = recording->comments();
     for (const steps::Step& step : steps::stepsOf(*recording, layout)) content += step.text;
     return content;
 }
@@ -426,7 +426,7 @@ void MacrosDesk::rename(const std::string& path, const QString& name) {
     const Result<> renamed = FileMoves::rename(file, wanted.value());
     if (!renamed) return m_window->warn(shown(renamed.error()));
     // Of a name before that was refused.
-    m_window->tell({});
+    m_window->endWarning();
     // Before the library tells so, for what is typed meanwhile.
     followRenames({{path, pathOf(wanted.value())}});
 }

@@ -1,24 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/StatusDesk.h"
 
-#include <QCoreApplication>
 #include <QProcess>
-#include <utility>
 
 #include "app/check/SessionReport.h"
 #include "app/controller/Stage.h"
 #include "app/panels/StatusPanel.h"
 
-StatusDesk::StatusDesk(Stage& stage, QStringList check) : m_stage(stage), m_check(std::move(check)) {}
+StatusDesk::StatusDesk(Stage& stage) : m_stage(stage) {}
 
-StatusDesk::~StatusDesk() = default;
-
-/// With the session that the user has asked for.
-QStringList StatusDesk::checkOfThisProgram() {
-    QStringList check = {QCoreApplication::applicationFilePath()};
-    check += QCoreApplication::arguments().filter(QStringLiteral("--session="));
-    check += QStringLiteral("--check");
-    return check;
+StatusDesk::~StatusDesk() {
+    // It ends with its object, and has nobody to tell any more.
+    if (m_process) m_process->disconnect();
 }
 
 void StatusDesk::show() {
@@ -33,23 +26,29 @@ void StatusDesk::show() {
 
 void StatusDesk::ask() {
     if (m_process) return;
+    if (m_check.isEmpty()) return m_panel->setFault();
     m_panel->setChecking();
     m_process = std::make_unique<QProcess>();
-    QObject::connect(m_process.get(), &QProcess::finished, m_panel.get(), [this] { take(); });
-    QObject::connect(m_process.get(), &QProcess::errorOccurred, m_panel.get(),
-                     [this](QProcess::ProcessError error) {
-                         if (error == QProcess::FailedToStart) take();
-                     });
-    m_process->start(m_check.first(), m_check.mid(1), QIODevice::ReadOnly);
+    QProcess* const process = m_process.get();
+    QObject::connect(process, &QProcess::finished, m_panel.get(), [this] { take(); });
+    QObject::connect(process, &QProcess::errorOccurred, m_panel.get(), [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) take();
+    });
+    m_deadline.setSingleShot(true);
+    m_deadline.callOnTimeout(process, [process] { process->kill(); });
+    m_deadline.start(m_patience);
+    process->start(m_check.first(), m_check.mid(1), QIODevice::ReadOnly);
 }
 
 void StatusDesk::take() {
+    m_deadline.stop();
+    const bool isWhole = m_process->exitStatus() == QProcess::NormalExit;
     const std::vector<ReportLine> report = reportOf(m_process->readAllStandardOutput().toStdString());
     // It is the one that calls.
     m_process.release()->deleteLater();
-    if (report.empty()) {
-        m_panel->setFault();
-    } else {
+    if (isWhole && !report.empty()) {
         m_panel->setReport(report);
+    } else {
+        m_panel->setFault();
     }
 }

@@ -331,6 +331,10 @@ void MacrosWindow::tell(const QString& text, const QString& action) { setNotice(
 
 void MacrosWindow::warn(const QString& text) { setNotice(text, {}, true); }
 
+void MacrosWindow::endWarning() {
+    if (m_warning->isVisible()) tell({});
+}
+
 void MacrosWindow::countDown() {
     m_count = secondsOfCount + 1;
     m_controls->setEnabled(false);
@@ -363,7 +367,7 @@ void MacrosWindow::endCount() {
 /// Escape closes no window in which there is something to lose; who looks for a macro begins anew with it.
 void MacrosWindow::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Undo)) {
-        emit undoWanted();
+        if (m_action->isVisible()) emit undoWanted();
         return;
     }
     if (!event->matches(QKeySequence::Cancel)) return Panel::keyPressEvent(event);

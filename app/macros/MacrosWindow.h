@@ -75,6 +75,8 @@ class MacrosWindow : public Panel {
     void tell(const QString& text, const QString& action = {});
     /// What went wrong.
     void warn(const QString& text);
+    /// What went wrong goes wrong no more; what was told otherwise stays.
+    void endWarning();
 
     /// Plays a moment later, unless the user ends it.
     void countDown();
@@ -99,7 +101,8 @@ class MacrosWindow : public Panel {
     void duplicateWanted(const std::string& path);
     void renameWanted(const std::string& path, const QString& name);
     void deleteWanted(const std::string& path);
-    /// What was told is to be taken back: by its button, or by Ctrl+Z where nobody is writing.
+    /// What was told is to be taken back: by its button, or by Ctrl+Z while that is there and nobody is
+    /// writing.
     void undoWanted();
 
   protected:

@@ -36,13 +36,33 @@ Sign signOf(Verdict verdict) {
     return {QStyle::SP_MessageBoxQuestion, StatusPanel::tr("Not known")};
 }
 
+QLabel* makePicture(const Sign& sign) {
+    auto* picture = new QLabel;
+    const QStyle& style = *picture->style();
+    const int size = style.pixelMetric(QStyle::PM_SmallIconSize);
+    picture->setPixmap(
+        style.standardIcon(sign.picture).pixmap(QSize(size, size), picture->devicePixelRatioF()));
+    picture->setAccessibleName(sign.words);
+    return picture;
+}
+
+void addLine(QGridLayout& grid, const ReportLine& line) {
+    const Sign sign = signOf(line.verdict);
+    const QString text = QString::fromStdString(line.text);
+    QLabel* const words = makeParagraph(text);
+    words->setAccessibleName(StatusPanel::tr("%1: %2", "whether it works, and what").arg(sign.words, text));
+    const int row = grid.rowCount();
+    grid.addWidget(makePicture(sign), row, 0, Qt::AlignTop);
+    grid.addWidget(words, row, 1);
+    if (line.advice.empty()) return;
+    QLabel* const advice = makeParagraph(QString::fromStdString(line.advice));
+    advice->setIndent(advice->style()->pixelMetric(QStyle::PM_SmallIconSize));
+    grid.addWidget(advice, row + 1, 1);
+}
+
 }  // namespace
 
-StatusPanel::StatusPanel() : Panel(tr("What Works Here")), m_area(new QScrollArea), m_grid(new QGridLayout) {
-    auto* lines = new QWidget;
-    lines->setLayout(m_grid);
-    m_grid->setColumnStretch(1, 1);
-    m_area->setWidget(lines);
+StatusPanel::StatusPanel() : Panel(tr("What Works Here")), m_area(new QScrollArea) {
     m_area->setWidgetResizable(true);
     m_area->setFrameShape(QFrame::NoFrame);
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -57,14 +77,14 @@ QLayout* StatusPanel::makeButtons() {
     m_copy->setToolTip(tr("Copy all lines, for a mail or a forum"));
     connect(m_copy, &QPushButton::clicked, this,
             [this] { QApplication::clipboard()->setText(QString::fromStdString(reportText(m_report))); });
-    m_again = new QPushButton(tr("Check &Again"));
-    connect(m_again, &QPushButton::clicked, this, &StatusPanel::checkWanted);
+    auto* again = new QPushButton(tr("Check &Again"));
+    connect(again, &QPushButton::clicked, this, &StatusPanel::checkWanted);
     auto* close = new QPushButton(tr("&Close"));
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(m_copy);
-    buttons->addWidget(m_again);
+    buttons->addWidget(again);
     buttons->addStretch();
     buttons->addWidget(close);
     close->setFocus();
@@ -72,17 +92,14 @@ QLayout* StatusPanel::makeButtons() {
 }
 
 void StatusPanel::setChecking() {
-    m_area->setEnabled(false);
-    m_again->setEnabled(false);
-    m_copy->setEnabled(false);
     if (m_report.empty())
         setLines({{.verdict = Verdict::uncertain, .text = tr("A moment...").toStdString()}});
+    m_area->setEnabled(false);
 }
 
 void StatusPanel::setReport(const std::vector<ReportLine>& report) {
     m_report = report;
     setLines(report);
-    m_copy->setEnabled(true);
 }
 
 void StatusPanel::setFault() {
@@ -93,42 +110,23 @@ void StatusPanel::setFault() {
 }
 
 void StatusPanel::setLines(const std::vector<ReportLine>& report) {
-    while (QLayoutItem* const item = m_grid->takeAt(0)) {
-        delete item->widget();
-        delete item;
-    }
-    for (const ReportLine& line : report) addLine(line);
-    m_grid->setRowStretch(m_grid->rowCount(), 1);
+    auto* lines = new QWidget;
+    auto* grid = new QGridLayout(lines);
+    grid->setColumnStretch(1, 1);
+    for (const ReportLine& line : report) addLine(*grid, line);
+    grid->setRowStretch(grid->rowCount(), 1);
+    m_area->setWidget(lines);
     m_area->setEnabled(true);
-    m_again->setEnabled(true);
+    m_copy->setEnabled(!m_report.empty());
     fit();
 }
 
-void StatusPanel::addLine(const ReportLine& line) {
-    const Sign sign = signOf(line.verdict);
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    auto* picture = new QLabel;
-    picture->setPixmap(style()->standardIcon(sign.picture).pixmap(QSize(size, size), devicePixelRatioF()));
-    picture->setAccessibleName(sign.words);
-    const QString text = QString::fromStdString(line.text);
-    QLabel* const words = makeParagraph(text);
-    words->setAccessibleName(tr("%1: %2", "whether it works, and what").arg(sign.words, text));
-    const int row = m_grid->rowCount();
-    m_grid->addWidget(picture, row, 0, Qt::AlignTop);
-    m_grid->addWidget(words, row, 1);
-    if (line.advice.empty()) return;
-    QLabel* const advice = makeParagraph(QString::fromStdString(line.advice));
-    advice->setIndent(size);
-    m_grid->addWidget(advice, row + 1, 1);
-}
-
-/// As high as the lines are, where the screen has that.
+/// As high as the lines are, where the screen has that. Never smaller than the user has made it.
 void StatusPanel::fit() {
-    const QWidget* const lines = m_area->widget();
-    const int width = lines->sizeHint().width();
-    const int wanted = m_grid->heightForWidth(width);
+    const QWidget& lines = *m_area->widget();
+    const int width = lines.sizeHint().width();
     const int most = static_cast<int>(screen()->availableSize().height() * mostOfScreen);
     m_area->setMinimumWidth(width + m_area->verticalScrollBar()->sizeHint().width());
-    m_area->setMinimumHeight(std::min(wanted, most));
-    adjustSize();
+    m_area->setMinimumHeight(std::min(lines.heightForWidth(width), most));
+    resize(size().expandedTo(sizeHint()));
 }

@@ -6,7 +6,6 @@
 #include "app/check/SessionReport.h"
 #include "app/widgets/Panel.h"
 
-class QGridLayout;
 class QPushButton;
 class QScrollArea;
 
@@ -30,12 +29,9 @@ class StatusPanel : public Panel {
   private:
     QLayout* makeButtons();
     void setLines(const std::vector<ReportLine>& report);
-    void addLine(const ReportLine& line);
     void fit();
 
     QScrollArea* m_area = nullptr;
-    QGridLayout* m_grid = nullptr;
     QPushButton* m_copy = nullptr;
-    QPushButton* m_again = nullptr;
     std::vector<ReportLine> m_report;
 };

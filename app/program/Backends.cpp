@@ -14,9 +14,9 @@
 #include "platform/sessions/Sessions.h"
 
 struct Backends::Parts {
-    Parts(std::unique_ptr<SteadyClock> steadyClock, std::unique_ptr<Session> opened,
+    Parts(std::string_view name, std::unique_ptr<SteadyClock> steadyClock, std::unique_ptr<Session> opened,
           const UpdateSource& updates)
-        : clock(std::move(steadyClock)), session(std::move(opened)), neutral(updates) {
+        : sessionName(name), clock(std::move(steadyClock)), session(std::move(opened)), neutral(updates) {
         session->endPlaysWhen(
             [this] { return neutral.screenLock.isLocked() || (isPlayOver && isPlayOver()); });
     }
@@ -24,6 +24,7 @@ struct Backends::Parts {
     Parts(const Parts&) = delete;
     Parts& operator=(const Parts&) = delete;
 
+    std::string sessionName;
     std::unique_ptr<SteadyClock> clock;
     std::unique_ptr<Session> session;
     const SessionServices& own = session->sessionServices();
@@ -60,12 +61,13 @@ Result<std::unique_ptr<Backends>> Backends::open(const SessionKind& kind, const 
     auto session = kind.open(*clock, SessionUse::desktop);
     if (!session) return session.error();
     return std::unique_ptr<Backends>(new Backends(std::make_unique<Parts>(
-        std::move(clock), std::move(session).value(), UpdateSource{updateUrl, authorities})));
+        kind.name, std::move(clock), std::move(session).value(), UpdateSource{updateUrl, authorities})));
 }
 
 Backends::Backends(std::unique_ptr<Parts> parts) : m_parts(std::move(parts)) {}
 Backends::~Backends() = default;
 
+const std::string& Backends::sessionName() const { return m_parts->sessionName; }
 Services& Backends::services() { return m_parts->services; }
 Session& Backends::session() { return *m_parts->session; }
 script::ScriptRunner& Backends::scripting() { return m_parts->scripting; }

@@ -32,6 +32,8 @@ class Backends {
     Backends(const Backends&) = delete;
     Backends& operator=(const Backends&) = delete;
 
+    /// The name of its kind, as users write it.
+    const std::string& sessionName() const;
     Services& services();
     Session& session();
     script::ScriptRunner& scripting();

@@ -41,6 +41,11 @@ Program::Program(Backends& backends)
                    m_library),
       m_signals(interruptRun, &backends.session()) {
     backends.scripting().askThrough(m_controller.scriptDialogs());
+    // The session may be another than the one that would be found.
+    m_controller.statusDesk().setCheck(
+        {QApplication::applicationFilePath(),
+         QStringLiteral("--session=") + QString::fromStdString(backends.sessionName()),
+         QStringLiteral("--check")});
     QApplication::setApplicationName(QStringLiteral("keyrill"));
     QApplication::setDesktopFileName(QStringLiteral("example.orlen.Keyrill"));
     QApplication::setQuitOnLastWindowClosed(false);

@@ -30,6 +30,18 @@ constexpr std::array<ModifierWord, 4> modifierWords = {{
     {modifier::control, "control"},
 }};
 
+std::string_view withoutIndent(std::string_view line) {
+    return line.substr(std::min(line.find_first_not_of(" \t"), line.size()));
+}
+
+bool isBlank(std::string_view line) { return withoutIndent(line).empty(); }
+
+/// The whole line, which the other line end would end too.
+bool isComment(std::string_view line) {
+    const std::string_view words = withoutIndent(line);
+    return (words.starts_with("--") || words.starts_with('#')) && line.find('\r') == std::string_view::npos;
+}
+
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
 /// Reads a recording from its start. What is not there as it is written is not read at all.
@@ -47,12 +59,10 @@ class LineReader {
 
     /// Comments and empty lines.
     void passRemarks() {
-        for (;;) {
+        while (!m_rest.empty()) {
             const std::string_view line = m_rest.substr(0, m_rest.find('\n'));
-            const std::string_view words = line.substr(std::min(line.find_first_not_of(" \t"), line.size()));
-            const bool isRemark = words.empty() || words.starts_with("--");
-            if (!isRemark || line.size() == m_rest.size()) return;
-            m_rest.remove_prefix(line.size() + 1);
+            if (!isBlank(line) && !isComment(line)) return;
+            m_rest.remove_prefix(std::min(line.size() + 1, m_rest.size()));
         }
     }
 
@@ -230,6 +240,22 @@ Splice RecordedScript::replaced(std::size_t first, std::size_t count, std::strin
     std::string remarks;
     for (std::size_t index = first; index < first + count; ++index) remarks += remarksOf(m_lines[index]);
     return {beginOf(first), bytesOf(first, count).size(), remarks + lines};
+}
+
+Splice RecordedScript::rewritten(std::size_t first, std::size_t count, std::string lines) const {
+    const std::size_t begin = m_lines[first].begin;
+    return {begin, beginOf(first + count) - begin, std::move(lines)};
+}
+
+std::string RecordedScript::comments() const {
+    std::string comments;
+    std::string_view rest = m_script;
+    while (!rest.empty()) {
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+        if (isComment(line)) comments.append(line).push_back('\n');
+    }
+    return comments;
 }
 
 std::size_t RecordedScript::beginOf(std::size_t line) const {

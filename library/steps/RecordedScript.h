@@ -48,8 +48,8 @@ struct Line {
 };
 
 /// A script of the shape that recordings have: nothing but key presses, held modifiers, pauses and typed
-/// texts one below the other, each as it is written when it is recorded or edited. Lines of comment ("--")
-/// and empty ones may stand anywhere between them. It can be edited step by step.
+/// texts one below the other, each as it is written when it is recorded or edited. Lines of comment ("--",
+/// "#") and empty ones may stand anywhere between them. It can be edited step by step.
 ///
 /// The edits are splices, so that all lines that are not edited stay as they are, byte for byte. What a
 /// splice makes of the script has the shape again. Comments go with the line below them when it is moved, and
@@ -73,6 +73,14 @@ class RecordedScript {
     /// Lines, as keyLines(), textLines() and pauseLines() make them, stand in the place of others; of none
     /// with the `count` 0.
     Splice replaced(std::size_t first, std::size_t count, std::string lines) const;
+    /// Lines stand in the place of one or more others, below the comments of the first; what is in `lines`
+    /// has the comments of the rest.
+    Splice rewritten(std::size_t first, std::size_t count, std::string lines) const;
+
+    /// The comments and empty lines before a line, with their ends.
+    std::string_view remarksOf(const Line& line) const;
+    /// All lines of comment, one below the other.
+    std::string comments() const;
 
   private:
     explicit RecordedScript(std::string script) : m_script(std::move(script)) {}
@@ -80,7 +88,6 @@ class RecordedScript {
     /// With its comments.
     std::size_t beginOf(std::size_t line) const;
     std::string_view bytesOf(std::size_t first, std::size_t count) const;
-    std::string_view remarksOf(const Line& line) const;
 
     std::string m_script;
     std::vector<Line> m_lines;

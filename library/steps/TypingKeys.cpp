@@ -97,7 +97,8 @@ Result<std::string> keyLinesOf(const KeyboardLayout& layout, std::string_view te
 Result<Splice> retyped(const RecordedScript& recording, std::size_t first, std::size_t count,
                        std::string_view text, const KeyboardLayout& layout) {
     const auto typed = [&](std::size_t index) { return typedBy(layout, recording.lines()[index]); };
-    std::size_t end = first + count;
+    const std::size_t last = first + count;
+    std::size_t end = last;
     for (std::string character; first < end; ++first, text.remove_prefix(character.size())) {
         character = typed(first);
         if (!text.starts_with(character)) break;
@@ -108,7 +109,11 @@ Result<Splice> retyped(const RecordedScript& recording, std::size_t first, std::
     }
     const Result<std::string> lines = keyLinesOf(layout, text);
     if (!lines) return lines.error();
-    return recording.replaced(first, end - first, lines.value());
+    if (first < end) return recording.rewritten(first, end - first, lines.value());
+    if (first == last) return recording.replaced(first, 0, lines.value());
+    // Below what is told about the keys, and before the first of them that stays.
+    const Line& line = recording.lines()[first];
+    return recording.rewritten(first, 1, lines.value() + recording.script().substr(line.begin, line.size));
 }
 
 std::optional<Splice> convertedToText(const RecordedScript& recording, std::size_t first, std::size_t count,
@@ -121,6 +126,10 @@ std::optional<Splice> convertedToText(const RecordedScript& recording, std::size
     };
     for (std::size_t index = first; index < first + count; ++index) {
         const Line& line = recording.lines()[index];
+        if (index > first && line.remarks > 0) {
+            endRun();
+            lines += recording.remarksOf(line);
+        }
         const std::string typed = typedBy(layout, line);
         run += typed;
         isConverted = isConverted || !typed.empty();
@@ -129,7 +138,7 @@ std::optional<Splice> convertedToText(const RecordedScript& recording, std::size
         lines += recording.script().substr(line.begin, line.size);
     }
     endRun();
-    return isConverted ? std::optional(recording.replaced(first, count, std::move(lines))) : std::nullopt;
+    return isConverted ? std::optional(recording.rewritten(first, count, std::move(lines))) : std::nullopt;
 }
 
 Result<std::optional<Splice>> convertedToKeys(const RecordedScript& recording, std::size_t first,
@@ -139,6 +148,7 @@ Result<std::optional<Splice>> convertedToKeys(const RecordedScript& recording, s
     bool isConverted = false;
     for (std::size_t index = first; index < first + count; ++index) {
         const Line& line = recording.lines()[index];
+        if (index > first) lines += recording.remarksOf(line);
         if (line.kind == LineKind::text) {
             auto keys = keyLinesOf(table, recording.textOf(line));
             if (!keys) return keys.error();
@@ -149,7 +159,7 @@ Result<std::optional<Splice>> convertedToKeys(const RecordedScript& recording, s
         }
     }
     if (!isConverted) return std::optional<Splice>();
-    return std::optional(recording.replaced(first, count, std::move(lines)));
+    return std::optional(recording.rewritten(first, count, std::move(lines)));
 }
 
 }  // namespace steps

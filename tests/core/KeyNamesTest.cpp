@@ -19,9 +19,10 @@ constexpr std::uint32_t command = 0x100000;
 constexpr std::uint32_t function = 0x800000;
 
 class KeyNamesTest : public testing::Test {
-  protected:
+  public:
     ~KeyNamesTest() override { setStringTableLookup(nullptr); }
 
+  protected:
     FakePlatform platform;
 
   private:

@@ -121,6 +121,7 @@ TEST_F(MacrosTest, theFileIsRenamedByTheUserAndByOthers) {
     press("Return");
     EXPECT_TRUE(holds("Hello", recordedAbc));
     EXPECT_FALSE(std::filesystem::exists(file("Greeting")));
+    desktop.run(assistantCall(keyrill->child(), {"await", "Hello"}));
     desktop.run({"mv", file("Hello"), file("Greeting")});
     desktop.run(assistantCall(keyrill->child(), {"await", "Greeting"}));
     press("ctrl+f");

@@ -50,8 +50,8 @@ class GnomeSettingsTest : public testing::Test {
         PrivateBus bus;
         SessionBus session{bus.address()};
     };
-    static void SetUpTestSuite() { s_world = new World; }
-    static void TearDownTestSuite() { delete s_world; }
+    static void SetUpTestSuite() { world() = std::make_unique<World>(); }
+    static void TearDownTestSuite() { world().reset(); }
 
     static void set(const char* key, const std::string& value) {
         ASSERT_EQ(Child({"gsettings", "set", "org.gnome.desktop.input-sources", key, value}).wait(), 0);
@@ -63,14 +63,16 @@ class GnomeSettingsTest : public testing::Test {
         return m_layouts.group() == group;
     }
     GnomeLayouts& layouts() { return m_layouts; }
-    static SessionBus& bus() { return s_world->session; }
+    static SessionBus& bus() { return world()->session; }
 
   private:
-    static World* s_world;
+    /// Of all tests: a bus and its settings take their time.
+    static std::unique_ptr<World>& world() {
+        static std::unique_ptr<World> world;
+        return world;
+    }
     GnomeLayouts m_layouts{bus()};
 };
-
-GnomeSettingsTest::World* GnomeSettingsTest::s_world = nullptr;
 
 TEST_F(GnomeSettingsTest, whatGnomeWritesIsRead) {
     ASSERT_TRUE(GnomeLayouts::areKnown());

@@ -32,9 +32,11 @@ class Wait final : public RunWait {
 };
 
 class PortalLinkTest : public testing::Test {
+  public:
+    ~PortalLinkTest() override { unsetenv("DBUS_SESSION_BUS_ADDRESS"); }
+
   protected:
     PortalLinkTest() { setenv("DBUS_SESSION_BUS_ADDRESS", m_bus.address().c_str(), 1); }
-    ~PortalLinkTest() override { unsetenv("DBUS_SESSION_BUS_ADDRESS"); }
 
     void havePortal(const std::vector<std::string>& how) { m_portal = std::make_unique<StandIn>(m_bus, how); }
     StandIn& portal() { return *m_portal; }

@@ -10,6 +10,7 @@
 #include "desktops/Woken.h"
 #include "linux/desktop/PrivateBus.h"
 
+// NOLINTNEXTLINE(readability-identifier-naming): the name is the test framework's
 void PrintTo(const HotKeyBinder::Event& event, std::ostream* stream) {
     *stream << "event " << static_cast<int>(event.kind) << " key " << int{event.keycode} << " modifiers "
             << event.modifiers << " refusal " << event.answer.refusal.value_or("-") << " words "

@@ -17,9 +17,11 @@
 
 /// The engine on the fake platform, with all state of the process fresh before and after.
 class EngineTest : public testing::Test {
+  public:
+    ~EngineTest() override { reset(); }
+
   protected:
     EngineTest() { reset(); }
-    ~EngineTest() override { reset(); }
 
     FakePlatform& platform() { return m_platform; }
     EngineState& state() { return engineState(); }

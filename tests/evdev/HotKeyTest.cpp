@@ -17,10 +17,13 @@ class EvdevHotKeyTest : public EvdevTest {
 
     void SetUp() override {
         EvdevTest::SetUp();
+        prepare();
         request(record, "record", key::f5, 0);
         monitor().setRecording(false);
         delivered();
     }
+    /// What is so before the hot key is asked for.
+    virtual void prepare() {}
     void desktopTells(bool press) { monitor().desktopTells(f5, press); }
 };
 
@@ -167,13 +170,7 @@ TEST_P(EvdevHotKeyTest, aDesktopThatIsListenedToIsReadInARunToo) {
 /// One that the desktop's user decides.
 class EvdevUsersHotKeyTest : public EvdevHotKeyTest {
   protected:
-    void SetUp() override {
-        EvdevTest::SetUp();
-        evdevWorld().grabber().leaveToUser();
-        request(record, "record", key::f5, 0);
-        monitor().setRecording(false);
-        delivered();
-    }
+    void prepare() override { evdevWorld().grabber().leaveToUser(); }
     void decide(std::optional<KeyGrab> keys) {
         monitor().desktopAnswers(f5, {.refusal = {}, .trigger = "words", .keys = keys});
     }

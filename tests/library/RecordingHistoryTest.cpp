@@ -19,7 +19,7 @@ class RecordingHistoryTest : public EngineTest, public HistoryListener {
 
     /// A macro of that one key, which is its title too.
     static boost::shared_ptr<Macro> recorded(const std::string& title) {
-        const boost::shared_ptr<Macro> macro = MacroManager::createMacro();
+        boost::shared_ptr<Macro> macro = MacroManager::createMacro();
         macro->addAction(createKeyCode(0, title, 'k'));
         return macro;
     }

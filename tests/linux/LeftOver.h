@@ -13,7 +13,7 @@ inline std::string makeLeftOver(const std::string& folder) {
     std::ofstream(unnamed) << "half of it";
     struct stat status {};
     stat(unnamed.c_str(), &status);
-    const std::string name = folder + "/.keyrill-unfinished-" + std::to_string(status.st_ino);
+    std::string name = folder + "/.keyrill-unfinished-" + std::to_string(status.st_ino);
     std::filesystem::rename(unnamed, name);
     return name;
 }

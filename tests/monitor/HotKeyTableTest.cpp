@@ -11,6 +11,7 @@
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
 
+// NOLINTNEXTLINE(readability-identifier-naming): the name is the test framework's
 void PrintTo(const KeyGrab& grab, std::ostream* stream) {
     *stream << "key " << int{grab.keycode} << std::hex << " modifiers 0x" << grab.modifiers << " locks 0x"
             << grab.locks << std::dec;

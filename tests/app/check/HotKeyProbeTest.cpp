@@ -63,6 +63,7 @@ TEST_F(HotKeyProbeTest, inTheFirstRunTheProgramHasWhatIsNotStoredYet) {
         probeHotKeys(platform.settings, platform.hotKeys, platform.keyboardLayout, {"record", "play"});
     EXPECT_EQ(facts[2].combination, "Ctrl+Super+P");
     EXPECT_EQ(facts[2].finding, HotKeyFinding::ours);
+    EXPECT_EQ(facts[0].combination, "Ctrl+Super+R");
     EXPECT_EQ(facts[1].finding, HotKeyFinding::unset);
 }
 

@@ -396,6 +396,31 @@ TEST_F(MacrosDeskTest, whatMacrosTypeIsFound) {
     EXPECT_TRUE(window().list().indexOf("work/Mail.keyrill").isValid());
 }
 
+TEST_F(MacrosDeskTest, whatIsToldAboutAMacroIsFound) {
+    write("Bill", "-- For the invoice\n" + a);
+    ASSERT_TRUE(soon([this] { return window().list().hasContent("Bill.keyrill"); }));
+    window().list().setQuery(QStringLiteral("invoice"));
+    EXPECT_TRUE(soon([this] { return window().list().indexOf("Bill.keyrill").isValid(); }));
+}
+
+TEST_F(MacrosDeskTest, aGoodNameEndsWhatWasToldOfABadOne) {
+    choose("Greeting");
+    emit window().renameWanted("Greeting.keyrill", QStringLiteral("a/b"));
+    ASSERT_NE(warning(), "");
+    emit window().renameWanted("Greeting.keyrill", QStringLiteral("Hello"));
+    EXPECT_EQ(warning(), "");
+    EXPECT_TRUE(isThere("Hello"));
+}
+
+TEST_F(MacrosDeskTest, aNewNameLeavesWhatWasDeletedToBeTakenBack) {
+    choose("Greeting");
+    emit window().deleteWanted("Greeting.keyrill");
+    emit window().renameWanted("work/Mail.keyrill", QStringLiteral("Post"));
+    ASSERT_FALSE(isThere("Greeting"));
+    button("Undo").click();
+    EXPECT_TRUE(isThere("Greeting"));
+}
+
 TEST_F(MacrosDeskTest, aFileThatCannotBeReadSaysSo) {
     std::filesystem::remove(file("Greeting"));
     choose("Greeting");

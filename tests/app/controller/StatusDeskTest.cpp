@@ -2,6 +2,7 @@
 #include "app/controller/StatusDesk.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QEventLoop>
 #include <QLabel>
@@ -18,8 +19,8 @@ namespace {
 class StatusDeskTest : public AppTest {
   protected:
     void showWhat(const char* script) {
-        desk.emplace(stage,
-                     QStringList{QStringLiteral("/bin/sh"), QStringLiteral("-c"), QLatin1String(script)});
+        desk.emplace(stage);
+        desk->setCheck({QStringLiteral("/bin/sh"), QStringLiteral("-c"), QLatin1String(script)});
         desk->show();
     }
     bool comesToSay(const char* text) {
@@ -64,21 +65,46 @@ TEST_F(StatusDeskTest, findsOutAnewWhenAsked) {
 TEST_F(StatusDeskTest, saysSoWhereNothingCanBeFoundOut) {
     showWhat("kill -9 $$");
     EXPECT_TRUE(comesToSay("What works here could not be found out."));
-    desk.emplace(stage, QStringList{QStringLiteral("/nowhere/keyrill")});
+    showWhat("echo 'ok  Tray: there'; kill -9 $$");
+    EXPECT_TRUE(comesToSay("What works here could not be found out."));
+    desk.emplace(stage);
+    desk->setCheck({QStringLiteral("/nowhere/keyrill")});
     desk->show();
     EXPECT_TRUE(comesToSay("What works here could not be found out."));
 }
 
 TEST_F(StatusDeskTest, doesNotWaitForACheckThatHangs) {
+    desk.emplace(stage);
+    desk->setPatience(std::chrono::milliseconds(200));
+    desk->setCheck({QStringLiteral("/bin/sleep"), QStringLiteral("1000")});
+    desk->show();
+    EXPECT_TRUE(comesToSay("A moment..."));
+    EXPECT_TRUE(comesToSay("What works here could not be found out."));
+    desk->setCheck({QStringLiteral("/bin/echo"), QStringLiteral("ok  Tray: there")});
+    againButton().click();
+    EXPECT_TRUE(comesToSay("Tray: there"));
+}
+
+TEST_F(StatusDeskTest, endsWhileItIsFindingOut) {
     showWhat("exec sleep 1000");
     EXPECT_TRUE(comesToSay("A moment..."));
     desk.reset();
 }
 
-TEST_F(StatusDeskTest, asksTheProgramItself) {
-    const QStringList check = StatusDesk::checkOfThisProgram();
-    EXPECT_EQ(check.first(), QCoreApplication::applicationFilePath());
-    EXPECT_EQ(check.last(), QStringLiteral("--check"));
+TEST_F(StatusDeskTest, asksOnceAtATimeAndAnewEachTime) {
+    const TemporaryFolder folder;
+    const std::string file = folder.file("runs");
+    const std::string script = "echo >> " + file + "; read line < " + folder.file("gate") + "; wc -l < " +
+                               file + " | sed 's/^/ok  Runs: /'";
+    ASSERT_EQ(mkfifo(folder.file("gate").c_str(), 0600), 0);
+    showWhat(script.c_str());
+    desk->show();
+    againButton().click();
+    std::ofstream(folder.file("gate")) << "\n";
+    EXPECT_TRUE(comesToSay("Runs: 1"));
+    desk->show();
+    std::ofstream(folder.file("gate")) << "\n";
+    EXPECT_TRUE(comesToSay("Runs: 2"));
 }
 
 }  // namespace

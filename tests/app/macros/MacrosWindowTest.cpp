@@ -8,12 +8,14 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 #include <QTimerEvent>
 
 #include "app/macros/KeysView.h"
 #include "app/macros/MacroEditor.h"
 #include "app/macros/MacroListModel.h"
+#include "app/macros/MacroSettingsRow.h"
 #include "app/macros/ScriptEditor.h"
 #include "engine/EngineTest.h"
 
@@ -176,6 +178,9 @@ TEST_F(MacrosWindowTest, takesBackByItsKeysWhatWasTold) {
     QObject::connect(&window, &MacrosWindow::undoWanted, [&undone] { ++undone; });
     QKeyEvent event(QEvent::KeyPress, Qt::Key_Z, Qt::ControlModifier);
     QCoreApplication::sendEvent(&list(), &event);
+    EXPECT_EQ(undone, 0);
+    window.tell(QStringLiteral("In the trash."), QStringLiteral("Undo"));
+    QCoreApplication::sendEvent(&list(), &event);
     EXPECT_EQ(undone, 1);
     // Whoever writes takes back what he wrote.
     QCoreApplication::sendEvent(&search(), &event);
@@ -193,6 +198,25 @@ TEST_F(MacrosWindowTest, whoDeletesAMacroIsAmongTheOthers) {
 TEST_F(MacrosWindowTest, fitsASmallScreen) {
     window.choose("Greeting.keyrill");
     EXPECT_LE(window.minimumSizeHint().width(), 640);
+    window.resize(window.minimumSizeHint());
+    QCoreApplication::processEvents();
+    const auto placeOf = [this](const QWidget& widget) {
+        return QRect(widget.mapTo(&window, QPoint(0, 0)), widget.size());
+    };
+    for (const char* title : {"Duplicate", "Rename", "Delete", "Save", "Play", "Record New"}) {
+        const QRect place = placeOf(button(title));
+        EXPECT_TRUE(window.rect().contains(place)) << title;
+        EXPECT_FALSE(place.intersects(placeOf(window.settings()))) << title;
+        EXPECT_FALSE(place.intersects(placeOf(window.editor()))) << title;
+    }
+    EXPECT_FALSE(placeOf(window.settings()).intersects(placeOf(window.editor())));
+    EXPECT_LT(placeOf(button("Rename")).right(), placeOf(button("Delete")).left());
+}
+
+TEST_F(MacrosWindowTest, isSmallerThanTheScreen) {
+    const QSize room = window.screen()->availableSize();
+    EXPECT_LT(window.width(), room.width());
+    EXPECT_LT(window.height(), room.height());
 }
 
 /// All that can have the focus has a name and a role that fits it.

@@ -7,6 +7,9 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace {
 
@@ -30,6 +33,7 @@ class StatusPanelTest : public testing::Test {
         }
         throw std::runtime_error(title);
     }
+    QScrollArea& area() { return *panel.findChild<QScrollArea*>(); }
     StatusPanel panel;
 };
 
@@ -53,18 +57,57 @@ TEST_F(StatusPanelTest, canBeCopied) {
               "ok  Recording: by XInput\nno  Tray: none\n        Start a panel.\n?   Hot key: not known\n");
 }
 
-TEST_F(StatusPanelTest, nothingIsAskedTwiceAtOnce) {
+TEST_F(StatusPanelTest, whoAsksAgainStaysWhereHeIs) {
     int asked = 0;
     QObject::connect(&panel, &StatusPanel::checkWanted, [&asked] { ++asked; });
     panel.setReport(someReport);
+    panel.show();
+    button("Check Again").setFocus();
     button("Check Again").click();
     EXPECT_EQ(asked, 1);
     panel.setChecking();
-    EXPECT_FALSE(button("Check Again").isEnabled());
-    EXPECT_FALSE(button("Copy").isEnabled());
+    EXPECT_FALSE(area().isEnabled());
     panel.setReport(someReport);
-    EXPECT_TRUE(button("Check Again").isEnabled());
-    EXPECT_TRUE(button("Copy").isEnabled());
+    EXPECT_TRUE(area().isEnabled());
+    EXPECT_EQ(panel.focusWidget(), &button("Check Again"));
+}
+
+TEST_F(StatusPanelTest, isAsLargeAsWhatComesWhileItIsShown) {
+    panel.setChecking();
+    EXPECT_FALSE(button("Copy").isEnabled());
+    panel.show();
+    std::vector<ReportLine> report;
+    for (int i = 0; i < 10; ++i) report.push_back(someReport[0]);
+    panel.setReport(report);
+    QCoreApplication::processEvents();
+    const QRect seen = area().viewport()->rect();
+    for (const auto* label : panel.findChildren<QLabel*>())
+        EXPECT_TRUE(seen.contains(QRect(label->mapTo(area().viewport(), QPoint(0, 0)), label->size())));
+    const int before = panel.height();
+    panel.setReport({someReport[0]});
+    EXPECT_EQ(panel.height(), before);
+}
+
+TEST_F(StatusPanelTest, scrollsWhereTheScreenIsTooLow) {
+    std::vector<ReportLine> report(200, someReport[1]);
+    panel.show();
+    panel.setReport(report);
+    QCoreApplication::processEvents();
+    EXPECT_LT(panel.height(), panel.screen()->availableSize().height());
+    EXPECT_GT(area().verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(StatusPanelTest, linesBeginAtTheTopEachTime) {
+    panel.resize(800, 500);
+    panel.show();
+    const auto top = [this] {
+        QCoreApplication::processEvents();
+        return panel.findChildren<QLabel*>()[1]->mapTo(&panel, QPoint(0, 0)).y();
+    };
+    panel.setReport(someReport);
+    const int first = top();
+    for (int time = 0; time < 2; ++time) panel.setReport(someReport);
+    EXPECT_EQ(top(), first);
 }
 
 TEST_F(StatusPanelTest, saysWhatToDoWhereNothingIsFoundOut) {

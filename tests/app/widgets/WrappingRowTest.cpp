@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QHBoxLayout>
+#include <QVBoxLayout>
 #include <QWidget>
 
 namespace {
@@ -67,6 +68,22 @@ TEST_F(WrappingRowTest, beginsAtTheRightWhereThatIsHowOneReads) {
     window.setLayoutDirection(Qt::RightToLeft);
     setWidth(249);
     EXPECT_EQ(places(), (std::vector<QPoint>{{149, 5}, {0, 0}, {169, 40}}));
+}
+
+TEST_F(WrappingRowTest, getsTheRoomOfItsLinesAboveOthers) {
+    QWidget outer;
+    auto* box = new QVBoxLayout(&outer);
+    box->setContentsMargins(0, 0, 0, 0);
+    auto* below = new Box({100, 20});
+    auto* inner = new WrappingRow;
+    inner->setContentsMargins(0, 3, 0, 4);
+    inner->setSpacing(10);
+    for (const int width : {60, 60}) inner->addWidget(new Box({width, 20}));
+    box->addLayout(inner);
+    box->addWidget(below);
+    outer.resize(100, 300);
+    outer.show();
+    EXPECT_GE(below->y(), 3 + 20 + 10 + 20 + 4);
 }
 
 TEST_F(WrappingRowTest, aGroupStaysTogether) {

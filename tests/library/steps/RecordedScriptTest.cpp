@@ -62,7 +62,7 @@ TEST(RecordedScriptTest, readsWhateverMacrosWrite) {
     for (const double seconds : pauses) macro.addAction(createDelay(seconds));
     const auto script = RecordedScript::parse(macro.script());
     ASSERT_TRUE(script);
-    EXPECT_EQ(script->lines().size(), 3 * 0x20 + pauses.size());
+    EXPECT_EQ(script->lines().size(), std::size_t{3} * 0x20 + pauses.size());
     EXPECT_EQ(script->lines().back().seconds, 1e300);
 }
 
@@ -92,12 +92,15 @@ TEST(RecordedScriptTest, readsNothingThatRecordingsDoNotWrite) {
                               "- note\n",
                               "(* note *)\n",
                               "\tkey code (1) using {} -- note\ndelay 0.01\n",
-                              "\tkey code (1) using {}\n-- note\ndelay 0.01\n"}) {
+                              "\tkey code (1) using {}\n-- note\ndelay 0.01\n",
+                              "-- note\r\tkeystroke \"y\"\n",
+                              "\r\n"}) {
         EXPECT_FALSE(isRecording(lines)) << lines;
     }
     EXPECT_FALSE(RecordedScript::parse(""));
     EXPECT_FALSE(RecordedScript::parse("tell application \"System Events\"\nend tell"));
     EXPECT_FALSE(RecordedScript::parse("tell application \"System Events\"\nend tell\nbeep\n"));
+    EXPECT_TRUE(RecordedScript::parse("tell application \"System Events\"\nend tell\n# note"));
     EXPECT_FALSE(RecordedScript::parse("tell application \"System Events\"\n-- note"));
     EXPECT_TRUE(isRecording("\tkey code (1) using {command down, shift down}\ndelay 0.01\n"));
 }
@@ -129,6 +132,11 @@ TEST(RecordedScriptTest, commentsMayStandAnywhereBetweenLines) {
     EXPECT_EQ(script.lines()[0].remarks, std::string("  -- first\n").size());
     EXPECT_EQ(script.lines()[1].remarks, std::string("\n\t-- second\n").size());
     EXPECT_EQ(script.lines()[2].remarks, 0U);
+}
+
+TEST(RecordedScriptTest, commentsCanBeReadAlone) {
+    EXPECT_EQ(recorded(explained).comments(), "-- Greets.\n  -- first\n\t-- second\n-- done\n-- really\n");
+    EXPECT_EQ(recorded(recordedexample::script).comments(), "");
 }
 
 TEST(RecordedScriptTest, noEditLosesAComment) {

@@ -54,6 +54,7 @@ struct LayoutText {
     const char* text;
 };
 
+// NOLINTNEXTLINE(readability-identifier-naming): the name is the test framework's
 void PrintTo(const LayoutText& row, std::ostream* out) { *out << row.layout; }
 
 class TypingKeysLayoutTest : public testing::TestWithParam<LayoutText> {};
@@ -132,6 +133,27 @@ TEST(TypingKeysTest, retypingLeavesTheKeysThatStay) {
     EXPECT_EQ(after(""), recordingOf(""));
     EXPECT_EQ(after("1a1"), script);
     EXPECT_FALSE(steps::retyped(recording, 0, 3, "1Ж1", us));
+}
+
+TEST(TypingKeysTest, commentsStayWhereTheyAre) {
+    const NamedLayout us("us");
+    const std::string a = steps::keyLines(key::a, 0);
+    const std::string b = steps::keyLines(key::b, 0);
+    const std::string script = recordingOf("-- one\n" + a + "-- two\n" + b + b);
+    const auto recording = recorded(script);
+    const auto after = [&](const char* text) {
+        return spliced(script, steps::retyped(recording, 1, 2, text, us).value());
+    };
+    EXPECT_EQ(after("abb"), recordingOf("-- one\n" + a + "-- two\n" + a + b + b));
+    EXPECT_EQ(after("aa"), recordingOf("-- one\n" + a + "-- two\n" + a + a));
+    EXPECT_EQ(after("bba"), recordingOf("-- one\n" + a + "-- two\n" + b + b + a));
+    EXPECT_EQ(after(""), recordingOf("-- one\n" + a + "-- two\n"));
+    EXPECT_EQ(after("bb"), script);
+    const std::string text = asText(script, us);
+    EXPECT_EQ(text, recordingOf("-- one\n" + steps::textLines("a") + "-- two\n" + steps::textLines("bb")));
+    const auto back = convertedToKeys(recorded(text), 0, 2, us);
+    ASSERT_TRUE(back && back.value());
+    EXPECT_EQ(spliced(text, *back.value()), script);
 }
 
 TEST(TypingKeysTest, combinationsAndPausesStayWhereTheyAre) {
