@@ -434,22 +434,22 @@ void MacrosDesk::rename(const std::string& path, const QString& name) {
 void MacrosDesk::remove(const std::string& path) {
     auto trashed = FileMoves::trash(m_library.fileOf(path));
     if (!trashed) return m_window->warn(shown(trashed.error()));
-    m_trashed = std::move(trashed).value();
-    // For when it comes back.
-    m_trashedText = m_unsaved.take(path);
+    m_deleted.push_back({std::move(trashed).value(), m_unsaved.take(path)});
     m_window->list().setChanged(path, false);
     m_window->choose({});
     m_window->tell(tr("The macro is in the trash."), tr("Undo"));
 }
 
 void MacrosDesk::restore() {
-    if (!m_trashed) return;
-    const TrashedFile file = *std::exchange(m_trashed, std::nullopt);
-    const Result<> restored = FileMoves::restore(file);
-    if (!restored) return m_window->warn(shown(restored.error()));
+    if (m_deleted.empty()) return;
+    const Result<> restored = FileMoves::restore(m_deleted.back().file);
+    // What is in the way may go.
+    if (!restored) return m_window->warn(shown(restored.error()), tr("Undo"));
+    const Deleted deleted = std::move(m_deleted.back());
+    m_deleted.pop_back();
     m_window->tell({});
-    await(file.from, false);
-    if (m_trashedText) m_unsaved.set(m_awaited, *std::exchange(m_trashedText, std::nullopt));
+    await(deleted.file.from, false);
+    if (deleted.text) m_unsaved.set(m_awaited, *deleted.text);
 }
 
 void MacrosDesk::await(const std::string& file, bool isToBeNamed) {

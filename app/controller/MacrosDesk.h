@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "app/macros/DraftFiles.h"
 #include "app/macros/FileMoves.h"
@@ -112,9 +113,13 @@ class MacrosDesk : public QObject, private LibraryListener {
     /// Whose text is being read to be shown; empty for none.
     std::string m_opening;
     QTimer m_patience;
-    /// Of the one that was put there last.
-    std::optional<TrashedFile> m_trashed;
-    std::optional<std::string> m_trashedText;
+    struct Deleted {
+        TrashedFile file;
+        /// What was not saved of it.
+        std::optional<std::string> text;
+    };
+    /// The last one last.
+    std::vector<Deleted> m_deleted;
     std::string m_awaited;
     bool m_namesAwaited = false;
     Purpose m_purpose = Purpose::none;

@@ -37,15 +37,20 @@ MacroSettingsRow::MacroSettingsRow(QWidget* parent) : QWidget(parent), m_notice(
     box->addWidget(m_notice);
 }
 
+MacroSettingsRow::~MacroSettingsRow() {
+    // It looks at the combination once more when it loses the focus.
+    delete m_field;
+}
+
 QLayout* MacroSettingsRow::makeHotKey() {
-    auto* field = new SRRecorderControl(m_hotKey, tr("Hot key"), this);
+    m_field = new SRRecorderControl(m_hotKey, tr("Hot key"), this);
     auto* row = new QHBoxLayout;
-    row->addWidget(makeLabel(tr("&Hot key:"), field));
-    row->addWidget(field);
+    row->addWidget(makeLabel(tr("&Hot key:"), m_field));
+    row->addWidget(m_field);
     connect(&m_hotKey, &ShortcutModel::keyComboDidChange, this,
             [this] { emit hotKeyWanted(m_hotKey.keyCombo()); });
-    connect(field, &SRRecorderControl::recordingChanged, this,
-            [this, field] { emit recordingChanged(field->isRecording()); });
+    connect(m_field, &SRRecorderControl::recordingChanged, this,
+            [this] { emit recordingChanged(m_field->isRecording()); });
     return row;
 }
 

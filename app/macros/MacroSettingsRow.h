@@ -11,6 +11,7 @@ class QCheckBox;
 class QDoubleSpinBox;
 class QLayout;
 class QSpinBox;
+class SRRecorderControl;
 
 /// What belongs to a macro and not into its text: its hot key, and how often and how fast that plays it. What
 /// the user changes is told at once.
@@ -19,6 +20,9 @@ class MacroSettingsRow : public QWidget {
 
   public:
     explicit MacroSettingsRow(QWidget* parent = nullptr);
+    ~MacroSettingsRow() override;
+    MacroSettingsRow(const MacroSettingsRow&) = delete;
+    MacroSettingsRow& operator=(const MacroSettingsRow&) = delete;
 
     /// In control flags.
     void showSettings(KeyCombo hotKey, const PlayOptions& play);
@@ -40,6 +44,7 @@ class MacroSettingsRow : public QWidget {
     void tellSpeed();
 
     ShortcutModel m_hotKey;
+    SRRecorderControl* m_field = nullptr;
     /// As it is kept, which may be finer than the fields show.
     PlayOptions m_play;
     QSpinBox* m_times = nullptr;

@@ -30,6 +30,8 @@ constexpr int secondsOfCount = 3;
 constexpr QSize firstSize{960, 600};
 /// There is a frame around a window, and something beside it.
 constexpr double mostOfScreen = 0.9;
+/// Of text: the steps are to be seen where the controls below them take several lines.
+constexpr int leastLines = 24;
 constexpr int listWidth = 240;
 
 QPushButton* makeButton(const QString& title, const QString& hint) {
@@ -60,6 +62,7 @@ MacrosWindow::MacrosWindow(const KeyboardLayout& layout)
     auto* box = new QVBoxLayout(this);
     box->addWidget(sides, 1);
     box->addWidget(makeCount());
+    setMinimumHeight(leastLines * fontMetrics().lineSpacing());
     resize(firstSize.boundedTo(screen()->availableSize() * mostOfScreen));
     makeShortcuts();
     connect(m_model, &MacroListModel::renameWanted, this, &MacrosWindow::renameWanted);
@@ -329,7 +332,7 @@ void MacrosWindow::setNotice(const QString& text, const QString& action, bool is
 
 void MacrosWindow::tell(const QString& text, const QString& action) { setNotice(text, action, false); }
 
-void MacrosWindow::warn(const QString& text) { setNotice(text, {}, true); }
+void MacrosWindow::warn(const QString& text, const QString& action) { setNotice(text, action, true); }
 
 void MacrosWindow::endWarning() {
     if (m_warning->isVisible()) tell({});
@@ -367,7 +370,7 @@ void MacrosWindow::endCount() {
 /// Escape closes no window in which there is something to lose; who looks for a macro begins anew with it.
 void MacrosWindow::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Undo)) {
-        if (m_action->isVisible()) emit undoWanted();
+        emit undoWanted();
         return;
     }
     if (!event->matches(QKeySequence::Cancel)) return Panel::keyPressEvent(event);

@@ -73,8 +73,8 @@ class MacrosWindow : public Panel {
 
     /// A line at the lower edge until the next; `action` is the title of its button, empty for none.
     void tell(const QString& text, const QString& action = {});
-    /// What went wrong.
-    void warn(const QString& text);
+    /// What went wrong; `action` as before.
+    void warn(const QString& text, const QString& action = {});
     /// What went wrong goes wrong no more; what was told otherwise stays.
     void endWarning();
 
@@ -101,7 +101,7 @@ class MacrosWindow : public Panel {
     void duplicateWanted(const std::string& path);
     void renameWanted(const std::string& path, const QString& name);
     void deleteWanted(const std::string& path);
-    /// What was told is to be taken back: by its button, or by Ctrl+Z while that is there and nobody is
+    /// What was deleted last is to come back: by the button of what was told, or by Ctrl+Z where nobody is
     /// writing.
     void undoWanted();
 

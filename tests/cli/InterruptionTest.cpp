@@ -141,7 +141,7 @@ TEST(InterruptionTest, aRunWithoutItsStreamsTypesAllAndEnds) {
         << "tell application \"System Events\"\nkeystroke \"one\"\n"
            "log \"hello hello hello hello hello\"\nkeystroke \"two\"\nend tell\n";
     for (const char* closed : {"2>&-", ">&- 2>&-", "<&- >&- 2>&-"}) {
-        Child run({"sh", "-c", "exec \"$0\" run \"$1\" " + std::string(closed), programs::scriptTool,
+        Child run({"sh", "-c", R"(exec "$0" run "$1" )" + std::string(closed), programs::scriptTool,
                    folder.file("script")},
                   {.environment = {{"DISPLAY", server.display()}, {"XDG_RUNTIME_DIR", folder.path()}}});
         EXPECT_EQ(run.wait(), 0) << closed;

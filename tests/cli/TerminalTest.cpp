@@ -199,7 +199,7 @@ TEST(TerminalDialogTest, withoutACancelButtonTheEndOfInputEndsTheScript) {
 }
 
 TEST(TerminalDialogTest, whatItShowsDoesNotActOnTheTerminal) {
-    TerminalRun run("display dialog (\"a\" & (ASCII character 27) & \"[31mb\")");
+    TerminalRun run(R"(display dialog ("a" & (ASCII character 27) & "[31mb"))");
     EXPECT_TRUE(run.shows("a [31mb\r\n")) << run.screen();
 }
 

@@ -329,7 +329,7 @@ TEST_F(ToolTest, aFileThatIsNoUtf8IsWarnedOf) {
 TEST_F(ToolTest, whatIsAskedOfADesktopFailsWithoutOne) {
     for (const char* script :
          {"exists application \"F\"", "application \"F\" is running", "tell application \"F\" to activate",
-          "tell application \"System Events\" to frontmost of process \"F\"",
+          R"(tell application "System Events" to frontmost of process "F")",
           "repeat until application \"F\" is running\ndelay 0.01\nend repeat"}) {
         write(script);
         const Outcome outcome = run("run script");

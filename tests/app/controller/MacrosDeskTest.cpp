@@ -40,6 +40,15 @@ const std::string ab = recording(steps::keyLines(key::a, 0) + steps::keyLines(ke
 
 /// The desk on a folder with Greeting ("a") and work/Mail, and a trash of its own.
 class MacrosDeskTest : public AppTest {
+  public:
+    ~MacrosDeskTest() override {
+        if (m_dataHome.isNull()) {
+            qunsetenv("XDG_DATA_HOME");
+        } else {
+            qputenv("XDG_DATA_HOME", m_dataHome);
+        }
+    }
+
   protected:
     MacrosDeskTest() : m_dataHome(qgetenv("XDG_DATA_HOME")) {
         qputenv("XDG_DATA_HOME", QByteArray::fromStdString(m_home.file("data")));
@@ -49,13 +58,6 @@ class MacrosDeskTest : public AppTest {
         shelf.start();
         desk.show();
         EXPECT_TRUE(soon([this] { return names() == "Greeting|work/Mail"; }));
-    }
-    ~MacrosDeskTest() override {
-        if (m_dataHome.isNull()) {
-            qunsetenv("XDG_DATA_HOME");
-        } else {
-            qputenv("XDG_DATA_HOME", m_dataHome);
-        }
     }
 
     std::string file(const std::string& name) const { return folder + "/" + name + ".keyrill"; }
@@ -419,6 +421,20 @@ TEST_F(MacrosDeskTest, aNewNameLeavesWhatWasDeletedToBeTakenBack) {
     ASSERT_FALSE(isThere("Greeting"));
     button("Undo").click();
     EXPECT_TRUE(isThere("Greeting"));
+}
+
+TEST_F(MacrosDeskTest, whatIsInTheWayOfWhatWasDeletedMayGo) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    const std::string unsaved = editor().text();
+    emit window().deleteWanted("Greeting.keyrill");
+    write("Greeting", ab);
+    button("Undo").click();
+    EXPECT_NE(warning(), "");
+    std::filesystem::remove(file("Greeting"));
+    button("Undo").click();
+    ASSERT_TRUE(isThere("Greeting"));
+    EXPECT_TRUE(soon([&] { return window().chosen() == "Greeting.keyrill" && editor().text() == unsaved; }));
 }
 
 TEST_F(MacrosDeskTest, aFileThatCannotBeReadSaysSo) {

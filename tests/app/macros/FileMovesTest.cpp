@@ -13,18 +13,20 @@ namespace {
 
 /// A folder with Greeting.keyrill, and a trash of its own.
 class FileMovesTest : public testing::Test {
-  protected:
-    FileMovesTest() : m_dataHome(qgetenv("XDG_DATA_HOME")) {
-        qputenv("XDG_DATA_HOME", QByteArray::fromStdString(m_folder.file("data")));
-        std::filesystem::create_directories(m_folder.file("data"));
-        std::ofstream(greeting) << "text \xff\r\n";
-    }
+  public:
     ~FileMovesTest() override {
         if (m_dataHome.isNull()) {
             qunsetenv("XDG_DATA_HOME");
         } else {
             qputenv("XDG_DATA_HOME", m_dataHome);
         }
+    }
+
+  protected:
+    FileMovesTest() : m_dataHome(qgetenv("XDG_DATA_HOME")) {
+        qputenv("XDG_DATA_HOME", QByteArray::fromStdString(m_folder.file("data")));
+        std::filesystem::create_directories(m_folder.file("data"));
+        std::ofstream(greeting) << "text \xff\r\n";
     }
     bool isThere(const std::string& path) const { return std::filesystem::exists(path); }
     std::string file(const std::string& name) const { return m_folder.file(name); }

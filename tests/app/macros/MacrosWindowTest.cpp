@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/macros/MacrosWindow.h"
 
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -178,9 +179,6 @@ TEST_F(MacrosWindowTest, takesBackByItsKeysWhatWasTold) {
     QObject::connect(&window, &MacrosWindow::undoWanted, [&undone] { ++undone; });
     QKeyEvent event(QEvent::KeyPress, Qt::Key_Z, Qt::ControlModifier);
     QCoreApplication::sendEvent(&list(), &event);
-    EXPECT_EQ(undone, 0);
-    window.tell(QStringLiteral("In the trash."), QStringLiteral("Undo"));
-    QCoreApplication::sendEvent(&list(), &event);
     EXPECT_EQ(undone, 1);
     // Whoever writes takes back what he wrote.
     QCoreApplication::sendEvent(&search(), &event);
@@ -198,7 +196,7 @@ TEST_F(MacrosWindowTest, whoDeletesAMacroIsAmongTheOthers) {
 TEST_F(MacrosWindowTest, fitsASmallScreen) {
     window.choose("Greeting.keyrill");
     EXPECT_LE(window.minimumSizeHint().width(), 640);
-    window.resize(window.minimumSizeHint());
+    window.resize(window.minimumSizeHint().expandedTo(window.minimumSize()));
     QCoreApplication::processEvents();
     const auto placeOf = [this](const QWidget& widget) {
         return QRect(widget.mapTo(&window, QPoint(0, 0)), widget.size());
@@ -210,6 +208,9 @@ TEST_F(MacrosWindowTest, fitsASmallScreen) {
         EXPECT_FALSE(place.intersects(placeOf(window.editor()))) << title;
     }
     EXPECT_FALSE(placeOf(window.settings()).intersects(placeOf(window.editor())));
+    for (const auto* field : window.settings().findChildren<QAbstractSpinBox*>())
+        EXPECT_TRUE(placeOf(window.settings()).contains(placeOf(*field)));
+    for (const auto* view : window.editor().findChildren<QListView*>()) EXPECT_GE(view->height(), 50);
     EXPECT_LT(placeOf(button("Rename")).right(), placeOf(button("Delete")).left());
 }
 

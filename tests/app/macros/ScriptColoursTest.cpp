@@ -12,9 +12,10 @@ std::string read(const QString& line, ScriptLineState begin = 0) {
     static const char* const names[] = {"keyword", "command", "number", "text", "comment", "fault"};
     const ScriptLine result = readScriptLine(line, begin);
     QStringList words;
-    for (const ScriptSpan& span : result.spans)
+    for (const ScriptSpan& span : result.spans) {
         words.append(QLatin1String(names[static_cast<int>(span.part)]) + u':' +
                      line.mid(span.begin, span.length));
+    }
     if (result.end != 0) words.append(QStringLiteral("> %1").arg(result.end));
     return words.join(u' ').toStdString();
 }
