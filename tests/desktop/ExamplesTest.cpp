@@ -19,10 +19,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const fs::path folder = fs::path(programs::languageReference).replace_filename("examples");
+fs::path examples() { return fs::path(programs::languageReference).replace_filename("examples"); }
 
 void play(const Desktop& desktop, const std::string& name, const std::vector<std::string>& options = {}) {
-    std::vector<std::string> command = {programs::keyrill, "--play", folder / (name + ".keyrill")};
+    std::vector<std::string> command = {programs::keyrill, "--play", examples() / (name + ".keyrill")};
     command.insert(command.end(), options.begin(), options.end());
     EXPECT_EQ(answerOf(desktop, command), done);
 }
@@ -180,12 +180,12 @@ TEST(ExamplesPageTest, listsWhatThereIs) {
                                           "slow-text",       "question-first", "two-windows", "every-minute",
                                           "clean-clipboard", "greeting"};
     std::set<std::string> files;
-    for (const auto& entry : fs::directory_iterator(folder)) {
+    for (const auto& entry : fs::directory_iterator(examples())) {
         if (entry.path().extension() == ".keyrill") files.insert(entry.path().stem());
     }
     std::set<std::string> listed;
-    const std::string page = contentOf(folder / "README.md");
-    const std::regex row("\\| `([a-z-]+)\\.keyrill` \\|");
+    const std::string page = contentOf(examples() / "README.md");
+    const std::regex row(R"(\| `([a-z-]+)\.keyrill` \|)");
     for (std::sregex_iterator at(page.begin(), page.end(), row), end; at != end; ++at) {
         listed.insert((*at)[1]);
     }

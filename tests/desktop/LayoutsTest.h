@@ -19,6 +19,7 @@ struct NamedLayout {
 
 std::string nameOf(const NamedLayout& layout);
 /// As the test is called.
+// NOLINTNEXTLINE(readability-identifier-naming): the name is the test framework's
 void PrintTo(const NamedLayout& layout, std::ostream* stream);
 
 /// What people type on the keyboard of a layout, every key of its letters and signs on every level, dead keys

@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 namespace {
 
 std::string typing(const std::string& text) {
-    return "tell application \"System Events\" to keystroke \"" + text + "\"\n";
+    return R"(tell application "System Events" to keystroke ")" + text + "\"\n";
 }
 
 /// Not done, and why.

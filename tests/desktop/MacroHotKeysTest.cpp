@@ -19,7 +19,7 @@ class MacroHotKeysTest : public DesktopTest {
     MacroHotKeysTest() { fs::create_directories(folder); }
 
     static std::string typing(const std::string& text) {
-        return "tell application \"System Events\" to keystroke \"" + text + "\"\n";
+        return R"(tell application "System Events" to keystroke ")" + text + "\"\n";
     }
     /// Control and Super with the key of that code, and further fields.
     static std::string settingsOf(const std::string& path, int code, const std::string& fields = {}) {

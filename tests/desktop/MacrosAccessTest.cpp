@@ -74,9 +74,10 @@ TEST_F(MacrosAccessTest, eachControlHasANameAndIsReachedByTab) {
     for (const char* control :
          {search, "list item|Greeting", "push button|Record New", "list item|Type abc", "push button|Hot key",
           "spin button|Times", "check box|Until stopped", "spin button|Speed", "push button|Duplicate",
-          "push button|Rename", "push button|Delete", "push button|Play"})
+          "push button|Rename", "push button|Delete", "push button|Play"}) {
         EXPECT_TRUE(reached.contains(control)) << control << " is not among\n"
                                                << testing::PrintToString(reached);
+    }
     EXPECT_GE(controls().size(), 10U);
 }
 

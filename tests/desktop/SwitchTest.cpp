@@ -126,7 +126,7 @@ TEST_P(TypingAfterSwitchTest, whatIsTypedAfterASwitchArrivesInItsWindow) {
         SCOPED_TRACE(play);
         useAll();
         typist.stroke({xkey::control, xkey::super, xkey::p});
-        const auto length = static_cast<std::size_t>(2 * (play + 1));
+        const std::size_t length = 2 * (static_cast<std::size_t>(play) + 1);
         ASSERT_TRUE(expected().typed(length).ends_with("rs")) << expected().typed();
         ASSERT_TRUE(first.typed(length).ends_with("ab")) << first.typed();
         ASSERT_EQ(first.typed().size() + expected().typed().size(), 2 * length);

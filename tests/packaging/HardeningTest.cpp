@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -18,16 +19,16 @@ namespace fs = std::filesystem;
 class HardeningTest : public testing::Test {
   protected:
     static void SetUpTestSuite() {
-        stage = new TemporaryFolder;
-        outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER}, {{"DESTDIR", stage->path()}});
-        for (const auto& entry : fs::recursive_directory_iterator(stage->path())) {
+        stage() = std::make_unique<TemporaryFolder>();
+        outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER}, {{"DESTDIR", stage()->path()}});
+        for (const auto& entry : fs::recursive_directory_iterator(stage()->path())) {
             if (entry.is_regular_file() && contentOf(entry.path())
                                                .starts_with("\x7F"
                                                             "ELF"))
-                programs->insert(entry.path());
+                programs().insert(entry.path());
         }
     }
-    static void TearDownTestSuite() { delete stage; }
+    static void TearDownTestSuite() { stage().reset(); }
 
     static std::string read(const char* option, const std::string& program) {
         return outputOf({"readelf", "--wide", option, program});
@@ -49,29 +50,32 @@ class HardeningTest : public testing::Test {
         return checks;
     }
 
-    // Shared, because an installation takes a second.
-    static TemporaryFolder* stage;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
-    static std::set<std::string>* const programs;
+    /// Shared, because an installation takes a second.
+    static std::unique_ptr<TemporaryFolder>& stage() {
+        static std::unique_ptr<TemporaryFolder> folder;
+        return folder;
+    }
+    static std::set<std::string>& programs() {
+        static std::set<std::string> programs;
+        return programs;
+    }
 };
-
-TemporaryFolder* HardeningTest::stage = nullptr;
-std::set<std::string>* const HardeningTest::programs = new std::set<std::string>;
 
 TEST_F(HardeningTest, looksAtAllPrograms) {
     std::set<std::string> names;
-    for (const fs::path path : *programs) names.insert(path.filename());
+    for (const fs::path path : programs()) names.insert(path.filename());
     EXPECT_EQ(names, (std::set<std::string>{"keyrill", "keyrill-guard", "keyrill-portal", "keyrill-script"}));
 }
 
 TEST_F(HardeningTest, theyLieAtNoFixedAddress) {
-    for (const std::string& program : *programs) {
+    for (const std::string& program : programs()) {
         EXPECT_NE(lineWith(read("--file-header", program), "Type:").find("DYN"), std::string::npos)
             << program;
     }
 }
 
 TEST_F(HardeningTest, allSymbolsAreBoundAndWriteProtectedBeforeTheyStart) {
-    for (const std::string& program : *programs) {
+    for (const std::string& program : programs()) {
         EXPECT_NE(read("--program-headers", program).find("GNU_RELRO"), std::string::npos) << program;
         EXPECT_NE(lineWith(read("--dynamic", program), "(FLAGS)").find("BIND_NOW"), std::string::npos)
             << program;
@@ -79,7 +83,7 @@ TEST_F(HardeningTest, allSymbolsAreBoundAndWriteProtectedBeforeTheyStart) {
 }
 
 TEST_F(HardeningTest, noMemoryIsWritableAndExecutable) {
-    for (const std::string& program : *programs) {
+    for (const std::string& program : programs()) {
         std::istringstream segments(read("--program-headers", program));
         for (std::string line; std::getline(segments, line);)
             EXPECT_EQ(line.find(" RWE "), std::string::npos) << program << ": " << line;
@@ -87,13 +91,13 @@ TEST_F(HardeningTest, noMemoryIsWritableAndExecutable) {
 }
 
 TEST_F(HardeningTest, framesAreChecked) {
-    for (const std::string& program : *programs)
+    for (const std::string& program : programs())
         EXPECT_TRUE(checksIn(program).contains("__stack_chk_fail")) << program;
 }
 
 /// The small helpers copy nothing of a size that the compiler knows.
 TEST_F(HardeningTest, copiesAreBounded) {
-    for (const std::string& program : *programs) {
+    for (const std::string& program : programs()) {
         if (program.ends_with("-guard") || program.ends_with("-portal")) continue;
         EXPECT_TRUE(checksIn(program).contains("__snprintf_chk")) << program;
     }
@@ -103,7 +107,7 @@ TEST_F(HardeningTest, jumpsGoOnlyWhereTheyMay) {
     // The start-up code of the compiler and the C library has a few in every program.
     constexpr std::ptrdiff_t fewest = 20;
     const std::regex landing("\tendbr|\tbti");
-    for (const std::string& program : *programs) {
+    for (const std::string& program : programs()) {
         const std::string code = outputOf({"objdump", "--disassemble", "--no-show-raw-insn", program});
         EXPECT_GT(std::distance(std::sregex_iterator(code.begin(), code.end(), landing), {}), fewest)
             << program;

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <regex>
 
 #include "platform/Installation.h"
@@ -13,22 +14,23 @@ namespace {
 class InstallationTest : public testing::Test {
   protected:
     static void SetUpTestSuite() {
-        stage = new TemporaryFolder;
-        outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER}, {{"DESTDIR", stage->path()}});
+        stage() = std::make_unique<TemporaryFolder>();
+        outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER}, {{"DESTDIR", stage()->path()}});
     }
-    static void TearDownTestSuite() { delete stage; }
+    static void TearDownTestSuite() { stage().reset(); }
 
     /// A path below the prefix as it is in the stage.
     static std::string installed(const std::string& path) {
-        return stage->path() + KEYRILL_PREFIX + "/" + path;
+        return stage()->path() + KEYRILL_PREFIX + "/" + path;
     }
     static bool isInstalled(const std::string& path) { return std::filesystem::exists(installed(path)); }
 
-    // Shared, because an installation takes a second.
-    static TemporaryFolder* stage;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+    /// Shared, because an installation takes a second.
+    static std::unique_ptr<TemporaryFolder>& stage() {
+        static std::unique_ptr<TemporaryFolder> folder;
+        return folder;
+    }
 };
-
-TemporaryFolder* InstallationTest::stage = nullptr;
 
 const std::string id = "example.orlen.Keyrill";
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <memory>
 #include <set>
 
 #include "desktop/Desktop.h"
@@ -22,17 +23,17 @@ namespace fs = std::filesystem;
 class MovedInstallationTest : public testing::Test {
   protected:
     static void SetUpTestSuite() {
-        folder = new TemporaryFolder;
+        stage() = std::make_unique<TemporaryFolder>();
         outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER, "--prefix", prefix()});
     }
-    static void TearDownTestSuite() { delete folder; }
+    static void TearDownTestSuite() { stage().reset(); }
 
     MovedInstallationTest() {
         desktop.setEnvironment("XDG_CONFIG_DIRS", desktop.file("empty"));
         desktop.startWindowManager();
     }
 
-    static std::string prefix() { return folder->file("some where"); }
+    static std::string prefix() { return stage()->file("some where"); }
 
     static std::set<std::string> filesBelow(const fs::path& folder) {
         std::set<std::string> files;
@@ -41,12 +42,13 @@ class MovedInstallationTest : public testing::Test {
         return files;
     }
 
-    // Shared, because an installation takes a second.
-    static TemporaryFolder* folder;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+    /// Shared, because an installation takes a second.
+    static std::unique_ptr<TemporaryFolder>& stage() {
+        static std::unique_ptr<TemporaryFolder> folder;
+        return folder;
+    }
     Desktop desktop;
 };
-
-TemporaryFolder* MovedInstallationTest::folder = nullptr;
 
 TEST_F(MovedInstallationTest, nothingIsOutside) {
     std::vector<std::string> top;
@@ -60,7 +62,7 @@ TEST_F(MovedInstallationTest, theArchiveHoldsTheSameAndRunsWhereItIsUnpacked) {
     const TemporaryFolder place;
     outputOf(
         {KEYRILL_CPACK, "--config", KEYRILL_BUILD_FOLDER "/CPackConfig.cmake", "-B", place.file("made")});
-    const std::string name = "keyrill-" KEYRILL_VERSION "-linux-" KEYRILL_PROCESSOR;
+    const std::string name = std::string("keyrill-") + KEYRILL_VERSION + "-linux-" + KEYRILL_PROCESSOR;
     outputOf({"tar", "-C", place.path(), "-xf", place.file("made/" + name + ".tar.gz")});
     EXPECT_EQ(filesBelow(place.file(name)), filesBelow(prefix()));
     EXPECT_EQ(outputOf({place.file(name) + "/bin/keyrill", "--version"}), "keyrill " KEYRILL_VERSION "\n");
