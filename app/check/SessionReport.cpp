@@ -9,6 +9,7 @@
 
 #include "app/check/CapabilityWords.h"
 #include "app/shortcuts/ShortcutTitles.h"
+#include "platform/Parts.h"
 
 namespace {
 
@@ -173,8 +174,7 @@ std::string reportText(const std::vector<ReportLine>& report) {
 std::vector<ReportLine> reportOf(std::string_view text) {
     std::vector<ReportLine> report;
     while (!text.empty()) {
-        const std::string_view written = text.substr(0, text.find('\n'));
-        text.remove_prefix(std::min(written.size() + 1, text.size()));
+        const std::string_view written = takePart(text, '\n');
         for (const Verdict verdict : {Verdict::works, Verdict::fails, Verdict::uncertain}) {
             const std::string_view begin = mark(verdict);
             if (written.starts_with(begin))

@@ -2,6 +2,7 @@
 #include "app/controller/StatusDesk.h"
 
 #include <QProcess>
+#include <QTimer>
 
 #include "app/check/SessionReport.h"
 #include "app/controller/Stage.h"
@@ -34,14 +35,11 @@ void StatusDesk::ask() {
     QObject::connect(process, &QProcess::errorOccurred, m_panel.get(), [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) take();
     });
-    m_deadline.setSingleShot(true);
-    m_deadline.callOnTimeout(process, [process] { process->kill(); });
-    m_deadline.start(m_patience);
+    QTimer::singleShot(m_patience, process, &QProcess::kill);
     process->start(m_check.first(), m_check.mid(1), QIODevice::ReadOnly);
 }
 
 void StatusDesk::take() {
-    m_deadline.stop();
     const bool isWhole = m_process->exitStatus() == QProcess::NormalExit;
     const std::vector<ReportLine> report = reportOf(m_process->readAllStandardOutput().toStdString());
     // It is the one that calls.

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QStringList>
-#include <QTimer>
 #include <chrono>
 #include <memory>
 #include <utility>
@@ -43,5 +42,4 @@ class StatusDesk {
     std::unique_ptr<StatusPanel> m_panel;
     /// The one that is finding out, or null.
     std::unique_ptr<QProcess> m_process;
-    QTimer m_deadline;
 };

@@ -5,13 +5,13 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <string_view>
 
 #include "platform/Descriptor.h"
+#include "platform/Parts.h"
 
 namespace {
 
@@ -23,11 +23,10 @@ std::string valueOf(std::string_view address, std::string_view key) {
     if (!address.starts_with("unix:")) return {};
     address.remove_prefix(5);
     while (!address.empty()) {
-        const std::string_view pair = address.substr(0, address.find(','));
+        const std::string_view pair = takePart(address, ',');
         if (pair.starts_with(key) && pair.substr(key.size()).starts_with('=')) {
             return std::string(pair.substr(key.size() + 1));
         }
-        address.remove_prefix(std::min(pair.size() + 1, address.size()));
     }
     return {};
 }

@@ -51,11 +51,8 @@ int WrappingRow::heightForWidth(int width) const {
 }
 
 QSize WrappingRow::sizeHint() const {
-    QSize size(-spacing(), 0);
-    for (const auto& item : m_items) {
-        const QSize one = item->sizeHint();
-        size = QSize(size.width() + spacing() + one.width(), std::max(size.height(), one.height()));
-    }
+    const std::vector<Line> lines = linesFor(QWIDGETSIZE_MAX);
+    const QSize size = lines.empty() ? QSize(0, 0) : QSize(lines.front().width, lines.front().height);
     return size.grownBy(contentsMargins());
 }
 

@@ -10,6 +10,7 @@
 #include "core/KeyCode.h"
 #include "library/steps/TextExpression.h"
 #include "platform/Modifiers.h"
+#include "platform/Parts.h"
 #include "platform/Utf8.h"
 
 namespace steps {
@@ -59,10 +60,9 @@ class LineReader {
 
     /// Comments and empty lines.
     void passRemarks() {
-        while (!m_rest.empty()) {
-            const std::string_view line = m_rest.substr(0, m_rest.find('\n'));
+        for (std::string_view rest = m_rest; !rest.empty(); m_rest = rest) {
+            const std::string_view line = takePart(rest, '\n');
             if (!isBlank(line) && !isComment(line)) return;
-            m_rest.remove_prefix(std::min(line.size() + 1, m_rest.size()));
         }
     }
 
@@ -136,12 +136,7 @@ class LineReader {
     }
 
     /// And passes the line end.
-    std::string_view restOfLine() {
-        const std::size_t end = std::min(m_rest.find('\n'), m_rest.size());
-        const std::string_view line = m_rest.substr(0, end);
-        m_rest.remove_prefix(std::min(end + 1, m_rest.size()));
-        return line;
-    }
+    std::string_view restOfLine() { return takePart(m_rest, '\n'); }
 
     std::string_view m_rest;
 };
@@ -228,8 +223,7 @@ Splice RecordedScript::moved(std::size_t first, std::size_t count, std::size_t b
 
 Splice RecordedScript::repeated(std::size_t first, std::size_t count, std::size_t times) const {
     std::string lines;
-    for (std::size_t index = first; index < first + count; ++index)
-        lines.append(m_script, m_lines[index].begin, m_lines[index].size);
+    for (std::size_t index = first; index < first + count; ++index) lines += bytesOf(m_lines[index]);
     std::string inserted;
     inserted.reserve(lines.size() * (times - 1));
     for (std::size_t time = 1; time < times; ++time) inserted += lines;
@@ -251,8 +245,7 @@ std::string RecordedScript::comments() const {
     std::string comments;
     std::string_view rest = m_script;
     while (!rest.empty()) {
-        const std::string_view line = rest.substr(0, rest.find('\n'));
-        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+        const std::string_view line = takePart(rest, '\n');
         if (isComment(line)) comments.append(line).push_back('\n');
     }
     return comments;
@@ -265,6 +258,10 @@ std::size_t RecordedScript::beginOf(std::size_t line) const {
 std::string_view RecordedScript::bytesOf(std::size_t first, std::size_t count) const {
     const std::size_t begin = beginOf(first);
     return std::string_view(m_script).substr(begin, beginOf(first + count) - begin);
+}
+
+std::string_view RecordedScript::bytesOf(const Line& line) const {
+    return std::string_view(m_script).substr(line.begin, line.size);
 }
 
 std::string_view RecordedScript::remarksOf(const Line& line) const {

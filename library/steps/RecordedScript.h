@@ -77,6 +77,8 @@ class RecordedScript {
     /// has the comments of the rest.
     Splice rewritten(std::size_t first, std::size_t count, std::string lines) const;
 
+    /// What the line stands for in the script, without what is told about it.
+    std::string_view bytesOf(const Line& line) const;
     /// The comments and empty lines before a line, with their ends.
     std::string_view remarksOf(const Line& line) const;
     /// All lines of comment, one below the other.

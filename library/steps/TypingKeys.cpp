@@ -112,8 +112,8 @@ Result<Splice> retyped(const RecordedScript& recording, std::size_t first, std::
     if (first < end) return recording.rewritten(first, end - first, lines.value());
     if (first == last) return recording.replaced(first, 0, lines.value());
     // Below what is told about the keys, and before the first of them that stays.
-    const Line& line = recording.lines()[first];
-    return recording.rewritten(first, 1, lines.value() + recording.script().substr(line.begin, line.size));
+    return recording.rewritten(first, 1,
+                               lines.value() + std::string(recording.bytesOf(recording.lines()[first])));
 }
 
 std::optional<Splice> convertedToText(const RecordedScript& recording, std::size_t first, std::size_t count,
@@ -135,7 +135,7 @@ std::optional<Splice> convertedToText(const RecordedScript& recording, std::size
         isConverted = isConverted || !typed.empty();
         if (!typed.empty()) continue;
         endRun();
-        lines += recording.script().substr(line.begin, line.size);
+        lines += recording.bytesOf(line);
     }
     endRun();
     return isConverted ? std::optional(recording.rewritten(first, count, std::move(lines))) : std::nullopt;
@@ -155,7 +155,7 @@ Result<std::optional<Splice>> convertedToKeys(const RecordedScript& recording, s
             lines += keys.value();
             isConverted = true;
         } else {
-            lines += recording.script().substr(line.begin, line.size);
+            lines += recording.bytesOf(line);
         }
     }
     if (!isConverted) return std::optional<Splice>();

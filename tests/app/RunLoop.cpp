@@ -2,8 +2,9 @@
 #include "app/RunLoop.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
 #include <QTimer>
-#include <chrono>
 
 int runLoopWith(const std::function<void()>& function) {
     QTimer deadline;
@@ -12,4 +13,12 @@ int runLoopWith(const std::function<void()>& function) {
     deadline.start(std::chrono::seconds(10));
     QTimer::singleShot(0, function);
     return QCoreApplication::exec();
+}
+
+bool comesTrue(const std::function<bool()>& isSo, std::chrono::milliseconds patience) {
+    constexpr int longestWait = 10;
+    const QDeadlineTimer deadline(patience);
+    while (!isSo() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, longestWait);
+    return isSo();
 }

@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <memory>
 #include <regex>
 #include <set>
 #include <sstream>
 
+#include "packaging/StagedTest.h"
 #include "support/Child.h"
 
 namespace {
@@ -16,20 +16,17 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The installed programs, by their paths below the prefix.
-class HardeningTest : public testing::Test {
+class HardeningTest : public StagedTest {
   protected:
     static void SetUpTestSuite() {
-        stage() = std::make_unique<TemporaryFolder>();
-        outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER}, {{"DESTDIR", stage()->path()}});
-        for (const auto& entry : fs::recursive_directory_iterator(stage()->path())) {
+        installBelowTheStage();
+        for (const auto& entry : fs::recursive_directory_iterator(stage().path())) {
             if (entry.is_regular_file() && contentOf(entry.path())
                                                .starts_with("\x7F"
                                                             "ELF"))
                 programs().insert(entry.path());
         }
     }
-    static void TearDownTestSuite() { stage().reset(); }
-
     static std::string read(const char* option, const std::string& program) {
         return outputOf({"readelf", "--wide", option, program});
     }
@@ -50,11 +47,6 @@ class HardeningTest : public testing::Test {
         return checks;
     }
 
-    /// Shared, because an installation takes a second.
-    static std::unique_ptr<TemporaryFolder>& stage() {
-        static std::unique_ptr<TemporaryFolder> folder;
-        return folder;
-    }
     static std::set<std::string>& programs() {
         static std::set<std::string> programs;
         return programs;

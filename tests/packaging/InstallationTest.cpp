@@ -3,33 +3,22 @@
 
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <regex>
 
+#include "packaging/StagedTest.h"
 #include "platform/Installation.h"
 #include "support/Child.h"
 
 namespace {
 
-class InstallationTest : public testing::Test {
+class InstallationTest : public StagedTest {
   protected:
-    static void SetUpTestSuite() {
-        stage() = std::make_unique<TemporaryFolder>();
-        outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER}, {{"DESTDIR", stage()->path()}});
-    }
-    static void TearDownTestSuite() { stage().reset(); }
-
+    static void SetUpTestSuite() { installBelowTheStage(); }
     /// A path below the prefix as it is in the stage.
     static std::string installed(const std::string& path) {
-        return stage()->path() + KEYRILL_PREFIX + "/" + path;
+        return stage().path() + KEYRILL_PREFIX + "/" + path;
     }
     static bool isInstalled(const std::string& path) { return std::filesystem::exists(installed(path)); }
-
-    /// Shared, because an installation takes a second.
-    static std::unique_ptr<TemporaryFolder>& stage() {
-        static std::unique_ptr<TemporaryFolder> folder;
-        return folder;
-    }
 };
 
 const std::string id = "example.orlen.Keyrill";

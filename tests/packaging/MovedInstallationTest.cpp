@@ -6,10 +6,10 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <memory>
 #include <set>
 
 #include "desktop/Desktop.h"
+#include "packaging/StagedTest.h"
 #include "support/Child.h"
 #include "support/Keys.h"
 #include "support/Terminal.h"
@@ -20,20 +20,16 @@ namespace fs = std::filesystem;
 
 /// On a desktop whose system has no presets of ours. Nothing is played without the program that releases
 /// keys.
-class MovedInstallationTest : public testing::Test {
+class MovedInstallationTest : public StagedTest {
   protected:
-    static void SetUpTestSuite() {
-        stage() = std::make_unique<TemporaryFolder>();
-        outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER, "--prefix", prefix()});
-    }
-    static void TearDownTestSuite() { stage().reset(); }
-
+    static void SetUpTestSuite() { installInto(folderName); }
     MovedInstallationTest() {
         desktop.setEnvironment("XDG_CONFIG_DIRS", desktop.file("empty"));
         desktop.startWindowManager();
     }
 
-    static std::string prefix() { return stage()->file("some where"); }
+    static constexpr const char* folderName = "some where";
+    static std::string prefix() { return stage().file(folderName); }
 
     static std::set<std::string> filesBelow(const fs::path& folder) {
         std::set<std::string> files;
@@ -42,11 +38,6 @@ class MovedInstallationTest : public testing::Test {
         return files;
     }
 
-    /// Shared, because an installation takes a second.
-    static std::unique_ptr<TemporaryFolder>& stage() {
-        static std::unique_ptr<TemporaryFolder> folder;
-        return folder;
-    }
     Desktop desktop;
 };
 

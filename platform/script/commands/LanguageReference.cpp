@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/commands/LanguageReference.h"
 
-#include <algorithm>
 #include <string_view>
 
+#include "platform/Parts.h"
 #include "platform/script/commands/Command.h"
 #include "platform/script/commands/Cookbook.h"
 #include "platform/script/commands/KeyTable.h"
@@ -114,11 +114,7 @@ can be set.
 /// As a block of Markdown: four blanks before each line.
 std::string indented(std::string_view lines) {
     std::string out;
-    while (!lines.empty()) {
-        const std::size_t end = std::min(lines.find('\n'), lines.size());
-        out += "    " + std::string(lines.substr(0, end)) + "\n";
-        lines.remove_prefix(std::min(end + 1, lines.size()));
-    }
+    while (!lines.empty()) out += "    " + std::string(takePart(lines, '\n')) + "\n";
     return out;
 }
 

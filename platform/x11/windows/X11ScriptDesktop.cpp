@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/Clock.h"
+#include "platform/Parts.h"
 #include "platform/x11/server/Property.h"
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/windows/WindowFocus.h"
@@ -79,10 +80,7 @@ std::vector<std::string> X11ScriptDesktop::Server::namesOf(xcb_window_t window) 
     constexpr std::uint32_t most = 1024;
     const std::string both = Property(connection, window, XCB_ATOM_WM_CLASS).text(XCB_ATOM_STRING, most);
     std::vector<std::string> names;
-    for (std::string_view rest = both; !rest.empty();) {
-        names.emplace_back(rest.substr(0, rest.find('\0')));
-        rest.remove_prefix(std::min(names.back().size() + 1, rest.size()));
-    }
+    for (std::string_view rest = both; !rest.empty();) names.emplace_back(takePart(rest, '\0'));
     return names;
 }
 

@@ -13,6 +13,8 @@
 #include <mutex>
 
 #include "app/AppTest.h"
+#include "app/Buttons.h"
+#include "app/RunLoop.h"
 #include "app/library/LibraryController.h"
 #include "app/macros/KeysView.h"
 #include "app/macros/MacroEditor.h"
@@ -80,21 +82,12 @@ class MacrosDeskTest : public AppTest {
     }
     /// Lets the loop run until that is so.
     bool soon(const std::function<bool()>& isSo) {
-        QTimer deadline;
-        deadline.setSingleShot(true);
-        deadline.start(10'000);
-        while (!isSo() && deadline.isActive()) {
+        return comesTrue([&] {
             follower.dispatch();
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
-        }
-        return isSo();
+            return isSo();
+        });
     }
-    QPushButton& button(const char* title) {
-        for (auto* button : window().findChildren<QPushButton*>()) {
-            if (button->text().remove(u'&') == QLatin1String(title)) return *button;
-        }
-        throw std::runtime_error(title);
-    }
+    QPushButton& button(const char* title) { return buttonOf(window(), title); }
     std::string warning() {
         for (auto* line : window().findChildren<NoticeLine*>()) {
             if (!line->notice().isEmpty() && line->isVisible()) return line->notice().toStdString();

@@ -4,13 +4,15 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <QEventLoop>
 #include <QLabel>
 #include <QPushButton>
+#include <algorithm>
 #include <chrono>
 #include <fstream>
 
 #include "app/AppTest.h"
+#include "app/Buttons.h"
+#include "app/RunLoop.h"
 #include "app/panels/StatusPanel.h"
 
 namespace {
@@ -24,21 +26,14 @@ class StatusDeskTest : public AppTest {
         desk->show();
     }
     bool comesToSay(const char* text) {
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-        while (std::chrono::steady_clock::now() < deadline) {
-            for (const auto* label : desk->panel()->findChildren<QLabel*>()) {
-                if (label->text() == QLatin1String(text)) return true;
-            }
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-        }
-        return false;
+        const auto says = [&] {
+            const auto labels = desk->panel()->findChildren<QLabel*>();
+            return std::any_of(labels.begin(), labels.end(),
+                               [text](const QLabel* label) { return label->text() == QLatin1String(text); });
+        };
+        return comesTrue(says, std::chrono::seconds(20));
     }
-    QPushButton& againButton() {
-        for (auto* button : desk->panel()->findChildren<QPushButton*>()) {
-            if (button->text() == QStringLiteral("Check &Again")) return *button;
-        }
-        throw std::runtime_error("no button");
-    }
+    QPushButton& againButton() { return buttonOf(*desk->panel(), "Check Again"); }
 
     Stage stage{windows, [] { return std::vector<QWidget*>(); }};
     std::optional<StatusDesk> desk;

@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QTimerEvent>
 
+#include "app/Buttons.h"
 #include "app/macros/KeysView.h"
 #include "app/macros/MacroEditor.h"
 #include "app/macros/MacroListModel.h"
@@ -43,12 +44,7 @@ class MacrosWindowTest : public EngineTest {
                          {"work/Mail.keyrill", QStringLiteral("Mail"), QStringLiteral("work")}});
         window.show();
     }
-    QPushButton& button(const char* title) {
-        for (auto* button : window.findChildren<QPushButton*>()) {
-            if (button->text().remove(u'&') == QLatin1String(title)) return *button;
-        }
-        throw std::runtime_error(title);
-    }
+    QPushButton& button(const char* title) { return buttonOf(window, title); }
     void press(int key) {
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
         QCoreApplication::sendEvent(&window, &event);

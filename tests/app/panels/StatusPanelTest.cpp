@@ -11,6 +11,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include "app/Buttons.h"
+
 namespace {
 
 const std::vector<ReportLine> someReport = {
@@ -27,12 +29,7 @@ class StatusPanelTest : public testing::Test {
             names.append(label->accessibleName().isEmpty() ? label->text() : label->accessibleName());
         return names;
     }
-    QPushButton& button(const char* title) {
-        for (auto* button : panel.findChildren<QPushButton*>()) {
-            if (button->text().remove(u'&') == QLatin1String(title)) return *button;
-        }
-        throw std::runtime_error(title);
-    }
+    QPushButton& button(const char* title) { return buttonOf(panel, title); }
     QScrollArea& area() { return *panel.findChild<QScrollArea*>(); }
     StatusPanel panel;
 };
