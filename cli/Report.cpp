@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "cli/TerminalText.h"
+#include "platform/ErrorText.h"
 #include "platform/Utf8.h"
 
 namespace {
@@ -74,7 +75,5 @@ void Report::warning(const script::ScriptWarning& warning) const {
 }
 
 void reportError(const std::string& subject, const Error& error) {
-    std::cerr << harmlessText("keyrill-script: " + subject + error.message + (error.hint.empty() ? "" : " ") +
-                              error.hint)
-              << "\n";
+    std::cerr << harmlessText("keyrill-script: " + subject + inOneParagraph(error)) << "\n";
 }

@@ -20,6 +20,7 @@
 #include "engine/EngineState.h"
 #include "engine/HotKeyCenter.h"
 #include "engine/KeyRecorder.h"
+#include "platform/ErrorText.h"
 #include "platform/EventMonitor.h"
 #include "platform/Features.h"
 #include "platform/Notifications.h"
@@ -166,7 +167,7 @@ void AppController::tellFaults() {
 void AppController::tellShortcoming() {
     const std::optional<Error> shortcoming = m_services.eventMonitor.shortcoming();
     if (!shortcoming) return;
-    m_services.notifications.post("Keyrill", shortcoming->message + " " + shortcoming->hint);
+    m_services.notifications.post("Keyrill", inOneParagraph(*shortcoming));
 }
 
 QString AppController::sessionHint() const {

@@ -21,6 +21,7 @@
 #include "engine/EngineState.h"
 #include "engine/MacroPlayer.h"
 #include "library/steps/Steps.h"
+#include "platform/ErrorText.h"
 #include "platform/MacroFiles.h"
 
 namespace {
@@ -34,14 +35,12 @@ constexpr std::chrono::milliseconds patience{500};
 std::string contentOf(const std::string& script, const KeyboardLayout& layout) {
     const auto recording = steps::RecordedScript::parse(script);
     if (!recording) return script;
-    std::string content = recording->comments();
-    for (const steps::Step& step : steps::stepsOf(*recording, layout)) content += step.text;
+    std::string content = recording.value().comments();
+    for (const steps::Step& step : steps::stepsOf(recording.value(), layout)) content += step.text;
     return content;
 }
 
-QString shown(const Error& error) {
-    return QString::fromStdString(error.hint.empty() ? error.message : error.message + " " + error.hint);
-}
+QString shown(const Error& error) { return QString::fromStdString(inOneParagraph(error)); }
 
 /// The lines between the first and the last of a recording; empty if it is none.
 std::optional<std::string> linesOf(const std::string& script) {
@@ -436,7 +435,7 @@ void MacrosDesk::remove(const std::string& path) {
     if (!trashed) return m_window->warn(shown(trashed.error()));
     m_deleted.push_back({std::move(trashed).value(), m_unsaved.take(path)});
     m_window->list().setChanged(path, false);
-    m_window->choose({});
+    m_window->chooseNeighbour();
     m_window->tell(tr("The macro is in the trash."), tr("Undo"));
 }
 

@@ -670,8 +670,8 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
 <context>
     <name>KeysView</name>
     <message>
-        <source>This is a script of its own. What it would press is shown here; change it under Script.</source>
-        <translation>هذا سكربت قائم بذاته. يظهر هنا ما سيضغطه؛ غيّره في «السكربت».</translation>
+        <source>This is a script of its own: line %1 cannot be changed here. What it would press is shown; change it under Script.</source>
+        <translation>هذا سكربت قائم بذاته: لا يمكن تغيير السطر %1 هنا. يظهر ما سيضغطه؛ غيّره في «السكربت».</translation>
     </message>
     <message>
         <source>Keys of the macro</source>

@@ -671,8 +671,8 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
 <context>
     <name>KeysView</name>
     <message>
-        <source>This is a script of its own. What it would press is shown here; change it under Script.</source>
-        <translation>Dies ist ein eigenes Skript. Hier sehen Sie, was es drücken würde; ändern können Sie es unter „Skript“.</translation>
+        <source>This is a script of its own: line %1 cannot be changed here. What it would press is shown; change it under Script.</source>
+        <translation>Dies ist ein eigenes Skript: Zeile %1 lässt sich hier nicht ändern. Gezeigt wird, was es drücken würde; ändern können Sie es unter „Skript“.</translation>
     </message>
     <message>
         <source>Keys of the macro</source>

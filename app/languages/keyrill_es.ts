@@ -671,8 +671,8 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
 <context>
     <name>KeysView</name>
     <message>
-        <source>This is a script of its own. What it would press is shown here; change it under Script.</source>
-        <translation>Este es un script propio. Aquí se muestra lo que pulsaría; modifíquelo en «Script».</translation>
+        <source>This is a script of its own: line %1 cannot be changed here. What it would press is shown; change it under Script.</source>
+        <translation>Este es un script propio: la línea %1 no se puede modificar aquí. Se muestra lo que pulsaría; modifíquelo en «Script».</translation>
     </message>
     <message>
         <source>Keys of the macro</source>

@@ -671,8 +671,8 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
 <context>
     <name>KeysView</name>
     <message>
-        <source>This is a script of its own. What it would press is shown here; change it under Script.</source>
-        <translation>Ceci est un script à part entière. Ce qu’il presserait est montré ici ; modifiez-le sous « Script ».</translation>
+        <source>This is a script of its own: line %1 cannot be changed here. What it would press is shown; change it under Script.</source>
+        <translation>Ceci est un script à part entière : la ligne %1 ne peut pas être modifiée ici. Ce qu’il presserait est montré ; modifiez-le sous « Script ».</translation>
     </message>
     <message>
         <source>Keys of the macro</source>

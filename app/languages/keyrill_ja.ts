@@ -671,8 +671,8 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
 <context>
     <name>KeysView</name>
     <message>
-        <source>This is a script of its own. What it would press is shown here; change it under Script.</source>
-        <translation>これは独自のスクリプトです。押されるキーをここに表示しています。変更は「スクリプト」で行います。</translation>
+        <source>This is a script of its own: line %1 cannot be changed here. What it would press is shown; change it under Script.</source>
+        <translation>これは独自のスクリプトです。%1 行目はここでは変更できません。押されるキーを表示しています。変更は「スクリプト」で行います。</translation>
     </message>
     <message>
         <source>Keys of the macro</source>

@@ -671,8 +671,8 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
 <context>
     <name>KeysView</name>
     <message>
-        <source>This is a script of its own. What it would press is shown here; change it under Script.</source>
-        <translation>Это самостоятельный скрипт. Здесь показано, что он нажал бы; изменить его можно на вкладке «Скрипт».</translation>
+        <source>This is a script of its own: line %1 cannot be changed here. What it would press is shown; change it under Script.</source>
+        <translation>Это самостоятельный скрипт: строку %1 здесь изменить нельзя. Показано, что он нажал бы; изменить его можно на вкладке «Скрипт».</translation>
     </message>
     <message>
         <source>Keys of the macro</source>

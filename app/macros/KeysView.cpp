@@ -2,8 +2,10 @@
 #include "app/macros/KeysView.h"
 
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
+#include <QLocale>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -12,6 +14,7 @@
 #include "app/widgets/NoticeLine.h"
 #include "app/widgets/PanelText.h"
 #include "library/steps/TypingKeys.h"
+#include "platform/ErrorText.h"
 
 namespace {
 
@@ -24,9 +27,7 @@ KeysView::KeysView(const KeyboardLayout& layout, QWidget* parent)
       m_layout(layout),
       m_model(layout),
       m_list(new QListView),
-      m_explanation(
-          makeParagraph(tr("This is a script of its own. What it would press is shown here; change it "
-                           "under Script."))),
+      m_explanation(makeParagraph({})),
       m_notice(new NoticeLine) {
     m_explanation->setMinimumWidth(0);
     m_explanation->hide();
@@ -53,6 +54,7 @@ KeysView::KeysView(const KeyboardLayout& layout, QWidget* parent)
     });
     connect(&m_model, &StepsModel::refused, this, &KeysView::refuse);
     m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_list->installEventFilter(this);
     setFocusProxy(m_list);
     updateActions();
 }
@@ -95,9 +97,23 @@ void KeysView::makeActions(QToolBar& bar) {
                          &KeysView::convertToKeys);
 }
 
+/// The list would take the keys of a step that can move no further for its own, and select another.
+bool KeysView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_list && event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const QKeySequence keys(key->keyCombination());
+        if (keys == m_moveUp->shortcut() || keys == m_moveDown->shortcut()) return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void KeysView::showScript(const std::string& script) {
     const int row = m_list->currentIndex().row();
     m_model.showScript(script);
+    m_explanation->setText(
+        tr("This is a script of its own: line %1 cannot be changed here. What it would press is "
+           "shown; change it under Script.")
+            .arg(QLocale().toString(static_cast<qulonglong>(m_model.otherLine()))));
     m_explanation->setVisible(!m_model.isRecording() && !script.empty());
     m_notice->setNotice(m_model.notice());
     const int last = m_model.rowCount() - 1;
@@ -160,10 +176,7 @@ void KeysView::edit(const steps::Splice& splice, std::size_t firstLine, std::siz
     select(firstLine, count);
 }
 
-void KeysView::refuse(const Error& why) {
-    m_notice->setNotice(
-        QString::fromStdString(why.hint.empty() ? why.message : why.message + " " + why.hint));
-}
+void KeysView::refuse(const Error& why) { m_notice->setNotice(QString::fromStdString(inOneParagraph(why))); }
 
 void KeysView::remove() {
     const Range range = selected();

@@ -34,6 +34,9 @@ class KeysView : public QWidget {
     /// Keys are to be recorded, for insertLines().
     void recordWanted();
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     /// The lines that the selected steps stand for, of the first to the last; `count` is 0 without any.
     struct Range {

@@ -81,9 +81,17 @@ QModelIndex MacroListModel::indexOf(const std::string& path) const {
     return {};
 }
 
-QModelIndex MacroListModel::firstMacro() const {
-    for (std::size_t row = 0; row < m_rows.size(); ++row) {
-        if (!m_rows[row].isGroup) return index(static_cast<int>(row));
+QModelIndex MacroListModel::firstMacro() const { return nextMacro(0, 1); }
+
+QModelIndex MacroListModel::neighbourOf(const QModelIndex& index) const {
+    if (!index.isValid()) return {};
+    const QModelIndex below = nextMacro(index.row() + 1, 1);
+    return below.isValid() ? below : nextMacro(index.row() - 1, -1);
+}
+
+QModelIndex MacroListModel::nextMacro(int row, int step) const {
+    for (; row >= 0 && row < rowCount(); row += step) {
+        if (!m_rows[static_cast<std::size_t>(row)].isGroup) return index(row);
     }
     return {};
 }
@@ -107,14 +115,14 @@ QVariant MacroListModel::data(const QModelIndex& index, int role) const {
         return font;
     }
     const bool isChanged = m_changed.contains(item.path);
+    const auto withHotKey = [&item](const QString& name) {
+        return item.hotKey.isEmpty() ? name : tr("%1 (%2)", "a macro and its hot key").arg(name, item.hotKey);
+    };
     switch (role) {
-        case Qt::DisplayRole: {
-            const QString name = isChanged ? item.name + QStringLiteral(" •") : item.name;
-            return item.hotKey.isEmpty() ? name
-                                         : tr("%1 (%2)", "a macro and its hot key").arg(name, item.hotKey);
-        }
+        case Qt::DisplayRole:
+            return withHotKey(isChanged ? item.name + QStringLiteral(" •") : item.name);
         case Qt::AccessibleTextRole:
-            return isChanged ? tr("%1, not saved").arg(item.name) : item.name;
+            return isChanged ? tr("%1, not saved").arg(withHotKey(item.name)) : withHotKey(item.name);
         case Qt::EditRole:
             return item.name;
         case Qt::ToolTipRole:

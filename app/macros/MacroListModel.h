@@ -34,6 +34,8 @@ class MacroListModel : public QAbstractListModel {
     /// Invalid for one that is not shown.
     QModelIndex indexOf(const std::string& path) const;
     QModelIndex firstMacro() const;
+    /// The macro below, else the one above; invalid if there is no other.
+    QModelIndex neighbourOf(const QModelIndex& index) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -53,6 +55,8 @@ class MacroListModel : public QAbstractListModel {
 
     void searchOn();
     void makeRows();
+    /// The first that is none of a group's name, from that row on; invalid if there is none.
+    QModelIndex nextMacro(int row, int step) const;
 
     std::vector<MacroListItem> m_items;
     std::vector<Row> m_rows;

@@ -270,6 +270,11 @@ void MacrosWindow::choose(const std::string& path) {
     m_list->setCurrentIndex(m_model->indexOf(path));
 }
 
+void MacrosWindow::chooseNeighbour() {
+    m_list->setCurrentIndex(m_model->neighbourOf(m_model->indexOf(m_chosen)));
+    followSelection();
+}
+
 void MacrosWindow::beginRename(const std::string& path) {
     choose(path);
     const QModelIndex index = m_model->indexOf(path);

@@ -46,6 +46,8 @@ class MacrosWindow : public Panel {
     MacroListModel& list() { return *m_model; }
     /// Chooses a macro, which is told as the user's own choice is; empty for none.
     void choose(const std::string& path);
+    /// Chooses the macro below the chosen one; of the last the one above, of the only one none.
+    void chooseNeighbour();
     /// Begins to type another name for it.
     void beginRename(const std::string& path);
     /// Empty for none.

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <set>
 
+#include "platform/ErrorText.h"
 #include "platform/script/code/Compiler.h"
 #include "platform/script/commands/CommandForms.h"
 #include "platform/script/source/Word.h"
@@ -16,9 +17,7 @@ ScriptProblem problemAt(const script::Location& place, bool isError, std::string
     return {static_cast<int>(place.line), static_cast<int>(place.column), isError, std::move(text)};
 }
 
-std::string textOf(const script::ScriptError& error) {
-    return error.hint.empty() ? error.message : error.message + " " + error.hint;
-}
+std::string textOf(const script::ScriptError& error) { return inOneParagraph(error.message, error.hint); }
 
 /// What of a command's form is typed as it stands: "key code" of "key code CODE [using MODIFIERS]".
 std::string wordsOf(std::string_view form) {

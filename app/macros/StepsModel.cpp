@@ -30,10 +30,13 @@ StepsModel::StepsModel(const KeyboardLayout& layout, QObject* parent)
 void StepsModel::showScript(const std::string& script) {
     beginResetModel();
     m_notice.clear();
-    m_recording = steps::RecordedScript::parse(script);
-    if (m_recording) {
+    m_recording.reset();
+    auto recording = steps::RecordedScript::parse(script);
+    if (recording) {
+        m_recording = std::move(recording).value();
         m_steps = steps::stepsOf(*m_recording, m_layout);
     } else {
+        m_otherLine = recording.error().line;
         foresee(script);
     }
     endResetModel();

@@ -27,6 +27,8 @@ class StepsModel : public QAbstractListModel {
     /// Whether it is a recording, which can be edited.
     bool isRecording() const { return m_recording.has_value(); }
     const steps::RecordedScript& recording() const { return *m_recording; }
+    /// Of any other script the first line that makes it one, counted from 1.
+    std::size_t otherLine() const { return m_otherLine; }
     const std::vector<steps::Step>& steps() const { return m_steps; }
     /// What should be known of the steps of any other script: that they are not all, or why they end. Empty
     /// for nothing.
@@ -50,6 +52,7 @@ class StepsModel : public QAbstractListModel {
 
     const KeyboardLayout& m_layout;
     std::optional<steps::RecordedScript> m_recording;
+    std::size_t m_otherLine = 1;
     std::vector<steps::Step> m_steps;
     QString m_notice;
 };

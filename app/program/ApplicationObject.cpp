@@ -9,8 +9,8 @@
 
 #include "app/program/BusNames.h"
 #include "app/program/MacrosInterface.h"
-#include "app/program/StartUp.h"
 #include "app/tray/Actions.h"
+#include "platform/ErrorText.h"
 
 namespace {
 
@@ -101,5 +101,6 @@ void ApplicationObject::ask(Errand errand, const QDBusMessage& call) {
 
 void ApplicationObject::refuse(const Error& why, const QDBusMessage& call) {
     call.setDelayedReply(true);
-    connection().send(call.createErrorReply(QDBusError::InvalidArgs, QString::fromStdString(inOneLine(why))));
+    connection().send(
+        call.createErrorReply(QDBusError::InvalidArgs, QString::fromStdString(inOneParagraph(why))));
 }

@@ -28,7 +28,8 @@ bool ownerAnswers(const QDBusConnection& bus) {
         QStringLiteral("Introspect"));
     question.setAutoStartService(false);
     const QDBusError error(bus.call(question, QDBus::Block, patienceInMilliseconds));
-    return error.type() != QDBusError::NoReply;
+    // The bus answers so too for an owner that goes.
+    return error.type() != QDBusError::NoReply || !bus.interface()->isServiceRegistered(bus::name);
 }
 
 Error ownerIsSilent(const QDBusConnection& bus) {

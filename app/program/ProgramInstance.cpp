@@ -20,6 +20,7 @@
 #include "app/program/SessionBusCheck.h"
 #include "app/program/StartUp.h"
 #include "app/tray/Actions.h"
+#include "platform/ErrorText.h"
 
 namespace {
 
@@ -206,9 +207,10 @@ void ProgramInstance::answer(const Request& request) {
     const bool isLate =
         needsLibrary(request.errand) && std::chrono::steady_clock::now() - request.asked > m_patience;
     const Result<void, Refusal> done = isLate ? Result<void, Refusal>(tooLate()) : carryOut(request.errand);
-    m_bus.send(done ? request.call.createReply()
-                    : request.call.createErrorReply(nameOf(done.error().cause),
-                                                    QString::fromStdString(inOneLine(done.error().error))));
+    m_bus.send(
+        done ? request.call.createReply()
+             : request.call.createErrorReply(nameOf(done.error().cause),
+                                             QString::fromStdString(inOneParagraph(done.error().error))));
 }
 
 Result<void, Refusal> ProgramInstance::carryOut(const Errand& errand) {

@@ -4,16 +4,13 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/ErrorText.h"
 #include "platform/linux/StandardStreams.h"
 
 void prepareProcess() { occupyStandardStreams(); }
 
-std::string inOneLine(const Error& error) {
-    return error.hint.empty() ? error.message : error.message + " " + error.hint;
-}
-
 int reportFailure(const Error& error) {
-    std::fprintf(stderr, "keyrill: %s\n", inOneLine(error).c_str());
+    std::fprintf(stderr, "keyrill: %s\n", inOneParagraph(error).c_str());
     return EXIT_FAILURE;
 }
 

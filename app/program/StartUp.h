@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "platform/Result.h"
@@ -9,9 +8,6 @@
 
 /// What every process of the program does first of all.
 void prepareProcess();
-
-/// What is wrong and what to do about it, without a line end.
-std::string inOneLine(const Error& error);
 
 /// Says so on standard error; the exit status.
 int reportFailure(const Error& error);

@@ -70,6 +70,7 @@ class LineReader {
     /// pause = "\tdelay " number "\n" short-delay
     /// text = "\tkeystroke " expression "\n" short-delay
     /// held = "\tkey " ( "down" | "up" ) " " word "\n" short-delay
+    /// Without one, the rest begins with the line that is not as it should be.
     std::optional<Line> line() {
         Line line;
         const std::string_view before = m_rest;
@@ -78,6 +79,7 @@ class LineReader {
                             : accept("\tkey down ") ? held(line, LineKind::down)
                             : accept("\tkey up ")   ? held(line, LineKind::up)
                                                     : accept("\tkeystroke ") && text(line);
+        if (!isRead) m_rest = before;
         if (!isRead || !accept(shortDelay)) return std::nullopt;
         line.size = before.size() - m_rest.size();
         return line;
@@ -173,26 +175,30 @@ Splice spliceBetween(std::string_view before, std::string_view after) {
             std::string(after.substr(prefix, after.size() - prefix - suffix))};
 }
 
-std::optional<RecordedScript> RecordedScript::parse(std::string script) {
+Result<RecordedScript, OtherShape> RecordedScript::parse(std::string script) {
     RecordedScript recorded(std::move(script));
     const std::string_view whole = recorded.m_script;
     LineReader reader(whole);
     const auto offset = [&] { return whole.size() - reader.rest().size(); };
+    const auto otherShape = [&] {
+        const std::string_view before = whole.substr(0, offset());
+        return OtherShape{1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'))};
+    };
     reader.passRemarks();
-    if (!reader.accept(firstLine)) return std::nullopt;
+    if (!reader.accept(firstLine)) return otherShape();
     for (;;) {
         recorded.m_end = offset();
         reader.passRemarks();
         if (reader.accept(lastLine)) break;
         const std::size_t begin = offset();
         std::optional<Line> line = reader.line();
-        if (!line) return std::nullopt;
+        if (!line) return otherShape();
         line->begin = begin;
         line->remarks = begin - recorded.m_end;
         recorded.m_lines.push_back(*line);
     }
     reader.passRemarks();
-    if (!reader.rest().empty()) return std::nullopt;
+    if (!reader.rest().empty()) return otherShape();
     return recorded;
 }
 

@@ -3,10 +3,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "platform/Result.h"
 
 namespace steps {
 
@@ -47,6 +48,12 @@ struct Line {
     std::size_t remarks = 0;
 };
 
+/// Why a script is not of the shape that recordings have.
+struct OtherShape {
+    /// The first line that none of a recording is, counted from 1; one behind the last if lines are missing.
+    std::size_t line = 1;
+};
+
 /// A script of the shape that recordings have: nothing but key presses, held modifiers, pauses and typed
 /// texts one below the other, each as it is written when it is recorded or edited. Lines of comment ("--",
 /// "#") and empty ones may stand anywhere between them. It can be edited step by step.
@@ -56,8 +63,7 @@ struct Line {
 /// stay when it is erased or replaced. Lines are counted from 0, `first` and `count` lie within them.
 class RecordedScript {
   public:
-    /// Empty for a script of any other shape.
-    static std::optional<RecordedScript> parse(std::string script);
+    static Result<RecordedScript, OtherShape> parse(std::string script);
 
     const std::string& script() const { return m_script; }
     const std::vector<Line>& lines() const { return m_lines; }

@@ -26,13 +26,14 @@ class ProcessesTest : public testing::Test {
                        .find("window id") != std::string::npos;
         };
         EXPECT_TRUE(eventually(isReady));
-        for (const char* name : {"Front", "Lower", "Middle"}) {
+        for (const char* name : {"Front", "Lower", "Middle", "Back"}) {
             m_terminals.push_back(std::make_unique<Terminal>(
                 m_server.display(),
                 Terminal::Options{.xterm = {"-class", name, "-geometry", "60x20+100+100"}}));
         }
-        // Not in the order in which they came up.
-        std::rotate(m_terminals.begin(), m_terminals.begin() + 1, m_terminals.end());
+        // In no order of their ages and of their names, in neither direction.
+        std::rotate(m_terminals.begin(), m_terminals.begin() + 2, m_terminals.end());
+        std::swap(m_terminals[2], m_terminals[3]);
         for (const auto& terminal : m_terminals) {
             outputOf({"xdotool", "windowactivate", "--sync", terminal->window()},
                      {{"DISPLAY", m_server.display()}});
@@ -67,17 +68,19 @@ class ProcessesTest : public testing::Test {
     std::vector<std::unique_ptr<Terminal>> m_terminals;
 };
 
-TEST_F(ProcessesTest, areNamedFromTheFrontOn) { expectTyped("name of every process", "Front,Middle,Lower"); }
+TEST_F(ProcessesTest, areNamedFromTheFrontOn) {
+    expectTyped("name of every process", "Front,Lower,Back,Middle");
+}
 
 TEST_F(ProcessesTest, areAskedOneByOne) {
-    expectTyped("name of every process whose name contains \"l\" and not frontmost", "Middle,Lower");
+    expectTyped("name of every process whose name contains \"l\" and not frontmost", "Lower,Middle");
 }
 
 TEST_F(ProcessesTest, areThereOrNot) {
     expectTyped(
         "{exists (process 1 whose name is \"lower\"), exists (processes whose name is \"nobody\"), "
         "(name of processes) contains \"MIDDLE\", count processes}",
-        "true,false,true,3");
+        "true,false,true,4");
 }
 
 TEST_F(ProcessesTest, theOneThatIsAskedForComesToTheFront) {
@@ -88,7 +91,7 @@ TEST_F(ProcessesTest, theOneThatIsAskedForComesToTheFront) {
 end tell
 )");
     EXPECT_EQ(play.program().wait(), 0) << play.output();
-    EXPECT_EQ(m_terminals.front()->typed(10), "typedLower");
+    EXPECT_EQ(m_terminals[2]->typed(10), "typedLower");
 }
 
 }  // namespace

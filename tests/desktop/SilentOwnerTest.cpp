@@ -7,6 +7,7 @@
 #include <chrono>
 #include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "desktop/DesktopTest.h"
@@ -82,6 +83,20 @@ TEST_F(SilentOwnerTest, isToldOfWhenItIsTheProgramItself) {
     keyrill.signal(SIGSTOP);
     expectTold(keyrill.pid(), all);
     keyrill.signal(SIGCONT);
+}
+
+/// Somebody else's program is ended while a start asks it.
+TEST_F(SilentOwnerTest, isFollowedByAStartWhenItGoes) {
+    const Child other({"/usr/bin/python3", "-c", owner, "still"}, desktop.options("other"));
+    ASSERT_TRUE(eventually([this] { return contentOf(desktop.file("other")) == "ready\n"; }))
+        << contentOf(desktop.file("other"));
+    const Child keyrill({programs::keyrill}, desktop.options("keyrill"));
+    // It waits for the answer, 5 s long.
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    EXPECT_FALSE(desktop.isHotKeyTaken(xkey::m));
+    other.signal(SIGKILL);
+    EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }))
+        << contentOf(desktop.file("keyrill"));
 }
 
 /// Those that ask a program which reads its macro folder wait longer for it.

@@ -212,6 +212,24 @@ TEST_F(AppControllerTest, hidesTheStandInWindowAndBringsItBack) {
     EXPECT_TRUE(standIn.isVisible());
 }
 
+TEST_F(AppControllerTest, hidesEveryWindowOfItsOwnAndBringsItBack) {
+    controller.showPreferences(nullptr);
+    controller.aboutKeyrill(nullptr);
+    controller.showStatus(nullptr);
+    controller.showMacros(nullptr);
+    std::vector<QWidget*> shown;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible()) shown.push_back(window);
+    }
+    EXPECT_EQ(shown.size(), 4U);
+    controller.hide();
+    for (const QWidget* window : shown)
+        EXPECT_FALSE(window->isVisible()) << window->windowTitle().toStdString();
+    controller.unhide();
+    for (const QWidget* window : shown)
+        EXPECT_TRUE(window->isVisible()) << window->windowTitle().toStdString();
+}
+
 TEST_F(AppControllerTest, leavesAHiddenStandInWindowHidden) {
     QWidget standIn;
     statusItem.standIn = &standIn;

@@ -305,10 +305,23 @@ TEST_F(MacrosDeskTest, whatIsDeletedComesBackFromTheTrash) {
     choose("Greeting");
     button("Delete").click();
     EXPECT_TRUE(soon([this] { return names() == "work/Mail"; })) << names();
-    EXPECT_EQ(window().chosen(), "");
+    EXPECT_EQ(window().chosen(), "work/Mail.keyrill") << "the next one";
+    EXPECT_EQ(told(), "The macro is in the trash.");
     button("Undo").click();
     EXPECT_TRUE(soon([this] { return window().chosen() == "Greeting.keyrill"; }));
     EXPECT_EQ(contentOf(file("Greeting")), a);
+}
+
+TEST_F(MacrosDeskTest, allAreDeletedOneByOneAndComeBack) {
+    choose("Greeting");
+    button("Delete").click();
+    button("Delete").click();
+    EXPECT_TRUE(soon([this] { return names().empty(); })) << names();
+    EXPECT_EQ(window().chosen(), "");
+    EXPECT_FALSE(button("Delete").isEnabled());
+    emit window().undoWanted();
+    emit window().undoWanted();
+    EXPECT_TRUE(soon([this] { return names() == "Greeting|work/Mail"; })) << names();
 }
 
 TEST_F(MacrosDeskTest, playsIntoTheWindowBeforeWhatIsShown) {

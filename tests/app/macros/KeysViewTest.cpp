@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/macros/KeysView.h"
 
+#include <QCoreApplication>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QListView>
 
 #include "app/widgets/NoticeLine.h"
@@ -129,6 +132,19 @@ TEST_F(KeysViewTest, stepsMoveAndStaySelected) {
     EXPECT_EQ(selected(), "12");
 }
 
+TEST_F(KeysViewTest, whatCanMoveNoFurtherStaysSelected) {
+    view.show();
+    select(0, 3);
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down}) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::AltModifier);
+        QCoreApplication::sendEvent(&list(), &press);
+        EXPECT_EQ(selected(), "0123") << key;
+    }
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
+    QCoreApplication::sendEvent(&list(), &press);
+    EXPECT_EQ(selected(), "2") << "the list's own keys";
+}
+
 TEST_F(KeysViewTest, stepsAreRepeatedAndPausesAdded) {
     select(0, 1);
     action("Repeat").trigger();
@@ -176,6 +192,23 @@ TEST_F(KeysViewTest, anyOtherScriptShowsWhatItWouldPress) {
          {"Record Keys", "Add Pause", "Remove", "Up", "Down", "Repeat", "Change", "Convert to Text"})
         EXPECT_FALSE(action(title).isEnabled()) << title;
     EXPECT_FALSE(list().model()->flags(list().model()->index(0, 0)).testFlag(Qt::ItemIsEditable));
+}
+
+TEST_F(KeysViewTest, namesTheLineThatMakesAScriptOneOfItsOwn) {
+    const auto explanation = [this] {
+        for (const auto* label : view.findChildren<QLabel*>()) {
+            if (label->isVisibleTo(&view)) return label->text().toStdString();
+        }
+        return std::string();
+    };
+    EXPECT_EQ(explanation(), "");
+    show(std::string(steps::firstLine) + save + "\tbeep\n" + std::string(steps::lastLine));
+    EXPECT_EQ(
+        explanation(),
+        "This is a script of its own: line 4 cannot be changed here. What it would press is shown; change "
+        "it under Script.");
+    show(recording(save));
+    EXPECT_EQ(explanation(), "");
 }
 
 TEST_F(KeysViewTest, tellsWhyAScriptShowsNothing) {

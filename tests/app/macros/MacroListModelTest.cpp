@@ -37,6 +37,23 @@ TEST_F(MacroListModelTest, groupsStandAboveTheirMacros) {
     EXPECT_EQ(model.indexOf("work/Note.keyrill").row(), 3);
 }
 
+TEST_F(MacroListModelTest, theNeighbourIsTheMacroBelowOrTheOneAbove) {
+    const auto neighbour = [this](int row) { return model.neighbourOf(model.index(row)).row(); };
+    EXPECT_EQ(neighbour(0), 2) << "past the name of a group";
+    EXPECT_EQ(neighbour(2), 3);
+    EXPECT_EQ(neighbour(3), 2);
+    EXPECT_FALSE(model.neighbourOf({}).isValid());
+    model.setQuery(QStringLiteral("note"));
+    EXPECT_FALSE(model.neighbourOf(model.index(1)).isValid()) << "the only one that is found";
+}
+
+TEST_F(MacroListModelTest, isReadOutWithItsHotKey) {
+    model.setItems({{"Greeting.keyrill", QStringLiteral("Greeting"), {}, QStringLiteral("Ctrl+G")}});
+    EXPECT_EQ(rows(Qt::AccessibleTextRole), "Greeting (Ctrl+G)");
+    model.setChanged("Greeting.keyrill", true);
+    EXPECT_EQ(rows(Qt::AccessibleTextRole), "Greeting (Ctrl+G), not saved");
+}
+
 TEST_F(MacroListModelTest, whatIsLookedForIsThereAtOnceWithItsGroup) {
     model.setContent("work/Note.keyrill", "buy milk");
     model.setQuery(QStringLiteral("milk"));

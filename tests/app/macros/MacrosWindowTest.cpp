@@ -3,11 +3,14 @@
 
 #include <QAbstractSpinBox>
 #include <QAccessible>
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDateTime>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QLocale>
+#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
@@ -179,6 +182,26 @@ TEST_F(MacrosWindowTest, takesBackByItsKeysWhatWasTold) {
     // Whoever writes takes back what he wrote.
     QCoreApplication::sendEvent(&search(), &event);
     EXPECT_EQ(undone, 1);
+}
+
+/// The lines of what can be kept, with the time where others have their shortcut.
+TEST_F(MacrosWindowTest, offersRecordingsWithTheirTimes) {
+    const QDateTime time(QDate(2026, 3, 1), QTime(14, 5));
+    window.setRecordings([&] {
+        return std::vector<MacrosWindow::Recording>{
+            {.macroId = 1, .title = QStringLiteral("ls -l"), .recordedAt = time}};
+    });
+    auto* menu = window.findChild<QMenu*>();
+    const auto firstLine = [menu] {
+        emit menu->aboutToShow();
+        return menu->actions().first()->text();
+    };
+    const QString written = QLocale().toString(time, QLocale::ShortFormat);
+    EXPECT_EQ(firstLine(), QStringLiteral("ls -l\t") + written);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    // Each keeps its own direction (isolates of the Unicode standard).
+    EXPECT_EQ(firstLine(), QStringLiteral("\u2068ls -l\u2069\t\u2068") + written + QChar(0x2069));
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST_F(MacrosWindowTest, whoDeletesAMacroIsAmongTheOthers) {

@@ -40,4 +40,15 @@ TEST_F(ScrollingMenuTest, bringsTheLastEntryIntoView) {
     EXPECT_EQ(history.activeAction(), history.actions().first());
 }
 
+/// From the first entry on it goes to the last.
+TEST_F(ScrollingMenuTest, followsTheArrowKeys) {
+    press(Qt::Key_Home);
+    press(Qt::Key_Up);
+    EXPECT_EQ(history.activeAction(), history.actions().last());
+    for (int i = 0; i < 60; ++i) {
+        press(Qt::Key_Up);
+        EXPECT_TRUE(history.rect().contains(history.actionGeometry(history.activeAction()))) << i;
+    }
+}
+
 }  // namespace

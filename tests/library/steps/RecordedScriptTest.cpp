@@ -62,15 +62,15 @@ TEST(RecordedScriptTest, readsWhateverMacrosWrite) {
     for (const double seconds : pauses) macro.addAction(createDelay(seconds));
     const auto script = RecordedScript::parse(macro.script());
     ASSERT_TRUE(script);
-    EXPECT_EQ(script->lines().size(), std::size_t{3} * 0x20 + pauses.size());
-    EXPECT_EQ(script->lines().back().seconds, 1e300);
+    EXPECT_EQ(script.value().lines().size(), std::size_t{3} * 0x20 + pauses.size());
+    EXPECT_EQ(script.value().lines().back().seconds, 1e300);
 }
 
 TEST(RecordedScriptTest, anEmptyRecordingIsOne) { EXPECT_TRUE(recorded(Macro().script()).lines().empty()); }
 
 TEST(RecordedScriptTest, readsNothingThatRecordingsDoNotWrite) {
     const auto isRecording = [](const std::string& lines) {
-        return RecordedScript::parse(recordingOf(lines)).has_value();
+        return static_cast<bool>(RecordedScript::parse(recordingOf(lines)));
     };
     for (const char* lines : {"\tkey code (1)\ndelay 0.01\n",
                               "\tkey code (01) using {}\ndelay 0.01\n",
@@ -103,6 +103,23 @@ TEST(RecordedScriptTest, readsNothingThatRecordingsDoNotWrite) {
     EXPECT_TRUE(RecordedScript::parse("tell application \"System Events\"\nend tell\n# note"));
     EXPECT_FALSE(RecordedScript::parse("tell application \"System Events\"\n-- note"));
     EXPECT_TRUE(isRecording("\tkey code (1) using {command down, shift down}\ndelay 0.01\n"));
+}
+
+TEST(RecordedScriptTest, theLineThatIsNoneOfARecordingIsTold) {
+    const auto otherLine = [](const std::string& script) {
+        return RecordedScript::parse(script).error().line;
+    };
+    const std::string step = "\tkey code (1) using {}\ndelay 0.01\n";
+    EXPECT_EQ(otherLine("beep\n"), 1U);
+    EXPECT_EQ(otherLine("-- note\n\nset x to 1\n" + recordingOf(step)), 3U);
+    EXPECT_EQ(otherLine(recordingOf(step + "-- note\n\tbeep\n" + step)), 5U);
+    EXPECT_EQ(otherLine(recordingOf(step + "\tkey code (01) using {}\ndelay 0.01\n")), 4U);
+    EXPECT_EQ(otherLine(recordingOf(step + "\tdelay x\ndelay 0.01\n")), 4U);
+    EXPECT_EQ(otherLine(recordingOf(step + "\tkeystroke a\ndelay 0.01\n")), 4U);
+    EXPECT_EQ(otherLine(recordingOf(step + "\tkey down fn\ndelay 0.01\n")), 4U);
+    EXPECT_EQ(otherLine(recordingOf("\tkey code (1) using {}\ndelay 0.02\n")), 3U) << "the short delay";
+    EXPECT_EQ(otherLine(recordingOf(step) + "\n-- note\nbeep\n"), 7U);
+    EXPECT_EQ(otherLine("tell application \"System Events\"\n" + step), 4U) << "its last line is missing";
 }
 
 TEST(RecordedScriptTest, textsAreReadAsTheyAreWritten) {
@@ -229,7 +246,7 @@ TEST(RecordedScriptTest, randomEditsKeepTheShapeAndAllOtherLines) {
         EXPECT_EQ(std::count(after.begin(), after.end(), '-'), 6) << edit;
         auto edited = RecordedScript::parse(std::move(after));
         ASSERT_TRUE(edited) << edit;
-        script = *std::move(edited);
+        script = std::move(edited).value();
     }
 }
 
