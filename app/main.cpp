@@ -77,7 +77,10 @@ int main(int argc, char* argv[]) {
     const auto known = checkOptions(line);
     if (!known) return reportFailure(known.error());
     ProgramInstance instance;
-    if (!instance.claim()) end(instance.handOver(absolutePaths(line.files)));
+    while (!instance.claim()) {
+        const auto status = instance.handOver(absolutePaths(line.files));
+        if (status) end(*status);
+    }
     const auto backends = Backends::open(session.value());
     if (!backends) return reportFailure(backends.error());
     Program program(*backends.value());

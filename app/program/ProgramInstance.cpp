@@ -118,7 +118,9 @@ void ProgramInstance::confirm(std::uint64_t request, const QDBusMessage& call) {
 }
 
 bool ProgramInstance::claim() {
-    // The lock comes first: of two starts at once only one asks for the name.
+    // The lock comes first: of two starts at once only one asks for the name. One of an earlier try would be
+    // in the way.
+    m_lock.reset();
     m_lock = std::make_unique<InstanceLock>(qEnvironmentVariable("XDG_RUNTIME_DIR").toStdString(),
                                             qEnvironmentVariable("DISPLAY").toStdString());
     if (!m_lock->isOurs()) return false;
@@ -149,11 +151,14 @@ void ProgramInstance::findBus() {
     takeName();
 }
 
-int ProgramInstance::handOver(const QStringList& files) {
+std::optional<int> ProgramInstance::handOver(const QStringList& files) {
     if (m_bus.isConnected() && awaitName(m_bus)) {
         const QDBusError error(m_bus.call(request(files), QDBus::Block, timeToAnswerInMilliseconds));
         if (!error.isValid()) return EXIT_SUCCESS;
-        if (error.type() == QDBusError::NoReply) return reportFailure(ownerIsSilent(m_bus));
+        if (error.type() == QDBusError::NoReply) {
+            if (!m_bus.interface()->isServiceRegistered(bus::name)) return std::nullopt;
+            return reportFailure(ownerIsSilent(m_bus));
+        }
         const QString message =
             tr("Another program has Keyrill's name on the session bus and does not do its work: %1")
                 .arg(error.message());

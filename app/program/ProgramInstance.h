@@ -10,6 +10,7 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -35,12 +36,13 @@ class ProgramInstance : public QObject {
     explicit ProgramInstance(std::chrono::milliseconds patience = std::chrono::seconds(10));
     ~ProgramInstance() override;
 
-    /// Makes this process the one. False if there is another already.
+    /// Makes this process the one. False if there is another already, which may be gone when it is tried
+    /// again.
     bool claim();
     /// Hands files, absolute paths, or none, to the one that runs and waits 5 s at most until it has taken
     /// them or, while it is playing, will do so later. The exit status: 1, with a line on standard error, if
-    /// it does not answer or there is no way to hand them over.
-    int handOver(const QStringList& files);
+    /// it does not answer or there is no way to hand them over. None if it has gone without an answer.
+    std::optional<int> handOver(const QStringList& files);
 
     /// Who carries errands out from now on; those that were asked for before wait until then.
     void serve(RunErrand run);

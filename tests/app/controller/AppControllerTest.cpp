@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QApplication>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPropertyAnimation>

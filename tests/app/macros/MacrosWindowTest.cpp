@@ -191,7 +191,7 @@ TEST_F(MacrosWindowTest, offersRecordingsWithTheirTimes) {
         return std::vector<MacrosWindow::Recording>{
             {.macroId = 1, .title = QStringLiteral("ls -l"), .recordedAt = time}};
     });
-    auto* menu = window.findChild<QMenu*>();
+    auto* menu = button("Keep Recording...").menu();
     const auto firstLine = [menu] {
         emit menu->aboutToShow();
         return menu->actions().first()->text();
