@@ -6,19 +6,34 @@
 #include <QLabel>
 #include <QListView>
 #include <QLocale>
-#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "app/widgets/NoticeLine.h"
 #include "app/widgets/PanelText.h"
+#include "app/widgets/WrappingRow.h"
 #include "library/steps/TypingKeys.h"
 #include "platform/ErrorText.h"
 
 namespace {
 
 constexpr double newPause = 0.5;
+
+QBoxLayout* addGroup(WrappingRow& row) {
+    auto* group = new QHBoxLayout;
+    group->setSpacing(0);
+    row.addLayout(group);
+    return group;
+}
+
+void addButton(QBoxLayout& group, QAction* action) {
+    auto* button = new QToolButton;
+    button->setDefaultAction(action);
+    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    button->setAutoRaise(true);
+    group.addWidget(button);
+}
 
 }  // namespace
 
@@ -36,12 +51,9 @@ KeysView::KeysView(const KeyboardLayout& layout, QWidget* parent)
     m_list->setUniformItemSizes(true);
     m_list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     m_list->setAccessibleName(tr("Keys of the macro"));
-    auto* bar = new QToolBar;
-    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    makeActions(*bar);
 
     auto* box = new QVBoxLayout(this);
-    box->addWidget(bar);
+    box->addLayout(makeActions());
     box->addWidget(m_explanation);
     box->addWidget(m_list, 1);
     box->addWidget(m_notice);
@@ -59,7 +71,7 @@ KeysView::KeysView(const KeyboardLayout& layout, QWidget* parent)
     updateActions();
 }
 
-QAction* KeysView::addAction(QToolBar& bar, const QString& title, const QString& hint,
+QAction* KeysView::addAction(QBoxLayout& group, const QString& title, const QString& hint,
                              const QKeySequence& keys, void (KeysView::*operation)()) {
     auto* action = new QAction(title, this);
     action->setToolTip(keys.isEmpty() ? hint
@@ -69,32 +81,36 @@ QAction* KeysView::addAction(QToolBar& bar, const QString& title, const QString&
     action->setShortcutContext(Qt::WidgetShortcut);
     connect(action, &QAction::triggered, this, [this, operation] { (this->*operation)(); });
     m_list->addAction(action);
-    bar.addAction(action);
-    if (QWidget* button = bar.widgetForAction(action)) button->setFocusPolicy(Qt::TabFocus);
+    addButton(group, action);
     return action;
 }
 
-void KeysView::makeActions(QToolBar& bar) {
+QLayout* KeysView::makeActions() {
+    auto* row = new WrappingRow;
+    QBoxLayout& newSteps = *addGroup(*row);
     m_record = new QAction(tr("Record Keys"), this);
     m_record->setToolTip(tr("Record keys behind the selected step"));
     connect(m_record, &QAction::triggered, this, &KeysView::recordWanted);
-    bar.addAction(m_record);
-    if (QWidget* button = bar.widgetForAction(m_record)) button->setFocusPolicy(Qt::TabFocus);
-    m_pause =
-        addAction(bar, tr("Add Pause"), tr("A pause behind the selected step"), {}, &KeysView::insertPause);
-    m_change = addAction(bar, tr("Change"), tr("Change the text, the pause or how often a key is pressed"),
+    addButton(newSteps, m_record);
+    m_pause = addAction(newSteps, tr("Add Pause"), tr("A pause behind the selected step"), {},
+                        &KeysView::insertPause);
+    QBoxLayout& edits = *addGroup(*row);
+    m_change = addAction(edits, tr("Change"), tr("Change the text, the pause or how often a key is pressed"),
                          {}, &KeysView::change);
-    m_duplicate = addAction(bar, tr("Repeat"), tr("The selected steps once more"),
+    m_duplicate = addAction(edits, tr("Repeat"), tr("The selected steps once more"),
                             QKeySequence(Qt::CTRL | Qt::Key_D), &KeysView::duplicate);
-    m_moveUp = addAction(bar, tr("Up"), tr("Move up"), QKeySequence(Qt::ALT | Qt::Key_Up), &KeysView::moveUp);
-    m_moveDown = addAction(bar, tr("Down"), tr("Move down"), QKeySequence(Qt::ALT | Qt::Key_Down),
+    m_moveUp =
+        addAction(edits, tr("Up"), tr("Move up"), QKeySequence(Qt::ALT | Qt::Key_Up), &KeysView::moveUp);
+    m_moveDown = addAction(edits, tr("Down"), tr("Move down"), QKeySequence(Qt::ALT | Qt::Key_Down),
                            &KeysView::moveDown);
-    m_remove = addAction(bar, tr("Remove"), tr("Remove the selected steps"), QKeySequence::Delete,
+    m_remove = addAction(edits, tr("Remove"), tr("Remove the selected steps"), QKeySequence::Delete,
                          &KeysView::remove);
-    m_toText = addAction(bar, tr("Convert to Text"), tr("Type the same under every keyboard layout"), {},
-                         &KeysView::convertToText);
-    m_toKeys = addAction(bar, tr("Convert to Keys"), tr("Press the keys of the present keyboard layout"), {},
-                         &KeysView::convertToKeys);
+    QBoxLayout& conversions = *addGroup(*row);
+    m_toText = addAction(conversions, tr("Convert to Text"), tr("Type the same under every keyboard layout"),
+                         {}, &KeysView::convertToText);
+    m_toKeys = addAction(conversions, tr("Convert to Keys"),
+                         tr("Press the keys of the present keyboard layout"), {}, &KeysView::convertToKeys);
+    return row;
 }
 
 /// The list would take the keys of a step that can move no further for its own, and select another.

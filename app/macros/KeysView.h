@@ -9,9 +9,10 @@
 
 class KeyboardLayout;
 class NoticeLine;
+class QBoxLayout;
 class QLabel;
+class QLayout;
 class QListView;
-class QToolBar;
 
 /// A macro as the steps that it takes. Those of a recording can be changed, moved, removed, and keys be
 /// recorded among them; each edit is asked for as a splice of the script. Of any other script it shows what
@@ -46,9 +47,10 @@ class KeysView : public QWidget {
         int lastRow = -1;
     };
 
-    QAction* addAction(QToolBar& bar, const QString& title, const QString& hint, const QKeySequence& keys,
+    QAction* addAction(QBoxLayout& group, const QString& title, const QString& hint, const QKeySequence& keys,
                        void (KeysView::*operation)());
-    void makeActions(QToolBar& bar);
+    /// The commands, in lines.
+    QLayout* makeActions();
     void updateActions();
     Range selected() const;
     void select(std::size_t firstLine, std::size_t count);
