@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>There is a new update available for Keyrill, would you like to download it now?</source>
-        <translation>Une nouvelle mise à jour de Keyrill est disponible. Voulez-vous la télécharger maintenant ?</translation>
+        <translation>Une nouvelle mise à jour de Keyrill est disponible. Voulez-vous la télécharger maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>Keyrill requires that programs can see and press keys in this session. </source>
@@ -116,7 +116,7 @@
 
 Keyrill must close, please restart it once this is possible.
 </source>
-        <translation>Veuillez consulter la section « Configuration » de la documentation pour plus d’informations.
+        <translation>Veuillez consulter la section «&#xa0;Configuration&#xa0;» de la documentation pour plus d’informations.
 
 Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
 </translation>
@@ -171,19 +171,19 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>The macro was not saved as &quot;%1&quot;.</source>
-        <translation>La macro n’a pas été sauvegardée sous « %1 ».</translation>
+        <translation>La macro n’a pas été sauvegardée sous «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>No macro was loaded from &quot;%1&quot;.</source>
-        <translation>Aucune macro n’a été chargée depuis « %1 ».</translation>
+        <translation>Aucune macro n’a été chargée depuis «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is there already.</source>
-        <translation>« %1 » existe déjà.</translation>
+        <translation>«&#xa0;%1&#xa0;» existe déjà.</translation>
     </message>
     <message>
         <source>Do you want to replace it? What is in it will be lost.</source>
-        <translation>Voulez-vous le remplacer ? Son contenu sera perdu.</translation>
+        <translation>Voulez-vous le remplacer&#xa0;? Son contenu sera perdu.</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -195,15 +195,15 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>&quot;%1&quot; is not a macro file.</source>
-        <translation>« %1 » n’est pas un fichier de macro.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier de macro.</translation>
     </message>
     <message>
         <source>The names of Keyrill&apos;s macro files end with &quot;.%1&quot;.</source>
-        <translation>Les noms des fichiers de macro de Keyrill se terminent par « .%1 ».</translation>
+        <translation>Les noms des fichiers de macro de Keyrill se terminent par «&#xa0;.%1&#xa0;».</translation>
     </message>
     <message>
         <source>There is no file &quot;%1&quot;.</source>
-        <translation>Il n’y a pas de fichier « %1 ».</translation>
+        <translation>Il n’y a pas de fichier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Check the name, or choose one of the list.</source>
@@ -226,7 +226,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     <name>AppController</name>
     <message>
         <source>In this session Keyrill sees and reaches only the windows of X11 programs. The manual says more under &quot;Configuration&quot;.</source>
-        <translation>Dans cette session, Keyrill ne voit et n’atteint que les fenêtres des programmes X11. Le manuel en dit plus sous « Configuration ».</translation>
+        <translation>Dans cette session, Keyrill ne voit et n’atteint que les fenêtres des programmes X11. Le manuel en dit plus sous «&#xa0;Configuration&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -237,11 +237,11 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>There is no action &quot;%1&quot;. There are: %2.</source>
-        <translation>Il n’y a pas d’action « %1 ». Il y a : %2.</translation>
+        <translation>Il n’y a pas d’action «&#xa0;%1&#xa0;». Il y a&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The action &quot;%1&quot; takes no parameter.</source>
-        <translation>L’action « %1 » n’accepte aucun paramètre.</translation>
+        <translation>L’action «&#xa0;%1&#xa0;» n’accepte aucun paramètre.</translation>
     </message>
 </context>
 <context>
@@ -315,7 +315,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>by the desktop&apos;s portal: you choose them when it asks, and later in its settings</source>
-        <translation>par le portail du bureau : vous les choisissez lorsqu’il le demande, et plus tard dans ses réglages</translation>
+        <translation>par le portail du bureau&#xa0;: vous les choisissez lorsqu’il le demande, et plus tard dans ses réglages</translation>
     </message>
     <message>
         <source>by sway</source>
@@ -327,7 +327,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>what you type into a window of Keyrill&apos;s, &quot;Record Here&quot;</source>
-        <translation>ce que vous saisissez dans une fenêtre de Keyrill, « Enregistrer ici »</translation>
+        <translation>ce que vous saisissez dans une fenêtre de Keyrill, «&#xa0;Enregistrer ici&#xa0;»</translation>
     </message>
     <message>
         <source>the compositor&apos;s</source>
@@ -371,11 +371,11 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>The X server lacks the extension %1: a key that is held is recorded once.</source>
-        <translation>Il manque au serveur X l’extension %1 : une touche maintenue n’est enregistrée qu’une fois.</translation>
+        <translation>Il manque au serveur X l’extension %1&#xa0;: une touche maintenue n’est enregistrée qu’une fois.</translation>
     </message>
     <message>
         <source>The program keyrill-guard, which releases keys after a crash, is not there; nothing is played without it.</source>
-        <translation>Le programme keyrill-guard, qui relâche les touches après un plantage, est absent ; rien n’est exécuté sans lui.</translation>
+        <translation>Le programme keyrill-guard, qui relâche les touches après un plantage, est absent&#xa0;; rien n’est exécuté sans lui.</translation>
     </message>
     <message>
         <source>Install Keyrill again.</source>
@@ -383,7 +383,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>Only with the windows of X11 programs: this is a Wayland session.</source>
-        <translation>Seulement avec les fenêtres des programmes X11 : cette session est une session Wayland.</translation>
+        <translation>Seulement avec les fenêtres des programmes X11&#xa0;: cette session est une session Wayland.</translation>
     </message>
     <message>
         <source>Choose an X11 session when you log in.</source>
@@ -391,11 +391,11 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>There is none; a small window with the menu stands in for the icon.</source>
-        <translation>Il n’y en a pas ; une petite fenêtre avec le menu remplace l’icône.</translation>
+        <translation>Il n’y en a pas&#xa0;; une petite fenêtre avec le menu remplace l’icône.</translation>
     </message>
     <message>
         <source>Add a tray to the desktop&apos;s panel. GNOME needs the extension &quot;AppIndicator and KStatusNotifierItem Support&quot;.</source>
-        <translation>Ajoutez une zone de notification au tableau de bord du bureau. GNOME a besoin de l’extension « AppIndicator and KStatusNotifierItem Support ».</translation>
+        <translation>Ajoutez une zone de notification au tableau de bord du bureau. GNOME a besoin de l’extension «&#xa0;AppIndicator and KStatusNotifierItem Support&#xa0;».</translation>
     </message>
     <message>
         <source>A Wayland session shows no program what is typed in others, and the service that would is not installed.</source>
@@ -403,7 +403,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, &quot;tools/access install&quot;; or record in an X11 session, macros play in both.</source>
-        <translation>Installez le paquet keyrill-wayland-access ou, depuis les sources de Keyrill, « tools/access install » ; ou enregistrez dans une session X11, les macros s’exécutent dans les deux.</translation>
+        <translation>Installez le paquet keyrill-wayland-access ou, depuis les sources de Keyrill, «&#xa0;tools/access install&#xa0;»&#xa0;; ou enregistrez dans une session X11, les macros s’exécutent dans les deux.</translation>
     </message>
     <message>
         <source>This compositor gives no hot keys to programs.</source>
@@ -411,7 +411,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
-        <translation>Dans les réglages du compositeur, associez des touches à des commandes comme « keyrill --action=play ».</translation>
+        <translation>Dans les réglages du compositeur, associez des touches à des commandes comme «&#xa0;keyrill --action=play&#xa0;».</translation>
     </message>
     <message>
         <source>This compositor lets no program press keys.</source>
@@ -423,7 +423,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>This desktop lets no program press keys: its portal does not answer.</source>
-        <translation>Ce bureau ne laisse aucun programme presser des touches : son portail ne répond pas.</translation>
+        <translation>Ce bureau ne laisse aucun programme presser des touches&#xa0;: son portail ne répond pas.</translation>
     </message>
     <message>
         <source>Install xdg-desktop-portal and the part of it that belongs to the desktop, such as xdg-desktop-portal-kde.</source>
@@ -501,7 +501,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>There is no option &quot;%1&quot;.</source>
-        <translation>Il n’y a pas d’option « %1 ».</translation>
+        <translation>Il n’y a pas d’option «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>keyrill --help lists them.</source>
@@ -509,23 +509,23 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>There is no action &quot;%1&quot;.</source>
-        <translation>Il n’y a pas d’action « %1 ».</translation>
+        <translation>Il n’y a pas d’action «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Choose one of these: %1.</source>
-        <translation>Choisissez l’une de celles-ci : %1.</translation>
+        <translation>Choisissez l’une de celles-ci&#xa0;: %1.</translation>
     </message>
     <message>
         <source>An action takes no file, and &quot;%1&quot; was given.</source>
-        <translation>Une action n’accepte aucun fichier, et « %1 » a été donné.</translation>
+        <translation>Une action n’accepte aucun fichier, et «&#xa0;%1&#xa0;» a été donné.</translation>
     </message>
     <message>
         <source>Load it first: keyrill FILE.</source>
-        <translation>Chargez-le d’abord : keyrill FICHIER.</translation>
+        <translation>Chargez-le d’abord&#xa0;: keyrill FICHIER.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too much.</source>
-        <translation>« %1 » est de trop.</translation>
+        <translation>«&#xa0;%1&#xa0;» est de trop.</translation>
     </message>
     <message>
         <source>--list takes no name.</source>
@@ -533,7 +533,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>A name with blanks is put in quotation marks: &quot;%1&quot;.</source>
-        <translation>Un nom avec des espaces se met entre guillemets : &quot;%1&quot;.</translation>
+        <translation>Un nom avec des espaces se met entre guillemets&#xa0;: &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs
@@ -553,21 +553,21 @@ well put; standard error tells why.
 NAME is the kind of desktop session; without it the program finds out itself. There are: %2
 </source>
         <extracomment>Options, and what stands in capital letters, stay as they are where the program takes them as they are.</extracomment>
-        <translation>Utilisation : keyrill [--session=NOM] [--] [FICHIER...]   lancer, ou charger des macros dans celui qui est lancé
-              keyrill [--session=NOM] --action=ACTION   demander une action à celui qui est lancé ; le lance au besoin
+        <translation>Utilisation&#xa0;: keyrill [--session=NOM] [--] [FICHIER...]   lancer, ou charger des macros dans celui qui est lancé
+              keyrill [--session=NOM] --action=ACTION   demander une action à celui qui est lancé&#xa0;; le lance au besoin
               keyrill [--session=NOM] --play [MACRO|FICHIER] [--times=N|until-stopped] [--speed=X]
                                           lui demander d’exécuter une macro du dossier des macros, ou un fichier
               keyrill [--session=NOM] --show [MACRO]   lui demander d’afficher la fenêtre des macros
               keyrill --list   afficher les noms des macros du dossier des macros
               keyrill [--session=NOM] --check   afficher ce qui fonctionne dans cette session, et que faire
               keyrill -h | --help | --version
-ACTION est l’une de celles-ci : %1.
-MACRO est un nom affiché par --list, avec ou sans son groupe ; sans MACRO ni FICHIER, --play exécute ce que
-la commande « Exécuter » exécute. Un FICHIER sans MACRO de ce nom, ou qui commence par / ou ./, est exécuté tel
+ACTION est l’une de celles-ci&#xa0;: %1.
+MACRO est un nom affiché par --list, avec ou sans son groupe&#xa0;; sans MACRO ni FICHIER, --play exécute ce que
+la commande «&#xa0;Exécuter&#xa0;» exécute. Un FICHIER sans MACRO de ce nom, ou qui commence par / ou ./, est exécuté tel
 quel. Le nombre de fois et la vitesse (0.25 à 4) sont ceux de la macro, sauf s’ils sont donnés. --show choisit
 MACRO dans la fenêtre. Pour --play, --show et --list, le code de retour est 0 si c’est fait, 1 sinon, 2 si
-l’appel est incorrect ; la sortie d’erreur dit pourquoi.
-NOM est le type de session graphique ; sans lui, le programme le trouve lui-même. Il y a : %2
+l’appel est incorrect&#xa0;; la sortie d’erreur dit pourquoi.
+NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui-même. Il y a&#xa0;: %2
 </translation>
     </message>
 </context>
@@ -587,7 +587,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Keyrill is running; its menu is in the tray too.</source>
-        <translation>Keyrill est lancé ; son menu est aussi dans la zone de notification.</translation>
+        <translation>Keyrill est lancé&#xa0;; son menu est aussi dans la zone de notification.</translation>
     </message>
 </context>
 <context>
@@ -595,7 +595,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     <message>
         <source>The folder %1 cannot be written to: %2.</source>
         <extracomment>a folder, and why</extracomment>
-        <translation>Impossible d’écrire dans le dossier %1 : %2.</translation>
+        <translation>Impossible d’écrire dans le dossier %1&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -610,7 +610,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>A name cannot begin with a point: the file would be hidden.</source>
-        <translation>Un nom ne peut pas commencer par un point : le fichier serait caché.</translation>
+        <translation>Un nom ne peut pas commencer par un point&#xa0;: le fichier serait caché.</translation>
     </message>
     <message>
         <source>The name is too long for a file.</source>
@@ -618,30 +618,30 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>There is already a macro called &quot;%1&quot;.</source>
-        <translation>Il y a déjà une macro nommée « %1 ».</translation>
+        <translation>Il y a déjà une macro nommée «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be renamed: %2.</source>
-        <translation>« %1 » ne peut pas être renommé : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être renommé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be copied: %2.</source>
-        <translation>« %1 » ne peut pas être copié : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être copié&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be put into the trash.</source>
-        <translation>« %1 » ne peut pas être mis à la corbeille.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être mis à la corbeille.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be brought back: %2.</source>
-        <translation>« %1 » ne peut pas être restauré : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être restauré&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>FilesDesk</name>
     <message>
         <source>&quot;%1&quot; was not loaded</source>
-        <translation>« %1 » n’a pas été chargé</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été chargé</translation>
     </message>
     <message>
         <source>A macro is being recorded. Stop recording first.</source>
@@ -657,11 +657,11 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>&quot;%1&quot; is loaded</source>
-        <translation>« %1 » est chargé</translation>
+        <translation>«&#xa0;%1&#xa0;» est chargé</translation>
     </message>
     <message>
         <source>Choose a shortcut for Play in the preferences to play it.</source>
-        <translation>Choisissez un raccourci pour « Exécuter » dans les préférences pour l’exécuter.</translation>
+        <translation>Choisissez un raccourci pour «&#xa0;Exécuter&#xa0;» dans les préférences pour l’exécuter.</translation>
     </message>
     <message>
         <source>Press %1 to play it.</source>
@@ -672,7 +672,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     <name>KeysView</name>
     <message>
         <source>This is a script of its own: line %1 cannot be changed here. What it would press is shown; change it under Script.</source>
-        <translation>Ceci est un script à part entière : la ligne %1 ne peut pas être modifiée ici. Ce qu’il presserait est montré ; modifiez-le sous « Script ».</translation>
+        <translation>Ceci est un script à part entière&#xa0;: la ligne %1 ne peut pas être modifiée ici. Ce qu’il presserait est montré&#xa0;; modifiez-le sous «&#xa0;Script&#xa0;».</translation>
     </message>
     <message>
         <source>Keys of the macro</source>
@@ -760,7 +760,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     <name>LibraryController</name>
     <message>
         <source>&quot;%1&quot; was not played</source>
-        <translation>« %1 » n’a pas été exécuté</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été exécuté</translation>
     </message>
     <message>
         <source>Hot keys of macros</source>
@@ -843,7 +843,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>&amp;Hot key:</source>
-        <translation>Raccourc&amp;i :</translation>
+        <translation>Raccourc&amp;i&#xa0;:</translation>
     </message>
     <message>
         <source>Times</source>
@@ -855,7 +855,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>&amp;Times:</source>
-        <translation>&amp;Fois :</translation>
+        <translation>&amp;Fois&#xa0;:</translation>
     </message>
     <message>
         <source> ×</source>
@@ -872,7 +872,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Sp&amp;eed:</source>
-        <translation>&amp;Vitesse :</translation>
+        <translation>&amp;Vitesse&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -887,7 +887,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Text: %1</source>
-        <translation>Texte : %1</translation>
+        <translation>Texte&#xa0;: %1</translation>
     </message>
     <message>
         <source>Hold %1</source>
@@ -901,11 +901,11 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     <message>
         <source>Ask: %1</source>
         <extracomment>a dialog of a script, with its question</extracomment>
-        <translation>Demander : %1</translation>
+        <translation>Demander&#xa0;: %1</translation>
     </message>
     <message>
         <source>Tell: %1</source>
-        <translation>Notifier : %1</translation>
+        <translation>Notifier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Type %1</source>
@@ -938,7 +938,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     <name>MacrosDesk</name>
     <message>
         <source>Play has the latest macro until there is another.</source>
-        <translation>« Exécuter » prend la dernière macro jusqu’à ce qu’il y en ait une autre.</translation>
+        <translation>«&#xa0;Exécuter&#xa0;» prend la dernière macro jusqu’à ce qu’il y en ait une autre.</translation>
     </message>
     <message>
         <source>What is not saved would not outlive a crash. %1</source>
@@ -946,7 +946,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>The macro is still being read: its folder does not answer.</source>
-        <translation>La macro est encore en cours de lecture : son dossier ne répond pas.</translation>
+        <translation>La macro est encore en cours de lecture&#xa0;: son dossier ne répond pas.</translation>
     </message>
     <message>
         <source>The file of this macro is gone. If you save, it is there again.</source>
@@ -962,7 +962,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>What was not saved is there again: %1.</source>
-        <translation>Ce qui n’était pas sauvegardé est de retour : %1.</translation>
+        <translation>Ce qui n’était pas sauvegardé est de retour&#xa0;: %1.</translation>
     </message>
     <message>
         <source>, </source>
@@ -997,15 +997,15 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     <name>MacrosInterface</name>
     <message>
         <source>There is no option &quot;%1&quot;.</source>
-        <translation>Il n’y a pas d’option « %1 ».</translation>
+        <translation>Il n’y a pas d’option «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>There are: %1.</source>
-        <translation>Il y a : %1.</translation>
+        <translation>Il y a&#xa0;: %1.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no file of this machine.</source>
-        <translation>« %1 » n’est pas un fichier de cette machine.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier de cette machine.</translation>
     </message>
     <message>
         <source>It begins with file:///.</source>
@@ -1131,7 +1131,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>&amp;Times to play:</source>
-        <translation>Nombre de &amp;fois :</translation>
+        <translation>Nombre de &amp;fois&#xa0;:</translation>
     </message>
     <message>
         <source>Times to play</source>
@@ -1161,7 +1161,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Not recorded: keyboard held</source>
-        <translation>Non enregistré : clavier accaparé</translation>
+        <translation>Non enregistré&#xa0;: clavier accaparé</translation>
     </message>
 </context>
 <context>
@@ -1194,18 +1194,18 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Record p&amp;auses:</source>
-        <translation>Enregistrer les pa&amp;uses :</translation>
+        <translation>Enregistrer les pa&amp;uses&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>PlayRequests</name>
     <message>
         <source>There are several macros called &quot;%1&quot;.</source>
-        <translation>Il y a plusieurs macros nommées « %1 ».</translation>
+        <translation>Il y a plusieurs macros nommées «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Say which one: %1.</source>
-        <translation>Précisez laquelle : %1.</translation>
+        <translation>Précisez laquelle&#xa0;: %1.</translation>
     </message>
     <message>
         <source>keyrill --list lists all.</source>
@@ -1213,11 +1213,11 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Near are: %1.</source>
-        <translation>Noms proches : %1.</translation>
+        <translation>Noms proches&#xa0;: %1.</translation>
     </message>
     <message>
         <source>There is no macro called &quot;%1&quot;.</source>
-        <translation>Il n’y a pas de macro nommée « %1 ».</translation>
+        <translation>Il n’y a pas de macro nommée «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>There is no macro to play yet.</source>
@@ -1225,15 +1225,15 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>What Play plays cannot be played: its script is wrong in line %1.</source>
-        <translation>Ce que « Exécuter » exécute ne peut pas l’être : son script est erroné à la ligne %1.</translation>
+        <translation>Ce que «&#xa0;Exécuter&#xa0;» exécute ne peut pas l’être&#xa0;: son script est erroné à la ligne %1.</translation>
     </message>
     <message>
         <source>Play in the menu tells more.</source>
-        <translation>« Exécuter » dans le menu en dit plus.</translation>
+        <translation>«&#xa0;Exécuter&#xa0;» dans le menu en dit plus.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be played: its script is wrong in line %2.</source>
-        <translation>« %1 » ne peut pas être exécuté : son script est erroné à la ligne %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être exécuté&#xa0;: son script est erroné à la ligne %2.</translation>
     </message>
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
@@ -1244,7 +1244,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     <name>PlayWords</name>
     <message>
         <source>&quot;%1&quot; is not how many times a macro can be played.</source>
-        <translation>« %1 » n’indique pas combien de fois une macro peut être exécutée.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’indique pas combien de fois une macro peut être exécutée.</translation>
     </message>
     <message>
         <source>It is a whole number from 1 on, or until-stopped.</source>
@@ -1252,11 +1252,11 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>&quot;%1&quot; is not how fast a macro can be played.</source>
-        <translation>« %1 » n’indique pas à quelle vitesse une macro peut être exécutée.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’indique pas à quelle vitesse une macro peut être exécutée.</translation>
     </message>
     <message>
         <source>It is a number from 0.25 to 4, with a point: 1.5.</source>
-        <translation>C’est un nombre de 0.25 à 4, avec un point : 1.5.</translation>
+        <translation>C’est un nombre de 0.25 à 4, avec un point&#xa0;: 1.5.</translation>
     </message>
     <message>
         <source>The name of the macro is empty.</source>
@@ -1302,7 +1302,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Another program has Keyrill&apos;s name on the session bus and does not do its work: %1</source>
-        <translation>Un autre programme a pris le nom de Keyrill sur le bus de session et ne fait pas son travail : %1</translation>
+        <translation>Un autre programme a pris le nom de Keyrill sur le bus de session et ne fait pas son travail&#xa0;: %1</translation>
     </message>
     <message>
         <source>End that program and start Keyrill again.</source>
@@ -1349,11 +1349,11 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Why not everywhere?</source>
-        <translation>Pourquoi pas partout ?</translation>
+        <translation>Pourquoi pas partout&#xa0;?</translation>
     </message>
     <message>
         <source>Press Stop Recording or close the window when you are done.</source>
-        <translation>Cliquez sur « Arrêter l’enregistrement » ou fermez la fenêtre quand vous avez fini.</translation>
+        <translation>Cliquez sur «&#xa0;Arrêter l’enregistrement&#xa0;» ou fermez la fenêtre quand vous avez fini.</translation>
     </message>
     <message>
         <source>Press %1 when you are done, or close the window.</source>
@@ -1365,7 +1365,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Use the combination of the desktop&apos;s settings when you are done, or close the window: %1</source>
-        <translation>Utilisez la combinaison des réglages du bureau quand vous avez fini, ou fermez la fenêtre : %1</translation>
+        <translation>Utilisez la combinaison des réglages du bureau quand vous avez fini, ou fermez la fenêtre&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1383,7 +1383,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Call it from within the desktop session; the hot keys and the menu need none.</source>
-        <translation>Appelez-le depuis la session graphique ; les raccourcis clavier et le menu n’en ont pas besoin.</translation>
+        <translation>Appelez-le depuis la session graphique&#xa0;; les raccourcis clavier et le menu n’en ont pas besoin.</translation>
     </message>
     <message>
         <source>Keyrill could not be started, or runs already where this session bus does not reach.</source>
@@ -1391,7 +1391,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Start it as &quot;keyrill&quot; in a terminal to see why.</source>
-        <translation>Lancez-le par « keyrill » dans un terminal pour voir pourquoi.</translation>
+        <translation>Lancez-le par «&#xa0;keyrill&#xa0;» dans un terminal pour voir pourquoi.</translation>
     </message>
 </context>
 <context>
@@ -1464,11 +1464,11 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>&quot;%1&quot; is loaded but cannot be played</source>
-        <translation>« %1 » est chargé mais ne peut pas être exécuté</translation>
+        <translation>«&#xa0;%1&#xa0;» est chargé mais ne peut pas être exécuté</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -1485,7 +1485,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     <message>
         <source>%1: %2</source>
         <extracomment>a line of keyrill --check: what was looked at, and what was found</extracomment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Session</source>
@@ -1501,7 +1501,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>missing: %1; there: %2</source>
-        <translation>manquants : %1 ; présents : %2</translation>
+        <translation>manquants&#xa0;: %1&#xa0;; présents&#xa0;: %2</translation>
     </message>
     <message>
         <source>Recording</source>
@@ -1542,7 +1542,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Hot key of &quot;%1&quot;</source>
-        <translation>Raccourci clavier de « %1 »</translation>
+        <translation>Raccourci clavier de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>none is chosen</source>
@@ -1558,7 +1558,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>%1; the session does not tell who has it</source>
-        <translation>%1 ; la session ne dit pas qui l’utilise</translation>
+        <translation>%1&#xa0;; la session ne dit pas qui l’utilise</translation>
     </message>
     <message>
         <source>Session bus</source>
@@ -1571,7 +1571,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>There is none: &quot;keyrill --action&quot;, notifications and many trays need it, and a locked screen is not noticed at once.</source>
-        <translation>Il n’y en a pas : « keyrill --action », les notifications et bien des zones de notification en ont besoin, et un écran verrouillé n’est pas remarqué tout de suite.</translation>
+        <translation>Il n’y en a pas&#xa0;: «&#xa0;keyrill --action&#xa0;», les notifications et bien des zones de notification en ont besoin, et un écran verrouillé n’est pas remarqué tout de suite.</translation>
     </message>
     <message>
         <source>Start Keyrill from within the desktop session.</source>
@@ -1595,7 +1595,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>on: %1, which macros do not mind</source>
-        <translation>actifs : %1, ce qui ne gêne pas les macros</translation>
+        <translation>actifs&#xa0;: %1, ce qui ne gêne pas les macros</translation>
     </message>
     <message>
         <source>layout unknown</source>
@@ -1612,18 +1612,18 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     <message>
         <source>%1; %2</source>
         <extracomment>the keyboard layouts, and the locks that are on</extracomment>
-        <translation>%1 ; %2</translation>
+        <translation>%1&#xa0;; %2</translation>
     </message>
 </context>
 <context>
     <name>ShortcutNotices</name>
     <message>
         <source>Still used by %1 until Keyrill restarts.</source>
-        <translation>Encore utilisé par « %1 » jusqu’au redémarrage de Keyrill.</translation>
+        <translation>Encore utilisé par «&#xa0;%1&#xa0;» jusqu’au redémarrage de Keyrill.</translation>
     </message>
     <message>
         <source>Already used by %1.</source>
-        <translation>Déjà utilisé par « %1 ».</translation>
+        <translation>Déjà utilisé par «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The desktop has not answered yet.</source>
@@ -1635,7 +1635,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Set in the desktop&apos;s settings: %1</source>
-        <translation>Défini dans les réglages du bureau : %1</translation>
+        <translation>Défini dans les réglages du bureau&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 still works until Keyrill restarts.</source>
@@ -1643,18 +1643,18 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;, which gives way.</source>
-        <translation>Déjà utilisé par la macro « %1 », qui cède la place.</translation>
+        <translation>Déjà utilisé par la macro «&#xa0;%1&#xa0;», qui cède la place.</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;.</source>
-        <translation>Déjà utilisé par la macro « %1 ».</translation>
+        <translation>Déjà utilisé par la macro «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>ShortcutTitles</name>
     <message>
         <source>Start &amp;Recording:</source>
-        <translation>&amp;Démarrer l’enregistrement :</translation>
+        <translation>&amp;Démarrer l’enregistrement&#xa0;:</translation>
     </message>
     <message>
         <source>Start Recording</source>
@@ -1662,7 +1662,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>&amp;Stop Recording:</source>
-        <translation>&amp;Arrêter l’enregistrement :</translation>
+        <translation>&amp;Arrêter l’enregistrement&#xa0;:</translation>
     </message>
     <message>
         <source>Stop Recording</source>
@@ -1670,7 +1670,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>&amp;Play:</source>
-        <translation>&amp;Exécuter :</translation>
+        <translation>&amp;Exécuter&#xa0;:</translation>
     </message>
     <message>
         <source>Play</source>
@@ -1678,7 +1678,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Play &amp;Multiple Times:</source>
-        <translation>Exécuter &amp;plusieurs fois :</translation>
+        <translation>Exécuter &amp;plusieurs fois&#xa0;:</translation>
     </message>
     <message>
         <source>Play Multiple Times</source>
@@ -1784,7 +1784,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     <name>StatusNotice</name>
     <message>
         <source>%1 has no shortcut. %2</source>
-        <translation>« %1 » n’a pas de raccourci. %2</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas de raccourci. %2</translation>
     </message>
 </context>
 <context>
@@ -1831,23 +1831,23 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>&quot;keyrill --check&quot; in a terminal may say why.</source>
-        <translation>« keyrill --check » dans un terminal en dira peut-être la raison.</translation>
+        <translation>«&#xa0;keyrill --check&#xa0;» dans un terminal en dira peut-être la raison.</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <comment>whether it works, and what</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>StepsModel</name>
     <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The script goes on; only its beginning is shown.</source>
-        <translation>Le script continue ; seul son début est montré.</translation>
+        <translation>Le script continue&#xa0;; seul son début est montré.</translation>
     </message>
     <message>
         <source>A pause is a number of seconds from 0 to a day.</source>
@@ -1855,7 +1855,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>A key is pressed from 1 to 10,000 times.</source>
-        <translation>Une touche est pressée de 1 à 10 000 fois.</translation>
+        <translation>Une touche est pressée de 1 à 10&#x202f;000 fois.</translation>
     </message>
     <message>
         <source>This step cannot be changed here.</source>
@@ -1920,15 +1920,15 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Choose Start Recording in Keyrill&apos;s menu. Then type.</source>
-        <translation>Choisissez « Démarrer l’enregistrement » dans le menu de Keyrill. Puis saisissez.</translation>
+        <translation>Choisissez «&#xa0;Démarrer l’enregistrement&#xa0;» dans le menu de Keyrill. Puis saisissez.</translation>
     </message>
     <message>
         <source>Press %1, or choose Start Recording in Keyrill&apos;s menu. Then type.</source>
-        <translation>Appuyez sur %1 ou choisissez « Démarrer l’enregistrement » dans le menu de Keyrill. Puis saisissez.</translation>
+        <translation>Appuyez sur %1 ou choisissez «&#xa0;Démarrer l’enregistrement&#xa0;» dans le menu de Keyrill. Puis saisissez.</translation>
     </message>
     <message>
         <source>Choose Stop Recording when you are done.</source>
-        <translation>Choisissez « Arrêter l’enregistrement » quand vous avez fini.</translation>
+        <translation>Choisissez «&#xa0;Arrêter l’enregistrement&#xa0;» quand vous avez fini.</translation>
     </message>
     <message>
         <source>Press %1 when you are done.</source>
@@ -1936,7 +1936,7 @@ NOM est le type de session graphique ; sans lui, le programme le trouve lui-mê
     </message>
     <message>
         <source>Click where the keys should go and choose Play.</source>
-        <translation>Cliquez là où les touches doivent arriver et choisissez « Exécuter ».</translation>
+        <translation>Cliquez là où les touches doivent arriver et choisissez «&#xa0;Exécuter&#xa0;».</translation>
     </message>
     <message>
         <source>Click where the keys should go and press %1.</source>

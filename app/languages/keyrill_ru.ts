@@ -1857,7 +1857,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>A key is pressed from 1 to 10,000 times.</source>
-        <translation>Клавишу можно нажать от 1 до 10 000 раз.</translation>
+        <translation>Клавишу можно нажать от 1 до 10&#xa0;000 раз.</translation>
     </message>
     <message>
         <source>This step cannot be changed here.</source>
