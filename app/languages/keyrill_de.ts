@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Records the keys you press and presses them again.</source>
-        <translation>Zeichnet die Tasten auf, die Sie drücken, und drückt sie erneut.</translation>
+        <translation>Zeichnet Ihre Tastatureingaben auf und spielt sie wieder ab.</translation>
     </message>
     <message>
         <source>Copyright © 2026 the Keyrill authors. Free software under the MIT licence, without any warranty.</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Keyrill requires that programs can see and press keys in this session. </source>
-        <translation>Keyrill setzt voraus, dass Programme in dieser Sitzung Tasten sehen und drücken können. </translation>
+        <translation>Keyrill setzt voraus, dass Programme in dieser Sitzung Tastendrücke sehen und auslösen können. </translation>
     </message>
     <message>
         <source>Please see the &apos;Configuration&apos; section of the documentation for more information.
@@ -183,7 +183,7 @@ Keyrill muss beendet werden. Bitte starten Sie es neu, sobald dies möglich ist.
     </message>
     <message>
         <source>Do you want to replace it? What is in it will be lost.</source>
-        <translation>Möchten Sie die Datei ersetzen? Ihr Inhalt geht verloren.</translation>
+        <translation>Möchten Sie die Datei ersetzen? Der bisherige Inhalt geht verloren.</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -271,7 +271,7 @@ Keyrill muss beendet werden. Bitte starten Sie es neu, sobald dies möglich ist.
     </message>
     <message>
         <source>by key grabs</source>
-        <translation>durch Belegen der Tasten</translation>
+        <translation>durch Abfangen der Tasten</translation>
     </message>
     <message>
         <source>by XTEST</source>
@@ -327,7 +327,7 @@ Keyrill muss beendet werden. Bitte starten Sie es neu, sobald dies möglich ist.
     </message>
     <message>
         <source>what you type into a window of Keyrill&apos;s, &quot;Record Here&quot;</source>
-        <translation>was Sie in ein Fenster von Keyrill tippen, „Hier aufzeichnen“</translation>
+        <translation>was Sie in das Fenster „Hier aufzeichnen“ von Keyrill tippen</translation>
     </message>
     <message>
         <source>the compositor&apos;s</source>
@@ -359,7 +359,7 @@ Keyrill muss beendet werden. Bitte starten Sie es neu, sobald dies möglich ist.
     </message>
     <message>
         <source>The X server lacks the extension %1, which shows keys.</source>
-        <translation>Dem X-Server fehlt die Erweiterung %1, die Tasten anzeigt.</translation>
+        <translation>Dem X-Server fehlt die Erweiterung %1, die Tastendrücke meldet.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1, which says what keys mean.</source>
@@ -403,11 +403,11 @@ Keyrill muss beendet werden. Bitte starten Sie es neu, sobald dies möglich ist.
     </message>
     <message>
         <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, &quot;tools/access install&quot;; or record in an X11 session, macros play in both.</source>
-        <translation>Installieren Sie das Paket keyrill-wayland-access oder, aus den Quellen von Keyrill, mit „tools/access install“; oder zeichnen Sie in einer X11-Sitzung auf, Makros lassen sich in beiden abspielen.</translation>
+        <translation>Installieren Sie das Paket keyrill-wayland-access oder führen Sie in den Quellen von Keyrill „tools/access install“ aus; oder zeichnen Sie in einer X11-Sitzung auf, Makros lassen sich in beiden abspielen.</translation>
     </message>
     <message>
         <source>This compositor gives no hot keys to programs.</source>
-        <translation>Dieser Compositor gibt Programmen keine Tastenkürzel.</translation>
+        <translation>Dieser Compositor bietet Programmen keine Tastenkürzel.</translation>
     </message>
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
@@ -493,7 +493,7 @@ Keyrill muss beendet werden. Bitte starten Sie es neu, sobald dies möglich ist.
     <name>CommandLine</name>
     <message>
         <source>--times and --speed say how --play plays.</source>
-        <translation>--times und --speed sagen, wie --play abspielt.</translation>
+        <translation>--times und --speed legen fest, wie --play abspielt.</translation>
     </message>
     <message>
         <source>keyrill --help tells more.</source>
@@ -517,7 +517,7 @@ Keyrill muss beendet werden. Bitte starten Sie es neu, sobald dies möglich ist.
     </message>
     <message>
         <source>An action takes no file, and &quot;%1&quot; was given.</source>
-        <translation>Eine Aktion nimmt keine Datei an, und „%1“ wurde angegeben.</translation>
+        <translation>Eine Aktion nimmt keine Datei an, aber „%1“ wurde angegeben.</translation>
     </message>
     <message>
         <source>Load it first: keyrill FILE.</source>
@@ -554,7 +554,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
 </source>
         <extracomment>Options, and what stands in capital letters, stay as they are where the program takes them as they are.</extracomment>
         <translation>Aufruf: keyrill [--session=NAME] [--] [DATEI...]   starten oder Makros in das laufende Programm laden
-        keyrill [--session=NAME] --action=AKTION   das laufende Programm handeln lassen; startet es nötigenfalls
+        keyrill [--session=NAME] --action=AKTION   eine Aktion ausführen lassen; startet das Programm nötigenfalls
         keyrill [--session=NAME] --play [MAKRO|DATEI] [--times=N|until-stopped] [--speed=X]
                                            ein Makro des Makroordners oder eine Datei abspielen lassen
         keyrill [--session=NAME] --show [MAKRO]   das Fenster der Makros zeigen lassen
@@ -564,7 +564,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
 AKTION ist eine von diesen: %1.
 MAKRO ist ein Name, den --list ausgibt, mit seiner Gruppe oder ohne; ohne MAKRO und DATEI spielt --play ab, was
 „Abspielen“ abspielt. Eine DATEI, zu der es kein MAKRO dieses Namens gibt oder die mit / oder ./ beginnt, wird so
-abgespielt, wie sie ist. Wie oft und wie schnell (0.25 bis 4), gehört zum Makro, wenn es nicht angegeben wird. --show
+abgespielt, wie sie ist. Wie oft und wie schnell (0.25 bis 4), bestimmt das Makro, wenn es nicht angegeben wird. --show
 wählt MAKRO im Fenster aus. Bei --play, --show und --list ist der Rückgabewert 0, wenn es getan wurde, 1, wenn nicht,
 und 2, wenn der Aufruf falsch war; die Standardfehlerausgabe sagt, warum.
 NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst heraus. Es gibt: %2
@@ -685,11 +685,11 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Record Keys</source>
-        <translation>Tasten aufzeichnen</translation>
+        <translation>Aufzeichnen</translation>
     </message>
     <message>
         <source>Record keys behind the selected step</source>
-        <translation>Tasten hinter dem gewählten Schritt aufzeichnen</translation>
+        <translation>Tasten hinter dem ausgewählten Schritt aufzeichnen</translation>
     </message>
     <message>
         <source>Add Pause</source>
@@ -697,7 +697,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>A pause behind the selected step</source>
-        <translation>Eine Pause hinter dem gewählten Schritt</translation>
+        <translation>Eine Pause hinter dem ausgewählten Schritt</translation>
     </message>
     <message>
         <source>Change</source>
@@ -705,7 +705,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Change the text, the pause or how often a key is pressed</source>
-        <translation>Den Text, die Pause oder die Zahl der Tastendrücke ändern</translation>
+        <translation>Den Text, die Pause oder die Anzahl der Tastendrücke ändern</translation>
     </message>
     <message>
         <source>Repeat</source>
@@ -713,23 +713,23 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>The selected steps once more</source>
-        <translation>Die gewählten Schritte noch einmal</translation>
+        <translation>Die ausgewählten Schritte noch einmal</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation>Hoch</translation>
+        <translation>Auf</translation>
     </message>
     <message>
         <source>Move up</source>
-        <translation>Nach oben schieben</translation>
+        <translation>Nach oben verschieben</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation>Runter</translation>
+        <translation>Ab</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation>Nach unten schieben</translation>
+        <translation>Nach unten verschieben</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -737,7 +737,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Remove the selected steps</source>
-        <translation>Die gewählten Schritte entfernen</translation>
+        <translation>Die ausgewählten Schritte entfernen</translation>
     </message>
     <message>
         <source>Convert to Text</source>
@@ -745,7 +745,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Type the same under every keyboard layout</source>
-        <translation>Unter jeder Tastaturbelegung dasselbe tippen</translation>
+        <translation>Mit jeder Tastaturbelegung dasselbe tippen</translation>
     </message>
     <message>
         <source>Convert to Keys</source>
@@ -753,7 +753,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Press the keys of the present keyboard layout</source>
-        <translation>Die Tasten der jetzigen Tastaturbelegung drücken</translation>
+        <translation>Die Tasten der aktuellen Tastaturbelegung drücken</translation>
     </message>
 </context>
 <context>
@@ -847,7 +847,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Times</source>
-        <translation>Anzahl</translation>
+        <translation>Durchläufe</translation>
     </message>
     <message>
         <source>Unt&amp;il stopped</source>
@@ -855,7 +855,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>&amp;Times:</source>
-        <translation>An&amp;zahl:</translation>
+        <translation>Dur&amp;chläufe:</translation>
     </message>
     <message>
         <source> ×</source>
@@ -864,7 +864,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>The pauses of the macro are divided by this</source>
-        <translation>Die Pausen des Makros werden hierdurch geteilt</translation>
+        <translation>Die Pausen des Makros werden durch diesen Wert geteilt</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -950,7 +950,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>The file of this macro is gone. If you save, it is there again.</source>
-        <translation>Die Datei dieses Makros ist weg. Wenn Sie speichern, ist sie wieder da.</translation>
+        <translation>Die Datei dieses Makros ist nicht mehr vorhanden. Wenn Sie speichern, wird sie neu angelegt.</translation>
     </message>
     <message>
         <source>Another program has deleted or moved the macro.</source>
@@ -962,7 +962,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>What was not saved is there again: %1.</source>
-        <translation>Was nicht gespeichert war, ist wieder da: %1.</translation>
+        <translation>Nicht Gespeichertes wurde wiederhergestellt: %1.</translation>
     </message>
     <message>
         <source>, </source>
@@ -970,11 +970,11 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>The recording is forgotten.</source>
-        <translation>Die Aufzeichnung wurde vergessen.</translation>
+        <translation>Die Aufzeichnung wurde aus dem Verlauf gelöscht.</translation>
     </message>
     <message>
         <source>All recordings are forgotten.</source>
-        <translation>Alle Aufzeichnungen wurden vergessen.</translation>
+        <translation>Alle Aufzeichnungen wurden aus dem Verlauf gelöscht.</translation>
     </message>
     <message>
         <source>Saved.</source>
@@ -1009,7 +1009,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>It begins with file:///.</source>
-        <translation>Sie beginnt mit file:///.</translation>
+        <translation>Ihre Adresse muss mit file:/// beginnen.</translation>
     </message>
 </context>
 <context>
@@ -1028,7 +1028,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>&amp;Record New</source>
-        <translation>&amp;Neu aufzeichnen</translation>
+        <translation>&amp;Neue Aufzeichnung</translation>
     </message>
     <message>
         <source>Record a new macro</source>
@@ -1044,11 +1044,11 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>&amp;Forget</source>
-        <translation>&amp;Vergessen</translation>
+        <translation>Aus dem &amp;Verlauf löschen</translation>
     </message>
     <message>
         <source>Forget &amp;All</source>
-        <translation>&amp;Alle vergessen</translation>
+        <translation>&amp;Alle löschen</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -1120,7 +1120,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Plays in %1 s...</source>
-        <translation>Abspielen in %1 s...</translation>
+        <translation>Wird in %1 s abgespielt...</translation>
     </message>
 </context>
 <context>
@@ -1205,7 +1205,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Say which one: %1.</source>
-        <translation>Sagen Sie, welches: %1.</translation>
+        <translation>Geben Sie an, welches: %1.</translation>
     </message>
     <message>
         <source>keyrill --list lists all.</source>
@@ -1225,7 +1225,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>What Play plays cannot be played: its script is wrong in line %1.</source>
-        <translation>Was „Abspielen“ abspielt, kann nicht abgespielt werden: Sein Skript ist in Zeile %1 falsch.</translation>
+        <translation>Das Makro von „Abspielen“ kann nicht abgespielt werden: Sein Skript ist in Zeile %1 fehlerhaft.</translation>
     </message>
     <message>
         <source>Play in the menu tells more.</source>
@@ -1233,7 +1233,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>&quot;%1&quot; cannot be played: its script is wrong in line %2.</source>
-        <translation>„%1“ kann nicht abgespielt werden: Sein Skript ist in Zeile %2 falsch.</translation>
+        <translation>„%1“ kann nicht abgespielt werden: Das Skript ist in Zeile %2 fehlerhaft.</translation>
     </message>
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
@@ -1244,19 +1244,19 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     <name>PlayWords</name>
     <message>
         <source>&quot;%1&quot; is not how many times a macro can be played.</source>
-        <translation>„%1“ gibt nicht an, wie oft ein Makro abgespielt werden kann.</translation>
+        <translation>„%1“ ist keine gültige Anzahl von Durchläufen.</translation>
     </message>
     <message>
         <source>It is a whole number from 1 on, or until-stopped.</source>
-        <translation>Es ist eine ganze Zahl ab 1 oder until-stopped.</translation>
+        <translation>Gültig ist eine ganze Zahl ab 1 oder until-stopped.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not how fast a macro can be played.</source>
-        <translation>„%1“ gibt nicht an, wie schnell ein Makro abgespielt werden kann.</translation>
+        <translation>„%1“ ist kein gültiges Tempo.</translation>
     </message>
     <message>
         <source>It is a number from 0.25 to 4, with a point: 1.5.</source>
-        <translation>Es ist eine Zahl von 0.25 bis 4, mit einem Punkt: 1.5.</translation>
+        <translation>Gültig ist eine Zahl von 0.25 bis 4, mit Dezimalpunkt: 1.5.</translation>
     </message>
     <message>
         <source>The name of the macro is empty.</source>
@@ -1275,7 +1275,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Check &amp;Now</source>
-        <translation>&amp;Jetzt prüfen</translation>
+        <translation>&amp;Jetzt suchen</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -1287,7 +1287,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>These combinations work in every program. Click a field and press the combination you want.</source>
-        <translation>Diese Kombinationen wirken in jedem Programm. Klicken Sie in ein Feld und drücken Sie die gewünschte Kombination.</translation>
+        <translation>Diese Kombinationen funktionieren in jedem Programm. Klicken Sie in ein Feld und drücken Sie die gewünschte Kombination.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -1391,14 +1391,14 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Start it as &quot;keyrill&quot; in a terminal to see why.</source>
-        <translation>Starten Sie es als „keyrill“ in einem Terminal, um zu sehen, warum.</translation>
+        <translation>Starten Sie „keyrill“ in einem Terminal, um zu sehen, warum.</translation>
     </message>
 </context>
 <context>
     <name>SRRecorderControl</name>
     <message>
         <source>Clear %1</source>
-        <translation>%1 leeren</translation>
+        <translation>„%1“ leeren</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1410,7 +1410,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Add Ctrl, Alt or Super</source>
-        <translation>Strg, Alt oder Super dazu</translation>
+        <translation>Mit Strg, Alt oder Super</translation>
     </message>
     <message>
         <source>Press a combination…</source>
@@ -1497,7 +1497,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Parts</source>
-        <translation>Teile</translation>
+        <translation>Bestandteile</translation>
     </message>
     <message>
         <source>missing: %1; there: %2</source>
@@ -1550,15 +1550,15 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>%1, which nobody else has</source>
-        <translation>%1, das sonst niemand hat</translation>
+        <translation>%1, das sonst niemand verwendet</translation>
     </message>
     <message>
         <source>%1, which the running Keyrill has</source>
-        <translation>%1, das das laufende Keyrill hat</translation>
+        <translation>%1, das vom laufenden Keyrill verwendet wird</translation>
     </message>
     <message>
         <source>%1; the session does not tell who has it</source>
-        <translation>%1; die Sitzung sagt nicht, wer es hat</translation>
+        <translation>%1; die Sitzung sagt nicht, wer es verwendet</translation>
     </message>
     <message>
         <source>Session bus</source>
@@ -1591,11 +1591,11 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>no lock is on</source>
-        <translation>keine Feststelltaste ist an</translation>
+        <translation>keine Sperrtaste ist aktiv</translation>
     </message>
     <message>
         <source>on: %1, which macros do not mind</source>
-        <translation>an: %1, was Makros nicht stört</translation>
+        <translation>aktiv: %1, was Makros nicht stört</translation>
     </message>
     <message>
         <source>layout unknown</source>
@@ -1639,7 +1639,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>%1 still works until Keyrill restarts.</source>
-        <translation>%1 wirkt noch bis zum Neustart von Keyrill.</translation>
+        <translation>%1 funktioniert noch bis zum Neustart von Keyrill.</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;, which gives way.</source>
@@ -1697,7 +1697,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Save Pause</source>
-        <translation>Pause festhalten</translation>
+        <translation>Pause aufzeichnen</translation>
     </message>
     <message>
         <source>Play</source>
@@ -1827,7 +1827,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>What works here could not be found out.</source>
-        <translation>Was hier funktioniert, konnte nicht herausgefunden werden.</translation>
+        <translation>Was hier funktioniert, konnte nicht ermittelt werden.</translation>
     </message>
     <message>
         <source>&quot;keyrill --check&quot; in a terminal may say why.</source>
@@ -1851,11 +1851,11 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>A pause is a number of seconds from 0 to a day.</source>
-        <translation>Eine Pause ist eine Zahl von Sekunden von 0 bis zu einem Tag.</translation>
+        <translation>Eine Pause wird in Sekunden angegeben, von 0 bis zu einem Tag.</translation>
     </message>
     <message>
         <source>A key is pressed from 1 to 10,000 times.</source>
-        <translation>Eine Taste wird 1- bis 10.000-mal gedrückt.</translation>
+        <translation>Eine Taste kann 1- bis 10.000-mal gedrückt werden.</translation>
     </message>
     <message>
         <source>This step cannot be changed here.</source>
@@ -1912,11 +1912,11 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>You can change them in the preferences, which come next.</source>
-        <translation>Sie können sie in den Einstellungen ändern, die als Nächstes kommen.</translation>
+        <translation>Sie können sie in den Einstellungen ändern, die sich als Nächstes öffnen.</translation>
     </message>
     <message>
         <source>Keyrill records the keys you press and presses them again for you, in any program, as often as you like.</source>
-        <translation>Keyrill zeichnet die Tasten auf, die Sie drücken, und drückt sie für Sie erneut, in jedem Programm und so oft Sie möchten.</translation>
+        <translation>Keyrill zeichnet Ihre Tastatureingaben auf und spielt sie für Sie wieder ab, in jedem Programm und so oft, wie Sie möchten.</translation>
     </message>
     <message>
         <source>Choose Start Recording in Keyrill&apos;s menu. Then type.</source>
@@ -1936,11 +1936,11 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Click where the keys should go and choose Play.</source>
-        <translation>Klicken Sie dorthin, wo die Tasten ankommen sollen, und wählen Sie „Abspielen“.</translation>
+        <translation>Klicken Sie dorthin, wo getippt werden soll, und wählen Sie „Abspielen“.</translation>
     </message>
     <message>
         <source>Click where the keys should go and press %1.</source>
-        <translation>Klicken Sie dorthin, wo die Tasten ankommen sollen, und drücken Sie %1.</translation>
+        <translation>Klicken Sie dorthin, wo getippt werden soll, und drücken Sie %1.</translation>
     </message>
     <message>
         <source>Not set</source>
