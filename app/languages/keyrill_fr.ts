@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Records the keys you press and presses them again.</source>
-        <translation>Enregistre les touches sur lesquelles vous appuyez et les presse à nouveau.</translation>
+        <translation>Enregistre vos frappes au clavier et les reproduit.</translation>
     </message>
     <message>
         <source>Copyright © 2026 the Keyrill authors. Free software under the MIT licence, without any warranty.</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Keyrill requires that programs can see and press keys in this session. </source>
-        <translation>Keyrill a besoin que les programmes puissent voir et presser des touches dans cette session. </translation>
+        <translation>Keyrill nécessite que les programmes puissent détecter et simuler des frappes dans cette session. </translation>
     </message>
     <message>
         <source>Please see the &apos;Configuration&apos; section of the documentation for more information.
@@ -203,7 +203,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>There is no file &quot;%1&quot;.</source>
-        <translation>Il n’y a pas de fichier «&#xa0;%1&#xa0;».</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>Check the name, or choose one of the list.</source>
@@ -237,7 +237,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>There is no action &quot;%1&quot;. There are: %2.</source>
-        <translation>Il n’y a pas d’action «&#xa0;%1&#xa0;». Il y a&#xa0;: %2.</translation>
+        <translation>L’action «&#xa0;%1&#xa0;» n’existe pas. Actions possibles&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The action &quot;%1&quot; takes no parameter.</source>
@@ -271,7 +271,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>by key grabs</source>
-        <translation>par captures de touches</translation>
+        <translation>par capture de touches</translation>
     </message>
     <message>
         <source>by XTEST</source>
@@ -327,7 +327,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>what you type into a window of Keyrill&apos;s, &quot;Record Here&quot;</source>
-        <translation>ce que vous saisissez dans une fenêtre de Keyrill, «&#xa0;Enregistrer ici&#xa0;»</translation>
+        <translation>ce que vous saisissez dans la fenêtre «&#xa0;Enregistrer ici&#xa0;» de Keyrill</translation>
     </message>
     <message>
         <source>the compositor&apos;s</source>
@@ -359,7 +359,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>The X server lacks the extension %1, which shows keys.</source>
-        <translation>Il manque au serveur X l’extension %1, qui montre les touches.</translation>
+        <translation>Il manque au serveur X l’extension %1, qui signale les frappes.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1, which says what keys mean.</source>
@@ -367,7 +367,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>The X server lacks the extension %1, which presses keys.</source>
-        <translation>Il manque au serveur X l’extension %1, qui presse les touches.</translation>
+        <translation>Il manque au serveur X l’extension %1, qui simule les frappes.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1: a key that is held is recorded once.</source>
@@ -387,7 +387,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>Choose an X11 session when you log in.</source>
-        <translation>Choisissez une session X11 lors de la connexion.</translation>
+        <translation>Choisissez une session X11 à l’ouverture de session.</translation>
     </message>
     <message>
         <source>There is none; a small window with the menu stands in for the icon.</source>
@@ -403,11 +403,11 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, &quot;tools/access install&quot;; or record in an X11 session, macros play in both.</source>
-        <translation>Installez le paquet keyrill-wayland-access ou, depuis les sources de Keyrill, «&#xa0;tools/access install&#xa0;»&#xa0;; ou enregistrez dans une session X11, les macros s’exécutent dans les deux.</translation>
+        <translation>Installez le paquet keyrill-wayland-access ou exécutez «&#xa0;tools/access install&#xa0;» dans les sources de Keyrill&#xa0;; ou enregistrez dans une session X11, les macros s’exécutent dans les deux.</translation>
     </message>
     <message>
         <source>This compositor gives no hot keys to programs.</source>
-        <translation>Ce compositeur ne donne pas de raccourcis clavier aux programmes.</translation>
+        <translation>Ce compositeur ne fournit pas de raccourcis clavier aux programmes.</translation>
     </message>
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
@@ -443,7 +443,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>Switch to a layout that has the others before you play.</source>
-        <translation>Passez à une disposition qui contient les autres avant d’exécuter.</translation>
+        <translation>Passez à une disposition qui contient les autres avant d’exécuter la macro.</translation>
     </message>
     <message>
         <source>This compositor shows the clipboard to windows in front alone.</source>
@@ -493,7 +493,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     <name>CommandLine</name>
     <message>
         <source>--times and --speed say how --play plays.</source>
-        <translation>--times et --speed disent comment --play exécute.</translation>
+        <translation>--times et --speed précisent comment --play exécute la macro.</translation>
     </message>
     <message>
         <source>keyrill --help tells more.</source>
@@ -501,7 +501,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>There is no option &quot;%1&quot;.</source>
-        <translation>Il n’y a pas d’option «&#xa0;%1&#xa0;».</translation>
+        <translation>L’option «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>keyrill --help lists them.</source>
@@ -509,7 +509,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>There is no action &quot;%1&quot;.</source>
-        <translation>Il n’y a pas d’action «&#xa0;%1&#xa0;».</translation>
+        <translation>L’action «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>Choose one of these: %1.</source>
@@ -517,7 +517,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>An action takes no file, and &quot;%1&quot; was given.</source>
-        <translation>Une action n’accepte aucun fichier, et «&#xa0;%1&#xa0;» a été donné.</translation>
+        <translation>Une action n’accepte aucun fichier, mais «&#xa0;%1&#xa0;» a été indiqué.</translation>
     </message>
     <message>
         <source>Load it first: keyrill FILE.</source>
@@ -553,13 +553,13 @@ well put; standard error tells why.
 NAME is the kind of desktop session; without it the program finds out itself. There are: %2
 </source>
         <extracomment>Options, and what stands in capital letters, stay as they are where the program takes them as they are.</extracomment>
-        <translation>Utilisation&#xa0;: keyrill [--session=NOM] [--] [FICHIER...]   lancer, ou charger des macros dans celui qui est lancé
-              keyrill [--session=NOM] --action=ACTION   demander une action à celui qui est lancé&#xa0;; le lance au besoin
+        <translation>Utilisation&#xa0;: keyrill [--session=NOM] [--] [FICHIER...]   lancer Keyrill ou, s’il l’est déjà, y charger des macros
+              keyrill [--session=NOM] --action=ACTION   demander une action à Keyrill, lancé au besoin
               keyrill [--session=NOM] --play [MACRO|FICHIER] [--times=N|until-stopped] [--speed=X]
                                           lui demander d’exécuter une macro du dossier des macros, ou un fichier
               keyrill [--session=NOM] --show [MACRO]   lui demander d’afficher la fenêtre des macros
               keyrill --list   afficher les noms des macros du dossier des macros
-              keyrill [--session=NOM] --check   afficher ce qui fonctionne dans cette session, et que faire
+              keyrill [--session=NOM] --check   afficher ce qui fonctionne dans cette session, et ce qu’il faut faire
               keyrill -h | --help | --version
 ACTION est l’une de celles-ci&#xa0;: %1.
 MACRO est un nom affiché par --list, avec ou sans son groupe&#xa0;; sans MACRO ni FICHIER, --play exécute ce que
@@ -567,7 +567,7 @@ la commande «&#xa0;Exécuter&#xa0;» exécute. Un FICHIER sans MACRO de ce nom,
 quel. Le nombre de fois et la vitesse (0.25 à 4) sont ceux de la macro, sauf s’ils sont donnés. --show choisit
 MACRO dans la fenêtre. Pour --play, --show et --list, le code de retour est 0 si c’est fait, 1 sinon, 2 si
 l’appel est incorrect&#xa0;; la sortie d’erreur dit pourquoi.
-NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui-même. Il y a&#xa0;: %2
+NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui-même. Types possibles&#xa0;: %2
 </translation>
     </message>
 </context>
@@ -622,19 +622,19 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>&quot;%1&quot; cannot be renamed: %2.</source>
-        <translation>«&#xa0;%1&#xa0;» ne peut pas être renommé&#xa0;: %2.</translation>
+        <translation>Impossible de renommer «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be copied: %2.</source>
-        <translation>«&#xa0;%1&#xa0;» ne peut pas être copié&#xa0;: %2.</translation>
+        <translation>Impossible de copier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be put into the trash.</source>
-        <translation>«&#xa0;%1&#xa0;» ne peut pas être mis à la corbeille.</translation>
+        <translation>Impossible de mettre «&#xa0;%1&#xa0;» à la corbeille.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be brought back: %2.</source>
-        <translation>«&#xa0;%1&#xa0;» ne peut pas être restauré&#xa0;: %2.</translation>
+        <translation>Impossible de restaurer «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -672,7 +672,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <name>KeysView</name>
     <message>
         <source>This is a script of its own: line %1 cannot be changed here. What it would press is shown; change it under Script.</source>
-        <translation>Ceci est un script à part entière&#xa0;: la ligne %1 ne peut pas être modifiée ici. Ce qu’il presserait est montré&#xa0;; modifiez-le sous «&#xa0;Script&#xa0;».</translation>
+        <translation>Ceci est un script personnalisé&#xa0;: la ligne %1 ne peut pas être modifiée ici. Les touches qu’il presserait sont affichées&#xa0;; modifiez-le sous «&#xa0;Script&#xa0;».</translation>
     </message>
     <message>
         <source>Keys of the macro</source>
@@ -685,7 +685,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Record Keys</source>
-        <translation>Enregistrer</translation>
+        <translation>Ajouter des touches</translation>
     </message>
     <message>
         <source>Record keys behind the selected step</source>
@@ -713,11 +713,11 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>The selected steps once more</source>
-        <translation>Les étapes sélectionnées une fois de plus</translation>
+        <translation>Répéter les étapes sélectionnées</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation>Monter</translation>
+        <translation>Haut</translation>
     </message>
     <message>
         <source>Move up</source>
@@ -725,7 +725,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Down</source>
-        <translation>Descendre</translation>
+        <translation>Bas</translation>
     </message>
     <message>
         <source>Move down</source>
@@ -745,7 +745,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Type the same under every keyboard layout</source>
-        <translation>Saisir la même chose avec toute disposition de clavier</translation>
+        <translation>Saisir la même chose quelle que soit la disposition de clavier</translation>
     </message>
     <message>
         <source>Convert to Keys</source>
@@ -760,7 +760,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <name>LibraryController</name>
     <message>
         <source>&quot;%1&quot; was not played</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas été exécuté</translation>
+        <translation>La macro «&#xa0;%1&#xa0;» n’a pas été exécutée</translation>
     </message>
     <message>
         <source>Hot keys of macros</source>
@@ -847,7 +847,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Times</source>
-        <translation>Nombre de fois</translation>
+        <translation>Exécutions</translation>
     </message>
     <message>
         <source>Unt&amp;il stopped</source>
@@ -855,7 +855,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>&amp;Times:</source>
-        <translation>&amp;Fois&#xa0;:</translation>
+        <translation>E&amp;xécutions&#xa0;:</translation>
     </message>
     <message>
         <source> ×</source>
@@ -883,7 +883,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Pause %1 s</source>
-        <translation>Pause %1 s</translation>
+        <translation>Pause %1&#xa0;s</translation>
     </message>
     <message>
         <source>Text: %1</source>
@@ -938,7 +938,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <name>MacrosDesk</name>
     <message>
         <source>Play has the latest macro until there is another.</source>
-        <translation>«&#xa0;Exécuter&#xa0;» prend la dernière macro jusqu’à ce qu’il y en ait une autre.</translation>
+        <translation>«&#xa0;Exécuter&#xa0;» utilise la dernière macro jusqu’à ce qu’il y en ait une autre.</translation>
     </message>
     <message>
         <source>What is not saved would not outlive a crash. %1</source>
@@ -950,7 +950,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>The file of this macro is gone. If you save, it is there again.</source>
-        <translation>Le fichier de cette macro a disparu. Si vous sauvegardez, il existera de nouveau.</translation>
+        <translation>Le fichier de cette macro a disparu. Si vous sauvegardez, il sera recréé.</translation>
     </message>
     <message>
         <source>Another program has deleted or moved the macro.</source>
@@ -958,11 +958,11 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Another program has changed this macro. If you save, your text replaces it.</source>
-        <translation>Un autre programme a modifié cette macro. Si vous sauvegardez, votre texte la remplace.</translation>
+        <translation>Un autre programme a modifié cette macro. Si vous sauvegardez, votre texte remplacera cette modification.</translation>
     </message>
     <message>
         <source>What was not saved is there again: %1.</source>
-        <translation>Ce qui n’était pas sauvegardé est de retour&#xa0;: %1.</translation>
+        <translation>Ce qui n’était pas sauvegardé a été récupéré&#xa0;: %1.</translation>
     </message>
     <message>
         <source>, </source>
@@ -970,11 +970,11 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>The recording is forgotten.</source>
-        <translation>L’enregistrement est oublié.</translation>
+        <translation>L’enregistrement a été supprimé de l’historique.</translation>
     </message>
     <message>
         <source>All recordings are forgotten.</source>
-        <translation>Tous les enregistrements sont oubliés.</translation>
+        <translation>Tous les enregistrements ont été supprimés de l’historique.</translation>
     </message>
     <message>
         <source>Saved.</source>
@@ -997,19 +997,19 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <name>MacrosInterface</name>
     <message>
         <source>There is no option &quot;%1&quot;.</source>
-        <translation>Il n’y a pas d’option «&#xa0;%1&#xa0;».</translation>
+        <translation>L’option «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>There are: %1.</source>
-        <translation>Il y a&#xa0;: %1.</translation>
+        <translation>Options possibles&#xa0;: %1.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no file of this machine.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier de cette machine.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier de cet ordinateur.</translation>
     </message>
     <message>
         <source>It begins with file:///.</source>
-        <translation>Il commence par file:///.</translation>
+        <translation>Son adresse doit commencer par file:///.</translation>
     </message>
 </context>
 <context>
@@ -1036,19 +1036,19 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Keep Recordin&amp;g...</source>
-        <translation>&amp;Garder un enregistrement...</translation>
+        <translation>C&amp;onserver un enregistrement...</translation>
     </message>
     <message>
         <source>Keep a recording of the history as a macro, by a name</source>
-        <translation>Garder un enregistrement de l’historique comme macro, sous un nom</translation>
+        <translation>Conserver un enregistrement de l’historique comme macro, sous un nom</translation>
     </message>
     <message>
         <source>&amp;Forget</source>
-        <translation>&amp;Oublier</translation>
+        <translation>Supprimer de l’&amp;historique</translation>
     </message>
     <message>
         <source>Forget &amp;All</source>
-        <translation>&amp;Tout oublier</translation>
+        <translation>&amp;Tout supprimer</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -1120,7 +1120,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Plays in %1 s...</source>
-        <translation>Exécution dans %1 s...</translation>
+        <translation>Exécution dans %1&#xa0;s...</translation>
     </message>
 </context>
 <context>
@@ -1161,7 +1161,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Not recorded: keyboard held</source>
-        <translation>Non enregistré&#xa0;: clavier accaparé</translation>
+        <translation>Non enregistré&#xa0;: clavier capturé</translation>
     </message>
 </context>
 <context>
@@ -1173,7 +1173,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>As typed</source>
-        <translation>Comme saisies</translation>
+        <translation>Telles quelles</translation>
     </message>
     <message>
         <source>At most</source>
@@ -1209,7 +1209,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>keyrill --list lists all.</source>
-        <translation>keyrill --list les donne toutes.</translation>
+        <translation>keyrill --list en donne la liste.</translation>
     </message>
     <message>
         <source>Near are: %1.</source>
@@ -1225,7 +1225,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>What Play plays cannot be played: its script is wrong in line %1.</source>
-        <translation>Ce que «&#xa0;Exécuter&#xa0;» exécute ne peut pas l’être&#xa0;: son script est erroné à la ligne %1.</translation>
+        <translation>La macro de la commande «&#xa0;Exécuter&#xa0;» ne peut pas être exécutée&#xa0;: son script est erroné à la ligne %1.</translation>
     </message>
     <message>
         <source>Play in the menu tells more.</source>
@@ -1233,7 +1233,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>&quot;%1&quot; cannot be played: its script is wrong in line %2.</source>
-        <translation>«&#xa0;%1&#xa0;» ne peut pas être exécuté&#xa0;: son script est erroné à la ligne %2.</translation>
+        <translation>Impossible d’exécuter «&#xa0;%1&#xa0;»&#xa0;: son script est erroné à la ligne %2.</translation>
     </message>
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
@@ -1244,19 +1244,19 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <name>PlayWords</name>
     <message>
         <source>&quot;%1&quot; is not how many times a macro can be played.</source>
-        <translation>«&#xa0;%1&#xa0;» n’indique pas combien de fois une macro peut être exécutée.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre d’exécutions valide.</translation>
     </message>
     <message>
         <source>It is a whole number from 1 on, or until-stopped.</source>
-        <translation>C’est un nombre entier à partir de 1, ou until-stopped.</translation>
+        <translation>Indiquez un nombre entier à partir de 1, ou until-stopped.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not how fast a macro can be played.</source>
-        <translation>«&#xa0;%1&#xa0;» n’indique pas à quelle vitesse une macro peut être exécutée.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une vitesse valide.</translation>
     </message>
     <message>
         <source>It is a number from 0.25 to 4, with a point: 1.5.</source>
-        <translation>C’est un nombre de 0.25 à 4, avec un point&#xa0;: 1.5.</translation>
+        <translation>Indiquez un nombre de 0.25 à 4, avec un point décimal&#xa0;: 1.5.</translation>
     </message>
     <message>
         <source>The name of the macro is empty.</source>
@@ -1275,7 +1275,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Check &amp;Now</source>
-        <translation>Vérifier mai&amp;ntenant</translation>
+        <translation>Rechercher mai&amp;ntenant</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -1287,7 +1287,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>These combinations work in every program. Click a field and press the combination you want.</source>
-        <translation>Ces combinaisons agissent dans tous les programmes. Cliquez dans un champ et appuyez sur la combinaison voulue.</translation>
+        <translation>Ces combinaisons fonctionnent dans tous les programmes. Cliquez dans un champ et appuyez sur la combinaison voulue.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -1329,11 +1329,11 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Type here</source>
-        <translation>Saisissez ici</translation>
+        <translation>Tapez ici</translation>
     </message>
     <message>
         <source>Keys typed here are recorded</source>
-        <translation>Les touches saisies ici sont enregistrées</translation>
+        <translation>Les touches frappées ici sont enregistrées</translation>
     </message>
     <message>
         <source>Stop Recording</source>
@@ -1361,11 +1361,11 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Use the combination of the desktop&apos;s settings when you are done, or close the window.</source>
-        <translation>Utilisez la combinaison des réglages du bureau quand vous avez fini, ou fermez la fenêtre.</translation>
+        <translation>Utilisez la combinaison définie dans les réglages du bureau quand vous avez fini, ou fermez la fenêtre.</translation>
     </message>
     <message>
         <source>Use the combination of the desktop&apos;s settings when you are done, or close the window: %1</source>
-        <translation>Utilisez la combinaison des réglages du bureau quand vous avez fini, ou fermez la fenêtre&#xa0;: %1</translation>
+        <translation>Utilisez la combinaison définie dans les réglages du bureau quand vous avez fini, ou fermez la fenêtre&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1379,7 +1379,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <name>RunningProgram</name>
     <message>
         <source>There is no session bus, over which the running Keyrill could be asked.</source>
-        <translation>Il n’y a pas de bus de session par lequel interroger le Keyrill lancé.</translation>
+        <translation>Il n’y a pas de bus de session par lequel interroger Keyrill.</translation>
     </message>
     <message>
         <source>Call it from within the desktop session; the hot keys and the menu need none.</source>
@@ -1387,18 +1387,18 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Keyrill could not be started, or runs already where this session bus does not reach.</source>
-        <translation>Keyrill n’a pas pu être lancé, ou l’est déjà là où ce bus de session n’arrive pas.</translation>
+        <translation>Keyrill n’a pas pu être lancé, ou l’est déjà hors de portée de ce bus de session.</translation>
     </message>
     <message>
         <source>Start it as &quot;keyrill&quot; in a terminal to see why.</source>
-        <translation>Lancez-le par «&#xa0;keyrill&#xa0;» dans un terminal pour voir pourquoi.</translation>
+        <translation>Lancez «&#xa0;keyrill&#xa0;» dans un terminal pour voir pourquoi.</translation>
     </message>
 </context>
 <context>
     <name>SRRecorderControl</name>
     <message>
         <source>Clear %1</source>
-        <translation>Effacer %1</translation>
+        <translation>Effacer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1406,7 +1406,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Click here, then press a combination. Backspace clears, Escape keeps what was set.</source>
-        <translation>Cliquez ici, puis appuyez sur une combinaison. Retour arrière efface, Échap garde ce qui était défini.</translation>
+        <translation>Cliquez ici, puis appuyez sur une combinaison. Retour arrière efface, Échap conserve ce qui était défini.</translation>
     </message>
     <message>
         <source>Add Ctrl, Alt or Super</source>
@@ -1554,7 +1554,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>%1, which the running Keyrill has</source>
-        <translation>%1, que le Keyrill lancé utilise</translation>
+        <translation>%1, que Keyrill utilise déjà</translation>
     </message>
     <message>
         <source>%1; the session does not tell who has it</source>
@@ -1571,7 +1571,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>There is none: &quot;keyrill --action&quot;, notifications and many trays need it, and a locked screen is not noticed at once.</source>
-        <translation>Il n’y en a pas&#xa0;: «&#xa0;keyrill --action&#xa0;», les notifications et bien des zones de notification en ont besoin, et un écran verrouillé n’est pas remarqué tout de suite.</translation>
+        <translation>Il n’y en a pas&#xa0;: «&#xa0;keyrill --action&#xa0;», les notifications et de nombreuses zones de notification en ont besoin, et un écran verrouillé n’est pas remarqué tout de suite.</translation>
     </message>
     <message>
         <source>Start Keyrill from within the desktop session.</source>
@@ -1639,7 +1639,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>%1 still works until Keyrill restarts.</source>
-        <translation>%1 agit encore jusqu’au redémarrage de Keyrill.</translation>
+        <translation>%1 fonctionne encore jusqu’au redémarrage de Keyrill.</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;, which gives way.</source>
@@ -1697,7 +1697,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Save Pause</source>
-        <translation>Consigner la pause</translation>
+        <translation>Enregistrer la pause</translation>
     </message>
     <message>
         <source>Play</source>
@@ -1847,15 +1847,15 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>The script goes on; only its beginning is shown.</source>
-        <translation>Le script continue&#xa0;; seul son début est montré.</translation>
+        <translation>Le script continue&#xa0;; seul son début est affiché.</translation>
     </message>
     <message>
         <source>A pause is a number of seconds from 0 to a day.</source>
-        <translation>Une pause est un nombre de secondes, de 0 à une journée.</translation>
+        <translation>Une pause s’indique en secondes, de 0 à un jour.</translation>
     </message>
     <message>
         <source>A key is pressed from 1 to 10,000 times.</source>
-        <translation>Une touche est pressée de 1 à 10&#x202f;000 fois.</translation>
+        <translation>Une touche peut être pressée de 1 à 10&#x202f;000 fois.</translation>
     </message>
     <message>
         <source>This step cannot be changed here.</source>
@@ -1912,19 +1912,19 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>You can change them in the preferences, which come next.</source>
-        <translation>Vous pourrez les modifier dans les préférences, qui viennent ensuite.</translation>
+        <translation>Vous pourrez les modifier dans les préférences, qui s’ouvrent ensuite.</translation>
     </message>
     <message>
         <source>Keyrill records the keys you press and presses them again for you, in any program, as often as you like.</source>
-        <translation>Keyrill enregistre les touches sur lesquelles vous appuyez et les presse à nouveau pour vous, dans n’importe quel programme, aussi souvent que vous voulez.</translation>
+        <translation>Keyrill enregistre vos frappes au clavier et les reproduit pour vous, dans n’importe quel programme, aussi souvent que vous voulez.</translation>
     </message>
     <message>
         <source>Choose Start Recording in Keyrill&apos;s menu. Then type.</source>
-        <translation>Choisissez «&#xa0;Démarrer l’enregistrement&#xa0;» dans le menu de Keyrill. Puis saisissez.</translation>
+        <translation>Choisissez «&#xa0;Démarrer l’enregistrement&#xa0;» dans le menu de Keyrill. Puis tapez.</translation>
     </message>
     <message>
         <source>Press %1, or choose Start Recording in Keyrill&apos;s menu. Then type.</source>
-        <translation>Appuyez sur %1 ou choisissez «&#xa0;Démarrer l’enregistrement&#xa0;» dans le menu de Keyrill. Puis saisissez.</translation>
+        <translation>Appuyez sur %1 ou choisissez «&#xa0;Démarrer l’enregistrement&#xa0;» dans le menu de Keyrill. Puis tapez.</translation>
     </message>
     <message>
         <source>Choose Stop Recording when you are done.</source>
@@ -1936,11 +1936,11 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Click where the keys should go and choose Play.</source>
-        <translation>Cliquez là où les touches doivent arriver et choisissez «&#xa0;Exécuter&#xa0;».</translation>
+        <translation>Cliquez à l’endroit où la saisie doit se faire et choisissez «&#xa0;Exécuter&#xa0;».</translation>
     </message>
     <message>
         <source>Click where the keys should go and press %1.</source>
-        <translation>Cliquez là où les touches doivent arriver et appuyez sur %1.</translation>
+        <translation>Cliquez à l’endroit où la saisie doit se faire et appuyez sur %1.</translation>
     </message>
     <message>
         <source>Not set</source>
