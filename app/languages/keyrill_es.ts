@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>&amp;Maker&apos;s Website</source>
-        <translation>&amp;Sitio web del fabricante</translation>
+        <translation>&amp;Sitio web del desarrollador</translation>
     </message>
     <message>
         <source>Built with</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Records the keys you press and presses them again.</source>
-        <translation>Graba las teclas que usted pulsa y vuelve a pulsarlas.</translation>
+        <translation>Graba sus pulsaciones de teclado y las reproduce.</translation>
     </message>
     <message>
         <source>Copyright © 2026 the Keyrill authors. Free software under the MIT licence, without any warranty.</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Keyrill requires that programs can see and press keys in this session. </source>
-        <translation>Keyrill necesita que los programas puedan ver y pulsar teclas en esta sesión. </translation>
+        <translation>Keyrill necesita que los programas puedan detectar y simular pulsaciones de teclas en esta sesión. </translation>
     </message>
     <message>
         <source>Please see the &apos;Configuration&apos; section of the documentation for more information.
@@ -327,7 +327,7 @@ Keyrill debe cerrarse. Vuelva a iniciarlo cuando esto sea posible.
     </message>
     <message>
         <source>what you type into a window of Keyrill&apos;s, &quot;Record Here&quot;</source>
-        <translation>lo que escriba en una ventana de Keyrill, «Grabar aquí»</translation>
+        <translation>lo que escriba en la ventana «Grabar aquí» de Keyrill</translation>
     </message>
     <message>
         <source>the compositor&apos;s</source>
@@ -359,7 +359,7 @@ Keyrill debe cerrarse. Vuelva a iniciarlo cuando esto sea posible.
     </message>
     <message>
         <source>The X server lacks the extension %1, which shows keys.</source>
-        <translation>Al servidor X le falta la extensión %1, que muestra las teclas.</translation>
+        <translation>Al servidor X le falta la extensión %1, que comunica las pulsaciones.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1, which says what keys mean.</source>
@@ -367,7 +367,7 @@ Keyrill debe cerrarse. Vuelva a iniciarlo cuando esto sea posible.
     </message>
     <message>
         <source>The X server lacks the extension %1, which presses keys.</source>
-        <translation>Al servidor X le falta la extensión %1, que pulsa teclas.</translation>
+        <translation>Al servidor X le falta la extensión %1, que simula las pulsaciones.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1: a key that is held is recorded once.</source>
@@ -375,7 +375,7 @@ Keyrill debe cerrarse. Vuelva a iniciarlo cuando esto sea posible.
     </message>
     <message>
         <source>The program keyrill-guard, which releases keys after a crash, is not there; nothing is played without it.</source>
-        <translation>Falta el programa keyrill-guard, que suelta las teclas tras un fallo; sin él no se reproduce nada.</translation>
+        <translation>Falta el programa keyrill-guard, que suelta las teclas tras un cierre inesperado; sin él no se reproduce nada.</translation>
     </message>
     <message>
         <source>Install Keyrill again.</source>
@@ -395,7 +395,7 @@ Keyrill debe cerrarse. Vuelva a iniciarlo cuando esto sea posible.
     </message>
     <message>
         <source>Add a tray to the desktop&apos;s panel. GNOME needs the extension &quot;AppIndicator and KStatusNotifierItem Support&quot;.</source>
-        <translation>Añada una bandeja al panel del escritorio. GNOME necesita la extensión «AppIndicator and KStatusNotifierItem Support».</translation>
+        <translation>Añada una bandeja del sistema al panel del escritorio. GNOME necesita la extensión «AppIndicator and KStatusNotifierItem Support».</translation>
     </message>
     <message>
         <source>A Wayland session shows no program what is typed in others, and the service that would is not installed.</source>
@@ -403,7 +403,7 @@ Keyrill debe cerrarse. Vuelva a iniciarlo cuando esto sea posible.
     </message>
     <message>
         <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, &quot;tools/access install&quot;; or record in an X11 session, macros play in both.</source>
-        <translation>Instale el paquete keyrill-wayland-access o, desde el código fuente de Keyrill, «tools/access install»; o grabe en una sesión X11, las macros se reproducen en ambas.</translation>
+        <translation>Instale el paquete keyrill-wayland-access o ejecute «tools/access install» en el código fuente de Keyrill; o grabe en una sesión X11, las macros se reproducen en ambas.</translation>
     </message>
     <message>
         <source>This compositor gives no hot keys to programs.</source>
@@ -443,7 +443,7 @@ Keyrill debe cerrarse. Vuelva a iniciarlo cuando esto sea posible.
     </message>
     <message>
         <source>Switch to a layout that has the others before you play.</source>
-        <translation>Cambie a una distribución que tenga los demás antes de reproducir.</translation>
+        <translation>Cambie a una distribución que tenga los demás antes de reproducir la macro.</translation>
     </message>
     <message>
         <source>This compositor shows the clipboard to windows in front alone.</source>
@@ -517,7 +517,7 @@ Keyrill debe cerrarse. Vuelva a iniciarlo cuando esto sea posible.
     </message>
     <message>
         <source>An action takes no file, and &quot;%1&quot; was given.</source>
-        <translation>Una acción no admite ningún archivo, y se ha indicado «%1».</translation>
+        <translation>Una acción no admite ningún archivo, pero se ha indicado «%1».</translation>
     </message>
     <message>
         <source>Load it first: keyrill FILE.</source>
@@ -553,8 +553,8 @@ well put; standard error tells why.
 NAME is the kind of desktop session; without it the program finds out itself. There are: %2
 </source>
         <extracomment>Options, and what stands in capital letters, stay as they are where the program takes them as they are.</extracomment>
-        <translation>Uso: keyrill [--session=NOMBRE] [--] [ARCHIVO...]   iniciar, o cargar macros en el que está en ejecución
-     keyrill [--session=NOMBRE] --action=ACCIÓN   pedir una acción al que está en ejecución; lo inicia si hace falta
+        <translation>Uso: keyrill [--session=NOMBRE] [--] [ARCHIVO...]   iniciar Keyrill o, si ya está en ejecución, cargarle macros
+     keyrill [--session=NOMBRE] --action=ACCIÓN   pedir una acción a Keyrill; lo inicia si hace falta
      keyrill [--session=NOMBRE] --play [MACRO|ARCHIVO] [--times=N|until-stopped] [--speed=X]
                                           pedirle que reproduzca una macro de la carpeta de macros, o un archivo
      keyrill [--session=NOMBRE] --show [MACRO]   pedirle que muestre la ventana de macros
@@ -583,11 +583,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>No tray was found, so here is the menu.</source>
-        <translation>No se ha encontrado ninguna bandeja, así que aquí está el menú.</translation>
+        <translation>No se ha encontrado ninguna bandeja del sistema, así que aquí está el menú.</translation>
     </message>
     <message>
         <source>Keyrill is running; its menu is in the tray too.</source>
-        <translation>Keyrill está en ejecución; su menú también está en la bandeja.</translation>
+        <translation>Keyrill está en ejecución; su menú también está en la bandeja del sistema.</translation>
     </message>
 </context>
 <context>
@@ -634,7 +634,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>&quot;%1&quot; cannot be brought back: %2.</source>
-        <translation>No se puede recuperar «%1»: %2.</translation>
+        <translation>No se puede restaurar «%1»: %2.</translation>
     </message>
 </context>
 <context>
@@ -657,7 +657,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>&quot;%1&quot; is loaded</source>
-        <translation>«%1» está cargado</translation>
+        <translation>Se ha cargado «%1»</translation>
     </message>
     <message>
         <source>Choose a shortcut for Play in the preferences to play it.</source>
@@ -741,7 +741,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Convert to Text</source>
-        <translation>A texto</translation>
+        <translation>Como texto</translation>
     </message>
     <message>
         <source>Type the same under every keyboard layout</source>
@@ -749,7 +749,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Convert to Keys</source>
-        <translation>A teclas</translation>
+        <translation>Como teclas</translation>
     </message>
     <message>
         <source>Press the keys of the present keyboard layout</source>
@@ -851,7 +851,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Unt&amp;il stopped</source>
-        <translation>&amp;Hasta detener</translation>
+        <translation>&amp;Hasta detenerla</translation>
     </message>
     <message>
         <source>&amp;Times:</source>
@@ -938,11 +938,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <name>MacrosDesk</name>
     <message>
         <source>Play has the latest macro until there is another.</source>
-        <translation>«Reproducir» tiene la última macro hasta que haya otra.</translation>
+        <translation>«Reproducir» usará la última macro hasta que haya otra.</translation>
     </message>
     <message>
         <source>What is not saved would not outlive a crash. %1</source>
-        <translation>Lo que no está guardado no sobreviviría a un fallo. %1</translation>
+        <translation>Lo que no está guardado no sobreviviría a un cierre inesperado. %1</translation>
     </message>
     <message>
         <source>The macro is still being read: its folder does not answer.</source>
@@ -950,7 +950,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>The file of this macro is gone. If you save, it is there again.</source>
-        <translation>El archivo de esta macro ha desaparecido. Si guarda, volverá a existir.</translation>
+        <translation>El archivo de esta macro ha desaparecido. Si guarda, se creará de nuevo.</translation>
     </message>
     <message>
         <source>Another program has deleted or moved the macro.</source>
@@ -970,11 +970,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>The recording is forgotten.</source>
-        <translation>Se ha olvidado la grabación.</translation>
+        <translation>La grabación se ha eliminado del historial.</translation>
     </message>
     <message>
         <source>All recordings are forgotten.</source>
-        <translation>Se han olvidado todas las grabaciones.</translation>
+        <translation>Todas las grabaciones se han eliminado del historial.</translation>
     </message>
     <message>
         <source>Saved.</source>
@@ -1009,7 +1009,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>It begins with file:///.</source>
-        <translation>Empieza por file:///.</translation>
+        <translation>Su dirección debe empezar por file:///.</translation>
     </message>
 </context>
 <context>
@@ -1044,11 +1044,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>&amp;Forget</source>
-        <translation>&amp;Olvidar</translation>
+        <translation>Eliminar del &amp;historial</translation>
     </message>
     <message>
         <source>Forget &amp;All</source>
-        <translation>Olvidar &amp;todo</translation>
+        <translation>Eliminar &amp;todo</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -1120,7 +1120,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Plays in %1 s...</source>
-        <translation>Se reproduce en %1 s...</translation>
+        <translation>Se reproducirá en %1 s...</translation>
     </message>
 </context>
 <context>
@@ -1131,11 +1131,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>&amp;Times to play:</source>
-        <translation>&amp;Veces que se reproduce:</translation>
+        <translation>&amp;Número de veces:</translation>
     </message>
     <message>
         <source>Times to play</source>
-        <translation>Veces que se reproduce</translation>
+        <translation>Número de veces</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -1161,7 +1161,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Not recorded: keyboard held</source>
-        <translation>No se graba: teclado retenido</translation>
+        <translation>No se graba: teclado capturado</translation>
     </message>
 </context>
 <context>
@@ -1173,7 +1173,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>As typed</source>
-        <translation>Tal como se escriben</translation>
+        <translation>Tal cual</translation>
     </message>
     <message>
         <source>At most</source>
@@ -1225,7 +1225,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>What Play plays cannot be played: its script is wrong in line %1.</source>
-        <translation>Lo que reproduce «Reproducir» no se puede reproducir: su script es incorrecto en la línea %1.</translation>
+        <translation>La macro de «Reproducir» no se puede reproducir: su script es incorrecto en la línea %1.</translation>
     </message>
     <message>
         <source>Play in the menu tells more.</source>
@@ -1244,19 +1244,19 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <name>PlayWords</name>
     <message>
         <source>&quot;%1&quot; is not how many times a macro can be played.</source>
-        <translation>«%1» no indica cuántas veces se puede reproducir una macro.</translation>
+        <translation>«%1» no es un número de veces válido.</translation>
     </message>
     <message>
         <source>It is a whole number from 1 on, or until-stopped.</source>
-        <translation>Es un número entero a partir de 1, o until-stopped.</translation>
+        <translation>Debe ser un número entero a partir de 1, o until-stopped.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not how fast a macro can be played.</source>
-        <translation>«%1» no indica a qué velocidad se puede reproducir una macro.</translation>
+        <translation>«%1» no es una velocidad válida.</translation>
     </message>
     <message>
         <source>It is a number from 0.25 to 4, with a point: 1.5.</source>
-        <translation>Es un número de 0.25 a 4, con punto: 1.5.</translation>
+        <translation>Debe ser un número de 0.25 a 4, con punto decimal: 1.5.</translation>
     </message>
     <message>
         <source>The name of the macro is empty.</source>
@@ -1333,7 +1333,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Keys typed here are recorded</source>
-        <translation>Las teclas escritas aquí se graban</translation>
+        <translation>Las teclas que pulse aquí se grabarán</translation>
     </message>
     <message>
         <source>Stop Recording</source>
@@ -1341,7 +1341,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>What you type in this window is recorded</source>
-        <translation>Lo que escriba en esta ventana se graba</translation>
+        <translation>Lo que escriba en esta ventana se grabará</translation>
     </message>
     <message>
         <source>What you type in other programs is not. The macro can be played in all of them.</source>
@@ -1361,11 +1361,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Use the combination of the desktop&apos;s settings when you are done, or close the window.</source>
-        <translation>Use la combinación de los ajustes del escritorio cuando termine, o cierre la ventana.</translation>
+        <translation>Use la combinación definida en los ajustes del escritorio cuando termine, o cierre la ventana.</translation>
     </message>
     <message>
         <source>Use the combination of the desktop&apos;s settings when you are done, or close the window: %1</source>
-        <translation>Use la combinación de los ajustes del escritorio cuando termine, o cierre la ventana: %1</translation>
+        <translation>Use la combinación definida en los ajustes del escritorio cuando termine, o cierre la ventana: %1</translation>
     </message>
 </context>
 <context>
@@ -1379,7 +1379,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <name>RunningProgram</name>
     <message>
         <source>There is no session bus, over which the running Keyrill could be asked.</source>
-        <translation>No hay ningún bus de sesión por el que preguntar al Keyrill en ejecución.</translation>
+        <translation>No hay ningún bus de sesión por el que comunicarse con Keyrill.</translation>
     </message>
     <message>
         <source>Call it from within the desktop session; the hot keys and the menu need none.</source>
@@ -1391,14 +1391,14 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Start it as &quot;keyrill&quot; in a terminal to see why.</source>
-        <translation>Inícielo con «keyrill» en un terminal para ver por qué.</translation>
+        <translation>Ejecute «keyrill» en un terminal para ver por qué.</translation>
     </message>
 </context>
 <context>
     <name>SRRecorderControl</name>
     <message>
         <source>Clear %1</source>
-        <translation>Borrar %1</translation>
+        <translation>Borrar «%1»</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1464,7 +1464,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>&quot;%1&quot; is loaded but cannot be played</source>
-        <translation>«%1» está cargado, pero no se puede reproducir</translation>
+        <translation>Se ha cargado «%1», pero no se puede reproducir</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -1533,7 +1533,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Tray</source>
-        <translation>Bandeja</translation>
+        <translation>Bandeja del sistema</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -1554,7 +1554,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>%1, which the running Keyrill has</source>
-        <translation>%1, que usa el Keyrill en ejecución</translation>
+        <translation>%1, que Keyrill ya usa</translation>
     </message>
     <message>
         <source>%1; the session does not tell who has it</source>
@@ -1643,7 +1643,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;, which gives way.</source>
-        <translation>Ya lo usa la macro «%1», que cede el paso.</translation>
+        <translation>Ya lo usa la macro «%1», que se lo cede.</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;.</source>
@@ -1697,7 +1697,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Save Pause</source>
-        <translation>Registrar pausa</translation>
+        <translation>Grabar pausa</translation>
     </message>
     <message>
         <source>Play</source>
@@ -1745,7 +1745,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Maker&apos;s Website</source>
-        <translation>Sitio web del fabricante</translation>
+        <translation>Sitio web del desarrollador</translation>
     </message>
     <message>
         <source>Get Support</source>
@@ -1851,11 +1851,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>A pause is a number of seconds from 0 to a day.</source>
-        <translation>Una pausa es un número de segundos, de 0 a un día.</translation>
+        <translation>Una pausa se indica en segundos, de 0 a un día.</translation>
     </message>
     <message>
         <source>A key is pressed from 1 to 10,000 times.</source>
-        <translation>Una tecla se pulsa de 1 a 10.000 veces.</translation>
+        <translation>Una tecla se puede pulsar de 1 a 10.000 veces.</translation>
     </message>
     <message>
         <source>This step cannot be changed here.</source>
@@ -1896,7 +1896,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Welcome to Keyrill</source>
-        <translation>Bienvenido a Keyrill</translation>
+        <translation>Le damos la bienvenida a Keyrill</translation>
     </message>
     <message>
         <source>&amp;Continue</source>
@@ -1912,11 +1912,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>You can change them in the preferences, which come next.</source>
-        <translation>Puede cambiarlas en las preferencias, que vienen a continuación.</translation>
+        <translation>Puede cambiarlas en las preferencias, que se abren a continuación.</translation>
     </message>
     <message>
         <source>Keyrill records the keys you press and presses them again for you, in any program, as often as you like.</source>
-        <translation>Keyrill graba las teclas que usted pulsa y vuelve a pulsarlas por usted, en cualquier programa y tantas veces como quiera.</translation>
+        <translation>Keyrill graba sus pulsaciones de teclado y las reproduce por usted, en cualquier programa y tantas veces como quiera.</translation>
     </message>
     <message>
         <source>Choose Start Recording in Keyrill&apos;s menu. Then type.</source>
@@ -1936,11 +1936,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Click where the keys should go and choose Play.</source>
-        <translation>Haga clic donde deban ir las teclas y elija «Reproducir».</translation>
+        <translation>Haga clic donde se deba escribir y elija «Reproducir».</translation>
     </message>
     <message>
         <source>Click where the keys should go and press %1.</source>
-        <translation>Haga clic donde deban ir las teclas y pulse %1.</translation>
+        <translation>Haga clic donde se deba escribir y pulse %1.</translation>
     </message>
     <message>
         <source>Not set</source>
