@@ -226,7 +226,7 @@ Keyrill должен завершить работу. Запустите его 
     <name>AppController</name>
     <message>
         <source>In this session Keyrill sees and reaches only the windows of X11 programs. The manual says more under &quot;Configuration&quot;.</source>
-        <translation>В этом сеансе Keyrill видит и использует только окна программ X11. Подробнее об этом в руководстве, раздел «Configuration».</translation>
+        <translation>В этом сеансе Keyrill видит только окна программ X11 и действует только в них. Подробнее — в руководстве, раздел «Configuration».</translation>
     </message>
 </context>
 <context>
@@ -237,7 +237,7 @@ Keyrill должен завершить работу. Запустите его 
     </message>
     <message>
         <source>There is no action &quot;%1&quot;. There are: %2.</source>
-        <translation>Действия «%1» нет. Есть: %2.</translation>
+        <translation>Действия «%1» нет. Доступны: %2.</translation>
     </message>
     <message>
         <source>The action &quot;%1&quot; takes no parameter.</source>
@@ -407,7 +407,7 @@ Keyrill должен завершить работу. Запустите его 
     </message>
     <message>
         <source>This compositor gives no hot keys to programs.</source>
-        <translation>Этот композитор не даёт программам горячих клавиш.</translation>
+        <translation>Этот композитор не даёт программам глобальных комбинаций клавиш.</translation>
     </message>
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
@@ -451,7 +451,7 @@ Keyrill должен завершить работу. Запустите его 
     </message>
     <message>
         <source>Scripts that use the clipboard need another compositor, such as sway, or an X11 session.</source>
-        <translation>Скриптам, использующим буфер обмена, нужен другой композитор, например sway, или сеанс X11.</translation>
+        <translation>Сценариям, использующим буфер обмена, нужен другой композитор, например sway, или сеанс X11.</translation>
     </message>
     <message>
         <source>This compositor tells nothing of other programs&apos; windows.</source>
@@ -459,11 +459,11 @@ Keyrill должен завершить работу. Запустите его 
     </message>
     <message>
         <source>Scripts that bring a window to the front need sway, KDE or an X11 session.</source>
-        <translation>Скриптам, которые выводят окно на передний план, нужен sway, KDE или сеанс X11.</translation>
+        <translation>Сценариям, которые выводят окно на передний план, нужен sway, KDE или сеанс X11.</translation>
     </message>
     <message>
         <source>Full-screen windows may cover it.</source>
-        <translation>Полноэкранные окна могут её закрыть.</translation>
+        <translation>Полноэкранные окна могут его перекрыть.</translation>
     </message>
     <message>
         <source>Use a compositor that has layers, such as sway&apos;s or KDE&apos;s, or an X11 session.</source>
@@ -513,7 +513,7 @@ Keyrill должен завершить работу. Запустите его 
     </message>
     <message>
         <source>Choose one of these: %1.</source>
-        <translation>Выберите одно из этих: %1.</translation>
+        <translation>Выберите одно из следующих: %1.</translation>
     </message>
     <message>
         <source>An action takes no file, and &quot;%1&quot; was given.</source>
@@ -554,7 +554,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
 </source>
         <extracomment>Options, and what stands in capital letters, stay as they are where the program takes them as they are.</extracomment>
         <translation>Использование: keyrill [--session=ИМЯ] [--] [ФАЙЛ...]   запустить или загрузить макросы в работающую программу
-               keyrill [--session=ИМЯ] --action=ДЕЙСТВИЕ   попросить её о действии; при необходимости запустить
+               keyrill [--session=ИМЯ] --action=ДЕЙСТВИЕ   запросить у неё действие; при необходимости запустить её
                keyrill [--session=ИМЯ] --play [МАКРОС|ФАЙЛ] [--times=N|until-stopped] [--speed=X]
                                           попросить её воспроизвести макрос из папки макросов или файл
                keyrill [--session=ИМЯ] --show [МАКРОС]   попросить её показать окно макросов
@@ -567,7 +567,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
 воспроизводится как есть. Сколько раз и как быстро (от 0.25 до 4), определяет макрос, если это не указано.
 --show выбирает МАКРОС в окне. Для --play, --show и --list код возврата 0, если сделано, 1, если нет, и 2, если
 вызов неверен; причина — в стандартном потоке ошибок.
-ИМЯ — вид графического сеанса; без него программа определяет его сама. Есть: %2
+ИМЯ — вид графического сеанса; без него программа определяет его сама. Доступны: %2
 </translation>
     </message>
 </context>
@@ -610,7 +610,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>A name cannot begin with a point: the file would be hidden.</source>
-        <translation>Имя не может начинаться с точки: файл был бы скрытым.</translation>
+        <translation>Имя не может начинаться с точки: файл стал бы скрытым.</translation>
     </message>
     <message>
         <source>The name is too long for a file.</source>
@@ -672,7 +672,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <name>KeysView</name>
     <message>
         <source>This is a script of its own: line %1 cannot be changed here. What it would press is shown; change it under Script.</source>
-        <translation>Это самостоятельный скрипт: строку %1 здесь изменить нельзя. Показано, что он нажал бы; изменить его можно на вкладке «Скрипт».</translation>
+        <translation>Это самостоятельный сценарий: строку %1 здесь изменить нельзя. Показано, что он нажал бы; изменить его можно на вкладке «Сценарий».</translation>
     </message>
     <message>
         <source>Keys of the macro</source>
@@ -753,7 +753,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Press the keys of the present keyboard layout</source>
-        <translation>Нажимать клавиши нынешней раскладки клавиатуры</translation>
+        <translation>Нажимать клавиши текущей раскладки клавиатуры</translation>
     </message>
 </context>
 <context>
@@ -764,7 +764,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Hot keys of macros</source>
-        <translation>Горячие клавиши макросов</translation>
+        <translation>Комбинации клавиш макросов</translation>
     </message>
     <message>
         <source>The history</source>
@@ -790,7 +790,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>S&amp;cript</source>
-        <translation>Скр&amp;ипт</translation>
+        <translation>Сц&amp;енарий</translation>
     </message>
 </context>
 <context>
@@ -839,11 +839,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <name>MacroSettingsRow</name>
     <message>
         <source>Hot key</source>
-        <translation>Горячая клавиша</translation>
+        <translation>Комбинация клавиш</translation>
     </message>
     <message>
         <source>&amp;Hot key:</source>
-        <translation>&amp;Горячая клавиша:</translation>
+        <translation>Ко&amp;мбинация:</translation>
     </message>
     <message>
         <source>Times</source>
@@ -940,11 +940,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <name>MacrosDesk</name>
     <message>
         <source>Play has the latest macro until there is another.</source>
-        <translation>Команда «Воспроизвести» использует последний макрос, пока нет другого.</translation>
+        <translation>Команда «Воспроизвести» использует последний макрос, пока не появится другой.</translation>
     </message>
     <message>
         <source>What is not saved would not outlive a crash. %1</source>
-        <translation>Несохранённое не переживёт сбоя. %1</translation>
+        <translation>Несохранённое будет потеряно при сбое. %1</translation>
     </message>
     <message>
         <source>The macro is still being read: its folder does not answer.</source>
@@ -988,7 +988,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>The macro is in the trash.</source>
-        <translation>Макрос в корзине.</translation>
+        <translation>Макрос перемещён в корзину.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1003,7 +1003,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>There are: %1.</source>
-        <translation>Есть: %1.</translation>
+        <translation>Доступны: %1.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no file of this machine.</source>
@@ -1227,15 +1227,15 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>What Play plays cannot be played: its script is wrong in line %1.</source>
-        <translation>То, что воспроизводит «Воспроизвести», воспроизвести нельзя: ошибка скрипта в строке %1.</translation>
+        <translation>Команда «Воспроизвести» не может быть выполнена: ошибка сценария в строке %1.</translation>
     </message>
     <message>
         <source>Play in the menu tells more.</source>
-        <translation>Подробнее: «Воспроизвести» в меню.</translation>
+        <translation>Подробности покажет команда «Воспроизвести» в меню.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be played: its script is wrong in line %2.</source>
-        <translation>Невозможно воспроизвести «%1»: ошибка скрипта в строке %2.</translation>
+        <translation>Невозможно воспроизвести «%1»: ошибка сценария в строке %2.</translation>
     </message>
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
@@ -1250,7 +1250,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>It is a whole number from 1 on, or until-stopped.</source>
-        <translation>Это целое число от 1 или until-stopped.</translation>
+        <translation>Это целое число не меньше 1 или until-stopped.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not how fast a macro can be played.</source>
@@ -1293,7 +1293,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Options</source>
-        <translation>Параметры</translation>
+        <translation>Прочие параметры</translation>
     </message>
 </context>
 <context>
@@ -1385,7 +1385,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Call it from within the desktop session; the hot keys and the menu need none.</source>
-        <translation>Вызовите его из графического сеанса; горячим клавишам и меню она не нужна.</translation>
+        <translation>Вызовите его из графического сеанса; комбинациям клавиш и меню сеансовая шина не нужна.</translation>
     </message>
     <message>
         <source>Keyrill could not be started, or runs already where this session bus does not reach.</source>
@@ -1436,7 +1436,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Note</source>
-        <translation>Примечание</translation>
+        <translation>Информация</translation>
     </message>
     <message>
         <source>Keyrill Macro</source>
@@ -1447,11 +1447,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <name>ScriptEditor</name>
     <message>
         <source>Script</source>
-        <translation>Скрипт</translation>
+        <translation>Сценарий</translation>
     </message>
     <message>
         <source>Words of the script language</source>
-        <translation>Слова языка скриптов</translation>
+        <translation>Слова языка сценариев</translation>
     </message>
 </context>
 <context>
@@ -1511,7 +1511,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Hot keys</source>
-        <translation>Горячие клавиши</translation>
+        <translation>Глобальные комбинации клавиш</translation>
     </message>
     <message>
         <source>Pressing keys</source>
@@ -1527,7 +1527,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Overlay</source>
-        <translation>Подсказка поверх окон</translation>
+        <translation>Экранный индикатор</translation>
     </message>
     <message>
         <source>Windows of other programs</source>
@@ -1544,7 +1544,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Hot key of &quot;%1&quot;</source>
-        <translation>Горячая клавиша «%1»</translation>
+        <translation>Комбинация клавиш для «%1»</translation>
     </message>
     <message>
         <source>none is chosen</source>
@@ -1593,7 +1593,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>no lock is on</source>
-        <translation>ни одна фиксация не включена</translation>
+        <translation>режимы Lock выключены</translation>
     </message>
     <message>
         <source>on: %1, which macros do not mind</source>
@@ -1645,7 +1645,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;, which gives way.</source>
-        <translation>Уже занято макросом «%1», который уступает.</translation>
+        <translation>Уже занято макросом «%1», он уступит эту комбинацию.</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;.</source>
@@ -1849,7 +1849,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>The script goes on; only its beginning is shown.</source>
-        <translation>Скрипт продолжается; показано только его начало.</translation>
+        <translation>Сценарий продолжается; показано только его начало.</translation>
     </message>
     <message>
         <source>A pause is a number of seconds from 0 to a day.</source>
@@ -1880,7 +1880,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Keep the &amp;history for the next start</source>
-        <translation>Сохранять &amp;журнал до следующего запуска</translation>
+        <translation>Сохранять &amp;журнал между запусками</translation>
     </message>
 </context>
 <context>
@@ -1938,11 +1938,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Click where the keys should go and choose Play.</source>
-        <translation>Щёлкните там, куда должны попасть клавиши, и выберите «Воспроизвести».</translation>
+        <translation>Щёлкните там, где должны нажиматься клавиши, и выберите «Воспроизвести».</translation>
     </message>
     <message>
         <source>Click where the keys should go and press %1.</source>
-        <translation>Щёлкните там, куда должны попасть клавиши, и нажмите %1.</translation>
+        <translation>Щёлкните там, где должны нажиматься клавиши, и нажмите %1.</translation>
     </message>
     <message>
         <source>Not set</source>
