@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Copyright © 2026 the Keyrill authors. Free software under the MIT licence, without any warranty.</source>
-        <translation>Copyright © 2026 Keyrill の作者。MIT ライセンスによる自由ソフトウェアで、いかなる保証もありません。</translation>
+        <translation>Copyright © 2026 Keyrill の作者。MIT ライセンスによるフリーソフトウェアで、いかなる保証もありません。</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -52,7 +52,7 @@
     <name>AccessDesk</name>
     <message>
         <source>To record what you type in other programs, Keyrill has to read the keyboard until the recording ends. That is why you are asked for your password.</source>
-        <translation>他のプログラムでの入力を記録するには、記録が終わるまで Keyrill がキーボードを読み取る必要があります。そのためパスワードをお尋ねしています。</translation>
+        <translation>他のプログラムでの入力を記録するには、記録が終わるまで Keyrill がキーボードを読み取る必要があります。そのため、パスワードの入力をお願いしています。</translation>
     </message>
 </context>
 <context>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Keyrill requires that programs can see and press keys in this session. </source>
-        <translation>Keyrill を使うには、このセッションでプログラムがキーを見て押せることが必要です。 </translation>
+        <translation>Keyrill を使うには、このセッションでプログラムがキー入力を読み取り、キーを押せることが必要です。 </translation>
     </message>
     <message>
         <source>Please see the &apos;Configuration&apos; section of the documentation for more information.
@@ -226,7 +226,7 @@ Keyrill を終了します。使えるようになったら再び起動してく
     <name>AppController</name>
     <message>
         <source>In this session Keyrill sees and reaches only the windows of X11 programs. The manual says more under &quot;Configuration&quot;.</source>
-        <translation>このセッションでは、Keyrill は X11 プログラムのウィンドウだけを見て操作できます。詳しくはマニュアルの「Configuration」をご覧ください。</translation>
+        <translation>このセッションで Keyrill から見えて操作できるのは、X11 プログラムのウィンドウだけです。詳しくはマニュアルの「Configuration」をご覧ください。</translation>
     </message>
 </context>
 <context>
@@ -327,7 +327,7 @@ Keyrill を終了します。使えるようになったら再び起動してく
     </message>
     <message>
         <source>what you type into a window of Keyrill&apos;s, &quot;Record Here&quot;</source>
-        <translation>Keyrill のウィンドウ「ここで記録」に入力したもの</translation>
+        <translation>Keyrill のウィンドウ「ここで記録」に入力した内容</translation>
     </message>
     <message>
         <source>the compositor&apos;s</source>
@@ -343,7 +343,7 @@ Keyrill を終了します。使えるようになったら再び起動してく
     </message>
     <message>
         <source>from the keyboards themselves, which every program of yours may read</source>
-        <translation>キーボードそのものから (あなたのすべてのプログラムが読み取れます)</translation>
+        <translation>キーボードそのものから (あなたが使うどのプログラムからも読み取れます)</translation>
     </message>
     <message>
         <source>by keyrill-access, which asks for your password and opens the keyboard while Keyrill records</source>
@@ -407,7 +407,7 @@ Keyrill を終了します。使えるようになったら再び起動してく
     </message>
     <message>
         <source>This compositor gives no hot keys to programs.</source>
-        <translation>このコンポジターはプログラムにホットキーを提供しません。</translation>
+        <translation>このコンポジターはプログラムにグローバルショートカットを提供しません。</translation>
     </message>
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
@@ -447,7 +447,7 @@ Keyrill を終了します。使えるようになったら再び起動してく
     </message>
     <message>
         <source>This compositor shows the clipboard to windows in front alone.</source>
-        <translation>このコンポジターは、クリップボードを前面のウィンドウだけに見せます。</translation>
+        <translation>このコンポジターは、前面のウィンドウにしかクリップボードを見せません。</translation>
     </message>
     <message>
         <source>Scripts that use the clipboard need another compositor, such as sway, or an X11 session.</source>
@@ -463,7 +463,7 @@ Keyrill を終了します。使えるようになったら再び起動してく
     </message>
     <message>
         <source>Full-screen windows may cover it.</source>
-        <translation>全画面のウィンドウに隠れることがあります。</translation>
+        <translation>フルスクリーンのウィンドウに隠れることがあります。</translation>
     </message>
     <message>
         <source>Use a compositor that has layers, such as sway&apos;s or KDE&apos;s, or an X11 session.</source>
@@ -610,7 +610,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>A name cannot begin with a point: the file would be hidden.</source>
-        <translation>名前をピリオドで始めることはできません: ファイルが隠れてしまいます。</translation>
+        <translation>名前をピリオドで始めることはできません: 隠しファイルになります。</translation>
     </message>
     <message>
         <source>The name is too long for a file.</source>
@@ -713,7 +713,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>The selected steps once more</source>
-        <translation>選択したステップをもう一度加えます</translation>
+        <translation>選択したステップをもう一度追加します</translation>
     </message>
     <message>
         <source>Up</source>
@@ -737,7 +737,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Remove the selected steps</source>
-        <translation>選択したステップを取り除きます</translation>
+        <translation>選択したステップを削除します</translation>
     </message>
     <message>
         <source>Convert to Text</source>
@@ -764,7 +764,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Hot keys of macros</source>
-        <translation>マクロのホットキー</translation>
+        <translation>マクロのショートカット</translation>
     </message>
     <message>
         <source>The history</source>
@@ -779,7 +779,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Perhaps its macro folder cannot be reached.</source>
-        <translation>マクロフォルダーに接続できないのかもしれません。</translation>
+        <translation>マクロフォルダーにアクセスできないのかもしれません。</translation>
     </message>
 </context>
 <context>
@@ -839,11 +839,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <name>MacroSettingsRow</name>
     <message>
         <source>Hot key</source>
-        <translation>ホットキー</translation>
+        <translation>ショートカット</translation>
     </message>
     <message>
         <source>&amp;Hot key:</source>
-        <translation>ホットキー(&amp;H):</translation>
+        <translation>ショートカット(&amp;H):</translation>
     </message>
     <message>
         <source>Times</source>
@@ -1129,11 +1129,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>&amp;Times to play:</source>
-        <translation>再生する回数(&amp;T):</translation>
+        <translation>再生回数(&amp;T):</translation>
     </message>
     <message>
         <source>Times to play</source>
-        <translation>再生する回数</translation>
+        <translation>再生回数</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -1188,7 +1188,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Longest pause in seconds</source>
-        <translation>最も長い待ち時間 (秒)</translation>
+        <translation>最長の待ち時間 (秒)</translation>
     </message>
     <message>
         <source>Record p&amp;auses:</source>
@@ -1296,7 +1296,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <name>ProgramInstance</name>
     <message>
         <source>The macro folder was out of reach for too long.</source>
-        <translation>マクロフォルダーに長い間接続できませんでした。</translation>
+        <translation>マクロフォルダーに長い間アクセスできませんでした。</translation>
     </message>
     <message>
         <source>Another program has Keyrill&apos;s name on the session bus and does not do its work: %1</source>
@@ -1339,7 +1339,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>What you type in this window is recorded</source>
-        <translation>このウィンドウに入力したものが記録されます</translation>
+        <translation>このウィンドウに入力した内容が記録されます</translation>
     </message>
     <message>
         <source>What you type in other programs is not. The macro can be played in all of them.</source>
@@ -1381,7 +1381,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Call it from within the desktop session; the hot keys and the menu need none.</source>
-        <translation>デスクトップセッションの中から呼び出してください。ホットキーとメニューにはセッションバスは不要です。</translation>
+        <translation>デスクトップセッションの中から呼び出してください。ショートカットとメニューにはセッションバスは不要です。</translation>
     </message>
     <message>
         <source>Keyrill could not be started, or runs already where this session bus does not reach.</source>
@@ -1404,11 +1404,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Click here, then press a combination. Backspace clears, Escape keeps what was set.</source>
-        <translation>ここをクリックしてから組み合わせを押してください。Backspace で消去し、Esc で元のままにします。</translation>
+        <translation>ここをクリックしてから組み合わせを押してください。Backspace でクリアし、Esc で元のままにします。</translation>
     </message>
     <message>
         <source>Add Ctrl, Alt or Super</source>
-        <translation>Ctrl、Alt、Super のどれかを加える</translation>
+        <translation>Ctrl、Alt、Super のどれかを追加</translation>
     </message>
     <message>
         <source>Press a combination…</source>
@@ -1432,7 +1432,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Note</source>
-        <translation>メモ</translation>
+        <translation>情報</translation>
     </message>
     <message>
         <source>Keyrill Macro</source>
@@ -1447,7 +1447,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Words of the script language</source>
-        <translation>スクリプト言語の語</translation>
+        <translation>スクリプト言語の単語</translation>
     </message>
 </context>
 <context>
@@ -1499,7 +1499,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>missing: %1; there: %2</source>
-        <translation>なし: %1、あり: %2</translation>
+        <translation>なし: %1 / あり: %2</translation>
     </message>
     <message>
         <source>Recording</source>
@@ -1507,11 +1507,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Hot keys</source>
-        <translation>ホットキー</translation>
+        <translation>グローバルショートカット</translation>
     </message>
     <message>
         <source>Pressing keys</source>
-        <translation>キーを押す</translation>
+        <translation>キーの押下</translation>
     </message>
     <message>
         <source>Typing text</source>
@@ -1540,7 +1540,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Hot key of &quot;%1&quot;</source>
-        <translation>「%1」のホットキー</translation>
+        <translation>「%1」のショートカット</translation>
     </message>
     <message>
         <source>none is chosen</source>
@@ -1556,7 +1556,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>%1; the session does not tell who has it</source>
-        <translation>%1 (使用者をセッションから知ることはできません)</translation>
+        <translation>%1 (何が使っているかは、このセッションではわかりません)</translation>
     </message>
     <message>
         <source>Session bus</source>
@@ -1589,7 +1589,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>no lock is on</source>
-        <translation>ロックはすべてオフ</translation>
+        <translation>ロックキーはすべてオフ</translation>
     </message>
     <message>
         <source>on: %1, which macros do not mind</source>
@@ -1610,14 +1610,14 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>%1; %2</source>
         <extracomment>the keyboard layouts, and the locks that are on</extracomment>
-        <translation>%1、%2</translation>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 <context>
     <name>ShortcutNotices</name>
     <message>
         <source>Still used by %1 until Keyrill restarts.</source>
-        <translation>Keyrill を再起動するまで「%1」が使います。</translation>
+        <translation>Keyrill を再起動するまで「%1」が使い続けます。</translation>
     </message>
     <message>
         <source>Already used by %1.</source>
@@ -1641,7 +1641,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;, which gives way.</source>
-        <translation>すでにマクロ「%1」が使っています。マクロのほうが譲ります。</translation>
+        <translation>すでにマクロ「%1」が使っていますが、こちらが優先されます。</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;.</source>
@@ -1809,7 +1809,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Copy all lines, for a mail or a forum</source>
-        <translation>メールやフォーラムのためにすべての行をコピーします</translation>
+        <translation>メールやフォーラムに貼り付けられるよう、すべての行をコピーします</translation>
     </message>
     <message>
         <source>Check &amp;Again</source>
@@ -1876,7 +1876,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Keep the &amp;history for the next start</source>
-        <translation>履歴を次回の起動まで残す(&amp;H)</translation>
+        <translation>Keyrill を終了しても履歴を残す(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -1914,7 +1914,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Keyrill records the keys you press and presses them again for you, in any program, as often as you like.</source>
-        <translation>Keyrill は押したキーを記録し、どのプログラムでも、何度でも、代わりにもう一度押します。</translation>
+        <translation>Keyrill は、押したキーを記録し、どのプログラムでも、何度でも、代わりに押します。</translation>
     </message>
     <message>
         <source>Choose Start Recording in Keyrill&apos;s menu. Then type.</source>
