@@ -5,7 +5,7 @@
     <name>AboutPanel</name>
     <message>
         <source>LGPL 2.1 or later</source>
-        <translation>LGPL 2.1 أو أحدث</translation>
+        <translation>رخصة LGPL 2.1 أو أحدث</translation>
     </message>
     <message>
         <source>curl licence</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>&amp;Maker&apos;s Website</source>
-        <translation>موقع الصانع (&amp;M)</translation>
+        <translation>موقع المطوّر (&amp;M)</translation>
     </message>
     <message>
         <source>Built with</source>
@@ -59,7 +59,7 @@
     <name>ActionCall</name>
     <message>
         <source>Keyrill is not running.</source>
-        <translation>Keyrill لا يعمل.</translation>
+        <translation>لا يعمل Keyrill.</translation>
     </message>
 </context>
 <context>
@@ -86,11 +86,11 @@
     </message>
     <message>
         <source>Nothing is being recorded or played.</source>
-        <translation>لا شيء يُسجَّل أو يُشغَّل.</translation>
+        <translation>لا يُسجَّل شيء ولا يُشغَّل.</translation>
     </message>
     <message>
         <source>Nothing is being recorded.</source>
-        <translation>لا شيء يُسجَّل.</translation>
+        <translation>لا يُسجَّل شيء.</translation>
     </message>
 </context>
 <context>
@@ -127,7 +127,7 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>Quit</source>
-        <translation>خروج</translation>
+        <translation>إنهاء</translation>
     </message>
     <message>
         <source>Recording is not possible in this session yet</source>
@@ -171,15 +171,15 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>The macro was not saved as &quot;%1&quot;.</source>
-        <translation>لم يُحفظ الماكرو باسم «%1».</translation>
+        <translation>لم يُحفظ الماكرو باسم «⁨%1⁩».</translation>
     </message>
     <message>
         <source>No macro was loaded from &quot;%1&quot;.</source>
-        <translation>لم يُحمَّل أي ماكرو من «%1».</translation>
+        <translation>لم يُحمَّل أي ماكرو من «⁨%1⁩».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is there already.</source>
-        <translation>«%1» موجود بالفعل.</translation>
+        <translation>الملف «⁨%1⁩» موجود بالفعل.</translation>
     </message>
     <message>
         <source>Do you want to replace it? What is in it will be lost.</source>
@@ -195,19 +195,19 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>&quot;%1&quot; is not a macro file.</source>
-        <translation>«%1» ليس ملف ماكرو.</translation>
+        <translation>الملف «⁨%1⁩» ليس ملف ماكرو.</translation>
     </message>
     <message>
         <source>The names of Keyrill&apos;s macro files end with &quot;.%1&quot;.</source>
-        <translation>تنتهي أسماء ملفات الماكرو في Keyrill بـ «.%1».</translation>
+        <translation>تنتهي أسماء ملفات الماكرو في Keyrill بـ «⁨.%1⁩».</translation>
     </message>
     <message>
         <source>There is no file &quot;%1&quot;.</source>
-        <translation>لا يوجد ملف باسم «%1».</translation>
+        <translation>لا يوجد ملف باسم «⁨%1⁩».</translation>
     </message>
     <message>
         <source>Check the name, or choose one of the list.</source>
-        <translation>تحقق من الاسم، أو اختر واحدا من القائمة.</translation>
+        <translation>تحقق من الاسم، أو اختر ملفا من القائمة.</translation>
     </message>
     <message>
         <source>Your settings were not saved.</source>
@@ -215,18 +215,18 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>Whether Keyrill starts when you log in could not be changed.</source>
-        <translation>تعذر تغيير بدء Keyrill عند تسجيل الدخول.</translation>
+        <translation>تعذر تغيير إعداد بدء Keyrill عند الولوج.</translation>
     </message>
     <message>
         <source>Something is wrong with your settings.</source>
-        <translation>في إعداداتك خطأ.</translation>
+        <translation>يوجد خطأ في إعداداتك.</translation>
     </message>
 </context>
 <context>
     <name>AppController</name>
     <message>
         <source>In this session Keyrill sees and reaches only the windows of X11 programs. The manual says more under &quot;Configuration&quot;.</source>
-        <translation>في هذه الجلسة لا يرى Keyrill ولا يصل إلا إلى نوافذ برامج X11. يشرح الدليل المزيد في «Configuration».</translation>
+        <translation>في هذه الجلسة لا يرى Keyrill إلا نوافذ برامج X11، ولا يصل إلى غيرها. لمزيد من المعلومات راجع «Configuration» في الدليل.</translation>
     </message>
 </context>
 <context>
@@ -291,11 +291,11 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>a tray that icons dock into</source>
-        <translation>صينية تُضمَّن فيها الأيقونات</translation>
+        <translation>صينية نظام تُضمَّن فيها الأيقونات</translation>
     </message>
     <message>
         <source>a tray that asks for icons over the session bus</source>
-        <translation>صينية تطلب الأيقونات عبر ناقل الجلسة</translation>
+        <translation>صينية نظام تطلب الأيقونات عبر ناقل الجلسة</translation>
     </message>
     <message>
         <source>by a virtual keyboard</source>
@@ -315,7 +315,7 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>by the desktop&apos;s portal: you choose them when it asks, and later in its settings</source>
-        <translation>عبر بوابة سطح المكتب: تختارها عندما تسألك، ولاحقا في إعداداتها</translation>
+        <translation>عبر بوابة سطح المكتب: تختار أنت الاختصارات عندما تسألك البوابة، ولاحقا في إعداداتها</translation>
     </message>
     <message>
         <source>by sway</source>
@@ -351,7 +351,7 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>The display cannot be reached.</source>
-        <translation>يتعذر الوصول إلى العرض.</translation>
+        <translation>يتعذر الوصول إلى شاشة العرض.</translation>
     </message>
     <message>
         <source>Start Keyrill inside a desktop session.</source>
@@ -375,7 +375,7 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>The program keyrill-guard, which releases keys after a crash, is not there; nothing is played without it.</source>
-        <translation>البرنامج keyrill-guard الذي يحرّر المفاتيح بعد الانهيار غير موجود؛ لا يُشغَّل شيء من دونه.</translation>
+        <translation>البرنامج keyrill-guard الذي يُفلت المفاتيح بعد الانهيار غير موجود؛ لا يُشغَّل شيء من دونه.</translation>
     </message>
     <message>
         <source>Install Keyrill again.</source>
@@ -387,15 +387,15 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>Choose an X11 session when you log in.</source>
-        <translation>اختر جلسة X11 عند تسجيل الدخول.</translation>
+        <translation>اختر جلسة X11 عند الولوج.</translation>
     </message>
     <message>
         <source>There is none; a small window with the menu stands in for the icon.</source>
-        <translation>لا توجد صينية؛ تحل نافذة صغيرة فيها القائمة محل الأيقونة.</translation>
+        <translation>لا توجد صينية نظام؛ تحل نافذة صغيرة فيها القائمة محل الأيقونة.</translation>
     </message>
     <message>
         <source>Add a tray to the desktop&apos;s panel. GNOME needs the extension &quot;AppIndicator and KStatusNotifierItem Support&quot;.</source>
-        <translation>أضف صينية إلى لوحة سطح المكتب. يحتاج GNOME إلى الامتداد «AppIndicator and KStatusNotifierItem Support».</translation>
+        <translation>أضف صينية النظام إلى لوحة سطح المكتب. يحتاج GNOME إلى الامتداد «AppIndicator and KStatusNotifierItem Support».</translation>
     </message>
     <message>
         <source>A Wayland session shows no program what is typed in others, and the service that would is not installed.</source>
@@ -407,7 +407,7 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>This compositor gives no hot keys to programs.</source>
-        <translation>لا يتيح هذا المُركِّب مفاتيح ساخنة للبرامج.</translation>
+        <translation>لا يتيح هذا المُركِّب اختصارات عامة للبرامج.</translation>
     </message>
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
@@ -525,7 +525,7 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>&quot;%1&quot; is too much.</source>
-        <translation>«%1» زائد.</translation>
+        <translation>الوسيط «%1» زائد.</translation>
     </message>
     <message>
         <source>--list takes no name.</source>
@@ -533,7 +533,7 @@ Keyrill must close, please restart it once this is possible.
     </message>
     <message>
         <source>A name with blanks is put in quotation marks: &quot;%1&quot;.</source>
-        <translation>يوضع الاسم الذي فيه فراغات بين علامتي اقتباس: &quot;%1&quot;.</translation>
+        <translation>يوضع الاسم الذي فيه مسافات بين علامتي اقتباس: &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs
@@ -582,11 +582,11 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>No tray was found, so here is the menu.</source>
-        <translation>لم يُعثر على صينية، فهذه هي القائمة.</translation>
+        <translation>لم يُعثر على صينية النظام، فهذه هي القائمة.</translation>
     </message>
     <message>
         <source>Keyrill is running; its menu is in the tray too.</source>
-        <translation>Keyrill يعمل؛ قائمته في الصينية أيضا.</translation>
+        <translation>يعمل Keyrill، وقائمته في صينية النظام أيضا.</translation>
     </message>
 </context>
 <context>
@@ -594,7 +594,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>The folder %1 cannot be written to: %2.</source>
         <extracomment>a folder, and why</extracomment>
-        <translation>تتعذر الكتابة في المجلد %1: %2.</translation>
+        <translation>تتعذر الكتابة في المجلد ⁨%1⁩: ⁨%2⁩.</translation>
     </message>
 </context>
 <context>
@@ -617,30 +617,30 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>There is already a macro called &quot;%1&quot;.</source>
-        <translation>يوجد ماكرو باسم «%1» بالفعل.</translation>
+        <translation>يوجد ماكرو باسم «⁨%1⁩» بالفعل.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be renamed: %2.</source>
-        <translation>تتعذر إعادة تسمية «%1»: %2.</translation>
+        <translation>تتعذر إعادة تسمية «⁨%1⁩»: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be copied: %2.</source>
-        <translation>يتعذر نسخ «%1»: %2.</translation>
+        <translation>يتعذر نسخ «⁨%1⁩»: ⁨%2⁩.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be put into the trash.</source>
-        <translation>يتعذر نقل «%1» إلى المهملات.</translation>
+        <translation>يتعذر نقل «⁨%1⁩» إلى المهملات.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be brought back: %2.</source>
-        <translation>تتعذر استعادة «%1»: %2.</translation>
+        <translation>تتعذر استعادة «⁨%1⁩»: ⁨%2⁩.</translation>
     </message>
 </context>
 <context>
     <name>FilesDesk</name>
     <message>
         <source>&quot;%1&quot; was not loaded</source>
-        <translation>لم يُحمَّل «%1»</translation>
+        <translation>لم يُحمَّل «⁨%1⁩»</translation>
     </message>
     <message>
         <source>A macro is being recorded. Stop recording first.</source>
@@ -656,7 +656,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>&quot;%1&quot; is loaded</source>
-        <translation>حُمِّل «%1»</translation>
+        <translation>حُمِّل «⁨%1⁩»</translation>
     </message>
     <message>
         <source>Choose a shortcut for Play in the preferences to play it.</source>
@@ -664,7 +664,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Press %1 to play it.</source>
-        <translation>اضغط %1 لتشغيله.</translation>
+        <translation>اضغط ⁨%1⁩ لتشغيله.</translation>
     </message>
 </context>
 <context>
@@ -680,7 +680,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>%1 (%2)</source>
         <comment>what a button does, and its keys</comment>
-        <translation>%1 (%2)</translation>
+        <translation>%1 (⁨%2⁩)</translation>
     </message>
     <message>
         <source>Record Keys</source>
@@ -740,7 +740,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Convert to Text</source>
-        <translation>إلى نص</translation>
+        <translation>تحويل إلى نص</translation>
     </message>
     <message>
         <source>Type the same under every keyboard layout</source>
@@ -748,7 +748,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Convert to Keys</source>
-        <translation>إلى مفاتيح</translation>
+        <translation>تحويل إلى مفاتيح</translation>
     </message>
     <message>
         <source>Press the keys of the present keyboard layout</source>
@@ -759,7 +759,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <name>LibraryController</name>
     <message>
         <source>&quot;%1&quot; was not played</source>
-        <translation>لم يُشغَّل «%1»</translation>
+        <translation>لم يُشغَّل «⁨%1⁩»</translation>
     </message>
     <message>
         <source>Hot keys of macros</source>
@@ -774,7 +774,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <name>MacroCalls</name>
     <message>
         <source>Keyrill does not answer.</source>
-        <translation>Keyrill لا يستجيب.</translation>
+        <translation>لا يستجيب Keyrill.</translation>
     </message>
     <message>
         <source>Perhaps its macro folder cannot be reached.</source>
@@ -815,23 +815,23 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <name>MacroList</name>
     <message>
         <source>The folder %1 does not answer.</source>
-        <translation>المجلد %1 لا يستجيب.</translation>
+        <translation>لا يستجيب المجلد ⁨%1⁩.</translation>
     </message>
 </context>
 <context>
     <name>MacroListModel</name>
     <message>
         <source>Group %1</source>
-        <translation>المجموعة %1</translation>
+        <translation>المجموعة ⁨%1⁩</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>a macro and its hot key</comment>
-        <translation>%1 (%2)</translation>
+        <translation>⁨%1⁩ (⁨%2⁩)</translation>
     </message>
     <message>
         <source>%1, not saved</source>
-        <translation>%1، غير محفوظ</translation>
+        <translation>⁨%1⁩، غير محفوظ</translation>
     </message>
 </context>
 <context>
@@ -886,43 +886,43 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Text: %1</source>
-        <translation>نص: %1</translation>
+        <translation>نص: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Hold %1</source>
         <extracomment>a key that goes down and stays there</extracomment>
-        <translation>إبقاء %1 مضغوطا</translation>
+        <translation>إبقاء ⁨%1⁩ مضغوطا</translation>
     </message>
     <message>
         <source>Let go of %1</source>
-        <translation>تحرير %1</translation>
+        <translation>إفلات ⁨%1⁩</translation>
     </message>
     <message>
         <source>Ask: %1</source>
         <extracomment>a dialog of a script, with its question</extracomment>
-        <translation>سؤال: %1</translation>
+        <translation>سؤال: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Tell: %1</source>
-        <translation>إشعار: %1</translation>
+        <translation>إشعار: ⁨%1⁩</translation>
     </message>
     <message>
         <source>Type %1</source>
-        <translation>كتابة %1</translation>
+        <translation>كتابة ⁨%1⁩</translation>
     </message>
     <message>
         <source>Press %1</source>
-        <translation>ضغط %1</translation>
+        <translation>ضغط ⁨%1⁩</translation>
     </message>
     <message numerus="yes">
         <source>Press %1 %Ln times</source>
         <translation>
-            <numerusform>عدم ضغط %1</numerusform>
-            <numerusform>ضغط %1 مرة واحدة</numerusform>
-            <numerusform>ضغط %1 مرتين</numerusform>
-            <numerusform>ضغط %1 %Ln مرات</numerusform>
-            <numerusform>ضغط %1 %Ln مرة</numerusform>
-            <numerusform>ضغط %1 %Ln مرة</numerusform>
+            <numerusform>عدم ضغط ⁨%1⁩</numerusform>
+            <numerusform>ضغط ⁨%1⁩ مرة واحدة</numerusform>
+            <numerusform>ضغط ⁨%1⁩ مرتين</numerusform>
+            <numerusform>ضغط ⁨%1⁩ %Ln مرات</numerusform>
+            <numerusform>ضغط ⁨%1⁩ %Ln مرة</numerusform>
+            <numerusform>ضغط ⁨%1⁩ %Ln مرة</numerusform>
         </translation>
     </message>
     <message>
@@ -945,7 +945,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <name>MacrosDesk</name>
     <message>
         <source>Play has the latest macro until there is another.</source>
-        <translation>يأخذ «تشغيل» أحدث ماكرو إلى أن يوجد غيره.</translation>
+        <translation>يبقى أحدث ماكرو لأمر «تشغيل» إلى أن يوجد غيره.</translation>
     </message>
     <message>
         <source>What is not saved would not outlive a crash. %1</source>
@@ -969,7 +969,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>What was not saved is there again: %1.</source>
-        <translation>عاد ما لم يُحفظ: %1.</translation>
+        <translation>عاد ما لم يُحفظ: ⁨%1⁩.</translation>
     </message>
     <message>
         <source>, </source>
@@ -993,7 +993,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>The macro is in the trash.</source>
-        <translation>الماكرو في المهملات.</translation>
+        <translation>نُقل الماكرو إلى المهملات.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1012,11 +1012,11 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>&quot;%1&quot; is no file of this machine.</source>
-        <translation>«%1» ليس ملفا على هذا الجهاز.</translation>
+        <translation>الملف «%1» ليس على هذا الجهاز.</translation>
     </message>
     <message>
         <source>It begins with file:///.</source>
-        <translation>يبدأ بـ file:///.</translation>
+        <translation>يبدأ العنوان بـ file:///.</translation>
     </message>
 </context>
 <context>
@@ -1232,15 +1232,15 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>What Play plays cannot be played: its script is wrong in line %1.</source>
-        <translation>يتعذر تشغيل ما يشغّله «تشغيل»: في سكربته خطأ في السطر %1.</translation>
+        <translation>يتعذر تشغيل ما يشغّله أمر «تشغيل»: يوجد خطأ في سكربته في السطر %1.</translation>
     </message>
     <message>
         <source>Play in the menu tells more.</source>
-        <translation>يشرح «تشغيل» في القائمة المزيد.</translation>
+        <translation>يشرح أمر «تشغيل» في القائمة المزيد.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be played: its script is wrong in line %2.</source>
-        <translation>يتعذر تشغيل «%1»: في سكربته خطأ في السطر %2.</translation>
+        <translation>يتعذر تشغيل «%1»: يوجد خطأ في سكربته في السطر %2.</translation>
     </message>
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
@@ -1251,7 +1251,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <name>PlayWords</name>
     <message>
         <source>&quot;%1&quot; is not how many times a macro can be played.</source>
-        <translation>«%1» ليس عدد مرات يمكن تشغيل ماكرو بها.</translation>
+        <translation>القيمة «%1» ليست عدد مرات يمكن تشغيل ماكرو بها.</translation>
     </message>
     <message>
         <source>It is a whole number from 1 on, or until-stopped.</source>
@@ -1259,7 +1259,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>&quot;%1&quot; is not how fast a macro can be played.</source>
-        <translation>«%1» ليس سرعة يمكن تشغيل ماكرو بها.</translation>
+        <translation>القيمة «%1» ليست سرعة يمكن تشغيل ماكرو بها.</translation>
     </message>
     <message>
         <source>It is a number from 0.25 to 4, with a point: 1.5.</source>
@@ -1282,7 +1282,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Check &amp;Now</source>
-        <translation>تحقق الآن (&amp;N)</translation>
+        <translation>التحقق الآن (&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -1294,7 +1294,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>These combinations work in every program. Click a field and press the combination you want.</source>
-        <translation>تعمل هذه التوليفات في كل البرامج. انقر حقلا واضغط التوليفة التي تريدها.</translation>
+        <translation>تعمل هذه التوليفات في كل البرامج. انقر على حقل واضغط التوليفة التي تريدها.</translation>
     </message>
     <message>
         <source>Options</source>
@@ -1321,7 +1321,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Keyrill is running already.</source>
-        <translation>Keyrill يعمل بالفعل.</translation>
+        <translation>يعمل Keyrill بالفعل.</translation>
     </message>
 </context>
 <context>
@@ -1364,7 +1364,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Press %1 when you are done, or close the window.</source>
-        <translation>اضغط %1 عندما تنتهي، أو أغلق النافذة.</translation>
+        <translation>اضغط ⁨%1⁩ عندما تنتهي، أو أغلق النافذة.</translation>
     </message>
     <message>
         <source>Use the combination of the desktop&apos;s settings when you are done, or close the window.</source>
@@ -1372,21 +1372,21 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Use the combination of the desktop&apos;s settings when you are done, or close the window: %1</source>
-        <translation>استخدم التوليفة المحددة في إعدادات سطح المكتب عندما تنتهي، أو أغلق النافذة: %1</translation>
+        <translation>استخدم التوليفة المحددة في إعدادات سطح المكتب عندما تنتهي، أو أغلق النافذة: ⁨%1⁩</translation>
     </message>
 </context>
 <context>
     <name>RecorderWindow</name>
     <message>
         <source>Keyrill recording</source>
-        <translation>Keyrill يسجّل</translation>
+        <translation>يسجّل Keyrill</translation>
     </message>
 </context>
 <context>
     <name>RunningProgram</name>
     <message>
         <source>There is no session bus, over which the running Keyrill could be asked.</source>
-        <translation>لا يوجد ناقل جلسة يمكن به سؤال Keyrill العامل.</translation>
+        <translation>لا يوجد ناقل جلسة يمكن عبره سؤال Keyrill العامل.</translation>
     </message>
     <message>
         <source>Call it from within the desktop session; the hot keys and the menu need none.</source>
@@ -1398,7 +1398,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Start it as &quot;keyrill&quot; in a terminal to see why.</source>
-        <translation>ابدأه باسم «keyrill» في طرفية لمعرفة السبب.</translation>
+        <translation>ابدأه بالأمر «keyrill» في طرفية لمعرفة السبب.</translation>
     </message>
 </context>
 <context>
@@ -1471,11 +1471,11 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>&quot;%1&quot; is loaded but cannot be played</source>
-        <translation>حُمِّل «%1» لكن يتعذر تشغيله</translation>
+        <translation>حُمِّل «⁨%1⁩» لكن يتعذر تشغيله</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation>السطر %1: %2</translation>
+        <translation>السطر %1: ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -1492,7 +1492,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>%1: %2</source>
         <extracomment>a line of keyrill --check: what was looked at, and what was found</extracomment>
-        <translation>%1: %2</translation>
+        <translation>%1: ⁨%2⁩</translation>
     </message>
     <message>
         <source>Session</source>
@@ -1500,7 +1500,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>%1, display %2</source>
-        <translation>%1، العرض %2</translation>
+        <translation>⁨%1⁩، شاشة العرض ⁨%2⁩</translation>
     </message>
     <message>
         <source>Parts</source>
@@ -1516,7 +1516,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Hot keys</source>
-        <translation>المفاتيح الساخنة</translation>
+        <translation>الاختصارات العامة</translation>
     </message>
     <message>
         <source>Pressing keys</source>
@@ -1540,7 +1540,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Tray</source>
-        <translation>الصينية</translation>
+        <translation>صينية النظام</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -1557,15 +1557,15 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>%1, which nobody else has</source>
-        <translation>%1، ولا يستخدمه غيره</translation>
+        <translation>⁨%1⁩، ولا يستخدمه برنامج آخر</translation>
     </message>
     <message>
         <source>%1, which the running Keyrill has</source>
-        <translation>%1، ويستخدمه Keyrill العامل</translation>
+        <translation>⁨%1⁩، ويستخدمه Keyrill العامل</translation>
     </message>
     <message>
         <source>%1; the session does not tell who has it</source>
-        <translation>%1؛ لا تخبر الجلسة بمن يستخدمه</translation>
+        <translation>⁨%1⁩؛ لا تخبر الجلسة بمن يستخدمه</translation>
     </message>
     <message>
         <source>Session bus</source>
@@ -1578,7 +1578,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>There is none: &quot;keyrill --action&quot;, notifications and many trays need it, and a locked screen is not noticed at once.</source>
-        <translation>لا يوجد ناقل: يحتاج إليه «keyrill --action» والإشعارات وكثير من الصواني، ولا يُلاحظ قفل الشاشة فورا.</translation>
+        <translation>لا يوجد ناقل: يحتاج إليه «keyrill --action» والإشعارات وكثير من صواني النظام، ولا يُلاحظ قفل الشاشة فورا.</translation>
     </message>
     <message>
         <source>Start Keyrill from within the desktop session.</source>
@@ -1586,7 +1586,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Keyrill</source>
-        <translation>Keyrill</translation>
+        <translation>برنامج Keyrill</translation>
     </message>
     <message>
         <source>is running</source>
@@ -1626,11 +1626,11 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <name>ShortcutNotices</name>
     <message>
         <source>Still used by %1 until Keyrill restarts.</source>
-        <translation>ما زال «%1» يستخدمه إلى أن يُعاد تشغيل Keyrill.</translation>
+        <translation>ما زال أمر «%1» يستخدمه إلى أن يُعاد تشغيل Keyrill.</translation>
     </message>
     <message>
         <source>Already used by %1.</source>
-        <translation>يستخدمه «%1» بالفعل.</translation>
+        <translation>يستخدمه أمر «%1» بالفعل.</translation>
     </message>
     <message>
         <source>The desktop has not answered yet.</source>
@@ -1642,19 +1642,19 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Set in the desktop&apos;s settings: %1</source>
-        <translation>محدد في إعدادات سطح المكتب: %1</translation>
+        <translation>محدد في إعدادات سطح المكتب: ⁨%1⁩</translation>
     </message>
     <message>
         <source>%1 still works until Keyrill restarts.</source>
-        <translation>ما زال %1 يعمل إلى أن يُعاد تشغيل Keyrill.</translation>
+        <translation>ما زال ⁨%1⁩ يعمل إلى أن يُعاد تشغيل Keyrill.</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;, which gives way.</source>
-        <translation>يستخدمه بالفعل الماكرو «%1»، الذي يتنازل عنه.</translation>
+        <translation>يستخدمه بالفعل الماكرو «⁨%1⁩»، وسيتنازل عنه.</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;.</source>
-        <translation>يستخدمه بالفعل الماكرو «%1».</translation>
+        <translation>يستخدمه بالفعل الماكرو «⁨%1⁩».</translation>
     </message>
 </context>
 <context>
@@ -1752,7 +1752,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Maker&apos;s Website</source>
-        <translation>موقع الصانع</translation>
+        <translation>موقع المطوّر</translation>
     </message>
     <message>
         <source>Get Support</source>
@@ -1776,7 +1776,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Quit</source>
-        <translation>خروج</translation>
+        <translation>إنهاء</translation>
     </message>
     <message>
         <source>Keyrill menu</source>
@@ -1791,7 +1791,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <name>StatusNotice</name>
     <message>
         <source>%1 has no shortcut. %2</source>
-        <translation>لا اختصار لأمر «%1». %2</translation>
+        <translation>لا اختصار لأمر «%1». ⁨%2⁩</translation>
     </message>
 </context>
 <context>
@@ -1818,7 +1818,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Copy all lines, for a mail or a forum</source>
-        <translation>نسخ كل الأسطر، لرسالة أو منتدى</translation>
+        <translation>نسخ كل الأسطر لإرسالها في رسالة أو منتدى</translation>
     </message>
     <message>
         <source>Check &amp;Again</source>
@@ -1850,7 +1850,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <name>StepsModel</name>
     <message>
         <source>Line %1: %2</source>
-        <translation>السطر %1: %2</translation>
+        <translation>السطر %1: ⁨%2⁩</translation>
     </message>
     <message>
         <source>The script goes on; only its beginning is shown.</source>
@@ -1877,11 +1877,11 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Start Keyrill when I log &amp;in</source>
-        <translation>بدء Keyrill عند تسجيل الدخول (&amp;I)</translation>
+        <translation>بدء Keyrill عند الولوج (&amp;I)</translation>
     </message>
     <message>
         <source>Record modifier &amp;keys on their own</source>
-        <translation>تسجيل مفاتيح التغيير منفردة (&amp;K)</translation>
+        <translation>تسجيل المفاتيح المغيِّرة منفردة (&amp;K)</translation>
     </message>
     <message>
         <source>Keep the &amp;history for the next start</source>
@@ -1931,7 +1931,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Press %1, or choose Start Recording in Keyrill&apos;s menu. Then type.</source>
-        <translation>اضغط %1، أو اختر «بدء التسجيل» في قائمة Keyrill. ثم اكتب.</translation>
+        <translation>اضغط ⁨%1⁩، أو اختر «بدء التسجيل» في قائمة Keyrill. ثم اكتب.</translation>
     </message>
     <message>
         <source>Choose Stop Recording when you are done.</source>
@@ -1939,7 +1939,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Press %1 when you are done.</source>
-        <translation>اضغط %1 عندما تنتهي.</translation>
+        <translation>اضغط ⁨%1⁩ عندما تنتهي.</translation>
     </message>
     <message>
         <source>Click where the keys should go and choose Play.</source>
@@ -1947,7 +1947,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Click where the keys should go and press %1.</source>
-        <translation>انقر حيث يجب أن تصل المفاتيح واضغط %1.</translation>
+        <translation>انقر حيث يجب أن تصل المفاتيح واضغط ⁨%1⁩.</translation>
     </message>
     <message>
         <source>Not set</source>
