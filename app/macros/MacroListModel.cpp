@@ -5,6 +5,8 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+#include "app/widgets/MenuTitle.h"
+
 namespace {
 
 /// What is looked at in one turn of the loop: a few milliseconds.
@@ -116,11 +118,13 @@ QVariant MacroListModel::data(const QModelIndex& index, int role) const {
     }
     const bool isChanged = m_changed.contains(item.path);
     const auto withHotKey = [&item](const QString& name) {
-        return item.hotKey.isEmpty() ? name : tr("%1 (%2)", "a macro and its hot key").arg(name, item.hotKey);
+        return item.hotKey.isEmpty()
+                   ? name
+                   : tr("%1 (%2)", "a macro and its hot key").arg(name, inItsDirection(item.hotKey));
     };
     switch (role) {
         case Qt::DisplayRole:
-            return withHotKey(isChanged ? item.name + QStringLiteral(" •") : item.name);
+            return withHotKey(inItsDirection(item.name) + (isChanged ? QStringLiteral(" •") : QString()));
         case Qt::AccessibleTextRole:
             return isChanged ? tr("%1, not saved").arg(withHotKey(item.name)) : withHotKey(item.name);
         case Qt::EditRole:

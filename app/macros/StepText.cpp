@@ -5,6 +5,7 @@
 #include <QLocale>
 
 #include "app/shortcuts/CombinationText.h"
+#include "app/widgets/MenuTitle.h"
 #include "core/KeyNames.h"
 #include "platform/KeyCodes.h"
 
@@ -46,9 +47,9 @@ QString times(const QString& text, const Step& step) {
 QString stepText(const Step& step) {
     switch (step.kind) {
         case StepKind::typing:
-            return QString::fromStdString(step.text);
+            return inItsDirection(QString::fromStdString(step.text));
         case StepKind::key:
-            return times(keyOf(step), step);
+            return times(inItsDirection(keyOf(step)), step);
         case StepKind::pause:
             return times(Words::tr("Pause %1 s").arg(numberText(step.seconds)), step);
         case StepKind::text:

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QListView>
 
+#include "app/RightToLeft.h"
 #include "app/widgets/NoticeLine.h"
 #include "engine/EngineTest.h"
 #include "platform/Modifiers.h"
@@ -78,6 +79,12 @@ class KeysViewTest : public EngineTest {
 TEST_F(KeysViewTest, showsStepsAsPeopleReadThem) {
     EXPECT_EQ(rows(), "Hello|Ctrl+S|Pause 0.5 s|↓ × 3");
     EXPECT_EQ(rows(Qt::AccessibleTextRole), "Type Hello|Press Ctrl+S|Wait 0.5 seconds|Press ↓ 3 times");
+    EXPECT_EQ(rows(Qt::EditRole), "Hello|1|0.5|3");
+}
+
+TEST_F(KeysViewTest, keysKeepTheirDirectionAmongOthers) {
+    const RightToLeft meanwhile;
+    EXPECT_EQ(rows(), "\u2068Hello\u2069|\u2068Ctrl+S\u2069|Pause 0.5 s|\u2068↓\u2069 × 3");
     EXPECT_EQ(rows(Qt::EditRole), "Hello|1|0.5|3");
 }
 

@@ -7,6 +7,8 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+#include "app/RightToLeft.h"
+
 namespace {
 
 class MacroListModelTest : public testing::Test {
@@ -45,6 +47,14 @@ TEST_F(MacroListModelTest, theNeighbourIsTheMacroBelowOrTheOneAbove) {
     EXPECT_FALSE(model.neighbourOf({}).isValid());
     model.setQuery(QStringLiteral("note"));
     EXPECT_FALSE(model.neighbourOf(model.index(1)).isValid()) << "the only one that is found";
+}
+
+TEST_F(MacroListModelTest, namesAndHotKeysKeepTheirDirection) {
+    model.setItems({{"ls -l.keyrill", QStringLiteral("ls -l"), {}, QStringLiteral("Ctrl+G")}});
+    model.setChanged("ls -l.keyrill", true);
+    const RightToLeft meanwhile;
+    EXPECT_EQ(rows(), "\u2068ls -l\u2069 • (\u2068Ctrl+G\u2069)");
+    EXPECT_EQ(rows(Qt::EditRole), "ls -l");
 }
 
 TEST_F(MacroListModelTest, isReadOutWithItsHotKey) {

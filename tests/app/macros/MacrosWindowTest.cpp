@@ -3,7 +3,6 @@
 
 #include <QAbstractSpinBox>
 #include <QAccessible>
-#include <QApplication>
 #include <QDateTime>
 #include <QKeyEvent>
 #include <QLabel>
@@ -17,6 +16,7 @@
 #include <QTimerEvent>
 
 #include "app/Buttons.h"
+#include "app/RightToLeft.h"
 #include "app/macros/KeysView.h"
 #include "app/macros/MacroEditor.h"
 #include "app/macros/MacroListModel.h"
@@ -198,10 +198,9 @@ TEST_F(MacrosWindowTest, offersRecordingsWithTheirTimes) {
     };
     const QString written = QLocale().toString(time, QLocale::ShortFormat);
     EXPECT_EQ(firstLine(), QStringLiteral("ls -l\t") + written);
-    QApplication::setLayoutDirection(Qt::RightToLeft);
+    const RightToLeft meanwhile;
     // Each keeps its own direction (isolates of the Unicode standard).
     EXPECT_EQ(firstLine(), QStringLiteral("\u2068ls -l\u2069\t\u2068") + written + QChar(0x2069));
-    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST_F(MacrosWindowTest, whoDeletesAMacroIsAmongTheOthers) {

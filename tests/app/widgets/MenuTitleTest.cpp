@@ -3,18 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include "app/RightToLeft.h"
 
 namespace {
-
-/// Texts are read from right to left meanwhile.
-class RightToLeft {
-  public:
-    RightToLeft() { QApplication::setLayoutDirection(Qt::RightToLeft); }
-    ~RightToLeft() { QApplication::setLayoutDirection(Qt::LeftToRight); }
-    RightToLeft(const RightToLeft&) = delete;
-    RightToLeft& operator=(const RightToLeft&) = delete;
-};
 
 TEST(MenuTitleTest, aMacroIsItsTextWithoutMnemonics) {
     EXPECT_EQ(macroMenuTitle(QStringLiteral("a && b")), QStringLiteral("a &&&& b"));
