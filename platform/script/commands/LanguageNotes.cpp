@@ -19,7 +19,7 @@ const std::string_view firstScript = R"(## The first script, in five steps
 5. For a hot key, load the file into Keyrill (Load Macro... in its menu) and press the combination of Play, Ctrl+Super+P
    unless the preferences say another.
 
-A text is typed with `keystroke`, and any key pressed by its number with `key code`: see the table of key codes below, or
+A text is typed with `keystroke`, and any key pressed by its number with `key code`: see the table of key codes, or
 let `keyrill-script keys --press` tell the number of the next key that you press. The cookbook has more to take and change.
 
 ## The signs of the examples
