@@ -79,8 +79,9 @@
         const places = words.flatMap(word => placesOf(section.body, word));
         const hit = places.length ? Math.min(...places) : 0;
         const begin = hit < excerptLength / 2 ? 0 : section.text.lastIndexOf(" ", hit - excerptLength / 3) + 1;
-        const cut = section.text.slice(begin, begin + excerptLength);
-        return (begin ? "… " : "") + cut + (begin + excerptLength < section.text.length ? " …" : "");
+        const isWhole = section.text.length <= begin + excerptLength;
+        const end = isWhole ? section.text.length : section.text.lastIndexOf(" ", begin + excerptLength);
+        return (begin ? "… " : "") + section.text.slice(begin, end) + (isWhole ? "" : " …");
     };
 
     const lineOf = (section, words) => {
@@ -105,16 +106,19 @@
     const field = document.getElementById("wanted");
     const update = () => follow(field, document.getElementById("count"), document.getElementById("found"));
     form.hidden = false;
-    field.addEventListener("input", update);
+    // What is looked for is part of the address, so that it is there again for who comes back.
+    field.value = new URLSearchParams(location.hash.slice(1)).get("find") || "";
+    update();
+    field.addEventListener("input", () => {
+        history.replaceState(null, "", "#" + (field.value ? new URLSearchParams({find: field.value}) : ""));
+        update();
+    });
     form.addEventListener("submit", event => {
         event.preventDefault();
         const first = document.querySelector("#found a");
         if (first) first.click();
     });
-    // What the field held when the reader comes back.
-    window.addEventListener("pageshow", update);
-
     // "index.html#wayland" led to a section of this page, and its line of the contents leads on.
-    const place = location.hash && document.getElementById(decodeURIComponent(location.hash.slice(1)));
+    const place = location.hash && document.getElementById(location.hash.slice(1));
     if (place && place.matches("#contents li")) location.replace(place.querySelector("a").href);
 })();
