@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <regex>
 #include <set>
+#include <sstream>
+#include <string>
+#include <vector>
 
 #include "packaging/StagedTest.h"
 #include "platform/Installation.h"
@@ -128,11 +132,37 @@ TEST_F(InstallationTest, theLinksOfAllPagesOfTheManualLeadSomewhere) {
     EXPECT_FALSE(std::filesystem::exists(folder / "README.md"));
 }
 
+/// As a package does.
+void installForAll(const TemporaryFolder& system) {
+    outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER, "--prefix", "/usr"},
+             {{"DESTDIR", system.path()}});
+}
+
+/// The package's build refuses files that none of its lists has.
+TEST_F(InstallationTest, eachFileHasItsPlaceInThePackage) {
+    std::istringstream lines(contentOf(KEYRILL_PACKAGE_LIST));
+    std::vector<std::string> places;
+    for (std::string line; std::getline(lines, line);) places.push_back(line.substr(0, line.find(' ')));
+    ASSERT_GT(places.size(), 10U);
+    const auto isAt = [](const std::string& file, const std::string& place) {
+        return file == place || file.starts_with(place + "/");
+    };
+    const TemporaryFolder system;
+    installForAll(system);
+    const std::string root = system.path() + "/";
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
+        if (entry.is_directory()) continue;
+        const std::string file = entry.path().string().substr(root.size());
+        EXPECT_TRUE(std::any_of(places.begin(), places.end(), [&](const std::string& place) {
+            return isAt(file, place);
+        })) << file;
+    }
+}
+
 TEST_F(InstallationTest, thePresetsLieInTheTreeButForUsrInEtc) {
     EXPECT_TRUE(isInstalled("etc/xdg/keyrill/keyrill.conf"));
     const TemporaryFolder system;
-    outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER, "--prefix", "/usr"},
-             {{"DESTDIR", system.path()}});
+    installForAll(system);
     EXPECT_TRUE(std::filesystem::exists(system.path() + "/etc/xdg/keyrill/keyrill.conf"));
     EXPECT_FALSE(std::filesystem::exists(system.path() + "/usr/etc"));
 }
