@@ -72,7 +72,8 @@ void MacroFilePanel::beginAnew(const QString& folder) {
     for (auto* view : findChildren<QAbstractItemView*>()) view->clearSelection();
     QLineEdit* name = nameField();
     if (name == nullptr) return;
-    name->clear();
+    // Clearing it would be kept as what can be undone, and all that was ever typed with it.
+    name->setText({});
     name->setCompleter(m_completer);
     name->setFocus();
 }

@@ -2,6 +2,7 @@
 #include "app/tray/StatusMenu.h"
 
 #include <QCoreApplication>
+#include <QPixmapCache>
 
 #include "app/tray/MenuState.h"
 #include "app/widgets/MenuTitle.h"
@@ -47,6 +48,8 @@ void StatusMenu::showEvent(QShowEvent* event) {
 
 void StatusMenu::hideEvent(QHideEvent* event) {
     QMenu::hideEvent(event);
+    // The style keeps pictures of its arrows, others each time that the menu is opened.
+    QPixmapCache::clear();
     emit shown(false);
 }
 
