@@ -12,7 +12,7 @@
 #include "cli/Report.h"
 #include "cli/ScriptFile.h"
 #include "cli/TerminalDialogs.h"
-#include "cli/TerminalText.h"
+#include "platform/TerminalText.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/script/code/Compiler.h"
 #include "platform/script/run/Run.h"

@@ -10,7 +10,7 @@
 #include <cerrno>
 
 #include "cli/TerminalMode.h"
-#include "cli/TerminalText.h"
+#include "platform/TerminalText.h"
 
 QuestionTerminal::QuestionTerminal() : m_terminal(open("/dev/tty", O_RDWR | O_CLOEXEC | O_NOCTTY)) {}
 

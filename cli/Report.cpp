@@ -5,8 +5,8 @@
 #include <array>
 #include <iostream>
 
-#include "cli/TerminalText.h"
 #include "platform/ErrorText.h"
+#include "platform/TerminalText.h"
 #include "platform/Utf8.h"
 
 namespace {

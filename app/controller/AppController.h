@@ -253,6 +253,8 @@ class AppController : public QObject, public SharedController {
     WelcomePanel& builtWelcomePanel();
 
     bool endPlaybackThatAsksOrWaits();
+    /// With what others than the user have to wait for.
+    MenuFacts factsForCallers();
 
     /// An action that the user chose, wherever; nothing while the gate is shut.
     void perform(Action action, QObject* sender);

@@ -11,10 +11,12 @@
 #include "app/dialogs/AlertTexts.h"
 #include "app/library/LibraryController.h"
 #include "app/overlay/Fades.h"
+#include "app/overlay/MultiplePlayWindow.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/panels/WelcomePanel.h"
 #include "app/tray/Actions.h"
 #include "app/tray/MacroMenuItem.h"
+#include "app/widgets/IsShown.h"
 #include "core/MacroManager.h"
 #include "engine/AppleScript.h"
 #include "engine/EngineState.h"
@@ -129,10 +131,17 @@ bool AppController::endPlaybackThatAsksOrWaits() {
     return m_askedPlays.takeBack() || isAsking;
 }
 
+MenuFacts AppController::factsForCallers() {
+    m_menuDesk.update();
+    MenuFacts facts = m_menuDesk.facts();
+    facts.promptShown = isShown(multiplePlayWindow());
+    facts.hotKeysOff = !engineState().hotKeysEnabled;
+    return facts;
+}
+
 Result<> AppController::carryOut(const ActionRow& action) {
     if (action.endsPlayback && endPlaybackThatAsksOrWaits()) return {};
-    m_menuDesk.update();
-    const QString obstacle = obstacleTo(action, m_menuDesk.facts());
+    const QString obstacle = obstacleTo(action, factsForCallers());
     if (!obstacle.isEmpty()) return Error{obstacle.toStdString(), ""};
     if (action.plays) return m_askedPlays.ask({.script = engineState().currentMacro->script()});
     operationOf(action).perform(*this, nullptr);

@@ -4,20 +4,18 @@
 #include <utility>
 
 #include "app/controller/Gate.h"
-#include "app/controller/MenuDesk.h"
 #include "app/controller/Stage.h"
 #include "app/tray/Actions.h"
 #include "engine/MacroPlayer.h"
 
-AskedPlays::AskedPlays(MenuDesk& menu, const Gate& gate, Stage& stage)
-    : m_menu(menu), m_gate(gate), m_stage(stage) {
+AskedPlays::AskedPlays(std::function<MenuFacts()> facts, const Gate& gate, Stage& stage)
+    : m_facts(std::move(facts)), m_gate(gate), m_stage(stage) {
     m_next.setSingleShot(true);
     QObject::connect(&m_next, &QTimer::timeout, &m_next, [this] { begin(); });
 }
 
 Result<> AskedPlays::ask(PlayRequest request) {
-    m_menu.update();
-    MenuFacts facts = m_menu.facts();
+    MenuFacts facts = m_facts();
     // This one.
     facts.hasMacro = true;
     const QString obstacle = obstacleTo(*actionNamed("play"), facts);

@@ -2,20 +2,21 @@
 #pragma once
 
 #include <QTimer>
+#include <functional>
 
+#include "app/tray/MenuFacts.h"
 #include "engine/PlayRequest.h"
 #include "platform/Result.h"
 
 class Gate;
-class MenuDesk;
 class Stage;
 
 /// What is asked to be played from outside of the program. It begins when the event loop runs next, so that
 /// whoever asks is answered first; keys that are held then are waited for. What Play plays stays.
 class AskedPlays {
   public:
-    /// All outlive the desk.
-    AskedPlays(MenuDesk& menu, const Gate& gate, Stage& stage);
+    /// `facts` are those of the moment. The others outlive the desk.
+    AskedPlays(std::function<MenuFacts()> facts, const Gate& gate, Stage& stage);
 
     /// Plays that once it can. An error says why nothing can be played now.
     Result<> ask(PlayRequest request);
@@ -25,7 +26,7 @@ class AskedPlays {
   private:
     void begin();
 
-    MenuDesk& m_menu;
+    std::function<MenuFacts()> m_facts;
     const Gate& m_gate;
     Stage& m_stage;
     PlayRequest m_request;

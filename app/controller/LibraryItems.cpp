@@ -31,7 +31,7 @@ std::map<std::string, QString> hotKeyTexts(const MacroLibrary& library, const Li
 }  // namespace
 
 std::vector<MacroListItem> libraryItems(const MacroLibrary& library, const LibraryHotKeys& hotKeys,
-                                        const std::map<std::string, std::string>& unsaved) {
+                                        const std::map<std::string, Draft>& unsaved) {
     std::vector<MacroListItem> items;
     items.reserve(library.entries().size() + unsaved.size());
     for (const LibraryEntry& entry : library.entries()) items.push_back(itemOf(entry));

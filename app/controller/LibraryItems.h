@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/macros/DraftFiles.h"
 #include "app/macros/MacroListItem.h"
 
 class LibraryHotKeys;
@@ -13,4 +14,4 @@ class MacroLibrary;
 /// The macros of the library as the window lists them, in the order of isListedBefore(); among
 /// them those of which nothing but `unsaved` texts, by paths, are left.
 std::vector<MacroListItem> libraryItems(const MacroLibrary& library, const LibraryHotKeys& hotKeys,
-                                        const std::map<std::string, std::string>& unsaved);
+                                        const std::map<std::string, Draft>& unsaved);

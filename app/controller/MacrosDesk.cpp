@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/MacrosDesk.h"
 
+#include <QLocale>
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
@@ -17,6 +18,7 @@
 #include "app/macros/MacroListModel.h"
 #include "app/macros/MacroSettingsRow.h"
 #include "app/macros/MacrosWindow.h"
+#include "app/macros/ScriptCheck.h"
 #include "core/MacroManager.h"
 #include "engine/EngineState.h"
 #include "engine/MacroPlayer.h"
@@ -61,6 +63,19 @@ QString remainder(const RecordingHistory& history) {
     return QLatin1Char(' ') + MacrosDesk::tr("Play has the latest macro until there is another.");
 }
 
+bool isThere(const std::string& file) {
+    std::error_code error;
+    return std::filesystem::exists(std::filesystem::symlink_status(file, error));
+}
+
+QString goneText() {
+    return MacrosDesk::tr("The file of this macro is gone. If you save, it is there again.");
+}
+
+QString replacedText() {
+    return MacrosDesk::tr("Another program has changed this macro. If you save, your text replaces it.");
+}
+
 std::vector<MacrosWindow::Recording> recordingsOf(const RecordingHistory& history) {
     std::vector<MacrosWindow::Recording> recordings;
     for (const HistoryEntry& entry : history.entries()) {
@@ -99,6 +114,9 @@ void MacrosDesk::connectTimers() {
     m_patience.setInterval(patience);
     connect(&m_patience, &QTimer::timeout, this,
             [this] { m_window->tell(tr("The macro is still being read: its folder does not answer.")); });
+    connect(&m_means.library, &LibraryController::faultTold, this, [this](const Error& why) {
+        if (m_window) m_window->warn(shown(why));
+    });
     connect(&m_means.library, &LibraryController::hotKeyChanged, this, [this](const QByteArray& path) {
         if (!m_window) return;
         m_showing.start();
@@ -124,7 +142,7 @@ void MacrosDesk::connectWindow() {
     connect(window, &MacrosWindow::chosenChanged, this, &MacrosDesk::openMacro);
     connect(window, &MacrosWindow::textEdited, this, &MacrosDesk::noteEdit);
     connect(window, &MacrosWindow::saveWanted, this, &MacrosDesk::save);
-    connect(window, &MacrosWindow::playPressed, window, &MacrosWindow::countDown);
+    connect(window, &MacrosWindow::playPressed, this, &MacrosDesk::beginPlay);
     connect(window, &MacrosWindow::playWanted, this, &MacrosDesk::play);
     connect(window, &MacrosWindow::recordWanted, this, [this] { record(Purpose::newMacro); });
     connect(window, &MacrosWindow::keysWanted, this, [this] { record(Purpose::keys); });
@@ -198,7 +216,7 @@ void MacrosDesk::followGone(const std::vector<std::string>& gone) {
     const std::string& chosen = m_window->chosen();
     if (!std::binary_search(gone.begin(), gone.end(), chosen)) return;
     if (m_unsaved.contains(chosen)) {
-        m_window->warn(tr("The file of this macro is gone. If you save, it is there again."));
+        m_window->warn(goneText());
     } else {
         m_window->choose({});
         m_window->tell(tr("Another program has deleted or moved the macro."));
@@ -272,18 +290,22 @@ void MacrosDesk::showText(const std::string& path, const Result<std::string>& te
     // It may have been told.
     if (!m_patience.isActive()) m_window->tell({});
     m_patience.stop();
-    const std::string* const unsaved = m_unsaved.find(path);
+    const Draft* const unsaved = m_unsaved.find(path);
     if (!text && unsaved == nullptr) return m_window->showFault(shown(text.error()));
     m_saved = text ? text.value() : std::string();
-    m_window->showMacro(m_saved, unsaved == nullptr ? m_saved : *unsaved);
-    if (!text) m_window->warn(tr("The file of this macro is gone. If you save, it is there again."));
+    m_window->showMacro(m_saved, unsaved == nullptr ? m_saved : unsaved->text);
+    if (!text) {
+        m_window->warn(isThere(m_library.fileOf(path)) ? shown(text.error()) : goneText());
+    } else if (unsaved != nullptr && !unsaved->base.empty() && unsaved->base != fingerprintOf(m_saved)) {
+        m_window->warn(replacedText());
+    }
 }
 
 /// Somebody else has changed the file.
 void MacrosDesk::followText(const std::string& path, const Result<std::string>& text) {
     if (!text || text.value() == m_saved) return;
     if (m_unsaved.contains(path)) {
-        m_window->warn(tr("Another program has changed this macro. If you save, your text replaces it."));
+        m_window->warn(replacedText());
     } else {
         showText(path, text);
     }
@@ -294,7 +316,7 @@ void MacrosDesk::noteEdit() {
     if (path.empty()) return;
     const bool isChanged = m_window->editor().isChanged();
     if (isChanged) {
-        m_unsaved.set(path, m_window->editor().text());
+        m_unsaved.set(path, m_window->editor().text(), m_saved);
     } else {
         m_unsaved.take(path);
     }
@@ -376,7 +398,8 @@ void MacrosDesk::record(Purpose purpose) {
 void MacrosDesk::takeRecording(const Macro& macro) {
     const Purpose purpose = std::exchange(m_purpose, Purpose::none);
     if (purpose == Purpose::none) return;
-    m_means.stage.unhide();
+    // Whoever has asked for it here goes on here.
+    show();
     if (purpose == Purpose::newMacro) return makeMacro(macro.script());
     const auto lines = linesOf(macro.script());
     if (lines) m_window->editor().keys().insertLines(*lines);
@@ -385,16 +408,26 @@ void MacrosDesk::takeRecording(const Macro& macro) {
 void MacrosDesk::makeMacro(const std::string& script) {
     const std::string first =
         m_means.files.prepareFolder() + "/" + tr("New Macro").toStdString() + ".keyrill";
-    std::error_code error;
-    const bool isTaken = std::filesystem::exists(std::filesystem::symlink_status(first, error));
-    const std::string file = isTaken ? FileMoves::freeName(first) : first;
+    const std::string file = isThere(first) ? FileMoves::freeName(first) : first;
     const Result<> written = m_means.files.write(file, script);
     if (!written) return m_window->warn(shown(written.error()));
     await(file, true);
 }
 
 void MacrosDesk::recordingEnded() {
-    if (std::exchange(m_purpose, Purpose::none) != Purpose::none) m_means.stage.unhide();
+    if (std::exchange(m_purpose, Purpose::none) != Purpose::none) show();
+}
+
+/// Nobody waits for a count after which nothing can happen.
+void MacrosDesk::beginPlay() {
+    for (const ScriptProblem& problem : problemsOf(m_window->editor().text())) {
+        if (!problem.isError) continue;
+        //: of a script; what is wrong
+        return m_window->warn(
+            tr("The macro cannot be played. Line %1: %2")
+                .arg(QLocale().toString(problem.line), QString::fromStdString(problem.text)));
+    }
+    m_window->countDown();
 }
 
 void MacrosDesk::play() {
@@ -431,24 +464,31 @@ void MacrosDesk::rename(const std::string& path, const QString& name) {
 }
 
 void MacrosDesk::remove(const std::string& path) {
-    auto trashed = FileMoves::trash(m_library.fileOf(path));
-    if (!trashed) return m_window->warn(shown(trashed.error()));
-    m_deleted.push_back({std::move(trashed).value(), m_unsaved.take(path)});
+    std::optional<TrashedFile> trashed;
+    // Of some there is nothing but what is not saved.
+    if (isThere(m_library.fileOf(path))) {
+        auto moved = FileMoves::trash(m_library.fileOf(path));
+        if (!moved) return m_window->warn(shown(moved.error()));
+        trashed = std::move(moved).value();
+    }
+    m_deleted.push_back({path, trashed, m_unsaved.take(path)});
     m_window->list().setChanged(path, false);
     m_window->chooseNeighbour();
-    m_window->tell(tr("The macro is in the trash."), tr("Undo"));
+    m_window->tell(trashed ? tr("The macro is in the trash.") : tr("The macro is deleted."), tr("Undo"));
+    if (!trashed) m_showing.start();
 }
 
 void MacrosDesk::restore() {
     if (m_deleted.empty()) return;
-    const Result<> restored = FileMoves::restore(m_deleted.back().file);
+    const auto& file = m_deleted.back().file;
+    const Result<> restored = file ? FileMoves::restore(*file) : Result<>();
     // What is in the way may go.
     if (!restored) return m_window->warn(shown(restored.error()), tr("Undo"));
-    const Deleted deleted = std::move(m_deleted.back());
+    Deleted deleted = std::move(m_deleted.back());
     m_deleted.pop_back();
     m_window->tell({});
-    await(deleted.file.from, false);
-    if (deleted.text) m_unsaved.set(m_awaited, *deleted.text);
+    await(m_library.fileOf(deleted.path), false);
+    if (deleted.draft) m_unsaved.putBack(deleted.path, *std::move(deleted.draft));
 }
 
 void MacrosDesk::await(const std::string& file, bool isToBeNamed) {

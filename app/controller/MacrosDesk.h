@@ -92,6 +92,7 @@ class MacrosDesk : public QObject, private LibraryListener {
     void forget(int macroId);
     void forgetAll();
     void makeMacro(const std::string& script);
+    void beginPlay();
     void play();
     void duplicate(const std::string& path);
     void rename(const std::string& path, const QString& name);
@@ -114,9 +115,11 @@ class MacrosDesk : public QObject, private LibraryListener {
     std::string m_opening;
     QTimer m_patience;
     struct Deleted {
-        TrashedFile file;
+        std::string path;
+        /// None of one that had no file.
+        std::optional<TrashedFile> file;
         /// What was not saved of it.
-        std::optional<std::string> text;
+        std::optional<Draft> draft;
     };
     /// The last one last.
     std::vector<Deleted> m_deleted;

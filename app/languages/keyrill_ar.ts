@@ -92,6 +92,14 @@
         <source>Nothing is being recorded.</source>
         <translation>لا يُسجَّل شيء.</translation>
     </message>
+    <message>
+        <source>Keyrill is asking how often to play.</source>
+        <translation>يسأل Keyrill عن عدد مرات التشغيل.</translation>
+    </message>
+    <message>
+        <source>Keyrill&apos;s hot keys are off while they are being chosen in a window of its own.</source>
+        <translation>اختصارات Keyrill معطّلة ما دامت تُختار في إحدى نوافذه.</translation>
+    </message>
 </context>
 <context>
     <name>Alerts</name>
@@ -999,6 +1007,15 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
         <source>Undo</source>
         <translation>تراجع</translation>
     </message>
+    <message>
+        <source>The macro cannot be played. Line %1: %2</source>
+        <extracomment>of a script; what is wrong</extracomment>
+        <translation>لا يمكن تشغيل الماكرو. السطر ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>The macro is deleted.</source>
+        <translation>حُذف الماكرو.</translation>
+    </message>
 </context>
 <context>
     <name>MacrosInterface</name>
@@ -1219,10 +1236,6 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
         <translation>يسردها keyrill --list كلها.</translation>
     </message>
     <message>
-        <source>Near are: %1.</source>
-        <translation>أسماء قريبة: %1.</translation>
-    </message>
-    <message>
         <source>There is no macro called &quot;%1&quot;.</source>
         <translation>لا يوجد ماكرو باسم «%1».</translation>
     </message>
@@ -1245,6 +1258,10 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
         <translation>يشرح keyrill-script check &quot;%1&quot; المزيد.</translation>
+    </message>
+    <message>
+        <source>Similar: %1.</source>
+        <translation>أسماء مشابهة: ⁨%1⁩.</translation>
     </message>
 </context>
 <context>
@@ -1457,6 +1474,11 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>Words of the script language</source>
         <translation>كلمات لغة السكربت</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <extracomment>of a script; what is wrong, or could be</extracomment>
+        <translation>السطر %1: ⁨%2⁩</translation>
     </message>
 </context>
 <context>

@@ -92,6 +92,14 @@
         <source>Nothing is being recorded.</source>
         <translation>Es wird gerade nichts aufgezeichnet.</translation>
     </message>
+    <message>
+        <source>Keyrill is asking how often to play.</source>
+        <translation>Keyrill fragt gerade, wie oft abgespielt werden soll.</translation>
+    </message>
+    <message>
+        <source>Keyrill&apos;s hot keys are off while they are being chosen in a window of its own.</source>
+        <translation>Die Tastenkürzel von Keyrill sind aus, solange sie in einem seiner Fenster gewählt werden.</translation>
+    </message>
 </context>
 <context>
     <name>Alerts</name>
@@ -992,6 +1000,15 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
         <source>Undo</source>
         <translation>Rückgängig</translation>
     </message>
+    <message>
+        <source>The macro cannot be played. Line %1: %2</source>
+        <extracomment>of a script; what is wrong</extracomment>
+        <translation>Das Makro kann nicht abgespielt werden. Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>The macro is deleted.</source>
+        <translation>Das Makro ist gelöscht.</translation>
+    </message>
 </context>
 <context>
     <name>MacrosInterface</name>
@@ -1212,10 +1229,6 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
         <translation>keyrill --list listet alle auf.</translation>
     </message>
     <message>
-        <source>Near are: %1.</source>
-        <translation>Ähnlich sind: %1.</translation>
-    </message>
-    <message>
         <source>There is no macro called &quot;%1&quot;.</source>
         <translation>Es gibt kein Makro namens „%1“.</translation>
     </message>
@@ -1238,6 +1251,10 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
         <translation>keyrill-script check &quot;%1&quot; sagt mehr.</translation>
+    </message>
+    <message>
+        <source>Similar: %1.</source>
+        <translation>Ähnlich: %1.</translation>
     </message>
 </context>
 <context>
@@ -1450,6 +1467,11 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     <message>
         <source>Words of the script language</source>
         <translation>Wörter der Skriptsprache</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <extracomment>of a script; what is wrong, or could be</extracomment>
+        <translation>Zeile %1: %2</translation>
     </message>
 </context>
 <context>

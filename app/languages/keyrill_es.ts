@@ -92,6 +92,14 @@
         <source>Nothing is being recorded.</source>
         <translation>No se está grabando nada.</translation>
     </message>
+    <message>
+        <source>Keyrill is asking how often to play.</source>
+        <translation>Keyrill está preguntando cuántas veces reproducir.</translation>
+    </message>
+    <message>
+        <source>Keyrill&apos;s hot keys are off while they are being chosen in a window of its own.</source>
+        <translation>Los atajos de Keyrill están desactivados mientras se eligen en una de sus ventanas.</translation>
+    </message>
 </context>
 <context>
     <name>Alerts</name>
@@ -992,6 +1000,15 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
         <source>Undo</source>
         <translation>Deshacer</translation>
     </message>
+    <message>
+        <source>The macro cannot be played. Line %1: %2</source>
+        <extracomment>of a script; what is wrong</extracomment>
+        <translation>La macro no se puede reproducir. Línea %1: %2</translation>
+    </message>
+    <message>
+        <source>The macro is deleted.</source>
+        <translation>La macro se ha eliminado.</translation>
+    </message>
 </context>
 <context>
     <name>MacrosInterface</name>
@@ -1212,10 +1229,6 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
         <translation>keyrill --list las enumera todas.</translation>
     </message>
     <message>
-        <source>Near are: %1.</source>
-        <translation>Parecidas: %1.</translation>
-    </message>
-    <message>
         <source>There is no macro called &quot;%1&quot;.</source>
         <translation>No existe ninguna macro llamada «%1».</translation>
     </message>
@@ -1238,6 +1251,10 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
         <translation>keyrill-script check &quot;%1&quot; explica más.</translation>
+    </message>
+    <message>
+        <source>Similar: %1.</source>
+        <translation>Parecidos: %1.</translation>
     </message>
 </context>
 <context>
@@ -1450,6 +1467,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <message>
         <source>Words of the script language</source>
         <translation>Palabras del lenguaje de script</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <extracomment>of a script; what is wrong, or could be</extracomment>
+        <translation>Línea %1: %2</translation>
     </message>
 </context>
 <context>

@@ -92,6 +92,14 @@
         <source>Nothing is being recorded.</source>
         <translation>Rien n’est en cours d’enregistrement.</translation>
     </message>
+    <message>
+        <source>Keyrill is asking how often to play.</source>
+        <translation>Keyrill demande combien de fois exécuter la macro.</translation>
+    </message>
+    <message>
+        <source>Keyrill&apos;s hot keys are off while they are being chosen in a window of its own.</source>
+        <translation>Les raccourcis de Keyrill sont désactivés tant qu’ils sont choisis dans une de ses fenêtres.</translation>
+    </message>
 </context>
 <context>
     <name>Alerts</name>
@@ -992,6 +1000,15 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
         <source>Undo</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>The macro cannot be played. Line %1: %2</source>
+        <extracomment>of a script; what is wrong</extracomment>
+        <translation>La macro ne peut pas être exécutée. Ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The macro is deleted.</source>
+        <translation>La macro est supprimée.</translation>
+    </message>
 </context>
 <context>
     <name>MacrosInterface</name>
@@ -1212,10 +1229,6 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
         <translation>keyrill --list en donne la liste.</translation>
     </message>
     <message>
-        <source>Near are: %1.</source>
-        <translation>Noms proches&#xa0;: %1.</translation>
-    </message>
-    <message>
         <source>There is no macro called &quot;%1&quot;.</source>
         <translation>Il n’y a pas de macro nommée «&#xa0;%1&#xa0;».</translation>
     </message>
@@ -1238,6 +1251,10 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
         <translation>keyrill-script check &quot;%1&quot; en dit plus.</translation>
+    </message>
+    <message>
+        <source>Similar: %1.</source>
+        <translation>Noms proches&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -1450,6 +1467,11 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <message>
         <source>Words of the script language</source>
         <translation>Mots du langage de script</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <extracomment>of a script; what is wrong, or could be</extracomment>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>

@@ -92,6 +92,14 @@
         <source>Nothing is being recorded.</source>
         <translation>記録中のものはありません。</translation>
     </message>
+    <message>
+        <source>Keyrill is asking how often to play.</source>
+        <translation>Keyrill が再生回数を尋ねています。</translation>
+    </message>
+    <message>
+        <source>Keyrill&apos;s hot keys are off while they are being chosen in a window of its own.</source>
+        <translation>ショートカットを Keyrill のウィンドウで選択している間、ショートカットは無効です。</translation>
+    </message>
 </context>
 <context>
     <name>Alerts</name>
@@ -990,6 +998,15 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <source>Undo</source>
         <translation>元に戻す</translation>
     </message>
+    <message>
+        <source>The macro cannot be played. Line %1: %2</source>
+        <extracomment>of a script; what is wrong</extracomment>
+        <translation>マクロを再生できません。%1 行目: %2</translation>
+    </message>
+    <message>
+        <source>The macro is deleted.</source>
+        <translation>マクロを削除しました。</translation>
+    </message>
 </context>
 <context>
     <name>MacrosInterface</name>
@@ -1210,10 +1227,6 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <translation>keyrill --list ですべて表示できます。</translation>
     </message>
     <message>
-        <source>Near are: %1.</source>
-        <translation>似た名前: %1。</translation>
-    </message>
-    <message>
         <source>There is no macro called &quot;%1&quot;.</source>
         <translation>「%1」というマクロはありません。</translation>
     </message>
@@ -1236,6 +1249,10 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
         <translation>詳しくは keyrill-script check &quot;%1&quot; で確認できます。</translation>
+    </message>
+    <message>
+        <source>Similar: %1.</source>
+        <translation>似た名前: %1。</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1465,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Words of the script language</source>
         <translation>スクリプト言語の単語</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <extracomment>of a script; what is wrong, or could be</extracomment>
+        <translation>%1 行目: %2</translation>
     </message>
 </context>
 <context>

@@ -92,6 +92,14 @@
         <source>Nothing is being recorded.</source>
         <translation>Ничего не записывается.</translation>
     </message>
+    <message>
+        <source>Keyrill is asking how often to play.</source>
+        <translation>Keyrill спрашивает, сколько раз воспроизвести макрос.</translation>
+    </message>
+    <message>
+        <source>Keyrill&apos;s hot keys are off while they are being chosen in a window of its own.</source>
+        <translation>Комбинации клавиш Keyrill отключены, пока они выбираются в его окне.</translation>
+    </message>
 </context>
 <context>
     <name>Alerts</name>
@@ -994,6 +1002,15 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <source>Undo</source>
         <translation>Отменить</translation>
     </message>
+    <message>
+        <source>The macro cannot be played. Line %1: %2</source>
+        <extracomment>of a script; what is wrong</extracomment>
+        <translation>Макрос нельзя воспроизвести. Строка %1: %2</translation>
+    </message>
+    <message>
+        <source>The macro is deleted.</source>
+        <translation>Макрос удалён.</translation>
+    </message>
 </context>
 <context>
     <name>MacrosInterface</name>
@@ -1214,10 +1231,6 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <translation>Список всех: keyrill --list.</translation>
     </message>
     <message>
-        <source>Near are: %1.</source>
-        <translation>Похожие: %1.</translation>
-    </message>
-    <message>
         <source>There is no macro called &quot;%1&quot;.</source>
         <translation>Макроса с именем «%1» нет.</translation>
     </message>
@@ -1240,6 +1253,10 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
         <translation>Подробнее: keyrill-script check &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Similar: %1.</source>
+        <translation>Похожие: %1.</translation>
     </message>
 </context>
 <context>
@@ -1452,6 +1469,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Words of the script language</source>
         <translation>Слова языка сценариев</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <extracomment>of a script; what is wrong, or could be</extracomment>
+        <translation>Строка %1: %2</translation>
     </message>
 </context>
 <context>

@@ -42,4 +42,5 @@ void LibraryController::post(const QString& title, const Error& error) {
     QString text = QString::fromStdString(error.message);
     if (!error.hint.empty()) text += u'\n' + QString::fromStdString(error.hint);
     m_notifications.post(title.toStdString(), text.toStdString());
+    emit faultTold(error);
 }

@@ -10,6 +10,7 @@
 #include "library/MacroLibrary.h"
 #include "library/RecordingHistory.h"
 #include "platform/PlayOptions.h"
+#include "platform/Result.h"
 
 class FolderFollower;
 class HotKeys;
@@ -67,6 +68,8 @@ class LibraryController : public QObject, private LibraryListener, private Histo
   signals:
     /// What macros there are is known.
     void read();
+    /// What could not be read or kept has been told by a notification.
+    void faultTold(const Error& why);
     /// LibraryHotKeys::state() of the macro of that path (bytes) may have become another.
     void hotKeyChanged(const QByteArray& path);
     /// history() has one more, at that place.

@@ -37,7 +37,7 @@ Result<std::string, Refusal> PlayRequests::pathOf(const std::string& name) const
                        {tr("There are several macros called \"%1\".").arg(shownText(name)).toStdString(),
                         tr("Say which one: %1.").arg(list(several)).toStdString()}};
     }
-    const QString hint = near.empty() ? tr("keyrill --list lists all.") : tr("Near are: %1.").arg(list(near));
+    const QString hint = near.empty() ? tr("keyrill --list lists all.") : tr("Similar: %1.").arg(list(near));
     return Refusal{
         Cause::noSuchMacro,
         {tr("There is no macro called \"%1\".").arg(shownText(name)).toStdString(), hint.toStdString()}};

@@ -15,6 +15,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 #include "platform/Descriptor.h"
 
@@ -29,6 +30,25 @@ struct Words {
 constexpr const char* ending = ".draft";
 constexpr mode_t fileMode = 0600;
 constexpr mode_t folderMode = 0700;
+
+/// Before the fingerprint, in a line of its own above the text.
+constexpr std::string_view baseMark = "from ";
+
+std::string hashOf(std::string_view bytes) {
+    const QByteArray all(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    return QCryptographicHash::hash(all, QCryptographicHash::Sha256).toHex().toStdString();
+}
+
+/// What follows the path in a file. Earlier versions wrote the text alone.
+Draft draftOf(std::string content) {
+    const std::size_t begin = baseMark.size();
+    const std::size_t end = begin + hashOf({}).size();
+    const std::string_view all = content;
+    const bool hasBase = all.starts_with(baseMark) && end < all.size() && all[end] == '\n' &&
+                         all.substr(begin, end - begin).find_first_not_of("0123456789abcdef") == all.npos;
+    if (!hasBase) return {std::move(content)};
+    return {content.substr(end + 1), content.substr(begin, end - begin)};
+}
 
 /// As the standard asks of folders that are made.
 void makeFolders(const fs::path& folder) {
@@ -46,33 +66,36 @@ int writeForGood(int file, const std::string& bytes) {
 
 }  // namespace
 
+std::string fingerprintOf(std::string_view text) { return hashOf(text); }
+
 std::string DraftFiles::fileOf(const std::string& path) const {
-    const QByteArray hash =
-        QCryptographicHash::hash(QByteArray::fromStdString(path), QCryptographicHash::Sha256);
-    return m_folder + "/" + hash.toHex().toStdString() + ending;
+    return m_folder + "/" + hashOf(path) + ending;
 }
 
-std::map<std::string, std::string> DraftFiles::all() const {
-    std::map<std::string, std::string> drafts;
+std::map<std::string, Draft> DraftFiles::all() const {
+    std::map<std::string, Draft> drafts;
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(m_folder, error)) {
         if (entry.path().extension() != ending) continue;
         std::ifstream file(entry.path(), std::ios::binary);
         std::string path;
         if (!std::getline(file, path) || fileOf(path) != entry.path()) continue;
-        drafts[path] = std::string(std::istreambuf_iterator<char>(file), {});
+        drafts[path] = draftOf(std::string(std::istreambuf_iterator<char>(file), {}));
     }
     return drafts;
 }
 
-Result<> DraftFiles::keep(const std::string& path, const std::string& text) const {
+Result<> DraftFiles::keep(const std::string& path, const Draft& draft) const {
+    std::string content = path + "\n";
+    if (!draft.base.empty()) content.append(baseMark).append(draft.base).push_back('\n');
+    content += draft.text;
     makeFolders(m_folder);
     const std::string whole = fileOf(path);
     const std::string part = whole + ".new";
     int error = 0;
     {
         const Descriptor file(open(part.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, fileMode));
-        error = file ? writeForGood(file.number(), path + "\n" + text) : errno;
+        error = file ? writeForGood(file.number(), content) : errno;
     }
     if (error == 0 && std::rename(part.c_str(), whole.c_str()) != 0) error = errno;
     if (error == 0) return {};

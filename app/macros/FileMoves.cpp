@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 constexpr std::size_t longestName = 255;
 
 QString shown(const std::string& path) {
-    return QFile::decodeName(QByteArray::fromStdString(fs::path(path).filename().string()));
+    return QFile::decodeName(QByteArray::fromStdString(fs::path(path).stem().string()));
 }
 
 QString causeOf(int number) { return QString::fromLocal8Bit(std::strerror(number)); }

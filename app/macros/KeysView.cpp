@@ -113,13 +113,17 @@ QLayout* KeysView::makeActions() {
     return row;
 }
 
-/// The list would take the keys of a step that can move no further for its own, and select another.
 bool KeysView::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_list && event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
         const QKeySequence keys(key->keyCombination());
+        // The list would take the keys of a step that can move no further for its own, and select another.
         if (keys == m_moveUp->shortcut() || keys == m_moveDown->shortcut()) return true;
     }
+    // The list itself makes the first step the current one and does not select it.
+    if (watched == m_list && event->type() == QEvent::FocusIn && !m_list->selectionModel()->hasSelection() &&
+        m_model.rowCount() > 0)
+        m_list->setCurrentIndex(m_model.index(std::max(m_list->currentIndex().row(), 0)));
     return QWidget::eventFilter(watched, event);
 }
 
@@ -130,7 +134,7 @@ void KeysView::showScript(const std::string& script) {
         tr("This is a script of its own: line %1 cannot be changed here. What it would press is "
            "shown; change it under Script.")
             .arg(QLocale().toString(static_cast<qulonglong>(m_model.otherLine()))));
-    m_explanation->setVisible(!m_model.isRecording() && !script.empty());
+    m_explanation->setVisible(!m_model.isRecording() && m_model.rowCount() > 0);
     m_notice->setNotice(m_model.notice());
     const int last = m_model.rowCount() - 1;
     if (last >= 0 && row >= 0) m_list->setCurrentIndex(m_model.index(std::min(row, last)));
@@ -192,6 +196,12 @@ void KeysView::edit(const steps::Splice& splice, std::size_t firstLine, std::siz
     select(firstLine, count);
 }
 
+void KeysView::replace(const steps::Splice& splice, std::size_t firstLine, std::size_t count) {
+    const std::size_t others = m_model.recording().lines().size() - count;
+    edit(splice, firstLine, 0);
+    if (m_model.isRecording()) select(firstLine, m_model.recording().lines().size() - others);
+}
+
 void KeysView::refuse(const Error& why) { m_notice->setNotice(QString::fromStdString(inOneParagraph(why))); }
 
 void KeysView::remove() {
@@ -224,20 +234,24 @@ void KeysView::change() {
     if (m_list->currentIndex().isValid()) m_list->edit(m_list->currentIndex());
 }
 
-void KeysView::insertPause() { insertLines(steps::pauseLines(newPause)); }
+void KeysView::insertPause() {
+    insertLines(steps::pauseLines(newPause));
+    // To be changed by the keyboard next.
+    m_list->setFocus();
+}
 
 void KeysView::insertLines(const std::string& lines) {
     if (!m_model.isRecording()) return;
     const Range range = selected();
     const std::size_t at = range.count > 0 ? range.first + range.count : m_model.recording().lines().size();
-    edit(m_model.recording().replaced(at, 0, lines), at, 1);
+    replace(m_model.recording().replaced(at, 0, lines), at, 0);
 }
 
 void KeysView::convertToText() {
     const Range range = selected();
     if (range.count == 0) return;
     const auto splice = steps::convertedToText(m_model.recording(), range.first, range.count, m_layout);
-    if (splice) edit(*splice, range.first, 1);
+    if (splice) replace(*splice, range.first, range.count);
 }
 
 void KeysView::convertToKeys() {
@@ -245,5 +259,5 @@ void KeysView::convertToKeys() {
     if (range.count == 0) return;
     const auto splice = steps::convertedToKeys(m_model.recording(), range.first, range.count, m_layout);
     if (!splice) return refuse(splice.error());
-    if (splice.value()) edit(*splice.value(), range.first, 1);
+    if (splice.value()) replace(*splice.value(), range.first, range.count);
 }

@@ -55,6 +55,8 @@ class KeysView : public QWidget {
     Range selected() const;
     void select(std::size_t firstLine, std::size_t count);
     void edit(const steps::Splice& splice, std::size_t firstLine, std::size_t count);
+    /// What stands in the place of so many lines is selected.
+    void replace(const steps::Splice& splice, std::size_t firstLine, std::size_t count);
     void refuse(const Error& why);
 
     void remove();

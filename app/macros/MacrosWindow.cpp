@@ -90,10 +90,7 @@ QWidget* MacrosWindow::makeList() {
     m_search->setAccessibleName(tr("Search macros"));
     m_search->setClearButtonEnabled(true);
     connect(m_search, &QLineEdit::textChanged, m_model, &MacroListModel::setQuery);
-    connect(m_search, &QLineEdit::returnPressed, this, [this] {
-        m_list->setCurrentIndex(m_model->firstMacro());
-        m_list->setFocus();
-    });
+    connect(m_search, &QLineEdit::returnPressed, this, &MacrosWindow::goToFirst);
 
     m_list = new QListView;
     m_list->setModel(m_model);
@@ -283,6 +280,11 @@ void MacrosWindow::beginRename(const std::string& path) {
     m_list->edit(index);
 }
 
+void MacrosWindow::goToFirst() {
+    m_list->setCurrentIndex(m_model->firstMacro());
+    m_list->setFocus();
+}
+
 void MacrosWindow::followSelection() {
     if (m_isRestoring) return;
     const MacroListItem* const item = m_model->itemAt(m_list->currentIndex());
@@ -378,6 +380,8 @@ void MacrosWindow::keyPressEvent(QKeyEvent* event) {
         emit undoWanted();
         return;
     }
+    // The field has no use for it.
+    if (event->key() == Qt::Key_Down && focusWidget() == m_search) return goToFirst();
     if (!event->matches(QKeySequence::Cancel)) return Panel::keyPressEvent(event);
     if (isCounting()) {
         endCount();

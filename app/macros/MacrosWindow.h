@@ -118,6 +118,8 @@ class MacrosWindow : public Panel {
     QLayout* makeButtons();
     QWidget* makeCount();
     void makeShortcuts();
+    /// Of what the search has found.
+    void goToFirst();
     void followSelection();
     void restoreSelection();
     void updateButtons();

@@ -146,6 +146,11 @@ void ScriptEditor::showProblems() {
         note.text += QString::fromStdString(problem.text);
         note.isError = problem.isError;
     }
+    QStringList told;
+    //: of a script; what is wrong, or could be
+    for (const auto& [line, note] : notes) told.append(tr("Line %1: %2").arg(line + 1).arg(note.text));
+    // What is drawn below the lines nobody could have read out.
+    setAccessibleDescription(told.join(u' '));
     m_layout->setNotes(std::move(notes));
     viewport()->update();
     m_numbers->update();

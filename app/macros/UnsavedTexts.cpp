@@ -21,17 +21,24 @@ UnsavedTexts::~UnsavedTexts() { keep(); }
 
 void UnsavedTexts::load() { m_texts = m_drafts.all(); }
 
-const std::string* UnsavedTexts::find(const std::string& path) const {
+const Draft* UnsavedTexts::find(const std::string& path) const {
     const auto text = m_texts.find(path);
     return text == m_texts.end() ? nullptr : &text->second;
 }
 
-void UnsavedTexts::set(const std::string& path, const std::string& text) {
-    m_texts[path] = text;
+void UnsavedTexts::set(const std::string& path, const std::string& text, std::string_view saved) {
+    const auto [draft, isNew] = m_texts.try_emplace(path);
+    draft->second.text = text;
+    if (isNew) draft->second.base = fingerprintOf(saved);
     note(path);
 }
 
-std::optional<std::string> UnsavedTexts::take(const std::string& path) {
+void UnsavedTexts::putBack(const std::string& path, Draft draft) {
+    m_texts[path] = std::move(draft);
+    note(path);
+}
+
+std::optional<Draft> UnsavedTexts::take(const std::string& path) {
     auto text = m_texts.extract(path);
     if (!text) return std::nullopt;
     note(path);
@@ -39,11 +46,11 @@ std::optional<std::string> UnsavedTexts::take(const std::string& path) {
 }
 
 void UnsavedTexts::rename(const std::vector<FolderChanges::Rename>& renamed) {
-    std::map<std::string, std::string> moved;
+    std::map<std::string, Draft> moved;
     for (const FolderChanges::Rename& rename : renamed) {
         if (auto text = take(rename.from)) moved[rename.to] = *std::move(text);
     }
-    for (const auto& [path, text] : moved) set(path, text);
+    for (auto& [path, draft] : moved) putBack(path, std::move(draft));
 }
 
 void UnsavedTexts::note(const std::string& path) {
@@ -54,10 +61,10 @@ void UnsavedTexts::note(const std::string& path) {
 
 void UnsavedTexts::keep() {
     for (const std::string& path : std::exchange(m_noted, {})) {
-        const std::string* const text = find(path);
-        if (text == nullptr) {
+        const Draft* const draft = find(path);
+        if (draft == nullptr) {
             m_drafts.forget(path);
-        } else if (const Result<> kept = m_drafts.keep(path, *text); !kept) {
+        } else if (const Result<> kept = m_drafts.keep(path, *draft); !kept) {
             emit notKept(kept.error());
         }
     }

@@ -7,6 +7,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/macros/DraftFiles.h"
@@ -25,14 +26,17 @@ class UnsavedTexts : public QObject {
     /// Takes over what an earlier run has left.
     void load();
 
-    const std::map<std::string, std::string>& all() const { return m_texts; }
+    const std::map<std::string, Draft>& all() const { return m_texts; }
     bool contains(const std::string& path) const { return m_texts.contains(path); }
     /// Null if there is none.
-    const std::string* find(const std::string& path) const;
+    const Draft* find(const std::string& path) const;
 
-    void set(const std::string& path, const std::string& text);
+    /// `saved` is what the file has; the first one counts until the text is taken.
+    void set(const std::string& path, const std::string& text, std::string_view saved);
+    /// As it was taken.
+    void putBack(const std::string& path, Draft draft);
     /// Empty if there is none.
-    std::optional<std::string> take(const std::string& path);
+    std::optional<Draft> take(const std::string& path);
     /// All at the same time: each text belongs to another path, in place of what is not saved there.
     void rename(const std::vector<FolderChanges::Rename>& renamed);
 
@@ -44,7 +48,7 @@ class UnsavedTexts : public QObject {
     void keep();
 
     DraftFiles m_drafts;
-    std::map<std::string, std::string> m_texts;
+    std::map<std::string, Draft> m_texts;
     /// The disk has an earlier state of these.
     std::set<std::string> m_noted;
     QTimer m_timer;

@@ -5,12 +5,13 @@
 #include <cstdlib>
 
 #include "platform/ErrorText.h"
+#include "platform/TerminalText.h"
 #include "platform/linux/StandardStreams.h"
 
 void prepareProcess() { occupyStandardStreams(); }
 
 int reportFailure(const Error& error) {
-    std::fprintf(stderr, "keyrill: %s\n", inOneParagraph(error).c_str());
+    std::fprintf(stderr, "keyrill: %s\n", harmlessText(inOneParagraph(error)).c_str());
     return EXIT_FAILURE;
 }
 

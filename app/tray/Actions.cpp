@@ -26,6 +26,14 @@ QString obstacleToAll(const MenuFacts& facts) {
     return {};
 }
 
+/// What is typed would go into a window of the program's own, and nobody could stop it by hot key.
+QString obstacleToKeys(const MenuFacts& facts) {
+    if (facts.promptShown) return Words::tr("Keyrill is asking how often to play.");
+    if (facts.hotKeysOff)
+        return Words::tr("Keyrill's hot keys are off while they are being chosen in a window of its own.");
+    return {};
+}
+
 QString obstacleToPlaying(const MenuFacts& facts) {
     if (facts.recording) return Words::tr("A macro is being recorded.");
     return facts.hasMacro ? QString() : Words::tr("There is no macro to play yet.");
@@ -50,6 +58,9 @@ std::string actionNames() {
 
 QString obstacleTo(const ActionRow& action, const MenuFacts& facts) {
     if (QString toAll = obstacleToAll(facts); !toAll.isEmpty()) return toAll;
+    if (action.menuItem == "record" || action.menuItem == "play" || action.menuItem == "multiplePlay") {
+        if (QString toKeys = obstacleToKeys(facts); !toKeys.isEmpty()) return toKeys;
+    }
     if (action.menuItem == "record" && facts.recording)
         return Words::tr("A macro is being recorded already.");
     if (action.menuItem == "stop" && !facts.recording)

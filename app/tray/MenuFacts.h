@@ -14,6 +14,10 @@ struct MenuFacts {
     /// Whether a question of the program's own is open or the screen is locked.
     bool gateShut = false;
     bool screenLocked = false;
+    /// Whether the prompt asks how often to play.
+    bool promptShown = false;
+    /// Whether hot keys are off, since they are being chosen.
+    bool hotKeysOff = false;
 
     friend bool operator==(const MenuFacts&, const MenuFacts&) = default;
 };

@@ -70,7 +70,7 @@ class LineReader {
     /// pause = "\tdelay " number "\n" short-delay
     /// text = "\tkeystroke " expression "\n" short-delay
     /// held = "\tkey " ( "down" | "up" ) " " word "\n" short-delay
-    /// Without one, the rest begins with the line that is not as it should be.
+    /// Without one, nothing is read.
     std::optional<Line> line() {
         Line line;
         const std::string_view before = m_rest;
@@ -79,8 +79,10 @@ class LineReader {
                             : accept("\tkey down ") ? held(line, LineKind::down)
                             : accept("\tkey up ")   ? held(line, LineKind::up)
                                                     : accept("\tkeystroke ") && text(line);
-        if (!isRead) m_rest = before;
-        if (!isRead || !accept(shortDelay)) return std::nullopt;
+        if (!isRead || !accept(shortDelay)) {
+            m_rest = before;
+            return std::nullopt;
+        }
         line.size = before.size() - m_rest.size();
         return line;
     }

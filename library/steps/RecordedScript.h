@@ -50,7 +50,8 @@ struct Line {
 
 /// Why a script is not of the shape that recordings have.
 struct OtherShape {
-    /// The first line that none of a recording is, counted from 1; one behind the last if lines are missing.
+    /// Where the first step begins that none of a recording is, counted from 1; one behind the last line if
+    /// some are missing.
     std::size_t line = 1;
 };
 

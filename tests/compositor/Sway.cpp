@@ -33,8 +33,9 @@ Sway::Sway(const Options& options) : m_hasXServer(options.hasXServer) {
                      {"SWAYSOCK", findSocket()},
                      {"DISPLAY", ""},
                      {"DBUS_SESSION_BUS_ADDRESS", ""}};
-    // It answers when it has read its configuration.
-    message({"-t", "get_version"});
+    // Its socket is there before it listens, and it answers when it has read its configuration.
+    const bool answers = eventually([this] { return tries({"-t", "get_version"}); });
+    if (!answers) throw std::runtime_error("sway does not answer: " + contentOf(log));
     if (!m_hasXServer) return;
     const bool isFound = eventually([this] { return !findDisplay().empty(); });
     if (!isFound) throw std::runtime_error("sway has no X server: " + contentOf(log));

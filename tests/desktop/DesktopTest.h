@@ -49,13 +49,16 @@ class DesktopTest : public testing::Test {
         desktop.run({"xdotool", "windowactivate", std::to_string(window.number)});
         desktop.awaitFocus(title);
     }
-    /// Closes a window by the window manager's key.
+    /// Closes a window by the window manager's key. A shortcut field that has just got the focus may take the
+    /// first one for itself, and holds all keys until the last one is let go.
     void close(const char* title) const {
         giveFocus(title);
-        // A shortcut field holds all keys until the last one is let go.
-        ASSERT_TRUE(eventually([this] { return !desktop.screen().isKeyboardGrabbed(); }));
-        press("alt+F4");
-        ASSERT_TRUE(eventually([&] { return !desktop.shows(title); }));
+        const auto closes = [&] {
+            EXPECT_TRUE(eventually([this] { return !desktop.screen().isKeyboardGrabbed(); }));
+            press("alt+F4");
+            return eventually([&] { return !desktop.shows(title); }, std::chrono::seconds(10));
+        };
+        ASSERT_TRUE(closes() || closes());
     }
 
     /// Whether that lock's light is on.

@@ -180,9 +180,9 @@ TEST_F(MacroCallsTest, whatIsNotThereIsSaidWithWhatIsNear) {
     macros.drop("work/Hello", typing("y"));
     const Keyrill keyrill(desktop);
     EXPECT_EQ(shell("keyrill --play greting"),
-              refused(R"(There is no macro called "greting". Near are: "Greeting".)"));
+              refused(R"(There is no macro called "greting". Similar: "Greeting".)"));
     EXPECT_EQ(shell("keyrill --show greting"),
-              refused(R"(There is no macro called "greting". Near are: "Greeting".)"));
+              refused(R"(There is no macro called "greting". Similar: "Greeting".)"));
     EXPECT_EQ(shell("keyrill --play nowhere"),
               refused(R"(There is no macro called "nowhere". keyrill --list lists all.)"));
     EXPECT_EQ(
@@ -190,7 +190,7 @@ TEST_F(MacroCallsTest, whatIsNotThereIsSaidWithWhatIsNear) {
         refused(R"(There are several macros called "Hello". Say which one: "mail/Hello", "work/Hello".)"));
     EXPECT_EQ(shell("keyrill --play ./nowhere"),
               refused("The file " + desktop.file("nowhere") +
-                      " cannot be read: No such file or directory Check that the file is there and who may "
+                      " cannot be read: No such file or directory. Check that the file is there and who may "
                       "read it."));
     EXPECT_FALSE(desktop.shows("Macros"));
 }
@@ -204,6 +204,33 @@ TEST_F(MacroCallsTest, whatCannotBePlayedIsSaid) {
                       macros.folder + "/Broken.keyrill\" tells more."));
     EXPECT_EQ(shell("keyrill --action=record"), done);
     EXPECT_EQ(shell("keyrill --play Greeting"), refused("A macro is being recorded."));
+}
+
+/// Names of files come from others, too.
+TEST_F(MacroCallsTest, namesDoNotActOnTheTerminal) {
+    macros.drop("vil\x1Bla", "beep\ndelay \"a\n");
+    const Keyrill keyrill(desktop);
+    EXPECT_EQ(shell("keyrill --play villa"),
+              refused(R"(There is no macro called "villa". Similar: "vil la".)"));
+}
+
+/// What is asked for from outside is not typed into the program's own windows.
+TEST_F(MacroCallsTest, nothingIsTypedIntoThePrompt) {
+    const Keyrill keyrill(desktop);
+    EXPECT_EQ(shell("keyrill --play Greeting"), done);
+    press("ctrl+super+r");
+    desktop.awaitWindow(title::overlay);
+    press("ctrl+super+s");
+    EXPECT_EQ(shell("keyrill --action=record"), done);
+    press("a");
+    EXPECT_EQ(shell("keyrill --action=stop"), done);
+    EXPECT_EQ(shell("keyrill --action=multiple"), done);
+    desktop.awaitFocus(title::prompt);
+    EXPECT_EQ(shell("keyrill --play Greeting"), refused("Keyrill is asking how often to play."));
+    EXPECT_EQ(shell("keyrill --action=record").status, 2);
+    press("Escape");
+    EXPECT_TRUE(eventually([this] { return !desktop.shows(title::prompt); }));
+    EXPECT_EQ(shell("keyrill --play Greeting"), done);
 }
 
 TEST_F(MacroCallsTest, aCommandLineThatMakesNoSenseHasAStatusOfItsOwn) {
@@ -300,7 +327,7 @@ TEST_F(MacroCallsTest, anyCallerOnTheBusMayAsk) {
               invalid + "\"https://orlen.example/\" is no file of this machine. It begins with file:///.");
     EXPECT_EQ(error({"example.orlen.Keyrill.Macros.PlayMacro", "Greting", "{}"}),
               "Error: GDBus.Error:example.orlen.Keyrill.Error.NoSuchMacro: There is no macro called "
-              "\"Greting\". Near are: \"Greeting\".");
+              "\"Greting\". Similar: \"Greeting\".");
 }
 
 /// Methods with their arguments, a line each, as an introspection has them.

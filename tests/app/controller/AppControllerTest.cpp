@@ -7,6 +7,7 @@
 
 #include "app/AppTest.h"
 #include "app/overlay/MultiplePlayWindow.h"
+#include "app/panels/PreferencesPanel.h"
 #include "app/tray/Actions.h"
 #include "app/tray/MacroMenuItem.h"
 #include "engine/MacroPlayer.h"
@@ -348,6 +349,20 @@ TEST_F(AppControllerTest, aPlayFromOutsideNeedsNoCurrentMacroButThatNothingIsRec
     EXPECT_EQ(runs().size(), 1U);
     controller.recordMacro(nullptr);
     EXPECT_EQ(controller.askedPlays().ask({.script = "beep"}).error().message, "A macro is being recorded.");
+}
+
+TEST_F(AppControllerTest, nobodyFromOutsideTypesIntoItsOwnWindows) {
+    recordKey(key::a);
+    controller.showPreferences(nullptr);
+    EXPECT_EQ(controller.askedPlays().ask({.script = "beep"}).error().message,
+              "Keyrill's hot keys are off while they are being chosen in a window of its own.");
+    EXPECT_FALSE(controller.carryOut(*actionNamed("record")));
+    controller.preferencesWindow()->close();
+    controller.showMultiplePlayGui();
+    EXPECT_EQ(controller.askedPlays().ask({.script = "beep"}).error().message,
+              "Keyrill is asking how often to play.");
+    controller.multiplePlayWindow()->close();
+    EXPECT_TRUE(controller.askedPlays().ask({.script = "beep"}));
 }
 
 TEST_F(AppControllerTest, aPlayFromOutsideIsForgottenWhenAQuestionOpensBeforeItBegins) {

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTimer>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -65,7 +66,7 @@ class MacrosDeskTest : public AppTest {
     std::string file(const std::string& name) const { return folder + "/" + name + ".keyrill"; }
     void write(const std::string& name, const std::string& text) const { std::ofstream(file(name)) << text; }
     std::string draftFolder() const { return m_home.file("state"); }
-    std::map<std::string, std::string> drafts() const { return DraftFiles(draftFolder()).all(); }
+    std::map<std::string, Draft> drafts() const { return DraftFiles(draftFolder()).all(); }
     bool isThere(const std::string& name) const { return std::filesystem::exists(file(name)); }
 
     MacrosWindow& window() { return *desk.window(); }
@@ -289,7 +290,7 @@ TEST_F(MacrosDeskTest, aNameThatCannotBeGivenIsToldAndNothingIsOverwritten) {
     write("Hello", "other");
     window().list().setData(window().list().indexOf("Greeting.keyrill"), QStringLiteral("Hello"),
                             Qt::EditRole);
-    EXPECT_EQ(warning(), "There is already a macro called \"Hello.keyrill\".");
+    EXPECT_EQ(warning(), "There is already a macro called \"Hello\".");
     EXPECT_EQ(contentOf(file("Hello")), "other");
     EXPECT_EQ(contentOf(file("Greeting")), a);
 }
@@ -346,6 +347,7 @@ TEST_F(MacrosDeskTest, aRecordingBecomesAMacroToBeNamed) {
         return macro;
     }());
     EXPECT_TRUE(window().isVisible());
+    EXPECT_TRUE(windows.calls().back().starts_with("activate(")) << windows.calls().back();
     EXPECT_TRUE(soon([this] { return window().chosen() == "New Macro.keyrill"; }));
     EXPECT_EQ(contentOf(file("New Macro")), ab);
 }
@@ -373,7 +375,7 @@ TEST_F(MacrosDeskTest, whatIsNotSavedOutlivesTheProgram) {
     choose("Greeting");
     editor().keys().insertLines(steps::keyLines(key::b, 0));
     ASSERT_TRUE(soon([this] { return drafts().size() == 1; }));
-    EXPECT_EQ(drafts().begin()->second, ab);
+    EXPECT_EQ(drafts().begin()->second, (Draft{ab, fingerprintOf(a)}));
     // The file goes too.
     std::filesystem::remove(file("Greeting"));
     Stage otherStage(windows, [] { return std::vector<QWidget*>(); });
@@ -384,6 +386,86 @@ TEST_F(MacrosDeskTest, whatIsNotSavedOutlivesTheProgram) {
     emit next.window()->saveWanted();
     EXPECT_EQ(contentOf(file("Greeting")), ab);
     EXPECT_TRUE(soon([this] { return drafts().empty(); }));
+}
+
+TEST_F(MacrosDeskTest, whatOthersWroteMeanwhileIsToldAsLongAsItWouldBeLost) {
+    const std::string conflict =
+        "Another program has changed this macro. If you save, your text replaces it.";
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    write("Greeting", recording(steps::keyLines(key::s, 0)));
+    ASSERT_TRUE(soon([&] { return warning() == conflict; })) << warning();
+    choose("work/Mail");
+    EXPECT_EQ(warning(), "");
+    choose("Greeting");
+    EXPECT_TRUE(soon([&] { return warning() == conflict; })) << warning();
+    EXPECT_EQ(editor().text(), ab);
+    ASSERT_TRUE(soon([this] { return drafts().size() == 1; }));
+    // Another run knows it too.
+    Stage otherStage(windows, [] { return std::vector<QWidget*>(); });
+    MacrosDesk next({shelf, files, platform().keyboardLayout, gate, otherStage, DraftFiles(draftFolder())});
+    next.show();
+    next.window()->choose("Greeting.keyrill");
+    const auto nextWarning = [&next] {
+        for (auto* line : next.window()->findChildren<NoticeLine*>()) {
+            if (!line->notice().isEmpty() && line->isVisible()) return line->notice().toStdString();
+        }
+        return std::string();
+    };
+    EXPECT_TRUE(soon([&] { return nextWarning() == conflict; })) << nextWarning();
+    // Who saves has chosen.
+    emit window().saveWanted();
+    choose("work/Mail");
+    choose("Greeting");
+    EXPECT_EQ(warning(), "");
+}
+
+TEST_F(MacrosDeskTest, aTextWhoseFileIsGoneCanBeDeletedAndBroughtBack) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    std::filesystem::remove(file("Greeting"));
+    ASSERT_TRUE(soon([this] { return !warning().empty(); }));
+    button("Delete").click();
+    EXPECT_EQ(warning(), "");
+    EXPECT_TRUE(soon([this] { return names() == "work/Mail"; })) << names();
+    EXPECT_TRUE(soon([this] { return drafts().empty(); }));
+    button("Undo").click();
+    EXPECT_TRUE(soon([this] { return window().chosen() == "Greeting.keyrill" && editor().text() == ab; }));
+    EXPECT_FALSE(isThere("Greeting"));
+}
+
+TEST_F(MacrosDeskTest, aFileThatCannotBeReadIsNotCalledGone) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    choose("work/Mail");
+    std::filesystem::remove(file("Greeting"));
+    std::filesystem::create_directory(file("Greeting"));
+    choose("Greeting");
+    EXPECT_TRUE(soon([this] { return warning().find("folder") != std::string::npos; })) << warning();
+    EXPECT_EQ(warning().find("gone"), std::string::npos) << warning();
+    EXPECT_EQ(editor().text(), ab);
+}
+
+TEST_F(MacrosDeskTest, aScriptThatIsWrongIsNotCountedDownFor) {
+    write("Broken", "beep\ntell application\n");
+    ASSERT_TRUE(soon([this] { return names() == "Broken|Greeting|work/Mail"; }));
+    choose("Broken");
+    button("Play").click();
+    EXPECT_FALSE(window().isCounting());
+    const auto lines = window().findChildren<NoticeLine*>();
+    EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [](const NoticeLine* line) {
+        return line->notice().startsWith(QStringLiteral("The macro cannot be played. Line 2: "));
+    }));
+    choose("Greeting");
+    button("Play").click();
+    EXPECT_TRUE(window().isCounting());
+}
+
+TEST_F(MacrosDeskTest, whatCannotBeKeptOfAMacroIsTold) {
+    choose("Greeting");
+    platform().macroRecords.addFault({"The disk is full", "Make room."});
+    window().settings().playWanted({.times = 3});
+    EXPECT_EQ(warning(), "The disk is full. Make room.");
 }
 
 TEST_F(MacrosDeskTest, whatIsNotSavedGoesToTheTrashAndComesBackWithItsMacro) {

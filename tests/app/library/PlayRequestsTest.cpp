@@ -58,7 +58,7 @@ TEST_F(PlayRequestsTest, aNameThatThereIsNotBringsTheNearest) {
     EXPECT_EQ(
         requests.ofMacro("greting", {}).error(),
         (Refusal{Cause::noSuchMacro,
-                 {R"(There is no macro called "greting".)", R"(Near are: "Greeting", "mail/Greetings".)"}}));
+                 {R"(There is no macro called "greting".)", R"(Similar: "Greeting", "mail/Greetings".)"}}));
     EXPECT_EQ(
         requests.ofMacro("xyz", {}).error(),
         (Refusal{Cause::noSuchMacro, {R"(There is no macro called "xyz".)", "keyrill --list lists all."}}));

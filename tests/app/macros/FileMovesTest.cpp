@@ -61,7 +61,7 @@ TEST_F(FileMovesTest, renamesAndOverwritesNothing) {
     EXPECT_FALSE(isThere(greeting));
     std::ofstream(greeting) << "another";
     EXPECT_EQ(FileMoves::rename(greeting, file("Other.keyrill")).error().message,
-              "There is already a macro called \"Other.keyrill\".");
+              "There is already a macro called \"Other\".");
     EXPECT_EQ(contentOf(greeting), "another");
     EXPECT_EQ(contentOf(file("Other.keyrill")), "text \xff\r\n");
     ASSERT_TRUE(FileMoves::rename(greeting, file("greeting.keyrill"))) << "the case alone";

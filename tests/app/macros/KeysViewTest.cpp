@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
+#include <QToolButton>
 
 #include "app/RightToLeft.h"
 #include "app/widgets/NoticeLine.h"
@@ -172,6 +173,28 @@ TEST_F(KeysViewTest, keysGoBehindTheSelectedStepOrToTheEnd) {
     EXPECT_EQ(rows(), "Hello|Ctrl+S|a|Pause 0.5 s|↓ × 3|b");
 }
 
+TEST_F(KeysViewTest, whatIsRecordedNextGoesBehindAllThatWasRecordedBefore) {
+    select(1, 1);
+    view.insertLines(down + save + steps::pauseLines(1));
+    EXPECT_EQ(selected(), "234");
+    view.insertLines(keyLines(key::b, 0));
+    EXPECT_EQ(rows(), "Hello|Ctrl+S|↓|Ctrl+S|Pause 1 s|b|Pause 0.5 s|↓ × 3");
+    EXPECT_EQ(selected(), "5");
+}
+
+TEST_F(KeysViewTest, aStepIsSelectedOnceTheListHasTheKeyboard) {
+    list().selectionModel()->clear();
+    QFocusEvent event(QEvent::FocusIn);
+    QCoreApplication::sendEvent(&list(), &event);
+    EXPECT_EQ(selected(), "0");
+    action("Down").trigger();
+    EXPECT_EQ(rows(), "Ctrl+S|Hello|Pause 0.5 s|↓ × 3");
+    // What is added is to be changed by the keyboard next.
+    view.findChild<QToolButton*>()->setFocus();
+    action("Add Pause").trigger();
+    EXPECT_EQ(view.focusWidget(), &list());
+}
+
 TEST_F(KeysViewTest, keysBecomeATextAndBack) {
     const std::string before = script;
     select(0, 3);
@@ -216,6 +239,8 @@ TEST_F(KeysViewTest, namesTheLineThatMakesAScriptOneOfItsOwn) {
         "it under Script.");
     show(recording(save));
     EXPECT_EQ(explanation(), "");
+    show("tell application\n");
+    EXPECT_EQ(explanation(), "") << "it would press nothing";
 }
 
 TEST_F(KeysViewTest, tellsWhyAScriptShowsNothing) {

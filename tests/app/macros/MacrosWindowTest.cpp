@@ -203,6 +203,15 @@ TEST_F(MacrosWindowTest, offersRecordingsWithTheirTimes) {
     EXPECT_EQ(firstLine(), QStringLiteral("\u2068ls -l\u2069\t\u2068") + written + QChar(0x2069));
 }
 
+TEST_F(MacrosWindowTest, theArrowLeadsFromTheSearchToWhatWasFound) {
+    search().setFocus();
+    search().setText(QStringLiteral("mail"));
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+    QCoreApplication::sendEvent(&search(), &event);
+    EXPECT_EQ(window.chosen(), "work/Mail.keyrill");
+    EXPECT_EQ(window.focusWidget(), &list());
+}
+
 TEST_F(MacrosWindowTest, whoDeletesAMacroIsAmongTheOthers) {
     window.choose("Greeting.keyrill");
     button("Delete").setFocus();

@@ -49,6 +49,14 @@ TEST_F(ScriptEditorTest, tellsWhatTheCompilerSaysOfALine) {
     EXPECT_TRUE(editor.problems().empty());
 }
 
+TEST_F(ScriptEditorTest, whatTheCompilerSaysCanBeReadOut) {
+    editor.setScript("beep\ntell application\n");
+    ASSERT_EQ(editor.problems().size(), 1U);
+    EXPECT_EQ(editor.accessibleDescription().toStdString(), "Line 2: " + editor.problems()[0].text);
+    editor.setScript("beep\n");
+    EXPECT_EQ(editor.accessibleDescription(), QString());
+}
+
 TEST_F(ScriptEditorTest, makesRoomBelowTheLineForIt) {
     editor.setScript("delay 1\ndelay 1\n");
     const qreal without =

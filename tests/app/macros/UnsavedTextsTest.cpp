@@ -12,9 +12,15 @@ namespace {
 
 using Texts = std::map<std::string, std::string>;
 
+Texts textsOf(const std::map<std::string, Draft>& drafts) {
+    Texts texts;
+    for (const auto& [path, draft] : drafts) texts[path] = draft.text;
+    return texts;
+}
+
 class UnsavedTextsTest : public testing::Test {
   protected:
-    Texts onDisk() const { return DraftFiles(folder).all(); }
+    Texts onDisk() const { return textsOf(DraftFiles(folder).all()); }
 
     TemporaryFolder home;
     const std::string folder = home.file("unsaved");
@@ -23,25 +29,39 @@ class UnsavedTextsTest : public testing::Test {
 TEST_F(UnsavedTextsTest, areOnTheDiskWhenTheProgramEnds) {
     {
         UnsavedTexts texts{DraftFiles(folder)};
-        texts.set("a", "one");
-        texts.set("b", "two");
-        EXPECT_EQ(texts.take("b"), "two");
+        texts.set("a", "one", "saved");
+        texts.set("b", "two", "saved");
+        EXPECT_EQ(texts.take("b"), (Draft{"two", fingerprintOf("saved")}));
         EXPECT_EQ(texts.take("b"), std::nullopt);
     }
     EXPECT_EQ(onDisk(), (Texts{{"a", "one"}}));
     UnsavedTexts next{DraftFiles(folder)};
     next.load();
-    EXPECT_EQ(next.all(), (Texts{{"a", "one"}}));
+    EXPECT_EQ(textsOf(next.all()), (Texts{{"a", "one"}}));
+}
+
+TEST_F(UnsavedTextsTest, knowWhatTheyWereFirstMadeFrom) {
+    {
+        UnsavedTexts texts{DraftFiles(folder)};
+        texts.set("a", "one", "saved");
+        texts.set("a", "one two", "saved by others meanwhile");
+        EXPECT_EQ(texts.find("a")->base, fingerprintOf("saved"));
+        texts.putBack("b", *texts.take("a"));
+        texts.rename({{"b", "c"}});
+    }
+    UnsavedTexts next{DraftFiles(folder)};
+    next.load();
+    EXPECT_EQ(*next.find("c"), (Draft{"one two", fingerprintOf("saved")}));
 }
 
 TEST_F(UnsavedTextsTest, goWithTheirMacrosAlsoWhereTheseChangePlaces) {
     {
         UnsavedTexts texts{DraftFiles(folder)};
-        texts.set("a", "one");
-        texts.set("b", "two");
-        texts.set("c", "three");
+        texts.set("a", "one", "saved");
+        texts.set("b", "two", "saved");
+        texts.set("c", "three", "saved");
         texts.rename({{"a", "b"}, {"b", "a"}, {"c", "d"}, {"x", "y"}});
-        EXPECT_EQ(texts.all(), (Texts{{"a", "two"}, {"b", "one"}, {"d", "three"}}));
+        EXPECT_EQ(textsOf(texts.all()), (Texts{{"a", "two"}, {"b", "one"}, {"d", "three"}}));
     }
     EXPECT_EQ(onDisk(), (Texts{{"a", "two"}, {"b", "one"}, {"d", "three"}}));
 }
@@ -55,10 +75,10 @@ TEST_F(UnsavedTextsTest, tellWhatCannotBeKept) {
         loop.quit();
     });
     QTimer::singleShot(10'000, &loop, &QEventLoop::quit);
-    texts.set("a", "one");
+    texts.set("a", "one", "saved");
     loop.exec();
     EXPECT_EQ(told, "The folder /proc/nowhere cannot be written to: No such file or directory.");
-    EXPECT_EQ(texts.all(), (Texts{{"a", "one"}}));
+    EXPECT_EQ(textsOf(texts.all()), (Texts{{"a", "one"}}));
 }
 
 }  // namespace

@@ -53,6 +53,20 @@ TEST(ActionsTest, nothingIsDoneBehindAQuestionOrALock) {
     }
 }
 
+/// Keys would go into a window of the program's own, or could not be stopped by hot key.
+TEST(ActionsTest, nothingIsRecordedOrPlayedWhileThePromptOrAHotKeyIsBeingTyped) {
+    const MenuFacts prompt{.hasStopped = true, .hasMacro = true, .promptShown = true};
+    const MenuFacts choosing{.hasStopped = true, .hasMacro = true, .hotKeysOff = true};
+    for (const char* action : {"record", "play", "multiple"}) {
+        EXPECT_EQ(obstacle(action, prompt), "Keyrill is asking how often to play.");
+        EXPECT_EQ(obstacle(action, choosing),
+                  "Keyrill's hot keys are off while they are being chosen in a window of its own.");
+    }
+    EXPECT_EQ(obstacle("macros", prompt), "");
+    EXPECT_EQ(obstacle("macros", choosing), "");
+    EXPECT_EQ(obstacle("stop", {.recording = true, .hotKeysOff = true}), "");
+}
+
 TEST(ActionsTest, theyAreKnownByTheirNames) {
     EXPECT_EQ(actionNames(), "record, stop, play, multiple, save-pause, macros");
     EXPECT_EQ(actionNamed("multiple")->menuItem, "multiplePlay");

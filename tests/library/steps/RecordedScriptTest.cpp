@@ -117,7 +117,7 @@ TEST(RecordedScriptTest, theLineThatIsNoneOfARecordingIsTold) {
     EXPECT_EQ(otherLine(recordingOf(step + "\tdelay x\ndelay 0.01\n")), 4U);
     EXPECT_EQ(otherLine(recordingOf(step + "\tkeystroke a\ndelay 0.01\n")), 4U);
     EXPECT_EQ(otherLine(recordingOf(step + "\tkey down fn\ndelay 0.01\n")), 4U);
-    EXPECT_EQ(otherLine(recordingOf("\tkey code (1) using {}\ndelay 0.02\n")), 3U) << "the short delay";
+    EXPECT_EQ(otherLine(recordingOf("\tkey code (1) using {}\ndelay 0.02\n")), 2U) << "the short delay";
     EXPECT_EQ(otherLine(recordingOf(step) + "\n-- note\nbeep\n"), 7U);
     EXPECT_EQ(otherLine("tell application \"System Events\"\n" + step), 4U) << "its last line is missing";
 }

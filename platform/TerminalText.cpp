@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/TerminalText.h"
+#include "platform/TerminalText.h"
 
 #include "platform/Utf8.h"
 
