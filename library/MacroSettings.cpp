@@ -32,7 +32,7 @@ std::optional<Number> numberOf(const Record& record, const char* field) {
 
 std::string textOf(double number) {
     std::array<char, 32> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+    auto* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
     return {text.data(), end};
 }
 

@@ -89,14 +89,19 @@ void takeRecordings(Camera& camera, MacrosWindow& window) {
     }
 }
 
+/// With that word for "using".
+std::string namesScript(const std::string& usingWord) {
+    return "-- Asks for a name, and types it.\ntell application \"System Events\"\n\tdisplay dialog \"Whose "
+           "name?\" default answer \"Ann\"\n\tset person to text returned of result\n\trepeat 3 times\n"
+           "\t\tkeystroke person & \", \"\n\t\tkey code (36) " +
+           usingWord + " {shift down}\n\tend repeat\nend tell\n";
+}
+
 void takeMacros(Camera& camera) {
     MacrosWindow window(services().keyboardLayout);
     std::map<std::string, std::string> scripts = {
         {"Greeting", recordedMacro("Dear Ann\n\n~^vKind regards\n")->script()},
-        {"work/Names",
-         "-- Asks for a name, and types it.\ntell application \"System Events\"\n\tdisplay dialog \"Whose "
-         "name?\" default answer \"Ann\"\n\tset person to text returned of result\n\trepeat 3 times\n"
-         "\t\tkeystroke person & \", \"\n\t\tkey code (36) usin {shift down}\n\tend repeat\nend tell\n"}};
+        {"work/Names", namesScript("using")}};
     const KeyCombo hotKey{.flags = controlflag::control | controlflag::command, .code = 18};
     window.setItems({{"Greeting", QStringLiteral("Greeting"), {}, combinationText(hotKey)},
                      {"Signature", QStringLiteral("Signature"), {}},
@@ -116,6 +121,7 @@ void takeMacros(Camera& camera) {
     camera.takeShown({&window}, QStringLiteral("macros-other-script"));
     window.settings().setNotice({});
     window.editor().showScriptTab(true);
+    window.showMacro(scripts["work/Names"], namesScript("usin"));
     camera.takeShown({&window}, QStringLiteral("macros-script"));
     window.tell(QCoreApplication::translate("MacrosDesk", "The macro is in the trash."),
                 QCoreApplication::translate("MacrosDesk", "Undo"));
