@@ -39,7 +39,7 @@ QStringList offeredLanguages() {
 
 QString chosenLanguage(const QStringList& wanted, const QStringList& offered) {
     for (const QString& name : wanted) {
-        const QString language = languageOf(name);
+        QString language = languageOf(name);
         if (language == u"en" || language == u"c" || language == u"posix") return {};
         if (offered.contains(language)) return language;
     }

@@ -577,6 +577,14 @@ MACRO اسم يطبعه --list، مع مجموعته أو من دونها؛ من
 NAME نوع الجلسة الرسومية؛ من دونه يكتشفها البرنامج بنفسه. المتاح: %2
 </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is one thing too many.</source>
+        <translation>الخيار «%1» زائد.</translation>
+    </message>
+    <message>
+        <source>Call keyrill once for each.</source>
+        <translation>استدعِ keyrill مرة لكل منهما.</translation>
+    </message>
 </context>
 <context>
     <name>ControlWindow</name>

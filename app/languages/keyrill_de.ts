@@ -578,6 +578,14 @@ und 2, wenn der Aufruf falsch war; die Standardfehlerausgabe sagt, warum.
 NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst heraus. Es gibt: %2
 </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is one thing too many.</source>
+        <translation>„%1“ ist eines zu viel.</translation>
+    </message>
+    <message>
+        <source>Call keyrill once for each.</source>
+        <translation>Rufen Sie keyrill für jedes einzeln auf.</translation>
+    </message>
 </context>
 <context>
     <name>ControlWindow</name>

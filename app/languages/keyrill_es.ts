@@ -578,6 +578,14 @@ incorrecta; la salida de error dice por qué.
 NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí mismo. Existen: %2
 </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is one thing too many.</source>
+        <translation>«%1» está de más.</translation>
+    </message>
+    <message>
+        <source>Call keyrill once for each.</source>
+        <translation>Llame a keyrill una vez para cada cosa.</translation>
+    </message>
 </context>
 <context>
     <name>ControlWindow</name>

@@ -578,6 +578,14 @@ l’appel est incorrect&#xa0;; la sortie d’erreur dit pourquoi.
 NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui-même. Types possibles&#xa0;: %2
 </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is one thing too many.</source>
+        <translation>«&#xa0;%1&#xa0;» est de trop.</translation>
+    </message>
+    <message>
+        <source>Call keyrill once for each.</source>
+        <translation>Appelez keyrill une fois pour chacun.</translation>
+    </message>
 </context>
 <context>
     <name>ControlWindow</name>

@@ -578,6 +578,14 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
 名前はデスクトップセッションの種類です。なければプログラムが自分で調べます。使えるもの: %2
 </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is one thing too many.</source>
+        <translation>「%1」は余分です。</translation>
+    </message>
+    <message>
+        <source>Call keyrill once for each.</source>
+        <translation>それぞれについて keyrill を別々に呼び出してください。</translation>
+    </message>
 </context>
 <context>
     <name>ControlWindow</name>

@@ -578,6 +578,14 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
 ИМЯ — вид графического сеанса; без него программа определяет его сама. Доступны: %2
 </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is one thing too many.</source>
+        <translation>«%1» — лишнее.</translation>
+    </message>
+    <message>
+        <source>Call keyrill once for each.</source>
+        <translation>Вызовите keyrill отдельно для каждого.</translation>
+    </message>
 </context>
 <context>
     <name>ControlWindow</name>

@@ -42,6 +42,8 @@ bool takeWish(CommandLine& line, std::string_view name, const std::optional<std:
     const auto* const option = std::find_if(wishOptions.begin(), wishOptions.end(),
                                             [name](const WishOption& row) { return row.name == name; });
     if (option == wishOptions.end() || (value && !option->takesName)) return false;
+    const bool isFirst = line.wish == Wish::start || line.wish == option->wish;
+    if (!isFirst) line.others.emplace_back(name);
     line.wish = option->wish;
     if (value) line.files.push_back(*value);
     return true;
@@ -92,6 +94,10 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
 }
 
 Result<void> checkOptions(const CommandLine& line) {
+    if (!line.others.empty()) {
+        return refusal(Words::tr("\"%1\" is one thing too many.").arg(shown(line.others.front())),
+                       Words::tr("Call keyrill once for each."));
+    }
     if (line.wish != Wish::play && (line.times || line.speed)) {
         return refusal(Words::tr("--times and --speed say how --play plays."),
                        Words::tr("keyrill --help tells more."));

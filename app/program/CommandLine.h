@@ -31,6 +31,8 @@ struct CommandLine {
     std::optional<std::string> speed = {};
     /// As they were given, in the file system's encoding; of a play or a show the names of macros, too.
     std::vector<std::string> files = {};
+    /// Options that ask for something else than the one before, in order.
+    std::vector<std::string> others = {};
     /// Options that are none of ours, in order. Some are the toolkit's, which takes them out when it starts.
     std::vector<std::string> unknown = {};
 
@@ -41,7 +43,8 @@ struct CommandLine {
 /// a file.
 CommandLine readCommandLine(const std::vector<std::string>& arguments);
 
-/// Success if all options are known; else the error names the first one.
+/// Success if all options are known and one thing is asked for; else the error names the first one that is
+/// too much.
 Result<void> checkOptions(const CommandLine& line);
 
 /// The same where there is no toolkit to take its options out: those with one minus are passed over.

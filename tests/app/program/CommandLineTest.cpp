@@ -42,6 +42,13 @@ TEST(CommandLineTest, helpAndVersionAreNoFiles) {
     EXPECT_EQ(readCommandLine({"--check"}), (CommandLine{.wish = CommandLine::Wish::check}));
 }
 
+TEST(CommandLineTest, oneThingIsAskedForAtATime) {
+    const Error expected = {"\"--play\" is one thing too many.", "Call keyrill once for each."};
+    EXPECT_EQ(checkMacroCall(readCommandLine({"--list", "--play", "Greeting"})).error(), expected);
+    EXPECT_EQ(checkMacroCall(readCommandLine({"--show=Greeting", "--play", "Greeting"})).error(), expected);
+    EXPECT_TRUE(checkMacroCall(readCommandLine({"--list", "--list"})));
+}
+
 TEST(CommandLineTest, anActionIsNamed) {
     EXPECT_EQ(readCommandLine({"--action=play"}), (CommandLine{.action = "play"}));
     EXPECT_EQ(readCommandLine({"--session=x11", "--action", "play"}),
