@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/library/LibraryController.h"
 
+#include <QTimer>
 #include <utility>
 
 #include "app/library/MacroTitles.h"
@@ -32,8 +33,14 @@ void LibraryController::play(const std::string& path) {
 
 // The first time the settings have been read as well.
 void LibraryController::libraryChanged(const LibraryChanges& changes) {
-    while (const auto fault = m_library.takeFault()) post(tr("Hot keys of macros"), *fault);
+    tellFaults();
+    // What was set is written by a timer of no time, when this turn of the loop has ended.
+    if (!changes.settings.empty()) QTimer::singleShot(1, this, &LibraryController::tellFaults);
     if (changes.isFirst) emit read();
+}
+
+void LibraryController::tellFaults() {
+    while (const auto fault = m_library.takeFault()) post(tr("Hot keys of macros"), *fault);
 }
 
 void LibraryController::historyFailed(const Error& why) { post(tr("The history"), why); }

@@ -81,6 +81,7 @@ class LibraryController : public QObject, private LibraryListener, private Histo
     void libraryChanged(const LibraryChanges& changes) override;
     void recordingAppeared(std::size_t index) override { emit historyGrown(index); }
     void recordingGone(int macroId) override { emit historyShrunk(macroId); }
+    void tellFaults();
     void historyFailed(const Error& why) override;
     void post(const QString& title, const Error& error);
 
