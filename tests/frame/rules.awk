@@ -185,10 +185,16 @@ FNR == 1 {
     if (file ~ isCode && file !~ besideTheRooms && !(folder in usesOf)) breach(1, "no room of the table is called " folder)
     needsLicence = file ~ isSource || /^#!/
     hasLicence = 0
+    hasTranslator = 0
 }
 
 FNR <= 3 && /SPDX-License-Identifier: MIT/ { hasLicence = 1 }
 file ~ isCode && /^[ \t]*#[ \t]*include[ \t]*["<]/ { checkInclude() }
+# The presets for work compile headers first, which hides that one is missing.
+/#include <QCoreApplication>/ { hasTranslator = 1 }
+file ~ isCode && /^[ \t]*Q_DECLARE_TR_FUNCTIONS/ && !hasTranslator {
+    breach(FNR, "Q_DECLARE_TR_FUNCTIONS needs <QCoreApplication>")
+}
 file ~ isCode { checkCode() }
 file ~ isBuildFile && /CMAKE_(SOURCE|BINARY)_DI[R]/ {
     breach(FNR, "a path of the whole build; use the project's own")
