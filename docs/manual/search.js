@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The search of the first page, over the sections in search-index.js; and the way on for links to places that the first
-// page had when it was the whole manual. Without JavaScript there are the contents.
+// The search of the first page, over the sections in search-index.js: of a translation those of its own pages, then those
+// of the English pages that it lacks. And the way on for links to places that the first page had when it was the whole
+// manual. Without JavaScript there are the contents.
 "use strict";
 
 (() => {
@@ -8,8 +9,13 @@
     const excerptLength = 180;
 
     // Of the same length as the text, so that what is found in it is at the same place there.
-    const folded = text => text.replace(/[A-Z]/g, letter => letter.toLowerCase()).replace(/[‘’]/g, "'")
-        .replace(/[“”]/g, '"');
+    // Marks on letters do not matter; those of Japanese make others of them.
+    const plain = letter => {
+        const base = letter.normalize("NFD").charAt(0).toLowerCase();
+        return base.length === letter.length ? base : letter;
+    };
+    const folded = text => text.replace(/[\p{Script=Latin}\p{Script=Cyrillic}\p{Script=Arabic}]/gu, plain)
+        .replace(/[‘’]/g, "'").replace(/[“”]/g, '"');
 
     // "recordings" and "stopped" find what has "record" and "stop" in it.
     const stem = word => {
@@ -22,34 +28,40 @@
 
     // Without the small words of a question, unless there are no others.
     const wordsOf = text => {
-        const all = folded(text).split(/[\s,;:?!"]+/).filter(word => word);
+        const all = folded(text).split(/[\s,;:?!"«»„¿¡、。！？「」،؛؟]+/).filter(word => word);
         const telling = all.filter(word => !small.has(word));
         return [...new Set((telling.length ? telling : all).map(stem))];
     };
 
-    // Where words begin with that.
+    // Where words begin with that. Scripts that put no blanks, or write small words into the next one, have it anywhere.
     const placesOf = (text, word) => {
         const places = [];
         for (let place = text.indexOf(word); place >= 0; place = text.indexOf(word, place + word.length))
-            if (place === 0 || !/[a-z0-9]/.test(text[place - 1])) places.push(place);
+            if (place === 0 || !/[\p{Script=Latin}\p{Script=Cyrillic}\p{N}]/u.test(text[place - 1])) places.push(place);
         return places;
     };
     const has = (text, word) => placesOf(text, word).length > 0;
 
-    const sections = manualIndex.map(section => ({
+    const ready = section => ({
         ...section,
         heading: folded(section.title),
         chapter: folded(section.page),
         words: folded(section.words || ""),
         body: folded(section.text),
-    }));
+    });
+    const pageOf = section => section.url.split("#")[0];
+    const isTranslation = typeof translatedIndex !== "undefined";
+    const own = (isTranslation ? translatedIndex : manualIndex).map(ready);
+    const ownPages = new Set(own.map(pageOf));
+    const english = !isTranslation ? [] : manualIndex.filter(section => !ownPages.has(pageOf(section)))
+        .map(section => ready({...section, url: "../" + section.url, isEnglish: true}));
 
     const weightOf = (section, word) =>
         (has(section.heading, word) ? 12 : 0) + (has(section.words, word) ? 8 : 0) + (has(section.chapter, word) ? 4 : 0) +
         Math.min(placesOf(section.body, word).length, 3);
 
     // Those that have the most of the words, the weightiest first.
-    const sectionsWith = words => {
+    const sectionsWith = (sections, words) => {
         const found = sections.map(section => {
             const weights = words.map(word => weightOf(section, word));
             return {section, hits: weights.filter(weight => weight).length, weight: weights.reduce((a, b) => a + b, 0)};
@@ -75,13 +87,19 @@
         return part;
     };
 
+    // The end of a word near that place; that place where there are no blanks.
+    const cut = (text, place) => {
+        const blank = text.lastIndexOf(" ", place);
+        return blank > place - 30 ? blank : place;
+    };
+
     const excerpt = (section, words) => {
         const places = words.flatMap(word => placesOf(section.body, word));
         const hit = places.length ? Math.min(...places) : 0;
-        const begin = hit < excerptLength / 2 ? 0 : section.text.lastIndexOf(" ", hit - excerptLength / 3) + 1;
+        const begin = hit < excerptLength / 2 ? 0 : Math.max(cut(section.text, hit - Math.floor(excerptLength / 3)), 0);
         const isWhole = section.text.length <= begin + excerptLength;
-        const end = isWhole ? section.text.length : section.text.lastIndexOf(" ", begin + excerptLength);
-        return (begin ? "… " : "") + section.text.slice(begin, end) + (isWhole ? "" : " …");
+        const end = isWhole ? section.text.length : cut(section.text, begin + excerptLength);
+        return (begin ? "… " : "") + section.text.slice(begin, end).trim() + (isWhole ? "" : " …");
     };
 
     const lineOf = (section, words) => {
@@ -90,21 +108,33 @@
         way.href = section.url;
         way.textContent = section.title === section.page ? section.title : section.page + ": " + section.title;
         line.append(way, marked(excerpt(section, words), words));
+        if (section.isEnglish) {
+            way.lang = way.hreflang = line.lastChild.lang = "en";
+            way.dir = line.lastChild.dir = "ltr";
+            way.after(" " + found.dataset.english);
+        }
         return line;
-    };
-
-    const follow = (field, count, list) => {
-        const words = wordsOf(field.value);
-        const found = words.length ? sectionsWith(words) : [];
-        list.replaceChildren(...found.slice(0, most).map(section => lineOf(section, words)));
-        count.textContent = !words.length ? "" : !found.length ? "Nothing is found. Try fewer or other words." :
-            found.length === 1 ? "1 place" : found.length > most ? `The best ${most} of ${found.length} places` :
-            `${found.length} places`;
     };
 
     const form = document.getElementById("search");
     const field = document.getElementById("wanted");
-    const update = () => follow(field, document.getElementById("count"), document.getElementById("found"));
+    const count = document.getElementById("count");
+    const found = document.getElementById("found");
+
+    // In the words of the page.
+    const told = places => {
+        const words = count.dataset;
+        return places === 0 ? words.none : places === 1 ? words.one : places <= most ? words.some.replace("%1", places) :
+            words.most.replace("%1", most).replace("%2", places);
+    };
+
+    const update = () => {
+        const words = wordsOf(field.value);
+        const places = words.length ? [...sectionsWith(own, words), ...sectionsWith(english, words)] : [];
+        found.replaceChildren(...places.slice(0, most).map(section => lineOf(section, words)));
+        count.textContent = words.length ? told(places.length) : "";
+    };
+
     form.hidden = false;
     // What is looked for is part of the address, so that it is there again for who comes back.
     field.value = new URLSearchParams(location.hash.slice(1)).get("find") || "";
