@@ -84,6 +84,7 @@ int main(int argc, char* argv[]) {
     const auto backends = Backends::open(session.value());
     if (!backends) return reportFailure(backends.error());
     Program program(*backends.value());
+    program.controller().helpDesk().setLanguage(catalogues.language().toStdString());
     program.follow(instance);
     program.openFiles(absolutePaths(line.files));
     return QApplication::exec();

@@ -30,7 +30,12 @@ std::string Installation::pictures() const { return place(KEYRILL_SHARE_FROM_PRO
 
 std::string Installation::icons() const { return place(KEYRILL_SHARE_FROM_PROGRAMS "/icons"); }
 
-std::string Installation::manual() const { return place(KEYRILL_MANUAL_FROM_PROGRAMS); }
+std::string Installation::manual(std::string_view language) const {
+    const std::filesystem::path english = place(KEYRILL_MANUAL_FROM_PROGRAMS);
+    const std::filesystem::path translated = english.parent_path() / language / english.filename();
+    std::error_code failed;
+    return std::filesystem::is_regular_file(translated, failed) ? translated.string() : english.string();
+}
 
 std::string Installation::place(std::string_view fromPrograms) const {
     return (std::filesystem::path(m_programs) / fromPrograms).lexically_normal().string();
@@ -49,7 +54,7 @@ std::string fileUrl(std::string_view path) {
     return url;
 }
 
-std::string documentationPage() {
+std::string documentationPage(std::string_view language) {
     const std::string_view chosen = addresses::documentationPage;
-    return chosen.empty() ? fileUrl(Installation::ofProcess().manual()) : std::string(chosen);
+    return chosen.empty() ? fileUrl(Installation::ofProcess().manual(language)) : std::string(chosen);
 }

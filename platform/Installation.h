@@ -23,8 +23,9 @@ class Installation {
     std::string pictures() const;
     /// The folder of the icon themes.
     std::string icons() const;
-    /// The first page of the manual, a file.
-    std::string manual() const;
+    /// The first page of the manual, a file: the translation into that language ("de") if it is there, else
+    /// the English one. Empty is English.
+    std::string manual(std::string_view language = {}) const;
 
   private:
     std::string place(std::string_view fromPrograms) const;
@@ -35,5 +36,6 @@ class Installation {
 /// The URL of a file by its absolute path, any bytes. Unescaped stay A-Z a-z 0-9 -._~/
 std::string fileUrl(std::string_view path);
 
-/// The URL of the manual: as it was set when building, else that of the installation.
-std::string documentationPage();
+/// The URL of the manual: as it was set when building, else that of the installation, as
+/// Installation::manual(language) finds it.
+std::string documentationPage(std::string_view language = {});

@@ -215,6 +215,7 @@ class AppController : public QObject, public SharedController {
     PreferencesPanel* preferencesWindow() const { return m_preferencesDesk.panel(); }
     AboutPanel* aboutPanel() const { return m_helpDesk.aboutPanel(); }
     StatusDesk& statusDesk() { return m_statusDesk; }
+    HelpDesk& helpDesk() { return m_helpDesk; }
     StatusPanel* statusPanel() const { return m_statusDesk.panel(); }
     RecordHerePanel* recordHerePanel() const { return m_recordHereDesk.panel(); }
     MacrosWindow* macrosWindow() const { return m_macrosDesk.window(); }

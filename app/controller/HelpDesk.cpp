@@ -44,7 +44,7 @@ void HelpDesk::openForum() { openPage(m_workspace, addresses::forumPage); }
 
 void HelpDesk::openProductPage() { openPage(m_workspace, addresses::productPage); }
 
-void HelpDesk::openDocumentation() { openPage(m_workspace, documentationPage()); }
+void HelpDesk::openDocumentation() { openPage(m_workspace, documentationPage(m_language)); }
 
 void HelpDesk::sendEmail(std::string_view address, std::string_view subject, std::string_view body) {
     openPage(m_workspace, mailUrl(address, subject, body));

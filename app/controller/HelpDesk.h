@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 class AboutPanel;
 class Stage;
@@ -17,6 +18,9 @@ class HelpDesk {
     /// All outlive the desk.
     HelpDesk(Workspace& workspace, const SystemFacts& facts, Stage& stage);
     ~HelpDesk();
+
+    /// The documentation is opened in that language ("de") where it is translated; without it in English.
+    void setLanguage(std::string language) { m_language = std::move(language); }
 
     void showAbout();
     void askForSupport();
@@ -37,5 +41,6 @@ class HelpDesk {
     Workspace& m_workspace;
     const SystemFacts& m_facts;
     Stage& m_stage;
+    std::string m_language;
     std::unique_ptr<AboutPanel> m_aboutPanel;
 };

@@ -13,9 +13,10 @@ namespace {
 /// The program at a server that lets nobody press keys; its user has a real keyboard.
 class AlertTest : public testing::Test {
   protected:
-    AlertTest() {
+    explicit AlertTest(const std::string& language = "C") {
         desktop.startWindowManager();
         putBrowser();
+        desktop.setEnvironment("LANGUAGE", language);
         // Nobody's hot key tells here that the program is ready.
         program.emplace(std::vector<std::string>{programs::keyrill}, desktop.options("product.log"));
         desktop.awaitFocus("The X server must have the XTEST extension, but it has not.");
@@ -58,6 +59,18 @@ TEST_F(AlertTest, theDocumentationIsOpenedAndThenTheProgramEnds) {
     EXPECT_TRUE(eventually([this] { return !pages().empty(); }));
     // One page, the manual that is installed with the program.
     EXPECT_TRUE(testing::internal::RE::FullMatch(pages(), "file:///.+/manual/index\\.html\n")) << pages();
+}
+
+class GermanAlertTest : public AlertTest {
+  protected:
+    GermanAlertTest() : AlertTest("de") {}
+};
+
+TEST_F(GermanAlertTest, theDocumentationIsInTheLanguageOfTheDesktop) {
+    servers.user().tap(xkey::returnKey);
+    EXPECT_EQ(awaitEnd(), 0);
+    EXPECT_TRUE(eventually([this] { return !pages().empty(); }));
+    EXPECT_TRUE(testing::internal::RE::FullMatch(pages(), "file:///.+/manual/de/index\\.html\n")) << pages();
 }
 
 /// What cannot be loaded, said while a terminal is being typed into.

@@ -133,6 +133,16 @@ TEST_F(InstallationTest, theLinksOfAllPagesOfTheManualLeadSomewhere) {
     EXPECT_FALSE(std::filesystem::exists(folder / "README.md"));
 }
 
+TEST_F(InstallationTest, theManualIsThereInTheLanguagesOfTheProgram) {
+    const Installation installation(installed("bin"));
+    const std::filesystem::path folder = std::filesystem::path(installation.manual()).parent_path();
+    for (const std::string language : {"ar", "de", "es", "fr", "ja", "ru"}) {
+        EXPECT_EQ(installation.manual(language), (folder / language / "index.html").string());
+        EXPECT_TRUE(std::filesystem::exists(folder / language / "search-index.js")) << language;
+    }
+    EXPECT_EQ(installation.manual("eo"), installation.manual());
+}
+
 /// As a package does.
 void installForAll(const TemporaryFolder& system) {
     outputOf({KEYRILL_CMAKE, "--install", KEYRILL_BUILD_FOLDER, "--prefix", "/usr"},

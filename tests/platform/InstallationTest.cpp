@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+
+#include "support/Child.h"
 
 namespace {
 
@@ -14,6 +17,20 @@ TEST(InstallationTest, liesAroundItsPrograms) {
     EXPECT_EQ(installation.pictures(), "/opt/some where/share/keyrill");
     EXPECT_EQ(installation.icons(), "/opt/some where/share/icons");
     EXPECT_EQ(installation.manual(), "/opt/some where/share/doc/keyrill/manual/index.html");
+}
+
+TEST(InstallationTest, hasTheManualInALanguageWhereItIsTranslated) {
+    const TemporaryFolder folder;
+    const Installation installation(folder.file("bin"));
+    const std::string english = folder.file("share/doc/keyrill/manual/index.html");
+    const std::string german = folder.file("share/doc/keyrill/manual/de/index.html");
+    EXPECT_EQ(installation.manual("de"), english);
+    std::filesystem::create_directories(std::filesystem::path(german).parent_path());
+    EXPECT_EQ(installation.manual("de"), english);
+    std::ofstream(german) << "Keyrill-Handbuch";
+    EXPECT_EQ(installation.manual("de"), german);
+    EXPECT_EQ(installation.manual("fr"), english);
+    EXPECT_EQ(installation.manual(), english);
 }
 
 TEST(InstallationTest, ofTheProcessLiesAroundTheProgramThatRuns) {

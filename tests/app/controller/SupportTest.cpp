@@ -42,6 +42,16 @@ TEST_F(SupportTest, opensThePagesOfTheHelpMenu) {
                               std::string(addresses::productPage), std::string(addresses::makersWebsite)}));
 }
 
+TEST_F(SupportTest, opensTheDocumentationInTheLanguageOfTheProgram) {
+    ASSERT_TRUE(Installation::ofProcess().manual("de").ends_with("/manual/de/index.html"));
+    const StatusMenu& menu = controller.statusMenu;
+    for (const char* language : {"de", "eo"}) {
+        controller.helpDesk().setLanguage(language);
+        menu.item(menuIndex("documentation"))->trigger();
+    }
+    EXPECT_EQ(opened(), (Urls{documentationPage("de"), documentationPage()}));
+}
+
 TEST_F(SupportTest, writesToSupportAndFeedback) {
     controller.getSupport(nullptr);
     controller.sendFeedback(nullptr);
