@@ -12,6 +12,9 @@
 
 namespace {
 
+/// As a result; those of the toolkit are others.
+constexpr int chosenOther = 2;
+
 QStyle::StandardPixmap signOf(AlertText::Kind kind) {
     switch (kind) {
         case AlertText::Kind::stop:
@@ -57,11 +60,16 @@ QWidget* AlertDialog::makeButtons(const AlertText& text) {
     buttons->addButton(literal(text.defaultButton), QDialogButtonBox::AcceptRole)->setDefault(true);
     if (!text.alternateButton.isEmpty())
         buttons->addButton(literal(text.alternateButton), QDialogButtonBox::RejectRole);
+    if (!text.otherButton.isEmpty()) {
+        auto* other = buttons->addButton(literal(text.otherButton), QDialogButtonBox::DestructiveRole);
+        connect(other, &QPushButton::clicked, this, [this] { done(chosenOther); });
+    }
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     return buttons;
 }
 
 AlertAnswer AlertDialog::answer() const {
+    if (result() == chosenOther) return AlertAnswer::otherButton;
     return result() == Accepted ? AlertAnswer::defaultButton : AlertAnswer::alternateButton;
 }

@@ -5,9 +5,9 @@
 
 #include "app/dialogs/Dialogs.h"
 
-/// An alert on the screen: a sign, title and message, one or two buttons. The title is also the window's; all
-/// texts are shown as they are, neither as rich text nor with mnemonics. Accepted by the default button (also
-/// Return), rejected by the alternate one, Escape and the window's frame.
+/// An alert on the screen: a sign, title and message, one to three buttons. The title is also the window's;
+/// all texts are shown as they are, neither as rich text nor with mnemonics. Accepted by the default button
+/// (also Return), rejected by the alternate one, Escape and the window's frame.
 class AlertDialog : public QDialog {
     Q_OBJECT
 

@@ -20,12 +20,14 @@ struct AlertText {
     QString defaultButton;
     /// Empty: there is no second button.
     QString alternateButton = {};
+    /// Empty: there is no third button.
+    QString otherButton = {};
 
     friend bool operator==(const AlertText&, const AlertText&) = default;
 };
 
 /// Which button ended an alert. Escape and the close button of a window choose the alternate one.
-enum class AlertAnswer { alternateButton = 0, defaultButton = 1 };
+enum class AlertAnswer { alternateButton = 0, defaultButton = 1, otherButton = 2 };
 
 /// The program's questions to the user. Main thread only.
 class Dialogs {

@@ -68,6 +68,19 @@ TEST(RunAlertTest, answersByItsButtons) {
               AlertAnswer::alternateButton);
 }
 
+TEST(RunAlertTest, mayHaveAThirdButton) {
+    AlertText three = question;
+    three.otherButton = QStringLiteral("Never & ever");
+    EXPECT_EQ(answerAfter(three, [](QWidget& alert) { button(alert, "Never && ever").click(); }),
+              AlertAnswer::otherButton);
+    EXPECT_EQ(answerAfter(three, [](QWidget& alert) { button(alert, "NO").click(); }),
+              AlertAnswer::alternateButton);
+    EXPECT_EQ(answerAfter(three, [](QWidget& alert) { press(alert, Qt::Key_Return); }),
+              AlertAnswer::defaultButton);
+    EXPECT_EQ(answerAfter(three, [](QWidget& alert) { press(alert, Qt::Key_Escape); }),
+              AlertAnswer::alternateButton);
+}
+
 TEST(RunAlertTest, takesReturnForTheDefaultButton) {
     EXPECT_EQ(answerAfter(question, [](QWidget& alert) { press(alert, Qt::Key_Return); }),
               AlertAnswer::defaultButton);
