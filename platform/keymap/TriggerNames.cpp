@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -15,14 +16,15 @@ namespace {
 struct ModifierName {
     xkb_mod_mask_t ModifierMasks::*mask = nullptr;
     const char* trigger = nullptr;
+    const char* gtk = nullptr;
     std::array<std::string_view, 5> others;
 };
 
 constexpr std::array modifierNames = {
-    ModifierName{&ModifierMasks::control, "CTRL", {"ctrl", "control", "primary"}},
-    ModifierName{&ModifierMasks::option, "ALT", {"alt", "mod1"}},
-    ModifierName{&ModifierMasks::shift, "SHIFT", {"shift"}},
-    ModifierName{&ModifierMasks::command, "LOGO", {"super", "meta", "logo", "mod4", "win"}},
+    ModifierName{&ModifierMasks::control, "CTRL", "<Control>", {"ctrl", "control", "primary"}},
+    ModifierName{&ModifierMasks::option, "ALT", "<Alt>", {"alt", "mod1"}},
+    ModifierName{&ModifierMasks::shift, "SHIFT", "<Shift>", {"shift"}},
+    ModifierName{&ModifierMasks::command, "LOGO", "<Super>", {"super", "meta", "logo", "mod4", "win"}},
 };
 
 std::string lowered(std::string text) {
@@ -73,12 +75,17 @@ std::optional<Parts> partsOfQt(const std::string& words) {
     return parts;
 }
 
-xkb_mod_mask_t maskOf(const ModifierMasks& masks, const std::string& name) {
-    const std::string plain = lowered(name);
+/// Of a name in lower case; null if it is none.
+const ModifierName* rowOf(const std::string& name) {
     const auto* const found = std::find_if(modifierNames.begin(), modifierNames.end(), [&](const auto& row) {
-        return std::find(row.others.begin(), row.others.end(), plain) != row.others.end();
+        return std::find(row.others.begin(), row.others.end(), name) != row.others.end();
     });
-    return found == modifierNames.end() ? 0 : masks.*(found->mask);
+    return found == modifierNames.end() ? nullptr : found;
+}
+
+xkb_mod_mask_t maskOf(const ModifierMasks& masks, const std::string& name) {
+    const ModifierName* const row = rowOf(lowered(name));
+    return row == nullptr ? 0 : masks.*(row->mask);
 }
 
 std::uint8_t keycodeOf(const Keymap& keymap, const std::string& name) {
@@ -92,27 +99,64 @@ std::uint8_t keycodeOf(const Keymap& keymap, const std::string& name) {
     return 0;
 }
 
-}  // namespace
-
-std::string symbolName(const Keymap& keymap, std::uint8_t keycode) {
+std::string symbolNameIn(const Keymap& keymap, xkb_layout_index_t layout, std::uint8_t keycode) {
     constexpr std::size_t longest = 64;
-    const xkb_keysym_t symbol = keymap.symbol(keycode, 0, 0);
+    const xkb_keysym_t symbol = keymap.symbol(keycode, 0, layout);
     std::array<char, longest> name{};
     if (symbol != XKB_KEY_NoSymbol) xkb_keysym_get_name(symbol, name.data(), name.size());
     return name.data();
 }
 
-std::string portalTrigger(const Keymap& keymap, std::uint8_t keycode, xkb_mod_mask_t modifiers) {
-    const std::string key = symbolName(keymap, keycode);
+/// Empty without a key, and where a modifier has no name.
+template <typename Named>
+std::string combinationText(const Keymap& keymap, xkb_mod_mask_t modifiers, const std::string& key,
+                            const Named& named) {
     std::string text;
     xkb_mod_mask_t left = modifiers;
     for (const ModifierName& row : modifierNames) {
         const xkb_mod_mask_t mask = keymap.masks().*(row.mask);
         if ((left & mask) == 0) continue;
-        text += std::string(row.trigger) + "+";
+        text += named(row);
         left &= ~mask;
     }
     return key.empty() || left != 0 ? std::string() : text + key;
+}
+
+/// Its modifiers, each by its first name and in the order of those, then its key; empty without a key.
+std::optional<Parts> plainParts(const std::string& accelerator) {
+    const auto parts = accelerator.starts_with('<') ? partsOfGtk(accelerator) : Parts{accelerator};
+    if (!parts || parts->back().empty()) return std::nullopt;
+    std::set<std::string> modifiers;
+    for (std::size_t i = 0; i + 1 < parts->size(); ++i) {
+        const std::string name = lowered((*parts)[i]);
+        const auto* const row = rowOf(name);
+        modifiers.emplace(row == nullptr ? name : row->others.front());
+    }
+    Parts plain(modifiers.begin(), modifiers.end());
+    plain.push_back(lowered(parts->back()));
+    return plain;
+}
+
+}  // namespace
+
+std::string symbolName(const Keymap& keymap, std::uint8_t keycode) {
+    return symbolNameIn(keymap, 0, keycode);
+}
+
+std::string portalTrigger(const Keymap& keymap, std::uint8_t keycode, xkb_mod_mask_t modifiers) {
+    const auto named = [](const ModifierName& row) { return std::string(row.trigger) + "+"; };
+    return combinationText(keymap, modifiers, symbolName(keymap, keycode), named);
+}
+
+std::string gtkAccelerator(const Keymap& keymap, xkb_layout_index_t layout, std::uint8_t keycode,
+                           xkb_mod_mask_t modifiers) {
+    const auto named = [](const ModifierName& row) { return std::string(row.gtk); };
+    return combinationText(keymap, modifiers, symbolNameIn(keymap, layout, keycode), named);
+}
+
+bool isSameAccelerator(const std::string& one, const std::string& other) {
+    const auto parts = plainParts(one);
+    return parts && parts == plainParts(other);
 }
 
 std::optional<KeyCombination> meaningOfTrigger(const Keymap& keymap, const std::string& words) {

@@ -15,6 +15,15 @@ std::string symbolName(const Keymap& keymap, std::uint8_t keycode);
 /// has no name, as those with a level chooser have none.
 std::string portalTrigger(const Keymap& keymap, std::uint8_t keycode, xkb_mod_mask_t modifiers);
 
+/// A combination as GTK writes accelerators, by what its key types without modifiers in that layout:
+/// "<Control><Super>r". Empty where it has no name, as those with a level chooser have none.
+std::string gtkAccelerator(const Keymap& keymap, xkb_layout_index_t layout, std::uint8_t keycode,
+                           xkb_mod_mask_t modifiers);
+
+/// Whether two of GTK's accelerators are the same combination, however their modifiers are ordered and called
+/// ("<Primary>", "<Ctrl>"). One without a key is none.
+bool isSameAccelerator(const std::string& one, const std::string& other);
+
 /// A key with real modifiers.
 struct KeyCombination {
     std::uint8_t keycode = 0;

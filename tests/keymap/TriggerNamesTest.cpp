@@ -66,4 +66,25 @@ TEST_F(TriggerNamesTest, itIsTheKeyThatTypesItInTheFirstLayout) {
     EXPECT_EQ(meaningOfTrigger(*french, "<Control>a"), (KeyCombination{xkey::q, french->masks().control}));
 }
 
+TEST_F(TriggerNamesTest, anAcceleratorIsNamedByTheLayoutInForce) {
+    const auto both = namedKeymap("us,de");
+    const xkb_mod_mask_t held = both->masks().control | both->masks().command;
+    EXPECT_EQ(gtkAccelerator(*both, 0, xkey::r, held), "<Control><Super>r");
+    EXPECT_EQ(gtkAccelerator(*both, 0, xkey::z, masks.option | masks.shift), "<Alt><Shift>z");
+    EXPECT_EQ(gtkAccelerator(*both, 1, xkey::z, held), "<Control><Super>y");
+    EXPECT_EQ(gtkAccelerator(*both, 1, f9, 0), "F9");
+    EXPECT_EQ(gtkAccelerator(*both, 0, 8, held), "");
+    EXPECT_EQ(gtkAccelerator(*both, 0, xkey::r, both->masks().thirdLevel), "");
+}
+
+TEST_F(TriggerNamesTest, acceleratorsAreTheSameWhateverTheirModifiersAreCalled) {
+    EXPECT_TRUE(isSameAccelerator("<Control><Super>r", "<Mod4><Primary>R"));
+    EXPECT_TRUE(isSameAccelerator("F9", "F9"));
+    EXPECT_TRUE(isSameAccelerator("<Hyper>a", "<hyper>a"));
+    EXPECT_FALSE(isSameAccelerator("<Control>r", "<Control><Shift>r"));
+    EXPECT_FALSE(isSameAccelerator("<Control>r", "<Control>p"));
+    EXPECT_FALSE(isSameAccelerator("<Control>r", "r"));
+    for (const char* const none : {"", "<Control>", "<Control"}) EXPECT_FALSE(isSameAccelerator(none, none));
+}
+
 }  // namespace
