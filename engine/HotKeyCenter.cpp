@@ -20,6 +20,7 @@ consteval HotKeyRow rowFor(const ShortcutRow& shortcut) {
     const Command& command = commandRows.at(index);
     return {.name = shortcut.name,
             .id = shortcut.id,
+            .action = shortcut.action,
             .signature = shortcut.signature,
             .pressed = command.pressed,
             .released = command.released,
@@ -50,7 +51,8 @@ HotKeyRequest requestFor(const HotKeyRow& row) {
             flags,
             row.cancelsPlayback,
             row.startsPlayback,
-            title == titles.end() ? std::string() : title->second};
+            title == titles.end() ? std::string() : title->second,
+            {"--action=" + std::string(row.action)}};
 }
 
 /// Runs the command that the row of the id holds in `command`.

@@ -11,6 +11,7 @@
 struct HotKeyRow {
     std::string_view name;
     HotKeyId id = 0;
+    std::string_view action;
     std::string_view signature;
     /// What a press and a release do; null is nothing.
     void (*pressed)() = nullptr;

@@ -222,7 +222,8 @@ void LibraryHotKeys::requestNew(const Claims& claims) {
                             .keyCode = combination.first,
                             .modifiers = combination.second,
                             .startsPlayback = true,
-                            .title = decodedText(std::string(LibraryEntry{path}.name()))});
+                            .title = decodedText(std::string(LibraryEntry{path}.name())),
+                            .arguments = {"--play=" + path}});
     }
     if (!requests.empty()) m_hotKeys.requestAll(requests);
 }

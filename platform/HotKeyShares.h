@@ -32,6 +32,8 @@ class HotKeyShares {
         }
         void withdraw(HotKeyId id) override { m_hotKeys.withdraw(id); }
         HotKeyState state(HotKeyId id) const override { return m_hotKeys.state(id); }
+        bool needsConsent() const override { return m_hotKeys.needsConsent(); }
+        void setConsent(bool given) override { m_hotKeys.setConsent(given); }
         std::uint32_t lastPressTime() const override { return m_hotKeys.lastPressTime(); }
 
         void press(HotKeyId id) const;

@@ -27,6 +27,9 @@ struct HotKeyRequest {
     bool startsPlayback = false;
     /// What it does, as the user knows it ("Play"), for a desktop that shows it to him; may be empty.
     std::string title = {};
+    /// The arguments with which the program, started once more, does the same; for a desktop that does
+    /// nothing at a hot key but start programs. Empty if there are none.
+    std::vector<std::string> arguments = {};
 };
 
 /// How far a request has come. `changed` means registered, but as the combination that the desktop's own
@@ -80,6 +83,13 @@ class HotKeys {
     virtual void withdraw(HotKeyId id) = 0;
 
     virtual HotKeyState state(HotKeyId id) const = 0;
+
+    /// Whether hot keys are entries in the settings of the desktop's user, which are written only once he has
+    /// agreed: until then each request is refused.
+    virtual bool needsConsent() const { return false; }
+    /// He agrees from now on, or no longer: what has been asked for is written, or taken out. He does not as
+    /// long as nobody has said so.
+    virtual void setConsent(bool /*given*/) {}
 
     /// The window system's time stamp of the latest press, 0 before the first: what a window that is raised
     /// because of it shows as its permission to take the focus.

@@ -21,6 +21,8 @@ struct ShortcutRow {
     /// app/shortcuts/ShortcutTitles.cpp.
     std::string_view name;
     HotKeyId id = 0;
+    /// Which action does the same when the program is started once more for it (app/tray/Actions.h).
+    std::string_view action;
     /// Four characters; nothing looks at it.
     std::string_view signature;
     /// What its field holds until something else is stored, and what packaging/keyrill.conf stores for all
@@ -30,10 +32,16 @@ struct ShortcutRow {
 
 /// All shortcuts, in the order in which they are loaded, stored, registered and shown.
 inline constexpr std::array shortcutRows = {
-    ShortcutRow{.name = "record", .id = 1, .signature = "kyl1", .preset = initialKeyCombo(15)},
-    ShortcutRow{.name = "stop", .id = 2, .signature = "kyl2", .preset = initialKeyCombo(1)},
-    ShortcutRow{.name = "play", .id = 3, .signature = "kyl3", .preset = initialKeyCombo(35)},
-    ShortcutRow{.name = "multiplePlay", .id = 4, .signature = "kyl4", .preset = initialKeyCombo(46)},
+    ShortcutRow{
+        .name = "record", .id = 1, .action = "record", .signature = "kyl1", .preset = initialKeyCombo(15)},
+    ShortcutRow{.name = "stop", .id = 2, .action = "stop", .signature = "kyl2", .preset = initialKeyCombo(1)},
+    ShortcutRow{
+        .name = "play", .id = 3, .action = "play", .signature = "kyl3", .preset = initialKeyCombo(35)},
+    ShortcutRow{.name = "multiplePlay",
+                .id = 4,
+                .action = "multiple",
+                .signature = "kyl4",
+                .preset = initialKeyCombo(46)},
 };
 
 /// Where the name stands in shortcutRows; another name does not compile.

@@ -56,6 +56,8 @@ void EvdevEventMonitor::requestAll(const std::vector<HotKeyRequest>& requests) {
 }
 void EvdevEventMonitor::withdraw(HotKeyId id) { m_parts->hotKeys().withdraw(id); }
 HotKeyState EvdevEventMonitor::state(HotKeyId id) const { return m_parts->hotKeys().state(id); }
+bool EvdevEventMonitor::needsConsent() const { return m_parts->hotKeys().needsConsent(); }
+void EvdevEventMonitor::setConsent(bool given) { m_parts->hotKeys().setConsent(given); }
 std::uint32_t EvdevEventMonitor::lastPressTime() const { return m_parts->deliverer().lastPressTime(); }
 
 }  // namespace evdev

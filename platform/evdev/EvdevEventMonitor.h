@@ -105,6 +105,8 @@ class EvdevEventMonitor final : public EventSource, public EventMonitor, public 
     void requestAll(const std::vector<HotKeyRequest>& requests) override;
     void withdraw(HotKeyId id) override;
     HotKeyState state(HotKeyId id) const override;
+    bool needsConsent() const override;
+    void setConsent(bool given) override;
     std::uint32_t lastPressTime() const override;
 
   private:

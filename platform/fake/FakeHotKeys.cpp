@@ -28,10 +28,21 @@ void FakeHotKeys::request(const HotKeyRequest& request) {
     if (m_observer) m_observer(request.id, state);
 }
 
+void FakeHotKeys::setConsent(bool given) {
+    if (std::exchange(m_hasConsent, given) == given || !m_needsConsent) return;
+    for (auto& [id, row] : m_rows) {
+        row.state = {};
+        row.state = answer(row.request);
+        if (m_observer) m_observer(id, row.state);
+    }
+}
+
 HotKeyState FakeHotKeys::answer(const HotKeyRequest& request) {
     if (request.keyCode == keycode::none) return {};
     if (m_nextError) return {HotKeyStatus::refused, std::exchange(m_nextError, std::nullopt)};
 
+    if (m_needsConsent && !m_hasConsent)
+        return {HotKeyStatus::refused, Error{"The user has not agreed.", "Ask."}};
     const Combination combination{request.keyCode, request.modifiers & combinationMask};
     const std::string name = fakeus::combinationName(combination.first, combination.second);
     if (!keycode::evdevFor(request.keyCode)) {

@@ -25,6 +25,12 @@ class FakeHotKeys : public HotKeys {
     HotKeyState state(HotKeyId id) const override;
     std::uint32_t lastPressTime() const override { return m_lastPressTime; }
 
+    bool needsConsent() const override { return m_needsConsent; }
+    void setConsent(bool given) override;
+
+    /// The desktop has hot keys only in its user's settings.
+    void requireConsent() { m_needsConsent = true; }
+    bool hasConsent() const { return m_hasConsent; }
     /// Another program registers the combination; requests for it are refused from now on.
     void otherProgramHolds(std::uint32_t keyCode, std::uint32_t modifiers);
     /// The desktop's settings have another combination for a hot key that is registered, in its words.
@@ -65,4 +71,6 @@ class FakeHotKeys : public HotKeys {
     std::map<std::uint32_t, std::optional<HotKeyId>> m_held;
     std::uint32_t m_lastPressTime = 0;
     std::optional<Error> m_nextError;
+    bool m_needsConsent = false;
+    bool m_hasConsent = false;
 };

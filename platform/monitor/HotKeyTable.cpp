@@ -126,6 +126,12 @@ void HotKeyTable::requestAgain() {
     requestAll(requests);
 }
 
+void HotKeyTable::setConsent(bool given) {
+    if (std::exchange(m_hasConsent, given) == given || !needsConsent()) return;
+    m_grabs.setConsent(given);
+    requestAgain();
+}
+
 void HotKeyTable::followKeymap() {
     std::vector<Row*> moved;
     for (auto& [id, row] : m_rows) {

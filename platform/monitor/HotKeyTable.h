@@ -52,8 +52,12 @@ class HotKeyTable {
     /// locks do not matter for a combination, but these are part of it.
     void followLocks();
 
-    /// Whether what follows gives anything free: not where the desktop's user decides.
-    bool canLift() const { return !m_grabs.isDecidedByUser(); }
+    /// See HotKeys.
+    bool needsConsent() const { return m_grabs.needsConsent(); }
+    void setConsent(bool given);
+
+    /// Whether what follows gives anything free.
+    bool canLift() const { return m_grabs.canLift(); }
     /// Gives the combination of these real modifiers free until restoreAll(); false, and nothing done, if it
     /// is none of ours or has been given free already.
     bool lift(std::uint8_t keycode, std::uint16_t modifiers);
@@ -104,4 +108,5 @@ class HotKeyTable {
     HotKeys::Observer m_observer;
     std::map<HotKeyId, Row> m_rows;
     xkb_mod_mask_t m_lockedHolds = 0;
+    bool m_hasConsent = false;
 };

@@ -43,6 +43,11 @@ class KeyGrabber {
     /// Whether grab() is a wish that the desktop's user decides in its settings: the answer comes later
     /// (HotKeyTable::answer), and may change, and nothing can be given free for a while.
     virtual bool isDecidedByUser() const { return false; }
+    /// Whether a combination can be given free for the length of a stroke.
+    virtual bool canLift() const { return !isDecidedByUser(); }
+    /// See HotKeys; without consent grab() takes nothing.
+    virtual bool needsConsent() const { return false; }
+    virtual void setConsent(bool /*given*/) {}
     /// Whether combinations are taken by what their keys type, so that another keymap makes others of them.
     virtual bool takesSymbols() const { return false; }
 };

@@ -25,6 +25,7 @@ TEST_F(HotKeyCenterTest, hasARowWithACommandForEachShortcutInTheirOrder) {
         const HotKeyRow& row = hotKeyRows()[i];
         EXPECT_EQ(row.name, shortcutRows[i].name);
         EXPECT_EQ(row.id, shortcutRows[i].id) << row.name;
+        EXPECT_EQ(row.action, shortcutRows[i].action) << row.name;
         EXPECT_EQ(row.signature, shortcutRows[i].signature) << row.name;
         EXPECT_TRUE((row.pressed == nullptr) != (row.released == nullptr)) << row.name;
     }

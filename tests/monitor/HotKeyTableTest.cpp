@@ -30,6 +30,7 @@ class Grabber final : public KeyGrabber {
     std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) override {
         ++grabs;
         if (otherProgramHasAll) return "another program holds it";
+        if (isUsersToAllow && !isAllowed) return "the user has not agreed";
         held.push_back(grab);
         return std::nullopt;
     }
@@ -39,10 +40,14 @@ class Grabber final : public KeyGrabber {
 
     bool isDecidedByUser() const override { return isUsers; }
     bool takesSymbols() const override { return isBySymbols; }
+    bool needsConsent() const override { return isUsersToAllow; }
+    void setConsent(bool given) override { isAllowed = given; }
 
     std::vector<KeyGrab> held;
     bool otherProgramHasAll = false;
     bool isUsers = false;
+    bool isUsersToAllow = false;
+    bool isAllowed = false;
     bool isBySymbols = false;
     int grabs = 0;
 };
@@ -319,6 +324,22 @@ TEST_F(DecidedByUserTest, nothingIsGivenFreeForAWhile) {
     EXPECT_FALSE(m_table.lift(keyOfR, 0x44));
     EXPECT_FALSE(m_table.liftAll(keyOfR));
     EXPECT_EQ(m_grabber.held, std::vector{m_controlSuperR});
+}
+
+TEST_F(HotKeyTableTest, whatNeedsConsentIsRefusedUntilItIsGivenAndWhenItIsTakenBack) {
+    m_grabber.isUsersToAllow = true;
+    EXPECT_TRUE(m_table.needsConsent());
+    m_table.request(asked(record));
+    EXPECT_EQ(refusal(record), "Ctrl+Super+R cannot be used: the user has not agreed.");
+    m_table.setConsent(true);
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::registered);
+    EXPECT_EQ(m_grabber.held, std::vector<KeyGrab>{m_controlSuperR});
+    const int before = m_grabber.grabs;
+    m_table.setConsent(true);
+    EXPECT_EQ(m_grabber.grabs, before);
+    m_table.setConsent(false);
+    EXPECT_EQ(m_table.state(record).status, HotKeyStatus::refused);
+    EXPECT_EQ(m_grabber.held, std::vector<KeyGrab>{});
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "app/shortcuts/ShortcutTitles.h"
 #include "app/shortcuts/Toggles.h"
+#include "app/tray/Actions.h"
 #include "app/tray/MenuItems.h"
 #include "prefs/Shortcuts.h"
 
@@ -22,6 +23,14 @@ TEST(ShortcutTitlesTest, nameEachCommandAsTheMenuDoes) {
         const MenuRow& row = menuRows.at(menuRowNamed(shortcutRows[i].name));
         const QString title = QString::fromLatin1(row.title).remove(QStringLiteral("..."));
         EXPECT_EQ(shortcutTitles(i).command.toStdString(), title.toStdString());
+    }
+}
+
+TEST(ShortcutTitlesTest, doWhatTheirActionsDo) {
+    for (const ShortcutRow& row : shortcutRows) {
+        const ActionRow* const action = actionNamed(row.action);
+        ASSERT_NE(action, nullptr) << row.name;
+        EXPECT_EQ(action->menuItem, row.name);
     }
 }
 
