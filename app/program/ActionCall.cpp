@@ -44,6 +44,7 @@ int askForAction(const CommandLine& line) {
     const RunningProgram program;
     const auto reached = program.reach();
     if (!reached) return reportFailure(reached.error());
+    if (line.hotKey && program.pressHotKey(*line.hotKey)) return EXIT_SUCCESS;
     if (!program.isRunning()) {
         if (!actionNamed(*line.action)->startsProgram) {
             reportFailure({Words::tr("Keyrill is not running.").toStdString(), ""});

@@ -52,6 +52,7 @@ bool takeWish(CommandLine& line, std::string_view name, const std::optional<std:
 /// Where the value of an option goes that has to have one; null for another option.
 std::optional<std::string>* valueOf(CommandLine& line, std::string_view name) {
     if (name == "--action") return &line.action;
+    if (name == "--hot-key") return &line.hotKey;
     if (name == "--times") return &line.times;
     return name == "--speed" ? &line.speed : nullptr;
 }
@@ -102,8 +103,10 @@ Result<void> checkOptions(const CommandLine& line) {
         return refusal(Words::tr("--times and --speed say how --play plays."),
                        Words::tr("keyrill --help tells more."));
     }
-    if (line.unknown.empty()) return {};
-    return refusal(Words::tr("There is no option \"%1\".").arg(shown(line.unknown.front())),
+    const bool isHotKeyAlone = line.hotKey && !line.action && line.wish != Wish::play;
+    if (line.unknown.empty() && !isHotKeyAlone) return {};
+    const std::string option = line.unknown.empty() ? "--hot-key" : line.unknown.front();
+    return refusal(Words::tr("There is no option \"%1\".").arg(shown(option)),
                    Words::tr("keyrill --help lists them."));
 }
 

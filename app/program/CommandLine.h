@@ -26,6 +26,9 @@ struct CommandLine {
     std::string session = {};
     /// What the running program is asked to do (app/tray/Actions.h), as it was written.
     std::optional<std::string> action = {};
+    /// Which hot key of the running program is pressed, if it has one of that name; what else is asked for is
+    /// done only if it has not.
+    std::optional<std::string> hotKey = {};
     /// How often and how fast to play, as it was written.
     std::optional<std::string> times = {};
     std::optional<std::string> speed = {};

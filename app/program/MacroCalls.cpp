@@ -91,6 +91,7 @@ int playMacro(const CommandLine& line) {
     const auto wish = playWish(line.times, line.speed);
     if (!wish) return reportUsage(wish.error());
     const RunningProgram program;
+    if (line.hotKey && program.pressHotKey(*line.hotKey)) return EXIT_SUCCESS;
     const auto prepared = prepare(program, line.session);
     if (!prepared) return reportFailure(prepared.error());
     return reportAnswer(answerToPlay(program, line, wish.value()));

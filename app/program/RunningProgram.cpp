@@ -101,6 +101,17 @@ Result<> RunningProgram::start(const std::string& session) const {
     return {};
 }
 
+bool RunningProgram::pressHotKey(const std::string& name) const {
+    if (!m_bus.isConnected() || !m_bus.interface()->isServiceRegistered(bus::hotKeys)) return false;
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(bus::hotKeys, bus::hotKeysPath, bus::hotKeys, QStringLiteral("Press"));
+    call.setAutoStartService(false);
+    call << QString::fromStdString(name);
+    // One that takes its time is not to do it twice.
+    const QDBusError error(answerTo(call));
+    return !error.isValid() || error.type() == QDBusError::NoReply;
+}
+
 QDBusMessage RunningProgram::callOf(const QString& interface, const QString& method) {
     QDBusMessage call = QDBusMessage::createMethodCall(bus::name, bus::path, interface, method);
     call.setAutoStartService(false);

@@ -20,6 +20,10 @@ class RunningProgram {
     /// found; returns when it can be asked.
     Result<> start(const std::string& session) const;
 
+    /// Tells the running program that one of its hot keys is pressed, where its desktop tells of them in no
+    /// other way; false if it takes none so.
+    bool pressHotKey(const std::string& name) const;
+
     /// A call of the interface, without arguments yet.
     static QDBusMessage callOf(const QString& interface, const QString& method);
     /// Its answer, an error too; waits for 20 s at most, then it is QDBusError::NoReply.

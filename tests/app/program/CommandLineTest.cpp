@@ -103,6 +103,19 @@ TEST(CommandLineTest, aPlayTakesOneNameThatIsNotEmpty) {
               (Error{R"(There is no option "-x".)", "keyrill --help lists them."}));
 }
 
+TEST(CommandLineTest, aHotKeyIsNamedBesideWhatItDoes) {
+    const CommandLine action = readCommandLine({"--action=play", "--hot-key=play"});
+    EXPECT_EQ(action, (CommandLine{.action = "play", .hotKey = "play"}));
+    EXPECT_TRUE(checkOptions(action));
+    const CommandLine macro = readCommandLine({"--play=A b.keyrill", "--hot-key=macro-A%20b"});
+    EXPECT_EQ(
+        macro,
+        (CommandLine{.wish = CommandLine::Wish::play, .hotKey = "macro-A%20b", .files = {"A b.keyrill"}}));
+    EXPECT_TRUE(checkMacroCall(macro));
+    EXPECT_EQ(checkOptions(readCommandLine({"--hot-key=play"})).error(),
+              (Error{"There is no option \"--hot-key\".", "keyrill --help lists them."}));
+}
+
 TEST(CommandLineTest, theFirstUnknownOptionIsNamed) {
     const CommandLine line = readCommandLine({"-style", "a", "--sesion=x11"});
     EXPECT_EQ(line.unknown, (std::vector<std::string>{"-style", "--sesion=x11"}));
