@@ -13,6 +13,13 @@ namespace {
 constexpr const char* installed = "/usr/bin/kwin_wayland";
 constexpr std::chrono::seconds startUp{30};
 
+/// As a text of a script.
+std::string quoted(const std::string& title) {
+    std::string text;
+    for (const char letter : title) text += letter == '\'' ? "\\'" : std::string(1, letter);
+    return "'" + text + "'";
+}
+
 }  // namespace
 
 KWin::KWin(const Options& options) : m_options(options) {
@@ -176,8 +183,8 @@ std::string KWin::run(const std::string& script) const {
 
 bool KWin::shows(const std::string& title) const {
     return run("var there = 'no';\n"
-               "workspace.clientList().forEach(function (one) { if (one.caption == '" +
-               title + "') there = 'yes'; });\nsay(there);") == "yes";
+               "workspace.clientList().forEach(function (one) { if (one.caption == " +
+               quoted(title) + ") there = 'yes'; });\nsay(there);") == "yes";
 }
 
 std::string KWin::front() const {
@@ -187,13 +194,13 @@ std::string KWin::front() const {
 bool KWin::focus(const std::string& title) const {
     return run("var windows = workspace.clientList();\n"
                "for (var i = 0; i < windows.length; ++i)\n"
-               "  if (windows[i].caption == '" +
-               title +
-               "') workspace.activeClient = windows[i];\n"
+               "  if (windows[i].caption == " +
+               quoted(title) +
+               ") workspace.activeClient = windows[i];\n"
                "say(workspace.activeClient ? workspace.activeClient.caption : '');") == title;
 }
 
 void KWin::close(const std::string& title) const {
-    run("workspace.clientList().forEach(function (one) { if (one.caption == '" + title +
-        "') one.closeWindow(); });\nsay('');");
+    run("workspace.clientList().forEach(function (one) { if (one.caption == " + quoted(title) +
+        ") one.closeWindow(); });\nsay('');");
 }
