@@ -22,6 +22,9 @@ class HotKeyBinder : public KeyGrabber {
         friend bool operator==(const Event&, const Event&) = default;
     };
 
+    /// Another layout may be in force.
+    virtual void layoutChanged() {}
+
     /// Readable when nextEvent() may have one.
     virtual int fileDescriptor() const = 0;
     /// Without waiting.

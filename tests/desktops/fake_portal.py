@@ -4,7 +4,7 @@
 "refuses", "fails", "waits" (for the command "answer") or "forgets" (the user's answer); "old" beside it is version 1,
 "shortcuts" the portal for hot keys too, which leaves "leave=NAME" out of its answer, agrees with a code of no meaning
 where it is "vague", and is deaf to whoever has not said who he is where it is "strict"; "only" leaves the portal for
-keys out; "layouts" is KDE's service for layouts beside it. Prints "ready", then what it is told; obeys the lines that are
+keys out; "layouts" is KDE's service for layouts beside it, "gnome" the name of GNOME's shell. Prints "ready", then what it is told; obeys the lines that are
 written to the named pipe COMMANDS: "answer" and "refuse" (what it has been asked), "close" (takes the permission back),
 "close first" (tells so of its first session), "deaf COUNT" (takes so many keys from now on without an answer, and says
 "deaf"), "press NAME" and "release NAME", "change NAME WORDS", "end"."""
@@ -197,6 +197,8 @@ for face in ([] if "only" in how else [DESKTOP]) + ([SHORTCUTS] if "shortcuts" i
 if "layouts" in how:
     bus.register_object("/Layouts", LAYOUTS, on_call, None, None)
     Gio.bus_own_name_on_connection(bus, "org.kde.keyboard", Gio.BusNameOwnerFlags.NONE, None, None)
+if "gnome" in how:
+    Gio.bus_own_name_on_connection(bus, "org.gnome.Shell", Gio.BusNameOwnerFlags.NONE, None, None)
 loop = GLib.MainLoop()
 Gio.bus_own_name_on_connection(
     bus, "org.freedesktop.portal.Desktop", Gio.BusNameOwnerFlags.NONE, lambda *_: print("ready", flush=True), None)

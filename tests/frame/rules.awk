@@ -43,7 +43,8 @@ BEGIN {
                          " platform/x11/windows", "", "^(Q|boost/|wayland)")
 
     room("platform/desktops/portal", "platform platform/linux", "", foreign)
-    room("platform/desktops", "platform platform/desktops/portal platform/linux platform/monitor platform/run", "", foreign)
+    room("platform/desktops", "platform platform/desktops/portal platform/keymap platform/linux platform/monitor" \
+                              " platform/run", "", foreign)
     room("platform/wayland", "platform platform/desktops platform/evdev platform/evdev/access platform/evdev/devices" \
                              " platform/keymap platform/linux platform/monitor platform/none platform/press platform/run", "",
          "^(Q|boost/|xcb/|X11/)")
