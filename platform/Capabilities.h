@@ -29,6 +29,7 @@ enum class Means {
     kdeShortcuts,     ///< KDE's global shortcuts, over the session bus
     portal,           ///< the portal by which a desktop lets programs press keys
     shortcutsPortal,  ///< the portal by which a desktop gives programs hot keys
+    gnomeBindings,    ///< entries in the settings of GNOME's user, once he agrees
     swayTree,         ///< sway's tree of windows, by its IPC
     kwinScripts,      ///< scripts that KWin runs, over the session bus
     dataControl,      ///< the clipboard of a Wayland compositor, without a window
@@ -60,6 +61,7 @@ enum class Lack {
     dataControl,      ///< a compositor that lets the clipboard be read without a window
     foreignWindows,   ///< a compositor that tells of the windows of others
     layers,           ///< windows that lie above all others
+    consent,          ///< the user's consent to entries in GNOME's settings
 };
 
 inline constexpr std::array allMeans{
@@ -68,12 +70,12 @@ inline constexpr std::array allMeans{
     Means::statusNotifier, Means::virtualKeyboard, Means::swayBindings,  Means::swayTree,
     Means::kdeShortcuts,   Means::portal,          Means::dataControl,   Means::ordinaryWindow,
     Means::layer,          Means::keyboardDevices, Means::accessService, Means::shortcutsPortal,
-    Means::kwinScripts,    Means::ownWindow};
+    Means::kwinScripts,    Means::ownWindow,       Means::gnomeBindings};
 inline constexpr std::array allLacks{
     Lack::nothing,        Lack::display,         Lack::xInput,        Lack::xkb,    Lack::xTest,
     Lack::record,         Lack::guard,           Lack::nativeWindows, Lack::tray,   Lack::foreignKeys,
     Lack::compositorKeys, Lack::virtualKeyboard, Lack::dataControl,   Lack::portal, Lack::otherCharacters,
-    Lack::foreignWindows, Lack::layers,          Lack::otherLayouts};
+    Lack::foreignWindows, Lack::layers,          Lack::otherLayouts,  Lack::consent};
 
 struct CapabilityState {
     Extent extent = Extent::nothing;

@@ -47,6 +47,10 @@ QString meansWords(Means means) {
         case Means::shortcutsPortal:
             return Words::tr(
                 "by the desktop's portal: you choose them when it asks, and later in its settings");
+        case Means::gnomeBindings:
+            return Words::tr(
+                "by custom shortcuts in GNOME's settings while Keyrill runs, as you have agreed; the "
+                "preferences take that back");
         case Means::swayTree:
             return Words::tr("by sway");
         case Means::kwinScripts:
@@ -142,6 +146,12 @@ LackWords lackWords(Lack lack) {
         case Lack::foreignWindows:
             return {Words::tr("This compositor tells nothing of other programs' windows."),
                     Words::tr("Scripts that bring a window to the front need sway, KDE or an X11 session.")};
+        case Lack::consent:
+            return {
+                Words::tr("This version of GNOME has hot keys for programs only as custom shortcuts in your "
+                          "own settings, and you have not agreed that Keyrill writes them."),
+                Words::tr("Tick the box in Keyrill's preferences, or bind keys to commands such as \"keyrill "
+                          "--action=play\" in GNOME's settings yourself.")};
         case Lack::layers:
             return {
                 Words::tr("Full-screen windows may cover it."),

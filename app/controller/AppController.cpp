@@ -59,6 +59,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_filesDesk(services.macroFiles, services.notifications, m_scriptNotices, m_dialogs, m_gate, m_stage),
       m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, library, m_dialogs,
                         m_stage),
+      m_consentDesk(services.settings, services.hotKeys, m_dialogs, m_preferencesDesk.model.writeHotKeys),
       m_accessDesk(services.eventMonitor, services.notifications, m_dialogs, m_overlayDesk),
       m_recordHereDesk(services.eventMonitor, services.hotKeys, m_preferencesDesk.model.stop, m_stage),
       m_macrosDesk({library, services.macroFiles, services.keyboardLayout, m_gate, m_stage,
@@ -125,6 +126,7 @@ void AppController::awakeFromNib() {
     if (runPreferencesOnLaunch) m_stage.present(builtWelcomePanel());
     // What went wrong with the settings so far, once the start-up is through.
     QTimer::singleShot(0, this, &AppController::tellFaults);
+    QTimer::singleShot(0, this, [this] { m_consentDesk.ask(); });
     tellShortcoming();
     emit started();
 }

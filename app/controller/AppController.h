@@ -13,6 +13,7 @@
 
 #include "app/controller/AccessDesk.h"
 #include "app/controller/AskedPlays.h"
+#include "app/controller/ConsentDesk.h"
 #include "app/controller/FilesDesk.h"
 #include "app/controller/Gate.h"
 #include "app/controller/GatedDialogs.h"
@@ -186,6 +187,7 @@ class AppController : public QObject, public SharedController {
     StatusDesk m_statusDesk;
     FilesDesk m_filesDesk;
     PreferencesDesk m_preferencesDesk;
+    ConsentDesk m_consentDesk;
     AccessDesk m_accessDesk;
     RecordHereDesk m_recordHereDesk;
     MacrosDesk m_macrosDesk;

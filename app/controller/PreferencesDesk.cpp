@@ -47,6 +47,7 @@ PreferencesDesk::PreferencesDesk(SettingsStore& store, LoginItems& loginItems, H
       m_dialogs(dialogs),
       m_stage(stage) {
     model.offersUpdateCheck = features::updateCheck;
+    model.offersConsent = hotKeys.needsConsent();
     connect(&model.launchOnLogin, &ToggleModel::changed, this, &PreferencesDesk::noteLoginTick);
 }
 
@@ -63,6 +64,7 @@ void PreferencesDesk::load() {
         model.toggles[i].setOn(isStoredOn(m_store, row.key, row.initiallyOn));
     }
     model.pauses.setChoice(storedPauseChoice(m_store));
+    m_hotKeys.setConsent(model.writeHotKeys.isOn());
     applyRecording();
 }
 
@@ -73,16 +75,24 @@ PreferenceValues PreferencesDesk::values() const {
     for (std::size_t i = 0; i < toggleRows.size(); ++i) {
         const ToggleModel& toggle = model.toggles[i];
         if (&toggle == &model.checkForUpdatesOnLaunch && !model.offersUpdateCheck) continue;
+        if (&toggle == &model.writeHotKeys && !isConsentToBeStored()) continue;
         values.toggles.push_back({toggleRows[i].key, toggle.isOn()});
     }
     values.pauses = model.pauses.choice();
     return values;
 }
 
+/// Whoever leaves the box as it is has not been asked by that.
+bool PreferencesDesk::isConsentToBeStored() const {
+    if (!model.offersConsent || model.writeHotKeys.isOn()) return model.offersConsent;
+    return m_store.integer(toggleRows[toggleIndex("writeHotKeys")].key).has_value();
+}
+
 void PreferencesDesk::save() {
     const PreferenceValues saved = values();
     keepHotKeys(saved);
     storePreferences(m_store, saved);
+    m_hotKeys.setConsent(model.writeHotKeys.isOn());
     applyRecording();
     installLoginItem(model.launchOnLogin.isOn());
     const Result<> synchronized = m_store.synchronize();

@@ -63,6 +63,7 @@ class PreferencesDesk : public QObject {
   private:
     PreferencesPanel& builtPanel();
     PreferenceValues values() const;
+    bool isConsentToBeStored() const;
     /// The next recording keeps what the model says, and is kept as it says.
     void applyRecording() const;
     void emptyOthersEqualTo(const ShortcutModel& changed);

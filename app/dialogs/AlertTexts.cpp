@@ -119,6 +119,19 @@ AlertText loginItemNotSet(const Error& error) {
     return warning(Words::tr("Whether Keyrill starts when you log in could not be changed."), error);
 }
 
+AlertText mayWriteHotKeys() {
+    return {.kind = AlertText::Kind::informational,
+            .title = Words::tr("May Keyrill write its hot keys into GNOME's settings?"),
+            .message = Words::tr(
+                "This version of GNOME has hot keys for programs only as custom shortcuts in your own "
+                "settings. Keyrill would write one there for each of its combinations, and take them out "
+                "when it ends. It does not touch what is yours.\n\nYou can change your mind in Keyrill's "
+                "preferences."),
+            .defaultButton = Words::tr("Write Them"),
+            .alternateButton = Words::tr("Not Now"),
+            .otherButton = Words::tr("Never")};
+}
+
 AlertText settingsFault(const Error& error) {
     return warning(Words::tr("Something is wrong with your settings."), error);
 }

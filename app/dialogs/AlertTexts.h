@@ -34,6 +34,8 @@ AlertText noMacroFile(const QString& path);
 AlertText fileNotFound(const QString& path);
 AlertText settingsNotSaved(const Error& error);
 AlertText loginItemNotSet(const Error& error);
+/// Whether hot keys may be written into the settings of the desktop; the alternate button decides nothing.
+AlertText mayWriteHotKeys();
 /// Of the settings, found behind the user's back.
 AlertText settingsFault(const Error& error);
 

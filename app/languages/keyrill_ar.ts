@@ -229,6 +229,30 @@ Keyrill must close, please restart it once this is possible.
         <source>Something is wrong with your settings.</source>
         <translation>يوجد خطأ في إعداداتك.</translation>
     </message>
+    <message>
+        <source>May Keyrill write its hot keys into GNOME&apos;s settings?</source>
+        <translation>هل تسمح لبرنامج Keyrill بكتابة اختصاراته في إعدادات GNOME؟</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings. Keyrill would write one there for each of its combinations, and take them out when it ends. It does not touch what is yours.
+
+You can change your mind in Keyrill&apos;s preferences.</source>
+        <translation>لا يتيح هذا الإصدار من GNOME اختصارات عامة للبرامج إلا كاختصارات مخصصة في إعداداتك. سيكتب Keyrill هناك اختصارا لكل تركيبة من تركيباته ويزيلها عند انتهائه، ولا يمس اختصاراتك أنت.
+
+يمكنك تغيير رأيك في تفضيلات Keyrill.</translation>
+    </message>
+    <message>
+        <source>Write Them</source>
+        <translation>اكتبها</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>ليس الآن</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>أبدا</translation>
+    </message>
 </context>
 <context>
     <name>AppController</name>
@@ -476,6 +500,18 @@ Keyrill must close, please restart it once this is possible.
     <message>
         <source>Use a compositor that has layers, such as sway&apos;s or KDE&apos;s, or an X11 session.</source>
         <translation>استخدم مُركِّبا له طبقات، كالذي في sway أو KDE، أو جلسة X11.</translation>
+    </message>
+    <message>
+        <source>by custom shortcuts in GNOME&apos;s settings while Keyrill runs, as you have agreed; the preferences take that back</source>
+        <translation>عبر اختصارات مخصصة في إعدادات GNOME ما دام Keyrill يعمل، كما وافقت؛ ويمكنك سحب ذلك من التفضيلات</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings, and you have not agreed that Keyrill writes them.</source>
+        <translation>لا يتيح هذا الإصدار من GNOME اختصارات عامة للبرامج إلا كاختصارات مخصصة في إعداداتك، ولم توافق على أن يكتبها Keyrill.</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>ضع علامة في المربع في تفضيلات Keyrill، أو اربط بنفسك المفاتيح بأوامر مثل «keyrill --action=play» في إعدادات GNOME.</translation>
     </message>
 </context>
 <context>
@@ -1916,6 +1952,10 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>Keep the &amp;history for the next start</source>
         <translation>الاحتفاظ بالسجل للمرة القادمة (&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Write hot keys into GNOME&apos;s settings</source>
+        <translation>كتابة الاختصارات في إعدادات GNOME (&amp;W)</translation>
     </message>
 </context>
 <context>

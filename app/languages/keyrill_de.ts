@@ -229,6 +229,30 @@ Keyrill muss beendet werden. Bitte starten Sie es neu, sobald dies möglich ist.
         <source>Something is wrong with your settings.</source>
         <translation>Mit Ihren Einstellungen stimmt etwas nicht.</translation>
     </message>
+    <message>
+        <source>May Keyrill write its hot keys into GNOME&apos;s settings?</source>
+        <translation>Darf Keyrill seine Tastenkürzel in die Einstellungen von GNOME schreiben?</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings. Keyrill would write one there for each of its combinations, and take them out when it ends. It does not touch what is yours.
+
+You can change your mind in Keyrill&apos;s preferences.</source>
+        <translation>Diese Version von GNOME bietet Programmen Tastenkürzel nur als eigene Tastenkürzel in Ihren Einstellungen. Keyrill würde dort für jede seiner Tastenkombinationen eines anlegen und sie entfernen, wenn es endet. Was Sie selbst angelegt haben, bleibt unberührt.
+
+Sie können sich in den Einstellungen von Keyrill anders entscheiden.</translation>
+    </message>
+    <message>
+        <source>Write Them</source>
+        <translation>Eintragen</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Nicht jetzt</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
 </context>
 <context>
     <name>AppController</name>
@@ -476,6 +500,18 @@ Keyrill muss beendet werden. Bitte starten Sie es neu, sobald dies möglich ist.
     <message>
         <source>Use a compositor that has layers, such as sway&apos;s or KDE&apos;s, or an X11 session.</source>
         <translation>Verwenden Sie einen Compositor, der Ebenen hat, etwa den von sway oder KDE, oder eine X11-Sitzung.</translation>
+    </message>
+    <message>
+        <source>by custom shortcuts in GNOME&apos;s settings while Keyrill runs, as you have agreed; the preferences take that back</source>
+        <translation>über eigene Tastenkürzel in den Einstellungen von GNOME, solange Keyrill läuft, wie Sie es erlaubt haben; in den Einstellungen von Keyrill nehmen Sie das zurück</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings, and you have not agreed that Keyrill writes them.</source>
+        <translation>Diese Version von GNOME bietet Programmen Tastenkürzel nur als eigene Tastenkürzel in Ihren Einstellungen, und Sie haben nicht erlaubt, dass Keyrill sie anlegt.</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>Setzen Sie in den Einstellungen von Keyrill das Häkchen, oder belegen Sie in den Einstellungen von GNOME selbst Tasten mit Befehlen wie „keyrill --action=play“.</translation>
     </message>
 </context>
 <context>
@@ -1909,6 +1945,10 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     <message>
         <source>Keep the &amp;history for the next start</source>
         <translation>&amp;Verlauf für den nächsten Start behalten</translation>
+    </message>
+    <message>
+        <source>&amp;Write hot keys into GNOME&apos;s settings</source>
+        <translation>&amp;Tastenkürzel in die Einstellungen von GNOME schreiben</translation>
     </message>
 </context>
 <context>

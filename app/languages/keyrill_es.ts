@@ -229,6 +229,30 @@ Keyrill debe cerrarse. Vuelva a iniciarlo cuando esto sea posible.
         <source>Something is wrong with your settings.</source>
         <translation>Hay algo incorrecto en sus ajustes.</translation>
     </message>
+    <message>
+        <source>May Keyrill write its hot keys into GNOME&apos;s settings?</source>
+        <translation>¿Puede Keyrill escribir sus atajos de teclado en los ajustes de GNOME?</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings. Keyrill would write one there for each of its combinations, and take them out when it ends. It does not touch what is yours.
+
+You can change your mind in Keyrill&apos;s preferences.</source>
+        <translation>Esta versión de GNOME solo ofrece atajos de teclado a los programas como atajos personalizados en sus propios ajustes. Keyrill escribiría allí uno por cada una de sus combinaciones y los quitaría al terminar. No toca los que son suyos.
+
+Puede cambiar de opinión en las preferencias de Keyrill.</translation>
+    </message>
+    <message>
+        <source>Write Them</source>
+        <translation>Escribirlos</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Ahora no</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
 </context>
 <context>
     <name>AppController</name>
@@ -476,6 +500,18 @@ Keyrill debe cerrarse. Vuelva a iniciarlo cuando esto sea posible.
     <message>
         <source>Use a compositor that has layers, such as sway&apos;s or KDE&apos;s, or an X11 session.</source>
         <translation>Use un compositor que tenga capas, como el de sway o el de KDE, o una sesión X11.</translation>
+    </message>
+    <message>
+        <source>by custom shortcuts in GNOME&apos;s settings while Keyrill runs, as you have agreed; the preferences take that back</source>
+        <translation>mediante atajos personalizados en los ajustes de GNOME mientras Keyrill se ejecuta, como ha aceptado; en las preferencias puede retirarlo</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings, and you have not agreed that Keyrill writes them.</source>
+        <translation>Esta versión de GNOME solo ofrece atajos de teclado a los programas como atajos personalizados en sus propios ajustes, y no ha aceptado que Keyrill los escriba.</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>Marque la casilla en las preferencias de Keyrill, o asigne usted mismo teclas a órdenes como «keyrill --action=play» en los ajustes de GNOME.</translation>
     </message>
 </context>
 <context>
@@ -1909,6 +1945,10 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <message>
         <source>Keep the &amp;history for the next start</source>
         <translation>Conservar el &amp;historial para el próximo inicio</translation>
+    </message>
+    <message>
+        <source>&amp;Write hot keys into GNOME&apos;s settings</source>
+        <translation>&amp;Escribir los atajos en los ajustes de GNOME</translation>
     </message>
 </context>
 <context>

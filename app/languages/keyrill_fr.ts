@@ -229,6 +229,30 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
         <source>Something is wrong with your settings.</source>
         <translation>Vos réglages comportent une erreur.</translation>
     </message>
+    <message>
+        <source>May Keyrill write its hot keys into GNOME&apos;s settings?</source>
+        <translation>Keyrill peut-il inscrire ses raccourcis clavier dans les réglages de GNOME ?</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings. Keyrill would write one there for each of its combinations, and take them out when it ends. It does not touch what is yours.
+
+You can change your mind in Keyrill&apos;s preferences.</source>
+        <translation>Cette version de GNOME ne fournit de raccourcis clavier aux programmes que sous forme de raccourcis personnalisés dans vos propres réglages. Keyrill y inscrirait un raccourci pour chacune de ses combinaisons et les retirerait en se terminant. Il ne touche pas aux vôtres.
+
+Vous pourrez changer d’avis dans les préférences de Keyrill.</translation>
+    </message>
+    <message>
+        <source>Write Them</source>
+        <translation>Les inscrire</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Pas maintenant</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Jamais</translation>
+    </message>
 </context>
 <context>
     <name>AppController</name>
@@ -476,6 +500,18 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     <message>
         <source>Use a compositor that has layers, such as sway&apos;s or KDE&apos;s, or an X11 session.</source>
         <translation>Utilisez un compositeur qui gère les plans, comme celui de sway ou de KDE, ou une session X11.</translation>
+    </message>
+    <message>
+        <source>by custom shortcuts in GNOME&apos;s settings while Keyrill runs, as you have agreed; the preferences take that back</source>
+        <translation>par des raccourcis personnalisés dans les réglages de GNOME tant que Keyrill fonctionne, comme vous l’avez accepté ; les préférences permettent d’y revenir</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings, and you have not agreed that Keyrill writes them.</source>
+        <translation>Cette version de GNOME ne fournit de raccourcis clavier aux programmes que sous forme de raccourcis personnalisés dans vos propres réglages, et vous n’avez pas accepté que Keyrill les y inscrive.</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>Cochez la case dans les préférences de Keyrill, ou associez vous-même, dans les réglages de GNOME, des touches à des commandes comme « keyrill --action=play ».</translation>
     </message>
 </context>
 <context>
@@ -1909,6 +1945,10 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <message>
         <source>Keep the &amp;history for the next start</source>
         <translation>Conserver l’&amp;historique pour le prochain lancement</translation>
+    </message>
+    <message>
+        <source>&amp;Write hot keys into GNOME&apos;s settings</source>
+        <translation>Inscrire les raccourcis dans les ré&amp;glages de GNOME</translation>
     </message>
 </context>
 <context>

@@ -229,6 +229,30 @@ Keyrill を終了します。使えるようになったら再び起動してく
         <source>Something is wrong with your settings.</source>
         <translation>設定に問題があります。</translation>
     </message>
+    <message>
+        <source>May Keyrill write its hot keys into GNOME&apos;s settings?</source>
+        <translation>Keyrill がショートカットを GNOME の設定に書き込んでもよろしいですか?</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings. Keyrill would write one there for each of its combinations, and take them out when it ends. It does not touch what is yours.
+
+You can change your mind in Keyrill&apos;s preferences.</source>
+        <translation>このバージョンの GNOME では、プログラムのグローバルショートカットはユーザー自身の設定にある独自のショートカットとしてしか使えません。Keyrill は自分の組み合わせをひとつずつそこに書き込み、終了するときに取り除きます。ユーザー自身のショートカットには触れません。
+
+この選択は Keyrill の設定で変更できます。</translation>
+    </message>
+    <message>
+        <source>Write Them</source>
+        <translation>書き込む</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>後で決める</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>書き込まない</translation>
+    </message>
 </context>
 <context>
     <name>AppController</name>
@@ -476,6 +500,18 @@ Keyrill を終了します。使えるようになったら再び起動してく
     <message>
         <source>Use a compositor that has layers, such as sway&apos;s or KDE&apos;s, or an X11 session.</source>
         <translation>sway や KDE などレイヤーのあるコンポジターか、X11 セッションを使ってください。</translation>
+    </message>
+    <message>
+        <source>by custom shortcuts in GNOME&apos;s settings while Keyrill runs, as you have agreed; the preferences take that back</source>
+        <translation>許可に基づき、Keyrill の実行中だけ GNOME の設定に置かれる独自のショートカットによる。許可は Keyrill の設定で取り消せます</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings, and you have not agreed that Keyrill writes them.</source>
+        <translation>このバージョンの GNOME では、プログラムのグローバルショートカットはユーザー自身の設定にある独自のショートカットとしてしか使えず、Keyrill が書き込むことは許可されていません。</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>Keyrill の設定でチェックを入れるか、GNOME の設定で「keyrill --action=play」などのコマンドに自分でキーを割り当ててください。</translation>
     </message>
 </context>
 <context>
@@ -1907,6 +1943,10 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Keep the &amp;history for the next start</source>
         <translation>Keyrill を終了しても履歴を残す(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Write hot keys into GNOME&apos;s settings</source>
+        <translation>ショートカットを GNOME の設定に書き込む(&amp;W)</translation>
     </message>
 </context>
 <context>

@@ -229,6 +229,30 @@ Keyrill должен завершить работу. Запустите его 
         <source>Something is wrong with your settings.</source>
         <translation>В настройках есть ошибка.</translation>
     </message>
+    <message>
+        <source>May Keyrill write its hot keys into GNOME&apos;s settings?</source>
+        <translation>Разрешить Keyrill записывать комбинации клавиш в настройки GNOME?</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings. Keyrill would write one there for each of its combinations, and take them out when it ends. It does not touch what is yours.
+
+You can change your mind in Keyrill&apos;s preferences.</source>
+        <translation>В этой версии GNOME комбинации клавиш для программ возможны только как дополнительные комбинации в ваших собственных настройках. Keyrill добавит туда по одной для каждой из своих комбинаций и уберёт их, когда завершится. Ваши собственные он не трогает.
+
+Изменить решение можно в параметрах Keyrill.</translation>
+    </message>
+    <message>
+        <source>Write Them</source>
+        <translation>Записать</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Не сейчас</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Никогда</translation>
+    </message>
 </context>
 <context>
     <name>AppController</name>
@@ -476,6 +500,18 @@ Keyrill должен завершить работу. Запустите его 
     <message>
         <source>Use a compositor that has layers, such as sway&apos;s or KDE&apos;s, or an X11 session.</source>
         <translation>Используйте композитор со слоями, например из sway или KDE, или сеанс X11.</translation>
+    </message>
+    <message>
+        <source>by custom shortcuts in GNOME&apos;s settings while Keyrill runs, as you have agreed; the preferences take that back</source>
+        <translation>через дополнительные комбинации клавиш в настройках GNOME, пока работает Keyrill, с вашего согласия; отозвать его можно в параметрах</translation>
+    </message>
+    <message>
+        <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings, and you have not agreed that Keyrill writes them.</source>
+        <translation>В этой версии GNOME комбинации клавиш для программ возможны только как дополнительные комбинации в ваших собственных настройках, а вы не разрешили Keyrill их записывать.</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>Поставьте флажок в параметрах Keyrill или сами назначьте клавишам в настройках GNOME команды вида «keyrill --action=play».</translation>
     </message>
 </context>
 <context>
@@ -1911,6 +1947,10 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Keep the &amp;history for the next start</source>
         <translation>Сохранять &amp;журнал между запусками</translation>
+    </message>
+    <message>
+        <source>&amp;Write hot keys into GNOME&apos;s settings</source>
+        <translation>Запис&amp;ывать комбинации клавиш в настройки GNOME</translation>
     </message>
 </context>
 <context>

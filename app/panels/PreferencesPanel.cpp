@@ -19,6 +19,7 @@ namespace {
 
 /// Comes last and has the button beside it.
 constexpr std::size_t updateToggle = toggleIndex("checkForUpdatesOnLaunch");
+constexpr std::size_t consentToggle = toggleIndex("writeHotKeys");
 
 QCheckBox* makeCheckBox(PreferencesModel& preferences, std::size_t index) {
     ToggleModel& model = preferences.toggles.at(index);
@@ -82,7 +83,10 @@ QLayout* PreferencesPanel::makeOptions(PreferencesModel& model) {
     auto* layout = new QVBoxLayout;
     layout->addWidget(new PauseRow(model.pauses));
     for (std::size_t i = 0; i < model.toggles.size(); ++i) {
-        if (i != updateToggle) layout->addWidget(makeCheckBox(model, i));
+        if (i == updateToggle) continue;
+        auto* box = makeCheckBox(model, i);
+        layout->addWidget(box);
+        if (i == consentToggle) box->setVisible(model.offersConsent);
     }
     layout->addLayout(makeUpdateOption(model));
     return layout;

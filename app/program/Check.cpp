@@ -35,6 +35,14 @@ void findStatusNotifier(SessionFacts& facts, const QDBusConnection& bus) {
     }
 }
 
+/// What the user has decided the session does not know.
+void findConsent(CapabilityState& hotKeys) {
+    if (hotKeys.means != Means::gnomeBindings) return;
+    const KeyFileSettings settings(configFoldersOfProcess(), KeyFileSettings::Use::readOnly);
+    const bool isGiven = settings.integer("writeHotKeys").value_or(0) != 0;
+    if (!isGiven) hotKeys = {Extent::nothing, Means::none, Lack::consent};
+}
+
 /// Elsewhere to ask for a combination could take it from the program that runs.
 bool canBeAskedFor(const CapabilityState& hotKeys) { return hotKeys.means == Means::xGrab; }
 
@@ -64,6 +72,7 @@ SessionFacts factsOf(const CommandLine& line) {
     facts.capabilities = check->capabilities();
     facts.details = check->details();
     findStatusNotifier(facts, bus);
+    findConsent(facts.capabilities.hotKeys);
     if (canBeAskedFor(facts.capabilities.hotKeys)) {
         facts.hotKeys = hotKeysOf(kind.value(), wordsOf(running.value_or("")));
     }

@@ -27,8 +27,11 @@ struct PreferencesModel {
     ToggleModel& launchOnLogin = toggles[toggleIndex("launchOnLogin")];
     ToggleModel& recordModifierKeys = toggles[toggleIndex("recordModifierKeys")];
     ToggleModel& keepHistory = toggles[toggleIndex("keepHistory")];
+    ToggleModel& writeHotKeys = toggles[toggleIndex("writeHotKeys")];
     ToggleModel& checkForUpdatesOnLaunch = toggles[toggleIndex("checkForUpdatesOnLaunch")];
 
     /// False in builds without the update check: nothing of it is shown or stored.
     bool offersUpdateCheck = true;
+    /// False where hot keys need no consent: it is neither shown nor stored.
+    bool offersConsent = true;
 };

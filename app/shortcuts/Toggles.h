@@ -31,6 +31,10 @@ inline constexpr std::array toggleRows = {
     /// Whether the history is there again at the next start (RecordingHistory::setKept).
     ToggleRow{.key = "keepHistory",
               .title = QT_TRANSLATE_NOOP("Toggles", "Keep the &history for the next start")},
+    /// Whether the user has agreed to hot keys in his desktop's settings (HotKeys::setConsent). Shown and
+    /// stored only where they need that; not stored before he has been asked (ConsentDesk).
+    ToggleRow{.key = "writeHotKeys",
+              .title = QT_TRANSLATE_NOOP("Toggles", "&Write hot keys into GNOME's settings")},
 };
 
 /// Where the key stands in toggleRows; another key does not compile.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/wayland/Binders.h"
 
+#include "platform/desktops/GnomeShortcuts.h"
 #include "platform/desktops/KdeShortcuts.h"
 #include "platform/desktops/PortalShortcuts.h"
 #include "platform/desktops/SwayBindings.h"
@@ -34,6 +35,53 @@ std::optional<KeyGrab> meaningOf(const Keymap& keymap, const std::string& words)
                    .modifiers = static_cast<std::uint16_t>(combination->modifiers)};
 }
 
+/// In the layout in force; where that types no Latin letters GNOME looks for those of another one as well.
+std::vector<std::string> acceleratorsOf(const SeatKeymap& seat, const KeyGrab& grab) {
+    constexpr std::uint8_t keyAboveTab = 49;
+    const Keymap& keymap = seat.keymap();
+    const auto named = [&](xkb_layout_index_t layout) {
+        return gtkAccelerator(keymap, layout, grab.keycode, grab.modifiers);
+    };
+    std::vector<std::string> names{named(seat.group())};
+    if (names.front().empty()) return {};
+    const auto isLatin = [&](xkb_layout_index_t layout) {
+        constexpr xkb_keysym_t lastOfLatin1 = 0xff;
+        constexpr xkb_keysym_t firstFunctionKey = 0xfd00;
+        const xkb_keysym_t symbol = keymap.symbol(grab.keycode, 0, layout);
+        return symbol <= lastOfLatin1 || (symbol >= firstFunctionKey && symbol <= XKB_KEY_Delete);
+    };
+    for (xkb_layout_index_t layout = 0;
+         !isLatin(seat.group()) && layout < xkb_keymap_num_layouts(keymap.get()); ++layout) {
+        if (isLatin(layout)) names.push_back(named(layout));
+    }
+    if (grab.keycode == keyAboveTab) {
+        const std::string& name = names.front();
+        names.push_back(name.substr(0, name.rfind('>') + 1) + "Above_Tab");
+    }
+    return names;
+}
+
+std::chrono::milliseconds repeatDelayOf(const SeatKeymap& seat) {
+    constexpr std::chrono::milliseconds usual{500};
+    const auto& repeat = seat.repeat();
+    return repeat && repeat->rate > 0 ? std::chrono::milliseconds(repeat->delay) : usual;
+}
+
+/// What starts the program that runs, in the words of a shell; its name where that is not known.
+std::string commandOfProcess() {
+    const GText path(g_file_read_link("/proc/self/exe", nullptr));
+    const GText words(g_shell_quote(path ? path.get() : "keyrill"));
+    return words.get();
+}
+
+std::unique_ptr<HotKeyBinder> openGnomeBinder(SessionBus& bus, const SeatKeymap& seat) {
+    return std::make_unique<GnomeShortcuts>(
+        bus, GnomeShortcuts::Words{
+                 .acceleratorsOf = [&seat](const KeyGrab& grab) { return acceleratorsOf(seat, grab); },
+                 .program = commandOfProcess(),
+                 .repeatDelay = [&seat] { return repeatDelayOf(seat); }});
+}
+
 }  // namespace
 
 std::unique_ptr<HotKeyBinder> openBinder(const DesktopServices& desktop, const SeatKeymap& seat) {
@@ -51,6 +99,7 @@ std::unique_ptr<HotKeyBinder> openBinder(const DesktopServices& desktop, const S
                     },
                 .meaningOf = [&seat](const std::string& words) { return meaningOf(seat.keymap(), words); }});
     }
+    if (desktop.hasGnomeBindings()) return openGnomeBinder(*desktop.bus(), seat);
     if (!desktop.isSway()) return nullptr;
     auto bindings = SwayBindings::open([&seat](std::uint8_t keycode, const std::string& symbol) {
         return types(seat.keymap(), keycode, symbol);

@@ -4,6 +4,7 @@
 #include <virtual-keyboard-unstable-v1-client-protocol.h>
 
 #include "platform/desktops/GnomeLayouts.h"
+#include "platform/desktops/GnomeShortcuts.h"
 #include "platform/desktops/KdeLayouts.h"
 #include "platform/desktops/KdeShortcuts.h"
 #include "platform/desktops/PortalLink.h"
@@ -32,6 +33,7 @@ DesktopServices::DesktopServices(const WaylandConnection& connection)
     if (m_isKde || !m_pressesByPortal) return;
     m_isGnome = GnomeLayouts::isThere(*m_bus);
     if (m_isGnome) m_layouts = std::make_unique<GnomeLayouts>(*m_bus);
+    m_hasGnomeBindings = m_isGnome && !m_hasShortcutsPortal && GnomeShortcuts::isThere(*m_bus);
     if (!m_isGnome) m_layouts = std::make_unique<UnknownLayouts>();
 }
 

@@ -29,6 +29,9 @@ class DesktopServices {
     /// Whether hot keys are the desktop's portal's.
     bool hasShortcutsPortal() const { return m_hasShortcutsPortal; }
 
+    /// Whether hot keys are entries in the settings of GNOME's user.
+    bool hasGnomeBindings() const { return m_hasGnomeBindings; }
+
     /// Where any of it is used, else null.
     SessionBus* bus() const { return m_bus.get(); }
     /// Where keys are pressed by the portal, else null.
@@ -40,6 +43,7 @@ class DesktopServices {
     bool m_isGnome = false;
     bool m_pressesByPortal = false;
     bool m_hasShortcutsPortal = false;
+    bool m_hasGnomeBindings = false;
     std::unique_ptr<SessionBus> m_bus;
     std::unique_ptr<Layouts> m_layouts;
 };

@@ -179,7 +179,9 @@ class WaylandSession final : public Session {
                 .isDesktopLost = [this] { return m_connection->isBroken(); }};
     }
     void followLayout() {
-        if (!m_seat.hasOwnKeyboard()) m_keys.setLayout(m_seat.group());
+        if (m_seat.hasOwnKeyboard()) return;
+        m_keys.setLayout(m_seat.group());
+        if (m_bindings) m_bindings->layoutChanged();
     }
     void followSeat() {
         m_keys.setKeymap(copyOf(m_seat));

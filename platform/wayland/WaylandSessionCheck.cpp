@@ -41,6 +41,7 @@ CapabilityState overlayState(const WaylandConnection& connection) {
 CapabilityState hotKeysState(const DesktopServices& desktop) {
     if (desktop.isKde()) return {Extent::fully, Means::kdeShortcuts, Lack::nothing};
     if (desktop.hasShortcutsPortal()) return {Extent::fully, Means::shortcutsPortal, Lack::nothing};
+    if (desktop.hasGnomeBindings()) return {Extent::fully, Means::gnomeBindings, Lack::nothing};
     return fullyIf(desktop.isSway(), Means::swayBindings, Lack::compositorKeys);
 }
 

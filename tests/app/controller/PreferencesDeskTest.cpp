@@ -143,4 +143,35 @@ TEST_F(PreferencesDeskTest, aShortcutGetsTheCombinationOfAMacroAndSaysSo) {
               (HotKeyConflict{.with = HotKeyConflict::With::shortcut, .shortcut = shortcutIndex("record")}));
 }
 
+/// On a desktop that has hot keys only in its user's settings.
+class PreferencesConsentTest : public PreferencesDeskTest {
+  protected:
+    PreferencesConsentTest() { platform().hotKeys.requireConsent(); }
+    std::optional<std::int64_t> stored() { return platform().settings.integer("writeHotKeys"); }
+};
+
+TEST_F(PreferencesConsentTest, whatTheUserHasDecidedHoldsFromTheStart) {
+    EXPECT_FALSE(desk.model.offersConsent) << "made before";
+    PreferencesDesk asks(platform().settings, platform().loginItems, shares.first(), library, dialogs, stage);
+    EXPECT_TRUE(asks.model.offersConsent);
+    platform().settings.put("writeHotKeys", 1);
+    asks.load();
+    EXPECT_TRUE(platform().hotKeys.hasConsent());
+}
+
+TEST_F(PreferencesConsentTest, theBoxGivesItAndTakesItBack) {
+    PreferencesDesk asks(platform().settings, platform().loginItems, shares.first(), library, dialogs, stage);
+    asks.load();
+    asks.save();
+    EXPECT_EQ(stored(), std::nullopt) << "he has not been asked by that";
+    asks.model.writeHotKeys.setOn(true);
+    asks.save();
+    EXPECT_EQ(stored(), 1);
+    EXPECT_TRUE(platform().hotKeys.hasConsent());
+    asks.model.writeHotKeys.setOn(false);
+    asks.save();
+    EXPECT_EQ(stored(), 0);
+    EXPECT_FALSE(platform().hotKeys.hasConsent());
+}
+
 }  // namespace

@@ -150,6 +150,17 @@ TEST_F(PreferencesPanelTest, showsNothingOfTheUpdateCheckWhereThereIsNone) {
     EXPECT_EQ(shown, others);
 }
 
+TEST_F(PreferencesPanelTest, showsNothingOfTheConsentWhereNoneIsNeeded) {
+    PreferencesModel without;
+    without.offersConsent = false;
+    PreferencesPanel other(without);
+    other.show();
+    for (const auto* box : other.findChildren<QCheckBox*>()) {
+        const bool isConsent = box->text() == QLatin1String(toggleRows[toggleIndex("writeHotKeys")].title);
+        EXPECT_EQ(box->isVisible(), !isConsent) << box->text().toStdString();
+    }
+}
+
 TEST_F(PreferencesPanelTest, leadsTheFocusThroughAllControlsInTheirOrder) {
     panel.show();
     QStringList order;
