@@ -8,7 +8,7 @@
 
 /// Groups of controls beside each other, as far as they fit; the others stand in lines below. Those of a line
 /// are spread over its width. A group is a widget or a layout, and never wraps itself.
-class WrappingRow : public QLayout {
+class WrappingRow final : public QLayout {
   public:
     /// Becomes a layout of none; addItem(), addWidget() or addLayout() add groups.
     WrappingRow() = default;

@@ -147,7 +147,7 @@ class LineReader {
 
 /// The number of equal bytes in front.
 std::size_t commonPrefix(std::string_view one, std::string_view other) {
-    const auto end = std::mismatch(one.begin(), one.end(), other.begin(), other.end()).first;
+    const auto* const end = std::mismatch(one.begin(), one.end(), other.begin(), other.end()).first;
     return static_cast<std::size_t>(end - one.begin());
 }
 
@@ -238,10 +238,11 @@ Splice RecordedScript::repeated(std::size_t first, std::size_t count, std::size_
     return {beginOf(first + count), 0, std::move(inserted)};
 }
 
-Splice RecordedScript::replaced(std::size_t first, std::size_t count, std::string lines) const {
+Splice RecordedScript::replaced(std::size_t first, std::size_t count, std::string_view lines) const {
     std::string remarks;
     for (std::size_t index = first; index < first + count; ++index) remarks += remarksOf(m_lines[index]);
-    return {beginOf(first), bytesOf(first, count).size(), remarks + lines};
+    remarks += lines;
+    return {beginOf(first), bytesOf(first, count).size(), std::move(remarks)};
 }
 
 Splice RecordedScript::rewritten(std::size_t first, std::size_t count, std::string lines) const {

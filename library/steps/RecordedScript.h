@@ -79,7 +79,7 @@ class RecordedScript {
     Splice repeated(std::size_t first, std::size_t count, std::size_t times) const;
     /// Lines, as keyLines(), textLines() and pauseLines() make them, stand in the place of others; of none
     /// with the `count` 0.
-    Splice replaced(std::size_t first, std::size_t count, std::string lines) const;
+    Splice replaced(std::size_t first, std::size_t count, std::string_view lines) const;
     /// Lines stand in the place of one or more others, below the comments of the first; what is in `lines`
     /// has the comments of the rest.
     Splice rewritten(std::size_t first, std::size_t count, std::string lines) const;
