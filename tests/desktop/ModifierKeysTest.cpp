@@ -2,6 +2,9 @@
 //
 // Taps and holds of modifier keys that are recorded as such, told by the window manager and by another
 // client.
+#include <sstream>
+#include <string>
+
 #include "desktop/DesktopTest.h"
 #include "desktop/SavedMacro.h"
 #include "display/CoreClient.h"
@@ -51,8 +54,11 @@ class HeldAltTest : public ModifierKeysTest {
             ASSERT_TRUE(eventually([&] { return isActive(*window) && window->hasFocus(); }));
         }
     }
+    /// By the window manager's account, which has none for a moment.
     bool isActive(const Terminal& window) const {
-        return desktop.run({"xdotool", "getactivewindow"}) == window.window() + "\n";
+        std::ostringstream expected;
+        expected << "_NET_ACTIVE_WINDOW(WINDOW): window id # 0x" << std::hex << std::stoul(window.window()) << '\n';
+        return desktop.run({"xprop", "-root", "_NET_ACTIVE_WINDOW"}) == expected.str();
     }
     void recordSwitch() {
         useAll();
