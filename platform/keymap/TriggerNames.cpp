@@ -133,7 +133,10 @@ std::optional<Parts> plainParts(const std::string& accelerator) {
         modifiers.emplace(row == nullptr ? name : row->others.front());
     }
     Parts plain(modifiers.begin(), modifiers.end());
-    plain.push_back(lowered(parts->back()));
+    // Some keys have several names.
+    const std::string key = lowered(parts->back());
+    const xkb_keysym_t symbol = xkb_keysym_from_name(key.c_str(), XKB_KEYSYM_CASE_INSENSITIVE);
+    plain.push_back(symbol == XKB_KEY_NoSymbol ? key : std::to_string(symbol));
     return plain;
 }
 

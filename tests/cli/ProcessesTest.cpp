@@ -74,6 +74,8 @@ TEST_F(ProcessesTest, areNamedFromTheFrontOn) {
 
 TEST_F(ProcessesTest, areAskedOneByOne) {
     expectTyped("name of every process whose name contains \"l\" and not frontmost", "Lower,Middle");
+    expectTyped("name of every process whose name does not contain \"z\" and not frontmost",
+                "Lower,Back,Middle");
 }
 
 TEST_F(ProcessesTest, areThereOrNot) {

@@ -57,7 +57,8 @@ class HeldAltTest : public ModifierKeysTest {
     /// By the window manager's account, which has none for a moment.
     bool isActive(const Terminal& window) const {
         std::ostringstream expected;
-        expected << "_NET_ACTIVE_WINDOW(WINDOW): window id # 0x" << std::hex << std::stoul(window.window()) << '\n';
+        expected << "_NET_ACTIVE_WINDOW(WINDOW): window id # 0x" << std::hex << std::stoul(window.window())
+                 << '\n';
         return desktop.run({"xprop", "-root", "_NET_ACTIVE_WINDOW"}) == expected.str();
     }
     void recordSwitch() {

@@ -245,6 +245,9 @@ TEST_F(GnomeShortcutsTest, whatIsAskedForOnceMoreIsNotWrittenAgain) {
     ask("record", controlR);
     settle();
     EXPECT_EQ(list(), ofRecord);
+    // What has been told is on its way to this thread.
+    while (g_main_context_iteration(nullptr, FALSE) != FALSE) {
+    }
     EXPECT_EQ(changes, 0);
     g_signal_handler_disconnect(settings, handler);
     g_object_unref(settings);

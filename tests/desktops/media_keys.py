@@ -30,7 +30,7 @@ if command is None:
 programs = []
 for number in range(int(sys.argv[2]) if len(sys.argv) > 2 else 1):
     if number > 0:
-        time.sleep(0.5 if number == 1 else 0.033)
+        time.sleep(0.3 if number == 1 else 0.033)
     programs.append(subprocess.Popen(GLib.shell_parse_argv(command)[1]))
 for program in programs:
     program.wait()

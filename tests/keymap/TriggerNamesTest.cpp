@@ -80,6 +80,8 @@ TEST_F(TriggerNamesTest, anAcceleratorIsNamedByTheLayoutInForce) {
 TEST_F(TriggerNamesTest, acceleratorsAreTheSameWhateverTheirModifiersAreCalled) {
     EXPECT_TRUE(isSameAccelerator("<Control><Super>r", "<Mod4><Primary>R"));
     EXPECT_TRUE(isSameAccelerator("F9", "F9"));
+    EXPECT_TRUE(isSameAccelerator("<Super>Prior", "<Super>Page_Up"));
+    EXPECT_FALSE(isSameAccelerator("<Super>Prior", "<Super>Next"));
     EXPECT_TRUE(isSameAccelerator("<Hyper>a", "<hyper>a"));
     EXPECT_FALSE(isSameAccelerator("<Control>r", "<Control><Shift>r"));
     EXPECT_FALSE(isSameAccelerator("<Control>r", "<Control>p"));

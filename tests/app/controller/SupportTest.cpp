@@ -50,6 +50,7 @@ TEST_F(SupportTest, opensTheDocumentationInTheLanguageOfTheProgram) {
         menu.item(menuIndex("documentation"))->trigger();
     }
     EXPECT_EQ(opened(), (Urls{documentationPage("de"), documentationPage()}));
+    EXPECT_TRUE(opened().front().ends_with("/manual/de/index.html"));
 }
 
 TEST_F(SupportTest, writesToSupportAndFeedback) {
