@@ -74,6 +74,9 @@ TEST_F(ProcessesTest, areNamedFromTheFrontOn) {
 
 TEST_F(ProcessesTest, areAskedOneByOne) {
     expectTyped("name of every process whose name contains \"l\" and not frontmost", "Lower,Middle");
+}
+
+TEST_F(ProcessesTest, areAskedFromTheFrontOn) {
     expectTyped("name of every process whose name does not contain \"z\" and not frontmost",
                 "Lower,Back,Middle");
 }

@@ -3,8 +3,6 @@
 // keyrill itself on a GNOME that gives programs no hot keys: its portal for keys and its shell's name by a
 // stand-in, its settings in a file, and its user's presses by a stand-in that starts what is bound there.
 #include <gtest/gtest.h>
-#include <chrono>
-#include <thread>
 
 #include <chrono>
 #include <filesystem>
