@@ -40,7 +40,7 @@ double millisecondsOf(const Work& work) {
     return Milliseconds(std::chrono::steady_clock::now() - begin).count();
 }
 
-/// Keys that every keyboard has, with each set of Control, Alt, Super and Shift but none.
+/// Keys that every keyboard has, with each set of Control, Alt and Super but none, and with Shift or without.
 constexpr std::uint32_t keys = 36;
 constexpr std::uint32_t isoKey = 10;
 
@@ -51,10 +51,14 @@ std::uint32_t keyCodeOf(std::uint32_t number) {
 
 /// The set of that number, of one bit or the other of each pair.
 std::uint32_t maskOf(std::uint32_t number, std::uint32_t ModifierPair::*bit) {
-    constexpr std::size_t sets = 4;
+    const bool hasShift = number / keys % 2 != 0;
+    std::uint32_t set = number / keys / 2 + 1;
     std::uint32_t mask = 0;
-    for (std::size_t i = 0; i < sets; ++i) {
-        if (((number / keys + 1) >> i & 1U) != 0) mask |= modifierPairs.at(i).*bit;
+    for (std::size_t i = 0; i < 4; ++i) {
+        const ModifierPair& pair = modifierPairs.at(i);
+        const bool isShift = pair.modifier == modifier::shift;
+        if (isShift ? hasShift : set % 2 != 0) mask |= pair.*bit;
+        if (!isShift) set /= 2;
     }
     return mask;
 }
