@@ -63,11 +63,6 @@ QString remainder(const RecordingHistory& history) {
     return QLatin1Char(' ') + MacrosDesk::tr("Play has the latest macro until there is another.");
 }
 
-bool isThere(const std::string& file) {
-    std::error_code error;
-    return std::filesystem::exists(std::filesystem::symlink_status(file, error));
-}
-
 QString goneText() {
     return MacrosDesk::tr("The file of this macro is gone. If you save, it is there again.");
 }
@@ -295,7 +290,7 @@ void MacrosDesk::showText(const std::string& path, const Result<std::string>& te
     m_saved = text ? text.value() : std::string();
     m_window->showMacro(m_saved, unsaved == nullptr ? m_saved : unsaved->text);
     if (!text) {
-        m_window->warn(isThere(m_library.fileOf(path)) ? shown(text.error()) : goneText());
+        m_window->warn(FileMoves::isThere(m_library.fileOf(path)) ? shown(text.error()) : goneText());
     } else if (unsaved != nullptr && !unsaved->base.empty() && unsaved->base != fingerprintOf(m_saved)) {
         m_window->warn(replacedText());
     }
@@ -408,7 +403,7 @@ void MacrosDesk::takeRecording(const Macro& macro) {
 void MacrosDesk::makeMacro(const std::string& script) {
     const std::string first =
         m_means.files.prepareFolder() + "/" + tr("New Macro").toStdString() + ".keyrill";
-    const std::string file = isThere(first) ? FileMoves::freeName(first) : first;
+    const std::string file = FileMoves::isThere(first) ? FileMoves::freeName(first) : first;
     const Result<> written = m_means.files.write(file, script);
     if (!written) return m_window->warn(shown(written.error()));
     await(file, true);
@@ -466,7 +461,7 @@ void MacrosDesk::rename(const std::string& path, const QString& name) {
 void MacrosDesk::remove(const std::string& path) {
     std::optional<TrashedFile> trashed;
     // Of some there is nothing but what is not saved.
-    if (isThere(m_library.fileOf(path))) {
+    if (FileMoves::isThere(m_library.fileOf(path))) {
         auto moved = FileMoves::trash(m_library.fileOf(path));
         if (!moved) return m_window->warn(shown(moved.error()));
         trashed = std::move(moved).value();

@@ -32,12 +32,16 @@ Error errorOf(const QString& message) { return {message.toStdString(), ""}; }
 int moveToFreeName(const std::string& from, const std::string& to) {
     if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
     if (errno != EINVAL && errno != ENOSYS) return errno;
-    std::error_code error;
-    if (fs::exists(fs::symlink_status(to, error))) return EEXIST;
+    if (FileMoves::isThere(to)) return EEXIST;
     return std::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
 }
 
 }  // namespace
+
+bool FileMoves::isThere(const std::string& path) {
+    std::error_code error;
+    return fs::exists(fs::symlink_status(path, error));
+}
 
 Result<std::string> FileMoves::named(const std::string& path, const QString& name) {
     const QString wanted = name.trimmed();
@@ -58,8 +62,7 @@ std::string FileMoves::freeName(const std::string& path) {
     for (int number = 2;; ++number) {
         const fs::path other =
             file.parent_path() / (stem + " " + std::to_string(number) + file.extension().string());
-        std::error_code error;
-        if (!fs::exists(fs::symlink_status(other, error))) return other.string();
+        if (!isThere(other.string())) return other.string();
     }
 }
 

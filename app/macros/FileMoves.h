@@ -18,6 +18,8 @@ class FileMoves {
     Q_DECLARE_TR_FUNCTIONS(FileMoves)
 
   public:
+    /// Whether something has that name, also a link that leads nowhere.
+    static bool isThere(const std::string& path);
     /// The name with the file's folder and ending; an error where no file can be called so: an empty one, one
     /// with a slash, one that is too long or hidden.
     static Result<std::string> named(const std::string& path, const QString& name);

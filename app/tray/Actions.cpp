@@ -58,14 +58,14 @@ std::string actionNames() {
 
 QString obstacleTo(const ActionRow& action, const MenuFacts& facts) {
     if (QString toAll = obstacleToAll(facts); !toAll.isEmpty()) return toAll;
-    if (action.menuItem == "record" || action.menuItem == "play" || action.menuItem == "multiplePlay") {
+    const bool records = action.menuItem == "record";
+    const bool plays = action.menuItem == "play" || action.menuItem == "multiplePlay";
+    if (records || plays) {
         if (QString toKeys = obstacleToKeys(facts); !toKeys.isEmpty()) return toKeys;
     }
-    if (action.menuItem == "record" && facts.recording)
-        return Words::tr("A macro is being recorded already.");
+    if (records && facts.recording) return Words::tr("A macro is being recorded already.");
     if (action.menuItem == "stop" && !facts.recording)
         return Words::tr("Nothing is being recorded or played.");
     if (action.menuItem == "saveDelay" && !facts.overlayShown) return Words::tr("Nothing is being recorded.");
-    if (action.menuItem == "play" || action.menuItem == "multiplePlay") return obstacleToPlaying(facts);
-    return {};
+    return plays ? obstacleToPlaying(facts) : QString();
 }
