@@ -117,8 +117,9 @@ struct Start {
 
 Start start(bool isFull) {
     const Desktop desktop;
+    // The same work for the file system in both.
+    fill(desktop.home() + (isFull ? "/.local/share/keyrill" : "/elsewhere"));
     if (isFull) {
-        fill(desktop.home() + "/.local/share/keyrill");
         std::ofstream settings(desktop.home() + "/.config/keyrill/macros.conf");
         for (std::uint32_t number = 0; number < manyHotKeys; ++number) {
             settings << "[group0/" << number << ".keyrill]\nhotKeyCode=" << keyCodeOf(number)

@@ -64,7 +64,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_recordHereDesk(services.eventMonitor, services.hotKeys, m_preferencesDesk.model.stop, m_stage),
       m_macrosDesk({library, services.macroFiles, services.keyboardLayout, m_gate, m_stage,
                     DraftFiles(library.draftFolder())}),
-      m_askedPlays([this] { return factsForCallers(); }, m_gate, m_stage),
+      m_askedPlays([this] { return factsForCallers(); }, m_stage),
       statusItem(item) {
     timer.setSingleShot(true);
     m_killTimer.setSingleShot(true);

@@ -95,8 +95,10 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
 }
 
 Result<void> checkOptions(const CommandLine& line) {
-    if (!line.others.empty()) {
-        return refusal(Words::tr("\"%1\" is one thing too many.").arg(shown(line.others.front())),
+    const bool isBesideAction = line.action && line.wish != Wish::start;
+    if (!line.others.empty() || isBesideAction) {
+        const std::string other = isBesideAction ? "--action" : line.others.front();
+        return refusal(Words::tr("\"%1\" is one thing too many.").arg(shown(other)),
                        Words::tr("Call keyrill once for each."));
     }
     if (line.wish != Wish::play && (line.times || line.speed)) {

@@ -374,6 +374,32 @@ TEST_F(AppControllerTest, aPlayFromOutsideIsForgottenWhenAQuestionOpensBeforeItB
     EXPECT_EQ(controller.askedPlays().ask({.script = "beep"}).error().message, "The screen is locked.");
 }
 
+TEST_F(AppControllerTest, aPlayFromOutsideIsForgottenWhenThePromptOpensBeforeItBegins) {
+    recordKey(key::a);
+    EXPECT_TRUE(controller.askedPlays().ask({.script = "beep"}));
+    controller.showMultiplePlayGui();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(runs(), std::vector<std::string>());
+    controller.multiplePlayWindow()->close();
+    EXPECT_TRUE(controller.askedPlays().ask({.script = "beep"}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(runs(), std::vector<std::string>{"beep"});
+}
+
+TEST_F(AppControllerTest, aPlayFromOutsideIsForgottenWhenARecordingStartsBeforeItBegins) {
+    EXPECT_TRUE(controller.askedPlays().ask({.script = "beep"}));
+    controller.recordMacro(nullptr);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(runs(), std::vector<std::string>());
+}
+
+TEST_F(AppControllerTest, aPlayFromOutsideIsForgottenWhenHotKeysAreChosenBeforeItBegins) {
+    EXPECT_TRUE(controller.askedPlays().ask({.script = "beep"}));
+    controller.showPreferences(nullptr);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(runs(), std::vector<std::string>());
+}
+
 TEST_F(AppControllerTest, aStopFromOutsideTakesBackAPlayThatHasNotBegun) {
     recordKey(key::a);
     EXPECT_TRUE(controller.carryOut(*actionNamed("play")));

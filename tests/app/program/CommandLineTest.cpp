@@ -49,6 +49,14 @@ TEST(CommandLineTest, oneThingIsAskedForAtATime) {
     EXPECT_TRUE(checkMacroCall(readCommandLine({"--list", "--list"})));
 }
 
+TEST(CommandLineTest, anActionAndAPlayAreTwoThings) {
+    const Error expected = {"\"--action\" is one thing too many.", "Call keyrill once for each."};
+    EXPECT_EQ(checkMacroCall(readCommandLine({"--play", "Greeting", "--action=stop"})).error(), expected);
+    EXPECT_EQ(checkMacroCall(readCommandLine({"--action=stop", "--play", "Greeting"})).error(), expected);
+    EXPECT_EQ(checkMacroCall(readCommandLine({"--list", "--action=stop"})).error(), expected);
+    EXPECT_EQ(checkMacroCall(readCommandLine({"--show", "--action=stop"})).error(), expected);
+}
+
 TEST(CommandLineTest, anActionIsNamed) {
     EXPECT_EQ(readCommandLine({"--action=play"}), (CommandLine{.action = "play"}));
     EXPECT_EQ(readCommandLine({"--session=x11", "--action", "play"}),
