@@ -71,6 +71,8 @@ QString replacedText() {
     return MacrosDesk::tr("Another program has changed this macro. If you save, your text replaces it.");
 }
 
+bool isMadeFrom(const Draft& draft, const std::string& saved) { return draft.base == fingerprintOf(saved); }
+
 std::vector<MacrosWindow::Recording> recordingsOf(const RecordingHistory& history) {
     std::vector<MacrosWindow::Recording> recordings;
     for (const HistoryEntry& entry : history.entries()) {
@@ -187,6 +189,9 @@ void MacrosDesk::libraryChanged(const LibraryChanges& changes) {
         m_window->list().forgetContent(path);
         if (path == m_window->chosen()) m_reader.readFirst(path, m_library.fileOf(path));
     }
+    // It was gone while its text was not saved.
+    if (std::binary_search(changes.appeared.begin(), changes.appeared.end(), m_window->chosen()))
+        m_reader.readFirst(m_window->chosen(), m_library.fileOf(m_window->chosen()));
     if (changes.isFirst || !changes.appeared.empty() || !others.empty()) readContents();
     if (changes.hasOtherFaults) tellFaults();
 }
@@ -291,18 +296,21 @@ void MacrosDesk::showText(const std::string& path, const Result<std::string>& te
     m_window->showMacro(m_saved, unsaved == nullptr ? m_saved : unsaved->text);
     if (!text) {
         m_window->warn(FileMoves::isThere(m_library.fileOf(path)) ? shown(text.error()) : goneText());
-    } else if (unsaved != nullptr && !unsaved->base.empty() && unsaved->base != fingerprintOf(m_saved)) {
+    } else if (unsaved != nullptr && !unsaved->base.empty() && !isMadeFrom(*unsaved, m_saved)) {
         m_window->warn(replacedText());
     }
 }
 
-/// Somebody else has changed the file.
+/// Somebody else has changed the file, or put it back.
 void MacrosDesk::followText(const std::string& path, const Result<std::string>& text) {
-    if (!text || text.value() == m_saved) return;
-    if (m_unsaved.contains(path)) {
-        m_window->warn(replacedText());
+    if (!text) return;
+    const Draft* const unsaved = m_unsaved.find(path);
+    if (unsaved == nullptr) {
+        if (text.value() != m_saved) showText(path, text);
+    } else if (isMadeFrom(*unsaved, text.value())) {
+        m_window->endWarning({goneText(), replacedText()});
     } else {
-        showText(path, text);
+        m_window->warn(replacedText());
     }
 }
 

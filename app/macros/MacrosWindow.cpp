@@ -345,6 +345,10 @@ void MacrosWindow::endWarning() {
     if (m_warning->isVisible()) tell({});
 }
 
+void MacrosWindow::endWarning(const QStringList& texts) {
+    if (texts.contains(m_warning->notice())) endWarning();
+}
+
 void MacrosWindow::countDown() {
     m_count = secondsOfCount + 1;
     m_controls->setEnabled(false);

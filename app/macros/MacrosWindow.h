@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QStringList>
 #include <QTimer>
 #include <functional>
 #include <string>
@@ -79,6 +80,8 @@ class MacrosWindow : public Panel {
     void warn(const QString& text, const QString& action = {});
     /// What went wrong goes wrong no more; what was told otherwise stays.
     void endWarning();
+    /// The same where it is one of these texts.
+    void endWarning(const QStringList& texts);
 
     /// Plays a moment later, unless the user ends it.
     void countDown();

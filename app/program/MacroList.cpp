@@ -8,10 +8,13 @@
 #include <QString>
 #include <algorithm>
 #include <chrono>
+#include <cstdint>
 #include <optional>
+#include <string_view>
 
 #include "app/library/MacroTitles.h"
 #include "library/MacroNames.h"
+#include "platform/Utf8.h"
 #include "platform/linux/ConfigFolders.h"
 #include "platform/linux/LocalFolderFollower.h"
 #include "platform/linux/LocalMacroFiles.h"
@@ -38,12 +41,22 @@ struct Listed {
     QString name;
 };
 
-std::string lineOf(std::string name) {
-    constexpr char del = 0x7F;
-    std::replace_if(
-        name.begin(), name.end(), [](char letter) { return (letter >= 0 && letter < ' ') || letter == del; },
-        '?');
-    return name + '\n';
+constexpr bool isControl(std::uint32_t code) { return code < 0x20 || (code >= 0x7F && code < 0xA0); }
+
+/// A terminal does nothing of what the name says. Bytes that are no characters stay: the name is good to be
+/// given to --play.
+std::string lineOf(const std::string& name) {
+    std::string line;
+    for (std::string_view rest = name; !rest.empty();) {
+        const Utf8Character character = firstCharacter(rest);
+        if (character.code && isControl(*character.code)) {
+            line += '?';
+        } else {
+            line += rest.substr(0, character.length);
+        }
+        rest.remove_prefix(character.length);
+    }
+    return line + '\n';
 }
 
 }  // namespace

@@ -212,6 +212,16 @@ TEST_F(MacroCallsTest, namesDoNotActOnTheTerminal) {
     const Keyrill keyrill(desktop);
     EXPECT_EQ(shell("keyrill --play villa"),
               refused(R"(There is no macro called "villa". Similar: "vil la".)"));
+    // The name itself, and one like it.
+    EXPECT_EQ(shell(R"-(keyrill --play "$(printf 'vil\033la')")-"),
+              refused(R"("vil la" cannot be played: its script is wrong in line 2. keyrill-script check ")" +
+                      macros.folder + R"(/vil la.keyrill" tells more.)"));
+    EXPECT_EQ(shell(R"-(keyrill --play "$(printf 'vil\033l')")-"),
+              refused(R"(There is no macro called "vil l". Similar: "vil la".)"));
+    EXPECT_EQ(shell(R"-(keyrill --show "$(printf '\302\233')")-"),
+              refused(R"(There is no macro called " ". keyrill --list lists all.)"));
+    macros.drop("C1\u009Bla", typing("c"));
+    EXPECT_EQ(shell("keyrill --list"), (Answer{0, "C1?la\nGreeting\nvil?la\n"}));
 }
 
 /// What is asked for from outside is not typed into the program's own windows.

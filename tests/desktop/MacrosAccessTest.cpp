@@ -125,4 +125,24 @@ TEST_F(KeepTest, aRecordingIsKeptGetsAHotKeyAndIsPlayedAfterARestart) {
     EXPECT_EQ(terminal->typed(10), "hellohello");
 }
 
+/// The terminal has the keyboard while it is recorded, and the window after it.
+TEST_F(KeepTest, whoHasRecordedANewMacroNamesIt) {
+    giveFocus(macros);
+    press("alt+r");
+    desktop.awaitWindow(title::overlay);
+    for (const char* key : {"x", "y", "z"}) press(key);
+    EXPECT_EQ(terminal->typed(3), "xyz");
+    stop();
+    desktop.awaitFocus(macros);
+    ASSERT_TRUE(
+        eventually([this] { return run({"list"}).find("list item|New Macro|") != std::string::npos; }));
+    type("Mine");
+    press("Return");
+    EXPECT_TRUE(eventually([this] { return std::filesystem::exists(file("Mine")); }));
+    // What goes to the terminal comes there in order.
+    desktop.run({"xdotool", "windowactivate", "--sync", terminal->window()});
+    type("end");
+    EXPECT_EQ(terminal->typed(6), "xyzend");
+}
+
 }  // namespace

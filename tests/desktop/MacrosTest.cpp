@@ -95,23 +95,6 @@ TEST_F(MacrosTest, aKeyIsChangedUnderKeysAndPlayed) {
     EXPECT_EQ(terminal->typed(3), "axc");
 }
 
-/// The terminal has the keyboard while it is recorded, and the window after it.
-TEST_F(MacrosTest, whoHasRecordedANewMacroGoesOnInTheWindow) {
-    openGreeting();
-    press("alt+r");
-    desktop.awaitWindow(title::overlay);
-    for (const char* key : {"x", "y", "z"}) press(key);
-    EXPECT_EQ(terminal->typed(3), "xyz");
-    stop();
-    desktop.awaitFocus(macros);
-    ASSERT_TRUE(eventually([this] { return std::filesystem::exists(file("New Macro")); }));
-    type("mine");
-    // What goes to the terminal comes there in order.
-    desktop.run({"xdotool", "windowactivate", "--sync", terminal->window()});
-    type("end");
-    EXPECT_EQ(terminal->typed(6), "xyzend");
-}
-
 TEST_F(MacrosTest, escapeEndsTheCountAndNothingIsPlayed) {
     std::ofstream(file("Other")) << "tell application \"System Events\" to keystroke \"o\"\n";
     openGreeting();

@@ -41,6 +41,9 @@ std::string recording(const std::string& lines) {
 const std::string a = recording(steps::keyLines(key::a, 0));
 const std::string ab = recording(steps::keyLines(key::a, 0) + steps::keyLines(key::b, 0));
 
+const std::string gone = "The file of this macro is gone. If you save, it is there again.";
+const std::string conflict = "Another program has changed this macro. If you save, your text replaces it.";
+
 /// The desk on a folder with Greeting ("a") and work/Mail, and a trash of its own.
 class MacrosDeskTest : public AppTest {
   public:
@@ -198,7 +201,7 @@ TEST_F(MacrosDeskTest, whatIsNotSavedOutlivesItsFile) {
     editor().keys().insertLines(steps::keyLines(key::b, 0));
     std::filesystem::remove(file("Greeting"));
     EXPECT_TRUE(soon([this] { return !warning().empty(); }));
-    EXPECT_EQ(warning(), "The file of this macro is gone. If you save, it is there again.");
+    EXPECT_EQ(warning(), gone);
     EXPECT_EQ(window().chosen(), "Greeting.keyrill");
     button("Save").click();
     EXPECT_EQ(contentOf(file("Greeting")), ab);
@@ -268,7 +271,7 @@ TEST_F(MacrosDeskTest, aMacroThatOthersChangeIsShownAnewUnlessItIsBeingEdited) {
     write("Greeting.new", a);
     std::filesystem::rename(file("Greeting.new"), file("Greeting"));
     EXPECT_TRUE(soon([this] { return !warning().empty(); }));
-    EXPECT_EQ(warning(), "Another program has changed this macro. If you save, your text replaces it.");
+    EXPECT_EQ(warning(), conflict);
     EXPECT_EQ(editor().text(), mine);
 }
 
@@ -389,16 +392,14 @@ TEST_F(MacrosDeskTest, whatIsNotSavedOutlivesTheProgram) {
 }
 
 TEST_F(MacrosDeskTest, whatOthersWroteMeanwhileIsToldAsLongAsItWouldBeLost) {
-    const std::string conflict =
-        "Another program has changed this macro. If you save, your text replaces it.";
     choose("Greeting");
     editor().keys().insertLines(steps::keyLines(key::b, 0));
     write("Greeting", recording(steps::keyLines(key::s, 0)));
-    ASSERT_TRUE(soon([&] { return warning() == conflict; })) << warning();
+    ASSERT_TRUE(soon([this] { return warning() == conflict; })) << warning();
     choose("work/Mail");
     EXPECT_EQ(warning(), "");
     choose("Greeting");
-    EXPECT_TRUE(soon([&] { return warning() == conflict; })) << warning();
+    EXPECT_TRUE(soon([this] { return warning() == conflict; })) << warning();
     EXPECT_EQ(editor().text(), ab);
     ASSERT_TRUE(soon([this] { return drafts().size() == 1; }));
     // Another run knows it too.
@@ -418,6 +419,41 @@ TEST_F(MacrosDeskTest, whatOthersWroteMeanwhileIsToldAsLongAsItWouldBeLost) {
     choose("work/Mail");
     choose("Greeting");
     EXPECT_EQ(warning(), "");
+}
+
+TEST_F(MacrosDeskTest, whatOthersWroteIsNotToldAnyMoreOnceTheyTakeItBack) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    write("Greeting", recording(steps::keyLines(key::s, 0)));
+    ASSERT_TRUE(soon([this] { return warning() == conflict; })) << warning();
+    write("Greeting", a);
+    EXPECT_TRUE(soon([this] { return warning().empty(); })) << warning();
+    EXPECT_EQ(editor().text(), ab);
+    // Also when the macro was opened meanwhile, and the file is replaced.
+    write("Greeting", recording(steps::keyLines(key::s, 0)));
+    ASSERT_TRUE(soon([this] { return warning() == conflict; })) << warning();
+    choose("work/Mail");
+    choose("Greeting");
+    ASSERT_TRUE(soon([this] { return warning() == conflict; })) << warning();
+    write("Greeting.new", a);
+    std::filesystem::rename(file("Greeting.new"), file("Greeting"));
+    EXPECT_TRUE(soon([this] { return warning().empty(); })) << warning();
+    EXPECT_EQ(editor().text(), ab);
+}
+
+TEST_F(MacrosDeskTest, aFileThatComesBackAsItWasIsNotToldAsGone) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    std::filesystem::remove(file("Greeting"));
+    ASSERT_TRUE(soon([this] { return warning() == gone; })) << warning();
+    write("Greeting", a);
+    EXPECT_TRUE(soon([this] { return warning().empty(); })) << warning();
+    std::filesystem::remove(file("Greeting"));
+    ASSERT_TRUE(soon([this] { return warning() == gone; })) << warning();
+    // Nothing but the text that was there counts.
+    write("Greeting", recording(steps::keyLines(key::s, 0)));
+    EXPECT_TRUE(soon([this] { return warning() == conflict; })) << warning();
+    EXPECT_EQ(editor().text(), ab);
 }
 
 TEST_F(MacrosDeskTest, aTextWhoseFileIsGoneCanBeDeletedAndBroughtBack) {

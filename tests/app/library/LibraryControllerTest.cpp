@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/library/LibraryController.h"
 
+#include "app/RunLoop.h"
 #include "engine/EngineTest.h"
 #include "engine/HotKeyCenter.h"
 #include "engine/KeyRecorder.h"
@@ -121,6 +122,18 @@ TEST_F(LibraryControllerTest, tellsOfDamagedSettings) {
         platform().journal.of({"post"}),
         Journal::Lines{"post(\"Hot keys of macros\", \"The macro settings file x is not a key file.\nIt was "
                        "renamed.\")"});
+}
+
+/// It is written when the turn of the loop has ended.
+TEST_F(LibraryControllerTest, tellsThatSettingsCouldNotBeWritten) {
+    folder().userWrites("a.keyrill", "beep");
+    start();
+    records().failNextCall({"The disk is full.", "Make room."});
+    controller.library().setSettings("a.keyrill", {.play = {.times = {3}}});
+    records().endTurn();
+    const std::vector<FakeNotifications::Message> expected{
+        {"Hot keys of macros", "The disk is full.\nMake room."}};
+    EXPECT_TRUE(comesTrue([&] { return platform().notifications.messages() == expected; }));
 }
 
 TEST_F(LibraryControllerTest, tellsWhyARecordingCannotBeKept) {
