@@ -9,6 +9,8 @@
 #include <QTranslator>
 #include <algorithm>
 
+#include "platform/Sentence.h"
+
 namespace {
 
 const QString ownFolder = QStringLiteral(":/keyrill/languages");
@@ -21,6 +23,10 @@ QString languageOf(const QString& name) {
     const auto* const end =
         std::find_if_not(name.begin(), name.end(), [](QChar sign) { return sign.isLetter(); });
     return name.left(end - name.begin()).toLower();
+}
+
+std::string translated(const char* context, const char* english) {
+    return QCoreApplication::translate(context, english).toStdString();
 }
 
 bool hasWindows() { return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr; }
@@ -60,12 +66,15 @@ Catalogues::Catalogues(const QStringList& wanted) : m_language(chosenLanguage(wa
     install(toolkitPrefix, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     // The latest is asked first.
     install(ownPrefix, ownFolder);
+    translateSentencesBy(translated);
     // The toolkit takes the direction from its own catalogue, which may not be there.
     if (hasWindows()) QGuiApplication::setLayoutDirection(QLocale(m_language).textDirection());
 }
 
 Catalogues::~Catalogues() {
-    if (!m_language.isEmpty() && hasWindows()) QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
+    if (m_language.isEmpty()) return;
+    translateSentencesBy(nullptr);
+    if (hasWindows()) QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
 }
 
 void Catalogues::install(const QString& name, const QString& folder) {

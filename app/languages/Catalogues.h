@@ -21,7 +21,8 @@ QString chosenLanguage(const QStringList& wanted, const QStringList& offered);
 /// GNU gettext's manual).
 QStringList languagesOfDesktop();
 
-/// The program's words in the user's language while it lives, and the toolkit's, which stand in its standard
+/// The program's words in the user's language while it lives, those of rooms without a toolkit
+/// (platform/Sentence.h) among them, and the toolkit's, which stand in its standard
 /// dialogs; a program with windows lays them out as the language is written. Needs the application object;
 /// made before the first window.
 ///

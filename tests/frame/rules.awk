@@ -60,7 +60,7 @@ BEGIN {
     room("library/steps", "core platform platform/script/code platform/script/run platform/script/source",
          standard "|^boost/", "")
 
-    app("languages", "")
+    app("languages", "platform")
     app("icons", "platform")
     app("widgets", "app/icons")
     app("shortcuts", "prefs core platform")
