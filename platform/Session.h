@@ -62,9 +62,10 @@ class Session {
     /// locks as soon as it has given them back. It takes them again when the process goes on.
     virtual void suspend() noexcept = 0;
 
-    /// Ends each playback, as if the user had asked for it, while that answers true: the screen is locked. It
-    /// is asked again and again in a run.
-    virtual void endPlaysWhen(std::function<bool()> isLocked) = 0;
+    /// Ends each playback, as if the user had asked for it, while that answers true: the screen is locked, or
+    /// somebody asks from outside. Hot keys pressed before that and not come up yet are dropped. It is asked
+    /// again and again in a run.
+    virtual void endPlaysWhen(std::function<bool()> endsPlays) = 0;
 
     /// Why nothing reaches the desktop any more, as when its server has gone; success while all is well.
     virtual Result<void> connection() const = 0;

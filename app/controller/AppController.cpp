@@ -45,6 +45,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
     : m_services(services),
       m_library(library),
       m_statusNotice(item),
+      m_lateClicks(services.clock),
       m_gate(services.eventMonitor, [this] { followGate(); }),
       m_dialogs(dialogs, m_gate),
       m_scriptQuestions(m_dialogs, services.keyInjector, services.notifications),

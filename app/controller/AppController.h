@@ -18,6 +18,7 @@
 #include "app/controller/Gate.h"
 #include "app/controller/GatedDialogs.h"
 #include "app/controller/HelpDesk.h"
+#include "app/controller/LateClicks.h"
 #include "app/controller/MacrosDesk.h"
 #include "app/controller/MenuDesk.h"
 #include "app/controller/OverlayDesk.h"
@@ -174,6 +175,7 @@ class AppController : public QObject, public SharedController {
     Services& m_services;
     LibraryController& m_library;
     StatusNotice m_statusNotice;
+    LateClicks m_lateClicks;
     Gate m_gate;
     GatedDialogs m_dialogs;
     ScriptQuestions m_scriptQuestions;

@@ -182,7 +182,10 @@ void AppController::setMacroString(const std::string& text) {
 
 void AppController::currentMacroChanged() { m_menuDesk.update(); }
 
-void AppController::playbackEnded() { m_scriptNotices.tellOfPlayback(); }
+void AppController::playbackEnded() {
+    m_lateClicks.notePlayed();
+    m_scriptNotices.tellOfPlayback();
+}
 
 void AppController::runMacro(QObject* sender) {
     if (sender == nullptr || std::strcmp(sender->metaObject()->className(), "MacroMenuItem") != 0) return;

@@ -303,9 +303,10 @@ void MacrosDesk::showText(const std::string& path, const Result<std::string>& te
 
 /// Somebody else has changed the file, or put it back.
 void MacrosDesk::followText(const std::string& path, const Result<std::string>& text) {
-    if (!text) return;
     const Draft* const unsaved = m_unsaved.find(path);
-    if (unsaved == nullptr) {
+    if (!text) {
+        if (unsaved == nullptr && !FileMoves::isThere(m_library.fileOf(path))) followGone({path});
+    } else if (unsaved == nullptr) {
         if (text.value() != m_saved) showText(path, text);
     } else if (isMadeFrom(*unsaved, text.value())) {
         m_window->endWarning({goneText(), replacedText()});
@@ -320,8 +321,9 @@ void MacrosDesk::noteEdit() {
     const bool isChanged = m_window->editor().isChanged();
     if (isChanged) {
         m_unsaved.set(path, m_window->editor().text(), m_saved);
-    } else {
-        m_unsaved.take(path);
+    } else if (m_unsaved.take(path)) {
+        // Somebody else may have changed the file meanwhile.
+        m_reader.readFirst(path, m_library.fileOf(path));
     }
     m_window->list().setChanged(path, isChanged);
 }
@@ -474,7 +476,9 @@ void MacrosDesk::remove(const std::string& path) {
         if (!moved) return m_window->warn(shown(moved.error()));
         trashed = std::move(moved).value();
     }
-    m_deleted.push_back({path, trashed, m_unsaved.take(path)});
+    m_deleted.push_back({path, trashed, m_unsaved.take(path), m_library.settings(path)});
+    // Whoever's file gets the name next is to have no hot key by that.
+    m_library.setSettings(path, {});
     m_window->list().setChanged(path, false);
     m_window->chooseNeighbour();
     m_window->tell(trashed ? tr("The macro is in the trash.") : tr("The macro is deleted."), tr("Undo"));
@@ -491,6 +495,7 @@ void MacrosDesk::restore() {
     m_deleted.pop_back();
     m_window->tell({});
     await(m_library.fileOf(deleted.path), false);
+    m_library.setSettings(deleted.path, deleted.settings);
     if (deleted.draft) m_unsaved.putBack(deleted.path, *std::move(deleted.draft));
 }
 

@@ -13,6 +13,7 @@
 #include "app/macros/TextReader.h"
 #include "app/macros/UnsavedTexts.h"
 #include "library/LibraryListener.h"
+#include "library/MacroSettings.h"
 #include "platform/PlayOptions.h"
 #include "prefs/KeyCombo.h"
 
@@ -120,6 +121,7 @@ class MacrosDesk : public QObject, private LibraryListener {
         std::optional<TrashedFile> file;
         /// What was not saved of it.
         std::optional<Draft> draft;
+        MacroSettings settings;
     };
     /// The last one last.
     std::vector<Deleted> m_deleted;

@@ -44,13 +44,16 @@ bool FileMoves::isThere(const std::string& path) {
 }
 
 Result<std::string> FileMoves::named(const std::string& path, const QString& name) {
-    const QString wanted = name.trimmed();
+    const fs::path file(path);
+    const QString ending = QString::fromStdString(file.extension().string());
+    QString wanted = name.trimmed();
+    // Who writes the ending means the same name.
+    if (!ending.isEmpty() && wanted.endsWith(ending)) wanted = wanted.chopped(ending.size()).trimmed();
     if (wanted.isEmpty()) return errorOf(tr("A macro needs a name."));
     if (wanted.contains(u'/') || wanted.contains(QChar::Null))
         return errorOf(tr("A name cannot have a slash (/) in it."));
     if (wanted.startsWith(u'.'))
         return errorOf(tr("A name cannot begin with a point: the file would be hidden."));
-    const fs::path file(path);
     const std::string whole = QFile::encodeName(wanted).toStdString() + file.extension().string();
     if (whole.size() > longestName) return errorOf(tr("The name is too long for a file."));
     return (file.parent_path() / whole).string();

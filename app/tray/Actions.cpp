@@ -59,7 +59,10 @@ std::string actionNames() {
 QString obstacleTo(const ActionRow& action, const MenuFacts& facts) {
     if (QString toAll = obstacleToAll(facts); !toAll.isEmpty()) return toAll;
     const bool records = action.menuItem == "record";
+    const bool takesKeyboard = action.menuItem == "macros";
     const bool plays = action.menuItem == "play" || action.menuItem == "multiplePlay";
+    // The prompt has it.
+    if (takesKeyboard && facts.promptShown) return obstacleToKeys(facts);
     if (records || plays) {
         if (QString toKeys = obstacleToKeys(facts); !toKeys.isEmpty()) return toKeys;
     }

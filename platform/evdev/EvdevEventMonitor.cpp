@@ -24,8 +24,8 @@ void EvdevEventMonitor::desktopAnswers(const KeyGrab& grab, const GrabAnswer& an
 void EvdevEventMonitor::desktopForgot() { m_parts->desktopForgot(); }
 void EvdevEventMonitor::listenTo(EventSource& desktop) { m_parts->listenTo(desktop); }
 
-void EvdevEventMonitor::endPlaysWhen(std::function<bool()> isLocked) {
-    m_parts->endPlaysWhen(std::move(isLocked));
+void EvdevEventMonitor::endPlaysWhen(std::function<bool()> endsPlays) {
+    m_parts->endPlaysWhen(std::move(endsPlays));
 }
 
 RunWatch& EvdevEventMonitor::runWatch() { return *m_parts; }

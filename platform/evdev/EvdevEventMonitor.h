@@ -80,7 +80,7 @@ class EvdevEventMonitor final : public EventSource, public EventMonitor, public 
     void desktopForgot();
 
     /// A playback ends where that answers true: the screen is locked, as others tell.
-    void endPlaysWhen(std::function<bool()> isLocked);
+    void endPlaysWhen(std::function<bool()> endsPlays);
 
     /// What an injector needs while a run lasts. The keys that it presses are on no keyboard, and are known
     /// as soon as they are announced.

@@ -32,6 +32,7 @@ void EvdevEventMonitor::Parts::dispatch() {
 
 void EvdevEventMonitor::Parts::drain() {
     read();
+    heedOthers();
     // Between two runs, and after the last, nothing else would tell the loop of what was read in passing.
     if (!m_running && !m_interpreter.deliveries().empty()) m_wakeups.kick();
 }
@@ -52,7 +53,14 @@ void EvdevEventMonitor::Parts::read() {
 void EvdevEventMonitor::Parts::readKeyboards() {
     m_keyboards.read();
     m_stream.repeat();
-    if (m_cancel.takeEscapeStop()) m_stream.dropPlays();
+    if (m_cancel.takeEscapeStop()) m_stream.dropCommands();
+}
+
+/// Also what was asked for before the moment at which they want the play to end.
+void EvdevEventMonitor::Parts::heedOthers() {
+    if (!m_endsPlays || !m_endsPlays()) return;
+    m_cancel.cancel();
+    m_stream.dropCommands();
 }
 
 void EvdevEventMonitor::Parts::startTimer() {

@@ -30,7 +30,7 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     void drain() override;
     void startPlayback() override { m_cancel.start(); }
     void stopPlayback() override { m_cancel.cancel(); }
-    bool isCancelled() const override { return m_cancel.isCancelled() || (m_isLocked && m_isLocked()); }
+    bool isCancelled() const override { return m_cancel.isCancelled(); }
     bool isLost() const override { return m_isDesktopLost && m_isDesktopLost(); }
     std::optional<Clock::Time> cancelDeadline() const override { return m_cancel.deadline(); }
     void settleOwnKeys() override { m_stream.releaseOwnKeys(); }
@@ -57,12 +57,13 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     void setKeepsOwnStrokes(bool keeps);
     void setShowsModifierKeys(bool shows);
     void setRecording(bool recording);
-    void endPlaysWhen(std::function<bool()> isLocked) { m_isLocked = std::move(isLocked); }
+    void endPlaysWhen(std::function<bool()> endsPlays) { m_endsPlays = std::move(endsPlays); }
     void observeAccess(EventMonitor::AccessObserver changed) { m_accessChanged = std::move(changed); }
     WindowKeys& windowKeys() { return m_window; }
 
   private:
     void read();
+    void heedOthers();
     void readKeyboards();
     void startTimer();
     void desktopPresses(const KeyGrab& grab);
@@ -91,7 +92,7 @@ class EvdevEventMonitor::Parts final : public RunWatch {
 
     std::function<xkb_layout_index_t()> m_layout;
     std::function<bool()> m_isDesktopLost;
-    std::function<bool()> m_isLocked;
+    std::function<bool()> m_endsPlays;
     EventSource* m_desktop = nullptr;
     EventMonitor::AccessObserver m_accessChanged;
     EventMonitor::Access m_toldAccess = EventMonitor::Access::given;

@@ -175,4 +175,8 @@ void KeyStream::dropPlays() {
     m_interpreter.dropHotKeys([this](HotKeyId id) { return m_rules.hotKeys.startsPlayback(id); });
 }
 
+void KeyStream::dropCommands() {
+    m_interpreter.dropHotKeys([this](HotKeyId id) { return !m_rules.hotKeys.cancelsPlayback(id); });
+}
+
 }  // namespace evdev

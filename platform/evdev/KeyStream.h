@@ -68,6 +68,8 @@ class KeyStream final : public KeyboardListener {
     void noteHotKey(HotKeyId id);
     /// The user wishes to stop: what he asked for before, and is not delivered yet, is not played any more.
     void dropPlays();
+    /// Takes back all hot keys that wait, but for those that cancel.
+    void dropCommands();
 
     static ServerTime serverTime(RepeatCounter::Time time) {
         return static_cast<ServerTime>(time.count() / 1000);

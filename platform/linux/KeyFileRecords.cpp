@@ -97,7 +97,7 @@ KeyFileRecords::KeyFileRecords(const std::string& configFolder, std::function<vo
           UserKeyFile::Words{"macro settings", "hot keys, times and speeds begin anew."},
           [this](const Error& fault) { m_schedule->addFault(fault); })) {}
 
-KeyFileRecords::~KeyFileRecords() { endTurn(); }
+KeyFileRecords::~KeyFileRecords() { m_schedule->end(); }
 
 const std::map<std::string, Record>& KeyFileRecords::records() {
     if (std::exchange(m_isRead, true)) return m_records;

@@ -67,7 +67,7 @@ KeyFileSettings::KeyFileSettings(const ConfigFolders& folders, Use use, std::fun
     }
 }
 
-KeyFileSettings::~KeyFileSettings() { endTurn(); }
+KeyFileSettings::~KeyFileSettings() { m_schedule->end(); }
 
 std::optional<std::int64_t> KeyFileSettings::integer(const std::string& key) const {
     const auto value = m_values.find(key);

@@ -24,6 +24,12 @@ Result<> StoreSchedule::storeNow() {
     return stored;
 }
 
+void StoreSchedule::end() {
+    // Nobody is left to be told.
+    if (m_isDue || m_lastFailure) [[maybe_unused]]
+        const auto stored = storeNow();
+}
+
 std::optional<Error> StoreSchedule::takeFault() {
     if (m_faults.empty()) return std::nullopt;
     Error fault = std::move(m_faults.front());

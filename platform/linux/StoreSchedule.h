@@ -21,6 +21,8 @@ class StoreSchedule {
     /// is told once.
     void endTurn();
     Result<> storeNow();
+    /// The last chance, also for what could not be stored before: there may be room by now.
+    void end();
 
     void addFault(const Error& fault) { m_faults.push_back(fault); }
     std::optional<Error> takeFault();

@@ -125,9 +125,9 @@ class WaylandSession final : public Session {
     }
     void interrupt() noexcept override { m_injector.interrupt(); }
     void suspend() noexcept override { m_injector.suspend(); }
-    void endPlaysWhen(std::function<bool()> isLocked) override {
-        m_keys.endPlaysWhen([this, isLocked = std::move(isLocked)] {
-            return (isLocked && isLocked()) || hasLockerKeyboard();
+    void endPlaysWhen(std::function<bool()> endsPlays) override {
+        m_keys.endPlaysWhen([this, endsPlays = std::move(endsPlays)] {
+            return (endsPlays && endsPlays()) || hasLockerKeyboard();
         });
     }
     Result<void> connection() const override {

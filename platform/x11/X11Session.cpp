@@ -79,8 +79,8 @@ class X11Session final : public Session {
     void suspend() noexcept override {
         if (m_keys) m_keys->keyInjector.suspend();
     }
-    void endPlaysWhen(std::function<bool()> isLocked) override {
-        if (m_keys) m_keys->eventManager->endPlaysWhen(std::move(isLocked));
+    void endPlaysWhen(std::function<bool()> endsPlays) override {
+        if (m_keys) m_keys->eventManager->endPlaysWhen(std::move(endsPlays));
     }
     Result<void> connection() const override {
         if (m_keys && m_keys->eventManager->isBroken()) return Error{"The X server is gone.", ""};

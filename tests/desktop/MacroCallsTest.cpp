@@ -237,10 +237,39 @@ TEST_F(MacroCallsTest, nothingIsTypedIntoThePrompt) {
     EXPECT_EQ(shell("keyrill --action=multiple"), done);
     desktop.awaitFocus(title::prompt);
     EXPECT_EQ(shell("keyrill --play Greeting"), refused("Keyrill is asking how often to play."));
+    EXPECT_EQ(shell("keyrill --show Greeting"), refused("Keyrill is asking how often to play."));
     EXPECT_EQ(shell("keyrill --action=record").status, 2);
     press("Escape");
     EXPECT_TRUE(eventually([this] { return !desktop.shows(title::prompt); }));
     EXPECT_EQ(shell("keyrill --play Greeting"), done);
+}
+
+/// What hot keys ask for while a macro plays is done after it, but not after a stop.
+TEST_F(MacroCallsTest, aStopTakesBackWhatHotKeysAskedForBeforeIt) {
+    macros.drop("Paused", "delay 30\n");
+    std::ofstream(macros.settings) << "[Greeting.keyrill]\nhotKeyCode=18\nhotKeyFlags=1310720\n";
+    const Keyrill keyrill(desktop);
+    ASSERT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::one); }));
+    EXPECT_EQ(shell("keyrill --play Paused"), done);
+    userStrikes(xkey::one);
+    userStrikes(xkey::r);
+    EXPECT_EQ(shell("keyrill --action=stop"), done);
+    expectTypedExactly("");
+    EXPECT_FALSE(desktop.shows(title::overlay));
+}
+
+/// A held Escape is a stop as well.
+TEST_F(MacroCallsTest, aHeldEscapeTakesBackWhatHotKeysAskedForBeforeIt) {
+    macros.drop("Paused", "delay 30\n");
+    const Keyrill keyrill(desktop);
+    EXPECT_EQ(shell("keyrill --play Paused"), done);
+    userStrikes(xkey::r);
+    typist.press({xkey::escape});
+    typist.hold(std::chrono::milliseconds(400));
+    typist.release({xkey::escape});
+    // The program gets it, too.
+    expectTypedExactly("\x1B");
+    EXPECT_FALSE(desktop.shows(title::overlay));
 }
 
 TEST_F(MacroCallsTest, aCommandLineThatMakesNoSenseHasAStatusOfItsOwn) {

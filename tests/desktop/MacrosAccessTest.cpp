@@ -81,6 +81,31 @@ TEST_F(MacrosAccessTest, eachControlHasANameAndIsReachedByTab) {
     EXPECT_GE(controls().size(), 10U);
 }
 
+/// Who clicks into a window that does not react is not to find out afterwards what it was good for.
+TEST_F(MacrosAccessTest, aClickWhileAMacroPlaysIsNotDoneAfterwards) {
+    std::ofstream(file("Paused")) << "delay 3\n";
+    press("ctrl+f");
+    desktop.run({"xdotool", "type", "greet"});
+    press("Return");
+    ASSERT_TRUE(eventually([this] { return focused() == "list item|Greeting"; })) << focused();
+    std::istringstream place(run({"place", "Delete"}));
+    std::string x;
+    std::string y;
+    place >> x >> y;
+    const auto click = [this] { desktop.run({"xdotool", "click", "1"}); };
+    desktop.run({"xdotool", "mousemove", x, y});
+    desktop.run({programs::keyrill, "--play", "Paused"});
+    for (int times = 0; times < 3; ++times) click();
+    // It answers after the play, and has handled by then what came before the question.
+    EXPECT_EQ(run({"list"}).find("The macro is in the trash."), std::string::npos);
+    EXPECT_TRUE(std::filesystem::exists(file("Greeting")));
+    EXPECT_TRUE(std::filesystem::exists(file("Paused")));
+    // The next one is.
+    click();
+    EXPECT_TRUE(eventually([this] { return !std::filesystem::exists(file("Greeting")); }));
+    EXPECT_TRUE(std::filesystem::exists(file("Paused")));
+}
+
 /// Her first macro, from the recording to the hot key of its own.
 class KeepTest : public MacrosAccessTest {
   protected:

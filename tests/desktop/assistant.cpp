@@ -13,6 +13,8 @@
 //
 // "assistant PID await NAME checked|unchecked": waits until the box of that name is so.
 //
+// "assistant PID place NAME": the middle of the object of that name on the screen, "X Y".
+//
 // Exit status 1 where there is no such object, after a moment of waiting for it.
 
 #include <atspi/atspi.h>
@@ -141,6 +143,19 @@ bool typeNamed(const Object& root, const std::string& name, const char* text) {
     });
 }
 
+bool printPlaceOf(const Object& root, const std::string& name) {
+    return walk(root, [&name](const Object& object) {
+        if (nameOf(object) != name || !hasState(object, ATSPI_STATE_SHOWING)) return false;
+        const std::unique_ptr<AtspiComponent, Unref> component(
+            atspi_accessible_get_component_iface(object.get()));
+        if (!component) return false;
+        const std::unique_ptr<AtspiRect, decltype(&g_free)> place(
+            atspi_component_get_extents(component.get(), ATSPI_COORD_TYPE_SCREEN, nullptr), g_free);
+        std::cout << place->x + place->width / 2 << ' ' << place->y + place->height / 2 << '\n';
+        return true;
+    });
+}
+
 bool isThere(const Object& root, const std::string& name) {
     return walk(root, [&name](const Object& object) {
         return nameOf(object) == name && hasState(object, ATSPI_STATE_SHOWING);
@@ -160,6 +175,7 @@ bool perform(guint pid, int argc, char** argv) {
     const std::string command = argv[2];
     if (command == "list") return list(root);
     if (command == "focused") return printFocused(root);
+    if (command == "place" && argc == 4) return printPlaceOf(root, argv[3]);
     if (command == "press" && argc == 4) return pressNamed(root, argv[3]);
     if (command == "await" && argc == 4) return isThere(root, argv[3]);
     if (command == "await" && argc == 5) return isBox(root, argv[3], std::string(argv[4]) == "checked");

@@ -54,6 +54,18 @@ TEST_F(KeyFileRecordsTest, makesNothingWhereNothingIsSet) {
     EXPECT_FALSE(fs::exists(m_config.file("keyrill")));
 }
 
+TEST_F(KeyFileRecordsTest, writesInTheEndWhatCouldNotBeWrittenBefore) {
+    // No folder can be made there.
+    std::ofstream(m_config.file("keyrill")) << "in the way";
+    {
+        auto store = records();
+        store.set("a", {{"times", "3"}});
+        EXPECT_FALSE(store.synchronize());
+        fs::remove(m_config.file("keyrill"));
+    }
+    EXPECT_EQ(contentOf(file), "[a]\ntimes=3\n");
+}
+
 TEST_F(KeyFileRecordsTest, readsWhatWasWrittenByHand) {
     put("# mine\n[ab%zz%5b]\ntimes = 3 \nown=kept\n\n[empty]\n");
     EXPECT_EQ(records().records(), (Records{{"ab%zz%5b", {{"times", "3"}, {"own", "kept"}}}}));

@@ -204,4 +204,8 @@ void EventOrder::dropPlays() {
     m_interpreter.dropHotKeys([this](HotKeyId id) { return m_rules.hotKeys.startsPlayback(id); });
 }
 
+void EventOrder::dropCommands() {
+    m_interpreter.dropHotKeys([this](HotKeyId id) { return !m_rules.hotKeys.cancelsPlayback(id); });
+}
+
 }  // namespace x11

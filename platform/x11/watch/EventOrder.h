@@ -44,6 +44,8 @@ class EventOrder {
 
     /// The user wishes to stop: what he asked for before, and is not delivered yet, is not played any more.
     void dropPlays();
+    /// Takes back all hot keys that wait, but for those that cancel.
+    void dropCommands();
 
   private:
     bool hasRepeats() const;

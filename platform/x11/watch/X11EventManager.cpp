@@ -38,8 +38,8 @@ void X11EventManager::observeHold(std::function<void(bool held)> changed) {
     m_parts->observeHold(std::move(changed));
 }
 
-void X11EventManager::endPlaysWhen(std::function<bool()> isLocked) {
-    m_parts->endPlaysWhen(std::move(isLocked));
+void X11EventManager::endPlaysWhen(std::function<bool()> endsPlays) {
+    m_parts->endPlaysWhen(std::move(endsPlays));
 }
 
 void X11EventManager::install(HotKeys::Handler pressed, HotKeys::Handler released) {

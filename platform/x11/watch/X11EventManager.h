@@ -45,7 +45,7 @@ class X11EventManager final : public EventSource, public EventMonitor, public Ho
     const std::optional<Error>& problem() const;
 
     /// A playback ends where that answers true: the screen is locked, as others tell.
-    void endPlaysWhen(std::function<bool()> isLocked);
+    void endPlaysWhen(std::function<bool()> endsPlays);
 
     /// What the injector needs while a run lasts (platform/run/RunWatch.h).
     RunWatch& runWatch();

@@ -78,6 +78,7 @@ void X11EventManager::Parts::dispatch() {
 
 void X11EventManager::Parts::drain() {
     read();
+    heedOthers();
     // Between two runs, and after the last, nothing else would tell the loop of what was read in passing.
     if (!m_running && !m_interpreter.deliveries().empty()) kick();
 }
@@ -139,12 +140,15 @@ void X11EventManager::Parts::setRecording(bool recording) {
 
 bool X11EventManager::Parts::mayBeLocked() const { return m_running && m_hold.mayBeLocked(); }
 
-bool X11EventManager::Parts::isCancelled() const {
-    return m_cancel.isCancelled() || (m_isLocked && m_isLocked());
+void X11EventManager::Parts::heedEscape() {
+    if (m_cancel.takeEscapeStop()) m_order.dropCommands();
 }
 
-void X11EventManager::Parts::heedEscape() {
-    if (m_cancel.takeEscapeStop()) m_order.dropPlays();
+/// Also what was asked for before the moment at which they want the play to end.
+void X11EventManager::Parts::heedOthers() {
+    if (!m_endsPlays || !m_endsPlays()) return;
+    m_cancel.cancel();
+    m_order.dropCommands();
 }
 
 bool X11EventManager::Parts::isBroken() const {

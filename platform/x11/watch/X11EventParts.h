@@ -33,7 +33,7 @@ class X11EventManager::Parts final : public RunWatch {
     void drain() override;
     void startPlayback() override { m_cancel.start(); }
     void stopPlayback() override { m_cancel.cancel(); }
-    bool isCancelled() const override;
+    bool isCancelled() const override { return m_cancel.isCancelled(); }
     bool isLost() const override { return isBroken(); }
     bool mayBeLocked() const override;
     std::optional<Clock::Time> cancelDeadline() const override { return m_cancel.deadline(); }
@@ -61,7 +61,7 @@ class X11EventManager::Parts final : public RunWatch {
     void setShowsModifierKeys(bool shows);
     void setRecording(bool recording);
     void observeHold(std::function<void(bool)> changed) { m_holdChanged = std::move(changed); }
-    void endPlaysWhen(std::function<bool()> isLocked) { m_isLocked = std::move(isLocked); }
+    void endPlaysWhen(std::function<bool()> endsPlays) { m_endsPlays = std::move(endsPlays); }
     /// Something may have been read in passing; the loop is to look.
     void kick() { m_wakeups.kick(); }
 
@@ -78,6 +78,7 @@ class X11EventManager::Parts final : public RunWatch {
 
     void read();
     void heedEscape();
+    void heedOthers();
     void followHold();
     void tryForHotKeys();
     void lookWhoHoldsTheKeyboard();
@@ -109,7 +110,7 @@ class X11EventManager::Parts final : public RunWatch {
 
     Deliverer m_deliverer;
     std::function<void(bool)> m_holdChanged;
-    std::function<bool()> m_isLocked;
+    std::function<bool()> m_endsPlays;
     bool m_recording = false;
     bool m_toldHeld = false;
     bool m_running = false;

@@ -2,6 +2,7 @@
 #include "app/controller/MacrosDesk.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QMenu>
@@ -43,6 +44,8 @@ const std::string ab = recording(steps::keyLines(key::a, 0) + steps::keyLines(ke
 
 const std::string gone = "The file of this macro is gone. If you save, it is there again.";
 const std::string conflict = "Another program has changed this macro. If you save, your text replaces it.";
+
+constexpr KeyCombo controlSuperOne{.flags = 0x140000, .code = 18};
 
 /// The desk on a folder with Greeting ("a") and work/Mail, and a trash of its own.
 class MacrosDeskTest : public AppTest {
@@ -90,6 +93,13 @@ class MacrosDeskTest : public AppTest {
             follower.dispatch();
             return isSo();
         });
+    }
+    /// By Ctrl+Z under Keys.
+    void undo() {
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, Qt::Key_Z, Qt::ControlModifier);
+            QCoreApplication::sendEvent(&editor(), &event);
+        }
     }
     QPushButton& button(const char* title) { return buttonOf(window(), title); }
     std::string warning() {
@@ -441,6 +451,45 @@ TEST_F(MacrosDeskTest, whatOthersWroteIsNotToldAnyMoreOnceTheyTakeItBack) {
     EXPECT_EQ(editor().text(), ab);
 }
 
+TEST_F(MacrosDeskTest, whoTakesBackAllThatWasNotSavedSeesWhatOthersWrote) {
+    const std::string others = recording(steps::keyLines(key::s, 0));
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    write("Greeting", others);
+    ASSERT_TRUE(soon([this] { return warning() == conflict; })) << warning();
+    undo();
+    EXPECT_TRUE(soon([&] { return editor().text() == others; })) << editor().text();
+    EXPECT_EQ(warning(), "");
+    EXPECT_FALSE(editor().isChanged());
+    // The same where the file is gone.
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    std::filesystem::remove(file("Greeting"));
+    ASSERT_TRUE(soon([this] { return warning() == gone; })) << warning();
+    undo();
+    EXPECT_TRUE(soon([this] { return window().chosen().empty(); }));
+    EXPECT_EQ(told(), "Another program has deleted or moved the macro.");
+}
+
+TEST_F(MacrosDeskTest, aHotKeyGoesWithItsMacroAndComesBackWithIt) {
+    const MacroSettings mine{.hotKey = controlSuperOne, .play = {.times = {3}}};
+    choose("Greeting");
+    shelf.library().setSettings("Greeting.keyrill", mine);
+    ASSERT_EQ(shelf.hotKeys().state("Greeting.keyrill").status, HotKeyStatus::registered);
+    button("Delete").click();
+    ASSERT_TRUE(soon([this] { return names() == "work/Mail"; })) << names();
+    // Somebody else's.
+    write("Greeting", ab);
+    ASSERT_TRUE(soon([this] { return names() == "Greeting|work/Mail"; })) << names();
+    EXPECT_EQ(shelf.hotKeys().state("Greeting.keyrill").status, HotKeyStatus::unset);
+    EXPECT_EQ(shelf.library().settings("Greeting.keyrill"), MacroSettings());
+    std::filesystem::remove(file("Greeting"));
+    ASSERT_TRUE(soon([this] { return names() == "work/Mail"; })) << names();
+    emit window().undoWanted();
+    ASSERT_TRUE(soon([this] { return names() == "Greeting|work/Mail"; })) << names();
+    EXPECT_EQ(shelf.library().settings("Greeting.keyrill"), mine);
+    EXPECT_EQ(shelf.hotKeys().state("Greeting.keyrill").status, HotKeyStatus::registered);
+}
+
 TEST_F(MacrosDeskTest, aFileThatComesBackAsItWasIsNotToldAsGone) {
     choose("Greeting");
     editor().keys().insertLines(steps::keyLines(key::b, 0));
@@ -572,8 +621,6 @@ TEST_F(MacrosDeskTest, aFileThatCannotBeReadSaysSo) {
 /// What belongs to a macro beside its text.
 class MacroSettingsDeskTest : public MacrosDeskTest {
   protected:
-    static constexpr KeyCombo controlSuperOne{.flags = 0x140000, .code = 18};
-
     Record kept(const std::string& name) {
         platform().macroRecords.endTurn();
         const auto& stored = platform().macroRecords.stored();

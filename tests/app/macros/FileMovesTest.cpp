@@ -43,6 +43,9 @@ TEST_F(FileMovesTest, aNameBecomesThatOfAFile) {
     EXPECT_EQ(FileMoves::named("/m/One.keyrill", QStringLiteral(" Two ")).value(), "/m/Two.keyrill");
     EXPECT_EQ(FileMoves::named("/m/One.keyrill", QString::fromUtf8("שלום 😀")).value(), "/m/שלום 😀.keyrill");
     EXPECT_EQ(FileMoves::named("/m/a.b.keyrill", QStringLiteral("c.d")).value(), "/m/c.d.keyrill");
+    EXPECT_EQ(FileMoves::named("/m/One.keyrill", QStringLiteral("Two.keyrill")).value(), "/m/Two.keyrill");
+    EXPECT_EQ(FileMoves::named("/m/One.keyrill", QStringLiteral(".keyrill")).error().message,
+              "A macro needs a name.");
 }
 
 TEST_F(FileMovesTest, aNameThatNoFileCanHaveIsRefusedWithItsReason) {

@@ -62,7 +62,7 @@ TEST(ActionsTest, nothingIsRecordedOrPlayedWhileThePromptOrAHotKeyIsBeingTyped) 
         EXPECT_EQ(obstacle(action, choosing),
                   "Keyrill's hot keys are off while they are being chosen in a window of its own.");
     }
-    EXPECT_EQ(obstacle("macros", prompt), "");
+    EXPECT_EQ(obstacle("macros", prompt), "Keyrill is asking how often to play.");
     EXPECT_EQ(obstacle("macros", choosing), "");
     EXPECT_EQ(obstacle("stop", {.recording = true, .hotKeysOff = true}), "");
 }
