@@ -7,22 +7,45 @@
 #include <cstdio>
 #include <string>
 
+#include "platform/Sentence.h"
 #include "platform/Utf8.h"
 
 namespace {
 
-std::string nameOf(char byte) {
+std::string codeOf(char byte) {
     std::array<char, 8> name{};
     std::snprintf(name.data(), name.size(), "0x%02X", static_cast<std::uint8_t>(byte));
     return name.data();
 }
 
-std::string nameOf(std::string_view rest, const Utf8Character& character) {
-    if (!character.code) return "the byte " + nameOf(rest.front());
-    std::string name = "the character ";
+/// What `rest` begins with is no ASCII.
+Sentence refusal(const std::string& line, const std::string& place, std::string_view rest) {
+    const Utf8Character character = firstCharacter(rest);
+    if (!character.code) {
+        //: %1 and %3 are numbers, %2 is a code: 0xE9
+        return sentence("Files", "Line %1 has the byte %2 at place %3, and a macro file can hold ASCII only.")
+            .arg(line)
+            .arg(codeOf(rest.front()))
+            .arg(place);
+    }
+    const std::string code = codePointName(*character.code);
     // Controls (U+0080 to U+009F) would be invisible.
-    if (*character.code >= 0xA0) name.append("\"").append(rest.substr(0, character.length)).append("\" ");
-    return name + "(" + codePointName(*character.code) + ")";
+    if (*character.code < 0xA0) {
+        //: %1 and %3 are numbers, %2 is the code of a character that cannot be shown: U+0085
+        return sentence("Files",
+                        "Line %1 has the character (%2) at place %3, and a macro file can hold ASCII only.")
+            .arg(line)
+            .arg(code)
+            .arg(place);
+    }
+    //: %1 and %4 are numbers, %2 is a character, %3 its code: U+00E9
+    return sentence(
+               "Files",
+               "Line %1 has the character \"%2\" (%3) at place %4, and a macro file can hold ASCII only.")
+        .arg(line)
+        .arg(rest.substr(0, character.length))
+        .arg(code)
+        .arg(place);
 }
 
 }  // namespace
@@ -34,8 +57,6 @@ Result<> checkAscii(std::string_view text) {
     if (before.size() == text.size()) return {};
     const auto line = std::count(before.begin(), before.end(), '\n') + 1;
     const auto column = before.size() - (before.rfind('\n') + 1) + 1;
-    const std::string_view rest = text.substr(before.size());
-    return Error{"Line " + std::to_string(line) + " has " + nameOf(rest, firstCharacter(rest)) +
-                     " at place " + std::to_string(column) + ", and a macro file can hold ASCII only.",
-                 "Replace the character in the macro."};
+    return Error{refusal(std::to_string(line), std::to_string(column), text.substr(before.size())),
+                 sentence("Files", "Replace the character in the macro.")};
 }

@@ -32,6 +32,10 @@ class Sentence {
 
 inline Sentence sentence(const char* context, const char* english) { return {context, english}; }
 
+/// The English words of a sentence that stands in a table, where the catalogues find them:
+/// `sentence("Files", row.words)`.
+constexpr const char* englishOf(const char* /*context*/, const char* english) { return english; }
+
 /// What says a sentence in another language, with its placeholders; any thread may call it.
 using SentenceTranslation = std::string (*)(const char* context, const char* english);
 

@@ -515,6 +515,33 @@ You can change your mind in Keyrill&apos;s preferences.</source>
     </message>
 </context>
 <context>
+    <name>Clipboard</name>
+    <message>
+        <source>This compositor gives the clipboard to windows alone.</source>
+        <translation>لا يتيح هذا المُركِّب الحافظة إلا للنوافذ.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with data control, such as sway, or an X11 session.</source>
+        <translation>استخدم مُركِّبا فيه التحكم في البيانات مثل sway، أو جلسة X11.</translation>
+    </message>
+    <message>
+        <source>No more files can be opened.</source>
+        <translation>لا يمكن فتح المزيد من الملفات.</translation>
+    </message>
+    <message>
+        <source>Close programs.</source>
+        <translation>أغلق بعض البرامج.</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is too long.</source>
+        <translation>النص الموجود في الحافظة أطول مما ينبغي.</translation>
+    </message>
+    <message>
+        <source>The clipboard is held by another program.</source>
+        <translation>يحجز برنامج آخر الحافظة.</translation>
+    </message>
+</context>
+<context>
     <name>CombinationText</name>
     <message>
         <source>Ctrl</source>
@@ -531,6 +558,10 @@ You can change your mind in Keyrill&apos;s preferences.</source>
     <message>
         <source>Super</source>
         <translation>Super</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Ctrl</translation>
     </message>
 </context>
 <context>
@@ -689,6 +720,80 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
 </context>
 <context>
+    <name>Files</name>
+    <message>
+        <source>Line %1 has the byte %2 at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is a code: 0xE9</extracomment>
+        <translation>في السطر ⁨%1⁩ البايت ⁨%2⁩ عند الموضع ⁨%3⁩، ولا يمكن أن يحتوي ملف الماكرو إلا على ASCII.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character (%2) at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is the code of a character that cannot be shown: U+0085</extracomment>
+        <translation>في السطر ⁨%1⁩ المحرف (⁨%2⁩) عند الموضع ⁨%3⁩، ولا يمكن أن يحتوي ملف الماكرو إلا على ASCII.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character &quot;%2&quot; (%3) at place %4, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %4 are numbers, %2 is a character, %3 its code: U+00E9</extracomment>
+        <translation>في السطر ⁨%1⁩ المحرف «⁨%2⁩» (⁨%3⁩) عند الموضع ⁨%4⁩، ولا يمكن أن يحتوي ملف الماكرو إلا على ASCII.</translation>
+    </message>
+    <message>
+        <source>Replace the character in the macro.</source>
+        <translation>استبدل المحرف في الماكرو.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be deleted: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>يتعذر حذف الملف ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Check who may write to its folder, or delete it yourself.</source>
+        <translation>تحقق ممن يحق له الكتابة في مجلده، أو احذفه بنفسك.</translation>
+    </message>
+    <message>
+        <source>It is a folder</source>
+        <translation>إنه مجلد</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>إنه ليس ملفا عاديا</translation>
+    </message>
+    <message>
+        <source>Choose a file.</source>
+        <translation>اختر ملفا.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>تتعذر قراءة الملف ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>تتعذر كتابة الملف ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>It is larger than %1 MiB</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>حجمه أكبر من ⁨%1⁩ ميبيبايت</translation>
+    </message>
+    <message>
+        <source>Choose a smaller file.</source>
+        <translation>اختر ملفا أصغر.</translation>
+    </message>
+    <message>
+        <source>Choose another name.</source>
+        <translation>اختر اسما آخر.</translation>
+    </message>
+    <message>
+        <source>Check that the file is there and who may read it.</source>
+        <translation>تحقق من وجود الملف وممن يحق له قراءته.</translation>
+    </message>
+    <message>
+        <source>Make room, check who may write there, or choose another place.</source>
+        <translation>أفرغ بعض المساحة، أو تحقق ممن يحق له الكتابة هناك، أو اختر مكانا آخر.</translation>
+    </message>
+</context>
+<context>
     <name>FilesDesk</name>
     <message>
         <source>&quot;%1&quot; was not loaded</source>
@@ -717,6 +822,892 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>Press %1 to play it.</source>
         <translation>اضغط ⁨%1⁩ لتشغيله.</translation>
+    </message>
+</context>
+<context>
+    <name>Folders</name>
+    <message>
+        <source>The folder %1 cannot be made: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>يتعذر إنشاء المجلد ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Check who may write there.</source>
+        <translation>تحقق ممن يحق له الكتابة هناك.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be read: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>تتعذر قراءة المجلد ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Check who may read it.</source>
+        <translation>تحقق ممن يحق له قراءته.</translation>
+    </message>
+    <message>
+        <source>What changes in the folder %1 is not noticed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>لا تُلاحَظ التغييرات في المجلد ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Start Keyrill again after changes, or raise fs.inotify.max_user_watches.</source>
+        <translation>ابدأ Keyrill من جديد بعد التغييرات، أو ارفع قيمة fs.inotify.max_user_watches.</translation>
+    </message>
+    <message>
+        <source>Make room, or check who may write there.</source>
+        <translation>أفرغ بعض المساحة، أو تحقق ممن يحق له الكتابة هناك.</translation>
+    </message>
+</context>
+<context>
+    <name>Hints</name>
+    <message>
+        <source>A handler is called with parentheses: %1().</source>
+        <translation>يُستدعى المعالج بقوسين: ⁦%1()⁩.</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1.</source>
+        <translation>لهذا المفتاح رقم: ⁦key code %1⁩.</translation>
+    </message>
+    <message>
+        <source>Return is joined to a text so: &quot;hello&quot; &amp; return.</source>
+        <translation>يُضم المفتاح Return إلى نص هكذا: ⁦&quot;hello&quot; &amp; return⁩.</translation>
+    </message>
+    <message>
+        <source>Tab is joined to a text so: &quot;hello&quot; &amp; tab.</source>
+        <translation>يُضم المفتاح Tab إلى نص هكذا: ⁦&quot;hello&quot; &amp; tab⁩.</translation>
+    </message>
+    <message>
+        <source>A question is asked with: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</source>
+        <translation>يُطرح السؤال هكذا: ⁦text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;)⁩.</translation>
+    </message>
+    <message>
+        <source>A number by chance is: random number from 1 to 10.</source>
+        <translation>يُكتب العدد العشوائي هكذا: ⁦random number from 1 to 10⁩.</translation>
+    </message>
+    <message>
+        <source>A loop is left with “exit repeat”, the script with “return”.</source>
+        <translation>يُخرج من الحلقة بالأمر «exit repeat»، ومن السكربت بالأمر «return».</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>يُكتب النص بالأمر «keystroke»: ⁦keystroke &quot;hello&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>A pause is written in seconds: delay 2.</source>
+        <translation>تُكتب الوقفة بالثواني: ⁦delay 2⁩.</translation>
+    </message>
+    <message>
+        <source>Errors are caught with: try … on error … end try.</source>
+        <translation>تُلتقط الأخطاء هكذا: ⁦try … on error … end try⁩.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported; the commands are there from the start: delay 2, keystroke &quot;hello&quot;.</source>
+        <translation>لا يُستورد شيء؛ فالأوامر متاحة من البداية: ⁦delay 2⁩، ⁦keystroke &quot;hello&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>A value is printed with: log &quot;x&quot;. Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>تُطبع القيمة هكذا: ⁦log &quot;x&quot;⁩. يُكتب النص بالأمر «keystroke»: ⁦keystroke &quot;hello&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>A message is shown with: display dialog &quot;hello&quot;.</source>
+        <translation>تُعرض الرسالة هكذا: ⁦display dialog &quot;hello&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>What has no value is written: missing value.</source>
+        <translation>يُكتب ما لا قيمة له هكذا: ⁦missing value⁩.</translation>
+    </message>
+    <message>
+        <source>A window is brought to the front with: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>تُجلب النافذة إلى الأمام هكذا: ⁦tell application &quot;Firefox&quot; to activate⁩.</translation>
+    </message>
+    <message>
+        <source>A key code lies between 0 and %1; “keyrill-script keys” prints those that keys have.</source>
+        <translation>يقع رمز المفتاح بين 0 و⁨%1⁩؛ ويطبع الأمر «keyrill-script keys» الرموز التي لها مفاتيح.</translation>
+    </message>
+    <message>
+        <source>A key code is a number; a text is typed with “keystroke”.</source>
+        <translation>رمز المفتاح عدد؛ أما النص فيُكتب بالأمر «keystroke».</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1; “keyrill-script keys” prints all.</source>
+        <translation>لهذا المفتاح رقم: ⁦key code %1⁩؛ ويطبع الأمر «keyrill-script keys» كل الأرقام.</translation>
+    </message>
+    <message>
+        <source>The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.</source>
+        <translation>أجزاء التاريخ هي ⁦year, month, day, weekday, hours, minutes, seconds⁩ و⁦time⁩.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>هل تقصد ⁨%1⁩؟</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: delay 0.5.</source>
+        <translation>تُكتب الكسور العشرية بعد نقطة: ⁦delay 0.5⁩.</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds: delay 0.5.</source>
+        <translation>يعدّ الأمر «delay» الثواني: ⁦delay 0.5⁩.</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record; what was typed there is taken with: text returned of n.</source>
+        <translation>يعيد مربع الحوار سجلا (record)؛ ويؤخذ ما كُتب فيه هكذا: ⁦text returned of n⁩.</translation>
+    </message>
+    <message>
+        <source>A modifier stands without quotes: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>يُكتب المفتاح المغيِّر من دون علامتي اقتباس: ⁦using %1 down⁩.</translation>
+    </message>
+    <message>
+        <source>Several modifiers stand in braces: using {control down, shift down}.</source>
+        <translation>توضع المفاتيح المغيِّرة المتعددة بين قوسين متعرجين: ⁦using {control down, shift down}⁩.</translation>
+    </message>
+    <message>
+        <source>Texts are joined with “&amp;”: &quot;one&quot; &amp; &quot;two&quot;.</source>
+        <translation>تُضم النصوص بعضها إلى بعض بالعلامة «&amp;»: ⁦&quot;one&quot; &amp; &quot;two&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>This compares and changes nothing; a variable is set with “to”: set %1 to …</source>
+        <translation>هذه مقارنة لا تغيّر شيئا؛ تُعيَّن قيمة المتغير بالكلمة «to»: ⁦set %1 to⁩ …</translation>
+    </message>
+    <message>
+        <source>The script has no handler of that name: on %1(…) … end %1.</source>
+        <translation>ليس في السكربت معالج بهذا الاسم: ⁦on %1(…) … end %1⁩.</translation>
+    </message>
+    <message>
+        <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
+        <translation>لا يقبل أي برنامج أمرا غير «activate»؛ اضغط مفاتيحه: ⁦tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down⁩.</translation>
+    </message>
+    <message>
+        <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>أسماء المفاتيح المغيِّرة هي ⁦command (Super)⁩ و⁦control (Ctrl)⁩ و⁦option (Alt)⁩ و⁦shift⁩: ⁦using %1 down⁩.</translation>
+    </message>
+    <message>
+        <source>An application is named: application &quot;%1&quot;.</source>
+        <translation>يُذكر التطبيق باسمه: ⁦application &quot;%1&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>يوضع النص بين علامتي اقتباس مستقيمتين: ⁦&quot;%1&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>A handler has variables of its own; to share this one write there: global %1.</source>
+        <translation>للمعالج متغيراته الخاصة؛ لمشاركة هذا المتغير اكتب فيه: ⁦global %1⁩.</translation>
+    </message>
+    <message>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>تُعيَّن قيمة المتغير قبل استخدامه: ⁦set %1 to …⁩. ويوضع النص بين علامتي اقتباس مستقيمتين: ⁦&quot;%1&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
+        <translation>يُضغط المفتاح برقمه: ⁦key code 36⁩ هو المفتاح Return. ويطبع الأمر «keyrill-script keys» كل الأرقام.</translation>
+    </message>
+    <message>
+        <source>The date of today is “current date”; as a text: short date string of (current date).</source>
+        <translation>تاريخ اليوم هو «current date»، ويُكتب نصا هكذا: ⁦short date string of (current date)⁩.</translation>
+    </message>
+    <message>
+        <source>Inside “tell” the script’s own handlers are called with “my”: my %1(…).</source>
+        <translation>داخل «tell» تُستدعى معالجات السكربت نفسه بالكلمة «my»: ⁦my %1(…)⁩.</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>لا توجد هنا كتلة مفتوحة؛ وليس لعبارة «if» المكتوبة مع أمرها في سطر واحد «else».</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>لا توجد هنا كتلة مفتوحة؛ وليس لعبارة «if» المكتوبة مع أمرها في سطر واحد «end if».</translation>
+    </message>
+    <message>
+        <source>No block is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>لا توجد هنا كتلة مفتوحة؛ وليس لعبارة «⁦tell … to⁩» المكتوبة في سطر واحد «end tell».</translation>
+    </message>
+    <message>
+        <source>No block is open here; this line is one too many.</source>
+        <translation>لا توجد هنا كتلة مفتوحة؛ هذا السطر زائد.</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>لا توجد هنا «if» مفتوحة؛ وليس لعبارة «if» المكتوبة مع أمرها في سطر واحد «else».</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>لا توجد هنا «if» مفتوحة؛ وليس لعبارة «if» المكتوبة مع أمرها في سطر واحد «end if».</translation>
+    </message>
+    <message>
+        <source>No “tell” is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>لا توجد هنا «tell» مفتوحة؛ وليس لعبارة «⁦tell … to⁩» المكتوبة في سطر واحد «end tell».</translation>
+    </message>
+    <message>
+        <source>No “%1” is open here; the block that begins in line %2 has no “end” of its own.</source>
+        <extracomment>%1 is the first word of a block, &quot;repeat&quot;, %2 a number.</extracomment>
+        <translation>لا توجد هنا «⁨%1⁩» مفتوحة؛ وليس للكتلة التي تبدأ في السطر ⁨%2⁩ «end» خاصة بها.</translation>
+    </message>
+    <message>
+        <source>In line %1 these are two words: %2.</source>
+        <extracomment>%1 is a number, %2 what the line was meant to be, &quot;end if&quot;.</extracomment>
+        <translation>في السطر ⁨%1⁩ تُكتب هذه كلمتين: ⁦%2⁩.</translation>
+    </message>
+    <message>
+        <source>The block that begins in line %1 has no “end” of its own.</source>
+        <translation>ليس للكتلة التي تبدأ في السطر ⁨%1⁩ «end» خاصة بها.</translation>
+    </message>
+    <message>
+        <source>The text that begins here is not closed by a straight quote in its line.</source>
+        <translation>النص الذي يبدأ هنا غير مغلق في سطره بعلامة اقتباس مستقيمة.</translation>
+    </message>
+    <message>
+        <source>The comment that begins in line %1 is not closed by “*)”.</source>
+        <translation>التعليق الذي يبدأ في السطر ⁨%1⁩ غير مغلق بالعلامة «⁦*)⁩».</translation>
+    </message>
+    <message>
+        <source>The keyboard commands stand inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>توضع أوامر لوحة المفاتيح داخل «⁦tell application &quot;System Events&quot;⁩» … «⁦end tell⁩».</translation>
+    </message>
+    <message>
+        <source>Modifiers are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>تُعرف المفاتيح المغيِّرة داخل «⁦tell application &quot;System Events&quot;⁩» … «⁦end tell⁩».</translation>
+    </message>
+    <message>
+        <source>Processes are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>تُعرف العمليات داخل «⁦tell application &quot;System Events&quot;⁩» … «⁦end tell⁩».</translation>
+    </message>
+    <message>
+        <source>Put straight quotes (&quot;) in place of the curly ones.</source>
+        <translation>ضع علامات اقتباس مستقيمة (⁦&quot;⁩) مكان المنحنية.</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to 5.</source>
+        <translation>تُعيَّن قيمة المتغير بالكلمة «to»: ⁦set x to 5⁩.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat with i from 1 to 5 … end repeat.</source>
+        <translation>تُكتب الحلقة هكذا: ⁦repeat with i from 1 to 5 … end repeat⁩.</translation>
+    </message>
+    <message>
+        <source>A handler is written: on greet(x) … end greet.</source>
+        <translation>يُكتب المعالج هكذا: ⁦on greet(x) … end greet⁩.</translation>
+    </message>
+    <message>
+        <source>Several stand in braces: {control down, shift down}, {36, 48}.</source>
+        <translation>توضع القيم المتعددة بين قوسين متعرجين: ⁦{control down, shift down}⁩، ⁦{36, 48}⁩.</translation>
+    </message>
+    <message>
+        <source>These are two words: else if … then.</source>
+        <translation>تُكتب هذه كلمتين: ⁦else if … then⁩.</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, and Return joined with “&amp;”: keystroke &quot;hello&quot; &amp; return.</source>
+        <translation>يُكتب النص بالأمر «keystroke»، ويُضم المفتاح Return بالعلامة «&amp;»: ⁦keystroke &quot;hello&quot; &amp; return⁩.</translation>
+    </message>
+    <message>
+        <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
+        <translation>يُضغط المفتاح ويُحرَّر هكذا: ⁦keystroke return⁩، ⁦key code 53⁩. ويبقى مضغوطا هكذا: ⁦key down 36⁩، ويُحرَّر هكذا: ⁦key up 36⁩.</translation>
+    </message>
+    <message>
+        <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
+        <translation>ليس للماكرو فأرة؛ اضغط المفاتيح التي تؤدي الغرض نفسه، مثل Tab و Return.</translation>
+    </message>
+    <message>
+        <source>Conditions are joined with “and” or “or”.</source>
+        <translation>تُربط الشروط بالكلمة «and» أو «or».</translation>
+    </message>
+    <message>
+        <source>Of a process its name is known, and whether it is in front: every process whose name contains &quot;fire&quot;.</source>
+        <translation>يُعرف عن العملية اسمها وما إذا كانت في الأمام: ⁦every process whose name contains &quot;fire&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.</source>
+        <translation>لا يرى الماكرو النوافذ والأزرار والقوائم؛ اضغط المفاتيح التي تؤدي الغرض نفسه.</translation>
+    </message>
+    <message>
+        <source>Modifiers stand behind “using”: keystroke &quot;s&quot; using control down.</source>
+        <translation>توضع المفاتيح المغيِّرة بعد «using»: ⁦keystroke &quot;s&quot; using control down⁩.</translation>
+    </message>
+    <message>
+        <source>What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.</source>
+        <translation>يُكتب ما يتكرر عدة مرات في أسطر مستقلة بين «⁦repeat 5 times⁩» و«⁦end repeat⁩».</translation>
+    </message>
+    <message>
+        <source>Each statement has a line of its own.</source>
+        <translation>لكل أمر سطر مستقل.</translation>
+    </message>
+    <message>
+        <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
+        <translation>ليس للماكرو ملفات؛ يأتي النص من «the clipboard» أو من مربع حوار.</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to x + 1.</source>
+        <translation>تُعيَّن قيمة المتغير بالكلمة «to»: ⁦set x to x + 1⁩.</translation>
+    </message>
+    <message>
+        <source>A parenthesis is not closed in this line.</source>
+        <translation>يوجد في هذا السطر قوس غير مغلق.</translation>
+    </message>
+    <message>
+        <source>A brace is not closed in this line.</source>
+        <translation>يوجد في هذا السطر قوس متعرج غير مغلق.</translation>
+    </message>
+    <message>
+        <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>اضغط المفاتيح التي تبدأ البرنامج، أو اجلب نافذة إلى الأمام: ⁦tell application &quot;Firefox&quot; to activate⁩.</translation>
+    </message>
+    <message>
+        <source>Write the command by its name.</source>
+        <translation>اكتب الأمر باسمه.</translation>
+    </message>
+    <message>
+        <source>A shortcut is written: keystroke &quot;c&quot; using control down.</source>
+        <translation>يُكتب الاختصار هكذا: ⁦keystroke &quot;c&quot; using control down⁩.</translation>
+    </message>
+    <message>
+        <source>Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat.</source>
+        <translation>لا يُختار بالكلمة «whose» غير العمليات؛ ويُمر على عناصر القائمة هكذا: ⁦repeat with x in theList … end repeat⁩.</translation>
+    </message>
+    <message>
+        <source>Behind “default answer” stands a text, be it empty: default answer &quot;&quot;.</source>
+        <translation>يأتي بعد «default answer» نص وإن كان فارغا: ⁦default answer &quot;&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
+        <translation>ليس لعبارة «if» في سطر واحد «else»؛ اكتبها في عدة أسطر تنتهي بعبارة «end if».</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: 0.5.</source>
+        <translation>تُكتب الكسور العشرية بعد نقطة: ⁦0.5⁩.</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds, without a unit: delay 0.5.</source>
+        <translation>يعدّ الأمر «delay» الثواني، من دون وحدة: ⁦delay 0.5⁩.</translation>
+    </message>
+    <message>
+        <source>A key is let go with: key up &quot;a&quot;.</source>
+        <translation>يُحرَّر المفتاح هكذا: ⁦key up &quot;a&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, a key is pressed by its number: key code 36.</source>
+        <translation>يُكتب النص بالأمر «keystroke»، ويُضغط المفتاح برقمه: ⁦key code 36⁩.</translation>
+    </message>
+    <message>
+        <source>A key is held with “key down” and let go with “key up”: key down shift.</source>
+        <translation>يبقى المفتاح مضغوطا بالأمر «key down» ويُحرَّر بالأمر «key up»: ⁦key down shift⁩.</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is: the clipboard.</source>
+        <translation>يُكتب النص الموجود في الحافظة هكذا: ⁦the clipboard⁩.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat 5 times … end repeat.</source>
+        <translation>تُكتب الحلقة هكذا: ⁦repeat 5 times … end repeat⁩.</translation>
+    </message>
+    <message>
+        <source>Behind the name stands “to”, or the line ends there: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</source>
+        <translation>يأتي بعد الاسم «to» أو ينتهي السطر هناك: ⁦tell application &quot;System Events&quot; to keystroke &quot;a&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>The name stands between straight quotes: tell application &quot;System Events&quot;.</source>
+        <translation>يوضع الاسم بين علامتي اقتباس مستقيمتين: ⁦tell application &quot;System Events&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat while x &lt; 5 … end repeat.</source>
+        <translation>تُكتب الحلقة هكذا: ⁦repeat while x &lt; 5 … end repeat⁩.</translation>
+    </message>
+    <message>
+        <source>A comment begins with -- or #.</source>
+        <translation>يبدأ التعليق بالعلامة ⁦--⁩ أو ⁦#⁩.</translation>
+    </message>
+    <message>
+        <source>A comment over lines is written (* … *).</source>
+        <translation>يُكتب التعليق الممتد على عدة أسطر هكذا: ⁦(* … *)⁩.</translation>
+    </message>
+    <message>
+        <source>“Equal” is written with one =.</source>
+        <translation>تُكتب «يساوي» بعلامة ⁦=⁩ واحدة.</translation>
+    </message>
+    <message>
+        <source>A text is not closed by a straight quote.</source>
+        <translation>يوجد نص غير مغلق بعلامة اقتباس مستقيمة.</translation>
+    </message>
+    <message>
+        <source>A backslash in a text is written twice: &quot;C:\\Users&quot;.</source>
+        <translation>تُكتب الشرطة المائلة العكسية في النص مرتين: ⁦&quot;C:\\Users&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>Behind “as” stands a class: text, integer, real, number, boolean, list, record, date.</source>
+        <translation>يأتي بعد «as» صنف: ⁦text, integer, real, number, boolean, list, record, date⁩.</translation>
+    </message>
+    <message>
+        <source>A block has no braces: if x = 1 then … end if.</source>
+        <translation>ليس للكتلة أقواس متعرجة: ⁦if x = 1 then … end if⁩.</translation>
+    </message>
+    <message>
+        <source>A block has no braces; it ends with “end” and its first word: end repeat.</source>
+        <translation>ليس للكتلة أقواس متعرجة؛ فهي تنتهي بالكلمة «end» وكلمتها الأولى: ⁦end repeat⁩.</translation>
+    </message>
+    <message>
+        <source>A line needs no colon at its end.</source>
+        <translation>لا يحتاج السطر إلى نقطتين في آخره.</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|.</source>
+        <translation>يوضع الاسم الذي فيه حروف غير A إلى Z بين خطين عموديين: ⁦|%1|⁩.</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|. Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>يوضع الاسم الذي فيه حروف غير A إلى Z بين خطين عموديين: ⁦|%1|⁩. يوضع النص بين علامتي اقتباس مستقيمتين: ⁦&quot;%1&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>A sign that nobody sees stands here; delete it.</source>
+        <translation>يوجد هنا محرف لا يُرى؛ احذفه.</translation>
+    </message>
+    <message>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
+        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <translation>ليس الاختصار جزءا من السكربت؛ يُعيَّن في التفضيلات، أو لكل ماكرو في «وحدات الماكرو...».</translation>
+    </message>
+    <message>
+        <source>“Not equal” is written ≠ or /=.</source>
+        <translation>تُكتب «لا يساوي» هكذا: ⁦≠⁩ أو ⁦/=⁩.</translation>
+    </message>
+    <message>
+        <source>An item is taken by its number: item 1 of x.</source>
+        <translation>يؤخذ العنصر برقمه: ⁦item 1 of x⁩.</translation>
+    </message>
+    <message>
+        <source>What belongs to a value is taken with “of”: length of x.</source>
+        <translation>يؤخذ ما يتبع القيمة بالكلمة «of»: ⁦length of x⁩.</translation>
+    </message>
+    <message>
+        <source>A list stands in braces: {1, 2}.</source>
+        <translation>توضع القائمة بين قوسين متعرجين: ⁦{1, 2}⁩.</translation>
+    </message>
+    <message>
+        <source>The rest of a division is written: 7 mod 2.</source>
+        <translation>يُكتب باقي القسمة هكذا: ⁦7 mod 2⁩.</translation>
+    </message>
+    <message>
+        <source>Text stands between straight double quotes (&quot;).</source>
+        <translation>يوضع النص بين علامتي اقتباس مزدوجتين مستقيمتين (⁦&quot;⁩).</translation>
+    </message>
+    <message>
+        <source>A quote inside a text is written \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</source>
+        <translation>تُكتب علامة الاقتباس داخل النص ⁦\&quot;⁩: ⁦&quot;Hello \&quot;world\&quot;&quot;⁩.</translation>
+    </message>
+    <message>
+        <source>Take the items in parts, or paragraphs instead of characters.</source>
+        <translation>خذ العناصر على أجزاء، أو خذ الفقرات بدل المحارف.</translation>
+    </message>
+</context>
+<context>
+    <name>HotKeys</name>
+    <message>
+        <source>GNOME&apos;s settings cannot be changed</source>
+        <translation>يتعذر تغيير إعدادات GNOME</translation>
+    </message>
+    <message>
+        <source>your settings of GNOME have another entry in its place</source>
+        <translation>في إعداداتك في GNOME مدخلة أخرى مكانه</translation>
+    </message>
+    <message>
+        <source>your own shortcut “%1” in GNOME&apos;s settings has it</source>
+        <translation>يستخدمه اختصارك المخصص «⁨%1⁩» في إعدادات GNOME</translation>
+    </message>
+    <message>
+        <source>GNOME has it for “%1”</source>
+        <translation>يستخدمه GNOME من أجل «⁨%1⁩»</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
+        <translation>لا يتيح GNOME الاختصارات العامة إلا في إعداداتك أنت، وغير مسموح لبرنامج Keyrill بتغييرها</translation>
+    </message>
+    <message>
+        <source>GNOME has no name for it</source>
+        <translation>لا اسم له في GNOME</translation>
+    </message>
+    <message>
+        <source>it has been taken out of GNOME&apos;s settings</source>
+        <translation>أُزيل من إعدادات GNOME</translation>
+    </message>
+    <message>
+        <source>KDE has no name for this key</source>
+        <translation>لا اسم لهذا المفتاح في KDE</translation>
+    </message>
+    <message>
+        <source>KDE says: %1</source>
+        <translation>يقول KDE: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>KDE uses it for something else</source>
+        <translation>يستخدمه KDE لشيء آخر</translation>
+    </message>
+    <message>
+        <source>KDE does not give it</source>
+        <translation>لا يتيحه KDE</translation>
+    </message>
+    <message>
+        <source>%1 has it for “%2”</source>
+        <translation>يستخدمه ⁨%1⁩ من أجل «⁨%2⁩»</translation>
+    </message>
+    <message>
+        <source>the desktop has not granted it</source>
+        <translation>لم يمنحه سطح المكتب</translation>
+    </message>
+    <message>
+        <source>you did not agree when the desktop asked</source>
+        <translation>لم توافق عندما سألك سطح المكتب</translation>
+    </message>
+    <message>
+        <source>the desktop has not answered</source>
+        <translation>لم يستجب سطح المكتب</translation>
+    </message>
+    <message>
+        <source>the desktop has refused it</source>
+        <translation>رفضه سطح المكتب</translation>
+    </message>
+    <message>
+        <source>there is no session bus</source>
+        <translation>لا يوجد ناقل جلسة</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal does not answer</source>
+        <translation>بوابة سطح المكتب لا تستجيب</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal gives no hot keys</source>
+        <translation>لا تتيح بوابة سطح المكتب اختصارات عامة</translation>
+    </message>
+    <message>
+        <source>the desktop has taken it back</source>
+        <translation>سحبه سطح المكتب</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal has ended</source>
+        <translation>انتهت بوابة سطح المكتب</translation>
+    </message>
+    <message>
+        <source>your configuration of sway binds it</source>
+        <translation>يربطه ضبطك الخاص ببرنامج sway</translation>
+    </message>
+    <message>
+        <source>Choose another combination.</source>
+        <translation>اختر توليفة أخرى.</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or allow it in the desktop&apos;s settings.</source>
+        <translation>اختر توليفة أخرى، أو اسمح بهذه في إعدادات سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or free it in the program that holds it.</source>
+        <translation>اختر توليفة أخرى، أو حرّر هذه في البرنامج الذي يحجزها.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: %2.</source>
+        <extracomment>%1 is a combination of keys, %2 one of the reasons: another program holds it</extracomment>
+        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the third level (AltGr).</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: ليس في تخطيط لوحة المفاتيح مفتاح للمستوى الثالث (AltGr).</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the fifth level.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: ليس في تخطيط لوحة المفاتيح مفتاح للمستوى الخامس.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for %2.</source>
+        <extracomment>%1 is a combination of keys, %2 a modifier: Super</extracomment>
+        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: ليس في تخطيط لوحة المفاتيح مفتاح ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: Keyrill uses it for something else.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: يستخدمه Keyrill لشيء آخر.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: this desktop has no such key.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: ليس في سطح المكتب هذا مفتاح كهذا.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: nobody could type it any more.</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>لا يمكن استخدام المفتاح ⁨%1⁩: لن يستطيع أحد كتابته بعد ذلك.</translation>
+    </message>
+    <message>
+        <source>Add Ctrl, Alt or Super.</source>
+        <translation>أضف Ctrl أو Alt أو Super.</translation>
+    </message>
+    <message>
+        <source>This compositor gives no hot keys to programs.</source>
+        <translation>لا يتيح هذا المُركِّب اختصارات عامة للبرامج.</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
+        <translation>اربط المفاتيح بأوامر في إعدادات المُركِّب نفسه.</translation>
+    </message>
+    <message>
+        <source>this compositor gives no hot keys to programs</source>
+        <translation>لا يتيح هذا المُركِّب اختصارات عامة للبرامج</translation>
+    </message>
+    <message>
+        <source>another program holds it</source>
+        <translation>يحجزه برنامج آخر</translation>
+    </message>
+    <message>
+        <source>the X server refuses it with error %1</source>
+        <translation>يرفضه خادم X بالخطأ ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>the X server is gone</source>
+        <translation>اختفى خادم X</translation>
+    </message>
+</context>
+<context>
+    <name>Keyboards</name>
+    <message>
+        <source>The keyboard cannot be read: %1: %2.</source>
+        <translation>تتعذر قراءة لوحة المفاتيح: ⁨%1⁩: ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>Let the keyboard be read while a macro is recorded.</source>
+        <translation>اسمح بقراءة لوحة المفاتيح أثناء تسجيل ماكرو.</translation>
+    </message>
+    <message>
+        <source>The keyboard can no longer be read: the permission has ended.</source>
+        <translation>لم تعد قراءة لوحة المفاتيح ممكنة: انتهى الإذن.</translation>
+    </message>
+    <message>
+        <source>Another user&apos;s session may be in front, or the screen is locked.</source>
+        <translation>ربما كانت جلسة مستخدم آخر في المقدمة، أو كانت الشاشة مقفلة.</translation>
+    </message>
+    <message>
+        <source>The keyboard cannot be read: there is no system bus.</source>
+        <translation>تتعذر قراءة لوحة المفاتيح: لا يوجد ناقل نظام.</translation>
+    </message>
+    <message>
+        <source>What it says stands in the system&apos;s journal: journalctl -u keyrill-access.</source>
+        <translation>رسائل الخدمة موجودة في سجل النظام: journalctl -u keyrill-access.</translation>
+    </message>
+    <message>
+        <source>The keyboard is no longer read: the service keyrill-access has ended.</source>
+        <translation>لم تعد لوحة المفاتيح تُقرأ: انتهت الخدمة keyrill-access.</translation>
+    </message>
+    <message>
+        <source>Keyrill may not read the keyboard: permission was not given.</source>
+        <translation>لا يُسمح لبرنامج Keyrill بقراءة لوحة المفاتيح: لم يُمنح الإذن.</translation>
+    </message>
+    <message>
+        <source>Record again and agree when you are asked for your password.</source>
+        <translation>سجّل من جديد ووافق عندما تُطلب منك كلمة السر.</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access is not installed.</source>
+        <translation>لا يستطيع Keyrill قراءة لوحة المفاتيح: الخدمة keyrill-access غير مثبتة.</translation>
+    </message>
+    <message>
+        <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, tools/access install.</source>
+        <translation>ثبّت الحزمة keyrill-wayland-access، أو نفّذ tools/access install من مصادر Keyrill.</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access does not work.</source>
+        <translation>لا يستطيع Keyrill قراءة لوحة المفاتيح: الخدمة keyrill-access لا تعمل.</translation>
+    </message>
+    <message>
+        <source>A Wayland session shows this program nothing of what is typed in others.</source>
+        <translation>لا تُظهر جلسة Wayland لهذا البرنامج شيئا مما يُكتب في غيره.</translation>
+    </message>
+    <message>
+        <source>Record with keyrill itself, or use an X11 session.</source>
+        <translation>سجّل بالبرنامج keyrill نفسه، أو استخدم جلسة X11.</translation>
+    </message>
+</context>
+<context>
+    <name>Keys</name>
+    <message>
+        <source>This desktop lets no program press keys: no portal for it answers.</source>
+        <translation>لا يسمح سطح المكتب هذا لأي برنامج بضغط المفاتيح: لا تستجيب أي بوابة مخصصة لذلك.</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the part of it that belongs to your desktop.</source>
+        <translation>ثبّت xdg-desktop-portal والجزء الخاص بسطح مكتبك منه.</translation>
+    </message>
+    <message>
+        <source>The desktop was not allowed to let Keyrill press keys.</source>
+        <translation>لم يُسمح لسطح المكتب بأن يتيح لبرنامج Keyrill ضغط المفاتيح.</translation>
+    </message>
+    <message>
+        <source>Play again, and agree when you are asked.</source>
+        <translation>شغّل الماكرو من جديد، ووافق عندما تُسأل.</translation>
+    </message>
+    <message>
+        <source>The desktop has not answered whether Keyrill may press keys.</source>
+        <translation>لم يُجب سطح المكتب عما إذا كان يُسمح لبرنامج Keyrill بضغط المفاتيح.</translation>
+    </message>
+    <message>
+        <source>Play again; if nothing asks you, log in again.</source>
+        <translation>شغّل الماكرو من جديد؛ وإذا لم تُسأل عن شيء، فأعد الولوج.</translation>
+    </message>
+    <message>
+        <source>The desktop no longer lets Keyrill press keys.</source>
+        <translation>لم يعد سطح المكتب يسمح لبرنامج Keyrill بضغط المفاتيح.</translation>
+    </message>
+    <message>
+        <source>Play again; it may ask for your permission.</source>
+        <translation>شغّل الماكرو من جديد؛ قد يُطلب إذنك.</translation>
+    </message>
+    <message>
+        <source>The power key cannot be pressed by a script.</source>
+        <translation>لا يمكن لسكربت أن يضغط مفتاح الطاقة.</translation>
+    </message>
+    <message>
+        <source>Take key code 127 out of the script.</source>
+        <translation>أزل رمز المفتاح 127 من السكربت.</translation>
+    </message>
+    <message>
+        <source>The text to type is not UTF-8 at byte %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>النص المراد كتابته ليس بترميز UTF-8 عند البايت ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Save the script as UTF-8.</source>
+        <translation>احفظ السكربت بترميز UTF-8.</translation>
+    </message>
+    <message>
+        <source>&quot;%1...&quot;</source>
+        <extracomment>The beginning of a text that is longer, in quotation marks.</extracomment>
+        <translation>«⁨%1...⁩»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <extracomment>A text in quotation marks.</extracomment>
+        <translation>«⁨%1⁩»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2)</source>
+        <extracomment>%1 is a character, %2 its code: U+00E9</extracomment>
+        <translation>«⁨%1⁩» (⁨%2⁩)</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with the keyboard layout that is in force.</source>
+        <translation>لا يمكن كتابة المحرف ⁨%1⁩ بتخطيط لوحة المفاتيح الحالي.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or switch to a layout that has it before you play.</source>
+        <translation>أزله من النص، أو انتقل إلى تخطيط يحتويه قبل التشغيل.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with your keyboard layouts.</source>
+        <translation>لا يمكن كتابة المحرف ⁨%1⁩ بتخطيطات لوحة مفاتيحك.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or add a layout that has it.</source>
+        <translation>أزله من النص، أو أضف تخطيطا يحتويه.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with this keyboard layout.</source>
+        <translation>لا يمكن كتابة المحرف ⁨%1⁩ بتخطيط لوحة المفاتيح هذا.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or set a layout that has it.</source>
+        <translation>أزله من النص، أو عيّن تخطيطا يحتويه.</translation>
+    </message>
+    <message>
+        <source>The keymap for typing could not be made.</source>
+        <translation>تعذر إنشاء خريطة المفاتيح للكتابة.</translation>
+    </message>
+    <message>
+        <source>This compositor lets no program press keys.</source>
+        <translation>لا يسمح هذا المُركِّب لأي برنامج بضغط المفاتيح.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, or an X11 session.</source>
+        <translation>استخدم مُركِّبا فيه لوحات مفاتيح افتراضية مثل sway، أو جلسة X11.</translation>
+    </message>
+    <message>
+        <source>A script is running already.</source>
+        <translation>يعمل سكربت بالفعل.</translation>
+    </message>
+    <message>
+        <source>Wait for its end.</source>
+        <translation>انتظر حتى ينتهي.</translation>
+    </message>
+    <message>
+        <source>The key %1 types no character.</source>
+        <translation>لا يكتب المفتاح ⁨%1⁩ أي محرف.</translation>
+    </message>
+    <message>
+        <source>A Wayland session has no bell.</source>
+        <translation>ليس في جلسة Wayland جرس.</translation>
+    </message>
+    <message>
+        <source>Take the beep out of the script.</source>
+        <translation>أزل الصفير من السكربت.</translation>
+    </message>
+    <message>
+        <source>KDE lets no program press keys: its portal does not answer.</source>
+        <translation>لا يسمح KDE لأي برنامج بضغط المفاتيح: بوابته لا تستجيب.</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal-kde, or use an X11 session.</source>
+        <translation>ثبّت xdg-desktop-portal-kde، أو استخدم جلسة X11.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, a desktop whose portal presses keys, such as KDE and GNOME, or an X11 session.</source>
+        <translation>استخدم مُركِّبا فيه لوحات مفاتيح افتراضية مثل sway، أو سطح مكتب تضغط بوابته المفاتيح مثل KDE و GNOME، أو جلسة X11.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout was changed while text was typed, which may have arrived as something else: %1.</source>
+        <translation>تغيّر تخطيط لوحة المفاتيح أثناء كتابة نص، وربما وصل النص مختلفا: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Play it again when the layout stays as it is.</source>
+        <translation>شغّل الماكرو من جديد عندما يبقى التخطيط كما هو.</translation>
+    </message>
+    <message>
+        <source>Another program holds the keyboard, so that no keys can be pressed.</source>
+        <translation>يحجز برنامج آخر لوحة المفاتيح، فلا يمكن ضغط أي مفتاح.</translation>
+    </message>
+    <message>
+        <source>Close the menu, the question or the screen lock that is open, and play again.</source>
+        <translation>أغلق القائمة أو السؤال المفتوح، أو ألغِ قفل الشاشة، ثم شغّل الماكرو من جديد.</translation>
+    </message>
+    <message>
+        <source>The X server refuses to put characters on unused keys.</source>
+        <translation>يرفض خادم X وضع محارف على المفاتيح غير المستخدمة.</translation>
+    </message>
+    <message>
+        <source>Use characters of the keyboard layout, or set another layout.</source>
+        <translation>استخدم محارف من تخطيط لوحة المفاتيح، أو عيّن تخطيطا آخر.</translation>
+    </message>
+    <message>
+        <source>The program that is typed into reads nothing; not typed: %1.</source>
+        <translation>البرنامج الذي تُوجَّه إليه الكتابة لا يقرأ شيئا؛ لم يُكتب: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Play it again when the program reads its keys.</source>
+        <translation>شغّل الماكرو من جديد عندما يقرأ البرنامج مفاتيحه.</translation>
+    </message>
+    <message>
+        <source>The program that was typed into has not read all of it.</source>
+        <translation>لم يقرأ البرنامج الذي وُجِّهت إليه الكتابة كل ما كُتب.</translation>
+    </message>
+    <message>
+        <source>See whether it hangs; what it reads later may lack characters.</source>
+        <translation>تحقق مما إذا كان البرنامج معلّقا؛ قد تنقص محارف مما يقرؤه لاحقا.</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.</source>
+        <translation>لا يمكن تسجيل التكرار التلقائي للمفاتيح المضغوطة مطولا: ليس لخادم X الامتداد RECORD.</translation>
+    </message>
+    <message>
+        <source>A held key is recorded as one press. Switch the extension on in the settings of the X server.</source>
+        <translation>يُسجَّل المفتاح المضغوط مطولا ضغطة واحدة. فعّل الامتداد في إعدادات خادم X.</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys can no longer be recorded: the X server has ended it.</source>
+        <translation>لم يعد تسجيل التكرار التلقائي للمفاتيح المضغوطة مطولا ممكنا: أنهاه خادم X.</translation>
     </message>
 </context>
 <context>
@@ -808,6 +1799,64 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>No key of the present keyboard layout types &quot;%1&quot;.</source>
+        <extracomment>%1 is a character.</extracomment>
+        <translation>لا يكتب أي مفتاح في تخطيط لوحة المفاتيح الحالي «⁨%1⁩».</translation>
+    </message>
+    <message>
+        <source>Convert the keys to text, which types any character.</source>
+        <translation>حوّل المفاتيح إلى نص، فهو يكتب أي محرف.</translation>
+    </message>
+    <message>
+        <source>GNOME lets no program switch the keyboard layout.</source>
+        <translation>لا يسمح GNOME لأي برنامج بتبديل تخطيط لوحة المفاتيح.</translation>
+    </message>
+    <message>
+        <source>The desktop has no keyboard layout of that number.</source>
+        <translation>ليس في سطح المكتب تخطيط لوحة مفاتيح بهذا الرقم.</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program switch the keyboard layout.</source>
+        <translation>لا يسمح سطح المكتب هذا لأي برنامج بتبديل تخطيط لوحة المفاتيح.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the third level (AltGr).</source>
+        <translation>ليس في تخطيط لوحة المفاتيح مفتاح للمستوى الثالث (AltGr).</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the fifth level.</source>
+        <translation>ليس في تخطيط لوحة المفاتيح مفتاح للمستوى الخامس.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for %1.</source>
+        <extracomment>%1 is a modifier: Super</extracomment>
+        <translation>ليس في تخطيط لوحة المفاتيح مفتاح ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Choose a keyboard layout that has one.</source>
+        <translation>اختر تخطيط لوحة مفاتيح فيه هذا المفتاح.</translation>
+    </message>
+    <message>
+        <source>The keyboard has no layout %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>ليس للوحة المفاتيح التخطيط ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Add it to the keyboard layouts, or record the macro again.</source>
+        <translation>أضفه إلى تخطيطات لوحة المفاتيح، أو سجّل الماكرو من جديد.</translation>
+    </message>
+    <message>
+        <source>The keymap of the X server cannot be read.</source>
+        <translation>تتعذر قراءة خريطة المفاتيح من خادم X.</translation>
+    </message>
+    <message>
+        <source>Set a keyboard layout, or log in again.</source>
+        <translation>عيّن تخطيطا للوحة المفاتيح، أو أعد الولوج.</translation>
+    </message>
+</context>
+<context>
     <name>LibraryController</name>
     <message>
         <source>&quot;%1&quot; was not played</source>
@@ -820,6 +1869,36 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>The history</source>
         <translation>السجل</translation>
+    </message>
+</context>
+<context>
+    <name>LogIn</name>
+    <message>
+        <source>The file %1 cannot be removed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>تتعذر إزالة الملف ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Check who may write in its folder.</source>
+        <translation>تحقق ممن يحق له الكتابة في مجلده.</translation>
+    </message>
+    <message>
+        <source>A program whose path has a percent sign cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>لا يمكن أن يُبدأ عند الولوج برنامج في مساره علامة النسبة المئوية: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Move the program to a folder without one.</source>
+        <translation>انقل البرنامج إلى مجلد ليس في مساره هذه العلامة.</translation>
+    </message>
+    <message>
+        <source>A program whose path is not UTF-8 cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>لا يمكن أن يُبدأ عند الولوج برنامج مساره ليس بترميز UTF-8: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Move the program to another folder.</source>
+        <translation>انقل البرنامج إلى مجلد آخر.</translation>
     </message>
 </context>
 <context>
@@ -1386,6 +2465,38 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
 </context>
 <context>
+    <name>Programs</name>
+    <message>
+        <source>The program &quot;%1&quot;, which presses keys by the desktop&apos;s portal, could not be started.</source>
+        <translation>تعذر بدء البرنامج «⁨%1⁩»، الذي يضغط المفاتيح عبر بوابة سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>Install the program again.</source>
+        <translation>ثبّت البرنامج من جديد.</translation>
+    </message>
+    <message>
+        <source>A text with a zero byte cannot be opened.</source>
+        <translation>لا يمكن فتح نص فيه بايت صفري.</translation>
+    </message>
+    <message>
+        <source>The program xdg-open cannot be started: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>يتعذر بدء البرنامج xdg-open: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Install the package xdg-utils.</source>
+        <translation>ثبّت الحزمة xdg-utils.</translation>
+    </message>
+    <message>
+        <source>The guard program &quot;%1&quot;, which releases keys after a crash, could not be started.</source>
+        <translation>تعذر بدء برنامج الحراسة «⁨%1⁩»، الذي يُفلت المفاتيح بعد الانهيار.</translation>
+    </message>
+    <message>
+        <source>Install the program again; nothing is played without its guard.</source>
+        <translation>ثبّت البرنامج من جديد؛ لا يُشغَّل شيء من دون برنامج الحراسة.</translation>
+    </message>
+</context>
+<context>
     <name>RecordHerePanel</name>
     <message>
         <source>Record Here</source>
@@ -1549,6 +2660,121 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
 </context>
 <context>
+    <name>Session</name>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>لا يوجد ناقل جلسة.</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>أعد الولوج.</translation>
+    </message>
+    <message>
+        <source>sway does not answer at $SWAYSOCK.</source>
+        <translation>لا يستجيب sway عند ⁨$SWAYSOCK⁩.</translation>
+    </message>
+    <message>
+        <source>Start the program in the session of sway.</source>
+        <translation>ابدأ البرنامج في جلسة sway.</translation>
+    </message>
+    <message>
+        <source>sway says: %1</source>
+        <translation>يقول sway: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>There is no kind of session called &quot;%1&quot;.</source>
+        <translation>لا يوجد نوع جلسة باسم «⁨%1⁩».</translation>
+    </message>
+    <message>
+        <source>Choose one of these: %1.</source>
+        <translation>اختر واحدا من هذه: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>No kind of session is known.</source>
+        <translation>لا يوجد أي نوع جلسة معروف.</translation>
+    </message>
+    <message>
+        <source>The connection to the compositor was lost.</source>
+        <translation>فُقد الاتصال بالمُركِّب.</translation>
+    </message>
+    <message>
+        <source>No Wayland compositor answers at $WAYLAND_DISPLAY.</source>
+        <translation>لا يستجيب أي مُركِّب Wayland عند ⁨$WAYLAND_DISPLAY⁩.</translation>
+    </message>
+    <message>
+        <source>Start the program in a Wayland session.</source>
+        <translation>ابدأ البرنامج في جلسة Wayland.</translation>
+    </message>
+    <message>
+        <source>The Wayland compositor is gone.</source>
+        <translation>اختفى مُركِّب Wayland.</translation>
+    </message>
+    <message>
+        <source>$WAYLAND_DISPLAY names no Wayland compositor.</source>
+        <translation>لا يشير ⁨$WAYLAND_DISPLAY⁩ إلى أي مُركِّب Wayland.</translation>
+    </message>
+    <message>
+        <source>The X server is gone.</source>
+        <translation>اختفى خادم X.</translation>
+    </message>
+    <message>
+        <source>This is a Wayland session without an X server.</source>
+        <translation>هذه جلسة Wayland دون خادم X.</translation>
+    </message>
+    <message>
+        <source>Install Xwayland, or switch it on in the desktop&apos;s settings, and log in again; or choose an X11 session when you log in.</source>
+        <translation>ثبّت Xwayland، أو فعّله في إعدادات سطح المكتب، ثم أعد الولوج؛ أو اختر جلسة X11 عند الولوج.</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is no desktop session.</source>
+        <translation>تلزم جلسة X11، وهذه ليست جلسة رسومية.</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is a Wayland session without an X server.</source>
+        <translation>تلزم جلسة X11، وهذه جلسة Wayland دون خادم X.</translation>
+    </message>
+    <message>
+        <source>Choose an X11 session when you log in.</source>
+        <translation>اختر جلسة X11 عند الولوج.</translation>
+    </message>
+    <message>
+        <source>The connection to the X server was lost.</source>
+        <translation>فُقد الاتصال بخادم X.</translation>
+    </message>
+    <message>
+        <source>Use a newer X server, or switch the extension on in its settings.</source>
+        <translation>استخدم خادم X أحدث، أو فعّل الامتداد في إعداداته.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has no XInput.</source>
+        <translation>يجب أن يكون لخادم X الامتداد XInput 2.2 أو أحدث، لكن ليس له XInput.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but does not answer.</source>
+        <translation>يجب أن يكون لخادم X الامتداد XInput 2.2 أو أحدث، لكنه لا يستجيب.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has %1.</source>
+        <translation>يجب أن يكون لخادم X الامتداد XInput 2.2 أو أحدث، لكن ما لديه هو ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The X server must have the XKB extension, but it cannot be used.</source>
+        <translation>يجب أن يكون لخادم X الامتداد XKB، لكن لا يمكن استخدامه.</translation>
+    </message>
+    <message>
+        <source>The X server must have the XTEST extension, but it has not.</source>
+        <translation>يجب أن يكون لخادم X الامتداد XTEST، لكنه ينقصه.</translation>
+    </message>
+    <message>
+        <source>The X server of display &quot;%1&quot; cannot be reached.</source>
+        <translation>يتعذر الوصول إلى خادم X لشاشة العرض «⁨%1⁩».</translation>
+    </message>
+    <message>
+        <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
+        <translation>ابدأ البرنامج داخل جلسة رسومية، أو اضبط DISPLAY على خادم X عامل.</translation>
+    </message>
+</context>
+<context>
     <name>SessionReport</name>
     <message>
         <source>, </source>
@@ -1686,6 +2912,72 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
         <source>%1; %2</source>
         <extracomment>the keyboard layouts, and the locks that are on</extracomment>
         <translation>%1؛ %2</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>It has a zero byte</source>
+        <translation>فيه بايت صفري</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>ملف الإعدادات ⁨%1⁩ ليس ملف مفاتيح وقيم: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>ملف إعدادات الماكرو ⁨%1⁩ ليس ملف مفاتيح وقيم: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>The settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>يتعذر إنشاء مجلد الإعدادات ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>The macro settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>يتعذر إنشاء مجلد إعدادات الماكرو ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and the settings begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>غُيِّر اسمه إلى ⁨%1⁩، وتبدأ الإعدادات من جديد.</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and hot keys, times and speeds begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>غُيِّر اسمه إلى ⁨%1⁩، وتبدأ الاختصارات وأعداد المرات والسرعات من جديد.</translation>
+    </message>
+    <message>
+        <source>Correct the file or remove it.</source>
+        <translation>صحّح الملف أو أزله.</translation>
+    </message>
+    <message>
+        <source>It could not be put aside either: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>تعذرت تنحيته جانبا أيضا: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>تتعذر قراءة ملف الإعدادات ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>تتعذر قراءة ملف إعدادات الماكرو ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>تتعذر كتابة ملف الإعدادات ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>تتعذر كتابة ملف إعدادات الماكرو ⁨%1⁩: ⁨%2⁩</translation>
     </message>
 </context>
 <context>
@@ -1966,6 +3258,70 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
 </context>
 <context>
+    <name>Warnings</name>
+    <message>
+        <source>This is typed as it stands; the key has a number: key code %1.</source>
+        <translation>يُكتب هذا كما هو؛ ولهذا المفتاح رقم: ⁦key code %1⁩.</translation>
+    </message>
+    <message>
+        <source>“%1” is typed as it stands. %2</source>
+        <extracomment>%1 is the name of a key in braces, %2 a sentence that says how the key is written.</extracomment>
+        <translation>يُكتب «⁨%1⁩» كما هو. ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Key code %1 is an extension, which only Keyrill plays.</source>
+        <translation>رمز المفتاح ⁨%1⁩ إضافة لا يشغّلها إلا Keyrill.</translation>
+    </message>
+    <message>
+        <source>Key code %1 has no key; nothing is pressed.</source>
+        <translation>ليس لرمز المفتاح ⁨%1⁩ مفتاح؛ فلا يُضغط شيء.</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record and no text; take: button returned of %1, or text returned of %1.</source>
+        <translation>يعيد مربع الحوار سجلا (record) لا نصا؛ خذ: ⁦button returned of %1⁩، أو ⁦text returned of %1⁩.</translation>
+    </message>
+    <message>
+        <source>An alert gives a record and no text; take: button returned of %1.</source>
+        <translation>يعيد التنبيه سجلا (record) لا نصا؛ خذ: ⁦button returned of %1⁩.</translation>
+    </message>
+    <message>
+        <source>What was chosen comes in a list; take: item 1 of %1.</source>
+        <translation>يأتي ما اختير في قائمة؛ خذ: ⁦item 1 of %1⁩.</translation>
+    </message>
+    <message>
+        <source>The loop gives a reference, which equals no text; compare: contents of %1.</source>
+        <translation>تعطي الحلقة مرجعا لا يساوي أي نص؛ قارن: ⁦contents of %1⁩.</translation>
+    </message>
+    <message>
+        <source>“%1” is taken as “%1 down”.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>يُعامل «⁨%1⁩» على أنه «⁦%1 down⁩».</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to what “%2” is given; put parentheses round the command: (%2 …) %1 ….</source>
+        <extracomment>%1 is an operator, &quot;&gt;&quot;, %2 a command, &quot;count&quot;.</extracomment>
+        <translation>تتبع العلامة «⁨%1⁩» ما يُعطى للأمر «⁨%2⁩»؛ ضع الأمر بين قوسين: ⁦(%2 …) %1 …⁩.</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds; %1 milliseconds are: delay %2.</source>
+        <translation>يعدّ الأمر «delay» الثواني؛ وتُكتب ⁨%1⁩ ملي ثانية هكذا: ⁦delay %2⁩.</translation>
+    </message>
+    <message>
+        <source>This is typed as it stands; a shortcut is written: keystroke &quot;%1&quot; using %2 down.</source>
+        <extracomment>%1 is a letter, %2 the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>يُكتب هذا كما هو؛ أما الاختصار فيُكتب هكذا: ⁦keystroke &quot;%1&quot; using %2 down⁩.</translation>
+    </message>
+    <message>
+        <source>A modifier is held with: key down shift, without quotes.</source>
+        <translation>يبقى المفتاح المغيِّر مضغوطا هكذا، من دون علامتي اقتباس: ⁦key down shift⁩.</translation>
+    </message>
+    <message>
+        <source>The variable %1 is never set. %2</source>
+        <extracomment>%2 is a sentence that says what may have been meant.</extracomment>
+        <translation>لا تُعيَّن قيمة المتغير ⁨%1⁩ أبدا. ⁨%2⁩</translation>
+    </message>
+</context>
+<context>
     <name>WelcomePanel</name>
     <message>
         <source>%1.</source>
@@ -2022,6 +3378,53 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>Not set</source>
         <translation>غير محدد</translation>
+    </message>
+</context>
+<context>
+    <name>Windows</name>
+    <message>
+        <source>KWin does not tell of its windows.</source>
+        <translation>لا يخبر KWin بشيء عن نوافذه.</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>أعد الولوج.</translation>
+    </message>
+    <message>
+        <source>No file could be written for KWin.</source>
+        <translation>تعذرت كتابة أي ملف لبرنامج KWin.</translation>
+    </message>
+    <message>
+        <source>Free some space.</source>
+        <translation>أفرغ بعض المساحة.</translation>
+    </message>
+    <message>
+        <source>KWin runs no scripts: %1</source>
+        <translation>لا ينفّذ KWin أي سكربت: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>KWin does not show the window any more.</source>
+        <translation>لم يعد KWin يُظهر النافذة.</translation>
+    </message>
+    <message>
+        <source>Open it again.</source>
+        <translation>افتحها من جديد.</translation>
+    </message>
+    <message>
+        <source>This compositor tells nobody of windows.</source>
+        <translation>لا يخبر هذا المُركِّب أحدا عن النوافذ.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with toplevel management, such as sway, or an X11 session.</source>
+        <translation>استخدم مُركِّبا فيه إدارة نوافذ المستوى الأعلى مثل sway، أو جلسة X11.</translation>
+    </message>
+    <message>
+        <source>No window of “%1” is open.</source>
+        <translation>لا توجد نافذة مفتوحة للبرنامج «⁨%1⁩».</translation>
+    </message>
+    <message>
+        <source>Start it first.</source>
+        <translation>ابدأه أولا.</translation>
     </message>
 </context>
 </TS>

@@ -515,6 +515,33 @@ Sie können sich in den Einstellungen von Keyrill anders entscheiden.</translati
     </message>
 </context>
 <context>
+    <name>Clipboard</name>
+    <message>
+        <source>This compositor gives the clipboard to windows alone.</source>
+        <translation>Dieser Compositor gibt die Zwischenablage nur an Fenster weiter.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with data control, such as sway, or an X11 session.</source>
+        <translation>Verwenden Sie einen Compositor mit Datensteuerung (data control), etwa sway, oder eine X11-Sitzung.</translation>
+    </message>
+    <message>
+        <source>No more files can be opened.</source>
+        <translation>Es können keine weiteren Dateien geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Close programs.</source>
+        <translation>Beenden Sie einige Programme.</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is too long.</source>
+        <translation>Der Text in der Zwischenablage ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The clipboard is held by another program.</source>
+        <translation>Die Zwischenablage wird von einem anderen Programm belegt.</translation>
+    </message>
+</context>
+<context>
     <name>CombinationText</name>
     <message>
         <source>Ctrl</source>
@@ -531,6 +558,10 @@ Sie können sich in den Einstellungen von Keyrill anders entscheiden.</translati
     <message>
         <source>Super</source>
         <translation>Super</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Strg</translation>
     </message>
 </context>
 <context>
@@ -690,6 +721,80 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
 </context>
 <context>
+    <name>Files</name>
+    <message>
+        <source>Line %1 has the byte %2 at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is a code: 0xE9</extracomment>
+        <translation>Zeile %1 enthält an Stelle %3 das Byte %2, eine Makrodatei kann jedoch nur ASCII enthalten.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character (%2) at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is the code of a character that cannot be shown: U+0085</extracomment>
+        <translation>Zeile %1 enthält an Stelle %3 das Zeichen (%2), eine Makrodatei kann jedoch nur ASCII enthalten.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character &quot;%2&quot; (%3) at place %4, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %4 are numbers, %2 is a character, %3 its code: U+00E9</extracomment>
+        <translation>Zeile %1 enthält an Stelle %4 das Zeichen „%2“ (%3), eine Makrodatei kann jedoch nur ASCII enthalten.</translation>
+    </message>
+    <message>
+        <source>Replace the character in the macro.</source>
+        <translation>Ersetzen Sie das Zeichen im Makro.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be deleted: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Die Datei %1 kann nicht gelöscht werden: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write to its folder, or delete it yourself.</source>
+        <translation>Prüfen Sie, wer in den Ordner der Datei schreiben darf, oder löschen Sie sie selbst.</translation>
+    </message>
+    <message>
+        <source>It is a folder</source>
+        <translation>Es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Es ist keine reguläre Datei</translation>
+    </message>
+    <message>
+        <source>Choose a file.</source>
+        <translation>Wählen Sie eine Datei.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Die Datei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Die Datei %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>It is larger than %1 MiB</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Sie ist größer als %1 MiB</translation>
+    </message>
+    <message>
+        <source>Choose a smaller file.</source>
+        <translation>Wählen Sie eine kleinere Datei.</translation>
+    </message>
+    <message>
+        <source>Choose another name.</source>
+        <translation>Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Check that the file is there and who may read it.</source>
+        <translation>Prüfen Sie, ob die Datei vorhanden ist und wer sie lesen darf.</translation>
+    </message>
+    <message>
+        <source>Make room, check who may write there, or choose another place.</source>
+        <translation>Schaffen Sie Platz, prüfen Sie, wer dort schreiben darf, oder wählen Sie einen anderen Ort.</translation>
+    </message>
+</context>
+<context>
     <name>FilesDesk</name>
     <message>
         <source>&quot;%1&quot; was not loaded</source>
@@ -718,6 +823,892 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     <message>
         <source>Press %1 to play it.</source>
         <translation>Drücken Sie %1, um es abzuspielen.</translation>
+    </message>
+</context>
+<context>
+    <name>Folders</name>
+    <message>
+        <source>The folder %1 cannot be made: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Der Ordner %1 kann nicht angelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write there.</source>
+        <translation>Prüfen Sie, wer dort schreiben darf.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be read: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Der Ordner %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>Check who may read it.</source>
+        <translation>Prüfen Sie, wer ihn lesen darf.</translation>
+    </message>
+    <message>
+        <source>What changes in the folder %1 is not noticed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Änderungen im Ordner %1 werden nicht bemerkt: %2</translation>
+    </message>
+    <message>
+        <source>Start Keyrill again after changes, or raise fs.inotify.max_user_watches.</source>
+        <translation>Starten Sie Keyrill nach Änderungen erneut oder erhöhen Sie fs.inotify.max_user_watches.</translation>
+    </message>
+    <message>
+        <source>Make room, or check who may write there.</source>
+        <translation>Schaffen Sie Platz oder prüfen Sie, wer dort schreiben darf.</translation>
+    </message>
+</context>
+<context>
+    <name>Hints</name>
+    <message>
+        <source>A handler is called with parentheses: %1().</source>
+        <translation>Ein Handler wird mit Klammern aufgerufen: %1().</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1.</source>
+        <translation>Die Taste hat eine Nummer: key code %1.</translation>
+    </message>
+    <message>
+        <source>Return is joined to a text so: &quot;hello&quot; &amp; return.</source>
+        <translation>Die Eingabetaste wird so an einen Text angehängt: &quot;hello&quot; &amp; return.</translation>
+    </message>
+    <message>
+        <source>Tab is joined to a text so: &quot;hello&quot; &amp; tab.</source>
+        <translation>Die Tabulatortaste wird so an einen Text angehängt: &quot;hello&quot; &amp; tab.</translation>
+    </message>
+    <message>
+        <source>A question is asked with: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</source>
+        <translation>Eine Frage wird so gestellt: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</translation>
+    </message>
+    <message>
+        <source>A number by chance is: random number from 1 to 10.</source>
+        <translation>Eine Zufallszahl erhalten Sie so: random number from 1 to 10.</translation>
+    </message>
+    <message>
+        <source>A loop is left with “exit repeat”, the script with “return”.</source>
+        <translation>Eine Schleife wird mit „exit repeat“ verlassen, das Skript mit „return“.</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>Text wird mit „keystroke“ getippt: keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A pause is written in seconds: delay 2.</source>
+        <translation>Eine Pause wird in Sekunden angegeben: delay 2.</translation>
+    </message>
+    <message>
+        <source>Errors are caught with: try … on error … end try.</source>
+        <translation>Fehler werden so abgefangen: try … on error … end try.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported; the commands are there from the start: delay 2, keystroke &quot;hello&quot;.</source>
+        <translation>Es wird nichts importiert; die Befehle sind von Anfang an vorhanden: delay 2, keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A value is printed with: log &quot;x&quot;. Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>Ein Wert wird so ausgegeben: log &quot;x&quot;. Text wird mit „keystroke“ getippt: keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A message is shown with: display dialog &quot;hello&quot;.</source>
+        <translation>Eine Meldung wird so angezeigt: display dialog &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>What has no value is written: missing value.</source>
+        <translation>Was keinen Wert hat, wird so geschrieben: missing value.</translation>
+    </message>
+    <message>
+        <source>A window is brought to the front with: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>Ein Fenster wird so in den Vordergrund geholt: tell application &quot;Firefox&quot; to activate.</translation>
+    </message>
+    <message>
+        <source>A key code lies between 0 and %1; “keyrill-script keys” prints those that keys have.</source>
+        <translation>Ein Tastencode liegt zwischen 0 und %1; „keyrill-script keys“ gibt die Tastencodes aus, zu denen es Tasten gibt.</translation>
+    </message>
+    <message>
+        <source>A key code is a number; a text is typed with “keystroke”.</source>
+        <translation>Ein Tastencode ist eine Zahl; ein Text wird mit „keystroke“ getippt.</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1; “keyrill-script keys” prints all.</source>
+        <translation>Die Taste hat eine Nummer: key code %1; „keyrill-script keys“ gibt alle aus.</translation>
+    </message>
+    <message>
+        <source>The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.</source>
+        <translation>Die Teile eines Datums sind year, month, day, weekday, hours, minutes, seconds und time.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>Meinten Sie %1?</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: delay 0.5.</source>
+        <translation>Nachkommastellen stehen nach einem Punkt: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds: delay 0.5.</source>
+        <translation>„delay“ zählt in Sekunden: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record; what was typed there is taken with: text returned of n.</source>
+        <translation>Ein Dialog liefert einen Datensatz (record); was dort eingegeben wurde, erhalten Sie so: text returned of n.</translation>
+    </message>
+    <message>
+        <source>A modifier stands without quotes: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>Eine Sondertaste steht ohne Anführungszeichen: using %1 down.</translation>
+    </message>
+    <message>
+        <source>Several modifiers stand in braces: using {control down, shift down}.</source>
+        <translation>Mehrere Sondertasten stehen in geschweiften Klammern: using {control down, shift down}.</translation>
+    </message>
+    <message>
+        <source>Texts are joined with “&amp;”: &quot;one&quot; &amp; &quot;two&quot;.</source>
+        <translation>Texte werden mit „&amp;“ verbunden: &quot;one&quot; &amp; &quot;two&quot;.</translation>
+    </message>
+    <message>
+        <source>This compares and changes nothing; a variable is set with “to”: set %1 to …</source>
+        <translation>Dies vergleicht nur und ändert nichts; eine Variable wird mit „to“ gesetzt: set %1 to …</translation>
+    </message>
+    <message>
+        <source>The script has no handler of that name: on %1(…) … end %1.</source>
+        <translation>Das Skript hat keinen Handler mit diesem Namen: on %1(…) … end %1.</translation>
+    </message>
+    <message>
+        <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
+        <translation>Programme nehmen keinen anderen Befehl als „activate“ an; drücken Sie ihre Tasten: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>Die Sondertasten heißen command (Super), control (Strg), option (Alt) und shift: using %1 down.</translation>
+    </message>
+    <message>
+        <source>An application is named: application &quot;%1&quot;.</source>
+        <translation>Eine Anwendung wird so benannt: application &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>Text steht zwischen geraden Anführungszeichen: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A handler has variables of its own; to share this one write there: global %1.</source>
+        <translation>Ein Handler hat eigene Variablen; um diese mit ihm zu teilen, schreiben Sie dort: global %1.</translation>
+    </message>
+    <message>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>Eine Variable wird gesetzt, bevor sie verwendet wird: set %1 to … Text steht zwischen geraden Anführungszeichen: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
+        <translation>Eine Taste wird über ihre Nummer gedrückt: key code 36 ist die Eingabetaste. „keyrill-script keys“ gibt alle Nummern aus.</translation>
+    </message>
+    <message>
+        <source>The date of today is “current date”; as a text: short date string of (current date).</source>
+        <translation>Das heutige Datum ist „current date“; als Text: short date string of (current date).</translation>
+    </message>
+    <message>
+        <source>Inside “tell” the script’s own handlers are called with “my”: my %1(…).</source>
+        <translation>Innerhalb von „tell“ werden die eigenen Handler des Skripts mit „my“ aufgerufen: my %1(…).</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>Hier ist kein Block offen; ein „if“ mit seiner Anweisung in derselben Zeile hat kein „else“.</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>Hier ist kein Block offen; ein „if“ mit seiner Anweisung in derselben Zeile hat kein „end if“.</translation>
+    </message>
+    <message>
+        <source>No block is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>Hier ist kein Block offen; ein „tell … to“ in einer Zeile hat kein „end tell“.</translation>
+    </message>
+    <message>
+        <source>No block is open here; this line is one too many.</source>
+        <translation>Hier ist kein Block offen; diese Zeile ist überzählig.</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>Hier ist kein „if“ offen; ein „if“ mit seiner Anweisung in derselben Zeile hat kein „else“.</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>Hier ist kein „if“ offen; ein „if“ mit seiner Anweisung in derselben Zeile hat kein „end if“.</translation>
+    </message>
+    <message>
+        <source>No “tell” is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>Hier ist kein „tell“ offen; ein „tell … to“ in einer Zeile hat kein „end tell“.</translation>
+    </message>
+    <message>
+        <source>No “%1” is open here; the block that begins in line %2 has no “end” of its own.</source>
+        <extracomment>%1 is the first word of a block, &quot;repeat&quot;, %2 a number.</extracomment>
+        <translation>Hier ist kein „%1“ offen; der Block, der in Zeile %2 beginnt, hat kein eigenes „end“.</translation>
+    </message>
+    <message>
+        <source>In line %1 these are two words: %2.</source>
+        <extracomment>%1 is a number, %2 what the line was meant to be, &quot;end if&quot;.</extracomment>
+        <translation>In Zeile %1 sind dies zwei Wörter: %2.</translation>
+    </message>
+    <message>
+        <source>The block that begins in line %1 has no “end” of its own.</source>
+        <translation>Der Block, der in Zeile %1 beginnt, hat kein eigenes „end“.</translation>
+    </message>
+    <message>
+        <source>The text that begins here is not closed by a straight quote in its line.</source>
+        <translation>Der Text, der hier beginnt, wird in seiner Zeile nicht durch ein gerades Anführungszeichen geschlossen.</translation>
+    </message>
+    <message>
+        <source>The comment that begins in line %1 is not closed by “*)”.</source>
+        <translation>Der Kommentar, der in Zeile %1 beginnt, wird nicht durch „*)“ geschlossen.</translation>
+    </message>
+    <message>
+        <source>The keyboard commands stand inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Die Tastaturbefehle stehen innerhalb von „tell application &quot;System Events&quot;“ … „end tell“.</translation>
+    </message>
+    <message>
+        <source>Modifiers are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Sondertasten sind innerhalb von „tell application &quot;System Events&quot;“ … „end tell“ bekannt.</translation>
+    </message>
+    <message>
+        <source>Processes are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Prozesse sind innerhalb von „tell application &quot;System Events&quot;“ … „end tell“ bekannt.</translation>
+    </message>
+    <message>
+        <source>Put straight quotes (&quot;) in place of the curly ones.</source>
+        <translation>Setzen Sie gerade Anführungszeichen (&quot;) anstelle der typografischen.</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to 5.</source>
+        <translation>Eine Variable wird mit „to“ gesetzt: set x to 5.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat with i from 1 to 5 … end repeat.</source>
+        <translation>Eine Schleife wird so geschrieben: repeat with i from 1 to 5 … end repeat.</translation>
+    </message>
+    <message>
+        <source>A handler is written: on greet(x) … end greet.</source>
+        <translation>Ein Handler wird so geschrieben: on greet(x) … end greet.</translation>
+    </message>
+    <message>
+        <source>Several stand in braces: {control down, shift down}, {36, 48}.</source>
+        <translation>Mehrere stehen in geschweiften Klammern: {control down, shift down}, {36, 48}.</translation>
+    </message>
+    <message>
+        <source>These are two words: else if … then.</source>
+        <translation>Dies sind zwei Wörter: else if … then.</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, and Return joined with “&amp;”: keystroke &quot;hello&quot; &amp; return.</source>
+        <translation>Text wird mit „keystroke“ getippt und die Eingabetaste mit „&amp;“ angehängt: keystroke &quot;hello&quot; &amp; return.</translation>
+    </message>
+    <message>
+        <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
+        <translation>Eine Taste wird so gedrückt und wieder losgelassen: keystroke return, key code 53. Gehalten wird sie mit: key down 36, und losgelassen mit: key up 36.</translation>
+    </message>
+    <message>
+        <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
+        <translation>Ein Makro hat keine Maus; drücken Sie die Tasten, die dasselbe bewirken, etwa die Tabulatortaste und die Eingabetaste.</translation>
+    </message>
+    <message>
+        <source>Conditions are joined with “and” or “or”.</source>
+        <translation>Bedingungen werden mit „and“ oder „or“ verbunden.</translation>
+    </message>
+    <message>
+        <source>Of a process its name is known, and whether it is in front: every process whose name contains &quot;fire&quot;.</source>
+        <translation>Von einem Prozess ist bekannt, wie er heißt und ob er im Vordergrund ist: every process whose name contains &quot;fire&quot;.</translation>
+    </message>
+    <message>
+        <source>Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.</source>
+        <translation>Fenster, Knöpfe und Menüs sind für ein Makro nicht sichtbar; drücken Sie die Tasten, die dasselbe bewirken.</translation>
+    </message>
+    <message>
+        <source>Modifiers stand behind “using”: keystroke &quot;s&quot; using control down.</source>
+        <translation>Sondertasten stehen hinter „using“: keystroke &quot;s&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.</source>
+        <translation>Was mehrmals ausgeführt wird, steht in eigenen Zeilen zwischen „repeat 5 times“ und „end repeat“.</translation>
+    </message>
+    <message>
+        <source>Each statement has a line of its own.</source>
+        <translation>Jede Anweisung hat eine eigene Zeile.</translation>
+    </message>
+    <message>
+        <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
+        <translation>Ein Makro hat keine Dateien; ein Text kommt aus „the clipboard“ oder aus einem Dialog.</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to x + 1.</source>
+        <translation>Eine Variable wird mit „to“ gesetzt: set x to x + 1.</translation>
+    </message>
+    <message>
+        <source>A parenthesis is not closed in this line.</source>
+        <translation>Eine Klammer wird in dieser Zeile nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>A brace is not closed in this line.</source>
+        <translation>Eine geschweifte Klammer wird in dieser Zeile nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>Drücken Sie die Tasten, die es starten, oder holen Sie ein Fenster in den Vordergrund: tell application &quot;Firefox&quot; to activate.</translation>
+    </message>
+    <message>
+        <source>Write the command by its name.</source>
+        <translation>Schreiben Sie den Befehl mit seinem Namen.</translation>
+    </message>
+    <message>
+        <source>A shortcut is written: keystroke &quot;c&quot; using control down.</source>
+        <translation>Eine Tastenkombination wird so geschrieben: keystroke &quot;c&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat.</source>
+        <translation>Nur Prozesse werden mit „whose“ ausgewählt; eine Liste gehen Sie so durch: repeat with x in theList … end repeat.</translation>
+    </message>
+    <message>
+        <source>Behind “default answer” stands a text, be it empty: default answer &quot;&quot;.</source>
+        <translation>Hinter „default answer“ steht ein Text, und sei er leer: default answer &quot;&quot;.</translation>
+    </message>
+    <message>
+        <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
+        <translation>Ein „if“ in einer Zeile hat kein „else“; schreiben Sie es in mehreren Zeilen, mit „end if“.</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: 0.5.</source>
+        <translation>Nachkommastellen stehen nach einem Punkt: 0.5.</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds, without a unit: delay 0.5.</source>
+        <translation>„delay“ zählt in Sekunden, ohne Einheit: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>A key is let go with: key up &quot;a&quot;.</source>
+        <translation>Eine Taste wird so losgelassen: key up &quot;a&quot;.</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, a key is pressed by its number: key code 36.</source>
+        <translation>Text wird mit „keystroke“ getippt, eine Taste wird über ihre Nummer gedrückt: key code 36.</translation>
+    </message>
+    <message>
+        <source>A key is held with “key down” and let go with “key up”: key down shift.</source>
+        <translation>Eine Taste wird mit „key down“ gehalten und mit „key up“ losgelassen: key down shift.</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is: the clipboard.</source>
+        <translation>Den Text in der Zwischenablage erhalten Sie so: the clipboard.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat 5 times … end repeat.</source>
+        <translation>Eine Schleife wird so geschrieben: repeat 5 times … end repeat.</translation>
+    </message>
+    <message>
+        <source>Behind the name stands “to”, or the line ends there: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</source>
+        <translation>Hinter dem Namen steht „to“, oder die Zeile endet dort: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</translation>
+    </message>
+    <message>
+        <source>The name stands between straight quotes: tell application &quot;System Events&quot;.</source>
+        <translation>Der Name steht zwischen geraden Anführungszeichen: tell application &quot;System Events&quot;.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat while x &lt; 5 … end repeat.</source>
+        <translation>Eine Schleife wird so geschrieben: repeat while x &lt; 5 … end repeat.</translation>
+    </message>
+    <message>
+        <source>A comment begins with -- or #.</source>
+        <translation>Ein Kommentar beginnt mit -- oder #.</translation>
+    </message>
+    <message>
+        <source>A comment over lines is written (* … *).</source>
+        <translation>Ein Kommentar über mehrere Zeilen wird so geschrieben: (* … *).</translation>
+    </message>
+    <message>
+        <source>“Equal” is written with one =.</source>
+        <translation>„Gleich“ wird mit einem einzelnen = geschrieben.</translation>
+    </message>
+    <message>
+        <source>A text is not closed by a straight quote.</source>
+        <translation>Ein Text wird nicht durch ein gerades Anführungszeichen geschlossen.</translation>
+    </message>
+    <message>
+        <source>A backslash in a text is written twice: &quot;C:\\Users&quot;.</source>
+        <translation>Ein umgekehrter Schrägstrich in einem Text wird doppelt geschrieben: &quot;C:\\Users&quot;.</translation>
+    </message>
+    <message>
+        <source>Behind “as” stands a class: text, integer, real, number, boolean, list, record, date.</source>
+        <translation>Hinter „as“ steht eine Klasse: text, integer, real, number, boolean, list, record, date.</translation>
+    </message>
+    <message>
+        <source>A block has no braces: if x = 1 then … end if.</source>
+        <translation>Ein Block hat keine geschweiften Klammern: if x = 1 then … end if.</translation>
+    </message>
+    <message>
+        <source>A block has no braces; it ends with “end” and its first word: end repeat.</source>
+        <translation>Ein Block hat keine geschweiften Klammern; er endet mit „end“ und seinem ersten Wort: end repeat.</translation>
+    </message>
+    <message>
+        <source>A line needs no colon at its end.</source>
+        <translation>Eine Zeile braucht am Ende keinen Doppelpunkt.</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|.</source>
+        <translation>Ein Name mit anderen Buchstaben als A bis Z steht zwischen senkrechten Strichen: |%1|.</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|. Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>Ein Name mit anderen Buchstaben als A bis Z steht zwischen senkrechten Strichen: |%1|. Text steht zwischen geraden Anführungszeichen: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A sign that nobody sees stands here; delete it.</source>
+        <translation>Hier steht ein unsichtbares Zeichen; löschen Sie es.</translation>
+    </message>
+    <message>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
+        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <translation>Ein Tastenkürzel ist kein Teil eines Skripts; es wird in den Einstellungen festgelegt oder für jedes Makro unter „Makros…“.</translation>
+    </message>
+    <message>
+        <source>“Not equal” is written ≠ or /=.</source>
+        <translation>„Ungleich“ wird ≠ oder /= geschrieben.</translation>
+    </message>
+    <message>
+        <source>An item is taken by its number: item 1 of x.</source>
+        <translation>Ein Element erhalten Sie über seine Nummer: item 1 of x.</translation>
+    </message>
+    <message>
+        <source>What belongs to a value is taken with “of”: length of x.</source>
+        <translation>Was zu einem Wert gehört, erhalten Sie mit „of“: length of x.</translation>
+    </message>
+    <message>
+        <source>A list stands in braces: {1, 2}.</source>
+        <translation>Eine Liste steht in geschweiften Klammern: {1, 2}.</translation>
+    </message>
+    <message>
+        <source>The rest of a division is written: 7 mod 2.</source>
+        <translation>Der Rest einer Division wird so geschrieben: 7 mod 2.</translation>
+    </message>
+    <message>
+        <source>Text stands between straight double quotes (&quot;).</source>
+        <translation>Text steht zwischen geraden doppelten Anführungszeichen (&quot;).</translation>
+    </message>
+    <message>
+        <source>A quote inside a text is written \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</source>
+        <translation>Ein Anführungszeichen in einem Text wird \&quot; geschrieben: &quot;Hello \&quot;world\&quot;&quot;.</translation>
+    </message>
+    <message>
+        <source>Take the items in parts, or paragraphs instead of characters.</source>
+        <translation>Nehmen Sie die Elemente in Teilen, oder Absätze statt Zeichen.</translation>
+    </message>
+</context>
+<context>
+    <name>HotKeys</name>
+    <message>
+        <source>GNOME&apos;s settings cannot be changed</source>
+        <translation>Die Einstellungen von GNOME können nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>your settings of GNOME have another entry in its place</source>
+        <translation>In Ihren Einstellungen von GNOME steht an dieser Stelle ein anderer Eintrag</translation>
+    </message>
+    <message>
+        <source>your own shortcut “%1” in GNOME&apos;s settings has it</source>
+        <translation>Ihr eigenes Tastenkürzel „%1“ in den Einstellungen von GNOME verwendet diese Kombination</translation>
+    </message>
+    <message>
+        <source>GNOME has it for “%1”</source>
+        <translation>GNOME verwendet diese Kombination für „%1“</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
+        <translation>GNOME bietet Tastenkürzel nur in Ihren eigenen Einstellungen, die Keyrill nicht ändern darf</translation>
+    </message>
+    <message>
+        <source>GNOME has no name for it</source>
+        <translation>GNOME hat keinen Namen für diese Kombination</translation>
+    </message>
+    <message>
+        <source>it has been taken out of GNOME&apos;s settings</source>
+        <translation>Das Tastenkürzel wurde aus den Einstellungen von GNOME entfernt</translation>
+    </message>
+    <message>
+        <source>KDE has no name for this key</source>
+        <translation>KDE hat keinen Namen für diese Taste</translation>
+    </message>
+    <message>
+        <source>KDE says: %1</source>
+        <translation>KDE meldet: %1</translation>
+    </message>
+    <message>
+        <source>KDE uses it for something else</source>
+        <translation>KDE verwendet diese Kombination für etwas anderes</translation>
+    </message>
+    <message>
+        <source>KDE does not give it</source>
+        <translation>KDE stellt diese Kombination nicht zur Verfügung</translation>
+    </message>
+    <message>
+        <source>%1 has it for “%2”</source>
+        <translation>%1 verwendet diese Kombination für „%2“</translation>
+    </message>
+    <message>
+        <source>the desktop has not granted it</source>
+        <translation>Die Arbeitsumgebung hat diese Kombination nicht gewährt</translation>
+    </message>
+    <message>
+        <source>you did not agree when the desktop asked</source>
+        <translation>Sie haben nicht zugestimmt, als die Arbeitsumgebung gefragt hat</translation>
+    </message>
+    <message>
+        <source>the desktop has not answered</source>
+        <translation>Die Arbeitsumgebung hat nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>the desktop has refused it</source>
+        <translation>Die Arbeitsumgebung hat diese Kombination abgelehnt</translation>
+    </message>
+    <message>
+        <source>there is no session bus</source>
+        <translation>Es gibt keinen Sitzungsbus</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal does not answer</source>
+        <translation>Das Portal der Arbeitsumgebung antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal gives no hot keys</source>
+        <translation>Das Portal der Arbeitsumgebung bietet keine Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>the desktop has taken it back</source>
+        <translation>Die Arbeitsumgebung hat diese Kombination zurückgenommen</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal has ended</source>
+        <translation>Das Portal der Arbeitsumgebung hat sich beendet</translation>
+    </message>
+    <message>
+        <source>your configuration of sway binds it</source>
+        <translation>Ihre Konfiguration von sway belegt diese Kombination</translation>
+    </message>
+    <message>
+        <source>Choose another combination.</source>
+        <translation>Wählen Sie eine andere Kombination.</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or allow it in the desktop&apos;s settings.</source>
+        <translation>Wählen Sie eine andere Kombination oder erlauben Sie diese in den Einstellungen der Arbeitsumgebung.</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or free it in the program that holds it.</source>
+        <translation>Wählen Sie eine andere Kombination oder geben Sie diese in dem Programm frei, das sie belegt.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: %2.</source>
+        <extracomment>%1 is a combination of keys, %2 one of the reasons: another program holds it</extracomment>
+        <translation>%1 kann nicht verwendet werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the third level (AltGr).</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>%1 kann nicht verwendet werden: Die Tastaturbelegung hat keine Taste für die dritte Ebene (AltGr).</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the fifth level.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>%1 kann nicht verwendet werden: Die Tastaturbelegung hat keine Taste für die fünfte Ebene.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for %2.</source>
+        <extracomment>%1 is a combination of keys, %2 a modifier: Super</extracomment>
+        <translation>%1 kann nicht verwendet werden: Die Tastaturbelegung hat keine Taste für %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: Keyrill uses it for something else.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>%1 kann nicht verwendet werden: Keyrill verwendet diese Kombination für etwas anderes.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: this desktop has no such key.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>%1 kann nicht verwendet werden: Diese Arbeitsumgebung hat keine solche Taste.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: nobody could type it any more.</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>%1 kann nicht verwendet werden: Niemand könnte diese Taste dann noch tippen.</translation>
+    </message>
+    <message>
+        <source>Add Ctrl, Alt or Super.</source>
+        <translation>Nehmen Sie Strg, Alt oder Super hinzu.</translation>
+    </message>
+    <message>
+        <source>This compositor gives no hot keys to programs.</source>
+        <translation>Dieser Compositor bietet Programmen keine Tastenkürzel.</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
+        <translation>Belegen Sie in den Einstellungen des Compositors Tasten mit Befehlen.</translation>
+    </message>
+    <message>
+        <source>this compositor gives no hot keys to programs</source>
+        <translation>Dieser Compositor bietet Programmen keine Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>another program holds it</source>
+        <translation>Ein anderes Programm belegt diese Kombination</translation>
+    </message>
+    <message>
+        <source>the X server refuses it with error %1</source>
+        <translation>Der X-Server lehnt diese Kombination mit dem Fehler %1 ab</translation>
+    </message>
+    <message>
+        <source>the X server is gone</source>
+        <translation>Der X-Server ist nicht mehr vorhanden</translation>
+    </message>
+</context>
+<context>
+    <name>Keyboards</name>
+    <message>
+        <source>The keyboard cannot be read: %1: %2.</source>
+        <translation>Die Tastatur kann nicht gelesen werden: %1: %2.</translation>
+    </message>
+    <message>
+        <source>Let the keyboard be read while a macro is recorded.</source>
+        <translation>Erlauben Sie, dass die Tastatur gelesen wird, während ein Makro aufgezeichnet wird.</translation>
+    </message>
+    <message>
+        <source>The keyboard can no longer be read: the permission has ended.</source>
+        <translation>Die Tastatur kann nicht mehr gelesen werden: Die Erlaubnis ist erloschen.</translation>
+    </message>
+    <message>
+        <source>Another user&apos;s session may be in front, or the screen is locked.</source>
+        <translation>Vielleicht ist die Sitzung eines anderen Benutzers im Vordergrund oder der Bildschirm ist gesperrt.</translation>
+    </message>
+    <message>
+        <source>The keyboard cannot be read: there is no system bus.</source>
+        <translation>Die Tastatur kann nicht gelesen werden: Es gibt keinen Systembus.</translation>
+    </message>
+    <message>
+        <source>What it says stands in the system&apos;s journal: journalctl -u keyrill-access.</source>
+        <translation>Seine Meldungen stehen im Systemjournal: journalctl -u keyrill-access.</translation>
+    </message>
+    <message>
+        <source>The keyboard is no longer read: the service keyrill-access has ended.</source>
+        <translation>Die Tastatur wird nicht mehr gelesen: Der Dienst keyrill-access hat sich beendet.</translation>
+    </message>
+    <message>
+        <source>Keyrill may not read the keyboard: permission was not given.</source>
+        <translation>Keyrill darf die Tastatur nicht lesen: Die Erlaubnis wurde nicht erteilt.</translation>
+    </message>
+    <message>
+        <source>Record again and agree when you are asked for your password.</source>
+        <translation>Zeichnen Sie erneut auf und stimmen Sie zu, wenn Sie nach Ihrem Passwort gefragt werden.</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access is not installed.</source>
+        <translation>Keyrill kann die Tastatur nicht lesen: Der Dienst keyrill-access ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, tools/access install.</source>
+        <translation>Installieren Sie das Paket keyrill-wayland-access oder führen Sie in den Quellen von Keyrill den Befehl tools/access install aus.</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access does not work.</source>
+        <translation>Keyrill kann die Tastatur nicht lesen: Der Dienst keyrill-access funktioniert nicht.</translation>
+    </message>
+    <message>
+        <source>A Wayland session shows this program nothing of what is typed in others.</source>
+        <translation>Eine Wayland-Sitzung zeigt diesem Programm nichts von dem, was in anderen getippt wird.</translation>
+    </message>
+    <message>
+        <source>Record with keyrill itself, or use an X11 session.</source>
+        <translation>Zeichnen Sie mit keyrill selbst auf oder verwenden Sie eine X11-Sitzung.</translation>
+    </message>
+</context>
+<context>
+    <name>Keys</name>
+    <message>
+        <source>This desktop lets no program press keys: no portal for it answers.</source>
+        <translation>Diese Arbeitsumgebung lässt kein Programm Tasten drücken: Kein Portal dafür antwortet.</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the part of it that belongs to your desktop.</source>
+        <translation>Installieren Sie xdg-desktop-portal und den Teil davon, der zu Ihrer Arbeitsumgebung gehört.</translation>
+    </message>
+    <message>
+        <source>The desktop was not allowed to let Keyrill press keys.</source>
+        <translation>Der Arbeitsumgebung wurde nicht erlaubt, Keyrill Tasten drücken zu lassen.</translation>
+    </message>
+    <message>
+        <source>Play again, and agree when you are asked.</source>
+        <translation>Spielen Sie das Makro erneut ab und stimmen Sie zu, wenn Sie gefragt werden.</translation>
+    </message>
+    <message>
+        <source>The desktop has not answered whether Keyrill may press keys.</source>
+        <translation>Die Arbeitsumgebung hat die Frage nicht beantwortet, ob Keyrill Tasten drücken darf.</translation>
+    </message>
+    <message>
+        <source>Play again; if nothing asks you, log in again.</source>
+        <translation>Spielen Sie das Makro erneut ab; wenn Sie nicht gefragt werden, melden Sie sich neu an.</translation>
+    </message>
+    <message>
+        <source>The desktop no longer lets Keyrill press keys.</source>
+        <translation>Die Arbeitsumgebung lässt Keyrill keine Tasten mehr drücken.</translation>
+    </message>
+    <message>
+        <source>Play again; it may ask for your permission.</source>
+        <translation>Spielen Sie das Makro erneut ab; vielleicht werden Sie um Ihre Erlaubnis gebeten.</translation>
+    </message>
+    <message>
+        <source>The power key cannot be pressed by a script.</source>
+        <translation>Die Ein-/Aus-Taste kann nicht von einem Skript gedrückt werden.</translation>
+    </message>
+    <message>
+        <source>Take key code 127 out of the script.</source>
+        <translation>Entfernen Sie den Tastencode 127 aus dem Skript.</translation>
+    </message>
+    <message>
+        <source>The text to type is not UTF-8 at byte %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Der zu tippende Text ist bei Byte %1 kein UTF-8.</translation>
+    </message>
+    <message>
+        <source>Save the script as UTF-8.</source>
+        <translation>Speichern Sie das Skript als UTF-8.</translation>
+    </message>
+    <message>
+        <source>&quot;%1...&quot;</source>
+        <extracomment>The beginning of a text that is longer, in quotation marks.</extracomment>
+        <translation>„%1...“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <extracomment>A text in quotation marks.</extracomment>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2)</source>
+        <extracomment>%1 is a character, %2 its code: U+00E9</extracomment>
+        <translation>„%1“ (%2)</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with the keyboard layout that is in force.</source>
+        <translation>Das Zeichen %1 kann mit der aktiven Tastaturbelegung nicht getippt werden.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or switch to a layout that has it before you play.</source>
+        <translation>Entfernen Sie es aus dem Text oder wechseln Sie vor dem Abspielen zu einer Belegung, die es hat.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with your keyboard layouts.</source>
+        <translation>Das Zeichen %1 kann mit Ihren Tastaturbelegungen nicht getippt werden.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or add a layout that has it.</source>
+        <translation>Entfernen Sie es aus dem Text oder fügen Sie eine Belegung hinzu, die es hat.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with this keyboard layout.</source>
+        <translation>Das Zeichen %1 kann mit dieser Tastaturbelegung nicht getippt werden.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or set a layout that has it.</source>
+        <translation>Entfernen Sie es aus dem Text oder stellen Sie eine Belegung ein, die es hat.</translation>
+    </message>
+    <message>
+        <source>The keymap for typing could not be made.</source>
+        <translation>Die Tastenbelegung zum Tippen konnte nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>This compositor lets no program press keys.</source>
+        <translation>Dieser Compositor lässt kein Programm Tasten drücken.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, or an X11 session.</source>
+        <translation>Verwenden Sie einen Compositor mit virtuellen Tastaturen, etwa sway, oder eine X11-Sitzung.</translation>
+    </message>
+    <message>
+        <source>A script is running already.</source>
+        <translation>Es läuft bereits ein Skript.</translation>
+    </message>
+    <message>
+        <source>Wait for its end.</source>
+        <translation>Warten Sie, bis es zu Ende ist.</translation>
+    </message>
+    <message>
+        <source>The key %1 types no character.</source>
+        <translation>Die Taste %1 erzeugt kein Zeichen.</translation>
+    </message>
+    <message>
+        <source>A Wayland session has no bell.</source>
+        <translation>Eine Wayland-Sitzung hat keinen Signalton.</translation>
+    </message>
+    <message>
+        <source>Take the beep out of the script.</source>
+        <translation>Entfernen Sie den Signalton aus dem Skript.</translation>
+    </message>
+    <message>
+        <source>KDE lets no program press keys: its portal does not answer.</source>
+        <translation>KDE lässt kein Programm Tasten drücken: Sein Portal antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal-kde, or use an X11 session.</source>
+        <translation>Installieren Sie xdg-desktop-portal-kde oder verwenden Sie eine X11-Sitzung.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, a desktop whose portal presses keys, such as KDE and GNOME, or an X11 session.</source>
+        <translation>Verwenden Sie einen Compositor mit virtuellen Tastaturen, etwa sway, eine Arbeitsumgebung, deren Portal Tasten drückt, etwa KDE oder GNOME, oder eine X11-Sitzung.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout was changed while text was typed, which may have arrived as something else: %1.</source>
+        <translation>Die Tastaturbelegung wurde gewechselt, während Text getippt wurde, der deshalb vielleicht anders angekommen ist: %1.</translation>
+    </message>
+    <message>
+        <source>Play it again when the layout stays as it is.</source>
+        <translation>Spielen Sie das Makro erneut ab, wenn die Belegung bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Another program holds the keyboard, so that no keys can be pressed.</source>
+        <translation>Ein anderes Programm belegt die Tastatur, sodass keine Tasten gedrückt werden können.</translation>
+    </message>
+    <message>
+        <source>Close the menu, the question or the screen lock that is open, and play again.</source>
+        <translation>Schließen Sie das Menü, die Rückfrage oder die Bildschirmsperre, die gerade offen ist, und spielen Sie das Makro erneut ab.</translation>
+    </message>
+    <message>
+        <source>The X server refuses to put characters on unused keys.</source>
+        <translation>Der X-Server lehnt es ab, Zeichen auf unbenutzte Tasten zu legen.</translation>
+    </message>
+    <message>
+        <source>Use characters of the keyboard layout, or set another layout.</source>
+        <translation>Verwenden Sie Zeichen der Tastaturbelegung oder stellen Sie eine andere Belegung ein.</translation>
+    </message>
+    <message>
+        <source>The program that is typed into reads nothing; not typed: %1.</source>
+        <translation>Das Programm, in das getippt wird, liest nichts; nicht getippt: %1.</translation>
+    </message>
+    <message>
+        <source>Play it again when the program reads its keys.</source>
+        <translation>Spielen Sie das Makro erneut ab, wenn das Programm seine Tasten liest.</translation>
+    </message>
+    <message>
+        <source>The program that was typed into has not read all of it.</source>
+        <translation>Das Programm, in das getippt wurde, hat nicht alles gelesen.</translation>
+    </message>
+    <message>
+        <source>See whether it hangs; what it reads later may lack characters.</source>
+        <translation>Prüfen Sie, ob es hängt; in dem, was es später liest, können Zeichen fehlen.</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.</source>
+        <translation>Die Wiederholungen gehaltener Tasten können nicht aufgezeichnet werden: Der X-Server hat keine Erweiterung RECORD.</translation>
+    </message>
+    <message>
+        <source>A held key is recorded as one press. Switch the extension on in the settings of the X server.</source>
+        <translation>Eine gehaltene Taste wird als ein Tastendruck aufgezeichnet. Schalten Sie die Erweiterung in den Einstellungen des X-Servers ein.</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys can no longer be recorded: the X server has ended it.</source>
+        <translation>Die Wiederholungen gehaltener Tasten können nicht mehr aufgezeichnet werden: Der X-Server hat dies beendet.</translation>
     </message>
 </context>
 <context>
@@ -809,6 +1800,64 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>No key of the present keyboard layout types &quot;%1&quot;.</source>
+        <extracomment>%1 is a character.</extracomment>
+        <translation>Keine Taste der aktuellen Tastaturbelegung erzeugt „%1“.</translation>
+    </message>
+    <message>
+        <source>Convert the keys to text, which types any character.</source>
+        <translation>Wandeln Sie die Tasten in Text um; damit lässt sich jedes Zeichen tippen.</translation>
+    </message>
+    <message>
+        <source>GNOME lets no program switch the keyboard layout.</source>
+        <translation>GNOME lässt kein Programm die Tastaturbelegung wechseln.</translation>
+    </message>
+    <message>
+        <source>The desktop has no keyboard layout of that number.</source>
+        <translation>Die Arbeitsumgebung hat keine Tastaturbelegung mit dieser Nummer.</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program switch the keyboard layout.</source>
+        <translation>Diese Arbeitsumgebung lässt kein Programm die Tastaturbelegung wechseln.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the third level (AltGr).</source>
+        <translation>Die Tastaturbelegung hat keine Taste für die dritte Ebene (AltGr).</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the fifth level.</source>
+        <translation>Die Tastaturbelegung hat keine Taste für die fünfte Ebene.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for %1.</source>
+        <extracomment>%1 is a modifier: Super</extracomment>
+        <translation>Die Tastaturbelegung hat keine Taste für %1.</translation>
+    </message>
+    <message>
+        <source>Choose a keyboard layout that has one.</source>
+        <translation>Wählen Sie eine Tastaturbelegung, die eine solche Taste hat.</translation>
+    </message>
+    <message>
+        <source>The keyboard has no layout %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Die Tastatur hat keine Belegung %1.</translation>
+    </message>
+    <message>
+        <source>Add it to the keyboard layouts, or record the macro again.</source>
+        <translation>Fügen Sie sie den Tastaturbelegungen hinzu oder zeichnen Sie das Makro erneut auf.</translation>
+    </message>
+    <message>
+        <source>The keymap of the X server cannot be read.</source>
+        <translation>Die Tastenbelegung des X-Servers kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Set a keyboard layout, or log in again.</source>
+        <translation>Stellen Sie eine Tastaturbelegung ein oder melden Sie sich neu an.</translation>
+    </message>
+</context>
+<context>
     <name>LibraryController</name>
     <message>
         <source>&quot;%1&quot; was not played</source>
@@ -821,6 +1870,36 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     <message>
         <source>The history</source>
         <translation>Der Verlauf</translation>
+    </message>
+</context>
+<context>
+    <name>LogIn</name>
+    <message>
+        <source>The file %1 cannot be removed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Die Datei %1 kann nicht entfernt werden: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write in its folder.</source>
+        <translation>Prüfen Sie, wer in ihrem Ordner schreiben darf.</translation>
+    </message>
+    <message>
+        <source>A program whose path has a percent sign cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>Ein Programm, dessen Pfad ein Prozentzeichen enthält, kann bei der Anmeldung nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>Move the program to a folder without one.</source>
+        <translation>Verschieben Sie das Programm in einen Ordner ohne Prozentzeichen.</translation>
+    </message>
+    <message>
+        <source>A program whose path is not UTF-8 cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>Ein Programm, dessen Pfad kein UTF-8 ist, kann bei der Anmeldung nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>Move the program to another folder.</source>
+        <translation>Verschieben Sie das Programm in einen anderen Ordner.</translation>
     </message>
 </context>
 <context>
@@ -1379,6 +2458,38 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
 </context>
 <context>
+    <name>Programs</name>
+    <message>
+        <source>The program &quot;%1&quot;, which presses keys by the desktop&apos;s portal, could not be started.</source>
+        <translation>Das Programm „%1“, das über das Portal der Arbeitsumgebung Tasten drückt, konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>Install the program again.</source>
+        <translation>Installieren Sie das Programm erneut.</translation>
+    </message>
+    <message>
+        <source>A text with a zero byte cannot be opened.</source>
+        <translation>Ein Text mit einem Nullbyte kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The program xdg-open cannot be started: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>Das Programm xdg-open kann nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>Install the package xdg-utils.</source>
+        <translation>Installieren Sie das Paket xdg-utils.</translation>
+    </message>
+    <message>
+        <source>The guard program &quot;%1&quot;, which releases keys after a crash, could not be started.</source>
+        <translation>Das Wächterprogramm „%1“, das nach einem Absturz die Tasten loslässt, konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>Install the program again; nothing is played without its guard.</source>
+        <translation>Installieren Sie das Programm erneut; ohne seinen Wächter wird nichts abgespielt.</translation>
+    </message>
+</context>
+<context>
     <name>RecordHerePanel</name>
     <message>
         <source>Record Here</source>
@@ -1542,6 +2653,121 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
 </context>
 <context>
+    <name>Session</name>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>Es gibt keinen Sitzungsbus.</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>Melden Sie sich neu an.</translation>
+    </message>
+    <message>
+        <source>sway does not answer at $SWAYSOCK.</source>
+        <translation>sway antwortet unter $SWAYSOCK nicht.</translation>
+    </message>
+    <message>
+        <source>Start the program in the session of sway.</source>
+        <translation>Starten Sie das Programm in der Sitzung von sway.</translation>
+    </message>
+    <message>
+        <source>sway says: %1</source>
+        <translation>sway meldet: %1</translation>
+    </message>
+    <message>
+        <source>There is no kind of session called &quot;%1&quot;.</source>
+        <translation>Es gibt keine Sitzungsart namens „%1“.</translation>
+    </message>
+    <message>
+        <source>Choose one of these: %1.</source>
+        <translation>Wählen Sie eine davon: %1.</translation>
+    </message>
+    <message>
+        <source>No kind of session is known.</source>
+        <translation>Es ist keine Sitzungsart bekannt.</translation>
+    </message>
+    <message>
+        <source>The connection to the compositor was lost.</source>
+        <translation>Die Verbindung zum Compositor ist abgebrochen.</translation>
+    </message>
+    <message>
+        <source>No Wayland compositor answers at $WAYLAND_DISPLAY.</source>
+        <translation>Unter $WAYLAND_DISPLAY antwortet kein Wayland-Compositor.</translation>
+    </message>
+    <message>
+        <source>Start the program in a Wayland session.</source>
+        <translation>Starten Sie das Programm in einer Wayland-Sitzung.</translation>
+    </message>
+    <message>
+        <source>The Wayland compositor is gone.</source>
+        <translation>Der Wayland-Compositor ist nicht mehr vorhanden.</translation>
+    </message>
+    <message>
+        <source>$WAYLAND_DISPLAY names no Wayland compositor.</source>
+        <translation>$WAYLAND_DISPLAY nennt keinen Wayland-Compositor.</translation>
+    </message>
+    <message>
+        <source>The X server is gone.</source>
+        <translation>Der X-Server ist nicht mehr vorhanden.</translation>
+    </message>
+    <message>
+        <source>This is a Wayland session without an X server.</source>
+        <translation>Dies ist eine Wayland-Sitzung ohne X-Server.</translation>
+    </message>
+    <message>
+        <source>Install Xwayland, or switch it on in the desktop&apos;s settings, and log in again; or choose an X11 session when you log in.</source>
+        <translation>Installieren Sie Xwayland oder schalten Sie es in den Einstellungen der Arbeitsumgebung ein, und melden Sie sich neu an; oder wählen Sie bei der Anmeldung eine X11-Sitzung.</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is no desktop session.</source>
+        <translation>Es wird eine X11-Sitzung benötigt, und dies ist keine grafische Sitzung.</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is a Wayland session without an X server.</source>
+        <translation>Es wird eine X11-Sitzung benötigt, und dies ist eine Wayland-Sitzung ohne X-Server.</translation>
+    </message>
+    <message>
+        <source>Choose an X11 session when you log in.</source>
+        <translation>Wählen Sie bei der Anmeldung eine X11-Sitzung.</translation>
+    </message>
+    <message>
+        <source>The connection to the X server was lost.</source>
+        <translation>Die Verbindung zum X-Server ist abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Use a newer X server, or switch the extension on in its settings.</source>
+        <translation>Verwenden Sie einen neueren X-Server oder schalten Sie die Erweiterung in seinen Einstellungen ein.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has no XInput.</source>
+        <translation>Der X-Server muss XInput 2.2 oder neuer haben, hat aber kein XInput.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but does not answer.</source>
+        <translation>Der X-Server muss XInput 2.2 oder neuer haben, antwortet aber nicht.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has %1.</source>
+        <translation>Der X-Server muss XInput 2.2 oder neuer haben, hat aber %1.</translation>
+    </message>
+    <message>
+        <source>The X server must have the XKB extension, but it cannot be used.</source>
+        <translation>Der X-Server muss die Erweiterung XKB haben, sie kann aber nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>The X server must have the XTEST extension, but it has not.</source>
+        <translation>Der X-Server muss die Erweiterung XTEST haben, hat sie aber nicht.</translation>
+    </message>
+    <message>
+        <source>The X server of display &quot;%1&quot; cannot be reached.</source>
+        <translation>Der X-Server der Anzeige „%1“ ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
+        <translation>Starten Sie das Programm innerhalb einer grafischen Sitzung oder setzen Sie DISPLAY auf einen laufenden X-Server.</translation>
+    </message>
+</context>
+<context>
     <name>SessionReport</name>
     <message>
         <source>, </source>
@@ -1679,6 +2905,72 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
         <source>%1; %2</source>
         <extracomment>the keyboard layouts, and the locks that are on</extracomment>
         <translation>%1; %2</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>It has a zero byte</source>
+        <translation>Sie enthält ein Nullbyte</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>Die Einstellungsdatei %1 ist keine Schlüsselwertedatei: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>Die Datei der Makroeinstellungen %1 ist keine Schlüsselwertedatei: %2</translation>
+    </message>
+    <message>
+        <source>The settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>Der Einstellungsordner %1 kann nicht angelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>Der Ordner der Makroeinstellungen %1 kann nicht angelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and the settings begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>Sie wurde in %1 umbenannt, und es gelten wieder die Standardeinstellungen.</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and hot keys, times and speeds begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>Sie wurde in %1 umbenannt, und Tastenkürzel, Durchläufe und Tempo sind auf die Standardwerte zurückgesetzt.</translation>
+    </message>
+    <message>
+        <source>Correct the file or remove it.</source>
+        <translation>Berichtigen Sie die Datei oder entfernen Sie sie.</translation>
+    </message>
+    <message>
+        <source>It could not be put aside either: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>Sie konnte auch nicht beiseitegelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Die Einstellungsdatei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Die Datei der Makroeinstellungen %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Die Einstellungsdatei %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Die Datei der Makroeinstellungen %1 kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>
@@ -1959,6 +3251,70 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
 </context>
 <context>
+    <name>Warnings</name>
+    <message>
+        <source>This is typed as it stands; the key has a number: key code %1.</source>
+        <translation>Dies wird so getippt, wie es dasteht; die Taste hat eine Nummer: key code %1.</translation>
+    </message>
+    <message>
+        <source>“%1” is typed as it stands. %2</source>
+        <extracomment>%1 is the name of a key in braces, %2 a sentence that says how the key is written.</extracomment>
+        <translation>„%1“ wird so getippt, wie es dasteht. %2</translation>
+    </message>
+    <message>
+        <source>Key code %1 is an extension, which only Keyrill plays.</source>
+        <translation>Der Tastencode %1 ist eine Erweiterung, die nur Keyrill abspielt.</translation>
+    </message>
+    <message>
+        <source>Key code %1 has no key; nothing is pressed.</source>
+        <translation>Zum Tastencode %1 gibt es keine Taste; es wird nichts gedrückt.</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record and no text; take: button returned of %1, or text returned of %1.</source>
+        <translation>Ein Dialog liefert einen Datensatz (record) und keinen Text; verwenden Sie: button returned of %1 oder text returned of %1.</translation>
+    </message>
+    <message>
+        <source>An alert gives a record and no text; take: button returned of %1.</source>
+        <translation>Eine Warnmeldung liefert einen Datensatz (record) und keinen Text; verwenden Sie: button returned of %1.</translation>
+    </message>
+    <message>
+        <source>What was chosen comes in a list; take: item 1 of %1.</source>
+        <translation>Was ausgewählt wurde, kommt in einer Liste; verwenden Sie: item 1 of %1.</translation>
+    </message>
+    <message>
+        <source>The loop gives a reference, which equals no text; compare: contents of %1.</source>
+        <translation>Die Schleife liefert einen Verweis, der keinem Text gleich ist; vergleichen Sie: contents of %1.</translation>
+    </message>
+    <message>
+        <source>“%1” is taken as “%1 down”.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>„%1“ wird als „%1 down“ verstanden.</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to what “%2” is given; put parentheses round the command: (%2 …) %1 ….</source>
+        <extracomment>%1 is an operator, &quot;&gt;&quot;, %2 a command, &quot;count&quot;.</extracomment>
+        <translation>„%1“ gehört zu dem, was „%2“ übergeben wird; setzen Sie den Befehl in Klammern: (%2 …) %1 ….</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds; %1 milliseconds are: delay %2.</source>
+        <translation>„delay“ zählt in Sekunden; %1 Millisekunden sind: delay %2.</translation>
+    </message>
+    <message>
+        <source>This is typed as it stands; a shortcut is written: keystroke &quot;%1&quot; using %2 down.</source>
+        <extracomment>%1 is a letter, %2 the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>Dies wird so getippt, wie es dasteht; eine Tastenkombination wird so geschrieben: keystroke &quot;%1&quot; using %2 down.</translation>
+    </message>
+    <message>
+        <source>A modifier is held with: key down shift, without quotes.</source>
+        <translation>Eine Sondertaste wird so gehalten: key down shift, ohne Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>The variable %1 is never set. %2</source>
+        <extracomment>%2 is a sentence that says what may have been meant.</extracomment>
+        <translation>Die Variable %1 wird nie gesetzt. %2</translation>
+    </message>
+</context>
+<context>
     <name>WelcomePanel</name>
     <message>
         <source>%1.</source>
@@ -2015,6 +3371,53 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     <message>
         <source>Not set</source>
         <translation>Nicht festgelegt</translation>
+    </message>
+</context>
+<context>
+    <name>Windows</name>
+    <message>
+        <source>KWin does not tell of its windows.</source>
+        <translation>KWin gibt keine Auskunft über seine Fenster.</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>Melden Sie sich neu an.</translation>
+    </message>
+    <message>
+        <source>No file could be written for KWin.</source>
+        <translation>Für KWin konnte keine Datei geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Free some space.</source>
+        <translation>Geben Sie etwas Speicherplatz frei.</translation>
+    </message>
+    <message>
+        <source>KWin runs no scripts: %1</source>
+        <translation>KWin führt keine Skripte aus: %1</translation>
+    </message>
+    <message>
+        <source>KWin does not show the window any more.</source>
+        <translation>KWin zeigt das Fenster nicht mehr an.</translation>
+    </message>
+    <message>
+        <source>Open it again.</source>
+        <translation>Öffnen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>This compositor tells nobody of windows.</source>
+        <translation>Dieser Compositor gibt niemandem Auskunft über Fenster.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with toplevel management, such as sway, or an X11 session.</source>
+        <translation>Verwenden Sie einen Compositor mit Verwaltung von Fenstern (toplevel management), etwa sway, oder eine X11-Sitzung.</translation>
+    </message>
+    <message>
+        <source>No window of “%1” is open.</source>
+        <translation>Es ist kein Fenster von „%1“ geöffnet.</translation>
+    </message>
+    <message>
+        <source>Start it first.</source>
+        <translation>Starten Sie das Programm zuerst.</translation>
     </message>
 </context>
 </TS>

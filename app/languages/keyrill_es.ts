@@ -515,6 +515,33 @@ Puede cambiar de opinión en las preferencias de Keyrill.</translation>
     </message>
 </context>
 <context>
+    <name>Clipboard</name>
+    <message>
+        <source>This compositor gives the clipboard to windows alone.</source>
+        <translation>Este compositor solo da acceso al portapapeles a las ventanas.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with data control, such as sway, or an X11 session.</source>
+        <translation>Use un compositor con el protocolo data control, como sway, o una sesión X11.</translation>
+    </message>
+    <message>
+        <source>No more files can be opened.</source>
+        <translation>No se pueden abrir más archivos.</translation>
+    </message>
+    <message>
+        <source>Close programs.</source>
+        <translation>Cierre algún programa.</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is too long.</source>
+        <translation>El texto del portapapeles es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>The clipboard is held by another program.</source>
+        <translation>Otro programa retiene el portapapeles.</translation>
+    </message>
+</context>
+<context>
     <name>CombinationText</name>
     <message>
         <source>Ctrl</source>
@@ -531,6 +558,10 @@ Puede cambiar de opinión en las preferencias de Keyrill.</translation>
     <message>
         <source>Super</source>
         <translation>Súper</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Ctrl</translation>
     </message>
 </context>
 <context>
@@ -690,6 +721,80 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
 </context>
 <context>
+    <name>Files</name>
+    <message>
+        <source>Line %1 has the byte %2 at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is a code: 0xE9</extracomment>
+        <translation>La línea %1 contiene el byte %2 en la posición %3, y un archivo de macro solo puede contener ASCII.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character (%2) at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is the code of a character that cannot be shown: U+0085</extracomment>
+        <translation>La línea %1 contiene el carácter (%2) en la posición %3, y un archivo de macro solo puede contener ASCII.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character &quot;%2&quot; (%3) at place %4, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %4 are numbers, %2 is a character, %3 its code: U+00E9</extracomment>
+        <translation>La línea %1 contiene el carácter «%2» (%3) en la posición %4, y un archivo de macro solo puede contener ASCII.</translation>
+    </message>
+    <message>
+        <source>Replace the character in the macro.</source>
+        <translation>Reemplace el carácter en la macro.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be deleted: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>No se puede eliminar el archivo %1: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write to its folder, or delete it yourself.</source>
+        <translation>Compruebe quién puede escribir en su carpeta o elimine el archivo manualmente.</translation>
+    </message>
+    <message>
+        <source>It is a folder</source>
+        <translation>Es una carpeta</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>No es un archivo normal</translation>
+    </message>
+    <message>
+        <source>Choose a file.</source>
+        <translation>Elija un archivo.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>No se puede leer el archivo %1: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>No se puede escribir el archivo %1: %2</translation>
+    </message>
+    <message>
+        <source>It is larger than %1 MiB</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Ocupa más de %1 MiB</translation>
+    </message>
+    <message>
+        <source>Choose a smaller file.</source>
+        <translation>Elija un archivo más pequeño.</translation>
+    </message>
+    <message>
+        <source>Choose another name.</source>
+        <translation>Elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>Check that the file is there and who may read it.</source>
+        <translation>Compruebe si el archivo existe y quién puede leerlo.</translation>
+    </message>
+    <message>
+        <source>Make room, check who may write there, or choose another place.</source>
+        <translation>Libere espacio, compruebe quién puede escribir allí o elija otro lugar.</translation>
+    </message>
+</context>
+<context>
     <name>FilesDesk</name>
     <message>
         <source>&quot;%1&quot; was not loaded</source>
@@ -718,6 +823,892 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <message>
         <source>Press %1 to play it.</source>
         <translation>Pulse %1 para reproducirla.</translation>
+    </message>
+</context>
+<context>
+    <name>Folders</name>
+    <message>
+        <source>The folder %1 cannot be made: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>No se puede crear la carpeta %1: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write there.</source>
+        <translation>Compruebe quién puede escribir allí.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be read: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>No se puede leer la carpeta %1: %2</translation>
+    </message>
+    <message>
+        <source>Check who may read it.</source>
+        <translation>Compruebe quién puede leerla.</translation>
+    </message>
+    <message>
+        <source>What changes in the folder %1 is not noticed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>No se detectan los cambios en la carpeta %1: %2</translation>
+    </message>
+    <message>
+        <source>Start Keyrill again after changes, or raise fs.inotify.max_user_watches.</source>
+        <translation>Vuelva a iniciar Keyrill después de los cambios o aumente fs.inotify.max_user_watches.</translation>
+    </message>
+    <message>
+        <source>Make room, or check who may write there.</source>
+        <translation>Libere espacio o compruebe quién puede escribir allí.</translation>
+    </message>
+</context>
+<context>
+    <name>Hints</name>
+    <message>
+        <source>A handler is called with parentheses: %1().</source>
+        <translation>Un manejador se llama con paréntesis: %1().</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1.</source>
+        <translation>La tecla tiene un número: key code %1.</translation>
+    </message>
+    <message>
+        <source>Return is joined to a text so: &quot;hello&quot; &amp; return.</source>
+        <translation>Return se une a un texto así: &quot;hello&quot; &amp; return.</translation>
+    </message>
+    <message>
+        <source>Tab is joined to a text so: &quot;hello&quot; &amp; tab.</source>
+        <translation>Tab se une a un texto así: &quot;hello&quot; &amp; tab.</translation>
+    </message>
+    <message>
+        <source>A question is asked with: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</source>
+        <translation>Una pregunta se hace con: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</translation>
+    </message>
+    <message>
+        <source>A number by chance is: random number from 1 to 10.</source>
+        <translation>Un número al azar se obtiene con: random number from 1 to 10.</translation>
+    </message>
+    <message>
+        <source>A loop is left with “exit repeat”, the script with “return”.</source>
+        <translation>De un bucle se sale con «exit repeat», del script con «return».</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>El texto se escribe con «keystroke»: keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A pause is written in seconds: delay 2.</source>
+        <translation>Una pausa se indica en segundos: delay 2.</translation>
+    </message>
+    <message>
+        <source>Errors are caught with: try … on error … end try.</source>
+        <translation>Los errores se capturan con: try … on error … end try.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported; the commands are there from the start: delay 2, keystroke &quot;hello&quot;.</source>
+        <translation>No hay que importar nada; las órdenes están disponibles desde el principio: delay 2, keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A value is printed with: log &quot;x&quot;. Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>Un valor se muestra con: log &quot;x&quot;. El texto se escribe con «keystroke»: keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A message is shown with: display dialog &quot;hello&quot;.</source>
+        <translation>Un mensaje se muestra con: display dialog &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>What has no value is written: missing value.</source>
+        <translation>La ausencia de valor se escribe: missing value.</translation>
+    </message>
+    <message>
+        <source>A window is brought to the front with: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>Una ventana se trae al primer plano con: tell application &quot;Firefox&quot; to activate.</translation>
+    </message>
+    <message>
+        <source>A key code lies between 0 and %1; “keyrill-script keys” prints those that keys have.</source>
+        <translation>Un código de tecla está entre 0 y %1; «keyrill-script keys» muestra los que tienen las teclas.</translation>
+    </message>
+    <message>
+        <source>A key code is a number; a text is typed with “keystroke”.</source>
+        <translation>Un código de tecla es un número; un texto se escribe con «keystroke».</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1; “keyrill-script keys” prints all.</source>
+        <translation>La tecla tiene un número: key code %1; «keyrill-script keys» los muestra todos.</translation>
+    </message>
+    <message>
+        <source>The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.</source>
+        <translation>Las partes de una fecha son year, month, day, weekday, hours, minutes, seconds y time.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>¿Quiso decir %1?</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: delay 0.5.</source>
+        <translation>Los decimales van detrás de un punto: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds: delay 0.5.</source>
+        <translation>«delay» cuenta en segundos: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record; what was typed there is taken with: text returned of n.</source>
+        <translation>Un diálogo devuelve un registro; lo que se escribió en él se obtiene con: text returned of n.</translation>
+    </message>
+    <message>
+        <source>A modifier stands without quotes: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>Una tecla modificadora va sin comillas: using %1 down.</translation>
+    </message>
+    <message>
+        <source>Several modifiers stand in braces: using {control down, shift down}.</source>
+        <translation>Varias teclas modificadoras van entre llaves: using {control down, shift down}.</translation>
+    </message>
+    <message>
+        <source>Texts are joined with “&amp;”: &quot;one&quot; &amp; &quot;two&quot;.</source>
+        <translation>Los textos se unen con «&amp;»: &quot;one&quot; &amp; &quot;two&quot;.</translation>
+    </message>
+    <message>
+        <source>This compares and changes nothing; a variable is set with “to”: set %1 to …</source>
+        <translation>Esto compara y no cambia nada; a una variable se le da un valor con «to»: set %1 to …</translation>
+    </message>
+    <message>
+        <source>The script has no handler of that name: on %1(…) … end %1.</source>
+        <translation>El script no tiene ningún manejador con ese nombre: on %1(…) … end %1.</translation>
+    </message>
+    <message>
+        <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
+        <translation>Ningún programa admite más órdenes que «activate»; pulse sus teclas: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>Las teclas modificadoras se llaman command (Súper), control (Ctrl), option (Alt) y shift (Mayús): using %1 down.</translation>
+    </message>
+    <message>
+        <source>An application is named: application &quot;%1&quot;.</source>
+        <translation>Una aplicación se nombra así: application &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>El texto va entre comillas rectas: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A handler has variables of its own; to share this one write there: global %1.</source>
+        <translation>Un manejador tiene sus propias variables; para compartir esta, escriba en él: global %1.</translation>
+    </message>
+    <message>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>A una variable se le da un valor antes de usarla: set %1 to … El texto va entre comillas rectas: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
+        <translation>Una tecla se pulsa por su número: key code 36 es Return. «keyrill-script keys» muestra todos los números.</translation>
+    </message>
+    <message>
+        <source>The date of today is “current date”; as a text: short date string of (current date).</source>
+        <translation>La fecha de hoy es «current date»; como texto: short date string of (current date).</translation>
+    </message>
+    <message>
+        <source>Inside “tell” the script’s own handlers are called with “my”: my %1(…).</source>
+        <translation>Dentro de «tell», los manejadores del propio script se llaman con «my»: my %1(…).</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>Aquí no hay ningún bloque abierto; un «if» con su instrucción en la misma línea no lleva «else».</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>Aquí no hay ningún bloque abierto; un «if» con su instrucción en la misma línea no lleva «end if».</translation>
+    </message>
+    <message>
+        <source>No block is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>Aquí no hay ningún bloque abierto; un «tell … to» en una sola línea no lleva «end tell».</translation>
+    </message>
+    <message>
+        <source>No block is open here; this line is one too many.</source>
+        <translation>Aquí no hay ningún bloque abierto; esta línea sobra.</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>Aquí no hay ningún «if» abierto; un «if» con su instrucción en la misma línea no lleva «else».</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>Aquí no hay ningún «if» abierto; un «if» con su instrucción en la misma línea no lleva «end if».</translation>
+    </message>
+    <message>
+        <source>No “tell” is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>Aquí no hay ningún «tell» abierto; un «tell … to» en una sola línea no lleva «end tell».</translation>
+    </message>
+    <message>
+        <source>No “%1” is open here; the block that begins in line %2 has no “end” of its own.</source>
+        <extracomment>%1 is the first word of a block, &quot;repeat&quot;, %2 a number.</extracomment>
+        <translation>Aquí no hay ningún «%1» abierto; el bloque que empieza en la línea %2 no tiene su propio «end».</translation>
+    </message>
+    <message>
+        <source>In line %1 these are two words: %2.</source>
+        <extracomment>%1 is a number, %2 what the line was meant to be, &quot;end if&quot;.</extracomment>
+        <translation>En la línea %1 son dos palabras: %2.</translation>
+    </message>
+    <message>
+        <source>The block that begins in line %1 has no “end” of its own.</source>
+        <translation>El bloque que empieza en la línea %1 no tiene su propio «end».</translation>
+    </message>
+    <message>
+        <source>The text that begins here is not closed by a straight quote in its line.</source>
+        <translation>El texto que empieza aquí no se cierra con una comilla recta en su línea.</translation>
+    </message>
+    <message>
+        <source>The comment that begins in line %1 is not closed by “*)”.</source>
+        <translation>El comentario que empieza en la línea %1 no se cierra con «*)».</translation>
+    </message>
+    <message>
+        <source>The keyboard commands stand inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Las órdenes de teclado van dentro de «tell application &quot;System Events&quot;» … «end tell».</translation>
+    </message>
+    <message>
+        <source>Modifiers are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Las teclas modificadoras se reconocen dentro de «tell application &quot;System Events&quot;» … «end tell».</translation>
+    </message>
+    <message>
+        <source>Processes are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Los procesos se reconocen dentro de «tell application &quot;System Events&quot;» … «end tell».</translation>
+    </message>
+    <message>
+        <source>Put straight quotes (&quot;) in place of the curly ones.</source>
+        <translation>Ponga comillas rectas (&quot;) en lugar de las tipográficas.</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to 5.</source>
+        <translation>A una variable se le da un valor con «to»: set x to 5.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat with i from 1 to 5 … end repeat.</source>
+        <translation>Un bucle se escribe así: repeat with i from 1 to 5 … end repeat.</translation>
+    </message>
+    <message>
+        <source>A handler is written: on greet(x) … end greet.</source>
+        <translation>Un manejador se escribe así: on greet(x) … end greet.</translation>
+    </message>
+    <message>
+        <source>Several stand in braces: {control down, shift down}, {36, 48}.</source>
+        <translation>Si son varios, van entre llaves: {control down, shift down}, {36, 48}.</translation>
+    </message>
+    <message>
+        <source>These are two words: else if … then.</source>
+        <translation>Son dos palabras: else if … then.</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, and Return joined with “&amp;”: keystroke &quot;hello&quot; &amp; return.</source>
+        <translation>El texto se escribe con «keystroke», y Return se une con «&amp;»: keystroke &quot;hello&quot; &amp; return.</translation>
+    </message>
+    <message>
+        <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
+        <translation>Una tecla se pulsa y se suelta con: keystroke return, key code 53. Se mantiene pulsada con: key down 36, y se suelta con: key up 36.</translation>
+    </message>
+    <message>
+        <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
+        <translation>Una macro no tiene ratón; pulse las teclas que hacen lo mismo, como Tab y Return.</translation>
+    </message>
+    <message>
+        <source>Conditions are joined with “and” or “or”.</source>
+        <translation>Las condiciones se unen con «and» u «or».</translation>
+    </message>
+    <message>
+        <source>Of a process its name is known, and whether it is in front: every process whose name contains &quot;fire&quot;.</source>
+        <translation>De un proceso se conoce su nombre y si está en primer plano: every process whose name contains &quot;fire&quot;.</translation>
+    </message>
+    <message>
+        <source>Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.</source>
+        <translation>Una macro no puede ver ventanas, botones ni menús; pulse las teclas que hacen lo mismo.</translation>
+    </message>
+    <message>
+        <source>Modifiers stand behind “using”: keystroke &quot;s&quot; using control down.</source>
+        <translation>Las teclas modificadoras van detrás de «using»: keystroke &quot;s&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.</source>
+        <translation>Lo que se hace varias veces va en líneas propias entre «repeat 5 times» y «end repeat».</translation>
+    </message>
+    <message>
+        <source>Each statement has a line of its own.</source>
+        <translation>Cada instrucción va en su propia línea.</translation>
+    </message>
+    <message>
+        <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
+        <translation>Una macro no tiene archivos; un texto se obtiene de «the clipboard» o de un diálogo.</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to x + 1.</source>
+        <translation>A una variable se le da un valor con «to»: set x to x + 1.</translation>
+    </message>
+    <message>
+        <source>A parenthesis is not closed in this line.</source>
+        <translation>En esta línea hay un paréntesis sin cerrar.</translation>
+    </message>
+    <message>
+        <source>A brace is not closed in this line.</source>
+        <translation>En esta línea hay una llave sin cerrar.</translation>
+    </message>
+    <message>
+        <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>Pulse las teclas que lo inician o traiga una ventana al primer plano: tell application &quot;Firefox&quot; to activate.</translation>
+    </message>
+    <message>
+        <source>Write the command by its name.</source>
+        <translation>Escriba la orden por su nombre.</translation>
+    </message>
+    <message>
+        <source>A shortcut is written: keystroke &quot;c&quot; using control down.</source>
+        <translation>Un atajo se escribe así: keystroke &quot;c&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat.</source>
+        <translation>Solo los procesos se seleccionan con «whose»; recorra una lista con: repeat with x in theList … end repeat.</translation>
+    </message>
+    <message>
+        <source>Behind “default answer” stands a text, be it empty: default answer &quot;&quot;.</source>
+        <translation>Detrás de «default answer» va un texto, aunque esté vacío: default answer &quot;&quot;.</translation>
+    </message>
+    <message>
+        <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
+        <translation>Un «if» en una sola línea no lleva «else»; escríbalo en varias líneas, con «end if».</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: 0.5.</source>
+        <translation>Los decimales van detrás de un punto: 0.5.</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds, without a unit: delay 0.5.</source>
+        <translation>«delay» cuenta en segundos, sin unidad: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>A key is let go with: key up &quot;a&quot;.</source>
+        <translation>Una tecla se suelta con: key up &quot;a&quot;.</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, a key is pressed by its number: key code 36.</source>
+        <translation>El texto se escribe con «keystroke»; una tecla se pulsa por su número: key code 36.</translation>
+    </message>
+    <message>
+        <source>A key is held with “key down” and let go with “key up”: key down shift.</source>
+        <translation>Una tecla se mantiene pulsada con «key down» y se suelta con «key up»: key down shift.</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is: the clipboard.</source>
+        <translation>El texto del portapapeles es: the clipboard.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat 5 times … end repeat.</source>
+        <translation>Un bucle se escribe así: repeat 5 times … end repeat.</translation>
+    </message>
+    <message>
+        <source>Behind the name stands “to”, or the line ends there: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</source>
+        <translation>Detrás del nombre va «to», o la línea termina ahí: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</translation>
+    </message>
+    <message>
+        <source>The name stands between straight quotes: tell application &quot;System Events&quot;.</source>
+        <translation>El nombre va entre comillas rectas: tell application &quot;System Events&quot;.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat while x &lt; 5 … end repeat.</source>
+        <translation>Un bucle se escribe así: repeat while x &lt; 5 … end repeat.</translation>
+    </message>
+    <message>
+        <source>A comment begins with -- or #.</source>
+        <translation>Un comentario empieza por -- o #.</translation>
+    </message>
+    <message>
+        <source>A comment over lines is written (* … *).</source>
+        <translation>Un comentario de varias líneas se escribe (* … *).</translation>
+    </message>
+    <message>
+        <source>“Equal” is written with one =.</source>
+        <translation>«Igual» se escribe con un solo =.</translation>
+    </message>
+    <message>
+        <source>A text is not closed by a straight quote.</source>
+        <translation>Hay un texto que no se cierra con una comilla recta.</translation>
+    </message>
+    <message>
+        <source>A backslash in a text is written twice: &quot;C:\\Users&quot;.</source>
+        <translation>Una barra inversa en un texto se escribe dos veces: &quot;C:\\Users&quot;.</translation>
+    </message>
+    <message>
+        <source>Behind “as” stands a class: text, integer, real, number, boolean, list, record, date.</source>
+        <translation>Detrás de «as» va una clase: text, integer, real, number, boolean, list, record, date.</translation>
+    </message>
+    <message>
+        <source>A block has no braces: if x = 1 then … end if.</source>
+        <translation>Un bloque no lleva llaves: if x = 1 then … end if.</translation>
+    </message>
+    <message>
+        <source>A block has no braces; it ends with “end” and its first word: end repeat.</source>
+        <translation>Un bloque no lleva llaves; termina con «end» y su primera palabra: end repeat.</translation>
+    </message>
+    <message>
+        <source>A line needs no colon at its end.</source>
+        <translation>Una línea no necesita dos puntos al final.</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|.</source>
+        <translation>Un nombre con letras que no sean de la A a la Z va entre barras verticales: |%1|.</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|. Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>Un nombre con letras que no sean de la A a la Z va entre barras verticales: |%1|. El texto va entre comillas rectas: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A sign that nobody sees stands here; delete it.</source>
+        <translation>Aquí hay un carácter invisible; elimínelo.</translation>
+    </message>
+    <message>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
+        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <translation>Un atajo de teclado no forma parte de un script; se define en las preferencias o, para cada macro, en «Macros...».</translation>
+    </message>
+    <message>
+        <source>“Not equal” is written ≠ or /=.</source>
+        <translation>«Distinto» se escribe ≠ o /=.</translation>
+    </message>
+    <message>
+        <source>An item is taken by its number: item 1 of x.</source>
+        <translation>Un elemento se obtiene por su número: item 1 of x.</translation>
+    </message>
+    <message>
+        <source>What belongs to a value is taken with “of”: length of x.</source>
+        <translation>Lo que pertenece a un valor se obtiene con «of»: length of x.</translation>
+    </message>
+    <message>
+        <source>A list stands in braces: {1, 2}.</source>
+        <translation>Una lista va entre llaves: {1, 2}.</translation>
+    </message>
+    <message>
+        <source>The rest of a division is written: 7 mod 2.</source>
+        <translation>El resto de una división se escribe: 7 mod 2.</translation>
+    </message>
+    <message>
+        <source>Text stands between straight double quotes (&quot;).</source>
+        <translation>El texto va entre comillas dobles rectas (&quot;).</translation>
+    </message>
+    <message>
+        <source>A quote inside a text is written \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</source>
+        <translation>Una comilla dentro de un texto se escribe \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</translation>
+    </message>
+    <message>
+        <source>Take the items in parts, or paragraphs instead of characters.</source>
+        <translation>Tome los elementos por partes o use párrafos en lugar de caracteres.</translation>
+    </message>
+</context>
+<context>
+    <name>HotKeys</name>
+    <message>
+        <source>GNOME&apos;s settings cannot be changed</source>
+        <translation>no se pueden cambiar los ajustes de GNOME</translation>
+    </message>
+    <message>
+        <source>your settings of GNOME have another entry in its place</source>
+        <translation>sus ajustes de GNOME tienen otra entrada en su lugar</translation>
+    </message>
+    <message>
+        <source>your own shortcut “%1” in GNOME&apos;s settings has it</source>
+        <translation>lo usa su atajo personalizado «%1» en los ajustes de GNOME</translation>
+    </message>
+    <message>
+        <source>GNOME has it for “%1”</source>
+        <translation>GNOME lo usa para «%1»</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
+        <translation>GNOME solo ofrece atajos de teclado en los ajustes del usuario, que Keyrill no tiene permiso para cambiar</translation>
+    </message>
+    <message>
+        <source>GNOME has no name for it</source>
+        <translation>GNOME no tiene ningún nombre para este atajo</translation>
+    </message>
+    <message>
+        <source>it has been taken out of GNOME&apos;s settings</source>
+        <translation>se ha quitado de los ajustes de GNOME</translation>
+    </message>
+    <message>
+        <source>KDE has no name for this key</source>
+        <translation>KDE no tiene ningún nombre para esta tecla</translation>
+    </message>
+    <message>
+        <source>KDE says: %1</source>
+        <translation>KDE dice: %1</translation>
+    </message>
+    <message>
+        <source>KDE uses it for something else</source>
+        <translation>KDE lo usa para otra cosa</translation>
+    </message>
+    <message>
+        <source>KDE does not give it</source>
+        <translation>KDE no lo concede</translation>
+    </message>
+    <message>
+        <source>%1 has it for “%2”</source>
+        <translation>%1 lo usa para «%2»</translation>
+    </message>
+    <message>
+        <source>the desktop has not granted it</source>
+        <translation>el escritorio no lo ha concedido</translation>
+    </message>
+    <message>
+        <source>you did not agree when the desktop asked</source>
+        <translation>usted no aceptó cuando el escritorio se lo pidió</translation>
+    </message>
+    <message>
+        <source>the desktop has not answered</source>
+        <translation>el escritorio no ha respondido</translation>
+    </message>
+    <message>
+        <source>the desktop has refused it</source>
+        <translation>el escritorio lo ha rechazado</translation>
+    </message>
+    <message>
+        <source>there is no session bus</source>
+        <translation>no hay ningún bus de sesión</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal does not answer</source>
+        <translation>el portal del escritorio no responde</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal gives no hot keys</source>
+        <translation>el portal del escritorio no ofrece atajos de teclado</translation>
+    </message>
+    <message>
+        <source>the desktop has taken it back</source>
+        <translation>el escritorio lo ha retirado</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal has ended</source>
+        <translation>el portal del escritorio se ha cerrado</translation>
+    </message>
+    <message>
+        <source>your configuration of sway binds it</source>
+        <translation>está asignado en su configuración de sway</translation>
+    </message>
+    <message>
+        <source>Choose another combination.</source>
+        <translation>Elija otra combinación.</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or allow it in the desktop&apos;s settings.</source>
+        <translation>Elija otra combinación o permita esta en los ajustes del escritorio.</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or free it in the program that holds it.</source>
+        <translation>Elija otra combinación o libere esta en el programa que la usa.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: %2.</source>
+        <extracomment>%1 is a combination of keys, %2 one of the reasons: another program holds it</extracomment>
+        <translation>No se puede usar %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the third level (AltGr).</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>No se puede usar %1: la distribución de teclado no tiene ninguna tecla para el tercer nivel (AltGr).</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the fifth level.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>No se puede usar %1: la distribución de teclado no tiene ninguna tecla para el quinto nivel.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for %2.</source>
+        <extracomment>%1 is a combination of keys, %2 a modifier: Super</extracomment>
+        <translation>No se puede usar %1: la distribución de teclado no tiene ninguna tecla para %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: Keyrill uses it for something else.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>No se puede usar %1: Keyrill lo usa para otra cosa.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: this desktop has no such key.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>No se puede usar %1: este escritorio no tiene esa tecla.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: nobody could type it any more.</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>No se puede usar %1: ya no se podría escribir con esa tecla.</translation>
+    </message>
+    <message>
+        <source>Add Ctrl, Alt or Super.</source>
+        <translation>Añada Ctrl, Alt o Súper.</translation>
+    </message>
+    <message>
+        <source>This compositor gives no hot keys to programs.</source>
+        <translation>Este compositor no ofrece atajos de teclado a los programas.</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
+        <translation>Asigne teclas a órdenes en los ajustes del propio compositor.</translation>
+    </message>
+    <message>
+        <source>this compositor gives no hot keys to programs</source>
+        <translation>este compositor no ofrece atajos de teclado a los programas</translation>
+    </message>
+    <message>
+        <source>another program holds it</source>
+        <translation>otro programa lo usa</translation>
+    </message>
+    <message>
+        <source>the X server refuses it with error %1</source>
+        <translation>el servidor X lo rechaza con el error %1</translation>
+    </message>
+    <message>
+        <source>the X server is gone</source>
+        <translation>el servidor X ha desaparecido</translation>
+    </message>
+</context>
+<context>
+    <name>Keyboards</name>
+    <message>
+        <source>The keyboard cannot be read: %1: %2.</source>
+        <translation>No se puede leer el teclado: %1: %2.</translation>
+    </message>
+    <message>
+        <source>Let the keyboard be read while a macro is recorded.</source>
+        <translation>Permita que se lea el teclado mientras se graba una macro.</translation>
+    </message>
+    <message>
+        <source>The keyboard can no longer be read: the permission has ended.</source>
+        <translation>Ya no se puede leer el teclado: el permiso ha dejado de ser válido.</translation>
+    </message>
+    <message>
+        <source>Another user&apos;s session may be in front, or the screen is locked.</source>
+        <translation>Puede que la sesión de otro usuario esté en primer plano o que la pantalla esté bloqueada.</translation>
+    </message>
+    <message>
+        <source>The keyboard cannot be read: there is no system bus.</source>
+        <translation>No se puede leer el teclado: no hay ningún bus del sistema.</translation>
+    </message>
+    <message>
+        <source>What it says stands in the system&apos;s journal: journalctl -u keyrill-access.</source>
+        <translation>Sus mensajes están en el registro del sistema: journalctl -u keyrill-access.</translation>
+    </message>
+    <message>
+        <source>The keyboard is no longer read: the service keyrill-access has ended.</source>
+        <translation>Ya no se lee el teclado: el servicio keyrill-access se ha detenido.</translation>
+    </message>
+    <message>
+        <source>Keyrill may not read the keyboard: permission was not given.</source>
+        <translation>Keyrill no puede leer el teclado: no se ha dado permiso.</translation>
+    </message>
+    <message>
+        <source>Record again and agree when you are asked for your password.</source>
+        <translation>Vuelva a grabar y acepte cuando se le pida la contraseña.</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access is not installed.</source>
+        <translation>Keyrill no puede leer el teclado: el servicio keyrill-access no está instalado.</translation>
+    </message>
+    <message>
+        <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, tools/access install.</source>
+        <translation>Instale el paquete keyrill-wayland-access o ejecute tools/access install en el código fuente de Keyrill.</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access does not work.</source>
+        <translation>Keyrill no puede leer el teclado: el servicio keyrill-access no funciona.</translation>
+    </message>
+    <message>
+        <source>A Wayland session shows this program nothing of what is typed in others.</source>
+        <translation>Una sesión de Wayland no muestra a este programa nada de lo que se escribe en otros.</translation>
+    </message>
+    <message>
+        <source>Record with keyrill itself, or use an X11 session.</source>
+        <translation>Grabe con el propio keyrill o use una sesión X11.</translation>
+    </message>
+</context>
+<context>
+    <name>Keys</name>
+    <message>
+        <source>This desktop lets no program press keys: no portal for it answers.</source>
+        <translation>Este escritorio no permite que ningún programa pulse teclas: no responde ningún portal para ello.</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the part of it that belongs to your desktop.</source>
+        <translation>Instale xdg-desktop-portal y la parte que corresponde a su escritorio.</translation>
+    </message>
+    <message>
+        <source>The desktop was not allowed to let Keyrill press keys.</source>
+        <translation>No se ha dado permiso al escritorio para que Keyrill pulse teclas.</translation>
+    </message>
+    <message>
+        <source>Play again, and agree when you are asked.</source>
+        <translation>Repita la reproducción y acepte cuando se le pregunte.</translation>
+    </message>
+    <message>
+        <source>The desktop has not answered whether Keyrill may press keys.</source>
+        <translation>El escritorio no ha indicado si Keyrill puede pulsar teclas.</translation>
+    </message>
+    <message>
+        <source>Play again; if nothing asks you, log in again.</source>
+        <translation>Repita la reproducción; si no se le pregunta nada, cierre la sesión y vuelva a iniciarla.</translation>
+    </message>
+    <message>
+        <source>The desktop no longer lets Keyrill press keys.</source>
+        <translation>El escritorio ya no permite que Keyrill pulse teclas.</translation>
+    </message>
+    <message>
+        <source>Play again; it may ask for your permission.</source>
+        <translation>Repita la reproducción; puede que el escritorio le pida permiso.</translation>
+    </message>
+    <message>
+        <source>The power key cannot be pressed by a script.</source>
+        <translation>Un script no puede pulsar la tecla de encendido.</translation>
+    </message>
+    <message>
+        <source>Take key code 127 out of the script.</source>
+        <translation>Quite el código de tecla 127 del script.</translation>
+    </message>
+    <message>
+        <source>The text to type is not UTF-8 at byte %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>El texto que se va a escribir no es UTF-8 en el byte %1.</translation>
+    </message>
+    <message>
+        <source>Save the script as UTF-8.</source>
+        <translation>Guarde el script como UTF-8.</translation>
+    </message>
+    <message>
+        <source>&quot;%1...&quot;</source>
+        <extracomment>The beginning of a text that is longer, in quotation marks.</extracomment>
+        <translation>«%1...»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <extracomment>A text in quotation marks.</extracomment>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2)</source>
+        <extracomment>%1 is a character, %2 its code: U+00E9</extracomment>
+        <translation>«%1» (%2)</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with the keyboard layout that is in force.</source>
+        <translation>El carácter %1 no se puede escribir con la distribución de teclado activa.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or switch to a layout that has it before you play.</source>
+        <translation>Quítelo del texto o cambie a una distribución que lo tenga antes de reproducir.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with your keyboard layouts.</source>
+        <translation>El carácter %1 no se puede escribir con sus distribuciones de teclado.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or add a layout that has it.</source>
+        <translation>Quítelo del texto o añada una distribución que lo tenga.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with this keyboard layout.</source>
+        <translation>El carácter %1 no se puede escribir con esta distribución de teclado.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or set a layout that has it.</source>
+        <translation>Quítelo del texto o establezca una distribución que lo tenga.</translation>
+    </message>
+    <message>
+        <source>The keymap for typing could not be made.</source>
+        <translation>No se ha podido crear el mapa de teclado para escribir.</translation>
+    </message>
+    <message>
+        <source>This compositor lets no program press keys.</source>
+        <translation>Este compositor no permite que ningún programa pulse teclas.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, or an X11 session.</source>
+        <translation>Use un compositor con teclados virtuales, como sway, o una sesión X11.</translation>
+    </message>
+    <message>
+        <source>A script is running already.</source>
+        <translation>Ya se está ejecutando un script.</translation>
+    </message>
+    <message>
+        <source>Wait for its end.</source>
+        <translation>Espere a que termine.</translation>
+    </message>
+    <message>
+        <source>The key %1 types no character.</source>
+        <translation>La tecla %1 no escribe ningún carácter.</translation>
+    </message>
+    <message>
+        <source>A Wayland session has no bell.</source>
+        <translation>Una sesión de Wayland no tiene timbre del sistema.</translation>
+    </message>
+    <message>
+        <source>Take the beep out of the script.</source>
+        <translation>Quite el pitido del script.</translation>
+    </message>
+    <message>
+        <source>KDE lets no program press keys: its portal does not answer.</source>
+        <translation>KDE no permite que ningún programa pulse teclas: su portal no responde.</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal-kde, or use an X11 session.</source>
+        <translation>Instale xdg-desktop-portal-kde o use una sesión X11.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, a desktop whose portal presses keys, such as KDE and GNOME, or an X11 session.</source>
+        <translation>Use un compositor con teclados virtuales, como sway, un escritorio cuyo portal pulse teclas, como KDE o GNOME, o una sesión X11.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout was changed while text was typed, which may have arrived as something else: %1.</source>
+        <translation>La distribución de teclado ha cambiado mientras se escribía un texto, que puede haber llegado distinto: %1.</translation>
+    </message>
+    <message>
+        <source>Play it again when the layout stays as it is.</source>
+        <translation>Repita la reproducción cuando la distribución ya no cambie.</translation>
+    </message>
+    <message>
+        <source>Another program holds the keyboard, so that no keys can be pressed.</source>
+        <translation>Otro programa ha capturado el teclado, por lo que no se puede pulsar ninguna tecla.</translation>
+    </message>
+    <message>
+        <source>Close the menu, the question or the screen lock that is open, and play again.</source>
+        <translation>Cierre el menú, la pregunta o el bloqueo de pantalla que esté abierto y repita la reproducción.</translation>
+    </message>
+    <message>
+        <source>The X server refuses to put characters on unused keys.</source>
+        <translation>El servidor X se niega a asignar caracteres a teclas sin usar.</translation>
+    </message>
+    <message>
+        <source>Use characters of the keyboard layout, or set another layout.</source>
+        <translation>Use caracteres de la distribución de teclado o establezca otra distribución.</translation>
+    </message>
+    <message>
+        <source>The program that is typed into reads nothing; not typed: %1.</source>
+        <translation>El programa en el que se escribe no lee nada; no se ha escrito: %1.</translation>
+    </message>
+    <message>
+        <source>Play it again when the program reads its keys.</source>
+        <translation>Repita la reproducción cuando el programa lea sus teclas.</translation>
+    </message>
+    <message>
+        <source>The program that was typed into has not read all of it.</source>
+        <translation>El programa en el que se ha escrito no lo ha leído todo.</translation>
+    </message>
+    <message>
+        <source>See whether it hangs; what it reads later may lack characters.</source>
+        <translation>Compruebe si está bloqueado; a lo que lea después pueden faltarle caracteres.</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.</source>
+        <translation>No se pueden grabar las repeticiones automáticas de las teclas mantenidas: el servidor X no tiene la extensión RECORD.</translation>
+    </message>
+    <message>
+        <source>A held key is recorded as one press. Switch the extension on in the settings of the X server.</source>
+        <translation>Una tecla mantenida se graba como una sola pulsación. Active la extensión en los ajustes del servidor X.</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys can no longer be recorded: the X server has ended it.</source>
+        <translation>Ya no se pueden grabar las repeticiones automáticas de las teclas mantenidas: el servidor X ha terminado esa grabación.</translation>
     </message>
 </context>
 <context>
@@ -809,6 +1800,64 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>No key of the present keyboard layout types &quot;%1&quot;.</source>
+        <extracomment>%1 is a character.</extracomment>
+        <translation>Ninguna tecla de la distribución de teclado actual escribe «%1».</translation>
+    </message>
+    <message>
+        <source>Convert the keys to text, which types any character.</source>
+        <translation>Convierta las teclas en texto, con el que se puede escribir cualquier carácter.</translation>
+    </message>
+    <message>
+        <source>GNOME lets no program switch the keyboard layout.</source>
+        <translation>GNOME no permite que ningún programa cambie la distribución de teclado.</translation>
+    </message>
+    <message>
+        <source>The desktop has no keyboard layout of that number.</source>
+        <translation>El escritorio no tiene ninguna distribución de teclado con ese número.</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program switch the keyboard layout.</source>
+        <translation>Este escritorio no permite que ningún programa cambie la distribución de teclado.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the third level (AltGr).</source>
+        <translation>La distribución de teclado no tiene ninguna tecla para el tercer nivel (AltGr).</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the fifth level.</source>
+        <translation>La distribución de teclado no tiene ninguna tecla para el quinto nivel.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for %1.</source>
+        <extracomment>%1 is a modifier: Super</extracomment>
+        <translation>La distribución de teclado no tiene ninguna tecla para %1.</translation>
+    </message>
+    <message>
+        <source>Choose a keyboard layout that has one.</source>
+        <translation>Elija una distribución de teclado que la tenga.</translation>
+    </message>
+    <message>
+        <source>The keyboard has no layout %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>El teclado no tiene la distribución %1.</translation>
+    </message>
+    <message>
+        <source>Add it to the keyboard layouts, or record the macro again.</source>
+        <translation>Añádala a las distribuciones de teclado o vuelva a grabar la macro.</translation>
+    </message>
+    <message>
+        <source>The keymap of the X server cannot be read.</source>
+        <translation>No se puede leer el mapa de teclado del servidor X.</translation>
+    </message>
+    <message>
+        <source>Set a keyboard layout, or log in again.</source>
+        <translation>Establezca una distribución de teclado, o cierre la sesión y vuelva a iniciarla.</translation>
+    </message>
+</context>
+<context>
     <name>LibraryController</name>
     <message>
         <source>&quot;%1&quot; was not played</source>
@@ -821,6 +1870,36 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <message>
         <source>The history</source>
         <translation>El historial</translation>
+    </message>
+</context>
+<context>
+    <name>LogIn</name>
+    <message>
+        <source>The file %1 cannot be removed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>No se puede eliminar el archivo %1: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write in its folder.</source>
+        <translation>Compruebe quién puede escribir en su carpeta.</translation>
+    </message>
+    <message>
+        <source>A program whose path has a percent sign cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>Un programa cuya ruta contiene un signo de porcentaje no se puede ejecutar automáticamente al iniciar sesión: %1</translation>
+    </message>
+    <message>
+        <source>Move the program to a folder without one.</source>
+        <translation>Mueva el programa a una carpeta cuya ruta no lo contenga.</translation>
+    </message>
+    <message>
+        <source>A program whose path is not UTF-8 cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>Un programa cuya ruta no es UTF-8 no se puede ejecutar automáticamente al iniciar sesión: %1</translation>
+    </message>
+    <message>
+        <source>Move the program to another folder.</source>
+        <translation>Mueva el programa a otra carpeta.</translation>
     </message>
 </context>
 <context>
@@ -1379,6 +2458,38 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
 </context>
 <context>
+    <name>Programs</name>
+    <message>
+        <source>The program &quot;%1&quot;, which presses keys by the desktop&apos;s portal, could not be started.</source>
+        <translation>No se ha podido iniciar el programa «%1», que pulsa teclas mediante el portal del escritorio.</translation>
+    </message>
+    <message>
+        <source>Install the program again.</source>
+        <translation>Vuelva a instalar el programa.</translation>
+    </message>
+    <message>
+        <source>A text with a zero byte cannot be opened.</source>
+        <translation>No se puede abrir un texto con un byte nulo.</translation>
+    </message>
+    <message>
+        <source>The program xdg-open cannot be started: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>No se puede iniciar el programa xdg-open: %1</translation>
+    </message>
+    <message>
+        <source>Install the package xdg-utils.</source>
+        <translation>Instale el paquete xdg-utils.</translation>
+    </message>
+    <message>
+        <source>The guard program &quot;%1&quot;, which releases keys after a crash, could not be started.</source>
+        <translation>No se ha podido iniciar el programa guardián «%1», que suelta las teclas tras un cierre inesperado.</translation>
+    </message>
+    <message>
+        <source>Install the program again; nothing is played without its guard.</source>
+        <translation>Vuelva a instalar el programa; sin su guardián no se reproduce nada.</translation>
+    </message>
+</context>
+<context>
     <name>RecordHerePanel</name>
     <message>
         <source>Record Here</source>
@@ -1542,6 +2653,121 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
 </context>
 <context>
+    <name>Session</name>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>No hay ningún bus de sesión.</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>Cierre la sesión y vuelva a iniciarla.</translation>
+    </message>
+    <message>
+        <source>sway does not answer at $SWAYSOCK.</source>
+        <translation>No hay respuesta de sway en $SWAYSOCK.</translation>
+    </message>
+    <message>
+        <source>Start the program in the session of sway.</source>
+        <translation>Inicie el programa en la sesión de sway.</translation>
+    </message>
+    <message>
+        <source>sway says: %1</source>
+        <translation>sway dice: %1</translation>
+    </message>
+    <message>
+        <source>There is no kind of session called &quot;%1&quot;.</source>
+        <translation>No existe ningún tipo de sesión llamado «%1».</translation>
+    </message>
+    <message>
+        <source>Choose one of these: %1.</source>
+        <translation>Elija uno de estos: %1.</translation>
+    </message>
+    <message>
+        <source>No kind of session is known.</source>
+        <translation>No se conoce ningún tipo de sesión.</translation>
+    </message>
+    <message>
+        <source>The connection to the compositor was lost.</source>
+        <translation>Se ha perdido la conexión con el compositor.</translation>
+    </message>
+    <message>
+        <source>No Wayland compositor answers at $WAYLAND_DISPLAY.</source>
+        <translation>No responde ningún compositor de Wayland en $WAYLAND_DISPLAY.</translation>
+    </message>
+    <message>
+        <source>Start the program in a Wayland session.</source>
+        <translation>Inicie el programa en una sesión de Wayland.</translation>
+    </message>
+    <message>
+        <source>The Wayland compositor is gone.</source>
+        <translation>El compositor de Wayland ha desaparecido.</translation>
+    </message>
+    <message>
+        <source>$WAYLAND_DISPLAY names no Wayland compositor.</source>
+        <translation>$WAYLAND_DISPLAY no indica ningún compositor de Wayland.</translation>
+    </message>
+    <message>
+        <source>The X server is gone.</source>
+        <translation>El servidor X ha desaparecido.</translation>
+    </message>
+    <message>
+        <source>This is a Wayland session without an X server.</source>
+        <translation>Esta es una sesión de Wayland sin servidor X.</translation>
+    </message>
+    <message>
+        <source>Install Xwayland, or switch it on in the desktop&apos;s settings, and log in again; or choose an X11 session when you log in.</source>
+        <translation>Instale Xwayland o actívelo en los ajustes del escritorio y, después, cierre la sesión y vuelva a iniciarla; o elija una sesión X11 al iniciar sesión.</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is no desktop session.</source>
+        <translation>Se necesita una sesión X11, y esta no es una sesión gráfica.</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is a Wayland session without an X server.</source>
+        <translation>Se necesita una sesión X11, y esta es una sesión de Wayland sin servidor X.</translation>
+    </message>
+    <message>
+        <source>Choose an X11 session when you log in.</source>
+        <translation>Elija una sesión X11 al iniciar sesión.</translation>
+    </message>
+    <message>
+        <source>The connection to the X server was lost.</source>
+        <translation>Se ha perdido la conexión con el servidor X.</translation>
+    </message>
+    <message>
+        <source>Use a newer X server, or switch the extension on in its settings.</source>
+        <translation>Use un servidor X más reciente o active la extensión en sus ajustes.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has no XInput.</source>
+        <translation>El servidor X debe tener XInput 2.2 o posterior, pero no tiene XInput.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but does not answer.</source>
+        <translation>El servidor X debe tener XInput 2.2 o posterior, pero no responde.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has %1.</source>
+        <translation>El servidor X debe tener XInput 2.2 o posterior, pero tiene la versión %1.</translation>
+    </message>
+    <message>
+        <source>The X server must have the XKB extension, but it cannot be used.</source>
+        <translation>El servidor X debe tener la extensión XKB, pero no se puede usar.</translation>
+    </message>
+    <message>
+        <source>The X server must have the XTEST extension, but it has not.</source>
+        <translation>El servidor X debe tener la extensión XTEST, pero no la tiene.</translation>
+    </message>
+    <message>
+        <source>The X server of display &quot;%1&quot; cannot be reached.</source>
+        <translation>No se puede acceder al servidor X de la pantalla «%1».</translation>
+    </message>
+    <message>
+        <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
+        <translation>Inicie el programa dentro de una sesión gráfica o asigne a DISPLAY un servidor X en ejecución.</translation>
+    </message>
+</context>
+<context>
     <name>SessionReport</name>
     <message>
         <source>, </source>
@@ -1679,6 +2905,72 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
         <source>%1; %2</source>
         <extracomment>the keyboard layouts, and the locks that are on</extracomment>
         <translation>%1; %2</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>It has a zero byte</source>
+        <translation>Contiene un byte nulo</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>El archivo de ajustes %1 no es un archivo de claves válido: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>El archivo de ajustes de las macros %1 no es un archivo de claves válido: %2</translation>
+    </message>
+    <message>
+        <source>The settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>No se puede crear la carpeta de ajustes %1: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>No se puede crear la carpeta de ajustes de las macros %1: %2</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and the settings begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>El archivo se ha renombrado a %1 y los ajustes se han restablecido.</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and hot keys, times and speeds begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>El archivo se ha renombrado a %1 y se han restablecido los atajos de teclado, el número de veces y las velocidades.</translation>
+    </message>
+    <message>
+        <source>Correct the file or remove it.</source>
+        <translation>Corrija el archivo o elimínelo.</translation>
+    </message>
+    <message>
+        <source>It could not be put aside either: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>Tampoco se ha podido apartar: %1</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>No se puede leer el archivo de ajustes %1: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>No se puede leer el archivo de ajustes de las macros %1: %2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>No se puede escribir el archivo de ajustes %1: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>No se puede escribir el archivo de ajustes de las macros %1: %2</translation>
     </message>
 </context>
 <context>
@@ -1959,6 +3251,70 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
 </context>
 <context>
+    <name>Warnings</name>
+    <message>
+        <source>This is typed as it stands; the key has a number: key code %1.</source>
+        <translation>Esto se escribe tal cual; la tecla tiene un número: key code %1.</translation>
+    </message>
+    <message>
+        <source>“%1” is typed as it stands. %2</source>
+        <extracomment>%1 is the name of a key in braces, %2 a sentence that says how the key is written.</extracomment>
+        <translation>«%1» se escribe tal cual. %2</translation>
+    </message>
+    <message>
+        <source>Key code %1 is an extension, which only Keyrill plays.</source>
+        <translation>El código de tecla %1 es una extensión que solo Keyrill reproduce.</translation>
+    </message>
+    <message>
+        <source>Key code %1 has no key; nothing is pressed.</source>
+        <translation>Al código de tecla %1 no le corresponde ninguna tecla; no se pulsa nada.</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record and no text; take: button returned of %1, or text returned of %1.</source>
+        <translation>Un diálogo devuelve un registro, no un texto; use: button returned of %1, o text returned of %1.</translation>
+    </message>
+    <message>
+        <source>An alert gives a record and no text; take: button returned of %1.</source>
+        <translation>Una alerta devuelve un registro, no un texto; use: button returned of %1.</translation>
+    </message>
+    <message>
+        <source>What was chosen comes in a list; take: item 1 of %1.</source>
+        <translation>Lo elegido se devuelve en una lista; use: item 1 of %1.</translation>
+    </message>
+    <message>
+        <source>The loop gives a reference, which equals no text; compare: contents of %1.</source>
+        <translation>El bucle da una referencia, que no es igual a ningún texto; compare: contents of %1.</translation>
+    </message>
+    <message>
+        <source>“%1” is taken as “%1 down”.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>«%1» se interpreta como «%1 down».</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to what “%2” is given; put parentheses round the command: (%2 …) %1 ….</source>
+        <extracomment>%1 is an operator, &quot;&gt;&quot;, %2 a command, &quot;count&quot;.</extracomment>
+        <translation>«%1» forma parte de lo que recibe «%2»; ponga la orden entre paréntesis: (%2 …) %1 ….</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds; %1 milliseconds are: delay %2.</source>
+        <translation>«delay» cuenta en segundos; %1 milisegundos son: delay %2.</translation>
+    </message>
+    <message>
+        <source>This is typed as it stands; a shortcut is written: keystroke &quot;%1&quot; using %2 down.</source>
+        <extracomment>%1 is a letter, %2 the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>Esto se escribe tal cual; un atajo se escribe así: keystroke &quot;%1&quot; using %2 down.</translation>
+    </message>
+    <message>
+        <source>A modifier is held with: key down shift, without quotes.</source>
+        <translation>Una tecla modificadora se mantiene pulsada con: key down shift, sin comillas.</translation>
+    </message>
+    <message>
+        <source>The variable %1 is never set. %2</source>
+        <extracomment>%2 is a sentence that says what may have been meant.</extracomment>
+        <translation>A la variable %1 nunca se le da un valor. %2</translation>
+    </message>
+</context>
+<context>
     <name>WelcomePanel</name>
     <message>
         <source>%1.</source>
@@ -2015,6 +3371,53 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <message>
         <source>Not set</source>
         <translation>Sin definir</translation>
+    </message>
+</context>
+<context>
+    <name>Windows</name>
+    <message>
+        <source>KWin does not tell of its windows.</source>
+        <translation>KWin no informa de sus ventanas.</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>Cierre la sesión y vuelva a iniciarla.</translation>
+    </message>
+    <message>
+        <source>No file could be written for KWin.</source>
+        <translation>No se ha podido escribir ningún archivo para KWin.</translation>
+    </message>
+    <message>
+        <source>Free some space.</source>
+        <translation>Libere espacio.</translation>
+    </message>
+    <message>
+        <source>KWin runs no scripts: %1</source>
+        <translation>KWin no ejecuta scripts: %1</translation>
+    </message>
+    <message>
+        <source>KWin does not show the window any more.</source>
+        <translation>KWin ya no muestra la ventana.</translation>
+    </message>
+    <message>
+        <source>Open it again.</source>
+        <translation>Vuelva a abrirla.</translation>
+    </message>
+    <message>
+        <source>This compositor tells nobody of windows.</source>
+        <translation>Este compositor no informa a nadie de las ventanas.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with toplevel management, such as sway, or an X11 session.</source>
+        <translation>Use un compositor con el protocolo toplevel management, como sway, o una sesión X11.</translation>
+    </message>
+    <message>
+        <source>No window of “%1” is open.</source>
+        <translation>No hay ninguna ventana de «%1» abierta.</translation>
+    </message>
+    <message>
+        <source>Start it first.</source>
+        <translation>Inicie primero el programa.</translation>
     </message>
 </context>
 </TS>

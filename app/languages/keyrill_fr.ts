@@ -231,7 +231,7 @@ Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
     </message>
     <message>
         <source>May Keyrill write its hot keys into GNOME&apos;s settings?</source>
-        <translation>Keyrill peut-il inscrire ses raccourcis clavier dans les réglages de GNOME ?</translation>
+        <translation>Keyrill peut-il inscrire ses raccourcis clavier dans les réglages de GNOME&#xa0;?</translation>
     </message>
     <message>
         <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings. Keyrill would write one there for each of its combinations, and take them out when it ends. It does not touch what is yours.
@@ -503,7 +503,7 @@ Vous pourrez changer d’avis dans les préférences de Keyrill.</translation>
     </message>
     <message>
         <source>by custom shortcuts in GNOME&apos;s settings while Keyrill runs, as you have agreed; the preferences take that back</source>
-        <translation>par des raccourcis personnalisés dans les réglages de GNOME tant que Keyrill fonctionne, comme vous l’avez accepté ; les préférences permettent d’y revenir</translation>
+        <translation>par des raccourcis personnalisés dans les réglages de GNOME tant que Keyrill fonctionne, comme vous l’avez accepté&#xa0;; les préférences permettent d’y revenir</translation>
     </message>
     <message>
         <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings, and you have not agreed that Keyrill writes them.</source>
@@ -511,7 +511,34 @@ Vous pourrez changer d’avis dans les préférences de Keyrill.</translation>
     </message>
     <message>
         <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
-        <translation>Cochez la case dans les préférences de Keyrill, ou associez vous-même, dans les réglages de GNOME, des touches à des commandes comme « keyrill --action=play ».</translation>
+        <translation>Cochez la case dans les préférences de Keyrill, ou associez vous-même, dans les réglages de GNOME, des touches à des commandes comme «&#xa0;keyrill --action=play&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>Clipboard</name>
+    <message>
+        <source>This compositor gives the clipboard to windows alone.</source>
+        <translation>Ce compositeur ne donne accès au presse-papiers qu’aux fenêtres.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with data control, such as sway, or an X11 session.</source>
+        <translation>Utilisez un compositeur avec contrôle des données (data control), comme sway, ou une session X11.</translation>
+    </message>
+    <message>
+        <source>No more files can be opened.</source>
+        <translation>Impossible d’ouvrir davantage de fichiers.</translation>
+    </message>
+    <message>
+        <source>Close programs.</source>
+        <translation>Fermez des programmes.</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is too long.</source>
+        <translation>Le texte du presse-papiers est trop long.</translation>
+    </message>
+    <message>
+        <source>The clipboard is held by another program.</source>
+        <translation>Le presse-papiers est occupé par un autre programme.</translation>
     </message>
 </context>
 <context>
@@ -531,6 +558,10 @@ Vous pourrez changer d’avis dans les préférences de Keyrill.</translation>
     <message>
         <source>Super</source>
         <translation>Super</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Ctrl</translation>
     </message>
 </context>
 <context>
@@ -690,6 +721,80 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
 </context>
 <context>
+    <name>Files</name>
+    <message>
+        <source>Line %1 has the byte %2 at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is a code: 0xE9</extracomment>
+        <translation>La ligne %1 contient l’octet %2 à la position %3, or un fichier de macro ne peut contenir que de l’ASCII.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character (%2) at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is the code of a character that cannot be shown: U+0085</extracomment>
+        <translation>La ligne %1 contient le caractère (%2) à la position %3, or un fichier de macro ne peut contenir que de l’ASCII.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character &quot;%2&quot; (%3) at place %4, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %4 are numbers, %2 is a character, %3 its code: U+00E9</extracomment>
+        <translation>La ligne %1 contient le caractère «&#xa0;%2&#xa0;» (%3) à la position %4, or un fichier de macro ne peut contenir que de l’ASCII.</translation>
+    </message>
+    <message>
+        <source>Replace the character in the macro.</source>
+        <translation>Remplacez ce caractère dans la macro.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be deleted: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Impossible de supprimer le fichier %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write to its folder, or delete it yourself.</source>
+        <translation>Vérifiez qui peut écrire dans son dossier, ou supprimez-le vous-même.</translation>
+    </message>
+    <message>
+        <source>It is a folder</source>
+        <translation>C’est un dossier</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>Choose a file.</source>
+        <translation>Choisissez un fichier.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Impossible de lire le fichier %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Impossible d’écrire le fichier %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>It is larger than %1 MiB</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Sa taille dépasse %1&#xa0;Mio</translation>
+    </message>
+    <message>
+        <source>Choose a smaller file.</source>
+        <translation>Choisissez un fichier plus petit.</translation>
+    </message>
+    <message>
+        <source>Choose another name.</source>
+        <translation>Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>Check that the file is there and who may read it.</source>
+        <translation>Vérifiez si le fichier existe et qui peut le lire.</translation>
+    </message>
+    <message>
+        <source>Make room, check who may write there, or choose another place.</source>
+        <translation>Libérez de l’espace, vérifiez qui peut écrire à cet emplacement ou choisissez-en un autre.</translation>
+    </message>
+</context>
+<context>
     <name>FilesDesk</name>
     <message>
         <source>&quot;%1&quot; was not loaded</source>
@@ -718,6 +823,892 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <message>
         <source>Press %1 to play it.</source>
         <translation>Appuyez sur %1 pour l’exécuter.</translation>
+    </message>
+</context>
+<context>
+    <name>Folders</name>
+    <message>
+        <source>The folder %1 cannot be made: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Impossible de créer le dossier %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write there.</source>
+        <translation>Vérifiez qui peut écrire à cet emplacement.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be read: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Impossible de lire le dossier %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Check who may read it.</source>
+        <translation>Vérifiez qui peut le lire.</translation>
+    </message>
+    <message>
+        <source>What changes in the folder %1 is not noticed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Les modifications dans le dossier %1 ne sont pas détectées&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Start Keyrill again after changes, or raise fs.inotify.max_user_watches.</source>
+        <translation>Relancez Keyrill après des modifications ou augmentez fs.inotify.max_user_watches.</translation>
+    </message>
+    <message>
+        <source>Make room, or check who may write there.</source>
+        <translation>Libérez de l’espace ou vérifiez qui peut écrire à cet emplacement.</translation>
+    </message>
+</context>
+<context>
+    <name>Hints</name>
+    <message>
+        <source>A handler is called with parentheses: %1().</source>
+        <translation>Un gestionnaire s’appelle avec des parenthèses&#xa0;: %1().</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1.</source>
+        <translation>La touche a un numéro&#xa0;: key code %1.</translation>
+    </message>
+    <message>
+        <source>Return is joined to a text so: &quot;hello&quot; &amp; return.</source>
+        <translation>La touche Entrée s’ajoute ainsi à un texte&#xa0;: &quot;hello&quot; &amp; return.</translation>
+    </message>
+    <message>
+        <source>Tab is joined to a text so: &quot;hello&quot; &amp; tab.</source>
+        <translation>La touche Tab s’ajoute ainsi à un texte&#xa0;: &quot;hello&quot; &amp; tab.</translation>
+    </message>
+    <message>
+        <source>A question is asked with: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</source>
+        <translation>Une question se pose ainsi&#xa0;: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</translation>
+    </message>
+    <message>
+        <source>A number by chance is: random number from 1 to 10.</source>
+        <translation>Un nombre aléatoire s’obtient ainsi&#xa0;: random number from 1 to 10.</translation>
+    </message>
+    <message>
+        <source>A loop is left with “exit repeat”, the script with “return”.</source>
+        <translation>On quitte une boucle avec «&#xa0;exit repeat&#xa0;», le script avec «&#xa0;return&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>Le texte se saisit avec «&#xa0;keystroke&#xa0;»&#xa0;: keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A pause is written in seconds: delay 2.</source>
+        <translation>Une pause s’écrit en secondes&#xa0;: delay 2.</translation>
+    </message>
+    <message>
+        <source>Errors are caught with: try … on error … end try.</source>
+        <translation>Les erreurs s’interceptent ainsi&#xa0;: try … on error … end try.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported; the commands are there from the start: delay 2, keystroke &quot;hello&quot;.</source>
+        <translation>Rien n’est importé&#xa0;; les commandes sont présentes dès le départ&#xa0;: delay 2, keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A value is printed with: log &quot;x&quot;. Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>Une valeur s’affiche ainsi&#xa0;: log &quot;x&quot;. Le texte se saisit avec «&#xa0;keystroke&#xa0;»&#xa0;: keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A message is shown with: display dialog &quot;hello&quot;.</source>
+        <translation>Un message s’affiche ainsi&#xa0;: display dialog &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>What has no value is written: missing value.</source>
+        <translation>Ce qui n’a pas de valeur s’écrit&#xa0;: missing value.</translation>
+    </message>
+    <message>
+        <source>A window is brought to the front with: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>Une fenêtre est amenée au premier plan ainsi&#xa0;: tell application &quot;Firefox&quot; to activate.</translation>
+    </message>
+    <message>
+        <source>A key code lies between 0 and %1; “keyrill-script keys” prints those that keys have.</source>
+        <translation>Un code de touche est compris entre 0 et %1&#xa0;; «&#xa0;keyrill-script keys&#xa0;» affiche ceux qui correspondent à des touches.</translation>
+    </message>
+    <message>
+        <source>A key code is a number; a text is typed with “keystroke”.</source>
+        <translation>Un code de touche est un nombre&#xa0;; un texte se saisit avec «&#xa0;keystroke&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1; “keyrill-script keys” prints all.</source>
+        <translation>La touche a un numéro&#xa0;: key code %1&#xa0;; «&#xa0;keyrill-script keys&#xa0;» les affiche tous.</translation>
+    </message>
+    <message>
+        <source>The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.</source>
+        <translation>Les parties d’une date sont year, month, day, weekday, hours, minutes, seconds et time.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>Vouliez-vous dire %1&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: delay 0.5.</source>
+        <translation>Les décimales se placent après un point&#xa0;: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds: delay 0.5.</source>
+        <translation>«&#xa0;delay&#xa0;» compte en secondes&#xa0;: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record; what was typed there is taken with: text returned of n.</source>
+        <translation>Une boîte de dialogue donne un enregistrement (record)&#xa0;; ce qui y a été saisi s’obtient ainsi&#xa0;: text returned of n.</translation>
+    </message>
+    <message>
+        <source>A modifier stands without quotes: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>Une touche de modification s’écrit sans guillemets&#xa0;: using %1 down.</translation>
+    </message>
+    <message>
+        <source>Several modifiers stand in braces: using {control down, shift down}.</source>
+        <translation>Plusieurs touches de modification s’écrivent entre accolades&#xa0;: using {control down, shift down}.</translation>
+    </message>
+    <message>
+        <source>Texts are joined with “&amp;”: &quot;one&quot; &amp; &quot;two&quot;.</source>
+        <translation>Les textes se joignent avec «&#xa0;&amp;&#xa0;»&#xa0;: &quot;one&quot; &amp; &quot;two&quot;.</translation>
+    </message>
+    <message>
+        <source>This compares and changes nothing; a variable is set with “to”: set %1 to …</source>
+        <translation>Ceci compare et ne change rien&#xa0;; une variable se définit avec «&#xa0;to&#xa0;»&#xa0;: set %1 to …</translation>
+    </message>
+    <message>
+        <source>The script has no handler of that name: on %1(…) … end %1.</source>
+        <translation>Le script n’a pas de gestionnaire de ce nom&#xa0;: on %1(…) … end %1.</translation>
+    </message>
+    <message>
+        <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
+        <translation>Les programmes n’acceptent aucune autre commande que «&#xa0;activate&#xa0;»&#xa0;; pressez leurs touches&#xa0;: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>Les touches de modification s’appellent command (Super), control (Ctrl), option (Alt) et shift&#xa0;: using %1 down.</translation>
+    </message>
+    <message>
+        <source>An application is named: application &quot;%1&quot;.</source>
+        <translation>Une application se désigne ainsi&#xa0;: application &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>Le texte s’écrit entre guillemets droits&#xa0;: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A handler has variables of its own; to share this one write there: global %1.</source>
+        <translation>Un gestionnaire a ses propres variables&#xa0;; pour partager celle-ci, écrivez-y&#xa0;: global %1.</translation>
+    </message>
+    <message>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>Une variable se définit avant d’être utilisée&#xa0;: set %1 to … Le texte s’écrit entre guillemets droits&#xa0;: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
+        <translation>Une touche se presse par son numéro&#xa0;: key code 36 est la touche Entrée. «&#xa0;keyrill-script keys&#xa0;» affiche tous les numéros.</translation>
+    </message>
+    <message>
+        <source>The date of today is “current date”; as a text: short date string of (current date).</source>
+        <translation>La date du jour est «&#xa0;current date&#xa0;»&#xa0;; sous forme de texte&#xa0;: short date string of (current date).</translation>
+    </message>
+    <message>
+        <source>Inside “tell” the script’s own handlers are called with “my”: my %1(…).</source>
+        <translation>Dans «&#xa0;tell&#xa0;», les gestionnaires propres au script s’appellent avec «&#xa0;my&#xa0;»&#xa0;: my %1(…).</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>Aucun bloc n’est ouvert ici&#xa0;; un «&#xa0;if&#xa0;» avec son instruction sur la même ligne n’a pas de «&#xa0;else&#xa0;».</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>Aucun bloc n’est ouvert ici&#xa0;; un «&#xa0;if&#xa0;» avec son instruction sur la même ligne n’a pas de «&#xa0;end if&#xa0;».</translation>
+    </message>
+    <message>
+        <source>No block is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>Aucun bloc n’est ouvert ici&#xa0;; un «&#xa0;tell … to&#xa0;» sur une seule ligne n’a pas de «&#xa0;end tell&#xa0;».</translation>
+    </message>
+    <message>
+        <source>No block is open here; this line is one too many.</source>
+        <translation>Aucun bloc n’est ouvert ici&#xa0;; cette ligne est en trop.</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>Aucun «&#xa0;if&#xa0;» n’est ouvert ici&#xa0;; un «&#xa0;if&#xa0;» avec son instruction sur la même ligne n’a pas de «&#xa0;else&#xa0;».</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>Aucun «&#xa0;if&#xa0;» n’est ouvert ici&#xa0;; un «&#xa0;if&#xa0;» avec son instruction sur la même ligne n’a pas de «&#xa0;end if&#xa0;».</translation>
+    </message>
+    <message>
+        <source>No “tell” is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>Aucun «&#xa0;tell&#xa0;» n’est ouvert ici&#xa0;; un «&#xa0;tell … to&#xa0;» sur une seule ligne n’a pas de «&#xa0;end tell&#xa0;».</translation>
+    </message>
+    <message>
+        <source>No “%1” is open here; the block that begins in line %2 has no “end” of its own.</source>
+        <extracomment>%1 is the first word of a block, &quot;repeat&quot;, %2 a number.</extracomment>
+        <translation>Aucun «&#xa0;%1&#xa0;» n’est ouvert ici&#xa0;; le bloc qui commence à la ligne %2 n’a pas de «&#xa0;end&#xa0;» propre.</translation>
+    </message>
+    <message>
+        <source>In line %1 these are two words: %2.</source>
+        <extracomment>%1 is a number, %2 what the line was meant to be, &quot;end if&quot;.</extracomment>
+        <translation>À la ligne %1, il s’agit de deux mots&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The block that begins in line %1 has no “end” of its own.</source>
+        <translation>Le bloc qui commence à la ligne %1 n’a pas de «&#xa0;end&#xa0;» propre.</translation>
+    </message>
+    <message>
+        <source>The text that begins here is not closed by a straight quote in its line.</source>
+        <translation>Le texte qui commence ici n’est pas fermé par un guillemet droit sur sa ligne.</translation>
+    </message>
+    <message>
+        <source>The comment that begins in line %1 is not closed by “*)”.</source>
+        <translation>Le commentaire qui commence à la ligne %1 n’est pas fermé par «&#xa0;*)&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The keyboard commands stand inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Les commandes du clavier se placent dans «&#xa0;tell application &quot;System Events&quot;&#xa0;» … «&#xa0;end tell&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Modifiers are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Les touches de modification sont connues dans «&#xa0;tell application &quot;System Events&quot;&#xa0;» … «&#xa0;end tell&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Processes are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Les processus sont connus dans «&#xa0;tell application &quot;System Events&quot;&#xa0;» … «&#xa0;end tell&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Put straight quotes (&quot;) in place of the curly ones.</source>
+        <translation>Mettez des guillemets droits (&quot;) à la place des guillemets typographiques.</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to 5.</source>
+        <translation>Une variable se définit avec «&#xa0;to&#xa0;»&#xa0;: set x to 5.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat with i from 1 to 5 … end repeat.</source>
+        <translation>Une boucle s’écrit&#xa0;: repeat with i from 1 to 5 … end repeat.</translation>
+    </message>
+    <message>
+        <source>A handler is written: on greet(x) … end greet.</source>
+        <translation>Un gestionnaire s’écrit&#xa0;: on greet(x) … end greet.</translation>
+    </message>
+    <message>
+        <source>Several stand in braces: {control down, shift down}, {36, 48}.</source>
+        <translation>Plusieurs s’écrivent entre accolades&#xa0;: {control down, shift down}, {36, 48}.</translation>
+    </message>
+    <message>
+        <source>These are two words: else if … then.</source>
+        <translation>Il s’agit de deux mots&#xa0;: else if … then.</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, and Return joined with “&amp;”: keystroke &quot;hello&quot; &amp; return.</source>
+        <translation>Le texte se saisit avec «&#xa0;keystroke&#xa0;», et la touche Entrée s’ajoute avec «&#xa0;&amp;&#xa0;»&#xa0;: keystroke &quot;hello&quot; &amp; return.</translation>
+    </message>
+    <message>
+        <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
+        <translation>Une touche est pressée puis relâchée ainsi&#xa0;: keystroke return, key code 53. Elle est maintenue avec&#xa0;: key down 36, et relâchée avec&#xa0;: key up 36.</translation>
+    </message>
+    <message>
+        <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
+        <translation>Une macro n’a pas de souris&#xa0;; pressez les touches qui font la même chose, comme Tab et Entrée.</translation>
+    </message>
+    <message>
+        <source>Conditions are joined with “and” or “or”.</source>
+        <translation>Les conditions se joignent avec «&#xa0;and&#xa0;» ou «&#xa0;or&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Of a process its name is known, and whether it is in front: every process whose name contains &quot;fire&quot;.</source>
+        <translation>D’un processus, on connaît le nom et on sait s’il est au premier plan&#xa0;: every process whose name contains &quot;fire&quot;.</translation>
+    </message>
+    <message>
+        <source>Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.</source>
+        <translation>Les fenêtres, les boutons et les menus ne sont pas visibles pour une macro&#xa0;; pressez les touches qui font la même chose.</translation>
+    </message>
+    <message>
+        <source>Modifiers stand behind “using”: keystroke &quot;s&quot; using control down.</source>
+        <translation>Les touches de modification se placent après «&#xa0;using&#xa0;»&#xa0;: keystroke &quot;s&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.</source>
+        <translation>Ce qui se fait plusieurs fois se place sur ses propres lignes entre «&#xa0;repeat 5 times&#xa0;» et «&#xa0;end repeat&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Each statement has a line of its own.</source>
+        <translation>Chaque instruction a sa propre ligne.</translation>
+    </message>
+    <message>
+        <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
+        <translation>Une macro n’a pas de fichiers&#xa0;; un texte vient de «&#xa0;the clipboard&#xa0;» ou d’une boîte de dialogue.</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to x + 1.</source>
+        <translation>Une variable se définit avec «&#xa0;to&#xa0;»&#xa0;: set x to x + 1.</translation>
+    </message>
+    <message>
+        <source>A parenthesis is not closed in this line.</source>
+        <translation>Une parenthèse n’est pas fermée sur cette ligne.</translation>
+    </message>
+    <message>
+        <source>A brace is not closed in this line.</source>
+        <translation>Une accolade n’est pas fermée sur cette ligne.</translation>
+    </message>
+    <message>
+        <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>Pressez les touches qui le lancent, ou amenez une fenêtre au premier plan&#xa0;: tell application &quot;Firefox&quot; to activate.</translation>
+    </message>
+    <message>
+        <source>Write the command by its name.</source>
+        <translation>Écrivez la commande par son nom.</translation>
+    </message>
+    <message>
+        <source>A shortcut is written: keystroke &quot;c&quot; using control down.</source>
+        <translation>Une combinaison de touches s’écrit&#xa0;: keystroke &quot;c&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat.</source>
+        <translation>Seuls les processus se choisissent avec «&#xa0;whose&#xa0;»&#xa0;; parcourez une liste avec&#xa0;: repeat with x in theList … end repeat.</translation>
+    </message>
+    <message>
+        <source>Behind “default answer” stands a text, be it empty: default answer &quot;&quot;.</source>
+        <translation>Après «&#xa0;default answer&#xa0;» vient un texte, fût-il vide&#xa0;: default answer &quot;&quot;.</translation>
+    </message>
+    <message>
+        <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
+        <translation>Un «&#xa0;if&#xa0;» sur une seule ligne n’a pas de «&#xa0;else&#xa0;»&#xa0;; écrivez-le sur plusieurs lignes, avec «&#xa0;end if&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: 0.5.</source>
+        <translation>Les décimales se placent après un point&#xa0;: 0.5.</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds, without a unit: delay 0.5.</source>
+        <translation>«&#xa0;delay&#xa0;» compte en secondes, sans unité&#xa0;: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>A key is let go with: key up &quot;a&quot;.</source>
+        <translation>Une touche se relâche ainsi&#xa0;: key up &quot;a&quot;.</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, a key is pressed by its number: key code 36.</source>
+        <translation>Le texte se saisit avec «&#xa0;keystroke&#xa0;», une touche se presse par son numéro&#xa0;: key code 36.</translation>
+    </message>
+    <message>
+        <source>A key is held with “key down” and let go with “key up”: key down shift.</source>
+        <translation>Une touche se maintient avec «&#xa0;key down&#xa0;» et se relâche avec «&#xa0;key up&#xa0;»&#xa0;: key down shift.</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is: the clipboard.</source>
+        <translation>Le texte du presse-papiers s’obtient ainsi&#xa0;: the clipboard.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat 5 times … end repeat.</source>
+        <translation>Une boucle s’écrit&#xa0;: repeat 5 times … end repeat.</translation>
+    </message>
+    <message>
+        <source>Behind the name stands “to”, or the line ends there: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</source>
+        <translation>Après le nom vient «&#xa0;to&#xa0;», ou la ligne s’arrête là&#xa0;: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</translation>
+    </message>
+    <message>
+        <source>The name stands between straight quotes: tell application &quot;System Events&quot;.</source>
+        <translation>Le nom s’écrit entre guillemets droits&#xa0;: tell application &quot;System Events&quot;.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat while x &lt; 5 … end repeat.</source>
+        <translation>Une boucle s’écrit&#xa0;: repeat while x &lt; 5 … end repeat.</translation>
+    </message>
+    <message>
+        <source>A comment begins with -- or #.</source>
+        <translation>Un commentaire commence par -- ou #.</translation>
+    </message>
+    <message>
+        <source>A comment over lines is written (* … *).</source>
+        <translation>Un commentaire sur plusieurs lignes s’écrit (* … *).</translation>
+    </message>
+    <message>
+        <source>“Equal” is written with one =.</source>
+        <translation>«&#xa0;Égal&#xa0;» s’écrit avec un seul =.</translation>
+    </message>
+    <message>
+        <source>A text is not closed by a straight quote.</source>
+        <translation>Un texte n’est pas fermé par un guillemet droit.</translation>
+    </message>
+    <message>
+        <source>A backslash in a text is written twice: &quot;C:\\Users&quot;.</source>
+        <translation>Une barre oblique inverse dans un texte s’écrit deux fois&#xa0;: &quot;C:\\Users&quot;.</translation>
+    </message>
+    <message>
+        <source>Behind “as” stands a class: text, integer, real, number, boolean, list, record, date.</source>
+        <translation>Après «&#xa0;as&#xa0;» vient une classe&#xa0;: text, integer, real, number, boolean, list, record, date.</translation>
+    </message>
+    <message>
+        <source>A block has no braces: if x = 1 then … end if.</source>
+        <translation>Un bloc n’a pas d’accolades&#xa0;: if x = 1 then … end if.</translation>
+    </message>
+    <message>
+        <source>A block has no braces; it ends with “end” and its first word: end repeat.</source>
+        <translation>Un bloc n’a pas d’accolades&#xa0;; il se termine par «&#xa0;end&#xa0;» et son premier mot&#xa0;: end repeat.</translation>
+    </message>
+    <message>
+        <source>A line needs no colon at its end.</source>
+        <translation>Une ligne n’a pas besoin de deux-points à la fin.</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|.</source>
+        <translation>Un nom contenant d’autres lettres que A à Z s’écrit entre barres verticales&#xa0;: |%1|.</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|. Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>Un nom contenant d’autres lettres que A à Z s’écrit entre barres verticales&#xa0;: |%1|. Le texte s’écrit entre guillemets droits&#xa0;: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A sign that nobody sees stands here; delete it.</source>
+        <translation>Il y a ici un caractère invisible&#xa0;; supprimez-le.</translation>
+    </message>
+    <message>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
+        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <translation>Un raccourci clavier ne fait pas partie d’un script&#xa0;; il se définit dans les préférences, ou pour chaque macro dans «&#xa0;Macros…&#xa0;».</translation>
+    </message>
+    <message>
+        <source>“Not equal” is written ≠ or /=.</source>
+        <translation>«&#xa0;Différent&#xa0;» s’écrit ≠ ou /=.</translation>
+    </message>
+    <message>
+        <source>An item is taken by its number: item 1 of x.</source>
+        <translation>Un élément s’obtient par son numéro&#xa0;: item 1 of x.</translation>
+    </message>
+    <message>
+        <source>What belongs to a value is taken with “of”: length of x.</source>
+        <translation>Ce qui appartient à une valeur s’obtient avec «&#xa0;of&#xa0;»&#xa0;: length of x.</translation>
+    </message>
+    <message>
+        <source>A list stands in braces: {1, 2}.</source>
+        <translation>Une liste s’écrit entre accolades&#xa0;: {1, 2}.</translation>
+    </message>
+    <message>
+        <source>The rest of a division is written: 7 mod 2.</source>
+        <translation>Le reste d’une division s’écrit&#xa0;: 7 mod 2.</translation>
+    </message>
+    <message>
+        <source>Text stands between straight double quotes (&quot;).</source>
+        <translation>Le texte s’écrit entre guillemets droits doubles (&quot;).</translation>
+    </message>
+    <message>
+        <source>A quote inside a text is written \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</source>
+        <translation>Un guillemet à l’intérieur d’un texte s’écrit \&quot;&#xa0;: &quot;Hello \&quot;world\&quot;&quot;.</translation>
+    </message>
+    <message>
+        <source>Take the items in parts, or paragraphs instead of characters.</source>
+        <translation>Prenez les éléments par parties, ou des paragraphes au lieu de caractères.</translation>
+    </message>
+</context>
+<context>
+    <name>HotKeys</name>
+    <message>
+        <source>GNOME&apos;s settings cannot be changed</source>
+        <translation>les réglages de GNOME ne peuvent pas être modifiés</translation>
+    </message>
+    <message>
+        <source>your settings of GNOME have another entry in its place</source>
+        <translation>vos réglages de GNOME contiennent une autre entrée à sa place</translation>
+    </message>
+    <message>
+        <source>your own shortcut “%1” in GNOME&apos;s settings has it</source>
+        <translation>votre raccourci personnalisé «&#xa0;%1&#xa0;» dans les réglages de GNOME utilise cette combinaison</translation>
+    </message>
+    <message>
+        <source>GNOME has it for “%1”</source>
+        <translation>GNOME utilise cette combinaison pour «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
+        <translation>GNOME ne fournit de raccourcis clavier que dans vos propres réglages, que Keyrill n’est pas autorisé à modifier</translation>
+    </message>
+    <message>
+        <source>GNOME has no name for it</source>
+        <translation>GNOME n’a pas de nom pour cette combinaison</translation>
+    </message>
+    <message>
+        <source>it has been taken out of GNOME&apos;s settings</source>
+        <translation>le raccourci a été retiré des réglages de GNOME</translation>
+    </message>
+    <message>
+        <source>KDE has no name for this key</source>
+        <translation>KDE n’a pas de nom pour cette touche</translation>
+    </message>
+    <message>
+        <source>KDE says: %1</source>
+        <translation>KDE indique&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>KDE uses it for something else</source>
+        <translation>KDE utilise cette combinaison pour autre chose</translation>
+    </message>
+    <message>
+        <source>KDE does not give it</source>
+        <translation>KDE ne fournit pas cette combinaison</translation>
+    </message>
+    <message>
+        <source>%1 has it for “%2”</source>
+        <translation>%1 utilise cette combinaison pour «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the desktop has not granted it</source>
+        <translation>le bureau n’a pas accordé cette combinaison</translation>
+    </message>
+    <message>
+        <source>you did not agree when the desktop asked</source>
+        <translation>vous n’avez pas accepté lorsque le bureau l’a demandé</translation>
+    </message>
+    <message>
+        <source>the desktop has not answered</source>
+        <translation>le bureau n’a pas répondu</translation>
+    </message>
+    <message>
+        <source>the desktop has refused it</source>
+        <translation>le bureau a refusé cette combinaison</translation>
+    </message>
+    <message>
+        <source>there is no session bus</source>
+        <translation>il n’y a pas de bus de session</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal does not answer</source>
+        <translation>le portail du bureau ne répond pas</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal gives no hot keys</source>
+        <translation>le portail du bureau ne fournit pas de raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>the desktop has taken it back</source>
+        <translation>le bureau a repris cette combinaison</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal has ended</source>
+        <translation>le portail du bureau s’est arrêté</translation>
+    </message>
+    <message>
+        <source>your configuration of sway binds it</source>
+        <translation>votre configuration de sway utilise cette combinaison</translation>
+    </message>
+    <message>
+        <source>Choose another combination.</source>
+        <translation>Choisissez une autre combinaison.</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or allow it in the desktop&apos;s settings.</source>
+        <translation>Choisissez une autre combinaison ou autorisez celle-ci dans les réglages du bureau.</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or free it in the program that holds it.</source>
+        <translation>Choisissez une autre combinaison ou libérez celle-ci dans le programme qui l’utilise.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: %2.</source>
+        <extracomment>%1 is a combination of keys, %2 one of the reasons: another program holds it</extracomment>
+        <translation>Impossible d’utiliser %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the third level (AltGr).</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Impossible d’utiliser %1&#xa0;: la disposition de clavier n’a pas de touche pour le niveau 3 (AltGr).</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the fifth level.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Impossible d’utiliser %1&#xa0;: la disposition de clavier n’a pas de touche pour le niveau 5.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for %2.</source>
+        <extracomment>%1 is a combination of keys, %2 a modifier: Super</extracomment>
+        <translation>Impossible d’utiliser %1&#xa0;: la disposition de clavier n’a pas de touche pour %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: Keyrill uses it for something else.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Impossible d’utiliser %1&#xa0;: Keyrill utilise cette combinaison pour autre chose.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: this desktop has no such key.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Impossible d’utiliser %1&#xa0;: ce bureau n’a pas cette touche.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: nobody could type it any more.</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>Impossible d’utiliser %1&#xa0;: plus personne ne pourrait taper avec cette touche.</translation>
+    </message>
+    <message>
+        <source>Add Ctrl, Alt or Super.</source>
+        <translation>Ajoutez Ctrl, Alt ou Super.</translation>
+    </message>
+    <message>
+        <source>This compositor gives no hot keys to programs.</source>
+        <translation>Ce compositeur ne fournit pas de raccourcis clavier aux programmes.</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
+        <translation>Dans les réglages du compositeur, associez des touches à des commandes.</translation>
+    </message>
+    <message>
+        <source>this compositor gives no hot keys to programs</source>
+        <translation>ce compositeur ne fournit pas de raccourcis clavier aux programmes</translation>
+    </message>
+    <message>
+        <source>another program holds it</source>
+        <translation>un autre programme utilise cette combinaison</translation>
+    </message>
+    <message>
+        <source>the X server refuses it with error %1</source>
+        <translation>le serveur X refuse cette combinaison avec l’erreur %1</translation>
+    </message>
+    <message>
+        <source>the X server is gone</source>
+        <translation>le serveur X a disparu</translation>
+    </message>
+</context>
+<context>
+    <name>Keyboards</name>
+    <message>
+        <source>The keyboard cannot be read: %1: %2.</source>
+        <translation>Impossible de lire le clavier&#xa0;: %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>Let the keyboard be read while a macro is recorded.</source>
+        <translation>Autorisez la lecture du clavier pendant l’enregistrement d’une macro.</translation>
+    </message>
+    <message>
+        <source>The keyboard can no longer be read: the permission has ended.</source>
+        <translation>Le clavier ne peut plus être lu&#xa0;: l’autorisation a pris fin.</translation>
+    </message>
+    <message>
+        <source>Another user&apos;s session may be in front, or the screen is locked.</source>
+        <translation>La session d’un autre utilisateur est peut-être au premier plan, ou l’écran est verrouillé.</translation>
+    </message>
+    <message>
+        <source>The keyboard cannot be read: there is no system bus.</source>
+        <translation>Impossible de lire le clavier&#xa0;: il n’y a pas de bus système.</translation>
+    </message>
+    <message>
+        <source>What it says stands in the system&apos;s journal: journalctl -u keyrill-access.</source>
+        <translation>Ses messages se trouvent dans le journal du système&#xa0;: journalctl -u keyrill-access.</translation>
+    </message>
+    <message>
+        <source>The keyboard is no longer read: the service keyrill-access has ended.</source>
+        <translation>Le clavier n’est plus lu&#xa0;: le service keyrill-access s’est arrêté.</translation>
+    </message>
+    <message>
+        <source>Keyrill may not read the keyboard: permission was not given.</source>
+        <translation>Keyrill ne peut pas lire le clavier&#xa0;: l’autorisation n’a pas été accordée.</translation>
+    </message>
+    <message>
+        <source>Record again and agree when you are asked for your password.</source>
+        <translation>Relancez l’enregistrement et acceptez lorsque votre mot de passe vous est demandé.</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access is not installed.</source>
+        <translation>Keyrill ne peut pas lire le clavier&#xa0;: le service keyrill-access n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, tools/access install.</source>
+        <translation>Installez le paquet keyrill-wayland-access ou, depuis les sources de Keyrill, exécutez tools/access install.</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access does not work.</source>
+        <translation>Keyrill ne peut pas lire le clavier&#xa0;: le service keyrill-access ne fonctionne pas.</translation>
+    </message>
+    <message>
+        <source>A Wayland session shows this program nothing of what is typed in others.</source>
+        <translation>Une session Wayland ne montre à ce programme rien de ce qui est saisi dans les autres.</translation>
+    </message>
+    <message>
+        <source>Record with keyrill itself, or use an X11 session.</source>
+        <translation>Enregistrez avec keyrill lui-même ou utilisez une session X11.</translation>
+    </message>
+</context>
+<context>
+    <name>Keys</name>
+    <message>
+        <source>This desktop lets no program press keys: no portal for it answers.</source>
+        <translation>Ce bureau ne laisse aucun programme presser des touches&#xa0;: aucun portail prévu pour cela ne répond.</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the part of it that belongs to your desktop.</source>
+        <translation>Installez xdg-desktop-portal et la partie de celui-ci qui correspond à votre bureau.</translation>
+    </message>
+    <message>
+        <source>The desktop was not allowed to let Keyrill press keys.</source>
+        <translation>Le bureau n’a pas été autorisé à laisser Keyrill presser des touches.</translation>
+    </message>
+    <message>
+        <source>Play again, and agree when you are asked.</source>
+        <translation>Exécutez la macro à nouveau et acceptez lorsque cela vous est demandé.</translation>
+    </message>
+    <message>
+        <source>The desktop has not answered whether Keyrill may press keys.</source>
+        <translation>Le bureau n’a pas indiqué si Keyrill peut presser des touches.</translation>
+    </message>
+    <message>
+        <source>Play again; if nothing asks you, log in again.</source>
+        <translation>Exécutez la macro à nouveau&#xa0;; si rien ne vous est demandé, fermez la session et rouvrez-la.</translation>
+    </message>
+    <message>
+        <source>The desktop no longer lets Keyrill press keys.</source>
+        <translation>Le bureau ne laisse plus Keyrill presser des touches.</translation>
+    </message>
+    <message>
+        <source>Play again; it may ask for your permission.</source>
+        <translation>Exécutez la macro à nouveau&#xa0;; votre autorisation vous sera peut-être demandée.</translation>
+    </message>
+    <message>
+        <source>The power key cannot be pressed by a script.</source>
+        <translation>Un script ne peut pas presser la touche d’alimentation.</translation>
+    </message>
+    <message>
+        <source>Take key code 127 out of the script.</source>
+        <translation>Retirez le code de touche 127 du script.</translation>
+    </message>
+    <message>
+        <source>The text to type is not UTF-8 at byte %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Le texte à saisir n’est pas de l’UTF-8 à l’octet %1.</translation>
+    </message>
+    <message>
+        <source>Save the script as UTF-8.</source>
+        <translation>Sauvegardez le script en UTF-8.</translation>
+    </message>
+    <message>
+        <source>&quot;%1...&quot;</source>
+        <extracomment>The beginning of a text that is longer, in quotation marks.</extracomment>
+        <translation>«&#xa0;%1...&#xa0;»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <extracomment>A text in quotation marks.</extracomment>
+        <translation>«&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2)</source>
+        <extracomment>%1 is a character, %2 its code: U+00E9</extracomment>
+        <translation>«&#xa0;%1&#xa0;» (%2)</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with the keyboard layout that is in force.</source>
+        <translation>Le caractère %1 ne peut pas être saisi avec la disposition de clavier active.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or switch to a layout that has it before you play.</source>
+        <translation>Retirez-le du texte ou passez à une disposition qui le contient avant d’exécuter la macro.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with your keyboard layouts.</source>
+        <translation>Le caractère %1 ne peut pas être saisi avec vos dispositions de clavier.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or add a layout that has it.</source>
+        <translation>Retirez-le du texte ou ajoutez une disposition qui le contient.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with this keyboard layout.</source>
+        <translation>Le caractère %1 ne peut pas être saisi avec cette disposition de clavier.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or set a layout that has it.</source>
+        <translation>Retirez-le du texte ou définissez une disposition qui le contient.</translation>
+    </message>
+    <message>
+        <source>The keymap for typing could not be made.</source>
+        <translation>La carte de clavier pour la saisie n’a pas pu être créée.</translation>
+    </message>
+    <message>
+        <source>This compositor lets no program press keys.</source>
+        <translation>Ce compositeur ne laisse aucun programme presser des touches.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, or an X11 session.</source>
+        <translation>Utilisez un compositeur avec claviers virtuels, comme sway, ou une session X11.</translation>
+    </message>
+    <message>
+        <source>A script is running already.</source>
+        <translation>Un script est déjà en cours d’exécution.</translation>
+    </message>
+    <message>
+        <source>Wait for its end.</source>
+        <translation>Attendez qu’il se termine.</translation>
+    </message>
+    <message>
+        <source>The key %1 types no character.</source>
+        <translation>La touche %1 ne produit aucun caractère.</translation>
+    </message>
+    <message>
+        <source>A Wayland session has no bell.</source>
+        <translation>Une session Wayland n’a pas de signal sonore.</translation>
+    </message>
+    <message>
+        <source>Take the beep out of the script.</source>
+        <translation>Retirez le signal sonore du script.</translation>
+    </message>
+    <message>
+        <source>KDE lets no program press keys: its portal does not answer.</source>
+        <translation>KDE ne laisse aucun programme presser des touches&#xa0;: son portail ne répond pas.</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal-kde, or use an X11 session.</source>
+        <translation>Installez xdg-desktop-portal-kde ou utilisez une session X11.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, a desktop whose portal presses keys, such as KDE and GNOME, or an X11 session.</source>
+        <translation>Utilisez un compositeur avec claviers virtuels, comme sway, un bureau dont le portail presse des touches, comme KDE ou GNOME, ou une session X11.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout was changed while text was typed, which may have arrived as something else: %1.</source>
+        <translation>La disposition de clavier a changé pendant la saisie d’un texte, qui est peut-être arrivé sous une autre forme&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Play it again when the layout stays as it is.</source>
+        <translation>Exécutez la macro à nouveau quand la disposition ne change plus.</translation>
+    </message>
+    <message>
+        <source>Another program holds the keyboard, so that no keys can be pressed.</source>
+        <translation>Un autre programme a capturé le clavier, si bien qu’aucune touche ne peut être pressée.</translation>
+    </message>
+    <message>
+        <source>Close the menu, the question or the screen lock that is open, and play again.</source>
+        <translation>Fermez le menu, la question ou le verrouillage d’écran en cours, puis exécutez la macro à nouveau.</translation>
+    </message>
+    <message>
+        <source>The X server refuses to put characters on unused keys.</source>
+        <translation>Le serveur X refuse d’attribuer des caractères à des touches inutilisées.</translation>
+    </message>
+    <message>
+        <source>Use characters of the keyboard layout, or set another layout.</source>
+        <translation>Utilisez des caractères de la disposition de clavier ou définissez une autre disposition.</translation>
+    </message>
+    <message>
+        <source>The program that is typed into reads nothing; not typed: %1.</source>
+        <translation>Le programme destinataire de la saisie ne lit rien&#xa0;; non saisi&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Play it again when the program reads its keys.</source>
+        <translation>Exécutez la macro à nouveau quand le programme lit ses touches.</translation>
+    </message>
+    <message>
+        <source>The program that was typed into has not read all of it.</source>
+        <translation>Le programme destinataire de la saisie n’a pas tout lu.</translation>
+    </message>
+    <message>
+        <source>See whether it hangs; what it reads later may lack characters.</source>
+        <translation>Vérifiez s’il est bloqué&#xa0;; il peut manquer des caractères dans ce qu’il lira plus tard.</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.</source>
+        <translation>Les répétitions automatiques des touches maintenues ne peuvent pas être enregistrées&#xa0;: le serveur X n’a pas d’extension RECORD.</translation>
+    </message>
+    <message>
+        <source>A held key is recorded as one press. Switch the extension on in the settings of the X server.</source>
+        <translation>Une touche maintenue est enregistrée comme un seul appui. Activez l’extension dans les réglages du serveur X.</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys can no longer be recorded: the X server has ended it.</source>
+        <translation>Les répétitions automatiques des touches maintenues ne peuvent plus être enregistrées&#xa0;: le serveur X y a mis fin.</translation>
     </message>
 </context>
 <context>
@@ -809,6 +1800,64 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>No key of the present keyboard layout types &quot;%1&quot;.</source>
+        <extracomment>%1 is a character.</extracomment>
+        <translation>Aucune touche de la disposition de clavier actuelle ne produit «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Convert the keys to text, which types any character.</source>
+        <translation>Convertissez les touches en texte, ce qui permet de saisir n’importe quel caractère.</translation>
+    </message>
+    <message>
+        <source>GNOME lets no program switch the keyboard layout.</source>
+        <translation>GNOME ne laisse aucun programme changer de disposition de clavier.</translation>
+    </message>
+    <message>
+        <source>The desktop has no keyboard layout of that number.</source>
+        <translation>Le bureau n’a pas de disposition de clavier portant ce numéro.</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program switch the keyboard layout.</source>
+        <translation>Ce bureau ne laisse aucun programme changer de disposition de clavier.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the third level (AltGr).</source>
+        <translation>La disposition de clavier n’a pas de touche pour le niveau 3 (AltGr).</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the fifth level.</source>
+        <translation>La disposition de clavier n’a pas de touche pour le niveau 5.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for %1.</source>
+        <extracomment>%1 is a modifier: Super</extracomment>
+        <translation>La disposition de clavier n’a pas de touche pour %1.</translation>
+    </message>
+    <message>
+        <source>Choose a keyboard layout that has one.</source>
+        <translation>Choisissez une disposition de clavier qui en a une.</translation>
+    </message>
+    <message>
+        <source>The keyboard has no layout %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Le clavier n’a pas de disposition %1.</translation>
+    </message>
+    <message>
+        <source>Add it to the keyboard layouts, or record the macro again.</source>
+        <translation>Ajoutez-la aux dispositions de clavier ou enregistrez la macro à nouveau.</translation>
+    </message>
+    <message>
+        <source>The keymap of the X server cannot be read.</source>
+        <translation>Impossible de lire la carte de clavier du serveur X.</translation>
+    </message>
+    <message>
+        <source>Set a keyboard layout, or log in again.</source>
+        <translation>Définissez une disposition de clavier, ou fermez la session et rouvrez-la.</translation>
+    </message>
+</context>
+<context>
     <name>LibraryController</name>
     <message>
         <source>&quot;%1&quot; was not played</source>
@@ -821,6 +1870,36 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <message>
         <source>The history</source>
         <translation>L’historique</translation>
+    </message>
+</context>
+<context>
+    <name>LogIn</name>
+    <message>
+        <source>The file %1 cannot be removed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Impossible de supprimer le fichier %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write in its folder.</source>
+        <translation>Vérifiez qui peut écrire dans son dossier.</translation>
+    </message>
+    <message>
+        <source>A program whose path has a percent sign cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>Un programme dont le chemin contient un signe pour cent ne peut pas être lancé à l’ouverture de session&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Move the program to a folder without one.</source>
+        <translation>Déplacez le programme dans un dossier dont le chemin n’en contient pas.</translation>
+    </message>
+    <message>
+        <source>A program whose path is not UTF-8 cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>Un programme dont le chemin n’est pas en UTF-8 ne peut pas être lancé à l’ouverture de session&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Move the program to another folder.</source>
+        <translation>Déplacez le programme dans un autre dossier.</translation>
     </message>
 </context>
 <context>
@@ -1379,6 +2458,38 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
 </context>
 <context>
+    <name>Programs</name>
+    <message>
+        <source>The program &quot;%1&quot;, which presses keys by the desktop&apos;s portal, could not be started.</source>
+        <translation>Le programme «&#xa0;%1&#xa0;», qui presse des touches par le portail du bureau, n’a pas pu être lancé.</translation>
+    </message>
+    <message>
+        <source>Install the program again.</source>
+        <translation>Installez le programme à nouveau.</translation>
+    </message>
+    <message>
+        <source>A text with a zero byte cannot be opened.</source>
+        <translation>Un texte contenant un octet nul ne peut pas être ouvert.</translation>
+    </message>
+    <message>
+        <source>The program xdg-open cannot be started: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>Impossible de lancer le programme xdg-open&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Install the package xdg-utils.</source>
+        <translation>Installez le paquet xdg-utils.</translation>
+    </message>
+    <message>
+        <source>The guard program &quot;%1&quot;, which releases keys after a crash, could not be started.</source>
+        <translation>Le programme de garde «&#xa0;%1&#xa0;», qui relâche les touches après un plantage, n’a pas pu être lancé.</translation>
+    </message>
+    <message>
+        <source>Install the program again; nothing is played without its guard.</source>
+        <translation>Installez le programme à nouveau&#xa0;; rien n’est exécuté sans son programme de garde.</translation>
+    </message>
+</context>
+<context>
     <name>RecordHerePanel</name>
     <message>
         <source>Record Here</source>
@@ -1542,6 +2653,121 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
 </context>
 <context>
+    <name>Session</name>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>Il n’y a pas de bus de session.</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>Fermez la session et rouvrez-la.</translation>
+    </message>
+    <message>
+        <source>sway does not answer at $SWAYSOCK.</source>
+        <translation>sway ne répond pas à l’adresse $SWAYSOCK.</translation>
+    </message>
+    <message>
+        <source>Start the program in the session of sway.</source>
+        <translation>Lancez le programme dans la session de sway.</translation>
+    </message>
+    <message>
+        <source>sway says: %1</source>
+        <translation>sway indique&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>There is no kind of session called &quot;%1&quot;.</source>
+        <translation>Il n’y a pas de type de session nommé «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Choose one of these: %1.</source>
+        <translation>Choisissez l’un de ceux-ci&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>No kind of session is known.</source>
+        <translation>Aucun type de session n’est connu.</translation>
+    </message>
+    <message>
+        <source>The connection to the compositor was lost.</source>
+        <translation>La connexion au compositeur a été perdue.</translation>
+    </message>
+    <message>
+        <source>No Wayland compositor answers at $WAYLAND_DISPLAY.</source>
+        <translation>Aucun compositeur Wayland ne répond à l’adresse $WAYLAND_DISPLAY.</translation>
+    </message>
+    <message>
+        <source>Start the program in a Wayland session.</source>
+        <translation>Lancez le programme dans une session Wayland.</translation>
+    </message>
+    <message>
+        <source>The Wayland compositor is gone.</source>
+        <translation>Le compositeur Wayland a disparu.</translation>
+    </message>
+    <message>
+        <source>$WAYLAND_DISPLAY names no Wayland compositor.</source>
+        <translation>$WAYLAND_DISPLAY ne désigne aucun compositeur Wayland.</translation>
+    </message>
+    <message>
+        <source>The X server is gone.</source>
+        <translation>Le serveur X a disparu.</translation>
+    </message>
+    <message>
+        <source>This is a Wayland session without an X server.</source>
+        <translation>Cette session est une session Wayland sans serveur X.</translation>
+    </message>
+    <message>
+        <source>Install Xwayland, or switch it on in the desktop&apos;s settings, and log in again; or choose an X11 session when you log in.</source>
+        <translation>Installez Xwayland, ou activez-le dans les réglages du bureau, puis fermez la session et rouvrez-la&#xa0;; ou choisissez une session X11 à l’ouverture de session.</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is no desktop session.</source>
+        <translation>Une session X11 est nécessaire, or cette session n’est pas une session graphique.</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is a Wayland session without an X server.</source>
+        <translation>Une session X11 est nécessaire, or cette session est une session Wayland sans serveur X.</translation>
+    </message>
+    <message>
+        <source>Choose an X11 session when you log in.</source>
+        <translation>Choisissez une session X11 à l’ouverture de session.</translation>
+    </message>
+    <message>
+        <source>The connection to the X server was lost.</source>
+        <translation>La connexion au serveur X a été perdue.</translation>
+    </message>
+    <message>
+        <source>Use a newer X server, or switch the extension on in its settings.</source>
+        <translation>Utilisez un serveur X plus récent ou activez l’extension dans ses réglages.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has no XInput.</source>
+        <translation>Le serveur X doit avoir XInput 2.2 ou une version plus récente, mais il n’a pas XInput.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but does not answer.</source>
+        <translation>Le serveur X doit avoir XInput 2.2 ou une version plus récente, mais il ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has %1.</source>
+        <translation>Le serveur X doit avoir XInput 2.2 ou une version plus récente, mais il a la version %1.</translation>
+    </message>
+    <message>
+        <source>The X server must have the XKB extension, but it cannot be used.</source>
+        <translation>Le serveur X doit avoir l’extension XKB, mais elle ne peut pas être utilisée.</translation>
+    </message>
+    <message>
+        <source>The X server must have the XTEST extension, but it has not.</source>
+        <translation>Le serveur X doit avoir l’extension XTEST, mais il ne l’a pas.</translation>
+    </message>
+    <message>
+        <source>The X server of display &quot;%1&quot; cannot be reached.</source>
+        <translation>Le serveur X de l’affichage «&#xa0;%1&#xa0;» est inaccessible.</translation>
+    </message>
+    <message>
+        <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
+        <translation>Lancez le programme dans une session graphique ou définissez DISPLAY sur un serveur X en cours d’exécution.</translation>
+    </message>
+</context>
+<context>
     <name>SessionReport</name>
     <message>
         <source>, </source>
@@ -1679,6 +2905,72 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
         <source>%1; %2</source>
         <extracomment>the keyboard layouts, and the locks that are on</extracomment>
         <translation>%1&#xa0;; %2</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>It has a zero byte</source>
+        <translation>Il contient un octet nul</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>Le fichier des réglages %1 n’est pas un fichier de clés&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>Le fichier des réglages des macros %1 n’est pas un fichier de clés&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>Impossible de créer le dossier des réglages %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>Impossible de créer le dossier des réglages des macros %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and the settings begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>Il a été renommé en %1, et les réglages reprennent leurs valeurs par défaut.</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and hot keys, times and speeds begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>Il a été renommé en %1, et les raccourcis clavier, les nombres d’exécutions et les vitesses reprennent leurs valeurs par défaut.</translation>
+    </message>
+    <message>
+        <source>Correct the file or remove it.</source>
+        <translation>Corrigez le fichier ou supprimez-le.</translation>
+    </message>
+    <message>
+        <source>It could not be put aside either: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>Il n’a pas non plus pu être mis de côté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Impossible de lire le fichier des réglages %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Impossible de lire le fichier des réglages des macros %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Impossible d’écrire le fichier des réglages %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Impossible d’écrire le fichier des réglages des macros %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1959,6 +3251,70 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
 </context>
 <context>
+    <name>Warnings</name>
+    <message>
+        <source>This is typed as it stands; the key has a number: key code %1.</source>
+        <translation>Ceci est saisi tel quel&#xa0;; la touche a un numéro&#xa0;: key code %1.</translation>
+    </message>
+    <message>
+        <source>“%1” is typed as it stands. %2</source>
+        <extracomment>%1 is the name of a key in braces, %2 a sentence that says how the key is written.</extracomment>
+        <translation>«&#xa0;%1&#xa0;» est saisi tel quel. %2</translation>
+    </message>
+    <message>
+        <source>Key code %1 is an extension, which only Keyrill plays.</source>
+        <translation>Le code de touche %1 est une extension, que seul Keyrill exécute.</translation>
+    </message>
+    <message>
+        <source>Key code %1 has no key; nothing is pressed.</source>
+        <translation>Aucune touche ne correspond au code de touche %1&#xa0;; rien n’est pressé.</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record and no text; take: button returned of %1, or text returned of %1.</source>
+        <translation>Une boîte de dialogue donne un enregistrement (record) et non un texte&#xa0;; utilisez&#xa0;: button returned of %1 ou text returned of %1.</translation>
+    </message>
+    <message>
+        <source>An alert gives a record and no text; take: button returned of %1.</source>
+        <translation>Une alerte donne un enregistrement (record) et non un texte&#xa0;; utilisez&#xa0;: button returned of %1.</translation>
+    </message>
+    <message>
+        <source>What was chosen comes in a list; take: item 1 of %1.</source>
+        <translation>Ce qui a été choisi arrive dans une liste&#xa0;; utilisez&#xa0;: item 1 of %1.</translation>
+    </message>
+    <message>
+        <source>The loop gives a reference, which equals no text; compare: contents of %1.</source>
+        <translation>La boucle donne une référence, qui n’est égale à aucun texte&#xa0;; comparez&#xa0;: contents of %1.</translation>
+    </message>
+    <message>
+        <source>“%1” is taken as “%1 down”.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>«&#xa0;%1&#xa0;» est compris comme «&#xa0;%1 down&#xa0;».</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to what “%2” is given; put parentheses round the command: (%2 …) %1 ….</source>
+        <extracomment>%1 is an operator, &quot;&gt;&quot;, %2 a command, &quot;count&quot;.</extracomment>
+        <translation>«&#xa0;%1&#xa0;» se rapporte à ce que «&#xa0;%2&#xa0;» reçoit&#xa0;; mettez la commande entre parenthèses&#xa0;: (%2 …) %1 ….</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds; %1 milliseconds are: delay %2.</source>
+        <translation>«&#xa0;delay&#xa0;» compte en secondes&#xa0;; %1 millisecondes s’écrivent&#xa0;: delay %2.</translation>
+    </message>
+    <message>
+        <source>This is typed as it stands; a shortcut is written: keystroke &quot;%1&quot; using %2 down.</source>
+        <extracomment>%1 is a letter, %2 the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>Ceci est saisi tel quel&#xa0;; une combinaison de touches s’écrit&#xa0;: keystroke &quot;%1&quot; using %2 down.</translation>
+    </message>
+    <message>
+        <source>A modifier is held with: key down shift, without quotes.</source>
+        <translation>Une touche de modification se maintient ainsi&#xa0;: key down shift, sans guillemets.</translation>
+    </message>
+    <message>
+        <source>The variable %1 is never set. %2</source>
+        <extracomment>%2 is a sentence that says what may have been meant.</extracomment>
+        <translation>La variable %1 n’est jamais définie. %2</translation>
+    </message>
+</context>
+<context>
     <name>WelcomePanel</name>
     <message>
         <source>%1.</source>
@@ -2015,6 +3371,53 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <message>
         <source>Not set</source>
         <translation>Non défini</translation>
+    </message>
+</context>
+<context>
+    <name>Windows</name>
+    <message>
+        <source>KWin does not tell of its windows.</source>
+        <translation>KWin ne donne pas d’informations sur ses fenêtres.</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>Fermez la session et rouvrez-la.</translation>
+    </message>
+    <message>
+        <source>No file could be written for KWin.</source>
+        <translation>Aucun fichier n’a pu être écrit pour KWin.</translation>
+    </message>
+    <message>
+        <source>Free some space.</source>
+        <translation>Libérez de l’espace.</translation>
+    </message>
+    <message>
+        <source>KWin runs no scripts: %1</source>
+        <translation>KWin n’exécute aucun script&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>KWin does not show the window any more.</source>
+        <translation>KWin n’affiche plus la fenêtre.</translation>
+    </message>
+    <message>
+        <source>Open it again.</source>
+        <translation>Ouvrez-la à nouveau.</translation>
+    </message>
+    <message>
+        <source>This compositor tells nobody of windows.</source>
+        <translation>Ce compositeur ne donne à personne d’informations sur les fenêtres.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with toplevel management, such as sway, or an X11 session.</source>
+        <translation>Utilisez un compositeur avec gestion des fenêtres (toplevel management), comme sway, ou une session X11.</translation>
+    </message>
+    <message>
+        <source>No window of “%1” is open.</source>
+        <translation>Aucune fenêtre de «&#xa0;%1&#xa0;» n’est ouverte.</translation>
+    </message>
+    <message>
+        <source>Start it first.</source>
+        <translation>Lancez d’abord le programme.</translation>
     </message>
 </context>
 </TS>

@@ -515,6 +515,33 @@ You can change your mind in Keyrill&apos;s preferences.</source>
     </message>
 </context>
 <context>
+    <name>Clipboard</name>
+    <message>
+        <source>This compositor gives the clipboard to windows alone.</source>
+        <translation>このコンポジターは、ウィンドウにしかクリップボードを渡しません。</translation>
+    </message>
+    <message>
+        <source>Use a compositor with data control, such as sway, or an X11 session.</source>
+        <translation>sway などデータ制御のあるコンポジターか、X11 セッションを使ってください。</translation>
+    </message>
+    <message>
+        <source>No more files can be opened.</source>
+        <translation>これ以上ファイルを開けません。</translation>
+    </message>
+    <message>
+        <source>Close programs.</source>
+        <translation>使っていないプログラムを終了してください。</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is too long.</source>
+        <translation>クリップボードのテキストが長すぎます。</translation>
+    </message>
+    <message>
+        <source>The clipboard is held by another program.</source>
+        <translation>別のプログラムがクリップボードを使用中です。</translation>
+    </message>
+</context>
+<context>
     <name>CombinationText</name>
     <message>
         <source>Ctrl</source>
@@ -531,6 +558,10 @@ You can change your mind in Keyrill&apos;s preferences.</source>
     <message>
         <source>Super</source>
         <translation>Super</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Ctrl</translation>
     </message>
 </context>
 <context>
@@ -690,6 +721,80 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>Files</name>
+    <message>
+        <source>Line %1 has the byte %2 at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is a code: 0xE9</extracomment>
+        <translation>%1 行目の %3 番目の位置にバイト %2 がありますが、マクロファイルで使えるのは ASCII だけです。</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character (%2) at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is the code of a character that cannot be shown: U+0085</extracomment>
+        <translation>%1 行目の %3 番目の位置に文字 (%2) がありますが、マクロファイルで使えるのは ASCII だけです。</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character &quot;%2&quot; (%3) at place %4, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %4 are numbers, %2 is a character, %3 its code: U+00E9</extracomment>
+        <translation>%1 行目の %4 番目の位置に文字「%2」(%3) がありますが、マクロファイルで使えるのは ASCII だけです。</translation>
+    </message>
+    <message>
+        <source>Replace the character in the macro.</source>
+        <translation>マクロの中のその文字を置き換えてください。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be deleted: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>ファイル %1 を削除できません: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write to its folder, or delete it yourself.</source>
+        <translation>そのフォルダーに書き込めるユーザーを確認するか、ご自分でファイルを削除してください。</translation>
+    </message>
+    <message>
+        <source>It is a folder</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>Choose a file.</source>
+        <translation>ファイルを選択してください。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>ファイル %1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>ファイル %1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>It is larger than %1 MiB</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>サイズが %1 MiB を超えています</translation>
+    </message>
+    <message>
+        <source>Choose a smaller file.</source>
+        <translation>もっと小さいファイルを選択してください。</translation>
+    </message>
+    <message>
+        <source>Choose another name.</source>
+        <translation>別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>Check that the file is there and who may read it.</source>
+        <translation>ファイルがあることと、それを読み取れるユーザーを確認してください。</translation>
+    </message>
+    <message>
+        <source>Make room, check who may write there, or choose another place.</source>
+        <translation>空き容量を増やすか、そこに書き込めるユーザーを確認するか、別の場所を選んでください。</translation>
+    </message>
+</context>
+<context>
     <name>FilesDesk</name>
     <message>
         <source>&quot;%1&quot; was not loaded</source>
@@ -718,6 +823,892 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Press %1 to play it.</source>
         <translation>再生するには %1 を押してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Folders</name>
+    <message>
+        <source>The folder %1 cannot be made: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>フォルダー %1 を作成できません: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write there.</source>
+        <translation>そこに書き込めるユーザーを確認してください。</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be read: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>フォルダー %1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>Check who may read it.</source>
+        <translation>それを読み取れるユーザーを確認してください。</translation>
+    </message>
+    <message>
+        <source>What changes in the folder %1 is not noticed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>フォルダー %1 の変更を検知できません: %2</translation>
+    </message>
+    <message>
+        <source>Start Keyrill again after changes, or raise fs.inotify.max_user_watches.</source>
+        <translation>変更の後に Keyrill をもう一度起動するか、fs.inotify.max_user_watches の値を大きくしてください。</translation>
+    </message>
+    <message>
+        <source>Make room, or check who may write there.</source>
+        <translation>空き容量を増やすか、そこに書き込めるユーザーを確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Hints</name>
+    <message>
+        <source>A handler is called with parentheses: %1().</source>
+        <translation>ハンドラーは丸かっこを付けて呼び出します: %1()。</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1.</source>
+        <translation>このキーには番号があります: key code %1。</translation>
+    </message>
+    <message>
+        <source>Return is joined to a text so: &quot;hello&quot; &amp; return.</source>
+        <translation>Return はテキストに次のように連結します: &quot;hello&quot; &amp; return。</translation>
+    </message>
+    <message>
+        <source>Tab is joined to a text so: &quot;hello&quot; &amp; tab.</source>
+        <translation>Tab はテキストに次のように連結します: &quot;hello&quot; &amp; tab。</translation>
+    </message>
+    <message>
+        <source>A question is asked with: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</source>
+        <translation>質問して答えを受け取るには次のように書きます: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;)。</translation>
+    </message>
+    <message>
+        <source>A number by chance is: random number from 1 to 10.</source>
+        <translation>乱数は次のように書きます: random number from 1 to 10。</translation>
+    </message>
+    <message>
+        <source>A loop is left with “exit repeat”, the script with “return”.</source>
+        <translation>ループから抜けるには「exit repeat」、スクリプトを終えるには「return」を使います。</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>テキストは「keystroke」で入力します: keystroke &quot;hello&quot;。</translation>
+    </message>
+    <message>
+        <source>A pause is written in seconds: delay 2.</source>
+        <translation>待ち時間は秒数で書きます: delay 2。</translation>
+    </message>
+    <message>
+        <source>Errors are caught with: try … on error … end try.</source>
+        <translation>エラーは次のように捕捉します: try … on error … end try。</translation>
+    </message>
+    <message>
+        <source>Nothing is imported; the commands are there from the start: delay 2, keystroke &quot;hello&quot;.</source>
+        <translation>インポートは必要ありません。コマンドは最初から使えます: delay 2, keystroke &quot;hello&quot;。</translation>
+    </message>
+    <message>
+        <source>A value is printed with: log &quot;x&quot;. Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>値は次のように出力します: log &quot;x&quot;。テキストは「keystroke」で入力します: keystroke &quot;hello&quot;。</translation>
+    </message>
+    <message>
+        <source>A message is shown with: display dialog &quot;hello&quot;.</source>
+        <translation>メッセージは次のように表示します: display dialog &quot;hello&quot;。</translation>
+    </message>
+    <message>
+        <source>What has no value is written: missing value.</source>
+        <translation>値がないことは次のように書きます: missing value。</translation>
+    </message>
+    <message>
+        <source>A window is brought to the front with: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>ウィンドウを前面に出すには次のように書きます: tell application &quot;Firefox&quot; to activate。</translation>
+    </message>
+    <message>
+        <source>A key code lies between 0 and %1; “keyrill-script keys” prints those that keys have.</source>
+        <translation>キーコードは 0 から %1 までの数です。キーのあるコードは「keyrill-script keys」で表示できます。</translation>
+    </message>
+    <message>
+        <source>A key code is a number; a text is typed with “keystroke”.</source>
+        <translation>キーコードは数です。テキストは「keystroke」で入力します。</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1; “keyrill-script keys” prints all.</source>
+        <translation>このキーには番号があります: key code %1。すべての番号は「keyrill-script keys」で表示できます。</translation>
+    </message>
+    <message>
+        <source>The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.</source>
+        <translation>日付の要素は year、month、day、weekday、hours、minutes、seconds、time です。</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>%1 のことですか?</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: delay 0.5.</source>
+        <translation>小数点にはピリオドを使います: delay 0.5。</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds: delay 0.5.</source>
+        <translation>「delay」の単位は秒です: delay 0.5。</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record; what was typed there is taken with: text returned of n.</source>
+        <translation>ダイアログはレコードを返します。入力された内容は次のように取り出します: text returned of n。</translation>
+    </message>
+    <message>
+        <source>A modifier stands without quotes: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>修飾キーは引用符なしで書きます: using %1 down。</translation>
+    </message>
+    <message>
+        <source>Several modifiers stand in braces: using {control down, shift down}.</source>
+        <translation>複数の修飾キーは波かっこで囲みます: using {control down, shift down}。</translation>
+    </message>
+    <message>
+        <source>Texts are joined with “&amp;”: &quot;one&quot; &amp; &quot;two&quot;.</source>
+        <translation>テキストは「&amp;」で連結します: &quot;one&quot; &amp; &quot;two&quot;。</translation>
+    </message>
+    <message>
+        <source>This compares and changes nothing; a variable is set with “to”: set %1 to …</source>
+        <translation>これは比較するだけで、何も変更しません。変数は「to」を使って設定します: set %1 to …</translation>
+    </message>
+    <message>
+        <source>The script has no handler of that name: on %1(…) … end %1.</source>
+        <translation>スクリプトにその名前のハンドラーがありません: on %1(…) … end %1。</translation>
+    </message>
+    <message>
+        <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
+        <translation>プログラムに使えるコマンドは「activate」だけです。代わりにプログラムのキーを押してください: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down。</translation>
+    </message>
+    <message>
+        <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>修飾キーの名前は command (Super)、control (Ctrl)、option (Alt)、shift です: using %1 down。</translation>
+    </message>
+    <message>
+        <source>An application is named: application &quot;%1&quot;.</source>
+        <translation>アプリケーションは次のように名前で指定します: application &quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>テキストはまっすぐな引用符で囲みます: &quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>A handler has variables of its own; to share this one write there: global %1.</source>
+        <translation>ハンドラーの変数は、そのハンドラーだけのものです。この変数を共有するには、ハンドラーの中に次のように書いてください: global %1。</translation>
+    </message>
+    <message>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>変数は使う前に設定します: set %1 to …。テキストはまっすぐな引用符で囲みます: &quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
+        <translation>キーは番号で押します: key code 36 は Return です。すべての番号は「keyrill-script keys」で表示できます。</translation>
+    </message>
+    <message>
+        <source>The date of today is “current date”; as a text: short date string of (current date).</source>
+        <translation>今日の日付は「current date」です。テキストにするには次のように書きます: short date string of (current date)。</translation>
+    </message>
+    <message>
+        <source>Inside “tell” the script’s own handlers are called with “my”: my %1(…).</source>
+        <translation>「tell」の中では、スクリプト自身のハンドラーを「my」で呼び出します: my %1(…)。</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>ここで開いているブロックはありません。文まで 1 行に書いた「if」に「else」は付けられません。</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>ここで開いているブロックはありません。文まで 1 行に書いた「if」に「end if」は不要です。</translation>
+    </message>
+    <message>
+        <source>No block is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>ここで開いているブロックはありません。1 行で書いた「tell … to」に「end tell」は不要です。</translation>
+    </message>
+    <message>
+        <source>No block is open here; this line is one too many.</source>
+        <translation>ここで開いているブロックはありません。この行は余分です。</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>ここで開いている「if」はありません。文まで 1 行に書いた「if」に「else」は付けられません。</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>ここで開いている「if」はありません。文まで 1 行に書いた「if」に「end if」は不要です。</translation>
+    </message>
+    <message>
+        <source>No “tell” is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>ここで開いている「tell」はありません。1 行で書いた「tell … to」に「end tell」は不要です。</translation>
+    </message>
+    <message>
+        <source>No “%1” is open here; the block that begins in line %2 has no “end” of its own.</source>
+        <extracomment>%1 is the first word of a block, &quot;repeat&quot;, %2 a number.</extracomment>
+        <translation>ここで開いている「%1」はありません。%2 行目から始まるブロックには、対応する「end」がありません。</translation>
+    </message>
+    <message>
+        <source>In line %1 these are two words: %2.</source>
+        <extracomment>%1 is a number, %2 what the line was meant to be, &quot;end if&quot;.</extracomment>
+        <translation>%1 行目のこの部分は 2 語に分けて書きます: %2。</translation>
+    </message>
+    <message>
+        <source>The block that begins in line %1 has no “end” of its own.</source>
+        <translation>%1 行目から始まるブロックには、対応する「end」がありません。</translation>
+    </message>
+    <message>
+        <source>The text that begins here is not closed by a straight quote in its line.</source>
+        <translation>ここから始まるテキストが、同じ行の中でまっすぐな引用符で閉じられていません。</translation>
+    </message>
+    <message>
+        <source>The comment that begins in line %1 is not closed by “*)”.</source>
+        <translation>%1 行目から始まるコメントが「*)」で閉じられていません。</translation>
+    </message>
+    <message>
+        <source>The keyboard commands stand inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>キーボードのコマンドは「tell application &quot;System Events&quot;」 … 「end tell」の中に書きます。</translation>
+    </message>
+    <message>
+        <source>Modifiers are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>修飾キーを使えるのは「tell application &quot;System Events&quot;」 … 「end tell」の中です。</translation>
+    </message>
+    <message>
+        <source>Processes are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>プロセスを使えるのは「tell application &quot;System Events&quot;」 … 「end tell」の中です。</translation>
+    </message>
+    <message>
+        <source>Put straight quotes (&quot;) in place of the curly ones.</source>
+        <translation>曲がった引用符の代わりに、まっすぐな引用符 (&quot;) を使ってください。</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to 5.</source>
+        <translation>変数は「to」を使って設定します: set x to 5。</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat with i from 1 to 5 … end repeat.</source>
+        <translation>ループは次のように書きます: repeat with i from 1 to 5 … end repeat。</translation>
+    </message>
+    <message>
+        <source>A handler is written: on greet(x) … end greet.</source>
+        <translation>ハンドラーは次のように書きます: on greet(x) … end greet。</translation>
+    </message>
+    <message>
+        <source>Several stand in braces: {control down, shift down}, {36, 48}.</source>
+        <translation>複数あるときは波かっこで囲みます: {control down, shift down}, {36, 48}。</translation>
+    </message>
+    <message>
+        <source>These are two words: else if … then.</source>
+        <translation>これは 2 語に分けて書きます: else if … then。</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, and Return joined with “&amp;”: keystroke &quot;hello&quot; &amp; return.</source>
+        <translation>テキストは「keystroke」で入力し、Return は「&amp;」で連結します: keystroke &quot;hello&quot; &amp; return。</translation>
+    </message>
+    <message>
+        <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
+        <translation>キーを押して離すには次のように書きます: keystroke return, key code 53。押し続けるには次のように書きます: key down 36。離すには次のように書きます: key up 36。</translation>
+    </message>
+    <message>
+        <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
+        <translation>マクロではマウスを使えません。Tab や Return など、同じことができるキーを押してください。</translation>
+    </message>
+    <message>
+        <source>Conditions are joined with “and” or “or”.</source>
+        <translation>条件は「and」または「or」でつなぎます。</translation>
+    </message>
+    <message>
+        <source>Of a process its name is known, and whether it is in front: every process whose name contains &quot;fire&quot;.</source>
+        <translation>プロセスについて分かるのは、名前と、前面にあるかどうかです: every process whose name contains &quot;fire&quot;。</translation>
+    </message>
+    <message>
+        <source>Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.</source>
+        <translation>マクロからウィンドウやボタン、メニューは見えません。同じことができるキーを押してください。</translation>
+    </message>
+    <message>
+        <source>Modifiers stand behind “using”: keystroke &quot;s&quot; using control down.</source>
+        <translation>修飾キーは「using」の後に書きます: keystroke &quot;s&quot; using control down。</translation>
+    </message>
+    <message>
+        <source>What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.</source>
+        <translation>何度も繰り返すことは、「repeat 5 times」と「end repeat」の間に独立した行で書きます。</translation>
+    </message>
+    <message>
+        <source>Each statement has a line of its own.</source>
+        <translation>文は 1 行に 1 つずつ書きます。</translation>
+    </message>
+    <message>
+        <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
+        <translation>マクロではファイルを使えません。テキストは「the clipboard」またはダイアログから受け取ります。</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to x + 1.</source>
+        <translation>変数は「to」を使って設定します: set x to x + 1。</translation>
+    </message>
+    <message>
+        <source>A parenthesis is not closed in this line.</source>
+        <translation>この行に、閉じられていない丸かっこがあります。</translation>
+    </message>
+    <message>
+        <source>A brace is not closed in this line.</source>
+        <translation>この行に、閉じられていない波かっこがあります。</translation>
+    </message>
+    <message>
+        <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>起動するためのキーを押すか、ウィンドウを前面に出してください: tell application &quot;Firefox&quot; to activate。</translation>
+    </message>
+    <message>
+        <source>Write the command by its name.</source>
+        <translation>コマンドは名前で書いてください。</translation>
+    </message>
+    <message>
+        <source>A shortcut is written: keystroke &quot;c&quot; using control down.</source>
+        <translation>ショートカットは次のように書きます: keystroke &quot;c&quot; using control down。</translation>
+    </message>
+    <message>
+        <source>Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat.</source>
+        <translation>「whose」で選べるのはプロセスだけです。リストの項目は次のように順に調べます: repeat with x in theList … end repeat。</translation>
+    </message>
+    <message>
+        <source>Behind “default answer” stands a text, be it empty: default answer &quot;&quot;.</source>
+        <translation>「default answer」の後には、空であってもテキストを書きます: default answer &quot;&quot;。</translation>
+    </message>
+    <message>
+        <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
+        <translation>1 行で書いた「if」に「else」は付けられません。「end if」を使い、複数の行に分けて書いてください。</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: 0.5.</source>
+        <translation>小数点にはピリオドを使います: 0.5。</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds, without a unit: delay 0.5.</source>
+        <translation>「delay」の単位は秒です。単位は付けません: delay 0.5。</translation>
+    </message>
+    <message>
+        <source>A key is let go with: key up &quot;a&quot;.</source>
+        <translation>キーは次のように離します: key up &quot;a&quot;。</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, a key is pressed by its number: key code 36.</source>
+        <translation>テキストは「keystroke」で入力し、キーは番号で押します: key code 36。</translation>
+    </message>
+    <message>
+        <source>A key is held with “key down” and let go with “key up”: key down shift.</source>
+        <translation>キーは「key down」で押し続け、「key up」で離します: key down shift。</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is: the clipboard.</source>
+        <translation>クリップボードのテキストは次のように書きます: the clipboard。</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat 5 times … end repeat.</source>
+        <translation>ループは次のように書きます: repeat 5 times … end repeat。</translation>
+    </message>
+    <message>
+        <source>Behind the name stands “to”, or the line ends there: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</source>
+        <translation>名前の後には「to」を書くか、そこで行を終えます: tell application &quot;System Events&quot; to keystroke &quot;a&quot;。</translation>
+    </message>
+    <message>
+        <source>The name stands between straight quotes: tell application &quot;System Events&quot;.</source>
+        <translation>名前はまっすぐな引用符で囲みます: tell application &quot;System Events&quot;。</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat while x &lt; 5 … end repeat.</source>
+        <translation>ループは次のように書きます: repeat while x &lt; 5 … end repeat。</translation>
+    </message>
+    <message>
+        <source>A comment begins with -- or #.</source>
+        <translation>コメントは -- または # で始めます。</translation>
+    </message>
+    <message>
+        <source>A comment over lines is written (* … *).</source>
+        <translation>複数行のコメントは (* … *) のように書きます。</translation>
+    </message>
+    <message>
+        <source>“Equal” is written with one =.</source>
+        <translation>「等しい」は 1 つの = で書きます。</translation>
+    </message>
+    <message>
+        <source>A text is not closed by a straight quote.</source>
+        <translation>まっすぐな引用符で閉じられていないテキストがあります。</translation>
+    </message>
+    <message>
+        <source>A backslash in a text is written twice: &quot;C:\\Users&quot;.</source>
+        <translation>テキストの中のバックスラッシュは 2 つ続けて書きます: &quot;C:\\Users&quot;。</translation>
+    </message>
+    <message>
+        <source>Behind “as” stands a class: text, integer, real, number, boolean, list, record, date.</source>
+        <translation>「as」の後にはクラスを書きます: text, integer, real, number, boolean, list, record, date。</translation>
+    </message>
+    <message>
+        <source>A block has no braces: if x = 1 then … end if.</source>
+        <translation>ブロックに波かっこは使いません: if x = 1 then … end if。</translation>
+    </message>
+    <message>
+        <source>A block has no braces; it ends with “end” and its first word: end repeat.</source>
+        <translation>ブロックに波かっこは使いません。「end」とブロックの最初の単語で終わります: end repeat。</translation>
+    </message>
+    <message>
+        <source>A line needs no colon at its end.</source>
+        <translation>行の終わりにコロンは必要ありません。</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|.</source>
+        <translation>A から Z 以外の文字を含む名前は縦線で囲みます: |%1|。</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|. Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>A から Z 以外の文字を含む名前は縦線で囲みます: |%1|。テキストはまっすぐな引用符で囲みます: &quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>A sign that nobody sees stands here; delete it.</source>
+        <translation>ここに目に見えない文字があります。削除してください。</translation>
+    </message>
+    <message>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
+        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <translation>ショートカットはスクリプトの一部ではありません。設定で、またはマクロごとに「マクロ...」で設定します。</translation>
+    </message>
+    <message>
+        <source>“Not equal” is written ≠ or /=.</source>
+        <translation>「等しくない」は ≠ または /= と書きます。</translation>
+    </message>
+    <message>
+        <source>An item is taken by its number: item 1 of x.</source>
+        <translation>項目は番号で取り出します: item 1 of x。</translation>
+    </message>
+    <message>
+        <source>What belongs to a value is taken with “of”: length of x.</source>
+        <translation>値に属するものは「of」で取り出します: length of x。</translation>
+    </message>
+    <message>
+        <source>A list stands in braces: {1, 2}.</source>
+        <translation>リストは波かっこで囲みます: {1, 2}。</translation>
+    </message>
+    <message>
+        <source>The rest of a division is written: 7 mod 2.</source>
+        <translation>割り算の余りは次のように書きます: 7 mod 2。</translation>
+    </message>
+    <message>
+        <source>Text stands between straight double quotes (&quot;).</source>
+        <translation>テキストはまっすぐな二重引用符 (&quot;) で囲みます。</translation>
+    </message>
+    <message>
+        <source>A quote inside a text is written \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</source>
+        <translation>テキストの中の引用符は \&quot; と書きます: &quot;Hello \&quot;world\&quot;&quot;。</translation>
+    </message>
+    <message>
+        <source>Take the items in parts, or paragraphs instead of characters.</source>
+        <translation>項目を何回かに分けて取り出すか、文字ではなく段落を取り出してください。</translation>
+    </message>
+</context>
+<context>
+    <name>HotKeys</name>
+    <message>
+        <source>GNOME&apos;s settings cannot be changed</source>
+        <translation>GNOME の設定を変更できません</translation>
+    </message>
+    <message>
+        <source>your settings of GNOME have another entry in its place</source>
+        <translation>GNOME の設定では、その場所に別の項目があります</translation>
+    </message>
+    <message>
+        <source>your own shortcut “%1” in GNOME&apos;s settings has it</source>
+        <translation>GNOME の設定にあるユーザー自身のショートカット「%1」が使っています</translation>
+    </message>
+    <message>
+        <source>GNOME has it for “%1”</source>
+        <translation>GNOME が「%1」に使っています</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
+        <translation>GNOME のグローバルショートカットはユーザー自身の設定にしかなく、Keyrill はその変更を許可されていません</translation>
+    </message>
+    <message>
+        <source>GNOME has no name for it</source>
+        <translation>この組み合わせを表す名前が GNOME にありません</translation>
+    </message>
+    <message>
+        <source>it has been taken out of GNOME&apos;s settings</source>
+        <translation>GNOME の設定から取り除かれました</translation>
+    </message>
+    <message>
+        <source>KDE has no name for this key</source>
+        <translation>このキーを表す名前が KDE にありません</translation>
+    </message>
+    <message>
+        <source>KDE says: %1</source>
+        <translation>KDE からのメッセージ: %1</translation>
+    </message>
+    <message>
+        <source>KDE uses it for something else</source>
+        <translation>KDE が別の用途に使っています</translation>
+    </message>
+    <message>
+        <source>KDE does not give it</source>
+        <translation>KDE がこの組み合わせを提供しません</translation>
+    </message>
+    <message>
+        <source>%1 has it for “%2”</source>
+        <translation>%1 が「%2」に使っています</translation>
+    </message>
+    <message>
+        <source>the desktop has not granted it</source>
+        <translation>デスクトップがこの組み合わせを許可していません</translation>
+    </message>
+    <message>
+        <source>you did not agree when the desktop asked</source>
+        <translation>デスクトップの確認に対して許可が与えられませんでした</translation>
+    </message>
+    <message>
+        <source>the desktop has not answered</source>
+        <translation>デスクトップが応答していません</translation>
+    </message>
+    <message>
+        <source>the desktop has refused it</source>
+        <translation>デスクトップがこの組み合わせを拒否しました</translation>
+    </message>
+    <message>
+        <source>there is no session bus</source>
+        <translation>セッションバスがありません</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal does not answer</source>
+        <translation>デスクトップのポータルが応答しません</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal gives no hot keys</source>
+        <translation>デスクトップのポータルがグローバルショートカットを提供しません</translation>
+    </message>
+    <message>
+        <source>the desktop has taken it back</source>
+        <translation>デスクトップがこの組み合わせの許可を取り消しました</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal has ended</source>
+        <translation>デスクトップのポータルが終了しました</translation>
+    </message>
+    <message>
+        <source>your configuration of sway binds it</source>
+        <translation>sway の設定ファイルで割り当てられています</translation>
+    </message>
+    <message>
+        <source>Choose another combination.</source>
+        <translation>別の組み合わせを選んでください。</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or allow it in the desktop&apos;s settings.</source>
+        <translation>別の組み合わせを選ぶか、デスクトップの設定で許可してください。</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or free it in the program that holds it.</source>
+        <translation>別の組み合わせを選ぶか、それを使っているプログラムで解放してください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: %2.</source>
+        <extracomment>%1 is a combination of keys, %2 one of the reasons: another program holds it</extracomment>
+        <translation>%1 は使えません: %2。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the third level (AltGr).</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>%1 は使えません: キーボードレイアウトに第 3 レベル (AltGr) のキーがありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the fifth level.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>%1 は使えません: キーボードレイアウトに第 5 レベルのキーがありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for %2.</source>
+        <extracomment>%1 is a combination of keys, %2 a modifier: Super</extracomment>
+        <translation>%1 は使えません: キーボードレイアウトに %2 のキーがありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: Keyrill uses it for something else.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>%1 は使えません: Keyrill が別の用途に使っています。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: this desktop has no such key.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>%1 は使えません: このデスクトップにはそのようなキーがありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: nobody could type it any more.</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>%1 は使えません: このキーを入力できなくなってしまいます。</translation>
+    </message>
+    <message>
+        <source>Add Ctrl, Alt or Super.</source>
+        <translation>Ctrl、Alt、Super のどれかを追加してください。</translation>
+    </message>
+    <message>
+        <source>This compositor gives no hot keys to programs.</source>
+        <translation>このコンポジターはプログラムにグローバルショートカットを提供しません。</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
+        <translation>コンポジター自体の設定で、コマンドにキーを割り当ててください。</translation>
+    </message>
+    <message>
+        <source>this compositor gives no hot keys to programs</source>
+        <translation>このコンポジターはプログラムにグローバルショートカットを提供しません</translation>
+    </message>
+    <message>
+        <source>another program holds it</source>
+        <translation>別のプログラムが使っています</translation>
+    </message>
+    <message>
+        <source>the X server refuses it with error %1</source>
+        <translation>X サーバーがエラー %1 で拒否しました</translation>
+    </message>
+    <message>
+        <source>the X server is gone</source>
+        <translation>X サーバーが終了しました</translation>
+    </message>
+</context>
+<context>
+    <name>Keyboards</name>
+    <message>
+        <source>The keyboard cannot be read: %1: %2.</source>
+        <translation>キーボードを読み取れません: %1: %2。</translation>
+    </message>
+    <message>
+        <source>Let the keyboard be read while a macro is recorded.</source>
+        <translation>マクロの記録中はキーボードの読み取りを許可してください。</translation>
+    </message>
+    <message>
+        <source>The keyboard can no longer be read: the permission has ended.</source>
+        <translation>キーボードを読み取れなくなりました: 許可が無効になりました。</translation>
+    </message>
+    <message>
+        <source>Another user&apos;s session may be in front, or the screen is locked.</source>
+        <translation>別のユーザーのセッションが前面にあるか、画面がロックされている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The keyboard cannot be read: there is no system bus.</source>
+        <translation>キーボードを読み取れません: システムバスがありません。</translation>
+    </message>
+    <message>
+        <source>What it says stands in the system&apos;s journal: journalctl -u keyrill-access.</source>
+        <translation>サービスのメッセージはシステムのジャーナルで確認できます: journalctl -u keyrill-access。</translation>
+    </message>
+    <message>
+        <source>The keyboard is no longer read: the service keyrill-access has ended.</source>
+        <translation>キーボードの読み取りが止まりました: サービス keyrill-access が終了しました。</translation>
+    </message>
+    <message>
+        <source>Keyrill may not read the keyboard: permission was not given.</source>
+        <translation>Keyrill はキーボードを読み取れません: 許可が与えられませんでした。</translation>
+    </message>
+    <message>
+        <source>Record again and agree when you are asked for your password.</source>
+        <translation>もう一度記録し、パスワードを求められたら許可してください。</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access is not installed.</source>
+        <translation>Keyrill はキーボードを読み取れません: サービス keyrill-access がインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, tools/access install.</source>
+        <translation>パッケージ keyrill-wayland-access をインストールするか、Keyrill のソースから tools/access install を実行してください。</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access does not work.</source>
+        <translation>Keyrill はキーボードを読み取れません: サービス keyrill-access が動作していません。</translation>
+    </message>
+    <message>
+        <source>A Wayland session shows this program nothing of what is typed in others.</source>
+        <translation>Wayland セッションでは、他のプログラムへの入力はこのプログラムにまったく見えません。</translation>
+    </message>
+    <message>
+        <source>Record with keyrill itself, or use an X11 session.</source>
+        <translation>keyrill 自体で記録するか、X11 セッションを使ってください。</translation>
+    </message>
+</context>
+<context>
+    <name>Keys</name>
+    <message>
+        <source>This desktop lets no program press keys: no portal for it answers.</source>
+        <translation>このデスクトップではプログラムがキーを押せません: そのためのポータルが応答しません。</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the part of it that belongs to your desktop.</source>
+        <translation>xdg-desktop-portal と、お使いのデスクトップ用のバックエンドをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The desktop was not allowed to let Keyrill press keys.</source>
+        <translation>デスクトップが Keyrill にキーを押させることは許可されませんでした。</translation>
+    </message>
+    <message>
+        <source>Play again, and agree when you are asked.</source>
+        <translation>もう一度再生し、尋ねられたら許可してください。</translation>
+    </message>
+    <message>
+        <source>The desktop has not answered whether Keyrill may press keys.</source>
+        <translation>Keyrill がキーを押してもよいかどうか、デスクトップから応答がありません。</translation>
+    </message>
+    <message>
+        <source>Play again; if nothing asks you, log in again.</source>
+        <translation>もう一度再生してください。何も尋ねられない場合は、ログインし直してください。</translation>
+    </message>
+    <message>
+        <source>The desktop no longer lets Keyrill press keys.</source>
+        <translation>デスクトップが Keyrill にキーを押させなくなりました。</translation>
+    </message>
+    <message>
+        <source>Play again; it may ask for your permission.</source>
+        <translation>もう一度再生してください。許可を求められることがあります。</translation>
+    </message>
+    <message>
+        <source>The power key cannot be pressed by a script.</source>
+        <translation>電源キーをスクリプトで押すことはできません。</translation>
+    </message>
+    <message>
+        <source>Take key code 127 out of the script.</source>
+        <translation>スクリプトからキーコード 127 を取り除いてください。</translation>
+    </message>
+    <message>
+        <source>The text to type is not UTF-8 at byte %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>入力するテキストは、バイト %1 の位置で UTF-8 になっていません。</translation>
+    </message>
+    <message>
+        <source>Save the script as UTF-8.</source>
+        <translation>スクリプトを UTF-8 で保存してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1...&quot;</source>
+        <extracomment>The beginning of a text that is longer, in quotation marks.</extracomment>
+        <translation>「%1...」</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <extracomment>A text in quotation marks.</extracomment>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2)</source>
+        <extracomment>%1 is a character, %2 its code: U+00E9</extracomment>
+        <translation>「%1」(%2)</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with the keyboard layout that is in force.</source>
+        <translation>文字 %1 は、現在のキーボードレイアウトでは入力できません。</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or switch to a layout that has it before you play.</source>
+        <translation>テキストから取り除くか、再生する前に、その文字があるレイアウトに切り替えてください。</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with your keyboard layouts.</source>
+        <translation>文字 %1 は、お使いのキーボードレイアウトでは入力できません。</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or add a layout that has it.</source>
+        <translation>テキストから取り除くか、その文字があるレイアウトを追加してください。</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with this keyboard layout.</source>
+        <translation>文字 %1 は、このキーボードレイアウトでは入力できません。</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or set a layout that has it.</source>
+        <translation>テキストから取り除くか、その文字があるレイアウトを設定してください。</translation>
+    </message>
+    <message>
+        <source>The keymap for typing could not be made.</source>
+        <translation>入力用のキーマップを作成できませんでした。</translation>
+    </message>
+    <message>
+        <source>This compositor lets no program press keys.</source>
+        <translation>このコンポジターではプログラムがキーを押せません。</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, or an X11 session.</source>
+        <translation>sway など仮想キーボードのあるコンポジターか、X11 セッションを使ってください。</translation>
+    </message>
+    <message>
+        <source>A script is running already.</source>
+        <translation>すでにスクリプトを実行中です。</translation>
+    </message>
+    <message>
+        <source>Wait for its end.</source>
+        <translation>終わるまでお待ちください。</translation>
+    </message>
+    <message>
+        <source>The key %1 types no character.</source>
+        <translation>キー %1 で入力できる文字はありません。</translation>
+    </message>
+    <message>
+        <source>A Wayland session has no bell.</source>
+        <translation>Wayland セッションにはベルがありません。</translation>
+    </message>
+    <message>
+        <source>Take the beep out of the script.</source>
+        <translation>スクリプトからビープ音を取り除いてください。</translation>
+    </message>
+    <message>
+        <source>KDE lets no program press keys: its portal does not answer.</source>
+        <translation>KDE ではプログラムがキーを押せません: ポータルが応答しません。</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal-kde, or use an X11 session.</source>
+        <translation>xdg-desktop-portal-kde をインストールするか、X11 セッションを使ってください。</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, a desktop whose portal presses keys, such as KDE and GNOME, or an X11 session.</source>
+        <translation>sway など仮想キーボードのあるコンポジターか、KDE や GNOME などポータルでキーを押せるデスクトップか、X11 セッションを使ってください。</translation>
+    </message>
+    <message>
+        <source>The keyboard layout was changed while text was typed, which may have arrived as something else: %1.</source>
+        <translation>テキストの入力中にキーボードレイアウトが変更されたため、違う文字として届いた可能性があります: %1。</translation>
+    </message>
+    <message>
+        <source>Play it again when the layout stays as it is.</source>
+        <translation>レイアウトが変わらない状態で、もう一度再生してください。</translation>
+    </message>
+    <message>
+        <source>Another program holds the keyboard, so that no keys can be pressed.</source>
+        <translation>別のプログラムがキーボードを占有しているため、キーを押せません。</translation>
+    </message>
+    <message>
+        <source>Close the menu, the question or the screen lock that is open, and play again.</source>
+        <translation>開いているメニューや質問を閉じるか、画面のロックを解除してから、もう一度再生してください。</translation>
+    </message>
+    <message>
+        <source>The X server refuses to put characters on unused keys.</source>
+        <translation>使われていないキーへの文字の割り当てを X サーバーが拒否しました。</translation>
+    </message>
+    <message>
+        <source>Use characters of the keyboard layout, or set another layout.</source>
+        <translation>キーボードレイアウトにある文字を使うか、別のレイアウトを設定してください。</translation>
+    </message>
+    <message>
+        <source>The program that is typed into reads nothing; not typed: %1.</source>
+        <translation>入力先のプログラムが何も読み取りません。入力されなかった内容: %1。</translation>
+    </message>
+    <message>
+        <source>Play it again when the program reads its keys.</source>
+        <translation>プログラムがキーを読み取るようになったら、もう一度再生してください。</translation>
+    </message>
+    <message>
+        <source>The program that was typed into has not read all of it.</source>
+        <translation>入力先のプログラムが、入力をすべては読み取っていません。</translation>
+    </message>
+    <message>
+        <source>See whether it hangs; what it reads later may lack characters.</source>
+        <translation>プログラムが応答しなくなっていないか確認してください。後で読み取られる内容では文字が欠けることがあります。</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.</source>
+        <translation>押し続けたキーのリピートを記録できません: X サーバーに RECORD 拡張機能がありません。</translation>
+    </message>
+    <message>
+        <source>A held key is recorded as one press. Switch the extension on in the settings of the X server.</source>
+        <translation>押し続けたキーは 1 回の押下として記録されます。X サーバーの設定で拡張機能を有効にしてください。</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys can no longer be recorded: the X server has ended it.</source>
+        <translation>押し続けたキーのリピートを記録できなくなりました: X サーバーが記録を終了しました。</translation>
     </message>
 </context>
 <context>
@@ -809,6 +1800,64 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>No key of the present keyboard layout types &quot;%1&quot;.</source>
+        <extracomment>%1 is a character.</extracomment>
+        <translation>現在のキーボードレイアウトには「%1」を入力できるキーがありません。</translation>
+    </message>
+    <message>
+        <source>Convert the keys to text, which types any character.</source>
+        <translation>キーをテキストに変換してください。テキストならどの文字でも入力できます。</translation>
+    </message>
+    <message>
+        <source>GNOME lets no program switch the keyboard layout.</source>
+        <translation>GNOME ではプログラムがキーボードレイアウトを切り替えられません。</translation>
+    </message>
+    <message>
+        <source>The desktop has no keyboard layout of that number.</source>
+        <translation>デスクトップにその番号のキーボードレイアウトはありません。</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program switch the keyboard layout.</source>
+        <translation>このデスクトップではプログラムがキーボードレイアウトを切り替えられません。</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the third level (AltGr).</source>
+        <translation>キーボードレイアウトに第 3 レベル (AltGr) のキーがありません。</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the fifth level.</source>
+        <translation>キーボードレイアウトに第 5 レベルのキーがありません。</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for %1.</source>
+        <extracomment>%1 is a modifier: Super</extracomment>
+        <translation>キーボードレイアウトに %1 のキーがありません。</translation>
+    </message>
+    <message>
+        <source>Choose a keyboard layout that has one.</source>
+        <translation>そのキーがあるキーボードレイアウトを選択してください。</translation>
+    </message>
+    <message>
+        <source>The keyboard has no layout %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>キーボードにレイアウト %1 がありません。</translation>
+    </message>
+    <message>
+        <source>Add it to the keyboard layouts, or record the macro again.</source>
+        <translation>キーボードレイアウトに追加するか、マクロを記録し直してください。</translation>
+    </message>
+    <message>
+        <source>The keymap of the X server cannot be read.</source>
+        <translation>X サーバーのキーマップを読み取れません。</translation>
+    </message>
+    <message>
+        <source>Set a keyboard layout, or log in again.</source>
+        <translation>キーボードレイアウトを設定するか、ログインし直してください。</translation>
+    </message>
+</context>
+<context>
     <name>LibraryController</name>
     <message>
         <source>&quot;%1&quot; was not played</source>
@@ -821,6 +1870,36 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>The history</source>
         <translation>履歴</translation>
+    </message>
+</context>
+<context>
+    <name>LogIn</name>
+    <message>
+        <source>The file %1 cannot be removed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>ファイル %1 を削除できません: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write in its folder.</source>
+        <translation>そのフォルダーに書き込めるユーザーを確認してください。</translation>
+    </message>
+    <message>
+        <source>A program whose path has a percent sign cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>パスにパーセント記号が含まれるプログラムは、ログイン時に起動できません: %1</translation>
+    </message>
+    <message>
+        <source>Move the program to a folder without one.</source>
+        <translation>パスにパーセント記号が含まれないフォルダーにプログラムを移動してください。</translation>
+    </message>
+    <message>
+        <source>A program whose path is not UTF-8 cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>パスが UTF-8 ではないプログラムは、ログイン時に起動できません: %1</translation>
+    </message>
+    <message>
+        <source>Move the program to another folder.</source>
+        <translation>プログラムを別のフォルダーに移動してください。</translation>
     </message>
 </context>
 <context>
@@ -1377,6 +2456,38 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>Programs</name>
+    <message>
+        <source>The program &quot;%1&quot;, which presses keys by the desktop&apos;s portal, could not be started.</source>
+        <translation>デスクトップのポータルでキーを押すプログラム「%1」を起動できませんでした。</translation>
+    </message>
+    <message>
+        <source>Install the program again.</source>
+        <translation>プログラムをもう一度インストールしてください。</translation>
+    </message>
+    <message>
+        <source>A text with a zero byte cannot be opened.</source>
+        <translation>ヌルバイトを含むテキストは開けません。</translation>
+    </message>
+    <message>
+        <source>The program xdg-open cannot be started: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>プログラム xdg-open を起動できません: %1</translation>
+    </message>
+    <message>
+        <source>Install the package xdg-utils.</source>
+        <translation>パッケージ xdg-utils をインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The guard program &quot;%1&quot;, which releases keys after a crash, could not be started.</source>
+        <translation>クラッシュ後にキーを離す監視プログラム「%1」を起動できませんでした。</translation>
+    </message>
+    <message>
+        <source>Install the program again; nothing is played without its guard.</source>
+        <translation>プログラムをもう一度インストールしてください。監視プログラムがないと何も再生されません。</translation>
+    </message>
+</context>
+<context>
     <name>RecordHerePanel</name>
     <message>
         <source>Record Here</source>
@@ -1540,6 +2651,121 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>Session</name>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>セッションバスがありません。</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>ログインし直してください。</translation>
+    </message>
+    <message>
+        <source>sway does not answer at $SWAYSOCK.</source>
+        <translation>sway が $SWAYSOCK で応答しません。</translation>
+    </message>
+    <message>
+        <source>Start the program in the session of sway.</source>
+        <translation>プログラムを sway のセッションで起動してください。</translation>
+    </message>
+    <message>
+        <source>sway says: %1</source>
+        <translation>sway からのメッセージ: %1</translation>
+    </message>
+    <message>
+        <source>There is no kind of session called &quot;%1&quot;.</source>
+        <translation>「%1」という種類のセッションはありません。</translation>
+    </message>
+    <message>
+        <source>Choose one of these: %1.</source>
+        <translation>次のいずれかを選んでください: %1。</translation>
+    </message>
+    <message>
+        <source>No kind of session is known.</source>
+        <translation>既知のセッションの種類がありません。</translation>
+    </message>
+    <message>
+        <source>The connection to the compositor was lost.</source>
+        <translation>コンポジターへの接続が失われました。</translation>
+    </message>
+    <message>
+        <source>No Wayland compositor answers at $WAYLAND_DISPLAY.</source>
+        <translation>$WAYLAND_DISPLAY で応答する Wayland コンポジターがありません。</translation>
+    </message>
+    <message>
+        <source>Start the program in a Wayland session.</source>
+        <translation>プログラムを Wayland セッションで起動してください。</translation>
+    </message>
+    <message>
+        <source>The Wayland compositor is gone.</source>
+        <translation>Wayland コンポジターが終了しました。</translation>
+    </message>
+    <message>
+        <source>$WAYLAND_DISPLAY names no Wayland compositor.</source>
+        <translation>$WAYLAND_DISPLAY が Wayland コンポジターを指していません。</translation>
+    </message>
+    <message>
+        <source>The X server is gone.</source>
+        <translation>X サーバーが終了しました。</translation>
+    </message>
+    <message>
+        <source>This is a Wayland session without an X server.</source>
+        <translation>これは X サーバーのない Wayland セッションです。</translation>
+    </message>
+    <message>
+        <source>Install Xwayland, or switch it on in the desktop&apos;s settings, and log in again; or choose an X11 session when you log in.</source>
+        <translation>Xwayland をインストールするか、デスクトップの設定で有効にして、ログインし直してください。または、ログイン時に X11 セッションを選択してください。</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is no desktop session.</source>
+        <translation>X11 セッションが必要ですが、これはデスクトップセッションではありません。</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is a Wayland session without an X server.</source>
+        <translation>X11 セッションが必要ですが、これは X サーバーのない Wayland セッションです。</translation>
+    </message>
+    <message>
+        <source>Choose an X11 session when you log in.</source>
+        <translation>ログイン時に X11 セッションを選択してください。</translation>
+    </message>
+    <message>
+        <source>The connection to the X server was lost.</source>
+        <translation>X サーバーへの接続が失われました。</translation>
+    </message>
+    <message>
+        <source>Use a newer X server, or switch the extension on in its settings.</source>
+        <translation>新しい X サーバーを使うか、設定で拡張機能を有効にしてください。</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has no XInput.</source>
+        <translation>X サーバーには XInput 2.2 以降が必要ですが、XInput がありません。</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but does not answer.</source>
+        <translation>X サーバーには XInput 2.2 以降が必要ですが、応答がありません。</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has %1.</source>
+        <translation>X サーバーには XInput 2.2 以降が必要ですが、現在は %1 です。</translation>
+    </message>
+    <message>
+        <source>The X server must have the XKB extension, but it cannot be used.</source>
+        <translation>X サーバーには XKB 拡張機能が必要ですが、使えません。</translation>
+    </message>
+    <message>
+        <source>The X server must have the XTEST extension, but it has not.</source>
+        <translation>X サーバーには XTEST 拡張機能が必要ですが、ありません。</translation>
+    </message>
+    <message>
+        <source>The X server of display &quot;%1&quot; cannot be reached.</source>
+        <translation>ディスプレイ「%1」の X サーバーに接続できません。</translation>
+    </message>
+    <message>
+        <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
+        <translation>プログラムをデスクトップセッションの中で起動するか、DISPLAY に実行中の X サーバーを設定してください。</translation>
+    </message>
+</context>
+<context>
     <name>SessionReport</name>
     <message>
         <source>, </source>
@@ -1677,6 +2903,72 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <source>%1; %2</source>
         <extracomment>the keyboard layouts, and the locks that are on</extracomment>
         <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>It has a zero byte</source>
+        <translation>ヌルバイトが含まれています</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>設定ファイル %1 はキーファイルではありません: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>マクロの設定ファイル %1 はキーファイルではありません: %2</translation>
+    </message>
+    <message>
+        <source>The settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>設定フォルダー %1 を作成できません: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>マクロの設定フォルダー %1 を作成できません: %2</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and the settings begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>ファイルの名前を %1 に変更しました。設定は初期状態に戻ります。</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and hot keys, times and speeds begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>ファイルの名前を %1 に変更しました。ショートカット、回数、速さは初期状態に戻ります。</translation>
+    </message>
+    <message>
+        <source>Correct the file or remove it.</source>
+        <translation>ファイルを修正するか、削除してください。</translation>
+    </message>
+    <message>
+        <source>It could not be put aside either: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>ファイルを退避することもできませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>設定ファイル %1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>マクロの設定ファイル %1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>設定ファイル %1 に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>マクロの設定ファイル %1 に書き込めません: %2</translation>
     </message>
 </context>
 <context>
@@ -1957,6 +3249,70 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>Warnings</name>
+    <message>
+        <source>This is typed as it stands; the key has a number: key code %1.</source>
+        <translation>これはそのまま入力されます。このキーには番号があります: key code %1。</translation>
+    </message>
+    <message>
+        <source>“%1” is typed as it stands. %2</source>
+        <extracomment>%1 is the name of a key in braces, %2 a sentence that says how the key is written.</extracomment>
+        <translation>「%1」はそのまま入力されます。%2</translation>
+    </message>
+    <message>
+        <source>Key code %1 is an extension, which only Keyrill plays.</source>
+        <translation>キーコード %1 は拡張で、Keyrill でしか再生できません。</translation>
+    </message>
+    <message>
+        <source>Key code %1 has no key; nothing is pressed.</source>
+        <translation>キーコード %1 のキーはありません。何も押されません。</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record and no text; take: button returned of %1, or text returned of %1.</source>
+        <translation>ダイアログが返すのはレコードで、テキストではありません。次のどちらかを使ってください: button returned of %1 または text returned of %1。</translation>
+    </message>
+    <message>
+        <source>An alert gives a record and no text; take: button returned of %1.</source>
+        <translation>警告が返すのはレコードで、テキストではありません。次を使ってください: button returned of %1。</translation>
+    </message>
+    <message>
+        <source>What was chosen comes in a list; take: item 1 of %1.</source>
+        <translation>選択されたものはリストで返されます。次を使ってください: item 1 of %1。</translation>
+    </message>
+    <message>
+        <source>The loop gives a reference, which equals no text; compare: contents of %1.</source>
+        <translation>ループが渡すのは参照で、テキストと等しくなることはありません。比較には次を使ってください: contents of %1。</translation>
+    </message>
+    <message>
+        <source>“%1” is taken as “%1 down”.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>「%1」は「%1 down」と見なされます。</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to what “%2” is given; put parentheses round the command: (%2 …) %1 ….</source>
+        <extracomment>%1 is an operator, &quot;&gt;&quot;, %2 a command, &quot;count&quot;.</extracomment>
+        <translation>「%1」は「%2」に渡す値の一部になっています。コマンドを丸かっこで囲んでください: (%2 …) %1 …。</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds; %1 milliseconds are: delay %2.</source>
+        <translation>「delay」の単位は秒です。%1 ミリ秒は次のように書きます: delay %2。</translation>
+    </message>
+    <message>
+        <source>This is typed as it stands; a shortcut is written: keystroke &quot;%1&quot; using %2 down.</source>
+        <extracomment>%1 is a letter, %2 the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>これはそのまま入力されます。ショートカットは次のように書きます: keystroke &quot;%1&quot; using %2 down。</translation>
+    </message>
+    <message>
+        <source>A modifier is held with: key down shift, without quotes.</source>
+        <translation>修飾キーを押し続けるには、引用符なしで次のように書きます: key down shift。</translation>
+    </message>
+    <message>
+        <source>The variable %1 is never set. %2</source>
+        <extracomment>%2 is a sentence that says what may have been meant.</extracomment>
+        <translation>変数 %1 は一度も設定されていません。%2</translation>
+    </message>
+</context>
+<context>
     <name>WelcomePanel</name>
     <message>
         <source>%1.</source>
@@ -2013,6 +3369,53 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Not set</source>
         <translation>未設定</translation>
+    </message>
+</context>
+<context>
+    <name>Windows</name>
+    <message>
+        <source>KWin does not tell of its windows.</source>
+        <translation>KWin がウィンドウについて何も知らせません。</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>ログインし直してください。</translation>
+    </message>
+    <message>
+        <source>No file could be written for KWin.</source>
+        <translation>KWin 用のファイルを書き込めませんでした。</translation>
+    </message>
+    <message>
+        <source>Free some space.</source>
+        <translation>空き容量を増やしてください。</translation>
+    </message>
+    <message>
+        <source>KWin runs no scripts: %1</source>
+        <translation>KWin がスクリプトを実行しません: %1</translation>
+    </message>
+    <message>
+        <source>KWin does not show the window any more.</source>
+        <translation>KWin がそのウィンドウを表示しなくなりました。</translation>
+    </message>
+    <message>
+        <source>Open it again.</source>
+        <translation>もう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>This compositor tells nobody of windows.</source>
+        <translation>このコンポジターはウィンドウについて何も知らせません。</translation>
+    </message>
+    <message>
+        <source>Use a compositor with toplevel management, such as sway, or an X11 session.</source>
+        <translation>sway などトップレベルウィンドウの管理ができるコンポジターか、X11 セッションを使ってください。</translation>
+    </message>
+    <message>
+        <source>No window of “%1” is open.</source>
+        <translation>「%1」のウィンドウは開いていません。</translation>
+    </message>
+    <message>
+        <source>Start it first.</source>
+        <translation>先に起動してください。</translation>
     </message>
 </context>
 </TS>

@@ -515,6 +515,33 @@ You can change your mind in Keyrill&apos;s preferences.</source>
     </message>
 </context>
 <context>
+    <name>Clipboard</name>
+    <message>
+        <source>This compositor gives the clipboard to windows alone.</source>
+        <translation>Этот композитор предоставляет буфер обмена только окнам.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with data control, such as sway, or an X11 session.</source>
+        <translation>Используйте композитор с протоколом data control, например sway, или сеанс X11.</translation>
+    </message>
+    <message>
+        <source>No more files can be opened.</source>
+        <translation>Больше нельзя открыть ни одного файла.</translation>
+    </message>
+    <message>
+        <source>Close programs.</source>
+        <translation>Закройте некоторые программы.</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is too long.</source>
+        <translation>Текст в буфере обмена слишком длинный.</translation>
+    </message>
+    <message>
+        <source>The clipboard is held by another program.</source>
+        <translation>Буфер обмена занят другой программой.</translation>
+    </message>
+</context>
+<context>
     <name>CombinationText</name>
     <message>
         <source>Ctrl</source>
@@ -531,6 +558,10 @@ You can change your mind in Keyrill&apos;s preferences.</source>
     <message>
         <source>Super</source>
         <translation>Super</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Ctrl</translation>
     </message>
 </context>
 <context>
@@ -690,6 +721,80 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>Files</name>
+    <message>
+        <source>Line %1 has the byte %2 at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is a code: 0xE9</extracomment>
+        <translation>В строке %1 в позиции %3 находится байт %2, а файл макроса может содержать только ASCII.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character (%2) at place %3, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %3 are numbers, %2 is the code of a character that cannot be shown: U+0085</extracomment>
+        <translation>В строке %1 в позиции %3 находится символ (%2), а файл макроса может содержать только ASCII.</translation>
+    </message>
+    <message>
+        <source>Line %1 has the character &quot;%2&quot; (%3) at place %4, and a macro file can hold ASCII only.</source>
+        <extracomment>%1 and %4 are numbers, %2 is a character, %3 its code: U+00E9</extracomment>
+        <translation>В строке %1 в позиции %4 находится символ «%2» (%3), а файл макроса может содержать только ASCII.</translation>
+    </message>
+    <message>
+        <source>Replace the character in the macro.</source>
+        <translation>Замените этот символ в макросе.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be deleted: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Невозможно удалить файл %1: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write to its folder, or delete it yourself.</source>
+        <translation>Проверьте, кто может записывать в его папку, или удалите файл вручную.</translation>
+    </message>
+    <message>
+        <source>It is a folder</source>
+        <translation>Это папка</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Это не обычный файл</translation>
+    </message>
+    <message>
+        <source>Choose a file.</source>
+        <translation>Выберите файл.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Невозможно прочитать файл %1: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2</source>
+        <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Невозможно записать файл %1: %2</translation>
+    </message>
+    <message>
+        <source>It is larger than %1 MiB</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Его размер больше %1 МиБ</translation>
+    </message>
+    <message>
+        <source>Choose a smaller file.</source>
+        <translation>Выберите файл меньшего размера.</translation>
+    </message>
+    <message>
+        <source>Choose another name.</source>
+        <translation>Выберите другое имя.</translation>
+    </message>
+    <message>
+        <source>Check that the file is there and who may read it.</source>
+        <translation>Проверьте, существует ли файл и кто может его читать.</translation>
+    </message>
+    <message>
+        <source>Make room, check who may write there, or choose another place.</source>
+        <translation>Освободите место, проверьте, кто может туда записывать, или выберите другое место.</translation>
+    </message>
+</context>
+<context>
     <name>FilesDesk</name>
     <message>
         <source>&quot;%1&quot; was not loaded</source>
@@ -718,6 +823,892 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Press %1 to play it.</source>
         <translation>Нажмите %1, чтобы воспроизвести его.</translation>
+    </message>
+</context>
+<context>
+    <name>Folders</name>
+    <message>
+        <source>The folder %1 cannot be made: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Невозможно создать папку %1: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write there.</source>
+        <translation>Проверьте, кто может туда записывать.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be read: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Невозможно прочитать папку %1: %2</translation>
+    </message>
+    <message>
+        <source>Check who may read it.</source>
+        <translation>Проверьте, кто может её читать.</translation>
+    </message>
+    <message>
+        <source>What changes in the folder %1 is not noticed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Изменения в папке %1 не отслеживаются: %2</translation>
+    </message>
+    <message>
+        <source>Start Keyrill again after changes, or raise fs.inotify.max_user_watches.</source>
+        <translation>Запускайте Keyrill заново после изменений или увеличьте fs.inotify.max_user_watches.</translation>
+    </message>
+    <message>
+        <source>Make room, or check who may write there.</source>
+        <translation>Освободите место или проверьте, кто может туда записывать.</translation>
+    </message>
+</context>
+<context>
+    <name>Hints</name>
+    <message>
+        <source>A handler is called with parentheses: %1().</source>
+        <translation>Обработчик вызывается со скобками: %1().</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1.</source>
+        <translation>У этой клавиши есть номер: key code %1.</translation>
+    </message>
+    <message>
+        <source>Return is joined to a text so: &quot;hello&quot; &amp; return.</source>
+        <translation>Return присоединяется к тексту так: &quot;hello&quot; &amp; return.</translation>
+    </message>
+    <message>
+        <source>Tab is joined to a text so: &quot;hello&quot; &amp; tab.</source>
+        <translation>Tab присоединяется к тексту так: &quot;hello&quot; &amp; tab.</translation>
+    </message>
+    <message>
+        <source>A question is asked with: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</source>
+        <translation>Вопрос задаётся так: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</translation>
+    </message>
+    <message>
+        <source>A number by chance is: random number from 1 to 10.</source>
+        <translation>Случайное число получают так: random number from 1 to 10.</translation>
+    </message>
+    <message>
+        <source>A loop is left with “exit repeat”, the script with “return”.</source>
+        <translation>Из цикла выходят с помощью «exit repeat», из сценария — с помощью «return».</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>Текст набирается с помощью «keystroke»: keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A pause is written in seconds: delay 2.</source>
+        <translation>Пауза указывается в секундах: delay 2.</translation>
+    </message>
+    <message>
+        <source>Errors are caught with: try … on error … end try.</source>
+        <translation>Ошибки перехватываются так: try … on error … end try.</translation>
+    </message>
+    <message>
+        <source>Nothing is imported; the commands are there from the start: delay 2, keystroke &quot;hello&quot;.</source>
+        <translation>Ничего импортировать не нужно; команды доступны с самого начала: delay 2, keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A value is printed with: log &quot;x&quot;. Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
+        <translation>Значение выводится так: log &quot;x&quot;. Текст набирается с помощью «keystroke»: keystroke &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>A message is shown with: display dialog &quot;hello&quot;.</source>
+        <translation>Сообщение показывается так: display dialog &quot;hello&quot;.</translation>
+    </message>
+    <message>
+        <source>What has no value is written: missing value.</source>
+        <translation>Отсутствие значения записывается так: missing value.</translation>
+    </message>
+    <message>
+        <source>A window is brought to the front with: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>Окно выводится на передний план так: tell application &quot;Firefox&quot; to activate.</translation>
+    </message>
+    <message>
+        <source>A key code lies between 0 and %1; “keyrill-script keys” prints those that keys have.</source>
+        <translation>Код клавиши — число от 0 до %1; «keyrill-script keys» выводит коды, которым соответствуют клавиши.</translation>
+    </message>
+    <message>
+        <source>A key code is a number; a text is typed with “keystroke”.</source>
+        <translation>Код клавиши — это число; текст набирается с помощью «keystroke».</translation>
+    </message>
+    <message>
+        <source>The key has a number: key code %1; “keyrill-script keys” prints all.</source>
+        <translation>У этой клавиши есть номер: key code %1; «keyrill-script keys» выводит все номера.</translation>
+    </message>
+    <message>
+        <source>The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.</source>
+        <translation>Части даты: year, month, day, weekday, hours, minutes, seconds и time.</translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>Возможно, вы имели в виду %1?</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: delay 0.5.</source>
+        <translation>Дробная часть отделяется точкой: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds: delay 0.5.</source>
+        <translation>«delay» считает в секундах: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record; what was typed there is taken with: text returned of n.</source>
+        <translation>Диалог возвращает запись (record); введённый в нём текст получают так: text returned of n.</translation>
+    </message>
+    <message>
+        <source>A modifier stands without quotes: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>Модификатор указывается без кавычек: using %1 down.</translation>
+    </message>
+    <message>
+        <source>Several modifiers stand in braces: using {control down, shift down}.</source>
+        <translation>Несколько модификаторов указываются в фигурных скобках: using {control down, shift down}.</translation>
+    </message>
+    <message>
+        <source>Texts are joined with “&amp;”: &quot;one&quot; &amp; &quot;two&quot;.</source>
+        <translation>Тексты соединяются с помощью «&amp;»: &quot;one&quot; &amp; &quot;two&quot;.</translation>
+    </message>
+    <message>
+        <source>This compares and changes nothing; a variable is set with “to”: set %1 to …</source>
+        <translation>Это сравнение, оно ничего не меняет; значение переменной задаётся с помощью «to»: set %1 to …</translation>
+    </message>
+    <message>
+        <source>The script has no handler of that name: on %1(…) … end %1.</source>
+        <translation>В сценарии нет обработчика с таким именем: on %1(…) … end %1.</translation>
+    </message>
+    <message>
+        <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
+        <translation>Программы не принимают никаких команд, кроме «activate»; нажимайте их клавиши: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
+        <extracomment>%1 is the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>Модификаторы называются command (Super), control (Ctrl), option (Alt) и shift: using %1 down.</translation>
+    </message>
+    <message>
+        <source>An application is named: application &quot;%1&quot;.</source>
+        <translation>Приложение указывается так: application &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>Текст заключается в прямые кавычки: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A handler has variables of its own; to share this one write there: global %1.</source>
+        <translation>У обработчика свои переменные; чтобы эта была общей, напишите в нём: global %1.</translation>
+    </message>
+    <message>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>Значение переменной задаётся до её использования: set %1 to … Текст заключается в прямые кавычки: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
+        <translation>Клавиша нажимается по номеру: key code 36 — это Return. «keyrill-script keys» выводит все номера.</translation>
+    </message>
+    <message>
+        <source>The date of today is “current date”; as a text: short date string of (current date).</source>
+        <translation>Сегодняшняя дата — «current date»; в виде текста: short date string of (current date).</translation>
+    </message>
+    <message>
+        <source>Inside “tell” the script’s own handlers are called with “my”: my %1(…).</source>
+        <translation>Внутри «tell» собственные обработчики сценария вызываются с «my»: my %1(…).</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>Здесь нет открытого блока; у «if» с инструкцией в той же строке нет «else».</translation>
+    </message>
+    <message>
+        <source>No block is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>Здесь нет открытого блока; у «if» с инструкцией в той же строке нет «end if».</translation>
+    </message>
+    <message>
+        <source>No block is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>Здесь нет открытого блока; у «tell … to» в одной строке нет «end tell».</translation>
+    </message>
+    <message>
+        <source>No block is open here; this line is one too many.</source>
+        <translation>Здесь нет открытого блока; эта строка лишняя.</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “else”.</source>
+        <translation>Здесь нет открытого «if»; у «if» с инструкцией в той же строке нет «else».</translation>
+    </message>
+    <message>
+        <source>No “if” is open here; an “if” with its statement in one line has no “end if”.</source>
+        <translation>Здесь нет открытого «if»; у «if» с инструкцией в той же строке нет «end if».</translation>
+    </message>
+    <message>
+        <source>No “tell” is open here; a “tell … to” in one line has no “end tell”.</source>
+        <translation>Здесь нет открытого «tell»; у «tell … to» в одной строке нет «end tell».</translation>
+    </message>
+    <message>
+        <source>No “%1” is open here; the block that begins in line %2 has no “end” of its own.</source>
+        <extracomment>%1 is the first word of a block, &quot;repeat&quot;, %2 a number.</extracomment>
+        <translation>Здесь нет открытого «%1»; у блока, который начинается в строке %2, нет своего «end».</translation>
+    </message>
+    <message>
+        <source>In line %1 these are two words: %2.</source>
+        <extracomment>%1 is a number, %2 what the line was meant to be, &quot;end if&quot;.</extracomment>
+        <translation>В строке %1 должно быть два слова: %2.</translation>
+    </message>
+    <message>
+        <source>The block that begins in line %1 has no “end” of its own.</source>
+        <translation>У блока, который начинается в строке %1, нет своего «end».</translation>
+    </message>
+    <message>
+        <source>The text that begins here is not closed by a straight quote in its line.</source>
+        <translation>Текст, который начинается здесь, не закрыт прямой кавычкой в той же строке.</translation>
+    </message>
+    <message>
+        <source>The comment that begins in line %1 is not closed by “*)”.</source>
+        <translation>Комментарий, который начинается в строке %1, не закрыт знаками «*)».</translation>
+    </message>
+    <message>
+        <source>The keyboard commands stand inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Команды клавиатуры ставятся внутри «tell application &quot;System Events&quot;» … «end tell».</translation>
+    </message>
+    <message>
+        <source>Modifiers are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Модификаторы доступны внутри «tell application &quot;System Events&quot;» … «end tell».</translation>
+    </message>
+    <message>
+        <source>Processes are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
+        <translation>Процессы доступны внутри «tell application &quot;System Events&quot;» … «end tell».</translation>
+    </message>
+    <message>
+        <source>Put straight quotes (&quot;) in place of the curly ones.</source>
+        <translation>Поставьте прямые кавычки (&quot;) вместо типографских.</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to 5.</source>
+        <translation>Значение переменной задаётся с помощью «to»: set x to 5.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat with i from 1 to 5 … end repeat.</source>
+        <translation>Цикл записывается так: repeat with i from 1 to 5 … end repeat.</translation>
+    </message>
+    <message>
+        <source>A handler is written: on greet(x) … end greet.</source>
+        <translation>Обработчик записывается так: on greet(x) … end greet.</translation>
+    </message>
+    <message>
+        <source>Several stand in braces: {control down, shift down}, {36, 48}.</source>
+        <translation>Несколько указываются в фигурных скобках: {control down, shift down}, {36, 48}.</translation>
+    </message>
+    <message>
+        <source>These are two words: else if … then.</source>
+        <translation>Это два слова: else if … then.</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, and Return joined with “&amp;”: keystroke &quot;hello&quot; &amp; return.</source>
+        <translation>Текст набирается с помощью «keystroke», а Return присоединяется с помощью «&amp;»: keystroke &quot;hello&quot; &amp; return.</translation>
+    </message>
+    <message>
+        <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
+        <translation>Клавиша нажимается и отпускается так: keystroke return, key code 53. Удерживается она так: key down 36, а отпускается так: key up 36.</translation>
+    </message>
+    <message>
+        <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
+        <translation>У макроса нет мыши; нажимайте клавиши, которые делают то же самое, например Tab и Return.</translation>
+    </message>
+    <message>
+        <source>Conditions are joined with “and” or “or”.</source>
+        <translation>Условия соединяются с помощью «and» или «or».</translation>
+    </message>
+    <message>
+        <source>Of a process its name is known, and whether it is in front: every process whose name contains &quot;fire&quot;.</source>
+        <translation>О процессе известно его имя и то, находится ли он на переднем плане: every process whose name contains &quot;fire&quot;.</translation>
+    </message>
+    <message>
+        <source>Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.</source>
+        <translation>Макрос не видит окон, кнопок и меню; нажимайте клавиши, которые делают то же самое.</translation>
+    </message>
+    <message>
+        <source>Modifiers stand behind “using”: keystroke &quot;s&quot; using control down.</source>
+        <translation>Модификаторы ставятся после «using»: keystroke &quot;s&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.</source>
+        <translation>То, что выполняется несколько раз, пишется отдельными строками между «repeat 5 times» и «end repeat».</translation>
+    </message>
+    <message>
+        <source>Each statement has a line of its own.</source>
+        <translation>Каждая инструкция пишется в отдельной строке.</translation>
+    </message>
+    <message>
+        <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
+        <translation>У макроса нет файлов; текст можно взять из «the clipboard» или из диалога.</translation>
+    </message>
+    <message>
+        <source>A variable is set with “to”: set x to x + 1.</source>
+        <translation>Значение переменной задаётся с помощью «to»: set x to x + 1.</translation>
+    </message>
+    <message>
+        <source>A parenthesis is not closed in this line.</source>
+        <translation>В этой строке не закрыта круглая скобка.</translation>
+    </message>
+    <message>
+        <source>A brace is not closed in this line.</source>
+        <translation>В этой строке не закрыта фигурная скобка.</translation>
+    </message>
+    <message>
+        <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
+        <translation>Нажмите клавиши, которые запускают программу, или выведите окно на передний план: tell application &quot;Firefox&quot; to activate.</translation>
+    </message>
+    <message>
+        <source>Write the command by its name.</source>
+        <translation>Укажите команду по имени.</translation>
+    </message>
+    <message>
+        <source>A shortcut is written: keystroke &quot;c&quot; using control down.</source>
+        <translation>Комбинация клавиш записывается так: keystroke &quot;c&quot; using control down.</translation>
+    </message>
+    <message>
+        <source>Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat.</source>
+        <translation>С помощью «whose» выбираются только процессы; список перебирается так: repeat with x in theList … end repeat.</translation>
+    </message>
+    <message>
+        <source>Behind “default answer” stands a text, be it empty: default answer &quot;&quot;.</source>
+        <translation>После «default answer» ставится текст, хотя бы пустой: default answer &quot;&quot;.</translation>
+    </message>
+    <message>
+        <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
+        <translation>У «if» в одной строке нет «else»; запишите его в несколько строк, с «end if».</translation>
+    </message>
+    <message>
+        <source>Decimals stand behind a point: 0.5.</source>
+        <translation>Дробная часть отделяется точкой: 0.5.</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds, without a unit: delay 0.5.</source>
+        <translation>«delay» считает в секундах, единица не указывается: delay 0.5.</translation>
+    </message>
+    <message>
+        <source>A key is let go with: key up &quot;a&quot;.</source>
+        <translation>Клавиша отпускается так: key up &quot;a&quot;.</translation>
+    </message>
+    <message>
+        <source>Text is typed with “keystroke”, a key is pressed by its number: key code 36.</source>
+        <translation>Текст набирается с помощью «keystroke», клавиша нажимается по номеру: key code 36.</translation>
+    </message>
+    <message>
+        <source>A key is held with “key down” and let go with “key up”: key down shift.</source>
+        <translation>Клавиша удерживается с помощью «key down» и отпускается с помощью «key up»: key down shift.</translation>
+    </message>
+    <message>
+        <source>The text in the clipboard is: the clipboard.</source>
+        <translation>Текст в буфере обмена: the clipboard.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat 5 times … end repeat.</source>
+        <translation>Цикл записывается так: repeat 5 times … end repeat.</translation>
+    </message>
+    <message>
+        <source>Behind the name stands “to”, or the line ends there: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</source>
+        <translation>После имени ставится «to», или строка на нём заканчивается: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</translation>
+    </message>
+    <message>
+        <source>The name stands between straight quotes: tell application &quot;System Events&quot;.</source>
+        <translation>Имя заключается в прямые кавычки: tell application &quot;System Events&quot;.</translation>
+    </message>
+    <message>
+        <source>A loop is written: repeat while x &lt; 5 … end repeat.</source>
+        <translation>Цикл записывается так: repeat while x &lt; 5 … end repeat.</translation>
+    </message>
+    <message>
+        <source>A comment begins with -- or #.</source>
+        <translation>Комментарий начинается с -- или #.</translation>
+    </message>
+    <message>
+        <source>A comment over lines is written (* … *).</source>
+        <translation>Комментарий в несколько строк записывается так: (* … *).</translation>
+    </message>
+    <message>
+        <source>“Equal” is written with one =.</source>
+        <translation>«Равно» записывается одним знаком =.</translation>
+    </message>
+    <message>
+        <source>A text is not closed by a straight quote.</source>
+        <translation>Текст не закрыт прямой кавычкой.</translation>
+    </message>
+    <message>
+        <source>A backslash in a text is written twice: &quot;C:\\Users&quot;.</source>
+        <translation>Обратная косая черта в тексте пишется дважды: &quot;C:\\Users&quot;.</translation>
+    </message>
+    <message>
+        <source>Behind “as” stands a class: text, integer, real, number, boolean, list, record, date.</source>
+        <translation>После «as» ставится класс: text, integer, real, number, boolean, list, record, date.</translation>
+    </message>
+    <message>
+        <source>A block has no braces: if x = 1 then … end if.</source>
+        <translation>У блока нет фигурных скобок: if x = 1 then … end if.</translation>
+    </message>
+    <message>
+        <source>A block has no braces; it ends with “end” and its first word: end repeat.</source>
+        <translation>У блока нет фигурных скобок; он заканчивается словом «end» и своим первым словом: end repeat.</translation>
+    </message>
+    <message>
+        <source>A line needs no colon at its end.</source>
+        <translation>Двоеточие в конце строки не нужно.</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|.</source>
+        <translation>Имя с буквами, отличными от A–Z, заключается в вертикальные черты: |%1|.</translation>
+    </message>
+    <message>
+        <source>Other letters than A to Z stand in a name between bars: |%1|. Text stands between straight quotes: &quot;%1&quot;.</source>
+        <translation>Имя с буквами, отличными от A–Z, заключается в вертикальные черты: |%1|. Текст заключается в прямые кавычки: &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>A sign that nobody sees stands here; delete it.</source>
+        <translation>Здесь стоит невидимый символ; удалите его.</translation>
+    </message>
+    <message>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
+        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <translation>Комбинация клавиш не является частью сценария; она задаётся в параметрах или, для каждого макроса, в окне «Макросы...».</translation>
+    </message>
+    <message>
+        <source>“Not equal” is written ≠ or /=.</source>
+        <translation>«Не равно» записывается как ≠ или /=.</translation>
+    </message>
+    <message>
+        <source>An item is taken by its number: item 1 of x.</source>
+        <translation>Элемент берётся по номеру: item 1 of x.</translation>
+    </message>
+    <message>
+        <source>What belongs to a value is taken with “of”: length of x.</source>
+        <translation>То, что относится к значению, берётся с помощью «of»: length of x.</translation>
+    </message>
+    <message>
+        <source>A list stands in braces: {1, 2}.</source>
+        <translation>Список заключается в фигурные скобки: {1, 2}.</translation>
+    </message>
+    <message>
+        <source>The rest of a division is written: 7 mod 2.</source>
+        <translation>Остаток от деления записывается так: 7 mod 2.</translation>
+    </message>
+    <message>
+        <source>Text stands between straight double quotes (&quot;).</source>
+        <translation>Текст заключается в прямые двойные кавычки (&quot;).</translation>
+    </message>
+    <message>
+        <source>A quote inside a text is written \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</source>
+        <translation>Кавычка внутри текста пишется как \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</translation>
+    </message>
+    <message>
+        <source>Take the items in parts, or paragraphs instead of characters.</source>
+        <translation>Берите элементы по частям или используйте абзацы вместо символов.</translation>
+    </message>
+</context>
+<context>
+    <name>HotKeys</name>
+    <message>
+        <source>GNOME&apos;s settings cannot be changed</source>
+        <translation>настройки GNOME нельзя изменить</translation>
+    </message>
+    <message>
+        <source>your settings of GNOME have another entry in its place</source>
+        <translation>в ваших настройках GNOME на её месте находится другая запись</translation>
+    </message>
+    <message>
+        <source>your own shortcut “%1” in GNOME&apos;s settings has it</source>
+        <translation>она занята вашей дополнительной комбинацией клавиш «%1» в настройках GNOME</translation>
+    </message>
+    <message>
+        <source>GNOME has it for “%1”</source>
+        <translation>GNOME использует её для «%1»</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
+        <translation>в GNOME комбинации клавиш возможны только в ваших собственных настройках, а Keyrill не разрешено их изменять</translation>
+    </message>
+    <message>
+        <source>GNOME has no name for it</source>
+        <translation>в GNOME для неё нет имени</translation>
+    </message>
+    <message>
+        <source>it has been taken out of GNOME&apos;s settings</source>
+        <translation>она убрана из настроек GNOME</translation>
+    </message>
+    <message>
+        <source>KDE has no name for this key</source>
+        <translation>в KDE для этой клавиши нет имени</translation>
+    </message>
+    <message>
+        <source>KDE says: %1</source>
+        <translation>KDE сообщает: %1</translation>
+    </message>
+    <message>
+        <source>KDE uses it for something else</source>
+        <translation>KDE использует её для другого</translation>
+    </message>
+    <message>
+        <source>KDE does not give it</source>
+        <translation>KDE её не предоставляет</translation>
+    </message>
+    <message>
+        <source>%1 has it for “%2”</source>
+        <translation>%1 использует её для «%2»</translation>
+    </message>
+    <message>
+        <source>the desktop has not granted it</source>
+        <translation>рабочий стол её не разрешил</translation>
+    </message>
+    <message>
+        <source>you did not agree when the desktop asked</source>
+        <translation>вы не дали согласия в ответ на запрос рабочего стола</translation>
+    </message>
+    <message>
+        <source>the desktop has not answered</source>
+        <translation>рабочий стол не ответил</translation>
+    </message>
+    <message>
+        <source>the desktop has refused it</source>
+        <translation>рабочий стол отклонил её</translation>
+    </message>
+    <message>
+        <source>there is no session bus</source>
+        <translation>нет сеансовой шины</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal does not answer</source>
+        <translation>портал рабочего стола не отвечает</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal gives no hot keys</source>
+        <translation>портал рабочего стола не даёт глобальных комбинаций клавиш</translation>
+    </message>
+    <message>
+        <source>the desktop has taken it back</source>
+        <translation>рабочий стол отозвал её</translation>
+    </message>
+    <message>
+        <source>the desktop&apos;s portal has ended</source>
+        <translation>портал рабочего стола завершил работу</translation>
+    </message>
+    <message>
+        <source>your configuration of sway binds it</source>
+        <translation>она назначена в вашей конфигурации sway</translation>
+    </message>
+    <message>
+        <source>Choose another combination.</source>
+        <translation>Выберите другую комбинацию.</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or allow it in the desktop&apos;s settings.</source>
+        <translation>Выберите другую комбинацию или разрешите эту в настройках рабочего стола.</translation>
+    </message>
+    <message>
+        <source>Choose another combination, or free it in the program that holds it.</source>
+        <translation>Выберите другую комбинацию или освободите эту в программе, которая её занимает.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: %2.</source>
+        <extracomment>%1 is a combination of keys, %2 one of the reasons: another program holds it</extracomment>
+        <translation>Невозможно использовать комбинацию %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the third level (AltGr).</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Невозможно использовать комбинацию %1: в раскладке клавиатуры нет клавиши для третьего уровня (AltGr).</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for the fifth level.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Невозможно использовать комбинацию %1: в раскладке клавиатуры нет клавиши для пятого уровня.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: the keyboard layout has no key for %2.</source>
+        <extracomment>%1 is a combination of keys, %2 a modifier: Super</extracomment>
+        <translation>Невозможно использовать комбинацию %1: в раскладке клавиатуры нет клавиши для %2.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: Keyrill uses it for something else.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Невозможно использовать комбинацию %1: Keyrill использует её для другого.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: this desktop has no such key.</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Невозможно использовать комбинацию %1: на этом рабочем столе нет такой клавиши.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be used: nobody could type it any more.</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>Невозможно использовать клавишу %1: ею больше нельзя было бы набирать текст.</translation>
+    </message>
+    <message>
+        <source>Add Ctrl, Alt or Super.</source>
+        <translation>Добавьте Ctrl, Alt или Super.</translation>
+    </message>
+    <message>
+        <source>This compositor gives no hot keys to programs.</source>
+        <translation>Этот композитор не даёт программам глобальных комбинаций клавиш.</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
+        <translation>Назначьте клавишам команды в настройках самого композитора.</translation>
+    </message>
+    <message>
+        <source>this compositor gives no hot keys to programs</source>
+        <translation>этот композитор не даёт программам глобальных комбинаций клавиш</translation>
+    </message>
+    <message>
+        <source>another program holds it</source>
+        <translation>она занята другой программой</translation>
+    </message>
+    <message>
+        <source>the X server refuses it with error %1</source>
+        <translation>X-сервер отклоняет её с ошибкой %1</translation>
+    </message>
+    <message>
+        <source>the X server is gone</source>
+        <translation>X-сервер завершил работу</translation>
+    </message>
+</context>
+<context>
+    <name>Keyboards</name>
+    <message>
+        <source>The keyboard cannot be read: %1: %2.</source>
+        <translation>Невозможно читать клавиатуру: %1: %2.</translation>
+    </message>
+    <message>
+        <source>Let the keyboard be read while a macro is recorded.</source>
+        <translation>Разрешите чтение клавиатуры на время записи макроса.</translation>
+    </message>
+    <message>
+        <source>The keyboard can no longer be read: the permission has ended.</source>
+        <translation>Клавиатуру больше нельзя читать: разрешение больше не действует.</translation>
+    </message>
+    <message>
+        <source>Another user&apos;s session may be in front, or the screen is locked.</source>
+        <translation>Возможно, на переднем плане сеанс другого пользователя или экран заблокирован.</translation>
+    </message>
+    <message>
+        <source>The keyboard cannot be read: there is no system bus.</source>
+        <translation>Невозможно читать клавиатуру: нет системной шины.</translation>
+    </message>
+    <message>
+        <source>What it says stands in the system&apos;s journal: journalctl -u keyrill-access.</source>
+        <translation>Её сообщения находятся в системном журнале: journalctl -u keyrill-access.</translation>
+    </message>
+    <message>
+        <source>The keyboard is no longer read: the service keyrill-access has ended.</source>
+        <translation>Клавиатура больше не читается: служба keyrill-access завершила работу.</translation>
+    </message>
+    <message>
+        <source>Keyrill may not read the keyboard: permission was not given.</source>
+        <translation>Keyrill не может читать клавиатуру: разрешение не получено.</translation>
+    </message>
+    <message>
+        <source>Record again and agree when you are asked for your password.</source>
+        <translation>Начните запись снова и дайте согласие, когда у вас запросят пароль.</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access is not installed.</source>
+        <translation>Keyrill не может читать клавиатуру: служба keyrill-access не установлена.</translation>
+    </message>
+    <message>
+        <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, tools/access install.</source>
+        <translation>Установите пакет keyrill-wayland-access или выполните tools/access install из исходного кода Keyrill.</translation>
+    </message>
+    <message>
+        <source>Keyrill cannot read the keyboard: the service keyrill-access does not work.</source>
+        <translation>Keyrill не может читать клавиатуру: служба keyrill-access не работает.</translation>
+    </message>
+    <message>
+        <source>A Wayland session shows this program nothing of what is typed in others.</source>
+        <translation>Сеанс Wayland не показывает этой программе ничего из того, что набирают в других.</translation>
+    </message>
+    <message>
+        <source>Record with keyrill itself, or use an X11 session.</source>
+        <translation>Записывайте с помощью самого keyrill или используйте сеанс X11.</translation>
+    </message>
+</context>
+<context>
+    <name>Keys</name>
+    <message>
+        <source>This desktop lets no program press keys: no portal for it answers.</source>
+        <translation>Этот рабочий стол не позволяет программам нажимать клавиши: ни один портал для этого не отвечает.</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal and the part of it that belongs to your desktop.</source>
+        <translation>Установите xdg-desktop-portal и его часть для вашего рабочего стола.</translation>
+    </message>
+    <message>
+        <source>The desktop was not allowed to let Keyrill press keys.</source>
+        <translation>Рабочему столу не дано разрешение на то, чтобы Keyrill нажимал клавиши.</translation>
+    </message>
+    <message>
+        <source>Play again, and agree when you are asked.</source>
+        <translation>Запустите воспроизведение снова и дайте согласие, когда появится запрос.</translation>
+    </message>
+    <message>
+        <source>The desktop has not answered whether Keyrill may press keys.</source>
+        <translation>Рабочий стол не ответил, можно ли Keyrill нажимать клавиши.</translation>
+    </message>
+    <message>
+        <source>Play again; if nothing asks you, log in again.</source>
+        <translation>Запустите воспроизведение снова; если запрос не появится, выйдите из системы и войдите снова.</translation>
+    </message>
+    <message>
+        <source>The desktop no longer lets Keyrill press keys.</source>
+        <translation>Рабочий стол больше не позволяет Keyrill нажимать клавиши.</translation>
+    </message>
+    <message>
+        <source>Play again; it may ask for your permission.</source>
+        <translation>Запустите воспроизведение снова; возможно, рабочий стол запросит ваше разрешение.</translation>
+    </message>
+    <message>
+        <source>The power key cannot be pressed by a script.</source>
+        <translation>Сценарий не может нажать клавишу питания.</translation>
+    </message>
+    <message>
+        <source>Take key code 127 out of the script.</source>
+        <translation>Уберите код клавиши 127 из сценария.</translation>
+    </message>
+    <message>
+        <source>The text to type is not UTF-8 at byte %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Текст для набора не соответствует UTF-8 в байте %1.</translation>
+    </message>
+    <message>
+        <source>Save the script as UTF-8.</source>
+        <translation>Сохраните сценарий в кодировке UTF-8.</translation>
+    </message>
+    <message>
+        <source>&quot;%1...&quot;</source>
+        <extracomment>The beginning of a text that is longer, in quotation marks.</extracomment>
+        <translation>«%1...»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <extracomment>A text in quotation marks.</extracomment>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2)</source>
+        <extracomment>%1 is a character, %2 its code: U+00E9</extracomment>
+        <translation>«%1» (%2)</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with the keyboard layout that is in force.</source>
+        <translation>Символ %1 нельзя набрать в текущей раскладке клавиатуры.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or switch to a layout that has it before you play.</source>
+        <translation>Уберите его из текста или перед воспроизведением переключитесь на раскладку, в которой он есть.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with your keyboard layouts.</source>
+        <translation>Символ %1 нельзя набрать в ваших раскладках клавиатуры.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or add a layout that has it.</source>
+        <translation>Уберите его из текста или добавьте раскладку, в которой он есть.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be typed with this keyboard layout.</source>
+        <translation>Символ %1 нельзя набрать в этой раскладке клавиатуры.</translation>
+    </message>
+    <message>
+        <source>Take it out of the text, or set a layout that has it.</source>
+        <translation>Уберите его из текста или установите раскладку, в которой он есть.</translation>
+    </message>
+    <message>
+        <source>The keymap for typing could not be made.</source>
+        <translation>Не удалось создать таблицу раскладки клавиатуры для набора.</translation>
+    </message>
+    <message>
+        <source>This compositor lets no program press keys.</source>
+        <translation>Этот композитор не позволяет программам нажимать клавиши.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, or an X11 session.</source>
+        <translation>Используйте композитор с виртуальными клавиатурами, например sway, или сеанс X11.</translation>
+    </message>
+    <message>
+        <source>A script is running already.</source>
+        <translation>Сценарий уже выполняется.</translation>
+    </message>
+    <message>
+        <source>Wait for its end.</source>
+        <translation>Дождитесь его завершения.</translation>
+    </message>
+    <message>
+        <source>The key %1 types no character.</source>
+        <translation>Клавиша %1 не набирает никакого символа.</translation>
+    </message>
+    <message>
+        <source>A Wayland session has no bell.</source>
+        <translation>В сеансе Wayland нет системного звукового сигнала.</translation>
+    </message>
+    <message>
+        <source>Take the beep out of the script.</source>
+        <translation>Уберите звуковой сигнал из сценария.</translation>
+    </message>
+    <message>
+        <source>KDE lets no program press keys: its portal does not answer.</source>
+        <translation>KDE не позволяет программам нажимать клавиши: его портал не отвечает.</translation>
+    </message>
+    <message>
+        <source>Install xdg-desktop-portal-kde, or use an X11 session.</source>
+        <translation>Установите xdg-desktop-portal-kde или используйте сеанс X11.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with virtual keyboards, such as sway, a desktop whose portal presses keys, such as KDE and GNOME, or an X11 session.</source>
+        <translation>Используйте композитор с виртуальными клавиатурами, например sway, рабочий стол, портал которого нажимает клавиши, например KDE или GNOME, или сеанс X11.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout was changed while text was typed, which may have arrived as something else: %1.</source>
+        <translation>Во время набора изменилась раскладка клавиатуры, поэтому текст мог быть передан с искажениями: %1.</translation>
+    </message>
+    <message>
+        <source>Play it again when the layout stays as it is.</source>
+        <translation>Повторите воспроизведение, когда раскладка не будет меняться.</translation>
+    </message>
+    <message>
+        <source>Another program holds the keyboard, so that no keys can be pressed.</source>
+        <translation>Клавиатура занята другой программой, поэтому нажимать клавиши невозможно.</translation>
+    </message>
+    <message>
+        <source>Close the menu, the question or the screen lock that is open, and play again.</source>
+        <translation>Закройте открытое меню или запрос либо разблокируйте экран и запустите воспроизведение снова.</translation>
+    </message>
+    <message>
+        <source>The X server refuses to put characters on unused keys.</source>
+        <translation>X-сервер отказывается назначать символы неиспользуемым клавишам.</translation>
+    </message>
+    <message>
+        <source>Use characters of the keyboard layout, or set another layout.</source>
+        <translation>Используйте символы из раскладки клавиатуры или установите другую раскладку.</translation>
+    </message>
+    <message>
+        <source>The program that is typed into reads nothing; not typed: %1.</source>
+        <translation>Программа, в которой набирается текст, ничего не читает; не набрано: %1.</translation>
+    </message>
+    <message>
+        <source>Play it again when the program reads its keys.</source>
+        <translation>Повторите воспроизведение, когда программа будет читать клавиши.</translation>
+    </message>
+    <message>
+        <source>The program that was typed into has not read all of it.</source>
+        <translation>Программа, в которой набирался текст, прочитала не всё.</translation>
+    </message>
+    <message>
+        <source>See whether it hangs; what it reads later may lack characters.</source>
+        <translation>Проверьте, не зависла ли она; в том, что она прочитает позже, могут отсутствовать символы.</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.</source>
+        <translation>Автоповторы удерживаемых клавиш нельзя записывать: у X-сервера нет расширения RECORD.</translation>
+    </message>
+    <message>
+        <source>A held key is recorded as one press. Switch the extension on in the settings of the X server.</source>
+        <translation>Удерживаемая клавиша записывается как одно нажатие. Включите расширение в настройках X-сервера.</translation>
+    </message>
+    <message>
+        <source>Auto-repeats of held keys can no longer be recorded: the X server has ended it.</source>
+        <translation>Автоповторы удерживаемых клавиш больше нельзя записывать: X-сервер прекратил эту запись.</translation>
     </message>
 </context>
 <context>
@@ -809,6 +1800,64 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>No key of the present keyboard layout types &quot;%1&quot;.</source>
+        <extracomment>%1 is a character.</extracomment>
+        <translation>Ни одна клавиша текущей раскладки клавиатуры не набирает «%1».</translation>
+    </message>
+    <message>
+        <source>Convert the keys to text, which types any character.</source>
+        <translation>Преобразуйте клавиши в текст: он набирает любые символы.</translation>
+    </message>
+    <message>
+        <source>GNOME lets no program switch the keyboard layout.</source>
+        <translation>GNOME не позволяет программам переключать раскладку клавиатуры.</translation>
+    </message>
+    <message>
+        <source>The desktop has no keyboard layout of that number.</source>
+        <translation>На рабочем столе нет раскладки клавиатуры с таким номером.</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program switch the keyboard layout.</source>
+        <translation>Этот рабочий стол не позволяет программам переключать раскладку клавиатуры.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the third level (AltGr).</source>
+        <translation>В раскладке клавиатуры нет клавиши для третьего уровня (AltGr).</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for the fifth level.</source>
+        <translation>В раскладке клавиатуры нет клавиши для пятого уровня.</translation>
+    </message>
+    <message>
+        <source>The keyboard layout has no key for %1.</source>
+        <extracomment>%1 is a modifier: Super</extracomment>
+        <translation>В раскладке клавиатуры нет клавиши для %1.</translation>
+    </message>
+    <message>
+        <source>Choose a keyboard layout that has one.</source>
+        <translation>Выберите раскладку клавиатуры, в которой она есть.</translation>
+    </message>
+    <message>
+        <source>The keyboard has no layout %1.</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>У клавиатуры нет раскладки %1.</translation>
+    </message>
+    <message>
+        <source>Add it to the keyboard layouts, or record the macro again.</source>
+        <translation>Добавьте её к раскладкам клавиатуры или запишите макрос заново.</translation>
+    </message>
+    <message>
+        <source>The keymap of the X server cannot be read.</source>
+        <translation>Невозможно прочитать таблицу раскладки клавиатуры X-сервера.</translation>
+    </message>
+    <message>
+        <source>Set a keyboard layout, or log in again.</source>
+        <translation>Установите раскладку клавиатуры либо выйдите из системы и войдите снова.</translation>
+    </message>
+</context>
+<context>
     <name>LibraryController</name>
     <message>
         <source>&quot;%1&quot; was not played</source>
@@ -821,6 +1870,36 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>The history</source>
         <translation>Журнал</translation>
+    </message>
+</context>
+<context>
+    <name>LogIn</name>
+    <message>
+        <source>The file %1 cannot be removed: %2</source>
+        <extracomment>%2 is why, in the system&apos;s words.</extracomment>
+        <translation>Невозможно удалить файл %1: %2</translation>
+    </message>
+    <message>
+        <source>Check who may write in its folder.</source>
+        <translation>Проверьте, кто может записывать в его папку.</translation>
+    </message>
+    <message>
+        <source>A program whose path has a percent sign cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>Программу, путь к которой содержит знак процента, нельзя запускать при входе в систему: %1</translation>
+    </message>
+    <message>
+        <source>Move the program to a folder without one.</source>
+        <translation>Переместите программу в папку, путь к которой его не содержит.</translation>
+    </message>
+    <message>
+        <source>A program whose path is not UTF-8 cannot be started at login: %1</source>
+        <extracomment>%1 is the path.</extracomment>
+        <translation>Программу, путь к которой не соответствует UTF-8, нельзя запускать при входе в систему: %1</translation>
+    </message>
+    <message>
+        <source>Move the program to another folder.</source>
+        <translation>Переместите программу в другую папку.</translation>
     </message>
 </context>
 <context>
@@ -1381,6 +2460,38 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>Programs</name>
+    <message>
+        <source>The program &quot;%1&quot;, which presses keys by the desktop&apos;s portal, could not be started.</source>
+        <translation>Не удалось запустить программу «%1», которая нажимает клавиши через портал рабочего стола.</translation>
+    </message>
+    <message>
+        <source>Install the program again.</source>
+        <translation>Установите программу заново.</translation>
+    </message>
+    <message>
+        <source>A text with a zero byte cannot be opened.</source>
+        <translation>Невозможно открыть текст с нулевым байтом.</translation>
+    </message>
+    <message>
+        <source>The program xdg-open cannot be started: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>Невозможно запустить программу xdg-open: %1</translation>
+    </message>
+    <message>
+        <source>Install the package xdg-utils.</source>
+        <translation>Установите пакет xdg-utils.</translation>
+    </message>
+    <message>
+        <source>The guard program &quot;%1&quot;, which releases keys after a crash, could not be started.</source>
+        <translation>Не удалось запустить сторожевую программу «%1», которая отпускает клавиши после сбоя.</translation>
+    </message>
+    <message>
+        <source>Install the program again; nothing is played without its guard.</source>
+        <translation>Установите программу заново; без сторожевой программы ничего не воспроизводится.</translation>
+    </message>
+</context>
+<context>
     <name>RecordHerePanel</name>
     <message>
         <source>Record Here</source>
@@ -1544,6 +2655,121 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>Session</name>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>Нет сеансовой шины.</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>Выйдите из системы и войдите снова.</translation>
+    </message>
+    <message>
+        <source>sway does not answer at $SWAYSOCK.</source>
+        <translation>Нет ответа от sway по адресу $SWAYSOCK.</translation>
+    </message>
+    <message>
+        <source>Start the program in the session of sway.</source>
+        <translation>Запустите программу в сеансе sway.</translation>
+    </message>
+    <message>
+        <source>sway says: %1</source>
+        <translation>Сообщение sway: %1</translation>
+    </message>
+    <message>
+        <source>There is no kind of session called &quot;%1&quot;.</source>
+        <translation>Вида сеанса с именем «%1» нет.</translation>
+    </message>
+    <message>
+        <source>Choose one of these: %1.</source>
+        <translation>Выберите один из следующих: %1.</translation>
+    </message>
+    <message>
+        <source>No kind of session is known.</source>
+        <translation>Ни один вид сеанса не известен.</translation>
+    </message>
+    <message>
+        <source>The connection to the compositor was lost.</source>
+        <translation>Соединение с композитором потеряно.</translation>
+    </message>
+    <message>
+        <source>No Wayland compositor answers at $WAYLAND_DISPLAY.</source>
+        <translation>Ни один композитор Wayland не отвечает по адресу $WAYLAND_DISPLAY.</translation>
+    </message>
+    <message>
+        <source>Start the program in a Wayland session.</source>
+        <translation>Запустите программу в сеансе Wayland.</translation>
+    </message>
+    <message>
+        <source>The Wayland compositor is gone.</source>
+        <translation>Композитор Wayland завершил работу.</translation>
+    </message>
+    <message>
+        <source>$WAYLAND_DISPLAY names no Wayland compositor.</source>
+        <translation>В $WAYLAND_DISPLAY не указан композитор Wayland.</translation>
+    </message>
+    <message>
+        <source>The X server is gone.</source>
+        <translation>X-сервер завершил работу.</translation>
+    </message>
+    <message>
+        <source>This is a Wayland session without an X server.</source>
+        <translation>Это сеанс Wayland без X-сервера.</translation>
+    </message>
+    <message>
+        <source>Install Xwayland, or switch it on in the desktop&apos;s settings, and log in again; or choose an X11 session when you log in.</source>
+        <translation>Установите Xwayland или включите его в настройках рабочего стола, затем выйдите из системы и войдите снова; либо выберите сеанс X11 при входе в систему.</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is no desktop session.</source>
+        <translation>Нужен сеанс X11, а это не графический сеанс.</translation>
+    </message>
+    <message>
+        <source>An X11 session is needed, and this is a Wayland session without an X server.</source>
+        <translation>Нужен сеанс X11, а это сеанс Wayland без X-сервера.</translation>
+    </message>
+    <message>
+        <source>Choose an X11 session when you log in.</source>
+        <translation>Выберите сеанс X11 при входе в систему.</translation>
+    </message>
+    <message>
+        <source>The connection to the X server was lost.</source>
+        <translation>Соединение с X-сервером потеряно.</translation>
+    </message>
+    <message>
+        <source>Use a newer X server, or switch the extension on in its settings.</source>
+        <translation>Используйте более новый X-сервер или включите расширение в его настройках.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has no XInput.</source>
+        <translation>X-сервер должен иметь XInput 2.2 или новее, но XInput у него нет.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but does not answer.</source>
+        <translation>X-сервер должен иметь XInput 2.2 или новее, но он не отвечает.</translation>
+    </message>
+    <message>
+        <source>The X server must have XInput 2.2 or newer, but has %1.</source>
+        <translation>X-сервер должен иметь XInput 2.2 или новее, но у него версия %1.</translation>
+    </message>
+    <message>
+        <source>The X server must have the XKB extension, but it cannot be used.</source>
+        <translation>X-сервер должен иметь расширение XKB, но использовать его невозможно.</translation>
+    </message>
+    <message>
+        <source>The X server must have the XTEST extension, but it has not.</source>
+        <translation>X-сервер должен иметь расширение XTEST, но у него его нет.</translation>
+    </message>
+    <message>
+        <source>The X server of display &quot;%1&quot; cannot be reached.</source>
+        <translation>X-сервер дисплея «%1» недоступен.</translation>
+    </message>
+    <message>
+        <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
+        <translation>Запустите программу в графическом сеансе или укажите в DISPLAY работающий X-сервер.</translation>
+    </message>
+</context>
+<context>
     <name>SessionReport</name>
     <message>
         <source>, </source>
@@ -1681,6 +2907,72 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <source>%1; %2</source>
         <extracomment>the keyboard layouts, and the locks that are on</extracomment>
         <translation>%1; %2</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>It has a zero byte</source>
+        <translation>Он содержит нулевой байт</translation>
+    </message>
+    <message>
+        <source>The settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>Файл настроек %1 не является файлом ключей: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 is not a key file: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
+        <translation>Файл настроек макросов %1 не является файлом ключей: %2</translation>
+    </message>
+    <message>
+        <source>The settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>Невозможно создать папку настроек %1: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings folder %1 cannot be made: %2</source>
+        <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
+        <translation>Невозможно создать папку настроек макросов %1: %2</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and the settings begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>Файл переименован в %1, а настройки сброшены.</translation>
+    </message>
+    <message>
+        <source>It was renamed to %1, and hot keys, times and speeds begin anew.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>Файл переименован в %1, а комбинации клавиш, число воспроизведений и скорости сброшены.</translation>
+    </message>
+    <message>
+        <source>Correct the file or remove it.</source>
+        <translation>Исправьте файл или удалите его.</translation>
+    </message>
+    <message>
+        <source>It could not be put aside either: %1</source>
+        <extracomment>%1 is why, in the system&apos;s words.</extracomment>
+        <translation>Переименовать его тоже не удалось: %1</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Невозможно прочитать файл настроек %1: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be read: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Невозможно прочитать файл настроек макросов %1: %2</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Невозможно записать файл настроек %1: %2</translation>
+    </message>
+    <message>
+        <source>The macro settings file %1 cannot be written: %2</source>
+        <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
+        <translation>Невозможно записать файл настроек макросов %1: %2</translation>
     </message>
 </context>
 <context>
@@ -1961,6 +3253,70 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>Warnings</name>
+    <message>
+        <source>This is typed as it stands; the key has a number: key code %1.</source>
+        <translation>Это набирается буквально; у клавиши есть номер: key code %1.</translation>
+    </message>
+    <message>
+        <source>“%1” is typed as it stands. %2</source>
+        <extracomment>%1 is the name of a key in braces, %2 a sentence that says how the key is written.</extracomment>
+        <translation>«%1» набирается буквально. %2</translation>
+    </message>
+    <message>
+        <source>Key code %1 is an extension, which only Keyrill plays.</source>
+        <translation>Код клавиши %1 — расширение, которое воспроизводит только Keyrill.</translation>
+    </message>
+    <message>
+        <source>Key code %1 has no key; nothing is pressed.</source>
+        <translation>Коду клавиши %1 не соответствует никакая клавиша; ничего не нажимается.</translation>
+    </message>
+    <message>
+        <source>A dialog gives a record and no text; take: button returned of %1, or text returned of %1.</source>
+        <translation>Диалог возвращает запись (record), а не текст; используйте: button returned of %1 или text returned of %1.</translation>
+    </message>
+    <message>
+        <source>An alert gives a record and no text; take: button returned of %1.</source>
+        <translation>Оповещение возвращает запись (record), а не текст; используйте: button returned of %1.</translation>
+    </message>
+    <message>
+        <source>What was chosen comes in a list; take: item 1 of %1.</source>
+        <translation>Выбранное возвращается в списке; используйте: item 1 of %1.</translation>
+    </message>
+    <message>
+        <source>The loop gives a reference, which equals no text; compare: contents of %1.</source>
+        <translation>Цикл даёт ссылку, которая не равна никакому тексту; сравнивайте: contents of %1.</translation>
+    </message>
+    <message>
+        <source>“%1” is taken as “%1 down”.</source>
+        <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
+        <translation>«%1» понимается как «%1 down».</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to what “%2” is given; put parentheses round the command: (%2 …) %1 ….</source>
+        <extracomment>%1 is an operator, &quot;&gt;&quot;, %2 a command, &quot;count&quot;.</extracomment>
+        <translation>«%1» относится к тому, что передаётся «%2»; заключите команду в скобки: (%2 …) %1 ….</translation>
+    </message>
+    <message>
+        <source>“delay” counts seconds; %1 milliseconds are: delay %2.</source>
+        <translation>«delay» считает в секундах; %1 мс — это: delay %2.</translation>
+    </message>
+    <message>
+        <source>This is typed as it stands; a shortcut is written: keystroke &quot;%1&quot; using %2 down.</source>
+        <extracomment>%1 is a letter, %2 the name of a modifier, &quot;control&quot;.</extracomment>
+        <translation>Это набирается буквально; комбинация клавиш записывается так: keystroke &quot;%1&quot; using %2 down.</translation>
+    </message>
+    <message>
+        <source>A modifier is held with: key down shift, without quotes.</source>
+        <translation>Модификатор удерживается так: key down shift, без кавычек.</translation>
+    </message>
+    <message>
+        <source>The variable %1 is never set. %2</source>
+        <extracomment>%2 is a sentence that says what may have been meant.</extracomment>
+        <translation>Значение переменной %1 нигде не задаётся. %2</translation>
+    </message>
+</context>
+<context>
     <name>WelcomePanel</name>
     <message>
         <source>%1.</source>
@@ -2017,6 +3373,53 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Not set</source>
         <translation>Не задано</translation>
+    </message>
+</context>
+<context>
+    <name>Windows</name>
+    <message>
+        <source>KWin does not tell of its windows.</source>
+        <translation>KWin не сообщает об окнах.</translation>
+    </message>
+    <message>
+        <source>Log in again.</source>
+        <translation>Выйдите из системы и войдите снова.</translation>
+    </message>
+    <message>
+        <source>No file could be written for KWin.</source>
+        <translation>Не удалось записать файл для KWin.</translation>
+    </message>
+    <message>
+        <source>Free some space.</source>
+        <translation>Освободите место.</translation>
+    </message>
+    <message>
+        <source>KWin runs no scripts: %1</source>
+        <translation>KWin не выполняет сценарии: %1</translation>
+    </message>
+    <message>
+        <source>KWin does not show the window any more.</source>
+        <translation>KWin больше не показывает это окно.</translation>
+    </message>
+    <message>
+        <source>Open it again.</source>
+        <translation>Откройте его снова.</translation>
+    </message>
+    <message>
+        <source>This compositor tells nobody of windows.</source>
+        <translation>Этот композитор никому не сообщает об окнах.</translation>
+    </message>
+    <message>
+        <source>Use a compositor with toplevel management, such as sway, or an X11 session.</source>
+        <translation>Используйте композитор с протоколом toplevel management, например sway, или сеанс X11.</translation>
+    </message>
+    <message>
+        <source>No window of “%1” is open.</source>
+        <translation>Нет открытых окон «%1».</translation>
+    </message>
+    <message>
+        <source>Start it first.</source>
+        <translation>Сначала запустите программу.</translation>
     </message>
 </context>
 </TS>

@@ -7,6 +7,7 @@
 #include "platform/KeyCodes.h"
 #include "platform/KeyboardLayout.h"
 #include "platform/Modifiers.h"
+#include "platform/Sentence.h"
 #include "platform/Utf8.h"
 
 namespace steps {
@@ -66,8 +67,9 @@ class TypingTable {
 Error noKeyTypes(char32_t character) {
     std::string shown;
     appendUtf8(shown, character);
-    return {"No key of the present keyboard layout types \"" + shown + "\".",
-            "Convert the keys to text, which types any character."};
+    //: %1 is a character.
+    return {sentence("Layouts", "No key of the present keyboard layout types \"%1\".").arg(shown),
+            sentence("Layouts", "Convert the keys to text, which types any character.")};
 }
 
 Result<std::string> keyLinesOf(const TypingTable& table, std::string_view text) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <string_view>
 
+#include "platform/Sentence.h"
 #include "platform/keymap/TriggerNames.h"
 
 namespace {
@@ -153,11 +154,13 @@ bool GnomeKeyBindings::isOurs(const std::string& path) {
 }
 
 std::optional<std::string> GnomeKeyBindings::obstacleTo(const std::string& name) {
-    if (g_settings_is_writable(m_list.get(), listKey) == FALSE) return "GNOME's settings cannot be changed";
+    if (g_settings_is_writable(m_list.get(), listKey) == FALSE)
+        return sentence("HotKeys", "GNOME's settings cannot be changed");
     const std::string path = std::string(ourPaths) + name + "/";
     const Paths all = paths();
     const bool isThere = std::find(all.begin(), all.end(), path) != all.end();
-    if (isThere && !isOurs(path)) return "your settings of GNOME have another entry in its place";
+    if (isThere && !isOurs(path))
+        return sentence("HotKeys", "your settings of GNOME have another entry in its place");
     return std::nullopt;
 }
 
@@ -165,11 +168,12 @@ std::optional<std::string> GnomeKeyBindings::ownerOf(const std::vector<std::stri
     for (const std::string& path : paths()) {
         const bool isPath = path.starts_with('/') && path.ends_with('/') && path.find("//") == path.npos;
         if (!isPath || isOurs(path) || !haveOneInCommon({textAt(path, "binding")}, accelerators)) continue;
-        return "your own shortcut “" + textAt(path, "name") + "” in GNOME's settings has it";
+        return sentence("HotKeys", "your own shortcut “%1” in GNOME's settings has it")
+            .arg(textAt(path, "name"));
     }
     for (const auto& settings : m_desktops) {
         const std::string purpose = purposeIn(settings.get(), accelerators);
-        if (!purpose.empty()) return "GNOME has it for “" + purpose + "”";
+        if (!purpose.empty()) return sentence("HotKeys", "GNOME has it for “%1”").arg(purpose);
     }
     return std::nullopt;
 }

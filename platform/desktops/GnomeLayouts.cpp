@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "platform/Sentence.h"
+
 namespace {
 
 constexpr const char* schemaName = "org.gnome.desktop.input-sources";
@@ -80,5 +82,5 @@ std::uint32_t GnomeLayouts::groupOf(const Sources& sources, const Sources& lastU
 }
 
 Result<void> GnomeLayouts::setGroup(std::uint32_t /*group*/) {
-    return Error{"GNOME lets no program switch the keyboard layout.", ""};
+    return Error{sentence("Layouts", "GNOME lets no program switch the keyboard layout."), ""};
 }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/desktops/GnomeLayouts.h"
 
 namespace {
@@ -87,9 +88,12 @@ void GnomeShortcuts::listen() {
 }
 
 std::optional<std::string> GnomeShortcuts::grab(const KeyGrab& grab, const HotKeyRequest& request) {
-    if (!m_hasConsent) return "GNOME has hot keys only in your own settings, which Keyrill may not change";
+    if (!m_hasConsent)
+        return sentence("HotKeys",
+                        "GNOME has hot keys only in your own settings, which Keyrill may not change");
     const std::vector<std::string> accelerators = m_words.acceleratorsOf(grab);
-    if (accelerators.empty() || request.arguments.empty()) return "GNOME has no name for it";
+    if (accelerators.empty() || request.arguments.empty())
+        return sentence("HotKeys", "GNOME has no name for it");
     auto refusal = m_settings.obstacleTo(request.name);
     if (!refusal) refusal = m_settings.ownerOf(accelerators);
     if (refusal) {
@@ -153,7 +157,7 @@ void GnomeShortcuts::settingsChanged() {
         m_events.push_back({Event::Kind::answer,
                             asked.grab.keycode,
                             asked.grab.modifiers,
-                            {.refusal = "it has been taken out of GNOME's settings"}});
+                            {.refusal = sentence("HotKeys", "it has been taken out of GNOME's settings")}});
         wish = m_wishes.erase(wish);
     }
     if (std::exchange(m_hasRefused, false)) m_events.push_back({.kind = Event::Kind::reload});

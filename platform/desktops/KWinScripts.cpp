@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "platform/Descriptor.h"
+#include "platform/Sentence.h"
 #include "platform/linux/ConfigFolders.h"
 
 namespace {
@@ -28,7 +29,9 @@ constexpr const char* object = "/example/orlen/Keyrill/Script";
 constexpr const char* face = "example.orlen.Keyrill.Script1";
 constexpr const char* member = "Tell";
 
-Error silent() { return {"KWin does not tell of its windows.", "Log in again."}; }
+Error silent() {
+    return {sentence("Windows", "KWin does not tell of its windows."), sentence("Windows", "Log in again.")};
+}
 
 /// A file that KWin, a process of the same user, reads; gone with the object.
 class ScriptFile {
@@ -87,7 +90,9 @@ KWinScripts::KWinScripts(const std::string& bus) : m_bus(bus) {
 
 Result<std::string> KWinScripts::run(const std::string& statements) {
     const ScriptFile file(scriptOf(statements, m_bus.ownName()));
-    if (!file.isWritten()) return Error{"No file could be written for KWin.", "Free some space."};
+    if (!file.isWritten())
+        return Error{sentence("Windows", "No file could be written for KWin."),
+                     sentence("Windows", "Free some space.")};
     m_hasTold = false;
     if (const auto loaded = load(file.name()); !loaded) return loaded.error();
     auto told = await();
@@ -114,7 +119,9 @@ Result<void> KWinScripts::load(const std::string& file) {
         if (unload()) loaded = loadIt();
         if (loaded) g_variant_get(loaded.value().get(), "(i)", &number);
     }
-    if (!loaded) return Error{"KWin runs no scripts: " + loaded.error().message, "Log in again."};
+    if (!loaded)
+        return Error{sentence("Windows", "KWin runs no scripts: %1").arg(loaded.error().message),
+                     sentence("Windows", "Log in again.")};
     if (number == isLoadedAlready) return silent();
     // KWin 6 has its scripts in another place than KWin 5.
     for (const char* const folder : {"/", "/Scripting/Script"}) {

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "platform/Sentence.h"
 #include "platform/desktops/Json.h"
 
 namespace {
@@ -40,7 +41,8 @@ Result<void> activateBy(KWinScripts& scripts, const std::string& condition) {
     const auto told = scripts.run(activation(condition));
     if (!told) return told.error();
     if (told.value() != "yes") {
-        return Error{"KWin does not show the window any more.", "Open it again."};
+        return Error{sentence("Windows", "KWin does not show the window any more."),
+                     sentence("Windows", "Open it again.")};
     }
     return {};
 }
@@ -65,7 +67,9 @@ Result<void> KWinWindows::ask() {
                       "tell(JSON.stringify(found));"));
     if (!told) return told.error();
     const auto list = Json::parse(told.value());
-    if (!list) return Error{"KWin does not tell of its windows.", "Log in again."};
+    if (!list)
+        return Error{sentence("Windows", "KWin does not tell of its windows."),
+                     sentence("Windows", "Log in again.")};
     for (const Json& one : list->items()) {
         m_windows.push_back({one["id"].text(), {one["program"].text(), one["active"].isTrue()}});
     }

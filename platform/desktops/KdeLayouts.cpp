@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktops/KdeLayouts.h"
 
+#include "platform/Sentence.h"
 #include "platform/desktops/portal/KdeLayoutNames.h"
 
 namespace {
@@ -23,6 +24,7 @@ Result<void> KdeLayouts::setGroup(std::uint32_t group) {
     if (!answer) return answer.error();
     gboolean isDone = FALSE;
     g_variant_get(answer.value().get(), "(b)", &isDone);
-    if (isDone == FALSE) return Error{"The desktop has no keyboard layout of that number.", ""};
+    if (isDone == FALSE)
+        return Error{sentence("Layouts", "The desktop has no keyboard layout of that number."), ""};
     return {};
 }

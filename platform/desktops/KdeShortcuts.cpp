@@ -5,6 +5,7 @@
 #include <array>
 #include <sstream>
 
+#include "platform/Sentence.h"
 #include "platform/desktops/portal/KdeLayoutNames.h"
 
 namespace {
@@ -109,9 +110,9 @@ std::optional<std::string> KdeShortcuts::grab(const KeyGrab& grab, const HotKeyR
     const Place place{grab.keycode, grab.modifiers};
     if (m_bound.contains(place)) return std::nullopt;
     const Combination combination = m_describes(grab);
-    if (combination.keys.empty()) return "KDE has no name for this key";
+    if (combination.keys.empty()) return sentence("HotKeys", "KDE has no name for this key");
     const auto bound = bind(place, combination);
-    if (!bound) return "KDE says: " + bound.error().message;
+    if (!bound) return sentence("HotKeys", "KDE says: %1").arg(bound.error().message);
     const auto lost = std::find_if(combination.keys.begin(), combination.keys.end(), [&](std::int32_t key) {
         return std::find(bound.value().begin(), bound.value().end(), key) == bound.value().end();
     });
@@ -155,15 +156,15 @@ void KdeShortcuts::unbind(const Place& place) const {
 std::string KdeShortcuts::ownerOf(std::int32_t key) const {
     const auto answer =
         m_bus.ask(method("getGlobalShortcutsByKey"), g_variant_new("(i)", key), "(a(ssssssaiai))");
-    if (!answer) return "KDE uses it for something else";
+    if (!answer) return sentence("HotKeys", "KDE uses it for something else");
     const GVariantPointer owners(g_variant_get_child_value(answer.value().get(), 0));
-    if (g_variant_n_children(owners.get()) == 0) return "KDE does not give it";
+    if (g_variant_n_children(owners.get()) == 0) return sentence("HotKeys", "KDE does not give it");
     const char* action = nullptr;
     const char* program = nullptr;
     const GVariantPointer owner(g_variant_get_child_value(owners.get(), 0));
     g_variant_get_child(owner.get(), 1, "&s", &action);
     g_variant_get_child(owner.get(), 3, "&s", &program);
-    return std::string(program) + " has it for “" + action + "”";
+    return sentence("HotKeys", "%1 has it for “%2”").arg(program).arg(action);
 }
 
 std::optional<HotKeyBinder::Event> KdeShortcuts::nextEvent() {

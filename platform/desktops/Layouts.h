@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "platform/Result.h"
+#include "platform/Sentence.h"
 
 /// The keyboard layouts of a desktop's user, the groups of the seat's keymap in their order.
 class Layouts {
@@ -29,6 +30,6 @@ class UnknownLayouts final : public Layouts {
     std::uint32_t group() const override { return 0; }
     bool canSwitch() const override { return false; }
     Result<void> setGroup(std::uint32_t /*group*/) override {
-        return Error{"This desktop lets no program switch the keyboard layout.", ""};
+        return Error{sentence("Layouts", "This desktop lets no program switch the keyboard layout."), ""};
     }
 };

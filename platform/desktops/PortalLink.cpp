@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/desktops/portal/PortalNames.h"
 #include "platform/linux/ConfigFolders.h"
 
@@ -23,26 +24,29 @@ constexpr std::chrono::milliseconds betweenLooks{10};
 Error errorFor(PortalAnswer answer) {
     switch (answer) {
         case PortalAnswer::missing:
-            return {"This desktop lets no program press keys: no portal for it answers.",
-                    "Install xdg-desktop-portal and the part of it that belongs to your desktop."};
+            return {sentence("Keys", "This desktop lets no program press keys: no portal for it answers."),
+                    sentence("Keys",
+                             "Install xdg-desktop-portal and the part of it that belongs to your desktop.")};
         case PortalAnswer::refused:
-            return {"The desktop was not allowed to let Keyrill press keys.",
-                    "Play again, and agree when you are asked."};
+            return {sentence("Keys", "The desktop was not allowed to let Keyrill press keys."),
+                    sentence("Keys", "Play again, and agree when you are asked.")};
         case PortalAnswer::silent:
-            return {"The desktop has not answered whether Keyrill may press keys.",
-                    "Play again; if nothing asks you, log in again."};
+            return {sentence("Keys", "The desktop has not answered whether Keyrill may press keys."),
+                    sentence("Keys", "Play again; if nothing asks you, log in again.")};
         case PortalAnswer::opened:
         case PortalAnswer::synced:
         case PortalAnswer::lost:
             break;
     }
-    return {"The desktop no longer lets Keyrill press keys.", "Play again; it may ask for your permission."};
+    return {sentence("Keys", "The desktop no longer lets Keyrill press keys."),
+            sentence("Keys", "Play again; it may ask for your permission.")};
 }
 
 Error cannotStart() {
-    return {"The program \"" + std::string(programName) +
-                "\", which presses keys by the desktop's portal, could not be started.",
-            "Install the program again."};
+    return {sentence("Programs",
+                     "The program \"%1\", which presses keys by the desktop's portal, could not be started.")
+                .arg(programName),
+            sentence("Programs", "Install the program again.")};
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/desktops/portal/PortalNames.h"
 
 namespace {
@@ -13,7 +14,7 @@ using portalnames::service;
 
 constexpr const char* face = "org.freedesktop.portal.GlobalShortcuts";
 
-const char* const leftOut = "the desktop has not granted it";
+Sentence leftOut() { return sentence("HotKeys", "the desktop has not granted it"); }
 
 /// A name of each with what is said of it.
 GVariantPointer shortcutsIn(GVariant* results) {
@@ -28,9 +29,10 @@ std::string wordsOf(GVariant* facts) {
 }
 
 std::string whyNot(PortalRequest::End end) {
-    if (end == PortalRequest::End::refused) return "you did not agree when the desktop asked";
-    if (end == PortalRequest::End::silent) return "the desktop has not answered";
-    return "the desktop has refused it";
+    if (end == PortalRequest::End::refused)
+        return sentence("HotKeys", "you did not agree when the desktop asked");
+    if (end == PortalRequest::End::silent) return sentence("HotKeys", "the desktop has not answered");
+    return sentence("HotKeys", "the desktop has refused it");
 }
 
 }  // namespace
@@ -129,7 +131,7 @@ void PortalShortcuts::begin() {
     closeSession();
     m_asked.clear();
     if (m_wishes.empty()) return;
-    if (!m_bus.isOpen()) return endBecause("there is no session bus");
+    if (!m_bus.isOpen()) return endBecause(sentence("HotKeys", "there is no session bus"));
     m_state = State::asking;
     GVariantBuilder none = portalOptions();
     m_bus.call(
@@ -160,8 +162,9 @@ void PortalShortcuts::created(PortalRequest::End end, GVariant* results) {
         end == PortalRequest::End::agreed ? portalSessionIn(results) : std::optional<std::string>();
     if (!session) {
         m_isPortalAtFault = true;
-        return endBecause(end == PortalRequest::End::silent ? "the desktop's portal does not answer"
-                                                            : "the desktop's portal gives no hot keys");
+        return endBecause(end == PortalRequest::End::silent
+                              ? sentence("HotKeys", "the desktop's portal does not answer")
+                              : sentence("HotKeys", "the desktop's portal gives no hot keys"));
     }
     m_session = *session;
     const BusLoop::Context::Scope scope(m_bus.loop());
@@ -180,7 +183,7 @@ void PortalShortcuts::bind() {
                                   g_variant_new_string(wish.trigger.c_str()));
         }
         g_variant_builder_add(&shortcuts, "(sa{sv})", name.c_str(), &facts);
-        m_asked[name] = {.trigger = wish.trigger, .refusal = leftOut};
+        m_asked[name] = {.trigger = wish.trigger, .refusal = leftOut()};
     }
     GVariantBuilder options = portalOptions();
     const BusLoop::Context::Scope scope(m_bus.loop());
@@ -296,7 +299,7 @@ void PortalShortcuts::changed(GVariant* parameters) {
 void PortalShortcuts::closed() {
     m_end.stop();
     m_session.clear();
-    endBecause("the desktop has taken it back");
+    endBecause(sentence("HotKeys", "the desktop has taken it back"));
 }
 
 /// One that dies while it is asked is not asked again at once: it could die of that.
@@ -305,7 +308,7 @@ void PortalShortcuts::ownerChanged(bool wasThere, bool isThere) {
     if (wasThere && m_state == State::asking) {
         m_session.clear();
         m_isPortalAtFault = true;
-        return endBecause("the desktop's portal has ended");
+        return endBecause(sentence("HotKeys", "the desktop's portal has ended"));
     }
     if (isThere && m_state == State::idle && m_isPortalAtFault) forget();
 }

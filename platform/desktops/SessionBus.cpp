@@ -6,6 +6,7 @@
 #include <chrono>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/linux/BusAddresses.h"
 
 namespace {
@@ -14,7 +15,9 @@ constexpr int patience = 2000;
 constexpr const char* theBus = "org.freedesktop.DBus";
 constexpr const char* theBusObject = "/org/freedesktop/DBus";
 
-Error noBus() { return {"There is no session bus.", "Log in again."}; }
+Error noBus() {
+    return {sentence("Session", "There is no session bus."), sentence("Session", "Log in again.")};
+}
 
 const char* orAny(const std::string& text) { return text.empty() ? nullptr : text.c_str(); }
 

@@ -12,6 +12,8 @@
 #include <sstream>
 #include <string_view>
 
+#include "platform/Sentence.h"
+
 namespace {
 
 constexpr std::array modifierNames = {"Shift", "Lock", "Ctrl", "Mod1", "Mod2", "Mod3", "Mod4", "Mod5"};
@@ -96,7 +98,7 @@ bool SwayBindings::isUsers(const Place& place) const {
 
 std::optional<std::string> SwayBindings::grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) {
     const Place place{grab.keycode, grab.modifiers};
-    if (isUsers(place)) return "your configuration of sway binds it";
+    if (isUsers(place)) return sentence("HotKeys", "your configuration of sway binds it");
     if (m_bound.contains(place)) return std::nullopt;
     if (const auto bound = bind(place); !bound) {
         unbind(place);

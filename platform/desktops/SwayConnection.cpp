@@ -12,6 +12,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "platform/Sentence.h"
+
 namespace {
 
 constexpr std::string_view magic = "i3-ipc";
@@ -20,7 +22,8 @@ constexpr std::size_t longestMessage = 64U << 20U;
 constexpr std::uint32_t firstEvent = 0x80000000;
 
 Error unreachable() {
-    return {"sway does not answer at $SWAYSOCK.", "Start the program in the session of sway."};
+    return {sentence("Session", "sway does not answer at $SWAYSOCK."),
+            sentence("Session", "Start the program in the session of sway.")};
 }
 
 void append(std::string& message, std::uint32_t number) {
@@ -76,7 +79,8 @@ Result<void> SwayConnection::run(std::string_view command) {
     const auto answer = ask(Request::command, command);
     if (!answer) return answer.error();
     for (const Json& outcome : answer.value().items()) {
-        if (!outcome["success"].isTrue()) return Error{"sway says: " + outcome["error"].text(), ""};
+        if (!outcome["success"].isTrue())
+            return Error{sentence("Session", "sway says: %1").arg(outcome["error"].text()), ""};
     }
     return {};
 }

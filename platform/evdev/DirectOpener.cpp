@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "platform/Sentence.h"
 #include "platform/evdev/devices/KeyboardList.h"
 
 namespace evdev {
@@ -34,8 +35,10 @@ Result<std::vector<OpenedDevice>> DirectOpener::openAllBut(const std::set<std::s
             devices.push_back({std::move(descriptor), name});
         } else if (cause != ENOENT && cause != ENODEV) {
             // Those were unplugged meanwhile.
-            return Error{"The keyboard cannot be read: " + file + ": " + std::strerror(cause) + ".",
-                         "Let the keyboard be read while a macro is recorded."};
+            return Error{sentence("Keyboards", "The keyboard cannot be read: %1: %2.")
+                             .arg(file)
+                             .arg(std::strerror(cause)),
+                         sentence("Keyboards", "Let the keyboard be read while a macro is recorded.")};
         }
     }
     return devices;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/EventSource.h"
+#include "platform/Sentence.h"
 #include "platform/evdev/devices/KeyboardList.h"
 
 namespace evdev {
@@ -14,8 +15,8 @@ namespace {
 using KeyQueues = std::map<std::uint16_t, WipedQueue<DeviceKey>>;
 
 Error permissionEnded() {
-    return {"The keyboard can no longer be read: the permission has ended.",
-            "Another user's session may be in front, or the screen is locked."};
+    return {sentence("Keyboards", "The keyboard can no longer be read: the permission has ended."),
+            sentence("Keyboards", "Another user's session may be in front, or the screen is locked.")};
 }
 
 /// The one with the earliest key, which must not be empty.

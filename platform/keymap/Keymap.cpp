@@ -10,23 +10,25 @@
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
+#include "platform/Sentence.h"
 #include "platform/XkbCodes.h"
 
 namespace {
 
-/// A bit of ours, the modifiers that stand for it, and what it is called where no key holds it.
+/// A bit of ours, and the modifiers that stand for it.
 struct Role {
     std::uint32_t flag;
     xkb_mod_mask_t ModifierMasks::*mask;
-    const char* name;
+    HeldRole held;
 };
-constexpr std::array<Role, 4> modifierRoles = {{{modifier::command, &ModifierMasks::command, "Super"},
-                                                {modifier::control, &ModifierMasks::control, "Control"},
-                                                {modifier::option, &ModifierMasks::option, "Alt"},
-                                                {modifier::shift, &ModifierMasks::shift, "Shift"}}};
+constexpr std::array<Role, 4> modifierRoles = {
+    {{modifier::command, &ModifierMasks::command, HeldRole::command},
+     {modifier::control, &ModifierMasks::control, HeldRole::control},
+     {modifier::option, &ModifierMasks::option, HeldRole::option},
+     {modifier::shift, &ModifierMasks::shift, HeldRole::shift}}};
 constexpr std::array<Role, 2> chooserRoles = {
-    {{keycode::thirdLevel, &ModifierMasks::thirdLevel, "the third level (AltGr)"},
-     {keycode::fifthLevel, &ModifierMasks::fifthLevel, "the fifth level"}}};
+    {{keycode::thirdLevel, &ModifierMasks::thirdLevel, HeldRole::thirdLevel},
+     {keycode::fifthLevel, &ModifierMasks::fifthLevel, HeldRole::fifthLevel}}};
 
 std::size_t fingerprintOf(xkb_keymap* keymap) {
     struct Free {
@@ -54,16 +56,33 @@ xkb_mod_mask_t masksOf(const Roles& roles, const ModifierMasks& masks, std::uint
     return modifiers;
 }
 
-/// What the first of the flags that no key holds is called; null if all are held.
+/// The first of the flags that no key holds.
 template <typename Roles>
-const char* missing(const Roles& roles, const Keymap& keymap, std::uint32_t flags) {
+std::optional<HeldRole> missing(const Roles& roles, const Keymap& keymap, std::uint32_t flags) {
     for (const Role& role : roles) {
-        if ((flags & role.flag) != 0 && !keymap.keys().canHold(keymap.masks().*role.mask)) return role.name;
+        if ((flags & role.flag) != 0 && !keymap.keys().canHold(keymap.masks().*role.mask)) return role.held;
     }
-    return nullptr;
+    return std::nullopt;
+}
+
+Sentence noKeyFor(HeldRole held) {
+    if (held == HeldRole::thirdLevel)
+        return sentence("Layouts", "The keyboard layout has no key for the third level (AltGr).");
+    if (held == HeldRole::fifthLevel)
+        return sentence("Layouts", "The keyboard layout has no key for the fifth level.");
+    //: %1 is a modifier: Super
+    return sentence("Layouts", "The keyboard layout has no key for %1.").arg(modifierName(held));
 }
 
 }  // namespace
+
+// The words that combinations have, but for Control, which they abbreviate.
+std::string modifierName(HeldRole held) {
+    if (held == HeldRole::command) return sentence("CombinationText", "Super");
+    if (held == HeldRole::option) return sentence("CombinationText", "Alt");
+    if (held == HeldRole::shift) return sentence("CombinationText", "Shift");
+    return sentence("CombinationText", "Control");
+}
 
 Keymap::Keymap(XkbKeymapPointer keymap)
     : m_keymap(std::move(keymap)),
@@ -102,11 +121,12 @@ xkb_mod_mask_t Keymap::realChoosers(std::uint32_t keyCode) const {
 }
 
 Result<xkb_mod_mask_t> Keymap::real(std::uint32_t modifiers, std::uint32_t keyCode) const {
-    const char* name = missing(modifierRoles, *this, modifiers);
-    if (name == nullptr) name = missing(chooserRoles, *this, keyCode);
-    if (name != nullptr) {
-        return Error{std::string("The keyboard layout has no key for ") + name + ".",
-                     "Choose a keyboard layout that has one."};
-    }
+    if (const auto held = heldByNoKey(modifiers, keyCode))
+        return Error{noKeyFor(*held), sentence("Layouts", "Choose a keyboard layout that has one.")};
     return masksOf(modifierRoles, m_masks, modifiers) | realChoosers(keyCode);
+}
+
+std::optional<HeldRole> Keymap::heldByNoKey(std::uint32_t modifiers, std::uint32_t keyCode) const {
+    const auto held = missing(modifierRoles, *this, modifiers);
+    return held ? held : missing(chooserRoles, *this, keyCode);
 }

@@ -4,11 +4,18 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "platform/Result.h"
 #include "platform/keymap/ModifierKeys.h"
 #include "platform/keymap/ModifierMasks.h"
 #include "platform/keymap/XkbPointers.h"
+
+/// What is held while another key is struck.
+enum class HeldRole { command, control, option, shift, thirdLevel, fifthLevel };
+
+/// One of the modifiers as people call it: "Super".
+std::string modifierName(HeldRole held);
 
 /// A compiled keymap and what its keys do: the one account of it, for those who watch keys and for those who
 /// press them, so that both mean the same by Alt.
@@ -37,6 +44,8 @@ class Keymap {
     /// The real modifiers of a mask of platform/Modifiers.h, without locks, and of the choosers of a key
     /// code. Fails where no key of the keymap holds one of them; the message names it.
     Result<xkb_mod_mask_t> real(std::uint32_t modifiers, std::uint32_t keyCode = 0) const;
+    /// The first of them that no key holds; empty where real() does not fail.
+    std::optional<HeldRole> heldByNoKey(std::uint32_t modifiers, std::uint32_t keyCode) const;
 
     /// Equal for keymaps of equal content. Costs more than all else here, so it is made when it is asked for.
     std::size_t fingerprint() const;

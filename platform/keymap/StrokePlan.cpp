@@ -5,6 +5,7 @@
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
+#include "platform/Sentence.h"
 #include "platform/keymap/KeypadDigit.h"
 
 namespace {
@@ -20,8 +21,9 @@ Result<Stroke> around(const Keymap& keymap, std::uint32_t modifiers, std::uint32
 }
 
 Error noLayout(xkb_layout_index_t layout) {
-    return {"The keyboard has no layout " + std::to_string(layout + 1) + ".",
-            "Add it to the keyboard layouts, or record the macro again."};
+    //: %1 is a number.
+    return {sentence("Layouts", "The keyboard has no layout %1.").arg(std::to_string(layout + 1)),
+            sentence("Layouts", "Add it to the keyboard layouts, or record the macro again.")};
 }
 
 }  // namespace
@@ -40,7 +42,8 @@ Result<Stroke> planStroke(const Keymap& keymap, std::uint32_t keyCode, std::uint
                           xkb_layout_index_t layout) {
     const std::uint32_t baseCode = keycode::baseOf(keyCode);
     if (baseCode == keycode::power) {
-        return Error{"The power key cannot be pressed by a script.", "Take key code 127 out of the script."};
+        return Error{sentence("Keys", "The power key cannot be pressed by a script."),
+                     sentence("Keys", "Take key code 127 out of the script.")};
     }
     const std::uint8_t keycode = keymap.keycodeFor(keyCode);
     if (keycode == 0) return Stroke{};

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/linux/DesktopExec.h"
 #include "platform/linux/KeyFile.h"
 #include "platform/linux/WholeFile.h"
@@ -109,15 +110,19 @@ Result<> AutostartEntry::add() const {
 Result<> AutostartEntry::remove() const {
     if (isSystemwideOurs()) return write(maskText());
     if (unlink(userPath().c_str()) == 0) return {};
-    return Error{"The file " + userPath() + " cannot be removed: " + std::strerror(errno),
-                 "Check who may write in its folder."};
+    //: %2 is why, in the system's words.
+    return Error{
+        sentence("LogIn", "The file %1 cannot be removed: %2").arg(userPath()).arg(std::strerror(errno)),
+        sentence("LogIn", "Check who may write in its folder.")};
 }
 
 Result<> AutostartEntry::write(const std::string& content) const {
     const std::string folder = std::filesystem::path(userPath()).parent_path();
     if (g_mkdir_with_parents(folder.c_str(), 0700) != 0) {
-        return Error{"The folder " + folder + " cannot be made: " + std::strerror(errno),
-                     "Check who may write there."};
+        //: %2 is why, in the system's words.
+        return Error{
+            sentence("Folders", "The folder %1 cannot be made: %2").arg(folder).arg(std::strerror(errno)),
+            sentence("Folders", "Check who may write there.")};
     }
     return WholeFile(userPath()).write(content);
 }

@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "platform/Sentence.h"
 #include "platform/Utf8.h"
 #include "platform/linux/GLibPointers.h"
 
@@ -65,12 +66,17 @@ std::optional<std::string> unescaped(const std::string& value) {
 
 Result<std::string> execValue(const std::string& path) {
     if (path.find('%') != std::string::npos) {
-        return Error{"A program whose path has a percent sign cannot be started at login: " + path,
-                     "Move the program to a folder without one."};
+        //: %1 is the path.
+        return Error{
+            sentence("LogIn", "A program whose path has a percent sign cannot be started at login: %1")
+                .arg(path),
+            sentence("LogIn", "Move the program to a folder without one.")};
     }
     if (invalidUtf8(path)) {
-        return Error{"A program whose path is not UTF-8 cannot be started at login: " + path,
-                     "Move the program to another folder."};
+        //: %1 is the path.
+        return Error{
+            sentence("LogIn", "A program whose path is not UTF-8 cannot be started at login: %1").arg(path),
+            sentence("LogIn", "Move the program to another folder.")};
     }
     return escaped(quoted(path));
 }

@@ -16,6 +16,8 @@
 #include <memory>
 #include <utility>
 
+#include "platform/Sentence.h"
+
 namespace {
 
 constexpr std::ptrdiff_t deepest = 16;
@@ -91,12 +93,15 @@ std::array<std::uint64_t, 4> folderIdentity(const struct statx& status) {
 }
 
 Error cannotBeRead(const std::string& folder, const std::string& cause) {
-    return {"The folder " + folder + " cannot be read: " + cause, "Check who may read it."};
+    //: %2 is why, in the system's words.
+    return {sentence("Folders", "The folder %1 cannot be read: %2").arg(folder).arg(cause),
+            sentence("Folders", "Check who may read it.")};
 }
 
 Error cannotBeFollowed(const std::string& folder, const std::string& cause) {
-    return {"What changes in the folder " + folder + " is not noticed: " + cause,
-            "Start Keyrill again after changes, or raise fs.inotify.max_user_watches."};
+    //: %2 is why, in the system's words.
+    return {sentence("Folders", "What changes in the folder %1 is not noticed: %2").arg(folder).arg(cause),
+            sentence("Folders", "Start Keyrill again after changes, or raise fs.inotify.max_user_watches.")};
 }
 
 }  // namespace

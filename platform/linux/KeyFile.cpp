@@ -3,6 +3,8 @@
 
 #include <string_view>
 
+#include "platform/Sentence.h"
+
 namespace {
 
 std::string_view trimmed(std::string_view text) {
@@ -28,7 +30,7 @@ Result<KeyFile> KeyFile::parse(const std::string& content) {
     KeyFile file;
     if (content.empty()) return file;
     // The library would take the text up to there for all of it.
-    if (content.find('\0') != std::string::npos) return Error{"It has a zero byte", ""};
+    if (content.find('\0') != std::string::npos) return Error{sentence("Settings", "It has a zero byte"), ""};
     GError* error = nullptr;
     if (g_key_file_load_from_data(file.m_file.get(), content.data(), content.size(), keepAll, &error) ==
         FALSE) {

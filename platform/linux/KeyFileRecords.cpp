@@ -92,10 +92,8 @@ bool write(KeyFile& file, const std::string& group, const Record& record) {
 
 KeyFileRecords::KeyFileRecords(const std::string& configFolder, std::function<void()> awaitTurnEnd)
     : m_schedule(std::make_unique<StoreSchedule>([this] { return store(); }, std::move(awaitTurnEnd))),
-      m_file(std::make_unique<UserKeyFile>(
-          configFolder + fileName,
-          UserKeyFile::Words{"macro settings", "hot keys, times and speeds begin anew."},
-          [this](const Error& fault) { m_schedule->addFault(fault); })) {}
+      m_file(std::make_unique<UserKeyFile>(configFolder + fileName, UserKeyFile::Kind::macroSettings,
+                                           [this](const Error& fault) { m_schedule->addFault(fault); })) {}
 
 KeyFileRecords::~KeyFileRecords() { m_schedule->end(); }
 

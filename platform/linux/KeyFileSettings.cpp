@@ -15,7 +15,7 @@ namespace {
 
 constexpr const char* fileName = "/keyrill/keyrill.conf";
 constexpr const char* group = "Settings";
-constexpr const char* kind = "settings";
+constexpr auto kind = UserKeyFile::Kind::settings;
 
 /// 0 for what is no integer.
 std::int64_t integerFrom(std::string_view text) {
@@ -43,8 +43,7 @@ KeyFileSettings::KeyFileSettings(const ConfigFolders& folders, std::function<voi
 
 KeyFileSettings::KeyFileSettings(const ConfigFolders& folders, Use use, std::function<void()> awaitTurnEnd)
     : m_schedule(std::make_unique<StoreSchedule>([this] { return store(); }, std::move(awaitTurnEnd))),
-      m_file(std::make_unique<UserKeyFile>(folders.user + fileName,
-                                           UserKeyFile::Words{kind, "the settings begin anew."},
+      m_file(std::make_unique<UserKeyFile>(folders.user + fileName, kind,
                                            [this](const Error& fault) { m_schedule->addFault(fault); })) {
     const bool isReader = use == Use::readOnly;
     const auto user = m_file->read(isReader ? UserKeyFile::Damaged::stays : UserKeyFile::Damaged::isPutAside);

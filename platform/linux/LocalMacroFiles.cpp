@@ -42,7 +42,7 @@ Result<std::string> LocalMacroFiles::read(const std::string& path) const {
     if (!content) return content.error();
     std::string text = decodedText(std::move(content).value());
     if (text.size() <= largestScript) return text;
-    return Error{"The file " + path + " cannot be read: It is larger than 16 MiB", "Choose a smaller file."};
+    return WholeFile(path).tooLarge(largestScript);
 }
 
 Result<> LocalMacroFiles::write(const std::string& path, std::string_view text) {

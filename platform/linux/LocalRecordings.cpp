@@ -11,6 +11,7 @@
 #include <optional>
 #include <system_error>
 
+#include "platform/Sentence.h"
 #include "platform/linux/FileReplacement.h"
 #include "platform/linux/GLibPointers.h"
 #include "platform/linux/WholeFile.h"
@@ -100,8 +101,10 @@ std::string LocalRecordings::freeName(RecordedAt time) const {
 Result<std::string> LocalRecordings::keep(const StoredRecording& recording) {
     constexpr int folderMode = 0700;
     if (g_mkdir_with_parents(m_folder.c_str(), folderMode) != 0) {
-        return Error{"The folder " + m_folder + " cannot be made: " + std::strerror(errno),
-                     "Make room, or check who may write there."};
+        //: %2 is why, in the system's words.
+        return Error{
+            sentence("Folders", "The folder %1 cannot be made: %2").arg(m_folder).arg(std::strerror(errno)),
+            sentence("Folders", "Make room, or check who may write there.")};
     }
     const std::string name = freeName(recording.recordedAt);
     const Result<> written =
@@ -118,8 +121,9 @@ Result<std::string> LocalRecordings::keep(const StoredRecording& recording) {
 Result<> LocalRecordings::forget(const std::string& name) {
     const std::string file = fileOf(name);
     if (!timeOf(name) || unlink(file.c_str()) == 0 || errno == ENOENT) return {};
-    return Error{"The file " + file + " cannot be deleted: " + std::strerror(errno),
-                 "Check who may write to its folder, or delete it yourself."};
+    //: %2 is why, in the system's words.
+    return Error{sentence("Files", "The file %1 cannot be deleted: %2").arg(file).arg(std::strerror(errno)),
+                 sentence("Files", "Check who may write to its folder, or delete it yourself.")};
 }
 
 Result<> LocalRecordings::forgetAll() {

@@ -12,6 +12,8 @@
 #include <cstring>
 #include <utility>
 
+#include "platform/Sentence.h"
+
 namespace {
 
 /// Reading there can take something away (kmsg), wait for ever (trace_pipe) or show a process's memory.
@@ -25,11 +27,12 @@ bool isMadeUp(const struct statfs& system) {
 }
 
 std::string obstacle(const struct stat& status, const struct statfs& system) {
-    if (S_ISDIR(status.st_mode)) return "It is a folder";
-    return S_ISREG(status.st_mode) && !isMadeUp(system) ? "" : "It is not a regular file";
+    if (S_ISDIR(status.st_mode)) return sentence("Files", "It is a folder");
+    if (S_ISREG(status.st_mode) && !isMadeUp(system)) return {};
+    return sentence("Files", "It is not a regular file");
 }
 
-Error refusal(const std::string& obstacle) { return {obstacle, "Choose a file."}; }
+Error refusal(const std::string& obstacle) { return {obstacle, sentence("Files", "Choose a file.")}; }
 
 Error systemError() { return {std::strerror(errno), ""}; }
 

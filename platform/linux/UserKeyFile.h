@@ -14,21 +14,17 @@
 /// Modes: 0600 for the file, 0700 for a folder that has to be made.
 class UserKeyFile {
   public:
-    struct Words {
-        /// What errors call the file and its folder: "settings".
-        std::string kind;
-        /// Ends the hint of a file that was put aside: "the settings begin anew."
-        std::string afterwards;
-    };
+    /// What errors call the file and its folder.
+    enum class Kind { settings, macroSettings };
     enum class Damaged { isPutAside, stays };
 
     /// `tellFault` is called when a file has been put aside.
-    UserKeyFile(std::string path, Words words, std::function<void(const Error&)> tellFault);
+    UserKeyFile(std::string path, Kind kind, std::function<void(const Error&)> tellFault);
 
     const std::string& path() const { return m_path; }
 
     /// Any key file; one that is not there cannot be read.
-    static Result<KeyFile> readAny(const std::string& path, const std::string& kind);
+    static Result<KeyFile> readAny(const std::string& path, Kind kind);
 
     /// As it is now, empty where there is none and after it had to be put aside. Fails where it cannot even
     /// be put aside, or has to stay.
@@ -42,7 +38,7 @@ class UserKeyFile {
     Result<> putAside(const Error& fault) const;
 
     std::string m_path;
-    Words m_words;
+    Kind m_kind;
     std::function<void(const Error&)> m_tellFault;
     WholeFile m_file;
 };

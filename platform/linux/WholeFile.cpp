@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "platform/Descriptor.h"
+#include "platform/Sentence.h"
 #include "platform/linux/FileReplacement.h"
 #include "platform/linux/RegularFile.h"
 
@@ -61,6 +62,26 @@ mode_t withoutGroup(mode_t mode) {
     return (mode & ~group) | ((mode & 07U) << 3U);
 }
 
+Sentence unreadable(std::string_view kind) {
+    //: %1 is a file, %2 why, perhaps in the system's words: It is a folder
+    if (kind == "settings file") return sentence("Settings", "The settings file %1 cannot be read: %2");
+    //: %1 is a file, %2 why, perhaps in the system's words: It is a folder
+    if (kind == "macro settings file")
+        return sentence("Settings", "The macro settings file %1 cannot be read: %2");
+    //: %2 is why, perhaps in the system's words: It is a folder
+    return sentence("Files", "The file %1 cannot be read: %2");
+}
+
+Sentence unwritable(std::string_view kind) {
+    //: %1 is a file, %2 why, perhaps in the system's words: It is a folder
+    if (kind == "settings file") return sentence("Settings", "The settings file %1 cannot be written: %2");
+    //: %1 is a file, %2 why, perhaps in the system's words: It is a folder
+    if (kind == "macro settings file")
+        return sentence("Settings", "The macro settings file %1 cannot be written: %2");
+    //: %2 is why, perhaps in the system's words: It is a folder
+    return sentence("Files", "The file %1 cannot be written: %2");
+}
+
 }  // namespace
 
 WholeFile::WholeFile(std::string path, std::string kind) : m_path(std::move(path)), m_kind(std::move(kind)) {}
@@ -81,23 +102,28 @@ bool WholeFile::isAbsent() const { return !statusOf(m_path) && (errno == ENOENT 
 
 Result<std::string> WholeFile::read(std::size_t most) const {
     const auto file = openRegularFile(m_path);
-    if (!file) return cannot("read", file.error());
+    if (!file) return cannotBeRead(file.error());
     auto content = contentOf(file.value(), most);
-    if (!content) return cannot("read", content.error());
+    if (!content) return cannotBeRead(content.error());
     if (content.value().size() <= most) return content;
-    return cannot("read",
-                  {"It is larger than " + std::to_string(most >> 20U) + " MiB", "Choose a smaller file."});
+    return tooLarge(most);
+}
+
+Error WholeFile::tooLarge(std::size_t most) const {
+    //: %1 is a number.
+    return cannotBeRead({sentence("Files", "It is larger than %1 MiB").arg(std::to_string(most >> 20U)),
+                         sentence("Files", "Choose a smaller file.")});
 }
 
 Result<> WholeFile::write(std::string_view content, std::optional<mode_t> mode) const {
     const std::string file = target();
     const auto before = statusOf(file);
-    if (!before && errno != ENOENT) return cannot("written", {systemsCause(), ""});
+    if (!before && errno != ENOENT) return cannotBeWritten({systemsCause(), ""});
     if (before) {
         const std::string obstacle = obstacleAt(file);
-        if (!obstacle.empty()) return cannot("written", {obstacle, "Choose another name."});
+        if (!obstacle.empty()) return cannotBeWritten({obstacle, sentence("Files", "Choose another name.")});
         // A new file could take the place of a write-protected one all the same.
-        if (access(file.c_str(), W_OK) != 0) return cannot("written", {systemsCause(), ""});
+        if (access(file.c_str(), W_OK) != 0) return cannotBeWritten({systemsCause(), ""});
         if (!mode) mode = before->st_mode & 07777U;
     }
     removeLeftovers();
@@ -105,7 +131,7 @@ Result<> WholeFile::write(std::string_view content, std::optional<mode_t> mode) 
     // It is in the saver's group at first.
     const auto finished =
         replacement.finish(content, before ? withoutGroup(*mode) : mode.value_or(modeOfNewFiles));
-    if (!finished) return cannot("written", finished.error());
+    if (!finished) return cannotBeWritten(finished.error());
     if (!before) return {};
     const bool isKept = keepOwner(file, *before);
     chmod(file.c_str(), isKept ? *mode : withoutGroup(*mode));
@@ -114,10 +140,13 @@ Result<> WholeFile::write(std::string_view content, std::optional<mode_t> mode) 
 
 void WholeFile::removeLeftovers() const { FileReplacement::sweep(fs::path(target()).parent_path()); }
 
-Error WholeFile::cannot(const std::string& verb, const Error& cause) const {
-    const std::string access = verb == "read"
-                                   ? "Check that the file is there and who may read it."
-                                   : "Make room, check who may write there, or choose another place.";
-    return {"The " + m_kind + " " + m_path + " cannot be " + verb + ": " + cause.message,
-            cause.hint.empty() ? access : cause.hint};
+Error WholeFile::cannotBeRead(const Error& cause) const {
+    const std::string access = sentence("Files", "Check that the file is there and who may read it.");
+    return {unreadable(m_kind).arg(m_path).arg(cause.message), cause.hint.empty() ? access : cause.hint};
+}
+
+Error WholeFile::cannotBeWritten(const Error& cause) const {
+    const std::string access =
+        sentence("Files", "Make room, check who may write there, or choose another place.");
+    return {unwritable(m_kind).arg(m_path).arg(cause.message), cause.hint.empty() ? access : cause.hint};
 }

@@ -13,7 +13,8 @@
 /// A file that is read and written as one piece.
 class WholeFile {
   public:
-    /// `kind` is the noun of its errors: "The KIND PATH cannot be read: CAUSE".
+    /// `kind` is the noun of its errors, "The KIND PATH cannot be read: CAUSE": "file", "settings file" or
+    /// "macro settings file".
     explicit WholeFile(std::string path, std::string kind = "file");
 
     /// Where the path leads: links are followed, also one whose target is not there; the path itself where
@@ -29,6 +30,8 @@ class WholeFile {
     /// The content. Fails for all that is not a regular file (RegularFile.h), and above `most` bytes, which
     /// are whole MiB.
     Result<std::string> read(std::size_t most = greatestSize) const;
+    /// That one's error above `most` bytes.
+    Error tooLarge(std::size_t most) const;
 
     /// Replaces the content: once it returns, that is on the disk; whatever goes wrong, a crash of the
     /// machine among it, the old file is there as it was. Links stay, and root leaves a file its owner.
@@ -42,7 +45,8 @@ class WholeFile {
 
   private:
     /// With the cause's hint if it has one.
-    Error cannot(const std::string& verb, const Error& cause) const;
+    Error cannotBeRead(const Error& cause) const;
+    Error cannotBeWritten(const Error& cause) const;
 
     std::string m_path;
     std::string m_kind;

@@ -6,6 +6,7 @@
 #include <array>
 #include <string>
 
+#include "platform/Sentence.h"
 #include "platform/linux/GLibPointers.h"
 
 namespace {
@@ -15,7 +16,7 @@ void becomeLeader(void* /*data*/) { setsid(); }
 
 Result<> open(std::string_view text) {
     if (text.find('\0') != std::string_view::npos)
-        return Error{"A text with a zero byte cannot be opened.", ""};
+        return Error{sentence("Programs", "A text with a zero byte cannot be opened."), ""};
     std::string program = "xdg-open";
     std::string argument(text);
     std::array<char*, 3> command{program.data(), argument.data(), nullptr};
@@ -27,8 +28,10 @@ Result<> open(std::string_view text) {
         TRUE) {
         return {};
     }
-    return Error{"The program xdg-open cannot be started: " + std::string(GFailure(error)->message),
-                 "Install the package xdg-utils."};
+    //: %1 is why, in the system's words.
+    return Error{
+        sentence("Programs", "The program xdg-open cannot be started: %1").arg(GFailure(error)->message),
+        sentence("Programs", "Install the package xdg-utils.")};
 }
 
 }  // namespace

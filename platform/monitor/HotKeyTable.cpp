@@ -2,25 +2,47 @@
 #include "platform/monitor/HotKeyTable.h"
 
 #include <algorithm>
-#include <cctype>
 #include <utility>
 
 #include "platform/KeyCodes.h"
 #include "platform/Modifiers.h"
+#include "platform/Sentence.h"
 #include "platform/keymap/KeyLabels.h"
 
 namespace {
 
-const char* const chooseAnother = "Choose another combination.";
-const char* const addModifier = "Add Ctrl, Alt or Super.";
-const char* const allowIt = "Choose another combination, or allow it in the desktop's settings.";
-const char* const freeIt = "Choose another combination, or free it in the program that holds it.";
+Sentence chooseAnother() { return sentence("HotKeys", "Choose another combination."); }
 
-/// A message as the end of another sentence.
-std::string clauseOf(std::string sentence) {
-    sentence.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(sentence.front())));
-    sentence.pop_back();
-    return sentence;
+Sentence allowIt() {
+    return sentence("HotKeys", "Choose another combination, or allow it in the desktop's settings.");
+}
+
+Sentence freeIt() {
+    return sentence("HotKeys", "Choose another combination, or free it in the program that holds it.");
+}
+
+/// `why` ends the sentence.
+Sentence refusal(const std::string& combination, const std::string& why) {
+    //: %1 is a combination of keys, %2 one of the reasons: another program holds it
+    return sentence("HotKeys", "%1 cannot be used: %2.").arg(combination).arg(why);
+}
+
+Sentence noKeyFor(HeldRole held, const std::string& combination) {
+    if (held == HeldRole::thirdLevel) {
+        //: %1 is a combination of keys.
+        return sentence("HotKeys",
+                        "%1 cannot be used: the keyboard layout has no key for the third level (AltGr).")
+            .arg(combination);
+    }
+    if (held == HeldRole::fifthLevel) {
+        //: %1 is a combination of keys.
+        return sentence("HotKeys", "%1 cannot be used: the keyboard layout has no key for the fifth level.")
+            .arg(combination);
+    }
+    //: %1 is a combination of keys, %2 a modifier: Super
+    return sentence("HotKeys", "%1 cannot be used: the keyboard layout has no key for %2.")
+        .arg(combination)
+        .arg(modifierName(held));
 }
 
 }  // namespace
@@ -78,7 +100,8 @@ void HotKeyTable::answer(const KeyGrab& grab, const GrabAnswer& answer) {
     Row& row = m_rows[*id];
     row.keys = answer.refusal ? std::nullopt : answer.keys;
     if (row.keys) row.keys->locks = row.grab->locks;
-    if (answer.refusal) return refuse(row, *answer.refusal, allowIt);
+    if (answer.refusal)
+        return refuse(row, {refusal(combinationText(row.request), *answer.refusal), allowIt()});
     settle(row, {.status = HotKeyStatus::changed, .trigger = answer.trigger});
 }
 
@@ -206,12 +229,17 @@ std::optional<KeyGrab> HotKeyTable::preparedGrab(Row& row) {
     row.isElsewhere = false;
     const Result<KeyGrab> grab = grabFor(row.request);
     if (!grab) {
-        refuse(row, grab.error().message, grab.error().hint);
+        refuse(row, grab.error());
         return std::nullopt;
     }
     if (const auto holder = holderOf(grab.value())) {
         row.waits = true;
-        refuse(row, "Keyrill uses it for something else", chooseAnother, holder);
+        //: %1 is a combination of keys.
+        refuse(row,
+               {sentence("HotKeys", "%1 cannot be used: Keyrill uses it for something else.")
+                    .arg(combinationText(row.request)),
+                chooseAnother()},
+               holder);
         return std::nullopt;
     }
     return grab.value();
@@ -221,7 +249,7 @@ void HotKeyTable::conclude(Row& row, const std::optional<std::string>& failure) 
     if (failure) {
         row.grab.reset();
         row.isElsewhere = true;
-        return refuse(row, *failure, freeIt);
+        return refuse(row, {refusal(combinationText(row.request), *failure), freeIt()});
     }
     if (m_grabs.isDecidedByUser()) return settle(row, {.status = HotKeyStatus::pending});
     row.keys = row.grab;
@@ -243,11 +271,8 @@ void HotKeyTable::tryWaitingRows() {
     }
 }
 
-void HotKeyTable::refuse(Row& row, const std::string& why, const std::string& hint,
-                         std::optional<HotKeyId> holder) {
-    settle(row, {.status = HotKeyStatus::refused,
-                 .error = Error{combinationText(row.request) + " cannot be used: " + why + ".", hint},
-                 .holder = holder});
+void HotKeyTable::refuse(Row& row, const Error& why, std::optional<HotKeyId> holder) {
+    settle(row, {.status = HotKeyStatus::refused, .error = why, .holder = holder});
 }
 
 void HotKeyTable::settle(Row& row, HotKeyState state) {
@@ -259,10 +284,21 @@ void HotKeyTable::settle(Row& row, HotKeyState state) {
 Result<KeyGrab> HotKeyTable::grabFor(const HotKeyRequest& request) const {
     const Keymap& keymap = m_keyboard.keymap();
     const std::uint8_t keycode = keymap.keycodeFor(request.keyCode);
-    if (keycode == 0) return Error{"this desktop has no such key", chooseAnother};
-    if (isTyped(request)) return Error{"nobody could type it any more", addModifier};
+    if (keycode == 0) {
+        //: %1 is a combination of keys.
+        return Error{sentence("HotKeys", "%1 cannot be used: this desktop has no such key.")
+                         .arg(combinationText(request)),
+                     chooseAnother()};
+    }
+    if (isTyped(request)) {
+        //: %1 is a key.
+        return Error{sentence("HotKeys", "%1 cannot be used: nobody could type it any more.")
+                         .arg(combinationText(request)),
+                     sentence("HotKeys", "Add Ctrl, Alt or Super.")};
+    }
+    if (const auto held = keymap.heldByNoKey(request.modifiers, request.keyCode))
+        return Error{noKeyFor(*held, combinationText(request)), chooseAnother()};
     const auto modifiers = keymap.real(request.modifiers, request.keyCode);
-    if (!modifiers) return Error{clauseOf(modifiers.error().message), chooseAnother};
     const ModifierMasks& masks = keymap.masks();
     const xkb_mod_mask_t lockedLevels = (masks.thirdLevel | masks.fifthLevel) & keymap.keys().lockable();
     return KeyGrab{.keycode = keycode,
@@ -287,9 +323,10 @@ std::optional<HotKeyId> HotKeyTable::holderOf(const KeyGrab& grab) const {
 
 std::string HotKeyTable::combinationText(const HotKeyRequest& request) const {
     std::string text;
-    if ((request.modifiers & modifier::control) != 0) text += "Ctrl+";
-    if ((request.modifiers & modifier::option) != 0) text += "Alt+";
-    if ((request.modifiers & modifier::shift) != 0) text += "Shift+";
-    if ((request.modifiers & modifier::command) != 0) text += "Super+";
+    if ((request.modifiers & modifier::control) != 0)
+        text += sentence("CombinationText", "Ctrl").text() + '+';
+    if ((request.modifiers & modifier::option) != 0) text += modifierName(HeldRole::option) + '+';
+    if ((request.modifiers & modifier::shift) != 0) text += modifierName(HeldRole::shift) + '+';
+    if ((request.modifiers & modifier::command) != 0) text += modifierName(HeldRole::command) + '+';
     return text + keyLabel(m_keyboard.keymap(), m_keyboard.layout(), request.keyCode);
 }

@@ -90,8 +90,7 @@ class HotKeyTable {
     void freeRow(Row& row);
     bool liftRow(Row& row);
     void tryWaitingRows();
-    void refuse(Row& row, const std::string& why, const std::string& hint,
-                std::optional<HotKeyId> holder = std::nullopt);
+    void refuse(Row& row, const Error& why, std::optional<HotKeyId> holder = std::nullopt);
     void settle(Row& row, HotKeyState state);
     /// The grab of a request, or why there can be none.
     Result<KeyGrab> grabFor(const HotKeyRequest& request) const;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/Sentence.h"
 #include "platform/Utf8.h"
 
 namespace {
@@ -19,8 +20,10 @@ Result<std::vector<char32_t>> charactersOf(std::string_view text) {
     for (std::size_t position = 0; position < text.size();) {
         const Utf8Character next = firstCharacter(text.substr(position));
         if (!next.code) {
-            return Error{"The text to type is not UTF-8 at byte " + std::to_string(position + 1) + ".",
-                         "Save the script as UTF-8."};
+            //: %1 is a number.
+            return Error{sentence("Keys", "The text to type is not UTF-8 at byte %1.")
+                             .arg(std::to_string(position + 1)),
+                         sentence("Keys", "Save the script as UTF-8.")};
         }
         position += next.length;
         const char32_t character = *next.code;
@@ -42,11 +45,14 @@ std::vector<char32_t> charactersOfAll(std::span<const std::string> texts) {
 
 std::string beginningOf(std::span<const char32_t> characters) {
     constexpr std::size_t most = 20;
-    std::string shown = "\"";
+    std::string shown;
     for (const char32_t character : characters.first(std::min(most, characters.size()))) {
         appendUtf8(shown, character == carriageReturn ? U' ' : character);
     }
-    return shown + (characters.size() > most ? "...\"" : "\"");
+    //: The beginning of a text that is longer, in quotation marks.
+    if (characters.size() > most) return sentence("Keys", "\"%1...\"").arg(shown);
+    //: A text in quotation marks.
+    return sentence("Keys", "\"%1\"").arg(shown);
 }
 
 std::string nameOf(char32_t character) {
@@ -55,5 +61,6 @@ std::string nameOf(char32_t character) {
     if (isControl || character > 0x10FFFF) return code;
     std::string shown;
     appendUtf8(shown, character);
-    return "\"" + shown + "\" (" + code + ")";
+    //: %1 is a character, %2 its code: U+00E9
+    return sentence("Keys", "\"%1\" (%2)").arg(shown).arg(code);
 }

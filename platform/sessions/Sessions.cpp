@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 
+#include "platform/Sentence.h"
 #include "platform/wayland/WaylandSession.h"
 #include "platform/x11/X11Session.h"
 
@@ -42,13 +43,13 @@ Result<SessionKind> chooseSession(std::string_view name, std::span<const Session
         const auto named = std::find_if(kinds.begin(), kinds.end(),
                                         [&](const SessionKind& kind) { return kind.name == name; });
         if (named == kinds.end()) {
-            return Error{"There is no kind of session called \"" + std::string(name) + "\".",
-                         "Choose one of these: " + namesOf(kinds) + "."};
+            return Error{sentence("Session", "There is no kind of session called \"%1\".").arg(name),
+                         sentence("Session", "Choose one of these: %1.").arg(namesOf(kinds))};
         }
         const auto here = named->check();
         return here ? Result<SessionKind>(*named) : here.error();
     }
-    Error why{"No kind of session is known.", ""};
+    Error why{sentence("Session", "No kind of session is known."), ""};
     for (const SessionKind& kind : kinds) {
         const auto here = kind.check();
         if (here) return kind;

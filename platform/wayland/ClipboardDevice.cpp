@@ -11,6 +11,8 @@
 #include <cerrno>
 #include <utility>
 
+#include "platform/Sentence.h"
+
 namespace wayland {
 
 namespace {
@@ -27,8 +29,9 @@ Result<std::unique_ptr<ClipboardDevice>> ClipboardDevice::open() {
     if (!connection) return connection.error();
     std::unique_ptr<ClipboardDevice> device(new ClipboardDevice(std::move(connection).value()));
     if (device->m_device == nullptr) {
-        return Error{"This compositor gives the clipboard to windows alone.",
-                     "Use a compositor with data control, such as sway, or an X11 session."};
+        return Error{
+            sentence("Clipboard", "This compositor gives the clipboard to windows alone."),
+            sentence("Clipboard", "Use a compositor with data control, such as sway, or an X11 session.")};
     }
     device->listen();
     const auto told = device->m_connection->roundTrip();
@@ -134,7 +137,9 @@ Result<Descriptor> ClipboardDevice::receive() {
     });
     if (m_selection.offer == nullptr || type == textTypes.end()) return Descriptor();
     std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0) return Error{"No more files can be opened.", "Close programs."};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0)
+        return Error{sentence("Clipboard", "No more files can be opened."),
+                     sentence("Clipboard", "Close programs.")};
     Descriptor reader(ends[0]);
     const Descriptor writer(ends[1]);
     zwlr_data_control_offer_v1_receive(m_selection.offer, *type, writer.number());

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/XkbCodes.h"
 #include "platform/keymap/StateComponents.h"
 #include "platform/run/TextPlan.h"
@@ -64,12 +65,14 @@ std::optional<Stroke> PortalTyper::find(char32_t character) const {
 
 Error PortalTyper::cannotType(char32_t character) const {
     if (!m_tools.layouts.canSwitch()) {
-        return {"The character " + nameOf(character) +
-                    " cannot be typed with the keyboard layout that is in force.",
-                "Take it out of the text, or switch to a layout that has it before you play."};
+        return {
+            sentence("Keys", "The character %1 cannot be typed with the keyboard layout that is in force.")
+                .arg(nameOf(character)),
+            sentence("Keys", "Take it out of the text, or switch to a layout that has it before you play.")};
     }
-    return {"The character " + nameOf(character) + " cannot be typed with your keyboard layouts.",
-            "Take it out of the text, or add a layout that has it."};
+    return {sentence("Keys", "The character %1 cannot be typed with your keyboard layouts.")
+                .arg(nameOf(character)),
+            sentence("Keys", "Take it out of the text, or add a layout that has it.")};
 }
 
 Step<Stroke> PortalTyper::strokeFor(char32_t character) {

@@ -5,6 +5,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/keymap/Bindable.h"
 #include "platform/run/TextPlan.h"
 
@@ -52,8 +53,9 @@ Result<void> TextTyper::refuseUntypable(std::span<const char32_t> characters) co
         return !find(character) && (!isBindable(character) || m_slots.capacity() == 0);
     });
     if (untypable == characters.end()) return {};
-    return Error{"The character " + nameOf(*untypable) + " cannot be typed with this keyboard layout.",
-                 "Take it out of the text, or set a layout that has it."};
+    return Error{sentence("Keys", "The character %1 cannot be typed with this keyboard layout.")
+                     .arg(nameOf(*untypable)),
+                 sentence("Keys", "Take it out of the text, or set a layout that has it.")};
 }
 
 /// How many characters from the front can be typed without binding a key twice, and which of them are on no

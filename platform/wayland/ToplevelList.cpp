@@ -7,6 +7,8 @@
 #include <span>
 #include <utility>
 
+#include "platform/Sentence.h"
+
 namespace wayland {
 
 namespace {
@@ -24,8 +26,9 @@ Result<std::unique_ptr<ForeignWindows>> ToplevelList::open() {
     list->m_manager = static_cast<zwlr_foreign_toplevel_manager_v1*>(
         list->m_connection->bind(zwlr_foreign_toplevel_manager_v1_interface, 1));
     if (list->m_manager == nullptr || list->m_connection->seat() == nullptr) {
-        return Error{"This compositor tells nobody of windows.",
-                     "Use a compositor with toplevel management, such as sway, or an X11 session."};
+        return Error{sentence("Windows", "This compositor tells nobody of windows."),
+                     sentence("Windows",
+                              "Use a compositor with toplevel management, such as sway, or an X11 session.")};
     }
     list->listen();
     const auto told = list->m_connection->roundTrip();

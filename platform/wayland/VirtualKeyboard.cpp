@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "platform/Descriptor.h"
+#include "platform/Sentence.h"
 #include "platform/keymap/StateComponents.h"
 
 namespace wayland {
@@ -27,7 +28,7 @@ Descriptor fileWith(const std::string& text) {
     return file;
 }
 
-Error refusedKeymap() { return {"The keymap for typing could not be made.", ""}; }
+Error refusedKeymap() { return {sentence("Keys", "The keymap for typing could not be made."), ""}; }
 
 }  // namespace
 
@@ -36,8 +37,9 @@ Result<std::unique_ptr<VirtualKeyboard>> VirtualKeyboard::make(WaylandConnection
     auto* const manager = static_cast<zwp_virtual_keyboard_manager_v1*>(
         connection.bind(zwp_virtual_keyboard_manager_v1_interface, 1));
     if (manager == nullptr || connection.seat() == nullptr) {
-        return Error{"This compositor lets no program press keys.",
-                     "Use a compositor with virtual keyboards, such as sway, or an X11 session."};
+        return Error{
+            sentence("Keys", "This compositor lets no program press keys."),
+            sentence("Keys", "Use a compositor with virtual keyboards, such as sway, or an X11 session.")};
     }
     return std::unique_ptr<VirtualKeyboard>(new VirtualKeyboard(connection, clock, manager));
 }

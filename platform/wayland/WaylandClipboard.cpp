@@ -16,6 +16,7 @@
 #include <thread>
 
 #include "platform/Descriptor.h"
+#include "platform/Sentence.h"
 #include "platform/wayland/ClipboardDevice.h"
 
 namespace wayland {
@@ -113,7 +114,8 @@ Result<std::string> WaylandClipboard::text() {
         if (size < 0) break;
         if (size == 0) return text;
         text.append(bytes.data(), static_cast<std::size_t>(size));
-        if (text.size() > longestText) return Error{"The text in the clipboard is too long.", ""};
+        if (text.size() > longestText)
+            return Error{sentence("Clipboard", "The text in the clipboard is too long."), ""};
         end = std::chrono::steady_clock::now() + patience;
     }
     // Whoever falls silent in the middle has given no text.

@@ -6,19 +6,24 @@
 #include <algorithm>
 #include <cerrno>
 
+#include "platform/Sentence.h"
+
 namespace wayland {
 
 namespace {
 
-Error lost() { return {"The connection to the compositor was lost.", "Log in again."}; }
+Error lost() {
+    return {sentence("Session", "The connection to the compositor was lost."),
+            sentence("Session", "Log in again.")};
+}
 
 }  // namespace
 
 Result<std::unique_ptr<WaylandConnection>> WaylandConnection::open() {
     wl_display* const display = wl_display_connect(nullptr);
     if (display == nullptr) {
-        return Error{"No Wayland compositor answers at $WAYLAND_DISPLAY.",
-                     "Start the program in a Wayland session."};
+        return Error{sentence("Session", "No Wayland compositor answers at $WAYLAND_DISPLAY."),
+                     sentence("Session", "Start the program in a Wayland session.")};
     }
     std::unique_ptr<WaylandConnection> connection(new WaylandConnection(display));
     const auto listed = connection->roundTrip();

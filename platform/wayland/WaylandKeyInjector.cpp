@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/wayland/WaylandInjectionSession.h"
 
 namespace wayland {
@@ -14,7 +15,8 @@ WaylandKeyInjector::WaylandKeyInjector(WaylandConnection& connection, SeatKeymap
 WaylandKeyInjector::~WaylandKeyInjector() = default;
 
 Result<std::unique_ptr<InjectionSession>> WaylandKeyInjector::open(const InjectionPlan& plan) {
-    if (m_session != nullptr) return Error{"A script is running already.", "Wait for its end."};
+    if (m_session != nullptr)
+        return Error{sentence("Keys", "A script is running already."), sentence("Keys", "Wait for its end.")};
     if (const auto started = start(); !started) return started.error();
     const InjectionTools tools{.watch = m_watch,
                                .clock = m_clock,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/wayland/WaylandKeyboardLayout.h"
 
+#include "platform/Sentence.h"
 #include "platform/keymap/KeyLabels.h"
 #include "platform/wayland/SeatKeymap.h"
 
@@ -15,7 +16,7 @@ Result<std::string> WaylandKeyboardLayout::character(std::uint32_t keyCode, bool
     std::string text = keyText(m_seat.keymap(), m_seat.group(), keyCode,
                                (shift ? masks.shift : 0) | (option ? masks.option : 0));
     if (!text.empty()) return text;
-    return Error{"The key " + keyName(keyCode) + " types no character.", ""};
+    return Error{sentence("Keys", "The key %1 types no character.").arg(keyName(keyCode)), ""};
 }
 
 std::string WaylandKeyboardLayout::typed(std::uint32_t keyCode, bool shift) const {

@@ -3,10 +3,13 @@
 
 #include <string>
 
+#include "platform/Sentence.h"
+
 namespace wayland {
 
 Result<void> WaylandScriptDesktop::beep(int /*count*/) {
-    return Error{"A Wayland session has no bell.", "Take the beep out of the script."};
+    return Error{sentence("Keys", "A Wayland session has no bell."),
+                 sentence("Keys", "Take the beep out of the script.")};
 }
 
 bool WaylandScriptDesktop::hasApplication(std::string_view name) {
@@ -36,7 +39,8 @@ Result<void> WaylandScriptDesktop::activate(std::string_view name) {
     const std::vector<ForeignWindow> windows = opened.value()->windows();
     const std::size_t place = foreignwindows::find(windows, name);
     if (place == windows.size()) {
-        return Error{"No window of “" + std::string(name) + "” is open.", "Start it first."};
+        return Error{sentence("Windows", "No window of “%1” is open.").arg(name),
+                     sentence("Windows", "Start it first.")};
     }
     return opened.value()->activate(place);
 }

@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/desktops/KWinWindows.h"
 #include "platform/desktops/PortalLink.h"
 #include "platform/desktops/SwayDesktop.h"
@@ -45,13 +46,13 @@ std::string environment(const char* name) {
 }
 
 Error noMonitor() {
-    return {"A Wayland session shows this program nothing of what is typed in others.",
-            "Record with keyrill itself, or use an X11 session."};
+    return {sentence("Keyboards", "A Wayland session shows this program nothing of what is typed in others."),
+            sentence("Keyboards", "Record with keyrill itself, or use an X11 session.")};
 }
 
 Error noHotKeys() {
-    return {"This compositor gives no hot keys to programs.",
-            "Bind keys to commands in the compositor's own settings."};
+    return {sentence("HotKeys", "This compositor gives no hot keys to programs."),
+            sentence("HotKeys", "Bind keys to commands in the compositor's own settings.")};
 }
 
 Result<void> checkKeys(const WaylandConnection& connection) {
@@ -59,13 +60,15 @@ Result<void> checkKeys(const WaylandConnection& connection) {
     const DesktopServices desktop(connection);
     if (desktop.pressesByPortal()) return {};
     if (desktop.isKde()) {
-        return Error{"KDE lets no program press keys: its portal does not answer.",
-                     "Install xdg-desktop-portal-kde, or use an X11 session."};
+        return Error{sentence("Keys", "KDE lets no program press keys: its portal does not answer."),
+                     sentence("Keys", "Install xdg-desktop-portal-kde, or use an X11 session.")};
     }
     return Error{
-        "This compositor lets no program press keys.",
-        "Use a compositor with virtual keyboards, such as sway, a desktop whose portal presses keys, "
-        "such as KDE and GNOME, or an X11 session."};
+        sentence("Keys", "This compositor lets no program press keys."),
+        sentence(
+            "Keys",
+            "Use a compositor with virtual keyboards, such as sway, a desktop whose portal presses keys, "
+            "such as KDE and GNOME, or an X11 session.")};
 }
 
 std::unique_ptr<SwayDesktop> openSway() {
@@ -92,7 +95,7 @@ evdev::RepeatRule ruleOf(const SeatKeymap::Repeat& repeat) {
 class NoGrabs final : public KeyGrabber {
   public:
     std::optional<std::string> grab(const KeyGrab& /*grab*/, const HotKeyRequest& /*request*/) override {
-        return "this compositor gives no hot keys to programs";
+        return sentence("HotKeys", "this compositor gives no hot keys to programs");
     }
     void release(const KeyGrab& /*grab*/) override {}
 };
@@ -131,7 +134,8 @@ class WaylandSession final : public Session {
         });
     }
     Result<void> connection() const override {
-        if (m_connection->isBroken()) return Error{"The Wayland compositor is gone.", ""};
+        if (m_connection->isBroken())
+            return Error{sentence("Session", "The Wayland compositor is gone."), ""};
         return {};
     }
 
@@ -233,8 +237,8 @@ class WaylandSession final : public Session {
 
 Result<void> checkDisplay() {
     if (environment("WAYLAND_DISPLAY").empty()) {
-        return Error{"$WAYLAND_DISPLAY names no Wayland compositor.",
-                     "Start the program in a Wayland session."};
+        return Error{sentence("Session", "$WAYLAND_DISPLAY names no Wayland compositor."),
+                     sentence("Session", "Start the program in a Wayland session.")};
     }
     const auto connection = WaylandConnection::open();
     return connection ? checkKeys(*connection.value()) : connection.error();

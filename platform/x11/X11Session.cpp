@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/none/NoDockingTray.h"
 #include "platform/none/NoKeys.h"
 #include "platform/none/NoLayers.h"
@@ -83,7 +84,8 @@ class X11Session final : public Session {
         if (m_keys) m_keys->eventManager->endPlaysWhen(std::move(endsPlays));
     }
     Result<void> connection() const override {
-        if (m_keys && m_keys->eventManager->isBroken()) return Error{"The X server is gone.", ""};
+        if (m_keys && m_keys->eventManager->isBroken())
+            return Error{sentence("Session", "The X server is gone."), ""};
         return {};
     }
 
@@ -167,9 +169,11 @@ Result<void> checkDisplay() {
     const X11SessionCheck::Session session = X11SessionCheck::sessionOfProcess();
     if (session.display.empty() && !session.waylandDisplay.empty()) {
         return Error{
-            "This is a Wayland session without an X server.",
-            "Install Xwayland, or switch it on in the desktop's settings, and log in again; or choose "
-            "an X11 session when you log in."};
+            sentence("Session", "This is a Wayland session without an X server."),
+            sentence(
+                "Session",
+                "Install Xwayland, or switch it on in the desktop's settings, and log in again; or choose "
+                "an X11 session when you log in.")};
     }
     const auto connection = XConnection::open();
     return connection ? Result<void>() : connection.error();

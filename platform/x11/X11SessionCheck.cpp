@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <sstream>
 
+#include "platform/Sentence.h"
 #include "platform/none/NoCapabilities.h"
 #include "platform/x11/press/X11KeyInjector.h"
 #include "platform/x11/server/Extensions.h"
@@ -86,10 +87,12 @@ X11SessionCheck::Session X11SessionCheck::sessionOfProcess() {
 Result<> X11SessionCheck::version() const {
     if (m_worksAlready) return {};
     if (m_session.display.empty()) {
-        return Error{m_session.waylandDisplay.empty()
-                         ? "An X11 session is needed, and this is no desktop session."
-                         : "An X11 session is needed, and this is a Wayland session without an X server.",
-                     "Choose an X11 session when you log in."};
+        return Error{
+            m_session.waylandDisplay.empty()
+                ? sentence("Session", "An X11 session is needed, and this is no desktop session.")
+                : sentence("Session",
+                           "An X11 session is needed, and this is a Wayland session without an X server."),
+            sentence("Session", "Choose an X11 session when you log in.")};
     }
     const Result<XConnection> connection = XConnection::open(m_session.display);
     if (!connection) return connection.error();

@@ -13,13 +13,14 @@ namespace {
 /// The program at a server that lets nobody press keys; its user has a real keyboard.
 class AlertTest : public testing::Test {
   protected:
-    explicit AlertTest(const std::string& language = "C") {
+    explicit AlertTest(const std::string& language = "C",
+                       const char* title = "The X server must have the XTEST extension, but it has not.") {
         desktop.startWindowManager();
         putBrowser();
         desktop.setEnvironment("LANGUAGE", language);
         // Nobody's hot key tells here that the program is ready.
         program.emplace(std::vector<std::string>{programs::keyrill}, desktop.options("product.log"));
-        desktop.awaitFocus("The X server must have the XTEST extension, but it has not.");
+        desktop.awaitFocus(title);
     }
 
     /// What opens pages here writes down what it was given.
@@ -63,7 +64,8 @@ TEST_F(AlertTest, theDocumentationIsOpenedAndThenTheProgramEnds) {
 
 class GermanAlertTest : public AlertTest {
   protected:
-    GermanAlertTest() : AlertTest("de") {}
+    GermanAlertTest()
+        : AlertTest("de", "Der X-Server muss die Erweiterung XTEST haben, hat sie aber nicht.") {}
 };
 
 TEST_F(GermanAlertTest, theDocumentationIsInTheLanguageOfTheDesktop) {

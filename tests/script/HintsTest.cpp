@@ -3,6 +3,7 @@
 // What errors say beside the language's own words.
 #include <gtest/gtest.h>
 
+#include "platform/Sentence.h"
 #include "script/SourceRow.h"
 #include "script/Traced.h"
 
@@ -10,9 +11,24 @@ namespace {
 
 using Row = SourceRow;
 
-class HintsTest : public testing::TestWithParam<Row> {};
+std::string translated(const char* context, const char* english) {
+    return std::string(context) + ": " + english;
+}
+
+class HintsTest : public testing::TestWithParam<Row> {
+  protected:
+    ~HintsTest() override { translateSentencesBy(nullptr); }
+};
 
 TEST_P(HintsTest, helpsWithAUsualSlip) { EXPECT_EQ(traced(GetParam().source).error.hint, GetParam().result); }
+
+TEST_P(HintsTest, saysItInTheLanguageOfTheUserAndLeavesTheMessageToScripts) {
+    const std::string message = traced(GetParam().source).error.message;
+    translateSentencesBy(translated);
+    const script::ScriptError error = traced(GetParam().source).error;
+    EXPECT_EQ(error.message, message);
+    EXPECT_EQ(error.hint, GetParam().result.empty() ? "" : "Hints: " + GetParam().result);
+}
 
 INSTANTIATE_TEST_SUITE_P(
     Slips, HintsTest,
@@ -23,6 +39,8 @@ INSTANTIATE_TEST_SUITE_P(
             "The block that begins in line 2 has no “end” of its own."},
         Row{"a forgotten end at the end", "if true then\nrepeat\nend repeat\n",
             "The block that begins in line 1 has no “end” of its own."},
+        Row{"an end of another block", "repeat\nend tell\nend repeat",
+            "No “tell” is open here; a “tell … to” in one line has no “end tell”."},
         Row{"keystroke outside", R"(keystroke "a")",
             R"(The keyboard commands stand inside “tell application "System Events"” … “end tell”.)"},
         Row{"key code outside", "\tkey code 5",
@@ -43,5 +61,29 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"a sign that ends texts elsewhere", std::string("delay \0", 7),
             "A sign that nobody sees stands here; delete it."},
         Row{"nothing to say", R"(error "x")", ""}));
+
+class WarningsTest : public testing::Test {
+  protected:
+    WarningsTest() { translateSentencesBy(translated); }
+    ~WarningsTest() override { translateSentencesBy(nullptr); }
+};
+
+TEST_F(WarningsTest, areInTheLanguageOfTheUser) {
+    EXPECT_EQ(
+        traced("delay 5000").warnings,
+        std::vector<std::string>{"1:7 Warnings: “delay” counts seconds; 5000 milliseconds are: delay 5.0."});
+}
+
+TEST_F(WarningsTest, ofANameThatIsNeverSetSayWhatWasMeant) {
+    const Traced run = traced("log hullo");
+    EXPECT_EQ(run.warnings, std::vector<std::string>{
+                                "1:5 Warnings: The variable hullo is never set. Hints: Text stands between "
+                                "straight quotes: \"hullo\"."});
+    EXPECT_EQ(run.error.message, "The variable hullo is not defined.");
+    EXPECT_EQ(
+        run.error.hint,
+        "Hints: A variable is set before it is used: set hullo to … Text stands between straight quotes: "
+        "\"hullo\".");
+}
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/linux/BusConnection.h"
 
 namespace evdev {
@@ -21,9 +22,17 @@ constexpr const char* face = "example.orlen.Keyrill.Access1";
 constexpr const char* theBus = "org.freedesktop.DBus";
 constexpr const char* theBusObject = "/org/freedesktop/DBus";
 
-const Error noBus{"The keyboard cannot be read: there is no system bus.", ""};
-const Error serviceGone{"The keyboard is no longer read: the service keyrill-access has ended.",
-                        "What it says stands in the system's journal: journalctl -u keyrill-access."};
+Error noBus() { return {sentence("Keyboards", "The keyboard cannot be read: there is no system bus."), ""}; }
+
+Sentence whereItSpeaks() {
+    return sentence("Keyboards",
+                    "What it says stands in the system's journal: journalctl -u keyrill-access.");
+}
+
+Error serviceGone() {
+    return {sentence("Keyboards", "The keyboard is no longer read: the service keyrill-access has ended."),
+            whereItSpeaks()};
+}
 
 /// Whether a list of names that the bus gives has that of the service.
 bool hasService(GDBusConnection* bus, const char* list) {
@@ -44,17 +53,20 @@ Error errorFor(const GError& failure) {
     const GText name(g_dbus_error_get_remote_error(&failure));
     const std::string word = name ? name.get() : "";
     if (word == "org.freedesktop.DBus.Error.AccessDenied") {
-        return {"Keyrill may not read the keyboard: permission was not given.",
-                "Record again and agree when you are asked for your password."};
+        return {sentence("Keyboards", "Keyrill may not read the keyboard: permission was not given."),
+                sentence("Keyboards", "Record again and agree when you are asked for your password.")};
     }
     if (word == "org.freedesktop.DBus.Error.ServiceUnknown" ||
         word == "org.freedesktop.DBus.Error.NameHasNoOwner") {
-        return {
-            "Keyrill cannot read the keyboard: the service keyrill-access is not installed.",
-            "Install the package keyrill-wayland-access or, from Keyrill's sources, tools/access install."};
+        return {sentence("Keyboards",
+                         "Keyrill cannot read the keyboard: the service keyrill-access is not installed."),
+                sentence("Keyboards",
+                         "Install the package keyrill-wayland-access or, from Keyrill's sources, "
+                         "tools/access install.")};
     }
-    return {"Keyrill cannot read the keyboard: the service keyrill-access does not work.",
-            "What it says stands in the system's journal: journalctl -u keyrill-access."};
+    return {
+        sentence("Keyboards", "Keyrill cannot read the keyboard: the service keyrill-access does not work."),
+        whereItSpeaks()};
 }
 
 std::vector<OpenedDevice> devicesOf(GVariant* answer, GUnixFDList* descriptors) {
@@ -122,11 +134,11 @@ void AccessOpener::open(const std::set<std::string>& /*held*/, Question question
                 if (m_opened) ask();
             },
             [this] {
-                lose(serviceGone);
-                fail(noBus);
+                lose(serviceGone());
+                fail(noBus());
             });
         m_loop.wake();
-        if (!m_bus->isOpening()) fail(noBus);
+        if (!m_bus->isOpening()) fail(noBus());
     } else if (m_call != nullptr) {
         // The service takes one question at a time.
         m_asksAgain = true;
@@ -174,7 +186,7 @@ void AccessOpener::watchService() {
             const char* owner = nullptr;
             if (g_variant_is_of_type(parameters, G_VARIANT_TYPE("(sss)")) == FALSE) return;
             g_variant_get(parameters, "(&s&s&s)", nullptr, nullptr, &owner);
-            if (*owner == '\0') lose(serviceGone);
+            if (*owner == '\0') lose(serviceGone());
         },
         service);
 }

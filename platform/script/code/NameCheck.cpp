@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/script/commands/Advice.h"
 #include "platform/script/source/Misspelling.h"
 #include "platform/script/syntax/Misspelt.h"
@@ -58,16 +59,16 @@ void NameCheck::suspect(NameId name, const VariableUse& use, const std::vector<N
         return;
     }
     const std::string meant = slipOf(name, use.role, known);
-    const std::string advice = meant.empty() ? meantBy(called, use.role) : meant;
-    m_suspects.push_back({use.offset, neverSet(called) + advice});
-    const bool isPlain = meant.empty() && advice == meantBy(called, NameRole::value);
-    if (!isPlain || use.role == NameRole::text) m_out.code().advice.emplace(name, advice);
+    const std::string advice = meant.empty() ? quotesAdvice(called) : meant;
+    m_suspects.push_back({use.offset, neverSetAdvice(called, advice)});
+    if (!meant.empty() || use.role == NameRole::text) m_out.code().advice.emplace(name, advice);
 }
 
-/// Which slip has led to the name; empty if none is known.
+/// Which slip has led to the name; empty if none is known, so that it may be a text without quotes.
 std::string NameCheck::slipOf(NameId name, NameRole role, const std::vector<NameId>& known) const {
     const std::string& called = spelling(name);
-    if (m_handlers.contains(name)) return "A handler is called with parentheses: " + called + "().";
+    if (m_handlers.contains(name))
+        return sentence("Hints", "A handler is called with parentheses: %1().").arg(called);
     if (isSetByRun(name)) return sharingAdvice(called);
     std::vector<NameId> all = known;
     const std::vector<NameId>& shared = m_out.script().names();
@@ -79,7 +80,7 @@ std::string NameCheck::slipOf(NameId name, NameRole role, const std::vector<Name
     if (!foreign.empty()) return foreign;
     const std::string word = wordLike(called, placeOf(role));
     if (!word.empty()) return didYouMean(word);
-    return role == NameRole::program ? programAdvice(called) : "";
+    return role == NameRole::program ? programAdvice(called) : meantBy(called, role);
 }
 
 /// The nearest name, if it is near enough for a slip.

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/KeyCodes.h"
+#include "platform/Sentence.h"
 #include "platform/script/commands/KeyTable.h"
 #include "platform/script/values/ModifierWords.h"
 #include "platform/script/values/SourceForm.h"
@@ -56,36 +57,39 @@ std::optional<int> codeOfLetter(std::string_view name) {
     return std::nullopt;
 }
 
-std::string keyAdvice(int code) { return "The key has a number: key code " + std::to_string(code) + "."; }
+std::string keyAdvice(int code) {
+    return sentence("Hints", "The key has a number: key code %1.").arg(std::to_string(code));
+}
 
 /// Of a key in the midst of what is typed.
 std::string joinedKeyAdvice(int code) {
-    if (code == 36) return "Return is joined to a text so: \"hello\" & return.";
-    if (code == 48) return "Tab is joined to a text so: \"hello\" & tab.";
+    if (code == 36) return sentence("Hints", "Return is joined to a text so: \"hello\" & return.");
+    if (code == 48) return sentence("Hints", "Tab is joined to a text so: \"hello\" & tab.");
     return keyAdvice(code);
 }
 
 /// What other languages say, in lower case, and how it is said here.
 struct ForeignWord {
     std::string_view word;
-    std::string_view advice;
+    const char* advice;
 };
 
-constexpr std::string_view asking =
-    R"(A question is asked with: text returned of (display dialog "Name?" default answer "").)";
-constexpr std::string_view choosing = "A number by chance is: random number from 1 to 10.";
-constexpr std::string_view leaving = "A loop is left with “exit repeat”, the script with “return”.";
-constexpr std::string_view typing = "Text is typed with “keystroke”: keystroke \"hello\".";
-constexpr std::string_view pausing = "A pause is written in seconds: delay 2.";
-constexpr std::string_view catching = "Errors are caught with: try … on error … end try.";
-constexpr std::string_view importing =
-    "Nothing is imported; the commands are there from the start: delay 2, keystroke \"hello\".";
-constexpr std::string_view printing =
-    "A value is printed with: log \"x\". Text is typed with “keystroke”: keystroke \"hello\".";
-constexpr std::string_view telling = "A message is shown with: display dialog \"hello\".";
-constexpr std::string_view missing = "What has no value is written: missing value.";
-constexpr std::string_view raising =
-    "A window is brought to the front with: tell application \"Firefox\" to activate.";
+constexpr const char* asking = englishOf(
+    "Hints", R"(A question is asked with: text returned of (display dialog "Name?" default answer "").)");
+constexpr const char* choosing = englishOf("Hints", "A number by chance is: random number from 1 to 10.");
+constexpr const char* leaving =
+    englishOf("Hints", "A loop is left with “exit repeat”, the script with “return”.");
+constexpr const char* typing = englishOf("Hints", "Text is typed with “keystroke”: keystroke \"hello\".");
+constexpr const char* pausing = englishOf("Hints", "A pause is written in seconds: delay 2.");
+constexpr const char* catching = englishOf("Hints", "Errors are caught with: try … on error … end try.");
+constexpr const char* importing = englishOf(
+    "Hints", "Nothing is imported; the commands are there from the start: delay 2, keystroke \"hello\".");
+constexpr const char* printing = englishOf(
+    "Hints", "A value is printed with: log \"x\". Text is typed with “keystroke”: keystroke \"hello\".");
+constexpr const char* telling = englishOf("Hints", "A message is shown with: display dialog \"hello\".");
+constexpr const char* missing = englishOf("Hints", "What has no value is written: missing value.");
+constexpr const char* raising =
+    englishOf("Hints", "A window is brought to the front with: tell application \"Firefox\" to activate.");
 
 constexpr auto foreignWords = std::to_array<ForeignWord>(
     {{"input", asking},         {"ask", asking},         {"prompt", asking},     {"random", choosing},
@@ -127,10 +131,9 @@ std::string_view modifierOf(std::string_view name) {
     return row == names.end() ? "" : row->second;
 }
 
-std::string inQuotes(std::string_view name) { return "\"" + std::string(name) + "\""; }
-
 std::string wholeKeyAdvice(int code) {
-    return "This is typed as it stands; the key has a number: key code " + std::to_string(code) + ".";
+    return sentence("Warnings", "This is typed as it stands; the key has a number: key code %1.")
+        .arg(std::to_string(code));
 }
 
 /// The code of a key whose name is the whole text: "F5", "<Tab>". The elements of web pages are none.
@@ -149,8 +152,10 @@ std::string keyInBracesAdvice(std::string_view text, bool isFirst) {
     const std::optional<int> code = codeOfWord(text.substr(1, close - 1));
     if (!code) return "";
     if (!isFirst || close + 1 < text.size()) {
-        return "“" + std::string(text.substr(0, close + 1)) + "” is typed as it stands. " +
-               joinedKeyAdvice(*code);
+        //: %1 is the name of a key in braces, %2 a sentence that says how the key is written.
+        return sentence("Warnings", "“%1” is typed as it stands. %2")
+            .arg(text.substr(0, close + 1))
+            .arg(joinedKeyAdvice(*code));
     }
     return wholeKeyAdvice(*code);
 }
@@ -160,28 +165,34 @@ std::string keyInBracesAdvice(std::string_view text, bool isFirst) {
 std::string codeAdvice(std::int64_t code) {
     constexpr std::int64_t largest = 65535;
     if (code < 0 || code > largest) {
-        return "A key code lies between 0 and " + std::to_string(largest) +
-               "; “keyrill-script keys” prints those that keys have.";
+        return sentence(
+                   "Hints",
+                   "A key code lies between 0 and %1; “keyrill-script keys” prints those that keys have.")
+            .arg(std::to_string(largest));
     }
     const auto key = static_cast<std::uint32_t>(code);
     if (keycode::isExtension(key)) {
-        return "Key code " + std::to_string(code) + " is an extension, which only Keyrill plays.";
+        return sentence("Warnings", "Key code %1 is an extension, which only Keyrill plays.")
+            .arg(std::to_string(code));
     }
     if (keycode::baseOf(key) == keycode::power || keycode::evdevFor(key)) return "";
     return noKeyAdvice(key);
 }
 
 std::string noKeyAdvice(std::uint32_t code) {
-    return "Key code " + std::to_string(code) + " has no key; nothing is pressed.";
+    return sentence("Warnings", "Key code %1 has no key; nothing is pressed.").arg(std::to_string(code));
 }
 
-std::string noCodeAdvice() { return "A key code is a number; a text is typed with “keystroke”."; }
+std::string noCodeAdvice() {
+    return sentence("Hints", "A key code is a number; a text is typed with “keystroke”.");
+}
 
 std::string noCodeAdvice(std::string_view text) {
     const std::optional<int> typed = codeOfCharacter(text);
     const std::optional<int> code = typed ? typed : codeOfWord(text);
     if (!code) return noCodeAdvice();
-    return "The key has a number: key code " + std::to_string(*code) + "; “keyrill-script keys” prints all.";
+    return sentence("Hints", "The key has a number: key code %1; “keyrill-script keys” prints all.")
+        .arg(std::to_string(*code));
 }
 
 std::string keyNameAdvice(std::string_view name) {
@@ -190,71 +201,82 @@ std::string keyNameAdvice(std::string_view name) {
 }
 
 std::string datePartAdvice() {
-    return "The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.";
+    return sentence("Hints",
+                    "The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.");
 }
 
-std::string didYouMean(std::string_view word) { return "Did you mean " + std::string(word) + "?"; }
+std::string didYouMean(std::string_view word) { return sentence("Hints", "Did you mean %1?").arg(word); }
 
 std::string pauseAdvice(std::string_view text) {
     const bool isDecimal = text.find(',') != std::string_view::npos &&
                            text.find_first_not_of("0123456789, ") == std::string_view::npos;
-    return isDecimal ? "Decimals stand behind a point: delay 0.5." : "“delay” counts seconds: delay 0.5.";
+    return isDecimal ? sentence("Hints", "Decimals stand behind a point: delay 0.5.")
+                     : sentence("Hints", "“delay” counts seconds: delay 0.5.");
 }
 
 std::string recordAdvice() {
-    return "A dialog gives a record; what was typed there is taken with: text returned of n.";
+    return sentence("Hints",
+                    "A dialog gives a record; what was typed there is taken with: text returned of n.");
 }
 
 std::string heldAdvice(Held held, std::string_view name) {
-    const std::string called(name);
     switch (held) {
         case Held::dialog:
-            return "A dialog gives a record and no text; take: button returned of " + called +
-                   ", or text returned of " + called + ".";
+            return sentence("Warnings",
+                            "A dialog gives a record and no text; take: button returned of %1, or text "
+                            "returned of %1.")
+                .arg(name);
         case Held::alert:
-            return "An alert gives a record and no text; take: button returned of " + called + ".";
+            return sentence("Warnings", "An alert gives a record and no text; take: button returned of %1.")
+                .arg(name);
         case Held::chosen:
-            return "What was chosen comes in a list; take: item 1 of " + called + ".";
+            return sentence("Warnings", "What was chosen comes in a list; take: item 1 of %1.").arg(name);
         case Held::item:
-            return "The loop gives a reference, which equals no text; compare: contents of " + called + ".";
+            return sentence("Warnings",
+                            "The loop gives a reference, which equals no text; compare: contents of %1.")
+                .arg(name);
         default:
             return "";
     }
 }
 
 std::string modifierAdvice(const Modifier& modifier) {
-    const std::string name = constantText(modifier);
-    return "“" + name + "” is taken as “" + name + " down”.";
+    //: %1 is the name of a modifier, "shift".
+    return sentence("Warnings", "“%1” is taken as “%1 down”.").arg(constantText(modifier));
 }
 
 std::string quotedModifierAdvice(std::string_view text) {
     const std::string given = asciiLowered(text.substr(0, text.find(' ')));
     const auto* row = std::find_if(modifierWords.begin(), modifierWords.end(),
                                    [&](const ModifierWord& word) { return spellingOf(word.word) == given; });
-    return row == modifierWords.end() ? "" : "A modifier stands without quotes: using " + given + " down.";
+    if (row == modifierWords.end()) return "";
+    //: %1 is the name of a modifier, "shift".
+    return sentence("Hints", "A modifier stands without quotes: using %1 down.").arg(given);
 }
 
 std::string joinedModifiersAdvice() {
-    return "Several modifiers stand in braces: using {control down, shift down}.";
+    return sentence("Hints", "Several modifiers stand in braces: using {control down, shift down}.");
 }
 
-std::string joinedTextsAdvice() { return "Texts are joined with “&”: \"one\" & \"two\"."; }
+std::string joinedTextsAdvice() { return sentence("Hints", "Texts are joined with “&”: \"one\" & \"two\"."); }
 
 std::string swallowedAdvice(std::string_view command, std::string_view operation) {
-    const std::string name(command);
-    const std::string sign(operation);
-    return "“" + sign + "” belongs to what “" + name + "” is given; put parentheses round the command: (" +
-           name + " …) " + sign + " ….";
+    //: %1 is an operator, ">", %2 a command, "count".
+    return sentence("Warnings",
+                    "“%1” belongs to what “%2” is given; put parentheses round the command: (%2 …) %1 ….")
+        .arg(operation)
+        .arg(command);
 }
 
 std::string millisecondsAdvice(std::uint32_t count) {
-    return "“delay” counts seconds; " + std::to_string(count) + " milliseconds are: delay " +
-           realText(count / 1000.0) + ".";
+    return sentence("Warnings", "“delay” counts seconds; %1 milliseconds are: delay %2.")
+        .arg(std::to_string(count))
+        .arg(realText(count / 1000.0));
 }
 
 std::string comparisonAdvice(std::string_view name) {
-    return "This compares and changes nothing; a variable is set with “to”: set " +
-           std::string(name.empty() ? "x" : name) + " to …";
+    return sentence("Hints", "This compares and changes nothing; a variable is set with “to”: set %1 to …")
+        .arg(name.empty() ? "x" : name);
 }
 
 std::string typedNameAdvice(std::string_view text) {
@@ -265,57 +287,77 @@ std::string typedNameAdvice(std::string_view text) {
     if (sign == std::string_view::npos || sign + 2 != text.size()) return "";
     const std::string_view modifier = modifierOf(text.substr(0, sign));
     if (modifier.empty()) return "";
-    return "This is typed as it stands; a shortcut is written: keystroke " + inQuotes(text.substr(sign + 1)) +
-           " using " + std::string(modifier) + " down.";
+    //: %1 is a letter, %2 the name of a modifier, "control".
+    return sentence("Warnings",
+                    "This is typed as it stands; a shortcut is written: keystroke \"%1\" using %2 down.")
+        .arg(text.substr(sign + 1))
+        .arg(modifier);
 }
 
-std::string heldModifierAdvice() { return "A modifier is held with: key down shift, without quotes."; }
+std::string heldModifierAdvice() {
+    return sentence("Warnings", "A modifier is held with: key down shift, without quotes.");
+}
 
 std::string noHandlerAdvice(std::string_view name) {
     std::string foreign = foreignWordAdvice(name);
     if (!foreign.empty()) return foreign;
-    return "The script has no handler of that name: on " + std::string(name) + "(…) … end " +
-           std::string(name) + ".";
+    return sentence("Hints", "The script has no handler of that name: on %1(…) … end %1.").arg(name);
 }
 
 std::string programAdvice(std::string_view command) {
     const ForeignWord* row = foreignWord(command);
-    if (row != nullptr && row->advice == raising) return std::string(raising);
-    return "No program takes a command but “activate”; press its keys: tell application \"System Events\" to "
-           "keystroke \"q\" using control down.";
+    if (row != nullptr && row->advice == std::string_view(raising)) return sentence("Hints", raising);
+    return sentence("Hints",
+                    "No program takes a command but “activate”; press its keys: tell application \"System "
+                    "Events\" to keystroke \"q\" using control down.");
 }
 
 std::string foreignWordAdvice(std::string_view name) {
-    if (const std::string_view modifier = modifierOf(name); !modifier.empty()) {
-        return "The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using " +
-               std::string(modifier) + " down.";
-    }
+    if (const std::string_view modifier = modifierOf(name); !modifier.empty())
+        return modifierNameAdvice(modifier);
     const ForeignWord* row = foreignWord(name);
-    return row == nullptr ? "" : std::string(row->advice);
+    if (row == nullptr) return "";
+    return sentence("Hints", row->advice);
 }
 
-std::string neverSet(std::string_view name) {
-    return "The variable " + std::string(name) + " is never set. ";
+std::string modifierNameAdvice(std::string_view modifier) {
+    //: %1 is the name of a modifier, "control".
+    return sentence("Hints",
+                    "The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using "
+                    "%1 down.")
+        .arg(modifier);
+}
+
+std::string neverSetAdvice(std::string_view name, std::string_view meant) {
+    //: %2 is a sentence that says what may have been meant.
+    return sentence("Warnings", "The variable %1 is never set. %2").arg(name).arg(meant);
 }
 
 std::string meantBy(std::string_view name, NameRole role) {
-    if (role == NameRole::application) return "An application is named: application " + inQuotes(name) + ".";
+    if (role == NameRole::application)
+        return sentence("Hints", "An application is named: application \"%1\".").arg(name);
     const bool isJoined = role == NameRole::joinedText;
     const bool isTyped = isJoined || role == NameRole::keyCode || role == NameRole::text;
     std::optional<int> code = isTyped ? codeOfWord(name) : std::nullopt;
     if (role == NameRole::keyCode && !code) code = codeOfLetter(name);
-    if (code) return isJoined ? joinedKeyAdvice(*code) : keyAdvice(*code);
-    return "Text stands between straight quotes: " + inQuotes(name) + ".";
+    if (!code) return "";
+    return isJoined ? joinedKeyAdvice(*code) : keyAdvice(*code);
+}
+
+std::string quotesAdvice(std::string_view words) {
+    return sentence("Hints", "Text stands between straight quotes: \"%1\".").arg(words);
 }
 
 std::string sharingAdvice(std::string_view name) {
-    return "A handler has variables of its own; to share this one write there: global " + std::string(name) +
-           ".";
+    return sentence("Hints", "A handler has variables of its own; to share this one write there: global %1.")
+        .arg(name);
 }
 
 std::string undefinedHint(std::string_view name) {
-    return "A variable is set before it is used: set " + std::string(name) +
-           " to … Text stands between straight quotes: " + inQuotes(name) + ".";
+    return sentence("Hints",
+                    "A variable is set before it is used: set %1 to … Text stands between straight quotes: "
+                    "\"%1\".")
+        .arg(name);
 }
 
 }  // namespace script

@@ -6,9 +6,11 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Sentence.h"
 #include "platform/script/values/Value.h"
 
-/// The words of warnings and hints, which the compiler and the run share.
+/// The words of warnings and hints, which the compiler and the run share, in the language of the user. The
+/// script's own words and the names of its variables are the same in all languages.
 namespace script {
 
 /// What there is to say about a key code: only this program plays it, no key has it, or none can. Empty for
@@ -25,12 +27,13 @@ std::string noCodeAdvice();
 std::string noCodeAdvice(std::string_view text);
 
 /// Of what presses keys in other languages.
-inline constexpr std::string_view pressingAdvice =
-    "A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.";
+inline constexpr const char* pressingAdvice = englishOf(
+    "Hints",
+    "A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.");
 
 /// Of today's date in the words of other languages.
-inline constexpr std::string_view datingAdvice =
-    "The date of today is “current date”; as a text: short date string of (current date).";
+inline constexpr const char* datingAdvice = englishOf(
+    "Hints", "The date of today is “current date”; as a text: short date string of (current date).");
 
 /// Of the name of a key in the place of its number; empty for all other names.
 std::string keyNameAdvice(std::string_view name);
@@ -80,8 +83,11 @@ std::string millisecondsAdvice(std::uint32_t count);
 /// Of a comparison whose answer nobody takes. The name is empty where none is compared.
 std::string comparisonAdvice(std::string_view name);
 
-/// "The variable NAME is never set. "
-std::string neverSet(std::string_view name);
+/// Of the name of a modifier elsewhere, in the place of its name here.
+std::string modifierNameAdvice(std::string_view modifier);
+
+/// Of a variable that is read and never set, with a sentence about what was meant.
+std::string neverSetAdvice(std::string_view name, std::string_view meant);
 
 /// Of a variable that a handler does not share with what runs.
 std::string sharingAdvice(std::string_view name);
@@ -114,8 +120,12 @@ enum class NameRole : std::uint8_t {
     compared,     ///< what `=` compares it with, where nobody takes the answer
 };
 
-/// What a name was meant to be that is never set, where a value of that role belongs.
+/// What a name was meant to be that is never set, where a value of that role belongs; empty where it is a
+/// text without quotes.
 std::string meantBy(std::string_view name, NameRole role);
+
+/// Of words without quotes that are a text.
+std::string quotesAdvice(std::string_view words);
 
 /// Of a variable without a value, where a script reads it.
 std::string undefinedHint(std::string_view name);

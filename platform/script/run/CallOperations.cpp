@@ -3,6 +3,7 @@
 // Operations that call handlers and commands.
 #include <algorithm>
 
+#include "platform/Sentence.h"
 #include "platform/script/commands/Advice.h"
 #include "platform/script/commands/Command.h"
 #include "platform/script/run/Execution.h"
@@ -66,8 +67,11 @@ Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) 
     const std::string prefix = body != nullptr && !isScript ? speaker + " got an error: " : "";
     Failure failure{errornumber::notUnderstood,
                     prefix + quotedForm(target) + " doesn’t understand the “" + name + "” message."};
-    if (isOwn)
-        failure.hint = "Inside “tell” the script’s own handlers are called with “my”: my " + name + "(…).";
+    if (isOwn) {
+        failure.hint =
+            sentence("Hints", "Inside “tell” the script’s own handlers are called with “my”: my %1(…).")
+                .arg(name);
+    }
     if (isScript) failure.hint = noHandlerAdvice(name);
     return failure;
 }

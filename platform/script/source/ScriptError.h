@@ -39,10 +39,11 @@ inline constexpr int cannotSet = -10006;
 /// Why a script does not compile, or where its run ended.
 struct ScriptError {
     int number = 0;
-    /// One sentence, UTF-8, in the words of AppleScript where it has words for the case.
+    /// One sentence, UTF-8, in the words of AppleScript where it has words for the case: English, whatever
+    /// the user speaks, as scripts read it and compare it.
     std::string message;
     Location location;
-    /// What to do about it, one sentence; empty if nothing is known.
+    /// What to do about it, one sentence in the language of the user; empty if nothing is known.
     std::string hint = {};
 
     friend bool operator==(const ScriptError&, const ScriptError&) = default;
@@ -50,6 +51,7 @@ struct ScriptError {
 
 /// Something that works, but perhaps not as meant.
 struct ScriptWarning {
+    /// In the language of the user.
     std::string message;
     Location location;
 

@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "platform/Sentence.h"
 #include "platform/script/commands/Advice.h"
 #include "platform/script/source/Lexer.h"
 #include "platform/script/source/TokenStream.h"
 #include "platform/script/source/Trivia.h"
-#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/ErrorLine.h"
 #include "platform/script/syntax/Misspelt.h"
 #include "platform/script/syntax/Slips.h"
@@ -38,11 +38,6 @@ std::vector<std::uint32_t> openBlockLines(const ScriptError& error, const Tree& 
     return openLines;
 }
 
-std::string noEndOf(std::string_view article, std::uint32_t line) {
-    return std::string(article) + " block that begins in line " + std::to_string(line) +
-           " has no “end” of its own.";
-}
-
 bool isOneOf(const std::string& word, std::string_view one, std::string_view other) {
     return word == one || word == other;
 }
@@ -53,6 +48,40 @@ bool beginsBlock(const std::string& first, const std::string& word) {
     if (word == "try" || word == "error") return isOneOf(first, "try", "on");
     if (word == "timeout") return first == "with";
     return first == word;
+}
+
+/// Of an `else`, or of the `end` of a block of that word, where no block at all is open.
+std::string noBlockHint(bool isElse, const std::string& word) {
+    if (isElse) {
+        return sentence("Hints",
+                        "No block is open here; an “if” with its statement in one line has no “else”.");
+    }
+    if (word == "if") {
+        return sentence("Hints",
+                        "No block is open here; an “if” with its statement in one line has no “end if”.");
+    }
+    if (word == "tell")
+        return sentence("Hints", "No block is open here; a “tell … to” in one line has no “end tell”.");
+    return sentence("Hints", "No block is open here; this line is one too many.");
+}
+
+/// Likewise where only other blocks are open, the innermost from that line on.
+std::string noSuchBlockHint(bool isElse, const std::string& word, std::uint32_t begin) {
+    if (isElse) {
+        return sentence("Hints",
+                        "No “if” is open here; an “if” with its statement in one line has no “else”.");
+    }
+    if (word == "if") {
+        return sentence("Hints",
+                        "No “if” is open here; an “if” with its statement in one line has no “end if”.");
+    }
+    if (word == "tell")
+        return sentence("Hints", "No “tell” is open here; a “tell … to” in one line has no “end tell”.");
+    //: %1 is the first word of a block, "repeat", %2 a number.
+    return sentence("Hints",
+                    "No “%1” is open here; the block that begins in line %2 has no “end” of its own.")
+        .arg(word)
+        .arg(std::to_string(begin));
 }
 
 /// `end tell` or `else`, where no such block is open; empty for what ends one.
@@ -67,13 +96,7 @@ std::string strayEndHint(const ScriptError& error, const std::vector<std::uint32
         return beginsBlock(ErrorLine(source, {number, 1}).first(), word);
     });
     if (isOpen) return "";
-    const std::string none =
-        "No " + (openLines.empty() ? "block" : script::quoted(isElse ? "if" : word)) + " is open here";
-    if (isElse) return none + "; an “if” with its statement in one line has no “else”.";
-    if (word == "if") return none + "; an “if” with its statement in one line has no “end if”.";
-    if (word == "tell") return none + "; a “tell … to” in one line has no “end tell”.";
-    return none + "; " +
-           (openLines.empty() ? "this line is one too many." : noEndOf("the", openLines.back()));
+    return openLines.empty() ? noBlockHint(isElse, word) : noSuchBlockHint(isElse, word, openLines.back());
 }
 
 /// What blocks end with, of lines that consist of the same without the blank: `endif`.
@@ -102,12 +125,18 @@ std::string blockHint(const ScriptError& error, const Tree& tree, std::string_vi
     std::string_view rest = source.substr(offsetOf(source, {begin, 1}));
     for (std::uint32_t number = begin; number < end; ++number) {
         const std::string_view meant = endMeantBy(lineOf(rest, 1));
-        if (!meant.empty())
-            return "In line " + std::to_string(number) + " these are two words: " + std::string(meant) + ".";
+        if (!meant.empty()) {
+            //: %1 is a number, %2 what the line was meant to be, "end if".
+            return sentence("Hints", "In line %1 these are two words: %2.")
+                .arg(std::to_string(number))
+                .arg(meant);
+        }
         rest = rest.substr(offsetOf(rest, {2, 1}));
     }
     std::string stray = strayEndHint(error, openLines, source);
-    return stray.empty() ? noEndOf("The", begin) : stray;
+    if (!stray.empty()) return stray;
+    return sentence("Hints", "The block that begins in line %1 has no “end” of its own.")
+        .arg(std::to_string(begin));
 }
 
 bool isOverLines(const Token& token) {
@@ -156,12 +185,14 @@ ScriptError explained(ScriptError error, const Tree& tree, std::string_view sour
     if (open) {
         error.message = "Expected “\"” but found end of line.";
         error.location = locate(source, *open);
-        error.hint = "The text that begins here is not closed by a straight quote in its line.";
+        error.hint =
+            sentence("Hints", "The text that begins here is not closed by a straight quote in its line.");
         return error;
     }
     if (error.message.starts_with("Expected “*)”")) {
         const std::uint32_t line = locate(source, openComment(source)).line;
-        error.hint = "The comment that begins in line " + std::to_string(line) + " is not closed by “*)”.";
+        error.hint = sentence("Hints", "The comment that begins in line %1 is not closed by “*)”.")
+                         .arg(std::to_string(line));
     } else if (error.message.starts_with("Expected “end” but")) {
         error.hint = blockHint(error, tree, source);
     } else if (error.message.starts_with("Expected expression but found “e")) {

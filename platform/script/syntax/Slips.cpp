@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 
+#include "platform/Sentence.h"
 #include "platform/script/commands/Advice.h"
 #include "platform/script/syntax/ErrorLine.h"
 #include "platform/script/syntax/Misspelt.h"
@@ -23,50 +24,57 @@ struct Slip {
     std::string_view first;
     std::string_view before;
     std::string_view here;
-    std::string_view hint;
+    const char* hint;
     Where where = Where::anywhere;
 };
 
-constexpr std::string_view tellHint =
-    "The keyboard commands stand inside “tell application \"System Events\"” … “end tell”.";
-constexpr std::string_view modifierTellHint =
-    "Modifiers are known inside “tell application \"System Events\"” … “end tell”.";
-constexpr std::string_view processTellHint =
-    "Processes are known inside “tell application \"System Events\"” … “end tell”.";
-constexpr std::string_view curlyHint = "Put straight quotes (\") in place of the curly ones.";
-constexpr std::string_view setHint = "A variable is set with “to”: set x to 5.";
-constexpr std::string_view loopHint = "A loop is written: repeat with i from 1 to 5 … end repeat.";
-constexpr std::string_view handlerHint = "A handler is written: on greet(x) … end greet.";
-constexpr std::string_view bracesHint = "Several stand in braces: {control down, shift down}, {36, 48}.";
-constexpr std::string_view pauseHint = "A pause is written in seconds: delay 2.";
-constexpr std::string_view elseHint = "These are two words: else if … then.";
-constexpr std::string_view joinHint = "Texts are joined with “&”: \"one\" & \"two\".";
-constexpr std::string_view sendHint =
-    "Text is typed with “keystroke”, and Return joined with “&”: keystroke \"hello\" & return.";
-constexpr std::string_view pressHint =
+constexpr const char* tellHint = englishOf(
+    "Hints", "The keyboard commands stand inside “tell application \"System Events\"” … “end tell”.");
+constexpr const char* modifierTellHint =
+    englishOf("Hints", "Modifiers are known inside “tell application \"System Events\"” … “end tell”.");
+constexpr const char* processTellHint =
+    englishOf("Hints", "Processes are known inside “tell application \"System Events\"” … “end tell”.");
+constexpr const char* curlyHint = englishOf("Hints", "Put straight quotes (\") in place of the curly ones.");
+constexpr const char* setHint = englishOf("Hints", "A variable is set with “to”: set x to 5.");
+constexpr const char* loopHint =
+    englishOf("Hints", "A loop is written: repeat with i from 1 to 5 … end repeat.");
+constexpr const char* handlerHint = englishOf("Hints", "A handler is written: on greet(x) … end greet.");
+constexpr const char* bracesHint =
+    englishOf("Hints", "Several stand in braces: {control down, shift down}, {36, 48}.");
+constexpr const char* pauseHint = englishOf("Hints", "A pause is written in seconds: delay 2.");
+constexpr const char* elseHint = englishOf("Hints", "These are two words: else if … then.");
+constexpr const char* joinHint = englishOf("Hints", "Texts are joined with “&”: \"one\" & \"two\".");
+constexpr const char* sendHint = englishOf(
+    "Hints", "Text is typed with “keystroke”, and Return joined with “&”: keystroke \"hello\" & return.");
+constexpr const char* pressHint = englishOf(
+    "Hints",
     "A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and "
-    "let go with: key up 36.";
-constexpr std::string_view mouseHint =
-    "A macro has no mouse; press the keys that do the same, as Tab and Return.";
-constexpr std::string_view bothHint = "Conditions are joined with “and” or “or”.";
-constexpr std::string_view processHint =
-    "Of a process its name is known, and whether it is in front: every process whose name contains \"fire\".";
-constexpr std::string_view windowHint =
-    "Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.";
-constexpr std::string_view askHint =
-    R"(A question is asked with: text returned of (display dialog "Name?" default answer "").)";
-constexpr std::string_view typeHint = "Text is typed with “keystroke”: keystroke \"hello\".";
-constexpr std::string_view usingHint = "Modifiers stand behind “using”: keystroke \"s\" using control down.";
-constexpr std::string_view timesHint =
-    "What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.";
-constexpr std::string_view lineHint = "Each statement has a line of its own.";
-constexpr std::string_view fileHint =
-    "A macro has no files; a text comes from “the clipboard” or from a dialog.";
-constexpr std::string_view addHint = "A variable is set with “to”: set x to x + 1.";
-constexpr std::string_view parenthesisHint = "A parenthesis is not closed in this line.";
-constexpr std::string_view braceHint = "A brace is not closed in this line.";
-constexpr std::string_view startHint =
-    "Press the keys that start it, or bring a window to the front: tell application \"Firefox\" to activate.";
+    "let go with: key up 36.");
+constexpr const char* mouseHint =
+    englishOf("Hints", "A macro has no mouse; press the keys that do the same, as Tab and Return.");
+constexpr const char* bothHint = englishOf("Hints", "Conditions are joined with “and” or “or”.");
+constexpr const char* processHint = englishOf("Hints",
+                                              "Of a process its name is known, and whether it is in front: "
+                                              "every process whose name contains \"fire\".");
+constexpr const char* windowHint = englishOf(
+    "Hints", "Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.");
+constexpr const char* askHint = englishOf(
+    "Hints", R"(A question is asked with: text returned of (display dialog "Name?" default answer "").)");
+constexpr const char* typeHint = englishOf("Hints", "Text is typed with “keystroke”: keystroke \"hello\".");
+constexpr const char* usingHint =
+    englishOf("Hints", "Modifiers stand behind “using”: keystroke \"s\" using control down.");
+constexpr const char* timesHint = englishOf(
+    "Hints",
+    "What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.");
+constexpr const char* lineHint = englishOf("Hints", "Each statement has a line of its own.");
+constexpr const char* fileHint =
+    englishOf("Hints", "A macro has no files; a text comes from “the clipboard” or from a dialog.");
+constexpr const char* addHint = englishOf("Hints", "A variable is set with “to”: set x to x + 1.");
+constexpr const char* parenthesisHint = englishOf("Hints", "A parenthesis is not closed in this line.");
+constexpr const char* braceHint = englishOf("Hints", "A brace is not closed in this line.");
+constexpr const char* startHint = englishOf("Hints",
+                                            "Press the keys that start it, or bring a window to the front: "
+                                            "tell application \"Firefox\" to activate.");
 
 constexpr std::string_view keyboardWords = "keystroke|key";
 constexpr std::string_view modifierNames = "command|control|option|shift|cmd|ctrl|alt";
@@ -77,7 +85,7 @@ constexpr auto slips = std::to_array<Slip>({
     {"unknown token “", "", "", "", curlyHint},
     {"unknown token ”", "", "", "", curlyHint},
     {"unknown token ‘", "", "", "", curlyHint},
-    {"Raw codes", "", "", "", "Write the command by its name."},
+    {"Raw codes", "", "", "", englishOf("Hints", "Write the command by its name.")},
     {"do shell script” is refused", "", "", "", startHint},
     {unexpected, keyboardWords, "", "", tellHint, Where::outside},
     {"found identifier", "", "command|control|option|shift", "down", modifierTellHint, Where::outside},
@@ -88,7 +96,7 @@ constexpr auto slips = std::to_array<Slip>({
     {unexpected, keyboardWords, "return|tab|space|enter|\"|0", "down|up", pressHint, Where::inside},
     {unexpected, keyboardWords, "\"|0", "twice|thrice|times|x", timesHint, Where::inside},
     {unexpected, "command|control|option|shift|cmd|ctrl|alt|super|win", "", "",
-     "A shortcut is written: keystroke \"c\" using control down."},
+     englishOf("Hints", "A shortcut is written: keystroke \"c\" using control down.")},
     {unexpected, "keystroke", "", "0", timesHint, Where::inside},
     {unexpected, "key", "", "0", bracesHint, Where::inside},
     {unexpected, "repeat", "", "keystroke|key|delay|beep|set", timesHint},
@@ -99,45 +107,50 @@ constexpr auto slips = std::to_array<Slip>({
     {"Expected “)” but found end of", "", "", "", parenthesisHint},
     {"Expected “,” or “}” but found end of", "", "", "", braceHint},
     {"found “whose”", "", "", "",
-     "Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat."},
+     englishOf("Hints",
+               "Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end "
+               "repeat.")},
     {unexpected, "", "window|button|menu|bar|field|sheet", "0|\"", windowHint},
     {"Expected expression", "", "answer", "",
-     "Behind “default answer” stands a text, be it empty: default answer \"\"."},
-    {"found “else”", "if", "", "", "An “if” in one line has no “else”; write it in lines, with “end if”."},
+     englishOf("Hints", "Behind “default answer” stands a text, be it empty: default answer \"\".")},
+    {"found “else”", "if", "", "",
+     englishOf("Hints", "An “if” in one line has no “else”; write it in lines, with “end if”.")},
     {unexpected, "elseif|elif", "", "", elseHint},
-    {unexpected, "delay|beep", "0", ",", "Decimals stand behind a point: 0.5."},
+    {unexpected, "delay|beep", "0", ",", englishOf("Hints", "Decimals stand behind a point: 0.5.")},
     {unexpected, "delay", "0", "ms|s|sec|secs|second|seconds|millisecond|milliseconds|msec",
-     "“delay” counts seconds, without a unit: delay 0.5."},
+     englishOf("Hints", "“delay” counts seconds, without a unit: delay 0.5.")},
     {unexpected, "sleep|wait|pause", "", "", pauseHint},
     {unexpected, "xdotool|ydotool", "", "type", typeHint},
     {unexpected, "xdotool|ydotool", "", "", pressingAdvice},
     {unexpected, "send|sendinput", "", ",", sendHint},
     {unexpected, "type|write|send|keypress|sendkeys", "", "\"", typeHint},
     {unexpected, "press|hit|push|tap|keypress|keycode", "", "", pressingAdvice},
-    {"Expected “code”, “down” or “up”", "", "key", "release", "A key is let go with: key up \"a\"."},
+    {"Expected “code”, “down” or “up”", "", "key", "release",
+     englishOf("Hints", "A key is let go with: key up \"a\".")},
     {"Expected “code”, “down” or “up”", "", "key", "",
-     "Text is typed with “keystroke”, a key is pressed by its number: key code 36."},
+     englishOf("Hints", "Text is typed with “keystroke”, a key is pressed by its number: key code 36.")},
     {unexpected, "hold|release", "", "",
-     "A key is held with “key down” and let go with “key up”: key down shift."},
+     englishOf("Hints", "A key is held with “key down” and let go with “key up”: key down shift.")},
     {unexpected, "open", "", "for", fileHint},
     {unexpected, "", "choose|read|posix", "file|folder", fileHint},
     {unexpected, "", "path", "to", fileHint},
     {unexpected, "open|launch|start", "", "\"|application|app|process", startHint},
     {unexpected, "", "ask|input|prompt", "\"", askHint},
-    {unexpected, "clipboard", "", "info", "The text in the clipboard is: the clipboard."},
+    {unexpected, "clipboard", "", "info", englishOf("Hints", "The text in the clipboard is: the clipboard.")},
     {unexpected, "click|doubleclick|rightclick|mouse|drag", "", "", mouseHint},
     {unexpected, "let|var|const|dim|local", "", "", setHint},
     {unexpected, "function|def|sub|func|proc|handler", "", "", handlerHint},
-    {unexpected, "loop|do", "", "", "A loop is written: repeat 5 times … end repeat."},
+    {unexpected, "loop|do", "", "", englishOf("Hints", "A loop is written: repeat 5 times … end repeat.")},
     {"found “\"”", "", "process", "\"", processTellHint, Where::outside},
     {unexpected, "tell", "\"", "",
-     "Behind the name stands “to”, or the line ends there: tell application \"System Events\" to keystroke "
-     "\"a\"."},
+     englishOf("Hints",
+               "Behind the name stands “to”, or the line ends there: tell application \"System Events\" to "
+               "keystroke \"a\".")},
     {unexpected, "tell", "", "",
-     "The name stands between straight quotes: tell application \"System Events\"."},
+     englishOf("Hints", "The name stands between straight quotes: tell application \"System Events\".")},
     {"", "for|foreach", "", "for|foreach", loopHint},
     {unexpected, "foreach", "", "", loopHint},
-    {"", "while", "", "while", "A loop is written: repeat while x < 5 … end repeat."},
+    {"", "while", "", "while", englishOf("Hints", "A loop is written: repeat while x < 5 … end repeat.")},
     {"Expected “from” or “in”", "repeat", "", "=", loopHint},
     {"Expected “to” but found", "set", "", "=|:|\"|0", setHint},
     {"Expected “to” but found", "set", "", "+|-|*|/", addHint},
@@ -145,22 +158,25 @@ constexpr auto slips = std::to_array<Slip>({
     {"Expected “to” but found", "repeat", "", "", loopHint},
     {"Expected expression", "", "+|-|*|/", "=", addHint},
     {"Expected expression", "", "+", "+", addHint},
-    {"Expected expression", "", "", "/", "A comment begins with -- or #."},
-    {"Expected expression", "", "/", "*", "A comment over lines is written (* … *)."},
+    {"Expected expression", "", "", "/", englishOf("Hints", "A comment begins with -- or #.")},
+    {"Expected expression", "", "/", "*", englishOf("Hints", "A comment over lines is written (* … *).")},
     {"", "", "&", "&", bothHint},
-    {"", "", "==", "", "“Equal” is written with one =."},
-    {"Expected “\"” but found end of script", "", "", "", "A text is not closed by a straight quote."},
+    {"", "", "==", "", englishOf("Hints", "“Equal” is written with one =.")},
+    {"Expected “\"” but found end of script", "", "", "",
+     englishOf("Hints", "A text is not closed by a straight quote.")},
     {"Expected “\"” but found unknown token", "", "", "",
-     R"(A backslash in a text is written twice: "C:\\Users".)"},
+     englishOf("Hints", R"(A backslash in a text is written twice: "C:\\Users".)")},
     {"Expected class name", "", "", "",
-     "Behind “as” stands a class: text, integer, real, number, boolean, list, record, date."},
+     englishOf("Hints",
+               "Behind “as” stands a class: text, integer, real, number, boolean, list, record, date.")},
     {"Expected “name”, “frontmost”", "", "", "", processHint},
     {unexpected, "", "unix|bundle", "", processHint},
-    {"Expected “then”", "", "", "{", "A block has no braces: if x = 1 then … end if."},
+    {"Expected “then”", "", "", "{", englishOf("Hints", "A block has no braces: if x = 1 then … end if.")},
     {"Expected expression but found end of line", "if|else", "{", "",
-     "A block has no braces: if x = 1 then … end if."},
-    {unexpected, "", "", "{", "A block has no braces; it ends with “end” and its first word: end repeat."},
-    {unexpected, "", "", ":", "A line needs no colon at its end."},
+     englishOf("Hints", "A block has no braces: if x = 1 then … end if.")},
+    {unexpected, "", "", "{",
+     englishOf("Hints", "A block has no braces; it ends with “end” and its first word: end repeat.")},
+    {unexpected, "", "", ":", englishOf("Hints", "A line needs no colon at its end.")},
 });
 
 /// Words that other programs and keyboards have for the modifiers.
@@ -194,8 +210,7 @@ std::string modifierHint(const ErrorLine& line) {
         std::find_if(foreignModifiers.begin(), foreignModifiers.end(),
                      [&](const ForeignModifier& one) { return fits(line.before(), one.words); });
     if (row == foreignModifiers.end()) return "";
-    return "The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using " +
-           std::string(row->name) + " down.";
+    return modifierNameAdvice(row->name);
 }
 
 /// Whether the tables or the advice know the word as one of other languages.
@@ -245,7 +260,7 @@ bool sets(const Tree& tree, std::string_view name) {
 /// `keystroke hello world`, `display dialog Hello there`
 std::string quotesHint(std::string_view words) {
     const bool areWords = !words.empty() && words.find_first_of("\"&({") == std::string_view::npos;
-    return areWords ? "Text stands between straight quotes: \"" + std::string(words) + "\"." : "";
+    return areWords ? quotesAdvice(words) : "";
 }
 
 /// Of a text that is shown, if words without quotes stand there which the script has not set.
@@ -281,9 +296,15 @@ std::string lettersHint(const ErrorLine& line) {
         return before.size() >= word.size() &&
                equalIgnoringCase(before.substr(before.size() - word.size()), word);
     });
-    return isName ? "Other letters than A to Z stand in a name between bars: |" + letters + "|."
-                  : "Other letters than A to Z stand in a name between bars: |" + letters +
-                        "|. Text stands between straight quotes: \"" + letters + "\".";
+    if (isName) {
+        return sentence("Hints", "Other letters than A to Z stand in a name between bars: |%1|.")
+            .arg(letters);
+    }
+    return sentence(
+               "Hints",
+               "Other letters than A to Z stand in a name between bars: |%1|. Text stands between straight "
+               "quotes: \"%1\".")
+        .arg(letters);
 }
 
 /// Whether the line begins with an apostrophe, as a comment does elsewhere.
@@ -299,29 +320,34 @@ std::string signHint(const ScriptError& error, const ErrorLine& place) {
     const std::string here = place.here();
     const auto says = [&](std::string_view words) { return error.message.find(words) != std::string::npos; };
     const auto has = [&](std::string_view sign) { return line.find(sign) != std::string_view::npos; };
-    if (says("unknown token U+")) return "A sign that nobody sees stands here; delete it.";
-    if (isComment(line)) return "A comment begins with -- or #.";
+    if (says("unknown token U+")) return sentence("Hints", "A sign that nobody sees stands here; delete it.");
+    if (isComment(line)) return sentence("Hints", "A comment begins with -- or #.");
     // Before any text, which may hold the same.
     const std::string_view code = line.substr(0, line.find('"'));
     if (code.find("::") != std::string_view::npos) {
-        return "A hot key is no part of a script; it is set in the preferences, or for each macro in "
-               "“Macros…”.";
+        //: “Macros…” is an entry of the menu.
+        return sentence(
+            "Hints",
+            "A hot key is no part of a script; it is set in the preferences, or for each macro in "
+            "“Macros…”.");
     }
-    if (code.find("++") != std::string_view::npos && says("Expected expression")) return std::string(addHint);
+    if (code.find("++") != std::string_view::npos && says("Expected expression"))
+        return sentence("Hints", addHint);
     if (!says("unknown token") && !says("but found “=”") && !says("but found “>”")) return "";
     if (std::string hint = lettersHint(place); says("unknown token") && !hint.empty()) return hint;
-    if (has("!=") || has("<>")) return "“Not equal” is written ≠ or /=.";
-    if (has("==")) return "“Equal” is written with one =.";
-    if (here == "|") return std::string(bothHint);
-    if (here == ";") return std::string(lineHint);
-    if (here == "[" && place.isIndex()) return "An item is taken by its number: item 1 of x.";
+    if (has("!=") || has("<>")) return sentence("Hints", "“Not equal” is written ≠ or /=.");
+    if (has("==")) return sentence("Hints", "“Equal” is written with one =.");
+    if (here == "|") return sentence("Hints", bothHint);
+    if (here == ";") return sentence("Hints", lineHint);
+    if (here == "[" && place.isIndex())
+        return sentence("Hints", "An item is taken by its number: item 1 of x.");
     if (here == "." && place.isIndex()) {
         if (std::string foreign = foreignWordAdvice(place.behind()); !foreign.empty()) return foreign;
-        return "What belongs to a value is taken with “of”: length of x.";
+        return sentence("Hints", "What belongs to a value is taken with “of”: length of x.");
     }
-    if (here == "[") return "A list stands in braces: {1, 2}.";
-    if (here == "%") return "The rest of a division is written: 7 mod 2.";
-    if (has("'")) return "Text stands between straight double quotes (\").";
+    if (here == "[") return sentence("Hints", "A list stands in braces: {1, 2}.");
+    if (here == "%") return sentence("Hints", "The rest of a division is written: 7 mod 2.");
+    if (has("'")) return sentence("Hints", "Text stands between straight double quotes (\").");
     return "";
 }
 
@@ -335,9 +361,9 @@ std::string hintOfLine(const ScriptError& error, const Tree& tree, std::string_v
     if (std::string hint = signHint(error, line); !hint.empty()) return hint;
     if (std::string hint = keyHint(error, line); isInsideTell && !hint.empty()) return hint;
     if (std::string hint = shownTextHint(line, tree); !hint.empty()) return hint;
-    if (line.here() == "with" && line.behind() == "format") return std::string(datingAdvice);
+    if (line.here() == "with" && line.behind() == "format") return sentence("Hints", datingAdvice);
     if (line.standsAgainstText() && error.message.starts_with(unexpected))
-        return R"(A quote inside a text is written \": "Hello \"world\"".)";
+        return sentence("Hints", R"(A quote inside a text is written \": "Hello \"world\"".)");
     const auto isOther = [&](std::string_view word) { return isForeign(word) || sets(tree, word); };
     if (std::string word = wordMeant(error, line, isOther); !word.empty()) return didYouMean(word);
     const auto isHere = [&](const Slip& slip) {
@@ -346,7 +372,7 @@ std::string hintOfLine(const ScriptError& error, const Tree& tree, std::string_v
                fits(line.before(), slip.before) && fits(line.here(), slip.here);
     };
     const auto* row = std::find_if(slips.begin(), slips.end(), isHere);
-    if (row != slips.end()) return std::string(row->hint);
+    if (row != slips.end()) return sentence("Hints", row->hint);
     if (std::string hint = foreignWordAdvice(line.first()); !hint.empty()) return hint;
     return isInsideTell && line.first() == "keystroke" ? quotesHint(line.wordsFrom(1, {"using"})) : "";
 }

@@ -6,6 +6,7 @@
 #include <limits>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/script/source/Literal.h"
 #include "platform/script/source/ScriptError.h"
 #include "platform/script/values/Dates.h"
@@ -156,7 +157,7 @@ Failure outOfMemory() { return {errornumber::outOfMemory, "Out of memory."}; }
 
 Failure tooManyItems() {
     return {errornumber::outOfMemory, "A list holds at most " + std::to_string(maxListItems) + " items.",
-            "Take the items in parts, or paragraphs instead of characters."};
+            sentence("Hints", "Take the items in parts, or paragraphs instead of characters.")};
 }
 
 std::optional<double> numberOf(const Value& value) {

@@ -238,6 +238,7 @@ struct TargetBody : Counted {
 struct Failure {
     int number = 0;
     std::string message;
+    /// As those of a ScriptError.
     std::string hint = {};
     /// What `error` was given beside them, or nothing.
     Value from = {};

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/Sentence.h"
 #include "platform/Utf8.h"
 #include "platform/x11/clipboard/SelectionOwner.h"
 
@@ -41,7 +42,8 @@ Result<std::string> SelectionReader::text(const IsStopped& isStopped) {
 Result<std::string> SelectionReader::readText() {
     for (const xcb_atom_t form : formsToTry()) {
         Answer answer = ask(form);
-        if (answer.outcome == Outcome::tooLong) return Error{"The text in the clipboard is too long.", ""};
+        if (answer.outcome == Outcome::tooLong)
+            return Error{sentence("Clipboard", "The text in the clipboard is too long."), ""};
         if (answer.outcome == Outcome::silent) break;
         if (answer.outcome == Outcome::given) {
             const bool isUtf8 = form != XCB_ATOM_STRING && !invalidUtf8(answer.bytes);

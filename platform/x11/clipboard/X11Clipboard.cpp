@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "platform/Descriptor.h"
+#include "platform/Sentence.h"
 #include "platform/x11/clipboard/ClipboardKeeper.h"
 #include "platform/x11/clipboard/SelectionOwner.h"
 #include "platform/x11/clipboard/SelectionReader.h"
@@ -101,7 +102,7 @@ Result<void> X11Clipboard::set(std::string_view text) {
     }
     // The answer may have brought events along, which no poll will tell of.
     parts.wake();
-    if (!isOwned) return Error{"The clipboard is held by another program.", ""};
+    if (!isOwned) return Error{sentence("Clipboard", "The clipboard is held by another program."), ""};
     return {};
 }
 

@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <utility>
 
+#include "platform/Sentence.h"
+
 namespace x11 {
 
 namespace {
@@ -24,8 +26,10 @@ GuardLink::~GuardLink() { m_process.end(timeToEnd); }
 Error GuardLink::cannotStart() const {
     const std::string program = m_program.empty() ? guardName : m_program;
     return Error{
-        "The guard program \"" + program + "\", which releases keys after a crash, could not be started.",
-        "Install the program again; nothing is played without its guard."};
+        sentence("Programs",
+                 "The guard program \"%1\", which releases keys after a crash, could not be started.")
+            .arg(program),
+        sentence("Programs", "Install the program again; nothing is played without its guard.")};
 }
 
 Result<void> GuardLink::tell(const GuardMessage& message) {

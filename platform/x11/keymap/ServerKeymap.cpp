@@ -3,6 +3,7 @@
 
 #include <xkbcommon/xkbcommon-x11.h>
 
+#include "platform/Sentence.h"
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/server/XcbXkb.h"
 
@@ -21,7 +22,8 @@ Result<std::unique_ptr<Keymap>> keymapOfServer(const XConnection& connection) {
 }
 
 Error unreadableKeymap() {
-    return Error{"The keymap of the X server cannot be read.", "Set a keyboard layout, or log in again."};
+    return Error{sentence("Layouts", "The keymap of the X server cannot be read."),
+                 sentence("Layouts", "Set a keyboard layout, or log in again.")};
 }
 
 std::optional<XkbComponents> stateOfServer(xcb_connection_t* connection) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/run/TextPlan.h"
 
 namespace x11 {
@@ -56,10 +57,11 @@ std::vector<char32_t> CharacterKeys::spoilt() const {
 }
 
 Error spoiltText(const std::vector<char32_t>& characters) {
-    return Error{
-        "The keyboard layout was changed while text was typed, which may have arrived as something else: " +
-            beginningOf(characters) + ".",
-        "Play it again when the layout stays as it is."};
+    return Error{sentence("Keys",
+                          "The keyboard layout was changed while text was typed, which may have arrived as "
+                          "something else: %1.")
+                     .arg(beginningOf(characters)),
+                 sentence("Keys", "Play it again when the layout stays as it is.")};
 }
 
 }  // namespace x11

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/press/GrabWait.h"
 
+#include "platform/Sentence.h"
 #include "platform/x11/server/Property.h"
 #include "platform/x11/server/WindowTree.h"
 
@@ -43,8 +44,9 @@ Step<> GrabWait::untilFree(RunWaiter& waiter) const {
     const auto isFree = waitUntilFree(waiter, limit);
     if (!isFree) return isFree.error();
     if (isFree.value()) return {};
-    return Error{"Another program holds the keyboard, so that no keys can be pressed.",
-                 "Close the menu, the question or the screen lock that is open, and play again."};
+    return Error{
+        sentence("Keys", "Another program holds the keyboard, so that no keys can be pressed."),
+        sentence("Keys", "Close the menu, the question or the screen lock that is open, and play again.")};
 }
 
 Step<> GrabWait::untilHotKeyIsDone(RunWaiter& waiter) const {

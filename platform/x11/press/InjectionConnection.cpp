@@ -5,6 +5,7 @@
 
 #include <bit>
 
+#include "platform/Sentence.h"
 #include "platform/x11/server/Extensions.h"
 #include "platform/x11/server/XcbXkb.h"
 
@@ -81,7 +82,9 @@ void InjectionConnection::flush() {
 Result<XkbComponents> InjectionConnection::synchronise() {
     flush();
     const auto state = stateOfServer(get());
-    if (!state) return Error{"The connection to the X server was lost.", "Log in again."};
+    if (!state)
+        return Error{sentence("Session", "The connection to the X server was lost."),
+                     sentence("Session", "Log in again.")};
     // Nothing is selected, but some events are sent to everybody; they would pile up.
     while (const Event event{xcb_poll_for_queued_event(get())}) continue;
     return *state;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "platform/Sentence.h"
 #include "platform/x11/server/XcbXkb.h"
 
 namespace x11 {
@@ -161,8 +162,8 @@ Result<void> KeyBinder::bind(const SpareSlots::Plan& plan) {
         for (KeyboardMaps::Target& target : maps.targets()) put(target.map, binding);
     }
     if (!maps.write(m_connection.get(), changed)) {
-        return Error{"The X server refuses to put characters on unused keys.",
-                     "Use characters of the keyboard layout, or set another layout."};
+        return Error{sentence("Keys", "The X server refuses to put characters on unused keys."),
+                     sentence("Keys", "Use characters of the keyboard layout, or set another layout.")};
     }
     m_slots.apply(plan);
     const auto refreshed = m_keymap.refresh(true);

@@ -3,6 +3,7 @@
 
 #include <unordered_set>
 
+#include "platform/Sentence.h"
 #include "platform/keymap/Bindable.h"
 #include "platform/run/TextPlan.h"
 
@@ -32,8 +33,9 @@ Result<void> TextTyper::refuseUntypable(std::span<const char32_t> characters, xk
     for (const char32_t character : characters) {
         if (!passed.insert(character).second || m_tools.characters.find(character, group)) continue;
         if (isBindable(character) && m_tools.binder.capacity() > 0) continue;
-        return Error{"The character " + nameOf(character) + " cannot be typed with this keyboard layout.",
-                     "Take it out of the text, or set a layout that has it."};
+        return Error{sentence("Keys", "The character %1 cannot be typed with this keyboard layout.")
+                         .arg(nameOf(character)),
+                     sentence("Keys", "Take it out of the text, or set a layout that has it.")};
     }
     return {};
 }
@@ -58,8 +60,9 @@ Step<> TextTyper::bind(const std::vector<char32_t>& wanted, std::span<const char
     const auto isRead = m_tools.binder.awaitReaders(plan, m_waiter);
     if (!isRead) return isRead.error();
     if (!isRead.value()) {
-        return Error{"The program that is typed into reads nothing; not typed: " + beginningOf(left) + ".",
-                     "Play it again when the program reads its keys."};
+        return Error{sentence("Keys", "The program that is typed into reads nothing; not typed: %1.")
+                         .arg(beginningOf(left)),
+                     sentence("Keys", "Play it again when the program reads its keys.")};
     }
     if (plan.notBefore) m_tools.characters.forgetTyped();
     if (const auto bound = m_tools.binder.bind(plan); !bound) return bound.error();

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/x11/press/X11InjectionSession.h"
 
 namespace x11 {
@@ -74,7 +75,8 @@ Result<void> X11KeyInjector::start() {
 }
 
 Result<std::unique_ptr<InjectionSession>> X11KeyInjector::open(const InjectionPlan& plan) {
-    if (m_parts->session != nullptr) return Error{"A script is running already.", "Wait for its end."};
+    if (m_parts->session != nullptr)
+        return Error{sentence("Keys", "A script is running already."), sentence("Keys", "Wait for its end.")};
     const auto started = start();
     if (!started) return started.error();
     DisplayParts& display = *m_parts->display;
@@ -124,8 +126,8 @@ Step<> X11KeyInjector::awaitReaders() {
     if (!change) return change.error();
     if (!change.value().spoilt.empty()) return spoiltText(change.value().spoilt);
     if (isRead.value()) return {};
-    return Error{"The program that was typed into has not read all of it.",
-                 "See whether it hangs; what it reads later may lack characters."};
+    return Error{sentence("Keys", "The program that was typed into has not read all of it."),
+                 sentence("Keys", "See whether it hangs; what it reads later may lack characters.")};
 }
 
 void X11KeyInjector::rest() {

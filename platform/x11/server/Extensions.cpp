@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "platform/Sentence.h"
 #include "platform/x11/server/XReply.h"
 #include "platform/x11/server/XcbXkb.h"
 
@@ -16,9 +17,9 @@ namespace {
 constexpr std::uint16_t inputMajor = 2;
 constexpr std::uint16_t inputMinor = 2;
 
-Error missing(const std::string& needed, const std::string& found) {
-    return Error{"The X server must have " + needed + ", but " + found + ".",
-                 "Use a newer X server, or switch the extension on in its settings."};
+Error missing(const std::string& what) {
+    return Error{what,
+                 sentence("Session", "Use a newer X server, or switch the extension on in its settings.")};
 }
 
 xcb_extension_t& protocolOf(Extension extension) {
@@ -32,8 +33,6 @@ xcb_extension_t& protocolOf(Extension extension) {
     }
     return xcb_test_id;
 }
-
-Error inputMissing(const std::string& found) { return missing("XInput 2.2 or newer", found); }
 
 }  // namespace
 
@@ -61,22 +60,29 @@ Result<> Extensions::use(Extension extension) const {
 }
 
 Result<> Extensions::useInput() const {
-    if (!has(xcb_input_id)) return inputMissing("has no XInput");
+    if (!has(xcb_input_id)) {
+        return missing(sentence("Session", "The X server must have XInput 2.2 or newer, but has no XInput."));
+    }
     const auto version =
         replyTo(m_connection, xcb_input_xi_query_version(m_connection, inputMajor, inputMinor),
                 xcb_input_xi_query_version_reply);
-    if (!version) return inputMissing("does not answer");
+    if (!version) {
+        return missing(
+            sentence("Session", "The X server must have XInput 2.2 or newer, but does not answer."));
+    }
     const bool isNewEnough = version->major_version > inputMajor ||
                              (version->major_version == inputMajor && version->minor_version >= inputMinor);
     if (isNewEnough) return {};
-    return inputMissing("has " + std::to_string(version->major_version) + "." +
-                        std::to_string(version->minor_version));
+    return missing(
+        sentence("Session", "The X server must have XInput 2.2 or newer, but has %1.")
+            .arg(std::to_string(version->major_version) + "." + std::to_string(version->minor_version)));
 }
 
 Result<> Extensions::useKeyboard() const {
     constexpr std::uint16_t major = 1;
     constexpr std::uint16_t minor = 0;
-    const Error unusable = missing("the XKB extension", "it cannot be used");
+    const Error unusable =
+        missing(sentence("Session", "The X server must have the XKB extension, but it cannot be used."));
     if (!has(xcb_xkb_id)) return unusable;
     const auto reply =
         replyTo(m_connection, xcb_xkb_use_extension(m_connection, major, minor), xcb_xkb_use_extension_reply);
@@ -84,7 +90,8 @@ Result<> Extensions::useKeyboard() const {
 }
 
 Result<> Extensions::useTest() const {
-    return has(xcb_test_id) ? Result<>() : missing("the XTEST extension", "it has not");
+    if (has(xcb_test_id)) return {};
+    return missing(sentence("Session", "The X server must have the XTEST extension, but it has not."));
 }
 
 std::uint8_t Extensions::inputOpcode() const {

@@ -5,6 +5,8 @@
 #include <cstring>
 #include <vector>
 
+#include "platform/Sentence.h"
+
 namespace x11 {
 
 namespace {
@@ -21,8 +23,11 @@ Result<XConnection> XConnection::open(const std::string& display) {
     int screen = 0;
     Handle handle(xcb_connect(display.empty() ? nullptr : display.c_str(), &screen));
     if (xcb_connection_has_error(handle.get()) != 0) {
-        return Error{"The X server of display \"" + displayName(display) + "\" cannot be reached.",
-                     "Start the program inside a desktop session, or set DISPLAY to a running X server."};
+        return Error{
+            sentence("Session", "The X server of display \"%1\" cannot be reached.")
+                .arg(displayName(display)),
+            sentence("Session",
+                     "Start the program inside a desktop session, or set DISPLAY to a running X server.")};
     }
     auto screens = xcb_setup_roots_iterator(xcb_get_setup(handle.get()));
     for (; screen > 0 && screens.rem > 1; --screen) xcb_screen_next(&screens);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/watch/HotKeyGrabs.h"
 
+#include "platform/Sentence.h"
 #include "platform/x11/server/Extensions.h"
 #include "platform/x11/server/XcbXkb.h"
 
@@ -11,8 +12,8 @@ namespace {
 constexpr std::uint16_t allModifiers = 0xFF;
 
 std::string reason(const xcb_generic_error_t& error) {
-    if (error.error_code == XCB_ACCESS) return "another program holds it";
-    return "the X server refuses it with error " + std::to_string(error.error_code);
+    if (error.error_code == XCB_ACCESS) return sentence("HotKeys", "another program holds it");
+    return sentence("HotKeys", "the X server refuses it with error %1").arg(std::to_string(error.error_code));
 }
 
 }  // namespace
@@ -65,7 +66,7 @@ std::optional<std::string> HotKeyGrabs::answerTo(const Cookies& cookies) const {
         const auto error = refusalOf(m_connection, cookie);
         if (error && !failure) failure = reason(*error);
     }
-    if (!failure && m_connection.isBroken()) failure = "the X server is gone";
+    if (!failure && m_connection.isBroken()) failure = sentence("HotKeys", "the X server is gone");
     return failure;
 }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "platform/Sentence.h"
 #include "platform/x11/server/Extensions.h"
 
 namespace x11 {
@@ -82,8 +83,11 @@ RepeatSource::~RepeatSource() {
 
 Result<void> RepeatSource::start() {
     const Error missing{
-        "Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.",
-        "A held key is recorded as one press. Switch the extension on in the settings of the X server."};
+        sentence("Keys",
+                 "Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension."),
+        sentence(
+            "Keys",
+            "A held key is recorded as one press. Switch the extension on in the settings of the X server.")};
     for (const XConnection* connection : {&m_control, &m_data}) {
         if (!Extensions(*connection).has(xcb_record_id)) return missing;
     }

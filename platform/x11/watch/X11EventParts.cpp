@@ -3,6 +3,8 @@
 
 #include <chrono>
 
+#include "platform/Sentence.h"
+
 namespace x11 {
 
 namespace {
@@ -171,7 +173,9 @@ void X11EventManager::Parts::giveUp() {
 
 void X11EventManager::Parts::watchRepeats() {
     if (!m_repeats || m_problem || m_repeats->isRecording()) return;
-    m_problem = Error{"Auto-repeats of held keys can no longer be recorded: the X server has ended it.", ""};
+    m_problem = Error{
+        sentence("Keys", "Auto-repeats of held keys can no longer be recorded: the X server has ended it."),
+        ""};
     m_wakeups.unwatch(m_repeats->control().fileDescriptor());
     m_wakeups.unwatch(m_repeats->data().fileDescriptor());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/watch/X11KeyboardLayout.h"
 
+#include "platform/Sentence.h"
 #include "platform/keymap/KeyLabels.h"
 #include "platform/keymap/KeyboardState.h"
 #include "platform/x11/watch/X11EventManager.h"
@@ -18,7 +19,7 @@ Result<std::string> X11KeyboardLayout::character(std::uint32_t keyCode, bool shi
     std::string text = keyText(keyboard.keymap(), keyboard.layout(), keyCode,
                                (shift ? masks.shift : 0) | (option ? masks.option : 0));
     if (!text.empty()) return text;
-    return Error{"The key " + keyName(keyCode) + " types no character.", ""};
+    return Error{sentence("Keys", "The key %1 types no character.").arg(keyName(keyCode)), ""};
 }
 
 std::string X11KeyboardLayout::typed(std::uint32_t keyCode, bool shift) const {

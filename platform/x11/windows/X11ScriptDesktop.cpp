@@ -8,6 +8,7 @@
 
 #include "platform/Clock.h"
 #include "platform/Parts.h"
+#include "platform/Sentence.h"
 #include "platform/x11/server/Property.h"
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/windows/WindowFocus.h"
@@ -146,7 +147,8 @@ Result<void> X11ScriptDesktop::activate(std::string_view name) {
     const Server& server = *opened.value();
     const xcb_window_t window = server.findWindow(name);
     if (window == XCB_WINDOW_NONE)
-        return Error{"No window of “" + std::string(name) + "” is open.", "Start it first."};
+        return Error{sentence("Windows", "No window of “%1” is open.").arg(name),
+                     sentence("Windows", "Start it first.")};
     server.focus.request(window, WindowFocus::Source::pager, 0);
     server.connection.roundTrip();
     const Clock::Time end = m_clock.now() + longestWait;

@@ -10,6 +10,7 @@
 #include "app/macros/StepText.h"
 #include "app/program/CommandLine.h"
 #include "platform/KeyCodes.h"
+#include "platform/Sentence.h"
 #include "platform/sessions/Sessions.h"
 
 namespace {
@@ -96,6 +97,18 @@ TEST(CataloguesTest, theWordsAreTranslatedWhileTheCataloguesLive) {
     const Catalogues none({"en", "de"});
     EXPECT_EQ(none.language(), "");
     EXPECT_EQ(quit(), "Quit");
+}
+
+TEST(CataloguesTest, whatRoomsWithoutAToolkitSayIsTranslatedToo) {
+    const auto unreadable = [] {
+        return sentence("Files", "The file %1 cannot be read: %2").arg("/a").arg("%1").text();
+    };
+    {
+        const Catalogues german({"de"});
+        EXPECT_EQ(unreadable(), "Die Datei /a kann nicht gelesen werden: %1");
+        const Catalogues none({"en"});
+    }
+    EXPECT_EQ(unreadable(), "The file /a cannot be read: %1");
 }
 
 TEST(CataloguesTest, theToolkitsButtonsAreTranslatedToo) {
