@@ -2,9 +2,11 @@
 #include "platform/desktops/PortalShortcuts.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "platform/Sentence.h"
+#include "platform/desktops/GnomeLayouts.h"
 #include "platform/desktops/portal/PortalNames.h"
 
 namespace {
@@ -13,6 +15,9 @@ using portalnames::object;
 using portalnames::service;
 
 constexpr const char* face = "org.freedesktop.portal.GlobalShortcuts";
+/// What a desktop's part of the portal has that gives hot keys, and where GNOME's part is.
+constexpr std::string_view partsFace = "\"org.freedesktop.impl.portal.GlobalShortcuts\"";
+constexpr const char* partOfGnome = "org.freedesktop.impl.portal.desktop.gnome";
 
 Sentence leftOut() { return sentence("HotKeys", "the desktop has not granted it"); }
 
@@ -35,12 +40,22 @@ std::string whyNot(PortalRequest::End end) {
     return sentence("HotKeys", "the desktop has refused it");
 }
 
+bool givesGnomeAny(const SessionBus& bus) {
+    const auto answer = bus.ask({partOfGnome, object, "org.freedesktop.DBus.Introspectable", "Introspect"},
+                                nullptr, "(s)", SessionBus::Starts::yes);
+    if (!answer) return false;
+    const char* description = "";
+    g_variant_get(answer.value().get(), "(&s)", &description);
+    return std::string_view(description).find(partsFace) != std::string_view::npos;
+}
+
 }  // namespace
 
 bool PortalShortcuts::isThere(const SessionBus& bus) {
     const auto answer = bus.ask({service, object, portalnames::properties, "Get"},
                                 g_variant_new("(ss)", face, "version"), "(v)", SessionBus::Starts::yes);
-    return static_cast<bool>(answer);
+    // The portal offers what any part of it gives that is installed: KDE's does nothing under GNOME.
+    return answer && (!GnomeLayouts::isThere(bus) || givesGnomeAny(bus));
 }
 
 PortalShortcuts::PortalShortcuts(SessionBus& bus, Words words, Patience patience)

@@ -36,7 +36,8 @@ class PortalShortcuts final : public HotKeyBinder {
         std::chrono::seconds user{120};
     };
 
-    /// Whether a desktop on that bus has such a portal. Starts it if need be, and waits for it.
+    /// Whether the desktop on that bus has such a portal, GNOME one of its own. Starts it if need be, and
+    /// waits for it.
     static bool isThere(const SessionBus& bus);
 
     /// `bus` outlives this.

@@ -306,6 +306,19 @@ TEST_F(PortalShortcutsTest, oneThatComesLaterIsAsked) {
     EXPECT_EQ(next(), granted(controlR));
 }
 
+/// The portal passes hot keys to whoever gives any, also to another desktop's part that is installed.
+TEST_F(PortalShortcutsTest, underGnomeThoseOfAnotherDesktopDoNotCount) {
+    havePortal({"agrees", "gnome"});
+    open();
+    EXPECT_FALSE(PortalShortcuts::isThere(session()));
+}
+
+TEST_F(PortalShortcutsTest, thoseOfGnomesOwnPartCount) {
+    havePortal({"agrees", "gnome", "own-part"});
+    open();
+    EXPECT_TRUE(PortalShortcuts::isThere(session()));
+}
+
 TEST_F(PortalShortcutsTest, oneThatDiesIsAskedAgainWhenItIsBack) {
     havePortal({"agrees"});
     open();

@@ -4,7 +4,8 @@
 "refuses", "fails", "waits" (for the command "answer") or "forgets" (the user's answer); "old" beside it is version 1,
 "shortcuts" the portal for hot keys too, which leaves "leave=NAME" out of its answer, agrees with a code of no meaning
 where it is "vague", and is deaf to whoever has not said who he is where it is "strict"; "only" leaves the portal for
-keys out; "layouts" is KDE's service for layouts beside it, "gnome" the name of GNOME's shell. Prints "ready", then what it is told; obeys the lines that are
+keys out; "layouts" is KDE's service for layouts beside it, "gnome" the name of GNOME's shell and of its part of the portal, which
+gives hot keys where it is "own-part". Prints "ready", then what it is told; obeys the lines that are
 written to the named pipe COMMANDS: "answer" and "refuse" (what it has been asked), "close" (takes the permission back),
 "close first" (tells so of its first session), "deaf COUNT" (takes so many keys from now on without an answer, and says
 "deaf"), "press NAME" and "release NAME", "change NAME WORDS", "end"."""
@@ -47,11 +48,12 @@ XML = """<node>
   <method name="Register"><arg type="s" direction="in"/><arg type="a{sv}" direction="in"/></method>
 </interface>
 <interface name="org.freedesktop.portal.Request"><method name="Close"/></interface>
+<interface name="org.freedesktop.impl.portal.GlobalShortcuts"/>
 <interface name="org.kde.KeyboardLayouts">
   <method name="setLayout"><arg type="u" direction="in"/><arg type="b" direction="out"/></method>
 </interface>
 </node>"""
-DESKTOP, SESSION, SHORTCUTS, REGISTRY, REQUEST, LAYOUTS = Gio.DBusNodeInfo.new_for_xml(XML).interfaces
+DESKTOP, SESSION, SHORTCUTS, REGISTRY, REQUEST, OWN_PART, LAYOUTS = Gio.DBusNodeInfo.new_for_xml(XML).interfaces
 KEYS = "org.freedesktop.portal.GlobalShortcuts"
 OBJECT = "/org/freedesktop/portal/desktop"
 how = sys.argv[3:]
@@ -198,7 +200,10 @@ if "layouts" in how:
     bus.register_object("/Layouts", LAYOUTS, on_call, None, None)
     Gio.bus_own_name_on_connection(bus, "org.kde.keyboard", Gio.BusNameOwnerFlags.NONE, None, None)
 if "gnome" in how:
-    Gio.bus_own_name_on_connection(bus, "org.gnome.Shell", Gio.BusNameOwnerFlags.NONE, None, None)
+    for name in ("org.gnome.Shell", "org.freedesktop.impl.portal.desktop.gnome"):
+        Gio.bus_own_name_on_connection(bus, name, Gio.BusNameOwnerFlags.NONE, None, None)
+if "own-part" in how:
+    bus.register_object(OBJECT, OWN_PART, on_call, None, None)
 loop = GLib.MainLoop()
 Gio.bus_own_name_on_connection(
     bus, "org.freedesktop.portal.Desktop", Gio.BusNameOwnerFlags.NONE, lambda *_: print("ready", flush=True), None)
