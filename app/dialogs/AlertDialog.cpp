@@ -53,11 +53,14 @@ AlertDialog::AlertDialog(const AlertText& text, QWidget* parent) : QDialog(paren
     layout->addSpacing(layout->spacing());
     layout->addWidget(makeButtons(text));
     layout->setSizeConstraint(QLayout::SetFixedSize);
+    // Else the leftmost gets it, which is another one in GNOME's order, and Return means whichever has it.
+    m_default->setFocus();
 }
 
 QWidget* AlertDialog::makeButtons(const AlertText& text) {
     auto* buttons = new QDialogButtonBox;
-    buttons->addButton(literal(text.defaultButton), QDialogButtonBox::AcceptRole)->setDefault(true);
+    m_default = buttons->addButton(literal(text.defaultButton), QDialogButtonBox::AcceptRole);
+    m_default->setDefault(true);
     if (!text.alternateButton.isEmpty())
         buttons->addButton(literal(text.alternateButton), QDialogButtonBox::RejectRole);
     if (!text.otherButton.isEmpty()) {

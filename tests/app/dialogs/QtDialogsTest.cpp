@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -85,6 +86,34 @@ TEST(RunAlertTest, takesReturnForTheDefaultButton) {
     EXPECT_EQ(answerAfter(question, [](QWidget& alert) { press(alert, Qt::Key_Return); }),
               AlertAnswer::defaultButton);
 }
+
+/// Desktops have their buttons in orders of their own, and the first one need not be the default one.
+class AlertOrderTest : public testing::TestWithParam<int> {
+  protected:
+    AlertOrderTest() {
+        qApp->setStyleSheet(QStringLiteral("QDialogButtonBox { button-layout: %1 }").arg(GetParam()));
+    }
+    ~AlertOrderTest() override { qApp->setStyleSheet({}); }
+};
+
+TEST_P(AlertOrderTest, returnAndSpaceMeanTheDefaultButtonInEachOrder) {
+    AlertText three = question;
+    three.otherButton = QStringLiteral("Never & ever");
+    for (const int key : {Qt::Key_Return, Qt::Key_Space}) {
+        const auto pressIt = [key](QWidget& alert) {
+            EXPECT_EQ(alert.focusWidget(), &button(alert, "Yes && go"));
+            press(alert, key);
+            QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
+            if (alert.focusWidget() != nullptr) QCoreApplication::sendEvent(alert.focusWidget(), &release);
+            alert.close();
+        };
+        EXPECT_EQ(answerAfter(three, pressIt), AlertAnswer::defaultButton);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Orders, AlertOrderTest,
+                         testing::Values(QDialogButtonBox::WinLayout, QDialogButtonBox::MacLayout,
+                                         QDialogButtonBox::KdeLayout, QDialogButtonBox::GnomeLayout));
 
 TEST(RunAlertTest, takesEscapeAndCloseForTheAlternateButton) {
     EXPECT_EQ(answerAfter(question, [](QWidget& alert) { press(alert, Qt::Key_Escape); }),
