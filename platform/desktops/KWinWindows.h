@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "platform/XWindowFocus.h"
 #include "platform/desktops/ForeignWindows.h"
 #include "platform/desktops/KWinScripts.h"
-#include "platform/desktops/XWindowFocus.h"
 
 /// The ordinary windows and dialogs that KWin shows.
 class KWinWindows final : public ForeignWindows {

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "platform/XWindowFocus.h"
 #include "platform/desktops/SwayConnection.h"
-#include "platform/desktops/XWindowFocus.h"
 
 /// What sway tells of its windows and keyboards, asked for each time. A sway that has gone knows nothing.
 class SwayDesktop final : public XWindowFocus {

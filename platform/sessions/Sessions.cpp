@@ -11,13 +11,17 @@
 
 namespace {
 
+Result<std::unique_ptr<Session>> openWayland(Clock& clock, SessionUse use) {
+    return wayland::openSession(clock, use, x11::openWindowFocus);
+}
+
 /// Windows are X11 windows where the compositor has an X server, and else its own.
 constexpr std::array allKinds = {
     SessionKind{.name = "wayland",
                 .toolkit = "xcb;wayland",
                 .check = wayland::checkDisplay,
                 .examine = wayland::examineSession,
-                .open = wayland::openSession},
+                .open = openWayland},
     SessionKind{.name = "x11",
                 .toolkit = "xcb",
                 .check = x11::checkDisplay,

@@ -102,8 +102,11 @@ class NoGrabs final : public KeyGrabber {
 
 class WaylandSession final : public Session {
   public:
-    WaylandSession(std::unique_ptr<WaylandConnection> connection, Clock& clock, SessionUse use)
-        : m_connection(std::move(connection)), m_clock(clock), m_use(use) {
+    using FocusOpener = std::unique_ptr<XWindowFocus> (*)();
+
+    WaylandSession(std::unique_ptr<WaylandConnection> connection, Clock& clock, SessionUse use,
+                   FocusOpener openFocus)
+        : m_connection(std::move(connection)), m_clock(clock), m_use(use), m_openFocus(openFocus) {
         m_seat.observe([this] { followSeat(); });
         if (m_seat.repeat()) m_keys.setRepeatRule(ruleOf(*m_seat.repeat()));
         if (m_signals) m_keys.listenTo(*m_signals);
@@ -161,6 +164,11 @@ class WaylandSession final : public Session {
         // Elsewhere nobody could be asked.
         return m_lock ? static_cast<EventMonitor&>(m_lockAwareMonitor) : m_keys;
     }
+    /// Sway is asked for it by the same connection as for all else.
+    std::unique_ptr<XWindowFocus> focusAmongXWindows() const {
+        if (m_desktop.isKde()) return std::make_unique<KWinXWindows>(SessionBus::addressOfProcess());
+        return m_sway || isForScripts() ? nullptr : m_openFocus();
+    }
     bool hasLockerKeyboard() { return m_lock && m_lock->isLocked(); }
     std::unique_ptr<Pressing> makePressing() {
         if (m_desktop.layouts() == nullptr) {
@@ -195,6 +203,7 @@ class WaylandSession final : public Session {
     std::unique_ptr<WaylandConnection> m_connection;
     Clock& m_clock;
     SessionUse m_use;
+    FocusOpener m_openFocus;
     std::unique_ptr<SwayDesktop> m_sway = openSway();
     std::unique_ptr<SwayLock> m_lock = openSwayLock(m_clock);
     DesktopServices m_desktop{*m_connection};
@@ -215,9 +224,8 @@ class WaylandSession final : public Session {
     LockAwareMonitor m_lockAwareMonitor{m_keys, [this] { return hasLockerKeyboard(); }};
     NoEventMonitor m_noMonitor{noMonitor()};
     NoHotKeys m_noHotKeys{noHotKeys()};
-    std::unique_ptr<XWindowFocus> m_kwin =
-        m_desktop.isKde() ? std::make_unique<KWinXWindows>(SessionBus::addressOfProcess()) : nullptr;
-    WaylandWindows m_windows{m_sway ? m_sway.get() : m_kwin.get(), m_clock};
+    std::unique_ptr<XWindowFocus> m_focus = focusAmongXWindows();
+    WaylandWindows m_windows{m_sway ? m_sway.get() : m_focus.get(), m_clock};
     NoDockingTray m_tray;
     std::unique_ptr<WaylandLayers> m_layers =
         m_use == SessionUse::desktop ? std::make_unique<WaylandLayers>() : nullptr;
@@ -246,10 +254,11 @@ Result<void> checkDisplay() {
 
 std::unique_ptr<SessionCheck> examineSession() { return std::make_unique<WaylandSessionCheck>(); }
 
-Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use) {
+Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use,
+                                             std::unique_ptr<XWindowFocus> (*openFocus)()) {
     auto connection = WaylandConnection::open();
     if (!connection) return connection.error();
-    auto session = std::make_unique<WaylandSession>(std::move(connection).value(), clock, use);
+    auto session = std::make_unique<WaylandSession>(std::move(connection).value(), clock, use, openFocus);
     const auto started = session->start();
     if (!started) return started.error();
     return std::unique_ptr<Session>(std::move(session));

@@ -3,7 +3,7 @@
 
 #include "platform/Clock.h"
 #include "platform/Windows.h"
-#include "platform/desktops/XWindowFocus.h"
+#include "platform/XWindowFocus.h"
 
 namespace wayland {
 
@@ -14,7 +14,7 @@ class WaylandWindows final : public Windows {
     WaylandWindows(XWindowFocus* compositor, Clock& clock) : m_compositor(compositor), m_clock(clock) {}
 
     void activate(WindowId window, std::uint32_t userTime) override;
-    /// Compositors pass the focus on by themselves.
+    /// Compositors pass the focus on by themselves; nothing is given back.
     void awaitFocusElsewhere(WindowId hidden) override;
 
   private:

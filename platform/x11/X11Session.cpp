@@ -14,6 +14,7 @@
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/watch/X11EventManager.h"
 #include "platform/x11/watch/X11KeyboardLayout.h"
+#include "platform/x11/windows/EwmhFocus.h"
 #include "platform/x11/windows/X11DockingTray.h"
 #include "platform/x11/windows/X11ScriptDesktop.h"
 #include "platform/x11/windows/X11Windows.h"
@@ -185,6 +186,12 @@ std::unique_ptr<SessionCheck> examineSession() {
 
 Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use) {
     return use == SessionUse::scripts ? openForScripts(clock) : openForDesktop(clock);
+}
+
+std::unique_ptr<XWindowFocus> openWindowFocus() {
+    auto connection = XConnection::open();
+    if (!connection) return nullptr;
+    return std::make_unique<EwmhFocus>(std::move(connection).value());
 }
 
 }  // namespace x11

@@ -3,6 +3,7 @@
 
 #include "platform/Session.h"
 #include "platform/SessionCheck.h"
+#include "platform/XWindowFocus.h"
 
 namespace x11 {
 
@@ -15,5 +16,9 @@ std::unique_ptr<SessionCheck> examineSession();
 /// The session of the X server at $DISPLAY. For SessionUse::desktop it needs only that the server shows
 /// windows.
 Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use);
+
+/// Who gives the focus among the windows of the server at $DISPLAY, for other kinds of session; null where
+/// there is none.
+std::unique_ptr<XWindowFocus> openWindowFocus();
 
 }  // namespace x11

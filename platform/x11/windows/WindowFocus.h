@@ -28,6 +28,8 @@ class WindowFocus {
     /// The manager's account; XCB_WINDOW_NONE if it has none or there is no manager.
     xcb_window_t activeWindow() const;
 
+    /// From then on the manager takes it for the time of the user's last input to the window.
+    void date(xcb_window_t window, std::uint32_t time) const;
     /// Sent, not awaited. `time` is the server's at the user's last input; 0 if there was none.
     void request(xcb_window_t window, Source source, std::uint32_t time) const;
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/windows/X11Windows.h"
 
-#include <array>
-#include <span>
 #include <utility>
 
 #include "platform/Clock.h"
@@ -21,17 +19,13 @@ X11Windows::X11Windows(XConnection connection, Clock& clock)
       m_tree(m_connection),
       m_serverClock(m_connection),
       m_clock(clock) {
-    const auto atoms = m_connection.atoms(
-        std::array{"_NET_SUPPORTING_WM_CHECK", "_NET_WM_USER_TIME", "_NET_WM_USER_TIME_WINDOW"});
-    m_managerCheck = atoms[0];
-    m_userTime = atoms[1];
-    m_userTimeWindow = atoms[2];
+    m_managerCheck = m_connection.atom("_NET_SUPPORTING_WM_CHECK");
 }
 
 void X11Windows::activate(WindowId window, std::uint32_t userTime) {
     m_focusBefore = m_focus.holder();
     const std::uint32_t time = userTime != 0 ? userTime : m_serverClock.now();
-    setUserTime(window, time);
+    m_focus.date(window, time);
     if (hasWindowManager()) {
         m_focus.request(window, WindowFocus::Source::application, time);
     } else {
@@ -68,12 +62,6 @@ void X11Windows::giveFocusBack(WindowId hidden) const {
     if (m_focusBefore != XCB_INPUT_FOCUS_POINTER_ROOT && !m_tree.isOnScreen(m_focusBefore)) return;
     xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_focusBefore, XCB_CURRENT_TIME);
     m_connection.roundTrip();
-}
-
-void X11Windows::setUserTime(WindowId window, std::uint32_t time) const {
-    const xcb_window_t separate = Property(m_connection, window, m_userTimeWindow).number(XCB_ATOM_WINDOW);
-    const xcb_window_t dated = separate != XCB_WINDOW_NONE ? separate : static_cast<xcb_window_t>(window);
-    Property(m_connection, dated, m_userTime).write(XCB_ATOM_CARDINAL, std::span(&time, 1));
 }
 
 }  // namespace x11

@@ -25,16 +25,12 @@ class X11Windows : public Windows {
     bool isFocusElsewhere(WindowId hidden) const;
     void giveFocusBack(WindowId hidden) const;
 
-    void setUserTime(WindowId window, std::uint32_t time) const;
-
     XConnection m_connection;
     WindowFocus m_focus;
     WindowTree m_tree;
     ServerClock m_serverClock;
     Clock& m_clock;
     xcb_atom_t m_managerCheck = XCB_ATOM_NONE;
-    xcb_atom_t m_userTime = XCB_ATOM_NONE;
-    xcb_atom_t m_userTimeWindow = XCB_ATOM_NONE;
     xcb_window_t m_focusBefore = XCB_WINDOW_NONE;
 };
 

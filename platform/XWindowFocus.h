@@ -6,7 +6,7 @@
 
 #include "platform/Result.h"
 
-/// A Wayland compositor that shows X11 windows too, asked for the focus among them.
+/// Who gives the focus among the X11 windows that a Wayland compositor shows too.
 class XWindowFocus {
   public:
     virtual ~XWindowFocus() = default;

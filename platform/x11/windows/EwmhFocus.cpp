@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "platform/x11/windows/EwmhFocus.h"
+
+#include <utility>
+
+namespace x11 {
+
+EwmhFocus::EwmhFocus(XConnection connection)
+    : m_connection(std::move(connection)),
+      m_focus(m_connection),
+      m_tree(m_connection),
+      m_serverClock(m_connection) {}
+
+Result<void> EwmhFocus::focusXWindow(std::uint32_t xWindow) {
+    if (!m_tree.isOnScreen(xWindow)) return Error{"The window is not on the screen.", ""};
+    const xcb_timestamp_t time = m_serverClock.now();
+    m_focus.date(xWindow, time);
+    m_focus.request(xWindow, WindowFocus::Source::application, time);
+    m_connection.roundTrip();
+    return {};
+}
+
+}  // namespace x11
