@@ -118,9 +118,18 @@ Step<> PortalLink::open(RunWait& wait) {
         }
         if (const auto looked = look(); !looked) return looked.error();
         if (m_isOpened) break;
-        if (auto waited = wait.waitUntil(m_clock.now() + betweenLooks); !waited) return waited;
+        if (auto waited = wait.waitUntil(m_clock.now() + betweenLooks); !waited) {
+            withdraw();
+            return waited;
+        }
     }
     return {};
+}
+
+/// With the program its question goes: a yes that comes later would be for nobody, and kept for ever.
+void PortalLink::withdraw() {
+    m_isNeeded = false;
+    m_process.leave(timeToEnd);
 }
 
 void PortalLink::rest() {

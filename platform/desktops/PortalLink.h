@@ -39,7 +39,8 @@ class PortalLink final : public RunCompanion {
     PortalLink(const PortalLink&) = delete;
     PortalLink& operator=(const PortalLink&) = delete;
 
-    /// Waits until the desktop lets keys be pressed. Fails with what can be done about it.
+    /// Waits until the desktop lets keys be pressed. Fails with what can be done about it. Where the wait is
+    /// halted the desktop need not be answered any more.
     Step<> open(RunWait& wait);
     /// The keys of a run are up, and it is over.
     void rest();
@@ -61,6 +62,7 @@ class PortalLink final : public RunCompanion {
 
   private:
     Result<void> begin();
+    void withdraw();
     bool say(const PortalMessage& message);
     void read();
 

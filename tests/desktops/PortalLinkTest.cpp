@@ -108,10 +108,17 @@ TEST_F(PortalLinkTest, anAnswerThatComesLateIsWaitedFor) {
 
 TEST_F(PortalLinkTest, whoeverStopsTheRunNeedNotAnswer) {
     havePortal({"forgets"});
-    Wait wait([&] { return portal().count("asked") > 0 ? Step<>(Halt::cancelled()) : Step<>(); });
-    const auto opened = link()->open(wait);
+    std::size_t questions = 1;
+    Wait wait([&] { return portal().count("asked") < questions ? Step<>() : Step<>(Halt::cancelled()); });
+    const auto line = link();
+    const auto opened = line->open(wait);
     ASSERT_FALSE(opened);
     EXPECT_TRUE(opened.error().isCancelled());
+    // The question goes, and may be asked again.
+    EXPECT_TRUE(hears("given up"));
+    questions = 2;
+    EXPECT_FALSE(line->open(wait));
+    EXPECT_EQ(portal().count("asked"), 2U);
 }
 
 TEST_F(PortalLinkTest, anAnswerThatNeverComesIsNotWaitedForForEver) {
