@@ -12,9 +12,10 @@ EwmhFocus::EwmhFocus(XConnection connection)
       m_serverClock(m_connection) {}
 
 Result<void> EwmhFocus::focusXWindow(std::uint32_t xWindow) {
-    if (!m_tree.isOnScreen(xWindow)) return Error{"The window is not on the screen.", ""};
     const xcb_timestamp_t time = m_serverClock.now();
+    // A window that is only about to appear gets the focus for its date.
     m_focus.date(xWindow, time);
+    if (!m_tree.isOnScreen(xWindow)) return Error{"The window is not on the screen.", ""};
     m_focus.request(xWindow, WindowFocus::Source::application, time);
     m_connection.roundTrip();
     return {};
