@@ -33,8 +33,12 @@ CapabilityState fullyIf(bool isThere, Means means, Lack lack) {
                    : CapabilityState{Extent::nothing, Means::none, lack};
 }
 
-CapabilityState overlayState(const WaylandConnection& connection) {
+CapabilityState overlayState(const WaylandConnection& connection, const DesktopServices& desktop) {
     if (connection.offers(zwlr_layer_shell_v1_interface)) return {Extent::fully, Means::layer, Lack::nothing};
+    // GNOME has X11 windows that ask for no frame above all others, full-screen ones too.
+    const char* const display = std::getenv("DISPLAY");
+    if (desktop.isGnome() && display != nullptr && *display != '\0')
+        return {Extent::fully, Means::xWindow, Lack::nothing};
     return {Extent::partly, Means::ordinaryWindow, Lack::layers};
 }
 
@@ -79,7 +83,7 @@ SessionCapabilities WaylandSessionCheck::capabilities() const {
             .pressing = pressing,
             .text = textState(pressing, desktop),
             .clipboard = fullyIf(hasClipboard, Means::dataControl, Lack::dataControl),
-            .overlay = overlayState(*connection.value()),
+            .overlay = overlayState(*connection.value(), desktop),
             .windows = windowsState(desktop),
             .tray = {.lack = Lack::tray}};
 }
