@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "compositor/Compositor.h"
-#include "support/Child.h"
+#include "compositor/UserSession.h"
 
 /// A private KWin without a screen, with a session bus and a home of its own and nobody else on it; ends with
 /// the object. It runs as nobody where the test runs as root. One that cannot be started fails the test by an
@@ -28,7 +28,7 @@ class KWin final : public Compositor {
     explicit KWin(const Options& options);
 
     /// With the session bus; no X server among it unless asked for.
-    const std::map<std::string, std::string>& environment() const override { return m_environment; }
+    const std::map<std::string, std::string>& environment() const override { return m_session.environment(); }
     bool focus(const std::string& title) const override;
     void close(const std::string& title) const override;
     bool hasFocus(const std::string& title) const override { return front() == title; }
@@ -36,34 +36,31 @@ class KWin final : public Compositor {
     /// The title of the window that has the focus, empty without one.
     std::string front() const;
     /// The compositor's socket, an absolute path.
-    std::string socket() const { return m_folder.file("kwin"); }
+    std::string socket() const { return m_session.file("kwin"); }
     Child& program() { return *m_program; }
 
-    /// What a service on the bus answers (gdbus-call(1) without the connection).
-    std::string call(const std::vector<std::string>& arguments) const;
-    /// Another program of this desktop's user, with that environment beside the desktop's, and with what it
-    /// writes in the file log().
+    // The user's programs, his files and his bus (UserSession).
+    std::string call(const std::vector<std::string>& arguments) const { return m_session.call(arguments); }
     std::unique_ptr<Child> start(const std::vector<std::string>& command, const std::string& log,
-                                 const std::map<std::string, std::string>& more = {}) const;
-    std::string log(const std::string& name) const { return contentOf(m_folder.file(name)); }
-    /// A file of that user, in a folder that is there; its path.
-    std::string put(const std::string& name, const std::string& content) const;
+                                 const std::map<std::string, std::string>& more = {}) const {
+        return m_session.start(command, log, more);
+    }
+    std::string log(const std::string& name) const { return m_session.log(name); }
+    std::string put(const std::string& name, const std::string& content) const {
+        return m_session.put(name, content);
+    }
 
     /// As a crash would, and another one in its place. Programs that it showed have lost it.
     void comeAgain();
 
   private:
-    void startBus();
     void startCompositor();
     void startPortal();
-    void awaitName(const std::string& name, const std::string& object, const std::string& log) const;
     /// What a script in KWin prints, with `print` alone: one line.
     std::string run(const std::string& script) const;
 
-    TemporaryFolder m_folder;
+    UserSession m_session;
     Options m_options;
-    std::map<std::string, std::string> m_environment;
-    std::unique_ptr<Child> m_bus;
     std::unique_ptr<Child> m_program;
     std::vector<std::unique_ptr<Child>> m_portal;
     mutable int m_scripts = 0;
