@@ -13,7 +13,16 @@ std::ostream& operator<<(std::ostream& stream, const ScreenArea& area) {
 ScreenPicture::ScreenPicture(const Sway& sway, const std::string& screen) {
     const TemporaryFolder folder;
     outputOf({"grim", "-t", "ppm", "-o", screen, folder.file("picture")}, sway.environment());
-    const std::string content = contentOf(folder.file("picture"));
+    read(contentOf(folder.file("picture")));
+}
+
+ScreenPicture::ScreenPicture(const GnomeShell& shell) {
+    const TemporaryFolder folder;
+    outputOf({"convert", shell.picture("screen.png"), "-depth", "8", "ppm:" + folder.file("picture")});
+    read(contentOf(folder.file("picture")));
+}
+
+void ScreenPicture::read(const std::string& content) {
     std::istringstream stream(content);
     std::string kind;
     int most = 0;
@@ -22,7 +31,7 @@ ScreenPicture::ScreenPicture(const Sway& sway, const std::string& screen) {
     const std::size_t count = static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height);
     const auto start = static_cast<std::size_t>(stream.tellg());
     if (kind != "P6" || most != 255 || content.size() != start + 3 * count)
-        throw std::runtime_error("grim takes no picture: " + content.substr(0, 100));
+        throw std::runtime_error("this is no picture: " + content.substr(0, 100));
     m_pixels.reserve(count);
     for (std::size_t at = start; at < content.size(); at += 3) {
         m_pixels.push_back({static_cast<std::uint8_t>(content[at]),

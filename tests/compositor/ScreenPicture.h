@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "compositor/GnomeShell.h"
 #include "compositor/Sway.h"
 
 /// A rectangle of a screen's own pixels.
@@ -21,12 +22,13 @@ struct ScreenArea {
 };
 std::ostream& operator<<(std::ostream& stream, const ScreenArea& area);
 
-/// What is to be seen on one of sway's screens, as grim takes it.
+/// What is to be seen on one of sway's screens, as grim takes it, or on GNOME's, as its shell gives it.
 class ScreenPicture {
   public:
     using Colour = std::array<std::uint8_t, 3>;
 
     explicit ScreenPicture(const Sway& sway, const std::string& screen = "HEADLESS-1");
+    explicit ScreenPicture(const GnomeShell& shell);
 
     int width() const { return m_width; }
     int height() const { return m_height; }
@@ -36,6 +38,9 @@ class ScreenPicture {
     std::optional<ScreenArea> differsFrom(const ScreenPicture& other) const;
 
   private:
+    /// Takes the content of a PPM file.
+    void read(const std::string& content);
+
     int m_width = 0;
     int m_height = 0;
     std::vector<Colour> m_pixels;

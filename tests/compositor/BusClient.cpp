@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "compositor/BusClient.h"
+
+#include <stdexcept>
+
+namespace {
+
+constexpr int patience = 20'000;
+
+void check(const void* result, GError* error) {
+    if (result != nullptr) return;
+    const std::string why = error->message;
+    g_error_free(error);
+    throw std::runtime_error(why);
+}
+
+}  // namespace
+
+BusClient::BusClient(const std::string& address) {
+    GError* error = nullptr;
+    m_bus.reset(g_dbus_connection_new_for_address_sync(
+        address.c_str(),
+        GDBusConnectionFlags(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
+                             G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION),
+        nullptr, nullptr, &error));
+    check(m_bus.get(), error);
+}
+
+BusClient::Value BusClient::call(const Method& method, GVariant* parameters, const char* type) const {
+    GError* error = nullptr;
+    Value answer(g_dbus_connection_call_sync(
+        m_bus.get(), method.name, method.object, method.interface, method.member, parameters,
+        type == nullptr ? nullptr : G_VARIANT_TYPE(type), G_DBUS_CALL_FLAGS_NONE, patience, nullptr, &error));
+    check(answer.get(), error);
+    return answer;
+}
