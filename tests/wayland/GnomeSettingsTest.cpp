@@ -28,6 +28,18 @@ TEST_F(GnomeSettingsTest, nothingIsWrittenBeforeTheUserAgreesAndHeIsAskedOnce) {
     EXPECT_FALSE(shell().shows(question));
 }
 
+TEST_F(GnomeSettingsTest, whoDecidesLaterIsAskedAtTheNextStart) {
+    start("keystroke \"ab\"");
+    ASSERT_TRUE(hasFocus(question)) << log();
+    hands().stroke({xkey::escape});
+    ASSERT_TRUE(isGone(question));
+    program().signal(15);
+    program().wait();
+    EXPECT_TRUE(listsNone());
+    start("keystroke \"ab\"");
+    EXPECT_TRUE(hasFocus(question)) << log();
+}
+
 TEST_F(GnomeSettingsTest, whoNeverAgreesIsNotAskedAgain) {
     start("keystroke \"ab\"");
     ASSERT_TRUE(hasFocus(question)) << log();
@@ -69,6 +81,24 @@ TEST_F(GnomeSettingsTest, whatAnotherShortcutOfTheUsersHasIsRefusedByItsName) {
     EXPECT_NE(assistant({"list"}).find("your own shortcut “Editor” in GNOME's settings has it"),
               std::string::npos)
         << assistant({"list"});
+}
+
+TEST_F(GnomeSettingsTest, macrosHaveHotKeysOfTheirOwnUnlessTheyAreGnomesOwn) {
+    constexpr const char* lines = "tell application \"System Events\" to keystroke \"cd\"\n";
+    session().put("home/.local/share/keyrill/free.keyrill", lines);
+    session().put("home/.local/share/keyrill/taken.keyrill", lines);
+    // Control and Super with B; Super with A, by which GNOME shows all programs.
+    session().put("home/.config/keyrill/macros.conf",
+                  "[free.keyrill]\nhotKeyCode=11\nhotKeyFlags=1310720\n"
+                  "[taken.keyrill]\nhotKeyCode=0\nhotKeyFlags=1048576\n");
+    agreeToHotKeys();
+    start("keystroke \"a\"");
+    ASSERT_TRUE(lists({"macro-free%2Ekeyrill", "multiplePlay", "play", "record", "stop"})) << list();
+    ASSERT_TRUE(eventually([this] { return isTaken(xkey::b); }));
+    const Field field(shell(), Field::Toolkit::gtk);
+    strokeHotKey(xkey::b);
+    allowKeys();
+    EXPECT_EQ(field.text("cd"), "cd");
 }
 
 TEST_F(GnomeSettingsTest, whatTheUserBindsOtherwiseWorksSo) {
