@@ -10,6 +10,8 @@ import unittest
 SOURCE, PROGRAMS = pathlib.Path(sys.argv[1]), sys.argv[2:]
 # What the compiler itself brings.
 TOOLCHAIN = {"glibc", "gcc-12"}
+# Pictures and icons of the program are of this kind.
+TOOLKIT_PLUGINS = ["/qt6/plugins/imageformats/libqsvg.so", "/qt6/plugins/iconengines/libqsvgicon.so"]
 
 
 def output(*command):
@@ -82,10 +84,16 @@ class ControlTest(unittest.TestCase):
 
     def test_plugins_and_programs_that_are_not_linked_are_needed_by_name(self):
         fields = self.binaries["keyrill"]
-        self.assertIn("libqt6svg6", names(fields["Depends"]))
+        self.assertLessEqual(owners_of(TOOLKIT_PLUGINS), names(fields["Depends"]))
         # By Workspace; without it no page opens, and all else works.
         self.assertIn(b"xdg-open", pathlib.Path(PROGRAMS[0]).read_bytes())
         self.assertIn("xdg-utils", names(fields["Recommends"]))
+
+    def test_the_toolkits_own_words_are_there_in_each_language_of_the_program(self):
+        languages = [path.stem.removeprefix("keyrill_") for path in (SOURCE / "app/languages").glob("keyrill_*.ts")]
+        self.assertIn("de", languages)
+        owners = owners_of(f"/usr/share/qt6/translations/qtbase_{language}.qm" for language in languages)
+        self.assertLessEqual(owners, names(self.binaries["keyrill"]["Depends"]) & section("run"))
 
     def test_the_service_needs_who_starts_it_and_who_is_asked(self):
         needs = names(self.binaries["keyrill-wayland-access"]["Depends"])
