@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""assistant.py press NAME | state NAME | names: performs the main action of the object of that name in Keyrill's windows and
-menus, as assistive technology does; prints "checked" or "unchecked" for it; or prints the names of all that are offered. Status 1
-where there is no such object after 30 s."""
+"""assistant.py press NAME | state NAME | names | focus PROGRAM NAME: performs the main action of the object of that name in
+Keyrill's windows and menus, as assistive technology does; prints "checked" or "unchecked" for it; prints the names of all that are
+offered; or gives the focus to the text field of that name in a program's. Status 1 where there is no such object after 30 s."""
 import sys
 import time
 import warnings
@@ -24,11 +24,11 @@ def objects(item):
             yield from objects(child)
 
 
-def objects_of_keyrill():
+def objects_of(name):
     desktop = Atspi.get_desktop(0)
     for index in range(desktop.get_child_count()):
         program = desktop.get_child_at_index(index)
-        if program is not None and program.get_name().lower() == "keyrill":
+        if program is not None and program.get_name().lower() == name:
             yield from objects(program)
 
 
@@ -37,8 +37,8 @@ def is_offered(item):
     return item.get_state_set().contains(Atspi.StateType.SHOWING) or item.get_role_name() == "menu item"
 
 
-def find(name):
-    for item in objects_of_keyrill():
+def find_control(name):
+    for item in objects_of("keyrill"):
         action = item.get_action_iface()
         # What can only be given the focus is no control.
         if item.get_name() == name and is_offered(item) and action is not None and action.get_action_name(0) != "SetFocus":
@@ -46,25 +46,33 @@ def find(name):
     return None
 
 
-def await_object(name):
+def find_field(program, name):
+    fields = (item for item in objects_of(program) if item.get_role() == Atspi.Role.ENTRY and item.get_name() == name)
+    return next(fields, None)
+
+
+def await_object(find, *names):
     end = time.monotonic() + 30
     while time.monotonic() < end:
         try:
-            item = find(name)
+            item = find(*names)
         except gi.repository.GLib.Error:
             item = None  # It was just going.
         if item is not None:
             return item
         time.sleep(0.1)
-    sys.exit(f"assistant.py: there is no {name!r}")
+    sys.exit(f"assistant.py: there is no {names[-1]!r}")
 
 
 def main():
     verb, *names = sys.argv[1:]
     if verb == "names":
-        print("\n".join(item.get_name() for item in objects_of_keyrill() if is_offered(item)))
+        print("\n".join(item.get_name() for item in objects_of("keyrill") if is_offered(item)))
         return
-    item = await_object(*names)
+    if verb == "focus":
+        await_object(find_field, *names).get_component_iface().grab_focus()
+        return
+    item = await_object(find_control, *names)
     if verb == "press":
         item.get_action_iface().do_action(0)
     else:

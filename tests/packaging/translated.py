@@ -1,0 +1,21 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""translated.py CATALOGUE CONTEXT TEXT: what a catalogue of app/languages has for that text of that context."""
+import sys
+import xml.etree.ElementTree as ElementTree
+
+
+def main():
+    path, context, text = sys.argv[1:]
+    for group in ElementTree.parse(path).iter("context"):
+        if group.findtext("name") != context:
+            continue
+        for message in group.iter("message"):
+            if message.findtext("source") == text:
+                print(message.findtext("translation"))
+                return
+    sys.exit(f"translated.py: {path} has no {text!r} of {context}")
+
+
+if __name__ == "__main__":
+    main()
