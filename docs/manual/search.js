@@ -42,13 +42,17 @@
     };
     const has = (text, word) => placesOf(text, word).length > 0;
 
-    const ready = section => ({
-        ...section,
-        heading: folded(section.title),
-        chapter: folded(section.page),
-        words: folded(section.words || ""),
-        body: folded(section.text),
-    });
+    const ready = section => {
+        const text = section.text.join("");
+        return {
+            ...section,
+            text,
+            heading: folded(section.title),
+            chapter: folded(section.page),
+            words: folded(section.words || ""),
+            body: folded(text),
+        };
+    };
     const pageOf = section => section.url.split("#")[0];
     const isTranslation = typeof translatedIndex !== "undefined";
     const own = (isTranslation ? translatedIndex : manualIndex).map(ready);
