@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""assistant.py press NAME | state NAME | names | focus PROGRAM NAME: performs the main action of the object of that name in
-Keyrill's windows and menus, as assistive technology does; prints "checked" or "unchecked" for it; prints the names of all that are
-offered; or gives the focus to the text field of that name in a program's. Status 1 where there is no such object after 30 s."""
+"""assistant.py press NAME | state NAME | names | part ROLE PROGRAM NAME | field PROGRAM NAME: performs the main action of the object
+of that name in Keyrill's windows and menus, as assistive technology does; prints "checked" or "unchecked" for it; prints the names
+of all that are offered; awaits a heading or link in a program's window; or gives the focus to a text field there. Status 1 where
+there is no such object after 30 s."""
 import sys
 import time
 import warnings
@@ -46,9 +47,9 @@ def find_control(name):
     return None
 
 
-def find_field(program, name):
-    fields = (item for item in objects_of(program) if item.get_role() == Atspi.Role.ENTRY and item.get_name() == name)
-    return next(fields, None)
+def find_part(role, program, name):
+    parts = (item for item in objects_of(program) if item.get_role_name() == role and item.get_name() == name)
+    return next(parts, None)
 
 
 def await_object(find, *names):
@@ -64,17 +65,29 @@ def await_object(find, *names):
     sys.exit(f"assistant.py: there is no {names[-1]!r}")
 
 
+def press(item):
+    try:
+        item.get_action_iface().do_action(0)
+    except gi.repository.GLib.Error as error:
+        # What opens a dialog answers when that is closed.
+        if "Did not receive a reply" not in error.message:
+            raise
+
+
 def main():
     verb, *names = sys.argv[1:]
     if verb == "names":
         print("\n".join(item.get_name() for item in objects_of("keyrill") if is_offered(item)))
         return
-    if verb == "focus":
-        await_object(find_field, *names).get_component_iface().grab_focus()
+    if verb == "part":
+        await_object(find_part, *names)
+        return
+    if verb == "field":
+        await_object(find_part, "entry", *names).get_component_iface().grab_focus()
         return
     item = await_object(find_control, *names)
     if verb == "press":
-        item.get_action_iface().do_action(0)
+        press(item)
     else:
         is_checked = item.get_state_set().contains(Atspi.StateType.CHECKED)
         print("checked" if is_checked else "unchecked")

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""translated.py CATALOGUE CONTEXT TEXT: what a catalogue of app/languages has for that text of that context."""
+"""translated.py CATALOGUE CONTEXT TEXT: what a catalogue of app/languages has for that text of that context, as it is shown: without
+the sign before the letter that is pressed for it."""
 import sys
 import xml.etree.ElementTree as ElementTree
 
@@ -12,7 +13,7 @@ def main():
             continue
         for message in group.iter("message"):
             if message.findtext("source") == text:
-                print(message.findtext("translation"))
+                print(message.findtext("translation").replace("&", ""))
                 return
     sys.exit(f"translated.py: {path} has no {text!r} of {context}")
 
