@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""assistant.py press NAME | state NAME | names | part ROLE PROGRAM NAME | field PROGRAM NAME: performs the main action of the object
-of that name in Keyrill's windows and menus, as assistive technology does; prints "checked" or "unchecked" for it; prints the names
-of all that are offered; awaits a heading or link in a program's window; or gives the focus to a text field there. Status 1 where
-there is no such object after 30 s."""
+"""assistant.py press NAME | state NAME | names | part ROLE PROGRAM NAME | field PROGRAM NAME: performs the main action of the
+object of that name in Keyrill's windows and menus, as assistive technology does; prints "checked" or "unchecked" for it; prints
+the names of all that are offered; awaits a heading or link in a program's window; or gives the focus to a text field there. Status
+1 where there is no such object after 30 s."""
 import sys
 import time
 import warnings

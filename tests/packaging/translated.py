@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""translated.py CATALOGUE CONTEXT TEXT: what a catalogue of app/languages has for that text of that context, as it is shown: without
-the sign before the letter that is pressed for it."""
+"""translated.py CATALOGUE CONTEXT TEXT: what a catalogue of app/languages has for that text of that context, as it is shown:
+without the sign before the letter that is pressed for it."""
 import sys
 import xml.etree.ElementTree as ElementTree
 
