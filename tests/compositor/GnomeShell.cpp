@@ -142,7 +142,7 @@ void GnomeShell::set(const Setting& setting) const {
 }
 
 std::string GnomeShell::picture(const std::string& name) const {
-    const std::string file = m_session.file(name);
+    std::string file = m_session.file(name);
     constexpr const char* service = "org.gnome.Shell.Screenshot";
     const auto answer = m_bus->call({service, "/org/gnome/Shell/Screenshot", service, "Screenshot"},
                                     g_variant_new("(bbs)", FALSE, FALSE, file.c_str()), "(bs)");
