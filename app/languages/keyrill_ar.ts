@@ -886,7 +886,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>A loop is left with “exit repeat”, the script with “return”.</source>
-        <translation>يُخرج من الحلقة بالأمر «exit repeat»، ومن السكربت بالأمر «return».</translation>
+        <translation>للخروج من الحلقة استخدم الأمر «exit repeat»، وللخروج من السكربت الأمر «return».</translation>
     </message>
     <message>
         <source>Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
@@ -946,7 +946,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>“delay” counts seconds: delay 0.5.</source>
-        <translation>يعدّ الأمر «delay» الثواني: ⁦delay 0.5⁩.</translation>
+        <translation>تُكتب قيمة «delay» بالثواني: ⁦delay 0.5⁩.</translation>
     </message>
     <message>
         <source>A dialog gives a record; what was typed there is taken with: text returned of n.</source>
@@ -967,7 +967,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>This compares and changes nothing; a variable is set with “to”: set %1 to …</source>
-        <translation>هذه مقارنة لا تغيّر شيئا؛ تُعيَّن قيمة المتغير بالكلمة «to»: ⁦set %1 to⁩ …</translation>
+        <translation>هذه مقارنة لا تغيّر شيئا؛ تُعيَّن قيمة المتغير بالكلمة «to»: ⁦set %1 to ⁩…</translation>
     </message>
     <message>
         <source>The script has no handler of that name: on %1(…) … end %1.</source>
@@ -992,7 +992,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>A handler has variables of its own; to share this one write there: global %1.</source>
-        <translation>للمعالج متغيراته الخاصة؛ لمشاركة هذا المتغير اكتب فيه: ⁦global %1⁩.</translation>
+        <translation>للمعالج متغيراته الخاصة؛ لمشاركة هذا المتغير اكتب في المعالج: ⁦global %1⁩.</translation>
     </message>
     <message>
         <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
@@ -1012,15 +1012,15 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>No block is open here; an “if” with its statement in one line has no “else”.</source>
-        <translation>لا توجد هنا كتلة مفتوحة؛ وليس لعبارة «if» المكتوبة مع أمرها في سطر واحد «else».</translation>
+        <translation>لا توجد هنا كتلة مفتوحة؛ ولا تأخذ عبارة «if» المكتوبة مع أمرها في سطر واحد «else».</translation>
     </message>
     <message>
         <source>No block is open here; an “if” with its statement in one line has no “end if”.</source>
-        <translation>لا توجد هنا كتلة مفتوحة؛ وليس لعبارة «if» المكتوبة مع أمرها في سطر واحد «end if».</translation>
+        <translation>لا توجد هنا كتلة مفتوحة؛ ولا تأخذ عبارة «if» المكتوبة مع أمرها في سطر واحد «end if».</translation>
     </message>
     <message>
         <source>No block is open here; a “tell … to” in one line has no “end tell”.</source>
-        <translation>لا توجد هنا كتلة مفتوحة؛ وليس لعبارة «⁦tell … to⁩» المكتوبة في سطر واحد «end tell».</translation>
+        <translation>لا توجد هنا كتلة مفتوحة؛ ولا تأخذ عبارة «⁦tell … to⁩» المكتوبة في سطر واحد «end tell».</translation>
     </message>
     <message>
         <source>No block is open here; this line is one too many.</source>
@@ -1028,15 +1028,15 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>No “if” is open here; an “if” with its statement in one line has no “else”.</source>
-        <translation>لا توجد هنا «if» مفتوحة؛ وليس لعبارة «if» المكتوبة مع أمرها في سطر واحد «else».</translation>
+        <translation>لا توجد هنا «if» مفتوحة؛ ولا تأخذ عبارة «if» المكتوبة مع أمرها في سطر واحد «else».</translation>
     </message>
     <message>
         <source>No “if” is open here; an “if” with its statement in one line has no “end if”.</source>
-        <translation>لا توجد هنا «if» مفتوحة؛ وليس لعبارة «if» المكتوبة مع أمرها في سطر واحد «end if».</translation>
+        <translation>لا توجد هنا «if» مفتوحة؛ ولا تأخذ عبارة «if» المكتوبة مع أمرها في سطر واحد «end if».</translation>
     </message>
     <message>
         <source>No “tell” is open here; a “tell … to” in one line has no “end tell”.</source>
-        <translation>لا توجد هنا «tell» مفتوحة؛ وليس لعبارة «⁦tell … to⁩» المكتوبة في سطر واحد «end tell».</translation>
+        <translation>لا توجد هنا «tell» مفتوحة؛ ولا تأخذ عبارة «⁦tell … to⁩» المكتوبة في سطر واحد «end tell».</translation>
     </message>
     <message>
         <source>No “%1” is open here; the block that begins in line %2 has no “end” of its own.</source>
@@ -1102,11 +1102,11 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
-        <translation>يُضغط المفتاح ويُحرَّر هكذا: ⁦keystroke return⁩، ⁦key code 53⁩. ويبقى مضغوطا هكذا: ⁦key down 36⁩، ويُحرَّر هكذا: ⁦key up 36⁩.</translation>
+        <translation>يُضغط المفتاح ويُفلت هكذا: ⁦keystroke return⁩ أو ⁦key code 53⁩. ويبقى مضغوطا هكذا: ⁦key down 36⁩، ويُفلت هكذا: ⁦key up 36⁩.</translation>
     </message>
     <message>
         <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
-        <translation>ليس للماكرو فأرة؛ اضغط المفاتيح التي تؤدي الغرض نفسه، مثل Tab و Return.</translation>
+        <translation>لا يستخدم الماكرو الفأرة؛ اضغط المفاتيح التي تؤدي الغرض نفسه، مثل Tab و Return.</translation>
     </message>
     <message>
         <source>Conditions are joined with “and” or “or”.</source>
@@ -1134,7 +1134,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
-        <translation>ليس للماكرو ملفات؛ يأتي النص من «the clipboard» أو من مربع حوار.</translation>
+        <translation>لا يتعامل الماكرو مع الملفات؛ يأتي النص من «the clipboard» أو من مربع حوار.</translation>
     </message>
     <message>
         <source>A variable is set with “to”: set x to x + 1.</source>
@@ -1170,7 +1170,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
-        <translation>ليس لعبارة «if» في سطر واحد «else»؛ اكتبها في عدة أسطر تنتهي بعبارة «end if».</translation>
+        <translation>لا تأخذ عبارة «if» المكتوبة في سطر واحد «else»؛ اكتبها في عدة أسطر تنتهي بعبارة «end if».</translation>
     </message>
     <message>
         <source>Decimals stand behind a point: 0.5.</source>
@@ -1178,11 +1178,11 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>“delay” counts seconds, without a unit: delay 0.5.</source>
-        <translation>يعدّ الأمر «delay» الثواني، من دون وحدة: ⁦delay 0.5⁩.</translation>
+        <translation>تُكتب قيمة «delay» بالثواني، من دون وحدة: ⁦delay 0.5⁩.</translation>
     </message>
     <message>
         <source>A key is let go with: key up &quot;a&quot;.</source>
-        <translation>يُحرَّر المفتاح هكذا: ⁦key up &quot;a&quot;⁩.</translation>
+        <translation>يُفلت المفتاح هكذا: ⁦key up &quot;a&quot;⁩.</translation>
     </message>
     <message>
         <source>Text is typed with “keystroke”, a key is pressed by its number: key code 36.</source>
@@ -1190,7 +1190,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>A key is held with “key down” and let go with “key up”: key down shift.</source>
-        <translation>يبقى المفتاح مضغوطا بالأمر «key down» ويُحرَّر بالأمر «key up»: ⁦key down shift⁩.</translation>
+        <translation>يبقى المفتاح مضغوطا بالأمر «key down» ويُفلت بالأمر «key up»: ⁦key down shift⁩.</translation>
     </message>
     <message>
         <source>The text in the clipboard is: the clipboard.</source>
@@ -1238,11 +1238,11 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>A block has no braces: if x = 1 then … end if.</source>
-        <translation>ليس للكتلة أقواس متعرجة: ⁦if x = 1 then … end if⁩.</translation>
+        <translation>تُكتب الكتلة من دون أقواس متعرجة: ⁦if x = 1 then … end if⁩.</translation>
     </message>
     <message>
         <source>A block has no braces; it ends with “end” and its first word: end repeat.</source>
-        <translation>ليس للكتلة أقواس متعرجة؛ فهي تنتهي بالكلمة «end» وكلمتها الأولى: ⁦end repeat⁩.</translation>
+        <translation>تُكتب الكتلة من دون أقواس متعرجة؛ فهي تنتهي بالكلمة «end» وكلمتها الأولى: ⁦end repeat⁩.</translation>
     </message>
     <message>
         <source>A line needs no colon at its end.</source>
@@ -1250,11 +1250,11 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Other letters than A to Z stand in a name between bars: |%1|.</source>
-        <translation>يوضع الاسم الذي فيه حروف غير A إلى Z بين خطين عموديين: ⁦|%1|⁩.</translation>
+        <translation>يوضع الاسم الذي فيه حروف غير الحروف من A إلى Z بين خطين عموديين: ⁦|%1|⁩.</translation>
     </message>
     <message>
         <source>Other letters than A to Z stand in a name between bars: |%1|. Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>يوضع الاسم الذي فيه حروف غير A إلى Z بين خطين عموديين: ⁦|%1|⁩. يوضع النص بين علامتي اقتباس مستقيمتين: ⁦&quot;%1&quot;⁩.</translation>
+        <translation>يوضع الاسم الذي فيه حروف غير الحروف من A إلى Z بين خطين عموديين: ⁦|%1|⁩. ويوضع النص بين علامتي اقتباس مستقيمتين: ⁦&quot;%1&quot;⁩.</translation>
     </message>
     <message>
         <source>A sign that nobody sees stands here; delete it.</source>
@@ -1263,7 +1263,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
         <extracomment>“Macros…” is an entry of the menu.</extracomment>
-        <translation>ليس الاختصار جزءا من السكربت؛ يُعيَّن في التفضيلات، أو لكل ماكرو في «وحدات الماكرو...».</translation>
+        <translation>ليس الاختصار العام جزءا من السكربت؛ يُعيَّن في التفضيلات، أو لكل ماكرو في «وحدات الماكرو...».</translation>
     </message>
     <message>
         <source>“Not equal” is written ≠ or /=.</source>
@@ -3278,19 +3278,19 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>A dialog gives a record and no text; take: button returned of %1, or text returned of %1.</source>
-        <translation>يعيد مربع الحوار سجلا (record) لا نصا؛ خذ: ⁦button returned of %1⁩، أو ⁦text returned of %1⁩.</translation>
+        <translation>يعيد مربع الحوار سجلا (record) لا نصا؛ استخدم: ⁦button returned of %1⁩، أو ⁦text returned of %1⁩.</translation>
     </message>
     <message>
         <source>An alert gives a record and no text; take: button returned of %1.</source>
-        <translation>يعيد التنبيه سجلا (record) لا نصا؛ خذ: ⁦button returned of %1⁩.</translation>
+        <translation>يعيد التنبيه سجلا (record) لا نصا؛ استخدم: ⁦button returned of %1⁩.</translation>
     </message>
     <message>
         <source>What was chosen comes in a list; take: item 1 of %1.</source>
-        <translation>يأتي ما اختير في قائمة؛ خذ: ⁦item 1 of %1⁩.</translation>
+        <translation>يأتي ما اختير في قائمة؛ استخدم: ⁦item 1 of %1⁩.</translation>
     </message>
     <message>
         <source>The loop gives a reference, which equals no text; compare: contents of %1.</source>
-        <translation>تعطي الحلقة مرجعا لا يساوي أي نص؛ قارن: ⁦contents of %1⁩.</translation>
+        <translation>تعطي الحلقة مرجعا لا يساوي أي نص؛ استخدم في المقارنة: ⁦contents of %1⁩.</translation>
     </message>
     <message>
         <source>“%1” is taken as “%1 down”.</source>
@@ -3304,7 +3304,7 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>“delay” counts seconds; %1 milliseconds are: delay %2.</source>
-        <translation>يعدّ الأمر «delay» الثواني؛ وتُكتب ⁨%1⁩ ملي ثانية هكذا: ⁦delay %2⁩.</translation>
+        <translation>تُكتب قيمة «delay» بالثواني؛ وتُكتب ⁨%1⁩ ملي ثانية هكذا: ⁦delay %2⁩.</translation>
     </message>
     <message>
         <source>This is typed as it stands; a shortcut is written: keystroke &quot;%1&quot; using %2 down.</source>

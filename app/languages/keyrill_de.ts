@@ -903,7 +903,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Nothing is imported; the commands are there from the start: delay 2, keystroke &quot;hello&quot;.</source>
-        <translation>Es wird nichts importiert; die Befehle sind von Anfang an vorhanden: delay 2, keystroke &quot;hello&quot;.</translation>
+        <translation>Es muss nichts importiert werden; die Befehle sind von Anfang an vorhanden: delay 2, keystroke &quot;hello&quot;.</translation>
     </message>
     <message>
         <source>A value is printed with: log &quot;x&quot;. Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
@@ -976,12 +976,12 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
-        <translation>Programme nehmen keinen anderen Befehl als „activate“ an; drücken Sie ihre Tasten: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
+        <translation>Programme nehmen keinen anderen Befehl als „activate“ an; drücken Sie die Tasten, die im Programm dasselbe bewirken: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
     </message>
     <message>
         <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
         <extracomment>%1 is the name of a modifier, &quot;control&quot;.</extracomment>
-        <translation>Die Sondertasten heißen command (Super), control (Strg), option (Alt) und shift: using %1 down.</translation>
+        <translation>Die Sondertasten heißen command (Super), control (Strg), option (Alt) und shift (Umschalt): using %1 down.</translation>
     </message>
     <message>
         <source>An application is named: application &quot;%1&quot;.</source>
@@ -993,7 +993,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>A handler has variables of its own; to share this one write there: global %1.</source>
-        <translation>Ein Handler hat eigene Variablen; um diese mit ihm zu teilen, schreiben Sie dort: global %1.</translation>
+        <translation>Ein Handler hat eigene Variablen; um diese Variable mit ihm zu teilen, schreiben Sie dort: global %1.</translation>
     </message>
     <message>
         <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
@@ -1091,7 +1091,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Several stand in braces: {control down, shift down}, {36, 48}.</source>
-        <translation>Mehrere stehen in geschweiften Klammern: {control down, shift down}, {36, 48}.</translation>
+        <translation>Mehrere Angaben stehen in geschweiften Klammern: {control down, shift down}, {36, 48}.</translation>
     </message>
     <message>
         <source>These are two words: else if … then.</source>
@@ -1135,7 +1135,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
-        <translation>Ein Makro hat keine Dateien; ein Text kommt aus „the clipboard“ oder aus einem Dialog.</translation>
+        <translation>Ein Makro hat keinen Zugriff auf Dateien; ein Text kommt aus „the clipboard“ oder aus einem Dialog.</translation>
     </message>
     <message>
         <source>A variable is set with “to”: set x to x + 1.</source>
@@ -1143,7 +1143,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>A parenthesis is not closed in this line.</source>
-        <translation>Eine Klammer wird in dieser Zeile nicht geschlossen.</translation>
+        <translation>Eine runde Klammer wird in dieser Zeile nicht geschlossen.</translation>
     </message>
     <message>
         <source>A brace is not closed in this line.</source>
@@ -1151,7 +1151,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
-        <translation>Drücken Sie die Tasten, die es starten, oder holen Sie ein Fenster in den Vordergrund: tell application &quot;Firefox&quot; to activate.</translation>
+        <translation>Drücken Sie die Tasten, die das Programm starten, oder holen Sie ein Fenster in den Vordergrund: tell application &quot;Firefox&quot; to activate.</translation>
     </message>
     <message>
         <source>Write the command by its name.</source>
@@ -1167,7 +1167,7 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>Behind “default answer” stands a text, be it empty: default answer &quot;&quot;.</source>
-        <translation>Hinter „default answer“ steht ein Text, und sei er leer: default answer &quot;&quot;.</translation>
+        <translation>Hinter „default answer“ steht ein Text, auch wenn er leer ist: default answer &quot;&quot;.</translation>
     </message>
     <message>
         <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
@@ -1264,11 +1264,11 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     <message>
         <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
         <extracomment>“Macros…” is an entry of the menu.</extracomment>
-        <translation>Ein Tastenkürzel ist kein Teil eines Skripts; es wird in den Einstellungen festgelegt oder für jedes Makro unter „Makros…“.</translation>
+        <translation>Ein Tastenkürzel ist kein Teil eines Skripts; es wird in den Einstellungen festgelegt oder für jedes Makro unter „Makros...“.</translation>
     </message>
     <message>
         <source>“Not equal” is written ≠ or /=.</source>
-        <translation>„Ungleich“ wird ≠ oder /= geschrieben.</translation>
+        <translation>„Ungleich“ wird als ≠ oder /= geschrieben.</translation>
     </message>
     <message>
         <source>An item is taken by its number: item 1 of x.</source>
@@ -1292,11 +1292,11 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
     <message>
         <source>A quote inside a text is written \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</source>
-        <translation>Ein Anführungszeichen in einem Text wird \&quot; geschrieben: &quot;Hello \&quot;world\&quot;&quot;.</translation>
+        <translation>Ein Anführungszeichen in einem Text wird als \&quot; geschrieben: &quot;Hello \&quot;world\&quot;&quot;.</translation>
     </message>
     <message>
         <source>Take the items in parts, or paragraphs instead of characters.</source>
-        <translation>Nehmen Sie die Elemente in Teilen, oder Absätze statt Zeichen.</translation>
+        <translation>Holen Sie die Elemente in mehreren Teilen, oder verwenden Sie Absätze statt Zeichen.</translation>
     </message>
 </context>
 <context>

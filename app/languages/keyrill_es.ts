@@ -871,11 +871,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Return is joined to a text so: &quot;hello&quot; &amp; return.</source>
-        <translation>Return se une a un texto así: &quot;hello&quot; &amp; return.</translation>
+        <translation>Intro se añade así a un texto: &quot;hello&quot; &amp; return.</translation>
     </message>
     <message>
         <source>Tab is joined to a text so: &quot;hello&quot; &amp; tab.</source>
-        <translation>Tab se une a un texto así: &quot;hello&quot; &amp; tab.</translation>
+        <translation>Tab se añade así a un texto: &quot;hello&quot; &amp; tab.</translation>
     </message>
     <message>
         <source>A question is asked with: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</source>
@@ -951,7 +951,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>A dialog gives a record; what was typed there is taken with: text returned of n.</source>
-        <translation>Un diálogo devuelve un registro; lo que se escribió en él se obtiene con: text returned of n.</translation>
+        <translation>Un diálogo devuelve un registro (record); lo que se escribió en él se obtiene con: text returned of n.</translation>
     </message>
     <message>
         <source>A modifier stands without quotes: using %1 down.</source>
@@ -976,7 +976,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
-        <translation>Ningún programa admite más órdenes que «activate»; pulse sus teclas: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
+        <translation>Ningún programa admite más órdenes que «activate»; pulse las teclas que hacen lo mismo en el programa: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
     </message>
     <message>
         <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
@@ -1001,7 +1001,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
-        <translation>Una tecla se pulsa por su número: key code 36 es Return. «keyrill-script keys» muestra todos los números.</translation>
+        <translation>Una tecla se pulsa por su número: key code 36 es Intro. «keyrill-script keys» muestra todos los números.</translation>
     </message>
     <message>
         <source>The date of today is “current date”; as a text: short date string of (current date).</source>
@@ -1047,7 +1047,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <message>
         <source>In line %1 these are two words: %2.</source>
         <extracomment>%1 is a number, %2 what the line was meant to be, &quot;end if&quot;.</extracomment>
-        <translation>En la línea %1 son dos palabras: %2.</translation>
+        <translation>En la línea %1 esto se escribe en dos palabras: %2.</translation>
     </message>
     <message>
         <source>The block that begins in line %1 has no “end” of its own.</source>
@@ -1095,11 +1095,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>These are two words: else if … then.</source>
-        <translation>Son dos palabras: else if … then.</translation>
+        <translation>Esto se escribe en dos palabras: else if … then.</translation>
     </message>
     <message>
         <source>Text is typed with “keystroke”, and Return joined with “&amp;”: keystroke &quot;hello&quot; &amp; return.</source>
-        <translation>El texto se escribe con «keystroke», y Return se une con «&amp;»: keystroke &quot;hello&quot; &amp; return.</translation>
+        <translation>El texto se escribe con «keystroke», e Intro se añade con «&amp;»: keystroke &quot;hello&quot; &amp; return.</translation>
     </message>
     <message>
         <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
@@ -1107,7 +1107,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
-        <translation>Una macro no tiene ratón; pulse las teclas que hacen lo mismo, como Tab y Return.</translation>
+        <translation>Una macro no tiene ratón; pulse las teclas que hacen lo mismo, como Tab e Intro.</translation>
     </message>
     <message>
         <source>Conditions are joined with “and” or “or”.</source>
@@ -1135,7 +1135,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
-        <translation>Una macro no tiene archivos; un texto se obtiene de «the clipboard» o de un diálogo.</translation>
+        <translation>Una macro no tiene acceso a archivos; un texto se obtiene de «the clipboard» o de un diálogo.</translation>
     </message>
     <message>
         <source>A variable is set with “to”: set x to x + 1.</source>
@@ -1151,15 +1151,15 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
-        <translation>Pulse las teclas que lo inician o traiga una ventana al primer plano: tell application &quot;Firefox&quot; to activate.</translation>
+        <translation>Pulse las teclas que inician el programa o traiga una ventana al primer plano: tell application &quot;Firefox&quot; to activate.</translation>
     </message>
     <message>
         <source>Write the command by its name.</source>
-        <translation>Escriba la orden por su nombre.</translation>
+        <translation>Escriba la orden con su nombre.</translation>
     </message>
     <message>
         <source>A shortcut is written: keystroke &quot;c&quot; using control down.</source>
-        <translation>Un atajo se escribe así: keystroke &quot;c&quot; using control down.</translation>
+        <translation>Una combinación de teclas se escribe así: keystroke &quot;c&quot; using control down.</translation>
     </message>
     <message>
         <source>Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat.</source>
@@ -3271,11 +3271,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
     <message>
         <source>A dialog gives a record and no text; take: button returned of %1, or text returned of %1.</source>
-        <translation>Un diálogo devuelve un registro, no un texto; use: button returned of %1, o text returned of %1.</translation>
+        <translation>Un diálogo devuelve un registro (record), no un texto; use: button returned of %1, o text returned of %1.</translation>
     </message>
     <message>
         <source>An alert gives a record and no text; take: button returned of %1.</source>
-        <translation>Una alerta devuelve un registro, no un texto; use: button returned of %1.</translation>
+        <translation>Una alerta devuelve un registro (record), no un texto; use: button returned of %1.</translation>
     </message>
     <message>
         <source>What was chosen comes in a list; take: item 1 of %1.</source>
@@ -3302,7 +3302,7 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <message>
         <source>This is typed as it stands; a shortcut is written: keystroke &quot;%1&quot; using %2 down.</source>
         <extracomment>%1 is a letter, %2 the name of a modifier, &quot;control&quot;.</extracomment>
-        <translation>Esto se escribe tal cual; un atajo se escribe así: keystroke &quot;%1&quot; using %2 down.</translation>
+        <translation>Esto se escribe tal cual; una combinación de teclas se escribe así: keystroke &quot;%1&quot; using %2 down.</translation>
     </message>
     <message>
         <source>A modifier is held with: key down shift, without quotes.</source>

@@ -903,7 +903,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Nothing is imported; the commands are there from the start: delay 2, keystroke &quot;hello&quot;.</source>
-        <translation>Rien n’est importé&#xa0;; les commandes sont présentes dès le départ&#xa0;: delay 2, keystroke &quot;hello&quot;.</translation>
+        <translation>Il n’y a rien à importer&#xa0;; les commandes sont présentes dès le départ&#xa0;: delay 2, keystroke &quot;hello&quot;.</translation>
     </message>
     <message>
         <source>A value is printed with: log &quot;x&quot;. Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
@@ -976,12 +976,12 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
-        <translation>Les programmes n’acceptent aucune autre commande que «&#xa0;activate&#xa0;»&#xa0;; pressez leurs touches&#xa0;: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
+        <translation>Les programmes n’acceptent aucune autre commande que «&#xa0;activate&#xa0;»&#xa0;; appuyez sur les touches qui font la même chose dans le programme&#xa0;: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
     </message>
     <message>
         <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
         <extracomment>%1 is the name of a modifier, &quot;control&quot;.</extracomment>
-        <translation>Les touches de modification s’appellent command (Super), control (Ctrl), option (Alt) et shift&#xa0;: using %1 down.</translation>
+        <translation>Les touches de modification s’appellent command (Super), control (Ctrl), option (Alt) et shift (Maj)&#xa0;: using %1 down.</translation>
     </message>
     <message>
         <source>An application is named: application &quot;%1&quot;.</source>
@@ -1047,7 +1047,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <message>
         <source>In line %1 these are two words: %2.</source>
         <extracomment>%1 is a number, %2 what the line was meant to be, &quot;end if&quot;.</extracomment>
-        <translation>À la ligne %1, il s’agit de deux mots&#xa0;: %2.</translation>
+        <translation>À la ligne %1, cela s’écrit en deux mots&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The block that begins in line %1 has no “end” of its own.</source>
@@ -1091,11 +1091,11 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Several stand in braces: {control down, shift down}, {36, 48}.</source>
-        <translation>Plusieurs s’écrivent entre accolades&#xa0;: {control down, shift down}, {36, 48}.</translation>
+        <translation>Plusieurs éléments s’écrivent entre accolades&#xa0;: {control down, shift down}, {36, 48}.</translation>
     </message>
     <message>
         <source>These are two words: else if … then.</source>
-        <translation>Il s’agit de deux mots&#xa0;: else if … then.</translation>
+        <translation>Cela s’écrit en deux mots&#xa0;: else if … then.</translation>
     </message>
     <message>
         <source>Text is typed with “keystroke”, and Return joined with “&amp;”: keystroke &quot;hello&quot; &amp; return.</source>
@@ -1107,7 +1107,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
-        <translation>Une macro n’a pas de souris&#xa0;; pressez les touches qui font la même chose, comme Tab et Entrée.</translation>
+        <translation>Une macro n’a pas de souris&#xa0;; appuyez sur les touches qui font la même chose, comme Tab et Entrée.</translation>
     </message>
     <message>
         <source>Conditions are joined with “and” or “or”.</source>
@@ -1119,7 +1119,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.</source>
-        <translation>Les fenêtres, les boutons et les menus ne sont pas visibles pour une macro&#xa0;; pressez les touches qui font la même chose.</translation>
+        <translation>Les fenêtres, les boutons et les menus ne sont pas visibles pour une macro&#xa0;; appuyez sur les touches qui font la même chose.</translation>
     </message>
     <message>
         <source>Modifiers stand behind “using”: keystroke &quot;s&quot; using control down.</source>
@@ -1135,7 +1135,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
-        <translation>Une macro n’a pas de fichiers&#xa0;; un texte vient de «&#xa0;the clipboard&#xa0;» ou d’une boîte de dialogue.</translation>
+        <translation>Une macro n’a pas accès aux fichiers&#xa0;; un texte vient de «&#xa0;the clipboard&#xa0;» ou d’une boîte de dialogue.</translation>
     </message>
     <message>
         <source>A variable is set with “to”: set x to x + 1.</source>
@@ -1151,11 +1151,11 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
-        <translation>Pressez les touches qui le lancent, ou amenez une fenêtre au premier plan&#xa0;: tell application &quot;Firefox&quot; to activate.</translation>
+        <translation>Appuyez sur les touches qui lancent le programme, ou amenez une fenêtre au premier plan&#xa0;: tell application &quot;Firefox&quot; to activate.</translation>
     </message>
     <message>
         <source>Write the command by its name.</source>
-        <translation>Écrivez la commande par son nom.</translation>
+        <translation>Désignez la commande par son nom.</translation>
     </message>
     <message>
         <source>A shortcut is written: keystroke &quot;c&quot; using control down.</source>
@@ -1167,7 +1167,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Behind “default answer” stands a text, be it empty: default answer &quot;&quot;.</source>
-        <translation>Après «&#xa0;default answer&#xa0;» vient un texte, fût-il vide&#xa0;: default answer &quot;&quot;.</translation>
+        <translation>Après «&#xa0;default answer&#xa0;» vient un texte, même vide&#xa0;: default answer &quot;&quot;.</translation>
     </message>
     <message>
         <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
@@ -1264,7 +1264,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <message>
         <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
         <extracomment>“Macros…” is an entry of the menu.</extracomment>
-        <translation>Un raccourci clavier ne fait pas partie d’un script&#xa0;; il se définit dans les préférences, ou pour chaque macro dans «&#xa0;Macros…&#xa0;».</translation>
+        <translation>Un raccourci clavier ne fait pas partie d’un script&#xa0;; il se définit dans les préférences, ou pour chaque macro dans «&#xa0;Macros...&#xa0;».</translation>
     </message>
     <message>
         <source>“Not equal” is written ≠ or /=.</source>
@@ -1296,7 +1296,7 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
     <message>
         <source>Take the items in parts, or paragraphs instead of characters.</source>
-        <translation>Prenez les éléments par parties, ou des paragraphes au lieu de caractères.</translation>
+        <translation>Prenez les éléments par parties, ou utilisez des paragraphes au lieu de caractères.</translation>
     </message>
 </context>
 <context>

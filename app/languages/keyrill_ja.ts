@@ -976,7 +976,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
-        <translation>プログラムに使えるコマンドは「activate」だけです。代わりにプログラムのキーを押してください: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down。</translation>
+        <translation>プログラムに使えるコマンドは「activate」だけです。代わりに、そのプログラムで使うキーを押してください: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down。</translation>
     </message>
     <message>
         <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
@@ -1103,7 +1103,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
-        <translation>キーを押して離すには次のように書きます: keystroke return, key code 53。押し続けるには次のように書きます: key down 36。離すには次のように書きます: key up 36。</translation>
+        <translation>キーを押して離すには次のように書きます: keystroke return または key code 53。押し続けるには次のように書きます: key down 36。離すには次のように書きます: key up 36。</translation>
     </message>
     <message>
         <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
@@ -1151,7 +1151,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
-        <translation>起動するためのキーを押すか、ウィンドウを前面に出してください: tell application &quot;Firefox&quot; to activate。</translation>
+        <translation>プログラムを起動するキーを押すか、ウィンドウを前面に出してください: tell application &quot;Firefox&quot; to activate。</translation>
     </message>
     <message>
         <source>Write the command by its name.</source>
@@ -1264,7 +1264,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
         <extracomment>“Macros…” is an entry of the menu.</extracomment>
-        <translation>ショートカットはスクリプトの一部ではありません。設定で、またはマクロごとに「マクロ...」で設定します。</translation>
+        <translation>グローバルショートカットはスクリプトの一部ではありません。設定で、またはマクロごとに「マクロ...」で設定します。</translation>
     </message>
     <message>
         <source>“Not equal” is written ≠ or /=.</source>
@@ -3273,7 +3273,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>An alert gives a record and no text; take: button returned of %1.</source>
-        <translation>警告が返すのはレコードで、テキストではありません。次を使ってください: button returned of %1。</translation>
+        <translation>アラートが返すのはレコードで、テキストではありません。次を使ってください: button returned of %1。</translation>
     </message>
     <message>
         <source>What was chosen comes in a list; take: item 1 of %1.</source>

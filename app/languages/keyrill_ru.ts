@@ -1013,15 +1013,15 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>No block is open here; an “if” with its statement in one line has no “else”.</source>
-        <translation>Здесь нет открытого блока; у «if» с инструкцией в той же строке нет «else».</translation>
+        <translation>Здесь нет открытого блока; у «if» с инструкцией в той же строке не бывает «else».</translation>
     </message>
     <message>
         <source>No block is open here; an “if” with its statement in one line has no “end if”.</source>
-        <translation>Здесь нет открытого блока; у «if» с инструкцией в той же строке нет «end if».</translation>
+        <translation>Здесь нет открытого блока; у «if» с инструкцией в той же строке не бывает «end if».</translation>
     </message>
     <message>
         <source>No block is open here; a “tell … to” in one line has no “end tell”.</source>
-        <translation>Здесь нет открытого блока; у «tell … to» в одной строке нет «end tell».</translation>
+        <translation>Здесь нет открытого блока; у «tell … to» в одной строке не бывает «end tell».</translation>
     </message>
     <message>
         <source>No block is open here; this line is one too many.</source>
@@ -1029,15 +1029,15 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>No “if” is open here; an “if” with its statement in one line has no “else”.</source>
-        <translation>Здесь нет открытого «if»; у «if» с инструкцией в той же строке нет «else».</translation>
+        <translation>Здесь нет открытого «if»; у «if» с инструкцией в той же строке не бывает «else».</translation>
     </message>
     <message>
         <source>No “if” is open here; an “if” with its statement in one line has no “end if”.</source>
-        <translation>Здесь нет открытого «if»; у «if» с инструкцией в той же строке нет «end if».</translation>
+        <translation>Здесь нет открытого «if»; у «if» с инструкцией в той же строке не бывает «end if».</translation>
     </message>
     <message>
         <source>No “tell” is open here; a “tell … to” in one line has no “end tell”.</source>
-        <translation>Здесь нет открытого «tell»; у «tell … to» в одной строке нет «end tell».</translation>
+        <translation>Здесь нет открытого «tell»; у «tell … to» в одной строке не бывает «end tell».</translation>
     </message>
     <message>
         <source>No “%1” is open here; the block that begins in line %2 has no “end” of its own.</source>
@@ -1047,7 +1047,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>In line %1 these are two words: %2.</source>
         <extracomment>%1 is a number, %2 what the line was meant to be, &quot;end if&quot;.</extracomment>
-        <translation>В строке %1 должно быть два слова: %2.</translation>
+        <translation>В строке %1 это пишется в два слова: %2.</translation>
     </message>
     <message>
         <source>The block that begins in line %1 has no “end” of its own.</source>
@@ -1091,11 +1091,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Several stand in braces: {control down, shift down}, {36, 48}.</source>
-        <translation>Несколько указываются в фигурных скобках: {control down, shift down}, {36, 48}.</translation>
+        <translation>Несколько значений указываются в фигурных скобках: {control down, shift down}, {36, 48}.</translation>
     </message>
     <message>
         <source>These are two words: else if … then.</source>
-        <translation>Это два слова: else if … then.</translation>
+        <translation>Это пишется в два слова: else if … then.</translation>
     </message>
     <message>
         <source>Text is typed with “keystroke”, and Return joined with “&amp;”: keystroke &quot;hello&quot; &amp; return.</source>
@@ -1103,11 +1103,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
-        <translation>Клавиша нажимается и отпускается так: keystroke return, key code 53. Удерживается она так: key down 36, а отпускается так: key up 36.</translation>
+        <translation>Клавиша нажимается и отпускается так: keystroke return или key code 53. Удерживается она так: key down 36, а отпускается так: key up 36.</translation>
     </message>
     <message>
         <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
-        <translation>У макроса нет мыши; нажимайте клавиши, которые делают то же самое, например Tab и Return.</translation>
+        <translation>Макрос не может управлять мышью; нажимайте клавиши, которые делают то же самое, например Tab и Return.</translation>
     </message>
     <message>
         <source>Conditions are joined with “and” or “or”.</source>
@@ -1135,7 +1135,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
-        <translation>У макроса нет файлов; текст можно взять из «the clipboard» или из диалога.</translation>
+        <translation>Макрос не работает с файлами; текст можно взять из «the clipboard» или из диалога.</translation>
     </message>
     <message>
         <source>A variable is set with “to”: set x to x + 1.</source>
@@ -1171,7 +1171,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
-        <translation>У «if» в одной строке нет «else»; запишите его в несколько строк, с «end if».</translation>
+        <translation>У «if» в одной строке не бывает «else»; запишите его в несколько строк, с «end if».</translation>
     </message>
     <message>
         <source>Decimals stand behind a point: 0.5.</source>
@@ -1195,7 +1195,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>The text in the clipboard is: the clipboard.</source>
-        <translation>Текст в буфере обмена: the clipboard.</translation>
+        <translation>Текст из буфера обмена записывается так: the clipboard.</translation>
     </message>
     <message>
         <source>A loop is written: repeat 5 times … end repeat.</source>
@@ -1239,11 +1239,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>A block has no braces: if x = 1 then … end if.</source>
-        <translation>У блока нет фигурных скобок: if x = 1 then … end if.</translation>
+        <translation>Блок записывается без фигурных скобок: if x = 1 then … end if.</translation>
     </message>
     <message>
         <source>A block has no braces; it ends with “end” and its first word: end repeat.</source>
-        <translation>У блока нет фигурных скобок; он заканчивается словом «end» и своим первым словом: end repeat.</translation>
+        <translation>Блок записывается без фигурных скобок; он заканчивается словом «end» и своим первым словом: end repeat.</translation>
     </message>
     <message>
         <source>A line needs no colon at its end.</source>
@@ -1264,7 +1264,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
         <extracomment>“Macros…” is an entry of the menu.</extracomment>
-        <translation>Комбинация клавиш не является частью сценария; она задаётся в параметрах или, для каждого макроса, в окне «Макросы...».</translation>
+        <translation>Глобальная комбинация клавиш не является частью сценария; она задаётся в параметрах или, для каждого макроса, в окне «Макросы...».</translation>
     </message>
     <message>
         <source>“Not equal” is written ≠ or /=.</source>
@@ -3295,7 +3295,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>“%1” belongs to what “%2” is given; put parentheses round the command: (%2 …) %1 ….</source>
         <extracomment>%1 is an operator, &quot;&gt;&quot;, %2 a command, &quot;count&quot;.</extracomment>
-        <translation>«%1» относится к тому, что передаётся «%2»; заключите команду в скобки: (%2 …) %1 ….</translation>
+        <translation>«%1» относится к тому, что передаётся команде «%2»; заключите команду в скобки: (%2 …) %1 ….</translation>
     </message>
     <message>
         <source>“delay” counts seconds; %1 milliseconds are: delay %2.</source>
@@ -3308,7 +3308,7 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>A modifier is held with: key down shift, without quotes.</source>
-        <translation>Модификатор удерживается так: key down shift, без кавычек.</translation>
+        <translation>Модификатор удерживается так, без кавычек: key down shift.</translation>
     </message>
     <message>
         <source>The variable %1 is never set. %2</source>

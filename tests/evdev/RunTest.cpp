@@ -150,8 +150,10 @@ TEST_P(EvdevRunTest, theWatchKnowsWhichKeysHandsHold) {
 TEST_P(EvdevRunTest, aLockedScreenEndsAPlayback) {
     bool locked = false;
     monitor().endPlaysWhen([&locked] { return locked; });
+    watch().drain();
     EXPECT_FALSE(watch().isCancelled());
     locked = true;
+    watch().drain();
     EXPECT_TRUE(watch().isCancelled());
 }
 
