@@ -209,7 +209,7 @@ void MacrosDesk::followRenames(const std::vector<FolderChanges::Rename>& renamed
     m_window->noteRenamed(rename->to);
     showSettings();
     // What is being read has another name now.
-    if (m_opening == rename->from) openMacro(rename->to);
+    if (m_opening == rename->from) read(rename->to);
 }
 
 void MacrosDesk::followGone(const std::vector<std::string>& gone) {
@@ -273,14 +273,19 @@ void MacrosDesk::tellFaults() {
 // The text of the chosen macro
 
 void MacrosDesk::openMacro(const std::string& path) {
-    m_opening = path;
     showSettings();
     if (path.empty()) {
+        m_opening.clear();
         m_patience.stop();
         m_window->showMacro({}, {});
         return;
     }
     m_patience.start();
+    read(path);
+}
+
+void MacrosDesk::read(const std::string& path) {
+    m_opening = path;
     m_reader.readFirst(path, m_library.fileOf(path));
     m_reader.await(path, glance);
 }

@@ -80,6 +80,7 @@ class MacrosDesk : public QObject, private LibraryListener {
     /// Of the macro that is chosen, or was.
     void takeText(const std::string& path, const Result<std::string>& text);
     void openMacro(const std::string& path);
+    void read(const std::string& path);
     void showText(const std::string& path, const Result<std::string>& text);
     void followText(const std::string& path, const Result<std::string>& text);
     void noteEdit();
