@@ -10,6 +10,7 @@
 #include <thread>
 #include <vector>
 
+#include "desktop/Answer.h"
 #include "desktop/DesktopTest.h"
 #include "support/Programs.h"
 
@@ -65,6 +66,13 @@ class SilentOwnerTest : public DesktopTest {
     bool hasPrinted(const std::string& text) const {
         return eventually([&] { return contentOf(desktop.file("other")) == text; });
     }
+    /// The start that was asked has become the program, which also has the name.
+    void expectFollowed() const {
+        EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }))
+            << contentOf(desktop.file("keyrill"));
+        EXPECT_EQ(answerOf(desktop, {programs::keyrill, "--action=stop"}),
+                  (Answer{2, "keyrill: Nothing is being recorded or played.\n"}));
+    }
     void expectToldBeside(const std::string& kind, const std::vector<Arguments>& calls) const {
         const Child other({"/usr/bin/python3", "-c", owner, kind}, desktop.options("other"));
         ASSERT_TRUE(hasPrinted("ready\n")) << contentOf(desktop.file("other"));
@@ -99,8 +107,7 @@ TEST_F(SilentOwnerTest, isFollowedByAStartWhenItGoes) {
     ASSERT_TRUE(hasPrinted("ready\nActivate\n")) << contentOf(desktop.file("other"));
     EXPECT_FALSE(desktop.isHotKeyTaken(xkey::m));
     other.signal(SIGKILL);
-    EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }))
-        << contentOf(desktop.file("keyrill"));
+    expectFollowed();
 }
 
 /// The same where it takes no call; what the start does meanwhile cannot be seen, so it gets its time.
@@ -111,8 +118,7 @@ TEST_F(SilentOwnerTest, isFollowedByAStartWhenItGoesWhileItStandsStill) {
     std::this_thread::sleep_for(std::chrono::seconds(1));
     EXPECT_FALSE(desktop.isHotKeyTaken(xkey::m));
     other.signal(SIGKILL);
-    EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }))
-        << contentOf(desktop.file("keyrill"));
+    expectFollowed();
 }
 
 /// Those that ask a program which reads its macro folder wait longer for it.
