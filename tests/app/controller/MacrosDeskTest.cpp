@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QPushButton>
@@ -109,6 +110,15 @@ class MacrosDeskTest : public AppTest {
         return {};
     }
 
+    /// In the field that the list has opened to name a macro in; empty if there is none.
+    std::string nameInField() {
+        for (auto* list : window().findChildren<QListView*>()) {
+            const auto* field = list->findChild<QLineEdit*>();
+            if (list->accessibleName() == QStringLiteral("Macros") && field != nullptr)
+                return field->text().toStdString();
+        }
+        return {};
+    }
     std::string told() { return window().findChild<QLabel*>(QStringLiteral("told"))->text().toStdString(); }
 
   private:
@@ -238,6 +248,21 @@ TEST_F(MacrosDeskTest, aFolderThatDoesNotAnswerHoldsNothingUp) {
     EXPECT_EQ(told(), "");
 }
 
+TEST_F(MacrosDeskTest, aMacroThatOthersRenameWhileItIsReadIsShown) {
+    write("work/Mail", a);
+    choose("work/Mail");
+    files.hold();
+    window().choose("Greeting.keyrill");
+    ASSERT_TRUE(
+        soon([this] { return told() == "The macro is still being read: its folder does not answer."; }));
+    std::filesystem::rename(file("Greeting"), file("Hello"));
+    ASSERT_TRUE(soon([this] { return names() == "Hello|work/Mail"; })) << names();
+    files.letGo();
+    EXPECT_TRUE(soon([this] { return told().empty(); })) << told();
+    EXPECT_EQ(window().chosen(), "Hello.keyrill");
+    EXPECT_EQ(editor().text(), a);
+}
+
 TEST_F(MacrosDeskTest, savesWhatWasChanged) {
     choose("Greeting");
     editor().keys().insertLines(steps::keyLines(key::b, 0));
@@ -354,15 +379,18 @@ TEST_F(MacrosDeskTest, aRecordingBecomesAMacroToBeNamed) {
     button("Record New").click();
     EXPECT_TRUE(state().recording);
     EXPECT_FALSE(window().isVisible());
+    platform().journal.clear();
     desk.takeRecording(*[] {
         auto macro = MacroManager::createMacro();
         macro->setScript(ab);
         return macro;
     }());
     EXPECT_TRUE(window().isVisible());
-    EXPECT_TRUE(windows.calls().back().starts_with("activate(")) << windows.calls().back();
+    ASSERT_EQ(windows.calls().size(), 1U);
+    EXPECT_TRUE(windows.calls().front().starts_with("activate(")) << windows.calls().front();
     EXPECT_TRUE(soon([this] { return window().chosen() == "New Macro.keyrill"; }));
     EXPECT_EQ(contentOf(file("New Macro")), ab);
+    EXPECT_EQ(nameInField(), "New Macro");
 }
 
 TEST_F(MacrosDeskTest, aRecordingBecomesKeysOfTheMacro) {
@@ -503,6 +531,23 @@ TEST_F(MacrosDeskTest, aFileThatComesBackAsItWasIsNotToldAsGone) {
     write("Greeting", recording(steps::keyLines(key::s, 0)));
     EXPECT_TRUE(soon([this] { return warning() == conflict; })) << warning();
     EXPECT_EQ(editor().text(), ab);
+}
+
+TEST_F(MacrosDeskTest, anotherWarningStaysWhenOthersTakeTheirTextBack) {
+    choose("Greeting");
+    editor().keys().insertLines(steps::keyLines(key::b, 0));
+    write("Greeting", recording(steps::keyLines(key::s, 0)));
+    ASSERT_TRUE(soon([this] { return warning() == conflict; })) << warning();
+    write("Hello", "other");
+    window().list().setData(window().list().indexOf("Greeting.keyrill"), QStringLiteral("Hello"),
+                            Qt::EditRole);
+    const std::string taken = "There is already a macro called \"Hello\".";
+    ASSERT_EQ(warning(), taken);
+    write("Greeting", a);
+    const auto isRead = [this] { return window().list().hasContent("Greeting.keyrill"); };
+    ASSERT_TRUE(soon([&] { return !isRead(); }));
+    ASSERT_TRUE(soon(isRead));
+    EXPECT_EQ(warning(), taken);
 }
 
 TEST_F(MacrosDeskTest, aTextWhoseFileIsGoneCanBeDeletedAndBroughtBack) {
