@@ -103,6 +103,19 @@ TEST_F(ModifierHoldsTest, holdsMayOverlap) {
     EXPECT_EQ(currentMacro(), "<⇧▼><⌃▼><⌃+A><⌃+A><⌃▲>B<⇧▲>");
 }
 
+TEST_F(ModifierHoldsTest, aHoldThatBeginsWithinAnotherAndOutlastsItKeepsItsPlace) {
+    user.strikesRecord();
+    user.presses(key::control);
+    user.types("a");
+    user.presses(key::shift);
+    user.types("bb");
+    user.releases(key::control);
+    user.types("c");
+    user.releases(key::shift);
+    user.strikesStop();
+    EXPECT_EQ(currentMacro(), "<⌃▼><⌃+a><⇧▼><⌃+B><⌃+B><⌃▲>C<⇧▲>");
+}
+
 TEST_F(ModifierHoldsTest, theModifiersOfHotKeysAreNoTaps) {
     recordTyping("a");
     user.strikesRecord();

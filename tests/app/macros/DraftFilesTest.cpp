@@ -81,4 +81,15 @@ TEST_F(DraftFilesTest, tellsWhereItCannotWrite) {
               "The folder " + folder + " cannot be written to: Not a directory.");
 }
 
+TEST_F(DraftFilesTest, tellsWhereItCannotReplaceWhatIsThereAndLeavesNothing) {
+    ASSERT_TRUE(drafts.keep("a", {"text"}));
+    const std::string file = std::filesystem::directory_iterator(folder)->path();
+    std::filesystem::remove(file);
+    std::filesystem::create_directory(file);
+    EXPECT_EQ(drafts.keep("a", {"text"}).error().message,
+              "The folder " + folder + " cannot be written to: Is a directory.");
+    std::filesystem::remove(file);
+    EXPECT_TRUE(std::filesystem::is_empty(folder));
+}
+
 }  // namespace

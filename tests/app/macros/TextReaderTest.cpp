@@ -4,12 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 #include <chrono>
 #include <memory>
 #include <mutex>
 #include <vector>
+
+#include "support/Child.h"
 
 namespace {
 
@@ -90,6 +93,19 @@ TEST_F(TextReaderTest, aTextThatIsThereSoonIsToldAtOnce) {
     EXPECT_EQ(told, Lines{});
     files->letGo();
     await(2);
+}
+
+TEST_F(TextReaderTest, goesOnTellingWhereItTakesMoreThanATurnOfTheLoop) {
+    QObject::connect(&reader, &TextReader::wasReadFirst, [] {
+        QElapsedTimer watch;
+        watch.start();
+        constexpr qint64 milliseconds = 10;
+        while (!watch.hasExpired(milliseconds)) continue;
+    });
+    for (int number = 0; number < 3; ++number) reader.readFirst("a", "/a");
+    // None is told before the loop runs.
+    ASSERT_TRUE(eventually([this] { return files->wereRead().size() == 3; }));
+    await(3);
 }
 
 TEST_F(TextReaderTest, whatIsWantedFirstIsReadBeforeAllThatWaits) {
