@@ -123,6 +123,16 @@ TEST_F(StrokeTest, aLockThatTheUserSwitchesInTheRunIsHisAfterwards) {
     EXPECT_EQ(probe().locked(), xmask::capsLock);
 }
 
+TEST_F(StrokeTest, aLockThatTheUserSwitchesBehindTheLastStrokeIsHisAfterwards) {
+    {
+        const auto session = run();
+        ASSERT_TRUE(session->stroke(key::a, 0));
+        command({"xdotool", "key", "Caps_Lock"});
+        ASSERT_EQ(probe().locked(), xmask::capsLock);
+    }
+    EXPECT_EQ(probe().locked(), xmask::capsLock);
+}
+
 TEST_F(StrokeTest, aHeldKeyStaysDownForLaterStrokesUntilItIsReleased) {
     const auto session = run();
     ASSERT_TRUE(session->keyDown(HeldModifier{modifier::shift}));
