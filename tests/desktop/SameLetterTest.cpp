@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <fstream>
+#include <signal.h>
 
 #include "desktop/DesktopTest.h"
 #include "display/NestedServers.h"
@@ -56,6 +56,27 @@ TEST_P(SameLetterTest, isTypedAndRecordedEachTime) {
     }
 }
 
+/// However fast the hands are and however slow the program is: it sees nothing of the letter before all of it
+/// has been typed.
+TEST_P(SameLetterTest, isTypedAndRecordedWhileTheProgramDoesNotLook) {
+    const auto letGoAndType = [this](std::uint8_t key, std::initializer_list<std::uint8_t> typed) {
+        product->signal(SIGSTOP);
+        typist.release({key, xkey::super, xkey::control});
+        for (const std::uint8_t letter : typed) typist.tap(letter);
+        product->signal(SIGCONT);
+    };
+    typist.press({xkey::control, xkey::super, xkey::r});
+    desktop.awaitWindow(title::overlay);
+    letGoAndType(xkey::r, {xkey::r, xkey::a});
+    EXPECT_EQ(terminal.typed(2), "ra");
+    typist.press({xkey::control, xkey::super, xkey::s});
+    ASSERT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
+    letGoAndType(xkey::s, {xkey::s});
+    EXPECT_EQ(terminal.typed(3), "ras");
+    command(xkey::p, false);
+    EXPECT_EQ(terminal.typed(5), "rasra");
+}
+
 /// The keyboard repeats, as people's do: a command that is held down is one command, and nothing else.
 TEST_P(SameLetterTest, aCommandThatIsHeldUntilItRepeatsIsGivenOnce) {
     outputOf({"xset", "r", "rate", "150", "50"}, {{"DISPLAY", desktop.display()}});
@@ -64,7 +85,11 @@ TEST_P(SameLetterTest, aCommandThatIsHeldUntilItRepeatsIsGivenOnce) {
         RepeatCount count(desktop.display(), key);
         typist.press({xkey::control, xkey::super, key});
         ASSERT_TRUE(eventually([&] { return count.presses() > repeats; }));
-        typist.release({key, xkey::super, xkey::control});
+        typist.release({xkey::super, xkey::control});
+        // Of a letter by now, if it were not the hot key's.
+        const int before = count.presses();
+        ASSERT_TRUE(eventually([&] { return count.presses() > before + repeats; }));
+        typist.release({key});
     };
     holdCommand(xkey::r);
     desktop.awaitWindow(title::overlay);
