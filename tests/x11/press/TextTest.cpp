@@ -131,6 +131,27 @@ TEST_F(TextTest, theKeymapIsAsBeforeWhenTheProgramHasEnded) {
     EXPECT_FALSE(probe().hasProperty(record));
 }
 
+/// As it is when the program could not take anything back.
+TEST_F(TextTest, whatAKilledProgramHasLeftBoundIsTakenBackByTheNext) {
+    const auto symbols = [this] { return command({"xmodmap", "-pke"}); };
+    const std::string before = symbols();
+    const std::string text = ideographs(1);
+    EXPECT_EQ(typedInto(text), text);
+    const std::string bound = symbols();
+    const std::string property = command({"xprop", "-root", record});
+    const std::string numbers = property.substr(property.find('=') + 2);
+    program().end();
+    ASSERT_EQ(symbols(), before);
+    command({"xmodmap", "-e", "keycode " + numbers.substr(0, numbers.find(',')) + " = U4E00"});
+    command({"xprop", "-root", "-f", record, "32c", "-set", record, numbers});
+    ASSERT_EQ(symbols(), bound);
+    ASSERT_TRUE(probe().hasProperty(record));
+    program().begin();
+    run();
+    EXPECT_EQ(symbols(), before);
+    EXPECT_FALSE(probe().hasProperty(record));
+}
+
 TEST_F(TextTest, theTextTypedLastArrivesThoughTheProgramEndsAtOnce) {
     terminal();
     ASSERT_TRUE(run()->text("漢字é", 0));
