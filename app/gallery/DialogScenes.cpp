@@ -24,6 +24,8 @@ void takeAlert(Camera& camera, const AlertText& text, const char* name) {
 
 void takeSheet(Camera& camera, const AlertText& text, const char* name) {
     PreferencesModel model;
+    // GNOME's Wayland sessions alone ask.
+    model.offersConsent = false;
     PreferencesPanel panel(model);
     panel.move(80, 80);
     panel.show();

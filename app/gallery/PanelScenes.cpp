@@ -52,6 +52,8 @@ class ShownNotice : public StatusItem {
 
 void takePreferences(Camera& camera) {
     PreferencesModel model;
+    // GNOME's Wayland sessions alone ask.
+    model.offersConsent = false;
     model.launchOnLogin.setOn(true);
     PreferencesPanel panel(model);
     camera.take(panel, QStringLiteral("preferences"));

@@ -110,7 +110,8 @@ QWidget* MacrosWindow::makeList() {
 
     auto* side = new QWidget;
     auto* box = new QVBoxLayout(side);
-    box->setContentsMargins(0, 0, 0, 0);
+    // From right to left a splitter cuts off what is rightmost by a pixel.
+    box->setContentsMargins(0, 0, isRightToLeft() ? 1 : 0, 0);
     box->addWidget(m_search);
     box->addWidget(m_empty);
     box->addWidget(m_list, 1);
