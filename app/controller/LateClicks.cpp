@@ -10,6 +10,8 @@ namespace {
 
 /// Nothing comes so late: the server counts anew.
 constexpr std::chrono::hours latest{1};
+/// Who clicks so shortly before the end has seen it come, and has not waited in vain.
+constexpr std::chrono::milliseconds atTheEnd{300};
 
 }  // namespace
 
@@ -24,8 +26,8 @@ bool LateClicks::eventFilter(QObject* /*watched*/, QEvent* event) {
     const auto& mouse = static_cast<const QMouseEvent&>(*event);
     // One that no server has sent.
     if (mouse.timestamp() == 0) return false;
-    const bool isLate = happened(mouse) < m_played;
-    return isLate && event->type() != QEvent::MouseMove;
+    const Clock::Time when = happened(mouse);
+    return m_played && when < *m_played - atTheEnd && event->type() != QEvent::MouseMove;
 }
 
 Clock::Time LateClicks::happened(const QInputEvent& event) {

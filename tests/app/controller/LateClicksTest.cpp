@@ -59,6 +59,14 @@ TEST_F(LateClicksTest, areTakenAwayAfterAPlay) {
     EXPECT_EQ(window.presses, 2);
 }
 
+TEST_F(LateClicksTest, thoseAtTheVeryEndAreTaken) {
+    userClicks();
+    const quint64 nearEnd = serverTime() + 1900;
+    play(Clock::Seconds(2));
+    send(QEvent::MouseButtonPress, nearEnd);
+    EXPECT_EQ(window.presses, 2);
+}
+
 TEST_F(LateClicksTest, areTakenWhereNothingPlayed) {
     userClicks();
     userClicks(Clock::Seconds(3));
