@@ -5,13 +5,16 @@
 
 namespace {
 
-std::atomic<SentenceTranslation> spoken = nullptr;
+std::atomic<SentenceTranslation>& spoken() {
+    static std::atomic<SentenceTranslation> translation = nullptr;
+    return translation;
+}
 
 }  // namespace
 
 // In one pass: an argument may hold what looks like a placeholder.
 std::string Sentence::text() const {
-    const SentenceTranslation translation = spoken;
+    const SentenceTranslation translation = spoken();
     const std::string words = translation == nullptr ? m_english : translation(m_context, m_english);
     std::string text;
     for (std::size_t at = 0; at < words.size(); ++at) {
@@ -28,4 +31,4 @@ std::string Sentence::text() const {
     return text;
 }
 
-void translateSentencesBy(SentenceTranslation translation) { spoken = translation; }
+void translateSentencesBy(SentenceTranslation translation) { spoken() = translation; }
