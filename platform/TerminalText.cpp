@@ -5,9 +5,9 @@
 
 namespace {
 
-constexpr bool isControl(char32_t code) {
+constexpr bool actsOnTerminal(std::uint32_t code) {
     const bool isMeant = code == '\t' || code == '\n';
-    return (code < 0x20 && !isMeant) || (code >= 0x7F && code < 0xA0);
+    return isControlCode(code) && !isMeant;
 }
 
 }  // namespace
@@ -18,7 +18,7 @@ std::string harmlessText(std::string_view text) {
     while (!text.empty()) {
         const Utf8Character character = firstCharacter(text);
         // A byte that is no character would be one of the control characters beyond ASCII to some.
-        if (!character.code || isControl(*character.code)) {
+        if (!character.code || actsOnTerminal(*character.code)) {
             harmless += ' ';
         } else {
             harmless += text.substr(0, character.length);

@@ -20,6 +20,9 @@ struct Utf8Character {
 /// Whether the byte is the second or a later one of a character.
 constexpr bool isUtf8Continuation(char byte) { return (static_cast<std::uint8_t>(byte) & 0xC0U) == 0x80U; }
 
+/// Whether the code is a control character's: U+0000 to U+001F, U+007F to U+009F.
+constexpr bool isControlCode(std::uint32_t code) { return code < 0x20 || (code >= 0x7F && code < 0xA0); }
+
 /// The first character of a text that is not empty. Overlong forms, surrogates and codes above 0x10FFFF are
 /// no characters (RFC 3629).
 Utf8Character firstCharacter(std::string_view text);

@@ -45,7 +45,8 @@ bool FileMoves::isThere(const std::string& path) {
 
 Result<std::string> FileMoves::named(const std::string& path, const QString& name) {
     const fs::path file(path);
-    const QString ending = QString::fromStdString(file.extension().string());
+    const std::string extension = file.extension().string();
+    const QString ending = QString::fromStdString(extension);
     QString wanted = name.trimmed();
     // Who writes the ending means the same name.
     if (!ending.isEmpty() && wanted.endsWith(ending)) wanted = wanted.chopped(ending.size()).trimmed();
@@ -54,7 +55,7 @@ Result<std::string> FileMoves::named(const std::string& path, const QString& nam
         return errorOf(tr("A name cannot have a slash (/) in it."));
     if (wanted.startsWith(u'.'))
         return errorOf(tr("A name cannot begin with a point: the file would be hidden."));
-    const std::string whole = QFile::encodeName(wanted).toStdString() + file.extension().string();
+    const std::string whole = QFile::encodeName(wanted).toStdString() + extension;
     if (whole.size() > longestName) return errorOf(tr("The name is too long for a file."));
     return (file.parent_path() / whole).string();
 }

@@ -8,7 +8,6 @@
 #include <QString>
 #include <algorithm>
 #include <chrono>
-#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -41,15 +40,13 @@ struct Listed {
     QString name;
 };
 
-constexpr bool isControl(std::uint32_t code) { return code < 0x20 || (code >= 0x7F && code < 0xA0); }
-
 /// A terminal does nothing of what the name says. Bytes that are no characters stay: the name is good to be
 /// given to --play.
 std::string lineOf(const std::string& name) {
     std::string line;
     for (std::string_view rest = name; !rest.empty();) {
         const Utf8Character character = firstCharacter(rest);
-        if (character.code && isControl(*character.code)) {
+        if (character.code && isControlCode(*character.code)) {
             line += '?';
         } else {
             line += rest.substr(0, character.length);

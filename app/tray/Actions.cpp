@@ -26,14 +26,6 @@ QString obstacleToAll(const MenuFacts& facts) {
     return {};
 }
 
-/// What is typed would go into a window of the program's own, and nobody could stop it by hot key.
-QString obstacleToKeys(const MenuFacts& facts) {
-    if (facts.promptShown) return Words::tr("Keyrill is asking how often to play.");
-    if (facts.hotKeysOff)
-        return Words::tr("Keyrill's hot keys are off while they are being chosen in a window of its own.");
-    return {};
-}
-
 QString obstacleToPlaying(const MenuFacts& facts) {
     if (facts.recording) return Words::tr("A macro is being recorded.");
     return facts.hasMacro ? QString() : Words::tr("There is no macro to play yet.");
@@ -59,13 +51,12 @@ std::string actionNames() {
 QString obstacleTo(const ActionRow& action, const MenuFacts& facts) {
     if (QString toAll = obstacleToAll(facts); !toAll.isEmpty()) return toAll;
     const bool records = action.menuItem == "record";
-    const bool takesKeyboard = action.menuItem == "macros";
     const bool plays = action.menuItem == "play" || action.menuItem == "multiplePlay";
-    // The prompt has it.
-    if (takesKeyboard && facts.promptShown) return obstacleToKeys(facts);
-    if (records || plays) {
-        if (QString toKeys = obstacleToKeys(facts); !toKeys.isEmpty()) return toKeys;
-    }
+    const bool needsKeyboard = records || plays || action.menuItem == "macros";
+    // What is typed would go into a window of the program's own, and nobody could stop it by hot key.
+    if (needsKeyboard && facts.promptShown) return Words::tr("Keyrill is asking how often to play.");
+    if ((records || plays) && facts.hotKeysOff)
+        return Words::tr("Keyrill's hot keys are off while they are being chosen in a window of its own.");
     if (records && facts.recording) return Words::tr("A macro is being recorded already.");
     if (action.menuItem == "stop" && !facts.recording)
         return Words::tr("Nothing is being recorded or played.");

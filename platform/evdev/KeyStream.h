@@ -66,9 +66,7 @@ class KeyStream final : public KeyboardListener {
 
     /// A hot key that ends playbacks is heeded as soon as it is known, wherever it is known from.
     void noteHotKey(HotKeyId id);
-    /// The user wishes to stop: what he asked for before, and is not delivered yet, is not played any more.
-    void dropPlays();
-    /// Takes back all hot keys that wait, but for those that cancel.
+    /// The user wishes to stop: takes back all hot keys that wait, but for those that cancel.
     void dropCommands();
 
     static ServerTime serverTime(RepeatCounter::Time time) {
@@ -83,7 +81,8 @@ class KeyStream final : public KeyboardListener {
     static constexpr std::uint16_t script = 2;
     static constexpr std::uint16_t desktop = 3;
     static constexpr std::uint16_t window = 4;
-
+    /// The same of those alone that play: the stop is among the hot keys, and those before it are in order.
+    void dropPlays();
     void adoptLights(const std::vector<NewKeyboard>& keyboards);
     void startWith(std::uint16_t keyboard, const KeycodeSet& down);
     void adoptLocks(xkb_mod_mask_t inForce);

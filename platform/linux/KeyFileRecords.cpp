@@ -25,13 +25,9 @@ void appendEscaped(std::string& text, std::string_view bytes) {
 
 /// Also blanks at the ends, which editors are fond of removing.
 bool isEscaped(const Utf8Character& character, bool isAtEnd) {
-    constexpr std::uint32_t firstPrinted = 0x20;
-    constexpr std::uint32_t deleted = 0x7F;
-    constexpr std::uint32_t controlsEnd = 0xA0;
     if (!character.code) return true;
     const std::uint32_t code = *character.code;
-    const bool isControl = code < firstPrinted || (code >= deleted && code < controlsEnd);
-    return isControl || code == '[' || code == ']' || code == '%' || (isAtEnd && code == ' ');
+    return isControlCode(code) || code == '[' || code == ']' || code == '%' || (isAtEnd && code == ' ');
 }
 
 std::string groupOf(std::string_view name) {

@@ -31,8 +31,6 @@ std::string asideName(const std::string& path) {
 
 using Kind = UserKeyFile::Kind;
 
-const char* nounOf(Kind kind) { return kind == Kind::settings ? "settings file" : "macro settings file"; }
-
 Sentence noKeyFile(Kind kind) {
     //: %1 is a file, %2 why, perhaps in the system's words: It has a zero byte
     if (kind == Kind::settings) return sentence("Settings", "The settings file %1 is not a key file: %2");
@@ -58,13 +56,10 @@ Sentence wasRenamed(Kind kind) {
 }  // namespace
 
 UserKeyFile::UserKeyFile(std::string path, Kind kind, std::function<void(const Error&)> tellFault)
-    : m_path(std::move(path)),
-      m_kind(kind),
-      m_tellFault(std::move(tellFault)),
-      m_file(m_path, nounOf(kind)) {}
+    : m_path(std::move(path)), m_kind(kind), m_tellFault(std::move(tellFault)), m_file(m_path, kind) {}
 
 Result<KeyFile> UserKeyFile::readAny(const std::string& path, Kind kind) {
-    const auto content = WholeFile(path, nounOf(kind)).read();
+    const auto content = WholeFile(path, kind).read();
     if (!content) return content.error();
     auto file = KeyFile::parse(content.value());
     if (file) return file;

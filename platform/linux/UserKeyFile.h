@@ -15,7 +15,7 @@
 class UserKeyFile {
   public:
     /// What errors call the file and its folder.
-    enum class Kind { settings, macroSettings };
+    using Kind = WholeFile::Kind;
     enum class Damaged { isPutAside, stays };
 
     /// `tellFault` is called when a file has been put aside.

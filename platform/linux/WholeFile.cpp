@@ -62,21 +62,23 @@ mode_t withoutGroup(mode_t mode) {
     return (mode & ~group) | ((mode & 07U) << 3U);
 }
 
-Sentence unreadable(std::string_view kind) {
+Sentence unreadable(WholeFile::Kind kind) {
     //: %1 is a file, %2 why, perhaps in the system's words: It is a folder
-    if (kind == "settings file") return sentence("Settings", "The settings file %1 cannot be read: %2");
+    if (kind == WholeFile::Kind::settings)
+        return sentence("Settings", "The settings file %1 cannot be read: %2");
     //: %1 is a file, %2 why, perhaps in the system's words: It is a folder
-    if (kind == "macro settings file")
+    if (kind == WholeFile::Kind::macroSettings)
         return sentence("Settings", "The macro settings file %1 cannot be read: %2");
     //: %2 is why, perhaps in the system's words: It is a folder
     return sentence("Files", "The file %1 cannot be read: %2");
 }
 
-Sentence unwritable(std::string_view kind) {
+Sentence unwritable(WholeFile::Kind kind) {
     //: %1 is a file, %2 why, perhaps in the system's words: It is a folder
-    if (kind == "settings file") return sentence("Settings", "The settings file %1 cannot be written: %2");
+    if (kind == WholeFile::Kind::settings)
+        return sentence("Settings", "The settings file %1 cannot be written: %2");
     //: %1 is a file, %2 why, perhaps in the system's words: It is a folder
-    if (kind == "macro settings file")
+    if (kind == WholeFile::Kind::macroSettings)
         return sentence("Settings", "The macro settings file %1 cannot be written: %2");
     //: %2 is why, perhaps in the system's words: It is a folder
     return sentence("Files", "The file %1 cannot be written: %2");
@@ -84,7 +86,7 @@ Sentence unwritable(std::string_view kind) {
 
 }  // namespace
 
-WholeFile::WholeFile(std::string path, std::string kind) : m_path(std::move(path)), m_kind(std::move(kind)) {}
+WholeFile::WholeFile(std::string path, Kind kind) : m_path(std::move(path)), m_kind(kind) {}
 
 std::string WholeFile::target() const {
     constexpr int mostLinks = 40;

@@ -13,9 +13,10 @@
 /// A file that is read and written as one piece.
 class WholeFile {
   public:
-    /// `kind` is the noun of its errors, "The KIND PATH cannot be read: CAUSE": "file", "settings file" or
-    /// "macro settings file".
-    explicit WholeFile(std::string path, std::string kind = "file");
+    /// What errors call it: "The settings file PATH cannot be read: CAUSE".
+    enum class Kind { any, settings, macroSettings };
+
+    explicit WholeFile(std::string path, Kind kind = Kind::any);
 
     /// Where the path leads: links are followed, also one whose target is not there; the path itself where
     /// they lead nowhere.
@@ -49,5 +50,5 @@ class WholeFile {
     Error cannotBeWritten(const Error& cause) const;
 
     std::string m_path;
-    std::string m_kind;
+    Kind m_kind;
 };

@@ -318,7 +318,7 @@ TEST_F(WholeFileTest, givesAdviceThatFitsTheCause) {
 }
 
 TEST_F(WholeFileTest, callsItselfWhatItIs) {
-    EXPECT_EQ(WholeFile(file, "settings file").read().error().message,
+    EXPECT_EQ(WholeFile(file, WholeFile::Kind::settings).read().error().message,
               "The settings file " + file + " cannot be read: No such file or directory");
 }
 

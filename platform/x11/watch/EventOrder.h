@@ -42,12 +42,12 @@ class EventOrder {
     /// The same with all that the server has done until now.
     void catchUp();
 
-    /// The user wishes to stop: what he asked for before, and is not delivered yet, is not played any more.
-    void dropPlays();
-    /// Takes back all hot keys that wait, but for those that cancel.
+    /// The user wishes to stop: takes back all hot keys that wait, but for those that cancel.
     void dropCommands();
 
   private:
+    /// The same of those alone that play: the stop is among the hot keys, and those before it are in order.
+    void dropPlays();
     bool hasRepeats() const;
     void workOffRawEvents();
     void workOffRepeats();
