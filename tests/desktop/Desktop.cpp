@@ -124,6 +124,9 @@ void Desktop::startWindowManager(WindowManager manager) {
         std::filesystem::create_directories(m_folder.file("host/.icewm"));
         std::ofstream(m_folder.file("host/.icewm/preferences")) << "Win95Keys=0\nModSuperIsCtrlAlt=0\n";
     }
+    // The first key of a device makes the server tell of a new keymap, and openbox lets go of all its keys
+    // for a moment then: the next one would be lost in it.
+    press("Shift_L");
     m_manager = std::make_unique<Child>(commandOf(manager), hostOptions("manager.log"));
     awaitOrThrow("the window manager", [this] {
         return run({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}).find("0x") != std::string::npos;
