@@ -226,8 +226,10 @@ void FolderTree::followFolders(const std::string& path, const std::map<std::stri
     for (const auto& [name, identity] : now) {
         const std::string folder = joined(path, name);
         const auto known = m_folders.find(folder);
-        // One that could not be read may be readable now.
-        if ((known == m_folders.end() || known->second.fault) && !isDeep(folder)) read(folder);
+        // One that could not be read may be readable now; one that was renamed to and fro while it was read
+        // is not watched yet.
+        const bool isToBeRead = known == m_folders.end() || known->second.fault || known->second.watch < 0;
+        if (isToBeRead && !isDeep(folder)) read(folder);
     }
 }
 

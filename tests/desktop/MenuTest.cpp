@@ -158,6 +158,30 @@ TEST_F(OwnMenuTest, whatIsTypedAsSoonAsItClosesIsRecorded) {
     }
 }
 
+/// A menu has the keyboard and the mouse to itself as a screen locker has: that must not be held against what
+/// is typed when it is closed.
+TEST_F(OwnMenuTest, whatIsTypedAsSoonAsItClosesInARecordingIsRecorded) {
+    const Terminal terminal(desktop.display());
+    const Keyrill keyrill(desktop);
+    StatusMenuClicks menu(desktop);
+    const Hands hands(desktop.display());
+    const Typist reader(hands, Typist::Gap(150));
+    const Typist typist(hands, Typist::Gap(0));
+    constexpr int taps = 60;
+    record();
+    desktop.awaitWindow(title::overlay);
+    menu.open();
+    for (const std::uint8_t key : {xkey::arrowDown, xkey::arrowDown, xkey::arrowDown, xkey::arrowDown})
+        reader.tap(key);
+    hands.press(xkey::escape);
+    for (int tap = 0; tap < taps; ++tap) typist.tap(xkey::a);
+    hands.release(xkey::escape);
+    typist.tap(xkey::period);
+    ASSERT_TRUE(eventually([&] { return terminal.typed().ends_with('.'); }));
+    stop();
+    EXPECT_EQ(keyLines(savedMacro(desktop)), terminal.typed().size());
+}
+
 /// The toolkit notices only after a while that none of the program's windows is in use any longer, and closes
 /// menus then.
 TEST_F(OwnMenuTest, staysOpenRightAfterAWindowOfTheProgramHasClosed) {

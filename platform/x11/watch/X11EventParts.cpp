@@ -96,13 +96,15 @@ void X11EventManager::Parts::read() {
     watchRepeats();
 }
 
-/// Looks again and again while a macro is recorded, and with each key press; while one is played, at its
-/// beginning and at what it does some time after the last look, as is a stroke that follows a pause.
+/// Looks again and again while a macro is recorded, and with each key press, but not while nothing is
+/// delivered because of a menu of ours, which has the keyboard to itself as lockers have; while one is
+/// played, at its beginning and at what it does some time after the last look, as is a stroke that follows a
+/// pause.
 void X11EventManager::Parts::followHold() {
     const bool ticked = m_looks.take();
     if (m_running) {
         if (m_clock.now() >= m_nextLookOfRun) lookWhoHoldsTheKeyboard();
-    } else if (m_recording && (ticked || m_interpreter.hasPresses())) {
+    } else if (m_recording && !m_withheld && (ticked || m_interpreter.hasPresses())) {
         lookWhoHoldsTheKeyboard();
     }
 }
@@ -252,6 +254,7 @@ void X11EventManager::Parts::setWithheld(bool withheld) {
     catchUp();
     m_raw->followHoldOf(XCB_WINDOW_NONE);
     m_interpreter.setMuted(withheld);
+    m_withheld = withheld;
 }
 
 void X11EventManager::Parts::setShowsModifierKeys(bool shows) {

@@ -112,6 +112,7 @@ class X11EventManager::Parts final : public RunWatch {
     std::function<void(bool)> m_holdChanged;
     std::function<bool()> m_endsPlays;
     bool m_recording = false;
+    bool m_withheld = false;
     bool m_toldHeld = false;
     bool m_running = false;
     bool m_gaveUp = false;

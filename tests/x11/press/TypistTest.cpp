@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "display/Typist.h"
 
+#include <algorithm>
+
 #include "support/Keys.h"
 #include "x11/press/InjectorTest.h"
 
@@ -8,13 +10,12 @@ namespace {
 
 using KeyEvents = std::vector<CoreClient::KeyEvent>;
 
-/// The shortest time between two neighbours, in the server's milliseconds.
-std::uint32_t shortestGap(const KeyEvents& events) {
-    std::uint32_t shortest = ~0U;
-    for (std::size_t at = 1; at < events.size(); ++at) {
-        shortest = std::min(shortest, events[at].time - events[at - 1].time);
-    }
-    return shortest;
+/// The time between two neighbours that half of them exceed, in the server's milliseconds.
+std::uint32_t medianGap(const KeyEvents& events) {
+    std::vector<std::uint32_t> gaps;
+    for (std::size_t at = 1; at < events.size(); ++at) gaps.push_back(events[at].time - events[at - 1].time);
+    std::sort(gaps.begin(), gaps.end());
+    return gaps.at(gaps.size() / 2);
 }
 
 /// What an application gets of a person at a real keyboard.
@@ -39,8 +40,8 @@ TEST_P(TypistTest, combinationsArriveKeyByKey) {
     EXPECT_EQ(wordsOf(events),
               (std::vector<std::string>{"press 37 0x0", "press 133 0x4", "press 39 0x44", "release 39 0x44",
                                         "release 133 0x44", "release 37 0x4"}));
-    // Each is stamped when it arrives, which is not always when it leaves.
-    EXPECT_GE(shortestGap(events) + 3, GetParam().count());
+    // Each is stamped when it arrives: one that is late shortens the time to the next.
+    EXPECT_GE(medianGap(events) + 3, GetParam().count());
 }
 
 TEST_P(TypistTest, fluentTypingRollsOver) {
