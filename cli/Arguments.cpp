@@ -4,6 +4,8 @@
 #include <array>
 #include <string>
 
+#include "platform/Sentence.h"
+
 namespace {
 
 /// What has been read of the words so far.
@@ -22,11 +24,12 @@ Result<void> takeLine(Reading& reading, std::string_view line) {
 Result<void> takeTimes(Reading& reading, std::string_view value) {
     const auto times = playTimesFromText(value);
     if (!times) {
-        return Error{"--times " + std::string(value) + " is not how often a script can be played.",
-                     "It is a whole number from 1 on, or until-stopped."};
+        return Error{sentence("ScriptTool", "--times %1 is not how often a script can be played.").arg(value),
+                     sentence("ScriptTool", "It is a whole number from 1 on, or until-stopped.")};
     }
     if (!times->count && reading.command == "trace") {
-        return Error{"Nobody can stop a trace.", "Give --times a number."};
+        return Error{sentence("ScriptTool", "Nobody can stop a trace."),
+                     sentence("ScriptTool", "Give --times a number.")};
     }
     reading.input.play.times = *times;
     return {};
@@ -35,8 +38,8 @@ Result<void> takeTimes(Reading& reading, std::string_view value) {
 Result<void> takeSpeed(Reading& reading, std::string_view value) {
     const auto speed = playSpeedFromText(value);
     if (!speed) {
-        return Error{"--speed " + std::string(value) + " is not how fast a script can be played.",
-                     "It is a number from 0.25 to 4."};
+        return Error{sentence("ScriptTool", "--speed %1 is not how fast a script can be played.").arg(value),
+                     sentence("ScriptTool", "It is a number from 0.25 to 4.")};
     }
     reading.input.play.speed = *speed;
     return {};

@@ -12,6 +12,7 @@
 #include "cli/Report.h"
 #include "cli/ScriptFile.h"
 #include "cli/TerminalDialogs.h"
+#include "platform/Sentence.h"
 #include "platform/TerminalText.h"
 #include "platform/linux/SteadyClock.h"
 #include "platform/script/code/Compiler.h"
@@ -33,9 +34,6 @@ struct Source {
     std::optional<script::ScriptWarning> warning = {};
 };
 
-constexpr const char* noUtf8 =
-    "This is no UTF-8, so the whole file is taken for Mac Roman. Save it as UTF-8.";
-
 /// Empty after an error, which has been told.
 std::optional<Source> sourceOf(const ScriptInput& input) {
     if (!input.lines.empty()) {
@@ -49,7 +47,11 @@ std::optional<Source> sourceOf(const ScriptInput& input) {
         return std::nullopt;
     }
     Source source{input.file, std::move(read.value().text)};
-    if (read.value().noUtf8) source.warning = script::ScriptWarning{noUtf8, *read.value().noUtf8};
+    if (read.value().noUtf8)
+        source.warning = script::ScriptWarning{
+            sentence("ScriptTool",
+                     "This is no UTF-8, so the whole file is taken for Mac Roman. Save it as UTF-8."),
+            *read.value().noUtf8};
     if (source.warning && !input.wantsJson) Report(source.name, source.text).warning(*source.warning);
     return source;
 }

@@ -13,6 +13,7 @@
 #include "platform/EventMonitor.h"
 #include "platform/EventSource.h"
 #include "platform/Modifiers.h"
+#include "platform/Sentence.h"
 #include "platform/script/commands/KeyTable.h"
 
 namespace {
@@ -56,7 +57,7 @@ int printPressedKey() {
     }
     {
         const QuietTerminal terminal;
-        std::cerr << "Press a key." << std::endl;
+        std::cerr << sentence("ScriptTool", "Press a key.").text() << std::endl;
         serve(*playback.value(), [&] { return code.has_value(); });
         if (code) terminal.awaitKey();
     }

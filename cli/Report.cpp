@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "platform/ErrorText.h"
+#include "platform/Sentence.h"
 #include "platform/TerminalText.h"
 #include "platform/Utf8.h"
 
@@ -66,7 +67,8 @@ void Report::tell(const char* kind, const script::ScriptError& error) const {
     if (!line.empty() && line.size() <= widestLine) {
         std::cerr << harmlessText(line) << "\n" << indentation(line, error.location.column - 1) << "^\n";
     }
-    if (!error.hint.empty()) std::cerr << "Hint: " << harmlessText(error.hint) << "\n";
+    if (!error.hint.empty())
+        std::cerr << harmlessText(sentence("ScriptTool", "Hint: %1").arg(error.hint).text()) << "\n";
 }
 
 void Report::warning(const script::ScriptWarning& warning) const {

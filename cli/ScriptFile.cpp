@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "platform/Encoding.h"
+#include "platform/Sentence.h"
 #include "platform/linux/RegularFile.h"
 #include "platform/script/code/Compiler.h"
 
@@ -33,7 +34,10 @@ Result<std::string> bytesOfFile(const std::string& file) {
     const auto opened = openRegularFile(file);
     if (opened) return bytesOf(opened.value().number());
     const bool isOfWrongKind = !opened.error().hint.empty();
-    return Error{opened.error().message + (isOfWrongKind ? "; standard input is \"-\"" : ""), ""};
+    const std::string& message = opened.error().message;
+    return Error{
+        isOfWrongKind ? sentence("ScriptTool", "%1; standard input is \"-\"").arg(message).text() : message,
+        ""};
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "cli/QuestionTerminal.h"
+#include "platform/Sentence.h"
 
 namespace {
 
@@ -17,7 +18,7 @@ std::string menuOf(const ScriptDialog& dialog) {
     std::string menu;
     for (std::size_t i = 0; i < dialog.buttons.size(); ++i) {
         menu += (menu.empty() ? "" : "   ") + std::to_string(i + 1) + " " + dialog.buttons[i];
-        if (dialog.defaultButton == i) menu += " (Return)";
+        if (dialog.defaultButton == i) menu += " " + sentence("ScriptTool", "(Return)").text();
     }
     return menu;
 }
@@ -143,12 +144,14 @@ class TerminalDialogs::Question {
 
 Result<ScriptAnswer> TerminalDialogs::ask(const ScriptDialog& dialog) {
     QuestionTerminal terminal;
-    if (!terminal) return Error{"No dialog can be shown here.", "Run the script in a terminal."};
+    if (!terminal)
+        return Error{sentence("ScriptTool", "No dialog can be shown here."),
+                     sentence("ScriptTool", "Run the script in a terminal.")};
     m_injector.rest();
     std::optional<ScriptAnswer> answer = Question(dialog, terminal, m_injector).answer();
     if (answer) return *std::move(answer);
     m_injector.stopPlayback();
-    return Error{"The question was not answered.", ""};
+    return Error{sentence("ScriptTool", "The question was not answered."), ""};
 }
 
 Result<void> TerminalDialogs::notify(const ScriptNotification& notification) {

@@ -145,8 +145,8 @@ function(keyrill_test target)
     keyrill_precompile(${target} keyrill_precompiled_test)
     target_link_libraries(${target} PRIVATE ${test_USES} GTest::gtest GTest::gtest_main)
     keyrill_inside(${target} ${test_INSIDE})
-    # Whose session it is run in is none of a test's business.
-    set(properties LABELS ${test_LABEL} TIMEOUT ${test_TIMEOUT} ENVIRONMENT_MODIFICATION "WAYLAND_DISPLAY=unset:"
+    # Whose session it is run in is none of a test's business, nor in what language.
+    set(properties LABELS ${test_LABEL} TIMEOUT ${test_TIMEOUT} ENVIRONMENT_MODIFICATION "WAYLAND_DISPLAY=unset:" ENVIRONMENT "LC_ALL=C.UTF-8"
                    ${test_PROPERTIES})
     if(test_LABEL STREQUAL "unit")
         add_test(NAME ${target} COMMAND ${target})

@@ -6,20 +6,9 @@
 #include <memory>
 #include <vector>
 
+#include "languages/Languages.h"
+
 class QTranslator;
-
-/// The languages that the program has words in beside that of its sources, which is English: "de", "fr", ...;
-/// sorted.
-QStringList offeredLanguages();
-
-/// The first of `wanted` that is spoken; empty for English, or if none is. `wanted` holds names as "de",
-/// "de-AT" or "de_AT.UTF-8", the best first; "C" and "POSIX" are English.
-QString chosenLanguage(const QStringList& wanted, const QStringList& offered);
-
-/// The languages that the user has chosen in the desktop's settings, the best first: LANGUAGE, else LC_ALL,
-/// LC_MESSAGES or LANG; none where these say "C" or nothing, whatever LANGUAGE is ("The LANGUAGE variable" in
-/// GNU gettext's manual).
-QStringList languagesOfDesktop();
 
 /// The program's words in the user's language while it lives, those of rooms without a toolkit
 /// (platform/Sentence.h) among them, and the toolkit's, which stand in its standard
@@ -39,7 +28,7 @@ class Catalogues {
     const QString& language() const { return m_language; }
 
   private:
-    void install(const QString& name, const QString& folder);
+    void install(const QString& file);
 
     QString m_language;
     std::vector<std::unique_ptr<QTranslator>> m_translators;

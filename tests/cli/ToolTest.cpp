@@ -30,9 +30,9 @@ class ToolTest : public testing::Test {
     /// Runs the program in the folder that holds "script", with standard input from a file of this name.
     Outcome run(const std::string& arguments, const std::string& input = "/dev/null",
                 const std::string& output = "out") {
-        const std::string command = "cd " + m_folder.path() + " && exec env -u DISPLAY " +
-                                    programs::scriptTool + " " + arguments + " <" + input + " >" + output +
-                                    " 2>err";
+        const std::string command = "cd " + m_folder.path() + " && exec env -u DISPLAY LC_ALL=" + m_locale +
+                                    " " + programs::scriptTool + " " + arguments + " <" + input + " >" +
+                                    output + " 2>err";
         Child child({"sh", "-c", command});
         const int status = child.wait();
         return {status, contentOf(m_folder.file("out")), contentOf(m_folder.file("err"))};
@@ -43,6 +43,7 @@ class ToolTest : public testing::Test {
     }
 
     TemporaryFolder m_folder;
+    std::string m_locale = "C.UTF-8";
 };
 
 constexpr const char* usage = "Usage: keyrill-script check FILE";
@@ -384,6 +385,19 @@ TEST_F(ToolTest, helpAndVersionGoToStandardOutput) {
     const Outcome version = run("--version");
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.output.rfind("keyrill-script ", 0), 0U);
+}
+
+/// What scripts see of their errors is the same in all languages, and so is what is printed of it.
+TEST_F(ToolTest, speaksTheLanguageOfTheUser) {
+    m_locale = "de_DE.UTF-8";
+    EXPECT_EQ(run("--help").output.rfind("Aufruf: keyrill-script check DATEI", 0), 0U);
+    EXPECT_EQ(run("trace --times until-stopped -e 'delay 0'").errors,
+              "keyrill-script: Ein trace lässt sich nicht anhalten. Geben Sie bei --times eine Zahl an.\n");
+    write("tell application \"System Events\"\n\tkey code 1\n");
+    EXPECT_EQ(run("check script").errors,
+              "script:3:1: syntax error: Expected “end” but found end of script. (-2741)\n"
+              "Hinweis: Der Block, der in Zeile 1 beginnt, hat kein eigenes „end“.\n");
+    EXPECT_EQ(run("trace -e 'delay 1.5' -e 'log 0.25'"), (Outcome{0, "[\"delay\",1.5]\n", "(*0.25*)\n"}));
 }
 
 }  // namespace

@@ -52,6 +52,9 @@ BEGIN {
     # The one list of sessions: nothing else that is no part of a session knows one.
     room("platform/sessions", "platform platform/wayland platform/x11", "", foreign)
 
+    # The catalogues of all texts: what the desktop programs and the one for terminals speak.
+    room("languages", "platform", standard "|^Q", "")
+
     room("core", "platform", standard "|^boost/", "")
     room("prefs", "core platform", standard "|^boost/", "")
     room("engine", "prefs core platform", standard "|^boost/", "")
@@ -60,7 +63,7 @@ BEGIN {
     room("library/steps", "core platform platform/script/code platform/script/run platform/script/source",
          standard "|^boost/", "")
 
-    app("languages", "platform")
+    app("languages", "languages platform")
     app("icons", "platform")
     app("widgets", "app/icons")
     app("shortcuts", "prefs core platform")
@@ -84,13 +87,13 @@ BEGIN {
     # A service of its own, with as little as can be.
     room("access", "platform platform/evdev/devices", "", foreign)
     # A program of its own, without a toolkit.
-    room("cli", "platform platform/linux platform/script/run platform/script/code platform/script/syntax" \
+    room("cli", "languages platform platform/linux platform/script/run platform/script/code platform/script/syntax" \
                 " platform/script/commands platform/script/source platform/sessions", "", foreign)
 
     # The standard library cannot close a file descriptor.
     exempt["platform/Descriptor.cpp", "unistd.h"] = 1
 
-    ofRooms = "^(access|app|cli|core|engine|library|platform|prefs)/"
+    ofRooms = "^(access|app|cli|core|engine|languages|library|platform|prefs)/"
     besideTheRooms = "^(tests|bench|fuzz)/"
     # What platform/x11/server has a class for, or a function.
     xcbIdiom = "xcb_(get|change|delete)_property([^a-z_]|_(un)?checked|_reply\\()|xcb_(intern_atom|query_tree|query_extension)" \

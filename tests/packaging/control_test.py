@@ -90,7 +90,7 @@ class ControlTest(unittest.TestCase):
         self.assertIn("xdg-utils", names(fields["Recommends"]))
 
     def test_the_toolkits_own_words_are_there_in_each_language_of_the_program(self):
-        languages = [path.stem.removeprefix("keyrill_") for path in (SOURCE / "app/languages").glob("keyrill_*.ts")]
+        languages = [path.stem.removeprefix("keyrill_") for path in (SOURCE / "languages").glob("keyrill_*.ts")]
         self.assertIn("de", languages)
         owners = owners_of(f"/usr/share/qt6/translations/qtbase_{language}.qm" for language in languages)
         self.assertLessEqual(owners, names(self.binaries["keyrill"]["Depends"]) & section("run"))

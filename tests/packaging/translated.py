@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""translated.py CATALOGUE CONTEXT TEXT: what a catalogue of app/languages has for that text of that context, as it is shown:
+"""translated.py CATALOGUE CONTEXT TEXT: what a catalogue of languages has for that text of that context, as it is shown:
 without the sign before the letter that is pressed for it."""
 import sys
 import xml.etree.ElementTree as ElementTree

@@ -2655,6 +2655,95 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>ScriptTool</name>
+    <message>
+        <source>--times %1 is not how often a script can be played.</source>
+        <translation>--times %1 не может быть числом воспроизведений сценария.</translation>
+    </message>
+    <message>
+        <source>It is a whole number from 1 on, or until-stopped.</source>
+        <translation>Это целое число не меньше 1 или until-stopped.</translation>
+    </message>
+    <message>
+        <source>Nobody can stop a trace.</source>
+        <translation>Трассировку некому остановить.</translation>
+    </message>
+    <message>
+        <source>Give --times a number.</source>
+        <translation>Укажите для --times число.</translation>
+    </message>
+    <message>
+        <source>--speed %1 is not how fast a script can be played.</source>
+        <translation>--speed %1 не может быть скоростью воспроизведения сценария.</translation>
+    </message>
+    <message>
+        <source>It is a number from 0.25 to 4.</source>
+        <translation>Это число от 0.25 до 4.</translation>
+    </message>
+    <message>
+        <source>This is no UTF-8, so the whole file is taken for Mac Roman. Save it as UTF-8.</source>
+        <translation>Это не UTF-8, поэтому весь файл читается как Mac Roman. Сохраните его в UTF-8.</translation>
+    </message>
+    <message>
+        <source>Press a key.</source>
+        <translation>Нажмите клавишу.</translation>
+    </message>
+    <message>
+        <source>Hint: %1</source>
+        <translation>Подсказка: %1</translation>
+    </message>
+    <message>
+        <source>%1; standard input is &quot;-&quot;</source>
+        <translation>%1; стандартный ввод — «-»</translation>
+    </message>
+    <message>
+        <source>(Return)</source>
+        <translation>(Return)</translation>
+    </message>
+    <message>
+        <source>No dialog can be shown here.</source>
+        <translation>Здесь нельзя показать диалог.</translation>
+    </message>
+    <message>
+        <source>Run the script in a terminal.</source>
+        <translation>Запустите сценарий в терминале.</translation>
+    </message>
+    <message>
+        <source>The question was not answered.</source>
+        <translation>На вопрос не ответили.</translation>
+    </message>
+    <message>
+        <source>Usage: keyrill-script check FILE   compile, and say what is wrong; with --json for editors
+       keyrill-script run [--times N] [--speed X] FILE
+                                   press the keys, so often (or until-stopped), its pauses divided by X
+       keyrill-script trace FILE   print what would be done, one JSON array a line
+       keyrill-script format FILE  print the script in one layout
+       keyrill-script keys         print the key codes; with --press that of the next key
+       keyrill-script reference    print the reference of the language
+       keyrill-script -h | --help | --version
+FILE - is standard input; -e LINE, once or more, gives the script itself.
+</source>
+        <translation>Использование: keyrill-script check ФАЙЛ    скомпилировать и сообщить об ошибках; с --json — для редакторов
+               keyrill-script run [--times N] [--speed X] ФАЙЛ
+                                            нажать клавиши столько раз (или until-stopped), деля паузы на X
+               keyrill-script trace ФАЙЛ    вывести, что было бы сделано, по массиву JSON в строке
+               keyrill-script format ФАЙЛ   вывести сценарий в едином оформлении
+               keyrill-script keys          вывести коды клавиш; с --press — код следующей клавиши
+               keyrill-script reference     вывести справочник языка
+               keyrill-script -h | --help | --version
+ФАЙЛ - — стандартный ввод; -e СТРОКА, один или несколько раз, задаёт сам сценарий.
+</translation>
+    </message>
+    <message>
+        <source>There is no command “%1”.</source>
+        <translation>Команды «%1» нет.</translation>
+    </message>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation>Невозможно записать в стандартный вывод.</translation>
+    </message>
+</context>
+<context>
     <name>Session</name>
     <message>
         <source>There is no session bus.</source>

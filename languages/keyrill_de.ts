@@ -2653,6 +2653,95 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
 </context>
 <context>
+    <name>ScriptTool</name>
+    <message>
+        <source>--times %1 is not how often a script can be played.</source>
+        <translation>--times %1 ist keine gültige Anzahl von Wiedergaben.</translation>
+    </message>
+    <message>
+        <source>It is a whole number from 1 on, or until-stopped.</source>
+        <translation>Gültig ist eine ganze Zahl ab 1 oder until-stopped.</translation>
+    </message>
+    <message>
+        <source>Nobody can stop a trace.</source>
+        <translation>Ein trace lässt sich nicht anhalten.</translation>
+    </message>
+    <message>
+        <source>Give --times a number.</source>
+        <translation>Geben Sie bei --times eine Zahl an.</translation>
+    </message>
+    <message>
+        <source>--speed %1 is not how fast a script can be played.</source>
+        <translation>--speed %1 ist kein gültiges Tempo.</translation>
+    </message>
+    <message>
+        <source>It is a number from 0.25 to 4.</source>
+        <translation>Gültig ist eine Zahl von 0.25 bis 4.</translation>
+    </message>
+    <message>
+        <source>This is no UTF-8, so the whole file is taken for Mac Roman. Save it as UTF-8.</source>
+        <translation>Dies ist kein UTF-8, daher wird die ganze Datei als Mac Roman gelesen. Speichern Sie sie als UTF-8.</translation>
+    </message>
+    <message>
+        <source>Press a key.</source>
+        <translation>Drücken Sie eine Taste.</translation>
+    </message>
+    <message>
+        <source>Hint: %1</source>
+        <translation>Hinweis: %1</translation>
+    </message>
+    <message>
+        <source>%1; standard input is &quot;-&quot;</source>
+        <translation>%1; die Standardeingabe ist „-“</translation>
+    </message>
+    <message>
+        <source>(Return)</source>
+        <translation>(Eingabetaste)</translation>
+    </message>
+    <message>
+        <source>No dialog can be shown here.</source>
+        <translation>Hier kann kein Dialog angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Run the script in a terminal.</source>
+        <translation>Führen Sie das Skript in einem Terminal aus.</translation>
+    </message>
+    <message>
+        <source>The question was not answered.</source>
+        <translation>Die Frage wurde nicht beantwortet.</translation>
+    </message>
+    <message>
+        <source>Usage: keyrill-script check FILE   compile, and say what is wrong; with --json for editors
+       keyrill-script run [--times N] [--speed X] FILE
+                                   press the keys, so often (or until-stopped), its pauses divided by X
+       keyrill-script trace FILE   print what would be done, one JSON array a line
+       keyrill-script format FILE  print the script in one layout
+       keyrill-script keys         print the key codes; with --press that of the next key
+       keyrill-script reference    print the reference of the language
+       keyrill-script -h | --help | --version
+FILE - is standard input; -e LINE, once or more, gives the script itself.
+</source>
+        <translation>Aufruf: keyrill-script check DATEI    übersetzen und sagen, was falsch ist; mit --json für Editoren
+        keyrill-script run [--times N] [--speed X] DATEI
+                                      die Tasten drücken, so oft (oder until-stopped), die Pausen geteilt durch X
+        keyrill-script trace DATEI    ausgeben, was getan würde, ein JSON-Feld je Zeile
+        keyrill-script format DATEI   das Skript in einheitlicher Gestalt ausgeben
+        keyrill-script keys           die Tastencodes ausgeben; mit --press den der nächsten Taste
+        keyrill-script reference      die Referenz der Sprache ausgeben
+        keyrill-script -h | --help | --version
+DATEI - ist die Standardeingabe; -e ZEILE, ein- oder mehrmals, gibt das Skript selbst an.
+</translation>
+    </message>
+    <message>
+        <source>There is no command “%1”.</source>
+        <translation>Es gibt keinen Befehl „%1“.</translation>
+    </message>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation>Die Standardausgabe kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
     <name>Session</name>
     <message>
         <source>There is no session bus.</source>

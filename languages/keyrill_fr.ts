@@ -1,104 +1,104 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="ja" sourcelanguage="en">
+<TS version="2.1" language="fr" sourcelanguage="en">
 <context>
     <name>AboutPanel</name>
     <message>
         <source>LGPL 2.1 or later</source>
-        <translation>LGPL 2.1 以降</translation>
+        <translation>LGPL 2.1 ou ultérieure</translation>
     </message>
     <message>
         <source>curl licence</source>
-        <translation>curl ライセンス</translation>
+        <translation>licence curl</translation>
     </message>
     <message>
         <source>About Keyrill</source>
-        <translation>Keyrill について</translation>
+        <translation>À propos de Keyrill</translation>
     </message>
     <message>
         <source>&amp;Documentation</source>
-        <translation>ドキュメント(&amp;D)</translation>
+        <translation>&amp;Documentation</translation>
     </message>
     <message>
         <source>&amp;Product Page</source>
-        <translation>製品ページ(&amp;P)</translation>
+        <translation>Page du &amp;produit</translation>
     </message>
     <message>
         <source>&amp;Maker&apos;s Website</source>
-        <translation>開発元のウェブサイト(&amp;M)</translation>
+        <translation>&amp;Site de l’éditeur</translation>
     </message>
     <message>
         <source>Built with</source>
-        <translation>使用ライブラリ</translation>
+        <translation>Réalisé avec</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation>バージョン %1</translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>Records the keys you press and presses them again.</source>
-        <translation>押したキーを記録し、もう一度押します。</translation>
+        <translation>Enregistre vos frappes au clavier et les reproduit.</translation>
     </message>
     <message>
         <source>Copyright © 2026 the Keyrill authors. Free software under the MIT licence, without any warranty.</source>
-        <translation>Copyright © 2026 Keyrill の作者。MIT ライセンスによるフリーソフトウェアで、いかなる保証もありません。</translation>
+        <translation>Copyright © 2026 les auteurs de Keyrill. Logiciel libre sous licence MIT, sans aucune garantie.</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>閉じる(&amp;C)</translation>
+        <translation>&amp;Fermer</translation>
     </message>
 </context>
 <context>
     <name>AccessDesk</name>
     <message>
         <source>To record what you type in other programs, Keyrill has to read the keyboard until the recording ends. That is why you are asked for your password.</source>
-        <translation>他のプログラムでの入力を記録するには、記録が終わるまで Keyrill がキーボードを読み取る必要があります。そのため、パスワードの入力をお願いしています。</translation>
+        <translation>Pour enregistrer ce que vous saisissez dans d’autres programmes, Keyrill doit lire le clavier jusqu’à la fin de l’enregistrement. C’est pourquoi votre mot de passe vous est demandé.</translation>
     </message>
 </context>
 <context>
     <name>ActionCall</name>
     <message>
         <source>Keyrill is not running.</source>
-        <translation>Keyrill は実行されていません。</translation>
+        <translation>Keyrill n’est pas lancé.</translation>
     </message>
 </context>
 <context>
     <name>Actions</name>
     <message>
         <source>The screen is locked.</source>
-        <translation>画面がロックされています。</translation>
+        <translation>L’écran est verrouillé.</translation>
     </message>
     <message>
         <source>Keyrill is asking something, which has to be answered first.</source>
-        <translation>Keyrill が質問を表示しています。先に回答してください。</translation>
+        <translation>Keyrill pose une question, à laquelle il faut d’abord répondre.</translation>
     </message>
     <message>
         <source>A macro is being recorded.</source>
-        <translation>マクロを記録中です。</translation>
+        <translation>Une macro est en cours d’enregistrement.</translation>
     </message>
     <message>
         <source>There is no macro to play yet.</source>
-        <translation>再生するマクロはまだありません。</translation>
+        <translation>Il n’y a pas encore de macro à exécuter.</translation>
     </message>
     <message>
         <source>A macro is being recorded already.</source>
-        <translation>すでにマクロを記録中です。</translation>
+        <translation>Une macro est déjà en cours d’enregistrement.</translation>
     </message>
     <message>
         <source>Nothing is being recorded or played.</source>
-        <translation>記録中または再生中のものはありません。</translation>
+        <translation>Rien n’est en cours d’enregistrement ni d’exécution.</translation>
     </message>
     <message>
         <source>Nothing is being recorded.</source>
-        <translation>記録中のものはありません。</translation>
+        <translation>Rien n’est en cours d’enregistrement.</translation>
     </message>
     <message>
         <source>Keyrill is asking how often to play.</source>
-        <translation>Keyrill が再生回数を尋ねています。</translation>
+        <translation>Keyrill demande combien de fois exécuter la macro.</translation>
     </message>
     <message>
         <source>Keyrill&apos;s hot keys are off while they are being chosen in a window of its own.</source>
-        <translation>ショートカットを Keyrill のウィンドウで選択している間、ショートカットは無効です。</translation>
+        <translation>Les raccourcis de Keyrill sont désactivés tant qu’ils sont choisis dans une de ses fenêtres.</translation>
     </message>
 </context>
 <context>
@@ -109,436 +109,436 @@
     </message>
     <message>
         <source>Keyrill Update Available</source>
-        <translation>Keyrill のアップデートがあります</translation>
+        <translation>Mise à jour de Keyrill disponible</translation>
     </message>
     <message>
         <source>There is a new update available for Keyrill, would you like to download it now?</source>
-        <translation>Keyrill の新しいアップデートがあります。今すぐダウンロードしますか?</translation>
+        <translation>Une nouvelle mise à jour de Keyrill est disponible. Voulez-vous la télécharger maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>Keyrill requires that programs can see and press keys in this session. </source>
-        <translation>Keyrill を使うには、このセッションでプログラムがキー入力を読み取り、キーを押せることが必要です。 </translation>
+        <translation>Keyrill nécessite que les programmes puissent détecter et simuler des frappes dans cette session. </translation>
     </message>
     <message>
         <source>Please see the &apos;Configuration&apos; section of the documentation for more information.
 
 Keyrill must close, please restart it once this is possible.
 </source>
-        <translation>詳しくはドキュメントの「Configuration」の節をご覧ください。
+        <translation>Veuillez consulter la section «&#xa0;Configuration&#xa0;» de la documentation pour plus d’informations.
 
-Keyrill を終了します。使えるようになったら再び起動してください。
+Keyrill doit se fermer. Veuillez le relancer une fois que cela sera possible.
 </translation>
     </message>
     <message>
         <source>Open Documentation now</source>
-        <translation>今すぐドキュメントを開く</translation>
+        <translation>Ouvrir la documentation maintenant</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation>終了</translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Recording is not possible in this session yet</source>
-        <translation>このセッションではまだ記録できません</translation>
+        <translation>L’enregistrement n’est pas encore possible dans cette session</translation>
     </message>
     <message>
         <source>Nothing was recorded</source>
-        <translation>何も記録されませんでした</translation>
+        <translation>Rien n’a été enregistré</translation>
     </message>
     <message>
         <source>The recording has ended</source>
-        <translation>記録が終了しました</translation>
+        <translation>L’enregistrement est terminé</translation>
     </message>
     <message>
         <source>What was recorded until then is kept.</source>
-        <translation>それまでに記録された内容は残っています。</translation>
+        <translation>Ce qui a été enregistré jusque-là est conservé.</translation>
     </message>
     <message>
         <source>YES</source>
-        <translation>はい</translation>
+        <translation>OUI</translation>
     </message>
     <message>
         <source>NO</source>
-        <translation>いいえ</translation>
+        <translation>NON</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation>はい</translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>No</source>
-        <translation>いいえ</translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>No Update Available</source>
-        <translation>アップデートはありません</translation>
+        <translation>Aucune mise à jour disponible</translation>
     </message>
     <message>
         <source>You&apos;re currently running the latest version of Keyrill</source>
-        <translation>お使いの Keyrill は最新バージョンです</translation>
+        <translation>Vous utilisez déjà la dernière version de Keyrill</translation>
     </message>
     <message>
         <source>The macro was not saved as &quot;%1&quot;.</source>
-        <translation>マクロは「%1」として保存されませんでした。</translation>
+        <translation>La macro n’a pas été sauvegardée sous «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>No macro was loaded from &quot;%1&quot;.</source>
-        <translation>「%1」からマクロは読み込まれませんでした。</translation>
+        <translation>Aucune macro n’a été chargée depuis «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is there already.</source>
-        <translation>「%1」はすでに存在します。</translation>
+        <translation>«&#xa0;%1&#xa0;» existe déjà.</translation>
     </message>
     <message>
         <source>Do you want to replace it? What is in it will be lost.</source>
-        <translation>置き換えますか? 現在の内容は失われます。</translation>
+        <translation>Voulez-vous le remplacer&#xa0;? Son contenu sera perdu.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation>置き換える</translation>
+        <translation>Remplacer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>キャンセル</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a macro file.</source>
-        <translation>「%1」はマクロファイルではありません。</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier de macro.</translation>
     </message>
     <message>
         <source>The names of Keyrill&apos;s macro files end with &quot;.%1&quot;.</source>
-        <translation>Keyrill のマクロファイルの名前は「.%1」で終わります。</translation>
+        <translation>Les noms des fichiers de macro de Keyrill se terminent par «&#xa0;.%1&#xa0;».</translation>
     </message>
     <message>
         <source>There is no file &quot;%1&quot;.</source>
-        <translation>ファイル「%1」はありません。</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>Check the name, or choose one of the list.</source>
-        <translation>名前を確認するか、一覧から選択してください。</translation>
+        <translation>Vérifiez le nom ou choisissez-en un dans la liste.</translation>
     </message>
     <message>
         <source>Your settings were not saved.</source>
-        <translation>設定は保存されませんでした。</translation>
+        <translation>Vos réglages n’ont pas été sauvegardés.</translation>
     </message>
     <message>
         <source>Whether Keyrill starts when you log in could not be changed.</source>
-        <translation>ログイン時に Keyrill を起動するかどうかを変更できませんでした。</translation>
+        <translation>Le lancement de Keyrill à l’ouverture de session n’a pas pu être modifié.</translation>
     </message>
     <message>
         <source>Something is wrong with your settings.</source>
-        <translation>設定に問題があります。</translation>
+        <translation>Vos réglages comportent une erreur.</translation>
     </message>
     <message>
         <source>May Keyrill write its hot keys into GNOME&apos;s settings?</source>
-        <translation>Keyrill がショートカットを GNOME の設定に書き込んでもよろしいですか?</translation>
+        <translation>Keyrill peut-il inscrire ses raccourcis clavier dans les réglages de GNOME&#xa0;?</translation>
     </message>
     <message>
         <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings. Keyrill would write one there for each of its combinations, and take them out when it ends. It does not touch what is yours.
 
 You can change your mind in Keyrill&apos;s preferences.</source>
-        <translation>このバージョンの GNOME では、プログラムのグローバルショートカットはユーザー自身の設定にある独自のショートカットとしてしか使えません。Keyrill は自分の組み合わせをひとつずつそこに書き込み、終了するときに取り除きます。ユーザー自身のショートカットには触れません。
+        <translation>Cette version de GNOME ne fournit de raccourcis clavier aux programmes que sous forme de raccourcis personnalisés dans vos propres réglages. Keyrill y inscrirait un raccourci pour chacune de ses combinaisons et les retirerait en se terminant. Il ne touche pas aux vôtres.
 
-この選択は Keyrill の設定で変更できます。</translation>
+Vous pourrez changer d’avis dans les préférences de Keyrill.</translation>
     </message>
     <message>
         <source>Write Them</source>
-        <translation>書き込む</translation>
+        <translation>Les inscrire</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation>後で決める</translation>
+        <translation>Pas maintenant</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation>書き込まない</translation>
+        <translation>Jamais</translation>
     </message>
 </context>
 <context>
     <name>AppController</name>
     <message>
         <source>In this session Keyrill sees and reaches only the windows of X11 programs. The manual says more under &quot;Configuration&quot;.</source>
-        <translation>このセッションで Keyrill から見えて操作できるのは、X11 プログラムのウィンドウだけです。詳しくはマニュアルの「Configuration」をご覧ください。</translation>
+        <translation>Dans cette session, Keyrill ne voit et n’atteint que les fenêtres des programmes X11. Le manuel en dit plus sous «&#xa0;Configuration&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>ApplicationObject</name>
     <message>
         <source>Keyrill is playing a macro.</source>
-        <translation>Keyrill はマクロを再生中です。</translation>
+        <translation>Keyrill exécute une macro.</translation>
     </message>
     <message>
         <source>There is no action &quot;%1&quot;. There are: %2.</source>
-        <translation>アクション「%1」はありません。使えるもの: %2。</translation>
+        <translation>L’action «&#xa0;%1&#xa0;» n’existe pas. Actions possibles&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The action &quot;%1&quot; takes no parameter.</source>
-        <translation>アクション「%1」はパラメーターを取りません。</translation>
+        <translation>L’action «&#xa0;%1&#xa0;» n’accepte aucun paramètre.</translation>
     </message>
 </context>
 <context>
     <name>BusOwner</name>
     <message>
         <source>Keyrill has ended without an answer.</source>
-        <translation>Keyrill は応答せずに終了しました。</translation>
+        <translation>Keyrill s’est arrêté sans répondre.</translation>
     </message>
     <message>
         <source>Process %1, which has Keyrill&apos;s name on the session bus, does not answer.</source>
-        <translation>セッションバスで Keyrill の名前を持つプロセス %1 が応答しません。</translation>
+        <translation>Le processus %1, qui a le nom de Keyrill sur le bus de session, ne répond pas.</translation>
     </message>
     <message>
         <source>End it and start Keyrill again.</source>
-        <translation>そのプロセスを終了し、Keyrill をもう一度起動してください。</translation>
+        <translation>Arrêtez-le et relancez Keyrill.</translation>
     </message>
 </context>
 <context>
     <name>CapabilityWords</name>
     <message>
         <source>Use a newer X server, or switch the extension on in its settings.</source>
-        <translation>新しい X サーバーを使うか、設定で拡張機能を有効にしてください。</translation>
+        <translation>Utilisez un serveur X plus récent ou activez l’extension dans ses réglages.</translation>
     </message>
     <message>
         <source>by XInput</source>
-        <translation>XInput による</translation>
+        <translation>par XInput</translation>
     </message>
     <message>
         <source>by key grabs</source>
-        <translation>キーグラブによる</translation>
+        <translation>par capture de touches</translation>
     </message>
     <message>
         <source>by XTEST</source>
-        <translation>XTEST による</translation>
+        <translation>par XTEST</translation>
     </message>
     <message>
         <source>the X server&apos;s</source>
-        <translation>X サーバーのもの</translation>
+        <translation>celui du serveur X</translation>
     </message>
     <message>
         <source>above all windows</source>
-        <translation>すべてのウィンドウの上</translation>
+        <translation>au-dessus de toutes les fenêtres</translation>
     </message>
     <message>
         <source>by the window manager</source>
-        <translation>ウィンドウマネージャーによる</translation>
+        <translation>par le gestionnaire de fenêtres</translation>
     </message>
     <message>
         <source>a tray that icons dock into</source>
-        <translation>アイコンを埋め込むトレイ</translation>
+        <translation>une zone de notification où s’insèrent les icônes</translation>
     </message>
     <message>
         <source>a tray that asks for icons over the session bus</source>
-        <translation>セッションバスでアイコンを問い合わせるトレイ</translation>
+        <translation>une zone de notification qui demande les icônes par le bus de session</translation>
     </message>
     <message>
         <source>by a virtual keyboard</source>
-        <translation>仮想キーボードによる</translation>
+        <translation>par un clavier virtuel</translation>
     </message>
     <message>
         <source>by bindings of sway&apos;s</source>
-        <translation>sway のキー割り当てによる</translation>
+        <translation>par les associations de touches de sway</translation>
     </message>
     <message>
         <source>by KDE&apos;s shortcuts</source>
-        <translation>KDE のショートカットによる</translation>
+        <translation>par les raccourcis de KDE</translation>
     </message>
     <message>
         <source>by the desktop&apos;s portal, once you allow it</source>
-        <translation>デスクトップのポータルによる (許可が必要です)</translation>
+        <translation>par le portail du bureau, une fois que vous l’autorisez</translation>
     </message>
     <message>
         <source>by the desktop&apos;s portal: you choose them when it asks, and later in its settings</source>
-        <translation>デスクトップのポータルによる: 尋ねられたときと、以後はポータルの設定で選べます</translation>
+        <translation>par le portail du bureau&#xa0;: vous les choisissez lorsqu’il le demande, et plus tard dans ses réglages</translation>
     </message>
     <message>
         <source>by sway</source>
-        <translation>sway による</translation>
+        <translation>par sway</translation>
     </message>
     <message>
         <source>by KWin</source>
-        <translation>KWin による</translation>
+        <translation>par KWin</translation>
     </message>
     <message>
         <source>what you type into a window of Keyrill&apos;s, &quot;Record Here&quot;</source>
-        <translation>Keyrill のウィンドウ「ここで記録」に入力した内容</translation>
+        <translation>ce que vous saisissez dans la fenêtre «&#xa0;Enregistrer ici&#xa0;» de Keyrill</translation>
     </message>
     <message>
         <source>the compositor&apos;s</source>
-        <translation>コンポジターのもの</translation>
+        <translation>celui du compositeur</translation>
     </message>
     <message>
         <source>as an ordinary window</source>
-        <translation>通常のウィンドウとして</translation>
+        <translation>comme une fenêtre ordinaire</translation>
     </message>
     <message>
         <source>on a layer above all windows</source>
-        <translation>すべてのウィンドウの上のレイヤー</translation>
+        <translation>sur un plan au-dessus de toutes les fenêtres</translation>
     </message>
     <message>
         <source>from the keyboards themselves, which every program of yours may read</source>
-        <translation>キーボードそのものから (あなたが使うどのプログラムからも読み取れます)</translation>
+        <translation>depuis les claviers eux-mêmes, que chacun de vos programmes peut lire</translation>
     </message>
     <message>
         <source>by keyrill-access, which asks for your password and opens the keyboard while Keyrill records</source>
-        <translation>keyrill-access による (パスワードを尋ね、Keyrill の記録中だけキーボードを開きます)</translation>
+        <translation>par keyrill-access, qui demande votre mot de passe et ouvre le clavier pendant que Keyrill enregistre</translation>
     </message>
     <message>
         <source>The display cannot be reached.</source>
-        <translation>ディスプレイに接続できません。</translation>
+        <translation>L’affichage est inaccessible.</translation>
     </message>
     <message>
         <source>Start Keyrill inside a desktop session.</source>
-        <translation>デスクトップセッションの中で Keyrill を起動してください。</translation>
+        <translation>Lancez Keyrill dans une session graphique.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1, which shows keys.</source>
-        <translation>X サーバーに、キーを知らせる拡張機能 %1 がありません。</translation>
+        <translation>Il manque au serveur X l’extension %1, qui signale les frappes.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1, which says what keys mean.</source>
-        <translation>X サーバーに、キーの意味を知らせる拡張機能 %1 がありません。</translation>
+        <translation>Il manque au serveur X l’extension %1, qui dit ce que signifient les touches.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1, which presses keys.</source>
-        <translation>X サーバーに、キーを押す拡張機能 %1 がありません。</translation>
+        <translation>Il manque au serveur X l’extension %1, qui simule les frappes.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1: a key that is held is recorded once.</source>
-        <translation>X サーバーに拡張機能 %1 がありません: 押し続けたキーは 1 回だけ記録されます。</translation>
+        <translation>Il manque au serveur X l’extension %1&#xa0;: une touche maintenue n’est enregistrée qu’une fois.</translation>
     </message>
     <message>
         <source>The program keyrill-guard, which releases keys after a crash, is not there; nothing is played without it.</source>
-        <translation>クラッシュ後にキーを離すプログラム keyrill-guard がありません。これがないと何も再生されません。</translation>
+        <translation>Le programme keyrill-guard, qui relâche les touches après un plantage, est absent&#xa0;; rien n’est exécuté sans lui.</translation>
     </message>
     <message>
         <source>Install Keyrill again.</source>
-        <translation>Keyrill をもう一度インストールしてください。</translation>
+        <translation>Installez Keyrill à nouveau.</translation>
     </message>
     <message>
         <source>Only with the windows of X11 programs: this is a Wayland session.</source>
-        <translation>X11 プログラムのウィンドウだけです: これは Wayland セッションです。</translation>
+        <translation>Seulement avec les fenêtres des programmes X11&#xa0;: cette session est une session Wayland.</translation>
     </message>
     <message>
         <source>Choose an X11 session when you log in.</source>
-        <translation>ログイン時に X11 セッションを選択してください。</translation>
+        <translation>Choisissez une session X11 à l’ouverture de session.</translation>
     </message>
     <message>
         <source>There is none; a small window with the menu stands in for the icon.</source>
-        <translation>ありません。アイコンの代わりに、メニューのある小さなウィンドウを表示します。</translation>
+        <translation>Il n’y en a pas&#xa0;; une petite fenêtre avec le menu remplace l’icône.</translation>
     </message>
     <message>
         <source>Add a tray to the desktop&apos;s panel. GNOME needs the extension &quot;AppIndicator and KStatusNotifierItem Support&quot;.</source>
-        <translation>デスクトップのパネルにトレイを追加してください。GNOME では拡張機能「AppIndicator and KStatusNotifierItem Support」が必要です。</translation>
+        <translation>Ajoutez une zone de notification au tableau de bord du bureau. GNOME a besoin de l’extension «&#xa0;AppIndicator and KStatusNotifierItem Support&#xa0;».</translation>
     </message>
     <message>
         <source>A Wayland session shows no program what is typed in others, and the service that would is not installed.</source>
-        <translation>Wayland セッションでは、他のプログラムへの入力はどのプログラムにも見えません。それを可能にするサービスはインストールされていません。</translation>
+        <translation>Une session Wayland ne montre à aucun programme ce qui est saisi dans les autres, et le service qui le ferait n’est pas installé.</translation>
     </message>
     <message>
         <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, &quot;tools/access install&quot;; or record in an X11 session, macros play in both.</source>
-        <translation>パッケージ keyrill-wayland-access をインストールするか、Keyrill のソースから「tools/access install」を実行してください。または X11 セッションで記録してください。マクロはどちらでも再生できます。</translation>
+        <translation>Installez le paquet keyrill-wayland-access ou exécutez «&#xa0;tools/access install&#xa0;» dans les sources de Keyrill&#xa0;; ou enregistrez dans une session X11, les macros s’exécutent dans les deux.</translation>
     </message>
     <message>
         <source>This compositor gives no hot keys to programs.</source>
-        <translation>このコンポジターはプログラムにグローバルショートカットを提供しません。</translation>
+        <translation>Ce compositeur ne fournit pas de raccourcis clavier aux programmes.</translation>
     </message>
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
-        <translation>コンポジターの設定で「keyrill --action=play」などのコマンドにキーを割り当ててください。</translation>
+        <translation>Dans les réglages du compositeur, associez des touches à des commandes comme «&#xa0;keyrill --action=play&#xa0;».</translation>
     </message>
     <message>
         <source>This compositor lets no program press keys.</source>
-        <translation>このコンポジターではプログラムがキーを押せません。</translation>
+        <translation>Ce compositeur ne laisse aucun programme presser des touches.</translation>
     </message>
     <message>
         <source>Use a compositor with virtual keyboards, such as sway, or an X11 session.</source>
-        <translation>sway など仮想キーボードのあるコンポジターか、X11 セッションを使ってください。</translation>
+        <translation>Utilisez un compositeur avec claviers virtuels, comme sway, ou une session X11.</translation>
     </message>
     <message>
         <source>This desktop lets no program press keys: its portal does not answer.</source>
-        <translation>このデスクトップではプログラムがキーを押せません: ポータルが応答しません。</translation>
+        <translation>Ce bureau ne laisse aucun programme presser des touches&#xa0;: son portail ne répond pas.</translation>
     </message>
     <message>
         <source>Install xdg-desktop-portal and the part of it that belongs to the desktop, such as xdg-desktop-portal-kde.</source>
-        <translation>xdg-desktop-portal と、xdg-desktop-portal-kde などデスクトップに合ったものをインストールしてください。</translation>
+        <translation>Installez xdg-desktop-portal et la partie de celui-ci qui correspond au bureau, comme xdg-desktop-portal-kde.</translation>
     </message>
     <message>
         <source>Only characters that one of your keyboard layouts has.</source>
-        <translation>いずれかのキーボードレイアウトにある文字だけです。</translation>
+        <translation>Seulement les caractères présents dans l’une de vos dispositions de clavier.</translation>
     </message>
     <message>
         <source>Add a layout that has them in the desktop&apos;s settings.</source>
-        <translation>デスクトップの設定で、それらの文字があるレイアウトを追加してください。</translation>
+        <translation>Ajoutez une disposition qui les contient dans les réglages du bureau.</translation>
     </message>
     <message>
         <source>Only characters that the keyboard layout in force has.</source>
-        <translation>現在のキーボードレイアウトにある文字だけです。</translation>
+        <translation>Seulement les caractères présents dans la disposition de clavier active.</translation>
     </message>
     <message>
         <source>Switch to a layout that has the others before you play.</source>
-        <translation>再生する前に、残りの文字があるレイアウトに切り替えてください。</translation>
+        <translation>Passez à une disposition qui contient les autres avant d’exécuter la macro.</translation>
     </message>
     <message>
         <source>This compositor shows the clipboard to windows in front alone.</source>
-        <translation>このコンポジターは、前面のウィンドウにしかクリップボードを見せません。</translation>
+        <translation>Ce compositeur ne montre le presse-papiers qu’aux fenêtres au premier plan.</translation>
     </message>
     <message>
         <source>Scripts that use the clipboard need another compositor, such as sway, or an X11 session.</source>
-        <translation>クリップボードを使うスクリプトには、sway など別のコンポジターか X11 セッションが必要です。</translation>
+        <translation>Les scripts qui utilisent le presse-papiers ont besoin d’un autre compositeur, comme sway, ou d’une session X11.</translation>
     </message>
     <message>
         <source>This compositor tells nothing of other programs&apos; windows.</source>
-        <translation>このコンポジターは他のプログラムのウィンドウについて何も知らせません。</translation>
+        <translation>Ce compositeur ne dit rien des fenêtres des autres programmes.</translation>
     </message>
     <message>
         <source>Scripts that bring a window to the front need sway, KDE or an X11 session.</source>
-        <translation>ウィンドウを前面に出すスクリプトには、sway、KDE または X11 セッションが必要です。</translation>
+        <translation>Les scripts qui amènent une fenêtre au premier plan ont besoin de sway, de KDE ou d’une session X11.</translation>
     </message>
     <message>
         <source>Full-screen windows may cover it.</source>
-        <translation>フルスクリーンのウィンドウに隠れることがあります。</translation>
+        <translation>Les fenêtres en plein écran peuvent la recouvrir.</translation>
     </message>
     <message>
         <source>Use a compositor that has layers, such as sway&apos;s or KDE&apos;s, or an X11 session.</source>
-        <translation>sway や KDE などレイヤーのあるコンポジターか、X11 セッションを使ってください。</translation>
+        <translation>Utilisez un compositeur qui gère les plans, comme celui de sway ou de KDE, ou une session X11.</translation>
     </message>
     <message>
         <source>by custom shortcuts in GNOME&apos;s settings while Keyrill runs, as you have agreed; the preferences take that back</source>
-        <translation>許可に基づき、Keyrill の実行中だけ GNOME の設定に置かれる独自のショートカットによる。許可は Keyrill の設定で取り消せます</translation>
+        <translation>par des raccourcis personnalisés dans les réglages de GNOME tant que Keyrill fonctionne, comme vous l’avez accepté&#xa0;; les préférences permettent d’y revenir</translation>
     </message>
     <message>
         <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings, and you have not agreed that Keyrill writes them.</source>
-        <translation>このバージョンの GNOME では、プログラムのグローバルショートカットはユーザー自身の設定にある独自のショートカットとしてしか使えず、Keyrill が書き込むことは許可されていません。</translation>
+        <translation>Cette version de GNOME ne fournit de raccourcis clavier aux programmes que sous forme de raccourcis personnalisés dans vos propres réglages, et vous n’avez pas accepté que Keyrill les y inscrive.</translation>
     </message>
     <message>
         <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
-        <translation>Keyrill の設定でチェックを入れるか、GNOME の設定で「keyrill --action=play」などのコマンドに自分でキーを割り当ててください。</translation>
+        <translation>Cochez la case dans les préférences de Keyrill, ou associez vous-même, dans les réglages de GNOME, des touches à des commandes comme «&#xa0;keyrill --action=play&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>Clipboard</name>
     <message>
         <source>This compositor gives the clipboard to windows alone.</source>
-        <translation>このコンポジターは、ウィンドウにしかクリップボードを渡しません。</translation>
+        <translation>Ce compositeur ne donne accès au presse-papiers qu’aux fenêtres.</translation>
     </message>
     <message>
         <source>Use a compositor with data control, such as sway, or an X11 session.</source>
-        <translation>sway などデータ制御のあるコンポジターか、X11 セッションを使ってください。</translation>
+        <translation>Utilisez un compositeur avec contrôle des données (data control), comme sway, ou une session X11.</translation>
     </message>
     <message>
         <source>No more files can be opened.</source>
-        <translation>これ以上ファイルを開けません。</translation>
+        <translation>Impossible d’ouvrir davantage de fichiers.</translation>
     </message>
     <message>
         <source>Close programs.</source>
-        <translation>使っていないプログラムを終了してください。</translation>
+        <translation>Fermez des programmes.</translation>
     </message>
     <message>
         <source>The text in the clipboard is too long.</source>
-        <translation>クリップボードのテキストが長すぎます。</translation>
+        <translation>Le texte du presse-papiers est trop long.</translation>
     </message>
     <message>
         <source>The clipboard is held by another program.</source>
-        <translation>別のプログラムがクリップボードを使用中です。</translation>
+        <translation>Le presse-papiers est occupé par un autre programme.</translation>
     </message>
 </context>
 <context>
@@ -553,7 +553,7 @@ You can change your mind in Keyrill&apos;s preferences.</source>
     </message>
     <message>
         <source>Shift</source>
-        <translation>Shift</translation>
+        <translation>Maj</translation>
     </message>
     <message>
         <source>Super</source>
@@ -568,47 +568,47 @@ You can change your mind in Keyrill&apos;s preferences.</source>
     <name>CommandLine</name>
     <message>
         <source>--times and --speed say how --play plays.</source>
-        <translation>--times と --speed は --play の再生方法を指定します。</translation>
+        <translation>--times et --speed précisent comment --play exécute la macro.</translation>
     </message>
     <message>
         <source>keyrill --help tells more.</source>
-        <translation>詳しくは keyrill --help をご覧ください。</translation>
+        <translation>keyrill --help en dit plus.</translation>
     </message>
     <message>
         <source>There is no option &quot;%1&quot;.</source>
-        <translation>オプション「%1」はありません。</translation>
+        <translation>L’option «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>keyrill --help lists them.</source>
-        <translation>keyrill --help で一覧を表示できます。</translation>
+        <translation>keyrill --help en donne la liste.</translation>
     </message>
     <message>
         <source>There is no action &quot;%1&quot;.</source>
-        <translation>アクション「%1」はありません。</translation>
+        <translation>L’action «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>Choose one of these: %1.</source>
-        <translation>次のいずれかを選んでください: %1。</translation>
+        <translation>Choisissez l’une de celles-ci&#xa0;: %1.</translation>
     </message>
     <message>
         <source>An action takes no file, and &quot;%1&quot; was given.</source>
-        <translation>アクションはファイルを取りませんが、「%1」が指定されました。</translation>
+        <translation>Une action n’accepte aucun fichier, mais «&#xa0;%1&#xa0;» a été indiqué.</translation>
     </message>
     <message>
         <source>Load it first: keyrill FILE.</source>
-        <translation>先に読み込んでください: keyrill ファイル。</translation>
+        <translation>Chargez-le d’abord&#xa0;: keyrill FICHIER.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too much.</source>
-        <translation>「%1」は余分です。</translation>
+        <translation>«&#xa0;%1&#xa0;» est de trop.</translation>
     </message>
     <message>
         <source>--list takes no name.</source>
-        <translation>--list は名前を取りません。</translation>
+        <translation>--list n’accepte aucun nom.</translation>
     </message>
     <message>
         <source>A name with blanks is put in quotation marks: &quot;%1&quot;.</source>
-        <translation>空白を含む名前は引用符で囲んでください: &quot;%1&quot;。</translation>
+        <translation>Un nom avec des espaces se met entre guillemets&#xa0;: &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs
@@ -628,30 +628,30 @@ well put; standard error tells why.
 NAME is the kind of desktop session; without it the program finds out itself. There are: %2
 </source>
         <extracomment>Options, and what stands in capital letters, stay as they are where the program takes them as they are.</extracomment>
-        <translation>使い方: keyrill [--session=名前] [--] [ファイル...]   起動する、または実行中のものにマクロを読み込む
-        keyrill [--session=名前] --action=アクション   実行中のものに動作を頼む (必要なら起動する)
-        keyrill [--session=名前] --play [マクロ|ファイル] [--times=N|until-stopped] [--speed=X]
-                                          マクロフォルダーのマクロまたはファイルの再生を頼む
-        keyrill [--session=名前] --show [マクロ]   マクロのウィンドウの表示を頼む
-        keyrill --list   マクロフォルダーにあるマクロの名前を表示する
-        keyrill [--session=名前] --check   このセッションで使えるものと、するべきことを表示する
-        keyrill -h | --help | --version
-アクションは次のいずれかです: %1。
-マクロは --list が表示する名前で、グループは付けても付けなくてもかまいません。マクロもファイルもなければ、
---play は「再生」が再生するものを再生します。その名前のマクロがないファイルや、/ または ./ で始まるファイルは
-そのまま再生されます。回数と速さ (0.25 から 4) は、指定がなければマクロに設定されたものです。--show は
-ウィンドウでマクロを選びます。--play、--show、--list の終了ステータスは、できたら 0、できなければ 1、
-呼び出し方が誤っていれば 2 です。理由は標準エラー出力に表示されます。
-名前はデスクトップセッションの種類です。なければプログラムが自分で調べます。使えるもの: %2
+        <translation>Utilisation&#xa0;: keyrill [--session=NOM] [--] [FICHIER...]   lancer Keyrill ou, s’il l’est déjà, y charger des macros
+              keyrill [--session=NOM] --action=ACTION   demander une action à Keyrill, lancé au besoin
+              keyrill [--session=NOM] --play [MACRO|FICHIER] [--times=N|until-stopped] [--speed=X]
+                                          lui demander d’exécuter une macro du dossier des macros, ou un fichier
+              keyrill [--session=NOM] --show [MACRO]   lui demander d’afficher la fenêtre des macros
+              keyrill --list   afficher les noms des macros du dossier des macros
+              keyrill [--session=NOM] --check   afficher ce qui fonctionne dans cette session, et ce qu’il faut faire
+              keyrill -h | --help | --version
+ACTION est l’une de celles-ci&#xa0;: %1.
+MACRO est un nom affiché par --list, avec ou sans son groupe&#xa0;; sans MACRO ni FICHIER, --play exécute ce que
+la commande «&#xa0;Exécuter&#xa0;» exécute. Un FICHIER sans MACRO de ce nom, ou qui commence par / ou ./, est exécuté tel
+quel. Le nombre de fois et la vitesse (0.25 à 4) sont ceux de la macro, sauf s’ils sont donnés. --show choisit
+MACRO dans la fenêtre. Pour --play, --show et --list, le code de retour est 0 si c’est fait, 1 sinon, 2 si
+l’appel est incorrect&#xa0;; la sortie d’erreur dit pourquoi.
+NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui-même. Types possibles&#xa0;: %2
 </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is one thing too many.</source>
-        <translation>「%1」は余分です。</translation>
+        <translation>«&#xa0;%1&#xa0;» est de trop.</translation>
     </message>
     <message>
         <source>Call keyrill once for each.</source>
-        <translation>それぞれについて keyrill を別々に呼び出してください。</translation>
+        <translation>Appelez keyrill une fois pour chacun.</translation>
     </message>
 </context>
 <context>
@@ -662,15 +662,15 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Keyrill &amp;menu</source>
-        <translation>Keyrill メニュー(&amp;M)</translation>
+        <translation>&amp;Menu de Keyrill</translation>
     </message>
     <message>
         <source>No tray was found, so here is the menu.</source>
-        <translation>トレイが見つからないため、ここにメニューがあります。</translation>
+        <translation>Aucune zone de notification n’a été trouvée, voici donc le menu.</translation>
     </message>
     <message>
         <source>Keyrill is running; its menu is in the tray too.</source>
-        <translation>Keyrill は実行中です。メニューはトレイにもあります。</translation>
+        <translation>Keyrill est lancé&#xa0;; son menu est aussi dans la zone de notification.</translation>
     </message>
 </context>
 <context>
@@ -678,46 +678,46 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>The folder %1 cannot be written to: %2.</source>
         <extracomment>a folder, and why</extracomment>
-        <translation>フォルダー %1 に書き込めません: %2。</translation>
+        <translation>Impossible d’écrire dans le dossier %1&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>FileMoves</name>
     <message>
         <source>A macro needs a name.</source>
-        <translation>マクロには名前が必要です。</translation>
+        <translation>Une macro a besoin d’un nom.</translation>
     </message>
     <message>
         <source>A name cannot have a slash (/) in it.</source>
-        <translation>名前にスラッシュ (/) は使えません。</translation>
+        <translation>Un nom ne peut pas contenir de barre oblique (/).</translation>
     </message>
     <message>
         <source>A name cannot begin with a point: the file would be hidden.</source>
-        <translation>名前をピリオドで始めることはできません: 隠しファイルになります。</translation>
+        <translation>Un nom ne peut pas commencer par un point&#xa0;: le fichier serait caché.</translation>
     </message>
     <message>
         <source>The name is too long for a file.</source>
-        <translation>ファイル名としては長すぎます。</translation>
+        <translation>Le nom est trop long pour un fichier.</translation>
     </message>
     <message>
         <source>There is already a macro called &quot;%1&quot;.</source>
-        <translation>「%1」というマクロはすでにあります。</translation>
+        <translation>Il y a déjà une macro nommée «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be renamed: %2.</source>
-        <translation>「%1」の名前を変更できません: %2。</translation>
+        <translation>Impossible de renommer «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be copied: %2.</source>
-        <translation>「%1」をコピーできません: %2。</translation>
+        <translation>Impossible de copier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be put into the trash.</source>
-        <translation>「%1」をゴミ箱に移動できません。</translation>
+        <translation>Impossible de mettre «&#xa0;%1&#xa0;» à la corbeille.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be brought back: %2.</source>
-        <translation>「%1」を元に戻せません: %2。</translation>
+        <translation>Impossible de restaurer «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -725,104 +725,104 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Line %1 has the byte %2 at place %3, and a macro file can hold ASCII only.</source>
         <extracomment>%1 and %3 are numbers, %2 is a code: 0xE9</extracomment>
-        <translation>%1 行目の %3 番目の位置にバイト %2 がありますが、マクロファイルで使えるのは ASCII だけです。</translation>
+        <translation>La ligne %1 contient l’octet %2 à la position %3, or un fichier de macro ne peut contenir que de l’ASCII.</translation>
     </message>
     <message>
         <source>Line %1 has the character (%2) at place %3, and a macro file can hold ASCII only.</source>
         <extracomment>%1 and %3 are numbers, %2 is the code of a character that cannot be shown: U+0085</extracomment>
-        <translation>%1 行目の %3 番目の位置に文字 (%2) がありますが、マクロファイルで使えるのは ASCII だけです。</translation>
+        <translation>La ligne %1 contient le caractère (%2) à la position %3, or un fichier de macro ne peut contenir que de l’ASCII.</translation>
     </message>
     <message>
         <source>Line %1 has the character &quot;%2&quot; (%3) at place %4, and a macro file can hold ASCII only.</source>
         <extracomment>%1 and %4 are numbers, %2 is a character, %3 its code: U+00E9</extracomment>
-        <translation>%1 行目の %4 番目の位置に文字「%2」(%3) がありますが、マクロファイルで使えるのは ASCII だけです。</translation>
+        <translation>La ligne %1 contient le caractère «&#xa0;%2&#xa0;» (%3) à la position %4, or un fichier de macro ne peut contenir que de l’ASCII.</translation>
     </message>
     <message>
         <source>Replace the character in the macro.</source>
-        <translation>マクロの中のその文字を置き換えてください。</translation>
+        <translation>Remplacez ce caractère dans la macro.</translation>
     </message>
     <message>
         <source>The file %1 cannot be deleted: %2</source>
         <extracomment>%2 is why, in the system&apos;s words.</extracomment>
-        <translation>ファイル %1 を削除できません: %2</translation>
+        <translation>Impossible de supprimer le fichier %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Check who may write to its folder, or delete it yourself.</source>
-        <translation>そのフォルダーに書き込めるユーザーを確認するか、ご自分でファイルを削除してください。</translation>
+        <translation>Vérifiez qui peut écrire dans son dossier, ou supprimez-le vous-même.</translation>
     </message>
     <message>
         <source>It is a folder</source>
-        <translation>フォルダーです</translation>
+        <translation>C’est un dossier</translation>
     </message>
     <message>
         <source>It is not a regular file</source>
-        <translation>通常のファイルではありません</translation>
+        <translation>Ce n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>Choose a file.</source>
-        <translation>ファイルを選択してください。</translation>
+        <translation>Choisissez un fichier.</translation>
     </message>
     <message>
         <source>The file %1 cannot be read: %2</source>
         <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>ファイル %1 を読み取れません: %2</translation>
+        <translation>Impossible de lire le fichier %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The file %1 cannot be written: %2</source>
         <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>ファイル %1 に書き込めません: %2</translation>
+        <translation>Impossible d’écrire le fichier %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>It is larger than %1 MiB</source>
         <extracomment>%1 is a number.</extracomment>
-        <translation>サイズが %1 MiB を超えています</translation>
+        <translation>Sa taille dépasse %1&#xa0;Mio</translation>
     </message>
     <message>
         <source>Choose a smaller file.</source>
-        <translation>もっと小さいファイルを選択してください。</translation>
+        <translation>Choisissez un fichier plus petit.</translation>
     </message>
     <message>
         <source>Choose another name.</source>
-        <translation>別の名前を選んでください。</translation>
+        <translation>Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>Check that the file is there and who may read it.</source>
-        <translation>ファイルがあることと、それを読み取れるユーザーを確認してください。</translation>
+        <translation>Vérifiez si le fichier existe et qui peut le lire.</translation>
     </message>
     <message>
         <source>Make room, check who may write there, or choose another place.</source>
-        <translation>空き容量を増やすか、そこに書き込めるユーザーを確認するか、別の場所を選んでください。</translation>
+        <translation>Libérez de l’espace, vérifiez qui peut écrire à cet emplacement ou choisissez-en un autre.</translation>
     </message>
 </context>
 <context>
     <name>FilesDesk</name>
     <message>
         <source>&quot;%1&quot; was not loaded</source>
-        <translation>「%1」は読み込まれませんでした</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été chargé</translation>
     </message>
     <message>
         <source>A macro is being recorded. Stop recording first.</source>
-        <translation>マクロを記録中です。先に記録を停止してください。</translation>
+        <translation>Une macro est en cours d’enregistrement. Arrêtez d’abord l’enregistrement.</translation>
     </message>
     <message>
         <source>The screen is locked. Unlock it first.</source>
-        <translation>画面がロックされています。先にロックを解除してください。</translation>
+        <translation>L’écran est verrouillé. Déverrouillez-le d’abord.</translation>
     </message>
     <message>
         <source>Answer Keyrill&apos;s question first.</source>
-        <translation>先に Keyrill の質問に回答してください。</translation>
+        <translation>Répondez d’abord à la question de Keyrill.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is loaded</source>
-        <translation>「%1」を読み込みました</translation>
+        <translation>«&#xa0;%1&#xa0;» est chargé</translation>
     </message>
     <message>
         <source>Choose a shortcut for Play in the preferences to play it.</source>
-        <translation>再生するには、設定で「再生」のショートカットを選んでください。</translation>
+        <translation>Choisissez un raccourci pour «&#xa0;Exécuter&#xa0;» dans les préférences pour l’exécuter.</translation>
     </message>
     <message>
         <source>Press %1 to play it.</source>
-        <translation>再生するには %1 を押してください。</translation>
+        <translation>Appuyez sur %1 pour l’exécuter.</translation>
     </message>
 </context>
 <context>
@@ -830,896 +830,896 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>The folder %1 cannot be made: %2</source>
         <extracomment>%2 is why, in the system&apos;s words.</extracomment>
-        <translation>フォルダー %1 を作成できません: %2</translation>
+        <translation>Impossible de créer le dossier %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Check who may write there.</source>
-        <translation>そこに書き込めるユーザーを確認してください。</translation>
+        <translation>Vérifiez qui peut écrire à cet emplacement.</translation>
     </message>
     <message>
         <source>The folder %1 cannot be read: %2</source>
         <extracomment>%2 is why, in the system&apos;s words.</extracomment>
-        <translation>フォルダー %1 を読み取れません: %2</translation>
+        <translation>Impossible de lire le dossier %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Check who may read it.</source>
-        <translation>それを読み取れるユーザーを確認してください。</translation>
+        <translation>Vérifiez qui peut le lire.</translation>
     </message>
     <message>
         <source>What changes in the folder %1 is not noticed: %2</source>
         <extracomment>%2 is why, in the system&apos;s words.</extracomment>
-        <translation>フォルダー %1 の変更を検知できません: %2</translation>
+        <translation>Les modifications dans le dossier %1 ne sont pas détectées&#xa0;: %2</translation>
     </message>
     <message>
         <source>Start Keyrill again after changes, or raise fs.inotify.max_user_watches.</source>
-        <translation>変更の後に Keyrill をもう一度起動するか、fs.inotify.max_user_watches の値を大きくしてください。</translation>
+        <translation>Relancez Keyrill après des modifications ou augmentez fs.inotify.max_user_watches.</translation>
     </message>
     <message>
         <source>Make room, or check who may write there.</source>
-        <translation>空き容量を増やすか、そこに書き込めるユーザーを確認してください。</translation>
+        <translation>Libérez de l’espace ou vérifiez qui peut écrire à cet emplacement.</translation>
     </message>
 </context>
 <context>
     <name>Hints</name>
     <message>
         <source>A handler is called with parentheses: %1().</source>
-        <translation>ハンドラーは丸かっこを付けて呼び出します: %1()。</translation>
+        <translation>Un gestionnaire s’appelle avec des parenthèses&#xa0;: %1().</translation>
     </message>
     <message>
         <source>The key has a number: key code %1.</source>
-        <translation>このキーには番号があります: key code %1。</translation>
+        <translation>La touche a un numéro&#xa0;: key code %1.</translation>
     </message>
     <message>
         <source>Return is joined to a text so: &quot;hello&quot; &amp; return.</source>
-        <translation>Return はテキストに次のように連結します: &quot;hello&quot; &amp; return。</translation>
+        <translation>La touche Entrée s’ajoute ainsi à un texte&#xa0;: &quot;hello&quot; &amp; return.</translation>
     </message>
     <message>
         <source>Tab is joined to a text so: &quot;hello&quot; &amp; tab.</source>
-        <translation>Tab はテキストに次のように連結します: &quot;hello&quot; &amp; tab。</translation>
+        <translation>La touche Tab s’ajoute ainsi à un texte&#xa0;: &quot;hello&quot; &amp; tab.</translation>
     </message>
     <message>
         <source>A question is asked with: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</source>
-        <translation>質問して答えを受け取るには次のように書きます: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;)。</translation>
+        <translation>Une question se pose ainsi&#xa0;: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</translation>
     </message>
     <message>
         <source>A number by chance is: random number from 1 to 10.</source>
-        <translation>乱数は次のように書きます: random number from 1 to 10。</translation>
+        <translation>Un nombre aléatoire s’obtient ainsi&#xa0;: random number from 1 to 10.</translation>
     </message>
     <message>
         <source>A loop is left with “exit repeat”, the script with “return”.</source>
-        <translation>ループから抜けるには「exit repeat」、スクリプトを終えるには「return」を使います。</translation>
+        <translation>On quitte une boucle avec «&#xa0;exit repeat&#xa0;», le script avec «&#xa0;return&#xa0;».</translation>
     </message>
     <message>
         <source>Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
-        <translation>テキストは「keystroke」で入力します: keystroke &quot;hello&quot;。</translation>
+        <translation>Le texte se saisit avec «&#xa0;keystroke&#xa0;»&#xa0;: keystroke &quot;hello&quot;.</translation>
     </message>
     <message>
         <source>A pause is written in seconds: delay 2.</source>
-        <translation>待ち時間は秒数で書きます: delay 2。</translation>
+        <translation>Une pause s’écrit en secondes&#xa0;: delay 2.</translation>
     </message>
     <message>
         <source>Errors are caught with: try … on error … end try.</source>
-        <translation>エラーは次のように捕捉します: try … on error … end try。</translation>
+        <translation>Les erreurs s’interceptent ainsi&#xa0;: try … on error … end try.</translation>
     </message>
     <message>
         <source>Nothing is imported; the commands are there from the start: delay 2, keystroke &quot;hello&quot;.</source>
-        <translation>インポートは必要ありません。コマンドは最初から使えます: delay 2, keystroke &quot;hello&quot;。</translation>
+        <translation>Il n’y a rien à importer&#xa0;; les commandes sont présentes dès le départ&#xa0;: delay 2, keystroke &quot;hello&quot;.</translation>
     </message>
     <message>
         <source>A value is printed with: log &quot;x&quot;. Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
-        <translation>値は次のように出力します: log &quot;x&quot;。テキストは「keystroke」で入力します: keystroke &quot;hello&quot;。</translation>
+        <translation>Une valeur s’affiche ainsi&#xa0;: log &quot;x&quot;. Le texte se saisit avec «&#xa0;keystroke&#xa0;»&#xa0;: keystroke &quot;hello&quot;.</translation>
     </message>
     <message>
         <source>A message is shown with: display dialog &quot;hello&quot;.</source>
-        <translation>メッセージは次のように表示します: display dialog &quot;hello&quot;。</translation>
+        <translation>Un message s’affiche ainsi&#xa0;: display dialog &quot;hello&quot;.</translation>
     </message>
     <message>
         <source>What has no value is written: missing value.</source>
-        <translation>値がないことは次のように書きます: missing value。</translation>
+        <translation>Ce qui n’a pas de valeur s’écrit&#xa0;: missing value.</translation>
     </message>
     <message>
         <source>A window is brought to the front with: tell application &quot;Firefox&quot; to activate.</source>
-        <translation>ウィンドウを前面に出すには次のように書きます: tell application &quot;Firefox&quot; to activate。</translation>
+        <translation>Une fenêtre est amenée au premier plan ainsi&#xa0;: tell application &quot;Firefox&quot; to activate.</translation>
     </message>
     <message>
         <source>A key code lies between 0 and %1; “keyrill-script keys” prints those that keys have.</source>
-        <translation>キーコードは 0 から %1 までの数です。キーのあるコードは「keyrill-script keys」で表示できます。</translation>
+        <translation>Un code de touche est compris entre 0 et %1&#xa0;; «&#xa0;keyrill-script keys&#xa0;» affiche ceux qui correspondent à des touches.</translation>
     </message>
     <message>
         <source>A key code is a number; a text is typed with “keystroke”.</source>
-        <translation>キーコードは数です。テキストは「keystroke」で入力します。</translation>
+        <translation>Un code de touche est un nombre&#xa0;; un texte se saisit avec «&#xa0;keystroke&#xa0;».</translation>
     </message>
     <message>
         <source>The key has a number: key code %1; “keyrill-script keys” prints all.</source>
-        <translation>このキーには番号があります: key code %1。すべての番号は「keyrill-script keys」で表示できます。</translation>
+        <translation>La touche a un numéro&#xa0;: key code %1&#xa0;; «&#xa0;keyrill-script keys&#xa0;» les affiche tous.</translation>
     </message>
     <message>
         <source>The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.</source>
-        <translation>日付の要素は year、month、day、weekday、hours、minutes、seconds、time です。</translation>
+        <translation>Les parties d’une date sont year, month, day, weekday, hours, minutes, seconds et time.</translation>
     </message>
     <message>
         <source>Did you mean %1?</source>
-        <translation>%1 のことですか?</translation>
+        <translation>Vouliez-vous dire %1&#xa0;?</translation>
     </message>
     <message>
         <source>Decimals stand behind a point: delay 0.5.</source>
-        <translation>小数点にはピリオドを使います: delay 0.5。</translation>
+        <translation>Les décimales se placent après un point&#xa0;: delay 0.5.</translation>
     </message>
     <message>
         <source>“delay” counts seconds: delay 0.5.</source>
-        <translation>「delay」の単位は秒です: delay 0.5。</translation>
+        <translation>«&#xa0;delay&#xa0;» compte en secondes&#xa0;: delay 0.5.</translation>
     </message>
     <message>
         <source>A dialog gives a record; what was typed there is taken with: text returned of n.</source>
-        <translation>ダイアログはレコードを返します。入力された内容は次のように取り出します: text returned of n。</translation>
+        <translation>Une boîte de dialogue donne un enregistrement (record)&#xa0;; ce qui y a été saisi s’obtient ainsi&#xa0;: text returned of n.</translation>
     </message>
     <message>
         <source>A modifier stands without quotes: using %1 down.</source>
         <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
-        <translation>修飾キーは引用符なしで書きます: using %1 down。</translation>
+        <translation>Une touche de modification s’écrit sans guillemets&#xa0;: using %1 down.</translation>
     </message>
     <message>
         <source>Several modifiers stand in braces: using {control down, shift down}.</source>
-        <translation>複数の修飾キーは波かっこで囲みます: using {control down, shift down}。</translation>
+        <translation>Plusieurs touches de modification s’écrivent entre accolades&#xa0;: using {control down, shift down}.</translation>
     </message>
     <message>
         <source>Texts are joined with “&amp;”: &quot;one&quot; &amp; &quot;two&quot;.</source>
-        <translation>テキストは「&amp;」で連結します: &quot;one&quot; &amp; &quot;two&quot;。</translation>
+        <translation>Les textes se joignent avec «&#xa0;&amp;&#xa0;»&#xa0;: &quot;one&quot; &amp; &quot;two&quot;.</translation>
     </message>
     <message>
         <source>This compares and changes nothing; a variable is set with “to”: set %1 to …</source>
-        <translation>これは比較するだけで、何も変更しません。変数は「to」を使って設定します: set %1 to …</translation>
+        <translation>Ceci compare et ne change rien&#xa0;; une variable se définit avec «&#xa0;to&#xa0;»&#xa0;: set %1 to …</translation>
     </message>
     <message>
         <source>The script has no handler of that name: on %1(…) … end %1.</source>
-        <translation>スクリプトにその名前のハンドラーがありません: on %1(…) … end %1。</translation>
+        <translation>Le script n’a pas de gestionnaire de ce nom&#xa0;: on %1(…) … end %1.</translation>
     </message>
     <message>
         <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
-        <translation>プログラムに使えるコマンドは「activate」だけです。代わりに、そのプログラムで使うキーを押してください: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down。</translation>
+        <translation>Les programmes n’acceptent aucune autre commande que «&#xa0;activate&#xa0;»&#xa0;; appuyez sur les touches qui font la même chose dans le programme&#xa0;: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
     </message>
     <message>
         <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
         <extracomment>%1 is the name of a modifier, &quot;control&quot;.</extracomment>
-        <translation>修飾キーの名前は command (Super)、control (Ctrl)、option (Alt)、shift です: using %1 down。</translation>
+        <translation>Les touches de modification s’appellent command (Super), control (Ctrl), option (Alt) et shift (Maj)&#xa0;: using %1 down.</translation>
     </message>
     <message>
         <source>An application is named: application &quot;%1&quot;.</source>
-        <translation>アプリケーションは次のように名前で指定します: application &quot;%1&quot;。</translation>
+        <translation>Une application se désigne ainsi&#xa0;: application &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>テキストはまっすぐな引用符で囲みます: &quot;%1&quot;。</translation>
+        <translation>Le texte s’écrit entre guillemets droits&#xa0;: &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>A handler has variables of its own; to share this one write there: global %1.</source>
-        <translation>ハンドラーの変数は、そのハンドラーだけのものです。この変数を共有するには、ハンドラーの中に次のように書いてください: global %1。</translation>
+        <translation>Un gestionnaire a ses propres variables&#xa0;; pour partager celle-ci, écrivez-y&#xa0;: global %1.</translation>
     </message>
     <message>
         <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>変数は使う前に設定します: set %1 to …。テキストはまっすぐな引用符で囲みます: &quot;%1&quot;。</translation>
+        <translation>Une variable se définit avant d’être utilisée&#xa0;: set %1 to … Le texte s’écrit entre guillemets droits&#xa0;: &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
-        <translation>キーは番号で押します: key code 36 は Return です。すべての番号は「keyrill-script keys」で表示できます。</translation>
+        <translation>Une touche se presse par son numéro&#xa0;: key code 36 est la touche Entrée. «&#xa0;keyrill-script keys&#xa0;» affiche tous les numéros.</translation>
     </message>
     <message>
         <source>The date of today is “current date”; as a text: short date string of (current date).</source>
-        <translation>今日の日付は「current date」です。テキストにするには次のように書きます: short date string of (current date)。</translation>
+        <translation>La date du jour est «&#xa0;current date&#xa0;»&#xa0;; sous forme de texte&#xa0;: short date string of (current date).</translation>
     </message>
     <message>
         <source>Inside “tell” the script’s own handlers are called with “my”: my %1(…).</source>
-        <translation>「tell」の中では、スクリプト自身のハンドラーを「my」で呼び出します: my %1(…)。</translation>
+        <translation>Dans «&#xa0;tell&#xa0;», les gestionnaires propres au script s’appellent avec «&#xa0;my&#xa0;»&#xa0;: my %1(…).</translation>
     </message>
     <message>
         <source>No block is open here; an “if” with its statement in one line has no “else”.</source>
-        <translation>ここで開いているブロックはありません。文まで 1 行に書いた「if」に「else」は付けられません。</translation>
+        <translation>Aucun bloc n’est ouvert ici&#xa0;; un «&#xa0;if&#xa0;» avec son instruction sur la même ligne n’a pas de «&#xa0;else&#xa0;».</translation>
     </message>
     <message>
         <source>No block is open here; an “if” with its statement in one line has no “end if”.</source>
-        <translation>ここで開いているブロックはありません。文まで 1 行に書いた「if」に「end if」は不要です。</translation>
+        <translation>Aucun bloc n’est ouvert ici&#xa0;; un «&#xa0;if&#xa0;» avec son instruction sur la même ligne n’a pas de «&#xa0;end if&#xa0;».</translation>
     </message>
     <message>
         <source>No block is open here; a “tell … to” in one line has no “end tell”.</source>
-        <translation>ここで開いているブロックはありません。1 行で書いた「tell … to」に「end tell」は不要です。</translation>
+        <translation>Aucun bloc n’est ouvert ici&#xa0;; un «&#xa0;tell … to&#xa0;» sur une seule ligne n’a pas de «&#xa0;end tell&#xa0;».</translation>
     </message>
     <message>
         <source>No block is open here; this line is one too many.</source>
-        <translation>ここで開いているブロックはありません。この行は余分です。</translation>
+        <translation>Aucun bloc n’est ouvert ici&#xa0;; cette ligne est en trop.</translation>
     </message>
     <message>
         <source>No “if” is open here; an “if” with its statement in one line has no “else”.</source>
-        <translation>ここで開いている「if」はありません。文まで 1 行に書いた「if」に「else」は付けられません。</translation>
+        <translation>Aucun «&#xa0;if&#xa0;» n’est ouvert ici&#xa0;; un «&#xa0;if&#xa0;» avec son instruction sur la même ligne n’a pas de «&#xa0;else&#xa0;».</translation>
     </message>
     <message>
         <source>No “if” is open here; an “if” with its statement in one line has no “end if”.</source>
-        <translation>ここで開いている「if」はありません。文まで 1 行に書いた「if」に「end if」は不要です。</translation>
+        <translation>Aucun «&#xa0;if&#xa0;» n’est ouvert ici&#xa0;; un «&#xa0;if&#xa0;» avec son instruction sur la même ligne n’a pas de «&#xa0;end if&#xa0;».</translation>
     </message>
     <message>
         <source>No “tell” is open here; a “tell … to” in one line has no “end tell”.</source>
-        <translation>ここで開いている「tell」はありません。1 行で書いた「tell … to」に「end tell」は不要です。</translation>
+        <translation>Aucun «&#xa0;tell&#xa0;» n’est ouvert ici&#xa0;; un «&#xa0;tell … to&#xa0;» sur une seule ligne n’a pas de «&#xa0;end tell&#xa0;».</translation>
     </message>
     <message>
         <source>No “%1” is open here; the block that begins in line %2 has no “end” of its own.</source>
         <extracomment>%1 is the first word of a block, &quot;repeat&quot;, %2 a number.</extracomment>
-        <translation>ここで開いている「%1」はありません。%2 行目から始まるブロックには、対応する「end」がありません。</translation>
+        <translation>Aucun «&#xa0;%1&#xa0;» n’est ouvert ici&#xa0;; le bloc qui commence à la ligne %2 n’a pas de «&#xa0;end&#xa0;» propre.</translation>
     </message>
     <message>
         <source>In line %1 these are two words: %2.</source>
         <extracomment>%1 is a number, %2 what the line was meant to be, &quot;end if&quot;.</extracomment>
-        <translation>%1 行目のこの部分は 2 語に分けて書きます: %2。</translation>
+        <translation>À la ligne %1, cela s’écrit en deux mots&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The block that begins in line %1 has no “end” of its own.</source>
-        <translation>%1 行目から始まるブロックには、対応する「end」がありません。</translation>
+        <translation>Le bloc qui commence à la ligne %1 n’a pas de «&#xa0;end&#xa0;» propre.</translation>
     </message>
     <message>
         <source>The text that begins here is not closed by a straight quote in its line.</source>
-        <translation>ここから始まるテキストが、同じ行の中でまっすぐな引用符で閉じられていません。</translation>
+        <translation>Le texte qui commence ici n’est pas fermé par un guillemet droit sur sa ligne.</translation>
     </message>
     <message>
         <source>The comment that begins in line %1 is not closed by “*)”.</source>
-        <translation>%1 行目から始まるコメントが「*)」で閉じられていません。</translation>
+        <translation>Le commentaire qui commence à la ligne %1 n’est pas fermé par «&#xa0;*)&#xa0;».</translation>
     </message>
     <message>
         <source>The keyboard commands stand inside “tell application &quot;System Events&quot;” … “end tell”.</source>
-        <translation>キーボードのコマンドは「tell application &quot;System Events&quot;」 … 「end tell」の中に書きます。</translation>
+        <translation>Les commandes du clavier se placent dans «&#xa0;tell application &quot;System Events&quot;&#xa0;» … «&#xa0;end tell&#xa0;».</translation>
     </message>
     <message>
         <source>Modifiers are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
-        <translation>修飾キーを使えるのは「tell application &quot;System Events&quot;」 … 「end tell」の中です。</translation>
+        <translation>Les touches de modification sont connues dans «&#xa0;tell application &quot;System Events&quot;&#xa0;» … «&#xa0;end tell&#xa0;».</translation>
     </message>
     <message>
         <source>Processes are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
-        <translation>プロセスを使えるのは「tell application &quot;System Events&quot;」 … 「end tell」の中です。</translation>
+        <translation>Les processus sont connus dans «&#xa0;tell application &quot;System Events&quot;&#xa0;» … «&#xa0;end tell&#xa0;».</translation>
     </message>
     <message>
         <source>Put straight quotes (&quot;) in place of the curly ones.</source>
-        <translation>曲がった引用符の代わりに、まっすぐな引用符 (&quot;) を使ってください。</translation>
+        <translation>Mettez des guillemets droits (&quot;) à la place des guillemets typographiques.</translation>
     </message>
     <message>
         <source>A variable is set with “to”: set x to 5.</source>
-        <translation>変数は「to」を使って設定します: set x to 5。</translation>
+        <translation>Une variable se définit avec «&#xa0;to&#xa0;»&#xa0;: set x to 5.</translation>
     </message>
     <message>
         <source>A loop is written: repeat with i from 1 to 5 … end repeat.</source>
-        <translation>ループは次のように書きます: repeat with i from 1 to 5 … end repeat。</translation>
+        <translation>Une boucle s’écrit&#xa0;: repeat with i from 1 to 5 … end repeat.</translation>
     </message>
     <message>
         <source>A handler is written: on greet(x) … end greet.</source>
-        <translation>ハンドラーは次のように書きます: on greet(x) … end greet。</translation>
+        <translation>Un gestionnaire s’écrit&#xa0;: on greet(x) … end greet.</translation>
     </message>
     <message>
         <source>Several stand in braces: {control down, shift down}, {36, 48}.</source>
-        <translation>複数あるときは波かっこで囲みます: {control down, shift down}, {36, 48}。</translation>
+        <translation>Plusieurs éléments s’écrivent entre accolades&#xa0;: {control down, shift down}, {36, 48}.</translation>
     </message>
     <message>
         <source>These are two words: else if … then.</source>
-        <translation>これは 2 語に分けて書きます: else if … then。</translation>
+        <translation>Cela s’écrit en deux mots&#xa0;: else if … then.</translation>
     </message>
     <message>
         <source>Text is typed with “keystroke”, and Return joined with “&amp;”: keystroke &quot;hello&quot; &amp; return.</source>
-        <translation>テキストは「keystroke」で入力し、Return は「&amp;」で連結します: keystroke &quot;hello&quot; &amp; return。</translation>
+        <translation>Le texte se saisit avec «&#xa0;keystroke&#xa0;», et la touche Entrée s’ajoute avec «&#xa0;&amp;&#xa0;»&#xa0;: keystroke &quot;hello&quot; &amp; return.</translation>
     </message>
     <message>
         <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
-        <translation>キーを押して離すには次のように書きます: keystroke return または key code 53。押し続けるには次のように書きます: key down 36。離すには次のように書きます: key up 36。</translation>
+        <translation>Une touche est pressée puis relâchée ainsi&#xa0;: keystroke return, key code 53. Elle est maintenue avec&#xa0;: key down 36, et relâchée avec&#xa0;: key up 36.</translation>
     </message>
     <message>
         <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
-        <translation>マクロではマウスを使えません。Tab や Return など、同じことができるキーを押してください。</translation>
+        <translation>Une macro n’a pas de souris&#xa0;; appuyez sur les touches qui font la même chose, comme Tab et Entrée.</translation>
     </message>
     <message>
         <source>Conditions are joined with “and” or “or”.</source>
-        <translation>条件は「and」または「or」でつなぎます。</translation>
+        <translation>Les conditions se joignent avec «&#xa0;and&#xa0;» ou «&#xa0;or&#xa0;».</translation>
     </message>
     <message>
         <source>Of a process its name is known, and whether it is in front: every process whose name contains &quot;fire&quot;.</source>
-        <translation>プロセスについて分かるのは、名前と、前面にあるかどうかです: every process whose name contains &quot;fire&quot;。</translation>
+        <translation>D’un processus, on connaît le nom et on sait s’il est au premier plan&#xa0;: every process whose name contains &quot;fire&quot;.</translation>
     </message>
     <message>
         <source>Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.</source>
-        <translation>マクロからウィンドウやボタン、メニューは見えません。同じことができるキーを押してください。</translation>
+        <translation>Les fenêtres, les boutons et les menus ne sont pas visibles pour une macro&#xa0;; appuyez sur les touches qui font la même chose.</translation>
     </message>
     <message>
         <source>Modifiers stand behind “using”: keystroke &quot;s&quot; using control down.</source>
-        <translation>修飾キーは「using」の後に書きます: keystroke &quot;s&quot; using control down。</translation>
+        <translation>Les touches de modification se placent après «&#xa0;using&#xa0;»&#xa0;: keystroke &quot;s&quot; using control down.</translation>
     </message>
     <message>
         <source>What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.</source>
-        <translation>何度も繰り返すことは、「repeat 5 times」と「end repeat」の間に独立した行で書きます。</translation>
+        <translation>Ce qui se fait plusieurs fois se place sur ses propres lignes entre «&#xa0;repeat 5 times&#xa0;» et «&#xa0;end repeat&#xa0;».</translation>
     </message>
     <message>
         <source>Each statement has a line of its own.</source>
-        <translation>文は 1 行に 1 つずつ書きます。</translation>
+        <translation>Chaque instruction a sa propre ligne.</translation>
     </message>
     <message>
         <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
-        <translation>マクロではファイルを使えません。テキストは「the clipboard」またはダイアログから受け取ります。</translation>
+        <translation>Une macro n’a pas accès aux fichiers&#xa0;; un texte vient de «&#xa0;the clipboard&#xa0;» ou d’une boîte de dialogue.</translation>
     </message>
     <message>
         <source>A variable is set with “to”: set x to x + 1.</source>
-        <translation>変数は「to」を使って設定します: set x to x + 1。</translation>
+        <translation>Une variable se définit avec «&#xa0;to&#xa0;»&#xa0;: set x to x + 1.</translation>
     </message>
     <message>
         <source>A parenthesis is not closed in this line.</source>
-        <translation>この行に、閉じられていない丸かっこがあります。</translation>
+        <translation>Une parenthèse n’est pas fermée sur cette ligne.</translation>
     </message>
     <message>
         <source>A brace is not closed in this line.</source>
-        <translation>この行に、閉じられていない波かっこがあります。</translation>
+        <translation>Une accolade n’est pas fermée sur cette ligne.</translation>
     </message>
     <message>
         <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
-        <translation>プログラムを起動するキーを押すか、ウィンドウを前面に出してください: tell application &quot;Firefox&quot; to activate。</translation>
+        <translation>Appuyez sur les touches qui lancent le programme, ou amenez une fenêtre au premier plan&#xa0;: tell application &quot;Firefox&quot; to activate.</translation>
     </message>
     <message>
         <source>Write the command by its name.</source>
-        <translation>コマンドは名前で書いてください。</translation>
+        <translation>Désignez la commande par son nom.</translation>
     </message>
     <message>
         <source>A shortcut is written: keystroke &quot;c&quot; using control down.</source>
-        <translation>ショートカットは次のように書きます: keystroke &quot;c&quot; using control down。</translation>
+        <translation>Une combinaison de touches s’écrit&#xa0;: keystroke &quot;c&quot; using control down.</translation>
     </message>
     <message>
         <source>Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat.</source>
-        <translation>「whose」で選べるのはプロセスだけです。リストの項目は次のように順に調べます: repeat with x in theList … end repeat。</translation>
+        <translation>Seuls les processus se choisissent avec «&#xa0;whose&#xa0;»&#xa0;; parcourez une liste avec&#xa0;: repeat with x in theList … end repeat.</translation>
     </message>
     <message>
         <source>Behind “default answer” stands a text, be it empty: default answer &quot;&quot;.</source>
-        <translation>「default answer」の後には、空であってもテキストを書きます: default answer &quot;&quot;。</translation>
+        <translation>Après «&#xa0;default answer&#xa0;» vient un texte, même vide&#xa0;: default answer &quot;&quot;.</translation>
     </message>
     <message>
         <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
-        <translation>1 行で書いた「if」に「else」は付けられません。「end if」を使い、複数の行に分けて書いてください。</translation>
+        <translation>Un «&#xa0;if&#xa0;» sur une seule ligne n’a pas de «&#xa0;else&#xa0;»&#xa0;; écrivez-le sur plusieurs lignes, avec «&#xa0;end if&#xa0;».</translation>
     </message>
     <message>
         <source>Decimals stand behind a point: 0.5.</source>
-        <translation>小数点にはピリオドを使います: 0.5。</translation>
+        <translation>Les décimales se placent après un point&#xa0;: 0.5.</translation>
     </message>
     <message>
         <source>“delay” counts seconds, without a unit: delay 0.5.</source>
-        <translation>「delay」の単位は秒です。単位は付けません: delay 0.5。</translation>
+        <translation>«&#xa0;delay&#xa0;» compte en secondes, sans unité&#xa0;: delay 0.5.</translation>
     </message>
     <message>
         <source>A key is let go with: key up &quot;a&quot;.</source>
-        <translation>キーは次のように離します: key up &quot;a&quot;。</translation>
+        <translation>Une touche se relâche ainsi&#xa0;: key up &quot;a&quot;.</translation>
     </message>
     <message>
         <source>Text is typed with “keystroke”, a key is pressed by its number: key code 36.</source>
-        <translation>テキストは「keystroke」で入力し、キーは番号で押します: key code 36。</translation>
+        <translation>Le texte se saisit avec «&#xa0;keystroke&#xa0;», une touche se presse par son numéro&#xa0;: key code 36.</translation>
     </message>
     <message>
         <source>A key is held with “key down” and let go with “key up”: key down shift.</source>
-        <translation>キーは「key down」で押し続け、「key up」で離します: key down shift。</translation>
+        <translation>Une touche se maintient avec «&#xa0;key down&#xa0;» et se relâche avec «&#xa0;key up&#xa0;»&#xa0;: key down shift.</translation>
     </message>
     <message>
         <source>The text in the clipboard is: the clipboard.</source>
-        <translation>クリップボードのテキストは次のように書きます: the clipboard。</translation>
+        <translation>Le texte du presse-papiers s’obtient ainsi&#xa0;: the clipboard.</translation>
     </message>
     <message>
         <source>A loop is written: repeat 5 times … end repeat.</source>
-        <translation>ループは次のように書きます: repeat 5 times … end repeat。</translation>
+        <translation>Une boucle s’écrit&#xa0;: repeat 5 times … end repeat.</translation>
     </message>
     <message>
         <source>Behind the name stands “to”, or the line ends there: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</source>
-        <translation>名前の後には「to」を書くか、そこで行を終えます: tell application &quot;System Events&quot; to keystroke &quot;a&quot;。</translation>
+        <translation>Après le nom vient «&#xa0;to&#xa0;», ou la ligne s’arrête là&#xa0;: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</translation>
     </message>
     <message>
         <source>The name stands between straight quotes: tell application &quot;System Events&quot;.</source>
-        <translation>名前はまっすぐな引用符で囲みます: tell application &quot;System Events&quot;。</translation>
+        <translation>Le nom s’écrit entre guillemets droits&#xa0;: tell application &quot;System Events&quot;.</translation>
     </message>
     <message>
         <source>A loop is written: repeat while x &lt; 5 … end repeat.</source>
-        <translation>ループは次のように書きます: repeat while x &lt; 5 … end repeat。</translation>
+        <translation>Une boucle s’écrit&#xa0;: repeat while x &lt; 5 … end repeat.</translation>
     </message>
     <message>
         <source>A comment begins with -- or #.</source>
-        <translation>コメントは -- または # で始めます。</translation>
+        <translation>Un commentaire commence par -- ou #.</translation>
     </message>
     <message>
         <source>A comment over lines is written (* … *).</source>
-        <translation>複数行のコメントは (* … *) のように書きます。</translation>
+        <translation>Un commentaire sur plusieurs lignes s’écrit (* … *).</translation>
     </message>
     <message>
         <source>“Equal” is written with one =.</source>
-        <translation>「等しい」は 1 つの = で書きます。</translation>
+        <translation>«&#xa0;Égal&#xa0;» s’écrit avec un seul =.</translation>
     </message>
     <message>
         <source>A text is not closed by a straight quote.</source>
-        <translation>まっすぐな引用符で閉じられていないテキストがあります。</translation>
+        <translation>Un texte n’est pas fermé par un guillemet droit.</translation>
     </message>
     <message>
         <source>A backslash in a text is written twice: &quot;C:\\Users&quot;.</source>
-        <translation>テキストの中のバックスラッシュは 2 つ続けて書きます: &quot;C:\\Users&quot;。</translation>
+        <translation>Une barre oblique inverse dans un texte s’écrit deux fois&#xa0;: &quot;C:\\Users&quot;.</translation>
     </message>
     <message>
         <source>Behind “as” stands a class: text, integer, real, number, boolean, list, record, date.</source>
-        <translation>「as」の後にはクラスを書きます: text, integer, real, number, boolean, list, record, date。</translation>
+        <translation>Après «&#xa0;as&#xa0;» vient une classe&#xa0;: text, integer, real, number, boolean, list, record, date.</translation>
     </message>
     <message>
         <source>A block has no braces: if x = 1 then … end if.</source>
-        <translation>ブロックに波かっこは使いません: if x = 1 then … end if。</translation>
+        <translation>Un bloc n’a pas d’accolades&#xa0;: if x = 1 then … end if.</translation>
     </message>
     <message>
         <source>A block has no braces; it ends with “end” and its first word: end repeat.</source>
-        <translation>ブロックに波かっこは使いません。「end」とブロックの最初の単語で終わります: end repeat。</translation>
+        <translation>Un bloc n’a pas d’accolades&#xa0;; il se termine par «&#xa0;end&#xa0;» et son premier mot&#xa0;: end repeat.</translation>
     </message>
     <message>
         <source>A line needs no colon at its end.</source>
-        <translation>行の終わりにコロンは必要ありません。</translation>
+        <translation>Une ligne n’a pas besoin de deux-points à la fin.</translation>
     </message>
     <message>
         <source>Other letters than A to Z stand in a name between bars: |%1|.</source>
-        <translation>A から Z 以外の文字を含む名前は縦線で囲みます: |%1|。</translation>
+        <translation>Un nom contenant d’autres lettres que A à Z s’écrit entre barres verticales&#xa0;: |%1|.</translation>
     </message>
     <message>
         <source>Other letters than A to Z stand in a name between bars: |%1|. Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>A から Z 以外の文字を含む名前は縦線で囲みます: |%1|。テキストはまっすぐな引用符で囲みます: &quot;%1&quot;。</translation>
+        <translation>Un nom contenant d’autres lettres que A à Z s’écrit entre barres verticales&#xa0;: |%1|. Le texte s’écrit entre guillemets droits&#xa0;: &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>A sign that nobody sees stands here; delete it.</source>
-        <translation>ここに目に見えない文字があります。削除してください。</translation>
+        <translation>Il y a ici un caractère invisible&#xa0;; supprimez-le.</translation>
     </message>
     <message>
         <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
         <extracomment>“Macros…” is an entry of the menu.</extracomment>
-        <translation>グローバルショートカットはスクリプトの一部ではありません。設定で、またはマクロごとに「マクロ...」で設定します。</translation>
+        <translation>Un raccourci clavier ne fait pas partie d’un script&#xa0;; il se définit dans les préférences, ou pour chaque macro dans «&#xa0;Macros...&#xa0;».</translation>
     </message>
     <message>
         <source>“Not equal” is written ≠ or /=.</source>
-        <translation>「等しくない」は ≠ または /= と書きます。</translation>
+        <translation>«&#xa0;Différent&#xa0;» s’écrit ≠ ou /=.</translation>
     </message>
     <message>
         <source>An item is taken by its number: item 1 of x.</source>
-        <translation>項目は番号で取り出します: item 1 of x。</translation>
+        <translation>Un élément s’obtient par son numéro&#xa0;: item 1 of x.</translation>
     </message>
     <message>
         <source>What belongs to a value is taken with “of”: length of x.</source>
-        <translation>値に属するものは「of」で取り出します: length of x。</translation>
+        <translation>Ce qui appartient à une valeur s’obtient avec «&#xa0;of&#xa0;»&#xa0;: length of x.</translation>
     </message>
     <message>
         <source>A list stands in braces: {1, 2}.</source>
-        <translation>リストは波かっこで囲みます: {1, 2}。</translation>
+        <translation>Une liste s’écrit entre accolades&#xa0;: {1, 2}.</translation>
     </message>
     <message>
         <source>The rest of a division is written: 7 mod 2.</source>
-        <translation>割り算の余りは次のように書きます: 7 mod 2。</translation>
+        <translation>Le reste d’une division s’écrit&#xa0;: 7 mod 2.</translation>
     </message>
     <message>
         <source>Text stands between straight double quotes (&quot;).</source>
-        <translation>テキストはまっすぐな二重引用符 (&quot;) で囲みます。</translation>
+        <translation>Le texte s’écrit entre guillemets droits doubles (&quot;).</translation>
     </message>
     <message>
         <source>A quote inside a text is written \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</source>
-        <translation>テキストの中の引用符は \&quot; と書きます: &quot;Hello \&quot;world\&quot;&quot;。</translation>
+        <translation>Un guillemet à l’intérieur d’un texte s’écrit \&quot;&#xa0;: &quot;Hello \&quot;world\&quot;&quot;.</translation>
     </message>
     <message>
         <source>Take the items in parts, or paragraphs instead of characters.</source>
-        <translation>項目を何回かに分けて取り出すか、文字ではなく段落を取り出してください。</translation>
+        <translation>Prenez les éléments par parties, ou utilisez des paragraphes au lieu de caractères.</translation>
     </message>
 </context>
 <context>
     <name>HotKeys</name>
     <message>
         <source>GNOME&apos;s settings cannot be changed</source>
-        <translation>GNOME の設定を変更できません</translation>
+        <translation>les réglages de GNOME ne peuvent pas être modifiés</translation>
     </message>
     <message>
         <source>your settings of GNOME have another entry in its place</source>
-        <translation>GNOME の設定では、その場所に別の項目があります</translation>
+        <translation>vos réglages de GNOME contiennent une autre entrée à sa place</translation>
     </message>
     <message>
         <source>your own shortcut “%1” in GNOME&apos;s settings has it</source>
-        <translation>GNOME の設定にあるユーザー自身のショートカット「%1」が使っています</translation>
+        <translation>votre raccourci personnalisé «&#xa0;%1&#xa0;» dans les réglages de GNOME utilise cette combinaison</translation>
     </message>
     <message>
         <source>GNOME has it for “%1”</source>
-        <translation>GNOME が「%1」に使っています</translation>
+        <translation>GNOME utilise cette combinaison pour «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
-        <translation>GNOME のグローバルショートカットはユーザー自身の設定にしかなく、Keyrill はその変更を許可されていません</translation>
+        <translation>GNOME ne fournit de raccourcis clavier que dans vos propres réglages, que Keyrill n’est pas autorisé à modifier</translation>
     </message>
     <message>
         <source>GNOME has no name for it</source>
-        <translation>この組み合わせを表す名前が GNOME にありません</translation>
+        <translation>GNOME n’a pas de nom pour cette combinaison</translation>
     </message>
     <message>
         <source>it has been taken out of GNOME&apos;s settings</source>
-        <translation>GNOME の設定から取り除かれました</translation>
+        <translation>le raccourci a été retiré des réglages de GNOME</translation>
     </message>
     <message>
         <source>KDE has no name for this key</source>
-        <translation>このキーを表す名前が KDE にありません</translation>
+        <translation>KDE n’a pas de nom pour cette touche</translation>
     </message>
     <message>
         <source>KDE says: %1</source>
-        <translation>KDE からのメッセージ: %1</translation>
+        <translation>KDE indique&#xa0;: %1</translation>
     </message>
     <message>
         <source>KDE uses it for something else</source>
-        <translation>KDE が別の用途に使っています</translation>
+        <translation>KDE utilise cette combinaison pour autre chose</translation>
     </message>
     <message>
         <source>KDE does not give it</source>
-        <translation>KDE がこの組み合わせを提供しません</translation>
+        <translation>KDE ne fournit pas cette combinaison</translation>
     </message>
     <message>
         <source>%1 has it for “%2”</source>
-        <translation>%1 が「%2」に使っています</translation>
+        <translation>%1 utilise cette combinaison pour «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>the desktop has not granted it</source>
-        <translation>デスクトップがこの組み合わせを許可していません</translation>
+        <translation>le bureau n’a pas accordé cette combinaison</translation>
     </message>
     <message>
         <source>you did not agree when the desktop asked</source>
-        <translation>デスクトップの確認に対して許可が与えられませんでした</translation>
+        <translation>vous n’avez pas accepté lorsque le bureau l’a demandé</translation>
     </message>
     <message>
         <source>the desktop has not answered</source>
-        <translation>デスクトップが応答していません</translation>
+        <translation>le bureau n’a pas répondu</translation>
     </message>
     <message>
         <source>the desktop has refused it</source>
-        <translation>デスクトップがこの組み合わせを拒否しました</translation>
+        <translation>le bureau a refusé cette combinaison</translation>
     </message>
     <message>
         <source>there is no session bus</source>
-        <translation>セッションバスがありません</translation>
+        <translation>il n’y a pas de bus de session</translation>
     </message>
     <message>
         <source>the desktop&apos;s portal does not answer</source>
-        <translation>デスクトップのポータルが応答しません</translation>
+        <translation>le portail du bureau ne répond pas</translation>
     </message>
     <message>
         <source>the desktop&apos;s portal gives no hot keys</source>
-        <translation>デスクトップのポータルがグローバルショートカットを提供しません</translation>
+        <translation>le portail du bureau ne fournit pas de raccourcis clavier</translation>
     </message>
     <message>
         <source>the desktop has taken it back</source>
-        <translation>デスクトップがこの組み合わせの許可を取り消しました</translation>
+        <translation>le bureau a repris cette combinaison</translation>
     </message>
     <message>
         <source>the desktop&apos;s portal has ended</source>
-        <translation>デスクトップのポータルが終了しました</translation>
+        <translation>le portail du bureau s’est arrêté</translation>
     </message>
     <message>
         <source>your configuration of sway binds it</source>
-        <translation>sway の設定ファイルで割り当てられています</translation>
+        <translation>votre configuration de sway utilise cette combinaison</translation>
     </message>
     <message>
         <source>Choose another combination.</source>
-        <translation>別の組み合わせを選んでください。</translation>
+        <translation>Choisissez une autre combinaison.</translation>
     </message>
     <message>
         <source>Choose another combination, or allow it in the desktop&apos;s settings.</source>
-        <translation>別の組み合わせを選ぶか、デスクトップの設定で許可してください。</translation>
+        <translation>Choisissez une autre combinaison ou autorisez celle-ci dans les réglages du bureau.</translation>
     </message>
     <message>
         <source>Choose another combination, or free it in the program that holds it.</source>
-        <translation>別の組み合わせを選ぶか、それを使っているプログラムで解放してください。</translation>
+        <translation>Choisissez une autre combinaison ou libérez celle-ci dans le programme qui l’utilise.</translation>
     </message>
     <message>
         <source>%1 cannot be used: %2.</source>
         <extracomment>%1 is a combination of keys, %2 one of the reasons: another program holds it</extracomment>
-        <translation>%1 は使えません: %2。</translation>
+        <translation>Impossible d’utiliser %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 cannot be used: the keyboard layout has no key for the third level (AltGr).</source>
         <extracomment>%1 is a combination of keys.</extracomment>
-        <translation>%1 は使えません: キーボードレイアウトに第 3 レベル (AltGr) のキーがありません。</translation>
+        <translation>Impossible d’utiliser %1&#xa0;: la disposition de clavier n’a pas de touche pour le niveau 3 (AltGr).</translation>
     </message>
     <message>
         <source>%1 cannot be used: the keyboard layout has no key for the fifth level.</source>
         <extracomment>%1 is a combination of keys.</extracomment>
-        <translation>%1 は使えません: キーボードレイアウトに第 5 レベルのキーがありません。</translation>
+        <translation>Impossible d’utiliser %1&#xa0;: la disposition de clavier n’a pas de touche pour le niveau 5.</translation>
     </message>
     <message>
         <source>%1 cannot be used: the keyboard layout has no key for %2.</source>
         <extracomment>%1 is a combination of keys, %2 a modifier: Super</extracomment>
-        <translation>%1 は使えません: キーボードレイアウトに %2 のキーがありません。</translation>
+        <translation>Impossible d’utiliser %1&#xa0;: la disposition de clavier n’a pas de touche pour %2.</translation>
     </message>
     <message>
         <source>%1 cannot be used: Keyrill uses it for something else.</source>
         <extracomment>%1 is a combination of keys.</extracomment>
-        <translation>%1 は使えません: Keyrill が別の用途に使っています。</translation>
+        <translation>Impossible d’utiliser %1&#xa0;: Keyrill utilise cette combinaison pour autre chose.</translation>
     </message>
     <message>
         <source>%1 cannot be used: this desktop has no such key.</source>
         <extracomment>%1 is a combination of keys.</extracomment>
-        <translation>%1 は使えません: このデスクトップにはそのようなキーがありません。</translation>
+        <translation>Impossible d’utiliser %1&#xa0;: ce bureau n’a pas cette touche.</translation>
     </message>
     <message>
         <source>%1 cannot be used: nobody could type it any more.</source>
         <extracomment>%1 is a key.</extracomment>
-        <translation>%1 は使えません: このキーを入力できなくなってしまいます。</translation>
+        <translation>Impossible d’utiliser %1&#xa0;: plus personne ne pourrait taper avec cette touche.</translation>
     </message>
     <message>
         <source>Add Ctrl, Alt or Super.</source>
-        <translation>Ctrl、Alt、Super のどれかを追加してください。</translation>
+        <translation>Ajoutez Ctrl, Alt ou Super.</translation>
     </message>
     <message>
         <source>This compositor gives no hot keys to programs.</source>
-        <translation>このコンポジターはプログラムにグローバルショートカットを提供しません。</translation>
+        <translation>Ce compositeur ne fournit pas de raccourcis clavier aux programmes.</translation>
     </message>
     <message>
         <source>Bind keys to commands in the compositor&apos;s own settings.</source>
-        <translation>コンポジター自体の設定で、コマンドにキーを割り当ててください。</translation>
+        <translation>Dans les réglages du compositeur, associez des touches à des commandes.</translation>
     </message>
     <message>
         <source>this compositor gives no hot keys to programs</source>
-        <translation>このコンポジターはプログラムにグローバルショートカットを提供しません</translation>
+        <translation>ce compositeur ne fournit pas de raccourcis clavier aux programmes</translation>
     </message>
     <message>
         <source>another program holds it</source>
-        <translation>別のプログラムが使っています</translation>
+        <translation>un autre programme utilise cette combinaison</translation>
     </message>
     <message>
         <source>the X server refuses it with error %1</source>
-        <translation>X サーバーがエラー %1 で拒否しました</translation>
+        <translation>le serveur X refuse cette combinaison avec l’erreur %1</translation>
     </message>
     <message>
         <source>the X server is gone</source>
-        <translation>X サーバーが終了しました</translation>
+        <translation>le serveur X a disparu</translation>
     </message>
 </context>
 <context>
     <name>Keyboards</name>
     <message>
         <source>The keyboard cannot be read: %1: %2.</source>
-        <translation>キーボードを読み取れません: %1: %2。</translation>
+        <translation>Impossible de lire le clavier&#xa0;: %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Let the keyboard be read while a macro is recorded.</source>
-        <translation>マクロの記録中はキーボードの読み取りを許可してください。</translation>
+        <translation>Autorisez la lecture du clavier pendant l’enregistrement d’une macro.</translation>
     </message>
     <message>
         <source>The keyboard can no longer be read: the permission has ended.</source>
-        <translation>キーボードを読み取れなくなりました: 許可が無効になりました。</translation>
+        <translation>Le clavier ne peut plus être lu&#xa0;: l’autorisation a pris fin.</translation>
     </message>
     <message>
         <source>Another user&apos;s session may be in front, or the screen is locked.</source>
-        <translation>別のユーザーのセッションが前面にあるか、画面がロックされている可能性があります。</translation>
+        <translation>La session d’un autre utilisateur est peut-être au premier plan, ou l’écran est verrouillé.</translation>
     </message>
     <message>
         <source>The keyboard cannot be read: there is no system bus.</source>
-        <translation>キーボードを読み取れません: システムバスがありません。</translation>
+        <translation>Impossible de lire le clavier&#xa0;: il n’y a pas de bus système.</translation>
     </message>
     <message>
         <source>What it says stands in the system&apos;s journal: journalctl -u keyrill-access.</source>
-        <translation>サービスのメッセージはシステムのジャーナルで確認できます: journalctl -u keyrill-access。</translation>
+        <translation>Ses messages se trouvent dans le journal du système&#xa0;: journalctl -u keyrill-access.</translation>
     </message>
     <message>
         <source>The keyboard is no longer read: the service keyrill-access has ended.</source>
-        <translation>キーボードの読み取りが止まりました: サービス keyrill-access が終了しました。</translation>
+        <translation>Le clavier n’est plus lu&#xa0;: le service keyrill-access s’est arrêté.</translation>
     </message>
     <message>
         <source>Keyrill may not read the keyboard: permission was not given.</source>
-        <translation>Keyrill はキーボードを読み取れません: 許可が与えられませんでした。</translation>
+        <translation>Keyrill ne peut pas lire le clavier&#xa0;: l’autorisation n’a pas été accordée.</translation>
     </message>
     <message>
         <source>Record again and agree when you are asked for your password.</source>
-        <translation>もう一度記録し、パスワードを求められたら許可してください。</translation>
+        <translation>Relancez l’enregistrement et acceptez lorsque votre mot de passe vous est demandé.</translation>
     </message>
     <message>
         <source>Keyrill cannot read the keyboard: the service keyrill-access is not installed.</source>
-        <translation>Keyrill はキーボードを読み取れません: サービス keyrill-access がインストールされていません。</translation>
+        <translation>Keyrill ne peut pas lire le clavier&#xa0;: le service keyrill-access n’est pas installé.</translation>
     </message>
     <message>
         <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, tools/access install.</source>
-        <translation>パッケージ keyrill-wayland-access をインストールするか、Keyrill のソースから tools/access install を実行してください。</translation>
+        <translation>Installez le paquet keyrill-wayland-access ou, depuis les sources de Keyrill, exécutez tools/access install.</translation>
     </message>
     <message>
         <source>Keyrill cannot read the keyboard: the service keyrill-access does not work.</source>
-        <translation>Keyrill はキーボードを読み取れません: サービス keyrill-access が動作していません。</translation>
+        <translation>Keyrill ne peut pas lire le clavier&#xa0;: le service keyrill-access ne fonctionne pas.</translation>
     </message>
     <message>
         <source>A Wayland session shows this program nothing of what is typed in others.</source>
-        <translation>Wayland セッションでは、他のプログラムへの入力はこのプログラムにまったく見えません。</translation>
+        <translation>Une session Wayland ne montre à ce programme rien de ce qui est saisi dans les autres.</translation>
     </message>
     <message>
         <source>Record with keyrill itself, or use an X11 session.</source>
-        <translation>keyrill 自体で記録するか、X11 セッションを使ってください。</translation>
+        <translation>Enregistrez avec keyrill lui-même ou utilisez une session X11.</translation>
     </message>
 </context>
 <context>
     <name>Keys</name>
     <message>
         <source>This desktop lets no program press keys: no portal for it answers.</source>
-        <translation>このデスクトップではプログラムがキーを押せません: そのためのポータルが応答しません。</translation>
+        <translation>Ce bureau ne laisse aucun programme presser des touches&#xa0;: aucun portail prévu pour cela ne répond.</translation>
     </message>
     <message>
         <source>Install xdg-desktop-portal and the part of it that belongs to your desktop.</source>
-        <translation>xdg-desktop-portal と、お使いのデスクトップ用のバックエンドをインストールしてください。</translation>
+        <translation>Installez xdg-desktop-portal et la partie de celui-ci qui correspond à votre bureau.</translation>
     </message>
     <message>
         <source>The desktop was not allowed to let Keyrill press keys.</source>
-        <translation>デスクトップが Keyrill にキーを押させることは許可されませんでした。</translation>
+        <translation>Le bureau n’a pas été autorisé à laisser Keyrill presser des touches.</translation>
     </message>
     <message>
         <source>Play again, and agree when you are asked.</source>
-        <translation>もう一度再生し、尋ねられたら許可してください。</translation>
+        <translation>Exécutez la macro à nouveau et acceptez lorsque cela vous est demandé.</translation>
     </message>
     <message>
         <source>The desktop has not answered whether Keyrill may press keys.</source>
-        <translation>Keyrill がキーを押してもよいかどうか、デスクトップから応答がありません。</translation>
+        <translation>Le bureau n’a pas indiqué si Keyrill peut presser des touches.</translation>
     </message>
     <message>
         <source>Play again; if nothing asks you, log in again.</source>
-        <translation>もう一度再生してください。何も尋ねられない場合は、ログインし直してください。</translation>
+        <translation>Exécutez la macro à nouveau&#xa0;; si rien ne vous est demandé, fermez la session et rouvrez-la.</translation>
     </message>
     <message>
         <source>The desktop no longer lets Keyrill press keys.</source>
-        <translation>デスクトップが Keyrill にキーを押させなくなりました。</translation>
+        <translation>Le bureau ne laisse plus Keyrill presser des touches.</translation>
     </message>
     <message>
         <source>Play again; it may ask for your permission.</source>
-        <translation>もう一度再生してください。許可を求められることがあります。</translation>
+        <translation>Exécutez la macro à nouveau&#xa0;; votre autorisation vous sera peut-être demandée.</translation>
     </message>
     <message>
         <source>The power key cannot be pressed by a script.</source>
-        <translation>電源キーをスクリプトで押すことはできません。</translation>
+        <translation>Un script ne peut pas presser la touche d’alimentation.</translation>
     </message>
     <message>
         <source>Take key code 127 out of the script.</source>
-        <translation>スクリプトからキーコード 127 を取り除いてください。</translation>
+        <translation>Retirez le code de touche 127 du script.</translation>
     </message>
     <message>
         <source>The text to type is not UTF-8 at byte %1.</source>
         <extracomment>%1 is a number.</extracomment>
-        <translation>入力するテキストは、バイト %1 の位置で UTF-8 になっていません。</translation>
+        <translation>Le texte à saisir n’est pas de l’UTF-8 à l’octet %1.</translation>
     </message>
     <message>
         <source>Save the script as UTF-8.</source>
-        <translation>スクリプトを UTF-8 で保存してください。</translation>
+        <translation>Sauvegardez le script en UTF-8.</translation>
     </message>
     <message>
         <source>&quot;%1...&quot;</source>
         <extracomment>The beginning of a text that is longer, in quotation marks.</extracomment>
-        <translation>「%1...」</translation>
+        <translation>«&#xa0;%1...&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;%1&quot;</source>
         <extracomment>A text in quotation marks.</extracomment>
-        <translation>「%1」</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;%1&quot; (%2)</source>
         <extracomment>%1 is a character, %2 its code: U+00E9</extracomment>
-        <translation>「%1」(%2)</translation>
+        <translation>«&#xa0;%1&#xa0;» (%2)</translation>
     </message>
     <message>
         <source>The character %1 cannot be typed with the keyboard layout that is in force.</source>
-        <translation>文字 %1 は、現在のキーボードレイアウトでは入力できません。</translation>
+        <translation>Le caractère %1 ne peut pas être saisi avec la disposition de clavier active.</translation>
     </message>
     <message>
         <source>Take it out of the text, or switch to a layout that has it before you play.</source>
-        <translation>テキストから取り除くか、再生する前に、その文字があるレイアウトに切り替えてください。</translation>
+        <translation>Retirez-le du texte ou passez à une disposition qui le contient avant d’exécuter la macro.</translation>
     </message>
     <message>
         <source>The character %1 cannot be typed with your keyboard layouts.</source>
-        <translation>文字 %1 は、お使いのキーボードレイアウトでは入力できません。</translation>
+        <translation>Le caractère %1 ne peut pas être saisi avec vos dispositions de clavier.</translation>
     </message>
     <message>
         <source>Take it out of the text, or add a layout that has it.</source>
-        <translation>テキストから取り除くか、その文字があるレイアウトを追加してください。</translation>
+        <translation>Retirez-le du texte ou ajoutez une disposition qui le contient.</translation>
     </message>
     <message>
         <source>The character %1 cannot be typed with this keyboard layout.</source>
-        <translation>文字 %1 は、このキーボードレイアウトでは入力できません。</translation>
+        <translation>Le caractère %1 ne peut pas être saisi avec cette disposition de clavier.</translation>
     </message>
     <message>
         <source>Take it out of the text, or set a layout that has it.</source>
-        <translation>テキストから取り除くか、その文字があるレイアウトを設定してください。</translation>
+        <translation>Retirez-le du texte ou définissez une disposition qui le contient.</translation>
     </message>
     <message>
         <source>The keymap for typing could not be made.</source>
-        <translation>入力用のキーマップを作成できませんでした。</translation>
+        <translation>La carte de clavier pour la saisie n’a pas pu être créée.</translation>
     </message>
     <message>
         <source>This compositor lets no program press keys.</source>
-        <translation>このコンポジターではプログラムがキーを押せません。</translation>
+        <translation>Ce compositeur ne laisse aucun programme presser des touches.</translation>
     </message>
     <message>
         <source>Use a compositor with virtual keyboards, such as sway, or an X11 session.</source>
-        <translation>sway など仮想キーボードのあるコンポジターか、X11 セッションを使ってください。</translation>
+        <translation>Utilisez un compositeur avec claviers virtuels, comme sway, ou une session X11.</translation>
     </message>
     <message>
         <source>A script is running already.</source>
-        <translation>すでにスクリプトを実行中です。</translation>
+        <translation>Un script est déjà en cours d’exécution.</translation>
     </message>
     <message>
         <source>Wait for its end.</source>
-        <translation>終わるまでお待ちください。</translation>
+        <translation>Attendez qu’il se termine.</translation>
     </message>
     <message>
         <source>The key %1 types no character.</source>
-        <translation>キー %1 で入力できる文字はありません。</translation>
+        <translation>La touche %1 ne produit aucun caractère.</translation>
     </message>
     <message>
         <source>A Wayland session has no bell.</source>
-        <translation>Wayland セッションにはベルがありません。</translation>
+        <translation>Une session Wayland n’a pas de signal sonore.</translation>
     </message>
     <message>
         <source>Take the beep out of the script.</source>
-        <translation>スクリプトからビープ音を取り除いてください。</translation>
+        <translation>Retirez le signal sonore du script.</translation>
     </message>
     <message>
         <source>KDE lets no program press keys: its portal does not answer.</source>
-        <translation>KDE ではプログラムがキーを押せません: ポータルが応答しません。</translation>
+        <translation>KDE ne laisse aucun programme presser des touches&#xa0;: son portail ne répond pas.</translation>
     </message>
     <message>
         <source>Install xdg-desktop-portal-kde, or use an X11 session.</source>
-        <translation>xdg-desktop-portal-kde をインストールするか、X11 セッションを使ってください。</translation>
+        <translation>Installez xdg-desktop-portal-kde ou utilisez une session X11.</translation>
     </message>
     <message>
         <source>Use a compositor with virtual keyboards, such as sway, a desktop whose portal presses keys, such as KDE and GNOME, or an X11 session.</source>
-        <translation>sway など仮想キーボードのあるコンポジターか、KDE や GNOME などポータルでキーを押せるデスクトップか、X11 セッションを使ってください。</translation>
+        <translation>Utilisez un compositeur avec claviers virtuels, comme sway, un bureau dont le portail presse des touches, comme KDE ou GNOME, ou une session X11.</translation>
     </message>
     <message>
         <source>The keyboard layout was changed while text was typed, which may have arrived as something else: %1.</source>
-        <translation>テキストの入力中にキーボードレイアウトが変更されたため、違う文字として届いた可能性があります: %1。</translation>
+        <translation>La disposition de clavier a changé pendant la saisie d’un texte, qui est peut-être arrivé sous une autre forme&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Play it again when the layout stays as it is.</source>
-        <translation>レイアウトが変わらない状態で、もう一度再生してください。</translation>
+        <translation>Exécutez la macro à nouveau quand la disposition ne change plus.</translation>
     </message>
     <message>
         <source>Another program holds the keyboard, so that no keys can be pressed.</source>
-        <translation>別のプログラムがキーボードを占有しているため、キーを押せません。</translation>
+        <translation>Un autre programme a capturé le clavier, si bien qu’aucune touche ne peut être pressée.</translation>
     </message>
     <message>
         <source>Close the menu, the question or the screen lock that is open, and play again.</source>
-        <translation>開いているメニューや質問を閉じるか、画面のロックを解除してから、もう一度再生してください。</translation>
+        <translation>Fermez le menu, la question ou le verrouillage d’écran en cours, puis exécutez la macro à nouveau.</translation>
     </message>
     <message>
         <source>The X server refuses to put characters on unused keys.</source>
-        <translation>使われていないキーへの文字の割り当てを X サーバーが拒否しました。</translation>
+        <translation>Le serveur X refuse d’attribuer des caractères à des touches inutilisées.</translation>
     </message>
     <message>
         <source>Use characters of the keyboard layout, or set another layout.</source>
-        <translation>キーボードレイアウトにある文字を使うか、別のレイアウトを設定してください。</translation>
+        <translation>Utilisez des caractères de la disposition de clavier ou définissez une autre disposition.</translation>
     </message>
     <message>
         <source>The program that is typed into reads nothing; not typed: %1.</source>
-        <translation>入力先のプログラムが何も読み取りません。入力されなかった内容: %1。</translation>
+        <translation>Le programme destinataire de la saisie ne lit rien&#xa0;; non saisi&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Play it again when the program reads its keys.</source>
-        <translation>プログラムがキーを読み取るようになったら、もう一度再生してください。</translation>
+        <translation>Exécutez la macro à nouveau quand le programme lit ses touches.</translation>
     </message>
     <message>
         <source>The program that was typed into has not read all of it.</source>
-        <translation>入力先のプログラムが、入力をすべては読み取っていません。</translation>
+        <translation>Le programme destinataire de la saisie n’a pas tout lu.</translation>
     </message>
     <message>
         <source>See whether it hangs; what it reads later may lack characters.</source>
-        <translation>プログラムが応答しなくなっていないか確認してください。後で読み取られる内容では文字が欠けることがあります。</translation>
+        <translation>Vérifiez s’il est bloqué&#xa0;; il peut manquer des caractères dans ce qu’il lira plus tard.</translation>
     </message>
     <message>
         <source>Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.</source>
-        <translation>押し続けたキーのリピートを記録できません: X サーバーに RECORD 拡張機能がありません。</translation>
+        <translation>Les répétitions automatiques des touches maintenues ne peuvent pas être enregistrées&#xa0;: le serveur X n’a pas d’extension RECORD.</translation>
     </message>
     <message>
         <source>A held key is recorded as one press. Switch the extension on in the settings of the X server.</source>
-        <translation>押し続けたキーは 1 回の押下として記録されます。X サーバーの設定で拡張機能を有効にしてください。</translation>
+        <translation>Une touche maintenue est enregistrée comme un seul appui. Activez l’extension dans les réglages du serveur X.</translation>
     </message>
     <message>
         <source>Auto-repeats of held keys can no longer be recorded: the X server has ended it.</source>
-        <translation>押し続けたキーのリピートを記録できなくなりました: X サーバーが記録を終了しました。</translation>
+        <translation>Les répétitions automatiques des touches maintenues ne peuvent plus être enregistrées&#xa0;: le serveur X y a mis fin.</translation>
     </message>
 </context>
 <context>
     <name>KeysView</name>
     <message>
         <source>This is a script of its own: line %1 cannot be changed here. What it would press is shown; change it under Script.</source>
-        <translation>これは独自のスクリプトです。%1 行目はここでは変更できません。押されるキーを表示しています。変更は「スクリプト」で行います。</translation>
+        <translation>Ceci est un script personnalisé&#xa0;: la ligne %1 ne peut pas être modifiée ici. Les touches qu’il presserait sont affichées&#xa0;; modifiez-le sous «&#xa0;Script&#xa0;».</translation>
     </message>
     <message>
         <source>Keys of the macro</source>
-        <translation>マクロのキー</translation>
+        <translation>Touches de la macro</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -1728,75 +1728,75 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Record Keys</source>
-        <translation>キーを記録</translation>
+        <translation>Ajouter des touches</translation>
     </message>
     <message>
         <source>Record keys behind the selected step</source>
-        <translation>選択したステップの後にキーを記録します</translation>
+        <translation>Enregistrer des touches après l’étape sélectionnée</translation>
     </message>
     <message>
         <source>Add Pause</source>
-        <translation>待ち時間を追加</translation>
+        <translation>Ajouter une pause</translation>
     </message>
     <message>
         <source>A pause behind the selected step</source>
-        <translation>選択したステップの後に待ち時間を入れます</translation>
+        <translation>Une pause après l’étape sélectionnée</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation>変更</translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Change the text, the pause or how often a key is pressed</source>
-        <translation>テキスト、待ち時間、キーを押す回数を変更します</translation>
+        <translation>Modifier le texte, la pause ou le nombre d’appuis sur une touche</translation>
     </message>
     <message>
         <source>Repeat</source>
-        <translation>繰り返す</translation>
+        <translation>Répéter</translation>
     </message>
     <message>
         <source>The selected steps once more</source>
-        <translation>選択したステップをもう一度追加します</translation>
+        <translation>Répéter les étapes sélectionnées</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation>上へ</translation>
+        <translation>Haut</translation>
     </message>
     <message>
         <source>Move up</source>
-        <translation>上へ移動</translation>
+        <translation>Déplacer vers le haut</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation>下へ</translation>
+        <translation>Bas</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation>下へ移動</translation>
+        <translation>Déplacer vers le bas</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>削除</translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Remove the selected steps</source>
-        <translation>選択したステップを削除します</translation>
+        <translation>Retirer les étapes sélectionnées</translation>
     </message>
     <message>
         <source>Convert to Text</source>
-        <translation>テキストに変換</translation>
+        <translation>En texte</translation>
     </message>
     <message>
         <source>Type the same under every keyboard layout</source>
-        <translation>どのキーボードレイアウトでも同じ文字を入力します</translation>
+        <translation>Saisir la même chose quelle que soit la disposition de clavier</translation>
     </message>
     <message>
         <source>Convert to Keys</source>
-        <translation>キーに変換</translation>
+        <translation>En touches</translation>
     </message>
     <message>
         <source>Press the keys of the present keyboard layout</source>
-        <translation>現在のキーボードレイアウトのキーを押します</translation>
+        <translation>Presser les touches de la disposition de clavier actuelle</translation>
     </message>
 </context>
 <context>
@@ -1804,72 +1804,72 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>No key of the present keyboard layout types &quot;%1&quot;.</source>
         <extracomment>%1 is a character.</extracomment>
-        <translation>現在のキーボードレイアウトには「%1」を入力できるキーがありません。</translation>
+        <translation>Aucune touche de la disposition de clavier actuelle ne produit «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Convert the keys to text, which types any character.</source>
-        <translation>キーをテキストに変換してください。テキストならどの文字でも入力できます。</translation>
+        <translation>Convertissez les touches en texte, ce qui permet de saisir n’importe quel caractère.</translation>
     </message>
     <message>
         <source>GNOME lets no program switch the keyboard layout.</source>
-        <translation>GNOME ではプログラムがキーボードレイアウトを切り替えられません。</translation>
+        <translation>GNOME ne laisse aucun programme changer de disposition de clavier.</translation>
     </message>
     <message>
         <source>The desktop has no keyboard layout of that number.</source>
-        <translation>デスクトップにその番号のキーボードレイアウトはありません。</translation>
+        <translation>Le bureau n’a pas de disposition de clavier portant ce numéro.</translation>
     </message>
     <message>
         <source>This desktop lets no program switch the keyboard layout.</source>
-        <translation>このデスクトップではプログラムがキーボードレイアウトを切り替えられません。</translation>
+        <translation>Ce bureau ne laisse aucun programme changer de disposition de clavier.</translation>
     </message>
     <message>
         <source>The keyboard layout has no key for the third level (AltGr).</source>
-        <translation>キーボードレイアウトに第 3 レベル (AltGr) のキーがありません。</translation>
+        <translation>La disposition de clavier n’a pas de touche pour le niveau 3 (AltGr).</translation>
     </message>
     <message>
         <source>The keyboard layout has no key for the fifth level.</source>
-        <translation>キーボードレイアウトに第 5 レベルのキーがありません。</translation>
+        <translation>La disposition de clavier n’a pas de touche pour le niveau 5.</translation>
     </message>
     <message>
         <source>The keyboard layout has no key for %1.</source>
         <extracomment>%1 is a modifier: Super</extracomment>
-        <translation>キーボードレイアウトに %1 のキーがありません。</translation>
+        <translation>La disposition de clavier n’a pas de touche pour %1.</translation>
     </message>
     <message>
         <source>Choose a keyboard layout that has one.</source>
-        <translation>そのキーがあるキーボードレイアウトを選択してください。</translation>
+        <translation>Choisissez une disposition de clavier qui en a une.</translation>
     </message>
     <message>
         <source>The keyboard has no layout %1.</source>
         <extracomment>%1 is a number.</extracomment>
-        <translation>キーボードにレイアウト %1 がありません。</translation>
+        <translation>Le clavier n’a pas de disposition %1.</translation>
     </message>
     <message>
         <source>Add it to the keyboard layouts, or record the macro again.</source>
-        <translation>キーボードレイアウトに追加するか、マクロを記録し直してください。</translation>
+        <translation>Ajoutez-la aux dispositions de clavier ou enregistrez la macro à nouveau.</translation>
     </message>
     <message>
         <source>The keymap of the X server cannot be read.</source>
-        <translation>X サーバーのキーマップを読み取れません。</translation>
+        <translation>Impossible de lire la carte de clavier du serveur X.</translation>
     </message>
     <message>
         <source>Set a keyboard layout, or log in again.</source>
-        <translation>キーボードレイアウトを設定するか、ログインし直してください。</translation>
+        <translation>Définissez une disposition de clavier, ou fermez la session et rouvrez-la.</translation>
     </message>
 </context>
 <context>
     <name>LibraryController</name>
     <message>
         <source>&quot;%1&quot; was not played</source>
-        <translation>「%1」は再生されませんでした</translation>
+        <translation>La macro «&#xa0;%1&#xa0;» n’a pas été exécutée</translation>
     </message>
     <message>
         <source>Hot keys of macros</source>
-        <translation>マクロのショートカット</translation>
+        <translation>Raccourcis clavier des macros</translation>
     </message>
     <message>
         <source>The history</source>
-        <translation>履歴</translation>
+        <translation>L’historique</translation>
     </message>
 </context>
 <context>
@@ -1877,84 +1877,84 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>The file %1 cannot be removed: %2</source>
         <extracomment>%2 is why, in the system&apos;s words.</extracomment>
-        <translation>ファイル %1 を削除できません: %2</translation>
+        <translation>Impossible de supprimer le fichier %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Check who may write in its folder.</source>
-        <translation>そのフォルダーに書き込めるユーザーを確認してください。</translation>
+        <translation>Vérifiez qui peut écrire dans son dossier.</translation>
     </message>
     <message>
         <source>A program whose path has a percent sign cannot be started at login: %1</source>
         <extracomment>%1 is the path.</extracomment>
-        <translation>パスにパーセント記号が含まれるプログラムは、ログイン時に起動できません: %1</translation>
+        <translation>Un programme dont le chemin contient un signe pour cent ne peut pas être lancé à l’ouverture de session&#xa0;: %1</translation>
     </message>
     <message>
         <source>Move the program to a folder without one.</source>
-        <translation>パスにパーセント記号が含まれないフォルダーにプログラムを移動してください。</translation>
+        <translation>Déplacez le programme dans un dossier dont le chemin n’en contient pas.</translation>
     </message>
     <message>
         <source>A program whose path is not UTF-8 cannot be started at login: %1</source>
         <extracomment>%1 is the path.</extracomment>
-        <translation>パスが UTF-8 ではないプログラムは、ログイン時に起動できません: %1</translation>
+        <translation>Un programme dont le chemin n’est pas en UTF-8 ne peut pas être lancé à l’ouverture de session&#xa0;: %1</translation>
     </message>
     <message>
         <source>Move the program to another folder.</source>
-        <translation>プログラムを別のフォルダーに移動してください。</translation>
+        <translation>Déplacez le programme dans un autre dossier.</translation>
     </message>
 </context>
 <context>
     <name>MacroCalls</name>
     <message>
         <source>Keyrill does not answer.</source>
-        <translation>Keyrill が応答しません。</translation>
+        <translation>Keyrill ne répond pas.</translation>
     </message>
     <message>
         <source>Perhaps its macro folder cannot be reached.</source>
-        <translation>マクロフォルダーにアクセスできないのかもしれません。</translation>
+        <translation>Son dossier des macros est peut-être inaccessible.</translation>
     </message>
 </context>
 <context>
     <name>MacroEditor</name>
     <message>
         <source>&amp;Keys</source>
-        <translation>キー(&amp;K)</translation>
+        <translation>&amp;Touches</translation>
     </message>
     <message>
         <source>S&amp;cript</source>
-        <translation>スクリプト(&amp;C)</translation>
+        <translation>Sc&amp;ript</translation>
     </message>
 </context>
 <context>
     <name>MacroFilePanel</name>
     <message>
         <source>Keyrill macros (*.%1)</source>
-        <translation>Keyrill マクロ (*.%1)</translation>
+        <translation>Macros Keyrill (*.%1)</translation>
     </message>
     <message>
         <source>Save Macro</source>
-        <translation>マクロを保存</translation>
+        <translation>Sauvegarder la macro</translation>
     </message>
     <message>
         <source>Load Macro</source>
-        <translation>マクロを読み込む</translation>
+        <translation>Charger une macro</translation>
     </message>
     <message>
         <source>This name is too long for a file.</source>
-        <translation>この名前はファイル名としては長すぎます。</translation>
+        <translation>Ce nom est trop long pour un fichier.</translation>
     </message>
 </context>
 <context>
     <name>MacroList</name>
     <message>
         <source>The folder %1 does not answer.</source>
-        <translation>フォルダー %1 が応答しません。</translation>
+        <translation>Le dossier %1 ne répond pas.</translation>
     </message>
 </context>
 <context>
     <name>MacroListModel</name>
     <message>
         <source>Group %1</source>
-        <translation>グループ %1</translation>
+        <translation>Groupe %1</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -1963,30 +1963,30 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>%1, not saved</source>
-        <translation>%1、未保存</translation>
+        <translation>%1, non sauvegardé</translation>
     </message>
 </context>
 <context>
     <name>MacroSettingsRow</name>
     <message>
         <source>Hot key</source>
-        <translation>ショートカット</translation>
+        <translation>Raccourci clavier</translation>
     </message>
     <message>
         <source>&amp;Hot key:</source>
-        <translation>ショートカット(&amp;H):</translation>
+        <translation>Raccourc&amp;i&#xa0;:</translation>
     </message>
     <message>
         <source>Times</source>
-        <translation>回数</translation>
+        <translation>Exécutions</translation>
     </message>
     <message>
         <source>Unt&amp;il stopped</source>
-        <translation>停止するまで(&amp;I)</translation>
+        <translation>&amp;Jusqu’à l’arrêt</translation>
     </message>
     <message>
         <source>&amp;Times:</source>
-        <translation>回数(&amp;T):</translation>
+        <translation>E&amp;xécutions&#xa0;:</translation>
     </message>
     <message>
         <source> ×</source>
@@ -1995,15 +1995,15 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>The pauses of the macro are divided by this</source>
-        <translation>マクロの待ち時間をこの数で割ります</translation>
+        <translation>Les pauses de la macro sont divisées par ce nombre</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation>速さ</translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>Sp&amp;eed:</source>
-        <translation>速さ(&amp;E):</translation>
+        <translation>&amp;Vitesse&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -2014,52 +2014,54 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Pause %1 s</source>
-        <translation>待ち時間 %1 秒</translation>
+        <translation>Pause %1&#xa0;s</translation>
     </message>
     <message>
         <source>Text: %1</source>
-        <translation>テキスト: %1</translation>
+        <translation>Texte&#xa0;: %1</translation>
     </message>
     <message>
         <source>Hold %1</source>
         <extracomment>a key that goes down and stays there</extracomment>
-        <translation>%1 を押したままにする</translation>
+        <translation>Maintenir %1</translation>
     </message>
     <message>
         <source>Let go of %1</source>
-        <translation>%1 を離す</translation>
+        <translation>Relâcher %1</translation>
     </message>
     <message>
         <source>Ask: %1</source>
         <extracomment>a dialog of a script, with its question</extracomment>
-        <translation>質問: %1</translation>
+        <translation>Demander&#xa0;: %1</translation>
     </message>
     <message>
         <source>Tell: %1</source>
-        <translation>通知: %1</translation>
+        <translation>Notifier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Type %1</source>
-        <translation>%1 を入力</translation>
+        <translation>Saisir %1</translation>
     </message>
     <message>
         <source>Press %1</source>
-        <translation>%1 を押す</translation>
+        <translation>Appuyer sur %1</translation>
     </message>
     <message numerus="yes">
         <source>Press %1 %Ln times</source>
         <translation>
-            <numerusform>%1 を %Ln 回押す</numerusform>
+            <numerusform>Appuyer sur %1 %Ln fois</numerusform>
+            <numerusform>Appuyer sur %1 %Ln fois</numerusform>
         </translation>
     </message>
     <message>
         <source>Wait %1 seconds</source>
-        <translation>%1 秒待つ</translation>
+        <translation>Attendre %1 secondes</translation>
     </message>
     <message numerus="yes">
         <source>Wait %1 seconds, %Ln times</source>
         <translation>
-            <numerusform>%1 秒待つ、%Ln 回</numerusform>
+            <numerusform>Attendre %1 secondes, %Ln fois</numerusform>
+            <numerusform>Attendre %1 secondes, %Ln fois</numerusform>
         </translation>
     </message>
 </context>
@@ -2067,239 +2069,239 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <name>MacrosDesk</name>
     <message>
         <source>Play has the latest macro until there is another.</source>
-        <translation>「再生」は、次のマクロができるまで最新のマクロを再生します。</translation>
+        <translation>«&#xa0;Exécuter&#xa0;» utilise la dernière macro jusqu’à ce qu’il y en ait une autre.</translation>
     </message>
     <message>
         <source>What is not saved would not outlive a crash. %1</source>
-        <translation>保存していない内容はクラッシュすると失われます。%1</translation>
+        <translation>Ce qui n’est pas sauvegardé ne survivrait pas à un plantage. %1</translation>
     </message>
     <message>
         <source>The macro is still being read: its folder does not answer.</source>
-        <translation>マクロをまだ読み込み中です: フォルダーが応答しません。</translation>
+        <translation>La macro est encore en cours de lecture&#xa0;: son dossier ne répond pas.</translation>
     </message>
     <message>
         <source>The file of this macro is gone. If you save, it is there again.</source>
-        <translation>このマクロのファイルがなくなりました。保存すると再び作られます。</translation>
+        <translation>Le fichier de cette macro a disparu. Si vous sauvegardez, il sera recréé.</translation>
     </message>
     <message>
         <source>Another program has deleted or moved the macro.</source>
-        <translation>別のプログラムがこのマクロを削除または移動しました。</translation>
+        <translation>Un autre programme a supprimé ou déplacé la macro.</translation>
     </message>
     <message>
         <source>Another program has changed this macro. If you save, your text replaces it.</source>
-        <translation>別のプログラムがこのマクロを変更しました。保存すると、あなたのテキストで置き換わります。</translation>
+        <translation>Un autre programme a modifié cette macro. Si vous sauvegardez, votre texte remplacera cette modification.</translation>
     </message>
     <message>
         <source>What was not saved is there again: %1.</source>
-        <translation>保存していなかった内容を復元しました: %1。</translation>
+        <translation>Ce qui n’était pas sauvegardé a été récupéré&#xa0;: %1.</translation>
     </message>
     <message>
         <source>, </source>
-        <translation>、</translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>The recording is forgotten.</source>
-        <translation>記録を消去しました。</translation>
+        <translation>L’enregistrement a été supprimé de l’historique.</translation>
     </message>
     <message>
         <source>All recordings are forgotten.</source>
-        <translation>すべての記録を消去しました。</translation>
+        <translation>Tous les enregistrements ont été supprimés de l’historique.</translation>
     </message>
     <message>
         <source>Saved.</source>
-        <translation>保存しました。</translation>
+        <translation>Sauvegardé.</translation>
     </message>
     <message>
         <source>New Macro</source>
-        <translation>新しいマクロ</translation>
+        <translation>Nouvelle macro</translation>
     </message>
     <message>
         <source>The macro is in the trash.</source>
-        <translation>マクロをゴミ箱に移動しました。</translation>
+        <translation>La macro est dans la corbeille.</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation>元に戻す</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>The macro cannot be played. Line %1: %2</source>
         <extracomment>of a script; what is wrong</extracomment>
-        <translation>マクロを再生できません。%1 行目: %2</translation>
+        <translation>La macro ne peut pas être exécutée. Ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The macro is deleted.</source>
-        <translation>マクロを削除しました。</translation>
+        <translation>La macro est supprimée.</translation>
     </message>
 </context>
 <context>
     <name>MacrosInterface</name>
     <message>
         <source>There is no option &quot;%1&quot;.</source>
-        <translation>オプション「%1」はありません。</translation>
+        <translation>L’option «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>There are: %1.</source>
-        <translation>使えるもの: %1。</translation>
+        <translation>Options possibles&#xa0;: %1.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no file of this machine.</source>
-        <translation>「%1」はこのコンピューターのファイルではありません。</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier de cet ordinateur.</translation>
     </message>
     <message>
         <source>It begins with file:///.</source>
-        <translation>file:/// で始まります。</translation>
+        <translation>Son adresse doit commencer par file:///.</translation>
     </message>
 </context>
 <context>
     <name>MacrosWindow</name>
     <message>
         <source>Macros</source>
-        <translation>マクロ</translation>
+        <translation>Macros</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation>検索</translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Search macros</source>
-        <translation>マクロを検索</translation>
+        <translation>Rechercher des macros</translation>
     </message>
     <message>
         <source>&amp;Record New</source>
-        <translation>新しく記録(&amp;R)</translation>
+        <translation>Nouvel &amp;enregistrement</translation>
     </message>
     <message>
         <source>Record a new macro</source>
-        <translation>新しいマクロを記録します</translation>
+        <translation>Enregistrer une nouvelle macro</translation>
     </message>
     <message>
         <source>Keep Recordin&amp;g...</source>
-        <translation>記録を残す(&amp;G)...</translation>
+        <translation>C&amp;onserver un enregistrement...</translation>
     </message>
     <message>
         <source>Keep a recording of the history as a macro, by a name</source>
-        <translation>履歴の記録に名前を付け、マクロとして残します</translation>
+        <translation>Conserver un enregistrement de l’historique comme macro, sous un nom</translation>
     </message>
     <message>
         <source>&amp;Forget</source>
-        <translation>消去(&amp;F)</translation>
+        <translation>Supprimer de l’&amp;historique</translation>
     </message>
     <message>
         <source>Forget &amp;All</source>
-        <translation>すべて消去(&amp;A)</translation>
+        <translation>&amp;Tout supprimer</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation>再生(&amp;P)</translation>
+        <translation>Exé&amp;cuter</translation>
     </message>
     <message>
         <source>Play into the window that you were in before, after three seconds</source>
-        <translation>直前に使っていたウィンドウで、3 秒後に再生します</translation>
+        <translation>Exécuter après trois secondes dans la fenêtre où vous étiez auparavant</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation>保存(&amp;S)</translation>
+        <translation>&amp;Sauvegarder</translation>
     </message>
     <message>
         <source>Save the macro (%1)</source>
-        <translation>マクロを保存します (%1)</translation>
+        <translation>Sauvegarder la macro (%1)</translation>
     </message>
     <message>
         <source>D&amp;uplicate</source>
-        <translation>複製(&amp;U)</translation>
+        <translation>&amp;Dupliquer</translation>
     </message>
     <message>
         <source>Make a copy of the macro</source>
-        <translation>マクロのコピーを作ります</translation>
+        <translation>Faire une copie de la macro</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>名前の変更(&amp;N)</translation>
+        <translation>Re&amp;nommer</translation>
     </message>
     <message>
         <source>Give the macro another name (F2)</source>
-        <translation>マクロに別の名前を付けます (F2)</translation>
+        <translation>Donner un autre nom à la macro (F2)</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation>削除(&amp;D)</translation>
+        <translation>Su&amp;pprimer</translation>
     </message>
     <message>
         <source>Put the macro into the trash (Delete)</source>
-        <translation>マクロをゴミ箱に移動します (Delete)</translation>
+        <translation>Mettre la macro à la corbeille (Suppr)</translation>
     </message>
     <message>
         <source>Stop (Escape)</source>
-        <translation>停止 (Esc)</translation>
+        <translation>Arrêter (Échap)</translation>
     </message>
     <message>
         <source>Do not play</source>
-        <translation>再生しません</translation>
+        <translation>Ne pas exécuter</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation>削除</translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation>名前の変更</translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation>複製</translation>
+        <translation>Dupliquer</translation>
     </message>
     <message>
         <source>The macro folder is still being read.</source>
-        <translation>マクロフォルダーをまだ読み込み中です。</translation>
+        <translation>Le dossier des macros est encore en cours de lecture.</translation>
     </message>
     <message>
         <source>There is no macro yet. Record one, or put a macro file into the macro folder.</source>
-        <translation>マクロはまだありません。記録するか、マクロフォルダーにマクロファイルを入れてください。</translation>
+        <translation>Il n’y a pas encore de macro. Enregistrez-en une ou placez un fichier de macro dans le dossier des macros.</translation>
     </message>
     <message>
         <source>Plays in %1 s...</source>
-        <translation>%1 秒後に再生...</translation>
+        <translation>Exécution dans %1&#xa0;s...</translation>
     </message>
 </context>
 <context>
     <name>MultiplePlayWindow</name>
     <message>
         <source>Play Multiple Times</source>
-        <translation>複数回再生</translation>
+        <translation>Exécuter plusieurs fois</translation>
     </message>
     <message>
         <source>&amp;Times to play:</source>
-        <translation>再生回数(&amp;T):</translation>
+        <translation>Nombre de &amp;fois&#xa0;:</translation>
     </message>
     <message>
         <source>Times to play</source>
-        <translation>再生回数</translation>
+        <translation>Nombre de fois</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation>再生(&amp;P)</translation>
+        <translation>Exé&amp;cuter</translation>
     </message>
     <message>
         <source>No macro yet</source>
-        <translation>マクロはまだありません</translation>
+        <translation>Pas encore de macro</translation>
     </message>
 </context>
 <context>
     <name>NoticeLine</name>
     <message>
         <source>Warning</source>
-        <translation>警告</translation>
+        <translation>Avertissement</translation>
     </message>
 </context>
 <context>
     <name>OverlayDesk</name>
     <message>
         <source>Waiting for your permission</source>
-        <translation>許可を待っています</translation>
+        <translation>En attente de votre autorisation</translation>
     </message>
     <message>
         <source>Not recorded: keyboard held</source>
-        <translation>記録されません: キーボード使用中</translation>
+        <translation>Non enregistré&#xa0;: clavier capturé</translation>
     </message>
 </context>
 <context>
@@ -2307,288 +2309,288 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Never</source>
         <extracomment>whether pauses are recorded: never, as long as they were when typed, or not longer than a number of seconds</extracomment>
-        <translation>しない</translation>
+        <translation>Jamais</translation>
     </message>
     <message>
         <source>As typed</source>
-        <translation>入力どおり</translation>
+        <translation>Telles quelles</translation>
     </message>
     <message>
         <source>At most</source>
         <extracomment>stands before a number of seconds</extracomment>
-        <translation>最長</translation>
+        <translation>Au plus</translation>
     </message>
     <message>
         <source>Record pauses</source>
-        <translation>待ち時間の記録</translation>
+        <translation>Enregistrer les pauses</translation>
     </message>
     <message>
         <source> s</source>
-        <translation> 秒</translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Longest pause in seconds</source>
-        <translation>最長の待ち時間 (秒)</translation>
+        <translation>Pause la plus longue en secondes</translation>
     </message>
     <message>
         <source>Record p&amp;auses:</source>
-        <translation>待ち時間の記録(&amp;A):</translation>
+        <translation>Enregistrer les pa&amp;uses&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>PlayRequests</name>
     <message>
         <source>There are several macros called &quot;%1&quot;.</source>
-        <translation>「%1」というマクロは複数あります。</translation>
+        <translation>Il y a plusieurs macros nommées «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Say which one: %1.</source>
-        <translation>どれかを指定してください: %1。</translation>
+        <translation>Précisez laquelle&#xa0;: %1.</translation>
     </message>
     <message>
         <source>keyrill --list lists all.</source>
-        <translation>keyrill --list ですべて表示できます。</translation>
+        <translation>keyrill --list en donne la liste.</translation>
     </message>
     <message>
         <source>There is no macro called &quot;%1&quot;.</source>
-        <translation>「%1」というマクロはありません。</translation>
+        <translation>Il n’y a pas de macro nommée «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>There is no macro to play yet.</source>
-        <translation>再生するマクロはまだありません。</translation>
+        <translation>Il n’y a pas encore de macro à exécuter.</translation>
     </message>
     <message>
         <source>What Play plays cannot be played: its script is wrong in line %1.</source>
-        <translation>「再生」の対象を再生できません: スクリプトの %1 行目に誤りがあります。</translation>
+        <translation>La macro de la commande «&#xa0;Exécuter&#xa0;» ne peut pas être exécutée&#xa0;: son script est erroné à la ligne %1.</translation>
     </message>
     <message>
         <source>Play in the menu tells more.</source>
-        <translation>詳しくはメニューの「再生」で確認できます。</translation>
+        <translation>«&#xa0;Exécuter&#xa0;» dans le menu en dit plus.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be played: its script is wrong in line %2.</source>
-        <translation>「%1」を再生できません: スクリプトの %2 行目に誤りがあります。</translation>
+        <translation>Impossible d’exécuter «&#xa0;%1&#xa0;»&#xa0;: son script est erroné à la ligne %2.</translation>
     </message>
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
-        <translation>詳しくは keyrill-script check &quot;%1&quot; で確認できます。</translation>
+        <translation>keyrill-script check &quot;%1&quot; en dit plus.</translation>
     </message>
     <message>
         <source>Similar: %1.</source>
-        <translation>似た名前: %1。</translation>
+        <translation>Noms proches&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>PlayWords</name>
     <message>
         <source>&quot;%1&quot; is not how many times a macro can be played.</source>
-        <translation>「%1」はマクロの再生回数として使えません。</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre d’exécutions valide.</translation>
     </message>
     <message>
         <source>It is a whole number from 1 on, or until-stopped.</source>
-        <translation>1 以上の整数か until-stopped です。</translation>
+        <translation>Indiquez un nombre entier à partir de 1, ou until-stopped.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not how fast a macro can be played.</source>
-        <translation>「%1」はマクロの再生の速さとして使えません。</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une vitesse valide.</translation>
     </message>
     <message>
         <source>It is a number from 0.25 to 4, with a point: 1.5.</source>
-        <translation>0.25 から 4 までの数で、小数点はピリオドです: 1.5。</translation>
+        <translation>Indiquez un nombre de 0.25 à 4, avec un point décimal&#xa0;: 1.5.</translation>
     </message>
     <message>
         <source>The name of the macro is empty.</source>
-        <translation>マクロの名前が空です。</translation>
+        <translation>Le nom de la macro est vide.</translation>
     </message>
     <message>
         <source>keyrill --list prints those that there are.</source>
-        <translation>keyrill --list で一覧を表示できます。</translation>
+        <translation>keyrill --list affiche ceux qui existent.</translation>
     </message>
 </context>
 <context>
     <name>PreferencesPanel</name>
     <message>
         <source>Keyrill Preferences</source>
-        <translation>Keyrill の設定</translation>
+        <translation>Préférences de Keyrill</translation>
     </message>
     <message>
         <source>Check &amp;Now</source>
-        <translation>今すぐ確認(&amp;N)</translation>
+        <translation>Rechercher mai&amp;ntenant</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>閉じる(&amp;C)</translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>Shortcuts</source>
-        <translation>ショートカット</translation>
+        <translation>Raccourcis</translation>
     </message>
     <message>
         <source>These combinations work in every program. Click a field and press the combination you want.</source>
-        <translation>次のキーの組み合わせはすべてのプログラムで使えます。欄をクリックし、使いたい組み合わせを押してください。</translation>
+        <translation>Ces combinaisons fonctionnent dans tous les programmes. Cliquez dans un champ et appuyez sur la combinaison voulue.</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation>オプション</translation>
+        <translation>Options</translation>
     </message>
 </context>
 <context>
     <name>ProgramInstance</name>
     <message>
         <source>The macro folder was out of reach for too long.</source>
-        <translation>マクロフォルダーに長い間アクセスできませんでした。</translation>
+        <translation>Le dossier des macros est resté inaccessible trop longtemps.</translation>
     </message>
     <message>
         <source>Another program has Keyrill&apos;s name on the session bus and does not do its work: %1</source>
-        <translation>別のプログラムがセッションバスで Keyrill の名前を使っていますが、その役割を果たしていません: %1</translation>
+        <translation>Un autre programme a pris le nom de Keyrill sur le bus de session et ne fait pas son travail&#xa0;: %1</translation>
     </message>
     <message>
         <source>End that program and start Keyrill again.</source>
-        <translation>そのプログラムを終了し、Keyrill をもう一度起動してください。</translation>
+        <translation>Arrêtez ce programme et relancez Keyrill.</translation>
     </message>
     <message>
         <source>It cannot be given a file, since it has no session bus.</source>
-        <translation>セッションバスがないため、ファイルを渡せません。</translation>
+        <translation>Aucun fichier ne peut lui être transmis, car il n’a pas de bus de session.</translation>
     </message>
     <message>
         <source>Keyrill is running already.</source>
-        <translation>Keyrill はすでに実行中です。</translation>
+        <translation>Keyrill est déjà lancé.</translation>
     </message>
 </context>
 <context>
     <name>Programs</name>
     <message>
         <source>The program &quot;%1&quot;, which presses keys by the desktop&apos;s portal, could not be started.</source>
-        <translation>デスクトップのポータルでキーを押すプログラム「%1」を起動できませんでした。</translation>
+        <translation>Le programme «&#xa0;%1&#xa0;», qui presse des touches par le portail du bureau, n’a pas pu être lancé.</translation>
     </message>
     <message>
         <source>Install the program again.</source>
-        <translation>プログラムをもう一度インストールしてください。</translation>
+        <translation>Installez le programme à nouveau.</translation>
     </message>
     <message>
         <source>A text with a zero byte cannot be opened.</source>
-        <translation>ヌルバイトを含むテキストは開けません。</translation>
+        <translation>Un texte contenant un octet nul ne peut pas être ouvert.</translation>
     </message>
     <message>
         <source>The program xdg-open cannot be started: %1</source>
         <extracomment>%1 is why, in the system&apos;s words.</extracomment>
-        <translation>プログラム xdg-open を起動できません: %1</translation>
+        <translation>Impossible de lancer le programme xdg-open&#xa0;: %1</translation>
     </message>
     <message>
         <source>Install the package xdg-utils.</source>
-        <translation>パッケージ xdg-utils をインストールしてください。</translation>
+        <translation>Installez le paquet xdg-utils.</translation>
     </message>
     <message>
         <source>The guard program &quot;%1&quot;, which releases keys after a crash, could not be started.</source>
-        <translation>クラッシュ後にキーを離す監視プログラム「%1」を起動できませんでした。</translation>
+        <translation>Le programme de garde «&#xa0;%1&#xa0;», qui relâche les touches après un plantage, n’a pas pu être lancé.</translation>
     </message>
     <message>
         <source>Install the program again; nothing is played without its guard.</source>
-        <translation>プログラムをもう一度インストールしてください。監視プログラムがないと何も再生されません。</translation>
+        <translation>Installez le programme à nouveau&#xa0;; rien n’est exécuté sans son programme de garde.</translation>
     </message>
 </context>
 <context>
     <name>RecordHerePanel</name>
     <message>
         <source>Record Here</source>
-        <translation>ここで記録</translation>
+        <translation>Enregistrer ici</translation>
     </message>
     <message>
         <source>How to Record Everywhere</source>
-        <translation>どこでも記録する方法</translation>
+        <translation>Comment enregistrer partout</translation>
     </message>
     <message>
         <source>Type here</source>
-        <translation>ここに入力</translation>
+        <translation>Tapez ici</translation>
     </message>
     <message>
         <source>Keys typed here are recorded</source>
-        <translation>ここで入力したキーが記録されます</translation>
+        <translation>Les touches frappées ici sont enregistrées</translation>
     </message>
     <message>
         <source>Stop Recording</source>
-        <translation>記録を停止</translation>
+        <translation>Arrêter l’enregistrement</translation>
     </message>
     <message>
         <source>What you type in this window is recorded</source>
-        <translation>このウィンドウに入力した内容が記録されます</translation>
+        <translation>Ce que vous saisissez dans cette fenêtre est enregistré</translation>
     </message>
     <message>
         <source>What you type in other programs is not. The macro can be played in all of them.</source>
-        <translation>他のプログラムへの入力は記録されません。マクロはすべてのプログラムで再生できます。</translation>
+        <translation>Ce que vous saisissez dans d’autres programmes ne l’est pas. La macro peut être exécutée dans tous.</translation>
     </message>
     <message>
         <source>Why not everywhere?</source>
-        <translation>どこでも記録できないのはなぜですか?</translation>
+        <translation>Pourquoi pas partout&#xa0;?</translation>
     </message>
     <message>
         <source>Press Stop Recording or close the window when you are done.</source>
-        <translation>終わったら「記録を停止」を押すか、ウィンドウを閉じてください。</translation>
+        <translation>Cliquez sur «&#xa0;Arrêter l’enregistrement&#xa0;» ou fermez la fenêtre quand vous avez fini.</translation>
     </message>
     <message>
         <source>Press %1 when you are done, or close the window.</source>
-        <translation>終わったら %1 を押すか、ウィンドウを閉じてください。</translation>
+        <translation>Appuyez sur %1 quand vous avez fini, ou fermez la fenêtre.</translation>
     </message>
     <message>
         <source>Use the combination of the desktop&apos;s settings when you are done, or close the window.</source>
-        <translation>終わったらデスクトップの設定にある組み合わせを押すか、ウィンドウを閉じてください。</translation>
+        <translation>Utilisez la combinaison définie dans les réglages du bureau quand vous avez fini, ou fermez la fenêtre.</translation>
     </message>
     <message>
         <source>Use the combination of the desktop&apos;s settings when you are done, or close the window: %1</source>
-        <translation>終わったらデスクトップの設定にある組み合わせを押すか、ウィンドウを閉じてください: %1</translation>
+        <translation>Utilisez la combinaison définie dans les réglages du bureau quand vous avez fini, ou fermez la fenêtre&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>RecorderWindow</name>
     <message>
         <source>Keyrill recording</source>
-        <translation>Keyrill 記録中</translation>
+        <translation>Keyrill enregistre</translation>
     </message>
 </context>
 <context>
     <name>RunningProgram</name>
     <message>
         <source>There is no session bus, over which the running Keyrill could be asked.</source>
-        <translation>実行中の Keyrill に問い合わせるためのセッションバスがありません。</translation>
+        <translation>Il n’y a pas de bus de session par lequel interroger Keyrill.</translation>
     </message>
     <message>
         <source>Call it from within the desktop session; the hot keys and the menu need none.</source>
-        <translation>デスクトップセッションの中から呼び出してください。ショートカットとメニューにはセッションバスは不要です。</translation>
+        <translation>Appelez-le depuis la session graphique&#xa0;; les raccourcis clavier et le menu n’en ont pas besoin.</translation>
     </message>
     <message>
         <source>Keyrill could not be started, or runs already where this session bus does not reach.</source>
-        <translation>Keyrill を起動できなかったか、このセッションバスの届かないところですでに実行中です。</translation>
+        <translation>Keyrill n’a pas pu être lancé, ou l’est déjà hors de portée de ce bus de session.</translation>
     </message>
     <message>
         <source>Start it as &quot;keyrill&quot; in a terminal to see why.</source>
-        <translation>理由を知るには、端末で「keyrill」と入力して起動してください。</translation>
+        <translation>Lancez «&#xa0;keyrill&#xa0;» dans un terminal pour voir pourquoi.</translation>
     </message>
 </context>
 <context>
     <name>SRRecorderControl</name>
     <message>
         <source>Clear %1</source>
-        <translation>%1 をクリア</translation>
+        <translation>Effacer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation>クリア</translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Click here, then press a combination. Backspace clears, Escape keeps what was set.</source>
-        <translation>ここをクリックしてから組み合わせを押してください。Backspace でクリアし、Esc で元のままにします。</translation>
+        <translation>Cliquez ici, puis appuyez sur une combinaison. Retour arrière efface, Échap conserve ce qui était défini.</translation>
     </message>
     <message>
         <source>Add Ctrl, Alt or Super</source>
-        <translation>Ctrl、Alt、Super のどれかを追加</translation>
+        <translation>Ajoutez Ctrl, Alt ou Super</translation>
     </message>
     <message>
         <source>Press a combination…</source>
-        <translation>組み合わせを押す…</translation>
+        <translation>Appuyez sur une combinaison…</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation>未設定</translation>
+        <translation>Non défini</translation>
     </message>
 </context>
 <context>
@@ -2596,173 +2598,262 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Stop</source>
         <extracomment>the name of a picture: a stop sign</extracomment>
-        <translation>停止</translation>
+        <translation>Stop</translation>
     </message>
     <message>
         <source>Caution</source>
-        <translation>注意</translation>
+        <translation>Attention</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation>情報</translation>
+        <translation>Note</translation>
     </message>
     <message>
         <source>Keyrill Macro</source>
-        <translation>Keyrill マクロ</translation>
+        <translation>Macro Keyrill</translation>
     </message>
 </context>
 <context>
     <name>ScriptEditor</name>
     <message>
         <source>Script</source>
-        <translation>スクリプト</translation>
+        <translation>Script</translation>
     </message>
     <message>
         <source>Words of the script language</source>
-        <translation>スクリプト言語の単語</translation>
+        <translation>Mots du langage de script</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
         <extracomment>of a script; what is wrong, or could be</extracomment>
-        <translation>%1 行目: %2</translation>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>ScriptNotices</name>
     <message>
         <source>The macro was not played to its end</source>
-        <translation>マクロは最後まで再生されませんでした</translation>
+        <translation>La macro n’a pas été exécutée jusqu’au bout</translation>
     </message>
     <message>
         <source>The macro cannot be played</source>
-        <translation>マクロを再生できません</translation>
+        <translation>La macro ne peut pas être exécutée</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is loaded but cannot be played</source>
-        <translation>「%1」を読み込みましたが、再生できません</translation>
+        <translation>«&#xa0;%1&#xa0;» est chargé mais ne peut pas être exécuté</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation>%1 行目: %2</translation>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation>%1。%2</translation>
+        <translation>%1. %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptTool</name>
+    <message>
+        <source>--times %1 is not how often a script can be played.</source>
+        <translation>--times %1 n’est pas un nombre d’exécutions valide.</translation>
+    </message>
+    <message>
+        <source>It is a whole number from 1 on, or until-stopped.</source>
+        <translation>Indiquez un nombre entier à partir de 1, ou until-stopped.</translation>
+    </message>
+    <message>
+        <source>Nobody can stop a trace.</source>
+        <translation>Personne ne peut arrêter une trace.</translation>
+    </message>
+    <message>
+        <source>Give --times a number.</source>
+        <translation>Donnez un nombre à --times.</translation>
+    </message>
+    <message>
+        <source>--speed %1 is not how fast a script can be played.</source>
+        <translation>--speed %1 n’est pas une vitesse valide.</translation>
+    </message>
+    <message>
+        <source>It is a number from 0.25 to 4.</source>
+        <translation>Indiquez un nombre de 0.25 à 4.</translation>
+    </message>
+    <message>
+        <source>This is no UTF-8, so the whole file is taken for Mac Roman. Save it as UTF-8.</source>
+        <translation>Ceci n’est pas de l’UTF-8&#xa0;; tout le fichier est donc lu comme du Mac Roman. Enregistrez-le en UTF-8.</translation>
+    </message>
+    <message>
+        <source>Press a key.</source>
+        <translation>Appuyez sur une touche.</translation>
+    </message>
+    <message>
+        <source>Hint: %1</source>
+        <translation>Conseil&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1; standard input is &quot;-&quot;</source>
+        <translation>%1&#xa0;; l’entrée standard est «&#xa0;-&#xa0;»</translation>
+    </message>
+    <message>
+        <source>(Return)</source>
+        <translation>(Entrée)</translation>
+    </message>
+    <message>
+        <source>No dialog can be shown here.</source>
+        <translation>Aucune boîte de dialogue ne peut être affichée ici.</translation>
+    </message>
+    <message>
+        <source>Run the script in a terminal.</source>
+        <translation>Exécutez le script dans un terminal.</translation>
+    </message>
+    <message>
+        <source>The question was not answered.</source>
+        <translation>La question est restée sans réponse.</translation>
+    </message>
+    <message>
+        <source>Usage: keyrill-script check FILE   compile, and say what is wrong; with --json for editors
+       keyrill-script run [--times N] [--speed X] FILE
+                                   press the keys, so often (or until-stopped), its pauses divided by X
+       keyrill-script trace FILE   print what would be done, one JSON array a line
+       keyrill-script format FILE  print the script in one layout
+       keyrill-script keys         print the key codes; with --press that of the next key
+       keyrill-script reference    print the reference of the language
+       keyrill-script -h | --help | --version
+FILE - is standard input; -e LINE, once or more, gives the script itself.
+</source>
+        <translation>Utilisation&#xa0;: keyrill-script check FICHIER    compiler et dire ce qui ne va pas&#xa0;; avec --json pour les éditeurs
+              keyrill-script run [--times N] [--speed X] FICHIER
+                                              appuyer sur les touches, autant de fois (ou until-stopped), ses pauses divisées par X
+              keyrill-script trace FICHIER    afficher ce qui serait fait, un tableau JSON par ligne
+              keyrill-script format FICHIER   afficher le script dans une présentation uniforme
+              keyrill-script keys             afficher les codes de touches&#xa0;; avec --press celui de la prochaine touche
+              keyrill-script reference        afficher la référence du langage
+              keyrill-script -h | --help | --version
+FICHIER - est l’entrée standard&#xa0;; -e LIGNE, une ou plusieurs fois, donne le script lui-même.
+</translation>
+    </message>
+    <message>
+        <source>There is no command “%1”.</source>
+        <translation>La commande «&#xa0;%1&#xa0;» n’existe pas.</translation>
+    </message>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation>Impossible d’écrire sur la sortie standard.</translation>
     </message>
 </context>
 <context>
     <name>Session</name>
     <message>
         <source>There is no session bus.</source>
-        <translation>セッションバスがありません。</translation>
+        <translation>Il n’y a pas de bus de session.</translation>
     </message>
     <message>
         <source>Log in again.</source>
-        <translation>ログインし直してください。</translation>
+        <translation>Fermez la session et rouvrez-la.</translation>
     </message>
     <message>
         <source>sway does not answer at $SWAYSOCK.</source>
-        <translation>sway が $SWAYSOCK で応答しません。</translation>
+        <translation>sway ne répond pas à l’adresse $SWAYSOCK.</translation>
     </message>
     <message>
         <source>Start the program in the session of sway.</source>
-        <translation>プログラムを sway のセッションで起動してください。</translation>
+        <translation>Lancez le programme dans la session de sway.</translation>
     </message>
     <message>
         <source>sway says: %1</source>
-        <translation>sway からのメッセージ: %1</translation>
+        <translation>sway indique&#xa0;: %1</translation>
     </message>
     <message>
         <source>There is no kind of session called &quot;%1&quot;.</source>
-        <translation>「%1」という種類のセッションはありません。</translation>
+        <translation>Il n’y a pas de type de session nommé «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Choose one of these: %1.</source>
-        <translation>次のいずれかを選んでください: %1。</translation>
+        <translation>Choisissez l’un de ceux-ci&#xa0;: %1.</translation>
     </message>
     <message>
         <source>No kind of session is known.</source>
-        <translation>既知のセッションの種類がありません。</translation>
+        <translation>Aucun type de session n’est connu.</translation>
     </message>
     <message>
         <source>The connection to the compositor was lost.</source>
-        <translation>コンポジターへの接続が失われました。</translation>
+        <translation>La connexion au compositeur a été perdue.</translation>
     </message>
     <message>
         <source>No Wayland compositor answers at $WAYLAND_DISPLAY.</source>
-        <translation>$WAYLAND_DISPLAY で応答する Wayland コンポジターがありません。</translation>
+        <translation>Aucun compositeur Wayland ne répond à l’adresse $WAYLAND_DISPLAY.</translation>
     </message>
     <message>
         <source>Start the program in a Wayland session.</source>
-        <translation>プログラムを Wayland セッションで起動してください。</translation>
+        <translation>Lancez le programme dans une session Wayland.</translation>
     </message>
     <message>
         <source>The Wayland compositor is gone.</source>
-        <translation>Wayland コンポジターが終了しました。</translation>
+        <translation>Le compositeur Wayland a disparu.</translation>
     </message>
     <message>
         <source>$WAYLAND_DISPLAY names no Wayland compositor.</source>
-        <translation>$WAYLAND_DISPLAY が Wayland コンポジターを指していません。</translation>
+        <translation>$WAYLAND_DISPLAY ne désigne aucun compositeur Wayland.</translation>
     </message>
     <message>
         <source>The X server is gone.</source>
-        <translation>X サーバーが終了しました。</translation>
+        <translation>Le serveur X a disparu.</translation>
     </message>
     <message>
         <source>This is a Wayland session without an X server.</source>
-        <translation>これは X サーバーのない Wayland セッションです。</translation>
+        <translation>Cette session est une session Wayland sans serveur X.</translation>
     </message>
     <message>
         <source>Install Xwayland, or switch it on in the desktop&apos;s settings, and log in again; or choose an X11 session when you log in.</source>
-        <translation>Xwayland をインストールするか、デスクトップの設定で有効にして、ログインし直してください。または、ログイン時に X11 セッションを選択してください。</translation>
+        <translation>Installez Xwayland, ou activez-le dans les réglages du bureau, puis fermez la session et rouvrez-la&#xa0;; ou choisissez une session X11 à l’ouverture de session.</translation>
     </message>
     <message>
         <source>An X11 session is needed, and this is no desktop session.</source>
-        <translation>X11 セッションが必要ですが、これはデスクトップセッションではありません。</translation>
+        <translation>Une session X11 est nécessaire, or cette session n’est pas une session graphique.</translation>
     </message>
     <message>
         <source>An X11 session is needed, and this is a Wayland session without an X server.</source>
-        <translation>X11 セッションが必要ですが、これは X サーバーのない Wayland セッションです。</translation>
+        <translation>Une session X11 est nécessaire, or cette session est une session Wayland sans serveur X.</translation>
     </message>
     <message>
         <source>Choose an X11 session when you log in.</source>
-        <translation>ログイン時に X11 セッションを選択してください。</translation>
+        <translation>Choisissez une session X11 à l’ouverture de session.</translation>
     </message>
     <message>
         <source>The connection to the X server was lost.</source>
-        <translation>X サーバーへの接続が失われました。</translation>
+        <translation>La connexion au serveur X a été perdue.</translation>
     </message>
     <message>
         <source>Use a newer X server, or switch the extension on in its settings.</source>
-        <translation>新しい X サーバーを使うか、設定で拡張機能を有効にしてください。</translation>
+        <translation>Utilisez un serveur X plus récent ou activez l’extension dans ses réglages.</translation>
     </message>
     <message>
         <source>The X server must have XInput 2.2 or newer, but has no XInput.</source>
-        <translation>X サーバーには XInput 2.2 以降が必要ですが、XInput がありません。</translation>
+        <translation>Le serveur X doit avoir XInput 2.2 ou une version plus récente, mais il n’a pas XInput.</translation>
     </message>
     <message>
         <source>The X server must have XInput 2.2 or newer, but does not answer.</source>
-        <translation>X サーバーには XInput 2.2 以降が必要ですが、応答がありません。</translation>
+        <translation>Le serveur X doit avoir XInput 2.2 ou une version plus récente, mais il ne répond pas.</translation>
     </message>
     <message>
         <source>The X server must have XInput 2.2 or newer, but has %1.</source>
-        <translation>X サーバーには XInput 2.2 以降が必要ですが、現在は %1 です。</translation>
+        <translation>Le serveur X doit avoir XInput 2.2 ou une version plus récente, mais il a la version %1.</translation>
     </message>
     <message>
         <source>The X server must have the XKB extension, but it cannot be used.</source>
-        <translation>X サーバーには XKB 拡張機能が必要ですが、使えません。</translation>
+        <translation>Le serveur X doit avoir l’extension XKB, mais elle ne peut pas être utilisée.</translation>
     </message>
     <message>
         <source>The X server must have the XTEST extension, but it has not.</source>
-        <translation>X サーバーには XTEST 拡張機能が必要ですが、ありません。</translation>
+        <translation>Le serveur X doit avoir l’extension XTEST, mais il ne l’a pas.</translation>
     </message>
     <message>
         <source>The X server of display &quot;%1&quot; cannot be reached.</source>
-        <translation>ディスプレイ「%1」の X サーバーに接続できません。</translation>
+        <translation>Le serveur X de l’affichage «&#xa0;%1&#xa0;» est inaccessible.</translation>
     </message>
     <message>
         <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
-        <translation>プログラムをデスクトップセッションの中で起動するか、DISPLAY に実行中の X サーバーを設定してください。</translation>
+        <translation>Lancez le programme dans une session graphique ou définissez DISPLAY sur un serveur X en cours d’exécution.</translation>
     </message>
 </context>
 <context>
@@ -2770,102 +2861,102 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>, </source>
         <extracomment>between the names of a list</extracomment>
-        <translation>、</translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>a line of keyrill --check: what was looked at, and what was found</extracomment>
-        <translation>%1: %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation>セッション</translation>
+        <translation>Session</translation>
     </message>
     <message>
         <source>%1, display %2</source>
-        <translation>%1、ディスプレイ %2</translation>
+        <translation>%1, affichage %2</translation>
     </message>
     <message>
         <source>Parts</source>
-        <translation>構成要素</translation>
+        <translation>Éléments</translation>
     </message>
     <message>
         <source>missing: %1; there: %2</source>
-        <translation>なし: %1 / あり: %2</translation>
+        <translation>manquants&#xa0;: %1&#xa0;; présents&#xa0;: %2</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation>記録</translation>
+        <translation>Enregistrement</translation>
     </message>
     <message>
         <source>Hot keys</source>
-        <translation>グローバルショートカット</translation>
+        <translation>Raccourcis clavier</translation>
     </message>
     <message>
         <source>Pressing keys</source>
-        <translation>キーの押下</translation>
+        <translation>Appui sur les touches</translation>
     </message>
     <message>
         <source>Typing text</source>
-        <translation>テキストの入力</translation>
+        <translation>Saisie de texte</translation>
     </message>
     <message>
         <source>Clipboard</source>
-        <translation>クリップボード</translation>
+        <translation>Presse-papiers</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation>オーバーレイ</translation>
+        <translation>Incrustation</translation>
     </message>
     <message>
         <source>Windows of other programs</source>
-        <translation>他のプログラムのウィンドウ</translation>
+        <translation>Fenêtres des autres programmes</translation>
     </message>
     <message>
         <source>Tray</source>
-        <translation>トレイ</translation>
+        <translation>Zone de notification</translation>
     </message>
     <message>
         <source>%1. %2</source>
         <extracomment>by what it works, and what is missing all the same, which is a sentence</extracomment>
-        <translation>%1。%2</translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Hot key of &quot;%1&quot;</source>
-        <translation>「%1」のショートカット</translation>
+        <translation>Raccourci clavier de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>none is chosen</source>
-        <translation>選ばれていません</translation>
+        <translation>aucun n’est choisi</translation>
     </message>
     <message>
         <source>%1, which nobody else has</source>
-        <translation>%1 (他に使っているものはありません)</translation>
+        <translation>%1, que personne d’autre n’utilise</translation>
     </message>
     <message>
         <source>%1, which the running Keyrill has</source>
-        <translation>%1 (実行中の Keyrill が使っています)</translation>
+        <translation>%1, que Keyrill utilise déjà</translation>
     </message>
     <message>
         <source>%1; the session does not tell who has it</source>
-        <translation>%1 (何が使っているかは、このセッションではわかりません)</translation>
+        <translation>%1&#xa0;; la session ne dit pas qui l’utilise</translation>
     </message>
     <message>
         <source>Session bus</source>
-        <translation>セッションバス</translation>
+        <translation>Bus de session</translation>
     </message>
     <message>
         <source>there</source>
         <extracomment>the session bus exists</extracomment>
-        <translation>あり</translation>
+        <translation>présent</translation>
     </message>
     <message>
         <source>There is none: &quot;keyrill --action&quot;, notifications and many trays need it, and a locked screen is not noticed at once.</source>
-        <translation>ありません: 「keyrill --action」、通知、多くのトレイに必要です。画面のロックにもすぐには気付きません。</translation>
+        <translation>Il n’y en a pas&#xa0;: «&#xa0;keyrill --action&#xa0;», les notifications et de nombreuses zones de notification en ont besoin, et un écran verrouillé n’est pas remarqué tout de suite.</translation>
     </message>
     <message>
         <source>Start Keyrill from within the desktop session.</source>
-        <translation>デスクトップセッションの中から Keyrill を起動してください。</translation>
+        <translation>Lancez Keyrill depuis la session graphique.</translation>
     </message>
     <message>
         <source>Keyrill</source>
@@ -2873,372 +2964,372 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>is running</source>
-        <translation>実行中</translation>
+        <translation>est lancé</translation>
     </message>
     <message>
         <source>is not running</source>
-        <translation>実行されていません</translation>
+        <translation>n’est pas lancé</translation>
     </message>
     <message>
         <source>no lock is on</source>
-        <translation>ロックキーはすべてオフ</translation>
+        <translation>aucun verrouillage n’est actif</translation>
     </message>
     <message>
         <source>on: %1, which macros do not mind</source>
-        <translation>オン: %1 (マクロには影響しません)</translation>
+        <translation>actifs&#xa0;: %1, ce qui ne gêne pas les macros</translation>
     </message>
     <message>
         <source>layout unknown</source>
-        <translation>レイアウト不明</translation>
+        <translation>disposition inconnue</translation>
     </message>
     <message>
         <source>layout %1</source>
-        <translation>レイアウト %1</translation>
+        <translation>disposition %1</translation>
     </message>
     <message>
         <source>Keyboard</source>
-        <translation>キーボード</translation>
+        <translation>Clavier</translation>
     </message>
     <message>
         <source>%1; %2</source>
         <extracomment>the keyboard layouts, and the locks that are on</extracomment>
-        <translation>%1 / %2</translation>
+        <translation>%1&#xa0;; %2</translation>
     </message>
 </context>
 <context>
     <name>Settings</name>
     <message>
         <source>It has a zero byte</source>
-        <translation>ヌルバイトが含まれています</translation>
+        <translation>Il contient un octet nul</translation>
     </message>
     <message>
         <source>The settings file %1 is not a key file: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
-        <translation>設定ファイル %1 はキーファイルではありません: %2</translation>
+        <translation>Le fichier des réglages %1 n’est pas un fichier de clés&#xa0;: %2</translation>
     </message>
     <message>
         <source>The macro settings file %1 is not a key file: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
-        <translation>マクロの設定ファイル %1 はキーファイルではありません: %2</translation>
+        <translation>Le fichier des réglages des macros %1 n’est pas un fichier de clés&#xa0;: %2</translation>
     </message>
     <message>
         <source>The settings folder %1 cannot be made: %2</source>
         <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
-        <translation>設定フォルダー %1 を作成できません: %2</translation>
+        <translation>Impossible de créer le dossier des réglages %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The macro settings folder %1 cannot be made: %2</source>
         <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
-        <translation>マクロの設定フォルダー %1 を作成できません: %2</translation>
+        <translation>Impossible de créer le dossier des réglages des macros %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>It was renamed to %1, and the settings begin anew.</source>
         <extracomment>%1 is a file.</extracomment>
-        <translation>ファイルの名前を %1 に変更しました。設定は初期状態に戻ります。</translation>
+        <translation>Il a été renommé en %1, et les réglages reprennent leurs valeurs par défaut.</translation>
     </message>
     <message>
         <source>It was renamed to %1, and hot keys, times and speeds begin anew.</source>
         <extracomment>%1 is a file.</extracomment>
-        <translation>ファイルの名前を %1 に変更しました。ショートカット、回数、速さは初期状態に戻ります。</translation>
+        <translation>Il a été renommé en %1, et les raccourcis clavier, les nombres d’exécutions et les vitesses reprennent leurs valeurs par défaut.</translation>
     </message>
     <message>
         <source>Correct the file or remove it.</source>
-        <translation>ファイルを修正するか、削除してください。</translation>
+        <translation>Corrigez le fichier ou supprimez-le.</translation>
     </message>
     <message>
         <source>It could not be put aside either: %1</source>
         <extracomment>%1 is why, in the system&apos;s words.</extracomment>
-        <translation>ファイルを退避することもできませんでした: %1</translation>
+        <translation>Il n’a pas non plus pu être mis de côté&#xa0;: %1</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be read: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>設定ファイル %1 を読み取れません: %2</translation>
+        <translation>Impossible de lire le fichier des réglages %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The macro settings file %1 cannot be read: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>マクロの設定ファイル %1 を読み取れません: %2</translation>
+        <translation>Impossible de lire le fichier des réglages des macros %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be written: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>設定ファイル %1 に書き込めません: %2</translation>
+        <translation>Impossible d’écrire le fichier des réglages %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The macro settings file %1 cannot be written: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>マクロの設定ファイル %1 に書き込めません: %2</translation>
+        <translation>Impossible d’écrire le fichier des réglages des macros %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>ShortcutNotices</name>
     <message>
         <source>Still used by %1 until Keyrill restarts.</source>
-        <translation>Keyrill を再起動するまで「%1」が使い続けます。</translation>
+        <translation>Encore utilisé par «&#xa0;%1&#xa0;» jusqu’au redémarrage de Keyrill.</translation>
     </message>
     <message>
         <source>Already used by %1.</source>
-        <translation>すでに「%1」が使っています。</translation>
+        <translation>Déjà utilisé par «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The desktop has not answered yet.</source>
-        <translation>デスクトップがまだ応答していません。</translation>
+        <translation>Le bureau n’a pas encore répondu.</translation>
     </message>
     <message>
         <source>Set in the desktop&apos;s settings.</source>
-        <translation>デスクトップの設定で決められています。</translation>
+        <translation>Défini dans les réglages du bureau.</translation>
     </message>
     <message>
         <source>Set in the desktop&apos;s settings: %1</source>
-        <translation>デスクトップの設定で決められています: %1</translation>
+        <translation>Défini dans les réglages du bureau&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 still works until Keyrill restarts.</source>
-        <translation>%1 は Keyrill を再起動するまで有効です。</translation>
+        <translation>%1 fonctionne encore jusqu’au redémarrage de Keyrill.</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;, which gives way.</source>
-        <translation>すでにマクロ「%1」が使っていますが、こちらが優先されます。</translation>
+        <translation>Déjà utilisé par la macro «&#xa0;%1&#xa0;», qui cède la place.</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;.</source>
-        <translation>すでにマクロ「%1」が使っています。</translation>
+        <translation>Déjà utilisé par la macro «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>ShortcutTitles</name>
     <message>
         <source>Start &amp;Recording:</source>
-        <translation>記録を開始(&amp;R):</translation>
+        <translation>&amp;Démarrer l’enregistrement&#xa0;:</translation>
     </message>
     <message>
         <source>Start Recording</source>
-        <translation>記録を開始</translation>
+        <translation>Démarrer l’enregistrement</translation>
     </message>
     <message>
         <source>&amp;Stop Recording:</source>
-        <translation>記録を停止(&amp;S):</translation>
+        <translation>&amp;Arrêter l’enregistrement&#xa0;:</translation>
     </message>
     <message>
         <source>Stop Recording</source>
-        <translation>記録を停止</translation>
+        <translation>Arrêter l’enregistrement</translation>
     </message>
     <message>
         <source>&amp;Play:</source>
-        <translation>再生(&amp;P):</translation>
+        <translation>&amp;Exécuter&#xa0;:</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation>再生</translation>
+        <translation>Exécuter</translation>
     </message>
     <message>
         <source>Play &amp;Multiple Times:</source>
-        <translation>複数回再生(&amp;M):</translation>
+        <translation>Exécuter &amp;plusieurs fois&#xa0;:</translation>
     </message>
     <message>
         <source>Play Multiple Times</source>
-        <translation>複数回再生</translation>
+        <translation>Exécuter plusieurs fois</translation>
     </message>
 </context>
 <context>
     <name>StatusMenu</name>
     <message>
         <source>Start Recording</source>
-        <translation>記録を開始</translation>
+        <translation>Démarrer l’enregistrement</translation>
     </message>
     <message>
         <source>Stop Recording</source>
-        <translation>記録を停止</translation>
+        <translation>Arrêter l’enregistrement</translation>
     </message>
     <message>
         <source>Save Pause</source>
-        <translation>待ち時間を記録</translation>
+        <translation>Enregistrer la pause</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation>再生</translation>
+        <translation>Exécuter</translation>
     </message>
     <message>
         <source>Play Multiple Times...</source>
-        <translation>複数回再生...</translation>
+        <translation>Exécuter plusieurs fois...</translation>
     </message>
     <message>
         <source>History</source>
-        <translation>履歴</translation>
+        <translation>Historique</translation>
     </message>
     <message>
         <source>Save Macro...</source>
-        <translation>マクロを保存...</translation>
+        <translation>Sauvegarder la macro...</translation>
     </message>
     <message>
         <source>Load Macro...</source>
-        <translation>マクロを読み込む...</translation>
+        <translation>Charger une macro...</translation>
     </message>
     <message>
         <source>Macros...</source>
-        <translation>マクロ...</translation>
+        <translation>Macros...</translation>
     </message>
     <message>
         <source>Preferences...</source>
-        <translation>設定...</translation>
+        <translation>Préférences...</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation>ヘルプ</translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation>ドキュメント</translation>
+        <translation>Documentation</translation>
     </message>
     <message>
         <source>Forum</source>
-        <translation>フォーラム</translation>
+        <translation>Forum</translation>
     </message>
     <message>
         <source>Product Page</source>
-        <translation>製品ページ</translation>
+        <translation>Page du produit</translation>
     </message>
     <message>
         <source>Maker&apos;s Website</source>
-        <translation>開発元のウェブサイト</translation>
+        <translation>Site de l’éditeur</translation>
     </message>
     <message>
         <source>Get Support</source>
-        <translation>サポートを受ける</translation>
+        <translation>Obtenir de l’aide</translation>
     </message>
     <message>
         <source>Send Feedback</source>
-        <translation>フィードバックを送る</translation>
+        <translation>Envoyer un commentaire</translation>
     </message>
     <message>
         <source>Report a Bug</source>
-        <translation>バグを報告</translation>
+        <translation>Signaler un bogue</translation>
     </message>
     <message>
         <source>Check for Updates...</source>
-        <translation>アップデートを確認...</translation>
+        <translation>Rechercher des mises à jour...</translation>
     </message>
     <message>
         <source>About Keyrill</source>
-        <translation>Keyrill について</translation>
+        <translation>À propos de Keyrill</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation>終了</translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Keyrill menu</source>
-        <translation>Keyrill メニュー</translation>
+        <translation>Menu de Keyrill</translation>
     </message>
     <message>
         <source>What Works Here</source>
-        <translation>ここで使えるもの</translation>
+        <translation>Ce qui fonctionne ici</translation>
     </message>
 </context>
 <context>
     <name>StatusNotice</name>
     <message>
         <source>%1 has no shortcut. %2</source>
-        <translation>「%1」にはショートカットがありません。%2</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas de raccourci. %2</translation>
     </message>
 </context>
 <context>
     <name>StatusPanel</name>
     <message>
         <source>Works</source>
-        <translation>使えます</translation>
+        <translation>Fonctionne</translation>
     </message>
     <message>
         <source>Does not work</source>
-        <translation>使えません</translation>
+        <translation>Ne fonctionne pas</translation>
     </message>
     <message>
         <source>Not known</source>
-        <translation>不明</translation>
+        <translation>Inconnu</translation>
     </message>
     <message>
         <source>What Works Here</source>
-        <translation>ここで使えるもの</translation>
+        <translation>Ce qui fonctionne ici</translation>
     </message>
     <message>
         <source>C&amp;opy</source>
-        <translation>コピー(&amp;O)</translation>
+        <translation>C&amp;opier</translation>
     </message>
     <message>
         <source>Copy all lines, for a mail or a forum</source>
-        <translation>メールやフォーラムに貼り付けられるよう、すべての行をコピーします</translation>
+        <translation>Copier toutes les lignes, pour un courriel ou un forum</translation>
     </message>
     <message>
         <source>Check &amp;Again</source>
-        <translation>もう一度確認(&amp;A)</translation>
+        <translation>Vérifier à &amp;nouveau</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>閉じる(&amp;C)</translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>A moment...</source>
-        <translation>お待ちください...</translation>
+        <translation>Un instant...</translation>
     </message>
     <message>
         <source>What works here could not be found out.</source>
-        <translation>ここで使えるものを調べられませんでした。</translation>
+        <translation>Impossible de déterminer ce qui fonctionne ici.</translation>
     </message>
     <message>
         <source>&quot;keyrill --check&quot; in a terminal may say why.</source>
-        <translation>端末で「keyrill --check」を実行すると理由がわかるかもしれません。</translation>
+        <translation>«&#xa0;keyrill --check&#xa0;» dans un terminal en dira peut-être la raison.</translation>
     </message>
     <message>
         <source>%1: %2</source>
         <comment>whether it works, and what</comment>
-        <translation>%1: %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>StepsModel</name>
     <message>
         <source>Line %1: %2</source>
-        <translation>%1 行目: %2</translation>
+        <translation>Ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The script goes on; only its beginning is shown.</source>
-        <translation>スクリプトは続きます。最初の部分だけを表示しています。</translation>
+        <translation>Le script continue&#xa0;; seul son début est affiché.</translation>
     </message>
     <message>
         <source>A pause is a number of seconds from 0 to a day.</source>
-        <translation>待ち時間は 0 秒から 1 日までの秒数です。</translation>
+        <translation>Une pause s’indique en secondes, de 0 à un jour.</translation>
     </message>
     <message>
         <source>A key is pressed from 1 to 10,000 times.</source>
-        <translation>キーを押す回数は 1 回から 10,000 回までです。</translation>
+        <translation>Une touche peut être pressée de 1 à 10&#x202f;000 fois.</translation>
     </message>
     <message>
         <source>This step cannot be changed here.</source>
-        <translation>このステップはここでは変更できません。</translation>
+        <translation>Cette étape ne peut pas être modifiée ici.</translation>
     </message>
 </context>
 <context>
     <name>Toggles</name>
     <message>
         <source>Check for &amp;updates when Keyrill starts</source>
-        <translation>Keyrill の起動時にアップデートを確認する(&amp;U)</translation>
+        <translation>Rechercher les &amp;mises à jour au lancement de Keyrill</translation>
     </message>
     <message>
         <source>Start Keyrill when I log &amp;in</source>
-        <translation>ログイン時に Keyrill を起動する(&amp;I)</translation>
+        <translation>Lancer Keyrill à l’ou&amp;verture de session</translation>
     </message>
     <message>
         <source>Record modifier &amp;keys on their own</source>
-        <translation>修飾キーを単独でも記録する(&amp;K)</translation>
+        <translation>Enregistrer les touches de modification &amp;seules</translation>
     </message>
     <message>
         <source>Keep the &amp;history for the next start</source>
-        <translation>Keyrill を終了しても履歴を残す(&amp;H)</translation>
+        <translation>Conserver l’&amp;historique pour le prochain lancement</translation>
     </message>
     <message>
         <source>&amp;Write hot keys into GNOME&apos;s settings</source>
-        <translation>ショートカットを GNOME の設定に書き込む(&amp;W)</translation>
+        <translation>Inscrire les raccourcis dans les ré&amp;glages de GNOME</translation>
     </message>
 </context>
 <context>
@@ -3252,64 +3343,64 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <name>Warnings</name>
     <message>
         <source>This is typed as it stands; the key has a number: key code %1.</source>
-        <translation>これはそのまま入力されます。このキーには番号があります: key code %1。</translation>
+        <translation>Ceci est saisi tel quel&#xa0;; la touche a un numéro&#xa0;: key code %1.</translation>
     </message>
     <message>
         <source>“%1” is typed as it stands. %2</source>
         <extracomment>%1 is the name of a key in braces, %2 a sentence that says how the key is written.</extracomment>
-        <translation>「%1」はそのまま入力されます。%2</translation>
+        <translation>«&#xa0;%1&#xa0;» est saisi tel quel. %2</translation>
     </message>
     <message>
         <source>Key code %1 is an extension, which only Keyrill plays.</source>
-        <translation>キーコード %1 は拡張で、Keyrill でしか再生できません。</translation>
+        <translation>Le code de touche %1 est une extension, que seul Keyrill exécute.</translation>
     </message>
     <message>
         <source>Key code %1 has no key; nothing is pressed.</source>
-        <translation>キーコード %1 のキーはありません。何も押されません。</translation>
+        <translation>Aucune touche ne correspond au code de touche %1&#xa0;; rien n’est pressé.</translation>
     </message>
     <message>
         <source>A dialog gives a record and no text; take: button returned of %1, or text returned of %1.</source>
-        <translation>ダイアログが返すのはレコードで、テキストではありません。次のどちらかを使ってください: button returned of %1 または text returned of %1。</translation>
+        <translation>Une boîte de dialogue donne un enregistrement (record) et non un texte&#xa0;; utilisez&#xa0;: button returned of %1 ou text returned of %1.</translation>
     </message>
     <message>
         <source>An alert gives a record and no text; take: button returned of %1.</source>
-        <translation>アラートが返すのはレコードで、テキストではありません。次を使ってください: button returned of %1。</translation>
+        <translation>Une alerte donne un enregistrement (record) et non un texte&#xa0;; utilisez&#xa0;: button returned of %1.</translation>
     </message>
     <message>
         <source>What was chosen comes in a list; take: item 1 of %1.</source>
-        <translation>選択されたものはリストで返されます。次を使ってください: item 1 of %1。</translation>
+        <translation>Ce qui a été choisi arrive dans une liste&#xa0;; utilisez&#xa0;: item 1 of %1.</translation>
     </message>
     <message>
         <source>The loop gives a reference, which equals no text; compare: contents of %1.</source>
-        <translation>ループが渡すのは参照で、テキストと等しくなることはありません。比較には次を使ってください: contents of %1。</translation>
+        <translation>La boucle donne une référence, qui n’est égale à aucun texte&#xa0;; comparez&#xa0;: contents of %1.</translation>
     </message>
     <message>
         <source>“%1” is taken as “%1 down”.</source>
         <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
-        <translation>「%1」は「%1 down」と見なされます。</translation>
+        <translation>«&#xa0;%1&#xa0;» est compris comme «&#xa0;%1 down&#xa0;».</translation>
     </message>
     <message>
         <source>“%1” belongs to what “%2” is given; put parentheses round the command: (%2 …) %1 ….</source>
         <extracomment>%1 is an operator, &quot;&gt;&quot;, %2 a command, &quot;count&quot;.</extracomment>
-        <translation>「%1」は「%2」に渡す値の一部になっています。コマンドを丸かっこで囲んでください: (%2 …) %1 …。</translation>
+        <translation>«&#xa0;%1&#xa0;» se rapporte à ce que «&#xa0;%2&#xa0;» reçoit&#xa0;; mettez la commande entre parenthèses&#xa0;: (%2 …) %1 ….</translation>
     </message>
     <message>
         <source>“delay” counts seconds; %1 milliseconds are: delay %2.</source>
-        <translation>「delay」の単位は秒です。%1 ミリ秒は次のように書きます: delay %2。</translation>
+        <translation>«&#xa0;delay&#xa0;» compte en secondes&#xa0;; %1 millisecondes s’écrivent&#xa0;: delay %2.</translation>
     </message>
     <message>
         <source>This is typed as it stands; a shortcut is written: keystroke &quot;%1&quot; using %2 down.</source>
         <extracomment>%1 is a letter, %2 the name of a modifier, &quot;control&quot;.</extracomment>
-        <translation>これはそのまま入力されます。ショートカットは次のように書きます: keystroke &quot;%1&quot; using %2 down。</translation>
+        <translation>Ceci est saisi tel quel&#xa0;; une combinaison de touches s’écrit&#xa0;: keystroke &quot;%1&quot; using %2 down.</translation>
     </message>
     <message>
         <source>A modifier is held with: key down shift, without quotes.</source>
-        <translation>修飾キーを押し続けるには、引用符なしで次のように書きます: key down shift。</translation>
+        <translation>Une touche de modification se maintient ainsi&#xa0;: key down shift, sans guillemets.</translation>
     </message>
     <message>
         <source>The variable %1 is never set. %2</source>
         <extracomment>%2 is a sentence that says what may have been meant.</extracomment>
-        <translation>変数 %1 は一度も設定されていません。%2</translation>
+        <translation>La variable %1 n’est jamais définie. %2</translation>
     </message>
 </context>
 <context>
@@ -3320,102 +3411,102 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
     <message>
         <source>Welcome to Keyrill</source>
-        <translation>Keyrill へようこそ</translation>
+        <translation>Bienvenue dans Keyrill</translation>
     </message>
     <message>
         <source>&amp;Continue</source>
-        <translation>続ける(&amp;C)</translation>
+        <translation>&amp;Continuer</translation>
     </message>
     <message>
         <source>Your first macro</source>
-        <translation>最初のマクロ</translation>
+        <translation>Votre première macro</translation>
     </message>
     <message>
         <source>The combinations</source>
-        <translation>キーの組み合わせ</translation>
+        <translation>Les combinaisons</translation>
     </message>
     <message>
         <source>You can change them in the preferences, which come next.</source>
-        <translation>次に開く設定で変更できます。</translation>
+        <translation>Vous pourrez les modifier dans les préférences, qui s’ouvrent ensuite.</translation>
     </message>
     <message>
         <source>Keyrill records the keys you press and presses them again for you, in any program, as often as you like.</source>
-        <translation>Keyrill は、押したキーを記録し、どのプログラムでも、何度でも、代わりに押します。</translation>
+        <translation>Keyrill enregistre vos frappes au clavier et les reproduit pour vous, dans n’importe quel programme, aussi souvent que vous voulez.</translation>
     </message>
     <message>
         <source>Choose Start Recording in Keyrill&apos;s menu. Then type.</source>
-        <translation>Keyrill のメニューで「記録を開始」を選びます。それから入力します。</translation>
+        <translation>Choisissez «&#xa0;Démarrer l’enregistrement&#xa0;» dans le menu de Keyrill. Puis tapez.</translation>
     </message>
     <message>
         <source>Press %1, or choose Start Recording in Keyrill&apos;s menu. Then type.</source>
-        <translation>%1 を押すか、Keyrill のメニューで「記録を開始」を選びます。それから入力します。</translation>
+        <translation>Appuyez sur %1 ou choisissez «&#xa0;Démarrer l’enregistrement&#xa0;» dans le menu de Keyrill. Puis tapez.</translation>
     </message>
     <message>
         <source>Choose Stop Recording when you are done.</source>
-        <translation>終わったら「記録を停止」を選びます。</translation>
+        <translation>Choisissez «&#xa0;Arrêter l’enregistrement&#xa0;» quand vous avez fini.</translation>
     </message>
     <message>
         <source>Press %1 when you are done.</source>
-        <translation>終わったら %1 を押します。</translation>
+        <translation>Appuyez sur %1 quand vous avez fini.</translation>
     </message>
     <message>
         <source>Click where the keys should go and choose Play.</source>
-        <translation>キーを送りたいところをクリックし、「再生」を選びます。</translation>
+        <translation>Cliquez à l’endroit où la saisie doit se faire et choisissez «&#xa0;Exécuter&#xa0;».</translation>
     </message>
     <message>
         <source>Click where the keys should go and press %1.</source>
-        <translation>キーを送りたいところをクリックし、%1 を押します。</translation>
+        <translation>Cliquez à l’endroit où la saisie doit se faire et appuyez sur %1.</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation>未設定</translation>
+        <translation>Non défini</translation>
     </message>
 </context>
 <context>
     <name>Windows</name>
     <message>
         <source>KWin does not tell of its windows.</source>
-        <translation>KWin がウィンドウについて何も知らせません。</translation>
+        <translation>KWin ne donne pas d’informations sur ses fenêtres.</translation>
     </message>
     <message>
         <source>Log in again.</source>
-        <translation>ログインし直してください。</translation>
+        <translation>Fermez la session et rouvrez-la.</translation>
     </message>
     <message>
         <source>No file could be written for KWin.</source>
-        <translation>KWin 用のファイルを書き込めませんでした。</translation>
+        <translation>Aucun fichier n’a pu être écrit pour KWin.</translation>
     </message>
     <message>
         <source>Free some space.</source>
-        <translation>空き容量を増やしてください。</translation>
+        <translation>Libérez de l’espace.</translation>
     </message>
     <message>
         <source>KWin runs no scripts: %1</source>
-        <translation>KWin がスクリプトを実行しません: %1</translation>
+        <translation>KWin n’exécute aucun script&#xa0;: %1</translation>
     </message>
     <message>
         <source>KWin does not show the window any more.</source>
-        <translation>KWin がそのウィンドウを表示しなくなりました。</translation>
+        <translation>KWin n’affiche plus la fenêtre.</translation>
     </message>
     <message>
         <source>Open it again.</source>
-        <translation>もう一度開いてください。</translation>
+        <translation>Ouvrez-la à nouveau.</translation>
     </message>
     <message>
         <source>This compositor tells nobody of windows.</source>
-        <translation>このコンポジターはウィンドウについて何も知らせません。</translation>
+        <translation>Ce compositeur ne donne à personne d’informations sur les fenêtres.</translation>
     </message>
     <message>
         <source>Use a compositor with toplevel management, such as sway, or an X11 session.</source>
-        <translation>sway などトップレベルウィンドウの管理ができるコンポジターか、X11 セッションを使ってください。</translation>
+        <translation>Utilisez un compositeur avec gestion des fenêtres (toplevel management), comme sway, ou une session X11.</translation>
     </message>
     <message>
         <source>No window of “%1” is open.</source>
-        <translation>「%1」のウィンドウは開いていません。</translation>
+        <translation>Aucune fenêtre de «&#xa0;%1&#xa0;» n’est ouverte.</translation>
     </message>
     <message>
         <source>Start it first.</source>
-        <translation>先に起動してください。</translation>
+        <translation>Lancez d’abord le programme.</translation>
     </message>
 </context>
 </TS>

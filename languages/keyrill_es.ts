@@ -1,544 +1,544 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="ar" sourcelanguage="en">
+<TS version="2.1" language="es" sourcelanguage="en">
 <context>
     <name>AboutPanel</name>
     <message>
         <source>LGPL 2.1 or later</source>
-        <translation>رخصة LGPL 2.1 أو أحدث</translation>
+        <translation>LGPL 2.1 o posterior</translation>
     </message>
     <message>
         <source>curl licence</source>
-        <translation>رخصة curl</translation>
+        <translation>licencia de curl</translation>
     </message>
     <message>
         <source>About Keyrill</source>
-        <translation>عن Keyrill</translation>
+        <translation>Acerca de Keyrill</translation>
     </message>
     <message>
         <source>&amp;Documentation</source>
-        <translation>التوثيق (&amp;D)</translation>
+        <translation>&amp;Documentación</translation>
     </message>
     <message>
         <source>&amp;Product Page</source>
-        <translation>صفحة المنتج (&amp;P)</translation>
+        <translation>Página del &amp;producto</translation>
     </message>
     <message>
         <source>&amp;Maker&apos;s Website</source>
-        <translation>موقع المطوّر (&amp;M)</translation>
+        <translation>&amp;Sitio web del desarrollador</translation>
     </message>
     <message>
         <source>Built with</source>
-        <translation>بُني باستخدام</translation>
+        <translation>Creado con</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation>الإصدار %1</translation>
+        <translation>Versión %1</translation>
     </message>
     <message>
         <source>Records the keys you press and presses them again.</source>
-        <translation>يسجّل المفاتيح التي تضغطها ثم يضغطها من جديد.</translation>
+        <translation>Graba sus pulsaciones de teclado y las reproduce.</translation>
     </message>
     <message>
         <source>Copyright © 2026 the Keyrill authors. Free software under the MIT licence, without any warranty.</source>
-        <translation>حقوق النشر © 2026 لمؤلفي Keyrill. برنامج حر برخصة MIT، دون أي ضمان.</translation>
+        <translation>Copyright © 2026 los autores de Keyrill. Software libre bajo la licencia MIT, sin garantía alguna.</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>إغلاق (&amp;C)</translation>
+        <translation>&amp;Cerrar</translation>
     </message>
 </context>
 <context>
     <name>AccessDesk</name>
     <message>
         <source>To record what you type in other programs, Keyrill has to read the keyboard until the recording ends. That is why you are asked for your password.</source>
-        <translation>لتسجيل ما تكتبه في البرامج الأخرى، على Keyrill أن يقرأ لوحة المفاتيح إلى أن ينتهي التسجيل. لهذا تُطلب منك كلمة السر.</translation>
+        <translation>Para grabar lo que escribe en otros programas, Keyrill tiene que leer el teclado hasta que termine la grabación. Por eso se le pide la contraseña.</translation>
     </message>
 </context>
 <context>
     <name>ActionCall</name>
     <message>
         <source>Keyrill is not running.</source>
-        <translation>لا يعمل Keyrill.</translation>
+        <translation>Keyrill no está en ejecución.</translation>
     </message>
 </context>
 <context>
     <name>Actions</name>
     <message>
         <source>The screen is locked.</source>
-        <translation>الشاشة مقفلة.</translation>
+        <translation>La pantalla está bloqueada.</translation>
     </message>
     <message>
         <source>Keyrill is asking something, which has to be answered first.</source>
-        <translation>يطرح Keyrill سؤالا تجب الإجابة عنه أولا.</translation>
+        <translation>Keyrill está haciendo una pregunta que debe responderse primero.</translation>
     </message>
     <message>
         <source>A macro is being recorded.</source>
-        <translation>يجري تسجيل ماكرو.</translation>
+        <translation>Se está grabando una macro.</translation>
     </message>
     <message>
         <source>There is no macro to play yet.</source>
-        <translation>لا يوجد ماكرو لتشغيله بعد.</translation>
+        <translation>Todavía no hay ninguna macro que reproducir.</translation>
     </message>
     <message>
         <source>A macro is being recorded already.</source>
-        <translation>يجري تسجيل ماكرو بالفعل.</translation>
+        <translation>Ya se está grabando una macro.</translation>
     </message>
     <message>
         <source>Nothing is being recorded or played.</source>
-        <translation>لا يُسجَّل شيء ولا يُشغَّل.</translation>
+        <translation>No se está grabando ni reproduciendo nada.</translation>
     </message>
     <message>
         <source>Nothing is being recorded.</source>
-        <translation>لا يُسجَّل شيء.</translation>
+        <translation>No se está grabando nada.</translation>
     </message>
     <message>
         <source>Keyrill is asking how often to play.</source>
-        <translation>يسأل Keyrill عن عدد مرات التشغيل.</translation>
+        <translation>Keyrill está preguntando cuántas veces reproducir.</translation>
     </message>
     <message>
         <source>Keyrill&apos;s hot keys are off while they are being chosen in a window of its own.</source>
-        <translation>اختصارات Keyrill معطّلة ما دامت تُختار في إحدى نوافذه.</translation>
+        <translation>Los atajos de Keyrill están desactivados mientras se eligen en una de sus ventanas.</translation>
     </message>
 </context>
 <context>
     <name>Alerts</name>
     <message>
         <source>OK</source>
-        <translation>موافق</translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Keyrill Update Available</source>
-        <translation>يتوفر تحديث لبرنامج Keyrill</translation>
+        <translation>Actualización de Keyrill disponible</translation>
     </message>
     <message>
         <source>There is a new update available for Keyrill, would you like to download it now?</source>
-        <translation>يتوفر تحديث جديد لبرنامج Keyrill، أتريد تنزيله الآن؟</translation>
+        <translation>Hay una nueva actualización disponible para Keyrill. ¿Quiere descargarla ahora?</translation>
     </message>
     <message>
         <source>Keyrill requires that programs can see and press keys in this session. </source>
-        <translation>يتطلب Keyrill أن تستطيع البرامج رؤية المفاتيح وضغطها في هذه الجلسة. </translation>
+        <translation>Keyrill necesita que los programas puedan detectar y simular pulsaciones de teclas en esta sesión. </translation>
     </message>
     <message>
         <source>Please see the &apos;Configuration&apos; section of the documentation for more information.
 
 Keyrill must close, please restart it once this is possible.
 </source>
-        <translation>لمزيد من المعلومات راجع قسم «Configuration» في التوثيق.
+        <translation>Consulte la sección «Configuration» de la documentación para obtener más información.
 
-سيُغلق Keyrill، أعد تشغيله عندما يصبح ذلك ممكنا.
+Keyrill debe cerrarse. Vuelva a iniciarlo cuando esto sea posible.
 </translation>
     </message>
     <message>
         <source>Open Documentation now</source>
-        <translation>فتح التوثيق الآن</translation>
+        <translation>Abrir la documentación ahora</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation>إنهاء</translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Recording is not possible in this session yet</source>
-        <translation>التسجيل غير ممكن في هذه الجلسة بعد</translation>
+        <translation>Todavía no se puede grabar en esta sesión</translation>
     </message>
     <message>
         <source>Nothing was recorded</source>
-        <translation>لم يُسجَّل شيء</translation>
+        <translation>No se ha grabado nada</translation>
     </message>
     <message>
         <source>The recording has ended</source>
-        <translation>انتهى التسجيل</translation>
+        <translation>La grabación ha terminado</translation>
     </message>
     <message>
         <source>What was recorded until then is kept.</source>
-        <translation>بقي ما سُجِّل حتى ذلك الحين محفوظا.</translation>
+        <translation>Lo grabado hasta entonces se conserva.</translation>
     </message>
     <message>
         <source>YES</source>
-        <translation>نعم</translation>
+        <translation>SÍ</translation>
     </message>
     <message>
         <source>NO</source>
-        <translation>لا</translation>
+        <translation>NO</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation>نعم</translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>No</source>
-        <translation>لا</translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>No Update Available</source>
-        <translation>لا يوجد تحديث</translation>
+        <translation>No hay actualizaciones disponibles</translation>
     </message>
     <message>
         <source>You&apos;re currently running the latest version of Keyrill</source>
-        <translation>أنت تستخدم أحدث إصدار من Keyrill</translation>
+        <translation>Ya está usando la última versión de Keyrill</translation>
     </message>
     <message>
         <source>The macro was not saved as &quot;%1&quot;.</source>
-        <translation>لم يُحفظ الماكرو باسم «⁨%1⁩».</translation>
+        <translation>La macro no se ha guardado como «%1».</translation>
     </message>
     <message>
         <source>No macro was loaded from &quot;%1&quot;.</source>
-        <translation>لم يُحمَّل أي ماكرو من «⁨%1⁩».</translation>
+        <translation>No se ha cargado ninguna macro de «%1».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is there already.</source>
-        <translation>الملف «⁨%1⁩» موجود بالفعل.</translation>
+        <translation>«%1» ya existe.</translation>
     </message>
     <message>
         <source>Do you want to replace it? What is in it will be lost.</source>
-        <translation>أتريد استبداله؟ سيُفقد محتواه.</translation>
+        <translation>¿Quiere reemplazarlo? Se perderá su contenido.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation>استبدال</translation>
+        <translation>Reemplazar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>إلغاء</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a macro file.</source>
-        <translation>الملف «⁨%1⁩» ليس ملف ماكرو.</translation>
+        <translation>«%1» no es un archivo de macro.</translation>
     </message>
     <message>
         <source>The names of Keyrill&apos;s macro files end with &quot;.%1&quot;.</source>
-        <translation>تنتهي أسماء ملفات الماكرو في Keyrill بـ «⁨.%1⁩».</translation>
+        <translation>Los nombres de los archivos de macro de Keyrill terminan en «.%1».</translation>
     </message>
     <message>
         <source>There is no file &quot;%1&quot;.</source>
-        <translation>لا يوجد ملف باسم «⁨%1⁩».</translation>
+        <translation>No existe el archivo «%1».</translation>
     </message>
     <message>
         <source>Check the name, or choose one of the list.</source>
-        <translation>تحقق من الاسم، أو اختر ملفا من القائمة.</translation>
+        <translation>Compruebe el nombre o elija uno de la lista.</translation>
     </message>
     <message>
         <source>Your settings were not saved.</source>
-        <translation>لم تُحفظ إعداداتك.</translation>
+        <translation>No se han guardado sus ajustes.</translation>
     </message>
     <message>
         <source>Whether Keyrill starts when you log in could not be changed.</source>
-        <translation>تعذر تغيير إعداد بدء Keyrill عند الولوج.</translation>
+        <translation>No se ha podido cambiar si Keyrill se inicia al iniciar sesión.</translation>
     </message>
     <message>
         <source>Something is wrong with your settings.</source>
-        <translation>يوجد خطأ في إعداداتك.</translation>
+        <translation>Hay algo incorrecto en sus ajustes.</translation>
     </message>
     <message>
         <source>May Keyrill write its hot keys into GNOME&apos;s settings?</source>
-        <translation>هل تسمح لبرنامج Keyrill بكتابة اختصاراته في إعدادات GNOME؟</translation>
+        <translation>¿Puede Keyrill escribir sus atajos de teclado en los ajustes de GNOME?</translation>
     </message>
     <message>
         <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings. Keyrill would write one there for each of its combinations, and take them out when it ends. It does not touch what is yours.
 
 You can change your mind in Keyrill&apos;s preferences.</source>
-        <translation>لا يتيح هذا الإصدار من GNOME اختصارات عامة للبرامج إلا كاختصارات مخصصة في إعداداتك. سيكتب Keyrill هناك اختصارا لكل تركيبة من تركيباته ويزيلها عند انتهائه، ولا يمس اختصاراتك أنت.
+        <translation>Esta versión de GNOME solo ofrece atajos de teclado a los programas como atajos personalizados en sus propios ajustes. Keyrill escribiría allí uno por cada una de sus combinaciones y los quitaría al terminar. No toca los que son suyos.
 
-يمكنك تغيير رأيك في تفضيلات Keyrill.</translation>
+Puede cambiar de opinión en las preferencias de Keyrill.</translation>
     </message>
     <message>
         <source>Write Them</source>
-        <translation>اكتبها</translation>
+        <translation>Escribirlos</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation>ليس الآن</translation>
+        <translation>Ahora no</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation>أبدا</translation>
+        <translation>Nunca</translation>
     </message>
 </context>
 <context>
     <name>AppController</name>
     <message>
         <source>In this session Keyrill sees and reaches only the windows of X11 programs. The manual says more under &quot;Configuration&quot;.</source>
-        <translation>في هذه الجلسة لا يرى Keyrill إلا نوافذ برامج X11، ولا يصل إلى غيرها. لمزيد من المعلومات راجع «Configuration» في الدليل.</translation>
+        <translation>En esta sesión, Keyrill solo ve y alcanza las ventanas de programas X11. El manual explica más en «Configuration».</translation>
     </message>
 </context>
 <context>
     <name>ApplicationObject</name>
     <message>
         <source>Keyrill is playing a macro.</source>
-        <translation>يشغّل Keyrill ماكرو الآن.</translation>
+        <translation>Keyrill está reproduciendo una macro.</translation>
     </message>
     <message>
         <source>There is no action &quot;%1&quot;. There are: %2.</source>
-        <translation>لا يوجد إجراء باسم «%1». المتاح: %2.</translation>
+        <translation>No existe la acción «%1». Existen: %2.</translation>
     </message>
     <message>
         <source>The action &quot;%1&quot; takes no parameter.</source>
-        <translation>لا يقبل الإجراء «%1» أي معامل.</translation>
+        <translation>La acción «%1» no admite ningún parámetro.</translation>
     </message>
 </context>
 <context>
     <name>BusOwner</name>
     <message>
         <source>Keyrill has ended without an answer.</source>
-        <translation>انتهى Keyrill دون أن يجيب.</translation>
+        <translation>Keyrill ha terminado sin responder.</translation>
     </message>
     <message>
         <source>Process %1, which has Keyrill&apos;s name on the session bus, does not answer.</source>
-        <translation>العملية %1 التي تحمل اسم Keyrill على ناقل الجلسة لا تستجيب.</translation>
+        <translation>El proceso %1, que tiene el nombre de Keyrill en el bus de sesión, no responde.</translation>
     </message>
     <message>
         <source>End it and start Keyrill again.</source>
-        <translation>أنهِها وابدأ Keyrill من جديد.</translation>
+        <translation>Termínelo y vuelva a iniciar Keyrill.</translation>
     </message>
 </context>
 <context>
     <name>CapabilityWords</name>
     <message>
         <source>Use a newer X server, or switch the extension on in its settings.</source>
-        <translation>استخدم خادم X أحدث، أو فعّل الامتداد في إعداداته.</translation>
+        <translation>Use un servidor X más reciente o active la extensión en sus ajustes.</translation>
     </message>
     <message>
         <source>by XInput</source>
-        <translation>عبر XInput</translation>
+        <translation>mediante XInput</translation>
     </message>
     <message>
         <source>by key grabs</source>
-        <translation>عبر حجز المفاتيح</translation>
+        <translation>mediante captura de teclas</translation>
     </message>
     <message>
         <source>by XTEST</source>
-        <translation>عبر XTEST</translation>
+        <translation>mediante XTEST</translation>
     </message>
     <message>
         <source>the X server&apos;s</source>
-        <translation>حافظة خادم X</translation>
+        <translation>el del servidor X</translation>
     </message>
     <message>
         <source>above all windows</source>
-        <translation>فوق كل النوافذ</translation>
+        <translation>por encima de todas las ventanas</translation>
     </message>
     <message>
         <source>by the window manager</source>
-        <translation>عبر مدير النوافذ</translation>
+        <translation>mediante el gestor de ventanas</translation>
     </message>
     <message>
         <source>a tray that icons dock into</source>
-        <translation>صينية نظام تُضمَّن فيها الأيقونات</translation>
+        <translation>una bandeja en la que se incrustan iconos</translation>
     </message>
     <message>
         <source>a tray that asks for icons over the session bus</source>
-        <translation>صينية نظام تطلب الأيقونات عبر ناقل الجلسة</translation>
+        <translation>una bandeja que pide los iconos por el bus de sesión</translation>
     </message>
     <message>
         <source>by a virtual keyboard</source>
-        <translation>عبر لوحة مفاتيح افتراضية</translation>
+        <translation>mediante un teclado virtual</translation>
     </message>
     <message>
         <source>by bindings of sway&apos;s</source>
-        <translation>عبر ارتباطات المفاتيح في sway</translation>
+        <translation>mediante las asignaciones de teclas de sway</translation>
     </message>
     <message>
         <source>by KDE&apos;s shortcuts</source>
-        <translation>عبر اختصارات KDE</translation>
+        <translation>mediante los atajos de KDE</translation>
     </message>
     <message>
         <source>by the desktop&apos;s portal, once you allow it</source>
-        <translation>عبر بوابة سطح المكتب، بعد أن تسمح بذلك</translation>
+        <translation>mediante el portal del escritorio, cuando usted lo permita</translation>
     </message>
     <message>
         <source>by the desktop&apos;s portal: you choose them when it asks, and later in its settings</source>
-        <translation>عبر بوابة سطح المكتب: تختار أنت الاختصارات عندما تسألك البوابة، ولاحقا في إعداداتها</translation>
+        <translation>mediante el portal del escritorio: se eligen cuando lo pide, y después en sus ajustes</translation>
     </message>
     <message>
         <source>by sway</source>
-        <translation>عبر sway</translation>
+        <translation>mediante sway</translation>
     </message>
     <message>
         <source>by KWin</source>
-        <translation>عبر KWin</translation>
+        <translation>mediante KWin</translation>
     </message>
     <message>
         <source>what you type into a window of Keyrill&apos;s, &quot;Record Here&quot;</source>
-        <translation>ما تكتبه في نافذة من نوافذ Keyrill، «التسجيل هنا»</translation>
+        <translation>lo que escriba en la ventana «Grabar aquí» de Keyrill</translation>
     </message>
     <message>
         <source>the compositor&apos;s</source>
-        <translation>حافظة المُركِّب</translation>
+        <translation>el del compositor</translation>
     </message>
     <message>
         <source>as an ordinary window</source>
-        <translation>كنافذة عادية</translation>
+        <translation>como una ventana normal</translation>
     </message>
     <message>
         <source>on a layer above all windows</source>
-        <translation>على طبقة فوق كل النوافذ</translation>
+        <translation>en una capa por encima de todas las ventanas</translation>
     </message>
     <message>
         <source>from the keyboards themselves, which every program of yours may read</source>
-        <translation>من لوحات المفاتيح نفسها، التي يستطيع كل برنامج من برامجك قراءتها</translation>
+        <translation>desde los propios teclados, que todos sus programas pueden leer</translation>
     </message>
     <message>
         <source>by keyrill-access, which asks for your password and opens the keyboard while Keyrill records</source>
-        <translation>عبر keyrill-access، الذي يطلب كلمة السر ويفتح لوحة المفاتيح أثناء تسجيل Keyrill</translation>
+        <translation>mediante keyrill-access, que pide su contraseña y abre el teclado mientras Keyrill graba</translation>
     </message>
     <message>
         <source>The display cannot be reached.</source>
-        <translation>يتعذر الوصول إلى شاشة العرض.</translation>
+        <translation>No se puede acceder a la pantalla.</translation>
     </message>
     <message>
         <source>Start Keyrill inside a desktop session.</source>
-        <translation>ابدأ Keyrill داخل جلسة رسومية.</translation>
+        <translation>Inicie Keyrill dentro de una sesión gráfica.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1, which shows keys.</source>
-        <translation>ينقص خادم X الامتداد %1، الذي يُظهر المفاتيح.</translation>
+        <translation>Al servidor X le falta la extensión %1, que comunica las pulsaciones.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1, which says what keys mean.</source>
-        <translation>ينقص خادم X الامتداد %1، الذي يبيّن معاني المفاتيح.</translation>
+        <translation>Al servidor X le falta la extensión %1, que dice qué significan las teclas.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1, which presses keys.</source>
-        <translation>ينقص خادم X الامتداد %1، الذي يضغط المفاتيح.</translation>
+        <translation>Al servidor X le falta la extensión %1, que simula las pulsaciones.</translation>
     </message>
     <message>
         <source>The X server lacks the extension %1: a key that is held is recorded once.</source>
-        <translation>ينقص خادم X الامتداد %1: يُسجَّل المفتاح المضغوط مطولا مرة واحدة.</translation>
+        <translation>Al servidor X le falta la extensión %1: una tecla mantenida se graba una sola vez.</translation>
     </message>
     <message>
         <source>The program keyrill-guard, which releases keys after a crash, is not there; nothing is played without it.</source>
-        <translation>البرنامج keyrill-guard الذي يُفلت المفاتيح بعد الانهيار غير موجود؛ لا يُشغَّل شيء من دونه.</translation>
+        <translation>Falta el programa keyrill-guard, que suelta las teclas tras un cierre inesperado; sin él no se reproduce nada.</translation>
     </message>
     <message>
         <source>Install Keyrill again.</source>
-        <translation>ثبّت Keyrill من جديد.</translation>
+        <translation>Vuelva a instalar Keyrill.</translation>
     </message>
     <message>
         <source>Only with the windows of X11 programs: this is a Wayland session.</source>
-        <translation>مع نوافذ برامج X11 فقط: هذه جلسة Wayland.</translation>
+        <translation>Solo con las ventanas de programas X11: esta es una sesión de Wayland.</translation>
     </message>
     <message>
         <source>Choose an X11 session when you log in.</source>
-        <translation>اختر جلسة X11 عند الولوج.</translation>
+        <translation>Elija una sesión X11 al iniciar sesión.</translation>
     </message>
     <message>
         <source>There is none; a small window with the menu stands in for the icon.</source>
-        <translation>لا توجد صينية نظام؛ تحل نافذة صغيرة فيها القائمة محل الأيقونة.</translation>
+        <translation>No hay ninguna; una pequeña ventana con el menú sustituye al icono.</translation>
     </message>
     <message>
         <source>Add a tray to the desktop&apos;s panel. GNOME needs the extension &quot;AppIndicator and KStatusNotifierItem Support&quot;.</source>
-        <translation>أضف صينية النظام إلى لوحة سطح المكتب. يحتاج GNOME إلى الامتداد «AppIndicator and KStatusNotifierItem Support».</translation>
+        <translation>Añada una bandeja del sistema al panel del escritorio. GNOME necesita la extensión «AppIndicator and KStatusNotifierItem Support».</translation>
     </message>
     <message>
         <source>A Wayland session shows no program what is typed in others, and the service that would is not installed.</source>
-        <translation>لا تُظهر جلسة Wayland لأي برنامج ما يُكتب في غيره، والخدمة التي تتيح ذلك غير مثبتة.</translation>
+        <translation>Una sesión de Wayland no muestra a ningún programa lo que se escribe en otros, y el servicio que lo haría no está instalado.</translation>
     </message>
     <message>
         <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, &quot;tools/access install&quot;; or record in an X11 session, macros play in both.</source>
-        <translation>ثبّت الحزمة keyrill-wayland-access، أو نفّذ «tools/access install» من مصادر Keyrill؛ أو سجّل في جلسة X11، فوحدات الماكرو تعمل في كلتيهما.</translation>
+        <translation>Instale el paquete keyrill-wayland-access o ejecute «tools/access install» en el código fuente de Keyrill; o grabe en una sesión X11, las macros se reproducen en ambas.</translation>
     </message>
     <message>
         <source>This compositor gives no hot keys to programs.</source>
-        <translation>لا يتيح هذا المُركِّب اختصارات عامة للبرامج.</translation>
+        <translation>Este compositor no ofrece atajos de teclado a los programas.</translation>
     </message>
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
-        <translation>اربط المفاتيح بأوامر مثل «keyrill --action=play» في إعدادات المُركِّب.</translation>
+        <translation>Asigne teclas a órdenes como «keyrill --action=play» en los ajustes del compositor.</translation>
     </message>
     <message>
         <source>This compositor lets no program press keys.</source>
-        <translation>لا يسمح هذا المُركِّب لأي برنامج بضغط المفاتيح.</translation>
+        <translation>Este compositor no permite que ningún programa pulse teclas.</translation>
     </message>
     <message>
         <source>Use a compositor with virtual keyboards, such as sway, or an X11 session.</source>
-        <translation>استخدم مُركِّبا فيه لوحات مفاتيح افتراضية مثل sway، أو جلسة X11.</translation>
+        <translation>Use un compositor con teclados virtuales, como sway, o una sesión X11.</translation>
     </message>
     <message>
         <source>This desktop lets no program press keys: its portal does not answer.</source>
-        <translation>لا يسمح سطح المكتب هذا لأي برنامج بضغط المفاتيح: بوابته لا تستجيب.</translation>
+        <translation>Este escritorio no permite que ningún programa pulse teclas: su portal no responde.</translation>
     </message>
     <message>
         <source>Install xdg-desktop-portal and the part of it that belongs to the desktop, such as xdg-desktop-portal-kde.</source>
-        <translation>ثبّت xdg-desktop-portal والجزء الخاص بسطح المكتب منه، مثل xdg-desktop-portal-kde.</translation>
+        <translation>Instale xdg-desktop-portal y la parte que corresponde al escritorio, como xdg-desktop-portal-kde.</translation>
     </message>
     <message>
         <source>Only characters that one of your keyboard layouts has.</source>
-        <translation>المحارف الموجودة في أحد تخطيطات لوحة مفاتيحك فقط.</translation>
+        <translation>Solo los caracteres que tiene alguna de sus distribuciones de teclado.</translation>
     </message>
     <message>
         <source>Add a layout that has them in the desktop&apos;s settings.</source>
-        <translation>أضف تخطيطا يحتويها في إعدادات سطح المكتب.</translation>
+        <translation>Añada una distribución que los tenga en los ajustes del escritorio.</translation>
     </message>
     <message>
         <source>Only characters that the keyboard layout in force has.</source>
-        <translation>المحارف الموجودة في تخطيط لوحة المفاتيح الحالي فقط.</translation>
+        <translation>Solo los caracteres que tiene la distribución de teclado activa.</translation>
     </message>
     <message>
         <source>Switch to a layout that has the others before you play.</source>
-        <translation>انتقل إلى تخطيط يحتوي البقية قبل التشغيل.</translation>
+        <translation>Cambie a una distribución que tenga los demás antes de reproducir la macro.</translation>
     </message>
     <message>
         <source>This compositor shows the clipboard to windows in front alone.</source>
-        <translation>لا يُظهر هذا المُركِّب الحافظة إلا للنوافذ الأمامية.</translation>
+        <translation>Este compositor solo muestra el portapapeles a las ventanas en primer plano.</translation>
     </message>
     <message>
         <source>Scripts that use the clipboard need another compositor, such as sway, or an X11 session.</source>
-        <translation>تحتاج السكربتات التي تستخدم الحافظة إلى مُركِّب آخر مثل sway، أو إلى جلسة X11.</translation>
+        <translation>Los scripts que usan el portapapeles necesitan otro compositor, como sway, o una sesión X11.</translation>
     </message>
     <message>
         <source>This compositor tells nothing of other programs&apos; windows.</source>
-        <translation>لا يخبر هذا المُركِّب بشيء عن نوافذ البرامج الأخرى.</translation>
+        <translation>Este compositor no dice nada de las ventanas de otros programas.</translation>
     </message>
     <message>
         <source>Scripts that bring a window to the front need sway, KDE or an X11 session.</source>
-        <translation>تحتاج السكربتات التي تجلب نافذة إلى الأمام إلى sway أو KDE أو جلسة X11.</translation>
+        <translation>Los scripts que traen una ventana al frente necesitan sway, KDE o una sesión X11.</translation>
     </message>
     <message>
         <source>Full-screen windows may cover it.</source>
-        <translation>قد تغطيها نوافذ ملء الشاشة.</translation>
+        <translation>Las ventanas a pantalla completa pueden taparla.</translation>
     </message>
     <message>
         <source>Use a compositor that has layers, such as sway&apos;s or KDE&apos;s, or an X11 session.</source>
-        <translation>استخدم مُركِّبا له طبقات، كالذي في sway أو KDE، أو جلسة X11.</translation>
+        <translation>Use un compositor que tenga capas, como el de sway o el de KDE, o una sesión X11.</translation>
     </message>
     <message>
         <source>by custom shortcuts in GNOME&apos;s settings while Keyrill runs, as you have agreed; the preferences take that back</source>
-        <translation>عبر اختصارات مخصصة في إعدادات GNOME ما دام Keyrill يعمل، كما وافقت؛ ويمكنك سحب ذلك من التفضيلات</translation>
+        <translation>mediante atajos personalizados en los ajustes de GNOME mientras Keyrill se ejecuta, como ha aceptado; en las preferencias puede retirarlo</translation>
     </message>
     <message>
         <source>This version of GNOME has hot keys for programs only as custom shortcuts in your own settings, and you have not agreed that Keyrill writes them.</source>
-        <translation>لا يتيح هذا الإصدار من GNOME اختصارات عامة للبرامج إلا كاختصارات مخصصة في إعداداتك، ولم توافق على أن يكتبها Keyrill.</translation>
+        <translation>Esta versión de GNOME solo ofrece atajos de teclado a los programas como atajos personalizados en sus propios ajustes, y no ha aceptado que Keyrill los escriba.</translation>
     </message>
     <message>
         <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
-        <translation>ضع علامة في المربع في تفضيلات Keyrill، أو اربط بنفسك المفاتيح بأوامر مثل «keyrill --action=play» في إعدادات GNOME.</translation>
+        <translation>Marque la casilla en las preferencias de Keyrill, o asigne usted mismo teclas a órdenes como «keyrill --action=play» en los ajustes de GNOME.</translation>
     </message>
 </context>
 <context>
     <name>Clipboard</name>
     <message>
         <source>This compositor gives the clipboard to windows alone.</source>
-        <translation>لا يتيح هذا المُركِّب الحافظة إلا للنوافذ.</translation>
+        <translation>Este compositor solo da acceso al portapapeles a las ventanas.</translation>
     </message>
     <message>
         <source>Use a compositor with data control, such as sway, or an X11 session.</source>
-        <translation>استخدم مُركِّبا فيه التحكم في البيانات مثل sway، أو جلسة X11.</translation>
+        <translation>Use un compositor con el protocolo data control, como sway, o una sesión X11.</translation>
     </message>
     <message>
         <source>No more files can be opened.</source>
-        <translation>لا يمكن فتح المزيد من الملفات.</translation>
+        <translation>No se pueden abrir más archivos.</translation>
     </message>
     <message>
         <source>Close programs.</source>
-        <translation>أغلق بعض البرامج.</translation>
+        <translation>Cierre algún programa.</translation>
     </message>
     <message>
         <source>The text in the clipboard is too long.</source>
-        <translation>النص الموجود في الحافظة أطول مما ينبغي.</translation>
+        <translation>El texto del portapapeles es demasiado largo.</translation>
     </message>
     <message>
         <source>The clipboard is held by another program.</source>
-        <translation>يحجز برنامج آخر الحافظة.</translation>
+        <translation>Otro programa retiene el portapapeles.</translation>
     </message>
 </context>
 <context>
@@ -553,11 +553,11 @@ You can change your mind in Keyrill&apos;s preferences.</source>
     </message>
     <message>
         <source>Shift</source>
-        <translation>Shift</translation>
+        <translation>Mayús</translation>
     </message>
     <message>
         <source>Super</source>
-        <translation>Super</translation>
+        <translation>Súper</translation>
     </message>
     <message>
         <source>Control</source>
@@ -568,47 +568,47 @@ You can change your mind in Keyrill&apos;s preferences.</source>
     <name>CommandLine</name>
     <message>
         <source>--times and --speed say how --play plays.</source>
-        <translation>يحدد --times و --speed كيفية التشغيل بـ --play.</translation>
+        <translation>--times y --speed dicen cómo reproduce --play.</translation>
     </message>
     <message>
         <source>keyrill --help tells more.</source>
-        <translation>يشرح keyrill --help المزيد.</translation>
+        <translation>keyrill --help explica más.</translation>
     </message>
     <message>
         <source>There is no option &quot;%1&quot;.</source>
-        <translation>لا يوجد خيار باسم «%1».</translation>
+        <translation>No existe la opción «%1».</translation>
     </message>
     <message>
         <source>keyrill --help lists them.</source>
-        <translation>يسرد keyrill --help الخيارات.</translation>
+        <translation>keyrill --help las enumera.</translation>
     </message>
     <message>
         <source>There is no action &quot;%1&quot;.</source>
-        <translation>لا يوجد إجراء باسم «%1».</translation>
+        <translation>No existe la acción «%1».</translation>
     </message>
     <message>
         <source>Choose one of these: %1.</source>
-        <translation>اختر واحدا من هذه: %1.</translation>
+        <translation>Elija una de estas: %1.</translation>
     </message>
     <message>
         <source>An action takes no file, and &quot;%1&quot; was given.</source>
-        <translation>لا يقبل الإجراء أي ملف، وقد أُعطي «%1».</translation>
+        <translation>Una acción no admite ningún archivo, pero se ha indicado «%1».</translation>
     </message>
     <message>
         <source>Load it first: keyrill FILE.</source>
-        <translation>حمّله أولا: keyrill FILE.</translation>
+        <translation>Cárguelo primero: keyrill ARCHIVO.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too much.</source>
-        <translation>الوسيط «%1» زائد.</translation>
+        <translation>«%1» sobra.</translation>
     </message>
     <message>
         <source>--list takes no name.</source>
-        <translation>لا يقبل --list أي اسم.</translation>
+        <translation>--list no admite ningún nombre.</translation>
     </message>
     <message>
         <source>A name with blanks is put in quotation marks: &quot;%1&quot;.</source>
-        <translation>يوضع الاسم الذي فيه مسافات بين علامتي اقتباس: &quot;%1&quot;.</translation>
+        <translation>Un nombre con espacios se pone entre comillas: &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Usage: keyrill [--session=NAME] [--] [FILE...]   start, or load macros into the one that runs
@@ -628,29 +628,30 @@ well put; standard error tells why.
 NAME is the kind of desktop session; without it the program finds out itself. There are: %2
 </source>
         <extracomment>Options, and what stands in capital letters, stay as they are where the program takes them as they are.</extracomment>
-        <translation>الاستخدام: keyrill [--session=NAME] [--] [FILE...]   البدء، أو تحميل وحدات ماكرو في البرنامج العامل
-       keyrill [--session=NAME] --action=ACTION   طلب إجراء من البرنامج العامل؛ يبدؤه عند الحاجة
-       keyrill [--session=NAME] --play [MACRO|FILE] [--times=N|until-stopped] [--speed=X]
-                                          طلب تشغيل ماكرو واحد من مجلد الماكرو، أو ملف
-       keyrill [--session=NAME] --show [MACRO]   طلب إظهار نافذة وحدات الماكرو
-       keyrill --list   طباعة أسماء وحدات الماكرو في مجلد الماكرو
-       keyrill [--session=NAME] --check   طباعة ما يعمل في هذه الجلسة، وما يجب فعله
-       keyrill -h | --help | --version
-ACTION واحد من هذه: %1.
-MACRO اسم يطبعه --list، مع مجموعته أو من دونها؛ من دون MACRO و FILE يشغّل --play ما يشغّله أمر «تشغيل».
-الملف FILE الذي لا MACRO باسمه، أو الذي يبدأ بـ / أو ./ يُشغَّل كما هو. عدد المرات والسرعة (0.25 إلى 4)
-هما ما للماكرو، ما لم يُعطيا. يختار --show الماكرو MACRO في النافذة. مع --play و --show و --list تكون حالة
-الخروج 0 إن تم الأمر، و 1 إن لم يتم، و 2 إن كان الاستدعاء خاطئا؛ ويُكتب السبب في مخرج الأخطاء.
-NAME نوع الجلسة الرسومية؛ من دونه يكتشفها البرنامج بنفسه. المتاح: %2
+        <translation>Uso: keyrill [--session=NOMBRE] [--] [ARCHIVO...]   iniciar Keyrill o, si ya está en ejecución, cargarle macros
+     keyrill [--session=NOMBRE] --action=ACCIÓN   pedir una acción a Keyrill; lo inicia si hace falta
+     keyrill [--session=NOMBRE] --play [MACRO|ARCHIVO] [--times=N|until-stopped] [--speed=X]
+                                          pedirle que reproduzca una macro de la carpeta de macros, o un archivo
+     keyrill [--session=NOMBRE] --show [MACRO]   pedirle que muestre la ventana de macros
+     keyrill --list   mostrar los nombres de las macros de la carpeta de macros
+     keyrill [--session=NOMBRE] --check   mostrar qué funciona en esta sesión y qué hacer
+     keyrill -h | --help | --version
+ACCIÓN es una de estas: %1.
+MACRO es un nombre que muestra --list, con su grupo o sin él; sin MACRO ni ARCHIVO, --play reproduce lo que
+reproduce «Reproducir». Un ARCHIVO sin MACRO de ese nombre, o que empieza por / o ./, se reproduce tal cual.
+Cuántas veces y a qué velocidad (0.25 a 4) es lo que tiene la macro, salvo que se indique. --show elige MACRO en
+la ventana. Con --play, --show y --list, el código de salida es 0 si se hizo, 1 si no, y 2 si la llamada era
+incorrecta; la salida de error dice por qué.
+NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí mismo. Existen: %2
 </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is one thing too many.</source>
-        <translation>الخيار «%1» زائد.</translation>
+        <translation>«%1» está de más.</translation>
     </message>
     <message>
         <source>Call keyrill once for each.</source>
-        <translation>استدعِ keyrill مرة لكل منهما.</translation>
+        <translation>Llame a keyrill una vez para cada cosa.</translation>
     </message>
 </context>
 <context>
@@ -661,15 +662,15 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Keyrill &amp;menu</source>
-        <translation>قائمة Keyrill (&amp;M)</translation>
+        <translation>&amp;Menú de Keyrill</translation>
     </message>
     <message>
         <source>No tray was found, so here is the menu.</source>
-        <translation>لم يُعثر على صينية النظام، فهذه هي القائمة.</translation>
+        <translation>No se ha encontrado ninguna bandeja del sistema, así que aquí está el menú.</translation>
     </message>
     <message>
         <source>Keyrill is running; its menu is in the tray too.</source>
-        <translation>يعمل Keyrill، وقائمته في صينية النظام أيضا.</translation>
+        <translation>Keyrill está en ejecución; su menú también está en la bandeja del sistema.</translation>
     </message>
 </context>
 <context>
@@ -677,46 +678,46 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>The folder %1 cannot be written to: %2.</source>
         <extracomment>a folder, and why</extracomment>
-        <translation>تتعذر الكتابة في المجلد ⁨%1⁩: ⁨%2⁩.</translation>
+        <translation>No se puede escribir en la carpeta %1: %2.</translation>
     </message>
 </context>
 <context>
     <name>FileMoves</name>
     <message>
         <source>A macro needs a name.</source>
-        <translation>يحتاج الماكرو إلى اسم.</translation>
+        <translation>Una macro necesita un nombre.</translation>
     </message>
     <message>
         <source>A name cannot have a slash (/) in it.</source>
-        <translation>لا يمكن أن يحتوي الاسم على شرطة مائلة (/).</translation>
+        <translation>Un nombre no puede contener una barra (/).</translation>
     </message>
     <message>
         <source>A name cannot begin with a point: the file would be hidden.</source>
-        <translation>لا يمكن أن يبدأ الاسم بنقطة: سيكون الملف مخفيا.</translation>
+        <translation>Un nombre no puede empezar por un punto: el archivo estaría oculto.</translation>
     </message>
     <message>
         <source>The name is too long for a file.</source>
-        <translation>الاسم أطول مما يسمح به لملف.</translation>
+        <translation>El nombre es demasiado largo para un archivo.</translation>
     </message>
     <message>
         <source>There is already a macro called &quot;%1&quot;.</source>
-        <translation>يوجد ماكرو باسم «⁨%1⁩» بالفعل.</translation>
+        <translation>Ya existe una macro llamada «%1».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be renamed: %2.</source>
-        <translation>تتعذر إعادة تسمية «⁨%1⁩»: ⁨%2⁩.</translation>
+        <translation>No se puede renombrar «%1»: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be copied: %2.</source>
-        <translation>يتعذر نسخ «⁨%1⁩»: ⁨%2⁩.</translation>
+        <translation>No se puede copiar «%1»: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be put into the trash.</source>
-        <translation>يتعذر نقل «⁨%1⁩» إلى المهملات.</translation>
+        <translation>No se puede mover «%1» a la papelera.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be brought back: %2.</source>
-        <translation>تتعذر استعادة «⁨%1⁩»: ⁨%2⁩.</translation>
+        <translation>No se puede restaurar «%1»: %2.</translation>
     </message>
 </context>
 <context>
@@ -724,104 +725,104 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>Line %1 has the byte %2 at place %3, and a macro file can hold ASCII only.</source>
         <extracomment>%1 and %3 are numbers, %2 is a code: 0xE9</extracomment>
-        <translation>في السطر ⁨%1⁩ البايت ⁨%2⁩ عند الموضع ⁨%3⁩، ولا يمكن أن يحتوي ملف الماكرو إلا على ASCII.</translation>
+        <translation>La línea %1 contiene el byte %2 en la posición %3, y un archivo de macro solo puede contener ASCII.</translation>
     </message>
     <message>
         <source>Line %1 has the character (%2) at place %3, and a macro file can hold ASCII only.</source>
         <extracomment>%1 and %3 are numbers, %2 is the code of a character that cannot be shown: U+0085</extracomment>
-        <translation>في السطر ⁨%1⁩ المحرف (⁨%2⁩) عند الموضع ⁨%3⁩، ولا يمكن أن يحتوي ملف الماكرو إلا على ASCII.</translation>
+        <translation>La línea %1 contiene el carácter (%2) en la posición %3, y un archivo de macro solo puede contener ASCII.</translation>
     </message>
     <message>
         <source>Line %1 has the character &quot;%2&quot; (%3) at place %4, and a macro file can hold ASCII only.</source>
         <extracomment>%1 and %4 are numbers, %2 is a character, %3 its code: U+00E9</extracomment>
-        <translation>في السطر ⁨%1⁩ المحرف «⁨%2⁩» (⁨%3⁩) عند الموضع ⁨%4⁩، ولا يمكن أن يحتوي ملف الماكرو إلا على ASCII.</translation>
+        <translation>La línea %1 contiene el carácter «%2» (%3) en la posición %4, y un archivo de macro solo puede contener ASCII.</translation>
     </message>
     <message>
         <source>Replace the character in the macro.</source>
-        <translation>استبدل المحرف في الماكرو.</translation>
+        <translation>Reemplace el carácter en la macro.</translation>
     </message>
     <message>
         <source>The file %1 cannot be deleted: %2</source>
         <extracomment>%2 is why, in the system&apos;s words.</extracomment>
-        <translation>يتعذر حذف الملف ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede eliminar el archivo %1: %2</translation>
     </message>
     <message>
         <source>Check who may write to its folder, or delete it yourself.</source>
-        <translation>تحقق ممن يحق له الكتابة في مجلده، أو احذفه بنفسك.</translation>
+        <translation>Compruebe quién puede escribir en su carpeta o elimine el archivo manualmente.</translation>
     </message>
     <message>
         <source>It is a folder</source>
-        <translation>إنه مجلد</translation>
+        <translation>Es una carpeta</translation>
     </message>
     <message>
         <source>It is not a regular file</source>
-        <translation>إنه ليس ملفا عاديا</translation>
+        <translation>No es un archivo normal</translation>
     </message>
     <message>
         <source>Choose a file.</source>
-        <translation>اختر ملفا.</translation>
+        <translation>Elija un archivo.</translation>
     </message>
     <message>
         <source>The file %1 cannot be read: %2</source>
         <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>تتعذر قراءة الملف ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede leer el archivo %1: %2</translation>
     </message>
     <message>
         <source>The file %1 cannot be written: %2</source>
         <extracomment>%2 is why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>تتعذر كتابة الملف ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede escribir el archivo %1: %2</translation>
     </message>
     <message>
         <source>It is larger than %1 MiB</source>
         <extracomment>%1 is a number.</extracomment>
-        <translation>حجمه أكبر من ⁨%1⁩ ميبيبايت</translation>
+        <translation>Ocupa más de %1 MiB</translation>
     </message>
     <message>
         <source>Choose a smaller file.</source>
-        <translation>اختر ملفا أصغر.</translation>
+        <translation>Elija un archivo más pequeño.</translation>
     </message>
     <message>
         <source>Choose another name.</source>
-        <translation>اختر اسما آخر.</translation>
+        <translation>Elija otro nombre.</translation>
     </message>
     <message>
         <source>Check that the file is there and who may read it.</source>
-        <translation>تحقق من وجود الملف وممن يحق له قراءته.</translation>
+        <translation>Compruebe si el archivo existe y quién puede leerlo.</translation>
     </message>
     <message>
         <source>Make room, check who may write there, or choose another place.</source>
-        <translation>أفرغ بعض المساحة، أو تحقق ممن يحق له الكتابة هناك، أو اختر مكانا آخر.</translation>
+        <translation>Libere espacio, compruebe quién puede escribir allí o elija otro lugar.</translation>
     </message>
 </context>
 <context>
     <name>FilesDesk</name>
     <message>
         <source>&quot;%1&quot; was not loaded</source>
-        <translation>لم يُحمَّل «⁨%1⁩»</translation>
+        <translation>No se ha cargado «%1»</translation>
     </message>
     <message>
         <source>A macro is being recorded. Stop recording first.</source>
-        <translation>يجري تسجيل ماكرو. أوقف التسجيل أولا.</translation>
+        <translation>Se está grabando una macro. Detenga primero la grabación.</translation>
     </message>
     <message>
         <source>The screen is locked. Unlock it first.</source>
-        <translation>الشاشة مقفلة. ألغِ قفلها أولا.</translation>
+        <translation>La pantalla está bloqueada. Desbloquéela primero.</translation>
     </message>
     <message>
         <source>Answer Keyrill&apos;s question first.</source>
-        <translation>أجب عن سؤال Keyrill أولا.</translation>
+        <translation>Responda primero a la pregunta de Keyrill.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is loaded</source>
-        <translation>حُمِّل «⁨%1⁩»</translation>
+        <translation>Se ha cargado «%1»</translation>
     </message>
     <message>
         <source>Choose a shortcut for Play in the preferences to play it.</source>
-        <translation>لتشغيله، اختر في التفضيلات اختصارا لأمر «تشغيل».</translation>
+        <translation>Elija un atajo para «Reproducir» en las preferencias para reproducirla.</translation>
     </message>
     <message>
         <source>Press %1 to play it.</source>
-        <translation>اضغط ⁨%1⁩ لتشغيله.</translation>
+        <translation>Pulse %1 para reproducirla.</translation>
     </message>
 </context>
 <context>
@@ -829,973 +830,973 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>The folder %1 cannot be made: %2</source>
         <extracomment>%2 is why, in the system&apos;s words.</extracomment>
-        <translation>يتعذر إنشاء المجلد ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede crear la carpeta %1: %2</translation>
     </message>
     <message>
         <source>Check who may write there.</source>
-        <translation>تحقق ممن يحق له الكتابة هناك.</translation>
+        <translation>Compruebe quién puede escribir allí.</translation>
     </message>
     <message>
         <source>The folder %1 cannot be read: %2</source>
         <extracomment>%2 is why, in the system&apos;s words.</extracomment>
-        <translation>تتعذر قراءة المجلد ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede leer la carpeta %1: %2</translation>
     </message>
     <message>
         <source>Check who may read it.</source>
-        <translation>تحقق ممن يحق له قراءته.</translation>
+        <translation>Compruebe quién puede leerla.</translation>
     </message>
     <message>
         <source>What changes in the folder %1 is not noticed: %2</source>
         <extracomment>%2 is why, in the system&apos;s words.</extracomment>
-        <translation>لا تُلاحَظ التغييرات في المجلد ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se detectan los cambios en la carpeta %1: %2</translation>
     </message>
     <message>
         <source>Start Keyrill again after changes, or raise fs.inotify.max_user_watches.</source>
-        <translation>ابدأ Keyrill من جديد بعد التغييرات، أو ارفع قيمة fs.inotify.max_user_watches.</translation>
+        <translation>Vuelva a iniciar Keyrill después de los cambios o aumente fs.inotify.max_user_watches.</translation>
     </message>
     <message>
         <source>Make room, or check who may write there.</source>
-        <translation>أفرغ بعض المساحة، أو تحقق ممن يحق له الكتابة هناك.</translation>
+        <translation>Libere espacio o compruebe quién puede escribir allí.</translation>
     </message>
 </context>
 <context>
     <name>Hints</name>
     <message>
         <source>A handler is called with parentheses: %1().</source>
-        <translation>يُستدعى المعالج بقوسين: ⁦%1()⁩.</translation>
+        <translation>Un manejador se llama con paréntesis: %1().</translation>
     </message>
     <message>
         <source>The key has a number: key code %1.</source>
-        <translation>لهذا المفتاح رقم: ⁦key code %1⁩.</translation>
+        <translation>La tecla tiene un número: key code %1.</translation>
     </message>
     <message>
         <source>Return is joined to a text so: &quot;hello&quot; &amp; return.</source>
-        <translation>يُضم المفتاح Return إلى نص هكذا: ⁦&quot;hello&quot; &amp; return⁩.</translation>
+        <translation>Intro se añade así a un texto: &quot;hello&quot; &amp; return.</translation>
     </message>
     <message>
         <source>Tab is joined to a text so: &quot;hello&quot; &amp; tab.</source>
-        <translation>يُضم المفتاح Tab إلى نص هكذا: ⁦&quot;hello&quot; &amp; tab⁩.</translation>
+        <translation>Tab se añade así a un texto: &quot;hello&quot; &amp; tab.</translation>
     </message>
     <message>
         <source>A question is asked with: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</source>
-        <translation>يُطرح السؤال هكذا: ⁦text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;)⁩.</translation>
+        <translation>Una pregunta se hace con: text returned of (display dialog &quot;Name?&quot; default answer &quot;&quot;).</translation>
     </message>
     <message>
         <source>A number by chance is: random number from 1 to 10.</source>
-        <translation>يُكتب العدد العشوائي هكذا: ⁦random number from 1 to 10⁩.</translation>
+        <translation>Un número al azar se obtiene con: random number from 1 to 10.</translation>
     </message>
     <message>
         <source>A loop is left with “exit repeat”, the script with “return”.</source>
-        <translation>للخروج من الحلقة استخدم الأمر «exit repeat»، وللخروج من السكربت الأمر «return».</translation>
+        <translation>De un bucle se sale con «exit repeat», del script con «return».</translation>
     </message>
     <message>
         <source>Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
-        <translation>يُكتب النص بالأمر «keystroke»: ⁦keystroke &quot;hello&quot;⁩.</translation>
+        <translation>El texto se escribe con «keystroke»: keystroke &quot;hello&quot;.</translation>
     </message>
     <message>
         <source>A pause is written in seconds: delay 2.</source>
-        <translation>تُكتب الوقفة بالثواني: ⁦delay 2⁩.</translation>
+        <translation>Una pausa se indica en segundos: delay 2.</translation>
     </message>
     <message>
         <source>Errors are caught with: try … on error … end try.</source>
-        <translation>تُلتقط الأخطاء هكذا: ⁦try … on error … end try⁩.</translation>
+        <translation>Los errores se capturan con: try … on error … end try.</translation>
     </message>
     <message>
         <source>Nothing is imported; the commands are there from the start: delay 2, keystroke &quot;hello&quot;.</source>
-        <translation>لا يُستورد شيء؛ فالأوامر متاحة من البداية: ⁦delay 2⁩، ⁦keystroke &quot;hello&quot;⁩.</translation>
+        <translation>No hay que importar nada; las órdenes están disponibles desde el principio: delay 2, keystroke &quot;hello&quot;.</translation>
     </message>
     <message>
         <source>A value is printed with: log &quot;x&quot;. Text is typed with “keystroke”: keystroke &quot;hello&quot;.</source>
-        <translation>تُطبع القيمة هكذا: ⁦log &quot;x&quot;⁩. يُكتب النص بالأمر «keystroke»: ⁦keystroke &quot;hello&quot;⁩.</translation>
+        <translation>Un valor se muestra con: log &quot;x&quot;. El texto se escribe con «keystroke»: keystroke &quot;hello&quot;.</translation>
     </message>
     <message>
         <source>A message is shown with: display dialog &quot;hello&quot;.</source>
-        <translation>تُعرض الرسالة هكذا: ⁦display dialog &quot;hello&quot;⁩.</translation>
+        <translation>Un mensaje se muestra con: display dialog &quot;hello&quot;.</translation>
     </message>
     <message>
         <source>What has no value is written: missing value.</source>
-        <translation>يُكتب ما لا قيمة له هكذا: ⁦missing value⁩.</translation>
+        <translation>La ausencia de valor se escribe: missing value.</translation>
     </message>
     <message>
         <source>A window is brought to the front with: tell application &quot;Firefox&quot; to activate.</source>
-        <translation>تُجلب النافذة إلى الأمام هكذا: ⁦tell application &quot;Firefox&quot; to activate⁩.</translation>
+        <translation>Una ventana se trae al primer plano con: tell application &quot;Firefox&quot; to activate.</translation>
     </message>
     <message>
         <source>A key code lies between 0 and %1; “keyrill-script keys” prints those that keys have.</source>
-        <translation>يقع رمز المفتاح بين 0 و⁨%1⁩؛ ويطبع الأمر «keyrill-script keys» الرموز التي لها مفاتيح.</translation>
+        <translation>Un código de tecla está entre 0 y %1; «keyrill-script keys» muestra los que tienen las teclas.</translation>
     </message>
     <message>
         <source>A key code is a number; a text is typed with “keystroke”.</source>
-        <translation>رمز المفتاح عدد؛ أما النص فيُكتب بالأمر «keystroke».</translation>
+        <translation>Un código de tecla es un número; un texto se escribe con «keystroke».</translation>
     </message>
     <message>
         <source>The key has a number: key code %1; “keyrill-script keys” prints all.</source>
-        <translation>لهذا المفتاح رقم: ⁦key code %1⁩؛ ويطبع الأمر «keyrill-script keys» كل الأرقام.</translation>
+        <translation>La tecla tiene un número: key code %1; «keyrill-script keys» los muestra todos.</translation>
     </message>
     <message>
         <source>The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.</source>
-        <translation>أجزاء التاريخ هي ⁦year, month, day, weekday, hours, minutes, seconds⁩ و⁦time⁩.</translation>
+        <translation>Las partes de una fecha son year, month, day, weekday, hours, minutes, seconds y time.</translation>
     </message>
     <message>
         <source>Did you mean %1?</source>
-        <translation>هل تقصد ⁨%1⁩؟</translation>
+        <translation>¿Quiso decir %1?</translation>
     </message>
     <message>
         <source>Decimals stand behind a point: delay 0.5.</source>
-        <translation>تُكتب الكسور العشرية بعد نقطة: ⁦delay 0.5⁩.</translation>
+        <translation>Los decimales van detrás de un punto: delay 0.5.</translation>
     </message>
     <message>
         <source>“delay” counts seconds: delay 0.5.</source>
-        <translation>تُكتب قيمة «delay» بالثواني: ⁦delay 0.5⁩.</translation>
+        <translation>«delay» cuenta en segundos: delay 0.5.</translation>
     </message>
     <message>
         <source>A dialog gives a record; what was typed there is taken with: text returned of n.</source>
-        <translation>يعيد مربع الحوار سجلا (record)؛ ويؤخذ ما كُتب فيه هكذا: ⁦text returned of n⁩.</translation>
+        <translation>Un diálogo devuelve un registro (record); lo que se escribió en él se obtiene con: text returned of n.</translation>
     </message>
     <message>
         <source>A modifier stands without quotes: using %1 down.</source>
         <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
-        <translation>يُكتب المفتاح المغيِّر من دون علامتي اقتباس: ⁦using %1 down⁩.</translation>
+        <translation>Una tecla modificadora va sin comillas: using %1 down.</translation>
     </message>
     <message>
         <source>Several modifiers stand in braces: using {control down, shift down}.</source>
-        <translation>توضع المفاتيح المغيِّرة المتعددة بين قوسين متعرجين: ⁦using {control down, shift down}⁩.</translation>
+        <translation>Varias teclas modificadoras van entre llaves: using {control down, shift down}.</translation>
     </message>
     <message>
         <source>Texts are joined with “&amp;”: &quot;one&quot; &amp; &quot;two&quot;.</source>
-        <translation>تُضم النصوص بعضها إلى بعض بالعلامة «&amp;»: ⁦&quot;one&quot; &amp; &quot;two&quot;⁩.</translation>
+        <translation>Los textos se unen con «&amp;»: &quot;one&quot; &amp; &quot;two&quot;.</translation>
     </message>
     <message>
         <source>This compares and changes nothing; a variable is set with “to”: set %1 to …</source>
-        <translation>هذه مقارنة لا تغيّر شيئا؛ تُعيَّن قيمة المتغير بالكلمة «to»: ⁦set %1 to ⁩…</translation>
+        <translation>Esto compara y no cambia nada; a una variable se le da un valor con «to»: set %1 to …</translation>
     </message>
     <message>
         <source>The script has no handler of that name: on %1(…) … end %1.</source>
-        <translation>ليس في السكربت معالج بهذا الاسم: ⁦on %1(…) … end %1⁩.</translation>
+        <translation>El script no tiene ningún manejador con ese nombre: on %1(…) … end %1.</translation>
     </message>
     <message>
         <source>No program takes a command but “activate”; press its keys: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</source>
-        <translation>لا يقبل أي برنامج أمرا غير «activate»؛ اضغط مفاتيحه: ⁦tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down⁩.</translation>
+        <translation>Ningún programa admite más órdenes que «activate»; pulse las teclas que hacen lo mismo en el programa: tell application &quot;System Events&quot; to keystroke &quot;q&quot; using control down.</translation>
     </message>
     <message>
         <source>The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using %1 down.</source>
         <extracomment>%1 is the name of a modifier, &quot;control&quot;.</extracomment>
-        <translation>أسماء المفاتيح المغيِّرة هي ⁦command (Super)⁩ و⁦control (Ctrl)⁩ و⁦option (Alt)⁩ و⁦shift⁩: ⁦using %1 down⁩.</translation>
+        <translation>Las teclas modificadoras se llaman command (Súper), control (Ctrl), option (Alt) y shift (Mayús): using %1 down.</translation>
     </message>
     <message>
         <source>An application is named: application &quot;%1&quot;.</source>
-        <translation>يُذكر التطبيق باسمه: ⁦application &quot;%1&quot;⁩.</translation>
+        <translation>Una aplicación se nombra así: application &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>يوضع النص بين علامتي اقتباس مستقيمتين: ⁦&quot;%1&quot;⁩.</translation>
+        <translation>El texto va entre comillas rectas: &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>A handler has variables of its own; to share this one write there: global %1.</source>
-        <translation>للمعالج متغيراته الخاصة؛ لمشاركة هذا المتغير اكتب في المعالج: ⁦global %1⁩.</translation>
+        <translation>Un manejador tiene sus propias variables; para compartir esta, escriba en él: global %1.</translation>
     </message>
     <message>
         <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>تُعيَّن قيمة المتغير قبل استخدامه: ⁦set %1 to …⁩. ويوضع النص بين علامتي اقتباس مستقيمتين: ⁦&quot;%1&quot;⁩.</translation>
+        <translation>A una variable se le da un valor antes de usarla: set %1 to … El texto va entre comillas rectas: &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
-        <translation>يُضغط المفتاح برقمه: ⁦key code 36⁩ هو المفتاح Return. ويطبع الأمر «keyrill-script keys» كل الأرقام.</translation>
+        <translation>Una tecla se pulsa por su número: key code 36 es Intro. «keyrill-script keys» muestra todos los números.</translation>
     </message>
     <message>
         <source>The date of today is “current date”; as a text: short date string of (current date).</source>
-        <translation>تاريخ اليوم هو «current date»، ويُكتب نصا هكذا: ⁦short date string of (current date)⁩.</translation>
+        <translation>La fecha de hoy es «current date»; como texto: short date string of (current date).</translation>
     </message>
     <message>
         <source>Inside “tell” the script’s own handlers are called with “my”: my %1(…).</source>
-        <translation>داخل «tell» تُستدعى معالجات السكربت نفسه بالكلمة «my»: ⁦my %1(…)⁩.</translation>
+        <translation>Dentro de «tell», los manejadores del propio script se llaman con «my»: my %1(…).</translation>
     </message>
     <message>
         <source>No block is open here; an “if” with its statement in one line has no “else”.</source>
-        <translation>لا توجد هنا كتلة مفتوحة؛ ولا تأخذ عبارة «if» المكتوبة مع أمرها في سطر واحد «else».</translation>
+        <translation>Aquí no hay ningún bloque abierto; un «if» con su instrucción en la misma línea no lleva «else».</translation>
     </message>
     <message>
         <source>No block is open here; an “if” with its statement in one line has no “end if”.</source>
-        <translation>لا توجد هنا كتلة مفتوحة؛ ولا تأخذ عبارة «if» المكتوبة مع أمرها في سطر واحد «end if».</translation>
+        <translation>Aquí no hay ningún bloque abierto; un «if» con su instrucción en la misma línea no lleva «end if».</translation>
     </message>
     <message>
         <source>No block is open here; a “tell … to” in one line has no “end tell”.</source>
-        <translation>لا توجد هنا كتلة مفتوحة؛ ولا تأخذ عبارة «⁦tell … to⁩» المكتوبة في سطر واحد «end tell».</translation>
+        <translation>Aquí no hay ningún bloque abierto; un «tell … to» en una sola línea no lleva «end tell».</translation>
     </message>
     <message>
         <source>No block is open here; this line is one too many.</source>
-        <translation>لا توجد هنا كتلة مفتوحة؛ هذا السطر زائد.</translation>
+        <translation>Aquí no hay ningún bloque abierto; esta línea sobra.</translation>
     </message>
     <message>
         <source>No “if” is open here; an “if” with its statement in one line has no “else”.</source>
-        <translation>لا توجد هنا «if» مفتوحة؛ ولا تأخذ عبارة «if» المكتوبة مع أمرها في سطر واحد «else».</translation>
+        <translation>Aquí no hay ningún «if» abierto; un «if» con su instrucción en la misma línea no lleva «else».</translation>
     </message>
     <message>
         <source>No “if” is open here; an “if” with its statement in one line has no “end if”.</source>
-        <translation>لا توجد هنا «if» مفتوحة؛ ولا تأخذ عبارة «if» المكتوبة مع أمرها في سطر واحد «end if».</translation>
+        <translation>Aquí no hay ningún «if» abierto; un «if» con su instrucción en la misma línea no lleva «end if».</translation>
     </message>
     <message>
         <source>No “tell” is open here; a “tell … to” in one line has no “end tell”.</source>
-        <translation>لا توجد هنا «tell» مفتوحة؛ ولا تأخذ عبارة «⁦tell … to⁩» المكتوبة في سطر واحد «end tell».</translation>
+        <translation>Aquí no hay ningún «tell» abierto; un «tell … to» en una sola línea no lleva «end tell».</translation>
     </message>
     <message>
         <source>No “%1” is open here; the block that begins in line %2 has no “end” of its own.</source>
         <extracomment>%1 is the first word of a block, &quot;repeat&quot;, %2 a number.</extracomment>
-        <translation>لا توجد هنا «⁨%1⁩» مفتوحة؛ وليس للكتلة التي تبدأ في السطر ⁨%2⁩ «end» خاصة بها.</translation>
+        <translation>Aquí no hay ningún «%1» abierto; el bloque que empieza en la línea %2 no tiene su propio «end».</translation>
     </message>
     <message>
         <source>In line %1 these are two words: %2.</source>
         <extracomment>%1 is a number, %2 what the line was meant to be, &quot;end if&quot;.</extracomment>
-        <translation>في السطر ⁨%1⁩ تُكتب هذه كلمتين: ⁦%2⁩.</translation>
+        <translation>En la línea %1 esto se escribe en dos palabras: %2.</translation>
     </message>
     <message>
         <source>The block that begins in line %1 has no “end” of its own.</source>
-        <translation>ليس للكتلة التي تبدأ في السطر ⁨%1⁩ «end» خاصة بها.</translation>
+        <translation>El bloque que empieza en la línea %1 no tiene su propio «end».</translation>
     </message>
     <message>
         <source>The text that begins here is not closed by a straight quote in its line.</source>
-        <translation>النص الذي يبدأ هنا غير مغلق في سطره بعلامة اقتباس مستقيمة.</translation>
+        <translation>El texto que empieza aquí no se cierra con una comilla recta en su línea.</translation>
     </message>
     <message>
         <source>The comment that begins in line %1 is not closed by “*)”.</source>
-        <translation>التعليق الذي يبدأ في السطر ⁨%1⁩ غير مغلق بالعلامة «⁦*)⁩».</translation>
+        <translation>El comentario que empieza en la línea %1 no se cierra con «*)».</translation>
     </message>
     <message>
         <source>The keyboard commands stand inside “tell application &quot;System Events&quot;” … “end tell”.</source>
-        <translation>توضع أوامر لوحة المفاتيح داخل «⁦tell application &quot;System Events&quot;⁩» … «⁦end tell⁩».</translation>
+        <translation>Las órdenes de teclado van dentro de «tell application &quot;System Events&quot;» … «end tell».</translation>
     </message>
     <message>
         <source>Modifiers are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
-        <translation>تُعرف المفاتيح المغيِّرة داخل «⁦tell application &quot;System Events&quot;⁩» … «⁦end tell⁩».</translation>
+        <translation>Las teclas modificadoras se reconocen dentro de «tell application &quot;System Events&quot;» … «end tell».</translation>
     </message>
     <message>
         <source>Processes are known inside “tell application &quot;System Events&quot;” … “end tell”.</source>
-        <translation>تُعرف العمليات داخل «⁦tell application &quot;System Events&quot;⁩» … «⁦end tell⁩».</translation>
+        <translation>Los procesos se reconocen dentro de «tell application &quot;System Events&quot;» … «end tell».</translation>
     </message>
     <message>
         <source>Put straight quotes (&quot;) in place of the curly ones.</source>
-        <translation>ضع علامات اقتباس مستقيمة (⁦&quot;⁩) مكان المنحنية.</translation>
+        <translation>Ponga comillas rectas (&quot;) en lugar de las tipográficas.</translation>
     </message>
     <message>
         <source>A variable is set with “to”: set x to 5.</source>
-        <translation>تُعيَّن قيمة المتغير بالكلمة «to»: ⁦set x to 5⁩.</translation>
+        <translation>A una variable se le da un valor con «to»: set x to 5.</translation>
     </message>
     <message>
         <source>A loop is written: repeat with i from 1 to 5 … end repeat.</source>
-        <translation>تُكتب الحلقة هكذا: ⁦repeat with i from 1 to 5 … end repeat⁩.</translation>
+        <translation>Un bucle se escribe así: repeat with i from 1 to 5 … end repeat.</translation>
     </message>
     <message>
         <source>A handler is written: on greet(x) … end greet.</source>
-        <translation>يُكتب المعالج هكذا: ⁦on greet(x) … end greet⁩.</translation>
+        <translation>Un manejador se escribe así: on greet(x) … end greet.</translation>
     </message>
     <message>
         <source>Several stand in braces: {control down, shift down}, {36, 48}.</source>
-        <translation>توضع القيم المتعددة بين قوسين متعرجين: ⁦{control down, shift down}⁩، ⁦{36, 48}⁩.</translation>
+        <translation>Si son varios, van entre llaves: {control down, shift down}, {36, 48}.</translation>
     </message>
     <message>
         <source>These are two words: else if … then.</source>
-        <translation>تُكتب هذه كلمتين: ⁦else if … then⁩.</translation>
+        <translation>Esto se escribe en dos palabras: else if … then.</translation>
     </message>
     <message>
         <source>Text is typed with “keystroke”, and Return joined with “&amp;”: keystroke &quot;hello&quot; &amp; return.</source>
-        <translation>يُكتب النص بالأمر «keystroke»، ويُضم المفتاح Return بالعلامة «&amp;»: ⁦keystroke &quot;hello&quot; &amp; return⁩.</translation>
+        <translation>El texto se escribe con «keystroke», e Intro se añade con «&amp;»: keystroke &quot;hello&quot; &amp; return.</translation>
     </message>
     <message>
         <source>A key goes down and up again with: keystroke return, key code 53. It is held with: key down 36, and let go with: key up 36.</source>
-        <translation>يُضغط المفتاح ويُفلت هكذا: ⁦keystroke return⁩ أو ⁦key code 53⁩. ويبقى مضغوطا هكذا: ⁦key down 36⁩، ويُفلت هكذا: ⁦key up 36⁩.</translation>
+        <translation>Una tecla se pulsa y se suelta con: keystroke return, key code 53. Se mantiene pulsada con: key down 36, y se suelta con: key up 36.</translation>
     </message>
     <message>
         <source>A macro has no mouse; press the keys that do the same, as Tab and Return.</source>
-        <translation>لا يستخدم الماكرو الفأرة؛ اضغط المفاتيح التي تؤدي الغرض نفسه، مثل Tab و Return.</translation>
+        <translation>Una macro no tiene ratón; pulse las teclas que hacen lo mismo, como Tab e Intro.</translation>
     </message>
     <message>
         <source>Conditions are joined with “and” or “or”.</source>
-        <translation>تُربط الشروط بالكلمة «and» أو «or».</translation>
+        <translation>Las condiciones se unen con «and» u «or».</translation>
     </message>
     <message>
         <source>Of a process its name is known, and whether it is in front: every process whose name contains &quot;fire&quot;.</source>
-        <translation>يُعرف عن العملية اسمها وما إذا كانت في الأمام: ⁦every process whose name contains &quot;fire&quot;⁩.</translation>
+        <translation>De un proceso se conoce su nombre y si está en primer plano: every process whose name contains &quot;fire&quot;.</translation>
     </message>
     <message>
         <source>Windows, buttons and menus are not to be seen by a macro; press the keys that do the same.</source>
-        <translation>لا يرى الماكرو النوافذ والأزرار والقوائم؛ اضغط المفاتيح التي تؤدي الغرض نفسه.</translation>
+        <translation>Una macro no puede ver ventanas, botones ni menús; pulse las teclas que hacen lo mismo.</translation>
     </message>
     <message>
         <source>Modifiers stand behind “using”: keystroke &quot;s&quot; using control down.</source>
-        <translation>توضع المفاتيح المغيِّرة بعد «using»: ⁦keystroke &quot;s&quot; using control down⁩.</translation>
+        <translation>Las teclas modificadoras van detrás de «using»: keystroke &quot;s&quot; using control down.</translation>
     </message>
     <message>
         <source>What is done several times stands in lines of its own between “repeat 5 times” and “end repeat”.</source>
-        <translation>يُكتب ما يتكرر عدة مرات في أسطر مستقلة بين «⁦repeat 5 times⁩» و«⁦end repeat⁩».</translation>
+        <translation>Lo que se hace varias veces va en líneas propias entre «repeat 5 times» y «end repeat».</translation>
     </message>
     <message>
         <source>Each statement has a line of its own.</source>
-        <translation>لكل أمر سطر مستقل.</translation>
+        <translation>Cada instrucción va en su propia línea.</translation>
     </message>
     <message>
         <source>A macro has no files; a text comes from “the clipboard” or from a dialog.</source>
-        <translation>لا يتعامل الماكرو مع الملفات؛ يأتي النص من «the clipboard» أو من مربع حوار.</translation>
+        <translation>Una macro no tiene acceso a archivos; un texto se obtiene de «the clipboard» o de un diálogo.</translation>
     </message>
     <message>
         <source>A variable is set with “to”: set x to x + 1.</source>
-        <translation>تُعيَّن قيمة المتغير بالكلمة «to»: ⁦set x to x + 1⁩.</translation>
+        <translation>A una variable se le da un valor con «to»: set x to x + 1.</translation>
     </message>
     <message>
         <source>A parenthesis is not closed in this line.</source>
-        <translation>يوجد في هذا السطر قوس غير مغلق.</translation>
+        <translation>En esta línea hay un paréntesis sin cerrar.</translation>
     </message>
     <message>
         <source>A brace is not closed in this line.</source>
-        <translation>يوجد في هذا السطر قوس متعرج غير مغلق.</translation>
+        <translation>En esta línea hay una llave sin cerrar.</translation>
     </message>
     <message>
         <source>Press the keys that start it, or bring a window to the front: tell application &quot;Firefox&quot; to activate.</source>
-        <translation>اضغط المفاتيح التي تبدأ البرنامج، أو اجلب نافذة إلى الأمام: ⁦tell application &quot;Firefox&quot; to activate⁩.</translation>
+        <translation>Pulse las teclas que inician el programa o traiga una ventana al primer plano: tell application &quot;Firefox&quot; to activate.</translation>
     </message>
     <message>
         <source>Write the command by its name.</source>
-        <translation>اكتب الأمر باسمه.</translation>
+        <translation>Escriba la orden con su nombre.</translation>
     </message>
     <message>
         <source>A shortcut is written: keystroke &quot;c&quot; using control down.</source>
-        <translation>يُكتب الاختصار هكذا: ⁦keystroke &quot;c&quot; using control down⁩.</translation>
+        <translation>Una combinación de teclas se escribe así: keystroke &quot;c&quot; using control down.</translation>
     </message>
     <message>
         <source>Only processes are chosen by “whose”; go through a list with: repeat with x in theList … end repeat.</source>
-        <translation>لا يُختار بالكلمة «whose» غير العمليات؛ ويُمر على عناصر القائمة هكذا: ⁦repeat with x in theList … end repeat⁩.</translation>
+        <translation>Solo los procesos se seleccionan con «whose»; recorra una lista con: repeat with x in theList … end repeat.</translation>
     </message>
     <message>
         <source>Behind “default answer” stands a text, be it empty: default answer &quot;&quot;.</source>
-        <translation>يأتي بعد «default answer» نص وإن كان فارغا: ⁦default answer &quot;&quot;⁩.</translation>
+        <translation>Detrás de «default answer» va un texto, aunque esté vacío: default answer &quot;&quot;.</translation>
     </message>
     <message>
         <source>An “if” in one line has no “else”; write it in lines, with “end if”.</source>
-        <translation>لا تأخذ عبارة «if» المكتوبة في سطر واحد «else»؛ اكتبها في عدة أسطر تنتهي بعبارة «end if».</translation>
+        <translation>Un «if» en una sola línea no lleva «else»; escríbalo en varias líneas, con «end if».</translation>
     </message>
     <message>
         <source>Decimals stand behind a point: 0.5.</source>
-        <translation>تُكتب الكسور العشرية بعد نقطة: ⁦0.5⁩.</translation>
+        <translation>Los decimales van detrás de un punto: 0.5.</translation>
     </message>
     <message>
         <source>“delay” counts seconds, without a unit: delay 0.5.</source>
-        <translation>تُكتب قيمة «delay» بالثواني، من دون وحدة: ⁦delay 0.5⁩.</translation>
+        <translation>«delay» cuenta en segundos, sin unidad: delay 0.5.</translation>
     </message>
     <message>
         <source>A key is let go with: key up &quot;a&quot;.</source>
-        <translation>يُفلت المفتاح هكذا: ⁦key up &quot;a&quot;⁩.</translation>
+        <translation>Una tecla se suelta con: key up &quot;a&quot;.</translation>
     </message>
     <message>
         <source>Text is typed with “keystroke”, a key is pressed by its number: key code 36.</source>
-        <translation>يُكتب النص بالأمر «keystroke»، ويُضغط المفتاح برقمه: ⁦key code 36⁩.</translation>
+        <translation>El texto se escribe con «keystroke»; una tecla se pulsa por su número: key code 36.</translation>
     </message>
     <message>
         <source>A key is held with “key down” and let go with “key up”: key down shift.</source>
-        <translation>يبقى المفتاح مضغوطا بالأمر «key down» ويُفلت بالأمر «key up»: ⁦key down shift⁩.</translation>
+        <translation>Una tecla se mantiene pulsada con «key down» y se suelta con «key up»: key down shift.</translation>
     </message>
     <message>
         <source>The text in the clipboard is: the clipboard.</source>
-        <translation>يُكتب النص الموجود في الحافظة هكذا: ⁦the clipboard⁩.</translation>
+        <translation>El texto del portapapeles es: the clipboard.</translation>
     </message>
     <message>
         <source>A loop is written: repeat 5 times … end repeat.</source>
-        <translation>تُكتب الحلقة هكذا: ⁦repeat 5 times … end repeat⁩.</translation>
+        <translation>Un bucle se escribe así: repeat 5 times … end repeat.</translation>
     </message>
     <message>
         <source>Behind the name stands “to”, or the line ends there: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</source>
-        <translation>يأتي بعد الاسم «to» أو ينتهي السطر هناك: ⁦tell application &quot;System Events&quot; to keystroke &quot;a&quot;⁩.</translation>
+        <translation>Detrás del nombre va «to», o la línea termina ahí: tell application &quot;System Events&quot; to keystroke &quot;a&quot;.</translation>
     </message>
     <message>
         <source>The name stands between straight quotes: tell application &quot;System Events&quot;.</source>
-        <translation>يوضع الاسم بين علامتي اقتباس مستقيمتين: ⁦tell application &quot;System Events&quot;⁩.</translation>
+        <translation>El nombre va entre comillas rectas: tell application &quot;System Events&quot;.</translation>
     </message>
     <message>
         <source>A loop is written: repeat while x &lt; 5 … end repeat.</source>
-        <translation>تُكتب الحلقة هكذا: ⁦repeat while x &lt; 5 … end repeat⁩.</translation>
+        <translation>Un bucle se escribe así: repeat while x &lt; 5 … end repeat.</translation>
     </message>
     <message>
         <source>A comment begins with -- or #.</source>
-        <translation>يبدأ التعليق بالعلامة ⁦--⁩ أو ⁦#⁩.</translation>
+        <translation>Un comentario empieza por -- o #.</translation>
     </message>
     <message>
         <source>A comment over lines is written (* … *).</source>
-        <translation>يُكتب التعليق الممتد على عدة أسطر هكذا: ⁦(* … *)⁩.</translation>
+        <translation>Un comentario de varias líneas se escribe (* … *).</translation>
     </message>
     <message>
         <source>“Equal” is written with one =.</source>
-        <translation>تُكتب «يساوي» بعلامة ⁦=⁩ واحدة.</translation>
+        <translation>«Igual» se escribe con un solo =.</translation>
     </message>
     <message>
         <source>A text is not closed by a straight quote.</source>
-        <translation>يوجد نص غير مغلق بعلامة اقتباس مستقيمة.</translation>
+        <translation>Hay un texto que no se cierra con una comilla recta.</translation>
     </message>
     <message>
         <source>A backslash in a text is written twice: &quot;C:\\Users&quot;.</source>
-        <translation>تُكتب الشرطة المائلة العكسية في النص مرتين: ⁦&quot;C:\\Users&quot;⁩.</translation>
+        <translation>Una barra inversa en un texto se escribe dos veces: &quot;C:\\Users&quot;.</translation>
     </message>
     <message>
         <source>Behind “as” stands a class: text, integer, real, number, boolean, list, record, date.</source>
-        <translation>يأتي بعد «as» صنف: ⁦text, integer, real, number, boolean, list, record, date⁩.</translation>
+        <translation>Detrás de «as» va una clase: text, integer, real, number, boolean, list, record, date.</translation>
     </message>
     <message>
         <source>A block has no braces: if x = 1 then … end if.</source>
-        <translation>تُكتب الكتلة من دون أقواس متعرجة: ⁦if x = 1 then … end if⁩.</translation>
+        <translation>Un bloque no lleva llaves: if x = 1 then … end if.</translation>
     </message>
     <message>
         <source>A block has no braces; it ends with “end” and its first word: end repeat.</source>
-        <translation>تُكتب الكتلة من دون أقواس متعرجة؛ فهي تنتهي بالكلمة «end» وكلمتها الأولى: ⁦end repeat⁩.</translation>
+        <translation>Un bloque no lleva llaves; termina con «end» y su primera palabra: end repeat.</translation>
     </message>
     <message>
         <source>A line needs no colon at its end.</source>
-        <translation>لا يحتاج السطر إلى نقطتين في آخره.</translation>
+        <translation>Una línea no necesita dos puntos al final.</translation>
     </message>
     <message>
         <source>Other letters than A to Z stand in a name between bars: |%1|.</source>
-        <translation>يوضع الاسم الذي فيه حروف غير الحروف من A إلى Z بين خطين عموديين: ⁦|%1|⁩.</translation>
+        <translation>Un nombre con letras que no sean de la A a la Z va entre barras verticales: |%1|.</translation>
     </message>
     <message>
         <source>Other letters than A to Z stand in a name between bars: |%1|. Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>يوضع الاسم الذي فيه حروف غير الحروف من A إلى Z بين خطين عموديين: ⁦|%1|⁩. ويوضع النص بين علامتي اقتباس مستقيمتين: ⁦&quot;%1&quot;⁩.</translation>
+        <translation>Un nombre con letras que no sean de la A a la Z va entre barras verticales: |%1|. El texto va entre comillas rectas: &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>A sign that nobody sees stands here; delete it.</source>
-        <translation>يوجد هنا محرف لا يُرى؛ احذفه.</translation>
+        <translation>Aquí hay un carácter invisible; elimínelo.</translation>
     </message>
     <message>
         <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
         <extracomment>“Macros…” is an entry of the menu.</extracomment>
-        <translation>ليس الاختصار العام جزءا من السكربت؛ يُعيَّن في التفضيلات، أو لكل ماكرو في «وحدات الماكرو...».</translation>
+        <translation>Un atajo de teclado no forma parte de un script; se define en las preferencias o, para cada macro, en «Macros...».</translation>
     </message>
     <message>
         <source>“Not equal” is written ≠ or /=.</source>
-        <translation>تُكتب «لا يساوي» هكذا: ⁦≠⁩ أو ⁦/=⁩.</translation>
+        <translation>«Distinto» se escribe ≠ o /=.</translation>
     </message>
     <message>
         <source>An item is taken by its number: item 1 of x.</source>
-        <translation>يؤخذ العنصر برقمه: ⁦item 1 of x⁩.</translation>
+        <translation>Un elemento se obtiene por su número: item 1 of x.</translation>
     </message>
     <message>
         <source>What belongs to a value is taken with “of”: length of x.</source>
-        <translation>يؤخذ ما يتبع القيمة بالكلمة «of»: ⁦length of x⁩.</translation>
+        <translation>Lo que pertenece a un valor se obtiene con «of»: length of x.</translation>
     </message>
     <message>
         <source>A list stands in braces: {1, 2}.</source>
-        <translation>توضع القائمة بين قوسين متعرجين: ⁦{1, 2}⁩.</translation>
+        <translation>Una lista va entre llaves: {1, 2}.</translation>
     </message>
     <message>
         <source>The rest of a division is written: 7 mod 2.</source>
-        <translation>يُكتب باقي القسمة هكذا: ⁦7 mod 2⁩.</translation>
+        <translation>El resto de una división se escribe: 7 mod 2.</translation>
     </message>
     <message>
         <source>Text stands between straight double quotes (&quot;).</source>
-        <translation>يوضع النص بين علامتي اقتباس مزدوجتين مستقيمتين (⁦&quot;⁩).</translation>
+        <translation>El texto va entre comillas dobles rectas (&quot;).</translation>
     </message>
     <message>
         <source>A quote inside a text is written \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</source>
-        <translation>تُكتب علامة الاقتباس داخل النص ⁦\&quot;⁩: ⁦&quot;Hello \&quot;world\&quot;&quot;⁩.</translation>
+        <translation>Una comilla dentro de un texto se escribe \&quot;: &quot;Hello \&quot;world\&quot;&quot;.</translation>
     </message>
     <message>
         <source>Take the items in parts, or paragraphs instead of characters.</source>
-        <translation>خذ العناصر على أجزاء، أو خذ الفقرات بدل المحارف.</translation>
+        <translation>Tome los elementos por partes o use párrafos en lugar de caracteres.</translation>
     </message>
 </context>
 <context>
     <name>HotKeys</name>
     <message>
         <source>GNOME&apos;s settings cannot be changed</source>
-        <translation>يتعذر تغيير إعدادات GNOME</translation>
+        <translation>no se pueden cambiar los ajustes de GNOME</translation>
     </message>
     <message>
         <source>your settings of GNOME have another entry in its place</source>
-        <translation>في إعداداتك في GNOME مدخلة أخرى مكانه</translation>
+        <translation>sus ajustes de GNOME tienen otra entrada en su lugar</translation>
     </message>
     <message>
         <source>your own shortcut “%1” in GNOME&apos;s settings has it</source>
-        <translation>يستخدمه اختصارك المخصص «⁨%1⁩» في إعدادات GNOME</translation>
+        <translation>lo usa su atajo personalizado «%1» en los ajustes de GNOME</translation>
     </message>
     <message>
         <source>GNOME has it for “%1”</source>
-        <translation>يستخدمه GNOME من أجل «⁨%1⁩»</translation>
+        <translation>GNOME lo usa para «%1»</translation>
     </message>
     <message>
         <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
-        <translation>لا يتيح GNOME الاختصارات العامة إلا في إعداداتك أنت، وغير مسموح لبرنامج Keyrill بتغييرها</translation>
+        <translation>GNOME solo ofrece atajos de teclado en los ajustes del usuario, que Keyrill no tiene permiso para cambiar</translation>
     </message>
     <message>
         <source>GNOME has no name for it</source>
-        <translation>لا اسم له في GNOME</translation>
+        <translation>GNOME no tiene ningún nombre para este atajo</translation>
     </message>
     <message>
         <source>it has been taken out of GNOME&apos;s settings</source>
-        <translation>أُزيل من إعدادات GNOME</translation>
+        <translation>se ha quitado de los ajustes de GNOME</translation>
     </message>
     <message>
         <source>KDE has no name for this key</source>
-        <translation>لا اسم لهذا المفتاح في KDE</translation>
+        <translation>KDE no tiene ningún nombre para esta tecla</translation>
     </message>
     <message>
         <source>KDE says: %1</source>
-        <translation>يقول KDE: ⁨%1⁩</translation>
+        <translation>KDE dice: %1</translation>
     </message>
     <message>
         <source>KDE uses it for something else</source>
-        <translation>يستخدمه KDE لشيء آخر</translation>
+        <translation>KDE lo usa para otra cosa</translation>
     </message>
     <message>
         <source>KDE does not give it</source>
-        <translation>لا يتيحه KDE</translation>
+        <translation>KDE no lo concede</translation>
     </message>
     <message>
         <source>%1 has it for “%2”</source>
-        <translation>يستخدمه ⁨%1⁩ من أجل «⁨%2⁩»</translation>
+        <translation>%1 lo usa para «%2»</translation>
     </message>
     <message>
         <source>the desktop has not granted it</source>
-        <translation>لم يمنحه سطح المكتب</translation>
+        <translation>el escritorio no lo ha concedido</translation>
     </message>
     <message>
         <source>you did not agree when the desktop asked</source>
-        <translation>لم توافق عندما سألك سطح المكتب</translation>
+        <translation>usted no aceptó cuando el escritorio se lo pidió</translation>
     </message>
     <message>
         <source>the desktop has not answered</source>
-        <translation>لم يستجب سطح المكتب</translation>
+        <translation>el escritorio no ha respondido</translation>
     </message>
     <message>
         <source>the desktop has refused it</source>
-        <translation>رفضه سطح المكتب</translation>
+        <translation>el escritorio lo ha rechazado</translation>
     </message>
     <message>
         <source>there is no session bus</source>
-        <translation>لا يوجد ناقل جلسة</translation>
+        <translation>no hay ningún bus de sesión</translation>
     </message>
     <message>
         <source>the desktop&apos;s portal does not answer</source>
-        <translation>بوابة سطح المكتب لا تستجيب</translation>
+        <translation>el portal del escritorio no responde</translation>
     </message>
     <message>
         <source>the desktop&apos;s portal gives no hot keys</source>
-        <translation>لا تتيح بوابة سطح المكتب اختصارات عامة</translation>
+        <translation>el portal del escritorio no ofrece atajos de teclado</translation>
     </message>
     <message>
         <source>the desktop has taken it back</source>
-        <translation>سحبه سطح المكتب</translation>
+        <translation>el escritorio lo ha retirado</translation>
     </message>
     <message>
         <source>the desktop&apos;s portal has ended</source>
-        <translation>انتهت بوابة سطح المكتب</translation>
+        <translation>el portal del escritorio se ha cerrado</translation>
     </message>
     <message>
         <source>your configuration of sway binds it</source>
-        <translation>يربطه ضبطك الخاص ببرنامج sway</translation>
+        <translation>está asignado en su configuración de sway</translation>
     </message>
     <message>
         <source>Choose another combination.</source>
-        <translation>اختر توليفة أخرى.</translation>
+        <translation>Elija otra combinación.</translation>
     </message>
     <message>
         <source>Choose another combination, or allow it in the desktop&apos;s settings.</source>
-        <translation>اختر توليفة أخرى، أو اسمح بهذه في إعدادات سطح المكتب.</translation>
+        <translation>Elija otra combinación o permita esta en los ajustes del escritorio.</translation>
     </message>
     <message>
         <source>Choose another combination, or free it in the program that holds it.</source>
-        <translation>اختر توليفة أخرى، أو حرّر هذه في البرنامج الذي يحجزها.</translation>
+        <translation>Elija otra combinación o libere esta en el programa que la usa.</translation>
     </message>
     <message>
         <source>%1 cannot be used: %2.</source>
         <extracomment>%1 is a combination of keys, %2 one of the reasons: another program holds it</extracomment>
-        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: ⁨%2⁩.</translation>
+        <translation>No se puede usar %1: %2.</translation>
     </message>
     <message>
         <source>%1 cannot be used: the keyboard layout has no key for the third level (AltGr).</source>
         <extracomment>%1 is a combination of keys.</extracomment>
-        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: ليس في تخطيط لوحة المفاتيح مفتاح للمستوى الثالث (AltGr).</translation>
+        <translation>No se puede usar %1: la distribución de teclado no tiene ninguna tecla para el tercer nivel (AltGr).</translation>
     </message>
     <message>
         <source>%1 cannot be used: the keyboard layout has no key for the fifth level.</source>
         <extracomment>%1 is a combination of keys.</extracomment>
-        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: ليس في تخطيط لوحة المفاتيح مفتاح للمستوى الخامس.</translation>
+        <translation>No se puede usar %1: la distribución de teclado no tiene ninguna tecla para el quinto nivel.</translation>
     </message>
     <message>
         <source>%1 cannot be used: the keyboard layout has no key for %2.</source>
         <extracomment>%1 is a combination of keys, %2 a modifier: Super</extracomment>
-        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: ليس في تخطيط لوحة المفاتيح مفتاح ⁨%2⁩.</translation>
+        <translation>No se puede usar %1: la distribución de teclado no tiene ninguna tecla para %2.</translation>
     </message>
     <message>
         <source>%1 cannot be used: Keyrill uses it for something else.</source>
         <extracomment>%1 is a combination of keys.</extracomment>
-        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: يستخدمه Keyrill لشيء آخر.</translation>
+        <translation>No se puede usar %1: Keyrill lo usa para otra cosa.</translation>
     </message>
     <message>
         <source>%1 cannot be used: this desktop has no such key.</source>
         <extracomment>%1 is a combination of keys.</extracomment>
-        <translation>لا يمكن استخدام الاختصار ⁨%1⁩: ليس في سطح المكتب هذا مفتاح كهذا.</translation>
+        <translation>No se puede usar %1: este escritorio no tiene esa tecla.</translation>
     </message>
     <message>
         <source>%1 cannot be used: nobody could type it any more.</source>
         <extracomment>%1 is a key.</extracomment>
-        <translation>لا يمكن استخدام المفتاح ⁨%1⁩: لن يستطيع أحد كتابته بعد ذلك.</translation>
+        <translation>No se puede usar %1: ya no se podría escribir con esa tecla.</translation>
     </message>
     <message>
         <source>Add Ctrl, Alt or Super.</source>
-        <translation>أضف Ctrl أو Alt أو Super.</translation>
+        <translation>Añada Ctrl, Alt o Súper.</translation>
     </message>
     <message>
         <source>This compositor gives no hot keys to programs.</source>
-        <translation>لا يتيح هذا المُركِّب اختصارات عامة للبرامج.</translation>
+        <translation>Este compositor no ofrece atajos de teclado a los programas.</translation>
     </message>
     <message>
         <source>Bind keys to commands in the compositor&apos;s own settings.</source>
-        <translation>اربط المفاتيح بأوامر في إعدادات المُركِّب نفسه.</translation>
+        <translation>Asigne teclas a órdenes en los ajustes del propio compositor.</translation>
     </message>
     <message>
         <source>this compositor gives no hot keys to programs</source>
-        <translation>لا يتيح هذا المُركِّب اختصارات عامة للبرامج</translation>
+        <translation>este compositor no ofrece atajos de teclado a los programas</translation>
     </message>
     <message>
         <source>another program holds it</source>
-        <translation>يحجزه برنامج آخر</translation>
+        <translation>otro programa lo usa</translation>
     </message>
     <message>
         <source>the X server refuses it with error %1</source>
-        <translation>يرفضه خادم X بالخطأ ⁨%1⁩</translation>
+        <translation>el servidor X lo rechaza con el error %1</translation>
     </message>
     <message>
         <source>the X server is gone</source>
-        <translation>اختفى خادم X</translation>
+        <translation>el servidor X ha desaparecido</translation>
     </message>
 </context>
 <context>
     <name>Keyboards</name>
     <message>
         <source>The keyboard cannot be read: %1: %2.</source>
-        <translation>تتعذر قراءة لوحة المفاتيح: ⁨%1⁩: ⁨%2⁩.</translation>
+        <translation>No se puede leer el teclado: %1: %2.</translation>
     </message>
     <message>
         <source>Let the keyboard be read while a macro is recorded.</source>
-        <translation>اسمح بقراءة لوحة المفاتيح أثناء تسجيل ماكرو.</translation>
+        <translation>Permita que se lea el teclado mientras se graba una macro.</translation>
     </message>
     <message>
         <source>The keyboard can no longer be read: the permission has ended.</source>
-        <translation>لم تعد قراءة لوحة المفاتيح ممكنة: انتهى الإذن.</translation>
+        <translation>Ya no se puede leer el teclado: el permiso ha dejado de ser válido.</translation>
     </message>
     <message>
         <source>Another user&apos;s session may be in front, or the screen is locked.</source>
-        <translation>ربما كانت جلسة مستخدم آخر في المقدمة، أو كانت الشاشة مقفلة.</translation>
+        <translation>Puede que la sesión de otro usuario esté en primer plano o que la pantalla esté bloqueada.</translation>
     </message>
     <message>
         <source>The keyboard cannot be read: there is no system bus.</source>
-        <translation>تتعذر قراءة لوحة المفاتيح: لا يوجد ناقل نظام.</translation>
+        <translation>No se puede leer el teclado: no hay ningún bus del sistema.</translation>
     </message>
     <message>
         <source>What it says stands in the system&apos;s journal: journalctl -u keyrill-access.</source>
-        <translation>رسائل الخدمة موجودة في سجل النظام: journalctl -u keyrill-access.</translation>
+        <translation>Sus mensajes están en el registro del sistema: journalctl -u keyrill-access.</translation>
     </message>
     <message>
         <source>The keyboard is no longer read: the service keyrill-access has ended.</source>
-        <translation>لم تعد لوحة المفاتيح تُقرأ: انتهت الخدمة keyrill-access.</translation>
+        <translation>Ya no se lee el teclado: el servicio keyrill-access se ha detenido.</translation>
     </message>
     <message>
         <source>Keyrill may not read the keyboard: permission was not given.</source>
-        <translation>لا يُسمح لبرنامج Keyrill بقراءة لوحة المفاتيح: لم يُمنح الإذن.</translation>
+        <translation>Keyrill no puede leer el teclado: no se ha dado permiso.</translation>
     </message>
     <message>
         <source>Record again and agree when you are asked for your password.</source>
-        <translation>سجّل من جديد ووافق عندما تُطلب منك كلمة السر.</translation>
+        <translation>Vuelva a grabar y acepte cuando se le pida la contraseña.</translation>
     </message>
     <message>
         <source>Keyrill cannot read the keyboard: the service keyrill-access is not installed.</source>
-        <translation>لا يستطيع Keyrill قراءة لوحة المفاتيح: الخدمة keyrill-access غير مثبتة.</translation>
+        <translation>Keyrill no puede leer el teclado: el servicio keyrill-access no está instalado.</translation>
     </message>
     <message>
         <source>Install the package keyrill-wayland-access or, from Keyrill&apos;s sources, tools/access install.</source>
-        <translation>ثبّت الحزمة keyrill-wayland-access، أو نفّذ tools/access install من مصادر Keyrill.</translation>
+        <translation>Instale el paquete keyrill-wayland-access o ejecute tools/access install en el código fuente de Keyrill.</translation>
     </message>
     <message>
         <source>Keyrill cannot read the keyboard: the service keyrill-access does not work.</source>
-        <translation>لا يستطيع Keyrill قراءة لوحة المفاتيح: الخدمة keyrill-access لا تعمل.</translation>
+        <translation>Keyrill no puede leer el teclado: el servicio keyrill-access no funciona.</translation>
     </message>
     <message>
         <source>A Wayland session shows this program nothing of what is typed in others.</source>
-        <translation>لا تُظهر جلسة Wayland لهذا البرنامج شيئا مما يُكتب في غيره.</translation>
+        <translation>Una sesión de Wayland no muestra a este programa nada de lo que se escribe en otros.</translation>
     </message>
     <message>
         <source>Record with keyrill itself, or use an X11 session.</source>
-        <translation>سجّل بالبرنامج keyrill نفسه، أو استخدم جلسة X11.</translation>
+        <translation>Grabe con el propio keyrill o use una sesión X11.</translation>
     </message>
 </context>
 <context>
     <name>Keys</name>
     <message>
         <source>This desktop lets no program press keys: no portal for it answers.</source>
-        <translation>لا يسمح سطح المكتب هذا لأي برنامج بضغط المفاتيح: لا تستجيب أي بوابة مخصصة لذلك.</translation>
+        <translation>Este escritorio no permite que ningún programa pulse teclas: no responde ningún portal para ello.</translation>
     </message>
     <message>
         <source>Install xdg-desktop-portal and the part of it that belongs to your desktop.</source>
-        <translation>ثبّت xdg-desktop-portal والجزء الخاص بسطح مكتبك منه.</translation>
+        <translation>Instale xdg-desktop-portal y la parte que corresponde a su escritorio.</translation>
     </message>
     <message>
         <source>The desktop was not allowed to let Keyrill press keys.</source>
-        <translation>لم يُسمح لسطح المكتب بأن يتيح لبرنامج Keyrill ضغط المفاتيح.</translation>
+        <translation>No se ha dado permiso al escritorio para que Keyrill pulse teclas.</translation>
     </message>
     <message>
         <source>Play again, and agree when you are asked.</source>
-        <translation>شغّل الماكرو من جديد، ووافق عندما تُسأل.</translation>
+        <translation>Repita la reproducción y acepte cuando se le pregunte.</translation>
     </message>
     <message>
         <source>The desktop has not answered whether Keyrill may press keys.</source>
-        <translation>لم يُجب سطح المكتب عما إذا كان يُسمح لبرنامج Keyrill بضغط المفاتيح.</translation>
+        <translation>El escritorio no ha indicado si Keyrill puede pulsar teclas.</translation>
     </message>
     <message>
         <source>Play again; if nothing asks you, log in again.</source>
-        <translation>شغّل الماكرو من جديد؛ وإذا لم تُسأل عن شيء، فأعد الولوج.</translation>
+        <translation>Repita la reproducción; si no se le pregunta nada, cierre la sesión y vuelva a iniciarla.</translation>
     </message>
     <message>
         <source>The desktop no longer lets Keyrill press keys.</source>
-        <translation>لم يعد سطح المكتب يسمح لبرنامج Keyrill بضغط المفاتيح.</translation>
+        <translation>El escritorio ya no permite que Keyrill pulse teclas.</translation>
     </message>
     <message>
         <source>Play again; it may ask for your permission.</source>
-        <translation>شغّل الماكرو من جديد؛ قد يُطلب إذنك.</translation>
+        <translation>Repita la reproducción; puede que el escritorio le pida permiso.</translation>
     </message>
     <message>
         <source>The power key cannot be pressed by a script.</source>
-        <translation>لا يمكن لسكربت أن يضغط مفتاح الطاقة.</translation>
+        <translation>Un script no puede pulsar la tecla de encendido.</translation>
     </message>
     <message>
         <source>Take key code 127 out of the script.</source>
-        <translation>أزل رمز المفتاح 127 من السكربت.</translation>
+        <translation>Quite el código de tecla 127 del script.</translation>
     </message>
     <message>
         <source>The text to type is not UTF-8 at byte %1.</source>
         <extracomment>%1 is a number.</extracomment>
-        <translation>النص المراد كتابته ليس بترميز UTF-8 عند البايت ⁨%1⁩.</translation>
+        <translation>El texto que se va a escribir no es UTF-8 en el byte %1.</translation>
     </message>
     <message>
         <source>Save the script as UTF-8.</source>
-        <translation>احفظ السكربت بترميز UTF-8.</translation>
+        <translation>Guarde el script como UTF-8.</translation>
     </message>
     <message>
         <source>&quot;%1...&quot;</source>
         <extracomment>The beginning of a text that is longer, in quotation marks.</extracomment>
-        <translation>«⁨%1...⁩»</translation>
+        <translation>«%1...»</translation>
     </message>
     <message>
         <source>&quot;%1&quot;</source>
         <extracomment>A text in quotation marks.</extracomment>
-        <translation>«⁨%1⁩»</translation>
+        <translation>«%1»</translation>
     </message>
     <message>
         <source>&quot;%1&quot; (%2)</source>
         <extracomment>%1 is a character, %2 its code: U+00E9</extracomment>
-        <translation>«⁨%1⁩» (⁨%2⁩)</translation>
+        <translation>«%1» (%2)</translation>
     </message>
     <message>
         <source>The character %1 cannot be typed with the keyboard layout that is in force.</source>
-        <translation>لا يمكن كتابة المحرف ⁨%1⁩ بتخطيط لوحة المفاتيح الحالي.</translation>
+        <translation>El carácter %1 no se puede escribir con la distribución de teclado activa.</translation>
     </message>
     <message>
         <source>Take it out of the text, or switch to a layout that has it before you play.</source>
-        <translation>أزله من النص، أو انتقل إلى تخطيط يحتويه قبل التشغيل.</translation>
+        <translation>Quítelo del texto o cambie a una distribución que lo tenga antes de reproducir.</translation>
     </message>
     <message>
         <source>The character %1 cannot be typed with your keyboard layouts.</source>
-        <translation>لا يمكن كتابة المحرف ⁨%1⁩ بتخطيطات لوحة مفاتيحك.</translation>
+        <translation>El carácter %1 no se puede escribir con sus distribuciones de teclado.</translation>
     </message>
     <message>
         <source>Take it out of the text, or add a layout that has it.</source>
-        <translation>أزله من النص، أو أضف تخطيطا يحتويه.</translation>
+        <translation>Quítelo del texto o añada una distribución que lo tenga.</translation>
     </message>
     <message>
         <source>The character %1 cannot be typed with this keyboard layout.</source>
-        <translation>لا يمكن كتابة المحرف ⁨%1⁩ بتخطيط لوحة المفاتيح هذا.</translation>
+        <translation>El carácter %1 no se puede escribir con esta distribución de teclado.</translation>
     </message>
     <message>
         <source>Take it out of the text, or set a layout that has it.</source>
-        <translation>أزله من النص، أو عيّن تخطيطا يحتويه.</translation>
+        <translation>Quítelo del texto o establezca una distribución que lo tenga.</translation>
     </message>
     <message>
         <source>The keymap for typing could not be made.</source>
-        <translation>تعذر إنشاء خريطة المفاتيح للكتابة.</translation>
+        <translation>No se ha podido crear el mapa de teclado para escribir.</translation>
     </message>
     <message>
         <source>This compositor lets no program press keys.</source>
-        <translation>لا يسمح هذا المُركِّب لأي برنامج بضغط المفاتيح.</translation>
+        <translation>Este compositor no permite que ningún programa pulse teclas.</translation>
     </message>
     <message>
         <source>Use a compositor with virtual keyboards, such as sway, or an X11 session.</source>
-        <translation>استخدم مُركِّبا فيه لوحات مفاتيح افتراضية مثل sway، أو جلسة X11.</translation>
+        <translation>Use un compositor con teclados virtuales, como sway, o una sesión X11.</translation>
     </message>
     <message>
         <source>A script is running already.</source>
-        <translation>يعمل سكربت بالفعل.</translation>
+        <translation>Ya se está ejecutando un script.</translation>
     </message>
     <message>
         <source>Wait for its end.</source>
-        <translation>انتظر حتى ينتهي.</translation>
+        <translation>Espere a que termine.</translation>
     </message>
     <message>
         <source>The key %1 types no character.</source>
-        <translation>لا يكتب المفتاح ⁨%1⁩ أي محرف.</translation>
+        <translation>La tecla %1 no escribe ningún carácter.</translation>
     </message>
     <message>
         <source>A Wayland session has no bell.</source>
-        <translation>ليس في جلسة Wayland جرس.</translation>
+        <translation>Una sesión de Wayland no tiene timbre del sistema.</translation>
     </message>
     <message>
         <source>Take the beep out of the script.</source>
-        <translation>أزل الصفير من السكربت.</translation>
+        <translation>Quite el pitido del script.</translation>
     </message>
     <message>
         <source>KDE lets no program press keys: its portal does not answer.</source>
-        <translation>لا يسمح KDE لأي برنامج بضغط المفاتيح: بوابته لا تستجيب.</translation>
+        <translation>KDE no permite que ningún programa pulse teclas: su portal no responde.</translation>
     </message>
     <message>
         <source>Install xdg-desktop-portal-kde, or use an X11 session.</source>
-        <translation>ثبّت xdg-desktop-portal-kde، أو استخدم جلسة X11.</translation>
+        <translation>Instale xdg-desktop-portal-kde o use una sesión X11.</translation>
     </message>
     <message>
         <source>Use a compositor with virtual keyboards, such as sway, a desktop whose portal presses keys, such as KDE and GNOME, or an X11 session.</source>
-        <translation>استخدم مُركِّبا فيه لوحات مفاتيح افتراضية مثل sway، أو سطح مكتب تضغط بوابته المفاتيح مثل KDE و GNOME، أو جلسة X11.</translation>
+        <translation>Use un compositor con teclados virtuales, como sway, un escritorio cuyo portal pulse teclas, como KDE o GNOME, o una sesión X11.</translation>
     </message>
     <message>
         <source>The keyboard layout was changed while text was typed, which may have arrived as something else: %1.</source>
-        <translation>تغيّر تخطيط لوحة المفاتيح أثناء كتابة نص، وربما وصل النص مختلفا: ⁨%1⁩.</translation>
+        <translation>La distribución de teclado ha cambiado mientras se escribía un texto, que puede haber llegado distinto: %1.</translation>
     </message>
     <message>
         <source>Play it again when the layout stays as it is.</source>
-        <translation>شغّل الماكرو من جديد عندما يبقى التخطيط كما هو.</translation>
+        <translation>Repita la reproducción cuando la distribución ya no cambie.</translation>
     </message>
     <message>
         <source>Another program holds the keyboard, so that no keys can be pressed.</source>
-        <translation>يحجز برنامج آخر لوحة المفاتيح، فلا يمكن ضغط أي مفتاح.</translation>
+        <translation>Otro programa ha capturado el teclado, por lo que no se puede pulsar ninguna tecla.</translation>
     </message>
     <message>
         <source>Close the menu, the question or the screen lock that is open, and play again.</source>
-        <translation>أغلق القائمة أو السؤال المفتوح، أو ألغِ قفل الشاشة، ثم شغّل الماكرو من جديد.</translation>
+        <translation>Cierre el menú, la pregunta o el bloqueo de pantalla que esté abierto y repita la reproducción.</translation>
     </message>
     <message>
         <source>The X server refuses to put characters on unused keys.</source>
-        <translation>يرفض خادم X وضع محارف على المفاتيح غير المستخدمة.</translation>
+        <translation>El servidor X se niega a asignar caracteres a teclas sin usar.</translation>
     </message>
     <message>
         <source>Use characters of the keyboard layout, or set another layout.</source>
-        <translation>استخدم محارف من تخطيط لوحة المفاتيح، أو عيّن تخطيطا آخر.</translation>
+        <translation>Use caracteres de la distribución de teclado o establezca otra distribución.</translation>
     </message>
     <message>
         <source>The program that is typed into reads nothing; not typed: %1.</source>
-        <translation>البرنامج الذي تُوجَّه إليه الكتابة لا يقرأ شيئا؛ لم يُكتب: ⁨%1⁩.</translation>
+        <translation>El programa en el que se escribe no lee nada; no se ha escrito: %1.</translation>
     </message>
     <message>
         <source>Play it again when the program reads its keys.</source>
-        <translation>شغّل الماكرو من جديد عندما يقرأ البرنامج مفاتيحه.</translation>
+        <translation>Repita la reproducción cuando el programa lea sus teclas.</translation>
     </message>
     <message>
         <source>The program that was typed into has not read all of it.</source>
-        <translation>لم يقرأ البرنامج الذي وُجِّهت إليه الكتابة كل ما كُتب.</translation>
+        <translation>El programa en el que se ha escrito no lo ha leído todo.</translation>
     </message>
     <message>
         <source>See whether it hangs; what it reads later may lack characters.</source>
-        <translation>تحقق مما إذا كان البرنامج معلّقا؛ قد تنقص محارف مما يقرؤه لاحقا.</translation>
+        <translation>Compruebe si está bloqueado; a lo que lea después pueden faltarle caracteres.</translation>
     </message>
     <message>
         <source>Auto-repeats of held keys cannot be recorded: the X server has no RECORD extension.</source>
-        <translation>لا يمكن تسجيل التكرار التلقائي للمفاتيح المضغوطة مطولا: ليس لخادم X الامتداد RECORD.</translation>
+        <translation>No se pueden grabar las repeticiones automáticas de las teclas mantenidas: el servidor X no tiene la extensión RECORD.</translation>
     </message>
     <message>
         <source>A held key is recorded as one press. Switch the extension on in the settings of the X server.</source>
-        <translation>يُسجَّل المفتاح المضغوط مطولا ضغطة واحدة. فعّل الامتداد في إعدادات خادم X.</translation>
+        <translation>Una tecla mantenida se graba como una sola pulsación. Active la extensión en los ajustes del servidor X.</translation>
     </message>
     <message>
         <source>Auto-repeats of held keys can no longer be recorded: the X server has ended it.</source>
-        <translation>لم يعد تسجيل التكرار التلقائي للمفاتيح المضغوطة مطولا ممكنا: أنهاه خادم X.</translation>
+        <translation>Ya no se pueden grabar las repeticiones automáticas de las teclas mantenidas: el servidor X ha terminado esa grabación.</translation>
     </message>
 </context>
 <context>
     <name>KeysView</name>
     <message>
         <source>This is a script of its own: line %1 cannot be changed here. What it would press is shown; change it under Script.</source>
-        <translation>هذا سكربت قائم بذاته: لا يمكن تغيير السطر %1 هنا. يظهر ما سيضغطه؛ غيّره في «السكربت».</translation>
+        <translation>Este es un script propio: la línea %1 no se puede modificar aquí. Se muestra lo que pulsaría; modifíquelo en «Script».</translation>
     </message>
     <message>
         <source>Keys of the macro</source>
-        <translation>مفاتيح الماكرو</translation>
+        <translation>Teclas de la macro</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>what a button does, and its keys</comment>
-        <translation>%1 (⁨%2⁩)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Record Keys</source>
-        <translation>تسجيل مفاتيح</translation>
+        <translation>Grabar teclas</translation>
     </message>
     <message>
         <source>Record keys behind the selected step</source>
-        <translation>تسجيل مفاتيح بعد الخطوة المحددة</translation>
+        <translation>Grabar teclas después del paso seleccionado</translation>
     </message>
     <message>
         <source>Add Pause</source>
-        <translation>إضافة وقفة</translation>
+        <translation>Añadir pausa</translation>
     </message>
     <message>
         <source>A pause behind the selected step</source>
-        <translation>وقفة بعد الخطوة المحددة</translation>
+        <translation>Una pausa después del paso seleccionado</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation>تغيير</translation>
+        <translation>Cambiar</translation>
     </message>
     <message>
         <source>Change the text, the pause or how often a key is pressed</source>
-        <translation>تغيير النص أو الوقفة أو عدد ضغطات المفتاح</translation>
+        <translation>Cambiar el texto, la pausa o cuántas veces se pulsa una tecla</translation>
     </message>
     <message>
         <source>Repeat</source>
-        <translation>تكرار</translation>
+        <translation>Repetir</translation>
     </message>
     <message>
         <source>The selected steps once more</source>
-        <translation>الخطوات المحددة مرة أخرى</translation>
+        <translation>Los pasos seleccionados una vez más</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation>أعلى</translation>
+        <translation>Subir</translation>
     </message>
     <message>
         <source>Move up</source>
-        <translation>النقل إلى أعلى</translation>
+        <translation>Mover hacia arriba</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation>أسفل</translation>
+        <translation>Bajar</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation>النقل إلى أسفل</translation>
+        <translation>Mover hacia abajo</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation>إزالة</translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Remove the selected steps</source>
-        <translation>إزالة الخطوات المحددة</translation>
+        <translation>Quitar los pasos seleccionados</translation>
     </message>
     <message>
         <source>Convert to Text</source>
-        <translation>تحويل إلى نص</translation>
+        <translation>Como texto</translation>
     </message>
     <message>
         <source>Type the same under every keyboard layout</source>
-        <translation>كتابة الشيء نفسه مع أي تخطيط للوحة المفاتيح</translation>
+        <translation>Escribir lo mismo con cualquier distribución de teclado</translation>
     </message>
     <message>
         <source>Convert to Keys</source>
-        <translation>تحويل إلى مفاتيح</translation>
+        <translation>Como teclas</translation>
     </message>
     <message>
         <source>Press the keys of the present keyboard layout</source>
-        <translation>ضغط مفاتيح تخطيط لوحة المفاتيح الحالي</translation>
+        <translation>Pulsar las teclas de la distribución de teclado actual</translation>
     </message>
 </context>
 <context>
@@ -1803,72 +1804,72 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>No key of the present keyboard layout types &quot;%1&quot;.</source>
         <extracomment>%1 is a character.</extracomment>
-        <translation>لا يكتب أي مفتاح في تخطيط لوحة المفاتيح الحالي «⁨%1⁩».</translation>
+        <translation>Ninguna tecla de la distribución de teclado actual escribe «%1».</translation>
     </message>
     <message>
         <source>Convert the keys to text, which types any character.</source>
-        <translation>حوّل المفاتيح إلى نص، فهو يكتب أي محرف.</translation>
+        <translation>Convierta las teclas en texto, con el que se puede escribir cualquier carácter.</translation>
     </message>
     <message>
         <source>GNOME lets no program switch the keyboard layout.</source>
-        <translation>لا يسمح GNOME لأي برنامج بتبديل تخطيط لوحة المفاتيح.</translation>
+        <translation>GNOME no permite que ningún programa cambie la distribución de teclado.</translation>
     </message>
     <message>
         <source>The desktop has no keyboard layout of that number.</source>
-        <translation>ليس في سطح المكتب تخطيط لوحة مفاتيح بهذا الرقم.</translation>
+        <translation>El escritorio no tiene ninguna distribución de teclado con ese número.</translation>
     </message>
     <message>
         <source>This desktop lets no program switch the keyboard layout.</source>
-        <translation>لا يسمح سطح المكتب هذا لأي برنامج بتبديل تخطيط لوحة المفاتيح.</translation>
+        <translation>Este escritorio no permite que ningún programa cambie la distribución de teclado.</translation>
     </message>
     <message>
         <source>The keyboard layout has no key for the third level (AltGr).</source>
-        <translation>ليس في تخطيط لوحة المفاتيح مفتاح للمستوى الثالث (AltGr).</translation>
+        <translation>La distribución de teclado no tiene ninguna tecla para el tercer nivel (AltGr).</translation>
     </message>
     <message>
         <source>The keyboard layout has no key for the fifth level.</source>
-        <translation>ليس في تخطيط لوحة المفاتيح مفتاح للمستوى الخامس.</translation>
+        <translation>La distribución de teclado no tiene ninguna tecla para el quinto nivel.</translation>
     </message>
     <message>
         <source>The keyboard layout has no key for %1.</source>
         <extracomment>%1 is a modifier: Super</extracomment>
-        <translation>ليس في تخطيط لوحة المفاتيح مفتاح ⁨%1⁩.</translation>
+        <translation>La distribución de teclado no tiene ninguna tecla para %1.</translation>
     </message>
     <message>
         <source>Choose a keyboard layout that has one.</source>
-        <translation>اختر تخطيط لوحة مفاتيح فيه هذا المفتاح.</translation>
+        <translation>Elija una distribución de teclado que la tenga.</translation>
     </message>
     <message>
         <source>The keyboard has no layout %1.</source>
         <extracomment>%1 is a number.</extracomment>
-        <translation>ليس للوحة المفاتيح التخطيط ⁨%1⁩.</translation>
+        <translation>El teclado no tiene la distribución %1.</translation>
     </message>
     <message>
         <source>Add it to the keyboard layouts, or record the macro again.</source>
-        <translation>أضفه إلى تخطيطات لوحة المفاتيح، أو سجّل الماكرو من جديد.</translation>
+        <translation>Añádala a las distribuciones de teclado o vuelva a grabar la macro.</translation>
     </message>
     <message>
         <source>The keymap of the X server cannot be read.</source>
-        <translation>تتعذر قراءة خريطة المفاتيح من خادم X.</translation>
+        <translation>No se puede leer el mapa de teclado del servidor X.</translation>
     </message>
     <message>
         <source>Set a keyboard layout, or log in again.</source>
-        <translation>عيّن تخطيطا للوحة المفاتيح، أو أعد الولوج.</translation>
+        <translation>Establezca una distribución de teclado, o cierre la sesión y vuelva a iniciarla.</translation>
     </message>
 </context>
 <context>
     <name>LibraryController</name>
     <message>
         <source>&quot;%1&quot; was not played</source>
-        <translation>لم يُشغَّل «⁨%1⁩»</translation>
+        <translation>No se ha reproducido «%1»</translation>
     </message>
     <message>
         <source>Hot keys of macros</source>
-        <translation>اختصارات وحدات الماكرو</translation>
+        <translation>Atajos de teclado de las macros</translation>
     </message>
     <message>
         <source>The history</source>
-        <translation>السجل</translation>
+        <translation>El historial</translation>
     </message>
 </context>
 <context>
@@ -1876,116 +1877,116 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>The file %1 cannot be removed: %2</source>
         <extracomment>%2 is why, in the system&apos;s words.</extracomment>
-        <translation>تتعذر إزالة الملف ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede eliminar el archivo %1: %2</translation>
     </message>
     <message>
         <source>Check who may write in its folder.</source>
-        <translation>تحقق ممن يحق له الكتابة في مجلده.</translation>
+        <translation>Compruebe quién puede escribir en su carpeta.</translation>
     </message>
     <message>
         <source>A program whose path has a percent sign cannot be started at login: %1</source>
         <extracomment>%1 is the path.</extracomment>
-        <translation>لا يمكن أن يُبدأ عند الولوج برنامج في مساره علامة النسبة المئوية: ⁨%1⁩</translation>
+        <translation>Un programa cuya ruta contiene un signo de porcentaje no se puede ejecutar automáticamente al iniciar sesión: %1</translation>
     </message>
     <message>
         <source>Move the program to a folder without one.</source>
-        <translation>انقل البرنامج إلى مجلد ليس في مساره هذه العلامة.</translation>
+        <translation>Mueva el programa a una carpeta cuya ruta no lo contenga.</translation>
     </message>
     <message>
         <source>A program whose path is not UTF-8 cannot be started at login: %1</source>
         <extracomment>%1 is the path.</extracomment>
-        <translation>لا يمكن أن يُبدأ عند الولوج برنامج مساره ليس بترميز UTF-8: ⁨%1⁩</translation>
+        <translation>Un programa cuya ruta no es UTF-8 no se puede ejecutar automáticamente al iniciar sesión: %1</translation>
     </message>
     <message>
         <source>Move the program to another folder.</source>
-        <translation>انقل البرنامج إلى مجلد آخر.</translation>
+        <translation>Mueva el programa a otra carpeta.</translation>
     </message>
 </context>
 <context>
     <name>MacroCalls</name>
     <message>
         <source>Keyrill does not answer.</source>
-        <translation>لا يستجيب Keyrill.</translation>
+        <translation>Keyrill no responde.</translation>
     </message>
     <message>
         <source>Perhaps its macro folder cannot be reached.</source>
-        <translation>ربما يتعذر الوصول إلى مجلد الماكرو.</translation>
+        <translation>Quizá no se pueda acceder a su carpeta de macros.</translation>
     </message>
 </context>
 <context>
     <name>MacroEditor</name>
     <message>
         <source>&amp;Keys</source>
-        <translation>المفاتيح (&amp;K)</translation>
+        <translation>&amp;Teclas</translation>
     </message>
     <message>
         <source>S&amp;cript</source>
-        <translation>السكربت (&amp;C)</translation>
+        <translation>Scri&amp;pt</translation>
     </message>
 </context>
 <context>
     <name>MacroFilePanel</name>
     <message>
         <source>Keyrill macros (*.%1)</source>
-        <translation>ملفات ماكرو Keyrill (*.%1)</translation>
+        <translation>Macros de Keyrill (*.%1)</translation>
     </message>
     <message>
         <source>Save Macro</source>
-        <translation>حفظ الماكرو</translation>
+        <translation>Guardar macro</translation>
     </message>
     <message>
         <source>Load Macro</source>
-        <translation>تحميل ماكرو</translation>
+        <translation>Cargar macro</translation>
     </message>
     <message>
         <source>This name is too long for a file.</source>
-        <translation>هذا الاسم أطول مما يسمح به لملف.</translation>
+        <translation>Este nombre es demasiado largo para un archivo.</translation>
     </message>
 </context>
 <context>
     <name>MacroList</name>
     <message>
         <source>The folder %1 does not answer.</source>
-        <translation>لا يستجيب المجلد ⁨%1⁩.</translation>
+        <translation>La carpeta %1 no responde.</translation>
     </message>
 </context>
 <context>
     <name>MacroListModel</name>
     <message>
         <source>Group %1</source>
-        <translation>المجموعة ⁨%1⁩</translation>
+        <translation>Grupo %1</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>a macro and its hot key</comment>
-        <translation>⁨%1⁩ (⁨%2⁩)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>%1, not saved</source>
-        <translation>⁨%1⁩، غير محفوظ</translation>
+        <translation>%1, sin guardar</translation>
     </message>
 </context>
 <context>
     <name>MacroSettingsRow</name>
     <message>
         <source>Hot key</source>
-        <translation>الاختصار</translation>
+        <translation>Atajo de teclado</translation>
     </message>
     <message>
         <source>&amp;Hot key:</source>
-        <translation>الاختصار (&amp;H):</translation>
+        <translation>Ata&amp;jo:</translation>
     </message>
     <message>
         <source>Times</source>
-        <translation>المرات</translation>
+        <translation>Número de veces</translation>
     </message>
     <message>
         <source>Unt&amp;il stopped</source>
-        <translation>حتى الإيقاف (&amp;I)</translation>
+        <translation>&amp;Hasta detenerla</translation>
     </message>
     <message>
         <source>&amp;Times:</source>
-        <translation>المرات (&amp;T):</translation>
+        <translation>&amp;Veces:</translation>
     </message>
     <message>
         <source> ×</source>
@@ -1994,15 +1995,15 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>The pauses of the macro are divided by this</source>
-        <translation>تُقسم وقفات الماكرو على هذا العدد</translation>
+        <translation>Las pausas de la macro se dividen por este número</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation>السرعة</translation>
+        <translation>Velocidad</translation>
     </message>
     <message>
         <source>Sp&amp;eed:</source>
-        <translation>السرعة (&amp;E):</translation>
+        <translation>Ve&amp;locidad:</translation>
     </message>
 </context>
 <context>
@@ -2013,62 +2014,54 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Pause %1 s</source>
-        <translation>وقفة %1 ث</translation>
+        <translation>Pausa de %1 s</translation>
     </message>
     <message>
         <source>Text: %1</source>
-        <translation>نص: ⁨%1⁩</translation>
+        <translation>Texto: %1</translation>
     </message>
     <message>
         <source>Hold %1</source>
         <extracomment>a key that goes down and stays there</extracomment>
-        <translation>إبقاء ⁨%1⁩ مضغوطا</translation>
+        <translation>Mantener %1</translation>
     </message>
     <message>
         <source>Let go of %1</source>
-        <translation>إفلات ⁨%1⁩</translation>
+        <translation>Soltar %1</translation>
     </message>
     <message>
         <source>Ask: %1</source>
         <extracomment>a dialog of a script, with its question</extracomment>
-        <translation>سؤال: ⁨%1⁩</translation>
+        <translation>Preguntar: %1</translation>
     </message>
     <message>
         <source>Tell: %1</source>
-        <translation>إشعار: ⁨%1⁩</translation>
+        <translation>Notificar: %1</translation>
     </message>
     <message>
         <source>Type %1</source>
-        <translation>كتابة ⁨%1⁩</translation>
+        <translation>Escribir %1</translation>
     </message>
     <message>
         <source>Press %1</source>
-        <translation>ضغط ⁨%1⁩</translation>
+        <translation>Pulsar %1</translation>
     </message>
     <message numerus="yes">
         <source>Press %1 %Ln times</source>
         <translation>
-            <numerusform>عدم ضغط ⁨%1⁩</numerusform>
-            <numerusform>ضغط ⁨%1⁩ مرة واحدة</numerusform>
-            <numerusform>ضغط ⁨%1⁩ مرتين</numerusform>
-            <numerusform>ضغط ⁨%1⁩ %Ln مرات</numerusform>
-            <numerusform>ضغط ⁨%1⁩ %Ln مرة</numerusform>
-            <numerusform>ضغط ⁨%1⁩ %Ln مرة</numerusform>
+            <numerusform>Pulsar %1 %Ln vez</numerusform>
+            <numerusform>Pulsar %1 %Ln veces</numerusform>
         </translation>
     </message>
     <message>
         <source>Wait %1 seconds</source>
-        <translation>انتظار %1 ثانية</translation>
+        <translation>Esperar %1 segundos</translation>
     </message>
     <message numerus="yes">
         <source>Wait %1 seconds, %Ln times</source>
         <translation>
-            <numerusform>عدم الانتظار %1 ثانية</numerusform>
-            <numerusform>انتظار %1 ثانية، مرة واحدة</numerusform>
-            <numerusform>انتظار %1 ثانية، مرتين</numerusform>
-            <numerusform>انتظار %1 ثانية، %Ln مرات</numerusform>
-            <numerusform>انتظار %1 ثانية، %Ln مرة</numerusform>
-            <numerusform>انتظار %1 ثانية، %Ln مرة</numerusform>
+            <numerusform>Esperar %1 segundos, %Ln vez</numerusform>
+            <numerusform>Esperar %1 segundos, %Ln veces</numerusform>
         </translation>
     </message>
 </context>
@@ -2076,239 +2069,239 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <name>MacrosDesk</name>
     <message>
         <source>Play has the latest macro until there is another.</source>
-        <translation>يبقى أحدث ماكرو لأمر «تشغيل» إلى أن يوجد غيره.</translation>
+        <translation>«Reproducir» usará la última macro hasta que haya otra.</translation>
     </message>
     <message>
         <source>What is not saved would not outlive a crash. %1</source>
-        <translation>ما لم يُحفظ لن ينجو من انهيار. %1</translation>
+        <translation>Lo que no está guardado no sobreviviría a un cierre inesperado. %1</translation>
     </message>
     <message>
         <source>The macro is still being read: its folder does not answer.</source>
-        <translation>ما زال الماكرو يُقرأ: مجلده لا يستجيب.</translation>
+        <translation>La macro todavía se está leyendo: su carpeta no responde.</translation>
     </message>
     <message>
         <source>The file of this macro is gone. If you save, it is there again.</source>
-        <translation>اختفى ملف هذا الماكرو. إذا حفظت فسيعود.</translation>
+        <translation>El archivo de esta macro ha desaparecido. Si guarda, se creará de nuevo.</translation>
     </message>
     <message>
         <source>Another program has deleted or moved the macro.</source>
-        <translation>حذف برنامج آخر الماكرو أو نقله.</translation>
+        <translation>Otro programa ha eliminado o movido la macro.</translation>
     </message>
     <message>
         <source>Another program has changed this macro. If you save, your text replaces it.</source>
-        <translation>غيّر برنامج آخر هذا الماكرو. إذا حفظت فسيحل نصك محله.</translation>
+        <translation>Otro programa ha cambiado esta macro. Si guarda, su texto la reemplazará.</translation>
     </message>
     <message>
         <source>What was not saved is there again: %1.</source>
-        <translation>عاد ما لم يُحفظ: ⁨%1⁩.</translation>
+        <translation>Se ha recuperado lo que no estaba guardado: %1.</translation>
     </message>
     <message>
         <source>, </source>
-        <translation>، </translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>The recording is forgotten.</source>
-        <translation>نُسي التسجيل.</translation>
+        <translation>La grabación se ha eliminado del historial.</translation>
     </message>
     <message>
         <source>All recordings are forgotten.</source>
-        <translation>نُسيت كل التسجيلات.</translation>
+        <translation>Todas las grabaciones se han eliminado del historial.</translation>
     </message>
     <message>
         <source>Saved.</source>
-        <translation>حُفظ.</translation>
+        <translation>Guardado.</translation>
     </message>
     <message>
         <source>New Macro</source>
-        <translation>ماكرو جديد</translation>
+        <translation>Macro nueva</translation>
     </message>
     <message>
         <source>The macro is in the trash.</source>
-        <translation>نُقل الماكرو إلى المهملات.</translation>
+        <translation>La macro está en la papelera.</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation>تراجع</translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>The macro cannot be played. Line %1: %2</source>
         <extracomment>of a script; what is wrong</extracomment>
-        <translation>لا يمكن تشغيل الماكرو. السطر ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>La macro no se puede reproducir. Línea %1: %2</translation>
     </message>
     <message>
         <source>The macro is deleted.</source>
-        <translation>حُذف الماكرو.</translation>
+        <translation>La macro se ha eliminado.</translation>
     </message>
 </context>
 <context>
     <name>MacrosInterface</name>
     <message>
         <source>There is no option &quot;%1&quot;.</source>
-        <translation>لا يوجد خيار باسم «%1».</translation>
+        <translation>No existe la opción «%1».</translation>
     </message>
     <message>
         <source>There are: %1.</source>
-        <translation>المتاح: %1.</translation>
+        <translation>Existen: %1.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no file of this machine.</source>
-        <translation>الملف «%1» ليس على هذا الجهاز.</translation>
+        <translation>«%1» no es un archivo de este equipo.</translation>
     </message>
     <message>
         <source>It begins with file:///.</source>
-        <translation>يبدأ العنوان بـ file:///.</translation>
+        <translation>Su dirección debe empezar por file:///.</translation>
     </message>
 </context>
 <context>
     <name>MacrosWindow</name>
     <message>
         <source>Macros</source>
-        <translation>وحدات الماكرو</translation>
+        <translation>Macros</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation>بحث</translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Search macros</source>
-        <translation>البحث في وحدات الماكرو</translation>
+        <translation>Buscar macros</translation>
     </message>
     <message>
         <source>&amp;Record New</source>
-        <translation>تسجيل جديد (&amp;R)</translation>
+        <translation>&amp;Nueva grabación</translation>
     </message>
     <message>
         <source>Record a new macro</source>
-        <translation>تسجيل ماكرو جديد</translation>
+        <translation>Grabar una macro nueva</translation>
     </message>
     <message>
         <source>Keep Recordin&amp;g...</source>
-        <translation>الاحتفاظ بتسجيل (&amp;G)...</translation>
+        <translation>Conservar &amp;grabación...</translation>
     </message>
     <message>
         <source>Keep a recording of the history as a macro, by a name</source>
-        <translation>الاحتفاظ بتسجيل من السجل كماكرو له اسم</translation>
+        <translation>Conservar una grabación del historial como macro, con un nombre</translation>
     </message>
     <message>
         <source>&amp;Forget</source>
-        <translation>نسيان (&amp;F)</translation>
+        <translation>Eliminar del &amp;historial</translation>
     </message>
     <message>
         <source>Forget &amp;All</source>
-        <translation>نسيان الكل (&amp;A)</translation>
+        <translation>Eliminar &amp;todo</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation>تشغيل (&amp;P)</translation>
+        <translation>&amp;Reproducir</translation>
     </message>
     <message>
         <source>Play into the window that you were in before, after three seconds</source>
-        <translation>التشغيل بعد ثلاث ثوان في النافذة التي كنت فيها من قبل</translation>
+        <translation>Reproducir tras tres segundos en la ventana en la que estaba antes</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation>حفظ (&amp;S)</translation>
+        <translation>Guard&amp;ar</translation>
     </message>
     <message>
         <source>Save the macro (%1)</source>
-        <translation>حفظ الماكرو (%1)</translation>
+        <translation>Guardar la macro (%1)</translation>
     </message>
     <message>
         <source>D&amp;uplicate</source>
-        <translation>استنساخ (&amp;U)</translation>
+        <translation>&amp;Duplicar</translation>
     </message>
     <message>
         <source>Make a copy of the macro</source>
-        <translation>إنشاء نسخة من الماكرو</translation>
+        <translation>Hacer una copia de la macro</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation>إعادة التسمية (&amp;N)</translation>
+        <translation>Reno&amp;mbrar</translation>
     </message>
     <message>
         <source>Give the macro another name (F2)</source>
-        <translation>إعطاء الماكرو اسما آخر (F2)</translation>
+        <translation>Dar otro nombre a la macro (F2)</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation>حذف (&amp;D)</translation>
+        <translation>&amp;Eliminar</translation>
     </message>
     <message>
         <source>Put the macro into the trash (Delete)</source>
-        <translation>نقل الماكرو إلى المهملات (Delete)</translation>
+        <translation>Mover la macro a la papelera (Supr)</translation>
     </message>
     <message>
         <source>Stop (Escape)</source>
-        <translation>إيقاف (Esc)</translation>
+        <translation>Detener (Esc)</translation>
     </message>
     <message>
         <source>Do not play</source>
-        <translation>عدم التشغيل</translation>
+        <translation>No reproducir</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation>حذف</translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation>إعادة التسمية</translation>
+        <translation>Renombrar</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation>استنساخ</translation>
+        <translation>Duplicar</translation>
     </message>
     <message>
         <source>The macro folder is still being read.</source>
-        <translation>ما زال مجلد الماكرو يُقرأ.</translation>
+        <translation>La carpeta de macros todavía se está leyendo.</translation>
     </message>
     <message>
         <source>There is no macro yet. Record one, or put a macro file into the macro folder.</source>
-        <translation>لا يوجد ماكرو بعد. سجّل واحدا، أو ضع ملف ماكرو في مجلد الماكرو.</translation>
+        <translation>Todavía no hay ninguna macro. Grabe una o ponga un archivo de macro en la carpeta de macros.</translation>
     </message>
     <message>
         <source>Plays in %1 s...</source>
-        <translation>التشغيل بعد %1 ث...</translation>
+        <translation>Se reproducirá en %1 s...</translation>
     </message>
 </context>
 <context>
     <name>MultiplePlayWindow</name>
     <message>
         <source>Play Multiple Times</source>
-        <translation>تشغيل عدة مرات</translation>
+        <translation>Reproducir varias veces</translation>
     </message>
     <message>
         <source>&amp;Times to play:</source>
-        <translation>عدد مرات التشغيل (&amp;T):</translation>
+        <translation>&amp;Número de veces:</translation>
     </message>
     <message>
         <source>Times to play</source>
-        <translation>عدد مرات التشغيل</translation>
+        <translation>Número de veces</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation>تشغيل (&amp;P)</translation>
+        <translation>&amp;Reproducir</translation>
     </message>
     <message>
         <source>No macro yet</source>
-        <translation>لا يوجد ماكرو بعد</translation>
+        <translation>Todavía no hay macro</translation>
     </message>
 </context>
 <context>
     <name>NoticeLine</name>
     <message>
         <source>Warning</source>
-        <translation>تحذير</translation>
+        <translation>Advertencia</translation>
     </message>
 </context>
 <context>
     <name>OverlayDesk</name>
     <message>
         <source>Waiting for your permission</source>
-        <translation>في انتظار إذنك</translation>
+        <translation>Esperando su permiso</translation>
     </message>
     <message>
         <source>Not recorded: keyboard held</source>
-        <translation>لا يُسجَّل: لوحة المفاتيح محجوزة</translation>
+        <translation>No se graba: teclado capturado</translation>
     </message>
 </context>
 <context>
@@ -2316,288 +2309,288 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>Never</source>
         <extracomment>whether pauses are recorded: never, as long as they were when typed, or not longer than a number of seconds</extracomment>
-        <translation>أبدا</translation>
+        <translation>Nunca</translation>
     </message>
     <message>
         <source>As typed</source>
-        <translation>كما كُتبت</translation>
+        <translation>Tal cual</translation>
     </message>
     <message>
         <source>At most</source>
         <extracomment>stands before a number of seconds</extracomment>
-        <translation>على الأكثر</translation>
+        <translation>Como máximo</translation>
     </message>
     <message>
         <source>Record pauses</source>
-        <translation>تسجيل الوقفات</translation>
+        <translation>Grabar las pausas</translation>
     </message>
     <message>
         <source> s</source>
-        <translation> ث</translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Longest pause in seconds</source>
-        <translation>أطول وقفة بالثواني</translation>
+        <translation>Pausa más larga en segundos</translation>
     </message>
     <message>
         <source>Record p&amp;auses:</source>
-        <translation>تسجيل الوقفات (&amp;A):</translation>
+        <translation>Grabar las &amp;pausas:</translation>
     </message>
 </context>
 <context>
     <name>PlayRequests</name>
     <message>
         <source>There are several macros called &quot;%1&quot;.</source>
-        <translation>توجد عدة وحدات ماكرو باسم «%1».</translation>
+        <translation>Hay varias macros llamadas «%1».</translation>
     </message>
     <message>
         <source>Say which one: %1.</source>
-        <translation>حدد أيها: %1.</translation>
+        <translation>Indique cuál: %1.</translation>
     </message>
     <message>
         <source>keyrill --list lists all.</source>
-        <translation>يسردها keyrill --list كلها.</translation>
+        <translation>keyrill --list las enumera todas.</translation>
     </message>
     <message>
         <source>There is no macro called &quot;%1&quot;.</source>
-        <translation>لا يوجد ماكرو باسم «%1».</translation>
+        <translation>No existe ninguna macro llamada «%1».</translation>
     </message>
     <message>
         <source>There is no macro to play yet.</source>
-        <translation>لا يوجد ماكرو لتشغيله بعد.</translation>
+        <translation>Todavía no hay ninguna macro que reproducir.</translation>
     </message>
     <message>
         <source>What Play plays cannot be played: its script is wrong in line %1.</source>
-        <translation>يتعذر تشغيل ما يشغّله أمر «تشغيل»: يوجد خطأ في سكربته في السطر %1.</translation>
+        <translation>La macro de «Reproducir» no se puede reproducir: su script es incorrecto en la línea %1.</translation>
     </message>
     <message>
         <source>Play in the menu tells more.</source>
-        <translation>يشرح أمر «تشغيل» في القائمة المزيد.</translation>
+        <translation>«Reproducir» en el menú explica más.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be played: its script is wrong in line %2.</source>
-        <translation>يتعذر تشغيل «%1»: يوجد خطأ في سكربته في السطر %2.</translation>
+        <translation>No se puede reproducir «%1»: su script es incorrecto en la línea %2.</translation>
     </message>
     <message>
         <source>keyrill-script check &quot;%1&quot; tells more.</source>
-        <translation>يشرح keyrill-script check &quot;%1&quot; المزيد.</translation>
+        <translation>keyrill-script check &quot;%1&quot; explica más.</translation>
     </message>
     <message>
         <source>Similar: %1.</source>
-        <translation>أسماء مشابهة: ⁨%1⁩.</translation>
+        <translation>Parecidos: %1.</translation>
     </message>
 </context>
 <context>
     <name>PlayWords</name>
     <message>
         <source>&quot;%1&quot; is not how many times a macro can be played.</source>
-        <translation>القيمة «%1» ليست عدد مرات يمكن تشغيل ماكرو بها.</translation>
+        <translation>«%1» no es un número de veces válido.</translation>
     </message>
     <message>
         <source>It is a whole number from 1 on, or until-stopped.</source>
-        <translation>هو عدد صحيح من 1 فصاعدا، أو until-stopped.</translation>
+        <translation>Debe ser un número entero a partir de 1, o until-stopped.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not how fast a macro can be played.</source>
-        <translation>القيمة «%1» ليست سرعة يمكن تشغيل ماكرو بها.</translation>
+        <translation>«%1» no es una velocidad válida.</translation>
     </message>
     <message>
         <source>It is a number from 0.25 to 4, with a point: 1.5.</source>
-        <translation>هو عدد من 0.25 إلى 4، بنقطة: 1.5.</translation>
+        <translation>Debe ser un número de 0.25 a 4, con punto decimal: 1.5.</translation>
     </message>
     <message>
         <source>The name of the macro is empty.</source>
-        <translation>اسم الماكرو فارغ.</translation>
+        <translation>El nombre de la macro está vacío.</translation>
     </message>
     <message>
         <source>keyrill --list prints those that there are.</source>
-        <translation>يطبع keyrill --list الموجود منها.</translation>
+        <translation>keyrill --list muestra los que existen.</translation>
     </message>
 </context>
 <context>
     <name>PreferencesPanel</name>
     <message>
         <source>Keyrill Preferences</source>
-        <translation>تفضيلات Keyrill</translation>
+        <translation>Preferencias de Keyrill</translation>
     </message>
     <message>
         <source>Check &amp;Now</source>
-        <translation>التحقق الآن (&amp;N)</translation>
+        <translation>Buscar &amp;ahora</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>إغلاق (&amp;C)</translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message>
         <source>Shortcuts</source>
-        <translation>الاختصارات</translation>
+        <translation>Atajos</translation>
     </message>
     <message>
         <source>These combinations work in every program. Click a field and press the combination you want.</source>
-        <translation>تعمل هذه التوليفات في كل البرامج. انقر على حقل واضغط التوليفة التي تريدها.</translation>
+        <translation>Estas combinaciones funcionan en todos los programas. Haga clic en un campo y pulse la combinación que quiera.</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation>الخيارات</translation>
+        <translation>Opciones</translation>
     </message>
 </context>
 <context>
     <name>ProgramInstance</name>
     <message>
         <source>The macro folder was out of reach for too long.</source>
-        <translation>تعذر الوصول إلى مجلد الماكرو مدة أطول من اللازم.</translation>
+        <translation>La carpeta de macros ha estado demasiado tiempo inaccesible.</translation>
     </message>
     <message>
         <source>Another program has Keyrill&apos;s name on the session bus and does not do its work: %1</source>
-        <translation>برنامج آخر يحمل اسم Keyrill على ناقل الجلسة ولا يؤدي عمله: %1</translation>
+        <translation>Otro programa tiene el nombre de Keyrill en el bus de sesión y no hace su trabajo: %1</translation>
     </message>
     <message>
         <source>End that program and start Keyrill again.</source>
-        <translation>أنهِ ذلك البرنامج وابدأ Keyrill من جديد.</translation>
+        <translation>Cierre ese programa y vuelva a iniciar Keyrill.</translation>
     </message>
     <message>
         <source>It cannot be given a file, since it has no session bus.</source>
-        <translation>لا يمكن إعطاؤه ملفا، إذ ليس له ناقل جلسة.</translation>
+        <translation>No se le puede dar un archivo, ya que no tiene bus de sesión.</translation>
     </message>
     <message>
         <source>Keyrill is running already.</source>
-        <translation>يعمل Keyrill بالفعل.</translation>
+        <translation>Keyrill ya está en ejecución.</translation>
     </message>
 </context>
 <context>
     <name>Programs</name>
     <message>
         <source>The program &quot;%1&quot;, which presses keys by the desktop&apos;s portal, could not be started.</source>
-        <translation>تعذر بدء البرنامج «⁨%1⁩»، الذي يضغط المفاتيح عبر بوابة سطح المكتب.</translation>
+        <translation>No se ha podido iniciar el programa «%1», que pulsa teclas mediante el portal del escritorio.</translation>
     </message>
     <message>
         <source>Install the program again.</source>
-        <translation>ثبّت البرنامج من جديد.</translation>
+        <translation>Vuelva a instalar el programa.</translation>
     </message>
     <message>
         <source>A text with a zero byte cannot be opened.</source>
-        <translation>لا يمكن فتح نص فيه بايت صفري.</translation>
+        <translation>No se puede abrir un texto con un byte nulo.</translation>
     </message>
     <message>
         <source>The program xdg-open cannot be started: %1</source>
         <extracomment>%1 is why, in the system&apos;s words.</extracomment>
-        <translation>يتعذر بدء البرنامج xdg-open: ⁨%1⁩</translation>
+        <translation>No se puede iniciar el programa xdg-open: %1</translation>
     </message>
     <message>
         <source>Install the package xdg-utils.</source>
-        <translation>ثبّت الحزمة xdg-utils.</translation>
+        <translation>Instale el paquete xdg-utils.</translation>
     </message>
     <message>
         <source>The guard program &quot;%1&quot;, which releases keys after a crash, could not be started.</source>
-        <translation>تعذر بدء برنامج الحراسة «⁨%1⁩»، الذي يُفلت المفاتيح بعد الانهيار.</translation>
+        <translation>No se ha podido iniciar el programa guardián «%1», que suelta las teclas tras un cierre inesperado.</translation>
     </message>
     <message>
         <source>Install the program again; nothing is played without its guard.</source>
-        <translation>ثبّت البرنامج من جديد؛ لا يُشغَّل شيء من دون برنامج الحراسة.</translation>
+        <translation>Vuelva a instalar el programa; sin su guardián no se reproduce nada.</translation>
     </message>
 </context>
 <context>
     <name>RecordHerePanel</name>
     <message>
         <source>Record Here</source>
-        <translation>التسجيل هنا</translation>
+        <translation>Grabar aquí</translation>
     </message>
     <message>
         <source>How to Record Everywhere</source>
-        <translation>كيفية التسجيل في كل مكان</translation>
+        <translation>Cómo grabar en todas partes</translation>
     </message>
     <message>
         <source>Type here</source>
-        <translation>اكتب هنا</translation>
+        <translation>Escriba aquí</translation>
     </message>
     <message>
         <source>Keys typed here are recorded</source>
-        <translation>تُسجَّل المفاتيح المكتوبة هنا</translation>
+        <translation>Las teclas que pulse aquí se grabarán</translation>
     </message>
     <message>
         <source>Stop Recording</source>
-        <translation>إيقاف التسجيل</translation>
+        <translation>Detener grabación</translation>
     </message>
     <message>
         <source>What you type in this window is recorded</source>
-        <translation>يُسجَّل ما تكتبه في هذه النافذة</translation>
+        <translation>Lo que escriba en esta ventana se grabará</translation>
     </message>
     <message>
         <source>What you type in other programs is not. The macro can be played in all of them.</source>
-        <translation>أما ما تكتبه في البرامج الأخرى فلا. يمكن تشغيل الماكرو فيها كلها.</translation>
+        <translation>Lo que escriba en otros programas, no. La macro se puede reproducir en todos ellos.</translation>
     </message>
     <message>
         <source>Why not everywhere?</source>
-        <translation>لماذا ليس في كل مكان؟</translation>
+        <translation>¿Por qué no en todas partes?</translation>
     </message>
     <message>
         <source>Press Stop Recording or close the window when you are done.</source>
-        <translation>اضغط «إيقاف التسجيل» أو أغلق النافذة عندما تنتهي.</translation>
+        <translation>Pulse «Detener grabación» o cierre la ventana cuando termine.</translation>
     </message>
     <message>
         <source>Press %1 when you are done, or close the window.</source>
-        <translation>اضغط ⁨%1⁩ عندما تنتهي، أو أغلق النافذة.</translation>
+        <translation>Pulse %1 cuando termine, o cierre la ventana.</translation>
     </message>
     <message>
         <source>Use the combination of the desktop&apos;s settings when you are done, or close the window.</source>
-        <translation>استخدم التوليفة المحددة في إعدادات سطح المكتب عندما تنتهي، أو أغلق النافذة.</translation>
+        <translation>Use la combinación definida en los ajustes del escritorio cuando termine, o cierre la ventana.</translation>
     </message>
     <message>
         <source>Use the combination of the desktop&apos;s settings when you are done, or close the window: %1</source>
-        <translation>استخدم التوليفة المحددة في إعدادات سطح المكتب عندما تنتهي، أو أغلق النافذة: ⁨%1⁩</translation>
+        <translation>Use la combinación definida en los ajustes del escritorio cuando termine, o cierre la ventana: %1</translation>
     </message>
 </context>
 <context>
     <name>RecorderWindow</name>
     <message>
         <source>Keyrill recording</source>
-        <translation>يسجّل Keyrill</translation>
+        <translation>Keyrill está grabando</translation>
     </message>
 </context>
 <context>
     <name>RunningProgram</name>
     <message>
         <source>There is no session bus, over which the running Keyrill could be asked.</source>
-        <translation>لا يوجد ناقل جلسة يمكن عبره سؤال Keyrill العامل.</translation>
+        <translation>No hay ningún bus de sesión por el que comunicarse con Keyrill.</translation>
     </message>
     <message>
         <source>Call it from within the desktop session; the hot keys and the menu need none.</source>
-        <translation>استدعه من داخل الجلسة الرسومية؛ لا تحتاج الاختصارات والقائمة إلى ناقل.</translation>
+        <translation>Llámelo desde la sesión gráfica; los atajos de teclado y el menú no lo necesitan.</translation>
     </message>
     <message>
         <source>Keyrill could not be started, or runs already where this session bus does not reach.</source>
-        <translation>تعذر بدء Keyrill، أو أنه يعمل بالفعل حيث لا يصل ناقل الجلسة هذا.</translation>
+        <translation>No se ha podido iniciar Keyrill, o ya está en ejecución donde no llega este bus de sesión.</translation>
     </message>
     <message>
         <source>Start it as &quot;keyrill&quot; in a terminal to see why.</source>
-        <translation>ابدأه بالأمر «keyrill» في طرفية لمعرفة السبب.</translation>
+        <translation>Ejecute «keyrill» en un terminal para ver por qué.</translation>
     </message>
 </context>
 <context>
     <name>SRRecorderControl</name>
     <message>
         <source>Clear %1</source>
-        <translation>مسح %1</translation>
+        <translation>Borrar «%1»</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation>مسح</translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Click here, then press a combination. Backspace clears, Escape keeps what was set.</source>
-        <translation>انقر هنا ثم اضغط توليفة. يمسح Backspace، ويبقي Escape ما كان محددا.</translation>
+        <translation>Haga clic aquí y pulse después una combinación. Retroceso borra, Esc mantiene lo que había.</translation>
     </message>
     <message>
         <source>Add Ctrl, Alt or Super</source>
-        <translation>أضف Ctrl أو Alt أو Super</translation>
+        <translation>Añada Ctrl, Alt o Súper</translation>
     </message>
     <message>
         <source>Press a combination…</source>
-        <translation>اضغط توليفة…</translation>
+        <translation>Pulse una combinación…</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation>غير محدد</translation>
+        <translation>Sin definir</translation>
     </message>
 </context>
 <context>
@@ -2605,54 +2598,54 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>Stop</source>
         <extracomment>the name of a picture: a stop sign</extracomment>
-        <translation>توقف</translation>
+        <translation>Alto</translation>
     </message>
     <message>
         <source>Caution</source>
-        <translation>تنبيه</translation>
+        <translation>Precaución</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation>ملاحظة</translation>
+        <translation>Nota</translation>
     </message>
     <message>
         <source>Keyrill Macro</source>
-        <translation>ماكرو Keyrill</translation>
+        <translation>Macro de Keyrill</translation>
     </message>
 </context>
 <context>
     <name>ScriptEditor</name>
     <message>
         <source>Script</source>
-        <translation>السكربت</translation>
+        <translation>Script</translation>
     </message>
     <message>
         <source>Words of the script language</source>
-        <translation>كلمات لغة السكربت</translation>
+        <translation>Palabras del lenguaje de script</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
         <extracomment>of a script; what is wrong, or could be</extracomment>
-        <translation>السطر %1: ⁨%2⁩</translation>
+        <translation>Línea %1: %2</translation>
     </message>
 </context>
 <context>
     <name>ScriptNotices</name>
     <message>
         <source>The macro was not played to its end</source>
-        <translation>لم يُشغَّل الماكرو إلى نهايته</translation>
+        <translation>La macro no se ha reproducido hasta el final</translation>
     </message>
     <message>
         <source>The macro cannot be played</source>
-        <translation>يتعذر تشغيل الماكرو</translation>
+        <translation>La macro no se puede reproducir</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is loaded but cannot be played</source>
-        <translation>حُمِّل «⁨%1⁩» لكن يتعذر تشغيله</translation>
+        <translation>Se ha cargado «%1», pero no se puede reproducir</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation>السطر %1: ⁨%2⁩</translation>
+        <translation>Línea %1: %2</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -2660,118 +2653,207 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
 </context>
 <context>
+    <name>ScriptTool</name>
+    <message>
+        <source>--times %1 is not how often a script can be played.</source>
+        <translation>--times %1 no es un número de reproducciones válido.</translation>
+    </message>
+    <message>
+        <source>It is a whole number from 1 on, or until-stopped.</source>
+        <translation>Debe ser un número entero a partir de 1, o until-stopped.</translation>
+    </message>
+    <message>
+        <source>Nobody can stop a trace.</source>
+        <translation>Nadie puede detener una traza.</translation>
+    </message>
+    <message>
+        <source>Give --times a number.</source>
+        <translation>Dé un número a --times.</translation>
+    </message>
+    <message>
+        <source>--speed %1 is not how fast a script can be played.</source>
+        <translation>--speed %1 no es una velocidad válida.</translation>
+    </message>
+    <message>
+        <source>It is a number from 0.25 to 4.</source>
+        <translation>Debe ser un número de 0.25 a 4.</translation>
+    </message>
+    <message>
+        <source>This is no UTF-8, so the whole file is taken for Mac Roman. Save it as UTF-8.</source>
+        <translation>Esto no es UTF-8, así que todo el archivo se lee como Mac Roman. Guárdelo como UTF-8.</translation>
+    </message>
+    <message>
+        <source>Press a key.</source>
+        <translation>Pulse una tecla.</translation>
+    </message>
+    <message>
+        <source>Hint: %1</source>
+        <translation>Sugerencia: %1</translation>
+    </message>
+    <message>
+        <source>%1; standard input is &quot;-&quot;</source>
+        <translation>%1; la entrada estándar es «-»</translation>
+    </message>
+    <message>
+        <source>(Return)</source>
+        <translation>(Intro)</translation>
+    </message>
+    <message>
+        <source>No dialog can be shown here.</source>
+        <translation>Aquí no se puede mostrar ningún diálogo.</translation>
+    </message>
+    <message>
+        <source>Run the script in a terminal.</source>
+        <translation>Ejecute el script en un terminal.</translation>
+    </message>
+    <message>
+        <source>The question was not answered.</source>
+        <translation>La pregunta no se respondió.</translation>
+    </message>
+    <message>
+        <source>Usage: keyrill-script check FILE   compile, and say what is wrong; with --json for editors
+       keyrill-script run [--times N] [--speed X] FILE
+                                   press the keys, so often (or until-stopped), its pauses divided by X
+       keyrill-script trace FILE   print what would be done, one JSON array a line
+       keyrill-script format FILE  print the script in one layout
+       keyrill-script keys         print the key codes; with --press that of the next key
+       keyrill-script reference    print the reference of the language
+       keyrill-script -h | --help | --version
+FILE - is standard input; -e LINE, once or more, gives the script itself.
+</source>
+        <translation>Uso: keyrill-script check ARCHIVO    compilar y decir qué está mal; con --json para editores
+     keyrill-script run [--times N] [--speed X] ARCHIVO
+                                     pulsar las teclas, tantas veces (o until-stopped), con las pausas divididas entre X
+     keyrill-script trace ARCHIVO    mostrar lo que se haría, una matriz JSON por línea
+     keyrill-script format ARCHIVO   mostrar el script con un formato uniforme
+     keyrill-script keys             mostrar los códigos de tecla; con --press, el de la próxima tecla
+     keyrill-script reference        mostrar la referencia del lenguaje
+     keyrill-script -h | --help | --version
+ARCHIVO - es la entrada estándar; -e LÍNEA, una o más veces, da el propio script.
+</translation>
+    </message>
+    <message>
+        <source>There is no command “%1”.</source>
+        <translation>No existe la orden «%1».</translation>
+    </message>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation>No se puede escribir en la salida estándar.</translation>
+    </message>
+</context>
+<context>
     <name>Session</name>
     <message>
         <source>There is no session bus.</source>
-        <translation>لا يوجد ناقل جلسة.</translation>
+        <translation>No hay ningún bus de sesión.</translation>
     </message>
     <message>
         <source>Log in again.</source>
-        <translation>أعد الولوج.</translation>
+        <translation>Cierre la sesión y vuelva a iniciarla.</translation>
     </message>
     <message>
         <source>sway does not answer at $SWAYSOCK.</source>
-        <translation>لا يستجيب sway عند ⁨$SWAYSOCK⁩.</translation>
+        <translation>No hay respuesta de sway en $SWAYSOCK.</translation>
     </message>
     <message>
         <source>Start the program in the session of sway.</source>
-        <translation>ابدأ البرنامج في جلسة sway.</translation>
+        <translation>Inicie el programa en la sesión de sway.</translation>
     </message>
     <message>
         <source>sway says: %1</source>
-        <translation>يقول sway: ⁨%1⁩</translation>
+        <translation>sway dice: %1</translation>
     </message>
     <message>
         <source>There is no kind of session called &quot;%1&quot;.</source>
-        <translation>لا يوجد نوع جلسة باسم «⁨%1⁩».</translation>
+        <translation>No existe ningún tipo de sesión llamado «%1».</translation>
     </message>
     <message>
         <source>Choose one of these: %1.</source>
-        <translation>اختر واحدا من هذه: ⁨%1⁩.</translation>
+        <translation>Elija uno de estos: %1.</translation>
     </message>
     <message>
         <source>No kind of session is known.</source>
-        <translation>لا يوجد أي نوع جلسة معروف.</translation>
+        <translation>No se conoce ningún tipo de sesión.</translation>
     </message>
     <message>
         <source>The connection to the compositor was lost.</source>
-        <translation>فُقد الاتصال بالمُركِّب.</translation>
+        <translation>Se ha perdido la conexión con el compositor.</translation>
     </message>
     <message>
         <source>No Wayland compositor answers at $WAYLAND_DISPLAY.</source>
-        <translation>لا يستجيب أي مُركِّب Wayland عند ⁨$WAYLAND_DISPLAY⁩.</translation>
+        <translation>No responde ningún compositor de Wayland en $WAYLAND_DISPLAY.</translation>
     </message>
     <message>
         <source>Start the program in a Wayland session.</source>
-        <translation>ابدأ البرنامج في جلسة Wayland.</translation>
+        <translation>Inicie el programa en una sesión de Wayland.</translation>
     </message>
     <message>
         <source>The Wayland compositor is gone.</source>
-        <translation>اختفى مُركِّب Wayland.</translation>
+        <translation>El compositor de Wayland ha desaparecido.</translation>
     </message>
     <message>
         <source>$WAYLAND_DISPLAY names no Wayland compositor.</source>
-        <translation>لا يشير ⁨$WAYLAND_DISPLAY⁩ إلى أي مُركِّب Wayland.</translation>
+        <translation>$WAYLAND_DISPLAY no indica ningún compositor de Wayland.</translation>
     </message>
     <message>
         <source>The X server is gone.</source>
-        <translation>اختفى خادم X.</translation>
+        <translation>El servidor X ha desaparecido.</translation>
     </message>
     <message>
         <source>This is a Wayland session without an X server.</source>
-        <translation>هذه جلسة Wayland دون خادم X.</translation>
+        <translation>Esta es una sesión de Wayland sin servidor X.</translation>
     </message>
     <message>
         <source>Install Xwayland, or switch it on in the desktop&apos;s settings, and log in again; or choose an X11 session when you log in.</source>
-        <translation>ثبّت Xwayland، أو فعّله في إعدادات سطح المكتب، ثم أعد الولوج؛ أو اختر جلسة X11 عند الولوج.</translation>
+        <translation>Instale Xwayland o actívelo en los ajustes del escritorio y, después, cierre la sesión y vuelva a iniciarla; o elija una sesión X11 al iniciar sesión.</translation>
     </message>
     <message>
         <source>An X11 session is needed, and this is no desktop session.</source>
-        <translation>تلزم جلسة X11، وهذه ليست جلسة رسومية.</translation>
+        <translation>Se necesita una sesión X11, y esta no es una sesión gráfica.</translation>
     </message>
     <message>
         <source>An X11 session is needed, and this is a Wayland session without an X server.</source>
-        <translation>تلزم جلسة X11، وهذه جلسة Wayland دون خادم X.</translation>
+        <translation>Se necesita una sesión X11, y esta es una sesión de Wayland sin servidor X.</translation>
     </message>
     <message>
         <source>Choose an X11 session when you log in.</source>
-        <translation>اختر جلسة X11 عند الولوج.</translation>
+        <translation>Elija una sesión X11 al iniciar sesión.</translation>
     </message>
     <message>
         <source>The connection to the X server was lost.</source>
-        <translation>فُقد الاتصال بخادم X.</translation>
+        <translation>Se ha perdido la conexión con el servidor X.</translation>
     </message>
     <message>
         <source>Use a newer X server, or switch the extension on in its settings.</source>
-        <translation>استخدم خادم X أحدث، أو فعّل الامتداد في إعداداته.</translation>
+        <translation>Use un servidor X más reciente o active la extensión en sus ajustes.</translation>
     </message>
     <message>
         <source>The X server must have XInput 2.2 or newer, but has no XInput.</source>
-        <translation>يجب أن يكون لخادم X الامتداد XInput 2.2 أو أحدث، لكن ليس له XInput.</translation>
+        <translation>El servidor X debe tener XInput 2.2 o posterior, pero no tiene XInput.</translation>
     </message>
     <message>
         <source>The X server must have XInput 2.2 or newer, but does not answer.</source>
-        <translation>يجب أن يكون لخادم X الامتداد XInput 2.2 أو أحدث، لكنه لا يستجيب.</translation>
+        <translation>El servidor X debe tener XInput 2.2 o posterior, pero no responde.</translation>
     </message>
     <message>
         <source>The X server must have XInput 2.2 or newer, but has %1.</source>
-        <translation>يجب أن يكون لخادم X الامتداد XInput 2.2 أو أحدث، لكن ما لديه هو ⁨%1⁩.</translation>
+        <translation>El servidor X debe tener XInput 2.2 o posterior, pero tiene la versión %1.</translation>
     </message>
     <message>
         <source>The X server must have the XKB extension, but it cannot be used.</source>
-        <translation>يجب أن يكون لخادم X الامتداد XKB، لكن لا يمكن استخدامه.</translation>
+        <translation>El servidor X debe tener la extensión XKB, pero no se puede usar.</translation>
     </message>
     <message>
         <source>The X server must have the XTEST extension, but it has not.</source>
-        <translation>يجب أن يكون لخادم X الامتداد XTEST، لكنه ينقصه.</translation>
+        <translation>El servidor X debe tener la extensión XTEST, pero no la tiene.</translation>
     </message>
     <message>
         <source>The X server of display &quot;%1&quot; cannot be reached.</source>
-        <translation>يتعذر الوصول إلى خادم X لشاشة العرض «⁨%1⁩».</translation>
+        <translation>No se puede acceder al servidor X de la pantalla «%1».</translation>
     </message>
     <message>
         <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
-        <translation>ابدأ البرنامج داخل جلسة رسومية، أو اضبط DISPLAY على خادم X عامل.</translation>
+        <translation>Inicie el programa dentro de una sesión gráfica o asigne a DISPLAY un servidor X en ejecución.</translation>
     </message>
 </context>
 <context>
@@ -2779,60 +2861,60 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>, </source>
         <extracomment>between the names of a list</extracomment>
-        <translation>، </translation>
+        <translation>, </translation>
     </message>
     <message>
         <source>%1: %2</source>
         <extracomment>a line of keyrill --check: what was looked at, and what was found</extracomment>
-        <translation>%1: ⁨%2⁩</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation>الجلسة</translation>
+        <translation>Sesión</translation>
     </message>
     <message>
         <source>%1, display %2</source>
-        <translation>⁨%1⁩، شاشة العرض ⁨%2⁩</translation>
+        <translation>%1, pantalla %2</translation>
     </message>
     <message>
         <source>Parts</source>
-        <translation>الأجزاء</translation>
+        <translation>Componentes</translation>
     </message>
     <message>
         <source>missing: %1; there: %2</source>
-        <translation>ناقص: %1؛ موجود: %2</translation>
+        <translation>faltan: %1; hay: %2</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation>التسجيل</translation>
+        <translation>Grabación</translation>
     </message>
     <message>
         <source>Hot keys</source>
-        <translation>الاختصارات العامة</translation>
+        <translation>Atajos de teclado</translation>
     </message>
     <message>
         <source>Pressing keys</source>
-        <translation>ضغط المفاتيح</translation>
+        <translation>Pulsación de teclas</translation>
     </message>
     <message>
         <source>Typing text</source>
-        <translation>كتابة النص</translation>
+        <translation>Escritura de texto</translation>
     </message>
     <message>
         <source>Clipboard</source>
-        <translation>الحافظة</translation>
+        <translation>Portapapeles</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation>الطبقة العلوية</translation>
+        <translation>Superposición</translation>
     </message>
     <message>
         <source>Windows of other programs</source>
-        <translation>نوافذ البرامج الأخرى</translation>
+        <translation>Ventanas de otros programas</translation>
     </message>
     <message>
         <source>Tray</source>
-        <translation>صينية النظام</translation>
+        <translation>Bandeja del sistema</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -2841,362 +2923,362 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Hot key of &quot;%1&quot;</source>
-        <translation>اختصار «%1»</translation>
+        <translation>Atajo de teclado de «%1»</translation>
     </message>
     <message>
         <source>none is chosen</source>
-        <translation>لم يُختر أي اختصار</translation>
+        <translation>no se ha elegido ninguno</translation>
     </message>
     <message>
         <source>%1, which nobody else has</source>
-        <translation>⁨%1⁩، ولا يستخدمه برنامج آخر</translation>
+        <translation>%1, que nadie más usa</translation>
     </message>
     <message>
         <source>%1, which the running Keyrill has</source>
-        <translation>⁨%1⁩، ويستخدمه Keyrill العامل</translation>
+        <translation>%1, que Keyrill ya usa</translation>
     </message>
     <message>
         <source>%1; the session does not tell who has it</source>
-        <translation>⁨%1⁩؛ لا تخبر الجلسة بمن يستخدمه</translation>
+        <translation>%1; la sesión no dice quién lo usa</translation>
     </message>
     <message>
         <source>Session bus</source>
-        <translation>ناقل الجلسة</translation>
+        <translation>Bus de sesión</translation>
     </message>
     <message>
         <source>there</source>
         <extracomment>the session bus exists</extracomment>
-        <translation>موجود</translation>
+        <translation>presente</translation>
     </message>
     <message>
         <source>There is none: &quot;keyrill --action&quot;, notifications and many trays need it, and a locked screen is not noticed at once.</source>
-        <translation>لا يوجد ناقل: يحتاج إليه «keyrill --action» والإشعارات وكثير من صواني النظام، ولا يُلاحظ قفل الشاشة فورا.</translation>
+        <translation>No hay ninguno: «keyrill --action», las notificaciones y muchas bandejas lo necesitan, y una pantalla bloqueada no se advierte de inmediato.</translation>
     </message>
     <message>
         <source>Start Keyrill from within the desktop session.</source>
-        <translation>ابدأ Keyrill من داخل الجلسة الرسومية.</translation>
+        <translation>Inicie Keyrill desde dentro de la sesión gráfica.</translation>
     </message>
     <message>
         <source>Keyrill</source>
-        <translation>برنامج Keyrill</translation>
+        <translation>Keyrill</translation>
     </message>
     <message>
         <source>is running</source>
-        <translation>يعمل</translation>
+        <translation>está en ejecución</translation>
     </message>
     <message>
         <source>is not running</source>
-        <translation>لا يعمل</translation>
+        <translation>no está en ejecución</translation>
     </message>
     <message>
         <source>no lock is on</source>
-        <translation>لا قفل مفعّل</translation>
+        <translation>ningún bloqueo está activado</translation>
     </message>
     <message>
         <source>on: %1, which macros do not mind</source>
-        <translation>مفعّل: %1، ولا يؤثر ذلك في وحدات الماكرو</translation>
+        <translation>activados: %1, que no afectan a las macros</translation>
     </message>
     <message>
         <source>layout unknown</source>
-        <translation>التخطيط مجهول</translation>
+        <translation>distribución desconocida</translation>
     </message>
     <message>
         <source>layout %1</source>
-        <translation>التخطيط %1</translation>
+        <translation>distribución %1</translation>
     </message>
     <message>
         <source>Keyboard</source>
-        <translation>لوحة المفاتيح</translation>
+        <translation>Teclado</translation>
     </message>
     <message>
         <source>%1; %2</source>
         <extracomment>the keyboard layouts, and the locks that are on</extracomment>
-        <translation>%1؛ %2</translation>
+        <translation>%1; %2</translation>
     </message>
 </context>
 <context>
     <name>Settings</name>
     <message>
         <source>It has a zero byte</source>
-        <translation>فيه بايت صفري</translation>
+        <translation>Contiene un byte nulo</translation>
     </message>
     <message>
         <source>The settings file %1 is not a key file: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
-        <translation>ملف الإعدادات ⁨%1⁩ ليس ملف مفاتيح وقيم: ⁨%2⁩</translation>
+        <translation>El archivo de ajustes %1 no es un archivo de claves válido: %2</translation>
     </message>
     <message>
         <source>The macro settings file %1 is not a key file: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It has a zero byte</extracomment>
-        <translation>ملف إعدادات الماكرو ⁨%1⁩ ليس ملف مفاتيح وقيم: ⁨%2⁩</translation>
+        <translation>El archivo de ajustes de las macros %1 no es un archivo de claves válido: %2</translation>
     </message>
     <message>
         <source>The settings folder %1 cannot be made: %2</source>
         <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
-        <translation>يتعذر إنشاء مجلد الإعدادات ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede crear la carpeta de ajustes %1: %2</translation>
     </message>
     <message>
         <source>The macro settings folder %1 cannot be made: %2</source>
         <extracomment>%1 is a folder, %2 why, in the system&apos;s words.</extracomment>
-        <translation>يتعذر إنشاء مجلد إعدادات الماكرو ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede crear la carpeta de ajustes de las macros %1: %2</translation>
     </message>
     <message>
         <source>It was renamed to %1, and the settings begin anew.</source>
         <extracomment>%1 is a file.</extracomment>
-        <translation>غُيِّر اسمه إلى ⁨%1⁩، وتبدأ الإعدادات من جديد.</translation>
+        <translation>El archivo se ha renombrado a %1 y los ajustes se han restablecido.</translation>
     </message>
     <message>
         <source>It was renamed to %1, and hot keys, times and speeds begin anew.</source>
         <extracomment>%1 is a file.</extracomment>
-        <translation>غُيِّر اسمه إلى ⁨%1⁩، وتبدأ الاختصارات وأعداد المرات والسرعات من جديد.</translation>
+        <translation>El archivo se ha renombrado a %1 y se han restablecido los atajos de teclado, el número de veces y las velocidades.</translation>
     </message>
     <message>
         <source>Correct the file or remove it.</source>
-        <translation>صحّح الملف أو أزله.</translation>
+        <translation>Corrija el archivo o elimínelo.</translation>
     </message>
     <message>
         <source>It could not be put aside either: %1</source>
         <extracomment>%1 is why, in the system&apos;s words.</extracomment>
-        <translation>تعذرت تنحيته جانبا أيضا: ⁨%1⁩</translation>
+        <translation>Tampoco se ha podido apartar: %1</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be read: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>تتعذر قراءة ملف الإعدادات ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede leer el archivo de ajustes %1: %2</translation>
     </message>
     <message>
         <source>The macro settings file %1 cannot be read: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>تتعذر قراءة ملف إعدادات الماكرو ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede leer el archivo de ajustes de las macros %1: %2</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be written: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>تتعذر كتابة ملف الإعدادات ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede escribir el archivo de ajustes %1: %2</translation>
     </message>
     <message>
         <source>The macro settings file %1 cannot be written: %2</source>
         <extracomment>%1 is a file, %2 why, perhaps in the system&apos;s words: It is a folder</extracomment>
-        <translation>تتعذر كتابة ملف إعدادات الماكرو ⁨%1⁩: ⁨%2⁩</translation>
+        <translation>No se puede escribir el archivo de ajustes de las macros %1: %2</translation>
     </message>
 </context>
 <context>
     <name>ShortcutNotices</name>
     <message>
         <source>Still used by %1 until Keyrill restarts.</source>
-        <translation>ما زال أمر «%1» يستخدمه إلى أن يُعاد تشغيل Keyrill.</translation>
+        <translation>«%1» lo usa todavía hasta que se reinicie Keyrill.</translation>
     </message>
     <message>
         <source>Already used by %1.</source>
-        <translation>يستخدمه أمر «%1» بالفعل.</translation>
+        <translation>Ya lo usa «%1».</translation>
     </message>
     <message>
         <source>The desktop has not answered yet.</source>
-        <translation>لم يستجب سطح المكتب بعد.</translation>
+        <translation>El escritorio aún no ha respondido.</translation>
     </message>
     <message>
         <source>Set in the desktop&apos;s settings.</source>
-        <translation>محدد في إعدادات سطح المكتب.</translation>
+        <translation>Definido en los ajustes del escritorio.</translation>
     </message>
     <message>
         <source>Set in the desktop&apos;s settings: %1</source>
-        <translation>محدد في إعدادات سطح المكتب: ⁨%1⁩</translation>
+        <translation>Definido en los ajustes del escritorio: %1</translation>
     </message>
     <message>
         <source>%1 still works until Keyrill restarts.</source>
-        <translation>ما زال ⁨%1⁩ يعمل إلى أن يُعاد تشغيل Keyrill.</translation>
+        <translation>%1 sigue funcionando hasta que se reinicie Keyrill.</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;, which gives way.</source>
-        <translation>يستخدمه بالفعل الماكرو «⁨%1⁩»، وسيتنازل عنه.</translation>
+        <translation>Ya lo usa la macro «%1», que se lo cede.</translation>
     </message>
     <message>
         <source>Already used by macro &quot;%1&quot;.</source>
-        <translation>يستخدمه بالفعل الماكرو «⁨%1⁩».</translation>
+        <translation>Ya lo usa la macro «%1».</translation>
     </message>
 </context>
 <context>
     <name>ShortcutTitles</name>
     <message>
         <source>Start &amp;Recording:</source>
-        <translation>بدء التسجيل (&amp;R):</translation>
+        <translation>&amp;Iniciar grabación:</translation>
     </message>
     <message>
         <source>Start Recording</source>
-        <translation>بدء التسجيل</translation>
+        <translation>Iniciar grabación</translation>
     </message>
     <message>
         <source>&amp;Stop Recording:</source>
-        <translation>إيقاف التسجيل (&amp;S):</translation>
+        <translation>&amp;Detener grabación:</translation>
     </message>
     <message>
         <source>Stop Recording</source>
-        <translation>إيقاف التسجيل</translation>
+        <translation>Detener grabación</translation>
     </message>
     <message>
         <source>&amp;Play:</source>
-        <translation>تشغيل (&amp;P):</translation>
+        <translation>&amp;Reproducir:</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation>تشغيل</translation>
+        <translation>Reproducir</translation>
     </message>
     <message>
         <source>Play &amp;Multiple Times:</source>
-        <translation>تشغيل عدة مرات (&amp;M):</translation>
+        <translation>Reproducir &amp;varias veces:</translation>
     </message>
     <message>
         <source>Play Multiple Times</source>
-        <translation>تشغيل عدة مرات</translation>
+        <translation>Reproducir varias veces</translation>
     </message>
 </context>
 <context>
     <name>StatusMenu</name>
     <message>
         <source>Start Recording</source>
-        <translation>بدء التسجيل</translation>
+        <translation>Iniciar grabación</translation>
     </message>
     <message>
         <source>Stop Recording</source>
-        <translation>إيقاف التسجيل</translation>
+        <translation>Detener grabación</translation>
     </message>
     <message>
         <source>Save Pause</source>
-        <translation>تسجيل الوقفة</translation>
+        <translation>Grabar pausa</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation>تشغيل</translation>
+        <translation>Reproducir</translation>
     </message>
     <message>
         <source>Play Multiple Times...</source>
-        <translation>تشغيل عدة مرات...</translation>
+        <translation>Reproducir varias veces...</translation>
     </message>
     <message>
         <source>History</source>
-        <translation>السجل</translation>
+        <translation>Historial</translation>
     </message>
     <message>
         <source>Save Macro...</source>
-        <translation>حفظ الماكرو...</translation>
+        <translation>Guardar macro...</translation>
     </message>
     <message>
         <source>Load Macro...</source>
-        <translation>تحميل ماكرو...</translation>
+        <translation>Cargar macro...</translation>
     </message>
     <message>
         <source>Macros...</source>
-        <translation>وحدات الماكرو...</translation>
+        <translation>Macros...</translation>
     </message>
     <message>
         <source>Preferences...</source>
-        <translation>التفضيلات...</translation>
+        <translation>Preferencias...</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation>مساعدة</translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Documentation</source>
-        <translation>التوثيق</translation>
+        <translation>Documentación</translation>
     </message>
     <message>
         <source>Forum</source>
-        <translation>المنتدى</translation>
+        <translation>Foro</translation>
     </message>
     <message>
         <source>Product Page</source>
-        <translation>صفحة المنتج</translation>
+        <translation>Página del producto</translation>
     </message>
     <message>
         <source>Maker&apos;s Website</source>
-        <translation>موقع المطوّر</translation>
+        <translation>Sitio web del desarrollador</translation>
     </message>
     <message>
         <source>Get Support</source>
-        <translation>الحصول على الدعم</translation>
+        <translation>Obtener asistencia</translation>
     </message>
     <message>
         <source>Send Feedback</source>
-        <translation>إرسال ملاحظات</translation>
+        <translation>Enviar comentarios</translation>
     </message>
     <message>
         <source>Report a Bug</source>
-        <translation>الإبلاغ عن علة</translation>
+        <translation>Informar de un fallo</translation>
     </message>
     <message>
         <source>Check for Updates...</source>
-        <translation>التحقق من وجود تحديثات...</translation>
+        <translation>Buscar actualizaciones...</translation>
     </message>
     <message>
         <source>About Keyrill</source>
-        <translation>عن Keyrill</translation>
+        <translation>Acerca de Keyrill</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation>إنهاء</translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Keyrill menu</source>
-        <translation>قائمة Keyrill</translation>
+        <translation>Menú de Keyrill</translation>
     </message>
     <message>
         <source>What Works Here</source>
-        <translation>ما يعمل هنا</translation>
+        <translation>Qué funciona aquí</translation>
     </message>
 </context>
 <context>
     <name>StatusNotice</name>
     <message>
         <source>%1 has no shortcut. %2</source>
-        <translation>لا اختصار لأمر «%1». ⁨%2⁩</translation>
+        <translation>«%1» no tiene atajo. %2</translation>
     </message>
 </context>
 <context>
     <name>StatusPanel</name>
     <message>
         <source>Works</source>
-        <translation>يعمل</translation>
+        <translation>Funciona</translation>
     </message>
     <message>
         <source>Does not work</source>
-        <translation>لا يعمل</translation>
+        <translation>No funciona</translation>
     </message>
     <message>
         <source>Not known</source>
-        <translation>غير معروف</translation>
+        <translation>Se desconoce</translation>
     </message>
     <message>
         <source>What Works Here</source>
-        <translation>ما يعمل هنا</translation>
+        <translation>Qué funciona aquí</translation>
     </message>
     <message>
         <source>C&amp;opy</source>
-        <translation>نسخ (&amp;O)</translation>
+        <translation>C&amp;opiar</translation>
     </message>
     <message>
         <source>Copy all lines, for a mail or a forum</source>
-        <translation>نسخ كل الأسطر لإرسالها في رسالة أو منتدى</translation>
+        <translation>Copiar todas las líneas, para un correo o un foro</translation>
     </message>
     <message>
         <source>Check &amp;Again</source>
-        <translation>التحقق من جديد (&amp;A)</translation>
+        <translation>Comprobar de &amp;nuevo</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>إغلاق (&amp;C)</translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message>
         <source>A moment...</source>
-        <translation>لحظة...</translation>
+        <translation>Un momento...</translation>
     </message>
     <message>
         <source>What works here could not be found out.</source>
-        <translation>تعذرت معرفة ما يعمل هنا.</translation>
+        <translation>No se ha podido averiguar qué funciona aquí.</translation>
     </message>
     <message>
         <source>&quot;keyrill --check&quot; in a terminal may say why.</source>
-        <translation>قد يبيّن «keyrill --check» في طرفية السبب.</translation>
+        <translation>«keyrill --check» en un terminal quizá diga por qué.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3208,46 +3290,46 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <name>StepsModel</name>
     <message>
         <source>Line %1: %2</source>
-        <translation>السطر %1: ⁨%2⁩</translation>
+        <translation>Línea %1: %2</translation>
     </message>
     <message>
         <source>The script goes on; only its beginning is shown.</source>
-        <translation>للسكربت بقية؛ لا تظهر إلا بدايته.</translation>
+        <translation>El script continúa; solo se muestra el principio.</translation>
     </message>
     <message>
         <source>A pause is a number of seconds from 0 to a day.</source>
-        <translation>الوقفة عدد من الثواني، من 0 إلى يوم.</translation>
+        <translation>Una pausa se indica en segundos, de 0 a un día.</translation>
     </message>
     <message>
         <source>A key is pressed from 1 to 10,000 times.</source>
-        <translation>يُضغط المفتاح من 1 إلى 10,000 مرة.</translation>
+        <translation>Una tecla se puede pulsar de 1 a 10.000 veces.</translation>
     </message>
     <message>
         <source>This step cannot be changed here.</source>
-        <translation>لا يمكن تغيير هذه الخطوة هنا.</translation>
+        <translation>Este paso no se puede cambiar aquí.</translation>
     </message>
 </context>
 <context>
     <name>Toggles</name>
     <message>
         <source>Check for &amp;updates when Keyrill starts</source>
-        <translation>التحقق من وجود تحديثات عند بدء Keyrill (&amp;U)</translation>
+        <translation>&amp;Buscar actualizaciones al iniciar Keyrill</translation>
     </message>
     <message>
         <source>Start Keyrill when I log &amp;in</source>
-        <translation>بدء Keyrill عند الولوج (&amp;I)</translation>
+        <translation>Iniciar Keyrill al iniciar &amp;sesión</translation>
     </message>
     <message>
         <source>Record modifier &amp;keys on their own</source>
-        <translation>تسجيل المفاتيح المغيِّرة منفردة (&amp;K)</translation>
+        <translation>Grabar las teclas &amp;modificadoras por separado</translation>
     </message>
     <message>
         <source>Keep the &amp;history for the next start</source>
-        <translation>الاحتفاظ بالسجل للمرة القادمة (&amp;H)</translation>
+        <translation>Conservar el &amp;historial para el próximo inicio</translation>
     </message>
     <message>
         <source>&amp;Write hot keys into GNOME&apos;s settings</source>
-        <translation>كتابة الاختصارات في إعدادات GNOME (&amp;W)</translation>
+        <translation>&amp;Escribir los atajos en los ajustes de GNOME</translation>
     </message>
 </context>
 <context>
@@ -3261,64 +3343,64 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <name>Warnings</name>
     <message>
         <source>This is typed as it stands; the key has a number: key code %1.</source>
-        <translation>يُكتب هذا كما هو؛ ولهذا المفتاح رقم: ⁦key code %1⁩.</translation>
+        <translation>Esto se escribe tal cual; la tecla tiene un número: key code %1.</translation>
     </message>
     <message>
         <source>“%1” is typed as it stands. %2</source>
         <extracomment>%1 is the name of a key in braces, %2 a sentence that says how the key is written.</extracomment>
-        <translation>يُكتب «⁨%1⁩» كما هو. ⁨%2⁩</translation>
+        <translation>«%1» se escribe tal cual. %2</translation>
     </message>
     <message>
         <source>Key code %1 is an extension, which only Keyrill plays.</source>
-        <translation>رمز المفتاح ⁨%1⁩ إضافة لا يشغّلها إلا Keyrill.</translation>
+        <translation>El código de tecla %1 es una extensión que solo Keyrill reproduce.</translation>
     </message>
     <message>
         <source>Key code %1 has no key; nothing is pressed.</source>
-        <translation>ليس لرمز المفتاح ⁨%1⁩ مفتاح؛ فلا يُضغط شيء.</translation>
+        <translation>Al código de tecla %1 no le corresponde ninguna tecla; no se pulsa nada.</translation>
     </message>
     <message>
         <source>A dialog gives a record and no text; take: button returned of %1, or text returned of %1.</source>
-        <translation>يعيد مربع الحوار سجلا (record) لا نصا؛ استخدم: ⁦button returned of %1⁩، أو ⁦text returned of %1⁩.</translation>
+        <translation>Un diálogo devuelve un registro (record), no un texto; use: button returned of %1, o text returned of %1.</translation>
     </message>
     <message>
         <source>An alert gives a record and no text; take: button returned of %1.</source>
-        <translation>يعيد التنبيه سجلا (record) لا نصا؛ استخدم: ⁦button returned of %1⁩.</translation>
+        <translation>Una alerta devuelve un registro (record), no un texto; use: button returned of %1.</translation>
     </message>
     <message>
         <source>What was chosen comes in a list; take: item 1 of %1.</source>
-        <translation>يأتي ما اختير في قائمة؛ استخدم: ⁦item 1 of %1⁩.</translation>
+        <translation>Lo elegido se devuelve en una lista; use: item 1 of %1.</translation>
     </message>
     <message>
         <source>The loop gives a reference, which equals no text; compare: contents of %1.</source>
-        <translation>تعطي الحلقة مرجعا لا يساوي أي نص؛ استخدم في المقارنة: ⁦contents of %1⁩.</translation>
+        <translation>El bucle da una referencia, que no es igual a ningún texto; compare: contents of %1.</translation>
     </message>
     <message>
         <source>“%1” is taken as “%1 down”.</source>
         <extracomment>%1 is the name of a modifier, &quot;shift&quot;.</extracomment>
-        <translation>يُعامل «⁨%1⁩» على أنه «⁦%1 down⁩».</translation>
+        <translation>«%1» se interpreta como «%1 down».</translation>
     </message>
     <message>
         <source>“%1” belongs to what “%2” is given; put parentheses round the command: (%2 …) %1 ….</source>
         <extracomment>%1 is an operator, &quot;&gt;&quot;, %2 a command, &quot;count&quot;.</extracomment>
-        <translation>تتبع العلامة «⁨%1⁩» ما يُعطى للأمر «⁨%2⁩»؛ ضع الأمر بين قوسين: ⁦(%2 …) %1 …⁩.</translation>
+        <translation>«%1» forma parte de lo que recibe «%2»; ponga la orden entre paréntesis: (%2 …) %1 ….</translation>
     </message>
     <message>
         <source>“delay” counts seconds; %1 milliseconds are: delay %2.</source>
-        <translation>تُكتب قيمة «delay» بالثواني؛ وتُكتب ⁨%1⁩ ملي ثانية هكذا: ⁦delay %2⁩.</translation>
+        <translation>«delay» cuenta en segundos; %1 milisegundos son: delay %2.</translation>
     </message>
     <message>
         <source>This is typed as it stands; a shortcut is written: keystroke &quot;%1&quot; using %2 down.</source>
         <extracomment>%1 is a letter, %2 the name of a modifier, &quot;control&quot;.</extracomment>
-        <translation>يُكتب هذا كما هو؛ أما الاختصار فيُكتب هكذا: ⁦keystroke &quot;%1&quot; using %2 down⁩.</translation>
+        <translation>Esto se escribe tal cual; una combinación de teclas se escribe así: keystroke &quot;%1&quot; using %2 down.</translation>
     </message>
     <message>
         <source>A modifier is held with: key down shift, without quotes.</source>
-        <translation>يبقى المفتاح المغيِّر مضغوطا هكذا، من دون علامتي اقتباس: ⁦key down shift⁩.</translation>
+        <translation>Una tecla modificadora se mantiene pulsada con: key down shift, sin comillas.</translation>
     </message>
     <message>
         <source>The variable %1 is never set. %2</source>
         <extracomment>%2 is a sentence that says what may have been meant.</extracomment>
-        <translation>لا تُعيَّن قيمة المتغير ⁨%1⁩ أبدا. ⁨%2⁩</translation>
+        <translation>A la variable %1 nunca se le da un valor. %2</translation>
     </message>
 </context>
 <context>
@@ -3329,102 +3411,102 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
     <message>
         <source>Welcome to Keyrill</source>
-        <translation>مرحبا بك في Keyrill</translation>
+        <translation>Le damos la bienvenida a Keyrill</translation>
     </message>
     <message>
         <source>&amp;Continue</source>
-        <translation>متابعة (&amp;C)</translation>
+        <translation>&amp;Continuar</translation>
     </message>
     <message>
         <source>Your first macro</source>
-        <translation>أول ماكرو لك</translation>
+        <translation>Su primera macro</translation>
     </message>
     <message>
         <source>The combinations</source>
-        <translation>التوليفات</translation>
+        <translation>Las combinaciones</translation>
     </message>
     <message>
         <source>You can change them in the preferences, which come next.</source>
-        <translation>يمكنك تغييرها في التفضيلات، التي تأتي بعد هذا.</translation>
+        <translation>Puede cambiarlas en las preferencias, que se abren a continuación.</translation>
     </message>
     <message>
         <source>Keyrill records the keys you press and presses them again for you, in any program, as often as you like.</source>
-        <translation>يسجّل Keyrill المفاتيح التي تضغطها ثم يضغطها عنك من جديد، في أي برنامج وبقدر ما تشاء.</translation>
+        <translation>Keyrill graba sus pulsaciones de teclado y las reproduce por usted, en cualquier programa y tantas veces como quiera.</translation>
     </message>
     <message>
         <source>Choose Start Recording in Keyrill&apos;s menu. Then type.</source>
-        <translation>اختر «بدء التسجيل» في قائمة Keyrill. ثم اكتب.</translation>
+        <translation>Elija «Iniciar grabación» en el menú de Keyrill. Después escriba.</translation>
     </message>
     <message>
         <source>Press %1, or choose Start Recording in Keyrill&apos;s menu. Then type.</source>
-        <translation>اضغط ⁨%1⁩، أو اختر «بدء التسجيل» في قائمة Keyrill. ثم اكتب.</translation>
+        <translation>Pulse %1 o elija «Iniciar grabación» en el menú de Keyrill. Después escriba.</translation>
     </message>
     <message>
         <source>Choose Stop Recording when you are done.</source>
-        <translation>اختر «إيقاف التسجيل» عندما تنتهي.</translation>
+        <translation>Elija «Detener grabación» cuando termine.</translation>
     </message>
     <message>
         <source>Press %1 when you are done.</source>
-        <translation>اضغط ⁨%1⁩ عندما تنتهي.</translation>
+        <translation>Pulse %1 cuando termine.</translation>
     </message>
     <message>
         <source>Click where the keys should go and choose Play.</source>
-        <translation>انقر حيث يجب أن تصل المفاتيح واختر «تشغيل».</translation>
+        <translation>Haga clic donde se deba escribir y elija «Reproducir».</translation>
     </message>
     <message>
         <source>Click where the keys should go and press %1.</source>
-        <translation>انقر حيث يجب أن تصل المفاتيح واضغط ⁨%1⁩.</translation>
+        <translation>Haga clic donde se deba escribir y pulse %1.</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation>غير محدد</translation>
+        <translation>Sin definir</translation>
     </message>
 </context>
 <context>
     <name>Windows</name>
     <message>
         <source>KWin does not tell of its windows.</source>
-        <translation>لا يخبر KWin بشيء عن نوافذه.</translation>
+        <translation>KWin no informa de sus ventanas.</translation>
     </message>
     <message>
         <source>Log in again.</source>
-        <translation>أعد الولوج.</translation>
+        <translation>Cierre la sesión y vuelva a iniciarla.</translation>
     </message>
     <message>
         <source>No file could be written for KWin.</source>
-        <translation>تعذرت كتابة أي ملف لبرنامج KWin.</translation>
+        <translation>No se ha podido escribir ningún archivo para KWin.</translation>
     </message>
     <message>
         <source>Free some space.</source>
-        <translation>أفرغ بعض المساحة.</translation>
+        <translation>Libere espacio.</translation>
     </message>
     <message>
         <source>KWin runs no scripts: %1</source>
-        <translation>لا ينفّذ KWin أي سكربت: ⁨%1⁩</translation>
+        <translation>KWin no ejecuta scripts: %1</translation>
     </message>
     <message>
         <source>KWin does not show the window any more.</source>
-        <translation>لم يعد KWin يُظهر النافذة.</translation>
+        <translation>KWin ya no muestra la ventana.</translation>
     </message>
     <message>
         <source>Open it again.</source>
-        <translation>افتحها من جديد.</translation>
+        <translation>Vuelva a abrirla.</translation>
     </message>
     <message>
         <source>This compositor tells nobody of windows.</source>
-        <translation>لا يخبر هذا المُركِّب أحدا عن النوافذ.</translation>
+        <translation>Este compositor no informa a nadie de las ventanas.</translation>
     </message>
     <message>
         <source>Use a compositor with toplevel management, such as sway, or an X11 session.</source>
-        <translation>استخدم مُركِّبا فيه إدارة نوافذ المستوى الأعلى مثل sway، أو جلسة X11.</translation>
+        <translation>Use un compositor con el protocolo toplevel management, como sway, o una sesión X11.</translation>
     </message>
     <message>
         <source>No window of “%1” is open.</source>
-        <translation>لا توجد نافذة مفتوحة للبرنامج «⁨%1⁩».</translation>
+        <translation>No hay ninguna ventana de «%1» abierta.</translation>
     </message>
     <message>
         <source>Start it first.</source>
-        <translation>ابدأه أولا.</translation>
+        <translation>Inicie primero el programa.</translation>
     </message>
 </context>
 </TS>
