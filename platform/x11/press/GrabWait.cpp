@@ -10,6 +10,7 @@ namespace x11 {
 namespace {
 
 constexpr std::chrono::milliseconds limit{500};
+constexpr std::chrono::milliseconds limitForManager{500};
 constexpr std::chrono::milliseconds limitForHotKeys{200};
 constexpr std::chrono::milliseconds limitForFocus{100};
 constexpr std::chrono::milliseconds betweenLooks{2};
@@ -20,6 +21,7 @@ GrabWait::GrabWait(const XConnection& connection, const Clock& clock)
     : m_connection(connection),
       m_clock(clock),
       m_window(connection),
+      m_managerTurn(connection, m_window.id()),
       m_activeWindow(connection.atom("_NET_ACTIVE_WINDOW")) {}
 
 bool GrabWait::isHeld() const {
@@ -51,11 +53,21 @@ Step<> GrabWait::untilFree(RunWaiter& waiter) const {
 
 Step<> GrabWait::untilHotKeyIsDone(RunWaiter& waiter) const {
     const Focus before = focus();
+    if (auto come = awaitManager(waiter); !come) return come;
     if (!isHeld()) return {};
     const auto isFree = waitUntilFree(waiter, limitForHotKeys);
     if (!isFree) return isFree.error();
     const Clock::Time end = m_clock.now() + limitForFocus;
     while (isFree.value() && !hasMovedFrom(before) && m_clock.now() < end) {
+        if (auto waited = waiter.waitUntil(m_clock.now() + betweenLooks); !waited) return waited;
+    }
+    return {};
+}
+
+Step<> GrabWait::awaitManager(RunWaiter& waiter) const {
+    if (!m_managerTurn.ask()) return {};
+    const Clock::Time end = m_clock.now() + limitForManager;
+    while (!m_managerTurn.hasCome() && m_clock.now() < end) {
         if (auto waited = waiter.waitUntil(m_clock.now() + betweenLooks); !waited) return waited;
     }
     return {};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/run/RunWaiter.h"
+#include "platform/x11/press/ManagerTurn.h"
 #include "platform/x11/server/HiddenWindow.h"
 #include "platform/x11/server/XConnection.h"
 
@@ -19,7 +20,8 @@ class GrabWait {
     Step<> untilFree(RunWaiter& waiter) const;
     /// The same after a stroke that may be somebody's hot key, at most 0.2 s: a window manager that switches
     /// windows holds the keyboard meanwhile, and a menu as long as it is open, which gets the next keys.
-    /// Where it was held, at most 0.1 s more until another window has the focus, which some give only then.
+    /// Waits at most 0.5 s before until the window manager has come to the stroke. Where it was held, at most
+    /// 0.1 s more until another window has the focus, which some give only then.
     Step<> untilHotKeyIsDone(RunWaiter& waiter) const;
 
   private:
@@ -31,12 +33,14 @@ class GrabWait {
     };
     Focus focus() const;
     bool hasMovedFrom(const Focus& before) const;
+    Step<> awaitManager(RunWaiter& waiter) const;
     /// Whether it is free by then.
     Step<bool> waitUntilFree(RunWaiter& waiter, std::chrono::milliseconds limit) const;
 
     const XConnection& m_connection;
     const Clock& m_clock;
     HiddenWindow m_window;
+    ManagerTurn m_managerTurn;
     xcb_atom_t m_activeWindow;
 };
 
