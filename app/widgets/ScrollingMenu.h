@@ -11,4 +11,16 @@ class ScrollingMenu : public QMenu {
   public:
     /// `title` with its "&" doubled.
     ScrollingMenu(const QString& title, QWidget* parent);
+
+  protected:
+    void hideEvent(QHideEvent* event) override;
+
+  private:
+    class Style;
+
+    /// The toolkit measures a submenu that is opened again before it forgets how far it was scrolled. With a
+    /// style under which menus do not scroll it forgets that at once.
+    void forgetScrolling();
+
+    Style* m_style;
 };

@@ -15,7 +15,7 @@ struct HoldSigns {
     bool pointer = false;
     /// A small window came up with it that no window manager knows: a menu's.
     bool popup = false;
-    /// Such a window came up with it that covers the screen.
+    /// Such a window came up with it that covers the screen, or some that cover half of it: each a monitor.
     bool cover = false;
 };
 

@@ -87,12 +87,12 @@ void CoreClient::grabPointer() const {
     if (!reply || reply->status != XCB_GRAB_STATUS_SUCCESS) throw std::runtime_error("no pointer grab");
 }
 
-void CoreClient::showMenu() const {
+void CoreClient::showUnmanaged(const xcb_rectangle_t& place) const {
     const xcb_window_t menu = xcb_generate_id(m_connection);
     const std::uint32_t unmanaged = 1;
-    xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, menu, m_connection.root(), 0, 0, 100, 200, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT,
-                      &unmanaged);
+    xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, menu, m_connection.root(), place.x, place.y,
+                      place.width, place.height, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+                      XCB_CW_OVERRIDE_REDIRECT, &unmanaged);
     xcb_map_window(m_connection, menu);
     m_connection.roundTrip();
 }

@@ -36,7 +36,9 @@ class CoreClient {
     /// For the life of the client.
     void grabPointer() const;
     /// A window as menus are, which no window manager knows; for the life of the client.
-    void showMenu() const;
+    void showMenu() const { showUnmanaged({0, 0, 100, 200}); }
+    /// The same in a place of the screen.
+    void showUnmanaged(const xcb_rectangle_t& place) const;
     /// Says of its window that it answers _NET_WM_PING, which it never does.
     void claimToAnswerPings() const;
 

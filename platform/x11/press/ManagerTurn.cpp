@@ -23,7 +23,8 @@ ManagerTurn::ManagerTurn(const XConnection& connection, xcb_window_t window)
       m_answer(connection.atom("_NET_FRAME_EXTENTS")) {}
 
 bool ManagerTurn::ask() const {
-    const auto hints = Property(m_connection, m_connection.root(), m_supported).numbers(XCB_ATOM_ATOM, mostHints);
+    const auto hints =
+        Property(m_connection, m_connection.root(), m_supported).numbers(XCB_ATOM_ATOM, mostHints);
     if (std::find(hints.begin(), hints.end(), m_request) == hints.end()) return false;
     Property(m_connection, m_window, m_answer).remove();
     const ClientMessage question{.window = m_window, .type = m_request};

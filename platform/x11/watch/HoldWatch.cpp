@@ -27,6 +27,10 @@ bool isHeld(const XReply<xcb_grab_keyboard_reply_t>& reply) {
     return reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
 }
 
+std::uint64_t areaOf(const xcb_get_geometry_reply_t& place) {
+    return std::uint64_t{place.width} * place.height;
+}
+
 bool isHeld(const XReply<xcb_grab_pointer_reply_t>& reply) {
     return reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
 }
@@ -96,19 +100,24 @@ void HoldWatch::readEvents(Clock::Time now) {
 void HoldWatch::addSigns(HoldSigns& signs) const {
     const auto screen =
         replyTo(m_connection, xcb_get_geometry(m_connection, m_connection.root()), xcb_get_geometry_reply);
+    std::uint64_t covered = 0;
     for (const Candidate& candidate : m_candidates) {
         const auto place =
             replyTo(m_connection, xcb_get_geometry(m_connection, candidate.window), xcb_get_geometry_reply);
         if (!screen || !place) continue;
+        if (isNoMenu(candidate.window)) continue;
         const bool covers = place->width >= screen->width && place->height >= screen->height;
+        covered += areaOf(*place);
         // A window without a depth cannot be seen.
         const bool isSeen = place->depth != 0 && place->width >= leastSize && place->height >= leastSize;
         if (covers) {
-            signs.cover = signs.cover || !isNoMenu(candidate.window);
-        } else if (isSeen && !isNoMenu(candidate.window)) {
+            signs.cover = true;
+        } else if (isSeen) {
             signs.popup = true;
         }
     }
+    // A locker has a window for each monitor, and comes to one after the other.
+    if (screen && covered >= areaOf(*screen) / 2) signs.cover = true;
 }
 
 /// A window of ours, or of a kind that never takes the keyboard (Extended Window Manager Hints 1.5).

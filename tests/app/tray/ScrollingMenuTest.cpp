@@ -51,4 +51,26 @@ TEST_F(ScrollingMenuTest, followsTheArrowKeys) {
     }
 }
 
+/// Out of the menu that it belongs to, at the lower edge of the screen as from a tray.
+TEST_F(ScrollingMenuTest, opensAtItsTopThoughItWasScrolledBefore) {
+    history.hide();
+    const auto open = [this] {
+        menu.popup({0, menu.screen()->geometry().bottom()});
+        menu.setActiveAction(history.menuAction());
+        QKeyEvent right(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);
+        QCoreApplication::sendEvent(&menu, &right);
+    };
+    open();
+    ASSERT_TRUE(history.isVisible());
+    const QRect place = history.geometry();
+    for (int time = 0; time < 3; ++time) {
+        press(Qt::Key_End);
+        menu.hide();
+        ASSERT_FALSE(history.isVisible());
+        open();
+        EXPECT_EQ(history.geometry(), place) << time;
+        EXPECT_TRUE(history.rect().contains(history.actionGeometry(history.actions().first()))) << time;
+    }
+}
+
 }  // namespace

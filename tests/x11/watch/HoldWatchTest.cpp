@@ -57,4 +57,33 @@ TEST_F(HoldWatchTest, aWindowThatComesLaterIsNoMenu) {
     EXPECT_EQ(explanation(501ms), "");
 }
 
+TEST_F(HoldWatchTest, aWindowThatIsAsLargeAsTheScreenCoversIt) {
+    other.showUnmanaged({0, 0, 1280, 800});
+    other.grabKeyboard();
+    EXPECT_EQ(explanation(0ms), "cover");
+}
+
+/// Lockers have one for each monitor.
+TEST_F(HoldWatchTest, windowsSideBySideCoverItTogether) {
+    other.showUnmanaged({0, 0, 640, 800});
+    other.showUnmanaged({640, 0, 640, 800});
+    other.grabKeyboard();
+    EXPECT_NE(explanation(0ms).find("cover"), std::string::npos);
+}
+
+TEST_F(HoldWatchTest, oneForEachOfThreeMonitorsCoversItAsSoonAsTwoHaveCome) {
+    other.showUnmanaged({0, 0, 426, 800});
+    other.grabKeyboard();
+    EXPECT_EQ(explanation(0ms), "popup");
+    other.showUnmanaged({426, 0, 426, 800});
+    EXPECT_NE(explanation(1ms).find("cover"), std::string::npos);
+}
+
+TEST_F(HoldWatchTest, aMenuAndItsSubmenuAsHighAsTheScreenCoverNothing) {
+    other.showUnmanaged({0, 0, 250, 800});
+    other.showUnmanaged({250, 0, 350, 800});
+    other.grabKeyboard();
+    EXPECT_EQ(explanation(0ms), "popup");
+}
+
 }  // namespace
