@@ -1870,6 +1870,10 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
         <source>The history</source>
         <translation>السجل</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>LogIn</name>

@@ -1871,6 +1871,10 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
         <source>The history</source>
         <translation>Der Verlauf</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>LogIn</name>

@@ -1871,6 +1871,10 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
         <source>The history</source>
         <translation>El historial</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>LogIn</name>

@@ -1871,6 +1871,10 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
         <source>The history</source>
         <translation>L’historique</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>LogIn</name>

@@ -1871,6 +1871,10 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <source>The history</source>
         <translation>履歴</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1。%2</translation>
+    </message>
 </context>
 <context>
     <name>LogIn</name>

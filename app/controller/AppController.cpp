@@ -57,7 +57,7 @@ AppController::AppController(Services& services, Windows& windows, StatusItem& i
       m_updateDesk(services.updateService, services.workspace, m_dialogs),
       m_helpDesk(services.workspace, services.systemFacts, m_stage),
       m_statusDesk(m_stage),
-      m_filesDesk(services.macroFiles, services.notifications, m_scriptNotices, m_dialogs, m_gate, m_stage),
+      m_filesDesk(services.macroFiles, m_scriptNotices, m_dialogs, m_gate, m_stage),
       m_preferencesDesk(services.settings, services.loginItems, services.hotKeys, library, m_dialogs,
                         m_stage),
       m_consentDesk(services.settings, services.hotKeys, m_dialogs, m_preferencesDesk.model.writeHotKeys),
@@ -89,6 +89,8 @@ void AppController::connectDesks() {
         connect(&shortcut, &ShortcutModel::keyComboDidChange, this,
                 [this, &shortcut] { shortcutRecorderKeyComboDidChange(&shortcut); });
     }
+    connect(&m_library, &LibraryController::faultUnshown, this,
+            [this](const QString& fault) { m_statusNotice.setFault(fault); });
     connect(&m_library, &LibraryController::historyGrown, this, [this](std::size_t index) {
         MacroMenuItem* const item = m_menuDesk.addToHistory(m_library.history().entries().at(index), index);
         connect(item, &QAction::triggered, this, [this, item] { perform(&AppController::runMacro, item); });

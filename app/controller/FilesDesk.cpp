@@ -15,17 +15,11 @@
 #include "engine/EngineState.h"
 #include "engine/MacroPlayer.h"
 #include "platform/MacroFiles.h"
-#include "platform/Notifications.h"
 #include "prefs/KeyCombo.h"
 
-FilesDesk::FilesDesk(MacroFiles& files, Notifications& notifications, ScriptNotices& scriptNotices,
-                     Dialogs& dialogs, const Gate& gate, Stage& stage)
-    : m_files(files),
-      m_notifications(notifications),
-      m_scriptNotices(scriptNotices),
-      m_dialogs(dialogs),
-      m_gate(gate),
-      m_stage(stage) {}
+FilesDesk::FilesDesk(MacroFiles& files, ScriptNotices& scriptNotices, Dialogs& dialogs, const Gate& gate,
+                     Stage& stage)
+    : m_files(files), m_scriptNotices(scriptNotices), m_dialogs(dialogs), m_gate(gate), m_stage(stage) {}
 
 void FilesDesk::save() {
     if (!engineState().currentMacro) return;
@@ -60,23 +54,22 @@ bool FilesDesk::loadFrom(const QString& path) {
 void FilesDesk::open(const QString& path, KeyCombo play) {
     const QString name = QFileInfo(path).fileName();
     if (engineState().recording) {
-        post(tr("\"%1\" was not loaded").arg(name), tr("A macro is being recorded. Stop recording first."));
+        m_scriptNotices.tell(tr("\"%1\" was not loaded").arg(name),
+                             tr("A macro is being recorded. Stop recording first."));
     } else if (m_gate.isLocked()) {
-        post(tr("\"%1\" was not loaded").arg(name), tr("The screen is locked. Unlock it first."));
+        m_scriptNotices.tell(tr("\"%1\" was not loaded").arg(name),
+                             tr("The screen is locked. Unlock it first."));
     } else if (!m_gate.isOpen()) {
-        post(tr("\"%1\" was not loaded").arg(name), tr("Answer Keyrill's question first."));
+        m_scriptNotices.tell(tr("\"%1\" was not loaded").arg(name), tr("Answer Keyrill's question first."));
     } else if (loadFrom(path) && !isBroken(path)) {
         const QString combination = combinationText(play);
-        post(tr("\"%1\" is loaded").arg(name),
-             combination.isEmpty() ? tr("Choose a shortcut for Play in the preferences to play it.")
-                                   : tr("Press %1 to play it.").arg(combination));
+        m_scriptNotices.tell(tr("\"%1\" is loaded").arg(name),
+                             combination.isEmpty()
+                                 ? tr("Choose a shortcut for Play in the preferences to play it.")
+                                 : tr("Press %1 to play it.").arg(combination));
     }
 }
 
 bool FilesDesk::isBroken(const QString& path) {
     return m_scriptNotices.tellOfLoaded(QFileInfo(path).fileName(), engineState().currentMacro->script());
-}
-
-void FilesDesk::post(const QString& title, const QString& text) {
-    m_notifications.post(title.toStdString(), text.toStdString());
 }

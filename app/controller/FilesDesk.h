@@ -7,7 +7,6 @@
 class Dialogs;
 class Gate;
 class MacroFiles;
-class Notifications;
 class ScriptNotices;
 class Stage;
 struct KeyCombo;
@@ -18,8 +17,8 @@ class FilesDesk {
 
   public:
     /// All outlive the desk.
-    FilesDesk(MacroFiles& files, Notifications& notifications, ScriptNotices& scriptNotices, Dialogs& dialogs,
-              const Gate& gate, Stage& stage);
+    FilesDesk(MacroFiles& files, ScriptNotices& scriptNotices, Dialogs& dialogs, const Gate& gate,
+              Stage& stage);
 
     /// Asks where to and saves the current macro, if there is one.
     void save();
@@ -35,10 +34,8 @@ class FilesDesk {
   private:
     /// Whether the macro that has just been loaded from there cannot be played, which has been told.
     bool isBroken(const QString& path);
-    void post(const QString& title, const QString& text);
 
     MacroFiles& m_files;
-    Notifications& m_notifications;
     ScriptNotices& m_scriptNotices;
     Dialogs& m_dialogs;
     const Gate& m_gate;

@@ -30,6 +30,10 @@ void ScriptNotices::post(const QString& title, const ScriptFailure& failure) {
     QString text =
         tr("Line %1: %2").arg(QString::number(failure.line), QString::fromStdString(failure.error.message));
     if (!failure.error.hint.empty()) text += u'\n' + QString::fromStdString(failure.error.hint);
+    tell(title, text);
+}
+
+void ScriptNotices::tell(const QString& title, const QString& text) {
     // Who shows messages may answer when this is no more.
     m_notifications.post(title.toStdString(), text.toStdString(),
                          [self = QPointer<ScriptNotices>(this), fault = tr("%1. %2").arg(title, text)] {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/library/LibraryController.h"
 
+#include <QPointer>
 #include <QTimer>
 #include <utility>
 
@@ -48,6 +49,10 @@ void LibraryController::historyFailed(const Error& why) { post(tr("The history")
 void LibraryController::post(const QString& title, const Error& error) {
     QString text = QString::fromStdString(error.message);
     if (!error.hint.empty()) text += u'\n' + QString::fromStdString(error.hint);
-    m_notifications.post(title.toStdString(), text.toStdString());
+    // Who shows messages may answer when this is no more.
+    m_notifications.post(title.toStdString(), text.toStdString(),
+                         [self = QPointer<LibraryController>(this), fault = tr("%1. %2").arg(title, text)] {
+                             if (self) emit self->faultUnshown(fault);
+                         });
     emit faultTold(error);
 }

@@ -70,6 +70,8 @@ class LibraryController : public QObject, private LibraryListener, private Histo
     void read();
     /// What could not be read or kept has been told by a notification.
     void faultTold(const Error& why);
+    /// Nobody shows that notification, of which these are the words.
+    void faultUnshown(const QString& fault);
     /// LibraryHotKeys::state() of the macro of that path (bytes) may have become another.
     void hotKeyChanged(const QByteArray& path);
     /// history() has one more, at that place.

@@ -226,6 +226,15 @@ TEST_F(MacroFilesTest, refusesAFileFromOutsideDuringARecording) {
             {R"("greeting.keyrill" was not loaded)", "A macro is being recorded. Stop recording first."}}));
 }
 
+TEST_F(MacroFilesTest, saysAtTheStatusItemWhatNobodyElseShows) {
+    platform().notifications.losePresenter();
+    platform().macroFiles.put(path(), "beep\n");
+    controller.recordMacro(nullptr);
+    controller.openMacroFile(file);
+    EXPECT_EQ(statusItem.shownNotice,
+              R"("greeting.keyrill" was not loaded. A macro is being recorded. Stop recording first.)");
+}
+
 TEST_F(MacroFilesTest, refusesAFileFromOutsideWhileAQuestionIsOpen) {
     platform().macroFiles.put(path(), "beep\n");
     recordKey();

@@ -124,6 +124,17 @@ TEST_F(LibraryControllerTest, tellsOfDamagedSettings) {
                        "renamed.\")"});
 }
 
+TEST_F(LibraryControllerTest, passesOnWhatNobodyShows) {
+    platform().notifications.losePresenter();
+    QString unshown;
+    QObject::connect(&controller, &LibraryController::faultUnshown,
+                     [&](const QString& fault) { unshown = fault; });
+    controller.history().setKept(true);
+    platform().recordings.failNextCall({"The disk is full.", "Make room."});
+    controller.history().add(*macroWithScript("beep"));
+    EXPECT_EQ(unshown, "The history. The disk is full.\nMake room.");
+}
+
 /// It is written when the turn of the loop has ended.
 TEST_F(LibraryControllerTest, tellsThatSettingsCouldNotBeWritten) {
     folder().userWrites("a.keyrill", "beep");
