@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::chrono::milliseconds limit{500};
 constexpr std::chrono::milliseconds limitForManager{500};
+constexpr std::chrono::seconds silence{10};
 constexpr std::chrono::milliseconds limitForHotKeys{200};
 constexpr std::chrono::milliseconds limitForFocus{100};
 constexpr std::chrono::milliseconds betweenLooks{2};
@@ -51,9 +52,9 @@ Step<> GrabWait::untilFree(RunWaiter& waiter) const {
         sentence("Keys", "Close the menu, the question or the screen lock that is open, and play again.")};
 }
 
-Step<> GrabWait::untilHotKeyIsDone(RunWaiter& waiter) const {
+Step<> GrabWait::untilHotKeyIsDone(RunWaiter& waiter) {
     const Focus before = focus();
-    if (auto come = awaitManager(waiter); !come) return come;
+    if (auto come = awaitManager(waiter, limitForManager); !come) return come;
     if (!isHeld()) return {};
     const auto isFree = waitUntilFree(waiter, limitForHotKeys);
     if (!isFree) return isFree.error();
@@ -64,10 +65,15 @@ Step<> GrabWait::untilHotKeyIsDone(RunWaiter& waiter) const {
     return {};
 }
 
-Step<> GrabWait::awaitManager(RunWaiter& waiter) const {
-    if (!m_managerTurn.ask()) return {};
-    const Clock::Time end = m_clock.now() + limitForManager;
-    while (!m_managerTurn.hasCome() && m_clock.now() < end) {
+Step<> GrabWait::awaitManager(RunWaiter& waiter, std::chrono::milliseconds limit) {
+    const bool isSilent = m_managerIsSilentUntil && m_clock.now() < *m_managerIsSilentUntil;
+    if (isSilent || !m_managerTurn.ask()) return {};
+    const Clock::Time end = m_clock.now() + limit;
+    while (!m_managerTurn.hasCome()) {
+        if (m_clock.now() >= end) {
+            m_managerIsSilentUntil = m_clock.now() + silence;
+            return {};
+        }
         if (auto waited = waiter.waitUntil(m_clock.now() + betweenLooks); !waited) return waited;
     }
     return {};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+
 #include "platform/run/RunWaiter.h"
 #include "platform/x11/press/ManagerTurn.h"
 #include "platform/x11/server/HiddenWindow.h"
@@ -22,7 +24,11 @@ class GrabWait {
     /// windows holds the keyboard meanwhile, and a menu as long as it is open, which gets the next keys.
     /// Waits at most 0.5 s before until the window manager has come to the stroke. Where it was held, at most
     /// 0.1 s more until another window has the focus, which some give only then.
-    Step<> untilHotKeyIsDone(RunWaiter& waiter) const;
+    Step<> untilHotKeyIsDone(RunWaiter& waiter);
+
+    /// At most that long, until the window manager has come to what was pressed so far. One that has let us
+    /// wait in vain is left alone for a while.
+    Step<> awaitManager(RunWaiter& waiter, std::chrono::milliseconds limit);
 
   private:
     bool isHeld() const;
@@ -33,7 +39,6 @@ class GrabWait {
     };
     Focus focus() const;
     bool hasMovedFrom(const Focus& before) const;
-    Step<> awaitManager(RunWaiter& waiter) const;
     /// Whether it is free by then.
     Step<bool> waitUntilFree(RunWaiter& waiter, std::chrono::milliseconds limit) const;
 
@@ -42,6 +47,7 @@ class GrabWait {
     HiddenWindow m_window;
     ManagerTurn m_managerTurn;
     xcb_atom_t m_activeWindow;
+    std::optional<Clock::Time> m_managerIsSilentUntil;
 };
 
 }  // namespace x11

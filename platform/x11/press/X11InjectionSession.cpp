@@ -14,6 +14,7 @@ namespace {
 /// At who has the keyboard.
 constexpr std::chrono::milliseconds betweenLooks{10};
 /// A guard that runs answers within a millisecond; to start takes it ten.
+constexpr std::chrono::milliseconds patienceForManager{100};
 constexpr std::chrono::milliseconds guardPatience{1000};
 constexpr std::chrono::milliseconds guardStart{3000};
 
@@ -156,7 +157,10 @@ Step<> X11InjectionSession::prepareStroke(xkb_mod_mask_t commands) {
         if (auto begun = begin(); !begun) return begun;
         m_held.pressAgain();
     }
-    if (!m_tail.isContinuedBy(commands)) {
+    if (m_tail.isContinuedBy(commands)) {
+        // A busy one loses the second of two switches.
+        if (auto come = m_tools.grab.awaitManager(m_waiter, patienceForManager); !come) return come;
+    } else {
         if (auto ended = m_tailWait.endTail(); !ended) return ended;
         if (auto done = awaitHotKeys(); !done) return done;
     }
