@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/press/TextTyper.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 #include "platform/Sentence.h"
@@ -13,6 +14,8 @@ namespace {
 
 /// A keymap that has not changed for so long is whole.
 constexpr std::chrono::milliseconds settleTime{20};
+/// A modifier that a hand presses now joins what is on its way to the server, and shortcuts come of that.
+constexpr std::size_t mostInFlight = 32;
 
 }  // namespace
 
@@ -124,7 +127,8 @@ Step<std::size_t> TextTyper::typePart(std::span<const char32_t> characters, cons
         if (!state) return state.error();
         m_sender.meet(state.value());
         m_tools.binder.noteReader();
-        for (; at < characters.size(); ++at) {
+        const std::size_t end = std::min(at + mostInFlight, characters.size());
+        for (; at < end; ++at) {
             const xkb_layout_index_t group = state.value().lockedLayout;
             const auto typing = m_tools.characters.find(characters[at], group);
             isWhole = typing.has_value();

@@ -84,6 +84,28 @@ TEST_F(UserHandsTest, aRunWaitsForEachModifierThatIsPressedWhileItLasts) {
     waitFor("keys:, modifiers: 0x0");
 }
 
+/// What is on its way to the server then becomes shortcuts.
+TEST_F(UserHandsTest, aModifierThatIsPressedWhileATextIsTypedChangesFewOfItsCharacters) {
+    CoreClient client(display());
+    const std::string text(20000, 'a');
+    auto tapped = std::async(std::launch::async, [this] {
+        const Typist typist(servers(), Typist::Gap(30));
+        for (int time = 0; time < 3; ++time) typist.tap(xkey::control);
+    });
+    ASSERT_TRUE(program().run()->text(text, 0));
+    tapped.get();
+    constexpr std::ptrdiff_t most = 32;
+    std::ptrdiff_t taps = 0;
+    std::ptrdiff_t changed = 0;
+    for (const CoreClient::KeyEvent& event : client.events()) {
+        if (!event.press) continue;
+        if (event.keycode == xkey::control) ++taps;
+        if (event.keycode == xkey::a && (event.state & xmask::control) != 0) ++changed;
+    }
+    EXPECT_EQ(taps, 3);
+    EXPECT_LE(changed, taps * most);
+}
+
 /// As an application gets them.
 TEST_F(UserHandsTest, aRunRestsAfterAModifierThatWasLetGoOfJustBefore) {
     CoreClient client(display());
