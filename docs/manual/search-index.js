@@ -1994,7 +1994,7 @@ const manualIndex = [
 "url": "administrators.html",
 "page": "For administrators",
 "title": "For administrators",
-"words": "administrator, admin, install, package, deb, preset, default, policy, polkit, xdg_config_dirs, autostart, deploy, cmake, uninstall",
+"words": "administrator, admin, install, package, deb, sandbox, preset, default, policy, polkit, xdg_config_dirs, autostart, deploy, cmake, uninstall",
 "text": [
 "How Keyrill is installed, what can be set for all users, and what of it needs root."
 ]
@@ -2012,6 +2012,23 @@ const manualIndex = [
 "--install build/release --prefix ~/keyrill && ~/keyrill/bin/keyrill cpack --config ",
 "build/release/CPackConfig.cmake makes an archive of that, which may be unpacked and moved ",
 "anywhere. The programs find the rest by their own place."
+]
+},
+{
+"url": "administrators.html#flatpak",
+"page": "For administrators",
+"title": "As a Flatpak",
+"text": [
+"The sources have the manifest of a Flatpak, packaging/flatpak. In its sandbox Keyrill sees ",
+"your display and a few services of the session bus; no network, and of your files only its ",
+"own and those that you choose. Whoever sees an X display sees all keys that are typed ",
+"there, in a sandbox as well. It differs from an installed Keyrill: Macros and settings are ",
+"in ~/.var/app/example.orlen.Keyrill. Start Keyrill when I log in does nothing: put an ",
+"entry with Exec=flatpak run example.orlen.Keyrill into ~/.config/autostart. In Wayland ",
+"sessions only what you type into the window Record Here is recorded; sway's hot keys and ",
+"GNOME's custom shortcuts are out of reach, and so is the layout in GNOME. Ended by flatpak ",
+"kill while it plays, it can leave a key down until the next play. Ended in any other way ",
+"it leaves none. It does not look for newer versions."
 ]
 },
 {
