@@ -14,8 +14,16 @@
 #include "app/gallery/Scenes.h"
 #include "app/panels/PreferencesPanel.h"
 #include "app/shortcuts/PreferencesModel.h"
+#include "platform/AsciiText.h"
+#include "platform/Sentence.h"
 
 namespace {
+
+/// The words of a session whose X server is another one than this, which has it.
+Error missingExtension() {
+    return {sentence("Session", "The X server must have the XTEST extension, but it has not."),
+            sentence("Session", "Use a newer X server, or switch the extension on in its settings.")};
+}
 
 void takeAlert(Camera& camera, const AlertText& text, const char* name) {
     AlertDialog alert(text);
@@ -105,14 +113,10 @@ void takeReplaceQuestion(Camera& camera, const QString& folder) {
 
 void takeDialogs(Camera& camera) {
     takeAlert(camera, alerts::updateAvailable(), "alert-update");
+    takeAlert(camera, alerts::noAccess(missingExtension()), "alert-access");
     takeAlert(camera,
-              alerts::noAccess(
-                  Error{"This X server has no XTEST extension.", "Without it no program can press keys."}),
-              "alert-access");
-    takeAlert(camera,
-              alerts::macroNotSaved(
-                  QStringLiteral("/home/user/Grüße.keyrill"),
-                  Error{"Line 3, character 12: \"ü\" is not ASCII.", "Macro files hold ASCII only."}),
+              alerts::macroNotSaved(QStringLiteral("/home/user/Grüße.keyrill"),
+                                    checkAscii("-- Names\n\nset name to \"Zoë\"\n").error()),
               "alert-not-saved");
     takeSheet(camera, alerts::updateAvailableSheet(), "sheet-update");
     takeSheet(camera, alerts::noUpdate(), "sheet-no-update");

@@ -179,11 +179,15 @@ void takeStatus(Camera& camera) {
     facts.details = {.display = ":0", .parts = {{"XInput 2.2", true}, {"XTEST", true}}, .layouts = {"us"}};
     facts.hasSessionBus = true;
     facts.isRunning = true;
-    facts.hotKeys = {{.shortcut = 0, .combination = "Ctrl+Super+R", .finding = HotKeyFinding::ours},
-                     {.shortcut = 1,
-                      .combination = "Ctrl+Super+S",
+    const PreferencesModel model;
+    const auto words = [](const ShortcutModel& shortcut) {
+        return combinationText(shortcut.keyCombo()).toStdString();
+    };
+    facts.hotKeys = {{.shortcut = 0, .combination = words(model.record), .finding = HotKeyFinding::ours},
+                     {.shortcut = 2,
+                      .combination = words(model.play),
                       .finding = HotKeyFinding::taken,
-                      .why = {"Another program has it.", ""}}};
+                      .why = *refusedHotKey().error}};
     StatusPanel status;
     status.setReport(sessionReport(facts));
     camera.take(status, QStringLiteral("status"));
