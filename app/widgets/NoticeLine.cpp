@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
+#include <algorithm>
 
 #include "app/widgets/PanelText.h"
 
@@ -13,6 +14,9 @@ NoticeLine::NoticeLine(QWidget* parent) : QWidget(parent), m_text(makeLine({})) 
     sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
     sign->setAccessibleName(tr("Warning"));
     m_text->setWordWrap(true);
+    // The first line is beside the sign also where there is more height than the lines need.
+    m_text->setAlignment((m_text->alignment() & ~Qt::AlignVertical_Mask) | Qt::AlignTop);
+    m_text->setContentsMargins(0, std::max(0, (size - m_text->fontMetrics().height()) / 2), 0, 0);
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
