@@ -1904,6 +1904,14 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
         <source>Move the program to another folder.</source>
         <translation>انقل البرنامج إلى مجلد آخر.</translation>
     </message>
+    <message>
+        <source>A program in a sandbox cannot make an entry that starts it at log-in.</source>
+        <translation>لا يستطيع برنامج داخل صندوق معزول إنشاء مدخلة تبدؤه عند الولوج.</translation>
+    </message>
+    <message>
+        <source>Add Keyrill to the programs that start at log-in, in your desktop&apos;s settings.</source>
+        <translation>أضف Keyrill إلى البرامج التي تبدأ عند الولوج، من إعدادات سطح المكتب.</translation>
+    </message>
 </context>
 <context>
     <name>MacroCalls</name>

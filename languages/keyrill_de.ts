@@ -1905,6 +1905,14 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
         <source>Move the program to another folder.</source>
         <translation>Verschieben Sie das Programm in einen anderen Ordner.</translation>
     </message>
+    <message>
+        <source>A program in a sandbox cannot make an entry that starts it at log-in.</source>
+        <translation>Ein Programm in einer Sandbox kann keinen Eintrag anlegen, der es bei der Anmeldung startet.</translation>
+    </message>
+    <message>
+        <source>Add Keyrill to the programs that start at log-in, in your desktop&apos;s settings.</source>
+        <translation>Fügen Sie Keyrill in den Einstellungen Ihrer Arbeitsumgebung den Programmen hinzu, die bei der Anmeldung starten.</translation>
+    </message>
 </context>
 <context>
     <name>MacroCalls</name>

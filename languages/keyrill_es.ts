@@ -1905,6 +1905,14 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
         <source>Move the program to another folder.</source>
         <translation>Mueva el programa a otra carpeta.</translation>
     </message>
+    <message>
+        <source>A program in a sandbox cannot make an entry that starts it at log-in.</source>
+        <translation>Un programa en un entorno aislado no puede crear una entrada que lo ejecute al iniciar sesión.</translation>
+    </message>
+    <message>
+        <source>Add Keyrill to the programs that start at log-in, in your desktop&apos;s settings.</source>
+        <translation>Añada Keyrill a los programas que se ejecutan al iniciar sesión, en los ajustes de su escritorio.</translation>
+    </message>
 </context>
 <context>
     <name>MacroCalls</name>

@@ -1905,6 +1905,14 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
         <source>Move the program to another folder.</source>
         <translation>Déplacez le programme dans un autre dossier.</translation>
     </message>
+    <message>
+        <source>A program in a sandbox cannot make an entry that starts it at log-in.</source>
+        <translation>Un programme dans un bac à sable ne peut pas créer d’entrée qui le lance à l’ouverture de session.</translation>
+    </message>
+    <message>
+        <source>Add Keyrill to the programs that start at log-in, in your desktop&apos;s settings.</source>
+        <translation>Ajoutez Keyrill aux programmes lancés à l’ouverture de session, dans les paramètres de votre bureau.</translation>
+    </message>
 </context>
 <context>
     <name>MacroCalls</name>

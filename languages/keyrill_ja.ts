@@ -1905,6 +1905,14 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <source>Move the program to another folder.</source>
         <translation>プログラムを別のフォルダーに移動してください。</translation>
     </message>
+    <message>
+        <source>A program in a sandbox cannot make an entry that starts it at log-in.</source>
+        <translation>サンドボックス内のプログラムは、ログイン時に自身を起動するエントリーを作成できません。</translation>
+    </message>
+    <message>
+        <source>Add Keyrill to the programs that start at log-in, in your desktop&apos;s settings.</source>
+        <translation>デスクトップの設定で、ログイン時に起動するプログラムに Keyrill を追加してください。</translation>
+    </message>
 </context>
 <context>
     <name>MacroCalls</name>

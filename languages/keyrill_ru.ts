@@ -1905,6 +1905,14 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <source>Move the program to another folder.</source>
         <translation>Переместите программу в другую папку.</translation>
     </message>
+    <message>
+        <source>A program in a sandbox cannot make an entry that starts it at log-in.</source>
+        <translation>Программа в изолированной среде не может создать запись, запускающую её при входе в систему.</translation>
+    </message>
+    <message>
+        <source>Add Keyrill to the programs that start at log-in, in your desktop&apos;s settings.</source>
+        <translation>Добавьте Keyrill в программы, запускаемые при входе в систему, в параметрах рабочего стола.</translation>
+    </message>
 </context>
 <context>
     <name>MacroCalls</name>

@@ -2023,12 +2023,12 @@ const manualIndex = [
 "your display and a few services of the session bus; no network, and of your files only its ",
 "own and those that you choose. Whoever sees an X display sees all keys that are typed ",
 "there, in a sandbox as well. It differs from an installed Keyrill: Macros and settings are ",
-"in ~/.var/app/example.orlen.Keyrill. Start Keyrill when I log in does nothing: put an ",
-"entry with Exec=flatpak run example.orlen.Keyrill into ~/.config/autostart. In Wayland ",
-"sessions only what you type into the window Record Here is recorded; sway's hot keys and ",
-"GNOME's custom shortcuts are out of reach, and so is the layout in GNOME. Ended by flatpak ",
-"kill while it plays, it can leave a key down until the next play. Ended in any other way ",
-"it leaves none. It does not look for newer versions."
+"in ~/.var/app/example.orlen.Keyrill. Start Keyrill when I log in is refused: put an entry ",
+"with Exec=flatpak run example.orlen.Keyrill into ~/.config/autostart. In Wayland sessions ",
+"only what you type into the window Record Here is recorded; sway's hot keys and GNOME's ",
+"custom shortcuts are out of reach, and so is the layout in GNOME. Ended by flatpak kill ",
+"while it plays, it can leave a key down until the next play. Ended in any other way it ",
+"leaves none. It does not look for newer versions."
 ]
 },
 {

@@ -73,8 +73,10 @@ struct AutostartEntry::Entry {
     std::string program;
 };
 
-AutostartEntry::AutostartEntry(ConfigFolders folders, std::string programPath)
-    : m_folders(std::move(folders)), m_programPath(std::move(programPath)) {}
+AutostartEntry::AutostartEntry(ConfigFolders folders, std::string programPath, std::string sandboxMark)
+    : m_folders(std::move(folders)),
+      m_programPath(std::move(programPath)),
+      m_sandboxMark(std::move(sandboxMark)) {}
 
 LoginItems::State AutostartEntry::state() const {
     const Entry users = usersEntry();
@@ -103,6 +105,12 @@ bool AutostartEntry::isSystemwideOurs() const {
 }
 
 Result<> AutostartEntry::add() const {
+    if (access(m_sandboxMark.c_str(), F_OK) == 0) {
+        return Error{
+            sentence("LogIn", "A program in a sandbox cannot make an entry that starts it at log-in."),
+            sentence("LogIn",
+                     "Add Keyrill to the programs that start at log-in, in your desktop's settings.")};
+    }
     const auto exec = execValue(m_programPath);
     return exec ? write(entryText(exec.value())) : Result<>(exec.error());
 }

@@ -15,8 +15,10 @@
 /// system-wide entry.
 class AutostartEntry : public LoginItems {
   public:
-    /// `programPath` is absolute.
-    AutostartEntry(ConfigFolders folders, std::string programPath);
+    /// `programPath` is absolute. `sandboxMark` is a file that is there in a sandbox alone: its configuration
+    /// folder is one in which no desktop looks for entries, so that none is added there.
+    AutostartEntry(ConfigFolders folders, std::string programPath,
+                   std::string sandboxMark = "/.flatpak-info");
 
     State state() const override;
     Result<> install(bool enable) override;
@@ -34,4 +36,5 @@ class AutostartEntry : public LoginItems {
 
     ConfigFolders m_folders;
     std::string m_programPath;
+    std::string m_sandboxMark;
 };

@@ -43,6 +43,18 @@ TEST_F(AutostartEntryTest, isOffAtFirst) {
     EXPECT_FALSE(fs::exists(folder.file("user")));
 }
 
+TEST_F(AutostartEntryTest, isRefusedInASandboxWhereNoDesktopLooksForIt) {
+    AutostartEntry inside{{folder.file("user"), {}}, program, folder.path()};
+    const auto refused = inside.install(true);
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.error(), (Error{"A program in a sandbox cannot make an entry that starts it at log-in.",
+                                      "Add Keyrill to the programs that start at log-in, in your desktop's "
+                                      "settings."}));
+    EXPECT_FALSE(inside.reveal());
+    EXPECT_TRUE(inside.install(false));
+    EXPECT_FALSE(fs::exists(folder.file("user")));
+}
+
 TEST_F(AutostartEntryTest, isWrittenAsDocumented) {
     EXPECT_TRUE(entry.install(true));
     EXPECT_EQ(entry.state(), State::on);
