@@ -3426,7 +3426,7 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
     <name>WelcomePanel</name>
     <message>
         <source>%1.</source>
-        <translation>%1.</translation>
+        <translation>‏%1.</translation>
     </message>
     <message>
         <source>Welcome to Keyrill</source>
