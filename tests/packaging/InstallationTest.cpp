@@ -68,6 +68,16 @@ TEST_F(InstallationTest, theSoftwareCentresPageIsValidAndOfThisVersion) {
     EXPECT_NE(contentOf(file).find("<release version=\"" KEYRILL_VERSION "\""), std::string::npos);
 }
 
+TEST_F(InstallationTest, eachFileInXmlIsWellFormed) {
+    const std::set<std::string> kinds = {".html", ".lang", ".svg", ".xml"};
+    std::vector<std::string> command = {"xmllint", "--noout", "--nonet"};
+    for (const auto& file : std::filesystem::recursive_directory_iterator(installed("share"))) {
+        if (kinds.contains(file.path().extension())) command.push_back(file.path());
+    }
+    EXPECT_GT(command.size(), 30U);
+    EXPECT_EQ(outputOf(command), "");
+}
+
 TEST_F(InstallationTest, macroFilesAreKnownByTheirNameAndAreText) {
     const TemporaryFolder home;
     const std::map<std::string, std::string> environment = {
