@@ -17,6 +17,9 @@ struct Lock {
     /// The keys that lock it, the last one under the others.
     std::vector<std::uint8_t> keys;
     std::uint8_t locked;
+    /// What the key A types without it and under it.
+    std::string plain;
+    std::string typed;
 };
 
 constexpr std::uint8_t lessKey = 94;
@@ -26,6 +29,7 @@ class LockedLevelsTest : public testing::TestWithParam<Lock> {
     LockedLevelsTest() {
         desktop.startWindowManager();
         desktop.setLayout(GetParam().layout);
+        terminal.emplace(desktop.display());
         product.emplace(std::vector<std::string>{programs::keyrill}, desktop.options("product.log"));
         EXPECT_TRUE(eventually([this] { return desktop.isHotKeyTaken(xkey::m); }));
     }
@@ -35,38 +39,51 @@ class LockedLevelsTest : public testing::TestWithParam<Lock> {
         for (auto key = GetParam().keys.rbegin(); key != GetParam().keys.rend(); ++key)
             typist.release({*key});
     }
-    /// A recording begins and ends by its combinations.
-    void expectThatHotKeysWork() const {
+    /// A recording begins and ends by its combinations, and is played by another.
+    void expectThatHotKeysRecordAndPlay(const std::string& sign) {
         typist.stroke({xkey::control, xkey::super, xkey::r});
         EXPECT_TRUE(eventually([this] { return desktop.shows(title::overlay); }));
+        typist.tap(xkey::a);
+        m_expected += sign;
+        ASSERT_EQ(terminal->typed(m_expected.size()), m_expected);
         typist.stroke({xkey::control, xkey::super, xkey::s});
         EXPECT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
+        typist.stroke({xkey::control, xkey::super, xkey::p});
+        m_expected += sign;
+        ASSERT_EQ(terminal->typed(m_expected.size()), m_expected);
     }
 
     Desktop desktop;
-    Terminal terminal{desktop.display()};
+    std::optional<Terminal> terminal;
     std::optional<Child> product;
     KeyboardProbe probe{desktop.display()};
     Hands hands{desktop.display()};
     Typist typist{hands, std::chrono::milliseconds(30)};
+
+  private:
+    /// By the terminal.
+    std::string m_expected;
 };
 
 TEST_P(LockedLevelsTest, hotKeysWorkBeforeUnderAndAfterIt) {
-    expectThatHotKeysWork();
+    expectThatHotKeysRecordAndPlay(GetParam().plain);
     lock();
     ASSERT_EQ(probe.locked(), GetParam().locked);
-    expectThatHotKeysWork();
+    expectThatHotKeysRecordAndPlay(GetParam().typed);
+    EXPECT_TRUE(eventually([this] { return probe.locked() == GetParam().locked; }));
     hands.lock(GetParam().locked, false);
     hands.finish();
-    expectThatHotKeysWork();
+    expectThatHotKeysRecordAndPlay(GetParam().plain);
     EXPECT_EQ(desktop.keysDown(), std::vector<std::string>());
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Locks, LockedLevelsTest,
-    testing::Values(Lock{"shiftLock", {"us", "-option", "caps:shiftlock"}, {xkey::capsLock}, xmask::shift},
-                    Lock{"neosFourthLevel", {"de", "neo"}, {lessKey, xkey::altGr}, xmask::numLock},
-                    Lock{"neosCapsLock", {"de", "neo"}, {xkey::shift, xkey::rightShift}, xmask::capsLock}),
+    testing::Values(
+        Lock{"shiftLock", {"us", "-option", "caps:shiftlock"}, {xkey::capsLock}, xmask::shift, "a", "A"},
+        Lock{"oghamsThirdLevel", {"ie", "ogam_is434"}, {xkey::capsLock}, xmask::levelThree, "a", "\u1690"},
+        Lock{"neosFourthLevel", {"de", "neo"}, {lessKey, xkey::altGr}, xmask::numLock, "u", "\x1b[H"},
+        Lock{"neosCapsLock", {"de", "neo"}, {xkey::shift, xkey::rightShift}, xmask::capsLock, "u", "U"}),
     [](const auto& lock) { return std::string(lock.param.name); });
 
 TEST(KeypadDigitsTest, areTypedOnALayoutWhoseNumLockGivesArrows) {
