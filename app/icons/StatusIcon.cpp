@@ -6,6 +6,7 @@
 #include <QPainterPath>
 #include <QPixmap>
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -52,10 +53,10 @@ void drawStatus(QPainter& painter, StatusImage image, const QRect& place) {
     painter.drawPath(signOf(image));
 }
 
-/// Has the name of the theme's icon and draws its own, whether there is such a theme or not.
+/// May have the name of the theme's icon, and draws its own, whether there is such a theme or not.
 class StatusIconEngine : public QIconEngine {
   public:
-    explicit StatusIconEngine(StatusImage image) : m_image(image) {}
+    StatusIconEngine(StatusImage image, const QString& name) : m_image(image), m_name(name) {}
 
     void paint(QPainter* painter, const QRect& place, QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
         painter->save();
@@ -70,7 +71,7 @@ class StatusIconEngine : public QIconEngine {
         return pixmap;
     }
     QIconEngine* clone() const override { return new StatusIconEngine(*this); }
-    QString iconName() override { return nameOf(m_image); }
+    QString iconName() override { return m_name; }
     QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
         QList<QSize> sizes;
         for (const int size : {16, 22, 24, 32, 48, 64}) sizes.append(QSize(size, size));
@@ -79,8 +80,20 @@ class StatusIconEngine : public QIconEngine {
 
   private:
     StatusImage m_image;
+    QString m_name;
 };
 
 }  // namespace
 
-QIcon statusIcon(StatusImage image) { return QIcon(new StatusIconEngine(image)); }
+// The first name is the session's own; those after it only tell what it is made of.
+bool paintsSymbolicIcons(const QString& desktops) {
+    constexpr std::array known = {"GNOME", "ubuntu", "XFCE"};
+    const QString session = desktops.section(QLatin1Char(':'), 0, 0);
+    return std::any_of(known.begin(), known.end(),
+                       [&session](const char* name) { return session == QLatin1String(name); });
+}
+
+QIcon statusIcon(StatusImage image) {
+    const bool hasName = paintsSymbolicIcons(qEnvironmentVariable("XDG_CURRENT_DESKTOP"));
+    return QIcon(new StatusIconEngine(image, hasName ? nameOf(image) : QString()));
+}

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <string>
 #include <tuple>
 
 #include "desktop/DesktopTest.h"
@@ -7,11 +8,13 @@
 
 namespace {
 
-/// A panel of either colour, which finds the program's icons in its theme or does not.
-class PanelColourTest : public testing::TestWithParam<std::tuple<bool, bool>> {
+/// A panel of either colour, which finds the program's icons in its theme or does not, in a session that is
+/// known to paint them or in another.
+class PanelColourTest : public testing::TestWithParam<std::tuple<bool, bool, std::string>> {
   protected:
     bool isDark() const { return std::get<0>(GetParam()); }
     bool isInstalled() const { return std::get<1>(GetParam()); }
+    const std::string& session() const { return std::get<2>(GetParam()); }
 
     Desktop desktop;
 };
@@ -19,6 +22,7 @@ class PanelColourTest : public testing::TestWithParam<std::tuple<bool, bool>> {
 TEST_P(PanelColourTest, theIconIsToBeSeen) {
     const std::string folders = std::string(programs::share) + ":/usr/local/share:/usr/share";
     if (isInstalled()) desktop.setEnvironment("XDG_DATA_DIRS", folders);
+    desktop.setEnvironment("XDG_CURRENT_DESKTOP", session());
     desktop.startTray(TrayKind::statusNotifier, isDark());
     const Keyrill keyrill(desktop);
     // What cannot be seen on its ground has no colour that differs much from it.
@@ -35,12 +39,13 @@ TEST_P(PanelColourTest, theIconIsToBeSeen) {
     }));
 }
 
-std::string nameOfPanel(const testing::TestParamInfo<std::tuple<bool, bool>>& info) {
+std::string nameOfPanel(const testing::TestParamInfo<std::tuple<bool, bool, std::string>>& info) {
     return std::string(std::get<0>(info.param) ? "dark" : "light") +
-           (std::get<1>(info.param) ? "Installed" : "NotInstalled");
+           (std::get<1>(info.param) ? "Installed" : "NotInstalled") + std::get<2>(info.param);
 }
 
-INSTANTIATE_TEST_SUITE_P(Panels, PanelColourTest, testing::Combine(testing::Bool(), testing::Bool()),
+INSTANTIATE_TEST_SUITE_P(Panels, PanelColourTest,
+                         testing::Combine(testing::Bool(), testing::Bool(), testing::Values("XFCE", "LXQt")),
                          nameOfPanel);
 
 }  // namespace

@@ -31,6 +31,18 @@ QImage painted(const QString& folder, Qt::LayoutDirection direction = Qt::LeftTo
     return image;
 }
 
+/// What the session calls itself, until the end of the test.
+class CurrentDesktop {
+  public:
+    explicit CurrentDesktop(const char* name) { qputenv("XDG_CURRENT_DESKTOP", name); }
+    ~CurrentDesktop() { qputenv("XDG_CURRENT_DESKTOP", m_before); }
+    CurrentDesktop(const CurrentDesktop&) = delete;
+    CurrentDesktop& operator=(const CurrentDesktop&) = delete;
+
+  private:
+    const QByteArray m_before = qgetenv("XDG_CURRENT_DESKTOP");
+};
+
 bool isBlank(const QImage& image) {
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
@@ -126,7 +138,20 @@ TEST(StatusIconTest, differsInShapeForEachState) {
     EXPECT_NE(normal, busy);
 }
 
+TEST(StatusIconTest, isPaintedByThePanelsThatAreKnownToDoSo) {
+    for (const char* desktops : {"GNOME", "ubuntu:GNOME", "XFCE"})
+        EXPECT_TRUE(paintsSymbolicIcons(QLatin1String(desktops))) << desktops;
+    for (const char* desktops : {"", "KDE", "LXQt", "MATE", "sway", "Budgie:GNOME", "NOTGNOME"})
+        EXPECT_FALSE(paintsSymbolicIcons(QLatin1String(desktops))) << desktops;
+}
+
+TEST(StatusIconTest, hasNoNameWhereAPanelWouldShowTheThemesIconAsItLies) {
+    const CurrentDesktop desktop("LXQt");
+    EXPECT_EQ(statusIcon(StatusImage::normal).name(), "");
+}
+
 TEST(StatusIconTest, hasTheNameThatThemesKnowItBy) {
+    const CurrentDesktop desktop("XFCE");
     EXPECT_EQ(statusIcon(StatusImage::normal).name(), "example.orlen.Keyrill-symbolic");
     EXPECT_EQ(statusIcon(StatusImage::busy).name(), "example.orlen.Keyrill-busy-symbolic");
 }
