@@ -11,6 +11,7 @@
 #include <QScreen>
 
 #include "app/icons/DataFolder.h"
+#include "app/icons/ProgramIcon.h"
 #include "app/overlay/MultiplePlayView.h"
 #include "app/overlay/OverlayPanel.h"
 
@@ -29,6 +30,7 @@ MultiplePlayWindow::MultiplePlayWindow(const QString& folder)
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
     setWindowTitle(tr("Play Multiple Times"));
+    setWindowIcon(programIcon());
 
     auto* view = new MultiplePlayView(folder, this);
     auto* windowLayout = new QHBoxLayout(this);

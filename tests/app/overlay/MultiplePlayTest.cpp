@@ -28,6 +28,11 @@ class MultiplePlayTest : public AppTest {
     }
 };
 
+TEST_F(MultiplePlayTest, hasTheProgramsIconInListsOfWindows) {
+    open();
+    EXPECT_FALSE(prompt().windowIcon().isNull());
+}
+
 TEST_F(MultiplePlayTest, playsAsOftenAsTheTextSays) {
     state().currentMacro = macroWithScript("script");
     open();
