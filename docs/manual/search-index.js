@@ -1776,9 +1776,12 @@ const manualIndex = [
 "text": [
 "Another program may have it. The preferences say so beside the field, and the icon's ",
 "tooltip does. Choose another combination, or free it there. While the preferences or a ",
-"question of Keyrill's are open, hot keys are off. In a Wayland session it depends on the ",
-"desktop whether there are hot keys: This compositor gives no hot keys to programs. See ",
-"Where the desktop gives no hot keys."
+"question of Keyrill's are open, hot keys are off. In KDE Plasma the clipboard has ",
+"Ctrl+Super+R from the start. In its System Settings, under Shortcuts, take the combination ",
+"from \"Manually Invoke Action on Current Clipboard\", or choose another one for Start ",
+"Recording in Keyrill's preferences. In a Wayland session it depends on the desktop whether ",
+"there are hot keys: This compositor gives no hot keys to programs. See Where the desktop ",
+"gives no hot keys."
 ]
 },
 {
