@@ -12,8 +12,8 @@ constexpr Clock::Seconds longestSleep = std::chrono::hours(24 * 365);
 timespec toTimespec(Clock::Time time) {
     const auto whole = std::chrono::floor<std::chrono::seconds>(time);
     timespec result{};
-    result.tv_sec = whole.time_since_epoch().count();
-    result.tv_nsec = std::chrono::nanoseconds(time - whole).count();
+    result.tv_sec = static_cast<std::time_t>(whole.time_since_epoch().count());
+    result.tv_nsec = static_cast<long>(std::chrono::nanoseconds(time - whole).count());
     return result;
 }
 

@@ -17,7 +17,8 @@ timespec timeTo(Clock::Time until, Clock::Time now) {
     const auto left = std::max(Clock::Time::duration::zero(), until - now);
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(left);
     const auto rest = std::chrono::duration_cast<std::chrono::nanoseconds>(left - seconds);
-    return timespec{.tv_sec = seconds.count(), .tv_nsec = rest.count()};
+    return timespec{.tv_sec = static_cast<std::time_t>(seconds.count()),
+                    .tv_nsec = static_cast<long>(rest.count())};
 }
 
 }  // namespace

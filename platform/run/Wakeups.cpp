@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <cstdint>
+#include <ctime>
 
 Wakeups::Wakeups()
     : m_epoll(epoll_create1(EPOLL_CLOEXEC)),
@@ -40,8 +41,8 @@ void Wakeups::takeKick() const {
 void Wakeups::startTimer(std::chrono::milliseconds duration) {
     if (m_timerRuns) return;
     itimerspec spec{};
-    spec.it_value.tv_sec = duration.count() / 1000;
-    spec.it_value.tv_nsec = duration.count() % 1000 * 1'000'000;
+    spec.it_value.tv_sec = static_cast<std::time_t>(duration.count() / 1000);
+    spec.it_value.tv_nsec = static_cast<long>(duration.count() % 1000 * 1'000'000);
     m_timerRuns = timerfd_settime(m_timer.number(), 0, &spec, nullptr) == 0;
 }
 
