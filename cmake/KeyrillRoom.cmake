@@ -21,6 +21,10 @@ function(keyrill_compile_options target)
     target_compile_options(${target} PRIVATE -pthread -fPIC)
     # Nothing of the project is in a shared library, where another's function could stand in for one of ours.
     target_compile_options(${target} PRIVATE $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-fno-semantic-interposition>)
+    # Otherwise the calls of the system refuse what does not fit there: large files, high numbers of files, times after 2038.
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+        target_compile_definitions(${target} PRIVATE _FILE_OFFSET_BITS=64 _TIME_BITS=64)
+    endif()
     # xcb's header of XKB has a member called "explicit", which its users rename by a macro.
     target_compile_options(${target} PRIVATE ${KEYRILL_WARNINGS} $<$<BOOL:${KEYRILL_WERROR}>:-Werror>
                                              $<$<CXX_COMPILER_ID:Clang>:-Wno-keyword-macro>)

@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -304,8 +305,12 @@ TEST_F(WholeFileTest, isWrittenWhileOthersSweepItsFolder) {
 
 TEST_F(WholeFileTest, refusesTheEndlessAndTheHuge) {
     std::ofstream(file) << "";
-    fs::resize_file(file, 64 * 1024 * 1024 + 1);
-    EXPECT_EQ(readError(file), "The file " + file + " cannot be read: It is larger than 64 MiB");
+    constexpr std::uintmax_t mebibyte = 1024 * 1024;
+    // The second is more than fits into 32 bits.
+    for (const std::uintmax_t size : {64 * mebibyte + 1, 5 * 1024 * mebibyte}) {
+        fs::resize_file(file, size);
+        EXPECT_EQ(readError(file), "The file " + file + " cannot be read: It is larger than 64 MiB");
+    }
 }
 
 TEST_F(WholeFileTest, givesAdviceThatFitsTheCause) {
