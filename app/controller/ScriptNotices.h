@@ -10,8 +10,8 @@ class ScriptingService;
 class StatusNotice;
 struct ScriptFailure;
 
-/// Tells the user what went wrong with a macro, as what its script cannot do: by a notification, or at the
-/// status item where nobody shows those, until a macro is played or loaded with which all is well.
+/// Tells the user of a macro what its script cannot do and what became of its file: by a notification, or at
+/// the status item where nobody shows those, until a macro is played or loaded with which all is well.
 class ScriptNotices : public QObject {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ class ScriptNotices : public QObject {
     /// Of a script that has been loaded from the file of that name; true if it cannot be played and the user
     /// has been told.
     bool tellOfLoaded(const QString& name, const std::string& script);
-    /// Of anything else that went otherwise than the user wanted.
+    /// Anything else that the user should know of a macro.
     void tell(const QString& title, const QString& text);
 
   private:

@@ -100,24 +100,20 @@ void HoldWatch::readEvents(Clock::Time now) {
 void HoldWatch::addSigns(HoldSigns& signs) const {
     const auto screen =
         replyTo(m_connection, xcb_get_geometry(m_connection, m_connection.root()), xcb_get_geometry_reply);
+    if (!screen) return;
     std::uint64_t covered = 0;
+    bool isSeen = false;
     for (const Candidate& candidate : m_candidates) {
         const auto place =
             replyTo(m_connection, xcb_get_geometry(m_connection, candidate.window), xcb_get_geometry_reply);
-        if (!screen || !place) continue;
-        if (isNoMenu(candidate.window)) continue;
-        const bool covers = place->width >= screen->width && place->height >= screen->height;
+        if (!place || isNoMenu(candidate.window)) continue;
         covered += areaOf(*place);
         // A window without a depth cannot be seen.
-        const bool isSeen = place->depth != 0 && place->width >= leastSize && place->height >= leastSize;
-        if (covers) {
-            signs.cover = true;
-        } else if (isSeen) {
-            signs.popup = true;
-        }
+        if (place->depth != 0 && place->width >= leastSize && place->height >= leastSize) isSeen = true;
     }
     // A locker has a window for each monitor, and comes to one after the other.
-    if (screen && covered >= areaOf(*screen) / 2) signs.cover = true;
+    signs.cover = covered >= areaOf(*screen) / 2;
+    signs.popup = isSeen && !signs.cover;
 }
 
 /// A window of ours, or of a kind that never takes the keyboard (Extended Window Manager Hints 1.5).
