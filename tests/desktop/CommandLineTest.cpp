@@ -60,6 +60,19 @@ TEST_F(WithoutDisplayTest, aKindOfSessionThatThereIsNotIsRefused) {
         "keyrill: There is no kind of session called \"typewriter\". Choose one of these: wayland, x11.\n");
 }
 
+TEST_F(WithoutDisplayTest, whyThereIsNoSessionIsToldInTheLanguageOfTheDesktop) {
+    speak("de");
+    const End named = endOf("--session=typewriter");
+    EXPECT_EQ(named.status, 1);
+    EXPECT_EQ(
+        named.output,
+        "keyrill: Es gibt keine Sitzungsart namens „typewriter“. Wählen Sie eine davon: wayland, x11.\n");
+    speak("fr");
+    const End none = endOf("macro.keyrill");
+    EXPECT_EQ(none.status, 1);
+    EXPECT_TRUE(none.output.starts_with("keyrill: Le serveur X de l’affichage ")) << none.output;
+}
+
 TEST_F(WithoutDisplayTest, anUnknownOptionIsToldFirst) {
     const End end = endOf("--sesion=x11");
     EXPECT_EQ(end.status, 1);
