@@ -22,7 +22,28 @@ constexpr std::array textTypes = {"text/plain;charset=utf-8", "UTF8_STRING", "te
 /// Who reads nothing for so long gets no more.
 constexpr int slowestReader = 2000;  // milliseconds
 
+/// The standard has given the interface another name, and changed nothing else in it.
+const wl_interface& standardManager() {
+    static const wl_interface interface = [] {
+        wl_interface renamed = zwlr_data_control_manager_v1_interface;
+        renamed.name = "ext_data_control_manager_v1";
+        renamed.version = 1;
+        return renamed;
+    }();
+    return interface;
+}
+
+zwlr_data_control_manager_v1* bindManager(const WaylandConnection& connection) {
+    void* const manager = connection.bind(standardManager(), 1);
+    return static_cast<zwlr_data_control_manager_v1*>(
+        manager != nullptr ? manager : connection.bind(zwlr_data_control_manager_v1_interface, 1));
+}
+
 }  // namespace
+
+bool ClipboardDevice::isOffered(const WaylandConnection& connection) {
+    return connection.offers(standardManager()) || connection.offers(zwlr_data_control_manager_v1_interface);
+}
 
 Result<std::unique_ptr<ClipboardDevice>> ClipboardDevice::open() {
     auto connection = WaylandConnection::open();
@@ -40,9 +61,7 @@ Result<std::unique_ptr<ClipboardDevice>> ClipboardDevice::open() {
 }
 
 ClipboardDevice::ClipboardDevice(std::unique_ptr<WaylandConnection> connection)
-    : m_connection(std::move(connection)),
-      m_manager(static_cast<zwlr_data_control_manager_v1*>(
-          m_connection->bind(zwlr_data_control_manager_v1_interface, 1))) {
+    : m_connection(std::move(connection)), m_manager(bindManager(*m_connection)) {
     if (m_manager != nullptr && m_connection->seat() != nullptr) {
         m_device = zwlr_data_control_manager_v1_get_data_device(m_manager, m_connection->seat());
     }
@@ -77,7 +96,12 @@ void ClipboardDevice::listen() {
                 device.drop(device.m_selection);
                 if (offer != nullptr) device.m_selection = std::exchange(device.m_announced, {});
             },
-        .finished = [](void*, zwlr_data_control_device_v1*) {}};
+        .finished = [](void*, zwlr_data_control_device_v1*) {},
+        .primary_selection =
+            [](void* self, zwlr_data_control_device_v1*, zwlr_data_control_offer_v1* offer) {
+                auto& device = *static_cast<Device*>(self);
+                if (offer != nullptr) device.drop(device.m_announced);
+            }};
     zwlr_data_control_device_v1_add_listener(m_device, &listener, this);
 }
 

@@ -16,9 +16,12 @@ struct zwlr_data_control_source_v1;
 
 namespace wayland {
 
-/// The seat's clipboard on a connection of its own: one who has it, or one who asks for it.
+/// The seat's clipboard on a connection of its own: one who has it, or one who asks for it. By data control,
+/// the standard's or the one before (ext-data-control-v1, wlr-data-control-unstable-v1).
 class ClipboardDevice {
   public:
+    /// Whether open() finds one there.
+    static bool isOffered(const WaylandConnection& connection);
     /// Fails with a hint where the compositor lets nobody without a window have the clipboard.
     static Result<std::unique_ptr<ClipboardDevice>> open();
     ~ClipboardDevice();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/wayland/WaylandSessionCheck.h"
 
-#include <wlr-data-control-unstable-v1-client-protocol.h>
 #include <wlr-layer-shell-unstable-v1-client-protocol.h>
 
 #include <cstdlib>
@@ -12,6 +11,7 @@
 #include "platform/evdev/access/AccessOpener.h"
 #include "platform/linux/BusAddresses.h"
 #include "platform/none/NoCapabilities.h"
+#include "platform/wayland/ClipboardDevice.h"
 #include "platform/wayland/DesktopServices.h"
 #include "platform/wayland/WaylandConnection.h"
 
@@ -76,7 +76,7 @@ SessionCapabilities WaylandSessionCheck::capabilities() const {
     const auto connection = WaylandConnection::open();
     if (!connection) return noCapabilities(Lack::display);
     const DesktopServices desktop(*connection.value());
-    const bool hasClipboard = connection.value()->offers(zwlr_data_control_manager_v1_interface);
+    const bool hasClipboard = ClipboardDevice::isOffered(*connection.value());
     const CapabilityState pressing = pressingState(*connection.value(), desktop);
     return {.recording = recordingState(),
             .hotKeys = hotKeysState(desktop),
@@ -95,7 +95,7 @@ SessionDetails WaylandSessionCheck::details() const {
     if (!connection) return details;
     const DesktopServices desktop(*connection.value());
     details.parts = {{"virtual keyboard", hasVirtualKeyboards(*connection.value())},
-                     {"data control", connection.value()->offers(zwlr_data_control_manager_v1_interface)},
+                     {"data control", ClipboardDevice::isOffered(*connection.value())},
                      {"layer shell", connection.value()->offers(zwlr_layer_shell_v1_interface)},
                      {"sway", desktop.isSway()}};
     if (desktop.isSway()) return details;

@@ -56,7 +56,8 @@ struct SilentCopier::Parts {
                     static_cast<Parts*>(self)->offers.push_back(offer);
                 },
             .selection = [](void*, zwlr_data_control_device_v1*, zwlr_data_control_offer_v1*) {},
-            .finished = [](void*, zwlr_data_control_device_v1*) {}};
+            .finished = [](void*, zwlr_data_control_device_v1*) {},
+            .primary_selection = [](void*, zwlr_data_control_device_v1*, zwlr_data_control_offer_v1*) {}};
         source = zwlr_data_control_manager_v1_create_data_source(manager);
         zwlr_data_control_source_v1_add_listener(source, &listener, this);
         zwlr_data_control_source_v1_offer(source, "text/plain;charset=utf-8");
