@@ -35,12 +35,12 @@ std::optional<std::string> FakeGrabber::grab(const KeyGrab& grab, const HotKeyRe
     return std::nullopt;
 }
 
-EvdevWorld::EvdevWorld() : m_opener(m_input.folders()), m_keyboard(m_input.plug(0)) {
+EvdevWorld::EvdevWorld(KeyGrabber& desktop) : m_opener(m_input.folders()), m_keyboard(m_input.plug(0)) {
     m_monitor = std::make_unique<evdev::EvdevEventMonitor>(
         evdev::EvdevEventMonitor::Session{.clock = m_clock,
                                           .opener = m_opener,
                                           .calls = m_calls,
-                                          .grabs = m_grabber,
+                                          .grabs = desktop,
                                           .folders = m_input.folders(),
                                           .layout = [this] { return m_layout; },
                                           .isDesktopLost = [this] { return m_isLost; }},

@@ -52,7 +52,10 @@ class FailingOpener final : public evdev::DeviceOpener {
 /// it is turned; repeats begin after 400 ms and come every 40 ms.
 class EvdevWorld final : public KeyboardWorld {
   public:
-    EvdevWorld();
+    /// On a desktop that is played.
+    EvdevWorld() : EvdevWorld(m_grabber) {}
+    /// `desktop` outlives it; nothing is to be asked of the one that is played.
+    explicit EvdevWorld(KeyGrabber& desktop);
 
     EventMonitor& monitor() override { return *m_monitor; }
     HotKeys& hotKeys() override { return *m_monitor; }
