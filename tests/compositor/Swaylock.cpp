@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "compositor/Swaylock.h"
+
+#include <signal.h>
+
+#include <fstream>
+#include <stdexcept>
+
+#include "compositor/Sway.h"
+#include "support/Child.h"
+
+Swaylock::Swaylock(const Sway& sway)
+    : m_sway(sway), m_file(sway.environment().at("XDG_RUNTIME_DIR") + "/locker") {
+    // Sway takes dollars for its own variables.
+    std::ofstream(m_file + ".sh") << "echo $$ > " << m_file << "\nexec swaylock --color 203040\n";
+    m_sway.message({"exec", "sh " + m_file + ".sh"});
+    if (!eventually([this] { return hasKeyboard(); })) throw std::runtime_error("swaylock does not lock");
+}
+
+void Swaylock::open() {
+    kill(static_cast<pid_t>(std::stol(contentOf(m_file))), SIGUSR1);
+    if (!eventually([this] { return !hasKeyboard(); })) throw std::runtime_error("swaylock does not open");
+}
+
+bool Swaylock::hasKeyboard() const {
+    return m_sway.message({"-t", "get_seats"}).find("\"focus\": 0,") != std::string::npos;
+}
