@@ -513,6 +513,10 @@ You can change your mind in Keyrill&apos;s preferences.</source>
         <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
         <translation>ضع علامة في المربع في تفضيلات Keyrill، أو اربط بنفسك المفاتيح بأوامر مثل «keyrill --action=play» في إعدادات GNOME.</translation>
     </message>
+    <message>
+        <source>by the compositor</source>
+        <translation>عبر المُركِّب</translation>
+    </message>
 </context>
 <context>
     <name>Clipboard</name>
@@ -1444,10 +1448,6 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
         <translation>لا يتيح هذا المُركِّب اختصارات عامة للبرامج.</translation>
     </message>
     <message>
-        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
-        <translation>اربط المفاتيح بأوامر في إعدادات المُركِّب نفسه.</translation>
-    </message>
-    <message>
         <source>this compositor gives no hot keys to programs</source>
         <translation>لا يتيح هذا المُركِّب اختصارات عامة للبرامج</translation>
     </message>
@@ -1462,6 +1462,10 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>the X server is gone</source>
         <translation>اختفى خادم X</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
+        <translation>اربط المفاتيح بأوامر مثل «keyrill --action=play» في إعدادات المُركِّب.</translation>
     </message>
 </context>
 <context>

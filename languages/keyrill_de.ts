@@ -513,6 +513,10 @@ Sie können sich in den Einstellungen von Keyrill anders entscheiden.</translati
         <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
         <translation>Setzen Sie in den Einstellungen von Keyrill das Häkchen, oder belegen Sie in den Einstellungen von GNOME selbst Tasten mit Befehlen wie „keyrill --action=play“.</translation>
     </message>
+    <message>
+        <source>by the compositor</source>
+        <translation>über den Compositor</translation>
+    </message>
 </context>
 <context>
     <name>Clipboard</name>
@@ -1445,10 +1449,6 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
         <translation>Dieser Compositor bietet Programmen keine Tastenkürzel.</translation>
     </message>
     <message>
-        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
-        <translation>Belegen Sie in den Einstellungen des Compositors Tasten mit Befehlen.</translation>
-    </message>
-    <message>
         <source>this compositor gives no hot keys to programs</source>
         <translation>Dieser Compositor bietet Programmen keine Tastenkürzel</translation>
     </message>
@@ -1463,6 +1463,10 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     <message>
         <source>the X server is gone</source>
         <translation>Der X-Server ist nicht mehr vorhanden</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
+        <translation>Belegen Sie in den Einstellungen des Compositors Tasten mit Befehlen wie „keyrill --action=play“.</translation>
     </message>
 </context>
 <context>

@@ -513,6 +513,10 @@ Puede cambiar de opinión en las preferencias de Keyrill.</translation>
         <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
         <translation>Marque la casilla en las preferencias de Keyrill, o asigne usted mismo teclas a órdenes como «keyrill --action=play» en los ajustes de GNOME.</translation>
     </message>
+    <message>
+        <source>by the compositor</source>
+        <translation>mediante el compositor</translation>
+    </message>
 </context>
 <context>
     <name>Clipboard</name>
@@ -1445,10 +1449,6 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
         <translation>Este compositor no ofrece atajos de teclado a los programas.</translation>
     </message>
     <message>
-        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
-        <translation>Asigne teclas a órdenes en los ajustes del propio compositor.</translation>
-    </message>
-    <message>
         <source>this compositor gives no hot keys to programs</source>
         <translation>este compositor no ofrece atajos de teclado a los programas</translation>
     </message>
@@ -1463,6 +1463,10 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <message>
         <source>the X server is gone</source>
         <translation>el servidor X ha desaparecido</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
+        <translation>Asigne teclas a órdenes como «keyrill --action=play» en los ajustes del compositor.</translation>
     </message>
 </context>
 <context>

@@ -513,6 +513,10 @@ Vous pourrez changer d’avis dans les préférences de Keyrill.</translation>
         <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
         <translation>Cochez la case dans les préférences de Keyrill, ou associez vous-même, dans les réglages de GNOME, des touches à des commandes comme «&#xa0;keyrill --action=play&#xa0;».</translation>
     </message>
+    <message>
+        <source>by the compositor</source>
+        <translation>par le compositeur</translation>
+    </message>
 </context>
 <context>
     <name>Clipboard</name>
@@ -1445,10 +1449,6 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
         <translation>Ce compositeur ne fournit pas de raccourcis clavier aux programmes.</translation>
     </message>
     <message>
-        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
-        <translation>Dans les réglages du compositeur, associez des touches à des commandes.</translation>
-    </message>
-    <message>
         <source>this compositor gives no hot keys to programs</source>
         <translation>ce compositeur ne fournit pas de raccourcis clavier aux programmes</translation>
     </message>
@@ -1463,6 +1463,10 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <message>
         <source>the X server is gone</source>
         <translation>le serveur X a disparu</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
+        <translation>Dans les réglages du compositeur, associez des touches à des commandes comme «&#xa0;keyrill --action=play&#xa0;».</translation>
     </message>
 </context>
 <context>

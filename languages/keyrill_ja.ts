@@ -513,6 +513,10 @@ You can change your mind in Keyrill&apos;s preferences.</source>
         <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
         <translation>Keyrill の設定でチェックを入れるか、GNOME の設定で「keyrill --action=play」などのコマンドに自分でキーを割り当ててください。</translation>
     </message>
+    <message>
+        <source>by the compositor</source>
+        <translation>コンポジターによる</translation>
+    </message>
 </context>
 <context>
     <name>Clipboard</name>
@@ -1445,10 +1449,6 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <translation>このコンポジターはプログラムにグローバルショートカットを提供しません。</translation>
     </message>
     <message>
-        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
-        <translation>コンポジター自体の設定で、コマンドにキーを割り当ててください。</translation>
-    </message>
-    <message>
         <source>this compositor gives no hot keys to programs</source>
         <translation>このコンポジターはプログラムにグローバルショートカットを提供しません</translation>
     </message>
@@ -1463,6 +1463,10 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>the X server is gone</source>
         <translation>X サーバーが終了しました</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
+        <translation>コンポジターの設定で「keyrill --action=play」などのコマンドにキーを割り当ててください。</translation>
     </message>
 </context>
 <context>

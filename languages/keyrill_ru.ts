@@ -513,6 +513,10 @@ You can change your mind in Keyrill&apos;s preferences.</source>
         <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
         <translation>Поставьте флажок в параметрах Keyrill или сами назначьте клавишам в настройках GNOME команды вида «keyrill --action=play».</translation>
     </message>
+    <message>
+        <source>by the compositor</source>
+        <translation>через композитор</translation>
+    </message>
 </context>
 <context>
     <name>Clipboard</name>
@@ -1445,10 +1449,6 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <translation>Этот композитор не даёт программам глобальных комбинаций клавиш.</translation>
     </message>
     <message>
-        <source>Bind keys to commands in the compositor&apos;s own settings.</source>
-        <translation>Назначьте клавишам команды в настройках самого композитора.</translation>
-    </message>
-    <message>
         <source>this compositor gives no hot keys to programs</source>
         <translation>этот композитор не даёт программам глобальных комбинаций клавиш</translation>
     </message>
@@ -1463,6 +1463,10 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>the X server is gone</source>
         <translation>X-сервер завершил работу</translation>
+    </message>
+    <message>
+        <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
+        <translation>Назначьте клавишам в настройках композитора команды вида «keyrill --action=play».</translation>
     </message>
 </context>
 <context>

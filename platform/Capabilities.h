@@ -32,6 +32,7 @@ enum class Means {
     gnomeBindings,    ///< entries in the settings of GNOME's user, once he agrees
     swayTree,         ///< sway's tree of windows, by its IPC
     kwinScripts,      ///< scripts that KWin runs, over the session bus
+    toplevels,        ///< a Wayland compositor's list of windows, for task bars
     dataControl,      ///< the clipboard of a Wayland compositor, without a window
     ordinaryWindow,   ///< a window as all others
     layer,            ///< a layer above all windows
@@ -70,7 +71,7 @@ inline constexpr std::array allMeans{
     Means::statusNotifier, Means::virtualKeyboard, Means::swayBindings,  Means::swayTree,
     Means::kdeShortcuts,   Means::portal,          Means::dataControl,   Means::ordinaryWindow,
     Means::layer,          Means::keyboardDevices, Means::accessService, Means::shortcutsPortal,
-    Means::kwinScripts,    Means::ownWindow,       Means::gnomeBindings};
+    Means::kwinScripts,    Means::ownWindow,       Means::gnomeBindings, Means::toplevels};
 inline constexpr std::array allLacks{
     Lack::nothing,        Lack::display,         Lack::xInput,        Lack::xkb,    Lack::xTest,
     Lack::record,         Lack::guard,           Lack::nativeWindows, Lack::tray,   Lack::foreignKeys,

@@ -55,6 +55,8 @@ QString meansWords(Means means) {
             return Words::tr("by sway");
         case Means::kwinScripts:
             return Words::tr("by KWin");
+        case Means::toplevels:
+            return Words::tr("by the compositor");
         case Means::ownWindow:
             return Words::tr("what you type into a window of Keyrill's, \"Record Here\"");
         case Means::dataControl:

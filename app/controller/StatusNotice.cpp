@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/StatusNotice.h"
 
-#include <QStringList>
 #include <algorithm>
 
 #include "app/shortcuts/ShortcutTitles.h"
 #include "app/tray/StatusItem.h"
+#include "platform/ErrorText.h"
 #include "prefs/Shortcuts.h"
 
 namespace {
@@ -31,17 +31,25 @@ void StatusNotice::setFault(const QString& fault) {
 
 void StatusNotice::noteHotKey(HotKeyId id, const HotKeyState& state) {
     if (state.status == HotKeyStatus::refused && state.error) {
-        m_refused[id] =
-            tr("%1 has no shortcut. %2").arg(titleOf(id), QString::fromStdString(state.error->message));
+        m_refused[id] = *state.error;
     } else {
         m_refused.erase(id);
     }
     show();
 }
 
-void StatusNotice::show() {
+QStringList StatusNotice::refusals() const {
+    const auto isFirst = [this](const auto& entry) { return entry.second == m_refused.begin()->second; };
+    if (m_refused.size() > 1 && std::all_of(m_refused.begin(), m_refused.end(), isFirst))
+        return {QString::fromStdString(inOneParagraph(m_refused.begin()->second))};
     QStringList lines;
-    for (const auto& [id, line] : m_refused) lines.append(line);
+    for (const auto& [id, error] : m_refused)
+        lines.append(tr("%1 has no shortcut. %2").arg(titleOf(id), QString::fromStdString(error.message)));
+    return lines;
+}
+
+void StatusNotice::show() {
+    QStringList lines = refusals();
     if (!m_hint.isEmpty()) lines.append(m_hint);
     if (!m_fault.isEmpty()) lines.append(m_fault);
     m_item.setNotice(lines.join(QLatin1Char('\n')));

@@ -3,14 +3,16 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 #include <map>
 
 #include "platform/HotKeys.h"
 
 class StatusItem;
 
-/// What the status item tells: which hot keys were refused, a line each in the order of their numbers, then
-/// what the user should know of the session, and what nobody else tells of a macro.
+/// What the status item tells: which hot keys were refused, a line each in the order of their numbers, or one
+/// for all where none can be had for the same reason; then what the user should know of the session, and what
+/// nobody else tells of a macro.
 class StatusNotice {
     Q_DECLARE_TR_FUNCTIONS(StatusNotice)
 
@@ -28,9 +30,10 @@ class StatusNotice {
 
   private:
     void show();
+    QStringList refusals() const;
 
     StatusItem& m_item;
     QString m_hint;
     QString m_fault;
-    std::map<HotKeyId, QString> m_refused;
+    std::map<HotKeyId, Error> m_refused;
 };

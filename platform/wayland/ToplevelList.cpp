@@ -19,6 +19,10 @@ constexpr std::uint32_t activated = 2;
 
 }  // namespace
 
+bool ToplevelList::isOffered(const WaylandConnection& connection) {
+    return connection.offers(zwlr_foreign_toplevel_manager_v1_interface);
+}
+
 Result<std::unique_ptr<ForeignWindows>> ToplevelList::open() {
     auto connection = WaylandConnection::open();
     if (!connection) return connection.error();

@@ -19,6 +19,9 @@ namespace wayland {
 /// (wlr-foreign-toplevel-management-unstable-v1), on a connection of its own.
 class ToplevelList final : public ForeignWindows {
   public:
+    /// Whether open() finds them there.
+    static bool isOffered(const WaylandConnection& connection);
+
     /// Fails with a hint where the compositor tells nobody of windows.
     static Result<std::unique_ptr<ForeignWindows>> open();
     ~ToplevelList() override;

@@ -51,8 +51,10 @@ Error noMonitor() {
 }
 
 Error noHotKeys() {
-    return {sentence("HotKeys", "This compositor gives no hot keys to programs."),
-            sentence("HotKeys", "Bind keys to commands in the compositor's own settings.")};
+    return {
+        sentence("HotKeys", "This compositor gives no hot keys to programs."),
+        sentence("HotKeys",
+                 "Bind keys to commands such as \"keyrill --action=play\" in the compositor's settings.")};
 }
 
 Result<void> checkKeys(const WaylandConnection& connection) {

@@ -13,6 +13,7 @@
 #include "platform/none/NoCapabilities.h"
 #include "platform/wayland/ClipboardDevice.h"
 #include "platform/wayland/DesktopServices.h"
+#include "platform/wayland/ToplevelList.h"
 #include "platform/wayland/WaylandConnection.h"
 
 namespace wayland {
@@ -63,11 +64,13 @@ CapabilityState textState(const CapabilityState& pressing, const DesktopServices
     return {Extent::partly, Means::portal, canSwitch ? Lack::otherCharacters : Lack::otherLayouts};
 }
 
-CapabilityState windowsState(const DesktopServices& desktop) {
+CapabilityState windowsState(const WaylandConnection& connection, const DesktopServices& desktop) {
     if (desktop.isKde() && KWinScripts::isThere(*desktop.bus())) {
         return {Extent::fully, Means::kwinScripts, Lack::nothing};
     }
-    return fullyIf(desktop.isSway(), Means::swayTree, Lack::foreignWindows);
+    if (desktop.isSway()) return {Extent::fully, Means::swayTree};
+    return fullyIf(!desktop.isKde() && ToplevelList::isOffered(connection), Means::toplevels,
+                   Lack::foreignWindows);
 }
 
 }  // namespace
@@ -84,7 +87,7 @@ SessionCapabilities WaylandSessionCheck::capabilities() const {
             .text = textState(pressing, desktop),
             .clipboard = fullyIf(hasClipboard, Means::dataControl, Lack::dataControl),
             .overlay = overlayState(*connection.value(), desktop),
-            .windows = windowsState(desktop),
+            .windows = windowsState(*connection.value(), desktop),
             .tray = {.lack = Lack::tray}};
 }
 
@@ -96,9 +99,11 @@ SessionDetails WaylandSessionCheck::details() const {
     const DesktopServices desktop(*connection.value());
     details.parts = {{"virtual keyboard", hasVirtualKeyboards(*connection.value())},
                      {"data control", ClipboardDevice::isOffered(*connection.value())},
-                     {"layer shell", connection.value()->offers(zwlr_layer_shell_v1_interface)},
-                     {"sway", desktop.isSway()}};
-    if (desktop.isSway()) return details;
+                     {"layer shell", connection.value()->offers(zwlr_layer_shell_v1_interface)}};
+    if (desktop.isSway()) {
+        details.parts.push_back({"sway", true});
+        return details;
+    }
     if (desktop.isKde()) details.parts.push_back({"KDE", true});
     if (desktop.isGnome()) details.parts.push_back({"GNOME's settings", GnomeLayouts::areKnown()});
     if (!hasVirtualKeyboards(*connection.value())) {

@@ -11,8 +11,14 @@ std::ostream& operator<<(std::ostream& stream, const ScreenArea& area) {
 }
 
 ScreenPicture::ScreenPicture(const Sway& sway, const std::string& screen) {
+    take(screen, sway.environment());
+}
+
+ScreenPicture::ScreenPicture(const Phoc& phoc) { take("HEADLESS-1", phoc.environment()); }
+
+void ScreenPicture::take(const std::string& screen, const std::map<std::string, std::string>& environment) {
     const TemporaryFolder folder;
-    outputOf({"grim", "-t", "ppm", "-o", screen, folder.file("picture")}, sway.environment());
+    outputOf({"grim", "-t", "ppm", "-o", screen, folder.file("picture")}, environment);
     read(contentOf(folder.file("picture")));
 }
 

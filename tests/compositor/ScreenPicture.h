@@ -4,11 +4,13 @@
 #include <array>
 #include <cstdint>
 #include <iosfwd>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "compositor/GnomeShell.h"
+#include "compositor/Phoc.h"
 #include "compositor/Sway.h"
 
 /// A rectangle of a screen's own pixels.
@@ -22,12 +24,14 @@ struct ScreenArea {
 };
 std::ostream& operator<<(std::ostream& stream, const ScreenArea& area);
 
-/// What is to be seen on one of sway's screens, as grim takes it, or on GNOME's, as its shell gives it.
+/// What is to be seen on one of sway's screens or on phoc's, as grim takes it, or on GNOME's, as its shell
+/// gives it.
 class ScreenPicture {
   public:
     using Colour = std::array<std::uint8_t, 3>;
 
     explicit ScreenPicture(const Sway& sway, const std::string& screen = "HEADLESS-1");
+    explicit ScreenPicture(const Phoc& phoc);
     explicit ScreenPicture(const GnomeShell& shell);
 
     int width() const { return m_width; }
@@ -38,6 +42,7 @@ class ScreenPicture {
     std::optional<ScreenArea> differsFrom(const ScreenPicture& other) const;
 
   private:
+    void take(const std::string& screen, const std::map<std::string, std::string>& environment);
     /// Takes the content of a PPM file.
     void read(const std::string& content);
 

@@ -10,6 +10,7 @@
 #include "compositor/Field.h"
 #include "compositor/Foot.h"
 #include "compositor/SilentCopier.h"
+#include "compositor/Sway.h"
 #include "compositor/WaylandHands.h"
 #include "support/Keys.h"
 

@@ -11,6 +11,7 @@
 
 #include "compositor/Foot.h"
 #include "compositor/OtherUser.h"
+#include "compositor/Sway.h"
 #include "compositor/WaylandHands.h"
 #include "wayland/ProgramSession.h"
 

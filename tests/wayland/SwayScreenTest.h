@@ -16,6 +16,7 @@
 #include "compositor/Foot.h"
 #include "compositor/OtherUser.h"
 #include "compositor/ScreenPicture.h"
+#include "compositor/Sway.h"
 #include "compositor/WaylandHands.h"
 #include "support/Keys.h"
 

@@ -19,4 +19,20 @@ TEST(StatusNoticeTest, listsRefusedHotKeysAboveTheHint) {
     EXPECT_EQ(item.shownNotice, "Stop Recording has no shortcut. S cannot be used.\nhint");
 }
 
+TEST(StatusNoticeTest, oneReasonForAllIsToldOnceWithWhatToDo) {
+    Journal journal;
+    FakeStatusItem item(journal);
+    StatusNotice notice(item);
+    const HotKeyState none{.status = HotKeyStatus::refused, .error = Error{"There are none.", "Bind keys."}};
+    notice.noteHotKey(1, none);
+    EXPECT_EQ(item.shownNotice, "Start Recording has no shortcut. There are none.");
+    notice.noteHotKey(3, none);
+    notice.noteHotKey(2, none);
+    EXPECT_EQ(item.shownNotice, "There are none. Bind keys.");
+    notice.noteHotKey(3, {.status = HotKeyStatus::refused, .error = Error{"P cannot be used.", ""}});
+    EXPECT_EQ(item.shownNotice,
+              "Start Recording has no shortcut. There are none.\n"
+              "Stop Recording has no shortcut. There are none.\nPlay has no shortcut. P cannot be used.");
+}
+
 }  // namespace
