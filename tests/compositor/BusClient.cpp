@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "compositor/BusClient.h"
 
+#include <gio/gunixfdlist.h>
+
 #include <stdexcept>
 
 namespace {
@@ -31,6 +33,19 @@ BusClient::Value BusClient::call(const Method& method, GVariant* parameters, con
     Value answer(g_dbus_connection_call_sync(
         m_bus.get(), method.name, method.object, method.interface, method.member, parameters,
         type == nullptr ? nullptr : G_VARIANT_TYPE(type), G_DBUS_CALL_FLAGS_NONE, patience, nullptr, &error));
+    check(answer.get(), error);
+    return answer;
+}
+
+BusClient::Value BusClient::callWithFile(const Method& method, GVariant* parameters, int file,
+                                         const char* type) const {
+    GError* error = nullptr;
+    GUnixFDList* const files = g_unix_fd_list_new();
+    g_unix_fd_list_append(files, file, nullptr);
+    Value answer(g_dbus_connection_call_with_unix_fd_list_sync(
+        m_bus.get(), method.name, method.object, method.interface, method.member, parameters,
+        G_VARIANT_TYPE(type), G_DBUS_CALL_FLAGS_NONE, patience, files, nullptr, nullptr, &error));
+    g_object_unref(files);
     check(answer.get(), error);
     return answer;
 }

@@ -26,6 +26,8 @@ class BusClient {
 
     /// The answer, of that type. An error fails the test by an exception.
     Value call(const Method& method, GVariant* parameters, const char* type) const;
+    /// The same with an open file of the caller's: handle 0 among the parameters.
+    Value callWithFile(const Method& method, GVariant* parameters, int file, const char* type) const;
 
   private:
     std::unique_ptr<GDBusConnection, Unref> m_bus;

@@ -24,13 +24,20 @@ Field::Field(const Compositor& compositor, Toolkit toolkit) {
     }
 }
 
+namespace {
+
+/// A long text comes key by key.
+constexpr std::chrono::seconds patience{20};
+
+}  // namespace
+
 std::string Field::text(const std::string& expected) const {
-    eventually([&] { return text() == expected; });
+    eventually([&] { return text() == expected; }, patience);
     return text();
 }
 
 std::string Field::saved(const std::string& expected) const {
     const std::string file = m_folder.file("text");
-    eventually([&] { return contentOf(file) == expected; });
+    eventually([&] { return contentOf(file) == expected; }, patience);
     return contentOf(file);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "compositor/KWin.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -23,6 +24,10 @@ KWin::KWin(const Options& options) : m_options(options) {
     // What gets the focus is the test's to say.
     put("home/.config/kwinrc", "[Windows]\nFocusStealingPreventionLevel=0\n");
     put("home/.config/kxkbrc", "[Layout]\nUse=true\nLayoutList=" + options.layouts + "\n");
+    // Nothing fades.
+    put("home/.config/kdeglobals", "[KDE]\nAnimationDurationFactor=0\n");
+    put("home/.config/kcminputrc",
+        "[Keyboard]\nRepeatDelay=" + std::to_string(repeatDelay.count()) + "\nRepeatRate=25\n");
     std::filesystem::copy_file(installed, m_session.file("kwin_wayland"));
     m_session.set("WAYLAND_DISPLAY", "kwin");
     m_session.set("XDG_CURRENT_DESKTOP", "KDE");
@@ -54,6 +59,8 @@ void KWin::startCompositor() {
                                         "1024",
                                         "--height",
                                         "640",
+                                        "--scale",
+                                        std::to_string(m_options.scale),
                                         "--no-lockscreen",
                                         "--no-kactivities",
                                         "--socket",
@@ -65,11 +72,13 @@ void KWin::startCompositor() {
     }
     m_program = m_session.startService(command, "kwin.log", "org.kde.kglobalaccel", "/kglobalaccel",
                                        {{"QT_LOGGING_RULES", "*.debug=false;js.debug=true"},
-                                        {"KWIN_COMPOSE", "Q"},
+                                        {"KWIN_COMPOSE", m_options.hasPictures ? "O2" : "Q"},
+                                        {"KWIN_SCREENSHOT_NO_PERMISSION_CHECKS", "1"},
                                         {"KWIN_WAYLAND_NO_PERMISSION_CHECKS", "1"}});
     if (!eventually([this] { return std::filesystem::exists(socket()); }, UserSession::startUp)) {
         throw std::runtime_error("KWin listens to nobody: " + log("kwin.log"));
     }
+    watchWindows();
     if (!m_options.hasXServer) return;
     const auto display = [this] { return log("display"); };
     if (!eventually([&] { return display().ends_with('\n'); }, UserSession::startUp)) {
@@ -86,8 +95,7 @@ void KWin::comeAgain() {
     startCompositor();
 }
 
-/// KWin writes what scripts print to its log.
-std::string KWin::run(const std::string& script) const {
+std::string KWin::load(const std::string& script) const {
     const std::string name = "test" + std::to_string(++m_scripts);
     const std::string file = m_session.file(name + ".js");
     std::ofstream(file) << "function say(text) { print('" << name << ":' + text + ':'); }\n"
@@ -96,11 +104,18 @@ std::string KWin::run(const std::string& script) const {
         {"-d", "org.kde.KWin", "-o", "/Scripting", "-m", "org.kde.kwin.Scripting.loadScript", file, name});
     const std::string number = loaded.substr(1, loaded.find(',') - 1);
     call({"-d", "org.kde.KWin", "-o", "/" + number, "-m", "org.kde.kwin.Script.run"});
+    return name;
+}
+
+/// KWin writes what scripts print to its log.
+std::string KWin::run(const std::string& script) const {
+    const std::string name = load(script);
     const auto said = [&] {
         const std::string log = m_session.log("kwin.log");
         const auto at = log.find(name + ":");
         const auto from = at + name.size() + 1;
-        return at == std::string::npos ? "?" : log.substr(from, log.find(':', from) - from);
+        const auto end = log.find(':', from);
+        return at == std::string::npos || end == std::string::npos ? "?" : log.substr(from, end - from);
     };
     if (!eventually([&] { return said() != "?"; })) {
         throw std::runtime_error("KWin runs no script: " + log("kwin.log"));
@@ -109,23 +124,58 @@ std::string KWin::run(const std::string& script) const {
     return said();
 }
 
-bool KWin::shows(const std::string& title) const {
-    return run("var there = 'no';\n"
-               "workspace.clientList().forEach(function (one) { if (one.caption == " +
-               quoted(title) + ") there = 'yes'; });\nsay(there);") == "yes";
+void KWin::watchWindows() {
+    m_watcher = load(R"(function tell(gone) {
+    var titles = [workspace.activeClient ? workspace.activeClient.caption : ''];
+    workspace.clientList().forEach(function (one) { if (one !== gone) titles.push(one.caption); });
+    say('\t' + titles.join('\t') + '\t');
+}
+function follow(one) {
+    one.captionChanged.connect(function () { tell(null); });
+    tell(null);
+}
+workspace.clientList().forEach(follow);
+workspace.clientAdded.connect(follow);
+workspace.clientRemoved.connect(tell);
+workspace.clientActivated.connect(function () { tell(null); });
+tell(null);
+)");
+    if (!eventually([this] { return !windows().empty(); }))
+        throw std::runtime_error("KWin tells of no windows: " + log("kwin.log"));
 }
 
-std::string KWin::front() const {
-    return run("say(workspace.activeClient ? workspace.activeClient.caption : '');");
+/// Its last word that is whole.
+std::vector<std::string> KWin::windows() const {
+    const std::string log = m_session.log("kwin.log");
+    const std::string begin = m_watcher + ":\t";
+    const auto end = log.rfind("\t:");
+    const auto at = end == std::string::npos ? end : log.rfind(begin, end);
+    if (at == std::string::npos) return {};
+    std::vector<std::string> titles;
+    for (std::size_t from = at + begin.size(); from <= end;) {
+        const auto next = log.find('\t', from);
+        titles.push_back(log.substr(from, next - from));
+        from = next + 1;
+    }
+    return titles;
+}
+
+bool KWin::shows(const std::string& title) const {
+    const auto titles = windows();
+    return std::find(titles.begin() + 1, titles.end(), title) != titles.end();
 }
 
 bool KWin::focus(const std::string& title) const {
-    return run("var windows = workspace.clientList();\n"
-               "for (var i = 0; i < windows.length; ++i)\n"
-               "  if (windows[i].caption == " +
-               quoted(title) +
-               ") workspace.activeClient = windows[i];\n"
-               "say(workspace.activeClient ? workspace.activeClient.caption : '');") == title;
+    if (!shows(title)) return false;
+    if (hasFocus(title)) return true;
+    run("workspace.clientList().forEach(function (one) { if (one.caption == " + quoted(title) +
+        ") workspace.activeClient = one; });\nsay('');");
+    return hasFocus(title);
+}
+
+void KWin::makeFullScreen(const std::string& title) const {
+    run("workspace.clientList().forEach(function (one) { if (one.caption == " + quoted(title) +
+        ") one.fullScreen = true; });\nsay('');");
 }
 
 void KWin::close(const std::string& title) const {

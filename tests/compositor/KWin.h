@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,9 +13,16 @@
 /// the object. It runs as nobody where the test runs as root. One that cannot be started fails the test by an
 /// exception.
 ///
+/// A script of the test's tells all the time which windows there are: asking by one each time would come into
+/// the way of programs that do so.
+///
 /// Programs may do there what KWin otherwise asks a desktop entry for, so that a test has hands (KWinHands).
 class KWin final : public Compositor {
   public:
+    /// How long keys are down before they repeat: a KWin that has no time for hands makes no strokes of its
+    /// own. Then they do so 25 times a second.
+    static constexpr std::chrono::milliseconds repeatDelay{1500};
+
     struct Options {
         /// As xkb-data calls them, separated by commas.
         std::string layouts = "us";
@@ -22,6 +30,10 @@ class KWin final : public Compositor {
         bool hasXServer = false;
         /// Whether KDE's portal is there, as in its sessions.
         bool hasPortal = false;
+        /// Whether ScreenPicture can be taken of it, which makes it slower.
+        bool hasPictures = false;
+        /// How many pixels of the screen's own a program's are in each direction.
+        int scale = 1;
     };
 
     KWin() : KWin(Options()) {}
@@ -31,10 +43,11 @@ class KWin final : public Compositor {
     const std::map<std::string, std::string>& environment() const override { return m_session.environment(); }
     bool focus(const std::string& title) const override;
     void close(const std::string& title) const override;
+    void makeFullScreen(const std::string& title) const;
     bool hasFocus(const std::string& title) const override { return front() == title; }
     bool shows(const std::string& title) const override;
-    /// The title of the window that has the focus, empty without one.
-    std::string front() const;
+    /// The title of the window that has the focus, empty without one and where a layer has it.
+    std::string front() const { return windows().front(); }
     /// The compositor's socket, an absolute path.
     std::string socket() const { return m_session.file("kwin"); }
     Child& program() { return *m_program; }
@@ -56,12 +69,19 @@ class KWin final : public Compositor {
   private:
     void startCompositor();
     void startPortal();
-    /// What a script in KWin prints, with `print` alone: one line.
+    void watchWindows();
+    /// The titles of the one that has the focus, empty without one, and of all.
+    std::vector<std::string> windows() const;
+    /// What a script in KWin says first, by its function `say`: one line.
     std::string run(const std::string& script) const;
+    /// The name of a script that is loaded and runs from now on.
+    std::string load(const std::string& script) const;
 
     UserSession m_session;
     Options m_options;
     std::unique_ptr<Child> m_program;
     std::vector<std::unique_ptr<Child>> m_portal;
     mutable int m_scripts = 0;
+    /// The name of the script that tells of windows.
+    std::string m_watcher;
 };

@@ -2,6 +2,7 @@
 #include "compositor/KWinHands.h"
 
 #include <fake-input-client-protocol.h>
+#include <linux/input-event-codes.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
@@ -22,10 +23,23 @@ constexpr std::uint32_t withKeys = 4;
 
 /// What goes to the process of the hands; it answers each with one byte once KWin has it, and the first time
 /// when it is ready.
-struct Key {
-    std::uint8_t keycode;
-    bool press;
+struct Act {
+    enum class Kind : std::uint8_t { key, click };
+
+    Kind kind = Kind::key;
+    std::uint8_t keycode = 0;
+    bool press = false;
+    /// Where the click is.
+    std::uint32_t x = 0;
+    std::uint32_t y = 0;
 };
+
+void click(org_kde_kwin_fake_input* input, const Act& act) {
+    org_kde_kwin_fake_input_pointer_motion_absolute(input, wl_fixed_from_int(static_cast<int>(act.x)),
+                                                    wl_fixed_from_int(static_cast<int>(act.y)));
+    for (const std::uint32_t state : {WL_POINTER_BUTTON_STATE_PRESSED, WL_POINTER_BUTTON_STATE_RELEASED})
+        org_kde_kwin_fake_input_button(input, BTN_LEFT, state);
+}
 
 void added(void* input, wl_registry* registry, std::uint32_t name, const char* interface,
            std::uint32_t /*version*/) {
@@ -46,11 +60,22 @@ void haveHands(const char* socket, int pipe) {
     wl_display_roundtrip(display);
     if (input == nullptr) return;
     org_kde_kwin_fake_input_authenticate(input, "test", "to press keys as a person does");
-    Key key{};
+    Act act{};
     while (wl_display_roundtrip(display) >= 0 && write(pipe, "+", 1) == 1 &&
-           read(pipe, &key, sizeof key) == sizeof key) {
-        org_kde_kwin_fake_input_keyboard_key(input, key.keycode - evdevOffset, key.press ? 1 : 0);
+           read(pipe, &act, sizeof act) == sizeof act) {
+        if (act.kind == Act::Kind::click) {
+            click(input, act);
+        } else {
+            org_kde_kwin_fake_input_keyboard_key(input, act.keycode - evdevOffset, act.press ? 1 : 0);
+        }
     }
+}
+
+/// Whatever else the test has open would not be closed when the test closes it.
+void keepOnly(unsigned descriptor) {
+    constexpr unsigned first = STDERR_FILENO + 1;
+    if (descriptor > first) close_range(first, descriptor - 1, 0);
+    close_range(descriptor + 1, ~0U, 0);
 }
 
 }  // namespace
@@ -66,7 +91,7 @@ KWinHands::KWinHands(const std::string& socket) {
     if (m_process == 0) {
         otheruser::become();
         prctl(PR_SET_PDEATHSIG, SIGKILL);
-        close(ends[0]);
+        keepOnly(static_cast<unsigned>(ends[1]));
         haveHands(socket.c_str(), ends[1]);
         _exit(0);
     }
@@ -79,8 +104,17 @@ KWinHands::~KWinHands() {
 }
 
 void KWinHands::send(std::uint8_t keycode, bool press) {
-    const Key key{keycode, press};
-    if (write(m_pipe.number(), &key, sizeof key) != sizeof key)
+    const Act act{.kind = Act::Kind::key, .keycode = keycode, .press = press};
+    pass(&act, sizeof act);
+}
+
+void KWinHands::click(unsigned x, unsigned y) {
+    const Act act{.kind = Act::Kind::click, .x = x, .y = y};
+    pass(&act, sizeof act);
+}
+
+void KWinHands::pass(const void* act, std::size_t size) {
+    if (write(m_pipe.number(), act, size) != static_cast<ssize_t>(size))
         throw std::runtime_error("the hands have gone");
     awaitAnswer();
 }

@@ -20,8 +20,12 @@ class KWinHands final : public Hands {
     KWinHands(const KWinHands&) = delete;
     KWinHands& operator=(const KWinHands&) = delete;
 
+    /// Clicks with the main button of a mouse, at that place of the screen, in KWin's own units.
+    void click(unsigned x, unsigned y);
+
   private:
     void send(std::uint8_t keycode, bool press) override;
+    void pass(const void* act, std::size_t size);
     void awaitAnswer();
 
     pid_t m_process = -1;

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "compositor/GnomeShell.h"
+#include "compositor/KWin.h"
 #include "compositor/Phoc.h"
 #include "compositor/Sway.h"
 
@@ -24,8 +25,8 @@ struct ScreenArea {
 };
 std::ostream& operator<<(std::ostream& stream, const ScreenArea& area);
 
-/// What is to be seen on one of sway's screens or on phoc's, as grim takes it, or on GNOME's, as its shell
-/// gives it.
+/// What is to be seen on one of sway's screens or on phoc's, as grim takes it, or on that of GNOME or KDE, as
+/// their shell or KWin gives it.
 class ScreenPicture {
   public:
     using Colour = std::array<std::uint8_t, 3>;
@@ -33,6 +34,7 @@ class ScreenPicture {
     explicit ScreenPicture(const Sway& sway, const std::string& screen = "HEADLESS-1");
     explicit ScreenPicture(const Phoc& phoc);
     explicit ScreenPicture(const GnomeShell& shell);
+    explicit ScreenPicture(const KWin& kwin);
 
     int width() const { return m_width; }
     int height() const { return m_height; }
@@ -40,6 +42,9 @@ class ScreenPicture {
 
     /// The smallest area outside of which both are the same; empty where they do not differ.
     std::optional<ScreenArea> differsFrom(const ScreenPicture& other) const;
+
+    /// Writes it for whoever runs the tests, into the folder that KEYRILL_PICTURES names, if any; PPM.
+    void keep(const std::string& name) const;
 
   private:
     void take(const std::string& screen, const std::map<std::string, std::string>& environment);

@@ -74,6 +74,7 @@ inline constexpr std::uint8_t altGr = 108;
 inline constexpr std::uint8_t super = 133;
 inline constexpr std::uint8_t f13 = 191;
 inline constexpr std::uint8_t arrowDown = 116;
+inline constexpr std::uint8_t home = 110;
 }  // namespace xkey
 
 /// Real modifiers of X, as xkb-data's keymaps use them.

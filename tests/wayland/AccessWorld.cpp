@@ -9,6 +9,7 @@
 #include <array>
 #include <chrono>
 #include <filesystem>
+#include <initializer_list>
 #include <stdexcept>
 
 #include "compositor/OtherUser.h"
@@ -17,6 +18,12 @@
 namespace {
 
 constexpr std::uint16_t evdevOffset = 8;
+
+bool isModifier(std::uint8_t keycode) {
+    const std::initializer_list<std::uint8_t> modifiers = {xkey::control, xkey::super, xkey::shift,
+                                                           xkey::alt};
+    return std::find(modifiers.begin(), modifiers.end(), keycode) != modifiers.end();
+}
 
 input_event eventNow(std::uint16_t type, std::uint16_t code, std::int32_t value) {
     const auto now = std::chrono::duration_cast<std::chrono::microseconds>(
@@ -73,13 +80,16 @@ bool AccessWorld::isOpenFor(pid_t process) const {
     return false;
 }
 
-void AccessWorld::key(std::uint8_t keycode, bool press, pid_t reader) const {
+void AccessWorld::key(std::uint8_t keycode, bool press, pid_t reader) {
     if (!m_keyboard) return;
-    if (!isOpenFor(reader)) {
+    const bool isOpen = isOpenFor(reader);
+    // What nobody has read before its last reader went is nothing to the next one.
+    if (!isOpen && m_down.empty()) {
         std::array<char, 4096> unread{};
         while (read(m_keyboard.number(), unread.data(), unread.size()) > 0) continue;
-        return;
     }
+    press ? void(m_down.insert(keycode)) : void(m_down.erase(keycode));
+    if (!isOpen && !isModifier(keycode)) return;
     const auto code = static_cast<std::uint16_t>(keycode - evdevOffset);
     const input_event events[] = {eventNow(EV_KEY, code, press ? 1 : 0), eventNow(EV_SYN, SYN_REPORT, 0)};
     if (write(m_keyboard.number(), events, sizeof events) != sizeof events) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <string>
 
 #include "compositor/Hands.h"
@@ -24,8 +25,9 @@ class AccessWorld {
     bool isOpenFor(pid_t process) const;
 
     /// The kernel tells of a key, by its X key code, whoever has the keyboard open: of nothing that was
-    /// before.
-    void key(std::uint8_t keycode, bool press, pid_t reader) const;
+    /// before, but for the modifiers. What is held a device tells when it is asked, as a pipe cannot: there
+    /// their strokes wait for who opens it.
+    void key(std::uint8_t keycode, bool press, pid_t reader);
     /// Nothing more comes from the keyboard, as after a revocation.
     void endKeyboard() { m_keyboard.reset(); }
 
@@ -36,6 +38,8 @@ class AccessWorld {
     std::unique_ptr<Child> m_program;
     Descriptor m_commands;
     Descriptor m_keyboard;
+    /// What hands hold.
+    std::set<std::uint8_t> m_down;
     std::size_t m_answers = 1;
 };
 

@@ -6,16 +6,27 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "compositor/KWin.h"
 #include "compositor/KWinHands.h"
 #include "wayland/ProgramSession.h"
 
+class KWinMouse final : public Mouse {
+  public:
+    explicit KWinMouse(KWinHands& hands) : m_hands(hands) {}
+
+    void click(unsigned x, unsigned y) override { m_hands.click(x, y); }
+
+  private:
+    KWinHands& m_hands;
+};
+
 /// keyrill itself under a KWin of the test's own.
 class KWinProgram : public ProgramSession {
   public:
-    explicit KWinProgram(const std::string& layouts = "us")
-        : m_kwin({.layouts = layouts, .hasXServer = true, .hasPortal = true}), m_hands(m_kwin.socket()) {
+    explicit KWinProgram(KWin::Options options = {})
+        : m_kwin(withPortal(std::move(options))), m_hands(m_kwin.socket()) {
         const std::string presets = m_kwin.put("presets/keyrill/keyrill.conf", contentOf(KEYRILL_PRESETS));
         m_presets = std::filesystem::path(presets).parent_path().parent_path();
         // Nobody is greeted.
@@ -24,21 +35,48 @@ class KWinProgram : public ProgramSession {
 
     void start(const std::string& lines) override {
         const std::string macro =
-            m_kwin.put("home/macro.keyrill", "tell application \"System Events\"\n" + lines + "\nend tell\n");
-        m_program = m_kwin.start({KEYRILL_PRODUCT, macro}, "output",
-                                 {{"XDG_CONFIG_DIRS", m_presets}, {"DBUS_SYSTEM_BUS_ADDRESS", systemBus()}});
+            put("macro.keyrill", "tell application \"System Events\"\n" + lines + "\nend tell\n");
+        m_program = run({KEYRILL_PRODUCT, macro}, "output");
         // Without a tray a small window appears, once the program is up.
         if (!eventually([this] { return m_kwin.shows("Keyrill"); }, std::chrono::seconds(30))) {
-            throw std::runtime_error("the program does not start: " + m_kwin.log("output"));
+            throw std::runtime_error("the program does not start: " + log());
         }
     }
     const Compositor& compositor() const override { return m_kwin; }
     Hands& hands() override { return m_hands; }
     Child& program() override { return *m_program; }
+    std::unique_ptr<Child> run(const std::vector<std::string>& command,
+                               const std::string& output) const override {
+        return m_kwin.start(command, output,
+                            {{"XDG_CONFIG_DIRS", m_presets}, {"DBUS_SYSTEM_BUS_ADDRESS", systemBus()}});
+    }
+    std::string put(const std::string& name, const std::string& content) const override {
+        return m_kwin.put("home/" + name, content);
+    }
+    std::string socket() const override { return m_kwin.socket(); }
+    std::string outputIn(const std::string& file) const override { return m_kwin.log(file); }
+    std::unique_ptr<Target> openTarget(Target::Kind kind) const override {
+        if (kind == Target::Kind::terminal) throw std::runtime_error("there is no terminal under KWin");
+        return makeField(m_kwin, kind == Target::Kind::qt ? Field::Toolkit::qt : Field::Toolkit::gtk);
+    }
+    ScreenPicture picture() const override { return ScreenPicture(m_kwin); }
+    void makeFullScreen() const override { m_kwin.makeFullScreen(m_kwin.front()); }
+    std::unique_ptr<Mouse> plugMouse() override { return std::make_unique<KWinMouse>(m_hands); }
+    bool hasLayerKeys() const override { return m_kwin.front().empty(); }
+
+    void forgetSettings() const override {
+        std::filesystem::remove(m_kwin.environment().at("XDG_RUNTIME_DIR") +
+                                "/home/.config/keyrill/keyrill.conf");
+    }
 
     KWin& kwin() { return m_kwin; }
 
   private:
+    static KWin::Options withPortal(KWin::Options options) {
+        options.hasPortal = true;
+        return options;
+    }
+
     KWin m_kwin;
     std::string m_presets;
     KWinHands m_hands;

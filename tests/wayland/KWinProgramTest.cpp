@@ -11,7 +11,7 @@ namespace {
 
 class KWinProgramTest : public KWinProgram, public testing::TestWithParam<const char*> {
   protected:
-    KWinProgramTest() : KWinProgram(GetParam()) {}
+    KWinProgramTest() : KWinProgram({.layouts = GetParam(), .hasXServer = true}) {}
 };
 
 TEST_P(KWinProgramTest, theHotKeyPlaysTheMacroAndNothingOfItIsTyped) {

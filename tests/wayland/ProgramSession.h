@@ -1,14 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "compositor/Compositor.h"
 #include "compositor/Hands.h"
+#include "compositor/ScreenPicture.h"
 #include "support/Child.h"
 #include "support/Keys.h"
+#include "wayland/Target.h"
+
+/// That of a person.
+class Mouse {
+  public:
+    virtual ~Mouse() = default;
+
+    /// Clicks with the main button at that place on the screen.
+    virtual void click(unsigned x, unsigned y) = 0;
+
+  protected:
+    Mouse() = default;
+    Mouse(const Mouse&) = default;
+    Mouse& operator=(const Mouse&) = default;
+};
 
 /// keyrill itself in a Wayland session of the test's own, with the preset combinations, and the hands of its
 /// user.
@@ -21,6 +40,40 @@ class ProgramSession {
     virtual const Compositor& compositor() const = 0;
     virtual Hands& hands() = 0;
     virtual Child& program() = 0;
+    /// What the program says, on standard output and error.
+    std::string log() const { return outputIn("output"); }
+    /// Another program of the user's, with the environment that keyrill has; it writes to a file of that
+    /// name.
+    virtual std::unique_ptr<Child> run(const std::vector<std::string>& command,
+                                       const std::string& output) const = 0;
+    /// Writes a file of his; its path.
+    virtual std::string put(const std::string& name, const std::string& content) const = 0;
+    /// The compositor's, an absolute path.
+    virtual std::string socket() const = 0;
+    virtual std::string outputIn(const std::string& file) const = 0;
+    /// What `keyrill --action=` of that name says to it; empty if it is done.
+    std::string ask(const std::string& action) const {
+        run({KEYRILL_PRODUCT, "--action=" + action}, "answer")->wait();
+        return outputIn("answer");
+    }
+    /// Waits until the program asks nothing any more, and takes its combinations again.
+    void awaitRest() const {
+        const std::string atRest = "keyrill: Nothing is being recorded or played.\n";
+        if (!eventually([&] { return ask("stop") == atRest; }, std::chrono::seconds(20)))
+            throw std::runtime_error("the program comes to no rest: " + ask("stop"));
+    }
+    /// Another program, which has the focus when this returns.
+    virtual std::unique_ptr<Target> openTarget(Target::Kind kind) const = 0;
+    /// The first screen.
+    virtual ScreenPicture picture() const = 0;
+    /// The window that has the focus.
+    virtual void makeFullScreen() const = 0;
+    /// Goes with the session at the latest.
+    virtual std::unique_ptr<Mouse> plugMouse() = 0;
+    /// As for somebody who starts the program for the first time. Before start().
+    virtual void forgetSettings() const = 0;
+    /// Whether keys go to a layer, to no window.
+    virtual bool hasLayerKeys() const = 0;
 
     /// Before start(); there is none otherwise.
     void setSystemBus(const std::string& address) { m_systemBus = address; }
@@ -39,4 +92,11 @@ class ProgramSession {
     std::string m_systemBus = "unix:path=/nonexistent/system-bus";
 };
 
-using ProgramSessionFactory = std::unique_ptr<ProgramSession> (*)();
+/// A kind of session, and who is typed into there.
+struct Place {
+    const char* name;
+    std::unique_ptr<ProgramSession> (*open)();
+    Target::Kind target;
+    /// How long keys are down before they repeat.
+    std::chrono::milliseconds repeatDelay{600};
+};

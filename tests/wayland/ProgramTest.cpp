@@ -112,7 +112,8 @@ TEST_F(SwayProgramTest, aReloadOfTheConfigurationLosesNothing) {
 /// Whose own combination is the preset one for playing.
 class SwayUsersBindingTest : public SwayProgramTest {
   protected:
-    SwayUsersBindingTest() : SwayProgramTest("bindsym Ctrl+Mod4+p exec touch $XDG_RUNTIME_DIR/users") {}
+    SwayUsersBindingTest()
+        : SwayProgramTest({.configuration = "bindsym Ctrl+Mod4+p exec touch $XDG_RUNTIME_DIR/users"}) {}
     bool hasFired() const {
         return std::filesystem::exists(sway().environment().at("XDG_RUNTIME_DIR") + "/users");
     }

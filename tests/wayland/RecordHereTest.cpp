@@ -9,17 +9,16 @@
 
 #include "compositor/Field.h"
 #include "wayland/AccessWorld.h"
-#include "wayland/KWinProgram.h"
-#include "wayland/SwayProgram.h"
+#include "wayland/Places.h"
 
 namespace {
 
 const char* const recordHere = "Record Here";
 
 /// A native text field and the program, whose service is not installed.
-class RecordHereTest : public testing::TestWithParam<ProgramSessionFactory> {
+class RecordHereTest : public testing::TestWithParam<Place> {
   protected:
-    RecordHereTest() : m_session(GetParam()()) {
+    RecordHereTest() : m_session(GetParam().open()) {
         m_session->setSystemBus(m_access.bus());
         m_session->start("keystroke \"x\"");
         m_field = std::make_unique<Field>(m_session->compositor(), Field::Toolkit::qt);
@@ -46,12 +45,13 @@ class RecordHereTest : public testing::TestWithParam<ProgramSessionFactory> {
     }
 
     using Held = std::chrono::duration<double>;
-    /// Holds the b in that window, which keeps the focus, for a second, and types an n; for how long it was
-    /// held.
+    /// Holds the b in that window, which keeps the focus, until it has repeated ten times, and types an n;
+    /// for how long it was held.
     Held hold(const std::string& window) {
+        const std::chrono::milliseconds time = GetParam().repeatDelay + std::chrono::milliseconds(400);
         const auto begin = std::chrono::steady_clock::now();
         hands().press(xkey::b);
-        EXPECT_FALSE(eventually([&] { return !compositor().hasFocus(window); }, std::chrono::seconds(1)));
+        EXPECT_FALSE(eventually([&] { return !compositor().hasFocus(window); }, time));
         hands().release(xkey::b);
         const auto end = std::chrono::steady_clock::now();
         hands().type("n");
@@ -151,12 +151,6 @@ TEST_P(RecordHereTest, closingTheWindowEndsTheRecordingToo) {
     EXPECT_EQ(played("ab"), "ab.");
 }
 
-INSTANTIATE_TEST_SUITE_P(Sessions, RecordHereTest,
-                         testing::Values<ProgramSessionFactory>(
-                             [] { return std::unique_ptr<ProgramSession>(std::make_unique<SwayProgram>()); },
-                             [] { return std::unique_ptr<ProgramSession>(std::make_unique<KWinProgram>()); }),
-                         [](const auto& session) {
-                             return std::string(session.index == 0 ? "sway" : "kwin");
-                         });
+INSTANTIATE_TEST_SUITE_P(Sessions, RecordHereTest, testing::Values(place::sway, place::kwin), nameOf);
 
 }  // namespace
