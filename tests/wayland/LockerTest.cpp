@@ -8,14 +8,11 @@
 
 namespace {
 
-class WaylandLockerTest : public SwayScreenTest {
-  protected:
-    WaylandLockerTest() : SwayScreenTest({}, "repeat 1000 times\nkeystroke \"a\"\ndelay 0.02\nend repeat") {}
-};
+using WaylandLockerTest = SwayScreenTest;
 
 TEST_F(WaylandLockerTest, itEndsThePlay) {
     const Foot foot(sway());
-    const auto program = startProgram();
+    start("repeat 1000 times\nkeystroke \"a\"\ndelay 0.02\nend repeat");
     foot.focus();
     strokeHotKey(xkey::p);
     foot.typed(5);

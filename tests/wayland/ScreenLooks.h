@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "compositor/ScreenPicture.h"
+#include "support/Child.h"
+
+/// Takes a picture of a screen.
+using ScreenLook = std::function<ScreenPicture()>;
+
+/// The screen, once each of these places has that colour; its own pixels.
+inline ScreenPicture pictureWith(const ScreenLook& look, const ScreenPicture::Colour& colour,
+                                 const std::vector<std::pair<int, int>>& places) {
+    std::optional<ScreenPicture> picture;
+    const bool isThere = eventually([&] {
+        picture.emplace(look());
+        return std::all_of(places.begin(), places.end(), [&](const auto& place) {
+            return picture->at(place.first, place.second) == colour;
+        });
+    });
+    EXPECT_TRUE(isThere) << "what was typed into is not to be seen";
+    return *picture;
+}
+
+/// Where the screen is another than in the picture, once it has been there for two looks: fades are over.
+/// From its first change it has so long for that.
+inline std::optional<ScreenArea> changedArea(const ScreenLook& look, const ScreenPicture& before,
+                                             std::chrono::milliseconds patience = std::chrono::seconds(10)) {
+    std::optional<ScreenPicture> last;
+    std::optional<std::chrono::steady_clock::time_point> end;
+    bool isSettled = false;
+    eventually([&] {
+        const auto time = std::chrono::steady_clock::now();
+        std::optional<ScreenPicture> now(look());
+        const bool hasChanged = now->differsFrom(before).has_value();
+        if (hasChanged && !end) end = time + patience;
+        isSettled = last && hasChanged && !now->differsFrom(*last);
+        last = std::move(now);
+        return isSettled || (end && time > *end);
+    });
+    EXPECT_TRUE(isSettled) << "it keeps changing, or has not changed at all";
+    return last->differsFrom(before);
+}
