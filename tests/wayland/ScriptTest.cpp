@@ -9,7 +9,6 @@
 #include "cli/FieldScript.h"
 #include "compositor/Field.h"
 #include "compositor/Foot.h"
-#include "compositor/SilentCopier.h"
 #include "compositor/Sway.h"
 #include "compositor/WaylandHands.h"
 #include "support/Keys.h"
@@ -210,38 +209,6 @@ TEST_F(WaylandHeldKeyTest, whatAScriptForgetsToReleaseIsReleased) {
     play(keys("key down command\nkey down (0)"));
     EXPECT_TRUE(eventually([&] { return count(xkey::a, "released") == 1; })) << events();
     EXPECT_EQ(count(xkey::super, "released"), 1U);
-}
-
-TEST_F(WaylandScriptTest, aScriptFillsTheClipboardForOthersAndLeavesItThere) {
-    play("set the clipboard to \"Grüße, 日本\"");
-    EXPECT_EQ(outputOf({"wl-paste", "--no-newline"}, sway().environment()), "Grüße, 日本");
-}
-
-TEST_F(WaylandScriptTest, aScriptReadsWhatOthersHaveCopied) {
-    const Foot foot(sway());
-    outputOf({"sh", "-c", "printf 'één' | wl-copy"}, sway().environment());
-    play("set found to the clipboard\n" + keys("keystroke found & \"!\""));
-    EXPECT_EQ(foot.typed(6), "één!");
-}
-
-TEST_F(WaylandScriptTest, aTextOfWhichOnlyAPartComesIsNone) {
-    const Foot foot(sway());
-    const SilentCopier copier(sway().socket(), "half of it");
-    play("set found to the clipboard\n" + keys(R"(keystroke "<" & found & ">")"));
-    EXPECT_EQ(foot.typed(2), "<>");
-}
-
-TEST_F(WaylandScriptTest, aReaderThatLosesInterestTakesTheClipboardFromNobody) {
-    play("set big to \"x\"\nrepeat 20 times\nset big to big & big\nend repeat\nset the clipboard to big");
-    EXPECT_EQ(outputOf({"sh", "-c", "wl-paste --no-newline | head -c 3"}, sway().environment()), "xxx");
-    EXPECT_EQ(outputOf({"sh", "-c", "wl-paste --no-newline | wc -c"}, sway().environment()), "1048576\n");
-}
-
-TEST_F(WaylandScriptTest, aPasteRightAfterwardsFindsTheText) {
-    const Foot foot(sway());
-    play("set the clipboard to \"pasted\"\n" +
-         keys("keystroke \"v\" using {control down, shift down}\ndelay 0.3"));
-    EXPECT_EQ(foot.typed(6), "pasted");
 }
 
 TEST_F(WaylandScriptTest, aScriptBringsAProgramToTheFront) {
