@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// The monitor and the hot keys of a Wayland session, where the kernel shows the keys and the compositor takes
-// the combinations: a person's hands are at both.
+// The hot keys of a Wayland session and their one order with the keys, where the kernel shows these and the
+// compositor takes the combinations: a person's hands are at both.
 #include <cstdlib>
 
 #include "compositor/KWin.h"
 #include "compositor/KWinHands.h"
 #include "compositor/Sway.h"
 #include "compositor/WaylandHands.h"
-#include "contracts/EventMonitorContract.h"
 #include "contracts/HotKeysContract.h"
 #include "evdev/EvdevWorld.h"
 #include "keymap/NamedKeymap.h"
@@ -139,7 +138,5 @@ std::unique_ptr<KeyboardWorld> makeWorld() {
 
 }  // namespace
 
-INSTANTIATE_TEST_SUITE_P(Sway, EventMonitorContract, testing::Values(&makeWorld<SwayDesk>));
 INSTANTIATE_TEST_SUITE_P(Sway, HotKeysContract, testing::Values(&makeWorld<SwayDesk>));
-INSTANTIATE_TEST_SUITE_P(KWin, EventMonitorContract, testing::Values(&makeWorld<KWinDesk>));
 INSTANTIATE_TEST_SUITE_P(KWin, HotKeysContract, testing::Values(&makeWorld<KWinDesk>));

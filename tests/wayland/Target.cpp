@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "compositor/Foot.h"
+#include "compositor/Sway.h"
 
 namespace {
 
