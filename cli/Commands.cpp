@@ -68,8 +68,8 @@ std::optional<script::Program> compiled(const Source& source) {
 
 /// The user has asked to stop between two runs.
 script::RunResult stopped() {
-    return {script::RunEnd::cancelled,
-            script::ScriptError{script::errornumber::userCancelled, "User canceled.", {}, ""}, ""};
+    constexpr int number = script::errornumber::userCancelled;
+    return {script::RunEnd::cancelled, script::ScriptError{number, script::standardMessage(number), {}}, ""};
 }
 
 /// So long the programs that are typed into are left alone behind a run.

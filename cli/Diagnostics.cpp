@@ -20,9 +20,9 @@ std::string diagnostics(const std::string& source, const script::ScriptError* er
                         const std::vector<script::ScriptWarning>& warnings) {
     std::string objects;
     if (error != nullptr) {
-        objects = begun("error", source, error->location, error->message) +
+        objects = begun("error", source, error->location, error->message.text()) +
                   ",\"number\":" + std::to_string(error->number) +
-                  ",\"hint\":" + script::jsonText(error->hint) + "}";
+                  ",\"hint\":" + script::jsonText(error->hint.text()) + "}";
     }
     for (const script::ScriptWarning& warning : warnings) {
         if (!objects.empty()) objects += ",\n";

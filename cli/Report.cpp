@@ -62,7 +62,7 @@ std::string indentation(std::string_view line, std::uint32_t characters) {
 
 void Report::tell(const char* kind, const script::ScriptError& error) const {
     std::cerr << harmlessText(m_file) << ":" << error.location.line << ":" << error.location.column << ": "
-              << kind << " error: " << harmlessText(error.message) << " (" << error.number << ")\n";
+              << kind << " error: " << harmlessText(error.message.text()) << " (" << error.number << ")\n";
     const std::string_view line = script::lineOf(m_source, error.location.line);
     if (!line.empty() && line.size() <= widestLine) {
         std::cerr << harmlessText(line) << "\n" << indentation(line, error.location.column - 1) << "^\n";

@@ -34,10 +34,9 @@ Result<std::string> bytesOfFile(const std::string& file) {
     const auto opened = openRegularFile(file);
     if (opened) return bytesOf(opened.value().number());
     const bool isOfWrongKind = !opened.error().hint.empty();
-    const std::string& message = opened.error().message;
-    return Error{
-        isOfWrongKind ? sentence("ScriptTool", "%1; standard input is \"-\"").arg(message).text() : message,
-        ""};
+    const Sentence& message = opened.error().message;
+    return Error{isOfWrongKind ? sentence("ScriptTool", "%1; standard input is \"-\"").arg(message) : message,
+                 ""};
 }
 
 }  // namespace

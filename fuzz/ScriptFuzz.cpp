@@ -67,7 +67,7 @@ class BusyDesktop : public script::SilentDesktop {
 
 /// Every error has a number, words that can be shown, and a place.
 void check(const script::ScriptError& error) {
-    if (error.number == 0 || error.message.empty() || invalidUtf8(error.message)) std::abort();
+    if (error.number == 0 || error.message.empty() || invalidUtf8(error.message.text())) std::abort();
     if (error.location.line == 0 || error.location.column == 0) std::abort();
 }
 

@@ -2653,6 +2653,312 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
 </context>
 <context>
+    <name>ScriptErrors</name>
+    <message>
+        <source>Can’t declare %1 as both a local and global variable.</source>
+        <translation>لا يمكن التصريح عن ⁨%1⁩ متغيرا محليا وعاما معا.</translation>
+    </message>
+    <message>
+        <source>list of button names</source>
+        <translation>قائمة أسماء أزرار</translation>
+    </message>
+    <message>
+        <source>list of choices</source>
+        <translation>قائمة خيارات</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for %1.</source>
+        <translation>ينقص معامل في ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>modifier</source>
+        <translation>مفتاح مغيِّر</translation>
+    </message>
+    <message>
+        <source>the power key is never pressed by a script.</source>
+        <translation>لا يضغط السكربت مفتاح الطاقة أبدا.</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t match the parameters %2 for %3.</source>
+        <translation>القيم ⁨%1⁩ لا توافق المعاملات ⁨%2⁩ للمعالج ⁨%3⁩.</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t understand the “%2” message.</source>
+        <translation>لا يفهم ⁨%1⁩ الرسالة «⁨%2⁩».</translation>
+    </message>
+    <message>
+        <source>The step of a repeat loop can’t be 0.</source>
+        <translation>لا يمكن أن تكون خطوة حلقة «repeat» صفرا.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Two sentences: what is wrong, and what to do about it.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>The variable %1 is not defined.</source>
+        <translation>المتغير ⁨%1⁩ غير معرَّف.</translation>
+    </message>
+    <message>
+        <source>unknown token</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>محرف غير معروف</translation>
+    </message>
+    <message>
+        <source>unknown token %1</source>
+        <translation>المحرف غير المعروف ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>end of script</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>نهاية السكربت</translation>
+    </message>
+    <message>
+        <source>end of line</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>نهاية السطر</translation>
+    </message>
+    <message>
+        <source>variable name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>اسم متغير</translation>
+    </message>
+    <message>
+        <source>Raw codes («…») are not supported.</source>
+        <translation>الرموز الخام («…») غير مدعومة.</translation>
+    </message>
+    <message>
+        <source>Expected end of line after “¬”.</source>
+        <translation>المتوقع نهاية السطر بعد «¬».</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>عدد</translation>
+    </message>
+    <message>
+        <source>unknown token %1 (text stands between straight quotes)</source>
+        <translation>المحرف غير المعروف ⁨%1⁩ (يوضع النص بين علامتي اقتباس مستقيمتين)</translation>
+    </message>
+    <message>
+        <source>identifier</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>معرِّف</translation>
+    </message>
+    <message>
+        <source>Out of memory.</source>
+        <translation>الذاكرة غير كافية.</translation>
+    </message>
+    <message>
+        <source>User canceled.</source>
+        <translation>ألغاه المستخدم.</translation>
+    </message>
+    <message>
+        <source>Application isn’t running.</source>
+        <translation>التطبيق لا يعمل.</translation>
+    </message>
+    <message>
+        <source>Connection is invalid.</source>
+        <translation>الاتصال غير صالح.</translation>
+    </message>
+    <message>
+        <source>Can’t make some data into the expected type.</source>
+        <translation>لا يمكن تحويل بعض البيانات إلى النوع المتوقع.</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for a command.</source>
+        <translation>ينقص معامل في أحد الأوامر.</translation>
+    </message>
+    <message>
+        <source>Some data was of the wrong type.</source>
+        <translation>بعض البيانات من نوع خاطئ.</translation>
+    </message>
+    <message>
+        <source>Some parameter was invalid.</source>
+        <translation>أحد المعاملات غير صالح.</translation>
+    </message>
+    <message>
+        <source>A message was not understood.</source>
+        <translation>رسالة غير مفهومة.</translation>
+    </message>
+    <message>
+        <source>AppleEvent timed out.</source>
+        <translation>انتهت مهلة AppleEvent.</translation>
+    </message>
+    <message>
+        <source>Some required parameter was missing.</source>
+        <translation>ينقص معامل مطلوب.</translation>
+    </message>
+    <message>
+        <source>The handler is not defined.</source>
+        <translation>المعالج غير معرَّف.</translation>
+    </message>
+    <message>
+        <source>Can’t get the element. Invalid index.</source>
+        <translation>لا يمكن الحصول على العنصر. فهرس غير صالح.</translation>
+    </message>
+    <message>
+        <source>Some parameters don’t match.</source>
+        <translation>بعض المعاملات غير متوافقة.</translation>
+    </message>
+    <message>
+        <source>Can’t get the object.</source>
+        <translation>لا يمكن الحصول على الكائن.</translation>
+    </message>
+    <message>
+        <source>Not authorized to send Apple events.</source>
+        <translation>لا يُسمح بإرسال أحداث Apple.</translation>
+    </message>
+    <message>
+        <source>An error has occurred.</source>
+        <translation>حدث خطأ.</translation>
+    </message>
+    <message>
+        <source>Can’t divide by zero.</source>
+        <translation>لا يمكن القسمة على صفر.</translation>
+    </message>
+    <message>
+        <source>The result of a numeric operation was too large.</source>
+        <translation>نتيجة عملية حسابية أكبر مما يُسمح به.</translation>
+    </message>
+    <message>
+        <source>Stack overflow.</source>
+        <translation>تجاوز سعة المكدس.</translation>
+    </message>
+    <message>
+        <source>A variable is not defined.</source>
+        <translation>متغير غير معرَّف.</translation>
+    </message>
+    <message>
+        <source>No result was returned for some argument of this expression.</source>
+        <translation>لم ترجع أي نتيجة لأحد معاملات هذا التعبير.</translation>
+    </message>
+    <message>
+        <source>AppleEvent handler failed.</source>
+        <translation>فشل معالج AppleEvent.</translation>
+    </message>
+    <message>
+        <source>Can’t set the object.</source>
+        <translation>لا يمكن تعيين الكائن.</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>%1 is a word of the script language.</extracomment>
+        <translation>«⁨%1⁩»</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>⁧%1⁩ أو ⁧%2⁩</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>Expected %1 but found %2.</source>
+        <extracomment>%1 and %2 are words of the script language in quotes, or &quot;expression&quot;, &quot;end of line&quot; and others below.</extracomment>
+        <translation>المتوقع ⁨%1⁩، والموجود ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>The %1 parameter is specified more than once.</source>
+        <translation>المعامل ⁨%1⁩ مذكور أكثر من مرة.</translation>
+    </message>
+    <message>
+        <source>The %1 property is specified more than once.</source>
+        <translation>الخاصية ⁨%1⁩ مذكورة أكثر من مرة.</translation>
+    </message>
+    <message>
+        <source>The %1 handler is specified more than once.</source>
+        <translation>المعالج ⁨%1⁩ مذكور أكثر من مرة.</translation>
+    </message>
+    <message>
+        <source>%1 got an error: %2</source>
+        <translation>واجه ⁨%1⁩ خطأ: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>An error of type %1 has occurred.</source>
+        <translation>حدث خطأ من النوع ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Can’t both consider and ignore %1.</source>
+        <translation>لا يمكن مراعاة ⁨%1⁩ وتجاهله معا.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 parameters but found more.</source>
+        <translation>الحد الأقصى للمعاملات ⁨%1⁩، والموجود أكثر.</translation>
+    </message>
+    <message>
+        <source>expression</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>تعبير</translation>
+    </message>
+    <message>
+        <source>class name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>اسم صنف</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro can press keys and nothing else.</source>
+        <translation>الأمر «⁨%1⁩» مرفوض: لا يستطيع الماكرو إلا ضغط المفاتيح.</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro is one script.</source>
+        <translation>الأمر «⁨%1⁩» مرفوض: الماكرو سكربت واحد.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 items in a list but found more.</source>
+        <translation>الحد الأقصى لعناصر القائمة ⁨%1⁩، والموجود أكثر.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 properties in a record but found more.</source>
+        <translation>الحد الأقصى لخصائص السجل ⁨%1⁩، والموجود أكثر.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 levels of nesting but found more.</source>
+        <translation>الحد الأقصى لمستويات التداخل ⁨%1⁩، والموجود أكثر.</translation>
+    </message>
+    <message>
+        <source>Tell statements are nested too deeply.</source>
+        <translation>عبارات «tell» متداخلة بعمق زائد.</translation>
+    </message>
+    <message>
+        <source>Expected at most 16 MiB of script but found more.</source>
+        <translation>الحد الأقصى لحجم السكربت 16 ميبي بايت، والموجود أكثر.</translation>
+    </message>
+    <message>
+        <source>Expected text in UTF-8 but found another byte.</source>
+        <translation>المتوقع نص بترميز UTF-8، والموجود بايت آخر.</translation>
+    </message>
+    <message>
+        <source>Exit statement was not in a repeat loop.</source>
+        <translation>عبارة «exit» ليست داخل حلقة «repeat».</translation>
+    </message>
+    <message>
+        <source>Can’t divide %1 by zero.</source>
+        <translation>لا يمكن قسمة ⁨%1⁩ على صفر.</translation>
+    </message>
+    <message>
+        <source>A list holds at most %1 items.</source>
+        <translation>الحد الأقصى لعناصر القائمة ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Can’t get contents of a variable that is not set.</source>
+        <translation>لا يمكن الحصول على محتوى متغير لم تُعيَّن قيمته.</translation>
+    </message>
+    <message>
+        <source>Can’t make %1 into type %2.</source>
+        <translation>لا يمكن تحويل ⁨%1⁩ إلى النوع ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>Can’t get %1.</source>
+        <translation>لا يمكن الحصول على ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Can’t set %1 to %2.</source>
+        <translation>لا يمكن تعيين ⁨%1⁩ إلى ⁨%2⁩.</translation>
+    </message>
+</context>
+<context>
     <name>ScriptNotices</name>
     <message>
         <source>The macro was not played to its end</source>
@@ -2762,6 +3068,10 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
     <message>
         <source>Standard output cannot be written.</source>
         <translation>تتعذر الكتابة في الخرج القياسي.</translation>
+    </message>
+    <message>
+        <source>the output cannot be written</source>
+        <translation>لا يمكن كتابة الخرج</translation>
     </message>
 </context>
 <context>
@@ -3530,6 +3840,10 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
     <message>
         <source>Start it first.</source>
         <translation>ابدأه أولا.</translation>
+    </message>
+    <message>
+        <source>The window is not on the screen.</source>
+        <translation>النافذة ليست على الشاشة.</translation>
     </message>
 </context>
 </TS>

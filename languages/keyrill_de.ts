@@ -2646,6 +2646,312 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
 </context>
 <context>
+    <name>ScriptErrors</name>
+    <message>
+        <source>Can’t declare %1 as both a local and global variable.</source>
+        <translation>%1 kann nicht zugleich als lokale und globale Variable deklariert werden.</translation>
+    </message>
+    <message>
+        <source>list of button names</source>
+        <translation>Liste von Knopfnamen</translation>
+    </message>
+    <message>
+        <source>list of choices</source>
+        <translation>Liste von Auswahlmöglichkeiten</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for %1.</source>
+        <translation>Für %1 fehlt ein Parameter.</translation>
+    </message>
+    <message>
+        <source>modifier</source>
+        <translation>Sondertaste</translation>
+    </message>
+    <message>
+        <source>the power key is never pressed by a script.</source>
+        <translation>Die Ein-/Aus-Taste wird nie von einem Skript gedrückt.</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t match the parameters %2 for %3.</source>
+        <translation>%1 passt nicht zu den Parametern %2 von %3.</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t understand the “%2” message.</source>
+        <translation>%1 versteht die Nachricht „%2“ nicht.</translation>
+    </message>
+    <message>
+        <source>The step of a repeat loop can’t be 0.</source>
+        <translation>Die Schrittweite einer „repeat“-Schleife kann nicht 0 sein.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Two sentences: what is wrong, and what to do about it.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>The variable %1 is not defined.</source>
+        <translation>Die Variable %1 ist nicht definiert.</translation>
+    </message>
+    <message>
+        <source>unknown token</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>ein unbekanntes Zeichen</translation>
+    </message>
+    <message>
+        <source>unknown token %1</source>
+        <translation>das unbekannte Zeichen %1</translation>
+    </message>
+    <message>
+        <source>end of script</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>das Ende des Skripts</translation>
+    </message>
+    <message>
+        <source>end of line</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>das Zeilenende</translation>
+    </message>
+    <message>
+        <source>variable name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>ein Variablenname</translation>
+    </message>
+    <message>
+        <source>Raw codes («…») are not supported.</source>
+        <translation>Rohcodes («…») werden nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>Expected end of line after “¬”.</source>
+        <translation>Nach „¬“ wurde das Zeilenende erwartet.</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>unknown token %1 (text stands between straight quotes)</source>
+        <translation>das unbekannte Zeichen %1 (Text steht zwischen geraden Anführungszeichen)</translation>
+    </message>
+    <message>
+        <source>identifier</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>ein Bezeichner</translation>
+    </message>
+    <message>
+        <source>Out of memory.</source>
+        <translation>Der Speicher reicht nicht aus.</translation>
+    </message>
+    <message>
+        <source>User canceled.</source>
+        <translation>Vom Benutzer abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Application isn’t running.</source>
+        <translation>Die Anwendung läuft nicht.</translation>
+    </message>
+    <message>
+        <source>Connection is invalid.</source>
+        <translation>Die Verbindung ist ungültig.</translation>
+    </message>
+    <message>
+        <source>Can’t make some data into the expected type.</source>
+        <translation>Einige Daten können nicht in den erwarteten Typ umgewandelt werden.</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for a command.</source>
+        <translation>Für einen Befehl fehlt ein Parameter.</translation>
+    </message>
+    <message>
+        <source>Some data was of the wrong type.</source>
+        <translation>Einige Daten hatten den falschen Typ.</translation>
+    </message>
+    <message>
+        <source>Some parameter was invalid.</source>
+        <translation>Ein Parameter war ungültig.</translation>
+    </message>
+    <message>
+        <source>A message was not understood.</source>
+        <translation>Eine Nachricht wurde nicht verstanden.</translation>
+    </message>
+    <message>
+        <source>AppleEvent timed out.</source>
+        <translation>Zeitüberschreitung bei einem AppleEvent.</translation>
+    </message>
+    <message>
+        <source>Some required parameter was missing.</source>
+        <translation>Ein erforderlicher Parameter fehlte.</translation>
+    </message>
+    <message>
+        <source>The handler is not defined.</source>
+        <translation>Der Handler ist nicht definiert.</translation>
+    </message>
+    <message>
+        <source>Can’t get the element. Invalid index.</source>
+        <translation>Das Element kann nicht gelesen werden. Ungültiger Index.</translation>
+    </message>
+    <message>
+        <source>Some parameters don’t match.</source>
+        <translation>Einige Parameter passen nicht.</translation>
+    </message>
+    <message>
+        <source>Can’t get the object.</source>
+        <translation>Das Objekt kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Not authorized to send Apple events.</source>
+        <translation>Das Senden von Apple-Events ist nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>An error has occurred.</source>
+        <translation>Ein Fehler ist aufgetreten.</translation>
+    </message>
+    <message>
+        <source>Can’t divide by zero.</source>
+        <translation>Durch null kann nicht geteilt werden.</translation>
+    </message>
+    <message>
+        <source>The result of a numeric operation was too large.</source>
+        <translation>Das Ergebnis einer Berechnung war zu groß.</translation>
+    </message>
+    <message>
+        <source>Stack overflow.</source>
+        <translation>Stapelüberlauf.</translation>
+    </message>
+    <message>
+        <source>A variable is not defined.</source>
+        <translation>Eine Variable ist nicht definiert.</translation>
+    </message>
+    <message>
+        <source>No result was returned for some argument of this expression.</source>
+        <translation>Für ein Argument dieses Ausdrucks wurde kein Ergebnis geliefert.</translation>
+    </message>
+    <message>
+        <source>AppleEvent handler failed.</source>
+        <translation>Der AppleEvent-Handler ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Can’t set the object.</source>
+        <translation>Das Objekt kann nicht gesetzt werden.</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>%1 is a word of the script language.</extracomment>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Expected %1 but found %2.</source>
+        <extracomment>%1 and %2 are words of the script language in quotes, or &quot;expression&quot;, &quot;end of line&quot; and others below.</extracomment>
+        <translation>Erwartet wurde %1, gefunden wurde %2.</translation>
+    </message>
+    <message>
+        <source>The %1 parameter is specified more than once.</source>
+        <translation>Der Parameter %1 ist mehr als einmal angegeben.</translation>
+    </message>
+    <message>
+        <source>The %1 property is specified more than once.</source>
+        <translation>Die Eigenschaft %1 ist mehr als einmal angegeben.</translation>
+    </message>
+    <message>
+        <source>The %1 handler is specified more than once.</source>
+        <translation>Der Handler %1 ist mehr als einmal angegeben.</translation>
+    </message>
+    <message>
+        <source>%1 got an error: %2</source>
+        <translation>%1 hat einen Fehler erhalten: %2</translation>
+    </message>
+    <message>
+        <source>An error of type %1 has occurred.</source>
+        <translation>Ein Fehler vom Typ %1 ist aufgetreten.</translation>
+    </message>
+    <message>
+        <source>Can’t both consider and ignore %1.</source>
+        <translation>%1 kann nicht zugleich beachtet und ignoriert werden.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 parameters but found more.</source>
+        <translation>Erwartet wurden höchstens %1 Parameter, gefunden wurden mehr.</translation>
+    </message>
+    <message>
+        <source>expression</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>ein Ausdruck</translation>
+    </message>
+    <message>
+        <source>class name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>ein Klassenname</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro can press keys and nothing else.</source>
+        <translation>„%1“ wird abgelehnt: Ein Makro kann Tasten drücken und sonst nichts.</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro is one script.</source>
+        <translation>„%1“ wird abgelehnt: Ein Makro ist ein einziges Skript.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 items in a list but found more.</source>
+        <translation>Erwartet wurden höchstens %1 Elemente in einer Liste, gefunden wurden mehr.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 properties in a record but found more.</source>
+        <translation>Erwartet wurden höchstens %1 Eigenschaften in einem Datensatz, gefunden wurden mehr.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 levels of nesting but found more.</source>
+        <translation>Erwartet wurden höchstens %1 Verschachtelungsebenen, gefunden wurden mehr.</translation>
+    </message>
+    <message>
+        <source>Tell statements are nested too deeply.</source>
+        <translation>„tell“-Anweisungen sind zu tief verschachtelt.</translation>
+    </message>
+    <message>
+        <source>Expected at most 16 MiB of script but found more.</source>
+        <translation>Ein Skript kann höchstens 16 MiB groß sein, dieses ist größer.</translation>
+    </message>
+    <message>
+        <source>Expected text in UTF-8 but found another byte.</source>
+        <translation>Erwartet wurde Text in UTF-8, gefunden wurde ein anderes Byte.</translation>
+    </message>
+    <message>
+        <source>Exit statement was not in a repeat loop.</source>
+        <translation>Eine „exit“-Anweisung stand nicht in einer „repeat“-Schleife.</translation>
+    </message>
+    <message>
+        <source>Can’t divide %1 by zero.</source>
+        <translation>%1 kann nicht durch null geteilt werden.</translation>
+    </message>
+    <message>
+        <source>A list holds at most %1 items.</source>
+        <translation>Eine Liste enthält höchstens %1 Elemente.</translation>
+    </message>
+    <message>
+        <source>Can’t get contents of a variable that is not set.</source>
+        <translation>Der Inhalt einer nicht gesetzten Variablen kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Can’t make %1 into type %2.</source>
+        <translation>%1 kann nicht in den Typ %2 umgewandelt werden.</translation>
+    </message>
+    <message>
+        <source>Can’t get %1.</source>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Can’t set %1 to %2.</source>
+        <translation>%1 kann nicht auf %2 gesetzt werden.</translation>
+    </message>
+</context>
+<context>
     <name>ScriptNotices</name>
     <message>
         <source>The macro was not played to its end</source>
@@ -2755,6 +3061,10 @@ DATEI - ist die Standardeingabe; -e ZEILE, ein- oder mehrmals, gibt das Skript s
     <message>
         <source>Standard output cannot be written.</source>
         <translation>Die Standardausgabe kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>the output cannot be written</source>
+        <translation>die Ausgabe kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>
@@ -3523,6 +3833,10 @@ DATEI - ist die Standardeingabe; -e ZEILE, ein- oder mehrmals, gibt das Skript s
     <message>
         <source>Start it first.</source>
         <translation>Starten Sie das Programm zuerst.</translation>
+    </message>
+    <message>
+        <source>The window is not on the screen.</source>
+        <translation>Das Fenster ist nicht auf dem Bildschirm.</translation>
     </message>
 </context>
 </TS>

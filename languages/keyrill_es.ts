@@ -2646,6 +2646,312 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
 </context>
 <context>
+    <name>ScriptErrors</name>
+    <message>
+        <source>Can’t declare %1 as both a local and global variable.</source>
+        <translation>No se puede declarar %1 como variable local y global a la vez.</translation>
+    </message>
+    <message>
+        <source>list of button names</source>
+        <translation>lista de nombres de botones</translation>
+    </message>
+    <message>
+        <source>list of choices</source>
+        <translation>lista de opciones</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for %1.</source>
+        <translation>Falta algún parámetro de %1.</translation>
+    </message>
+    <message>
+        <source>modifier</source>
+        <translation>tecla modificadora</translation>
+    </message>
+    <message>
+        <source>the power key is never pressed by a script.</source>
+        <translation>un script no pulsa nunca la tecla de encendido.</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t match the parameters %2 for %3.</source>
+        <translation>%1 no corresponde a los parámetros %2 de %3.</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t understand the “%2” message.</source>
+        <translation>%1 no entiende el mensaje «%2».</translation>
+    </message>
+    <message>
+        <source>The step of a repeat loop can’t be 0.</source>
+        <translation>El paso de un bucle «repeat» no puede ser 0.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Two sentences: what is wrong, and what to do about it.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>The variable %1 is not defined.</source>
+        <translation>La variable %1 no está definida.</translation>
+    </message>
+    <message>
+        <source>unknown token</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>un carácter desconocido</translation>
+    </message>
+    <message>
+        <source>unknown token %1</source>
+        <translation>el carácter desconocido %1</translation>
+    </message>
+    <message>
+        <source>end of script</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>el fin del script</translation>
+    </message>
+    <message>
+        <source>end of line</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>el fin de la línea</translation>
+    </message>
+    <message>
+        <source>variable name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>un nombre de variable</translation>
+    </message>
+    <message>
+        <source>Raw codes («…») are not supported.</source>
+        <translation>No se admiten códigos sin procesar («…»).</translation>
+    </message>
+    <message>
+        <source>Expected end of line after “¬”.</source>
+        <translation>Se esperaba el fin de la línea detrás de «¬».</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>un número</translation>
+    </message>
+    <message>
+        <source>unknown token %1 (text stands between straight quotes)</source>
+        <translation>el carácter desconocido %1 (el texto va entre comillas rectas)</translation>
+    </message>
+    <message>
+        <source>identifier</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>un identificador</translation>
+    </message>
+    <message>
+        <source>Out of memory.</source>
+        <translation>No hay memoria suficiente.</translation>
+    </message>
+    <message>
+        <source>User canceled.</source>
+        <translation>Cancelado por el usuario.</translation>
+    </message>
+    <message>
+        <source>Application isn’t running.</source>
+        <translation>La aplicación no se está ejecutando.</translation>
+    </message>
+    <message>
+        <source>Connection is invalid.</source>
+        <translation>La conexión no es válida.</translation>
+    </message>
+    <message>
+        <source>Can’t make some data into the expected type.</source>
+        <translation>No se pueden convertir algunos datos en el tipo esperado.</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for a command.</source>
+        <translation>Falta algún parámetro de una orden.</translation>
+    </message>
+    <message>
+        <source>Some data was of the wrong type.</source>
+        <translation>Algunos datos eran de un tipo incorrecto.</translation>
+    </message>
+    <message>
+        <source>Some parameter was invalid.</source>
+        <translation>Algún parámetro no era válido.</translation>
+    </message>
+    <message>
+        <source>A message was not understood.</source>
+        <translation>No se entendió un mensaje.</translation>
+    </message>
+    <message>
+        <source>AppleEvent timed out.</source>
+        <translation>Se agotó el tiempo de un AppleEvent.</translation>
+    </message>
+    <message>
+        <source>Some required parameter was missing.</source>
+        <translation>Faltaba algún parámetro obligatorio.</translation>
+    </message>
+    <message>
+        <source>The handler is not defined.</source>
+        <translation>El manejador no está definido.</translation>
+    </message>
+    <message>
+        <source>Can’t get the element. Invalid index.</source>
+        <translation>No se puede obtener el elemento. Índice no válido.</translation>
+    </message>
+    <message>
+        <source>Some parameters don’t match.</source>
+        <translation>Algunos parámetros no corresponden.</translation>
+    </message>
+    <message>
+        <source>Can’t get the object.</source>
+        <translation>No se puede obtener el objeto.</translation>
+    </message>
+    <message>
+        <source>Not authorized to send Apple events.</source>
+        <translation>No se permite enviar eventos Apple.</translation>
+    </message>
+    <message>
+        <source>An error has occurred.</source>
+        <translation>Se ha producido un error.</translation>
+    </message>
+    <message>
+        <source>Can’t divide by zero.</source>
+        <translation>No se puede dividir entre cero.</translation>
+    </message>
+    <message>
+        <source>The result of a numeric operation was too large.</source>
+        <translation>El resultado de una operación numérica era demasiado grande.</translation>
+    </message>
+    <message>
+        <source>Stack overflow.</source>
+        <translation>Desbordamiento de la pila.</translation>
+    </message>
+    <message>
+        <source>A variable is not defined.</source>
+        <translation>Una variable no está definida.</translation>
+    </message>
+    <message>
+        <source>No result was returned for some argument of this expression.</source>
+        <translation>No se devolvió ningún resultado para algún argumento de esta expresión.</translation>
+    </message>
+    <message>
+        <source>AppleEvent handler failed.</source>
+        <translation>Error en el manejador de AppleEvent.</translation>
+    </message>
+    <message>
+        <source>Can’t set the object.</source>
+        <translation>No se puede cambiar el objeto.</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>%1 is a word of the script language.</extracomment>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 o %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Expected %1 but found %2.</source>
+        <extracomment>%1 and %2 are words of the script language in quotes, or &quot;expression&quot;, &quot;end of line&quot; and others below.</extracomment>
+        <translation>Se esperaba %1, pero se encontró %2.</translation>
+    </message>
+    <message>
+        <source>The %1 parameter is specified more than once.</source>
+        <translation>El parámetro %1 se ha indicado más de una vez.</translation>
+    </message>
+    <message>
+        <source>The %1 property is specified more than once.</source>
+        <translation>La propiedad %1 se ha indicado más de una vez.</translation>
+    </message>
+    <message>
+        <source>The %1 handler is specified more than once.</source>
+        <translation>El manejador %1 se ha indicado más de una vez.</translation>
+    </message>
+    <message>
+        <source>%1 got an error: %2</source>
+        <translation>%1 ha detectado un error: %2</translation>
+    </message>
+    <message>
+        <source>An error of type %1 has occurred.</source>
+        <translation>Se ha producido un error de tipo %1.</translation>
+    </message>
+    <message>
+        <source>Can’t both consider and ignore %1.</source>
+        <translation>No se puede considerar e ignorar %1 a la vez.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 parameters but found more.</source>
+        <translation>Se esperaban como máximo %1 parámetros, pero se encontraron más.</translation>
+    </message>
+    <message>
+        <source>expression</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>una expresión</translation>
+    </message>
+    <message>
+        <source>class name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>un nombre de clase</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro can press keys and nothing else.</source>
+        <translation>Se rechaza «%1»: una macro solo puede pulsar teclas.</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro is one script.</source>
+        <translation>Se rechaza «%1»: una macro es un único script.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 items in a list but found more.</source>
+        <translation>Se esperaban como máximo %1 elementos en una lista, pero se encontraron más.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 properties in a record but found more.</source>
+        <translation>Se esperaban como máximo %1 propiedades en un registro, pero se encontraron más.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 levels of nesting but found more.</source>
+        <translation>Se esperaban como máximo %1 niveles de anidamiento, pero se encontraron más.</translation>
+    </message>
+    <message>
+        <source>Tell statements are nested too deeply.</source>
+        <translation>Las instrucciones «tell» están anidadas a demasiada profundidad.</translation>
+    </message>
+    <message>
+        <source>Expected at most 16 MiB of script but found more.</source>
+        <translation>Se esperaban como máximo 16 MiB de script, pero hay más.</translation>
+    </message>
+    <message>
+        <source>Expected text in UTF-8 but found another byte.</source>
+        <translation>Se esperaba texto en UTF-8, pero se encontró otro byte.</translation>
+    </message>
+    <message>
+        <source>Exit statement was not in a repeat loop.</source>
+        <translation>Una instrucción «exit» no estaba dentro de un bucle «repeat».</translation>
+    </message>
+    <message>
+        <source>Can’t divide %1 by zero.</source>
+        <translation>No se puede dividir %1 entre cero.</translation>
+    </message>
+    <message>
+        <source>A list holds at most %1 items.</source>
+        <translation>Una lista contiene como máximo %1 elementos.</translation>
+    </message>
+    <message>
+        <source>Can’t get contents of a variable that is not set.</source>
+        <translation>No se puede obtener el contenido de una variable sin valor.</translation>
+    </message>
+    <message>
+        <source>Can’t make %1 into type %2.</source>
+        <translation>No se puede convertir %1 en el tipo %2.</translation>
+    </message>
+    <message>
+        <source>Can’t get %1.</source>
+        <translation>No se puede obtener %1.</translation>
+    </message>
+    <message>
+        <source>Can’t set %1 to %2.</source>
+        <translation>No se puede asignar a %1 el valor %2.</translation>
+    </message>
+</context>
+<context>
     <name>ScriptNotices</name>
     <message>
         <source>The macro was not played to its end</source>
@@ -2755,6 +3061,10 @@ ARCHIVO - es la entrada estándar; -e LÍNEA, una o más veces, da el propio scr
     <message>
         <source>Standard output cannot be written.</source>
         <translation>No se puede escribir en la salida estándar.</translation>
+    </message>
+    <message>
+        <source>the output cannot be written</source>
+        <translation>no se puede escribir la salida</translation>
     </message>
 </context>
 <context>
@@ -3523,6 +3833,10 @@ ARCHIVO - es la entrada estándar; -e LÍNEA, una o más veces, da el propio scr
     <message>
         <source>Start it first.</source>
         <translation>Inicie primero el programa.</translation>
+    </message>
+    <message>
+        <source>The window is not on the screen.</source>
+        <translation>La ventana no está en la pantalla.</translation>
     </message>
 </context>
 </TS>

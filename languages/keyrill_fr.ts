@@ -2646,6 +2646,312 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
 </context>
 <context>
+    <name>ScriptErrors</name>
+    <message>
+        <source>Can’t declare %1 as both a local and global variable.</source>
+        <translation>Impossible de déclarer %1 à la fois comme variable locale et globale.</translation>
+    </message>
+    <message>
+        <source>list of button names</source>
+        <translation>liste de noms de boutons</translation>
+    </message>
+    <message>
+        <source>list of choices</source>
+        <translation>liste de choix</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for %1.</source>
+        <translation>Il manque un paramètre à %1.</translation>
+    </message>
+    <message>
+        <source>modifier</source>
+        <translation>touche de modification</translation>
+    </message>
+    <message>
+        <source>the power key is never pressed by a script.</source>
+        <translation>un script n’appuie jamais sur la touche d’alimentation.</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t match the parameters %2 for %3.</source>
+        <translation>%1 ne correspond pas aux paramètres %2 de %3.</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t understand the “%2” message.</source>
+        <translation>%1 ne comprend pas le message «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The step of a repeat loop can’t be 0.</source>
+        <translation>Le pas d’une boucle «&#xa0;repeat&#xa0;» ne peut pas être 0.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Two sentences: what is wrong, and what to do about it.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>The variable %1 is not defined.</source>
+        <translation>La variable %1 n’est pas définie.</translation>
+    </message>
+    <message>
+        <source>unknown token</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>un caractère inconnu</translation>
+    </message>
+    <message>
+        <source>unknown token %1</source>
+        <translation>le caractère inconnu %1</translation>
+    </message>
+    <message>
+        <source>end of script</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>la fin du script</translation>
+    </message>
+    <message>
+        <source>end of line</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>la fin de la ligne</translation>
+    </message>
+    <message>
+        <source>variable name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>un nom de variable</translation>
+    </message>
+    <message>
+        <source>Raw codes («…») are not supported.</source>
+        <translation>Les codes bruts («…») ne sont pas pris en charge.</translation>
+    </message>
+    <message>
+        <source>Expected end of line after “¬”.</source>
+        <translation>La fin de la ligne est attendue après «&#xa0;¬&#xa0;».</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>un nombre</translation>
+    </message>
+    <message>
+        <source>unknown token %1 (text stands between straight quotes)</source>
+        <translation>le caractère inconnu %1 (le texte s’écrit entre guillemets droits)</translation>
+    </message>
+    <message>
+        <source>identifier</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>un identificateur</translation>
+    </message>
+    <message>
+        <source>Out of memory.</source>
+        <translation>Mémoire insuffisante.</translation>
+    </message>
+    <message>
+        <source>User canceled.</source>
+        <translation>Annulé par l’utilisateur.</translation>
+    </message>
+    <message>
+        <source>Application isn’t running.</source>
+        <translation>L’application n’est pas ouverte.</translation>
+    </message>
+    <message>
+        <source>Connection is invalid.</source>
+        <translation>La connexion n’est pas valide.</translation>
+    </message>
+    <message>
+        <source>Can’t make some data into the expected type.</source>
+        <translation>Impossible de convertir des données dans le type attendu.</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for a command.</source>
+        <translation>Il manque un paramètre à une commande.</translation>
+    </message>
+    <message>
+        <source>Some data was of the wrong type.</source>
+        <translation>Des données étaient d’un type incorrect.</translation>
+    </message>
+    <message>
+        <source>Some parameter was invalid.</source>
+        <translation>Un paramètre n’était pas valide.</translation>
+    </message>
+    <message>
+        <source>A message was not understood.</source>
+        <translation>Un message n’a pas été compris.</translation>
+    </message>
+    <message>
+        <source>AppleEvent timed out.</source>
+        <translation>Délai dépassé pour un AppleEvent.</translation>
+    </message>
+    <message>
+        <source>Some required parameter was missing.</source>
+        <translation>Un paramètre obligatoire manquait.</translation>
+    </message>
+    <message>
+        <source>The handler is not defined.</source>
+        <translation>Le gestionnaire n’est pas défini.</translation>
+    </message>
+    <message>
+        <source>Can’t get the element. Invalid index.</source>
+        <translation>Impossible d’obtenir l’élément. Indice non valide.</translation>
+    </message>
+    <message>
+        <source>Some parameters don’t match.</source>
+        <translation>Des paramètres ne correspondent pas.</translation>
+    </message>
+    <message>
+        <source>Can’t get the object.</source>
+        <translation>Impossible d’obtenir l’objet.</translation>
+    </message>
+    <message>
+        <source>Not authorized to send Apple events.</source>
+        <translation>L’envoi d’événements Apple n’est pas autorisé.</translation>
+    </message>
+    <message>
+        <source>An error has occurred.</source>
+        <translation>Une erreur s’est produite.</translation>
+    </message>
+    <message>
+        <source>Can’t divide by zero.</source>
+        <translation>Impossible de diviser par zéro.</translation>
+    </message>
+    <message>
+        <source>The result of a numeric operation was too large.</source>
+        <translation>Le résultat d’un calcul était trop grand.</translation>
+    </message>
+    <message>
+        <source>Stack overflow.</source>
+        <translation>Débordement de pile.</translation>
+    </message>
+    <message>
+        <source>A variable is not defined.</source>
+        <translation>Une variable n’est pas définie.</translation>
+    </message>
+    <message>
+        <source>No result was returned for some argument of this expression.</source>
+        <translation>Aucun résultat n’a été renvoyé pour un argument de cette expression.</translation>
+    </message>
+    <message>
+        <source>AppleEvent handler failed.</source>
+        <translation>Échec du gestionnaire d’AppleEvent.</translation>
+    </message>
+    <message>
+        <source>Can’t set the object.</source>
+        <translation>Impossible de modifier l’objet.</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>%1 is a word of the script language.</extracomment>
+        <translation>«&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 ou %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Expected %1 but found %2.</source>
+        <extracomment>%1 and %2 are words of the script language in quotes, or &quot;expression&quot;, &quot;end of line&quot; and others below.</extracomment>
+        <translation>Attendu&#xa0;: %1&#xa0;; trouvé&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The %1 parameter is specified more than once.</source>
+        <translation>Le paramètre %1 est indiqué plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>The %1 property is specified more than once.</source>
+        <translation>La propriété %1 est indiquée plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>The %1 handler is specified more than once.</source>
+        <translation>Le gestionnaire %1 est indiqué plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>%1 got an error: %2</source>
+        <translation>%1 a rencontré une erreur&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>An error of type %1 has occurred.</source>
+        <translation>Une erreur de type %1 s’est produite.</translation>
+    </message>
+    <message>
+        <source>Can’t both consider and ignore %1.</source>
+        <translation>Impossible de considérer et d’ignorer %1 à la fois.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 parameters but found more.</source>
+        <translation>%1 paramètres au plus sont permis, mais il y en a davantage.</translation>
+    </message>
+    <message>
+        <source>expression</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>une expression</translation>
+    </message>
+    <message>
+        <source>class name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>un nom de classe</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro can press keys and nothing else.</source>
+        <translation>«&#xa0;%1&#xa0;» est refusé&#xa0;: une macro ne peut qu’appuyer sur des touches.</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro is one script.</source>
+        <translation>«&#xa0;%1&#xa0;» est refusé&#xa0;: une macro est un seul script.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 items in a list but found more.</source>
+        <translation>%1 éléments au plus sont permis dans une liste, mais il y en a davantage.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 properties in a record but found more.</source>
+        <translation>%1 propriétés au plus sont permises dans un enregistrement, mais il y en a davantage.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 levels of nesting but found more.</source>
+        <translation>%1 niveaux d’imbrication au plus sont permis, mais il y en a davantage.</translation>
+    </message>
+    <message>
+        <source>Tell statements are nested too deeply.</source>
+        <translation>Les instructions «&#xa0;tell&#xa0;» sont imbriquées trop profondément.</translation>
+    </message>
+    <message>
+        <source>Expected at most 16 MiB of script but found more.</source>
+        <translation>Un script ne peut pas dépasser 16 Mio, mais celui-ci est plus grand.</translation>
+    </message>
+    <message>
+        <source>Expected text in UTF-8 but found another byte.</source>
+        <translation>Du texte en UTF-8 est attendu, mais un autre octet a été trouvé.</translation>
+    </message>
+    <message>
+        <source>Exit statement was not in a repeat loop.</source>
+        <translation>Une instruction «&#xa0;exit&#xa0;» n’était pas dans une boucle «&#xa0;repeat&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Can’t divide %1 by zero.</source>
+        <translation>Impossible de diviser %1 par zéro.</translation>
+    </message>
+    <message>
+        <source>A list holds at most %1 items.</source>
+        <translation>Une liste contient au plus %1 éléments.</translation>
+    </message>
+    <message>
+        <source>Can’t get contents of a variable that is not set.</source>
+        <translation>Impossible d’obtenir le contenu d’une variable qui n’est pas définie.</translation>
+    </message>
+    <message>
+        <source>Can’t make %1 into type %2.</source>
+        <translation>Impossible de convertir %1 en type %2.</translation>
+    </message>
+    <message>
+        <source>Can’t get %1.</source>
+        <translation>Impossible d’obtenir %1.</translation>
+    </message>
+    <message>
+        <source>Can’t set %1 to %2.</source>
+        <translation>Impossible de donner à %1 la valeur %2.</translation>
+    </message>
+</context>
+<context>
     <name>ScriptNotices</name>
     <message>
         <source>The macro was not played to its end</source>
@@ -2755,6 +3061,10 @@ FICHIER - est l’entrée standard&#xa0;; -e LIGNE, une ou plusieurs fois, donne
     <message>
         <source>Standard output cannot be written.</source>
         <translation>Impossible d’écrire sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>the output cannot be written</source>
+        <translation>la sortie ne peut pas être écrite</translation>
     </message>
 </context>
 <context>
@@ -3523,6 +3833,10 @@ FICHIER - est l’entrée standard&#xa0;; -e LIGNE, une ou plusieurs fois, donne
     <message>
         <source>Start it first.</source>
         <translation>Lancez d’abord le programme.</translation>
+    </message>
+    <message>
+        <source>The window is not on the screen.</source>
+        <translation>La fenêtre n’est pas à l’écran.</translation>
     </message>
 </context>
 </TS>

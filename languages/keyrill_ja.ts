@@ -2644,6 +2644,312 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>ScriptErrors</name>
+    <message>
+        <source>Can’t declare %1 as both a local and global variable.</source>
+        <translation>%1 をローカル変数とグローバル変数の両方として宣言することはできません。</translation>
+    </message>
+    <message>
+        <source>list of button names</source>
+        <translation>ボタン名のリスト</translation>
+    </message>
+    <message>
+        <source>list of choices</source>
+        <translation>選択肢のリスト</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for %1.</source>
+        <translation>%1 のパラメーターが足りません。</translation>
+    </message>
+    <message>
+        <source>modifier</source>
+        <translation>修飾キー</translation>
+    </message>
+    <message>
+        <source>the power key is never pressed by a script.</source>
+        <translation>スクリプトが電源キーを押すことはありません。</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t match the parameters %2 for %3.</source>
+        <translation>%1 は %3 のパラメーター %2 と一致しません。</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t understand the “%2” message.</source>
+        <translation>%1 はメッセージ「%2」を理解できません。</translation>
+    </message>
+    <message>
+        <source>The step of a repeat loop can’t be 0.</source>
+        <translation>「repeat」ループの増分を 0 にすることはできません。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Two sentences: what is wrong, and what to do about it.</extracomment>
+        <translation>%1%2</translation>
+    </message>
+    <message>
+        <source>The variable %1 is not defined.</source>
+        <translation>変数 %1 は定義されていません。</translation>
+    </message>
+    <message>
+        <source>unknown token</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>不明な文字</translation>
+    </message>
+    <message>
+        <source>unknown token %1</source>
+        <translation>不明な文字 %1</translation>
+    </message>
+    <message>
+        <source>end of script</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>スクリプトの終わり</translation>
+    </message>
+    <message>
+        <source>end of line</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>行末</translation>
+    </message>
+    <message>
+        <source>variable name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>変数名</translation>
+    </message>
+    <message>
+        <source>Raw codes («…») are not supported.</source>
+        <translation>生のコード («…») には対応していません。</translation>
+    </message>
+    <message>
+        <source>Expected end of line after “¬”.</source>
+        <translation>「¬」の後は行末でなければなりません。</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>数</translation>
+    </message>
+    <message>
+        <source>unknown token %1 (text stands between straight quotes)</source>
+        <translation>不明な文字 %1 (テキストはまっすぐな引用符で囲みます)</translation>
+    </message>
+    <message>
+        <source>identifier</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>識別子</translation>
+    </message>
+    <message>
+        <source>Out of memory.</source>
+        <translation>メモリーが足りません。</translation>
+    </message>
+    <message>
+        <source>User canceled.</source>
+        <translation>ユーザーによってキャンセルされました。</translation>
+    </message>
+    <message>
+        <source>Application isn’t running.</source>
+        <translation>アプリケーションが動作していません。</translation>
+    </message>
+    <message>
+        <source>Connection is invalid.</source>
+        <translation>接続が無効です。</translation>
+    </message>
+    <message>
+        <source>Can’t make some data into the expected type.</source>
+        <translation>データを必要な型に変換できません。</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for a command.</source>
+        <translation>コマンドのパラメーターが足りません。</translation>
+    </message>
+    <message>
+        <source>Some data was of the wrong type.</source>
+        <translation>データの型が正しくありません。</translation>
+    </message>
+    <message>
+        <source>Some parameter was invalid.</source>
+        <translation>無効なパラメーターがあります。</translation>
+    </message>
+    <message>
+        <source>A message was not understood.</source>
+        <translation>メッセージを理解できませんでした。</translation>
+    </message>
+    <message>
+        <source>AppleEvent timed out.</source>
+        <translation>AppleEvent がタイムアウトしました。</translation>
+    </message>
+    <message>
+        <source>Some required parameter was missing.</source>
+        <translation>必要なパラメーターがありません。</translation>
+    </message>
+    <message>
+        <source>The handler is not defined.</source>
+        <translation>ハンドラーが定義されていません。</translation>
+    </message>
+    <message>
+        <source>Can’t get the element. Invalid index.</source>
+        <translation>要素を取得できません。インデックスが無効です。</translation>
+    </message>
+    <message>
+        <source>Some parameters don’t match.</source>
+        <translation>パラメーターが一致しません。</translation>
+    </message>
+    <message>
+        <source>Can’t get the object.</source>
+        <translation>オブジェクトを取得できません。</translation>
+    </message>
+    <message>
+        <source>Not authorized to send Apple events.</source>
+        <translation>Apple イベントの送信は許可されていません。</translation>
+    </message>
+    <message>
+        <source>An error has occurred.</source>
+        <translation>エラーが起きました。</translation>
+    </message>
+    <message>
+        <source>Can’t divide by zero.</source>
+        <translation>0 で割ることはできません。</translation>
+    </message>
+    <message>
+        <source>The result of a numeric operation was too large.</source>
+        <translation>計算の結果が大きすぎます。</translation>
+    </message>
+    <message>
+        <source>Stack overflow.</source>
+        <translation>スタックがあふれました。</translation>
+    </message>
+    <message>
+        <source>A variable is not defined.</source>
+        <translation>変数が定義されていません。</translation>
+    </message>
+    <message>
+        <source>No result was returned for some argument of this expression.</source>
+        <translation>この式の引数の 1 つから結果が返されませんでした。</translation>
+    </message>
+    <message>
+        <source>AppleEvent handler failed.</source>
+        <translation>AppleEvent のハンドラーが失敗しました。</translation>
+    </message>
+    <message>
+        <source>Can’t set the object.</source>
+        <translation>オブジェクトを設定できません。</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>%1 is a word of the script language.</extracomment>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1または%2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>Expected %1 but found %2.</source>
+        <extracomment>%1 and %2 are words of the script language in quotes, or &quot;expression&quot;, &quot;end of line&quot; and others below.</extracomment>
+        <translation>%1が来るべきところに、%2があります。</translation>
+    </message>
+    <message>
+        <source>The %1 parameter is specified more than once.</source>
+        <translation>パラメーター %1 が 2 回以上指定されています。</translation>
+    </message>
+    <message>
+        <source>The %1 property is specified more than once.</source>
+        <translation>プロパティ %1 が 2 回以上指定されています。</translation>
+    </message>
+    <message>
+        <source>The %1 handler is specified more than once.</source>
+        <translation>ハンドラー %1 が 2 回以上指定されています。</translation>
+    </message>
+    <message>
+        <source>%1 got an error: %2</source>
+        <translation>%1 でエラーが起きました: %2</translation>
+    </message>
+    <message>
+        <source>An error of type %1 has occurred.</source>
+        <translation>タイプ %1 のエラーが起きました。</translation>
+    </message>
+    <message>
+        <source>Can’t both consider and ignore %1.</source>
+        <translation>%1 を考慮すると同時に無視することはできません。</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 parameters but found more.</source>
+        <translation>パラメーターは %1 個までですが、それを超えています。</translation>
+    </message>
+    <message>
+        <source>expression</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>式</translation>
+    </message>
+    <message>
+        <source>class name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>クラス名</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro can press keys and nothing else.</source>
+        <translation>「%1」は拒否されます: マクロにできるのはキーを押すことだけです。</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro is one script.</source>
+        <translation>「%1」は拒否されます: マクロは 1 つのスクリプトです。</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 items in a list but found more.</source>
+        <translation>リストの項目は %1 個までですが、それを超えています。</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 properties in a record but found more.</source>
+        <translation>レコードのプロパティは %1 個までですが、それを超えています。</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 levels of nesting but found more.</source>
+        <translation>入れ子は %1 段までですが、それを超えています。</translation>
+    </message>
+    <message>
+        <source>Tell statements are nested too deeply.</source>
+        <translation>「tell」文の入れ子が深すぎます。</translation>
+    </message>
+    <message>
+        <source>Expected at most 16 MiB of script but found more.</source>
+        <translation>スクリプトは 16 MiB までですが、それを超えています。</translation>
+    </message>
+    <message>
+        <source>Expected text in UTF-8 but found another byte.</source>
+        <translation>UTF-8 のテキストが来るべきところに、別のバイトがあります。</translation>
+    </message>
+    <message>
+        <source>Exit statement was not in a repeat loop.</source>
+        <translation>「exit」文が「repeat」ループの中にありません。</translation>
+    </message>
+    <message>
+        <source>Can’t divide %1 by zero.</source>
+        <translation>%1 を 0 で割ることはできません。</translation>
+    </message>
+    <message>
+        <source>A list holds at most %1 items.</source>
+        <translation>リストの項目は %1 個までです。</translation>
+    </message>
+    <message>
+        <source>Can’t get contents of a variable that is not set.</source>
+        <translation>設定されていない変数の内容は取得できません。</translation>
+    </message>
+    <message>
+        <source>Can’t make %1 into type %2.</source>
+        <translation>%1 を型 %2 に変換できません。</translation>
+    </message>
+    <message>
+        <source>Can’t get %1.</source>
+        <translation>%1 を取得できません。</translation>
+    </message>
+    <message>
+        <source>Can’t set %1 to %2.</source>
+        <translation>%1 を %2 に設定できません。</translation>
+    </message>
+</context>
+<context>
     <name>ScriptNotices</name>
     <message>
         <source>The macro was not played to its end</source>
@@ -2753,6 +3059,10 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
     <message>
         <source>Standard output cannot be written.</source>
         <translation>標準出力に書き込めません。</translation>
+    </message>
+    <message>
+        <source>the output cannot be written</source>
+        <translation>出力を書き込めません</translation>
     </message>
 </context>
 <context>
@@ -3521,6 +3831,10 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
     <message>
         <source>Start it first.</source>
         <translation>先に起動してください。</translation>
+    </message>
+    <message>
+        <source>The window is not on the screen.</source>
+        <translation>ウィンドウが画面上にありません。</translation>
     </message>
 </context>
 </TS>

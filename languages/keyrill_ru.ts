@@ -2648,6 +2648,312 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>ScriptErrors</name>
+    <message>
+        <source>Can’t declare %1 as both a local and global variable.</source>
+        <translation>Нельзя объявить %1 одновременно локальной и глобальной переменной.</translation>
+    </message>
+    <message>
+        <source>list of button names</source>
+        <translation>список названий кнопок</translation>
+    </message>
+    <message>
+        <source>list of choices</source>
+        <translation>список вариантов</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for %1.</source>
+        <translation>Для %1 не хватает параметра.</translation>
+    </message>
+    <message>
+        <source>modifier</source>
+        <translation>модификатор</translation>
+    </message>
+    <message>
+        <source>the power key is never pressed by a script.</source>
+        <translation>сценарий никогда не нажимает клавишу питания.</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t match the parameters %2 for %3.</source>
+        <translation>%1 не соответствует параметрам %2 для %3.</translation>
+    </message>
+    <message>
+        <source>%1 doesn’t understand the “%2” message.</source>
+        <translation>%1 не понимает сообщение «%2».</translation>
+    </message>
+    <message>
+        <source>The step of a repeat loop can’t be 0.</source>
+        <translation>Шаг цикла «repeat» не может быть равен 0.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>Two sentences: what is wrong, and what to do about it.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>The variable %1 is not defined.</source>
+        <translation>Переменная %1 не определена.</translation>
+    </message>
+    <message>
+        <source>unknown token</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>неизвестный символ</translation>
+    </message>
+    <message>
+        <source>unknown token %1</source>
+        <translation>неизвестный символ %1</translation>
+    </message>
+    <message>
+        <source>end of script</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>конец сценария</translation>
+    </message>
+    <message>
+        <source>end of line</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>конец строки</translation>
+    </message>
+    <message>
+        <source>variable name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>имя переменной</translation>
+    </message>
+    <message>
+        <source>Raw codes («…») are not supported.</source>
+        <translation>Необработанные коды («…») не поддерживаются.</translation>
+    </message>
+    <message>
+        <source>Expected end of line after “¬”.</source>
+        <translation>После «¬» ожидался конец строки.</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>число</translation>
+    </message>
+    <message>
+        <source>unknown token %1 (text stands between straight quotes)</source>
+        <translation>неизвестный символ %1 (текст заключается в прямые кавычки)</translation>
+    </message>
+    <message>
+        <source>identifier</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>идентификатор</translation>
+    </message>
+    <message>
+        <source>Out of memory.</source>
+        <translation>Недостаточно памяти.</translation>
+    </message>
+    <message>
+        <source>User canceled.</source>
+        <translation>Отменено пользователем.</translation>
+    </message>
+    <message>
+        <source>Application isn’t running.</source>
+        <translation>Приложение не запущено.</translation>
+    </message>
+    <message>
+        <source>Connection is invalid.</source>
+        <translation>Недопустимое соединение.</translation>
+    </message>
+    <message>
+        <source>Can’t make some data into the expected type.</source>
+        <translation>Не удаётся преобразовать данные в ожидаемый тип.</translation>
+    </message>
+    <message>
+        <source>Some parameter is missing for a command.</source>
+        <translation>Для команды не хватает параметра.</translation>
+    </message>
+    <message>
+        <source>Some data was of the wrong type.</source>
+        <translation>Данные имеют неверный тип.</translation>
+    </message>
+    <message>
+        <source>Some parameter was invalid.</source>
+        <translation>Недопустимый параметр.</translation>
+    </message>
+    <message>
+        <source>A message was not understood.</source>
+        <translation>Сообщение не понято.</translation>
+    </message>
+    <message>
+        <source>AppleEvent timed out.</source>
+        <translation>Истекло время ожидания AppleEvent.</translation>
+    </message>
+    <message>
+        <source>Some required parameter was missing.</source>
+        <translation>Отсутствует обязательный параметр.</translation>
+    </message>
+    <message>
+        <source>The handler is not defined.</source>
+        <translation>Обработчик не определён.</translation>
+    </message>
+    <message>
+        <source>Can’t get the element. Invalid index.</source>
+        <translation>Не удаётся получить элемент. Недопустимый индекс.</translation>
+    </message>
+    <message>
+        <source>Some parameters don’t match.</source>
+        <translation>Параметры не соответствуют.</translation>
+    </message>
+    <message>
+        <source>Can’t get the object.</source>
+        <translation>Не удаётся получить объект.</translation>
+    </message>
+    <message>
+        <source>Not authorized to send Apple events.</source>
+        <translation>Нет разрешения отправлять события Apple.</translation>
+    </message>
+    <message>
+        <source>An error has occurred.</source>
+        <translation>Произошла ошибка.</translation>
+    </message>
+    <message>
+        <source>Can’t divide by zero.</source>
+        <translation>Нельзя делить на ноль.</translation>
+    </message>
+    <message>
+        <source>The result of a numeric operation was too large.</source>
+        <translation>Результат вычисления слишком велик.</translation>
+    </message>
+    <message>
+        <source>Stack overflow.</source>
+        <translation>Переполнение стека.</translation>
+    </message>
+    <message>
+        <source>A variable is not defined.</source>
+        <translation>Переменная не определена.</translation>
+    </message>
+    <message>
+        <source>No result was returned for some argument of this expression.</source>
+        <translation>Для одного из аргументов этого выражения не получен результат.</translation>
+    </message>
+    <message>
+        <source>AppleEvent handler failed.</source>
+        <translation>Сбой обработчика AppleEvent.</translation>
+    </message>
+    <message>
+        <source>Can’t set the object.</source>
+        <translation>Не удаётся изменить объект.</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>%1 is a word of the script language.</extracomment>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 или %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Expected %1 but found %2.</source>
+        <extracomment>%1 and %2 are words of the script language in quotes, or &quot;expression&quot;, &quot;end of line&quot; and others below.</extracomment>
+        <translation>Ожидалось: %1; найдено: %2.</translation>
+    </message>
+    <message>
+        <source>The %1 parameter is specified more than once.</source>
+        <translation>Параметр %1 указан более одного раза.</translation>
+    </message>
+    <message>
+        <source>The %1 property is specified more than once.</source>
+        <translation>Свойство %1 указано более одного раза.</translation>
+    </message>
+    <message>
+        <source>The %1 handler is specified more than once.</source>
+        <translation>Обработчик %1 указан более одного раза.</translation>
+    </message>
+    <message>
+        <source>%1 got an error: %2</source>
+        <translation>В %1 произошла ошибка: %2</translation>
+    </message>
+    <message>
+        <source>An error of type %1 has occurred.</source>
+        <translation>Произошла ошибка типа %1.</translation>
+    </message>
+    <message>
+        <source>Can’t both consider and ignore %1.</source>
+        <translation>Нельзя одновременно учитывать и игнорировать %1.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 parameters but found more.</source>
+        <translation>Ожидалось не более %1 параметров, найдено больше.</translation>
+    </message>
+    <message>
+        <source>expression</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>выражение</translation>
+    </message>
+    <message>
+        <source>class name</source>
+        <extracomment>what a script was expected to have somewhere, or has there</extracomment>
+        <translation>имя класса</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro can press keys and nothing else.</source>
+        <translation>«%1» отклоняется: макрос может только нажимать клавиши.</translation>
+    </message>
+    <message>
+        <source>“%1” is refused: a macro is one script.</source>
+        <translation>«%1» отклоняется: макрос — это один сценарий.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 items in a list but found more.</source>
+        <translation>Ожидалось не более %1 элементов в списке, найдено больше.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 properties in a record but found more.</source>
+        <translation>Ожидалось не более %1 свойств в записи, найдено больше.</translation>
+    </message>
+    <message>
+        <source>Expected at most %1 levels of nesting but found more.</source>
+        <translation>Ожидалось не более %1 уровней вложенности, найдено больше.</translation>
+    </message>
+    <message>
+        <source>Tell statements are nested too deeply.</source>
+        <translation>Инструкции «tell» вложены слишком глубоко.</translation>
+    </message>
+    <message>
+        <source>Expected at most 16 MiB of script but found more.</source>
+        <translation>Сценарий не может быть больше 16 МиБ, а этот больше.</translation>
+    </message>
+    <message>
+        <source>Expected text in UTF-8 but found another byte.</source>
+        <translation>Ожидался текст в UTF-8, найден другой байт.</translation>
+    </message>
+    <message>
+        <source>Exit statement was not in a repeat loop.</source>
+        <translation>Инструкция «exit» находится вне цикла «repeat».</translation>
+    </message>
+    <message>
+        <source>Can’t divide %1 by zero.</source>
+        <translation>Нельзя разделить %1 на ноль.</translation>
+    </message>
+    <message>
+        <source>A list holds at most %1 items.</source>
+        <translation>Список содержит не более %1 элементов.</translation>
+    </message>
+    <message>
+        <source>Can’t get contents of a variable that is not set.</source>
+        <translation>Не удаётся получить содержимое переменной, значение которой не задано.</translation>
+    </message>
+    <message>
+        <source>Can’t make %1 into type %2.</source>
+        <translation>Не удаётся преобразовать %1 в тип %2.</translation>
+    </message>
+    <message>
+        <source>Can’t get %1.</source>
+        <translation>Не удаётся получить %1.</translation>
+    </message>
+    <message>
+        <source>Can’t set %1 to %2.</source>
+        <translation>Не удаётся присвоить %1 значение %2.</translation>
+    </message>
+</context>
+<context>
     <name>ScriptNotices</name>
     <message>
         <source>The macro was not played to its end</source>
@@ -2757,6 +3063,10 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
     <message>
         <source>Standard output cannot be written.</source>
         <translation>Невозможно записать в стандартный вывод.</translation>
+    </message>
+    <message>
+        <source>the output cannot be written</source>
+        <translation>не удаётся записать вывод</translation>
     </message>
 </context>
 <context>
@@ -3525,6 +3835,10 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
     <message>
         <source>Start it first.</source>
         <translation>Сначала запустите программу.</translation>
+    </message>
+    <message>
+        <source>The window is not on the screen.</source>
+        <translation>Окна нет на экране.</translation>
     </message>
 </context>
 </TS>

@@ -22,4 +22,6 @@ std::string inOneParagraph(std::string_view message, std::string_view hint) {
     return paragraph.append(" ").append(hint);
 }
 
-std::string inOneParagraph(const Error& error) { return inOneParagraph(error.message, error.hint); }
+std::string inOneParagraph(const Error& error) {
+    return inOneParagraph(error.message.text(), error.hint.text());
+}

@@ -9,12 +9,14 @@
 #include <utility>
 #include <variant>
 
-/// Why something could not be done, in words for a person.
+#include "platform/Sentence.h"
+
+/// Why something could not be done, in words for a person, who reads them in the own language.
 struct Error {
     /// What was expected and what was found, one sentence without a line end; never empty.
-    std::string message;
+    Sentence message;
     /// What to do about it; empty if nothing can be done.
-    std::string hint;
+    Sentence hint;
 
     friend bool operator==(const Error&, const Error&) = default;
 };

@@ -7,6 +7,7 @@
 #include "app/dialogs/Dialogs.h"
 #include "platform/KeyInjector.h"
 #include "platform/Notifications.h"
+#include "platform/Sentence.h"
 
 Result<ScriptAnswer> ScriptQuestions::ask(const ScriptDialog& dialog) {
     m_injector.rest();
@@ -16,7 +17,7 @@ Result<ScriptAnswer> ScriptQuestions::ask(const ScriptDialog& dialog) {
     m_isAsking = false;
     if (answer) return *std::move(answer);
     m_injector.stopPlayback();
-    return Error{"The question was not answered.", ""};
+    return Error{sentence("ScriptTool", "The question was not answered."), ""};
 }
 
 Result<void> ScriptQuestions::notify(const ScriptNotification& notification) {

@@ -17,7 +17,9 @@ ScriptProblem problemAt(const script::Location& place, bool isError, std::string
     return {static_cast<int>(place.line), static_cast<int>(place.column), isError, std::move(text)};
 }
 
-std::string textOf(const script::ScriptError& error) { return inOneParagraph(error.message, error.hint); }
+std::string textOf(const script::ScriptError& error) {
+    return inOneParagraph(error.message.text(), error.hint.text());
+}
 
 /// What of a command's form is typed as it stands: "key code" of "key code CODE [using MODIFIERS]".
 std::string wordsOf(std::string_view form) {

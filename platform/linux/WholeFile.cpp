@@ -143,12 +143,12 @@ Result<> WholeFile::write(std::string_view content, std::optional<mode_t> mode) 
 void WholeFile::removeLeftovers() const { FileReplacement::sweep(fs::path(target()).parent_path()); }
 
 Error WholeFile::cannotBeRead(const Error& cause) const {
-    const std::string access = sentence("Files", "Check that the file is there and who may read it.");
+    const Sentence access = sentence("Files", "Check that the file is there and who may read it.");
     return {unreadable(m_kind).arg(m_path).arg(cause.message), cause.hint.empty() ? access : cause.hint};
 }
 
 Error WholeFile::cannotBeWritten(const Error& cause) const {
-    const std::string access =
+    const Sentence access =
         sentence("Files", "Make room, check who may write there, or choose another place.");
     return {unwritable(m_kind).arg(m_path).arg(cause.message), cause.hint.empty() ? access : cause.hint};
 }

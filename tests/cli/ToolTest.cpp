@@ -6,6 +6,8 @@
 
 #include <fstream>
 #include <ostream>
+#include <utility>
+#include <vector>
 
 #include "support/Child.h"
 #include "support/Programs.h"
@@ -387,7 +389,6 @@ TEST_F(ToolTest, helpAndVersionGoToStandardOutput) {
     EXPECT_EQ(version.output.rfind("keyrill-script ", 0), 0U);
 }
 
-/// What scripts see of their errors is the same in all languages, and so is what is printed of it.
 TEST_F(ToolTest, speaksTheLanguageOfTheUser) {
     m_locale = "de_DE.UTF-8";
     EXPECT_EQ(run("--help").output.rfind("Aufruf: keyrill-script check DATEI", 0), 0U);
@@ -395,9 +396,38 @@ TEST_F(ToolTest, speaksTheLanguageOfTheUser) {
               "keyrill-script: Ein trace lässt sich nicht anhalten. Geben Sie bei --times eine Zahl an.\n");
     write("tell application \"System Events\"\n\tkey code 1\n");
     EXPECT_EQ(run("check script").errors,
-              "script:3:1: syntax error: Expected “end” but found end of script. (-2741)\n"
+              "script:3:1: syntax error: Erwartet wurde „end“, gefunden wurde das Ende des Skripts. (-2741)\n"
               "Hinweis: Der Block, der in Zeile 1 beginnt, hat kein eigenes „end“.\n");
     EXPECT_EQ(run("trace -e 'delay 1.5' -e 'log 0.25'"), (Outcome{0, "[\"delay\",1.5]\n", "(*0.25*)\n"}));
+}
+
+/// What of it machines read has no words: the kind, the place, the number.
+TEST_F(ToolTest, tellsAnErrorInTheLanguageOfTheUserWithItsNumber) {
+    const std::vector<std::pair<std::string, std::string>> told = {
+        {"ar_EG", "لا يمكن قسمة \u20681\u2069 على صفر."},
+        {"de_DE", "1 kann nicht durch null geteilt werden."},
+        {"es_ES", "No se puede dividir 1 entre cero."},
+        {"fr_FR", "Impossible de diviser 1 par zéro."},
+        {"ja_JP", "1 を 0 で割ることはできません。"},
+        {"ru_RU", "Нельзя разделить 1 на ноль."}};
+    for (const auto& [language, message] : told) {
+        m_locale = language + ".UTF-8";
+        const std::string line = "-e:1:3: execution error: " + message + " (-2701)\n1 / 0\n  ^\n";
+        EXPECT_EQ(run("run -e '1 / 0'"), (Outcome{1, "", line})) << language;
+    }
+    m_locale = "de_DE.UTF-8";
+    EXPECT_EQ(run("check --json -e 'key code 5'").output,
+              "[{\"kind\":\"error\",\"line\":1,\"column\":5,\"length\":4,\"message\":\"Erwartet wurde das "
+              "Zeilenende, gefunden wurde ein Bezeichner.\",\"number\":-2741,\"hint\":\"Die Tastaturbefehle "
+              "stehen innerhalb von „tell application \\\"System Events\\\"“ … „end tell“.\"}]\n");
+}
+
+TEST_F(ToolTest, aScriptReadsItsErrorsInEnglishWhateverTheUserSpeaks) {
+    m_locale = "ru_RU.UTF-8";
+    EXPECT_EQ(run("run -e 'try' -e '1 / 0' -e 'on error m number n' -e 'return m & n' -e 'end try'").output,
+              "\"Can’t divide 1 by zero.-2701\"\n");
+    EXPECT_EQ(run("run -e 'error \"Ой\" number 5'").errors,
+              "-e:1:1: execution error: Ой (5)\nerror \"Ой\" number 5\n^\n");
 }
 
 }  // namespace

@@ -171,7 +171,7 @@ TEST_P(HotKeysContract, aCombinationOfAnotherProgramIsRefusedByAnErrorThatNamesI
     ASSERT_EQ(state.status, HotKeyStatus::refused);
     ASSERT_TRUE(state.error.has_value());
     for (const char* word : {"Ctrl", "Super", "P"}) {
-        EXPECT_NE(state.error->message.find(word), std::string::npos) << state.error->message;
+        EXPECT_NE(state.error->message.text().find(word), std::string::npos) << state.error->message;
     }
 }
 

@@ -32,7 +32,7 @@ class FakeController : public SharedController {
         restartLastEventTime();
     }
     void hideRecordingGui() override { note("hideRecordingGui"); }
-    void cannotRecord(const Error& why) override { m_journal.note("cannotRecord", why.message); }
+    void cannotRecord(const Error& why) override { m_journal.note("cannotRecord", why.message.text()); }
     void showMultiplePlayGui() override { note("showMultiplePlayGui"); }
     void currentMacroChanged() override { m_journal.note("currentMacroChanged"); }
     void addMacro(const boost::shared_ptr<Macro>& macro) override {

@@ -187,7 +187,7 @@ TEST_P(EvdevMonitorTest, aLossIsMadeGood) {
 TEST_P(EvdevMonitorTest, aKeyboardThatMayNotBeReadAnyMoreIsToldOf) {
     std::vector<std::string> told;
     monitor().observeAccess([&told](EventMonitor::Access access, const std::optional<Error>& why) {
-        told.push_back(std::to_string(static_cast<int>(access)) + " " + (why ? why->message : ""));
+        told.push_back(std::to_string(static_cast<int>(access)) + " " + (why ? why->message.text() : ""));
     });
     press({key::a});
     delivered();

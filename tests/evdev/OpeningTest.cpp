@@ -53,7 +53,7 @@ class OpeningTest : public testing::Test {
 
     OpeningTest() {
         m_monitor.observeAccess([this](EventMonitor::Access access, const std::optional<Error>& why) {
-            m_told.push_back(words(access) + (why ? " " + why->message : ""));
+            m_told.push_back(words(access) + (why ? " " + why->message.text() : ""));
         });
         EXPECT_TRUE(m_monitor.install([this](const KeyEvent& event) {
             if (event.kind == KeyEventKind::keyDown) m_typed += event.character;

@@ -38,7 +38,7 @@ class KeyFileSettingsTest : public testing::Test {
         std::string all;
         while (const auto fault = store.takeFault()) {
             EXPECT_NE(fault->hint, "");
-            all += fault->message.substr(0, fault->message.find(": ")) + "\n";
+            all += fault->message.text().substr(0, fault->message.text().find(": ")) + "\n";
         }
         return all;
     }

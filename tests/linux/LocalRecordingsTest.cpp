@@ -126,7 +126,7 @@ TEST_F(LocalRecordingsTest, oneThatCannotBeDeletedIsToldAndTheOthersGo) {
     ASSERT_TRUE(name);
     const Result<> forgotten = store.forgetAll();
     ASSERT_FALSE(forgotten);
-    EXPECT_NE(forgotten.error().message.find("20260101T000000.000Z.keyrill"), std::string::npos);
+    EXPECT_NE(forgotten.error().message.text().find("20260101T000000.000Z.keyrill"), std::string::npos);
     EXPECT_FALSE(fs::exists(file(name.value())));
 }
 

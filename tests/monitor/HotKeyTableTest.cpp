@@ -66,7 +66,7 @@ class HotKeyTableTest : public testing::Test {
     /// Why a request was refused; empty if it was not.
     std::string refusal(HotKeyId id) const {
         const HotKeyState state = m_table.state(id);
-        return state.error ? state.error->message : std::string();
+        return state.error ? state.error->message.text() : std::string();
     }
 
     const KeyGrab m_controlSuperR{.keycode = keyOfR, .modifiers = 0x44, .locks = 0x12};

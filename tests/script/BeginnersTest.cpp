@@ -46,8 +46,8 @@ std::string toldOf(const Traced& result) {
     const script::ScriptError& error = result.error;
     told += std::to_string(error.location.line) + ":" + std::to_string(error.location.column);
     told += result.phase == Traced::Phase::compile ? ": syntax error: " : ": execution error: ";
-    told += error.message + " (" + std::to_string(error.number) + ")\n";
-    return error.hint.empty() ? told : told + "Hint: " + error.hint + "\n";
+    told += error.message.text() + " (" + std::to_string(error.number) + ")\n";
+    return error.hint.empty() ? told : told + "Hint: " + error.hint.text() + "\n";
 }
 
 class BeginnersTest : public testing::TestWithParam<Lesson> {};

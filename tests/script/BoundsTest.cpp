@@ -37,7 +37,7 @@ std::ostream& operator<<(std::ostream& out, const Row& row) { return out << row.
 std::string outcomeOf(const std::string& source) {
     const Traced result = traced(source);
     if (result.phase == Traced::Phase::none) return result.value;
-    return std::to_string(result.error.number) + " " + result.error.message;
+    return std::to_string(result.error.number) + " " + result.error.message.text();
 }
 
 class BoundsTest : public testing::TestWithParam<Row> {};

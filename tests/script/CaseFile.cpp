@@ -120,7 +120,8 @@ std::string outcomeOf(const FileCase& row) {
         const std::string arrow = result.phase == Traced::Phase::compile ? "=? " : "=! ";
         const std::string place = row.place.empty() ? "" : placeOf(result) + " ";
         const std::string events = row.events ? eventsOf(result) + " " : "";
-        return events + arrow + place + std::to_string(result.error.number) + " " + result.error.message;
+        return events + arrow + place + std::to_string(result.error.number) + " " +
+               result.error.message.english();
     }
     if (row.kind == FileCase::Kind::events) return "-> " + eventsOf(result);
     return "=> " + onOneLine(result.value);

@@ -23,10 +23,10 @@ class HintsTest : public testing::TestWithParam<Row> {
 TEST_P(HintsTest, helpsWithAUsualSlip) { EXPECT_EQ(traced(GetParam().source).error.hint, GetParam().result); }
 
 TEST_P(HintsTest, saysItInTheLanguageOfTheUserAndLeavesTheMessageToScripts) {
-    const std::string message = traced(GetParam().source).error.message;
+    const std::string message = traced(GetParam().source).error.message.english();
     translateSentencesBy(translated);
     const script::ScriptError error = traced(GetParam().source).error;
-    EXPECT_EQ(error.message, message);
+    EXPECT_EQ(error.message.english(), message);
     EXPECT_EQ(error.hint, GetParam().result.empty() ? "" : "Hints: " + GetParam().result);
 }
 
@@ -79,7 +79,7 @@ TEST_F(WarningsTest, ofANameThatIsNeverSetSayWhatWasMeant) {
     EXPECT_EQ(run.warnings, std::vector<std::string>{
                                 "1:5 Warnings: The variable hullo is never set. Hints: Text stands between "
                                 "straight quotes: \"hullo\"."});
-    EXPECT_EQ(run.error.message, "The variable hullo is not defined.");
+    EXPECT_EQ(run.error.message.english(), "The variable hullo is not defined.");
     EXPECT_EQ(
         run.error.hint,
         "Hints: A variable is set before it is used: set hullo to … Text stands between straight quotes: "

@@ -265,5 +265,5 @@ std::string printedError(std::string_view source) {
     if (!parser.error()) return "";
     const script::ScriptError& error = *parser.error();
     return std::to_string(error.location.line) + ":" + std::to_string(error.location.column) + " " +
-           std::to_string(error.number) + " " + error.message;
+           std::to_string(error.number) + " " + error.message.text();
 }

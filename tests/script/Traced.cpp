@@ -47,5 +47,5 @@ Traced traced(const std::string& source) {
 std::string told(const std::string& lines) {
     const Traced result = traced("tell application \"System Events\"\n" + lines + "\nend tell\n");
     if (result.phase == Traced::Phase::none) return result.events;
-    return result.events + std::to_string(result.error.number) + " " + result.error.message;
+    return result.events + std::to_string(result.error.number) + " " + result.error.message.text();
 }

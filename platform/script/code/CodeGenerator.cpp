@@ -52,7 +52,7 @@ void CodeGenerator::collect() {
 
 void CodeGenerator::collectProperty(const Node& node) {
     if (!m_properties.emplace(node.value, node.offset).second) {
-        m_out.fail(errornumber::propertyTwice, givenTwice(m_tree.names.at(node.value).spelling, "property"),
+        m_out.fail(errornumber::propertyTwice, propertyTwice(m_tree.names.at(node.value).spelling),
                    node.offset);
     }
     m_out.script().makeVisible(node.value);
@@ -91,15 +91,13 @@ void CodeGenerator::collectHandler(const Node& node) {
         return checkRun();
     }
     if (m_handlers.emplace(node.value, node.offset).second) return;
-    m_out.fail(errornumber::handlerTwice, givenTwice(m_tree.names.at(node.value).spelling, "handler"),
-               node.offset);
+    m_out.fail(errornumber::handlerTwice, handlerTwice(m_tree.names.at(node.value).spelling), node.offset);
 }
 
 /// The run handler and statements outside of handlers exclude each other.
 void CodeGenerator::checkRun() {
     if (m_run == nullptr || m_loose == nullptr) return;
-    m_out.fail(errornumber::handlerTwice, givenTwice("run", "handler"),
-               std::max(m_run->offset, m_loose->offset));
+    m_out.fail(errornumber::handlerTwice, handlerTwice("run"), std::max(m_run->offset, m_loose->offset));
 }
 
 void CodeGenerator::runPart() {
@@ -215,8 +213,7 @@ void CodeGenerator::resolveCalls() {
 }
 
 void CodeGenerator::failTwice(NameId parameter, std::uint32_t offset) {
-    m_out.fail(errornumber::parameterTwice, givenTwice(m_tree.names.at(parameter).spelling, "parameter"),
-               offset);
+    m_out.fail(errornumber::parameterTwice, parameterTwice(m_tree.names.at(parameter).spelling), offset);
 }
 
 /// A handler that comes to its end gives the value of its last statement.

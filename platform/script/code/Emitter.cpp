@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Sentence.h"
+
 namespace script {
 
 void Emitter::warn(std::uint32_t offset, std::string message) {
@@ -19,7 +21,7 @@ void Emitter::finishWarnings() {
     }
 }
 
-void Emitter::fail(int number, std::string message, std::uint32_t offset) {
+void Emitter::fail(int number, Sentence message, std::uint32_t offset) {
     if (m_error) return;
     m_error = ScriptError{number, std::move(message), locate(m_source, offset)};
 }

@@ -45,7 +45,7 @@ class Emitter {
     /// Puts the warnings into the code, in the order of the source. Called once.
     void finishWarnings();
     /// Only the first one counts.
-    void fail(int number, std::string message, std::uint32_t offset);
+    void fail(int number, Sentence message, std::uint32_t offset);
     const std::optional<ScriptError>& error() const { return m_error; }
 
   private:

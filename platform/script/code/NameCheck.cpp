@@ -59,7 +59,7 @@ void NameCheck::suspect(NameId name, const VariableUse& use, const std::vector<N
         return;
     }
     const std::string meant = slipOf(name, use.role, known);
-    const std::string advice = meant.empty() ? quotesAdvice(called) : meant;
+    const std::string advice = meant.empty() ? quotesAdvice(called).text() : meant;
     m_suspects.push_back({use.offset, neverSetAdvice(called, advice)});
     if (!meant.empty() || use.role == NameRole::text) m_out.code().advice.emplace(name, advice);
 }

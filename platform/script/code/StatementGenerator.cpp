@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/script/commands/Command.h"
 #include "platform/script/source/Scoped.h"
 #include "platform/script/syntax/Operators.h"
@@ -360,10 +361,10 @@ void StatementGenerator::declare(const Node& node) {
         const bool declared =
             isGlobal ? m_out.scope().declareGlobal(name.value) : m_out.scope().declareLocal(name.value);
         if (declared) continue;
-        m_out.fail(
-            errornumber::localAndGlobal,
-            "Can’t declare " + m_tree.names.at(name.value).spelling + " as both a local and global variable.",
-            name.offset);
+        m_out.fail(errornumber::localAndGlobal,
+                   sentence("ScriptErrors", "Can’t declare %1 as both a local and global variable.")
+                       .arg(m_tree.names.at(name.value).spelling),
+                   name.offset);
     }
 }
 

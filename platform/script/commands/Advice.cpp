@@ -57,12 +57,12 @@ std::optional<int> codeOfLetter(std::string_view name) {
     return std::nullopt;
 }
 
-std::string keyAdvice(int code) {
+Sentence keyAdvice(int code) {
     return sentence("Hints", "The key has a number: key code %1.").arg(std::to_string(code));
 }
 
 /// Of a key in the midst of what is typed.
-std::string joinedKeyAdvice(int code) {
+Sentence joinedKeyAdvice(int code) {
     if (code == 36) return sentence("Hints", "Return is joined to a text so: \"hello\" & return.");
     if (code == 48) return sentence("Hints", "Tab is joined to a text so: \"hello\" & tab.");
     return keyAdvice(code);
@@ -131,7 +131,7 @@ std::string_view modifierOf(std::string_view name) {
     return row == names.end() ? "" : row->second;
 }
 
-std::string wholeKeyAdvice(int code) {
+Sentence wholeKeyAdvice(int code) {
     return sentence("Warnings", "This is typed as it stands; the key has a number: key code %1.")
         .arg(std::to_string(code));
 }
@@ -146,7 +146,7 @@ std::optional<int> codeOfWhole(std::string_view text) {
 }
 
 /// Of the first braces of a text, which begins with them here, if they name a key.
-std::string keyInBracesAdvice(std::string_view text, bool isFirst) {
+Sentence keyInBracesAdvice(std::string_view text, bool isFirst) {
     const std::size_t close = text.find('}');
     if (close == std::string_view::npos) return "";
     const std::optional<int> code = codeOfWord(text.substr(1, close - 1));
@@ -162,7 +162,7 @@ std::string keyInBracesAdvice(std::string_view text, bool isFirst) {
 
 }  // namespace
 
-std::string codeAdvice(std::int64_t code) {
+Sentence codeAdvice(std::int64_t code) {
     constexpr std::int64_t largest = 65535;
     if (code < 0 || code > largest) {
         return sentence(
@@ -179,15 +179,15 @@ std::string codeAdvice(std::int64_t code) {
     return noKeyAdvice(key);
 }
 
-std::string noKeyAdvice(std::uint32_t code) {
+Sentence noKeyAdvice(std::uint32_t code) {
     return sentence("Warnings", "Key code %1 has no key; nothing is pressed.").arg(std::to_string(code));
 }
 
-std::string noCodeAdvice() {
+Sentence noCodeAdvice() {
     return sentence("Hints", "A key code is a number; a text is typed with “keystroke”.");
 }
 
-std::string noCodeAdvice(std::string_view text) {
+Sentence noCodeAdvice(std::string_view text) {
     const std::optional<int> typed = codeOfCharacter(text);
     const std::optional<int> code = typed ? typed : codeOfWord(text);
     if (!code) return noCodeAdvice();
@@ -195,31 +195,31 @@ std::string noCodeAdvice(std::string_view text) {
         .arg(std::to_string(*code));
 }
 
-std::string keyNameAdvice(std::string_view name) {
+Sentence keyNameAdvice(std::string_view name) {
     const std::optional<int> code = codeOfWord(name);
     return code ? keyAdvice(*code) : "";
 }
 
-std::string datePartAdvice() {
+Sentence datePartAdvice() {
     return sentence("Hints",
                     "The parts of a date are year, month, day, weekday, hours, minutes, seconds and time.");
 }
 
-std::string didYouMean(std::string_view word) { return sentence("Hints", "Did you mean %1?").arg(word); }
+Sentence didYouMean(std::string_view word) { return sentence("Hints", "Did you mean %1?").arg(word); }
 
-std::string pauseAdvice(std::string_view text) {
+Sentence pauseAdvice(std::string_view text) {
     const bool isDecimal = text.find(',') != std::string_view::npos &&
                            text.find_first_not_of("0123456789, ") == std::string_view::npos;
     return isDecimal ? sentence("Hints", "Decimals stand behind a point: delay 0.5.")
                      : sentence("Hints", "“delay” counts seconds: delay 0.5.");
 }
 
-std::string recordAdvice() {
+Sentence recordAdvice() {
     return sentence("Hints",
                     "A dialog gives a record; what was typed there is taken with: text returned of n.");
 }
 
-std::string heldAdvice(Held held, std::string_view name) {
+Sentence heldAdvice(Held held, std::string_view name) {
     switch (held) {
         case Held::dialog:
             return sentence("Warnings",
@@ -240,12 +240,12 @@ std::string heldAdvice(Held held, std::string_view name) {
     }
 }
 
-std::string modifierAdvice(const Modifier& modifier) {
+Sentence modifierAdvice(const Modifier& modifier) {
     //: %1 is the name of a modifier, "shift".
     return sentence("Warnings", "“%1” is taken as “%1 down”.").arg(constantText(modifier));
 }
 
-std::string quotedModifierAdvice(std::string_view text) {
+Sentence quotedModifierAdvice(std::string_view text) {
     const std::string given = asciiLowered(text.substr(0, text.find(' ')));
     const auto* row = std::find_if(modifierWords.begin(), modifierWords.end(),
                                    [&](const ModifierWord& word) { return spellingOf(word.word) == given; });
@@ -254,13 +254,13 @@ std::string quotedModifierAdvice(std::string_view text) {
     return sentence("Hints", "A modifier stands without quotes: using %1 down.").arg(given);
 }
 
-std::string joinedModifiersAdvice() {
+Sentence joinedModifiersAdvice() {
     return sentence("Hints", "Several modifiers stand in braces: using {control down, shift down}.");
 }
 
-std::string joinedTextsAdvice() { return sentence("Hints", "Texts are joined with “&”: \"one\" & \"two\"."); }
+Sentence joinedTextsAdvice() { return sentence("Hints", "Texts are joined with “&”: \"one\" & \"two\"."); }
 
-std::string swallowedAdvice(std::string_view command, std::string_view operation) {
+Sentence swallowedAdvice(std::string_view command, std::string_view operation) {
     //: %1 is an operator, ">", %2 a command, "count".
     return sentence("Warnings",
                     "“%1” belongs to what “%2” is given; put parentheses round the command: (%2 …) %1 ….")
@@ -268,18 +268,18 @@ std::string swallowedAdvice(std::string_view command, std::string_view operation
         .arg(command);
 }
 
-std::string millisecondsAdvice(std::uint32_t count) {
+Sentence millisecondsAdvice(std::uint32_t count) {
     return sentence("Warnings", "“delay” counts seconds; %1 milliseconds are: delay %2.")
         .arg(std::to_string(count))
         .arg(realText(count / 1000.0));
 }
 
-std::string comparisonAdvice(std::string_view name) {
+Sentence comparisonAdvice(std::string_view name) {
     return sentence("Hints", "This compares and changes nothing; a variable is set with “to”: set %1 to …")
         .arg(name.empty() ? "x" : name);
 }
 
-std::string typedNameAdvice(std::string_view text) {
+Sentence typedNameAdvice(std::string_view text) {
     if (const std::optional<int> code = codeOfWhole(text)) return wholeKeyAdvice(*code);
     const std::size_t open = text.find('{');
     if (open != std::string_view::npos) return keyInBracesAdvice(text.substr(open), open == 0);
@@ -294,17 +294,17 @@ std::string typedNameAdvice(std::string_view text) {
         .arg(modifier);
 }
 
-std::string heldModifierAdvice() {
+Sentence heldModifierAdvice() {
     return sentence("Warnings", "A modifier is held with: key down shift, without quotes.");
 }
 
-std::string noHandlerAdvice(std::string_view name) {
-    std::string foreign = foreignWordAdvice(name);
+Sentence noHandlerAdvice(std::string_view name) {
+    Sentence foreign = foreignWordAdvice(name);
     if (!foreign.empty()) return foreign;
     return sentence("Hints", "The script has no handler of that name: on %1(…) … end %1.").arg(name);
 }
 
-std::string programAdvice(std::string_view command) {
+Sentence programAdvice(std::string_view command) {
     const ForeignWord* row = foreignWord(command);
     if (row != nullptr && row->advice == std::string_view(raising)) return sentence("Hints", raising);
     return sentence("Hints",
@@ -312,7 +312,7 @@ std::string programAdvice(std::string_view command) {
                     "Events\" to keystroke \"q\" using control down.");
 }
 
-std::string foreignWordAdvice(std::string_view name) {
+Sentence foreignWordAdvice(std::string_view name) {
     if (const std::string_view modifier = modifierOf(name); !modifier.empty())
         return modifierNameAdvice(modifier);
     const ForeignWord* row = foreignWord(name);
@@ -320,7 +320,7 @@ std::string foreignWordAdvice(std::string_view name) {
     return sentence("Hints", row->advice);
 }
 
-std::string modifierNameAdvice(std::string_view modifier) {
+Sentence modifierNameAdvice(std::string_view modifier) {
     //: %1 is the name of a modifier, "control".
     return sentence("Hints",
                     "The modifiers are called command (Super), control (Ctrl), option (Alt) and shift: using "
@@ -328,12 +328,12 @@ std::string modifierNameAdvice(std::string_view modifier) {
         .arg(modifier);
 }
 
-std::string neverSetAdvice(std::string_view name, std::string_view meant) {
+Sentence neverSetAdvice(std::string_view name, std::string_view meant) {
     //: %2 is a sentence that says what may have been meant.
     return sentence("Warnings", "The variable %1 is never set. %2").arg(name).arg(meant);
 }
 
-std::string meantBy(std::string_view name, NameRole role) {
+Sentence meantBy(std::string_view name, NameRole role) {
     if (role == NameRole::application)
         return sentence("Hints", "An application is named: application \"%1\".").arg(name);
     const bool isJoined = role == NameRole::joinedText;
@@ -344,16 +344,16 @@ std::string meantBy(std::string_view name, NameRole role) {
     return isJoined ? joinedKeyAdvice(*code) : keyAdvice(*code);
 }
 
-std::string quotesAdvice(std::string_view words) {
+Sentence quotesAdvice(std::string_view words) {
     return sentence("Hints", "Text stands between straight quotes: \"%1\".").arg(words);
 }
 
-std::string sharingAdvice(std::string_view name) {
+Sentence sharingAdvice(std::string_view name) {
     return sentence("Hints", "A handler has variables of its own; to share this one write there: global %1.")
         .arg(name);
 }
 
-std::string undefinedHint(std::string_view name) {
+Sentence undefinedHint(std::string_view name) {
     return sentence("Hints",
                     "A variable is set before it is used: set %1 to … Text stands between straight quotes: "
                     "\"%1\".")

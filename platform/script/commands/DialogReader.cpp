@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/script/commands/Playing.h"
 #include "platform/script/source/ScriptError.h"
 #include "platform/script/values/Coercion.h"
@@ -48,7 +49,7 @@ void DialogReader::readButtons(unsigned parameter, std::vector<std::string> usua
     constexpr std::size_t most = 3;
     for (const Value& item : itemsOf(*given)) m_dialog.buttons.push_back(text(&item));
     if (m_dialog.buttons.empty() || m_dialog.buttons.size() > most) {
-        fail(cannotMake(*given, "list of button names"));
+        fail(cannotMake(*given, sentence("ScriptErrors", "list of button names")));
     }
 }
 
@@ -69,7 +70,8 @@ void DialogReader::readButton(unsigned parameter, std::optional<std::size_t>& ta
 
 void DialogReader::readChoices(const Value& choices, const Value* chosen) {
     for (const Value& item : itemsOf(choices)) m_dialog.choices.push_back(text(&item));
-    if (m_dialog.choices.empty()) return fail(cannotMake(choices, "list of choices"));
+    if (m_dialog.choices.empty())
+        return fail(cannotMake(choices, sentence("ScriptErrors", "list of choices")));
     if (chosen == nullptr) return;
     const auto& all = m_dialog.choices;
     for (const Value& item : itemsOf(*chosen)) {
@@ -102,7 +104,7 @@ Fallible<Value> DialogReader::ask(CommandStage& stage,
     Fallible<ScriptAnswer> given = answer(stage);
     if (!given) return std::move(given).error();
     if (given.value().button && given.value().button == m_dialog.cancelButton) {
-        return Failure{errornumber::userCancelled, "User canceled."};
+        return standardFailure(errornumber::userCancelled);
     }
     return answered(m_dialog, given.value());
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/Sentence.h"
 #include "platform/script/commands/All.h"
 
 #include <string>
@@ -13,7 +14,8 @@ namespace {
 
 Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     if (arguments.parameter(0) == nullptr) {
-        return Failure{errornumber::missingParameter, "Some parameter is missing for offset."};
+        return Failure{errornumber::missingParameter,
+                       sentence("ScriptErrors", "Some parameter is missing for %1.").arg("offset")};
     }
     const Fallible<std::string> part = textOf(*arguments.direct());
     if (!part) return part.error();

@@ -5,9 +5,11 @@
 #include <utility>
 
 #include "platform/KeyCodes.h"
+#include "platform/Sentence.h"
 #include "platform/Utf8.h"
 #include "platform/script/commands/Advice.h"
 #include "platform/script/source/ScriptError.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/SourceForm.h"
 
@@ -23,7 +25,7 @@ bool isPower(std::uint32_t code) {
     return base == keycode::power || base == keycode::evdevBase + evdevPower;
 }
 
-std::string noCodeAdviceOf(const Value& value) {
+Sentence noCodeAdviceOf(const Value& value) {
     const std::string_view* text = value.text();
     return text == nullptr ? noCodeAdvice() : noCodeAdvice(*text);
 }
@@ -59,7 +61,7 @@ Fallible<std::uint32_t> modifierMask(CommandStage& stage, const Value* given) {
         if (!value) return std::move(value).error();
         const auto* constant = value.value().as<Modifier>();
         if (constant == nullptr) {
-            Failure failure = cannotMake(value.value(), "modifier");
+            Failure failure = cannotMake(value.value(), sentence("ScriptErrors", "modifier"));
             if (const std::string_view* text = value.value().text())
                 failure.hint = quotedModifierAdvice(*text);
             return failure;
@@ -79,7 +81,8 @@ Fallible<std::uint32_t> keyCodeOf(const Value& value) {
     }
     if (isPower(static_cast<std::uint32_t>(*code))) {
         return Failure{errornumber::handlerFailed,
-                       "System Events got an error: the power key is never pressed by a script."};
+                       gotAnError("System Events",
+                                  sentence("ScriptErrors", "the power key is never pressed by a script."))};
     }
     return static_cast<std::uint32_t>(*code);
 }
@@ -112,7 +115,7 @@ Fallible<Value> outcomeOf(Fallible<> step) {
 }
 
 Failure desktopFailure(const Error& error) {
-    return {errornumber::handlerFailed, "System Events got an error: " + error.message, error.hint};
+    return {errornumber::handlerFailed, gotAnError("System Events", error.message), error.hint};
 }
 
 }  // namespace script

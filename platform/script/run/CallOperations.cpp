@@ -8,6 +8,7 @@
 #include "platform/script/commands/Command.h"
 #include "platform/script/run/Execution.h"
 #include "platform/script/run/OperationTable.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/values/SourceForm.h"
 
 namespace script {
@@ -35,8 +36,9 @@ bool orderByLabels(Execution& run, const Call& call, const Handler& handler) {
     for (const NameId label : handler.labels) {
         const auto found = std::find(call.labels.begin(), call.labels.end(), label);
         if (found == call.labels.end()) {
-            run.fail({errornumber::missingParameter,
-                      "Some parameter is missing for " + run.name(call.name).spelling + "."});
+            run.fail(
+                {errornumber::missingParameter, sentence("ScriptErrors", "Some parameter is missing for %1.")
+                                                    .arg(run.name(call.name).spelling)});
             return false;
         }
         ordered.push_back(given[static_cast<std::size_t>(found - call.labels.begin())]);
@@ -52,8 +54,10 @@ void callHandler(Execution& run, const Call& call, std::uint32_t index) {
         if (!orderByLabels(run, call, handler)) return;
     } else if (call.count != handler.labels.size() || handler.isLabelled) {
         return run.fail({errornumber::wrongParameters,
-                         spelledArguments(run, call.count) + " doesn’t match the parameters " +
-                             spelledParameters(run, handler) + " for " + run.name(call.name).spelling + "."});
+                         sentence("ScriptErrors", "%1 doesn’t match the parameters %2 for %3.")
+                             .arg(spelledArguments(run, call.count))
+                             .arg(spelledParameters(run, handler))
+                             .arg(run.name(call.name).spelling)});
     }
     run.enterHandler(index, handler.labels.size());
 }
@@ -64,9 +68,10 @@ Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) 
     const bool isScript = body != nullptr && body->kind == TargetBody::Kind::script;
     const bool isOther = body != nullptr && body->kind == TargetBody::Kind::application;
     const std::string speaker = isOther ? std::string(body->name.str()) : "System Events";
-    const std::string prefix = body != nullptr && !isScript ? speaker + " got an error: " : "";
-    Failure failure{errornumber::notUnderstood,
-                    prefix + quotedForm(target) + " doesn’t understand the “" + name + "” message."};
+    Sentence message =
+        sentence("ScriptErrors", "%1 doesn’t understand the “%2” message.").arg(quotedForm(target)).arg(name);
+    if (body != nullptr && !isScript) message = gotAnError(speaker, std::move(message));
+    Failure failure{errornumber::notUnderstood, std::move(message)};
     if (isOwn) {
         failure.hint =
             sentence("Hints", "Inside “tell” the script’s own handlers are called with “my”: my %1(…).")
@@ -104,7 +109,7 @@ void command(Execution& run, const Instruction& here) {
 
 void requireValue(Execution& run, const Instruction& /*unused*/) {
     if (!run.top().is<Nothing>()) return;
-    run.fail({errornumber::noResult, "No result was returned for some argument of this expression."});
+    run.fail(standardFailure(errornumber::noResult));
 }
 
 void setResult(Execution& run, const Instruction& /*unused*/) { run.frame().result = run.pop(); }

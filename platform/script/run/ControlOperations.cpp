@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
 // Operations that say what is done next: conditions, loops, errors, `tell`, attributes.
-#include "platform/script/run/ErrorMessages.h"
+#include "platform/Sentence.h"
 #include "platform/script/run/Execution.h"
 #include "platform/script/run/OperationTable.h"
+#include "platform/script/source/ScriptError.h"
 #include "platform/script/syntax/Node.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/Elements.h"
@@ -39,7 +40,8 @@ void countDown(Execution& run, const Instruction& here) {
 }
 
 void beginRange(Execution& run, const Instruction& /*unused*/) {
-    if (counter(run.top()) == 0) run.fail({errornumber::byScript, "The step of a repeat loop can’t be 0."});
+    if (counter(run.top()) == 0)
+        run.fail({errornumber::byScript, sentence("ScriptErrors", "The step of a repeat loop can’t be 0.")});
 }
 
 void nextInRange(Execution& run, const Instruction& here) {
@@ -100,7 +102,7 @@ void pushErrorPart(Execution& run, const Instruction& here) {
     const auto orMissing = [](const Value& value) { return value.is<Nothing>() ? Value{Missing()} : value; };
     switch (static_cast<ErrorPart>(here.detail)) {
         case ErrorPart::message:
-            return run.push(Value{error.message});
+            return run.push(Value{error.message.english()});
         case ErrorPart::number:
             return run.push(numberValue(error.number, true));
         case ErrorPart::from:

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include "platform/Sentence.h"
 #include "platform/script/run/OperationTable.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/SourceForm.h"
 
@@ -21,9 +23,16 @@ const Counted* containerOf(const Value& value) {
 }
 
 Failure userCancelled() {
-    Failure failure{errornumber::userCancelled, "User canceled."};
+    Failure failure = standardFailure(errornumber::userCancelled);
     failure.isCancel = true;
     return failure;
+}
+
+/// With what to do about it.
+Sentence whole(const Error& error) {
+    if (error.hint.empty()) return error.message;
+    //: Two sentences: what is wrong, and what to do about it.
+    return sentence("ScriptErrors", "%1 %2").arg(error.message).arg(error.hint);
 }
 
 }  // namespace
@@ -69,7 +78,8 @@ RunResult Execution::run() {
         m_offset = instruction.offset;
         ++m_work;
         table[static_cast<std::size_t>(instruction.operation)](*this, instruction);
-        if (held - m_memoryBefore > maxMemory && held > m_memoryBefore && !m_failure) fail(outOfMemory());
+        if (held - m_memoryBefore > maxMemory && held > m_memoryBefore && !m_failure)
+            fail(standardFailure(errornumber::outOfMemory));
         if (m_work >= workBetweenQuestions && !m_failure) askWhetherToStop();
         if (m_failure) unwind();
     }
@@ -156,7 +166,7 @@ Fallible<> Execution::goOn() {
 }
 
 void Execution::enterHandler(std::uint32_t index, std::size_t arguments) {
-    if (m_frames.size() > maxFrames) return fail({errornumber::stackOverflow, "Stack overflow."});
+    if (m_frames.size() > maxFrames) return fail(standardFailure(errornumber::stackOverflow));
     Frame frame;
     frame.handler = index;
     frame.returnTo = static_cast<std::uint32_t>(m_next);
@@ -169,7 +179,7 @@ void Execution::enterHandler(std::uint32_t index, std::size_t arguments) {
 }
 
 void Execution::addVariables(std::size_t count) {
-    if (m_stack.size() + count > maxStack) return fail({errornumber::stackOverflow, "Stack overflow."});
+    if (m_stack.size() + count > maxStack) return fail(standardFailure(errornumber::stackOverflow));
     m_stack.resize(m_stack.size() + count);
 }
 
@@ -261,8 +271,7 @@ const Value& Execution::target() const {
 
 Fallible<> Execution::play(const KeyStep& step) {
     const auto failed = [](int number, const Error& error) {
-        const std::string hint = error.hint.empty() ? "" : " " + error.hint;
-        return Failure{number, "System Events got an error: " + error.message + hint};
+        return Failure{number, gotAnError("System Events", whole(error))};
     };
     if (m_session == nullptr) {
         auto opened = m_services.injector.open({m_code.typedTexts});

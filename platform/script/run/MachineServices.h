@@ -41,7 +41,7 @@ class SilentDesktop : public ScriptDesktop {
 class NoDialogs : public ScriptDialogs {
   public:
     Result<ScriptAnswer> ask(const ScriptDialog& /*dialog*/) override {
-        return Error{"No dialog can be shown here.", ""};
+        return Error{sentence("ScriptTool", "No dialog can be shown here."), ""};
     }
     Result<void> notify(const ScriptNotification& /*notification*/) override { return {}; }
 };

@@ -62,7 +62,7 @@ class TraceSession : public InjectionSession {
     /// Nobody is there to read the rest once the stream is broken.
     Step<> print(std::string_view name, const std::string& rest) {
         m_out << "[\"" << name << "\"," << rest << "]\n";
-        if (!m_out) return Error{"the output cannot be written", ""};
+        if (!m_out) return Error{sentence("ScriptTool", "the output cannot be written"), ""};
         return {};
     }
 

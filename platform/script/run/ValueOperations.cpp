@@ -3,6 +3,7 @@
 // Operations that make values and calculate with them.
 #include <unordered_map>
 
+#include "platform/Sentence.h"
 #include "platform/script/commands/Advice.h"
 #include "platform/script/run/Execution.h"
 #include "platform/script/run/OperationTable.h"
@@ -33,14 +34,16 @@ void pushMe(Execution& run, const Instruction& /*unused*/) { run.push(run.me());
 void pushIt(Execution& run, const Instruction& /*unused*/) { run.push(run.target()); }
 void pushDelimiters(Execution& run, const Instruction& /*unused*/) { run.push(run.delimiters()); }
 
-void failUndefined(Execution& run, const std::string& name, std::string hint) {
-    run.fail({errornumber::undefinedVariable, "The variable " + name + " is not defined.", std::move(hint)});
+void failUndefined(Execution& run, const std::string& name, Sentence hint) {
+    run.fail({errornumber::undefinedVariable,
+              sentence("ScriptErrors", "The variable %1 is not defined.").arg(name), std::move(hint)});
 }
 
 void failUndefined(Execution& run, NameId id) {
     const std::string& name = run.name(id).spelling;
     const auto known = run.code().advice.find(id);
-    failUndefined(run, name, known == run.code().advice.end() ? undefinedHint(name) : known->second);
+    failUndefined(run, name,
+                  known == run.code().advice.end() ? undefinedHint(name) : Sentence(known->second));
 }
 
 void pushResult(Execution& run, const Instruction& /*unused*/) {
@@ -210,7 +213,7 @@ void deepCopy(Execution& run, const Instruction& /*unused*/) {
     DeepCopy copy;
     run.push(copy(value));
     copy.forEachOfCycles([&](const Value& container) { run.holdsContainer(container); });
-    if (copy.isTooDeep()) run.fail({errornumber::stackOverflow, "Stack overflow."});
+    if (copy.isTooDeep()) run.fail(standardFailure(errornumber::stackOverflow));
 }
 
 void negate(Execution& run, const Instruction& /*unused*/) {

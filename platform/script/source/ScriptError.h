@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "platform/Sentence.h"
 #include "platform/script/source/Location.h"
 
 namespace script {
@@ -36,15 +37,18 @@ inline constexpr int handlerFailed = -10000;
 inline constexpr int cannotSet = -10006;
 }  // namespace errornumber
 
+/// What an error with this number says that has no words of its own.
+Sentence standardMessage(int number);
+
 /// Why a script does not compile, or where its run ended.
 struct ScriptError {
     int number = 0;
-    /// One sentence, UTF-8, in the words of AppleScript where it has words for the case: English, whatever
-    /// the user speaks, as scripts read it and compare it.
-    std::string message;
+    /// One sentence, in the words of AppleScript where it has words for the case. Scripts read and compare it
+    /// in English, whatever is spoken.
+    Sentence message;
     Location location;
-    /// What to do about it, one sentence in the language of the user; empty if nothing is known.
-    std::string hint = {};
+    /// What to do about it, one sentence; empty if nothing is known.
+    Sentence hint = {};
 
     friend bool operator==(const ScriptError&, const ScriptError&) = default;
 };

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/Utf8.h"
 #include "platform/script/source/Wording.h"
 
@@ -18,9 +19,10 @@ bool isUnseen(char32_t sign) {
            sign == 0xFEFF;
 }
 
-std::string describeUnknown(std::string_view text) {
+Sentence describeUnknown(std::string_view text) {
     const std::optional<std::uint32_t> sign = firstCharacter(text).code;
-    return sign && isUnseen(*sign) ? "unknown token " + codePointName(*sign) : "unknown token";
+    if (!sign || !isUnseen(*sign)) return part::unknownToken();
+    return sentence("ScriptErrors", "unknown token %1").arg(codePointName(*sign));
 }
 
 bool isCurlyQuote(std::string_view text) {
@@ -70,8 +72,8 @@ bool TokenStream::isAtWords(const Phrase& words, std::size_t from) const {
 
 bool TokenStream::acceptPhrase(const Phrase& words) { return isAtPhrase(words) && skip(words.wordCount()); }
 
-void TokenStream::expected(std::string_view what) {
-    fail(errornumber::syntax, "Expected " + std::string(what) + " but found " + describeCurrent() + ".");
+void TokenStream::expected(Sentence what) {
+    fail(errornumber::syntax, expectedButFound(std::move(what), describeCurrent()));
 }
 
 bool TokenStream::expect(Word word) {
@@ -99,19 +101,14 @@ bool TokenStream::expectListEnd(TokenKind bracket) {
 }
 
 void TokenStream::expectLineEnd() {
-    if (!isAtLineEnd()) expected("end of line");
+    if (!isAtLineEnd()) expected(part::endOfLine());
 }
 
-void TokenStream::expectedAtMost(std::size_t count, std::string_view what) {
-    fail(errornumber::syntax,
-         "Expected at most " + std::to_string(count) + " " + std::string(what) + " but found more.");
+void TokenStream::refuseTarget(Sentence found, std::uint32_t offset) {
+    fail(errornumber::syntax, expectedButFound(part::variableName(), std::move(found)), offset);
 }
 
-void TokenStream::refuseTarget(std::string_view found, std::uint32_t offset) {
-    fail(errornumber::syntax, "Expected variable name but found " + std::string(found) + ".", offset);
-}
-
-void TokenStream::fail(int number, std::string message, std::size_t offset) {
+void TokenStream::fail(int number, Sentence message, std::size_t offset) {
     if (failed()) return;
     m_failedInDictionary = m_knowsDictionary;
     m_error = ScriptError{number, std::move(message), locate(m_source, offset)};
@@ -122,46 +119,47 @@ void TokenStream::fail(int number, std::string message, std::size_t offset) {
 /// Tokens that are wrong wherever they stand.
 void TokenStream::refuseFault() {
     if (isAt(TokenKind::openText)) {
-        fail(errornumber::syntax, "Expected “\"” but found end of script.");
+        fail(errornumber::syntax, expectedButFound(quoted("\""), part::endOfScript()));
     } else if (isAt(TokenKind::openComment)) {
-        fail(errornumber::syntax, "Expected “*)” but found end of script.");
+        fail(errornumber::syntax, expectedButFound(quoted("*)"), part::endOfScript()));
     } else if (isAt(TokenKind::rawCode)) {
-        fail(errornumber::syntax, "Raw codes («…») are not supported.");
+        fail(errornumber::syntax, sentence("ScriptErrors", "Raw codes («…») are not supported."));
     } else if (isAt(TokenKind::strayContinuation)) {
-        fail(errornumber::syntax, "Expected end of line after “¬”.");
+        fail(errornumber::syntax, sentence("ScriptErrors", "Expected end of line after “¬”."));
     }
 }
 
-std::string TokenStream::describe(const Token& token, const Token& ahead) const {
+Sentence TokenStream::describe(const Token& token, const Token& ahead) const {
     switch (token.kind) {
         case TokenKind::endOfScript:
-            return "end of script";
+            return part::endOfScript();
         case TokenKind::endOfLine:
-            return "end of line";
+            return part::endOfLine();
         case TokenKind::identifier:
             return describeWord(token, ahead);
         case TokenKind::number:
-            return "number";
+            return part::number();
         case TokenKind::text:
             return quoted("\"");
         case TokenKind::unknown:
             if (!isCurlyQuote(token.text)) return describeUnknown(token.text);
-            return "unknown token " + std::string(token.text) + " (text stands between straight quotes)";
+            return sentence("ScriptErrors", "unknown token %1 (text stands between straight quotes)")
+                .arg(token.text);
         default:
             return quoted(token.text);
     }
 }
 
-std::string TokenStream::describeWord(const Token& token, const Token& ahead) const {
+Sentence TokenStream::describeWord(const Token& token, const Token& ahead) const {
     const Word word = token.word;
-    if (word == Word::none || !means(word) || kindOf(word) == WordKind::special) return "identifier";
+    if (word == Word::none || !means(word) || kindOf(word) == WordKind::special) return part::identifier();
     if (word == Word::end && namesBlock(ahead.word)) {
         return script::quoted("end " + std::string(spellingOf(ahead.word)));
     }
     return quoted(spellingOf(word));
 }
 
-std::string TokenStream::describeAt(std::uint32_t offset) const {
+Sentence TokenStream::describeAt(std::uint32_t offset) const {
     Lexer lexer(m_source.substr(offset));
     const Token token = lexer.next();
     return describe(token, lexer.next());

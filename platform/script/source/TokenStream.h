@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 
 #include "platform/script/source/Lexer.h"
@@ -58,12 +57,12 @@ class TokenStream {
     }
 
     /// What an error says of the current token: "number", "“end tell”".
-    std::string describe() const { return describeCurrent(); }
+    Sentence describe() const { return describeCurrent(); }
     /// Whether the word may stand behind `end`.
     static bool namesBlock(Word word);
 
     /// Fails with "Expected WHAT but found ...".
-    void expected(std::string_view what);
+    void expected(Sentence what);
     /// Fails unless it stands here, and moves behind it.
     bool expect(Word word);
     bool expect(TokenKind sign);
@@ -71,14 +70,12 @@ class TokenStream {
     /// The bracket, behind items with commas between them.
     bool expectListEnd(TokenKind bracket);
     void expectLineEnd();
-    /// Fails with "Expected at most COUNT WHAT but found more.".
-    void expectedAtMost(std::size_t count, std::string_view what);
     /// Fails with "Expected variable name but found FOUND.".
-    void refuseTarget(std::string_view found, std::uint32_t offset);
-    void fail(int number, std::string message) { fail(number, std::move(message), offset()); }
-    void fail(int number, std::string message, std::size_t offset);
+    void refuseTarget(Sentence found, std::uint32_t offset);
+    void fail(int number, Sentence message) { fail(number, std::move(message), offset()); }
+    void fail(int number, Sentence message, std::size_t offset);
     /// What an error says of the token at an offset, which lies behind.
-    std::string describeAt(std::uint32_t offset) const;
+    Sentence describeAt(std::uint32_t offset) const;
     bool failed() const { return m_error.has_value(); }
     const std::optional<ScriptError>& error() const { return m_error; }
     /// Whether the dictionary was in force where the error is.
@@ -102,9 +99,9 @@ class TokenStream {
     /// So that the window holds the token so many behind the current one.
     void readAhead(std::size_t count) const;
     bool isAtWords(const Phrase& words, std::size_t from) const;
-    std::string describeCurrent() const { return describe(current(), ahead()); }
-    std::string describe(const Token& token, const Token& ahead) const;
-    std::string describeWord(const Token& token, const Token& ahead) const;
+    Sentence describeCurrent() const { return describe(current(), ahead()); }
+    Sentence describe(const Token& token, const Token& ahead) const;
+    Sentence describeWord(const Token& token, const Token& ahead) const;
     void refuseFault();
 
     std::string_view m_source;

@@ -1,21 +1,45 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/source/Wording.h"
 
+#include <utility>
+
 namespace script {
 
-std::string quoted(std::string_view text) { return "“" + std::string(text) + "”"; }
-
-std::string alternatives(const std::vector<std::string_view>& words) {
-    std::string out;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        if (i > 0) out += i + 1 == words.size() ? " or " : ", ";
-        out += quoted(words[i]);
-    }
-    return out;
+Sentence quoted(std::string_view text) {
+    //: %1 is a word of the script language.
+    return sentence("ScriptErrors", "“%1”").arg(text);
 }
 
-std::string givenTwice(std::string_view name, std::string_view kind) {
-    return "The " + std::string(name) + " " + std::string(kind) + " is specified more than once.";
+Sentence alternatives(const std::vector<std::string_view>& words) {
+    Sentence all = quoted(words.front());
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        const bool isLast = i + 1 == words.size();
+        all = (isLast ? sentence("ScriptErrors", "%1 or %2") : sentence("ScriptErrors", "%1, %2"))
+                  .arg(std::move(all))
+                  .arg(quoted(words[i]));
+    }
+    return all;
+}
+
+Sentence expectedButFound(Sentence what, Sentence other) {
+    //: %1 and %2 are words of the script language in quotes, or "expression", "end of line" and others below.
+    return sentence("ScriptErrors", "Expected %1 but found %2.").arg(std::move(what)).arg(std::move(other));
+}
+
+Sentence parameterTwice(std::string_view name) {
+    return sentence("ScriptErrors", "The %1 parameter is specified more than once.").arg(name);
+}
+
+Sentence propertyTwice(std::string_view name) {
+    return sentence("ScriptErrors", "The %1 property is specified more than once.").arg(name);
+}
+
+Sentence handlerTwice(std::string_view name) {
+    return sentence("ScriptErrors", "The %1 handler is specified more than once.").arg(name);
+}
+
+Sentence gotAnError(std::string_view who, Sentence what) {
+    return sentence("ScriptErrors", "%1 got an error: %2").arg(who).arg(std::move(what));
 }
 
 }  // namespace script

@@ -1,21 +1,50 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <vector>
+
+#include "platform/Sentence.h"
 
 namespace script {
 
 // How messages say what all of them say.
 
 /// “text”
-std::string quoted(std::string_view text);
+Sentence quoted(std::string_view text);
 
 /// “a”, “b” or “c”
-std::string alternatives(const std::vector<std::string_view>& words);
+Sentence alternatives(const std::vector<std::string_view>& words);
 
-/// "The NAME KIND is specified more than once." The kind is "parameter", "property" or "handler".
-std::string givenTwice(std::string_view name, std::string_view kind);
+/// What belongs at a place of a script, or stands there.
+namespace part {
+//: what a script was expected to have somewhere, or has there
+inline Sentence className() { return sentence("ScriptErrors", "class name"); }
+//: what a script was expected to have somewhere, or has there
+inline Sentence endOfLine() { return sentence("ScriptErrors", "end of line"); }
+//: what a script was expected to have somewhere, or has there
+inline Sentence endOfScript() { return sentence("ScriptErrors", "end of script"); }
+//: what a script was expected to have somewhere, or has there
+inline Sentence expression() { return sentence("ScriptErrors", "expression"); }
+//: what a script was expected to have somewhere, or has there
+inline Sentence identifier() { return sentence("ScriptErrors", "identifier"); }
+//: what a script was expected to have somewhere, or has there
+inline Sentence number() { return sentence("ScriptErrors", "number"); }
+//: what a script was expected to have somewhere, or has there
+inline Sentence unknownToken() { return sentence("ScriptErrors", "unknown token"); }
+//: what a script was expected to have somewhere, or has there
+inline Sentence variableName() { return sentence("ScriptErrors", "variable name"); }
+}  // namespace part
+
+/// "Expected WHAT but found OTHER."
+Sentence expectedButFound(Sentence what, Sentence other);
+
+/// "The NAME parameter is specified more than once."
+Sentence parameterTwice(std::string_view name);
+Sentence propertyTwice(std::string_view name);
+Sentence handlerTwice(std::string_view name);
+
+/// "WHO got an error: WHAT"
+Sentence gotAnError(std::string_view who, Sentence what);
 
 }  // namespace script

@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include "platform/Sentence.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/Grammar.h"
 #include "platform/script/values/TextRules.h"
 
@@ -22,9 +24,11 @@ constexpr auto textAttributes = std::to_array<Attribute>({{"case", attribute::le
                                                           {"white space", attribute::whiteSpace},
                                                           {"application responses", 0}});
 
-constexpr std::string_view attributeList =
-    "“case”, “diacriticals”, “hyphens”, “numeric strings”, “punctuation”, “white space” or “application "
-    "responses”";
+Sentence anyAttribute() {
+    std::vector<std::string_view> words;
+    for (const Attribute& row : textAttributes) words.push_back(row.words.spelling());
+    return alternatives(words);
+}
 
 }  // namespace
 
@@ -109,7 +113,7 @@ NodeId BlockParser::ifThen() {
     children.append(expression());
     const bool hasThen = m_tokens.accept(Word::then);
     if (!m_tokens.isAtLineEnd()) {
-        if (!hasThen) m_tokens.expected("“then”");
+        if (!hasThen) m_tokens.expected(quoted("then"));
         children.append(statementBlock());
         return node;
     }
@@ -164,7 +168,7 @@ void BlockParser::repeatWith(NodeId node, ChildList& children) {
     }
     m_tree.nodes[node].kind = NodeKind::repeatRange;
     if (!m_tokens.accept(Word::from)) {
-        m_tokens.expected("“from” or “in”");
+        m_tokens.expected(alternatives({"from", "in"}));
         return;
     }
     children.append(expression());
@@ -221,8 +225,10 @@ std::uint32_t BlockParser::attributes(std::uint32_t others) {
         const std::uint32_t offset = m_tokens.offset();
         const std::uint32_t bit = attributeHere();
         if ((bit & others) != 0) {
-            m_tokens.fail(errornumber::considerAndIgnore,
-                          "Can’t both consider and ignore " + asciiLowered(token.text) + ".", offset);
+            m_tokens.fail(
+                errornumber::considerAndIgnore,
+                sentence("ScriptErrors", "Can’t both consider and ignore %1.").arg(asciiLowered(token.text)),
+                offset);
         }
         bits |= bit;
     } while (m_tokens.accept(TokenKind::comma) || m_tokens.accept(Word::andWord));
@@ -233,7 +239,7 @@ std::uint32_t BlockParser::attributeHere() {
     for (const Attribute& row : textAttributes) {
         if (m_tokens.acceptPhrase(row.words)) return row.bit;
     }
-    m_tokens.expected(attributeList);
+    m_tokens.expected(anyAttribute());
     return 0;
 }
 
@@ -259,7 +265,7 @@ NodeId BlockParser::usingTerms() {
         const NodeId application = m_grammar.applications.application();
         if (!m_tokens.failed() && m_tree.at(application).detail != 0) scope.setKnown(true);
     } else {
-        m_tokens.expected("“application”");
+        m_tokens.expected(quoted("application"));
     }
     const NodeId block = body();
     if (m_grammar.statements.acceptEnd(Word::usingWord)) m_tokens.acceptPhrase("terms from");

@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "platform/Sentence.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/Grammar.h"
 
 namespace script {
@@ -73,7 +75,11 @@ void CallParser::truths(ChildList& arguments, std::uint32_t& count) {
 }
 
 void CallParser::countParameter(std::uint32_t& count) {
-    if (++count > maxParameters) m_tokens.expectedAtMost(maxParameters, "parameters");
+    if (++count > maxParameters) {
+        m_tokens.fail(errornumber::syntax,
+                      sentence("ScriptErrors", "Expected at most %1 parameters but found more.")
+                          .arg(std::to_string(maxParameters)));
+    }
 }
 
 bool CallParser::isLabelWord(Word word) {
@@ -116,7 +122,8 @@ NameId CallParser::labelHere() {
         first.is(Word::apart) || first.is(Word::aside) || first.is(Word::instead) || first.is(Word::out);
     if (!isLong) return m_tree.names.intern(first.text);
     const std::string both = std::string(first.text) + " " + std::string(m_tokens.current().text);
-    if (!m_tokens.accept(Word::from) && !m_tokens.accept(Word::of)) m_tokens.expected("“from” or “of”");
+    if (!m_tokens.accept(Word::from) && !m_tokens.accept(Word::of))
+        m_tokens.expected(alternatives({"from", "of"}));
     return m_tree.names.intern(both);
 }
 

@@ -72,7 +72,7 @@ NodeId CommandParser::direct(const Command& command) {
         if (ends || m_tokens.isAt(Word::as)) return noNode;
     }
     if (command.isOfDictionary && parameterHere(command)) {
-        m_tokens.expected("expression");
+        m_tokens.expected(part::expression());
         return noNode;
     }
     const ArgumentScope scope(m_context,
@@ -132,7 +132,7 @@ bool CommandParser::truth(const Command& command, std::uint32_t& given, ChildLis
 }
 
 void CommandParser::failTwice(std::string_view label) {
-    m_tokens.fail(errornumber::parameterTwice, givenTwice(label, "parameter"));
+    m_tokens.fail(errornumber::parameterTwice, parameterTwice(label));
 }
 
 /// `default 5`: the first word of labels without the second one.

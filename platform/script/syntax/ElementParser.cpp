@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/syntax/ElementParser.h"
 
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/Grammar.h"
 
 namespace script {
@@ -144,7 +145,7 @@ NodeId ElementParser::ordinalPart(std::uint32_t offset, NodeId index, ElementFor
     std::optional<Kind> kind = kindHere();
     if (!kind && m_tokens.isAtPhrase("text")) kind = Kind{ElementKind::typed, Type::text};
     if (!kind) {
-        m_tokens.expected("class name");
+        m_tokens.expected(part::className());
         return noNode;
     }
     m_tokens.advance(kind->words);
@@ -244,7 +245,7 @@ NodeId ElementParser::withContainer(NodeId node) {
         m_tokens.advance();
         setContainer(node, m_grammar.expressions.reference());
     } else if (m_tree.at(node).kind == NodeKind::propertyOf) {
-        m_tokens.expected("“of”");
+        m_tokens.expected(quoted("of"));
     }
     return node;
 }

@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-#include "platform/script/source/Wording.h"
+#include "platform/Sentence.h"
 
 namespace script {
 namespace {
@@ -12,12 +12,10 @@ namespace {
 constexpr auto forbiddenCommands = std::to_array<Phrase>(
     {"do shell script", "run script", "load script", "store script", "open location", "say"});
 
-bool refuse(TokenStream& tokens, std::string_view words, std::string_view reason) {
-    tokens.fail(errornumber::syntax, quoted(words) + " is refused: " + std::string(reason));
+bool refuse(TokenStream& tokens, Sentence why) {
+    tokens.fail(errornumber::syntax, std::move(why));
     return true;
 }
-
-constexpr std::string_view onlyKeys = "a macro can press keys and nothing else.";
 
 }  // namespace
 
@@ -26,14 +24,18 @@ bool refuseForbiddenCommand(TokenStream& tokens) {
         if (!tokens.isAtPhrase(command)) continue;
         const bool isName = command.wordCount() == 1 && !tokens.ahead().is(TokenKind::text) &&
                             !tokens.ahead().is(TokenKind::identifier);
-        if (!isName) return refuse(tokens, command.spelling(), onlyKeys);
+        if (isName) continue;
+        return refuse(tokens,
+                      sentence("ScriptErrors", "“%1” is refused: a macro can press keys and nothing else.")
+                          .arg(command.spelling()));
     }
     return false;
 }
 
 bool refuseForbiddenStatement(TokenStream& tokens) {
     if (tokens.isAt(Word::script) && tokens.ahead().is(TokenKind::identifier)) {
-        return refuse(tokens, "script", "a macro is one script.");
+        return refuse(tokens,
+                      sentence("ScriptErrors", "“%1” is refused: a macro is one script.").arg("script"));
     }
     return false;
 }

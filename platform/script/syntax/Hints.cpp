@@ -12,6 +12,7 @@
 #include "platform/script/source/Lexer.h"
 #include "platform/script/source/TokenStream.h"
 #include "platform/script/source/Trivia.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/ErrorLine.h"
 #include "platform/script/syntax/Misspelt.h"
 #include "platform/script/syntax/Slips.h"
@@ -183,19 +184,20 @@ ScriptError explained(ScriptError error, const Tree& tree, std::string_view sour
     if (error.number != errornumber::syntax) return error;
     const auto open = openTextBefore(offsetOf(source, error.location), source);
     if (open) {
-        error.message = "Expected “\"” but found end of line.";
+        error.message = expectedButFound(quoted("\""), part::endOfLine());
         error.location = locate(source, *open);
         error.hint =
             sentence("Hints", "The text that begins here is not closed by a straight quote in its line.");
         return error;
     }
-    if (error.message.starts_with("Expected “*)”")) {
+    const std::string message = error.message.english();
+    if (message.starts_with("Expected “*)”")) {
         const std::uint32_t line = locate(source, openComment(source)).line;
         error.hint = sentence("Hints", "The comment that begins in line %1 is not closed by “*)”.")
                          .arg(std::to_string(line));
-    } else if (error.message.starts_with("Expected “end” but")) {
+    } else if (message.starts_with("Expected “end” but")) {
         error.hint = blockHint(error, tree, source);
-    } else if (error.message.starts_with("Expected expression but found “e")) {
+    } else if (message.starts_with("Expected expression but found “e")) {
         error.hint = strayEndHint(error, openBlockLines(error, tree, source), source);
     }
     if (error.hint.empty()) error.hint = hintOfLine(error, tree, source, isInsideTell);

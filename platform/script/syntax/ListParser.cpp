@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/Sentence.h"
 #include "platform/script/source/Wording.h"
 #include "platform/script/syntax/Grammar.h"
 #include "platform/script/values/Coercion.h"
@@ -37,7 +38,11 @@ void ListParser::items(NodeId list) {
     ChildList children(m_tree, list);
     std::uint32_t count = 0;
     do {
-        if (++count > maxListItems) m_tokens.expectedAtMost(maxListItems, "items in a list");
+        if (++count > maxListItems) {
+            m_tokens.fail(errornumber::syntax,
+                          sentence("ScriptErrors", "Expected at most %1 items in a list but found more.")
+                              .arg(std::to_string(maxListItems)));
+        }
         children.append(expression());
     } while (m_tokens.accept(TokenKind::comma));
 }
@@ -50,10 +55,15 @@ void ListParser::fields(NodeId record) {
         const std::string spelling(m_tokens.current().text);
         const NameId name = fieldName();
         if (std::find(names.begin(), names.end(), name) != names.end()) {
-            m_tokens.fail(errornumber::propertyTwice, givenTwice(spelling, "property"), offset);
+            m_tokens.fail(errornumber::propertyTwice, propertyTwice(spelling), offset);
         }
         names.push_back(name);
-        if (names.size() > maxFields) m_tokens.expectedAtMost(maxFields, "properties in a record");
+        if (names.size() > maxFields) {
+            m_tokens.fail(
+                errornumber::syntax,
+                sentence("ScriptErrors", "Expected at most %1 properties in a record but found more.")
+                    .arg(std::to_string(maxFields)));
+        }
         const NodeId field = m_tree.add(NodeKind::field, offset, name);
         ChildList(m_tree, field).append(expression());
         children.append(field);
@@ -62,7 +72,7 @@ void ListParser::fields(NodeId record) {
 
 NameId ListParser::fieldName() {
     if (!m_tokens.isAt(TokenKind::identifier)) {
-        m_tokens.expected("identifier");
+        m_tokens.expected(part::identifier());
         return 0;
     }
     const NameId name = m_grammar.names.nameHere();

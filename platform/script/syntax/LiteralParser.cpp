@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/script/source/Literal.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/values/MaxInteger.h"
 #include "platform/script/values/ModifierWords.h"
 #include "platform/script/values/Value.h"
@@ -48,7 +49,7 @@ NodeId LiteralParser::number() {
 NodeId LiteralParser::real() {
     const std::optional<double> value = realOf(m_tokens.current().text);
     if (!value) {
-        m_tokens.fail(errornumber::tooLarge, "The result of a numeric operation was too large.");
+        m_tokens.fail(errornumber::tooLarge, standardMessage(errornumber::tooLarge));
         return noNode;
     }
     return take(NodeKind::real, m_tree.addReal(*value));
@@ -56,7 +57,7 @@ NodeId LiteralParser::real() {
 
 NodeId LiteralParser::text() {
     if (!m_tokens.isAt(TokenKind::text)) {
-        m_tokens.expected("“\"”");
+        m_tokens.expected(quoted("\""));
         return noNode;
     }
     const std::string_view literal = m_tokens.current().text;
@@ -68,7 +69,7 @@ std::uint32_t LiteralParser::textValue(std::string_view spelling) {
     if (isPlain(spelling)) return m_tree.addText(spelling);
     Unescaped unescaped = unescape(spelling);
     if (unescaped.badEscape) {
-        m_tokens.fail(errornumber::syntax, "Expected “\"” but found unknown token.",
+        m_tokens.fail(errornumber::syntax, expectedButFound(quoted("\""), part::unknownToken()),
                       m_tokens.offset() + 1 + *unescaped.badEscape);
     }
     return m_tree.addDecoded(std::move(unescaped.text));

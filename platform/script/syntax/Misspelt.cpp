@@ -119,9 +119,10 @@ std::string wordMeant(const ScriptError& error, const ErrorLine& line,
         return isUnknown(word) && !isOther(word) ? wordLike(word, place) : "";
     };
     if (isUnknown(line.here())) {
-        if (std::string meant = expectedLike(line.here(), error.message); !meant.empty()) return meant;
+        if (std::string meant = expectedLike(line.here(), error.message.english()); !meant.empty())
+            return meant;
     }
-    const bool isOver = error.message.starts_with("Expected end of line but");
+    const bool isOver = error.message.english().starts_with("Expected end of line but");
     if (!isOver && line.here() != "down") return "";
     if (isOther(line.first()) && wordOf(line.first()) == Word::none) return "";
     if (isOver && line.isBehindFirst()) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/Grammar.h"
 #include "platform/script/values/PredefinedNames.h"
 
@@ -58,7 +59,7 @@ NodeId NameParser::memberOf(NodeKind owner) { return member(take(owner)); }
 NodeId NameParser::member(NodeId container) {
     m_tokens.skipFiller();
     if (!m_tokens.isAt(TokenKind::identifier)) {
-        m_tokens.expected("identifier");
+        m_tokens.expected(part::identifier());
         return noNode;
     }
     if (m_tokens.isAtPhrase("text item delimiters")) return delimiters();
@@ -138,7 +139,7 @@ bool NameParser::expectName() {
     const bool isName =
         token.is(TokenKind::identifier) &&
         (token.is(Word::none) || !m_tokens.means(token.word) || kindOf(token.word) == WordKind::special);
-    if (!isName) m_tokens.expected("identifier");
+    if (!isName) m_tokens.expected(part::identifier());
     return isName;
 }
 
@@ -147,7 +148,7 @@ std::optional<std::uint8_t> NameParser::expectClass() {
     const std::optional<std::uint8_t> index =
         m_tokens.isAt(TokenKind::identifier) ? findPredefinedName(m_tokens.current()) : std::nullopt;
     if (index && predefinedName(*index).kind == PredefinedName::Kind::type) return index;
-    m_tokens.expected("class name");
+    m_tokens.expected(part::className());
     return std::nullopt;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/script/syntax/PrimaryParser.h"
 
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/Forbidden.h"
 #include "platform/script/syntax/Grammar.h"
 #include "platform/script/syntax/Operators.h"
@@ -22,7 +23,7 @@ NodeId PrimaryParser::primary() {
         case TokenKind::identifier:
             return word();
         default:
-            m_tokens.expected("expression");
+            m_tokens.expected(part::expression());
             return noNode;
     }
 }
@@ -75,7 +76,7 @@ NodeId PrimaryParser::index() {
         }
         default:
             if (isAtIndex()) return m_grammar.names.plainName();
-            m_tokens.expected("expression");
+            m_tokens.expected(part::expression());
             return noNode;
     }
 }
@@ -119,7 +120,7 @@ NodeId PrimaryParser::reservedWord() {
     if (m_grammar.applications.isAtProcess()) return m_grammar.applications.process();
     if (!m_tokens.means(word) || kindOf(word) == WordKind::special) return m_grammar.names.nameOrCall();
     if (const NodeId node = m_grammar.literals.modifier(); node != noNode) return node;
-    m_tokens.expected("expression");
+    m_tokens.expected(part::expression());
     return noNode;
 }
 
@@ -190,7 +191,8 @@ bool PrimaryParser::refuseIncompleteCommand() {
     const bool isKey = m_tokens.isAt(Word::key);
     if (!isKey && !(m_tokens.isAt(Word::display) && m_tokens.ahead().is(TokenKind::identifier))) return false;
     m_tokens.advance();
-    m_tokens.expected(isKey ? "“code”, “down” or “up”" : "“dialog”, “alert” or “notification”");
+    m_tokens.expected(isKey ? alternatives({"code", "down", "up"})
+                            : alternatives({"dialog", "alert", "notification"}));
     return true;
 }
 

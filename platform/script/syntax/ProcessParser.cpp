@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/script/source/Name.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/Grammar.h"
 #include "platform/script/values/BinaryOperator.h"
 
@@ -99,8 +100,8 @@ void ProcessParser::refuse(NodeId test) {
     while (m_tree.at(test).kind == NodeKind::binary) test = m_tree.at(test).firstChild;
     const std::uint32_t begin = m_tree.at(test).offset;
     m_tokens.fail(errornumber::syntax,
-                  "Expected “name”, “frontmost”, “visible” or “background only” but found " +
-                      m_tokens.describeAt(begin) + ".",
+                  expectedButFound(alternatives({"name", "frontmost", "visible", "background only"}),
+                                   m_tokens.describeAt(begin)),
                   begin);
 }
 

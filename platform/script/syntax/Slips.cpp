@@ -277,9 +277,10 @@ std::string shownTextHint(const ErrorLine& line, const Tree& tree) {
 /// `keystroke down arrow`, `key code page up`
 std::string keyHint(const ScriptError& error, const ErrorLine& line) {
     if (line.first() != "keystroke" && line.first() != "key") return "";
-    if (!error.message.starts_with("Expected expression")) return keyNameAdvice(line.before() + line.here());
+    if (!error.message.english().starts_with("Expected expression"))
+        return keyNameAdvice(line.before() + line.here());
     std::string hint = keyNameAdvice(line.here() + line.behind());
-    return hint.empty() ? keyNameAdvice(line.here()) : hint;
+    return hint.empty() ? keyNameAdvice(line.here()).text() : hint;
 }
 
 bool isAscii(char c) { return (static_cast<unsigned char>(c) & 0x80U) == 0; }
@@ -318,7 +319,8 @@ bool isComment(std::string_view line) {
 std::string signHint(const ScriptError& error, const ErrorLine& place) {
     const std::string_view line = place.text();
     const std::string here = place.here();
-    const auto says = [&](std::string_view words) { return error.message.find(words) != std::string::npos; };
+    const std::string message = error.message.english();
+    const auto says = [&](std::string_view words) { return message.find(words) != std::string::npos; };
     const auto has = [&](std::string_view sign) { return line.find(sign) != std::string_view::npos; };
     if (says("unknown token U+")) return sentence("Hints", "A sign that nobody sees stands here; delete it.");
     if (isComment(line)) return sentence("Hints", "A comment begins with -- or #.");
@@ -356,19 +358,20 @@ std::string signHint(const ScriptError& error, const ErrorLine& place) {
 std::string hintOfLine(const ScriptError& error, const Tree& tree, std::string_view source,
                        bool knowsKeyboard) {
     const ErrorLine line(source, error.location);
+    const std::string message = error.message.english();
     const bool isInsideTell = knowsKeyboard || line.isTold();
     if (std::string hint = modifierHint(line); isInsideTell && !hint.empty()) return hint;
     if (std::string hint = signHint(error, line); !hint.empty()) return hint;
     if (std::string hint = keyHint(error, line); isInsideTell && !hint.empty()) return hint;
     if (std::string hint = shownTextHint(line, tree); !hint.empty()) return hint;
     if (line.here() == "with" && line.behind() == "format") return sentence("Hints", datingAdvice);
-    if (line.standsAgainstText() && error.message.starts_with(unexpected))
+    if (line.standsAgainstText() && message.starts_with(unexpected))
         return sentence("Hints", R"(A quote inside a text is written \": "Hello \"world\"".)");
     const auto isOther = [&](std::string_view word) { return isForeign(word) || sets(tree, word); };
     if (std::string word = wordMeant(error, line, isOther); !word.empty()) return didYouMean(word);
     const auto isHere = [&](const Slip& slip) {
         if (slip.where != Where::anywhere && (slip.where == Where::inside) != isInsideTell) return false;
-        return error.message.find(slip.inMessage) != std::string::npos && fits(line.first(), slip.first) &&
+        return message.find(slip.inMessage) != std::string::npos && fits(line.first(), slip.first) &&
                fits(line.before(), slip.before) && fits(line.here(), slip.here);
     };
     const auto* row = std::find_if(slips.begin(), slips.end(), isHere);

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/Sentence.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/Forbidden.h"
 #include "platform/script/syntax/Grammar.h"
 #include "platform/script/syntax/Operators.h"
@@ -51,7 +53,7 @@ bool StatementParser::acceptEnd(Word word) {
     const bool isNamed = m_tokens.ahead().is(TokenKind::identifier);
     if (!m_tokens.isAt(Word::end) || (word != Word::none && isNamed && !m_tokens.ahead().is(word)) ||
         (word == Word::none && isNamed && TokenStream::namesBlock(m_tokens.ahead().word))) {
-        m_tokens.expected("“end”");
+        m_tokens.expected(quoted("end"));
         return false;
     }
     m_tokens.advance();
@@ -131,7 +133,7 @@ NodeId StatementParser::copy(Word preposition) {
 NodeId StatementParser::target() {
     m_tokens.skipFiller();
     const bool isPattern = m_tokens.isAt(TokenKind::leftBrace);
-    const std::string found = m_tokens.describe();
+    const Sentence found = m_tokens.describe();
     const std::uint32_t offset = m_tokens.offset();
     const NodeId node = reference();
     if (m_tokens.failed()) return node;
@@ -214,7 +216,8 @@ void StatementParser::errorParts(ChildList& children, bool areTargets) {
 NodeId StatementParser::exitRepeat() {
     const NodeId node = m_tree.add(NodeKind::exitRepeat, m_tokens.offset());
     if (!m_context.isInLoop()) {
-        m_tokens.fail(errornumber::exitOutsideRepeat, "Exit statement was not in a repeat loop.");
+        m_tokens.fail(errornumber::exitOutsideRepeat,
+                      sentence("ScriptErrors", "Exit statement was not in a repeat loop."));
     }
     m_tokens.advance();
     m_tokens.accept(Word::repeat);

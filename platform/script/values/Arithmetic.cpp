@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/Sentence.h"
 #include "platform/script/source/ScriptError.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/Dates.h"
@@ -19,7 +20,7 @@ struct Number {
     bool whole = false;
 };
 
-Failure tooLarge() { return {errornumber::tooLarge, "The result of a numeric operation was too large."}; }
+Failure tooLarge() { return standardFailure(errornumber::tooLarge); }
 
 std::optional<Number> numeric(const Value& value) {
     const std::optional<double> number = numberOf(value);
@@ -73,7 +74,7 @@ Fallible<Value> joinedText(const Text& text, const Value& right, std::string_vie
         if (!made) return std::move(made).error();
         addition = made.value();
     }
-    if (text.str().size() + addition.size() > maxTextSize) return outOfMemory();
+    if (text.str().size() + addition.size() > maxTextSize) return standardFailure(errornumber::outOfMemory);
     return Value{text.with(addition)};
 }
 
@@ -83,7 +84,7 @@ Fallible<Value> joinedRecord(const RecordBody& left, RecordBody& right) {
     for (const Field& field : right.fields) {
         if (both->find(*field.name) == nullptr) both->add(field);
     }
-    if (both->fields.size() > maxFields) return outOfMemory();
+    if (both->fields.size() > maxFields) return standardFailure(errornumber::outOfMemory);
     return Value{both};
 }
 
@@ -120,7 +121,8 @@ Fallible<Value> calculated(BinaryOperator operation, const Value& left, const Va
     const std::optional<Number> rightNumber = numeric(right);
     if (!rightNumber) return cannotMake(right, "number");
     if (divides(operation) && rightNumber->value == 0) {
-        return Failure{errornumber::divisionByZero, "Can’t divide " + quotedForm(left) + " by zero."};
+        return Failure{errornumber::divisionByZero,
+                       sentence("ScriptErrors", "Can’t divide %1 by zero.").arg(quotedForm(left))};
     }
     return calculate(operation, *leftNumber, *rightNumber);
 }

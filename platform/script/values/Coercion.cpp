@@ -24,7 +24,8 @@ class Joiner {
     explicit Joiner(std::string_view delimiter) : m_delimiter(delimiter) {}
 
     bool add(const Value& value) {
-        if (++m_steps > maxSteps || m_out.size() > maxTextSize) return fail(outOfMemory());
+        if (++m_steps > maxSteps || m_out.size() > maxTextSize)
+            return fail(standardFailure(errornumber::outOfMemory));
         if (const List* list = value.list()) return addItems(*list);
         if (value.reference() != nullptr) return addReferenced(value);
         std::optional<std::string> text = simpleText(value);
@@ -35,7 +36,7 @@ class Joiner {
 
     Fallible<std::string> take() {
         if (m_failure.number != 0) return std::move(m_failure);
-        if (m_out.size() > maxTextSize) return outOfMemory();
+        if (m_out.size() > maxTextSize) return standardFailure(errornumber::outOfMemory);
         return std::move(m_out);
     }
 
@@ -49,7 +50,7 @@ class Joiner {
     }
 
     bool addItems(const List& list) {
-        if (++m_depth > maxDepth) return fail({errornumber::stackOverflow, "Stack overflow."});
+        if (++m_depth > maxDepth) return fail(standardFailure(errornumber::stackOverflow));
         bool isFirst = true;
         for (const Value& item : list) {
             if (!std::exchange(isFirst, false)) m_out += m_delimiter;
@@ -60,7 +61,7 @@ class Joiner {
     }
 
     bool addReferenced(const Value& value) {
-        if (++m_depth > maxDepth) return fail({errornumber::stackOverflow, "Stack overflow."});
+        if (++m_depth > maxDepth) return fail(standardFailure(errornumber::stackOverflow));
         Fallible<Value> found = resolved(value);
         if (!found) return fail(std::move(found).error());
         const bool added = add(found.value());
@@ -153,10 +154,9 @@ std::optional<Value> asType(const Value& value, Type type) {
 
 }  // namespace
 
-Failure outOfMemory() { return {errornumber::outOfMemory, "Out of memory."}; }
-
 Failure tooManyItems() {
-    return {errornumber::outOfMemory, "A list holds at most " + std::to_string(maxListItems) + " items.",
+    return {errornumber::outOfMemory,
+            sentence("ScriptErrors", "A list holds at most %1 items.").arg(std::to_string(maxListItems)),
             sentence("Hints", "Take the items in parts, or paragraphs instead of characters.")};
 }
 
@@ -216,10 +216,13 @@ List itemsOf(const Value& value) {
 Fallible<Value> resolved(Value value) {
     constexpr int maxDepth = 100;
     for (int depth = 0; value.reference() != nullptr; ++depth) {
-        if (depth == maxDepth) return Failure{errornumber::stackOverflow, "Stack overflow."};
+        if (depth == maxDepth) return standardFailure(errornumber::stackOverflow);
         const ReferenceBody& reference = *value.reference();
         if (const CellBody* cell = reference.container.cell()) {
-            if (cell->content.is<Nothing>()) return cannotGet("contents of a variable that is not set");
+            if (cell->content.is<Nothing>()) {
+                return Failure{errornumber::noSuchObject,
+                               sentence("ScriptErrors", "Can’t get contents of a variable that is not set.")};
+            }
             value = Value(cell->content);
             continue;
         }

@@ -17,9 +17,6 @@ inline constexpr std::size_t maxTextSize = 16U << 20U;
 inline constexpr std::size_t maxListItems = 100000;
 inline constexpr std::size_t maxFields = 1000;
 
-/// "Out of memory." (-108)
-Failure outOfMemory();
-
 /// "A list holds at most 100000 items." (-108)
 Failure tooManyItems();
 

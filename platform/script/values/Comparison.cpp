@@ -18,7 +18,7 @@ class Equality {
 
     bool operator()(const Value& left, const Value& right) {
         if (m_failure.number != 0 || ++m_steps > maxSteps) {
-            if (m_failure.number == 0) m_failure = {errornumber::timedOut, "AppleEvent timed out."};
+            if (m_failure.number == 0) m_failure = standardFailure(errornumber::timedOut);
             return false;
         }
         if (isNumber(left) && isNumber(right)) return *numberOf(left) == *numberOf(right);
@@ -69,7 +69,7 @@ class Equality {
     template <typename Step>
     bool descend(const Step& step) {
         if (++m_depth > maxDepth && m_failure.number == 0) {
-            m_failure = {errornumber::stackOverflow, "Stack overflow."};
+            m_failure = standardFailure(errornumber::stackOverflow);
         }
         const bool equal = m_failure.number == 0 && step();
         --m_depth;

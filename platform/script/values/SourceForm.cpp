@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "platform/Sentence.h"
 #include "platform/Utf8.h"
 #include "platform/script/source/Scoped.h"
 #include "platform/script/source/ScriptError.h"
@@ -213,15 +214,21 @@ std::string sourceForm(const Element& element) {
     }
 }
 
-Failure cannotMake(const Value& value, std::string_view type) {
-    return {errornumber::cannotCoerce,
-            "Can’t make " + quotedForm(value) + " into type " + std::string(type) + "."};
+Failure standardFailure(int number) { return {number, standardMessage(number)}; }
+
+Failure cannotMake(const Value& value, Sentence type) {
+    return {
+        errornumber::cannotCoerce,
+        sentence("ScriptErrors", "Can’t make %1 into type %2.").arg(quotedForm(value)).arg(std::move(type))};
 }
 
-Failure cannotGet(const std::string& what) { return {errornumber::noSuchObject, "Can’t get " + what + "."}; }
+Failure cannotGet(const std::string& what) {
+    return {errornumber::noSuchObject, sentence("ScriptErrors", "Can’t get %1.").arg(what)};
+}
 
 Failure cannotSet(const std::string& what, const Value& value) {
-    return {errornumber::cannotSet, "Can’t set " + what + " to " + quotedForm(value) + "."};
+    return {errornumber::cannotSet,
+            sentence("ScriptErrors", "Can’t set %1 to %2.").arg(what).arg(quotedForm(value))};
 }
 
 }  // namespace script

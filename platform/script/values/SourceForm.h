@@ -25,8 +25,11 @@ std::string quotedForm(const Value& value);
 /// As spelled in front of its container: "item 2", "text 2 thru 3", "some word".
 std::string sourceForm(const Element& element);
 
+/// What is wrong without further words: standardMessage(number).
+Failure standardFailure(int number);
+
 /// "Can’t make VALUE into type TYPE." (-1700)
-Failure cannotMake(const Value& value, std::string_view type);
+Failure cannotMake(const Value& value, Sentence type);
 
 /// "Can’t get WHAT." (-1728)
 Failure cannotGet(const std::string& what);

@@ -237,9 +237,9 @@ struct TargetBody : Counted {
 /// Why a step of a run failed; the place is added by who knows it.
 struct Failure {
     int number = 0;
-    std::string message;
     /// As those of a ScriptError.
-    std::string hint = {};
+    Sentence message;
+    Sentence hint = {};
     /// What `error` was given beside them, or nothing.
     Value from = {};
     Value partialResult = {};

@@ -96,7 +96,8 @@ TEST_F(AppControllerTest, showsWhichHotKeyIsRefusedAndWhy) {
     platform().settings.put("playCode", 35);
     platform().settings.put("playFlags", controlflag::control);
     controller.awakeFromNib();
-    EXPECT_EQ(statusItem.shownNotice, "Play has no shortcut. " + platform().hotKeys.state(3).error->message);
+    EXPECT_EQ(statusItem.shownNotice,
+              "Play has no shortcut. " + platform().hotKeys.state(3).error->message.text());
 }
 
 TEST_F(AppControllerTest, saysWhyNothingCanBeRecordedHere) {

@@ -2,6 +2,7 @@
 #include <QLineEdit>
 
 #include "app/AppTest.h"
+#include "app/languages/Catalogues.h"
 #include "app/overlay/MultiplePlayWindow.h"
 #include "app/tray/MacroMenuItem.h"
 #include "core/MacroManager.h"
@@ -30,6 +31,17 @@ TEST_F(PlaybackNoticesTest, nameLineAndMessageOfAScriptThatFails) {
     platform().scripting.failNextCall({"Can't divide.", ""});
     controller.playMacro(nullptr);
     EXPECT_EQ(messages(), (Messages{{"The macro was not played to its end", "Line 2: Can't divide."}}));
+}
+
+TEST_F(PlaybackNoticesTest, areInTheLanguageOfTheDesktopWhenTheyAreShown) {
+    platform().scripting.refuse(
+        "script", {.hasBegun = false,
+                   .line = 1,
+                   .error = {sentence("ScriptErrors", "Can’t divide %1 by zero.").arg("1"), ""}});
+    const Catalogues german({"de"});
+    controller.playMacro(nullptr);
+    EXPECT_EQ(messages(), (Messages{{"Das Makro kann nicht abgespielt werden",
+                                     "Zeile 1: 1 kann nicht durch null geteilt werden."}}));
 }
 
 TEST_F(PlaybackNoticesTest, comeOnceForAPlayCommandHoweverOftenItPlays) {

@@ -7,10 +7,13 @@
 #include <map>
 #include <string>
 
+#include "app/macros/ScriptCheck.h"
 #include "app/macros/StepText.h"
+#include "app/macros/StepsModel.h"
 #include "app/program/CommandLine.h"
 #include "platform/KeyCodes.h"
 #include "platform/Sentence.h"
+#include "platform/fake/FakeKeyboardLayout.h"
 #include "platform/sessions/Sessions.h"
 
 namespace {
@@ -109,6 +112,17 @@ TEST(CataloguesTest, whatRoomsWithoutAToolkitSayIsTranslatedToo) {
         const Catalogues none({"en"});
     }
     EXPECT_EQ(unreadable(), "The file /a cannot be read: %1");
+}
+
+TEST(CataloguesTest, whatIsWrongWithAScriptIsToldInTheLanguageOfTheDesktop) {
+    const std::string source = "tell application \"System Events\"\nkey code\nend tell";
+    const FakeKeyboardLayout layout;
+    StepsModel steps(layout);
+    const Catalogues german({"de"});
+    const std::string message = "Erwartet wurde ein Ausdruck, gefunden wurde das Zeilenende.";
+    EXPECT_EQ(problemsOf(source), (std::vector<ScriptProblem>{{2, 9, true, message}}));
+    steps.showScript(source);
+    EXPECT_EQ(steps.notice().toStdString(), "Zeile 2: " + message);
 }
 
 TEST(CataloguesTest, theToolkitsButtonsAreTranslatedToo) {

@@ -43,7 +43,7 @@ class TextReaderTest : public testing::Test {
   protected:
     TextReaderTest() {
         const auto note = [this](const std::string& path, const Result<std::string>& text) {
-            told.push_back(path + ": " + (text ? text.value() : text.error().message));
+            told.push_back(path + ": " + (text ? text.value() : text.error().message.text()));
             if (told.size() == m_awaited) m_loop.quit();
         };
         QObject::connect(&reader, &TextReader::wasReadFirst, note);

@@ -81,7 +81,7 @@ TEST_F(WorkspaceTest, tellsThatNothingIsThereToOpenWith) {
     setenv("PATH", folder.file("bin").c_str(), 1);
     const Result<> opened = workspace.openUrl("https://www.orlen.example/");
     ASSERT_FALSE(opened);
-    EXPECT_EQ(opened.error().message.substr(0, 42), "The program xdg-open cannot be started: Fa");
+    EXPECT_EQ(opened.error().message.text().substr(0, 42), "The program xdg-open cannot be started: Fa");
     EXPECT_EQ(opened.error().hint, "Install the package xdg-utils.");
 }
 

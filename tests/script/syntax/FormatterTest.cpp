@@ -11,7 +11,7 @@ namespace {
 
 std::string format(const std::string& source) {
     const auto result = script::formatted(source);
-    return result ? result.value() : "error: " + result.error().message;
+    return result ? result.value() : "error: " + result.error().message.text();
 }
 
 using Row = SourceRow;

@@ -21,7 +21,7 @@ Value text(const char* value) { return Value{std::string(value)}; }
 /// The spelled value, or the error's number and message.
 std::string result(const script::Fallible<Value>& outcome) {
     if (outcome) return script::sourceForm(outcome.value());
-    return std::to_string(outcome.error().number) + " " + outcome.error().message;
+    return std::to_string(outcome.error().number) + " " + outcome.error().message.text();
 }
 
 std::string result(const Value& left, BinaryOperator operation, const Value& right) {

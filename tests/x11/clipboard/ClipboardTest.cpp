@@ -63,7 +63,7 @@ class ClipboardTest : public testing::Test {
 
 std::string textOf(x11::X11Clipboard& clipboard) {
     const auto text = clipboard.text();
-    return text ? text.value() : "error: " + text.error().message;
+    return text ? text.value() : "error: " + text.error().message.text();
 }
 
 TEST_F(ClipboardTest, isEmptyWhereNobodyHasCopied) { EXPECT_EQ(textOf(clipboard), ""); }

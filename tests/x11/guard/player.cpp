@@ -36,7 +36,7 @@ void handle(int /*signal*/) { playing->interrupt(); }
 
 bool goesOn(const Step<>& step) {
     if (!step && !step.error().isCancelled())
-        std::fprintf(stderr, "%s\n", step.error().error->message.c_str());
+        std::fprintf(stderr, "%s\n", step.error().error->message.text().c_str());
     return bool(step);
 }
 
