@@ -962,7 +962,8 @@ const manualIndex = [
 "`global` tell application \"System Events\" the keyboard commands stand inside ... end tell ",
 "considering case ... end considering ignoring white space and punctuation ... end ignoring ",
 "Escape, held for 0.3 seconds, or the stop combination ends a script wherever it is, also ",
-"inside try."
+"inside try. The message that a script catches is English, whatever language the desktop ",
+"speaks. People are shown it in their own; what error was given is shown as it was written."
 ]
 },
 {

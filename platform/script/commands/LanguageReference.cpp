@@ -108,6 +108,9 @@ can be set.
 
 `Escape`, held for 0.3 seconds, or the stop combination ends a script wherever it is, also inside `try`.
 
+The `message` that a script catches is English, whatever language the desktop speaks. People are shown it in their own; what
+`error` was given is shown as it was written.
+
 ## Commands
 )";
 
