@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 #include "platform/Sentence.h"
 #include "platform/Utf8.h"
@@ -222,13 +223,13 @@ Failure cannotMake(const Value& value, Sentence type) {
         sentence("ScriptErrors", "Can’t make %1 into type %2.").arg(quotedForm(value)).arg(std::move(type))};
 }
 
-Failure cannotGet(const std::string& what) {
-    return {errornumber::noSuchObject, sentence("ScriptErrors", "Can’t get %1.").arg(what)};
+Failure cannotGet(std::string what) {
+    return {errornumber::noSuchObject, sentence("ScriptErrors", "Can’t get %1.").arg(std::move(what))};
 }
 
-Failure cannotSet(const std::string& what, const Value& value) {
+Failure cannotSet(std::string what, const Value& value) {
     return {errornumber::cannotSet,
-            sentence("ScriptErrors", "Can’t set %1 to %2.").arg(what).arg(quotedForm(value))};
+            sentence("ScriptErrors", "Can’t set %1 to %2.").arg(std::move(what)).arg(quotedForm(value))};
 }
 
 }  // namespace script

@@ -32,9 +32,9 @@ Failure standardFailure(int number);
 Failure cannotMake(const Value& value, Sentence type);
 
 /// "Can’t get WHAT." (-1728)
-Failure cannotGet(const std::string& what);
+Failure cannotGet(std::string what);
 
 /// "Can’t set WHAT to VALUE." (-10006)
-Failure cannotSet(const std::string& what, const Value& value);
+Failure cannotSet(std::string what, const Value& value);
 
 }  // namespace script
