@@ -56,16 +56,6 @@ int print(const std::string& text) {
     end(askForAction(wishes));
 }
 
-/// There is no session to work in.
-int refuse(const CommandLine& wishes, const Error& why) {
-    const TerminalApplication terminal;
-    const auto known = checkOwnOptions(wishes);
-    if (!known) return reportFailure(known.error());
-    // Asked once more, since nobody had found out the user's language by then.
-    const auto session = enterSession(wishes.session);
-    return reportFailure(session ? why : session.error());
-}
-
 }  // namespace
 
 // Nothing is touched before it is certain that this is the only one.
@@ -75,7 +65,11 @@ int main(int argc, char* argv[]) {
     if (wishes.wish == CommandLine::Wish::version) return print("keyrill " KEYRILL_VERSION "\n");
     if (wishes.wish != CommandLine::Wish::start || wishes.action) answerAtTerminal(wishes);
     const auto session = enterSession(wishes.session);
-    if (!session) return refuse(wishes, session.error());
+    if (!session) {
+        const TerminalApplication terminal;
+        const auto known = checkOwnOptions(wishes);
+        return reportFailure(known ? session.error() : known.error());
+    }
     avoidHangingSessionBus();
     const QApplication application(argc, argv);
     const Catalogues catalogues;
