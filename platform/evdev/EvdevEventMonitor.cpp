@@ -28,6 +28,8 @@ void EvdevEventMonitor::endPlaysWhen(std::function<bool()> endsPlays) {
     m_parts->endPlaysWhen(std::move(endsPlays));
 }
 
+std::uint32_t EvdevEventMonitor::eventTime() const { return m_parts->eventTime(); }
+
 RunWatch& EvdevEventMonitor::runWatch() { return *m_parts; }
 const KeyboardState& EvdevEventMonitor::keyboard() const { return m_parts->keyboard(); }
 

@@ -79,6 +79,9 @@ class EvdevEventMonitor final : public EventSource, public EventMonitor, public 
     /// The desktop has forgotten all that the grabber has taken, so that it is taken again.
     void desktopForgot();
 
+    /// The time now, by the clock of the events that it delivers.
+    std::uint32_t eventTime() const;
+
     /// A playback ends where that answers true: the screen is locked, as others tell.
     void endPlaysWhen(std::function<bool()> endsPlays);
 

@@ -155,7 +155,7 @@ void EvdevEventMonitor::Parts::desktopPresses(const KeyGrab& grab) {
     if (m_withheld) return;
     m_desktopDown.emplace(grab.keycode, *id);
     if (m_hotKeys.startsPlayback(*id)) awaitHands(grab.modifiers);
-    m_interpreter.deliveries().emplace_back(HotKeyEvent{*id, true, KeyStream::serverTime(m_stream.now())});
+    m_interpreter.deliveries().emplace_back(HotKeyEvent{*id, true, eventTime()});
 }
 
 void EvdevEventMonitor::Parts::desktopReleases(const KeyGrab& grab) {
@@ -165,7 +165,7 @@ void EvdevEventMonitor::Parts::desktopReleases(const KeyGrab& grab) {
     const std::optional<HotKeyId> id = down->second;
     m_desktopDown.erase(down);
     if (!id) return;
-    m_interpreter.deliveries().emplace_back(HotKeyEvent{*id, false, KeyStream::serverTime(m_stream.now())});
+    m_interpreter.deliveries().emplace_back(HotKeyEvent{*id, false, eventTime()});
     if (m_awaitsHands) m_assumedUntil = m_clock.now() + handsAreUp;
 }
 

@@ -52,6 +52,7 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     void setRepeatRule(const RepeatRule& rule);
     void listenTo(EventSource& desktop);
     void desktopTells(const KeyGrab& grab, bool press);
+    std::uint32_t eventTime() const { return KeyStream::serverTime(m_stream.now()); }
     void desktopForgot();
     void setWithheld(bool withheld);
     void setKeepsOwnStrokes(bool keeps);

@@ -8,6 +8,7 @@ Result<void> LockAwareMonitor::install(Handler handler) {
 
 void LockAwareMonitor::setRecording(bool recording) {
     m_isHeld = false;
+    m_opened.reset();
     m_isRecording = recording;
     if (recording) m_wakeups.startTimer(m_rest);
     m_monitor.setRecording(recording);
@@ -31,10 +32,18 @@ void LockAwareMonitor::deliver(const KeyEvent& event) {
     // A modifier is no sign of a user who types, and tells as much of a password.
     const bool isModifierKey =
         event.kind == KeyEventKind::modifierKeyDown || event.kind == KeyEventKind::modifierKeyUp;
-    if (isModifierKey && m_isLocked()) return;
-    if (!isPress || !m_isHeld) m_handler(event);
+    if (isModifierKey && (m_isLocked() || isForLocker(event))) return;
+    if (!isPress || !(m_isHeld || isForLocker(event))) m_handler(event);
+}
+
+bool LockAwareMonitor::isForLocker(const KeyEvent& event) const {
+    if (!m_opened) return false;
+    const auto later = static_cast<std::int32_t>(*m_opened - event.time);
+    return later > quickestUnlock.count();
 }
 
 void LockAwareMonitor::hold(bool isHeld) {
-    if (std::exchange(m_isHeld, isHeld) != isHeld && m_holdChanged) m_holdChanged(isHeld);
+    if (std::exchange(m_isHeld, isHeld) == isHeld) return;
+    if (!isHeld) m_opened = m_now();
+    if (m_holdChanged) m_holdChanged(isHeld);
 }

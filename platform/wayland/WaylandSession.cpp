@@ -223,7 +223,8 @@ class WaylandSession final : public Session {
     WaylandKeyboardLayout m_layout{m_seat};
     WaylandScriptDesktop m_scriptDesktop{[this] { return openWindows(); }};
     WaylandSessionCheck m_check;
-    LockAwareMonitor m_lockAwareMonitor{m_keys, [this] { return hasLockerKeyboard(); }};
+    LockAwareMonitor m_lockAwareMonitor{m_keys, [this] { return hasLockerKeyboard(); },
+                                        [this] { return m_keys.eventTime(); }};
     NoEventMonitor m_noMonitor{noMonitor()};
     NoHotKeys m_noHotKeys{noHotKeys()};
     std::unique_ptr<XWindowFocus> m_focus = focusAmongXWindows();

@@ -36,7 +36,8 @@ class LockerWorld final : public HeldKeyboardWorld {
 
     EvdevWorld m_world;
     bool m_isLocked = false;
-    LockAwareMonitor m_monitor{m_world.monitor(), [this] { return m_isLocked; }, betweenLooks};
+    LockAwareMonitor m_monitor{m_world.monitor(), [this] { return m_isLocked; }, [] { return 0U; },
+                               betweenLooks};
 };
 
 std::unique_ptr<KeyboardWorld> makeLockerWorld() { return std::make_unique<LockerWorld>(); }

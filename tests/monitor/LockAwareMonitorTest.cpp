@@ -26,10 +26,15 @@ class LockAwareMonitorTest : public testing::Test {
         m_monitor.setRecording(true);
     }
 
-    void press(char character) {
+    /// It comes when the loop turns.
+    void pressed(char character) {
         m_platform.eventMonitor.reportKeyPress({.keyCode = key::a, .character = character}, 0);
+    }
+    void press(char character) {
+        pressed(character);
         m_platform.desktop.turnLoop();
     }
+    void wait(int milliseconds) { m_platform.clock.advance(std::chrono::milliseconds(milliseconds)); }
     bool isWoken(std::chrono::milliseconds patience) const {
         pollfd entry{.fd = m_monitor.fileDescriptor(), .events = POLLIN, .revents = 0};
         return poll(&entry, 1, static_cast<int>(patience.count())) > 0;
@@ -45,7 +50,8 @@ class LockAwareMonitorTest : public testing::Test {
     FakePlatform m_platform;
     bool m_isLocked = false;
     std::string m_heard;
-    LockAwareMonitor m_monitor{m_platform.eventMonitor, [this] { return m_isLocked; }, rest};
+    LockAwareMonitor m_monitor{m_platform.eventMonitor, [this] { return m_isLocked; },
+                               [this] { return m_platform.desktop.eventTime(); }, rest};
 };
 
 TEST_F(LockAwareMonitorTest, deliversWhatIsTypedIntoWindows) {
@@ -72,6 +78,34 @@ TEST_F(LockAwareMonitorTest, tellsOfALockerWithoutAnyKey) {
     m_isLocked = false;
     look();
     EXPECT_EQ(heard(), "<>");
+}
+
+TEST_F(LockAwareMonitorTest, whatWasTypedIntoALockerAndComesWhenItHasGoneIsKeptBack) {
+    m_isLocked = true;
+    press('s');
+    pressed('e');
+    wait(100);
+    pressed('c');
+    wait(100);
+    m_isLocked = false;
+    pressed('a');
+    wait(10);
+    m_platform.desktop.turnLoop();
+    wait(1000);
+    press('b');
+    EXPECT_EQ(heard(), "<>ab");
+}
+
+TEST_F(LockAwareMonitorTest, soItIsWhereTheTimerHasSeenIt) {
+    m_isLocked = true;
+    look();
+    pressed('e');
+    wait(100);
+    m_isLocked = false;
+    look();
+    m_platform.desktop.turnLoop();
+    press('a');
+    EXPECT_EQ(heard(), "<>a");
 }
 
 TEST_F(LockAwareMonitorTest, looksForNoneAfterTheRecording) {
