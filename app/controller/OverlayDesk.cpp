@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/controller/OverlayDesk.h"
 
+#include <QApplication>
+
 #include "app/controller/Stage.h"
 #include "app/overlay/Alphas.h"
 #include "app/overlay/MultiplePlayWindow.h"
@@ -95,6 +97,7 @@ void OverlayDesk::showPrompt(bool plays) {
     MultiplePlayWindow& prompt = builtPrompt();
     prompt.setPlays(plays);
     prompt.focusTimesText();
+    if (!prompt.isVisible()) m_isAskedFromWindow = QApplication::activeWindow() != nullptr;
     m_stage.unhide();
     m_stage.fadeIn(prompt, overlayAlpha);
     // A press that is long past is no permission to take the focus; the click on the menu is.
@@ -113,7 +116,9 @@ void OverlayDesk::setPromptPlays(bool plays) {
 std::int32_t OverlayDesk::leaveToPlay() {
     // The prompt has the focus and goes last: while it is there, nobody passes the focus on to one of the
     // others, to be lost with that.
-    m_stage.hide(m_prompt.get());
+    // From a layer the focus goes back to where it was. Windows that were hidden for nothing would be given
+    // it by many a compositor when they are shown anew.
+    if (m_isAskedFromWindow || !WindowOnLayer::holds(*m_prompt)) m_stage.hide(m_prompt.get());
     m_stage.fadeOut(*m_prompt);
     m_clock.sleepFor(pauseBeforeMultiplePlay);
     const std::int32_t count = playCountFromText(m_prompt->timesText().toStdString());

@@ -72,5 +72,7 @@ class OverlayDesk : public QObject {
     bool m_keysAreHeldBack = false;
     bool m_waitsForPermission = false;
     std::unique_ptr<MultiplePlayWindow> m_prompt;
+    /// Whether the user was in another window of ours when the prompt came.
+    bool m_isAskedFromWindow = false;
     std::unique_ptr<SplashWindow> m_splash;
 };
