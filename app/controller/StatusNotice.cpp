@@ -40,7 +40,7 @@ void StatusNotice::noteHotKey(HotKeyId id, const HotKeyState& state) {
 
 QStringList StatusNotice::refusals() const {
     const auto isFirst = [this](const auto& entry) { return entry.second == m_refused.begin()->second; };
-    if (m_refused.size() > 1 && std::all_of(m_refused.begin(), m_refused.end(), isFirst))
+    if (m_refused.size() == shortcutRows.size() && std::all_of(m_refused.begin(), m_refused.end(), isFirst))
         return {QString::fromStdString(inOneParagraph(m_refused.begin()->second))};
     QStringList lines;
     for (const auto& [id, error] : m_refused)

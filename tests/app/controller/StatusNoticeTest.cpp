@@ -25,10 +25,14 @@ TEST(StatusNoticeTest, oneReasonForAllIsToldOnceWithWhatToDo) {
     StatusNotice notice(item);
     const HotKeyState none{.status = HotKeyStatus::refused, .error = Error{"There are none.", "Bind keys."}};
     notice.noteHotKey(1, none);
-    EXPECT_EQ(item.shownNotice, "Start Recording has no shortcut. There are none.");
     notice.noteHotKey(3, none);
+    // Two that wish what a third one has are told by the same error.
+    EXPECT_EQ(item.shownNotice,
+              "Start Recording has no shortcut. There are none.\nPlay has no shortcut. There are none.");
     notice.noteHotKey(2, none);
+    notice.noteHotKey(4, none);
     EXPECT_EQ(item.shownNotice, "There are none. Bind keys.");
+    notice.noteHotKey(4, {.status = HotKeyStatus::registered, .error = std::nullopt});
     notice.noteHotKey(3, {.status = HotKeyStatus::refused, .error = Error{"P cannot be used.", ""}});
     EXPECT_EQ(item.shownNotice,
               "Start Recording has no shortcut. There are none.\n"
