@@ -42,7 +42,8 @@ zwlr_data_control_manager_v1* bindManager(const WaylandConnection& connection) {
 }  // namespace
 
 bool ClipboardDevice::isOffered(const WaylandConnection& connection) {
-    return connection.offers(standardManager()) || connection.offers(zwlr_data_control_manager_v1_interface);
+    return connection.seat() != nullptr && (connection.offers(standardManager()) ||
+                                            connection.offers(zwlr_data_control_manager_v1_interface));
 }
 
 Result<std::unique_ptr<ClipboardDevice>> ClipboardDevice::open() {

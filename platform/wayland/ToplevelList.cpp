@@ -20,7 +20,7 @@ constexpr std::uint32_t activated = 2;
 }  // namespace
 
 bool ToplevelList::isOffered(const WaylandConnection& connection) {
-    return connection.offers(zwlr_foreign_toplevel_manager_v1_interface);
+    return connection.offers(zwlr_foreign_toplevel_manager_v1_interface) && connection.seat() != nullptr;
 }
 
 Result<std::unique_ptr<ForeignWindows>> ToplevelList::open() {

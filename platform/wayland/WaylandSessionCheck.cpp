@@ -68,9 +68,8 @@ CapabilityState windowsState(const WaylandConnection& connection, const DesktopS
     if (desktop.isKde() && KWinScripts::isThere(*desktop.bus())) {
         return {Extent::fully, Means::kwinScripts, Lack::nothing};
     }
-    if (desktop.isSway()) return {Extent::fully, Means::swayTree};
-    return fullyIf(!desktop.isKde() && ToplevelList::isOffered(connection), Means::toplevels,
-                   Lack::foreignWindows);
+    return fullyIf(!desktop.isKde() && ToplevelList::isOffered(connection),
+                   desktop.isSway() ? Means::swayTree : Means::toplevels, Lack::foreignWindows);
 }
 
 }  // namespace
