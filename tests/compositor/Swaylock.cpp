@@ -6,6 +6,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "compositor/ScreenPicture.h"
 #include "compositor/Sway.h"
 #include "support/Child.h"
 
@@ -14,7 +15,9 @@ Swaylock::Swaylock(const Sway& sway)
     // Sway takes dollars for its own variables.
     std::ofstream(m_file + ".sh") << "echo $$ > " << m_file << "\nexec swaylock --color 203040\n";
     m_sway.message({"exec", "sh " + m_file + ".sh"});
-    if (!eventually([this] { return hasKeyboard(); })) throw std::runtime_error("swaylock does not lock");
+    const auto isPainted = [&sway] { return ScreenPicture(sway).at(0, 0) == colour; };
+    if (!eventually([&] { return hasKeyboard() && isPainted(); }))
+        throw std::runtime_error("swaylock does not lock");
 }
 
 void Swaylock::open() {

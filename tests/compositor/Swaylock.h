@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <string>
 
 class Sway;
@@ -11,6 +13,9 @@ class Swaylock {
     /// The screen is locked, and the locker has the keyboard, when this returns; one that does not lock fails
     /// the test by an exception.
     explicit Swaylock(const Sway& sway);
+
+    /// Its own, all over the screen until keys are pressed.
+    static constexpr std::array<std::uint8_t, 3> colour{0x20, 0x30, 0x40};
 
     /// As the user's password does; a window has the keyboard again when it returns.
     void open();

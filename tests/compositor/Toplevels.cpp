@@ -70,7 +70,7 @@ struct Toplevels::Parts {
 
     /// As the compositor has told by now.
     void update() {
-        wl_display_roundtrip(display);
+        if (wl_display_roundtrip(display) < 0) throw std::runtime_error("the compositor has gone");
         for (const Toplevel& toplevel : toplevels) {
             if (toplevel.isClosed) zwlr_foreign_toplevel_handle_v1_destroy(toplevel.handle);
         }

@@ -101,9 +101,11 @@ class Line:
 def main():
     wishes = sys.argv[1:]
     listener = socket.socket(socket.AF_UNIX)
-    listener.bind(wishes[1])
-    os.chmod(wishes[1], 0o777)
+    listener.bind(wishes[1] + ".part")
+    os.chmod(wishes[1] + ".part", 0o777)
     listener.listen()
+    # Who sees it can connect.
+    os.rename(wishes[1] + ".part", wishes[1])
     while True:
         client, _ = listener.accept()
         threading.Thread(target=Line(client, wishes).run, daemon=True).start()

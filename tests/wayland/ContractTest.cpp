@@ -131,6 +131,64 @@ class CompositorWorld final : public KeyboardWorld {
     bool m_capsLock = false;
 };
 
+/// Where no keyboard is open, so that only the compositor tells.
+class ClosedKeyboardsTest : public KeyboardContract {
+  protected:
+    static constexpr HotKeyId play = 3;
+    static constexpr HotKeyId stop = 2;
+    static constexpr std::uint32_t controlSuper = modifier::control | modifier::command;
+
+    void SetUp() override {
+        KeyboardContract::SetUp();
+        world().monitor().setRecording(false);
+    }
+    void strokeCombination(std::uint32_t keyCode) {
+        press({key::control, key::super, keyCode});
+        release({keyCode, key::super, key::control});
+    }
+    /// All until that one, or until nothing more has come for long.
+    Log deliveredUntil(const std::string& last) {
+        Log log;
+        eventually([&] {
+            for (std::string& line : delivered()) log.push_back(std::move(line));
+            return !log.empty() && log.back() == last;
+        });
+        return log;
+    }
+};
+
+TEST_P(ClosedKeyboardsTest, theCompositorTellsOfEachPressAndItsRelease) {
+    request(play, "play", key::p, controlSuper);
+    request(stop, "stop", key::f5, 0);
+    strokeCombination(key::p);
+    EXPECT_EQ(deliveredUntil("released 3"), (Log{"pressed 3", "released 3"}));
+    tap(key::f5);
+    EXPECT_EQ(deliveredUntil("released 2"), (Log{"pressed 2", "released 2"}));
+}
+
+TEST_P(ClosedKeyboardsTest, aHeldOnePressesOnce) {
+    request(play, "play", key::p, controlSuper);
+    press({key::control, key::super, key::p});
+    EXPECT_EQ(deliveredUntil("pressed 3"), (Log{"pressed 3"}));
+    // In this time it repeats where the compositor repeats it.
+    EXPECT_FALSE(eventually([&] { return !delivered().empty(); }, std::chrono::milliseconds(1200)));
+    release({key::p, key::super, key::control});
+    EXPECT_EQ(deliveredUntil("released 3"), (Log{"released 3"}));
+}
+
+TEST_P(ClosedKeyboardsTest, oneThatIsWithdrawnIsToldNoMore) {
+    request(play, "play", key::p, controlSuper);
+    request(stop, "stop", key::f5, 0);
+    world().hotKeys().withdraw(play);
+    world().settle();
+    strokeCombination(key::p);
+    tap(key::f5);
+    EXPECT_EQ(deliveredUntil("released 2"), (Log{"pressed 2", "released 2"}));
+    request(play, "play", key::p, controlSuper);
+    strokeCombination(key::p);
+    EXPECT_EQ(deliveredUntil("released 3"), (Log{"pressed 3", "released 3"}));
+}
+
 template <typename Desk>
 std::unique_ptr<KeyboardWorld> makeWorld() {
     return std::make_unique<CompositorWorld<Desk>>();
@@ -139,4 +197,6 @@ std::unique_ptr<KeyboardWorld> makeWorld() {
 }  // namespace
 
 INSTANTIATE_TEST_SUITE_P(Sway, HotKeysContract, testing::Values(&makeWorld<SwayDesk>));
+INSTANTIATE_TEST_SUITE_P(Sway, ClosedKeyboardsTest, testing::Values(&makeWorld<SwayDesk>));
 INSTANTIATE_TEST_SUITE_P(KWin, HotKeysContract, testing::Values(&makeWorld<KWinDesk>));
+INSTANTIATE_TEST_SUITE_P(KWin, ClosedKeyboardsTest, testing::Values(&makeWorld<KWinDesk>));

@@ -62,6 +62,11 @@ TEST_F(DataControlTest, aScriptReadsWhatOthersHaveCopiedNotWhatTheyHaveSelected)
     EXPECT_EQ(run("the clipboard"), "\"één\"\n");
 }
 
+TEST_F(DataControlTest, whatOthersHaveSelectedAloneIsNotInTheClipboard) {
+    copy("--primary", "selected");
+    EXPECT_EQ(run("the clipboard"), "\"\"\n");
+}
+
 TEST_F(DataControlTest, whatOthersSelectWhileAScriptHasTheClipboardLeavesItThere) {
     copy("--primary", "before");
     run("set the clipboard to \"ours\"");

@@ -23,6 +23,8 @@ TEST_F(WaylandLockerTest, itEndsThePlay) {
               (ScreenArea{0, 0, before.width(), before.height()}));
     // A locker shows each key that it gets by a ring; 25 strokes of a play would come in this time.
     const ScreenPicture locked(sway());
+    // None so far.
+    for (const int x : {512 - 50, 512 + 50}) EXPECT_EQ(locked.at(x, 320), Swaylock::colour);
     EXPECT_FALSE(eventually([&] { return ScreenPicture(sway()).differsFrom(locked).has_value(); },
                             std::chrono::milliseconds(500)));
     locker.open();
