@@ -53,8 +53,13 @@ class ProgramSession {
     virtual std::string outputIn(const std::string& file) const = 0;
     /// What `keyrill --action=` of that name says to it; empty if it is done.
     std::string ask(const std::string& action) const {
-        run({KEYRILL_PRODUCT, "--action=" + action}, "answer")->wait();
-        return outputIn("answer");
+        return outputOfUsers({KEYRILL_PRODUCT, "--action=" + action});
+    }
+    /// What a command says that is run to its end as run() does.
+    std::string outputOfUsers(const std::vector<std::string>& command) const {
+        const std::string file = "answer" + std::to_string(++m_answers);
+        run(command, file)->wait();
+        return outputIn(file);
     }
     /// Waits until the program asks nothing any more, and takes its combinations again.
     void awaitRest() const {
@@ -89,6 +94,7 @@ class ProgramSession {
     const std::string& systemBus() const { return m_systemBus; }
 
   private:
+    mutable int m_answers = 0;
     std::string m_systemBus = "unix:path=/nonexistent/system-bus";
 };
 
@@ -99,4 +105,10 @@ struct Place {
     Target::Kind target;
     /// How long keys are down before they repeat.
     std::chrono::milliseconds repeatDelay{600};
+
+    /// As often as a key is typed that is held for so long, by the compositor's rule.
+    std::size_t strokesOf(std::chrono::steady_clock::duration held) const {
+        constexpr std::chrono::milliseconds interval{40};
+        return held < repeatDelay ? 1 : 2 + static_cast<std::size_t>((held - repeatDelay) / interval);
+    }
 };

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <cmath>
 
 #include "compositor/Field.h"
 #include "wayland/AccessWorld.h"
@@ -44,10 +43,9 @@ class RecordHereTest : public testing::TestWithParam<Place> {
         return m_field->text(expected + ".");
     }
 
-    using Held = std::chrono::duration<double>;
     /// Holds the b in that window, which keeps the focus, until it has repeated ten times, and types an n;
     /// for how long it was held.
-    Held hold(const std::string& window) {
+    std::chrono::steady_clock::duration hold(const std::string& window) {
         const std::chrono::milliseconds time = GetParam().repeatDelay + std::chrono::milliseconds(400);
         const auto begin = std::chrono::steady_clock::now();
         hands().press(xkey::b);
@@ -115,19 +113,14 @@ TEST_P(RecordHereTest, capitalsOfCapsLockAreRecordedAsSuch) {
 
 TEST_P(RecordHereTest, aHeldKeyIsRecordedAsOftenAsItRepeats) {
     startRecording();
-    const Held recorded = hold(recordHere);
+    const auto held = hold(recordHere);
     stopRecording();
     play();
     const std::string played = textWithN();
     EXPECT_GE(played.size(), 5U);
     EXPECT_EQ(played, std::string(played.size() - 1, 'b') + "n");
-    // The field gets the repeats by the compositor's rule too.
-    clear();
-    const Held typed = hold("field");
-    const auto repeats = static_cast<double>(textWithN().size());
-    constexpr double repeatsInASecond = 25;
-    EXPECT_NEAR(static_cast<double>(played.size()), repeats,
-                2 + repeatsInASecond * std::abs((recorded - typed).count()));
+    // A busy program misses some, and hears of the release late.
+    EXPECT_LE(played.size() - 1, GetParam().strokesOf(held) + 2);
 }
 
 TEST_P(RecordHereTest, whatIsTypedElsewhereMeanwhileIsNotRecorded) {

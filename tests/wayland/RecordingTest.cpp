@@ -79,13 +79,6 @@ class RecordingTest : public testing::TestWithParam<Place> {
         return !eventually([&] { return wakeUps() != before; }, std::chrono::milliseconds(500));
     }
 
-    /// As often as a key is typed that is held for so long, by the compositor's rule.
-    static std::size_t strokesOf(std::chrono::steady_clock::duration held) {
-        const std::chrono::milliseconds delay = GetParam().repeatDelay;
-        constexpr std::chrono::milliseconds interval{40};
-        return held < delay ? 1 : 2 + static_cast<std::size_t>((held - delay) / interval);
-    }
-
   private:
     AccessWorld m_access;
     std::unique_ptr<ProgramSession> m_session = GetParam().open();
@@ -163,8 +156,8 @@ TEST_P(RecordingTest, aHeldKeyIsRecordedAsOftenAsItRepeats) {
     const std::string played = target->text().substr(typed.size());
     EXPECT_EQ(played, std::string(played.size() - 1, 'b') + "n");
     // A busy program may miss some of what the compositor has it repeat.
-    EXPECT_GE(played.size() - 1, strokesOf(end - isDown));
-    EXPECT_LE(played.size() - 1, strokesOf(isUp - begin));
+    EXPECT_GE(played.size() - 1, GetParam().strokesOf(end - isDown));
+    EXPECT_LE(played.size() - 1, GetParam().strokesOf(isUp - begin));
 }
 
 TEST_P(RecordingTest, aPlayWaitsWhileHandsHoldModifiers) {
