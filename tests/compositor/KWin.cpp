@@ -2,6 +2,7 @@
 #include "compositor/KWin.h"
 
 #include <algorithm>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -37,7 +38,7 @@ KWin::KWin(const Options& options) : m_options(options) {
     if (options.hasPortal) startPortal();
 }
 
-/// In a session the bus starts both.
+/// In a session the bus starts both, as it does here where they are gone.
 void KWin::startPortal() {
     std::ifstream service("/usr/share/dbus-1/services/org.freedesktop.impl.portal.desktop.kde.service");
     std::string program;
@@ -45,11 +46,21 @@ void KWin::startPortal() {
         if (line.starts_with("Exec=")) program = line.substr(std::string("Exec=").size());
     }
     const std::string object = "/org/freedesktop/portal/desktop";
-    m_portal.push_back(m_session.startService({program}, "portal-kde.log",
-                                              "org.freedesktop.impl.portal.desktop.kde", object,
-                                              {{"QT_QPA_PLATFORM", "wayland"}}));
-    m_portal.push_back(m_session.startService({"/usr/libexec/xdg-desktop-portal"}, "portal.log",
-                                              "org.freedesktop.portal.Desktop", object));
+    const std::string part = "org.freedesktop.impl.portal.desktop.kde";
+    const std::string portal = "org.freedesktop.portal.Desktop";
+    const std::string portalProgram = "/usr/libexec/xdg-desktop-portal";
+    const std::map<std::string, std::string> toolkit = {{"QT_QPA_PLATFORM", "wayland"}};
+    m_portal.push_back(m_session.startService({program}, "portal-kde.log", part, object, toolkit));
+    m_portal.push_back(m_session.startService({portalProgram}, "portal.log", portal, object));
+    m_session.letStart(part, {program}, toolkit);
+    m_session.letStart(portal, {portalProgram});
+}
+
+void KWin::kill(Service service) {
+    if (service == Service::bus) return m_session.killBus();
+    Child& program = *m_portal.at(service == Service::portalOfKde ? 0 : 1);
+    program.signal(SIGKILL);
+    program.wait();
 }
 
 void KWin::startCompositor() {

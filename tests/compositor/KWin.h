@@ -65,6 +65,9 @@ class KWin final : public Compositor {
 
     /// As a crash would, and another one in its place. Programs that it showed have lost it.
     void comeAgain();
+    /// Ends as it would by a crash: KDE's part of the portal, the portal, the session bus.
+    enum class Service { portalOfKde, portal, bus };
+    void kill(Service service);
 
   private:
     void startCompositor();

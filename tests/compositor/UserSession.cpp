@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "compositor/UserSession.h"
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -11,6 +12,7 @@ UserSession::UserSession() {
     std::filesystem::create_directories(file("home/.config"));
     std::ofstream(file("bus.conf"))
         << "<busconfig><type>session</type><listen>unix:path=" << file("bus") << "</listen>"
+        << "<servicedir>" << file("services") << "</servicedir>"
         << "<auth>EXTERNAL</auth><policy context='default'><allow send_destination='*' eavesdrop='true'/>"
         << "<allow eavesdrop='true'/><allow own='*'/><allow user='*'/></policy></busconfig>";
     otheruser::giveAwayAll(m_folder.path());
@@ -30,6 +32,11 @@ void UserSession::startBus() {
     }
 }
 
+void UserSession::killBus() {
+    m_bus->signal(SIGKILL);
+    m_bus->wait();
+}
+
 std::string UserSession::put(const std::string& name, const std::string& content) const {
     const std::filesystem::path path = file(name);
     std::filesystem::create_directories(path.parent_path());
@@ -42,14 +49,30 @@ std::string UserSession::put(const std::string& name, const std::string& content
 
 std::unique_ptr<Child> UserSession::start(const std::vector<std::string>& command, const std::string& log,
                                           const std::map<std::string, std::string>& more) const {
+    return std::make_unique<Child>(
+        otheruser::command(command),
+        Child::Options{.environment = environmentWith(more), .outputFile = file(log)});
+}
+
+std::map<std::string, std::string> UserSession::environmentWith(
+    const std::map<std::string, std::string>& more) const {
     auto environment = m_environment;
     environment["HOME"] = file("home");
     for (const char* const name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"}) {
         environment[name] = "";
     }
     for (const auto& [name, value] : more) environment[name] = value;
-    return std::make_unique<Child>(otheruser::command(command),
-                                   Child::Options{.environment = environment, .outputFile = file(log)});
+    return environment;
+}
+
+void UserSession::letStart(const std::string& name, const std::vector<std::string>& command,
+                           const std::map<std::string, std::string>& more) const {
+    std::string words = "/usr/bin/env";
+    for (const auto& [variable, value] : environmentWith(more)) words += " " + variable + "=" + value;
+    for (const std::string& word : command) words += " " + word;
+    put("services/" + name + ".service", "[D-BUS Service]\nName=" + name + "\nExec=" + words + "\n");
+    call({"-d", "org.freedesktop.DBus", "-o", "/org/freedesktop/DBus", "-m",
+          "org.freedesktop.DBus.ReloadConfig"});
 }
 
 std::unique_ptr<Child> UserSession::startService(const std::vector<std::string>& command,

@@ -31,17 +31,25 @@ class UserSession {
     std::unique_ptr<Child> startService(const std::vector<std::string>& command, const std::string& log,
                                         const std::string& name, const std::string& object,
                                         const std::map<std::string, std::string>& more = {}) const;
+    /// The bus starts it from now on where somebody asks for that name and it is not there.
+    void letStart(const std::string& name, const std::vector<std::string>& command,
+                  const std::map<std::string, std::string>& more = {}) const;
     std::string log(const std::string& name) const { return contentOf(file(name)); }
     /// Whether somebody on the bus has that name and answers for the object.
     bool answers(const std::string& name, const std::string& object) const;
     /// What a service on the bus answers (gdbus-call(1) without the connection).
     std::string call(const std::vector<std::string>& arguments) const;
 
+    /// As a crash would.
+    void killBus();
+
     /// How long what is started may take.
     static constexpr std::chrono::seconds startUp{30};
 
   private:
     void startBus();
+    /// Of a program that is started.
+    std::map<std::string, std::string> environmentWith(const std::map<std::string, std::string>& more) const;
 
     TemporaryFolder m_folder;
     std::map<std::string, std::string> m_environment;

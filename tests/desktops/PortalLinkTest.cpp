@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 
 #include "linux/desktop/PrivateBus.h"
@@ -214,6 +215,48 @@ TEST_F(PortalLinkTest, whatIsDownIsReleasedThoughThePortalWasSlow) {
     ASSERT_TRUE(eventually([&] { return !line->look(); }));
     EXPECT_TRUE(hears("closed"));
     EXPECT_TRUE(portal().heard().ends_with("key 31 1\nkey 30 0\nkey 31 0\nclosed\n")) << portal().heard();
+}
+
+/// KWin keeps down what it has pressed.
+class KdePartTest : public PortalLinkTest {
+  protected:
+    /// A line with a key down, whose session has ended by that command.
+    std::unique_ptr<PortalLink> lineAfter(const std::string& command,
+                                          const std::function<void()>& before = {}) {
+        havePortal({"agrees", "kde-part"});
+        auto line = link();
+        EXPECT_TRUE(open(*line));
+        line->key(keyA, true);
+        EXPECT_TRUE(line->synchronise());
+        if (before) before();
+        portal().obey(command);
+        Result<void> looked;
+        EXPECT_TRUE(eventually([&] { return !(looked = line->look()); }));
+        EXPECT_EQ(looked.error().message, "The desktop no longer lets Keyrill press keys.");
+        return line;
+    }
+};
+
+TEST_F(KdePartTest, whatItHasLeftDownWhenItDiesIsReleasedByAnotherSession) {
+    const auto line = lineAfter("part dies");
+    EXPECT_TRUE(hears("key 30 0"));
+    EXPECT_TRUE(eventually([this] { return portal().heard().ends_with("key 30 0\nclosed\n"); }))
+        << portal().heard();
+    EXPECT_EQ(portal().count("devices"), 2U);
+    EXPECT_EQ(portal().count("key"), 2U);
+}
+
+TEST_F(KdePartTest, nobodyIsAskedForThat) {
+    // It waits for the end of the program.
+    lineAfter("part dies", [this] { std::filesystem::remove(tokenFile()); }).reset();
+    EXPECT_EQ(portal().count("devices"), 1U);
+    EXPECT_EQ(portal().count("key 30 0"), 0U);
+}
+
+TEST_F(KdePartTest, whoTakesThePermissionBackHasTakenItBack) {
+    lineAfter("close").reset();
+    EXPECT_EQ(portal().count("devices"), 1U);
+    EXPECT_EQ(portal().count("key 30 0"), 0U);
 }
 
 TEST_F(PortalLinkTest, theUsersLayoutIsInForceAgainAtTheEnd) {

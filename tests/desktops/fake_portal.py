@@ -5,7 +5,7 @@
 "shortcuts" the portal for hot keys too, which leaves "leave=NAME" out of its answer, agrees with a code of no meaning
 where it is "vague", and is deaf to whoever has not said who he is where it is "strict"; "only" leaves the portal for
 keys out; "layouts" is KDE's service for layouts beside it, "gnome" the name of GNOME's shell and of its part of the portal, which
-gives hot keys where it is "own-part". Prints "ready", then what it is told; obeys the lines that are
+gives hot keys where it is "own-part"; "kde-part" is the name of KDE's part. Prints "ready", then what it is told; obeys the lines that are
 written to the named pipe COMMANDS: "answer" and "refuse" (what it has been asked), "close" (takes the permission back),
 "close first" (tells so of its first session), "deaf COUNT" (takes so many keys from now on without an answer, and says
 "deaf"), "press NAME" and "release NAME", "change NAME WORDS", "end"."""
@@ -63,6 +63,7 @@ known = []
 objects = {}
 sessions = {}
 all_sessions = []
+parts = []
 deaf = 0
 
 
@@ -174,6 +175,9 @@ def obey(connection, command):
         global deaf
         deaf = int(command.removeprefix("deaf "))
         print("deaf", flush=True)
+    elif command == "part dies":
+        Gio.bus_unown_name(parts.pop())
+        own_kde_part()
     elif command.startswith(("press ", "release ")):
         verb, name = command.split()
         signal = "Activated" if verb == "press" else "Deactivated"
@@ -183,6 +187,11 @@ def obey(connection, command):
         list_of_one = GLib.Variant("(oa(sa{sv}))", (sessions[KEYS], [bound(name, words)]))
         connection.emit_signal(None, OBJECT, KEYS, "ShortcutsChanged", list_of_one)
     return False
+
+
+def own_kde_part():
+    name = "org.freedesktop.impl.portal.desktop.kde"
+    parts.append(Gio.bus_own_name_on_connection(bus, name, Gio.BusNameOwnerFlags.NONE, None, None))
 
 
 def read_commands(connection):
@@ -202,6 +211,8 @@ if "layouts" in how:
 if "gnome" in how:
     for name in ("org.gnome.Shell", "org.freedesktop.impl.portal.desktop.gnome"):
         Gio.bus_own_name_on_connection(bus, name, Gio.BusNameOwnerFlags.NONE, None, None)
+if "kde-part" in how:
+    own_kde_part()
 if "own-part" in how:
     bus.register_object(OBJECT, OWN_PART, on_call, None, None)
 loop = GLib.MainLoop()

@@ -9,6 +9,9 @@ inline constexpr const char* object = "/org/freedesktop/portal/desktop";
 inline constexpr const char* session = "org.freedesktop.portal.Session";
 inline constexpr const char* properties = "org.freedesktop.DBus.Properties";
 
+/// KDE's part of them, which is there in its sessions alone.
+inline constexpr const char* kde = "org.freedesktop.impl.portal.desktop.kde";
+
 /// By which a program without a sandbox says who it is, before any other call; portals older than 1.19.3 have
 /// no such face. The portal wants a desktop entry of that name.
 inline constexpr const char* registry = "org.freedesktop.host.portal.Registry";

@@ -26,10 +26,10 @@ constexpr std::uint32_t keyboards = 1;
 constexpr std::array<std::uint16_t, 3> locks{KEY_CAPSLOCK, KEY_NUMLOCK, KEY_SCROLLLOCK};
 /// Until the user takes it back.
 constexpr std::uint32_t forGood = 2;
-/// Since which a permission can be known again.
-constexpr std::uint32_t withTokens = 2;
 constexpr unsigned patienceWithDesktop = 10;
 constexpr int callPatience = 2000;
+/// For a portal that has to be started again, which each time is waited for.
+constexpr int attemptsAfterDeath = 5;
 
 }  // namespace
 
@@ -72,11 +72,23 @@ void PortalSession::open() {
         return fail(PortalAnswer::missing);
     }
     m_version = g_variant_get_uint32(version.get());
-    m_watch = g_bus_watch_name_on_connection(m_bus.get(), service, G_BUS_NAME_WATCHER_FLAGS_NONE, nullptr,
-                                             portalGone, this, nullptr);
+    watch();
     GVariantBuilder options = portalOptions();
     g_variant_builder_add(&options, "{sv}", "session_handle_token", g_variant_new_string("keyrill"));
     request("CreateSession", State::creating, options, patienceWithDesktop);
+}
+
+void PortalSession::watch() {
+    unwatch();
+    m_watch = g_bus_watch_name_on_connection(m_bus.get(), service, G_BUS_NAME_WATCHER_FLAGS_NONE, nullptr,
+                                             portalGone, this, nullptr);
+    m_kdeWatch = g_bus_watch_name_on_connection(m_bus.get(), portalnames::kde, G_BUS_NAME_WATCHER_FLAGS_NONE,
+                                                kdeCame, kdeGone, this, nullptr);
+}
+
+void PortalSession::unwatch() {
+    for (guint* const watch : {&m_watch, &m_kdeWatch})
+        if (*watch != 0) g_bus_unwatch_name(std::exchange(*watch, 0));
 }
 
 void PortalSession::request(const char* member, State state, GVariantBuilder& options, unsigned patience) {
@@ -174,14 +186,33 @@ bool PortalSession::notify(std::uint16_t keycode, bool press) {
 void PortalSession::synchronise() {
     if (m_state != State::open) return;
     const GVariantPointer answer(g_dbus_connection_call_sync(
-        m_bus.get(), "org.freedesktop.impl.portal.desktop.kde", object, "org.freedesktop.DBus.Properties",
-        "Get", g_variant_new("(ss)", "org.freedesktop.impl.portal.RemoteDesktop", "version"), nullptr,
+        m_bus.get(), portalnames::kde, object, "org.freedesktop.DBus.Properties", "Get",
+        g_variant_new("(ss)", "org.freedesktop.impl.portal.RemoteDesktop", "version"), nullptr,
         G_DBUS_CALL_FLAGS_NO_AUTO_START, callPatience, nullptr, nullptr));
     m_answer(PortalAnswer::synced);
 }
 
 void PortalSession::portalGone(GDBusConnection* /*bus*/, const char* /*name*/, void* self) {
-    static_cast<PortalSession*>(self)->lose();
+    static_cast<PortalSession*>(self)->die();
+}
+
+void PortalSession::kdeCame(GDBusConnection* /*bus*/, const char* /*name*/, const char* /*owner*/,
+                            void* self) {
+    static_cast<PortalSession*>(self)->m_isKde = true;
+}
+
+/// The portal itself would take keys, and pass them on to nobody. Told at first, too, where there is none.
+void PortalSession::kdeGone(GDBusConnection* /*bus*/, const char* /*name*/, void* self) {
+    auto& session = *static_cast<PortalSession*>(self);
+    if (!session.m_isKde || session.m_hasDied) return;
+    if (!session.m_session.empty())
+        session.call(session.m_session.c_str(), portalnames::session, "Close", nullptr);
+    session.die();
+}
+
+void PortalSession::die() {
+    if (std::exchange(m_hasDied, true)) return;
+    lose();
 }
 
 /// The session has ended.
@@ -207,6 +238,25 @@ void PortalSession::putBack() {
     }
 }
 
+void PortalSession::putBackByAnother() {
+    if (!m_isKde || (m_down.none() && m_switched.none()) || !asksNobody()) return;
+    std::optional<PortalAnswer> answered;
+    PortalSession other({.tokenFile = m_options.tokenFile, .patience = patienceWithDesktop},
+                        [&answered](PortalAnswer answer) { answered = answer; });
+    for (int i = 0; i < attemptsAfterDeath && answered != PortalAnswer::opened; ++i) {
+        if (g_dbus_connection_is_closed(m_bus.get()) == TRUE) return;
+        answered.reset();
+        other.open();
+        while (!answered) g_main_context_iteration(nullptr, TRUE);
+    }
+    if (answered != PortalAnswer::opened) return;
+    other.m_down = m_down;
+    other.m_switched = m_switched;
+    other.putBack();
+    other.m_down.reset();
+    other.m_switched.reset();
+}
+
 void PortalSession::putLayoutBack() {
     const auto layout = std::exchange(m_homeLayout, std::nullopt);
     if (!layout) return;
@@ -220,10 +270,11 @@ void PortalSession::close() {
     if (!m_bus) return;
     m_request.stop();
     m_state = State::closed;
+    unwatch();
     if (!m_session.empty()) putBack();
+    if (m_hasDied) putBackByAnother();
     putLayoutBack();
     m_end.stop();
-    if (m_watch != 0) g_bus_unwatch_name(std::exchange(m_watch, 0));
     if (m_session.empty()) return;
     call(std::exchange(m_session, {}).c_str(), portalnames::session, "Close", nullptr);
 }

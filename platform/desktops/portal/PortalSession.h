@@ -41,13 +41,19 @@ class PortalSession {
     void setHomeLayout(std::optional<std::uint32_t> layout) { m_homeLayout = layout; }
     /// Releases what is down, puts locks back that were switched since, and the layout, and gives the
     /// permission back. Also after a failure, as long as there is a session: a desktop that was slow may have
-    /// taken all.
+    /// taken all. Where KDE's portal has died it is done by another session, unless the user would be asked
+    /// for that: KWin 5.27 keeps down what that portal has pressed.
     void close();
 
   private:
+    /// The version since which a permission can be known again.
+    static constexpr std::uint32_t withTokens = 2;
+
     enum class State { closed, creating, selecting, starting, open };
 
     static void portalGone(GDBusConnection* bus, const char* name, void* self);
+    static void kdeCame(GDBusConnection* bus, const char* name, const char* owner, void* self);
+    static void kdeGone(GDBusConnection* bus, const char* name, void* self);
 
     GVariantPointer property(const char* name) const;
     void request(const char* member, State state, GVariantBuilder& options, unsigned patience);
@@ -56,9 +62,14 @@ class PortalSession {
     void start();
     void started(GVariant* results);
     bool notify(std::uint16_t keycode, bool press);
+    void watch();
+    void unwatch();
     void putBack();
+    bool asksNobody() const { return m_version < withTokens || !token().empty(); }
+    void putBackByAnother();
     void putLayoutBack();
     void lose();
+    void die();
     void fail(PortalAnswer why);
     GVariantPointer call(const char* path, const char* face, const char* member, GVariant* parameters) const;
     std::string token() const;
@@ -73,6 +84,11 @@ class PortalSession {
     PortalRequest m_request;
     SessionEnd m_end;
     guint m_watch = 0;
+    guint m_kdeWatch = 0;
+    /// Whether KDE's part of the portal is there.
+    bool m_isKde = false;
+    /// The portal has ended, or KDE's part of it.
+    bool m_hasDied = false;
     std::bitset<65536> m_down;
     /// Keys of locks that have been pressed an odd number of times.
     std::bitset<65536> m_switched;
