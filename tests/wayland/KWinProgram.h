@@ -33,14 +33,10 @@ class KWinProgram : public ProgramSession {
         m_kwin.put("home/.config/keyrill/keyrill.conf", "[Settings]\nnotFirstRun=true\n");
     }
 
-    void start(const std::string& lines) override {
+    void launch(const std::string& lines) override {
         const std::string macro =
             put("macro.keyrill", "tell application \"System Events\"\n" + lines + "\nend tell\n");
         m_program = run({KEYRILL_PRODUCT, macro}, "output");
-        // Without a tray a small window appears, once the program is up.
-        if (!eventually([this] { return m_kwin.shows("Keyrill"); }, std::chrono::seconds(30))) {
-            throw std::runtime_error("the program does not start: " + log());
-        }
     }
     const Compositor& compositor() const override { return m_kwin; }
     Hands& hands() override { return m_hands; }

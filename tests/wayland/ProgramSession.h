@@ -35,8 +35,15 @@ class ProgramSession {
   public:
     virtual ~ProgramSession() = default;
 
-    /// Starts the program with a macro of these lines, and waits until it is up.
-    virtual void start(const std::string& lines) = 0;
+    /// Starts the program with a macro of these lines.
+    virtual void launch(const std::string& lines) = 0;
+    /// The same where there is no tray, and waits until it is up: it has its combinations, too.
+    void start(const std::string& lines) {
+        launch(lines);
+        // Without a tray a small window appears then.
+        if (!eventually([this] { return shows("Keyrill"); }, std::chrono::seconds(30)))
+            throw std::runtime_error("the program does not start: " + log());
+    }
     virtual const Compositor& compositor() const = 0;
     virtual Hands& hands() = 0;
     virtual Child& program() = 0;
