@@ -34,18 +34,21 @@ inline ScreenPicture pictureWith(const ScreenLook& look, const ScreenPicture::Co
 /// From its first change it has so long for that.
 inline std::optional<ScreenArea> changedArea(const ScreenLook& look, const ScreenPicture& before,
                                              std::chrono::milliseconds patience = std::chrono::seconds(10)) {
+    constexpr std::chrono::seconds longestStart{30};
     std::optional<ScreenPicture> last;
     std::optional<std::chrono::steady_clock::time_point> end;
     bool isSettled = false;
-    eventually([&] {
-        const auto time = std::chrono::steady_clock::now();
-        std::optional<ScreenPicture> now(look());
-        const bool hasChanged = now->differsFrom(before).has_value();
-        if (hasChanged && !end) end = time + patience;
-        isSettled = last && hasChanged && !now->differsFrom(*last);
-        last = std::move(now);
-        return isSettled || (end && time > *end);
-    });
+    eventually(
+        [&] {
+            const auto time = std::chrono::steady_clock::now();
+            std::optional<ScreenPicture> now(look());
+            const bool hasChanged = now->differsFrom(before).has_value();
+            if (hasChanged && !end) end = time + patience;
+            isSettled = last && hasChanged && !now->differsFrom(*last);
+            last = std::move(now);
+            return isSettled || (end && time > *end);
+        },
+        longestStart + patience);
     EXPECT_TRUE(isSettled) << "it keeps changing, or has not changed at all";
     return last->differsFrom(before);
 }
