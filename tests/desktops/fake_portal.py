@@ -162,6 +162,7 @@ def obey(connection, command):
         nothing = GLib.Variant("(a{sv})", ({},))
         for session in sessions.values():
             connection.emit_signal(None, session, "org.freedesktop.portal.Session", "Closed", nothing)
+            connection.unregister_object(objects.pop(session))
     elif command == "close first":
         nothing = GLib.Variant("(a{sv})", ({},))
         connection.emit_signal(None, all_sessions[0], "org.freedesktop.portal.Session", "Closed", nothing)
