@@ -1583,7 +1583,7 @@ const manualIndex = [
 "everywhere, by sway's bindings pressing keys all windows, by a virtual keyboard text any ",
 "character clipboard of scripts yes, by data control overlay and prompt above full-screen ",
 "windows, on a layer of the compositor's bringing windows to the front by sway tray status ",
-"notifiers keyrill --action (yes)"
+"notifiers keyrill --action yes"
 ]
 },
 {
@@ -1596,13 +1596,14 @@ const manualIndex = [
 "name. As long as Keyrill may not read the keyboard, what you hold while a macro plays is ",
 "part of what it presses: on the way to the stop combination an A is Ctrl+A. KDE 5.27 asks ",
 "nothing before keys are pressed, newer ones once. It has been run with KWin 5.27 and its ",
-"portal, both headless. recording (all windows, from the keyboards that keyrill-access ",
-"opens after a password) recording where keys may not be seen what is typed into the window ",
-"\"Record Here\" hands and Escape during a play (where the keyboards may be read) hot keys ",
-"everywhere, by KDE's shortcuts pressing keys all windows, by KDE's portal text characters ",
-"of the user's layouts clipboard of scripts (yes, by data control) overlay and prompt ",
-"(above full-screen windows, on a layer of the compositor's) bringing windows to the front ",
-"by KWin's scripts tray (status notifiers) keyrill --action (yes)"
+"portal, both headless; keyboards were pipes there, as under sway. recording all windows, ",
+"from the keyboards that keyrill-access opens after a password recording where keys may not ",
+"be seen what is typed into the window \"Record Here\" hands and Escape during a play where ",
+"the keyboards may be read hot keys everywhere, by KDE's shortcuts pressing keys all ",
+"windows, by KDE's portal text characters of the user's layouts clipboard of scripts yes, ",
+"by data control overlay and prompt above full-screen windows, on a layer of the ",
+"compositor's bringing windows to the front by KWin's scripts tray status notifiers keyrill ",
+"--action yes"
 ]
 },
 {
@@ -1612,22 +1613,24 @@ const manualIndex = [
 "text": [
 "GNOME, from version 48 on, asks you once which combinations Keyrill's hot keys are to be; ",
 "afterwards they are changed in GNOME's settings, under Apps, and the preferences here tell ",
-"which they are. GNOME before 48 gives programs no hot keys: bind commands such as keyrill ",
-"--action=play in its settings, under Keyboard, Custom Shortcuts. Before the first play ",
-"GNOME asks whether Keyrill may press keys, and shows a sign while it may, until a minute ",
-"after the last play. Texts have to be typed with the keyboard layout that is in force: ",
-"GNOME lets no program switch it. Which one that is GNOME's settings tell, as long as ibus ",
-"is installed there. A stroke of a macro that is one of the hot keys is lost there: the ",
-"desktop takes it, and it starts nothing. GNOME 43 has been run headless. What is told of ",
-"48 follows from the sources of its portal; Keyrill's part has been run with portals that ",
-"stand in for the desktop's. recording all windows, from the keyboards that keyrill-access ",
-"opens after a password recording where keys may not be seen what is typed into the window ",
-"\"Record Here\" hands and Escape during a play where the keyboards may be read hot keys ",
-"(from 48 on: everywhere, by the portal, once you allow it); before: everywhere, by custom ",
-"shortcuts in GNOME's settings, once you agree pressing keys all windows, by the portal, ",
-"once you allow it text characters of the layout in force clipboard of scripts no overlay ",
-"and prompt above full-screen windows, as X11 windows bringing windows to the front no tray ",
-"status notifiers, with the extension AppIndicator keyrill --action yes"
+"which they are. GNOME before 48 gives programs none: Keyrill asks whether it may write ",
+"custom shortcuts of its own into your settings while it runs, where they stand under ",
+"Keyboard, Custom Shortcuts. Or bind commands such as keyrill --action=play there yourself. ",
+"Before the first play GNOME asks whether Keyrill may press keys, and shows a sign while it ",
+"may, until a minute after the last play. Texts have to be typed with the keyboard layout ",
+"that is in force: GNOME lets no program switch it. Which one that is GNOME's settings ",
+"tell, as long as ibus is installed there. A stroke of a macro that is one of the hot keys ",
+"is lost there: the desktop takes it, and it starts nothing. GNOME 43 has been run ",
+"headless. What is told of 48 follows from the sources of its portal; Keyrill's part has ",
+"been run with portals that stand in for the desktop's. recording all windows, from the ",
+"keyboards that keyrill-access opens after a password recording where keys may not be seen ",
+"what is typed into the window \"Record Here\" hands and Escape during a play where the ",
+"keyboards may be read hot keys (from 48 on: everywhere, by the portal, once you allow it); ",
+"before: everywhere, by custom shortcuts in GNOME's settings, once you agree pressing keys ",
+"all windows, by the portal, once you allow it text characters of the layout in force ",
+"clipboard of scripts no overlay and prompt above full-screen windows, as X11 windows ",
+"bringing windows to the front no tray status notifiers, with the extension AppIndicator ",
+"keyrill --action yes"
 ]
 },
 {
@@ -1636,14 +1639,15 @@ const manualIndex = [
 "title": "Other compositors with virtual keyboards",
 "text": [
 "Macros and scripts are played into every window, with every character. Bind keys in the ",
-"compositor's settings. A bell there is none. recording (all windows, from the keyboards ",
-"that keyrill-access opens after a password) recording where keys may not be seen (what is ",
-"typed into the window \"Record Here\") hands and Escape during a play (where the keyboards ",
-"may be read) hot keys (none; bind keyrill --action=...) pressing keys (all windows, by a ",
-"virtual keyboard) text (any character) clipboard of scripts (where data control is ",
-"offered) overlay and prompt (above full-screen windows, where layers are offered) bringing ",
-"windows to the front (where toplevels can be managed) tray (status notifiers) keyrill ",
-"--action (yes)"
+"compositor's settings. A bell there is none. It has been run under phoc, headless; labwc, ",
+"niri, river, Wayfire and others have the same, and have not been run. recording all ",
+"windows, from the keyboards that keyrill-access opens after a password recording where ",
+"keys may not be seen (what is typed into the window \"Record Here\") hands and Escape during ",
+"a play (where the keyboards may be read) hot keys none; bind keyrill --action=... pressing ",
+"keys all windows, by a virtual keyboard text any character clipboard of scripts where data ",
+"control is offered overlay and prompt above other windows, where layers are offered ",
+"bringing windows to the front where toplevels can be managed tray (status notifiers) ",
+"keyrill --action yes"
 ]
 },
 {
