@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -119,3 +120,6 @@ struct Place {
         return held < repeatDelay ? 1 : 2 + static_cast<std::size_t>((held - repeatDelay) / interval);
     }
 };
+
+/// For GoogleTest.
+inline std::ostream& operator<<(std::ostream& stream, const Place& place) { return stream << place.name; }
