@@ -47,5 +47,10 @@ std::optional<std::uint32_t> SwayDesktop::focusedXWindow() {
 }
 
 Result<void> SwayDesktop::focusXWindow(std::uint32_t xWindow) {
-    return m_connection.run("[id=" + std::to_string(xWindow) + "] focus");
+    const std::string focus = "[id=" + std::to_string(xWindow) + "] focus";
+    auto focused = m_connection.run(focus);
+    if (!focused || focusedXWindow() == xWindow) return focused;
+    // Up to 1.7 one behind a window that fills the screen gets none, and nobody sees it.
+    const auto left = m_connection.run("[con_id=__focused__] fullscreen disable");
+    return left ? m_connection.run(focus) : left;
 }

@@ -10,14 +10,28 @@ constexpr std::chrono::milliseconds betweenLooks{5};
 
 }  // namespace
 
-/// The window may not have come to the compositor yet.
 void WaylandWindows::activate(WindowId window, std::uint32_t /*userTime*/) {
     if (m_compositor == nullptr) return;
-    const Clock::Time end = m_clock.now() + longestWait;
-    while (!m_compositor->focusXWindow(window) && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
+    m_awaited = window;
+    m_end = m_clock.now() + longestWait;
+    focusAwaited();
+}
+
+void WaylandWindows::dispatch() {
+    if (m_wakeups.takeTimer()) focusAwaited();
+}
+
+void WaylandWindows::focusAwaited() {
+    if (m_awaited == none) return;
+    if (m_compositor->focusXWindow(m_awaited) || m_clock.now() >= m_end) {
+        m_awaited = none;
+    } else {
+        m_wakeups.startTimer(betweenLooks);
+    }
 }
 
 void WaylandWindows::awaitFocusElsewhere(WindowId hidden) {
+    m_awaited = none;
     if (m_compositor == nullptr) return;
     const Clock::Time end = m_clock.now() + longestWait;
     const auto isElsewhere = [&] {

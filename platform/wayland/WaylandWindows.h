@@ -2,24 +2,38 @@
 #pragma once
 
 #include "platform/Clock.h"
+#include "platform/EventSource.h"
 #include "platform/Windows.h"
 #include "platform/XWindowFocus.h"
+#include "platform/run/Wakeups.h"
 
 namespace wayland {
 
 /// The windows of ours that the toolkit shows as X11 windows.
-class WaylandWindows final : public Windows {
+class WaylandWindows final : public Windows, public EventSource {
   public:
     /// `compositor` is null where nobody can be asked; both outlive this.
     WaylandWindows(XWindowFocus* compositor, Clock& clock) : m_compositor(compositor), m_clock(clock) {}
 
+    // Windows
+    /// The compositor has a window only once it is painted, which the event loop does: it is asked again and
+    /// again for half a second.
     void activate(WindowId window, std::uint32_t userTime) override;
     /// Compositors pass the focus on by themselves; nothing is given back.
     void awaitFocusElsewhere(WindowId hidden) override;
 
+    // EventSource
+    int fileDescriptor() const override { return m_wakeups.fileDescriptor(); }
+    void dispatch() override;
+
   private:
+    void focusAwaited();
+
     XWindowFocus* m_compositor;
     Clock& m_clock;
+    Wakeups m_wakeups;
+    WindowId m_awaited = none;
+    Clock::Time m_end;
 };
 
 }  // namespace wayland

@@ -74,6 +74,17 @@ TEST_F(SwayProgramTest, theStopHotKeyEndsAMacroThatAsksForEver) {
     EXPECT_TRUE(eventually([this] { return shows("Question"); }));
 }
 
+TEST_F(SwayProgramTest, aQuestionIsSeenAndAnsweredInFrontOfAFullScreen) {
+    start("display dialog \"What now\" default answer \"\" with title \"Question\"\nkeystroke \"a\"");
+    const Foot foot(sway());
+    sway().message({"fullscreen", "enable"});
+    strokeHotKey(xkey::p);
+    ASSERT_TRUE(eventually([this] { return sway().hasFocus("Question"); }));
+    hands().type("private");
+    hands().stroke({xkey::returnKey});
+    EXPECT_EQ(foot.typed(1), "a");
+}
+
 TEST_F(SwayProgramTest, ownStrokesReachTheProgramAndFireNothing) {
     start("keystroke \"a\"\nkey code 35 using {control down, command down}\nkeystroke \"b\"");
     const Foot foot(sway());
