@@ -11,6 +11,9 @@
 #include <QDeadlineTimer>
 #include <QThread>
 #include <chrono>
+#include <filesystem>
+#include <string>
+#include <system_error>
 
 #include "app/program/BusNames.h"
 #include "app/program/BusOwner.h"
@@ -43,9 +46,15 @@ class BackgroundStart {
         std::string name = "keyrill";
         std::string option = "--session=" + session;
         std::array<char*, 3> arguments = {name.data(), session.empty() ? nullptr : option.data(), nullptr};
-        if (posix_spawn(&m_process, "/proc/self/exe", &files, &attributes, arguments.data(), environ) != 0) {
-            m_process = -1;
-        }
+        // By its name, by which others find it; one that has been replaced meanwhile is there no more.
+        const std::string itself = "/proc/self/exe";
+        std::error_code unknown;
+        const std::string named = std::filesystem::read_symlink(itself, unknown);
+        const auto isStarted = [&](const std::string& program) {
+            return posix_spawn(&m_process, program.c_str(), &files, &attributes, arguments.data(), environ) ==
+                   0;
+        };
+        if ((unknown || !isStarted(named)) && !isStarted(itself)) m_process = -1;
         posix_spawn_file_actions_destroy(&files);
         posix_spawnattr_destroy(&attributes);
     }

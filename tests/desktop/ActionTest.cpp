@@ -77,6 +77,16 @@ TEST_F(ActionTest, theProgramThatWasStartedForItGoesOn) {
     EXPECT_TRUE(eventually([this] { return !desktop.shows(title::overlay); }));
 }
 
+TEST_F(ActionTest, theProgramThatWasStartedForItHasItsName) {
+    EXPECT_EQ(ask("record"), done);
+    // "(uint32 4711,)"
+    const std::string owner = desktop.run(
+        {"gdbus", "call", "--session", "-d", "org.freedesktop.DBus", "-o", "/org/freedesktop/DBus", "-m",
+         "org.freedesktop.DBus.GetConnectionUnixProcessID", "example.orlen.Keyrill"});
+    const std::string process = owner.substr(owner.find(' ') + 1, owner.find(',') - owner.find(' ') - 1);
+    EXPECT_EQ(contentOf("/proc/" + process + "/comm"), "keyrill\n") << owner;
+}
+
 TEST_F(ActionTest, anyCallerOnTheBusMayAsk) {
     const Keyrill keyrill(desktop);
     EXPECT_EQ(call("record"), (Answer{0, "()\n"}));
