@@ -86,7 +86,7 @@ KWinHands::KWinHands(const std::string& socket) {
         throw std::runtime_error("no pipe for the hands");
     }
     m_pipe = Descriptor(ends[0]);
-    const Descriptor other(ends[1]);
+    Descriptor other(ends[1]);
     m_process = fork();
     if (m_process == 0) {
         otheruser::become();
@@ -95,6 +95,8 @@ KWinHands::KWinHands(const std::string& socket) {
         haveHands(socket.c_str(), ends[1]);
         _exit(0);
     }
+    // Else the end of the process would not be told.
+    other.reset();
     awaitAnswer();
 }
 

@@ -89,7 +89,11 @@ TEST_P(LayersTest, theOverlayLeavesTheKeysToTheWindow) {
     } while (!isThere() && typed.size() < 400);
     EXPECT_TRUE(isThere()) << "the overlay has not come: " << log();
     hands().stroke({xkey::z});
-    EXPECT_EQ(target->text(typed + "z"), typed + "z");
+    EXPECT_TRUE(eventually([&] { return target->text().ends_with("z"); }, std::chrono::seconds(20)));
+    // Where the machine is so busy that a stroke lasts long, it repeats: none is lost.
+    const std::string text = target->text();
+    EXPECT_GE(text.size(), typed.size() + 1);
+    EXPECT_EQ(text, std::string(text.size() - 1, 'a') + "z");
     EXPECT_FALSE(session().hasLayerKeys());
 }
 
@@ -115,18 +119,6 @@ TEST_P(LayersTest, thePromptIsPlayedFromAboveAFullScreen) {
         return now.at(area->x + 1, area->y + area->height / 2) ==
                before.at(area->x + 1, area->y + area->height / 2);
     }));
-}
-
-TEST_P(LayersTest, escapeGivesTheKeyboardBack) {
-    const auto target = openTarget();
-    startProgram(*target);
-    openPrompt();
-    hands().stroke({xkey::escape});
-    EXPECT_TRUE(eventually([this] { return !session().hasLayerKeys(); }));
-    hands().stroke({xkey::z});
-    EXPECT_EQ(target->text("z"), "z");
-    // A play would come half a second later.
-    EXPECT_FALSE(eventually([&] { return target->text() != "z"; }, std::chrono::milliseconds(1200)));
 }
 
 TEST_P(LayersTest, aClickOnThePromptsButtonPlays) {
@@ -168,6 +160,23 @@ TEST_P(LayersSharpTest, theOverlayUsesAllPixelsOfASharpScreen) {
         }
     }
     EXPECT_GT(thinLines, 50);
+}
+
+/// Where no picture is needed.
+using PromptTest = LayersTest;
+
+INSTANTIATE_TEST_SUITE_P(Sessions, PromptTest, testing::Values(place::sway, place::kwin), nameOf);
+
+TEST_P(PromptTest, escapeGivesTheKeyboardBack) {
+    const auto target = openTarget();
+    startProgram(*target);
+    openPrompt();
+    hands().stroke({xkey::escape});
+    EXPECT_TRUE(eventually([this] { return !session().hasLayerKeys(); }));
+    hands().stroke({xkey::z});
+    EXPECT_EQ(target->text("z"), "z");
+    // A play would come half a second later.
+    EXPECT_FALSE(eventually([&] { return target->text() != "z"; }, std::chrono::milliseconds(1200)));
 }
 
 class KWinLayersTest : public LayersTest {};

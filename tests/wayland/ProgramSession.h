@@ -42,7 +42,7 @@ class ProgramSession {
     void start(const std::string& lines) {
         launch(lines);
         // Without a tray a small window appears then.
-        if (!eventually([this] { return shows("Keyrill"); }, std::chrono::seconds(30)))
+        if (!eventually([this] { return shows("Keyrill"); }, std::chrono::seconds(60)))
             throw std::runtime_error("the program does not start: " + log());
     }
     virtual const Compositor& compositor() const = 0;

@@ -20,12 +20,13 @@ using ScreenLook = std::function<ScreenPicture()>;
 inline ScreenPicture pictureWith(const ScreenLook& look, const ScreenPicture::Colour& colour,
                                  const std::vector<std::pair<int, int>>& places) {
     std::optional<ScreenPicture> picture;
-    const bool isThere = eventually([&] {
+    const auto hasCome = [&] {
         picture.emplace(look());
         return std::all_of(places.begin(), places.end(), [&](const auto& place) {
             return picture->at(place.first, place.second) == colour;
         });
-    });
+    };
+    const bool isThere = eventually(hasCome, std::chrono::seconds(30));
     EXPECT_TRUE(isThere) << "what was typed into is not to be seen";
     return *picture;
 }
