@@ -74,6 +74,10 @@ bool Sway::hasFocus(const std::string& title) const {
 
 bool Sway::shows(const std::string& title) const { return tries({"[title=\"^" + title + "$\"] nop"}); }
 
+bool Sway::hasLayerKeys() const {
+    return message({"-t", "get_seats"}).find("\"focus\": 0,") != std::string::npos;
+}
+
 bool Sway::focus(const std::string& title) const { return tries({"[title=\"^" + title + "$\"] focus"}); }
 
 bool Sway::tries(const std::vector<std::string>& arguments) const {

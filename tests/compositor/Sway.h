@@ -28,6 +28,8 @@ class Sway final : public Compositor {
     void close(const std::string& title) const override { message({"[title=\"^" + title + "$\"] kill"}); }
     bool hasFocus(const std::string& title) const override;
     bool shows(const std::string& title) const override;
+    /// Whether keys go to a layer or a locker, to no window.
+    bool hasLayerKeys() const;
     /// The compositor's socket, an absolute path.
     std::string socket() const { return m_folder.file("wayland-1"); }
     Child& program() { return *m_program; }

@@ -16,15 +16,12 @@ Swaylock::Swaylock(const Sway& sway)
     std::ofstream(m_file + ".sh") << "echo $$ > " << m_file << "\nexec swaylock --color 203040\n";
     m_sway.message({"exec", "sh " + m_file + ".sh"});
     const auto isPainted = [&sway] { return ScreenPicture(sway).at(0, 0) == colour; };
-    if (!eventually([&] { return hasKeyboard() && isPainted(); }))
+    if (!eventually([&] { return sway.hasLayerKeys() && isPainted(); }))
         throw std::runtime_error("swaylock does not lock");
 }
 
 void Swaylock::open() {
     kill(static_cast<pid_t>(std::stol(contentOf(m_file))), SIGUSR1);
-    if (!eventually([this] { return !hasKeyboard(); })) throw std::runtime_error("swaylock does not open");
-}
-
-bool Swaylock::hasKeyboard() const {
-    return m_sway.message({"-t", "get_seats"}).find("\"focus\": 0,") != std::string::npos;
+    if (!eventually([this] { return !m_sway.hasLayerKeys(); }))
+        throw std::runtime_error("swaylock does not open");
 }

@@ -21,8 +21,6 @@ class Swaylock {
     void open();
 
   private:
-    bool hasKeyboard() const;
-
     const Sway& m_sway;
     std::string m_file;
 };

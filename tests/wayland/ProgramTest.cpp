@@ -34,10 +34,7 @@ TEST_F(SwayProgramTest, thePromptPlaysAsOftenAsItIsTold) {
     start("keystroke \"ab\"");
     const Foot foot(sway());
     strokeHotKey(xkey::m);
-    // Keys go to no window then.
-    ASSERT_TRUE(eventually([this] {
-        return sway().message({"-t", "get_seats"}).find("\"focus\": 0,") != std::string::npos;
-    }));
+    ASSERT_TRUE(eventually([this] { return hasLayerKeys(); }));
     hands().stroke({12});  // 3
     hands().stroke({xkey::returnKey});
     EXPECT_EQ(foot.typed(6), "ababab");

@@ -87,9 +87,7 @@ class SwayProgram : public ProgramSession {
     ScreenPicture picture() const override { return ScreenPicture(m_sway); }
     void makeFullScreen() const override { m_sway.message({"fullscreen", "enable"}); }
     std::unique_ptr<Mouse> plugMouse() override { return std::make_unique<SwayMouse>(m_sway.socket()); }
-    bool hasLayerKeys() const override {
-        return m_sway.message({"-t", "get_seats"}).find("\"focus\": 0,") != std::string::npos;
-    }
+    bool hasLayerKeys() const override { return m_sway.hasLayerKeys(); }
 
     /// How often sway has taken the preset combination for playing for the program.
     std::size_t timesTaken() const {
