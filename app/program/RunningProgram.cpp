@@ -9,11 +9,10 @@
 #include <QCoreApplication>
 #include <QDBusConnectionInterface>
 #include <QDeadlineTimer>
+#include <QFile>
 #include <QThread>
 #include <chrono>
-#include <filesystem>
 #include <string>
-#include <system_error>
 
 #include "app/program/BusNames.h"
 #include "app/program/BusOwner.h"
@@ -47,14 +46,11 @@ class BackgroundStart {
         std::string option = "--session=" + session;
         std::array<char*, 3> arguments = {name.data(), session.empty() ? nullptr : option.data(), nullptr};
         // By its name, by which others find it; one that has been replaced meanwhile is there no more.
-        const std::string itself = "/proc/self/exe";
-        std::error_code unknown;
-        const std::string named = std::filesystem::read_symlink(itself, unknown);
-        const auto isStarted = [&](const std::string& program) {
-            return posix_spawn(&m_process, program.c_str(), &files, &attributes, arguments.data(), environ) ==
-                   0;
+        const QByteArray named = QFile::encodeName(QCoreApplication::applicationFilePath());
+        const auto isStarted = [&](const char* program) {
+            return posix_spawn(&m_process, program, &files, &attributes, arguments.data(), environ) == 0;
         };
-        if ((unknown || !isStarted(named)) && !isStarted(itself)) m_process = -1;
+        if (!isStarted(named) && !isStarted("/proc/self/exe")) m_process = -1;
         posix_spawn_file_actions_destroy(&files);
         posix_spawnattr_destroy(&attributes);
     }
