@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <map>
 #include <optional>
 #include <utility>
 
@@ -95,12 +96,18 @@ struct BusNotifications::Parts {
     void forgetBus() {
         unwatchService();
         forgetService();
+        giveUpSent();
         giveUp();
     }
     /// What is told may post anew.
     void giveUp() {
         const std::deque<Message> lost = std::exchange(waiting, {});
         for (const Message& message : lost) tell(message.unshown);
+    }
+    /// No answer comes from a bus that has died.
+    void giveUpSent() {
+        const std::map<unsigned, Notifications::Unshown> lost = std::exchange(sent, {});
+        for (const auto& [number, unshown] : lost) tell(unshown);
     }
     void forgetService() {
         hasMarkup.reset();
@@ -130,14 +137,16 @@ struct BusNotifications::Parts {
     void sendAll() {
         for (; !waiting.empty() && unanswered < mostUnanswered; waiting.pop_front()) {
             ++unanswered;
-            connection.call(
-                notify, parametersOf(waiting.front(), *hasMarkup), true,
-                [this, sent = serviceNumber, unshown = waiting.front().unshown](GDBusMessage* answer) {
-                    if (answer == nullptr) tell(unshown);
-                    if (sent != serviceNumber) return;
-                    --unanswered;
-                    sendAll();
-                });
+            const unsigned number = ++messages;
+            sent.emplace(number, waiting.front().unshown);
+            connection.call(notify, parametersOf(waiting.front(), *hasMarkup), true,
+                            [this, number, asked = serviceNumber](GDBusMessage* answer) {
+                                const auto message = sent.extract(number);
+                                if (answer == nullptr && !message.empty()) tell(message.mapped());
+                                if (asked != serviceNumber) return;
+                                --unanswered;
+                                sendAll();
+                            });
         }
     }
 
@@ -155,6 +164,9 @@ struct BusNotifications::Parts {
     }
 
     std::deque<Message> waiting;
+    /// Whom to tell of the messages that nobody has answered, by their numbers.
+    std::map<unsigned, Notifications::Unshown> sent;
+    unsigned messages = 0;
     /// What the service of now does with texts; empty until it has told.
     std::optional<bool> hasMarkup;
     bool isAsking = false;

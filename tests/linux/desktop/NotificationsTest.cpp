@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <functional>
 
@@ -206,6 +207,29 @@ TEST_F(NotificationsTest, tellWhoPostedThatTheServiceRefusesAndNotWhereItShows) 
     Unshown refused;
     notifications.post("refused", "", refused.counter());
     EXPECT_TRUE(turnUntil(loop, [&] { return refused.times() == 1; }));
+}
+
+TEST_F(NotificationsTest, tellWhoPostedThatTheBusDiedBeforeAnAnswer) {
+    const StandIn service(bus, {"notifications"});
+    BusNotifications notifications(loop, bus.address());
+    notifications.post("first", "");
+    ASSERT_TRUE(isHeard(service, lineFor("first", "")));
+    ASSERT_TRUE(isQuiet());
+    Unshown before;
+    service.signal(SIGSTOP);
+    notifications.post("on its way when the bus dies", "", before.counter());
+    ASSERT_TRUE(isQuiet());
+    ASSERT_EQ(before.times(), 0);
+    bus.die();
+    Unshown after;
+    notifications.post("before anybody knows of the death", "", after.counter());
+    EXPECT_TRUE(turnUntil(loop, [&] { return before.times() == 1 && after.times() == 1; }))
+        << before.times() << ' ' << after.times();
+    Unshown late;
+    notifications.post("when it is known", "", late.counter());
+    EXPECT_TRUE(turnUntil(loop, [&] { return late.times() == 1; }));
+    EXPECT_EQ(before.times() + after.times(), 2);
+    service.signal(SIGCONT);
 }
 
 TEST_F(NotificationsTest, outliveTheBus) {

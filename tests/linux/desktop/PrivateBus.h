@@ -37,6 +37,7 @@ class StandIn {
     std::string heard() const { return contentOf(m_log); }
     /// How many of them have that text in them.
     std::size_t count(const std::string& text) const;
+    void signal(int number) const { m_process->signal(number); }
 
   private:
     TemporaryFolder m_folder;
