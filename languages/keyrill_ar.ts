@@ -999,8 +999,8 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
         <translation>للمعالج متغيراته الخاصة؛ لمشاركة هذا المتغير اكتب في المعالج: ⁦global %1⁩.</translation>
     </message>
     <message>
-        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>تُعيَّن قيمة المتغير قبل استخدامه: ⁦set %1 to …⁩. ويوضع النص بين علامتي اقتباس مستقيمتين: ⁦&quot;%1&quot;⁩.</translation>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%2&quot;.</source>
+        <translation>تُعيَّن قيمة المتغير قبل استخدامه: ⁦set %1 to …⁩. ويوضع النص بين علامتي اقتباس مستقيمتين: ⁦&quot;%2&quot;⁩.</translation>
     </message>
     <message>
         <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
@@ -1265,8 +1265,8 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
         <translation>يوجد هنا محرف لا يُرى؛ احذفه.</translation>
     </message>
     <message>
-        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
-        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros...”.</source>
+        <extracomment>“Macros...” is an entry of the menu.</extracomment>
         <translation>ليس الاختصار العام جزءا من السكربت؛ يُعيَّن في التفضيلات، أو لكل ماكرو في «وحدات الماكرو...».</translation>
     </message>
     <message>

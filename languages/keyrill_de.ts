@@ -1000,8 +1000,8 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
         <translation>Ein Handler hat eigene Variablen; um diese Variable mit ihm zu teilen, schreiben Sie dort: global %1.</translation>
     </message>
     <message>
-        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>Eine Variable wird gesetzt, bevor sie verwendet wird: set %1 to … Text steht zwischen geraden Anführungszeichen: &quot;%1&quot;.</translation>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%2&quot;.</source>
+        <translation>Eine Variable wird gesetzt, bevor sie verwendet wird: set %1 to … Text steht zwischen geraden Anführungszeichen: &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
@@ -1266,8 +1266,8 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
         <translation>Hier steht ein unsichtbares Zeichen; löschen Sie es.</translation>
     </message>
     <message>
-        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
-        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros...”.</source>
+        <extracomment>“Macros...” is an entry of the menu.</extracomment>
         <translation>Ein Tastenkürzel ist kein Teil eines Skripts; es wird in den Einstellungen festgelegt oder für jedes Makro unter „Makros...“.</translation>
     </message>
     <message>

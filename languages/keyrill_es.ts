@@ -1000,8 +1000,8 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
         <translation>Un manejador tiene sus propias variables; para compartir esta, escriba en él: global %1.</translation>
     </message>
     <message>
-        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>A una variable se le da un valor antes de usarla: set %1 to … El texto va entre comillas rectas: &quot;%1&quot;.</translation>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%2&quot;.</source>
+        <translation>A una variable se le da un valor antes de usarla: set %1 to … El texto va entre comillas rectas: &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
@@ -1266,8 +1266,8 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
         <translation>Aquí hay un carácter invisible; elimínelo.</translation>
     </message>
     <message>
-        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
-        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros...”.</source>
+        <extracomment>“Macros...” is an entry of the menu.</extracomment>
         <translation>Un atajo de teclado no forma parte de un script; se define en las preferencias o, para cada macro, en «Macros...».</translation>
     </message>
     <message>

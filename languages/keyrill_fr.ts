@@ -1000,8 +1000,8 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
         <translation>Un gestionnaire a ses propres variables&#xa0;; pour partager celle-ci, écrivez-y&#xa0;: global %1.</translation>
     </message>
     <message>
-        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>Une variable se définit avant d’être utilisée&#xa0;: set %1 to … Le texte s’écrit entre guillemets droits&#xa0;: &quot;%1&quot;.</translation>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%2&quot;.</source>
+        <translation>Une variable se définit avant d’être utilisée&#xa0;: set %1 to … Le texte s’écrit entre guillemets droits&#xa0;: &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
@@ -1266,8 +1266,8 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
         <translation>Il y a ici un caractère invisible&#xa0;; supprimez-le.</translation>
     </message>
     <message>
-        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
-        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros...”.</source>
+        <extracomment>“Macros...” is an entry of the menu.</extracomment>
         <translation>Un raccourci clavier ne fait pas partie d’un script&#xa0;; il se définit dans les préférences, ou pour chaque macro dans «&#xa0;Macros...&#xa0;».</translation>
     </message>
     <message>

@@ -1000,8 +1000,8 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <translation>ハンドラーの変数は、そのハンドラーだけのものです。この変数を共有するには、ハンドラーの中に次のように書いてください: global %1。</translation>
     </message>
     <message>
-        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>変数は使う前に設定します: set %1 to …。テキストはまっすぐな引用符で囲みます: &quot;%1&quot;。</translation>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%2&quot;.</source>
+        <translation>変数は使う前に設定します: set %1 to …。テキストはまっすぐな引用符で囲みます: &quot;%2&quot;。</translation>
     </message>
     <message>
         <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
@@ -1266,8 +1266,8 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <translation>ここに目に見えない文字があります。削除してください。</translation>
     </message>
     <message>
-        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
-        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros...”.</source>
+        <extracomment>“Macros...” is an entry of the menu.</extracomment>
         <translation>グローバルショートカットはスクリプトの一部ではありません。設定で、またはマクロごとに「マクロ...」で設定します。</translation>
     </message>
     <message>

@@ -1000,8 +1000,8 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <translation>У обработчика свои переменные; чтобы эта была общей, напишите в нём: global %1.</translation>
     </message>
     <message>
-        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%1&quot;.</source>
-        <translation>Значение переменной задаётся до её использования: set %1 to … Текст заключается в прямые кавычки: &quot;%1&quot;.</translation>
+        <source>A variable is set before it is used: set %1 to … Text stands between straight quotes: &quot;%2&quot;.</source>
+        <translation>Значение переменной задаётся до её использования: set %1 to … Текст заключается в прямые кавычки: &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>A key is pressed by its number: key code 36 is Return. “keyrill-script keys” prints all numbers.</source>
@@ -1266,8 +1266,8 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <translation>Здесь стоит невидимый символ; удалите его.</translation>
     </message>
     <message>
-        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros…”.</source>
-        <extracomment>“Macros…” is an entry of the menu.</extracomment>
+        <source>A hot key is no part of a script; it is set in the preferences, or for each macro in “Macros...”.</source>
+        <extracomment>“Macros...” is an entry of the menu.</extracomment>
         <translation>Глобальная комбинация клавиш не является частью сценария; она задаётся в параметрах или, для каждого макроса, в окне «Макросы...».</translation>
     </message>
     <message>

@@ -57,6 +57,22 @@ INSTANTIATE_TEST_SUITE_P(
             "Inside “tell” the script’s own handlers are called with “my”: my f(…)."},
         Row{"what Return types as a key code", "tell app \"System Events\" to key code return",
             "The key has a number: key code 36; “keyrill-script keys” prints all."},
+        Row{"a name in bars that is never set", "log |a \\| \\\\ b|",
+            "A variable is set before it is used: set |a \\| \\\\ b| to … Text stands between straight "
+            "quotes: "
+            "\"a | \\\\ b\"."},
+        Row{"a name with quotes that is never set", "log |say \"hi\"|",
+            "A variable is set before it is used: set |say \"hi\"| to … Text stands between straight quotes: "
+            "\"say \\\"hi\\\"\"."},
+        Row{"a word of the language in bars", "log |repeat|",
+            "A variable is set before it is used: set |repeat| to … Text stands between straight quotes: "
+            "\"repeat\"."},
+        Row{"a slip in a name in bars", "set |my text| to 1\nlog |my txet|", "Did you mean |my text|?"},
+        Row{"a handler in bars that is not there", "|my text|()",
+            "The script has no handler of that name: on |my text|(…) … end |my text|."},
+        Row{"a handler in bars inside of tell",
+            "on |my text|()\nend\ntell app \"System Events\" to |my text|()",
+            "Inside “tell” the script’s own handlers are called with “my”: my |my text|(…)."},
         Row{"a sign that nobody sees", "delay\u200B 1", "A sign that nobody sees stands here; delete it."},
         Row{"a sign that ends texts elsewhere", std::string("delay \0", 7),
             "A sign that nobody sees stands here; delete it."},

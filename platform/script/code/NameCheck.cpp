@@ -68,14 +68,14 @@ void NameCheck::suspect(NameId name, const VariableUse& use, const std::vector<N
 std::string NameCheck::slipOf(NameId name, NameRole role, const std::vector<NameId>& known) const {
     const std::string& called = spelling(name);
     if (m_handlers.contains(name))
-        return sentence("Hints", "A handler is called with parentheses: %1().").arg(called);
+        return sentence("Hints", "A handler is called with parentheses: %1().").arg(sourceForm(called));
     if (isSetByRun(name)) return sharingAdvice(called);
     std::vector<NameId> all = known;
     const std::vector<NameId>& shared = m_out.script().names();
     all.insert(all.end(), shared.begin(),
                shared.begin() + static_cast<std::ptrdiff_t>(std::min(shared.size(), mostCompared)));
     const std::string similar = similarTo(called, all);
-    if (!similar.empty()) return didYouMean(similar);
+    if (!similar.empty()) return didYouMean(sourceForm(similar));
     std::string foreign = role == NameRole::program ? "" : foreignWordAdvice(called);
     if (!foreign.empty()) return foreign;
     const std::string word = wordLike(called, placeOf(role));

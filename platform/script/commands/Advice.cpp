@@ -33,6 +33,16 @@ constexpr auto keyWords = std::to_array<KeyWord>(
      {"f6", 97},          {"f7", 98},         {"f8", 100},        {"f9", 101},
      {"f10", 109},        {"f11", 103},       {"f12", 111}});
 
+/// As it stands between the quotes of a text.
+std::string inQuotes(std::string_view text) {
+    std::string written;
+    for (const char c : text) {
+        if (c == '"' || c == '\\') written += '\\';
+        written += c;
+    }
+    return written;
+}
+
 std::optional<int> codeOfWord(std::string_view name) {
     std::string plain;
     for (const char c : asciiLowered(name)) plain += c == '_' ? "" : std::string(1, c);
@@ -276,7 +286,7 @@ Sentence millisecondsAdvice(std::uint32_t count) {
 
 Sentence comparisonAdvice(std::string_view name) {
     return sentence("Hints", "This compares and changes nothing; a variable is set with “to”: set %1 to …")
-        .arg(name.empty() ? "x" : name);
+        .arg(name.empty() ? "x" : sourceForm(name));
 }
 
 Sentence typedNameAdvice(std::string_view text) {
@@ -301,7 +311,8 @@ Sentence heldModifierAdvice() {
 Sentence noHandlerAdvice(std::string_view name) {
     Sentence foreign = foreignWordAdvice(name);
     if (!foreign.empty()) return foreign;
-    return sentence("Hints", "The script has no handler of that name: on %1(…) … end %1.").arg(name);
+    return sentence("Hints", "The script has no handler of that name: on %1(…) … end %1.")
+        .arg(sourceForm(name));
 }
 
 Sentence programAdvice(std::string_view command) {
@@ -335,7 +346,7 @@ Sentence neverSetAdvice(std::string_view name, std::string_view meant) {
 
 Sentence meantBy(std::string_view name, NameRole role) {
     if (role == NameRole::application)
-        return sentence("Hints", "An application is named: application \"%1\".").arg(name);
+        return sentence("Hints", "An application is named: application \"%1\".").arg(inQuotes(name));
     const bool isJoined = role == NameRole::joinedText;
     const bool isTyped = isJoined || role == NameRole::keyCode || role == NameRole::text;
     std::optional<int> code = isTyped ? codeOfWord(name) : std::nullopt;
@@ -345,19 +356,20 @@ Sentence meantBy(std::string_view name, NameRole role) {
 }
 
 Sentence quotesAdvice(std::string_view words) {
-    return sentence("Hints", "Text stands between straight quotes: \"%1\".").arg(words);
+    return sentence("Hints", "Text stands between straight quotes: \"%1\".").arg(inQuotes(words));
 }
 
 Sentence sharingAdvice(std::string_view name) {
     return sentence("Hints", "A handler has variables of its own; to share this one write there: global %1.")
-        .arg(name);
+        .arg(sourceForm(name));
 }
 
 Sentence undefinedHint(std::string_view name) {
     return sentence("Hints",
                     "A variable is set before it is used: set %1 to … Text stands between straight quotes: "
-                    "\"%1\".")
-        .arg(name);
+                    "\"%2\".")
+        .arg(sourceForm(name))
+        .arg(inQuotes(name));
 }
 
 }  // namespace script

@@ -75,7 +75,7 @@ Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) 
     if (isOwn) {
         failure.hint =
             sentence("Hints", "Inside “tell” the script’s own handlers are called with “my”: my %1(…).")
-                .arg(name);
+                .arg(sourceForm(name));
     }
     if (isScript) failure.hint = noHandlerAdvice(name);
     return failure;

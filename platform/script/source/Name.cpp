@@ -139,17 +139,19 @@ std::string asciiLowered(std::string_view text) {
 }
 
 std::string sourceForm(const Name& name) {
-    const std::string& text = name.spelling;
+    return names::find(name.spelling) == &name ? name.spelling : sourceForm(std::string_view(name.spelling));
+}
+
+std::string sourceForm(std::string_view spelling) {
     const bool isWord =
-        !text.empty() && (text.front() < '0' || text.front() > '9') &&
-        std::all_of(text.begin(), text.end(), [](char c) {
+        !spelling.empty() && (spelling.front() < '0' || spelling.front() > '9') &&
+        std::all_of(spelling.begin(), spelling.end(), [](char c) {
             return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
         });
-    const Word word = isWord ? wordOf(text) : Word::none;
-    const bool isOwn = names::find(text) == &name;
-    if (isOwn || (isWord && (word == Word::none || kindOf(word) != WordKind::reserved))) return text;
+    const Word word = isWord ? wordOf(spelling) : Word::none;
+    if (isWord && (word == Word::none || kindOf(word) != WordKind::reserved)) return std::string(spelling);
     std::string barred = "|";
-    for (const char c : text) {
+    for (const char c : spelling) {
         if (c == '|' || c == '\\') barred += '\\';
         barred += c;
     }

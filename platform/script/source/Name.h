@@ -101,5 +101,7 @@ std::string asciiLowered(std::string_view text);
 
 /// As a script would spell it: in bars where it is no plain word.
 std::string sourceForm(const Name& name);
+/// Likewise a name of the script's own.
+std::string sourceForm(std::string_view spelling);
 
 }  // namespace script

@@ -327,11 +327,11 @@ std::string signHint(const ScriptError& error, const ErrorLine& place) {
     // Before any text, which may hold the same.
     const std::string_view code = line.substr(0, line.find('"'));
     if (code.find("::") != std::string_view::npos) {
-        //: “Macros…” is an entry of the menu.
+        //: “Macros...” is an entry of the menu.
         return sentence(
             "Hints",
             "A hot key is no part of a script; it is set in the preferences, or for each macro in "
-            "“Macros…”.");
+            "“Macros...”.");
     }
     if (code.find("++") != std::string_view::npos && says("Expected expression"))
         return sentence("Hints", addHint);
