@@ -37,6 +37,7 @@ constexpr double toOpen = 100;
 
 class NoWindows : public Windows {
   public:
+    void refuseFocus(WindowId /*window*/) override {}
     void activate(WindowId /*window*/, std::uint32_t /*userTime*/) override {}
     void awaitFocusElsewhere(WindowId /*hidden*/) override {}
 };

@@ -14,6 +14,10 @@ class Windows {
 
     virtual ~Windows() = default;
 
+    /// Has nobody give the focus to a window of ours when it appears. The toolkit has been told the same; the
+    /// window has its number and has not been shown.
+    virtual void refuseFocus(WindowId window) = 0;
+
     /// Gives the focus to a window of ours that has just been shown, and remembers who had it. `userTime` is
     /// the window system's time stamp of what the user did to open it (HotKeys::lastPressTime()), 0 for now.
     virtual void activate(WindowId window, std::uint32_t userTime) = 0;

@@ -34,7 +34,8 @@ Result<void, Refusal> notNow(const Result<>& done) {
 
 Program::Program(Backends& backends)
     : m_backends(backends),
-      m_statusItem(backends.session().sessionServices().dockingTray),
+      m_statusItem(backends.session().sessionServices().dockingTray,
+                   backends.session().sessionServices().windows),
       m_dialogs(focusOf(backends.session().sessionServices().windows)),
       m_library(backends.libraryServices()),
       m_controller(backends.services(), backends.session().sessionServices().windows, m_statusItem, m_dialogs,

@@ -9,13 +9,15 @@
 
 #include "app/icons/StatusIcon.h"
 #include "app/tray/ControlWindow.h"
+#include "platform/Windows.h"
 
 namespace {
 constexpr std::chrono::seconds patience{3};
 constexpr std::chrono::milliseconds patienceWithToolkit{200};
 }  // namespace
 
-TrayStatusItem::TrayStatusItem(DockingTray& dockingTray) : m_gate(dockingTray) {
+TrayStatusItem::TrayStatusItem(DockingTray& dockingTray, Windows& windows)
+    : m_windows(windows), m_gate(dockingTray) {
     connect(&m_gate, &TrayGate::changed, this, &TrayStatusItem::followTray);
     m_oldNews.setSingleShot(true);
     m_oldNews.setInterval(patienceWithToolkit);
@@ -100,7 +102,10 @@ void TrayStatusItem::updateIcon() {
 }
 
 void TrayStatusItem::showControlWindow() {
-    if (!m_window) m_window = std::make_unique<ControlWindow>(*m_menu);
+    if (!m_window) {
+        m_window = std::make_unique<ControlWindow>(*m_menu);
+        m_windows.refuseFocus(static_cast<WindowId>(m_window->winId()));
+    }
     m_window->setNotice(m_notice);
     m_window->setStandsIn(!m_gate.isPresent());
     m_window->show();

@@ -10,13 +10,15 @@
 #include "app/tray/TrayGate.h"
 
 class ControlWindow;
+class Windows;
 
 /// The status item as an icon in the tray; while there has been no tray for 3 s, as a small window.
 class TrayStatusItem : public QObject, public StatusItem {
     Q_OBJECT
 
   public:
-    explicit TrayStatusItem(DockingTray& dockingTray);
+    /// Both outlive this.
+    TrayStatusItem(DockingTray& dockingTray, Windows& windows);
     ~TrayStatusItem() override;
 
     void show(QMenu& menu, StatusImage image) override;
@@ -32,6 +34,7 @@ class TrayStatusItem : public QObject, public StatusItem {
     void updateIcon();
     void showControlWindow();
 
+    Windows& m_windows;
     TrayGate m_gate;
     QTimer m_withoutTray;
     /// Runs while a menu that was asked for waits for the toolkit.

@@ -12,7 +12,8 @@
 namespace {
 
 Result<std::unique_ptr<Session>> openWayland(Clock& clock, SessionUse use) {
-    return wayland::openSession(clock, use, x11::openWindowFocus);
+    return wayland::openSession(clock, use,
+                                {.openFocus = x11::openWindowFocus, .refuseFocus = x11::refuseFocus});
 }
 
 /// Windows are X11 windows where the compositor has an X server, and else its own.

@@ -104,11 +104,9 @@ class NoGrabs final : public KeyGrabber {
 
 class WaylandSession final : public Session {
   public:
-    using FocusOpener = std::unique_ptr<XWindowFocus> (*)();
-
     WaylandSession(std::unique_ptr<WaylandConnection> connection, Clock& clock, SessionUse use,
-                   FocusOpener openFocus)
-        : m_connection(std::move(connection)), m_clock(clock), m_use(use), m_openFocus(openFocus) {
+                   const XWindows& xWindows)
+        : m_connection(std::move(connection)), m_clock(clock), m_use(use), m_xWindows(xWindows) {
         m_seat.observe([this] { followSeat(); });
         if (m_seat.repeat()) m_keys.setRepeatRule(ruleOf(*m_seat.repeat()));
         if (m_signals) m_keys.listenTo(*m_signals);
@@ -169,7 +167,7 @@ class WaylandSession final : public Session {
     /// Sway is asked for it by the same connection as for all else.
     std::unique_ptr<XWindowFocus> focusAmongXWindows() const {
         if (m_desktop.isKde()) return std::make_unique<KWinXWindows>(SessionBus::addressOfProcess());
-        return m_sway || isForScripts() ? nullptr : m_openFocus();
+        return m_sway || isForScripts() ? nullptr : m_xWindows.openFocus();
     }
     bool hasLockerKeyboard() { return m_lock && m_lock->isLocked(); }
     std::unique_ptr<Pressing> makePressing() {
@@ -205,7 +203,7 @@ class WaylandSession final : public Session {
     std::unique_ptr<WaylandConnection> m_connection;
     Clock& m_clock;
     SessionUse m_use;
-    FocusOpener m_openFocus;
+    XWindows m_xWindows;
     std::unique_ptr<SwayDesktop> m_sway = openSway();
     std::unique_ptr<SwayLock> m_lock = openSwayLock(m_clock);
     DesktopServices m_desktop{*m_connection};
@@ -228,7 +226,7 @@ class WaylandSession final : public Session {
     NoEventMonitor m_noMonitor{noMonitor()};
     NoHotKeys m_noHotKeys{noHotKeys()};
     std::unique_ptr<XWindowFocus> m_focus = focusAmongXWindows();
-    WaylandWindows m_windows{m_sway ? m_sway.get() : m_focus.get(), m_clock};
+    WaylandWindows m_windows{m_sway ? m_sway.get() : m_focus.get(), m_xWindows.refuseFocus, m_clock};
     NoDockingTray m_tray;
     std::unique_ptr<WaylandLayers> m_layers =
         m_use == SessionUse::desktop ? std::make_unique<WaylandLayers>() : nullptr;
@@ -257,11 +255,10 @@ Result<void> checkDisplay() {
 
 std::unique_ptr<SessionCheck> examineSession() { return std::make_unique<WaylandSessionCheck>(); }
 
-Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use,
-                                             std::unique_ptr<XWindowFocus> (*openFocus)()) {
+Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use, const XWindows& xWindows) {
     auto connection = WaylandConnection::open();
     if (!connection) return connection.error();
-    auto session = std::make_unique<WaylandSession>(std::move(connection).value(), clock, use, openFocus);
+    auto session = std::make_unique<WaylandSession>(std::move(connection).value(), clock, use, xWindows);
     const auto started = session->start();
     if (!started) return started.error();
     return std::unique_ptr<Session>(std::move(session));

@@ -3,6 +3,7 @@
 
 #include "platform/Session.h"
 #include "platform/SessionCheck.h"
+#include "platform/Windows.h"
 #include "platform/XWindowFocus.h"
 
 namespace wayland {
@@ -14,10 +15,15 @@ Result<void> checkDisplay();
 /// Tells what works at $WAYLAND_DISPLAY.
 std::unique_ptr<SessionCheck> examineSession();
 
-/// The session of that compositor. What it cannot do is answered with an error that says so. `openFocus`
-/// gives who is asked for the focus of our X11 windows where the compositor has no way of its own; it may
-/// give null.
-Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use,
-                                             std::unique_ptr<XWindowFocus> (*openFocus)());
+/// What has to do with our X11 windows, where the compositor shows such.
+struct XWindows {
+    /// Gives who is asked for their focus where the compositor has no way of its own; may give null.
+    std::unique_ptr<XWindowFocus> (*openFocus)();
+    /// Windows::refuseFocus().
+    void (*refuseFocus)(WindowId window);
+};
+
+/// The session of that compositor. What it cannot do is answered with an error that says so.
+Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use, const XWindows& xWindows);
 
 }  // namespace wayland

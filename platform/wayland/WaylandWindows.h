@@ -12,10 +12,15 @@ namespace wayland {
 /// The windows of ours that the toolkit shows as X11 windows.
 class WaylandWindows final : public Windows, public EventSource {
   public:
+    /// Keeps the focus away from an X11 window.
+    using FocusRefuser = void (*)(WindowId window);
+
     /// `compositor` is null where nobody can be asked; both outlive this.
-    WaylandWindows(XWindowFocus* compositor, Clock& clock) : m_compositor(compositor), m_clock(clock) {}
+    WaylandWindows(XWindowFocus* compositor, FocusRefuser refuser, Clock& clock)
+        : m_compositor(compositor), m_refuser(refuser), m_clock(clock) {}
 
     // Windows
+    void refuseFocus(WindowId window) override { m_refuser(window); }
     /// The compositor has a window only once it is painted, which the event loop does: it is asked again and
     /// again for half a second.
     void activate(WindowId window, std::uint32_t userTime) override;
@@ -30,6 +35,7 @@ class WaylandWindows final : public Windows, public EventSource {
     void focusAwaited();
 
     XWindowFocus* m_compositor;
+    FocusRefuser m_refuser;
     Clock& m_clock;
     Wakeups m_wakeups;
     WindowId m_awaited = none;

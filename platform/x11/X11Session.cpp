@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "platform/Sentence.h"
 #include "platform/none/NoDockingTray.h"
@@ -11,6 +12,7 @@
 #include "platform/none/NoWindows.h"
 #include "platform/x11/X11SessionCheck.h"
 #include "platform/x11/press/X11KeyInjector.h"
+#include "platform/x11/server/Property.h"
 #include "platform/x11/server/XConnection.h"
 #include "platform/x11/watch/X11EventManager.h"
 #include "platform/x11/watch/X11KeyboardLayout.h"
@@ -192,6 +194,18 @@ std::unique_ptr<XWindowFocus> openWindowFocus() {
     auto connection = XConnection::open();
     if (!connection) return nullptr;
     return std::make_unique<EwmhFocus>(std::move(connection).value());
+}
+
+void refuseFocus(WindowId window) {
+    const auto opened = XConnection::open();
+    if (!opened) return;
+    const XConnection& connection = opened.value();
+    const Property protocols(connection, window, connection.atom("WM_PROTOCOLS"));
+    constexpr std::uint32_t most = 32;
+    std::vector<std::uint32_t> names = protocols.numbers(XCB_ATOM_ATOM, most);
+    if (std::erase(names, connection.atom("WM_TAKE_FOCUS")) == 0) return;
+    protocols.write(XCB_ATOM_ATOM, names);
+    connection.roundTrip();
 }
 
 }  // namespace x11

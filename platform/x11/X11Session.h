@@ -3,6 +3,7 @@
 
 #include "platform/Session.h"
 #include "platform/SessionCheck.h"
+#include "platform/Windows.h"
 #include "platform/XWindowFocus.h"
 
 namespace x11 {
@@ -20,5 +21,12 @@ Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use);
 /// Who gives the focus among the windows of the server at $DISPLAY, for other kinds of session; null where
 /// there is none.
 std::unique_ptr<XWindowFocus> openWindowFocus();
+
+/// Has Wayland compositors not give the focus to that window of the server at $DISPLAY when it appears.
+///
+/// Why: the toolkit says of a window without focus that it takes none, and of all that they want to be told
+/// when it is theirs; together that means to compositors that it takes the focus by itself. X11 window
+/// managers know better, and some need both.
+void refuseFocus(WindowId window);
 
 }  // namespace x11

@@ -46,6 +46,7 @@ class FakeWindows : public Windows {
   public:
     explicit FakeWindows(Journal& journal) : m_journal(journal) {}
 
+    void refuseFocus(WindowId /*window*/) override {}
     void activate(WindowId /*window*/, std::uint32_t userTime) override {
         m_journal.note("activate", userTime);
     }

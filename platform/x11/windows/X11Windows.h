@@ -17,6 +17,8 @@ class X11Windows : public Windows {
   public:
     X11Windows(XConnection connection, Clock& clock);
 
+    /// Window managers heed what the toolkit says.
+    void refuseFocus(WindowId /*window*/) override {}
     void activate(WindowId window, std::uint32_t userTime) override;
     void awaitFocusElsewhere(WindowId hidden) override;
 
