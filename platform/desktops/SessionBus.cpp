@@ -12,6 +12,8 @@
 namespace {
 
 constexpr int patience = 2000;
+/// At log-in much is started at once.
+constexpr int patienceWithStart = 25'000;
 constexpr const char* theBus = "org.freedesktop.DBus";
 constexpr const char* theBusObject = "/org/freedesktop/DBus";
 
@@ -86,12 +88,13 @@ Result<GVariantPointer> SessionBus::ask(const Method& method, GVariant* paramete
         if (parameters != nullptr) g_variant_unref(g_variant_ref_sink(parameters));
         return noBus();
     }
+    const bool isStarted = starts == Starts::yes && !has(method.name);
     const GVariantType* const wanted = type == nullptr ? nullptr : G_VARIANT_TYPE(type);
     GError* error = nullptr;
     GVariantPointer answer(g_dbus_connection_call_sync(
         m_connection.get(), method.name, method.path, method.interface, method.member, parameters, wanted,
-        starts == Starts::yes ? G_DBUS_CALL_FLAGS_NONE : G_DBUS_CALL_FLAGS_NO_AUTO_START, patience, nullptr,
-        &error));
+        isStarted ? G_DBUS_CALL_FLAGS_NONE : G_DBUS_CALL_FLAGS_NO_AUTO_START,
+        isStarted ? patienceWithStart : patience, nullptr, &error));
     if (answer) return answer;
     const GFailure failure(error);
     g_dbus_error_strip_remote_error(failure.get());

@@ -63,6 +63,13 @@ void KWin::kill(Service service) {
     program.wait();
 }
 
+void KWin::putPortalBack(std::chrono::seconds wait) {
+    for (const Service service : {Service::portal, Service::portalOfKde}) kill(service);
+    m_session.letStart(
+        "org.freedesktop.portal.Desktop",
+        {"sh", "-c", "'sleep " + std::to_string(wait.count()) + "; exec /usr/libexec/xdg-desktop-portal'"});
+}
+
 void KWin::startCompositor() {
     std::vector<std::string> command = {m_session.file("kwin_wayland"),
                                         "--virtual",

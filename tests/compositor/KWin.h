@@ -68,6 +68,9 @@ class KWin final : public Compositor {
     /// Ends as it would by a crash: KDE's part of the portal, the portal, the session bus.
     enum class Service { portalOfKde, portal, bus };
     void kill(Service service);
+    /// As at the beginning of a session: nothing of the portal runs, and the first who asks for it waits so
+    /// long until it does.
+    void putPortalBack(std::chrono::seconds wait);
 
   private:
     void startCompositor();

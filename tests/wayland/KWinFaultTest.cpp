@@ -86,6 +86,15 @@ INSTANTIATE_TEST_SUITE_P(Parts, KWinPortalDeathTest,
                                          Loss{"portal", KWin::Service::portal}),
                          [](const auto& loss) { return std::string(loss.param.name); });
 
+/// Else the program would take the session for one of the X11 windows in it.
+TEST_F(KWinFaultTest, aPortalThatIsOnlyBeingStartedIsWaitedFor) {
+    kwin().putPortalBack(std::chrono::seconds(6));
+    start("keystroke \"abc\"");
+    const Field field(kwin(), Field::Toolkit::qt);
+    strokeHotKey(xkey::p);
+    EXPECT_EQ(field.text("abc"), "abc") << smallWindow() << log();
+}
+
 /// Nobody can be told by the bus then: the small window says it.
 TEST_F(KWinFaultTest, theEndOfTheSessionBusEndsThePlayAndTheProgramLives) {
     start("keystroke \"a\"\ndelay 60\nkeystroke \"b\"");
