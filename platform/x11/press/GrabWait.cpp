@@ -9,7 +9,7 @@ namespace x11 {
 
 namespace {
 
-constexpr std::chrono::milliseconds limit{500};
+constexpr std::chrono::milliseconds limitForOthers{500};
 constexpr std::chrono::milliseconds limitForManager{500};
 constexpr std::chrono::seconds silence{10};
 constexpr std::chrono::milliseconds limitForHotKeys{200};
@@ -44,7 +44,7 @@ Step<bool> GrabWait::waitUntilFree(RunWaiter& waiter, std::chrono::milliseconds 
 }
 
 Step<> GrabWait::untilFree(RunWaiter& waiter) const {
-    const auto isFree = waitUntilFree(waiter, limit);
+    const auto isFree = waitUntilFree(waiter, limitForOthers);
     if (!isFree) return isFree.error();
     if (isFree.value()) return {};
     return Error{
