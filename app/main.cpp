@@ -72,6 +72,7 @@ int main(int argc, char* argv[]) {
     }
     avoidHangingSessionBus();
     const QApplication application(argc, argv);
+    endInOrderWithServer();
     const Catalogues catalogues;
     const CommandLine line = readCommandLine(argumentsOfProgram());
     const auto known = checkOptions(line);

@@ -9,6 +9,12 @@
 /// What every process of the program does first of all.
 void prepareProcess();
 
+/// Has the process end in order when its X server goes. To be called once the toolkit has started.
+///
+/// Why: GTK, which the toolkit loads under desktops of its kind, ends it by _exit() then: hot keys would stay
+/// in the user's settings, and keys down.
+void endInOrderWithServer();
+
 /// Says so on standard error; the exit status.
 int reportFailure(const Error& error);
 

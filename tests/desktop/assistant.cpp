@@ -74,12 +74,15 @@ bool walk(const Object& object, const std::function<bool(const Object&)>& visit)
     return false;
 }
 
+/// One that has windows: what the toolkit loads of another may be there without any.
 Object program(guint pid) {
     const Object desktop(atspi_get_desktop(0));
     const int count = atspi_accessible_get_child_count(desktop.get(), nullptr);
     for (int i = 0; i < count; ++i) {
         Object child(atspi_accessible_get_child_at_index(desktop.get(), i, nullptr));
-        if (child && atspi_accessible_get_process_id(child.get(), nullptr) == pid) return child;
+        if (child && atspi_accessible_get_process_id(child.get(), nullptr) == pid &&
+            atspi_accessible_get_child_count(child.get(), nullptr) > 0)
+            return child;
     }
     return nullptr;
 }
