@@ -2637,6 +2637,21 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     </message>
 </context>
 <context>
+    <name>ScriptDialogs</name>
+    <message>
+        <source>Please make your selection:</source>
+        <translation>يرجى الاختيار:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+</context>
+<context>
     <name>ScriptEditor</name>
     <message>
         <source>Script</source>
@@ -3187,6 +3202,22 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
     <message>
         <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
         <translation>ابدأ البرنامج داخل جلسة رسومية، أو اضبط DISPLAY على خادم X عامل.</translation>
+    </message>
+    <message>
+        <source>virtual keyboard</source>
+        <translation>لوحة مفاتيح افتراضية</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s settings</source>
+        <translation>إعدادات GNOME</translation>
+    </message>
+    <message>
+        <source>portal for keys</source>
+        <translation>بوابة المفاتيح</translation>
+    </message>
+    <message>
+        <source>portal for hot keys</source>
+        <translation>بوابة الاختصارات العامة</translation>
     </message>
 </context>
 <context>

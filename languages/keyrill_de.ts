@@ -2630,6 +2630,21 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     </message>
 </context>
 <context>
+    <name>ScriptDialogs</name>
+    <message>
+        <source>Please make your selection:</source>
+        <translation>Bitte treffen Sie Ihre Auswahl:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ScriptEditor</name>
     <message>
         <source>Script</source>
@@ -3180,6 +3195,22 @@ DATEI - ist die Standardeingabe; -e ZEILE, ein- oder mehrmals, gibt das Skript s
     <message>
         <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
         <translation>Starten Sie das Programm innerhalb einer grafischen Sitzung oder setzen Sie DISPLAY auf einen laufenden X-Server.</translation>
+    </message>
+    <message>
+        <source>virtual keyboard</source>
+        <translation>virtuelle Tastatur</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s settings</source>
+        <translation>GNOME-Einstellungen</translation>
+    </message>
+    <message>
+        <source>portal for keys</source>
+        <translation>Portal für Tasten</translation>
+    </message>
+    <message>
+        <source>portal for hot keys</source>
+        <translation>Portal für Tastenkürzel</translation>
     </message>
 </context>
 <context>

@@ -2630,6 +2630,21 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     </message>
 </context>
 <context>
+    <name>ScriptDialogs</name>
+    <message>
+        <source>Please make your selection:</source>
+        <translation>Haga su selección:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+</context>
+<context>
     <name>ScriptEditor</name>
     <message>
         <source>Script</source>
@@ -3180,6 +3195,22 @@ ARCHIVO - es la entrada estándar; -e LÍNEA, una o más veces, da el propio scr
     <message>
         <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
         <translation>Inicie el programa dentro de una sesión gráfica o asigne a DISPLAY un servidor X en ejecución.</translation>
+    </message>
+    <message>
+        <source>virtual keyboard</source>
+        <translation>teclado virtual</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s settings</source>
+        <translation>configuración de GNOME</translation>
+    </message>
+    <message>
+        <source>portal for keys</source>
+        <translation>portal para las teclas</translation>
+    </message>
+    <message>
+        <source>portal for hot keys</source>
+        <translation>portal para los atajos de teclado</translation>
     </message>
 </context>
 <context>

@@ -2630,6 +2630,21 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     </message>
 </context>
 <context>
+    <name>ScriptDialogs</name>
+    <message>
+        <source>Please make your selection:</source>
+        <translation>Veuillez faire votre choix&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ScriptEditor</name>
     <message>
         <source>Script</source>
@@ -3180,6 +3195,22 @@ FICHIER - est l’entrée standard&#xa0;; -e LIGNE, une ou plusieurs fois, donne
     <message>
         <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
         <translation>Lancez le programme dans une session graphique ou définissez DISPLAY sur un serveur X en cours d’exécution.</translation>
+    </message>
+    <message>
+        <source>virtual keyboard</source>
+        <translation>clavier virtuel</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s settings</source>
+        <translation>paramètres de GNOME</translation>
+    </message>
+    <message>
+        <source>portal for keys</source>
+        <translation>portail pour les touches</translation>
+    </message>
+    <message>
+        <source>portal for hot keys</source>
+        <translation>portail pour les raccourcis clavier</translation>
     </message>
 </context>
 <context>

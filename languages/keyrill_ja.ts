@@ -2628,6 +2628,21 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>ScriptDialogs</name>
+    <message>
+        <source>Please make your selection:</source>
+        <translation>選択してください:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>ScriptEditor</name>
     <message>
         <source>Script</source>
@@ -3178,6 +3193,22 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
     <message>
         <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
         <translation>プログラムをデスクトップセッションの中で起動するか、DISPLAY に実行中の X サーバーを設定してください。</translation>
+    </message>
+    <message>
+        <source>virtual keyboard</source>
+        <translation>仮想キーボード</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s settings</source>
+        <translation>GNOME の設定</translation>
+    </message>
+    <message>
+        <source>portal for keys</source>
+        <translation>キー用ポータル</translation>
+    </message>
+    <message>
+        <source>portal for hot keys</source>
+        <translation>グローバルショートカット用ポータル</translation>
     </message>
 </context>
 <context>

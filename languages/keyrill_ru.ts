@@ -2632,6 +2632,21 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     </message>
 </context>
 <context>
+    <name>ScriptDialogs</name>
+    <message>
+        <source>Please make your selection:</source>
+        <translation>Сделайте выбор:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+</context>
+<context>
     <name>ScriptEditor</name>
     <message>
         <source>Script</source>
@@ -3182,6 +3197,22 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
     <message>
         <source>Start the program inside a desktop session, or set DISPLAY to a running X server.</source>
         <translation>Запустите программу в графическом сеансе или укажите в DISPLAY работающий X-сервер.</translation>
+    </message>
+    <message>
+        <source>virtual keyboard</source>
+        <translation>виртуальная клавиатура</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s settings</source>
+        <translation>параметры GNOME</translation>
+    </message>
+    <message>
+        <source>portal for keys</source>
+        <translation>портал для клавиш</translation>
+    </message>
+    <message>
+        <source>portal for hot keys</source>
+        <translation>портал для глобальных комбинаций клавиш</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 
+#include "platform/Sentence.h"
 #include "platform/desktops/GnomeLayouts.h"
 #include "platform/desktops/KWinScripts.h"
 #include "platform/evdev/DirectOpener.h"
@@ -96,7 +97,8 @@ SessionDetails WaylandSessionCheck::details() const {
     const auto connection = WaylandConnection::open();
     if (!connection) return details;
     const DesktopServices desktop(*connection.value());
-    details.parts = {{"virtual keyboard", hasVirtualKeyboards(*connection.value())},
+    // Protocols and desktops have one name everywhere.
+    details.parts = {{sentence("Session", "virtual keyboard"), hasVirtualKeyboards(*connection.value())},
                      {"data control", ClipboardDevice::isOffered(*connection.value())},
                      {"layer shell", connection.value()->offers(zwlr_layer_shell_v1_interface)}};
     if (desktop.isSway()) {
@@ -104,11 +106,13 @@ SessionDetails WaylandSessionCheck::details() const {
         return details;
     }
     if (desktop.isKde()) details.parts.push_back({"KDE", true});
-    if (desktop.isGnome()) details.parts.push_back({"GNOME's settings", GnomeLayouts::areKnown()});
+    if (desktop.isGnome())
+        details.parts.push_back({sentence("Session", "GNOME's settings"), GnomeLayouts::areKnown()});
     if (!hasVirtualKeyboards(*connection.value())) {
-        details.parts.push_back({"portal for keys", desktop.pressesByPortal()});
+        details.parts.push_back({sentence("Session", "portal for keys"), desktop.pressesByPortal()});
     }
-    if (!desktop.isKde()) details.parts.push_back({"portal for hot keys", desktop.hasShortcutsPortal()});
+    if (!desktop.isKde())
+        details.parts.push_back({sentence("Session", "portal for hot keys"), desktop.hasShortcutsPortal()});
     return details;
 }
 

@@ -19,12 +19,14 @@ namespace {
 /// keyrill-script run with a terminal of its own, and the person in front of it.
 class TerminalRun {
   public:
-    explicit TerminalRun(const std::string& script) {
+    /// `language` is the user's, as LANGUAGE has it.
+    explicit TerminalRun(const std::string& script, const char* language = "en") {
         int master = -1;
         m_pid = forkpty(&master, nullptr, nullptr, nullptr);
         if (m_pid == 0) {
             unsetenv("DISPLAY");
             unsetenv("WAYLAND_DISPLAY");
+            setenv("LANGUAGE", language, 1);
             execl(programs::scriptTool, programs::scriptTool, "run", "-e", script.c_str(), nullptr);
             _exit(127);
         }
@@ -132,6 +134,13 @@ TEST(TerminalListTest, showsWhatThereIsToChoose) {
     TerminalRun run(
         R"(choose from list {"Ann", "Bob"} with title "Mail" with prompt "Who?" default items {"Bob"})");
     EXPECT_TRUE(run.shows("Mail\r\nWho?\r\n1   Ann\r\n2 * Bob\r\n0 Cancel\r\n> ")) << run.screen();
+}
+
+TEST(TerminalListTest, asksInTheLanguageOfTheUserAndTellsTheScriptTheSame) {
+    TerminalRun run(R"(choose from list {"Ann"})", "de");
+    EXPECT_TRUE(run.shows("Bitte treffen Sie Ihre Auswahl:\r\n1   Ann\r\n0 Abbrechen\r\n> ")) << run.screen();
+    run.type("0\n");
+    EXPECT_TRUE(run.shows("false\r\n")) << run.screen();
 }
 
 TEST(TerminalListTest, asksAgainUntilTheNumbersFit) {

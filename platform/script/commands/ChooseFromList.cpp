@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/ScriptDialogs.h"
+#include "platform/Sentence.h"
 #include "platform/script/commands/All.h"
 #include "platform/script/commands/DialogReader.h"
 #include "platform/script/values/Coercion.h"
@@ -26,15 +27,17 @@ Fallible<Value> perform(CommandStage& stage, const Arguments& arguments) {
     DialogReader reader(arguments);
     ScriptDialog& dialog = reader.dialog();
     const Value* asked = arguments.parameter(prompt);
-    dialog.text = asked == nullptr ? "Please make your selection:" : reader.text(asked);
+    dialog.text = asked == nullptr ? sentence("ScriptDialogs", "Please make your selection:").text()
+                                   : reader.text(asked);
     dialog.title = reader.text(arguments.parameter(title));
     dialog.allowsSeveral = reader.truth(arguments.parameter(several));
     dialog.allowsNone = reader.truth(arguments.parameter(none));
     reader.readChoices(*arguments.direct(), arguments.parameter(defaults));
     const Value* ok = arguments.parameter(okButton);
     const Value* cancel = arguments.parameter(cancelButton);
-    dialog.buttons = {cancel == nullptr ? "Cancel" : reader.text(cancel),
-                      ok == nullptr ? "OK" : reader.text(ok)};
+    // No script gets to know their names.
+    dialog.buttons = {cancel == nullptr ? sentence("ScriptDialogs", "Cancel").text() : reader.text(cancel),
+                      ok == nullptr ? sentence("ScriptDialogs", "OK").text() : reader.text(ok)};
     dialog.defaultButton = 1;
     dialog.cancelButton = 0;
     return reader.choose(stage, answered);
