@@ -95,7 +95,8 @@ Result<std::optional<ScriptInput>> readInput(std::string_view command,
                 option->take(reading, isJoined ? word.substr(option->name.size() + 1) : words[i]);
             if (!taken) return taken.error();
         } else {
-            return isCalledOtherwise;
+            return Error{sentence("ScriptTool", "“%1” has no option “%2”.").arg(command).arg(word),
+                         sentence("ScriptTool", "“keyrill-script --help” tells which there are.")};
         }
     }
     const bool isFileAlone = reading.files.size() == 1 && reading.input.lines.empty();

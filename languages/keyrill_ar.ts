@@ -3088,6 +3088,14 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
         <source>the output cannot be written</source>
         <translation>لا يمكن كتابة الخرج</translation>
     </message>
+    <message>
+        <source>“%1” has no option “%2”.</source>
+        <translation>ليس للأمر «⁨%1⁩» خيار باسم «⁨%2⁩».</translation>
+    </message>
+    <message>
+        <source>“keyrill-script --help” tells which there are.</source>
+        <translation>يعرض الأمر «⁨keyrill-script --help⁩» الخيارات كلها.</translation>
+    </message>
 </context>
 <context>
     <name>Session</name>

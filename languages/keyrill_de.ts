@@ -3081,6 +3081,14 @@ DATEI - ist die Standardeingabe; -e ZEILE, ein- oder mehrmals, gibt das Skript s
         <source>the output cannot be written</source>
         <translation>die Ausgabe kann nicht geschrieben werden</translation>
     </message>
+    <message>
+        <source>“%1” has no option “%2”.</source>
+        <translation>„%1“ hat keine Option „%2“.</translation>
+    </message>
+    <message>
+        <source>“keyrill-script --help” tells which there are.</source>
+        <translation>„keyrill-script --help“ nennt alle.</translation>
+    </message>
 </context>
 <context>
     <name>Session</name>

@@ -3081,6 +3081,14 @@ ARCHIVO - es la entrada estándar; -e LÍNEA, una o más veces, da el propio scr
         <source>the output cannot be written</source>
         <translation>no se puede escribir la salida</translation>
     </message>
+    <message>
+        <source>“%1” has no option “%2”.</source>
+        <translation>«%1» no tiene la opción «%2».</translation>
+    </message>
+    <message>
+        <source>“keyrill-script --help” tells which there are.</source>
+        <translation>«keyrill-script --help» las enumera.</translation>
+    </message>
 </context>
 <context>
     <name>Session</name>

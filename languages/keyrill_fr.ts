@@ -3081,6 +3081,14 @@ FICHIER - est l’entrée standard&#xa0;; -e LIGNE, une ou plusieurs fois, donne
         <source>the output cannot be written</source>
         <translation>la sortie ne peut pas être écrite</translation>
     </message>
+    <message>
+        <source>“%1” has no option “%2”.</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas d’option «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>“keyrill-script --help” tells which there are.</source>
+        <translation>«&#xa0;keyrill-script --help&#xa0;» les énumère.</translation>
+    </message>
 </context>
 <context>
     <name>Session</name>

@@ -3079,6 +3079,14 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
         <source>the output cannot be written</source>
         <translation>出力を書き込めません</translation>
     </message>
+    <message>
+        <source>“%1” has no option “%2”.</source>
+        <translation>「%1」にオプション「%2」はありません。</translation>
+    </message>
+    <message>
+        <source>“keyrill-script --help” tells which there are.</source>
+        <translation>オプションは「keyrill-script --help」で確認できます。</translation>
+    </message>
 </context>
 <context>
     <name>Session</name>

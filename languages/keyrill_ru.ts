@@ -3083,6 +3083,14 @@ FILE - is standard input; -e LINE, once or more, gives the script itself.
         <source>the output cannot be written</source>
         <translation>не удаётся записать вывод</translation>
     </message>
+    <message>
+        <source>“%1” has no option “%2”.</source>
+        <translation>У команды «%1» нет параметра «%2».</translation>
+    </message>
+    <message>
+        <source>“keyrill-script --help” tells which there are.</source>
+        <translation>Все параметры показывает «keyrill-script --help».</translation>
+    </message>
 </context>
 <context>
     <name>Session</name>
