@@ -14,8 +14,8 @@ class Windows {
 
     virtual ~Windows() = default;
 
-    /// Has nobody give the focus to a window of ours when it appears. The toolkit has been told the same; the
-    /// window has its number and has not been shown.
+    /// Has nobody give the focus to a window of ours when it appears. The toolkit has been told the same, and
+    /// has told the window system of the window, but not shown it.
     virtual void refuseFocus(WindowId window) = 0;
 
     /// Gives the focus to a window of ours that has just been shown, and remembers who had it. `userTime` is

@@ -10,16 +10,38 @@
 #include "platform/TerminalText.h"
 #include "platform/linux/StandardStreams.h"
 
+namespace {
+
+/// A library, if the process has loaded it.
+class Loaded {
+  public:
+    explicit Loaded(const char* name) : m_library(dlopen(name, RTLD_LAZY | RTLD_NOLOAD)) {}
+    ~Loaded() {
+        if (m_library != nullptr) dlclose(m_library);
+    }
+    Loaded(const Loaded&) = delete;
+    Loaded& operator=(const Loaded&) = delete;
+
+    explicit operator bool() const { return m_library != nullptr; }
+    /// Null without it.
+    void* function(const char* name) const { return m_library == nullptr ? nullptr : dlsym(m_library, name); }
+
+  private:
+    void* m_library;
+};
+
+}  // namespace
+
 void prepareProcess() { occupyStandardStreams(); }
 
 void endInOrderWithServer() {
-    void* const library = dlopen("libX11.so.6", RTLD_LAZY | RTLD_NOLOAD);
-    if (library == nullptr) return;
+    const Loaded toolkit("libgdk-3.so.0");
+    const Loaded library("libX11.so.6");
     using Handler = int (*)(void* display);
     using Setter = Handler (*)(Handler);
+    void* const setter = toolkit ? library.function("XSetIOErrorHandler") : nullptr;
     // Without one the library calls exit().
-    if (void* const setter = dlsym(library, "XSetIOErrorHandler")) reinterpret_cast<Setter>(setter)(nullptr);
-    dlclose(library);
+    if (setter != nullptr) reinterpret_cast<Setter>(setter)(nullptr);
 }
 
 int reportFailure(const Error& error) {

@@ -9,10 +9,10 @@
 /// What every process of the program does first of all.
 void prepareProcess();
 
-/// Has the process end in order when its X server goes. To be called once the toolkit has started.
+/// Has the process end by exit() when its X server goes. To be called once the toolkit has started.
 ///
-/// Why: GTK, which the toolkit loads under desktops of its kind, ends it by _exit() then: hot keys would stay
-/// in the user's settings, and keys down.
+/// Why: GTK, which the toolkit loads under desktops of its kind, ends it by _exit() then, so that hot keys
+/// would stay in the settings of GNOME's user.
 void endInOrderWithServer();
 
 /// Says so on standard error; the exit status.

@@ -3,7 +3,9 @@
 
 #include <poll.h>
 
+#include <algorithm>
 #include <chrono>
+#include <map>
 #include <utility>
 
 #include "platform/Sentence.h"
@@ -12,8 +14,18 @@
 namespace {
 
 constexpr int patience = 2000;
-/// At log-in much is started at once.
-constexpr int patienceWithStart = 25'000;
+
+/// In milliseconds. At log-in much is started at once, and waited for; one that never comes is waited for
+/// once.
+int patienceWithStart(const char* name) {
+    using Clock = std::chrono::steady_clock;
+    static std::map<std::string, Clock::time_point> begun;
+    constexpr std::chrono::milliseconds whole{25'000};
+    const Clock::time_point now = Clock::now();
+    const auto waited = std::chrono::duration_cast<std::chrono::milliseconds>(
+        now - begun.try_emplace(name, now).first->second);
+    return std::max(patience, static_cast<int>((whole - std::min(waited, whole)).count()));
+}
 constexpr const char* theBus = "org.freedesktop.DBus";
 constexpr const char* theBusObject = "/org/freedesktop/DBus";
 
@@ -88,13 +100,13 @@ Result<GVariantPointer> SessionBus::ask(const Method& method, GVariant* paramete
         if (parameters != nullptr) g_variant_unref(g_variant_ref_sink(parameters));
         return noBus();
     }
-    const bool isStarted = starts == Starts::yes && !has(method.name);
+    const bool isStarted = starts == Starts::yes;
     const GVariantType* const wanted = type == nullptr ? nullptr : G_VARIANT_TYPE(type);
     GError* error = nullptr;
     GVariantPointer answer(g_dbus_connection_call_sync(
         m_connection.get(), method.name, method.path, method.interface, method.member, parameters, wanted,
         isStarted ? G_DBUS_CALL_FLAGS_NONE : G_DBUS_CALL_FLAGS_NO_AUTO_START,
-        isStarted ? patienceWithStart : patience, nullptr, &error));
+        isStarted ? patienceWithStart(method.name) : patience, nullptr, &error));
     if (answer) return answer;
     const GFailure failure(error);
     g_dbus_error_strip_remote_error(failure.get());

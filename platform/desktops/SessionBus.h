@@ -33,9 +33,9 @@ class SessionBus {
 
     /// Whether a service that is not there yet is started by a question to it.
     enum class Starts { no, yes };
-    /// The answer, of that type ("(u)", null for any), for which it waits two seconds at the most, 25 of a
-    /// service that is started. Fails where nobody has the name, and where he answers with an error: the
-    /// message is his.
+    /// The answer, of that type ("(u)", null for any), for which it waits two seconds at the most; of a
+    /// service that is started, until 25 after the process first asked for it. Fails where nobody has the
+    /// name, and where he answers with an error: the message is his.
     Result<GVariantPointer> ask(const Method& method, GVariant* parameters, const char* type,
                                 Starts starts = Starts::no) const;
     /// The same without waiting: `answered` is told in update(), or never where the bus dies.

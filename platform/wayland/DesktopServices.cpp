@@ -18,7 +18,7 @@ bool hasVirtualKeyboards(const WaylandConnection& connection) {
     return connection.offers(zwp_virtual_keyboard_manager_v1_interface);
 }
 
-DesktopServices::DesktopServices(const WaylandConnection& connection)
+DesktopServices::DesktopServices(const WaylandConnection& connection, bool asksForHotKeys)
     : m_isSway(static_cast<bool>(SwayConnection::open())) {
     if (m_isSway) return;
     auto bus = std::make_unique<SessionBus>();
@@ -26,7 +26,7 @@ DesktopServices::DesktopServices(const WaylandConnection& connection)
     const bool hasKeyboards = hasVirtualKeyboards(connection);
     m_isKde = !hasKeyboards && KdeShortcuts::isThere(*bus);
     m_pressesByPortal = !hasKeyboards && PortalLink::isThere(*bus);
-    m_hasShortcutsPortal = !m_isKde && PortalShortcuts::isThere(*bus);
+    m_hasShortcutsPortal = asksForHotKeys && !m_isKde && PortalShortcuts::isThere(*bus);
     if (!m_isKde && !m_pressesByPortal && !m_hasShortcutsPortal) return;
     m_bus = std::move(bus);
     if (m_isKde) m_layouts = std::make_unique<KdeLayouts>(*m_bus);

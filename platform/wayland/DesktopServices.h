@@ -17,7 +17,8 @@ bool hasVirtualKeyboards(const WaylandConnection& connection);
 /// little. Sway is asked by its own ways, and needs none of this.
 class DesktopServices {
   public:
-    explicit DesktopServices(const WaylandConnection& connection);
+    /// Without `asksForHotKeys` nobody is asked for them who does nothing else.
+    explicit DesktopServices(const WaylandConnection& connection, bool asksForHotKeys = true);
 
     bool isSway() const { return m_isSway; }
     /// Whose shortcuts, layouts and portal serve.

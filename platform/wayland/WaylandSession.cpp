@@ -59,7 +59,7 @@ Error noHotKeys() {
 
 Result<void> checkKeys(const WaylandConnection& connection) {
     if (hasVirtualKeyboards(connection)) return {};
-    const DesktopServices desktop(connection);
+    const DesktopServices desktop(connection, false);
     if (desktop.pressesByPortal()) return {};
     if (desktop.isKde()) {
         return Error{sentence("Keys", "KDE lets no program press keys: its portal does not answer."),
@@ -206,7 +206,7 @@ class WaylandSession final : public Session {
     XWindows m_xWindows;
     std::unique_ptr<SwayDesktop> m_sway = openSway();
     std::unique_ptr<SwayLock> m_lock = openSwayLock(m_clock);
-    DesktopServices m_desktop{*m_connection};
+    DesktopServices m_desktop{*m_connection, !isForScripts()};
     SeatKeymap m_seat{*m_connection, environment("XDG_RUNTIME_DIR"), [this] { return group(); }};
     std::unique_ptr<HotKeyBinder> m_bindings = openBindings();
     NoGrabs m_noGrabs;

@@ -315,13 +315,17 @@ TEST_F(ToolTest, nothingThatAScriptSaysActsOnTheTerminal) {
               "script:1:1: execution error:  [31m !m… (-2700)\nerror \" [31m !m…\"\n^\n");
 }
 
-/// Else it could be read as another than it is; isolates, which messages have, end with what they are in.
+/// Else it could be read as another than it is. Isolates, which messages have, too, stay with what they are
+/// in.
 TEST_F(ToolTest, nothingThatAScriptSaysTurnsTheRestOfTheLineRound) {
     for (const char* const turning : {"\u202A", "\u202B", "\u202C", "\u202D", "\u202E"}) {
         write(std::string("error \"a") + turning + "b \u2067c\u2069\"\n");
         EXPECT_EQ(run("run script").errors,
                   "script:1:1: execution error: a b \u2067c\u2069 (-2700)\nerror \"a b \u2067c\u2069\"\n^\n");
     }
+    write("error \"a\u2069b\u2067c\"\n");
+    EXPECT_EQ(run("run script").errors,
+              "script:1:1: execution error: a b\u2067c\u2069 (-2700)\nerror \"a b\u2067c\"\u2069\n^\n");
 }
 
 TEST_F(ToolTest, aFileThatIsNoUtf8IsWarnedOf) {

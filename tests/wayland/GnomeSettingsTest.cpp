@@ -68,6 +68,9 @@ TEST_F(GnomeSettingsTest, atTheEndTheUsersShortcutsAloneAreLeft) {
 /// The X server goes with the shell.
 TEST_F(GnomeSettingsTest, aLogoutTakesThemOutToo) {
     startWithHotKeys("keystroke \"a\"");
+    // It has an end of its own for a process whose X server goes.
+    const std::string loaded = contentOf("/proc/" + std::to_string(program().pid()) + "/maps");
+    ASSERT_NE(loaded.find("/libgtk-3.so"), std::string::npos);
     shell().program().signal(9);
     program().wait();
     EXPECT_TRUE(listsNone());

@@ -89,6 +89,10 @@ INSTANTIATE_TEST_SUITE_P(Parts, KWinPortalDeathTest,
 /// Else the program would take the session for one of the X11 windows in it.
 TEST_F(KWinFaultTest, aPortalThatIsOnlyBeingStartedIsWaitedFor) {
     kwin().putPortalBack(std::chrono::seconds(6));
+    const std::string hasOwner =
+        kwin().call({"-d", "org.freedesktop.DBus", "-o", "/org/freedesktop/DBus", "-m",
+                     "org.freedesktop.DBus.NameHasOwner", "org.freedesktop.portal.Desktop"});
+    ASSERT_EQ(hasOwner, "(false,)\n");
     start("keystroke \"abc\"");
     const Field field(kwin(), Field::Toolkit::qt);
     strokeHotKey(xkey::p);

@@ -229,7 +229,8 @@ Sentence recordAdvice() {
                     "A dialog gives a record; what was typed there is taken with: text returned of n.");
 }
 
-Sentence heldAdvice(Held held, std::string_view name) {
+Sentence heldAdvice(Held held, std::string_view spelling) {
+    const std::string name = sourceForm(spelling);
     switch (held) {
         case Held::dialog:
             return sentence("Warnings",
@@ -300,7 +301,7 @@ Sentence typedNameAdvice(std::string_view text) {
     //: %1 is a letter, %2 the name of a modifier, "control".
     return sentence("Warnings",
                     "This is typed as it stands; a shortcut is written: keystroke \"%1\" using %2 down.")
-        .arg(text.substr(sign + 1))
+        .arg(inQuotes(text.substr(sign + 1)))
         .arg(modifier);
 }
 
