@@ -1542,8 +1542,9 @@ const manualIndex = [
 "of it, and can be played in all programs; what you type elsewhere is not. The combination ",
 "that stops a recording ends it, and so does closing the window. When the permission ends ",
 "in the middle, as when another user's session comes to the front, the recording ends and ",
-"what was recorded until then is kept. The tests of this put pipes in the keyboards' place; ",
-"a real keyboard under a real sway has not been run."
+"what was recorded until then is kept. It has been run with pipes in the keyboards' place, ",
+"and under sway and KWin in a virtual machine with a keyboard of its own; not with one that ",
+"somebody can touch."
 ]
 },
 {
@@ -1596,12 +1597,12 @@ const manualIndex = [
 "name. As long as Keyrill may not read the keyboard, what you hold while a macro plays is ",
 "part of what it presses: on the way to the stop combination an A is Ctrl+A. KDE 5.27 asks ",
 "nothing before keys are pressed, newer ones once. It has been run with KWin 5.27 and its ",
-"portal, both headless; keyboards were pipes there, as under sway. recording all windows, ",
-"from the keyboards that keyrill-access opens after a password recording where keys may not ",
-"be seen what is typed into the window \"Record Here\" hands and Escape during a play where ",
-"the keyboards may be read hot keys everywhere, by KDE's shortcuts pressing keys all ",
-"windows, by KDE's portal text characters of the user's layouts clipboard of scripts yes, ",
-"by data control overlay and prompt above full-screen windows, on a layer of the ",
+"portal, headless and in that virtual machine; Plasma's shell was not there. recording all ",
+"windows, from the keyboards that keyrill-access opens after a password recording where ",
+"keys may not be seen what is typed into the window \"Record Here\" hands and Escape during a ",
+"play where the keyboards may be read hot keys everywhere, by KDE's shortcuts pressing keys ",
+"all windows, by KDE's portal text characters of the user's layouts clipboard of scripts ",
+"yes, by data control overlay and prompt above full-screen windows, on a layer of the ",
 "compositor's bringing windows to the front by KWin's scripts tray status notifiers keyrill ",
 "--action yes"
 ]
