@@ -85,7 +85,12 @@ void SeatKeymap::told(void* self, wl_keyboard* /*keyboard*/, std::uint32_t forma
     if (format != WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1) return;
     std::string text = keymapText(file, size);
     auto& keymap = *static_cast<SeatKeymap*>(self);
-    if (!keymap.m_isMuted && !TypingKeymap::isOurs(text)) keymap.adopt(std::move(text));
+    if (TypingKeymap::isOurs(text)) return;
+    if (keymap.m_isMuted) {
+        ++keymap.m_strangersKeymaps;
+    } else {
+        keymap.adopt(std::move(text));
+    }
 }
 
 void SeatKeymap::toldRepeat(void* self, wl_keyboard* /*keyboard*/, std::int32_t rate, std::int32_t delay) {

@@ -46,6 +46,9 @@ class SeatKeymap {
         std::int32_t rate = 0;
     };
     const std::optional<Repeat>& repeat() const { return m_repeat; }
+    /// Counts the keymaps that were told while a keyboard of ours was at the seat, and are none of ours:
+    /// another keyboard has spoken, or the compositor has given ours what it gives the user's.
+    unsigned strangersKeymaps() const { return m_strangersKeymaps; }
     /// Whether a keyboard of ours is at the seat.
     bool hasOwnKeyboard() const { return m_isMuted; }
 
@@ -77,6 +80,7 @@ class SeatKeymap {
     std::optional<Repeat> m_repeat;
     bool m_isKept = false;
     bool m_isMuted = false;
+    unsigned m_strangersKeymaps = 0;
     wl_seat* m_seat = nullptr;
     wl_keyboard* m_keyboard = nullptr;
 };

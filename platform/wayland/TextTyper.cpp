@@ -22,6 +22,18 @@ Step<> TextTyper::plugIn() {
     m_tools.seat.ownKeyboardComes();
     const auto pluggedIn = m_tools.keyboard.plugIn(keymapToBeginWith(), m_tools.seat.group());
     if (!pluggedIn) return pluggedIn.error();
+    m_strangersKeymaps = m_tools.seat.strangersKeymaps();
+    return {};
+}
+
+Step<> TextTyper::restore() {
+    if (const auto told = m_tools.connection.roundTrip(); !told) return told.error();
+    const unsigned keymaps = m_tools.seat.strangersKeymaps();
+    if (std::exchange(m_strangersKeymaps, keymaps) != keymaps) {
+        const auto set = m_tools.keyboard.setKeymap(m_keymap->with(m_slots.bindings()));
+        if (!set) return set.error();
+    }
+    m_tools.keyboard.lockGroup(m_tools.keyboard.components().lockedLayout);
     return {};
 }
 
@@ -109,6 +121,7 @@ Step<Stroke> TextTyper::strokeFor(char32_t character) {
 
 Step<> TextTyper::type(std::span<const char32_t> characters, const Stroke& around, const KeycodeSet& held) {
     if (const auto typable = refuseUntypable(characters); !typable) return typable.error();
+    if (auto restored = restore(); !restored) return restored;
     while (!characters.empty()) {
         std::vector<char32_t> wanted;
         const std::size_t size = fittingPart(characters, wanted);

@@ -47,6 +47,8 @@ class TextTyper final : public RunKeyboard {
 
   private:
     std::string keymapToBeginWith();
+    /// A compositor whose user configures his keyboards anew, or switches their layout, does so with ours.
+    Step<> restore();
     std::optional<Stroke> find(char32_t character) const;
     Result<void> refuseUntypable(std::span<const char32_t> characters) const;
     std::size_t fittingPart(std::span<const char32_t> characters, std::vector<char32_t>& unbound) const;
@@ -59,6 +61,7 @@ class TextTyper final : public RunKeyboard {
     std::optional<TypingKeymap> m_keymap;
     SpareSlots m_slots;
     std::string m_seatText;
+    unsigned m_strangersKeymaps = 0;
     TypingPace m_pace;
 };
 

@@ -146,6 +146,40 @@ TEST_F(WaylandTwoLayoutsTest, theLayoutInForceIsTheOneThatIsPlayedIn) {
     EXPECT_EQ(foot.typed(expected.size() + 4), expected + "aaф");
 }
 
+struct Reconfiguring {
+    const char* name;
+    std::vector<std::string> message;
+};
+
+/// What configures the user's keyboards anew in mid-play: sway gives ours what it gives them.
+class WaylandReconfiguredTest : public WaylandScriptTest, public testing::WithParamInterface<Reconfiguring> {
+  protected:
+    WaylandReconfiguredTest()
+        : WaylandScriptTest("us",
+                            "input type:keyboard {\nxkb_layout us,ru,de\n}\n"
+                            "input * {\nxkb_layout us,ru,de\n}") {}
+};
+
+TEST_P(WaylandReconfiguredTest, leavesTheTextsThatAreTypedBehindItAsTheyAre) {
+    const Foot foot(sway());
+    const std::string text = "qwzäy;-€";
+    const auto program =
+        start(keys("repeat 3 times\nkeystroke \"" + text + "\"\ndelay 1.5\nend repeat\nkey code 0"));
+    ASSERT_EQ(foot.typed(text.size()), text);
+    sway().message(GetParam().message);
+    EXPECT_EQ(program->wait(), 0) << output();
+    const std::string all = text + text + text;
+    EXPECT_EQ(foot.typed(all.size()).substr(0, all.size()), all);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Ways, WaylandReconfiguredTest,
+    testing::Values(Reconfiguring{"reload", {"reload"}},
+                    Reconfiguring{"layout", {"input", "type:keyboard", "xkb_layout", "fr"}},
+                    Reconfiguring{"layoutOfAll", {"input", "*", "xkb_layout", "ru"}},
+                    Reconfiguring{"switch", {"input", "type:keyboard", "xkb_switch_layout", "next"}}),
+    [](const auto& way) { return std::string(way.param.name); });
+
 // A compositor throws out programs that let events lie.
 TEST_F(WaylandScriptTest, aLongTextWaitsForAProgramThatIsBusy) {
     const Foot foot(sway());
