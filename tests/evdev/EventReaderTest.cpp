@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 
+#include <cinttypes>
 #include <cstring>
 #include <fstream>
 
@@ -118,7 +119,7 @@ int occurrences(std::uint64_t first, std::uint64_t second) {
         std::uintptr_t begin = 0;
         std::uintptr_t end = 0;
         char rights[5] = {};
-        if (std::sscanf(line.c_str(), "%lx-%lx %4s", &begin, &end, rights) != 3) continue;
+        if (std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR " %4s", &begin, &end, rights) != 3) continue;
         if (std::strncmp(rights, "rw", 2) != 0 || line.find("[v") != std::string::npos) continue;
         // NOLINTBEGIN(performance-no-int-to-ptr): addresses that the kernel has written as numbers.
         for (const auto* word = reinterpret_cast<const volatile std::uint64_t*>(begin);

@@ -13,10 +13,19 @@
 
 namespace {
 
-unsigned long inodeOf(int descriptor) {
+ino_t inodeOf(int descriptor) {
     struct stat status {};
     if (fstat(descriptor, &status) != 0) throw std::runtime_error("no such descriptor");
     return status.st_ino;
+}
+
+/// The kernel's time has the width of a machine word.
+input_event eventAt(Clock::Time time) {
+    const auto sinceStart = std::chrono::duration_cast<std::chrono::microseconds>(time.time_since_epoch());
+    input_event event{};
+    event.input_event_sec = static_cast<decltype(event.input_event_sec)>(sinceStart.count() / 1'000'000);
+    event.input_event_usec = static_cast<decltype(event.input_event_usec)>(sinceStart.count() % 1'000'000);
+    return event;
 }
 
 }  // namespace
@@ -50,10 +59,7 @@ void FakeInput::Device::send(const input_event& event) const {
 }
 
 void FakeInput::Device::key(std::uint16_t evdevCode, std::int32_t value, Clock::Time time) const {
-    const auto sinceStart = std::chrono::duration_cast<std::chrono::microseconds>(time.time_since_epoch());
-    input_event event{};
-    event.input_event_sec = sinceStart.count() / 1'000'000;
-    event.input_event_usec = sinceStart.count() % 1'000'000;
+    input_event event = eventAt(time);
     event.type = EV_KEY;
     event.code = evdevCode;
     event.value = value;
@@ -65,16 +71,13 @@ void FakeInput::Device::key(std::uint16_t evdevCode, std::int32_t value, Clock::
 }
 
 void FakeInput::Device::lost(Clock::Time time) const {
-    const auto sinceStart = std::chrono::duration_cast<std::chrono::microseconds>(time.time_since_epoch());
-    input_event event{};
-    event.input_event_sec = sinceStart.count() / 1'000'000;
-    event.input_event_usec = sinceStart.count() % 1'000'000;
+    input_event event = eventAt(time);
     event.type = EV_SYN;
     event.code = SYN_DROPPED;
     send(event);
 }
 
-unsigned long FakeInput::Device::inode() const { return inodeOf(m_writer.number()); }
+ino_t FakeInput::Device::inode() const { return inodeOf(m_writer.number()); }
 
 std::unique_ptr<FakeInput::Device> FakeInput::plug(int number, const std::string& keys,
                                                    const std::string& place) const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <linux/input.h>
+#include <sys/types.h>
 
 #include <chrono>
 #include <map>
@@ -43,7 +44,7 @@ class FakeInput {
         void lost(Clock::Time time) const;
         /// The pipe's end alone goes: the device is there and may not be read any more.
         void revoke() { m_writer.reset(); }
-        unsigned long inode() const;
+        ino_t inode() const;
 
       private:
         std::string m_class;
@@ -75,5 +76,5 @@ class FakeCalls final : public evdev::DeviceCalls {
   private:
     Answers answersOf(int device) const;
 
-    std::map<unsigned long, Answers> m_answers;
+    std::map<ino_t, Answers> m_answers;
 };

@@ -60,7 +60,8 @@ std::vector<std::string> SmallDisk::names(const std::string& folder) const {
 void SmallDisk::fillUntil(unsigned long freePages) const {
     struct statvfs status {};
     require(statvfs(path().c_str(), &status) == 0, "the disk cannot be asked");
-    writeTo(file("filler"), std::string((status.f_bfree - freePages) * pageSize(), '.'));
+    const auto filling = static_cast<std::size_t>(status.f_bfree - freePages) * pageSize();
+    writeTo(file("filler"), std::string(filling, '.'));
     require(statvfs(path().c_str(), &status) == 0 && status.f_bfree == freePages,
             "the disk cannot be filled");
 }
