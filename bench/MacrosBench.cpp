@@ -20,10 +20,10 @@
 #include "app/macros/MacroListModel.h"
 #include "app/macros/MacrosWindow.h"
 #include "library/steps/Steps.h"
-#include "platform/Windows.h"
 #include "platform/fake/FakePlatform.h"
 #include "platform/linux/LocalFolderFollower.h"
 #include "platform/linux/LocalMacroFiles.h"
+#include "platform/none/NoWindows.h"
 #include "support/Child.h"
 
 namespace {
@@ -34,13 +34,6 @@ constexpr std::size_t keys = 100'000;
 constexpr double frame = 16;
 constexpr double toShow = 150;
 constexpr double toOpen = 100;
-
-class NoWindows : public Windows {
-  public:
-    void refuseFocus(WindowId /*window*/) override {}
-    void activate(WindowId /*window*/, std::uint32_t /*userTime*/) override {}
-    void awaitFocusElsewhere(WindowId /*hidden*/) override {}
-};
 
 /// A script of words of which none is like the others.
 std::string content(std::size_t number) {

@@ -14,20 +14,19 @@
 namespace {
 
 constexpr int patience = 2000;
+constexpr const char* theBus = "org.freedesktop.DBus";
+constexpr const char* theBusObject = "/org/freedesktop/DBus";
 
 /// In milliseconds. At log-in much is started at once, and waited for; one that never comes is waited for
 /// once.
 int patienceWithStart(const char* name) {
     using Clock = std::chrono::steady_clock;
-    static std::map<std::string, Clock::time_point> begun;
-    constexpr std::chrono::milliseconds whole{25'000};
+    static std::map<std::string, Clock::time_point> ends;
     const Clock::time_point now = Clock::now();
-    const auto waited = std::chrono::duration_cast<std::chrono::milliseconds>(
-        now - begun.try_emplace(name, now).first->second);
-    return std::max(patience, static_cast<int>((whole - std::min(waited, whole)).count()));
+    const Clock::time_point end = ends.try_emplace(name, now + std::chrono::seconds(25)).first->second;
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - now);
+    return std::max(patience, static_cast<int>(left.count()));
 }
-constexpr const char* theBus = "org.freedesktop.DBus";
-constexpr const char* theBusObject = "/org/freedesktop/DBus";
 
 Error noBus() {
     return {sentence("Session", "There is no session bus."), sentence("Session", "Log in again.")};
@@ -100,13 +99,13 @@ Result<GVariantPointer> SessionBus::ask(const Method& method, GVariant* paramete
         if (parameters != nullptr) g_variant_unref(g_variant_ref_sink(parameters));
         return noBus();
     }
-    const bool isStarted = starts == Starts::yes;
+    const bool mayStart = starts == Starts::yes;
     const GVariantType* const wanted = type == nullptr ? nullptr : G_VARIANT_TYPE(type);
     GError* error = nullptr;
     GVariantPointer answer(g_dbus_connection_call_sync(
         m_connection.get(), method.name, method.path, method.interface, method.member, parameters, wanted,
-        isStarted ? G_DBUS_CALL_FLAGS_NONE : G_DBUS_CALL_FLAGS_NO_AUTO_START,
-        isStarted ? patienceWithStart(method.name) : patience, nullptr, &error));
+        mayStart ? G_DBUS_CALL_FLAGS_NONE : G_DBUS_CALL_FLAGS_NO_AUTO_START,
+        mayStart ? patienceWithStart(method.name) : patience, nullptr, &error));
     if (answer) return answer;
     const GFailure failure(error);
     g_dbus_error_strip_remote_error(failure.get());

@@ -17,7 +17,8 @@ bool hasVirtualKeyboards(const WaylandConnection& connection);
 /// little. Sway is asked by its own ways, and needs none of this.
 class DesktopServices {
   public:
-    /// Without `asksForHotKeys` nobody is asked for them who does nothing else.
+    /// Whether the portal gives hot keys is asked only with `asksForHotKeys`: one that is being started is
+    /// waited for.
     explicit DesktopServices(const WaylandConnection& connection, bool asksForHotKeys = true);
 
     bool isSway() const { return m_isSway; }

@@ -12,6 +12,9 @@ namespace {
 /// A copy has none of the capabilities that the file has, which root in a container may not have.
 constexpr const char* installed = "/usr/bin/kwin_wayland";
 
+constexpr const char* portal = "org.freedesktop.portal.Desktop";
+constexpr const char* portalProgram = "/usr/libexec/xdg-desktop-portal";
+
 /// As a text of a script.
 std::string quoted(const std::string& title) {
     std::string text;
@@ -47,8 +50,6 @@ void KWin::startPortal() {
     }
     const std::string object = "/org/freedesktop/portal/desktop";
     const std::string part = "org.freedesktop.impl.portal.desktop.kde";
-    const std::string portal = "org.freedesktop.portal.Desktop";
-    const std::string portalProgram = "/usr/libexec/xdg-desktop-portal";
     const std::map<std::string, std::string> toolkit = {{"QT_QPA_PLATFORM", "wayland"}};
     m_portal.push_back(m_session.startService({program}, "portal-kde.log", part, object, toolkit));
     m_portal.push_back(m_session.startService({portalProgram}, "portal.log", portal, object));
@@ -66,8 +67,7 @@ void KWin::kill(Service service) {
 void KWin::putPortalBack(std::chrono::seconds wait) {
     for (const Service service : {Service::portal, Service::portalOfKde}) kill(service);
     m_session.letStart(
-        "org.freedesktop.portal.Desktop",
-        {"sh", "-c", "'sleep " + std::to_string(wait.count()) + "; exec /usr/libexec/xdg-desktop-portal'"});
+        portal, {"sh", "-c", "'sleep " + std::to_string(wait.count()) + "; exec " + portalProgram + "'"});
 }
 
 void KWin::startCompositor() {

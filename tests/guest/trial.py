@@ -57,7 +57,7 @@ class Trial:
         begun = time.monotonic()
         try:
             parts = (self.installation, self.session, self.refused_password, self.record_and_play, self.remembered_password,
-                         self.other_console, self.killed_with_keys_down, self.password_of_another_process)
+                     self.other_console, self.killed_with_keys_down, self.password_of_another_process)
             for part in parts:
                 # What follows stands on these two.
                 if not self.stage(part) and part in (self.installation, self.session):

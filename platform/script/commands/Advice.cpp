@@ -8,6 +8,7 @@
 #include "platform/KeyCodes.h"
 #include "platform/Sentence.h"
 #include "platform/script/commands/KeyTable.h"
+#include "platform/script/source/Literal.h"
 #include "platform/script/values/ModifierWords.h"
 #include "platform/script/values/SourceForm.h"
 
@@ -34,14 +35,7 @@ constexpr auto keyWords = std::to_array<KeyWord>(
      {"f10", 109},        {"f11", 103},       {"f12", 111}});
 
 /// As it stands between the quotes of a text.
-std::string inQuotes(std::string_view text) {
-    std::string written;
-    for (const char c : text) {
-        if (c == '"' || c == '\\') written += '\\';
-        written += c;
-    }
-    return written;
-}
+std::string inQuotes(std::string_view text) { return escaped(text, '"'); }
 
 std::optional<int> codeOfWord(std::string_view name) {
     std::string plain;

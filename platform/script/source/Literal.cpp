@@ -98,4 +98,13 @@ Unescaped unescape(std::string_view spelled) {
     return result;
 }
 
+std::string escaped(std::string_view text, char sign) {
+    std::string written;
+    for (const char c : text) {
+        if (c == sign || c == '\\') written += '\\';
+        written += c;
+    }
+    return written;
+}
+
 }  // namespace script

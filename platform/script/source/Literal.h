@@ -27,4 +27,8 @@ struct Unescaped {
 /// The text that stands between the quotes of a literal. CR and CR LF become LF; escapes are \" \\ \n \r \t.
 Unescaped unescape(std::string_view spelled);
 
+/// The text as it stands between two of that sign, a quote or a bar: with a backslash before each of it, and
+/// before each backslash.
+std::string escaped(std::string_view text, char sign);
+
 }  // namespace script

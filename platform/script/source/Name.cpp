@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/script/source/Literal.h"
 #include "platform/script/source/Word.h"
 
 namespace script {
@@ -150,12 +151,7 @@ std::string sourceForm(std::string_view spelling) {
         });
     const Word word = isWord ? wordOf(spelling) : Word::none;
     if (isWord && (word == Word::none || kindOf(word) != WordKind::reserved)) return std::string(spelling);
-    std::string barred = "|";
-    for (const char c : spelling) {
-        if (c == '|' || c == '\\') barred += '\\';
-        barred += c;
-    }
-    return barred + "|";
+    return '|' + escaped(spelling, '|') + '|';
 }
 
 }  // namespace script
