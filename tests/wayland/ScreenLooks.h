@@ -16,18 +16,25 @@
 /// Takes a picture of a screen.
 using ScreenLook = std::function<ScreenPicture()>;
 
-/// The screen, once each of these places has that colour; its own pixels.
+/// The screen, once each of these places has that colour and nothing has changed for a while: compositors
+/// give programs time to draw themselves at a new size (sway 0.2 s) before they move anything; its own
+/// pixels.
 inline ScreenPicture pictureWith(const ScreenLook& look, const ScreenPicture::Colour& colour,
                                  const std::vector<std::pair<int, int>>& places) {
+    constexpr std::chrono::milliseconds rest{400};
     std::optional<ScreenPicture> picture;
+    auto lastChange = std::chrono::steady_clock::now();
     const auto hasCome = [&] {
-        picture.emplace(look());
-        return std::all_of(places.begin(), places.end(), [&](const auto& place) {
-            return picture->at(place.first, place.second) == colour;
-        });
+        const auto time = std::chrono::steady_clock::now();
+        ScreenPicture now(look());
+        if (!picture || now.differsFrom(*picture)) lastChange = time;
+        picture.emplace(std::move(now));
+        return time - lastChange >= rest && std::all_of(places.begin(), places.end(), [&](const auto& place) {
+                   return picture->at(place.first, place.second) == colour;
+               });
     };
     const bool isThere = eventually(hasCome, std::chrono::seconds(30));
-    EXPECT_TRUE(isThere) << "what was typed into is not to be seen";
+    EXPECT_TRUE(isThere) << "what was typed into is not to be seen, or the screen keeps changing";
     return *picture;
 }
 
