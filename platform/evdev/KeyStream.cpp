@@ -51,6 +51,12 @@ void KeyStream::assumeModifiers(xkb_mod_mask_t modifiers) {
         if (keycode != 0) down.set(keycode);
     }
     startWith(desktop, down);
+    m_assumed = modifiers;
+}
+
+void KeyStream::assumeNone() {
+    keyboardGone(desktop);
+    m_assumed = 0;
 }
 
 /// A light on one of them is enough: not each keyboard has them.
@@ -94,6 +100,7 @@ void KeyStream::windowKey(const WindowKey& key) {
     const bool isPress = key.kind != WindowKey::Kind::release;
     RawKey raw{.keycode = key.keycode, .press = isPress, .source = window, .time = serverTime(time)};
     adoptLocks(key.modifiers);
+    checkAssumption(key.modifiers);
     if (key.kind == WindowKey::Kind::repeat) return m_interpreter.repeatByKeyboard(raw);
     m_rules.hands.key(raw, false);
     if (!m_seat.change(window, key.keycode, isPress)) return;
@@ -110,6 +117,10 @@ void KeyStream::adoptLocks(xkb_mod_mask_t inForce) {
     components.locked = locked;
     m_rules.keyboard.confirm(components, 0, false);
     m_rules.hotKeys.followLocks();
+}
+
+void KeyStream::checkAssumption(xkb_mod_mask_t inForce) {
+    if ((inForce & m_assumed) != m_assumed) assumeNone();
 }
 
 void KeyStream::keyboardGone(std::uint16_t keyboard) {

@@ -52,9 +52,9 @@ class KeyStream final : public KeyboardListener {
     void end();
 
     /// Nothing is heard yet, but the desktop has told of a combination: hands hold these modifiers, until
-    /// keyboards come, or until they are taken for up. Real modifiers.
+    /// keyboards come, a window of ours knows better, or they are taken for up. Real modifiers.
     void assumeModifiers(xkb_mod_mask_t modifiers);
-    void assumeNone() { keyboardGone(desktop); }
+    void assumeNone();
     /// Whether any modifier is down, for all that is known.
     bool holdsModifiers() const { return m_interpreter.holdsModifiers(); }
 
@@ -86,6 +86,7 @@ class KeyStream final : public KeyboardListener {
     void adoptLights(const std::vector<NewKeyboard>& keyboards);
     void startWith(std::uint16_t keyboard, const KeycodeSet& down);
     void adoptLocks(xkb_mod_mask_t inForce);
+    void checkAssumption(xkb_mod_mask_t inForce);
     /// Whether the key is a hot key.
     bool pass(const RawKey& key, RepeatCounter::Time time);
     void followRepeats(const RawKey& key, bool isHotKey, RepeatCounter::Time time);
@@ -96,6 +97,8 @@ class KeyStream final : public KeyboardListener {
     SeatKeys m_seat;
     RepeatCounter m_repeats;
     std::vector<std::uint16_t> m_keyboards;
+    /// What assumeModifiers() was told.
+    xkb_mod_mask_t m_assumed = 0;
 };
 
 }  // namespace evdev

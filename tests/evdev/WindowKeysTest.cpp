@@ -165,6 +165,57 @@ TEST_P(EvdevWindowKeysTest, thatAreAHotKeyAreThat) {
     EXPECT_EQ(delivered(), (Log{"modifiers 0x1000", "pressed 7", "released 7"}));
 }
 
+/// With a hot key that plays, of which the desktop tells alone.
+class EvdevWindowKeysAfterAPlayTest : public EvdevWindowKeysTest {
+  protected:
+    void SetUp() override {
+        EvdevWindowKeysTest::SetUp();
+        world().hotKeys().request({.id = 7,
+                                   .name = "play",
+                                   .keyCode = key::s,
+                                   .modifiers = modifier::control | modifier::shift,
+                                   .startsPlayback = true});
+        window().begin();
+    }
+    void desktopTells(bool press) {
+        monitor().desktopTells({.keycode = xkey::s, .modifiers = combination}, press);
+    }
+
+    static constexpr std::uint16_t combination = xmask::control | xmask::shift;
+};
+
+TEST_P(EvdevWindowKeysAfterAPlayTest, haveTheModifiersThatTheWindowTells) {
+    pressThere(xkey::control);
+    pressThere(xkey::shift, xmask::control);
+    desktopTells(true);
+    desktopTells(false);
+    releaseThere(xkey::shift, combination);
+    delivered();
+    tapThere(xkey::a, xmask::control);
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x1000", "down 0 a", "up 0"}));
+    releaseThere(xkey::control, xmask::control);
+    tapThere(xkey::a);
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x0", "down 0 a", "up 0"}));
+}
+
+/// Nor would they keep the play waiting.
+TEST_P(EvdevWindowKeysAfterAPlayTest, tellThatHandsAreUpThoughTheDesktopDoesNot) {
+    desktopTells(true);
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x1200", "pressed 7"}));
+    tapThere(xkey::a);
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x200", "modifiers 0x0", "down 0 a", "up 0"}));
+}
+
+/// They came before: the window had another order, or none.
+TEST_P(EvdevWindowKeysAfterAPlayTest, letHandsHoldWhatIsInForce) {
+    desktopTells(true);
+    delivered();
+    tapThere(xkey::a, combination);
+    releaseThere(xkey::shift, combination);
+    EXPECT_EQ(delivered(), (Log{"down 0 A", "up 0"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Evdev, EvdevWindowKeysAfterAPlayTest, testing::Values(&makeEvdevWorld));
 INSTANTIATE_TEST_SUITE_P(Evdev, EvdevWindowKeysTest, testing::Values(&makeEvdevWorld));
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <thread>
 
 #include "compositor/Field.h"
 #include "wayland/AccessWorld.h"
@@ -134,6 +135,24 @@ TEST_P(RecordHereTest, whatIsTypedElsewhereMeanwhileIsNotRecorded) {
     hands().type("b");
     stopRecording();
     EXPECT_EQ(played("ab"), "ab.");
+}
+
+/// What the macro types meanwhile is recorded too, among them or behind them.
+TEST_P(RecordHereTest, keysThatFollowThePlayHotKeyAtOnceAreRecordedWithoutItsModifiers) {
+    startRecording();
+    hands().type("b");
+    play();
+    hands().type("no");
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    hands().type("c");
+    stopRecording();
+    play();
+    ASSERT_TRUE(eventually([this] { return field().text().size() >= 5; })) << field().text();
+    hands().type(".");
+    ASSERT_TRUE(eventually([this] { return field().text().ends_with("."); })) << field().text();
+    std::string text = field().text();
+    EXPECT_EQ(std::erase(text, 'x'), 1U);
+    EXPECT_EQ(text, "bnoc.");
 }
 
 TEST_P(RecordHereTest, closingTheWindowEndsTheRecordingToo) {
