@@ -41,6 +41,9 @@ enum class SessionUse {
     /// To play scripts and end; fails where no keys can be pressed. There are neither windows of ours nor a
     /// tray. What a script has put into the clipboard outlives the process.
     scripts,
+    /// To tell what works, and end: no key can be pressed, and hot keys are looked up, as far as the desktop
+    /// tells who has them without giving them. Grabs of an X server are taken for a moment.
+    check,
 };
 
 /// The desktop session that the process was started in.

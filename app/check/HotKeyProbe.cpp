@@ -18,7 +18,8 @@ HotKeyFinding findingOf(HotKeyStatus status, bool isOurs) {
             return HotKeyFinding::uncertain;
         case HotKeyStatus::registered:
         case HotKeyStatus::changed:
-            return HotKeyFinding::free;
+            // A desktop of which it is only asked who else has it.
+            return isOurs ? HotKeyFinding::ours : HotKeyFinding::free;
         case HotKeyStatus::refused:
             break;
     }

@@ -44,11 +44,14 @@ void findConsent(CapabilityState& hotKeys) {
 }
 
 /// Elsewhere to ask for a combination could take it from the program that runs.
-bool canBeAskedFor(const CapabilityState& hotKeys) { return hotKeys.means == Means::xGrab; }
+bool canBeAskedFor(const CapabilityState& hotKeys) {
+    return hotKeys.means == Means::xGrab || hotKeys.means == Means::swayBindings ||
+           hotKeys.means == Means::kdeShortcuts;
+}
 
 std::vector<HotKeyFact> hotKeysOf(const SessionKind& kind, const std::vector<std::string>& ours) {
     SteadyClock clock;
-    const auto session = kind.open(clock, SessionUse::scripts);
+    const auto session = kind.open(clock, SessionUse::check);
     if (!session) return {};
     const KeyFileSettings settings(configFoldersOfProcess(), KeyFileSettings::Use::readOnly);
     const SessionServices& services = session.value()->sessionServices();

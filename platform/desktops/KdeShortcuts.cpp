@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <sstream>
+#include <string_view>
 
 #include "platform/Sentence.h"
 #include "platform/desktops/portal/KdeLayoutNames.h"
@@ -61,9 +62,40 @@ std::vector<std::int32_t> keysOf(GVariant* answer) {
     return keys;
 }
 
+std::string noName() { return sentence("HotKeys", "KDE has no name for this key"); }
+
+/// Who but us has the key, as the end of a sentence; empty if nobody does. Each owner: action, its name,
+/// component, its name, context, its name, keys, default keys.
+std::optional<std::string> ownerOf(std::int32_t key, const SessionBus& bus) {
+    const auto answer =
+        bus.ask(method("getGlobalShortcutsByKey"), g_variant_new("(i)", key), "(a(ssssssaiai))");
+    if (!answer) return sentence("HotKeys", "KDE uses it for something else");
+    const GVariantPointer owners(g_variant_get_child_value(answer.value().get(), 0));
+    for (gsize i = 0; i < g_variant_n_children(owners.get()); ++i) {
+        const GVariantPointer owner(g_variant_get_child_value(owners.get(), i));
+        const char* action = nullptr;
+        const char* program = nullptr;
+        const char* programName = nullptr;
+        g_variant_get_child(owner.get(), 1, "&s", &action);
+        g_variant_get_child(owner.get(), 2, "&s", &program);
+        g_variant_get_child(owner.get(), 3, "&s", &programName);
+        if (program == std::string_view(component)) continue;
+        return sentence("HotKeys", "%1 has it for “%2”").arg(programName).arg(action);
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 bool KdeShortcuts::isThere(const SessionBus& bus) { return bus.has(service); }
+
+std::optional<std::string> KdeShortcuts::obstacleTo(const Combination& combination, const SessionBus& bus) {
+    if (combination.keys.empty()) return noName();
+    for (const std::int32_t key : combination.keys) {
+        if (auto owner = ownerOf(key, bus)) return owner;
+    }
+    return std::nullopt;
+}
 
 KdeShortcuts::KdeShortcuts(SessionBus& bus, Describes describes)
     : m_bus(bus), m_describes(std::move(describes)) {
@@ -110,7 +142,7 @@ std::optional<std::string> KdeShortcuts::grab(const KeyGrab& grab, const HotKeyR
     const Place place{grab.keycode, grab.modifiers};
     if (m_bound.contains(place)) return std::nullopt;
     const Combination combination = m_describes(grab);
-    if (combination.keys.empty()) return sentence("HotKeys", "KDE has no name for this key");
+    if (combination.keys.empty()) return noName();
     const auto bound = bind(place, combination);
     if (!bound) return sentence("HotKeys", "KDE says: %1").arg(bound.error().message);
     const auto lost = std::find_if(combination.keys.begin(), combination.keys.end(), [&](std::int32_t key) {
@@ -118,7 +150,7 @@ std::optional<std::string> KdeShortcuts::grab(const KeyGrab& grab, const HotKeyR
     });
     if (lost != combination.keys.end()) {
         unbind(place);
-        return ownerOf(*lost);
+        return ownerOf(*lost, m_bus).value_or(sentence("HotKeys", "KDE does not give it"));
     }
     m_bound[place] = combination;
     return std::nullopt;
@@ -150,21 +182,6 @@ void KdeShortcuts::unbind(const Place& place) const {
     [[maybe_unused]] const auto gone =
         m_bus.ask(method("unregister"),
                   g_variant_new("(ss)", component, idOf(place.first, place.second).c_str()), "(b)");
-}
-
-/// Each owner: action, its name, component, its name, context, its name, keys, default keys.
-std::string KdeShortcuts::ownerOf(std::int32_t key) const {
-    const auto answer =
-        m_bus.ask(method("getGlobalShortcutsByKey"), g_variant_new("(i)", key), "(a(ssssssaiai))");
-    if (!answer) return sentence("HotKeys", "KDE uses it for something else");
-    const GVariantPointer owners(g_variant_get_child_value(answer.value().get(), 0));
-    if (g_variant_n_children(owners.get()) == 0) return sentence("HotKeys", "KDE does not give it");
-    const char* action = nullptr;
-    const char* program = nullptr;
-    const GVariantPointer owner(g_variant_get_child_value(owners.get(), 0));
-    g_variant_get_child(owner.get(), 1, "&s", &action);
-    g_variant_get_child(owner.get(), 3, "&s", &program);
-    return sentence("HotKeys", "%1 has it for “%2”").arg(program).arg(action);
 }
 
 std::optional<HotKeyBinder::Event> KdeShortcuts::nextEvent() {

@@ -31,6 +31,9 @@ class KdeShortcuts final : public HotKeyBinder {
     /// Whether a desktop on that bus gives such combinations.
     static bool isThere(const SessionBus& bus);
 
+    /// Why a combination could not be had, as that of grab(): somebody else has it. Nothing is asked for.
+    static std::optional<std::string> obstacleTo(const Combination& combination, const SessionBus& bus);
+
     /// Takes back what a process before this one has left. `bus` outlives this.
     KdeShortcuts(SessionBus& bus, Describes describes);
     ~KdeShortcuts() override;
@@ -53,7 +56,6 @@ class KdeShortcuts final : public HotKeyBinder {
     /// The keys that it has now.
     Result<std::vector<std::int32_t>> bind(const Place& place, const Combination& combination) const;
     void unbind(const Place& place) const;
-    std::string ownerOf(std::int32_t key) const;
     void heard(GVariant* parameters, Event::Kind kind);
     void forget();
 

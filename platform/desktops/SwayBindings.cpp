@@ -2,17 +2,10 @@
 #include "platform/desktops/SwayBindings.h"
 
 #include <unistd.h>
-#include <wordexp.h>
 
-#include <algorithm>
 #include <array>
-#include <filesystem>
-#include <fstream>
-#include <span>
 #include <sstream>
 #include <string_view>
-
-#include "platform/Sentence.h"
 
 namespace {
 
@@ -35,25 +28,6 @@ std::string nothingOf(std::string_view what, std::uint8_t keycode, std::uint16_t
     return text.str();
 }
 
-/// As sway looks for them: in the folder of its configuration.
-std::vector<std::string> included(const std::string& folder, const std::string& pattern) {
-    std::vector<std::string> contents;
-    wordexp_t found{};
-    const bool isRelative =
-        !pattern.empty() && std::string_view("/~$").find(pattern.front()) == std::string_view::npos;
-    const std::string whole = isRelative ? folder + "/" + pattern : pattern;
-    if (wordexp(whole.c_str(), &found, WRDE_NOCMD | WRDE_UNDEF) == 0) {
-        for (const char* file : std::span(found.we_wordv, found.we_wordc)) {
-            std::ifstream stream(file, std::ios::binary);
-            std::ostringstream content;
-            content << stream.rdbuf();
-            contents.push_back(content.str());
-        }
-        wordfree(&found);
-    }
-    return contents;
-}
-
 }  // namespace
 
 Result<std::unique_ptr<SwayBindings>> SwayBindings::open(Types types) {
@@ -66,39 +40,20 @@ Result<std::unique_ptr<SwayBindings>> SwayBindings::open(Types types) {
     if (!subscribed) return subscribed.error();
     std::unique_ptr<SwayBindings> bindings(
         new SwayBindings(std::move(commands).value(), std::move(events).value(), std::move(types)));
-    bindings->readConfiguration();
+    bindings->m_users.read(bindings->m_commands);
     return bindings;
 }
 
 SwayBindings::SwayBindings(SwayConnection commands, SwayConnection events, Types types)
-    : m_commands(std::move(commands)), m_events(std::move(events)), m_types(std::move(types)) {}
+    : m_commands(std::move(commands)), m_events(std::move(events)), m_users(std::move(types)) {}
 
 SwayBindings::~SwayBindings() {
     for (const Place& place : m_bound) unbind(place);
 }
 
-void SwayBindings::readConfiguration() {
-    const auto answer = m_commands.ask(SwayConnection::Request::config);
-    const auto version = m_commands.ask(SwayConnection::Request::version);
-    if (!answer || !version) return;
-    const std::string folder =
-        std::filesystem::path(version.value()["loaded_config_file_name"].text()).parent_path();
-    const SwayConfiguration configuration(
-        answer.value()["config"].text(),
-        [&folder](const std::string& pattern) { return included(folder, pattern); });
-    m_users = configuration.bindings();
-}
-
-bool SwayBindings::isUsers(const Place& place) const {
-    return std::any_of(m_users.begin(), m_users.end(), [&](const SwayConfiguration::Binding& binding) {
-        if (binding.modifiers != place.second) return false;
-        return binding.symbol.empty() ? binding.keycode == place.first : m_types(place.first, binding.symbol);
-    });
-}
-
 std::optional<std::string> SwayBindings::grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) {
     const Place place{grab.keycode, grab.modifiers};
-    if (isUsers(place)) return sentence("HotKeys", "your configuration of sway binds it");
+    if (auto users = m_users.obstacleTo(grab)) return users;
     if (m_bound.contains(place)) return std::nullopt;
     if (const auto bound = bind(place); !bound) {
         unbind(place);
@@ -132,7 +87,7 @@ std::optional<SwayBindings::Event> SwayBindings::nextEvent() {
     while (auto event = m_events.nextEvent()) {
         if (event->type == SwayConnection::workspaceEvent && event->content["change"].text() == "reload") {
             m_bound.clear();
-            readConfiguration();
+            m_users.read(m_commands);
             return Event{.kind = Event::Kind::reload};
         }
         if (event->type == SwayConnection::inputEvent && event->content["change"].text() == "xkb_layout") {

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
 #include <utility>
 
 #include "platform/desktops/HotKeyBinder.h"
-#include "platform/desktops/SwayConfiguration.h"
 #include "platform/desktops/SwayConnection.h"
+#include "platform/desktops/SwayUsersBindings.h"
 
 /// Combinations that sway takes from all programs and tells us of, by its IPC.
 ///
@@ -18,8 +17,7 @@
 /// its configuration again.
 class SwayBindings final : public HotKeyBinder {
   public:
-    /// Whether a key (XKB) types the symbol of that name.
-    using Types = std::function<bool(std::uint8_t keycode, const std::string& symbol)>;
+    using Types = SwayUsersBindings::Types;
 
     /// Fails where the compositor is not sway.
     static Result<std::unique_ptr<SwayBindings>> open(Types types);
@@ -40,15 +38,12 @@ class SwayBindings final : public HotKeyBinder {
 
     SwayBindings(SwayConnection commands, SwayConnection events, Types types);
 
-    void readConfiguration();
-    bool isUsers(const Place& place) const;
     Result<void> bind(const Place& place);
     void unbind(const Place& place);
     std::optional<Event> eventOf(const std::string& command) const;
 
     SwayConnection m_commands;
     SwayConnection m_events;
-    Types m_types;
-    std::vector<SwayConfiguration::Binding> m_users;
+    SwayUsersBindings m_users;
     std::set<Place> m_bound;
 };

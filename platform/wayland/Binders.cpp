@@ -28,6 +28,12 @@ bool types(const Keymap& keymap, std::uint8_t keycode, const std::string& name) 
     return false;
 }
 
+SwayUsersBindings::Types typesOf(const SeatKeymap& seat) {
+    return [&seat](std::uint8_t keycode, const std::string& symbol) {
+        return types(seat.keymap(), keycode, symbol);
+    };
+}
+
 std::optional<KeyGrab> meaningOf(const Keymap& keymap, const std::string& words) {
     const auto combination = meaningOfTrigger(keymap, words);
     if (!combination) return std::nullopt;
@@ -82,6 +88,23 @@ std::unique_ptr<HotKeyBinder> openGnomeBinder(SessionBus& bus, const SeatKeymap&
                  .repeatDelay = [&seat] { return repeatDelayOf(seat); }});
 }
 
+/// Takes none.
+class Lookup final : public KeyGrabber {
+  public:
+    /// Why a combination could not be had, as grab() says it.
+    using Obstacle = std::function<std::optional<std::string>(const KeyGrab& grab)>;
+
+    explicit Lookup(Obstacle obstacle) : m_obstacle(std::move(obstacle)) {}
+
+    std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) override {
+        return m_obstacle(grab);
+    }
+    void release(const KeyGrab& /*grab*/) override {}
+
+  private:
+    Obstacle m_obstacle;
+};
+
 }  // namespace
 
 std::unique_ptr<HotKeyBinder> openBinder(const DesktopServices& desktop, const SeatKeymap& seat) {
@@ -101,10 +124,23 @@ std::unique_ptr<HotKeyBinder> openBinder(const DesktopServices& desktop, const S
     }
     if (desktop.hasGnomeBindings()) return openGnomeBinder(*desktop.bus(), seat);
     if (!desktop.isSway()) return nullptr;
-    auto bindings = SwayBindings::open([&seat](std::uint8_t keycode, const std::string& symbol) {
-        return types(seat.keymap(), keycode, symbol);
-    });
+    auto bindings = SwayBindings::open(typesOf(seat));
     return bindings ? std::move(bindings).value() : nullptr;
+}
+
+std::unique_ptr<KeyGrabber> openLookup(const DesktopServices& desktop, const SeatKeymap& seat) {
+    if (desktop.isKde()) {
+        return std::make_unique<Lookup>([&seat, &bus = *desktop.bus()](const KeyGrab& grab) {
+            return KdeShortcuts::obstacleTo(kdeCombination(seat, grab), bus);
+        });
+    }
+    if (!desktop.isSway() || desktop.hasShortcutsPortal()) return nullptr;
+    auto sway = SwayConnection::open();
+    if (!sway) return nullptr;
+    SwayUsersBindings users(typesOf(seat));
+    users.read(sway.value());
+    return std::make_unique<Lookup>(
+        [users = std::move(users)](const KeyGrab& grab) { return users.obstacleTo(grab); });
 }
 
 }  // namespace wayland

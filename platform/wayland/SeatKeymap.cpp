@@ -35,6 +35,9 @@ std::string kept(const std::string& file) {
     return content.str();
 }
 
+/// Programs that type make keymaps in which each character has a key, and none is a modifier.
+bool isOfAKeyboard(const Keymap& keymap) { return keymap.keys().keyFor(keymap.masks().control) != 0; }
+
 }  // namespace
 
 SeatKeymap::SeatKeymap(WaylandConnection& connection, const std::string& folder,
@@ -105,7 +108,9 @@ bool SeatKeymap::adopt(std::string text) {
     XkbKeymapPointer compiled(xkb_keymap_new_from_string(
         m_context.get(), text.c_str(), XKB_KEYMAP_FORMAT_TEXT_V1, XKB_KEYMAP_COMPILE_NO_FLAGS));
     if (!compiled) return false;
-    m_keymap = std::make_unique<const Keymap>(std::move(compiled));
+    auto keymap = std::make_unique<const Keymap>(std::move(compiled));
+    if (m_keymap && !isOfAKeyboard(*keymap)) return false;
+    m_keymap = std::move(keymap);
     m_characters = std::make_unique<const CharacterTable>(*m_keymap);
     m_text = std::move(text);
     m_isKept = false;

@@ -19,8 +19,8 @@ namespace wayland {
 ///
 /// The compositor tells the keymap of the keyboard that spoke last to everybody; the group it tells to
 /// whoever has the focus, so that has to be asked elsewhere. A keyboard of ours speaks too: its keymaps
-/// (TypingKeymap) do not count. When it has gone and no other one has spoken since, no keymap is told, so the
-/// last one is kept for the next process in the runtime folder.
+/// (TypingKeymap) do not count, nor do those of other programs that type. When it has gone and no other one
+/// has spoken since, no keymap is told, so the last one is kept for the next process in the runtime folder.
 class SeatKeymap {
   public:
     /// `group` tells the group in force, from 0; may be empty. `folder` is the runtime folder, may be empty.

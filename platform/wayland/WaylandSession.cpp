@@ -145,11 +145,20 @@ class WaylandSession final : public Session {
     Result<void> start() { return m_injector.start(); }
 
   private:
-    /// A program that plays a script asks nobody for the keyboard, and has no hot keys.
-    bool isForScripts() const { return m_use == SessionUse::scripts; }
+    /// A program that plays a script asks nobody for the keyboard, and has no hot keys; nor has one that only
+    /// looks.
+    bool isForScripts() const { return m_use != SessionUse::desktop; }
     std::unique_ptr<HotKeyBinder> openBindings() {
         return isForScripts() ? nullptr : openBinder(m_desktop, m_seat);
     }
+    std::unique_ptr<KeyGrabber> openHotKeyLookup() {
+        return m_use == SessionUse::check ? openLookup(m_desktop, m_seat) : nullptr;
+    }
+    KeyGrabber& grabs() {
+        if (m_bindings) return *m_bindings;
+        return m_lookup ? *m_lookup : m_noGrabs;
+    }
+    HotKeys& hotKeys() { return m_bindings || m_lookup ? static_cast<HotKeys&>(m_keys) : m_noHotKeys; }
     std::unique_ptr<DesktopSignals> openSignals() {
         if (!m_bindings) return nullptr;
         return std::make_unique<DesktopSignals>(*m_bindings, m_keys, [this] {
@@ -186,7 +195,7 @@ class WaylandSession final : public Session {
         return {.clock = m_clock,
                 .opener = isForScripts() ? static_cast<evdev::DeviceOpener&>(m_direct) : m_opener,
                 .calls = m_calls,
-                .grabs = m_bindings ? static_cast<KeyGrabber&>(*m_bindings) : m_noGrabs,
+                .grabs = grabs(),
                 .layout = [this] { return m_seat.group(); },
                 .isDesktopLost = [this] { return m_connection->isBroken(); }};
     }
@@ -209,6 +218,7 @@ class WaylandSession final : public Session {
     DesktopServices m_desktop{*m_connection, !isForScripts()};
     SeatKeymap m_seat{*m_connection, environment("XDG_RUNTIME_DIR"), [this] { return group(); }};
     std::unique_ptr<HotKeyBinder> m_bindings = openBindings();
+    std::unique_ptr<KeyGrabber> m_lookup = openHotKeyLookup();
     NoGrabs m_noGrabs;
     evdev::DirectOpener m_direct;
     evdev::AccessOpener m_access{busAddresses(environmentOfProcess()).system};
@@ -232,7 +242,7 @@ class WaylandSession final : public Session {
         m_use == SessionUse::desktop ? std::make_unique<WaylandLayers>() : nullptr;
     NoLayers m_noLayers;
     SessionServices m_services{.eventMonitor = eventMonitor(),
-                               .hotKeys = m_bindings ? static_cast<HotKeys&>(m_keys) : m_noHotKeys,
+                               .hotKeys = hotKeys(),
                                .keyboardLayout = m_layout,
                                .keyInjector = m_injector,
                                .scriptDesktop = m_scriptDesktop,
@@ -259,6 +269,7 @@ Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use, const
     auto connection = WaylandConnection::open();
     if (!connection) return connection.error();
     auto session = std::make_unique<WaylandSession>(std::move(connection).value(), clock, use, xWindows);
+    if (use == SessionUse::check) return std::unique_ptr<Session>(std::move(session));
     const auto started = session->start();
     if (!started) return started.error();
     return std::unique_ptr<Session>(std::move(session));

@@ -187,7 +187,7 @@ std::unique_ptr<SessionCheck> examineSession() {
 }
 
 Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use) {
-    return use == SessionUse::scripts ? openForScripts(clock) : openForDesktop(clock);
+    return use == SessionUse::desktop ? openForDesktop(clock) : openForScripts(clock);
 }
 
 std::unique_ptr<XWindowFocus> openWindowFocus() {

@@ -118,6 +118,30 @@ TEST_F(SwayProgramTest, aReloadOfTheConfigurationLosesNothing) {
 }
 
 /// Whose own combination is the preset one for playing.
+/// As wtype does: each character has a key of its own in it, and no key is a modifier.
+TEST_F(SwayProgramTest, aProgramThatTypesByAKeymapOfItsOwnIsNoKeyboard) {
+    const Foot foot(sway());
+    start("key code (0)");
+    foot.focus();
+    hands().stroke({xkey::b});
+    ASSERT_EQ(foot.typed(1), "b");
+    const auto combinationsAsked = [this] {
+        const std::string log = sway().log();
+        std::size_t count = 0;
+        for (std::size_t at = log.find("bindcode"); at != std::string::npos;
+             at = log.find("bindcode", at + 1))
+            ++count;
+        return count;
+    };
+    const std::size_t before = combinationsAsked();
+    ASSERT_GT(before, 0U);
+    run({"wtype", "w"}, "wtype")->wait();
+    EXPECT_EQ(foot.typed(2), "bw");
+    EXPECT_FALSE(eventually([&] { return combinationsAsked() != before; }, std::chrono::milliseconds(500)));
+    strokeHotKey(xkey::p);
+    EXPECT_EQ(foot.typed(3), "bwa");
+}
+
 class SwayUsersBindingTest : public SwayProgramTest {
   protected:
     SwayUsersBindingTest()
