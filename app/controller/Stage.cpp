@@ -5,16 +5,8 @@
 #include "app/overlay/Fades.h"
 #include "app/overlay/WindowOnLayer.h"
 #include "app/widgets/IsShown.h"
+#include "app/widgets/OwnWindow.h"
 #include "platform/Windows.h"
-
-namespace {
-
-/// `none` for one that the window system knows nothing of.
-WindowId windowIdOf(const QWidget& window) {
-    return WindowOnLayer::holds(window) ? Windows::none : static_cast<WindowId>(window.winId());
-}
-
-}  // namespace
 
 void Stage::fadeIn(QWidget& window, double alpha) {
     setAlpha(window, 0);
@@ -47,12 +39,12 @@ void Stage::present(QWidget& panel, double alpha) {
 
 void Stage::activate(QWidget& window, std::uint32_t userTime) {
     // A layer that takes the keyboard has it already.
-    const WindowId id = windowIdOf(window);
-    if (id != Windows::none) m_windows.activate(id, userTime);
+    if (!WindowOnLayer::holds(window)) m_windows.activate(ownWindow(window), userTime);
 }
 
 void Stage::awaitFocusElsewhere(const QWidget* hidden) {
-    m_windows.awaitFocusElsewhere(hidden == nullptr ? Windows::none : windowIdOf(*hidden));
+    const bool isKnown = hidden != nullptr && !WindowOnLayer::holds(*hidden);
+    m_windows.awaitFocusElsewhere(isKnown ? ownWindow(*hidden).id : Windows::none);
 }
 
 void Stage::hide(const QWidget* kept) {

@@ -8,6 +8,7 @@
 #include "app/program/Backends.h"
 #include "app/program/ProgramInstance.h"
 #include "app/tray/Actions.h"
+#include "app/widgets/OwnWindow.h"
 #include "platform/EventSource.h"
 #include "platform/Session.h"
 #include "platform/Windows.h"
@@ -19,10 +20,9 @@ namespace {
 void interruptRun(void* session) { static_cast<Session*>(session)->interrupt(); }
 
 QtDialogs::Focus focusOf(Windows& windows) {
-    const auto idOf = [](QWidget& window) { return static_cast<WindowId>(window.winId()); };
     return {
-        .take = [&windows, idOf](QWidget& window) { windows.activate(idOf(window), 0); },
-        .awaitElsewhere = [&windows, idOf](QWidget& hidden) { windows.awaitFocusElsewhere(idOf(hidden)); }};
+        .take = [&windows](QWidget& window) { windows.activate(ownWindow(window), 0); },
+        .awaitElsewhere = [&windows](QWidget& hidden) { windows.awaitFocusElsewhere(ownWindow(hidden).id); }};
 }
 
 Result<void, Refusal> notNow(const Result<>& done) {

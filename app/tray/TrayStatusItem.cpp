@@ -9,6 +9,7 @@
 
 #include "app/icons/StatusIcon.h"
 #include "app/tray/ControlWindow.h"
+#include "app/widgets/OwnWindow.h"
 #include "platform/Windows.h"
 
 namespace {
@@ -104,7 +105,7 @@ void TrayStatusItem::updateIcon() {
 void TrayStatusItem::showControlWindow() {
     if (!m_window) {
         m_window = std::make_unique<ControlWindow>(*m_menu);
-        m_windows.refuseFocus(static_cast<WindowId>(m_window->winId()));
+        m_windows.refuseFocus(ownWindow(*m_window));
     }
     m_window->setNotice(m_notice);
     m_window->setStandsIn(!m_gate.isPresent());

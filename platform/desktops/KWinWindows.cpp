@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktops/KWinWindows.h"
 
+#include <unistd.h>
+
 #include <cstdlib>
 #include <string_view>
 
 #include "platform/Sentence.h"
 #include "platform/desktops/Json.h"
+#include "platform/linux/GLibPointers.h"
 
 namespace {
 
@@ -88,7 +91,7 @@ Result<void> KWinWindows::activate(std::size_t place) {
     return activateBy(m_scripts, "String(one.internalId) == '" + m_windows[place].id + "'");
 }
 
-std::optional<std::uint32_t> KWinXWindows::focusedXWindow() {
+std::optional<std::uint32_t> KWinFocus::focusedXWindow() {
     KWinScripts scripts(m_bus);
     // Native windows have no number, or one that no X server gives.
     const auto told =
@@ -98,7 +101,11 @@ std::optional<std::uint32_t> KWinXWindows::focusedXWindow() {
     return static_cast<std::uint32_t>(std::strtoul(told.value().c_str(), nullptr, 10));
 }
 
-Result<void> KWinXWindows::focusXWindow(std::uint32_t xWindow) {
+Result<void> KWinFocus::focus(const OwnWindow& window) {
     KWinScripts scripts(m_bus);
-    return activateBy(scripts, "one.windowId == " + std::to_string(xWindow));
+    if (window.id != Windows::none)
+        return activateBy(scripts, "one.windowId == " + std::to_string(window.id));
+    const GText title(g_uri_escape_string(window.title.c_str(), nullptr, FALSE));
+    return activateBy(scripts, "one.pid == " + std::to_string(getpid()) +
+                                   " && one.caption == decodeURIComponent('" + title.get() + "')");
 }

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/XWindowFocus.h"
+#include "platform/CompositorFocus.h"
 #include "platform/desktops/ForeignWindows.h"
 #include "platform/desktops/KWinScripts.h"
 
@@ -32,13 +32,13 @@ class KWinWindows final : public ForeignWindows {
     std::vector<Window> m_windows;
 };
 
-/// The focus among the X11 windows that KWin shows.
-class KWinXWindows final : public XWindowFocus {
+/// The focus among the windows that KWin shows.
+class KWinFocus final : public CompositorFocus {
   public:
-    explicit KWinXWindows(std::string bus) : m_bus(std::move(bus)) {}
+    explicit KWinFocus(std::string bus) : m_bus(std::move(bus)) {}
 
     std::optional<std::uint32_t> focusedXWindow() override;
-    Result<void> focusXWindow(std::uint32_t xWindow) override;
+    Result<void> focus(const OwnWindow& window) override;
 
   private:
     std::string m_bus;

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/desktops/SwayDesktop.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <string>
+
+#include "platform/Sentence.h"
 
 namespace {
 
@@ -46,11 +50,43 @@ std::optional<std::uint32_t> SwayDesktop::focusedXWindow() {
     return window;
 }
 
-Result<void> SwayDesktop::focusXWindow(std::uint32_t xWindow) {
-    const std::string focus = "[id=" + std::to_string(xWindow) + "] focus";
+std::optional<SwayDesktop::Container> SwayDesktop::find(const OwnWindow& window) {
+    const auto tree = m_connection.ask(SwayConnection::Request::tree);
+    std::optional<Container> found;
+    if (!tree) return found;
+    visitWindows(tree.value(), [&](const Json& node) {
+        const bool isIt = window.id != Windows::none
+                              ? node["window"].number() == window.id
+                              : node["pid"].number() == getpid() && node["name"].text() == window.title;
+        if (isIt) {
+            found = Container{.number = static_cast<std::int64_t>(node["id"].number()),
+                              .hasFocus = node["focused"].isTrue()};
+        }
+        return isIt;
+    });
+    return found;
+}
+
+Result<void> SwayDesktop::focus(const OwnWindow& window) {
+    const auto container = find(window);
+    if (!container) return Error{sentence("Windows", "The window is not on the screen."), ""};
+    const std::string focus = "[con_id=" + std::to_string(container->number) + "] focus";
     auto focused = m_connection.run(focus);
-    if (!focused || focusedXWindow() == xWindow) return focused;
+    if (!focused) return focused;
+    const auto now = find(window);
+    if (!now || now->hasFocus) return {};
     // Up to 1.7 one behind a window that fills the screen gets none, and nobody sees it.
     const auto left = m_connection.run("[con_id=__focused__] fullscreen disable");
     return left ? m_connection.run(focus) : left;
+}
+
+void SwayDesktop::refuseFocus(const std::string& title) {
+    std::string name;
+    for (const char character : title) {
+        if (character == '"') name += '\\';
+        name += character;
+    }
+    // One that refuses the command gives the focus as ever.
+    [[maybe_unused]] const auto told =
+        m_connection.run("no_focus [pid=" + std::to_string(getpid()) + " title=\"^\\Q" + name + "\\E$\"]");
 }

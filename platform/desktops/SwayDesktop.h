@@ -4,11 +4,11 @@
 #include <cstdint>
 #include <optional>
 
-#include "platform/XWindowFocus.h"
+#include "platform/CompositorFocus.h"
 #include "platform/desktops/SwayConnection.h"
 
 /// What sway tells of its windows and keyboards, asked for each time. A sway that has gone knows nothing.
-class SwayDesktop final : public XWindowFocus {
+class SwayDesktop final : public CompositorFocus {
   public:
     explicit SwayDesktop(SwayConnection connection) : m_connection(std::move(connection)) {}
 
@@ -16,10 +16,18 @@ class SwayDesktop final : public XWindowFocus {
     /// there is another.
     std::uint32_t group();
 
-    // XWindowFocus
+    // CompositorFocus
     std::optional<std::uint32_t> focusedXWindow() override;
-    Result<void> focusXWindow(std::uint32_t xWindow) override;
+    Result<void> focus(const OwnWindow& window) override;
+    void refuseFocus(const std::string& title) override;
 
   private:
+    struct Container {
+        std::int64_t number = 0;
+        bool hasFocus = false;
+    };
+
+    std::optional<Container> find(const OwnWindow& window);
+
     SwayConnection m_connection;
 };

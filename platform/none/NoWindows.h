@@ -6,7 +6,7 @@
 /// For programs that show no windows.
 class NoWindows final : public Windows {
   public:
-    void refuseFocus(WindowId /*window*/) override {}
-    void activate(WindowId /*window*/, std::uint32_t /*userTime*/) override {}
+    void refuseFocus(const OwnWindow& /*window*/) override {}
+    void activate(const OwnWindow& /*window*/, std::uint32_t /*userTime*/) override {}
     void awaitFocusElsewhere(WindowId /*hidden*/) override {}
 };

@@ -174,8 +174,8 @@ class WaylandSession final : public Session {
         return m_lock ? static_cast<EventMonitor&>(m_lockAwareMonitor) : m_keys;
     }
     /// Sway is asked for it by the same connection as for all else.
-    std::unique_ptr<XWindowFocus> focusAmongXWindows() const {
-        if (m_desktop.isKde()) return std::make_unique<KWinXWindows>(SessionBus::addressOfProcess());
+    std::unique_ptr<CompositorFocus> focusAmongXWindows() const {
+        if (m_desktop.isKde()) return std::make_unique<KWinFocus>(SessionBus::addressOfProcess());
         return m_sway || isForScripts() ? nullptr : m_xWindows.openFocus();
     }
     bool hasLockerKeyboard() { return m_lock && m_lock->isLocked(); }
@@ -235,7 +235,7 @@ class WaylandSession final : public Session {
                                         [this] { return m_keys.eventTime(); }};
     NoEventMonitor m_noMonitor{noMonitor()};
     NoHotKeys m_noHotKeys{noHotKeys()};
-    std::unique_ptr<XWindowFocus> m_focus = focusAmongXWindows();
+    std::unique_ptr<CompositorFocus> m_focus = focusAmongXWindows();
     WaylandWindows m_windows{m_sway ? m_sway.get() : m_focus.get(), m_xWindows.refuseFocus, m_clock};
     NoDockingTray m_tray;
     std::unique_ptr<WaylandLayers> m_layers =

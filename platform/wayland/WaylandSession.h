@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/CompositorFocus.h"
 #include "platform/Session.h"
 #include "platform/SessionCheck.h"
 #include "platform/Windows.h"
-#include "platform/XWindowFocus.h"
 
 namespace wayland {
 
@@ -18,7 +18,7 @@ std::unique_ptr<SessionCheck> examineSession();
 /// What has to do with our X11 windows, where the compositor shows such.
 struct XWindows {
     /// Gives who is asked for their focus where the compositor has no way of its own; may give null.
-    std::unique_ptr<XWindowFocus> (*openFocus)();
+    std::unique_ptr<CompositorFocus> (*openFocus)();
     /// Windows::refuseFocus().
     void (*refuseFocus)(WindowId window);
 };

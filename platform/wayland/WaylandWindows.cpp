@@ -10,7 +10,15 @@ constexpr std::chrono::milliseconds betweenLooks{5};
 
 }  // namespace
 
-void WaylandWindows::activate(WindowId window, std::uint32_t /*userTime*/) {
+void WaylandWindows::refuseFocus(const OwnWindow& window) {
+    if (window.id != none) {
+        m_refuser(window.id);
+    } else if (m_compositor != nullptr) {
+        m_compositor->refuseFocus(window.title);
+    }
+}
+
+void WaylandWindows::activate(const OwnWindow& window, std::uint32_t /*userTime*/) {
     if (m_compositor == nullptr) return;
     m_awaited = window;
     m_end = m_clock.now() + longestWait;
@@ -22,16 +30,16 @@ void WaylandWindows::dispatch() {
 }
 
 void WaylandWindows::focusAwaited() {
-    if (m_awaited == none) return;
-    if (m_compositor->focusXWindow(m_awaited) || m_clock.now() >= m_end) {
-        m_awaited = none;
+    if (!m_awaited) return;
+    if (m_compositor->focus(*m_awaited) || m_clock.now() >= m_end) {
+        m_awaited.reset();
     } else {
         m_wakeups.startTimer(betweenLooks);
     }
 }
 
 void WaylandWindows::awaitFocusElsewhere(WindowId hidden) {
-    m_awaited = none;
+    m_awaited.reset();
     if (m_compositor == nullptr) return;
     const Clock::Time end = m_clock.now() + longestWait;
     const auto isElsewhere = [&] {

@@ -1,29 +1,31 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+
 #include "platform/Clock.h"
+#include "platform/CompositorFocus.h"
 #include "platform/EventSource.h"
 #include "platform/Windows.h"
-#include "platform/XWindowFocus.h"
 #include "platform/run/Wakeups.h"
 
 namespace wayland {
 
-/// The windows of ours that the toolkit shows as X11 windows.
+/// The windows of ours, which the toolkit shows as X11 windows where there is an X server.
 class WaylandWindows final : public Windows, public EventSource {
   public:
     /// Keeps the focus away from an X11 window.
     using FocusRefuser = void (*)(WindowId window);
 
     /// `compositor` is null where nobody can be asked; both outlive this.
-    WaylandWindows(XWindowFocus* compositor, FocusRefuser refuser, Clock& clock)
+    WaylandWindows(CompositorFocus* compositor, FocusRefuser refuser, Clock& clock)
         : m_compositor(compositor), m_refuser(refuser), m_clock(clock) {}
 
     // Windows
-    void refuseFocus(WindowId window) override { m_refuser(window); }
+    void refuseFocus(const OwnWindow& window) override;
     /// The compositor has a window only once it is painted, which the event loop does: it is asked again and
     /// again for half a second.
-    void activate(WindowId window, std::uint32_t userTime) override;
+    void activate(const OwnWindow& window, std::uint32_t userTime) override;
     /// Compositors pass the focus on by themselves; nothing is given back.
     void awaitFocusElsewhere(WindowId hidden) override;
 
@@ -34,11 +36,11 @@ class WaylandWindows final : public Windows, public EventSource {
   private:
     void focusAwaited();
 
-    XWindowFocus* m_compositor;
+    CompositorFocus* m_compositor;
     FocusRefuser m_refuser;
     Clock& m_clock;
     Wakeups m_wakeups;
-    WindowId m_awaited = none;
+    std::optional<OwnWindow> m_awaited;
     Clock::Time m_end;
 };
 

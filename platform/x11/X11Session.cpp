@@ -190,7 +190,7 @@ Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use) {
     return use == SessionUse::desktop ? openForDesktop(clock) : openForScripts(clock);
 }
 
-std::unique_ptr<XWindowFocus> openWindowFocus() {
+std::unique_ptr<CompositorFocus> openWindowFocus() {
     auto connection = XConnection::open();
     if (!connection) return nullptr;
     return std::make_unique<EwmhFocus>(std::move(connection).value());

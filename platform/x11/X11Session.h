@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/CompositorFocus.h"
 #include "platform/Session.h"
 #include "platform/SessionCheck.h"
 #include "platform/Windows.h"
-#include "platform/XWindowFocus.h"
 
 namespace x11 {
 
@@ -20,7 +20,7 @@ Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use);
 
 /// Who gives the focus among the windows of the server at $DISPLAY, for other kinds of session; null where
 /// there is none.
-std::unique_ptr<XWindowFocus> openWindowFocus();
+std::unique_ptr<CompositorFocus> openWindowFocus();
 
 /// Has Wayland compositors not give the focus to that window of the server at $DISPLAY when it appears.
 ///

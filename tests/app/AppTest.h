@@ -46,8 +46,8 @@ class FakeWindows : public Windows {
   public:
     explicit FakeWindows(Journal& journal) : m_journal(journal) {}
 
-    void refuseFocus(WindowId /*window*/) override {}
-    void activate(WindowId /*window*/, std::uint32_t userTime) override {
+    void refuseFocus(const OwnWindow& /*window*/) override {}
+    void activate(const OwnWindow& /*window*/, std::uint32_t userTime) override {
         m_journal.note("activate", userTime);
     }
     void awaitFocusElsewhere(WindowId hidden) override {

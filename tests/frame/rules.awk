@@ -65,7 +65,7 @@ BEGIN {
 
     app("languages", "languages platform")
     app("icons", "platform")
-    app("widgets", "app/icons")
+    app("widgets", "app/icons platform")
     app("shortcuts", "prefs core platform")
     app("dialogs", "app/icons app/widgets platform")
     app("check", "app/shortcuts prefs platform")
@@ -78,7 +78,7 @@ BEGIN {
     app("controller", "app/check app/dialogs app/library app/macros app/overlay app/panels app/shortcuts app/tray app/widgets" \
                       " library library/steps engine prefs core platform")
     # Joins the controllers with services and event loop; programs are made of it.
-    app("program", "app/check app/controller app/dialogs app/languages app/library app/tray library platform platform/linux" \
+    app("program", "app/check app/controller app/dialogs app/languages app/library app/tray app/widgets library platform platform/linux" \
                    " platform/script/run platform/sessions")
     app("demonstration", "app/program engine core")
     app("gallery", "app/check app/program app/controller app/dialogs app/icons app/languages app/macros app/overlay app/panels app/shortcuts" \

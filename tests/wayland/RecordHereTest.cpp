@@ -61,6 +61,10 @@ class RecordHereTest : public testing::TestWithParam<Place> {
         EXPECT_TRUE(eventually([this] { return field().text().ends_with("n"); }));
         return field().text();
     }
+    void makeFieldFullScreen() {
+        ASSERT_TRUE(eventually([this] { return compositor().focus("field"); }));
+        m_session->makeFullScreen();
+    }
     void clear() {
         hands().stroke({xkey::control, xkey::a});
         hands().stroke({xkey::backspace});
@@ -163,6 +167,24 @@ TEST_P(RecordHereTest, closingTheWindowEndsTheRecordingToo) {
     EXPECT_EQ(played("ab"), "ab.");
 }
 
+/// With an X server, and without one.
+using RecordHereWindowTest = RecordHereTest;
+
+TEST_P(RecordHereWindowTest, comesInFrontOfAFullScreenAndHasTheKeys) {
+    makeFieldFullScreen();
+    startRecording();
+    hands().type("ab");
+    stopRecording();
+    EXPECT_EQ(field().text(), "");
+    EXPECT_EQ(played("ab"), "ab.");
+}
+
+INSTANTIATE_TEST_SUITE_P(Sessions, RecordHereWindowTest,
+                         testing::Values(place::sway, place::kwin, place::pureSway, place::pureKWin),
+                         [](const auto& place) {
+                             const bool hasXServer = place.index < 2;
+                             return std::string(place.param.name) + (hasXServer ? "" : "WithoutX");
+                         });
 INSTANTIATE_TEST_SUITE_P(Sessions, RecordHereTest, testing::Values(place::sway, place::kwin), nameOf);
 
 }  // namespace

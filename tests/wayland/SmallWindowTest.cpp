@@ -7,10 +7,11 @@
 
 namespace {
 
-/// KWin keeps the focus where it is by itself.
-TEST(SmallWindowTest, comesUnderSwayWithoutTakingTheKeysFromWhoIsTypedInto) {
-    const auto session = place::sway.open();
-    const auto target = session->openTarget(place::sway.target);
+using SmallWindowTest = testing::TestWithParam<Place>;
+
+TEST_P(SmallWindowTest, comesWithoutTakingTheKeysFromWhoIsTypedInto) {
+    const auto session = GetParam().open();
+    const auto target = session->openTarget(GetParam().target);
     session->launch("keystroke \"x\"");
     // It comes three seconds after the start.
     ASSERT_TRUE(eventually([&] { return session->shows("Keyrill"); }, std::chrono::seconds(60)))
@@ -21,5 +22,12 @@ TEST(SmallWindowTest, comesUnderSwayWithoutTakingTheKeysFromWhoIsTypedInto) {
     session->hands().type("more");
     EXPECT_EQ(target->text("keysmore"), "keysmore");
 }
+
+const Place swayWithoutX{"swayWithoutX",
+                         [] { return place::onSway({.hasSessionBus = true, .hasXServer = false}); },
+                         Target::Kind::terminal};
+
+INSTANTIATE_TEST_SUITE_P(Sessions, SmallWindowTest, testing::Values(place::sway, swayWithoutX, place::kwin),
+                         nameOf);
 
 }  // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/XWindowFocus.h"
+#include "platform/CompositorFocus.h"
 #include "platform/x11/server/ServerClock.h"
 #include "platform/x11/server/WindowTree.h"
 #include "platform/x11/server/XConnection.h"
@@ -14,13 +14,13 @@ namespace x11 {
 ///
 /// What it asks for it dates with the server's present time: it is to be asked on behalf of what the user
 /// does now, also in a window that is none of the server's, of which the toolkit knows nothing.
-class EwmhFocus final : public XWindowFocus {
+class EwmhFocus final : public CompositorFocus {
   public:
     explicit EwmhFocus(XConnection connection);
 
     std::optional<std::uint32_t> focusedXWindow() override { return m_focus.activeWindow(); }
     /// Sent, not awaited; the manager may mark the window instead.
-    Result<void> focusXWindow(std::uint32_t xWindow) override;
+    Result<void> focus(const OwnWindow& window) override;
 
   private:
     XConnection m_connection;

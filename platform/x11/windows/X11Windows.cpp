@@ -22,14 +22,14 @@ X11Windows::X11Windows(XConnection connection, Clock& clock)
     m_managerCheck = m_connection.atom("_NET_SUPPORTING_WM_CHECK");
 }
 
-void X11Windows::activate(WindowId window, std::uint32_t userTime) {
+void X11Windows::activate(const OwnWindow& window, std::uint32_t userTime) {
     m_focusBefore = m_focus.holder();
     const std::uint32_t time = userTime != 0 ? userTime : m_serverClock.now();
-    m_focus.date(window, time);
+    m_focus.date(window.id, time);
     if (hasWindowManager()) {
-        m_focus.request(window, WindowFocus::Source::application, time);
+        m_focus.request(window.id, WindowFocus::Source::application, time);
     } else {
-        xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, window, time);
+        xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, window.id, time);
     }
     m_connection.roundTrip();
 }

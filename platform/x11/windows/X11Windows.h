@@ -18,8 +18,8 @@ class X11Windows : public Windows {
     X11Windows(XConnection connection, Clock& clock);
 
     /// Window managers heed what the toolkit says.
-    void refuseFocus(WindowId /*window*/) override {}
-    void activate(WindowId window, std::uint32_t userTime) override;
+    void refuseFocus(const OwnWindow& /*window*/) override {}
+    void activate(const OwnWindow& window, std::uint32_t userTime) override;
     void awaitFocusElsewhere(WindowId hidden) override;
 
   private:

@@ -36,14 +36,14 @@ TEST_F(EwmhFocusTest, givesTheFocusToAnotherProgramsWindowAndTellsWhichHasIt) {
     const Terminal first(server.display());
     const Terminal second(server.display());
     ASSERT_TRUE(becomesFocused(numberOf(second)));
-    ASSERT_TRUE(focus.focusXWindow(numberOf(first)));
+    ASSERT_TRUE(focus.focus({.id = numberOf(first)}));
     EXPECT_TRUE(becomesFocused(numberOf(first)));
     EXPECT_TRUE(eventually([&] { return first.hasFocus(); }));
 }
 
 TEST_F(EwmhFocusTest, aWindowThatIsNotOnTheScreenCannotHaveIt) {
     constexpr std::uint32_t noWindow = 1;
-    const auto given = focus.focusXWindow(noWindow);
+    const auto given = focus.focus({.id = noWindow});
     ASSERT_FALSE(given);
     EXPECT_EQ(given.error().message, "The window is not on the screen.");
 }
