@@ -3,8 +3,12 @@
 
 #include <dlfcn.h>
 
+#include <QLatin1String>
+#include <QString>
+#include <QtGlobal>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 #include "platform/ErrorText.h"
 #include "platform/TerminalText.h"
@@ -30,6 +34,24 @@ class Loaded {
     void* m_library;
 };
 
+/// The toolkit complains of each platform that it tries in vain.
+std::string platformsOf(const SessionKind& kind) {
+    constexpr std::string_view xServer = "xcb;";
+    const std::string_view platforms = kind.toolkit;
+    const char* const display = std::getenv("DISPLAY");
+    const bool hasXServer = display != nullptr && *display != '\0';
+    return std::string(!hasXServer && platforms.starts_with(xServer) ? platforms.substr(xServer.size())
+                                                                     : platforms);
+}
+
+QtMessageHandler otherMessages = nullptr;
+
+/// Wayland compositors give no window an opacity, of which the toolkit would tell at each step of a fade.
+void leaveOutFades(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (text == QLatin1String("This plugin does not support setting window opacity")) return;
+    otherMessages(type, context, text);
+}
+
 }  // namespace
 
 void prepareProcess() { occupyStandardStreams(); }
@@ -52,6 +74,8 @@ int reportFailure(const Error& error) {
 Result<SessionKind> enterSession(std::string_view name) {
     auto kind = chooseSession(name);
     // The toolkit would take another display that is offered too.
-    if (kind) setenv("QT_QPA_PLATFORM", kind.value().toolkit, 1);
+    if (!kind) return kind;
+    setenv("QT_QPA_PLATFORM", platformsOf(kind.value()).c_str(), 1);
+    if (otherMessages == nullptr) otherMessages = qInstallMessageHandler(leaveOutFades);
     return kind;
 }

@@ -222,6 +222,19 @@ TEST_P(WaylandOnlyTest, theFirstStartLeadsToThePreferences) {
     EXPECT_TRUE(eventually([this] { return session().shows("Keyrill Preferences"); })) << log();
 }
 
+/// Nor does its toolkit.
+TEST_P(WaylandOnlyTest, theProgramComplainsOfNothing) {
+    const auto target = openTarget();
+    startProgram(*target);
+    openPrompt();
+    hands().stroke({xkey::escape});
+    EXPECT_TRUE(eventually([this] { return !session().hasLayerKeys(); }));
+    session().forgetSettings();
+    session().start("keystroke \"ab\"");
+    ASSERT_TRUE(eventually([this] { return session().shows("Welcome to Keyrill"); })) << log();
+    EXPECT_EQ(log(), "");
+}
+
 class SwayLayersTest : public SwayScreenTest {
   protected:
     std::unique_ptr<Child> startRecorder(const std::string& text) const {
