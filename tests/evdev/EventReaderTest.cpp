@@ -7,6 +7,7 @@
 #include <cinttypes>
 #include <cstring>
 #include <fstream>
+#include <type_traits>
 
 #include "evdev/FakeInput.h"
 #include "support/Keys.h"
@@ -111,8 +112,11 @@ TEST_F(EventReaderTest, aKeyboardThatIsGoneIsToldAfterItsLastKeys) {
 
 // A sanitizer has memory of its own that nobody may read.
 #ifndef __SANITIZE_ADDRESS__
+/// As wide as the kernel's times for this process.
+using Word = std::make_unsigned_t<decltype(input_event::input_event_sec)>;
+
 /// How often two words stand side by side in the memory that this process can write.
-int occurrences(std::uint64_t first, std::uint64_t second) {
+int occurrences(Word first, Word second) {
     std::ifstream maps("/proc/self/maps");
     int count = 0;
     for (std::string line; std::getline(maps, line);) {
@@ -122,8 +126,8 @@ int occurrences(std::uint64_t first, std::uint64_t second) {
         if (std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR " %4s", &begin, &end, rights) != 3) continue;
         if (std::strncmp(rights, "rw", 2) != 0 || line.find("[v") != std::string::npos) continue;
         // NOLINTBEGIN(performance-no-int-to-ptr): addresses that the kernel has written as numbers.
-        for (const auto* word = reinterpret_cast<const volatile std::uint64_t*>(begin);
-             word + 1 < reinterpret_cast<const volatile std::uint64_t*>(end); ++word) {
+        for (const auto* word = reinterpret_cast<const volatile Word*>(begin);
+             word + 1 < reinterpret_cast<const volatile Word*>(end); ++word) {
             // NOLINTEND(performance-no-int-to-ptr)
             if (word[0] == first && word[1] == second) ++count;
         }
@@ -132,8 +136,8 @@ int occurrences(std::uint64_t first, std::uint64_t second) {
 }
 
 TEST_F(EventReaderTest, nothingOfWhatWasReadStaysInMemory) {
-    constexpr std::int64_t second = 0x5EC0'FFEE;
-    constexpr std::int64_t microsecond = 0x7'0B1A;
+    constexpr Word second = 0x5EC0'FFEE;
+    constexpr Word microsecond = 0x7'0B1A;
     const auto reader = open();
     input_event event{};
     for (int stroke = 0; stroke < 20; ++stroke) {

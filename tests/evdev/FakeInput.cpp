@@ -5,8 +5,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 #include "platform/Wiping.h"
@@ -28,6 +30,22 @@ input_event eventAt(Clock::Time time) {
     return event;
 }
 
+/// To those of 32 bits the kernel shows each word as two, but no empty ones in front.
+std::string asShownHere(const std::string& keys) {
+    if (sizeof(long) == sizeof(std::uint64_t)) return keys;
+    constexpr int halfBits = 32;
+    std::istringstream words(keys);
+    std::ostringstream halves;
+    halves << std::hex;
+    for (std::uint64_t word = 0; words >> std::hex >> word;) {
+        const std::uint64_t upper = word >> halfBits;
+        const bool isFirst = halves.tellp() == 0;
+        if (upper != 0 || !isFirst) halves << (isFirst ? "" : " ") << upper << ' ';
+        halves << (word & 0xFFFF'FFFF);
+    }
+    return halves.str();
+}
+
 }  // namespace
 
 FakeInput::FakeInput() {
@@ -40,7 +58,7 @@ FakeInput::Device::Device(const evdev::InputFolders& folders, int number, const 
     : m_class(folders.classes + "/event" + std::to_string(number)),
       m_file(folders.devices + "/event" + std::to_string(number)) {
     std::filesystem::create_directories(m_class + "/device/capabilities");
-    std::ofstream(m_class + "/device/capabilities/key") << keys << '\n';
+    std::ofstream(m_class + "/device/capabilities/key") << asShownHere(keys) << '\n';
     std::ofstream(m_class + "/device/phys") << place << '\n';
     // Comes with its writer, since a pipe without one is at its end.
     const std::string hidden = m_file + ".new";

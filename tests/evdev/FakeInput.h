@@ -15,7 +15,7 @@
 #include "platform/evdev/devices/InputFolders.h"
 #include "support/Child.h"
 
-/// Keys of a PC keyboard, of a mouse and of a keypad, as sysfs shows them.
+/// Keys of a PC keyboard, of a mouse and of a keypad, as sysfs shows them to processes of 64 bits.
 namespace sysfskeys {
 inline const char* const keyboard = "402000000 3803078f800d001 feffffdfffefffff fffffffffffffffe";
 inline const char* const mouse = "1f0000 0 0 0 0";

@@ -2,6 +2,7 @@
 #include "platform/evdev/devices/KeyboardList.h"
 
 #include <gtest/gtest.h>
+#include <linux/input-event-codes.h>
 
 #include "evdev/FakeInput.h"
 
@@ -45,7 +46,8 @@ TEST(KeyboardListTest, oneKeyOfAKeyboardThatIsMissingMakesItNone) {
 TEST(KeyboardListTest, whatIsNoListOfKeysIsNoKeyboard) {
     const std::string tooLong = std::string(17, 'f');
     std::string tooMany;
-    for (int word = 0; word < 13; ++word) tooMany += "fffffffe ";
+    constexpr std::size_t most = KEY_CNT / (8 * sizeof(long));
+    for (std::size_t word = 0; word <= most; ++word) tooMany += "fffffffe ";
     for (const std::string& text : {std::string(), std::string(" "), std::string("fffffffe x"),
                                     std::string("-1"), std::string("0xfffffffe"), tooLong, tooMany}) {
         EXPECT_FALSE(evdev::isKeyboard(text)) << text;
