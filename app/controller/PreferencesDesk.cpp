@@ -199,5 +199,8 @@ void PreferencesDesk::updateNotices() {
                     .macro = macroName(m_library.hotKeys().macroWith(model.shortcuts[i].keyCombo()))};
     }
     const ShortcutNoticeTexts texts = shortcutNotices(facts);
-    for (std::size_t i = 0; i < texts.size(); ++i) model.shortcuts[i].setNotice(texts[i]);
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        model.shortcuts[i].setNotice(texts[i]);
+        model.shortcuts[i].setRefused(facts[i].state.status == HotKeyStatus::refused);
+    }
 }

@@ -12,12 +12,15 @@
 
 namespace {
 
+/// Empty where pressing it does nothing.
+QString workingCombination(const ShortcutModel& shortcut) {
+    return shortcut.isRefused() ? QString() : combinationText(shortcut.keyCombo());
+}
+
 /// Keeps a label's text what the shortcut makes of it.
 template <typename Text>
 void follow(const ShortcutModel& shortcut, QLabel* label, Text text) {
-    const auto show = [&shortcut, label, text] {
-        label->setText(text(combinationText(shortcut.keyCombo())));
-    };
+    const auto show = [&shortcut, label, text] { label->setText(text(workingCombination(shortcut))); };
     QObject::connect(&shortcut, &ShortcutModel::changed, label, show);
     QObject::connect(&shortcut, &ShortcutModel::keyComboDidChange, label, show);
     show();

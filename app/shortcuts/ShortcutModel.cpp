@@ -17,3 +17,9 @@ void ShortcutModel::setNotice(const QString& notice) {
     m_notice = notice;
     emit changed();
 }
+
+void ShortcutModel::setRefused(bool refused) {
+    if (m_isRefused == refused) return;
+    m_isRefused = refused;
+    emit changed();
+}

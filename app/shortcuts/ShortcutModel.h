@@ -26,13 +26,19 @@ class ShortcutModel : public QObject {
     const QString& notice() const { return m_notice; }
     void setNotice(const QString& notice);
 
+    /// Whether the combination does nothing, for the desktop gives it to nobody, or to somebody else.
+    bool isRefused() const { return m_isRefused; }
+    void setRefused(bool refused);
+
   signals:
     /// The user has recorded or cleared the combination.
     void keyComboDidChange();
-    /// The program has changed the combination or the notice: the field shows it at once.
+    /// The program has changed the combination, the notice, or whether it is refused: the field shows it at
+    /// once.
     void changed();
 
   private:
     KeyCombo m_keyCombo;
     QString m_notice;
+    bool m_isRefused = false;
 };

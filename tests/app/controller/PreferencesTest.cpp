@@ -361,9 +361,11 @@ TEST_F(PreferencesTest, saysBesideTheFieldWhatAnotherProgramHolds) {
     platform().hotKeys.otherProgramHolds(15, 0x0100);
     controller.showPreferences(nullptr);
     controller.recordShortcutText.record(commandR);
+    EXPECT_TRUE(controller.recordShortcutText.isRefused());
     EXPECT_EQ(controller.recordShortcutText.notice().toStdString(),
               platform().hotKeys.state(1).error->message);
     controller.recordShortcutText.record(optionR);
+    EXPECT_FALSE(controller.recordShortcutText.isRefused());
     EXPECT_EQ(controller.recordShortcutText.notice(), "");
 }
 

@@ -42,6 +42,18 @@ TEST_F(WelcomePanelTest, leadsToTheMenuWhereNoCombinationIsSet) {
         wordsOf(panel).contains(QStringLiteral("Choose Start Recording in Keyrill's menu. Then type.")));
 }
 
+/// As where a compositor gives no program any, or another program has one.
+TEST_F(WelcomePanelTest, namesNoCombinationThatTheDesktopRefuses) {
+    model.record.setRefused(true);
+    const QString words = wordsOf(panel);
+    EXPECT_TRUE(words.contains(QStringLiteral("Choose Start Recording in Keyrill's menu. Then type.")));
+    EXPECT_FALSE(words.contains(QStringLiteral("Ctrl+Super+R")));
+    EXPECT_TRUE(words.contains(QStringLiteral("Not set")));
+    EXPECT_TRUE(words.contains(QStringLiteral("Press Ctrl+Super+S when")));
+    model.record.setRefused(false);
+    EXPECT_TRUE(wordsOf(panel).contains(QStringLiteral("Press Ctrl+Super+R,")));
+}
+
 TEST_F(WelcomePanelTest, closesByItsButtonAsByItsFrame) {
     int closes = 0;
     QObject::connect(&panel, &Panel::willClose, [&closes] { ++closes; });
