@@ -67,6 +67,12 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"a word of the language in bars", "log |repeat|",
             "A variable is set before it is used: set |repeat| to … Text stands between straight quotes: "
             "\"repeat\"."},
+        Row{"a constant of the language in bars", "log |Tab|",
+            "A variable is set before it is used: set |Tab| to … Text stands between straight quotes: "
+            "\"Tab\"."},
+        Row{"a name in bars that another handler needs",
+            "set |my text| to 1\non f()\nlog |my text|\nend f\nf()",
+            "A handler has variables of its own; to share this one write there: global |my text|."},
         Row{"a slip in a name in bars", "set |my text| to 1\nlog |my txet|", "Did you mean |my text|?"},
         Row{"a handler in bars that is not there", "|my text|()",
             "The script has no handler of that name: on |my text|(…) … end |my text|."},

@@ -143,6 +143,15 @@ std::string sourceForm(const Name& name) {
     return names::find(name.spelling) == &name ? name.spelling : sourceForm(std::string_view(name.spelling));
 }
 
+namespace {
+
+/// Whether it is a constant wherever a name could stand.
+bool isValue(Word word) {
+    return word == Word::linefeed || word == Word::quote || word == Word::space || word == Word::tab;
+}
+
+}  // namespace
+
 std::string sourceForm(std::string_view spelling) {
     const bool isWord =
         !spelling.empty() && (spelling.front() < '0' || spelling.front() > '9') &&
@@ -150,7 +159,8 @@ std::string sourceForm(std::string_view spelling) {
             return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
         });
     const Word word = isWord ? wordOf(spelling) : Word::none;
-    if (isWord && (word == Word::none || kindOf(word) != WordKind::reserved)) return std::string(spelling);
+    if (isWord && !isValue(word) && (word == Word::none || kindOf(word) != WordKind::reserved))
+        return std::string(spelling);
     return '|' + escaped(spelling, '|') + '|';
 }
 
