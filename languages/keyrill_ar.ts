@@ -1321,10 +1321,6 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
         <translation>يستخدمه GNOME من أجل «⁨%1⁩»</translation>
     </message>
     <message>
-        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
-        <translation>لا يتيح GNOME الاختصارات العامة إلا في إعداداتك أنت، وغير مسموح لبرنامج Keyrill بتغييرها</translation>
-    </message>
-    <message>
         <source>GNOME has no name for it</source>
         <translation>لا اسم له في GNOME</translation>
     </message>
@@ -1466,6 +1462,14 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
         <translation>اربط المفاتيح بأوامر مثل «keyrill --action=play» في إعدادات المُركِّب.</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change.</source>
+        <translation>لا يتيح GNOME الاختصارات العامة إلا في إعداداتك أنت، وغير مسموح لبرنامج Keyrill بتغييرها.</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>ضع علامة في المربع في تفضيلات Keyrill، أو اربط بنفسك المفاتيح بأوامر مثل «keyrill --action=play» في إعدادات GNOME.</translation>
     </message>
 </context>
 <context>

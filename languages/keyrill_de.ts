@@ -1322,10 +1322,6 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
         <translation>GNOME verwendet diese Kombination für „%1“</translation>
     </message>
     <message>
-        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
-        <translation>GNOME bietet Tastenkürzel nur in Ihren eigenen Einstellungen, die Keyrill nicht ändern darf</translation>
-    </message>
-    <message>
         <source>GNOME has no name for it</source>
         <translation>GNOME hat keinen Namen für diese Kombination</translation>
     </message>
@@ -1467,6 +1463,14 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
         <translation>Belegen Sie in den Einstellungen des Compositors Tasten mit Befehlen wie „keyrill --action=play“.</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change.</source>
+        <translation>GNOME bietet Tastenkürzel nur in Ihren eigenen Einstellungen, die Keyrill nicht ändern darf.</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>Setzen Sie in den Einstellungen von Keyrill das Häkchen, oder belegen Sie in den Einstellungen von GNOME selbst Tasten mit Befehlen wie „keyrill --action=play“.</translation>
     </message>
 </context>
 <context>

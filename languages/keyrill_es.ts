@@ -1322,10 +1322,6 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
         <translation>GNOME lo usa para «%1»</translation>
     </message>
     <message>
-        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
-        <translation>GNOME solo ofrece atajos de teclado en los ajustes del usuario, que Keyrill no tiene permiso para cambiar</translation>
-    </message>
-    <message>
         <source>GNOME has no name for it</source>
         <translation>GNOME no tiene ningún nombre para este atajo</translation>
     </message>
@@ -1467,6 +1463,14 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
         <translation>Asigne teclas a órdenes como «keyrill --action=play» en los ajustes del compositor.</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change.</source>
+        <translation>GNOME solo ofrece atajos de teclado en los ajustes del usuario, que Keyrill no tiene permiso para cambiar.</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>Marque la casilla en las preferencias de Keyrill, o asigne usted mismo teclas a órdenes como «keyrill --action=play» en los ajustes de GNOME.</translation>
     </message>
 </context>
 <context>

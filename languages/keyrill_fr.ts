@@ -1322,10 +1322,6 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
         <translation>GNOME utilise cette combinaison pour «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
-        <translation>GNOME ne fournit de raccourcis clavier que dans vos propres réglages, que Keyrill n’est pas autorisé à modifier</translation>
-    </message>
-    <message>
         <source>GNOME has no name for it</source>
         <translation>GNOME n’a pas de nom pour cette combinaison</translation>
     </message>
@@ -1467,6 +1463,14 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
         <translation>Dans les réglages du compositeur, associez des touches à des commandes comme «&#xa0;keyrill --action=play&#xa0;».</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change.</source>
+        <translation>GNOME ne fournit de raccourcis clavier que dans vos propres réglages, que Keyrill n’est pas autorisé à modifier.</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>Cochez la case dans les préférences de Keyrill, ou associez vous-même, dans les réglages de GNOME, des touches à des commandes comme «&#xa0;keyrill --action=play&#xa0;».</translation>
     </message>
 </context>
 <context>

@@ -1322,10 +1322,6 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <translation>GNOME が「%1」に使っています</translation>
     </message>
     <message>
-        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
-        <translation>GNOME のグローバルショートカットはユーザー自身の設定にしかなく、Keyrill はその変更を許可されていません</translation>
-    </message>
-    <message>
         <source>GNOME has no name for it</source>
         <translation>この組み合わせを表す名前が GNOME にありません</translation>
     </message>
@@ -1467,6 +1463,14 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
         <translation>コンポジターの設定で「keyrill --action=play」などのコマンドにキーを割り当ててください。</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change.</source>
+        <translation>GNOME のグローバルショートカットはユーザー自身の設定にしかなく、Keyrill はその変更を許可されていません。</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>Keyrill の設定でチェックを入れるか、GNOME の設定で「keyrill --action=play」などのコマンドに自分でキーを割り当ててください。</translation>
     </message>
 </context>
 <context>

@@ -1322,10 +1322,6 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <translation>GNOME использует её для «%1»</translation>
     </message>
     <message>
-        <source>GNOME has hot keys only in your own settings, which Keyrill may not change</source>
-        <translation>в GNOME комбинации клавиш возможны только в ваших собственных настройках, а Keyrill не разрешено их изменять</translation>
-    </message>
-    <message>
         <source>GNOME has no name for it</source>
         <translation>в GNOME для неё нет имени</translation>
     </message>
@@ -1467,6 +1463,14 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
     <message>
         <source>Bind keys to commands such as &quot;keyrill --action=play&quot; in the compositor&apos;s settings.</source>
         <translation>Назначьте клавишам в настройках композитора команды вида «keyrill --action=play».</translation>
+    </message>
+    <message>
+        <source>GNOME has hot keys only in your own settings, which Keyrill may not change.</source>
+        <translation>В GNOME комбинации клавиш возможны только в ваших собственных настройках, а Keyrill не разрешено их изменять.</translation>
+    </message>
+    <message>
+        <source>Tick the box in Keyrill&apos;s preferences, or bind keys to commands such as &quot;keyrill --action=play&quot; in GNOME&apos;s settings yourself.</source>
+        <translation>Поставьте флажок в параметрах Keyrill или сами назначьте клавишам в настройках GNOME команды вида «keyrill --action=play».</translation>
     </message>
 </context>
 <context>

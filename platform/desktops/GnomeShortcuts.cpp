@@ -87,10 +87,17 @@ void GnomeShortcuts::listen() {
                                                   g_variant_new("(su)", service, withoutWaiting), "(u)");
 }
 
+std::optional<Error> GnomeShortcuts::obstacleToAll() const {
+    if (m_hasConsent) return std::nullopt;
+    return Error{
+        sentence("HotKeys", "GNOME has hot keys only in your own settings, which Keyrill may not change."),
+        sentence("HotKeys",
+                 "Tick the box in Keyrill's preferences, or bind keys to commands such as \"keyrill "
+                 "--action=play\" in GNOME's settings yourself.")};
+}
+
 std::optional<std::string> GnomeShortcuts::grab(const KeyGrab& grab, const HotKeyRequest& request) {
-    if (!m_hasConsent)
-        return sentence("HotKeys",
-                        "GNOME has hot keys only in your own settings, which Keyrill may not change");
+    if (const auto obstacle = obstacleToAll()) return obstacle->message;
     const std::vector<std::string> accelerators = m_words.acceleratorsOf(grab);
     if (accelerators.empty() || request.arguments.empty())
         return sentence("HotKeys", "GNOME has no name for it");

@@ -54,6 +54,7 @@ class GnomeShortcuts final : public HotKeyBinder {
     void release(const KeyGrab& grab) override;
     /// GNOME is too slow to follow.
     bool canLift() const override { return false; }
+    std::optional<Error> obstacleToAll() const override;
     bool needsConsent() const override { return true; }
     void setConsent(bool given) override { m_hasConsent = given; }
     bool takesSymbols() const override { return true; }

@@ -232,6 +232,10 @@ std::optional<KeyGrab> HotKeyTable::preparedGrab(Row& row) {
         refuse(row, grab.error());
         return std::nullopt;
     }
+    if (const auto obstacle = m_grabs.obstacleToAll()) {
+        refuse(row, *obstacle);
+        return std::nullopt;
+    }
     if (const auto holder = holderOf(grab.value())) {
         row.waits = true;
         //: %1 is a combination of keys.

@@ -45,6 +45,8 @@ class KeyGrabber {
     virtual bool isDecidedByUser() const { return false; }
     /// Whether a combination can be given free for the length of a stroke.
     virtual bool canLift() const { return !isDecidedByUser(); }
+    /// Why grab() takes none at all for now; empty if it may. What keeps it changes with consent alone.
+    virtual std::optional<Error> obstacleToAll() const { return std::nullopt; }
     /// See HotKeys; without consent grab() takes nothing.
     virtual bool needsConsent() const { return false; }
     virtual void setConsent(bool /*given*/) {}

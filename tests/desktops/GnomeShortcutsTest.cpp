@@ -182,7 +182,7 @@ TEST_F(GnomeShortcutsTest, whatIsAskedForStandsInTheUsersSettings) {
 TEST_F(GnomeShortcutsTest, nothingIsWrittenWithoutConsent) {
     open(false);
     EXPECT_EQ(ask("record", controlR),
-              "GNOME has hot keys only in your own settings, which Keyrill may not change");
+              "GNOME has hot keys only in your own settings, which Keyrill may not change.");
     settle();
     EXPECT_TRUE(isQuiet());
     EXPECT_EQ(list(), none);

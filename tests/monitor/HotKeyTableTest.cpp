@@ -43,7 +43,10 @@ class Grabber final : public KeyGrabber {
     bool needsConsent() const override { return isUsersToAllow; }
     void setConsent(bool given) override { isAllowed = given; }
 
+    std::optional<Error> obstacleToAll() const override { return obstacle; }
+
     std::vector<KeyGrab> held;
+    std::optional<Error> obstacle;
     bool otherProgramHasAll = false;
     bool isUsers = false;
     bool isUsersToAllow = false;
@@ -340,6 +343,22 @@ TEST_F(HotKeyTableTest, whatNeedsConsentIsRefusedUntilItIsGivenAndWhenItIsTakenB
     m_table.setConsent(false);
     EXPECT_EQ(m_table.state(record).status, HotKeyStatus::refused);
     EXPECT_EQ(m_grabber.held, std::vector<KeyGrab>{});
+}
+
+/// So that it can be told once.
+TEST_F(HotKeyTableTest, whatRefusesAllIsTheReasonOfEach) {
+    m_grabber.isUsersToAllow = true;
+    m_grabber.obstacle = Error{"There are none.", "Allow them."};
+    m_table.request(asked(record));
+    m_table.request(asked(play, modifier::control));
+    for (const HotKeyId id : {record, play}) {
+        EXPECT_EQ(m_table.state(id).status, HotKeyStatus::refused);
+        EXPECT_EQ(m_table.state(id).error, m_grabber.obstacle);
+    }
+    EXPECT_EQ(m_grabber.grabs, 0);
+    m_grabber.obstacle.reset();
+    m_table.setConsent(true);
+    for (const HotKeyId id : {record, play}) EXPECT_EQ(m_table.state(id).status, HotKeyStatus::registered);
 }
 
 }  // namespace
