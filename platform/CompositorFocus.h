@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
-#include <optional>
+#include <string>
 
 #include "platform/Result.h"
 #include "platform/Windows.h"
@@ -12,9 +11,11 @@ class CompositorFocus {
   public:
     virtual ~CompositorFocus() = default;
 
-    /// The number of the X11 window that keys go to, 0 where it is a native one; empty if there is none.
-    virtual std::optional<std::uint32_t> focusedXWindow() = 0;
-    /// Gives it to a window of ours; fails while the compositor shows no such window.
+    /// Whether keys go to a window, and to another one than this, which may have been hidden; without number
+    /// and title it is none.
+    virtual bool isElsewhere(const OwnWindow& hidden) = 0;
+    /// Gives it to a window of ours, of several with one title to the last; fails while the
+    /// compositor shows no such window. One that fills the screen in front of it no longer does.
     virtual Result<void> focus(const OwnWindow& window) = 0;
     /// Has it given to no native window of ours of that title when that appears; nothing where the compositor
     /// cannot be told.

@@ -14,6 +14,8 @@ struct OwnWindow {
     WindowId id = 0;
     /// What such a compositor tells it by from the others of ours.
     std::string title = {};
+    /// How many of ours that are shown have the title, this one among them, which came last.
+    int count = 1;
 };
 
 /// What the toolkit cannot do with windows: take the focus with the permission of a hot key, and know when it
@@ -35,8 +37,8 @@ class Windows {
     /// Waits, 0.5 s at most, until the focus is where keys should go: `hidden`, a window of ours that has
     /// just been hidden, is off the screen, another window is the active one and holds the focus. Without a
     /// window manager nobody passes the focus on; then it is given back to the window that had it before
-    /// activate(). `none` for `hidden` if no window was hidden.
+    /// activate(). One without number and title for `hidden` if no window was hidden.
     ///
     /// Why: keys that are sent at once after a window was hidden are lost.
-    virtual void awaitFocusElsewhere(WindowId hidden) = 0;
+    virtual void awaitFocusElsewhere(const OwnWindow& hidden) = 0;
 };

@@ -30,7 +30,8 @@ struct HotKeyFact {
     Error why = {};
 };
 
-/// Asks for each combination of the settings and gives it back at once. `ours` are the names of those that
+/// Asks for each combination of the settings and gives it back at once, or, where hot keys are only looked up
+/// (SessionUse::check), who has it. `ours` are the names of those that
 /// the running program has; nobody is in its way, and it is in nobody's.
 std::vector<HotKeyFact> probeHotKeys(const SettingsStore& settings, HotKeys& hotKeys,
                                      const KeyboardLayout& layout, const std::vector<std::string>& ours);

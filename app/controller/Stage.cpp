@@ -44,7 +44,7 @@ void Stage::activate(QWidget& window, std::uint32_t userTime) {
 
 void Stage::awaitFocusElsewhere(const QWidget* hidden) {
     const bool isKnown = hidden != nullptr && !WindowOnLayer::holds(*hidden);
-    m_windows.awaitFocusElsewhere(isKnown ? ownWindow(*hidden).id : Windows::none);
+    m_windows.awaitFocusElsewhere(isKnown ? hiddenWindow(*hidden) : OwnWindow());
 }
 
 void Stage::hide(const QWidget* kept) {

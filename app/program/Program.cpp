@@ -22,7 +22,7 @@ void interruptRun(void* session) { static_cast<Session*>(session)->interrupt(); 
 QtDialogs::Focus focusOf(Windows& windows) {
     return {
         .take = [&windows](QWidget& window) { windows.activate(ownWindow(window), 0); },
-        .awaitElsewhere = [&windows](QWidget& hidden) { windows.awaitFocusElsewhere(ownWindow(hidden).id); }};
+        .awaitElsewhere = [&windows](QWidget& hidden) { windows.awaitFocusElsewhere(hiddenWindow(hidden)); }};
 }
 
 Result<void, Refusal> notNow(const Result<>& done) {

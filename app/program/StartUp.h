@@ -19,5 +19,6 @@ void endInOrderWithServer();
 int reportFailure(const Error& error);
 
 /// The session to work in, by its name or, without one, by what the process was started in; the toolkit is
-/// told to show its windows there. To be called before the toolkit starts, of which nothing is needed.
+/// told to show its windows there, and not to complain of what it has to do without. To be called before the
+/// toolkit starts, of which nothing is needed.
 Result<SessionKind> enterSession(std::string_view name = {});

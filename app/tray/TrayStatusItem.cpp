@@ -103,10 +103,9 @@ void TrayStatusItem::updateIcon() {
 }
 
 void TrayStatusItem::showControlWindow() {
-    if (!m_window) {
-        m_window = std::make_unique<ControlWindow>(*m_menu);
-        m_windows.refuseFocus(ownWindow(*m_window));
-    }
+    if (!m_window) m_window = std::make_unique<ControlWindow>(*m_menu);
+    // Each time: compositors forget it when they read their configuration again.
+    if (!m_window->isVisible()) m_windows.refuseFocus(ownWindow(*m_window));
     m_window->setNotice(m_notice);
     m_window->setStandsIn(!m_gate.isPresent());
     m_window->show();

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QGuiApplication>
-#include <QWidget>
-
 #include "platform/Windows.h"
 
+class QWidget;
+
 /// The top-level window as the window system knows it, which is told of it if it was not yet.
-inline OwnWindow ownWindow(const QWidget& window) {
-    const WId number = window.winId();
-    // Qt numbers those for itself.
-    const bool isNumbered = QGuiApplication::platformName() != QLatin1String("wayland");
-    return {.id = isNumbered ? static_cast<WindowId>(number) : Windows::none,
-            .title = window.windowTitle().toStdString()};
-}
+OwnWindow ownWindow(const QWidget& window);
+
+/// The same of one that was just hidden: the window system is told of that at once, not only when the
+/// toolkit's loop rests.
+OwnWindow hiddenWindow(const QWidget& window);

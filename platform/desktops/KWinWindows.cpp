@@ -20,34 +20,49 @@ std::string withFunctions(std::string_view statements) {
         "}\n"
         "function activate(one) {\n"
         "  if (workspace.windowList) workspace.activeWindow = one; else workspace.activeClient = one;\n"
+        "}\n"
+        "function plain(title) {\n"
+        "  return title.replace(/\\s+/g, ' ').trim().replace(/ <[0-9]+>$/, '');\n"
         "}\n";
     return script.append(statements);
 }
 
-/// Activates the window of which the condition on `one` is true, and tells whether there is one. To which it
-/// gives the focus KWin may know only when that has taken it.
-std::string activation(const std::string& condition) {
+/// Activates the last of the windows of which the condition on `one` is true, and tells whether there are so
+/// many. To which it gives the focus KWin may know only when that has taken it.
+std::string activation(const std::string& condition, int count) {
     return withFunctions(
-        "var found = false;\n"
+        "var found = [];\n"
         "for (var i = 0; i < all.length; ++i) {\n"
         "  var one = all[i];\n"
-        "  if (!(" +
+        "  if (" +
         condition +
-        ")) continue;\n"
-        "  activate(one);\n"
-        "  found = true;\n"
+        ") found.push(one);\n"
         "}\n"
-        "tell(found ? 'yes' : 'no');");
+        "var areThere = found.length >= " +
+        std::to_string(count) +
+        ";\n"
+        "if (areThere) activate(found[found.length - 1]);\n"
+        "tell(areThere ? 'yes' : 'no');");
 }
 
-Result<void> activateBy(KWinScripts& scripts, const std::string& condition) {
-    const auto told = scripts.run(activation(condition));
+Result<void> activateBy(KWinScripts& scripts, const std::string& condition, int count = 1) {
+    const auto told = scripts.run(activation(condition, count));
     if (!told) return told.error();
     if (told.value() != "yes") {
         return Error{sentence("Windows", "KWin does not show the window any more."),
                      sentence("Windows", "Open it again.")};
     }
     return {};
+}
+
+/// Whether `one` is that window of ours; KWin numbers those with one title, and has its own blanks in it.
+/// Native windows have no number, or one that no X server gives.
+std::string conditionOf(const OwnWindow& window) {
+    if (window.id != Windows::none) return "one.windowId == " + std::to_string(window.id);
+    if (window.title.empty()) return "false";
+    const GText title(g_uri_escape_string(window.title.c_str(), nullptr, FALSE));
+    return "one.pid == " + std::to_string(getpid()) + " && plain(one.caption) == plain(decodeURIComponent('" +
+           title.get() + "'))";
 }
 
 }  // namespace
@@ -91,21 +106,16 @@ Result<void> KWinWindows::activate(std::size_t place) {
     return activateBy(m_scripts, "String(one.internalId) == '" + m_windows[place].id + "'");
 }
 
-std::optional<std::uint32_t> KWinFocus::focusedXWindow() {
+bool KWinFocus::isElsewhere(const OwnWindow& hidden) {
     KWinScripts scripts(m_bus);
-    // Native windows have no number, or one that no X server gives.
     const auto told =
         scripts.run(withFunctions("var one = active();\n"
-                                  "tell(one ? String(one.windowId || 0) : '');"));
-    if (!told || told.value().empty()) return std::nullopt;
-    return static_cast<std::uint32_t>(std::strtoul(told.value().c_str(), nullptr, 10));
+                                  "tell(one && !(" +
+                                  conditionOf(hidden) + ") ? 'yes' : 'no');"));
+    return told && told.value() == "yes";
 }
 
 Result<void> KWinFocus::focus(const OwnWindow& window) {
     KWinScripts scripts(m_bus);
-    if (window.id != Windows::none)
-        return activateBy(scripts, "one.windowId == " + std::to_string(window.id));
-    const GText title(g_uri_escape_string(window.title.c_str(), nullptr, FALSE));
-    return activateBy(scripts, "one.pid == " + std::to_string(getpid()) +
-                                   " && one.caption == decodeURIComponent('" + title.get() + "')");
+    return activateBy(scripts, conditionOf(window), window.id == Windows::none ? window.count : 1);
 }

@@ -37,7 +37,7 @@ class KWinFocus final : public CompositorFocus {
   public:
     explicit KWinFocus(std::string bus) : m_bus(std::move(bus)) {}
 
-    std::optional<std::uint32_t> focusedXWindow() override;
+    bool isElsewhere(const OwnWindow& hidden) override;
     Result<void> focus(const OwnWindow& window) override;
 
   private:

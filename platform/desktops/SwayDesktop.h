@@ -17,17 +17,10 @@ class SwayDesktop final : public CompositorFocus {
     std::uint32_t group();
 
     // CompositorFocus
-    std::optional<std::uint32_t> focusedXWindow() override;
+    bool isElsewhere(const OwnWindow& hidden) override;
     Result<void> focus(const OwnWindow& window) override;
     void refuseFocus(const std::string& title) override;
 
   private:
-    struct Container {
-        std::int64_t number = 0;
-        bool hasFocus = false;
-    };
-
-    std::optional<Container> find(const OwnWindow& window);
-
     SwayConnection m_connection;
 };

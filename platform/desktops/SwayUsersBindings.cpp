@@ -35,16 +35,17 @@ std::vector<std::string> included(const std::string& folder, const std::string& 
 
 }  // namespace
 
-void SwayUsersBindings::read(SwayConnection& sway) {
+bool SwayUsersBindings::read(SwayConnection& sway) {
     const auto answer = sway.ask(SwayConnection::Request::config);
     const auto version = sway.ask(SwayConnection::Request::version);
-    if (!answer || !version) return;
+    if (!answer || !version) return false;
     const std::string folder =
         std::filesystem::path(version.value()["loaded_config_file_name"].text()).parent_path();
     const SwayConfiguration configuration(
         answer.value()["config"].text(),
         [&folder](const std::string& pattern) { return included(folder, pattern); });
     m_bindings = configuration.bindings();
+    return true;
 }
 
 std::optional<std::string> SwayUsersBindings::obstacleTo(const KeyGrab& grab) const {

@@ -18,8 +18,8 @@ class SwayUsersBindings {
 
     explicit SwayUsersBindings(Types types) : m_types(std::move(types)) {}
 
-    /// A sway that does not answer leaves what was known.
-    void read(SwayConnection& sway);
+    /// False where sway does not answer: what was known is left.
+    bool read(SwayConnection& sway);
     /// Why the combination is not to be taken, as the end of a sentence; empty where it is not bound.
     std::optional<std::string> obstacleTo(const KeyGrab& grab) const;
 

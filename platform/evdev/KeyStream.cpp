@@ -51,7 +51,7 @@ void KeyStream::assumeModifiers(xkb_mod_mask_t modifiers) {
         if (keycode != 0) down.set(keycode);
     }
     startWith(desktop, down);
-    m_assumed = modifiers;
+    m_assumed |= modifiers;
 }
 
 void KeyStream::assumeNone() {

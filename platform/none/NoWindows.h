@@ -8,5 +8,5 @@ class NoWindows final : public Windows {
   public:
     void refuseFocus(const OwnWindow& /*window*/) override {}
     void activate(const OwnWindow& /*window*/, std::uint32_t /*userTime*/) override {}
-    void awaitFocusElsewhere(WindowId /*hidden*/) override {}
+    void awaitFocusElsewhere(const OwnWindow& /*hidden*/) override {}
 };

@@ -94,11 +94,14 @@ class Lookup final : public KeyGrabber {
     /// Why a combination could not be had, as grab() says it.
     using Obstacle = std::function<std::optional<std::string>(const KeyGrab& grab)>;
 
+    /// Null for `obstacle` where the desktop does not tell.
     explicit Lookup(Obstacle obstacle) : m_obstacle(std::move(obstacle)) {}
 
     std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& /*request*/) override {
-        return m_obstacle(grab);
+        return m_obstacle ? m_obstacle(grab) : std::nullopt;
     }
+    /// What is not told stays open.
+    bool isDecidedByUser() const override { return !m_obstacle; }
     void release(const KeyGrab& /*grab*/) override {}
 
   private:
@@ -134,11 +137,10 @@ std::unique_ptr<KeyGrabber> openLookup(const DesktopServices& desktop, const Sea
             return KdeShortcuts::obstacleTo(kdeCombination(seat, grab), bus);
         });
     }
-    if (!desktop.isSway() || desktop.hasShortcutsPortal()) return nullptr;
+    if (!desktop.isSway()) return nullptr;
     auto sway = SwayConnection::open();
-    if (!sway) return nullptr;
     SwayUsersBindings users(typesOf(seat));
-    users.read(sway.value());
+    if (!sway || !users.read(sway.value())) return std::make_unique<Lookup>(nullptr);
     return std::make_unique<Lookup>(
         [users = std::move(users)](const KeyGrab& grab) { return users.obstacleTo(grab); });
 }

@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 #include <utility>
 
@@ -36,7 +37,13 @@ std::string kept(const std::string& file) {
 }
 
 /// Programs that type make keymaps in which each character has a key, and none is a modifier.
-bool isOfAKeyboard(const Keymap& keymap) { return keymap.keys().keyFor(keymap.masks().control) != 0; }
+bool isOfAKeyboard(const Keymap& keymap) {
+    const ModifierMasks& masks = keymap.masks();
+    const xkb_mod_mask_t modifiers[] = {masks.shift, masks.control, masks.option, masks.command};
+    return std::any_of(std::begin(modifiers), std::end(modifiers), [&](xkb_mod_mask_t modifier) {
+        return modifier != 0 && keymap.keys().canHold(modifier);
+    });
+}
 
 }  // namespace
 
@@ -109,7 +116,7 @@ bool SeatKeymap::adopt(std::string text) {
         m_context.get(), text.c_str(), XKB_KEYMAP_FORMAT_TEXT_V1, XKB_KEYMAP_COMPILE_NO_FLAGS));
     if (!compiled) return false;
     auto keymap = std::make_unique<const Keymap>(std::move(compiled));
-    if (m_keymap && !isOfAKeyboard(*keymap)) return false;
+    if (!isOfAKeyboard(*keymap)) return false;
     m_keymap = std::move(keymap);
     m_characters = std::make_unique<const CharacterTable>(*m_keymap);
     m_text = std::move(text);

@@ -8,6 +8,10 @@ namespace {
 constexpr std::chrono::milliseconds longestWait{500};
 constexpr std::chrono::milliseconds betweenLooks{5};
 
+/// Until a window has been painted.
+constexpr std::chrono::seconds longestPainting{5};
+constexpr std::chrono::milliseconds betweenLaterLooks{50};
+
 }  // namespace
 
 void WaylandWindows::refuseFocus(const OwnWindow& window) {
@@ -21,7 +25,7 @@ void WaylandWindows::refuseFocus(const OwnWindow& window) {
 void WaylandWindows::activate(const OwnWindow& window, std::uint32_t /*userTime*/) {
     if (m_compositor == nullptr) return;
     m_awaited = window;
-    m_end = m_clock.now() + longestWait;
+    m_begin = m_clock.now();
     focusAwaited();
 }
 
@@ -31,22 +35,20 @@ void WaylandWindows::dispatch() {
 
 void WaylandWindows::focusAwaited() {
     if (!m_awaited) return;
-    if (m_compositor->focus(*m_awaited) || m_clock.now() >= m_end) {
+    const bool isFocused = static_cast<bool>(m_compositor->focus(*m_awaited));
+    const auto lasted = m_clock.now() - m_begin;
+    if (isFocused || lasted >= longestPainting) {
         m_awaited.reset();
     } else {
-        m_wakeups.startTimer(betweenLooks);
+        m_wakeups.startTimer(lasted < longestWait ? betweenLooks : betweenLaterLooks);
     }
 }
 
-void WaylandWindows::awaitFocusElsewhere(WindowId hidden) {
+void WaylandWindows::awaitFocusElsewhere(const OwnWindow& hidden) {
     m_awaited.reset();
     if (m_compositor == nullptr) return;
     const Clock::Time end = m_clock.now() + longestWait;
-    const auto isElsewhere = [&] {
-        const auto front = m_compositor->focusedXWindow();
-        return front && (hidden == none || *front != hidden);
-    };
-    while (!isElsewhere() && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
+    while (!m_compositor->isElsewhere(hidden) && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
 }
 
 }  // namespace wayland

@@ -23,11 +23,11 @@ class WaylandWindows final : public Windows, public EventSource {
 
     // Windows
     void refuseFocus(const OwnWindow& window) override;
-    /// The compositor has a window only once it is painted, which the event loop does: it is asked again and
-    /// again for half a second.
+    /// The compositor has a window only once it is painted, which the event loop does, and which lasts where
+    /// much else is to be done: it is asked again and again for some seconds.
     void activate(const OwnWindow& window, std::uint32_t userTime) override;
     /// Compositors pass the focus on by themselves; nothing is given back.
-    void awaitFocusElsewhere(WindowId hidden) override;
+    void awaitFocusElsewhere(const OwnWindow& hidden) override;
 
     // EventSource
     int fileDescriptor() const override { return m_wakeups.fileDescriptor(); }
@@ -41,7 +41,7 @@ class WaylandWindows final : public Windows, public EventSource {
     Clock& m_clock;
     Wakeups m_wakeups;
     std::optional<OwnWindow> m_awaited;
-    Clock::Time m_end;
+    Clock::Time m_begin;
 };
 
 }  // namespace wayland

@@ -15,7 +15,7 @@ Result<void> checkDisplay();
 std::unique_ptr<SessionCheck> examineSession();
 
 /// The session of the X server at $DISPLAY. For SessionUse::desktop it needs only that the server shows
-/// windows.
+/// windows; for SessionUse::check what it needs for scripts.
 Result<std::unique_ptr<Session>> openSession(Clock& clock, SessionUse use);
 
 /// Who gives the focus among the windows of the server at $DISPLAY, for other kinds of session; null where

@@ -50,8 +50,8 @@ class FakeWindows : public Windows {
     void activate(const OwnWindow& /*window*/, std::uint32_t userTime) override {
         m_journal.note("activate", userTime);
     }
-    void awaitFocusElsewhere(WindowId hidden) override {
-        m_journal.note("awaitFocusElsewhere", Journal::Word{hidden == none ? "none" : "hidden"});
+    void awaitFocusElsewhere(const OwnWindow& hidden) override {
+        m_journal.note("awaitFocusElsewhere", Journal::Word{hidden.id == none ? "none" : "hidden"});
     }
 
     Journal::Lines calls() const { return m_journal.of({"activate", "awaitFocusElsewhere"}); }

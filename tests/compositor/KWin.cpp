@@ -25,8 +25,8 @@ std::string quoted(const std::string& title) {
 }  // namespace
 
 KWin::KWin(const Options& options) : m_options(options) {
-    // What gets the focus is the test's to say.
-    put("home/.config/kwinrc", "[Windows]\nFocusStealingPreventionLevel=0\n");
+    const std::string level = options.guardsFocus ? "4" : "0";
+    put("home/.config/kwinrc", "[Windows]\nFocusStealingPreventionLevel=" + level + "\n");
     put("home/.config/kxkbrc", "[Layout]\nUse=true\nLayoutList=" + options.layouts + "\n");
     // Nothing fades.
     put("home/.config/kdeglobals", "[KDE]\nAnimationDurationFactor=0\n");

@@ -32,6 +32,9 @@ class KWin final : public Compositor {
         bool hasPortal = false;
         /// Whether ScreenPicture can be taken of it, which makes it slower.
         bool hasPictures = false;
+        /// Whether KWin gives the focus only to windows that it takes for wanted, as it does at users' most
+        /// careful setting; else to each one that comes.
+        bool guardsFocus = false;
         /// How many pixels of the screen's own a program's are in each direction.
         int scale = 1;
     };

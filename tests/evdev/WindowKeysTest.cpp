@@ -204,6 +204,8 @@ TEST_P(EvdevWindowKeysAfterAPlayTest, tellThatHandsAreUpThoughTheDesktopDoesNot)
     EXPECT_EQ(delivered(), (Log{"modifiers 0x1200", "pressed 7"}));
     tapThere(xkey::a);
     EXPECT_EQ(delivered(), (Log{"modifiers 0x200", "modifiers 0x0", "down 0 a", "up 0"}));
+    EXPECT_FALSE(monitor().runWatch().handsHold(xkey::control));
+    EXPECT_FALSE(monitor().runWatch().handsHold(xkey::shift));
 }
 
 /// They came before: the window had another order, or none.
@@ -213,6 +215,21 @@ TEST_P(EvdevWindowKeysAfterAPlayTest, letHandsHoldWhatIsInForce) {
     tapThere(xkey::a, combination);
     releaseThere(xkey::shift, combination);
     EXPECT_EQ(delivered(), (Log{"down 0 A", "up 0"}));
+    EXPECT_TRUE(monitor().runWatch().handsHold(xkey::control));
+}
+
+/// Of several, each of which lets guess its own.
+TEST_P(EvdevWindowKeysAfterAPlayTest, endTheGuessOfAllHotKeysBefore) {
+    world().hotKeys().request({.id = 8,
+                               .name = "macro",
+                               .keyCode = key::a,
+                               .modifiers = modifier::control,
+                               .startsPlayback = true});
+    desktopTells(true);
+    monitor().desktopTells({.keycode = xkey::a, .modifiers = xmask::control}, true);
+    delivered();
+    tapThere(xkey::b, xmask::control);
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x200", "modifiers 0x0", "down 11 b", "up 11"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Evdev, EvdevWindowKeysAfterAPlayTest, testing::Values(&makeEvdevWorld));

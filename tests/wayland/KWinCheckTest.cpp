@@ -41,6 +41,10 @@ TEST_F(KWinCheckTest, namesWhoHasTheHotKeys) {
     const std::string report = check();
     EXPECT_TRUE(has(report, taken)) << report;
     EXPECT_TRUE(has(report, "ok  Hot key of \"Play\": Ctrl+Super+P, which nobody else has")) << report;
+    const std::string components = kwin().call(
+        {"-d", "org.kde.kglobalaccel", "-o", "/kglobalaccel", "-m", "org.kde.KGlobalAccel.allComponents"});
+    EXPECT_NE(components.find("other"), std::string::npos) << components;
+    EXPECT_EQ(components.find("Keyrill"), std::string::npos) << components;
 }
 
 TEST_F(KWinCheckTest, leavesTheRunningProgramItsHotKeys) {
@@ -59,9 +63,15 @@ TEST_F(KWinCheckTest, leavesTheRunningProgramItsHotKeys) {
 TEST_F(KWinCheckTest, whatTheProgramHadBeforeIsFree) {
     start("keystroke \"ab\"");
     program().signal(SIGTERM);
-    program().wait();
+    EXPECT_EQ(program().wait(), 0);
+    const std::string line = "ok  Hot key of \"Play\": Ctrl+Super+P, which nobody else has";
     const std::string report = check();
-    EXPECT_TRUE(has(report, "ok  Hot key of \"Play\": Ctrl+Super+P, which nobody else has")) << report;
+    EXPECT_TRUE(has(report, line)) << report;
+    start("keystroke \"ab\"");
+    program().signal(SIGKILL);
+    program().wait();
+    const std::string after = check();
+    EXPECT_TRUE(has(after, line)) << after;
 }
 
 }  // namespace

@@ -222,6 +222,24 @@ TEST_P(WaylandOnlyTest, theFirstStartLeadsToThePreferences) {
     EXPECT_TRUE(eventually([this] { return session().shows("Keyrill Preferences"); })) << log();
 }
 
+/// A question of the script's is a window of the program's own, here called as the small one is that stands
+/// in for a tray.
+TEST_P(WaylandOnlyTest, keysThatFollowAnAnswerGoWhereTheUserWas) {
+    const auto target = openTarget();
+    session().start("display dialog \"Really?\" with title \"Keyrill\"\nkeystroke \"ab\"");
+    target->focus();
+    for (const char* const expected : {"ab", "abab", "ababab"}) {
+        session().strokeHotKey(xkey::p);
+        // KWin numbers those with one title.
+        ASSERT_TRUE(eventually([this] {
+            return session().compositor().hasFocus("Keyrill") ||
+                   session().compositor().hasFocus("Keyrill <2>");
+        })) << log();
+        hands().stroke({xkey::returnKey});
+        EXPECT_EQ(target->text(expected), expected) << log();
+    }
+}
+
 /// Nor does its toolkit.
 TEST_P(WaylandOnlyTest, theProgramComplainsOfNothing) {
     const auto target = openTarget();
@@ -229,6 +247,8 @@ TEST_P(WaylandOnlyTest, theProgramComplainsOfNothing) {
     openPrompt();
     hands().stroke({xkey::escape});
     EXPECT_TRUE(eventually([this] { return !session().hasLayerKeys(); }));
+    session().program().signal(SIGTERM);
+    ASSERT_EQ(session().program().wait(), 0);
     session().forgetSettings();
     session().start("keystroke \"ab\"");
     ASSERT_TRUE(eventually([this] { return session().shows("Welcome to Keyrill"); })) << log();

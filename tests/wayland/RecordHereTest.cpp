@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <thread>
 
 #include "compositor/Field.h"
 #include "wayland/AccessWorld.h"
@@ -20,7 +19,7 @@ class RecordHereTest : public testing::TestWithParam<Place> {
   protected:
     RecordHereTest() : m_session(GetParam().open()) {
         m_session->setSystemBus(m_access.bus());
-        m_session->start("keystroke \"x\"");
+        m_session->start("keystroke \"x\"\nset the clipboard to \"played\"");
         m_field = std::make_unique<Field>(m_session->compositor(), Field::Toolkit::qt);
     }
 
@@ -61,6 +60,7 @@ class RecordHereTest : public testing::TestWithParam<Place> {
         EXPECT_TRUE(eventually([this] { return field().text().ends_with("n"); }));
         return field().text();
     }
+    std::string clipboard() const { return m_session->outputOfUsers({"wl-paste", "--no-newline"}); }
     void makeFieldFullScreen() {
         ASSERT_TRUE(eventually([this] { return compositor().focus("field"); }));
         m_session->makeFullScreen();
@@ -147,7 +147,7 @@ TEST_P(RecordHereTest, keysThatFollowThePlayHotKeyAtOnceAreRecordedWithoutItsMod
     hands().type("b");
     play();
     hands().type("no");
-    std::this_thread::sleep_for(std::chrono::seconds(1));
+    EXPECT_TRUE(eventually([this] { return clipboard() == "played"; }, std::chrono::seconds(20)));
     hands().type("c");
     stopRecording();
     play();
@@ -167,6 +167,11 @@ TEST_P(RecordHereTest, closingTheWindowEndsTheRecordingToo) {
     EXPECT_EQ(played("ab"), "ab.");
 }
 
+const Place swayWithoutX{"swayWithoutX", place::pureSway.open, Target::Kind::terminal};
+const Place kwinWithoutX{"kwinWithoutX",
+                         [] { return place::onKWin({.hasXServer = false, .guardsFocus = true}); },
+                         Target::Kind::qt, KWin::repeatDelay};
+
 /// With an X server, and without one.
 using RecordHereWindowTest = RecordHereTest;
 
@@ -180,11 +185,7 @@ TEST_P(RecordHereWindowTest, comesInFrontOfAFullScreenAndHasTheKeys) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Sessions, RecordHereWindowTest,
-                         testing::Values(place::sway, place::kwin, place::pureSway, place::pureKWin),
-                         [](const auto& place) {
-                             const bool hasXServer = place.index < 2;
-                             return std::string(place.param.name) + (hasXServer ? "" : "WithoutX");
-                         });
+                         testing::Values(place::sway, place::kwin, swayWithoutX, kwinWithoutX), nameOf);
 INSTANTIATE_TEST_SUITE_P(Sessions, RecordHereTest, testing::Values(place::sway, place::kwin), nameOf);
 
 }  // namespace

@@ -27,7 +27,8 @@ inline ScreenPicture pictureWith(const ScreenLook& look, const ScreenPicture::Co
     const auto hasCome = [&] {
         const auto time = std::chrono::steady_clock::now();
         ScreenPicture now(look());
-        if (!picture || now.differsFrom(*picture)) lastChange = time;
+        // Looks may take long: a rest lies between the end of one and the beginning of another.
+        if (!picture || now.differsFrom(*picture)) lastChange = std::chrono::steady_clock::now();
         picture.emplace(std::move(now));
         return time - lastChange >= rest && std::all_of(places.begin(), places.end(), [&](const auto& place) {
                    return picture->at(place.first, place.second) == colour;

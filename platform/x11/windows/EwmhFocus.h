@@ -18,7 +18,10 @@ class EwmhFocus final : public CompositorFocus {
   public:
     explicit EwmhFocus(XConnection connection);
 
-    std::optional<std::uint32_t> focusedXWindow() override { return m_focus.activeWindow(); }
+    /// A window of the compositor's own is active as none.
+    bool isElsewhere(const OwnWindow& hidden) override {
+        return hidden.id == Windows::none || m_focus.activeWindow() != hidden.id;
+    }
     /// Sent, not awaited; the manager may mark the window instead.
     Result<void> focus(const OwnWindow& window) override;
 

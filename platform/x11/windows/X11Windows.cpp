@@ -34,12 +34,14 @@ void X11Windows::activate(const OwnWindow& window, std::uint32_t userTime) {
     m_connection.roundTrip();
 }
 
-void X11Windows::awaitFocusElsewhere(WindowId hidden) {
+void X11Windows::awaitFocusElsewhere(const OwnWindow& hidden) {
     const bool managed = hasWindowManager();
     const Clock::Time end = m_clock.now() + longestWait;
-    const auto isReady = [&] { return managed ? isFocusElsewhere(hidden) : !m_tree.isOnScreen(hidden); };
+    const auto isReady = [&] {
+        return managed ? isFocusElsewhere(hidden.id) : !m_tree.isOnScreen(hidden.id);
+    };
     while (!isReady() && m_clock.now() < end) m_clock.sleepFor(betweenLooks);
-    if (!managed) giveFocusBack(hidden);
+    if (!managed) giveFocusBack(hidden.id);
 }
 
 // A manager that ended leaves its mark on the root window; only one whose own window carries it too is alive.

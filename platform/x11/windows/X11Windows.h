@@ -20,7 +20,7 @@ class X11Windows : public Windows {
     /// Window managers heed what the toolkit says.
     void refuseFocus(const OwnWindow& /*window*/) override {}
     void activate(const OwnWindow& window, std::uint32_t userTime) override;
-    void awaitFocusElsewhere(WindowId hidden) override;
+    void awaitFocusElsewhere(const OwnWindow& hidden) override;
 
   private:
     bool hasWindowManager() const;

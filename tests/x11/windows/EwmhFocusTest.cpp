@@ -24,7 +24,7 @@ class EwmhFocusTest : public testing::Test {
         if (!eventually(manages)) throw std::runtime_error("there is no window manager");
     }
     bool becomesFocused(std::uint32_t window) {
-        return eventually([&] { return focus.focusedXWindow() == window; });
+        return eventually([&] { return !focus.isElsewhere({.id = window}); });
     }
 
     XServer server;
@@ -39,6 +39,7 @@ TEST_F(EwmhFocusTest, givesTheFocusToAnotherProgramsWindowAndTellsWhichHasIt) {
     ASSERT_TRUE(focus.focus({.id = numberOf(first)}));
     EXPECT_TRUE(becomesFocused(numberOf(first)));
     EXPECT_TRUE(eventually([&] { return first.hasFocus(); }));
+    EXPECT_TRUE(focus.isElsewhere({.id = numberOf(second)}));
 }
 
 TEST_F(EwmhFocusTest, aWindowThatIsNotOnTheScreenCannotHaveIt) {
@@ -48,7 +49,11 @@ TEST_F(EwmhFocusTest, aWindowThatIsNotOnTheScreenCannotHaveIt) {
     EXPECT_EQ(given.error().message, "The window is not on the screen.");
 }
 
-TEST_F(EwmhFocusTest, withoutAWindowNoneHasIt) { EXPECT_EQ(focus.focusedXWindow(), 0U); }
+TEST_F(EwmhFocusTest, itIsElsewhereWhereNoWindowOfTheServersHasIt) {
+    constexpr std::uint32_t hidden = 1;
+    EXPECT_TRUE(focus.isElsewhere({.id = hidden}));
+    EXPECT_TRUE(focus.isElsewhere({}));
+}
 
 }  // namespace
 }  // namespace x11
