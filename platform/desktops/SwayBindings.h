@@ -28,6 +28,7 @@ class SwayBindings final : public HotKeyBinder {
     // HotKeyBinder
     std::optional<std::string> grab(const KeyGrab& grab, const HotKeyRequest& request) override;
     void release(const KeyGrab& grab) override;
+    bool losesReleases() const override { return true; }
 
     int fileDescriptor() const override { return m_events.fileDescriptor(); }
     /// Sway forgets all of them when it reads its configuration again.

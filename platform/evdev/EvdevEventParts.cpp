@@ -7,8 +7,16 @@
 
 namespace evdev {
 
+namespace {
+
+/// Nobody holds a hot key for so long before a play; then its end was lost.
+constexpr std::chrono::seconds longestPress{2};
+
+}  // namespace
+
 EvdevEventMonitor::Parts::Parts(const Session& session, std::unique_ptr<Keymap> keymap)
     : m_clock(session.clock),
+      m_grabs(session.grabs),
       m_keyboard(std::move(keymap), {}),
       m_cancel(session.clock),
       m_hands(session.clock),
@@ -46,6 +54,7 @@ void EvdevEventMonitor::Parts::read() {
     if (m_assumedUntil && m_clock.now() >= *m_assumedUntil) {
         m_assumedUntil.reset();
         m_stream.assumeNone();
+        if (m_grabs.losesReleases()) releaseHotKeys();
     }
     startTimer();
 }
@@ -145,6 +154,7 @@ void EvdevEventMonitor::Parts::desktopTells(const KeyGrab& grab, bool press) {
 /// One that no open keyboard has told was pressed on another, or before they were open.
 void EvdevEventMonitor::Parts::desktopPresses(const KeyGrab& grab) {
     const std::optional<HotKeyId> id = m_hotKeys.ownerOf(grab);
+    if (m_grabs.losesReleases()) desktopReleases(grab);
     // A held combination presses once, though some desktops tell of its repeats.
     if (!id || m_desktopDown.contains(grab.keycode)) return;
     if (m_echoes.take(*id, m_clock.now())) {
@@ -156,6 +166,7 @@ void EvdevEventMonitor::Parts::desktopPresses(const KeyGrab& grab) {
     m_desktopDown.emplace(grab.keycode, *id);
     if (m_hotKeys.startsPlayback(*id)) awaitHands(grab.modifiers);
     m_interpreter.deliveries().emplace_back(HotKeyEvent{*id, true, eventTime()});
+    if (m_awaitsHands && m_grabs.losesReleases()) m_assumedUntil = m_clock.now() + longestPress;
 }
 
 void EvdevEventMonitor::Parts::desktopReleases(const KeyGrab& grab) {
@@ -167,6 +178,14 @@ void EvdevEventMonitor::Parts::desktopReleases(const KeyGrab& grab) {
     if (!id) return;
     m_interpreter.deliveries().emplace_back(HotKeyEvent{*id, false, eventTime()});
     if (m_awaitsHands) m_assumedUntil = m_clock.now() + handsAreUp;
+}
+
+/// Of those that are still down the desktop has not told the end.
+void EvdevEventMonitor::Parts::releaseHotKeys() {
+    for (const auto& [keycode, id] : m_desktopDown) {
+        if (id) m_interpreter.deliveries().emplace_back(HotKeyEvent{*id, false, eventTime()});
+    }
+    std::erase_if(m_desktopDown, [](const auto& down) { return down.second.has_value(); });
 }
 
 bool EvdevEventMonitor::Parts::isHotKeyDown() const {

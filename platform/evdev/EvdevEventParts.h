@@ -72,6 +72,7 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     void awaitHands(std::uint16_t modifiers);
     void endWaitForHands();
     bool isHotKeyDown() const;
+    void releaseHotKeys();
     void followNeed(DeviceOpener::Question question);
     EventMonitor::Access access() const;
     void recordWindow();
@@ -79,6 +80,7 @@ class EvdevEventMonitor::Parts final : public RunWatch {
     xkb_layout_index_t layout() const { return m_layout ? m_layout() : 0; }
 
     const Clock& m_clock;
+    const KeyGrabber& m_grabs;
     KeyboardState m_keyboard;
     CancelWatch m_cancel;
     HandKeys m_hands;

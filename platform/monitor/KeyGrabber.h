@@ -50,6 +50,8 @@ class KeyGrabber {
     /// See HotKeys; without consent grab() takes nothing.
     virtual bool needsConsent() const { return false; }
     virtual void setConsent(bool /*given*/) {}
+    /// Whether the end of a press may stay untold, where another key came between; nor are repeats told then.
+    virtual bool losesReleases() const { return false; }
     /// Whether combinations are taken by what their keys type, so that another keymap makes others of them.
     virtual bool takesSymbols() const { return false; }
 };

@@ -26,10 +26,15 @@ class FakeGrabber final : public KeyGrabber {
     void leaveToUser() { m_isDecidedByUser = true; }
     bool isDecidedByUser() const override { return m_isDecidedByUser; }
 
+    /// From now on the desktop tells of the end of a press only if no other key comes between.
+    void loseReleases() { m_losesReleases = true; }
+    bool losesReleases() const override { return m_losesReleases; }
+
   private:
     std::vector<KeyGrab> m_elsewhere;
     std::vector<KeyGrab> m_taken;
     bool m_isDecidedByUser = false;
+    bool m_losesReleases = false;
 };
 
 /// Opens what is there, unless it is made to fail.

@@ -211,6 +211,21 @@ TEST_P(EvdevUsersHotKeyTest, theRunsOwnStrokeOfItFiresNothing) {
     EXPECT_EQ(delivered(), Log{"pressed 1"});
 }
 
+/// Where the desktop may leave out the end of a press, and tells of no repeats.
+class EvdevLostReleaseTest : public EvdevHotKeyTest {
+  protected:
+    void prepare() override { evdevWorld().grabber().loseReleases(); }
+};
+
+TEST_P(EvdevLostReleaseTest, theNextPressIsOneMore) {
+    desktopTells(true);
+    EXPECT_EQ(delivered(), Log{"pressed 1"});
+    desktopTells(true);
+    EXPECT_EQ(delivered(), (Log{"released 1", "pressed 1"}));
+    desktopTells(false);
+    EXPECT_EQ(delivered(), Log{"released 1"});
+}
+
 /// A hot key that plays, with Control and Super, told by the desktop.
 class EvdevPlayTest : public EvdevTest {
   protected:
@@ -269,6 +284,21 @@ TEST_P(EvdevPlayTest, withoutKeyboardsItsModifiersAreUpAQuarterOfASecondAfterIt)
     EXPECT_EQ(delivered(), (Log{"modifiers 0x100", "modifiers 0x0"}));
 }
 
+TEST_P(EvdevPlayTest, whereItsEndIsLostItIsUpAfterTwoSeconds) {
+    evdevWorld().keyboard().reset();
+    evdevWorld().opener().fail();
+    evdevWorld().grabber().loseReleases();
+    desktopTells(true);
+    evdevWorld().advance(milliseconds(1999));
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x1100", "pressed 1"}));
+    evdevWorld().advance(milliseconds(1));
+    EXPECT_EQ(delivered(), (Log{"modifiers 0x100", "modifiers 0x0", "released 1"}));
+    // Should it have been held all the time.
+    desktopTells(false);
+    EXPECT_EQ(delivered(), Log{});
+}
+
+INSTANTIATE_TEST_SUITE_P(Evdev, EvdevLostReleaseTest, testing::Values(&makeEvdevWorld));
 INSTANTIATE_TEST_SUITE_P(Evdev, EvdevPlayTest, testing::Values(&makeEvdevWorld));
 INSTANTIATE_TEST_SUITE_P(Evdev, EvdevUsersHotKeyTest, testing::Values(&makeEvdevWorld));
 INSTANTIATE_TEST_SUITE_P(Evdev, EvdevHotKeyTest, testing::Values(&makeEvdevWorld));

@@ -118,6 +118,32 @@ TEST_F(SwayProgramTest, aReloadOfTheConfigurationLosesNothing) {
 }
 
 /// As wtype does: each character has a key of its own in it, and no key is a modifier.
+/// Sway does not tell of the end of a press when another key came between.
+TEST_F(SwayProgramTest, aHotKeyOverWhichAnotherKeyIsRolledPlays) {
+    start("keystroke \"a\"");
+    const Foot foot(sway());
+    for (const std::uint8_t key : {xkey::control, xkey::super, xkey::p, xkey::shift}) hands().press(key);
+    for (const std::uint8_t key : {xkey::p, xkey::shift, xkey::super, xkey::control}) hands().release(key);
+    EXPECT_EQ(foot.typed(1), "a");
+    strokeHotKey(xkey::p);
+    EXPECT_EQ(foot.typed(2), "aa");
+}
+
+TEST_F(SwayProgramTest, theStopHotKeyOverWhichAnotherKeyWasRolledStopsTheNextTime) {
+    start("repeat 1000 times\nkeystroke \"a\"\ndelay 0.02\nend repeat");
+    const Foot foot(sway());
+    for (const std::uint8_t key : {xkey::control, xkey::super, xkey::s, xkey::shift}) hands().press(key);
+    for (const std::uint8_t key : {xkey::s, xkey::shift, xkey::super, xkey::control}) hands().release(key);
+    strokeHotKey(xkey::p);
+    foot.typed(10);
+    strokeHotKey(xkey::s);
+    EXPECT_TRUE(eventually([&] {
+        const std::string before = foot.typed();
+        return !eventually([&] { return foot.typed() != before; }, std::chrono::milliseconds(500));
+    }));
+    EXPECT_LT(foot.typed().size(), 1000U);
+}
+
 class SwayBesideTypingTest : public SwayProgramTest {
   protected:
     SwayBesideTypingTest() : SwayProgramTest({.hasSessionBus = true}) {}
