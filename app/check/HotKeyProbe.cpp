@@ -41,14 +41,15 @@ void probe(HotKeyFact& fact, const ShortcutRow& row, KeyCombo combination, HotKe
 
 std::vector<HotKeyFact> probeHotKeys(const SettingsStore& settings, HotKeys& hotKeys,
                                      const KeyboardLayout& layout, const std::vector<std::string>& ours) {
+    const bool isFirstRun = !isStoredOn(settings, "notFirstRun");
     std::vector<HotKeyFact> facts;
     for (std::size_t i = 0; i < shortcutRows.size(); ++i) {
         const ShortcutRow& row = shortcutRows[i];
         HotKeyFact& fact = facts.emplace_back(HotKeyFact{.shortcut = i});
         const bool isOurs = std::find(ours.begin(), ours.end(), row.name) != ours.end();
         // In its first run the program has them before they are stored.
-        const KeyCombo combination =
-            storedShortcut(settings, std::string(row.name)).value_or(isOurs ? row.preset : KeyCombo());
+        const KeyCombo combination = storedShortcut(settings, std::string(row.name))
+                                         .value_or(isOurs || isFirstRun ? row.preset : KeyCombo());
         if (combination.code == KeyCombo().code) continue;
         fact.combination = modifiersText(combination.flags).toStdString() +
                            layout.keyName(static_cast<std::uint32_t>(combination.code));

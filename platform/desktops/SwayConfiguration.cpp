@@ -67,6 +67,19 @@ std::optional<std::uint16_t> maskOf(const std::string& name) {
     return place == modifierNames.end() ? std::nullopt : std::optional(place->mask);
 }
 
+bool isAboutBindings(const std::string& command) {
+    return command == "bindsym" || command == "bindcode" || command == "unbindsym" || command == "unbindcode";
+}
+
+/// Those that tell one binding from another, in order.
+std::vector<std::string> kindOf(std::vector<std::string> options) {
+    std::erase_if(options, [](const std::string& option) {
+        return option == "--to-code" || option == "--no-repeat" || option == "--no-warn";
+    });
+    std::sort(options.begin(), options.end());
+    return options;
+}
+
 }  // namespace
 
 SwayConfiguration::SwayConfiguration(std::string_view text, const Includes& includes)
@@ -119,11 +132,11 @@ void SwayConfiguration::readLine(const std::vector<std::string>& words, const In
         return;
     }
     if (!m_blocks.empty()) {
-        const std::string& opener = m_blocks.back().front();
-        const bool isOfBindings = m_blocks.size() == 1 && (opener == "bindsym" || opener == "bindcode");
-        if (isOfBindings) readBinding(opener == "bindcode", words, 0);
-    } else if (words.front() == "bindsym" || words.front() == "bindcode") {
-        readBinding(words.front() == "bindcode", words, 1);
+        const std::vector<std::string>& opener = m_blocks.back();
+        if (m_blocks.size() == 1 && isAboutBindings(opener.front()))
+            readBinding(opener.front(), {opener.begin() + 1, opener.end() - 1}, words, 0);
+    } else if (isAboutBindings(words.front())) {
+        readBinding(words.front(), {}, words, 1);
     } else if (words.front() == "set" && words.size() > 2) {
         std::string value = words[2];
         for (std::size_t i = 3; i < words.size(); ++i) value += " " + words[i];
@@ -133,18 +146,42 @@ void SwayConfiguration::readLine(const std::vector<std::string>& words, const In
     }
 }
 
-void SwayConfiguration::readBinding(bool isCode, const std::vector<std::string>& words, std::size_t place) {
-    while (place < words.size() && words[place].starts_with("--")) ++place;
+/// The options of a block are those of each of its lines.
+void SwayConfiguration::readBinding(const std::string& command, std::vector<std::string> options,
+                                    const std::vector<std::string>& words, std::size_t place) {
+    for (; place < words.size() && words[place].starts_with("--"); ++place) options.push_back(words[place]);
     if (place >= words.size()) return;
     Binding binding;
     for (const std::string& part : partsOf(words[place])) {
         if (const auto mask = maskOf(part)) {
             binding.modifiers |= *mask;
-        } else if (isCode) {
+        } else if (command.ends_with("code")) {
             std::from_chars(part.data(), part.data() + part.size(), binding.keycode);
         } else {
             binding.symbol = part;
         }
     }
-    if (binding.keycode != 0 || !binding.symbol.empty()) m_bindings.push_back(std::move(binding));
+    if (binding.keycode == 0 && binding.symbol.empty()) return;
+    if (command.starts_with("un")) {
+        unbind(binding, kindOf(std::move(options)));
+    } else {
+        bind(std::move(binding), kindOf(std::move(options)));
+    }
+}
+
+void SwayConfiguration::bind(Binding binding, std::vector<std::string> kind) {
+    m_bindings.push_back(std::move(binding));
+    m_kinds.push_back(std::move(kind));
+}
+
+/// One that was given twice has taken its own place.
+void SwayConfiguration::unbind(const Binding& binding, const std::vector<std::string>& kind) {
+    for (std::size_t i = m_bindings.size(); i-- > 0;) {
+        const Binding& other = m_bindings[i];
+        const bool isIt = other.modifiers == binding.modifiers && other.keycode == binding.keycode &&
+                          lowered(other.symbol) == lowered(binding.symbol) && m_kinds[i] == kind;
+        if (!isIt) continue;
+        m_bindings.erase(m_bindings.begin() + static_cast<std::ptrdiff_t>(i));
+        m_kinds.erase(m_kinds.begin() + static_cast<std::ptrdiff_t>(i));
+    }
 }

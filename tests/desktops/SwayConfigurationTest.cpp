@@ -32,6 +32,23 @@ TEST(SwayConfigurationTest, commentsAndOtherCommandsBindNothing) {
               Bindings());
 }
 
+TEST(SwayConfigurationTest, whatIsTakenBackIsBoundNoMore) {
+    EXPECT_EQ(bindingsOf("bindsym Ctrl+Mod4+r exec a\nbindcode Mod4+33 exec b\nbindsym Mod4+x exec c\n"
+                         "unbindsym control+super+R\nunbindcode Mod4+33"),
+              (Bindings{{0x40, 0, "x"}}));
+    EXPECT_EQ(bindingsOf("bindsym --to-code --no-repeat a exec x\nunbindsym --to-code a"), Bindings());
+    EXPECT_EQ(bindingsOf("bindsym {\n a exec x\n b exec y\n}\nunbindsym {\n a\n}"), (Bindings{{0, 0, "b"}}));
+}
+
+/// Each is a binding of its own.
+TEST(SwayConfigurationTest, whatIsTakenBackOfOneKindIsLeftOfOthers) {
+    EXPECT_EQ(bindingsOf("bindsym --release a exec x\nunbindsym a"), (Bindings{{0, 0, "a"}}));
+    EXPECT_EQ(bindingsOf("bindsym --release a exec x\nunbindsym --release a"), Bindings());
+    EXPECT_EQ(bindingsOf("bindsym a exec x\nbindsym --locked a exec y\nunbindsym --locked a"),
+              (Bindings{{0, 0, "a"}}));
+    EXPECT_EQ(bindingsOf("unbindsym a\nbindsym a exec x"), (Bindings{{0, 0, "a"}}));
+}
+
 TEST(SwayConfigurationTest, aBlockBindsEachOfItsLines) {
     EXPECT_EQ(bindingsOf("bindsym --locked {\n Mod4+a exec x\n --release Mod4+b exec y\n}\nbindsym c exec z"),
               (Bindings{{0x40, 0, "a"}, {0x40, 0, "b"}, {0, 0, "c"}}));

@@ -11,7 +11,10 @@ namespace {
 
 class HotKeyProbeTest : public testing::Test {
   protected:
-    HotKeyProbeTest() { choose("record", key::r); }
+    HotKeyProbeTest() {
+        platform.settings.put("notFirstRun", std::int64_t{1});
+        choose("record", key::r);
+    }
 
     void choose(const std::string& name, std::uint32_t keyCode) {
         platform.settings.put(name + "Code", static_cast<std::int64_t>(keyCode));
@@ -65,6 +68,14 @@ TEST_F(HotKeyProbeTest, inTheFirstRunTheProgramHasWhatIsNotStoredYet) {
     EXPECT_EQ(facts[2].finding, HotKeyFinding::ours);
     EXPECT_EQ(facts[0].combination, "Ctrl+Super+R");
     EXPECT_EQ(facts[1].finding, HotKeyFinding::unset);
+}
+
+/// Who asks before the first start is told of what that will have.
+TEST_F(HotKeyProbeTest, beforeTheFirstStartThoseOfThatAreLookedUp) {
+    const FakePlatform fresh;
+    const auto facts = probeHotKeys(fresh.settings, platform.hotKeys, platform.keyboardLayout, {});
+    EXPECT_EQ(facts[2].combination, "Ctrl+Super+P");
+    EXPECT_EQ(facts[2].finding, HotKeyFinding::free);
 }
 
 TEST_F(HotKeyProbeTest, twoOfOneCombinationAreNotInEachOthersWay) {
