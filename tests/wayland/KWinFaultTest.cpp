@@ -34,8 +34,16 @@ class KWinFaultTest : public KWinProgram, public testing::Test {
                 hands().stroke({xkey::z});
                 return field.text().ends_with("z");
             },
-            std::chrono::seconds(20)))
-            << field.text();
+            std::chrono::seconds(60)))
+            << field.text() << outputIn("portal.log") << outputIn("portal-kde.log");
+    }
+    void awaitPortal() {
+        const auto isThere = [this] {
+            return kwin().call({"-d", "org.freedesktop.DBus", "-o", "/org/freedesktop/DBus", "-m",
+                                "org.freedesktop.DBus.NameHasOwner", "org.freedesktop.portal.Desktop"}) ==
+                   "(true,)\n";
+        };
+        ASSERT_TRUE(eventually(isThere, std::chrono::seconds(60)));
     }
     void expectMessage() const {
         const auto says = [this](const char* words) {
@@ -75,6 +83,7 @@ TEST_P(KWinPortalDeathTest, endsThePlayWithAMessageLeavesNoKeyDownAndTheNextPlay
     expectShiftComesUp(field);
     expectMessage();
     awaitRest();
+    awaitPortal();
     const std::string before = field.text();
     strokeHotKey(xkey::p);
     EXPECT_EQ(field.text(before + "A"), before + "A") << log();

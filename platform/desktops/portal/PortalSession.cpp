@@ -28,8 +28,9 @@ constexpr std::array<std::uint16_t, 3> locks{KEY_CAPSLOCK, KEY_NUMLOCK, KEY_SCRO
 constexpr std::uint32_t forGood = 2;
 constexpr unsigned patienceWithDesktop = 10;
 constexpr int callPatience = 2000;
-/// For a portal that has to be started again, which each time is waited for.
-constexpr int attemptsAfterDeath = 5;
+/// For a portal that has to be started again, which lasts where much else is to be done.
+constexpr gint64 longestRestart = 60 * G_USEC_PER_SEC;
+constexpr gulong betweenAttempts = G_USEC_PER_SEC / 5;
 
 }  // namespace
 
@@ -243,8 +244,10 @@ void PortalSession::putBackByAnother() {
     std::optional<PortalAnswer> answered;
     PortalSession other({.tokenFile = m_options.tokenFile, .patience = patienceWithDesktop},
                         [&answered](PortalAnswer answer) { answered = answer; });
-    for (int i = 0; i < attemptsAfterDeath && answered != PortalAnswer::opened; ++i) {
+    const gint64 end = g_get_monotonic_time() + longestRestart;
+    while (answered != PortalAnswer::opened && g_get_monotonic_time() < end) {
         if (g_dbus_connection_is_closed(m_bus.get()) == TRUE) return;
+        if (answered) g_usleep(betweenAttempts);
         answered.reset();
         other.open();
         while (!answered) g_main_context_iteration(nullptr, TRUE);
