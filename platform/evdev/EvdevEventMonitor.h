@@ -52,9 +52,6 @@ class EvdevEventMonitor final : public EventSource, public EventMonitor, public 
         std::function<std::uint32_t()> layout = {};
         /// Whether the desktop has gone, so that a run ends; empty if nobody knows.
         std::function<bool()> isDesktopLost = {};
-        /// Whether what is pressed in windows now is pressed by a program, with a keymap that is no
-        /// keyboard's; empty if nobody knows.
-        std::function<bool()> isTypedByProgram = {};
     };
     EvdevEventMonitor(const Session& session, std::unique_ptr<Keymap> keymap);
     ~EvdevEventMonitor() override;

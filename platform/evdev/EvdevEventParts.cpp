@@ -25,8 +25,7 @@ EvdevEventMonitor::Parts::Parts(const Session& session, std::unique_ptr<Keymap> 
       m_stream({session.clock, m_keyboard, m_cancel, m_hands, m_hotKeys, m_echoes}, m_interpreter),
       m_keyboards({session.opener, session.calls, session.folders}, m_wakeups, m_stream),
       m_window(
-          m_stream, session.clock, session.isTypedByProgram, [this] { recordWindow(); },
-          [this] { dispatch(); }),
+          m_stream, session.clock, [this] { recordWindow(); }, [this] { dispatch(); }),
       m_layout(session.layout),
       m_isDesktopLost(session.isDesktopLost) {}
 

@@ -13,8 +13,6 @@ void WindowKeyboard::setUsed(bool used) {
 
 void WindowKeyboard::key(const WindowKey& key) {
     if (!m_isUsed || isOwn(key)) return;
-    const bool isPress = key.kind != WindowKey::Kind::release;
-    if (isPress && m_isTypedByProgram && m_isTypedByProgram()) return;
     m_stream.windowKey(key);
     m_changed();
 }

@@ -16,16 +16,11 @@ namespace evdev {
 /// is told from the user's keys by its count: the window gets it when the run is over, if at all.
 class WindowKeyboard final : public WindowKeys {
   public:
-    /// All outlive this. `isTypedByProgram` tells whether a press is none of a keyboard's, whose keys the
-    /// keymap knows; may be empty. `begins` is told that the recording is to take no other keys; `changed`,
-    /// that the stream has something new, which is delivered at once: the window may end the recording next.
-    WindowKeyboard(KeyStream& stream, const Clock& clock, std::function<bool()> isTypedByProgram,
-                   std::function<void()> begins, std::function<void()> changed)
-        : m_stream(stream),
-          m_clock(clock),
-          m_isTypedByProgram(std::move(isTypedByProgram)),
-          m_begins(std::move(begins)),
-          m_changed(std::move(changed)) {}
+    /// All outlive this. `begins` is told that the recording is to take no other keys; `changed`, that the
+    /// stream has something new, which is delivered at once: the window may end the recording next.
+    WindowKeyboard(KeyStream& stream, const Clock& clock, std::function<void()> begins,
+                   std::function<void()> changed)
+        : m_stream(stream), m_clock(clock), m_begins(std::move(begins)), m_changed(std::move(changed)) {}
 
     // WindowKeys
     void begin() override { m_begins(); }
@@ -45,7 +40,6 @@ class WindowKeyboard final : public WindowKeys {
 
     KeyStream& m_stream;
     const Clock& m_clock;
-    std::function<bool()> m_isTypedByProgram;
     std::function<void()> m_begins;
     std::function<void()> m_changed;
     bool m_isUsed = false;

@@ -111,15 +111,12 @@ void SeatKeymap::toldRepeat(void* self, wl_keyboard* /*keyboard*/, std::int32_t 
 }
 
 bool SeatKeymap::adopt(std::string text) {
-    if (text.empty()) return false;
-    m_isOfProgram = m_isOfProgram && text != m_text;
-    if (text == m_text) return false;
+    if (text.empty() || text == m_text) return false;
     XkbKeymapPointer compiled(xkb_keymap_new_from_string(
         m_context.get(), text.c_str(), XKB_KEYMAP_FORMAT_TEXT_V1, XKB_KEYMAP_COMPILE_NO_FLAGS));
     if (!compiled) return false;
     auto keymap = std::make_unique<const Keymap>(std::move(compiled));
-    m_isOfProgram = !isOfAKeyboard(*keymap);
-    if (m_isOfProgram) return false;
+    if (!isOfAKeyboard(*keymap)) return false;
     m_keymap = std::move(keymap);
     m_characters = std::make_unique<const CharacterTable>(*m_keymap);
     m_text = std::move(text);

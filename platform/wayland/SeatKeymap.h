@@ -49,8 +49,6 @@ class SeatKeymap {
     /// Counts the keymaps that were told while a keyboard of ours was at the seat, and are none of ours:
     /// another keyboard has spoken, or the compositor has given ours what it gives the user's.
     unsigned strangersKeymaps() const { return m_strangersKeymaps; }
-    /// Whether the keymap that was told last is that of another program that types.
-    bool isOfProgram() const { return m_isOfProgram; }
     /// Whether a keyboard of ours is at the seat.
     bool hasOwnKeyboard() const { return m_isMuted; }
 
@@ -82,7 +80,6 @@ class SeatKeymap {
     std::optional<Repeat> m_repeat;
     bool m_isKept = false;
     bool m_isMuted = false;
-    bool m_isOfProgram = false;
     unsigned m_strangersKeymaps = 0;
     wl_seat* m_seat = nullptr;
     wl_keyboard* m_keyboard = nullptr;

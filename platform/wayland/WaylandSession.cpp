@@ -197,13 +197,7 @@ class WaylandSession final : public Session {
                 .calls = m_calls,
                 .grabs = grabs(),
                 .layout = [this] { return m_seat.group(); },
-                .isDesktopLost = [this] { return m_connection->isBroken(); },
-                .isTypedByProgram = [this] { return isTypedByProgram(); }};
-    }
-    /// The compositor tells a keymap before its first key, but the toolkit is told on another connection.
-    bool isTypedByProgram() {
-        m_connection->dispatch();
-        return m_seat.isOfProgram();
+                .isDesktopLost = [this] { return m_connection->isBroken(); }};
     }
     void followLayout() {
         if (m_seat.hasOwnKeyboard()) return;

@@ -60,10 +60,6 @@ class RecordHereTest : public testing::TestWithParam<Place> {
         EXPECT_TRUE(eventually([this] { return field().text().ends_with("n"); }));
         return field().text();
     }
-    /// What wtype says to it.
-    std::string typedByProgram(const std::string& text) const {
-        return m_session->outputOfUsers({"wtype", text});
-    }
     std::string clipboard() const { return m_session->outputOfUsers({"wl-paste", "--no-newline"}); }
     void makeFieldFullScreen() {
         ASSERT_TRUE(eventually([this] { return compositor().focus("field"); }));
@@ -163,26 +159,6 @@ TEST_P(RecordHereTest, keysThatFollowThePlayHotKeyAtOnceAreRecordedWithoutItsMod
     EXPECT_EQ(text, "bnoc.");
 }
 
-const Place swayWithoutX{"swayWithoutX", place::pureSway.open, Target::Kind::terminal};
-const Place kwinWithoutX{"kwinWithoutX",
-                         [] { return place::onKWin({.hasXServer = false, .guardsFocus = true}); },
-                         Target::Kind::qt, KWin::repeatDelay};
-
-class SwayRecordHereTest : public RecordHereTest {};
-
-INSTANTIATE_TEST_SUITE_P(Sessions, SwayRecordHereTest, testing::Values(place::sway, swayWithoutX), nameOf);
-
-/// Its keys have numbers of its own: wtype's first is Escape elsewhere.
-TEST_P(SwayRecordHereTest, whatAProgramTypesThereByAKeymapOfItsOwnIsNotRecorded) {
-    startRecording();
-    hands().type("a");
-    EXPECT_EQ(typedByProgram("hello"), "");
-    hands().type("b");
-    EXPECT_EQ(typedByProgram("1"), "");
-    stopRecording();
-    EXPECT_EQ(played("ab"), "ab.");
-}
-
 TEST_P(RecordHereTest, closingTheWindowEndsTheRecordingToo) {
     startRecording();
     hands().type("ab");
@@ -190,6 +166,11 @@ TEST_P(RecordHereTest, closingTheWindowEndsTheRecordingToo) {
     awaitEnd();
     EXPECT_EQ(played("ab"), "ab.");
 }
+
+const Place swayWithoutX{"swayWithoutX", place::pureSway.open, Target::Kind::terminal};
+const Place kwinWithoutX{"kwinWithoutX",
+                         [] { return place::onKWin({.hasXServer = false, .guardsFocus = true}); },
+                         Target::Kind::qt, KWin::repeatDelay};
 
 /// With an X server, and without one.
 using RecordHereWindowTest = RecordHereTest;
