@@ -14,7 +14,7 @@ struct OwnWindow {
     WindowId id = 0;
     /// What such a compositor tells it by from the others of ours.
     std::string title = {};
-    /// How many of ours that are shown have the title, this one among them, which came last.
+    /// How many of ours that are shown it could be by number and title: this one came last.
     int count = 1;
 };
 

@@ -16,7 +16,9 @@ OwnWindow ownWindow(const QWidget& window) {
     const bool isNumbered = QApplication::platformName() != QLatin1String("wayland");
     return {.id = isNumbered ? static_cast<WindowId>(number) : Windows::none,
             .title = window.windowTitle().toStdString(),
-            .count = std::max(1, static_cast<int>(std::count_if(all.begin(), all.end(), isNamesake)))};
+            .count = isNumbered
+                         ? 1
+                         : std::max(1, static_cast<int>(std::count_if(all.begin(), all.end(), isNamesake)))};
 }
 
 OwnWindow hiddenWindow(const QWidget& window) {

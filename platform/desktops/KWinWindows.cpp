@@ -117,5 +117,5 @@ bool KWinFocus::isElsewhere(const OwnWindow& hidden) {
 
 Result<void> KWinFocus::focus(const OwnWindow& window) {
     KWinScripts scripts(m_bus);
-    return activateBy(scripts, conditionOf(window), window.id == Windows::none ? window.count : 1);
+    return activateBy(scripts, conditionOf(window), window.count);
 }

@@ -44,8 +44,7 @@ std::optional<std::int64_t> numberOf(const Json& tree, const OwnWindow& window) 
         number = std::max(number, numberOf(node));
         return false;
     });
-    return count >= window.count || (count > 0 && window.id != Windows::none) ? std::optional(number)
-                                                                              : std::nullopt;
+    return count >= window.count ? std::optional(number) : std::nullopt;
 }
 
 bool holds(const Json& node, std::int64_t number) {

@@ -13,8 +13,6 @@ class KWinCheckTest : public KWinProgram, public testing::Test {
   protected:
     KWinCheckTest() : KWinProgram({.hasXServer = true}) {}
 
-    std::string check() const { return outputOfUsers({KEYRILL_PRODUCT, "--check"}); }
-
     /// Another program of the user's takes Control and Super with R.
     void takeRecord() {
         constexpr unsigned combination = 0x04000000U | 0x10000000U | 'R';

@@ -63,6 +63,8 @@ class ProgramSession {
     std::string ask(const std::string& action) const {
         return outputOfUsers({KEYRILL_PRODUCT, "--action=" + action});
     }
+    /// What `keyrill --check` says.
+    std::string check() const { return outputOfUsers({KEYRILL_PRODUCT, "--check"}); }
     /// What a command says that is run to its end as run() does.
     std::string outputOfUsers(const std::vector<std::string>& command) const {
         const std::string file = "answer" + std::to_string(++m_answers);

@@ -8,6 +8,14 @@
 
 namespace {
 
+/// Of a play that goes on 25 strokes come in this time.
+bool comesToRest(const Foot& foot) {
+    return eventually([&] {
+        const std::string before = foot.typed();
+        return !eventually([&] { return foot.typed() != before; }, std::chrono::milliseconds(500));
+    });
+}
+
 TEST_F(SwayProgramTest, theHotKeyPlaysTheMacroAndNothingOfItIsTyped) {
     start("keystroke \"Grüße 日本\"");
     const Foot foot(sway());
@@ -46,11 +54,7 @@ TEST_F(SwayProgramTest, theStopHotKeyEndsThePlay) {
     strokeHotKey(xkey::p);
     foot.typed(10);
     strokeHotKey(xkey::s);
-    // Of a play that goes on 25 strokes come in this time.
-    ASSERT_TRUE(eventually([&] {
-        const std::string before = foot.typed();
-        return !eventually([&] { return foot.typed() != before; }, std::chrono::milliseconds(500));
-    }));
+    ASSERT_TRUE(comesToRest(foot));
     EXPECT_LT(foot.typed().size(), 1000U);
     EXPECT_EQ(foot.typed().find("end"), std::string::npos);
     hands().stroke({xkey::z});
@@ -117,13 +121,16 @@ TEST_F(SwayProgramTest, aReloadOfTheConfigurationLosesNothing) {
     EXPECT_EQ(foot.typed(1), "a");
 }
 
-/// As wtype does: each character has a key of its own in it, and no key is a modifier.
-/// Sway does not tell of the end of a press when another key came between.
+/// Presses a hot key and, before it is up, Shift: sway does not tell of its end then.
+void rollShiftOver(Hands& hands, std::uint8_t key) {
+    for (const std::uint8_t one : {xkey::control, xkey::super, key, xkey::shift}) hands.press(one);
+    for (const std::uint8_t one : {key, xkey::shift, xkey::super, xkey::control}) hands.release(one);
+}
+
 TEST_F(SwayProgramTest, aHotKeyOverWhichAnotherKeyIsRolledPlays) {
     start("keystroke \"a\"");
     const Foot foot(sway());
-    for (const std::uint8_t key : {xkey::control, xkey::super, xkey::p, xkey::shift}) hands().press(key);
-    for (const std::uint8_t key : {xkey::p, xkey::shift, xkey::super, xkey::control}) hands().release(key);
+    rollShiftOver(hands(), xkey::p);
     EXPECT_EQ(foot.typed(1), "a");
     strokeHotKey(xkey::p);
     EXPECT_EQ(foot.typed(2), "aa");
@@ -132,15 +139,11 @@ TEST_F(SwayProgramTest, aHotKeyOverWhichAnotherKeyIsRolledPlays) {
 TEST_F(SwayProgramTest, theStopHotKeyOverWhichAnotherKeyWasRolledStopsTheNextTime) {
     start("repeat 1000 times\nkeystroke \"a\"\ndelay 0.02\nend repeat");
     const Foot foot(sway());
-    for (const std::uint8_t key : {xkey::control, xkey::super, xkey::s, xkey::shift}) hands().press(key);
-    for (const std::uint8_t key : {xkey::s, xkey::shift, xkey::super, xkey::control}) hands().release(key);
+    rollShiftOver(hands(), xkey::s);
     strokeHotKey(xkey::p);
     foot.typed(10);
     strokeHotKey(xkey::s);
-    EXPECT_TRUE(eventually([&] {
-        const std::string before = foot.typed();
-        return !eventually([&] { return foot.typed() != before; }, std::chrono::milliseconds(500));
-    }));
+    EXPECT_TRUE(comesToRest(foot));
     EXPECT_LT(foot.typed().size(), 1000U);
 }
 
@@ -149,6 +152,7 @@ class SwayBesideTypingTest : public SwayProgramTest {
     SwayBesideTypingTest() : SwayProgramTest({.hasSessionBus = true}) {}
 };
 
+/// As wtype does: each character has a key of its own in it, and no key is a modifier.
 TEST_F(SwayBesideTypingTest, aProgramThatTypesByAKeymapOfItsOwnIsNoKeyboard) {
     const Foot foot(sway());
     start("key code (0)");

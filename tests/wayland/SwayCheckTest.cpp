@@ -9,8 +9,6 @@ class SwayCheckTest : public SwayProgramTest {
   protected:
     SwayCheckTest()
         : SwayProgramTest({.configuration = "bindsym Ctrl+Mod4+r nop mine\n", .hasXServer = false}) {}
-
-    std::string check() const { return outputOfUsers({KEYRILL_PRODUCT, "--check"}); }
 };
 
 bool has(const std::string& report, const std::string& line) {
