@@ -52,7 +52,6 @@ Error cannotStart() {
 }  // namespace
 
 bool PortalLink::isThere(const SessionBus& bus) {
-    constexpr std::uint32_t keyboards = 1;
     const auto answer =
         bus.ask({portalnames::service, portalnames::object, portalnames::properties, "Get"},
                 g_variant_new("(ss)", "org.freedesktop.portal.RemoteDesktop", "AvailableDeviceTypes"), "(v)",
@@ -62,7 +61,7 @@ bool PortalLink::isThere(const SessionBus& bus) {
     g_variant_get(answer.value().get(), "(v)", &value);
     const GVariantPointer types(value);
     return g_variant_is_of_type(value, G_VARIANT_TYPE_UINT32) == TRUE &&
-           (g_variant_get_uint32(value) & keyboards) != 0;
+           portalnames::mayHaveKeyboards(g_variant_get_uint32(value));
 }
 
 std::string PortalLink::tokenFileOfProcess() {

@@ -41,6 +41,7 @@ class PortalLinkTest : public testing::Test {
 
     void havePortal(const std::vector<std::string>& how) { m_portal = std::make_unique<StandIn>(m_bus, how); }
     StandIn& portal() { return *m_portal; }
+    bool isThere() const { return PortalLink::isThere(SessionBus(m_bus.address())); }
     std::unique_ptr<PortalLink> link(std::chrono::seconds patience = std::chrono::seconds(30),
                                      std::chrono::seconds rest = std::chrono::seconds(60)) {
         return std::make_unique<PortalLink>(PortalLink::Options{.program = KEYRILL_PORTAL,
@@ -133,6 +134,23 @@ TEST_F(PortalLinkTest, aDesktopWithoutAPortalSaysSo) {
     expectFailure(open(*link()), "This desktop lets no program press keys: no portal for it answers.");
 }
 
+TEST_F(PortalLinkTest, aDesktopThatLetsProgramsMoveThePointerAloneSaysSo) {
+    havePortal({"agrees", "pointer"});
+    EXPECT_FALSE(isThere());
+    expectFailure(open(*link()), "This desktop lets no program press keys: no portal for it answers.");
+}
+
+/// One that was started with the desktop's part of it has asked that too early.
+TEST_F(PortalLinkTest, oneThatDoesNotKnowWhatThereIsIsAsked) {
+    havePortal({"agrees", "unaware"});
+    EXPECT_TRUE(isThere());
+    const auto line = link();
+    ASSERT_TRUE(open(*line));
+    line->key(keyA, true);
+    ASSERT_TRUE(line->synchronise());
+    EXPECT_EQ(portal().count("key 30 1"), 1U);
+}
+
 TEST_F(PortalLinkTest, aPortalThatDiesEndsTheRun) {
     havePortal({"agrees"});
     const auto line = link();
@@ -220,15 +238,19 @@ TEST_F(PortalLinkTest, whatIsDownIsReleasedThoughThePortalWasSlow) {
 /// KWin keeps down what it has pressed.
 class KdePartTest : public PortalLinkTest {
   protected:
-    /// A line with a key down, whose session has ended by that command.
-    std::unique_ptr<PortalLink> lineAfter(const std::string& command,
-                                          const std::function<void()>& before = {}) {
+    std::unique_ptr<PortalLink> lineWithKeyDown() {
         havePortal({"agrees", "kde-part"});
         auto line = link();
         EXPECT_TRUE(open(*line));
         line->key(keyA, true);
         EXPECT_TRUE(line->synchronise());
-        if (before) before();
+        return line;
+    }
+    /// A line with a key down, whose session has ended by that command.
+    std::unique_ptr<PortalLink> lineAfter(const std::string& command,
+                                          const std::function<void(PortalLink&)>& before = {}) {
+        auto line = lineWithKeyDown();
+        if (before) before(*line);
         portal().obey(command);
         Result<void> looked;
         EXPECT_TRUE(eventually([&] { return !(looked = line->look()); }));
@@ -246,9 +268,31 @@ TEST_F(KdePartTest, whatItHasLeftDownWhenItDiesIsReleasedByAnotherSession) {
     EXPECT_EQ(portal().count("key"), 2U);
 }
 
+/// What the portal has taken it may not have passed on yet.
+TEST_F(KdePartTest, whatItMayNotHaveReleasedBeforeItDiedIsReleasedOnceMore) {
+    const auto line = lineAfter("part dies", [this](PortalLink& told) {
+        told.key(keyA, false);
+        ASSERT_TRUE(hears("key 30 0"));
+    });
+    EXPECT_TRUE(eventually([this] { return portal().heard().ends_with("key 30 0\nclosed\n"); }))
+        << portal().heard();
+    EXPECT_EQ(portal().count("key 30 0"), 2U);
+}
+
+TEST_F(KdePartTest, whatIsDownWhenThePortalDiesOfAKeyIsReleasedByTheNextOne) {
+    const auto line = lineWithKeyDown();
+    portal().obey("die of key");
+    ASSERT_TRUE(hears("mortal"));
+    line->key(keyA + 1, true);
+    ASSERT_TRUE(eventually([&] { return !line->look(); }));
+    havePortal({"agrees", "kde-part"});
+    EXPECT_TRUE(eventually([this] { return portal().heard().ends_with("key 30 0\nkey 31 0\nclosed\n"); }))
+        << portal().heard();
+}
+
 TEST_F(KdePartTest, nobodyIsAskedForThat) {
     // It waits for the end of the program.
-    lineAfter("part dies", [this] { std::filesystem::remove(tokenFile()); }).reset();
+    lineAfter("part dies", [this](PortalLink& /*line*/) { std::filesystem::remove(tokenFile()); }).reset();
     EXPECT_EQ(portal().count("devices"), 1U);
     EXPECT_EQ(portal().count("key 30 0"), 0U);
 }

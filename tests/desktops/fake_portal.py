@@ -5,10 +5,11 @@
 "shortcuts" the portal for hot keys too, which leaves "leave=NAME" out of its answer, agrees with a code of no meaning
 where it is "vague", and is deaf to whoever has not said who he is where it is "strict"; "only" leaves the portal for
 keys out; "layouts" is KDE's service for layouts beside it, "gnome" the name of GNOME's shell and of its part of the portal, which
-gives hot keys where it is "own-part"; "kde-part" is the name of KDE's part. Prints "ready", then what it is told; obeys the lines that are
+gives hot keys where it is "own-part"; "kde-part" is the name of KDE's part. It has a pointer alone where it is "pointer", and does not
+know what it has where it is "unaware". Prints "ready", then what it is told; obeys the lines that are
 written to the named pipe COMMANDS: "answer" and "refuse" (what it has been asked), "close" (takes the permission back),
 "close first" (tells so of its first session), "deaf COUNT" (takes so many keys from now on without an answer, and says
-"deaf"), "press NAME" and "release NAME", "change NAME WORDS", "end"."""
+"deaf"), "die of key" (ends when it is told of one, having said "mortal"), "press NAME" and "release NAME", "change NAME WORDS", "end"."""
 import os
 import sys
 import threading
@@ -64,7 +65,9 @@ objects = {}
 sessions = {}
 all_sessions = []
 parts = []
+kinds = 2 if "pointer" in how else 0 if "unaware" in how else 7
 deaf = 0
+mortal = False
 
 
 def respond(connection, path, code, results):
@@ -82,6 +85,8 @@ def on_call(connection, sender, path, interface, method, parameters, invocation)
         return
     if method == "NotifyKeyboardKeycode":
         print("key", parameters[2], parameters[3], flush=True)
+        if mortal:
+            os._exit(1)
         global deaf
         if deaf > 0:
             deaf -= 1
@@ -152,7 +157,8 @@ def bound(name, words):
 
 
 def on_get(connection, sender, path, interface, name):
-    return GLib.Variant("u", {"version": 1 if "old" in how else 2, "AvailableDeviceTypes": 7}[name])
+    facts = {"version": 1 if "old" in how else 2, "AvailableDeviceTypes": kinds}
+    return GLib.Variant("u", facts[name])
 
 
 def obey(connection, command):
@@ -176,6 +182,10 @@ def obey(connection, command):
         global deaf
         deaf = int(command.removeprefix("deaf "))
         print("deaf", flush=True)
+    elif command == "die of key":
+        global mortal
+        mortal = True
+        print("mortal", flush=True)
     elif command == "part dies":
         Gio.bus_unown_name(parts.pop())
         own_kde_part()

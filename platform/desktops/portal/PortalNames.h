@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+
 /// Where a desktop's portals are on the session bus, and who asks there.
 namespace portalnames {
 
@@ -16,5 +18,13 @@ inline constexpr const char* kde = "org.freedesktop.impl.portal.desktop.kde";
 /// no such face. The portal wants a desktop entry of that name.
 inline constexpr const char* registry = "org.freedesktop.host.portal.Registry";
 inline constexpr const char* program = "example.orlen.Keyrill";
+
+/// Whether a portal for remote desktops may have keyboards, by what it says of AvailableDeviceTypes. One that
+/// asked the desktop's part of it too early (xdg-desktop-portal asks once, as it starts) says 0 for good, and
+/// lets keys be pressed all the same.
+constexpr bool mayHaveKeyboards(std::uint32_t deviceTypes) {
+    constexpr std::uint32_t keyboards = 1;
+    return deviceTypes == 0 || (deviceTypes & keyboards) != 0;
+}
 
 }  // namespace portalnames

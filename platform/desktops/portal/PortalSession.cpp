@@ -69,7 +69,7 @@ void PortalSession::open() {
     }
     const GVariantPointer version = property("version");
     const GVariantPointer types = property("AvailableDeviceTypes");
-    if (!version || !types || (g_variant_get_uint32(types.get()) & keyboards) == 0) {
+    if (!version || !types || !portalnames::mayHaveKeyboards(g_variant_get_uint32(types.get()))) {
         return fail(PortalAnswer::missing);
     }
     m_version = g_variant_get_uint32(version.get());
@@ -79,9 +79,26 @@ void PortalSession::open() {
     request("CreateSession", State::creating, options, patienceWithDesktop);
 }
 
+std::string PortalSession::ownerOf(const char* name) const {
+    const GVariantPointer answer(g_dbus_connection_call_sync(
+        m_bus.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "GetNameOwner",
+        g_variant_new("(s)", name), G_VARIANT_TYPE("(s)"), G_DBUS_CALL_FLAGS_NONE, callPatience, nullptr,
+        nullptr));
+    if (!answer) return {};
+    const char* owner = nullptr;
+    g_variant_get(answer.get(), "(&s)", &owner);
+    return owner;
+}
+
+bool PortalSession::isOrphaned() const {
+    return ownerOf(service) != m_portal || (!m_kde.empty() && ownerOf(portalnames::kde) != m_kde);
+}
+
 void PortalSession::watch() {
     unwatch();
-    m_watch = g_bus_watch_name_on_connection(m_bus.get(), service, G_BUS_NAME_WATCHER_FLAGS_NONE, nullptr,
+    m_portal.clear();
+    m_kde.clear();
+    m_watch = g_bus_watch_name_on_connection(m_bus.get(), service, G_BUS_NAME_WATCHER_FLAGS_NONE, portalCame,
                                              portalGone, this, nullptr);
     m_kdeWatch = g_bus_watch_name_on_connection(m_bus.get(), portalnames::kde, G_BUS_NAME_WATCHER_FLAGS_NONE,
                                                 kdeCame, kdeGone, this, nullptr);
@@ -176,6 +193,7 @@ void PortalSession::key(std::uint16_t keycode, bool press) {
 /// time may be taken all the same.
 bool PortalSession::notify(std::uint16_t keycode, bool press) {
     m_down[keycode] = press;
+    m_underway.set(keycode);
     GVariantBuilder options = portalOptions();
     return call(object, face, "NotifyKeyboardKeycode",
                 g_variant_new("(oa{sv}iu)", m_session.c_str(), &options, static_cast<std::int32_t>(keycode),
@@ -190,30 +208,43 @@ void PortalSession::synchronise() {
         m_bus.get(), portalnames::kde, object, "org.freedesktop.DBus.Properties", "Get",
         g_variant_new("(ss)", "org.freedesktop.impl.portal.RemoteDesktop", "version"), nullptr,
         G_DBUS_CALL_FLAGS_NO_AUTO_START, callPatience, nullptr, nullptr));
+    if (answer) m_underway.reset();
     m_answer(PortalAnswer::synced);
+}
+
+/// The first one: another is not this session's.
+void PortalSession::portalCame(GDBusConnection* /*bus*/, const char* /*name*/, const char* owner,
+                               void* self) {
+    auto& session = *static_cast<PortalSession*>(self);
+    if (session.m_portal.empty()) session.m_portal = owner;
 }
 
 void PortalSession::portalGone(GDBusConnection* /*bus*/, const char* /*name*/, void* self) {
     static_cast<PortalSession*>(self)->die();
 }
 
-void PortalSession::kdeCame(GDBusConnection* /*bus*/, const char* /*name*/, const char* /*owner*/,
-                            void* self) {
-    static_cast<PortalSession*>(self)->m_isKde = true;
+void PortalSession::kdeCame(GDBusConnection* /*bus*/, const char* /*name*/, const char* owner, void* self) {
+    auto& session = *static_cast<PortalSession*>(self);
+    if (session.m_kde.empty()) session.m_kde = owner;
 }
 
 /// The portal itself would take keys, and pass them on to nobody. Told at first, too, where there is none.
 void PortalSession::kdeGone(GDBusConnection* /*bus*/, const char* /*name*/, void* self) {
     auto& session = *static_cast<PortalSession*>(self);
-    if (!session.m_isKde || session.m_hasDied) return;
-    if (!session.m_session.empty())
-        session.call(session.m_session.c_str(), portalnames::session, "Close", nullptr);
-    session.die();
+    if (!session.m_kde.empty()) session.die();
 }
 
 void PortalSession::die() {
-    if (std::exchange(m_hasDied, true)) return;
+    if (m_hasDied) return;
+    leaveTheDead();
     lose();
+}
+
+/// Where only KDE's part has died, the portal's has to be told.
+void PortalSession::leaveTheDead() {
+    m_hasDied = true;
+    if (m_session.empty() || ownerOf(service) != m_portal) return;
+    call(m_session.c_str(), portalnames::session, "Close", nullptr);
 }
 
 /// The session has ended.
@@ -240,7 +271,8 @@ void PortalSession::putBack() {
 }
 
 void PortalSession::putBackByAnother() {
-    if (!m_isKde || (m_down.none() && m_switched.none()) || !asksNobody()) return;
+    const auto left = m_down | m_underway;
+    if (m_kde.empty() || (left.none() && m_switched.none()) || !asksNobody()) return;
     std::optional<PortalAnswer> answered;
     PortalSession other({.tokenFile = m_options.tokenFile, .patience = patienceWithDesktop},
                         [&answered](PortalAnswer answer) { answered = answer; });
@@ -253,7 +285,7 @@ void PortalSession::putBackByAnother() {
         while (!answered) g_main_context_iteration(nullptr, TRUE);
     }
     if (answered != PortalAnswer::opened) return;
-    other.m_down = m_down;
+    other.m_down = left;
     other.m_switched = m_switched;
     other.putBack();
     other.m_down.reset();
@@ -274,6 +306,11 @@ void PortalSession::close() {
     m_request.stop();
     m_state = State::closed;
     unwatch();
+    // A call that a death has ended is heard of before the death.
+    if (!m_session.empty() && isOrphaned()) {
+        leaveTheDead();
+        m_session.clear();
+    }
     if (!m_session.empty()) putBack();
     if (m_hasDied) putBackByAnother();
     putLayoutBack();

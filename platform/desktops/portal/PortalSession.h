@@ -42,7 +42,8 @@ class PortalSession {
     /// Releases what is down, puts locks back that were switched since, and the layout, and gives the
     /// permission back. Also after a failure, as long as there is a session: a desktop that was slow may have
     /// taken all. Where KDE's portal has died it is done by another session, unless the user would be asked
-    /// for that: KWin 5.27 keeps down what that portal has pressed.
+    /// for that: KWin 5.27 keeps down what that portal has pressed. What was not known to have been passed on
+    /// by then is released once more.
     void close();
 
   private:
@@ -51,6 +52,7 @@ class PortalSession {
 
     enum class State { closed, creating, selecting, starting, open };
 
+    static void portalCame(GDBusConnection* bus, const char* name, const char* owner, void* self);
     static void portalGone(GDBusConnection* bus, const char* name, void* self);
     static void kdeCame(GDBusConnection* bus, const char* name, const char* owner, void* self);
     static void kdeGone(GDBusConnection* bus, const char* name, void* self);
@@ -62,6 +64,8 @@ class PortalSession {
     void start();
     void started(GVariant* results);
     bool notify(std::uint16_t keycode, bool press);
+    std::string ownerOf(const char* name) const;
+    bool isOrphaned() const;
     void watch();
     void unwatch();
     void putBack();
@@ -69,6 +73,7 @@ class PortalSession {
     void putBackByAnother();
     void putLayoutBack();
     void lose();
+    void leaveTheDead();
     void die();
     void fail(PortalAnswer why);
     GVariantPointer call(const char* path, const char* face, const char* member, GVariant* parameters) const;
@@ -85,11 +90,14 @@ class PortalSession {
     SessionEnd m_end;
     guint m_watch = 0;
     guint m_kdeWatch = 0;
-    /// Whether KDE's part of the portal is there.
-    bool m_isKde = false;
+    /// Whose portal it is, and whose KDE's part of it, as the bus calls them; the latter is empty elsewhere.
+    std::string m_portal;
+    std::string m_kde;
     /// The portal has ended, or KDE's part of it.
     bool m_hasDied = false;
     std::bitset<65536> m_down;
+    /// What the portal has taken, and may not have passed on.
+    std::bitset<65536> m_underway;
     /// Keys of locks that have been pressed an odd number of times.
     std::bitset<65536> m_switched;
     std::optional<std::uint32_t> m_homeLayout;
