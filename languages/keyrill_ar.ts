@@ -2976,6 +2976,10 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
         <source>Can’t set %1 to %2.</source>
         <translation>لا يمكن تعيين ⁨%1⁩ إلى ⁨%2⁩.</translation>
     </message>
+    <message>
+        <source>Can’t raise %1 to the power of %2: the result is no number.</source>
+        <translation>لا يمكن رفع ⁨%1⁩ إلى الأس ⁨%2⁩: فالنتيجة ليست عددًا.</translation>
+    </message>
 </context>
 <context>
     <name>ScriptNotices</name>

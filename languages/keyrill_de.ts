@@ -2969,6 +2969,10 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
         <source>Can’t set %1 to %2.</source>
         <translation>%1 kann nicht auf %2 gesetzt werden.</translation>
     </message>
+    <message>
+        <source>Can’t raise %1 to the power of %2: the result is no number.</source>
+        <translation>%1 kann nicht mit %2 potenziert werden: Das Ergebnis ist keine Zahl.</translation>
+    </message>
 </context>
 <context>
     <name>ScriptNotices</name>

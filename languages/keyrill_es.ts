@@ -2969,6 +2969,10 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
         <source>Can’t set %1 to %2.</source>
         <translation>No se puede asignar a %1 el valor %2.</translation>
     </message>
+    <message>
+        <source>Can’t raise %1 to the power of %2: the result is no number.</source>
+        <translation>No se puede elevar %1 a la potencia %2: el resultado no es un número.</translation>
+    </message>
 </context>
 <context>
     <name>ScriptNotices</name>

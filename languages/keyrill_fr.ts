@@ -2969,6 +2969,10 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
         <source>Can’t set %1 to %2.</source>
         <translation>Impossible de donner à %1 la valeur %2.</translation>
     </message>
+    <message>
+        <source>Can’t raise %1 to the power of %2: the result is no number.</source>
+        <translation>Impossible d’élever %1 à la puissance %2&#xa0;: le résultat n’est pas un nombre.</translation>
+    </message>
 </context>
 <context>
     <name>ScriptNotices</name>

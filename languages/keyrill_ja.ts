@@ -2967,6 +2967,10 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <source>Can’t set %1 to %2.</source>
         <translation>%1 を %2 に設定できません。</translation>
     </message>
+    <message>
+        <source>Can’t raise %1 to the power of %2: the result is no number.</source>
+        <translation>%1 を %2 乗することはできません: 結果が数になりません。</translation>
+    </message>
 </context>
 <context>
     <name>ScriptNotices</name>

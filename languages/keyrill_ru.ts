@@ -2971,6 +2971,10 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <source>Can’t set %1 to %2.</source>
         <translation>Не удаётся присвоить %1 значение %2.</translation>
     </message>
+    <message>
+        <source>Can’t raise %1 to the power of %2: the result is no number.</source>
+        <translation>Нельзя возвести %1 в степень %2: результат не является числом.</translation>
+    </message>
 </context>
 <context>
     <name>ScriptNotices</name>

@@ -1254,12 +1254,12 @@ const manualIndex = [
 "parameters than it has -1708 there is no handler of that name; inside tell one's own are ",
 "called with my -1712 something took too long -1728 there is no such item, property or ",
 "application -2700 error without a number of its own -2701, -2702 a division by zero; a ",
-"number that is too large -2706 handlers call one another too deeply -2720, -2754 one thing ",
-"declared in two ways -2741 the script does not compile -2750 to -2752 a parameter, ",
-"property or handler given twice -2753 a variable that was never set -2755, -2760 exit ",
-"repeat outside of a loop; too many levels of tell -2763 a value was needed, and none came ",
-"-10000, 1002 the desktop refused a step; it allows no keys to be pressed -10006 this ",
-"cannot be set"
+"number that is too large, or a power that is no number, as (-1) ^ 0.5 -2706 handlers call ",
+"one another too deeply -2720, -2754 one thing declared in two ways -2741 the script does ",
+"not compile -2750 to -2752 a parameter, property or handler given twice -2753 a variable ",
+"that was never set -2755, -2760 exit repeat outside of a loop; too many levels of tell ",
+"-2763 a value was needed, and none came -10000, 1002 the desktop refused a step; it allows ",
+"no keys to be pressed -10006 this cannot be set"
 ]
 },
 {

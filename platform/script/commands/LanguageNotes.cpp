@@ -84,7 +84,7 @@ letter from A to Z.
 | -1712 | something took too long |
 | -1728 | there is no such item, property or application |
 | -2700 | `error` without a number of its own |
-| -2701, -2702 | a division by zero; a number that is too large |
+| -2701, -2702 | a division by zero; a number that is too large, or a power that is no number, as `(-1) ^ 0.5` |
 | -2706 | handlers call one another too deeply |
 | -2720, -2754 | one thing declared in two ways |
 | -2741 | the script does not compile |

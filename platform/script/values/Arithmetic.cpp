@@ -64,6 +64,13 @@ Fallible<Value> calculate(BinaryOperator operation, Number left, Number right) {
     }
 }
 
+/// Whether there is such a number, however large: zero has no negative powers, and negative numbers have
+/// whole ones only.
+bool hasPower(double base, double exponent) {
+    if (base == 0) return exponent >= 0;
+    return base > 0 || exponent == std::trunc(exponent);
+}
+
 Fallible<Value> joinedText(const Text& text, const Value& right, std::string_view delimiter) {
     std::string_view addition;
     Fallible<std::string> made("");
@@ -123,6 +130,12 @@ Fallible<Value> calculated(BinaryOperator operation, const Value& left, const Va
     if (divides(operation) && rightNumber->value == 0) {
         return Failure{errornumber::divisionByZero,
                        sentence("ScriptErrors", "Can’t divide %1 by zero.").arg(quotedForm(left))};
+    }
+    if (operation == BinaryOperator::power && !hasPower(leftNumber->value, rightNumber->value)) {
+        return Failure{errornumber::tooLarge,
+                       sentence("ScriptErrors", "Can’t raise %1 to the power of %2: the result is no number.")
+                           .arg(quotedForm(left))
+                           .arg(quotedForm(right))};
     }
     return calculate(operation, *leftNumber, *rightNumber);
 }

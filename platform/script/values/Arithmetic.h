@@ -12,7 +12,8 @@ namespace script {
 ///
 /// Whole numbers stay whole, past maxInteger they become reals; `/` and `^` give reals; `div` cuts toward
 /// zero; `mod` has the sign of the left side. Seconds can be added to and taken from a date, and a date from
-/// a date. Fails with -1700 (no number), -2701 (division by zero), -2702 (too large).
+/// a date. Fails with -1700 (no number), -2701 (division by zero), -2702 (too large, or a power that is no
+/// number).
 Fallible<Value> calculated(BinaryOperator operation, const Value& left, const Value& right);
 
 /// `left & right`: a text where the left side is one, a record where both are, else a list. Lists become text

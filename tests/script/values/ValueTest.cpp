@@ -95,8 +95,15 @@ TEST(ArithmeticTest, divisionByZeroAndOverflowAreErrors) {
     }
     const std::string tooLarge = "-2702 The result of a numeric operation was too large.";
     EXPECT_EQ(result(real(1e308), BinaryOperator::times, integer(10)), tooLarge);
-    EXPECT_EQ(result(integer(0), BinaryOperator::power, integer(-1)), tooLarge);
-    EXPECT_EQ(result(integer(-8), BinaryOperator::power, real(0.5)), tooLarge);
+    EXPECT_EQ(result(integer(10), BinaryOperator::power, integer(400)), tooLarge);
+}
+
+TEST(ArithmeticTest, aPowerThatIsNoNumberIsAnErrorThatNamesBoth) {
+    EXPECT_EQ(result(integer(0), BinaryOperator::power, integer(-1)),
+              "-2702 Can’t raise 0 to the power of -1: the result is no number.");
+    EXPECT_EQ(result(integer(-8), BinaryOperator::power, real(0.5)),
+              "-2702 Can’t raise -8 to the power of 0.5: the result is no number.");
+    EXPECT_EQ(result(integer(-2), BinaryOperator::power, integer(-2)), "0.25");
 }
 
 TEST(ArithmeticTest, joiningGivesTextBesideTextAndElseAList) {
