@@ -1301,6 +1301,11 @@ NAME نوع الجلسة الرسومية؛ من دونه يكتشفها الب�
         <source>Take the items in parts, or paragraphs instead of characters.</source>
         <translation>خذ العناصر على أجزاء، أو خذ الفقرات بدل المحارف.</translation>
     </message>
+    <message>
+        <source>The block that begins in line %1 ends with “%2”.</source>
+        <extracomment>%1 is a number, %2 the last line of a block, &quot;end if&quot;.</extracomment>
+        <translation>تنتهي الكتلة التي تبدأ في السطر ⁨%1⁩ بالسطر «⁨%2⁩».</translation>
+    </message>
 </context>
 <context>
     <name>HotKeys</name>

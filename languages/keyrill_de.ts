@@ -1302,6 +1302,11 @@ NAME ist die Art der grafischen Sitzung; ohne ihn findet das Programm sie selbst
         <source>Take the items in parts, or paragraphs instead of characters.</source>
         <translation>Holen Sie die Elemente in mehreren Teilen, oder verwenden Sie Absätze statt Zeichen.</translation>
     </message>
+    <message>
+        <source>The block that begins in line %1 ends with “%2”.</source>
+        <extracomment>%1 is a number, %2 the last line of a block, &quot;end if&quot;.</extracomment>
+        <translation>Der Block, der in Zeile %1 beginnt, endet mit „%2“.</translation>
+    </message>
 </context>
 <context>
     <name>HotKeys</name>

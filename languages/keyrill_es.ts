@@ -1302,6 +1302,11 @@ NOMBRE es el tipo de sesión gráfica; sin él, el programa lo averigua por sí 
         <source>Take the items in parts, or paragraphs instead of characters.</source>
         <translation>Tome los elementos por partes o use párrafos en lugar de caracteres.</translation>
     </message>
+    <message>
+        <source>The block that begins in line %1 ends with “%2”.</source>
+        <extracomment>%1 is a number, %2 the last line of a block, &quot;end if&quot;.</extracomment>
+        <translation>El bloque que empieza en la línea %1 termina con «%2».</translation>
+    </message>
 </context>
 <context>
     <name>HotKeys</name>

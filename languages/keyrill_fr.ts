@@ -1302,6 +1302,11 @@ NOM est le type de session graphique&#xa0;; sans lui, le programme le trouve lui
         <source>Take the items in parts, or paragraphs instead of characters.</source>
         <translation>Prenez les éléments par parties, ou utilisez des paragraphes au lieu de caractères.</translation>
     </message>
+    <message>
+        <source>The block that begins in line %1 ends with “%2”.</source>
+        <extracomment>%1 is a number, %2 the last line of a block, &quot;end if&quot;.</extracomment>
+        <translation>Le bloc qui commence à la ligne %1 se termine par «&#xa0;%2&#xa0;».</translation>
+    </message>
 </context>
 <context>
     <name>HotKeys</name>

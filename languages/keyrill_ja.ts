@@ -1302,6 +1302,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <source>Take the items in parts, or paragraphs instead of characters.</source>
         <translation>項目を何回かに分けて取り出すか、文字ではなく段落を取り出してください。</translation>
     </message>
+    <message>
+        <source>The block that begins in line %1 ends with “%2”.</source>
+        <extracomment>%1 is a number, %2 the last line of a block, &quot;end if&quot;.</extracomment>
+        <translation>%1 行目から始まるブロックは「%2」で終わります。</translation>
+    </message>
 </context>
 <context>
     <name>HotKeys</name>

@@ -1302,6 +1302,11 @@ NAME is the kind of desktop session; without it the program finds out itself. Th
         <source>Take the items in parts, or paragraphs instead of characters.</source>
         <translation>Берите элементы по частям или используйте абзацы вместо символов.</translation>
     </message>
+    <message>
+        <source>The block that begins in line %1 ends with “%2”.</source>
+        <extracomment>%1 is a number, %2 the last line of a block, &quot;end if&quot;.</extracomment>
+        <translation>Блок, который начинается в строке %1, завершается строкой «%2».</translation>
+    </message>
 </context>
 <context>
     <name>HotKeys</name>

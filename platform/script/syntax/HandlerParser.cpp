@@ -106,7 +106,7 @@ void HandlerParser::handlerEnd(std::string_view name) {
     if (!m_grammar.statements.acceptEnd()) return;
     if (m_tokens.isAtLineEnd()) return;
     if (!equalIgnoringCase(m_tokens.current().text, name)) {
-        m_tokens.expected(quoted(name));
+        m_tokens.expected(script::quoted("end " + std::string(name)));
     }
     m_tokens.advance();
 }

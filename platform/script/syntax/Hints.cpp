@@ -20,33 +20,31 @@
 namespace script {
 namespace {
 
-/// The lines in which the blocks begin that are open where the error is, the innermost last.
-std::vector<std::uint32_t> openBlockLines(const ScriptError& error, const Tree& tree,
-                                          std::string_view source) {
+/// The lines in which the blocks begin that are open at a byte of the source, the innermost last.
+std::vector<std::uint32_t> openBlockLines(std::size_t offset, const Tree& tree, std::string_view source) {
     std::vector<std::uint32_t> openLines;
+    std::uint32_t endLine = 0;
+    std::uint32_t ended = 0;
     Locator locator(source);
     for (const BlockMark& mark : tree.blocks) {
-        const Location place = locator.at(mark.offset);
-        const bool isBehind = place.line > error.location.line ||
-                              (place.line == error.location.line && place.column >= error.location.column);
-        if (isBehind) break;
+        if (mark.offset >= offset) break;
+        const std::uint32_t line = locator.at(mark.offset).line;
         if (mark.change > 0) {
-            openLines.push_back(place.line);
+            // What begins where another part ends, as behind `else`, belongs to that.
+            openLines.push_back(line == endLine ? ended : line);
         } else if (!openLines.empty()) {
+            endLine = line;
+            ended = openLines.back();
             openLines.pop_back();
         }
     }
     return openLines;
 }
 
-bool isOneOf(const std::string& word, std::string_view one, std::string_view other) {
-    return word == one || word == other;
-}
-
 /// Whether a block that begins with that line may end with `end WORD`, or go on with `else`.
 bool beginsBlock(const std::string& first, const std::string& word) {
-    if (word == "if" || word == "else") return isOneOf(first, "if", "else");
-    if (word == "try" || word == "error") return isOneOf(first, "try", "on");
+    if (word == "else") return first == "if";
+    if (word == "error") return first == "try";
     if (word == "timeout") return first == "with";
     return first == word;
 }
@@ -85,14 +83,20 @@ std::string noSuchBlockHint(bool isElse, const std::string& word, std::uint32_t 
         .arg(std::to_string(begin));
 }
 
+/// The word of a block, by one that may be misspelt; empty if it is near to none.
+std::string blockMeant(const std::string& word) {
+    if (TokenStream::namesBlock(wordOf(word))) return word;
+    return isUnknown(word) ? wordLike(word, WordPlace::block) : "";
+}
+
 /// `end tell` or `else`, where no such block is open; empty for what ends one.
 std::string strayEndHint(const ScriptError& error, const std::vector<std::uint32_t>& openLines,
                          std::string_view source) {
     const ErrorLine line(source, error.location);
     const bool isElse = line.first() == "else" && line.here() == "else";
     if (!isElse && (line.first() != "end" || line.here() != "end")) return "";
-    const std::string word = isElse ? line.first() : line.second();
-    if (!TokenStream::namesBlock(wordOf(word)) && !isElse) return "";
+    const std::string word = isElse ? line.first() : blockMeant(line.second());
+    if (word.empty() && !openLines.empty()) return "";
     const bool isOpen = std::any_of(openLines.begin(), openLines.end(), [&](std::uint32_t number) {
         return beginsBlock(ErrorLine(source, {number, 1}).first(), word);
     });
@@ -115,12 +119,39 @@ std::string_view endMeantBy(std::string_view line) {
     return found == ends.end() ? "" : *found;
 }
 
+/// Where the last block ends or begins before that byte.
+std::size_t lastMarkBefore(std::size_t offset, const Tree& tree) {
+    std::size_t last = 0;
+    for (const BlockMark& mark : tree.blocks) {
+        if (mark.offset >= offset) break;
+        last = mark.offset;
+    }
+    return last;
+}
+
+/// What the block ends with, of an error that another word stands behind its `end`: “end tell”; empty for
+/// others.
+std::string endExpected(const std::string& message) {
+    constexpr std::string_view before = "Expected “end ";
+    if (!message.starts_with(before)) return "";
+    const std::size_t begin = before.size() - std::string_view("end ").size();
+    return message.substr(begin, message.find("” but found ") - begin);
+}
+
+/// Whether the line ends the handler that begins in the other one.
+bool endsHandler(const ErrorLine& line, const ErrorLine& other) {
+    return (other.first() == "on" || other.first() == "to") && line.second() == other.second();
+}
+
 std::string blockHint(const ScriptError& error, const Tree& tree, std::string_view source) {
     constexpr std::uint32_t longestBlock = 1000;
-    const std::vector<std::uint32_t> openLines = openBlockLines(error, tree, source);
+    const std::string expected = endExpected(error.message.english());
+    std::size_t place = offsetOf(source, error.location);
+    if (!expected.empty()) place = lastMarkBefore(place, tree);
+    const std::vector<std::uint32_t> openLines = openBlockLines(place, tree, source);
     if (openLines.empty()) return "";
-    const std::string misspelt = endMeant(ErrorLine(source, error.location));
-    if (!misspelt.empty()) return didYouMean(misspelt);
+    const ErrorLine line(source, error.location);
+    if (isOnErrorMeant(line)) return didYouMean("on error");
     const std::uint32_t begin = openLines.back();
     const std::uint32_t end = std::min(error.location.line, begin + longestBlock);
     std::string_view rest = source.substr(offsetOf(source, {begin, 1}));
@@ -136,6 +167,12 @@ std::string blockHint(const ScriptError& error, const Tree& tree, std::string_vi
     }
     std::string stray = strayEndHint(error, openLines, source);
     if (!stray.empty()) return stray;
+    if (!expected.empty() && !endsHandler(line, ErrorLine(source, {openLines.front(), 1}))) {
+        //: %1 is a number, %2 the last line of a block, "end if".
+        return sentence("Hints", "The block that begins in line %1 ends with “%2”.")
+            .arg(std::to_string(begin))
+            .arg(expected);
+    }
     return sentence("Hints", "The block that begins in line %1 has no “end” of its own.")
         .arg(std::to_string(begin));
 }
@@ -195,10 +232,11 @@ ScriptError explained(ScriptError error, const Tree& tree, std::string_view sour
         const std::uint32_t line = locate(source, openComment(source)).line;
         error.hint = sentence("Hints", "The comment that begins in line %1 is not closed by “*)”.")
                          .arg(std::to_string(line));
-    } else if (message.starts_with("Expected “end” but")) {
+    } else if (message.starts_with("Expected “end” but") || !endExpected(message).empty()) {
         error.hint = blockHint(error, tree, source);
     } else if (message.starts_with("Expected expression but found “e")) {
-        error.hint = strayEndHint(error, openBlockLines(error, tree, source), source);
+        error.hint =
+            strayEndHint(error, openBlockLines(offsetOf(source, error.location), tree, source), source);
     }
     if (error.hint.empty()) error.hint = hintOfLine(error, tree, source, isInsideTell);
     return error;

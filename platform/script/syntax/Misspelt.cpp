@@ -91,15 +91,11 @@ bool isUnknown(std::string_view word) {
     return token.is(Word::none) && findElementName(token) == nullptr && !findPredefinedName(token);
 }
 
-std::string endMeant(const ErrorLine& line) {
-    if (!isUnknown(line.second())) return "";
-    if (line.first() == "end") {
-        const std::string block = wordLike(line.second(), WordPlace::block);
-        return block.empty() ? "" : "end " + block;
-    }
+bool isOnErrorMeant(const ErrorLine& line) {
+    if (line.first() != "on" || !isUnknown(line.second())) return false;
     Misspelling misspelling(line.second(), 4);
-    if (line.first() == "on") misspelling.compare("error");
-    return misspelling.meant().empty() ? "" : "on error";
+    misspelling.compare("error");
+    return !misspelling.meant().empty();
 }
 
 std::string wordLike(std::string_view misspelt, WordPlace place) {

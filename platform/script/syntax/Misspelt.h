@@ -29,8 +29,8 @@ bool isUnknown(std::string_view word);
 /// near.
 std::string wordLike(std::string_view misspelt, WordPlace place);
 
-/// The end of a block, or `on error`, that the line was meant to be; empty if it is near to none: `end tel`.
-std::string endMeant(const ErrorLine& line);
+/// Whether the line was meant to begin with `on error`.
+bool isOnErrorMeant(const ErrorLine& line);
 
 /// What the misspelt word was meant to be that has led to an error of syntax; empty if none has.
 /// `isOther` tells whether a word is none of those: a name of the script, or one that another hint knows.

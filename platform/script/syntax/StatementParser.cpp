@@ -51,13 +51,15 @@ void StatementParser::endStatement() {
 
 bool StatementParser::acceptEnd(Word word) {
     const bool isNamed = m_tokens.ahead().is(TokenKind::identifier);
-    if (!m_tokens.isAt(Word::end) || (word != Word::none && isNamed && !m_tokens.ahead().is(word)) ||
-        (word == Word::none && isNamed && TokenStream::namesBlock(m_tokens.ahead().word))) {
+    const bool isOfOther =
+        isNamed && !m_tokens.ahead().is(word) && TokenStream::namesBlock(m_tokens.ahead().word);
+    if (!m_tokens.isAt(Word::end) || isOfOther) {
         m_tokens.expected(quoted("end"));
         return false;
     }
     m_tokens.advance();
-    if (word != Word::none) m_tokens.accept(word);
+    if (word != Word::none && !m_tokens.accept(word) && isNamed)
+        m_tokens.expected(script::quoted("end " + std::string(spellingOf(word))));
     return !m_tokens.failed();
 }
 
