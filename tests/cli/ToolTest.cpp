@@ -142,6 +142,27 @@ TEST_F(ToolTest, aFileThatCannotBeReadIsAnError) {
     EXPECT_EQ(run("trace .").errors, "keyrill-script: .: It is a folder; standard input is \"-\"\n");
 }
 
+TEST_F(ToolTest, aLongWordIsShortenedForPeopleAndEditors) {
+    const std::string word(3000000, 'w');
+    write("log " + word);
+    const std::string begin(100, 'w');
+    const Outcome run = this->run("run script");
+    EXPECT_EQ(
+        run.errors.rfind(
+            "script:1:5: execution error: The variable " + begin + "… is not defined. (-2753)\nHint: ", 0),
+        0U)
+        << run.errors.substr(0, 1000);
+    EXPECT_LT(run.errors.size(), 1000U);
+    const Outcome checked = this->run("check --json script");
+    EXPECT_EQ(checked.output.rfind("[{\"kind\":\"warning\",\"line\":1,\"column\":5,\"length\":3000000,"
+                                   "\"message\":\"The variable " +
+                                       begin + "… is never set. ",
+                                   0),
+              0U)
+        << checked.output.substr(0, 1000);
+    EXPECT_LT(checked.output.size(), 1000U);
+}
+
 TEST_F(ToolTest, whatIsNoRegularFileIsRefusedAtOnce) {
     ASSERT_EQ(mkfifo(m_folder.file("pipe").c_str(), 0600), 0);
     for (const std::string file : {"pipe", "/dev/zero", "/proc/self/status"}) {

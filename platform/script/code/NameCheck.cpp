@@ -7,6 +7,7 @@
 #include "platform/Sentence.h"
 #include "platform/script/commands/Advice.h"
 #include "platform/script/source/Misspelling.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/Misspelt.h"
 
 namespace script {
@@ -67,8 +68,10 @@ void NameCheck::suspect(NameId name, const VariableUse& use, const std::vector<N
 /// Which slip has led to the name; empty if none is known, so that it may be a text without quotes.
 std::string NameCheck::slipOf(NameId name, NameRole role, const std::vector<NameId>& known) const {
     const std::string& called = spelling(name);
-    if (m_handlers.contains(name))
-        return sentence("Hints", "A handler is called with parentheses: %1().").arg(sourceForm(called));
+    if (m_handlers.contains(name)) {
+        return sentence("Hints", "A handler is called with parentheses: %1().")
+            .arg(shortened(sourceForm(called)));
+    }
     if (isSetByRun(name)) return sharingAdvice(called);
     std::vector<NameId> all = known;
     const std::vector<NameId>& shared = m_out.script().names();

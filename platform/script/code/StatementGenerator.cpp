@@ -6,6 +6,7 @@
 #include "platform/Sentence.h"
 #include "platform/script/commands/Command.h"
 #include "platform/script/source/Scoped.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/Operators.h"
 
 namespace script {
@@ -363,7 +364,7 @@ void StatementGenerator::declare(const Node& node) {
         if (declared) continue;
         m_out.fail(errornumber::localAndGlobal,
                    sentence("ScriptErrors", "Can’t declare %1 as both a local and global variable.")
-                       .arg(m_tree.names.at(name.value).spelling),
+                       .arg(shortened(m_tree.names.at(name.value).spelling)),
                    name.offset);
     }
 }

@@ -9,6 +9,7 @@
 #include "platform/Sentence.h"
 #include "platform/script/commands/KeyTable.h"
 #include "platform/script/source/Literal.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/values/ModifierWords.h"
 #include "platform/script/values/SourceForm.h"
 
@@ -35,7 +36,10 @@ constexpr auto keyWords = std::to_array<KeyWord>(
      {"f10", 109},        {"f11", 103},       {"f12", 111}});
 
 /// As it stands between the quotes of a text.
-std::string inQuotes(std::string_view text) { return escaped(text, '"'); }
+std::string inQuotes(std::string_view text) { return escaped(shortened(text), '"'); }
+
+/// A name as a script spells it.
+std::string spelled(std::string_view name) { return shortened(sourceForm(name)); }
 
 std::optional<int> codeOfWord(std::string_view name) {
     std::string plain;
@@ -224,7 +228,7 @@ Sentence recordAdvice() {
 }
 
 Sentence heldAdvice(Held held, std::string_view spelling) {
-    const std::string name = sourceForm(spelling);
+    const std::string name = spelled(spelling);
     switch (held) {
         case Held::dialog:
             return sentence("Warnings",
@@ -281,7 +285,7 @@ Sentence millisecondsAdvice(std::uint32_t count) {
 
 Sentence comparisonAdvice(std::string_view name) {
     return sentence("Hints", "This compares and changes nothing; a variable is set with “to”: set %1 to …")
-        .arg(name.empty() ? "x" : sourceForm(name));
+        .arg(name.empty() ? "x" : spelled(name));
 }
 
 Sentence typedNameAdvice(std::string_view text) {
@@ -306,8 +310,7 @@ Sentence heldModifierAdvice() {
 Sentence noHandlerAdvice(std::string_view name) {
     Sentence foreign = foreignWordAdvice(name);
     if (!foreign.empty()) return foreign;
-    return sentence("Hints", "The script has no handler of that name: on %1(…) … end %1.")
-        .arg(sourceForm(name));
+    return sentence("Hints", "The script has no handler of that name: on %1(…) … end %1.").arg(spelled(name));
 }
 
 Sentence programAdvice(std::string_view command) {
@@ -336,7 +339,7 @@ Sentence modifierNameAdvice(std::string_view modifier) {
 
 Sentence neverSetAdvice(std::string_view name, std::string_view meant) {
     //: %2 is a sentence that says what may have been meant.
-    return sentence("Warnings", "The variable %1 is never set. %2").arg(name).arg(meant);
+    return sentence("Warnings", "The variable %1 is never set. %2").arg(shortened(name)).arg(meant);
 }
 
 Sentence meantBy(std::string_view name, NameRole role) {
@@ -356,14 +359,14 @@ Sentence quotesAdvice(std::string_view words) {
 
 Sentence sharingAdvice(std::string_view name) {
     return sentence("Hints", "A handler has variables of its own; to share this one write there: global %1.")
-        .arg(sourceForm(name));
+        .arg(spelled(name));
 }
 
 Sentence undefinedHint(std::string_view name) {
     return sentence("Hints",
                     "A variable is set before it is used: set %1 to … Text stands between straight quotes: "
                     "\"%2\".")
-        .arg(sourceForm(name))
+        .arg(spelled(name))
         .arg(inQuotes(name));
 }
 

@@ -25,7 +25,7 @@ std::string spelledParameters(const Execution& run, const Handler& handler) {
     for (const NameId name : handler.parameterNames) {
         out += (out.size() > 1 ? ", " : "") + sourceForm(run.name(name));
     }
-    return out + "}";
+    return shortened(out + "}", 200);
 }
 
 /// Puts the arguments into the order of the parameters; false after a failure.
@@ -38,7 +38,7 @@ bool orderByLabels(Execution& run, const Call& call, const Handler& handler) {
         if (found == call.labels.end()) {
             run.fail(
                 {errornumber::missingParameter, sentence("ScriptErrors", "Some parameter is missing for %1.")
-                                                    .arg(run.name(call.name).spelling)});
+                                                    .arg(shortened(run.name(call.name).spelling))});
             return false;
         }
         ordered.push_back(given[static_cast<std::size_t>(found - call.labels.begin())]);
@@ -57,7 +57,7 @@ void callHandler(Execution& run, const Call& call, std::uint32_t index) {
                          sentence("ScriptErrors", "%1 doesn’t match the parameters %2 for %3.")
                              .arg(spelledArguments(run, call.count))
                              .arg(spelledParameters(run, handler))
-                             .arg(run.name(call.name).spelling)});
+                             .arg(shortened(run.name(call.name).spelling))});
     }
     run.enterHandler(index, handler.labels.size());
 }
@@ -68,14 +68,15 @@ Failure notUnderstood(const Value& target, const std::string& name, bool isOwn) 
     const bool isScript = body != nullptr && body->kind == TargetBody::Kind::script;
     const bool isOther = body != nullptr && body->kind == TargetBody::Kind::application;
     const std::string speaker = isOther ? std::string(body->name.str()) : "System Events";
-    Sentence message =
-        sentence("ScriptErrors", "%1 doesn’t understand the “%2” message.").arg(quotedForm(target)).arg(name);
+    Sentence message = sentence("ScriptErrors", "%1 doesn’t understand the “%2” message.")
+                           .arg(quotedForm(target))
+                           .arg(shortened(name));
     if (body != nullptr && !isScript) message = gotAnError(speaker, std::move(message));
     Failure failure{errornumber::notUnderstood, std::move(message)};
     if (isOwn) {
         failure.hint =
             sentence("Hints", "Inside “tell” the script’s own handlers are called with “my”: my %1(…).")
-                .arg(sourceForm(name));
+                .arg(shortened(sourceForm(name)));
     }
     if (isScript) failure.hint = noHandlerAdvice(name);
     return failure;

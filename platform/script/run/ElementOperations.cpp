@@ -5,6 +5,7 @@
 #include "platform/script/commands/Advice.h"
 #include "platform/script/run/Execution.h"
 #include "platform/script/run/OperationTable.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/Node.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/Elements.h"
@@ -154,7 +155,8 @@ void getProperty(Execution& run, const Instruction& here) {
     }
     const Value* variable = run.findGlobal(name);
     if (variable != nullptr && variable->cell() != nullptr) variable = &variable->cell()->content;
-    if (variable == nullptr || variable->is<Nothing>()) return run.fail(cannotGet(sourceForm(name)));
+    if (variable == nullptr || variable->is<Nothing>())
+        return run.fail(cannotGet(shortened(sourceForm(name))));
     run.push(Value(*variable));
 }
 
@@ -178,7 +180,7 @@ void setPropertyOperation(Execution& run, const Instruction& here) {
     const Value value = run.pop();
     if (isScript(container)) {
         Value* variable = run.findGlobal(name);
-        if (variable == nullptr) return run.fail(cannotSet(sourceForm(name), value));
+        if (variable == nullptr) return run.fail(cannotSet(shortened(sourceForm(name)), value));
         (variable->cell() == nullptr ? *variable : variable->cell()->content) = value;
         return;
     }

@@ -8,6 +8,7 @@
 #include "platform/script/run/Execution.h"
 #include "platform/script/run/OperationTable.h"
 #include "platform/script/source/SystemEvents.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/values/Arithmetic.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/Comparison.h"
@@ -36,7 +37,8 @@ void pushDelimiters(Execution& run, const Instruction& /*unused*/) { run.push(ru
 
 void failUndefined(Execution& run, const std::string& name, Sentence hint) {
     run.fail({errornumber::undefinedVariable,
-              sentence("ScriptErrors", "The variable %1 is not defined.").arg(name), std::move(hint)});
+              sentence("ScriptErrors", "The variable %1 is not defined.").arg(shortened(name)),
+              std::move(hint)});
 }
 
 void failUndefined(Execution& run, NameId id) {

@@ -3,11 +3,20 @@
 
 #include <utility>
 
+#include "platform/Utf8.h"
+
 namespace script {
+
+std::string shortened(std::string_view text, std::size_t most) {
+    if (text.size() <= most) return std::string(text);
+    std::size_t end = most;
+    while (isUtf8Continuation(text[end])) --end;
+    return std::string(text.substr(0, end)) + "…";
+}
 
 Sentence quoted(std::string_view text) {
     //: %1 is a word of the script language.
-    return sentence("ScriptErrors", "“%1”").arg(text);
+    return sentence("ScriptErrors", "“%1”").arg(shortened(text));
 }
 
 Sentence alternatives(const std::vector<std::string_view>& words) {
@@ -27,19 +36,19 @@ Sentence expectedButFound(Sentence what, Sentence other) {
 }
 
 Sentence parameterTwice(std::string_view name) {
-    return sentence("ScriptErrors", "The %1 parameter is specified more than once.").arg(name);
+    return sentence("ScriptErrors", "The %1 parameter is specified more than once.").arg(shortened(name));
 }
 
 Sentence propertyTwice(std::string_view name) {
-    return sentence("ScriptErrors", "The %1 property is specified more than once.").arg(name);
+    return sentence("ScriptErrors", "The %1 property is specified more than once.").arg(shortened(name));
 }
 
 Sentence handlerTwice(std::string_view name) {
-    return sentence("ScriptErrors", "The %1 handler is specified more than once.").arg(name);
+    return sentence("ScriptErrors", "The %1 handler is specified more than once.").arg(shortened(name));
 }
 
 Sentence gotAnError(std::string_view who, Sentence what) {
-    return sentence("ScriptErrors", "%1 got an error: %2").arg(who).arg(std::move(what));
+    return sentence("ScriptErrors", "%1 got an error: %2").arg(shortened(who)).arg(std::move(what));
 }
 
 }  // namespace script

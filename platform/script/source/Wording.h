@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -10,7 +12,10 @@ namespace script {
 
 // How messages say what all of them say.
 
-/// “text”
+/// What a script says, as messages quote it: whole, or cut off behind so many bytes with "…". People read it.
+std::string shortened(std::string_view text, std::size_t most = 100);
+
+/// “text”, shortened.
 Sentence quoted(std::string_view text);
 
 /// “a”, “b” or “c”

@@ -7,6 +7,7 @@
 
 #include "platform/Sentence.h"
 #include "platform/script/commands/Advice.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/syntax/ErrorLine.h"
 #include "platform/script/syntax/Misspelt.h"
 
@@ -287,7 +288,7 @@ bool isAscii(char c) { return (static_cast<unsigned char>(c) & 0x80U) == 0; }
 
 /// A word with letters that names do not have. Of a sign by itself nobody knows what it was to be.
 std::string lettersHint(const ErrorLine& line) {
-    const std::string letters(line.letters());
+    const std::string_view letters = line.letters();
     const bool isPlain = std::all_of(letters.begin(), letters.end(), isAscii);
     if (isPlain || letters.size() <= line.here().size()) return "";
     const std::string_view before = line.beforeLetters();
@@ -299,13 +300,13 @@ std::string lettersHint(const ErrorLine& line) {
     });
     if (isName) {
         return sentence("Hints", "Other letters than A to Z stand in a name between bars: |%1|.")
-            .arg(letters);
+            .arg(shortened(letters));
     }
     return sentence(
                "Hints",
                "Other letters than A to Z stand in a name between bars: |%1|. Text stands between straight "
                "quotes: \"%1\".")
-        .arg(letters);
+        .arg(shortened(letters));
 }
 
 /// Whether the line begins with an apostrophe, as a comment does elsewhere.

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "platform/Utf8.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/values/Coercion.h"
 #include "platform/script/values/Dates.h"
 #include "platform/script/values/Elements.h"
@@ -129,7 +130,7 @@ Fallible<> addToList(const Shared<ListBody>& list, bool atEnd, const Value& valu
 Fallible<Value> propertyOf(const Value& container, const Name& name) {
     if (container.text() != nullptr && &name == &names::id) return idOf(*container.text());
     if (Found found = find(container, name)) return *std::move(found);
-    return cannotGet(sourceForm(name) + " of " + quotedForm(container));
+    return cannotGet(shortened(sourceForm(name)) + " of " + quotedForm(container));
 }
 
 Fallible<> setProperty(const Value& container, const Name& name, const Value& value) {
@@ -147,7 +148,7 @@ Fallible<> setProperty(const Value& container, const Name& name, const Value& va
         const std::optional<std::int32_t> number = month == nullptr ? integerOf(value) : month->number;
         if (number && setDatePart(*date, name, *number)) return {};
     }
-    return cannotSet(sourceForm(name) + " of " + quotedForm(container), value);
+    return cannotSet(shortened(sourceForm(name)) + " of " + quotedForm(container), value);
 }
 
 }  // namespace script

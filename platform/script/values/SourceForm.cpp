@@ -8,9 +8,9 @@
 #include <utility>
 
 #include "platform/Sentence.h"
-#include "platform/Utf8.h"
 #include "platform/script/source/Scoped.h"
 #include "platform/script/source/ScriptError.h"
+#include "platform/script/source/Wording.h"
 #include "platform/script/values/Dates.h"
 #include "platform/script/values/ModifierWords.h"
 
@@ -60,9 +60,7 @@ class SourceWriter {
 
     std::string take() {
         if (m_out.size() <= m_most) return std::move(m_out);
-        std::size_t end = m_most;
-        while (isUtf8Continuation(m_out[end])) --end;
-        return m_out.substr(0, end) + "…";
+        return shortened(m_out, m_most);
     }
 
     void add(const Value& value) {
