@@ -34,6 +34,13 @@ struct Source {
     std::optional<script::ScriptWarning> warning = {};
 };
 
+/// Of a file that cannot be read, to whom the command speaks.
+void tellUnreadable(const ScriptInput& input, const Error& error) {
+    if (!input.wantsJson) return reportError(input.file + ": ", error);
+    const script::ScriptError unreadable{0, error.message, {}, error.hint};
+    std::cout << diagnostics("", &unreadable, {});
+}
+
 /// Empty after an error, which has been told.
 std::optional<Source> sourceOf(const ScriptInput& input) {
     if (!input.lines.empty()) {
@@ -43,7 +50,7 @@ std::optional<Source> sourceOf(const ScriptInput& input) {
     }
     Result<ScriptText> read = readScript(input.file);
     if (!read) {
-        reportError(input.file + ": ", read.error());
+        tellUnreadable(input, read.error());
         return std::nullopt;
     }
     Source source{input.file, std::move(read.value().text)};

@@ -19,7 +19,7 @@ struct ScriptInput {
 
 /// Compiles, and warns of what is probably not meant. As JSON it is told on standard output: an array of
 /// objects, one a line, with kind ("error", "warning"), line, column, length (in characters), message, and of
-/// errors number and hint.
+/// errors number and hint. A file that cannot be read is an error at its beginning with the number 0.
 int checkScript(const ScriptInput& input);
 
 /// Prints what would be done, one JSON array a line, without pauses. Its times have a count.

@@ -142,6 +142,19 @@ TEST_F(ToolTest, aFileThatCannotBeReadIsAnError) {
     EXPECT_EQ(run("trace .").errors, "keyrill-script: .: It is a folder; standard input is \"-\"\n");
 }
 
+TEST_F(ToolTest, editorsAreToldOfAFileThatCannotBeReadInTheShapeOfOtherErrors) {
+    const auto told = [](const std::string& message) {
+        return Outcome{1,
+                       R"([{"kind":"error","line":1,"column":1,"length":0,"message":")" + message +
+                           "\",\"number\":0,\"hint\":\"\"}]\n",
+                       ""};
+    };
+    EXPECT_EQ(run("check --json missing"), told("No such file or directory"));
+    EXPECT_EQ(run("check --json 'm\xff\"\\'"), told("No such file or directory"));
+    EXPECT_EQ(run("check --json ."), told("It is a folder; standard input is \\\"-\\\""));
+    EXPECT_EQ(run("check --json -", "."), told("Is a directory"));
+}
+
 TEST_F(ToolTest, aLongWordIsShortenedForPeopleAndEditors) {
     const std::string word(3000000, 'w');
     write("log " + word);
