@@ -1539,12 +1539,14 @@ const manualIndex = [
 "your password, and closes it then. What you type while you are asked is not recorded. ",
 "Keyboards that you may read anyway need no service. Where the service is not installed or ",
 "you refuse, a window called Record Here opens: what you type in it is recorded, every key ",
-"of it, and can be played in all programs; what you type elsewhere is not. The combination ",
-"that stops a recording ends it, and so does closing the window. When the permission ends ",
-"in the middle, as when another user's session comes to the front, the recording ends and ",
-"what was recorded until then is kept. It has been run with pipes in the keyboards' place, ",
-"and under sway and KWin in a virtual machine with a keyboard of its own; not with one that ",
-"somebody can touch."
+"of it, and can be played in all programs; what you type elsewhere is not. Let no other ",
+"program type there meanwhile: one that brings a keyboard of its own, as wtype does, has ",
+"other characters on its keys than yours, and its keys are recorded as yours in the same ",
+"places. The combination that stops a recording ends it, and so does closing the window. ",
+"When the permission ends in the middle, as when another user's session comes to the front, ",
+"the recording ends and what was recorded until then is kept. It has been run with pipes in ",
+"the keyboards' place, and under sway and KWin in a virtual machine with a keyboard of its ",
+"own; not with one that somebody can touch."
 ]
 },
 {
