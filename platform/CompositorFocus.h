@@ -15,7 +15,8 @@ class CompositorFocus {
     /// and title it is none.
     virtual bool isElsewhere(const OwnWindow& hidden) = 0;
     /// Gives it to a window of ours, of several with one title to the last; fails while the
-    /// compositor shows no such window. One that fills the screen in front of it no longer does.
+    /// compositor shows no such window. One that fills the screen in front of it does not as long as
+    /// the window is there.
     virtual Result<void> focus(const OwnWindow& window) = 0;
     /// Has it given to no native window of ours of that title when that appears; nothing where the compositor
     /// cannot be told.

@@ -28,6 +28,7 @@ class SwayConnection {
         seats = 101
     };
     static constexpr std::uint32_t workspaceEvent = 0x80000000;
+    static constexpr std::uint32_t windowEvent = 0x80000003;
     static constexpr std::uint32_t bindingEvent = 0x80000005;
     static constexpr std::uint32_t inputEvent = 0x80000015;
     struct Event {

@@ -6,6 +6,7 @@
 
 #include "platform/CompositorFocus.h"
 #include "platform/desktops/SwayConnection.h"
+#include "platform/desktops/SwayCovers.h"
 
 /// What sway tells of its windows and keyboards, asked for each time. A sway that has gone knows nothing.
 class SwayDesktop final : public CompositorFocus {
@@ -21,6 +22,10 @@ class SwayDesktop final : public CompositorFocus {
     Result<void> focus(const OwnWindow& window) override;
     void refuseFocus(const std::string& title) override;
 
+    /// Gives back what focus() has taken.
+    EventSource& covers() { return m_covers; }
+
   private:
     SwayConnection m_connection;
+    SwayCovers m_covers{m_connection};
 };

@@ -123,6 +123,7 @@ class WaylandSession final : public Session {
     const SessionServices& sessionServices() override { return m_services; }
     std::vector<EventSource*> eventSources() override {
         std::vector<EventSource*> sources{m_connection.get(), &m_keys, &m_windows};
+        if (m_sway && !isNoDesktop()) sources.push_back(&m_sway->covers());
         if (m_lock && !isNoDesktop()) sources.push_back(&m_lockAwareMonitor);
         if (m_layers && m_layers->areOffered()) sources.push_back(m_layers->eventSource());
         // Who has no hot keys hears of layouts all the same.

@@ -28,6 +28,8 @@ class Sway final : public Compositor {
     void close(const std::string& title) const override { message({"[title=\"^" + title + "$\"] kill"}); }
     bool hasFocus(const std::string& title) const override;
     bool shows(const std::string& title) const override;
+    /// Whether the window with that title, which has no others in it, fills the screen or its workspace.
+    bool fillsScreen(const std::string& title) const;
     /// Whether keys go to a layer or a locker, to no window.
     bool hasLayerKeys() const;
     /// The compositor's socket, an absolute path.

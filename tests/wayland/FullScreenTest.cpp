@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+//
+// What fills the screen under sway makes room for windows of keyrill's, and fills it again afterwards.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include "wayland/SwayProgram.h"
+
+namespace {
+
+const char* const recordHere = "Record Here";
+
+/// With an X server, and without one.
+class FullScreenTest : public SwayProgram, public testing::TestWithParam<bool> {
+  protected:
+    FullScreenTest() : SwayProgram({.hasXServer = GetParam()}) {}
+
+    void fillScreenWith(const Foot& foot, const std::string& how = "enable") const {
+        foot.focus();
+        sway().message({"fullscreen " + how});
+        ASSERT_TRUE(fillsScreen(foot));
+    }
+    void startRecording() {
+        strokeHotKey(xkey::r);
+        ASSERT_TRUE(eventually([this] { return sway().hasFocus(recordHere); }));
+    }
+    void stopRecording() {
+        strokeHotKey(xkey::s);
+        ASSERT_TRUE(eventually([this] { return !shows(recordHere); }));
+    }
+    bool fillsScreen(const Foot& foot) const { return sway().fillsScreen(foot.program()); }
+    bool fillsScreenAgain(const Foot& foot) const {
+        return eventually([&] { return fillsScreen(foot); }, std::chrono::seconds(20));
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(XServers, FullScreenTest, testing::Bool(),
+                         [](const auto& has) { return std::string(has.param ? "withOne" : "withoutOne"); });
+
+TEST_P(FullScreenTest, comesBackWhenARecordingEnds) {
+    start("");
+    const Foot foot(sway());
+    fillScreenWith(foot);
+    for (int time = 0; time < 2; ++time) {
+        startRecording();
+        EXPECT_FALSE(fillsScreen(foot));
+        stopRecording();
+        EXPECT_TRUE(fillsScreenAgain(foot));
+    }
+    hands().type("z");
+    EXPECT_EQ(foot.typed(1), "z");
+}
+
+TEST_P(FullScreenTest, comesBackWhenTheWindowIsClosed) {
+    start("");
+    const Foot foot(sway());
+    fillScreenWith(foot);
+    startRecording();
+    sway().close(recordHere);
+    EXPECT_TRUE(fillsScreenAgain(foot));
+}
+
+TEST_P(FullScreenTest, comesBackOnAllScreens) {
+    start("");
+    const Foot foot(sway());
+    fillScreenWith(foot, "enable global");
+    startRecording();
+    EXPECT_FALSE(fillsScreen(foot));
+    stopRecording();
+    EXPECT_TRUE(fillsScreenAgain(foot));
+}
+
+TEST_P(FullScreenTest, comesBackWhenTheProgramEnds) {
+    start("");
+    const Foot foot(sway());
+    fillScreenWith(foot);
+    startRecording();
+    program().signal(SIGTERM);
+    EXPECT_EQ(program().wait(), 0);
+    EXPECT_TRUE(fillsScreen(foot));
+}
+
+TEST_P(FullScreenTest, comesBackAfterAQuestionOfAMacro) {
+    start("display dialog \"What now\" with title \"Question\"\nkeystroke \"a\"");
+    const Foot foot(sway());
+    fillScreenWith(foot);
+    strokeHotKey(xkey::p);
+    ASSERT_TRUE(eventually([this] { return sway().hasFocus("Question"); }));
+    hands().stroke({xkey::returnKey});
+    EXPECT_EQ(foot.typed(1), "a");
+    EXPECT_TRUE(fillsScreenAgain(foot));
+}
+
+TEST_P(FullScreenTest, comesBackWhileItsUserIsElsewhereAndLeavesHimThere) {
+    start("");
+    const Foot foot(sway());
+    fillScreenWith(foot);
+    startRecording();
+    sway().message({"workspace 2"});
+    const Foot other(sway());
+    stopRecording();
+    EXPECT_TRUE(fillsScreenAgain(foot));
+    EXPECT_TRUE(sway().hasFocus(other.program()));
+    hands().type("z");
+    EXPECT_EQ(other.typed(1), "z");
+}
+
+TEST_P(FullScreenTest, staysAwayWhereItsUserHasGoneOnToAnotherWindow) {
+    start("");
+    const Foot foot(sway());
+    const Foot other(sway());
+    fillScreenWith(foot);
+    startRecording();
+    other.focus();
+    stopRecording();
+    EXPECT_FALSE(eventually([&] { return fillsScreen(foot); }, std::chrono::milliseconds(300)));
+    EXPECT_TRUE(sway().hasFocus(other.program()));
+}
+
+TEST_P(FullScreenTest, staysAwayWhereItsUserHasGivenTheScreenToAnotherWindow) {
+    start("");
+    const Foot foot(sway());
+    const Foot other(sway());
+    fillScreenWith(foot);
+    startRecording();
+    fillScreenWith(other);
+    foot.focus();
+    fillScreenWith(other);
+    stopRecording();
+    EXPECT_FALSE(eventually([&] { return fillsScreen(foot); }, std::chrono::milliseconds(300)));
+    EXPECT_TRUE(fillsScreen(other));
+}
+
+TEST_P(FullScreenTest, staysAwayWhereItsUserHasEndedIt) {
+    start("");
+    const Foot foot(sway());
+    fillScreenWith(foot);
+    startRecording();
+    fillScreenWith(foot);
+    sway().message({"fullscreen disable"});
+    stopRecording();
+    EXPECT_FALSE(eventually([&] { return fillsScreen(foot); }, std::chrono::milliseconds(300)));
+}
+
+TEST_P(FullScreenTest, thatNeverWasIsNotMade) {
+    start("");
+    const Foot foot(sway());
+    foot.focus();
+    startRecording();
+    stopRecording();
+    EXPECT_FALSE(eventually([&] { return fillsScreen(foot); }, std::chrono::milliseconds(300)));
+}
+
+/// Hot keys are off while it is open, so that nobody is to overlook it.
+TEST_P(FullScreenTest, makesRoomForThePreferencesOfTheFirstStart) {
+    forgetSettings();
+    const Foot foot(sway());
+    fillScreenWith(foot);
+    launch("");
+    ASSERT_TRUE(
+        eventually([this] { return sway().hasFocus("Welcome to Keyrill"); }, std::chrono::seconds(60)))
+        << log();
+    hands().stroke({xkey::returnKey});
+    ASSERT_TRUE(eventually([this] { return sway().hasFocus("Keyrill Preferences"); })) << log();
+    EXPECT_FALSE(fillsScreen(foot));
+    hands().stroke({xkey::escape});
+    EXPECT_TRUE(fillsScreenAgain(foot));
+    startRecording();
+}
+
+}  // namespace
