@@ -55,7 +55,10 @@ void RecordHereDesk::tellHowToStop(RecordHerePanel& panel) const {
 }
 
 void RecordHereDesk::end() {
-    if (m_panel && m_panel->isVisible()) m_stage.fadeOut(*m_panel);
+    if (!m_panel || !m_panel->isVisible()) return;
+    // The next time it comes as an ordinary window; told before it goes, since some keep what it was then.
+    m_panel->setWindowState(m_panel->windowState() & ~Qt::WindowFullScreen);
+    m_stage.fadeOut(*m_panel);
 }
 
 void RecordHereDesk::setMacroString(const std::string& text) {

@@ -54,9 +54,12 @@ QWidget* TrayStatusItem::window() { return m_window.get(); }
 
 void TrayStatusItem::showWindow() {
     if (m_menu == nullptr) return;
-    if (!m_window) showControlWindow();
-    if (m_window->isMinimized()) m_window->showNormal();
-    m_window->show();
+    // Compositors leave a window on its workspace; one that appears does so where the user is.
+    if (m_window) {
+        m_window->hide();
+        m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
+    }
+    showControlWindow();
     m_window->raise();
 }
 

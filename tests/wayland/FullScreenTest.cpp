@@ -168,4 +168,14 @@ TEST_P(FullScreenTest, makesRoomForThePreferencesOfTheFirstStart) {
     startRecording();
 }
 
+TEST_P(FullScreenTest, ofRecordHereItselfEndsWithTheRecording) {
+    start("");
+    startRecording();
+    sway().message({"fullscreen enable"});
+    ASSERT_TRUE(sway().fillsScreen(recordHere));
+    stopRecording();
+    startRecording();
+    EXPECT_TRUE(eventually([this] { return !sway().fillsScreen(recordHere); }));
+}
+
 }  // namespace

@@ -30,4 +30,45 @@ const Place swayWithoutX{"swayWithoutX",
 INSTANTIATE_TEST_SUITE_P(Sessions, SmallWindowTest, testing::Values(place::sway, swayWithoutX, place::kwin),
                          nameOf);
 
+/// With an X server, and without one.
+class SwaySmallWindowTest : public SwayProgram, public testing::TestWithParam<bool> {
+  protected:
+    SwaySmallWindowTest() : SwayProgram({.hasSessionBus = true, .hasXServer = GetParam()}) {}
+
+    /// Whether it is where the user is.
+    bool isHere() const {
+        return eventually(
+            [this] { return sway().tries({"[title=\"^Keyrill$\" workspace=__focused__] nop"}); });
+    }
+    void startAgain() const { EXPECT_EQ(outputOfUsers({KEYRILL_PRODUCT}), ""); }
+};
+
+INSTANTIATE_TEST_SUITE_P(XServers, SwaySmallWindowTest, testing::Bool(),
+                         [](const auto& has) { return std::string(has.param ? "withOne" : "withoutOne"); });
+
+TEST_P(SwaySmallWindowTest, comesToWhoStartsTheProgramAgainAndTakesNoKeys) {
+    start("keystroke \"x\"");
+    for (const char* const workspace : {"2", "3"}) {
+        sway().message({"workspace", workspace});
+        const Foot foot(sway());
+        startAgain();
+        EXPECT_TRUE(isHere());
+        hands().type("keys");
+        EXPECT_EQ(foot.typed(4), "keys");
+        strokeHotKey(xkey::p);
+        EXPECT_EQ(foot.typed(5), "keysx");
+    }
+}
+
+TEST_P(SwaySmallWindowTest, comesBackFromAmongTheMinimisedOnes) {
+    start("");
+    sway().close("Keyrill");
+    sway().message({"workspace", "2"});
+    const Foot foot(sway());
+    startAgain();
+    EXPECT_TRUE(isHere());
+    hands().type("keys");
+    EXPECT_EQ(foot.typed(4), "keys");
+}
+
 }  // namespace
