@@ -87,6 +87,13 @@ SwayConfiguration::SwayConfiguration(std::string_view text, const Includes& incl
     read(text, includes, 0);
 }
 
+std::vector<SwayConfiguration::Binding> SwayConfiguration::bindings() const {
+    std::vector<Binding> bindings;
+    bindings.reserve(m_bound.size());
+    for (const Bound& bound : m_bound) bindings.push_back(bound.binding);
+    return bindings;
+}
+
 void SwayConfiguration::read(std::string_view text, const Includes& includes, int depth) {
     std::string line;
     for (std::size_t at = 0; at < text.size();) {
@@ -162,26 +169,19 @@ void SwayConfiguration::readBinding(const std::string& command, std::vector<std:
         }
     }
     if (binding.keycode == 0 && binding.symbol.empty()) return;
+    Bound bound{std::move(binding), kindOf(std::move(options))};
     if (command.starts_with("un")) {
-        unbind(binding, kindOf(std::move(options)));
+        unbind(bound);
     } else {
-        bind(std::move(binding), kindOf(std::move(options)));
+        m_bound.push_back(std::move(bound));
     }
-}
-
-void SwayConfiguration::bind(Binding binding, std::vector<std::string> kind) {
-    m_bindings.push_back(std::move(binding));
-    m_kinds.push_back(std::move(kind));
 }
 
 /// One that was given twice has taken its own place.
-void SwayConfiguration::unbind(const Binding& binding, const std::vector<std::string>& kind) {
-    for (std::size_t i = m_bindings.size(); i-- > 0;) {
-        const Binding& other = m_bindings[i];
-        const bool isIt = other.modifiers == binding.modifiers && other.keycode == binding.keycode &&
-                          lowered(other.symbol) == lowered(binding.symbol) && m_kinds[i] == kind;
-        if (!isIt) continue;
-        m_bindings.erase(m_bindings.begin() + static_cast<std::ptrdiff_t>(i));
-        m_kinds.erase(m_kinds.begin() + static_cast<std::ptrdiff_t>(i));
-    }
+void SwayConfiguration::unbind(const Bound& bound) {
+    std::erase_if(m_bound, [&bound](const Bound& other) {
+        return other.kind == bound.kind && other.binding.modifiers == bound.binding.modifiers &&
+               other.binding.keycode == bound.binding.keycode &&
+               lowered(other.binding.symbol) == lowered(bound.binding.symbol);
+    });
 }

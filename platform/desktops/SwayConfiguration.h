@@ -28,22 +28,25 @@ class SwayConfiguration {
 
     SwayConfiguration(std::string_view text, const Includes& includes);
 
-    const std::vector<Binding>& bindings() const { return m_bindings; }
+    std::vector<Binding> bindings() const;
 
   private:
+    struct Bound {
+        Binding binding;
+        /// The options that make it another one than the same combination without them, in order.
+        std::vector<std::string> kind;
+    };
+
     void read(std::string_view text, const Includes& includes, int depth);
     void readLine(const std::vector<std::string>& words, const Includes& includes, int depth);
     void readBinding(const std::string& command, std::vector<std::string> options,
                      const std::vector<std::string>& words, std::size_t place);
-    void bind(Binding binding, std::vector<std::string> kind);
-    void unbind(const Binding& binding, const std::vector<std::string>& kind);
+    void unbind(const Bound& bound);
     std::string substituted(std::string line) const;
 
     /// Names with their dollar sign, the longest first.
     std::map<std::string, std::string, bool (*)(const std::string&, const std::string&)> m_variables;
-    std::vector<Binding> m_bindings;
-    /// The options of each that make it another one than the same combination without them.
-    std::vector<std::vector<std::string>> m_kinds;
+    std::vector<Bound> m_bound;
     /// The words that opened the blocks around the line.
     std::vector<std::vector<std::string>> m_blocks;
 };

@@ -123,8 +123,8 @@ class WaylandSession final : public Session {
     const SessionServices& sessionServices() override { return m_services; }
     std::vector<EventSource*> eventSources() override {
         std::vector<EventSource*> sources{m_connection.get(), &m_keys, &m_windows};
-        if (m_sway && !isNoDesktop()) sources.push_back(&m_sway->covers());
-        if (m_lock && !isNoDesktop()) sources.push_back(&m_lockAwareMonitor);
+        if (m_sway && servesDesktop()) sources.push_back(&m_sway->covers());
+        if (m_lock && servesDesktop()) sources.push_back(&m_lockAwareMonitor);
         if (m_layers && m_layers->areOffered()) sources.push_back(m_layers->eventSource());
         // Who has no hot keys hears of layouts all the same.
         if (m_desktop.isGnome() && !m_bindings) sources.push_back(&m_desktop.bus()->eventSource());
@@ -148,9 +148,9 @@ class WaylandSession final : public Session {
   private:
     /// A program that plays a script asks nobody for the keyboard, and has no hot keys; nor has one that only
     /// looks.
-    bool isNoDesktop() const { return m_use != SessionUse::desktop; }
+    bool servesDesktop() const { return m_use == SessionUse::desktop; }
     std::unique_ptr<HotKeyBinder> openBindings() {
-        return isNoDesktop() ? nullptr : openBinder(m_desktop, m_seat);
+        return servesDesktop() ? openBinder(m_desktop, m_seat) : nullptr;
     }
     std::unique_ptr<KeyGrabber> openHotKeyLookup() {
         return m_use == SessionUse::check ? openLookup(m_desktop, m_seat) : nullptr;
@@ -170,14 +170,14 @@ class WaylandSession final : public Session {
         return m_desktop.isKde() ? KWinWindows::open(SessionBus::addressOfProcess()) : ToplevelList::open();
     }
     EventMonitor& eventMonitor() {
-        if (isNoDesktop()) return m_noMonitor;
+        if (!servesDesktop()) return m_noMonitor;
         // Elsewhere nobody could be asked.
         return m_lock ? static_cast<EventMonitor&>(m_lockAwareMonitor) : m_keys;
     }
     /// Sway is asked for it by the same connection as for all else.
     std::unique_ptr<CompositorFocus> openFocus() const {
         if (m_desktop.isKde()) return std::make_unique<KWinFocus>(SessionBus::addressOfProcess());
-        return m_sway || isNoDesktop() ? nullptr : m_xWindows.openFocus();
+        return servesDesktop() && !m_sway ? m_xWindows.openFocus() : nullptr;
     }
     bool hasLockerKeyboard() { return m_lock && m_lock->isLocked(); }
     std::unique_ptr<Pressing> makePressing() {
@@ -194,7 +194,7 @@ class WaylandSession final : public Session {
     }
     evdev::EvdevEventMonitor::Session keys() {
         return {.clock = m_clock,
-                .opener = isNoDesktop() ? static_cast<evdev::DeviceOpener&>(m_direct) : m_opener,
+                .opener = servesDesktop() ? m_opener : static_cast<evdev::DeviceOpener&>(m_direct),
                 .calls = m_calls,
                 .grabs = grabs(),
                 .layout = [this] { return m_seat.group(); },
@@ -216,7 +216,7 @@ class WaylandSession final : public Session {
     XWindows m_xWindows;
     std::unique_ptr<SwayDesktop> m_sway = openSway();
     std::unique_ptr<SwayLock> m_lock = openSwayLock(m_clock);
-    DesktopServices m_desktop{*m_connection, !isNoDesktop()};
+    DesktopServices m_desktop{*m_connection, servesDesktop()};
     SeatKeymap m_seat{*m_connection, environment("XDG_RUNTIME_DIR"), [this] { return group(); }};
     std::unique_ptr<HotKeyBinder> m_bindings = openBindings();
     std::unique_ptr<KeyGrabber> m_lookup = openHotKeyLookup();
