@@ -54,6 +54,7 @@ class PortalLinkTest : public testing::Test {
         Wait wait([] { return Step<>(); });
         return link.open(wait);
     }
+    const PrivateBus& messageBus() const { return m_bus; }
     std::string tokenFile() const { return m_folder.file("token"); }
     bool hears(const std::string& text) {
         return eventually([&] { return m_portal->count(text) > 0; });
@@ -151,6 +152,11 @@ TEST_F(PortalLinkTest, oneThatDoesNotKnowWhatThereIsIsAsked) {
     EXPECT_EQ(portal().count("key 30 1"), 1U);
 }
 
+TEST_F(PortalLinkTest, aDesktopThatTurnsOutToHaveNoKeyboardsSaysSo) {
+    havePortal({"agrees", "unaware", "pointer"});
+    expectFailure(open(*link()), "This desktop lets no program press keys: no portal for it answers.");
+}
+
 TEST_F(PortalLinkTest, aPortalThatDiesEndsTheRun) {
     havePortal({"agrees"});
     const auto line = link();
@@ -238,45 +244,81 @@ TEST_F(PortalLinkTest, whatIsDownIsReleasedThoughThePortalWasSlow) {
 /// KWin keeps down what it has pressed.
 class KdePartTest : public PortalLinkTest {
   protected:
+    using Act = std::function<void(PortalLink&)>;
+
+    KdePartTest() {
+        havePart();
+        havePortal({"agrees"});
+    }
+
     std::unique_ptr<PortalLink> lineWithKeyDown() {
-        havePortal({"agrees", "kde-part"});
         auto line = link();
         EXPECT_TRUE(open(*line));
         line->key(keyA, true);
         EXPECT_TRUE(line->synchronise());
         return line;
     }
-    /// A line with a key down, whose session has ended by that command.
-    std::unique_ptr<PortalLink> lineAfter(const std::string& command,
-                                          const std::function<void(PortalLink&)>& before = {}) {
+    /// A line with a key down, whose session has ended by that.
+    std::unique_ptr<PortalLink> lineAfter(const Act& end) {
         auto line = lineWithKeyDown();
-        if (before) before(*line);
-        portal().obey(command);
+        end(*line);
         Result<void> looked;
         EXPECT_TRUE(eventually([&] { return !(looked = line->look()); }));
         EXPECT_EQ(looked.error().message, "The desktop no longer lets Keyrill press keys.");
         return line;
     }
+    /// There is another one at once, as the bus starts it.
+    void partDies() {
+        m_part.reset();
+        havePart();
+    }
+    void expectAnotherSessionReleases(const std::string& keys) {
+        EXPECT_TRUE(eventually([&] { return portal().heard().ends_with(keys + "closed\n"); }))
+            << portal().heard();
+    }
+
+  private:
+    void havePart() {
+        m_part = std::make_unique<StandIn>(messageBus(), std::vector<std::string>{"kde-part"});
+    }
+
+    std::unique_ptr<StandIn> m_part;
 };
 
 TEST_F(KdePartTest, whatItHasLeftDownWhenItDiesIsReleasedByAnotherSession) {
-    const auto line = lineAfter("part dies");
-    EXPECT_TRUE(hears("key 30 0"));
-    EXPECT_TRUE(eventually([this] { return portal().heard().ends_with("key 30 0\nclosed\n"); }))
-        << portal().heard();
+    const auto line = lineAfter([this](PortalLink&) { partDies(); });
+    expectAnotherSessionReleases("key 30 0\n");
     EXPECT_EQ(portal().count("devices"), 2U);
     EXPECT_EQ(portal().count("key"), 2U);
+    EXPECT_EQ(portal().count("closed"), 2U);
+}
+
+TEST_F(KdePartTest, soItIsWhenTheProgramEndsAtThatMoment) {
+    auto line = lineWithKeyDown();
+    partDies();
+    line.reset();
+    expectAnotherSessionReleases("key 30 0\n");
 }
 
 /// What the portal has taken it may not have passed on yet.
 TEST_F(KdePartTest, whatItMayNotHaveReleasedBeforeItDiedIsReleasedOnceMore) {
-    const auto line = lineAfter("part dies", [this](PortalLink& told) {
+    const auto line = lineAfter([this](PortalLink& told) {
         told.key(keyA, false);
         ASSERT_TRUE(hears("key 30 0"));
+        partDies();
     });
-    EXPECT_TRUE(eventually([this] { return portal().heard().ends_with("key 30 0\nclosed\n"); }))
-        << portal().heard();
+    expectAnotherSessionReleases("key 30 0\n");
     EXPECT_EQ(portal().count("key 30 0"), 2U);
+}
+
+TEST_F(KdePartTest, whatItHasReleasedIsLeftAlone) {
+    lineAfter([this](PortalLink& told) {
+        told.key(keyA, false);
+        ASSERT_TRUE(told.synchronise());
+        partDies();
+    }).reset();
+    EXPECT_EQ(portal().count("devices"), 1U);
+    EXPECT_EQ(portal().count("key 30 0"), 1U);
 }
 
 TEST_F(KdePartTest, whatIsDownWhenThePortalDiesOfAKeyIsReleasedByTheNextOne) {
@@ -285,20 +327,22 @@ TEST_F(KdePartTest, whatIsDownWhenThePortalDiesOfAKeyIsReleasedByTheNextOne) {
     ASSERT_TRUE(hears("mortal"));
     line->key(keyA + 1, true);
     ASSERT_TRUE(eventually([&] { return !line->look(); }));
-    havePortal({"agrees", "kde-part"});
-    EXPECT_TRUE(eventually([this] { return portal().heard().ends_with("key 30 0\nkey 31 0\nclosed\n"); }))
-        << portal().heard();
+    havePortal({"agrees"});
+    expectAnotherSessionReleases("key 30 0\nkey 31 0\n");
 }
 
 TEST_F(KdePartTest, nobodyIsAskedForThat) {
     // It waits for the end of the program.
-    lineAfter("part dies", [this](PortalLink& /*line*/) { std::filesystem::remove(tokenFile()); }).reset();
+    lineAfter([this](PortalLink&) {
+        std::filesystem::remove(tokenFile());
+        partDies();
+    }).reset();
     EXPECT_EQ(portal().count("devices"), 1U);
     EXPECT_EQ(portal().count("key 30 0"), 0U);
 }
 
 TEST_F(KdePartTest, whoTakesThePermissionBackHasTakenItBack) {
-    lineAfter("close").reset();
+    lineAfter([this](PortalLink&) { portal().obey("close"); }).reset();
     EXPECT_EQ(portal().count("devices"), 1U);
     EXPECT_EQ(portal().count("key 30 0"), 0U);
 }

@@ -5,11 +5,12 @@
 "shortcuts" the portal for hot keys too, which leaves "leave=NAME" out of its answer, agrees with a code of no meaning
 where it is "vague", and is deaf to whoever has not said who he is where it is "strict"; "only" leaves the portal for
 keys out; "layouts" is KDE's service for layouts beside it, "gnome" the name of GNOME's shell and of its part of the portal, which
-gives hot keys where it is "own-part"; "kde-part" is the name of KDE's part. It has a pointer alone where it is "pointer", and does not
-know what it has where it is "unaware". Prints "ready", then what it is told; obeys the lines that are
+gives hot keys where it is "own-part". It has a pointer alone where it is "pointer", and does not know what it has where
+it is "unaware". "kde-part" is KDE's part of it instead. Prints "ready", then what it is told; obeys the lines that are
 written to the named pipe COMMANDS: "answer" and "refuse" (what it has been asked), "close" (takes the permission back),
 "close first" (tells so of its first session), "deaf COUNT" (takes so many keys from now on without an answer, and says
-"deaf"), "die of key" (ends when it is told of one, having said "mortal"), "press NAME" and "release NAME", "change NAME WORDS", "end"."""
+"deaf"), "die of key" (ends when it is told of one, having said "mortal"), "press NAME" and "release NAME",
+"change NAME WORDS", "end"."""
 import os
 import sys
 import threading
@@ -50,11 +51,12 @@ XML = """<node>
 </interface>
 <interface name="org.freedesktop.portal.Request"><method name="Close"/></interface>
 <interface name="org.freedesktop.impl.portal.GlobalShortcuts"/>
+<interface name="org.freedesktop.impl.portal.RemoteDesktop"><property name="version" type="u" access="read"/></interface>
 <interface name="org.kde.KeyboardLayouts">
   <method name="setLayout"><arg type="u" direction="in"/><arg type="b" direction="out"/></method>
 </interface>
 </node>"""
-DESKTOP, SESSION, SHORTCUTS, REGISTRY, REQUEST, OWN_PART, LAYOUTS = Gio.DBusNodeInfo.new_for_xml(XML).interfaces
+DESKTOP, SESSION, SHORTCUTS, REGISTRY, REQUEST, OWN_PART, KDE_PART, LAYOUTS = Gio.DBusNodeInfo.new_for_xml(XML).interfaces
 KEYS = "org.freedesktop.portal.GlobalShortcuts"
 OBJECT = "/org/freedesktop/portal/desktop"
 how = sys.argv[3:]
@@ -64,8 +66,7 @@ known = []
 objects = {}
 sessions = {}
 all_sessions = []
-parts = []
-kinds = 2 if "pointer" in how else 0 if "unaware" in how else 7
+kinds = 0 if "unaware" in how else 2 if "pointer" in how else 7
 deaf = 0
 mortal = False
 
@@ -84,6 +85,9 @@ def on_call(connection, sender, path, interface, method, parameters, invocation)
         invocation.return_dbus_error("org.freedesktop.portal.Error.NotAllowed", "Who is that?")
         return
     if method == "NotifyKeyboardKeycode":
+        if parameters[0] not in objects:
+            invocation.return_dbus_error("org.freedesktop.DBus.Error.AccessDenied", "Invalid session")
+            return
         print("key", parameters[2], parameters[3], flush=True)
         if mortal:
             os._exit(1)
@@ -139,7 +143,7 @@ def agree(connection, request, shortcuts):
         results = {"shortcuts": GLib.Variant("a(sa{sv})", given)}
         respond(connection, request, 77 if "vague" in how else 0, results)
         return
-    results = {"devices": GLib.Variant("u", 1)}
+    results = {"devices": GLib.Variant("u", 2 if "pointer" in how else 1)}
     if "old" not in how:
         results["restore_token"] = GLib.Variant("s", "known-again")
     respond(connection, request, 0, results)
@@ -186,9 +190,6 @@ def obey(connection, command):
         global mortal
         mortal = True
         print("mortal", flush=True)
-    elif command == "part dies":
-        Gio.bus_unown_name(parts.pop())
-        own_kde_part()
     elif command.startswith(("press ", "release ")):
         verb, name = command.split()
         signal = "Activated" if verb == "press" else "Deactivated"
@@ -200,11 +201,6 @@ def obey(connection, command):
     return False
 
 
-def own_kde_part():
-    name = "org.freedesktop.impl.portal.desktop.kde"
-    parts.append(Gio.bus_own_name_on_connection(bus, name, Gio.BusNameOwnerFlags.NONE, None, None))
-
-
 def read_commands(connection):
     # Open for writing as well it never ends, however often writers come and go.
     with open(os.open(sys.argv[2], os.O_RDWR), encoding="utf-8") as pipe:
@@ -214,7 +210,8 @@ def read_commands(connection):
 
 flags = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
 bus = Gio.DBusConnection.new_for_address_sync(sys.argv[1], flags, None, None)
-for face in ([] if "only" in how else [DESKTOP]) + ([SHORTCUTS] if "shortcuts" in how else []) + [REGISTRY]:
+own_faces = ([] if "only" in how else [DESKTOP]) + ([SHORTCUTS] if "shortcuts" in how else []) + [REGISTRY]
+for face in [KDE_PART] if "kde-part" in how else own_faces:
     bus.register_object(OBJECT, face, on_call, on_get, None)
 if "layouts" in how:
     bus.register_object("/Layouts", LAYOUTS, on_call, None, None)
@@ -222,12 +219,11 @@ if "layouts" in how:
 if "gnome" in how:
     for name in ("org.gnome.Shell", "org.freedesktop.impl.portal.desktop.gnome"):
         Gio.bus_own_name_on_connection(bus, name, Gio.BusNameOwnerFlags.NONE, None, None)
-if "kde-part" in how:
-    own_kde_part()
 if "own-part" in how:
     bus.register_object(OBJECT, OWN_PART, on_call, None, None)
 loop = GLib.MainLoop()
+name = "org.freedesktop.impl.portal.desktop.kde" if "kde-part" in how else "org.freedesktop.portal.Desktop"
 Gio.bus_own_name_on_connection(
-    bus, "org.freedesktop.portal.Desktop", Gio.BusNameOwnerFlags.NONE, lambda *_: print("ready", flush=True), None)
+    bus, name, Gio.BusNameOwnerFlags.NONE, lambda *_: print("ready", flush=True), None)
 threading.Thread(target=read_commands, args=(bus,), daemon=True).start()
 loop.run()

@@ -73,6 +73,7 @@ void PortalSession::open() {
         return fail(PortalAnswer::missing);
     }
     m_version = g_variant_get_uint32(version.get());
+    m_promisesKeyboards = g_variant_get_uint32(types.get()) != 0;
     watch();
     GVariantBuilder options = portalOptions();
     g_variant_builder_add(&options, "{sv}", "session_handle_token", g_variant_new_string("keyrill"));
@@ -98,6 +99,7 @@ void PortalSession::watch() {
     unwatch();
     m_portal.clear();
     m_kde.clear();
+    m_hasDied = false;
     m_watch = g_bus_watch_name_on_connection(m_bus.get(), service, G_BUS_NAME_WATCHER_FLAGS_NONE, portalCame,
                                              portalGone, this, nullptr);
     m_kdeWatch = g_bus_watch_name_on_connection(m_bus.get(), portalnames::kde, G_BUS_NAME_WATCHER_FLAGS_NONE,
@@ -155,7 +157,8 @@ void PortalSession::start() {
 void PortalSession::started(GVariant* results) {
     std::uint32_t devices = 0;
     g_variant_lookup(results, "devices", "u", &devices);
-    if ((devices & keyboards) == 0) return fail(PortalAnswer::refused);
+    if ((devices & keyboards) == 0)
+        return fail(m_promisesKeyboards ? PortalAnswer::refused : PortalAnswer::missing);
     keepToken(results);
     m_state = State::open;
     m_answer(PortalAnswer::opened);
@@ -212,11 +215,9 @@ void PortalSession::synchronise() {
     m_answer(PortalAnswer::synced);
 }
 
-/// The first one: another is not this session's.
 void PortalSession::portalCame(GDBusConnection* /*bus*/, const char* /*name*/, const char* owner,
                                void* self) {
-    auto& session = *static_cast<PortalSession*>(self);
-    if (session.m_portal.empty()) session.m_portal = owner;
+    static_cast<PortalSession*>(self)->m_portal = owner;
 }
 
 void PortalSession::portalGone(GDBusConnection* /*bus*/, const char* /*name*/, void* self) {
@@ -224,8 +225,7 @@ void PortalSession::portalGone(GDBusConnection* /*bus*/, const char* /*name*/, v
 }
 
 void PortalSession::kdeCame(GDBusConnection* /*bus*/, const char* /*name*/, const char* owner, void* self) {
-    auto& session = *static_cast<PortalSession*>(self);
-    if (session.m_kde.empty()) session.m_kde = owner;
+    static_cast<PortalSession*>(self)->m_kde = owner;
 }
 
 /// The portal itself would take keys, and pass them on to nobody. Told at first, too, where there is none.
@@ -289,6 +289,7 @@ void PortalSession::putBackByAnother() {
     other.m_switched = m_switched;
     other.putBack();
     other.m_down.reset();
+    other.m_underway.reset();
     other.m_switched.reset();
 }
 

@@ -85,6 +85,8 @@ class PortalSession {
     GObjectPointer<GDBusConnection> m_bus;
     State m_state = State::closed;
     std::uint32_t m_version = 0;
+    /// Whether the portal knows which devices there are.
+    bool m_promisesKeyboards = false;
     std::string m_session;
     PortalRequest m_request;
     SessionEnd m_end;
