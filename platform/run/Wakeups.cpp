@@ -9,6 +9,17 @@
 #include <cstdint>
 #include <ctime>
 
+namespace {
+
+/// Zero once it has run down.
+std::chrono::nanoseconds timeLeft(const Descriptor& timer) {
+    itimerspec spec{};
+    timerfd_gettime(timer.number(), &spec);
+    return std::chrono::seconds(spec.it_value.tv_sec) + std::chrono::nanoseconds(spec.it_value.tv_nsec);
+}
+
+}  // namespace
+
 Wakeups::Wakeups()
     : m_epoll(epoll_create1(EPOLL_CLOEXEC)),
       m_event(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)),
@@ -39,7 +50,7 @@ void Wakeups::takeKick() const {
 }
 
 void Wakeups::startTimer(std::chrono::milliseconds duration) {
-    if (m_timerRuns) return;
+    if (m_timerRuns && timeLeft(m_timer) <= duration) return;
     itimerspec spec{};
     spec.it_value.tv_sec = static_cast<std::time_t>(duration.count() / 1000);
     spec.it_value.tv_nsec = static_cast<long>(duration.count() % 1000 * 1'000'000);

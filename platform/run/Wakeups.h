@@ -21,7 +21,7 @@ class Wakeups {
     void kick() const;
     void takeKick() const;
 
-    /// Starts the timer unless it runs already.
+    /// Starts the timer, unless it runs already and ends sooner.
     void startTimer(std::chrono::milliseconds duration);
     /// True once after the timer has run down.
     bool takeTimer();
