@@ -21,8 +21,9 @@ constexpr const char* service = "org.kde.KWin";
 constexpr const char* scripting = "/Scripting";
 constexpr const char* scriptingFace = "org.kde.kwin.Scripting";
 constexpr const char* unloading = "unloadScript";
-/// Of the script that is loaded. KWin loads no two of one name.
+/// Of the script that is run, and of the one that is kept. KWin loads no two of one name.
 constexpr const char* scriptName = "example.orlen.Keyrill";
+constexpr const char* keptName = "example.orlen.Keyrill.Kept";
 
 /// Where the script tells us what it has found out.
 constexpr const char* object = "/example/orlen/Keyrill/Script";
@@ -62,16 +63,16 @@ class ScriptFile {
     bool m_isWritten = false;
 };
 
-/// What fails in the statements is told as nothing, and the script goes all the same.
+std::string callOf(const std::string& name, const char* path, const char* interface, const char* method,
+                   const std::string& argument) {
+    return "callDBus('" + name + "', '" + path + "', '" + interface + "', '" + method + "', " + argument +
+           ");\n";
+}
+
+/// What fails in the statements is told as nothing.
 std::string scriptOf(const std::string& statements, const std::string& teller) {
-    const auto call = [](const std::string& name, const char* path, const char* interface, const char* method,
-                         const std::string& argument) {
-        return "callDBus('" + name + "', '" + path + "', '" + interface + "', '" + method + "', " + argument +
-               ");\n";
-    };
-    return "function tell(text) { " + call(teller, object, face, member, "text") + "}\n" + "try {\n" +
-           statements + "\n} catch (failure) { tell(''); }\n" +
-           call(service, scripting, scriptingFace, unloading, "'" + std::string(scriptName) + "'");
+    return "function tell(text) { " + callOf(teller, object, face, member, "text") + "}\n" + "try {\n" +
+           statements + "\n} catch (failure) { tell(''); }\n";
 }
 
 }  // namespace
@@ -88,35 +89,52 @@ KWinScripts::KWinScripts(const std::string& bus) : m_bus(bus) {
         });
 }
 
+KWinScripts::~KWinScripts() {
+    if (m_keeps) unload(keptName);
+}
+
 Result<std::string> KWinScripts::run(const std::string& statements) {
-    const ScriptFile file(scriptOf(statements, m_bus.ownName()));
+    return start(statements, scriptName,
+                 callOf(service, scripting, scriptingFace, unloading, "'" + std::string(scriptName) + "'"));
+}
+
+Result<void> KWinScripts::keep(const std::string& statements) {
+    const auto started = start(statements + "\ntell('');", keptName, "");
+    m_keeps = static_cast<bool>(started);
+    if (!started) return started.error();
+    return {};
+}
+
+Result<std::string> KWinScripts::start(const std::string& statements, const char* script,
+                                       const std::string& end) {
+    const ScriptFile file(scriptOf(statements, m_bus.ownName()) + end);
     if (!file.isWritten())
         return Error{sentence("Windows", "No file could be written for KWin."),
                      sentence("Windows", "Free some space.")};
     m_hasTold = false;
-    if (const auto loaded = load(file.name()); !loaded) return loaded.error();
+    if (const auto loaded = load(file.name(), script); !loaded) return loaded.error();
     auto told = await();
-    if (!told) unload();
+    if (!told) unload(script);
     return told;
 }
 
-bool KWinScripts::unload() {
+bool KWinScripts::unload(const char* script) {
     const auto gone =
-        m_bus.ask({service, scripting, scriptingFace, unloading}, g_variant_new("(s)", scriptName), "(b)");
+        m_bus.ask({service, scripting, scriptingFace, unloading}, g_variant_new("(s)", script), "(b)");
     return static_cast<bool>(gone);
 }
 
-Result<void> KWinScripts::load(const std::string& file) {
+Result<void> KWinScripts::load(const std::string& file, const char* script) {
     constexpr std::int32_t isLoadedAlready = -1;
     const auto loadIt = [&] {
         return m_bus.ask({service, scripting, scriptingFace, "loadScript"},
-                         g_variant_new("(ss)", file.c_str(), scriptName), "(i)");
+                         g_variant_new("(ss)", file.c_str(), script), "(i)");
     };
     std::int32_t number = isLoadedAlready;
     auto loaded = loadIt();
     if (loaded) g_variant_get(loaded.value().get(), "(i)", &number);
     if (loaded && number == isLoadedAlready) {
-        if (unload()) loaded = loadIt();
+        if (unload(script)) loaded = loadIt();
         if (loaded) g_variant_get(loaded.value().get(), "(i)", &number);
     }
     if (!loaded)

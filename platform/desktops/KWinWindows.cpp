@@ -55,14 +55,54 @@ Result<void> activateBy(KWinScripts& scripts, const std::string& condition, int 
     return {};
 }
 
+/// Whether `one` is a window of ours.
+std::string isOwn() { return "one.pid == " + std::to_string(getpid()); }
+
 /// Whether `one` is that window of ours; KWin numbers those with one title, and has its own blanks in it.
 /// Native windows have no number, or one that no X server gives.
 std::string conditionOf(const OwnWindow& window) {
     if (window.id != Windows::none) return "one.windowId == " + std::to_string(window.id);
     if (window.title.empty()) return "false";
     const GText title(g_uri_escape_string(window.title.c_str(), nullptr, FALSE));
-    return "one.pid == " + std::to_string(getpid()) + " && plain(one.caption) == plain(decodeURIComponent('" +
-           title.get() + "'))";
+    return isOwn() + " && plain(one.caption) == plain(decodeURIComponent('" + title.get() + "'))";
+}
+
+/// Gives the focus back to who had it, where KWin gives it to that window of ours as it appears; and to the
+/// last window that is none of ours where KWin does so as another one of ours goes. Its user may give it.
+std::string guardOf(const OwnWindow& window) {
+    return withFunctions("function isOwn(one) { return " + isOwn() +
+                         "; }\n"
+                         "function isGuarded(one) { return " +
+                         conditionOf(window) +
+                         "; }\n"
+                         // The last window that had it, the last of others', and whether the former was ours.
+                         "var before = active();\n"
+                         "var other = before && !isOwn(before) ? before : null;\n"
+                         "var wasOwn = before && isOwn(before);\n"
+                         // Told of only when it may have the focus already.
+                         "var added = {};\n"
+                         "function nameOf(one) { return String(one.internalId); }\n"
+                         "all.forEach(function (one) { added[nameOf(one)] = true; });\n"
+                         "(workspace.windowAdded || workspace.clientAdded).connect(function (one) {\n"
+                         "  added[nameOf(one)] = true;\n"
+                         "});\n"
+                         "(workspace.windowRemoved || workspace.clientRemoved).connect(function (one) {\n"
+                         "  delete added[nameOf(one)];\n"
+                         "  if (one === before) before = null;\n"
+                         "  if (one === other) other = null;\n"
+                         "});\n"
+                         "(workspace.windowActivated || workspace.clientActivated).connect(function (one) {\n"
+                         "  if (!one) return;\n"
+                         "  if (isGuarded(one)) {\n"
+                         "    var right = !added[nameOf(one)] ? before : wasOwn ? other : null;\n"
+                         "    wasOwn = false;\n"
+                         "    if (right) activate(right);\n"
+                         "    return;\n"
+                         "  }\n"
+                         "  before = one;\n"
+                         "  wasOwn = isOwn(one);\n"
+                         "  if (!wasOwn) other = one;\n"
+                         "});");
 }
 
 }  // namespace
@@ -118,4 +158,10 @@ bool KWinFocus::isElsewhere(const OwnWindow& hidden) {
 Result<void> KWinFocus::focus(const OwnWindow& window) {
     KWinScripts scripts(m_bus);
     return activateBy(scripts, conditionOf(window), window.count);
+}
+
+/// A KWin that runs no scripts gives it the focus.
+void KWinFocus::refuseFocus(const std::string& title) {
+    if (!m_guard) m_guard = std::make_unique<KWinScripts>(m_bus);
+    [[maybe_unused]] const auto kept = m_guard->keep(guardOf({.title = title}));
 }

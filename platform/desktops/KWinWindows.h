@@ -39,7 +39,10 @@ class KWinFocus final : public CompositorFocus {
 
     bool isElsewhere(const OwnWindow& hidden) override;
     Result<void> focus(const OwnWindow& window) override;
+    /// Nor when another window of ours goes.
+    void refuseFocus(const std::string& title) override;
 
   private:
     std::string m_bus;
+    std::unique_ptr<KWinScripts> m_guard;
 };

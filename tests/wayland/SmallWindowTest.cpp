@@ -23,12 +23,31 @@ TEST_P(SmallWindowTest, comesWithoutTakingTheKeysFromWhoIsTypedInto) {
     EXPECT_EQ(target->text("keysmore"), "keysmore");
 }
 
+TEST_P(SmallWindowTest, takesNoneWhenAnotherWindowOfTheProgramGoes) {
+    const auto session = GetParam().open();
+    const auto target = session->openTarget(GetParam().target);
+    session->launch("keystroke \"x\"");
+    ASSERT_TRUE(eventually([&] { return session->shows("Keyrill"); }, std::chrono::seconds(60)))
+        << session->log();
+    session->awaitRest();
+    session->strokeHotKey(xkey::r);
+    ASSERT_TRUE(eventually([&] { return session->compositor().hasFocus("Record Here"); }));
+    session->strokeHotKey(xkey::s);
+    ASSERT_TRUE(eventually([&] { return !session->shows("Record Here"); }));
+    session->awaitRest();
+    session->hands().type("keys");
+    EXPECT_EQ(target->text("keys"), "keys");
+}
+
 const Place swayWithoutX{"swayWithoutX",
                          [] { return place::onSway({.hasSessionBus = true, .hasXServer = false}); },
                          Target::Kind::terminal};
 
-INSTANTIATE_TEST_SUITE_P(Sessions, SmallWindowTest, testing::Values(place::sway, swayWithoutX, place::kwin),
-                         nameOf);
+const Place kwinWithoutX{"kwinWithoutX", [] { return place::onKWin({.hasXServer = false}); },
+                         Target::Kind::qt};
+
+INSTANTIATE_TEST_SUITE_P(Sessions, SmallWindowTest,
+                         testing::Values(place::sway, swayWithoutX, place::kwin, kwinWithoutX), nameOf);
 
 /// With an X server, and without one.
 class SwaySmallWindowTest : public SwayProgram, public testing::TestWithParam<bool> {
