@@ -70,7 +70,7 @@ SwayCovers::Answer SwayCovers::isDue(const Json& tree, Lifted& lifted) {
     if (numberOf(tree, lifted.window)) return Answer::notYet;
     const Json* const cover = nodeOf(tree, lifted.number);
     const Json* const focused = focusedBeside(tree, lifted.number);
-    if (cover == nullptr || fillOf(*cover) != SwayFill::nothing || focused == nullptr) return Answer::no;
+    if (cover == nullptr || focused == nullptr) return Answer::no;
     // On all screens it would be seen on other workspaces too.
     if (lifted.fill == SwayFill::allScreens && !hasFocus(tree, numberOf(*focused))) return Answer::no;
     if (isOwn(*focused)) {
