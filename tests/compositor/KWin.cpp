@@ -196,6 +196,11 @@ void KWin::makeFullScreen(const std::string& title) const {
         ") one.fullScreen = true; });\nsay('');");
 }
 
+bool KWin::isMinimised(const std::string& title) const {
+    return run("say(workspace.clientList().some(function (one) { return one.caption == " + quoted(title) +
+               " && one.minimized; }));") == "true";
+}
+
 void KWin::close(const std::string& title) const {
     run("workspace.clientList().forEach(function (one) { if (one.caption == " + quoted(title) +
         ") one.closeWindow(); });\nsay('');");

@@ -47,6 +47,8 @@ class KWin final : public Compositor {
     bool focus(const std::string& title) const override;
     void close(const std::string& title) const override;
     void makeFullScreen(const std::string& title) const;
+    /// Whether the window with that title is there, but off the screen.
+    bool isMinimised(const std::string& title) const;
     bool hasFocus(const std::string& title) const override { return front() == title; }
     bool shows(const std::string& title) const override;
     /// The title of the window that has the focus, empty without one and where a layer has it.

@@ -74,12 +74,12 @@ bool Sway::hasFocus(const std::string& title) const {
 
 bool Sway::shows(const std::string& title) const { return tries({"[title=\"^" + title + "$\"] nop"}); }
 
-bool Sway::fillsScreen(const std::string& title) const {
+int Sway::fillOf(const std::string& title) const {
     const std::string tree = message({"-t", "get_tree"});
     const std::string mode = "\"fullscreen_mode\": ";
     const std::size_t window = tree.find("\"name\": \"" + title + "\"");
     const std::size_t found = window == std::string::npos ? window : tree.find(mode, window);
-    return found != std::string::npos && tree.at(found + mode.size()) != '0';
+    return found == std::string::npos ? 0 : std::stoi(tree.substr(found + mode.size()));
 }
 
 bool Sway::hasLayerKeys() const {

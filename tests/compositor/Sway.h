@@ -29,7 +29,9 @@ class Sway final : public Compositor {
     bool hasFocus(const std::string& title) const override;
     bool shows(const std::string& title) const override;
     /// Whether the window with that title, which has no others in it, fills the screen or its workspace.
-    bool fillsScreen(const std::string& title) const;
+    bool fillsScreen(const std::string& title) const { return fillOf(title) != 0; }
+    /// What it fills, as sway numbers it: nothing (0), its workspace (1), all screens (2).
+    int fillOf(const std::string& title) const;
     /// Whether keys go to a layer or a locker, to no window.
     bool hasLayerKeys() const;
     /// The compositor's socket, an absolute path.

@@ -9,11 +9,12 @@
 namespace {
 
 const char* const recordHere = "Record Here";
+const char* const macros = "Macros";
 
 /// With an X server, and without one.
 class FullScreenTest : public SwayProgram, public testing::TestWithParam<bool> {
   protected:
-    FullScreenTest() : SwayProgram({.hasXServer = GetParam()}) {}
+    FullScreenTest() : SwayProgram({.hasSessionBus = true, .hasXServer = GetParam()}) {}
 
     void fillScreenWith(const Foot& foot, const std::string& how = "enable") const {
         foot.focus();
@@ -27,6 +28,11 @@ class FullScreenTest : public SwayProgram, public testing::TestWithParam<bool> {
     void stopRecording() {
         strokeHotKey(xkey::s);
         ASSERT_TRUE(eventually([this] { return !shows(recordHere); }));
+    }
+    /// Whether it does so once the program has nothing more to do after a stop.
+    bool fillsScreenAtRest(const Foot& foot) const {
+        awaitRest();
+        return fillsScreen(foot);
     }
     bool fillsScreen(const Foot& foot) const { return sway().fillsScreen(foot.program()); }
     bool fillsScreenAgain(const Foot& foot) const {
@@ -68,6 +74,19 @@ TEST_P(FullScreenTest, comesBackOnAllScreens) {
     EXPECT_FALSE(fillsScreen(foot));
     stopRecording();
     EXPECT_TRUE(fillsScreenAgain(foot));
+    EXPECT_EQ(sway().fillOf(foot.program()), 2);
+}
+
+TEST_P(FullScreenTest, onAllScreensStaysAwayWhereItsUserIsElsewhere) {
+    start("");
+    const Foot foot(sway());
+    fillScreenWith(foot, "enable global");
+    startRecording();
+    sway().message({"workspace 2"});
+    const Foot other(sway());
+    stopRecording();
+    EXPECT_FALSE(fillsScreenAtRest(foot));
+    EXPECT_TRUE(sway().hasFocus(other.program()));
 }
 
 TEST_P(FullScreenTest, comesBackWhenTheProgramEnds) {
@@ -78,6 +97,33 @@ TEST_P(FullScreenTest, comesBackWhenTheProgramEnds) {
     program().signal(SIGTERM);
     EXPECT_EQ(program().wait(), 0);
     EXPECT_TRUE(fillsScreen(foot));
+}
+
+TEST_P(FullScreenTest, staysAwayWhereTheProgramEndsAndItsUserHasGoneOn) {
+    start("");
+    const Foot foot(sway());
+    const Foot other(sway());
+    fillScreenWith(foot);
+    startRecording();
+    other.focus();
+    program().signal(SIGTERM);
+    EXPECT_EQ(program().wait(), 0);
+    EXPECT_FALSE(fillsScreen(foot));
+    EXPECT_TRUE(sway().hasFocus(other.program()));
+}
+
+TEST_P(FullScreenTest, comesBackWhenTheLastWindowOfThoseInFrontOfItGoes) {
+    start("");
+    const Foot foot(sway());
+    fillScreenWith(foot);
+    startRecording();
+    EXPECT_EQ(ask("macros"), "");
+    ASSERT_TRUE(eventually([this] { return sway().hasFocus(macros); }));
+    stopRecording();
+    EXPECT_FALSE(fillsScreenAtRest(foot));
+    EXPECT_TRUE(sway().hasFocus(macros));
+    sway().close(macros);
+    EXPECT_TRUE(fillsScreenAgain(foot));
 }
 
 TEST_P(FullScreenTest, comesBackAfterAQuestionOfAMacro) {
@@ -113,7 +159,7 @@ TEST_P(FullScreenTest, staysAwayWhereItsUserHasGoneOnToAnotherWindow) {
     startRecording();
     other.focus();
     stopRecording();
-    EXPECT_FALSE(eventually([&] { return fillsScreen(foot); }, std::chrono::milliseconds(300)));
+    EXPECT_FALSE(fillsScreenAtRest(foot));
     EXPECT_TRUE(sway().hasFocus(other.program()));
 }
 
@@ -127,8 +173,21 @@ TEST_P(FullScreenTest, staysAwayWhereItsUserHasGivenTheScreenToAnotherWindow) {
     foot.focus();
     fillScreenWith(other);
     stopRecording();
-    EXPECT_FALSE(eventually([&] { return fillsScreen(foot); }, std::chrono::milliseconds(300)));
+    EXPECT_FALSE(fillsScreenAtRest(foot));
     EXPECT_TRUE(fillsScreen(other));
+}
+
+TEST_P(FullScreenTest, staysAwayWhereItsUserHasGivenAllScreensToAnotherWindow) {
+    start("");
+    const Foot foot(sway());
+    fillScreenWith(foot);
+    startRecording();
+    sway().message({"workspace 2"});
+    const Foot other(sway());
+    fillScreenWith(other, "enable global");
+    stopRecording();
+    EXPECT_FALSE(fillsScreenAtRest(foot));
+    EXPECT_EQ(sway().fillOf(other.program()), 2);
 }
 
 TEST_P(FullScreenTest, staysAwayWhereItsUserHasEndedIt) {
@@ -139,7 +198,7 @@ TEST_P(FullScreenTest, staysAwayWhereItsUserHasEndedIt) {
     fillScreenWith(foot);
     sway().message({"fullscreen disable"});
     stopRecording();
-    EXPECT_FALSE(eventually([&] { return fillsScreen(foot); }, std::chrono::milliseconds(300)));
+    EXPECT_FALSE(fillsScreenAtRest(foot));
 }
 
 TEST_P(FullScreenTest, thatNeverWasIsNotMade) {
@@ -148,7 +207,7 @@ TEST_P(FullScreenTest, thatNeverWasIsNotMade) {
     foot.focus();
     startRecording();
     stopRecording();
-    EXPECT_FALSE(eventually([&] { return fillsScreen(foot); }, std::chrono::milliseconds(300)));
+    EXPECT_FALSE(fillsScreenAtRest(foot));
 }
 
 /// Hot keys are off while it is open, so that nobody is to overlook it.
@@ -175,7 +234,18 @@ TEST_P(FullScreenTest, ofRecordHereItselfEndsWithTheRecording) {
     ASSERT_TRUE(sway().fillsScreen(recordHere));
     stopRecording();
     startRecording();
-    EXPECT_TRUE(eventually([this] { return !sway().fillsScreen(recordHere); }));
+    EXPECT_FALSE(sway().fillsScreen(recordHere));
+}
+
+TEST_P(FullScreenTest, ofRecordHereItselfEndsWhenItIsClosed) {
+    start("");
+    startRecording();
+    sway().message({"fullscreen enable"});
+    ASSERT_TRUE(sway().fillsScreen(recordHere));
+    sway().close(recordHere);
+    ASSERT_TRUE(eventually([this] { return !shows(recordHere); }));
+    startRecording();
+    EXPECT_FALSE(sway().fillsScreen(recordHere));
 }
 
 }  // namespace

@@ -79,15 +79,15 @@ TEST_P(SwaySmallWindowTest, comesToWhoStartsTheProgramAgainAndTakesNoKeys) {
     }
 }
 
-TEST_P(SwaySmallWindowTest, comesBackFromAmongTheMinimisedOnes) {
+/// Sway minimises nothing.
+class KWinSmallWindowTest : public KWinProgram, public testing::Test {};
+
+TEST_F(KWinSmallWindowTest, comesBackFromAmongTheMinimisedOnes) {
     start("");
-    sway().close("Keyrill");
-    sway().message({"workspace", "2"});
-    const Foot foot(sway());
-    startAgain();
-    EXPECT_TRUE(isHere());
-    hands().type("keys");
-    EXPECT_EQ(foot.typed(4), "keys");
+    kwin().close("Keyrill");
+    ASSERT_TRUE(eventually([this] { return kwin().isMinimised("Keyrill"); }));
+    EXPECT_EQ(outputOfUsers({KEYRILL_PRODUCT}), "");
+    EXPECT_TRUE(eventually([this] { return shows("Keyrill") && !kwin().isMinimised("Keyrill"); }));
 }
 
 }  // namespace
