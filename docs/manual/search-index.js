@@ -1580,13 +1580,15 @@ const manualIndex = [
 "preferences say so beside the field. A bell there is none. A screen locker that tells no ",
 "desktop of itself is known by the keyboard that no window has while a program of yours ",
 "runs that asks for passwords under its own name: plays end, and nothing of what is typed ",
-"into it is recorded. recording all windows, from the keyboards that keyrill-access opens ",
-"after a password recording where keys may not be seen what is typed into the window ",
-"\"Record Here\" hands and Escape during a play where the keyboards may be read hot keys ",
-"everywhere, by sway's bindings pressing keys all windows, by a virtual keyboard text any ",
-"character clipboard of scripts yes, by data control overlay and prompt above full-screen ",
-"windows, on a layer of the compositor's bringing windows to the front by sway tray status ",
-"notifiers keyrill --action yes"
+"into it is recorded. Starting Keyrill a second time brings its small window to the ",
+"workspace where you are; behind a window that fills the screen it stays, since it must ",
+"take neither the keys nor the screen. recording all windows, from the keyboards that ",
+"keyrill-access opens after a password recording where keys may not be seen what is typed ",
+"into the window \"Record Here\" hands and Escape during a play where the keyboards may be ",
+"read hot keys everywhere, by sway's bindings pressing keys all windows, by a virtual ",
+"keyboard text any character clipboard of scripts yes, by data control overlay and prompt ",
+"above full-screen windows, on a layer of the compositor's bringing windows to the front by ",
+"sway tray status notifiers keyrill --action yes"
 ]
 },
 {
