@@ -27,9 +27,8 @@ std::uint32_t SwayDesktop::group() {
 
 bool SwayDesktop::isElsewhere(const OwnWindow& hidden) {
     const auto tree = m_connection.ask(SwayConnection::Request::tree);
-    return tree && visitWindows(tree.value(), [&](const Json& node) {
-               return node["focused"].isTrue() && !isWindow(node, hidden);
-           });
+    const Json* const focused = tree ? focusedWindow(tree.value()) : nullptr;
+    return focused != nullptr && !isWindow(*focused, hidden);
 }
 
 Result<void> SwayDesktop::focus(const OwnWindow& window) {

@@ -3,7 +3,25 @@
 
 #include <unistd.h>
 
+#include <algorithm>
+
 namespace {
+
+/// Goes through all nodes below one, itself included, until `visit` says that it has seen enough.
+template <typename Visit>
+bool visitNodes(const Json& node, const Visit& visit) {
+    if (visit(node)) return true;
+    const auto visitBelow = [&](const Json& below) { return visitNodes(below, visit); };
+    return std::any_of(node["nodes"].items().begin(), node["nodes"].items().end(), visitBelow) ||
+           std::any_of(node["floating_nodes"].items().begin(), node["floating_nodes"].items().end(),
+                       visitBelow);
+}
+
+/// The same of windows alone, which belong to a process each.
+template <typename Visit>
+bool visitWindows(const Json& node, const Visit& visit) {
+    return visitNodes(node, [&](const Json& below) { return !below["pid"].isNull() && visit(below); });
+}
 
 bool isWorkspace(const Json& node) { return node["type"].text() == "workspace"; }
 
@@ -54,10 +72,18 @@ std::optional<std::int64_t> numberOf(const Json& tree, const OwnWindow& window) 
     return count >= window.count ? std::optional(number) : std::nullopt;
 }
 
-bool hasFocus(const Json& tree, std::int64_t number) {
-    return visitWindows(tree, [number](const Json& window) {
-        return window["focused"].isTrue() && numberOf(window) == number;
+const Json* focusedWindow(const Json& tree) {
+    const Json* focused = nullptr;
+    visitWindows(tree, [&](const Json& window) {
+        if (window["focused"].isTrue()) focused = &window;
+        return focused != nullptr;
     });
+    return focused;
+}
+
+bool hasFocus(const Json& tree, std::int64_t number) {
+    const Json* const focused = focusedWindow(tree);
+    return focused != nullptr && numberOf(*focused) == number;
 }
 
 const Json* focusedBeside(const Json& tree, std::int64_t number) {

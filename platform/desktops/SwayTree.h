@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <optional>
 
@@ -13,22 +12,6 @@
 
 /// As the tree has it in `fullscreen_mode`. Workspaces always fill theirs.
 enum class SwayFill { nothing = 0, workspace = 1, allScreens = 2 };
-
-/// Goes through all nodes below one, itself included, until `visit` says that it has seen enough.
-template <typename Visit>
-bool visitNodes(const Json& node, const Visit& visit) {
-    if (visit(node)) return true;
-    const auto visitBelow = [&](const Json& below) { return visitNodes(below, visit); };
-    return std::any_of(node["nodes"].items().begin(), node["nodes"].items().end(), visitBelow) ||
-           std::any_of(node["floating_nodes"].items().begin(), node["floating_nodes"].items().end(),
-                       visitBelow);
-}
-
-/// The same of windows alone, which belong to a process each.
-template <typename Visit>
-bool visitWindows(const Json& node, const Visit& visit) {
-    return visitNodes(node, [&](const Json& below) { return !below["pid"].isNull() && visit(below); });
-}
 
 std::int64_t numberOf(const Json& node);
 SwayFill fillOf(const Json& node);
@@ -43,6 +26,8 @@ bool isWindow(const Json& node, const OwnWindow& window);
 /// The number of the node that the window is; of several, of the one that came last, once all have come.
 std::optional<std::int64_t> numberOf(const Json& tree, const OwnWindow& window);
 
+/// Null where no window has it.
+const Json* focusedWindow(const Json& tree);
 bool hasFocus(const Json& tree, std::int64_t number);
 /// The window that has the focus on the workspace of a node, or had it last there; null without one.
 const Json* focusedBeside(const Json& tree, std::int64_t number);

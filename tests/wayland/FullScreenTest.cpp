@@ -29,6 +29,15 @@ class FullScreenTest : public SwayProgram, public testing::TestWithParam<bool> {
         strokeHotKey(xkey::s);
         ASSERT_TRUE(eventually([this] { return !shows(recordHere); }));
     }
+    void recordInFrontOf(const Foot& foot, const std::string& how = "enable") {
+        fillScreenWith(foot, how);
+        startRecording();
+    }
+    void recordInFullScreen() {
+        startRecording();
+        sway().message({"fullscreen enable"});
+        ASSERT_TRUE(sway().fillsScreen(recordHere));
+    }
     /// Whether it does so once the program has nothing more to do after a stop.
     bool fillsScreenAtRest(const Foot& foot) const {
         awaitRest();
@@ -60,8 +69,7 @@ TEST_P(FullScreenTest, comesBackWhenARecordingEnds) {
 TEST_P(FullScreenTest, comesBackWhenTheWindowIsClosed) {
     start("");
     const Foot foot(sway());
-    fillScreenWith(foot);
-    startRecording();
+    recordInFrontOf(foot);
     sway().close(recordHere);
     EXPECT_TRUE(fillsScreenAgain(foot));
 }
@@ -69,8 +77,7 @@ TEST_P(FullScreenTest, comesBackWhenTheWindowIsClosed) {
 TEST_P(FullScreenTest, comesBackOnAllScreens) {
     start("");
     const Foot foot(sway());
-    fillScreenWith(foot, "enable global");
-    startRecording();
+    recordInFrontOf(foot, "enable global");
     EXPECT_FALSE(fillsScreen(foot));
     stopRecording();
     EXPECT_TRUE(fillsScreenAgain(foot));
@@ -80,8 +87,7 @@ TEST_P(FullScreenTest, comesBackOnAllScreens) {
 TEST_P(FullScreenTest, onAllScreensStaysAwayWhereItsUserIsElsewhere) {
     start("");
     const Foot foot(sway());
-    fillScreenWith(foot, "enable global");
-    startRecording();
+    recordInFrontOf(foot, "enable global");
     sway().message({"workspace 2"});
     const Foot other(sway());
     stopRecording();
@@ -92,8 +98,7 @@ TEST_P(FullScreenTest, onAllScreensStaysAwayWhereItsUserIsElsewhere) {
 TEST_P(FullScreenTest, comesBackWhenTheProgramEnds) {
     start("");
     const Foot foot(sway());
-    fillScreenWith(foot);
-    startRecording();
+    recordInFrontOf(foot);
     program().signal(SIGTERM);
     EXPECT_EQ(program().wait(), 0);
     EXPECT_TRUE(fillsScreen(foot));
@@ -103,8 +108,7 @@ TEST_P(FullScreenTest, staysAwayWhereTheProgramEndsAndItsUserHasGoneOn) {
     start("");
     const Foot foot(sway());
     const Foot other(sway());
-    fillScreenWith(foot);
-    startRecording();
+    recordInFrontOf(foot);
     other.focus();
     program().signal(SIGTERM);
     EXPECT_EQ(program().wait(), 0);
@@ -115,8 +119,7 @@ TEST_P(FullScreenTest, staysAwayWhereTheProgramEndsAndItsUserHasGoneOn) {
 TEST_P(FullScreenTest, comesBackWhenTheLastWindowOfThoseInFrontOfItGoes) {
     start("");
     const Foot foot(sway());
-    fillScreenWith(foot);
-    startRecording();
+    recordInFrontOf(foot);
     EXPECT_EQ(ask("macros"), "");
     ASSERT_TRUE(eventually([this] { return sway().hasFocus(macros); }));
     stopRecording();
@@ -140,8 +143,7 @@ TEST_P(FullScreenTest, comesBackAfterAQuestionOfAMacro) {
 TEST_P(FullScreenTest, comesBackWhileItsUserIsElsewhereAndLeavesHimThere) {
     start("");
     const Foot foot(sway());
-    fillScreenWith(foot);
-    startRecording();
+    recordInFrontOf(foot);
     sway().message({"workspace 2"});
     const Foot other(sway());
     stopRecording();
@@ -155,8 +157,7 @@ TEST_P(FullScreenTest, staysAwayWhereItsUserHasGoneOnToAnotherWindow) {
     start("");
     const Foot foot(sway());
     const Foot other(sway());
-    fillScreenWith(foot);
-    startRecording();
+    recordInFrontOf(foot);
     other.focus();
     stopRecording();
     EXPECT_FALSE(fillsScreenAtRest(foot));
@@ -167,8 +168,7 @@ TEST_P(FullScreenTest, staysAwayWhereItsUserHasGivenTheScreenToAnotherWindow) {
     start("");
     const Foot foot(sway());
     const Foot other(sway());
-    fillScreenWith(foot);
-    startRecording();
+    recordInFrontOf(foot);
     fillScreenWith(other);
     foot.focus();
     fillScreenWith(other);
@@ -180,8 +180,7 @@ TEST_P(FullScreenTest, staysAwayWhereItsUserHasGivenTheScreenToAnotherWindow) {
 TEST_P(FullScreenTest, staysAwayWhereItsUserHasGivenAllScreensToAnotherWindow) {
     start("");
     const Foot foot(sway());
-    fillScreenWith(foot);
-    startRecording();
+    recordInFrontOf(foot);
     sway().message({"workspace 2"});
     const Foot other(sway());
     fillScreenWith(other, "enable global");
@@ -193,8 +192,7 @@ TEST_P(FullScreenTest, staysAwayWhereItsUserHasGivenAllScreensToAnotherWindow) {
 TEST_P(FullScreenTest, staysAwayWhereItsUserHasEndedIt) {
     start("");
     const Foot foot(sway());
-    fillScreenWith(foot);
-    startRecording();
+    recordInFrontOf(foot);
     fillScreenWith(foot);
     sway().message({"fullscreen disable"});
     stopRecording();
@@ -229,9 +227,7 @@ TEST_P(FullScreenTest, makesRoomForThePreferencesOfTheFirstStart) {
 
 TEST_P(FullScreenTest, ofRecordHereItselfEndsWithTheRecording) {
     start("");
-    startRecording();
-    sway().message({"fullscreen enable"});
-    ASSERT_TRUE(sway().fillsScreen(recordHere));
+    recordInFullScreen();
     stopRecording();
     startRecording();
     EXPECT_FALSE(sway().fillsScreen(recordHere));
@@ -239,9 +235,7 @@ TEST_P(FullScreenTest, ofRecordHereItselfEndsWithTheRecording) {
 
 TEST_P(FullScreenTest, ofRecordHereItselfEndsWhenItIsClosed) {
     start("");
-    startRecording();
-    sway().message({"fullscreen enable"});
-    ASSERT_TRUE(sway().fillsScreen(recordHere));
+    recordInFullScreen();
     sway().close(recordHere);
     ASSERT_TRUE(eventually([this] { return !shows(recordHere); }));
     startRecording();

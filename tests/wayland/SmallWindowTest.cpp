@@ -7,36 +7,41 @@
 
 namespace {
 
-using SmallWindowTest = testing::TestWithParam<Place>;
+class SmallWindowTest : public testing::TestWithParam<Place> {
+  protected:
+    /// Which comes three seconds after the start.
+    void awaitWindow() const {
+        m_session->launch("keystroke \"x\"");
+        ASSERT_TRUE(eventually([this] { return m_session->shows("Keyrill"); }, std::chrono::seconds(60)))
+            << m_session->log();
+    }
+    ProgramSession& session() const { return *m_session; }
+    Target& target() const { return *m_target; }
+
+  private:
+    std::unique_ptr<ProgramSession> m_session = GetParam().open();
+    std::unique_ptr<Target> m_target = m_session->openTarget(GetParam().target);
+};
 
 TEST_P(SmallWindowTest, comesWithoutTakingTheKeysFromWhoIsTypedInto) {
-    const auto session = GetParam().open();
-    const auto target = session->openTarget(GetParam().target);
-    session->launch("keystroke \"x\"");
-    // It comes three seconds after the start.
-    ASSERT_TRUE(eventually([&] { return session->shows("Keyrill"); }, std::chrono::seconds(60)))
-        << session->log();
-    session->hands().type("keys");
-    EXPECT_EQ(target->text("keys"), "keys");
-    session->awaitRest();
-    session->hands().type("more");
-    EXPECT_EQ(target->text("keysmore"), "keysmore");
+    awaitWindow();
+    session().hands().type("keys");
+    EXPECT_EQ(target().text("keys"), "keys");
+    session().awaitRest();
+    session().hands().type("more");
+    EXPECT_EQ(target().text("keysmore"), "keysmore");
 }
 
 TEST_P(SmallWindowTest, takesNoneWhenAnotherWindowOfTheProgramGoes) {
-    const auto session = GetParam().open();
-    const auto target = session->openTarget(GetParam().target);
-    session->launch("keystroke \"x\"");
-    ASSERT_TRUE(eventually([&] { return session->shows("Keyrill"); }, std::chrono::seconds(60)))
-        << session->log();
-    session->awaitRest();
-    session->strokeHotKey(xkey::r);
-    ASSERT_TRUE(eventually([&] { return session->compositor().hasFocus("Record Here"); }));
-    session->strokeHotKey(xkey::s);
-    ASSERT_TRUE(eventually([&] { return !session->shows("Record Here"); }));
-    session->awaitRest();
-    session->hands().type("keys");
-    EXPECT_EQ(target->text("keys"), "keys");
+    awaitWindow();
+    session().awaitRest();
+    session().strokeHotKey(xkey::r);
+    ASSERT_TRUE(eventually([this] { return session().compositor().hasFocus("Record Here"); }));
+    session().strokeHotKey(xkey::s);
+    ASSERT_TRUE(eventually([this] { return !session().shows("Record Here"); }));
+    session().awaitRest();
+    session().hands().type("keys");
+    EXPECT_EQ(target().text("keys"), "keys");
 }
 
 const Place swayWithoutX{"swayWithoutX",
